@@ -1,0 +1,7 @@
+#include <SysUI/ICommand.h>
+
+namespace SysUI {
+
+ICommand::~ICommand() = default;
+
+}  // namespace SysUI

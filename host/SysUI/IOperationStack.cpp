@@ -1,0 +1,7 @@
+#include <SysUI/IOperationStack.h>
+
+namespace SysUI {
+
+IOperationStack::~IOperationStack() = default;
+
+}  // namespace SysUI

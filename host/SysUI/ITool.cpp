@@ -1,0 +1,7 @@
+#include <SysUI/ITool.h>
+
+namespace SysUI {
+
+ITool::~ITool() = default;
+
+}  // namespace SysUI

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <SysUtility/Export.h>
+
+#include <QByteArray>
+#include <QString>
+
+namespace SysUtility {
+
+/// How every file of ours is written: whole or not at all.
+class SYSUTILITY_EXPORT FileSaver {
+public:
+  /// Replaces the file at `path`, or makes it. On failure nothing at `path` has changed, and the answer is a translated
+  /// sentence with the file, the cause and what to do; an empty text means that the file is safely on the disk.
+  static QString save(QString const& path, QByteArray const& content);
+};
+
+}  // namespace SysUtility

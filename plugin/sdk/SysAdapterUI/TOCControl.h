@@ -1,0 +1,28 @@
+#pragma once
+
+#include <SysAdapterUI/Export.h>
+#include <SysCarto/IKdxContents.h>
+
+#include <QWidget>
+
+#include <memory>
+
+namespace SysAdapterUI {
+
+/// The table of contents: the maps of the contents that it is bound to, with their layers.
+class SYSADAPTERUI_EXPORT TOCControl : public QWidget {
+  Q_OBJECT
+
+public:
+  explicit TOCControl(QWidget* parent);
+  ~TOCControl() override;
+
+  /// Shows the maps of these contents, borrowed; null shows none.
+  void SetBuddy(SysCarto::IKdxContents* contents);
+
+private:
+  struct Private;
+  std::unique_ptr<Private> d;
+};
+
+}  // namespace SysAdapterUI

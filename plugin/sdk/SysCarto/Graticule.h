@@ -1,0 +1,29 @@
+#pragma once
+
+#include <SysCarto/IMapGrid.h>
+
+#include <memory>
+
+namespace SysCarto {
+
+/// A grid of meridians and parallels.
+class SYSCARTO_EXPORT Graticule final : public IMapGrid {
+public:
+  Graticule();
+  Graticule(Graticule const&);
+  ~Graticule() override;
+
+  QString GetName() const override;
+  void SetName(QString const& name) override;
+  void Draw(QPainter& painter, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
+            SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+            SysUtility::_ptr_t<MapFrameElement> const& frame) override;
+  double GetMargin() const override;
+  SysUtility::_ptr_t<IMapGrid> Clone() const override;
+
+private:
+  struct Private;
+  std::unique_ptr<Private> d;
+};
+
+}  // namespace SysCarto

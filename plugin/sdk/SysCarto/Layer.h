@@ -1,0 +1,52 @@
+#pragma once
+
+#include <SysCarto/Export.h>
+#include <SysDisplay/DisplayTransformation.h>
+#include <SysUI/TrackerCancel.h>
+
+#include <QString>
+
+#include <memory>
+
+class QPainter;
+
+namespace SysCarto {
+
+/// A layer of a map. It holds its data projected to the map's coordinate system.
+class SYSCARTO_EXPORT Layer : public SysUtility::CRef {
+public:
+  ~Layer() override;
+
+  /// 2 is a feature layer, 3 a raster layer.
+  virtual int GetType() const = 0;
+  virtual bool IsVisible() const;
+
+  // A layer shows strictly between its scale limits, the smallest and the largest scale denominator; 0 and 0 is no
+  // limit. The two are set together, so that never only one of them is 0.
+  virtual double GetMinScale() const;
+  virtual double GetMaxScale() const;
+
+  /// Draws what the transformation shows of the layer, in map units. Phase 1 draws features; other phases draw nothing.
+  /// Labels are not drawn: they are elements (`FeatureLayer::GetAnnotationElements`). Sets the render hints it wants.
+  virtual void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+                    int phase, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) = 0;
+
+  // Beyond what the commands of a plug-in need.
+
+  QString GetName() const;
+  void SetName(QString const& name);
+  void SetVisible(bool visible);
+
+  /// 0 for a side without a limit; the other side then keeps its meaning.
+  void SetScaleRange(double minDenominator, double maxDenominator);
+
+protected:
+  Layer();
+  Layer(Layer const&) = delete;
+
+private:
+  struct Private;
+  std::unique_ptr<Private> d;
+};
+
+}  // namespace SysCarto

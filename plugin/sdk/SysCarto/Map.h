@@ -1,0 +1,60 @@
+#pragma once
+
+#include <SysCarto/ActiveView.h>
+#include <SysCarto/Layer.h>
+
+#include <QList>
+#include <QString>
+
+namespace SysCarto {
+
+/// A map: layers in one coordinate system, and graphics on top of them. As a view it shows itself alone.
+///
+/// Its transformation has the exact aspect of the frame on paper, whatever window shows it. The map scale is a value of
+/// the map, from its extent and the size of the frame, with ground metres taken at the map's centre.
+class SYSCARTO_EXPORT Map final : public ActiveView {
+public:
+  Map();
+  ~Map() override;
+
+  /// Maps the extent onto the frame, measured in micrometres of paper. Drawing sets a device frame on a clone.
+  SysUtility::_ptr_t<SysDisplay::DisplayTransformation> GetDisplayTransformation() const override;
+
+  virtual QString const& GetName() const;
+  virtual void SetName(QString const& name);
+  virtual int GetLayerCount() const;
+
+  /// Layers in drawing order, 0 drawn first; empty where there is no layer of that index.
+  virtual SysUtility::_ptr_t<Layer> GetLayer(int index) const;
+  virtual QList<SysUtility::_ptr_t<Layer>> const& GetLayers() const;
+
+  SysUtility::_ptr_t<SysGeometry::Envelope> GetExtent() const override;
+  SysUtility::_ptr_t<Map> GetFocusMap() const override;
+  IElementContainer* GetGraphicsContainer() const override;
+
+  // Beyond what the commands of a plug-in need.
+
+  /// Appends a layer on top. It must hold its data in the map's coordinate system.
+  void AddLayer(SysUtility::_ptr_t<Layer> const& layer);
+
+  /// The coordinate system, as an authority's code ("EPSG:8857"), WKT or a PROJ text; empty for plain coordinates.
+  QString GetCoordinateSystem() const;
+
+  /// Set before layers are added: they are projected when they are opened.
+  void SetCoordinateSystem(QString const& definition);
+
+  /// The bounds as they were set, before they are fitted to the frame; a document stores these.
+  SysGeometry::Envelope GetStoredBounds() const;
+
+  /// The size of the data frame on paper, told by the frame that is on the page.
+  void setFrameSize(double widthCm, double heightCm);
+
+protected:
+  void applyExtent(SysGeometry::Envelope const& extent) override;
+
+private:
+  struct Private;
+  std::unique_ptr<Private> d;
+};
+
+}  // namespace SysCarto

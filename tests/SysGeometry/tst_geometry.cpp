@@ -1,0 +1,217 @@
+#include "host/SysGeometry/OgrBridge.h"
+
+#include <SysGeometry/Envelope.h>
+#include <SysGeometry/MultiPolyline.h>
+#include <SysGeometry/Point.h>
+#include <SysGeometry/Polygon.h>
+#include <SysGeometry/Polyline.h>
+
+#include <QtTest>
+
+#include <cpl_error.h>
+#include <ogr_geometry.h>
+
+#include <cmath>
+#include <limits>
+#include <utility>
+
+using namespace SysGeometry;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+using GeometryPtr = _ptr_t<Geometry>;
+Q_DECLARE_METATYPE(GeometryPtr)
+
+namespace {
+
+double const noNumber = std::numeric_limits<double>::quiet_NaN();
+
+GeometryPtr point(double x, double y) { return make<Point>(x, y, 0.0); }
+GeometryPtr line(QVector<QPointF> points) { return make<Polyline>(points); }
+GeometryPtr area(QVector<QVector<QPointF>> rings) { return make<Polygon>(rings); }
+GeometryPtr rectangle(double xmin, double ymin, double xmax, double ymax) {
+  return make<Envelope>(xmin, ymin, xmax, ymax);
+}
+QVector<QPointF> square(double from, double to) { return {{from, from}, {to, from}, {to, to}, {from, to}}; }
+
+QVector<double> sides(_ptr_t<Envelope> const& envelope) {
+  QVector<double> sides(4);
+  envelope->QueryCoords(sides[0], sides[1], sides[2], sides[3]);
+  return sides;
+}
+
+int errorsPrinted = 0;
+void countError(CPLErr, CPLErrorNum, char const*) { ++errorsPrinted; }
+
+}  // namespace
+
+class GeometryTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() { CPLSetErrorHandler(countError); }
+  void cleanup() { QCOMPARE(std::exchange(errorsPrinted, 0), 0); }
+
+  void anEnvelopeMovesAndGrows() {
+    Envelope envelope(0, 0, 10, 20);
+    envelope.Expand(0.9, 1.1, true);
+    QCOMPARE(envelope.GetWidth(), 9.0);
+    QCOMPARE(envelope.GetHeight(), 22.0);
+    envelope.CenterAt(3, 4);
+    QCOMPARE(sides(envelope.GetEnvelope()), (QVector<double>{-1.5, -7, 7.5, 15}));
+    envelope.Offset(1, -1);
+    envelope.Expand(0.5, 2, false);
+    QCOMPARE(sides(envelope.GetEnvelope()), (QVector<double>{-1, -10, 9, 16}));
+    QCOMPARE(envelope.GetAnchorPoint()->GetX(), 4.0);
+    QCOMPARE(envelope.GetAnchorPoint()->GetY(), 3.0);
+  }
+
+  void unorderedCornersStayAndStillGrowOutwards() {
+    Envelope envelope;
+    envelope.PutCoords(10, 20, 0, 0);
+    QCOMPARE(envelope.GetWidth(), -10.0);
+    envelope.Expand(1, 2, false);
+    envelope.CenterAt(make<Point>(0.0, 0.0, 0.0));
+    QCOMPARE(envelope.GetXMin(), 6.0);
+    QCOMPARE(envelope.GetYMax(), -12.0);
+    QCOMPARE(sides(envelope.GetEnvelope()), (QVector<double>{-6, -12, 6, 12}));
+    QCOMPARE(ptr_cast<Envelope>(envelope.Clone())->GetXMin(), 6.0);
+  }
+
+  void twoPointsSpanAnOrderedRectangle() {
+    auto const corner = make<Point>(5.0, 1.0, 0.0);
+    QCOMPARE(sides(make<Envelope>(corner, make<Point>(2.0, 8.0, 0.0))), (QVector<double>{2, 1, 5, 8}));
+    QVERIFY(Envelope(corner, nullptr).IsEmpty());
+    QVERIFY(Envelope(corner, make<Point>(noNumber, 8.0, 0.0)).IsEmpty());
+  }
+
+  void emptyGeometriesHaveAnEmptyEnvelopeAndNoAnchor_data() {
+    QTest::addColumn<GeometryPtr>("geometry");
+    QTest::newRow("envelope") << GeometryPtr(make<Envelope>());
+    QTest::newRow("point") << point(noNumber, 1);
+    QTest::newRow("polyline") << line({});
+    QTest::newRow("polyline of no number") << line({{noNumber, 1}});
+    QTest::newRow("multipolyline") << GeometryPtr(make<MultiPolyline>(QVector<QVector<QPointF>>{{}, {}}));
+    QTest::newRow("polygon") << area({});
+  }
+  void emptyGeometriesHaveAnEmptyEnvelopeAndNoAnchor() {
+    QFETCH(GeometryPtr, geometry);
+    QVERIFY(geometry->GetEnvelope()->IsEmpty());
+    QCOMPARE(geometry->GetEnvelope()->GetWidth(), 0.0);
+    QVERIFY(!geometry->GetAnchorPoint());
+    QVERIFY(!geometry->Intersects(rectangle(-100, -100, 100, 100)));
+    QVERIFY(!rectangle(-100, -100, 100, 100)->Contains(geometry));
+    QVERIFY(!geometry->Buffer(1));
+  }
+
+  void geometriesMeet_data() {
+    QTest::addColumn<GeometryPtr>("a");
+    QTest::addColumn<GeometryPtr>("b");
+    QTest::addColumn<bool>("meet");
+    auto const page = rectangle(0, 0, 10, 10);
+    QTest::newRow("rectangles that touch in a corner") << page << rectangle(10, 10, 20, 20) << true;
+    QTest::newRow("rectangles apart") << page << rectangle(10.1, 0, 20, 10) << false;
+    QTest::newRow("a flat rectangle inside") << page << rectangle(2, 5, 8, 5) << true;
+    QTest::newRow("a rectangle that is a point on the edge") << page << rectangle(10, 5, 10, 5) << true;
+    QTest::newRow("two flat rectangles that cross") << rectangle(0, 5, 9, 5) << rectangle(4, 0, 4, 9) << true;
+    QTest::newRow("a rectangle with unordered corners") << page << rectangle(8, 8, 2, 2) << true;
+    QTest::newRow("an empty rectangle") << page << GeometryPtr(make<Envelope>()) << false;
+    QTest::newRow("two empty rectangles") << GeometryPtr(make<Envelope>()) << GeometryPtr(make<Envelope>()) << false;
+    QTest::newRow("nothing") << page << GeometryPtr() << false;
+    QTest::newRow("a line through a rectangle") << page << line({{-5, 5}, {15, 5}}) << true;
+    QTest::newRow("a line past a corner") << page << line({{9, 12}, {12, 9}}) << false;
+    QTest::newRow("a line of one vertex") << page << line({{5, 5}}) << true;
+    QTest::newRow("a line of one vertex, repeated") << page << line({{5, 5}, {5, 5}}) << true;
+    QTest::newRow("a line against a flat rectangle") << line({{5, 0}, {5, 9}}) << rectangle(2, 5, 8, 5) << true;
+    QTest::newRow("a line with an infinite vertex") << page << line({{5, 5}, {HUGE_VAL, 5}}) << false;
+    QTest::newRow("a ring of two vertices") << page << area({{{1, 1}, {2, 2}}}) << false;
+    auto const ring = area({square(2, 8), square(0, 10)});
+    QTest::newRow("a point in a hole, whatever the order") << ring << point(5, 5) << false;
+    QTest::newRow("a point beside the hole") << ring << point(1, 5) << true;
+    auto const island = area({square(4, 6), square(0, 10), square(2, 8)});
+    QTest::newRow("a point on an island") << island << point(5, 5) << true;
+    QTest::newRow("a point around the island") << island << point(3, 5) << false;
+    auto const crossing = area({square(0, 6), square(4, 10)});
+    QTest::newRow("a point where two rings cover each other") << crossing << point(5, 5) << false;
+    QTest::newRow("a point in one of two rings") << crossing << point(8, 8) << true;
+    auto const bow = area({{{0, 0}, {10, 10}, {10, 0}, {0, 10}}});
+    QTest::newRow("a point in a wing of a bow") << bow << point(9, 5) << true;
+    QTest::newRow("a point between the wings") << bow << point(5, 9) << false;
+    auto const spike = area({{{0, 0}, {10, 0}, {20, 0}, {10, 0}, {10, 10}, {0, 10}}});
+    QTest::newRow("a point in an area with a spike") << spike << point(5, 5) << true;
+    QTest::newRow("a point on the spike") << spike << point(15, 0) << false;
+  }
+  void geometriesMeet() {
+    QFETCH(GeometryPtr, a);
+    QFETCH(GeometryPtr, b);
+    QTEST(a->Intersects(b), "meet");
+    if (b) QTEST(b->Intersects(a), "meet");
+  }
+
+  void equalMeansTheSamePoints_data() {
+    QTest::addColumn<GeometryPtr>("a");
+    QTest::addColumn<GeometryPtr>("b");
+    QTest::addColumn<bool>("equal");
+    auto const page = rectangle(0, 0, 10, 10);
+    QTest::newRow("rectangle and ring, other start and sense")
+        << page << area({{{10, 10}, {10, 0}, {0, 0}, {0, 10}, {10, 10}}}) << true;
+    QTest::newRow("an extra vertex on a side") << page << area({{{0, 0}, {5, 0}, {10, 0}, {10, 10}, {0, 10}}}) << true;
+    QTest::newRow("one inside the other") << page << rectangle(1, 1, 9, 9) << false;
+    QTest::newRow("a line and its reverse") << line({{0, 0}, {4, 2}}) << line({{4, 2}, {2, 1}, {0, 0}}) << true;
+    QTest::newRow("an area and its outline") << page << line({{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}}) << false;
+    QTest::newRow("points") << point(1, 2) << point(1, 2) << true;
+  }
+  void equalMeansTheSamePoints() {
+    QFETCH(GeometryPtr, a);
+    QFETCH(GeometryPtr, b);
+    QTEST(a->Equals(b), "equal");
+    QTEST(b->Equals(a), "equal");
+  }
+
+  void containingNeedsTheInterior() {
+    auto const page = rectangle(0, 0, 10, 10);
+    QVERIFY(page->Contains(page));
+    QVERIFY(page->Contains(line({{0, 0}, {10, 10}})));
+    QVERIFY(!page->Contains(line({{0, 0}, {10, 0}})));
+    QVERIFY(!page->Contains(rectangle(5, 5, 11, 9)));
+    QVERIFY(!page->Contains(nullptr));
+  }
+
+  void aBufferIsAnArea() {
+    auto const round = point(3, 4)->Buffer(2);
+    QVERIFY(ptr_cast<Polygon>(round));
+    QCOMPARE(sides(round->GetEnvelope()), (QVector<double>{1, 2, 5, 6}));
+    QCOMPARE(sides(rectangle(0, 0, 10, 10)->Buffer(-2)->GetEnvelope()), (QVector<double>{2, 2, 8, 8}));
+    QVERIFY(!rectangle(0, 0, 10, 10)->Buffer(-6));
+    QVERIFY(!point(3, 4)->Buffer(noNumber));
+  }
+
+  void aUnionIsOneGeometryOrNone() {
+    auto const page = rectangle(0, 0, 10, 10);
+    auto const apart = ptr_cast<Polygon>(page->Union(rectangle(20, 0, 30, 10)));
+    QCOMPARE(apart->GetRings().size(), 2);
+    QCOMPARE(sides(apart->GetEnvelope()), (QVector<double>{0, 0, 30, 10}));
+    QVERIFY(page->Union(area({}))->Equals(page));
+    QVERIFY(ptr_cast<MultiPolyline>(line({{0, 0}, {1, 0}})->Union(line({{5, 0}, {6, 0}}))));
+    QVERIFY(!page->Union(point(20, 20)));
+    QVERIFY(!point(1, 1)->Union(point(2, 2)));
+    QVERIFY(!line({})->Union(area({})));
+    QVERIFY(!page->Union(nullptr));
+  }
+
+  void curvesComeBackAsSegments() {
+    char const* const text = "CURVEPOLYGON(CIRCULARSTRING(0 0, 2 2, 4 0, 2 -2, 0 0))";
+    OGRGeometry* geometry = nullptr;
+    QCOMPARE(OGRGeometryFactory::createFromWkt(text, nullptr, &geometry), OGRERR_NONE);
+    std::unique_ptr<OGRGeometry> const owned(geometry);
+    auto const circle = fromOgr(*owned);
+    QVERIFY(ptr_cast<Polygon>(circle));
+    QVERIFY(ptr_cast<Polygon>(circle)->GetRings().value(0).size() > 16);
+    QVERIFY(circle->Contains(point(2, 1.99)));
+    QVERIFY(!circle->Intersects(point(2, 2.01)));
+  }
+};
+
+QTEST_GUILESS_MAIN(GeometryTest)
+#include "tst_geometry.moc"

@@ -1,0 +1,308 @@
+#include "host/SysUtility/Archive.h"
+#include "host/SysUtility/FileSaver.h"
+
+#include <SysUtility/CRef.h>
+#include <SysUtility/MathUtil.h>
+#include <SysUtility/Ptr.h>
+
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <sys/resource.h>
+
+#include <csignal>
+#include <cmath>
+
+using namespace SysUtility;
+
+namespace {
+
+double const noNumber = std::numeric_limits<double>::quiet_NaN();
+
+struct Counted : CRef {
+  ~Counted() override { ++destroyed; }
+  static inline int destroyed = 0;
+};
+struct Other : CRef {};
+
+enum class Side { Left, Right };
+
+struct Sheet {
+  double width = 21;
+  double scale = 1;
+  int copies = 1;
+  bool landscape = false;
+  Side side = Side::Left;
+  QString title = QStringLiteral("A–4");
+  QStringList tags;
+  double corner[2] = {0, 0};
+  QVector<double> outline;
+  QVector<Sheet> inner;
+};
+
+void describe(Archive& archive, Sheet& sheet) {
+  archive.number("width", sheet.width, 0.1, 1000);
+  archive.number("scale", sheet.scale, 0, 10, 1);
+  archive.integer("copies", sheet.copies, 1, 5, 1);
+  archive.flag("landscape", sheet.landscape, false);
+  archive.choice("side", sheet.side, {{int(Side::Left), "left"}, {int(Side::Right), "right"}}, Side::Left);
+  archive.text("title", sheet.title);
+  archive.texts("tags", sheet.tags);
+  archive.object("at", [&](Archive& at) { at.numbers("corner", sheet.corner, 2, -10, 10); });
+  archive.coordinates("outline", sheet.outline);
+  archive.list("inner", sheet.inner.size(), 2, [&](Archive& inner, int number) {
+    if (inner.reading()) sheet.inner.append(Sheet());
+    describe(inner, sheet.inner[number]);
+  });
+}
+
+QJsonObject written(Sheet sheet) {
+  Archive archive;
+  describe(archive, sheet);
+  return archive.json();
+}
+
+QString file(QString const& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// While it lives, no file of this process can grow beyond a size. A write then comes back short, as on a full disk.
+class FileSizeLimit {
+public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    rlimit const limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+private:
+  rlimit before_;
+};
+
+}  // namespace
+
+class UtilityTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void anObjectLivesAsLongAsItsReferences() {
+    Counted::destroyed = 0;
+    auto first = make<Counted>();
+    auto second = first;
+    auto copy = make<Counted>(*first);  // has one reference, whatever its original has
+    *copy = *first;
+    QCOMPARE(copy->AddRef(), 2ul);
+    QCOMPARE(copy->Release(), 1ul);
+    copy = nullptr;
+    first = nullptr;
+    QCOMPARE(Counted::destroyed, 1);
+    QVERIFY(ptr_cast<Counted>(_ptr_t<CRef>(second)) == second);
+    QVERIFY(!ptr_cast<Other>(_ptr_t<CRef>(second)));
+    second = retain(second.get());
+    QCOMPARE(second->AddRef(), 2ul);
+    second->Release();
+    second = nullptr;
+    QCOMPARE(Counted::destroyed, 2);
+  }
+
+  void valuesAreEqualWithinATolerance_data() {
+    QTest::addColumn<double>("a");
+    QTest::addColumn<double>("b");
+    QTest::addColumn<bool>("equal");
+    QTest::newRow("absolute near zero") << 0.0 << 9e-10 << true;
+    QTest::newRow("too far near zero") << 0.0 << 2e-9 << false;
+    QTest::newRow("relative for large values") << 1e6 << 1e6 + 5e-4 << true;
+    QTest::newRow("too far for large values") << 1e6 << 1e6 + 2e-3 << false;
+    QTest::newRow("opposite signs") << 5.0 << -5.0 << false;
+    QTest::newRow("not a number equals nothing") << noNumber << noNumber << false;
+    QTest::newRow("infinity equals itself") << HUGE_VAL << HUGE_VAL << true;
+    QTest::newRow("infinity is not close to anything") << HUGE_VAL << 1e300 << false;
+  }
+  void valuesAreEqualWithinATolerance() {
+    QFETCH(double, a);
+    QFETCH(double, b);
+    QTEST(MathUtil::IsEqual(a, b), "equal");
+    QTEST(MathUtil::IsEqual(b, a), "equal");
+  }
+
+  void oneDescriptionReadsWhatItWrote() {
+    Sheet sheet;
+    sheet.width = 0.1 + 0.2;
+    sheet.scale = 2.5;
+    sheet.copies = 5;
+    sheet.landscape = true;
+    sheet.side = Side::Right;
+    sheet.title = QStringLiteral("Ä “%1” \n 地図");
+    sheet.tags = QStringList{QStringLiteral("a"), QString()};
+    sheet.corner[1] = -10;
+    sheet.outline = {1e15, -1e-15};
+    sheet.inner = {Sheet(), Sheet()};
+    sheet.inner[1].width = 3;
+    QByteArray const text = QJsonDocument(written(sheet)).toJson();
+
+    Archive archive(QJsonDocument::fromJson(text).object());
+    Sheet read;
+    describe(archive, read);
+    QCOMPARE(archive.error(), QString());
+    QCOMPARE(archive.warnings(), QStringList());
+    QCOMPARE(read.width, sheet.width);
+    QCOMPARE(read.title, sheet.title);
+    QCOMPARE(read.inner.value(1).width, 3.0);
+    QCOMPARE(QJsonDocument(written(read)).toJson(), text);
+  }
+
+  void whatHasItsDefaultIsNotWritten() {
+    QCOMPARE(written(Sheet()).keys(), (QStringList{"at", "outline", "title", "width"}));
+    Sheet read;
+    read.copies = 4;
+    Archive archive(written(Sheet()));
+    describe(archive, read);
+    QCOMPARE(read.copies, 1);
+  }
+
+  void aProblemIsNamedWithItsPath_data() {
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<QString>("error");
+    // clang-format off
+    QTest::newRow("text for a number")    << QByteArray(R"("width": "9")")   << "width: expected a number, found a text";
+    QTest::newRow("null for a number")    << QByteArray(R"("scale": null)")  << "scale: expected a number, found null";
+    QTest::newRow("number out of range")  << QByteArray(R"("width": 1000.5)") << "width: 1000.5 is not between 0.1 and 1000";
+    QTest::newRow("integer beyond int")   << QByteArray(R"("copies": 4294967297)") << "copies: 4294967297 is not between 1 and 5";
+    QTest::newRow("fraction of an integer") << QByteArray(R"("copies": 1.5)") << "copies: 1.5 is not a whole number";
+    QTest::newRow("number for a flag")    << QByteArray(R"("landscape": 1)") << "landscape: expected true or false, found a number";
+    QTest::newRow("unknown choice, no escapes shown") << QByteArray(R"("side": "up\u001b%1")") << QString::fromUtf8("side: “up\uFFFD%1” is not one of left, right");
+    QTest::newRow("list for a text")      << QByteArray(R"("title": [])")    << "title: expected a text, found a list";
+    QTest::newRow("number among texts")   << QByteArray(R"("tags": ["a", 1])") << "tags[1]: expected a text, found a number";
+    QTest::newRow("required object")      << QByteArray(R"("at": {})")       << "at.corner: is missing";
+    QTest::newRow("list for an object")   << QByteArray(R"("at": [1])")      << "at: expected an object, found a list";
+    QTest::newRow("three for a point")    << QByteArray(R"("at": {"corner": [1, 2, 3]})") << "at.corner: expected 2 numbers, found 3";
+    QTest::newRow("coordinate too large") << QByteArray(R"("at": {"corner": [1, 11]})") << "at.corner[1]: 11 is not between -10 and 10";
+    QTest::newRow("odd coordinates")      << QByteArray(R"("outline": [1])") << "outline: holds an odd count of numbers";
+    QTest::newRow("text as coordinate")   << QByteArray(R"("outline": [1, "x"])") << "outline[1]: expected a number, found a text";
+    QTest::newRow("too long a list")      << QByteArray(R"("inner": [{}, {}, {}])") << "inner: holds 3 entries; at most 2";
+    QTest::newRow("number in a list")     << QByteArray(R"("inner": [7])")   << "inner[0]: expected an object, found a number";
+    QTest::newRow("deep inside")          << QByteArray(R"("inner": [{"width": 1, "title": "", "at": {"corner": [0, 0]}, "outline": []}, {"width": false}])") << "inner[1].width: expected a number, found true or false";
+    // clang-format on
+  }
+  void aProblemIsNamedWithItsPath() {
+    QFETCH(QByteArray, field);
+    QJsonParseError parsed;
+    QJsonObject object = written(Sheet());
+    QJsonObject const wrong = QJsonDocument::fromJson("{" + field + "}", &parsed).object();
+    QCOMPARE(parsed.error, QJsonParseError::NoError);
+    object.insert(wrong.begin().key(), wrong.begin().value());
+    Archive archive(object);
+    Sheet read;
+    describe(archive, read);
+    QVERIFY(!archive.ok());
+    QTEST(archive.error(), "error");
+  }
+
+  void nothingChangesAfterTheFirstProblem() {
+    Sheet read;
+    read.copies = 3;
+    read.tags = QStringList{QStringLiteral("kept")};
+    Archive archive(QJsonDocument::fromJson(R"({"width": 0, "landscape": true, "tags": [], "new": 1})").object());
+    describe(archive, read);
+    QCOMPARE(archive.error(), QStringLiteral("width: 0 is not between 0.1 and 1000"));
+    QCOMPARE(read.copies, 3);
+    QCOMPARE(read.landscape, false);
+    QCOMPARE(read.tags.size(), 1);
+    QCOMPARE(archive.warnings(), QStringList());
+  }
+
+  void anUnknownFieldIsReportedOnce() {
+    QJsonObject inner = written(Sheet());
+    inner.insert("colour", "red");
+    QJsonObject object = written(Sheet());
+    object.insert("inner", QJsonArray{inner});
+    object.insert("zoom", 1);
+    object.insert("asked", 1);
+    Archive archive(object);
+    Sheet read;
+    describe(archive, read);
+    QVERIFY(archive.has("asked"));
+    QVERIFY(!archive.has("absent"));
+    QStringList const expected{"inner[0].colour", "zoom"};
+    QCOMPARE(archive.warnings(), expected);
+    QCOMPARE(archive.warnings(), expected);
+  }
+
+  void whatCouldNotBeReadAgainIsAProblemWhenWriting_data() {
+    QTest::addColumn<int>("fault");
+    QTest::addColumn<QString>("path");
+    QTest::newRow("not a number") << 0 << "width";
+    QTest::newRow("a default field that is not a number") << 1 << "scale";
+    QTest::newRow("an integer out of range") << 2 << "copies";
+    QTest::newRow("a choice without a name") << 3 << "side";
+    QTest::newRow("an infinite coordinate") << 4 << "outline[1]";
+    QTest::newRow("more entries than are read") << 5 << "inner";
+  }
+  void whatCouldNotBeReadAgainIsAProblemWhenWriting() {
+    QFETCH(int, fault);
+    QFETCH(QString, path);
+    Sheet sheet;
+    if (fault == 0) sheet.width = noNumber;
+    if (fault == 1) sheet.scale = noNumber;
+    if (fault == 2) sheet.copies = 6;
+    if (fault == 3) sheet.side = static_cast<Side>(7);
+    if (fault == 4) sheet.outline = {0, HUGE_VAL};
+    if (fault == 5) sheet.inner.resize(3);
+    Archive archive;
+    describe(archive, sheet);
+    QVERIFY2(archive.error().startsWith(path + ": "), qUtf8Printable(archive.error()));
+  }
+
+  void aFileIsReplacedWhole() {
+    QTemporaryDir const folder;
+    QString const path = folder.filePath("page.kdx");
+    QCOMPARE(FileSaver::save(path, "a longer first text"), QString());
+    QCOMPARE(FileSaver::save(path, "second"), QString());
+    QCOMPARE(file(path), QStringLiteral("second"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
+  }
+
+  void aFileWithoutRoomKeepsItsOldContent_data() {
+    QTest::addColumn<int>("size");
+    QTest::newRow("a small one, buffered until the flush") << 10000;
+    QTest::newRow("a large one, of which a beginning fits") << 1000000;
+  }
+  void aFileWithoutRoomKeepsItsOldContent() {
+    QFETCH(int, size);
+    QTemporaryDir const folder;
+    QString const path = folder.filePath("page.kdx");
+    QCOMPARE(FileSaver::save(path, "good"), QString());
+    QString problem;
+    {
+      FileSizeLimit const limit(4096);
+      problem = FileSaver::save(path, QByteArray(size, 'x'));
+    }
+    QVERIFY2(problem.contains(path), qUtf8Printable(problem));
+    QCOMPARE(file(path), QStringLiteral("good"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
+  }
+
+  void aPlaceThatTakesNoFileIsExplained_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("cause");
+    QTest::newRow("no such folder") << "absent/page.kdx"
+                                    << "its folder does not exist";
+    QTest::newRow("a folder") << ""
+                              << "it is a folder";
+  }
+  void aPlaceThatTakesNoFileIsExplained() {
+    QFETCH(QString, name);
+    QFETCH(QString, cause);
+    QTemporaryDir const folder;
+    QString const path = name.isEmpty() ? folder.path() : folder.filePath(name);
+    QString const problem = FileSaver::save(path, "x");
+    QVERIFY2(problem.contains(path) && problem.contains(cause), qUtf8Printable(problem));
+  }
+};
+
+QTEST_GUILESS_MAIN(UtilityTest)
+#include "tst_utility.moc"
