@@ -1,0 +1,54 @@
+#pragma once
+
+#include "host/SysDisplay/PointRuns.h"
+
+#include <QTransform>
+
+namespace SysDisplay {
+
+/// The nearest 1/64 of a pixel, the grid on which the rasteriser works. What lies exactly between two always goes the
+/// same way, although the transformations of two tiles differ in their last bits.
+inline double snapped(double px) {
+  constexpr double bias = 64.0 / 65536.0;
+  constexpr double rounding = 6755399441055744.0;  // 1.5 × 2^52: a sum with it has no room for a fraction
+  return ((px * 64.0 + bias + rounding) - rounding) / 64.0;
+}
+inline QPointF snapped(QPointF const& point) { return {snapped(point.x()), snapped(point.y())}; }
+
+/// Where patterns that go on from tile to tile hang: the device position of the world's origin. That may be many
+/// millions of pixels away, where the last bits of a tile's scale add up to visible parts of a pixel; so lengths
+/// counted from there are to be multiplied by `stretch`, which takes them to a scale that all tiles share.
+struct Anchor {
+  QPointF position;
+  double stretch = 1;
+};
+SYSDISPLAY_EXPORT Anchor anchorOf(QTransform const& toDevice);
+
+/// `count` world coordinate pairs as snapped device points. Neighbours that fall onto one point are merged; with
+/// `thinPx`, so is a point that lies nearer than that to the last one kept, but for the end. Pairs that are not finite
+/// are left out. The work starts at the first pair and looks at no tile, so the result is the same in every tile.
+SYSDISPLAY_EXPORT void toDevicePoints(QTransform const& toDevice, double const* xy, int count, double thinPx,
+                                      std::vector<QPointF>& points);
+
+/// Brings a ring to what matters within `area`: of neighbouring vertices that lie beyond the same side only the first
+/// and the last stay. Inside the area the ring stays as it is, vertex for vertex. Long segments are
+/// divided, at places that hang on `anchor`.
+SYSDISPLAY_EXPORT void clipRing(std::vector<QPointF> const& ring, QRectF const& area, Anchor const& anchor,
+                                PointRuns& out);
+
+/// Brings a line to the runs that matter within `area`. Segments beyond one side are dropped, except the neighbour of a
+/// segment that stays, since it shapes the join. Answers true where a closed line stayed in one piece, so that its one
+/// run is to be closed again.
+SYSDISPLAY_EXPORT bool splitLine(std::vector<QPointF> const& line, bool closed, QRectF const& area,
+                                 Anchor const& anchor, PointRuns& out);
+
+/// The line moved by `distancePx` to the left of its direction, as seen on the page. Sharp corners are cut off.
+SYSDISPLAY_EXPORT std::vector<QPointF> offsetLine(std::vector<QPointF> const& line, bool closed, double distancePx);
+
+/// The sides of a rectangle beyond which a point lies, one bit each.
+inline unsigned sidesBeyond(QRectF const& area, QPointF const& point) {
+  return (point.x() < area.left() ? 1u : 0u) | (point.x() > area.right() ? 2u : 0u) |
+         (point.y() < area.top() ? 4u : 0u) | (point.y() > area.bottom() ? 8u : 0u);
+}
+
+}  // namespace SysDisplay

@@ -1,0 +1,124 @@
+#include <SysDisplay/DisplayTransformation.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace SysDisplay {
+
+using SysGeometry::Envelope;
+using SysGeometry::Point;
+using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr double pixelsPerInch = 96.0;
+constexpr double pointsPerInch = 72.0;
+
+// Two scales this near to each other differ only by the rounding of the bounds.
+constexpr double sameScale = 1e-7;
+
+int toPixel(double position) {
+  constexpr double low = std::numeric_limits<int>::min(), high = std::numeric_limits<int>::max();
+  if (std::isnan(position)) return 0;
+  // The bias lets what lies between two pixels go the same way, whatever the last bits of the mapping are.
+  return static_cast<int>(std::clamp(std::floor(position + 0.5 + 1e-6), low, high));
+}
+
+}  // namespace
+
+struct DisplayTransformation::Private {
+  double xmin = 0, ymin = 0, xmax = 1, ymax = 1;
+  QRect frame{0, 0, 1, 1};
+  double mapScale = 0;
+  double pageScale = 1;
+  QPaintDevice* device = nullptr;
+
+  double frameWidth() const { return std::max(1, frame.width()); }
+  double frameHeight() const { return std::max(1, frame.height()); }
+  double scaleX() const { return frameWidth() / (xmax - xmin); }
+  double scaleY() const { return frameHeight() / (ymax - ymin); }
+  bool hasFrameAspect() const {
+    return std::isfinite(scaleX()) && std::abs(scaleX() - scaleY()) <= sameScale * scaleX();
+  }
+
+  // Pixels on a world unit. Of two scales that should be equal the longer side has the truer one.
+  double scale() const {
+    if (hasFrameAspect()) return frameWidth() >= frameHeight() ? scaleX() : scaleY();
+    return std::min(scaleX(), scaleY());
+  }
+};
+
+DisplayTransformation::DisplayTransformation() : d(std::make_unique<Private>()) {}
+DisplayTransformation::DisplayTransformation(DisplayTransformation const& other)
+    : CRef(other), d(std::make_unique<Private>(*other.d)) {}
+DisplayTransformation& DisplayTransformation::operator=(DisplayTransformation const& other) {
+  *d = *other.d;
+  return *this;
+}
+DisplayTransformation::~DisplayTransformation() = default;
+
+_ptr_t<DisplayTransformation> DisplayTransformation::Clone() const {
+  return SysUtility::make<DisplayTransformation>(*this);
+}
+
+double DisplayTransformation::GetMapScale() const { return d->mapScale; }
+void DisplayTransformation::SetMapScale(double denominator) { d->mapScale = denominator; }
+double DisplayTransformation::GetPageScale() const { return d->pageScale; }
+void DisplayTransformation::SetPageScale(double pageScale) {
+  if (std::isfinite(pageScale) && pageScale > 0) d->pageScale = pageScale;
+}
+double DisplayTransformation::PixelsPerPoint() const { return d->pageScale * pixelsPerInch / pointsPerInch; }
+
+QPaintDevice* DisplayTransformation::GetPaintDevice() const { return d->device; }
+void DisplayTransformation::SetPaintDevice(QPaintDevice* device) { d->device = device; }
+
+void DisplayTransformation::SetVisibleBounds(_ptr_t<Envelope> const& bounds) {
+  if (!bounds) return;
+  double x1, y1, x2, y2;
+  bounds->QueryCoords(x1, y1, x2, y2);
+  if (x1 > x2) std::swap(x1, x2);
+  if (y1 > y2) std::swap(y1, y2);
+  bool const isFinite = std::isfinite(x1) && std::isfinite(y1) && std::isfinite(x2 - x1) && std::isfinite(y2 - y1);
+  bool const isPoint = x2 - x1 <= 0 && y2 - y1 <= 0;
+  if (!isFinite || isPoint) return;
+  d->xmin = x1;
+  d->ymin = y1;
+  d->xmax = x2;
+  d->ymax = y2;
+}
+
+_ptr_t<Envelope> DisplayTransformation::GetVisibleBounds() const {
+  return SysUtility::make<Envelope>(d->xmin, d->ymin, d->xmax, d->ymax);
+}
+
+_ptr_t<Envelope> DisplayTransformation::GetFittedBounds() const {
+  if (d->hasFrameAspect()) return GetVisibleBounds();
+  bool const widens = d->scaleY() < d->scaleX();
+  double const xmax = widens ? d->xmin + d->frameWidth() / d->scale() : d->xmax;
+  double const ymin = widens ? d->ymin : d->ymax - d->frameHeight() / d->scale();
+  return SysUtility::make<Envelope>(d->xmin, ymin, xmax, d->ymax);
+}
+
+void DisplayTransformation::SetDeviceFrame(QRect const& frame) { d->frame = frame; }
+QRect DisplayTransformation::GetDeviceFrame() const { return d->frame; }
+
+QPoint DisplayTransformation::FromMapPoint(double x, double y) const {
+  double const scale = d->scale();
+  return {toPixel(d->frame.left() + (x - d->xmin) * scale), toPixel(d->frame.top() + (d->ymax - y) * scale)};
+}
+
+_ptr_t<Point> DisplayTransformation::ToMapPoint(QPoint const& pixel) const { return ToMapPoint(pixel.x(), pixel.y()); }
+
+_ptr_t<Point> DisplayTransformation::ToMapPoint(int x, int y) const {
+  double const scale = d->scale();
+  return SysUtility::make<Point>(d->xmin + (static_cast<double>(x) - d->frame.left()) / scale,
+                                 d->ymax - (static_cast<double>(y) - d->frame.top()) / scale, 0.0);
+}
+
+QTransform DisplayTransformation::ToDevice() const {
+  double const scale = d->scale();
+  return QTransform(scale, 0, 0, -scale, d->frame.left() - d->xmin * scale, d->frame.top() + d->ymax * scale);
+}
+
+}  // namespace SysDisplay

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "host/SysDisplay/DevicePath.h"
+
+#include <SysDisplay/DisplayTransformation.h>
+
+#include <QRectF>
+
+class QPainter;
+
+namespace SysDisplay {
+
+/// A painter with the mapping of what is drawn on it. Stands for one stretch of drawing: it saves the painter's state
+/// and puts it back at its end, so that in between symbols set pen, brush and antialiasing freely.
+///
+/// The painter may have a transformation of its own that moves by whole pixels, and clipping; both are respected.
+class SYSDISPLAY_EXPORT DrawTarget {
+public:
+  DrawTarget(QPainter& painter, DisplayTransformation const& transformation);
+
+  /// `pixelsPerPoint` are the device pixels on one point (1/72 inch) of a symbol.
+  DrawTarget(QPainter& painter, QTransform const& toDevice, double pixelsPerPoint);
+  ~DrawTarget();
+  DrawTarget(DrawTarget const&) = delete;
+  DrawTarget& operator=(DrawTarget const&) = delete;
+
+  QPainter& painter() const { return painter_; }
+  QTransform const& toDevice() const { return toDevice_; }
+  double pixelsPerPoint() const { return pixelsPerPoint_; }
+
+  /// The pixels that can be reached, in the painter's coordinates.
+  QRectF const& area() const { return area_; }
+
+  /// Where hatches and the like hang.
+  Anchor const& anchor() const { return anchor_; }
+
+private:
+  QPainter& painter_;
+  QTransform const toDevice_;
+  double const pixelsPerPoint_;
+  Anchor const anchor_;
+  QRectF area_;
+};
+
+}  // namespace SysDisplay

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <SysDisplay/DisplayTransformation.h>
+
+#include <QPointF>
+#include <QRectF>
+
+#include <functional>
+#include <optional>
+
+class QPainterPath;
+
+namespace SysDisplay {
+
+/// One run of vertices of a geometry.
+struct GeometryPart {
+  QPointF const* points;
+  int count;
+  bool closed;
+
+  double const* xy() const { return reinterpret_cast<double const*>(points); }
+};
+static_assert(sizeof(QPointF) == 2 * sizeof(double), "points are handed on as flat arrays");
+
+/// Visits the lines of a polyline and the rings of a polygon or an envelope. Answers false for an empty pointer and for
+/// other geometries.
+bool visitParts(SysGeometry::Geometry const* geometry, std::function<void(GeometryPart const&)> const& visit);
+
+/// The same for a path; curves become straight pieces.
+void visitParts(QPainterPath const& path, std::function<void(GeometryPart const&)> const& visit);
+
+bool isArea(SysGeometry::Geometry const* geometry);
+
+/// The position of a point, the anchor point of another geometry; nothing where there is none.
+std::optional<QPointF> placeOf(SysGeometry::Geometry const* geometry);
+
+/// A device rectangle in world units; empty pointer for nothing.
+SysUtility::_ptr_t<SysGeometry::Envelope> toWorld(DisplayTransformation const& transformation,
+                                                  std::optional<QRectF> const& device);
+
+}  // namespace SysDisplay

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "host/SysDisplay/DrawTarget.h"
+
+#include <SysDisplay/MarkerSymbol.h>
+
+#include <memory>
+
+namespace SysDisplay {
+
+/// A marker made ready to be drawn many times at one size.
+class SYSDISPLAY_EXPORT MarkerDrawing {
+public:
+  virtual ~MarkerDrawing();
+
+  /// Draws the marker about a device position.
+  virtual void drawAt(QPainter& painter, QPointF const& position) = 0;
+
+  /// What the marker covers about its position, in pixels, y downwards.
+  virtual QRectF bounds() const = 0;
+};
+
+/// What the marker symbols of this library can do beyond their interface.
+class SYSDISPLAY_EXPORT PreparableMarker {
+public:
+  virtual ~PreparableMarker();
+  virtual std::unique_ptr<MarkerDrawing> prepare(double pixelsPerPoint) const = 0;
+};
+
+/// A marker symbol made ready for one target.
+class SYSDISPLAY_EXPORT MarkerPainter {
+public:
+  /// The target must outlive the painter; the symbol is read at once. A marker symbol of a foreign library draws
+  /// nothing.
+  MarkerPainter(DrawTarget& target, MarkerSymbol const& symbol);
+  ~MarkerPainter();
+
+  bool isVisible() const { return drawing_ != nullptr; }
+
+  /// What the marker covers about its position, in pixels, y downwards.
+  QRectF bounds() const;
+
+  /// Draws the marker at a place given in world coordinates.
+  void draw(double x, double y);
+
+  /// Draws the marker at a place given in device pixels.
+  void drawAt(QPointF const& position);
+
+private:
+  DrawTarget& target_;
+  std::unique_ptr<MarkerDrawing> drawing_;
+};
+
+}  // namespace SysDisplay

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <SysDisplay/Export.h>
+
+#include <QColor>
+#include <QPointF>
+#include <QRectF>
+
+#include <vector>
+
+class QPainter;
+
+namespace SysDisplay {
+
+/// Runs of points, stored flat so that a buffer can be used again: rings to fill, lines to stroke. Usually device
+/// pixels, y downwards.
+struct SYSDISPLAY_EXPORT PointRuns {
+  std::vector<QPointF> points;
+  std::vector<int> ends;  ///< for each run, one past its last point
+
+  void clear();
+  bool isEmpty() const { return ends.empty(); }
+  int count() const { return static_cast<int>(ends.size()); }
+  QPointF const* run(int number) const { return points.data() + (number ? ends[number - 1] : 0); }
+  int size(int number) const { return ends[number] - (number ? ends[number - 1] : 0); }
+
+  /// Appends to the open run. A point that repeats the one before it is left out.
+  void add(QPointF const& point) {
+    int const begin = ends.empty() ? 0 : ends.back();
+    if (static_cast<int>(points.size()) > begin && points.back() == point) return;
+    points.push_back(point);
+  }
+
+  /// Closes the open run; an empty one is forgotten.
+  void endRun();
+
+  QRectF bounds() const;
+};
+
+/// Fills the runs as rings in one colour, antialiased and without a pen, and leaves the painter in that state. Points
+/// should lie on the 1/64 pixel grid. What lies too far from the device for QPainter is cut off.
+SYSDISPLAY_EXPORT void fillRuns(QPainter& painter, PointRuns const& rings, QColor const& color, Qt::FillRule rule);
+
+}  // namespace SysDisplay

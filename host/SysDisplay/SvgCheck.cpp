@@ -1,0 +1,174 @@
+#include "SvgCheck.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QHash>
+#include <QImageReader>
+#include <QSet>
+#include <QStringList>
+#include <QVector>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace SysDisplay {
+
+namespace {
+
+constexpr int mostBytes = 2 * 1024 * 1024;
+constexpr int mostElements = 20000;
+constexpr int deepest = 64;
+constexpr int largestImagePx = 4096;
+
+QString translated(char const* text) { return QCoreApplication::translate("SvgCheck", text); }
+
+// The targets of `url(…)` in a style.
+QStringList urlsIn(QString const& style) {
+  QStringList urls;
+  for (int at = style.indexOf(QLatin1String("url("), 0, Qt::CaseInsensitive); at >= 0;
+       at = style.indexOf(QLatin1String("url("), at + 1, Qt::CaseInsensitive)) {
+    QString target = style.mid(at + 4).trimmed();
+    if (target.startsWith(QLatin1Char('"')) || target.startsWith(QLatin1Char('\''))) target.remove(0, 1);
+    urls << target.trimmed();
+  }
+  return urls;
+}
+
+class Checker {
+public:
+  explicit Checker(QByteArray const& svg) : reader_(svg) {}
+
+  QString problem() {
+    while (!reader_.atEnd() && problem_.isEmpty()) token(reader_.readNext());
+    if (problem_.isEmpty() && reader_.hasError())
+      refuse(
+          translated("the SVG is not well-formed: %1 in line %2").arg(reader_.errorString()).arg(reader_.lineNumber()));
+    if (problem_.isEmpty() && elements_ == 0) refuse(translated("the SVG is empty"));
+    if (problem_.isEmpty()) checkUses();
+    return problem_;
+  }
+
+private:
+  void refuse(QString const& what) {
+    if (problem_.isEmpty()) problem_ = what;
+  }
+
+  void token(QXmlStreamReader::TokenType type) {
+    switch (type) {
+      case QXmlStreamReader::DTD:
+      case QXmlStreamReader::EntityReference:
+        return refuse(translated("the SVG declares a document type or entities; remove them"));
+      case QXmlStreamReader::ProcessingInstruction:
+        return refuse(translated("the SVG holds a processing instruction; remove it"));
+      case QXmlStreamReader::StartElement: return startElement();
+      case QXmlStreamReader::EndElement:
+        openIds_.removeLast();
+        inStyle_ = false;
+        return;
+      case QXmlStreamReader::Characters:
+        // Text that is drawn may say anything; only a style sheet can refer to something.
+        if (inStyle_) checkStyle(reader_.text().toString(), true);
+        return;
+      default: return;
+    }
+  }
+
+  void startElement() {
+    QString const name = reader_.name().toString();
+    if (++elements_ == 1 && name != QLatin1String("svg")) return refuse(translated("the file is not an SVG"));
+    if (elements_ > mostElements) return refuse(translated("the SVG has more than %1 elements").arg(mostElements));
+    if (openIds_.size() >= deepest)
+      return refuse(translated("the SVG's elements are nested more than %1 deep").arg(deepest));
+    if (name == QLatin1String("script")) return refuse(translated("the SVG holds a script; remove it"));
+    inStyle_ = name == QLatin1String("style");
+    QXmlStreamAttributes const attributes = reader_.attributes();
+    openIds_ << attributes.value(QLatin1String("id")).toString();
+    for (QString const& id : qAsConst(openIds_))
+      if (!id.isEmpty()) ++content_[id].elements;
+    for (QXmlStreamAttribute const& attribute : attributes) {
+      QString const value = attribute.value().toString();
+      if (attribute.name() == QLatin1String("href"))
+        checkReference(name, value.trimmed());
+      else
+        checkStyle(value, attribute.name() == QLatin1String("style"));
+    }
+  }
+
+  void checkReference(QString const& element, QString const& target) {
+    if (target.startsWith(QLatin1Char('#'))) {
+      if (element != QLatin1String("use")) return;
+      total_ << target.mid(1);
+      for (QString const& id : qAsConst(openIds_))
+        if (!id.isEmpty()) content_[id].uses << target.mid(1);
+    } else if (target.startsWith(QLatin1String("data:"))) {
+      checkImage(target);
+    } else {
+      refuse(translated("the SVG refers to “%1”; put what it needs into the file").arg(target.left(64)));
+    }
+  }
+
+  void checkImage(QString const& target) {
+    QByteArray data = QByteArray::fromBase64(target.mid(target.indexOf(QLatin1Char(',')) + 1).toLatin1());
+    QBuffer buffer(&data);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader image(&buffer);
+    image.setDecideFormatFromContent(true);
+    QByteArray const format = image.format();
+    if (format != "png" && format != "jpeg" && format != "jpg")
+      return refuse(translated("the SVG embeds an image that is neither PNG nor JPEG"));
+    QSize const size = image.size();
+    if (!size.isValid() || size.width() > largestImagePx || size.height() > largestImagePx)
+      refuse(translated("the SVG embeds an image larger than %1 × %1 pixels").arg(largestImagePx));
+  }
+
+  // In a style sheet a backslash can hide the letters of a word.
+  void checkStyle(QString const& style, bool isSheet) {
+    if (style.contains(QLatin1String("@import"), Qt::CaseInsensitive) || (isSheet && style.contains(QLatin1Char('\\'))))
+      return refuse(
+          translated("the SVG's style sheet imports another or hides characters; put what it needs into the file"));
+    for (QString const& target : urlsIn(style))
+      if (!target.startsWith(QLatin1Char('#')))
+        refuse(translated("the SVG refers to “%1”; put what it needs into the file").arg(target.left(64)));
+  }
+
+  // What `use` elements repeat, repeated in turn, must come to an end, and soon.
+  void checkUses() {
+    double drawn = elements_;
+    for (QString const& id : qAsConst(total_)) drawn += expanded(id);
+    if (drawn > mostElements)
+      refuse(translated("the SVG repeats its parts in a circle or more than %1 times").arg(mostElements));
+  }
+
+  double expanded(QString const& id) {
+    auto const known = expanded_.constFind(id);
+    if (known != expanded_.constEnd()) return *known;
+    expanded_[id] = mostElements + 1.0;  // holds while its own content is counted: a circle
+    double sum = content_[id].elements;
+    QStringList const uses = content_[id].uses;
+    for (QString const& used : uses) sum += expanded(used);
+    return expanded_[id] = std::min(sum, mostElements + 1.0);
+  }
+
+  struct Content {
+    int elements = 0;
+    QStringList uses;
+  };
+
+  QXmlStreamReader reader_;
+  QString problem_;
+  int elements_ = 0;
+  bool inStyle_ = false;
+  QStringList openIds_;
+  QStringList total_;
+  QHash<QString, Content> content_;
+  QHash<QString, double> expanded_;
+};
+
+}  // namespace
+
+QString svgProblem(QByteArray const& svg) {
+  if (svg.size() > mostBytes) return translated("the SVG has more than %1 bytes").arg(mostBytes);
+  return Checker(svg).problem();
+}
+
+}  // namespace SysDisplay

@@ -1,0 +1,148 @@
+#include "SvgMarkerSymbol.h"
+
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
+#include "host/SysDisplay/SvgCheck.h"
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QMap>
+#include <QPainter>
+#include <QSvgRenderer>
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+namespace SysDisplay {
+
+using SysGeometry::Envelope;
+using SysGeometry::Geometry;
+using SysUtility::_ptr_t;
+
+struct SvgMarkerSymbol::Picture {
+  QByteArray svg;
+  QSvgRenderer renderer;
+};
+
+namespace {
+
+constexpr int cellPx = 256;
+constexpr int phases = 4;      // positions within a pixel, along either axis
+constexpr int mostCells = 64;  // kept: 16 MB
+
+// The SVG renderer draws with curves and pens, which Qt rounds differently on the two sides of a tile's edge. So the
+// picture is drawn into cells that hang on the marker, and a tile copies the cells that it sees pixel by pixel.
+class SvgDrawing final : public MarkerDrawing {
+public:
+  SvgDrawing(std::shared_ptr<void> keepsAlive, QSvgRenderer& renderer, double sizePx, double degrees)
+      : keepsAlive_(std::move(keepsAlive)), renderer_(renderer) {
+    QSizeF const box = renderer.viewBoxF().size();
+    double const scale = sizePx / std::max(box.width(), box.height());
+    size_ = box * scale;
+    rotation_.rotate(-degrees);
+    bounds_ = rotation_.mapRect(QRectF(-size_.width() / 2, -size_.height() / 2, size_.width(), size_.height()));
+  }
+
+  QRectF bounds() const override { return bounds_; }
+
+  void drawAt(QPainter& painter, QPointF const& position) override {
+    // The bias sends what lies between two phases the same way in every tile.
+    auto const phased = [](double p) { return std::floor(p * phases + 0.5 + 1e-4); };
+    double const x = phased(position.x()), y = phased(position.y());
+    double const wholeX = std::floor(x / phases), wholeY = std::floor(y / phases);
+    if (std::abs(wholeX) > 1e6 || std::abs(wholeY) > 1e6) return;
+    Cell cell{static_cast<int>(x - wholeX * phases), static_cast<int>(y - wholeY * phases), 0, 0};
+    QPoint const place(static_cast<int>(wholeX), static_cast<int>(wholeY));
+    QRect const seen = covered() & visible(painter).translated(-place);
+    if (seen.isEmpty()) return;
+    for (cell.row = cellOf(seen.top()); cell.row <= cellOf(seen.bottom()); ++cell.row)
+      for (cell.column = cellOf(seen.left()); cell.column <= cellOf(seen.right()); ++cell.column)
+        painter.drawImage(place + origin(cell), image(cell));
+  }
+
+private:
+  struct Cell {
+    int phaseX, phaseY, column, row;
+    bool operator<(Cell const& o) const {
+      return std::tie(phaseX, phaseY, column, row) < std::tie(o.phaseX, o.phaseY, o.column, o.row);
+    }
+  };
+
+  // A marker of usual size lies within the one cell about its position.
+  static int cellOf(int px) { return static_cast<int>(std::floor((px + cellPx / 2.0) / cellPx)); }
+  static QPoint origin(Cell const& cell) { return {cell.column * cellPx - cellPx / 2, cell.row * cellPx - cellPx / 2}; }
+
+  // The pixels about the position that the marker may cover in any phase.
+  QRect covered() const { return bounds_.toAlignedRect().adjusted(-1, -1, 2, 2); }
+
+  static QRect visible(QPainter const& painter) {
+    return painter.combinedTransform().inverted().mapRect(QRectF(painter.viewport())).toAlignedRect();
+  }
+
+  QImage const& image(Cell const& cell) {
+    auto const known = cells_.constFind(cell);
+    if (known != cells_.constEnd()) return *known;
+    if (cells_.size() >= mostCells) cells_.clear();
+    return *cells_.insert(cell, drawn(cell));
+  }
+
+  QImage drawn(Cell const& cell) {
+    QImage image(cellPx, cellPx, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.translate(-origin(cell));
+    painter.setClipRect(covered());  // an SVG may draw beyond its view box
+    painter.translate(cell.phaseX / double(phases), cell.phaseY / double(phases));
+    painter.setTransform(rotation_, true);
+    renderer_.render(&painter, QRectF(-size_.width() / 2, -size_.height() / 2, size_.width(), size_.height()));
+    return image;
+  }
+
+  std::shared_ptr<void> const keepsAlive_;
+  QSvgRenderer& renderer_;
+  QSizeF size_;
+  QTransform rotation_;
+  QRectF bounds_;
+  QMap<Cell, QImage> cells_;
+};
+
+}  // namespace
+
+SvgMarkerSymbol::SvgMarkerSymbol() = default;
+SvgMarkerSymbol::SvgMarkerSymbol(SvgMarkerSymbol const&) = default;
+SvgMarkerSymbol& SvgMarkerSymbol::operator=(SvgMarkerSymbol const&) = default;
+SvgMarkerSymbol::~SvgMarkerSymbol() = default;
+
+_ptr_t<Symbol> SvgMarkerSymbol::Clone() const { return SysUtility::make<SvgMarkerSymbol>(*this); }
+
+void SvgMarkerSymbol::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
+                           _ptr_t<Geometry> const& geometry) const {
+  drawMarker(painter, transformation, geometry, *this);
+}
+
+_ptr_t<Envelope> SvgMarkerSymbol::QueryBoundary(_ptr_t<DisplayTransformation> const& transformation,
+                                                _ptr_t<Geometry> const& geometry) const {
+  return markerBoundary(transformation, geometry, *this);
+}
+
+std::unique_ptr<MarkerDrawing> SvgMarkerSymbol::prepare(double pixelsPerPoint) const {
+  if (!picture_ || GetSize() <= 0) return nullptr;
+  return std::make_unique<SvgDrawing>(picture_, picture_->renderer, GetSize() * pixelsPerPoint, GetAngle());
+}
+
+QString SvgMarkerSymbol::setSvg(QByteArray const& svg) {
+  QString const problem = svgProblem(svg);
+  if (!problem.isEmpty()) return problem;
+  auto picture = std::make_shared<Picture>();
+  picture->svg = svg;
+  if (!picture->renderer.load(svg) || picture->renderer.viewBoxF().isEmpty())
+    return QCoreApplication::translate("SvgMarkerSymbol", "the SVG can't be drawn: it has no size or no content");
+  picture_ = std::move(picture);
+  return QString();
+}
+
+QByteArray SvgMarkerSymbol::svg() const { return picture_ ? picture_->svg : QByteArray(); }
+
+}  // namespace SysDisplay

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/SysDisplay/MarkerPainter.h"
+
+#include <QByteArray>
+
+namespace SysDisplay {
+
+/// A marker that an SVG describes. The SVG's view box is the marker: its longer side is the marker's size and its
+/// centre lies on the point.
+class SYSDISPLAY_EXPORT SvgMarkerSymbol final : public MarkerSymbol, public PreparableMarker {
+public:
+  SvgMarkerSymbol();
+  SvgMarkerSymbol(SvgMarkerSymbol const&);
+  SvgMarkerSymbol& operator=(SvgMarkerSymbol const&);
+  ~SvgMarkerSymbol() override;
+
+  SysUtility::_ptr_t<Symbol> Clone() const override;
+  void Draw(QPainter& painter, SysUtility::_ptr_t<DisplayTransformation> const& transformation,
+            SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry) const override;
+  SysUtility::_ptr_t<SysGeometry::Envelope> QueryBoundary(
+      SysUtility::_ptr_t<DisplayTransformation> const& transformation,
+      SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry) const override;
+  std::unique_ptr<MarkerDrawing> prepare(double pixelsPerPoint) const override;
+
+  /// Takes an SVG in UTF-8. Answers why it was refused, as a sentence, and keeps the former one then; empty when taken.
+  QString setSvg(QByteArray const& svg);
+  QByteArray svg() const;
+
+private:
+  struct Picture;
+  std::shared_ptr<Picture> picture_;  // shared by clones: it never changes
+};
+
+}  // namespace SysDisplay

@@ -1,0 +1,142 @@
+#include "TextSymbol.h"
+
+#include "host/SysDisplay/DevicePath.h"
+#include "host/SysDisplay/DrawTarget.h"
+#include "host/SysDisplay/TextShaper.h"
+
+#include <cmath>
+#include <tuple>
+
+namespace SysDisplay {
+
+using SysUtility::_ptr_t;
+
+namespace {
+
+// Where the lines of a text stand about its position, in units of the font's size.
+class Block {
+public:
+  Block(TextFormat const& format, ShapedText const& text) : format_(format), text_(text) {
+    double const rest = (text.lines.size() - 1) * lineHeight();
+    switch (format.vertical) {
+      case VerticalAlignment::Top: firstBaseline_ = text.ascent; break;
+      case VerticalAlignment::Middle: firstBaseline_ = (text.ascent - text.descent - rest) / 2; break;
+      case VerticalAlignment::Baseline: firstBaseline_ = 0; break;
+      case VerticalAlignment::Bottom: firstBaseline_ = -text.descent - rest; break;
+    }
+  }
+
+  QPointF start(size_t line) const {
+    double const width = text_.lines[line].width;
+    double const x = format_.horizontal == HorizontalAlignment::Left     ? 0
+                     : format_.horizontal == HorizontalAlignment::Center ? -width / 2
+                                                                         : -width;
+    return {x, firstBaseline_ + line * lineHeight()};
+  }
+
+  QRectF bounds() const {
+    QRectF all;
+    for (size_t i = 0; i < text_.lines.size(); ++i) {
+      ShapedLine const& line = text_.lines[i];
+      if (line.glyphs.empty()) continue;
+      QRectF const box(0, -text_.ascent, line.width, text_.ascent + text_.descent);
+      all |= (box | line.ink).translated(start(i));
+    }
+    return all;
+  }
+
+private:
+  double lineHeight() const { return (text_.ascent + text_.descent) * format_.lineSpacing; }
+
+  TextFormat const& format_;
+  ShapedText const& text_;
+  double firstBaseline_ = 0;
+};
+
+}  // namespace
+
+bool TextFormat::operator==(TextFormat const& o) const {
+  auto const all = [](TextFormat const& f) {
+    return std::make_tuple(f.family, f.size, f.bold, f.italic, f.letterSpacing, f.lineSpacing, f.color.rgba(),
+                           f.haloSize, f.haloColor.rgba(), f.horizontal, f.vertical);
+  };
+  return all(*this) == all(o);
+}
+
+TextSymbol::TextSymbol() : TextSymbol(TextFormat()) {}
+TextSymbol::TextSymbol(TextFormat format) { setFormat(std::move(format)); }
+TextSymbol::TextSymbol(TextSymbol const&) = default;
+TextSymbol& TextSymbol::operator=(TextSymbol const&) = default;
+TextSymbol::~TextSymbol() = default;
+
+void TextSymbol::setFormat(TextFormat format) {
+  format_ = std::move(format);
+  fontKey_ = fontKeyOf(format_);
+}
+
+SymbolType TextSymbol::GetType() const { return SymbolType::Text; }
+_ptr_t<Symbol> TextSymbol::Clone() const { return SysUtility::make<TextSymbol>(*this); }
+
+void TextSymbol::Draw(QPainter&, _ptr_t<DisplayTransformation> const&, _ptr_t<SysGeometry::Geometry> const&) const {}
+_ptr_t<SysGeometry::Envelope> TextSymbol::QueryBoundary(_ptr_t<DisplayTransformation> const&,
+                                                        _ptr_t<SysGeometry::Geometry> const&) const {
+  return nullptr;
+}
+
+template <class Visit>
+void TextSymbol::visitGlyphs(QString const& text, Visit const& visit) const {
+  auto const shaped = shapedText(format_, fontKey_, text);
+  Block const block(format_, *shaped);
+  for (size_t i = 0; i < shaped->lines.size(); ++i)
+    for (PlacedGlyph const& placed : shaped->lines[i].glyphs) visit(*placed.glyph, block.start(i) + placed.place);
+}
+
+QPainterPath TextSymbol::outline(QString const& text) const {
+  QPainterPath path;
+  path.setFillRule(Qt::WindingFill);
+  visitGlyphs(text, [&](Glyph const& glyph, QPointF const& place) { path.addPath(glyph.outline().translated(place)); });
+  return QTransform::fromScale(format_.size, format_.size).map(path);
+}
+
+QRectF TextSymbol::bounds(QString const& text) const {
+  QRectF const box = Block(format_, *shapedText(format_, fontKey_, text)).bounds();
+  if (box.isNull()) return QRectF();
+  double const halo = format_.haloSize;
+  return QRectF(box.topLeft() * format_.size, box.size() * format_.size).adjusted(-halo, -halo, halo, halo);
+}
+
+void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angleDegrees, QString const& text) const {
+  double const emPx = format_.size * target.pixelsPerPoint();
+  if (emPx <= 0 || !std::isfinite(position.x()) || !std::isfinite(position.y())) return;
+  QRectF const box = bounds(text);
+  if (box.isNull()) return;
+  QTransform const turned = QTransform().rotate(-angleDegrees);
+  QTransform const points = QTransform(turned).scale(target.pixelsPerPoint(), target.pixelsPerPoint());
+  if (!points.mapRect(box).translated(position).adjusted(-1, -1, 1, 1).intersects(target.area())) return;
+
+  QTransform const toPixels = QTransform(turned).scale(emPx, emPx);
+  QPointF const origin = snapped(position);  // by itself, so that the letters' shapes don't depend on it
+  PointRuns rings;
+  auto const place = [&](PointRuns const& glyph, QPointF const& at) {
+    for (int i = 0; i < glyph.count(); ++i) {
+      for (int j = 0; j < glyph.size(i); ++j) rings.add(origin + snapped(toPixels.map(glyph.run(i)[j] + at)));
+      rings.endRun();
+    }
+  };
+  if (format_.haloSize > 0 && format_.haloColor.alpha() > 0) {
+    double const size = format_.haloSize / format_.size;
+    visitGlyphs(text, [&](Glyph const& glyph, QPointF const& at) { place(glyph.halo(size, emPx), at); });
+    fillRuns(target.painter(), rings, format_.haloColor, Qt::WindingFill);
+    rings.clear();
+  }
+  visitGlyphs(text, [&](Glyph const& glyph, QPointF const& at) { place(glyph.rings(emPx), at); });
+  fillRuns(target.painter(), rings, format_.color, Qt::WindingFill);
+}
+
+void TextSymbol::drawAt(QPainter& painter, QPointF const& position, double pixelsPerPoint, double angleDegrees,
+                        QString const& text) const {
+  DrawTarget target(painter, QTransform(), pixelsPerPoint);
+  drawAt(target, position, angleDegrees, text);
+}
+
+}  // namespace SysDisplay

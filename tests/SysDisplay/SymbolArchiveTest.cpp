@@ -1,0 +1,181 @@
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
+#include "host/SysDisplay/SvgCheck.h"
+#include "host/SysDisplay/SvgMarkerSymbol.h"
+#include "host/SysDisplay/SymbolArchive.h"
+
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+
+#include <QJsonDocument>
+#include <QtTest>
+
+using namespace SysDisplay;
+using SysUtility::_ptr_t;
+using SysUtility::Archive;
+
+namespace {
+
+// JSON with single quotes, which reads better in here.
+QJsonObject parsed(QByteArray json) { return QJsonDocument::fromJson(json.replace('\'', '"')).object(); }
+
+QByteArray svg(QByteArray const& inside, QByteArray const& before = QByteArray()) {
+  return before +
+         "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' viewBox='0 0 9 9'>" +
+         inside + "</svg>";
+}
+
+}  // namespace
+
+class SymbolArchiveTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void everySymbolComesBackAsItWas_data() {
+    QTest::addColumn<QByteArray>("json");
+    QTest::newRow("line of default values") << QByteArray("{'type':'simpleLine'}");
+    QTest::newRow("line") << QByteArray(
+        "{'cap':'square','color':'#80102030','join':'miter','miterLimit':5,'offset':-2.5,'style':'dashDotDot','type':'"
+        "simpleLine','width':3.25}");
+    QTest::newRow("fill with an outline") << QByteArray(
+        "{'color':'#ff0000','outline':{'type':'simpleLine','width':2},'style':'diagonalCross','type':'simpleFill'}");
+    QTest::newRow("fill without an outline") << QByteArray("{'style':'null','type':'simpleFill'}");
+    QTest::newRow("marker") << QByteArray(
+        "{'angle':45,'color':'#00ff00','outlineColor':'#0000ff','outlineWidth':0.5,'size':12,'style':'star','type':'"
+        "simpleMarker'}");
+    QTest::newRow("SVG marker") << QByteArray("{'size':40,'svg':'<svg viewBox=\\'0 0 1 1\\'/>','type':'svgMarker'}");
+    QTest::newRow("text") << QByteArray(
+        "{'bold':true,'color':'#010203','family':'Lato','haloColor':'#40ffffff','haloSize':1.5,'horizontal':'center','"
+        "italic':true,'letterSpacing':0.5,'lineSpacing':1.2,'size':14,'type':'text','vertical':'bottom'}");
+  }
+  void everySymbolComesBackAsItWas() {
+    QFETCH(QByteArray, json);
+    QJsonObject const expected{{QStringLiteral("symbol"), parsed(json)}};
+    QVERIFY(!parsed(json).isEmpty());
+    Archive reading(expected);
+    _ptr_t<Symbol> symbol;
+    describeOptionalSymbol(reading, "symbol", symbol);
+    QCOMPARE(reading.error(), QString());
+    QCOMPARE(reading.warnings(), QStringList());
+    QVERIFY(symbol);
+    Archive writing;
+    auto clone = symbol->Clone();
+    describeOptionalSymbol(writing, "symbol", clone);
+    QCOMPARE(writing.json(), expected);
+  }
+
+  void badValuesAreNamed_data() {
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("problem");  // how the sentence begins
+    auto const row = [](char const* name, char const* json, char const* problem) {
+      QTest::newRow(name) << QByteArray(json) << QString::fromUtf8(problem);
+    };
+    row("no type", "{'width':1}", "symbol.type: is missing");
+    row("unknown type", "{'type':'cartoonLine'}", "symbol.type: “cartoonLine” is not one of simpleLine");
+    row("wrong family", "{'type':'simpleFill'}", "symbol.type: “simpleFill” is not one of simpleLine");
+    row("negative width", "{'type':'simpleLine','width':-1}", "symbol.width: ");
+    row("too wide", "{'type':'simpleLine','width':1001}", "symbol.width: ");
+    row("width of the wrong kind", "{'type':'simpleLine','width':'2'}", "symbol.width: expected a number");
+    row("unknown style", "{'type':'simpleLine','style':'wavy'}", "symbol.style: “wavy”");
+    row("colour by name", "{'type':'simpleLine','color':'red'}", "symbol.color: “red”");
+    row("short colour", "{'type':'simpleLine','color':'#fff'}", "symbol.color: “#fff”");
+    row("colour of other letters", "{'type':'simpleLine','color':'#12345g'}", "symbol.color: “#12345g”");
+  }
+  void badValuesAreNamed() {
+    QFETCH(QByteArray, json);
+    QFETCH(QString, problem);
+    Archive archive(QJsonObject{{QStringLiteral("symbol"), parsed(json)}});
+    auto const before = SysUtility::make<SimpleLineSymbol>();
+    _ptr_t<LineSymbol> symbol = before;
+    describeSymbol(archive, "symbol", symbol);
+    QVERIFY2(archive.error().startsWith(problem), qPrintable(archive.error()));
+    QVERIFY(symbol == before);
+  }
+
+  void nestedProblemsHaveTheirPath() {
+    Archive archive(parsed("{'type':'simpleFill','outline':{'type':'simpleLine','cap':'pointed'}}"));
+    _ptr_t<Symbol> symbol;
+    describeSymbolHere(archive, symbol);
+    QVERIFY2(archive.error().startsWith(QStringLiteral("outline.cap: ")), qPrintable(archive.error()));
+    QVERIFY(!symbol);
+  }
+
+  void missingOptionalSymbolIsNone() {
+    Archive reading(QJsonObject{});
+    _ptr_t<LineSymbol> symbol = SysUtility::make<SimpleLineSymbol>();
+    describeOptionalSymbol(reading, "border", symbol);
+    QVERIFY(reading.ok() && !symbol);
+    Archive writing;
+    describeOptionalSymbol(writing, "border", symbol);
+    QVERIFY(writing.ok() && writing.json().isEmpty());
+  }
+
+  void importChangesNothingUnlessTheJsonFits() {
+    SimpleLineSymbol line;
+    line.SetWidth(7);
+    QVERIFY(!line.ImportFromJson(QStringLiteral("{\"type\":\"simpleFill\"}")));
+    QVERIFY(!line.ImportFromJson(QStringLiteral("{\"type\":\"simpleLine\",\"width\":2,\"cap\":5}")));
+    QVERIFY(!line.ImportFromJson(QStringLiteral("[")));
+    QCOMPARE(line.GetWidth(), 7.0);
+    QString json;
+    line.ExportToJson(json);
+    SimpleLineSymbol other;
+    QVERIFY(other.ImportFromJson(json));
+    QCOMPARE(other.GetWidth(), 7.0);
+  }
+
+  void svgThatReachesOutIsRefused_data() {
+    QTest::addColumn<QByteArray>("svg");
+    QTest::addColumn<QString>("problem");  // empty: it is taken
+    auto const row = [](char const* name, QByteArray const& svg, char const* problem) {
+      QTest::newRow(name) << svg << QString::fromUtf8(problem);
+    };
+    row("plain", svg("<path d='M0 0L9 9' style='fill:#fff'/>"), "");
+    row("gradient of its own", svg("<rect id='r' fill='url(#g)' width='2' height='2'/><use xlink:href='#r'/>"), "");
+    row("image file", svg("<image xlink:href='file:///etc/passwd' width='9' height='9'/>"), "refers to");
+    row("image beside the document", svg("<image href='photo.png' width='9' height='9'/>"), "refers to");
+    row("image from the network", svg("<image xlink:href=' http://example.org/a.png'/>"), "refers to");
+    row("embedded SVG", svg("<image xlink:href='data:image/svg+xml;base64,PHN2Zy8+'/>"), "neither PNG nor JPEG");
+    row("fill elsewhere", svg("<rect fill='url(other.svg#g)'/>"), "refers to");
+    row("style elsewhere", svg("<rect style=\"fill: URL( 'other.svg' )\"/>"), "refers to");
+    row("imported style sheet", svg("<style>@import 'a.css';</style>"), "style sheet");
+    row("hidden letters", svg("<style>rect { fill: \\75rl(a.svg) }</style>"), "style sheet");
+    row("style sheet instruction", svg("<g/>", "<?xml-stylesheet type='text/css' href='a.css'?>"), "instruction");
+    row("document type", svg("<g/>", "<!DOCTYPE svg SYSTEM 'a.dtd'>"), "document type");
+    row("entities", svg("<text>&a;</text>", "<!DOCTYPE svg [<!ENTITY a 'b'>]>"), "document type");
+    row("script", svg("<script>1</script>"), "script");
+    row("uses in a circle", svg("<g id='a'><use xlink:href='#b'/></g><g id='b'><use xlink:href='#a'/></g>"), "circle");
+    QByteArray bomb("<g id='n0'><rect/></g>");
+    for (int i = 1; i < 10; ++i) {
+      bomb += "<g id='n" + QByteArray::number(i) + "'>";
+      for (int j = 0; j < 10; ++j) bomb += "<use xlink:href='#n" + QByteArray::number(i - 1) + "'/>";
+      bomb += "</g>";
+    }
+    row("uses without end", svg(bomb), "times");
+    row("nested too deep", svg(QByteArray("<g>").repeated(100) + QByteArray("</g>").repeated(100)), "nested");
+    row("not closed", svg("<g>"), "not well-formed");
+    row("another XML", "<html/>", "not an SVG");
+    row("nothing", "", "not well-formed");
+    row("too large", svg(QByteArray(3 << 20, ' ')), "bytes");
+  }
+  void svgThatReachesOutIsRefused() {
+    QFETCH(QByteArray, svg);
+    QFETCH(QString, problem);
+    QString const found = svgProblem(svg);
+    QVERIFY2(problem.isEmpty() ? found.isEmpty() : found.contains(problem), qPrintable(found));
+    if (problem.isEmpty()) return;
+    SvgMarkerSymbol marker;
+    QCOMPARE(marker.setSvg(svg), found);
+    QVERIFY(!marker.prepare(1));
+  }
+
+  void refusedSvgIsAProblemOfItsField() {
+    Archive archive(QJsonObject{{QStringLiteral("type"), QStringLiteral("svgMarker")},
+                                {QStringLiteral("svg"), QString::fromUtf8(svg("<image href='a.png'/>"))}});
+    _ptr_t<Symbol> symbol;
+    describeSymbolHere(archive, symbol);
+    QVERIFY2(archive.error().startsWith(QStringLiteral("svg: the SVG refers to “a.png”")), qPrintable(archive.error()));
+  }
+};
+
+QTEST_MAIN(SymbolArchiveTest)
+#include "SymbolArchiveTest.moc"

@@ -1,0 +1,295 @@
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
+#include "host/SysDisplay/SvgMarkerSymbol.h"
+#include "host/SysDisplay/TextSymbol.h"
+
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+#include <SysGeometry/Polyline.h>
+
+#include <QPainter>
+#include <QtTest>
+
+#include <cmath>
+
+using namespace SysDisplay;
+using namespace SysGeometry;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace {
+
+// A canvas of 200 × 200 pixels on which a world unit is a pixel and y runs upwards; its upper left corner is (0, 200).
+class Canvas {
+public:
+  explicit Canvas(double pixelsPerPoint = 1.0) : image_(200, 200, QImage::Format_RGBA8888_Premultiplied) {
+    image_.fill(Qt::white);
+    transformation_->SetDeviceFrame(image_.rect());
+    transformation_->SetVisibleBounds(make<Envelope>(0, 0, 200, 200));
+    transformation_->SetPageScale(pixelsPerPoint * 72 / 96);
+  }
+
+  Canvas& draw(Symbol const& symbol, _ptr_t<Geometry> const& geometry) {
+    QPainter painter(&image_);
+    symbol.Draw(painter, transformation_, geometry);
+    return *this;
+  }
+
+  _ptr_t<DisplayTransformation> const& transformation() const { return transformation_; }
+  QImage& image() { return image_; }
+
+  bool isInk(int x, int y) const { return qGray(image_.pixel(x, y)) < 128; }
+
+  // The pixels with any ink.
+  QRect covered() const {
+    QRect all;
+    for (int y = 0; y < image_.height(); ++y)
+      for (int x = 0; x < image_.width(); ++x)
+        if (image_.pixel(x, y) != qRgb(255, 255, 255)) all |= QRect(x, y, 1, 1);
+    return all;
+  }
+
+private:
+  QImage image_;
+  _ptr_t<DisplayTransformation> transformation_ = make<DisplayTransformation>();
+};
+
+_ptr_t<Polyline> polyline(QVector<QPointF> points) { return make<Polyline>(std::move(points)); }
+
+_ptr_t<SimpleLineSymbol> pen(double width, SimpleLineStyle style = SimpleLineStyle::Solid,
+                             LineCapStyle cap = LineCapStyle::Butt) {
+  auto const symbol = make<SimpleLineSymbol>();
+  symbol->SetWidth(width);
+  symbol->SetStyle(style);
+  symbol->SetCapStyle(cap);
+  symbol->SetJoinStyle(LineJoinStyle::Miter);
+  return symbol;
+}
+
+QRect aligned(_ptr_t<Envelope> const& e) {  // world rectangle to pixels
+  return QRectF(QPointF(e->GetXMin(), 200 - e->GetYMax()), QPointF(e->GetXMax(), 200 - e->GetYMin())).toAlignedRect();
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(_ptr_t<Symbol>)
+Q_DECLARE_METATYPE(_ptr_t<Geometry>)
+
+class SymbolTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void dashesStandWhereTheirLengthsSay_data() {
+    QTest::addColumn<int>("style");
+    QTest::addColumn<int>("cap");
+    QTest::addColumn<QVector<int>>("starts");  // ink and gap in turn, in pixels from the line's beginning
+    auto const row = [](char const* name, SimpleLineStyle style, LineCapStyle cap, QVector<int> const& starts) {
+      QTest::newRow(name) << static_cast<int>(style) << static_cast<int>(cap) << starts;
+    };
+    row("dash", SimpleLineStyle::Dash, LineCapStyle::Butt, {0, 16, 24, 40, 48, 64});
+    row("dot", SimpleLineStyle::Dot, LineCapStyle::Butt, {0, 4, 12, 16, 24, 28});
+    row("dash and dot", SimpleLineStyle::DashDot, LineCapStyle::Butt, {0, 16, 24, 28, 36, 52});
+    row("dash and two dots", SimpleLineStyle::DashDotDot, LineCapStyle::Butt, {0, 16, 24, 28, 36, 40, 48, 64});
+    row("caps leave the rhythm", SimpleLineStyle::Dash, LineCapStyle::Square, {-2, 14, 22, 38, 46, 62});
+  }
+  void dashesStandWhereTheirLengthsSay() {
+    QFETCH(int, style);
+    QFETCH(int, cap);
+    QFETCH(QVector<int>, starts);
+    Canvas canvas;
+    // With a corner at 50 pixels, over which the pattern goes on.
+    auto const line = polyline({{20, 100}, {70, 100}, {70, 20}});
+    canvas.draw(*pen(4, static_cast<SimpleLineStyle>(style), static_cast<LineCapStyle>(cap)), line);
+    for (int i = 0; i + 1 < starts.size(); ++i) {
+      int const middle = (starts[i] + starts[i + 1]) / 2;
+      QPoint const pixel = middle < 50 ? QPoint(20 + middle, 100) : QPoint(70, 100 + middle - 50);
+      QVERIFY2(canvas.isInk(pixel.x(), pixel.y()) == (i % 2 == 0), qPrintable(QString::number(middle)));
+    }
+  }
+
+  void hatchesRunAsNamed_data() {
+    QTest::addColumn<int>("style");
+    QTest::addColumn<QPoint>("along");
+    QTest::newRow("horizontal") << 2 << QPoint(1, 0);
+    QTest::newRow("vertical") << 3 << QPoint(0, 1);
+    QTest::newRow("forward diagonal rises to the left") << 4 << QPoint(1, 1);
+    QTest::newRow("backward diagonal rises to the right") << 5 << QPoint(1, -1);
+  }
+  void hatchesRunAsNamed() {
+    QFETCH(int, style);
+    QFETCH(QPoint, along);
+    SimpleFillSymbol fill;
+    fill.SetStyle(static_cast<SimpleFillStyle>(style));
+    fill.SetColor(Qt::black);
+    Canvas canvas(5);  // lines 20 pixels apart, 2 wide
+    canvas.draw(fill, make<Envelope>(20, 20, 180, 180));
+    QPoint const across(along.y(), -along.x());
+    int same = 0, other = 0;
+    for (int y = 60; y < 140; ++y)
+      for (int x = 60; x < 140; ++x) {
+        if (!canvas.isInk(x, y)) continue;
+        same += canvas.isInk(x + 5 * along.x(), y + 5 * along.y());
+        other += canvas.isInk(x + 5 * across.x(), y + 5 * across.y());
+      }
+    QVERIFY(same > 300);
+    QCOMPARE(other, 0);
+    QCOMPARE(canvas.covered() & QRect(0, 0, 200, 200), canvas.covered());
+    QVERIFY(QRect(18, 18, 164, 164).contains(canvas.covered()));
+  }
+
+  void offsetLiesLeftOfTheDirection() {
+    auto const symbol = pen(2);
+    symbol->SetOffset(10);
+    Canvas canvas;
+    canvas.draw(*symbol, polyline({{50, 100}, {150, 100}}));  // eastwards, so that left is up
+    QCOMPARE(canvas.covered(), QRect(50, 89, 100, 2));
+  }
+
+  void sizesFollowThePageScaleAlone_data() {
+    QTest::addColumn<double>("pixelsPerPoint");
+    QTest::newRow("a pixel a point") << 1.0;
+    QTest::newRow("three pixels a point") << 3.0;
+  }
+  void sizesFollowThePageScaleAlone() {
+    QFETCH(double, pixelsPerPoint);
+    int const scale = static_cast<int>(pixelsPerPoint);
+    auto const centre = make<Point>(100, 100, 0);
+    SimpleMarkerSymbol square;
+    square.setStyle(SimpleMarkerStyle::Square);
+    square.SetSize(20);
+    SvgMarkerSymbol svg;
+    QCOMPARE(svg.setSvg("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 2 4'><rect width='2' height='4'/></svg>"),
+             QString());
+    svg.SetSize(20);
+    QCOMPARE(Canvas(pixelsPerPoint).draw(*pen(8), polyline({{50, 100}, {150, 100}})).covered().height(), 8 * scale);
+    QCOMPARE(Canvas(pixelsPerPoint).draw(square, centre).covered().size(), QSize(20, 20) * scale);
+    QCOMPARE(Canvas(pixelsPerPoint).draw(svg, centre).covered().size(), QSize(10, 20) * scale);
+    svg.SetAngle(90);
+    QCOMPARE(Canvas(pixelsPerPoint).draw(svg, centre).covered().size(), QSize(20, 10) * scale);
+  }
+
+  // What QueryBoundary answers decides which tiles an element is drawn in, so that nothing may lie outside of it.
+  void boundaryCoversTheDrawing_data() {
+    QTest::addColumn<_ptr_t<Symbol>>("symbol");
+    QTest::addColumn<_ptr_t<Geometry>>("geometry");
+    QTest::addColumn<bool>("isTight");
+    auto const row = [](char const* name, _ptr_t<Symbol> const& symbol, _ptr_t<Geometry> const& geometry, bool tight) {
+      QTest::newRow(name) << symbol << geometry << tight;
+    };
+    auto const corner = polyline({{40, 40}, {160, 60}, {50, 100}});
+    auto const moved = pen(8, SimpleLineStyle::Solid, LineCapStyle::Square);
+    moved->SetOffset(-7);
+    auto const framed = make<SimpleFillSymbol>();
+    framed->SetOutlineSymbol(pen(6));
+    auto const star = make<SimpleMarkerSymbol>();
+    star->setStyle(SimpleMarkerStyle::Star);
+    star->SetSize(60);
+    star->SetAngle(20);
+    star->setOutlineWidth(5);
+    row("mitred corner", pen(12), corner, true);
+    row("line beside its course", moved, corner, false);
+    row("frame", framed, make<Envelope>(20, 30, 120, 140), true);
+    row("plain area", make<SimpleFillSymbol>(), make<Envelope>(20, 30, 120, 140), true);
+    row("star", star, make<Point>(90, 90, 0), true);
+  }
+  void boundaryCoversTheDrawing() {
+    QFETCH(_ptr_t<Symbol>, symbol);
+    QFETCH(_ptr_t<Geometry>, geometry);
+    QFETCH(bool, isTight);
+    Canvas canvas;
+    QRect const covered = canvas.draw(*symbol, geometry).covered();
+    QRect const boundary = aligned(symbol->QueryBoundary(canvas.transformation(), geometry));
+    QVERIFY(!covered.isEmpty());
+    QVERIFY(boundary.contains(covered));
+    if (isTight) QVERIFY(covered.adjusted(-2, -2, 2, 2).contains(boundary));
+  }
+
+  void nothingToDrawDrawsNothing() {
+    Canvas canvas;
+    SimpleLineSymbol none;
+    none.SetStyle(SimpleLineStyle::Null);
+    SimpleFillSymbol fill;
+    double const infinite = std::numeric_limits<double>::infinity();
+    canvas.draw(none, polyline({{0, 0}, {100, 100}}));
+    canvas.draw(*pen(0), polyline({{0, 0}, {100, 100}}));
+    canvas.draw(*pen(3), nullptr);
+    canvas.draw(*pen(3), make<Envelope>());
+    canvas.draw(*pen(3), polyline({{infinite, 0}, {std::nan(""), 3}}));
+    canvas.draw(*pen(3), make<Point>(50, 50, 0));
+    canvas.draw(fill, polyline({{0, 0}, {100, 100}, {0, 100}}));
+    QVERIFY(canvas.covered().isEmpty());
+    QVERIFY(!none.QueryBoundary(canvas.transformation(), polyline({{0, 0}, {1, 1}})));
+    QVERIFY(!fill.QueryBoundary(canvas.transformation(), make<Envelope>()));
+  }
+
+  void cloneIsIndependent() {
+    SimpleFillSymbol fill;
+    fill.SetOutlineSymbol(pen(3));
+    auto const clone = SysUtility::ptr_cast<SimpleFillSymbol>(fill.Clone());
+    clone->GetOutlineSymbol()->SetWidth(9);
+    clone->SetColor(Qt::red);
+    QCOMPARE(fill.GetOutlineSymbol()->GetWidth(), 3.0);
+    QVERIFY(fill.GetColor() != QColor(Qt::red));
+  }
+
+  void textHangsOnItsPosition_data() {
+    QTest::addColumn<int>("horizontal");
+    QTest::addColumn<int>("vertical");
+    QTest::addColumn<QRectF>("allowed");  // where the letters may be, from the position, in points
+    QTest::newRow("left on the baseline") << 0 << 2 << QRectF(-0.5, -40, 200, 40.5);
+    QTest::newRow("right on the baseline") << 2 << 2 << QRectF(-200, -40, 200.5, 40.5);
+    QTest::newRow("left below the top") << 0 << 0 << QRectF(-0.5, 0, 200, 40);
+    QTest::newRow("right above the bottom") << 2 << 3 << QRectF(-200, -40, 200.5, 40);
+  }
+  void textHangsOnItsPosition() {
+    QFETCH(int, horizontal);
+    QFETCH(int, vertical);
+    QFETCH(QRectF, allowed);
+    TextFormat format;
+    format.size = 20;
+    format.horizontal = static_cast<HorizontalAlignment>(horizontal);
+    format.vertical = static_cast<VerticalAlignment>(vertical);
+    TextSymbol const symbol(format);
+    QRectF const ink = symbol.outline(QStringLiteral("HAMBURG")).boundingRect();
+    QVERIFY(allowed.contains(ink));
+    QVERIFY(symbol.bounds(QStringLiteral("HAMBURG")).adjusted(-0.01, -0.01, 0.01, 0.01).contains(ink));
+  }
+
+  void textIsDrawnWhereItsOutlineIs() {
+    TextFormat format;
+    format.size = 24;
+    format.haloSize = 2;
+    format.haloColor = Qt::yellow;
+    format.horizontal = HorizontalAlignment::Center;
+    format.vertical = VerticalAlignment::Middle;
+    TextSymbol const symbol(format);
+    QString const text = QStringLiteral("Øre\nfjord");
+    Canvas canvas;
+    {
+      QPainter painter(&canvas.image());
+      symbol.drawAt(painter, QPointF(100, 100), 1.5, 90, text);
+    }
+    // Turned a quarter counterclockwise: what was to the right is above.
+    QTransform const placed = QTransform::fromTranslate(100, 100).rotate(-90).scale(1.5, 1.5);
+    QRectF const ink = placed.mapRect(symbol.outline(text).boundingRect()).adjusted(-3, -3, 3, 3);
+    QVERIFY(ink.toAlignedRect().adjusted(-1, -1, 1, 1).contains(canvas.covered()));
+    QVERIFY(canvas.covered().contains(ink.toAlignedRect().adjusted(2, 2, -2, -2)));
+    QVERIFY(placed.mapRect(symbol.bounds(text)).toAlignedRect().contains(canvas.covered()));
+  }
+
+  void textShapeIsLinear() {
+    TextFormat small, large;
+    small.size = 7;
+    large.size = 70;
+    QRectF const a = TextSymbol(small).bounds(QStringLiteral("Wide & narrow"));
+    QRectF const b = TextSymbol(large).bounds(QStringLiteral("Wide & narrow"));
+    QVERIFY(std::abs(a.width() * 10 - b.width()) < 1e-6);
+    QVERIFY(TextSymbol(small).bounds(QString()).isNull());
+    small.letterSpacing = 2;
+    QRectF const spaced = TextSymbol(small).bounds(QStringLiteral("HHHH"));
+    small.letterSpacing = 0;
+    QVERIFY(std::abs(spaced.width() - TextSymbol(small).bounds(QStringLiteral("HHHH")).width() - 6) < 0.05);
+  }
+};
+
+QTEST_MAIN(SymbolTest)
+#include "SymbolTest.moc"

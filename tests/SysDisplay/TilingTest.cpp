@@ -1,0 +1,252 @@
+#include "host/SysDisplay/FillPainter.h"
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
+#include "host/SysDisplay/SvgMarkerSymbol.h"
+#include "host/SysDisplay/TextSymbol.h"
+
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+#include <SysGeometry/MultiPolyline.h>
+#include <SysGeometry/Polygon.h>
+#include <SysGeometry/Polyline.h>
+
+#include <QPainter>
+#include <QtTest>
+
+#include <cmath>
+#include <functional>
+
+using namespace SysDisplay;
+using namespace SysGeometry;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace {
+
+constexpr int widthPx = 700, heightPx = 500;
+
+// A world whose numbers have no short binary form, so that the transformations of two tiles really differ in rounding.
+constexpr double left = 512345.678, top = 5400123.456, unitsPerPx = 0.37;
+
+double worldX(double px) { return left + px * unitsPerPx; }
+double worldY(double px) { return top - px * unitsPerPx; }
+QPointF world(QPointF const& px) { return {worldX(px.x()), worldY(px.y())}; }
+
+QVector<QPointF> worldLine(QVector<QPointF> line) {
+  for (QPointF& point : line) point = world(point);
+  return line;
+}
+
+using Transformation = _ptr_t<DisplayTransformation>;
+using Scene = std::function<void(QPainter&, Transformation const&)>;
+
+// Draws one rectangle of the whole image with a transformation of its own, as the export does.
+QImage drawn(Scene const& scene, QRect const& tile, double pageScale) {
+  auto const transformation = make<DisplayTransformation>();
+  transformation->SetPageScale(pageScale);
+  transformation->SetDeviceFrame(QRect(QPoint(0, 0), tile.size()));
+  double const xmin = worldX(tile.x()), ymax = worldY(tile.y());
+  transformation->SetVisibleBounds(
+      make<Envelope>(xmin, ymax - tile.height() * unitsPerPx, xmin + tile.width() * unitsPerPx, ymax));
+  QImage image(tile.size(), QImage::Format_RGBA8888_Premultiplied);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  scene(painter, transformation);
+  return image;
+}
+
+QVector<QPointF> zigzag(double amplitude, int count) {
+  QVector<QPointF> line;
+  for (int i = 0; i <= count; ++i) line << QPointF(-50 + 800.0 * i / count, 250 + (i % 2 ? amplitude : -amplitude));
+  return line;
+}
+
+// A jagged coast with a hole, much of it outside of the image.
+QVector<QVector<QPointF>> blob(double radius) {
+  QVector<QPointF> outer, hole;
+  for (int i = 0; i < 720; ++i) {
+    double const angle = i * 0.5 * M_PI / 180,
+                 r = radius * (1 + 0.15 * std::sin(13 * angle) + 0.02 * std::cos(171 * angle));
+    outer << world({350 + r * std::cos(angle), 250 + r * std::sin(angle)});
+    if (i % 8 == 0) hole << world({340 + radius / 4 * std::cos(angle), 260 - radius / 4 * std::sin(angle)});
+  }
+  return {outer, hole};
+}
+
+_ptr_t<SimpleLineSymbol> line(SimpleLineStyle style, double width, LineCapStyle cap, LineJoinStyle join,
+                              QColor const& color = QColor(200, 30, 30, 150)) {
+  auto const symbol = make<SimpleLineSymbol>();
+  symbol->SetStyle(style);
+  symbol->SetWidth(width);
+  symbol->SetCapStyle(cap);
+  symbol->SetJoinStyle(join);
+  symbol->SetColor(color);
+  return symbol;
+}
+
+Scene lines(_ptr_t<SimpleLineSymbol> symbol, QVector<QVector<QPointF>> lines) {
+  for (QVector<QPointF>& line : lines) line = worldLine(line);
+  auto const geometry = make<MultiPolyline>(lines);
+  return [=](QPainter& painter, Transformation const& t) { symbol->Draw(painter, t, geometry); };
+}
+
+Scene area(SimpleFillStyle style, QVector<QVector<QPointF>> const& rings, _ptr_t<LineSymbol> const& outline) {
+  auto const symbol = make<SimpleFillSymbol>();
+  symbol->SetStyle(style);
+  symbol->SetColor(QColor(30, 120, 200, 180));
+  symbol->SetOutlineSymbol(outline);
+  auto const geometry = make<Polygon>(rings);
+  return [=](QPainter& painter, Transformation const& t) { symbol->Draw(painter, t, geometry); };
+}
+
+Scene markers(_ptr_t<MarkerSymbol> const& symbol) {
+  return [=](QPainter& painter, Transformation const& t) {
+    DrawTarget target(painter, *t);
+    MarkerPainter marker(target, *symbol);
+    int const step = symbol->GetSize() > 100 ? 9 : 1;
+    for (int i = 0; i < 40; i += step) marker.draw(worldX(i * 17.37 - 5), worldY(i * 12.83 + 0.37 * i));
+  };
+}
+
+Scene texts(TextFormat const& format) {
+  TextSymbol const symbol(format);
+  return [=](QPainter& painter, Transformation const& t) {
+    DrawTarget target(painter, *t);
+    for (int i = 0; i < 12; ++i)
+      symbol.drawAt(target, t->ToDevice().map(world({i * 61.3 - 20, 30 + i * 41.7})), i * 31.0,
+                    QStringLiteral("Ångström %1\nWAVE fjord").arg(i));
+  };
+}
+
+char const compass[] =
+    "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 20 40'><defs><linearGradient id='g'>"
+    "<stop offset='0' stop-color='red'/><stop offset='1' stop-color='blue'/></linearGradient></defs>"
+    "<path d='M10 1 C 20 10 18 30 10 39 C 2 30 0 10 10 1 Z' fill='url(#g)' stroke='black'/>"
+    "<circle cx='10' cy='20' r='4.3' fill='white' stroke='green'/></svg>";
+
+}  // namespace
+
+Q_DECLARE_METATYPE(Scene)
+
+class TilingTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void tilesEqualTheWhole_data() {
+    QTest::addColumn<Scene>("scene");
+    using S = SimpleLineStyle;
+    using C = LineCapStyle;
+    using J = LineJoinStyle;
+    auto const row = [](char const* name, Scene const& scene) { QTest::newRow(name) << scene; };
+    QVector<QPointF> const far{{-1e7, -6.3e6}, {350, 250}, {2e7, 9.9e6}, {9e6, -1e7}, {-5e6, 8e6}, {-7.7e6, 8.1e6}};
+    QVector<QPointF> const flatFar{{-1e7, 200.3}, {1e7, 260.7}};
+    QVector<QVector<QPointF>> const farRing{worldLine(far)};
+
+    row("thin line", lines(line(S::Solid, 0.3, C::Round, J::Round), {zigzag(180, 31)}));
+    row("wide round joins", lines(line(S::Solid, 17, C::Round, J::Round), {zigzag(180, 13)}));
+    row("wide mitred joins", lines(line(S::Solid, 17, C::Square, J::Miter), {zigzag(60, 13)}));
+    row("wide bevelled joins", lines(line(S::Solid, 17, C::Butt, J::Bevel), {zigzag(180, 13)}));
+    row("dashes", lines(line(S::Dash, 3, C::Butt, J::Miter), {zigzag(180, 31), zigzag(7, 400)}));
+    row("dots with round caps", lines(line(S::Dot, 5, C::Round, J::Round), {zigzag(180, 31)}));
+    row("dashes and dots", lines(line(S::DashDotDot, 2.2, C::Square, J::Bevel), {zigzag(180, 31)}));
+    row("dashes around a coast", area(SimpleFillStyle::Null, blob(280), line(S::DashDot, 2, C::Round, J::Round)));
+    row("line from very far", lines(line(S::Solid, 4, C::Round, J::Round), {far, flatFar}));
+    row("dashes from very far", lines(line(S::Dash, 2, C::Butt, J::Round), {far, flatFar}));
+    auto const moved = line(S::Dash, 2, C::Round, J::Round);
+    moved->SetOffset(9);
+    row("line beside its course", lines(moved, {zigzag(90, 17), far}));
+    row("area and outline", area(SimpleFillStyle::Solid, blob(280), line(S::Solid, 1.3, C::Round, J::Round)));
+    row("area all around the image", area(SimpleFillStyle::Solid, blob(1500), line(S::Solid, 9, C::Round, J::Miter)));
+    row("area with very far corners", area(SimpleFillStyle::Solid, farRing, line(S::Solid, 3, C::Butt, J::Miter)));
+    char const* const hatches[] = {"level hatch",  "upright hatch", "falling hatch",
+                                   "rising hatch", "cross hatch",   "diagonal cross hatch"};
+    for (int i = 0; i < 6; ++i) row(hatches[i], area(static_cast<SimpleFillStyle>(2 + i), blob(280), nullptr));
+    row("hatch with very far corners", area(SimpleFillStyle::DiagonalCross, farRing, nullptr));
+    row("rectangle with a border",
+        area(SimpleFillStyle::Solid, {worldLine({{20.3, 9}, {690, 9}, {690, 480}, {20.3, 480}})},
+             line(S::Solid, 2, C::Butt, J::Miter)));
+    for (auto style : {SimpleMarkerStyle::Circle, SimpleMarkerStyle::X, SimpleMarkerStyle::Star}) {
+      auto const marker = make<SimpleMarkerSymbol>();
+      marker->setStyle(style);
+      marker->SetSize(19);
+      marker->SetAngle(17);
+      marker->setOutlineWidth(1.1);
+      QTest::addRow("marker %d", static_cast<int>(style)) << markers(marker);
+    }
+    for (double size : {24.0, 300.0}) {
+      auto const marker = make<SvgMarkerSymbol>();
+      QCOMPARE(marker->setSvg(compass), QString());
+      marker->SetSize(size);
+      marker->SetAngle(33);
+      QTest::addRow("SVG marker of %g points", size) << markers(marker);
+    }
+    TextFormat format;
+    format.size = 13;
+    row("text", texts(format));
+    format.haloSize = 1.5;
+    format.haloColor = QColor(255, 230, 0, 128);
+    format.bold = true;
+    row("text with a halo", texts(format));
+    format.size = 90;
+    row("large text", texts(format));
+  }
+  void tilesEqualTheWhole() {
+    QFETCH(Scene, scene);
+    for (double pageScale : {1.0, 600 / 96.0}) {
+      QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx), pageScale);
+      for (int size : {64, 100, 512}) {
+        QImage tiled(whole.size(), whole.format());
+        QPainter painter(&tiled);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        for (int y = 0; y < heightPx; y += size)
+          for (int x = 0; x < widthPx; x += size) {
+            QRect const tile = QRect(x, y, size, size) & whole.rect();
+            painter.drawImage(tile.topLeft(), drawn(scene, tile, pageScale));
+          }
+        painter.end();
+        QVERIFY2(tiled == whole, qPrintable(difference(whole, tiled, size)));
+      }
+      QImage blank(whole.size(), whole.format());
+      blank.fill(Qt::white);
+      QVERIFY2(whole != blank, "the scene shows nothing");
+    }
+  }
+
+  // A painter that is moved and clipped, as that of a widget, shows the same.
+  void movedAndClippedPainterShowsTheSame() {
+    Scene const scene = area(SimpleFillStyle::Cross, blob(280),
+                             line(SimpleLineStyle::Dash, 5, LineCapStyle::Round, LineJoinStyle::Round));
+    QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx), 1);
+    Scene const moved = [&](QPainter& painter, Transformation const& t) {
+      painter.translate(-300, -200);
+      painter.setClipRect(300, 200, 200, 100);
+      scene(painter, t);
+      QCOMPARE(painter.transform(), QTransform::fromTranslate(-300, -200));
+      QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));
+    };
+    QImage const part = drawn(moved, QRect(0, 0, widthPx, heightPx), 1);
+    QCOMPARE(part.copy(0, 0, 200, 100), whole.copy(300, 200, 200, 100));
+  }
+
+private:
+  static QString difference(QImage const& a, QImage const& b, int tileSize) {
+    int count = 0, most = 0;
+    QPoint first(-1, -1);
+    for (int y = 0; y < a.height(); ++y)
+      for (int x = 0; x < a.width(); ++x) {
+        QRgb const p = a.pixel(x, y), q = b.pixel(x, y);
+        if (p == q) continue;
+        if (!count++) first = {x, y};
+        most = std::max(
+            {most, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)), std::abs(qBlue(p) - qBlue(q))});
+      }
+    return QStringLiteral("tiles of %1: %2 pixels differ, by up to %3, first at (%4, %5)")
+        .arg(tileSize)
+        .arg(count)
+        .arg(most)
+        .arg(first.x())
+        .arg(first.y());
+  }
+};
+
+QTEST_MAIN(TilingTest)
+#include "TilingTest.moc"

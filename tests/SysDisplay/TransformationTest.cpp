@@ -1,0 +1,105 @@
+#include <SysDisplay/DisplayTransformation.h>
+
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+
+namespace {
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+SysUtility::_ptr_t<Envelope> box(QRectF const& r) {
+  return SysUtility::make<Envelope>(r.left(), r.top(), r.right(), r.bottom());
+}
+
+QRectF rectOf(SysUtility::_ptr_t<Envelope> const& e) {
+  return QRectF(QPointF(e->GetXMin(), e->GetYMin()), QPointF(e->GetXMax(), e->GetYMax()));
+}
+
+}  // namespace
+
+class TransformationTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void fitting_data() {
+    QTest::addColumn<QRectF>("bounds");  // x, y, width, height with y upwards
+    QTest::addColumn<QRectF>("fitted");
+    QTest::newRow("equal aspect stays as it is") << QRectF(1, 2, 20, 10) << QRectF(1, 2, 20, 10);
+    QTest::newRow("narrow bounds grow to the right") << QRectF(0, 0, 10, 10) << QRectF(0, 0, 20, 10);
+    QTest::newRow("low bounds grow downwards") << QRectF(0, 0, 20, 5) << QRectF(0, -5, 20, 10);
+    QTest::newRow("corners are ordered") << QRectF(20, 10, -20, -10) << QRectF(0, 0, 20, 10);
+    QTest::newRow("a flat line takes the frame's aspect") << QRectF(0, 7, 20, 0) << QRectF(0, -3, 20, 10);
+    QTest::newRow("an upright line takes the frame's aspect") << QRectF(3, 0, 0, 10) << QRectF(3, 0, 20, 10);
+    QTest::newRow("a point is ignored") << QRectF(5, 5, 0, 0) << QRectF(0, 0, 2, 1);
+    QTest::newRow("not a number is ignored") << QRectF(notANumber, 0, 4, 4) << QRectF(0, 0, 2, 1);
+    QTest::newRow("infinite bounds are ignored")
+        << QRectF(-1e308, 0, 1.7e308, 4).adjusted(-1e308, 0, 1e308, 0) << QRectF(0, 0, 2, 1);
+  }
+  void fitting() {
+    QFETCH(QRectF, bounds);
+    QFETCH(QRectF, fitted);
+    DisplayTransformation transformation;
+    transformation.SetDeviceFrame(QRect(0, 0, 200, 100));
+    transformation.SetVisibleBounds(box(QRectF(0, 0, 2, 1)));
+    transformation.SetVisibleBounds(box(bounds));
+    QCOMPARE(rectOf(transformation.GetFittedBounds()), fitted);
+  }
+
+  void pixels_data() {
+    QTest::addColumn<QPointF>("world");
+    QTest::addColumn<QPoint>("pixel");
+    int const most = std::numeric_limits<int>::max(), least = std::numeric_limits<int>::min();
+    QTest::newRow("upper left corner") << QPointF(0, 10) << QPoint(5, 7);
+    QTest::newRow("lower right corner lies beyond the last pixel") << QPointF(20, 0) << QPoint(205, 107);
+    QTest::newRow("below half rounds down") << QPointF(0.049, 10) << QPoint(5, 7);
+    QTest::newRow("half rounds up") << QPointF(0.05, 9.95) << QPoint(6, 8);
+    QTest::newRow("half rounds up left of zero, too") << QPointF(-0.65, 10.75) << QPoint(-1, 0);
+    QTest::newRow("far away saturates") << QPointF(1e300, 1e300) << QPoint(most, least);
+    QTest::newRow("far away saturates the other way") << QPointF(-1e300, -1e300) << QPoint(least, most);
+  }
+  void pixels() {
+    QFETCH(QPointF, world);
+    QFETCH(QPoint, pixel);
+    DisplayTransformation transformation;
+    transformation.SetDeviceFrame(QRect(5, 7, 200, 100));
+    transformation.SetVisibleBounds(box(QRectF(0, 0, 20, 10)));
+    QCOMPARE(transformation.FromMapPoint(world.x(), world.y()), pixel);
+    QPointF const exact = transformation.ToDevice().map(world);
+    if (std::abs(exact.x()) < 1e6) QVERIFY(std::abs(exact.x() - pixel.x()) <= 0.5 + 1e-9);
+  }
+
+  void pixelAndWorldAreInverse() {
+    DisplayTransformation transformation;
+    transformation.SetDeviceFrame(QRect(0, 0, 793, 1122));
+    transformation.SetVisibleBounds(box(QRectF(500000, 5200000, 12345, 6789)));
+    for (QPoint pixel : {QPoint(0, 0), QPoint(792, 1121), QPoint(-300, 4000)}) {
+      auto const world = transformation.ToMapPoint(pixel);
+      QCOMPARE(transformation.FromMapPoint(world->GetX(), world->GetY()), pixel);
+    }
+  }
+
+  // Scales belong to their owner: neither bounds nor frame nor device may change them, and a clone keeps them.
+  void scalesStay() {
+    DisplayTransformation transformation;
+    transformation.SetPageScale(3.125);
+    transformation.SetMapScale(25000);
+    auto const clone = transformation.Clone();
+    clone->SetDeviceFrame(QRect(0, 0, 512, 512));
+    clone->SetVisibleBounds(box(QRectF(0, 0, 1, 1)));
+    clone->SetPaintDevice(nullptr);
+    QCOMPARE(clone->GetPageScale(), 3.125);
+    QCOMPARE(clone->GetMapScale(), 25000.0);
+    QCOMPARE(clone->PixelsPerPoint(), 3.125 * 96 / 72);
+    clone->SetPageScale(1);
+    QCOMPARE(transformation.GetPageScale(), 3.125);
+    QCOMPARE(transformation.GetDeviceFrame(), QRect(0, 0, 1, 1));
+  }
+};
+
+QTEST_MAIN(TransformationTest)
+#include "TransformationTest.moc"
