@@ -68,6 +68,7 @@ public:
 
   /// The screen on which the view is shown, borrowed, or null. Belongs to the desktop.
   void setSurface(ViewSurface* surface);
+  ViewSurface* surface() const;
 
 protected:
   ActiveView();
@@ -76,6 +77,9 @@ protected:
   virtual void applyExtent(SysGeometry::Envelope const& extent);
 
 private:
+  void show(SysGeometry::Envelope const& extent);
+  void followFrame();
+
   struct Private;
   std::unique_ptr<Private> d;
   friend class ExtentHistory;

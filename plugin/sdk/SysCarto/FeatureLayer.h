@@ -27,6 +27,10 @@ public:
   void SetScaleRange(double minDenominator, double maxDenominator);
   void SetPriority(int priority);
 
+  // The limits as they were set, 0 for an open side: what a document stores.
+  double storedMinScale() const;
+  double storedMaxScale() const;
+
 private:
   struct Private;
   std::unique_ptr<Private> d;

@@ -22,7 +22,7 @@ public:
   virtual bool IsVisible() const;
 
   // A layer shows strictly between its scale limits, the smallest and the largest scale denominator; 0 and 0 is no
-  // limit. The two are set together, so that never only one of them is 0.
+  // limit. Where one side alone was set, the other answers an extreme value, so that never only one of them is 0.
   virtual double GetMinScale() const;
   virtual double GetMaxScale() const;
 
@@ -39,6 +39,10 @@ public:
 
   /// 0 for a side without a limit; the other side then keeps its meaning.
   void SetScaleRange(double minDenominator, double maxDenominator);
+
+  // The limits as they were set, 0 for an open side: what a document stores.
+  double storedMinScale() const;
+  double storedMaxScale() const;
 
 protected:
   Layer();

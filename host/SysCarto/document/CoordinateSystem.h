@@ -1,0 +1,24 @@
+#pragma once
+
+#include <SysCarto/Export.h>
+
+#include <QString>
+
+#include <memory>
+
+class OGRSpatialReference;
+
+namespace SysCarto {
+
+/// A sentence that says what is wrong with the definition of a map's coordinate system; empty where it can be used.
+///
+/// Right are an authority's code ("EPSG:8857"), WKT, a PROJ text, and an empty text for plain coordinates. The system
+/// must be geographic or projected. Nothing that would make PROJ or GDAL open a file or an address is let through:
+/// documents come from strangers.
+SYSCARTO_EXPORT QString checkCoordinateSystem(QString const& definition);
+
+/// The coordinate system of a definition, with x (easting, longitude) before y; null for plain coordinates and for what
+/// `checkCoordinateSystem` refuses.
+SYSCARTO_EXPORT std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definition);
+
+}  // namespace SysCarto

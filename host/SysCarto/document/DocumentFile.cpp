@@ -1,0 +1,83 @@
+#include "DocumentFile.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace SysCarto {
+
+namespace {
+
+constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 largestDocument = 256 * mebibyte;
+
+QString translated(char const* text) { return QCoreApplication::translate("MapDocument", text); }
+
+// What stands in the way before a byte is read. A device or a pipe would be read for ever.
+QString problemWith(QFileInfo const& file) {
+  if (file.filePath().isEmpty()) return translated("no file was named; choose a .kdx file");
+  if (!file.exists()) return translated("there is no such file; check the name and the folder");
+  if (file.isDir()) return translated("this is a folder; choose a .kdx file in it");
+  if (!file.isFile()) return translated("this is no ordinary file; choose a .kdx file");
+  return QString();
+}
+
+// Where the parser stopped, as a text editor counts it.
+QString placeOf(QByteArray const& text, int offset) {
+  QByteArray const before = text.left(offset);
+  int const line = before.count('\n') + 1;
+  int const column = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).size() + 1;
+  return translated("line %1, column %2").arg(line).arg(column);
+}
+
+QString problemWith(QByteArray const& text, QJsonParseError const& problem) {
+  return translated("%1: this is not JSON (%2); mend the file in a text editor or open another one")
+      .arg(placeOf(text, problem.offset), problem.errorString());
+}
+
+std::optional<QByteArray> readAll(QString const& path, QString& problem) {
+  problem = problemWith(QFileInfo(path));
+  if (!problem.isEmpty()) return std::nullopt;
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    problem = translated("the file can't be read (%1); make it readable or choose another one").arg(file.errorString());
+    return std::nullopt;
+  }
+  QByteArray const content = file.read(largestDocument + 1);
+  if (content.size() > largestDocument)
+    problem = translated("the file is larger than %1 MB, too large for a map document; choose another one")
+                  .arg(largestDocument / mebibyte);
+  else if (file.error() != QFileDevice::NoError)
+    problem = translated("the file can't be read (%1); check the disk").arg(file.errorString());
+  if (!problem.isEmpty()) return std::nullopt;
+  return content;
+}
+
+}  // namespace
+
+QString aboutFile(QString const& path, QString const& problem) {
+  return path.isEmpty() ? problem : QDir::toNativeSeparators(path) + QStringLiteral(": ") + problem;
+}
+
+std::optional<QJsonObject> readDocumentFile(QString const& path, QString& error) {
+  QString problem;
+  QJsonDocument document;
+  if (auto const content = readAll(path, problem)) {
+    QJsonParseError parsing;
+    document = QJsonDocument::fromJson(*content, &parsing);
+    if (parsing.error != QJsonParseError::NoError)
+      problem = problemWith(*content, parsing);
+    else if (!document.isObject())
+      problem = translated("the file holds a list where a map document holds an object; choose another one");
+  }
+  if (problem.isEmpty()) return document.object();
+  error = aboutFile(path, problem);
+  return std::nullopt;
+}
+
+QByteArray documentText(QJsonObject const& document) { return QJsonDocument(document).toJson(QJsonDocument::Indented); }
+
+}  // namespace SysCarto

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+namespace SysCarto {
+
+/// How long a map unit is on the ground, in a map's coordinate system.
+class GroundScale {
+public:
+  /// An empty definition, or one that can't be used, takes a unit for a metre.
+  explicit GroundScale(QString const& definition);
+  ~GroundScale();
+  GroundScale(GroundScale const&) = delete;
+  GroundScale& operator=(GroundScale const&) = delete;
+
+  /// Metres of ground on a unit along x at a place in map units. `step` is a small length in map units over which it is
+  /// measured. Always positive: where the projection has no ground (beyond its edge), its nominal unit counts.
+  double metresPerUnit(double x, double y, double step) const;
+
+private:
+  struct Private;
+  std::unique_ptr<Private> d;
+};
+
+}  // namespace SysCarto

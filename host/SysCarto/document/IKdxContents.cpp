@@ -1,0 +1,7 @@
+#include <SysCarto/IKdxContents.h>
+
+namespace SysCarto {
+
+IKdxContents::~IKdxContents() = default;
+
+}  // namespace SysCarto

@@ -1,0 +1,219 @@
+#include <SysCarto/MapDocument.h>
+
+#include "DocumentArchive.h"
+#include "DocumentFile.h"
+#include "OperationStack.h"
+
+#include "host/SysUtility/FileSaver.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QPainter>
+#include <QUndoStack>
+
+#include <algorithm>
+#include <cmath>
+
+namespace SysCarto {
+
+using SysUtility::_ptr_t;
+using SysUtility::Archive;
+using SysUtility::make;
+
+namespace {
+
+constexpr int thumbnailPx = 256;
+constexpr double cmPerInch = 2.54, pixelsPerInch = 96.0;
+
+QString translated(char const* text) { return QCoreApplication::translate("MapDocument", text); }
+
+QString folderOf(QString const& path) { return QFileInfo(path).absolutePath(); }
+
+// Written like every file of ours, so that a full disk does not leave half a backup in the place of a whole one.
+QString keepOldFile(QString const& path) {
+  QFile file(path);
+  if (!file.exists()) return QString();
+  if (!file.open(QIODevice::ReadOnly))
+    return aboutFile(path, translated("the old file can't be read to keep it as a backup (%1); save without a backup")
+                               .arg(file.errorString()));
+  return SysUtility::FileSaver::save(path + QLatin1Char('~'), file.readAll());
+}
+
+QStringList unknownFieldSentences(QString const& path, QStringList const& fields) {
+  QStringList sentences;
+  for (QString const& field : fields)
+    sentences << aboutFile(path, field + translated(": this field is unknown; it has no effect and will be missing "
+                                                    "after the next save"));
+  return sentences;
+}
+
+}  // namespace
+
+struct MapDocument::Private {
+  explicit Private(MapDocument const* document) : operations(make<OperationStack>(&history, document)) {}
+  ~Private() { operations->detach(); }
+
+  DocumentContent content;
+  QString path;
+  QStringList errors, warnings;
+  int unreadableSources = 0;
+  QUndoStack history;
+  _ptr_t<OperationStack> operations;
+
+  void take(QString const& newPath, DocumentContent const& newContent);
+  bool failed(QString const& sentence);
+  DocumentContext contextFor(QString const& file, bool relativePaths) const;
+  QString write(QString const& file, bool relativePaths, bool keepBackup) const;
+};
+
+void MapDocument::Private::take(QString const& newPath, DocumentContent const& newContent) {
+  path = newPath;
+  content = newContent;
+  history.clear();
+  errors.clear();
+  warnings.clear();
+  unreadableSources = 0;
+}
+
+bool MapDocument::Private::failed(QString const& sentence) {
+  errors = QStringList{sentence};
+  return false;
+}
+
+DocumentContext MapDocument::Private::contextFor(QString const& file, bool relativePaths) const {
+  DocumentContext context;
+  context.folder = folderOf(file);
+  context.relativePaths = relativePaths;
+  if (content.layout) context.maps = mapsOf(*content.layout);
+  return context;
+}
+
+// Everything that can go wrong does so before the old file gives way.
+QString MapDocument::Private::write(QString const& file, bool relativePaths, bool keepBackup) const {
+  if (!content.layout) return translated("There is no document to save; open one or make a new one.");
+  if (file.isEmpty()) return translated("The document has no file yet; save it under a name.");
+  auto context = contextFor(file, relativePaths);
+  DocumentContent written{content.layout, relativePaths};
+  Archive archive;
+  describeDocument(archive, written, context);
+  if (!archive.ok()) return aboutFile(file, archive.error() + translated("; change this value, then save again"));
+  if (keepBackup) {
+    QString const problem = keepOldFile(file);
+    if (!problem.isEmpty()) return problem;
+  }
+  return SysUtility::FileSaver::save(file, documentText(archive.json()));
+}
+
+MapDocument::MapDocument() : d(std::make_unique<Private>(this)) {}
+MapDocument::~MapDocument() = default;
+
+bool MapDocument::New(QString const& path) {
+  DocumentContent content;
+  content.layout = make<PageLayout>();
+  content.layout->SetPage(make<Page>());
+  content.layout->ZoomToWholePage();
+  d->take(path, content);
+  return true;
+}
+
+bool MapDocument::Open(QString const& path) {
+  QString problem;
+  auto const json = readDocumentFile(path, problem);
+  if (!json) return d->failed(problem);
+
+  DocumentContent content;
+  DocumentContext context;
+  context.folder = folderOf(path);
+  Archive archive(*json);
+  describeDocument(archive, content, context);
+  if (!archive.ok())
+    return d->failed(aboutFile(path, archive.error() + translated("; correct the file or open another one")));
+
+  content.layout->ZoomToWholePage();
+  d->take(path, content);
+  d->warnings = unknownFieldSentences(path, archive.warnings());
+  for (QString const& warning : context.warnings) d->warnings << aboutFile(path, warning);
+  d->unreadableSources = context.unreadableSources;
+  return true;
+}
+
+bool MapDocument::Save(bool relativePaths, bool keepBackup) { return SaveAs(d->path, relativePaths, keepBackup); }
+
+bool MapDocument::SaveAs(QString const& path, bool relativePaths, bool keepBackup) {
+  QString const problem = d->write(path, relativePaths, keepBackup);
+  if (!problem.isEmpty()) return d->failed(problem);
+  d->path = path;
+  d->content.relativePaths = relativePaths;
+  d->errors.clear();
+  d->history.setClean();
+  return true;
+}
+
+void MapDocument::Close() { d->take(QString(), DocumentContent()); }
+
+_ptr_t<ActiveView> MapDocument::GetActiveView() const { return d->content.layout; }
+
+void MapDocument::GetMaps(QList<_ptr_t<Map>>& maps) const {
+  maps.clear();
+  if (d->content.layout) d->content.layout->GetMaps(maps);
+}
+
+_ptr_t<Map> MapDocument::GetMap(int index) const {
+  QList<_ptr_t<Map>> maps;
+  GetMaps(maps);
+  return maps.value(index);
+}
+
+int MapDocument::GetMapCount() const {
+  QList<_ptr_t<Map>> maps;
+  GetMaps(maps);
+  return maps.size();
+}
+
+_ptr_t<PageLayout> MapDocument::GetPageLayout() const { return d->content.layout; }
+_ptr_t<SysUI::IOperationStack> MapDocument::GetOperationStack() const { return d->operations; }
+
+QImage MapDocument::Thumbnail() const {
+  Page* const page = d->content.layout ? d->content.layout->GetPage() : nullptr;
+  if (!page) return QImage();
+  double widthCm = 0, heightCm = 0;
+  page->QuerySize(widthCm, heightCm);
+  double const pixelsPerCm = thumbnailPx / std::max(widthCm, heightCm);
+  if (!std::isfinite(pixelsPerCm)) return QImage();
+  QSize const size(std::max(1, qRound(widthCm * pixelsPerCm)), std::max(1, qRound(heightCm * pixelsPerCm)));
+
+  QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+  picture.fill(Qt::white);
+  auto const transformation = make<SysDisplay::DisplayTransformation>();
+  transformation->SetDeviceFrame(picture.rect());
+  transformation->SetVisibleBounds(page->GetPageEnvelope());
+  transformation->SetPageScale(pixelsPerCm * cmPerInch / pixelsPerInch);
+  transformation->SetPaintDevice(&picture);
+  QPainter painter(&picture);
+  page->DrawBackground(painter, transformation);
+  d->content.layout->GetGraphicsContainer()->Draw(painter, transformation, 1, nullptr);
+  page->DrawBorder(painter, transformation);
+  return picture;
+}
+
+bool MapDocument::IsUsesRelativePaths() const { return d->content.relativePaths; }
+
+void MapDocument::ReplaceContents(_ptr_t<IKdxContents> const& contents) {
+  if (contents) setPageLayout(contents->GetPageLayout());
+}
+
+QString MapDocument::GetPath() const { return d->path; }
+QStringList MapDocument::GetErrors() const { return d->errors; }
+QStringList MapDocument::GetWarnings() const { return d->warnings; }
+int MapDocument::GetUnreadableSourceCount() const { return d->unreadableSources; }
+QUndoStack* MapDocument::history() const { return &d->history; }
+
+// The steps of another layout name elements that this one does not hold.
+void MapDocument::setPageLayout(_ptr_t<PageLayout> const& layout) {
+  if (layout == d->content.layout) return;
+  d->content.layout = layout;
+  d->history.clear();
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace SysCarto {
+
+/// Adds vertices along an edge whose image under a projection is a curve, until no piece of the curve lies farther than
+/// a tolerance from its chord. `Project` is called as bool(double& x, double& y).
+template <class Project>
+class CurveDivider {
+public:
+  /// `longest` is the length, along either axis of the source, beyond which an edge is divided in any case; edges
+  /// shorter than `shortest` are left as they are.
+  CurveDivider(Project project, double tolerance, double longest, double shortest)
+      : project_(project), tolerance_(tolerance), longest_(longest), shortest_(shortest) {}
+
+  struct End {
+    double x, y;    ///< before
+    double px, py;  ///< projected
+  };
+
+  /// Calls `visit(px, py)` for each vertex added between the two, in order.
+  template <class Visit>
+  void divide(End const& a, End const& b, Visit const& visit, int depth = 0) const {
+    double const length = std::max(std::abs(b.x - a.x), std::abs(b.y - a.y));
+    if (length < shortest_ || depth > deepest) return;
+    End middle{(a.x + b.x) / 2, (a.y + b.y) / 2, 0, 0};
+    middle.px = middle.x;
+    middle.py = middle.y;
+    if (!project_(middle.px, middle.py)) return;
+    if (length <= longest_ && distance(a, b, middle) <= tolerance_) return;
+    divide(a, middle, visit, depth + 1);
+    visit(middle.px, middle.py);
+    divide(middle, b, visit, depth + 1);
+  }
+
+private:
+  static constexpr int deepest = 16;
+
+  static double distance(End const& a, End const& b, End const& p) {
+    double const dx = b.px - a.px, dy = b.py - a.py, squared = dx * dx + dy * dy;
+    double t = squared > 0 ? ((p.px - a.px) * dx + (p.py - a.py) * dy) / squared : 0;
+    t = std::clamp(t, 0.0, 1.0);
+    return std::hypot(a.px + t * dx - p.px, a.py + t * dy - p.py);
+  }
+
+  Project project_;
+  double tolerance_, longest_, shortest_;
+};
+
+}  // namespace SysCarto

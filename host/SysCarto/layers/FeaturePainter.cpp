@@ -1,0 +1,99 @@
+#include "FeaturePainter.h"
+
+#include "host/SysDisplay/FillPainter.h"
+#include "host/SysDisplay/MarkerPainter.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace SysCarto {
+
+using namespace SysDisplay;
+
+namespace {
+
+class PolygonPainter final : public FeaturePainter {
+public:
+  PolygonPainter(DrawTarget& target, FillSymbol const& symbol) : painter_(target, symbol) {}
+  bool isVisible() const { return painter_.isVisible(); }
+  double reachPx() const override { return painter_.reachPx(); }
+
+  void draw(ThinnedFeatures& features, int feature, Box const& area) override {
+    for (Part const& part : features.parts(feature)) {
+      if (!part.box.meets(area)) continue;
+      double const* const xy = features.vertices(part);
+      switch (part.kind) {
+        case PartKind::Ring: painter_.addRing(xy, part.count); break;
+        case PartKind::FilledRing: painter_.addRing(xy, part.count, false); break;
+        case PartKind::Outline: painter_.addOutline(xy, part.count); break;
+        case PartKind::Line:
+        case PartKind::Point: break;
+      }
+    }
+    painter_.draw();
+  }
+
+private:
+  FillPainter painter_;
+};
+
+class LineFeaturePainter final : public FeaturePainter {
+public:
+  LineFeaturePainter(DrawTarget& target, LineSymbol const& symbol) : painter_(target, symbol) {}
+  bool isVisible() const { return painter_.isVisible(); }
+  double reachPx() const override { return painter_.reachPx(); }
+
+  void draw(ThinnedFeatures& features, int feature, Box const& area) override {
+    for (Part const& part : features.parts(feature)) {
+      if (!part.box.meets(area)) continue;
+      double const* const xy = features.vertices(part);
+      if (part.kind == PartKind::Ring) painter_.addRing(xy, part.count);
+      if (part.kind == PartKind::Line || part.kind == PartKind::Outline) painter_.addLine(xy, part.count);
+    }
+    painter_.draw();
+  }
+
+private:
+  LinePainter painter_;
+};
+
+class PointPainter final : public FeaturePainter {
+public:
+  PointPainter(DrawTarget& target, MarkerSymbol const& symbol) : painter_(target, symbol) {}
+  bool isVisible() const { return painter_.isVisible(); }
+  double reachPx() const override {
+    QRectF const box = painter_.bounds();
+    return 4 + std::max({std::abs(box.left()), std::abs(box.right()), std::abs(box.top()), std::abs(box.bottom())});
+  }
+
+  void draw(ThinnedFeatures& features, int feature, Box const& area) override {
+    for (Part const& part : features.parts(feature))
+      if (part.kind == PartKind::Point && part.box.meets(area)) {
+        double const* const xy = features.vertices(part);
+        painter_.draw(xy[0], xy[1]);
+      }
+  }
+
+private:
+  MarkerPainter painter_;
+};
+
+template <class Painter, class Symbol>
+std::unique_ptr<FeaturePainter> made(DrawTarget& target, Symbol const& symbol) {
+  auto painter = std::make_unique<Painter>(target, symbol);
+  if (!painter->isVisible()) return nullptr;
+  return painter;
+}
+
+}  // namespace
+
+FeaturePainter::~FeaturePainter() = default;
+
+std::unique_ptr<FeaturePainter> FeaturePainter::create(DrawTarget& target, Symbol const* symbol) {
+  if (auto const* fill = dynamic_cast<FillSymbol const*>(symbol)) return made<PolygonPainter>(target, *fill);
+  if (auto const* line = dynamic_cast<LineSymbol const*>(symbol)) return made<LineFeaturePainter>(target, *line);
+  if (auto const* marker = dynamic_cast<MarkerSymbol const*>(symbol)) return made<PointPainter>(target, *marker);
+  return nullptr;
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,144 @@
+#include "FeatureReader.h"
+
+#include "host/SysCarto/document/CoordinateSystem.h"
+#include "host/SysCarto/layers/DataSource.h"
+#include "host/SysCarto/layers/FeatureStore.h"
+#include "host/SysCarto/layers/GdalErrors.h"
+#include "host/SysCarto/layers/GeometryProjector.h"
+#include "host/SysCarto/layers/LabelSettings.h"
+#include "host/SysCarto/layers/Renderer.h"
+
+#include <QCoreApplication>
+
+#include <ogr_feature.h>
+#include <ogr_spatialref.h>
+#include <ogrsf_frmts.h>
+
+#include <cmath>
+#include <limits>
+
+namespace SysCarto {
+
+namespace {
+
+QString translated(char const* text) { return QCoreApplication::translate("FeatureReader", text); }
+
+QString describeSource(SourceSettings const& source) {
+  return source.layer.isEmpty() ? translated("the file “%1”").arg(source.file)
+                                : translated("layer “%2” of the file “%1”").arg(source.file, source.layer);
+}
+
+// A field of the layer, or none.
+class Field {
+public:
+  Field(OGRLayer& layer, QString const& name, SourceSettings const& source, QStringList& warnings)
+      : index_(name.isEmpty() ? -1 : layer.GetLayerDefn()->GetFieldIndex(name.toUtf8().constData())) {
+    if (!name.isEmpty() && index_ < 0)
+      warnings << translated("There is no field “%1” in %2; it has: %3.")
+                      .arg(name, describeSource(source), fieldNames(*layer.GetLayerDefn()));
+  }
+
+  QString text(OGRFeature const& feature) const {
+    return isGiven(feature) ? QString::fromUtf8(const_cast<OGRFeature&>(feature).GetFieldAsString(index_)) : QString();
+  }
+  double number(OGRFeature const& feature) const {
+    return isGiven(feature) ? feature.GetFieldAsDouble(index_) : std::numeric_limits<double>::quiet_NaN();
+  }
+
+private:
+  static QString fieldNames(OGRFeatureDefn& definition) {
+    QStringList names;
+    for (int i = 0; i < definition.GetFieldCount() && i < 30; ++i)
+      names << QString::fromUtf8(definition.GetFieldDefn(i)->GetNameRef());
+    return names.join(QLatin1String(", "));
+  }
+  bool isGiven(OGRFeature const& feature) const { return index_ >= 0 && feature.IsFieldSetAndNotNull(index_); }
+
+  int const index_;
+};
+
+// The condition is evaluated by OGR itself and never handed to a database: a document must not reach the functions that
+// a database offers.
+class Condition {
+public:
+  bool compile(OGRLayer& layer, QString const& text, QString& reason) {
+    if (text.isEmpty()) return true;
+    GdalErrors const errors;
+    query_ = std::make_unique<OGRFeatureQuery>();
+    bool const ok = query_->Compile(&layer, text.toUtf8().constData()) == OGRERR_NONE;
+    reason = errors.reason();
+    return ok;
+  }
+  bool admits(OGRFeature& feature) const { return !query_ || query_->Evaluate(&feature); }
+
+private:
+  std::unique_ptr<OGRFeatureQuery> query_;
+};
+
+std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings const& source, QString const& mapSystem,
+                                                 ReadFeatures& result) {
+  auto const target = makeCoordinateSystem(mapSystem);
+  auto const given = makeCoordinateSystem(source.coordinateSystem);
+  if (!source.coordinateSystem.isEmpty() && !given) {
+    result.error = translated("The coordinate system of %1 %2.")
+                       .arg(describeSource(source), checkCoordinateSystem(source.coordinateSystem));
+    return nullptr;
+  }
+  OGRSpatialReference const* const own = given ? given.get() : layer.GetSpatialRef();
+  if (!own && target)
+    result.warnings << translated("No coordinate system is known for %1; its coordinates are taken as those of the map. "
+                                  "Give one in the source's field “coordinateSystem”.")
+                           .arg(describeSource(source));
+  QString reason;
+  auto projector = GeometryProjector::create(own, target.get(), reason);
+  if (!projector)
+    result.error = translated("The coordinates of %1 can't be projected to the map's coordinate system: %2.")
+                       .arg(describeSource(source), reason);
+  return projector;
+}
+
+void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition const& condition, Renderer const& renderer,
+             SourceSettings const& source, LabelSettings const& labels, ReadFeatures& result) {
+  Field const classField(layer, renderer.field(), source, result.warnings);
+  Field const labelField(layer, labels.field, source, result.warnings);
+  Field const priorityField(layer, labels.priorityField, source, result.warnings);
+  FeatureStore& store = *result.store;
+  store.keepsLabels = labels.isUsed();
+  layer.ResetReading();
+  while (OGRFeatureUniquePtr const feature{layer.GetNextFeature()}) {
+    OGRGeometry const* const geometry = feature->GetGeometryRef();
+    if (!geometry || !condition.admits(*feature)) continue;
+    store.beginFeature();
+    projector.add(*geometry, store);
+    double const priority = priorityField.number(*feature);
+    store.endFeature(renderer.classOf(classField.text(*feature), classField.number(*feature)), labelField.text(*feature),
+                     std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority);
+  }
+  store.finish();
+}
+
+}  // namespace
+
+ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem, Renderer const& renderer,
+                          LabelSettings const& labels) {
+  ReadFeatures result;
+  result.store = std::make_unique<FeatureStore>();
+  auto const data = DataSource::open(source.file, source.layer, result.error);
+  if (!data) return result;
+  auto const projector = makeProjector(data->layer(), source, mapSystem, result);
+  if (!projector) return result;
+  Condition condition;
+  QString reason;
+  if (!condition.compile(data->layer(), source.filter, reason)) {
+    result.error = translated("The filter “%1” of %2 is not understood: %3.")
+                       .arg(source.filter, describeSource(source), reason);
+    return result;
+  }
+  GdalErrors const errors;
+  readAll(data->layer(), *projector, condition, renderer, source, labels, result);
+  if (errors.hasFailure())
+    result.warnings << translated("Not all of %1 could be read: %2.").arg(describeSource(source), errors.reason());
+  return result;
+}
+
+}  // namespace SysCarto

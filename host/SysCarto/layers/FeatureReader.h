@@ -1,0 +1,35 @@
+#pragma once
+
+#include <SysCarto/Export.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace SysCarto {
+
+class FeatureStore;
+class Renderer;
+struct LabelSettings;
+
+/// Where the features of a layer come from.
+struct SourceSettings {
+  QString file;              ///< absolute
+  QString layer;             ///< empty for the first of the file
+  QString filter;            ///< a condition on the fields, as in OGR SQL ("population > 1000000"); empty for all
+  QString coordinateSystem;  ///< stands in for the file's own; empty for that
+};
+
+struct ReadFeatures {
+  std::unique_ptr<FeatureStore> store;  ///< never empty; without features after an error
+  QString error;                        ///< a sentence that names file and layer; empty where all went well
+  QStringList warnings;                 ///< sentences
+};
+
+/// Reads the features that the condition admits, projected to `mapSystem` (empty: not projected), with what renderer
+/// and labels need of their attributes.
+SYSCARTO_EXPORT ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem,
+                                          Renderer const& renderer, LabelSettings const& labels);
+
+}  // namespace SysCarto

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <SysCarto/Export.h>
+
+#include <QString>
+
+#include <limits>
+#include <memory>
+#include <vector>
+
+namespace SysCarto {
+
+/// A rectangle in map units; without a point in it until one is added.
+struct SYSCARTO_EXPORT Box {
+  double xmin = std::numeric_limits<double>::infinity(), ymin = xmin, xmax = -xmin, ymax = -xmin;
+
+  bool isEmpty() const { return !(xmin <= xmax && ymin <= ymax); }
+  void add(double x, double y);
+  void add(double const* xy, int count);
+  void add(Box const& other);
+  bool meets(Box const& other) const {
+    return xmin <= other.xmax && other.xmin <= xmax && ymin <= other.ymax && other.ymin <= ymax;
+  }
+  bool contains(double x, double y) const { return x >= xmin && x <= xmax && y >= ymin && y <= ymax; }
+  bool contains(Box const& other) const { return contains(other.xmin, other.ymin) && contains(other.xmax, other.ymax); }
+  Box grown(double distance) const { return {xmin - distance, ymin - distance, xmax + distance, ymax + distance}; }
+};
+
+/// A ring that is filled and stroked; one that is only filled, since some of its edges come from a cut; a run of its
+/// other edges, which is only stroked; a line; a point.
+enum class PartKind : unsigned char { Ring, FilledRing, Outline, Line, Point };
+
+struct Part {
+  int first;  ///< number of its first vertex among all
+  int count;
+  PartKind kind;
+  bool startsPolygon;  ///< the first ring of a polygon; its holes and outlines follow
+  Box box;
+};
+
+struct Feature {
+  int firstPart;
+  int partCount;
+  int symbolClass;  ///< of the renderer; −1 is not drawn
+  Box box;
+};
+
+/// The geometries of a layer in map units, flat, in the order of the source, and what drawing and labelling need of
+/// their attributes. Filled once, then only read.
+class SYSCARTO_EXPORT FeatureStore {
+public:
+  FeatureStore();
+  ~FeatureStore();
+  FeatureStore(FeatureStore const&) = delete;
+  FeatureStore& operator=(FeatureStore const&) = delete;
+
+  // Filling. A feature begins, gets its parts and ends; one without parts is dropped. Vertices are x, y pairs.
+  void beginFeature();
+  void startPolygon() { polygonStarts_ = true; }
+  void addPart(PartKind kind, double const* xy, int count);
+  void endFeature(int symbolClass, QString const& label, double priority);
+
+  /// Builds the index. Nothing is added afterwards.
+  void finish();
+
+  // Reading.
+  int size() const { return static_cast<int>(features.size()); }
+  Box const& box() const { return box_; }
+  double const* vertices(Part const& part) const { return xy.data() + 2 * static_cast<size_t>(part.first); }
+
+  /// The numbers of the features whose boxes meet the rectangle, ascending.
+  std::vector<int> query(Box const& rectangle) const;
+
+  std::vector<double> xy;
+  std::vector<Part> parts;
+  std::vector<Feature> features;
+  std::vector<QString> labels;     ///< by feature; empty where the layer has no labels
+  std::vector<double> priorities;  ///< by feature, higher is placed first; as `labels`
+  bool keepsLabels = false;
+
+private:
+  struct Index;
+  std::unique_ptr<Index> index_;
+  Box box_;
+  Feature current_{};
+  bool polygonStarts_ = false;
+};
+
+}  // namespace SysCarto

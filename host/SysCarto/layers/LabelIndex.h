@@ -1,0 +1,64 @@
+#pragma once
+
+#include "host/SysCarto/layers/FeatureStore.h"
+
+#include <QPointF>
+#include <QVector>
+
+#include <memory>
+#include <vector>
+
+namespace SysCarto {
+
+/// A place that a label takes: an upright box, or a box that is turned, or any area. In points of the page, y upwards.
+struct LabelShape {
+  Box box;                         ///< around the whole
+  QVector<QVector<QPointF>> rings; ///< empty for an upright box
+
+  static LabelShape upright(Box const& box) { return {box, {}}; }
+
+  /// A box about a centre, turned counterclockwise.
+  static LabelShape turned(QPointF const& centre, double width, double height, double degrees);
+  static LabelShape area(QVector<QVector<QPointF>> rings);
+
+  QVector<QVector<QPointF>> outline() const;
+};
+
+/// True where the two share a point.
+bool intersects(LabelShape const& a, LabelShape const& b);
+
+/// By the even-odd rule.
+bool contains(QVector<QVector<QPointF>> const& rings, QPointF const& point);
+
+/// What has been placed on a page, for quick answers to whether a place is free.
+class LabelIndex {
+public:
+  LabelIndex();
+  ~LabelIndex();
+  LabelIndex(LabelIndex const&) = delete;
+  LabelIndex& operator=(LabelIndex const&) = delete;
+
+  void add(LabelShape shape);
+  bool isFree(LabelShape const& shape) const;
+
+private:
+  struct Tree;
+  std::unique_ptr<Tree> tree_;
+  std::vector<LabelShape> shapes_;
+};
+
+/// The marks of a layer's points, known before any label is placed.
+class MarkIndex {
+public:
+  explicit MarkIndex(std::vector<Box> const& marks);
+  ~MarkIndex();
+
+  /// How many marks meet the box, counted up to `most`.
+  int count(Box const& box, int most) const;
+
+private:
+  struct Tree;
+  std::unique_ptr<Tree> tree_;
+};
+
+}  // namespace SysCarto

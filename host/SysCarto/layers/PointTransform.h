@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class OGRCoordinateTransformation;
+class OGRSpatialReference;
+
+namespace SysCarto {
+
+/// Coordinates from one system into another, x before y in both. What can't be transformed comes out as NaN.
+class PointTransform {
+public:
+  /// An empty pointer where there is no way between the systems; `error` then says why, as a clause.
+  static std::unique_ptr<PointTransform> create(OGRSpatialReference const& from, OGRSpatialReference const& to,
+                                                QString& error);
+  ~PointTransform();
+
+  /// x, y pairs, in place.
+  void apply(std::vector<double>& xy) const;
+  bool apply(double& x, double& y) const;
+
+private:
+  explicit PointTransform(OGRCoordinateTransformation* transformation);
+
+  std::unique_ptr<OGRCoordinateTransformation> transformation_;
+  mutable std::vector<double> x_, y_;
+  mutable std::vector<int> ok_;
+};
+
+}  // namespace SysCarto

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class OGRSpatialReference;
+
+namespace SysCarto {
+
+/// What is known of the edge that leads from a vertex to the next.
+enum EdgeFlag : unsigned char {
+  seamEdge = 1,  ///< comes from a cut, here or in the data: filled beside, never stroked
+  arcEdge = 2,   ///< lies on a curved border and is short enough as it is
+};
+
+/// A place on the globe: degrees of longitude, counted from the middle of the projection and not limited to ±180, and of
+/// latitude.
+struct Vertex {
+  double x, y;
+  unsigned char edge = 0;
+};
+using Run = std::vector<Vertex>;
+
+/// The part of the globe that a projection shows in one piece. Geometries are cut at its border before they are
+/// projected: what lies beyond is moved onto the border, so that rings stay closed and areas right by the even-odd rule.
+class ProjectionDomain {
+public:
+  virtual ~ProjectionDomain();
+
+  /// The rings of one polygon, each without a repeated last vertex. Appends the rings that are left of it, of each piece
+  /// that lies in one turn of the globe separately.
+  virtual void clipPolygon(std::vector<Run> const& rings, std::vector<std::vector<Run>>& polygons) const = 0;
+  virtual void clipLine(Run const& line, std::vector<Run>& lines) const = 0;
+
+  /// Brings the longitude into range; false where the projection does not show the place.
+  virtual bool admit(Vertex& point) const = 0;
+};
+
+/// Answers whether a place (degrees from the projection's middle, latitude) can be projected.
+using CanProject = std::function<bool(double x, double y)>;
+
+struct Domain {
+  double centralLongitude;  ///< where x is 0
+  bool isStrip;             ///< x is within ±180 after clipping; otherwise it may be any turn of the globe
+  std::unique_ptr<ProjectionDomain> border;
+};
+
+/// The domain of a geographic or projected coordinate system. `canProject` is asked with longitudes of the system, not
+/// from its middle.
+Domain makeDomain(OGRSpatialReference const& system, CanProject const& canProject);
+
+// The two kinds.
+
+/// A strip between two meridians, 360 degrees apart, and two parallels.
+std::unique_ptr<ProjectionDomain> makeStripDomain(double south, double north);
+
+/// Everything within a distance of a centre that depends on the direction. `limits` are degrees, for directions evenly
+/// spaced from north over east.
+std::unique_ptr<ProjectionDomain> makeDiskDomain(double centreLatitude, std::vector<double> limits);
+
+}  // namespace SysCarto

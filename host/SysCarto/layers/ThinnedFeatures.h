@@ -1,0 +1,48 @@
+#pragma once
+
+#include "host/SysCarto/layers/FeatureStore.h"
+
+#include <vector>
+
+namespace SysCarto {
+
+/// The features of a store with no more vertices than a resolution can show. A feature is thinned when it is first
+/// asked for, and kept until the resolution changes.
+///
+/// Vertices that fall into one cell of a grid are replaced by one of them. The grid hangs on the coordinates, not on
+/// where a line begins or on the rectangle that is drawn, so that neighbours keep their common border, and all tiles of
+/// a page get the same lines.
+class SYSCARTO_EXPORT ThinnedFeatures {
+public:
+  explicit ThinnedFeatures(FeatureStore const& store) : store_(store) {}
+
+  /// Map units on a pixel. Resolutions that differ by rounding only count as one.
+  void setResolution(double unitsPerPixel);
+
+  /// The parts of a feature, thinned; those too small to be seen are left out. Valid until the next call.
+  struct Range {
+    Part const* begin_;
+    Part const* end_;
+    Part const* begin() const { return begin_; }
+    Part const* end() const { return end_; }
+  };
+  Range parts(int feature);
+  double const* vertices(Part const& part) const { return xy_.data() + 2 * static_cast<size_t>(part.first); }
+
+private:
+  struct Place {
+    int firstPart = -1;
+    int partCount = 0;
+  };
+  void thin(int feature);
+  int thinInto(double const* xy, int count, bool closed);
+
+  FeatureStore const& store_;
+  double cell_ = 0;
+  double resolution_ = 0;
+  std::vector<Place> places_;
+  std::vector<Part> parts_;
+  std::vector<double> xy_;
+};
+
+}  // namespace SysCarto

@@ -1,0 +1,76 @@
+#include "EditorRecord.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace SysCarto {
+
+namespace {
+
+// Undoing and redoing are the same: the orders of then and now change places.
+class ElementsCommand final : public QUndoCommand {
+public:
+  ElementsCommand(QString const& name, std::vector<ChangedContainer> changes)
+      : QUndoCommand(name), changes_(std::move(changes)) {}
+
+  void undo() override { exchange(); }
+  void redo() override {
+    if (isDone_) exchange();
+    isDone_ = true;  // the history redoes a command when it receives it, after it was done
+  }
+
+private:
+  void exchange() {
+    for (ChangedContainer& change : changes_)
+      if (auto const container = change.container.lock()) (*container)->exchange(change.order);
+  }
+
+  std::vector<ChangedContainer> changes_;
+  bool isDone_ = false;
+};
+
+}  // namespace
+
+void Editor::Private::changing(ElementContainer const& container) {
+  if (!isOpen || !history) return;
+  auto const isSame = [&](ChangedContainer const& change) {
+    auto const changed = change.container.lock();
+    return changed && *changed == &container;
+  };
+  if (std::none_of(changes.begin(), changes.end(), isSame)) changes.push_back({container.token(), container.order()});
+}
+
+void Editor::Private::close() {
+  isOpen = false;
+  std::vector<ChangedContainer> const changed = std::move(changes);
+  changes.clear();
+  if (!history || changed.empty()) return;
+  history->push(new ElementsCommand(name.isEmpty() ? QCoreApplication::translate("Editor", "Edit") : name, changed));
+}
+
+Editor::Editor() : d(std::make_unique<Private>()) {}
+Editor::~Editor() = default;
+
+Editor* Editor::Instance() {
+  static Editor editor;
+  return &editor;
+}
+
+void Editor::StartOperation(QString const& name) {
+  d->close();
+  d->isOpen = true;
+  d->name = name;
+}
+
+void Editor::StopOperation() { d->close(); }
+
+void Editor::setHistory(QUndoStack* history) {
+  if (history == d->history) return;
+  d->close();
+  d->history = history;
+}
+
+QUndoStack* Editor::history() const { return d->history; }
+
+}  // namespace SysCarto

@@ -1,0 +1,182 @@
+#include "ElementContainer.h"
+
+#include "EditorRecord.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace SysCarto {
+
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysUI::TrackerCancel;
+using SysUtility::_ptr_t;
+
+namespace {
+
+using ElementPtr = IElementContainer::ElementPtr;
+using Handles = QSet<ElementHandle>;
+
+// A handle beyond this is not taken over, so that there is always a next one.
+constexpr ElementHandle largestTakenHandle = 1000000000;
+
+QList<ElementPtr> reversed(QList<ElementPtr> elements) {
+  std::reverse(elements.begin(), elements.end());
+  return elements;
+}
+
+QList<ElementPtr> broughtToFront(QList<ElementPtr> elements, Handles const& chosen) {
+  std::stable_partition(elements.begin(), elements.end(),
+                        [&](ElementPtr const& element) { return !chosen.contains(element->GetHandle()); });
+  return elements;
+}
+
+// The other element after a run sinks past the whole run, one place at a time.
+QList<ElementPtr> broughtForward(QList<ElementPtr> elements, Handles const& chosen) {
+  for (int i = elements.size() - 2; i >= 0; --i)
+    if (chosen.contains(elements[i]->GetHandle()) && !chosen.contains(elements[i + 1]->GetHandle()))
+      elements.swapItemsAt(i, i + 1);
+  return elements;
+}
+
+QList<ElementPtr> sentToBack(QList<ElementPtr> elements, Handles const& chosen) {
+  return reversed(broughtToFront(reversed(std::move(elements)), chosen));
+}
+
+QList<ElementPtr> sentBackward(QList<ElementPtr> elements, Handles const& chosen) {
+  return reversed(broughtForward(reversed(std::move(elements)), chosen));
+}
+
+// The edge of a picture is rounded to whole pixels, beyond its rectangle.
+_ptr_t<Envelope> drawnArea(DisplayTransformation const& transformation) {
+  _ptr_t<Envelope> const area = transformation.GetFittedBounds();
+  double const slack = 2 / transformation.ToDevice().m11();
+  area->Expand(slack, slack, false);
+  return area;
+}
+
+}  // namespace
+}  // namespace SysCarto
+
+IElementContainer::~IElementContainer() = default;
+
+namespace SysCarto {
+
+ElementContainer::ElementContainer() : token_(std::make_shared<ElementContainer*>(this)) {}
+
+ElementContainer::~ElementContainer() {
+  for (ElementPtr const& element : qAsConst(order_.elements)) element->setPlaced(false);
+}
+
+ElementPtr ElementContainer::find(ElementHandle handle) const {
+  auto const rank = order_.ranks.constFind(handle);
+  return rank == order_.ranks.constEnd() ? nullptr : order_.elements.value(*rank);
+}
+
+bool ElementContainer::holds(ElementPtr const& element) const {
+  return element && order_.ranks.contains(element->GetHandle());
+}
+
+ElementHandle ElementContainer::freeHandle(ElementHandle wanted) {
+  bool const isFree = wanted > 0 && wanted <= largestTakenHandle && !order_.ranks.contains(wanted);
+  ElementHandle const handle = isFree ? wanted : lastHandle_ + 1;
+  lastHandle_ = std::max(lastHandle_, handle);
+  return handle;
+}
+
+void ElementContainer::AddElement(ElementPtr const& element) {
+  if (!element || element->isPlaced()) return;
+  Editor::Instance()->d->changing(*this);
+  ElementHandle const handle = freeHandle(element->GetHandle());
+  qint64 const rank = order_.elements.isEmpty() ? 0 : order_.elements.lastKey() + 1;
+  order_.elements.insert(order_.elements.constEnd(), rank, element);
+  order_.ranks.insert(handle, rank);
+  element->setHandle(handle);
+  element->setPlaced(true);
+}
+
+void ElementContainer::AddElements(QList<ElementPtr> const& elements) {
+  for (ElementPtr const& element : elements) AddElement(element);
+}
+
+QList<ElementPtr> ElementContainer::GetElements() const { return order_.elements.values(); }
+
+void ElementContainer::DeleteElement(ElementPtr const& element) {
+  if (!holds(element)) return;
+  Editor::Instance()->d->changing(*this);
+  ElementHandle const handle = element->GetHandle();
+  ElementPtr const taken = order_.elements.take(order_.ranks.take(handle));
+  selection_.removeOne(handle);
+  taken->setPlaced(false);
+}
+
+int ElementContainer::GetSelectedElementCount() const { return selection_.size(); }
+
+QList<ElementPtr> ElementContainer::GetSelectedElements() const {
+  QList<ElementPtr> elements;
+  for (ElementHandle handle : selection_) elements << find(handle);
+  return elements;
+}
+
+void ElementContainer::SelectElement(ElementPtr const& element) {
+  if (holds(element) && !selection_.contains(element->GetHandle())) selection_ << element->GetHandle();
+}
+
+void ElementContainer::UnselectAllElements() { selection_.clear(); }
+
+void ElementContainer::UnselectElement(ElementPtr const& element) {
+  if (element) selection_.removeOne(element->GetHandle());
+}
+
+void ElementContainer::ReplaceElement(ElementHandle handle, ElementPtr const& element) {
+  ElementPtr const old = find(handle);
+  if (!old || !element || (element->isPlaced() && element != old)) return;
+  Editor::Instance()->d->changing(*this);
+  order_.elements[order_.ranks.value(handle)] = element;
+  old->setPlaced(false);
+  element->setHandle(handle);
+  element->setPlaced(true);
+}
+
+void ElementContainer::BringForward(QList<ElementPtr> const& elements) { restack(elements, broughtForward); }
+void ElementContainer::BringToFront(QList<ElementPtr> const& elements) { restack(elements, broughtToFront); }
+void ElementContainer::SendBackward(QList<ElementPtr> const& elements) { restack(elements, sentBackward); }
+void ElementContainer::SendToBack(QList<ElementPtr> const& elements) { restack(elements, sentToBack); }
+
+void ElementContainer::restack(QList<ElementPtr> const& elements, Restacking restacked) {
+  Handles chosen;
+  for (ElementPtr const& element : elements)
+    if (holds(element)) chosen << element->GetHandle();
+  if (chosen.isEmpty()) return;
+  Editor::Instance()->d->changing(*this);
+  Order order;
+  for (ElementPtr const& element : restacked(GetElements(), chosen)) {
+    qint64 const rank = order.elements.size();
+    order.elements.insert(order.elements.constEnd(), rank, element);
+    order.ranks.insert(element->GetHandle(), rank);
+  }
+  order_ = order;
+}
+
+void ElementContainer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, int phase,
+                            _ptr_t<TrackerCancel> const& cancel) {
+  if (phase != 1 || !transformation) return;
+  _ptr_t<Envelope> const area = drawnArea(*transformation);
+  auto const elements = order_.elements;  // as they are now, whatever drawing them does
+  for (ElementPtr const& element : elements) {
+    if (cancel && cancel->IsCanced()) return;
+    if (element->GetBoundary(transformation)->Intersects(area)) element->Draw(painter, transformation, cancel);
+  }
+}
+
+void ElementContainer::exchange(Order& other) {
+  std::swap(order_, other);
+  for (ElementPtr const& element : qAsConst(other.elements)) element->setPlaced(false);
+  for (ElementPtr const& element : qAsConst(order_.elements)) element->setPlaced(true);
+  selection_.erase(std::remove_if(selection_.begin(), selection_.end(),
+                                  [this](ElementHandle handle) { return !order_.ranks.contains(handle); }),
+                   selection_.end());
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <SysCarto/IElementContainer.h>
+
+#include <QHash>
+#include <QMap>
+
+#include <memory>
+
+namespace SysCarto {
+
+/// The elements of a view in their drawing order. Adding, replacing and deleting one costs a logarithm, since an export
+/// adds and deletes the labels of a whole map.
+class SYSCARTO_EXPORT ElementContainer final : public IElementContainer {
+public:
+  /// The drawing order, first drawn first, as it was at some time. Copies share their memory until one changes.
+  struct Order {
+    QMap<qint64, ElementPtr> elements;
+    QHash<ElementHandle, qint64> ranks;
+  };
+
+  ElementContainer();
+  ~ElementContainer() override;
+  ElementContainer(ElementContainer const&) = delete;
+  ElementContainer& operator=(ElementContainer const&) = delete;
+
+  void AddElement(ElementPtr const& element) override;
+  void AddElements(QList<ElementPtr> const& elements) override;
+  QList<ElementPtr> GetElements() const override;
+  void DeleteElement(ElementPtr const& element) override;
+  int GetSelectedElementCount() const override;
+  QList<ElementPtr> GetSelectedElements() const override;
+  void SelectElement(ElementPtr const& element) override;
+  void UnselectAllElements() override;
+  void UnselectElement(ElementPtr const& element) override;
+  void ReplaceElement(ElementHandle handle, ElementPtr const& element) override;
+  void BringForward(QList<ElementPtr> const& elements) override;
+  void BringToFront(QList<ElementPtr> const& elements) override;
+  void SendBackward(QList<ElementPtr> const& elements) override;
+  void SendToBack(QList<ElementPtr> const& elements) override;
+  void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation, int phase,
+            SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) override;
+
+  /// Empty pointer where there is none of that handle.
+  ElementPtr find(ElementHandle handle) const;
+
+  // For the undo history.
+
+  Order const& order() const { return order_; }
+
+  /// Puts another order in place of the present one, which `other` receives. What vanishes is no longer selected.
+  void exchange(Order& other);
+
+  /// Expires with the container.
+  std::weak_ptr<ElementContainer*> token() const { return token_; }
+
+private:
+  using Restacking = QList<ElementPtr> (*)(QList<ElementPtr>, QSet<ElementHandle> const&);
+  void restack(QList<ElementPtr> const& elements, Restacking restacked);
+  bool holds(ElementPtr const& element) const;
+  ElementHandle freeHandle(ElementHandle wanted);
+
+  Order order_;
+  QList<ElementHandle> selection_;
+  ElementHandle lastHandle_ = 0;
+  std::shared_ptr<ElementContainer*> token_;
+};
+
+}  // namespace SysCarto

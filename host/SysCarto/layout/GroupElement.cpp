@@ -1,0 +1,71 @@
+#include "Placement.h"
+
+#include <SysCarto/GroupElement.h>
+
+namespace SysCarto {
+
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysGeometry::Geometry;
+using SysGeometry::Point;
+using SysUI::TrackerCancel;
+using SysUtility::_ptr_t;
+
+GroupElement::GroupElement() = default;
+GroupElement::GroupElement(GroupElement const& other) : Element(other) {
+  for (_ptr_t<Element> const& member : other.members_) members_ << member->Clone();
+}
+GroupElement::~GroupElement() = default;
+
+void GroupElement::AddElement(_ptr_t<Element> const& element) {
+  if (!element || element.get() == this) return;
+  element->setHandle(0);  // no container knows it
+  members_ << element;
+}
+
+QList<_ptr_t<Element>> GroupElement::GetElements() const { return members_; }
+
+void GroupElement::Move(double dx, double dy) {
+  for (_ptr_t<Element> const& member : qAsConst(members_)) member->Move(dx, dy);
+}
+
+void GroupElement::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
+  for (_ptr_t<Element> const& member : qAsConst(members_)) member->Scale(origin, sx, sy);
+}
+
+int GroupElement::GetType() const { return 10; }
+
+_ptr_t<Geometry> GroupElement::GetGeometry() const { return GetEnvelope(); }
+
+void GroupElement::SetGeometry(_ptr_t<Envelope> const& rectangle) {
+  if (!isFinite(rectangle)) return;
+  _ptr_t<Point> const centre = GetEnvelope()->GetAnchorPoint();
+  if (!centre) return;
+  Placement const placement = Placement::fitting(*GetEnvelope(), *rectangle);
+  Scale(centre, placement.scaleX, placement.scaleY);
+  Move(placement.dx, placement.dy);
+}
+
+_ptr_t<Envelope> GroupElement::GetEnvelope() const {
+  auto const area = SysUtility::make<Envelope>();
+  for (_ptr_t<Element> const& member : members_) include(*area, member->GetEnvelope());
+  return area;
+}
+
+void GroupElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
+                        _ptr_t<TrackerCancel> const& cancel) {
+  for (_ptr_t<Element> const& member : qAsConst(members_)) {
+    if (cancel && cancel->IsCanced()) return;
+    member->Draw(painter, transformation, cancel);
+  }
+}
+
+_ptr_t<Geometry> GroupElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
+  auto const area = SysUtility::make<Envelope>();
+  for (_ptr_t<Element> const& member : members_) include(*area, member->GetBoundary(transformation));
+  return area;
+}
+
+_ptr_t<Element> GroupElement::Clone() const { return SysUtility::make<GroupElement>(*this); }
+
+}  // namespace SysCarto

@@ -1,0 +1,101 @@
+#include "MapPicture.h"
+#include "Placement.h"
+
+#include <SysCarto/Map.h>
+#include <SysCarto/SymbolFrameParts.h>
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace SysCarto {
+
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysGeometry::Geometry;
+using SysUI::TrackerCancel;
+using SysUtility::_ptr_t;
+
+struct MapFrameElement::Private {
+  _ptr_t<Map> map;
+  QList<_ptr_t<IMapGrid>> grids;
+  std::shared_ptr<bool> locked = std::make_shared<bool>(false);  // one for all clones with the same handle
+
+  Private() = default;
+  Private(Private const& other) : map(other.map), locked(other.locked) {
+    for (_ptr_t<IMapGrid> const& grid : other.grids) grids << grid->Clone();
+  }
+};
+
+MapFrameElement::MapFrameElement() : d(std::make_unique<Private>()) {
+  d->map = SysUtility::make<Map>();
+  SetBorder(SysUtility::make<SymbolBorder>());
+  SetBackGround(SysUtility::make<SymbolBackground>());
+}
+MapFrameElement::MapFrameElement(MapFrameElement const& other)
+    : FrameElementBase(other), d(std::make_unique<Private>(*other.d)) {}
+MapFrameElement::~MapFrameElement() = default;
+
+_ptr_t<Map> MapFrameElement::GetMap() const { return d->map; }
+
+void MapFrameElement::SetMap(_ptr_t<Map> const& map) {
+  if (!map) return;
+  d->map = map;
+  rectangleChanged();
+}
+
+int MapFrameElement::GetMapGridCount() const { return d->grids.size(); }
+_ptr_t<IMapGrid> MapFrameElement::GetMapGrid(int index) const { return d->grids.value(index); }
+void MapFrameElement::AddMapGrid(_ptr_t<IMapGrid> const& grid) {
+  if (grid) d->grids << grid;
+}
+
+bool MapFrameElement::IsLocked() const { return *d->locked; }
+void MapFrameElement::SetLocked(bool locked) { *d->locked = locked; }
+
+int MapFrameElement::GetType() const { return 11; }
+
+void MapFrameElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
+                           _ptr_t<TrackerCancel> const& cancel) {
+  if (!transformation) return;
+  DrawShadow(painter, transformation);
+  DrawBackground(painter, transformation);
+  MapPicture const picture = drawMap(*this, *transformation, reachablePixels(painter), cancel);
+  if (!picture.image.isNull()) painter.drawImage(picture.place, picture.image);
+  DrawBorder(painter, transformation);
+  for (_ptr_t<IMapGrid> const& grid : qAsConst(d->grids))
+    grid->Draw(painter, cancel, transformation, SysUtility::retain(this));
+}
+
+_ptr_t<Geometry> MapFrameElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
+  _ptr_t<Envelope> const framed = FrameElementBase::GetBoundary(transformation)->GetEnvelope();
+  if (!transformation) return framed;
+  double marginPt = 0;
+  for (_ptr_t<IMapGrid> const& grid : qAsConst(d->grids)) marginPt = std::max(marginPt, grid->GetMargin());
+  double const margin = marginPt * worldPerPoint(*transformation);
+  _ptr_t<Envelope> const labelled = GetEnvelope();
+  labelled->Expand(margin, margin, false);
+  include(*framed, labelled);
+  return framed;
+}
+
+_ptr_t<Element> MapFrameElement::Clone() const { return SysUtility::make<MapFrameElement>(*this); }
+
+void MapFrameElement::setHandle(ElementHandle handle) {
+  if (handle != GetHandle()) d->locked = std::make_shared<bool>(*d->locked);
+  Element::setHandle(handle);
+}
+
+void MapFrameElement::setPlaced(bool placed) {
+  Element::setPlaced(placed);
+  rectangleChanged();
+}
+
+// A clone that nobody has put on the page yet must not reach through to the map that it shares.
+void MapFrameElement::rectangleChanged() {
+  if (!isPlaced()) return;
+  _ptr_t<Envelope> const rectangle = GetEnvelope();
+  d->map->setFrameSize(rectangle->GetWidth(), rectangle->GetHeight());
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,74 @@
+#include "MapPicture.h"
+
+#include <SysCarto/Map.h>
+
+#include <QPainter>
+
+namespace SysCarto {
+
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysUI::TrackerCancel;
+using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr int farthestPx = 1 << 29;  // beyond it the width of a rectangle may not be an int
+
+// The pixels of a frame, counted so that both corners belong to it.
+QRect pixelsOf(MapFrameElement const& frame, DisplayTransformation const& transformation) {
+  _ptr_t<Envelope> const rectangle = frame.GetEnvelope();
+  QPoint const upperLeft = transformation.FromMapPoint(rectangle->GetXMin(), rectangle->GetYMax());
+  QPoint const lowerRight = transformation.FromMapPoint(rectangle->GetXMax(), rectangle->GetYMin());
+  for (int side : {upperLeft.x(), upperLeft.y(), lowerRight.x(), lowerRight.y()})
+    if (side < -farthestPx || side > farthestPx) return {};
+  return {upperLeft, lowerRight};
+}
+
+bool showsAt(Layer const& layer, double scale) {
+  double const min = layer.GetMinScale(), max = layer.GetMaxScale();
+  return layer.IsVisible() && !(min > 0 && scale >= max) && !(max > 0 && min >= scale);
+}
+
+// The map's transformation for the part `clipPx` of a frame that has the pixels `framePx`.
+_ptr_t<DisplayTransformation> transformationOf(Map const& map, QRect const& framePx, QRect const& clipPx,
+                                               double pageScale) {
+  auto const transformation = map.GetDisplayTransformation()->Clone();
+  _ptr_t<Envelope> const shown = transformation->GetFittedBounds();
+  double const unitsPerPx = shown->GetWidth() / framePx.width();
+  double const xmin = shown->GetXMin() + (clipPx.left() - framePx.left()) * unitsPerPx;
+  double const ymax = shown->GetYMax() - (clipPx.top() - framePx.top()) * unitsPerPx;
+  transformation->SetPaintDevice(nullptr);
+  transformation->SetDeviceFrame(QRect(QPoint(0, 0), clipPx.size()));
+  transformation->SetVisibleBounds(
+      SysUtility::make<Envelope>(xmin, ymax - clipPx.height() * unitsPerPx, xmin + clipPx.width() * unitsPerPx, ymax));
+  transformation->SetPageScale(pageScale);
+  return transformation;
+}
+
+}  // namespace
+
+QRect reachablePixels(QPainter const& painter) {
+  QRectF area = painter.combinedTransform().inverted().mapRect(QRectF(painter.viewport()));
+  if (painter.hasClipping()) area &= painter.clipBoundingRect();
+  return area.toAlignedRect();
+}
+
+MapPicture drawMap(MapFrameElement const& frame, DisplayTransformation const& transformation, QRect const& areaPx,
+                   _ptr_t<TrackerCancel> const& cancel) {
+  QRect const framePx = pixelsOf(frame, transformation), clipPx = framePx & areaPx;
+  if (clipPx.isEmpty()) return {};
+  MapPicture picture{QImage(clipPx.size(), QImage::Format_RGBA8888_Premultiplied), clipPx.topLeft()};
+  picture.image.fill(Qt::transparent);
+  _ptr_t<Map> const map = frame.GetMap();
+  auto const mapped = transformationOf(*map, framePx, clipPx, transformation.GetPageScale());
+  QPainter painter(&picture.image);
+  for (_ptr_t<Layer> const& layer : map->GetLayers()) {
+    if (cancel && cancel->IsCanced()) break;
+    if (showsAt(*layer, mapped->GetMapScale())) layer->Draw(painter, mapped, 1, cancel);
+  }
+  if (IElementContainer* graphics = map->GetGraphicsContainer()) graphics->Draw(painter, mapped, 1, cancel);
+  return picture;
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <SysCarto/MapFrameElement.h>
+
+#include <QImage>
+
+namespace SysCarto {
+
+/// The pixels of a painter that can be reached, in its own coordinates.
+SYSCARTO_EXPORT QRect reachablePixels(QPainter const& painter);
+
+/// The map of a data frame, drawn on transparent ground: the part that lies in `areaPx`.
+struct MapPicture {
+  QImage image;  ///< null where no part of the frame lies in the area
+  QPoint place;  ///< of its upper left corner, in device pixels
+};
+SYSCARTO_EXPORT MapPicture drawMap(MapFrameElement const& frame,
+                                   SysDisplay::DisplayTransformation const& transformation, QRect const& areaPx,
+                                   SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
+
+}  // namespace SysCarto

@@ -1,0 +1,93 @@
+#include "Placement.h"
+
+#include <SysCarto/Page.h>
+#include <SysCarto/SymbolFrameParts.h>
+
+#include <cmath>
+#include <utility>
+
+namespace SysCarto {
+
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr short portrait = 1, landscape = 2;
+
+PageFormID formOf(QString const& key) {
+  FormInfo info;
+  for (PageFormID id = 0; Paper::GetFormInfo(id, info); ++id)
+    if (info.key == key) return id;
+  return customPageForm;
+}
+
+}  // namespace
+
+struct Page::Private {
+  PageFormID form = customPageForm;
+  double widthCm = 0, heightCm = 0;  // as the form is listed
+  short orientation = portrait;
+  _ptr_t<IBorder> border;
+  _ptr_t<IBackground> background = SysUtility::make<SymbolBackground>();
+  _ptr_t<IShadow> shadow;
+};
+
+Page::Page() : d(std::make_unique<Private>()) { Page::SetFormID(formOf(QStringLiteral("A4"))); }
+Page::~Page() = default;
+
+int Page::GetFormID() const { return d->form; }
+
+void Page::SetFormID(int id) {
+  FormInfo info;
+  if (!Paper::GetFormInfo(id, info)) return;
+  d->form = id;
+  d->widthCm = info.width;
+  d->heightCm = info.height;
+}
+
+void Page::setCustomSize(double widthCm, double heightCm) {
+  if (!std::isfinite(widthCm) || !std::isfinite(heightCm) || widthCm < 0 || heightCm < 0) return;
+  d->form = customPageForm;
+  d->widthCm = widthCm;
+  d->heightCm = heightCm;
+}
+
+short Page::GetOrientation() const { return d->orientation; }
+void Page::SetOrientation(short orientation) {
+  if (orientation == portrait || orientation == landscape) d->orientation = orientation;
+}
+
+void Page::QuerySize(double& width, double& height) const {
+  width = d->widthCm;
+  height = d->heightCm;
+  if (d->orientation == landscape) std::swap(width, height);
+}
+
+_ptr_t<Envelope> Page::GetPageEnvelope() const {
+  double width, height;
+  QuerySize(width, height);
+  return SysUtility::make<Envelope>(0.0, 0.0, width, height);
+}
+
+_ptr_t<Paper> Page::GetPaper() const { return SysUtility::make<Paper>(); }
+
+void Page::DrawBackground(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation) {
+  if (d->background) d->background->Draw(painter, transformation, GetPageEnvelope());
+}
+void Page::DrawBorder(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation) {
+  if (d->border) d->border->Draw(painter, transformation, GetPageEnvelope());
+}
+void Page::drawShadow(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation) {
+  if (d->shadow) d->shadow->Draw(painter, transformation, GetPageEnvelope());
+}
+
+_ptr_t<IBorder> Page::GetBorder() const { return d->border; }
+void Page::SetBorder(_ptr_t<IBorder> const& border) { d->border = border; }
+_ptr_t<IBackground> Page::GetBackground() const { return d->background; }
+void Page::SetBackGround(_ptr_t<IBackground> const& background) { d->background = background; }
+_ptr_t<IShadow> Page::GetShadow() const { return d->shadow; }
+void Page::SetShadow(_ptr_t<IShadow> shadow) { d->shadow = shadow; }
+
+}  // namespace SysCarto

@@ -1,0 +1,174 @@
+#include "ElementContainer.h"
+#include "Placement.h"
+
+#include <SysCarto/Map.h>
+#include <SysCarto/MapSurroundFrame.h>
+#include <SysCarto/PageLayout.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace SysCarto {
+
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+namespace {
+
+constexpr double centimetresPerInch = 2.54;
+constexpr double pixelsPerInch = 96;
+constexpr double spaceAboutPage = 1.04;  // of the page's size, when the whole page is shown
+
+// A rectangle of the page, in fractions of its width and height.
+struct PagePart {
+  double left, bottom, right, top;
+};
+// clang-format off
+constexpr PagePart dataFramePart = {0.10, 0.22, 0.90, 0.90};
+constexpr PagePart legendPart    = {0.10, 0.05, 0.40, 0.19};
+constexpr PagePart scaleBarPart  = {0.50, 0.05, 0.90, 0.10};
+constexpr PagePart scaleTextPart = {0.50, 0.13, 0.90, 0.17};
+// clang-format on
+constexpr double arrowRight = 0.88, arrowTop = 0.88, arrowSize = 0.1;  // the size of the page's shorter side
+
+_ptr_t<Envelope> partOf(Page const* page, PagePart const& part) {
+  if (!page) return make<Envelope>();
+  double width, height;
+  page->QuerySize(width, height);
+  return make<Envelope>(part.left * width, part.bottom * height, part.right * width, part.top * height);
+}
+
+int pixelsOf(double cm, int dpi) {
+  return static_cast<int>(std::min<double>(cm / centimetresPerInch * dpi, std::numeric_limits<int>::max()));
+}
+
+}  // namespace
+
+struct PageLayout::Private {
+  _ptr_t<Page> page;
+  _ptr_t<Map> focus;
+  bool alignToMargins = false;
+  ElementContainer elements;
+
+  QList<_ptr_t<MapFrameElement>> frames() const {
+    QList<_ptr_t<MapFrameElement>> frames;
+    for (auto const& element : elements.GetElements())
+      if (auto const frame = ptr_cast<MapFrameElement>(element)) frames << frame;
+    return frames;
+  }
+
+  void rebindSurrounds(QList<std::pair<_ptr_t<Map>, _ptr_t<Map>>> const& replaced) {
+    for (auto const& element : elements.GetElements()) {
+      auto const frame = ptr_cast<MapSurroundFrame>(element);
+      auto const surround = frame ? frame->GetMapSurround() : nullptr;
+      if (surround) surround->SetMap(replacementOf(surround->GetMap(), replaced));
+    }
+    focus = replacementOf(focus, replaced);
+  }
+
+  static _ptr_t<Map> replacementOf(_ptr_t<Map> const& map, QList<std::pair<_ptr_t<Map>, _ptr_t<Map>>> const& replaced) {
+    for (auto const& [former, present] : replaced)
+      if (former == map) return present;
+    return map;
+  }
+};
+
+PageLayout::PageLayout() : d(std::make_unique<Private>()) {
+  GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 1000, 750));
+}
+PageLayout::~PageLayout() = default;
+
+bool PageLayout::GetAlignToMargins() const { return d->alignToMargins; }
+void PageLayout::SetAlignToMargins(bool on) { d->alignToMargins = on; }
+
+_ptr_t<Envelope> PageLayout::GetDefaultDataFrameEnvelope() const { return partOf(GetPage(), dataFramePart); }
+_ptr_t<Envelope> PageLayout::GetDefaultLegendEnvelope() const { return partOf(GetPage(), legendPart); }
+_ptr_t<Envelope> PageLayout::GetDefaultScaleBarEnvelope() const { return partOf(GetPage(), scaleBarPart); }
+_ptr_t<Envelope> PageLayout::GetDefaultScaleTextEnvelope() const { return partOf(GetPage(), scaleTextPart); }
+_ptr_t<Envelope> PageLayout::GetDefaultNorthArrowEnvelope() const {
+  if (!GetPage()) return make<Envelope>();
+  double width, height;
+  GetPage()->QuerySize(width, height);
+  double const side = arrowSize * std::min(width, height);
+  return make<Envelope>(arrowRight * width - side, arrowTop * height - side, arrowRight * width, arrowTop * height);
+}
+
+_ptr_t<MapFrameElement> PageLayout::GetFocusMapFrameElement() const {
+  auto const frames = d->frames();
+  for (auto const& frame : frames)
+    if (frame->GetMap() == d->focus) return frame;
+  return frames.value(0);
+}
+
+void PageLayout::GetMaps(QList<_ptr_t<Map>>& maps) const {
+  maps.clear();
+  for (auto const& frame : d->frames()) maps << frame->GetMap();
+}
+
+void PageLayout::QueryOutputSize(int dpi, int& width, int& height) const {
+  double widthCm = 0, heightCm = 0;
+  if (d->page) d->page->QuerySize(widthCm, heightCm);
+  width = pixelsOf(widthCm, dpi);
+  height = pixelsOf(heightCm, dpi);
+}
+
+Page* PageLayout::GetPage() const { return d->page.get(); }
+void PageLayout::SetPage(_ptr_t<Page> const& page) { d->page = page; }
+
+void PageLayout::ZoomToRatio(double ratio) {
+  if (!std::isfinite(ratio) || ratio <= 0 || !d->page) return;
+  double const pixelsPerCm = ratio * pixelsPerInch / centimetresPerInch;
+  QRect const frame = GetDisplayTransformation()->GetDeviceFrame();
+  auto const extent = make<Envelope>(0.0, 0.0, frame.width() / pixelsPerCm, frame.height() / pixelsPerCm);
+  extent->CenterAt(GetExtent()->GetAnchorPoint());
+  SetExtent(extent);
+}
+
+void PageLayout::ZoomToWholePage() {
+  if (!d->page) return;
+  _ptr_t<Envelope> const extent = d->page->GetPageEnvelope();
+  extent->Expand(spaceAboutPage, spaceAboutPage, true);
+  SetExtent(extent);
+}
+
+void PageLayout::ReplaceMaps(QList<_ptr_t<Map>> const& maps) {
+  auto const frames = d->frames();
+  QList<_ptr_t<Map>> left;
+  for (auto const& map : maps)
+    if (map && !left.contains(map)) left << map;
+  QList<std::pair<_ptr_t<Map>, _ptr_t<Map>>> replaced;
+  for (auto const& frame : frames) {
+    _ptr_t<Map> const former = frame->GetMap(), present = left.isEmpty() ? make<Map>() : left.takeFirst();
+    frame->SetMap(present);
+    replaced << std::make_pair(former, present);
+  }
+  for (auto const& map : qAsConst(left)) {
+    auto const frame = make<MapFrameElement>();
+    frame->SetMap(map);
+    if (d->page) frame->SetGeometry(GetDefaultDataFrameEnvelope());
+    d->elements.AddElement(frame);
+  }
+  d->rebindSurrounds(replaced);
+}
+
+_ptr_t<Map> PageLayout::GetFocusMap() const {
+  auto const frame = GetFocusMapFrameElement();
+  return frame ? frame->GetMap() : nullptr;
+}
+
+void PageLayout::SetFocusMap(_ptr_t<Map> const& map) { d->focus = map; }
+
+IElementContainer* PageLayout::GetGraphicsContainer() const { return &d->elements; }
+
+void PageLayout::applyExtent(Envelope const& extent) {
+  ActiveView::applyExtent(extent);
+  auto const transformation = GetDisplayTransformation();
+  double const pixelsPerCm = transformation->ToDevice().m11();
+  transformation->SetPageScale(pixelsPerCm * centimetresPerInch / pixelsPerInch);
+}
+
+}  // namespace SysCarto

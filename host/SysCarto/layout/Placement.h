@@ -1,0 +1,55 @@
+#pragma once
+
+#include <SysCarto/Export.h>
+#include <SysDisplay/DisplayTransformation.h>
+#include <SysGeometry/Polygon.h>
+#include <SysGeometry/Polyline.h>
+
+#include <QPointF>
+
+namespace SysCarto {
+
+/// A scaling about an origin, followed by a move. Kept apart rather than as a matrix, so that what lies on the origin
+/// stays there to the last bit.
+struct SYSCARTO_EXPORT Placement {
+  double originX = 0, originY = 0;
+  double scaleX = 1, scaleY = 1;
+  double dx = 0, dy = 0;
+
+  static Placement moving(double dx, double dy);
+  static Placement scaling(SysUtility::_ptr_t<SysGeometry::Point> const& origin, double sx, double sy);
+
+  /// From one rectangle to another. A side without length is not scaled, but centred.
+  static Placement fitting(SysGeometry::Envelope const& from, SysGeometry::Envelope const& to);
+
+  QPointF map(double x, double y) const {
+    return {originX + (x - originX) * scaleX + dx, originY + (y - originY) * scaleY + dy};
+  }
+};
+
+// The geometry at its new place, a new object. An envelope's corners come out ordered.
+SYSCARTO_EXPORT SysUtility::_ptr_t<SysGeometry::Point> placed(SysGeometry::Point const& point,
+                                                              Placement const& placement);
+SYSCARTO_EXPORT SysUtility::_ptr_t<SysGeometry::Envelope> placed(SysGeometry::Envelope const& rectangle,
+                                                                 Placement const& placement);
+SYSCARTO_EXPORT SysUtility::_ptr_t<SysGeometry::Polyline> placed(SysGeometry::Polyline const& line,
+                                                                 Placement const& placement);
+SYSCARTO_EXPORT SysUtility::_ptr_t<SysGeometry::Polygon> placed(SysGeometry::Polygon const& polygon,
+                                                                Placement const& placement);
+
+/// False for an empty pointer, and where a side is infinite or not a number.
+SYSCARTO_EXPORT bool isFinite(SysUtility::_ptr_t<SysGeometry::Envelope> const& rectangle);
+
+/// Grows `area` so that it holds `other`, too. Empty ones count for nothing.
+SYSCARTO_EXPORT void include(SysGeometry::Envelope& area, SysUtility::_ptr_t<SysGeometry::Geometry> const& other);
+
+/// World units on one point (1/72 inch) of a symbol.
+SYSCARTO_EXPORT double worldPerPoint(SysDisplay::DisplayTransformation const& transformation);
+
+SYSCARTO_EXPORT SysUtility::_ptr_t<SysGeometry::Polygon> ellipseIn(SysGeometry::Envelope const& rectangle);
+
+/// `roundingPercent` is of half the shorter side; without rounding the rectangle itself.
+SYSCARTO_EXPORT SysUtility::_ptr_t<SysGeometry::Geometry> roundedRectangle(SysGeometry::Envelope const& rectangle,
+                                                                           double roundingPercent);
+
+}  // namespace SysCarto

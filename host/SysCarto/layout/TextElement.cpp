@@ -1,0 +1,104 @@
+#include "TextElement.h"
+
+#include "Placement.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace SysCarto {
+
+using SysDisplay::DisplayTransformation;
+using SysDisplay::TextFormat;
+using SysDisplay::TextSymbol;
+using SysGeometry::Envelope;
+using SysGeometry::Geometry;
+using SysGeometry::Point;
+using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr double centimetresPerPoint = 2.54 / 72;
+constexpr double largestFontPt = 1000;
+
+}  // namespace
+
+TextElement::TextElement() : symbol_(SysUtility::make<TextSymbol>()) {}
+TextElement::TextElement(TextElement const&) = default;
+TextElement::~TextElement() = default;
+
+void TextElement::setText(QString const& text) {
+  text_ = text;
+  boundsPt_.reset();
+}
+
+void TextElement::setSymbol(_ptr_t<TextSymbol> const& symbol) {
+  if (!symbol) return;
+  symbol_ = symbol;
+  boundsPt_.reset();
+}
+
+void TextElement::setPosition(double x, double y) {
+  x_ = x;
+  y_ = y;
+}
+
+void TextElement::setAngle(double degrees) {
+  angle_ = std::isfinite(degrees) ? std::fmod(degrees, 360) : 0;
+  boundsPt_.reset();
+}
+
+void TextElement::Move(double dx, double dy) {
+  x_ += dx;
+  y_ += dy;
+}
+
+void TextElement::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
+  QPointF const position = Placement::scaling(origin, sx, sy).map(x_, y_);
+  setPosition(position.x(), position.y());
+  double const factor = std::abs(sx);
+  if (!std::isfinite(factor) || factor == 0 || factor == 1) return;
+  TextFormat format = symbol_->format();
+  format.size = std::min(format.size * factor, largestFontPt);
+  setSymbol(SysUtility::make<TextSymbol>(format));
+}
+
+int TextElement::GetType() const { return 9; }
+
+_ptr_t<Geometry> TextElement::GetGeometry() const { return SysUtility::make<Point>(x_, y_, 0.0); }
+
+void TextElement::SetGeometry(_ptr_t<Envelope> const& rectangle) {
+  if (!isFinite(rectangle)) return;
+  auto const from = GetEnvelope()->GetAnchorPoint(), to = rectangle->GetAnchorPoint();
+  Move(to->GetX() - from->GetX(), to->GetY() - from->GetY());
+}
+
+QRectF const& TextElement::boundsPt() const {
+  if (!boundsPt_) boundsPt_ = QTransform().rotate(-angle_).mapRect(symbol_->bounds(text_));
+  return *boundsPt_;
+}
+
+_ptr_t<Envelope> TextElement::rectangle(QRectF const& boundsPt, double unitsPerPoint) const {
+  return SysUtility::make<Envelope>(x_ + boundsPt.left() * unitsPerPoint, y_ - boundsPt.bottom() * unitsPerPoint,
+                                    x_ + boundsPt.right() * unitsPerPoint, y_ - boundsPt.top() * unitsPerPoint);
+}
+
+_ptr_t<Envelope> TextElement::GetEnvelope() const {
+  double const halo = symbol_->format().haloSize;
+  QRectF const letters = symbol_->bounds(text_).adjusted(halo, halo, -halo, -halo);
+  return rectangle(QTransform().rotate(-angle_).mapRect(letters.normalized()), centimetresPerPoint);
+}
+
+void TextElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
+                       _ptr_t<SysUI::TrackerCancel> const&) {
+  if (transformation)
+    symbol_->drawAt(painter, transformation->ToDevice().map(QPointF(x_, y_)), transformation->PixelsPerPoint(), angle_,
+                    text_);
+}
+
+_ptr_t<Geometry> TextElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
+  return rectangle(boundsPt(), transformation ? worldPerPoint(*transformation) : 0.0);
+}
+
+_ptr_t<Element> TextElement::Clone() const { return SysUtility::make<TextElement>(*this); }
+
+}  // namespace SysCarto

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "host/SysDisplay/TextSymbol.h"
+
+#include <SysCarto/Element.h>
+
+#include <QRectF>
+
+#include <optional>
+
+namespace SysCarto {
+
+/// A text that hangs on a point by the alignment of its symbol. Position in the units of its container: page
+/// centimetres, or map units for labels.
+class SYSCARTO_EXPORT TextElement final : public Element {
+public:
+  TextElement();
+  TextElement(TextElement const&);
+  ~TextElement() override;
+
+  QString text() const { return text_; }
+  void setText(QString const& text);
+
+  /// Shared: elements may have one symbol together, and clones do. Change a clone. An empty pointer is ignored.
+  SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol() const { return symbol_; }
+  void setSymbol(SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbol);
+  void setPosition(double x, double y);
+
+  /// Degrees, counterclockwise.
+  double angle() const { return angle_; }
+  void setAngle(double degrees);
+
+  void Move(double dx, double dy) override;
+  void Scale(SysUtility::_ptr_t<SysGeometry::Point> const& origin, double sx, double sy) override;
+  int GetType() const override;
+  SysUtility::_ptr_t<SysGeometry::Geometry> GetGeometry() const override;
+
+  /// Moves the text, so that its own rectangle has the same centre.
+  void SetGeometry(SysUtility::_ptr_t<SysGeometry::Envelope> const& rectangle) override;
+
+  /// The rectangle of the letters on a page in centimetres, without their halo. The letters of a label on a map have no
+  /// size in map units of their own; `GetBoundary` tells it for a transformation.
+  SysUtility::_ptr_t<SysGeometry::Envelope> GetEnvelope() const override;
+  void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+            SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) override;
+  SysUtility::_ptr_t<SysGeometry::Geometry> GetBoundary(
+      SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
+  SysUtility::_ptr_t<Element> Clone() const override;
+
+private:
+  QRectF const& boundsPt() const;
+  SysUtility::_ptr_t<SysGeometry::Envelope> rectangle(QRectF const& boundsPt, double unitsPerPoint) const;
+
+  QString text_;
+  SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol_;
+  double x_ = 0, y_ = 0;
+  double angle_ = 0;
+  mutable std::optional<QRectF> boundsPt_;  // turned, halo included, y downwards, about the position
+};
+
+}  // namespace SysCarto

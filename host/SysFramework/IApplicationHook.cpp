@@ -1,0 +1,3 @@
+#include <SysFramework/IApplicationHook.h>
+
+IApplicationHook::~IApplicationHook() = default;

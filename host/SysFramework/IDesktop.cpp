@@ -1,0 +1,4 @@
+#include <SysFramework/IDesktop.h>
+
+IContentsSite::~IContentsSite() = default;
+IDesktop::~IDesktop() = default;

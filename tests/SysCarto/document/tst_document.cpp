@@ -1,0 +1,480 @@
+#include <SysCarto/Editor.h>
+#include <SysCarto/Graticule.h>
+#include <SysCarto/GroupElement.h>
+#include <SysCarto/Map.h>
+#include <SysCarto/MapDocument.h>
+#include <SysCarto/MapSurroundFrame.h>
+#include <SysCarto/SymbolFrameParts.h>
+
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/TextElement.h"
+
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QUndoStack>
+#include <QtTest>
+
+#include <sys/resource.h>
+
+#include <csignal>
+
+using namespace SysCarto;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+namespace {
+
+QByteArray contentOf(QString const& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void put(QString const& path, QByteArray const& content) {
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write a test file");
+}
+
+// The value with the one at a path ("maps.0.bounds") put in its place; an undefined value removes the field.
+QJsonValue changed(QJsonValue const& value, QStringList path, QJsonValue const& replacement) {
+  if (path.isEmpty()) return replacement;
+  QString const step = path.takeFirst();
+  if (value.isArray()) {
+    QJsonArray array = value.toArray();
+    array.replace(step.toInt(), changed(array.at(step.toInt()), path, replacement));
+    return array;
+  }
+  QJsonObject object = value.toObject();
+  object.insert(step, changed(object.value(step), path, replacement));
+  if (object.value(step).isUndefined()) object.remove(step);
+  return object;
+}
+
+_ptr_t<MapFrameElement> frameOf(QString const& name, QString const& coordinateSystem, Envelope const& bounds) {
+  auto const frame = make<MapFrameElement>();
+  frame->GetMap()->SetName(name);
+  frame->GetMap()->SetCoordinateSystem(coordinateSystem);
+  frame->GetMap()->SetExtent(make<Envelope>(bounds));
+  return frame;
+}
+
+template <class Surround>
+_ptr_t<MapSurroundFrame> surroundOf(_ptr_t<Map> const& map) {
+  auto const frame = make<MapSurroundFrame>();
+  frame->SetMapSurround(make<Surround>());
+  frame->GetMapSurround()->SetMap(map);
+  frame->SetGeometry(make<Envelope>(1.0, 2.0, 6.5, 4.1));
+  return frame;
+}
+
+// A page with one of everything that refers to something else, and with numbers that no short decimal hits.
+void fill(PageLayout& layout) {
+  auto const world =
+      frameOf(QStringLiteral("Welt – “quoted”\n"), "EPSG:8857", Envelope(-1e7 / 3, -5e6 / 7, 1e7, 0.1 + 0.2));
+  auto const plan = frameOf("Plan", "", Envelope(0, 0, 1.0 / 3, 1e-3));
+  world->AddMapGrid(make<Graticule>());
+  world->SetGeometry(make<Envelope>(1.1, 15.3, 19.9, 28.7));
+  world->SetBorder(make<SymbolBorder>());
+  world->GetMap()->GetGraphicsContainer()->AddElement(make<RectangleElement>());
+  auto const group = make<GroupElement>();
+  group->AddElement(make<RectangleElement>());
+  group->AddElement(make<TextElement>());
+  layout.GetPage()->SetBorder(make<SymbolBorder>());
+  layout.GetPage()->SetOrientation(2);
+  for (_ptr_t<Element> const& element : QList<_ptr_t<Element>>{
+           world, plan, group, surroundOf<ScaleLine>(plan->GetMap()), surroundOf<Legend>(world->GetMap()),
+           surroundOf<MarkerNorthArrow>(world->GetMap()), surroundOf<ScaleText>(nullptr)})
+    layout.GetGraphicsContainer()->AddElement(element);
+  layout.SetAlignToMargins(true);
+  layout.SetFocusMap(plan->GetMap());
+}
+
+// While it lives, no file of this process can grow beyond a size. A write then comes back short, as on a full disk.
+class FileSizeLimit {
+public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    rlimit const limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+private:
+  rlimit before_;
+};
+
+class Contents final : public IKdxContents {
+public:
+  _ptr_t<PageLayout> GetPageLayout() const override { return layout; }
+  void SetPageLayout(_ptr_t<PageLayout> const& other) override { layout = other; }
+  _ptr_t<PageLayout> layout;
+};
+
+}  // namespace
+
+class DocumentTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() {
+    MapDocument document;
+    document.New(path("sample.kdx"));
+    fill(*document.GetPageLayout());
+    QVERIFY2(document.Save(true, false), qPrintable(document.GetErrors().join('\n')));
+    sample_ = contentOf(path("sample.kdx"));
+    QVERIFY(sample_.endsWith("}\n"));
+  }
+
+  void twoSavesAreEqualByteForByte() {
+    MapDocument document;
+    QVERIFY(document.Open(path("sample.kdx")));
+    QCOMPARE(document.GetWarnings(), QStringList());
+    for (int i = 0; i < 2; ++i) {
+      QVERIFY(document.SaveAs(path("again.kdx"), true, false));
+      QCOMPARE(QString::fromUtf8(contentOf(path("again.kdx"))), QString::fromUtf8(sample_));
+    }
+  }
+
+  void anOpenedDocumentRefersToItsOwnMaps() {
+    MapDocument document;
+    QVERIFY(document.Open(path("sample.kdx")));
+    auto const layout = document.GetPageLayout();
+    auto const elements = layout->GetGraphicsContainer()->GetElements();
+    QCOMPARE(document.GetMapCount(), 2);
+    QCOMPARE(document.GetMap(0)->GetName(), QStringLiteral("Welt – “quoted”\n"));
+    QVERIFY(!document.GetMap(2));
+    QVERIFY(!document.GetMap(-1));
+    QCOMPARE(layout->GetFocusMap(), document.GetMap(1));
+    QCOMPARE(ptr_cast<MapSurroundFrame>(elements[3])->GetMapSurround()->GetMap(), document.GetMap(1));
+    QCOMPARE(ptr_cast<MapSurroundFrame>(elements[4])->GetMapSurround()->GetMap(), document.GetMap(0));
+    QVERIFY(!ptr_cast<MapSurroundFrame>(elements[6])->GetMapSurround()->GetMap());
+    QCOMPARE(document.GetMap(0)->GetGraphicsContainer()->GetElements().size(), 1);
+    QVERIFY(layout->GetAlignToMargins());
+    QCOMPARE(document.history()->count(), 0);
+  }
+
+  void anOpenedViewShowsTheWholePageAndHasNoEarlierExtent() {
+    MapDocument document;
+    QVERIFY(document.Open(path("sample.kdx")));
+    for (_ptr_t<ActiveView> const& view : {document.GetActiveView(), _ptr_t<ActiveView>(document.GetMap(0))}) {
+      QVERIFY(!view->GetExtentStack()->CanUndo());
+      QVERIFY(!view->GetExtentStack()->CanRedo());
+    }
+    auto const page = document.GetPageLayout()->GetPage()->GetPageEnvelope();
+    QVERIFY(document.GetActiveView()->GetExtent()->Contains(page));
+  }
+
+  void aBadFieldIsNamedAndNothingIsOpened_data() {
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QJsonValue>("value");
+    QTest::addColumn<QString>("complaint");
+    QJsonValue const gone(QJsonValue::Undefined);
+    // clang-format off
+    QTest::newRow("another format")           << "format"    << QJsonValue("other") << "format: is not “plotvane-document”";
+    QTest::newRow("no format")                << "format"    << gone                << "format: is missing";
+    QTest::newRow("a newer version")          << "version"   << QJsonValue(2)       << "version: the document was written by a newer version";
+    QTest::newRow("version 0")                << "version"   << QJsonValue(0)       << "version: 0 is not between";
+    QTest::newRow("a text for a flag")        << "relativePaths" << QJsonValue("no") << "relativePaths: expected true or false, found a text";
+    QTest::newRow("an object for a list")     << "maps"      << QJsonValue(QJsonObject()) << "maps: expected a list";
+    QTest::newRow("a number for a map")       << "maps.1"    << QJsonValue(7)       << "maps[1]: expected an object";
+    QTest::newRow("null for a name")          << "maps.0.name" << QJsonValue()      << "maps[0].name: expected a text, found null";
+    QTest::newRow("an unknown system")        << "maps.0.coordinateSystem" << QJsonValue("EPSG:99999") << "maps[0].coordinateSystem: “EPSG:99999”";
+    QTest::newRow("a system from a file")     << "maps.0.coordinateSystem" << QJsonValue("/etc/passwd") << "maps[0].coordinateSystem: ";
+    QTest::newRow("bounds of three numbers")  << "maps.0.bounds" << QJsonValue(QJsonArray{0, 0, 1}) << "maps[0].bounds: expected 4 numbers";
+    QTest::newRow("bounds without a size")    << "maps.0.bounds" << QJsonValue(QJsonArray{5, 5, 5, 5}) << "maps[0].bounds: must be";
+    QTest::newRow("bounds turned over")       << "maps.0.bounds" << QJsonValue(QJsonArray{5, 5, 1, 9}) << "maps[0].bounds: must be";
+    QTest::newRow("bounds beyond all maps")   << "maps.1.bounds.2" << QJsonValue(1e308) << "maps[1].bounds[2]: 1e+308 is not between";
+    QTest::newRow("a focus that is no map")   << "layout.focusMap" << QJsonValue(2)     << "layout.focusMap: 2 is not between 0 and 1";
+    QTest::newRow("a focus between two maps") << "layout.focusMap" << QJsonValue(0.5)   << "layout.focusMap: 0.5 is not a whole number";
+    QTest::newRow("a handle used twice")      << "elements.1.handle" << QJsonValue(1)   << "elements[1].handle";
+    QTest::newRow("a negative handle")        << "elements.1.handle" << QJsonValue(-1)  << "elements[1].handle";
+    QTest::newRow("an element of no type")    << "elements.2.type" << QJsonValue("")    << "elements[2].type";
+    QTest::newRow("a data frame on a map")    << "maps.0.graphics.0" << QJsonValue(QJsonDocument::fromJson(sample_).object()["elements"].toArray()[1]) << "maps[0].graphics[0].type: data frames";
+    // clang-format on
+  }
+  void aBadFieldIsNamedAndNothingIsOpened() {
+    QFETCH(QString, field);
+    QFETCH(QJsonValue, value);
+    QFETCH(QString, complaint);
+    QJsonValue const json = changed(QJsonDocument::fromJson(sample_).object(), field.split('.'), value);
+    put(path("bad.kdx"), QJsonDocument(json.toObject()).toJson());
+    QVERIFY2(refused("bad.kdx").startsWith(path("bad.kdx") + ": " + complaint), qPrintable(refused("bad.kdx")));
+  }
+
+  void aFileThatIsNoDocumentIsRefused_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("complaint");
+    QTest::newRow("empty") << QByteArray() << "line 1, column 1: this is not JSON";
+    QTest::newRow("a slip in the third line") << QByteArray("{\n  \"a\": 1,\n  \"ä\" 2\n}") << "line 3, column 8: ";
+    QTest::newRow("a picture") << QByteArray("\x89PNG\r\n\x1a\n\0\0", 10) << "this is not JSON";
+    QTest::newRow("a list") << QByteArray("[1, 2]") << "holds a list";
+    QTest::newRow("a number that JSON does not have")
+        << QByteArray(sample_).replace("\"version\": 1", "\"version\": NaN") << "this is not JSON";
+    QTest::newRow("lists without an end") << QByteArray(100000, '[') << "this is not JSON";
+    QTest::newRow("objects without an end") << QByteArray("{\"maps\":").repeated(100000) << "this is not JSON";
+    QTest::newRow("broken letters") << QByteArray(sample_).replace("Plan", "Pl\xff\xfe") << "this is not JSON";
+  }
+  void aFileThatIsNoDocumentIsRefused() {
+    QFETCH(QByteArray, content);
+    QFETCH(QString, complaint);
+    put(path("bad.kdx"), content);
+    QVERIFY2(refused("bad.kdx").contains(complaint), qPrintable(refused("bad.kdx")));
+  }
+
+  void aCutFileIsRefusedWhereverItIsCut() {
+    for (int length = 0; length < sample_.size() - 2; length += 100) {
+      put(path("cut.kdx"), sample_.left(length));
+      QVERIFY2(refused("cut.kdx").contains("this is not JSON"), qPrintable(QString::number(length)));
+    }
+  }
+
+  void whatIsNoFileIsRefused() {
+    QVERIFY(refused("missing.kdx").contains("no such file"));
+    QVERIFY(refused(".").contains("is a folder"));
+    QVERIFY(MapDocument().Open(QString()) == false);
+    MapDocument document;
+    QVERIFY(!document.Open("/dev/zero"));
+    QVERIFY(document.GetErrors().value(0).contains("no ordinary file"));
+  }
+
+  void groupsWithoutAnEndAreRefused() {
+    QJsonObject element{{"type", "group"}};
+    for (int i = 0; i < 400; ++i) element = QJsonObject{{"type", "group"}, {"members", QJsonArray{element}}};
+    QJsonValue const json = changed(QJsonDocument::fromJson(sample_).object(), {"elements"}, QJsonArray{element});
+    put(path("deep.kdx"), QJsonDocument(json.toObject()).toJson());
+    QVERIFY2(refused("deep.kdx").contains("nested more than"), qPrintable(refused("deep.kdx")));
+  }
+
+  void aSurroundKeepsTheMapOfADeletedFrame() {
+    MapDocument document;
+    QVERIFY(document.Open(path("sample.kdx")));
+    auto* const elements = document.GetPageLayout()->GetGraphicsContainer();
+    elements->DeleteElement(elements->GetElements().at(1));
+    QVERIFY2(document.SaveAs(path("orphan.kdx"), true, false), qPrintable(document.GetErrors().join('\n')));
+    QVERIFY(document.Open(path("orphan.kdx")));
+    QCOMPARE(document.GetWarnings(), QStringList());
+    auto const scaleLine =
+        ptr_cast<MapSurroundFrame>(document.GetPageLayout()->GetGraphicsContainer()->GetElements().at(2));
+    QCOMPARE(scaleLine->GetMapSurround()->GetMap()->GetName(), QString("Plan"));
+    QCOMPARE(document.GetMapCount(), 1);
+  }
+
+  void unknownFieldsAndUnshownMapsAreReported() {
+    QJsonObject json = QJsonDocument::fromJson(sample_).object();
+    json["colour"] = "red";
+    json = changed(json, {"maps", "0", "note"}, 1).toObject();
+    json["maps"] = [&] {
+      QJsonArray maps = json["maps"].toArray();
+      maps << QJsonObject{{"name", "Unseen"}, {"bounds", QJsonArray{0, 0, 1, 1}}};
+      return maps;
+    }();
+    put(path("odd.kdx"), QJsonDocument(json).toJson());
+    MapDocument document;
+    QVERIFY(document.Open(path("odd.kdx")));
+    QString const warnings = document.GetWarnings().join('\n');
+    for (char const* place : {": colour: ", ": maps[0].note: ", ": maps[2]: "})
+      QVERIFY2(warnings.contains(path("odd.kdx") + place), qPrintable(warnings));
+    QCOMPARE(document.GetWarnings().size(), 3);
+    QVERIFY(document.SaveAs(path("odd.kdx"), true, false));
+    QCOMPARE(QString::fromUtf8(contentOf(path("odd.kdx"))), QString::fromUtf8(sample_));
+  }
+
+  void aMissingDataSourceKeepsItsLayerAndItsPath() {
+    QJsonObject const layer = QJsonDocument::fromJson(R"({"type": "feature", "name": "Rivers",
+        "source": {"file": "data/rivers.gpkg"}, "renderer": {"type": "simple", "symbol": {"type": "simpleLine"}}})")
+                                  .object();
+    QJsonValue const json =
+        changed(QJsonDocument::fromJson(sample_).object(), {"maps", "0", "layers"}, QJsonArray{layer});
+    put(path("rivers.kdx"), QJsonDocument(json.toObject()).toJson());
+    MapDocument document;
+    QVERIFY2(document.Open(path("rivers.kdx")), qPrintable(document.GetErrors().join('\n')));
+    QCOMPARE(document.GetUnreadableSourceCount(), 1);
+    QCOMPARE(document.GetWarnings().size(), 1);
+    QVERIFY2(document.GetWarnings().at(0).contains("data/rivers.gpkg"), qPrintable(document.GetWarnings().at(0)));
+    QCOMPARE(document.GetMap(0)->GetLayerCount(), 1);
+
+    auto const savedSource = [&](QString const& file, bool relativePaths) {
+      if (!document.SaveAs(file, relativePaths, false)) return document.GetErrors().value(0);
+      QJsonValue const map = QJsonDocument::fromJson(contentOf(file)).object()["maps"].toArray().at(0);
+      return map["layers"].toArray().at(0)["source"]["file"].toString();
+    };
+    QVERIFY(QDir(folder_.path()).mkpath("deeper"));
+    QCOMPARE(savedSource(path("deeper/rivers.kdx"), true), QString("../data/rivers.gpkg"));
+    QCOMPARE(savedSource(path("deeper/rivers.kdx"), false), path("data/rivers.gpkg"));
+    QVERIFY(document.Open(path("deeper/rivers.kdx")));
+    QVERIFY(!document.IsUsesRelativePaths());
+    QCOMPARE(savedSource(path("rivers.kdx"), true), QString("data/rivers.gpkg"));
+  }
+
+  void theExampleInTheDocumentationOpens() {
+    QString const text = QString::fromUtf8(contentOf(PLOTVANE_SOURCE_DIR "/docs/document-format.md"));
+    put(path("example.kdx"), text.section("```json", 1).section("```", 0, 0).toUtf8());
+    MapDocument document;
+    QVERIFY2(document.Open(path("example.kdx")), qPrintable(document.GetErrors().join('\n')));
+    QCOMPARE(document.GetWarnings().size(), 1);
+    QCOMPARE(document.GetUnreadableSourceCount(), 1);
+    QCOMPARE(document.GetPageLayout()->GetGraphicsContainer()->GetElements().size(), 3);
+  }
+
+  void elementsWithoutAHandleGetOneThatIsFree() {
+    QJsonObject json = QJsonDocument::fromJson(sample_).object();
+    json = changed(json, {"elements", "0", "handle"}, QJsonValue(QJsonValue::Undefined)).toObject();
+    json = changed(json, {"elements", "1", "handle"}, QJsonValue(0)).toObject();
+    put(path("handles.kdx"), QJsonDocument(json).toJson());
+    MapDocument document;
+    QVERIFY2(document.Open(path("handles.kdx")), qPrintable(document.GetErrors().join('\n')));
+    QSet<ElementHandle> handles;
+    auto const elements = document.GetPageLayout()->GetGraphicsContainer()->GetElements();
+    for (auto const& element : elements) handles << element->GetHandle();
+    QCOMPARE(handles.size(), elements.size());
+    QVERIFY(!handles.contains(0));
+    QCOMPARE(elements[2]->GetHandle(), json["elements"].toArray()[2].toObject()["handle"].toInt());
+  }
+
+  void aDocumentThatCannotBeOpenedLeavesTheOldOne() {
+    MapDocument document;
+    QVERIFY(document.Open(path("sample.kdx")));
+    auto const layout = document.GetPageLayout();
+    put(path("bad.kdx"), "{");
+    QVERIFY(!document.Open(path("bad.kdx")));
+    QCOMPARE(document.GetPageLayout(), layout);
+    QCOMPARE(document.GetPath(), path("sample.kdx"));
+    QVERIFY(document.Save(true, false));
+    QCOMPARE(document.GetErrors(), QStringList());
+    QCOMPARE(QString::fromUtf8(contentOf(path("sample.kdx"))), QString::fromUtf8(sample_));
+  }
+
+  void aSaveThatFailsKeepsTheOldFile() {
+    MapDocument document;
+    QVERIFY(document.Open(path("sample.kdx")));
+    document.GetMap(0)->SetName(QString(5000, 'n'));
+    {
+      FileSizeLimit const limit(sample_.size());
+      QVERIFY(!document.Save(true, false));
+      QVERIFY(document.GetErrors().value(0).contains("sample.kdx"));
+    }
+    QCOMPARE(contentOf(path("sample.kdx")), sample_);
+    QVERIFY(!document.SaveAs(path("nowhere/a.kdx"), true, false));
+    QVERIFY(!document.SaveAs(path("."), true, false));
+    QVERIFY(!document.SaveAs(QString(), true, false));
+    QCOMPARE(document.GetPath(), path("sample.kdx"));
+    QVERIFY(!MapDocument().SaveAs(path("empty.kdx"), true, false));
+    QVERIFY(!QFileInfo::exists(path("empty.kdx")));
+    QCOMPARE(QDir(folder_.path()).entryList({"sample*"}, QDir::AllEntries | QDir::Hidden), QStringList{"sample.kdx"});
+  }
+
+  void aBackupKeepsTheOldFile() {
+    put(path("kept.kdx"), "old");
+    put(path("kept.kdx~"), "older");
+    MapDocument document;
+    document.New(path("kept.kdx"));
+    QVERIFY(document.Save(true, true));
+    QCOMPARE(contentOf(path("kept.kdx~")), QByteArray("old"));
+    QVERIFY(document.Save(true, false));
+    QCOMPARE(contentOf(path("kept.kdx~")), QByteArray("old"));
+    QFile::remove(path("kept.kdx~"));
+    QVERIFY(QDir().mkdir(path("kept.kdx~")));
+    QByteArray const before = contentOf(path("kept.kdx"));
+    document.GetPageLayout()->SetAlignToMargins(true);
+    QVERIFY(!document.Save(true, true));
+    QCOMPARE(contentOf(path("kept.kdx")), before);
+  }
+
+  void aThumbnailShowsThePageAndThereMayBeNone() {
+    MapDocument document;
+    QVERIFY(document.Thumbnail().isNull());
+    QVERIFY(document.Open(path("sample.kdx")));
+    QImage const picture = document.Thumbnail();
+    QCOMPARE(picture.size(), QSize(256, 181));
+    QCOMPARE(picture.pixelColor(250, 100), QColor(Qt::white));
+    QVERIFY(picture.pixelColor(0, 100).lightness() < 230);
+
+    document.GetPageLayout()->SetPage(nullptr);
+    QVERIFY(document.Thumbnail().isNull());
+    QVERIFY(document.SaveAs(path("pageless.kdx"), true, false));
+    QVERIFY(document.Open(path("pageless.kdx")));
+    QVERIFY(!document.GetPageLayout()->GetPage());
+  }
+
+  void aRescaledPageStartsANewHistory_data() {
+    QTest::addColumn<bool>("turned");
+    QTest::addColumn<bool>("moved");
+    QTest::addColumn<bool>("keepsHistory");
+    QTest::newRow("a page that stays") << false << false << true;
+    QTest::newRow("elements moved outside the history") << false << true << true;
+    QTest::newRow("another page, the elements stay") << true << false << true;
+    QTest::newRow("another page, the elements moved with it") << true << true << false;
+  }
+  void aRescaledPageStartsANewHistory() {
+    QFETCH(bool, turned);
+    QFETCH(bool, moved);
+    QFETCH(bool, keepsHistory);
+    MapDocument document;
+    document.New(QString());
+    auto* const elements = document.GetPageLayout()->GetGraphicsContainer();
+    _ptr_t<Element> const element = make<RectangleElement>();
+    Editor::Instance()->setHistory(document.history());
+    Editor::Instance()->StartOperation("step");
+    elements->AddElement(element);
+    Editor::Instance()->StopOperation();
+    auto const operations = document.GetOperationStack();
+    QVERIFY(operations->CanUndo());
+
+    if (turned) document.GetPageLayout()->GetPage()->SetOrientation(2);
+    if (moved) element->Move(1, 1);
+    QCOMPARE(operations->CanUndo(), keepsHistory);
+    operations->Undo();
+    QCOMPARE(elements->GetElements().isEmpty(), keepsHistory);
+    QCOMPARE(operations->GetRedoName(), keepsHistory ? QString("step") : QString());
+    Editor::Instance()->setHistory(nullptr);
+  }
+
+  void anotherLayoutStartsANewHistory() {
+    MapDocument document;
+    document.New(QString());
+    document.history()->push(new QUndoCommand("step"));
+    auto const operations = document.GetOperationStack();
+    QCOMPARE(operations->GetUndoName(), QString("step"));
+    auto const contents = make<Contents>();
+    contents->layout = document.GetPageLayout();
+    document.ReplaceContents(contents);
+    QVERIFY(operations->CanUndo());
+    contents->layout = make<PageLayout>();
+    document.ReplaceContents(contents);
+    QCOMPARE(document.GetPageLayout(), contents->layout);
+    QVERIFY(!operations->CanUndo());
+  }
+
+  void anOperationStackOutlivesItsDocument() {
+    _ptr_t<SysUI::IOperationStack> operations;
+    {
+      MapDocument document;
+      document.New(QString());
+      operations = document.GetOperationStack();
+      document.history()->push(new QUndoCommand("step"));
+      operations->Undo();
+      QVERIFY(operations->CanRedo());
+    }
+    operations->Redo();
+    QVERIFY(!operations->CanRedo());
+  }
+
+private:
+  QString path(QString const& name) const { return folder_.filePath(name); }
+
+  // The one sentence with which an empty document refuses a file, and with which it stays empty.
+  QString refused(QString const& name) const {
+    MapDocument document;
+    bool const opened = document.Open(path(name));
+    bool const isOneLine = document.GetErrors().size() == 1 && !document.GetErrors().at(0).contains('\n');
+    return opened || document.GetPageLayout() || !isOneLine ? "(not refused)" : document.GetErrors().at(0);
+  }
+
+  QTemporaryDir folder_;
+  QByteArray sample_;
+};
+
+QTEST_MAIN(DocumentTest)
+#include "tst_document.moc"

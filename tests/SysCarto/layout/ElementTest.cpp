@@ -1,0 +1,229 @@
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/PictureElement.h"
+#include "host/SysCarto/layout/TextElement.h"
+
+#include <SysCarto/Graticule.h>
+#include <SysCarto/GroupElement.h>
+#include <SysCarto/Map.h>
+#include <SysCarto/MapFrameElement.h>
+#include <SysCarto/MapSurroundFrame.h>
+#include <SysCarto/SymbolFrameParts.h>
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace SysCarto;
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysGeometry::Point;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+namespace {
+
+constexpr double cmPerPoint = 2.54 / 72;
+
+// An A4 page at 96 pixels an inch.
+_ptr_t<DisplayTransformation> pageView(double dpi = 96) {
+  auto const transformation = make<DisplayTransformation>();
+  transformation->SetDeviceFrame(QRect(0, 0, qRound(21 / 2.54 * dpi), qRound(29.7 / 2.54 * dpi)));
+  transformation->SetVisibleBounds(make<Envelope>(0.0, 0.0, 21.0, 29.7));
+  transformation->SetPageScale(transformation->ToDevice().m11() * 2.54 / 96);
+  return transformation;
+}
+
+QVector<double> sides(_ptr_t<SysGeometry::Geometry> const& geometry) {
+  auto const e = geometry->GetEnvelope();
+  QVector<double> sides{e->GetXMin(), e->GetYMin(), e->GetXMax(), e->GetYMax()};
+  for (double& side : sides) side = std::round(side * 1e6) / 1e6;
+  return sides;
+}
+
+_ptr_t<Element> lineFrom(QVector<QPointF> points) {
+  auto const line = make<LineElement>();
+  line->setShape(make<SysGeometry::Polyline>(points));
+  return line;
+}
+
+_ptr_t<Element> in(_ptr_t<Element> const& element, double xmin, double ymin, double xmax, double ymax) {
+  element->SetGeometry(make<Envelope>(xmin, ymin, xmax, ymax));
+  return element;
+}
+
+_ptr_t<Element> text(QString const& letters, double x, double y, double haloPt = 0) {
+  SysDisplay::TextFormat format;
+  format.haloSize = haloPt;
+  auto const element = make<TextElement>();
+  element->setText(letters);
+  element->setPosition(x, y);
+  element->setSymbol(make<SysDisplay::TextSymbol>(format));
+  return element;
+}
+
+_ptr_t<Element> groupOf(QList<_ptr_t<Element>> const& members) {
+  auto const group = make<GroupElement>();
+  for (auto const& member : members) group->AddElement(member);
+  return group;
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(_ptr_t<Element>)
+
+class ElementTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void movesScalesAndFits_data() {
+    QTest::addColumn<_ptr_t<Element>>("element");
+    QTest::addColumn<QVector<double>>("moved");   // by (1, -2)
+    QTest::addColumn<QVector<double>>("scaled");  // about (2, 3) by 2 and 0.5
+    QTest::addColumn<QVector<double>>("fitted");  // into (10, 10) to (14, 12)
+    using Sides = QVector<double>;
+    Sides const moved{3, 1, 7, 3}, scaled{2, 3, 10, 4}, fitted{10, 10, 14, 12};
+    QTest::newRow("rectangle") << in(make<RectangleElement>(), 2, 3, 6, 5) << moved << scaled << fitted;
+    QTest::newRow("ellipse") << in(make<EllipseElement>(), 2, 3, 6, 5) << moved << scaled << fitted;
+    QTest::newRow("picture") << in(make<PictureElement>(), 2, 3, 6, 5) << moved << scaled << fitted;
+    QTest::newRow("data frame") << in(make<MapFrameElement>(), 2, 3, 6, 5) << moved << scaled << fitted;
+    QTest::newRow("surround") << in(make<MapSurroundFrame>(), 2, 3, 6, 5) << moved << scaled << fitted;
+    QTest::newRow("line") << lineFrom({{2, 5}, {6, 3}}) << moved << scaled << fitted;
+    QTest::newRow("group of two") << groupOf({in(make<RectangleElement>(), 2, 3, 3, 4), lineFrom({{3, 3}, {6, 5}})})
+                                  << moved << scaled << fitted;
+    QTest::newRow("a level line keeps its height of nothing")
+        << lineFrom({{2, 3}, {6, 3}}) << Sides{3, 1, 7, 1} << Sides{2, 3, 10, 3} << Sides{10, 11, 14, 11};
+    auto const marker = make<MarkerElement>();
+    marker->setShape(make<Point>(4.0, 5.0, 0.0));
+    QTest::newRow("a marker only moves") << _ptr_t<Element>(marker) << Sides{5, 3, 5, 3} << Sides{6, 4, 6, 4}
+                                         << Sides{12, 11, 12, 11};
+  }
+  void movesScalesAndFits() {
+    QFETCH(_ptr_t<Element>, element);
+    QFETCH(QVector<double>, moved);
+    QFETCH(QVector<double>, scaled);
+    QFETCH(QVector<double>, fitted);
+    QVector<double> const before = sides(element->GetEnvelope());
+    auto const changed = [&](auto const& change) {
+      auto const copy = element->Clone();
+      change(*copy);
+      return sides(copy->GetEnvelope());
+    };
+    QCOMPARE(changed([](Element& e) { e.Move(1, -2); }), moved);
+    QCOMPARE(changed([](Element& e) { e.Scale(make<Point>(2.0, 3.0, 0.0), 2, 0.5); }), scaled);
+    QCOMPARE(changed([](Element& e) { e.SetGeometry(make<Envelope>(14.0, 12.0, 10.0, 10.0)); }), fitted);
+    QCOMPARE(changed([](Element& e) { e.SetGeometry(make<Envelope>()); }), before);
+    QCOMPARE(sides(element->GetEnvelope()), before);  // clones are independent
+  }
+
+  void boundaryCoversWhatSymbolsAdd_data() {
+    QTest::addColumn<_ptr_t<Element>>("element");
+    QTest::addColumn<double>("left");  // in points beyond the rectangle (2, 3) to (6, 5)
+    QTest::addColumn<double>("bottom");
+    auto const border = make<SymbolBorder>();
+    border->SetGap(4);
+    auto const framed = make<MapFrameElement>(), shaded = make<MapFrameElement>(), bare = make<MapFrameElement>();
+    framed->SetBorder(border);
+    for (auto const& frame : {shaded, bare}) frame->SetBorder(nullptr);
+    auto const shadow = make<SymbolShadow>();
+    shadow->SetOffset(-7, 5);
+    shaded->SetShadow(shadow);
+    QTest::newRow("border and its gap") << in(framed, 2, 3, 6, 5) << 4.5 << 4.5;
+    QTest::newRow("shadow to the upper left") << in(shaded, 2, 3, 6, 5) << 7.0 << 0.0;
+    QTest::newRow("no part") << in(bare, 2, 3, 6, 5) << 0.0 << 0.0;
+    QTest::newRow("outline of half a point") << in(make<RectangleElement>(), 2, 3, 6, 5) << 0.25 << 0.25;
+  }
+  void boundaryCoversWhatSymbolsAdd() {
+    QFETCH(_ptr_t<Element>, element);
+    QFETCH(double, left);
+    QFETCH(double, bottom);
+    for (double dpi : {96.0, 300.0}) {
+      auto const boundary = element->GetBoundary(pageView(dpi))->GetEnvelope();
+      double const pixel = 2.54 / dpi;
+      QVERIFY(std::abs(boundary->GetXMin() - (2 - left * cmPerPoint)) <= pixel);
+      QVERIFY(std::abs(boundary->GetYMin() - (3 - bottom * cmPerPoint)) <= pixel);
+      QVERIFY(boundary->GetXMin() <= 2 - left * cmPerPoint + 1e-3);
+    }
+  }
+
+  void gridLabelsWidenTheBoundary() {
+    struct LabelledGrid final : IMapGrid {
+      QString GetName() const override { return {}; }
+      void SetName(QString const&) override {}
+      void Draw(QPainter&, _ptr_t<SysUI::TrackerCancel> const&, _ptr_t<DisplayTransformation> const&,
+                _ptr_t<MapFrameElement> const&) override {}
+      double GetMargin() const override { return 72; }
+      _ptr_t<IMapGrid> Clone() const override { return make<LabelledGrid>(); }
+    };
+    auto const frame = make<MapFrameElement>();
+    frame->SetGeometry(make<Envelope>(4.0, 4.0, 8.0, 8.0));
+    frame->AddMapGrid(_ptr_t<IMapGrid>(new LabelledGrid));
+    QVector<double> const labelled{4 - 2.54, 4 - 2.54, 8 + 2.54, 8 + 2.54};
+    QCOMPARE(sides(frame->GetBoundary(pageView())), labelled);
+    QCOMPARE(sides(frame->Clone()->GetBoundary(pageView())), labelled);
+  }
+
+  void textScalesItsFontByTheFirstFactorAlone() {
+    auto const element = ptr_cast<TextElement>(text("Plan", 4, 5));
+    auto const shared = element->symbol();
+    auto const envelope = element->GetEnvelope();
+    element->Scale(make<Point>(2.0, 3.0, 0.0), 2, 10);
+    QCOMPARE(element->symbol()->format().size, 20.0);
+    QCOMPARE(shared->format().size, 10.0);  // of other elements
+    QCOMPARE(sides(element->GetGeometry()), (QVector<double>{6, 23, 6, 23}));
+    QVERIFY(std::abs(element->GetEnvelope()->GetWidth() - 2 * envelope->GetWidth()) < 0.02 * envelope->GetWidth());
+  }
+
+  void textHasOneSizeOnPaperAndItsHaloIsNotItsOwn() {
+    auto const plain = text("Plan", 4, 5), haloed = text("Plan", 4, 5, 3);
+    QCOMPARE(sides(plain->GetEnvelope()), sides(haloed->GetEnvelope()));
+    QCOMPARE(sides(plain->GetBoundary(pageView(96))), sides(plain->GetBoundary(pageView(600))));
+    auto const wider = haloed->GetBoundary(pageView())->GetEnvelope();
+    QVERIFY(std::abs(wider->GetWidth() - plain->GetEnvelope()->GetWidth() - 6 * cmPerPoint) < 1e-6);
+    haloed->SetGeometry(make<Envelope>(10.0, 10.0, 12.0, 11.0));
+    auto const centre = haloed->GetEnvelope()->GetAnchorPoint();
+    QVERIFY(std::abs(centre->GetX() - 11) < 1e-9 && std::abs(centre->GetY() - 10.5) < 1e-9);
+  }
+
+  void turnedTextIsAsHighAsItWasWide() {
+    auto const level = text("A long line", 4, 5), upright = text("A long line", 4, 5);
+    ptr_cast<TextElement>(upright)->setAngle(90);
+    auto const lying = level->GetBoundary(pageView())->GetEnvelope();
+    auto const standing = upright->GetBoundary(pageView())->GetEnvelope();
+    QVERIFY(std::abs(lying->GetWidth() - standing->GetHeight()) < 1e-9);
+    QVERIFY(standing->GetYMax() > lying->GetYMax());  // counterclockwise: it runs upwards
+  }
+
+  void onlyAFrameOnThePageTellsTheMapItsSize() {
+    auto const frame = make<MapFrameElement>();
+    frame->SetGeometry(make<Envelope>(0.0, 0.0, 10.0, 10.0));
+    frame->setPlaced(true);
+    auto const aspect = [&] {
+      QRect const device = frame->GetMap()->GetDisplayTransformation()->GetDeviceFrame();
+      return double(device.width()) / device.height();
+    };
+    QCOMPARE(aspect(), 1.0);
+    auto const copy = frame->Clone();
+    copy->SetGeometry(make<Envelope>(0.0, 0.0, 20.0, 10.0));
+    QCOMPARE(aspect(), 1.0);
+    frame->setPlaced(false);
+    copy->setPlaced(true);
+    QCOMPARE(aspect(), 2.0);
+  }
+
+  void cloneOfASurroundFrameHasASurroundOfItsOwn() {
+    auto const frame = make<MapSurroundFrame>();
+    auto const map = make<Map>();
+    frame->SetMapSurround(make<ScaleText>());
+    frame->GetMapSurround()->SetMap(map);
+    auto const copy = ptr_cast<MapSurroundFrame>(frame->Clone());
+    copy->SetGeometry(make<Envelope>(1.0, 2.0, 3.0, 4.0));
+    QVERIFY(copy->GetMapSurround() != frame->GetMapSurround());
+    QVERIFY(copy->GetMapSurround()->GetMap() == map);
+    QCOMPARE(copy->GetMapSurround()->rectangle().GetXMax(), 3.0);
+    QCOMPARE(frame->GetMapSurround()->rectangle().GetXMax(), 1.0);
+  }
+};
+
+QTEST_MAIN(ElementTest)
+#include "ElementTest.moc"

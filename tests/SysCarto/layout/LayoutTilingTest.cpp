@@ -1,0 +1,256 @@
+#include "host/SysCarto/layout/ElementContainer.h"
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/PictureElement.h"
+#include "host/SysCarto/layout/TextElement.h"
+
+#include <SysCarto/GroupElement.h>
+#include <SysCarto/Map.h>
+#include <SysCarto/MapFrameElement.h>
+#include <SysCarto/Page.h>
+#include <SysCarto/SymbolFrameParts.h>
+
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <functional>
+
+using namespace SysCarto;
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace {
+
+using Scene = std::function<void(QPainter&, _ptr_t<DisplayTransformation> const&)>;
+
+// A page whose pixels have no short size in centimetres.
+constexpr double pageWidthCm = 7.3, pageHeightCm = 5.9;
+constexpr int dpi = 251;
+constexpr int widthPx = 721, heightPx = 583;
+static_assert(widthPx == int(pageWidthCm / 2.54 * dpi) && heightPx == int(pageHeightCm / 2.54 * dpi));
+
+QImage drawn(Scene const& scene, QRect const& tile) {
+  constexpr double pixel = pageWidthCm / widthPx;
+  auto const transformation = make<DisplayTransformation>();
+  transformation->SetPageScale(dpi / 96.0);
+  transformation->SetDeviceFrame(QRect(QPoint(0, 0), tile.size()));
+  double const xmin = tile.x() * pixel, ymax = pageHeightCm - tile.y() * pixel;
+  transformation->SetVisibleBounds(
+      make<Envelope>(xmin, ymax - tile.height() * pixel, xmin + tile.width() * pixel, ymax));
+  QImage image(tile.size(), QImage::Format_RGBA8888_Premultiplied);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  scene(painter, transformation);
+  return image;
+}
+
+QImage tiled(Scene const& scene, int tilePx) {
+  QImage whole(widthPx, heightPx, QImage::Format_RGBA8888_Premultiplied);
+  QPainter painter(&whole);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  for (int y = 0; y < heightPx; y += tilePx)
+    for (int x = 0; x < widthPx; x += tilePx) {
+      QRect const tile = QRect(x, y, tilePx, tilePx) & whole.rect();
+      painter.drawImage(tile.topLeft(), drawn(scene, tile));
+    }
+  return whole;
+}
+
+int differences(QImage const& a, QImage const& b) {
+  int count = 0;
+  for (int y = 0; y < a.height(); ++y)
+    for (int x = 0; x < a.width(); ++x) count += a.pixel(x, y) != b.pixel(x, y);
+  return count;
+}
+
+int inked(QImage const& image) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) != qRgb(255, 255, 255);
+  return count;
+}
+
+// Drawn through a container, so that what it leaves out at a tile's edge shows, too.
+Scene sceneOf(QList<_ptr_t<Element>> const& elements) {
+  auto const container = std::make_shared<ElementContainer>();
+  container->AddElements(elements);
+  return [container](QPainter& painter, _ptr_t<DisplayTransformation> const& transformation) {
+    container->Draw(painter, transformation, 1, nullptr);
+  };
+}
+
+template <class E>
+_ptr_t<E> in(_ptr_t<E> const& element, double xmin, double ymin, double xmax, double ymax) {
+  element->SetGeometry(make<Envelope>(xmin, ymin, xmax, ymax));
+  return element;
+}
+
+_ptr_t<MapFrameElement> framed(double rounding) {
+  auto const border = make<SymbolBorder>();
+  auto const background = make<SymbolBackground>();
+  auto const shadow = make<SymbolShadow>();
+  border->GetLineSymbol()->SetWidth(3.3);
+  border->SetGap(2);
+  border->SetCornerRounding(rounding);
+  background->GetFillSymbol()->SetColor(QColor(220, 240, 200));
+  background->SetCornerRounding(rounding);
+  shadow->SetOffset(6, -6);
+  shadow->SetCornerRounding(rounding);
+  auto const frame = make<MapFrameElement>();
+  frame->SetBorder(border);
+  frame->SetBackGround(background);
+  frame->SetShadow(shadow);
+  return in(frame, 0.61, 0.73, 6.57, 5.01);
+}
+
+_ptr_t<MapFrameElement> framedMap() {
+  auto const frame = framed(0);
+  frame->setPlaced(true);
+  IElementContainer* const graphics = frame->GetMap()->GetGraphicsContainer();
+  for (int i = 0; i < 12; ++i) {
+    graphics->AddElement(in(make<EllipseElement>(), i * 170, i * 120, i * 170 + 300, i * 120 + 200));
+    auto const label = make<TextElement>();
+    label->setText(QString("Label %1").arg(i));
+    label->setPosition(i * 170, 1400 - i * 100);
+    label->setAngle(i * 9);
+    graphics->AddElement(label);
+  }
+  frame->setPlaced(false);
+  return frame;
+}
+
+_ptr_t<TextElement> turnedText() {
+  SysDisplay::TextFormat format;
+  format.size = 31;
+  format.haloSize = 2;
+  format.haloColor = Qt::yellow;
+  auto const text = make<TextElement>();
+  text->setText("Across the\ntile's edges");
+  text->setSymbol(make<SysDisplay::TextSymbol>(format));
+  text->setPosition(0.4, 2.2);
+  text->setAngle(17);
+  return text;
+}
+
+QImage photo(QSize const& size) {
+  QImage image(size, QImage::Format_RGB32);
+  for (int y = 0; y < size.height(); ++y)
+    for (int x = 0; x < size.width(); ++x)
+      image.setPixel(x, y, qRgb(x * 7 % 256, y * 5 % 256, (x / 9 + y / 9) % 2 * 255));
+  return image;
+}
+
+}  // namespace
+
+Q_DECLARE_METATYPE(Scene)
+
+class LayoutTilingTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() {
+    QVERIFY(photo(QSize(1500, 1100)).save(path("large.png")));
+    QVERIFY(photo(QSize(90, 70)).save(path("small.jpg")));
+    write("drawing.svg",
+          "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 40 30'><circle cx='20' cy='15' r='13' fill='teal'/>"
+          "<path d='M0 0 L40 30 M0 30 L40 0' stroke='red' stroke-width='1.3'/></svg>");
+    write("outside.svg", "<svg xmlns='http://www.w3.org/2000/svg'><image href='http://example.com/a.png'/></svg>");
+    write("text.png", "not a picture");
+    QImage const wide(20000, 1, QImage::Format_Mono);
+    QVERIFY(wide.save(path("wide.png")));
+  }
+
+  void tilesDoNotShow_data() {
+    QTest::addColumn<Scene>("scene");
+    QTest::newRow("border, background and shadow") << sceneOf({framed(0)});
+    QTest::newRow("rounded corners") << sceneOf({framed(60)});
+    QTest::newRow("map with graphics and labels") << sceneOf({framedMap()});
+    QTest::newRow("text with a halo") << sceneOf({turnedText()});
+    QTest::newRow("ellipse") << sceneOf({in(make<EllipseElement>(), 0.3, 0.4, 7.1, 5.7)});
+    auto const group = make<GroupElement>();
+    group->AddElement(in(make<RectangleElement>(), 0.5, 0.5, 6.9, 2.47));
+    group->AddElement(turnedText());
+    QTest::newRow("group") << sceneOf({group});
+    QTest::newRow("picture that is made smaller") << sceneOf({picture("large.png")});
+    QTest::newRow("picture that is made larger") << sceneOf({picture("small.jpg")});
+    QTest::newRow("SVG picture") << sceneOf({picture("drawing.svg")});
+    QTest::newRow("picture that is not there") << sceneOf({picture("missing.png")});
+  }
+  void tilesDoNotShow() {
+    QFETCH(Scene, scene);
+    QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx));
+    QVERIFY(inked(whole) > 2000);
+    QCOMPARE(differences(whole, tiled(scene, 512)), 0);
+    QCOMPARE(differences(whole, tiled(scene, 64)), 0);
+  }
+
+  void cellsOfAPictureDoNotShow() {
+    QImage level(4, 4, QImage::Format_RGB32);
+    level.fill(QColor(10, 120, 200));
+    QVERIFY(level.save(path("level.png")));
+    QImage const whole = drawn(sceneOf({picture("level.png")}), QRect(0, 0, widthPx, heightPx));
+    for (int x = 100; x < 600; ++x) QCOMPARE(whole.pixel(x, 300), qRgb(10, 120, 200));
+  }
+
+  void refusesAPictureWithASentence_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("says");
+    QTest::newRow("no file") << "missing.png"
+                             << "no such picture";
+    QTest::newRow("a folder") << "."
+                              << "no such picture";
+    QTest::newRow("no picture") << "text.png"
+                                << "neither PNG";
+    QTest::newRow("too wide to be decoded") << "wide.png"
+                                            << "20000";
+    QTest::newRow("an SVG that reaches outside") << "outside.svg"
+                                                 << "example.com";
+  }
+  void refusesAPictureWithASentence() {
+    QFETCH(QString, file);
+    QFETCH(QString, says);
+    auto const element = picture(file);
+    QVERIFY2(element->problem().contains(says), qPrintable(element->problem()));
+    QVERIFY(inked(drawn(sceneOf({element}), QRect(0, 0, widthPx, heightPx))) > 1000);
+  }
+
+  void pageDrawsItsParts() {
+    auto const page = std::make_shared<Page>();
+    page->setCustomSize(pageWidthCm, pageHeightCm);
+    auto const background = make<SymbolBackground>();
+    background->GetFillSymbol()->SetColor(Qt::yellow);
+    page->SetBackGround(background);
+    page->SetBorder(make<SymbolBorder>());
+    Scene const scene = [page](QPainter& painter, _ptr_t<DisplayTransformation> const& transformation) {
+      page->DrawBackground(painter, transformation);
+      page->DrawBorder(painter, transformation);
+    };
+    QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx));
+    QCOMPARE(whole.pixelColor(widthPx / 2, heightPx / 2), QColor(Qt::yellow));
+    QCOMPARE(whole.pixelColor(0, heightPx / 2), QColor(Qt::black));
+    QCOMPARE(whole.pixelColor(widthPx - 1, heightPx / 2), QColor(Qt::black));
+    QCOMPARE(differences(whole, tiled(scene, 100)), 0);
+  }
+
+private:
+  QString path(QString const& name) const { return folder_.filePath(name); }
+
+  void write(QString const& name, QByteArray const& content) const {
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+  }
+
+  _ptr_t<PictureElement> picture(QString const& name) const {
+    auto const element = in(make<PictureElement>(), 0.33, 0.41, 6.87, 5.36);
+    element->setPath(path(name));
+    return element;
+  }
+
+  QTemporaryDir folder_;
+};
+
+QTEST_MAIN(LayoutTilingTest)
+#include "LayoutTilingTest.moc"
