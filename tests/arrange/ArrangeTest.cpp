@@ -1,0 +1,373 @@
+#include "LayoutHook.h"
+#include "arrange/AlignToMarginsElement.h"
+#include "arrange/Alignment.h"
+#include "arrange/DataFrameLock.h"
+#include "arrange/Distribution.h"
+#include "arrange/FitToMargins.h"
+#include "arrange/SameSize.h"
+#include "arrange/StackingOrder.h"
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/TextElement.h"
+
+#include <SysCarto/MapSurroundFrame.h>
+#include <SysCarto/SymbolFrameParts.h>
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+
+#include <QtTest>
+
+#include <array>
+#include <cmath>
+#include <functional>
+
+using namespace SysCarto;
+using SysFramework::BaseCommand;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+namespace {
+
+using Rectangle = std::array<double, 4>;  // xmin, ymin, xmax, ymax
+using Rectangles = QVector<Rectangle>;
+using MakeCommand = std::function<_ptr_t<BaseCommand>()>;
+
+template <class Command>
+MakeCommand maker() {
+  return [] { return _ptr_t<BaseCommand>(make<Command>()); };
+}
+
+_ptr_t<Element> rectangle(Rectangle const& r) {
+  auto const element = make<RectangleElement>();
+  auto const fill = make<SysDisplay::SimpleFillSymbol>();
+  fill->SetOutlineSymbol(nullptr);
+  element->setSymbol(fill);
+  element->SetGeometry(make<Envelope>(r[0], r[1], r[2], r[3]));
+  return element;
+}
+
+// A frame whose drawn bounds reach `gapCm` beyond its own rectangle on every side.
+_ptr_t<Element> bordered(Rectangle const& r, double gapCm) {
+  auto const line = make<SysDisplay::SimpleLineSymbol>();
+  line->SetWidth(1e-6);
+  auto const border = make<SymbolBorder>();
+  border->SetLineSymbol(line);
+  border->SetGap(gapCm / 2.54 * 72.0);
+  auto const frame = make<MapFrameElement>();
+  frame->SetGeometry(make<Envelope>(r[0], r[1], r[2], r[3]));
+  frame->SetBorder(border);
+  frame->SetShadow(nullptr);
+  return frame;
+}
+
+Rectangle ownRectangle(Element const& element) {
+  Rectangle r;
+  element.GetEnvelope()->QueryCoords(r[0], r[1], r[2], r[3]);
+  return r;
+}
+
+bool near(Rectangle const& a, Rectangle const& b) {
+  for (int i = 0; i < 4; ++i)
+    if (std::abs(a[i] - b[i]) > 1e-6) return false;
+  return true;
+}
+
+QString text(Rectangle const& r) { return QStringLiteral("(%1, %2, %3, %4)").arg(r[0]).arg(r[1]).arg(r[2]).arg(r[3]); }
+
+}  // namespace
+
+Q_DECLARE_METATYPE(Rectangles)
+Q_DECLARE_METATYPE(MakeCommand)
+
+// On a page of 20 × 28 cm, which is its own margin rectangle.
+class ArrangeTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init() {
+    hook_ = nullptr;  // it lets go of the history that the next one takes
+    hook_ = make<LayoutHook>(emptyLayout(20.0, 28.0));
+    container_ = hook_->layout->GetGraphicsContainer();
+  }
+
+  void elementsGoWhereTheCommandPutsThem_data() {
+    QTest::addColumn<MakeCommand>("command");
+    QTest::addColumn<bool>("toMargins");
+    QTest::addColumn<Rectangles>("before");  // selected in this order
+    QTest::addColumn<Rectangles>("after");
+    Rectangles const three = {{5, 1, 7, 2}, {2, 4, 4, 8}, {9, 10, 12, 13}};
+
+    QTest::newRow("left edges follow the first selected") << maker<Plugin::LeftAlignmentElement>() << false << three
+        << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {5, 10, 8, 13}};
+    QTest::newRow("right edges follow the first selected") << maker<Plugin::RightAlignmentElement>() << false << three
+        << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {4, 10, 7, 13}};
+    QTest::newRow("top edges are the larger y") << maker<Plugin::TopAlignmentElement>() << false << three
+        << Rectangles{{5, 1, 7, 2}, {2, -2, 4, 2}, {9, -1, 12, 2}};
+    QTest::newRow("bottom edges are the smaller y") << maker<Plugin::BottomAlignmentElement>() << false << three
+        << Rectangles{{5, 1, 7, 2}, {2, 1, 4, 5}, {9, 1, 12, 4}};
+    QTest::newRow("centres share an x") << maker<Plugin::CenterAlignmentElement>() << false << three
+        << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {4.5, 10, 7.5, 13}};
+    QTest::newRow("middles share a y") << maker<Plugin::VerticalCenterAlignmentElement>() << false << three
+        << Rectangles{{5, 1, 7, 2}, {2, -0.5, 4, 3.5}, {9, 0, 12, 3}};
+    QTest::newRow("with margins the first moves too") << maker<Plugin::LeftAlignmentElement>() << true << three
+        << Rectangles{{0, 1, 2, 2}, {0, 4, 2, 8}, {0, 10, 3, 13}};
+    QTest::newRow("with margins one is enough") << maker<Plugin::TopAlignmentElement>() << true
+        << Rectangles{{5, 1, 7, 2}} << Rectangles{{5, 27, 7, 28}};
+
+    QTest::newRow("gaps become equal") << maker<Plugin::DistributeHorizontallyElements>() << false
+        << Rectangles{{8, 0, 10, 1}, {30, 0, 34, 1}, {12, 0, 15, 1}}
+        << Rectangles{{8, 0, 10, 1}, {30, 0, 34, 1}, {18.5, 0, 21.5, 1}};
+    QTest::newRow("four in a column, in the order of their lower edges") << maker<Plugin::DistributeVerticallyElements>()
+        << false << Rectangles{{0, 0, 1, 1}, {0, 4, 1, 5}, {0, 2, 1, 4}, {0, 10, 1, 12}}
+        << Rectangles{{0, 0, 1, 1}, {0, 7, 1, 8}, {0, 3, 1, 5}, {0, 10, 1, 12}};
+    QTest::newRow("too little room makes them overlap alike") << maker<Plugin::DistributeHorizontallyElements>() << false
+        << Rectangles{{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}} << Rectangles{{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}};
+    QTest::newRow("all on one centre chain after the first") << maker<Plugin::DistributeHorizontallyElements>() << false
+        << Rectangles{{4, 0, 6, 1}, {3, 0, 7, 1}, {4.5, 0, 5.5, 1}}
+        << Rectangles{{4, 0, 6, 1}, {7.0 / 3, 0, 19.0 / 3, 1}, {11.0 / 3, 0, 14.0 / 3, 1}};
+
+    QTest::newRow("heights follow the last selected") << maker<Plugin::MakeSameHeightElements>() << false
+        << Rectangles{{0, 0, 1, 2}, {3, 3, 4, 7}, {5, 0, 6, 8}} << Rectangles{{0, 0, 1, 8}, {3, 3, 4, 11}, {5, 0, 6, 8}};
+    QTest::newRow("widths follow the last selected") << maker<Plugin::MakeSameWidthElements>() << false
+        << Rectangles{{0, 0, 4, 2}, {3, 3, 5, 7}} << Rectangles{{0, 0, 2, 2}, {3, 3, 5, 7}};
+    QTest::newRow("sizes follow the last selected") << maker<Plugin::MakeSameSizeElements>() << false
+        << Rectangles{{1, 1, 4, 2}, {3, 3, 5, 7}} << Rectangles{{1, 1, 3, 5}, {3, 3, 5, 7}};
+    QTest::newRow("an element without width keeps none") << maker<Plugin::MakeSameSizeElements>() << false
+        << Rectangles{{1, 1, 1, 2}, {3, 3, 5, 7}} << Rectangles{{1, 1, 1, 5}, {3, 3, 5, 7}};
+
+    QTest::newRow("fits both extents") << maker<Plugin::FittoMarginsElements>() << false << Rectangles{{2, 3, 6, 5}}
+        << Rectangles{{0, 0, 20, 28}};
+    QTest::newRow("fits the width alone") << maker<Plugin::FitWidthtoMarginsElements>() << true
+        << Rectangles{{2, 3, 6, 5}} << Rectangles{{0, 3, 20, 5}};
+    QTest::newRow("fits the height alone") << maker<Plugin::FitHeighttoMarginsElements>() << false
+        << Rectangles{{2, 3, 6, 5}} << Rectangles{{2, 0, 6, 28}};
+    QTest::newRow("without height it goes to the lower edge") << maker<Plugin::FitHeighttoMarginsElements>() << false
+        << Rectangles{{2, 3, 6, 3}} << Rectangles{{2, 0, 6, 0}};
+  }
+
+  // And one undo brings everything back, one redo puts it there again.
+  void elementsGoWhereTheCommandPutsThem() {
+    QFETCH(MakeCommand, command);
+    QFETCH(bool, toMargins);
+    QFETCH(Rectangles, before);
+    QFETCH(Rectangles, after);
+    hook_->layout->SetAlignToMargins(toMargins);
+    for (Rectangle const& r : before) addSelected(rectangle(r));
+    auto const original = container_->GetElements();
+    QVERIFY(click(command()));
+    expectSelected(after);
+    QCOMPARE(hook_->history.count(), 1);
+    hook_->history.undo();
+    QVERIFY(container_->GetElements() == original);
+    hook_->history.redo();
+    expectSelected(after);
+  }
+
+  void alignmentGoesByTheDrawnBounds() {
+    addSelected(bordered({5, 1, 7, 2}, 0.5));
+    addSelected(bordered({2, 4, 4, 8}, 0.25));
+    QVERIFY(click(make<Plugin::LeftAlignmentElement>()));
+    expectSelected({{5, 1, 7, 2}, {4.75, 4, 6.75, 8}});
+  }
+
+  void distributionFindsTheOutermostByDrawnBoundsAndMeasuresOwnRectangles() {
+    addSelected(bordered({0, 0, 2, 1}, 0.5));
+    addSelected(bordered({3, 0, 5, 1}, 0.1));
+    addSelected(bordered({10, 0, 12, 1}, 1.0));
+    QVERIFY(click(make<Plugin::DistributeHorizontallyElements>()));
+    expectSelected({{0, 0, 2, 1}, {5, 0, 7, 1}, {10, 0, 12, 1}});
+  }
+
+  void fittingIsMeasuredDrawnAndPlacedByTheOwnRectangle() {
+    addSelected(bordered({4, 4, 8, 8}, 1.0));
+    QVERIFY(click(make<Plugin::FitWidthtoMarginsElements>()));
+    // Drawn 6 wide, so 20 / 6 times as wide, and its own left edge on the margin.
+    expectSelected({{0, 4, 4 * 20 / 6.0, 8}});
+  }
+
+  void enabling_data() {
+    QTest::addColumn<MakeCommand>("command");
+    QTest::addColumn<int>("selected");
+    QTest::addColumn<bool>("toMargins");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("alignment wants two") << maker<Plugin::LeftAlignmentElement>() << 1 << false << false;
+    QTest::newRow("alignment has two") << maker<Plugin::LeftAlignmentElement>() << 2 << false << true;
+    QTest::newRow("alignment to margins wants one") << maker<Plugin::LeftAlignmentElement>() << 1 << true << true;
+    QTest::newRow("alignment to margins has none") << maker<Plugin::LeftAlignmentElement>() << 0 << true << false;
+    QTest::newRow("distribution wants three") << maker<Plugin::DistributeVerticallyElements>() << 2 << false << false;
+    QTest::newRow("distribution has three") << maker<Plugin::DistributeVerticallyElements>() << 3 << false << true;
+    QTest::newRow("same size wants two") << maker<Plugin::MakeSameSizeElements>() << 1 << false << false;
+    QTest::newRow("fit wants one") << maker<Plugin::FittoMarginsElements>() << 0 << false << false;
+    QTest::newRow("fit has one") << maker<Plugin::FittoMarginsElements>() << 1 << false << true;
+    QTest::newRow("stacking wants one") << maker<Plugin::SendToBackElements>() << 0 << false << false;
+    QTest::newRow("stacking has one") << maker<Plugin::SendToBackElements>() << 1 << false << true;
+    QTest::newRow("the toggle wants one") << maker<Plugin::AlignToMarginsElement>() << 0 << true << false;
+    QTest::newRow("locking wants none") << maker<LockDataFrame>() << 0 << false << true;
+  }
+
+  void enabling() {
+    QFETCH(MakeCommand, command);
+    QFETCH(int, selected);
+    QFETCH(bool, toMargins);
+    QFETCH(bool, enabled);
+    hook_->layout->SetAlignToMargins(toMargins);
+    for (int i = 0; i < selected; ++i) addSelected(rectangle({0, 0, 1, 1}));
+    auto const bound = command();
+    bound->OnCreate(hook_->pointer());
+    QCOMPARE(bound->IsEnable(), enabled);
+    hook_->view = nullptr;
+    if (!ptr_cast<LockDataFrame>(bound)) QVERIFY(!bound->IsEnable());
+  }
+
+  void whatCannotBeStretchedDisablesFitting() {
+    addSelected(rectangle({0, 0, 1, 1}));
+    addSelected(make<MapSurroundFrame>());
+    QVERIFY(!click(make<Plugin::FittoMarginsElements>()));
+    container_->UnselectAllElements();
+    addSelected(make<MarkerElement>());
+    QVERIFY(!click(make<Plugin::FittoMarginsElements>()));
+  }
+
+  void aMarkerEndsSameSizeWhereItIsMet() {
+    addSelected(rectangle({0, 0, 1, 1}));
+    addSelected(make<MarkerElement>());
+    addSelected(rectangle({5, 5, 6, 6}));
+    addSelected(rectangle({7, 7, 9, 10}));
+    QVERIFY(click(make<Plugin::MakeSameWidthElements>()));
+    auto const selection = container_->GetSelectedElements();
+    QVERIFY(near(ownRectangle(*selection[0]), {0, 0, 1, 1}));
+    QVERIFY(near(ownRectangle(*selection[2]), {5, 5, 7, 6}));
+    QCOMPARE(hook_->history.count(), 1);
+    // The operation is closed: what follows is not recorded.
+    container_->AddElement(rectangle({0, 0, 1, 1}));
+    QCOMPARE(hook_->history.count(), 1);
+  }
+
+  void aTextTakesTheFirstFactorAsItsFontSize() {
+    auto const label = make<TextElement>();
+    label->setText("Sea");
+    label->setPosition(2.0, 2.0);
+    addSelected(label);
+    auto const transform = hook_->layout->GetDisplayTransformation();
+    double const height = label->GetBoundary(transform)->GetEnvelope()->GetHeight();
+    addSelected(rectangle({10, 10, 11, 10 + 3 * height}));
+    QVERIFY(click(make<Plugin::MakeSameHeightElements>()));
+    auto const scaled = ptr_cast<TextElement>(container_->GetSelectedElements().first());
+    QVERIFY(std::abs(scaled->symbol()->format().size / label->symbol()->format().size - 3.0) < 1e-6);
+  }
+
+  void sizedElementsComeOneStepForward() {
+    for (int i = 0; i < 4; ++i) container_->AddElement(rectangle({0.0 + i, 0, 1.0 + i, 1}));
+    auto const all = container_->GetElements();
+    container_->SelectElement(all[0]);
+    container_->SelectElement(all[1]);
+    QVERIFY(click(make<Plugin::MakeSameSizeElements>()));
+    expectOrder({all[2], all[0], all[1], all[3]});
+  }
+
+  void stackingOrders_data() {
+    QTest::addColumn<MakeCommand>("command");
+    QTest::addColumn<QVector<int>>("order");  // of elements 0 to 4, with 1 and 2 selected
+    QTest::newRow("forward") << maker<Plugin::BringForwardElements>() << QVector<int>{0, 3, 1, 2, 4};
+    QTest::newRow("to the front") << maker<Plugin::BringToFrontElements>() << QVector<int>{0, 3, 4, 1, 2};
+    QTest::newRow("backward") << maker<Plugin::SendBackwardElements>() << QVector<int>{1, 2, 0, 3, 4};
+    QTest::newRow("to the back") << maker<Plugin::SendToBackElements>() << QVector<int>{1, 2, 0, 3, 4};
+  }
+
+  void stackingOrders() {
+    QFETCH(MakeCommand, command);
+    QFETCH(QVector<int>, order);
+    for (int i = 0; i < 5; ++i) container_->AddElement(rectangle({0, 0, 1, 1}));
+    auto const all = container_->GetElements();
+    container_->SelectElement(all[2]);
+    container_->SelectElement(all[1]);
+    QVERIFY(click(command()));
+    QList<_ptr_t<Element>> expected;
+    for (int i : order) expected << all[i];
+    expectOrder(expected);
+    hook_->history.undo();
+    expectOrder(all);
+  }
+
+  void lockingTakesDataFramesOutOfTheSelectionAndNothingElse() {
+    auto const frame = make<MapFrameElement>();
+    frame->SetGeometry(make<Envelope>(0, 0, 5, 5));
+    addSelected(frame);
+    addSelected(rectangle({0, 0, 1, 1}));
+    QVERIFY(click(make<LockDataFrame>()));
+    QVERIFY(frame->IsLocked());
+    QCOMPARE(container_->GetSelectedElementCount(), 1);
+    QVERIFY(click(make<UnlockDataFrame>()));
+    QVERIFY(!frame->IsLocked());
+    QCOMPARE(container_->GetSelectedElementCount(), 1);
+    QCOMPARE(hook_->history.count(), 0);
+  }
+
+  void theToggleIsCheckedByTheLayoutItself() {
+    auto const toggle = make<Plugin::AlignToMarginsElement>();
+    toggle->OnCreate(hook_->pointer());
+    toggle->OnClick();
+    QVERIFY(toggle->IsChecked());
+    hook_->view = make<Map>();
+    QVERIFY(!toggle->IsChecked() && !toggle->IsEnable());
+    toggle->OnClick();
+    QVERIFY(hook_->layout->GetAlignToMargins());
+  }
+
+  void inAMapViewItsOwnGraphicsAreAligned() {
+    auto const map = make<Map>();
+    hook_->view = map;
+    hook_->layout->SetAlignToMargins(true);
+    container_ = map->GetGraphicsContainer();
+    addSelected(rectangle({5, 1, 7, 2}));
+    addSelected(rectangle({2, 4, 4, 8}));
+    QVERIFY(click(make<Plugin::LeftAlignmentElement>()));
+    expectSelected({{5, 1, 7, 2}, {5, 4, 7, 8}});
+  }
+
+  void withoutAPageNothingHappens() {
+    addSelected(rectangle({5, 1, 7, 2}));
+    hook_->layout->SetAlignToMargins(true);
+    hook_->layout->SetPage(nullptr);
+    QVERIFY(click(make<Plugin::LeftAlignmentElement>()));
+    QVERIFY(click(make<Plugin::FittoMarginsElements>()));
+    expectSelected({{5, 1, 7, 2}});
+    QCOMPARE(hook_->history.count(), 0);
+  }
+
+private:
+  void addSelected(_ptr_t<Element> const& element) {
+    container_->AddElement(element);
+    container_->SelectElement(element);
+  }
+
+  // As a host clicks: only what is enabled.
+  bool click(_ptr_t<BaseCommand> const& command) {
+    command->OnCreate(hook_->pointer());
+    if (!command->IsEnable()) return false;
+    command->OnClick();
+    return true;
+  }
+
+  void expectSelected(Rectangles const& expected) {
+    auto const selection = container_->GetSelectedElements();
+    QCOMPARE(selection.size(), expected.size());
+    for (int i = 0; i < expected.size(); ++i) {
+      Rectangle const found = ownRectangle(*selection[i]);
+      QVERIFY2(near(found, expected[i]), qPrintable(QStringLiteral("element %1 is %2").arg(i).arg(text(found))));
+    }
+  }
+
+  void expectOrder(QList<_ptr_t<Element>> const& expected) {
+    auto const elements = container_->GetElements();
+    QCOMPARE(elements.size(), expected.size());
+    for (int i = 0; i < expected.size(); ++i) QCOMPARE(elements[i]->GetHandle(), expected[i]->GetHandle());
+  }
+
+  _ptr_t<LayoutHook> hook_;
+  IElementContainer* container_ = nullptr;
+};
+
+QTEST_MAIN(ArrangeTest)
+#include "ArrangeTest.moc"

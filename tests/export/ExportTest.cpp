@@ -1,0 +1,331 @@
+#include "LayoutHook.h"
+#include "export/ExportCommand.h"
+#include "export/LayoutRenderer.h"
+
+#include <SysCarto/FeatureLayer.h>
+#include <SysCarto/MapDocument.h>
+#include <SysCarto/SymbolFrameParts.h>
+
+#include <QDir>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace SysCarto;
+using Plugin::ExportCommand;
+using Plugin::LayoutRenderer;
+using Plugin::PlacedLabels;
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysUI::TrackerCancel;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+namespace {
+
+// Notes what it is asked to draw, and draws nothing.
+class RecordingLayer : public FeatureLayer {
+public:
+  struct Call {
+    Envelope bounds;
+    QRect frame;
+    double pageScale;
+  };
+
+  bool IsAnnotationVisible() const override { return false; }
+  _ptr_t<AnnotationProperties> GetAnnotationProperties() const override { return settings_; }
+  void GetAnnotationElements(QMap<int, QList<_ptr_t<SysGeometry::Polygon>>>&, QList<_ptr_t<Element>>&,
+                             _ptr_t<DisplayTransformation> const&, _ptr_t<TrackerCancel>) override {}
+  void Draw(QPainter&, _ptr_t<DisplayTransformation> const& transform, int phase,
+            _ptr_t<TrackerCancel> const&) override {
+    QCOMPARE(phase, 1);
+    calls.append({*transform->GetVisibleBounds(), transform->GetDeviceFrame(), transform->GetPageScale()});
+  }
+
+  QVector<Call> calls;
+
+private:
+  _ptr_t<AnnotationProperties> settings_ = make<AnnotationProperties>();
+};
+
+struct Difference {
+  int levels = 0;     // the greatest of any channel
+  qint64 pixels = 0;  // that differ at all
+};
+
+Difference difference(QImage const& a, QImage const& b) {
+  Difference found;
+  for (int y = 0; y < a.height(); ++y) {
+    uchar const* const left = a.constScanLine(y);
+    uchar const* const right = b.constScanLine(y);
+    for (int x = 0; x < a.width() * 4; x += 4) {
+      int levels = 0;
+      for (int i = 0; i < 4; ++i) levels = std::max(levels, std::abs(left[x + i] - right[x + i]));
+      found.levels = std::max(found.levels, levels);
+      found.pixels += levels > 0;
+    }
+  }
+  return found;
+}
+
+QImage drawnInTiles(LayoutRenderer const& renderer, QSize const& size, int side) {
+  QImage image(size, QImage::Format_RGBA8888_Premultiplied);
+  QPainter painter(&image);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  for (int y = 0; y < size.height(); y += side)
+    for (int x = 0; x < size.width(); x += side) {
+      QRect const tile(x, y, std::min(side, size.width() - x), std::min(side, size.height() - y));
+      painter.drawImage(tile.topLeft(), renderer.tileImage(tile, nullptr));
+    }
+  return image;
+}
+
+QList<int> handlesOf(_ptr_t<Map> const& map) {
+  QList<int> handles;
+  for (auto const& element : map->GetGraphicsContainer()->GetElements()) handles << element->GetHandle();
+  return handles;
+}
+
+QVector<double> reported;
+int report(double percent, char const*, void*) {
+  reported << percent;
+  return 1;
+}
+
+}  // namespace
+
+class ExportTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init() { reported.clear(); }
+
+  void theImageIsThePageCutDownToWholePixels_data() {
+    QTest::addColumn<double>("widthCm");
+    QTest::addColumn<double>("heightCm");
+    QTest::addColumn<int>("dpi");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QSize>("tiles");
+    QTest::addColumn<QSize>("lastTile");
+    QTest::newRow("A4 at 96") << 21.0 << 29.7 << 96 << QSize(793, 1122) << QSize(2, 3) << QSize(281, 98);
+    QTest::newRow("whole tiles get no narrow one") << 25.4 << 12.7 << 512 << QSize(5120, 2560) << QSize(10, 5) << QSize(512, 512);
+    QTest::newRow("no resolution, no image") << 21.0 << 29.7 << 0 << QSize() << QSize() << QSize();
+    QTest::newRow("a negative one neither") << 21.0 << 29.7 << -300 << QSize() << QSize() << QSize();
+  }
+
+  void theImageIsThePageCutDownToWholePixels() {
+    QFETCH(double, widthCm);
+    QFETCH(double, heightCm);
+    QFETCH(int, dpi);
+    QFETCH(QSize, size);
+    QFETCH(QSize, tiles);
+    QFETCH(QSize, lastTile);
+    auto const layout = emptyLayout(widthCm, heightCm);
+    QCOMPARE(LayoutRenderer::imageSize(*layout->GetPage(), dpi), size);
+    if (size.isEmpty()) return;
+    LayoutRenderer const renderer(layout, size, dpi);
+    QCOMPARE(renderer.tileGrid(), tiles);
+    QCOMPARE(renderer.tile(tiles.width() - 1, tiles.height() - 1).size(), lastTile);
+  }
+
+  void neighbouringTilesShowMapsThatMeet() {
+    auto const layout = emptyLayout(20.0, 20.0);
+    auto const frame = make<MapFrameElement>();
+    frame->SetGeometry(make<Envelope>(3.0, 3.0, 17.0, 17.0));
+    auto const layer = make<RecordingLayer>();
+    frame->GetMap()->AddLayer(layer);
+    layout->GetGraphicsContainer()->AddElement(frame);
+    frame->GetMap()->SetExtent(make<Envelope>(100.0, 200.0, 500.0, 600.0));
+
+    QSize const size = LayoutRenderer::imageSize(*layout->GetPage(), 100);
+    LayoutRenderer const renderer(layout, size, 100);
+    for (int row = 0; row < 2; ++row)
+      for (int column = 0; column < 2; ++column) renderer.tileImage(renderer.tile(column, row), nullptr);
+
+    QCOMPARE(layer->calls.size(), 4);
+    auto const& [upperLeft, upperRight, lowerLeft, lowerRight] =
+        std::tie(layer->calls[0], layer->calls[1], layer->calls[2], layer->calls[3]);
+    QCOMPARE(upperLeft.bounds.GetXMax(), upperRight.bounds.GetXMin());
+    QCOMPARE(upperLeft.bounds.GetYMin(), lowerLeft.bounds.GetYMax());
+    QCOMPARE(lowerRight.bounds.GetYMax(), upperRight.bounds.GetYMin());
+    QCOMPARE(upperLeft.bounds.GetXMin(), 100.0);
+    QCOMPARE(upperLeft.bounds.GetYMax(), 600.0);
+    // The frame covers pixels 118 to 669, both inclusive.
+    QCOMPARE(upperLeft.frame, QRect(0, 0, 512 - 118, 512 - 118));
+    QCOMPARE(lowerRight.frame, QRect(0, 0, 669 - 511, 669 - 511));
+    QCOMPARE(upperLeft.pageScale, 100 / 96.0);
+  }
+
+  void aFrameThatTouchesATileWithItsShadowAloneDrawsNoMapThere() {
+    auto const layout = emptyLayout(20.0, 20.0);
+    auto const frame = make<MapFrameElement>();
+    // The frame ends at pixel 500; its shadow reaches into the second column of tiles.
+    frame->SetGeometry(make<Envelope>(1.0, 1.0, 500 * 2.54 / 100.0, 10.0));
+    auto const shadow = make<SymbolShadow>();
+    shadow->SetOffset(30.0, 0.0);
+    frame->SetShadow(shadow);
+    auto const layer = make<RecordingLayer>();
+    frame->GetMap()->AddLayer(layer);
+    layout->GetGraphicsContainer()->AddElement(frame);
+
+    QSize const size = LayoutRenderer::imageSize(*layout->GetPage(), 100);
+    LayoutRenderer const renderer(layout, size, 100);
+    QImage const tile = renderer.tileImage(renderer.tile(1, 1), nullptr);
+    QVERIFY(layer->calls.isEmpty());
+    QVERIFY(tile.pixelColor(5, 10) != QColor(Qt::white));
+    QCOMPARE(tile.pixelColor(100, 10), QColor(Qt::white));
+  }
+
+  void aLayerIsLeftOutBeyondItsScales_data() {
+    QTest::addColumn<double>("minScale");
+    QTest::addColumn<double>("maxScale");
+    QTest::addColumn<bool>("drawn");
+    QTest::newRow("no limits") << 0.0 << 0.0 << true;
+    QTest::newRow("between the limits") << 0.5 << 2.0 << true;
+    QTest::newRow("smaller than the smallest") << 1.5 << 2.0 << false;
+    QTest::newRow("larger than the largest") << 0.1 << 0.5 << false;
+    QTest::newRow("only a smallest, and beyond it") << 0.5 << 0.0 << true;
+    QTest::newRow("only a largest, and below it") << 0.0 << 2.0 << true;
+  }
+
+  void aLayerIsLeftOutBeyondItsScales() {
+    QFETCH(double, minScale);
+    QFETCH(double, maxScale);
+    QFETCH(bool, drawn);
+    auto const layout = emptyLayout(10.0, 10.0);
+    auto const frame = make<MapFrameElement>();
+    frame->SetGeometry(make<Envelope>(0.0, 0.0, 10.0, 10.0));
+    layout->GetGraphicsContainer()->AddElement(frame);
+    frame->GetMap()->SetExtent(make<Envelope>(0.0, 0.0, 100.0, 100.0));
+    double const scale = frame->GetMap()->GetDisplayTransformation()->GetMapScale();
+    QVERIFY(scale > 0.0);
+    auto const layer = make<RecordingLayer>();
+    layer->SetScaleRange(minScale * scale, maxScale * scale);
+    frame->GetMap()->AddLayer(layer);
+    LayoutRenderer const renderer(layout, QSize(100, 100), 25);
+    renderer.tileImage(QRect(0, 0, 100, 100), nullptr);
+    QCOMPARE(!layer->calls.isEmpty(), drawn);
+  }
+
+  void tilesDoNotShow_data() {
+    QTest::addColumn<QString>("document");
+    QTest::addColumn<int>("dpi");
+    for (char const* document : {"world.kdx", "aegean.kdx"})
+      for (int dpi : {60, 150}) QTest::addRow("%s at %d dpi", document, dpi) << QString(document) << dpi;
+  }
+
+  void tilesDoNotShow() {
+    QFETCH(QString, document);
+    QFETCH(int, dpi);
+    MapDocument sample;
+    QVERIFY2(sample.Open(PLOTVANE_SOURCE_DIR "/samples/" + document), qPrintable(sample.GetErrors().join('\n')));
+    auto const layout = sample.GetPageLayout();
+    QSize const size = LayoutRenderer::imageSize(*layout->GetPage(), dpi);
+    LayoutRenderer const renderer(layout, size, dpi);
+    auto const hook = make<LayoutHook>(layout);
+    PlacedLabels const labels(*hook, renderer.pageTransform());
+    QImage const whole = renderer.tileImage(QRect(QPoint(0, 0), size), nullptr);
+    for (int side : {512, 300, 97}) {
+      Difference const found = difference(whole, drawnInTiles(renderer, size, side));
+      QVERIFY2(found.levels <= 2 && found.pixels < 1e-4 * size.width() * size.height(),
+               qPrintable(QStringLiteral("tiles of %1: %2 pixels differ by up to %3 levels")
+                              .arg(side).arg(found.pixels).arg(found.levels)));
+    }
+  }
+
+  void labelsAreThereWhileTheyAreHeldAndNoLonger() {
+    MapDocument sample;
+    QVERIFY(sample.Open(PLOTVANE_SOURCE_DIR "/samples/world.kdx"));
+    auto const layout = sample.GetPageLayout();
+    auto const map = sample.GetMap(0);
+    QList<int> const before = handlesOf(map);
+    QSize const size = LayoutRenderer::imageSize(*layout->GetPage(), 50);
+    LayoutRenderer const renderer(layout, size, 50);
+    {
+      auto const hook = make<LayoutHook>(layout);
+      PlacedLabels const labels(*hook, renderer.pageTransform());
+      QVERIFY(handlesOf(map).size() > before.size() + 20);
+    }
+    QCOMPARE(handlesOf(map), before);
+  }
+
+  void progressCountsTheTilesBegun() {
+    auto const layout = emptyLayout(21.0, 29.7);
+    QTemporaryDir folder;
+    auto const hook = make<LayoutHook>(layout);
+    ExportCommand command;
+    command.OnCreate(hook->pointer());
+    command.GetProgressBar();
+    QVERIFY(command.OutputOtherPicture(folder.filePath("page.png"), 96, nullptr, report, nullptr));
+    QCOMPARE(reported.size(), 7);
+    QCOMPARE(reported[0], 0.0);
+    QCOMPARE(reported[1], 0.0);
+    QCOMPARE(reported[6], 5 / 6.0 * 100.0);
+    QImage const image(folder.filePath("page.png"));
+    QCOMPARE(image.size(), QSize(793, 1122));
+    QCOMPARE(image.pixelColor(400, 600), QColor(Qt::white));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("page.png"));
+  }
+
+  void aCancelledExportIsStillWrittenAndBlack() {
+    auto const layout = emptyLayout(5.0, 5.0);
+    QTemporaryDir folder;
+    auto const hook = make<LayoutHook>(layout);
+    ExportCommand command;
+    command.OnCreate(hook->pointer());
+    command.GetProgressBar();
+    auto const cancel = make<TrackerCancel>();
+    cancel->Cancel();
+    QVERIFY(command.OutputOtherPicture(folder.filePath("page.png"), 100, cancel, report, nullptr));
+    QCOMPARE(reported, QVector<double>{0.0});
+    QCOMPARE(QImage(folder.filePath("page.png")).pixelColor(50, 50), QColor(Qt::black));
+  }
+
+  void whatCannotBeExportedAnswersFalseAndLeavesNothing_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("dpi");
+    QTest::addColumn<bool>("hasPage");
+    QTest::newRow("no page") << "page.png" << 96 << false;
+    QTest::newRow("no resolution") << "page.png" << 0 << true;
+    QTest::newRow("no folder") << "nowhere/page.png" << 96 << true;
+  }
+
+  void whatCannotBeExportedAnswersFalseAndLeavesNothing() {
+    QFETCH(QString, name);
+    QFETCH(int, dpi);
+    QFETCH(bool, hasPage);
+    auto const layout = hasPage ? emptyLayout(5.0, 5.0) : make<PageLayout>();
+    QTemporaryDir folder;
+    auto const hook = make<LayoutHook>(layout);
+    ExportCommand command;
+    command.OnCreate(hook->pointer());
+    command.GetProgressBar();
+    QVERIFY(!command.OutputOtherPicture(folder.filePath(name), dpi, nullptr, report, nullptr));
+    QVERIFY(reported.isEmpty());
+    QVERIFY(QDir(folder.path()).isEmpty());
+  }
+
+  void theProgressDialogIsMadeOnceAndSurvivesItsOwner() {
+    auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
+    ExportCommand command;
+    command.OnCreate(hook->pointer());
+    QProgressDialog* const dialog = command.GetProgressBar();
+    QCOMPARE(command.GetProgressBar(), dialog);
+    QVERIFY(dialog->windowFlags() & Qt::FramelessWindowHint);
+    QCOMPARE(dialog->windowModality(), Qt::WindowModal);
+    QVERIFY(ExportCommand::DrawProgressCallback(41.9, "", &command));
+    QCOMPARE(dialog->value(), 41);
+    QVERIFY(dialog->isVisible());
+    QVERIFY(ExportCommand::CopyProgressCallback(0.429, "", &command));
+    QCOMPARE(dialog->value(), 42);
+    delete dialog;
+    QVERIFY(command.GetProgressBar());
+  }
+};
+
+QTEST_MAIN(ExportTest)
+#include "ExportTest.moc"

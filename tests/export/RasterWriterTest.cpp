@@ -1,0 +1,122 @@
+#include "export/RasterWriter.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <gdal_priv.h>
+
+#include <memory>
+
+using Plugin::RasterWriter;
+
+namespace {
+
+struct CloseDataset {
+  void operator()(GDALDataset* dataset) const { GDALClose(dataset); }
+};
+using Dataset = std::unique_ptr<GDALDataset, CloseDataset>;
+
+Dataset open(QString const& path) {
+  return Dataset(GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_RASTER | GDAL_OF_READONLY));
+}
+
+QRgb pixel(GDALDataset& dataset, int x, int y) {
+  uchar rgb[3] = {};
+  for (int band = 1; band <= 3; ++band)
+    if (dataset.GetRasterBand(band)->RasterIO(GF_Read, x, y, 1, 1, rgb + band - 1, 1, 1, GDT_Byte, 0, 0, nullptr)) return 0;
+  return qRgb(rgb[0], rgb[1], rgb[2]);
+}
+
+QImage filled(QSize const& size, QColor const& color) {
+  QImage image(size, QImage::Format_RGBA8888_Premultiplied);
+  image.fill(color);
+  return image;
+}
+
+int proceed(double, char const*, void*) { return 1; }
+
+}  // namespace
+
+class RasterWriterTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() {
+    GDALAllRegister();
+    CPLSetErrorHandler(CPLQuietErrorHandler);
+  }
+
+  void theSuffixNamesTheFormat_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("driver");
+    QTest::newRow("jpg") << "map.jpg" << "JPEG";
+    QTest::newRow("JPG in capitals") << "map.JPG" << "JPEG";
+    QTest::newRow("jpeg is a TIFF") << "map.jpeg" << "GTiff";
+    QTest::newRow("png") << "map.png" << "PNG";
+    QTest::newRow("bmp") << "map.bmp" << "BMP";
+    QTest::newRow("tif") << "map.tif" << "GTiff";
+    QTest::newRow("TIFF in capitals") << "map.TIFF" << "GTiff";
+    QTest::newRow("no suffix") << "map" << "GTiff";
+    QTest::newRow("the last suffix counts, and letters beyond Latin stay") << QString::fromUtf8("Überblick 地図.v2.png") << "PNG";
+  }
+
+  // Two tiles of unequal width; the first column of the second must be its own colour, and not the first tile's.
+  void theSuffixNamesTheFormat() {
+    QFETCH(QString, name);
+    QFETCH(QString, driver);
+    QTemporaryDir folder;
+    QString const path = folder.filePath(name);
+    {
+      RasterWriter writer(path);
+      QVERIFY(writer.create(QSize(96, 64)));
+      QVERIFY(writer.write(filled(QSize(64, 64), Qt::red), QPoint(0, 0)));
+      QVERIFY(writer.write(filled(QSize(32, 64), QColor(1, 2, 250)), QPoint(64, 0)));
+      writer.convert(proceed, nullptr);
+    }
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(name));
+    Dataset const image = open(path);
+    QVERIFY(image);
+    QCOMPARE(QString(image->GetDriver()->GetDescription()), driver);
+    QCOMPARE(QSize(image->GetRasterXSize(), image->GetRasterYSize()), QSize(96, 64));
+    QCOMPARE(image->GetRasterCount(), 3);
+    double transform[6];
+    QVERIFY(image->GetGeoTransform(transform) != CE_None);
+    if (driver == "JPEG") return;
+    QCOMPARE(pixel(*image, 63, 63), qRgb(255, 0, 0));
+    QCOMPARE(pixel(*image, 64, 0), qRgb(1, 2, 250));
+  }
+
+  void theTemporaryFileStandsBesideTheImageUnderABracedName() {
+    QTemporaryDir folder;
+    {
+      RasterWriter writer(folder.filePath("map.png"));
+      QVERIFY(writer.create(QSize(8, 8)));
+      QStringList const files = QDir(folder.path()).entryList(QDir::Files);
+      QCOMPARE(files.size(), 1);
+      QRegularExpression const braced("^\\{[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}\\}\\.tif$");
+      QVERIFY2(braced.match(files.first()).hasMatch(), qPrintable(files.first()));
+    }
+    QVERIFY(QDir(folder.path()).isEmpty());
+  }
+
+  void whatCannotBeCreatedLeavesNothing_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("a folder that is not there") << "nowhere/map.png" << QSize(8, 8);
+    QTest::newRow("an image without pixels") << "map.png" << QSize(0, 0);
+  }
+
+  void whatCannotBeCreatedLeavesNothing() {
+    QFETCH(QString, name);
+    QFETCH(QSize, size);
+    QTemporaryDir folder;
+    RasterWriter writer(folder.filePath(name));
+    QVERIFY(!writer.create(size));
+    QVERIFY(QDir(folder.path()).isEmpty());
+  }
+};
+
+QTEST_GUILESS_MAIN(RasterWriterTest)
+#include "RasterWriterTest.moc"

@@ -1,0 +1,46 @@
+#include <SysUI/CMDPluginModule.h>
+
+#include <QLibrary>
+#include <QtTest>
+
+using SysUI::CMDPluginModule;
+using SysUtility::_ptr_t;
+
+// The plug-in, loaded as a host loads it.
+class PluginTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() {
+    QLibrary library(PLOTVANE_BINARY_DIR "/lib/plotvane_plugin");
+    QVERIFY2(library.load(), qPrintable(library.errorString()));
+    entry_ = reinterpret_cast<CMDPluginModule* (*)()>(library.resolve("GetPluginModule"));
+    QVERIFY(entry_);
+  }
+
+  void eachCallGivesANewModule() {
+    _ptr_t<CMDPluginModule> const first(entry_());
+    _ptr_t<CMDPluginModule> const second(entry_());
+    QVERIFY(first && second && first != second);
+  }
+
+  void anUnknownIdentifierGivesNoCommand_data() {
+    QTest::addColumn<QString>("id");
+    QTest::newRow("an empty one") << QString();
+    QTest::newRow("the prefix alone") << "Plotvane_";
+    QTest::newRow("a known one with a letter more") << "Plotvane_ZoomInX";
+    QTest::newRow("one without the prefix") << "ZoomIn";
+  }
+
+  void anUnknownIdentifierGivesNoCommand() {
+    QFETCH(QString, id);
+    _ptr_t<CMDPluginModule> const module(entry_());
+    QVERIFY(!module->CreateCommand(id, QString()));
+  }
+
+private:
+  CMDPluginModule* (*entry_)() = nullptr;
+};
+
+QTEST_GUILESS_MAIN(PluginTest)
+#include "PluginTest.moc"
