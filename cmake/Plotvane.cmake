@@ -1,14 +1,22 @@
 # plotvane_host_library(SysName [files…] LINKS [libraries…])
-# A shared library of the host. It sees the host interface and the libraries that it links, and nothing else.
+# A shared library of the host. It sees the host interface and the libraries that it links, and nothing else. Another
+# plug-in that links it installed needs Qt, but not GDAL, PROJ or Boost.
 function(plotvane_host_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
   string(TOUPPER ${name} upper)
   add_library(${name} SHARED ${arg_UNPARSED_ARGUMENTS})
   target_compile_definitions(${name} PRIVATE ${upper}_BUILD)
-  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(${name} PUBLIC plotvane_sdk ${arg_LINKS})
+  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+  target_link_libraries(${name} PUBLIC plotvane_sdk)
+  foreach(link ${arg_LINKS})
+    if(link MATCHES "^(Sys|Qt5::)")
+      target_link_libraries(${name} PUBLIC ${link})
+    else()
+      target_link_libraries(${name} PUBLIC $<BUILD_INTERFACE:${link}>)
+    endif()
+  endforeach()
   target_link_options(${name} PRIVATE -Wl,-z,defs)
-  install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/plotvane)
+  install(TARGETS ${name} EXPORT PlotvaneSdk LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/plotvane)
 endfunction()
 
 # plotvane_test(Name LINKS [libraries…])

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+/// Results go to standard output, problems to standard error.
+namespace Console {
+
+/// A line, or several, of result.
+void print(QString const& text);
+
+/// A sentence about a problem, with the program's name before it.
+void complain(QString const& sentence);
+
+/// Writes out what `print` was given; false where standard output did not take it all (a full disk, a closed pipe).
+bool finish();
+
+/// Whether a person watches standard error.
+bool hasTerminal();
+
+/// Shows a line on that terminal in place of the last one; an empty one clears it.
+void showStatus(QString const& line);
+
+}  // namespace Console

@@ -1,0 +1,191 @@
+#include "DocumentReport.h"
+
+#include <SysCarto/Map.h>
+#include <SysCarto/MapDocument.h>
+#include <SysCarto/PageLayout.h>
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QSet>
+#include <QVector>
+
+using SysCarto::Element;
+using SysCarto::Layer;
+using SysCarto::Map;
+using SysCarto::PageLayout;
+using SysUtility::_ptr_t;
+
+namespace {
+
+struct KindName {
+  int type;
+  char const* name;
+};
+// clang-format off
+constexpr KindName elementKinds[] = {
+    { 1, "marker"},     { 2, "line"},               { 3, "polygon"}, { 4, "rectangle"}, { 5, "ellipse"},
+    { 9, "text"},       {10, "group"},              {11, "data frame"},
+    {12, "map surround frame"},                     {13, "picture"},
+};
+constexpr KindName layerKinds[] = {{2, "features"}, {3, "raster"}};
+// clang-format on
+
+template <std::size_t count>
+QString kindName(KindName const (&kinds)[count], int type) {
+  for (KindName const& kind : kinds)
+    if (kind.type == type) return QString::fromLatin1(kind.name);
+  return QStringLiteral("unknown");
+}
+
+QJsonValue rectangle(_ptr_t<SysGeometry::Envelope> const& envelope) {
+  if (!envelope || envelope->IsEmpty()) return QJsonValue::Null;
+  return QJsonArray{envelope->GetXMin(), envelope->GetYMin(), envelope->GetXMax(), envelope->GetYMax()};
+}
+
+QJsonValue pageJson(SysCarto::Page const* page) {
+  if (!page) return QJsonValue::Null;
+  SysCarto::FormInfo form;
+  SysCarto::Paper::GetFormInfo(page->GetFormID(), form);
+  double width = 0.0;
+  double height = 0.0;
+  page->QuerySize(width, height);
+  return QJsonObject{{QStringLiteral("form"), form.key},
+                     {QStringLiteral("orientation"),
+                      page->GetOrientation() == 2 ? QStringLiteral("landscape") : QStringLiteral("portrait")},
+                     {QStringLiteral("width"), width},
+                     {QStringLiteral("height"), height}};
+}
+
+QJsonObject elementJson(_ptr_t<Element> const& element, bool selected) {
+  auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element);
+  return QJsonObject{{QStringLiteral("handle"), element->GetHandle()},
+                     {QStringLiteral("name"), element->GetName()},
+                     {QStringLiteral("type"), element->GetType()},
+                     {QStringLiteral("kind"), kindName(elementKinds, element->GetType())},
+                     {QStringLiteral("envelope"), rectangle(element->GetEnvelope())},
+                     {QStringLiteral("selected"), selected},
+                     {QStringLiteral("locked"), frame && frame->IsLocked()}};
+}
+
+QJsonArray elementsJson(IElementContainer const* container) {
+  QJsonArray list;
+  if (!container) return list;
+  QSet<SysCarto::ElementHandle> selected;
+  for (auto const& element : container->GetSelectedElements()) selected.insert(element->GetHandle());
+  for (auto const& element : container->GetElements())
+    list.append(elementJson(element, selected.contains(element->GetHandle())));
+  return list;
+}
+
+QJsonObject layerJson(_ptr_t<Layer> const& layer) {
+  return QJsonObject{{QStringLiteral("name"), layer->GetName()},
+                     {QStringLiteral("type"), layer->GetType()},
+                     {QStringLiteral("kind"), kindName(layerKinds, layer->GetType())},
+                     {QStringLiteral("visible"), layer->IsVisible()}};
+}
+
+QJsonObject mapJson(_ptr_t<Map> const& map) {
+  QJsonArray layers;
+  for (auto const& layer : map->GetLayers()) layers.append(layerJson(layer));
+  return QJsonObject{{QStringLiteral("name"), map->GetName()},
+                     {QStringLiteral("scale"), map->GetDisplayTransformation()->GetMapScale()},
+                     {QStringLiteral("extent"), rectangle(map->GetExtent())},
+                     {QStringLiteral("layers"), layers}};
+}
+
+QString formatted(QJsonValue const& rectangle, int decimals) {
+  QStringList numbers;
+  for (QJsonValue const& number : rectangle.toArray())
+    numbers.append(QString::number(number.toDouble(), 'f', decimals));
+  return numbers.isEmpty() ? QStringLiteral("empty") : numbers.join(QStringLiteral("  "));
+}
+
+// Columns as wide as their widest cell, two spaces between them.
+QString table(QVector<QStringList> const& rows) {
+  QVector<int> widths;
+  for (QStringList const& row : rows)
+    for (int column = 0; column < row.size(); ++column) {
+      if (column == widths.size()) widths.append(0);
+      widths[column] = qMax(widths.at(column), row.at(column).size());
+    }
+  QString text;
+  for (QStringList const& row : rows) {
+    QString line = QStringLiteral("  ");
+    for (int column = 0; column < row.size(); ++column)
+      line += row.at(column).leftJustified(widths.at(column)) + QStringLiteral("  ");
+    while (line.endsWith(QLatin1Char(' '))) line.chop(1);
+    text += line + QLatin1Char('\n');
+  }
+  return text;
+}
+
+class ReportText {
+  Q_DECLARE_TR_FUNCTIONS(DocumentReport)
+
+public:
+  static QString page(QJsonObject const& page);
+  static QString elements(QJsonArray const& elements);
+  static QString map(QJsonObject const& map);
+};
+
+QString ReportText::page(QJsonObject const& page) {
+  if (page.isEmpty()) return tr("No page") + QLatin1Char('\n');
+  return tr("Page: %1, %2, %3 × %4 cm")
+             .arg(page[QStringLiteral("form")].toString(), page[QStringLiteral("orientation")].toString())
+             .arg(page[QStringLiteral("width")].toDouble())
+             .arg(page[QStringLiteral("height")].toDouble()) +
+         QLatin1Char('\n');
+}
+
+QString ReportText::elements(QJsonArray const& elements) {
+  QVector<QStringList> rows;
+  if (!elements.isEmpty()) rows.append({tr("handle"), tr("kind"), tr("xmin  ymin  xmax  ymax (cm)"), tr("name")});
+  for (QJsonValue const& value : elements) {
+    QJsonObject const element = value.toObject();
+    QString name = element[QStringLiteral("name")].toString();
+    if (element[QStringLiteral("selected")].toBool()) name += tr(" (selected)");
+    if (element[QStringLiteral("locked")].toBool()) name += tr(" (locked)");
+    rows.append({QString::number(element[QStringLiteral("handle")].toInt()), element[QStringLiteral("kind")].toString(),
+                 formatted(element[QStringLiteral("envelope")], 2), name.trimmed()});
+  }
+  return tr("Elements: %1").arg(elements.size()) + QLatin1Char('\n') + table(rows);
+}
+
+QString ReportText::map(QJsonObject const& map) {
+  QVector<QStringList> rows;
+  for (QJsonValue const& value : map[QStringLiteral("layers")].toArray()) {
+    QJsonObject const layer = value.toObject();
+    rows.append({layer[QStringLiteral("kind")].toString(),
+                 layer[QStringLiteral("visible")].toBool() ? tr("shown") : tr("hidden"),
+                 layer[QStringLiteral("name")].toString()});
+  }
+  return tr("Map: %1, scale 1:%2, extent %3")
+             .arg(map[QStringLiteral("name")].toString(),
+                  QString::number(map[QStringLiteral("scale")].toDouble(), 'f', 0),
+                  formatted(map[QStringLiteral("extent")], 3)) +
+         QLatin1Char('\n') + table(rows);
+}
+
+}  // namespace
+
+QJsonObject documentJson(SysCarto::MapDocument const& document) {
+  QList<_ptr_t<Map>> maps;
+  document.GetMaps(maps);
+  QJsonArray mapList;
+  for (auto const& map : maps) mapList.append(mapJson(map));
+  auto const layout = document.GetPageLayout();
+  return QJsonObject{
+      {QStringLiteral("page"), layout ? pageJson(layout->GetPage()) : QJsonValue(QJsonValue::Null)},
+      {QStringLiteral("elements"), elementsJson(layout ? layout->GetGraphicsContainer() : nullptr)},
+      {QStringLiteral("maps"), mapList},
+      {QStringLiteral("view"), QJsonObject{{QStringLiteral("extent"),
+                                            layout ? rectangle(layout->GetExtent()) : QJsonValue(QJsonValue::Null)}}},
+  };
+}
+
+QString documentText(QJsonObject const& report) {
+  QString text = ReportText::page(report[QStringLiteral("page")].toObject()) +
+                 ReportText::elements(report[QStringLiteral("elements")].toArray());
+  for (QJsonValue const& map : report[QStringLiteral("maps")].toArray()) text += ReportText::map(map.toObject());
+  return text.trimmed();
+}

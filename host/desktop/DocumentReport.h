@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QString>
+
+namespace SysCarto {
+class MapDocument;
+}
+
+/// What is on a document's page, under the keys `page`, `elements`, `maps` and `view`. Page lengths are centimetres;
+/// rectangles are [xmin, ymin, xmax, ymax]. docs/command-line.md lists the keys.
+QJsonObject documentJson(SysCarto::MapDocument const& document);
+
+/// The same for people.
+QString documentText(QJsonObject const& report);

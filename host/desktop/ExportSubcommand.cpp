@@ -1,0 +1,168 @@
+#include "Console.h"
+#include "ImageTarget.h"
+#include "Interrupt.h"
+#include "OffscreenDesktop.h"
+#include "ProgressLine.h"
+#include "Subcommand.h"
+
+#include "export/ExportCommand.h"
+#include "export/RasterWriter.h"
+#include "host/SysCarto/layers/GdalErrors.h"
+
+#include <SysCarto/MapDocument.h>
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+#include <gdal_priv.h>
+
+#include <optional>
+
+using Plugin::ExportCommand;
+using SysCarto::MapDocument;
+
+namespace {
+
+constexpr int defaultDpi = 300;
+constexpr int mostDpi = 100000;
+
+struct Request {
+  QString document;
+  QString image;
+  int dpi = defaultDpi;
+  bool quiet = false;
+  bool allowMissing = false;
+};
+
+class ExportSubcommand {
+  Q_DECLARE_TR_FUNCTIONS(ExportSubcommand)
+
+public:
+  static std::optional<ExitStatus> parse(Subcommand const& self, QStringList const& arguments, Request& request);
+
+  explicit ExportSubcommand(Request const& request);
+
+  /// An empty text, or what went wrong.
+  QString run();
+
+private:
+  QString checkFormat() const;
+  QString openDocument();
+  QString imageSize(QSize& size) const;
+  QString draw(QString const& path);
+  bool drawWithProgress(ExportCommand& command, Interrupt const& interrupt, QString const& path) const;
+
+  Request request_;
+  QString driver_;
+  MapDocument document_;
+};
+
+std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStringList const& arguments,
+                                                  Request& request) {
+  QCommandLineParser parser;
+  parser.addPositionalArgument(QStringLiteral("DOCUMENT"), tr("The .kdx document."));
+  parser.addPositionalArgument(QStringLiteral("IMAGE"),
+                               tr("The file to write: .png, .jpg, .bmp or .tif. Any other suffix gives a TIFF."));
+  QCommandLineOption const dpi(QStringLiteral("dpi"),
+                               tr("Pixels per inch of paper, 1 to %1; %2 if not given.").arg(mostDpi).arg(defaultDpi),
+                               QStringLiteral("N"), QString::number(defaultDpi));
+  QCommandLineOption const quiet(QStringLiteral("quiet"), tr("Print neither the path nor the progress."));
+  QCommandLineOption const missing(QStringLiteral("allow-missing"),
+                                   tr("Draw the page also where a data source can't be read; its layer stays empty."));
+  parser.addOptions({dpi, quiet, missing});
+  if (auto const settled = parseArguments(self, parser, arguments)) return settled;
+
+  bool isNumber = false;
+  request = {parser.positionalArguments().at(0), parser.positionalArguments().at(1),
+             parser.value(dpi).toInt(&isNumber), parser.isSet(quiet), parser.isSet(missing)};
+  if (isNumber && request.dpi >= 1 && request.dpi <= mostDpi) return std::nullopt;
+  Console::complain(
+      tr("export: --dpi takes a whole number from 1 to %1, not \"%2\".").arg(mostDpi).arg(parser.value(dpi)));
+  return WrongArguments;
+}
+
+ExportSubcommand::ExportSubcommand(Request const& request)
+    : request_(request), driver_(QLatin1String(Plugin::RasterWriter::driverName(request.image))) {}
+
+QString ExportSubcommand::run() {
+  ImageTarget target(request_.image, driver_);
+  QSize size;
+  QString problem = checkFormat();
+  if (problem.isEmpty()) problem = target.checkPlace(request_.document);
+  if (problem.isEmpty()) problem = openDocument();
+  if (problem.isEmpty()) problem = imageSize(size);
+  if (problem.isEmpty()) problem = target.checkSize(size);
+  if (problem.isEmpty()) problem = target.prepare();
+  if (problem.isEmpty()) problem = draw(target.workingPath());
+  if (problem.isEmpty()) problem = target.checkResult(size);
+  if (problem.isEmpty()) problem = target.commit();
+  return problem;
+}
+
+QString ExportSubcommand::checkFormat() const {
+  for (QString const& name : {driver_, QStringLiteral("GTiff")})
+    if (!GetGDALDriverManager()->GetDriverByName(name.toLatin1().constData()))
+      return tr("%1: this GDAL can't write %2; choose another format, or install a GDAL that can.")
+          .arg(request_.image, name);
+  QString const suffix = QFileInfo(request_.image).suffix();
+  bool const expected = driver_ != QLatin1String("GTiff") ||
+                        suffix.compare(QLatin1String("tif"), Qt::CaseInsensitive) == 0 ||
+                        suffix.compare(QLatin1String("tiff"), Qt::CaseInsensitive) == 0;
+  if (!expected && !request_.quiet)
+    Console::complain(tr("%1 will be a TIFF; .png, .jpg and .bmp name the other formats.").arg(request_.image));
+  return QString();
+}
+
+QString ExportSubcommand::openDocument() {
+  bool const opened = document_.Open(request_.document);
+  for (QString const& warning : document_.GetWarnings()) Console::complain(warning);
+  if (!opened) return document_.GetErrors().join(QLatin1Char('\n'));
+  if (document_.GetUnreadableSourceCount() > 0 && !request_.allowMissing)
+    return tr("%1: data sources could not be read, so the page would not be whole; mend them, or pass --allow-missing.")
+        .arg(request_.document);
+  return QString();
+}
+
+QString ExportSubcommand::imageSize(QSize& size) const {
+  auto const layout = document_.GetPageLayout();
+  if (!layout || !layout->GetPage()) return tr("%1: the document has no page to draw.").arg(request_.document);
+  layout->QueryOutputSize(request_.dpi, size.rwidth(), size.rheight());
+  return QString();
+}
+
+QString ExportSubcommand::draw(QString const& path) {
+  auto const desktop = SysUtility::make<OffscreenDesktop>(document_);
+  auto const command = SysUtility::make<ExportCommand>();
+  command->OnCreate(desktop->hook());
+
+  Interrupt const interrupt;
+  SysCarto::GdalErrors const errors;
+  bool const reached = drawWithProgress(*command, interrupt, path);
+  if (interrupt.cancel()->IsCanced()) return tr("%1 was not written: interrupted.").arg(request_.image);
+  if (reached && !errors.hasFailure()) return QString();
+  QString const reason = errors.hasFailure() ? errors.reason() : tr("the image file could not be created");
+  return tr("%1 was not written: %2. Is the disk full?").arg(request_.image, reason);
+}
+
+bool ExportSubcommand::drawWithProgress(ExportCommand& command, Interrupt const& interrupt, QString const& path) const {
+  QProgressDialog& dialog = *command.GetProgressBar();
+  dialog.setRange(0, 100);
+  std::optional<ProgressLine> line;
+  if (!request_.quiet && Console::hasTerminal()) line.emplace(dialog);
+  return command.OutputOtherPicture(path, request_.dpi, interrupt.cancel(), ExportCommand::DrawProgressCallback,
+                                    &command);
+}
+
+}  // namespace
+
+ExitStatus runExport(Subcommand const& self, QStringList const& arguments) {
+  Request request;
+  if (auto const settled = ExportSubcommand::parse(self, arguments, request)) return *settled;
+  QString const problem = ExportSubcommand(request).run();
+  if (!problem.isEmpty()) {
+    Console::complain(problem);
+    return WorkFailed;
+  }
+  if (!request.quiet) Console::print(request.image);
+  return Done;
+}

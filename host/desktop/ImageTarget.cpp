@@ -1,0 +1,185 @@
+#include "ImageTarget.h"
+
+#include "host/SysCarto/layers/GdalErrors.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QStorageInfo>
+#include <QTemporaryDir>
+#include <QVector>
+
+#include <cpl_conv.h>
+#include <gdal_priv.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <limits>
+
+namespace {
+
+constexpr int bandCount = 3;
+constexpr qint64 bmpHeaderBytes = 54;
+
+struct SideLimit {
+  char const* driver;
+  int pixels;
+};
+// What the libraries behind the formats take, below what the formats could hold.
+constexpr SideLimit sideLimits[] = {{"JPEG", 65500}, {"PNG", 1000000}};
+
+QString systemReason(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
+
+QString resolved(QString const& path) {
+  QFileInfo const info(path);
+  QString const canonical = info.canonicalFilePath();
+  return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+}
+
+qint64 bmpBytes(QSize const& size) {
+  qint64 const rowBytes = (qint64{size.width()} * bandCount + 3) / 4 * 4;
+  return bmpHeaderBytes + rowBytes * size.height();
+}
+
+struct DatasetCloser {
+  void operator()(GDALDataset* dataset) const { GDALClose(dataset); }
+};
+using DatasetPtr = std::unique_ptr<GDALDataset, DatasetCloser>;
+
+// A lost end is an error for as long as this lives; for the files of others GDAL is more patient.
+class StrictJpeg {
+public:
+  StrictJpeg() { CPLSetThreadLocalConfigOption(option, "YES"); }
+  ~StrictJpeg() { CPLSetThreadLocalConfigOption(option, nullptr); }
+  StrictJpeg(StrictJpeg const&) = delete;
+  StrictJpeg& operator=(StrictJpeg const&) = delete;
+
+private:
+  static constexpr char option[] = "GDAL_ERROR_ON_LIBJPEG_WARNING";
+};
+
+bool readLastRows(GDALDataset& dataset, QSize const& size) {
+  constexpr int mostPixels = 1 << 22;
+  int const rows = std::min(std::clamp(mostPixels / size.width(), 1, 64), size.height());
+  QVector<uchar> bytes(size.width() * rows * bandCount);
+  return dataset.RasterIO(GF_Read, 0, size.height() - rows, size.width(), rows, bytes.data(), size.width(), rows,
+                          GDT_Byte, bandCount, nullptr, 0, 0, 0, nullptr) == CE_None;
+}
+
+// Some file systems tell only here that the disk is full.
+int syncToDisk(QString const& path) {
+  int const file = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+  if (file < 0) return errno;
+  int const error = fsync(file) == 0 ? 0 : errno;
+  close(file);
+  return error;
+}
+
+}  // namespace
+
+ImageTarget::ImageTarget(QString const& path, QString const& driver)
+    : name_(QDir::toNativeSeparators(path)), path_(resolved(path)), driver_(driver) {}
+
+ImageTarget::~ImageTarget() = default;
+
+QString ImageTarget::checkPlace(QString const& document) const {
+  QFileInfo const target(path_);
+  QFileInfo const folder(target.absolutePath());
+  if (!folder.isDir())
+    return tr("%1: the folder %2 does not exist; make it first.").arg(name_, folder.filePath());
+  if (access(QFile::encodeName(folder.filePath()).constData(), W_OK | X_OK) != 0)
+    return tr("%1: the folder %2 can't be written (%3); choose another.")
+        .arg(name_, folder.filePath(), systemReason(errno));
+  if (target.isDir()) return tr("%1 is a folder; name a file in it.").arg(name_);
+  if (target.exists() && path_ == resolved(document))
+    return tr("%1 is the document itself; name another file for the image.").arg(name_);
+
+  struct stat status = {};
+  if (lstat(QFile::encodeName(path_).constData(), &status) != 0)
+    return errno == ENOENT ? QString() : tr("%1 can't be written: %2.").arg(name_, systemReason(errno));
+  if (!S_ISREG(status.st_mode)) return tr("%1 is not an ordinary file; name another.").arg(name_);
+  if (!target.isWritable()) return tr("%1 is write-protected; name another file or unlock it.").arg(name_);
+  return QString();
+}
+
+QString ImageTarget::checkSize(QSize const& size) const {
+  if (size.isEmpty()) return tr("%1: the image would have no pixels; give more DPI.").arg(name_);
+  QString const problem = checkFormatLimits(size);
+  return problem.isEmpty() ? checkFreeSpace(size) : problem;
+}
+
+QString ImageTarget::checkFormatLimits(QSize const& size) const {
+  for (SideLimit const& limit : sideLimits)
+    if (driver_ == QLatin1String(limit.driver) && std::max(size.width(), size.height()) > limit.pixels)
+      return tr("%1: the image would be %2 × %3 pixels, and a %4 has at most %5 on a side; give less DPI, or write a "
+                "TIFF.")
+          .arg(name_)
+          .arg(size.width())
+          .arg(size.height())
+          .arg(driver_)
+          .arg(limit.pixels);
+  if (driver_ == QLatin1String("BMP") && bmpBytes(size) > std::numeric_limits<quint32>::max())
+    return tr("%1: the image would be %2 × %3 pixels, and a BMP holds at most 4 GB; give less DPI, or write a TIFF.")
+        .arg(name_)
+        .arg(size.width())
+        .arg(size.height());
+  return QString();
+}
+
+QString ImageTarget::checkFreeSpace(QSize const& size) const {
+  QStorageInfo const storage(QFileInfo(path_).absolutePath());
+  if (storage.bytesTotal() <= 0) return QString();  // not told
+  qint64 const free = storage.bytesAvailable();
+  double const needed = double{bandCount} * size.width() * size.height();
+  if (needed <= static_cast<double>(free)) return QString();
+  return tr("%1: drawing %2 × %3 pixels takes %4 GB on the disk, and %5 GB are free; give less DPI, or make room.")
+      .arg(name_)
+      .arg(size.width())
+      .arg(size.height())
+      .arg(needed / 1e9, 0, 'f', 3)
+      .arg(static_cast<double>(free) / 1e9, 0, 'f', 3);
+}
+
+QString ImageTarget::prepare() {
+  QString const folder = QFileInfo(path_).absolutePath();
+  folder_ = std::make_unique<QTemporaryDir>(folder + QStringLiteral("/.plotvane-XXXXXX"));
+  if (folder_->isValid()) return QString();
+  return tr("%1: no working folder can be made in %2: %3.").arg(name_, folder, folder_->errorString());
+}
+
+QString ImageTarget::workingPath() const {
+  QString const suffix = QFileInfo(path_).suffix();
+  return folder_->filePath(suffix.isEmpty() ? QStringLiteral("image") : QStringLiteral("image.") + suffix);
+}
+
+QString ImageTarget::checkResult(QSize const& size) const {
+  SysCarto::GdalErrors const errors;
+  StrictJpeg const strict;
+  QByteArray const driver = driver_.toLatin1();
+  char const* const drivers[] = {driver.constData(), nullptr};
+  DatasetPtr const image(static_cast<GDALDataset*>(
+      GDALOpenEx(workingPath().toUtf8().constData(), GDAL_OF_RASTER | GDAL_OF_READONLY, drivers, nullptr, nullptr)));
+  if (!image) return tr("%1 was not written: the image can't be read again.").arg(name_);
+  if (image->GetRasterXSize() != size.width() || image->GetRasterYSize() != size.height() ||
+      image->GetRasterCount() != bandCount)
+    return tr("%1 was not written: the image has not the size that it should have.").arg(name_);
+  bool const whole = driver_ != QLatin1String("BMP") || QFileInfo(workingPath()).size() >= bmpBytes(size);
+  if (!whole || !readLastRows(*image, size) || errors.hasFailure())
+    return tr("%1 was not written: the end of the image is missing; is the disk full?").arg(name_);
+  return QString();
+}
+
+QString ImageTarget::commit() {
+  int error = syncToDisk(workingPath());
+  if (error == 0 && std::rename(QFile::encodeName(workingPath()).constData(),
+                                QFile::encodeName(path_).constData()) != 0)
+    error = errno;
+  return error == 0 ? QString() : tr("%1 was not written: %2.").arg(name_, systemReason(error));
+}

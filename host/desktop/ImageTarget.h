@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QSize>
+#include <QString>
+
+#include <memory>
+
+class QTemporaryDir;
+
+/// An image file on its way into place. It is written in a working folder beside its place, so that whatever a failed
+/// export leaves behind is in there and goes with it; only an image that has been looked at is moved, in one step, over
+/// what was there before.
+///
+/// Every step answers a sentence for people with what is wrong and what to do, or an empty text.
+class ImageTarget {
+  Q_DECLARE_TR_FUNCTIONS(ImageTarget)
+
+public:
+  /// `driver` is GDAL's name for the format.
+  ImageTarget(QString const& path, QString const& driver);
+  ~ImageTarget();
+  ImageTarget(ImageTarget const&) = delete;
+  ImageTarget& operator=(ImageTarget const&) = delete;
+
+  /// Whether a file can be put there at all; `document` is the one file that it must not replace.
+  QString checkPlace(QString const& document) const;
+
+  /// Whether the format and the disk can hold an image of that size.
+  QString checkSize(QSize const& size) const;
+
+  /// Makes the working folder.
+  QString prepare();
+
+  /// Where to write the image: same suffix, in the working folder. After `prepare`.
+  QString workingPath() const;
+
+  /// Opens what was written and reads its last rows.
+  QString checkResult(QSize const& size) const;
+
+  /// Moves the image into its place.
+  QString commit();
+
+private:
+  QString checkFormatLimits(QSize const& size) const;
+  QString checkFreeSpace(QSize const& size) const;
+
+  QString name_;  // as the user gave it, for sentences
+  QString path_;  // absolute, links followed
+  QString driver_;
+  std::unique_ptr<QTemporaryDir> folder_;
+};

@@ -1,0 +1,73 @@
+#include "Session.h"
+
+#include "Console.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QStyleFactory>
+
+#include <cpl_conv.h>
+#include <gdal.h>
+
+#include <clocale>
+#include <langinfo.h>
+
+#include <cstring>
+
+namespace {
+
+// What a desktop session sets and what would change fonts, sizes or styles.
+constexpr char const* sessionVariables[] = {
+    "DISPLAY",
+    "WAYLAND_DISPLAY",
+    "SESSION_MANAGER",
+    "QT_AUTO_SCREEN_SCALE_FACTOR",
+    "QT_ENABLE_HIGHDPI_SCALING",
+    "QT_FONT_DPI",
+    "QT_QPA_PLATFORMTHEME",
+    "QT_SCALE_FACTOR",
+    "QT_SCREEN_SCALE_FACTORS",
+    "QT_STYLE_OVERRIDE",
+};
+
+// Outside a session, as in a container, Qt tells everyone that there is no session.
+void passOn(QtMsgType, QMessageLogContext const&, QString const& text) {
+  if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR"))) Console::complain(text);
+}
+
+// Qt encodes file names in the locale's encoding and GDAL in UTF-8. In the "C" locale of a bare container a name with
+// an umlaut would be lost on the way.
+void ensureUtf8Locale() {
+  setlocale(LC_ALL, "");
+  if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
+}
+
+constexpr GIntBig blockCacheBytes = GIntBig{48} << 20;
+
+// No side files, and silence but for those who listen.
+void prepareGdal() {
+  CPLSetErrorHandler(CPLQuietErrorHandler);
+  CPLSetConfigOption("GDAL_PAM_ENABLED", "NO");
+  GDALSetCacheMax64(blockCacheBytes);
+  GDALAllRegister();
+}
+
+}  // namespace
+
+void prepareEnvironment() {
+  for (char const* variable : sessionVariables) qunsetenv(variable);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(passOn);
+  ensureUtf8Locale();
+  QApplication::setDesktopSettingsAware(false);
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void prepareApplication() {
+  QCoreApplication::setApplicationName(QStringLiteral("plotvane"));
+  QCoreApplication::setOrganizationName(QStringLiteral("plotvane"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(PLOTVANE_VERSION));
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  setlocale(LC_NUMERIC, "C");  // the application object took the user's
+  prepareGdal();
+}

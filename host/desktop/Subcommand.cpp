@@ -1,0 +1,105 @@
+#include "Subcommand.h"
+
+#include "Console.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace {
+
+// clang-format off
+constexpr Subcommand subcommands[] = {
+    {"export",   "DOCUMENT IMAGE", QT_TRANSLATE_NOOP("Subcommand", "Draw the page of a document into an image file"),   runExport},
+    {"info",     "DOCUMENT",       QT_TRANSLATE_NOOP("Subcommand", "Tell what is on the page of a document"),           runInfo},
+    {"commands", "",               QT_TRANSLATE_NOOP("Subcommand", "List the commands and whether the plug-in builds them"), runCommands},
+};
+// clang-format on
+
+QString say(char const* text) { return QCoreApplication::translate("Subcommand", text); }
+
+void printHelp() {
+  QString text = say(QT_TRANSLATE_NOOP("Subcommand", "Usage: plotvane SUBCOMMAND [options]")) + QStringLiteral("\n\n");
+  for (Subcommand const& subcommand : subcommands)
+    text += QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -9).arg(say(subcommand.help));
+  text += say(QT_TRANSLATE_NOOP("Subcommand", "\nplotvane SUBCOMMAND --help tells about one of them; plotvane "
+                                              "--version tells the version."));
+  Console::print(text);
+}
+
+QString withoutWindow(QString const& document) {
+  return say(QT_TRANSLATE_NOOP("Subcommand",
+                               "There is no window yet. To make an image of the page: plotvane export %1 IMAGE"))
+      .arg(document);
+}
+
+ExitStatus runWithoutSubcommand(QStringList const& arguments) {
+  QString const first = arguments.value(0);
+  if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
+    printHelp();
+    return Done;
+  }
+  if (first == QLatin1String("--version") || first == QLatin1String("-v")) {
+    Console::print(QStringLiteral("plotvane ") + QCoreApplication::applicationVersion());
+    return Done;
+  }
+  if (arguments.isEmpty()) {
+    Console::complain(withoutWindow(QStringLiteral("DOCUMENT")));
+    Console::complain(say(QT_TRANSLATE_NOOP("Subcommand", "plotvane --help lists the subcommands.")));
+  } else if (QFileInfo::exists(first)) {
+    Console::complain(withoutWindow(first));
+  } else {
+    Console::complain(say(QT_TRANSLATE_NOOP("Subcommand", "\"%1\" is neither a subcommand nor a document; plotvane "
+                                                          "--help lists the subcommands."))
+                          .arg(first));
+  }
+  return WrongArguments;
+}
+
+ExitStatus dispatch(QStringList const& arguments) {
+  for (Subcommand const& subcommand : subcommands)
+    if (arguments.value(0) == QLatin1String(subcommand.name)) return subcommand.run(subcommand, arguments.mid(1));
+  return runWithoutSubcommand(arguments);
+}
+
+// The parser's own usage line names the executable's path and not the subcommand.
+QString helpText(Subcommand const& self, QCommandLineParser const& parser) {
+  QString const text = parser.helpText();
+  return QStringLiteral("Usage: plotvane %1 [options] %2")
+             .arg(QLatin1String(self.name), QLatin1String(self.operands))
+             .trimmed() +
+         text.mid(text.indexOf(QLatin1Char('\n'))).trimmed().prepend(QStringLiteral("\n"));
+}
+
+}  // namespace
+
+int runCommandLine(QStringList const& arguments) {
+  ExitStatus const status = dispatch(arguments);
+  if (Console::finish()) return status;
+  Console::complain(say(QT_TRANSLATE_NOOP("Subcommand", "The result could not be written to standard output.")));
+  return status == Done ? WorkFailed : status;
+}
+
+std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLineParser& parser,
+                                         QStringList const& arguments) {
+  QCommandLineOption const help = parser.addHelpOption();
+  parser.setApplicationDescription(say(self.help) + QLatin1Char('.'));
+  bool const understood = parser.parse(QStringList(QStringLiteral("plotvane")) + arguments);
+  if (parser.isSet(help)) {
+    Console::print(helpText(self, parser));
+    return Done;
+  }
+
+  QString problem = understood ? QString() : parser.errorText();
+  QStringList const operands = QString::fromLatin1(self.operands).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+  int const given = parser.positionalArguments().size();
+  if (problem.isEmpty() && given < operands.size())
+    problem = say(QT_TRANSLATE_NOOP("Subcommand", "%1 is missing.")).arg(operands.at(given));
+  if (problem.isEmpty() && given > operands.size())
+    problem = say(QT_TRANSLATE_NOOP("Subcommand", "\"%1\" is one argument too many."))
+                  .arg(parser.positionalArguments().at(operands.size()));
+  if (problem.isEmpty()) return std::nullopt;
+  Console::complain(QStringLiteral("%1: %2 ").arg(QLatin1String(self.name), problem) +
+                    say(QT_TRANSLATE_NOOP("Subcommand", "plotvane %1 --help tells how.")).arg(QLatin1String(self.name)));
+  return WrongArguments;
+}

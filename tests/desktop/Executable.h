@@ -1,0 +1,105 @@
+#pragma once
+
+#include <SysCarto/Map.h>
+#include <SysCarto/MapDocument.h>
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+/// What a run of `plotvane` came to.
+struct Outcome {
+  int status = -1;
+  QString out;
+  QString err;
+};
+
+/// A process of `plotvane` that has not been started. Its environment says that there is a display, which there isn't.
+inline void prepare(QProcess& process, QStringList const& arguments, QString const& folder) {
+  auto environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("DISPLAY", ":77");
+  environment.insert("QT_QPA_PLATFORM", "xcb");
+  process.setProcessEnvironment(environment);
+  process.setWorkingDirectory(folder);
+  process.setProgram(QStringLiteral(PLOTVANE_BINARY_DIR "/bin/plotvane"));
+  process.setArguments(arguments);
+}
+
+inline Outcome finish(QProcess& process) {
+  if (!process.waitForFinished(300000) || process.exitStatus() != QProcess::NormalExit) return {};
+  return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+          QString::fromUtf8(process.readAllStandardError())};
+}
+
+inline Outcome run(QStringList const& arguments, QString const& folder, QMap<QString, QString> const& variables = {}) {
+  QProcess process;
+  prepare(process, arguments, folder);
+  auto environment = process.processEnvironment();
+  for (auto it = variables.begin(); it != variables.end(); ++it) environment.insert(it.key(), it.value());
+  process.setProcessEnvironment(environment);
+  process.start();
+  return finish(process);
+}
+
+/// Every file below a folder, with its content.
+inline QMap<QString, QByteArray> contents(QString const& folder) {
+  QMap<QString, QByteArray> all;
+  QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                  QDirIterator::Subdirectories);
+  while (it.hasNext()) {
+    QFile file(it.next());
+    all[it.filePath()] = it.fileInfo().isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+  return all;
+}
+
+inline void write(QString const& path, QByteArray const& content) {
+  QFile file(path);
+  QVERIFY(file.open(QIODevice::WriteOnly));
+  QCOMPARE(file.write(content), qint64{content.size()});
+}
+
+/// A folder with `page.kdx`: 8 × 6 cm with a data frame named "World", its map empty.
+class DocumentFolder {
+public:
+  DocumentFolder() { writeDocument("page.kdx", 8.0, 6.0); }
+
+  void writeDocument(QString const& name, double widthCm, double heightCm) const {
+    SysCarto::MapDocument document;
+    document.New(QString());
+    auto const layout = document.GetPageLayout();
+    SysCarto::Paper::SetCustomSize(widthCm, heightCm);
+    layout->GetPage()->SetFormID(SysCarto::customPageForm);
+    auto const frame = SysUtility::make<SysCarto::MapFrameElement>();
+    frame->SetName("World");
+    frame->GetMap()->SetName("Countries");
+    frame->SetGeometry(SysUtility::make<SysGeometry::Envelope>(1.0, 1.0, 7.0, 5.0));
+    layout->GetGraphicsContainer()->AddElement(frame);
+    if (!document.SaveAs(path(name), true, false)) qFatal("%s", qPrintable(document.GetErrors().join(' ')));
+  }
+
+  QString path(QString const& name) const { return folder_.filePath(name); }
+  QString path() const { return folder_.path(); }
+
+  /// A copy of the document with other values at its top; a null takes one away.
+  void writeVariant(QString const& name, QJsonObject const& values) const {
+    QFile file(path("page.kdx"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QJsonObject json = QJsonDocument::fromJson(file.readAll()).object();
+    for (auto it = values.begin(); it != values.end(); ++it) {
+      if (it.value().isNull())
+        json.remove(it.key());
+      else
+        json[it.key()] = it.value();
+    }
+    write(path(name), QJsonDocument(json).toJson());
+  }
+
+private:
+  QTemporaryDir folder_;
+};

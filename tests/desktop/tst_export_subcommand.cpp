@@ -1,0 +1,246 @@
+#include "desktop/Executable.h"
+
+#include <QImage>
+
+#include <gdal_priv.h>
+
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <memory>
+
+namespace {
+
+// 8 × 6 cm at 300 DPI.
+constexpr int width = 944;
+constexpr int height = 708;
+// A page that no format makes small: A3 at 100 DPI, which is drawn into three bytes a pixel.
+QString samplePage() { return QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx"); }
+constexpr char sampleDpi[] = "100";
+constexpr qint64 sampleBytes = qint64{3} * 1653 * 1169;
+
+// Runs the export in a shell that lets no file grow beyond a size: a write then comes back short, as on a full disk.
+Outcome exportSampleWithFileLimit(QString const& folder, QString const& image, qint64 bytes) {
+  QProcess process;
+  prepare(process, {}, folder);
+  QString const script =
+      QStringLiteral("trap '' XFSZ; ulimit -f %1; exec \"$0\" export \"$@\"").arg(bytes / 512);
+  process.setArguments({"-c", script, process.program(), samplePage(), image, "--dpi", sampleDpi});
+  process.setProgram("/bin/sh");
+  process.start();
+  return finish(process);
+}
+
+// A file system of a given size, unmounted when it goes.
+class SmallDisk {
+public:
+  explicit SmallDisk(qint64 bytes) {
+    mounted_ = QProcess::execute("mount", {"-t", "tmpfs", "-o", QStringLiteral("size=%1").arg(bytes), "plotvane-test",
+                                           folder_.path()}) == 0;
+  }
+  ~SmallDisk() {
+    if (mounted_) QProcess::execute("umount", {folder_.path()});
+  }
+  bool mounted() const { return mounted_; }
+  QString path(QString const& name) const { return folder_.filePath(name); }
+  QString path() const { return folder_.path(); }
+
+private:
+  QTemporaryDir folder_;
+  bool mounted_ = false;
+};
+
+}  // namespace
+
+class ExportSubcommandTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() { GDALAllRegister(); }
+  void writesTheFormatOfTheSuffix_data();
+  void writesTheFormatOfTheSuffix();
+  void quietPrintsNothing();
+  void followsALinkToTheImage();
+  void aMissingDataSourceIsAnErrorUnlessAllowed();
+  void aFailureLeavesTheFolderAsItWas_data();
+  void aFailureLeavesTheFolderAsItWas();
+  void aFullDiskLeavesTheOldImage_data();
+  void aFullDiskLeavesTheOldImage();
+  void aFileLimitLeavesTheOldImage_data();
+  void aFileLimitLeavesTheOldImage();
+  void anInterruptLeavesTheFolderAsItWas();
+
+private:
+  DocumentFolder folder_;
+};
+
+void ExportSubcommandTest::writesTheFormatOfTheSuffix_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<QString>("driver");
+  QTest::addColumn<bool>("noted");
+  QTest::newRow("png") << "a.png" << "PNG" << false;
+  QTest::newRow("jpg in capitals") << "a.JPG" << "JPEG" << false;
+  QTest::newRow("bmp") << "a.bmp" << "BMP" << false;
+  QTest::newRow("tif") << "a.tif" << "GTiff" << false;
+  QTest::newRow("a jpeg is a TIFF, and the user hears of it") << "a.jpeg" << "GTiff" << true;
+  QTest::newRow("no suffix is a TIFF, and the user hears of it") << "a" << "GTiff" << true;
+}
+
+void ExportSubcommandTest::writesTheFormatOfTheSuffix() {
+  QFETCH(QString, name);
+  QFETCH(QString, driver);
+  QFETCH(bool, noted);
+  auto before = contents(folder_.path());
+  Outcome const outcome = run({"export", "page.kdx", name}, folder_.path());
+  QCOMPARE(outcome.err.contains("TIFF"), noted);
+  QCOMPARE(outcome.status, 0);
+  QCOMPARE(outcome.out, name + '\n');
+
+  std::unique_ptr<GDALDataset> const image(
+      static_cast<GDALDataset*>(GDALOpen(qPrintable(folder_.path(name)), GA_ReadOnly)));
+  QVERIFY(image);
+  QCOMPARE(QString(image->GetDriverName()), driver);
+  QCOMPARE(QSize(image->GetRasterXSize(), image->GetRasterYSize()), QSize(width, height));
+  QVERIFY(QFile::remove(folder_.path(name)));
+  QVERIFY(contents(folder_.path()) == before);
+}
+
+void ExportSubcommandTest::quietPrintsNothing() {
+  Outcome const outcome = run({"export", "page.kdx", "quiet", "--quiet", "--dpi", "50"}, folder_.path());
+  QCOMPARE(outcome.status, 0);
+  QCOMPARE(outcome.out + outcome.err, QString());
+  QVERIFY(QFile::remove(folder_.path("quiet")));
+}
+
+void ExportSubcommandTest::followsALinkToTheImage() {
+  QTemporaryDir elsewhere;
+  write(elsewhere.filePath("real.png"), "old");
+  QVERIFY(QFile::link(elsewhere.filePath("real.png"), folder_.path("link.png")));
+  QCOMPARE(run({"export", "page.kdx", "link.png", "--dpi", "50"}, folder_.path()).status, 0);
+  QVERIFY(QFileInfo(folder_.path("link.png")).isSymLink());
+  QVERIFY(!QImage(elsewhere.filePath("real.png")).isNull());
+  QVERIFY(QFile::remove(folder_.path("link.png")));
+}
+
+// The sample without its data beside it.
+void ExportSubcommandTest::aMissingDataSourceIsAnErrorUnlessAllowed() {
+  QVERIFY(QFile::copy(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx"), folder_.path("lost.kdx")));
+  QStringList const arguments{"export", "lost.kdx", "lost.png", "--dpi", "30"};
+  Outcome const refused = run(arguments, folder_.path());
+  QCOMPARE(refused.status, 1);
+  QVERIFY2(refused.err.contains("world.gpkg") && refused.err.contains("--allow-missing"), qPrintable(refused.err));
+  QVERIFY(!QFile::exists(folder_.path("lost.png")));
+
+  Outcome const allowed = run(arguments + QStringList("--allow-missing"), folder_.path());
+  QCOMPARE(allowed.status, 0);
+  QVERIFY(allowed.err.contains("world.gpkg"));
+  QVERIFY(QFile::remove(folder_.path("lost.png")) && QFile::remove(folder_.path("lost.kdx")));
+}
+
+void ExportSubcommandTest::aFailureLeavesTheFolderAsItWas_data() {
+  write(folder_.path("text.kdx"), "{ \"format\": ");
+  write(folder_.path("old.png"), "old");
+  folder_.writeDocument("poster.kdx", 100.0, 100.0);
+  folder_.writeVariant("newer.kdx", {{"version", 1000}});
+  folder_.writeVariant("pageless.kdx", {{"page", QJsonValue::Null}});
+  QDir(folder_.path()).mkdir("folder.png");
+
+  QTest::addColumn<QString>("arguments");
+  QTest::addColumn<QString>("complaint");
+  auto const row = [](char const* claim, QString const& arguments, char const* complaint) {
+    QTest::newRow(claim) << arguments << QString(complaint);
+  };
+  row("a missing document", "none.kdx old.png", "none.kdx");
+  row("a folder as document", "folder.png old.png", "folder.png");
+  row("a document that is no JSON", "text.kdx old.png", "text.kdx");
+  row("a document of a newer version", "newer.kdx old.png", "version");
+  row("a document without a page", "pageless.kdx old.png", "no page");
+  row("the document as target", "page.kdx page.kdx", "is the document itself");
+  row("the document as target, by another way", "page.kdx folder.png/../page.kdx", "is the document itself");
+  row("a target folder that does not exist", "page.kdx nowhere/a.png", "does not exist");
+  row("a folder as target", "page.kdx folder.png", "is a folder");
+  row("a device as target", "page.kdx /dev/null", "not an ordinary file");
+  row("a file system that refuses files", "page.kdx /proc/a.png", "/proc");
+  row("a name that is too long", "page.kdx " + QString(300, 'a') + ".png", "too long");
+  row("more pixels than a JPEG holds", "page.kdx a.jpg --dpi 100000", "at most 65500");
+  row("more pixels than a BMP holds", "page.kdx a.bmp --dpi 20000", "4 GB");
+  row("more pixels than the disk holds", "poster.kdx a.tif --dpi 100000", "GB are free");
+}
+
+void ExportSubcommandTest::aFailureLeavesTheFolderAsItWas() {
+  QFETCH(QString, arguments);
+  QFETCH(QString, complaint);
+  auto const before = contents(folder_.path());
+  QElapsedTimer timer;
+  timer.start();
+  Outcome const outcome = run(QStringList("export") + arguments.split(' '), folder_.path());
+  QCOMPARE(outcome.status, 1);
+  QVERIFY2(outcome.err.contains(complaint), qPrintable(outcome.err));
+  QCOMPARE(outcome.out, QString());
+  QVERIFY(contents(folder_.path()) == before);
+  QVERIFY2(timer.elapsed() < 20000, "refused only after it was drawn");
+}
+
+void ExportSubcommandTest::aFullDiskLeavesTheOldImage_data() {
+  QTest::addColumn<QString>("name");
+  QTest::addColumn<bool>("roomForHalf");
+  for (QString const& suffix : {"png", "jpg", "bmp", "tif"}) {
+    QTest::addRow("no room for the temporary file of a %s", qPrintable(suffix)) << "old." + suffix << false;
+    QTest::addRow("room for half of the finished %s", qPrintable(suffix)) << "old." + suffix << true;
+  }
+}
+
+// The disk has the room that is asked for before drawing, but none for the headers of the temporary file; or it has
+// that, and half of what the image takes.
+void ExportSubcommandTest::aFullDiskLeavesTheOldImage() {
+  QFETCH(QString, name);
+  QFETCH(bool, roomForHalf);
+  if (geteuid() != 0) QSKIP("only root mounts a small disk");
+  QCOMPARE(run({"export", samplePage(), name, "--dpi", sampleDpi}, folder_.path()).status, 0);
+  qint64 const headerBytes = 20000;
+  qint64 const pageBytes = 4096;  // for the old image
+  qint64 const imageBytes = QFileInfo(folder_.path(name)).size();
+  QVERIFY(QFile::remove(folder_.path(name)));
+  QVERIFY(imageBytes > 4 * headerBytes);
+  SmallDisk const disk(sampleBytes + pageBytes + (roomForHalf ? headerBytes + imageBytes / 2 : 0));
+  if (!disk.mounted()) QSKIP("no small disk can be mounted here");
+  write(disk.path(name), "old");
+  Outcome const outcome = run({"export", samplePage(), name, "--dpi", sampleDpi}, disk.path());
+  QCOMPARE(outcome.status, 1);
+  QVERIFY2(outcome.err.contains(name), qPrintable(outcome.err));
+  QCOMPARE(contents(disk.path()), (QMap<QString, QByteArray>{{disk.path(name), "old"}}));
+}
+
+void ExportSubcommandTest::aFileLimitLeavesTheOldImage_data() {
+  QTest::addColumn<QString>("name");
+  for (QString const& suffix : {"png", "jpg", "bmp", "tif"})
+    QTest::addRow("a %s", qPrintable(suffix)) << "limited." + suffix;
+}
+
+void ExportSubcommandTest::aFileLimitLeavesTheOldImage() {
+  QFETCH(QString, name);
+  write(folder_.path(name), "old");
+  auto const before = contents(folder_.path());
+  Outcome const outcome = exportSampleWithFileLimit(folder_.path(), name, sampleBytes - 100000);
+  QCOMPARE(outcome.status, 1);
+  QVERIFY2(outcome.err.contains("was not written"), qPrintable(outcome.err));
+  QVERIFY(contents(folder_.path()) == before);
+}
+
+void ExportSubcommandTest::anInterruptLeavesTheFolderAsItWas() {
+  auto const before = contents(folder_.path());
+  QProcess process;
+  prepare(process, {"export", "page.kdx", "late.tif", "--dpi", "3000"}, folder_.path());
+  process.start();
+  QDir const folder(folder_.path());
+  QTRY_VERIFY(!folder.entryList({".plotvane-*"}, QDir::Dirs | QDir::Hidden).isEmpty());
+  kill(static_cast<pid_t>(process.processId()), SIGTERM);
+  Outcome const outcome = finish(process);
+  QCOMPARE(outcome.status, 1);
+  QVERIFY2(outcome.err.contains("interrupted"), qPrintable(outcome.err));
+  QVERIFY(contents(folder_.path()) == before);
+}
+
+QTEST_GUILESS_MAIN(ExportSubcommandTest)
+#include "tst_export_subcommand.moc"
