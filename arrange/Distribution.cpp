@@ -98,8 +98,7 @@ void DistributionCommand::OnClick() {
     EditorOperation const operation(QCoreApplication::translate(row_->context, row_->operation));
     _ptr_t<Element> previous = low;
     for (auto const& element : inner) {
-      double const distance =
-          ofOwnRectangle(*previous, row_->high) + gap - ofOwnRectangle(*element, row_->low);
+      double const distance = ofOwnRectangle(*previous, row_->high) + gap - ofOwnRectangle(*element, row_->low);
       auto const moved = element->Clone();
       moved->Move(distance * row_->alongX, distance * row_->alongY);
       active.container->ReplaceElement(element->GetHandle(), moved);

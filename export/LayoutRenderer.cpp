@@ -74,7 +74,8 @@ QImage mapImage(Map& map, QSize const& clip, _ptr_t<Envelope> const& clipExtent,
     if (isOutsideScaleRange(layer->GetMinScale(), layer->GetMaxScale(), transform->GetMapScale())) continue;
     layer->Draw(painter, transform, featurePhase, cancel);
   }
-  if (IElementContainer* graphics = map.GetGraphicsContainer()) graphics->Draw(painter, transform, featurePhase, cancel);
+  if (IElementContainer* graphics = map.GetGraphicsContainer())
+    graphics->Draw(painter, transform, featurePhase, cancel);
   return image;
 }
 
@@ -88,7 +89,8 @@ QList<_ptr_t<Layer>> layersByLabelPriority(Map const& map) {
     return features ? features->GetAnnotationProperties()->GetPriority() : std::numeric_limits<int>::min();
   };
   // Stable, so that the same map is labelled the same way every time.
-  std::stable_sort(layers.begin(), layers.end(), [&](auto const& a, auto const& b) { return priority(a) > priority(b); });
+  std::stable_sort(layers.begin(), layers.end(),
+                   [&](auto const& a, auto const& b) { return priority(a) > priority(b); });
   return layers;
 }
 
@@ -228,9 +230,9 @@ void MapFrameElementOutput(QPainter& painter, QRect const& clip, _ptr_t<Envelope
                            _ptr_t<MapFrameElement> const& frame, _ptr_t<DisplayTransformation> const& tileTransform,
                            _ptr_t<TrackerCancel> const& cancel) {
   // A frame may touch a tile with its shadow, its border or the labels of its grids alone.
-  QImage const map = clip.isEmpty() ? QImage()
-                                    : mapImage(*frame->GetMap(), clip.size(), clipExtent,
-                                               tileTransform->GetPageScale(), cancel);
+  QImage const map = clip.isEmpty()
+                         ? QImage()
+                         : mapImage(*frame->GetMap(), clip.size(), clipExtent, tileTransform->GetPageScale(), cancel);
   frame->DrawShadow(painter, tileTransform);
   frame->DrawBackground(painter, tileTransform);
   if (!map.isNull()) painter.drawImage(clip.left(), clip.top(), map);

@@ -71,8 +71,7 @@ void MapFrameElementOutput(QPainter& painter, QRect const& clip,
 /// are taken out again when this object goes.
 class PlacedLabels {
 public:
-  PlacedLabels(IApplicationHook& hook,
-               SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& pageTransform);
+  PlacedLabels(IApplicationHook& hook, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& pageTransform);
   ~PlacedLabels();
   PlacedLabels(PlacedLabels const&) = delete;
   PlacedLabels& operator=(PlacedLabels const&) = delete;
@@ -81,9 +80,8 @@ private:
   using Maps = QVector<SysUtility::_ptr_t<SysCarto::Map>>;
   using Labels = QVector<QList<SysUtility::_ptr_t<SysCarto::Element>>>;
 
-  static void CreateAnnotationElement(
-      IApplicationHook& hook, Maps& maps, Labels& labels,
-      SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& pageTransform);
+  static void CreateAnnotationElement(IApplicationHook& hook, Maps& maps, Labels& labels,
+                                      SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& pageTransform);
   static void ClearAnnotationElement(Maps const& maps, Labels const& labels);
 
   // One entry for each data frame, in the order of the page's elements.

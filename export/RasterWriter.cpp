@@ -43,9 +43,9 @@ RasterWriter::~RasterWriter() { removeTemporary(); }
 bool RasterWriter::create(QSize const& size) {
   GDALAllRegister();
   if (!driver(temporaryDriver) || !driver(driverName(path_))) return false;
-  temporary_ = driver(temporaryDriver)
-                   ->Create(temporaryPath_.toUtf8().constData(), size.width(), size.height(), bandCount, GDT_Byte,
-                            nullptr);
+  temporary_ =
+      driver(temporaryDriver)
+          ->Create(temporaryPath_.toUtf8().constData(), size.width(), size.height(), bandCount, GDT_Byte, nullptr);
   return temporary_ != nullptr;
 }
 
@@ -63,8 +63,8 @@ bool RasterWriter::write(QImage const& tile, QPoint const& position) {
 }
 
 void RasterWriter::convert(Progress progress, void* data) {
-  GDALDataset* const result = driver(driverName(path_))
-                                  ->CreateCopy(path_.toUtf8().constData(), temporary_, TRUE, nullptr, progress, data);
+  GDALDataset* const result =
+      driver(driverName(path_))->CreateCopy(path_.toUtf8().constData(), temporary_, TRUE, nullptr, progress, data);
   GDALClose(std::exchange(temporary_, nullptr));
   if (result) GDALClose(result);
   QFile::remove(temporaryPath_);

@@ -5,13 +5,12 @@
 #include <QSize>
 #include <QString>
 
-
 class GDALDataset;
 
 namespace Plugin {
 
-/// Writes an image file piece by piece, through a temporary uncompressed TIFF in the folder of the file, which GDAL then
-/// converts into the format that the file's suffix names: "jpg", "png", "bmp", and TIFF for everything else.
+/// Writes an image file piece by piece, through a temporary uncompressed TIFF in the folder of the file, which GDAL
+/// then converts into the format that the file's suffix names: "jpg", "png", "bmp", and TIFF for everything else.
 ///
 /// Reports nothing; what GDAL has to say goes to its error handler. The temporary file is gone when this object is.
 class RasterWriter {

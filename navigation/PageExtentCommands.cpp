@@ -34,8 +34,7 @@ void ExtentStepCommand::OnClick() {
 ZoomToPreviousExtentCommand::ZoomToPreviousExtentCommand()
     : ExtentStepCommand({&IExtentStack::CanUndo, &IExtentStack::Undo}) {}
 
-ZoomToNextExtentCommand::ZoomToNextExtentCommand()
-    : ExtentStepCommand({&IExtentStack::CanRedo, &IExtentStack::Redo}) {
+ZoomToNextExtentCommand::ZoomToNextExtentCommand() : ExtentStepCommand({&IExtentStack::CanRedo, &IExtentStack::Redo}) {
   enabled_ = true;
 }
 

@@ -45,8 +45,7 @@ _ptr_t<SimpleLineSymbol> rubberBandLine() {
 
 }  // namespace
 
-PageZoomTool::PageZoomTool(QString const& cursorPath)
-    : cursor_(QPixmap(cursorPath), centreOfImage, centreOfImage) {
+PageZoomTool::PageZoomTool(QString const& cursorPath) : cursor_(QPixmap(cursorPath), centreOfImage, centreOfImage) {
   enabled_ = true;
 }
 

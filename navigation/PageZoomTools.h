@@ -7,8 +7,8 @@
 
 namespace Plugin {
 
-/// Zooms the layout view by a click or a dragged rectangle: the gesture and its rubber band. What the view shows next is
-/// the leaf's. Any mouse button zooms. Not an undo step.
+/// Zooms the layout view by a click or a dragged rectangle: the gesture and its rubber band. What the view shows next
+/// is the leaf's. Any mouse button zooms. Not an undo step.
 class PageZoomTool : public SysFramework::BaseTool {
 public:
   bool IsEnable() override;

@@ -26,7 +26,7 @@ public:
   QUndoStack history;
 };
 
-/// A layout with an empty page of its own size.
+/// A layout with an empty page of its own size, shown whole.
 inline SysUtility::_ptr_t<SysCarto::PageLayout> emptyLayout(double widthCm, double heightCm) {
   auto const page = SysUtility::make<SysCarto::Page>();
   SysCarto::Paper::SetCustomSize(widthCm, heightCm);
@@ -34,5 +34,6 @@ inline SysUtility::_ptr_t<SysCarto::PageLayout> emptyLayout(double widthCm, doub
   page->SetOrientation(1);
   auto const layout = SysUtility::make<SysCarto::PageLayout>();
   layout->SetPage(page);
+  layout->ZoomToWholePage();
   return layout;
 }

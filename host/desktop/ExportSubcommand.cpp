@@ -49,7 +49,7 @@ private:
   QString checkFormat() const;
   QString openDocument();
   QString imageSize(QSize& size) const;
-  QString draw(QString const& path);
+  QString draw(QString const& path, Interrupt const& interrupt);
   bool drawWithProgress(ExportCommand& command, Interrupt const& interrupt, QString const& path) const;
 
   Request request_;
@@ -85,6 +85,7 @@ ExportSubcommand::ExportSubcommand(Request const& request)
     : request_(request), driver_(QLatin1String(Plugin::RasterWriter::driverName(request.image))) {}
 
 QString ExportSubcommand::run() {
+  Interrupt const interrupt;  // before the working folder is made, and until it has gone
   ImageTarget target(request_.image, driver_);
   QSize size;
   QString problem = checkFormat();
@@ -93,7 +94,7 @@ QString ExportSubcommand::run() {
   if (problem.isEmpty()) problem = imageSize(size);
   if (problem.isEmpty()) problem = target.checkSize(size);
   if (problem.isEmpty()) problem = target.prepare();
-  if (problem.isEmpty()) problem = draw(target.workingPath());
+  if (problem.isEmpty()) problem = draw(target.workingPath(), interrupt);
   if (problem.isEmpty()) problem = target.checkResult(size);
   if (problem.isEmpty()) problem = target.commit();
   return problem;
@@ -130,12 +131,11 @@ QString ExportSubcommand::imageSize(QSize& size) const {
   return QString();
 }
 
-QString ExportSubcommand::draw(QString const& path) {
+QString ExportSubcommand::draw(QString const& path, Interrupt const& interrupt) {
   auto const desktop = SysUtility::make<OffscreenDesktop>(document_);
   auto const command = SysUtility::make<ExportCommand>();
   command->OnCreate(desktop->hook());
 
-  Interrupt const interrupt;
   SysCarto::GdalErrors const errors;
   bool const reached = drawWithProgress(*command, interrupt, path);
   if (interrupt.cancel()->IsCanced()) return tr("%1 was not written: interrupted.").arg(request_.image);

@@ -82,7 +82,9 @@ int runCommandLine(QStringList const& arguments) {
 
 std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLineParser& parser,
                                          QStringList const& arguments) {
-  QCommandLineOption const help = parser.addHelpOption();
+  QCommandLineOption const help({QStringLiteral("h"), QStringLiteral("help")},
+                                say(QT_TRANSLATE_NOOP("Subcommand", "Show this help.")));
+  parser.addOption(help);
   parser.setApplicationDescription(say(self.help) + QLatin1Char('.'));
   bool const understood = parser.parse(QStringList(QStringLiteral("plotvane")) + arguments);
   if (parser.isSet(help)) {

@@ -99,51 +99,58 @@ private slots:
     Rectangles const three = {{5, 1, 7, 2}, {2, 4, 4, 8}, {9, 10, 12, 13}};
 
     QTest::newRow("left edges follow the first selected") << maker<Plugin::LeftAlignmentElement>() << false << three
-        << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {5, 10, 8, 13}};
+                                                          << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {5, 10, 8, 13}};
     QTest::newRow("right edges follow the first selected") << maker<Plugin::RightAlignmentElement>() << false << three
-        << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {4, 10, 7, 13}};
+                                                           << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {4, 10, 7, 13}};
     QTest::newRow("top edges are the larger y") << maker<Plugin::TopAlignmentElement>() << false << three
-        << Rectangles{{5, 1, 7, 2}, {2, -2, 4, 2}, {9, -1, 12, 2}};
+                                                << Rectangles{{5, 1, 7, 2}, {2, -2, 4, 2}, {9, -1, 12, 2}};
     QTest::newRow("bottom edges are the smaller y") << maker<Plugin::BottomAlignmentElement>() << false << three
-        << Rectangles{{5, 1, 7, 2}, {2, 1, 4, 5}, {9, 1, 12, 4}};
+                                                    << Rectangles{{5, 1, 7, 2}, {2, 1, 4, 5}, {9, 1, 12, 4}};
     QTest::newRow("centres share an x") << maker<Plugin::CenterAlignmentElement>() << false << three
-        << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {4.5, 10, 7.5, 13}};
+                                        << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {4.5, 10, 7.5, 13}};
     QTest::newRow("middles share a y") << maker<Plugin::VerticalCenterAlignmentElement>() << false << three
-        << Rectangles{{5, 1, 7, 2}, {2, -0.5, 4, 3.5}, {9, 0, 12, 3}};
+                                       << Rectangles{{5, 1, 7, 2}, {2, -0.5, 4, 3.5}, {9, 0, 12, 3}};
     QTest::newRow("with margins the first moves too") << maker<Plugin::LeftAlignmentElement>() << true << three
-        << Rectangles{{0, 1, 2, 2}, {0, 4, 2, 8}, {0, 10, 3, 13}};
-    QTest::newRow("with margins one is enough") << maker<Plugin::TopAlignmentElement>() << true
-        << Rectangles{{5, 1, 7, 2}} << Rectangles{{5, 27, 7, 28}};
+                                                      << Rectangles{{0, 1, 2, 2}, {0, 4, 2, 8}, {0, 10, 3, 13}};
+    QTest::newRow("with margins one is enough")
+        << maker<Plugin::TopAlignmentElement>() << true << Rectangles{{5, 1, 7, 2}} << Rectangles{{5, 27, 7, 28}};
 
     QTest::newRow("gaps become equal") << maker<Plugin::DistributeHorizontallyElements>() << false
-        << Rectangles{{8, 0, 10, 1}, {30, 0, 34, 1}, {12, 0, 15, 1}}
-        << Rectangles{{8, 0, 10, 1}, {30, 0, 34, 1}, {18.5, 0, 21.5, 1}};
-    QTest::newRow("four in a column, in the order of their lower edges") << maker<Plugin::DistributeVerticallyElements>()
-        << false << Rectangles{{0, 0, 1, 1}, {0, 4, 1, 5}, {0, 2, 1, 4}, {0, 10, 1, 12}}
+                                       << Rectangles{{8, 0, 10, 1}, {30, 0, 34, 1}, {12, 0, 15, 1}}
+                                       << Rectangles{{8, 0, 10, 1}, {30, 0, 34, 1}, {18.5, 0, 21.5, 1}};
+    QTest::newRow("four in a column, in the order of their lower edges")
+        << maker<Plugin::DistributeVerticallyElements>() << false
+        << Rectangles{{0, 0, 1, 1}, {0, 4, 1, 5}, {0, 2, 1, 4}, {0, 10, 1, 12}}
         << Rectangles{{0, 0, 1, 1}, {0, 7, 1, 8}, {0, 3, 1, 5}, {0, 10, 1, 12}};
-    QTest::newRow("too little room makes them overlap alike") << maker<Plugin::DistributeHorizontallyElements>() << false
+    QTest::newRow("too little room makes them overlap alike")
+        << maker<Plugin::DistributeHorizontallyElements>() << false
         << Rectangles{{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}} << Rectangles{{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}};
-    QTest::newRow("all on one centre chain after the first") << maker<Plugin::DistributeHorizontallyElements>() << false
+    QTest::newRow("all on one centre chain after the first")
+        << maker<Plugin::DistributeHorizontallyElements>() << false
         << Rectangles{{4, 0, 6, 1}, {3, 0, 7, 1}, {4.5, 0, 5.5, 1}}
         << Rectangles{{4, 0, 6, 1}, {7.0 / 3, 0, 19.0 / 3, 1}, {11.0 / 3, 0, 14.0 / 3, 1}};
 
-    QTest::newRow("heights follow the last selected") << maker<Plugin::MakeSameHeightElements>() << false
-        << Rectangles{{0, 0, 1, 2}, {3, 3, 4, 7}, {5, 0, 6, 8}} << Rectangles{{0, 0, 1, 8}, {3, 3, 4, 11}, {5, 0, 6, 8}};
-    QTest::newRow("widths follow the last selected") << maker<Plugin::MakeSameWidthElements>() << false
-        << Rectangles{{0, 0, 4, 2}, {3, 3, 5, 7}} << Rectangles{{0, 0, 2, 2}, {3, 3, 5, 7}};
-    QTest::newRow("sizes follow the last selected") << maker<Plugin::MakeSameSizeElements>() << false
-        << Rectangles{{1, 1, 4, 2}, {3, 3, 5, 7}} << Rectangles{{1, 1, 3, 5}, {3, 3, 5, 7}};
-    QTest::newRow("an element without width keeps none") << maker<Plugin::MakeSameSizeElements>() << false
-        << Rectangles{{1, 1, 1, 2}, {3, 3, 5, 7}} << Rectangles{{1, 1, 1, 5}, {3, 3, 5, 7}};
+    QTest::newRow("heights follow the last selected")
+        << maker<Plugin::MakeSameHeightElements>() << false << Rectangles{{0, 0, 1, 2}, {3, 3, 4, 7}, {5, 0, 6, 8}}
+        << Rectangles{{0, 0, 1, 8}, {3, 3, 4, 11}, {5, 0, 6, 8}};
+    QTest::newRow("widths follow the last selected")
+        << maker<Plugin::MakeSameWidthElements>() << false << Rectangles{{0, 0, 4, 2}, {3, 3, 5, 7}}
+        << Rectangles{{0, 0, 2, 2}, {3, 3, 5, 7}};
+    QTest::newRow("sizes follow the last selected")
+        << maker<Plugin::MakeSameSizeElements>() << false << Rectangles{{1, 1, 4, 2}, {3, 3, 5, 7}}
+        << Rectangles{{1, 1, 3, 5}, {3, 3, 5, 7}};
+    QTest::newRow("an element without width keeps none")
+        << maker<Plugin::MakeSameSizeElements>() << false << Rectangles{{1, 1, 1, 2}, {3, 3, 5, 7}}
+        << Rectangles{{1, 1, 1, 5}, {3, 3, 5, 7}};
 
     QTest::newRow("fits both extents") << maker<Plugin::FittoMarginsElements>() << false << Rectangles{{2, 3, 6, 5}}
-        << Rectangles{{0, 0, 20, 28}};
-    QTest::newRow("fits the width alone") << maker<Plugin::FitWidthtoMarginsElements>() << true
-        << Rectangles{{2, 3, 6, 5}} << Rectangles{{0, 3, 20, 5}};
+                                       << Rectangles{{0, 0, 20, 28}};
+    QTest::newRow("fits the width alone")
+        << maker<Plugin::FitWidthtoMarginsElements>() << true << Rectangles{{2, 3, 6, 5}} << Rectangles{{0, 3, 20, 5}};
     QTest::newRow("fits the height alone") << maker<Plugin::FitHeighttoMarginsElements>() << false
-        << Rectangles{{2, 3, 6, 5}} << Rectangles{{2, 0, 6, 28}};
-    QTest::newRow("without height it goes to the lower edge") << maker<Plugin::FitHeighttoMarginsElements>() << false
-        << Rectangles{{2, 3, 6, 3}} << Rectangles{{2, 0, 6, 0}};
+                                           << Rectangles{{2, 3, 6, 5}} << Rectangles{{2, 0, 6, 28}};
+    QTest::newRow("without height it goes to the lower edge")
+        << maker<Plugin::FitHeighttoMarginsElements>() << false << Rectangles{{2, 3, 6, 3}} << Rectangles{{2, 0, 6, 0}};
   }
 
   // And one undo brings everything back, one redo puts it there again.

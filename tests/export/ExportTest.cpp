@@ -112,7 +112,8 @@ private slots:
     QTest::addColumn<QSize>("tiles");
     QTest::addColumn<QSize>("lastTile");
     QTest::newRow("A4 at 96") << 21.0 << 29.7 << 96 << QSize(793, 1122) << QSize(2, 3) << QSize(281, 98);
-    QTest::newRow("whole tiles get no narrow one") << 25.4 << 12.7 << 512 << QSize(5120, 2560) << QSize(10, 5) << QSize(512, 512);
+    QTest::newRow("whole tiles get no narrow one")
+        << 25.4 << 12.7 << 512 << QSize(5120, 2560) << QSize(10, 5) << QSize(512, 512);
     QTest::newRow("no resolution, no image") << 21.0 << 29.7 << 0 << QSize() << QSize() << QSize();
     QTest::newRow("a negative one neither") << 21.0 << 29.7 << -300 << QSize() << QSize() << QSize();
   }
@@ -233,7 +234,9 @@ private slots:
       Difference const found = difference(whole, drawnInTiles(renderer, size, side));
       QVERIFY2(found.levels <= 2 && found.pixels < 1e-4 * size.width() * size.height(),
                qPrintable(QStringLiteral("tiles of %1: %2 pixels differ by up to %3 levels")
-                              .arg(side).arg(found.pixels).arg(found.levels)));
+                              .arg(side)
+                              .arg(found.pixels)
+                              .arg(found.levels)));
     }
   }
 

@@ -25,7 +25,8 @@ Dataset open(QString const& path) {
 QRgb pixel(GDALDataset& dataset, int x, int y) {
   uchar rgb[3] = {};
   for (int band = 1; band <= 3; ++band)
-    if (dataset.GetRasterBand(band)->RasterIO(GF_Read, x, y, 1, 1, rgb + band - 1, 1, 1, GDT_Byte, 0, 0, nullptr)) return 0;
+    if (dataset.GetRasterBand(band)->RasterIO(GF_Read, x, y, 1, 1, rgb + band - 1, 1, 1, GDT_Byte, 0, 0, nullptr))
+      return 0;
   return qRgb(rgb[0], rgb[1], rgb[2]);
 }
 
@@ -51,15 +52,24 @@ private slots:
   void theSuffixNamesTheFormat_data() {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("driver");
-    QTest::newRow("jpg") << "map.jpg" << "JPEG";
-    QTest::newRow("JPG in capitals") << "map.JPG" << "JPEG";
-    QTest::newRow("jpeg is a TIFF") << "map.jpeg" << "GTiff";
-    QTest::newRow("png") << "map.png" << "PNG";
-    QTest::newRow("bmp") << "map.bmp" << "BMP";
-    QTest::newRow("tif") << "map.tif" << "GTiff";
-    QTest::newRow("TIFF in capitals") << "map.TIFF" << "GTiff";
-    QTest::newRow("no suffix") << "map" << "GTiff";
-    QTest::newRow("the last suffix counts, and letters beyond Latin stay") << QString::fromUtf8("Überblick 地図.v2.png") << "PNG";
+    QTest::newRow("jpg") << "map.jpg"
+                         << "JPEG";
+    QTest::newRow("JPG in capitals") << "map.JPG"
+                                     << "JPEG";
+    QTest::newRow("jpeg is a TIFF") << "map.jpeg"
+                                    << "GTiff";
+    QTest::newRow("png") << "map.png"
+                         << "PNG";
+    QTest::newRow("bmp") << "map.bmp"
+                         << "BMP";
+    QTest::newRow("tif") << "map.tif"
+                         << "GTiff";
+    QTest::newRow("TIFF in capitals") << "map.TIFF"
+                                      << "GTiff";
+    QTest::newRow("no suffix") << "map"
+                               << "GTiff";
+    QTest::newRow("the last suffix counts, and letters beyond Latin stay")
+        << QString::fromUtf8("Überblick 地図.v2.png") << "PNG";
   }
 
   // Two tiles of unequal width; the first column of the second must be its own colour, and not the first tile's.

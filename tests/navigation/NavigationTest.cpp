@@ -40,12 +40,12 @@ private slots:
     QTest::addColumn<QPoint>("press");
     QTest::addColumn<QPoint>("release");
     QTest::addColumn<QRectF>("shown");  // as x, y of the lower left corner, width, height
-    QTest::newRow("a click centres on the point") << QPoint(250, 250) << QPoint(250, 250)
-        << QRectF(5 - 9, 10 - 6.75, 18, 13.5);
+    QTest::newRow("a click centres on the point")
+        << QPoint(250, 250) << QPoint(250, 250) << QRectF(5 - 9, 10 - 6.75, 18, 13.5);
     QTest::newRow("a drag shows the rectangle") << QPoint(500, 375) << QPoint(900, 675) << QRectF(10, 1.5, 8, 6);
     QTest::newRow("from the other corner as well") << QPoint(900, 675) << QPoint(500, 375) << QRectF(10, 1.5, 8, 6);
-    QTest::newRow("a flat drag takes the view's aspect") << QPoint(500, 375) << QPoint(900, 375)
-        << QRectF(10, 7.5 - 3, 8, 6);
+    QTest::newRow("a flat drag takes the view's aspect")
+        << QPoint(500, 375) << QPoint(900, 375) << QRectF(10, 7.5 - 3, 8, 6);
   }
 
   void zoomingIn() {
@@ -60,18 +60,17 @@ private slots:
     QTest::addColumn<QPoint>("press");
     QTest::addColumn<QPoint>("release");
     QTest::addColumn<QRectF>("shown");
-    QTest::newRow("a click centres on the press") << QPoint(250, 250) << QPoint(250, 250)
-        << QRectF(5 - 11, 10 - 8.25, 22, 16.5);
-    QTest::newRow("flat in one direction is a click") << QPoint(250, 250) << QPoint(350, 250)
-        << QRectF(5 - 11, 10 - 8.25, 22, 16.5);
-    QTest::newRow("a quarter of the extent folds to 1") << QPoint(0, 750) << QPoint(250, 750 - 188)
-        << QRectF();  // a ratio just under 4 folds to just under 2
-    QTest::newRow("half of it doubles") << QPoint(0, 750) << QPoint(500, 375)
-        << QRectF(5 - 20, 3.75 - 15, 40, 30);
-    QTest::newRow("two fifths fold 2.5 to 1.5") << QPoint(0, 750) << QPoint(400, 450)
-        << QRectF(4 - 15, 3 - 11.25, 30, 22.5);
-    QTest::newRow("the smaller ratio counts") << QPoint(0, 750) << QPoint(800, 700)
-        << QRectF(8 - 12.5, 0.5 - 9.375, 25, 18.75);
+    QTest::newRow("a click centres on the press")
+        << QPoint(250, 250) << QPoint(250, 250) << QRectF(5 - 11, 10 - 8.25, 22, 16.5);
+    QTest::newRow("flat in one direction is a click")
+        << QPoint(250, 250) << QPoint(350, 250) << QRectF(5 - 11, 10 - 8.25, 22, 16.5);
+    QTest::newRow("a quarter of the extent folds to 1")
+        << QPoint(0, 750) << QPoint(250, 750 - 188) << QRectF();  // a ratio just under 4 folds to just under 2
+    QTest::newRow("half of it doubles") << QPoint(0, 750) << QPoint(500, 375) << QRectF(5 - 20, 3.75 - 15, 40, 30);
+    QTest::newRow("two fifths fold 2.5 to 1.5")
+        << QPoint(0, 750) << QPoint(400, 450) << QRectF(4 - 15, 3 - 11.25, 30, 22.5);
+    QTest::newRow("the smaller ratio counts")
+        << QPoint(0, 750) << QPoint(800, 700) << QRectF(8 - 12.5, 0.5 - 9.375, 25, 18.75);
   }
 
   void zoomingOut() {
@@ -125,7 +124,8 @@ private slots:
     origin->OnCreate(hook_->pointer());
     whole->OnClick();
     auto const extent = hook_->layout->GetExtent();
-    QVERIFY(extent->GetXMin() <= 0.0 && extent->GetXMax() >= 20.0 && extent->GetYMin() <= 0.0 && extent->GetYMax() >= 28.0);
+    QVERIFY(extent->GetXMin() <= 0.0 && extent->GetXMax() >= 20.0 && extent->GetYMin() <= 0.0 &&
+            extent->GetYMax() >= 28.0);
     origin->OnClick();
     QVERIFY(near(hook_->layout->GetDisplayTransformation()->GetPageScale(), 1.0));
     QVERIFY(near(hook_->layout->GetExtent()->GetWidth(), 1000 * 2.54 / 96));
@@ -133,12 +133,10 @@ private slots:
 
   void withAMapShownAllAreDisabled() {
     hook_->view = make<Map>();
-    for (_ptr_t<SysFramework::BaseCommand> const& command :
-         QList<_ptr_t<SysFramework::BaseCommand>>{make<Plugin::PageZoomInTool>(), make<Plugin::PageZoomOutTool>(),
-                                                  make<Plugin::PagePanTool>(), make<Plugin::PageFullExtent>(),
-                                                  make<Plugin::PageZoomToOrigin>(),
-                                                  make<Plugin::ZoomToPreviousExtentCommand>(),
-                                                  make<Plugin::ZoomToNextExtentCommand>()}) {
+    for (_ptr_t<SysFramework::BaseCommand> const& command : QList<_ptr_t<SysFramework::BaseCommand>>{
+             make<Plugin::PageZoomInTool>(), make<Plugin::PageZoomOutTool>(), make<Plugin::PagePanTool>(),
+             make<Plugin::PageFullExtent>(), make<Plugin::PageZoomToOrigin>(),
+             make<Plugin::ZoomToPreviousExtentCommand>(), make<Plugin::ZoomToNextExtentCommand>()}) {
       command->OnCreate(hook_->pointer());
       QVERIFY(!command->IsEnable());
     }
@@ -165,8 +163,11 @@ private:
     auto const shown = hook_->layout->GetExtent();
     QVERIFY2(near(shown->GetXMin(), expected.x()) && near(shown->GetYMin(), expected.y()) &&
                  near(shown->GetWidth(), expected.width()) && near(shown->GetHeight(), expected.height()),
-             qPrintable(QStringLiteral("shows %1, %2, %3 wide and %4 high").arg(shown->GetXMin()).arg(shown->GetYMin())
-                            .arg(shown->GetWidth()).arg(shown->GetHeight())));
+             qPrintable(QStringLiteral("shows %1, %2, %3 wide and %4 high")
+                            .arg(shown->GetXMin())
+                            .arg(shown->GetYMin())
+                            .arg(shown->GetWidth())
+                            .arg(shown->GetHeight())));
   }
 
   _ptr_t<LayoutHook> hook_;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace SysCarto {
 
@@ -213,7 +214,10 @@ bool LabelPlacer::placeBesidePoint(int feature, LabelText& text, QPointF const& 
   measure(text);
   if (text.bounds.isEmpty()) return false;
   Box best;
-  int fewest = mostMarksCounted + 1;
+  // Labels come in the order of importance, so the first one around names the most important place there: it is shown
+  // whatever marks it covers.
+  bool const isFirstAround = index_.isFree(LabelShape::upright(mark.grown(text.bounds.height())));
+  int fewest = isFirstAround ? std::numeric_limits<int>::max() : mostMarksCounted + 1;
   for (Direction const& direction : directions) {
     Box const box = boxBeside(mark, direction, text.bounds.width(), text.bounds.height());
     if (!frame_.contains(box) || !index_.isFree(LabelShape::upright(box.grown(settings_.gapPt)))) continue;

@@ -26,7 +26,8 @@ public:
 
   virtual void Move(double dx, double dy) = 0;
 
-  /// Scales about `origin`. A marker has no extent to scale and only moves; a text scales its font by sx and ignores sy.
+  /// Scales about `origin`. A marker has no extent to scale and only moves; a text scales its font by sx and ignores
+  /// sy.
   virtual void Scale(SysUtility::_ptr_t<SysGeometry::Point> const& origin, double sx, double sy) = 0;
 
   /// The container's number for the element; 0 before it is added. A clone carries its original's.

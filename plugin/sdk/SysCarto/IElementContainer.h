@@ -6,9 +6,9 @@
 
 /// The elements of a view and which of them are selected. Owned by its view; a pointer to it is borrowed for one call.
 ///
-/// Every operation finds its element by handle, so that a list read before a replacement still names the right elements;
-/// an element that the container does not hold is ignored. Changes made while an editor operation is open are undone as
-/// one step; changes outside one are not recorded. Nothing is redrawn by itself.
+/// Every operation finds its element by handle, so that a list read before a replacement still names the right
+/// elements; an element that the container does not hold is ignored. Changes made while an editor operation is open are
+/// undone as one step; changes outside one are not recorded. Nothing is redrawn by itself.
 class SYSCARTO_EXPORT IElementContainer {
 public:
   using ElementPtr = SysUtility::_ptr_t<SysCarto::Element>;

@@ -17,8 +17,8 @@ class SYSCARTO_EXPORT MapSurround : public SysUtility::CRef {
 public:
   ~MapSurround() override;
 
-  /// Plain graphic elements in page centimetres that draw the surround as it is now, laid out in its frame: new objects,
-  /// the caller's. An unbound surround answers none.
+  /// Plain graphic elements in page centimetres that draw the surround as it is now, laid out in its frame: new
+  /// objects, the caller's. An unbound surround answers none.
   virtual QList<SysUtility::_ptr_t<Element>> GetElements() = 0;
 
   /// Ties the surround to a map; an empty pointer unties it.
