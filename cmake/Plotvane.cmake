@@ -1,6 +1,6 @@
 # plotvane_host_library(SysName [files…] LINKS [libraries…])
 # A shared library of the host. It sees the host interface and the libraries that it links, and nothing else. Another
-# plug-in that links it installed needs Qt, but not GDAL, PROJ or Boost.
+# plug-in that links it installed needs Qt Widgets, but not what else the host is built on.
 function(plotvane_host_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
   string(TOUPPER ${name} upper)
@@ -9,7 +9,7 @@ function(plotvane_host_library name)
   target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
   target_link_libraries(${name} PUBLIC plotvane_sdk)
   foreach(link ${arg_LINKS})
-    if(link MATCHES "^(Sys|Qt5::)")
+    if(link MATCHES "^(Sys|Qt5::(Core|Gui|Widgets)$)")
       target_link_libraries(${name} PUBLIC ${link})
     else()
       target_link_libraries(${name} PUBLIC $<BUILD_INTERFACE:${link}>)

@@ -61,17 +61,13 @@ void PageZoomTool::OnMouseDown(QMouseEvent* event) {
   end_ = start_;
 }
 
-void PageZoomTool::OnMouseMove(QMouseEvent* event) {
-  auto const view = hook()->GetActiveView();
-  end_ = view->GetDisplayTransformation()->ToMapPoint(event->pos());
-  view->BeginTrackerDraw();
-  drawRubberBand(*view);
-  view->EndTrackerDraw();
+void PageZoomTool::moveTo(SysCarto::ActiveView const& view, QMouseEvent const& event) {
+  end_ = view.GetDisplayTransformation()->ToMapPoint(event.pos());
 }
 
 void PageZoomTool::OnMouseUp(QMouseEvent* event) {
   auto const view = hook()->GetActiveView();
-  end_ = view->GetDisplayTransformation()->ToMapPoint(event->pos());
+  moveTo(*view, *event);
   auto const extent = view->GetExtent();
   auto const* const layout = dynamic_cast<SysCarto::PageLayout*>(view.get());
   if (!layout || !isAtLimit(layout->GetDisplayTransformation()->GetPageScale())) view->SetExtent(zoomed(extent));
@@ -80,7 +76,10 @@ void PageZoomTool::OnMouseUp(QMouseEvent* event) {
 
 PageZoomInTool::PageZoomInTool() : PageZoomTool(QStringLiteral(":/res/ZoomIn.cur")) {}
 
-void PageZoomInTool::drawRubberBand(SysCarto::ActiveView& view) {
+void PageZoomInTool::OnMouseMove(QMouseEvent* event) {
+  auto const view = hook()->GetActiveView();
+  view->BeginTrackerDraw();
+  moveTo(*view, *event);
   auto const outline = make<Polyline>();
   outline->AddPoint(start_->GetX(), start_->GetY());
   outline->AddPoint(end_->GetX(), start_->GetY());
@@ -89,7 +88,8 @@ void PageZoomInTool::drawRubberBand(SysCarto::ActiveView& view) {
   outline->AddPoint(start_->GetX(), start_->GetY());
   _ptr_t<SysDisplay::Symbol> symbol = rubberBandLine();
   _ptr_t<Geometry> geometry = outline;
-  view.DrawTrackerShape(symbol, geometry);
+  view->DrawTrackerShape(symbol, geometry);
+  view->EndTrackerDraw();
 }
 
 bool PageZoomInTool::isAtLimit(double pageScale) const { return pageScale > largestPageScale; }
@@ -121,11 +121,15 @@ PageZoomOutTool::PageZoomOutTool()
   rubberBandSymbol_->SetOutlineSymbol(rubberBandLine());
 }
 
-void PageZoomOutTool::drawRubberBand(SysCarto::ActiveView& view) {
+void PageZoomOutTool::OnMouseMove(QMouseEvent* event) {
+  auto const view = hook()->GetActiveView();
+  moveTo(*view, *event);
   rubberBand_->PutCoords(start_->GetX(), start_->GetY(), end_->GetX(), end_->GetY());
   _ptr_t<SysDisplay::Symbol> symbol = rubberBandSymbol_;
   _ptr_t<Geometry> geometry = rubberBand_;
-  view.DrawTrackerShape(symbol, geometry);
+  view->BeginTrackerDraw();
+  view->DrawTrackerShape(symbol, geometry);
+  view->EndTrackerDraw();
 }
 
 bool PageZoomOutTool::isAtLimit(double pageScale) const { return pageScale < smallestPageScale; }

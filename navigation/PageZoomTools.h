@@ -13,15 +13,14 @@ class PageZoomTool : public SysFramework::BaseTool {
 public:
   bool IsEnable() override;
   void OnMouseDown(QMouseEvent* event) override;
-  void OnMouseMove(QMouseEvent* event) override;
   void OnMouseUp(QMouseEvent* event) override;
   void OnEnterEvent(QEvent* event) override;
 
 protected:
   explicit PageZoomTool(QString const& cursorPath);
 
-  /// Draws the rubber band inside an overlay pass.
-  virtual void drawRubberBand(SysCarto::ActiveView& view) = 0;
+  /// Takes the event's position as the end of the drag.
+  void moveTo(SysCarto::ActiveView const& view, QMouseEvent const& event);
 
   /// Whether the layout is shown so large, or so small, that the tool does nothing more.
   virtual bool isAtLimit(double pageScale) const = 0;
@@ -42,9 +41,9 @@ private:
 class PageZoomInTool final : public PageZoomTool {
 public:
   PageZoomInTool();
+  void OnMouseMove(QMouseEvent* event) override;
 
 protected:
-  void drawRubberBand(SysCarto::ActiveView& view) override;
   bool isAtLimit(double pageScale) const override;
   SysUtility::_ptr_t<SysGeometry::Envelope> zoomed(
       SysUtility::_ptr_t<SysGeometry::Envelope> const& extent) const override;
@@ -55,9 +54,9 @@ protected:
 class PageZoomOutTool final : public PageZoomTool {
 public:
   PageZoomOutTool();
+  void OnMouseMove(QMouseEvent* event) override;
 
 protected:
-  void drawRubberBand(SysCarto::ActiveView& view) override;
   bool isAtLimit(double pageScale) const override;
   SysUtility::_ptr_t<SysGeometry::Envelope> zoomed(
       SysUtility::_ptr_t<SysGeometry::Envelope> const& extent) const override;

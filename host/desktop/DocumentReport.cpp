@@ -178,8 +178,8 @@ QJsonObject documentJson(SysCarto::MapDocument const& document) {
       {QStringLiteral("page"), layout ? pageJson(layout->GetPage()) : QJsonValue(QJsonValue::Null)},
       {QStringLiteral("elements"), elementsJson(layout ? layout->GetGraphicsContainer() : nullptr)},
       {QStringLiteral("maps"), mapList},
-      {QStringLiteral("view"), QJsonObject{{QStringLiteral("extent"),
-                                            layout ? rectangle(layout->GetExtent()) : QJsonValue(QJsonValue::Null)}}},
+      {QStringLiteral("view"),
+       QJsonObject{{QStringLiteral("extent"), layout ? rectangle(layout->GetExtent()) : QJsonValue(QJsonValue::Null)}}},
   };
 }
 

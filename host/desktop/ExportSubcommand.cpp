@@ -73,8 +73,8 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
   if (auto const settled = parseArguments(self, parser, arguments)) return settled;
 
   bool isNumber = false;
-  request = {parser.positionalArguments().at(0), parser.positionalArguments().at(1),
-             parser.value(dpi).toInt(&isNumber), parser.isSet(quiet), parser.isSet(missing)};
+  request = {parser.positionalArguments().at(0), parser.positionalArguments().at(1), parser.value(dpi).toInt(&isNumber),
+             parser.isSet(quiet), parser.isSet(missing)};
   if (isNumber && request.dpi >= 1 && request.dpi <= mostDpi) return std::nullopt;
   Console::complain(
       tr("export: --dpi takes a whole number from 1 to %1, not \"%2\".").arg(mostDpi).arg(parser.value(dpi)));

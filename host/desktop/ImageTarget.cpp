@@ -92,8 +92,7 @@ ImageTarget::~ImageTarget() = default;
 QString ImageTarget::checkPlace(QString const& document) const {
   QFileInfo const target(path_);
   QFileInfo const folder(target.absolutePath());
-  if (!folder.isDir())
-    return tr("%1: the folder %2 does not exist; make it first.").arg(name_, folder.filePath());
+  if (!folder.isDir()) return tr("%1: the folder %2 does not exist; make it first.").arg(name_, folder.filePath());
   if (access(QFile::encodeName(folder.filePath()).constData(), W_OK | X_OK) != 0)
     return tr("%1: the folder %2 can't be written (%3); choose another.")
         .arg(name_, folder.filePath(), systemReason(errno));
@@ -178,8 +177,8 @@ QString ImageTarget::checkResult(QSize const& size) const {
 
 QString ImageTarget::commit() {
   int error = syncToDisk(workingPath());
-  if (error == 0 && std::rename(QFile::encodeName(workingPath()).constData(),
-                                QFile::encodeName(path_).constData()) != 0)
+  if (error == 0 &&
+      std::rename(QFile::encodeName(workingPath()).constData(), QFile::encodeName(path_).constData()) != 0)
     error = errno;
   return error == 0 ? QString() : tr("%1 was not written: %2.").arg(name_, systemReason(error));
 }

@@ -8,9 +8,7 @@ using SysCarto::IKdxContents;
 using SysUtility::_ptr_t;
 
 OffscreenDesktop::OffscreenDesktop(SysCarto::MapDocument& document)
-    : document_(document),
-      ownContents_(SysUtility::make<OffscreenContents>(document)),
-      contents_(ownContents_.get()) {}
+    : document_(document), ownContents_(SysUtility::make<OffscreenContents>(document)), contents_(ownContents_.get()) {}
 
 OffscreenDesktop::~OffscreenDesktop() = default;
 

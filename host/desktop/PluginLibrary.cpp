@@ -18,8 +18,9 @@ QStringList candidates() {
   if (!chosen.isEmpty()) return {QFileInfo(chosen).absoluteFilePath()};
   QStringList paths;
   for (char const* folder : {"../lib", PLOTVANE_INSTALLED_PLUGIN_DIR})
-    paths.append(QDir::cleanPath(QStringLiteral("%1/%2/%3").arg(QCoreApplication::applicationDirPath(),
-                                                                QLatin1String(folder), QLatin1String(fileName))));
+    paths.append(QDir::cleanPath(
+        QStringLiteral("%1/%2/%3")
+            .arg(QCoreApplication::applicationDirPath(), QLatin1String(folder), QLatin1String(fileName))));
   return paths;
 }
 

@@ -22,8 +22,9 @@ void printHelp() {
   QString text = say(QT_TRANSLATE_NOOP("Subcommand", "Usage: plotvane SUBCOMMAND [options]")) + QStringLiteral("\n\n");
   for (Subcommand const& subcommand : subcommands)
     text += QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -9).arg(say(subcommand.help));
-  text += say(QT_TRANSLATE_NOOP("Subcommand", "\nplotvane SUBCOMMAND --help tells about one of them; plotvane "
-                                              "--version tells the version."));
+  text += say(QT_TRANSLATE_NOOP("Subcommand",
+                                "\nplotvane SUBCOMMAND --help tells about one of them; plotvane "
+                                "--version tells the version."));
   Console::print(text);
 }
 
@@ -49,8 +50,9 @@ ExitStatus runWithoutSubcommand(QStringList const& arguments) {
   } else if (QFileInfo::exists(first)) {
     Console::complain(withoutWindow(first));
   } else {
-    Console::complain(say(QT_TRANSLATE_NOOP("Subcommand", "\"%1\" is neither a subcommand nor a document; plotvane "
-                                                          "--help lists the subcommands."))
+    Console::complain(say(QT_TRANSLATE_NOOP("Subcommand",
+                                            "\"%1\" is neither a subcommand nor a document; plotvane "
+                                            "--help lists the subcommands."))
                           .arg(first));
   }
   return WrongArguments;
@@ -101,7 +103,8 @@ std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLinePar
     problem = say(QT_TRANSLATE_NOOP("Subcommand", "\"%1\" is one argument too many."))
                   .arg(parser.positionalArguments().at(operands.size()));
   if (problem.isEmpty()) return std::nullopt;
-  Console::complain(QStringLiteral("%1: %2 ").arg(QLatin1String(self.name), problem) +
-                    say(QT_TRANSLATE_NOOP("Subcommand", "plotvane %1 --help tells how.")).arg(QLatin1String(self.name)));
+  Console::complain(
+      QStringLiteral("%1: %2 ").arg(QLatin1String(self.name), problem) +
+      say(QT_TRANSLATE_NOOP("Subcommand", "plotvane %1 --help tells how.")).arg(QLatin1String(self.name)));
   return WrongArguments;
 }

@@ -19,8 +19,7 @@ constexpr int height = 708;
 Outcome exportWithFileLimit(QString const& folder, QString const& image, qint64 bytes) {
   QProcess process;
   prepare(process, {}, folder);
-  QString const script =
-      QStringLiteral("trap '' XFSZ; ulimit -f %1; exec \"$0\" export \"$@\"").arg(bytes / 512);
+  QString const script = QStringLiteral("trap '' XFSZ; ulimit -f %1; exec \"$0\" export \"$@\"").arg(bytes / 512);
   process.setArguments({"-c", script, process.program(), "page.kdx", image});
   process.setProgram("/bin/sh");
   process.start();
@@ -74,12 +73,18 @@ void ExportSubcommandTest::writesTheFormatOfTheSuffix_data() {
   QTest::addColumn<QString>("name");
   QTest::addColumn<QString>("driver");
   QTest::addColumn<bool>("noted");
-  QTest::newRow("png") << "a.png" << "PNG" << false;
-  QTest::newRow("jpg in capitals") << "a.JPG" << "JPEG" << false;
-  QTest::newRow("bmp") << "a.bmp" << "BMP" << false;
-  QTest::newRow("tif") << "a.tif" << "GTiff" << false;
-  QTest::newRow("a jpeg is a TIFF, and the user hears of it") << "a.jpeg" << "GTiff" << true;
-  QTest::newRow("no suffix is a TIFF, and the user hears of it") << "a" << "GTiff" << true;
+  QTest::newRow("png") << "a.png"
+                       << "PNG" << false;
+  QTest::newRow("jpg in capitals") << "a.JPG"
+                                   << "JPEG" << false;
+  QTest::newRow("bmp") << "a.bmp"
+                       << "BMP" << false;
+  QTest::newRow("tif") << "a.tif"
+                       << "GTiff" << false;
+  QTest::newRow("a jpeg is a TIFF, and the user hears of it") << "a.jpeg"
+                                                              << "GTiff" << true;
+  QTest::newRow("no suffix is a TIFF, and the user hears of it") << "a"
+                                                                 << "GTiff" << true;
 }
 
 void ExportSubcommandTest::writesTheFormatOfTheSuffix() {
@@ -179,7 +184,8 @@ void ExportSubcommandTest::aFailureLeavesTheFolderAsItWas() {
 
 void ExportSubcommandTest::aFullDiskLeavesTheOldImage_data() {
   QTest::addColumn<QString>("name");
-  for (QString const& suffix : {"png", "jpg", "bmp", "tif"}) QTest::addRow("a %s", qPrintable(suffix)) << "old." + suffix;
+  for (QString const suffix : {"png", "jpg", "bmp", "tif"})
+    QTest::addRow("a %s", qPrintable(suffix)) << "old." + suffix;
 }
 
 // The disk has room for the temporary file and for half of the image, so that nothing fails before its last bytes.
@@ -193,7 +199,7 @@ void ExportSubcommandTest::aFullDiskLeavesTheOldImage() {
   QCOMPARE(run(arguments, folder_.path()).status, 0);
   qint64 const imageBytes = QFileInfo(folder_.path(name)).size();
   QVERIFY(QFile::remove(folder_.path(name)));
-  QVERIFY(imageBytes > 4 * headerBytes);
+  QVERIFY(imageBytes > 2 * headerBytes);
 
   SmallDisk const disk(temporaryBytes + headerBytes + imageBytes / 2);
   if (!disk.mounted()) QSKIP("no small disk can be mounted here");
@@ -206,7 +212,7 @@ void ExportSubcommandTest::aFullDiskLeavesTheOldImage() {
 
 void ExportSubcommandTest::aFileLimitLeavesTheOldImage_data() {
   QTest::addColumn<QString>("name");
-  for (QString const& suffix : {"png", "jpg", "bmp", "tif"})
+  for (QString const suffix : {"png", "jpg", "bmp", "tif"})
     QTest::addRow("a %s", qPrintable(suffix)) << "limited." + suffix;
 }
 
