@@ -11,8 +11,8 @@ namespace SysCarto {
 
 /// What the parts of a document need to know of the whole while they are read or written.
 struct DocumentContext {
-  QString folder;             ///< absolute; data sources are relative to it
-  bool relativePaths = true;  ///< when writing
+  QString folder;                       ///< absolute; data sources are relative to it
+  bool relativePaths = true;            ///< when writing
   QList<SysUtility::_ptr_t<Map>> maps;  ///< elements refer to them by their place in this list
   QSet<ElementHandle> handles;          ///< read so far: a handle is used once
   QSet<Map const*> framedMaps;          ///< of the data frames so far: no two show the same map

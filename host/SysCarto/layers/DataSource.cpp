@@ -86,7 +86,8 @@ std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const&
   GDALDataset* const dataset = openDataset(file.absoluteFilePath());
   if (!dataset) {
     QString const known = translated("it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file");
-    error = cannotOpen(path, errors.hasFailure() ? known + QLatin1String(" (") + errors.reason() + QLatin1Char(')') : known);
+    error = cannotOpen(path,
+                       errors.hasFailure() ? known + QLatin1String(" (") + errors.reason() + QLatin1Char(')') : known);
     return nullptr;
   }
   OGRLayer* const layer =

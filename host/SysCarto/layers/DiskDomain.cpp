@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace SysCarto {
 
@@ -11,6 +12,10 @@ constexpr double degree = M_PI / 180;
 constexpr double longEdge = 1;   // degrees; edges are divided before they are followed around the border
 constexpr double arcStep = 0.5;  // degrees of direction between vertices on the border
 constexpr double nearly = 1e-7;
+
+// Edges along a pole are followed around it, just before it; so the pole itself lies beyond them.
+constexpr double mostLatitude = 90 - 1e-7;
+constexpr double antipodeLatitude = 90 - 1e-9;
 
 // A direction from the centre, from north over east, and a distance; degrees.
 struct Polar {
@@ -33,6 +38,11 @@ bool ringContains(Run const& ring, double x, double y) {
   return inside;
 }
 
+Run beforePoles(Run run) {
+  for (Vertex& v : run) v.y = std::clamp(v.y, -mostLatitude, mostLatitude);
+  return run;
+}
+
 // Divides long edges, so that what lies between their ends is followed, too.
 Run divided(Run const& run, bool closed) {
   Run result;
@@ -51,11 +61,12 @@ Run divided(Run const& run, bool closed) {
 class DiskDomain final : public ProjectionDomain {
 public:
   DiskDomain(double centreLatitude, std::vector<double> limits)
-      : sine_(std::sin(centreLatitude * degree)), cosine_(std::cos(centreLatitude * degree)), limits_(std::move(limits)) {
+      : sine_(std::sin(centreLatitude * degree)),
+        cosine_(std::abs(centreLatitude) < 90 ? std::cos(centreLatitude * degree) : 0),
+        limits_(std::move(limits)) {
     // At a pole every longitude will do; a round one would lie on the borders of data.
-    double const farthest = 90 - nearly;
-    antipode_ = {180 - nearly, std::clamp(-centreLatitude, -farthest, farthest)};
-    if (std::abs(antipode_.y) == farthest) antipode_.x = 17.3;
+    antipode_ = {180 - nearly, std::clamp(-centreLatitude, -antipodeLatitude, antipodeLatitude)};
+    if (std::abs(antipode_.y) == antipodeLatitude) antipode_.x = 17.3;
   }
 
   void clipPolygon(std::vector<Run> const& rings, std::vector<std::vector<Run>>& polygons) const override;
@@ -85,7 +96,8 @@ Polar DiskDomain::polar(Vertex const& v) const {
   double const sine = std::sin(v.y * degree), cosine = std::cos(v.y * degree);
   double const east = cosine * std::sin(v.x * degree), along = cosine * std::cos(v.x * degree);
   double const north = cosine_ * sine - sine_ * along;
-  return {std::atan2(east, north) / degree, std::atan2(std::hypot(east, north), sine_ * sine + cosine_ * along) / degree};
+  return {std::atan2(east, north) / degree,
+          std::atan2(std::hypot(east, north), sine_ * sine + cosine_ * along) / degree};
 }
 
 Vertex DiskDomain::place(Polar const& p) const {
@@ -182,8 +194,9 @@ bool DiskDomain::containsAntipode(std::vector<Run> const& rings) const {
 
 // Seen from the centre, an area that holds the antipode lies outside of its rings; the border as one more ring turns
 // this over.
-void DiskDomain::clipPolygon(std::vector<Run> const& rings, std::vector<std::vector<Run>>& polygons) const {
-  std::vector<Run> polygon;
+void DiskDomain::clipPolygon(std::vector<Run> const& given, std::vector<std::vector<Run>>& polygons) const {
+  std::vector<Run> rings, polygon;
+  std::transform(given.begin(), given.end(), std::back_inserter(rings), beforePoles);
   for (Run const& ring : rings) {
     Run clipped = clipRing(ring);
     if (clipped.size() > 2) polygon.push_back(std::move(clipped));

@@ -75,8 +75,8 @@ private:
   std::unique_ptr<OGRFeatureQuery> query_;
 };
 
-std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings const& source, QString const& mapSystem,
-                                                 ReadFeatures& result) {
+std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings const& source,
+                                                 QString const& mapSystem, ReadFeatures& result) {
   auto const target = makeCoordinateSystem(mapSystem);
   auto const given = makeCoordinateSystem(source.coordinateSystem);
   if (!source.coordinateSystem.isEmpty() && !given) {
@@ -86,8 +86,9 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
   }
   OGRSpatialReference const* const own = given ? given.get() : layer.GetSpatialRef();
   if (!own && target)
-    result.warnings << translated("No coordinate system is known for %1; its coordinates are taken as those of the map. "
-                                  "Give one in the source's field “coordinateSystem”.")
+    result.warnings << translated(
+                           "No coordinate system is known for %1; its coordinates are taken as those of the map. "
+                           "Give one in the source's field “coordinateSystem”.")
                            .arg(describeSource(source));
   QString reason;
   auto projector = GeometryProjector::create(own, target.get(), reason);
@@ -111,7 +112,8 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     store.beginFeature();
     projector.add(*geometry, store);
     double const priority = priorityField.number(*feature);
-    store.endFeature(renderer.classOf(classField.text(*feature), classField.number(*feature)), labelField.text(*feature),
+    store.endFeature(renderer.classOf(classField.text(*feature), classField.number(*feature)),
+                     labelField.text(*feature),
                      std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority);
   }
   store.finish();
@@ -130,8 +132,8 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
   Condition condition;
   QString reason;
   if (!condition.compile(data->layer(), source.filter, reason)) {
-    result.error = translated("The filter “%1” of %2 is not understood: %3.")
-                       .arg(source.filter, describeSource(source), reason);
+    result.error =
+        translated("The filter “%1” of %2 is not understood: %3.").arg(source.filter, describeSource(source), reason);
     return result;
   }
   GdalErrors const errors;

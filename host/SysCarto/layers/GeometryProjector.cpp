@@ -18,10 +18,12 @@ constexpr double toleranceDegrees = 1e-4;
 constexpr double longestDegrees = 5;      // longer edges are divided, whatever a look at their middle says
 constexpr double shortestDegrees = 0.02;  // a curve this short is straight within the tolerance
 constexpr double longestSourceM = 200000;
-constexpr double seamDegrees = 1e-4;  // how near to the antimeridian data are cut
-constexpr double poleDegrees = 0.01;  // and how near to a pole their lower edge may end
-constexpr double inwards = 1e-9;      // at ±180 itself a projection may take either side
-constexpr double farthestRadii = 6;   // what is projected beyond this is as good as infinite
+constexpr double seamDegrees = 1e-4;      // how near to the antimeridian data are cut
+constexpr double nearAntimeridian = 150;  // where both ends of an edge that steps across it lie
+constexpr double noArea = 1e-7;           // square degrees
+constexpr double poleDegrees = 0.01;      // and how near to a pole their lower edge may end
+constexpr double inwards = 1e-9;          // at ±180 itself a projection may take either side
+constexpr double farthestRadii = 6;       // what is projected beyond this is as good as infinite
 constexpr int deepestCollection = 32;
 
 double metresPerUnit(OGRSpatialReference const& system) {
@@ -76,21 +78,43 @@ void closeOverPole(Run& ring) {
   ring.push_back({first.x, pole, seamEdge});
 }
 
-// Geographic data that was not cut at the antimeridian steps from one side of it to the other. A step of the whole
-// globe is no such step where it lies on a pole, or where nothing but such steps make the shape: then it is the edge of
-// a band around the globe, and a line along a parallel.
-bool jumpsOverAntimeridian(std::vector<double> const& lonLat, bool closed) {
-  size_t const count = lonLat.size() / 2;
-  bool jumps = false, reachesInside = false;
-  for (size_t i = 0; i < count; ++i) {
-    double const x = lonLat[2 * i], y = lonLat[2 * i + 1];
-    reachesInside |= std::abs(x) < 180 - seamDegrees;
-    size_t const n = (i + 1) % count;
-    if (n == 0 && !closed) continue;
-    bool const onPole = std::min(std::abs(y), std::abs(lonLat[2 * n + 1])) > 90 - poleDegrees;
-    jumps |= std::abs(lonLat[2 * n] - x) > 180 && !onPole;
+// Geographic data that were not cut at the antimeridian have edges that step across it. Read as straight lines these
+// would run around the whole map.
+bool stepsAcross(Vertex const& a, Vertex const& b, double centralLongitude) {
+  double const ax = a.x + centralLongitude, bx = b.x + centralLongitude;
+  return std::abs(ax - bx) > 180 && ax * bx < 0 && std::min(std::abs(ax), std::abs(bx)) > nearAntimeridian;
+}
+
+// Whether an edge lies on that meridian.
+bool runsAlong(double meridian, Vertex const& a, Vertex const& b, double centralLongitude) {
+  return a.x == b.x && a.y != b.y && std::abs(a.x + centralLongitude - meridian) < seamDegrees;
+}
+
+// Steps count where they can't be meant as they are written: a box may be as wide as it likes, a band around the globe
+// has an edge on both sides of the antimeridian, or is nothing without its long edges.
+void joinRing(Run& ring, double centralLongitude) {
+  bool across = false, isBox = true, runsWest = false, runsEast = false;
+  for (size_t i = 0; i < ring.size(); ++i) {
+    Vertex const &a = ring[i], &b = ring[(i + 1) % ring.size()];
+    runsWest = runsWest || runsAlong(-180, a, b, centralLongitude);
+    runsEast = runsEast || runsAlong(180, a, b, centralLongitude);
+    across = across || stepsAcross(a, b, centralLongitude);
+    isBox = isBox && (a.x == b.x || a.y == b.y);
   }
-  return jumps && reachesInside;
+  if (!across || isBox || (runsWest && runsEast)) return;
+  Run joined = ring;
+  unwrap(joined);
+  closeOverPole(joined);
+  double twiceArea = 0;
+  for (size_t i = 0, j = joined.size() - 1; i < joined.size(); j = i++)
+    twiceArea += (joined[j].x - joined[i].x) * (joined[j].y + joined[i].y - 2 * joined[0].y);
+  if (std::abs(twiceArea) > noArea) ring = std::move(joined);
+}
+
+// A step along a parallel is meant as it is written.
+void joinLine(Run& line, double centralLongitude) {
+  for (size_t i = 1; i < line.size(); ++i)
+    if (line[i - 1].y != line[i].y && stepsAcross(line[i - 1], line[i], centralLongitude)) return unwrap(line);
 }
 
 bool anyEdge(std::vector<unsigned char> const& edges, unsigned char flag) {
@@ -197,25 +221,34 @@ void GeometryProjector::addPolygon(OGRPolygon const& polygon, FeatureStore& stor
 Run GeometryProjector::toGlobe(std::vector<double> xy, bool closed) const {
   Run run;
   run.reserve(xy.size() / 2);
-  auto const add = [&](double x, double y) { run.push_back({x - domain_.centralLongitude, std::clamp(y, -90.0, 90.0), 0}); };
+  auto const add = [&](double x, double y) {
+    run.push_back({x - domain_.centralLongitude, std::clamp(y, -90.0, 90.0), 0});
+  };
   std::vector<double> const source = toGlobe_ ? xy : std::vector<double>();
   if (toGlobe_) toGlobe_->apply(xy);
   size_t const count = xy.size() / 2;
-  bool const jumps = sourceIsGeographic_ && jumpsOverAntimeridian(xy, closed);
   if (toGlobe_ && sourceIsGeographic_)  // another datum must not move a place to the other side of the antimeridian
     for (size_t i = 0; i < count; ++i) xy[2 * i] = source[2 * i] + std::remainder(xy[2 * i] - source[2 * i], 360.0);
-  auto const project = [this](double& x, double& y) { return toGlobe_->apply(x, y); };
+  double start = 0;  // of the edge: its other places are as near to it in longitude as they can be
+  auto const project = [&](double& x, double& y) {
+    if (!toGlobe_->apply(x, y)) return false;
+    x = start + std::remainder(x - start, 360.0);
+    return true;
+  };
   CurveDivider<decltype(project)> const divider(project, toleranceDegrees, longestSource_, longestSource_ / 100);
   for (size_t i = 0; i < count; ++i) {
     if (!std::isfinite(xy[2 * i])) continue;
     add(xy[2 * i], xy[2 * i + 1]);
     size_t const n = (i + 1) % count;
     if (!toGlobe_ || sourceIsGeographic_ || (n == 0 && !closed) || !std::isfinite(xy[2 * n])) continue;
-    if (std::abs(xy[2 * n] - xy[2 * i]) > 180) continue;
-    divider.divide({source[2 * i], source[2 * i + 1], xy[2 * i], xy[2 * i + 1]},
-                   {source[2 * n], source[2 * n + 1], xy[2 * n], xy[2 * n + 1]}, add);
+    start = xy[2 * i];
+    double const end = start + std::remainder(xy[2 * n] - start, 360.0);
+    divider.divide({source[2 * i], source[2 * i + 1], start, xy[2 * i + 1]},
+                   {source[2 * n], source[2 * n + 1], end, xy[2 * n + 1]}, add);
   }
-  if (!sourceIsGeographic_ || jumps) {
+  if (sourceIsGeographic_) {
+    closed ? joinRing(run, domain_.centralLongitude) : joinLine(run, domain_.centralLongitude);
+  } else {
     unwrap(run);
     if (closed) closeOverPole(run);
   }
@@ -229,7 +262,8 @@ void GeometryProjector::markSeams(Run& ring) const {
     Vertex& a = ring[i];
     Vertex const& b = ring[(i + 1) % ring.size()];
     double const ax = a.x + domain_.centralLongitude, bx = b.x + domain_.centralLongitude;
-    bool const onCut = std::abs(std::abs(ax) - 180) < seamDegrees && std::abs(ax - bx) < 2 * seamDegrees;
+    bool const onCut =
+        std::abs(std::abs(std::remainder(ax, 360.0)) - 180) < seamDegrees && std::abs(ax - bx) < 2 * seamDegrees;
     bool const onPole = std::min(std::abs(a.y), std::abs(b.y)) > 90 - poleDegrees && a.y * b.y > 0;
     if ((sourceIsGeographic_ && onCut) || onPole) a.edge |= seamEdge;
   }

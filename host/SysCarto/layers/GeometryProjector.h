@@ -12,16 +12,16 @@ class OGRPolygon;
 
 namespace SysCarto {
 
-/// Takes geometries of a data source into a map's coordinate system: cut where the map is cut, with vertices added where
-/// a straight edge becomes a curve. Collections are flattened, curves made of segments; empty parts, and vertices that
-/// are no numbers, are left out.
+/// Takes geometries of a data source into a map's coordinate system: cut where the map is cut, with vertices added
+/// where a straight edge becomes a curve. Collections are flattened, curves made of segments; empty parts, and vertices
+/// that are no numbers, are left out.
 class GeometryProjector {
 public:
   /// Without a projection, coordinates are taken as they are.
   GeometryProjector() = default;
 
-  /// Null for a system that isn't known: coordinates are then taken as the map's. An empty pointer where there is no way
-  /// between the two; `error` then says why, as a clause.
+  /// Null for a system that isn't known: coordinates are then taken as the map's. An empty pointer where there is no
+  /// way between the two; `error` then says why, as a clause.
   static std::unique_ptr<GeometryProjector> create(OGRSpatialReference const* source, OGRSpatialReference const* target,
                                                    QString& error);
 
@@ -41,12 +41,13 @@ private:
   void storeRing(Run const& ring, FeatureStore& store) const;
   void storeLine(Run const& line, FeatureStore& store) const;
 
-  std::unique_ptr<PointTransform> toGlobe_;  // from a projected source, or another datum; null where there is nothing to do
-  std::unique_ptr<PointTransform> toMap_;    // from longitude and latitude; null without a projection
+  std::unique_ptr<PointTransform>
+      toGlobe_;  // from a projected source, or another datum; null where there is nothing to do
+  std::unique_ptr<PointTransform> toMap_;  // from longitude and latitude; null without a projection
   bool sourceIsGeographic_ = true;
   Domain domain_{0, true, nullptr};
-  double mapTolerance_ = 0;     // how far a curve may lie from its edges, in map units
-  double longestSource_ = 0;    // an edge of a projected source is divided beyond this length, in its units
+  double mapTolerance_ = 0;   // how far a curve may lie from its edges, in map units
+  double longestSource_ = 0;  // an edge of a projected source is divided beyond this length, in its units
 };
 
 }  // namespace SysCarto

@@ -69,7 +69,8 @@ LabelShape LabelShape::turned(QPointF const& centre, double width, double height
   turn.translate(centre.x(), centre.y());
   turn.rotate(degrees);
   double const w = width / 2, h = height / 2;
-  return area({{turn.map(QPointF(-w, -h)), turn.map(QPointF(w, -h)), turn.map(QPointF(w, h)), turn.map(QPointF(-w, h))}});
+  return area(
+      {{turn.map(QPointF(-w, -h)), turn.map(QPointF(w, -h)), turn.map(QPointF(w, h)), turn.map(QPointF(-w, h))}});
 }
 
 LabelShape LabelShape::area(Rings rings) {
@@ -125,7 +126,8 @@ MarkIndex::~MarkIndex() = default;
 
 int MarkIndex::count(Box const& box, int most) const {
   int count = 0;
-  for (auto it = tree_->tree.qbegin(bg::index::intersects(boostBox(box))); it != tree_->tree.qend() && count < most; ++it)
+  for (auto it = tree_->tree.qbegin(bg::index::intersects(boostBox(box))); it != tree_->tree.qend() && count < most;
+       ++it)
     ++count;
   return count;
 }

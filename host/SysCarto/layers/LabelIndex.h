@@ -12,8 +12,8 @@ namespace SysCarto {
 
 /// A place that a label takes: an upright box, or a box that is turned, or any area. In points of the page, y upwards.
 struct LabelShape {
-  Box box;                         ///< around the whole
-  QVector<QVector<QPointF>> rings; ///< empty for an upright box
+  Box box;                          ///< around the whole
+  QVector<QVector<QPointF>> rings;  ///< empty for an upright box
 
   static LabelShape upright(Box const& box) { return {box, {}}; }
 

@@ -30,8 +30,8 @@ constexpr Direction directions[] = {
 };
 // clang-format on
 
-// The box of a text beside a mark. On a slant the text stands a little above or below the mark's middle, so that eye and
-// mark meet at its height; straight above and below it keeps clear of the mark.
+// The box of a text beside a mark. On a slant the text stands a little above or below the mark's middle, so that eye
+// and mark meet at its height; straight above and below it keeps clear of the mark.
 Box boxBeside(Box const& mark, Direction const& direction, double width, double height) {
   double const x = (mark.xmin + mark.xmax) / 2, y = (mark.ymin + mark.ymax) / 2;
   double left = x - width / 2, bottom = y - height / 2;
@@ -86,8 +86,7 @@ LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& setting
     : store_(store), settings_(settings), renderer_(renderer), thinned_(store) {
   auto const bounds = transformation.GetFittedBounds();
   QTransform const toDevice = transformation.ToDevice();
-  double const unitsPerPoint =
-      transformation.PixelsPerPoint() / std::hypot(toDevice.m11(), toDevice.m12());
+  double const unitsPerPoint = transformation.PixelsPerPoint() / std::hypot(toDevice.m11(), toDevice.m12());
   if (!bounds || bounds->IsEmpty() || !(unitsPerPoint > 0) || !std::isfinite(unitsPerPoint) || !settings.symbol) return;
   unitsPerPoint_ = unitsPerPoint;
   left_ = bounds->GetXMin();
@@ -102,9 +101,9 @@ void LabelPlacer::addObstacle(SysGeometry::Polygon const& area) {
   for (QVector<QPointF>& ring : rings)
     for (QPointF& point : ring) point = toPage(point.x(), point.y());
   LabelShape shape = LabelShape::area(std::move(rings));
-  bool const isUpright = shape.rings.size() == 1 && shape.rings[0].size() == 4 &&
-                         std::abs(areaOf(shape.rings[0]) - (shape.box.xmax - shape.box.xmin) *
-                                                               (shape.box.ymax - shape.box.ymin)) < 1e-6;
+  bool const isUpright =
+      shape.rings.size() == 1 && shape.rings[0].size() == 4 &&
+      std::abs(areaOf(shape.rings[0]) - (shape.box.xmax - shape.box.xmin) * (shape.box.ymax - shape.box.ymin)) < 1e-6;
   index_.add(isUpright ? LabelShape::upright(shape.box) : std::move(shape));
 }
 
@@ -258,9 +257,10 @@ bool LabelPlacer::placeInPolygon(LabelText const& given, int feature) {
     text.text = lines;
     measure(text);
     for (Area const& area : areas)
-      for (QPointF const& centre : placesInside(area.rings, text.bounds.width() + 2 * fromBorderPt,
-                                                text.bounds.height() + 2 * fromBorderPt))
-        if (frame_.contains(shapeAt(text, centre, 0, 0).box) && index_.isFree(shapeAt(text, centre, 0, settings_.gapPt))) {
+      for (QPointF const& centre :
+           placesInside(area.rings, text.bounds.width() + 2 * fromBorderPt, text.bounds.height() + 2 * fromBorderPt))
+        if (frame_.contains(shapeAt(text, centre, 0, 0).box) &&
+            index_.isFree(shapeAt(text, centre, 0, settings_.gapPt))) {
           accept(text, centre, 0);
           return true;
         }

@@ -67,9 +67,7 @@ private:
   LabelShape shapeAt(LabelText const& text, QPointF const& centre, double angle, double gapPt) const;
   void accept(LabelText const& text, QPointF const& centre, double angle);
 
-  QPointF toPage(double x, double y) const {
-    return {(x - left_) / unitsPerPoint_, (y - bottom_) / unitsPerPoint_};
-  }
+  QPointF toPage(double x, double y) const { return {(x - left_) / unitsPerPoint_, (y - bottom_) / unitsPerPoint_}; }
 
   FeatureStore const& store_;
   LabelSettings const& settings_;

@@ -37,7 +37,8 @@ double squaredDistance(QPointF const& a, QPointF const& b, QPointF const& p) {
 // From the border, negative outside.
 double depthOf(Rings const& rings, QPointF const& point) {
   double nearest = INFINITY;
-  visitEdges(rings, [&](QPointF const& a, QPointF const& b) { nearest = std::min(nearest, squaredDistance(a, b, point)); });
+  visitEdges(rings,
+             [&](QPointF const& a, QPointF const& b) { nearest = std::min(nearest, squaredDistance(a, b, point)); });
   return contains(rings, point) ? std::sqrt(nearest) : -std::sqrt(nearest);
 }
 
@@ -80,7 +81,8 @@ Cell deepest(Rings const& rings, Box const& box) {
     cells.pop();
     if (top.most() - best.depth <= std::max(finePt, 0.02 * best.depth)) break;
     double const h = top.half / 2;
-    for (QPointF const& off : {QPointF(-h, -h), QPointF(h, -h), QPointF(-h, h), QPointF(h, h)}) add(top.centre + off, h);
+    for (QPointF const& off : {QPointF(-h, -h), QPointF(h, -h), QPointF(-h, h), QPointF(h, h)})
+      add(top.centre + off, h);
   }
   return best;
 }
@@ -109,7 +111,8 @@ std::vector<double> crossings(Rings const& rings, double y) {
 }
 
 // Places in rows across the area, each as near to `wanted` as the row allows.
-std::vector<QPointF> placesInRows(Rings const& rings, Box const& box, QPointF const& wanted, double width, double height) {
+std::vector<QPointF> placesInRows(Rings const& rings, Box const& box, QPointF const& wanted, double width,
+                                  double height) {
   std::vector<QPointF> places;
   double const room = box.ymax - box.ymin - height;
   for (int row = 0; row < rows; ++row) {
@@ -174,7 +177,8 @@ std::vector<Stretch> straightStretches(std::vector<QPointF> const& line, double 
   double const room = at.empty() ? -1 : at.back() - width;
   if (room < 0) return {};
   auto const place = [&](double along) {
-    size_t const next = std::clamp<size_t>(std::lower_bound(at.begin(), at.end(), along) - at.begin(), 1, at.size() - 1);
+    size_t const next =
+        std::clamp<size_t>(std::lower_bound(at.begin(), at.end(), along) - at.begin(), 1, at.size() - 1);
     double const length = at[next] - at[next - 1];
     double const t = length > 0 ? (along - at[next - 1]) / length : 0;
     return line[next - 1] + (line[next] - line[next - 1]) * t;
@@ -185,7 +189,8 @@ std::vector<Stretch> straightStretches(std::vector<QPointF> const& line, double 
     QPointF const a = place(from), b = place(from + width);
     if (std::hypot(b.x() - a.x(), b.y() - a.y()) < straightness * width) continue;
     double bend = 0;
-    for (size_t k = std::upper_bound(at.begin(), at.end(), from) - at.begin(); k < at.size() && at[k] < from + width; ++k)
+    for (size_t k = std::upper_bound(at.begin(), at.end(), from) - at.begin(); k < at.size() && at[k] < from + width;
+         ++k)
       bend = std::max(bend, std::sqrt(squaredDistance(a, b, line[k])));
     if (bend > mostBend * height) continue;
     double angle = std::atan2(b.y() - a.y(), b.x() - a.x()) * 180 / M_PI;

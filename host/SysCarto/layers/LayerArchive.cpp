@@ -57,7 +57,8 @@ void describeCommon(Archive& archive, Layer& layer) {
 void describeLabelling(Archive& archive, VectorLayer& layer) {
   LabelSettings settings = layer.labelSettings();
   auto const properties = layer.GetAnnotationProperties();
-  archive.optionalObject("labels", settings.isUsed(), [&](Archive& item) { describeLabels(item, settings, *properties); });
+  archive.optionalObject("labels", settings.isUsed(),
+                         [&](Archive& item) { describeLabels(item, settings, *properties); });
   if (archive.reading()) layer.setLabelSettings(settings);
 }
 

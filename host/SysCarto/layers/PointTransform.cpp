@@ -45,7 +45,8 @@ void PointTransform::apply(std::vector<double>& xy) const {
     x_[i] = xy[2 * i];
     y_[i] = xy[2 * i + 1];
   }
-  if (count > 0) transformation_->Transform(static_cast<int>(count), x_.data(), y_.data(), nullptr, nullptr, ok_.data());
+  if (count > 0)
+    transformation_->Transform(static_cast<int>(count), x_.data(), y_.data(), nullptr, nullptr, ok_.data());
   for (size_t i = 0; i < count; ++i) {
     bool const good = ok_[i] && std::isfinite(x_[i]) && std::isfinite(y_[i]);
     xy[2 * i] = good ? x_[i] : nan;

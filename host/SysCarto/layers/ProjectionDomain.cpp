@@ -22,7 +22,7 @@ struct CentredProjection {
 // clang-format off
 constexpr CentredProjection centredProjections[] = {
   {"ortho",    91}, {"nsper",    90}, {"tpers", 90}, {"geos",   90}, {"gnom", 70},
-  {"stere",   150}, {"sterea",  150}, {"ups",   90}, {"laea", 179.5}, {"aeqd", 179.5}, {"airy", 90},
+  {"stere",   140}, {"sterea",  140}, {"ups",   90}, {"laea", 179.5}, {"aeqd", 179.5}, {"airy", 90},
   {"tmerc",    85}, {"etmerc",   85}, {"utm",   85}, {"cass",   85}, {"tcea", 85},
   {"omerc",    80}, {"somerc",   80}, {"krovak", 80},
 };
@@ -71,7 +71,8 @@ double reach(double farthest, std::function<bool(double)> const& isGood) {
   return farthest;
 }
 
-std::unique_ptr<ProjectionDomain> makeStrip(QString const& name, double centralLongitude, CanProject const& canProject) {
+std::unique_ptr<ProjectionDomain> makeStrip(QString const& name, double centralLongitude,
+                                            CanProject const& canProject) {
   // The poles of a cylindrical conformal map lie at infinity. 85.06 makes the world a square, as web maps have it.
   double const farthest = name == QLatin1String("webmerc") ? 85.0511287798 : name == QLatin1String("merc") ? 89 : 90;
   auto const isGood = [&](double latitude) { return canProject(centralLongitude, latitude); };
@@ -85,13 +86,15 @@ std::unique_ptr<ProjectionDomain> makeDisk(double longitude, double latitude, do
   std::vector<double> limits(directions);
   for (int i = 0; i < directions; ++i) {
     double const direction = i * 2 * M_PI / directions;
-    limits[i] = reach(farthest, [&](double distance) {
-                  double const s = std::sin(distance * M_PI / 180), c = std::cos(distance * M_PI / 180);
-                  double const north = s * std::cos(direction), east = s * std::sin(direction);
-                  double const along = cosine * c - sine * north, z = sine * c + cosine * north;
-                  return canProject(longitude + std::atan2(east, along) * 180 / M_PI,
-                                    std::atan2(z, std::hypot(along, east)) * 180 / M_PI);
-                }) - margin;
+    limits[i] = reach(farthest,
+                      [&](double distance) {
+                        double const s = std::sin(distance * M_PI / 180), c = std::cos(distance * M_PI / 180);
+                        double const north = s * std::cos(direction), east = s * std::sin(direction);
+                        double const along = cosine * c - sine * north, z = sine * c + cosine * north;
+                        return canProject(longitude + std::atan2(east, along) * 180 / M_PI,
+                                          std::atan2(z, std::hypot(along, east)) * 180 / M_PI);
+                      }) -
+                margin;
   }
   return makeDiskDomain(latitude, std::move(limits));
 }
@@ -99,7 +102,8 @@ std::unique_ptr<ProjectionDomain> makeDisk(double longitude, double latitude, do
 bool isWebMercator(OGRSpatialReference const& system) {
   char const* const method = system.GetAttrValue("PROJECTION");
   QString const code = QString::fromUtf8(system.GetAuthorityCode(nullptr));
-  return code == QLatin1String("3857") || (method && QString::fromUtf8(method).contains(QLatin1String("Auxiliary_Sphere")));
+  return code == QLatin1String("3857") ||
+         (method && QString::fromUtf8(method).contains(QLatin1String("Auxiliary_Sphere")));
 }
 
 }  // namespace

@@ -14,8 +14,8 @@ enum EdgeFlag : unsigned char {
   arcEdge = 2,   ///< lies on a curved border and is short enough as it is
 };
 
-/// A place on the globe: degrees of longitude, counted from the middle of the projection and not limited to ±180, and of
-/// latitude.
+/// A place on the globe: degrees of longitude, counted from the middle of the projection and not limited to ±180, and
+/// of latitude.
 struct Vertex {
   double x, y;
   unsigned char edge = 0;
@@ -23,13 +23,14 @@ struct Vertex {
 using Run = std::vector<Vertex>;
 
 /// The part of the globe that a projection shows in one piece. Geometries are cut at its border before they are
-/// projected: what lies beyond is moved onto the border, so that rings stay closed and areas right by the even-odd rule.
+/// projected: what lies beyond is moved onto the border, so that rings stay closed and areas right by the even-odd
+/// rule.
 class ProjectionDomain {
 public:
   virtual ~ProjectionDomain();
 
-  /// The rings of one polygon, each without a repeated last vertex. Appends the rings that are left of it, of each piece
-  /// that lies in one turn of the globe separately.
+  /// The rings of one polygon, each without a repeated last vertex. Appends the rings that are left of it, of each
+  /// piece that lies in one turn of the globe separately.
   virtual void clipPolygon(std::vector<Run> const& rings, std::vector<std::vector<Run>>& polygons) const = 0;
   virtual void clipLine(Run const& line, std::vector<Run>& lines) const = 0;
 

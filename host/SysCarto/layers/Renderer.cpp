@@ -75,7 +75,8 @@ public:
   int classOf(QString const&, double number) const override {
     auto const begin = classes_.begin(), end = begin + ownClasses();
     if (std::isnan(number)) return otherClass();
-    auto const next = std::upper_bound(begin, end, number, [](double n, SymbolClass const& c) { return n < c.minimum; });
+    auto const next =
+        std::upper_bound(begin, end, number, [](double n, SymbolClass const& c) { return n < c.minimum; });
     return next == begin ? otherClass() : static_cast<int>(next - begin) - 1;
   }
   int kind() const override { return Graduated; }
@@ -102,7 +103,7 @@ Renderer::~Renderer() = default;
 
 Symbol const* Renderer::symbol(int symbolClass) const {
   return symbolClass >= 0 && symbolClass < static_cast<int>(classes_.size()) ? classes_[symbolClass].symbol.get()
-                                                                            : nullptr;
+                                                                             : nullptr;
 }
 
 void Renderer::describeField(Archive& archive) {

@@ -59,6 +59,7 @@ SYSCARTO_EXPORT std::unique_ptr<Renderer> makeSimpleRenderer(SysUtility::_ptr_t<
                                                              QString const& label = QString());
 
 /// Describes a renderer that must be there, as a nested object with its kind in the field "type".
-SYSCARTO_EXPORT void describeRenderer(SysUtility::Archive& archive, char const* key, std::unique_ptr<Renderer>& renderer);
+SYSCARTO_EXPORT void describeRenderer(SysUtility::Archive& archive, char const* key,
+                                      std::unique_ptr<Renderer>& renderer);
 
 }  // namespace SysCarto

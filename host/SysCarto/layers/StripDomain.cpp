@@ -47,7 +47,7 @@ Vertex between(Vertex const& a, Vertex const& b, double t) {
 }
 
 bool isFlat(Run const& run) {
-  auto const flat = [&](double Vertex::* axis) {
+  auto const flat = [&](double Vertex::*axis) {
     auto const ends = std::minmax_element(run.begin(), run.end(),
                                           [=](Vertex const& a, Vertex const& b) { return a.*axis < b.*axis; });
     return *ends.second.*axis - *ends.first.*axis <= nearly;
@@ -63,7 +63,9 @@ StripDomain::Turns StripDomain::turnsOf(Run const* runs, size_t count) {
       east = std::max(east, v.x);
     }
   if (!(west <= east)) return {0, -1};
-  auto const turn = [](double x) { return std::clamp(std::floor((x + edge) / 360), -1.0 * mostTurns, 1.0 * mostTurns); };
+  auto const turn = [](double x) {
+    return std::clamp(std::floor((x + edge) / 360), -1.0 * mostTurns, 1.0 * mostTurns);
+  };
   int const first = static_cast<int>(turn(west + nearly)), last = static_cast<int>(turn(east - nearly));
   return {first, std::max(first, last)};
 }

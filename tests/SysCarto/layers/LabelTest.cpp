@@ -1,0 +1,201 @@
+#include "LayerFixture.h"
+
+#include "host/SysCarto/layout/TextElement.h"
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
+
+#include <SysDisplay/SimpleLineSymbol.h>
+#include <SysGeometry/Point.h>
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace SysCarto;
+using namespace SysDisplay;
+using SysGeometry::Polygon;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace {
+
+using Obstacles = QMap<int, QList<_ptr_t<Polygon>>>;
+
+LabelSettings settings(double sizePt, QString const& priorityField = QString()) {
+  LabelSettings result;
+  result.visible = true;
+  result.field = QStringLiteral("name");
+  result.priorityField = priorityField;
+  TextFormat format;
+  format.size = sizePt;
+  result.symbol = make<TextSymbol>(format);
+  return result;
+}
+
+struct Placed {
+  Obstacles areas;
+  QList<_ptr_t<Element>> labels;
+
+  QList<QPolygonF> shapes() const {
+    QList<QPolygonF> result;
+    for (auto const& list : areas)
+      for (auto const& area : list) result << QPolygonF(area->GetRings()[0]);
+    return result;
+  }
+  QStringList texts() const {
+    QStringList result;
+    for (auto const& label : labels) result << SysUtility::ptr_cast<TextElement>(label)->text();
+    return result;
+  }
+};
+
+Placed placed(VectorLayer& layer, _ptr_t<DisplayTransformation> const& transformation, Obstacles const& before = {}) {
+  Placed result{before, {}};
+  layer.GetAnnotationElements(result.areas, result.labels, transformation, nullptr);
+  return result;
+}
+
+// Smaller by a hair: places that touch are no overlap.
+QPolygonF shrunk(QPolygonF const& shape) {
+  QPointF const centre = shape.boundingRect().center();
+  QPolygonF result;
+  for (QPointF const& corner : shape) result << centre + (corner - centre) * 0.999;
+  return result;
+}
+
+bool overlap(QPolygonF const& a, QPolygonF const& b) {
+  return a.boundingRect().intersects(b.boundingRect()) && !shrunk(a).intersected(shrunk(b)).isEmpty();
+}
+
+}  // namespace
+
+class LabelTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void labelsKeepTheirPromises_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("layer");
+    QTest::addColumn<QString>("priorityField");
+    QTest::addColumn<int>("fewest");
+    QTest::newRow("beside points") << "world.gpkg"
+                                   << "cities"
+                                   << "population" << 60;
+    QTest::newRow("in polygons") << "world.gpkg"
+                                 << "countries"
+                                 << "" << 10;
+    QTest::newRow("beside many points") << "aegean.gpkg"
+                                        << "places"
+                                        << "population" << 60;
+  }
+  void labelsKeepTheirPromises() {
+    QFETCH(QString, file);
+    QFETCH(QString, layer);
+    QFETCH(QString, priorityField);
+    QFETCH(int, fewest);
+    auto const data =
+        opened({sample(file), layer, {}, {}}, "EPSG:8857", make<SimpleMarkerSymbol>(), settings(6, priorityField));
+    QCOMPARE(data.warnings, QStringList());
+    auto const transformation = shown(data.features().box(), QSize(900, 500));
+    Placed const result = placed(*data.layer, transformation);
+    QVERIFY2(result.labels.size() >= fewest, qPrintable(QString::number(result.labels.size())));
+    QCOMPARE(result.shapes().size(), result.labels.size());
+
+    auto const frame = transformation->GetFittedBounds();
+    QRectF const inside(QPointF(frame->GetXMin(), frame->GetYMin()), QPointF(frame->GetXMax(), frame->GetYMax()));
+    auto const shapes = result.shapes();
+    for (int i = 0; i < shapes.size(); ++i) {
+      QVERIFY2(inside.contains(shapes[i].boundingRect()), qPrintable(result.texts()[i]));
+      for (int j = 0; j < i; ++j) QVERIFY2(!overlap(shapes[i], shapes[j]), qPrintable(result.texts()[i]));
+      auto const drawn = result.labels[i]->GetBoundary(transformation)->GetEnvelope();
+      QRectF const box = shapes[i].boundingRect();
+      double const pixel = frame->GetWidth() / 900;
+      QVERIFY(std::abs(drawn->GetXMin() - box.left()) < 2 * pixel &&
+              std::abs(drawn->GetXMax() - box.right()) < 2 * pixel);
+      QVERIFY(std::abs(drawn->GetYMin() - box.top()) < 2 * pixel &&
+              std::abs(drawn->GetYMax() - box.bottom()) < 2 * pixel);
+    }
+
+    Placed const again = placed(*data.layer, transformation);
+    QCOMPARE(again.texts(), result.texts());
+    QVERIFY(again.shapes() == shapes);
+    QCOMPARE(placed(*data.layer, transformation, result.areas).labels.size() < result.labels.size() / 2, true);
+  }
+
+  void aLabelLiesWithinItsPolygonOrIsLeftOut_data() {
+    QTest::addColumn<QByteArray>("ring");
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("in a square") << QByteArray("[0,0],[90,0],[90,90],[0,90],[0,0]") << QByteArray("Peru") << "Peru";
+    QTest::newRow("in the wide arm of an L")
+        << QByteArray("[0,0],[90,0],[90,25],[12,25],[12,90],[0,90],[0,0]") << QByteArray("Peru") << "Peru";
+    QTest::newRow("a long name on two lines where one is too long")
+        << QByteArray("[0,0],[52,0],[52,90],[0,90],[0,0]") << QByteArray("Papua Guinea") << "Papua\nGuinea";
+    QTest::newRow("a name that does not fit is left out")
+        << QByteArray("[0,0],[20,0],[20,90],[0,90],[0,0]") << QByteArray("Mauritania") << "";
+    QTest::newRow("a part that is out of sight does not count")
+        << QByteArray("[-900,20],[80,20],[80,60],[-900,60],[-900,20]") << QByteArray("Peru") << "Peru";
+  }
+  void aLabelLiesWithinItsPolygonOrIsLeftOut() {
+    QFETCH(QByteArray, ring);
+    QFETCH(QByteArray, name);
+    QFETCH(QString, expected);
+    QTemporaryDir folder;
+    QByteArray json = geoJson(R"({"type":"Polygon","coordinates":[[)" + ring + "]]}");
+    json.replace("\"A\"", '"' + name + '"');
+    auto const layer = opened({written(folder, "a.geojson", json), {}, {}, {}}, "", nullptr, settings(9));
+    // A pixel is a map unit, and 0.75 points.
+    Placed const result = placed(*layer.layer, shown({-5, -5, 95, 95}, QSize(100, 100)));
+    QCOMPARE(result.texts().join('|'), expected);
+    QPolygonF polygon;
+    FeatureStore const& store = layer.features();
+    for (size_t i = 0; i + 1 < store.xy.size(); i += 2) polygon << QPointF(store.xy[i], store.xy[i + 1]);
+    for (QPolygonF const& shape : result.shapes())
+      QVERIFY(qFuzzyIsNull(shape.subtracted(polygon).boundingRect().width()));
+  }
+
+  void theMoreImportantPlaceIsNamed() {
+    QTemporaryDir folder;
+    QString const file = written(folder, "a.geojson", R"({"type":"FeatureCollection","features":[
+      {"type":"Feature","properties":{"name":"Small","size":1},"geometry":{"type":"Point","coordinates":[50,51]}},
+      {"type":"Feature","properties":{"name":"Nameless","size":null},"geometry":{"type":"Point","coordinates":[50,50]}},
+      {"type":"Feature","properties":{"name":"Large","size":1000},"geometry":{"type":"Point","coordinates":[50,50]}},
+      {"type":"Feature","properties":{"name":null,"size":2000},"geometry":{"type":"Point","coordinates":[50,50]}}]})");
+    auto labels = settings(9, "size");
+    TextFormat large;
+    large.size = 14;
+    labels.classes.push_back({500, make<TextSymbol>(large)});
+    auto const layer = opened({file, {}, {}, {}}, "", make<SimpleMarkerSymbol>(), labels);
+    Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)));
+    QCOMPARE(result.texts().value(0), QStringLiteral("Large"));
+    QVERIFY(!result.texts().contains("Nameless"));
+    auto const label = SysUtility::ptr_cast<TextElement>(result.labels[0]);
+    QCOMPARE(label->symbol()->format().size, 14.0);
+    QRectF const box = result.shapes()[0].boundingRect();
+    QVERIFY2(box.left() > 50 && box.center().y() > 53, "the first choice is at the upper right");
+  }
+
+  void aLabelAlongALineStandsUpright_data() {
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<double>("angle");
+    QTest::newRow("rising") << QByteArray("[10,10],[90,90]") << 45.0;
+    QTest::newRow("drawn from right to left") << QByteArray("[90,90],[10,10]") << 45.0;
+    QTest::newRow("falling") << QByteArray("[10,90],[90,10]") << -45.0;
+    QTest::newRow("its straight stretch, not its zigzag")
+        << QByteArray("[5,50],[75,50],[77,54],[79,46],[81,54],[83,46],[85,54],[87,46],[89,54],[91,46]") << 0.0;
+  }
+  void aLabelAlongALineStandsUpright() {
+    QFETCH(QByteArray, line);
+    QFETCH(double, angle);
+    QTemporaryDir folder;
+    QByteArray json = geoJson(R"({"type":"LineString","coordinates":[)" + line + "]}");
+    json.replace("\"A\"", "\"Danube\"");
+    auto const layer =
+        opened({written(folder, "a.geojson", json), {}, {}, {}}, "", make<SimpleLineSymbol>(), settings(8));
+    Placed const result = placed(*layer.layer, shown({0, 0, 100, 100}, QSize(100, 100)));
+    QCOMPARE(result.texts(), QStringList{"Danube"});
+    QVERIFY(std::abs(SysUtility::ptr_cast<TextElement>(result.labels[0])->angle() - angle) < 1e-6);
+  }
+};
+
+QTEST_MAIN(LabelTest)
+#include "LabelTest.moc"

@@ -1,0 +1,181 @@
+#include "LayerFixture.h"
+
+#include "host/SysCarto/layers/LayerArchive.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QtTest>
+
+using namespace SysCarto;
+using SysUtility::_ptr_t;
+using SysUtility::Archive;
+using SysUtility::make;
+
+namespace {
+
+QJsonObject parsed(QByteArray const& json) { return QJsonDocument::fromJson(json).object(); }
+
+QByteArray layerJson(QByteArray const& source, QByteArray const& renderer, QByteArray const& more = QByteArray()) {
+  return R"({"name":"Places","renderer":)" + renderer + R"(,"source":)" + source + R"(,"type":"feature")" + more + "}";
+}
+
+QByteArray const cities = R"({"file":"world.gpkg","filter":"population > 5000000","layer":"cities"})";
+QByteArray const simple = R"({"symbol":{"type":"simpleMarker"},"type":"simple"})";
+
+struct Read {
+  _ptr_t<Layer> layer;
+  DocumentContext context;
+  QString error;
+  QStringList unknown;
+};
+
+Read read(QByteArray const& json) {
+  Read result;
+  result.context.folder = sample("");
+  auto const map = make<Map>();
+  map->SetCoordinateSystem("EPSG:8857");
+  Archive archive(parsed(json));
+  describeLayer(archive, result.layer, *map, result.context);
+  result.error = archive.error();
+  result.unknown = archive.warnings();
+  return result;
+}
+
+QJsonObject stored(Read& read) {
+  Archive archive;
+  auto const map = make<Map>();
+  describeLayer(archive, read.layer, *map, read.context);
+  return archive.json();
+}
+
+}  // namespace
+
+class LayerArchiveTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void aLayerComesBackAsItWas_data() {
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<int>("unreadable");
+    QTest::newRow("one symbol") << layerJson(cities, simple) << 0;
+    QTest::newRow("limits on one side") << layerJson(cities, simple, R"(,"maxScale":50000000,"visible":false)") << 0;
+    QTest::newRow("unique values")
+        << layerJson(
+               cities,
+               R"({"classes":[{"symbol":{"type":"simpleMarker"},"values":["FR","DE"]},)"
+               R"({"label":"Italy","symbol":{"size":9,"type":"simpleMarker"},"values":["IT"]}],)"
+               R"("defaultLabel":"Others","defaultSymbol":{"type":"simpleMarker"},"field":"country","type":"uniqueValues"})")
+        << 0;
+    QTest::newRow("graduated")
+        << layerJson(cities, R"({"classes":[{"label":"small","minimum":0,"symbol":{"type":"simpleMarker"}},)"
+                             R"({"label":"large","minimum":10000000,"symbol":{"size":9,"type":"simpleMarker"}}],)"
+                             R"("field":"population","type":"graduated"})")
+        << 0;
+    QTest::newRow("labels")
+        << layerJson(
+               cities, simple,
+               R"(,"labels":{"classes":[{"minimum":1000000,"symbol":{"size":12,"type":"text"}}],"field":"name","gap":3,)"
+               R"("minScale":1000,"priority":5,"priorityField":"population","symbol":{"type":"text"}})")
+        << 0;
+    QTest::newRow("a file that is gone") << layerJson(R"({"file":"gone/world.gpkg","layer":"cities"})", simple) << 1;
+    QTest::newRow("an address") << layerJson(R"({"file":"http:\/\/127.0.0.1:1/a.gpkg"})", simple) << 1;
+    QTest::newRow("a filter that is wrong")
+        << layerJson(R"({"file":"world.gpkg","filter":"a >","layer":"cities"})", simple) << 1;
+  }
+  void aLayerComesBackAsItWas() {
+    QFETCH(QByteArray, json);
+    QFETCH(int, unreadable);
+    Read result = read(json);
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.unknown, QStringList());
+    QVERIFY(result.layer);
+    QCOMPARE(stored(result), parsed(json));
+    QCOMPARE(result.context.unreadableSources, unreadable);
+    QCOMPARE(result.context.warnings.size(), unreadable);
+    if (unreadable) QVERIFY(result.context.warnings[0].contains("Places"));
+    auto const layer = SysUtility::ptr_cast<VectorLayer>(result.layer);
+    QCOMPARE(layer->features().size() > 0, unreadable == 0);
+  }
+
+  void aWrongFieldIsNamed_data() {
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("says");
+    QTest::newRow("another kind of layer") << layerJson(cities, simple).replace("\"feature\"", "\"tiles\"") << "type";
+    QTest::newRow("no source") << QByteArray(R"({"name":"a","type":"feature","renderer":)" + simple + "}") << "source";
+    QTest::newRow("no symbol") << layerJson(cities, R"({"type":"simple"})") << "renderer.symbol";
+    QTest::newRow("classes that do not ascend")
+        << layerJson(cities,
+                     R"({"type":"graduated","field":"a","classes":[{"minimum":5,"symbol":{"type":"simpleMarker"}},)"
+                     R"({"minimum":5,"symbol":{"type":"simpleMarker"}}]})")
+        << "renderer.classes[1].minimum";
+    QTest::newRow("a value in two classes")
+        << layerJson(
+               cities,
+               R"({"type":"uniqueValues","field":"a","classes":[{"values":["x"],"symbol":{"type":"simpleMarker"}},)"
+               R"({"values":["x"],"symbol":{"type":"simpleMarker"}}]})")
+        << "renderer.classes[1].values";
+    QTest::newRow("limits the wrong way round")
+        << layerJson(cities, simple, R"(,"minScale":500,"maxScale":100)") << "minScale";
+  }
+  void aWrongFieldIsNamed() {
+    QFETCH(QByteArray, json);
+    QFETCH(QString, says);
+    Read const result = read(json);
+    QVERIFY2(result.error.contains(says), qPrintable(result.error));
+    QVERIFY(!result.layer);
+  }
+
+  void aFieldThatTheDataLackIsReported() {
+    Read const result = read(layerJson(
+        cities, R"({"classes":[],"defaultSymbol":{"type":"simpleMarker"},"field":"colour","type":"uniqueValues"})"));
+    QCOMPARE(result.context.warnings.size(), 1);
+    QVERIFY(result.context.warnings[0].contains("“colour”") && result.context.warnings[0].contains("population"));
+    QCOMPARE(result.context.unreadableSources, 0);
+  }
+
+  void classesDivideTheFeatures() {
+    Read const result = read(layerJson(
+        R"({"file":"world.gpkg","layer":"cities"})",
+        R"({"classes":[{"minimum":1000000,"symbol":{"type":"simpleMarker"}},{"minimum":10000000,"symbol":{"type":"simpleMarker"}}],"field":"population","type":"graduated"})"));
+    auto const layer = SysUtility::ptr_cast<VectorLayer>(result.layer);
+    QVERIFY(layer);
+    int counts[3] = {0};
+    for (Feature const& feature : layer->features().features) ++counts[feature.symbolClass + 1];
+    QVERIFY(counts[0] > 50 && counts[1] > 300 && counts[2] > 5);
+    QCOMPARE(counts[0] + counts[1] + counts[2], 521);
+  }
+
+  void scaleLimitsAreBothSetOrNeither_data() {
+    QTest::addColumn<double>("min");
+    QTest::addColumn<double>("max");
+    QTest::addColumn<bool>("limited");
+    QTest::addColumn<double>("storedMin");
+    QTest::addColumn<double>("storedMax");
+    QTest::newRow("none") << 0.0 << 0.0 << false << 0.0 << 0.0;
+    QTest::newRow("the smallest alone") << 1000.0 << 0.0 << true << 1000.0 << 0.0;
+    QTest::newRow("the largest alone") << 0.0 << 5000.0 << true << 0.0 << 5000.0;
+    QTest::newRow("both, exchanged") << 5000.0 << 1000.0 << true << 1000.0 << 5000.0;
+    QTest::newRow("no numbers") << -3.0 << qQNaN() << false << 0.0 << 0.0;
+  }
+  void scaleLimitsAreBothSetOrNeither() {
+    QFETCH(double, min);
+    QFETCH(double, max);
+    QFETCH(bool, limited);
+    QFETCH(double, storedMin);
+    QFETCH(double, storedMax);
+    VectorLayer layer(makeSimpleRenderer(make<SysDisplay::SimpleFillSymbol>()));
+    auto const check = [&](auto& limits) {
+      limits.SetScaleRange(min, max);
+      QCOMPARE(limits.GetMinScale() > 0 && limits.GetMaxScale() > 0, limited);
+      QCOMPARE(limits.GetMinScale() > 0 || limits.GetMaxScale() > 0, limited);
+      QCOMPARE(limits.storedMinScale(), storedMin);
+      QCOMPARE(limits.storedMaxScale(), storedMax);
+      if (limited) QVERIFY(limits.GetMinScale() < 2000 && limits.GetMaxScale() > 2000);
+    };
+    check(static_cast<Layer&>(layer));
+    check(*layer.GetAnnotationProperties());
+  }
+};
+
+QTEST_MAIN(LayerArchiveTest)
+#include "LayerArchiveTest.moc"

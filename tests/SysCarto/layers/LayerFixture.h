@@ -1,0 +1,49 @@
+#pragma once
+
+#include "host/SysCarto/layers/VectorLayer.h"
+
+#include <SysDisplay/SimpleFillSymbol.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+// What the tests of layers share.
+
+inline QString sample(QString const& name) { return QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/data/") + name; }
+
+inline QString written(QTemporaryDir const& folder, QString const& name, QByteArray const& content) {
+  QFile file(folder.filePath(name));
+  return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+}
+
+inline QByteArray geoJson(QByteArray const& geometry) {
+  return R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{"name":"A"},"geometry":)" +
+         geometry + "}]}";
+}
+
+struct OpenedLayer {
+  SysUtility::_ptr_t<SysCarto::VectorLayer> layer;
+  QString error;
+  QStringList warnings;
+
+  SysCarto::FeatureStore const& features() const { return layer->features(); }
+};
+
+inline OpenedLayer opened(SysCarto::SourceSettings const& source, QString const& mapSystem,
+                          SysUtility::_ptr_t<SysDisplay::Symbol> symbol = nullptr,
+                          SysCarto::LabelSettings const& labels = {}) {
+  if (!symbol) symbol = SysUtility::make<SysDisplay::SimpleFillSymbol>();
+  OpenedLayer result{SysUtility::make<SysCarto::VectorLayer>(SysCarto::makeSimpleRenderer(symbol)), {}, {}};
+  result.layer->setLabelSettings(labels);
+  result.error = result.layer->open(source, mapSystem, result.warnings);
+  return result;
+}
+
+inline SysUtility::_ptr_t<SysDisplay::DisplayTransformation> shown(SysCarto::Box const& box, QSize const& sizePx,
+                                                                   double pageScale = 1) {
+  auto const transformation = SysUtility::make<SysDisplay::DisplayTransformation>();
+  transformation->SetPageScale(pageScale);
+  transformation->SetDeviceFrame(QRect(QPoint(0, 0), sizePx));
+  transformation->SetVisibleBounds(SysUtility::make<SysGeometry::Envelope>(box.xmin, box.ymin, box.xmax, box.ymax));
+  return transformation;
+}

@@ -1,0 +1,216 @@
+#include "LayerFixture.h"
+
+#include <QtTest>
+
+#include <cmath>
+
+using namespace SysCarto;
+
+namespace {
+
+char const equalEarth[] = "EPSG:8857";
+char const equalEarthPacific[] = "+proj=eqearth +lon_0=150 +datum=WGS84";
+char const equirectangularPacific[] = "+proj=eqc +lon_0=150 +datum=WGS84";
+char const globe[] = "+proj=ortho +lat_0=40 +lon_0=10 +R=6371000";
+char const northPole[] = "EPSG:3413";
+
+constexpr double earthArea = 5.10066e14;  // of the WGS 84 ellipsoid, square metres
+
+double signedArea(FeatureStore const& store, Part const& part) {
+  double const* const xy = store.vertices(part);
+  double twice = 0;
+  for (int i = 0, j = part.count - 1; i < part.count; j = i++)
+    twice += xy[2 * j] * xy[2 * i + 1] - xy[2 * i] * xy[2 * j + 1];
+  return twice / 2;
+}
+
+bool isFilled(Part const& part) { return part.kind == PartKind::Ring || part.kind == PartKind::FilledRing; }
+
+double areaOf(FeatureStore const& store) {
+  double total = 0, polygon = 0;
+  for (Part const& part : store.parts) {
+    if (!isFilled(part)) continue;
+    if (part.startsPolygon) {
+      total += std::abs(polygon);
+      polygon = 0;
+    }
+    polygon += signedArea(store, part);
+  }
+  return total + std::abs(polygon);
+}
+
+// Calls `visit` with the ends of each edge of the parts that are filled, or of those that are stroked.
+template <class Visit>
+void visitEdges(FeatureStore const& store, bool stroked, Visit const& visit) {
+  for (Part const& part : store.parts) {
+    if (stroked ? part.kind == PartKind::FilledRing : part.kind == PartKind::Outline) continue;
+    double const* const xy = store.vertices(part);
+    for (int i = 1; i < part.count; ++i)
+      visit(QPointF(xy[2 * i - 2], xy[2 * i - 1]), QPointF(xy[2 * i], xy[2 * i + 1]));
+  }
+}
+
+double longestEdge(FeatureStore const& store) {
+  double longest = 0;
+  visitEdges(store, false,
+             [&](QPointF a, QPointF b) { longest = std::max(longest, std::hypot(b.x() - a.x(), b.y() - a.y())); });
+  return longest;
+}
+
+double widest(FeatureStore const& store) {
+  double width = 0;
+  for (Part const& part : store.parts) width = std::max(width, part.box.xmax - part.box.xmin);
+  return width;
+}
+
+}  // namespace
+
+class ProjectionTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void theWholeGlobeFillsItsOutline_data() {
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<double>("area");
+    QTest::newRow("Equal Earth") << equalEarth << earthArea;
+    QTest::newRow("Equal Earth, cut in the Atlantic") << equalEarthPacific << earthArea;
+    QTest::newRow("azimuthal about a place, up to near its antipode")
+        << "+proj=laea +lat_0=52 +lon_0=10 +datum=WGS84" << earthArea;
+    QTest::newRow("azimuthal about the south pole") << "+proj=laea +lat_0=-90 +datum=WGS84" << earthArea;
+    QTest::newRow("azimuthal on the antimeridian") << "+proj=laea +lat_0=0 +lon_0=180 +datum=WGS84" << earthArea;
+    QTest::newRow("half the globe seen from above is a disk") << globe << M_PI * 6371000.0 * 6371000.0;
+    QTest::newRow("a square in web Mercator") << "EPSG:3857" << std::pow(2 * M_PI * 6378137.0, 2);
+    QTest::newRow("degrees") << "EPSG:4326" << 360.0 * 180.0;
+  }
+  void theWholeGlobeFillsItsOutline() {
+    QFETCH(QString, system);
+    QFETCH(double, area);
+    auto const sphere = opened({sample("sphere.geojson"), {}, {}, {}}, system);
+    QCOMPARE(sphere.error, QString());
+    double const error = areaOf(sphere.features()) / area - 1;
+    QVERIFY2(std::abs(error) < 1e-3, qPrintable(QString::number(error)));
+    visitEdges(sphere.features(), true, [](QPointF, QPointF) { QFAIL("the border of the map is stroked"); });
+  }
+
+  void areasStayWhatTheyAre_data() {
+    QTest::addColumn<QString>("system");
+    QTest::newRow("cut in the Atlantic") << equalEarthPacific;
+    QTest::newRow("cut through Europe") << "+proj=eqearth +lon_0=-170 +datum=WGS84";
+    QTest::newRow("about the north pole") << "+proj=laea +lat_0=90 +datum=WGS84";
+    QTest::newRow("about the south pole") << "+proj=laea +lat_0=-90 +datum=WGS84";
+  }
+  void areasStayWhatTheyAre() {
+    QFETCH(QString, system);
+    SourceSettings const countries{sample("world.gpkg"), QStringLiteral("countries"), {}, {}};
+    double const expected = areaOf(opened(countries, equalEarth).features());
+    double const error = areaOf(opened(countries, system).features()) / expected - 1;
+    QVERIFY(expected > 1.4e14 && expected < 1.55e14);  // the land of the earth
+    QVERIFY2(std::abs(error) < 2e-3, qPrintable(QString::number(error)));
+  }
+
+  void nothingRunsAcrossTheMap_data() {
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<QString>("layer");
+    for (char const* layer : {"countries", "land"})
+      for (char const* system : {equalEarth, equalEarthPacific, equirectangularPacific, globe, northPole, "EPSG:3857",
+                                 "EPSG:3031", "EPSG:4326", "+proj=lcc +lat_1=33 +lat_2=45 +lon_0=-96 +datum=WGS84"})
+        QTest::addRow("%s in %s", layer, system) << system << layer;
+  }
+  void nothingRunsAcrossTheMap() {
+    QFETCH(QString, system);
+    QFETCH(QString, layer);
+    auto const countries = opened({sample("world.gpkg"), layer, {}, {}}, system);
+    QVERIFY(countries.features().xy.size() > 5000);
+    Box const& box = countries.features().box();
+    QVERIFY2(longestEdge(countries.features()) < 0.06 * (box.xmax - box.xmin),
+             qPrintable(QString::number(longestEdge(countries.features()))));
+  }
+
+  void theCutIsNotStroked() {
+    auto const countries = opened({sample("world.gpkg"), "countries", {}, {}}, equirectangularPacific);
+    double const east = M_PI * 6378137.0, north = east / 2;
+    int onCut = 0, others = 0;
+    visitEdges(countries.features(), true, [&](QPointF a, QPointF b) {
+      bool const sides = std::min(std::abs(a.x()), std::abs(b.x())) > east - 1;
+      bool const poles = std::min(std::abs(a.y()), std::abs(b.y())) > north - 1;
+      bool const dataCut = std::abs(a.x() - east / 6) < 1 && std::abs(b.x() - east / 6) < 1;
+      ++(sides || poles || dataCut ? onCut : others);
+    });
+    QCOMPARE(onCut, 0);
+    QVERIFY(others > 50000);
+  }
+
+  void whatStepsOverTheAntimeridian_data() {
+    QTest::addColumn<QByteArray>("geometry");
+    QTest::addColumn<int>("widestDegrees");
+    QTest::newRow("an island that was not cut lies on both sides")
+        << QByteArray(R"({"type":"Polygon","coordinates":[[[179,-10],[-179,-10.5],[-179.5,-5],[179.2,-4],[179,-10]]]})")
+        << 1;
+    QTest::newRow("so does a track")
+        << QByteArray(R"({"type":"LineString","coordinates":[[170,0],[179,5],[-178,8],[-170,9]]})") << 10;
+    QTest::newRow("longitudes beyond 180 go on at the other side")
+        << QByteArray(R"({"type":"Polygon","coordinates":[[[170,0],[190,1],[190,10],[170,11],[170,0]]]})") << 10;
+    QTest::newRow("a wide box stays wide")
+        << QByteArray(R"({"type":"Polygon","coordinates":[[[-170,0],[170,0],[170,9],[-170,9],[-170,0]]]})") << 340;
+    QTest::newRow("a parallel runs around the map")
+        << QByteArray(R"({"type":"LineString","coordinates":[[-180,5],[180,5]]})") << 360;
+    QTest::newRow("a band with a bent side does, too")
+        << QByteArray(
+               R"({"type":"Polygon","coordinates":[[[-180,10],[0,14],[180,10],[180,-20],[-180,-20],[-180,10]]]})")
+        << 360;
+  }
+  void whatStepsOverTheAntimeridian() {
+    QFETCH(QByteArray, geometry);
+    QFETCH(int, widestDegrees);
+    QTemporaryDir folder;
+    auto const layer = opened({written(folder, "a.geojson", geoJson(geometry)), {}, {}, {}}, "EPSG:4326");
+    QCOMPARE(layer.error, QString());
+    QCOMPARE(layer.features().size(), 1);
+    QVERIFY2(std::abs(widest(layer.features()) - widestDegrees) < 0.6,
+             qPrintable(QString::number(widest(layer.features()))));
+  }
+
+  void aParallelIsACircleAboutThePole() {
+    QTemporaryDir folder;
+    QString const file =
+        written(folder, "a.geojson", geoJson(R"({"type":"LineString","coordinates":[[-180,40],[180,40]]})"));
+    auto const layer = opened({file, {}, {}, {}}, "+proj=stere +lat_0=90 +lon_0=20 +R=6371000");
+    FeatureStore const& store = layer.features();
+    double const radius = 2 * 6371000.0 * std::tan(25 * M_PI / 180);
+    visitEdges(store, true, [&](QPointF a, QPointF b) {
+      QPointF const middle = (a + b) / 2;
+      QVERIFY(std::abs(std::hypot(middle.x(), middle.y()) - radius) < 11);
+    });
+    QCOMPARE(store.parts.size(), size_t(1));
+    QVERIFY(std::hypot(store.xy[0] - store.xy[store.xy.size() - 2], store.xy[1] - store.xy.back()) < 1);
+  }
+
+  void whatLiesBehindTheGlobeIsGone() {
+    auto const cities = opened({sample("world.gpkg"), "cities", {}, {}}, globe);
+    int const all = opened({sample("world.gpkg"), "cities", {}, {}}, equalEarth).features().size();
+    QCOMPARE(all, 521);
+    QVERIFY(cities.features().size() > 300 && cities.features().size() < 500);
+    auto const graticule = opened({sample("graticule.geojson"), {}, {}, {}}, globe);
+    for (Part const& part : graticule.features().parts) {
+      double const* const xy = graticule.features().vertices(part);
+      for (int i = 0; i < part.count; ++i) QVERIFY(std::hypot(xy[2 * i], xy[2 * i + 1]) < 6371001);
+    }
+  }
+
+  // A polygon around the pole, in a system of metres about it, has no longitude at its corners that says so.
+  void aProjectedSourceAroundThePoleKeepsItsPole() {
+    QTemporaryDir folder;
+    QString const file = written(
+        folder, "a.geojson",
+        geoJson(R"({"type":"Polygon","coordinates":[[[-1e6,-1e6],[1e6,-1e6],[1e6,1e6],[-1e6,1e6],[-1e6,-1e6]]]})"));
+    QString const source = QStringLiteral("+proj=laea +lat_0=90 +datum=WGS84");
+    auto const layer = opened({file, {}, {}, source}, equalEarthPacific);
+    QCOMPARE(layer.error, QString());
+    double const error = areaOf(layer.features()) / 4e12 - 1;
+    QVERIFY2(std::abs(error) < 2e-3, qPrintable(QString::number(error)));
+    QVERIFY(std::abs(areaOf(opened({file, {}, {}, source}, source).features()) - 4e12) < 1);
+  }
+};
+
+QTEST_MAIN(ProjectionTest)
+#include "ProjectionTest.moc"

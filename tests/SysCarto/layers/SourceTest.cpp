@@ -1,0 +1,157 @@
+#include "LayerFixture.h"
+
+#include "host/SysCarto/layers/GdalErrors.h"
+
+#include <QDir>
+#include <QPainter>
+#include <QtTest>
+
+using namespace SysCarto;
+using SysUtility::make;
+
+class SourceTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void whatIsNotAPlainDataFileIsRefused_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("layer");
+    QTest::addColumn<QString>("says");
+    QByteArray const none;
+    QTest::newRow("the network by its file system") << "/vsicurl/http://127.0.0.1:1/a.gpkg" << none << ""
+                                                    << "virtual";
+    QTest::newRow("any virtual file system") << "/vsizip/a.zip/a.geojson" << none << ""
+                                             << "virtual";
+    QTest::newRow("an address") << "http://127.0.0.1:1/a.geojson" << none << ""
+                                << "addresses";
+    QTest::newRow("a database") << "PG:dbname=a" << none << ""
+                                << "prefix";
+    QTest::newRow("a driver's prefix before a file") << "GPKG:/tmp/a.gpkg" << none << ""
+                                                     << "prefix";
+    QTest::newRow("data in place of a path") << R"({"type":"Point","coordinates":[0,0]})" << none << ""
+                                             << "not a path";
+    QTest::newRow("nothing") << "" << none << ""
+                             << "no file";
+    QTest::newRow("a file that is not there") << "missing.gpkg" << none << ""
+                                              << "does not exist";
+    QTest::newRow("a folder") << "." << none << ""
+                              << "not a file";
+    QByteArray const vrt = "<OGRVRTDataSource><OGRVRTLayer name='cities'><SrcDataSource>" +
+                           sample("world.gpkg").toUtf8() + "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>";
+    QTest::newRow("a format that names further files") << "a.vrt" << vrt << ""
+                                                       << "GeoPackage, GeoJSON";
+    QTest::newRow("whatever the file's ending") << "a.gpkg" << vrt << ""
+                                                << "GeoPackage, GeoJSON";
+    QTest::newRow("an empty file") << "a.geojson" << QByteArray("\n") << ""
+                                   << "GeoPackage, GeoJSON";
+    QTest::newRow("a layer that the file does not have")
+        << "a.geojson" << geoJson(R"({"type":"Point","coordinates":[0,0]})") << "rivers"
+        << "no layer “rivers”";
+  }
+  void whatIsNotAPlainDataFileIsRefused() {
+    QFETCH(QString, file);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, layer);
+    QFETCH(QString, says);
+    QTemporaryDir folder;
+    if (!content.isEmpty()) QVERIFY(!written(folder, file, content).isEmpty());
+    bool const isName = !content.isEmpty() || file == QLatin1String("missing.gpkg") || file == QLatin1String(".");
+    GdalErrors const outside;
+    auto const result = opened({isName ? folder.filePath(file) : file, layer, {}, {}}, "EPSG:4326");
+    QVERIFY2(result.error.contains(says), qPrintable(result.error));
+    QVERIFY(result.error.contains(file.left(20)) && result.error.endsWith('.'));
+    QCOMPARE(result.features().size(), 0);
+    QCOMPARE(outside.messages(), QStringList());
+  }
+
+  void openingLeavesNothingBehind() {
+    QTemporaryDir folder;
+    QDir(folder.path()).mkdir("100% #1?");
+    QString const inside = folder.filePath("100% #1?");
+    QVERIFY(QFile::copy(sample("world.gpkg"), inside + "/world.gpkg"));
+    QVERIFY(QFile::setPermissions(inside, QFile::ReadOwner | QFile::ExeOwner));
+    auto const result = opened({inside + "/world.gpkg", "cities", {}, {}}, "EPSG:8857");
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.features().size(), 521);
+    QCOMPARE(QDir(inside).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"world.gpkg"});
+    QVERIFY(QFile::setPermissions(inside, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+  }
+
+  void aFilterSelectsOrSaysWhatIsWrong_data() {
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<bool>("isRight");
+    QTest::addColumn<int>("fewest");
+    QTest::addColumn<int>("most");
+    QTest::newRow("a number") << "population > 10000000" << true << 5 << 60;
+    QTest::newRow("two conditions") << "capital = 1 AND country LIKE 'F%'" << true << 1 << 20;
+    QTest::newRow("a field that is not there") << "inhabitants > 5" << false << 0 << 0;
+    QTest::newRow("no condition") << "population >" << false << 0 << 0;
+    QTest::newRow("a function of the database") << "ogr_geocode(name) IS NOT NULL" << false << 0 << 0;
+    QTest::newRow("a query in the condition") << "name IN (SELECT name FROM cities)" << false << 0 << 0;
+  }
+  void aFilterSelectsOrSaysWhatIsWrong() {
+    QFETCH(QString, filter);
+    QFETCH(bool, isRight);
+    QFETCH(int, fewest);
+    QFETCH(int, most);
+    auto const result = opened({sample("world.gpkg"), "cities", filter, {}}, "EPSG:8857");
+    QVERIFY2(result.error.isEmpty() == isRight, qPrintable(result.error));
+    QVERIFY(isRight || (result.error.contains(filter) && result.error.contains("cities")));
+    QVERIFY2(result.features().size() >= fewest && result.features().size() <= most,
+             qPrintable(QString::number(result.features().size())));
+  }
+
+  void geometriesThatAreNoneArePassedOver_data() {
+    QTest::addColumn<QByteArray>("geometry");
+    QTest::addColumn<int>("parts");
+    auto const row = [](char const* name, char const* geometry, int parts) {
+      QTest::newRow(name) << QByteArray(geometry) << parts;
+    };
+    row("no geometry", "null", 0);
+    row("an empty point", R"({"type":"Point","coordinates":[]})", 0);
+    row("a line of one place", R"({"type":"LineString","coordinates":[[1,1]]})", 0);
+    row("a ring of two places", R"({"type":"Polygon","coordinates":[[[1,1],[2,2],[1,1]]]})", 0);
+    row("an infinite place", R"({"type":"Point","coordinates":[1e999,0]})", 0);
+    row("infinite vertices only leave a gap", R"({"type":"LineString","coordinates":[[1,1],[1e999,2],[3,3]]})", 1);
+    row("a latitude that is none", R"({"type":"Point","coordinates":[10,4000]})", 0);
+    row("a longitude that is none", R"({"type":"Polygon","coordinates":[[[1e300,1],[1e300,9],[-1e300,5],[1e300,1]]]})",
+        -1);
+    row("a ring that crosses itself", R"({"type":"Polygon","coordinates":[[[0,0],[9,9],[9,0],[0,9],[0,0]]]})", 1);
+    row("a ring that is not closed", R"({"type":"Polygon","coordinates":[[[0,0],[9,9],[9,0]]]})", 1);
+    row("a place with a height", R"({"type":"Point","coordinates":[1,2,3]})", 1);
+    row("collections within collections",
+        R"({"type":"GeometryCollection","geometries":[{"type":"GeometryCollection","geometries":[
+            {"type":"MultiPoint","coordinates":[[1,1],[2,2]]},{"type":"LineString","coordinates":[[1,1],[2,2]]}]}]})",
+        3);
+  }
+  void geometriesThatAreNoneArePassedOver() {
+    QFETCH(QByteArray, geometry);
+    QFETCH(int, parts);
+    QTemporaryDir folder;
+    QString const file = written(folder, "a.geojson", geoJson(geometry));
+    for (char const* system : {"EPSG:8857", "EPSG:3857", "+proj=ortho +lat_0=10 +lon_0=5 +datum=WGS84", ""}) {
+      auto const result = opened({file, {}, {}, {}}, system);
+      QCOMPARE(result.error, QString());
+      if (parts >= 0 && *system) QCOMPARE(result.features().parts.size(), size_t(parts));
+      for (double coordinate : result.features().xy) QVERIFY(std::isfinite(coordinate));
+      QImage image(64, 64, QImage::Format_RGBA8888_Premultiplied);
+      QPainter painter(&image);
+      result.layer->Draw(painter, shown({-1e7, -1e7, 1e7, 1e7}, image.size()), 1, nullptr);
+    }
+  }
+
+  void aCoordinateSystemOfItsOwnStandsInForTheFiles() {
+    QTemporaryDir folder;
+    QString const file = written(folder, "a.geojson", geoJson(R"({"type":"Point","coordinates":[500000,0]})"));
+    auto const right = opened({file, {}, {}, "EPSG:32633"}, "EPSG:4326");
+    QCOMPARE(right.error, QString());
+    QCOMPARE(right.features().size(), 1);
+    QVERIFY(std::abs(right.features().xy[0] - 15) < 1e-6 && std::abs(right.features().xy[1]) < 1e-6);
+    auto const wrong = opened({file, {}, {}, "http://127.0.0.1:1/system"}, "EPSG:4326");
+    QVERIFY2(wrong.error.contains("coordinate system"), qPrintable(wrong.error));
+  }
+};
+
+QTEST_MAIN(SourceTest)
+#include "SourceTest.moc"
