@@ -46,7 +46,8 @@ std::optional<QByteArray> readAll(QString const& path, QString& problem) {
     problem = translated("the file can't be read (%1); make it readable or choose another one").arg(file.errorString());
     return std::nullopt;
   }
-  QByteArray const content = file.read(largestDocument + 1);
+  // No more than there is: Qt makes room for all that it is asked for.
+  QByteArray const content = file.read(qMin(file.size(), largestDocument) + 1);
   if (content.size() > largestDocument)
     problem = translated("the file is larger than %1 MB, too large for a map document; choose another one")
                   .arg(largestDocument / mebibyte);

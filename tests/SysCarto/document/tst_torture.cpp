@@ -1,0 +1,72 @@
+#include <SysCarto/MapDocument.h>
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using SysCarto::MapDocument;
+
+namespace {
+
+QByteArray contentOf(QString const& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+}  // namespace
+
+// A document with one of everything, damaged at every place in turn. None may crash, and each opens or answers a
+// sentence; the sanitizers see what else may happen.
+class TortureTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() {
+    whole_ = contentOf(QStringLiteral(PLOTVANE_SOURCE_DIR "/fuzz/seeds/document/everything.kdx"));
+    QVERIFY(whole_.size() > 5000);
+    QVERIFY(open(whole_));
+  }
+
+  void cutOffAnywhereItIsRefused() {
+    for (int length = 0; length < whole_.size() - 1; ++length)
+      QVERIFY2(!open(whole_.left(length)), qPrintable(QString::number(length)));
+  }
+
+  void withOneBitFlippedItOpensOrIsRefused() {
+    int refused = 0;
+    for (int place = 0; place < whole_.size(); ++place) {
+      QByteArray damaged = whole_;
+      damaged[place] = static_cast<char>(damaged[place] ^ (1 << place % 8));
+      refused += open(damaged) ? 0 : 1;
+    }
+    // Most of a document is punctuation, names and numbers in their ranges; the rest is texts and places.
+    QVERIFY2(refused > whole_.size() / 2 && refused < whole_.size(), qPrintable(QString::number(refused)));
+  }
+
+private:
+  // A refusal is one sentence about the file and leaves the document empty; an opened page can be drawn.
+  bool open(QByteArray const& content) {
+    QString const path = folder_.filePath(QStringLiteral("damaged.kdx"));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write a test file");
+    file.close();
+
+    MapDocument document;
+    if (document.Open(path)) {
+      if (document.GetPageLayout()->GetPage()) [&] { QVERIFY(!document.Thumbnail().isNull()); }();
+      return true;
+    }
+    [&] {
+      QCOMPARE(document.GetErrors().size(), 1);
+      QVERIFY2(document.GetErrors()[0].startsWith(path + QStringLiteral(": ")), qPrintable(document.GetErrors()[0]));
+      QVERIFY(document.GetErrors()[0].size() < 500);
+      QVERIFY(!document.GetPageLayout());
+    }();
+    return false;
+  }
+
+  QTemporaryDir folder_;
+  QByteArray whole_;
+};
+
+QTEST_MAIN(TortureTest)
+#include "tst_torture.moc"
