@@ -168,7 +168,7 @@ PointRuns const& Glyph::rings(double emPx) const {
 // Only the border is stroked: what the letter itself covers is drawn over it. A stroke as wide as a halo overlaps
 // itself so often that to fill it takes longer than to clean it up once.
 PointRuns const& Glyph::halo(double size, double emPx) const {
-  int const fineness = finenessFor(emPx) / 3;
+  int const fineness = finenessFor(emPx) / 6;  // still a third of a pixel at the most
   PointRuns& halo = halos_[{fineness, size}];
   if (!halo.isEmpty()) return halo;
   double const workPx = fineness;
