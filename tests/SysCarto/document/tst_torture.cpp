@@ -1,5 +1,6 @@
 #include <SysCarto/MapDocument.h>
 
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -21,6 +22,7 @@ class TortureTest : public QObject {
 
 private slots:
   void initTestCase() {
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.svg.warning=false"));
     whole_ = contentOf(QStringLiteral(PLOTVANE_SOURCE_DIR "/fuzz/seeds/document/everything.kdx"));
     QVERIFY(whole_.size() > 5000);
     QVERIFY(open(whole_));
