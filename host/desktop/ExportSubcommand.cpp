@@ -6,6 +6,7 @@
 #include "Subcommand.h"
 
 #include "export/ExportCommand.h"
+#include "export/LayoutRenderer.h"
 #include "export/RasterWriter.h"
 #include "host/SysCarto/layers/GdalErrors.h"
 
@@ -16,6 +17,7 @@
 
 #include <gdal_priv.h>
 
+#include <algorithm>
 #include <optional>
 
 using Plugin::ExportCommand;
@@ -25,6 +27,13 @@ namespace {
 
 constexpr int defaultDpi = 300;
 constexpr int mostDpi = 100000;
+
+// Where GDAL's block cache does not hold a whole row of tiles, each tile of the row makes it read and write all the
+// rows of pixels anew. The fourth part more is for its book-keeping.
+void reserveBlockCache(int imageWidthPx) {
+  constexpr GIntBig bytesPerColumn = GIntBig{3} * Plugin::LayoutRenderer::tileSize;
+  GDALSetCacheMax64(std::max(GDALGetCacheMax64(), bytesPerColumn * imageWidthPx * 5 / 4));
+}
 
 struct Request {
   QString document;
@@ -94,6 +103,7 @@ QString ExportSubcommand::run() {
   if (problem.isEmpty()) problem = imageSize(size);
   if (problem.isEmpty()) problem = target.checkSize(size);
   if (problem.isEmpty()) problem = target.prepare();
+  if (problem.isEmpty()) reserveBlockCache(size.width());
   if (problem.isEmpty()) problem = draw(target.workingPath(), interrupt);
   if (problem.isEmpty()) problem = target.checkResult(size);
   if (problem.isEmpty()) problem = target.commit();
