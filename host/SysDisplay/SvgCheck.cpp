@@ -18,6 +18,7 @@ namespace {
 constexpr int mostBytes = 2 * 1024 * 1024;
 constexpr int mostElements = 20000;
 constexpr int deepest = 64;
+constexpr int deepestUse = 256;  // a chain of so many, each drawn on its own too, comes to more than `mostElements`
 constexpr int largestImagePx = 4096;
 
 QString translated(char const* text) { return QCoreApplication::translate("SvgCheck", text); }
@@ -134,18 +135,19 @@ private:
   // What `use` elements repeat, repeated in turn, must come to an end, and soon.
   void checkUses() {
     double drawn = elements_;
-    for (QString const& id : qAsConst(total_)) drawn += expanded(id);
+    for (QString const& id : qAsConst(total_)) drawn += expanded(id, 0);
     if (drawn > mostElements)
       refuse(translated("the SVG repeats its parts in a circle or more than %1 times").arg(mostElements));
   }
 
-  double expanded(QString const& id) {
+  double expanded(QString const& id, int depth) {
+    if (depth > deepestUse) return mostElements + 1.0;
     auto const known = expanded_.constFind(id);
     if (known != expanded_.constEnd()) return *known;
     expanded_[id] = mostElements + 1.0;  // holds while its own content is counted: a circle
     double sum = content_[id].elements;
     QStringList const uses = content_[id].uses;
-    for (QString const& used : uses) sum += expanded(used);
+    for (QString const& used : uses) sum += expanded(used, depth + 1);
     return expanded_[id] = std::min(sum, mostElements + 1.0);
   }
 

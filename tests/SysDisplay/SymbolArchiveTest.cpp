@@ -151,6 +151,10 @@ private slots:
       bomb += "</g>";
     }
     row("uses without end", svg(bomb), "times");
+    QByteArray chain;
+    for (int i = 0; i < 15000; ++i)
+      chain += "<use id='n" + QByteArray::number(i) + "' href='#n" + QByteArray::number(i + 1) + "'/>";
+    row("a chain of uses", svg(chain), "times");
     row("nested too deep", svg(QByteArray("<g>").repeated(100) + QByteArray("</g>").repeated(100)), "nested");
     row("not closed", svg("<g>"), "not well-formed");
     row("another XML", "<html/>", "not an SVG");
