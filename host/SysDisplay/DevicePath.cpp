@@ -227,11 +227,7 @@ bool splitLine(std::vector<QPointF> const& given, bool closed, QRectF const& are
 std::vector<QPointF> offsetLine(std::vector<QPointF> const& line, bool closed, double distancePx) {
   size_t const count = line.size();
   if (count < 2) return line;
-  // On a device, where y runs downwards, the left of (dx, dy) is (dy, −dx).
-  auto const left = [&](size_t from) {
-    QPointF const d = line[(from + 1) % count] - line[from % count];
-    return QPointF(d.y(), -d.x()) / std::hypot(d.x(), d.y());
-  };
+  auto const left = [&](size_t from) { return leftOf(line[from % count], line[(from + 1) % count]); };
   std::vector<QPointF> result;
   for (size_t i = 0; i < count; ++i) {
     bool const isEnd = !closed && (i == 0 || i + 1 == count);

@@ -4,6 +4,8 @@
 
 #include <QTransform>
 
+#include <cmath>
+
 namespace SysDisplay {
 
 /// The nearest 1/64 of a pixel, the grid on which the rasteriser works. What lies exactly between two always goes the
@@ -44,6 +46,13 @@ SYSDISPLAY_EXPORT bool splitLine(std::vector<QPointF> const& line, bool closed, 
 
 /// The line moved by `distancePx` to the left of its direction, as seen on the page. Sharp corners are cut off.
 SYSDISPLAY_EXPORT std::vector<QPointF> offsetLine(std::vector<QPointF> const& line, bool closed, double distancePx);
+
+/// The unit vector to the left of a segment's direction as seen on the page. On a device, where y runs downwards, the
+/// left of (dx, dy) is (dy, −dx).
+inline QPointF leftOf(QPointF const& from, QPointF const& to) {
+  QPointF const d = to - from;
+  return QPointF(d.y(), -d.x()) / std::hypot(d.x(), d.y());
+}
 
 /// The sides of a rectangle beyond which a point lies, one bit each.
 inline unsigned sidesBeyond(QRectF const& area, QPointF const& point) {

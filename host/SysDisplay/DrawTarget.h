@@ -10,6 +10,9 @@ class QPainter;
 
 namespace SysDisplay {
 
+/// The pixels of a painter that can be reached, in its own coordinates: those of its device that it does not clip away.
+SYSDISPLAY_EXPORT QRectF reachableArea(QPainter const& painter);
+
 /// A painter with the mapping of what is drawn on it. Stands for one stretch of drawing: it saves the painter's state
 /// and puts it back at its end, so that in between symbols set pen, brush and antialiasing freely.
 ///
@@ -39,7 +42,7 @@ private:
   QTransform const toDevice_;
   double const pixelsPerPoint_;
   Anchor const anchor_;
-  QRectF area_;
+  QRectF const area_;
 };
 
 }  // namespace SysDisplay

@@ -1,13 +1,37 @@
 #include "MarkerPainter.h"
 
-#include "host/SysDisplay/DevicePath.h"
+#include "host/SysDisplay/GeometryParts.h"
 
 #include <cmath>
 
 namespace SysDisplay {
 
+using SysGeometry::Envelope;
+using SysGeometry::Geometry;
+using SysUtility::_ptr_t;
+
 MarkerDrawing::~MarkerDrawing() = default;
+
+PreparableMarker::PreparableMarker() = default;
+PreparableMarker::PreparableMarker(PreparableMarker const&) = default;
+PreparableMarker& PreparableMarker::operator=(PreparableMarker const&) = default;
 PreparableMarker::~PreparableMarker() = default;
+
+void PreparableMarker::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
+                            _ptr_t<Geometry> const& geometry) const {
+  auto const place = placeOf(geometry.get());
+  if (!transformation || !place) return;
+  DrawTarget target(painter, *transformation);
+  MarkerPainter(target, *this).draw(place->x(), place->y());
+}
+
+_ptr_t<Envelope> PreparableMarker::QueryBoundary(_ptr_t<DisplayTransformation> const& transformation,
+                                                 _ptr_t<Geometry> const& geometry) const {
+  auto const place = placeOf(geometry.get());
+  auto const drawing = transformation && place ? prepare(transformation->PixelsPerPoint()) : nullptr;
+  if (!drawing) return nullptr;
+  return toWorld(*transformation, drawing->bounds().translated(transformation->ToDevice().map(*place)));
+}
 
 MarkerPainter::MarkerPainter(DrawTarget& target, MarkerSymbol const& symbol) : target_(target) {
   if (auto const* marker = dynamic_cast<PreparableMarker const*>(&symbol))

@@ -20,11 +20,24 @@ public:
   virtual QRectF bounds() const = 0;
 };
 
-/// What the marker symbols of this library can do beyond their interface.
-class SYSDISPLAY_EXPORT PreparableMarker {
+/// A marker symbol of this library: all its drawing stands on `prepare`.
+class SYSDISPLAY_EXPORT PreparableMarker : public MarkerSymbol {
 public:
-  virtual ~PreparableMarker();
+  ~PreparableMarker() override;
+
+  /// An empty pointer where there is nothing to draw.
   virtual std::unique_ptr<MarkerDrawing> prepare(double pixelsPerPoint) const = 0;
+
+  void Draw(QPainter& painter, SysUtility::_ptr_t<DisplayTransformation> const& transformation,
+            SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry) const final;
+  SysUtility::_ptr_t<SysGeometry::Envelope> QueryBoundary(
+      SysUtility::_ptr_t<DisplayTransformation> const& transformation,
+      SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry) const final;
+
+protected:
+  PreparableMarker();
+  PreparableMarker(PreparableMarker const&);
+  PreparableMarker& operator=(PreparableMarker const&);
 };
 
 /// A marker symbol made ready for one target.

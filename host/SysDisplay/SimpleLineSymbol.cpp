@@ -12,6 +12,17 @@ using SysGeometry::Envelope;
 using SysGeometry::Geometry;
 using SysUtility::_ptr_t;
 
+namespace {
+
+void add(LinePainter& line, GeometryPart const& part) {
+  if (part.closed)
+    line.addRing(part.xy(), part.count);
+  else
+    line.addLine(part.xy(), part.count);
+}
+
+}  // namespace
+
 SimpleLineSymbol::SimpleLineSymbol() : style_(SimpleLineStyle::Solid) {}
 SimpleLineSymbol::SimpleLineSymbol(SimpleLineSymbol const&) = default;
 SimpleLineSymbol& SimpleLineSymbol::operator=(SimpleLineSymbol const&) = default;
@@ -32,24 +43,14 @@ void SimpleLineSymbol::DrawCurve(QPainter& painter, _ptr_t<DisplayTransformation
   if (!transformation || !geometry) return;
   DrawTarget target(painter, *transformation);
   LinePainter line(target, *this);
-  visitParts(geometry.get(), [&](GeometryPart const& part) {
-    if (part.closed)
-      line.addRing(part.xy(), part.count);
-    else
-      line.addLine(part.xy(), part.count);
-  });
+  visitParts(geometry.get(), [&](GeometryPart const& part) { add(line, part); });
   line.draw();
 }
 
 void SimpleLineSymbol::Draw(QPainter& painter, QPainterPath const& path) const {
   DrawTarget target(painter, QTransform(), DisplayTransformation().PixelsPerPoint());
   LinePainter line(target, *this);
-  visitParts(path, [&](GeometryPart const& part) {
-    if (part.closed)
-      line.addRing(part.xy(), part.count);
-    else
-      line.addLine(part.xy(), part.count);
-  });
+  visitParts(path, [&](GeometryPart const& part) { add(line, part); });
   line.draw();
 }
 

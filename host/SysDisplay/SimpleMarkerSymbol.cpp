@@ -1,7 +1,6 @@
 #include "SimpleMarkerSymbol.h"
 
 #include "host/SysDisplay/DevicePath.h"
-#include "host/SysDisplay/GeometryParts.h"
 #include "host/SysDisplay/Stroker.h"
 #include "host/SysDisplay/SymbolDefaults.h"
 
@@ -12,8 +11,6 @@
 
 namespace SysDisplay {
 
-using SysGeometry::Envelope;
-using SysGeometry::Geometry;
 using SysUtility::_ptr_t;
 
 namespace {
@@ -113,36 +110,9 @@ SimpleMarkerSymbol::~SimpleMarkerSymbol() = default;
 
 _ptr_t<Symbol> SimpleMarkerSymbol::Clone() const { return SysUtility::make<SimpleMarkerSymbol>(*this); }
 
-void SimpleMarkerSymbol::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
-                              _ptr_t<Geometry> const& geometry) const {
-  drawMarker(painter, transformation, geometry, *this);
-}
-
-_ptr_t<Envelope> SimpleMarkerSymbol::QueryBoundary(_ptr_t<DisplayTransformation> const& transformation,
-                                                   _ptr_t<Geometry> const& geometry) const {
-  return markerBoundary(transformation, geometry, *this);
-}
-
 std::unique_ptr<MarkerDrawing> SimpleMarkerSymbol::prepare(double pixelsPerPoint) const {
   if (GetSize() <= 0) return nullptr;
   return std::make_unique<ShapeDrawing>(*this, pixelsPerPoint);
-}
-
-void drawMarker(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
-                _ptr_t<Geometry> const& geometry, MarkerSymbol const& symbol) {
-  auto const place = placeOf(geometry.get());
-  if (!transformation || !place) return;
-  DrawTarget target(painter, *transformation);
-  MarkerPainter(target, symbol).draw(place->x(), place->y());
-}
-
-_ptr_t<Envelope> markerBoundary(_ptr_t<DisplayTransformation> const& transformation, _ptr_t<Geometry> const& geometry,
-                                PreparableMarker const& symbol) {
-  auto const place = placeOf(geometry.get());
-  if (!transformation || !place) return nullptr;
-  auto const drawing = symbol.prepare(transformation->PixelsPerPoint());
-  if (!drawing) return nullptr;
-  return toWorld(*transformation, drawing->bounds().translated(transformation->ToDevice().map(*place)));
 }
 
 }  // namespace SysDisplay

@@ -9,7 +9,7 @@ namespace SysDisplay {
 enum class SimpleMarkerStyle { Circle, Square, Diamond, Triangle, Cross, X, Star };
 
 /// A plain shape of one colour with an outline. By default a dark grey circle of 6 points, without an outline.
-class SYSDISPLAY_EXPORT SimpleMarkerSymbol final : public MarkerSymbol, public PreparableMarker {
+class SYSDISPLAY_EXPORT SimpleMarkerSymbol final : public PreparableMarker {
 public:
   SimpleMarkerSymbol();
   SimpleMarkerSymbol(SimpleMarkerSymbol const&);
@@ -17,11 +17,6 @@ public:
   ~SimpleMarkerSymbol() override;
 
   SysUtility::_ptr_t<Symbol> Clone() const override;
-  void Draw(QPainter& painter, SysUtility::_ptr_t<DisplayTransformation> const& transformation,
-            SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry) const override;
-  SysUtility::_ptr_t<SysGeometry::Envelope> QueryBoundary(
-      SysUtility::_ptr_t<DisplayTransformation> const& transformation,
-      SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry) const override;
   std::unique_ptr<MarkerDrawing> prepare(double pixelsPerPoint) const override;
 
   SimpleMarkerStyle style() const { return style_; }
@@ -41,12 +36,5 @@ private:
   QColor outlineColor_;
   double outlineWidth_ = 0;
 };
-
-/// `Draw` and `QueryBoundary` of the marker symbols, which all stand on `prepare`.
-void drawMarker(QPainter& painter, SysUtility::_ptr_t<DisplayTransformation> const& transformation,
-                SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry, MarkerSymbol const& symbol);
-SysUtility::_ptr_t<SysGeometry::Envelope> markerBoundary(
-    SysUtility::_ptr_t<DisplayTransformation> const& transformation,
-    SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry, PreparableMarker const& symbol);
 
 }  // namespace SysDisplay

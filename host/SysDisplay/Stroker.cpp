@@ -15,11 +15,6 @@ constexpr double arcTolerancePx = 0.04;
 // A join that opens no more than this is drawn as one point on either side.
 constexpr double smallGapPx = 0.125;
 
-QPointF leftOf(QPointF const& from, QPointF const& to) {
-  QPointF const d = to - from;
-  return QPointF(d.y(), -d.x()) / std::hypot(d.x(), d.y());
-}
-
 }  // namespace
 
 Stroker::Stroker(double widthPx, LineCapStyle cap, LineJoinStyle join, double miterLimit)

@@ -1,6 +1,5 @@
 #include "SvgMarkerSymbol.h"
 
-#include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgCheck.h"
 
 #include <QCoreApplication>
@@ -15,8 +14,6 @@
 
 namespace SysDisplay {
 
-using SysGeometry::Envelope;
-using SysGeometry::Geometry;
 using SysUtility::_ptr_t;
 
 struct SvgMarkerSymbol::Picture {
@@ -53,7 +50,7 @@ public:
     if (std::abs(wholeX) > 1e6 || std::abs(wholeY) > 1e6) return;
     Cell cell{static_cast<int>(x - wholeX * phases), static_cast<int>(y - wholeY * phases), 0, 0};
     QPoint const place(static_cast<int>(wholeX), static_cast<int>(wholeY));
-    QRect const seen = covered() & visible(painter).translated(-place);
+    QRect const seen = covered() & reachableArea(painter).toAlignedRect().translated(-place);
     if (seen.isEmpty()) return;
     for (cell.row = cellOf(seen.top()); cell.row <= cellOf(seen.bottom()); ++cell.row)
       for (cell.column = cellOf(seen.left()); cell.column <= cellOf(seen.right()); ++cell.column)
@@ -74,10 +71,6 @@ private:
 
   // The pixels about the position that the marker may cover in any phase.
   QRect covered() const { return bounds_.toAlignedRect().adjusted(-1, -1, 2, 2); }
-
-  static QRect visible(QPainter const& painter) {
-    return painter.combinedTransform().inverted().mapRect(QRectF(painter.viewport())).toAlignedRect();
-  }
 
   QImage const& image(Cell const& cell) {
     auto const known = cells_.constFind(cell);
@@ -116,16 +109,6 @@ SvgMarkerSymbol& SvgMarkerSymbol::operator=(SvgMarkerSymbol const&) = default;
 SvgMarkerSymbol::~SvgMarkerSymbol() = default;
 
 _ptr_t<Symbol> SvgMarkerSymbol::Clone() const { return SysUtility::make<SvgMarkerSymbol>(*this); }
-
-void SvgMarkerSymbol::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
-                           _ptr_t<Geometry> const& geometry) const {
-  drawMarker(painter, transformation, geometry, *this);
-}
-
-_ptr_t<Envelope> SvgMarkerSymbol::QueryBoundary(_ptr_t<DisplayTransformation> const& transformation,
-                                                _ptr_t<Geometry> const& geometry) const {
-  return markerBoundary(transformation, geometry, *this);
-}
 
 std::unique_ptr<MarkerDrawing> SvgMarkerSymbol::prepare(double pixelsPerPoint) const {
   if (!picture_ || GetSize() <= 0) return nullptr;

@@ -8,7 +8,7 @@ namespace SysDisplay {
 
 /// A marker that an SVG describes. The SVG's view box is the marker: its longer side is the marker's size and its
 /// centre lies on the point.
-class SYSDISPLAY_EXPORT SvgMarkerSymbol final : public MarkerSymbol, public PreparableMarker {
+class SYSDISPLAY_EXPORT SvgMarkerSymbol final : public PreparableMarker {
 public:
   SvgMarkerSymbol();
   SvgMarkerSymbol(SvgMarkerSymbol const&);
@@ -16,11 +16,6 @@ public:
   ~SvgMarkerSymbol() override;
 
   SysUtility::_ptr_t<Symbol> Clone() const override;
-  void Draw(QPainter& painter, SysUtility::_ptr_t<DisplayTransformation> const& transformation,
-            SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry) const override;
-  SysUtility::_ptr_t<SysGeometry::Envelope> QueryBoundary(
-      SysUtility::_ptr_t<DisplayTransformation> const& transformation,
-      SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry) const override;
   std::unique_ptr<MarkerDrawing> prepare(double pixelsPerPoint) const override;
 
   /// Takes an SVG in UTF-8. Answers why it was refused, as a sentence, and keeps the former one then; empty when taken.

@@ -1,6 +1,8 @@
 #include "MapPicture.h"
 #include "Placement.h"
 
+#include "host/SysDisplay/DrawTarget.h"
+
 #include <SysCarto/Map.h>
 #include <SysCarto/SymbolFrameParts.h>
 
@@ -60,7 +62,8 @@ void MapFrameElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> cons
   if (!transformation) return;
   DrawShadow(painter, transformation);
   DrawBackground(painter, transformation);
-  MapPicture const picture = drawMap(*this, *transformation, reachablePixels(painter), cancel);
+  MapPicture const picture =
+      drawMap(*this, *transformation, SysDisplay::reachableArea(painter).toAlignedRect(), cancel);
   if (!picture.image.isNull()) painter.drawImage(picture.place, picture.image);
   DrawBorder(painter, transformation);
   for (_ptr_t<IMapGrid> const& grid : qAsConst(d->grids))

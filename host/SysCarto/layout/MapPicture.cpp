@@ -48,12 +48,6 @@ _ptr_t<DisplayTransformation> transformationOf(Map const& map, QRect const& fram
 
 }  // namespace
 
-QRect reachablePixels(QPainter const& painter) {
-  QRectF area = painter.combinedTransform().inverted().mapRect(QRectF(painter.viewport()));
-  if (painter.hasClipping()) area &= painter.clipBoundingRect();
-  return area.toAlignedRect();
-}
-
 MapPicture drawMap(MapFrameElement const& frame, DisplayTransformation const& transformation, QRect const& areaPx,
                    _ptr_t<TrackerCancel> const& cancel) {
   QRect const framePx = pixelsOf(frame, transformation), clipPx = framePx & areaPx;

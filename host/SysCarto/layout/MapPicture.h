@@ -6,9 +6,6 @@
 
 namespace SysCarto {
 
-/// The pixels of a painter that can be reached, in its own coordinates.
-SYSCARTO_EXPORT QRect reachablePixels(QPainter const& painter);
-
 /// The map of a data frame, drawn on transparent ground: the part that lies in `areaPx`.
 struct MapPicture {
   QImage image;  ///< null where no part of the frame lies in the area

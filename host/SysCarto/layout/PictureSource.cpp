@@ -1,7 +1,6 @@
 #include "PictureSource.h"
 
-#include "MapPicture.h"
-
+#include "host/SysDisplay/DrawTarget.h"
 #include "host/SysDisplay/SvgCheck.h"
 
 #include <QCoreApplication>
@@ -90,7 +89,7 @@ void PictureSource::draw(QPainter& painter, QRect const& targetPx) {
 // A picture that is larger than its source could be of any size. It is made in cells that hang on its corner, and no
 // tile draws a part of a cell: what Qt makes of an enlarged picture depends on where it begins to draw.
 void PictureSource::drawCells(QPainter& painter, QRect const& targetPx) {
-  QRect const seen = (targetPx & reachablePixels(painter)).translated(-targetPx.topLeft());
+  QRect const seen = (targetPx & SysDisplay::reachableArea(painter).toAlignedRect()).translated(-targetPx.topLeft());
   if (seen.isEmpty()) return;
   QRect const whole(QPoint(0, 0), targetPx.size());
   for (int y = seen.top() / cellPx * cellPx; y <= seen.bottom(); y += cellPx)
