@@ -24,10 +24,6 @@ struct Polar {
 
 double turned(double from, double to) { return std::remainder(to - from, 360.0); }
 
-Vertex between(Vertex const& a, Vertex const& b, double t) {
-  return {a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t, a.edge};
-}
-
 // By the even-odd rule in the plane of longitude and latitude.
 bool ringContains(Run const& ring, double x, double y) {
   bool inside = false;
@@ -58,11 +54,15 @@ Run divided(Run const& run, bool closed) {
   return result;
 }
 
+// Of a latitude; exact at the poles.
+double cosineOf(double latitude) { return std::abs(latitude) < 90 ? std::cos(latitude * degree) : 0; }
+
 class DiskDomain final : public ProjectionDomain {
 public:
   DiskDomain(double centreLatitude, std::vector<double> limits)
-      : sine_(std::sin(centreLatitude * degree)),
-        cosine_(std::abs(centreLatitude) < 90 ? std::cos(centreLatitude * degree) : 0),
+      : latitude_(centreLatitude),
+        sine_(std::sin(centreLatitude * degree)),
+        cosine_(cosineOf(centreLatitude)),
         limits_(std::move(limits)) {
     // At a pole every longitude will do; a round one would lie on the borders of data.
     antipode_ = {180 - nearly, std::clamp(-centreLatitude, -antipodeLatitude, antipodeLatitude)};
@@ -75,7 +75,6 @@ public:
 
 private:
   Polar polar(Vertex const& v) const;
-  Vertex place(Polar const& polar) const;
   double limit(double direction) const;
   bool isInside(Vertex const& v) const {
     Polar const p = polar(v);
@@ -87,6 +86,7 @@ private:
   Run clipOutside(Run const& ring) const;
   bool containsAntipode(std::vector<Run> const& rings) const;
 
+  double const latitude_;  // of the centre
   double const sine_, cosine_;
   std::vector<double> const limits_;
   Vertex antipode_;
@@ -98,13 +98,6 @@ Polar DiskDomain::polar(Vertex const& v) const {
   double const north = cosine_ * sine - sine_ * along;
   return {std::atan2(east, north) / degree,
           std::atan2(std::hypot(east, north), sine_ * sine + cosine_ * along) / degree};
-}
-
-Vertex DiskDomain::place(Polar const& p) const {
-  double const sine = std::sin(p.distance * degree), cosine = std::cos(p.distance * degree);
-  double const north = sine * std::cos(p.direction * degree), east = sine * std::sin(p.direction * degree);
-  double const z = sine_ * cosine + cosine_ * north, along = cosine_ * cosine - sine_ * north;
-  return {std::atan2(east, along) / degree, std::atan2(z, std::hypot(along, east)) / degree, 0};
 }
 
 double DiskDomain::limit(double direction) const {
@@ -129,7 +122,7 @@ void DiskDomain::addArc(Run& run, double from, double by) const {
   int const pieces = static_cast<int>(std::ceil(std::abs(by) / arcStep));
   for (int i = 1; i < pieces; ++i) {
     double const direction = from + by * i / pieces;
-    Vertex v = place({direction, limit(direction)});
+    Vertex v = placeFrom(latitude_, direction, limit(direction));
     v.edge = seamEdge | arcEdge;
     run.push_back(v);
   }
@@ -233,6 +226,14 @@ void DiskDomain::clipLine(Run const& given, std::vector<Run>& lines) const {
 bool DiskDomain::admit(Vertex& point) const { return isInside(point); }
 
 }  // namespace
+
+Vertex placeFrom(double centreLatitude, double direction, double distance) {
+  double const centreSine = std::sin(centreLatitude * degree), centreCosine = cosineOf(centreLatitude);
+  double const sine = std::sin(distance * degree), cosine = std::cos(distance * degree);
+  double const north = sine * std::cos(direction * degree), east = sine * std::sin(direction * degree);
+  double const z = centreSine * cosine + centreCosine * north, along = centreCosine * cosine - centreSine * north;
+  return {std::atan2(east, along) / degree, std::atan2(z, std::hypot(along, east)) / degree, 0};
+}
 
 std::unique_ptr<ProjectionDomain> makeDiskDomain(double centreLatitude, std::vector<double> limits) {
   return std::make_unique<DiskDomain>(centreLatitude, std::move(limits));

@@ -18,22 +18,18 @@ public:
   bool isVisible() const { return painter_.isVisible(); }
   double reachPx() const override { return painter_.reachPx(); }
 
-  void draw(ThinnedFeatures& features, int feature, Box const& area) override {
-    for (Part const& part : features.parts(feature)) {
-      if (!part.box.meets(area)) continue;
-      double const* const xy = features.vertices(part);
-      switch (part.kind) {
-        case PartKind::Ring: painter_.addRing(xy, part.count); break;
-        case PartKind::FilledRing: painter_.addRing(xy, part.count, false); break;
-        case PartKind::Outline: painter_.addOutline(xy, part.count); break;
-        case PartKind::Line:
-        case PartKind::Point: break;
-      }
-    }
-    painter_.draw();
-  }
-
 private:
+  void add(Part const& part, double const* xy) override {
+    switch (part.kind) {
+      case PartKind::Ring: return painter_.addRing(xy, part.count);
+      case PartKind::FilledRing: return painter_.addRing(xy, part.count, false);
+      case PartKind::Outline: return painter_.addOutline(xy, part.count);
+      case PartKind::Line:
+      case PartKind::Point: return;
+    }
+  }
+  void draw() override { painter_.draw(); }
+
   FillPainter painter_;
 };
 
@@ -43,17 +39,13 @@ public:
   bool isVisible() const { return painter_.isVisible(); }
   double reachPx() const override { return painter_.reachPx(); }
 
-  void draw(ThinnedFeatures& features, int feature, Box const& area) override {
-    for (Part const& part : features.parts(feature)) {
-      if (!part.box.meets(area)) continue;
-      double const* const xy = features.vertices(part);
-      if (part.kind == PartKind::Ring) painter_.addRing(xy, part.count);
-      if (part.kind == PartKind::Line || part.kind == PartKind::Outline) painter_.addLine(xy, part.count);
-    }
-    painter_.draw();
-  }
-
 private:
+  void add(Part const& part, double const* xy) override {
+    if (part.kind == PartKind::Ring) painter_.addRing(xy, part.count);
+    if (part.kind == PartKind::Line || part.kind == PartKind::Outline) painter_.addLine(xy, part.count);
+  }
+  void draw() override { painter_.draw(); }
+
   LinePainter painter_;
 };
 
@@ -66,15 +58,12 @@ public:
     return 4 + std::max({std::abs(box.left()), std::abs(box.right()), std::abs(box.top()), std::abs(box.bottom())});
   }
 
-  void draw(ThinnedFeatures& features, int feature, Box const& area) override {
-    for (Part const& part : features.parts(feature))
-      if (part.kind == PartKind::Point && part.box.meets(area)) {
-        double const* const xy = features.vertices(part);
-        painter_.draw(xy[0], xy[1]);
-      }
-  }
-
 private:
+  void add(Part const& part, double const* xy) override {
+    if (part.kind == PartKind::Point) painter_.draw(xy[0], xy[1]);
+  }
+  void draw() override {}
+
   MarkerPainter painter_;
 };
 
@@ -88,6 +77,12 @@ std::unique_ptr<FeaturePainter> made(DrawTarget& target, Symbol const& symbol) {
 }  // namespace
 
 FeaturePainter::~FeaturePainter() = default;
+
+void FeaturePainter::draw(ThinnedFeatures& features, int feature, Box const& area) {
+  for (Part const& part : features.parts(feature))
+    if (part.box.meets(area)) add(part, features.vertices(part));
+  draw();
+}
 
 std::unique_ptr<FeaturePainter> FeaturePainter::create(DrawTarget& target, Symbol const* symbol) {
   if (auto const* fill = dynamic_cast<FillSymbol const*>(symbol)) return made<PolygonPainter>(target, *fill);

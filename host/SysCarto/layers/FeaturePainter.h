@@ -23,7 +23,14 @@ public:
   virtual double reachPx() const = 0;
 
   /// Draws the parts of one feature that the symbol is for and that meet `area` (map units, reach included).
-  virtual void draw(ThinnedFeatures& features, int feature, Box const& area) = 0;
+  void draw(ThinnedFeatures& features, int feature, Box const& area);
+
+private:
+  /// Takes a part, whatever its kind; `xy` are its vertices.
+  virtual void add(Part const& part, double const* xy) = 0;
+
+  /// Draws what was taken.
+  virtual void draw() = 0;
 };
 
 }  // namespace SysCarto

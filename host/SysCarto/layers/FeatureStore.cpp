@@ -1,23 +1,10 @@
 #include "FeatureStore.h"
 
-#include <boost/geometry/geometries/box.hpp>
-#include <boost/geometry/geometries/point.hpp>
-#include <boost/geometry/index/rtree.hpp>
+#include "host/SysCarto/layers/BoxTree.h"
 
 #include <algorithm>
 
 namespace SysCarto {
-
-namespace {
-
-namespace bg = boost::geometry;
-using BoostPoint = bg::model::point<double, 2, bg::cs::cartesian>;
-using BoostBox = bg::model::box<BoostPoint>;
-using Entry = std::pair<BoostBox, int>;
-
-BoostBox boostBox(Box const& box) { return {BoostPoint(box.xmin, box.ymin), BoostPoint(box.xmax, box.ymax)}; }
-
-}  // namespace
 
 void Box::add(double x, double y) {
   xmin = std::min(xmin, x);
@@ -35,10 +22,6 @@ void Box::add(Box const& other) {
   add(other.xmin, other.ymin);
   add(other.xmax, other.ymax);
 }
-
-struct FeatureStore::Index {
-  bg::index::rtree<Entry, bg::index::rstar<16>> tree;
-};
 
 FeatureStore::FeatureStore() = default;
 FeatureStore::~FeatureStore() = default;
@@ -71,18 +54,19 @@ void FeatureStore::endFeature(int symbolClass, QString const& label, double prio
 void FeatureStore::finish() {
   xy.shrink_to_fit();
   parts.shrink_to_fit();
-  std::vector<Entry> entries;
-  entries.reserve(features.size());
-  for (int i = 0; i < size(); ++i) entries.emplace_back(boostBox(features[i].box), i);
-  index_ = std::make_unique<Index>(Index{decltype(Index::tree)(entries)});
+  std::vector<Box> boxes;
+  boxes.reserve(features.size());
+  for (Feature const& feature : features) boxes.push_back(feature.box);
+  index_ = std::make_unique<BoxTree>(boxes);
 }
 
 std::vector<int> FeatureStore::query(Box const& rectangle) const {
   std::vector<int> found;
   if (!index_ || rectangle.isEmpty()) return found;
-  auto const take = [&](Entry const& entry) { found.push_back(entry.second); };
-  for (auto it = index_->tree.qbegin(bg::index::intersects(boostBox(rectangle))); it != index_->tree.qend(); ++it)
-    take(*it);
+  index_->any(rectangle, [&](int feature) {
+    found.push_back(feature);
+    return false;
+  });
   std::sort(found.begin(), found.end());
   return found;
 }

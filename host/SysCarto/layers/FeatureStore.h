@@ -10,6 +10,8 @@
 
 namespace SysCarto {
 
+class BoxTree;
+
 /// A rectangle in map units; without a point in it until one is added.
 struct SYSCARTO_EXPORT Box {
   double xmin = std::numeric_limits<double>::infinity(), ymin = xmin, xmax = -xmin, ymax = -xmin;
@@ -79,8 +81,7 @@ public:
   bool keepsLabels = false;
 
 private:
-  struct Index;
-  std::unique_ptr<Index> index_;
+  std::unique_ptr<BoxTree> index_;
   Box box_;
   Feature current_{};
   bool polygonStarts_ = false;

@@ -1,23 +1,16 @@
 #include "LabelIndex.h"
 
+#include "host/SysCarto/layers/BoxTree.h"
+
 #include <QTransform>
 
-#include <boost/geometry/geometries/box.hpp>
-#include <boost/geometry/geometries/point.hpp>
-#include <boost/geometry/index/rtree.hpp>
+#include <algorithm>
 
 namespace SysCarto {
 
 namespace {
 
-namespace bg = boost::geometry;
-using BoostPoint = bg::model::point<double, 2, bg::cs::cartesian>;
-using BoostBox = bg::model::box<BoostPoint>;
-using Entry = std::pair<BoostBox, int>;
-using RTree = bg::index::rtree<Entry, bg::index::quadratic<16>>;
 using Rings = QVector<QVector<QPointF>>;
-
-BoostBox boostBox(Box const& box) { return {BoostPoint(box.xmin, box.ymin), BoostPoint(box.xmax, box.ymax)}; }
 
 double side(QPointF const& a, QPointF const& b, QPointF const& p) {
   return (b.x() - a.x()) * (p.y() - a.y()) - (b.y() - a.y()) * (p.x() - a.x());
@@ -92,43 +85,25 @@ bool intersects(LabelShape const& a, LabelShape const& b) {
   return anyEdgesMeet(first, second) || holdsCornerOf(first, second) || holdsCornerOf(second, first);
 }
 
-struct LabelIndex::Tree {
-  RTree tree;
-};
-
-LabelIndex::LabelIndex() : tree_(std::make_unique<Tree>()) {}
+LabelIndex::LabelIndex() : tree_(std::make_unique<BoxTree>()) {}
 LabelIndex::~LabelIndex() = default;
 
 void LabelIndex::add(LabelShape shape) {
   if (shape.box.isEmpty()) return;
-  tree_->tree.insert({boostBox(shape.box), static_cast<int>(shapes_.size())});
+  tree_->insert(shape.box, static_cast<int>(shapes_.size()));
   shapes_.push_back(std::move(shape));
 }
 
 bool LabelIndex::isFree(LabelShape const& shape) const {
-  auto const found = bg::index::intersects(boostBox(shape.box)) &&
-                     bg::index::satisfies([&](Entry const& entry) { return intersects(shape, shapes_[entry.second]); });
-  return tree_->tree.qbegin(found) == tree_->tree.qend();
+  return !tree_->any(shape.box, [&](int other) { return intersects(shape, shapes_[other]); });
 }
 
-struct MarkIndex::Tree {
-  RTree tree;
-};
-
-MarkIndex::MarkIndex(std::vector<Box> const& marks) {
-  std::vector<Entry> entries;
-  entries.reserve(marks.size());
-  for (Box const& mark : marks) entries.emplace_back(boostBox(mark), static_cast<int>(entries.size()));
-  tree_ = std::make_unique<Tree>(Tree{RTree(entries)});
-}
-
+MarkIndex::MarkIndex(std::vector<Box> const& marks) : tree_(std::make_unique<BoxTree>(marks)) {}
 MarkIndex::~MarkIndex() = default;
 
 int MarkIndex::count(Box const& box, int most) const {
   int count = 0;
-  for (auto it = tree_->tree.qbegin(bg::index::intersects(boostBox(box))); it != tree_->tree.qend() && count < most;
-       ++it)
-    ++count;
+  tree_->any(box, [&](int) { return ++count >= most; });
   return count;
 }
 

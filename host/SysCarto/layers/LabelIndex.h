@@ -42,8 +42,7 @@ public:
   bool isFree(LabelShape const& shape) const;
 
 private:
-  struct Tree;
-  std::unique_ptr<Tree> tree_;
+  std::unique_ptr<BoxTree> tree_;
   std::vector<LabelShape> shapes_;
 };
 
@@ -57,8 +56,7 @@ public:
   int count(Box const& box, int most) const;
 
 private:
-  struct Tree;
-  std::unique_ptr<Tree> tree_;
+  std::unique_ptr<BoxTree> tree_;
 };
 
 }  // namespace SysCarto

@@ -83,7 +83,7 @@ QVector<QPointF> clipped(QVector<QPointF> ring, Box const& box) {
 
 LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& settings, Renderer const& renderer,
                          DisplayTransformation const& transformation)
-    : store_(store), settings_(settings), renderer_(renderer), thinned_(store) {
+    : store_(store), settings_(settings), thinned_(store) {
   auto const bounds = transformation.GetFittedBounds();
   QTransform const toDevice = transformation.ToDevice();
   double const unitsPerPoint = transformation.PixelsPerPoint() / std::hypot(toDevice.m11(), toDevice.m12());

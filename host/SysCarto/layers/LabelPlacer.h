@@ -71,7 +71,6 @@ private:
 
   FeatureStore const& store_;
   LabelSettings const& settings_;
-  Renderer const& renderer_;
   ThinnedFeatures thinned_;
   double left_ = 0, bottom_ = 0;  // map units
   double unitsPerPoint_ = 0;

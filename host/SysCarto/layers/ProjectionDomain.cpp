@@ -81,20 +81,13 @@ std::unique_ptr<ProjectionDomain> makeStrip(QString const& name, double centralL
 
 std::unique_ptr<ProjectionDomain> makeDisk(double longitude, double latitude, double farthest,
                                            CanProject const& canProject) {
-  // The same formulas that the domain uses, taken from a disk without limits.
-  double const sine = std::sin(latitude * M_PI / 180), cosine = std::cos(latitude * M_PI / 180);
   std::vector<double> limits(directions);
   for (int i = 0; i < directions; ++i) {
-    double const direction = i * 2 * M_PI / directions;
-    limits[i] = reach(farthest,
-                      [&](double distance) {
-                        double const s = std::sin(distance * M_PI / 180), c = std::cos(distance * M_PI / 180);
-                        double const north = s * std::cos(direction), east = s * std::sin(direction);
-                        double const along = cosine * c - sine * north, z = sine * c + cosine * north;
-                        return canProject(longitude + std::atan2(east, along) * 180 / M_PI,
-                                          std::atan2(z, std::hypot(along, east)) * 180 / M_PI);
-                      }) -
-                margin;
+    auto const isGood = [&](double distance) {
+      Vertex const place = placeFrom(latitude, i * 360.0 / directions, distance);
+      return canProject(longitude + place.x, place.y);
+    };
+    limits[i] = reach(farthest, isGood) - margin;
   }
   return makeDiskDomain(latitude, std::move(limits));
 }

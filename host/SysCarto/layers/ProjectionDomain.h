@@ -22,6 +22,11 @@ struct Vertex {
 };
 using Run = std::vector<Vertex>;
 
+/// The vertex at a fraction of an edge.
+inline Vertex between(Vertex const& a, Vertex const& b, double t) {
+  return {a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t, a.edge};
+}
+
 /// The part of the globe that a projection shows in one piece. Geometries are cut at its border before they are
 /// projected: what lies beyond is moved onto the border, so that rings stay closed and areas right by the even-odd
 /// rule.
@@ -55,6 +60,9 @@ Domain makeDomain(OGRSpatialReference const& system, CanProject const& canProjec
 
 /// A strip between two meridians, 360 degrees apart, and two parallels.
 std::unique_ptr<ProjectionDomain> makeStripDomain(double south, double north);
+
+/// The place on a sphere at a distance from a centre of longitude 0, in a direction from north over east; degrees.
+Vertex placeFrom(double centreLatitude, double direction, double distance);
 
 /// Everything within a distance of a centre that depends on the direction. `limits` are degrees, for directions evenly
 /// spaced from north over east.

@@ -101,11 +101,6 @@ public:
 
 Renderer::~Renderer() = default;
 
-Symbol const* Renderer::symbol(int symbolClass) const {
-  return symbolClass >= 0 && symbolClass < static_cast<int>(classes_.size()) ? classes_[symbolClass].symbol.get()
-                                                                             : nullptr;
-}
-
 void Renderer::describeField(Archive& archive) {
   archive.text("field", field_);
   if (field_.isEmpty()) archive.fail("field", translated("names no field"));

@@ -36,9 +36,6 @@ public:
 
   std::vector<SymbolClass> const& classes() const { return classes_; }
 
-  /// Null where there is no such class.
-  SysDisplay::Symbol const* symbol(int symbolClass) const;
-
 protected:
   friend SYSCARTO_EXPORT void describeRenderer(SysUtility::Archive&, char const*, std::unique_ptr<Renderer>&);
 

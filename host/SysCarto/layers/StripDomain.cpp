@@ -42,9 +42,6 @@ private:
 };
 
 Vertex shifted(Vertex const& v, double shift) { return {v.x + shift, v.y, v.edge}; }
-Vertex between(Vertex const& a, Vertex const& b, double t) {
-  return {a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t, a.edge};
-}
 
 bool isFlat(Run const& run) {
   auto const flat = [&](double Vertex::*axis) {

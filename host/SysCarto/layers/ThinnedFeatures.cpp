@@ -69,8 +69,12 @@ int ThinnedFeatures::thinInto(double const* xy, int count, bool closed) {
   auto const end = [&](int i) { return !closed && (i == 0 || i + 1 == count); };
   double cellX = 0, cellY = 0, x = 0, y = 0;
   bool holds = false;
+  auto const keep = [this](double keptX, double keptY) {
+    xy_.push_back(keptX);
+    xy_.push_back(keptY);
+  };
   auto const flush = [&] {
-    if (holds) xy_.insert(xy_.end(), {x, y});
+    if (holds) keep(x, y);
     holds = false;
   };
   for (int i = 0; i < count; ++i) {
@@ -87,7 +91,7 @@ int ThinnedFeatures::thinInto(double const* xy, int count, bool closed) {
     cellX = cx;
     cellY = cy;
     holds = !end(i);
-    if (end(i)) xy_.insert(xy_.end(), {vx, vy});
+    if (end(i)) keep(vx, vy);
   }
   flush();
   int const kept = static_cast<int>((xy_.size() - start) / 2);

@@ -10,7 +10,6 @@
 namespace SysCarto {
 
 using namespace SysDisplay;
-using SysGeometry::Envelope;
 using SysGeometry::Polygon;
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
@@ -53,11 +52,6 @@ QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem
 
 void VectorLayer::storeRenderer(SysUtility::Archive& archive, char const* key) {
   describeRenderer(archive, key, renderer_);
-}
-
-_ptr_t<Envelope> VectorLayer::GetDataExtent() const {
-  Box const& box = store_->box();
-  return box.isEmpty() ? make<Envelope>() : make<Envelope>(box.xmin, box.ymin, box.xmax, box.ymax);
 }
 
 void VectorLayer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, int phase,

@@ -6,7 +6,6 @@
 #include "host/SysCarto/layers/Renderer.h"
 
 #include <SysCarto/FeatureLayer.h>
-#include <SysGeometry/Envelope.h>
 
 #include <memory>
 
@@ -26,17 +25,10 @@ public:
   QString open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings);
 
   SourceSettings const& source() const { return source_; }
-  Renderer const& renderer() const { return *renderer_; }
 
   /// Writes the renderer (`describeRenderer`); a layer's renderer is not changed once it is made.
   void storeRenderer(SysUtility::Archive& archive, char const* key);
   FeatureStore const& features() const { return *store_; }
-
-  /// The rectangle of all features, a new object; an empty envelope without features.
-  SysUtility::_ptr_t<SysGeometry::Envelope> GetDataExtent() const;
-
-  /// The classes with a symbol, as a legend shows them: in order, the class for all others last.
-  std::vector<SymbolClass> const& legendClasses() const { return renderer_->classes(); }
 
   /// Takes effect when the layer is opened: the texts are read with the features.
   void setLabelSettings(LabelSettings const& settings) { labels_ = settings; }
