@@ -1,6 +1,6 @@
 #include "TextShaper.h"
 
-#include "host/SysDisplay/Stroker.h"
+#include "host/SysGeometry/QuietOgr.h"
 
 #include <QCache>
 #include <QCoreApplication>
@@ -10,6 +10,8 @@
 #include <QHash>
 #include <QRawFont>
 #include <QTextLayout>
+
+#include <ogr_geometry.h>
 
 #include <algorithm>
 #include <cmath>
@@ -26,6 +28,9 @@ constexpr int referencePx = 1024;
 constexpr int coarse = 1500;
 constexpr int fine = 12000;
 int finenessFor(double emPx) { return emPx <= 80 ? coarse : fine; }
+
+// Kerning and ligatures draw the letters of a text nearer together, never as near as this.
+constexpr double mostCloseness = 0.7;
 
 constexpr int mostKeptGlyphs = 1000000;
 
@@ -54,6 +59,36 @@ PointRuns flattened(QPainterPath const& path, double tolerance) {
   }
   rings.endRun();
   return rings;
+}
+
+void addRings(OGRPolygon const& polygon, PointRuns& out) {
+  for (OGRLinearRing const* ring : polygon) {
+    for (OGRPoint const& point : *ring) out.add({point.getX(), point.getY()});
+    out.endRun();
+  }
+}
+
+// Everything within a distance of the rings, bounded by straight pieces that stray by at most the tolerance.
+PointRuns widened(PointRuns const& rings, double distance, double tolerance) {
+  OGRMultiLineString lines;
+  for (int i = 0; i < rings.count(); ++i) {
+    auto line = std::make_unique<OGRLineString>();
+    for (int j = 0; j <= rings.size(i); ++j) {
+      QPointF const& point = rings.run(i)[j % rings.size(i)];
+      line->addPoint(point.x(), point.y());
+    }
+    lines.addGeometryDirectly(line.release());
+  }
+  double const step = 2 * std::acos(std::max(1 - tolerance / distance, 0.0));
+  int const quarterSteps = std::clamp(static_cast<int>(std::ceil(M_PI_2 / step)), 2, 90);
+  SysGeometry::QuietOgr const quiet;
+  std::unique_ptr<OGRGeometry> const area(lines.Buffer(distance, quarterSteps));
+  PointRuns result;
+  if (!area) return result;
+  if (wkbFlatten(area->getGeometryType()) == wkbPolygon) addRings(*area->toPolygon(), result);
+  if (wkbFlatten(area->getGeometryType()) == wkbMultiPolygon)
+    for (OGRPolygon const* polygon : *area->toMultiPolygon()) addRings(*polygon, result);
+  return result;
 }
 
 struct TextKey {
@@ -85,16 +120,59 @@ public:
     return shaped;
   }
 
+  double leastWidth(TextFormat const& format, QString const& fontKey, QString const& text) {
+    Letters& letters = letters_[fontKey];
+    if (!letters.metrics) letters.metrics = std::make_unique<QFontMetricsF>(fontOf(format));
+    double widest = 0, width = 0;
+    for (QChar const letter : text) {
+      if (letter == QLatin1Char('\n'))
+        width = 0;
+      else
+        width += letters.width(letter);
+      widest = std::max(widest, width);
+    }
+    return std::max(widest - std::max(spacingOf(format), 0.0), 0.0) * mostCloseness / referencePx;
+  }
+
 private:
-  ShapedText layOut(TextFormat const& format, QString const& text) {
+  /// What single letters advance, where a text is at least about as wide as its letters.
+  struct Letters {
+    std::unique_ptr<QFontMetricsF> metrics;
+    QHash<QChar, double> widths;
+
+    double width(QChar letter) {
+      auto known = widths.find(letter);
+      if (known == widths.end())
+        known = widths.insert(letter, standsAlone(letter) ? metrics->horizontalAdvance(letter) : 0);
+      return *known;
+    }
+
+    static bool standsAlone(QChar letter) {
+      QChar::Script const script = letter.script();
+      return script == QChar::Script_Latin || script == QChar::Script_Greek || script == QChar::Script_Cyrillic ||
+             script == QChar::Script_Common;
+    }
+  };
+
+  static double spacingOf(TextFormat const& format) {
+    return format.size > 0 ? format.letterSpacing / format.size * referencePx : 0;
+  }
+
+  static QFont fontOf(TextFormat const& format) {
     QFont font(format.family);
     font.setPixelSize(referencePx);
     font.setBold(format.bold);
     font.setItalic(format.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferOutline | QFont::ForceOutline));
-    double const spacing = format.size > 0 ? format.letterSpacing / format.size * referencePx : 0;
+    double const spacing = spacingOf(format);
     if (spacing != 0) font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+    return font;
+  }
+
+  ShapedText layOut(TextFormat const& format, QString const& text) {
+    QFont const font = fontOf(format);
+    double const spacing = spacingOf(format);
     QFontMetricsF const metrics(font);
     ShapedText shaped;
     shaped.ascent = metrics.ascent() / referencePx;
@@ -151,6 +229,7 @@ private:
 
   static Shaper* shaper_;
   std::list<std::pair<QRawFont, Glyphs>> fonts_;
+  std::map<QString, Letters> letters_;  // by font key
   QCache<TextKey, std::shared_ptr<ShapedText const>> texts_{mostKeptGlyphs};
 };
 
@@ -165,29 +244,11 @@ PointRuns const& Glyph::rings(double emPx) const {
   return rings;
 }
 
-// Only the border is stroked: what the letter itself covers is drawn over it. A stroke as wide as a halo overlaps
-// itself so often that to fill it takes longer than to clean it up once.
+// Only the border is widened: what the letter itself covers is drawn over it.
 PointRuns const& Glyph::halo(double size, double emPx) const {
   int const fineness = finenessFor(emPx) / 6;  // still a third of a pixel at the most
   PointRuns& halo = halos_[{fineness, size}];
-  if (!halo.isEmpty()) return halo;
-  double const workPx = fineness;
-  Stroker stroker(2 * size * workPx, LineCapStyle::Round, LineJoinStyle::Round, 0);
-  PointRuns const letter = flattened(outline_, 1.0 / fineness);
-  PointRuns stroke;
-  std::vector<QPointF> ring;
-  for (int i = 0; i < letter.count(); ++i) {
-    ring.assign(letter.run(i), letter.run(i) + letter.size(i));
-    for (QPointF& point : ring) point *= workPx;
-    if (ring.size() > 1 && ring.front() == ring.back()) ring.pop_back();
-    stroker.strokeClosed(ring.data(), static_cast<int>(ring.size()), stroke);
-  }
-  QPainterPath path;
-  path.setFillRule(Qt::WindingFill);
-  for (int i = 0; i < stroke.count(); ++i)
-    path.addPolygon(QVector<QPointF>(stroke.run(i), stroke.run(i) + stroke.size(i)));
-  halo = flattened(path.simplified(), 1);
-  for (QPointF& point : halo.points) point /= workPx;
+  if (halo.isEmpty()) halo = widened(flattened(outline_, 1.0 / fineness), size, 1.0 / fineness);
   return halo;
 }
 
@@ -201,6 +262,10 @@ QString fontKeyOf(TextFormat const& format) {
 
 std::shared_ptr<ShapedText const> shapedText(TextFormat const& format, QString const& fontKey, QString const& text) {
   return Shaper::instance().shape(format, fontKey, text);
+}
+
+double leastWidth(TextFormat const& format, QString const& fontKey, QString const& text) {
+  return Shaper::instance().leastWidth(format, fontKey, text);
 }
 
 }  // namespace SysDisplay

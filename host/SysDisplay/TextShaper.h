@@ -55,4 +55,7 @@ QString fontKeyOf(TextFormat const& format);
 /// The text laid out. Kept for the next time, within a limit, and always valid for who holds it.
 std::shared_ptr<ShapedText const> shapedText(TextFormat const& format, QString const& fontKey, QString const& text);
 
+/// A width, in units of the font's size, that the text has at least. Costs a small part of what laying it out does.
+double leastWidth(TextFormat const& format, QString const& fontKey, QString const& text);
+
 }  // namespace SysDisplay

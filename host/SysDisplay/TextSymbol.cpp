@@ -105,6 +105,10 @@ QRectF TextSymbol::bounds(QString const& text) const {
   return QRectF(box.topLeft() * format_.size, box.size() * format_.size).adjusted(-halo, -halo, halo, halo);
 }
 
+double TextSymbol::leastWidth(QString const& text) const {
+  return SysDisplay::leastWidth(format_, fontKey_, text) * format_.size;
+}
+
 void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angleDegrees, QString const& text) const {
   double const emPx = format_.size * target.pixelsPerPoint();
   if (emPx <= 0 || !std::isfinite(position.x()) || !std::isfinite(position.y())) return;

@@ -62,6 +62,9 @@ public:
   /// Null for a text without letters. Cheap after the first time.
   QRectF bounds(QString const& text) const;
 
+  /// A width in points that the text has at least, to be asked before `bounds` where most texts will find no room.
+  double leastWidth(QString const& text) const;
+
   /// Draws the text at a position in device pixels, turned counterclockwise about it.
   void drawAt(DrawTarget& target, QPointF const& position, double angleDegrees, QString const& text) const;
 

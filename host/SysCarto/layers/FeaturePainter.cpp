@@ -19,11 +19,11 @@ public:
   double reachPx() const override { return painter_.reachPx(); }
 
 private:
-  void add(Part const& part, double const* xy) override {
+  void add(Part const& part) override {
     switch (part.kind) {
-      case PartKind::Ring: return painter_.addRing(xy, part.count);
-      case PartKind::FilledRing: return painter_.addRing(xy, part.count, false);
-      case PartKind::Outline: return painter_.addOutline(xy, part.count);
+      case PartKind::Ring: return painter_.addRing(part.xy, part.count);
+      case PartKind::FilledRing: return painter_.addRing(part.xy, part.count, false);
+      case PartKind::Outline: return painter_.addOutline(part.xy, part.count);
       case PartKind::Line:
       case PartKind::Point: return;
     }
@@ -40,9 +40,9 @@ public:
   double reachPx() const override { return painter_.reachPx(); }
 
 private:
-  void add(Part const& part, double const* xy) override {
-    if (part.kind == PartKind::Ring) painter_.addRing(xy, part.count);
-    if (part.kind == PartKind::Line || part.kind == PartKind::Outline) painter_.addLine(xy, part.count);
+  void add(Part const& part) override {
+    if (part.kind == PartKind::Ring) painter_.addRing(part.xy, part.count);
+    if (part.kind == PartKind::Line || part.kind == PartKind::Outline) painter_.addLine(part.xy, part.count);
   }
   void draw() override { painter_.draw(); }
 
@@ -59,8 +59,8 @@ public:
   }
 
 private:
-  void add(Part const& part, double const* xy) override {
-    if (part.kind == PartKind::Point) painter_.draw(xy[0], xy[1]);
+  void add(Part const& part) override {
+    if (part.kind == PartKind::Point) painter_.draw(part.xy[0], part.xy[1]);
   }
   void draw() override {}
 
@@ -80,7 +80,7 @@ FeaturePainter::~FeaturePainter() = default;
 
 void FeaturePainter::draw(ThinnedFeatures& features, int feature, Box const& area) {
   for (Part const& part : features.parts(feature))
-    if (part.box.meets(area)) add(part, features.vertices(part));
+    if (part.box.meets(area)) add(part);
   draw();
 }
 

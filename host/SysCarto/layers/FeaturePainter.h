@@ -26,8 +26,8 @@ public:
   void draw(ThinnedFeatures& features, int feature, Box const& area);
 
 private:
-  /// Takes a part, whatever its kind; `xy` are its vertices.
-  virtual void add(Part const& part, double const* xy) = 0;
+  /// Takes a part, whatever its kind.
+  virtual void add(Part const& part) = 0;
 
   /// Draws what was taken.
   virtual void draw() = 0;

@@ -31,10 +31,12 @@ void FeatureStore::beginFeature() {
   polygonStarts_ = false;
 }
 
-void FeatureStore::addPart(PartKind kind, double const* coordinates, int count) {
-  Part part{static_cast<int>(xy.size() / 2), count, kind, polygonStarts_, Box()};
-  part.box.add(coordinates, count);
-  xy.insert(xy.end(), coordinates, coordinates + 2 * static_cast<size_t>(count));
+void FeatureStore::addPart(PartKind kind, double const* xy, int count) {
+  double* const room = vertices_.room(count);
+  std::copy_n(xy, 2 * static_cast<size_t>(count), room);
+  vertices_.keep(count);
+  Part part{room, count, kind, polygonStarts_, Box()};
+  part.box.add(xy, count);
   current_.box.add(part.box);
   parts.push_back(part);
   polygonStarts_ = false;
@@ -52,7 +54,6 @@ void FeatureStore::endFeature(int symbolClass, QString const& label, double prio
 }
 
 void FeatureStore::finish() {
-  xy.shrink_to_fit();
   parts.shrink_to_fit();
   std::vector<Box> boxes;
   boxes.reserve(features.size());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/layers/VertexPool.h"
+
 #include <SysCarto/Export.h>
 
 #include <QString>
@@ -33,7 +35,7 @@ struct SYSCARTO_EXPORT Box {
 enum class PartKind : unsigned char { Ring, FilledRing, Outline, Line, Point };
 
 struct Part {
-  int first;  ///< number of its first vertex among all
+  double const* xy;  ///< its vertices, owned by what it is a part of
   int count;
   PartKind kind;
   bool startsPolygon;  ///< the first ring of a polygon; its holes and outlines follow
@@ -68,12 +70,10 @@ public:
   // Reading.
   int size() const { return static_cast<int>(features.size()); }
   Box const& box() const { return box_; }
-  double const* vertices(Part const& part) const { return xy.data() + 2 * static_cast<size_t>(part.first); }
 
   /// The numbers of the features whose boxes meet the rectangle, ascending.
   std::vector<int> query(Box const& rectangle) const;
 
-  std::vector<double> xy;
   std::vector<Part> parts;
   std::vector<Feature> features;
   std::vector<QString> labels;     ///< by feature; empty where the layer has no labels
@@ -81,6 +81,7 @@ public:
   bool keepsLabels = false;
 
 private:
+  VertexPool vertices_;
   std::unique_ptr<BoxTree> index_;
   Box box_;
   Feature current_{};

@@ -132,7 +132,7 @@ void LabelPlacer::collectMarks() {
     if (given.symbolClass < 0) continue;
     for (int i = given.firstPart; i < given.firstPart + given.partCount; ++i) {
       if (store_.parts[i].kind != PartKind::Point) continue;
-      double const* const xy = store_.vertices(store_.parts[i]);
+      double const* const xy = store_.parts[i].xy;
       Box const mark = markOf(feature, toPage(xy[0], xy[1]));
       if (mark.meets(frame_)) marks.push_back(mark);
     }
@@ -174,7 +174,7 @@ void LabelPlacer::placeFeature(int feature) {
 std::optional<QPointF> LabelPlacer::visiblePoint(int feature) const {
   Feature const& given = store_.features[feature];
   for (int i = given.firstPart; i < given.firstPart + given.partCount; ++i) {
-    double const* const xy = store_.vertices(store_.parts[i]);
+    double const* const xy = store_.parts[i].xy;
     QPointF const point = toPage(xy[0], xy[1]);
     if (frame_.contains(point.x(), point.y())) return point;
   }
@@ -195,30 +195,15 @@ LabelText LabelPlacer::textOf(int feature) {
 
 void LabelPlacer::measure(LabelText& text) { text.bounds = text.symbol->bounds(text.text); }
 
-bool LabelPlacer::isHopeless(Box const& mark, LabelText const& text) {
-  Box& smallest = smallest_[text.symbol.get()];
-  if (smallest.isEmpty()) {
-    QRectF const bounds = text.symbol->bounds(QStringLiteral("i"));
-    smallest = {0, 0, bounds.width() * 0.5, bounds.height()};
-  }
-  return std::none_of(std::begin(directions), std::end(directions), [&](Direction const& direction) {
-    Box const box = boxBeside(mark, direction, smallest.xmax, smallest.ymax);
-    return isFree(LabelShape::upright(box));
-  });
-}
-
-bool LabelPlacer::placeBesidePoint(int feature, LabelText& text, QPointF const& point) {
-  Box const mark = markOf(feature, point);
-  if (!index_.isFree(LabelShape::upright(mark)) || isHopeless(mark, text)) return false;
-  measure(text);
-  if (text.bounds.isEmpty()) return false;
+// The first of the wanted places that covers the fewest marks of others, or an empty box.
+Box LabelPlacer::boxFor(Box const& mark, double width, double height) const {
   Box best;
   // Labels come in the order of importance, so the first one around names the most important place there: it is shown
   // whatever marks it covers.
-  bool const isFirstAround = index_.isFree(LabelShape::upright(mark.grown(text.bounds.height())));
+  bool const isFirstAround = index_.isFree(LabelShape::upright(mark.grown(height)));
   int fewest = isFirstAround ? std::numeric_limits<int>::max() : mostMarksCounted + 1;
   for (Direction const& direction : directions) {
-    Box const box = boxBeside(mark, direction, text.bounds.width(), text.bounds.height());
+    Box const box = boxBeside(mark, direction, width, height);
     if (!frame_.contains(box) || !index_.isFree(LabelShape::upright(box.grown(settings_.gapPt)))) continue;
     int const covered = marks_->count(box, fewest);
     if (covered < fewest) {
@@ -227,8 +212,21 @@ bool LabelPlacer::placeBesidePoint(int feature, LabelText& text, QPointF const& 
     }
     if (fewest == 0) break;
   }
-  if (best.isEmpty()) return false;
-  accept(text, centreOf(best), 0);
+  return best;
+}
+
+bool LabelPlacer::placeBesidePoint(int feature, LabelText& text, QPointF const& point) {
+  Box const mark = markOf(feature, point);
+  if (!index_.isFree(LabelShape::upright(mark))) return false;
+  // Most places of a crowded map have no room for their name. That shows at the least size that it may have, too, and
+  // laying out a text takes far longer.
+  double const leastHeight = text.symbol->bounds(QStringLiteral("i")).height();
+  if (boxFor(mark, text.symbol->leastWidth(text.text), leastHeight).isEmpty()) return false;
+  measure(text);
+  if (text.bounds.isEmpty()) return false;
+  Box const box = boxFor(mark, text.bounds.width(), text.bounds.height());
+  if (box.isEmpty()) return false;
+  accept(text, centreOf(box), 0);
   index_.add(LabelShape::upright(mark));
   return true;
 }
@@ -242,7 +240,7 @@ bool LabelPlacer::placeInPolygon(LabelText const& given, int feature) {
   for (Part const& part : thinned_.parts(feature)) {
     if (part.kind != PartKind::Ring && part.kind != PartKind::FilledRing) continue;
     if (part.startsPolygon || areas.empty()) areas.emplace_back();
-    double const* const xy = thinned_.vertices(part);
+    double const* const xy = part.xy;
     QVector<QPointF> ring;
     for (int i = 0; i < part.count; ++i) ring << toPage(xy[2 * i], xy[2 * i + 1]);
     ring = clipped(ring, frame_);
@@ -272,7 +270,7 @@ bool LabelPlacer::placeAlongLine(LabelText const& text, int feature) {
   std::vector<std::vector<QPointF>> lines;
   for (Part const& part : thinned_.parts(feature)) {
     if (part.kind != PartKind::Line) continue;
-    double const* const xy = thinned_.vertices(part);
+    double const* const xy = part.xy;
     std::vector<QPointF> line;
     for (int i = 0; i < part.count; ++i) line.push_back(toPage(xy[2 * i], xy[2 * i + 1]));
     lines.push_back(std::move(line));

@@ -57,8 +57,8 @@ private:
   bool placeInPolygon(LabelText const& text, int feature);
   bool placeAlongLine(LabelText const& text, int feature);
 
-  /// Whether even the smallest text would find no room beside a mark.
-  bool isHopeless(Box const& mark, LabelText const& text);
+  /// Where a text of that size goes beside a mark; an empty box where it finds no room.
+  Box boxFor(Box const& mark, double width, double height) const;
   LabelText textOf(int feature);
   static void measure(LabelText& text);
   std::optional<QPointF> visiblePoint(int feature) const;
@@ -79,7 +79,6 @@ private:
   std::vector<Box> markShapes_;  // by symbol class, about the position
   std::unique_ptr<MarkIndex> marks_;
   QHash<SysDisplay::TextSymbol const*, SysUtility::_ptr_t<SysDisplay::TextSymbol>> centred_;
-  QHash<SysDisplay::TextSymbol const*, Box> smallest_;
   std::vector<PlacedLabel> labels_;
 };
 

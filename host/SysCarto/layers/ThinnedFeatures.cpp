@@ -16,6 +16,17 @@ double cellFor(double unitsPerPixel) {
   return std::exp2((std::floor(std::log2(unitsPerPixel * cellPx) * 4 + place) - place) / 4);
 }
 
+int fewestVertices(PartKind kind) {
+  switch (kind) {
+    case PartKind::Ring:
+    case PartKind::FilledRing: return 3;
+    case PartKind::Outline:
+    case PartKind::Line: return 2;
+    case PartKind::Point: return 1;
+  }
+  return 1;
+}
+
 }  // namespace
 
 void ThinnedFeatures::setResolution(double unitsPerPixel) {
@@ -26,7 +37,7 @@ void ThinnedFeatures::setResolution(double unitsPerPixel) {
   cell_ = cell;
   places_.assign(store_.features.size(), Place());
   parts_.clear();
-  xy_.clear();
+  vertices_.clear();
 }
 
 ThinnedFeatures::Range ThinnedFeatures::parts(int feature) {
@@ -43,17 +54,11 @@ void ThinnedFeatures::thin(int feature) {
   for (int i = given.firstPart; i < given.firstPart + given.partCount; ++i) {
     Part part = store_.parts[i];
     startsPolygon = startsPolygon || part.startsPolygon;
-    bool const ring = part.kind == PartKind::Ring || part.kind == PartKind::FilledRing;
-    double const* const xy = store_.vertices(part);
-    part.first = static_cast<int>(xy_.size() / 2);
-    if (part.kind == PartKind::Point)
-      xy_.insert(xy_.end(), xy, xy + 2);
-    else
-      part.count = thinInto(xy, part.count, ring);
-    if (part.count < (part.kind == PartKind::Point ? 1 : ring ? 3 : 2)) {
-      xy_.resize(2 * static_cast<size_t>(part.first));
-      continue;
-    }
+    double* const room = vertices_.room(part.count);
+    part.count = thinInto(room, part);
+    if (part.count < fewestVertices(part.kind)) continue;
+    vertices_.keep(part.count);
+    part.xy = room;
     part.startsPolygon = startsPolygon;
     startsPolygon = false;
     parts_.push_back(part);
@@ -62,26 +67,23 @@ void ThinnedFeatures::thin(int feature) {
 }
 
 // Of the vertices of one cell that follow each other the smallest one stays, whatever the direction of the line. The
-// ends of an open line stay, too.
-int ThinnedFeatures::thinInto(double const* xy, int count, bool closed) {
-  size_t const start = xy_.size();
-  auto const cellOf = [this](double value) { return std::floor(value / cell_); };
-  auto const end = [&](int i) { return !closed && (i == 0 || i + 1 == count); };
+// ends of an open line stay, too. The answer is how many were kept.
+int ThinnedFeatures::thinInto(double* kept, Part const& part) const {
+  bool const closed = part.kind == PartKind::Ring || part.kind == PartKind::FilledRing;
+  auto const cellOf = [this](double value) { return cell_ > 0 ? std::floor(value / cell_) : value; };
+  auto const isEnd = [&](int i) { return !closed && (i == 0 || i + 1 == part.count); };
   double cellX = 0, cellY = 0, x = 0, y = 0;
   bool holds = false;
-  auto const keep = [this](double keptX, double keptY) {
-    xy_.push_back(keptX);
-    xy_.push_back(keptY);
+  double* next = kept;
+  auto const keep = [&](double keptX, double keptY) {
+    *next++ = keptX;
+    *next++ = keptY;
   };
-  auto const flush = [&] {
-    if (holds) keep(x, y);
-    holds = false;
-  };
-  for (int i = 0; i < count; ++i) {
-    double const vx = xy[2 * i], vy = xy[2 * i + 1];
-    double const cx = cell_ > 0 ? cellOf(vx) : vx, cy = cell_ > 0 ? cellOf(vy) : vy;
-    if (!holds || cx != cellX || cy != cellY || end(i)) {
-      flush();
+  for (int i = 0; i < part.count; ++i) {
+    double const vx = part.xy[2 * i], vy = part.xy[2 * i + 1];
+    double const cx = cellOf(vx), cy = cellOf(vy);
+    if (!holds || cx != cellX || cy != cellY || isEnd(i)) {
+      if (holds) keep(x, y);
       x = vx;
       y = vy;
     } else if (vx < x || (vx == x && vy < y)) {
@@ -90,14 +92,13 @@ int ThinnedFeatures::thinInto(double const* xy, int count, bool closed) {
     }
     cellX = cx;
     cellY = cy;
-    holds = !end(i);
-    if (end(i)) keep(vx, vy);
+    holds = !isEnd(i);
+    if (!holds) keep(vx, vy);
   }
-  flush();
-  int const kept = static_cast<int>((xy_.size() - start) / 2);
-  bool const tiny = kept == 2 && !closed && xy_[start] == xy_[start + 2] && xy_[start + 1] == xy_[start + 3];
-  if (tiny) xy_.resize(start);
-  return tiny ? 0 : kept;
+  if (holds) keep(x, y);
+  int const count = static_cast<int>(next - kept) / 2;
+  bool const tiny = count == 2 && !closed && kept[0] == kept[2] && kept[1] == kept[3];
+  return tiny ? 0 : count;
 }
 
 }  // namespace SysCarto

@@ -27,7 +27,6 @@ public:
     Part const* end() const { return end_; }
   };
   Range parts(int feature);
-  double const* vertices(Part const& part) const { return xy_.data() + 2 * static_cast<size_t>(part.first); }
 
 private:
   struct Place {
@@ -35,14 +34,14 @@ private:
     int partCount = 0;
   };
   void thin(int feature);
-  int thinInto(double const* xy, int count, bool closed);
+  int thinInto(double* kept, Part const& part) const;
 
   FeatureStore const& store_;
   double cell_ = 0;
   double resolution_ = 0;
   std::vector<Place> places_;
   std::vector<Part> parts_;
-  std::vector<double> xy_;
+  VertexPool vertices_;
 };
 
 }  // namespace SysCarto

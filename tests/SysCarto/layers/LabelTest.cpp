@@ -147,8 +147,8 @@ private slots:
     Placed const result = placed(*layer.layer, shown({-5, -5, 95, 95}, QSize(100, 100)));
     QCOMPARE(result.texts().join('|'), expected);
     QPolygonF polygon;
-    FeatureStore const& store = layer.features();
-    for (size_t i = 0; i + 1 < store.xy.size(); i += 2) polygon << QPointF(store.xy[i], store.xy[i + 1]);
+    for (SysCarto::Part const& part : layer.features().parts)
+      for (int i = 0; i < part.count; ++i) polygon << QPointF(part.xy[2 * i], part.xy[2 * i + 1]);
     for (QPolygonF const& shape : result.shapes())
       QVERIFY(qFuzzyIsNull(shape.subtracted(polygon).boundingRect().width()));
   }

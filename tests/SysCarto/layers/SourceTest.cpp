@@ -134,7 +134,9 @@ private slots:
       auto const result = opened({file, {}, {}, {}}, system);
       QCOMPARE(result.error, QString());
       if (parts >= 0 && *system) QCOMPARE(result.features().parts.size(), size_t(parts));
-      for (double coordinate : result.features().xy) QVERIFY(std::isfinite(coordinate));
+      for (SysCarto::Part const& part : result.features().parts)
+        QVERIFY(std::all_of(part.xy, part.xy + 2 * part.count,
+                            [](double coordinate) { return std::isfinite(coordinate); }));
       QImage image(64, 64, QImage::Format_RGBA8888_Premultiplied);
       QPainter painter(&image);
       result.layer->Draw(painter, shown({-1e7, -1e7, 1e7, 1e7}, image.size()), 1, nullptr);
@@ -147,7 +149,8 @@ private slots:
     auto const right = opened({file, {}, {}, "EPSG:32633"}, "EPSG:4326");
     QCOMPARE(right.error, QString());
     QCOMPARE(right.features().size(), 1);
-    QVERIFY(std::abs(right.features().xy[0] - 15) < 1e-6 && std::abs(right.features().xy[1]) < 1e-6);
+    double const* const xy = right.features().parts.at(0).xy;
+    QVERIFY(std::abs(xy[0] - 15) < 1e-6 && std::abs(xy[1]) < 1e-6);
     auto const wrong = opened({file, {}, {}, "http://127.0.0.1:1/system"}, "EPSG:4326");
     QVERIFY2(wrong.error.contains("coordinate system"), qPrintable(wrong.error));
   }

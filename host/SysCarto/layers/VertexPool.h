@@ -1,0 +1,41 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace SysCarto {
+
+/// Room for runs of vertices, x, y pairs. A run stays at its place while others are added, so that nothing is copied as
+/// the pool grows.
+class VertexPool {
+public:
+  /// Room for that many vertices behind what was kept last.
+  double* room(int count) {
+    std::size_t const doubles = 2 * static_cast<std::size_t>(count);
+    if (static_cast<std::size_t>(end_ - next_) < doubles) addBlock(doubles);
+    return next_;
+  }
+
+  /// Keeps that many of the vertices for which there was room.
+  void keep(int count) { next_ += 2 * static_cast<std::size_t>(count); }
+
+  void clear() { *this = VertexPool(); }
+
+private:
+  static constexpr std::size_t blockDoubles = 1 << 16;
+
+  void addBlock(std::size_t doubles) {
+    std::size_t const size = std::max(doubles, blockDoubles);
+    blocks_.emplace_back(new double[size]);  // not filled: what is not used costs no memory
+    next_ = blocks_.back().get();
+    end_ = next_ + size;
+  }
+
+  std::vector<std::unique_ptr<double[]>> blocks_;
+  double* next_ = nullptr;
+  double* end_ = nullptr;
+};
+
+}  // namespace SysCarto
