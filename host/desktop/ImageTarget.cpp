@@ -10,7 +10,6 @@
 #include <QTemporaryDir>
 #include <QVector>
 
-#include <cpl_conv.h>
 #include <gdal_priv.h>
 
 #include <fcntl.h>
@@ -21,6 +20,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <limits>
 
 namespace {
@@ -53,17 +53,20 @@ struct DatasetCloser {
 };
 using DatasetPtr = std::unique_ptr<GDALDataset, DatasetCloser>;
 
-// A lost end is an error for as long as this lives; for the files of others GDAL is more patient.
-class StrictJpeg {
-public:
-  StrictJpeg() { CPLSetThreadLocalConfigOption(option, "YES"); }
-  ~StrictJpeg() { CPLSetThreadLocalConfigOption(option, nullptr); }
-  StrictJpeg(StrictJpeg const&) = delete;
-  StrictJpeg& operator=(StrictJpeg const&) = delete;
-
-private:
-  static constexpr char option[] = "GDAL_ERROR_ON_LIBJPEG_WARNING";
+// How a whole file of a format that is written from the first byte to the last ends.
+struct Ending {
+  char const* driver;
+  QByteArray bytes;
 };
+Ending const endings[] = {
+    {"JPEG", QByteArray("\xff\xd9", 2)},
+    {"PNG", QByteArray("\0\0\0\0IEND\xae\x42\x60\x82", 12)},
+};
+
+bool endsWith(QString const& path, QByteArray const& bytes) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) && file.seek(file.size() - bytes.size()) && file.readAll() == bytes;
+}
 
 bool readLastRows(GDALDataset& dataset, QSize const& size) {
   constexpr int mostPixels = 1 << 22;
@@ -73,7 +76,15 @@ bool readLastRows(GDALDataset& dataset, QSize const& size) {
                           GDT_Byte, bandCount, nullptr, 0, 0, 0, nullptr) == CE_None;
 }
 
-// Some file systems tell only here that the disk is full.
+// Local file systems that find room for what is written at once. Others tell only at a sync that the disk is full.
+constexpr char const* promptFileSystems[] = {"ext2", "ext3", "ext4", "xfs", "tmpfs"};
+
+bool tellsLate(QString const& path) {
+  QByteArray const type = QStorageInfo(QFileInfo(path).absolutePath()).fileSystemType();
+  return std::none_of(std::begin(promptFileSystems), std::end(promptFileSystems),
+                      [&](char const* prompt) { return type == prompt; });
+}
+
 int syncToDisk(QString const& path) {
   int const file = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
   if (file < 0) return errno;
@@ -110,8 +121,10 @@ QString ImageTarget::checkPlace(QString const& document) const {
 
 QString ImageTarget::checkSize(QSize const& size) const {
   if (size.isEmpty()) return tr("%1: the image would have no pixels; give more DPI.").arg(name_);
-  QString const problem = checkFormatLimits(size);
-  return problem.isEmpty() ? checkFreeSpace(size) : problem;
+  QString problem = checkFormatLimits(size);
+  if (problem.isEmpty()) problem = checkFreeSpace(size);
+  if (problem.isEmpty()) problem = checkFreeMemory(size);
+  return problem;
 }
 
 QString ImageTarget::checkFormatLimits(QSize const& size) const {
@@ -146,6 +159,22 @@ QString ImageTarget::checkFreeSpace(QSize const& size) const {
       .arg(static_cast<double>(free) / 1e9, 0, 'f', 3);
 }
 
+// GDAL's JPEG driver chooses its code when it has seen the whole image, and so keeps it in memory: 16 bits for each of
+// the 1.5 values to which it reduces a pixel.
+QString ImageTarget::checkFreeMemory(QSize const& size) const {
+  constexpr double bytesPerPixel = 3;
+  double const needed = driver_ == QLatin1String("JPEG") ? bytesPerPixel * size.width() * size.height() : 0;
+  double const memory = static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGESIZE));
+  if (needed <= memory) return QString();
+  return tr("%1: a JPEG of %2 × %3 pixels takes %4 GB of memory, and this machine has %5 GB; give less DPI, or write a "
+            "PNG or TIFF.")
+      .arg(name_)
+      .arg(size.width())
+      .arg(size.height())
+      .arg(needed / 1e9, 0, 'f', 1)
+      .arg(memory / 1e9, 0, 'f', 1);
+}
+
 QString ImageTarget::prepare() {
   QString const folder = QFileInfo(path_).absolutePath();
   folder_ = std::make_unique<QTemporaryDir>(folder + QStringLiteral("/.plotvane-XXXXXX"));
@@ -160,7 +189,6 @@ QString ImageTarget::workingPath() const {
 
 QString ImageTarget::checkResult(QSize const& size) const {
   SysCarto::GdalErrors const errors;
-  StrictJpeg const strict;
   QByteArray const driver = driver_.toLatin1();
   char const* const drivers[] = {driver.constData(), nullptr};
   DatasetPtr const image(static_cast<GDALDataset*>(
@@ -169,14 +197,21 @@ QString ImageTarget::checkResult(QSize const& size) const {
   if (image->GetRasterXSize() != size.width() || image->GetRasterYSize() != size.height() ||
       image->GetRasterCount() != bandCount)
     return tr("%1 was not written: the image has not the size that it should have.").arg(name_);
-  bool const whole = driver_ != QLatin1String("BMP") || QFileInfo(workingPath()).size() >= bmpBytes(size);
-  if (!whole || !readLastRows(*image, size) || errors.hasFailure())
+  if (!hasItsEnd(*image, size) || errors.hasFailure())
     return tr("%1 was not written: the end of the image is missing; is the disk full?").arg(name_);
   return QString();
 }
 
+// Reading the last rows of a format that is written in one go would take as long as writing them all.
+bool ImageTarget::hasItsEnd(GDALDataset& image, QSize const& size) const {
+  for (Ending const& ending : endings)
+    if (driver_ == QLatin1String(ending.driver)) return endsWith(workingPath(), ending.bytes);
+  bool const whole = driver_ != QLatin1String("BMP") || QFileInfo(workingPath()).size() >= bmpBytes(size);
+  return whole && readLastRows(image, size);
+}
+
 QString ImageTarget::commit() {
-  int error = syncToDisk(workingPath());
+  int error = tellsLate(workingPath()) ? syncToDisk(workingPath()) : 0;
   if (error == 0 &&
       std::rename(QFile::encodeName(workingPath()).constData(), QFile::encodeName(path_).constData()) != 0)
     error = errno;

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class GDALDataset;
 class QTemporaryDir;
 
 /// An image file on its way into place. It is written in a working folder beside its place, so that whatever a failed
@@ -26,7 +27,7 @@ public:
   /// Whether a file can be put there at all; `document` is the one file that it must not replace.
   QString checkPlace(QString const& document) const;
 
-  /// Whether the format and the disk can hold an image of that size.
+  /// Whether the format, the disk and the memory can hold an image of that size.
   QString checkSize(QSize const& size) const;
 
   /// Makes the working folder.
@@ -35,7 +36,7 @@ public:
   /// Where to write the image: same suffix, in the working folder. After `prepare`.
   QString workingPath() const;
 
-  /// Opens what was written and reads its last rows.
+  /// Opens what was written and looks at its end.
   QString checkResult(QSize const& size) const;
 
   /// Moves the image into its place.
@@ -44,6 +45,8 @@ public:
 private:
   QString checkFormatLimits(QSize const& size) const;
   QString checkFreeSpace(QSize const& size) const;
+  QString checkFreeMemory(QSize const& size) const;
+  bool hasItsEnd(GDALDataset& image, QSize const& size) const;
 
   QString name_;  // as the user gave it, for sentences
   QString path_;  // absolute, links followed
