@@ -12,7 +12,7 @@ namespace SysDisplay {
 namespace {
 
 // Vertices nearer to each other than this can't be told apart in a stroke.
-constexpr double thinPx = 0.125;
+constexpr double thinPx = 0.25;
 
 // Nothing that a page needs reaches farther, and the outline has to stay within what the rasteriser can take.
 constexpr double farthestReachPx = 12000.0;

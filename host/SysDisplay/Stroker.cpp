@@ -13,7 +13,7 @@ constexpr double pi = 3.14159265358979323846;
 constexpr double arcTolerancePx = 0.04;
 
 // A join that opens no more than this is drawn as one point on either side.
-constexpr double smallGapPx = 0.125;
+constexpr double smallGapPx = 0.25;
 
 }  // namespace
 

@@ -7,7 +7,7 @@ namespace SysCarto {
 
 namespace {
 
-constexpr double cellPx = 1.0 / 8;
+constexpr double cellPx = 1.0 / 4;
 constexpr double sameResolution = 1e-6;
 
 // Cells come in steps of a quarter octave, the steps at places where no round resolution lies.
