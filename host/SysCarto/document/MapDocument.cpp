@@ -1,10 +1,10 @@
 #include <SysCarto/MapDocument.h>
 
 #include "DocumentArchive.h"
-#include "DocumentFile.h"
 #include "OperationStack.h"
 
 #include "host/SysUtility/FileSaver.h"
+#include "host/SysUtility/JsonFile.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -18,6 +18,7 @@
 namespace SysCarto {
 
 using SysUtility::_ptr_t;
+using SysUtility::aboutFile;
 using SysUtility::Archive;
 using SysUtility::make;
 
@@ -27,6 +28,8 @@ constexpr int thumbnailPx = 256;
 constexpr double cmPerInch = 2.54, pixelsPerInch = 96.0;
 
 QString translated(char const* text) { return QCoreApplication::translate("MapDocument", text); }
+
+SysUtility::JsonFileKind documentKind() { return {translated("map document"), QStringLiteral(".kdx"), 256}; }
 
 QString folderOf(QString const& path) { return QFileInfo(path).absolutePath(); }
 
@@ -102,7 +105,7 @@ QString MapDocument::Private::write(QString const& file, bool relativePaths, boo
     QString const problem = keepOldFile(file);
     if (!problem.isEmpty()) return problem;
   }
-  return SysUtility::FileSaver::save(file, documentText(archive.json()));
+  return SysUtility::FileSaver::save(file, SysUtility::jsonText(archive.json()));
 }
 
 MapDocument::MapDocument() : d(std::make_unique<Private>(this)) {}
@@ -119,7 +122,7 @@ bool MapDocument::New(QString const& path) {
 
 bool MapDocument::Open(QString const& path) {
   QString problem;
-  auto const json = readDocumentFile(path, problem);
+  auto const json = SysUtility::readJsonFile(path, documentKind(), problem);
   if (!json) return d->failed(problem);
 
   DocumentContent content;

@@ -8,18 +8,27 @@
 
 namespace SysAdapterUI {
 
-/// Reads style libraries.
+/// Reads style libraries. One that is missing, broken or unsafe to draw is passed over as a whole.
 class SYSADAPTERUI_EXPORT StyleGalleryClass {
 public:
   StyleGalleryClass();
   ~StyleGalleryClass();
 
-  /// Appends the names of the categories in a library. False where the file can't be read.
+  /// Appends the names of the outermost categories in a library. False where the file can't be read.
   bool GetCategorys(QString const& file, QString const& reserved, QStringList& categories);
 
-  /// Appends the items of a category, in the file's order. False where the file can't be read.
+  /// Appends the items of a category and of those within it ("NorthArrows/Compass roses" lies in "NorthArrows"), in the
+  /// file's order. False where the file can't be read.
   bool GetItems(QString const& file, QString const& category, QString const& reserved,
                 QVector<SysUtility::_ptr_t<SysDisplay::StyleGalleryItem>>& items);
+
+  // Beyond what the commands of a plug-in need.
+
+  /// Why the last call answered false: a sentence that names the file, the field and the fix. Empty after a success.
+  QString lastError() const;
+
+private:
+  QString error_;
 };
 
 }  // namespace SysAdapterUI

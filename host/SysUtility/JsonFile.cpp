@@ -1,27 +1,25 @@
-#include "DocumentFile.h"
+#include "JsonFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QJsonDocument>
 
-namespace SysCarto {
+namespace SysUtility {
 
 namespace {
 
 constexpr qint64 mebibyte = 1024 * 1024;
-constexpr qint64 largestDocument = 256 * mebibyte;
 
-QString translated(char const* text) { return QCoreApplication::translate("MapDocument", text); }
+QString translated(char const* text) { return QCoreApplication::translate("JsonFile", text); }
 
 // What stands in the way before a byte is read. A device or a pipe would be read for ever.
-QString problemWith(QFileInfo const& file) {
-  if (file.filePath().isEmpty()) return translated("no file was named; choose a .kdx file");
+QString problemWith(QFileInfo const& file, JsonFileKind const& kind) {
+  if (file.filePath().isEmpty()) return translated("no file was named; choose a %1 file").arg(kind.suffix);
   if (!file.exists()) return translated("there is no such file; check the name and the folder");
-  if (file.isDir()) return translated("this is a folder; choose a .kdx file in it");
-  if (!file.isFile()) return translated("this is no ordinary file; choose a .kdx file");
+  if (file.isDir()) return translated("this is a folder; choose a %1 file in it").arg(kind.suffix);
+  if (!file.isFile()) return translated("this is no ordinary file; choose a %1 file").arg(kind.suffix);
   return QString();
 }
 
@@ -38,8 +36,8 @@ QString problemWith(QByteArray const& text, QJsonParseError const& problem) {
       .arg(placeOf(text, problem.offset), problem.errorString());
 }
 
-std::optional<QByteArray> readAll(QString const& path, QString& problem) {
-  problem = problemWith(QFileInfo(path));
+std::optional<QByteArray> readAll(QString const& path, JsonFileKind const& kind, QString& problem) {
+  problem = problemWith(QFileInfo(path), kind);
   if (!problem.isEmpty()) return std::nullopt;
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
@@ -47,10 +45,12 @@ std::optional<QByteArray> readAll(QString const& path, QString& problem) {
     return std::nullopt;
   }
   // No more than there is: Qt makes room for all that it is asked for.
-  QByteArray const content = file.read(qMin(file.size(), largestDocument) + 1);
-  if (content.size() > largestDocument)
-    problem = translated("the file is larger than %1 MB, too large for a map document; choose another one")
-                  .arg(largestDocument / mebibyte);
+  qint64 const most = kind.mostMebibytes * mebibyte;
+  QByteArray const content = file.read(qMin(file.size(), most) + 1);
+  if (content.size() > most)
+    problem = translated("the file is larger than %1 MB, too large for a %2; choose another one")
+                  .arg(kind.mostMebibytes)
+                  .arg(kind.noun);
   else if (file.error() != QFileDevice::NoError)
     problem = translated("the file can't be read (%1); check the disk").arg(file.errorString());
   if (!problem.isEmpty()) return std::nullopt;
@@ -63,22 +63,22 @@ QString aboutFile(QString const& path, QString const& problem) {
   return path.isEmpty() ? problem : QDir::toNativeSeparators(path) + QStringLiteral(": ") + problem;
 }
 
-std::optional<QJsonObject> readDocumentFile(QString const& path, QString& error) {
+std::optional<QJsonObject> readJsonFile(QString const& path, JsonFileKind const& kind, QString& error) {
   QString problem;
   QJsonDocument document;
-  if (auto const content = readAll(path, problem)) {
+  if (auto const content = readAll(path, kind, problem)) {
     QJsonParseError parsing;
     document = QJsonDocument::fromJson(*content, &parsing);
     if (parsing.error != QJsonParseError::NoError)
       problem = problemWith(*content, parsing);
     else if (!document.isObject())
-      problem = translated("the file holds a list where a map document holds an object; choose another one");
+      problem = translated("the file holds a list where a %1 holds an object; choose another one").arg(kind.noun);
   }
   if (problem.isEmpty()) return document.object();
   error = aboutFile(path, problem);
   return std::nullopt;
 }
 
-QByteArray documentText(QJsonObject const& document) { return QJsonDocument(document).toJson(QJsonDocument::Indented); }
+QByteArray jsonText(QJsonObject const& object) { return QJsonDocument(object).toJson(QJsonDocument::Indented); }
 
-}  // namespace SysCarto
+}  // namespace SysUtility

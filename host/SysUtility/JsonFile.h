@@ -1,0 +1,31 @@
+#pragma once
+
+#include <SysUtility/Export.h>
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QString>
+
+#include <optional>
+
+namespace SysUtility {
+
+/// What a kind of file is called where something is wrong with one, and how large it may be.
+struct JsonFileKind {
+  QString noun;    ///< "map document"
+  QString suffix;  ///< ".kdx"
+  int mostMebibytes;
+};
+
+/// Reads the JSON object in a file. Nothing, with a sentence in `error` that names the file and the fix, where there is
+/// no such file, it is too large for its kind, or it holds no JSON object.
+SYSUTILITY_EXPORT std::optional<QJsonObject> readJsonFile(QString const& path, JsonFileKind const& kind,
+                                                          QString& error);
+
+/// The text of a file: equal objects give equal bytes.
+SYSUTILITY_EXPORT QByteArray jsonText(QJsonObject const& object);
+
+/// A sentence about a file: “FILE: problem”.
+SYSUTILITY_EXPORT QString aboutFile(QString const& path, QString const& problem);
+
+}  // namespace SysUtility

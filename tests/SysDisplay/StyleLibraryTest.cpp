@@ -1,0 +1,129 @@
+#include "host/SysDisplay/StyleLibrary.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+using SysDisplay::readStyleLibrary;
+using SysDisplay::StyleLibrary;
+using SysDisplay::writeStyleLibrary;
+
+class StyleLibraryTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() {
+    QFile file(QStringLiteral(PLOTVANE_SOURCE_DIR "/fuzz/seeds/style/everything.style"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    whole_ = file.readAll();
+  }
+
+  void aLibraryIsWrittenAsItWasRead() {
+    auto const first = read(whole_);
+    QVERIFY2(first, qPrintable(error_));
+    QCOMPARE(first->categories.size(), 5);
+    QString const path = folder_.filePath("again.style");
+    QCOMPARE(writeStyleLibrary(path, *first), QString());
+    auto const again = readStyleLibrary(path, error_);
+    QVERIFY2(again, qPrintable(error_));
+    QString const twice = folder_.filePath("twice.style");
+    QCOMPARE(writeStyleLibrary(twice, *again), QString());
+    QCOMPARE(contentOf(twice), contentOf(path));
+    QCOMPARE(again->categories[0].name, QString("NorthArrows/Plain"));
+    QCOMPARE(again->categories[3].items[0].name, QString("Marsh"));
+    QVERIFY(again->categories[3].items[0].symbol->GetType() == SysDisplay::SymbolType::Fill);
+  }
+
+  void whatCannotBeReadAgainIsNotWritten() {
+    QString const path = folder_.filePath("kept.style");
+    QCOMPARE(writeStyleLibrary(path, *read(whole_)), QString());
+    QByteArray const before = contentOf(path);
+    StyleLibrary nameless = *read(whole_);
+    nameless.categories[1].items[0].name = QStringLiteral(" ");
+    QVERIFY(writeStyleLibrary(path, nameless).contains("categories[1].items[0].name: is empty"));
+    StyleLibrary hollow = *read(whole_);
+    hollow.categories[2].items[0].symbol = nullptr;
+    QVERIFY(writeStyleLibrary(path, hollow).contains("categories[2].items[0].symbol"));
+    QCOMPARE(contentOf(path), before);
+  }
+
+  void cutOffAnywhereItIsRefused() {
+    for (int length = 0; length < whole_.size() - 2; ++length) {
+      QVERIFY2(!read(whole_.left(length)), qPrintable(QString::number(length)));
+      QVERIFY2(error_.contains("this is not JSON") && error_.startsWith(folder_.path()), qPrintable(error_));
+    }
+  }
+
+  void oneBitFlippedNeverPassesUnnoticedOrCrashes() {
+    int refused = 0;
+    for (int place = 0; place < whole_.size(); ++place) {
+      QByteArray damaged = whole_;
+      damaged[place] = static_cast<char>(damaged[place] ^ (1 << place % 8));
+      if (read(damaged)) continue;
+      ++refused;
+      QVERIFY2(error_.contains(": ") && error_.size() < 500, qPrintable(error_));
+    }
+    QVERIFY(refused > whole_.size() / 3);
+  }
+
+  void refused_data() {
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QString>("sentence");
+    auto const row = [](char const* name, char const* from, QByteArray const& to, char const* sentence) {
+      QTest::newRow(name) << QByteArray(from) << to << QString(sentence);
+    };
+    row("a document", "plotvane-style", "plotvane-document", "format: is not “plotvane-style”");
+    row("a newer version", "\"version\": 1", "\"version\": 2", "version: the library was written by a newer version");
+    row("no symbol", "\"symbol\"", "\"sybmol\"", "categories[0].items[0].symbol: is missing");
+    row("no name", "\"Needle\"", "\"\"", "categories[0].items[0].name: is empty");
+    row("an unknown symbol", "\"simpleMarker\"", "\"pictureMarker\"", "categories[1].items[0].symbol.type");
+    row("a colour that is none", "#3366cc", "blue", "categories[3].items[0].symbol.color");
+    row("a width without end", "\"width\": 2", "\"width\": 1e300", "categories[2].items[0].symbol.width");
+    row("an outside picture", "<path ", "<image href=\\\"/etc/passwd\\\"/><path ", "the SVG refers to “/etc/passwd”");
+    row("an outside address", "fill=\\\"#345\\\"", "fill=\\\"url(http://a/b)\\\"", "the SVG refers to");
+    row("a bomb of repetitions", "<path ", bomb(), "the SVG repeats its parts");
+    row("entities", "<svg ", "<!DOCTYPE svg [<!ENTITY a \\\"b\\\">]><svg ", "the SVG declares a document type");
+  }
+
+  void refused() {
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(QString, sentence);
+    QByteArray damaged = whole_;
+    damaged.replace(damaged.indexOf(from), from.size(), to);
+    QVERIFY(!read(damaged));
+    QVERIFY2(error_.contains(sentence), qPrintable(error_));
+    QVERIFY2(error_.startsWith(folder_.filePath("read.style: ")), qPrintable(error_));
+  }
+
+private:
+  static QByteArray bomb() {
+    QByteArray text = "<g id=\\\"a0\\\"><path d=\\\"M0 0Z\\\"/></g>";
+    for (int i = 1; i < 20; ++i) {
+      QByteArray const use = "<use href=\\\"#a" + QByteArray::number(i - 1) + "\\\"/>";
+      text += "<g id=\\\"a" + QByteArray::number(i) + "\\\">" + use + use + "</g>";
+    }
+    return text + "<path ";
+  }
+
+  static QByteArray contentOf(QString const& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  std::optional<StyleLibrary> read(QByteArray const& content) {
+    QString const path = folder_.filePath("read.style");
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write a test file");
+    file.close();
+    error_.clear();
+    return readStyleLibrary(path, error_);
+  }
+
+  QTemporaryDir folder_;
+  QByteArray whole_;
+  QString error_;
+};
+
+QTEST_MAIN(StyleLibraryTest)
+#include "StyleLibraryTest.moc"
