@@ -23,17 +23,29 @@ bool StyleGalleryClass::GetCategorys(QString const& file, QString const&, QStrin
   return true;
 }
 
-bool StyleGalleryClass::GetItems(QString const& file, QString const& category, QString const&,
-                                 QVector<_ptr_t<StyleGalleryItem>>& items) {
+template <class Accept>
+bool StyleGalleryClass::appendItems(QString const& file, Accept const& accept,
+                                    QVector<_ptr_t<StyleGalleryItem>>& items) {
   error_.clear();
   auto const library = SysDisplay::readStyleLibrary(file, error_);
   if (!library) return false;
-  for (StyleCategory const& part : library->categories) {
-    if (!SysDisplay::liesIn(part.name, category)) continue;
-    for (StyleItem const& item : part.items)
-      items << SysUtility::make<StyleGalleryItem>(item.name, part.name, item.symbol);
+  for (StyleCategory const& category : library->categories) {
+    if (!accept(category.name)) continue;
+    for (StyleItem const& item : category.items)
+      items << SysUtility::make<StyleGalleryItem>(item.name, category.name, item.symbol);
   }
   return true;
+}
+
+bool StyleGalleryClass::GetItems(QString const& file, QString const& category, QString const&,
+                                 QVector<_ptr_t<StyleGalleryItem>>& items) {
+  return appendItems(
+      file, [&](QString const& name) { return SysDisplay::liesIn(name, category); }, items);
+}
+
+bool StyleGalleryClass::GetAllItems(QString const& file, QVector<_ptr_t<StyleGalleryItem>>& items) {
+  return appendItems(
+      file, [](QString const&) { return true; }, items);
 }
 
 QString StyleGalleryClass::lastError() const { return error_; }

@@ -24,10 +24,17 @@ public:
 
   // Beyond what the commands of a plug-in need.
 
+  /// Appends the items of all categories. False where the file can't be read.
+  bool GetAllItems(QString const& file, QVector<SysUtility::_ptr_t<SysDisplay::StyleGalleryItem>>& items);
+
   /// Why the last call answered false: a sentence that names the file, the field and the fix. Empty after a success.
   QString lastError() const;
 
 private:
+  template <class Accept>
+  bool appendItems(QString const& file, Accept const& accept,
+                   QVector<SysUtility::_ptr_t<SysDisplay::StyleGalleryItem>>& items);
+
   QString error_;
 };
 

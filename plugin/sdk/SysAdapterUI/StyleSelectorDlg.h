@@ -13,7 +13,8 @@ namespace SysAdapterUI {
 /// What a style selector shows.
 enum orvSymbologyStyleClass { NorthArrowStyle = 0, MarkerStyle = 1, LineStyle = 2, FillStyle = 3, TextStyle = 4 };
 
-/// A dialog in which a person chooses a style.
+/// A dialog in which a person chooses a style: the symbols of the libraries that the settings name, as pictures by
+/// category, with a search. A library that can't be read is passed over and named in the dialog.
 class SYSADAPTERUI_EXPORT StyleSelectorDlg : public QDialog {
   Q_OBJECT
 
@@ -27,7 +28,13 @@ public:
   /// The chosen symbol after acceptance; empty where nothing was chosen.
   SysUtility::_ptr_t<SysUtility::CRef> GetStyleItem() const;
 
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+  void build();
+  void connectParts();
+
   struct Private;
   std::unique_ptr<Private> d;
 };

@@ -1,0 +1,171 @@
+#include "host/SysAdapterUI/StyleItemModel.h"
+#include "host/SysAdapterUI/SymbolPreview.h"
+
+#include <SysAdapterUI/StyleGalleryClass.h>
+#include <SysDisplay/MarkerSymbol.h>
+#include <SysUI/EnvironmentSetting.h>
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace SysAdapterUI;
+using SysDisplay::MarkerSymbol;
+using SysDisplay::Symbol;
+using SysDisplay::SymbolType;
+using SysUtility::_ptr_t;
+using SysUtility::ptr_cast;
+
+namespace {
+
+constexpr QSize sampleSize(64, 64);
+
+QImage sampleOf(Symbol const& symbol) {
+  QImage image(sampleSize, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  drawSymbolPreview(painter, image.rect(), symbol, 2, true);
+  return image;
+}
+
+}  // namespace
+
+// The library that comes with the host, and the dialog that shows it.
+class StyleTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() {
+    qputenv("PLOTVANE_SETTINGS", folder_.filePath("settings.ini").toUtf8());
+    library_ = SysUI::EnvironmentSetting::Instance()->GetStyleDir() + QStringLiteral("/ORV.style");
+    StyleGalleryClass gallery;
+    QVERIFY2(gallery.GetAllItems(library_, items_), qPrintable(gallery.lastError()));
+  }
+
+  void init() { QFile::remove(folder_.filePath("settings.ini")); }
+
+  void theLibraryHoldsEnoughOfEachClass_data() {
+    QTest::addColumn<int>("styleClass");
+    QTest::addColumn<int>("fewest");
+    QTest::newRow("north arrows") << int(NorthArrowStyle) << 16;
+    QTest::newRow("markers") << int(MarkerStyle) << 30;
+    QTest::newRow("lines") << int(LineStyle) << 20;
+    QTest::newRow("fills") << int(FillStyle) << 20;
+    QTest::newRow("texts") << int(TextStyle) << 5;
+  }
+
+  void theLibraryHoldsEnoughOfEachClass() {
+    QFETCH(int, styleClass);
+    QFETCH(int, fewest);
+    StyleItemModel model(nullptr);
+    model.load(static_cast<orvSymbologyStyleClass>(styleClass), {library_});
+    QVERIFY2(model.rowCount() >= fewest, qPrintable(QString::number(model.rowCount())));
+    QCOMPARE(model.problems(), QStringList());
+  }
+
+  void everyItemDrawsSomethingThatNoOtherOfItsCategoryDraws() {
+    QSet<QString> names;
+    QHash<QString, QList<QImage>> seen;
+    for (auto const& item : items_) {
+      QString const name = item->GetCategory().section('/', 0, 0) + '/' + item->GetName();
+      QVERIFY2(!names.contains(name), qPrintable(name + " is there twice"));
+      names << name;
+      QImage const image = sampleOf(*ptr_cast<Symbol>(item->GetItem()));
+      QImage blank(sampleSize, QImage::Format_RGB32);
+      blank.fill(Qt::white);
+      QVERIFY2(image != blank, qPrintable(item->GetName()));
+      auto const type = ptr_cast<Symbol>(item->GetItem())->GetType();
+      if (type != SymbolType::Marker || item->GetCategory().startsWith("Markers/Towns")) continue;
+      QVERIFY2(!seen[item->GetCategory()].contains(image), qPrintable(item->GetName()));
+      seen[item->GetCategory()] << image;
+    }
+  }
+
+  void theGalleryAppendsAndKnowsInnerCategories() {
+    StyleGalleryClass gallery;
+    QStringList categories{QStringLiteral("before")};
+    QVERIFY(gallery.GetCategorys(library_, QString(), categories));
+    QCOMPARE(categories, QStringList({"before", "NorthArrows", "Markers", "Lines", "Fills", "Texts"}));
+    QVector<_ptr_t<SysDisplay::StyleGalleryItem>> arrows, roses;
+    QVERIFY(gallery.GetItems(library_, "NorthArrows", QString(), arrows));
+    QVERIFY(gallery.GetItems(library_, "NorthArrows/Compass roses", QString(), roses));
+    QVERIFY(!roses.isEmpty() && arrows.size() > roses.size());
+    QVERIFY(gallery.GetItems(library_, "NorthArrow", QString(), roses));
+    QVERIFY(roses.size() < arrows.size());
+    QVERIFY(!gallery.GetItems(folder_.filePath("none.style"), "NorthArrows", QString(), arrows));
+    QVERIFY2(gallery.lastError().endsWith("none.style: there is no such file; check the name and the folder"),
+             qPrintable(gallery.lastError()));
+  }
+
+  void theDialogAnswersThePreselectedSymbolAndTheChosenOne() {
+    StyleSelectorDlg dialog(nullptr);
+    dialog.SetStyleItem(NorthArrowStyle, items_[3]->GetItem());
+    QVERIFY(sampleOf(*ptr_cast<Symbol>(dialog.GetStyleItem())) == sampleOf(*ptr_cast<Symbol>(items_[3]->GetItem())));
+    auto* const grid = dialog.findChild<QListView*>("grid");
+    dialog.show();
+    QTest::keyClick(grid, Qt::Key_Right);
+    QVERIFY(sampleOf(*ptr_cast<Symbol>(dialog.GetStyleItem())) == sampleOf(*ptr_cast<Symbol>(items_[4]->GetItem())));
+    QTest::keyClick(grid, Qt::Key_Return);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+  }
+
+  void aSymbolOfNoLibraryIsKeptAndShownFirst() {
+    auto const own = ptr_cast<MarkerSymbol>(ptr_cast<Symbol>(items_[0]->GetItem())->Clone());
+    own->SetAngle(33);
+    StyleSelectorDlg dialog(nullptr);
+    dialog.SetStyleItem(NorthArrowStyle, own);
+    QVERIFY(dialog.GetStyleItem() == own);
+    dialog.SetStyleItem(NorthArrowStyle, nullptr);
+    QVERIFY(!dialog.GetStyleItem());
+    QVERIFY(!dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
+  }
+
+  void searchAndCategoryNarrowTheChoice() {
+    StyleSelectorDlg dialog(nullptr);
+    dialog.SetStyleItem(NorthArrowStyle, items_[0]->GetItem());
+    dialog.show();
+    auto* const grid = dialog.findChild<QListView*>("grid");
+    auto* const search = dialog.findChild<QLineEdit*>();
+    auto* const categories = dialog.findChild<QListWidget*>("categories");
+    int const all = grid->model()->rowCount();
+    QTest::keyClicks(search, "dial COMP");
+    QCOMPARE(grid->model()->rowCount(), 1);
+    QCOMPARE(grid->currentIndex().data().toString(), QString("Compass dial"));
+    QTest::keyClick(search, Qt::Key_Escape);
+    QCOMPARE(grid->model()->rowCount(), all);
+    QVERIFY(dialog.isVisible());
+    categories->setCurrentRow(2);
+    QVERIFY(grid->model()->rowCount() > 0 && grid->model()->rowCount() < all);
+    QTest::keyClicks(search, "nothing of the kind");
+    QVERIFY(!dialog.GetStyleItem());
+  }
+
+  void aBrokenLibraryIsNamedAndTheOthersAreShown() {
+    QFile broken(folder_.filePath("broken.style"));
+    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("{\"format\": ") > 0);
+    broken.close();
+    SysUI::EnvironmentSetting::Instance()->SetPropertyValue("PATH", "StyleFilePaths",
+                                                            broken.fileName() + ",/missing.style," + library_);
+    StyleSelectorDlg dialog(nullptr);
+    dialog.SetStyleItem(FillStyle, nullptr);
+    dialog.show();
+    QVERIFY(dialog.findChild<QListView*>("grid")->model()->rowCount() >= 20);
+    auto* const problems = dialog.findChild<QLabel*>("problems");
+    QVERIFY(problems->isVisible());
+    QVERIFY2(problems->text().startsWith(broken.fileName()), qPrintable(problems->text()));
+  }
+
+private:
+  QTemporaryDir folder_;
+  QString library_;
+  QVector<_ptr_t<SysDisplay::StyleGalleryItem>> items_;
+};
+
+QTEST_MAIN(StyleTest)
+#include "StyleTest.moc"
