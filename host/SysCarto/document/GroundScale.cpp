@@ -21,6 +21,9 @@ constexpr double highestLatitude = 89.0;
 // senseless one.
 constexpr double mostStretched = 1000.0;
 
+constexpr double northStep = 1e-5;  // degrees, to either side of a place
+constexpr double nearestToPole = 1e-3;
+
 constexpr double degrees = 180.0 / 3.14159265358979323846;
 
 double length(geod_geodesic const& ellipsoid, double const* longitudes, double const* latitudes) {
@@ -33,7 +36,7 @@ double length(geod_geodesic const& ellipsoid, double const* longitudes, double c
 
 struct GroundScale::Private {
   std::unique_ptr<OGRSpatialReference> system, geographic;
-  std::unique_ptr<OGRCoordinateTransformation> toGeographic;  // null in a geographic system
+  std::unique_ptr<OGRCoordinateTransformation> toGeographic, fromGeographic;  // null in a geographic system
   geod_geodesic ellipsoid;
   double degreesPerUnit = 1;  // of the geographic system
 
@@ -51,8 +54,9 @@ GroundScale::GroundScale(QString const& definition) : d(std::make_unique<Private
   if (!d->geographic) return;
   d->geographic->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
   d->degreesPerUnit = d->geographic->GetAngularUnits() * degrees;
-  if (d->system->IsProjected())
-    d->toGeographic.reset(OGRCreateCoordinateTransformation(d->system.get(), d->geographic.get()));
+  if (!d->system->IsProjected()) return;
+  d->toGeographic.reset(OGRCreateCoordinateTransformation(d->system.get(), d->geographic.get()));
+  d->fromGeographic.reset(OGRCreateCoordinateTransformation(d->geographic.get(), d->system.get()));
 }
 
 GroundScale::~GroundScale() = default;
@@ -83,6 +87,17 @@ double GroundScale::metresPerUnit(double x, double y, double step) const {
   bool const isGround =
       d->toGeographic ? metres > nominal / mostStretched && metres < nominal * mostStretched : metres > 0;
   return isGround ? metres : nominal;
+}
+
+double GroundScale::northAngle(double x, double y) const {
+  if (!d->toGeographic || !d->fromGeographic) return 0;
+  SysGeometry::QuietOgr const quiet;
+  if (!d->toGeographic->Transform(1, &x, &y) || std::abs(y) * d->degreesPerUnit > 90 - nearestToPole) return 0;
+  double const step = northStep / d->degreesPerUnit;
+  double xs[] = {x, x}, ys[] = {y - step, y + step};
+  if (!d->fromGeographic->Transform(2, xs, ys)) return 0;
+  double const angle = std::atan2(xs[0] - xs[1], ys[1] - ys[0]) * degrees;
+  return std::isfinite(angle) ? angle : 0;
 }
 
 }  // namespace SysCarto

@@ -19,6 +19,10 @@ public:
   /// measured. Always positive: where the projection has no ground (beyond its edge), its nominal unit counts.
   double metresPerUnit(double x, double y, double step) const;
 
+  /// Degrees, counterclockwise from up, to true north at a place in map units. 0 where there is no north: in plain
+  /// coordinates, at a pole, and beyond the projection's edge.
+  double northAngle(double x, double y) const;
+
 private:
   struct Private;
   std::unique_ptr<Private> d;

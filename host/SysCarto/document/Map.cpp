@@ -93,6 +93,11 @@ void Map::SetCoordinateSystem(QString const& definition) {
   d->fit();
 }
 
+double Map::GetNorthAngle() const {
+  auto const centre = GetExtent()->GetAnchorPoint();
+  return d->ground->northAngle(centre->GetX(), centre->GetY());
+}
+
 Envelope Map::GetStoredBounds() const { return d->bounds; }
 
 void Map::setFrameSize(double widthCm, double heightCm) {

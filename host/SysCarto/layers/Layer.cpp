@@ -17,6 +17,13 @@ bool Layer::IsVisible() const { return d->visible; }
 double Layer::GetMinScale() const { return d->scales.comparedMin(); }
 double Layer::GetMaxScale() const { return d->scales.comparedMax(); }
 
+bool Layer::showsAt(double scale) const {
+  double const min = GetMinScale(), max = GetMaxScale();
+  return IsVisible() && !(min > 0 && scale >= max) && !(max > 0 && min >= scale);
+}
+
+QList<LegendClass> Layer::legendClasses() const { return {}; }
+
 QString Layer::GetName() const { return d->name; }
 void Layer::SetName(QString const& name) { d->name = name; }
 void Layer::SetVisible(bool visible) { d->visible = visible; }

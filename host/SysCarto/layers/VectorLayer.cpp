@@ -80,6 +80,12 @@ void VectorLayer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& t
   }
 }
 
+QList<LegendClass> VectorLayer::legendClasses() const {
+  QList<LegendClass> classes;
+  for (SymbolClass const& one : renderer_->classes()) classes << LegendClass{one.label, one.symbol};
+  return classes;
+}
+
 bool VectorLayer::IsAnnotationVisible() const { return labels_.visible && labels_.isUsed(); }
 _ptr_t<AnnotationProperties> VectorLayer::GetAnnotationProperties() const { return properties_; }
 

@@ -36,6 +36,7 @@ public:
 
   void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation, int phase,
             SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) override;
+  QList<LegendClass> legendClasses() const override;
   bool IsAnnotationVisible() const override;
   SysUtility::_ptr_t<AnnotationProperties> GetAnnotationProperties() const override;
   void GetAnnotationElements(QMap<int, QList<SysUtility::_ptr_t<SysGeometry::Polygon>>>& obstacles,

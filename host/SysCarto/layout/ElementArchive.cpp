@@ -209,11 +209,7 @@ void describeSurround(Archive& archive, _ptr_t<MapSurround>& surround, DocumentC
   _ptr_t<Map> map = surround->GetMap();
   describeMapNumber(archive, map, context, false);
   surround->SetMap(map);
-  auto const arrow = ptr_cast<MarkerNorthArrow>(surround);
-  if (!arrow) return;
-  auto symbol = arrow->GetMarkerSymbol();
-  describeOptionalSymbol(archive, "symbol", symbol);
-  arrow->SetMarkerSymbol(symbol);
+  surround->describe(archive);
 }
 
 void describe(Archive& archive, MapSurroundFrame& frame, Scope scope) {

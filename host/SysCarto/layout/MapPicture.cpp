@@ -25,11 +25,6 @@ QRect pixelsOf(MapFrameElement const& frame, DisplayTransformation const& transf
   return {upperLeft, lowerRight};
 }
 
-bool showsAt(Layer const& layer, double scale) {
-  double const min = layer.GetMinScale(), max = layer.GetMaxScale();
-  return layer.IsVisible() && !(min > 0 && scale >= max) && !(max > 0 && min >= scale);
-}
-
 // The map's transformation for the part `clipPx` of a frame that has the pixels `framePx`.
 _ptr_t<DisplayTransformation> transformationOf(Map const& map, QRect const& framePx, QRect const& clipPx,
                                                double pageScale) {
@@ -59,7 +54,7 @@ MapPicture drawMap(MapFrameElement const& frame, DisplayTransformation const& tr
   QPainter painter(&picture.image);
   for (_ptr_t<Layer> const& layer : map->GetLayers()) {
     if (cancel && cancel->IsCanced()) break;
-    if (showsAt(*layer, mapped->GetMapScale())) layer->Draw(painter, mapped, 1, cancel);
+    if (layer->showsAt(mapped->GetMapScale())) layer->Draw(painter, mapped, 1, cancel);
   }
   if (IElementContainer* graphics = map->GetGraphicsContainer()) graphics->Draw(painter, mapped, 1, cancel);
   return picture;

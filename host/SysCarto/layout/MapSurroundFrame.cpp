@@ -1,10 +1,47 @@
+#include "GraphicElements.h"
+#include "TextElement.h"
+
 #include <SysCarto/MapSurroundFrame.h>
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
 
 namespace SysCarto {
 
 using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
+
+namespace {
+
+QColor quietColor() { return QColor(150, 150, 155); }
+
+// What stands in a view where a surround has nothing to show yet, so that it can be seen and selected.
+QList<_ptr_t<Element>> placeholder(Envelope const& rectangle, QString const& title) {
+  auto const outline = SysUtility::make<SysDisplay::SimpleLineSymbol>();
+  outline->SetColor(quietColor());
+  outline->SetStyle(SysDisplay::SimpleLineStyle::Dash);
+  auto const fill = SysUtility::make<SysDisplay::SimpleFillSymbol>();
+  fill->SetStyle(SysDisplay::SimpleFillStyle::Null);
+  fill->SetOutlineSymbol(outline);
+  auto const box = SysUtility::make<RectangleElement>();
+  box->setShape(SysUtility::make<Envelope>(rectangle));
+  box->setSymbol(fill);
+
+  SysDisplay::TextFormat format;
+  format.size = 8;
+  format.color = quietColor();
+  format.horizontal = SysDisplay::HorizontalAlignment::Center;
+  format.vertical = SysDisplay::VerticalAlignment::Middle;
+  auto const text = SysUtility::make<TextElement>();
+  text->setText(title);
+  text->setSymbol(SysUtility::make<SysDisplay::TextSymbol>(format));
+  auto const middle = rectangle.GetAnchorPoint();
+  text->setPosition(middle->GetX(), middle->GetY());
+  return {box, text};
+}
+
+}  // namespace
 
 struct MapSurroundFrame::Private {
   _ptr_t<MapSurround> surround;
@@ -33,7 +70,9 @@ void MapSurroundFrame::Draw(QPainter& painter, _ptr_t<DisplayTransformation> con
   DrawBackground(painter, transformation);
   DrawBorder(painter, transformation);
   if (!d->surround) return;
-  for (_ptr_t<Element> const& element : d->surround->GetElements()) element->Draw(painter, transformation, cancel);
+  QList<_ptr_t<Element>> elements = d->surround->GetElements();
+  if (elements.isEmpty()) elements = placeholder(*GetEnvelope(), d->surround->title());
+  for (_ptr_t<Element> const& element : qAsConst(elements)) element->Draw(painter, transformation, cancel);
 }
 
 _ptr_t<Element> MapSurroundFrame::Clone() const { return SysUtility::make<MapSurroundFrame>(*this); }

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <SysCarto/Export.h>
-#include <SysDisplay/DisplayTransformation.h>
+#include <SysDisplay/Symbol.h>
 #include <SysUI/TrackerCancel.h>
 
+#include <QList>
 #include <QString>
 
 #include <memory>
@@ -11,6 +12,12 @@
 class QPainter;
 
 namespace SysCarto {
+
+/// One kind of things that a layer shows, as a legend lists it.
+struct LegendClass {
+  QString label;  ///< may be empty
+  SysUtility::_ptr_t<SysDisplay::Symbol> symbol;
+};
 
 /// A layer of a map. It holds its data projected to the map's coordinate system.
 class SYSCARTO_EXPORT Layer : public SysUtility::CRef {
@@ -39,6 +46,12 @@ public:
 
   /// 0 for a side without a limit; the other side then keeps its meaning.
   void SetScaleRange(double minDenominator, double maxDenominator);
+
+  /// Whether the layer shows at a scale denominator: visible, and strictly between its limits.
+  bool showsAt(double scale) const;
+
+  /// What the layer shows, in the order of a legend; empty where it has nothing to tell.
+  virtual QList<LegendClass> legendClasses() const;
 
   // The limits as they were set, 0 for an open side: what a document stores.
   double storedMinScale() const;

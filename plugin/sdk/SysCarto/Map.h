@@ -43,6 +43,9 @@ public:
   /// Set before layers are added: they are projected when they are opened.
   void SetCoordinateSystem(QString const& definition);
 
+  /// Degrees, counterclockwise from up, to true north at the map's centre; 0 in plain coordinates and at a pole.
+  double GetNorthAngle() const;
+
   /// The bounds as they were set, before they are fitted to the frame; a document stores these.
   SysGeometry::Envelope GetStoredBounds() const;
 

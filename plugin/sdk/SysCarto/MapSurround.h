@@ -4,8 +4,13 @@
 #include <SysDisplay/MarkerSymbol.h>
 
 #include <QList>
+#include <QString>
 
 #include <memory>
+
+namespace SysUtility {
+class Archive;
+}
 
 namespace SysCarto {
 
@@ -37,15 +42,26 @@ public:
   SysGeometry::Envelope const& rectangle() const;
   virtual SysUtility::_ptr_t<MapSurround> Clone() const = 0;
 
+  /// What a person calls this kind of surround.
+  virtual QString title() const;
+
+  /// Describes the settings for a document; for the host.
+  virtual void describe(SysUtility::Archive& archive);
+
 protected:
   explicit MapSurround(int kind);
   MapSurround(MapSurround const&);
+
+  /// Whether there is a map to explain and a rectangle to do it in.
+  bool hasPlace() const;
 
 private:
   struct Private;
   std::unique_ptr<Private> d;
 };
 
+/// The layers that the map shows at its scale, the topmost first, each with its classes. In columns where one would be
+/// too high, and smaller where it would not fit otherwise.
 class SYSCARTO_EXPORT Legend final : public MapSurround {
 public:
   Legend();
@@ -53,8 +69,15 @@ public:
   ~Legend() override;
   QList<SysUtility::_ptr_t<Element>> GetElements() override;
   SysUtility::_ptr_t<MapSurround> Clone() const override;
+  QString title() const override;
+  void describe(SysUtility::Archive& archive) override;
+
+private:
+  struct Private;
+  std::unique_ptr<Private> d;
 };
 
+/// A bar of round lengths of ground, as long as its frame allows. True at the map's centre, as is the map's scale.
 class SYSCARTO_EXPORT ScaleLine final : public MapSurround {
 public:
   ScaleLine();
@@ -62,8 +85,15 @@ public:
   ~ScaleLine() override;
   QList<SysUtility::_ptr_t<Element>> GetElements() override;
   SysUtility::_ptr_t<MapSurround> Clone() const override;
+  QString title() const override;
+  void describe(SysUtility::Archive& archive) override;
+
+private:
+  struct Private;
+  std::unique_ptr<Private> d;
 };
 
+/// The map's scale as a text, 1:25,000,000, to four digits.
 class SYSCARTO_EXPORT ScaleText final : public MapSurround {
 public:
   ScaleText();
@@ -71,8 +101,16 @@ public:
   ~ScaleText() override;
   QList<SysUtility::_ptr_t<Element>> GetElements() override;
   SysUtility::_ptr_t<MapSurround> Clone() const override;
+  QString title() const override;
+  void describe(SysUtility::Archive& archive) override;
+
+private:
+  struct Private;
+  std::unique_ptr<Private> d;
 };
 
+/// A marker symbol, as large as its frame allows, that points upwards or, where asked, to true north at the map's
+/// centre.
 class SYSCARTO_EXPORT MarkerNorthArrow final : public MapSurround {
 public:
   MarkerNorthArrow();
@@ -80,12 +118,19 @@ public:
   ~MarkerNorthArrow() override;
   QList<SysUtility::_ptr_t<Element>> GetElements() override;
   SysUtility::_ptr_t<MapSurround> Clone() const override;
+  QString title() const override;
+  void describe(SysUtility::Archive& archive) override;
 
+  /// An empty pointer brings back the symbol of a new arrow.
   void SetMarkerSymbol(SysUtility::_ptr_t<SysDisplay::MarkerSymbol> const& symbol);
   SysUtility::_ptr_t<SysDisplay::MarkerSymbol> GetMarkerSymbol() const;
 
+  bool pointsToTrueNorth() const { return trueNorth_; }
+  void setPointsToTrueNorth(bool on) { trueNorth_ = on; }
+
 private:
-  SysUtility::_ptr_t<SysDisplay::MarkerSymbol> symbol_;
+  SysUtility::_ptr_t<SysDisplay::MarkerSymbol> symbol_;  // empty for that of a new arrow
+  bool trueNorth_ = false;
 };
 
 }  // namespace SysCarto

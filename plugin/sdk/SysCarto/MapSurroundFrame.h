@@ -17,6 +17,9 @@ public:
   void SetMapSurround(SysUtility::_ptr_t<MapSurround> const& surround);
 
   int GetType() const override;
+
+  /// Draws the frame's parts and the surround's elements, or a quiet placeholder where it answers none. An export asks
+  /// the surround for its elements itself, so that no placeholder is printed.
   void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
             SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) override;
   SysUtility::_ptr_t<Element> Clone() const override;

@@ -1,6 +1,8 @@
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurround.h>
 
+#include <QCoreApplication>
+
 namespace SysCarto {
 
 using SysGeometry::Envelope;
@@ -21,5 +23,10 @@ void MapSurround::SetMap(_ptr_t<Map> const& map) { d->map = map; }
 
 void MapSurround::setRectangle(Envelope const& rectangle) { d->rectangle = rectangle; }
 Envelope const& MapSurround::rectangle() const { return d->rectangle; }
+
+QString MapSurround::title() const { return QCoreApplication::translate("MapSurround", "Map surround"); }
+void MapSurround::describe(SysUtility::Archive&) {}
+
+bool MapSurround::hasPlace() const { return d->map && d->rectangle.GetWidth() > 0 && d->rectangle.GetHeight() > 0; }
 
 }  // namespace SysCarto

@@ -1,0 +1,84 @@
+#include "LegendLayout.h"
+
+#include "host/SysDisplay/SymbolArchive.h"
+
+#include <SysCarto/Map.h>
+#include <SysCarto/MapSurround.h>
+
+#include <QCoreApplication>
+
+namespace SysCarto {
+
+using SysDisplay::TextFormat;
+using SysDisplay::TextSymbol;
+using SysUtility::_ptr_t;
+using SysUtility::Archive;
+using SysUtility::make;
+
+namespace {
+
+constexpr int longestLabel = 80;
+
+QString translated(char const* text) { return QCoreApplication::translate("MapSurround", text); }
+
+_ptr_t<TextSymbol> usual(_ptr_t<TextSymbol> const& chosen, double sizePt, bool bold) {
+  TextFormat format;
+  format.size = sizePt;
+  format.bold = bold;
+  if (chosen) format = chosen->format();
+  format.horizontal = SysDisplay::HorizontalAlignment::Left;
+  format.vertical = SysDisplay::VerticalAlignment::Top;
+  return make<TextSymbol>(format);
+}
+
+QString shortened(QString const& label) {
+  return label.size() > longestLabel ? label.left(longestLabel - 1).trimmed() + QChar(0x2026) : label;
+}
+
+}  // namespace
+
+struct Legend::Private {
+  QString title = translated("Legend");
+  _ptr_t<TextSymbol> titleSymbol, headingSymbol, labelSymbol;  // empty for the usual ones
+  QStringList omitted;                                         // names of layers
+
+  // A layer with one class is one entry; one with several has its name above them.
+  void addRows(Layer const& layer, QVector<LegendRow>& rows) const {
+    QList<LegendClass> const classes = layer.legendClasses();
+    if (classes.size() > 1) rows << LegendRow{shortened(layer.GetName()), nullptr, LegendRow::Heading};
+    for (LegendClass const& one : classes) {
+      QString const otherwise = classes.size() > 1 ? translated("Other") : layer.GetName();
+      rows << LegendRow{shortened(one.label.isEmpty() ? otherwise : one.label), one.symbol, LegendRow::Entry};
+    }
+  }
+};
+
+Legend::Legend() : MapSurround(1), d(std::make_unique<Private>()) {}
+Legend::Legend(Legend const& other) : MapSurround(other), d(std::make_unique<Private>(*other.d)) {}
+Legend::~Legend() = default;
+
+QList<_ptr_t<Element>> Legend::GetElements() {
+  if (!hasPlace()) return {};
+  auto const& layers = GetMap()->GetLayers();
+  double const scale = GetMap()->GetDisplayTransformation()->GetMapScale();
+  QVector<LegendRow> rows;
+  for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer)
+    if ((*layer)->showsAt(scale) && !d->omitted.contains((*layer)->GetName())) d->addRows(**layer, rows);
+  if (rows.isEmpty()) return {};
+  LegendLayout layout(
+      {usual(d->titleSymbol, 12, true), usual(d->headingSymbol, 9, true), usual(d->labelSymbol, 8, false)});
+  return layout.elements(d->title, rows, rectangle());
+}
+
+_ptr_t<MapSurround> Legend::Clone() const { return make<Legend>(*this); }
+QString Legend::title() const { return translated("Legend"); }
+
+void Legend::describe(Archive& archive) {
+  archive.text("title", d->title, translated("Legend"));
+  SysDisplay::describeOptionalSymbol(archive, "titleSymbol", d->titleSymbol);
+  SysDisplay::describeOptionalSymbol(archive, "headingSymbol", d->headingSymbol);
+  SysDisplay::describeOptionalSymbol(archive, "labelSymbol", d->labelSymbol);
+  archive.texts("omit", d->omitted);
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,152 @@
+#include "LegendLayout.h"
+
+#include "Pieces.h"
+
+#include <SysDisplay/LineSymbol.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace SysCarto {
+
+using SysDisplay::FillSymbol;
+using SysDisplay::LineSymbol;
+using SysDisplay::MarkerSymbol;
+using SysDisplay::Symbol;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::ptr_cast;
+
+namespace {
+
+// In points.
+constexpr double patchWidth = 20, patchHeight = 10;
+constexpr double patchGap = 6;  // between a patch and its label
+constexpr double rowGap = 3;    // between two rows
+constexpr double layerGap = 7;  // before a heading
+constexpr double titleGap = 6;  // below the title
+constexpr double columnGap = 16;
+constexpr int mostColumns = 12;
+
+double heightOf(_ptr_t<Symbol> const& symbol) {
+  auto const marker = ptr_cast<MarkerSymbol>(symbol);
+  return marker ? std::max(patchHeight, unitBounds(*marker).height() * marker->GetSize()) : patchHeight;
+}
+
+}  // namespace
+
+LegendLayout::LegendLayout(LegendLettering lettering) : lettering_(std::move(lettering)) {}
+
+void LegendLayout::measure(QString const& title, QVector<LegendRow> const& rows) {
+  QRectF const titleBounds = lettering_.title->bounds(title);
+  titleWidth_ = titleBounds.width();
+  titleHeight_ = title.isEmpty() ? 0 : titleBounds.height() + titleGap;
+  sizes_.clear();
+  for (int i = 0; i < rows.size(); ++i) {
+    LegendRow const& row = rows[i];
+    bool const isHeading = row.kind == LegendRow::Heading;
+    QRectF const text = (isHeading ? lettering_.heading : lettering_.label)->bounds(row.text);
+    bool const startsLayer = isHeading && i > 0;
+    if (isHeading)
+      sizes_ << Measured{text.height(), text.width(), startsLayer ? layerGap : rowGap};
+    else
+      sizes_ << Measured{std::max(text.height(), heightOf(row.symbol)), patchWidth + patchGap + text.width(), rowGap};
+  }
+}
+
+// A heading stays with its first class.
+QVector<LegendLayout::Column> LegendLayout::columnsOf(QVector<LegendRow> const& rows, double mostHeight) const {
+  QVector<Column> columns;
+  for (int i = 0; i < rows.size(); ++i) {
+    bool const leads = rows[i].kind == LegendRow::Heading && i + 1 < rows.size();
+    double const needed = sizes_[i].height + (leads ? sizes_[i + 1].above + sizes_[i + 1].height : 0);
+    bool const follows = i > 0 && rows[i - 1].kind == LegendRow::Heading;
+    bool const isFull = !columns.isEmpty() && columns.last().height + sizes_[i].above + needed > mostHeight + 1e-6;
+    if (columns.isEmpty() || (isFull && !follows)) columns << Column{i, 0, 0, 0};
+    Column& column = columns.last();
+    column.height += (column.count > 0 ? sizes_[i].above : 0) + sizes_[i].height;
+    column.width = std::max(column.width, sizes_[i].width);
+    ++column.count;
+  }
+  return columns;
+}
+
+LegendLayout::Arrangement LegendLayout::arrange(QVector<LegendRow> const& rows, int columns,
+                                                Envelope const& area) const {
+  double total = 0, tallest = 0;
+  for (Measured const& size : sizes_) {
+    total += size.above + size.height;
+    tallest = std::max(tallest, size.height);
+  }
+  // The lowest height for which the rows fill no more than so many columns.
+  double low = std::max(total / columns * 0.5, tallest), high = total;
+  for (int i = 0; i < 24; ++i) {
+    double const middle = (low + high) / 2;
+    (columnsOf(rows, middle).size() <= columns ? high : low) = middle;
+  }
+  Arrangement result{columnsOf(rows, high), 0, titleHeight_, 1};
+  double deepest = 0;
+  for (Column const& column : qAsConst(result.columns)) {
+    result.width += column.width + (result.width > 0 ? columnGap : 0);
+    deepest = std::max(deepest, column.height);
+  }
+  result.width = std::max(result.width, titleWidth_);
+  result.height += deepest;
+  result.factor =
+      std::min({1.0, area.GetWidth() / cmPerPoint / result.width, area.GetHeight() / cmPerPoint / result.height});
+  return result;
+}
+
+QList<_ptr_t<Element>> LegendLayout::elements(QString const& title, QVector<LegendRow> const& rows,
+                                              Envelope const& area) {
+  measure(title, rows);
+  Arrangement best = arrange(rows, 1, area);
+  for (int columns = 2; columns <= mostColumns && best.factor < 1; ++columns) {
+    Arrangement const next = arrange(rows, columns, area);
+    if (next.factor > best.factor + 1e-9) best = next;
+  }
+  left_ = area.GetXMin();
+  top_ = area.GetYMax();
+  factor_ = best.factor;
+  if (factor_ < 1)
+    for (auto* symbol : {&lettering_.title, &lettering_.heading, &lettering_.label})
+      *symbol = resized(**symbol, factor_);
+  pieces_.clear();
+  if (titleHeight_ > 0) pieces_ << textPiece(title, lettering_.title, onPage(0, 0));
+  double x = 0;
+  for (Column const& column : qAsConst(best.columns)) {
+    double y = titleHeight_;
+    for (int i = column.first; i < column.first + column.count; ++i) {
+      if (i > column.first) y += sizes_[i].above;
+      addRow(rows[i], sizes_[i], x, y);
+      y += sizes_[i].height;
+    }
+    x += column.width + columnGap;
+  }
+  return pieces_;
+}
+
+void LegendLayout::addRow(LegendRow const& row, Measured const& size, double x, double y) {
+  auto const& symbol = row.kind == LegendRow::Heading ? lettering_.heading : lettering_.label;
+  double const textHeight = symbol->bounds(row.text).height() / factor_;
+  double const indent = row.kind == LegendRow::Heading ? 0 : patchWidth + patchGap;
+  addPatch(row.symbol, x, y + size.height / 2);
+  pieces_ << textPiece(row.text, symbol, onPage(x + indent, y + (size.height - textHeight) / 2));
+}
+
+void LegendLayout::addPatch(_ptr_t<Symbol> const& symbol, double x, double middle) {
+  QPointF const upperLeft = onPage(x, middle - patchHeight / 2),
+                lowerRight = onPage(x + patchWidth, middle + patchHeight / 2);
+  if (auto const marker = ptr_cast<MarkerSymbol>(symbol))
+    pieces_ << markerPiece(onPage(x + patchWidth / 2, middle), marker);
+  else if (auto const line = ptr_cast<LineSymbol>(symbol))
+    pieces_ << linePiece({onPage(x, middle), onPage(x + patchWidth, middle)}, line);
+  else if (auto const fill = ptr_cast<FillSymbol>(symbol))
+    pieces_ << rectanglePiece(upperLeft.x(), lowerRight.y(), lowerRight.x(), upperLeft.y(), fill);
+}
+
+QPointF LegendLayout::onPage(double x, double y) const {
+  return {left_ + x * factor_ * cmPerPoint, top_ - y * factor_ * cmPerPoint};
+}
+
+}  // namespace SysCarto

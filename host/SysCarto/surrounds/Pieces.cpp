@@ -1,0 +1,80 @@
+#include "Pieces.h"
+
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/TextElement.h"
+#include "host/SysDisplay/MarkerPainter.h"
+
+#include <QLocale>
+
+#include <cmath>
+
+namespace SysCarto {
+
+using SysDisplay::FillSymbol;
+using SysDisplay::LineSymbol;
+using SysDisplay::MarkerSymbol;
+using SysDisplay::TextSymbol;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+_ptr_t<Element> textPiece(QString const& text, _ptr_t<TextSymbol> const& symbol, QPointF const& position) {
+  auto const element = make<TextElement>();
+  element->setText(text);
+  element->setSymbol(symbol);
+  element->setPosition(position.x(), position.y());
+  return element;
+}
+
+_ptr_t<Element> rectanglePiece(double left, double bottom, double right, double top, _ptr_t<FillSymbol> const& symbol) {
+  auto const element = make<RectangleElement>();
+  element->setShape(make<SysGeometry::Envelope>(left, bottom, right, top));
+  element->setSymbol(symbol);
+  return element;
+}
+
+_ptr_t<Element> linePiece(QVector<QPointF> const& points, _ptr_t<LineSymbol> const& symbol) {
+  auto const element = make<LineElement>();
+  element->setShape(make<SysGeometry::Polyline>(points));
+  element->setSymbol(symbol);
+  return element;
+}
+
+_ptr_t<Element> markerPiece(QPointF const& position, _ptr_t<MarkerSymbol> const& symbol) {
+  auto const element = make<MarkerElement>();
+  element->setShape(make<SysGeometry::Point>(position.x(), position.y(), 0.0));
+  element->setSymbol(symbol);
+  return element;
+}
+
+QRectF unitBounds(MarkerSymbol const& symbol) {
+  constexpr double measuredPt = 100;
+  auto const measured = ptr_cast<SysDisplay::PreparableMarker>(symbol.Clone());
+  if (!measured) return {};
+  measured->SetSize(measuredPt);
+  auto const drawing = measured->prepare(1);
+  if (!drawing) return {};
+  QRectF const bounds = drawing->bounds();
+  return {bounds.topLeft() / measuredPt, bounds.size() / measuredPt};
+}
+
+_ptr_t<TextSymbol> resized(TextSymbol const& symbol, double factor) {
+  auto format = symbol.format();
+  format.size *= factor;
+  format.letterSpacing *= factor;
+  format.haloSize *= factor;
+  return make<TextSymbol>(format);
+}
+
+// The locale of programs ("C") groups nothing; people who have chosen none read the English way.
+QString grouped(double number) {
+  QLocale const locale = QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale();
+  double const rounded = std::round(number * 1e6) / 1e6;
+  int decimals = 0;
+  for (double shifted = rounded; decimals < 6 && std::abs(shifted - std::round(shifted)) > 1e-6 * std::abs(shifted);
+       shifted *= 10)
+    ++decimals;
+  return locale.toString(rounded, 'f', decimals);
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/SysDisplay/TextSymbol.h"
+
+#include <SysCarto/Element.h>
+#include <SysDisplay/FillSymbol.h>
+#include <SysDisplay/MarkerSymbol.h>
+
+#include <QPointF>
+#include <QRectF>
+#include <QString>
+#include <QVector>
+
+// What surrounds are made of: plain graphic elements on the page.
+namespace SysCarto {
+
+constexpr double cmPerPoint = 2.54 / 72;
+
+// Positions in page centimetres, y upwards.
+SysUtility::_ptr_t<Element> textPiece(QString const& text, SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbol,
+                                      QPointF const& position);
+SysUtility::_ptr_t<Element> rectanglePiece(double left, double bottom, double right, double top,
+                                           SysUtility::_ptr_t<SysDisplay::FillSymbol> const& symbol);
+SysUtility::_ptr_t<Element> linePiece(QVector<QPointF> const& points,
+                                      SysUtility::_ptr_t<SysDisplay::LineSymbol> const& symbol);
+SysUtility::_ptr_t<Element> markerPiece(QPointF const& position,
+                                        SysUtility::_ptr_t<SysDisplay::MarkerSymbol> const& symbol);
+
+/// What a marker covers about its position at a size of one point, in points, y downwards; null for one that draws
+/// nothing.
+QRectF unitBounds(SysDisplay::MarkerSymbol const& symbol);
+
+/// The symbol with every length multiplied.
+SysUtility::_ptr_t<SysDisplay::TextSymbol> resized(SysDisplay::TextSymbol const& symbol, double factor);
+
+/// A number with the thousands separators of the user's language, and no more decimals than it has.
+QString grouped(double number);
+
+}  // namespace SysCarto

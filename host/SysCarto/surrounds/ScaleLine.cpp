@@ -1,0 +1,243 @@
+#include "Pieces.h"
+
+#include "host/SysDisplay/SymbolArchive.h"
+
+#include <SysCarto/Map.h>
+#include <SysCarto/MapSurround.h>
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace SysCarto {
+
+using SysDisplay::SimpleFillSymbol;
+using SysDisplay::SimpleLineSymbol;
+using SysDisplay::TextFormat;
+using SysDisplay::TextSymbol;
+using SysUtility::_ptr_t;
+using SysUtility::Archive;
+using SysUtility::make;
+
+namespace {
+
+enum class BarStyle { Alternating, Double, Ticks };
+enum class BarUnit { Automatic, Metres, Kilometres, Feet, Miles, NauticalMiles };
+
+struct UnitRow {
+  BarUnit unit;
+  char const* sign;
+  double metres;
+};
+// clang-format off
+constexpr UnitRow units[] = {
+    {BarUnit::Metres,        "m",   1},
+    {BarUnit::Kilometres,    "km",  1000},
+    {BarUnit::Feet,          "ft",  0.3048},
+    {BarUnit::Miles,         "mi",  1609.344},
+    {BarUnit::NauticalMiles, "nmi", 1852},
+};
+
+// A round length of the whole bar, and into how many round lengths it is divided.
+struct RoundLength {
+  double length;
+  int divisions;
+};
+constexpr RoundLength roundLengths[] = {{1, 4}, {2, 4}, {3, 3}, {4, 4}, {5, 5}, {6, 3}, {8, 4}};
+// clang-format on
+
+constexpr double outlinePt = 0.5;
+constexpr double gapPt = 2.5;         // between the numbers and the bar
+constexpr double leastBetweenPt = 4;  // two numbers
+constexpr double shortestBarCm = 0.3;
+constexpr double defaultHeightPt = 5;
+
+UnitRow const& rowOf(BarUnit unit) {
+  return *std::find_if(std::begin(units), std::end(units), [=](UnitRow const& row) { return row.unit == unit; });
+}
+
+// What is shown: `divisions` steps of `step` units.
+struct Bar {
+  UnitRow const* unit;
+  double step;
+  int divisions;
+  double lengthCm;
+};
+
+// The longest bar of a round length that is not longer than that.
+std::optional<Bar> longestBar(double mostCm, double metresPerCm, BarUnit asked) {
+  if (!(mostCm > shortestBarCm) || !(metresPerCm > 0) || !std::isfinite(metresPerCm)) return std::nullopt;
+  double const most = mostCm * metresPerCm / (asked == BarUnit::Automatic ? 1 : rowOf(asked).metres);
+  double const power = std::pow(10.0, std::floor(std::log10(most)));
+  RoundLength const* best = roundLengths;
+  for (RoundLength const& one : roundLengths)
+    if (one.length * power <= most * (1 + 1e-12)) best = &one;
+  double const step = best->length * power / best->divisions;
+  // Kilometres as soon as each division is one at least.
+  UnitRow const& unit = rowOf(asked != BarUnit::Automatic ? asked
+                              : step < 1000               ? BarUnit::Metres
+                                                          : BarUnit::Kilometres);
+  double const inUnit = asked == BarUnit::Automatic ? step / unit.metres : step;
+  return Bar{&unit, inUnit, best->divisions, inUnit * best->divisions * unit.metres / metresPerCm};
+}
+
+_ptr_t<TextSymbol> usualSymbol() {
+  TextFormat format;
+  format.size = 8;
+  return make<TextSymbol>(format);
+}
+
+}  // namespace
+
+struct ScaleLine::Private {
+  BarStyle style = BarStyle::Alternating;
+  BarUnit unit = BarUnit::Automatic;
+  double heightPt = defaultHeightPt;
+  QColor color = QColor(0, 0, 0), secondColor = QColor(255, 255, 255);
+  _ptr_t<TextSymbol> symbol;  // empty for the usual one
+
+  _ptr_t<TextSymbol> textSymbol() const {
+    TextFormat format = (symbol ? symbol : usualSymbol())->format();
+    format.horizontal = SysDisplay::HorizontalAlignment::Left;
+    format.vertical = SysDisplay::VerticalAlignment::Baseline;
+    return make<TextSymbol>(format);
+  }
+};
+
+namespace {
+
+// Lays a bar out in a rectangle: numbers above it, the whole in the middle.
+class BarLayout {
+public:
+  BarLayout(SysGeometry::Envelope const& area, _ptr_t<TextSymbol> const& text, double heightPt)
+      : area_(area), text_(text), barCm_(heightPt * cmPerPoint) {}
+
+  std::optional<Bar> fit(double metresPerCm, BarUnit unit) const {
+    // How far the numbers reach beyond the ends depends on the bar, which depends on the room that they leave.
+    std::optional<Bar> bar = longestBar(area_.GetWidth(), metresPerCm, unit);
+    for (int i = 0; bar && i < 8 && bar->lengthCm + overhang(*bar) > area_.GetWidth(); ++i)
+      bar = longestBar(std::min(area_.GetWidth() - overhang(*bar), bar->lengthCm * (1 - 1e-9)), metresPerCm, unit);
+    return bar && bar->lengthCm + overhang(*bar) <= area_.GetWidth() ? bar : std::nullopt;
+  }
+
+  QList<_ptr_t<Element>> elements(Bar const& bar, BarStyle style, QColor const& color, QColor const& second) {
+    double const textCm = text_->bounds(numberAt(bar, 0)).height() * cmPerPoint;
+    double const height = barCm_ + gapPt * cmPerPoint + textCm;
+    left_ = area_.GetXMin() + (area_.GetWidth() - bar.lengthCm - overhang(bar)) / 2 + widthOf(numberAt(bar, 0)) / 2;
+    bottom_ = area_.GetYMin() + (area_.GetHeight() - height) / 2;
+    stepCm_ = bar.lengthCm / bar.divisions;
+    pieces_.clear();
+    if (style == BarStyle::Ticks)
+      addTicks(bar, color);
+    else
+      addBoxes(bar, style == BarStyle::Double ? 2 : 1, color, second);
+    addNumbers(bar);
+    return pieces_;
+  }
+
+private:
+  QString numberAt(Bar const& bar, int division) const { return grouped(bar.step * division); }
+  QString unitText(Bar const& bar) const { return QStringLiteral(" ") + QLatin1String(bar.unit->sign); }
+  double widthOf(QString const& text) const { return text_->bounds(text).width() * cmPerPoint; }
+
+  // What the first and the last number and the unit need beside the bar.
+  double overhang(Bar const& bar) const {
+    QString const last = numberAt(bar, bar.divisions);
+    return widthOf(numberAt(bar, 0)) / 2 + widthOf(last + unitText(bar)) - widthOf(last) / 2;
+  }
+
+  void addTicks(Bar const& bar, QColor const& color) {
+    auto const line = make<SimpleLineSymbol>();
+    line->SetColor(color);
+    line->SetWidth(2 * outlinePt);
+    line->SetCapStyle(SysDisplay::LineCapStyle::Square);
+    line->SetJoinStyle(SysDisplay::LineJoinStyle::Miter);
+    double const right = left_ + bar.lengthCm;
+    pieces_ << linePiece({{left_, bottom_ + barCm_}, {left_, bottom_}, {right, bottom_}, {right, bottom_ + barCm_}},
+                         line);
+    for (int i = 1; i < bar.divisions; ++i)
+      pieces_ << linePiece({{left_ + i * stepCm_, bottom_}, {left_ + i * stepCm_, bottom_ + barCm_}}, line);
+  }
+
+  void addBoxes(Bar const& bar, int rows, QColor const& color, QColor const& second) {
+    auto const outline = make<SimpleLineSymbol>();
+    outline->SetColor(color);
+    outline->SetWidth(outlinePt);
+    outline->SetJoinStyle(SysDisplay::LineJoinStyle::Miter);
+    _ptr_t<SimpleFillSymbol> fills[2];
+    for (int i = 0; i < 2; ++i) {
+      fills[i] = make<SimpleFillSymbol>();
+      fills[i]->SetColor(i == 0 ? color : second);
+      fills[i]->SetOutlineSymbol(outline);
+    }
+    double const rowCm = barCm_ / rows;
+    for (int row = 0; row < rows; ++row)
+      for (int i = 0; i < bar.divisions; ++i)
+        pieces_ << rectanglePiece(left_ + i * stepCm_, bottom_ + row * rowCm, left_ + (i + 1) * stepCm_,
+                                  bottom_ + (row + 1) * rowCm, fills[(i + row + rows - 1) % 2]);
+  }
+
+  // The ends always have their numbers; between them, every one, every second or none, as there is room.
+  void addNumbers(Bar const& bar) {
+    double widest = 0;
+    for (int i = 0; i <= bar.divisions; ++i) widest = std::max(widest, widthOf(numberAt(bar, i)));
+    int every = 1;
+    while (every < bar.divisions &&
+           (bar.divisions % every != 0 || every * stepCm_ < widest + leastBetweenPt * cmPerPoint))
+      ++every;
+    for (int i = 0; i <= bar.divisions; i += every) {
+      QString const number = numberAt(bar, i);
+      QPointF const position(left_ + i * stepCm_ - widthOf(number) / 2, bottom_ + barCm_ + gapPt * cmPerPoint);
+      pieces_ << textPiece(i == bar.divisions ? number + unitText(bar) : number, text_, position);
+    }
+  }
+
+  SysGeometry::Envelope const area_;
+  _ptr_t<TextSymbol> const text_;
+  double const barCm_;
+  double left_ = 0, bottom_ = 0, stepCm_ = 0;
+  QList<_ptr_t<Element>> pieces_;
+};
+
+}  // namespace
+
+ScaleLine::ScaleLine() : MapSurround(2), d(std::make_unique<Private>()) {}
+ScaleLine::ScaleLine(ScaleLine const& other) : MapSurround(other), d(std::make_unique<Private>(*other.d)) {}
+ScaleLine::~ScaleLine() = default;
+
+QList<_ptr_t<Element>> ScaleLine::GetElements() {
+  if (!hasPlace()) return {};
+  double const metresPerCm = GetMap()->GetDisplayTransformation()->GetMapScale() / 100;
+  BarLayout layout(rectangle(), d->textSymbol(), d->heightPt);
+  auto const bar = layout.fit(metresPerCm, d->unit);
+  if (!bar) return {};
+  return layout.elements(*bar, d->style, d->color, d->secondColor);
+}
+
+_ptr_t<MapSurround> ScaleLine::Clone() const { return make<ScaleLine>(*this); }
+QString ScaleLine::title() const { return QCoreApplication::translate("MapSurround", "Scale bar"); }
+
+void ScaleLine::describe(Archive& archive) {
+  archive.choice(
+      "style", d->style,
+      {{int(BarStyle::Alternating), "alternating"}, {int(BarStyle::Double), "double"}, {int(BarStyle::Ticks), "ticks"}},
+      BarStyle::Alternating);
+  archive.choice("unit", d->unit,
+                 {{int(BarUnit::Automatic), "automatic"},
+                  {int(BarUnit::Metres), "m"},
+                  {int(BarUnit::Kilometres), "km"},
+                  {int(BarUnit::Feet), "ft"},
+                  {int(BarUnit::Miles), "mi"},
+                  {int(BarUnit::NauticalMiles), "nmi"}},
+                 BarUnit::Automatic);
+  archive.number("height", d->heightPt, 0.5, 100, defaultHeightPt);
+  SysDisplay::describeColor(archive, "color", d->color, QColor(0, 0, 0));
+  SysDisplay::describeColor(archive, "secondColor", d->secondColor, QColor(255, 255, 255));
+  SysDisplay::describeOptionalSymbol(archive, "symbol", d->symbol);
+}
+
+}  // namespace SysCarto

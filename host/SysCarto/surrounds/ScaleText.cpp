@@ -1,0 +1,78 @@
+#include "Pieces.h"
+
+#include "host/SysDisplay/SymbolArchive.h"
+
+#include <SysCarto/Map.h>
+#include <SysCarto/MapSurround.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace SysCarto {
+
+using SysDisplay::TextFormat;
+using SysDisplay::TextSymbol;
+using SysUtility::_ptr_t;
+using SysUtility::Archive;
+using SysUtility::make;
+
+namespace {
+
+constexpr int digits = 4;  // off by a twentieth of a per cent at most
+
+QString usualPattern() { return QStringLiteral("1:%1"); }
+
+double roundedTo(double value, int digits) {
+  double const unit = std::pow(10.0, std::floor(std::log10(value)) + 1 - digits);
+  return std::round(value / unit) * unit;
+}
+
+_ptr_t<TextSymbol> usualSymbol() {
+  TextFormat format;
+  format.size = 12;
+  return make<TextSymbol>(format);
+}
+
+}  // namespace
+
+struct ScaleText::Private {
+  QString pattern = usualPattern();
+  _ptr_t<TextSymbol> symbol;  // empty for the usual one
+};
+
+ScaleText::ScaleText() : MapSurround(3), d(std::make_unique<Private>()) {}
+ScaleText::ScaleText(ScaleText const& other) : MapSurround(other), d(std::make_unique<Private>(*other.d)) {}
+ScaleText::~ScaleText() = default;
+
+// In the middle of the frame, and smaller where it would not fit.
+QList<_ptr_t<Element>> ScaleText::GetElements() {
+  double const scale = hasPlace() ? GetMap()->GetDisplayTransformation()->GetMapScale() : 0;
+  if (!(scale > 0) || !std::isfinite(scale)) return {};
+  QString text = d->pattern;
+  text.replace(QLatin1String("%1"), grouped(roundedTo(scale, digits)));
+  TextFormat format = (d->symbol ? d->symbol : usualSymbol())->format();
+  format.horizontal = SysDisplay::HorizontalAlignment::Center;
+  format.vertical = SysDisplay::VerticalAlignment::Middle;
+  auto symbol = make<TextSymbol>(format);
+  QRectF const bounds = symbol->bounds(text);
+  double const fits = std::min(rectangle().GetWidth() / (bounds.width() * cmPerPoint),
+                               rectangle().GetHeight() / (bounds.height() * cmPerPoint));
+  if (fits < 1) symbol = resized(*symbol, fits);
+  auto const middle = rectangle().GetAnchorPoint();
+  return {textPiece(text, symbol, QPointF(middle->GetX(), middle->GetY()))};
+}
+
+_ptr_t<MapSurround> ScaleText::Clone() const { return make<ScaleText>(*this); }
+QString ScaleText::title() const { return QCoreApplication::translate("MapSurround", "Scale text"); }
+
+void ScaleText::describe(Archive& archive) {
+  archive.text("pattern", d->pattern, usualPattern());
+  if (archive.ok() && !d->pattern.contains(QLatin1String("%1")))
+    archive.fail("pattern",
+                 QCoreApplication::translate("MapSurround", "must hold %1 where the scale stands, as in “1:%1”"));
+  SysDisplay::describeOptionalSymbol(archive, "symbol", d->symbol);
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,330 @@
+#include "host/SysCarto/document/CoordinateSystem.h"
+#include "host/SysCarto/layers/VectorLayer.h"
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/TextElement.h"
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
+#include "host/SysUtility/Archive.h"
+
+#include <SysCarto/GroupElement.h>
+#include <SysCarto/Map.h>
+#include <SysCarto/MapFrameElement.h>
+#include <SysCarto/MapSurroundFrame.h>
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+
+#include <QJsonDocument>
+#include <QPainter>
+#include <QtTest>
+
+#include <geodesic.h>
+#include <ogr_spatialref.h>
+
+#include <cmath>
+
+Q_DECLARE_METATYPE(SysGeometry::Envelope)
+Q_DECLARE_METATYPE(SysUtility::_ptr_t<SysCarto::MapSurroundFrame>)
+
+using namespace SysCarto;
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+namespace {
+
+constexpr double frameWidthCm = 10, frameHeightCm = 8;
+constexpr double degreesPerRadian = 57.29577951308232;
+
+_ptr_t<Map> mapOf(QString const& system, double x, double y, double unitsPerCm) {
+  auto const map = make<Map>();
+  map->SetCoordinateSystem(system);
+  map->setFrameSize(frameWidthCm, frameHeightCm);
+  double const w = frameWidthCm * unitsPerCm / 2, h = frameHeightCm * unitsPerCm / 2;
+  map->SetExtent(make<Envelope>(x - w, y - h, x + w, y + h));
+  return map;
+}
+
+void addLayer(Map& map, QString const& name, _ptr_t<SysDisplay::Symbol> const& symbol, QString const& label = {}) {
+  auto const layer = make<VectorLayer>(makeSimpleRenderer(symbol, label));
+  layer->SetName(name);
+  map.AddLayer(layer);
+}
+
+template <class Surround>
+_ptr_t<MapSurroundFrame> framed(_ptr_t<Map> const& map, Envelope const& rectangle, QByteArray settings = "{}") {
+  auto const surround = make<Surround>();
+  surround->SetMap(map);
+  SysUtility::Archive archive(QJsonDocument::fromJson(settings.replace('\'', '"')).object());
+  surround->describe(archive);
+  if (!archive.ok()) qFatal("%s", qPrintable(archive.error()));
+  auto const frame = make<MapSurroundFrame>();
+  frame->SetMapSurround(surround);
+  frame->SetGeometry(make<Envelope>(rectangle));
+  return frame;
+}
+
+QStringList textsOf(MapSurroundFrame const& frame) {
+  QStringList texts;
+  for (auto const& element : frame.GetMapSurround()->GetElements())
+    if (auto const text = ptr_cast<TextElement>(element)) texts << text->text();
+  return texts;
+}
+
+// The page from (0, 0) to (10, 8) centimetres, at 40 pixels a centimetre.
+QImage drawn(Element& element) {
+  QImage image(400, 320, QImage::Format_RGBA8888_Premultiplied);
+  image.fill(Qt::white);
+  auto const transformation = make<DisplayTransformation>();
+  transformation->SetDeviceFrame(image.rect());
+  transformation->SetVisibleBounds(make<Envelope>(0.0, 0.0, frameWidthCm, frameHeightCm));
+  transformation->SetPageScale(40 * 2.54 / 96);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  element.Draw(painter, transformation, nullptr);
+  return image;
+}
+
+QImage blank() {
+  QImage image(400, 320, QImage::Format_RGBA8888_Premultiplied);
+  image.fill(Qt::white);
+  return image;
+}
+
+// Metres on the ellipsoid between two places of a map.
+double geodesic(Map const& map, QPointF const& a, QPointF const& b) {
+  auto const system = makeCoordinateSystem(map.GetCoordinateSystem());
+  std::unique_ptr<OGRSpatialReference> globe(system->CloneGeogCS());
+  globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+  double xs[] = {a.x(), b.x()}, ys[] = {a.y(), b.y()};
+  if (system->IsProjected()) {
+    std::unique_ptr<OGRCoordinateTransformation> const way(
+        OGRCreateCoordinateTransformation(system.get(), globe.get()));
+    way->Transform(2, xs, ys);
+  }
+  geod_geodesic ellipsoid;
+  geod_init(&ellipsoid, 6378137, 1 / 298.257223563);
+  double metres = 0;
+  geod_inverse(&ellipsoid, ys[0], xs[0], ys[1], xs[1], &metres, nullptr, nullptr);
+  return metres;
+}
+
+char const* const aegean = "+proj=lcc +lat_1=36 +lat_2=41 +lat_0=38.4 +lon_0=24.6 +datum=WGS84 +units=m";
+Envelope const whole(0, 0, frameWidthCm, frameHeightCm);
+
+}  // namespace
+
+class SurroundTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void aScaleBarIsAsLongAsTheGroundSays_data() {
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<double>("unitsPerCm");
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QString>("last");
+    QTest::addColumn<double>("metres");
+    auto const row = [](char const* name, QString const& system, double x, double y, double unitsPerCm,
+                        char const* settings, char const* last, double metres) {
+      QTest::newRow(name) << system << x << y << unitsPerCm << QByteArray(settings) << QString(last) << metres;
+    };
+    row("a plan", "EPSG:32634", 500000, 4200000, 10, "{}", "80 m", 80);
+    row("metres to the thousands", "EPSG:32634", 500000, 4200000, 250, "{}", "2,000 m", 2000);
+    row("a region", aegean, 0, 0, 20000, "{}", "150 km", 0);
+    row("far from the standard parallels", aegean, 300000, 900000, 2000, "{}", "", 0);
+    row("web Mercator in the north", "EPSG:3857", 1000000, 8400000, 5000, "{}", "", 0);
+    row("degrees", "EPSG:4326", 10, 60, 0.01, "{}", "", 0);
+    row("miles", aegean, 0, 0, 20000, "{'unit':'mi'}", "100 mi", 160934.4);
+    row("kilometres where metres would do", aegean, 0, 0, 100, "{'unit':'km'}", "0.8 km", 800);
+    row("nautical miles in two rows", aegean, 0, 0, 20000, "{'unit':'nmi','style':'double'}", "80 nmi", 148160);
+  }
+
+  void aScaleBarIsAsLongAsTheGroundSays() {
+    QFETCH(QString, system);
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, unitsPerCm);
+    QFETCH(QByteArray, settings);
+    QFETCH(QString, last);
+    QFETCH(double, metres);
+    auto const map = mapOf(system, x, y, unitsPerCm);
+    auto const frame = framed<ScaleLine>(map, whole, settings);
+    double left = INFINITY, right = -INFINITY;
+    for (auto const& element : frame->GetMapSurround()->GetElements())
+      if (auto const box = ptr_cast<RectangleElement>(element)) {
+        left = std::min(left, box->GetEnvelope()->GetXMin());
+        right = std::max(right, box->GetEnvelope()->GetXMax());
+      }
+    QVERIFY(left < right && left >= 0 && right <= frameWidthCm);
+    QString const text = textsOf(*frame).last();
+    if (last.endsWith('m') && metres > 0) QCOMPARE(text, last);
+    QString const unit = text.section(' ', 1);
+    double const inMetres = unit == "km" ? 1000 : unit == "mi" ? 1609.344 : unit == "nmi" ? 1852 : 1;
+    double const stated = text.section(' ', 0, 0).remove(',').toDouble() * inMetres;
+    if (metres > 0) QCOMPARE(stated, metres);
+
+    // A hundredth of the bar about the centre: the scale belongs to that place.
+    double const half = (right - left) * unitsPerCm / 200;
+    double const ground = 100 * geodesic(*map, {x - half, y}, {x + half, y});
+    QVERIFY2(std::abs(ground / stated - 1) < 0.001, qPrintable(QString("%1 for %2").arg(ground).arg(text)));
+  }
+
+  void textAndBarFollowTheMap() {
+    auto const map = mapOf("EPSG:32634", 500000, 4200000, 250);
+    auto const text = framed<ScaleText>(map, whole), bar = framed<ScaleLine>(map, whole);
+    QCOMPARE(textsOf(*text), QStringList("1:25,010"));  // UTM draws the ground at its middle smaller, by 0.9996
+    QString const before = textsOf(*bar).last();
+    map->SetExtent(make<Envelope>(0.0, 4000000.0, 1000000.0, 4800000.0));
+    QCOMPARE(textsOf(*text), QStringList("1:10,000,000"));
+    QVERIFY(textsOf(*bar).last() != before);
+  }
+
+  void aScaleTextIsWrittenAsAsked_data() {
+    QTest::addColumn<double>("unitsPerCm");
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("grouped") << 250000.0 << QByteArray("{}") << "1:25,000,000";
+    QTest::newRow("four digits and no more") << 42537.14 << QByteArray("{}") << "1:4,254,000";
+    QTest::newRow("a plan larger than nature") << 0.005 << QByteArray("{}") << "1:0.5";
+    QTest::newRow("a pattern") << 10.0 << QByteArray("{'pattern':'Massstab 1 : %1'}") << "Massstab 1 : 1,000";
+  }
+
+  void aScaleTextIsWrittenAsAsked() {
+    QFETCH(double, unitsPerCm);
+    QFETCH(QByteArray, settings);
+    QFETCH(QString, text);
+    QCOMPARE(textsOf(*framed<ScaleText>(mapOf("", 0, 0, unitsPerCm), whole, settings)), QStringList(text));
+  }
+
+  void theNumbersFollowTheUsersLanguage() {
+    QLocale::setDefault(QLocale(QLocale::German));
+    auto const restored = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
+    QCOMPARE(textsOf(*framed<ScaleText>(mapOf("", 0, 0, 25000), whole)), QStringList("1:2.500.000"));
+  }
+
+  void aLegendListsWhatTheMapShows() {
+    auto const map = mapOf("", 0, 0, 1000);
+    addLayer(*map, "Land", make<SysDisplay::SimpleFillSymbol>());
+    addLayer(*map, "Rivers", make<SysDisplay::SimpleLineSymbol>(), "Rivers and streams");
+    addLayer(*map, "Towns", make<SysDisplay::SimpleMarkerSymbol>());
+    auto const frame = framed<Legend>(map, whole);
+    QCOMPARE(textsOf(*frame), QStringList({"Legend", "Towns", "Rivers and streams", "Land"}));
+    int markers = 0, lines = 0, fills = 0;
+    for (auto const& element : frame->GetMapSurround()->GetElements()) {
+      markers += element->GetType() == 1;
+      lines += element->GetType() == 2;
+      fills += element->GetType() == 4;
+    }
+    QCOMPARE(QList<int>({markers, lines, fills}), QList<int>({1, 1, 1}));
+    map->GetLayer(2)->SetVisible(false);
+    map->GetLayer(0)->SetScaleRange(0, 50000);
+    QCOMPARE(textsOf(*frame), QStringList({"Legend", "Rivers and streams"}));
+    QCOMPARE(textsOf(*framed<Legend>(map, whole, "{'title':'','omit':['Rivers']}")), QStringList());
+  }
+
+  void aLegendFitsItsFrame_data() {
+    QTest::addColumn<int>("layers");
+    QTest::addColumn<Envelope>("rectangle");
+    QTest::addColumn<int>("columns");
+    QTest::newRow("one column") << 5 << Envelope(0, 0, 5, 8) << 1;
+    QTest::newRow("two where one is too high") << 16 << Envelope(0, 2, 10, 8) << 2;
+    QTest::newRow("many in a flat frame") << 24 << Envelope(0, 5, 10, 7) << 5;
+    QTest::newRow("smaller in a small one") << 24 << Envelope(4, 4, 6, 5) << 3;
+  }
+
+  void aLegendFitsItsFrame() {
+    QFETCH(int, layers);
+    QFETCH(Envelope, rectangle);
+    QFETCH(int, columns);
+    auto const map = mapOf("", 0, 0, 1000);
+    for (int i = 0; i < layers; ++i) addLayer(*map, QString("Layer %1").arg(i), make<SysDisplay::SimpleFillSymbol>());
+    auto const frame = framed<Legend>(map, rectangle);
+    QSet<int> lefts;
+    for (auto const& element : frame->GetMapSurround()->GetElements()) {
+      auto const box = element->GetEnvelope();
+      QVERIFY(box->GetXMin() > rectangle.GetXMin() - 0.01 && box->GetXMax() < rectangle.GetXMax() + 0.01);
+      QVERIFY(box->GetYMin() > rectangle.GetYMin() - 0.05 && box->GetYMax() < rectangle.GetYMax() + 0.01);
+      if (element->GetType() == 4) lefts << qRound(box->GetXMin() * 100);
+    }
+    QCOMPARE(lefts.size(), columns);
+  }
+
+  void aNorthArrowPointsToTrueNorthWhereAsked() {
+    auto const map = mapOf(aegean, 300000, 0, 1000);
+    auto const angleOf = [](MapSurroundFrame const& frame) {
+      return ptr_cast<MarkerElement>(frame.GetMapSurround()->GetElements().value(0))->symbol()->GetAngle();
+    };
+    QCOMPARE(angleOf(*framed<MarkerNorthArrow>(map, whole)), 0.0);
+    // Where meridians meet in a cone's tip, north turns by the sine of its parallel for each degree of longitude.
+    double x = 300000, y = 0;
+    auto const system = makeCoordinateSystem(aegean);
+    std::unique_ptr<OGRSpatialReference> globe(system->CloneGeogCS());
+    globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    std::unique_ptr<OGRCoordinateTransformation> const way(
+        OGRCreateCoordinateTransformation(system.get(), globe.get()));
+    QVERIFY(way->Transform(1, &x, &y));
+    double const turned = (x - 24.6) * std::sin(38.53 / degreesPerRadian);
+    double const angle = angleOf(*framed<MarkerNorthArrow>(map, whole, "{'trueNorth':true}"));
+    QVERIFY2(std::abs(angle - turned) < 0.01 && angle > 2, qPrintable(QString("%1, not %2").arg(angle).arg(turned)));
+    QCOMPARE(angleOf(*framed<MarkerNorthArrow>(mapOf("", 0, 0, 1), whole, "{'trueNorth':true}")), 0.0);
+    QCOMPARE(angleOf(*framed<MarkerNorthArrow>(mapOf("EPSG:3995", 0, 0, 1), whole, "{'trueNorth':true}")), 0.0);
+  }
+
+  void aNorthArrowFillsItsFrameAndStaysInIt() {
+    auto const map = mapOf("", 0, 0, 1000);
+    Envelope const rectangle(2, 1, 4, 7);
+    auto const frame = framed<MarkerNorthArrow>(map, rectangle);
+    QImage const image = drawn(*frame);
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        if (image.pixelColor(x, y) != Qt::white) ink |= QRect(x, y, 1, 1);
+    QRect const inside(80, 40, 80, 240);
+    QVERIFY(inside.adjusted(-1, -1, 1, 1).contains(ink));
+    QVERIFY(ink.width() > 60);
+  }
+
+  void graphicsMadeOfASurroundLookTheSame_data() {
+    QTest::addColumn<_ptr_t<MapSurroundFrame>>("frame");
+    auto const map = mapOf(aegean, 0, 0, 20000);
+    addLayer(*map, "Land", make<SysDisplay::SimpleFillSymbol>());
+    addLayer(*map, "Rivers", make<SysDisplay::SimpleLineSymbol>());
+    addLayer(*map, "Towns", make<SysDisplay::SimpleMarkerSymbol>());
+    QTest::newRow("legend") << framed<Legend>(map, Envelope(1, 1, 5, 7));
+    QTest::newRow("scale bar") << framed<ScaleLine>(map, Envelope(1, 1, 9, 3));
+    QTest::newRow("ticks") << framed<ScaleLine>(map, Envelope(1, 1, 9, 3), "{'style':'ticks','unit':'nmi'}");
+    QTest::newRow("scale text") << framed<ScaleText>(map, Envelope(1, 1, 9, 3));
+    QTest::newRow("north arrow") << framed<MarkerNorthArrow>(map, Envelope(1, 1, 9, 7), "{'trueNorth':true}");
+  }
+
+  void graphicsMadeOfASurroundLookTheSame() {
+    QFETCH(_ptr_t<MapSurroundFrame>, frame);
+    auto const group = make<GroupElement>();
+    for (auto const& element : frame->GetMapSurround()->GetElements()) group->AddElement(element);
+    QImage const asGraphics = drawn(*group);
+    QVERIFY(asGraphics != blank());
+    QVERIFY(drawn(*frame) == asGraphics);
+    QVERIFY(drawn(*ptr_cast<MapSurroundFrame>(frame->Clone())) == asGraphics);
+  }
+
+  void anUnboundSurroundAnswersNothingAndShowsAPlaceholder() {
+    auto const frame = framed<Legend>(nullptr, Envelope(1, 1, 9, 7));
+    QCOMPARE(frame->GetMapSurround()->GetElements().size(), 0);
+    QImage const image = drawn(*frame);
+    QVERIFY(image != blank());
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x) QVERIFY(image.pixelColor(x, y).lightness() > 130);
+  }
+
+  void aPatternWithoutAPlaceForTheScaleIsRefused() {
+    ScaleText text;
+    SysUtility::Archive archive(QJsonObject{{"pattern", "1:many"}});
+    text.describe(archive);
+    QVERIFY2(archive.error().startsWith("pattern: must hold %1"), qPrintable(archive.error()));
+  }
+};
+
+QTEST_MAIN(SurroundTest)
+#include "SurroundTest.moc"
