@@ -67,6 +67,7 @@ struct MapDocument::Private {
   void take(QString const& newPath, DocumentContent const& newContent);
   bool failed(QString const& sentence);
   DocumentContext contextFor(QString const& file, bool relativePaths) const;
+  std::optional<QByteArray> textFor(QString const& file, bool relativePaths, QString& problem) const;
   QString write(QString const& file, bool relativePaths, bool keepBackup) const;
 };
 
@@ -92,20 +93,25 @@ DocumentContext MapDocument::Private::contextFor(QString const& file, bool relat
   return context;
 }
 
-// Everything that can go wrong does so before the old file gives way.
-QString MapDocument::Private::write(QString const& file, bool relativePaths, bool keepBackup) const {
-  if (!content.layout) return translated("There is no document to save; open one or make a new one.");
-  if (file.isEmpty()) return translated("The document has no file yet; save it under a name.");
+std::optional<QByteArray> MapDocument::Private::textFor(QString const& file, bool relativePaths,
+                                                        QString& problem) const {
   auto context = contextFor(file, relativePaths);
   DocumentContent written{content.layout, relativePaths};
   Archive archive;
   describeDocument(archive, written, context);
-  if (!archive.ok()) return aboutFile(file, archive.error() + translated("; change this value, then save again"));
-  if (keepBackup) {
-    QString const problem = keepOldFile(file);
-    if (!problem.isEmpty()) return problem;
-  }
-  return SysUtility::FileSaver::save(file, SysUtility::jsonText(archive.json()));
+  if (archive.ok()) return SysUtility::jsonText(archive.json());
+  problem = aboutFile(file, archive.error() + translated("; change this value, then save again"));
+  return std::nullopt;
+}
+
+// Everything that can go wrong does so before the old file gives way.
+QString MapDocument::Private::write(QString const& file, bool relativePaths, bool keepBackup) const {
+  if (!content.layout) return translated("There is no document to save; open one or make a new one.");
+  if (file.isEmpty()) return translated("The document has no file yet; save it under a name.");
+  QString problem;
+  auto const text = textFor(file, relativePaths, problem);
+  if (text && keepBackup) problem = keepOldFile(file);
+  return problem.isEmpty() ? SysUtility::FileSaver::save(file, *text) : problem;
 }
 
 MapDocument::MapDocument() : d(std::make_unique<Private>(this)) {}
@@ -207,6 +213,13 @@ void MapDocument::ReplaceContents(_ptr_t<IKdxContents> const& contents) {
 }
 
 QString MapDocument::GetPath() const { return d->path; }
+
+QByteArray MapDocument::GetText() const {
+  QString problem;
+  return d->content.layout ? d->textFor(d->path, d->content.relativePaths, problem).value_or(QByteArray())
+                           : QByteArray();
+}
+
 QStringList MapDocument::GetErrors() const { return d->errors; }
 QStringList MapDocument::GetWarnings() const { return d->warnings; }
 int MapDocument::GetUnreadableSourceCount() const { return d->unreadableSources; }

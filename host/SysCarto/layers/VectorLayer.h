@@ -28,6 +28,7 @@ public:
 
   /// Writes the renderer (`describeRenderer`); a layer's renderer is not changed once it is made.
   void storeRenderer(SysUtility::Archive& archive, char const* key);
+  Renderer const& renderer() const { return *renderer_; }
   FeatureStore const& features() const { return *store_; }
 
   /// Takes effect when the layer is opened: the texts are read with the features.

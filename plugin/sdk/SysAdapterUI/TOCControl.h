@@ -20,6 +20,10 @@ public:
   /// Shows the maps of these contents, borrowed; null shows none.
   void SetBuddy(SysCarto::IKdxContents* contents);
 
+signals:
+  /// The user has shown or hidden a layer.
+  void VisibilityChanged();
+
 private:
   struct Private;
   std::unique_ptr<Private> d;

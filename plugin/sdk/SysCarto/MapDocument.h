@@ -4,6 +4,7 @@
 #include <SysCarto/PageLayout.h>
 #include <SysUI/IOperationStack.h>
 
+#include <QByteArray>
 #include <QImage>
 #include <QList>
 #include <QStringList>
@@ -60,6 +61,9 @@ public:
   // Beyond what the commands of a plug-in need.
 
   QString GetPath() const;
+
+  /// What a save to the document's file would write now; empty where there is nothing that can be saved.
+  QByteArray GetText() const;
 
   /// Sentences for people, each naming the file, the field and what is wrong; of the last `Open` or `Save`.
   QStringList GetErrors() const;

@@ -1,0 +1,138 @@
+#include <SysAdapterUI/TOCControl.h>
+
+#include "host/SysCarto/layers/VectorLayer.h"
+
+#include <SysCarto/Map.h>
+#include <SysGeometry/Polyline.h>
+
+#include <QPainter>
+#include <QPixmap>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+using SysCarto::Layer;
+using SysCarto::Map;
+using SysDisplay::DisplayTransformation;
+using SysDisplay::Symbol;
+using SysDisplay::SymbolType;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace SysAdapterUI {
+
+namespace {
+
+constexpr QSize swatchPx(24, 16);
+constexpr int marginPx = 3;
+constexpr double swatchScale = 0.75;  // a symbol made for paper is a little large for a list
+constexpr double wavePx = 3;
+
+// A geometry of the kind that the symbol draws, in pixels with y upwards.
+_ptr_t<SysGeometry::Geometry> sampleFor(Symbol const& symbol) {
+  double const right = swatchPx.width() - marginPx, top = swatchPx.height() - marginPx, middle = swatchPx.height() / 2;
+  if (symbol.GetType() == SymbolType::Marker) return make<SysGeometry::Point>(swatchPx.width() / 2.0, middle, 0.0);
+  if (symbol.GetType() == SymbolType::Fill) return make<Envelope>(marginPx, marginPx, right, top);
+  auto const line = make<SysGeometry::Polyline>();
+  for (int x = marginPx; x <= right; ++x)
+    line->AddPoint(x, middle + wavePx * std::sin((x - marginPx) * 2 * M_PI / (right - marginPx)));
+  return line;
+}
+
+QPixmap swatch(Symbol const& symbol, double devicePixelRatio) {
+  QPixmap picture(swatchPx * devicePixelRatio);
+  picture.fill(Qt::transparent);
+  auto const transformation = make<DisplayTransformation>();
+  transformation->SetDeviceFrame(picture.rect());
+  transformation->SetVisibleBounds(make<Envelope>(0.0, 0.0, swatchPx.width(), swatchPx.height()));
+  transformation->SetPageScale(swatchScale * devicePixelRatio);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  symbol.Draw(painter, transformation, sampleFor(symbol));
+  painter.end();
+  picture.setDevicePixelRatio(devicePixelRatio);
+  return picture;
+}
+
+// The row stands for the layer as long as the tree shows it; it is rebuilt with each new list.
+class LayerItem final : public QTreeWidgetItem {
+public:
+  explicit LayerItem(_ptr_t<Layer> const& layer) : layer(layer) {
+    setText(0, layer->GetName());
+    setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+    setCheckState(0, layer->IsVisible() ? Qt::Checked : Qt::Unchecked);
+  }
+  _ptr_t<Layer> const layer;
+};
+
+// One symbol stands beside the layer's name; several have a row each.
+void addSymbols(QTreeWidgetItem& item, Layer const& layer, double devicePixelRatio) {
+  auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(&layer);
+  if (!vector) return;
+  auto const& classes = vector->renderer().classes();
+  for (SysCarto::SymbolClass const& one : classes) {
+    if (!one.symbol) continue;
+    QTreeWidgetItem* row = &item;
+    if (classes.size() > 1) {
+      row = new QTreeWidgetItem(&item, {one.label});
+      row->setFlags(Qt::ItemIsEnabled);
+    }
+    row->setIcon(0, swatch(*one.symbol, devicePixelRatio));
+  }
+}
+
+}  // namespace
+
+struct TOCControl::Private {
+  QTreeWidget* tree = nullptr;
+  SysCarto::IKdxContents* contents = nullptr;
+};
+
+TOCControl::TOCControl(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>()) {
+  d->tree = new QTreeWidget(this);
+  d->tree->setObjectName(QStringLiteral("treeWidget_Contents"));
+  d->tree->setHeaderHidden(true);
+  d->tree->setIconSize(swatchPx);
+  d->tree->setFrameShape(QFrame::NoFrame);
+  auto* const box = new QVBoxLayout(this);
+  box->setContentsMargins(0, 0, 0, 0);
+  box->addWidget(d->tree);
+  connect(d->tree, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) {
+    auto* const row = dynamic_cast<LayerItem*>(item);
+    bool const isOn = item->checkState(0) == Qt::Checked;
+    if (!row || row->layer->IsVisible() == isOn) return;
+    row->layer->SetVisible(isOn);
+    emit VisibilityChanged();
+  });
+}
+
+TOCControl::~TOCControl() = default;
+
+void TOCControl::SetBuddy(SysCarto::IKdxContents* contents) {
+  d->contents = contents;
+  QSignalBlocker const quiet(d->tree);
+  d->tree->clear();
+  auto const layout = contents ? contents->GetPageLayout() : nullptr;
+  QList<_ptr_t<Map>> maps;
+  if (layout) layout->GetMaps(maps);
+  for (auto const& map : qAsConst(maps)) {
+    auto* const mapItem = new QTreeWidgetItem(d->tree, {map->GetName()});
+    QFont font = mapItem->font(0);
+    font.setBold(true);
+    mapItem->setFont(0, font);
+    mapItem->setExpanded(true);
+    for (int i = map->GetLayerCount() - 1; i >= 0; --i) {  // what is drawn last lies on top
+      auto* const item = new LayerItem(map->GetLayer(i));
+      mapItem->addChild(item);
+      addSymbols(*item, *map->GetLayer(i), devicePixelRatioF());
+    }
+  }
+  if (maps.isEmpty()) {
+    auto* const empty = new QTreeWidgetItem(d->tree, {tr("No maps on this page")});
+    empty->setFlags(Qt::NoItemFlags);
+  }
+}
+
+}  // namespace SysAdapterUI
