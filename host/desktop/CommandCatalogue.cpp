@@ -5,14 +5,21 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-QVector<CommandEntry> commandCatalogue() {
-  QFile file(QStringLiteral(":/desktop/commands.json"));
+namespace {
+
+QVector<CommandEntry> readCatalogue(QString const& path) {
+  QFile file(path);
   QVector<CommandEntry> entries;
   if (!file.open(QIODevice::ReadOnly)) return entries;
   for (QJsonValue const& value : QJsonDocument::fromJson(file.readAll()).array()) {
     auto const text = [row = value.toObject()](char const* key) { return row[QLatin1String(key)].toString(); };
-    entries.append({text("identifier"), text("caption"), text("toolTip"), text("shortcut"), text("menu"),
-                    text("toolbar"), text("needs")});
+    entries.append({text("identifier"), text("caption"), text("toolTip"), text("icon"), text("shortcut"), text("menu"),
+                    value.toObject()[QStringLiteral("section")].toInt(1), text("toolbar"), text("needs")});
   }
   return entries;
 }
+
+}  // namespace
+
+QVector<CommandEntry> commandCatalogue() { return readCatalogue(QStringLiteral(":/desktop/commands.json")); }
+QVector<CommandEntry> hostCatalogue() { return readCatalogue(QStringLiteral(":/desktop/host-commands.json")); }

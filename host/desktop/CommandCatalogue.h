@@ -3,16 +3,21 @@
 #include <QString>
 #include <QVector>
 
-/// How the desktop shows a command: the plug-in leaves names and places to its host.
+/// How the desktop shows a command: a plug-in leaves names and places to its host.
 struct CommandEntry {
-  QString identifier;  ///< what the plug-in is asked for
+  QString identifier;  ///< what the plug-in, or the host, is asked for
   QString caption;
   QString toolTip;
+  QString icon;      ///< name of a file in icons/, without its suffix
   QString shortcut;  ///< portable text, or empty
-  QString menu;
-  QString toolbar;  ///< empty for a command that is on none
-  QString needs;    ///< for people: what must be so before the command is enabled
+  QString menu;      ///< path from the menu bar, with slashes
+  int section = 1;   ///< of the menu: commands go by it, and a line parts one from the next
+  QString toolbar;   ///< empty for a command that is on none
+  QString needs;     ///< for people: what must be so before the command is enabled
 };
 
-/// The commands in the order of their menus, from the configuration that is built in.
+/// The plug-in's commands in the order of their menus, from the configuration that is built in.
 QVector<CommandEntry> commandCatalogue();
+
+/// The host's own, in the same shape.
+QVector<CommandEntry> hostCatalogue();

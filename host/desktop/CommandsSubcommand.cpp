@@ -20,6 +20,7 @@ QJsonObject commandJson(CommandEntry const& entry, PluginLibrary const& plugin) 
       {QStringLiteral("identifier"), entry.identifier},
       {QStringLiteral("caption"), entry.caption},
       {QStringLiteral("toolTip"), entry.toolTip},
+      {QStringLiteral("icon"), entry.icon},
       {QStringLiteral("shortcut"), entry.shortcut},
       {QStringLiteral("menu"), entry.menu},
       {QStringLiteral("toolbar"), entry.toolbar},

@@ -2,30 +2,20 @@
 
 #include "OffscreenContents.h"
 
+#include <SysCarto/Editor.h>
 #include <SysCarto/MapDocument.h>
 
-using SysCarto::IKdxContents;
+using SysCarto::Editor;
 using SysUtility::_ptr_t;
 
 OffscreenDesktop::OffscreenDesktop(SysCarto::MapDocument& document)
-    : document_(document), ownContents_(SysUtility::make<OffscreenContents>(document)), contents_(ownContents_.get()) {}
+    : OffscreenDesktop(document, SysUtility::make<OffscreenContents>(document)) {}
 
-OffscreenDesktop::~OffscreenDesktop() = default;
+OffscreenDesktop::OffscreenDesktop(SysCarto::MapDocument& document, _ptr_t<OffscreenContents> const& contents)
+    : Desktop(document, *contents), contents_(contents) {
+  Editor::Instance()->setHistory(document.history());
+}
+
+OffscreenDesktop::~OffscreenDesktop() { Editor::Instance()->setHistory(nullptr); }
 
 _ptr_t<SysCarto::ActiveView> OffscreenDesktop::GetActiveView() { return GetPageLayout(); }
-
-_ptr_t<SysCarto::PageLayout> OffscreenDesktop::GetPageLayout() { return contents_->GetPageLayout(); }
-
-IKdxContents* OffscreenDesktop::GetContents() { return contents_; }
-
-SysCarto::MapDocument* OffscreenDesktop::GetMapDocument() { return &document_; }
-
-IKdxContents* OffscreenDesktop::GetActiveContents() { return contents_; }
-
-SysAdapterUI::TOCControl* OffscreenDesktop::GetTOCControl() { return nullptr; }
-
-_ptr_t<IContentsSite> OffscreenDesktop::GetContentsSite() { return SysUtility::retain<IContentsSite>(this); }
-
-void OffscreenDesktop::SetContents(IKdxContents* contents) {
-  contents_ = contents ? contents : static_cast<IKdxContents*>(ownContents_.get());
-}

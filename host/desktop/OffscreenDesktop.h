@@ -1,33 +1,21 @@
 #pragma once
 
-#include <SysFramework/IApplicationHook.h>
-#include <SysFramework/IDesktop.h>
+#include "Desktop.h"
 
 class OffscreenContents;
 
-/// The host of commands where there is no window: a document, its page layout shown, and contents that nobody sees.
-class OffscreenDesktop final : public IApplicationHook, public IDesktop, public IContentsSite {
+/// The host of commands where nothing is shown: a document, its page layout for the view, and contents that nobody
+/// sees. As long as the desktop lives, the editor records into the document's history.
+class OffscreenDesktop final : public Desktop {
 public:
   /// `document` is borrowed and outlives the desktop.
   explicit OffscreenDesktop(SysCarto::MapDocument& document);
   ~OffscreenDesktop() override;
 
-  /// What `ICommand::OnCreate` is given.
-  void* hook() { return static_cast<IApplicationHook*>(this); }
-
   SysUtility::_ptr_t<SysCarto::ActiveView> GetActiveView() override;
-  SysUtility::_ptr_t<SysCarto::PageLayout> GetPageLayout() override;
-  SysCarto::IKdxContents* GetContents() override;
-
-  SysCarto::MapDocument* GetMapDocument() override;
-  SysCarto::IKdxContents* GetActiveContents() override;
-  SysAdapterUI::TOCControl* GetTOCControl() override;
-  SysUtility::_ptr_t<IContentsSite> GetContentsSite() override;
-
-  void SetContents(SysCarto::IKdxContents* contents) override;
 
 private:
-  SysCarto::MapDocument& document_;
-  SysUtility::_ptr_t<OffscreenContents> ownContents_;
-  SysCarto::IKdxContents* contents_;  // borrowed
+  OffscreenDesktop(SysCarto::MapDocument& document, SysUtility::_ptr_t<OffscreenContents> const& contents);
+
+  SysUtility::_ptr_t<OffscreenContents> contents_;
 };

@@ -13,6 +13,7 @@
 #include <langinfo.h>
 #include <malloc.h>
 
+#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -31,9 +32,21 @@ constexpr char const* sessionVariables[] = {
     "QT_STYLE_OVERRIDE",
 };
 
-// Outside a session, as in a container, Qt tells everyone that there is no session.
-void passOn(QtMsgType, QMessageLogContext const&, QString const& text) {
-  if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR"))) Console::complain(text);
+[[noreturn]] void endWithoutDisplay() {
+  Console::complain(QCoreApplication::translate(
+      "Session",
+      "There is no display for the window. To make an image of a page without one: plotvane "
+      "export DOCUMENT IMAGE; plotvane --help tells what else works."));
+  std::_Exit(1);
+}
+
+// Outside a session, as in a container, Qt tells everyone that there is no session, and that a window without a screen
+// keeps no size hints.
+void passOn(QtMsgType type, QMessageLogContext const&, QString const& text) {
+  for (char const* known : {"QStandardPaths: XDG_RUNTIME_DIR", "This plugin does not support propagateSizeHints"})
+    if (text.startsWith(QLatin1String(known))) return;
+  if (type == QtFatalMsg && text.contains(QLatin1String("no Qt platform plugin"))) endWithoutDisplay();
+  Console::complain(text);
 }
 
 // Qt encodes file names in the locale's encoding and GDAL in UTF-8. In the "C" locale of a bare container a name with
@@ -70,6 +83,15 @@ void prepareEnvironment() {
   keepMemory();
   QApplication::setDesktopSettingsAware(false);
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void prepareWindowEnvironment() {
+  qInstallMessageHandler(passOn);
+  ensureUtf8Locale();
+  bool const hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+  if (!hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) endWithoutDisplay();
+  QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+  QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
 }
 
 void prepareApplication() {

@@ -12,6 +12,7 @@ namespace {
 constexpr Subcommand subcommands[] = {
     {"export",   "DOCUMENT IMAGE", QT_TRANSLATE_NOOP("Subcommand", "Draw the page of a document into an image file"),   runExport},
     {"info",     "DOCUMENT",       QT_TRANSLATE_NOOP("Subcommand", "Tell what is on the page of a document"),           runInfo},
+    {"run",      "DOCUMENT STEP...", QT_TRANSLATE_NOOP("Subcommand", "Work on a document step by step, without a window"), runRun},
     {"commands", "",               QT_TRANSLATE_NOOP("Subcommand", "List the commands and whether the plug-in builds them"), runCommands},
 };
 // clang-format on
@@ -19,19 +20,16 @@ constexpr Subcommand subcommands[] = {
 QString say(char const* text) { return QCoreApplication::translate("Subcommand", text); }
 
 void printHelp() {
-  QString text = say(QT_TRANSLATE_NOOP("Subcommand", "Usage: plotvane SUBCOMMAND [options]")) + QStringLiteral("\n\n");
+  QString text = say(QT_TRANSLATE_NOOP("Subcommand",
+                                       "Usage: plotvane [DOCUMENT]              opens the window\n       plotvane "
+                                       "SUBCOMMAND [options]   works without one")) +
+                 QStringLiteral("\n\n");
   for (Subcommand const& subcommand : subcommands)
     text += QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -9).arg(say(subcommand.help));
   text += say(QT_TRANSLATE_NOOP("Subcommand",
                                 "\nplotvane SUBCOMMAND --help tells about one of them; plotvane "
                                 "--version tells the version."));
   Console::print(text);
-}
-
-QString withoutWindow(QString const& document) {
-  return say(QT_TRANSLATE_NOOP("Subcommand",
-                               "There is no window yet. To make an image of the page: plotvane export %1 IMAGE"))
-      .arg(document);
 }
 
 ExitStatus runWithoutSubcommand(QStringList const& arguments) {
@@ -44,17 +42,10 @@ ExitStatus runWithoutSubcommand(QStringList const& arguments) {
     Console::print(QStringLiteral("plotvane ") + QCoreApplication::applicationVersion());
     return Done;
   }
-  if (arguments.isEmpty()) {
-    Console::complain(withoutWindow(QStringLiteral("DOCUMENT")));
-    Console::complain(say(QT_TRANSLATE_NOOP("Subcommand", "plotvane --help lists the subcommands.")));
-  } else if (QFileInfo::exists(first)) {
-    Console::complain(withoutWindow(first));
-  } else {
-    Console::complain(say(QT_TRANSLATE_NOOP("Subcommand",
-                                            "\"%1\" is neither a subcommand nor a document; plotvane "
-                                            "--help lists the subcommands."))
-                          .arg(first));
-  }
+  Console::complain(say(QT_TRANSLATE_NOOP("Subcommand",
+                                          "\"%1\" is neither a subcommand nor a document; plotvane "
+                                          "--help lists the subcommands."))
+                        .arg(first));
   return WrongArguments;
 }
 
@@ -74,6 +65,13 @@ QString helpText(Subcommand const& self, QCommandLineParser const& parser) {
 }
 
 }  // namespace
+
+bool asksForWindow(QStringList const& arguments) {
+  if (arguments.isEmpty()) return true;
+  for (Subcommand const& subcommand : subcommands)
+    if (arguments.first() == QLatin1String(subcommand.name)) return false;
+  return arguments.size() == 1 && QFileInfo::exists(arguments.first());
+}
 
 int runCommandLine(QStringList const& arguments) {
   ExitStatus const status = dispatch(arguments);
@@ -99,7 +97,8 @@ std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLinePar
   int const given = parser.positionalArguments().size();
   if (problem.isEmpty() && given < operands.size())
     problem = say(QT_TRANSLATE_NOOP("Subcommand", "%1 is missing.")).arg(operands.at(given));
-  if (problem.isEmpty() && given > operands.size())
+  bool const takesMore = !operands.isEmpty() && operands.last().endsWith(QLatin1String("..."));
+  if (problem.isEmpty() && given > operands.size() && !takesMore)
     problem = say(QT_TRANSLATE_NOOP("Subcommand", "\"%1\" is one argument too many."))
                   .arg(parser.positionalArguments().at(operands.size()));
   if (problem.isEmpty()) return std::nullopt;

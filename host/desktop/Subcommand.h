@@ -11,7 +11,7 @@ enum ExitStatus { Done = 0, WorkFailed = 1, WrongArguments = 2 };
 /// A row of the table of subcommands.
 struct Subcommand {
   char const* name;
-  char const* operands;  ///< as the usage line shows them: "DOCUMENT IMAGE"
+  char const* operands;  ///< as the usage line shows them: "DOCUMENT IMAGE"; dots after the last one let it repeat
   char const* help;      ///< one line
   ExitStatus (*run)(Subcommand const& self, QStringList const& arguments);
 };
@@ -19,7 +19,11 @@ struct Subcommand {
 // The rows' functions, each in a file of its own.
 ExitStatus runExport(Subcommand const& self, QStringList const& arguments);
 ExitStatus runInfo(Subcommand const& self, QStringList const& arguments);
+ExitStatus runRun(Subcommand const& self, QStringList const& arguments);
 ExitStatus runCommands(Subcommand const& self, QStringList const& arguments);
+
+/// Whether the arguments (without the program's name) ask for the window: none, or a document.
+bool asksForWindow(QStringList const& arguments);
 
 /// Runs what the arguments (without the program's name) ask for.
 int runCommandLine(QStringList const& arguments);

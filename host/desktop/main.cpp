@@ -1,11 +1,21 @@
+#include "MainWindow.h"
 #include "Session.h"
 #include "Subcommand.h"
 
 #include <QApplication>
+#include <QFile>
 
 int main(int argc, char** argv) {
-  prepareEnvironment();
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QFile::decodeName(argv[i]);
+  bool const opensWindow = asksForWindow(arguments);
+  if (opensWindow)
+    prepareWindowEnvironment();
+  else
+    prepareEnvironment();
   QApplication application(argc, argv);
   prepareApplication();
-  return runCommandLine(QCoreApplication::arguments().mid(1));
+  // The application has taken its own options out.
+  arguments = QCoreApplication::arguments().mid(1);
+  return opensWindow ? runWindow(arguments.value(0)) : runCommandLine(arguments);
 }

@@ -11,6 +11,8 @@ private slots:
   void answersHelp();
   void refusesWrongArguments_data();
   void refusesWrongArguments();
+  void withoutADisplayTheWindowSaysWhatWorks_data();
+  void withoutADisplayTheWindowSaysWhatWorks();
   void reportsAnUnwritableOutput();
   void commandsAreListedOnceEach();
   void aPluginThatDoesNotLoadIsNamed_data();
@@ -48,8 +50,8 @@ void SubcommandsTest::refusesWrongArguments_data() {
   auto const row = [](char const* claim, char const* arguments, char const* complaint) {
     QTest::newRow(claim) << QString(arguments) << QString(complaint);
   };
-  row("no argument says that there is no window", "", "no window yet");
-  row("a document says how to export it", "page.kdx", "plotvane export page.kdx IMAGE");
+  row("a document that is not there", "none.kdx", "\"none.kdx\" is neither");
+  row("two documents", "page.kdx page.kdx", "\"page.kdx\" is neither");
   row("a misspelt subcommand is named", "exprot page.kdx a.png", "\"exprot\" is neither");
   row("an unknown option of the program", "--frobnicate", "--frobnicate");
   row("export without an image", "export page.kdx", "IMAGE is missing");
@@ -76,6 +78,29 @@ void SubcommandsTest::refusesWrongArguments() {
   QVERIFY2(outcome.err.contains(complaint), qPrintable(outcome.err));
   QCOMPARE(outcome.out, QString());
   QVERIFY(contents(folder_.path()) == before);
+}
+
+void SubcommandsTest::withoutADisplayTheWindowSaysWhatWorks_data() {
+  QTest::addColumn<QStringList>("arguments");
+  QTest::addColumn<bool>("namesADisplay");
+  QTest::newRow("no display at all") << QStringList{} << false;
+  QTest::newRow("no display for a document") << QStringList{"page.kdx"} << false;
+  QTest::newRow("a display that does not answer") << QStringList{"page.kdx"} << true;
+}
+
+void SubcommandsTest::withoutADisplayTheWindowSaysWhatWorks() {
+  QFETCH(QStringList, arguments);
+  QFETCH(bool, namesADisplay);
+  QProcess process;
+  prepare(process, arguments, folder_.path());
+  auto environment = process.processEnvironment();
+  for (char const* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    if (!namesADisplay) environment.remove(variable);
+  process.setProcessEnvironment(environment);
+  process.start();
+  Outcome const outcome = finish(process);
+  QCOMPARE(outcome.status, 1);
+  QVERIFY2(outcome.err.contains("plotvane export DOCUMENT IMAGE"), qPrintable(outcome.err));
 }
 
 void SubcommandsTest::reportsAnUnwritableOutput() {

@@ -1,0 +1,50 @@
+#include "CommandSet.h"
+
+#include "DocumentViews.h"
+#include "HostCommands.h"
+#include "PluginLibrary.h"
+
+using SysUI::ICommand;
+using SysUI::ITool;
+using SysUtility::_ptr_t;
+
+CommandSet::CommandSet(HostCommands const& host, PluginLibrary const& plugin, void* hook, DocumentViews& views)
+    : views_(views) {
+  for (CommandEntry const& entry : hostCatalogue()) add(entry, host.createCommand(entry.identifier), hook);
+  for (CommandEntry const& entry : commandCatalogue()) add(entry, plugin.createCommand(entry.identifier), hook);
+  if (auto const* const select = find(QStringLiteral("Host_Select"))) makeCurrent(*select);
+}
+
+CommandSet::~CommandSet() { views_.layoutView().setTool(nullptr); }
+
+void CommandSet::add(CommandEntry const& entry, _ptr_t<ICommand> const& command, void* hook) {
+  if (!command) return;
+  command->OnCreate(hook);
+  commands_.append({entry, command, SysUtility::ptr_cast<ITool>(command)});
+}
+
+HostedCommand const* CommandSet::find(QString const& identifier) const {
+  for (HostedCommand const& command : commands_)
+    if (command.entry.identifier.compare(identifier, Qt::CaseInsensitive) == 0) return &command;
+  return nullptr;
+}
+
+HostedCommand const* CommandSet::currentTool() const { return currentTool_ < 0 ? nullptr : &commands_[currentTool_]; }
+
+bool CommandSet::click(HostedCommand const& command) {
+  if (!command.command->IsEnable()) return false;
+  if (command.tool)
+    makeCurrent(command);
+  else
+    command.command->OnClick();
+  emit clicked();
+  return true;
+}
+
+void CommandSet::makeCurrent(HostedCommand const& command) {
+  auto const* const former = currentTool();
+  if (former == &command || (former && !former->tool->Deactivate())) return;
+  currentTool_ = static_cast<int>(&command - commands_.constData());
+  command.tool->Activate();
+  views_.layoutView().setTool(command.tool);
+}

@@ -1,0 +1,193 @@
+#include "DialogAnswers.h"
+
+#include <QAbstractItemModel>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTabWidget>
+#include <QTimer>
+
+namespace {
+
+QString say(char const* text) { return QCoreApplication::translate("DialogAnswers", text); }
+
+QString plain(QString text) { return text.remove(QLatin1Char('&')); }
+bool isSame(QString const& text, QString const& value) { return plain(text).compare(value, Qt::CaseInsensitive) == 0; }
+
+// Each answers whether the widget has taken the value.
+
+// Key by key, so that the validator and the slots see what they see of a person.
+bool type(QLineEdit& edit, QString const& value) {
+  edit.setFocus();
+  edit.selectAll();
+  if (value.isEmpty()) edit.del();
+  for (QChar const character : value) {
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(character));
+    QApplication::sendEvent(&edit, &press);
+  }
+  bool const taken = edit.text() == value;
+  QMetaObject::invokeMethod(&edit, "editingFinished");
+  return taken;
+}
+
+bool press(QAbstractButton& button, QString const& value) {
+  bool const isOff = isSame(QStringLiteral("off"), value);
+  if (isOff && !button.isCheckable()) return false;
+  if (!button.isCheckable() || button.isChecked() == isOff) button.click();
+  return true;
+}
+
+bool choose(QComboBox& box, QString const& value) {
+  for (int i = 0; i < box.count(); ++i)
+    if (isSame(box.itemText(i), value)) {
+      box.setCurrentIndex(i);
+      QMetaObject::invokeMethod(&box, "activated", Q_ARG(int, i));
+      return true;
+    }
+  return box.isEditable() && type(*box.lineEdit(), value);
+}
+
+bool choose(QAbstractItemView& view, QString const& value) {
+  auto const* const model = view.model();
+  if (!model) return false;
+  auto const found = model->match(model->index(0, 0), Qt::DisplayRole, value, 1, Qt::MatchFixedString);
+  if (found.isEmpty()) return false;
+  view.setCurrentIndex(found.first());
+  return true;
+}
+
+bool choose(QTabWidget& tabs, QString const& value) {
+  for (int i = 0; i < tabs.count(); ++i)
+    if (isSame(tabs.tabText(i), value)) {
+      tabs.setCurrentIndex(i);
+      return true;
+    }
+  return false;
+}
+
+template <class Box>
+bool setNumber(Box& box, double number, bool isNumber) {
+  if (isNumber) box.setValue(number);
+  return isNumber && qFuzzyCompare(1 + double(box.value()), 1 + number);
+}
+
+bool setValue(QWidget& widget, QString const& value) {
+  bool isNumber = false;
+  double const number = value.toDouble(&isNumber);
+  if (auto* const edit = qobject_cast<QLineEdit*>(&widget)) return type(*edit, value);
+  if (auto* const button = qobject_cast<QAbstractButton*>(&widget)) return press(*button, value);
+  if (auto* const box = qobject_cast<QComboBox*>(&widget)) return choose(*box, value);
+  if (auto* const view = qobject_cast<QAbstractItemView*>(&widget)) return choose(*view, value);
+  if (auto* const tabs = qobject_cast<QTabWidget*>(&widget)) return choose(*tabs, value);
+  if (auto* const box = qobject_cast<QSpinBox*>(&widget)) return setNumber(*box, number, isNumber);
+  if (auto* const box = qobject_cast<QDoubleSpinBox*>(&widget)) return setNumber(*box, number, isNumber);
+  if (auto* const slider = qobject_cast<QSlider*>(&widget)) return setNumber(*slider, number, isNumber);
+  return false;
+}
+
+QPushButton* buttonOf(QDialog const& dialog, QString const& text) {
+  for (QPushButton* button : dialog.findChildren<QPushButton*>())
+    if (button->isVisible() && isSame(button->text(), text)) return button;
+  return nullptr;
+}
+
+// The widget that an answer names in the dialog; null where there is none.
+QWidget* widgetOf(QDialog& dialog, QString const& name) {
+  if (qobject_cast<QFileDialog*>(&dialog)) return name == QLatin1String("file") ? &dialog : nullptr;
+  if (qobject_cast<QMessageBox*>(&dialog)) return name == QLatin1String("button") ? &dialog : nullptr;
+  return dialog.findChild<QWidget*>(name);
+}
+
+bool apply(QDialog& dialog, QWidget& widget, QString const& value) {
+  if (auto* const files = qobject_cast<QFileDialog*>(&dialog)) {
+    files->selectFile(value);
+    return true;
+  }
+  if (qobject_cast<QMessageBox*>(&dialog)) {
+    QPushButton* const button = buttonOf(dialog, value);
+    if (button) button->click();
+    return button != nullptr;
+  }
+  return widget.isEnabled() && setValue(widget, value);
+}
+
+// A dialog checks what it was given behind its OK button.
+void accept(QDialog& dialog) {
+  auto const* const box = qobject_cast<QMessageBox*>(&dialog);
+  QPushButton* const button =
+      box && box->defaultButton() ? box->defaultButton() : buttonOf(dialog, QStringLiteral("OK"));
+  if (button)
+    button->click();
+  else
+    QMetaObject::invokeMethod(&dialog, "accept");
+}
+
+QString nameOf(QDialog const& dialog) {
+  auto const* const box = qobject_cast<QMessageBox const*>(&dialog);
+  QString const title = dialog.windowTitle();
+  if (box) return say("the message box \"%1\" (\"%2\")").arg(title, box->text().simplified());
+  QString const kind =
+      dialog.objectName().isEmpty() ? QString::fromLatin1(dialog.metaObject()->className()) : dialog.objectName();
+  return say("the dialog \"%1\" (%2)").arg(title, kind);
+}
+
+}  // namespace
+
+DialogAnswers::DialogAnswers() { qApp->installEventFilter(this); }
+DialogAnswers::~DialogAnswers() = default;
+
+bool DialogAnswers::eventFilter(QObject* watched, QEvent* event) {
+  auto* const dialog = event->type() == QEvent::Show ? qobject_cast<QDialog*>(watched) : nullptr;
+  if (dialog && dialog->isModal() && !qobject_cast<QProgressDialog*>(dialog))
+    QTimer::singleShot(0, dialog, [this, dialog] {
+      if (dialog->isVisible()) answer(*dialog);
+    });
+  return false;
+}
+
+// A value or a button may close the dialog, and with it destroy it.
+void DialogAnswers::answer(QDialog& dialog) {
+  QPointer<QDialog> const shown(&dialog);
+  bool isAnswered = false, isToBeRejected = false;
+  while (!answers_.empty() && problem_.isEmpty()) {
+    Answer const next = answers_.front();
+    QWidget* const widget = next.kind == Answer::Kind::Widget ? widgetOf(dialog, next.widget) : nullptr;
+    if (next.kind == Answer::Kind::Widget && !widget) break;
+    answers_.pop_front();
+    isAnswered = true;
+    isToBeRejected = next.kind == Answer::Kind::Cancel;
+    if (next.kind != Answer::Kind::Widget) break;
+    if (!apply(dialog, *widget, next.value))
+      return fail(dialog, say("%1 does not take \"%2\"").arg(next.widget, next.value));
+    if (!shown || !shown->isVisible()) return;
+  }
+  if (!problem_.isEmpty() || isToBeRejected) return dialog.reject();
+  if (!isAnswered) return fail(dialog, say("nobody answers it"));
+  accept(dialog);
+  if (shown && shown->isVisible()) fail(dialog, say("it can't be accepted like this"));
+}
+
+void DialogAnswers::fail(QDialog& dialog, QString const& why) {
+  QString const names = answers_.empty() ? QString() : say("; the next answer is for %1").arg(answers_.front().widget);
+  if (problem_.isEmpty()) problem_ = nameOf(dialog) + QStringLiteral(": ") + why + names;
+  dialog.reject();
+}
+
+QString DialogAnswers::takeProblem() {
+  QString problem = std::exchange(problem_, QString());
+  if (problem.isEmpty() && !answers_.empty())
+    problem = say("no dialog has taken the answer for %1")
+                  .arg(answers_.front().widget.isEmpty() ? say("a dialog as a whole") : answers_.front().widget);
+  answers_.clear();
+  return problem;
+}

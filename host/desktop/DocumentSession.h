@@ -1,0 +1,44 @@
+#pragma once
+
+#include <SysCarto/MapDocument.h>
+
+#include <QObject>
+
+/// The document that is being worked on, its undo history, and whether it holds what its file does not. As long as the
+/// session lives, the editor records into that history.
+class DocumentSession final : public QObject {
+  Q_OBJECT
+
+public:
+  DocumentSession();
+  ~DocumentSession() override;
+
+  SysCarto::MapDocument& document() { return document_; }
+  QString path() const { return document_.GetPath(); }
+
+  /// The file's name, or what a document without a file is called.
+  QString title() const;
+
+  // Each answers false, with a sentence in `problem` and the document unchanged, where it can't be done.
+  bool create();
+  bool open(QString const& path);
+  bool save();
+  bool saveAs(QString const& path);
+  QString problem() const { return document_.GetErrors().join(QLatin1Char('\n')); }
+
+  /// Whether a save would write another file than the last one. What is kept out of the history counts, too.
+  bool isModified() const;
+
+signals:
+  /// Another document, or the same with another file: everything about it is to be asked anew.
+  void replaced();
+
+  /// The history has moved.
+  void historyChanged();
+
+private:
+  bool settle(bool done);
+
+  SysCarto::MapDocument document_;
+  QByteArray storedText_;
+};

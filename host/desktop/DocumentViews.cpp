@@ -1,0 +1,46 @@
+#include "DocumentViews.h"
+
+#include <SysCarto/Map.h>
+#include <SysCarto/MapDocument.h>
+
+using SysCarto::PageLayout;
+using SysUtility::_ptr_t;
+
+DocumentViews::DocumentViews(SysCarto::MapDocument& document, QWidget* parent)
+    : QStackedWidget(parent), document_(document), layoutView_(new LayoutView(this)), mapView_(new MapView(this)) {
+  addWidget(layoutView_);
+  addWidget(mapView_);
+  for (ViewWidget* view : {static_cast<ViewWidget*>(layoutView_), static_cast<ViewWidget*>(mapView_)})
+    connect(view, &ViewWidget::viewChanged, this, &DocumentViews::changed);
+  follow();
+}
+
+// The views let go of the layout while the document still lives.
+DocumentViews::~DocumentViews() {
+  layoutView_->setLayout(nullptr);
+  mapView_->setLayout(nullptr);
+}
+
+void DocumentViews::follow() {
+  layoutView_->setLayout(document_.GetPageLayout());
+  mapView_->setLayout(document_.GetPageLayout());
+}
+
+// The focus may have gone to another map since the view was last shown.
+void DocumentViews::show(Kind kind) {
+  if (kind == Kind::Map) mapView_->setLayout(document_.GetPageLayout());
+  setCurrentIndex(static_cast<int>(kind));
+  emit changed();
+}
+
+_ptr_t<SysCarto::ActiveView> DocumentViews::activeView() const {
+  if (kind() == Kind::Layout) return document_.GetPageLayout();
+  return mapView_->map();
+}
+
+_ptr_t<PageLayout> DocumentViews::GetPageLayout() const { return document_.GetPageLayout(); }
+
+void DocumentViews::SetPageLayout(_ptr_t<PageLayout> const& layout) {
+  document_.setPageLayout(layout);
+  follow();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "LayoutView.h"
+#include "MapView.h"
+
+#include <SysAdapterUI/PageLayoutControl.h>
+
+#include <QStackedWidget>
+
+namespace SysCarto {
+class MapDocument;
+}
+
+/// The views of a document, one of which is shown: the page layout, or the map of its focus data frame.
+class DocumentViews final : public QStackedWidget, public SysAdapterUI::PageLayoutControl {
+  Q_OBJECT
+
+public:
+  enum class Kind { Layout, Map };
+
+  /// `document` is borrowed and outlives the views.
+  DocumentViews(SysCarto::MapDocument& document, QWidget* parent);
+  ~DocumentViews() override;
+
+  /// Shows what the document holds now.
+  void follow();
+
+  Kind kind() const { return static_cast<Kind>(currentIndex()); }
+  void show(Kind kind);
+
+  /// Empty where the document has no page, or the map view is shown and there is no map.
+  SysUtility::_ptr_t<SysCarto::ActiveView> activeView() const;
+  LayoutView& layoutView() { return *layoutView_; }
+  MapView& mapView() { return *mapView_; }
+
+  SysUtility::_ptr_t<SysCarto::PageLayout> GetPageLayout() const override;
+  void SetPageLayout(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout) override;
+  SysAdapterUI::ICompanion* GetCompanion() override { return companion_; }
+
+  /// Borrowed; null where nobody follows.
+  void setCompanion(SysAdapterUI::ICompanion* companion) { companion_ = companion; }
+
+signals:
+  /// States that depend on the views may have changed.
+  void changed();
+
+private:
+  SysCarto::MapDocument& document_;
+  LayoutView* layoutView_;
+  MapView* mapView_;
+  SysAdapterUI::ICompanion* companion_ = nullptr;
+};

@@ -1,0 +1,97 @@
+#include "HostCommands.h"
+
+#include "DocumentSession.h"
+#include "SelectTool.h"
+#include "SelectionHandles.h"
+
+#include <SysFramework/HostAccess.h>
+
+#include <QCoreApplication>
+
+using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr int elementsChanged = 8;
+
+class HostCommand final : public SysFramework::BaseCommand {
+public:
+  explicit HostCommand(HostCommands::Action action) : action_(std::move(action)) {}
+  bool IsEnable() override { return !action_.isEnabled || action_.isEnabled(); }
+  bool IsChecked() override { return action_.isChecked && action_.isChecked(); }
+  void OnClick() override { action_.click(); }
+
+private:
+  HostCommands::Action const action_;
+};
+
+// The layout with its container, where the layout view is shown.
+_ptr_t<SysCarto::PageLayout> shownLayout(DocumentViews const& views) {
+  return SysUtility::ptr_cast<SysCarto::PageLayout>(views.activeView());
+}
+
+void selectAll(SysCarto::PageLayout& layout) {
+  for (auto const& element : layout.GetGraphicsContainer()->GetElements())
+    if (!isLocked(*element)) layout.GetGraphicsContainer()->SelectElement(element);
+  layout.PartialRefresh(elementsChanged, nullptr);
+}
+
+void unselect(SysCarto::PageLayout& layout) {
+  layout.GetGraphicsContainer()->UnselectAllElements();
+  layout.PartialRefresh(elementsChanged, nullptr);
+}
+
+void deleteSelection(SysCarto::PageLayout& layout) {
+  {
+    SysFramework::EditorOperation const operation(
+        QCoreApplication::translate("HostCommands", "Delete the selected elements"));
+    for (auto const& element : movableSelection(layout)) layout.GetGraphicsContainer()->DeleteElement(element);
+  }
+  layout.PartialRefresh(elementsChanged, nullptr);
+}
+
+bool hasElements(SysCarto::PageLayout const& layout) { return !layout.GetGraphicsContainer()->GetElements().isEmpty(); }
+bool hasSelection(SysCarto::PageLayout const& layout) {
+  return layout.GetGraphicsContainer()->GetSelectedElementCount() > 0;
+}
+bool hasMovable(SysCarto::PageLayout const& layout) { return !movableSelection(layout).isEmpty(); }
+
+struct LayoutAction {
+  char const* identifier;
+  void (*click)(SysCarto::PageLayout&);
+  bool (*isEnabled)(SysCarto::PageLayout const&);
+};
+// clang-format off
+constexpr LayoutAction layoutActions[] = {
+    {"Host_SelectAll", selectAll,       hasElements},
+    {"Host_Unselect",  unselect,        hasSelection},
+    {"Host_Delete",    deleteSelection, hasMovable},
+};
+// clang-format on
+
+}  // namespace
+
+HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) {
+  auto const stack = [&session] { return session.document().GetOperationStack(); };
+  add(QStringLiteral("Host_Undo"), {[stack] { stack()->Undo(); }, [stack] { return stack()->CanUndo(); }, {}});
+  add(QStringLiteral("Host_Redo"), {[stack] { stack()->Redo(); }, [stack] { return stack()->CanRedo(); }, {}});
+  for (LayoutAction const& row : layoutActions)
+    add(QLatin1String(row.identifier), {[&views, &row] { row.click(*shownLayout(views)); },
+                                        [&views, &row] {
+                                          auto const layout = shownLayout(views);
+                                          return layout && row.isEnabled(*layout);
+                                        },
+                                        {}});
+  for (auto const& [identifier, kind] : {std::make_pair("Host_LayoutView", DocumentViews::Kind::Layout),
+                                         std::make_pair("Host_MapView", DocumentViews::Kind::Map)})
+    add(QLatin1String(identifier),
+        {[&views, kind = kind] { views.show(kind); }, [&views] { return static_cast<bool>(views.GetPageLayout()); },
+         [&views, kind = kind] { return views.kind() == kind; }});
+}
+
+_ptr_t<SysUI::ICommand> HostCommands::createCommand(QString const& identifier) const {
+  if (identifier == QLatin1String("Host_Select")) return SysUtility::make<SelectTool>();
+  auto const action = actions_.constFind(identifier);
+  if (action == actions_.constEnd()) return nullptr;
+  return SysUtility::make<HostCommand>(*action);
+}

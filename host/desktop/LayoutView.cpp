@@ -1,0 +1,166 @@
+#include "LayoutView.h"
+
+#include "SelectionHandles.h"
+
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <cmath>
+
+using SysCarto::PageLayout;
+using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr int everything = SysCarto::ViewSurface::everything;
+constexpr double wheelStep = 120;  // of an ordinary wheel, in eighths of a degree
+constexpr double zoomPerStep = 1.25;
+constexpr double scrollPerStepPx = 60;
+constexpr double largestPageScale = 100, smallestPageScale = 0.03451;  // as far as the zoom tools go
+
+}  // namespace
+
+LayoutView::LayoutView(QWidget* parent) : ViewWidget(parent) {
+  setObjectName(QStringLiteral("layoutView"));
+  setMinimumSize(160, 120);
+}
+
+LayoutView::~LayoutView() { setLayout(nullptr); }
+
+void LayoutView::setLayout(_ptr_t<PageLayout> const& layout) {
+  if (layout == layout_) return;
+  if (layout_) layout_->setSurface(nullptr);
+  layout_ = layout;
+  dragging_ = Qt::NoButton;
+  clearOverlay();
+  if (layout_) {
+    layout_->GetDisplayTransformation()->SetDeviceFrame(rect());
+    layout_->ZoomToWholePage();
+    layout_->setSurface(this);
+  }
+  refresh(everything);
+}
+
+void LayoutView::setTool(_ptr_t<SysUI::ITool> const& tool) {
+  tool_ = tool;
+  dragging_ = Qt::NoButton;
+  unsetCursor();
+  QEvent enter(QEvent::Enter);
+  if (tool_ && layout_) tool_->OnEnterEvent(&enter);
+}
+
+void LayoutView::composePicture() {
+  if (layout_) picture_.compose(*layout_, devicePixelRatioF());
+}
+
+void LayoutView::continuePicture() {
+  if (layout_) picture_.drawSlice(*layout_, sliceMs);
+}
+
+void LayoutView::paintOver(QPainter& painter) {
+  if (layout_) SelectionHandles(*layout_).paint(painter);
+}
+
+// Undo and redo, and the tool's own keys, reach the tool before a menu takes them for a shortcut.
+bool LayoutView::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    auto const key = static_cast<QKeyEvent*>(event)->key();
+    bool const isArrow = key >= Qt::Key_Left && key <= Qt::Key_Down;
+    bool const isPlain = !(static_cast<QKeyEvent*>(event)->modifiers() & (Qt::AltModifier | Qt::ControlModifier));
+    if ((isArrow && isPlain) || key == Qt::Key_Escape) event->accept();
+  }
+  return ViewWidget::event(event);
+}
+
+void LayoutView::resizeEvent(QResizeEvent*) {
+  if (!layout_) return;
+  layout_->GetDisplayTransformation()->SetDeviceFrame(rect());
+  layout_->RedrawAll(true);
+}
+
+void LayoutView::mousePressEvent(QMouseEvent* event) {
+  if (!tool_ || !layout_ || dragging_ != Qt::NoButton || event->button() == Qt::RightButton) return;
+  dragging_ = event->button();
+  tool_->OnMouseDown(event);
+  emit viewChanged();
+}
+
+void LayoutView::mouseMoveEvent(QMouseEvent* event) {
+  ViewWidget::mouseMoveEvent(event);
+  if (!tool_ || !layout_) return;
+  if (dragging_ != Qt::NoButton)
+    tool_->OnMouseMove(event);
+  else if (event->buttons() == Qt::NoButton)
+    tool_->JustMouseMove(event);
+}
+
+void LayoutView::mouseReleaseEvent(QMouseEvent* event) {
+  if (!tool_ || !layout_ || event->button() != dragging_) return;
+  dragging_ = Qt::NoButton;
+  tool_->OnMouseUp(event);
+  emit viewChanged();
+}
+
+void LayoutView::mouseDoubleClickEvent(QMouseEvent* event) {
+  mousePressEvent(event);
+  if (tool_ && layout_) tool_->OnDblClick(event);
+}
+
+void LayoutView::wheelEvent(QWheelEvent* event) {
+  if (!layout_ || dragging_ != Qt::NoButton || (tool_ && tool_->OnWheelEvent(event))) return;
+  if (event->modifiers() & Qt::ControlModifier)
+    zoomAt(event->position().toPoint(), std::pow(zoomPerStep, event->angleDelta().y() / wheelStep));
+  else
+    scroll(*event);
+  event->accept();
+}
+
+void LayoutView::scroll(QWheelEvent const& event) {
+  QPointF offset = event.pixelDelta();
+  if (event.pixelDelta().isNull()) offset = QPointF(event.angleDelta()) * (scrollPerStepPx / wheelStep);
+  if (event.modifiers() & Qt::ShiftModifier) offset = offset.transposed();
+  double const pixelsPerCm = layout_->GetDisplayTransformation()->ToDevice().m11();
+  auto const extent = layout_->GetExtent();
+  extent->Offset(-offset.x() / pixelsPerCm, offset.y() / pixelsPerCm);
+  layout_->SetExtent(extent);
+  layout_->RedrawAll(true);
+}
+
+// What lies under the mouse stays there.
+void LayoutView::zoomAt(QPoint const& position, double factor) {
+  double const pageScale = layout_->GetDisplayTransformation()->GetPageScale() * factor;
+  if (pageScale > largestPageScale || pageScale < smallestPageScale) return;
+  auto const at = layout_->GetDisplayTransformation()->ToMapPoint(position);
+  auto const extent = layout_->GetExtent();
+  auto const nearer = [factor](double centre, double side) { return centre + (side - centre) / factor; };
+  extent->PutCoords(nearer(at->GetX(), extent->GetXMin()), nearer(at->GetY(), extent->GetYMin()),
+                    nearer(at->GetX(), extent->GetXMax()), nearer(at->GetY(), extent->GetYMax()));
+  layout_->SetExtent(extent);
+  layout_->RedrawAll(true);
+}
+
+void LayoutView::keyPressEvent(QKeyEvent* event) {
+  event->ignore();
+  if (!tool_ || !layout_) return;
+  tool_->OnKeyDown(event);
+  if (event->isAccepted()) emit viewChanged();
+}
+
+void LayoutView::keyReleaseEvent(QKeyEvent* event) {
+  if (tool_ && layout_) tool_->OnKeyUp(event);
+}
+
+void LayoutView::enterEvent(QEvent* event) {
+  if (tool_ && layout_) tool_->OnEnterEvent(event);
+}
+
+void LayoutView::leaveEvent(QEvent* event) {
+  ViewWidget::leaveEvent(event);
+  if (tool_ && layout_) tool_->OnLeaveEvent(event);
+}
+
+void LayoutView::contextMenuEvent(QContextMenuEvent* event) {
+  if (dragging_ != Qt::NoButton || (tool_ && layout_ && tool_->OnContextMenu(event))) return;
+  event->ignore();  // the window has a menu
+}

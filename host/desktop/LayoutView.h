@@ -1,0 +1,53 @@
+#pragma once
+
+#include "PagePicture.h"
+#include "ViewWidget.h"
+
+#include <SysUI/ITool.h>
+
+/// The screen of a page layout. Mouse and keys go to the current tool.
+class LayoutView final : public ViewWidget {
+  Q_OBJECT
+
+public:
+  explicit LayoutView(QWidget* parent);
+  ~LayoutView() override;
+
+  /// Shows another layout, whole; an empty pointer shows none.
+  void setLayout(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout);
+  SysUtility::_ptr_t<SysCarto::PageLayout> const& layout() const { return layout_; }
+
+  /// The tool that receives events from now on; may be empty.
+  void setTool(SysUtility::_ptr_t<SysUI::ITool> const& tool);
+
+  bool isComplete() const override { return picture_.isComplete(); }
+  int drawnTiles() const { return picture_.drawnTiles(); }
+
+protected:
+  void composePicture() override;
+  void continuePicture() override;
+  QImage const& picture() const override { return picture_.image(); }
+  void paintOver(QPainter& painter) override;
+
+  bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void enterEvent(QEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+  void scroll(QWheelEvent const& event);
+  void zoomAt(QPoint const& position, double factor);
+
+  SysUtility::_ptr_t<SysCarto::PageLayout> layout_;
+  SysUtility::_ptr_t<SysUI::ITool> tool_;
+  Qt::MouseButton dragging_ = Qt::NoButton;  // a tool's drag begins and ends with the same button
+  PagePicture picture_;
+};

@@ -1,0 +1,240 @@
+#include "MainWindow.h"
+
+#include "Icons.h"
+
+#include <SysCarto/Map.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr QSize firstSize(1280, 860);
+constexpr int contentsWidthPx = 230;
+constexpr int everything = SysCarto::ViewSurface::everything;
+QString const geometryKey = QStringLiteral("window/geometry");
+QString const stateKey = QStringLiteral("window/state");
+constexpr int stateVersion = 1;  // of the toolbars and docks
+
+// The one local document that is dragged; empty where something else is.
+QString documentIn(QMimeData const& data) {
+  QList<QUrl> const urls = data.urls();
+  QString const path = urls.size() == 1 ? urls.first().toLocalFile() : QString();
+  return path.endsWith(QLatin1String(".kdx"), Qt::CaseInsensitive) ? path : QString();
+}
+
+QLabel* addLabel(QStatusBar& bar, QString const& widest, QString const& toolTip) {
+  auto* const label = new QLabel(&bar);
+  label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest));
+  label->setToolTip(toolTip);
+  bar.addPermanentWidget(label);
+  return label;
+}
+
+}  // namespace
+
+class MainWindow::Companion final : public SysAdapterUI::ICompanion {
+public:
+  explicit Companion(SysAdapterUI::TOCControl& control) : control_(control) {}
+  void SetBuddy(SysCarto::IKdxContents* contents) override { control_.SetBuddy(contents); }
+
+private:
+  SysAdapterUI::TOCControl& control_;
+};
+
+MainWindow::MainWindow()
+    : bench_([this](HostCommands& host) { addWindowCommands(host); }), files_(bench_.session(), *this) {
+  setAcceptDrops(true);
+  setWindowIcon(loadIcon(QStringLiteral("layout-view")));
+  resize(firstSize);
+  buildViews();
+  buildContents();
+  buildStatusBar();
+  actions_ = std::make_unique<ActionTable>(bench_.commands(), *this);
+  auto* const recent = new QMenu(tr("Open Recent"), this);
+  files_.fillWithRecent(*recent);
+  actions_->menu(QStringLiteral("File"))->insertMenu(actions_->find(QStringLiteral("Host_Save")), recent);
+
+  connect(&bench_.views(), &DocumentViews::changed, actions_.get(), &ActionTable::refreshSoon);
+  connect(&bench_.session(), &DocumentSession::historyChanged, actions_.get(), &ActionTable::refreshSoon);
+  connect(&bench_.session(), &DocumentSession::replaced, this, &MainWindow::documentReplaced);
+  connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
+  restoreState();
+  bench_.session().create();
+  if (bench_.plugin().state() != PluginLibrary::State::Loaded)
+    QMessageBox::warning(this, tr("Plotvane"), bench_.plugin().reason());
+}
+
+// The desktop forgets the table of contents, and the views their follower, before they are destroyed.
+MainWindow::~MainWindow() {
+  bench_.views().disconnect();
+  bench_.session().disconnect(this);
+  bench_.desktop().setTableOfContents(nullptr);
+  bench_.views().setCompanion(nullptr);
+}
+
+void MainWindow::addWindowCommands(HostCommands& host) {
+  auto const modified = [this] { return bench_.session().isModified() || bench_.session().path().isEmpty(); };
+  auto const always = std::function<bool()>();
+  host.add(QStringLiteral("Host_New"), {[this] { files_.create(); }, always, always});
+  host.add(QStringLiteral("Host_Open"), {[this] { files_.open(); }, always, always});
+  host.add(QStringLiteral("Host_Save"), {[this] { files_.save(); }, modified, always});
+  host.add(QStringLiteral("Host_SaveAs"), {[this] { files_.saveAs(); }, always, always});
+  host.add(QStringLiteral("Host_Contents"), {[this] { contentsDock_->setVisible(!contentsDock_->isVisible()); }, always,
+                                             [this] { return contentsDock_->isVisible(); }});
+  host.add(QStringLiteral("Host_Quit"), {[this] { QTimer::singleShot(0, this, &QWidget::close); }, always, always});
+  host.add(QStringLiteral("Host_About"), {[this] { showAbout(); }, always, always});
+}
+
+void MainWindow::buildViews() {
+  auto* const centre = new QWidget(this);
+  auto* const box = new QVBoxLayout(centre);
+  box->setContentsMargins(0, 0, 0, 0);
+  box->setSpacing(0);
+  tabs_ = new QTabBar(centre);
+  tabs_->setShape(QTabBar::RoundedSouth);
+  tabs_->setDrawBase(false);
+  tabs_->setExpanding(false);
+  tabs_->addTab(loadIcon(QStringLiteral("layout-view")), tr("Page Layout"));
+  tabs_->addTab(loadIcon(QStringLiteral("map-view")), tr("Map"));
+  box->addWidget(&bench_.views(), 1);
+  box->addWidget(tabs_);
+  setCentralWidget(centre);
+  connect(tabs_, &QTabBar::currentChanged, this,
+          [this](int index) { bench_.views().show(static_cast<DocumentViews::Kind>(index)); });
+  connect(&bench_.views(), &QStackedWidget::currentChanged, tabs_, &QTabBar::setCurrentIndex);
+  connect(&bench_.views().layoutView(), &ViewWidget::pointed, this, &MainWindow::showPointer);
+  connect(&bench_.views().layoutView(), &ViewWidget::left, this, [this] { position_->clear(); });
+}
+
+void MainWindow::buildContents() {
+  contents_ = new SysAdapterUI::TOCControl(this);
+  contents_->setMinimumWidth(contentsWidthPx / 2);
+  contentsDock_ = new QDockWidget(tr("Contents"), this);
+  contentsDock_->setObjectName(QStringLiteral("dockWidget_Contents"));
+  contentsDock_->setWidget(contents_);
+  addDockWidget(Qt::LeftDockWidgetArea, contentsDock_);
+  resizeDocks({contentsDock_}, {contentsWidthPx}, Qt::Horizontal);
+  companion_ = std::make_unique<Companion>(*contents_);
+  bench_.views().setCompanion(companion_.get());
+  bench_.desktop().setTableOfContents(contents_);
+  connect(contents_, &SysAdapterUI::TOCControl::VisibilityChanged, this, [this] {
+    bench_.views().layoutView().refresh(everything);
+    bench_.views().mapView().refresh(everything);
+  });
+  connect(contentsDock_, &QDockWidget::visibilityChanged, this, [this] {
+    if (actions_) actions_->refreshSoon();
+  });
+}
+
+void MainWindow::buildStatusBar() {
+  position_ =
+      addLabel(*statusBar(), tr("x 000.00 cm  y 000.00 cm"), tr("Place on the page, from its lower left corner"));
+  scale_ = addLabel(*statusBar(), tr("Map 1:000,000,000"), tr("Scale of the map in the focus data frame"));
+  zoom_ = addLabel(*statusBar(), tr("Zoom 0000 %"), tr("Size of the page on the screen; 100 % is its size on paper"));
+}
+
+void MainWindow::restoreState() {
+  QSettings const settings;
+  restoreGeometry(settings.value(geometryKey).toByteArray());
+  QMainWindow::restoreState(settings.value(stateKey).toByteArray(), stateVersion);
+}
+
+void MainWindow::keepState() {
+  QSettings settings;
+  settings.setValue(geometryKey, saveGeometry());
+  settings.setValue(stateKey, saveState(stateVersion));
+}
+
+void MainWindow::documentReplaced() {
+  contents_->SetBuddy(&bench_.views());
+  actions_->refreshSoon();
+}
+
+void MainWindow::showState() {
+  auto& session = bench_.session();
+  setWindowTitle(tr("%1[*] – Plotvane").arg(session.title()));
+  setWindowModified(session.isModified());
+  auto const stack = session.document().GetOperationStack();
+  for (auto const& [identifier, name] :
+       {std::make_pair("Host_Undo", stack->GetUndoName()), std::make_pair("Host_Redo", stack->GetRedoName())}) {
+    auto const* const command = bench_.commands().find(QLatin1String(identifier));
+    QAction* const action = actions_->find(command->entry.identifier);
+    action->setText(name.isEmpty() ? command->entry.caption : tr("%1: %2").arg(command->entry.caption, name));
+  }
+  auto const layout = bench_.views().GetPageLayout();
+  auto const map = layout ? layout->GetFocusMap() : nullptr;
+  double const denominator = map && map->GetLayerCount() > 0 ? map->GetDisplayTransformation()->GetMapScale() : 0;
+  scale_->setText(denominator > 0 ? tr("Map 1:%1").arg(locale().toString(denominator, 'f', 0)) : QString());
+  double const zoom = layout ? layout->GetDisplayTransformation()->GetPageScale() : 0;
+  zoom_->setText(zoom > 0 ? tr("Zoom %1 %").arg(100 * zoom, 0, 'f', zoom < 0.1 ? 1 : 0) : QString());
+}
+
+void MainWindow::showPointer(QPoint const& positionPx) {
+  auto const layout = bench_.views().GetPageLayout();
+  if (!layout) return position_->clear();
+  auto const point = layout->GetDisplayTransformation()->ToMapPoint(positionPx);
+  position_->setText(tr("x %1 cm  y %2 cm").arg(point->GetX(), 0, 'f', 2).arg(point->GetY(), 0, 'f', 2));
+}
+
+void MainWindow::showAbout() {
+  QMessageBox::about(this, tr("About Plotvane"),
+                     tr("<b>Plotvane %1</b><p>Lays out printed maps.</p><p>MIT licence.</p>")
+                         .arg(QCoreApplication::applicationVersion()));
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!files_.mayLeave()) return event->ignore();
+  keepState();
+  event->accept();
+}
+
+// The icons are drawn anew by themselves, the pictures of the views and the list's symbols are not.
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && contents_) bench_.views().layoutView().refresh(everything);
+}
+
+void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
+  if (!bench_.views().rect().contains(bench_.views().mapFromGlobal(event->globalPos())))
+    return QMainWindow::contextMenuEvent(event);
+  QMenu menu;
+  for (char const* identifier : {"Host_Undo", "Host_Redo", "", "Host_SelectAll", "Host_Unselect", "Host_Delete", "",
+                                 "Plotvane_BringToFrontElements", "Plotvane_SendToBackElements", "",
+                                 "Plotvane_ZoomToWhole", "Plotvane_ZoomToOrigin"}) {
+    if (QAction* const action = actions_->find(QLatin1String(identifier)))
+      menu.addAction(action);
+    else
+      menu.addSeparator();
+  }
+  menu.exec(event->globalPos());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!documentIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  QString const path = documentIn(*event->mimeData());
+  if (path.isEmpty()) return;
+  event->acceptProposedAction();
+  QTimer::singleShot(0, this, [this, path] { open(path); });  // the program it comes from waits for this one
+}
+
+int runWindow(QString const& path) {
+  MainWindow window;
+  window.show();
+  if (!path.isEmpty()) QTimer::singleShot(0, &window, [&window, path] { window.open(path); });
+  return QApplication::exec();
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "ActionTable.h"
+#include "DocumentFiles.h"
+#include "Workbench.h"
+
+#include <SysAdapterUI/PageLayoutControl.h>
+#include <SysAdapterUI/TOCControl.h>
+
+#include <QMainWindow>
+
+class QLabel;
+class QTabBar;
+
+/// The window: puts together the workbench, its actions, the table of contents and the status bar.
+class MainWindow final : public QMainWindow {
+  Q_OBJECT
+
+public:
+  MainWindow();
+  ~MainWindow() override;
+
+  /// Opens a document; a message box says why where it can't.
+  bool open(QString const& path) { return files_.open(path); }
+
+  Workbench& bench() { return bench_; }
+  ActionTable& actions() { return *actions_; }
+
+protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+private:
+  // Whoever installs a layout in the views tells the table of contents so.
+  class Companion;
+
+  void addWindowCommands(HostCommands& host);
+  void buildContents();
+  void buildViews();
+  void buildStatusBar();
+  void keepState();
+  void restoreState();
+
+  void documentReplaced();
+  void showState();
+  void showPointer(QPoint const& positionPx);
+  void showAbout();
+
+  Workbench bench_;
+  DocumentFiles files_;
+  std::unique_ptr<ActionTable> actions_;
+  std::unique_ptr<Companion> companion_;
+  SysAdapterUI::TOCControl* contents_ = nullptr;
+  QDockWidget* contentsDock_ = nullptr;
+  QTabBar* tabs_ = nullptr;
+  QLabel* position_ = nullptr;
+  QLabel* scale_ = nullptr;
+  QLabel* zoom_ = nullptr;
+};
+
+/// Opens the window, with a document where `path` is not empty, and runs until it is closed.
+int runWindow(QString const& path);

@@ -1,0 +1,164 @@
+#include "PageGesture.h"
+
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+#include <SysFramework/HostAccess.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+using SysCarto::Element;
+using SysCarto::PageLayout;
+using SysGeometry::Envelope;
+using SysGeometry::Point;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace {
+
+constexpr double dragPx = 3;        // a hand is not still
+constexpr double smallestCm = 0.1;  // that a drag makes of a side
+constexpr int elementsChanged = 8;
+constexpr int mostOutlines = 200;  // more of them tell no more than one about them all
+
+QString say(char const* text) { return QCoreApplication::translate("PageGesture", text); }
+
+_ptr_t<SysDisplay::Symbol> outlineSymbol() {
+  auto const line = make<SysDisplay::SimpleLineSymbol>();
+  line->SetStyle(SysDisplay::SimpleLineStyle::Solid);
+  line->SetColor(QColor(0x1a, 0x73, 0xe8));
+  line->SetWidth(0.75);
+  auto const fill = make<SysDisplay::SimpleFillSymbol>();
+  fill->SetColor(QColor(0x1a, 0x73, 0xe8, 36));
+  fill->SetOutlineSymbol(line);
+  return fill;
+}
+
+QRectF rectangleOf(Envelope const& envelope) {
+  return {envelope.GetXMin(), envelope.GetYMin(), envelope.GetWidth(), envelope.GetHeight()};
+}
+
+QVector<QRectF> selectedRectangles(PageLayout const& layout) {
+  auto const selection = movableSelection(layout);
+  if (selection.size() > mostOutlines) return {SelectionHandles(layout).boundsCm()};
+  QVector<QRectF> rectangles;
+  for (auto const& element : selection) rectangles << rectangleOf(*element->GetEnvelope());
+  return rectangles;
+}
+
+}  // namespace
+
+void changeSelection(PageLayout& layout, QString const& name, std::function<void(Element&)> const& change) {
+  auto const selection = movableSelection(layout);
+  if (selection.isEmpty()) return;
+  {
+    SysFramework::EditorOperation const operation(name);
+    for (auto const& element : selection) {
+      auto const clone = element->Clone();
+      change(*clone);
+      layout.GetGraphicsContainer()->ReplaceElement(element->GetHandle(), clone);
+    }
+  }
+  layout.PartialRefresh(elementsChanged, nullptr);
+}
+
+PageGesture::PageGesture(PageLayout& layout, QPointF const& press) : layout_(layout), press_(press), point_(press) {}
+PageGesture::~PageGesture() = default;
+
+void PageGesture::moveTo(QPointF const& point, Qt::KeyboardModifiers modifiers) {
+  point_ = point;
+  modifiers_ = modifiers;
+  QPointF const way = (point - press_) * layout_.GetDisplayTransformation()->ToDevice().m11();
+  hasMoved_ = hasMoved_ || std::max(std::abs(way.x()), std::abs(way.y())) >= dragPx;
+  if (!hasMoved_) return;
+  layout_.BeginTrackerDraw();
+  _ptr_t<SysDisplay::Symbol> symbol = outlineSymbol();
+  for (QRectF const& outline : outlines()) {
+    _ptr_t<SysGeometry::Geometry> shape =
+        make<Envelope>(outline.left(), outline.top(), outline.right(), outline.bottom());
+    layout_.DrawTrackerShape(symbol, shape);
+  }
+  layout_.EndTrackerDraw();
+}
+
+void PageGesture::finish() {
+  cancel();
+  if (hasMoved_) commit();
+}
+
+void PageGesture::cancel() {
+  layout_.BeginTrackerDraw();
+  layout_.EndTrackerDraw();
+}
+
+QVector<QRectF> MoveGesture::outlines() const {
+  QVector<QRectF> moved = selectedRectangles(layout());
+  for (QRectF& rectangle : moved) rectangle.translate(offset());
+  return moved;
+}
+
+void MoveGesture::commit() {
+  QPointF const by = offset();
+  if (by.isNull()) return;
+  changeSelection(layout(), say(QT_TRANSLATE_NOOP("PageGesture", "Move the selected elements")),
+                  [by](Element& element) { element.Move(by.x(), by.y()); });
+}
+
+ResizeGesture::ResizeGesture(PageLayout& layout, QPointF const& press, Handle const& handle)
+    : PageGesture(layout, press), handle_(handle), bounds_(SelectionHandles(layout).boundsCm()) {}
+
+// A rectangle is not turned over, and a side without a length is not scaled.
+ResizeGesture::Scaling ResizeGesture::scaling() const {
+  QPointF const way = point() - press();
+  auto const factor = [](double length, int side, double by) {
+    return side == 0 || length <= 0 ? 1.0 : std::max(length + side * by, std::min(smallestCm, length)) / length;
+  };
+  Scaling scaling;
+  scaling.x = factor(bounds_.width(), handle_.x, way.x());
+  scaling.y = factor(bounds_.height(), handle_.y, way.y());
+  if (modifiers() & Qt::ShiftModifier) {
+    bool const followsX = handle_.y == 0 || (handle_.x != 0 && std::abs(scaling.x - 1) > std::abs(scaling.y - 1));
+    scaling.x = scaling.y = followsX ? scaling.x : scaling.y;
+  }
+  // The rectangle's top is the page's bottom: y goes upwards there.
+  scaling.origin = {handle_.x > 0   ? bounds_.left()
+                    : handle_.x < 0 ? bounds_.right()
+                                    : bounds_.center().x(),
+                    handle_.y > 0   ? bounds_.top()
+                    : handle_.y < 0 ? bounds_.bottom()
+                                    : bounds_.center().y()};
+  return scaling;
+}
+
+QVector<QRectF> ResizeGesture::outlines() const {
+  Scaling const by = scaling();
+  QTransform scaled;
+  scaled.translate(by.origin.x(), by.origin.y());
+  scaled.scale(by.x, by.y);
+  scaled.translate(-by.origin.x(), -by.origin.y());
+  QVector<QRectF> rectangles = selectedRectangles(layout());
+  for (QRectF& rectangle : rectangles) rectangle = scaled.mapRect(rectangle);
+  return rectangles;
+}
+
+void ResizeGesture::commit() {
+  Scaling const by = scaling();
+  if (by.x == 1 && by.y == 1) return;
+  auto const origin = make<Point>(by.origin.x(), by.origin.y(), 0.0);
+  changeSelection(layout(), say(QT_TRANSLATE_NOOP("PageGesture", "Resize the selected elements")),
+                  [&](Element& element) { element.Scale(origin, by.x, by.y); });
+}
+
+void RubberBandGesture::commit() {
+  auto* const container = layout().GetGraphicsContainer();
+  if (!(modifiers() & Qt::ShiftModifier)) container->UnselectAllElements();
+  QRectF const area = band();
+  for (auto const& element : container->GetElements()) {
+    QRectF const rectangle = rectangleOf(*element->GetEnvelope());
+    bool const isInside = rectangle.left() >= area.left() && rectangle.right() <= area.right() &&
+                          rectangle.top() >= area.top() && rectangle.bottom() <= area.bottom();
+    if (isInside && !isLocked(*element)) container->SelectElement(element);
+  }
+}

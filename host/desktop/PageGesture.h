@@ -1,0 +1,101 @@
+#pragma once
+
+#include "SelectionHandles.h"
+
+#include <SysCarto/PageLayout.h>
+
+#include <QPointF>
+
+#include <functional>
+
+class QString;
+
+/// What happens on a page between the press of a mouse button and its release. The gesture owns the course: it shows in
+/// an overlay what would become, and changes the document once, at its end, as one step of undo. What a drag means is
+/// for the derived classes to say. Points are page centimetres.
+class PageGesture {
+public:
+  virtual ~PageGesture();
+  PageGesture(PageGesture const&) = delete;
+  PageGesture& operator=(PageGesture const&) = delete;
+
+  /// Where the mouse is now. A drag begins once it has left the place of the press.
+  void moveTo(QPointF const& point, Qt::KeyboardModifiers modifiers);
+
+  /// Ends the gesture: changes what was shown, or nothing where nothing was dragged.
+  void finish();
+
+  /// Takes the overlay away and changes nothing.
+  void cancel();
+  bool hasMoved() const { return hasMoved_; }
+
+protected:
+  PageGesture(SysCarto::PageLayout& layout, QPointF const& press);
+
+  SysCarto::PageLayout& layout() const { return layout_; }
+  QPointF press() const { return press_; }
+  QPointF point() const { return point_; }
+  Qt::KeyboardModifiers modifiers() const { return modifiers_; }
+
+  /// The rectangles that show what the release would do.
+  virtual QVector<QRectF> outlines() const = 0;
+  virtual void commit() = 0;
+
+private:
+  SysCarto::PageLayout& layout_;
+  QPointF const press_;
+  QPointF point_;
+  Qt::KeyboardModifiers modifiers_;
+  bool hasMoved_ = false;
+};
+
+/// Puts clones in the place of the selected elements that may be moved, as one step of undo, and redraws. `change` is
+/// called with each clone.
+void changeSelection(SysCarto::PageLayout& layout, QString const& name,
+                     std::function<void(SysCarto::Element&)> const& change);
+
+/// Moves the selection.
+class MoveGesture final : public PageGesture {
+public:
+  MoveGesture(SysCarto::PageLayout& layout, QPointF const& press) : PageGesture(layout, press) {}
+
+protected:
+  QVector<QRectF> outlines() const override;
+  void commit() override;
+
+private:
+  QPointF offset() const { return point() - press(); }
+};
+
+/// Drags a handle of the selection, the opposite side staying where it is. Shift keeps the ratio of width and height.
+class ResizeGesture final : public PageGesture {
+public:
+  ResizeGesture(SysCarto::PageLayout& layout, QPointF const& press, Handle const& handle);
+
+protected:
+  QVector<QRectF> outlines() const override;
+  void commit() override;
+
+private:
+  struct Scaling {
+    QPointF origin;
+    double x = 1, y = 1;
+  };
+  Scaling scaling() const;
+
+  Handle const handle_;
+  QRectF const bounds_;
+};
+
+/// Selects what lies wholly in a rectangle; with Shift in addition to what is selected.
+class RubberBandGesture final : public PageGesture {
+public:
+  RubberBandGesture(SysCarto::PageLayout& layout, QPointF const& press) : PageGesture(layout, press) {}
+
+protected:
+  QVector<QRectF> outlines() const override { return {band()}; }
+  void commit() override;
+
+private:
+  QRectF band() const { return QRectF(press(), point()).normalized(); }
+};

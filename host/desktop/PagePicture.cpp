@@ -1,0 +1,144 @@
+#include "PagePicture.h"
+
+#include <SysCarto/MapSurround.h>
+#include <SysCarto/MapSurroundFrame.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPainter>
+#include <QPalette>
+
+using SysCarto::Element;
+using SysCarto::MapFrameElement;
+using SysCarto::MapSurroundFrame;
+using SysCarto::PageLayout;
+using SysDisplay::DisplayTransformation;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+namespace {
+
+constexpr int shadowPx = 3;
+
+QRectF pixelsOf(DisplayTransformation const& transformation, SysGeometry::Envelope const& rectangle) {
+  return transformation.ToDevice().mapRect(
+      QRectF(rectangle.GetXMin(), rectangle.GetYMin(), rectangle.GetWidth(), rectangle.GetHeight()));
+}
+
+QList<_ptr_t<MapFrameElement>> framesOf(PageLayout const& layout) {
+  QList<_ptr_t<MapFrameElement>> frames;
+  for (auto const& element : layout.GetGraphicsContainer()->GetElements())
+    if (auto const frame = ptr_cast<MapFrameElement>(element)) frames << frame;
+  return frames;
+}
+
+// A surround without a map draws nothing, and nobody would find it on the page.
+void paintPlaceholder(QPainter& painter, QRectF const& place) {
+  painter.save();
+  QPen pen(QColor(0x90, 0x98, 0xa0), 0, Qt::DashLine);
+  painter.setPen(pen);
+  painter.drawRect(place);
+  painter.drawText(place, Qt::AlignCenter, QCoreApplication::translate("PagePicture", "No map"));
+  painter.restore();
+}
+
+}  // namespace
+
+void PagePicture::compose(PageLayout const& layout, double devicePixelRatio) {
+  auto const view = layout.GetDisplayTransformation();
+  QSize const size = view->GetDeviceFrame().size() * devicePixelRatio;
+  if (size.isEmpty()) return;
+  if (image_.size() != size) image_ = QImage(size, QImage::Format_ARGB32_Premultiplied);
+  devicePixelRatio_ = devicePixelRatio;
+  transformation_ = view->Clone();
+  transformation_->SetDeviceFrame(image_.rect());
+  transformation_->SetPageScale(view->GetPageScale() * devicePixelRatio);
+  transformation_->SetPaintDevice(&image_);
+  followMaps(layout);
+  paint(layout, image_.rect());
+}
+
+QPoint PagePicture::cornerOf(MapFrameElement const& frame) const {
+  auto const rectangle = frame.GetEnvelope();
+  return transformation_->FromMapPoint(rectangle->GetXMin(), rectangle->GetYMax());
+}
+
+void PagePicture::followMaps(PageLayout const& layout) {
+  QHash<SysCarto::ElementHandle, MapTiles> kept;
+  for (auto const& frame : framesOf(layout)) {
+    MapTiles& tiles = kept[frame->GetHandle()] = tiles_.take(frame->GetHandle());
+    tiles.follow(*frame, transformation_->ToDevice().m11());
+    tiles.setShown(image_.rect().translated(-cornerOf(*frame)));
+  }
+  tiles_ = kept;
+}
+
+QRegion PagePicture::drawSlice(PageLayout const& layout, int budgetMs) {
+  QRegion changed;
+  if (image_.isNull()) return changed;
+  QElapsedTimer clock;
+  clock.start();
+  for (auto const& frame : framesOf(layout)) {
+    auto const tiles = tiles_.find(frame->GetHandle());
+    if (tiles == tiles_.end()) continue;
+    while (changed.isEmpty() || clock.elapsed() < budgetMs) {
+      QRect const drawn = tiles->drawNext(*frame);
+      if (drawn.isNull()) break;
+      ++drawnTiles_;
+      changed += drawn.translated(cornerOf(*frame)) & image_.rect();
+    }
+  }
+  if (changed.isEmpty()) return changed;
+  paint(layout, changed);
+  return changed;
+}
+
+bool PagePicture::isComplete() const {
+  for (MapTiles const& tiles : tiles_)
+    if (!tiles.isComplete()) return false;
+  return true;
+}
+
+void PagePicture::paint(PageLayout const& layout, QRegion const& area) {
+  QPainter painter(&image_);
+  painter.setClipRegion(area);
+  painter.fillRect(image_.rect(), QApplication::palette().color(QPalette::Mid));
+  SysCarto::Page* const page = layout.GetPage();
+  if (page) paintPage(painter, *page);
+  QRectF const dirty = QRectF(area.boundingRect()).adjusted(-1, -1, 1, 1);
+  for (auto const& element : layout.GetGraphicsContainer()->GetElements())
+    if (pixelsOf(*transformation_, *element->GetBoundary(transformation_)->GetEnvelope()).intersects(dirty))
+      paintElement(painter, element);
+  if (page) page->DrawBorder(painter, transformation_);
+}
+
+void PagePicture::paintPage(QPainter& painter, SysCarto::Page& page) const {
+  QRectF const sheet = pixelsOf(*transformation_, *page.GetPageEnvelope());
+  int const spread = qRound(shadowPx * devicePixelRatio_);
+  painter.fillRect(sheet.translated(spread, spread), QColor(0, 0, 0, 60));
+  page.drawShadow(painter, transformation_);
+  painter.fillRect(sheet, Qt::white);
+  page.DrawBackground(painter, transformation_);
+}
+
+void PagePicture::paintElement(QPainter& painter, _ptr_t<Element> const& element) const {
+  auto const frame = ptr_cast<MapFrameElement>(element);
+  if (frame) return paintFrame(painter, frame);
+  element->Draw(painter, transformation_, nullptr);
+  auto const surroundFrame = ptr_cast<MapSurroundFrame>(element);
+  auto const surround = surroundFrame ? surroundFrame->GetMapSurround() : nullptr;
+  if (surroundFrame && (!surround || !surround->GetMap()))
+    paintPlaceholder(painter, pixelsOf(*transformation_, *element->GetEnvelope()));
+}
+
+// As the frame draws itself, but with the kept tiles for its map.
+void PagePicture::paintFrame(QPainter& painter, _ptr_t<MapFrameElement> const& frame) const {
+  frame->DrawShadow(painter, transformation_);
+  frame->DrawBackground(painter, transformation_);
+  auto const tiles = tiles_.constFind(frame->GetHandle());
+  if (tiles != tiles_.constEnd()) tiles->paint(painter, cornerOf(*frame));
+  frame->DrawBorder(painter, transformation_);
+  for (int i = 0; i < frame->GetMapGridCount(); ++i)
+    frame->GetMapGrid(i)->Draw(painter, nullptr, transformation_, frame);
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "MapTiles.h"
+
+#include <SysCarto/PageLayout.h>
+
+#include <QHash>
+#include <QImage>
+#include <QRegion>
+
+/// The picture of a page on a screen. Elements are painted whenever they change; maps are painted from tiles that are
+/// kept apart and drawn in slices, so that neither arranging nor panning waits for a map.
+class PagePicture {
+public:
+  /// Paints the whole page as the view's transformation shows it. A device pixel ratio of 2 gives a picture of twice
+  /// the view's size.
+  void compose(SysCarto::PageLayout const& layout, double devicePixelRatio);
+
+  /// Draws missing tiles of maps for about `budgetMs` milliseconds, one at least, and paints them. Answers what has
+  /// changed in the picture, empty where no tile was missing. The layout must be the one composed last.
+  QRegion drawSlice(SysCarto::PageLayout const& layout, int budgetMs);
+
+  /// Whether all maps are drawn.
+  bool isComplete() const;
+  /// In device pixels.
+  QImage const& image() const { return image_; }
+
+  /// How many tiles were drawn since the beginning.
+  int drawnTiles() const { return drawnTiles_; }
+
+private:
+  void followMaps(SysCarto::PageLayout const& layout);
+  void paint(SysCarto::PageLayout const& layout, QRegion const& area);
+  void paintPage(QPainter& painter, SysCarto::Page& page) const;
+  void paintElement(QPainter& painter, SysUtility::_ptr_t<SysCarto::Element> const& element) const;
+  void paintFrame(QPainter& painter, SysUtility::_ptr_t<SysCarto::MapFrameElement> const& frame) const;
+  QPoint cornerOf(SysCarto::MapFrameElement const& frame) const;
+
+  QImage image_;  // in device pixels; its own ratio stays 1
+  double devicePixelRatio_ = 1;
+  SysUtility::_ptr_t<SysDisplay::DisplayTransformation> transformation_;
+  QHash<SysCarto::ElementHandle, MapTiles> tiles_;
+  int drawnTiles_ = 0;
+};

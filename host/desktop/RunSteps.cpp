@@ -1,0 +1,204 @@
+#include "RunSteps.h"
+
+#include "Console.h"
+#include "DocumentReport.h"
+
+#include <QApplication>
+#include <QJsonDocument>
+#include <QMouseEvent>
+
+#include <cmath>
+
+using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr QSize viewSize(1024, 768);  // fixed, so that what depends on the view is the same on every machine
+constexpr int movesOfADrag = 4;
+
+QVector<double> numbersIn(QString const& text) {
+  QVector<double> numbers;
+  for (QString const& part : text.split(QLatin1Char(','))) {
+    bool isNumber = false;
+    double const number = part.toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(number)) return {};
+    numbers << number;
+  }
+  return numbers;
+}
+
+bool isPoint(QString const& text) { return numbersIn(text).size() == 2; }
+bool areTwoPoints(QString const& text) { return numbersIn(text).size() == 4; }
+bool isView(QString const& text) { return text == QLatin1String("layout") || text == QLatin1String("map"); }
+bool isAnswer(QString const& text) { return text.indexOf(QLatin1Char(':')) > 0; }
+bool isAnything(QString const& text) { return !text.isEmpty(); }
+
+}  // namespace
+
+// A step with a value is written NAME=VALUE; one without stands for itself.
+struct RunSteps::Kind {
+  QString name;
+  QString value;  ///< as people are told; empty for a step without one
+  bool (*isValue)(QString const&);
+  QString (RunSteps::*run)(QString const& value);
+  QString fixed;  ///< what `run` is given where the step has no value
+};
+
+QVector<RunSteps::Kind> const& RunSteps::kinds() {
+  auto const text = [](char const* latin) { return QString::fromLatin1(latin); };
+  // clang-format off
+  static QVector<Kind> const kinds = {
+      {text("select"),     text("NAME,NAME…"),   isAnything,   &RunSteps::select,  {}},
+      {text("select-all"), {},                   nullptr,      &RunSteps::click,   text("Host_SelectAll")},
+      {text("unselect"),   {},                   nullptr,      &RunSteps::click,   text("Host_Unselect")},
+      {text("undo"),       {},                   nullptr,      &RunSteps::click,   text("Host_Undo")},
+      {text("redo"),       {},                   nullptr,      &RunSteps::click,   text("Host_Redo")},
+      {text("view"),       text("layout|map"),   isView,       &RunSteps::show,    {}},
+      {text("click"),      text("X,Y"),          isPoint,      &RunSteps::clickAt, {}},
+      {text("drag"),       text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::drag,    {}},
+      {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
+      {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
+      {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
+      {text("save"),       text("FILE"),         isAnything,   &RunSteps::save,    {}},
+      {text("info"),       {},                   nullptr,      &RunSteps::info,    {}},
+  };
+  // clang-format on
+  return kinds;
+}
+
+QStringList RunSteps::names() {
+  QStringList names;
+  for (Kind const& kind : kinds())
+    names << (kind.value.isEmpty() ? kind.name : kind.name + QLatin1Char('=') + kind.value);
+  return names;
+}
+
+RunSteps::RunSteps() {
+  bench_.views().resize(viewSize);
+  bench_.views().QWidget::show();
+}
+
+RunSteps::~RunSteps() = default;
+
+RunSteps::Kind const* RunSteps::kindOf(QString const& step) {
+  QString const name = step.section(QLatin1Char('='), 0, 0);
+  for (Kind const& kind : kinds())
+    if (kind.name == name && kind.value.isEmpty() == !step.contains(QLatin1Char('='))) return &kind;
+  return nullptr;
+}
+
+QString RunSteps::check(QStringList const& steps) const {
+  if (bench_.plugin().state() != PluginLibrary::State::Loaded) return bench_.plugin().reason();
+  for (QString const& step : steps) {
+    Kind const* const kind = kindOf(step);
+    if (!kind && !bench_.commands().find(step))
+      return tr("run: \"%1\" is neither a step nor a command's identifier; plotvane run --help lists the steps, and "
+                "plotvane commands the commands.")
+          .arg(step);
+    if (kind && kind->isValue && !kind->isValue(step.mid(kind->name.size() + 1)))
+      return tr("run: \"%1\" is written %2=%3.").arg(step, kind->name, kind->value);
+  }
+  return QString();
+}
+
+QString RunSteps::open(QString const& document) {
+  bool const opened = bench_.session().open(document);
+  for (QString const& warning : bench_.session().document().GetWarnings()) Console::complain(warning);
+  return opened ? QString() : bench_.session().problem();
+}
+
+QString RunSteps::run(QString const& step) {
+  Kind const* const kind = kindOf(step);
+  QString const value = kind && kind->isValue ? step.mid(kind->name.size() + 1) : kind ? kind->fixed : step;
+  QString const problem = kind ? (this->*kind->run)(value) : click(value);
+  QCoreApplication::processEvents();
+  return problem.isEmpty() ? QString() : tr("run: %1: %2").arg(step, problem);
+}
+
+QString RunSteps::unusedAnswers() {
+  QString const problem = answers_.takeProblem();
+  return problem.isEmpty() ? QString() : tr("run: %1.").arg(problem);
+}
+
+QString RunSteps::click(QString const& identifier) {
+  HostedCommand const* const command = bench_.commands().find(identifier);
+  if (!bench_.commands().click(*command))
+    return tr("%1 is disabled; it needs %2.").arg(command->entry.caption, command->entry.needs);
+  QString const problem = answers_.takeProblem();
+  return problem.isEmpty() ? QString() : problem + QLatin1Char('.');
+}
+
+// By name, or by handle as in #12.
+QString RunSteps::select(QString const& names) {
+  auto const view = bench_.desktop().GetActiveView();
+  auto* const container = view ? view->GetGraphicsContainer() : nullptr;
+  if (!container) return tr("there is no view whose elements could be selected.");
+  QList<_ptr_t<SysCarto::Element>> chosen;
+  for (QString const& name : names.split(QLatin1Char(','))) {
+    int const before = chosen.size();
+    for (auto const& element : container->GetElements())
+      if (element->GetName() == name || name == QStringLiteral("#%1").arg(element->GetHandle())) chosen << element;
+    if (chosen.size() == before)
+      return tr("no element is named \"%1\"; plotvane info lists names and handles, and #12 is the one with handle 12.")
+          .arg(name);
+  }
+  container->UnselectAllElements();
+  for (auto const& element : qAsConst(chosen)) container->SelectElement(element);
+  return QString();
+}
+
+QString RunSteps::show(QString const& view) {
+  return click(view == QLatin1String("map") ? QStringLiteral("Host_MapView") : QStringLiteral("Host_LayoutView"));
+}
+
+QString RunSteps::clickAt(QString const& point) {
+  auto const at = numbersIn(point);
+  return withMouse({{at[0], at[1]}});
+}
+
+QString RunSteps::drag(QString const& points) {
+  auto const at = numbersIn(points);
+  QPointF const from(at[0], at[1]), to(at[2], at[3]);
+  QVector<QPointF> path{from};
+  for (int i = 1; i <= movesOfADrag; ++i) path << from + (to - from) * i / movesOfADrag;
+  return withMouse(path);
+}
+
+QString RunSteps::withMouse(QVector<QPointF> const& pathCm) {
+  auto const layout = SysUtility::ptr_cast<SysCarto::PageLayout>(bench_.desktop().GetActiveView());
+  HostedCommand const* const tool = bench_.commands().currentTool();
+  if (!layout || !tool->command->IsEnable()) return tr("%1 needs the page layout shown.").arg(tool->entry.caption);
+  QVector<QPoint> path;
+  for (QPointF const& point : pathCm) path << layout->GetDisplayTransformation()->FromMapPoint(point.x(), point.y());
+  auto const send = [this](QEvent::Type type, QPoint const& at) {
+    bool const isMove = type == QEvent::MouseMove;
+    QMouseEvent event(type, at, isMove ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&bench_.views().layoutView(), &event);
+  };
+  send(QEvent::MouseButtonPress, path.first());
+  for (QPoint const& at : path.mid(1)) send(QEvent::MouseMove, at);
+  send(QEvent::MouseButtonRelease, path.last());
+  return QString();
+}
+
+QString RunSteps::answer(QString const& text) {
+  int const colon = text.indexOf(QLatin1Char(':'));
+  if (colon > 0)
+    answers_.add({DialogAnswers::Answer::Kind::Widget, text.left(colon), text.mid(colon + 1)});
+  else
+    answers_.add(
+        {text == QLatin1String("accept") ? DialogAnswers::Answer::Kind::Accept : DialogAnswers::Answer::Kind::Cancel,
+         {},
+         {}});
+  return QString();
+}
+
+QString RunSteps::save(QString const& file) {
+  return bench_.session().saveAs(file) ? QString() : bench_.session().problem();
+}
+
+QString RunSteps::info(QString const&) {
+  Console::print(QString::fromUtf8(QJsonDocument(documentJson(bench_.session().document())).toJson()).trimmed());
+  return QString();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "DialogAnswers.h"
+#include "Workbench.h"
+
+#include <QStringList>
+
+/// Work on a document without a person: steps that click commands, move the mouse and answer dialogs, on the very views
+/// and commands of the window.
+class RunSteps {
+  Q_DECLARE_TR_FUNCTIONS(RunSteps)
+
+public:
+  RunSteps();
+  ~RunSteps();
+
+  /// How the steps are written that are no command's identifier.
+  static QStringList names();
+
+  // Each answers an empty text, or a sentence that says what is wrong.
+
+  /// Whether all steps can be understood; nothing is done.
+  QString check(QStringList const& steps) const;
+  QString open(QString const& document);
+  QString run(QString const& step);
+
+  /// Answers that were given after the last command.
+  QString unusedAnswers();
+
+private:
+  struct Kind;
+  static QVector<Kind> const& kinds();
+  static Kind const* kindOf(QString const& step);
+
+  QString click(QString const& identifier);
+  QString select(QString const& names);
+  QString show(QString const& view);
+  QString clickAt(QString const& point);
+  QString drag(QString const& points);
+  QString answer(QString const& text);
+  QString save(QString const& file);
+  QString info(QString const&);
+  QString withMouse(QVector<QPointF> const& pathCm);
+
+  Workbench bench_;
+  DialogAnswers answers_;
+};

@@ -1,0 +1,30 @@
+#include "Console.h"
+#include "RunSteps.h"
+#include "Subcommand.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+ExitStatus runRun(Subcommand const& self, QStringList const& arguments) {
+  auto const say = [](char const* text) { return QCoreApplication::translate("RunSubcommand", text); };
+  QCommandLineParser parser;
+  parser.addPositionalArgument(QStringLiteral("DOCUMENT"), say("The .kdx document."));
+  parser.addPositionalArgument(QStringLiteral("STEP..."),
+                               say("What to do, in order: a command's identifier, or one of\n%1")
+                                   .arg(RunSteps::names().join(QLatin1Char('\n'))));
+  if (auto const settled = parseArguments(self, parser, arguments)) return *settled;
+
+  RunSteps steps;
+  QStringList const given = parser.positionalArguments().mid(1);
+  QString const wrong = steps.check(given);
+  if (!wrong.isEmpty()) {
+    Console::complain(wrong);
+    return WrongArguments;
+  }
+  QString problem = steps.open(parser.positionalArguments().at(0));
+  for (int i = 0; i < given.size() && problem.isEmpty(); ++i) problem = steps.run(given.at(i));
+  if (problem.isEmpty()) problem = steps.unusedAnswers();
+  if (problem.isEmpty()) return Done;
+  Console::complain(problem);
+  return WorkFailed;
+}

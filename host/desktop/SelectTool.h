@@ -1,0 +1,36 @@
+#pragma once
+
+#include "PageGesture.h"
+
+#include <SysFramework/BaseTool.h>
+
+#include <memory>
+
+/// The host's tool for arranging a page by hand: click and Shift-click select, a drag moves, resizes by a handle or
+/// spans a rubber band; arrow keys nudge, Escape puts back what a gesture began.
+class SelectTool final : public SysFramework::BaseTool {
+public:
+  SelectTool();
+  ~SelectTool() override;
+
+  bool IsEnable() override;
+  bool Deactivate() override;
+  void OnMouseDown(QMouseEvent* event) override;
+  void OnMouseMove(QMouseEvent* event) override;
+  void OnMouseUp(QMouseEvent* event) override;
+  void JustMouseMove(QMouseEvent* event) override;
+  void OnKeyDown(QKeyEvent* event) override;
+  void OnEnterEvent(QEvent* event) override;
+
+private:
+  using Selection = QList<SysUtility::_ptr_t<SysCarto::Element>>;
+
+  void press(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout, QMouseEvent const& event);
+  void giveUp();
+  bool nudge(SysCarto::PageLayout& layout, QKeyEvent const& event);
+
+  SysUtility::_ptr_t<SysCarto::PageLayout> layout_;  // of the gesture, as long as there is one
+  std::unique_ptr<PageGesture> gesture_;
+  Selection selectionBefore_;
+  SysUtility::_ptr_t<SysCarto::Element> clicked_;  // of several selected ones; a click alone leaves only this one
+};

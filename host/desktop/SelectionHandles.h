@@ -1,0 +1,42 @@
+#pragma once
+
+#include <SysCarto/PageLayout.h>
+
+#include <QList>
+#include <QRectF>
+
+class QPainter;
+
+/// The selected elements that a person may move: all but locked data frames, first selected first.
+QList<SysUtility::_ptr_t<SysCarto::Element>> movableSelection(SysCarto::PageLayout const& layout);
+
+/// Whether a person may not touch the element with the mouse or a key.
+bool isLocked(SysCarto::Element const& element);
+
+/// A handle of the rectangle about the selection: which sides it moves, −1 the left or bottom one, 1 the right or top
+/// one, 0 none.
+struct Handle {
+  int x = 0;
+  int y = 0;
+  bool isNone() const { return x == 0 && y == 0; }
+};
+
+/// The frames about the selected elements of a page, and the eight handles by which they are resized.
+class SelectionHandles {
+public:
+  explicit SelectionHandles(SysCarto::PageLayout const& layout);
+
+  /// About all selected elements, in page centimetres with y upwards; null where none is selected.
+  QRectF boundsCm() const { return boundsCm_; }
+
+  /// The handle at a pixel of the view; none where nothing there can be resized.
+  Handle at(QPoint const& pixel) const;
+  void paint(QPainter& painter) const;
+
+private:
+  QRectF place(Handle const& handle) const;
+
+  QRectF boundsCm_;
+  QRectF boundsPx_;
+  QVector<QRectF> framesPx_;
+};

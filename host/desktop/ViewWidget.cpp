@@ -1,0 +1,68 @@
+#include "ViewWidget.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
+  setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  connect(&slices_, &QTimer::timeout, this, [this] {
+    continuePicture();
+    if (isComplete()) slices_.stop();
+    update();
+  });
+}
+
+ViewWidget::~ViewWidget() = default;
+
+void ViewWidget::beginTracker() {
+  shapes_.clear();
+  offset_ = {};
+}
+
+void ViewWidget::endTracker() { update(); }
+void ViewWidget::trackerOffset(double dx, double dy) { offset_ = {dx, dy}; }
+
+// The tool may reuse its symbol and its geometry before they are painted.
+void ViewWidget::trackerShape(SysDisplay::Symbol const& symbol,
+                              SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry,
+                              SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) {
+  shapes_.push_back({symbol.Clone(), geometry->Clone(), transformation});
+}
+
+// Several changes in one turn of the event loop are painted once.
+void ViewWidget::refresh(int) {
+  isStale_ = true;
+  update();
+  emit viewChanged();
+}
+
+void ViewWidget::clearOverlay() {
+  beginTracker();
+  endTracker();
+}
+
+void ViewWidget::setCursor(QCursor const& cursor) { QWidget::setCursor(cursor); }
+
+void ViewWidget::paintOver(QPainter&) {}
+
+void ViewWidget::compose() {
+  isStale_ = false;
+  composePicture();
+  continuePicture();
+  if (!isComplete()) slices_.start(0);
+}
+
+void ViewWidget::paintEvent(QPaintEvent*) {
+  if (isStale_) compose();
+  QPainter painter(this);
+  if (!offset_.isNull() || picture().isNull()) painter.fillRect(rect(), palette().color(QPalette::Mid));
+  QSizeF const size = QSizeF(picture().size()) / devicePixelRatioF();
+  painter.drawImage(QRectF(offset_, size), picture());
+  for (Shape const& shape : shapes_) shape.symbol->Draw(painter, shape.transformation, shape.geometry);
+  if (!hasOverlay()) paintOver(painter);
+}
+
+void ViewWidget::mouseMoveEvent(QMouseEvent* event) { emit pointed(event->pos()); }
+void ViewWidget::leaveEvent(QEvent*) { emit left(); }

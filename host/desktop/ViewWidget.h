@@ -1,0 +1,76 @@
+#pragma once
+
+#include "host/SysCarto/layout/ViewSurface.h"
+
+#include <SysCarto/ActiveView.h>
+
+#include <QPixmap>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+/// The screen of a view: keeps the view's picture, and shows over it what tools draw. What a picture is made of, and
+/// whether it still grows, is for the derived classes to say.
+class ViewWidget : public QWidget, public SysCarto::ViewSurface {
+  Q_OBJECT
+
+public:
+  ~ViewWidget() override;
+
+  void beginTracker() override;
+  void endTracker() override;
+  void trackerOffset(double dx, double dy) override;
+  void trackerShape(SysDisplay::Symbol const& symbol, SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry,
+                    SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) override;
+  void refresh(int phase) override;
+  void clearOverlay() override;
+  void setCursor(QCursor const& cursor) override;
+
+  /// Whether the picture shows everything; maps that take long grow into it.
+  virtual bool isComplete() const = 0;
+
+  /// The time that a growing picture takes before events are handled again.
+  static constexpr int sliceMs = 12;
+
+signals:
+  /// The view was asked to redraw, or a person has done something in it: states that depend on it may have changed.
+  void viewChanged();
+
+  /// The mouse is at this place, in pixels.
+  void pointed(QPoint const& positionPx);
+  void left();
+
+protected:
+  explicit ViewWidget(QWidget* parent);
+
+  /// Makes the picture anew, for the widget's size and its device pixel ratio.
+  virtual void composePicture() = 0;
+
+  /// Goes on with a picture that was not complete.
+  virtual void continuePicture() = 0;
+  virtual QImage const& picture() const = 0;
+
+  /// Painted over the picture while no tool has drawn anything.
+  virtual void paintOver(QPainter& painter);
+  bool hasOverlay() const { return !shapes_.empty() || !offset_.isNull(); }
+
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+private:
+  void compose();
+
+  struct Shape {
+    SysUtility::_ptr_t<SysDisplay::Symbol> symbol;
+    SysUtility::_ptr_t<SysGeometry::Geometry> geometry;
+    SysUtility::_ptr_t<SysDisplay::DisplayTransformation> transformation;
+  };
+
+  std::vector<Shape> shapes_;
+  QPointF offset_;
+  bool isStale_ = true;
+  QTimer slices_;
+};

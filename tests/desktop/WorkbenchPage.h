@@ -1,0 +1,73 @@
+#pragma once
+
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/TextElement.h"
+#include "host/desktop/Workbench.h"
+
+#include <SysCarto/GroupElement.h>
+#include <SysCarto/Map.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QtTest>
+
+/// A person at a workbench: a page with elements, and a mouse and keys on its view.
+class WorkbenchPage {
+public:
+  WorkbenchPage() {
+    bench.session().create();
+    bench.views().resize(800, 600);
+    bench.views().QWidget::show();
+  }
+
+  SysUtility::_ptr_t<SysCarto::PageLayout> layout() { return bench.session().document().GetPageLayout(); }
+  IElementContainer& container() { return *layout()->GetGraphicsContainer(); }
+
+  template <class Element>
+  SysUtility::_ptr_t<Element> add(double xmin, double ymin, double xmax, double ymax) {
+    auto const element = SysUtility::make<Element>();
+    element->SetGeometry(SysUtility::make<SysGeometry::Envelope>(xmin, ymin, xmax, ymax));
+    container().AddElement(element);
+    return element;
+  }
+
+  /// The element that now has the handle of this one.
+  SysUtility::_ptr_t<SysCarto::Element> now(SysCarto::Element const& element) {
+    for (auto const& one : container().GetElements())
+      if (one->GetHandle() == element.GetHandle()) return one;
+    return nullptr;
+  }
+
+  QRectF place(SysCarto::Element const& element) {
+    auto const box = now(element)->GetEnvelope();
+    return {box->GetXMin(), box->GetYMin(), box->GetWidth(), box->GetHeight()};
+  }
+
+  QPoint pixel(double xCm, double yCm) { return layout()->GetDisplayTransformation()->FromMapPoint(xCm, yCm); }
+
+  void mouse(QEvent::Type type, QPoint const& at, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QMouseEvent event(type, at, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, modifiers);
+    QApplication::sendEvent(&view(), &event);
+  }
+
+  void click(QPoint const& at, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { drag(at, at, modifiers); }
+
+  void drag(QPoint const& from, QPoint const& to, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    mouse(QEvent::MouseButtonPress, from, modifiers);
+    if (from != to) mouse(QEvent::MouseMove, (from + to) / 2, modifiers);
+    if (from != to) mouse(QEvent::MouseMove, to, modifiers);
+    mouse(QEvent::MouseButtonRelease, to, modifiers);
+  }
+
+  void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { QTest::keyClick(&view(), key, modifiers); }
+
+  bool run(QString const& identifier) {
+    auto const* const command = bench.commands().find(identifier);
+    return command && bench.commands().click(*command);
+  }
+
+  LayoutView& view() { return bench.views().layoutView(); }
+
+  Workbench bench;
+};

@@ -1,0 +1,154 @@
+#include "host/desktop/DialogAnswers.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QIntValidator>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <QtTest>
+
+using Answer = DialogAnswers::Answer;
+using Kind = Answer::Kind;
+
+namespace {
+
+// As a command's own dialog: an edit with a validator, and a second dialog behind a button.
+class SampleDialog : public QDialog {
+public:
+  SampleDialog() {
+    setWindowTitle("Sample");
+    setObjectName("SampleDialog");
+    auto* const box = new QVBoxLayout(this);
+    dpi = named(new QLineEdit, "lineEdit_DPI");
+    dpi->setValidator(new QIntValidator(1, 999, dpi));
+    isOn = named(new QCheckBox, "checkBox_On");
+    portrait = named(new QRadioButton("Portrait"), "radioButton_Portrait");
+    form = named(new QComboBox, "comboBox_Form");
+    form->addItems({"A4", "A3"});
+    auto* const ask = named(new QPushButton("Ask"), "pushButton_Ask");
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    for (QWidget* widget : QList<QWidget*>{dpi, isOn, portrait, form, ask, buttons}) box->addWidget(widget);
+    connect(dpi, &QLineEdit::textEdited, [this] { ++edits; });
+    connect(form, QOverload<int>::of(&QComboBox::activated), [this] { ++activations; });
+    connect(ask, &QPushButton::clicked, [this] { reply = QMessageBox::question(this, "Sure", "Really?"); });
+    connect(buttons, &QDialogButtonBox::accepted, this, [this] {
+      if (dpi->text() != "13") accept();  // a dialog may refuse what it was given
+    });
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  }
+
+  QLineEdit* dpi;
+  QCheckBox* isOn;
+  QRadioButton* portrait;
+  QComboBox* form;
+  int edits = 0, activations = 0, reply = QMessageBox::NoButton;
+
+private:
+  template <class Widget>
+  static Widget* named(Widget* widget, char const* name) {
+    widget->setObjectName(name);
+    return widget;
+  }
+};
+
+Answer answer(QString const& widget, QString const& value) { return {Kind::Widget, widget, value}; }
+
+}  // namespace
+
+class DialogAnswersTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void answersReachTheWidgetsAsAPersonsDo();
+  void aMessageBoxBehindAButtonTakesTheNextAnswer();
+  void cancelRejectsAndAcceptLeavesAllAsItIs();
+  void whatIsWrongIsNamed_data();
+  void whatIsWrongIsNamed();
+  void aFileDialogTakesAPath();
+};
+
+void DialogAnswersTest::answersReachTheWidgetsAsAPersonsDo() {
+  DialogAnswers answers;
+  SampleDialog dialog;
+  for (auto const& [widget, value] :
+       {std::make_pair("lineEdit_DPI", "150"), std::make_pair("checkBox_On", "on"),
+        std::make_pair("radioButton_Portrait", "on"), std::make_pair("comboBox_Form", "a3")})
+    answers.add(answer(widget, value));
+  QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+  QCOMPARE(answers.takeProblem(), QString());
+  QCOMPARE(dialog.dpi->text(), QString("150"));
+  QCOMPARE(dialog.edits, 3);
+  QCOMPARE(dialog.activations, 1);
+  QVERIFY(dialog.isOn->isChecked() && dialog.portrait->isChecked());
+  QCOMPARE(dialog.form->currentText(), QString("A3"));
+}
+
+void DialogAnswersTest::aMessageBoxBehindAButtonTakesTheNextAnswer() {
+  DialogAnswers answers;
+  SampleDialog dialog;
+  answers.add(answer("pushButton_Ask", "click"));
+  answers.add(answer("button", "No"));
+  answers.add(answer("checkBox_On", "on"));
+  QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+  QCOMPARE(answers.takeProblem(), QString());
+  QCOMPARE(dialog.reply, int(QMessageBox::No));
+  QVERIFY(dialog.isOn->isChecked());
+}
+
+void DialogAnswersTest::cancelRejectsAndAcceptLeavesAllAsItIs() {
+  DialogAnswers answers;
+  SampleDialog cancelled, accepted;
+  answers.add(answer("checkBox_On", "on"));
+  answers.add({Kind::Cancel, {}, {}});
+  answers.add({Kind::Accept, {}, {}});
+  QCOMPARE(cancelled.exec(), int(QDialog::Rejected));
+  QCOMPARE(accepted.exec(), int(QDialog::Accepted));
+  QCOMPARE(answers.takeProblem(), QString());
+}
+
+void DialogAnswersTest::whatIsWrongIsNamed_data() {
+  QTest::addColumn<QString>("widget");
+  QTest::addColumn<QString>("value");
+  QTest::addColumn<QString>("problem");
+  auto const row = [](char const* claim, char const* widget, char const* value, char const* problem) {
+    QTest::newRow(claim) << QString(widget) << QString(value) << QString(problem);
+  };
+  row("a dialog without an answer", "", "", "the dialog \"Sample\" (SampleDialog): nobody answers it");
+  row("an answer for another dialog", "comboBox_Other", "1", "the next answer is for comboBox_Other");
+  row("a value that the validator refuses", "lineEdit_DPI", "many", "lineEdit_DPI does not take \"many\"");
+  row("an entry that a list has not", "comboBox_Form", "A9", "comboBox_Form does not take \"A9\"");
+  row("a value that the dialog refuses", "lineEdit_DPI", "13", "it can't be accepted like this");
+  row("a message box without an answer", "pushButton_Ask", "click", "the message box \"Sure\" (\"Really?\")");
+}
+
+void DialogAnswersTest::whatIsWrongIsNamed() {
+  QFETCH(QString, widget);
+  QFETCH(QString, value);
+  QFETCH(QString, problem);
+  DialogAnswers answers;
+  SampleDialog dialog;
+  if (!widget.isEmpty()) answers.add(answer(widget, value));
+  QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+  QString const told = answers.takeProblem();
+  QVERIFY2(told.contains(problem), qPrintable(told));
+  QCOMPARE(answers.takeProblem(), QString());
+}
+
+void DialogAnswersTest::aFileDialogTakesAPath() {
+  DialogAnswers answers;
+  QTemporaryDir folder;
+  QString const path = folder.filePath("out.png");
+  answers.add(answer("file", path));
+  QCOMPARE(
+      QFileDialog::getSaveFileName(nullptr, "Save", QString(), QString(), nullptr, QFileDialog::DontUseNativeDialog),
+      path);
+  QCOMPARE(answers.takeProblem(), QString());
+}
+
+QTEST_MAIN(DialogAnswersTest)
+#include "tst_dialog_answers.moc"
