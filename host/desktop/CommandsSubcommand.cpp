@@ -46,15 +46,41 @@ QString commandsText(QJsonArray const& commands) {
          QCoreApplication::translate("CommandsSubcommand", "%1 of %2 commands built").arg(built).arg(commands.size());
 }
 
+QString markdownTable(QVector<CommandEntry> const& entries) {
+  QString text =
+      QStringLiteral("| command | identifier | what it does | needs | shortcut | menu |\n|---|---|---|---|---|---|\n");
+  for (CommandEntry const& entry : entries)
+    text += QStringLiteral("| %1 | `%2` | %3 | %4 | %5 | %6 |\n")
+                .arg(entry.caption, entry.identifier, entry.toolTip, entry.needs, entry.shortcut,
+                     QString(entry.menu).replace(QLatin1Char('/'), QStringLiteral(" › ")));
+  return text;
+}
+
+// The reference in docs/commands.md.
+QString commandsMarkdown() {
+  return QCoreApplication::translate("CommandsSubcommand",
+                                     "# The commands\n\nPrinted by `plotvane commands --markdown`.\n\n"
+                                     "## Of the plug-in\n\n%1\n## Of the host\n\n%2")
+      .arg(markdownTable(commandCatalogue()), markdownTable(hostCatalogue()))
+      .trimmed();
+}
+
 }  // namespace
 
 ExitStatus runCommands(Subcommand const& self, QStringList const& arguments) {
   QCommandLineParser parser;
   QCommandLineOption const json(QStringLiteral("json"),
                                 QCoreApplication::translate("CommandsSubcommand", "Print JSON, for programs."));
-  parser.addOption(json);
+  QCommandLineOption const markdown(
+      QStringLiteral("markdown"),
+      QCoreApplication::translate("CommandsSubcommand", "Print the reference of all commands, the host's included."));
+  parser.addOptions({json, markdown});
   if (auto const settled = parseArguments(self, parser, arguments)) return *settled;
 
+  if (parser.isSet(markdown)) {
+    Console::print(commandsMarkdown());
+    return Done;
+  }
   PluginLibrary plugin;
   plugin.load();
   QJsonArray commands;

@@ -68,6 +68,7 @@ MainWindow::MainWindow()
 
   connect(&bench_.views(), &DocumentViews::changed, actions_.get(), &ActionTable::refreshSoon);
   connect(&bench_.session(), &DocumentSession::historyChanged, actions_.get(), &ActionTable::refreshSoon);
+  connect(contentsDock_, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
   connect(&bench_.session(), &DocumentSession::replaced, this, &MainWindow::documentReplaced);
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
   restoreState();
@@ -132,9 +133,6 @@ void MainWindow::buildContents() {
   connect(contents_, &SysAdapterUI::TOCControl::VisibilityChanged, this, [this] {
     bench_.views().layoutView().refresh(everything);
     bench_.views().mapView().refresh(everything);
-  });
-  connect(contentsDock_, &QDockWidget::visibilityChanged, this, [this] {
-    if (actions_) actions_->refreshSoon();
   });
 }
 

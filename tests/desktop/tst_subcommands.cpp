@@ -15,6 +15,7 @@ private slots:
   void withoutADisplayTheWindowSaysWhatWorks();
   void reportsAnUnwritableOutput();
   void commandsAreListedOnceEach();
+  void theReferenceIsAsPrinted();
   void aPluginThatDoesNotLoadIsNamed_data();
   void aPluginThatDoesNotLoadIsNamed();
   void infoTellsWhatIsOnThePage();
@@ -137,6 +138,12 @@ void SubcommandsTest::commandsAreListedOnceEach() {
   QCOMPARE(report["commands"].toArray().size(), 38);
   QCOMPARE(shortcuts.size(), withShortcut);
   QCOMPARE(tools, QStringList({"Plotvane_ZoomIn", "Plotvane_ZoomOut", "Plotvane_Pan"}));
+}
+
+void SubcommandsTest::theReferenceIsAsPrinted() {
+  QFile reference(QStringLiteral(PLOTVANE_SOURCE_DIR "/docs/commands.md"));
+  QVERIFY(reference.open(QIODevice::ReadOnly));
+  QCOMPARE(run({"commands", "--markdown"}, folder_.path()).out, QString::fromUtf8(reference.readAll()));
 }
 
 void SubcommandsTest::aPluginThatDoesNotLoadIsNamed_data() {

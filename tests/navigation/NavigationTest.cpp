@@ -3,6 +3,8 @@
 #include "navigation/PagePanTool.h"
 #include "navigation/PageZoomTools.h"
 
+#include "host/SysCarto/layout/ViewSurface.h"
+
 #include <QMouseEvent>
 #include <QtTest>
 
@@ -19,6 +21,31 @@ namespace {
 // The view of a layout is 1000 × 750 pixels; at this extent a page centimetre is 50 of them.
 constexpr double extentWidth = 20.0, extentHeight = 15.0;
 
+// Writes down what a view asks of its screen.
+class RecordingSurface final : public ViewSurface {
+public:
+  void beginTracker() override { calls << "begin"; }
+  void endTracker() override { calls << "end"; }
+  void trackerOffset(double dx, double dy) override { calls << QString("offset %1 %2").arg(dx).arg(dy); }
+  void trackerShape(SysDisplay::Symbol const& symbol, _ptr_t<SysGeometry::Geometry> const& geometry,
+                    _ptr_t<SysDisplay::DisplayTransformation> const& transformation) override {
+    auto const box = geometry->GetEnvelope();
+    calls << QString("%1 %2 %3 %4 at scale %5")
+                 .arg(symbol.GetType() == SysDisplay::SymbolType::Line ? "line" : "fill")
+                 .arg(box->GetXMin())
+                 .arg(box->GetXMax())
+                 .arg(box->GetYMax())
+                 .arg(transformation->GetPageScale());
+  }
+  void refresh(int phase) override { calls << QString("refresh %1").arg(phase); }
+  void clearOverlay() override { calls << "clear"; }
+  void setCursor(QCursor const& cursor) override {
+    calls << (cursor.shape() == Qt::ClosedHandCursor ? "closed hand" : "own cursor");
+  }
+
+  QStringList calls;
+};
+
 bool near(double a, double b) { return std::abs(a - b) < 1e-6; }
 
 }  // namespace
@@ -34,6 +61,46 @@ private slots:
 
   void theCursorsAreThePluginsOwn() {
     for (char const* path : {":/res/ZoomIn.cur", ":/res/ZoomOut.cur"}) QCOMPARE(QPixmap(path).size(), QSize(32, 32));
+  }
+
+  void toolsDrawOverThePictureInOnePassAMove_data() {
+    QTest::addColumn<QString>("identifier");
+    QTest::addColumn<QStringList>("calls");
+    QTest::newRow("zooming in")
+        << "in"
+        << QStringList{
+               "begin",      "line 5 10 10 at scale 1", "end", "begin", "line 5 14 10 at scale 1", "end", "clear",
+               "refresh 255"};
+    QTest::newRow("zooming out")
+        << "out"
+        << QStringList{
+               "begin",      "fill 5 10 10 at scale 1", "end", "begin", "fill 5 14 10 at scale 1", "end", "clear",
+               "refresh 255"};
+    QTest::newRow("panning, always from the press")
+        << "pan" << QStringList{"closed hand",    "begin", "offset 250 100", "end",         "begin",
+                                "offset 450 300", "end",   "clear",          "refresh 255", "own cursor"};
+  }
+
+  void toolsDrawOverThePictureInOnePassAMove() {
+    QFETCH(QString, identifier);
+    QFETCH(QStringList, calls);
+    RecordingSurface surface;
+    hook_->layout->setSurface(&surface);
+    _ptr_t<BaseTool> tool = make<Plugin::PagePanTool>();
+    if (identifier == "in") tool = make<Plugin::PageZoomInTool>();
+    if (identifier == "out") tool = make<Plugin::PageZoomOutTool>();
+    tool->OnCreate(hook_->pointer());
+    auto const at = [](QEvent::Type type, QPoint const& place) {
+      return QMouseEvent(type, place, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    };
+    QMouseEvent press = at(QEvent::MouseButtonPress, {250, 250}), near = at(QEvent::MouseMove, {500, 350}),
+                far = at(QEvent::MouseMove, {700, 550}), release = at(QEvent::MouseButtonRelease, {700, 550});
+    tool->OnMouseDown(&press);
+    tool->OnMouseMove(&near);
+    tool->OnMouseMove(&far);
+    tool->OnMouseUp(&release);
+    hook_->layout->setSurface(nullptr);
+    QCOMPARE(surface.calls, calls);
   }
 
   void zoomingIn_data() {

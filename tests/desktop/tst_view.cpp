@@ -1,0 +1,134 @@
+#include "desktop/WorkbenchPage.h"
+
+#include "host/desktop/PagePicture.h"
+#include "host/desktop/Session.h"
+
+#include <QPainter>
+
+using SysCarto::MapFrameElement;
+using SysGeometry::Envelope;
+using SysUtility::make;
+
+namespace {
+
+constexpr int pixelsPerCm = 25;  // the data frames of the sample then lie on whole pixels
+
+// The page as its elements draw themselves, without any kept picture.
+QImage drawnDirectly(SysCarto::PageLayout const& layout, int ratio) {
+  auto const transformation = layout.GetDisplayTransformation()->Clone();
+  QImage image(transformation->GetDeviceFrame().size() * ratio, QImage::Format_ARGB32_Premultiplied);
+  transformation->SetDeviceFrame(image.rect());
+  transformation->SetPageScale(transformation->GetPageScale() * ratio);
+  QPainter painter(&image);
+  layout.GetPage()->DrawBackground(painter, transformation);
+  layout.GetGraphicsContainer()->Draw(painter, transformation, 1, nullptr);
+  return image;
+}
+
+}  // namespace
+
+class ViewTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() { prepareApplication(); }
+  void thePictureIsWhatTheElementsDraw_data();
+  void thePictureIsWhatTheElementsDraw();
+  void onlyWhatChangesAMapDrawsIt_data();
+  void onlyWhatChangesAMapDrawsIt();
+  void aDragShowsTheElementsWithoutComposingThem();
+  void theViewKeepsItsPlaceWhenTheDocumentIsSaved();
+
+private:
+  static int tilesAfter(WorkbenchPage& page);
+};
+
+void ViewTest::thePictureIsWhatTheElementsDraw_data() {
+  QTest::addColumn<int>("ratio");
+  QTest::newRow("on an ordinary screen") << 1;
+  QTest::newRow("on a screen of twice the resolution") << 2;
+}
+
+void ViewTest::thePictureIsWhatTheElementsDraw() {
+  QFETCH(int, ratio);
+  SysCarto::MapDocument document;
+  QVERIFY(document.Open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
+  auto const layout = document.GetPageLayout();
+  layout->GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 1000, 700));
+  layout->SetExtent(make<Envelope>(0.4, 1.0, 0.4 + 1000.0 / pixelsPerCm, 1.0 + 700.0 / pixelsPerCm));
+  PagePicture picture;
+  picture.compose(*layout, ratio);
+  while (!picture.isComplete()) QVERIFY(!picture.drawSlice(*layout, 1).isEmpty());
+  QImage const expected = drawnDirectly(*layout, ratio);
+  QCOMPARE(picture.image().size(), QSize(1000, 700) * ratio);
+  QVERIFY(picture.image() == expected);
+}
+
+int ViewTest::tilesAfter(WorkbenchPage& page) {
+  page.view().grab();
+  for (int i = 0; i < 1000 && !page.view().isComplete(); ++i) QTest::qWait(1);
+  page.view().grab();
+  return page.view().drawnTiles();
+}
+
+void ViewTest::onlyWhatChangesAMapDrawsIt_data() {
+  QTest::addColumn<QString>("what");
+  QTest::addColumn<bool>("draws");
+  for (char const* what : {"select", "drag", "nudge", "align", "restack", "undo", "pan", "lock"})
+    QTest::newRow(what) << QString(what) << false;
+  for (char const* what : {"zoom", "resize", "hide"}) QTest::newRow(what) << QString(what) << true;
+}
+
+void ViewTest::onlyWhatChangesAMapDrawsIt() {
+  QFETCH(QString, what);
+  QFETCH(bool, draws);
+  WorkbenchPage page;
+  QVERIFY(page.bench.session().open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
+  page.add<SysCarto::RectangleElement>(2.1, 2.3, 6.6, 5.9);
+  int const before = tilesAfter(page);
+  QVERIFY(before > 0);
+
+  QPoint const onMap = page.pixel(20, 15);
+  if (what != "pan") page.click(onMap);
+  if (what == "drag") page.drag(onMap, onMap + QPoint(17, 9));
+  if (what == "nudge") page.key(Qt::Key_Left);
+  if (what == "align" || what == "undo") QVERIFY(page.run("Host_SelectAll") && page.run("Plotvane_LeftAlignment"));
+  if (what == "undo") QVERIFY(page.run("Host_Undo"));
+  if (what == "restack") QVERIFY(page.run("Plotvane_BringToFrontElements"));
+  if (what == "lock") QVERIFY(page.run("Plotvane_LockDataFrame"));
+  if (what == "pan") QVERIFY(page.run("Plotvane_Pan"));
+  if (what == "pan") page.drag(onMap, onMap + QPoint(40, -23));
+  if (what == "zoom") QVERIFY(page.run("Plotvane_ZoomToOrigin"));
+  if (what == "resize") page.drag(page.pixel(40.4, 25.6), page.pixel(35, 22));
+  if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
+  if (what == "hide") page.view().refresh(SysCarto::ViewSurface::everything);
+  QCOMPARE(tilesAfter(page) > before, draws);
+}
+
+void ViewTest::aDragShowsTheElementsWithoutComposingThem() {
+  WorkbenchPage page;
+  auto const box = page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
+  page.click(page.pixel(6, 5));
+  QImage const before = page.view().grab().toImage();
+  page.mouse(QEvent::MouseButtonPress, page.pixel(6, 5));
+  page.mouse(QEvent::MouseMove, page.pixel(9, 9));
+  QVERIFY(page.view().grab().toImage() != before);
+  QCOMPARE(page.place(*box), QRectF(4, 4, 4, 3));
+  page.key(Qt::Key_Escape);
+  QVERIFY(page.view().grab().toImage() == before);
+}
+
+void ViewTest::theViewKeepsItsPlaceWhenTheDocumentIsSaved() {
+  QTemporaryDir folder;
+  WorkbenchPage page;
+  QVERIFY(page.run("Plotvane_ZoomToOrigin"));
+  double const scale = page.layout()->GetDisplayTransformation()->GetPageScale();
+  page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
+  QVERIFY(page.bench.session().isModified());
+  QVERIFY(page.bench.session().saveAs(folder.filePath("page.kdx")));
+  QVERIFY(!page.bench.session().isModified());
+  QCOMPARE(page.layout()->GetDisplayTransformation()->GetPageScale(), scale);
+}
+
+QTEST_MAIN(ViewTest)
+#include "tst_view.moc"

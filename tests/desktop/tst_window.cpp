@@ -1,0 +1,200 @@
+#include "host/desktop/CommandCatalogue.h"
+#include "host/desktop/DialogAnswers.h"
+#include "host/desktop/Icons.h"
+#include "host/desktop/MainWindow.h"
+#include "host/desktop/Session.h"
+
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QSettings>
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace {
+
+QString const world = QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx");
+
+DialogAnswers::Answer button(QString const& text) { return {DialogAnswers::Answer::Kind::Widget, "button", text}; }
+
+}  // namespace
+
+class WindowTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase();
+  void init() { QSettings().clear(); }
+  void statesFollowTheHost();
+  void whatThePluginDoesNotBuildIsNotShown();
+  void aDocumentThatCanNotBeReadChangesNothing();
+  void changesAreNotLostWithoutAQuestion_data();
+  void changesAreNotLostWithoutAQuestion();
+  void aDroppedDocumentOpens();
+  void hidingALayerIsAChangeOfTheDocument();
+  void iconsTakeThePalettesColour_data();
+  void iconsTakeThePalettesColour();
+  void shortcutsAreUnique();
+
+private:
+  bool isEnabled(MainWindow& window, char const* identifier) {
+    QAction const* const action = window.actions().find(identifier);
+    return action && action->isEnabled();
+  }
+
+  QTemporaryDir folder_;
+};
+
+void WindowTest::initTestCase() {
+  prepareApplication();
+  QSettings::setDefaultFormat(QSettings::IniFormat);
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
+}
+
+void WindowTest::statesFollowTheHost() {
+  MainWindow window;
+  window.show();
+  QVERIFY(window.open(world));
+  QCoreApplication::processEvents();
+  QVERIFY(!isEnabled(window, "Plotvane_LeftAlignment") && !isEnabled(window, "Host_Undo"));
+  window.actions().find("Host_SelectAll")->trigger();
+  QVERIFY(isEnabled(window, "Plotvane_LeftAlignment"));
+  window.actions().find("Plotvane_LeftAlignment")->trigger();
+  QVERIFY(isEnabled(window, "Host_Undo") && window.isWindowModified());
+  window.actions().find("Host_Undo")->trigger();
+  QVERIFY(isEnabled(window, "Host_Redo") && !window.isWindowModified());
+
+  window.actions().find("Plotvane_Pan")->trigger();
+  QVERIFY(window.actions().find("Plotvane_Pan")->isChecked() && !window.actions().find("Host_Select")->isChecked());
+  window.actions().find("Plotvane_AlignToMargins")->trigger();
+  QVERIFY(window.actions().find("Plotvane_AlignToMargins")->isChecked());
+  window.actions().find("Host_MapView")->trigger();
+  QVERIFY(!isEnabled(window, "Plotvane_ZoomIn") && isEnabled(window, "Plotvane_LockDataFrame"));
+}
+
+void WindowTest::whatThePluginDoesNotBuildIsNotShown() {
+  MainWindow window;
+  for (CommandEntry const& entry : commandCatalogue()) {
+    bool const isBuilt = static_cast<bool>(window.bench().plugin().createCommand(entry.identifier));
+    QCOMPARE(window.actions().find(entry.identifier) != nullptr, isBuilt);
+  }
+  for (CommandEntry const& entry : hostCatalogue())
+    QVERIFY2(window.actions().find(entry.identifier), qPrintable(entry.identifier));
+  for (QAction const* menu : window.menuBar()->actions()) QVERIFY(!menu->menu()->isEmpty());
+}
+
+void WindowTest::aDocumentThatCanNotBeReadChangesNothing() {
+  QFile file(folder_.filePath("broken.kdx"));
+  QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{") == 1);
+  file.close();
+  MainWindow window;
+  QVERIFY(window.open(world));
+  QByteArray const before = window.bench().session().document().GetText();
+  DialogAnswers answers;  // none: the message box is a problem that is named
+  QVERIFY(!window.open(file.fileName()));
+  QString const told = answers.takeProblem();
+  QVERIFY2(told.contains("message box"), qPrintable(told));
+  QVERIFY(window.bench().session().problem().contains("broken.kdx"));
+  QCOMPARE(window.bench().session().path(), world);
+  QVERIFY(window.bench().session().document().GetText() == before);
+}
+
+void WindowTest::changesAreNotLostWithoutAQuestion_data() {
+  QTest::addColumn<QString>("answer");
+  QTest::addColumn<bool>("closes");
+  QTest::addColumn<bool>("writes");
+  QTest::newRow("Cancel keeps the window") << "Cancel" << false << false;
+  QTest::newRow("Discard drops them") << "Discard" << true << false;
+  QTest::newRow("Save writes them") << "Save" << true << true;
+}
+
+void WindowTest::changesAreNotLostWithoutAQuestion() {
+  QFETCH(QString, answer);
+  QFETCH(bool, closes);
+  QFETCH(bool, writes);
+  QString const path = folder_.filePath("changed.kdx");
+  QFile::remove(path);
+  MainWindow window;
+  QVERIFY(window.open(world) && window.bench().session().saveAs(path));
+  auto const written = [&path] {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  };
+  QByteArray const before = written();
+  window.show();
+  window.actions().find("Host_SelectAll")->trigger();
+  window.actions().find("Host_Delete")->trigger();
+  DialogAnswers answers;
+  answers.add(button(answer));
+  QCOMPARE(window.close(), closes);
+  QCOMPARE(answers.takeProblem(), QString());
+  QCOMPARE(written() != before, writes);
+}
+
+void WindowTest::aDroppedDocumentOpens() {
+  MainWindow window;
+  window.show();
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(world)});
+  QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&window, &enter);
+  QVERIFY(enter.isAccepted());
+  QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&window, &drop);
+  QTRY_COMPARE(window.bench().session().path(), world);
+  QVERIFY(window.windowTitle().startsWith("world.kdx"));
+}
+
+void WindowTest::hidingALayerIsAChangeOfTheDocument() {
+  MainWindow window;
+  window.show();
+  QVERIFY(window.open(world));
+  QCoreApplication::processEvents();
+  auto* const tree = window.findChild<QTreeWidget*>("treeWidget_Contents");
+  QTreeWidgetItem* const layer = tree->topLevelItem(0)->child(0);
+  layer->setCheckState(0, Qt::Unchecked);
+  auto const map = window.bench().session().document().GetMap(0);
+  QVERIFY(!map->GetLayer(map->GetLayerCount() - 1)->IsVisible());
+  QTRY_VERIFY(window.isWindowModified());
+  layer->setCheckState(0, Qt::Checked);
+  QTRY_VERIFY(!window.isWindowModified());
+}
+
+void WindowTest::iconsTakeThePalettesColour_data() {
+  QTest::addColumn<QString>("icon");
+  for (CommandEntry const& entry : commandCatalogue() + hostCatalogue())
+    QTest::newRow(qPrintable(entry.identifier)) << entry.icon;
+}
+
+void WindowTest::iconsTakeThePalettesColour() {
+  QFETCH(QString, icon);
+  QPalette const before = QApplication::palette();
+  QPalette dark = before;
+  dark.setColor(QPalette::ButtonText, QColor(0xe0, 0xf0, 0xff));
+  QApplication::setPalette(dark);
+  QImage const picture = loadIcon(icon).pixmap(48).toImage().convertToFormat(QImage::Format_ARGB32);
+  QApplication::setPalette(before);
+  QCOMPARE(picture.size(), QSize(48, 48));
+  int inked = 0;
+  for (int y = 0; y < 48; ++y)
+    for (int x = 0; x < 48; ++x)
+      if (qAlpha(picture.pixel(x, y)) == 255) {
+        QCOMPARE(picture.pixelColor(x, y), QColor(0xe0, 0xf0, 0xff));
+        ++inked;
+      }
+  QVERIFY(inked > 20);
+}
+
+void WindowTest::shortcutsAreUnique() {
+  QMap<QString, QString> users;
+  for (CommandEntry const& entry : commandCatalogue() + hostCatalogue()) {
+    if (entry.shortcut.isEmpty()) continue;
+    QVERIFY2(!users.contains(entry.shortcut), qPrintable(entry.shortcut + " of " + users[entry.shortcut]));
+    users[entry.shortcut] = entry.identifier;
+  }
+}
+
+QTEST_MAIN(WindowTest)
+#include "tst_window.moc"
