@@ -28,6 +28,9 @@ signals:
   /// The user has changed something.
   void ValueChanged();
 
+protected:
+  void changeEvent(QEvent* event) override;
+
 private:
   struct Private;
   std::unique_ptr<Private> d;
