@@ -10,6 +10,7 @@
 #include "navigation/PageExtentCommands.h"
 #include "navigation/PagePanTool.h"
 #include "navigation/PageZoomTools.h"
+#include "pagesetup/PageSettingCommand.h"
 
 using SysUI::ICommand;
 using SysUtility::_ptr_t;
@@ -39,7 +40,7 @@ constexpr Row rows[] = {
     {"Plotvane_Legend",                         nullptr},
     {"Plotvane_ZoomToOrigin",                   create<PageZoomToOrigin>},
     {"Plotvane_ZoomToWhole",                    create<PageFullExtent>},
-    {"Plotvane_PageSetting",                    nullptr},
+    {"Plotvane_PageSetting",                    create<PageSettingCommand>},
     {"Plotvane_Export",                         nullptr},
     {"Plotvane_ChangePageLayout",               nullptr},
     {"Plotvane_NorthArrow",                     nullptr},

@@ -1,0 +1,401 @@
+#include "LayoutHook.h"
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/ViewSurface.h"
+#include "pagesetup/PageSettingCommand.h"
+#include "pagesetup/PageSettingsDlg.h"
+#include "pagesetup/PageSizeTabPage.h"
+
+#include <SysAdapterUI/FramePropertyWidget.h>
+#include <SysCarto/SymbolFrameParts.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+
+using namespace SysCarto;
+using SysGeometry::Envelope;
+using SysGeometry::Point;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace {
+
+PageFormID formNamed(char const* key) {
+  FormInfo info;
+  for (PageFormID id = 0; Paper::GetFormInfo(id, info); ++id)
+    if (info.key == QLatin1String(key)) return id;
+  return -1;
+}
+
+_ptr_t<PageLayout> layoutOf(char const* form, short orientation) {
+  auto const layout = emptyLayout(10.0, 20.0);
+  layout->GetPage()->SetFormID(formNamed(form));
+  layout->GetPage()->SetOrientation(orientation);
+  return layout;
+}
+
+QSizeF sizeOf(_ptr_t<PageLayout> const& layout) {
+  double width, height;
+  layout->GetPage()->QuerySize(width, height);
+  return {width, height};
+}
+
+// Counts redraws of everything, and tells of each whether the page was fitted by then.
+class CountingSurface : public ViewSurface {
+public:
+  void beginTracker() override {}
+  void endTracker() override {}
+  void trackerOffset(double, double) override {}
+  void trackerShape(SysDisplay::Symbol const&, _ptr_t<SysGeometry::Geometry> const&,
+                    _ptr_t<SysDisplay::DisplayTransformation> const&) override {}
+  void refresh(int phase) override { redraws += phase == everything; }
+  void clearOverlay() override {}
+  void setCursor(QCursor const&) override {}
+
+  int redraws = 0;
+};
+
+// A person at the tab or at the dialog.
+struct Person {
+  explicit Person(QWidget& shown) : shown(shown) { shown.show(); }
+
+  template <class Widget>
+  Widget* find(char const* name) const {
+    return shown.findChild<Widget*>(QLatin1String(name));
+  }
+  QString width() const { return find<QLineEdit>("lineEdit_PageWidth")->text(); }
+  QString height() const { return find<QLineEdit>("lineEdit_PageHeight")->text(); }
+  void choose(char const* form) const { find<QComboBox>("comboBox_PaperType")->setCurrentIndex(formNamed(form)); }
+  void press(char const* button) const { QTest::mouseClick(find<QAbstractButton>(button), Qt::LeftButton, {}, {8, 8}); }
+  void type(char const* field, QString const& text) const {
+    auto* const edit = find<QLineEdit>(field);
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+  }
+
+  QWidget& shown;
+};
+
+// What a person does to the modal dialog that comes next.
+void atNextDialog(std::function<void(QDialog&)> const& act) {
+  QTimer::singleShot(0, [act] {
+    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    QVERIFY(dialog);
+    act(*dialog);
+    dialog->close();
+  });
+}
+
+bool isNear(double a, double b) { return std::abs(a - b) < 1e-9; }
+
+bool hasCoords(_ptr_t<Element> const& element, double xmin, double ymin, double xmax, double ymax) {
+  auto const is = element->GetEnvelope();
+  return isNear(is->GetXMin(), xmin) && isNear(is->GetYMin(), ymin) && isNear(is->GetXMax(), xmax) &&
+         isNear(is->GetYMax(), ymax);
+}
+
+}  // namespace
+
+class PageSetupTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void theTabShowsThePage_data() {
+    QTest::addColumn<QString>("form");
+    QTest::addColumn<int>("orientation");
+    QTest::addColumn<QString>("width");
+    QTest::addColumn<QString>("height");
+    QTest::addColumn<bool>("editable");
+    QTest::newRow("a listed form") << "A4" << 1 << "21"
+                                   << "29.7" << false;
+    QTest::newRow("one that lies") << "A4" << 2 << "29.7"
+                                   << "21" << false;
+    QTest::newRow("a size of its own") << "Custom" << 1 << "10"
+                                       << "20" << true;
+    QTest::newRow("that lies") << "Custom" << 2 << "20"
+                               << "10" << true;
+  }
+
+  void theTabShowsThePage() {
+    QFETCH(QString, form);
+    QFETCH(int, orientation);
+    QFETCH(bool, editable);
+    PageSizeTabPage tab(layoutOf(qPrintable(form), static_cast<short>(orientation)), nullptr);
+    Person const person(tab);
+    QTEST(person.width(), "width");
+    QTEST(person.height(), "height");
+    QCOMPARE(person.find<QLineEdit>("lineEdit_PageWidth")->isEnabled(), editable);
+    QCOMPARE(person.find<QLineEdit>("lineEdit_PageHeight")->isEnabled(), editable);
+    QCOMPARE(person.find<QRadioButton>("radioButton_H")->isChecked(), orientation == 2);
+    QCOMPARE(person.find<QComboBox>("comboBox_PaperType")->currentIndex(), formNamed(qPrintable(form)));
+    QCOMPARE(person.find<QComboBox>("comboBox_PaperType")->count(), Paper::GetFormCount());
+  }
+
+  void theFieldsFollowFormAndOrientation_data() {
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QStringList>("steps");
+    QTest::addColumn<QString>("width");
+    QTest::addColumn<QString>("height");
+    QTest::newRow("landscape swaps") << "A4" << QStringList{"radioButton_H"} << "29.7"
+                                     << "21";
+    QTest::newRow("pressed twice it swaps once") << "A4" << QStringList{"radioButton_H", "radioButton_H"} << "29.7"
+                                                 << "21";
+    QTest::newRow("and back") << "A4" << QStringList{"radioButton_H", "radioButton_V"} << "21"
+                              << "29.7";
+    QTest::newRow("a form is shown as it is listed, also while landscape is on")
+        << "A4" << QStringList{"radioButton_H", "A3"} << "29.7"
+        << "42";
+    QTest::newRow("landscape again leaves that")
+        << "A4" << QStringList{"radioButton_H", "A3", "radioButton_H"} << "29.7"
+        << "42";
+    QTest::newRow("portrait swaps it") << "A4" << QStringList{"radioButton_H", "A3", "radioButton_V"} << "42"
+                                       << "29.7";
+    QTest::newRow("the custom size starts from what is shown") << "A4" << QStringList{"A5", "Custom"} << "14.8"
+                                                               << "21";
+    QTest::newRow("a form that is listed wider than high") << "A4" << QStringList{"Ledger"} << "43.18"
+                                                           << "27.94";
+  }
+
+  void theFieldsFollowFormAndOrientation() {
+    QFETCH(QString, page);
+    QFETCH(QStringList, steps);
+    PageSizeTabPage tab(layoutOf(qPrintable(page), 1), nullptr);
+    Person const person(tab);
+    QSignalSpy const changes(&tab, &PageSizeTabPage::ValueChanged);
+    for (QString const& step : steps)
+      if (step.startsWith(QLatin1String("radio")))
+        person.press(qPrintable(step));
+      else
+        person.choose(qPrintable(step));
+    QTEST(person.width(), "width");
+    QTEST(person.height(), "height");
+    QCOMPARE(changes.count(), steps.size());
+  }
+
+  void orientationFollowsTheArrowKeys() {
+    PageSizeTabPage tab(layoutOf("A4", 1), nullptr);
+    Person const person(tab);
+    QVERIFY(QTest::qWaitForWindowActive(&tab));
+    person.find<QRadioButton>("radioButton_V")->setFocus();
+    QTest::keyClick(person.find<QRadioButton>("radioButton_V"), Qt::Key_Right);
+    QVERIFY(person.find<QRadioButton>("radioButton_H")->isChecked());
+    QCOMPARE(person.width(), QString("29.7"));
+  }
+
+  void aSizeIsCompleteWithItsDecimals_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("state");
+    for (char const* text : {"400.99", "399.99", "0.5", ".5", "21.0"})
+      QTest::newRow(text) << text << int(QValidator::Acceptable);
+    for (char const* text : {"210", "", "21.", "400"}) QTest::newRow(text) << text << int(QValidator::Intermediate);
+    for (char const* text : {"401.0", "500", "21.123", "-1.0", "a"})
+      QTest::newRow(text) << text << int(QValidator::Invalid);
+  }
+
+  void aSizeIsCompleteWithItsDecimals() {
+    QFETCH(QString, text);
+    PageSizeTabPage tab(layoutOf("Custom", 1), nullptr);
+    for (char const* name : {"lineEdit_PageWidth", "lineEdit_PageHeight"}) {
+      int position = 0;
+      QTEST(int(Person(tab).find<QLineEdit>(name)->validator()->validate(text, position)), "state");
+    }
+  }
+
+  void thePageTakesWhatTheTabShows_data() {
+    QTest::addColumn<QString>("form");
+    QTest::addColumn<bool>("landscape");
+    QTest::addColumn<QString>("width");
+    QTest::addColumn<QString>("height");
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("a listed form") << "A3" << false << ""
+                                   << "" << QSizeF(29.7, 42.0);
+    QTest::newRow("a listed form that lies") << "A3" << true << ""
+                                             << "" << QSizeF(42.0, 29.7);
+    QTest::newRow("a size of its own") << "Custom" << false << "12.5"
+                                       << "30.0" << QSizeF(12.5, 30.0);
+    QTest::newRow("one that lies is stored the portrait way") << "Custom" << true << "29.7"
+                                                              << "21.0" << QSizeF(29.7, 21.0);
+    QTest::newRow("a size of 0") << "Custom" << false << "0"
+                                 << "21.0" << QSizeF(0, 21.0);
+    QTest::newRow("a size that is no number is 0") << "Custom" << false << "."
+                                                   << "21.0" << QSizeF(0, 21.0);
+  }
+
+  void thePageTakesWhatTheTabShows() {
+    QFETCH(QString, form);
+    QFETCH(bool, landscape);
+    QFETCH(QString, width);
+    QFETCH(QString, height);
+    auto const layout = layoutOf("A4", 1);
+    PageSizeTabPage tab(layout, nullptr);
+    Person const person(tab);
+    if (landscape) person.press("radioButton_H");
+    person.choose(qPrintable(form));
+    if (!width.isEmpty()) {
+      person.type("lineEdit_PageWidth", width);
+      person.type("lineEdit_PageHeight", height);
+    }
+    QCOMPARE(sizeOf(layout), QSizeF(21.0, 29.7));
+    tab.ApplyToPage();
+    QTEST(sizeOf(layout), "size");
+    QCOMPARE(layout->GetPage()->GetOrientation(), short(landscape ? 2 : 1));
+    FormInfo custom;
+    Paper::GetFormInfo(customPageForm, custom);
+    if (landscape && form == QLatin1String("Custom")) QCOMPARE(QSizeF(custom.width, custom.height), QSizeF(21.0, 29.7));
+  }
+
+  void noFormLeavesThePageAlone() {
+    auto const layout = layoutOf("A4", 1);
+    PageSizeTabPage tab(layout, nullptr);
+    Person const person(tab);
+    person.press("radioButton_H");
+    person.find<QComboBox>("comboBox_PaperType")->setCurrentIndex(-1);
+    tab.ApplyToPage();
+    QCOMPARE(sizeOf(layout), QSizeF(21.0, 29.7));
+  }
+
+  void elementsFollowThePageWhereThatIsWanted_data() {
+    QTest::addColumn<bool>("wanted");
+    QTest::addColumn<QString>("width");
+    QTest::addColumn<bool>("moved");
+    QTest::newRow("wanted") << true << "40.0" << true;
+    QTest::newRow("not wanted") << false << "40.0" << false;
+    QTest::newRow("never to a page without width") << true << "0" << false;
+  }
+
+  void elementsFollowThePageWhereThatIsWanted() {
+    QFETCH(bool, wanted);
+    QFETCH(QString, width);
+    QFETCH(bool, moved);
+    auto const layout = emptyLayout(20.0, 10.0);
+    auto const hook = make<LayoutHook>(layout);
+    auto const frame = make<MapFrameElement>();
+    frame->SetGeometry(make<Envelope>(2.0, 1.0, 12.0, 6.0));
+    auto const picture = make<RectangleElement>();
+    picture->SetGeometry(make<Envelope>(4.0, 2.0, 6.0, 8.0));
+    layout->GetGraphicsContainer()->AddElements({frame, picture});
+    frame->SetLocked(true);
+
+    PageSizeTabPage tab(layout, nullptr);
+    Person const person(tab);
+    auto* const option = person.find<QCheckBox>("checkBox_ScaleMapElements");
+    if (option->isChecked() != wanted) person.press("checkBox_ScaleMapElements");
+    person.type("lineEdit_PageWidth", width);
+    person.type("lineEdit_PageHeight", "20.0");
+    tab.ApplyToPage();
+
+    QVERIFY(moved ? hasCoords(frame, 4.0, 2.0, 24.0, 12.0) : hasCoords(frame, 2.0, 1.0, 12.0, 6.0));
+    // The centre (5, 5) goes to (10, 10); the size stays.
+    QVERIFY(moved ? hasCoords(picture, 9.0, 7.0, 11.0, 13.0) : hasCoords(picture, 4.0, 2.0, 6.0, 8.0));
+    QVERIFY(frame->IsLocked());
+    QVERIFY2(PageSizeTabPage(layout, nullptr).findChild<QCheckBox*>()->isChecked() == wanted,
+             "the next tab shows the option as it was left");
+    QCOMPARE(hook->history.count(), 0);
+  }
+
+  void theDialogAppliesOnceAndShowsTheWholePage_data() {
+    QTest::addColumn<QStringList>("buttons");
+    QTest::addColumn<bool>("changes");
+    QTest::addColumn<bool>("applied");
+    QTest::addColumn<int>("redraws");
+    QTest::newRow("OK without a change") << QStringList{"OK"} << false << false << 1;
+    QTest::newRow("OK with a change") << QStringList{"OK"} << true << true << 2;
+    QTest::newRow("Apply and OK") << QStringList{"Apply", "OK"} << true << true << 2;
+    QTest::newRow("Apply and Cancel") << QStringList{"Apply", "Cancel"} << true << true << 1;
+    QTest::newRow("Cancel") << QStringList{"Cancel"} << true << false << 0;
+  }
+
+  void theDialogAppliesOnceAndShowsTheWholePage() {
+    QFETCH(QStringList, buttons);
+    QFETCH(bool, changes);
+    QFETCH(bool, applied);
+    auto const layout = layoutOf("A4", 1);
+    CountingSurface surface;
+    layout->setSurface(&surface);
+    layout->SetExtent(make<Envelope>(1.0, 1.0, 2.0, 2.0));
+    auto const hook = make<LayoutHook>(layout);
+    Plugin::PageSettingCommand command;
+    command.OnCreate(hook->pointer());
+    QVERIFY(command.IsEnable());
+
+    atNextDialog([&](QDialog& dialog) {
+      Person const person(dialog);
+      QVERIFY(!(dialog.windowFlags() & Qt::WindowContextHelpButtonHint));
+      QCOMPARE(person.find<QTabWidget>("tabWidget")->count(), 2);
+      QVERIFY(!person.find<QPushButton>("pushButton_Apply")->isEnabled());
+      if (changes) person.choose("A3");
+      for (QString const& button : buttons) {
+        QCOMPARE(person.find<QPushButton>("pushButton_Apply")->isEnabled(), changes && buttons.first() == button);
+        person.press(qPrintable("pushButton_" + button));
+      }
+    });
+    command.OnClick();
+
+    QCOMPARE(layout->GetPage()->GetFormID(), formNamed(applied ? "A3" : "A4"));
+    QTEST(surface.redraws, "redraws");
+    bool const isWhole = layout->GetExtent()->Contains(layout->GetPage()->GetPageEnvelope());
+    QCOMPARE(isWhole, surface.redraws > 0);
+    layout->setSurface(nullptr);
+  }
+
+  void theFrameIsAppliedAsCopies() {
+    auto const layout = layoutOf("A4", 1);
+    Page& page = *layout->GetPage();
+    page.SetBackGround(nullptr);
+    auto const border = make<SymbolBorder>();
+    page.SetBorder(border);
+    PageSettingsDlg dialog(layout, nullptr);
+    Person const person(dialog);
+    person.find<QTabWidget>("tabWidget")->setCurrentIndex(1);
+    person.find<QDoubleSpinBox>("spinBox_BorderGap")->setValue(5.0);
+    QCOMPARE(border->GetGap(), 0.0);
+    person.press("pushButton_Apply");
+
+    QVERIFY2(!page.GetBackground() && !page.GetShadow(), "what is not there stays so");
+    auto const applied = SysUtility::ptr_cast<SymbolBorder>(page.GetBorder());
+    QVERIFY(applied && applied != border);
+    QCOMPARE(applied->GetGap(), 5.0);
+    person.find<QDoubleSpinBox>("spinBox_BorderGap")->setValue(7.0);
+    QCOMPARE(applied->GetGap(), 5.0);
+
+    person.find<QGroupBox>("groupBox_Border")->setChecked(false);
+    person.press("pushButton_OK");
+    QVERIFY(!page.GetBorder());
+  }
+
+  void withoutALayoutOrItsPageNoDialogOpens_data() {
+    QTest::addColumn<bool>("map");
+    QTest::newRow("a map is shown") << true;
+    QTest::newRow("the layout has no page") << false;
+  }
+
+  void withoutALayoutOrItsPageNoDialogOpens() {
+    QFETCH(bool, map);
+    auto const hook = make<LayoutHook>(make<PageLayout>());
+    if (map) hook->view = make<Map>();
+    Plugin::PageSettingCommand command;
+    command.OnCreate(hook->pointer());
+    QCOMPARE(command.IsEnable(), !map);
+    bool opened = false;
+    QTimer::singleShot(0, [&] {
+      opened = QApplication::activeModalWidget();
+      if (opened) QApplication::activeModalWidget()->close();
+    });
+    command.OnClick();
+    QCoreApplication::processEvents();
+    QVERIFY(!opened);
+  }
+};
+
+QTEST_MAIN(PageSetupTest)
+#include "PageSetupTest.moc"
