@@ -23,9 +23,17 @@ constexpr QPageSize::PageSizeId forms[] = {
     QPageSize::EnvelopeC3, QPageSize::EnvelopeC4, QPageSize::EnvelopeC5, QPageSize::EnvelopeC6,
     QPageSize::EnvelopeC7, QPageSize::EnvelopeDL,
     QPageSize::ArchA, QPageSize::ArchB, QPageSize::ArchC, QPageSize::ArchD, QPageSize::ArchE,
+    QPageSize::AnsiC, QPageSize::AnsiD, QPageSize::AnsiE,
 };
 // clang-format on
 static_assert(forms[customPageForm] == QPageSize::Custom, "the custom size has a fixed number");
+
+// In the unit that defines the form: Qt's own conversion to millimetres is rounded, and 48 inches would lose 3 pixels
+// at 300 DPI.
+QSizeF listedSizeCm(QPageSize::PageSizeId form) {
+  QSizeF const size = QPageSize::definitionSize(form);
+  return QPageSize::definitionUnits(form) == QPageSize::Inch ? size * 2.54 : size / 10;
+}
 
 QSizeF& customSizeCm() {
   static QSizeF size(21.0, 29.7);
@@ -46,7 +54,7 @@ bool Paper::GetFormInfo(PageFormID id, FormInfo& info) {
             customSizeCm().height()};
     return true;
   }
-  QSizeF const size = QPageSize::size(forms[id], QPageSize::Millimeter) / 10;
+  QSizeF const size = listedSizeCm(forms[id]);
   info = {QPageSize::key(forms[id]), QPageSize::name(forms[id]), size.width(), size.height()};
   return true;
 }
