@@ -1,9 +1,11 @@
 #include "ExportCommand.h"
 
+#include "ExportParaDlg.h"
 #include "LayoutRenderer.h"
 #include "RasterWriter.h"
 
 #include <QCoreApplication>
+#include <QMessageBox>
 
 #include <optional>
 
@@ -11,10 +13,13 @@ using SysCarto::PageLayout;
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
 using SysUtility::ptr_cast;
+using SysUtility::retain;
 
 namespace Plugin {
 
 namespace {
+
+constexpr int progressWidth = 400;
 
 // Draws tile by tile into the writer, row by row. A cancelled drawing ends early and still counts; false is a tile that
 // could not be written.
@@ -43,6 +48,32 @@ bool ExportCommand::IsEnable() {
 }
 
 void ExportCommand::OnCreate(void* hook) { BaseCommand::OnCreate(hook); }
+
+void ExportCommand::OnClick() {
+  auto const layout = ptr_cast<PageLayout>(hook()->GetActiveView());
+  if (!layout) return;
+  auto* const parent = dynamic_cast<QWidget*>(hook()->GetContents());
+  ExportParaDlg dialog(layout, retain(hook()), parent);
+  if (dialog.exec() != QDialog::Accepted) return;
+  if (dialog.outputPath().isEmpty())
+    QMessageBox::warning(parent, QCoreApplication::translate("ExportCommand", "Warning"),
+                         QCoreApplication::translate("ExportCommand", "Invalid path!"), QMessageBox::Ok);
+  else
+    exportAs(dialog.outputPath(), dialog.dpi(), parent);
+}
+
+void ExportCommand::exportAs(QString const& path, int dpi, QWidget* parent) {
+  QPointer<QProgressDialog> const progress = GetProgressBar();  // its parent may go while events are handled
+  progress->resize(progressWidth, progress->height());
+  progress->setRange(0, 100);
+  progress->show();
+  progress->setRange(0, 100);
+  bool const done = OutputOtherPicture(path, dpi, nullptr, DrawProgressCallback, this);
+  if (progress) progress->setValue(100);
+  if (done)
+    QMessageBox::information(parent, QCoreApplication::translate("ExportCommand", "Information"),
+                             QCoreApplication::translate("ExportCommand", "Export complete!"), QMessageBox::Ok);
+}
 
 QProgressDialog* ExportCommand::GetProgressBar() {
   if (!progressDialog_) {

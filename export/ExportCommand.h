@@ -20,6 +20,9 @@ public:
   bool IsEnable() override;
   void OnCreate(void* hook) override;
 
+  /// Asks for the file and the resolution, exports with a progress dialog, and tells when it is done.
+  void OnClick() override;
+
   /// The progress dialog, made at the first call; its parent, the host's contents, owns it.
   QProgressDialog* GetProgressBar();
 
@@ -40,6 +43,7 @@ public:
   static int CopyProgressCallback(double fraction, char const* message, void* data);
 
 private:
+  void exportAs(QString const& path, int dpi, QWidget* parent);
   void setProgressLabel(QString const& text);
 
   QPointer<QProgressDialog> progressDialog_;

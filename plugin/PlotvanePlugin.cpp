@@ -7,6 +7,7 @@
 #include "arrange/FitToMargins.h"
 #include "arrange/SameSize.h"
 #include "arrange/StackingOrder.h"
+#include "export/ExportCommand.h"
 #include "navigation/PageExtentCommands.h"
 #include "navigation/PagePanTool.h"
 #include "navigation/PageZoomTools.h"
@@ -41,7 +42,7 @@ constexpr Row rows[] = {
     {"Plotvane_ZoomToOrigin",                   create<PageZoomToOrigin>},
     {"Plotvane_ZoomToWhole",                    create<PageFullExtent>},
     {"Plotvane_PageSetting",                    create<PageSettingCommand>},
-    {"Plotvane_Export",                         nullptr},
+    {"Plotvane_Export",                         create<ExportCommand>},
     {"Plotvane_ChangePageLayout",               nullptr},
     {"Plotvane_NorthArrow",                     nullptr},
     {"Plotvane_LeftAlignment",                  create<LeftAlignmentElement>},

@@ -1,0 +1,321 @@
+#include "LayoutHook.h"
+#include "export/ExportCommand.h"
+#include "export/ExportParaDlg.h"
+#include "export/LayoutRenderer.h"
+#include "export/PreView.h"
+
+#include <SysCarto/MapDocument.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QImageReader>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSlider>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+
+using namespace SysCarto;
+using Plugin::ExportCommand;
+using Plugin::LayoutRenderer;
+using SysUI::TrackerCancel;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace {
+
+// A person who answers dialogs as they come, and remembers what message boxes said.
+class Person : public QObject {
+public:
+  Person() {
+    connect(&timer_, &QTimer::timeout, this, &Person::look);
+    timer_.start(5);
+  }
+
+  std::function<void(ExportParaDlg&)> answerParameters = [](ExportParaDlg& dialog) { dialog.reject(); };
+  std::function<void(PreView&)> lookAtPreview = [](PreView&) {};
+  QString fileToChoose;
+  QStringList said;
+
+private:
+  void look() {
+    QWidget* const shown = QApplication::activeModalWidget();
+    if (auto* const files = qobject_cast<QFileDialog*>(shown)) {
+      if (fileToChoose.isEmpty()) return files->reject();
+      files->selectFile(fileToChoose);
+      files->findChild<QLineEdit*>("fileNameEdit")->setText(fileToChoose);
+      QMetaObject::invokeMethod(files, "accept");
+    } else if (auto* const box = qobject_cast<QMessageBox*>(shown)) {
+      said << QStringLiteral("%1: %2").arg(box->windowTitle(), box->text());
+      box->accept();
+    } else if (auto* const preview = qobject_cast<PreView*>(shown)) {
+      lookAtPreview(*preview);
+      preview->close();
+    } else if (auto* const parameters = qobject_cast<ExportParaDlg*>(shown)) {
+      answerParameters(*parameters);
+    }
+  }
+
+  QTimer timer_;
+};
+
+QLineEdit* edit(QWidget& dialog, char const* name) { return dialog.findChild<QLineEdit*>(QLatin1String(name)); }
+
+void press(QWidget& dialog, char const* name) {
+  QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(name)), Qt::LeftButton);
+}
+
+QSize shownSize(PreView& preview) { return preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).size(); }
+
+}  // namespace
+
+class ExportDialogTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+  void resolutionWidthAndHeightAreKeptInStep_data() {
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QStringList>("shown");  // DPI, width, height
+    QTest::newRow("a resolution") << "lineEdit_DPI"
+                                  << "300" << QStringList{"300", "2480", "3507"};
+    QTest::newRow("a resolution of 0 is 1") << "lineEdit_DPI"
+                                            << "0" << QStringList{"1", "8", "11"};
+    QTest::newRow("letters are not taken") << "lineEdit_DPI"
+                                           << "x300" << QStringList{"300", "2480", "3507"};
+    QTest::newRow("more than the most can be typed") << "lineEdit_DPI"
+                                                     << "3001" << QStringList{"3001", "24811", "35090"};
+    QTest::newRow("but no fifth digit") << "lineEdit_DPI"
+                                        << "30010" << QStringList{"3001", "24811", "35090"};
+    QTest::newRow("a width") << "lineEdit_Width"
+                             << "2480" << QStringList{"300", "2480", "3507"};
+    QTest::newRow("a width that gives no resolution") << "lineEdit_Width"
+                                                      << "1" << QStringList{"1", "1", "1"};
+    QTest::newRow("a width of 0") << "lineEdit_Width"
+                                  << "0" << QStringList{"1", "0", "0"};
+    QTest::newRow("a height") << "lineEdit_Height"
+                              << "3508" << QStringList{"300", "2480", "3508"};
+  }
+
+  void resolutionWidthAndHeightAreKeptInStep() {
+    QFETCH(QString, field);
+    QFETCH(QString, typed);
+    auto const hook = make<LayoutHook>(emptyLayout(21.0, 29.7));
+    ExportParaDlg dialog(hook->layout, hook, nullptr);
+    QCOMPARE(edit(dialog, "lineEdit_Width")->text(), QString("793"));
+    QCOMPARE(edit(dialog, "lineEdit_Height")->text(), QString("1122"));
+    auto* const line = edit(dialog, qPrintable(field));
+    line->selectAll();
+    QTest::keyClicks(line, typed);
+    QTEST((QStringList{edit(dialog, "lineEdit_DPI")->text(), edit(dialog, "lineEdit_Width")->text(),
+                       edit(dialog, "lineEdit_Height")->text()}),
+          "shown");
+    QVERIFY(edit(dialog, "lineEdit_OutputPath")->isReadOnly());
+    QVERIFY(!(dialog.windowFlags() & Qt::WindowContextHelpButtonHint));
+  }
+
+  void anEmptiedResolutionIsOneAtOnce() {
+    auto const hook = make<LayoutHook>(emptyLayout(21.0, 29.7));
+    ExportParaDlg dialog(hook->layout, hook, nullptr);
+    auto* const line = edit(dialog, "lineEdit_DPI");
+    line->selectAll();
+    QTest::keyClick(line, Qt::Key_Backspace);
+    QCOMPARE(line->text(), QString("1"));
+    QCOMPARE(edit(dialog, "lineEdit_Width")->text(), QString("8"));
+  }
+
+  void aPageWithoutAnExtentGivesNumbers_data() {
+    QTest::addColumn<bool>("hasPage");
+    QTest::addColumn<QStringList>("shown");
+    QTest::newRow("no width") << true << QStringList{"1", "500", "0"};
+    QTest::newRow("no page") << false << QStringList{"96", "500", "0"};
+  }
+
+  void aPageWithoutAnExtentGivesNumbers() {
+    QFETCH(bool, hasPage);
+    auto const hook = make<LayoutHook>(hasPage ? emptyLayout(0.0, 10.0) : make<PageLayout>());
+    ExportParaDlg dialog(hook->layout, hook, nullptr);
+    edit(dialog, "lineEdit_Height")->setText("0");
+    edit(dialog, "lineEdit_Width")->selectAll();
+    QTest::keyClicks(edit(dialog, "lineEdit_Width"), "500");
+    QTEST((QStringList{edit(dialog, "lineEdit_DPI")->text(), edit(dialog, "lineEdit_Width")->text(),
+                       edit(dialog, "lineEdit_Height")->text()}),
+          "shown");
+  }
+
+  void onlyAChosenFileReplacesThePath() {
+    QTemporaryDir folder;
+    Person person;
+    auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
+    ExportParaDlg dialog(hook->layout, hook, nullptr);
+    dialog.show();
+    person.fileToChoose = folder.filePath("map");
+    press(dialog, "pushButton_OutputPath");
+    QCOMPARE(dialog.outputPath(), folder.filePath("map"));
+    person.fileToChoose.clear();
+    press(dialog, "pushButton_OutputPath");
+    QCOMPARE(dialog.outputPath(), folder.filePath("map"));
+  }
+
+  void anExportSaysHowItEnded_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("accept");
+    QTest::addColumn<QStringList>("said");
+    QTest::addColumn<QByteArray>("format");
+    QStringList const complete{"Information: Export complete!"};
+    QTest::newRow("a picture") << "map.PNG" << true << complete << QByteArray("png");
+    QTest::newRow("no suffix gives a TIFF") << "map" << true << complete << QByteArray("tiff");
+    QTest::newRow("an unknown suffix, too") << "map.jpeg" << true << complete << QByteArray("tiff");
+    QTest::newRow("no path") << "" << true << QStringList{"Warning: Invalid path!"} << QByteArray();
+    QTest::newRow("a missing folder") << "nowhere/map.png" << true << QStringList() << QByteArray();
+    QTest::newRow("cancelled") << "map.png" << false << QStringList() << QByteArray();
+  }
+
+  void anExportSaysHowItEnded() {
+    QFETCH(QString, name);
+    QFETCH(bool, accept);
+    QFETCH(QByteArray, format);
+    QTemporaryDir folder;
+    QString const path = name.isEmpty() ? QString() : folder.filePath(name);
+    Person person;
+    person.answerParameters = [&](ExportParaDlg& dialog) {
+      edit(dialog, "lineEdit_OutputPath")->setText(path);
+      press(dialog, accept ? "pushButton" : "pushButton_2");
+    };
+    auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
+    ExportCommand command;
+    command.OnCreate(hook->pointer());
+    command.OnClick();
+    QTEST(person.said, "said");
+    QFile file(path);
+    QCOMPARE(file.exists(), !format.isEmpty());
+    if (!file.exists()) return;
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArray const head = file.read(4);
+    QVERIFY(format == "png" ? head.mid(1) == "PNG" : head.startsWith("II*"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
+  }
+
+  void theProgressDialogIsWideAndKept() {
+    QTemporaryDir folder;
+    Person person;
+    person.answerParameters = [&](ExportParaDlg& dialog) {
+      edit(dialog, "lineEdit_OutputPath")->setText(folder.filePath("map.png"));
+      press(dialog, "pushButton");
+    };
+    auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
+    ExportCommand command;
+    command.OnCreate(hook->pointer());
+    QProgressDialog* const progress = command.GetProgressBar();
+    command.OnClick();
+    command.OnClick();
+    QCOMPARE(command.GetProgressBar(), progress);
+    QCOMPARE(progress->width(), 400);
+    QVERIFY(!progress->findChild<QPushButton*>());
+    QCOMPARE(person.said.size(), 2);
+  }
+
+  void aMapIsNotExported() {
+    auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
+    hook->view = make<Map>();
+    ExportCommand command;
+    command.OnCreate(hook->pointer());
+    QVERIFY(!command.IsEnable());
+    command.OnClick();  // would wait for an answer to its dialog
+  }
+
+  void thePreviewIsScaledFromTheDrawnPicture_data() {
+    QTest::addColumn<QVector<int>>("percents");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("as drawn") << QVector<int>{} << QSize(250, 355);
+    QTest::newRow("smallest") << QVector<int>{20} << QSize(50, 71);
+    QTest::newRow("largest") << QVector<int>{200} << QSize(500, 710);
+    QTest::newRow("cut down to whole pixels") << QVector<int>{33} << QSize(82, 117);
+    QTest::newRow("beyond the slider") << QVector<int>{19} << QSize(50, 71);
+    QTest::newRow("back to the start") << QVector<int>{20, 100} << QSize(250, 355);
+  }
+
+  void thePreviewIsScaledFromTheDrawnPicture() {
+    QFETCH(QVector<int>, percents);
+    auto const hook = make<LayoutHook>(emptyLayout(21.0, 29.7));
+    PreView preview(nullptr);
+    preview.RenderPreview(96, nullptr, hook->layout, hook);
+    QImage const drawn = preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).toImage();
+    for (int percent : percents) preview.findChild<QSlider*>("horizontalSlider")->setValue(percent);
+    QTEST(shownSize(preview), "size");
+    if (shownSize(preview) == drawn.size())
+      QCOMPARE(preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).toImage(), drawn);
+  }
+
+  void thePreviewDrawsWhatTheExportDraws() {
+    MapDocument sample;
+    QVERIFY(sample.Open(PLOTVANE_SOURCE_DIR "/samples/world.kdx"));
+    auto const hook = make<LayoutHook>(sample.GetPageLayout());
+    int const graphics = sample.GetMap(0)->GetGraphicsContainer()->GetElements().size();
+    QImage expected;
+    {
+      QSize const canvas(250, 355);
+      LayoutRenderer const renderer(hook->layout, canvas, 150);
+      Plugin::PlacedLabels const labels(*hook, renderer.pageTransform());
+      expected = renderer.tileImage(QRect(QPoint(0, 0), canvas), nullptr);
+    }
+
+    Person person;
+    QImage picture;
+    person.lookAtPreview = [&](PreView& preview) {
+      picture = preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).toImage();
+    };
+    ExportParaDlg dialog(hook->layout, hook, nullptr);
+    person.answerParameters = [](ExportParaDlg&) {};
+    dialog.show();
+    edit(dialog, "lineEdit_DPI")->setText("150");
+    press(dialog, "pushButton_3");
+    press(dialog, "pushButton_3");
+
+    QCOMPARE(picture.convertToFormat(QImage::Format_RGB32), expected.convertToFormat(QImage::Format_RGB32));
+    // The page lies, so the canvas is empty below it.
+    QCOMPARE(picture.pixelColor(125, 300), QColor(Qt::white));
+    QVERIFY(picture.pixelColor(125, 90) != QColor(Qt::white));
+    QCOMPARE(dialog.findChildren<PreView*>().size(), 2);
+    QCOMPARE(sample.GetMap(0)->GetGraphicsContainer()->GetElements().size(), graphics);
+  }
+
+  void aPictureThatWasNotDrawnIsNotScaled_data() {
+    QTest::addColumn<bool>("cancelled");
+    QTest::newRow("cancelled") << true;
+    QTest::newRow("a layout without a page") << false;
+  }
+
+  void aPictureThatWasNotDrawnIsNotScaled() {
+    QFETCH(bool, cancelled);
+    auto const hook = make<LayoutHook>(cancelled ? emptyLayout(5.0, 5.0) : make<PageLayout>());
+    auto const cancel = make<TrackerCancel>();
+    if (cancelled) cancel->Cancel();
+    PreView preview(nullptr);
+    preview.RenderPreview(96, cancel, hook->layout, hook);
+    preview.findChild<QSlider*>("horizontalSlider")->setValue(50);
+    QVERIFY(preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).isNull());
+  }
+
+  void thePreviewIsADialogAndACommand() {
+    PreView preview(nullptr);
+    QObject* const object = &preview;
+    QCOMPARE(object->qt_metacast("PreView"), static_cast<void*>(&preview));
+    QCOMPARE(object->qt_metacast("SysFramework::BaseCommand"),
+             static_cast<void*>(static_cast<SysFramework::BaseCommand*>(&preview)));
+    QCOMPARE(preview.minimumSize(), QSize(787, 825));
+    QCOMPARE(preview.maximumSize(), QSize(1000, 825));
+    QVERIFY(!(preview.windowFlags() & Qt::WindowContextHelpButtonHint));
+  }
+};
+
+QTEST_MAIN(ExportDialogTest)
+#include "ExportDialogTest.moc"
