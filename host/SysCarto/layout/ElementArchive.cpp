@@ -164,6 +164,7 @@ void describeGrids(Archive& archive, MapFrameElement& frame) {
     QString name = grid->GetName();
     object.text("name", name, QString());
     grid->SetName(name);
+    grid->describe(object);
     if (object.reading()) frame.AddMapGrid(grid);
   });
 }
@@ -183,6 +184,10 @@ void describe(Archive& archive, MapFrameElement& frame, Scope scope) {
   frame.SetMap(map);
   frame.SetLocked(locked);
   frame.SetGeometry(rectangle);
+  for (int i = 0; i < frame.GetMapGridCount(); ++i) {
+    QString const problem = frame.GetMapGrid(i)->problemOn(frame);
+    if (!problem.isEmpty()) scope.context.warnings << problem;
+  }
 }
 
 // A kind of map surround: its name in a document, and what makes one.

@@ -1,15 +1,127 @@
 #include <SysCarto/Graticule.h>
+
+#include "GraticuleLabels.h"
+#include "GraticuleLines.h"
+#include "Pieces.h"
+
+#include "host/SysDisplay/SymbolArchive.h"
+
+#include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
 
 namespace SysCarto {
 
+using SysDisplay::DisplayTransformation;
+using SysDisplay::LineSymbol;
+using SysDisplay::TextFormat;
+using SysDisplay::TextSymbol;
+using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
+using SysUtility::Archive;
+using SysUtility::make;
+
+namespace {
+
+// What people count in: degrees, minutes, seconds.
+// clang-format off
+constexpr double intervals[] = {
+    1 / 3600.0, 2 / 3600.0, 5 / 3600.0, 10 / 3600.0, 15 / 3600.0, 30 / 3600.0,
+    1 / 60.0,   2 / 60.0,   5 / 60.0,   10 / 60.0,   15 / 60.0,   30 / 60.0,
+    1, 2, 5, 10, 15, 30, 45, 90};
+// clang-format on
+
+constexpr double metresPerDegree = 111320;
+constexpr double leastBetweenCm = 2.8;  // two lines
+constexpr double mostLines = 1000;
+constexpr double labelGapPt = 3;
+
+double intervalFor(double mapScale) {
+  double const least = leastBetweenCm * mapScale / 100 / metresPerDegree;
+  auto const* const found = std::lower_bound(std::begin(intervals), std::end(intervals), least);
+  return found == std::end(intervals) ? intervals[std::size(intervals) - 1] : *found;
+}
+
+_ptr_t<LineSymbol> usualLine() {
+  auto const symbol = make<SysDisplay::SimpleLineSymbol>();
+  symbol->SetColor(QColor(0x6b, 0x7b, 0x88));
+  symbol->SetWidth(0.3);
+  symbol->SetCapStyle(SysDisplay::LineCapStyle::Butt);
+  return symbol;
+}
+
+_ptr_t<TextSymbol> usualLabel() {
+  TextFormat format;
+  format.size = 6.5;
+  format.color = QColor(0x3b, 0x3a, 0x44);
+  return make<TextSymbol>(format);
+}
+
+}  // namespace
 
 IMapGrid::~IMapGrid() = default;
+void IMapGrid::describe(Archive&) {}
+QString IMapGrid::problemOn(MapFrameElement const&) const { return QString(); }
 
 struct Graticule::Private {
   QString name;
+  double interval = 0;  // degrees; 0 chooses one for the scale
+  bool labelled = true;
+  _ptr_t<LineSymbol> line;  // empty for the usual ones
+  _ptr_t<TextSymbol> label;
+
+  // What was worked out for a map and a rectangle, since a page is drawn in many tiles. Clones share it.
+  struct Picture {
+    QString system;
+    Envelope extent, rectangle;
+    std::shared_ptr<GraticuleLines const> lines;
+    QList<_ptr_t<Element>> elements;
+  };
+  mutable std::shared_ptr<Picture const> picture;
+
+  _ptr_t<TextSymbol> labelSymbol() const { return label ? label : usualLabel(); }
+  std::shared_ptr<GraticuleLines const> linesOf(QString const& system) const {
+    return picture && picture->system == system ? picture->lines : std::make_shared<GraticuleLines>(system);
+  }
+  bool isTooFine(GraticuleLines const& lines, Envelope const& extent) const {
+    return interval > 0 && lines.count(extent, interval) > mostLines;
+  }
+  QList<_ptr_t<Element>> const& elementsFor(Map const& map, Envelope const& rectangle) const;
 };
+
+namespace {
+
+bool isSame(Envelope const& a, Envelope const& b) {
+  return a.GetXMin() == b.GetXMin() && a.GetYMin() == b.GetYMin() && a.GetXMax() == b.GetXMax() &&
+         a.GetYMax() == b.GetYMax();
+}
+
+}  // namespace
+
+QList<_ptr_t<Element>> const& Graticule::Private::elementsFor(Map const& map, Envelope const& rectangle) const {
+  QString const system = map.GetCoordinateSystem();
+  Envelope const extent(*map.GetExtent());
+  if (picture && picture->system == system && isSame(picture->extent, extent) && isSame(picture->rectangle, rectangle))
+    return picture->elements;
+  auto made = std::make_shared<Picture>(Picture{system, extent, rectangle, linesOf(system), {}});
+  bool const isChosen = interval > 0 && !isTooFine(*made->lines, extent);
+  double const step = isChosen ? interval : intervalFor(map.GetDisplayTransformation()->GetMapScale());
+  GraticuleLabels labels(rectangle, labelSymbol(), labelGapPt);
+  for (GraticuleLine const& one : made->lines->lines(extent, step)) {
+    auto const parts = labels.placed(one, extent);
+    for (QVector<QPointF> const& part : parts) made->elements << linePiece(part, line ? line : usualLine());
+    if (labelled) labels.label(one, parts);
+  }
+  made->elements += labels.elements();
+  picture = made;
+  return picture->elements;
+}
 
 Graticule::Graticule() : d(std::make_unique<Private>()) {}
 Graticule::Graticule(Graticule const& other) : IMapGrid(other), d(std::make_unique<Private>(*other.d)) {}
@@ -18,11 +130,41 @@ Graticule::~Graticule() = default;
 QString Graticule::GetName() const { return d->name; }
 void Graticule::SetName(QString const& name) { d->name = name; }
 
-void Graticule::Draw(QPainter&, _ptr_t<SysUI::TrackerCancel> const&, _ptr_t<SysDisplay::DisplayTransformation> const&,
-                     _ptr_t<MapFrameElement> const&) {}
+void Graticule::Draw(QPainter& painter, _ptr_t<SysUI::TrackerCancel> const& cancel,
+                     _ptr_t<DisplayTransformation> const& transformation, _ptr_t<MapFrameElement> const& frame) {
+  if (!frame || !transformation) return;
+  for (auto const& element : d->elementsFor(*frame->GetMap(), *frame->GetEnvelope())) {
+    if (cancel && cancel->IsCanced()) return;
+    element->Draw(painter, transformation, cancel);
+  }
+}
 
-double Graticule::GetMargin() const { return 0; }
+double Graticule::GetMargin() const {
+  return d->labelled ? labelGapPt + d->labelSymbol()->bounds(QStringLiteral("0°")).height() : 0;
+}
 
-_ptr_t<IMapGrid> Graticule::Clone() const { return SysUtility::make<Graticule>(*this); }
+_ptr_t<IMapGrid> Graticule::Clone() const { return make<Graticule>(*this); }
+
+void Graticule::describe(Archive& archive) {
+  d->picture = nullptr;
+  archive.number("interval", d->interval, 0, 90, 0);
+  archive.flag("labels", d->labelled, true);
+  SysDisplay::describeOptionalSymbol(archive, "lineSymbol", d->line);
+  SysDisplay::describeOptionalSymbol(archive, "labelSymbol", d->label);
+}
+
+QString Graticule::problemOn(MapFrameElement const& frame) const {
+  Map const& map = *frame.GetMap();
+  auto const lines = d->linesOf(map.GetCoordinateSystem());
+  Envelope const extent(*map.GetExtent());
+  if (!d->isTooFine(*lines, extent)) return QString();
+  return QCoreApplication::translate("Graticule",
+                                     "the graticule “%1” of the map “%2” has an interval of %3 degrees, which makes %4 "
+                                     "lines; at most %5 are drawn, so an interval is chosen for it; enter one of %6 "
+                                     "degrees or more")
+      .arg(d->name, map.GetName(), grouped(d->interval), grouped(std::round(lines->count(extent, d->interval))),
+           grouped(mostLines),
+           grouped(std::ceil(lines->count(extent, d->interval) * d->interval / mostLines * 1000) / 1000));
+}
 
 }  // namespace SysCarto

@@ -6,7 +6,7 @@
 
 namespace SysCarto {
 
-/// A grid of meridians and parallels.
+/// A grid of meridians and parallels, labelled outside the frame. A new one chooses its interval for the map's scale.
 class SYSCARTO_EXPORT Graticule final : public IMapGrid {
 public:
   Graticule();
@@ -20,6 +20,8 @@ public:
             SysUtility::_ptr_t<MapFrameElement> const& frame) override;
   double GetMargin() const override;
   SysUtility::_ptr_t<IMapGrid> Clone() const override;
+  void describe(SysUtility::Archive& archive) override;
+  QString problemOn(MapFrameElement const& frame) const override;
 
 private:
   struct Private;

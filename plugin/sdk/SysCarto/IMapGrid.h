@@ -8,6 +8,10 @@
 
 class QPainter;
 
+namespace SysUtility {
+class Archive;
+}
+
 namespace SysCarto {
 
 class MapFrameElement;
@@ -28,6 +32,15 @@ public:
   /// How far the grid's labels reach outside the frame, in points.
   virtual double GetMargin() const = 0;
   virtual SysUtility::_ptr_t<IMapGrid> Clone() const = 0;
+
+  // Beyond what the commands of a plug-in need.
+
+  /// Describes the settings, without the name, for a document; for the host.
+  virtual void describe(SysUtility::Archive& archive);
+
+  /// A sentence where the settings can't be followed on the map of that frame, and what is done instead; empty where
+  /// they can.
+  virtual QString problemOn(MapFrameElement const& frame) const;
 };
 
 }  // namespace SysCarto

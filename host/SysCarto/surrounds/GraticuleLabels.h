@@ -1,0 +1,48 @@
+#pragma once
+
+#include "GraticuleLines.h"
+
+#include "host/SysDisplay/TextSymbol.h"
+
+#include <SysCarto/Element.h>
+
+#include <QList>
+#include <QRectF>
+
+#include <optional>
+
+namespace SysCarto {
+
+/// Places the lines of a graticule in the rectangle of a data frame, and their labels outside it.
+class GraticuleLabels {
+public:
+  GraticuleLabels(SysGeometry::Envelope const& rectangle, SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbol,
+                  double gapPt);
+
+  /// The parts of a line that lie in the rectangle, in page centimetres. `extent` is what the map shows in it.
+  QVector<QVector<QPointF>> placed(GraticuleLine const& line, SysGeometry::Envelope const& extent) const;
+
+  /// Labels a line where its parts meet the sides of the rectangle: meridians above and below, parallels beside it; a
+  /// line that meets only the other sides, there. A parallel that ends with the globe has its label beyond its end.
+  /// A label that would lie on another is left out.
+  void label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts);
+
+  QList<SysUtility::_ptr_t<Element>> const& elements() const { return elements_; }
+
+private:
+  enum Side { Left, Right, Bottom, Top, None };
+
+  Side sideOf(QPointF const& point) const;
+  void addOutside(QString const& text, QPointF const& point, Side side);
+  void addBeyond(QString const& text, QPointF const& point);
+  void add(QString const& text, QPointF const& position, double angle, SysDisplay::HorizontalAlignment horizontal,
+           SysDisplay::VerticalAlignment vertical);
+
+  double left_, bottom_, right_, top_;
+  SysDisplay::TextFormat format_;
+  double gapCm_;
+  QVector<QRectF> taken_;
+  QList<SysUtility::_ptr_t<Element>> elements_;
+};
+
+}  // namespace SysCarto

@@ -1,0 +1,180 @@
+#include "host/SysUtility/Archive.h"
+
+#include <SysCarto/Graticule.h>
+#include <SysCarto/Map.h>
+#include <SysCarto/MapFrameElement.h>
+
+#include <QJsonObject>
+#include <QPainter>
+#include <QtTest>
+
+#include <cmath>
+
+Q_DECLARE_METATYPE(SysGeometry::Envelope)
+
+using namespace SysCarto;
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+namespace {
+
+constexpr int pxPerCm = 40;
+// The frame on a page of 12 by 10 centimetres: from (1, 1) to (11, 9).
+constexpr QRect framePx(pxPerCm, pxPerCm, 10 * pxPerCm, 8 * pxPerCm);
+
+_ptr_t<DisplayTransformation> pageTransformation() {
+  auto const transformation = make<DisplayTransformation>();
+  transformation->SetDeviceFrame(QRect(0, 0, 12 * pxPerCm, 10 * pxPerCm));
+  transformation->SetVisibleBounds(make<Envelope>(0.0, 0.0, 12.0, 10.0));
+  transformation->SetPageScale(pxPerCm * 2.54 / 96);
+  return transformation;
+}
+
+}  // namespace
+
+class GraticuleTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void linesRunThroughTheirPlaces_data() {
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<Envelope>("bounds");
+    QTest::addColumn<double>("interval");
+    QTest::addColumn<QVector<QPointF>>("onLines");  // map units
+    QTest::addColumn<QVector<QPointF>>("offLines");
+    using Points = QVector<QPointF>;
+    QTest::newRow("degrees") << "EPSG:4326" << Envelope(-25, -20, 25, 20) << 10.0
+                             << Points{{0, 5}, {5, 0}, {20, -13}, {-17, -10}} << Points{{5, 5}, {-15, 15}};
+    QTest::newRow("the whole world, both sides of its cut")
+        << "EPSG:4326" << Envelope(-180, -90, 180, 90) << 45.0
+        << Points{{-135, 10}, {179.5, 20}, {-179.5, 20}, {20, 45}} << Points{{20, 20}, {160, -20}};
+    QTest::newRow("over the antimeridian")
+        << "EPSG:3832" << Envelope(2000000, -2000000, 7000000, 2000000) << 10.0
+        << Points{{30 * 111319.49, 500000}, {40 * 111319.49, 500000}, {4000000, 0}} << Points{{35 * 111319.49, 500000}};
+    // A polar map: the parallel of 80 degrees is a circle about the pole, and meridians meet there.
+    QTest::newRow("around a pole") << "EPSG:3995" << Envelope(-2500000, -2000000, 2500000, 2000000) << 10.0
+                                   << Points{{0, 1085943}, {1085943, 0}, {-1085943, 0}, {0, -500000}, {500000, 0}}
+                                   << Points{{700000, 300000}};
+    QTest::newRow("a map that lies askew")
+        << "+proj=omerc +lat_0=45 +lonc=10 +alpha=35 +gamma=0 +datum=WGS84"
+        << Envelope(-500000, -400000, 500000, 400000) << 5.0 << Points{{0, 0}} << Points{};
+  }
+
+  void linesRunThroughTheirPlaces() {
+    QFETCH(QString, system);
+    QFETCH(Envelope, bounds);
+    QFETCH(double, interval);
+    QFETCH(QVector<QPointF>, onLines);
+    QFETCH(QVector<QPointF>, offLines);
+    auto const frame = frameWith(system, bounds, {{"interval", interval}, {"labels", false}});
+    QImage const image = drawn(*frame);
+    auto const shown = frame->GetMap()->GetExtent();
+    auto const isInked = [&](QPointF const& place) {
+      double const x = framePx.left() + (place.x() - shown->GetXMin()) / shown->GetWidth() * framePx.width();
+      double const y = framePx.top() + (shown->GetYMax() - place.y()) / shown->GetHeight() * framePx.height();
+      return !isBlank(image, QRect(qRound(x) - 2, qRound(y) - 2, 5, 5));
+    };
+    for (QPointF const& place : onLines)
+      QVERIFY2(isInked(place), qPrintable(QString("%1 %2").arg(place.x()).arg(place.y())));
+    for (QPointF const& place : offLines)
+      QVERIFY2(!isInked(place), qPrintable(QString("%1 %2").arg(place.x()).arg(place.y())));
+    QVERIFY(isBlank(image, QRect(0, 0, image.width(), pxPerCm - 2)));
+    QVERIFY(isBlank(image, QRect(0, 0, pxPerCm - 2, image.height())));
+  }
+
+  void labelsLieOutsideTheFrameAndInItsBoundary() {
+    auto const frame = frameWith("EPSG:4326", Envelope(-25, -20, 25, 20), {{"interval", 10}});
+    QImage const image = drawn(*frame);
+    auto const boundary = frame->GetBoundary(pageTransformation())->GetEnvelope();
+    QRect const covered(qFloor(boundary->GetXMin() * pxPerCm), qFloor((10 - boundary->GetYMax()) * pxPerCm),
+                        qCeil(boundary->GetWidth() * pxPerCm) + 1, qCeil(boundary->GetHeight() * pxPerCm) + 1);
+    QVERIFY(covered.contains(framePx.adjusted(-8, -8, 8, 8)));
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        if (!covered.contains(x, y)) QCOMPARE(image.pixelColor(x, y), QColor(Qt::white));
+    // The equator and the meridian of 0 have one on each of the four sides.
+    int const middleX = framePx.left() + framePx.width() / 2, middleY = framePx.top() + framePx.height() / 2;
+    for (QRect const& place :
+         {QRect(middleX - 5, framePx.bottom() + 3, 10, 12), QRect(middleX - 5, framePx.top() - 15, 10, 12),
+          QRect(framePx.left() - 15, middleY - 5, 12, 10), QRect(framePx.right() + 3, middleY - 5, 12, 10)})
+      QVERIFY(!isBlank(image, place));
+  }
+
+  void aDrawingInTilesIsTheWholeOne() {
+    auto const frame = frameWith("EPSG:3035", Envelope(3000000, 2000000, 5000000, 3600000), {});
+    QImage const whole = drawn(*frame);
+    QVERIFY(!isBlank(whole, whole.rect()));
+    QImage tiled(whole.size(), whole.format());
+    for (int x = 0; x < whole.width(); x += 160)
+      for (int y = 0; y < whole.height(); y += 100) {
+        QPainter painter(&tiled);
+        painter.drawImage(x, y, drawn(*frame, QRect(x, y, 160, 100)));
+      }
+    QVERIFY(tiled == whole);
+  }
+
+  void theIntervalFollowsTheScale() {
+    auto const frame = frameWith("EPSG:4326", Envelope(-25, -20, 25, 20), {});
+    QImage const before = drawn(*frame);
+    frame->GetMap()->SetExtent(make<Envelope>(-0.25, -0.2, 0.25, 0.2));
+    QVERIFY(drawn(*frame) != before);
+    frame->GetMap()->SetExtent(make<Envelope>(-25.0, -20.0, 25.0, 20.0));
+    QVERIFY(drawn(*frame) == before);
+  }
+
+  void aMillionLinesAreNotDrawnButToldOf() {
+    auto const frame = frameWith("EPSG:4326", Envelope(-180, -90, 180, 90), {{"interval", 0.0005}});
+    QString const problem = frame->GetMapGrid(0)->problemOn(*frame);
+    QVERIFY2(problem.contains("has an interval of 0.0005 degrees, which makes 1,080,000 lines"), qPrintable(problem));
+    QVERIFY2(problem.contains("enter one of 0.54 degrees or more"), qPrintable(problem));
+    QVERIFY(drawn(*frame) == drawn(*frameWith("EPSG:4326", Envelope(-180, -90, 180, 90), {})));
+  }
+
+  void withoutAGlobeThereIsNoGrid() {
+    QVERIFY(isBlank(drawn(*frameWith("", Envelope(0, 0, 100, 80), {})), framePx.adjusted(-20, -20, 20, 20)));
+  }
+
+private:
+  static bool isBlank(QImage const& image, QRect const& area) {
+    for (int y = area.top(); y <= area.bottom(); ++y)
+      for (int x = area.left(); x <= area.right(); ++x)
+        if (image.pixelColor(x, y) != Qt::white) return false;
+    return true;
+  }
+
+  static _ptr_t<MapFrameElement> frameWith(QString const& system, Envelope const& bounds, QJsonObject const& settings) {
+    auto const frame = make<MapFrameElement>();
+    frame->SetBorder(nullptr);
+    frame->SetBackGround(nullptr);
+    frame->GetMap()->SetCoordinateSystem(system);
+    frame->SetGeometry(make<Envelope>(1.0, 1.0, 11.0, 9.0));
+    frame->setPlaced(true);
+    frame->GetMap()->SetExtent(make<Envelope>(bounds));
+    auto const grid = make<Graticule>();
+    SysUtility::Archive archive(settings);
+    grid->describe(archive);
+    if (!archive.ok()) qFatal("%s", qPrintable(archive.error()));
+    frame->AddMapGrid(grid);
+    return frame;
+  }
+
+  static QImage drawn(MapFrameElement& frame, QRect const& part = QRect(0, 0, 12 * pxPerCm, 10 * pxPerCm)) {
+    QImage image(part.size(), QImage::Format_RGBA8888_Premultiplied);
+    image.fill(Qt::white);
+    auto const transformation = pageTransformation();
+    transformation->SetDeviceFrame(QRect(QPoint(0, 0), part.size()));
+    transformation->SetVisibleBounds(
+        make<Envelope>(part.left() / double(pxPerCm), 10 - (part.top() + part.height()) / double(pxPerCm),
+                       (part.left() + part.width()) / double(pxPerCm), 10 - part.top() / double(pxPerCm)));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    frame.Draw(painter, transformation, nullptr);
+    return image;
+  }
+};
+
+QTEST_MAIN(GraticuleTest)
+#include "GraticuleTest.moc"
