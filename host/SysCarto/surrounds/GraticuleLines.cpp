@@ -133,9 +133,8 @@ void GraticuleLines::add(QVector<GraticuleLine>& lines, bool isMeridian, double 
   store.endFeature(0, QString(), 0);
   GraticuleLine result{isMeridian, degrees, {}};
   for (Part const& part : store.parts) {
-    double const* const xy = store.vertices(part);
     QVector<QPointF> points;
-    for (int i = 0; i < part.count; ++i) points << QPointF(xy[2 * i], xy[2 * i + 1]);
+    for (int i = 0; i < part.count; ++i) points << QPointF(part.xy[2 * i], part.xy[2 * i + 1]);
     result.parts << points;
   }
   if (!result.parts.isEmpty()) lines << result;
