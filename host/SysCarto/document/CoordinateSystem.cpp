@@ -1,5 +1,6 @@
 #include "CoordinateSystem.h"
 
+#include "host/SysCarto/layers/Offline.h"
 #include "host/SysGeometry/QuietOgr.h"
 
 #include <QCoreApplication>
@@ -34,6 +35,7 @@ bool namesFile(QString const& text) {
 }
 
 std::unique_ptr<OGRSpatialReference> parse(QString const& text) {
+  stayOffline();
   SysGeometry::QuietOgr const quiet;
   auto system = std::make_unique<OGRSpatialReference>();
   OGRErr const result =

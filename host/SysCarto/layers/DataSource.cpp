@@ -1,6 +1,7 @@
 #include "DataSource.h"
 
 #include "host/SysCarto/layers/GdalErrors.h"
+#include "host/SysCarto/layers/Offline.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -81,6 +82,7 @@ std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const&
     error = cannotOpen(path, translated("reading it is not permitted"));
   if (!error.isEmpty()) return nullptr;
 
+  stayOffline();
   registerDrivers();
   GdalErrors const errors;
   GDALDataset* const dataset = openDataset(file.absoluteFilePath());
