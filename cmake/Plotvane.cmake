@@ -29,3 +29,20 @@ function(plotvane_test name)
   set_tests_properties(${name} PROPERTIES ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_SCALE_FACTOR=1;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 600)
 endfunction()
+
+# plotvane_translations(Target catalogue)
+# Compiles translations/CATALOGUE_LANGUAGE.ts for each language and embeds them in the target under :/translations.
+function(plotvane_translations target catalogue)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/translations/${catalogue}_*.ts)
+  qt5_add_translation(compiled ${sources})
+  set(files "")
+  foreach(file ${compiled})
+    get_filename_component(name ${file} NAME)
+    string(APPEND files "    <file alias=\"${name}\">${file}</file>\n")
+  endforeach()
+  set(collection ${CMAKE_CURRENT_BINARY_DIR}/${catalogue}-translations.qrc)
+  file(CONFIGURE OUTPUT ${collection}
+    CONTENT "<RCC>\n  <qresource prefix=\"/translations\">\n${files}  </qresource>\n</RCC>\n")
+  qt5_add_resources(embedded ${collection})
+  target_sources(${target} PRIVATE ${embedded})
+endfunction()

@@ -1,3 +1,5 @@
+#include "host/SysFramework/Translations.h"
+
 #include <SysUI/CMDPluginModule.h>
 
 #include <QLibrary>
@@ -36,6 +38,28 @@ private slots:
     QFETCH(QString, id);
     _ptr_t<CMDPluginModule> const module(entry_());
     QVERIFY(!module->CreateCommand(id, QString()));
+  }
+
+  void textsAreTranslated_data() {
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("operation");
+    QTest::newRow("English stays") << QLocale("en_GB") << "Output file:"
+                                   << "Aligh the selected elements to the left";
+    QTest::newRow("a language that we have not stays English") << QLocale("fi_FI") << "Output file:"
+                                                               << "Aligh the selected elements to the left";
+    QTest::newRow("German, also of another country") << QLocale("de_AT") << "Ausgabedatei:"
+                                                     << "Ausgewählte Elemente linksbündig ausrichten";
+    QTest::newRow("Chinese") << QLocale("zh_CN") << "输出文件："
+                             << "将所选元素左对齐";
+  }
+
+  // Translators stay for good, so the rows run in this order: each one goes over those before it.
+  void textsAreTranslated() {
+    QFETCH(QLocale, locale);
+    SysFramework::installTranslations(locale);
+    QTEST(QCoreApplication::translate("ExportParaDlg", "Output file:"), "text");
+    QTEST(QCoreApplication::translate("LeftAlignmentElement", "Aligh the selected elements to the left"), "operation");
   }
 
 private:
