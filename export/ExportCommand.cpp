@@ -63,13 +63,13 @@ void ExportCommand::OnClick() {
 }
 
 void ExportCommand::exportAs(QString const& path, int dpi, QWidget* parent) {
-  QPointer<QProgressDialog> const progress = GetProgressBar();  // its parent may go while events are handled
-  progress->resize(progressWidth, progress->height());
-  progress->setRange(0, 100);
-  progress->show();
-  progress->setRange(0, 100);
+  QProgressDialog& progress = *GetProgressBar();
+  progress.resize(progressWidth, progress.height());
+  progress.setRange(0, 100);
+  progress.show();
+  progress.setRange(0, 100);
   bool const done = OutputOtherPicture(path, dpi, nullptr, DrawProgressCallback, this);
-  if (progress) progress->setValue(100);
+  GetProgressBar()->setValue(100);
   if (done)
     QMessageBox::information(parent, QCoreApplication::translate("ExportCommand", "Information"),
                              QCoreApplication::translate("ExportCommand", "Export complete!"), QMessageBox::Ok);

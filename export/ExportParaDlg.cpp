@@ -65,7 +65,7 @@ void ExportParaDlg::showSize(int dpi) {
 
 void ExportParaDlg::showResolution(int dpi) { ui_->lineEdit_DPI->setText(QString::number(dpi == 0 ? 1 : dpi)); }
 
-void ExportParaDlg::slotDPIEdited(QString text) {
+void ExportParaDlg::slotDPIEdited(QString const& text) {
   int dpi = text.toInt();
   if (dpi == 0) {
     dpi = 1;
@@ -74,7 +74,7 @@ void ExportParaDlg::slotDPIEdited(QString text) {
   showSize(dpi);
 }
 
-void ExportParaDlg::slotWidthEdited(QString text) {
+void ExportParaDlg::slotWidthEdited(QString const& text) {
   if (!layout_->GetPage()) return;
   double widthCm, heightCm;
   layout_->GetPage()->QuerySize(widthCm, heightCm);
@@ -83,7 +83,7 @@ void ExportParaDlg::slotWidthEdited(QString text) {
   showResolution(rounded((cmPerInch / widthCm) * width));
 }
 
-void ExportParaDlg::slotHeightEdited(QString text) {
+void ExportParaDlg::slotHeightEdited(QString const& text) {
   if (!layout_->GetPage()) return;
   double widthCm, heightCm;
   layout_->GetPage()->QuerySize(widthCm, heightCm);

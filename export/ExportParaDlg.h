@@ -29,9 +29,9 @@ public:
   int dpi() const;
 
 private slots:
-  void slotDPIEdited(QString text);
-  void slotWidthEdited(QString text);
-  void slotHeightEdited(QString text);
+  void slotDPIEdited(QString const& text);
+  void slotWidthEdited(QString const& text);
+  void slotHeightEdited(QString const& text);
   void slot_PreView();
   void slotOutputPath();
 

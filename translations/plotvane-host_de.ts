@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Paper</name>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+</context>
+<context>
     <name>SysAdapterUI::ColorButton</name>
     <message>
         <source>Choose Color</source>
@@ -84,7 +91,7 @@
     </message>
     <message>
         <source>Solid</source>
-        <translation>Durchgehend</translation>
+        <translation>Durchgezogen</translation>
     </message>
     <message>
         <source>Dashed</source>
@@ -133,6 +140,10 @@
     <message>
         <source>No fill</source>
         <translation>Keine Füllung</translation>
+    </message>
+    <message>
+        <source>Plain color</source>
+        <translation>Einfarbig</translation>
     </message>
 </context>
 <context>

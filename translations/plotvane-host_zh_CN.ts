@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>Paper</name>
+    <message>
+        <source>Custom</source>
+        <translation>自定义</translation>
+    </message>
+</context>
+<context>
     <name>SysAdapterUI::ColorButton</name>
     <message>
         <source>Choose Color</source>
@@ -84,7 +91,7 @@
     </message>
     <message>
         <source>Solid</source>
-        <translation>实心</translation>
+        <translation>实线</translation>
     </message>
     <message>
         <source>Dashed</source>
@@ -133,6 +140,10 @@
     <message>
         <source>No fill</source>
         <translation>无填充</translation>
+    </message>
+    <message>
+        <source>Plain color</source>
+        <translation>纯色</translation>
     </message>
 </context>
 <context>
