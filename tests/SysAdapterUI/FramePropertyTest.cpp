@@ -52,6 +52,10 @@ Edit color(char const* button, QColor const& wanted) {
   };
 }
 
+bool isFilled(_ptr_t<SymbolBackground> const& part) {
+  return ptr_cast<SimpleFillSymbol>(part->GetFillSymbol())->GetStyle() != SimpleFillStyle::Null;
+}
+
 QColor pixelAtCentre(FramePropertyWidget& widget) {
   QImage const picture = widget.findChild<QWidget*>("preview")->grab().toImage();
   return picture.pixelColor(picture.rect().center());
@@ -84,9 +88,8 @@ private slots:
         [](auto const& widget) { return widget.GetBorder()->GetGap() == -4; });
     row("border rounding", number("spinBox_BorderRounding", 30),
         [](auto const& widget) { return widget.GetBorder()->GetCornerRounding() == 30; });
-    row("background fill", noStyle("comboBox_BackgroundStyle"), [](auto const& widget) {
-      return ptr_cast<SimpleFillSymbol>(widget.GetBackground()->GetFillSymbol())->GetStyle() == SimpleFillStyle::Null;
-    });
+    row("background fill", noStyle("comboBox_BackgroundStyle"),
+        [](auto const& widget) { return !isFilled(widget.GetBackground()); });
     row("background color", color("colorButton_Background", glass),
         [=](auto const& widget) { return widget.GetBackground()->GetFillSymbol()->GetColor() == glass; });
     row("background gap", number("spinBox_BackgroundGap", 6),
@@ -139,22 +142,16 @@ private slots:
     QCOMPARE(changes.count(), 4);
   }
 
-  void aPartWithoutASymbolIsShownAsNoneAndNotAsOne() {
-    auto const border = make<SymbolBorder>();
-    border->SetLineSymbol(nullptr);
-    FramePropertyWidget const widget(border, nullptr, nullptr, nullptr);
-    auto const symbol = ptr_cast<SimpleLineSymbol>(widget.GetBorder()->GetLineSymbol());
-    QCOMPARE(symbol->GetStyle(), SimpleLineStyle::Null);
-    QVERIFY(!border->GetLineSymbol());
-  }
-
   void whatIsNotOfferedIsKept() {
     auto const border = make<SymbolBorder>();
     border->GetLineSymbol()->SetOffset(1.5);
     border->SetCornerRounding(12.345);
-    FramePropertyWidget const widget(border, nullptr, nullptr, nullptr);
+    auto const bare = make<SymbolBackground>();
+    bare->SetFillSymbol(nullptr);
+    FramePropertyWidget const widget(border, bare, nullptr, nullptr);
     QCOMPARE(widget.GetBorder()->GetLineSymbol()->GetOffset(), 1.5);
     QCOMPARE(widget.GetBorder()->GetCornerRounding(), 12.345);
+    QVERIFY2(!isFilled(widget.GetBackground()), "a part without a symbol still draws nothing");
   }
 
   void thePreviewFollows() {
