@@ -151,14 +151,18 @@ private slots:
     QCOMPARE(changes.count(), steps.size());
   }
 
-  void orientationFollowsTheArrowKeys() {
+  void orientationFollowsThePressAndTheArrowKeys() {
     PageSizeTabPage tab(layoutOf("A4", 1), nullptr);
     Person const person(tab);
-    QVERIFY(QTest::qWaitForWindowActive(&tab));
-    person.find<QRadioButton>("radioButton_V")->setFocus();
-    QTest::keyClick(person.find<QRadioButton>("radioButton_V"), Qt::Key_Right);
-    QVERIFY(person.find<QRadioButton>("radioButton_H")->isChecked());
+    auto* const lie = person.find<QRadioButton>("radioButton_H");
+    QTest::mousePress(lie, Qt::LeftButton, {}, {8, 8});
     QCOMPARE(person.width(), QString("29.7"));
+    QTest::mouseRelease(lie, Qt::LeftButton, {}, {8, 8});
+    QVERIFY(QTest::qWaitForWindowActive(&tab));
+    lie->setFocus();
+    QTest::keyClick(lie, Qt::Key_Left);
+    QVERIFY(person.find<QRadioButton>("radioButton_V")->isChecked());
+    QCOMPARE(person.width(), QString("21"));
   }
 
   void thePageTakesWhatTheTabShows_data() {
@@ -231,12 +235,12 @@ private slots:
     auto* const option = person.find<QCheckBox>("checkBox_ScaleMapElements");
     if (option->isChecked() != wanted) person.press("checkBox_ScaleMapElements");
     person.type("lineEdit_PageWidth", width);
-    person.type("lineEdit_PageHeight", "20.0");
+    person.type("lineEdit_PageHeight", "30.0");
     tab.ApplyToPage();
 
-    QVERIFY(moved ? hasCoords(frame, 4.0, 2.0, 24.0, 12.0) : hasCoords(frame, 2.0, 1.0, 12.0, 6.0));
-    // The centre (5, 5) goes to (10, 10); the size stays.
-    QVERIFY(moved ? hasCoords(picture, 9.0, 7.0, 11.0, 13.0) : hasCoords(picture, 4.0, 2.0, 6.0, 8.0));
+    QVERIFY(moved ? hasCoords(frame, 4.0, 3.0, 24.0, 18.0) : hasCoords(frame, 2.0, 1.0, 12.0, 6.0));
+    // The centre (5, 5) goes to (10, 15); the size stays.
+    QVERIFY(moved ? hasCoords(picture, 9.0, 12.0, 11.0, 18.0) : hasCoords(picture, 4.0, 2.0, 6.0, 8.0));
     QVERIFY(frame->IsLocked());
     QVERIFY2(PageSizeTabPage(layout, nullptr).findChild<QCheckBox*>()->isChecked() == wanted,
              "the next tab shows the option as it was left");
