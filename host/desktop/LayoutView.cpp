@@ -58,6 +58,12 @@ void LayoutView::continuePicture() {
   if (layout_) picture_.drawSlice(*layout_, sliceMs);
 }
 
+QRectF LayoutView::placeOfPicture() const {
+  if (!layout_ || !picture_.transformation()) return ViewWidget::placeOfPicture();
+  return (picture_.transformation()->ToDevice().inverted() * layout_->GetDisplayTransformation()->ToDevice())
+      .mapRect(QRectF(picture_.image().rect()));
+}
+
 void LayoutView::paintOver(QPainter& painter) {
   if (layout_) SelectionHandles(*layout_).paint(painter);
 }
@@ -112,19 +118,28 @@ void LayoutView::wheelEvent(QWheelEvent* event) {
   if (event->modifiers() & Qt::ControlModifier)
     zoomAt(event->position().toPoint(), std::pow(zoomPerStep, event->angleDelta().y() / wheelStep));
   else
-    scroll(*event);
+    scrollBy(scrollOf(*event));
   event->accept();
 }
 
-void LayoutView::scroll(QWheelEvent const& event) {
+QPoint LayoutView::scrollOf(QWheelEvent const& event) const {
   QPointF offset = event.pixelDelta();
   if (event.pixelDelta().isNull()) offset = QPointF(event.angleDelta()) * (scrollPerStepPx / wheelStep);
-  if (event.modifiers() & Qt::ShiftModifier) offset = offset.transposed();
+  return (event.modifiers() & Qt::ShiftModifier ? offset.transposed() : offset).toPoint();
+}
+
+// By whole pixels, so that the picture goes along and only what has come into view is painted.
+void LayoutView::scrollBy(QPoint const& offset) {
   double const pixelsPerCm = layout_->GetDisplayTransformation()->ToDevice().m11();
   auto const extent = layout_->GetExtent();
   extent->Offset(-offset.x() / pixelsPerCm, offset.y() / pixelsPerCm);
   layout_->SetExtent(extent);
-  layout_->RedrawAll(true);
+  QPointF const device = QPointF(offset) * devicePixelRatioF();
+  if (isStale() || picture_.image().isNull() || device != device.toPoint()) return layout_->RedrawAll(true);
+  clearOverlay();
+  picture_.scroll(*layout_, device.toPoint());
+  goOn();
+  emit viewChanged();
 }
 
 // What lies under the mouse stays there.
@@ -137,7 +152,9 @@ void LayoutView::zoomAt(QPoint const& position, double factor) {
   extent->PutCoords(nearer(at->GetX(), extent->GetXMin()), nearer(at->GetY(), extent->GetYMin()),
                     nearer(at->GetX(), extent->GetXMax()), nearer(at->GetY(), extent->GetYMax()));
   layout_->SetExtent(extent);
-  layout_->RedrawAll(true);
+  clearOverlay();
+  composeAtRest();
+  emit viewChanged();
 }
 
 void LayoutView::keyPressEvent(QKeyEvent* event) {

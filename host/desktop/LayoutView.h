@@ -27,6 +27,7 @@ protected:
   void composePicture() override;
   void continuePicture() override;
   QImage const& picture() const override { return picture_.image(); }
+  QRectF placeOfPicture() const override;
   void paintOver(QPainter& painter) override;
 
   bool event(QEvent* event) override;
@@ -43,7 +44,8 @@ protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-  void scroll(QWheelEvent const& event);
+  void scrollBy(QPoint const& offset);
+  QPoint scrollOf(QWheelEvent const& event) const;
   void zoomAt(QPoint const& position, double factor);
 
   SysUtility::_ptr_t<SysCarto::PageLayout> layout_;

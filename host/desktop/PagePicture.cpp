@@ -46,17 +46,29 @@ void paintPlaceholder(QPainter& painter, QRectF const& place) {
 }  // namespace
 
 void PagePicture::compose(PageLayout const& layout, double devicePixelRatio) {
-  auto const view = layout.GetDisplayTransformation();
-  QSize const size = view->GetDeviceFrame().size() * devicePixelRatio;
+  QSize const size = layout.GetDisplayTransformation()->GetDeviceFrame().size() * devicePixelRatio;
   if (size.isEmpty()) return;
   if (image_.size() != size) image_ = QImage(size, QImage::Format_ARGB32_Premultiplied);
   devicePixelRatio_ = devicePixelRatio;
-  transformation_ = view->Clone();
-  transformation_->SetDeviceFrame(image_.rect());
-  transformation_->SetPageScale(view->GetPageScale() * devicePixelRatio);
-  transformation_->SetPaintDevice(&image_);
+  followView(layout);
   followMaps(layout);
   paint(layout, image_.rect());
+}
+
+void PagePicture::followView(PageLayout const& layout) {
+  auto const view = layout.GetDisplayTransformation();
+  transformation_ = view->Clone();
+  transformation_->SetDeviceFrame(image_.rect());
+  transformation_->SetPageScale(view->GetPageScale() * devicePixelRatio_);
+  transformation_->SetPaintDevice(&image_);
+}
+
+void PagePicture::scroll(PageLayout const& layout, QPoint const& byPx) {
+  QImage const before = image_.copy();
+  QPainter(&image_).drawImage(byPx, before);
+  followView(layout);
+  followMaps(layout);
+  paint(layout, QRegion(image_.rect()) - image_.rect().translated(byPx));
 }
 
 QPoint PagePicture::cornerOf(MapFrameElement const& frame) const {

@@ -16,19 +16,27 @@ public:
   /// the view's size.
   void compose(SysCarto::PageLayout const& layout, double devicePixelRatio);
 
+  /// Goes with a view that has scrolled: moves the picture by device pixels, and paints what has come into view. For an
+  /// extent that differs from the one composed last by just that.
+  void scroll(SysCarto::PageLayout const& layout, QPoint const& byPx);
+
   /// Draws missing tiles of maps for about `budgetMs` milliseconds, one at least, and paints them. Answers what has
   /// changed in the picture, empty where no tile was missing. The layout must be the one composed last.
   QRegion drawSlice(SysCarto::PageLayout const& layout, int budgetMs);
 
   /// Whether all maps are drawn.
   bool isComplete() const;
-  /// In device pixels.
+  /// In device pixels; null before something was composed.
   QImage const& image() const { return image_; }
+
+  /// The mapping of the picture; empty before something was composed.
+  SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation() const { return transformation_; }
 
   /// How many tiles were drawn since the beginning.
   int drawnTiles() const { return drawnTiles_; }
 
 private:
+  void followView(SysCarto::PageLayout const& layout);
   void followMaps(SysCarto::PageLayout const& layout);
   void paint(SysCarto::PageLayout const& layout, QRegion const& area);
   void paintPage(QPainter& painter, SysCarto::Page& page) const;

@@ -3,6 +3,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+namespace {
+
+constexpr int restMs = 60;
+
+}  // namespace
+
 ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
@@ -12,6 +18,9 @@ ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
     if (isComplete()) slices_.stop();
     update();
   });
+  rest_.setSingleShot(true);
+  rest_.setInterval(restMs);
+  connect(&rest_, &QTimer::timeout, this, [this] { refresh(everything); });
 }
 
 ViewWidget::~ViewWidget() = default;
@@ -47,19 +56,33 @@ void ViewWidget::setCursor(QCursor const& cursor) { QWidget::setCursor(cursor); 
 
 void ViewWidget::paintOver(QPainter&) {}
 
+QRectF ViewWidget::placeOfPicture() const { return {QPointF(), QSizeF(picture().size()) / devicePixelRatioF()}; }
+
+void ViewWidget::composeAtRest() {
+  rest_.start();
+  slices_.stop();
+  update();
+}
+
+// The slices come in turns of their own.
 void ViewWidget::compose() {
   isStale_ = false;
+  rest_.stop();
   composePicture();
-  continuePicture();
+  goOn();
+}
+
+void ViewWidget::goOn() {
   if (!isComplete()) slices_.start(0);
+  update();
 }
 
 void ViewWidget::paintEvent(QPaintEvent*) {
   if (isStale_) compose();
   QPainter painter(this);
-  if (!offset_.isNull() || picture().isNull()) painter.fillRect(rect(), palette().color(QPalette::Mid));
-  QSizeF const size = QSizeF(picture().size()) / devicePixelRatioF();
-  painter.drawImage(QRectF(offset_, size), picture());
+  QRectF const place = placeOfPicture().translated(offset_);
+  if (!place.contains(rect())) painter.fillRect(rect(), palette().color(QPalette::Mid));
+  painter.drawImage(place, picture());
   for (Shape const& shape : shapes_) shape.symbol->Draw(painter, shape.transformation, shape.geometry);
   if (!hasOverlay()) paintOver(painter);
 }

@@ -52,6 +52,16 @@ protected:
   virtual void continuePicture() = 0;
   virtual QImage const& picture() const = 0;
 
+  /// Where the picture belongs in the widget, which may have moved on since it was composed.
+  virtual QRectF placeOfPicture() const;
+
+  /// Composes the picture when nobody has asked for it again for a moment. Until then the one there is stands in.
+  void composeAtRest();
+
+  /// Lets a picture that is not complete grow.
+  void goOn();
+  bool isStale() const { return isStale_; }
+
   /// Painted over the picture while no tool has drawn anything.
   virtual void paintOver(QPainter& painter);
   bool hasOverlay() const { return !shapes_.empty() || !offset_.isNull(); }
@@ -73,4 +83,5 @@ private:
   QPointF offset_;
   bool isStale_ = true;
   QTimer slices_;
+  QTimer rest_;
 };

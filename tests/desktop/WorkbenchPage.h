@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QWheelEvent>
 #include <QtTest>
 
 /// A person at a workbench: a page with elements, and a mouse and keys on its view.
@@ -58,6 +59,12 @@ public:
     if (from != to) mouse(QEvent::MouseMove, (from + to) / 2, modifiers);
     if (from != to) mouse(QEvent::MouseMove, to, modifiers);
     mouse(QEvent::MouseButtonRelease, to, modifiers);
+  }
+
+  void wheel(QPoint const& angle, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QPointF const centre = view().rect().center();
+    QWheelEvent event(centre, centre, QPoint(), angle, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&view(), &event);
   }
 
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { QTest::keyClick(&view(), key, modifiers); }

@@ -36,6 +36,9 @@ private slots:
   void thePictureIsWhatTheElementsDraw();
   void onlyWhatChangesAMapDrawsIt_data();
   void onlyWhatChangesAMapDrawsIt();
+  void scrollingMovesThePictureExactly_data();
+  void scrollingMovesThePictureExactly();
+  void zoomingShowsTheOldPictureUntilTheWheelRests();
   void aDragShowsTheElementsWithoutComposingThem();
   void theViewKeepsItsPlaceWhenTheDocumentIsSaved();
 
@@ -103,6 +106,42 @@ void ViewTest::onlyWhatChangesAMapDrawsIt() {
   if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
   if (what == "hide") page.view().refresh(SysCarto::ViewSurface::everything);
   QCOMPARE(tilesAfter(page) > before, draws);
+}
+
+void ViewTest::scrollingMovesThePictureExactly_data() {
+  QTest::addColumn<QPoint>("angle");
+  QTest::newRow("down") << QPoint(0, -120);
+  QTest::newRow("up and back, a little at a time") << QPoint(0, 30);
+  QTest::newRow("aslant") << QPoint(50, -70);
+}
+
+void ViewTest::scrollingMovesThePictureExactly() {
+  QFETCH(QPoint, angle);
+  WorkbenchPage page;
+  QVERIFY(page.bench.session().open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
+  QVERIFY(page.run("Plotvane_ZoomToOrigin"));
+  tilesAfter(page);
+  for (int i = 0; i < 3; ++i) page.wheel(angle);
+  tilesAfter(page);
+  QImage const scrolled = page.view().grab().toImage();
+  page.view().refresh(SysCarto::ViewSurface::everything);
+  QVERIFY(page.view().grab().toImage() == scrolled);
+}
+
+void ViewTest::zoomingShowsTheOldPictureUntilTheWheelRests() {
+  WorkbenchPage page;
+  page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
+  page.view().grab();
+  QPoint const centre = page.view().rect().center();
+  auto const under = page.layout()->GetDisplayTransformation()->ToMapPoint(centre);
+  double const scale = page.layout()->GetDisplayTransformation()->GetPageScale();
+  page.wheel({0, 120}, Qt::ControlModifier);
+  QCOMPARE(page.layout()->GetDisplayTransformation()->GetPageScale(), scale * 1.25);
+  auto const now = page.layout()->GetDisplayTransformation()->ToMapPoint(centre);
+  QVERIFY(qAbs(now->GetX() - under->GetX()) < 1e-9 && qAbs(now->GetY() - under->GetY()) < 1e-9);
+  QImage const scaled = page.view().grab().toImage();
+  QTest::qWait(200);
+  QVERIFY(page.view().grab().toImage() != scaled);  // sharp now
 }
 
 void ViewTest::aDragShowsTheElementsWithoutComposingThem() {

@@ -1,3 +1,4 @@
+#include "host/SysCarto/layout/GraphicElements.h"
 #include "host/desktop/CommandCatalogue.h"
 #include "host/desktop/DialogAnswers.h"
 #include "host/desktop/Icons.h"
@@ -11,6 +12,7 @@
 #include <QMimeData>
 #include <QSettings>
 #include <QTreeWidget>
+#include <QUndoStack>
 #include <QtTest>
 
 namespace {
@@ -33,6 +35,7 @@ private slots:
   void changesAreNotLostWithoutAQuestion_data();
   void changesAreNotLostWithoutAQuestion();
   void aDroppedDocumentOpens();
+  void aPieceOfRealWork();
   void hidingALayerIsAChangeOfTheDocument();
   void iconsTakeThePalettesColour_data();
   void iconsTakeThePalettesColour();
@@ -145,6 +148,73 @@ void WindowTest::aDroppedDocumentOpens() {
   QApplication::sendEvent(&window, &drop);
   QTRY_COMPARE(window.bench().session().path(), world);
   QVERIFY(window.windowTitle().startsWith("world.kdx"));
+}
+
+// Six boxes on a new page, arranged with mouse and keys as a person would; PLOTVANE_PICTURES names a folder for
+// pictures of the window.
+void WindowTest::aPieceOfRealWork() {
+  MainWindow window;
+  window.resize(1280, 860);
+  window.show();
+  QVERIFY(QTest::qWaitForWindowActive(&window));
+  auto const layout = window.bench().session().document().GetPageLayout();
+  QVector<int> handles;
+  for (int i = 0; i < 6; ++i) {
+    auto const box = SysUtility::make<SysCarto::RectangleElement>();
+    double const x = 2 + i * 2.9, y = 4 + (i * 7) % 17;
+    box->SetGeometry(SysUtility::make<SysGeometry::Envelope>(x, y, x + 1.2 + 0.2 * i, y + 2.6 - 0.2 * i));
+    layout->GetGraphicsContainer()->AddElement(box);
+    handles << box->GetHandle();
+  }
+  auto& view = window.bench().views().layoutView();
+  view.refresh(SysCarto::ViewSurface::everything);
+  QByteArray const start = window.bench().session().document().GetText();
+  auto const picture = [&](char const* name) {
+    for (int i = 0; i < 3; ++i) QTest::qWait(20);
+    QString const folder = qEnvironmentVariable("PLOTVANE_PICTURES");
+    if (!folder.isEmpty()) QVERIFY(window.grab().save(folder + QLatin1Char('/') + name + ".png"));
+  };
+  auto const pixel = [&](double x, double y) { return layout->GetDisplayTransformation()->FromMapPoint(x, y); };
+  auto const boxes = [&] {
+    QVector<QRectF> rectangles;
+    for (auto const& element : layout->GetGraphicsContainer()->GetElements()) {
+      auto const box = element->GetEnvelope();
+      rectangles << QRectF(box->GetXMin(), box->GetYMin(), box->GetWidth(), box->GetHeight());
+    }
+    return rectangles;
+  };
+
+  QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, pixel(0.5, 29));
+  QTest::mouseMove(&view, pixel(10, 10));
+  picture("band");
+  QTest::mouseMove(&view, pixel(20.5, 1));
+  QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, pixel(20.5, 1));
+  QCOMPARE(layout->GetGraphicsContainer()->GetSelectedElementCount(), 6);
+  picture("selected");
+  window.actions().find("Plotvane_MakeSameSizeElements")->trigger();
+  window.actions().find("Plotvane_AlignToMargins")->trigger();
+  QTest::keyClick(&window, Qt::Key_B, Qt::ControlModifier | Qt::AltModifier);  // align bottom
+  window.actions().find("Plotvane_DistributeHorizontallyElements")->trigger();
+  picture("arranged");
+  auto const arranged = boxes();
+  for (QRectF const& box : arranged) QVERIFY(qAbs(box.top()) < 0.05);  // its outline on the page's lower edge
+  for (QRectF const& box : arranged) QCOMPARE(box.size(), arranged[0].size());
+  double const gap = arranged[1].left() - arranged[0].left();
+  for (int i = 2; i < 6; ++i) QVERIFY(qAbs(arranged[i].left() - arranged[i - 1].left() - gap) < 1e-6);
+
+  QPoint const grip = pixel(arranged[0].center().x(), arranged[0].center().y());
+  QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, grip);
+  QTest::mouseMove(&view, grip - QPoint(0, 120));
+  picture("dragging");
+  QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, grip - QPoint(0, 120));
+  QTest::keyClick(&view, Qt::Key_Up, Qt::ShiftModifier);
+  picture("moved");
+  QVERIFY(boxes()[0].top() > 4);
+  QTest::keyClick(&window, Qt::Key_Escape);
+  while (isEnabled(window, "Host_Undo")) QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+  layout->SetAlignToMargins(false);
+  QVERIFY(window.bench().session().document().GetText() == start);
+  window.bench().session().document().history()->setClean();
 }
 
 void WindowTest::hidingALayerIsAChangeOfTheDocument() {

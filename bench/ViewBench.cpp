@@ -1,0 +1,162 @@
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/TextElement.h"
+#include "host/desktop/Session.h"
+#include "host/desktop/Workbench.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QTextStream>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+// What a person waits for at the window: the time of each frame while something moves on the page, and of a command on
+// many elements. Prints rows of a table.
+
+namespace {
+
+constexpr QSize viewSize(1600, 1000);
+constexpr int frames = 240;
+constexpr int manyElements = 1000;
+constexpr double millisecond = 1e6;
+
+class Bench {
+public:
+  explicit Bench(QString const& document) {
+    if (!bench_.session().open(document)) qFatal("%s", qPrintable(bench_.session().problem()));
+    bench_.views().resize(viewSize);
+    bench_.views().QWidget::show();
+  }
+
+  void addElements(int count) {
+    for (int i = 0; i < count; ++i) {
+      double const x = 2 + (i % 40) * 0.9, y = 3 + (i / 40) * 0.85;
+      auto const box =
+          SysUtility::make<SysGeometry::Envelope>(x, y, x + 0.4 + (i % 7) * 0.05, y + 0.3 + (i % 5) * 0.05);
+      SysUtility::_ptr_t<SysCarto::Element> element;
+      if (i % 4 == 3) {
+        auto const text = SysUtility::make<SysCarto::TextElement>();
+        text->setText(QStringLiteral("Text %1").arg(i));
+        element = text;
+      } else if (i % 4 == 2) {
+        element = SysUtility::make<SysCarto::EllipseElement>();
+      } else {
+        element = SysUtility::make<SysCarto::RectangleElement>();
+      }
+      element->SetGeometry(box);
+      container().AddElement(element);
+    }
+    settle();
+  }
+
+  IElementContainer& container() { return *bench_.views().GetPageLayout()->GetGraphicsContainer(); }
+
+  /// Until all maps are drawn; answers how long each turn of the event loop took.
+  QVector<double> settle() {
+    QVector<double> turns;
+    view().refresh(SysCarto::ViewSurface::everything);
+    do {
+      turns << timed([] { QCoreApplication::processEvents(); });
+    } while (!view().isComplete());
+    return turns;
+  }
+
+  void drawAnew(QString const& name) {
+    QVector<double> turns;
+    for (int i = 0; i < 6; ++i) {
+      click(i % 2 ? "Plotvane_ZoomToOrigin" : "Plotvane_ZoomToWhole");
+      turns << settle();
+    }
+    print(name, turns);
+  }
+
+  void click(char const* identifier) { bench_.commands().click(*bench_.commands().find(QLatin1String(identifier))); }
+
+  void drag(QString const& name) {
+    QPoint const middle = view().rect().center();
+    send(QEvent::MouseButtonPress, middle);
+    row(name, [&](int i) { send(QEvent::MouseMove, middle + QPoint(i % 200, std::lround(60 * std::sin(i / 20.0)))); });
+    send(QEvent::MouseButtonRelease, middle);
+    settle();
+  }
+
+  void wheel(QString const& name, Qt::KeyboardModifiers modifiers) {
+    row(name, [&](int i) {
+      int const step = (i / 12) % 2 ? 30 : -30;
+      QWheelEvent event(view().rect().center(), view().rect().center(), QPoint(), QPoint(0, step), Qt::NoButton,
+                        modifiers, Qt::NoScrollPhase, false);
+      QApplication::sendEvent(&view(), &event);
+    });
+    settle();
+  }
+
+  /// One row: each frame is an event and the painting that it asks for.
+  void row(QString const& name, std::function<void(int)> const& step, int count = frames, bool paints = true) {
+    QVector<double> times;
+    for (int i = 0; i < count; ++i)
+      times << timed([&] {
+        step(i);
+        if (paints) QCoreApplication::processEvents();
+      });
+    print(name, times);
+  }
+
+  static void print(QString const& name, QVector<double> times) {
+    std::sort(times.begin(), times.end());
+    QTextStream(stdout) << QStringLiteral("| %1 | %2 | %3 | %4 |\n")
+                               .arg(name)
+                               .arg(times[times.size() / 2], 0, 'f', 2)
+                               .arg(times[times.size() * 95 / 100], 0, 'f', 2)
+                               .arg(times.last(), 0, 'f', 2);
+  }
+
+  LayoutView& view() { return bench_.views().layoutView(); }
+
+private:
+  static double timed(std::function<void()> const& work) {
+    QElapsedTimer clock;
+    clock.start();
+    work();
+    return clock.nsecsElapsed() / millisecond;
+  }
+
+  void send(QEvent::Type type, QPoint const& at) {
+    QMouseEvent event(type, at, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&view(), &event);
+  }
+
+  Workbench bench_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  prepareEnvironment();
+  QApplication application(argc, argv);
+  prepareApplication();
+  QString const document = application.arguments().value(1, QStringLiteral("samples/world.kdx"));
+
+  Bench page(document);
+  page.addElements(200 - page.container().GetElements().size());
+  page.click("Plotvane_Pan");
+  page.drag(QStringLiteral("pan, 200 elements"));
+  page.wheel(QStringLiteral("scroll with the wheel, 200 elements"), Qt::NoModifier);
+  page.wheel(QStringLiteral("zoom with the wheel, 200 elements"), Qt::ControlModifier);
+  page.click("Host_Select");
+  page.drag(QStringLiteral("drag the data frame, 200 elements"));
+  page.click("Host_SelectAll");
+  page.drag(QStringLiteral("drag 200 elements"));
+  page.drawAnew(QStringLiteral("one turn of the event loop while the map is drawn anew"));
+
+  Bench many(document);
+  many.addElements(manyElements);
+  many.click("Host_SelectAll");
+  auto const align = [&](int i) { many.click(i % 2 ? "Plotvane_LeftAlignment" : "Plotvane_TopAlignment"); };
+  many.row(QStringLiteral("align %1 elements").arg(manyElements), align, 20, false);
+  many.row(QStringLiteral("align %1 elements, and paint").arg(manyElements), align, 20);
+  return 0;
+}
