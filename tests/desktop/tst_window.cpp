@@ -184,10 +184,14 @@ void WindowTest::aPieceOfRealWork() {
     return rectangles;
   };
 
+  auto const moveTo = [&view](QPoint const& at) {
+    QMouseEvent move(QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&view, &move);
+  };
   QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, pixel(0.5, 29));
-  QTest::mouseMove(&view, pixel(10, 10));
+  moveTo(pixel(10, 10));
   picture("band");
-  QTest::mouseMove(&view, pixel(20.5, 1));
+  moveTo(pixel(20.5, 1));
   QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, pixel(20.5, 1));
   QCOMPARE(layout->GetGraphicsContainer()->GetSelectedElementCount(), 6);
   picture("selected");
@@ -205,7 +209,7 @@ void WindowTest::aPieceOfRealWork() {
 
   QPoint const grip = pixel(arranged[0].center().x(), arranged[0].center().y());
   QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, grip);
-  QTest::mouseMove(&view, grip - QPoint(0, 120));
+  moveTo(grip - QPoint(0, 120));
   picture("dragging");
   QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, grip - QPoint(0, 120));
   QTest::keyClick(&view, Qt::Key_Up, Qt::ShiftModifier);
