@@ -35,9 +35,9 @@ void LayoutView::setLayout(_ptr_t<PageLayout> const& layout) {
   dragging_ = Qt::NoButton;
   clearOverlay();
   if (layout_) {
-    layout_->GetDisplayTransformation()->SetDeviceFrame(rect());
-    layout_->ZoomToWholePage();
     layout_->setSurface(this);
+    layout_->GetDisplayTransformation()->SetDeviceFrame(rect());
+    return layout_->RedrawAll(true);  // the extent that the layout came with follows the frame
   }
   refresh(everything);
 }

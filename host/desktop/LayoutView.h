@@ -13,7 +13,7 @@ public:
   explicit LayoutView(QWidget* parent);
   ~LayoutView() override;
 
-  /// Shows another layout, whole; an empty pointer shows none.
+  /// Shows another layout with the extent that it has; an empty pointer shows none.
   void setLayout(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout);
   SysUtility::_ptr_t<SysCarto::PageLayout> const& layout() const { return layout_; }
 

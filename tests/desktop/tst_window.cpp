@@ -61,6 +61,7 @@ void WindowTest::statesFollowTheHost() {
   window.show();
   QVERIFY(window.open(world));
   QCoreApplication::processEvents();
+  QVERIFY(!isEnabled(window, "Plotvane_ZoomToPreviousExtent"));
   QVERIFY(!isEnabled(window, "Plotvane_LeftAlignment") && !isEnabled(window, "Host_Undo"));
   window.actions().find("Host_SelectAll")->trigger();
   QVERIFY(isEnabled(window, "Plotvane_LeftAlignment"));
