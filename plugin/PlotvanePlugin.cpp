@@ -8,6 +8,12 @@
 #include "arrange/SameSize.h"
 #include "arrange/StackingOrder.h"
 #include "export/ExportCommand.h"
+#include "insert/AddGridCommand.h"
+#include "insert/AddMapFrameElementTool.h"
+#include "insert/AddNorthArrowCommand.h"
+#include "insert/ChangePageLayout.h"
+#include "insert/ConvertToGraphics.h"
+#include "insert/SurroundInsertion.h"
 #include "navigation/PageExtentCommands.h"
 #include "navigation/PagePanTool.h"
 #include "navigation/PageZoomTools.h"
@@ -36,15 +42,15 @@ constexpr Row rows[] = {
     {"Plotvane_ZoomIn",                         create<PageZoomInTool>},
     {"Plotvane_ZoomOut",                        create<PageZoomOutTool>},
     {"Plotvane_Pan",                            create<PagePanTool>},
-    {"Plotvane_MapFrame",                       nullptr},
-    {"Plotvane_ScaleBar",                       nullptr},
-    {"Plotvane_Legend",                         nullptr},
+    {"Plotvane_MapFrame",                       create<AddMapFrameElementTool>},
+    {"Plotvane_ScaleBar",                       create<AddScaleBarCommand>},
+    {"Plotvane_Legend",                         create<AddLegendCommand>},
     {"Plotvane_ZoomToOrigin",                   create<PageZoomToOrigin>},
     {"Plotvane_ZoomToWhole",                    create<PageFullExtent>},
     {"Plotvane_PageSetting",                    create<PageSettingCommand>},
     {"Plotvane_Export",                         create<ExportCommand>},
-    {"Plotvane_ChangePageLayout",               nullptr},
-    {"Plotvane_NorthArrow",                     nullptr},
+    {"Plotvane_ChangePageLayout",               create<ChangePageLayout>},
+    {"Plotvane_NorthArrow",                     create<AddNorthArrowCommand>},
     {"Plotvane_LeftAlignment",                  create<LeftAlignmentElement>},
     {"Plotvane_RightAlignment",                 create<RightAlignmentElement>},
     {"Plotvane_TopAlignment",                   create<TopAlignmentElement>},
@@ -56,7 +62,7 @@ constexpr Row rows[] = {
     {"Plotvane_BringForwardElements",           create<BringForwardElements>},
     {"Plotvane_SendToBackElements",             create<SendToBackElements>},
     {"Plotvane_SendBackwardElements",           create<SendBackwardElements>},
-    {"Plotvane_ConvertToGraphics",              nullptr},
+    {"Plotvane_ConvertToGraphics",              create<ConvertToGraphics>},
     {"Plotvane_DistributeHorizontallyElements", create<DistributeHorizontallyElements>},
     {"Plotvane_DistributeVerticallyElements",   create<DistributeVerticallyElements>},
     {"Plotvane_MakeSameSizeElements",           create<MakeSameSizeElements>},
@@ -67,8 +73,8 @@ constexpr Row rows[] = {
     {"Plotvane_FitHeighttoMarginsElements",     create<FitHeighttoMarginsElements>},
     {"Plotvane_LockDataFrame",                  create<LockDataFrame>},
     {"Plotvane_UnlockDataFrame",                create<UnlockDataFrame>},
-    {"Plotvane_ScaleText",                      nullptr},
-    {"Plotvane_Grid",                           nullptr},
+    {"Plotvane_ScaleText",                      create<AddScaleTextCommand>},
+    {"Plotvane_Grid",                           create<AddGridCommand>},
     {"Plotvane_ZoomToPreviousExtent",           create<ZoomToPreviousExtentCommand>},
     {"Plotvane_ZoomToNextExtent",               create<ZoomToNextExtentCommand>},
 };

@@ -1,0 +1,83 @@
+#include "ChangePageLayout.h"
+
+#include "LayoutCommand.h"
+
+#include <SysAdapterUI/TOCControl.h>
+#include <SysCarto/Map.h>
+#include <SysCarto/MapDocument.h>
+#include <SysFramework/HostAccess.h>
+
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QFileDialog>
+#include <QMessageBox>
+
+using SysCarto::IKdxContents;
+using SysCarto::Map;
+using SysCarto::MapDocument;
+using SysCarto::PageLayout;
+using SysUtility::_ptr_t;
+
+namespace Plugin {
+
+namespace {
+
+QString translated(char const* text) { return QCoreApplication::translate("OpenProjectCommand", text); }
+
+QString chosenFile() {
+  return QFileDialog::getOpenFileName(QApplication::desktop(), translated("Open"), QString(),
+                                      translated("kdx File(*.kdx)"));
+}
+
+// Opens the document whose layout is to be taken over. Why one can't be is for those who look at the program's
+// messages; the box says only that it is so.
+bool openTemplate(MapDocument& document, QString const& file) {
+  bool const opened = document.Open(file);
+  for (QString const& error : document.GetErrors()) qWarning("%s", qUtf8Printable(error));
+  if (!opened) return false;
+  if (document.GetPageLayout()->GetPage()) return true;
+  qWarning("%s: the document has no page; choose one that has a page", qUtf8Printable(file));
+  return false;
+}
+
+void install(_ptr_t<PageLayout> const& layout, IKdxContents& contents, IDesktop& desktop, PageLayout const& old) {
+  contents.SetPageLayout(layout);
+  if (auto const site = desktop.GetContentsSite()) site->SetContents(&contents);
+  if (auto* const tableOfContents = desktop.GetTOCControl()) tableOfContents->SetBuddy(&contents);
+  auto const shown = contents.GetPageLayout();
+  shown->GetDisplayTransformation()->SetDeviceFrame(old.GetDisplayTransformation()->GetDeviceFrame());
+  shown->Refresh(0, false);
+}
+
+}  // namespace
+
+bool ChangePageLayout::IsEnable() {
+  enabled_ = static_cast<bool>(SysFramework::activePageLayout(*hook()));
+  return enabled_;
+}
+
+void ChangePageLayout::OnClick() {
+  auto const old = SysFramework::activePageLayout(*hook());
+  if (!old || !desktop_) return;
+  desktop_->GetMapDocument();
+  IKdxContents* const contents = desktop_->GetActiveContents();
+  auto const current = contents ? contents->GetPageLayout() : nullptr;
+  if (!current) return;
+  QList<_ptr_t<Map>> maps;
+  current->GetMaps(maps);
+  current->Deactivate();
+
+  MapDocument templateDocument;
+  QString const file = chosenFile();
+  if (file.isEmpty()) return;
+  if (!openTemplate(templateDocument, file)) {
+    QMessageBox::critical(dialogParent(*hook()), translated("Error"), translated("Open File Failed!"), QMessageBox::Ok,
+                          QMessageBox::Ok);
+    return;
+  }
+  auto const layout = templateDocument.GetPageLayout();
+  layout->ReplaceMaps(maps);
+  install(layout, *contents, *desktop_, *old);
+}
+
+}  // namespace Plugin

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "LayoutHook.h"
+#include "host/SysCarto/layout/ViewSurface.h"
+
+#include <SysAdapterUI/PageLayoutControl.h>
+#include <SysFramework/IDesktop.h>
+
+#include <QApplication>
+#include <QStringList>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+/// Notes in which order a command asks for what. Each entry may add what it saw then.
+using CallLog = QStringList;
+
+class LoggedSurface final : public SysCarto::ViewSurface {
+public:
+  explicit LoggedSurface(CallLog& log) : log_(log) {}
+  void beginTracker() override {}
+  void endTracker() override {}
+  void trackerOffset(double, double) override {}
+  void trackerShape(SysDisplay::Symbol const&, SysUtility::_ptr_t<SysGeometry::Geometry> const&,
+                    SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const&) override {}
+  void refresh(int phase) override { log_ << QStringLiteral("refresh %1").arg(phase); }
+  void clearOverlay() override { log_ << QStringLiteral("clear overlay"); }
+  void setCursor(QCursor const&) override {}
+
+private:
+  CallLog& log_;
+};
+
+/// A control that shows a layout, with a companion.
+class LoggedContents final : public QWidget, public SysAdapterUI::PageLayoutControl, public SysAdapterUI::ICompanion {
+public:
+  explicit LoggedContents(CallLog& log) : log_(log) {}
+
+  SysUtility::_ptr_t<SysCarto::PageLayout> GetPageLayout() const override { return layout; }
+  void SetPageLayout(SysUtility::_ptr_t<SysCarto::PageLayout> const& next) override {
+    log_ << QStringLiteral("set layout");
+    layout = next;
+    layout->setSurface(surface);
+  }
+  SysAdapterUI::ICompanion* GetCompanion() override { return this; }
+  void SetBuddy(SysCarto::IKdxContents* contents) override {
+    log_ << (contents == this ? QStringLiteral("companion") : QStringLiteral("companion of another"));
+    if (onCompanion) onCompanion();
+  }
+
+  SysUtility::_ptr_t<SysCarto::PageLayout> layout;
+  SysCarto::ViewSurface* surface = nullptr;
+  std::function<void()> onCompanion;
+
+private:
+  CallLog& log_;
+};
+
+/// Does something with the dialog that is going to be shown, as a person would.
+inline void answerDialog(std::function<void(QWidget&)> const& answer) {
+  QTimer::singleShot(0, [answer] {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog) return answer(*dialog);
+    answerDialog(answer);
+  });
+}

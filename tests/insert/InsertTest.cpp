@@ -1,0 +1,481 @@
+#include "InsertDesktop.h"
+#include "insert/AddGridCommand.h"
+#include "insert/AddMapFrameElementTool.h"
+#include "insert/AddNorthArrowCommand.h"
+#include "insert/ConvertToGraphics.h"
+#include "insert/SurroundInsertion.h"
+
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/TextElement.h"
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
+#include "host/SysDisplay/StyleLibrary.h"
+
+#include <SysAdapterUI/StyleSelectorDlg.h>
+#include <SysCarto/Graticule.h>
+#include <SysCarto/GroupElement.h>
+#include <SysCarto/MapSurroundFrame.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+#include <SysUI/EnvironmentSetting.h>
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using Create = SysFramework::BaseCommand* (*)();
+using Place = SysUtility::_ptr_t<SysGeometry::Envelope> (SysCarto::PageLayout::*)() const;
+Q_DECLARE_METATYPE(Create)
+Q_DECLARE_METATYPE(Place)
+
+using namespace Plugin;
+using namespace SysCarto;
+using SysFramework::BaseCommand;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+using SysUI::EnvironmentSetting;
+
+namespace {
+
+class InsertHook final : public LayoutHook {
+public:
+  using LayoutHook::LayoutHook;
+  IKdxContents* GetContents() override { return contents; }
+  IKdxContents* contents = nullptr;
+};
+
+// A surround of another kind, which answers nothing, one or several elements.
+class ForeignSurround final : public MapSurround {
+public:
+  ForeignSurround(int kind, int count) : MapSurround(kind), count_(count) {}
+  QList<_ptr_t<Element>> GetElements() override {
+    QList<_ptr_t<Element>> elements;
+    for (int i = 0; i < count_; ++i) elements << make<MarkerElement>();
+    return elements;
+  }
+  _ptr_t<MapSurround> Clone() const override { return make<ForeignSurround>(*this); }
+
+private:
+  int count_;
+};
+
+class OtherGrid final : public IMapGrid {
+public:
+  QString GetName() const override { return QStringLiteral("Other"); }
+  void SetName(QString const&) override {}
+  void Draw(QPainter&, _ptr_t<SysUI::TrackerCancel> const&, _ptr_t<SysDisplay::DisplayTransformation> const&,
+            _ptr_t<MapFrameElement> const&) override {}
+  double GetMargin() const override { return 0; }
+  _ptr_t<IMapGrid> Clone() const override { return make<OtherGrid>(*this); }
+};
+
+bool isSame(Envelope const& a, Envelope const& b) {
+  return a.GetXMin() == b.GetXMin() && a.GetYMin() == b.GetYMin() && a.GetXMax() == b.GetXMax() &&
+         a.GetYMax() == b.GetYMax();
+}
+
+_ptr_t<MapFrameElement> frameNamed(QString const& mapName) {
+  auto const frame = make<MapFrameElement>();
+  frame->GetMap()->SetName(mapName);
+  return frame;
+}
+
+QStringList gridNames(MapFrameElement const& frame) {
+  QStringList names;
+  for (int i = 0; i < frame.GetMapGridCount(); ++i) names << frame.GetMapGrid(i)->GetName();
+  return names;
+}
+
+}  // namespace
+
+class InsertTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init() {
+    log_.clear();
+    hook_ = make<InsertHook>(emptyLayout(20, 30));
+    surface_ = std::make_unique<LoggedSurface>(log_);
+    layout()->setSurface(surface_.get());
+    qputenv("PLOTVANE_SETTINGS", folder_.filePath("settings.ini").toUtf8());
+    qputenv("PLOTVANE_STYLE_DIR", folder_.path().toUtf8());
+    QFile::remove(folder_.filePath("settings.ini"));
+    QFile::remove(folder_.filePath("ORV.style"));
+  }
+
+  void cleanup() {
+    layout()->setSurface(nullptr);
+    hook_ = nullptr;
+  }
+
+  // First of all tests that add data frames: the offset belongs to the process.
+  void framesCascadeByTwoUpToThirty() {
+    AddMapFrameElementTool command;
+    command.OnCreate(hook_->pointer());
+    auto const expected = layout()->GetDefaultDataFrameEnvelope();
+    for (int click = 1; click <= 17; ++click) {
+      AddMapFrameElementTool other;  // another instance goes on where this one stopped
+      other.OnCreate(hook_->pointer());
+      (click % 2 ? command : other).OnClick();
+      int const offset = click == 16 ? 0 : click == 17 ? 2 : 2 * click;
+      auto const shifted = layout()->GetDefaultDataFrameEnvelope();
+      shifted->Offset(offset, offset);
+      QVERIFY2(isSame(*elements().last()->GetEnvelope(), *shifted), qPrintable(QString::number(click)));
+    }
+    QVERIFY(isSame(*layout()->GetDefaultDataFrameEnvelope(), *expected));
+  }
+
+  void aNewMapTakesTheFirstFreeName_data() {
+    QTest::addColumn<QStringList>("present");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("the first") << QStringList() << "Map1";
+    QTest::newRow("a gap") << QStringList{"Map1", "Map3"} << "Map2";
+    QTest::newRow("letters count as they are") << QStringList{"Map1", "map2"} << "Map2";
+    QTest::newRow("no leading zeros") << QStringList{"Map01"} << "Map1";
+    QStringList all;
+    for (int i = 1; i <= 999; ++i) all << QString("Map%1").arg(i);
+    QTest::newRow("none is free") << all << "Map999";
+  }
+
+  void aNewMapTakesTheFirstFreeName() {
+    QFETCH(QStringList, present);
+    QFETCH(QString, name);
+    for (QString const& one : present) container()->AddElement(frameNamed(one));
+    click<AddMapFrameElementTool>();
+    QCOMPARE(ptr_cast<MapFrameElement>(elements().last())->GetMap()->GetName(), name);
+  }
+
+  void aNewFrameHasNameAndFocusBeforeTheCompanionHearsOfIt() {
+    LoggedContents contents(log_);
+    auto const held = SysUtility::retain(&contents);  // the test owns the widget: no reference may be the last one
+    contents.layout = layout();
+    hook_->contents = &contents;
+    auto const other = frameNamed("Map1");
+    container()->AddElement(other);
+    container()->SelectElement(other);
+    contents.onCompanion = [this] {
+      QCOMPARE(hook_->history.count(), 1);
+      QCOMPARE(layout()->GetFocusMap()->GetName(), QString("Map2"));
+    };
+    click<AddMapFrameElementTool>();
+    QCOMPARE(log_, CallLog({"companion", "refresh 255"}));
+    QCOMPARE(hook_->history.undoText(), QString("Add Data Frame"));
+    QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>{other});
+    hook_->history.undo();
+    QCOMPARE(elements(), QList<_ptr_t<Element>>{other});
+    hook_->contents = nullptr;
+  }
+
+  void aSurroundIsAddedAtItsPlaceAndSelectedAlone_data() {
+    QTest::addColumn<Create>("create");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<Place>("place");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("legend") << created<AddLegendCommand>() << 1 << Place(&PageLayout::GetDefaultLegendEnvelope)
+                            << "Add a legend";
+    QTest::newRow("scale bar") << created<AddScaleBarCommand>() << 2 << Place(&PageLayout::GetDefaultScaleBarEnvelope)
+                               << "Add a scale bar";
+    QTest::newRow("scale text") << created<AddScaleTextCommand>() << 3
+                                << Place(&PageLayout::GetDefaultScaleTextEnvelope)
+                                << "Add a text of description of the scale";
+  }
+
+  void aSurroundIsAddedAtItsPlaceAndSelectedAlone() {
+    QFETCH(Create, create);
+    QFETCH(int, kind);
+    QFETCH(Place, place);
+    QFETCH(QString, name);
+    _ptr_t<BaseCommand> const command(create());
+    command->OnCreate(hook_->pointer());
+    auto const first = frameNamed("First"), focus = frameNamed("Focus");
+    container()->AddElements({first, focus});
+    container()->SelectElement(first);
+    layout()->SetFocusMap(focus->GetMap());
+    command->OnClick();
+    QCOMPARE(elements().size(), 3);
+    auto const frame = ptr_cast<MapSurroundFrame>(elements().last());
+    QVERIFY(frame && frame->GetMapSurround());
+    QCOMPARE(frame->GetMapSurround()->kind, kind);
+    QVERIFY(frame->GetMapSurround()->GetMap() == focus->GetMap());
+    QVERIFY(isSame(*frame->GetEnvelope(), *(layout().get()->*place)()));
+    QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>{frame});
+    QCOMPARE(hook_->history.undoText(), name);
+    QCOMPARE(log_, CallLog{"refresh 8"});
+    hook_->history.undo();
+    QCOMPARE(elements().size(), 2);
+  }
+
+  void aSurroundOfNoMapIsAddedUnbound() {
+    click<AddLegendCommand>();
+    click<AddScaleTextCommand>();
+    QCOMPARE(elements().size(), 2);
+    for (auto const& element : elements()) QVERIFY(!ptr_cast<MapSurroundFrame>(element)->GetMapSurround()->GetMap());
+  }
+
+  void onlyTheLayoutViewEnablesInsertion_data() {
+    QTest::addColumn<Create>("create");
+    QTest::newRow("data frame") << created<AddMapFrameElementTool>();
+    QTest::newRow("legend") << created<AddLegendCommand>();
+    QTest::newRow("north arrow") << created<AddNorthArrowCommand>();
+    QTest::newRow("grid") << created<AddGridCommand>();
+  }
+
+  void onlyTheLayoutViewEnablesInsertion() {
+    QFETCH(Create, create);
+    _ptr_t<BaseCommand> const command(create());
+    command->OnCreate(hook_->pointer());
+    QVERIFY(command->IsEnable());
+    for (auto const& view : {_ptr_t<ActiveView>(make<Map>()), _ptr_t<ActiveView>()}) {
+      hook_->view = view;
+      QVERIFY(!command->IsEnable());
+      if (!dynamic_cast<AddMapFrameElementTool*>(command.get())) command->OnClick();
+    }
+    QCOMPARE(elements().size(), 0);
+    QCOMPARE(hook_->history.count(), 0);
+  }
+
+  void theLibrariesAreSearchedInTheirOrder_data() {
+    QTest::addColumn<QString>("setting");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<double>("size");  // of the arrow that is inserted; 0 for a new one's own
+    QTest::newRow("one that exists among empty parts and missing files") << "@/a.style,,@/b.style"
+                                                                         << "@/a.style,,@/b.style" << 22.0;
+    QTest::newRow("the first that has an arrow") << "@/none.style,@/c.style,@/b.style"
+                                                 << "@/none.style,@/c.style,@/b.style" << 33.0;
+    QTest::newRow("missing files alone are replaced") << "@/x.style,@/y.style"
+                                                      << "@/ORV.style" << 11.0;
+    QTest::newRow("an empty setting is replaced") << ""
+                                                  << "@/ORV.style" << 11.0;
+    QTest::newRow("blanks are part of a name") << " @/b.style"
+                                               << "@/ORV.style" << 11.0;
+  }
+
+  void theLibrariesAreSearchedInTheirOrder() {
+    QFETCH(QString, setting);
+    QFETCH(QString, after);
+    QFETCH(double, size);
+    writeLibrary("ORV.style", "NorthArrows", 11);
+    writeLibrary("b.style", "NorthArrows", 22);
+    writeLibrary("c.style", "NorthArrows", 33);
+    writeLibrary("none.style", "Markers", 44);
+    setPaths(setting);
+    answerDialog([](QWidget& dialog) {
+      QCOMPARE(dialog.windowTitle(), QString("North Arrow Properties"));
+      static_cast<QDialog&>(dialog).accept();
+    });
+    auto const frame = frameNamed("Map1");
+    container()->AddElement(frame);
+    click<AddNorthArrowCommand>();
+    QCOMPARE(paths(), after.replace('@', folder_.path()));
+    auto const arrow = ptr_cast<MarkerNorthArrow>(ptr_cast<MapSurroundFrame>(elements().last())->GetMapSurround());
+    QVERIFY(arrow);
+    QCOMPARE(arrow->GetMarkerSymbol()->GetSize(), size);
+    QVERIFY(arrow->GetMap() == frame->GetMap());
+    QVERIFY(isSame(*elements().last()->GetEnvelope(), *layout()->GetDefaultNorthArrowEnvelope()));
+    QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>{elements().last()});
+    QCOMPARE(hook_->history.count(), 1);
+    QCOMPARE(log_, CallLog{"refresh 8"});
+    hook_->history.undo();
+    QCOMPARE(elements(), QList<_ptr_t<Element>>{frame});
+  }
+
+  void aCancelledChoiceInsertsNothingButKeepsTheRepair() {
+    setPaths("/missing.style");
+    QString before;
+    answerDialog([&](QWidget& dialog) {
+      before = paths();  // repaired before anybody is asked
+      static_cast<QDialog&>(dialog).reject();
+    });
+    click<AddNorthArrowCommand>();
+    QCOMPARE(before, folder_.filePath("ORV.style"));
+    QCOMPARE(paths(), before);
+    QCOMPARE(elements().size(), 0);
+    QCOMPARE(hook_->history.count(), 0);
+    QCOMPARE(log_, CallLog());
+  }
+
+  void withoutALibraryAnArrowKeepsItsOwnSymbol() {
+    answerDialog([](QWidget& dialog) { static_cast<QDialog&>(dialog).accept(); });
+    click<AddNorthArrowCommand>();
+    QCOMPARE(elements().size(), 1);
+    auto const surround = ptr_cast<MapSurroundFrame>(elements().last())->GetMapSurround();
+    QVERIFY(ptr_cast<MarkerNorthArrow>(surround)->GetMarkerSymbol());
+  }
+
+  void aGridGoesIntoTheFirstDataFrame() {
+    auto const first = frameNamed("First"), focus = frameNamed("Focus");
+    container()->AddElements({make<MarkerElement>(), first, focus});
+    layout()->SetFocusMap(focus->GetMap());
+    first->AddMapGrid(make<OtherGrid>());  // gets no question
+    click<AddGridCommand>();
+    QCOMPARE(gridNames(*ptr_cast<MapFrameElement>(elements()[1])), QStringList({"Other", "Graticule"}));
+    QCOMPARE(gridNames(*focus), QStringList());
+    QCOMPARE(gridNames(*first), QStringList("Other"));
+    QCOMPARE(hook_->history.undoText(), QString("Add a grid"));
+    QCOMPARE(log_, CallLog{"refresh 255"});
+    hook_->history.undo();
+    QVERIFY(elements()[1] == first);
+  }
+
+  void aGridIsNamedAfterTheLastGraticule_data() {
+    QTest::addColumn<QStringList>("present");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("the first of the series") << QStringList{"Graticule"} << "Graticule1";
+    QTest::newRow("further on") << QStringList{"Graticule", "Graticule1"} << "Graticule2";
+    QTest::newRow("the last one counts") << QStringList{"Graticule7", "Graticule1"} << "Graticule2";
+    QTest::newRow("a name of one's own") << QStringList{"MyGrid"} << "Graticule1";
+    QTest::newRow("nine letters, whatever they are") << QStringList{"MyGrid---12"} << "Graticule13";
+    QTest::newRow("minus one begins again") << QStringList{"Graticule-1"} << "Graticule";
+    QTest::newRow("minus five goes up") << QStringList{"Graticule-5"} << "Graticule-4";
+  }
+
+  void aGridIsNamedAfterTheLastGraticule() {
+    QFETCH(QStringList, present);
+    QFETCH(QString, name);
+    addFrameWithGraticules(present);
+    answerQuestion(QMessageBox::Yes);
+    click<AddGridCommand>();
+    QCOMPARE(gridNames(*ptr_cast<MapFrameElement>(elements()[0])).last(), name);
+    QCOMPARE(questions_, 1);
+  }
+
+  void aNoChangesNothingAndDrawsNothing() {
+    addFrameWithGraticules({"Graticule"});
+    answerQuestion(QMessageBox::No);
+    click<AddGridCommand>();
+    QCOMPARE(gridNames(*ptr_cast<MapFrameElement>(elements()[0])), QStringList{"Graticule"});
+    QCOMPARE(hook_->history.count(), 0);
+    QCOMPARE(log_, CallLog());
+  }
+
+  void withoutADataFrameTheViewIsDrawnAllTheSame() {
+    click<AddGridCommand>();
+    QCOMPARE(log_, CallLog{"refresh 255"});
+    QCOMPARE(hook_->history.count(), 0);
+  }
+
+  void selectedSurroundsBecomeGraphics() {
+    auto const text = make<TextElement>();
+    auto const several = surround(1, 5), one = surround(9, 1), unknown = surround(4, 3);
+    container()->AddElements({text, several, one, unknown});
+    for (auto const& element : elements()) container()->SelectElement(element);
+    click<ConvertToGraphics>();
+    auto const now = elements();
+    QCOMPARE(now.size(), 4);
+    QVERIFY(now[0] == text && now[1] == unknown);
+    QCOMPARE(ptr_cast<GroupElement>(now[2])->GetElements().size(), 5);
+    QCOMPARE(now[3]->GetType(), 1);
+    QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>({text, unknown, now[2], now[3]}));
+    QCOMPARE(hook_->history.undoText(), QString("ConvertToGraphics"));
+    QCOMPARE(log_, CallLog({"clear overlay", "refresh 255"}));
+    hook_->history.undo();
+    QCOMPARE(elements(), QList<_ptr_t<Element>>({text, several, one, unknown}));
+  }
+
+  void anEmptyAnswerEndsTheConversion() {
+    auto const before = surround(1, 2), empty = surround(2, 0), after = surround(3, 2);
+    container()->AddElements({before, empty, after});
+    for (auto const& element : elements()) container()->SelectElement(element);
+    click<ConvertToGraphics>();
+    QCOMPARE(elements().size(), 3);
+    QVERIFY(elements()[0] == empty && elements()[1] == after);
+    QCOMPARE(log_, CallLog({"clear overlay", "refresh 255"}));
+    container()->AddElement(make<MarkerElement>());
+    QCOMPARE(hook_->history.count(), 1);  // the operation is closed
+  }
+
+  void conversionIsForConvertibleKinds_data() {
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("convertible");
+    for (int kind : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11})
+      QTest::newRow(qPrintable(QString("kind %1").arg(kind)))
+          << kind << (kind > 0 && kind < 10 && kind != 4 && kind != 5);
+  }
+
+  void conversionIsForConvertibleKinds() {
+    QFETCH(int, kind);
+    QFETCH(bool, convertible);
+    ConvertToGraphics command;
+    command.OnCreate(hook_->pointer());
+    QVERIFY(!command.IsEnable());
+    command.OnClick();
+    QCOMPARE(log_, CallLog());
+    auto const text = make<TextElement>();
+    container()->AddElements({text, surround(kind, 1)});
+    container()->SelectElement(text);
+    QVERIFY(!command.IsEnable());
+    container()->SelectElement(elements().last());
+    QCOMPARE(command.IsEnable(), convertible);
+  }
+
+private:
+  _ptr_t<PageLayout> layout() const { return hook_->layout; }
+  IElementContainer* container() const { return layout()->GetGraphicsContainer(); }
+  QList<_ptr_t<Element>> elements() const { return container()->GetElements(); }
+
+  template <class Command>
+  void click() {
+    Command command;
+    command.OnCreate(hook_->pointer());
+    command.OnClick();
+  }
+
+  template <class Command>
+  static Create created() {
+    return [] { return static_cast<BaseCommand*>(new Command); };
+  }
+
+  static _ptr_t<MapSurroundFrame> surround(int kind, int elements) {
+    auto const frame = make<MapSurroundFrame>();
+    frame->SetMapSurround(make<ForeignSurround>(kind, elements));
+    return frame;
+  }
+
+  void addFrameWithGraticules(QStringList const& names) {
+    auto const frame = frameNamed("Map1");
+    for (QString const& name : names) {
+      auto const grid = make<Graticule>();
+      grid->SetName(name);
+      frame->AddMapGrid(grid);
+    }
+    container()->AddElement(frame);
+  }
+
+  void answerQuestion(QMessageBox::StandardButton button) {
+    questions_ = 0;
+    answerDialog([=](QWidget& dialog) {
+      auto& box = dynamic_cast<QMessageBox&>(dialog);
+      ++questions_;
+      QCOMPARE(box.windowTitle(), QString("Grid"));
+      QCOMPARE(box.text(), QString("Grid already exists, continue to add new grid?"));
+      QCOMPARE(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+      box.button(button)->click();
+    });
+  }
+
+  void writeLibrary(QString const& name, QString const& category, double size) {
+    SysDisplay::StyleLibrary library;
+    auto const marker = make<SysDisplay::SimpleMarkerSymbol>();
+    marker->SetSize(size);
+    library.categories << SysDisplay::StyleCategory{category, {{QStringLiteral("Arrow"), marker}}};
+    QCOMPARE(SysDisplay::writeStyleLibrary(folder_.filePath(name), library), QString());
+  }
+
+  void setPaths(QString value) {
+    EnvironmentSetting::Instance()->SetPropertyValue("PATH", "StyleFilePaths", value.replace('@', folder_.path()));
+  }
+  static QString paths() { return EnvironmentSetting::Instance()->GetPropertyValue("PATH", "StyleFilePaths"); }
+
+  QTemporaryDir folder_;
+  CallLog log_;
+  _ptr_t<InsertHook> hook_;
+  std::unique_ptr<LoggedSurface> surface_;
+  int questions_ = 0;
+};
+
+QTEST_MAIN(InsertTest)
+#include "InsertTest.moc"
