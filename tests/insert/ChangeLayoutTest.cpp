@@ -111,6 +111,29 @@ private slots:
     QCOMPARE(tree->topLevelItem(0)->text(0), QString("Alpha"));
   }
 
+  void theShippedTemplatesExplainTheFirstMap_data() {
+    QTest::addColumn<QString>("file");
+    QTest::newRow("report") << "a4-report.kdx";
+    QTest::newRow("poster") << "a3-poster.kdx";
+  }
+
+  void theShippedTemplatesExplainTheFirstMap() {
+    QFETCH(QString, file);
+    QList<_ptr_t<Map>> maps;
+    old_->GetMaps(maps);
+    choose(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/templates/") + file);
+    click();
+    QVERIFY(contents_->layout != old_);
+    QSet<int> kinds;
+    for (auto const& element : contents_->layout->GetGraphicsContainer()->GetElements()) {
+      auto const frame = ptr_cast<MapSurroundFrame>(element);
+      if (!frame) continue;
+      QVERIFY(frame->GetMapSurround()->GetMap() == maps[0]);
+      kinds << frame->GetMapSurround()->kind;
+    }
+    QCOMPARE(kinds, QSet<int>({1, 2, 3, 6}));
+  }
+
   void theTemplatesOwnDataNeedNotBeThere() {
     choose(writeFile("lost.kdx", R"({"format":"plotvane-document","version":1,"page":{"form":"A4"},"maps":[{"name":"M",
       "bounds":[0,0,1,1],"layers":[{"type":"feature","name":"L","source":{"file":"absent.gpkg"},

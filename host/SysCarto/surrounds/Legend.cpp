@@ -48,7 +48,8 @@ struct Legend::Private {
     if (classes.size() > 1) rows << LegendRow{shortened(layer.GetName()), nullptr, LegendRow::Heading};
     for (LegendClass const& one : classes) {
       QString const otherwise = classes.size() > 1 ? translated("Other") : layer.GetName();
-      rows << LegendRow{shortened(one.label.isEmpty() ? otherwise : one.label), one.symbol, LegendRow::Entry};
+      rows << LegendRow{shortened(one.label.isEmpty() ? otherwise : one.label), one.symbol,
+                        classes.size() > 1 ? LegendRow::Class : LegendRow::Layer};
     }
   }
 };

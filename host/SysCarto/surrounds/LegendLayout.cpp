@@ -37,6 +37,14 @@ double heightOf(_ptr_t<Symbol> const& symbol) {
 
 LegendLayout::LegendLayout(LegendLettering lettering) : lettering_(std::move(lettering)) {}
 
+// Layers that have classes stand apart from what is above and below them.
+double LegendLayout::spaceAbove(QVector<LegendRow> const& rows, int row) {
+  bool const followsClasses = row > 0 && rows[row - 1].kind == LegendRow::Class;
+  bool const standsApart =
+      rows[row].kind == LegendRow::Heading || (rows[row].kind == LegendRow::Layer && followsClasses);
+  return standsApart ? layerGap : rowGap;
+}
+
 void LegendLayout::measure(QString const& title, QVector<LegendRow> const& rows) {
   QRectF const titleBounds = lettering_.title->bounds(title);
   titleWidth_ = titleBounds.width();
@@ -46,11 +54,8 @@ void LegendLayout::measure(QString const& title, QVector<LegendRow> const& rows)
     LegendRow const& row = rows[i];
     bool const isHeading = row.kind == LegendRow::Heading;
     QRectF const text = (isHeading ? lettering_.heading : lettering_.label)->bounds(row.text);
-    bool const startsLayer = isHeading && i > 0;
-    if (isHeading)
-      sizes_ << Measured{text.height(), text.width(), startsLayer ? layerGap : rowGap};
-    else
-      sizes_ << Measured{std::max(text.height(), heightOf(row.symbol)), patchWidth + patchGap + text.width(), rowGap};
+    double const height = isHeading ? text.height() : std::max(text.height(), heightOf(row.symbol));
+    sizes_ << Measured{height, text.width() + (isHeading ? 0 : patchWidth + patchGap), spaceAbove(rows, i)};
   }
 }
 

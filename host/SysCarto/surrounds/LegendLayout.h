@@ -10,11 +10,11 @@
 
 namespace SysCarto {
 
-/// A line of a legend: the name of a layer above its classes, or a symbol with what it stands for.
+/// A line of a legend: the name of a layer above its classes, one of these, or a layer that has none.
 struct LegendRow {
-  enum Kind { Heading, Entry };
+  enum Kind { Heading, Class, Layer };
   QString text;
-  SysUtility::_ptr_t<SysDisplay::Symbol> symbol;  ///< of an entry; may be empty
+  SysUtility::_ptr_t<SysDisplay::Symbol> symbol;  ///< none for a heading
   Kind kind;
 };
 
@@ -44,6 +44,7 @@ private:
     double width, height, factor;
   };
 
+  static double spaceAbove(QVector<LegendRow> const& rows, int row);
   void measure(QString const& title, QVector<LegendRow> const& rows);
   QVector<Column> columnsOf(QVector<LegendRow> const& rows, double mostHeight) const;
   Arrangement arrange(QVector<LegendRow> const& rows, int columns, SysGeometry::Envelope const& area) const;
