@@ -60,7 +60,7 @@ QString AddGridCommand::GetGraticuleName() const {
   for (int i = frame_->GetMapGridCount() - 1; i >= 0; --i) {
     auto const grid = ptr_cast<Graticule>(frame_->GetMapGrid(i));
     if (!grid) continue;
-    int const number = grid->GetName().mid(series.size()).toInt();
+    qint64 const number = grid->GetName().mid(series.size()).toInt();
     return number == -1 ? series : series + QString::number(number + 1);
   }
   return series;

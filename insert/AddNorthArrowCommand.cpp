@@ -48,9 +48,10 @@ _ptr_t<MarkerSymbol> firstArrow(QStringList const& paths) {
 void AddNorthArrowCommand::OnClick() {
   auto const layout = SysFramework::activePageLayout(*hook());
   if (!layout || !layout->GetPage()) return;
+  auto const preselected = firstArrow(libraries());
   SysAdapterUI::StyleSelectorDlg dialog(dialogParent(*hook()));
   dialog.setWindowTitle(QCoreApplication::translate("AddNorthArrowCommand", "North Arrow Properties"));
-  dialog.SetStyleItem(static_cast<SysAdapterUI::orvSymbologyStyleClass>(0), firstArrow(libraries()));
+  dialog.SetStyleItem(static_cast<SysAdapterUI::orvSymbologyStyleClass>(0), preselected);
   if (dialog.exec() != QDialog::Accepted) return;
 
   auto const arrow = SysUtility::make<SysCarto::MarkerNorthArrow>();

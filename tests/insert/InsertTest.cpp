@@ -330,6 +330,7 @@ private slots:
     QTest::newRow("a name of one's own") << QStringList{"MyGrid"} << "Graticule1";
     QTest::newRow("nine letters, whatever they are") << QStringList{"MyGrid---12"} << "Graticule13";
     QTest::newRow("minus one begins again") << QStringList{"Graticule-1"} << "Graticule";
+    QTest::newRow("the highest number") << QStringList{"Graticule2147483647"} << "Graticule2147483648";
     QTest::newRow("minus five goes up") << QStringList{"Graticule-5"} << "Graticule-4";
   }
 

@@ -24,6 +24,7 @@ namespace {
 constexpr double onSideCm = 1e-6;
 constexpr double closedCm = 1e-3;
 constexpr double betweenCm = 0.08;  // two labels
+constexpr double steepFrom = 0.5;   // of half the frame's height
 
 OGRPolygon polygonOf(double left, double bottom, double right, double top) {
   OGRLinearRing ring;
@@ -112,10 +113,15 @@ void GraticuleLabels::addOutside(QString const& text, QPointF const& point, Side
   }
 }
 
+// The globe's edge leans towards the poles, so a label far from the middle is moved away from it in height, too.
 void GraticuleLabels::addBeyond(QString const& text, QPointF const& point) {
-  bool const isLeft = point.x() < (left_ + right_) / 2;
-  add(text, {point.x() + (isLeft ? -gapCm_ : gapCm_), point.y()}, 0,
-      isLeft ? HorizontalAlignment::Right : HorizontalAlignment::Left, VerticalAlignment::Middle);
+  double const aside = point.x() - (left_ + right_) / 2, up = point.y() - (bottom_ + top_) / 2;
+  bool const isMiddle = std::abs(up) < steepFrom * (top_ - bottom_) / 2;
+  add(text, {point.x() + (aside < 0 ? -gapCm_ : gapCm_), point.y()}, 0,
+      aside < 0 ? HorizontalAlignment::Right : HorizontalAlignment::Left,
+      isMiddle ? VerticalAlignment::Middle
+      : up < 0 ? VerticalAlignment::Top
+               : VerticalAlignment::Bottom);
 }
 
 void GraticuleLabels::add(QString const& text, QPointF const& position, double angle, HorizontalAlignment horizontal,
