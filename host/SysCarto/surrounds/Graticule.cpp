@@ -80,14 +80,17 @@ struct Graticule::Private {
   struct Picture {
     QString system;
     Envelope extent, rectangle;
-    std::shared_ptr<GraticuleLines const> lines;
     QList<_ptr_t<Element>> elements;
   };
   mutable std::shared_ptr<Picture const> picture;
+  mutable QString system;
+  mutable std::shared_ptr<GraticuleLines const> lines;  // of that system; null until they are asked for
 
   _ptr_t<TextSymbol> labelSymbol() const { return label ? label : usualLabel(); }
-  std::shared_ptr<GraticuleLines const> linesOf(QString const& system) const {
-    return picture && picture->system == system ? picture->lines : std::make_shared<GraticuleLines>(system);
+  GraticuleLines const& linesOf(QString const& wanted) const {
+    if (!lines || system != wanted) lines = std::make_shared<GraticuleLines>(wanted);
+    system = wanted;
+    return *lines;
   }
   bool isTooFine(GraticuleLines const& lines, Envelope const& extent) const {
     return interval > 0 && lines.count(extent, interval) > mostLines;
@@ -105,15 +108,15 @@ bool isSame(Envelope const& a, Envelope const& b) {
 }  // namespace
 
 QList<_ptr_t<Element>> const& Graticule::Private::elementsFor(Map const& map, Envelope const& rectangle) const {
-  QString const system = map.GetCoordinateSystem();
+  GraticuleLines const& globe = linesOf(map.GetCoordinateSystem());
   Envelope const extent(*map.GetExtent());
   if (picture && picture->system == system && isSame(picture->extent, extent) && isSame(picture->rectangle, rectangle))
     return picture->elements;
-  auto made = std::make_shared<Picture>(Picture{system, extent, rectangle, linesOf(system), {}});
-  bool const isChosen = interval > 0 && !isTooFine(*made->lines, extent);
+  auto made = std::make_shared<Picture>(Picture{system, extent, rectangle, {}});
+  bool const isChosen = interval > 0 && !isTooFine(globe, extent);
   double const step = isChosen ? interval : intervalFor(map.GetDisplayTransformation()->GetMapScale());
   GraticuleLabels labels(rectangle, labelSymbol(), labelGapPt);
-  for (GraticuleLine const& one : made->lines->lines(extent, step)) {
+  for (GraticuleLine const& one : globe.lines(extent, step)) {
     auto const parts = labels.placed(one, extent);
     for (QVector<QPointF> const& part : parts) made->elements << linePiece(part, line ? line : usualLine());
     if (labelled) labels.label(one, parts);
@@ -155,16 +158,16 @@ void Graticule::describe(Archive& archive) {
 
 QString Graticule::problemOn(MapFrameElement const& frame) const {
   Map const& map = *frame.GetMap();
-  auto const lines = d->linesOf(map.GetCoordinateSystem());
   Envelope const extent(*map.GetExtent());
-  if (!d->isTooFine(*lines, extent)) return QString();
+  if (d->interval == 0 || !d->isTooFine(d->linesOf(map.GetCoordinateSystem()), extent)) return QString();
+  double const count = d->lines->count(extent, d->interval);
+  double const least = std::ceil(count * d->interval / mostLines * 1000) / 1000;
   return QCoreApplication::translate("Graticule",
                                      "the graticule “%1” of the map “%2” has an interval of %3 degrees, which makes %4 "
                                      "lines; at most %5 are drawn, so an interval is chosen for it; enter one of %6 "
                                      "degrees or more")
-      .arg(d->name, map.GetName(), grouped(d->interval), grouped(std::round(lines->count(extent, d->interval))),
-           grouped(mostLines),
-           grouped(std::ceil(lines->count(extent, d->interval) * d->interval / mostLines * 1000) / 1000));
+      .arg(d->name, map.GetName(), grouped(d->interval), grouped(std::round(count)), grouped(mostLines),
+           grouped(least));
 }
 
 }  // namespace SysCarto

@@ -16,7 +16,7 @@ using SysGeometry::Envelope;
 
 namespace {
 
-constexpr int samples = 32;         // along either side of an extent
+constexpr int samples = 24;         // along either side of an extent
 constexpr double fullCircle = 300;  // a range as wide as this is taken for the whole globe
 constexpr double beside = 1e-6;     // degrees: how near to a cut a line may lie on one side of it
 constexpr double quarter = 90;      // meridians at its multiples go on to the pole
@@ -46,22 +46,31 @@ bool GraticuleLines::shows(double longitude, double latitude, Envelope const& ex
          y <= extent.GetYMax();
 }
 
-// From places spread over the extent; the lines reach beyond it, so that it need not be exact.
+// From places spread over the extent; the lines reach beyond it, so that it need not be exact. The middle comes first:
+// longitudes are counted from the first place that the globe has.
 GraticuleLines::Range GraticuleLines::rangeOf(Envelope const& extent) const {
+  std::vector<double> places;
+  auto const addPlace = [&](double column, double row) {
+    places.push_back(extent.GetXMin() + extent.GetWidth() * column / samples);
+    places.push_back(extent.GetYMin() + extent.GetHeight() * row / samples);
+  };
+  addPlace(samples / 2.0, samples / 2.0);
+  for (int i = 0; i < (samples + 1) * (samples + 1); ++i) addPlace(i % (samples + 1), i / (samples + 1));
+  toGlobe_->apply(places);
   Range range{INFINITY, -INFINITY, INFINITY, -INFINITY, false};
   double middle = NAN;
-  for (int i = 0; i <= samples * samples + 2 * samples; ++i) {
-    // The middle comes first: longitudes are counted from there.
-    int const number = i == 0 ? (samples / 2) * (samples + 1) + samples / 2 : i;
-    double x = extent.GetXMin() + extent.GetWidth() * (number % (samples + 1)) / samples;
-    double y = extent.GetYMin() + extent.GetHeight() * (number / (samples + 1)) / samples;
-    if (!toGlobe_->apply(x, y) || std::abs(y) > 90) continue;
+  for (size_t i = 0; i < places.size(); i += 2) {
+    double const x = places[i], y = places[i + 1];
+    if (!std::isfinite(x) || std::abs(y) > 90) continue;
     if (std::isnan(middle)) middle = x;
     double const longitude = middle + std::remainder(x - middle, 360.0);
     range = {std::min(range.west, longitude), std::max(range.east, longitude), std::min(range.south, y),
              std::max(range.north, y), false};
   }
-  if (std::isnan(middle)) return {0, -1, 0, -1, false};
+  return std::isnan(middle) ? Range{0, -1, 0, -1, false} : grown(range, middle, extent);
+}
+
+GraticuleLines::Range GraticuleLines::grown(Range range, double middle, Envelope const& extent) const {
   bool const northPole = shows(middle, 90, extent), southPole = shows(middle, -90, extent);
   double const growX = (range.east - range.west) / samples, growY = (range.north - range.south) / samples;
   range.north = northPole ? 90 : std::min(90.0, range.north + growY);

@@ -44,6 +44,7 @@ private:
   };
 
   Range rangeOf(SysGeometry::Envelope const& extent) const;
+  Range grown(Range range, double middle, SysGeometry::Envelope const& extent) const;
   bool shows(double longitude, double latitude, SysGeometry::Envelope const& extent) const;
   bool isCutAt(double longitude) const;
   void add(QVector<GraticuleLine>& lines, bool isMeridian, double degrees, QPointF const& from,
