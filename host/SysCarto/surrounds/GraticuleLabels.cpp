@@ -63,9 +63,10 @@ QVector<QVector<QPointF>> GraticuleLabels::placed(GraticuleLine const& line, Env
   OGRMultiLineString whole;
   for (QVector<QPointF> const& part : line.parts) {
     OGRLineString string;
-    for (QPointF const& point : part)
-      string.addPoint(left_ + (point.x() - extent.GetXMin()) * scaleX,
-                      bottom_ + (point.y() - extent.GetYMin()) * scaleY);
+    string.setNumPoints(part.size());
+    for (int i = 0; i < part.size(); ++i)
+      string.setPoint(i, left_ + (part[i].x() - extent.GetXMin()) * scaleX,
+                      bottom_ + (part[i].y() - extent.GetYMin()) * scaleY);
     whole.addGeometry(&string);
   }
   SysGeometry::QuietOgr const quiet;
