@@ -24,9 +24,14 @@ public:
   void trackerOffset(double, double) override {}
   void trackerShape(SysDisplay::Symbol const&, SysUtility::_ptr_t<SysGeometry::Geometry> const&,
                     SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const&) override {}
-  void refresh(int phase) override { log_ << QStringLiteral("refresh %1").arg(phase); }
+  void refresh(int phase) override {
+    log_ << QStringLiteral("refresh %1").arg(phase);
+    if (onRefresh) onRefresh();
+  }
   void clearOverlay() override { log_ << QStringLiteral("clear overlay"); }
   void setCursor(QCursor const&) override {}
+
+  std::function<void()> onRefresh;
 
 private:
   CallLog& log_;

@@ -101,6 +101,8 @@ private slots:
     hook_ = make<InsertHook>(emptyLayout(20, 30));
     surface_ = std::make_unique<LoggedSurface>(log_);
     layout()->setSurface(surface_.get());
+    stepsAtRefresh_ = -1;
+    surface_->onRefresh = [this] { stepsAtRefresh_ = hook_->history.count(); };
     qputenv("PLOTVANE_SETTINGS", folder_.filePath("settings.ini").toUtf8());
     qputenv("PLOTVANE_STYLE_DIR", folder_.path().toUtf8());
     QFile::remove(folder_.filePath("settings.ini"));
@@ -205,6 +207,7 @@ private slots:
     QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>{frame});
     QCOMPARE(hook_->history.undoText(), name);
     QCOMPARE(log_, CallLog{"refresh 8"});
+    QCOMPARE(stepsAtRefresh_, 1);  // drawn after the operation is closed
     hook_->history.undo();
     QCOMPARE(elements().size(), 2);
   }
@@ -279,6 +282,7 @@ private slots:
     QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>{elements().last()});
     QCOMPARE(hook_->history.count(), 1);
     QCOMPARE(log_, CallLog{"refresh 8"});
+    QCOMPARE(stepsAtRefresh_, 1);  // drawn after the operation is closed
     hook_->history.undo();
     QCOMPARE(elements(), QList<_ptr_t<Element>>{frame});
   }
@@ -317,6 +321,7 @@ private slots:
     QCOMPARE(gridNames(*first), QStringList("Other"));
     QCOMPARE(hook_->history.undoText(), QString("Add a grid"));
     QCOMPARE(log_, CallLog{"refresh 255"});
+    QCOMPARE(stepsAtRefresh_, 1);
     hook_->history.undo();
     QVERIFY(elements()[1] == first);
   }
@@ -373,6 +378,7 @@ private slots:
     QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>({text, unknown, now[2], now[3]}));
     QCOMPARE(hook_->history.undoText(), QString("ConvertToGraphics"));
     QCOMPARE(log_, CallLog({"clear overlay", "refresh 255"}));
+    QCOMPARE(stepsAtRefresh_, 1);
     hook_->history.undo();
     QCOMPARE(elements(), QList<_ptr_t<Element>>({text, several, one, unknown}));
   }
@@ -476,6 +482,7 @@ private:
   _ptr_t<InsertHook> hook_;
   std::unique_ptr<LoggedSurface> surface_;
   int questions_ = 0;
+  int stepsAtRefresh_ = -1;
 };
 
 QTEST_MAIN(InsertTest)
