@@ -37,6 +37,7 @@ bool CommandSet::click(HostedCommand const& command) {
     makeCurrent(command);
   else
     command.command->OnClick();
+  views_.layoutView().catchUp();
   emit clicked();
   return true;
 }

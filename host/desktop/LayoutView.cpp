@@ -58,6 +58,10 @@ void LayoutView::continuePicture() {
   if (layout_) picture_.drawSlice(*layout_, sliceMs);
 }
 
+void LayoutView::catchUp() {
+  if (layout_ && !picture_.isCurrent(*layout_)) refresh(everything);
+}
+
 QRectF LayoutView::placeOfPicture() const {
   if (!layout_ || !picture_.transformation()) return ViewWidget::placeOfPicture();
   return (picture_.transformation()->ToDevice().inverted() * layout_->GetDisplayTransformation()->ToDevice())

@@ -20,6 +20,10 @@ public:
   /// The tool that receives events from now on; may be empty.
   void setTool(SysUtility::_ptr_t<SysUI::ITool> const& tool);
 
+  /// Redraws where a map has come to look otherwise and nobody has asked for it: commands put labels into maps and take
+  /// them out again while events are handled.
+  void catchUp();
+
   bool isComplete() const override { return picture_.isComplete(); }
   int drawnTiles() const { return picture_.drawnTiles(); }
 

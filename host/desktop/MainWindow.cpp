@@ -64,7 +64,9 @@ MainWindow::MainWindow()
   actions_ = std::make_unique<ActionTable>(bench_.commands(), *this);
   auto* const recent = new QMenu(tr("Open Recent"), this);
   files_.fillWithRecent(*recent);
-  actions_->menu(QStringLiteral("File"))->insertMenu(actions_->find(QStringLiteral("Host_Save")), recent);
+  QMenu* const fileMenu = actions_->menu(QStringLiteral("File"));
+  int const afterOpen = fileMenu->actions().indexOf(actions_->find(QStringLiteral("Host_Open"))) + 1;
+  fileMenu->insertMenu(fileMenu->actions().value(afterOpen), recent);
 
   connect(&bench_.views(), &DocumentViews::changed, actions_.get(), &ActionTable::refreshSoon);
   connect(&bench_.session(), &DocumentSession::historyChanged, actions_.get(), &ActionTable::refreshSoon);
@@ -73,6 +75,7 @@ MainWindow::MainWindow()
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
   restoreState();
   bench_.session().create();
+  bench_.views().layoutView().setFocus();  // keys work on the page from the start
   if (bench_.plugin().state() != PluginLibrary::State::Loaded)
     QMessageBox::warning(this, tr("Plotvane"), bench_.plugin().reason());
 }

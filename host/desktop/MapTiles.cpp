@@ -85,6 +85,8 @@ std::optional<MapTiles::TileNumber> MapTiles::firstMissing() const {
 }
 
 QRect MapTiles::drawNext(MapFrameElement const& frame) {
+  if (isComplete()) return {};
+  follow(frame, look_.pixelsPerCm);
   auto const number = firstMissing();
   if (!number) return {};
   auto const rectangle = frame.GetEnvelope();

@@ -19,10 +19,14 @@ public:
   /// what they showed stands in, scaled, until new ones are drawn.
   void follow(SysCarto::MapFrameElement const& frame, double pixelsPerCm);
 
+  /// Whether the tiles are of the frame's size and map as they are now.
+  bool isOf(SysCarto::MapFrameElement const& frame) const { return look_.isSameAs(lookOf(frame, look_.pixelsPerCm)); }
+
   /// The part of the frame that is shown; tiles far away from it are forgotten.
   void setShown(QRect const& shownPx);
 
-  /// Draws one tile that is shown and missing, and answers its pixels; a null rectangle where none is missing.
+  /// Draws one tile that is shown and missing, and answers its pixels; a null rectangle where none is missing. A map
+  /// that has changed meanwhile is followed first.
   QRect drawNext(SysCarto::MapFrameElement const& frame);
   bool isComplete() const { return !firstMissing(); }
 

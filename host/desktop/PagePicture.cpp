@@ -106,6 +106,14 @@ QRegion PagePicture::drawSlice(PageLayout const& layout, int budgetMs) {
   return changed;
 }
 
+bool PagePicture::isCurrent(PageLayout const& layout) const {
+  for (auto const& frame : framesOf(layout)) {
+    auto const tiles = tiles_.constFind(frame->GetHandle());
+    if (tiles != tiles_.constEnd() && !tiles->isOf(*frame)) return false;
+  }
+  return true;
+}
+
 bool PagePicture::isComplete() const {
   for (MapTiles const& tiles : tiles_)
     if (!tiles.isComplete()) return false;

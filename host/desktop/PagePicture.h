@@ -24,6 +24,9 @@ public:
   /// changed in the picture, empty where no tile was missing. The layout must be the one composed last.
   QRegion drawSlice(SysCarto::PageLayout const& layout, int budgetMs);
 
+  /// Whether the maps look as they did when they were painted.
+  bool isCurrent(SysCarto::PageLayout const& layout) const;
+
   /// Whether all maps are drawn.
   bool isComplete() const;
   /// In device pixels; null before something was composed.

@@ -13,6 +13,21 @@ namespace {
 
 constexpr int pixelsPerCm = 25;  // the data frames of the sample then lie on whole pixels
 
+// A layer as slow as one of a million features, in one colour.
+class SlowLayer final : public SysCarto::Layer {
+public:
+  static constexpr int msPerTile = 15;
+
+  int GetType() const override { return 2; }
+  void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation, int,
+            SysUtility::_ptr_t<SysUI::TrackerCancel> const&) override {
+    QTest::qSleep(msPerTile);
+    painter.fillRect(transformation->GetDeviceFrame(), colour);
+  }
+
+  QColor colour = Qt::red;
+};
+
 // The page as its elements draw themselves, without any kept picture.
 QImage drawnDirectly(SysCarto::PageLayout const& layout, int ratio) {
   auto const transformation = layout.GetDisplayTransformation()->Clone();
@@ -36,6 +51,7 @@ private slots:
   void thePictureIsWhatTheElementsDraw();
   void onlyWhatChangesAMapDrawsIt_data();
   void onlyWhatChangesAMapDrawsIt();
+  void aSlowMapLetsEventsThroughAndTheNewestWins();
   void scrollingMovesThePictureExactly_data();
   void scrollingMovesThePictureExactly();
   void zoomingShowsTheOldPictureUntilTheWheelRests();
@@ -106,6 +122,43 @@ void ViewTest::onlyWhatChangesAMapDrawsIt() {
   if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
   if (what == "hide") page.view().refresh(SysCarto::ViewSurface::everything);
   QCOMPARE(tilesAfter(page) > before, draws);
+}
+
+void ViewTest::aSlowMapLetsEventsThroughAndTheNewestWins() {
+  WorkbenchPage page;
+  auto const frame = page.add<MapFrameElement>(0, 0, 21, 29.7);
+  auto const layer = make<SlowLayer>();
+  frame->GetMap()->AddLayer(layer);
+  page.run("Plotvane_ZoomToOrigin");
+  QElapsedTimer clock;
+  qint64 longestTurnMs = 0;
+  int turns = 0;
+  auto const turn = [&] {
+    clock.start();
+    QCoreApplication::processEvents();
+    longestTurnMs = qMax(longestTurnMs, clock.elapsed());
+    ++turns;
+  };
+  page.view().grab();
+  for (int i = 0; i < 3; ++i) turn();
+  QVERIFY(!page.view().isComplete());
+
+  layer->colour = Qt::blue;  // and the map's graphics change under way, so what was drawn is no longer the map
+  auto const note = make<SysCarto::TextElement>();
+  frame->GetMap()->GetGraphicsContainer()->AddElement(note);
+  while (!page.view().isComplete()) turn();
+  QImage const picture = page.view().grab().toImage();
+  for (QPoint const& at : {QPoint(5, 5), QPoint(400, 300), QPoint(790, 590)})
+    QCOMPARE(picture.pixelColor(at), QColor(Qt::blue));
+  QVERIFY2(turns > 4, qPrintable(QString::number(turns)));
+  int const aTileAndMore = 20 * SlowLayer::msPerTile;  // twelve tiles are in sight; the machine may be busy
+  QVERIFY2(longestTurnMs < aTileAndMore, qPrintable(QString::number(longestTurnMs)));
+
+  frame->GetMap()->GetGraphicsContainer()->DeleteElement(note);  // as after an export, and nobody asks for a redraw
+  int const before = page.view().drawnTiles();
+  page.run("Host_Unselect");
+  page.run("Host_SelectAll");
+  QVERIFY(tilesAfter(page) > before);
 }
 
 void ViewTest::scrollingMovesThePictureExactly_data() {
