@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QMouseEvent>
 
+#include <algorithm>
 #include <cmath>
 
 using SysUtility::_ptr_t;
@@ -25,6 +26,13 @@ QVector<double> numbersIn(QString const& text) {
     numbers << number;
   }
   return numbers;
+}
+
+bool isInCatalogue(QString const& identifier) {
+  auto const all = commandCatalogue();
+  return std::any_of(all.begin(), all.end(), [&](CommandEntry const& entry) {
+    return entry.identifier.compare(identifier, Qt::CaseInsensitive) == 0;
+  });
 }
 
 bool isPoint(QString const& text) { return numbersIn(text).size() == 2; }
@@ -91,6 +99,8 @@ QString RunSteps::check(QStringList const& steps) const {
   if (bench_.plugin().state() != PluginLibrary::State::Loaded) return bench_.plugin().reason();
   for (QString const& step : steps) {
     Kind const* const kind = kindOf(step);
+    if (!kind && isInCatalogue(step) && !bench_.commands().find(step))
+      return tr("run: this plug-in does not build %1; plotvane commands lists what it builds.").arg(step);
     if (!kind && !bench_.commands().find(step))
       return tr("run: \"%1\" is neither a step nor a command's identifier; plotvane run --help lists the steps, and "
                 "plotvane commands the commands.")
