@@ -22,6 +22,7 @@ namespace {
 
 constexpr QSize firstSize(1280, 860);
 constexpr int contentsWidthPx = 230;
+constexpr int labelMarginPx = 8;
 constexpr int everything = SysCarto::ViewSurface::everything;
 QString const geometryKey = QStringLiteral("window/geometry");
 QString const stateKey = QStringLiteral("window/state");
@@ -36,8 +37,9 @@ QString documentIn(QMimeData const& data) {
 
 QLabel* addLabel(QStatusBar& bar, QString const& widest, QString const& toolTip) {
   auto* const label = new QLabel(&bar);
-  label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest));
+  label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest) + 2 * labelMarginPx);
   label->setToolTip(toolTip);
+  label->setContentsMargins(labelMarginPx, 0, labelMarginPx, 0);
   bar.addPermanentWidget(label);
   return label;
 }

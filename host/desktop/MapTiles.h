@@ -13,7 +13,7 @@
 /// are counted from the frame's upper left corner, so that moving the frame, or the view, makes no tile stale.
 class MapTiles {
 public:
-  static constexpr int tilePx = 256;
+  static constexpr int tilePx = 128;
 
   /// Takes the frame's size and map as they are now. Where a picture of them is another one, the tiles are dropped, and
   /// what they showed stands in, scaled, until new ones are drawn.

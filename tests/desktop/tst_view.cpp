@@ -151,7 +151,7 @@ void ViewTest::aSlowMapLetsEventsThroughAndTheNewestWins() {
   for (QPoint const& at : {QPoint(5, 5), QPoint(400, 300), QPoint(790, 590)})
     QCOMPARE(picture.pixelColor(at), QColor(Qt::blue));
   QVERIFY2(turns > 4, qPrintable(QString::number(turns)));
-  int const aTileAndMore = 20 * SlowLayer::msPerTile;  // twelve tiles are in sight; the machine may be busy
+  int const aTileAndMore = 20 * SlowLayer::msPerTile;  // forty tiles are in sight; the machine may be busy
   QVERIFY2(longestTurnMs < aTileAndMore, qPrintable(QString::number(longestTurnMs)));
 
   frame->GetMap()->GetGraphicsContainer()->DeleteElement(note);  // as after an export, and nobody asks for a redraw
