@@ -73,9 +73,11 @@ MainWindow::MainWindow()
   connect(&bench_.views(), &DocumentViews::changed, actions_.get(), &ActionTable::refreshSoon);
   connect(&bench_.session(), &DocumentSession::historyChanged, actions_.get(), &ActionTable::refreshSoon);
   connect(contentsDock_, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
+  connect(&bench_.session(), &DocumentSession::historyChanged, this, &MainWindow::listMaps);
   connect(&bench_.session(), &DocumentSession::replaced, this, &MainWindow::documentReplaced);
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
   restoreState();
+  contents_->SetBuddy(&bench_.views());
   bench_.session().create();
   bench_.views().layoutView().setFocus();  // keys work on the page from the start
   if (bench_.plugin().state() != PluginLibrary::State::Loaded)
@@ -161,8 +163,17 @@ void MainWindow::keepState() {
 }
 
 void MainWindow::documentReplaced() {
-  contents_->SetBuddy(&bench_.views());
+  listMaps();
   actions_->refreshSoon();
+}
+
+// Data frames come and go with the steps of the history, and with them their maps.
+void MainWindow::listMaps() {
+  QList<_ptr_t<SysCarto::Map>> maps;
+  bench_.session().document().GetMaps(maps);
+  if (maps == listedMaps_) return;
+  listedMaps_ = maps;
+  contents_->SetBuddy(&bench_.views());
 }
 
 void MainWindow::showState() {

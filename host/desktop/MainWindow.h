@@ -45,6 +45,7 @@ private:
   void restoreState();
 
   void documentReplaced();
+  void listMaps();
   void showState();
   void showPointer(QPoint const& positionPx);
   void showAbout();
@@ -54,6 +55,7 @@ private:
   std::unique_ptr<ActionTable> actions_;
   std::unique_ptr<Companion> companion_;
   SysAdapterUI::TOCControl* contents_ = nullptr;
+  QList<SysUtility::_ptr_t<SysCarto::Map>> listedMaps_;
   QDockWidget* contentsDock_ = nullptr;
   QTabBar* tabs_ = nullptr;
   QLabel* position_ = nullptr;

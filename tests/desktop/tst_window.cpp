@@ -36,6 +36,7 @@ private slots:
   void changesAreNotLostWithoutAQuestion();
   void aDroppedDocumentOpens();
   void aPieceOfRealWork();
+  void theContentsFollowTheDataFrames();
   void hidingALayerIsAChangeOfTheDocument();
   void iconsTakeThePalettesColour_data();
   void iconsTakeThePalettesColour();
@@ -221,6 +222,21 @@ void WindowTest::aPieceOfRealWork() {
   layout->SetAlignToMargins(false);
   QVERIFY(window.bench().session().document().GetText() == start);
   window.bench().session().document().history()->setClean();
+}
+
+void WindowTest::theContentsFollowTheDataFrames() {
+  MainWindow window;
+  window.show();
+  QVERIFY(window.open(world));
+  auto* const tree = window.findChild<QTreeWidget*>("treeWidget_Contents");
+  auto const first = [tree] { return tree->topLevelItem(0)->text(0); };
+  QCOMPARE(first(), QString("World"));
+  window.actions().find("Host_SelectAll")->trigger();
+  window.actions().find("Host_Delete")->trigger();
+  QCOMPARE(first(), QString("No maps on this page"));
+  window.actions().find("Host_Undo")->trigger();
+  QCOMPARE(first(), QString("World"));
+  QCOMPARE(tree->topLevelItem(0)->childCount(), window.bench().session().document().GetMap(0)->GetLayerCount());
 }
 
 void WindowTest::hidingALayerIsAChangeOfTheDocument() {
