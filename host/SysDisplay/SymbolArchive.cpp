@@ -22,6 +22,7 @@ namespace {
 
 constexpr double mostPt = 1000;
 constexpr double mostDegrees = 3600;
+constexpr int mostSvgCharacters = 2 * 1024 * 1024;
 
 QString translated(char const* text) { return QCoreApplication::translate("SymbolArchive", text); }
 
@@ -111,7 +112,7 @@ void describe(Archive& archive, SimpleMarkerSymbol& symbol) {
 void describe(Archive& archive, SvgMarkerSymbol& symbol) {
   describePlacement(archive, symbol);
   QString svg = QString::fromUtf8(symbol.svg());
-  archive.text("svg", svg);
+  archive.text("svg", svg, mostSvgCharacters);
   if (!archive.reading() || !archive.ok()) return;
   QString const problem = symbol.setSvg(svg.toUtf8());
   if (!problem.isEmpty()) archive.fail("svg", problem);

@@ -43,6 +43,10 @@ QString outOfRange(double value, double min, double max) {
   return translated("%1 is not between %2 and %3").arg(shown(value), shown(min), shown(max));
 }
 
+QString tooLong(QString const& text, int most) {
+  return translated("the text has %1 characters; at most %2").arg(text.size()).arg(most);
+}
+
 int const mostWarnings = 100;
 
 }  // namespace
@@ -173,12 +177,19 @@ void Archive::flag(char const* key, bool& value, bool byDefault) {
   if (!settled(key, value, byDefault)) flag(key, value);
 }
 
-void Archive::text(char const* key, QString& value) {
-  if (!reading()) return put(key, value);
-  QJsonValue const json = take(key, true);
-  if (!ok()) return;
-  if (!json.isString()) return fail(key, wrongKind(translated("a text"), json));
-  value = json.toString();
+void Archive::text(char const* key, QString& value, int most) {
+  QString text = value;
+  if (reading()) {
+    QJsonValue const json = take(key, true);
+    if (!ok()) return;
+    if (!json.isString()) return fail(key, wrongKind(translated("a text"), json));
+    text = json.toString();
+  }
+  if (text.size() > most) return fail(key, tooLong(text, most));
+  if (reading())
+    value = text;
+  else
+    put(key, text);
 }
 
 void Archive::text(char const* key, QString& value, QString const& byDefault) {

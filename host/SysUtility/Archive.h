@@ -45,6 +45,9 @@ class SYSUTILITY_EXPORT Archive {
 public:
   using Describe = std::function<void(Archive&)>;
 
+  /// Of a text: more than anyone writes on a map, and little enough to draw.
+  static constexpr int mostCharacters = 16384;
+
   /// An archive that writes, from nothing.
   Archive();
 
@@ -77,7 +80,8 @@ public:
   void integer(char const* key, int& value, int min, int max, int byDefault);
   void flag(char const* key, bool& value);
   void flag(char const* key, bool& value, bool byDefault);
-  void text(char const* key, QString& value);
+  /// A text of at most `most` characters.
+  void text(char const* key, QString& value, int most = mostCharacters);
   void text(char const* key, QString& value, QString const& byDefault);
 
   /// A list of texts; a missing list is an empty one.

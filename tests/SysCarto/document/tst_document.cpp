@@ -179,6 +179,8 @@ private slots:
     QTest::newRow("a text for a flag")        << "relativePaths" << QJsonValue("no") << "relativePaths: expected true or false, found a text";
     QTest::newRow("an object for a list")     << "maps"      << QJsonValue(QJsonObject()) << "maps: expected a list";
     QTest::newRow("a number for a map")       << "maps.1"    << QJsonValue(7)       << "maps[1]: expected an object";
+    QTest::newRow("a name without end")       << "maps.0.name" << QJsonValue(QString(16385, 'n'))
+                                              << "maps[0].name: the text has 16385 characters; at most 16384";
     QTest::newRow("null for a name")          << "maps.0.name" << QJsonValue()      << "maps[0].name: expected a text, found null";
     QTest::newRow("an unknown system")        << "maps.0.coordinateSystem" << QJsonValue("EPSG:99999") << "maps[0].coordinateSystem: “EPSG:99999”";
     QTest::newRow("a system from a file")     << "maps.0.coordinateSystem" << QJsonValue("/etc/passwd") << "maps[0].coordinateSystem: ";
