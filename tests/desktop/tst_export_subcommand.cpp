@@ -1,6 +1,7 @@
 #include "desktop/Executable.h"
 
 #include <QImage>
+#include <QJsonArray>
 
 #include <gdal_priv.h>
 
@@ -57,6 +58,8 @@ private slots:
   void quietPrintsNothing();
   void followsALinkToTheImage();
   void aMissingDataSourceIsAnErrorUnlessAllowed();
+  void aDamagedSourceIsAnErrorUnlessAllowed_data();
+  void aDamagedSourceIsAnErrorUnlessAllowed();
   void aFailureLeavesTheFolderAsItWas_data();
   void aFailureLeavesTheFolderAsItWas();
   void aFullDiskLeavesTheOldImage_data();
@@ -136,6 +139,48 @@ void ExportSubcommandTest::aMissingDataSourceIsAnErrorUnlessAllowed() {
   QCOMPARE(allowed.status, 0);
   QVERIFY(allowed.err.contains("world.gpkg"));
   QVERIFY(QFile::remove(folder_.path("lost.png")) && QFile::remove(folder_.path("lost.kdx")));
+}
+
+void ExportSubcommandTest::aDamagedSourceIsAnErrorUnlessAllowed_data() {
+  QTest::addColumn<QString>("file");
+  QTest::addColumn<QByteArray>("content");
+  QTest::addColumn<QString>("complaint");
+  QByteArray const header(
+      "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\xea\x60\0\0\xea\x60\x8\6\0\0\0\x80\xd2\x75\x42\0\0\0\1IDAT", 41);
+  QTest::newRow("a picture that is not there") << "none.png" << QByteArray() << "no such picture file";
+  QTest::newRow("a picture that is a text") << "text.png" << QByteArray("text") << "neither PNG nor JPEG nor SVG";
+  QTest::newRow("a picture of 60,000 pixels a side") << "bomb.png" << header << "make it smaller";
+  QTest::newRow("a drawing that refers to another file")
+      << "far.svg" << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'><image href='file:///etc/a.png'/></svg>")
+      << "the SVG refers to";
+  QByteArray const whole =
+      contents(PLOTVANE_SOURCE_DIR "/samples/data").value(PLOTVANE_SOURCE_DIR "/samples/data/world.gpkg");
+  QTest::newRow("data that end early") << "half.gpkg" << whole.left(whole.size() / 2) << "half.gpkg";
+}
+
+void ExportSubcommandTest::aDamagedSourceIsAnErrorUnlessAllowed() {
+  QFETCH(QString, file);
+  QFETCH(QByteArray, content);
+  QFETCH(QString, complaint);
+  if (!content.isEmpty()) write(folder_.path(file), content);
+  QJsonObject const picture{{"type", "picture"}, {"path", file}, {"rectangle", QJsonArray{1, 1, 5, 5}}};
+  QJsonObject const symbol{{"type", "simple"}, {"symbol", QJsonObject{{"type", "simpleFill"}}}};
+  QJsonObject const layer{
+      {"type", "feature"}, {"name", "A"}, {"source", QJsonObject{{"file", file}}}, {"renderer", symbol}};
+  QJsonObject const map{{"name", "M"}, {"bounds", QJsonArray{0, 0, 9, 9}}, {"layers", QJsonArray{layer}}};
+  if (file.endsWith(".gpkg"))
+    folder_.writeVariant("damaged.kdx", {{"maps", QJsonArray{map}}});
+  else
+    folder_.writeVariant("damaged.kdx", {{"elements", QJsonArray{picture}}, {"maps", QJsonArray()}});
+
+  auto const before = contents(folder_.path());
+  QStringList const arguments{"export", "damaged.kdx", "damaged.png", "--dpi", "30"};
+  Outcome const refused = run(arguments, folder_.path());
+  QCOMPARE(refused.status, 1);
+  QVERIFY2(refused.err.contains(file) && refused.err.contains(complaint), qPrintable(refused.err));
+  QVERIFY(contents(folder_.path()) == before);
+  QCOMPARE(run(arguments + QStringList("--allow-missing"), folder_.path()).status, 0);
+  QVERIFY(QFile::remove(folder_.path("damaged.png")));
 }
 
 void ExportSubcommandTest::aFailureLeavesTheFolderAsItWas_data() {

@@ -105,18 +105,26 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   Field const priorityField(layer, labels.priorityField, source, result.warnings);
   FeatureStore& store = *result.store;
   store.keepsLabels = labels.isUsed();
+  QString unplaced;
   layer.ResetReading();
   while (OGRFeatureUniquePtr const feature{layer.GetNextFeature()}) {
     OGRGeometry const* const geometry = feature->GetGeometryRef();
     if (!geometry || !condition.admits(*feature)) continue;
     store.beginFeature();
-    projector.add(*geometry, store);
+    {
+      GdalErrors const places;  // a place that the map can't show is no damage to the file
+      projector.add(*geometry, store);
+      if (places.hasFailure()) unplaced = places.reason();
+    }
     double const priority = priorityField.number(*feature);
     store.endFeature(renderer.classOf(classField.text(*feature), classField.number(*feature)),
                      labelField.text(*feature),
                      std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority);
   }
   store.finish();
+  if (!unplaced.isEmpty())
+    result.warnings
+        << translated("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
 }
 
 }  // namespace
@@ -139,7 +147,7 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
   GdalErrors const errors;
   readAll(data->layer(), *projector, condition, renderer, source, labels, result);
   if (errors.hasFailure())
-    result.warnings << translated("Not all of %1 could be read: %2.").arg(describeSource(source), errors.reason());
+    result.error = translated("Not all of %1 could be read: %2.").arg(describeSource(source), errors.reason());
   return result;
 }
 

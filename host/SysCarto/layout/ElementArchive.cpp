@@ -132,7 +132,11 @@ void describe(Archive& archive, PictureElement& picture, Scope scope) {
   if (!archive.reading() && relates) path = folder.relativeFilePath(path);
   picture.setShape(describeRectangle(archive, *picture.shape(), farthestAnywhere));
   archive.text("path", path);
-  if (archive.reading()) picture.setPath(path.isEmpty() ? QString() : QDir::cleanPath(folder.absoluteFilePath(path)));
+  if (!archive.reading() || !archive.ok()) return;
+  picture.setPath(path.isEmpty() ? QString() : QDir::cleanPath(folder.absoluteFilePath(path)));
+  if (path.isEmpty() || picture.problem().isEmpty()) return;
+  ++scope.context.unreadableSources;
+  scope.context.warnings << picture.problem();
 }
 
 void describe(Archive& archive, GroupElement& group, Scope scope) {
