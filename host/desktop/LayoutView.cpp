@@ -26,7 +26,9 @@ LayoutView::LayoutView(QWidget* parent) : ViewWidget(parent) {
   setMinimumSize(160, 120);
 }
 
-LayoutView::~LayoutView() { setLayout(nullptr); }
+LayoutView::~LayoutView() {
+  if (layout_) layout_->setSurface(nullptr);
+}
 
 void LayoutView::setLayout(_ptr_t<PageLayout> const& layout) {
   if (layout == layout_) return;

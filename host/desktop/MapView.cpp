@@ -9,7 +9,9 @@ using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
 
 MapView::MapView(QWidget* parent) : ViewWidget(parent) { setObjectName(QStringLiteral("mapView")); }
-MapView::~MapView() { setLayout(nullptr); }
+MapView::~MapView() {
+  if (shown_) shown_->setSurface(nullptr);
+}
 
 _ptr_t<Map> MapView::map() const { return layout_ ? layout_->GetFocusMap() : nullptr; }
 
