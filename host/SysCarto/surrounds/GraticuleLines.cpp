@@ -57,7 +57,7 @@ GraticuleLines::Range GraticuleLines::rangeOf(Envelope const& extent) const {
   addPlace(samples / 2.0, samples / 2.0);
   for (int i = 0; i < (samples + 1) * (samples + 1); ++i) addPlace(i % (samples + 1), i / (samples + 1));
   toGlobe_->apply(places);
-  Range range{INFINITY, -INFINITY, INFINITY, -INFINITY, false};
+  Range range{INFINITY, -INFINITY, INFINITY, -INFINITY};
   double middle = NAN;
   for (size_t i = 0; i < places.size(); i += 2) {
     double const x = places[i], y = places[i + 1];
@@ -65,9 +65,9 @@ GraticuleLines::Range GraticuleLines::rangeOf(Envelope const& extent) const {
     if (std::isnan(middle)) middle = x;
     double const longitude = middle + std::remainder(x - middle, 360.0);
     range = {std::min(range.west, longitude), std::max(range.east, longitude), std::min(range.south, y),
-             std::max(range.north, y), false};
+             std::max(range.north, y)};
   }
-  return std::isnan(middle) ? Range{0, -1, 0, -1, false} : grown(range, middle, extent);
+  return std::isnan(middle) ? Range{0, -1, 0, -1} : grown(range, middle, extent);
 }
 
 GraticuleLines::Range GraticuleLines::grown(Range range, double middle, Envelope const& extent) const {
@@ -77,8 +77,9 @@ GraticuleLines::Range GraticuleLines::grown(Range range, double middle, Envelope
   range.south = southPole ? -90 : std::max(-90.0, range.south - growY);
   range.west -= growX;
   range.east += growX;
-  range.holdsPole = northPole || southPole;
-  if (range.holdsPole || range.east - range.west > fullCircle) {
+  range.meetsInNorth = northPole && meridiansMeetAt(90, extent);
+  range.meetsInSouth = southPole && meridiansMeetAt(-90, extent);
+  if (range.meetsInNorth || range.meetsInSouth || range.east - range.west > fullCircle) {
     range.west = -180;
     range.east = 180;
   }
@@ -89,6 +90,14 @@ double GraticuleLines::count(Envelope const& extent, double interval) const {
   if (!projector_ || !(interval > 0)) return 0;
   Range const range = rangeOf(extent);
   return std::max(0.0, (range.east - range.west + range.north - range.south) / interval);
+}
+
+// A pole may also be a line, as long as the equator or shorter.
+bool GraticuleLines::meridiansMeetAt(double latitude, Envelope const& extent) const {
+  constexpr double samePlace = 1e-6;  // of the extent
+  double x = 0, y = latitude, turnedX = quarter, turnedY = latitude;
+  return toMap_->apply(x, y) && toMap_->apply(turnedX, turnedY) &&
+         std::hypot(turnedX - x, turnedY - y) < samePlace * std::hypot(extent.GetWidth(), extent.GetHeight());
 }
 
 // Whether the two sides of a meridian lie at different places of the map.
@@ -108,8 +117,10 @@ QVector<GraticuleLine> GraticuleLines::lines(Envelope const& extent, double inte
   auto const last = [&](double to) { return std::floor(to / interval + 1e-9); };
 
   // Short of a pole, where meridians would run into each other, only four of them go on.
-  double const shortNorth = range.holdsPole ? std::min(range.north, last(90 - interval / 2) * interval) : range.north;
-  double const shortSouth = range.holdsPole ? std::max(range.south, first(interval / 2 - 90) * interval) : range.south;
+  double const shortNorth =
+      range.meetsInNorth ? std::min(range.north, last(90 - interval / 2) * interval) : range.north;
+  double const shortSouth =
+      range.meetsInSouth ? std::max(range.south, first(interval / 2 - 90) * interval) : range.south;
   for (double i = first(range.west); i <= last(range.east); ++i) {
     double const longitude = i * interval;
     if (isWhole && longitude >= 180 - beside) continue;  // is −180, too

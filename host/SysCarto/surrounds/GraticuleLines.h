@@ -40,12 +40,13 @@ private:
   // Longitudes are counted on from −180 or below, so that a range may lie across the antimeridian.
   struct Range {
     double west, east, south, north;
-    bool holdsPole;
+    bool meetsInNorth = false, meetsInSouth = false;  // whether it holds a pole in which the meridians meet
   };
 
   Range rangeOf(SysGeometry::Envelope const& extent) const;
   Range grown(Range range, double middle, SysGeometry::Envelope const& extent) const;
   bool shows(double longitude, double latitude, SysGeometry::Envelope const& extent) const;
+  bool meridiansMeetAt(double latitude, SysGeometry::Envelope const& extent) const;
   bool isCutAt(double longitude) const;
   void add(QVector<GraticuleLine>& lines, bool isMeridian, double degrees, QPointF const& from,
            QPointF const& to) const;
