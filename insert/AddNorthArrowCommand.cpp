@@ -40,7 +40,7 @@ _ptr_t<MarkerSymbol> firstArrow(QStringList const& paths) {
   SysAdapterUI::StyleGalleryClass gallery;
   QVector<_ptr_t<SysDisplay::StyleGalleryItem>> items;
   for (QString const& path : paths) gallery.GetItems(path, QStringLiteral("NorthArrows"), QString(), items);
-  return items.isEmpty() ? nullptr : ptr_cast<MarkerSymbol>(items.first()->GetItem());
+  return items.isEmpty() || !items.first() ? nullptr : ptr_cast<MarkerSymbol>(items.first()->GetItem());
 }
 
 }  // namespace

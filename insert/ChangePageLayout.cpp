@@ -35,7 +35,8 @@ bool openTemplate(MapDocument& document, QString const& file) {
   bool const opened = document.Open(file);
   for (QString const& error : document.GetErrors()) qWarning("%s", qUtf8Printable(error));
   if (!opened) return false;
-  if (document.GetPageLayout()->GetPage()) return true;
+  auto const layout = document.GetPageLayout();
+  if (layout && layout->GetPage()) return true;
   qWarning("%s: the document has no page; choose one that has a page", qUtf8Printable(file));
   return false;
 }
@@ -45,6 +46,7 @@ void install(_ptr_t<PageLayout> const& layout, IKdxContents& contents, IDesktop&
   if (auto const site = desktop.GetContentsSite()) site->SetContents(&contents);
   if (auto* const tableOfContents = desktop.GetTOCControl()) tableOfContents->SetBuddy(&contents);
   auto const shown = contents.GetPageLayout();
+  if (!shown) return;
   shown->GetDisplayTransformation()->SetDeviceFrame(old.GetDisplayTransformation()->GetDeviceFrame());
   shown->Refresh(0, false);
 }

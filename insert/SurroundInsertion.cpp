@@ -64,7 +64,8 @@ void SurroundInsertionCommand::OnClick() {
   QString const name = QCoreApplication::translate(row_->context, row_->operation);
   std::optional<EditorOperation> operation;
   if (row_->opensOperationFirst) operation.emplace(name);
-  auto const frame = surroundFrame(row_->create(), row_->map(*layout), rectangle);
+  auto const map = row_->map(*layout);
+  auto const frame = surroundFrame(row_->create(), map, rectangle);
   if (!operation) operation.emplace(name);
   layout->GetGraphicsContainer()->AddElement(frame);
   operation.reset();

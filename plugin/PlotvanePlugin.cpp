@@ -34,7 +34,7 @@ _ptr_t<ICommand> create() {
 
 struct Row {
   char const* id;
-  _ptr_t<ICommand> (*create)();  // null for a command that is not built yet
+  _ptr_t<ICommand> (*create)();
 };
 
 // clang-format off
@@ -87,7 +87,7 @@ PlotvanePlugin::~PlotvanePlugin() = default;
 
 _ptr_t<ICommand> PlotvanePlugin::CreateCommand(QString const& id, QString const&) {
   for (Row const& row : rows)
-    if (id.compare(QLatin1String(row.id), Qt::CaseInsensitive) == 0) return row.create ? row.create() : nullptr;
+    if (id.compare(QLatin1String(row.id), Qt::CaseInsensitive) == 0) return row.create();
   return nullptr;
 }
 

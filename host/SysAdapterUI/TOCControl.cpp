@@ -87,7 +87,6 @@ void addSymbols(QTreeWidgetItem& item, Layer const& layer, double devicePixelRat
 
 struct TOCControl::Private {
   QTreeWidget* tree = nullptr;
-  SysCarto::IKdxContents* contents = nullptr;
 };
 
 TOCControl::TOCControl(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>()) {
@@ -111,7 +110,6 @@ TOCControl::TOCControl(QWidget* parent) : QWidget(parent), d(std::make_unique<Pr
 TOCControl::~TOCControl() = default;
 
 void TOCControl::SetBuddy(SysCarto::IKdxContents* contents) {
-  d->contents = contents;
   QSignalBlocker const quiet(d->tree);
   d->tree->clear();
   auto const layout = contents ? contents->GetPageLayout() : nullptr;

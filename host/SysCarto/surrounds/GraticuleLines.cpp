@@ -167,7 +167,7 @@ QString degreesText(double degrees, bool isLongitude) {
   double const seconds = std::fmod(hundredths, 6000) / 100;
   QString text = QStringLiteral("%1°").arg(whole);
   if (minutes > 0 || seconds > 0) text += QStringLiteral("%1′").arg(minutes, 2, 10, QLatin1Char('0'));
-  if (seconds > 0) text += QStringLiteral("%1″").arg(seconds, 0, 'g', 4);
+  if (seconds > 0) text += QLatin1String(seconds < 10 ? "0" : "") + QStringLiteral("%1″").arg(seconds, 0, 'g', 4);
   bool const hasSide = hundredths > 0 && !(isLongitude && hundredths == 180 * 360000.0);
   if (!hasSide) return text;
   return text + QLatin1Char(isLongitude ? (turned < 0 ? 'W' : 'E') : (turned < 0 ? 'S' : 'N'));
