@@ -40,7 +40,10 @@ bool drawTiles(LayoutRenderer const& renderer, RasterWriter& writer, _ptr_t<Trac
 }  // namespace
 
 ExportCommand::ExportCommand() = default;
-ExportCommand::~ExportCommand() = default;
+// The host's contents own the dialog, where they are a window.
+ExportCommand::~ExportCommand() {
+  if (progressDialog_ && !progressDialog_->parent()) delete progressDialog_;
+}
 
 bool ExportCommand::IsEnable() {
   enabled_ = static_cast<bool>(ptr_cast<PageLayout>(hook()->GetActiveView()));

@@ -23,7 +23,8 @@ public:
   /// Asks for the file and the resolution, exports with a progress dialog, and tells when it is done.
   void OnClick() override;
 
-  /// The progress dialog, made at the first call; its parent, the host's contents, owns it.
+  /// The progress dialog, made at the first call; its parent, the host's contents, owns it; the command where there is
+  /// none.
   QProgressDialog* GetProgressBar();
 
   /// Draws the page at a resolution and writes it to `path`, in the format that the suffix names. The progress function
