@@ -47,8 +47,9 @@ _ptr_t<MarkerSymbol> firstArrow(QStringList const& paths) {
 
 void AddNorthArrowCommand::OnClick() {
   auto const layout = SysFramework::activePageLayout(*hook());
-  if (!layout || !layout->GetPage()) return;
+  if (!layout) return;
   auto const preselected = firstArrow(libraries());
+  if (!layout->GetPage()) return;
   SysAdapterUI::StyleSelectorDlg dialog(dialogParent(*hook()));
   dialog.setWindowTitle(QCoreApplication::translate("AddNorthArrowCommand", "North Arrow Properties"));
   dialog.SetStyleItem(static_cast<SysAdapterUI::orvSymbologyStyleClass>(0), preselected);

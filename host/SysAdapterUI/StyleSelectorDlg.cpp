@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
-#include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -65,11 +64,10 @@ struct StyleSelectorDlg::Private {
 
   void showChoice() const {
     QModelIndex const index = grid->currentIndex();
-    bool const isChosen = index.isValid();
-    chosen->setText(isChosen                 ? index.data().toString()
-                    : model->rowCount() == 0 ? StyleSelectorDlg::tr("The style libraries hold nothing of this kind.")
-                                             : StyleSelectorDlg::tr("No name matches."));
-    buttons->button(QDialogButtonBox::Ok)->setEnabled(isChosen);
+    chosen->setText(index.isValid()           ? index.data().toString()
+                    : model->rowCount() == 0  ? StyleSelectorDlg::tr("The style libraries hold nothing of this kind.")
+                    : filter->rowCount() == 0 ? StyleSelectorDlg::tr("No name matches.")
+                                              : StyleSelectorDlg::tr("Nothing is chosen."));
   }
 };
 

@@ -123,7 +123,7 @@ private slots:
     QVERIFY(dialog.GetStyleItem() == own);
     dialog.SetStyleItem(NorthArrowStyle, nullptr);
     QVERIFY(!dialog.GetStyleItem());
-    QVERIFY(!dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
+    QVERIFY(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
   }
 
   void searchAndCategoryNarrowTheChoice() {

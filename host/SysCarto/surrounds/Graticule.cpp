@@ -37,14 +37,14 @@ constexpr double intervals[] = {
     1, 2, 5, 10, 15, 30, 45, 90};
 // clang-format on
 
-constexpr double metresPerDegree = 111320;
-constexpr double leastBetweenCm = 2.8;  // two lines
+constexpr double leastBetweenCm = 2;  // two lines
 constexpr double mostLines = 1000;
 constexpr double labelGapPt = 3;
 
-double intervalFor(double mapScale) {
-  double const least = leastBetweenCm * mapScale / 100 / metresPerDegree;
-  auto const* const found = std::lower_bound(std::begin(intervals), std::end(intervals), least);
+double intervalFor(double cmPerDegree) {
+  auto const* const found = std::find_if(std::begin(intervals), std::end(intervals), [cmPerDegree](double interval) {
+    return interval * cmPerDegree >= leastBetweenCm;
+  });
   return found == std::end(intervals) ? intervals[std::size(intervals) - 1] : *found;
 }
 
@@ -114,12 +114,16 @@ QList<_ptr_t<Element>> const& Graticule::Private::elementsFor(Map const& map, En
     return picture->elements;
   auto made = std::make_shared<Picture>(Picture{system, extent, rectangle, {}});
   bool const isChosen = interval > 0 && !isTooFine(globe, extent);
-  double const step = isChosen ? interval : intervalFor(map.GetDisplayTransformation()->GetMapScale());
+  GraticuleStep const size = globe.degreeSize(extent);
+  double const cmPerUnit = rectangle.GetWidth() / extent.GetWidth();
+  GraticuleStep const step =
+      isChosen ? GraticuleStep{interval, interval}
+               : GraticuleStep{intervalFor(size.longitude * cmPerUnit), intervalFor(size.latitude * cmPerUnit)};
   GraticuleLabels labels(rectangle, labelSymbol(), labelGapPt);
   for (GraticuleLine const& one : globe.lines(extent, step)) {
     auto const parts = labels.placed(one, extent);
     for (QVector<QPointF> const& part : parts) made->elements << linePiece(part, line ? line : usualLine());
-    if (labelled) labels.label(one, parts);
+    if (labelled) labels.label(one, parts, extent);
   }
   made->elements += labels.elements();
   picture = made;

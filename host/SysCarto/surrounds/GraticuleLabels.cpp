@@ -22,10 +22,10 @@ using SysUtility::make;
 namespace {
 
 constexpr double onSideCm = 1e-6;
-constexpr double closedCm = 1e-3;
 constexpr double thinnedCm = 5e-4;  // a tenth of a pixel at 600 dpi
 constexpr double betweenCm = 0.08;  // two labels
 constexpr double steepFrom = 0.5;   // of half the frame's height
+constexpr double haloPt = 1;        // around a label on its line
 
 OGRPolygon polygonOf(double left, double bottom, double right, double top) {
   OGRLinearRing ring;
@@ -37,6 +37,17 @@ OGRPolygon polygonOf(double left, double bottom, double right, double top) {
   OGRPolygon polygon;
   polygon.addRing(&ring);
   return polygon;
+}
+
+QPointF halfwayAlong(QVector<QPointF> const& line) {
+  double left = 0;
+  for (int i = 1; i < line.size(); ++i) left += QLineF(line[i - 1], line[i]).length() / 2;
+  for (int i = 1; i < line.size(); ++i) {
+    QLineF const edge(line[i - 1], line[i]);
+    if (edge.length() > 0 && left <= edge.length()) return edge.pointAt(left / edge.length());
+    left -= edge.length();
+  }
+  return line.last();
 }
 
 void addLines(OGRGeometry const& geometry, QVector<QVector<QPointF>>& parts) {
@@ -59,15 +70,20 @@ GraticuleLabels::GraticuleLabels(Envelope const& rectangle, _ptr_t<TextSymbol> c
       format_(symbol->format()),
       gapCm_(gapPt * cmPerPoint) {}
 
+QPointF GraticuleLabels::onPage(QPointF const& point, Envelope const& extent) const {
+  return {left_ + (point.x() - extent.GetXMin()) * (right_ - left_) / extent.GetWidth(),
+          bottom_ + (point.y() - extent.GetYMin()) * (top_ - bottom_) / extent.GetHeight()};
+}
+
 QVector<QVector<QPointF>> GraticuleLabels::placed(GraticuleLine const& line, Envelope const& extent) const {
-  double const scaleX = (right_ - left_) / extent.GetWidth(), scaleY = (top_ - bottom_) / extent.GetHeight();
   OGRMultiLineString whole;
   for (QVector<QPointF> const& part : line.parts) {
     OGRLineString string;
     string.setNumPoints(part.size());
-    for (int i = 0; i < part.size(); ++i)
-      string.setPoint(i, left_ + (part[i].x() - extent.GetXMin()) * scaleX,
-                      bottom_ + (part[i].y() - extent.GetYMin()) * scaleY);
+    for (int i = 0; i < part.size(); ++i) {
+      QPointF const point = onPage(part[i], extent);
+      string.setPoint(i, point.x(), point.y());
+    }
     whole.addGeometry(&string);
   }
   SysGeometry::QuietOgr const quiet;
@@ -86,28 +102,38 @@ QVector<QVector<QPointF>> GraticuleLabels::placed(GraticuleLine const& line, Env
   return parts;
 }
 
-GraticuleLabels::Side GraticuleLabels::sideOf(QPointF const& point) const {
-  if (std::abs(point.x() - left_) < onSideCm) return Left;
-  if (std::abs(point.x() - right_) < onSideCm) return Right;
-  if (std::abs(point.y() - bottom_) < onSideCm) return Bottom;
-  if (std::abs(point.y() - top_) < onSideCm) return Top;
-  return None;
+// In a corner, the side on which the line is better labelled.
+GraticuleLabels::Side GraticuleLabels::sideOf(QPointF const& point, bool isMeridian) const {
+  Side const beside = std::abs(point.x() - left_) < onSideCm    ? Left
+                      : std::abs(point.x() - right_) < onSideCm ? Right
+                                                                : None;
+  Side const above = std::abs(point.y() - bottom_) < onSideCm ? Bottom
+                     : std::abs(point.y() - top_) < onSideCm  ? Top
+                                                              : None;
+  if (beside == None || above == None) return beside == None ? above : beside;
+  return isMeridian ? above : beside;
 }
 
-void GraticuleLabels::label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts) {
-  QVector<QPointF> wanted, others, ends;
-  for (QVector<QPointF> const& part : parts) {
-    bool const isClosed = QLineF(part.first(), part.last()).length() < closedCm;
+void GraticuleLabels::label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts, Envelope const& extent) {
+  QVector<QPointF> wanted, others;
+  for (QVector<QPointF> const& part : parts)
     for (QPointF const& point : {part.first(), part.last()}) {
-      Side const side = sideOf(point);
+      Side const side = sideOf(point, line.isMeridian);
       bool const isWanted = line.isMeridian == (side == Bottom || side == Top);
       if (side != None) (isWanted ? wanted : others) << point;
-      if (side == None && !isClosed && !line.isMeridian) ends << point;
     }
+  QVector<QLineF> ends;
+  for (QLineF const& end : line.ends) {
+    QLineF const placed(onPage(end.p1(), extent), onPage(end.p2(), extent));
+    bool const isInside = placed.x2() > left_ + onSideCm && placed.x2() < right_ - onSideCm &&
+                          placed.y2() > bottom_ + onSideCm && placed.y2() < top_ - onSideCm;
+    if (isInside) ends << placed;
   }
   QString const text = degreesText(line.degrees, line.isMeridian);
-  for (QPointF const& point : wanted.isEmpty() ? others : wanted) addOutside(text, point, sideOf(point));
-  for (QPointF const& point : qAsConst(ends)) addBeyond(text, point);
+  for (QPointF const& point : wanted.isEmpty() ? others : wanted)
+    addOutside(text, point, sideOf(point, line.isMeridian));
+  for (QLineF const& end : qAsConst(ends)) addBeyond(text, end, line.isMeridian);
+  if (wanted.isEmpty() && others.isEmpty() && ends.isEmpty()) addOn(text, parts, line.isMeridian);
 }
 
 // Beside the frame a label reads upwards, so that however long it is, it reaches no farther than its height.
@@ -123,15 +149,32 @@ void GraticuleLabels::addOutside(QString const& text, QPointF const& point, Side
   }
 }
 
-// The globe's edge leans towards the poles, so a label far from the middle is moved away from it in height, too.
-void GraticuleLabels::addBeyond(QString const& text, QPointF const& point) {
-  double const aside = point.x() - (left_ + right_) / 2, up = point.y() - (bottom_ + top_) / 2;
+// Above or below a meridian, where it ends more upright than level. The globe's edge leans towards the poles, so the
+// label of a parallel far from the middle is moved away from it in height, too.
+void GraticuleLabels::addBeyond(QString const& text, QLineF const& end, bool isMeridian) {
+  QPointF const point = end.p2();
+  if (isMeridian && std::abs(end.dy()) >= std::abs(end.dx()))
+    return add(text, {point.x(), point.y() + (end.dy() < 0 ? -gapCm_ : gapCm_)}, 0, HorizontalAlignment::Center,
+               end.dy() < 0 ? VerticalAlignment::Top : VerticalAlignment::Bottom);
+  double const aside = isMeridian ? end.dx() : point.x() - (left_ + right_) / 2;
+  double const up = isMeridian ? 0 : point.y() - (bottom_ + top_) / 2;
   bool const isMiddle = std::abs(up) < steepFrom * (top_ - bottom_) / 2;
   add(text, {point.x() + (aside < 0 ? -gapCm_ : gapCm_), point.y()}, 0,
       aside < 0 ? HorizontalAlignment::Right : HorizontalAlignment::Left,
       isMiddle ? VerticalAlignment::Middle
       : up < 0 ? VerticalAlignment::Top
                : VerticalAlignment::Bottom);
+}
+
+// At the lowest point of a parallel, which goes around a pole; halfway along a meridian, which goes from pole to pole.
+void GraticuleLabels::addOn(QString const& text, QVector<QVector<QPointF>> const& parts, bool isMeridian) {
+  if (parts.isEmpty()) return;
+  QVector<QPointF> const& part = parts.first();
+  auto const lowest = std::min_element(part.begin(), part.end(),
+                                       [](QPointF const& one, QPointF const& other) { return one.y() < other.y(); });
+  format_.haloSize = haloPt;
+  add(text, isMeridian ? halfwayAlong(part) : *lowest, 0, HorizontalAlignment::Center, VerticalAlignment::Middle);
+  format_.haloSize = 0;
 }
 
 void GraticuleLabels::add(QString const& text, QPointF const& position, double angle, HorizontalAlignment horizontal,

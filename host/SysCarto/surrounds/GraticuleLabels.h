@@ -23,18 +23,20 @@ public:
   QVector<QVector<QPointF>> placed(GraticuleLine const& line, SysGeometry::Envelope const& extent) const;
 
   /// Labels a line where its parts meet the sides of the rectangle: meridians above and below, parallels beside it; a
-  /// line that meets only the other sides, there. A parallel that ends with the globe has its label beyond its end.
-  /// A label that would lie on another is left out.
-  void label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts);
+  /// line that meets only the other sides, there. One that ends with the globe has its label beyond its end, and one
+  /// that has neither, such as a parallel around a pole, on itself. A label that would lie on another is left out.
+  void label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts, SysGeometry::Envelope const& extent);
 
   QList<SysUtility::_ptr_t<Element>> const& elements() const { return elements_; }
 
 private:
   enum Side { Left, Right, Bottom, Top, None };
 
-  Side sideOf(QPointF const& point) const;
+  QPointF onPage(QPointF const& point, SysGeometry::Envelope const& extent) const;
+  Side sideOf(QPointF const& point, bool isMeridian) const;
   void addOutside(QString const& text, QPointF const& point, Side side);
-  void addBeyond(QString const& text, QPointF const& point);
+  void addBeyond(QString const& text, QLineF const& end, bool isMeridian);
+  void addOn(QString const& text, QVector<QVector<QPointF>> const& parts, bool isMeridian);
   void add(QString const& text, QPointF const& position, double angle, SysDisplay::HorizontalAlignment horizontal,
            SysDisplay::VerticalAlignment vertical);
 

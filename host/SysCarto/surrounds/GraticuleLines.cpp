@@ -7,8 +7,11 @@
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace SysCarto {
 
@@ -22,6 +25,22 @@ constexpr double beside = 1e-6;     // degrees: how near to a cut a line may lie
 constexpr double quarter = 90;      // meridians at its multiples go on to the pole
 
 double inTurn(double longitude) { return std::remainder(longitude, 360.0); }
+
+// Meridians reach the line of a pole as slanted as the projection likes; what lies beyond is above or below it.
+QLineF upright(QLineF const& edge) { return {{edge.x2(), edge.y1()}, edge.p2()}; }
+
+// The first and last multiple of a step in a range, in steps.
+double firstIn(double from, double step) { return std::ceil(from / step - 1e-9); }
+double lastIn(double to, double step) { return std::floor(to / step + 1e-9); }
+
+// Whether another part of the line, or its own start, begins where an end is.
+bool goesOnFrom(QVector<QLineF> const& ends, int index) {
+  constexpr double samePlace = 1e-6;  // of the last edge
+  double const reach = std::max(samePlace * ends[index].length(), std::numeric_limits<double>::min());
+  for (int i = 0; i < ends.size(); ++i)
+    if (i != index && QLineF(ends[i].p2(), ends[index].p2()).length() <= reach) return true;
+  return false;
+}
 
 }  // namespace
 
@@ -71,15 +90,15 @@ GraticuleLines::Range GraticuleLines::rangeOf(Envelope const& extent) const {
 }
 
 GraticuleLines::Range GraticuleLines::grown(Range range, double middle, Envelope const& extent) const {
-  bool const northPole = shows(middle, 90, extent), southPole = shows(middle, -90, extent);
+  range.northPole = poleAt(90, middle, extent);
+  range.southPole = poleAt(-90, middle, extent);
   double const growX = (range.east - range.west) / samples, growY = (range.north - range.south) / samples;
-  range.north = northPole ? 90 : std::min(90.0, range.north + growY);
-  range.south = southPole ? -90 : std::max(-90.0, range.south - growY);
+  range.north = range.northPole != Pole::Hidden ? 90 : std::min(90.0, range.north + growY);
+  range.south = range.southPole != Pole::Hidden ? -90 : std::max(-90.0, range.south - growY);
   range.west -= growX;
   range.east += growX;
-  range.meetsInNorth = northPole && meridiansMeetAt(90, extent);
-  range.meetsInSouth = southPole && meridiansMeetAt(-90, extent);
-  if (range.meetsInNorth || range.meetsInSouth || range.east - range.west > fullCircle) {
+  bool const isRound = range.northPole == Pole::Point || range.southPole == Pole::Point;
+  if (isRound || range.east - range.west > fullCircle) {
     range.west = -180;
     range.east = 180;
   }
@@ -93,11 +112,35 @@ double GraticuleLines::count(Envelope const& extent, double interval) const {
 }
 
 // A pole may also be a line, as long as the equator or shorter.
-bool GraticuleLines::meridiansMeetAt(double latitude, Envelope const& extent) const {
-  constexpr double samePlace = 1e-6;  // of the extent
+GraticuleLines::Pole GraticuleLines::poleAt(double latitude, double longitude, Envelope const& extent) const {
+  constexpr double samePlace = 1e-4;  // of the extent
+  if (!shows(longitude, latitude, extent)) return Pole::Hidden;
   double x = 0, y = latitude, turnedX = quarter, turnedY = latitude;
-  return toMap_->apply(x, y) && toMap_->apply(turnedX, turnedY) &&
-         std::hypot(turnedX - x, turnedY - y) < samePlace * std::hypot(extent.GetWidth(), extent.GetHeight());
+  bool const meets =
+      toMap_->apply(x, y) && toMap_->apply(turnedX, turnedY) &&
+      std::hypot(turnedX - x, turnedY - y) < samePlace * std::hypot(extent.GetWidth(), extent.GetHeight());
+  return meets ? Pole::Point : Pole::Line;
+}
+
+// The middle alone would not do: it may be a pole, where a degree of longitude has no length.
+GraticuleStep GraticuleLines::degreeSize(Envelope const& extent) const {
+  constexpr double measured = 1e-3;  // degrees
+  GraticuleStep sum{0, 0};
+  int count = 0;
+  for (QPointF const& place :
+       {QPointF(0.5, 0.5), QPointF(0.25, 0.25), QPointF(0.75, 0.25), QPointF(0.25, 0.75), QPointF(0.75, 0.75)}) {
+    double x = extent.GetXMin() + place.x() * extent.GetWidth(), y = extent.GetYMin() + place.y() * extent.GetHeight();
+    if (!projector_ || !toGlobe_->apply(x, y)) continue;
+    double const toEquator = y > 0 ? -measured : measured;
+    std::vector<double> ends{x, y, inTurn(x + measured), y, x, y + toEquator};
+    toMap_->apply(ends);
+    double const alongX = std::hypot(ends[2] - ends[0], ends[3] - ends[1]),
+                 alongY = std::hypot(ends[4] - ends[0], ends[5] - ends[1]);
+    if (!std::isfinite(alongX + alongY)) continue;
+    sum = {sum.longitude + alongX / measured, sum.latitude + alongY / measured};
+    ++count;
+  }
+  return count > 0 ? GraticuleStep{sum.longitude / count, sum.latitude / count} : sum;
 }
 
 // Whether the two sides of a meridian lie at different places of the map.
@@ -108,56 +151,76 @@ bool GraticuleLines::isCutAt(double longitude) const {
   return toMap_->apply(far, farY) && std::hypot(east - west, eastY - westY) > std::hypot(far - east, farY - eastY);
 }
 
-QVector<GraticuleLine> GraticuleLines::lines(Envelope const& extent, double interval) const {
+QVector<GraticuleLine> GraticuleLines::lines(Envelope const& extent, GraticuleStep const& interval) const {
   QVector<GraticuleLine> lines;
-  if (!projector_ || !(interval > 0)) return lines;
+  if (!projector_ || !(interval.longitude > 0 && interval.latitude > 0)) return lines;
   Range const range = rangeOf(extent);
   bool const isWhole = range.east - range.west >= 360;
-  auto const first = [&](double from) { return std::ceil(from / interval - 1e-9); };
-  auto const last = [&](double to) { return std::floor(to / interval + 1e-9); };
-
-  // Short of a pole, where meridians would run into each other, only four of them go on.
-  double const shortNorth =
-      range.meetsInNorth ? std::min(range.north, last(90 - interval / 2) * interval) : range.north;
-  double const shortSouth =
-      range.meetsInSouth ? std::max(range.south, first(interval / 2 - 90) * interval) : range.south;
-  for (double i = first(range.west); i <= last(range.east); ++i) {
-    double const longitude = i * interval;
+  for (double i = firstIn(range.west, interval.longitude); i <= lastIn(range.east, interval.longitude); ++i) {
+    double const longitude = i * interval.longitude;
     if (isWhole && longitude >= 180 - beside) continue;  // is −180, too
-    bool const goesOn = std::abs(std::remainder(longitude, quarter)) < beside;
-    double const south = goesOn ? range.south : shortSouth, north = goesOn ? range.north : shortNorth;
-    if (!isCutAt(longitude)) {
-      add(lines, true, longitude, {longitude, south}, {longitude, north});
-      continue;
-    }
-    for (double side : {longitude - beside, longitude + beside}) {
-      double const turned = inTurn(side);
-      add(lines, true, longitude, {turned, south}, {turned, north});
-    }
+    addMeridian(lines, longitude, interval.latitude, range);
   }
-  for (double i = first(range.south); i <= last(range.north); ++i) {
-    double const latitude = i * interval;
-    if (std::abs(latitude) < 90 - beside) add(lines, false, latitude, {range.west, latitude}, {range.east, latitude});
+  for (double i = firstIn(range.south, interval.latitude); i <= lastIn(range.north, interval.latitude); ++i) {
+    double const latitude = i * interval.latitude;
+    if (std::abs(latitude) > 90 - beside && (latitude > 0 ? range.northPole : range.southPole) != Pole::Line) continue;
+    lines << made(false, latitude, {range.west, latitude, range.east, latitude});
   }
+  lines.erase(std::remove_if(lines.begin(), lines.end(), [](auto const& line) { return line.parts.isEmpty(); }),
+              lines.end());
   return lines;
 }
 
-void GraticuleLines::add(QVector<GraticuleLine>& lines, bool isMeridian, double degrees, QPointF const& from,
-                         QPointF const& to) const {
+// Short of a pole, where meridians would run into each other, only four of them go on.
+void GraticuleLines::addMeridian(QVector<GraticuleLine>& lines, double longitude, double step,
+                                 Range const& range) const {
+  bool const goesOn = std::abs(std::remainder(longitude, quarter)) < beside;
+  bool const meetsInNorth = range.northPole == Pole::Point, meetsInSouth = range.southPole == Pole::Point;
+  double const north = meetsInNorth && !goesOn ? lastIn(90 - step / 2, step) * step : range.north;
+  double const south = meetsInSouth && !goesOn ? firstIn(step / 2 - 90, step) * step : range.south;
+  bool const isCut = isCutAt(longitude);
+  for (double const side :
+       isCut ? std::vector<double>{longitude - beside, longitude + beside} : std::vector<double>{longitude}) {
+    double const turned = isCut ? inTurn(side) : longitude;
+    GraticuleLine line = made(true, longitude, {turned, south, turned, north});
+    if (!line.ends.isEmpty()) {
+      if (meetsInNorth) line.ends.removeLast();
+      if (range.northPole == Pole::Line) line.ends.last() = upright(line.ends.last());
+    }
+    if (!line.ends.isEmpty()) {
+      if (meetsInSouth) line.ends.removeFirst();
+      if (range.southPole == Pole::Line) line.ends.first() = upright(line.ends.first());
+    }
+    lines << line;
+  }
+}
+
+GraticuleLine GraticuleLines::made(bool isMeridian, double degrees, QLineF const& onGlobe) const {
   OGRLineString line;
-  line.addPoint(from.x(), from.y());
-  line.addPoint(to.x(), to.y());
+  line.addPoint(onGlobe.x1(), onGlobe.y1());
+  line.addPoint(onGlobe.x2(), onGlobe.y2());
   FeatureStore store;
   store.beginFeature();
   projector_->add(line, store);
   store.endFeature(0, QString(), 0);
-  GraticuleLine result{isMeridian, degrees, {}};
+  GraticuleLine result{isMeridian, degrees, {}, {}};
+  QVector<QLineF> ends;
   for (Part const& part : store.parts) {
+    if (part.count < 2) continue;
     QVector<QPointF> points;
     for (int i = 0; i < part.count; ++i) points << QPointF(part.xy[2 * i], part.xy[2 * i + 1]);
+    ends << QLineF(points[1], points[0]) << QLineF(points[points.size() - 2], points.last());
     result.parts << points;
   }
-  if (!result.parts.isEmpty()) lines << result;
+  for (int i = 0; i < ends.size(); ++i)
+    if (!goesOnFrom(ends, i)) result.ends << ends[i];
+  return result;
+}
+
+static QString hemisphere(bool isLongitude, bool isNegative) {
+  if (isLongitude)
+    return isNegative ? QCoreApplication::translate("Graticule", "W") : QCoreApplication::translate("Graticule", "E");
+  return isNegative ? QCoreApplication::translate("Graticule", "S") : QCoreApplication::translate("Graticule", "N");
 }
 
 QString degreesText(double degrees, bool isLongitude) {
@@ -170,7 +233,7 @@ QString degreesText(double degrees, bool isLongitude) {
   if (seconds > 0) text += QLatin1String(seconds < 10 ? "0" : "") + QStringLiteral("%1″").arg(seconds, 0, 'g', 4);
   bool const hasSide = hundredths > 0 && !(isLongitude && hundredths == 180 * 360000.0);
   if (!hasSide) return text;
-  return text + QLatin1Char(isLongitude ? (turned < 0 ? 'W' : 'E') : (turned < 0 ? 'S' : 'N'));
+  return text + hemisphere(isLongitude, turned < 0);
 }
 
 }  // namespace SysCarto

@@ -2,6 +2,7 @@
 
 #include <SysGeometry/Envelope.h>
 
+#include <QLineF>
 #include <QPointF>
 #include <QString>
 #include <QVector>
@@ -18,6 +19,12 @@ struct GraticuleLine {
   bool isMeridian;
   double degrees;
   QVector<QVector<QPointF>> parts;  ///< in map units
+  QVector<QLineF> ends;  ///< where it ends with the globe: edges outwards. Not where meridians meet in a pole.
+};
+
+/// An amount for either direction of the globe: degrees between two lines, or map units in a degree.
+struct GraticuleStep {
+  double longitude, latitude;
 };
 
 /// The meridians and parallels of a coordinate system.
@@ -32,24 +39,29 @@ public:
   /// How many lines run through an extent; `interval` in degrees.
   double count(SysGeometry::Envelope const& extent, double interval) const;
 
-  /// The lines at the multiples of the interval, a little beyond the extent. They are cut where the projection is cut,
-  /// and curves are made of short edges.
-  QVector<GraticuleLine> lines(SysGeometry::Envelope const& extent, double interval) const;
+  /// Map units in a degree: the mean of a few places of the extent. 0 where the extent has no globe.
+  GraticuleStep degreeSize(SysGeometry::Envelope const& extent) const;
+
+  /// The lines at the multiples of an interval in degrees, a little beyond the extent. They are cut where the
+  /// projection is cut, and curves are made of short edges.
+  QVector<GraticuleLine> lines(SysGeometry::Envelope const& extent, GraticuleStep const& interval) const;
 
 private:
+  enum class Pole { Hidden, Point, Line };
+
   // Longitudes are counted on from −180 or below, so that a range may lie across the antimeridian.
   struct Range {
     double west, east, south, north;
-    bool meetsInNorth = false, meetsInSouth = false;  // whether it holds a pole in which the meridians meet
+    Pole southPole = Pole::Hidden, northPole = Pole::Hidden;
   };
 
   Range rangeOf(SysGeometry::Envelope const& extent) const;
   Range grown(Range range, double middle, SysGeometry::Envelope const& extent) const;
   bool shows(double longitude, double latitude, SysGeometry::Envelope const& extent) const;
-  bool meridiansMeetAt(double latitude, SysGeometry::Envelope const& extent) const;
+  Pole poleAt(double latitude, double longitude, SysGeometry::Envelope const& extent) const;
   bool isCutAt(double longitude) const;
-  void add(QVector<GraticuleLine>& lines, bool isMeridian, double degrees, QPointF const& from,
-           QPointF const& to) const;
+  void addMeridian(QVector<GraticuleLine>& lines, double longitude, double step, Range const& range) const;
+  GraticuleLine made(bool isMeridian, double degrees, QLineF const& onGlobe) const;
 
   std::unique_ptr<GeometryProjector> projector_;
   std::unique_ptr<PointTransform> toGlobe_, toMap_;

@@ -28,9 +28,16 @@ constexpr double titleGap = 6;  // below the title
 constexpr double columnGap = 16;
 constexpr int mostColumns = 12;
 
-double heightOf(_ptr_t<Symbol> const& symbol) {
-  auto const marker = ptr_cast<MarkerSymbol>(symbol);
-  return marker ? std::max(patchHeight, unitBounds(*marker).height() * marker->GetSize()) : patchHeight;
+// What a symbol covers about the middle of its patch.
+QSizeF sizeOf(_ptr_t<Symbol> const& symbol) {
+  QSizeF const patch(patchWidth, patchHeight);
+  if (auto const marker = ptr_cast<MarkerSymbol>(symbol))
+    return patch.expandedTo(unitBounds(*marker).size() * marker->GetSize());
+  if (auto const line = ptr_cast<LineSymbol>(symbol))
+    return patch.expandedTo({patchWidth, line->GetWidth() + 2 * std::abs(line->GetOffset())});
+  auto const fill = ptr_cast<FillSymbol>(symbol);
+  auto const outline = fill ? fill->GetOutlineSymbol() : nullptr;
+  return outline ? patch + QSizeF(outline->GetWidth(), outline->GetWidth()) : patch;
 }
 
 }  // namespace
@@ -50,12 +57,15 @@ void LegendLayout::measure(QString const& title, QVector<LegendRow> const& rows)
   titleWidth_ = titleBounds.width();
   titleHeight_ = title.isEmpty() ? 0 : titleBounds.height() + titleGap;
   sizes_.clear();
+  patchesWidth_ = 0;
+  for (LegendRow const& row : rows)
+    if (row.symbol) patchesWidth_ = std::max(patchesWidth_, sizeOf(row.symbol).width());
   for (int i = 0; i < rows.size(); ++i) {
     LegendRow const& row = rows[i];
     bool const isHeading = row.kind == LegendRow::Heading;
     QRectF const text = (isHeading ? lettering_.heading : lettering_.label)->bounds(row.text);
-    double const height = isHeading ? text.height() : std::max(text.height(), heightOf(row.symbol));
-    sizes_ << Measured{height, text.width() + (isHeading ? 0 : patchWidth + patchGap), spaceAbove(rows, i)};
+    double const height = isHeading ? text.height() : std::max(text.height(), sizeOf(row.symbol).height());
+    sizes_ << Measured{height, text.width() + (isHeading ? 0 : patchesWidth_ + patchGap), spaceAbove(rows, i)};
   }
 }
 
@@ -134,20 +144,26 @@ QList<_ptr_t<Element>> LegendLayout::elements(QString const& title, QVector<Lege
 void LegendLayout::addRow(LegendRow const& row, Measured const& size, double x, double y) {
   auto const& symbol = row.kind == LegendRow::Heading ? lettering_.heading : lettering_.label;
   double const textHeight = symbol->bounds(row.text).height() / factor_;
-  double const indent = row.kind == LegendRow::Heading ? 0 : patchWidth + patchGap;
-  addPatch(row.symbol, x, y + size.height / 2);
+  double const indent = row.kind == LegendRow::Heading ? 0 : patchesWidth_ + patchGap;
+  addPatch(row.symbol, x + patchesWidth_ / 2, y + size.height / 2);
   pieces_ << textPiece(row.text, symbol, onPage(x + indent, y + (size.height - textHeight) / 2));
 }
 
-void LegendLayout::addPatch(_ptr_t<Symbol> const& symbol, double x, double middle) {
-  QPointF const upperLeft = onPage(x, middle - patchHeight / 2),
-                lowerRight = onPage(x + patchWidth, middle + patchHeight / 2);
-  if (auto const marker = ptr_cast<MarkerSymbol>(symbol))
-    pieces_ << markerPiece(onPage(x + patchWidth / 2, middle), marker);
-  else if (auto const line = ptr_cast<LineSymbol>(symbol))
-    pieces_ << linePiece({onPage(x, middle), onPage(x + patchWidth, middle)}, line);
-  else if (auto const fill = ptr_cast<FillSymbol>(symbol))
-    pieces_ << rectanglePiece(upperLeft.x(), lowerRight.y(), lowerRight.x(), upperLeft.y(), fill);
+// Symbols get smaller with the legend, so that none covers more than was measured.
+void LegendLayout::addPatch(_ptr_t<Symbol> const& symbol, double middleX, double middleY) {
+  QPointF const upperLeft = onPage(middleX - patchWidth / 2, middleY - patchHeight / 2),
+                lowerRight = onPage(middleX + patchWidth / 2, middleY + patchHeight / 2);
+  if (auto const marker = ptr_cast<MarkerSymbol>(symbol)) {
+    QPointF const offCentre = unitBounds(*marker).center() * marker->GetSize();
+    pieces_ << markerPiece(onPage(middleX - offCentre.x(), middleY - offCentre.y()), resized(*marker, factor_));
+  } else if (auto const line = ptr_cast<LineSymbol>(symbol)) {
+    QPointF const start = onPage(middleX - patchWidth / 2, middleY), end = onPage(middleX + patchWidth / 2, middleY);
+    pieces_ << linePiece({start, end}, resized(*line, factor_));
+  } else if (auto const fill = ptr_cast<FillSymbol>(symbol)) {
+    auto const patch = ptr_cast<FillSymbol>(fill->Clone());
+    if (auto const outline = fill->GetOutlineSymbol()) patch->SetOutlineSymbol(resized(*outline, factor_));
+    pieces_ << rectanglePiece(upperLeft.x(), lowerRight.y(), lowerRight.x(), upperLeft.y(), patch);
+  }
 }
 
 QPointF LegendLayout::onPage(double x, double y) const {

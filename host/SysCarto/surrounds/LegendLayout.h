@@ -49,12 +49,12 @@ private:
   QVector<Column> columnsOf(QVector<LegendRow> const& rows, double mostHeight) const;
   Arrangement arrange(QVector<LegendRow> const& rows, int columns, SysGeometry::Envelope const& area) const;
   void addRow(LegendRow const& row, Measured const& size, double x, double y);
-  void addPatch(SysUtility::_ptr_t<SysDisplay::Symbol> const& symbol, double x, double middle);
+  void addPatch(SysUtility::_ptr_t<SysDisplay::Symbol> const& symbol, double middleX, double middleY);
   QPointF onPage(double x, double y) const;
 
   LegendLettering lettering_;
   QVector<Measured> sizes_;
-  double titleWidth_ = 0, titleHeight_ = 0;
+  double titleWidth_ = 0, titleHeight_ = 0, patchesWidth_ = 0;
   double left_ = 0, top_ = 0, factor_ = 1;  // of the arrangement on the page, in centimetres
   QList<SysUtility::_ptr_t<Element>> pieces_;
 };

@@ -66,6 +66,19 @@ _ptr_t<TextSymbol> resized(TextSymbol const& symbol, double factor) {
   return make<TextSymbol>(format);
 }
 
+_ptr_t<MarkerSymbol> resized(MarkerSymbol const& symbol, double factor) {
+  auto const made = ptr_cast<MarkerSymbol>(symbol.Clone());
+  made->SetSize(symbol.GetSize() * factor);
+  return made;
+}
+
+_ptr_t<LineSymbol> resized(LineSymbol const& symbol, double factor) {
+  auto const made = ptr_cast<LineSymbol>(symbol.Clone());
+  made->SetWidth(symbol.GetWidth() * factor);
+  made->SetOffset(symbol.GetOffset() * factor);
+  return made;
+}
+
 // The locale of programs ("C") groups nothing; people who have chosen none read the English way.
 QString grouped(double number) {
   QLocale const locale = QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale();

@@ -32,6 +32,8 @@ QRectF unitBounds(SysDisplay::MarkerSymbol const& symbol);
 
 /// The symbol with every length multiplied.
 SysUtility::_ptr_t<SysDisplay::TextSymbol> resized(SysDisplay::TextSymbol const& symbol, double factor);
+SysUtility::_ptr_t<SysDisplay::MarkerSymbol> resized(SysDisplay::MarkerSymbol const& symbol, double factor);
+SysUtility::_ptr_t<SysDisplay::LineSymbol> resized(SysDisplay::LineSymbol const& symbol, double factor);
 
 /// A number with the thousands separators of the user's language, and no more decimals than it has.
 QString grouped(double number);

@@ -110,11 +110,17 @@ struct ScaleLine::Private {
 
 namespace {
 
-// Lays a bar out in a rectangle: numbers above it, the whole in the middle.
+// Lays a bar out in a rectangle: numbers above it, the whole in the middle, and less high where it would not fit.
 class BarLayout {
 public:
   BarLayout(SysGeometry::Envelope const& area, _ptr_t<TextSymbol> const& text, double heightPt)
-      : area_(area), text_(text), barCm_(heightPt * cmPerPoint) {}
+      : area_(area), text_(text), barCm_(heightPt * cmPerPoint) {
+    double const fits = area.GetHeight() / height();
+    if (fits >= 1) return;
+    text_ = resized(*text, fits);
+    barCm_ *= fits;
+    gapCm_ *= fits;
+  }
 
   std::optional<Bar> fit(double metresPerCm, BarUnit unit) const {
     // How far the numbers reach beyond the ends depends on the bar, which depends on the room that they leave.
@@ -125,10 +131,8 @@ public:
   }
 
   QList<_ptr_t<Element>> elements(Bar const& bar, BarStyle style, QColor const& color, QColor const& second) {
-    double const textCm = text_->bounds(numberAt(bar, 0)).height() * cmPerPoint;
-    double const height = barCm_ + gapPt * cmPerPoint + textCm;
     left_ = area_.GetXMin() + (area_.GetWidth() - bar.lengthCm - overhang(bar)) / 2 + widthOf(numberAt(bar, 0)) / 2;
-    bottom_ = area_.GetYMin() + (area_.GetHeight() - height) / 2;
+    bottom_ = area_.GetYMin() + (area_.GetHeight() - height()) / 2;
     stepCm_ = bar.lengthCm / bar.divisions;
     pieces_.clear();
     if (style == BarStyle::Ticks)
@@ -140,6 +144,7 @@ public:
   }
 
 private:
+  double height() const { return barCm_ + gapCm_ + text_->bounds(QStringLiteral("0")).height() * cmPerPoint; }
   QString numberAt(Bar const& bar, int division) const { return grouped(bar.step * division); }
   QString unitText(Bar const& bar) const { return QStringLiteral(" ") + QLatin1String(bar.unit->sign); }
   double widthOf(QString const& text) const { return text_->bounds(text).width() * cmPerPoint; }
@@ -191,14 +196,14 @@ private:
       ++every;
     for (int i = 0; i <= bar.divisions; i += every) {
       QString const number = numberAt(bar, i);
-      QPointF const position(left_ + i * stepCm_ - widthOf(number) / 2, bottom_ + barCm_ + gapPt * cmPerPoint);
+      QPointF const position(left_ + i * stepCm_ - widthOf(number) / 2, bottom_ + barCm_ + gapCm_);
       pieces_ << textPiece(i == bar.divisions ? number + unitText(bar) : number, text_, position);
     }
   }
 
   SysGeometry::Envelope const area_;
-  _ptr_t<TextSymbol> const text_;
-  double const barCm_;
+  _ptr_t<TextSymbol> text_;
+  double barCm_, gapCm_ = gapPt * cmPerPoint;
   double left_ = 0, bottom_ = 0, stepCm_ = 0;
   QList<_ptr_t<Element>> pieces_;
 };

@@ -14,9 +14,13 @@ public:
   BaseTool& operator=(BaseTool const&);
   ~BaseTool() override;
 
-  /// Whether the tool is the current one.
-  bool IsChecked() override;
+protected:
+  BaseTool();
 
+  /// Makes this the view's cursor while the tool is current.
+  virtual void SetCurrentCursor(QCursor const& cursor);
+
+public:
   QCursor GetCursor() override;
   bool Activate() override;
   bool Deactivate() override;
@@ -32,11 +36,8 @@ public:
   void OnLeaveEvent(QEvent* event) override;
   bool OnWheelEvent(QWheelEvent* event) override;
 
-protected:
-  BaseTool();
-
-  /// Makes this the view's cursor while the tool is current.
-  virtual void SetCurrentCursor(QCursor const& cursor);
+  /// Whether the tool is the current one.
+  bool IsChecked() override;
 
 private:
   QCursor cursor_;

@@ -104,6 +104,55 @@ private slots:
       QVERIFY(!isBlank(image, place));
   }
 
+  void everyLineHasItsLabel_data() {
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<Envelope>("bounds");
+    QTest::addColumn<double>("interval");
+    QTest::addColumn<QVector<QPoint>>("labels");  // pixels
+    QTest::addColumn<QVector<QPoint>>("bare");
+    using Points = QVector<QPoint>;
+    QTest::newRow("a parallel around a pole, on its lowest point")
+        << "EPSG:3995" << Envelope(-2500000, -2000000, 2500000, 2000000) << 10.0 << Points{{240, 287}}
+        << Points{{240, 113}};
+    QTest::newRow("meridians from pole to pole, on the equator")
+        << "ESRI:54009" << Envelope(-20000000, -16000000, 20000000, 16000000) << 45.0
+        << Points{{195, 200}, {285, 200}, {240, 200}} << Points{{240, 105}};
+    QTest::newRow("meridians that end in the line of a pole, beyond it")
+        << "ESRI:54030" << Envelope(-20000000, -16000000, 20000000, 16000000) << 90.0
+        << Points{{240, 107}, {240, 293}, {288, 107}} << Points{{240, 200}};
+    QTest::newRow("lines along the sides of the frame, in its corners")
+        << "EPSG:4326" << Envelope(-25, -20, 25, 20) << 25.0 << Points{{40, 33}, {40, 367}, {33, 200}}
+        << Points{{33, 50}};
+  }
+
+  void everyLineHasItsLabel() {
+    QFETCH(QString, system);
+    QFETCH(Envelope, bounds);
+    QFETCH(double, interval);
+    QFETCH(QVector<QPoint>, labels);
+    QFETCH(QVector<QPoint>, bare);
+    QImage const with = drawn(*frameWith(system, bounds, {{"interval", interval}}));
+    QImage const without = drawn(*frameWith(system, bounds, {{"interval", interval}, {"labels", false}}));
+    auto const isLabelled = [&](QPoint const& place) {
+      QRect const around(place - QPoint(4, 4), QSize(9, 9));
+      return with.copy(around) != without.copy(around);
+    };
+    for (QPoint const& place : labels)
+      QVERIFY2(isLabelled(place), qPrintable(QString("%1 %2").arg(place.x()).arg(place.y())));
+    for (QPoint const& place : bare)
+      QVERIFY2(!isLabelled(place), qPrintable(QString("%1 %2").arg(place.x()).arg(place.y())));
+  }
+
+  // In Svalbard a degree of longitude is a fifth as long as one of latitude.
+  void theIntervalFollowsEitherDirection() {
+    Envelope const bounds(350000, 8400000, 850000, 8800000);
+    QImage const image = drawn(*frameWith("EPSG:32633", bounds, {{"labels", false}}));
+    int crossed = 0;
+    for (int x = framePx.left() + 2; x < framePx.right() - 2; ++x)
+      if (image.pixelColor(x, 200) != Qt::white && image.pixelColor(x - 1, 200) == Qt::white) ++crossed;
+    QVERIFY2(crossed >= 2 && crossed <= 5, qPrintable(QString::number(crossed)));
+  }
+
   void aDrawingInTilesIsTheWholeOne() {
     auto const frame = frameWith("EPSG:3035", Envelope(3000000, 2000000, 5000000, 3600000), {});
     QImage const whole = drawn(*frame);

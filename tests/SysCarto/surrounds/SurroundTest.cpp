@@ -72,22 +72,25 @@ QStringList textsOf(MapSurroundFrame const& frame) {
 }
 
 // The page from (0, 0) to (10, 8) centimetres, at 40 pixels a centimetre.
-QImage drawn(Element& element) {
-  QImage image(400, 320, QImage::Format_RGBA8888_Premultiplied);
-  image.fill(Qt::white);
+_ptr_t<DisplayTransformation> pageTransformation() {
   auto const transformation = make<DisplayTransformation>();
-  transformation->SetDeviceFrame(image.rect());
+  transformation->SetDeviceFrame(QRect(0, 0, 400, 320));
   transformation->SetVisibleBounds(make<Envelope>(0.0, 0.0, frameWidthCm, frameHeightCm));
   transformation->SetPageScale(40 * 2.54 / 96);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  element.Draw(painter, transformation, nullptr);
-  return image;
+  return transformation;
 }
 
 QImage blank() {
   QImage image(400, 320, QImage::Format_RGBA8888_Premultiplied);
   image.fill(Qt::white);
+  return image;
+}
+
+QImage drawn(Element& element) {
+  QImage image = blank();
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  element.Draw(painter, pageTransformation(), nullptr);
   return image;
 }
 
@@ -249,6 +252,44 @@ private slots:
       if (element->GetType() == 4) lefts << qRound(box->GetXMin() * 100);
     }
     QCOMPARE(lefts.size(), columns);
+  }
+
+  // However big the symbols of the map are, and however small the frame.
+  void symbolsOfALegendKeepTheirPlace_data() {
+    QTest::addColumn<Envelope>("rectangle");
+    QTest::newRow("in full size") << whole;
+    QTest::newRow("smaller") << Envelope(4, 4, 6, 5.5);
+  }
+
+  void symbolsOfALegendKeepTheirPlace() {
+    QFETCH(Envelope, rectangle);
+    auto const map = mapOf("", 0, 0, 1000);
+    auto const marker = make<SysDisplay::SimpleMarkerSymbol>();
+    marker->SetSize(60);
+    auto const line = make<SysDisplay::SimpleLineSymbol>();
+    line->SetWidth(30);
+    for (auto const& symbol : QList<_ptr_t<SysDisplay::Symbol>>{line, marker}) addLayer(*map, "Layer", symbol);
+    auto const frame = framed<Legend>(map, rectangle);
+    auto const transformation = pageTransformation();
+    QVector<QRectF> boxes;
+    for (auto const& element : frame->GetMapSurround()->GetElements()) {
+      auto const box = element->GetBoundary(transformation)->GetEnvelope();
+      QRectF const covered(box->GetXMin(), box->GetYMin(), box->GetWidth(), box->GetHeight());
+      QVERIFY(covered.left() > rectangle.GetXMin() - 0.05 && covered.right() < rectangle.GetXMax() + 0.05);
+      QVERIFY(covered.top() > rectangle.GetYMin() - 0.05 && covered.bottom() < rectangle.GetYMax() + 0.05);
+      for (QRectF const& other : qAsConst(boxes))
+        QVERIFY(!other.intersects(covered.adjusted(0.06, 0.06, -0.06, -0.06)));
+      boxes << covered;
+    }
+    QCOMPARE(boxes.size(), 5);
+  }
+
+  void aScaleBarFitsAFlatFrame() {
+    Envelope const rectangle(0, 5, 10, 5.2);
+    for (auto const& element : framed<ScaleLine>(mapOf("", 0, 0, 1000), rectangle)->GetMapSurround()->GetElements()) {
+      auto const box = element->GetEnvelope();
+      QVERIFY(box->GetYMin() > rectangle.GetYMin() - 0.01 && box->GetYMax() < rectangle.GetYMax() + 0.01);
+    }
   }
 
   void aNorthArrowPointsToTrueNorthWhereAsked() {
