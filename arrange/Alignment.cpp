@@ -16,7 +16,7 @@ struct AlignmentCommand::Row {
   char const* context;
   char const* operation;
   double (*value)(Envelope const&);
-  double alongX, alongY;  // what part of the distance an element moves in x and in y
+  bool movesInX;  // in y otherwise
 };
 
 namespace {
@@ -30,17 +30,17 @@ double middle(Envelope const& e) { return (e.GetYMax() + e.GetYMin()) * 0.5; }
 
 // clang-format off
 constexpr AlignmentCommand::Row leftRow = {"LeftAlignmentElement",
-    QT_TRANSLATE_NOOP("LeftAlignmentElement", "Aligh the selected elements to the left"), left, 1.0, 0.0};
+    QT_TRANSLATE_NOOP("LeftAlignmentElement", "Aligh the selected elements to the left"), left, true};
 constexpr AlignmentCommand::Row rightRow = {"RightAlignmentElement",
-    QT_TRANSLATE_NOOP("RightAlignmentElement", "Align the selected elements to the right"), right, 1.0, 0.0};
+    QT_TRANSLATE_NOOP("RightAlignmentElement", "Align the selected elements to the right"), right, true};
 constexpr AlignmentCommand::Row topRow = {"TopAlignmentElement",
-    QT_TRANSLATE_NOOP("TopAlignmentElement", "Align the selected elements to the top"), top, 0.0, 1.0};
+    QT_TRANSLATE_NOOP("TopAlignmentElement", "Align the selected elements to the top"), top, false};
 constexpr AlignmentCommand::Row bottomRow = {"BottomAlignmentElement",
-    QT_TRANSLATE_NOOP("BottomAlignmentElement", "Align the selected elements to ther bottom"), bottom, 0.0, 1.0};
+    QT_TRANSLATE_NOOP("BottomAlignmentElement", "Align the selected elements to ther bottom"), bottom, false};
 constexpr AlignmentCommand::Row centreRow = {"CenterAlignmentElement",
-    QT_TRANSLATE_NOOP("CenterAlignmentElement", "Align the selected elements to the horizontal center"), centre, 1.0, 0.0};
+    QT_TRANSLATE_NOOP("CenterAlignmentElement", "Align the selected elements to the horizontal center"), centre, true};
 constexpr AlignmentCommand::Row middleRow = {"VerticalCenterAlignmentElement",
-    QT_TRANSLATE_NOOP("VerticalCenterAlignmentElement", "Align the selected elements to the vertical center"), middle, 0.0, 1.0};
+    QT_TRANSLATE_NOOP("VerticalCenterAlignmentElement", "Align the selected elements to the vertical center"), middle, false};
 // clang-format on
 
 int requiredCount(bool toMargins) { return toMargins ? 1 : 2; }
@@ -80,7 +80,7 @@ void AlignmentCommand::OnClick() {
     for (int i = toMargins ? 0 : 1; i < selection.size(); ++i) {
       auto const moved = selection[i]->Clone();
       double const distance = reference - valueOf(*moved);
-      moved->Move(distance * row_->alongX, distance * row_->alongY);
+      row_->movesInX ? moved->Move(distance, 0.0) : moved->Move(0.0, distance);
       active.container->ReplaceElement(selection[i]->GetHandle(), moved);
     }
   }

@@ -23,7 +23,7 @@ struct DistributionCommand::Row {
   double (Envelope::*high)() const;
   double (Envelope::*size)() const;
   double (Envelope::*sortKey)() const;
-  double alongX, alongY;
+  bool movesInX;
 };
 
 namespace {
@@ -34,10 +34,10 @@ using Elements = QList<_ptr_t<Element>>;
 // clang-format off
 constexpr DistributionCommand::Row horizontally = {"DistributeHorizontallyElements",
     QT_TRANSLATE_NOOP("DistributeHorizontallyElements", "Distribute the selected elements evenly in the horizontal direction"),
-    &Point::GetX, &Envelope::GetXMin, &Envelope::GetXMax, &Envelope::GetWidth,  &Envelope::GetXMax, 1.0, 0.0};
+    &Point::GetX, &Envelope::GetXMin, &Envelope::GetXMax, &Envelope::GetWidth,  &Envelope::GetXMax, true};
 constexpr DistributionCommand::Row vertically = {"DistributeVerticallyElements",
     QT_TRANSLATE_NOOP("DistributeVerticallyElements", "Distribute the selected elements evenly in the vertical direction"),
-    &Point::GetY, &Envelope::GetYMin, &Envelope::GetYMax, &Envelope::GetHeight, &Envelope::GetYMin, 0.0, 1.0};
+    &Point::GetY, &Envelope::GetYMin, &Envelope::GetYMax, &Envelope::GetHeight, &Envelope::GetYMin, false};
 // clang-format on
 
 double ofOwnRectangle(Element const& element, double (Envelope::*value)() const) {
@@ -83,15 +83,13 @@ void DistributionCommand::OnClick() {
   double const start = ofOwnRectangle(*low, row_->high);
   double const end = ofOwnRectangle(*high, row_->low);
   Elements inner;
-  double total = 0.0;
-  for (auto const& element : selection) {
-    if (element == low || element == high) continue;
-    inner << element;
-    total += ofOwnRectangle(*element, row_->size);
-  }
+  for (auto const& element : selection)
+    if (element != low && element != high) inner << element;
   std::stable_sort(inner.begin(), inner.end(), [this](auto const& a, auto const& b) {
     return ofOwnRectangle(*a, row_->sortKey) < ofOwnRectangle(*b, row_->sortKey);
   });
+  double total = 0.0;
+  for (auto const& element : inner) total += ofOwnRectangle(*element, row_->size);
   double const gap = (end - start - total) / (inner.size() + 1);
 
   {
@@ -100,7 +98,7 @@ void DistributionCommand::OnClick() {
     for (auto const& element : inner) {
       double const distance = ofOwnRectangle(*previous, row_->high) + gap - ofOwnRectangle(*element, row_->low);
       auto const moved = element->Clone();
-      moved->Move(distance * row_->alongX, distance * row_->alongY);
+      row_->movesInX ? moved->Move(distance, 0.0) : moved->Move(0.0, distance);
       active.container->ReplaceElement(element->GetHandle(), moved);
       previous = moved;
     }

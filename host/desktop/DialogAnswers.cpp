@@ -26,8 +26,13 @@ bool isSame(QString const& text, QString const& value) { return plain(text).comp
 
 // Each answers whether the widget has taken the value.
 
-// Key by key, so that the validator and the slots see what they see of a person.
+// Key by key, so that the validator and the slots see what they see of a person. A field that can't be typed into is
+// filled as the button beside it would.
 bool type(QLineEdit& edit, QString const& value) {
+  if (edit.isReadOnly()) {
+    edit.setText(value);
+    return true;
+  }
   edit.setFocus();
   edit.selectAll();
   if (value.isEmpty()) edit.del();
@@ -110,7 +115,7 @@ QWidget* widgetOf(QDialog& dialog, QString const& name) {
 
 bool apply(QDialog& dialog, QWidget& widget, QString const& value) {
   if (auto* const files = qobject_cast<QFileDialog*>(&dialog)) {
-    files->selectFile(value);
+    files->selectFile(QFileInfo(value).absoluteFilePath());
     return true;
   }
   if (qobject_cast<QMessageBox*>(&dialog)) {
@@ -172,7 +177,7 @@ void DialogAnswers::answer(QDialog& dialog) {
     if (!shown || !shown->isVisible()) return;
   }
   if (!problem_.isEmpty() || isToBeRejected) return dialog.reject();
-  if (!isAnswered) return fail(dialog, say("nobody answers it"));
+  if (!isAnswered) return fail(dialog, say("nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command"));
   accept(dialog);
   if (shown && shown->isVisible()) fail(dialog, say("it can't be accepted like this"));
 }

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <utility>
 
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
@@ -34,7 +35,7 @@ void LayoutView::setLayout(_ptr_t<PageLayout> const& layout) {
   if (layout == layout_) return;
   if (layout_) layout_->setSurface(nullptr);
   layout_ = layout;
-  dragging_ = Qt::NoButton;
+  giveDragUp();
   clearOverlay();
   if (layout_) {
     layout_->setSurface(this);
@@ -45,12 +46,22 @@ void LayoutView::setLayout(_ptr_t<PageLayout> const& layout) {
 }
 
 void LayoutView::setTool(_ptr_t<SysUI::ITool> const& tool) {
+  giveDragUp();
   tool_ = tool;
-  dragging_ = Qt::NoButton;
   unsetCursor();
   QEvent enter(QEvent::Enter);
   if (tool_ && layout_) tool_->OnEnterEvent(&enter);
 }
+
+// The release that would end a drag will never come, or not to its tool.
+void LayoutView::giveDragUp() {
+  if (std::exchange(dragging_, Qt::NoButton) == Qt::NoButton) return;
+  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+  if (tool_) tool_->OnKeyDown(&escape);
+  clearOverlay();
+}
+
+void LayoutView::hideEvent(QHideEvent*) { giveDragUp(); }
 
 void LayoutView::composePicture() {
   if (layout_) picture_.compose(*layout_, devicePixelRatioF());
@@ -101,6 +112,7 @@ void LayoutView::mousePressEvent(QMouseEvent* event) {
 void LayoutView::mouseMoveEvent(QMouseEvent* event) {
   ViewWidget::mouseMoveEvent(event);
   if (!tool_ || !layout_) return;
+  if (!(event->buttons() & dragging_)) giveDragUp();  // it ended over a dialog
   if (dragging_ != Qt::NoButton)
     tool_->OnMouseMove(event);
   else if (event->buttons() == Qt::NoButton)

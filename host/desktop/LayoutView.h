@@ -45,9 +45,11 @@ protected:
   void keyReleaseEvent(QKeyEvent* event) override;
   void enterEvent(QEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+  void giveDragUp();
   void scrollBy(QPoint const& offset);
   QPoint scrollOf(QWheelEvent const& event) const;
   void zoomAt(QPoint const& position, double factor);

@@ -53,7 +53,7 @@ struct RunSteps::Kind {
 };
 
 QVector<RunSteps::Kind> const& RunSteps::kinds() {
-  auto const text = [](char const* latin) { return QString::fromLatin1(latin); };
+  auto const text = [](char const* utf8) { return QString::fromUtf8(utf8); };
   // clang-format off
   static QVector<Kind> const kinds = {
       {text("select"),     text("NAME,NAME…"),   isAnything,   &RunSteps::select,  {}},

@@ -22,7 +22,7 @@ struct Outcome {
 /// A process of `plotvane` that has not been started. Its environment says that there is a display, which there isn't.
 inline void prepare(QProcess& process, QStringList const& arguments, QString const& folder) {
   auto environment = QProcessEnvironment::systemEnvironment();
-  environment.insert("DISPLAY", ":77");
+  environment.insert("DISPLAY", ":59999");
   environment.insert("QT_QPA_PLATFORM", "xcb");
   process.setProcessEnvironment(environment);
   process.setWorkingDirectory(folder);

@@ -118,7 +118,7 @@ void DialogAnswersTest::whatIsWrongIsNamed_data() {
   auto const row = [](char const* claim, char const* widget, char const* value, char const* problem) {
     QTest::newRow(claim) << QString(widget) << QString(value) << QString(problem);
   };
-  row("a dialog without an answer", "", "", "the dialog \"Sample\" (SampleDialog): nobody answers it");
+  row("a dialog without an answer", "", "", "the dialog \"Sample\" (SampleDialog): nobody answers it; put");
   row("an answer for another dialog", "comboBox_Other", "1", "the next answer is for comboBox_Other");
   row("a value that the validator refuses", "lineEdit_DPI", "many", "lineEdit_DPI does not take \"many\"");
   row("an entry that a list has not", "comboBox_Form", "A9", "comboBox_Form does not take \"A9\"");

@@ -1,6 +1,7 @@
 #include "PointTransform.h"
 
 #include "host/SysCarto/layers/GdalErrors.h"
+#include "host/SysGeometry/QuietOgr.h"
 
 #include <QCoreApplication>
 
@@ -25,7 +26,7 @@ std::unique_ptr<PointTransform> PointTransform::create(OGRSpatialReference const
   target.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
   OGRCoordinateTransformation* const made = OGRCreateCoordinateTransformation(&source, &target);
   if (made) {
-    made->SetEmitErrors(false);  // a place without an image is no fault of the data
+    made->SetEmitErrors(false);
     return std::unique_ptr<PointTransform>(new PointTransform(made));
   }
   error = errors.reason();
@@ -36,7 +37,9 @@ std::unique_ptr<PointTransform> PointTransform::create(OGRSpatialReference const
 PointTransform::PointTransform(OGRCoordinateTransformation* transformation) : transformation_(transformation) {}
 PointTransform::~PointTransform() = default;
 
+// A place without an image is no fault, but PROJ itself reports some of them as one.
 void PointTransform::apply(std::vector<double>& xy) const {
+  SysGeometry::QuietOgr const quiet;
   size_t const count = xy.size() / 2;
   x_.resize(count);
   y_.resize(count);
@@ -55,6 +58,7 @@ void PointTransform::apply(std::vector<double>& xy) const {
 }
 
 bool PointTransform::apply(double& x, double& y) const {
+  SysGeometry::QuietOgr const quiet;
   int ok = 0;
   transformation_->Transform(1, &x, &y, nullptr, nullptr, &ok);
   return ok && std::isfinite(x) && std::isfinite(y);

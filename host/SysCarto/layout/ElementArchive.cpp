@@ -148,6 +148,7 @@ void describe(Archive& archive, GroupElement& group, Scope scope) {
     describeAny(object, member, {scope.context, scope.depth + 1});
     if (object.reading() && object.ok()) group.AddElement(member);
   });
+  if (archive.ok() && group.GetElements().isEmpty()) archive.fail("members", translated("needs at least one element"));
 }
 
 // A map of the document by its number; -1 is none.

@@ -141,6 +141,7 @@ private slots:
     QTest::newRow("data frame in a group")
         << QByteArray("{'type':'group','members':[{'type':'dataFrame','map':1,'rectangle':[0,0,1,1]}]}")
         << "members[0].type";
+    QTest::newRow("a group of nothing") << QByteArray("{'type':'group','members':[]}") << "members";
     QTest::newRow("seventeen groups") << nested(17) << "groups are nested";
   }
   void refusesWithThePathOfTheField() {

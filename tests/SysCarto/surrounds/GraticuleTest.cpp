@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QtTest>
 
+#include <cpl_error.h>
+
 #include <cmath>
 
 Q_DECLARE_METATYPE(SysGeometry::Envelope)
@@ -181,6 +183,16 @@ private slots:
     QVERIFY2(problem.contains("has an interval of 0.0005 degrees, which makes 1,080,000 lines"), qPrintable(problem));
     QVERIFY2(problem.contains("enter one of 0.54 degrees or more"), qPrintable(problem));
     QVERIFY(drawn(*frame) == drawn(*frameWith("EPSG:4326", Envelope(-180, -90, 180, 90), {})));
+  }
+
+  // Who looks for GDAL's errors after drawing, as an export does, must not take these for its own.
+  void placesBeyondTheGlobeAreNoErrors() {
+    int errors = 0;
+    CPLPushErrorHandlerEx([](CPLErr, CPLErrorNum, char const*) { ++*static_cast<int*>(CPLGetErrorHandlerUserData()); },
+                          &errors);
+    drawn(*frameWith("ESRI:54042", Envelope(-20000000, -25000000, 20000000, 25000000), {{"interval", 15}}));
+    CPLPopErrorHandler();
+    QCOMPARE(errors, 0);
   }
 
   void withoutAGlobeThereIsNoGrid() {
