@@ -113,18 +113,6 @@ _ptr_t<DisplayTransformation> labelTransform(MapFrameElement const& frame, Displ
   return transform;
 }
 
-QList<_ptr_t<Element>> placedLabels(MapFrameElement const& frame, DisplayTransformation const& pageTransform) {
-  auto const transform = labelTransform(frame, pageTransform);
-  QMap<int, QList<_ptr_t<SysGeometry::Polygon>>> obstacles;
-  QList<_ptr_t<Element>> labels;
-  for (auto const& layer : layersByLabelPriority(*frame.GetMap())) {
-    auto const features = ptr_cast<FeatureLayer>(layer);
-    if (features && isLabelled(*features, transform->GetMapScale()))
-      features->GetAnnotationElements(obstacles, labels, transform, nullptr);
-  }
-  return labels;
-}
-
 }  // namespace
 
 struct LayoutRenderer::Tile {
@@ -244,6 +232,18 @@ PlacedLabels::PlacedLabels(IApplicationHook& hook, _ptr_t<DisplayTransformation>
   CreateAnnotationElement(hook, maps_, labels_, pageTransform);
 }
 
+QList<_ptr_t<Element>> PlacedLabels::of(MapFrameElement const& frame, DisplayTransformation const& pageTransform) {
+  auto const transform = labelTransform(frame, pageTransform);
+  QMap<int, QList<_ptr_t<SysGeometry::Polygon>>> obstacles;
+  QList<_ptr_t<Element>> labels;
+  for (auto const& layer : layersByLabelPriority(*frame.GetMap())) {
+    auto const features = ptr_cast<FeatureLayer>(layer);
+    if (features && isLabelled(*features, transform->GetMapScale()))
+      features->GetAnnotationElements(obstacles, labels, transform, nullptr);
+  }
+  return labels;
+}
+
 PlacedLabels::~PlacedLabels() { ClearAnnotationElement(maps_, labels_); }
 
 void PlacedLabels::CreateAnnotationElement(IApplicationHook& hook, Maps& maps, Labels& labels,
@@ -256,7 +256,7 @@ void PlacedLabels::CreateAnnotationElement(IApplicationHook& hook, Maps& maps, L
     auto const frame = ptr_cast<MapFrameElement>(element);
     if (!frame) continue;
     maps << frame->GetMap();
-    labels << placedLabels(*frame, *pageTransform);
+    labels << of(*frame, *pageTransform);
     if (IElementContainer* graphics = maps.last()->GetGraphicsContainer()) graphics->AddElements(labels.last());
   }
 }

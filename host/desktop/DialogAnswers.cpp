@@ -177,7 +177,8 @@ void DialogAnswers::answer(QDialog& dialog) {
     if (!shown || !shown->isVisible()) return;
   }
   if (!problem_.isEmpty() || isToBeRejected) return dialog.reject();
-  if (!isAnswered) return fail(dialog, say("nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command"));
+  if (!isAnswered)
+    return fail(dialog, say("nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command"));
   accept(dialog);
   if (shown && shown->isVisible()) fail(dialog, say("it can't be accepted like this"));
 }

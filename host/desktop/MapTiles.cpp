@@ -1,5 +1,6 @@
 #include "MapTiles.h"
 
+#include "export/LayoutRenderer.h"
 #include "host/SysCarto/layout/MapPicture.h"
 
 #include <QPainter>
@@ -18,6 +19,7 @@ constexpr double inchCm = 2.54;
 constexpr double pixelsPerInch = 96;
 constexpr double sameScale = 1e-6;  // a view that is panned computes its scale anew
 constexpr int largestFramePx = 1 << 28;
+constexpr double labelsPerInch = 300;  // the resolution that labels are placed for
 
 bool isSameRectangle(Envelope const& a, Envelope const& b) {
   return a.GetXMin() == b.GetXMin() && a.GetYMin() == b.GetYMin() && a.GetXMax() == b.GetXMax() &&
@@ -36,12 +38,18 @@ bool MapTiles::Look::isSameAs(Look const& other) const {
          graphics == other.graphics;
 }
 
+bool MapTiles::Look::hasSameLabels(Look const& other) const {
+  return map == other.map && sizeCm == other.sizeCm && isSameRectangle(extent, other.extent) &&
+         visibleLayers == other.visibleLayers;
+}
+
 MapTiles::Look MapTiles::lookOf(MapFrameElement const& frame, double pixelsPerCm) {
   auto const rectangle = frame.GetEnvelope();
   Look look;
   look.map = frame.GetMap();
   look.pixelsPerCm = pixelsPerCm;
   look.sizePx = {pixels(rectangle->GetWidth(), pixelsPerCm), pixels(rectangle->GetHeight(), pixelsPerCm)};
+  look.sizeCm = {rectangle->GetWidth(), rectangle->GetHeight()};
   look.extent = *look.map->GetExtent();
   for (auto const& layer : look.map->GetLayers()) look.visibleLayers << layer->IsVisible();
   if (auto const* container = look.map->GetGraphicsContainer()) look.graphics = container->GetElements();
@@ -52,6 +60,7 @@ void MapTiles::follow(MapFrameElement const& frame, double pixelsPerCm) {
   Look const look = lookOf(frame, pixelsPerCm);
   if (look_.map && look_.isSameAs(look)) return;
   if (look_.map == look.map) keepStandIn();
+  if (!look_.hasSameLabels(look)) labels_ = nullptr;
   look_ = look;
   tiles_.clear();
 }
@@ -76,32 +85,68 @@ void MapTiles::setShown(QRect const& shownPx) {
     tile = areaOf(tile->first).intersects(near) ? std::next(tile) : tiles_.erase(tile);
 }
 
-std::optional<MapTiles::TileNumber> MapTiles::firstMissing() const {
+// First all that is missing, then the labels, unless there turned out to be none.
+std::optional<MapTiles::TileNumber> MapTiles::next() const {
+  auto const missing = firstShown([](Tile const& tile) { return tile.image.isNull(); });
+  if (missing || (labels_ && labels_->GetElements().isEmpty())) return missing;
+  return firstShown([](Tile const& tile) { return !tile.isLabelled; });
+}
+
+std::optional<MapTiles::TileNumber> MapTiles::firstShown(bool (*isWanted)(Tile const&)) const {
   if (shownPx_.isEmpty()) return std::nullopt;
   for (int row = shownPx_.top() / tilePx; row <= shownPx_.bottom() / tilePx; ++row)
-    for (int column = shownPx_.left() / tilePx; column <= shownPx_.right() / tilePx; ++column)
-      if (!tiles_.count({column, row})) return TileNumber(column, row);
+    for (int column = shownPx_.left() / tilePx; column <= shownPx_.right() / tilePx; ++column) {
+      auto const tile = tiles_.find({column, row});
+      if (isWanted(tile == tiles_.end() ? Tile() : tile->second)) return TileNumber(column, row);
+    }
   return std::nullopt;
 }
 
 QRect MapTiles::drawNext(MapFrameElement const& frame) {
   if (isComplete()) return {};
   follow(frame, look_.pixelsPerCm);
-  auto const number = firstMissing();
+  auto number = next();
+  if (number && tiles_.count(*number) && !labels_) {
+    placeLabels(frame);
+    number = next();
+  }
   if (!number) return {};
-  auto const rectangle = frame.GetEnvelope();
-  double const scale = look_.pixelsPerCm;
-  auto const transformation = make<DisplayTransformation>();
-  transformation->SetDeviceFrame(QRect(QPoint(0, 0), look_.sizePx));
-  transformation->SetVisibleBounds(
-      make<Envelope>(rectangle->GetXMin(), rectangle->GetYMax() - look_.sizePx.height() / scale,
-                     rectangle->GetXMin() + look_.sizePx.width() / scale, rectangle->GetYMax()));
-  transformation->SetPageScale(scale * inchCm / pixelsPerInch);
   QRect const area = areaOf(*number) & QRect(QPoint(0, 0), look_.sizePx);
-  QImage const image = SysCarto::drawMap(frame, *transformation, area, nullptr).image;
-  tiles_[*number] = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  draw(tiles_[*number], area, frame);
   if (isComplete()) standIn_ = {};
   return area;
+}
+
+// A page on which the frame's upper left corner is the first pixel.
+SysUtility::_ptr_t<DisplayTransformation> MapTiles::pageOf(MapFrameElement const& frame, double pixelsPerCm,
+                                                           QSize const& sizePx) {
+  auto const rectangle = frame.GetEnvelope();
+  auto const page = make<DisplayTransformation>();
+  page->SetDeviceFrame(QRect(QPoint(0, 0), sizePx));
+  page->SetVisibleBounds(make<Envelope>(rectangle->GetXMin(), rectangle->GetYMax() - sizePx.height() / pixelsPerCm,
+                                        rectangle->GetXMin() + sizePx.width() / pixelsPerCm, rectangle->GetYMax()));
+  page->SetPageScale(pixelsPerCm * inchCm / pixelsPerInch);
+  return page;
+}
+
+void MapTiles::placeLabels(MapFrameElement const& frame) {
+  double const scale = labelsPerInch / inchCm;
+  QSize const size(pixels(look_.sizeCm.width(), scale), pixels(look_.sizeCm.height(), scale));
+  labels_ = std::make_shared<SysCarto::ElementContainer>();
+  labels_->AddElements(Plugin::PlacedLabels::of(frame, *pageOf(frame, scale, size)));
+}
+
+void MapTiles::draw(Tile& tile, QRect const& area, MapFrameElement const& frame) const {
+  auto const page = pageOf(frame, look_.pixelsPerCm, look_.sizePx);
+  if (tile.image.isNull()) {
+    // A temporary would be converted in place, and keep a paint engine that takes red for blue (Qt 5.15).
+    QImage const drawn = SysCarto::drawMap(frame, *page, area, nullptr).image;
+    tile.image = drawn.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return;
+  }
+  SysCarto::MapPicture picture{std::exchange(tile.image, QImage()), area.topLeft()};
+  SysCarto::drawOverMap(picture, *labels_, frame, *page);
+  tile = {picture.image, true};
 }
 
 void MapTiles::paint(QPainter& painter, QPoint const& corner) const {
@@ -119,6 +164,6 @@ void MapTiles::paint(QPainter& painter, QPoint const& corner) const {
     painter.drawImage(QRectF(place.topLeft() * scale, place.size() * scale), standIn_.image);
     painter.restore();
   }
-  for (auto const& tile : tiles_) painter.drawImage(areaOf(tile.first).topLeft(), tile.second);
+  for (auto const& tile : tiles_) painter.drawImage(areaOf(tile.first).topLeft(), tile.second.image);
   painter.restore();
 }

@@ -1,16 +1,20 @@
 #pragma once
 
+#include "host/SysCarto/layout/ElementContainer.h"
+
 #include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>
 
 #include <QImage>
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <utility>
 
-/// The kept picture of a data frame's map, in square tiles that are drawn one by one as they come into view. Pixels
-/// are counted from the frame's upper left corner, so that moving the frame, or the view, makes no tile stale.
+/// The kept picture of a data frame's map, in square tiles that are drawn one by one as they come into view, and
+/// labelled when all of them are drawn: the labels are those of an export, whatever the view's scale. Pixels are
+/// counted from the frame's upper left corner, so that moving the frame, or the view, makes no tile stale.
 class MapTiles {
 public:
   static constexpr int tilePx = 128;
@@ -25,10 +29,10 @@ public:
   /// The part of the frame that is shown; tiles far away from it are forgotten.
   void setShown(QRect const& shownPx);
 
-  /// Draws one tile that is shown and missing, and answers its pixels; a null rectangle where none is missing. A map
-  /// that has changed meanwhile is followed first.
+  /// Draws or labels one tile that is shown and not complete, and answers its pixels; a null rectangle where there is
+  /// none. A map that has changed meanwhile is followed first.
   QRect drawNext(SysCarto::MapFrameElement const& frame);
-  bool isComplete() const { return !firstMissing(); }
+  bool isComplete() const { return !next(); }
 
   /// Paints what there is with the frame's corner at `corner`.
   void paint(QPainter& painter, QPoint const& corner) const;
@@ -43,11 +47,18 @@ private:
     SysUtility::_ptr_t<SysCarto::Map> map;
     double pixelsPerCm = 0;
     QSize sizePx;
+    QSizeF sizeCm;
     SysGeometry::Envelope extent;
     QList<bool> visibleLayers;
     QList<SysUtility::_ptr_t<SysCarto::Element>> graphics;
 
     bool isSameAs(Look const& other) const;
+    bool hasSameLabels(Look const& other) const;
+  };
+
+  struct Tile {
+    QImage image;
+    bool isLabelled = false;
   };
 
   // What was shown before, placed in centimetres of the frame.
@@ -58,11 +69,17 @@ private:
 
   static Look lookOf(SysCarto::MapFrameElement const& frame, double pixelsPerCm);
   static QRect areaOf(TileNumber number) { return {number.first * tilePx, number.second * tilePx, tilePx, tilePx}; }
-  std::optional<TileNumber> firstMissing() const;
+  static SysUtility::_ptr_t<SysDisplay::DisplayTransformation> pageOf(SysCarto::MapFrameElement const& frame,
+                                                                      double pixelsPerCm, QSize const& sizePx);
+  std::optional<TileNumber> next() const;
+  std::optional<TileNumber> firstShown(bool (*isWanted)(Tile const&)) const;
+  void placeLabels(SysCarto::MapFrameElement const& frame);
+  void draw(Tile& tile, QRect const& area, SysCarto::MapFrameElement const& frame) const;
   void keepStandIn();
 
   Look look_;
   QRect shownPx_;
-  std::map<TileNumber, QImage> tiles_;
+  std::map<TileNumber, Tile> tiles_;
+  std::shared_ptr<SysCarto::ElementContainer> labels_;  // null until they are placed
   StandIn standIn_;
 };

@@ -60,4 +60,12 @@ MapPicture drawMap(MapFrameElement const& frame, DisplayTransformation const& tr
   return picture;
 }
 
+void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameElement const& frame,
+                 DisplayTransformation const& transformation) {
+  if (picture.image.isNull()) return;
+  QRect const framePx = pixelsOf(frame, transformation), clipPx(picture.place, picture.image.size());
+  QPainter painter(&picture.image);
+  elements.Draw(painter, transformationOf(*frame.GetMap(), framePx, clipPx, transformation.GetPageScale()), 1, nullptr);
+}
+
 }  // namespace SysCarto

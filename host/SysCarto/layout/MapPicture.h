@@ -1,5 +1,6 @@
 #pragma once
 
+#include <SysCarto/IElementContainer.h>
 #include <SysCarto/MapFrameElement.h>
 
 #include <QImage>
@@ -14,5 +15,10 @@ struct MapPicture {
 SYSCARTO_EXPORT MapPicture drawMap(MapFrameElement const& frame,
                                    SysDisplay::DisplayTransformation const& transformation, QRect const& areaPx,
                                    SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
+
+/// Draws elements of the map over a picture that `drawMap` has made of the same frame, with the same transformation and
+/// area.
+SYSCARTO_EXPORT void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameElement const& frame,
+                                 SysDisplay::DisplayTransformation const& transformation);
 
 }  // namespace SysCarto
