@@ -43,6 +43,14 @@ void PageSettingsDlg::addTabs(_ptr_t<ActiveView> const& view) {
                                       ptr_cast<SysCarto::SymbolBackground>(frame.GetBackground()),
                                       ptr_cast<SysCarto::SymbolShadow>(frame.GetShadow()), nullptr);
   ui_->tabWidget->addTab(frameTab_, tr("Frame"));
+
+  // The buttons come after the fields of the tabs, which were added later.
+  QWidget* last = previousInFocusChain();
+  while (last->focusPolicy() == Qt::NoFocus) last = last->previousInFocusChain();
+  for (QPushButton* button : {ui_->pushButton_OK, ui_->pushButton_Cancel, ui_->pushButton_Apply}) {
+    setTabOrder(last, button);
+    last = button;
+  }
 }
 
 void PageSettingsDlg::connectWidgets() {

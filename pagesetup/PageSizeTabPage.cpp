@@ -63,13 +63,16 @@ void PageSizeTabPage::showPage() {
   ui_->radioButton_V->setChecked(isPortrait_);
   ui_->radioButton_H->setChecked(!isPortrait_);
 
-  FormInfo form;
-  for (int id = 0; id < Paper::GetFormCount(); ++id)
-    if (Paper::GetFormInfo(id, form)) ui_->comboBox_PaperType->addItem(form.displayName);
-  ui_->comboBox_PaperType->setCurrentIndex(page_->GetFormID());
+  // An entry's index is the form's number, so that a form without information keeps its place.
+  for (int id = 0; id < Paper::GetFormCount(); ++id) {
+    FormInfo form;
+    Paper::GetFormInfo(id, form);
+    ui_->comboBox_PaperType->addItem(form.displayName);
+  }
 
   setSizeValidator(ui_->lineEdit_PageWidth, this);
   setSizeValidator(ui_->lineEdit_PageHeight, this);
+  ui_->comboBox_PaperType->setCurrentIndex(page_->GetFormID());
   double widthCm, heightCm;
   page_->QuerySize(widthCm, heightCm);
   showSize(widthCm, heightCm);
@@ -118,12 +121,12 @@ void PageSizeTabPage::slotOrientationH() { setPortrait(false); }
 
 void PageSizeTabPage::slotOrientationV() { setPortrait(true); }
 
-void PageSizeTabPage::setPortrait(bool portrait) {
-  if (isPortrait_ != portrait) {
+void PageSizeTabPage::setPortrait(bool isPortrait) {
+  if (isPortrait_ != isPortrait) {
     QString const width = ui_->lineEdit_PageWidth->text();
     ui_->lineEdit_PageWidth->setText(ui_->lineEdit_PageHeight->text());
     ui_->lineEdit_PageHeight->setText(width);
-    isPortrait_ = portrait;
+    isPortrait_ = isPortrait;
   }
   emit ValueChanged();
 }

@@ -41,7 +41,7 @@ private:
   void showSize(double widthCm, double heightCm);
   void connectWidgets();
   void enableSize(bool on);
-  void setPortrait(bool portrait);
+  void setPortrait(bool isPortrait);
   void setCustomSize() const;
   void rescaleElements(double oldWidthCm, double oldHeightCm) const;
 

@@ -76,7 +76,7 @@ void addSymbols(QTreeWidgetItem& item, Layer const& layer, double devicePixelRat
     if (!one.symbol) continue;
     QTreeWidgetItem* row = &item;
     if (classes.size() > 1) {
-      row = new QTreeWidgetItem(&item, {one.label});
+      row = new QTreeWidgetItem(&item, {one.label.isEmpty() ? TOCControl::tr("Other") : one.label});
       row->setFlags(Qt::ItemIsEnabled);
     }
     row->setIcon(0, swatch(*one.symbol, devicePixelRatio));

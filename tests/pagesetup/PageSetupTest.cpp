@@ -317,6 +317,21 @@ private slots:
     QVERIFY(!page.GetBorder());
   }
 
+  void tabLeadsThroughTheFieldsToTheButtons() {
+    auto const layout = make<PageLayout>();
+    layout->SetPage(make<SysCarto::Page>());
+    PageSettingsDlg dialog(layout, nullptr);
+    QStringList order;
+    auto* const tabs = dialog.findChild<QTabWidget*>("tabWidget");
+    for (QWidget* one = tabs->nextInFocusChain(); one != tabs; one = one->nextInFocusChain())
+      order << one->objectName();
+    QList<int> places;
+    for (char const* name : {"comboBox_PaperType", "radioButton_H", "groupBox_Border", "pushButton_OK",
+                             "pushButton_Cancel", "pushButton_Apply"})
+      places << order.indexOf(name);
+    QVERIFY(!places.contains(-1) && std::is_sorted(places.begin(), places.end()));
+  }
+
   // A dialog would wait for an answer.
   void withoutALayoutOrItsPageNoDialogOpens() {
     auto const hook = make<LayoutHook>(make<PageLayout>());

@@ -50,6 +50,10 @@ QPointF halfwayAlong(QVector<QPointF> const& line) {
   return line.last();
 }
 
+bool meets(QRectF const& box, QRectF const& other) {
+  return other.intersects(box.adjusted(-betweenCm, -betweenCm, betweenCm, betweenCm));
+}
+
 void addLines(OGRGeometry const& geometry, QVector<QVector<QPointF>>& parts) {
   if (wkbFlatten(geometry.getGeometryType()) == wkbLineString) {
     QVector<QPointF> points;
@@ -115,6 +119,7 @@ GraticuleLabels::Side GraticuleLabels::sideOf(QPointF const& point, bool isMerid
 }
 
 void GraticuleLabels::label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts, Envelope const& extent) {
+  line_ = &line;
   QVector<QPointF> wanted, others;
   for (QVector<QPointF> const& part : parts)
     for (QPointF const& point : {part.first(), part.last()}) {
@@ -132,8 +137,8 @@ void GraticuleLabels::label(GraticuleLine const& line, QVector<QVector<QPointF>>
   QString const text = degreesText(line.degrees, line.isMeridian);
   for (QPointF const& point : wanted.isEmpty() ? others : wanted)
     addOutside(text, point, sideOf(point, line.isMeridian));
-  for (QLineF const& end : qAsConst(ends)) addBeyond(text, end, line.isMeridian);
-  if (wanted.isEmpty() && others.isEmpty() && ends.isEmpty()) addOn(text, parts, line.isMeridian);
+  for (QLineF const& end : qAsConst(ends)) addBeyond(text, end);
+  if (wanted.isEmpty() && others.isEmpty() && ends.isEmpty()) addOn(text, parts);
 }
 
 // Beside the frame a label reads upwards, so that however long it is, it reaches no farther than its height.
@@ -151,7 +156,8 @@ void GraticuleLabels::addOutside(QString const& text, QPointF const& point, Side
 
 // Above or below a meridian, where it ends more upright than level. The globe's edge leans towards the poles, so the
 // label of a parallel far from the middle is moved away from it in height, too.
-void GraticuleLabels::addBeyond(QString const& text, QLineF const& end, bool isMeridian) {
+void GraticuleLabels::addBeyond(QString const& text, QLineF const& end) {
+  bool const isMeridian = line_->isMeridian;
   QPointF const point = end.p2();
   if (isMeridian && std::abs(end.dy()) >= std::abs(end.dx()))
     return add(text, {point.x(), point.y() + (end.dy() < 0 ? -gapCm_ : gapCm_)}, 0, HorizontalAlignment::Center,
@@ -167,13 +173,14 @@ void GraticuleLabels::addBeyond(QString const& text, QLineF const& end, bool isM
 }
 
 // At the lowest point of a parallel, which goes around a pole; halfway along a meridian, which goes from pole to pole.
-void GraticuleLabels::addOn(QString const& text, QVector<QVector<QPointF>> const& parts, bool isMeridian) {
+void GraticuleLabels::addOn(QString const& text, QVector<QVector<QPointF>> const& parts) {
   if (parts.isEmpty()) return;
   QVector<QPointF> const& part = parts.first();
   auto const lowest = std::min_element(part.begin(), part.end(),
                                        [](QPointF const& one, QPointF const& other) { return one.y() < other.y(); });
   format_.haloSize = haloPt;
-  add(text, isMeridian ? halfwayAlong(part) : *lowest, 0, HorizontalAlignment::Center, VerticalAlignment::Middle);
+  add(text, line_->isMeridian ? halfwayAlong(part) : *lowest, 0, HorizontalAlignment::Center,
+      VerticalAlignment::Middle);
   format_.haloSize = 0;
 }
 
@@ -191,10 +198,41 @@ void GraticuleLabels::add(QString const& text, QPointF const& position, double a
   double const margin = gapCm_ + element->symbol()->bounds(text).height() * cmPerPoint;
   QRectF const room(left_ - margin, bottom_ - margin, right_ - left_ + 2 * margin, top_ - bottom_ + 2 * margin);
   if (!room.adjusted(-onSideCm, -onSideCm, onSideCm, onSideCm).contains(box)) return;
-  for (QRectF const& other : qAsConst(taken_))
-    if (other.intersects(box.adjusted(-betweenCm, -betweenCm, betweenCm, betweenCm))) return;
-  taken_ << box;
-  elements_ << element;
+  labels_ << Label{line_->isMeridian, line_->number, box, element};
+}
+
+QList<_ptr_t<Element>> GraticuleLabels::elements() const {
+  QVector<Label> chosen;
+  for (bool const isMeridian : {true, false}) {
+    QVector<Label> some;
+    int every = 0;
+    do {
+      ++every;
+      some.clear();
+      for (Label const& label : labels_)
+        if (label.isMeridian == isMeridian && label.number % every == 0) some << label;
+    } while (doOverlap(some));
+    chosen += some;
+  }
+  // What still overlaps are both sides of a cut, and meridians in the way of parallels.
+  QVector<QRectF> taken;
+  QList<_ptr_t<Element>> elements;
+  for (Label const& label : qAsConst(chosen)) {
+    bool const isFree =
+        std::none_of(taken.begin(), taken.end(), [&](QRectF const& other) { return meets(label.box, other); });
+    if (!isFree) continue;
+    taken << label.box;
+    elements << label.element;
+  }
+  return elements;
+}
+
+// Labels of one kind, of different lines. That of number 0 remains alone at last.
+bool GraticuleLabels::doOverlap(QVector<Label> const& labels) const {
+  for (int i = 1; i < labels.size(); ++i)
+    for (int j = i - 1; j >= 0; --j)
+      if (labels[i].number != labels[j].number && meets(labels[i].box, labels[j].box)) return true;
+  return false;
 }
 
 }  // namespace SysCarto

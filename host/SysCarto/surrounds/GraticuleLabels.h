@@ -24,10 +24,11 @@ public:
 
   /// Labels a line where its parts meet the sides of the rectangle: meridians above and below, parallels beside it; a
   /// line that meets only the other sides, there. One that ends with the globe has its label beyond its end, and one
-  /// that has neither, such as a parallel around a pole, on itself. A label that would lie on another is left out.
+  /// that has neither, such as a parallel around a pole, on itself.
   void label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts, SysGeometry::Envelope const& extent);
 
-  QList<SysUtility::_ptr_t<Element>> const& elements() const { return elements_; }
+  /// The labels that have room: where there is none for all, those of every second line, every third and so on.
+  QList<SysUtility::_ptr_t<Element>> elements() const;
 
 private:
   enum Side { Left, Right, Bottom, Top, None };
@@ -35,16 +36,24 @@ private:
   QPointF onPage(QPointF const& point, SysGeometry::Envelope const& extent) const;
   Side sideOf(QPointF const& point, bool isMeridian) const;
   void addOutside(QString const& text, QPointF const& point, Side side);
-  void addBeyond(QString const& text, QLineF const& end, bool isMeridian);
-  void addOn(QString const& text, QVector<QVector<QPointF>> const& parts, bool isMeridian);
+  void addBeyond(QString const& text, QLineF const& end);
+  void addOn(QString const& text, QVector<QVector<QPointF>> const& parts);
   void add(QString const& text, QPointF const& position, double angle, SysDisplay::HorizontalAlignment horizontal,
            SysDisplay::VerticalAlignment vertical);
 
   double left_, bottom_, right_, top_;
   SysDisplay::TextFormat format_;
   double gapCm_;
-  QVector<QRectF> taken_;
-  QList<SysUtility::_ptr_t<Element>> elements_;
+  struct Label {
+    bool isMeridian;
+    int number;
+    QRectF box;
+    SysUtility::_ptr_t<Element> element;
+  };
+  bool doOverlap(QVector<Label> const& labels) const;
+
+  GraticuleLine const* line_ = nullptr;  // the one that is being labelled
+  QVector<Label> labels_;
 };
 
 }  // namespace SysCarto

@@ -159,12 +159,12 @@ QVector<GraticuleLine> GraticuleLines::lines(Envelope const& extent, GraticuleSt
   for (double i = firstIn(range.west, interval.longitude); i <= lastIn(range.east, interval.longitude); ++i) {
     double const longitude = i * interval.longitude;
     if (isWhole && longitude >= 180 - beside) continue;  // is −180, too
-    addMeridian(lines, longitude, interval.latitude, range);
+    addMeridian(lines, i, interval, range);
   }
   for (double i = firstIn(range.south, interval.latitude); i <= lastIn(range.north, interval.latitude); ++i) {
     double const latitude = i * interval.latitude;
     if (std::abs(latitude) > 90 - beside && (latitude > 0 ? range.northPole : range.southPole) != Pole::Line) continue;
-    lines << made(false, latitude, {range.west, latitude, range.east, latitude});
+    lines << made(false, interval.latitude, i, {range.west, latitude, range.east, latitude});
   }
   lines.erase(std::remove_if(lines.begin(), lines.end(), [](auto const& line) { return line.parts.isEmpty(); }),
               lines.end());
@@ -172,8 +172,9 @@ QVector<GraticuleLine> GraticuleLines::lines(Envelope const& extent, GraticuleSt
 }
 
 // Short of a pole, where meridians would run into each other, only four of them go on.
-void GraticuleLines::addMeridian(QVector<GraticuleLine>& lines, double longitude, double step,
+void GraticuleLines::addMeridian(QVector<GraticuleLine>& lines, double number, GraticuleStep const& interval,
                                  Range const& range) const {
+  double const longitude = number * interval.longitude, step = interval.latitude;
   bool const goesOn = std::abs(std::remainder(longitude, quarter)) < beside;
   bool const meetsInNorth = range.northPole == Pole::Point, meetsInSouth = range.southPole == Pole::Point;
   double const north = meetsInNorth && !goesOn ? lastIn(90 - step / 2, step) * step : range.north;
@@ -182,7 +183,7 @@ void GraticuleLines::addMeridian(QVector<GraticuleLine>& lines, double longitude
   for (double const side :
        isCut ? std::vector<double>{longitude - beside, longitude + beside} : std::vector<double>{longitude}) {
     double const turned = isCut ? inTurn(side) : longitude;
-    GraticuleLine line = made(true, longitude, {turned, south, turned, north});
+    GraticuleLine line = made(true, interval.longitude, number, {turned, south, turned, north});
     if (!line.ends.isEmpty()) {
       if (meetsInNorth) line.ends.removeLast();
       if (range.northPole == Pole::Line) line.ends.last() = upright(line.ends.last());
@@ -195,7 +196,7 @@ void GraticuleLines::addMeridian(QVector<GraticuleLine>& lines, double longitude
   }
 }
 
-GraticuleLine GraticuleLines::made(bool isMeridian, double degrees, QLineF const& onGlobe) const {
+GraticuleLine GraticuleLines::made(bool isMeridian, double step, double number, QLineF const& onGlobe) const {
   OGRLineString line;
   line.addPoint(onGlobe.x1(), onGlobe.y1());
   line.addPoint(onGlobe.x2(), onGlobe.y2());
@@ -203,7 +204,7 @@ GraticuleLine GraticuleLines::made(bool isMeridian, double degrees, QLineF const
   store.beginFeature();
   projector_->add(line, store);
   store.endFeature(0, QString(), 0);
-  GraticuleLine result{isMeridian, degrees, {}, {}};
+  GraticuleLine result{isMeridian, number * step, static_cast<int>(number), {}, {}};
   QVector<QLineF> ends;
   for (Part const& part : store.parts) {
     if (part.count < 2) continue;

@@ -18,6 +18,7 @@ class PointTransform;
 struct GraticuleLine {
   bool isMeridian;
   double degrees;
+  int number;                       ///< of the interval: the equator and the prime meridian are 0
   QVector<QVector<QPointF>> parts;  ///< in map units
   QVector<QLineF> ends;  ///< where it ends with the globe: edges outwards. Not where meridians meet in a pole.
 };
@@ -60,8 +61,9 @@ private:
   bool shows(double longitude, double latitude, SysGeometry::Envelope const& extent) const;
   Pole poleAt(double latitude, double longitude, SysGeometry::Envelope const& extent) const;
   bool isCutAt(double longitude) const;
-  void addMeridian(QVector<GraticuleLine>& lines, double longitude, double step, Range const& range) const;
-  GraticuleLine made(bool isMeridian, double degrees, QLineF const& onGlobe) const;
+  void addMeridian(QVector<GraticuleLine>& lines, double number, GraticuleStep const& interval,
+                   Range const& range) const;
+  GraticuleLine made(bool isMeridian, double step, double number, QLineF const& onGlobe) const;
 
   std::unique_ptr<GeometryProjector> projector_;
   std::unique_ptr<PointTransform> toGlobe_, toMap_;
