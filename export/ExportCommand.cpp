@@ -40,10 +40,7 @@ bool drawTiles(LayoutRenderer const& renderer, RasterWriter& writer, _ptr_t<Trac
 }  // namespace
 
 ExportCommand::ExportCommand() = default;
-// The host's contents own the dialog, where they are a window.
-ExportCommand::~ExportCommand() {
-  if (progressDialog_ && !progressDialog_->parent()) delete progressDialog_;
-}
+ExportCommand::~ExportCommand() = default;
 
 bool ExportCommand::IsEnable() {
   enabled_ = static_cast<bool>(ptr_cast<PageLayout>(hook()->GetActiveView()));
@@ -81,6 +78,7 @@ void ExportCommand::exportAs(QString const& path, int dpi, QWidget* parent) {
 QProgressDialog* ExportCommand::GetProgressBar() {
   if (!progressDialog_) {
     progressDialog_ = new QProgressDialog(dynamic_cast<QWidget*>(hook()->GetContents()), Qt::WindowFlags());
+    if (!progressDialog_->parent()) ownDialog_.reset(progressDialog_.data());
     progressDialog_->setWindowFlags(progressDialog_->windowFlags() | Qt::FramelessWindowHint);
     progressDialog_->setCancelButton(nullptr);
     progressDialog_->setWindowModality(Qt::WindowModal);

@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QProgressDialog>
 
+#include <memory>
+
 namespace Plugin {
 
 /// Exports the page layout as an image file.
@@ -23,8 +25,8 @@ public:
   /// Asks for the file and the resolution, exports with a progress dialog, and tells when it is done.
   void OnClick() override;
 
-  /// The progress dialog, made at the first call; its parent, the host's contents, owns it; the command where there is
-  /// none.
+  /// The progress dialog, made at the first call and shared by copies of the command. Its parent, the host's contents,
+  /// owns it; where there is none, the last of the copies.
   QProgressDialog* GetProgressBar();
 
   /// Draws the page at a resolution and writes it to `path`, in the format that the suffix names. The progress function
@@ -48,6 +50,7 @@ private:
   void setProgressLabel(QString const& text);
 
   QPointer<QProgressDialog> progressDialog_;
+  std::shared_ptr<QProgressDialog> ownDialog_;  // the same where it has no parent
 };
 
 }  // namespace Plugin

@@ -113,6 +113,18 @@ _ptr_t<DisplayTransformation> labelTransform(MapFrameElement const& frame, Displ
   return transform;
 }
 
+QList<_ptr_t<Element>> placedLabels(MapFrameElement const& frame, DisplayTransformation const& pageTransform) {
+  auto const transform = labelTransform(frame, pageTransform);
+  QMap<int, QList<_ptr_t<SysGeometry::Polygon>>> obstacles;
+  QList<_ptr_t<Element>> labels;
+  for (auto const& layer : layersByLabelPriority(*frame.GetMap())) {
+    auto const features = ptr_cast<FeatureLayer>(layer);
+    if (features && isLabelled(*features, transform->GetMapScale()))
+      features->GetAnnotationElements(obstacles, labels, transform, nullptr);
+  }
+  return labels;
+}
+
 }  // namespace
 
 struct LayoutRenderer::Tile {
@@ -157,9 +169,11 @@ QRect LayoutRenderer::tile(int column, int row) const {
 
 QImage LayoutRenderer::tileImage(QRect const& tile, _ptr_t<TrackerCancel> const& cancel) const {
   QImage image = blankImage(tile.size(), Qt::white);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  drawTile(painter, tile, cancel);
+  {
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawTile(painter, tile, cancel);
+  }
   return image;
 }
 
@@ -232,18 +246,6 @@ PlacedLabels::PlacedLabels(IApplicationHook& hook, _ptr_t<DisplayTransformation>
   CreateAnnotationElement(hook, maps_, labels_, pageTransform);
 }
 
-QList<_ptr_t<Element>> PlacedLabels::of(MapFrameElement const& frame, DisplayTransformation const& pageTransform) {
-  auto const transform = labelTransform(frame, pageTransform);
-  QMap<int, QList<_ptr_t<SysGeometry::Polygon>>> obstacles;
-  QList<_ptr_t<Element>> labels;
-  for (auto const& layer : layersByLabelPriority(*frame.GetMap())) {
-    auto const features = ptr_cast<FeatureLayer>(layer);
-    if (features && isLabelled(*features, transform->GetMapScale()))
-      features->GetAnnotationElements(obstacles, labels, transform, nullptr);
-  }
-  return labels;
-}
-
 PlacedLabels::~PlacedLabels() { ClearAnnotationElement(maps_, labels_); }
 
 void PlacedLabels::CreateAnnotationElement(IApplicationHook& hook, Maps& maps, Labels& labels,
@@ -256,7 +258,7 @@ void PlacedLabels::CreateAnnotationElement(IApplicationHook& hook, Maps& maps, L
     auto const frame = ptr_cast<MapFrameElement>(element);
     if (!frame) continue;
     maps << frame->GetMap();
-    labels << of(*frame, *pageTransform);
+    labels << placedLabels(*frame, *pageTransform);
     if (IElementContainer* graphics = maps.last()->GetGraphicsContainer()) graphics->AddElements(labels.last());
   }
 }

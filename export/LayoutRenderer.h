@@ -76,10 +76,6 @@ public:
   PlacedLabels(PlacedLabels const&) = delete;
   PlacedLabels& operator=(PlacedLabels const&) = delete;
 
-  /// The labels of one data frame's map, as they are placed for such a page; no container holds them yet.
-  static QList<SysUtility::_ptr_t<SysCarto::Element>> of(SysCarto::MapFrameElement const& frame,
-                                                         SysDisplay::DisplayTransformation const& pageTransform);
-
 private:
   using Maps = QVector<SysUtility::_ptr_t<SysCarto::Map>>;
   using Labels = QVector<QList<SysUtility::_ptr_t<SysCarto::Element>>>;

@@ -1,6 +1,5 @@
 #include "MapTiles.h"
 
-#include "export/LayoutRenderer.h"
 #include "host/SysCarto/layout/MapPicture.h"
 
 #include <QPainter>
@@ -130,10 +129,8 @@ SysUtility::_ptr_t<DisplayTransformation> MapTiles::pageOf(MapFrameElement const
 }
 
 void MapTiles::placeLabels(MapFrameElement const& frame) {
-  double const scale = labelsPerInch / inchCm;
-  QSize const size(pixels(look_.sizeCm.width(), scale), pixels(look_.sizeCm.height(), scale));
   labels_ = std::make_shared<SysCarto::ElementContainer>();
-  labels_->AddElements(Plugin::PlacedLabels::of(frame, *pageOf(frame, scale, size)));
+  labels_->AddElements(SysCarto::placeLabels(frame, labelsPerInch));
 }
 
 void MapTiles::draw(Tile& tile, QRect const& area, MapFrameElement const& frame) const {

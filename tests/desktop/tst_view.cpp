@@ -1,6 +1,6 @@
 #include "desktop/WorkbenchPage.h"
 
-#include "export/LayoutRenderer.h"
+#include "host/SysCarto/layout/MapPicture.h"
 #include "host/desktop/PagePicture.h"
 #include "host/desktop/Session.h"
 
@@ -88,11 +88,8 @@ void ViewTest::thePictureIsWhatTheElementsDraw() {
   PagePicture picture;
   picture.compose(*layout, ratio);
   while (!picture.isComplete()) QVERIFY(!picture.drawSlice(*layout, 1).isEmpty());
-  // The labels are those of an export.
-  QSize const exported = Plugin::LayoutRenderer::imageSize(*layout->GetPage(), 300);
-  auto const page = Plugin::LayoutRenderer(layout, exported, 300).pageTransform();
   auto const frame = layout->GetFocusMapFrameElement();
-  auto const labels = Plugin::PlacedLabels::of(*frame, *page);
+  auto const labels = SysCarto::placeLabels(*frame, 300);
   QVERIFY(labels.size() > 100);
   frame->GetMap()->GetGraphicsContainer()->AddElements(labels);
   QImage const expected = drawnDirectly(*layout, ratio);

@@ -312,7 +312,7 @@ private slots:
     QVERIFY(QDir(folder.path()).isEmpty());
   }
 
-  void theProgressDialogIsMadeOnceAndSurvivesItsOwner() {
+  void theProgressDialogIsMadeOnceAndShared() {
     auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
     ExportCommand command;
     command.OnCreate(hook->pointer());
@@ -325,8 +325,8 @@ private slots:
     QVERIFY(dialog->isVisible());
     QVERIFY(ExportCommand::CopyProgressCallback(0.429, "", &command));
     QCOMPARE(dialog->value(), 42);
-    delete dialog;
-    QVERIFY(command.GetProgressBar());
+    { ExportCommand const copy(command); }
+    QCOMPARE(command.GetProgressBar(), dialog);
   }
 };
 

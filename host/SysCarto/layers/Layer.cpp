@@ -17,10 +17,7 @@ bool Layer::IsVisible() const { return d->visible; }
 double Layer::GetMinScale() const { return d->scales.comparedMin(); }
 double Layer::GetMaxScale() const { return d->scales.comparedMax(); }
 
-bool Layer::showsAt(double scale) const {
-  double const min = GetMinScale(), max = GetMaxScale();
-  return IsVisible() && !(min > 0 && scale >= max) && !(max > 0 && min >= scale);
-}
+bool Layer::showsAt(double scale) const { return IsVisible() && d->scales.contains(scale); }
 
 QList<LegendClass> Layer::legendClasses() const { return {}; }
 

@@ -18,6 +18,7 @@ struct ScaleRange {
   }
   double comparedMin() const { return min == 0 && max > 0 ? 1e-9 : min; }
   double comparedMax() const { return max == 0 && min > 0 ? 1e15 : max; }
+  bool contains(double denominator) const { return (min == 0 || denominator > min) && (max == 0 || denominator < max); }
 
 private:
   static double limit(double denominator) { return std::isfinite(denominator) && denominator > 0 ? denominator : 0; }

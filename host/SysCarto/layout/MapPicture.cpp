@@ -1,8 +1,14 @@
 #include "MapPicture.h"
 
+#include "host/SysCarto/layers/ScaleRange.h"
+
+#include <SysCarto/FeatureLayer.h>
 #include <SysCarto/Map.h>
 
 #include <QPainter>
+
+#include <algorithm>
+#include <cmath>
 
 namespace SysCarto {
 
@@ -13,6 +19,7 @@ using SysUtility::_ptr_t;
 
 namespace {
 
+constexpr double inchCm = 2.54, pixelsPerInch = 96;
 constexpr int farthestPx = 1 << 29;  // beyond it the width of a rectangle may not be an int
 
 // The pixels of a frame, counted so that both corners belong to it.
@@ -41,6 +48,22 @@ _ptr_t<DisplayTransformation> transformationOf(Map const& map, QRect const& fram
   return transformation;
 }
 
+// Those first whose labels are placed first.
+QList<_ptr_t<FeatureLayer>> labelledLayers(Map const& map) {
+  QList<_ptr_t<FeatureLayer>> layers;
+  double const scale = map.GetDisplayTransformation()->GetMapScale();
+  for (auto const& layer : map.GetLayers()) {
+    auto const features = SysUtility::ptr_cast<FeatureLayer>(layer);
+    if (!features || !features->IsVisible() || !features->IsAnnotationVisible()) continue;
+    auto const settings = features->GetAnnotationProperties();
+    if (ScaleRange{settings->storedMinScale(), settings->storedMaxScale()}.contains(scale)) layers << features;
+  }
+  std::stable_sort(layers.begin(), layers.end(), [](auto const& a, auto const& b) {
+    return a->GetAnnotationProperties()->GetPriority() > b->GetAnnotationProperties()->GetPriority();
+  });
+  return layers;
+}
+
 }  // namespace
 
 MapPicture drawMap(MapFrameElement const& frame, DisplayTransformation const& transformation, QRect const& areaPx,
@@ -66,6 +89,20 @@ void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameEleme
   QRect const framePx = pixelsOf(frame, transformation), clipPx(picture.place, picture.image.size());
   QPainter painter(&picture.image);
   elements.Draw(painter, transformationOf(*frame.GetMap(), framePx, clipPx, transformation.GetPageScale()), 1, nullptr);
+}
+
+QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi) {
+  auto const rectangle = frame.GetEnvelope();
+  auto const pixels = [dpi](double cm) {
+    return static_cast<int>(std::clamp(std::round(cm / inchCm * dpi), 1.0, double(farthestPx)));
+  };
+  QRect const framePx(0, 0, pixels(rectangle->GetWidth()), pixels(rectangle->GetHeight()));
+  auto const transformation = transformationOf(*frame.GetMap(), framePx, framePx, dpi / pixelsPerInch);
+  QMap<int, QList<_ptr_t<SysGeometry::Polygon>>> obstacles;
+  QList<_ptr_t<Element>> labels;
+  for (auto const& layer : labelledLayers(*frame.GetMap()))
+    layer->GetAnnotationElements(obstacles, labels, transformation, nullptr);
+  return labels;
 }
 
 }  // namespace SysCarto

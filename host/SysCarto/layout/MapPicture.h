@@ -21,4 +21,7 @@ SYSCARTO_EXPORT MapPicture drawMap(MapFrameElement const& frame,
 SYSCARTO_EXPORT void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameElement const& frame,
                                  SysDisplay::DisplayTransformation const& transformation);
 
+/// The labels of a data frame's map, as an export at that resolution places them. No container holds them.
+SYSCARTO_EXPORT QList<SysUtility::_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi);
+
 }  // namespace SysCarto
