@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMetaEnum>
 #include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -106,6 +107,23 @@ QPushButton* buttonOf(QDialog const& dialog, QString const& text) {
   return nullptr;
 }
 
+// By its text, or by its English name in any language.
+QPushButton* buttonOf(QMessageBox const& box, QString const& text) {
+  auto const names = QMetaEnum::fromType<QMessageBox::StandardButtons>();
+  for (QAbstractButton* button : box.buttons())
+    if (isSame(QLatin1String(names.valueToKey(box.standardButton(button))), text))
+      return qobject_cast<QPushButton*>(button);
+  return buttonOf(static_cast<QDialog const&>(box), text);
+}
+
+// The one that accepts the dialog. In some languages it does not say OK, but it is the default button.
+QPushButton* acceptingButtonOf(QDialog const& dialog) {
+  if (QPushButton* const ok = buttonOf(dialog, QStringLiteral("OK"))) return ok;
+  for (QPushButton* button : dialog.findChildren<QPushButton*>())
+    if (button->isVisible() && button->isDefault()) return button;
+  return nullptr;
+}
+
 // The widget that an answer names in the dialog; null where there is none.
 QWidget* widgetOf(QDialog& dialog, QString const& name) {
   if (qobject_cast<QFileDialog*>(&dialog)) return name == QLatin1String("file") ? &dialog : nullptr;
@@ -118,8 +136,8 @@ bool apply(QDialog& dialog, QWidget& widget, QString const& value) {
     files->selectFile(QFileInfo(value).absoluteFilePath());
     return true;
   }
-  if (qobject_cast<QMessageBox*>(&dialog)) {
-    QPushButton* const button = buttonOf(dialog, value);
+  if (auto const* const box = qobject_cast<QMessageBox*>(&dialog)) {
+    QPushButton* const button = buttonOf(*box, value);
     if (button) button->click();
     return button != nullptr;
   }
@@ -129,8 +147,7 @@ bool apply(QDialog& dialog, QWidget& widget, QString const& value) {
 // A dialog checks what it was given behind its OK button.
 void accept(QDialog& dialog) {
   auto const* const box = qobject_cast<QMessageBox*>(&dialog);
-  QPushButton* const button =
-      box && box->defaultButton() ? box->defaultButton() : buttonOf(dialog, QStringLiteral("OK"));
+  QPushButton* const button = box && box->defaultButton() ? box->defaultButton() : acceptingButtonOf(dialog);
   if (button)
     button->click();
   else
