@@ -27,7 +27,7 @@ function(plotvane_test name)
   target_link_libraries(${name} PRIVATE ${arg_LINKS} plotvane_test_support Qt5::Test)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_SCALE_FACTOR=1;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 600)
+    "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;TZ=UTC;QT_SCALE_FACTOR=1;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 600)
 endfunction()
 
 # plotvane_translations(Target catalogue)

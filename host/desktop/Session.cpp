@@ -49,11 +49,23 @@ void passOn(QtMsgType type, QMessageLogContext const&, QString const& text) {
   Console::complain(text);
 }
 
+// As the variables of the session have it; empty for none.
+QByteArray sessionLanguage() {
+  QByteArray language = qgetenv("LC_ALL");
+  if (language.isEmpty()) language = qgetenv("LC_MESSAGES");
+  if (language.isEmpty()) language = qgetenv("LANG");
+  if (language == "C" || language == "POSIX") return QByteArray();
+  QByteArray const list = qgetenv("LANGUAGE");
+  return language.isEmpty() || list.isEmpty() ? language : list;
+}
+
 // Qt encodes file names in the locale's encoding and GDAL in UTF-8. In the "C" locale of a bare container a name with
-// an umlaut would be lost on the way.
+// an umlaut would be lost on the way. The language of the texts stays, also where the system lacks its locale.
 void ensureUtf8Locale() {
   setlocale(LC_ALL, "");
-  if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
+  if (std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0) return;
+  qputenv("LANGUAGE", sessionLanguage());
+  qputenv("LC_ALL", "C.UTF-8");
 }
 
 // A path of some thousand vertices is a block of memory that would go back to the system after each feature and come

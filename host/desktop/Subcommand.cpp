@@ -1,6 +1,7 @@
 #include "Subcommand.h"
 
 #include "Console.h"
+#include "Language.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -28,7 +29,8 @@ void printHelp() {
     text += QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -9).arg(say(subcommand.help));
   text += say(QT_TRANSLATE_NOOP("Subcommand",
                                 "\nplotvane SUBCOMMAND --help tells about one of them; plotvane "
-                                "--version tells the version."));
+                                "--version tells the version. --language LANG, on any of these lines, names the "
+                                "language of the texts, such as de; it is the user's own otherwise."));
   Console::print(text);
 }
 
@@ -58,7 +60,7 @@ ExitStatus dispatch(QStringList const& arguments) {
 // The parser's own usage line names the executable's path and not the subcommand.
 QString helpText(Subcommand const& self, QCommandLineParser const& parser) {
   QString const text = parser.helpText();
-  return QStringLiteral("Usage: plotvane %1 [options] %2")
+  return say(QT_TRANSLATE_NOOP("Subcommand", "Usage: plotvane %1 [options] %2"))
              .arg(QLatin1String(self.name), QLatin1String(self.operands))
              .trimmed() +
          text.mid(text.indexOf(QLatin1Char('\n'))).trimmed().prepend(QStringLiteral("\n"));
@@ -84,8 +86,13 @@ std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLinePar
                                          QStringList const& arguments) {
   QCommandLineOption const help({QStringLiteral("h"), QStringLiteral("help")},
                                 say(QT_TRANSLATE_NOOP("Subcommand", "Show this help.")));
-  parser.addOption(help);
-  parser.setApplicationDescription(say(self.help) + QLatin1Char('.'));
+  // Its value was taken out of the arguments before; here it is for the help.
+  QCommandLineOption const language(
+      QLatin1String(languageOption),
+      say(QT_TRANSLATE_NOOP("Subcommand", "The language of the texts, such as de; the user's own if not given.")),
+      QStringLiteral("LANG"));
+  parser.addOptions({language, help});
+  parser.setApplicationDescription(say(QT_TRANSLATE_NOOP("Subcommand", "%1.")).arg(say(self.help)));
   bool const understood = parser.parse(QStringList(QStringLiteral("plotvane")) + arguments);
   if (parser.isSet(help)) {
     Console::print(helpText(self, parser));

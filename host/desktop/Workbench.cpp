@@ -1,5 +1,7 @@
 #include "Workbench.h"
 
+#include "host/SysFramework/Translations.h"
+
 using SysUtility::_ptr_t;
 using SysUtility::make;
 
@@ -14,6 +16,7 @@ Workbench::Workbench(std::function<void(HostCommands&)> const& addCommands)
     : views_(make<DocumentViews>(session_.document(), nullptr)),
       desktop_(make<ViewDesktop>(session_.document(), *views_)) {
   plugin_.load();
+  SysFramework::installLaterTranslations();
   HostCommands host(session_, *views_);
   if (addCommands) addCommands(host);
   commands_ = std::make_unique<CommandSet>(host, plugin_, desktop_->hook(), *views_);

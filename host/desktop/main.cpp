@@ -1,3 +1,4 @@
+#include "Language.h"
 #include "MainWindow.h"
 #include "Session.h"
 #include "Subcommand.h"
@@ -8,6 +9,8 @@
 int main(int argc, char** argv) {
   QStringList arguments;
   for (int i = 1; i < argc; ++i) arguments << QFile::decodeName(argv[i]);
+  auto const language = takeLanguage(arguments);
+  if (language && !isLanguage(*language)) return WrongArguments;
   bool const opensWindow = asksForWindow(arguments);
   if (opensWindow)
     prepareWindowEnvironment();
@@ -17,5 +20,7 @@ int main(int argc, char** argv) {
   prepareApplication();
   // The application has taken its own options out.
   arguments = QCoreApplication::arguments().mid(1);
+  takeLanguage(arguments);
+  installLanguage(language);
   return opensWindow ? runWindow(arguments.value(0)) : runCommandLine(arguments);
 }

@@ -1,0 +1,50 @@
+#include "Language.h"
+
+#include "Console.h"
+
+#include "host/SysFramework/Translations.h"
+
+#include <QLocale>
+
+namespace {
+
+// The locale whose texts a person means by "de", "de_AT", "zh-CN" or "zh".
+std::optional<QLocale> localeOf(QString const& language) {
+  QStringList const known = SysFramework::languagesOfTexts();
+  QLocale const locale(QString(language).replace(QLatin1Char('-'), QLatin1Char('_')));
+  bool const isKnown = known.contains(locale.name()) || known.contains(locale.name().section(QLatin1Char('_'), 0, 0));
+  return isKnown ? std::make_optional(locale) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<QString> takeLanguage(QStringList& arguments) {
+  QString const option = QStringLiteral("--") + QLatin1String(languageOption);
+  std::optional<QString> language;
+  for (int i = 0; i < arguments.size() && arguments.at(i) != QLatin1String("--");) {
+    bool const isAlone = arguments.at(i) == option;
+    if (!isAlone && !arguments.at(i).startsWith(option + QLatin1Char('='))) {
+      ++i;
+      continue;
+    }
+    QString const argument = arguments.takeAt(i);
+    if (!isAlone)
+      language = argument.mid(option.size() + 1);
+    else
+      language = i < arguments.size() ? arguments.takeAt(i) : QString();
+  }
+  return language;
+}
+
+bool isLanguage(QString const& language) {
+  if (localeOf(language)) return true;
+  // In English: nothing is translated yet.
+  Console::complain(QStringLiteral("--language: \"%1\" is none of the languages: %2.")
+                        .arg(language, SysFramework::languagesOfTexts().join(QStringLiteral(", "))));
+  return false;
+}
+
+void installLanguage(std::optional<QString> const& language) {
+  auto const chosen = language ? localeOf(*language) : std::nullopt;
+  SysFramework::installTranslations(chosen.value_or(QLocale::system()));
+}
