@@ -2,10 +2,1823 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>Archive</name>
+    <message>
+        <source>true or false</source>
+        <translation>wahr oder falsch</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>erwartet: %1, gefunden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 liegt nicht zwischen %2 und %3</translation>
+    </message>
+    <message>
+        <source>the text has %1 characters; at most %2</source>
+        <translation>der Text hat %1 Zeichen; höchstens %2 sind erlaubt</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>%1 is not a whole number</source>
+        <translation>%1 ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>expected %1 numbers, found %2</source>
+        <translation>%1 Zahlen erwartet, %2 gefunden</translation>
+    </message>
+    <message>
+        <source>holds an odd count of numbers</source>
+        <translation>enthält eine ungerade Anzahl von Zahlen</translation>
+    </message>
+    <message>
+        <source>%1 is a choice without a name</source>
+        <translation>%1 ist eine Auswahl ohne Namen</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation>„%1“ ist keiner der Werte %2</translation>
+    </message>
+    <message>
+        <source>holds %1 entries; at most %2</source>
+        <translation>enthält %1 Einträge; höchstens %2 sind erlaubt</translation>
+    </message>
+</context>
+<context>
+    <name>Commands</name>
+    <message>
+        <source>&amp;Arrange</source>
+        <translation>&amp;Anordnen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>An&amp;sicht</translation>
+    </message>
+    <message>
+        <source>About Plotvane</source>
+        <translation>Über Plotvane</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Add a grid to a data frame</source>
+        <translation>Gitternetz zu einem Datenrahmen hinzufügen</translation>
+    </message>
+    <message>
+        <source>Align Bottom</source>
+        <translation>Unten ausrichten</translation>
+    </message>
+    <message>
+        <source>Align Centres</source>
+        <translation>Horizontal zentrieren</translation>
+    </message>
+    <message>
+        <source>Align Left</source>
+        <translation>Linksbündig ausrichten</translation>
+    </message>
+    <message>
+        <source>Align Middles</source>
+        <translation>Vertikal zentrieren</translation>
+    </message>
+    <message>
+        <source>Align Right</source>
+        <translation>Rechtsbündig ausrichten</translation>
+    </message>
+    <message>
+        <source>Align Top</source>
+        <translation>Oben ausrichten</translation>
+    </message>
+    <message>
+        <source>Align the bottom edges of the selected elements</source>
+        <translation>Untere Kanten der ausgewählten Elemente ausrichten</translation>
+    </message>
+    <message>
+        <source>Align the horizontal centres of the selected elements</source>
+        <translation>Ausgewählte Elemente horizontal zentrieren</translation>
+    </message>
+    <message>
+        <source>Align the left edges of the selected elements</source>
+        <translation>Linke Kanten der ausgewählten Elemente ausrichten</translation>
+    </message>
+    <message>
+        <source>Align the right edges of the selected elements</source>
+        <translation>Rechte Kanten der ausgewählten Elemente ausrichten</translation>
+    </message>
+    <message>
+        <source>Align the top edges of the selected elements</source>
+        <translation>Obere Kanten der ausgewählten Elemente ausrichten</translation>
+    </message>
+    <message>
+        <source>Align the vertical centres of the selected elements</source>
+        <translation>Ausgewählte Elemente vertikal zentrieren</translation>
+    </message>
+    <message>
+        <source>Align to Margins</source>
+        <translation>Am Seitenrand ausrichten</translation>
+    </message>
+    <message>
+        <source>Align to the page margins instead of to the first selected element</source>
+        <translation>Am Seitenrand statt am zuerst ausgewählten Element ausrichten</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>Anordnen</translation>
+    </message>
+    <message>
+        <source>Bring Forward</source>
+        <translation>Eine Ebene nach vorn</translation>
+    </message>
+    <message>
+        <source>Bring to Front</source>
+        <translation>In den Vordergrund</translation>
+    </message>
+    <message>
+        <source>Change Layout…</source>
+        <translation>Layout wechseln …</translation>
+    </message>
+    <message>
+        <source>Close the window</source>
+        <translation>Fenster schließen</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Convert to Graphics</source>
+        <translation>In Grafik umwandeln</translation>
+    </message>
+    <message>
+        <source>Data Frame</source>
+        <translation>Datenrahmen</translation>
+    </message>
+    <message>
+        <source>Delete the selected elements</source>
+        <translation>Ausgewählte Elemente löschen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Distribute Horizontally</source>
+        <translation>Horizontal verteilen</translation>
+    </message>
+    <message>
+        <source>Distribute Vertically</source>
+        <translation>Vertikal verteilen</translation>
+    </message>
+    <message>
+        <source>Draw the selected elements above all others</source>
+        <translation>Ausgewählte Elemente über allen anderen zeichnen</translation>
+    </message>
+    <message>
+        <source>Draw the selected elements below all others</source>
+        <translation>Ausgewählte Elemente unter allen anderen zeichnen</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Export Map…</source>
+        <translation>Karte exportieren …</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Fit Height to Margins</source>
+        <translation>Höhe an Seitenrand anpassen</translation>
+    </message>
+    <message>
+        <source>Fit Width to Margins</source>
+        <translation>Breite an Seitenrand anpassen</translation>
+    </message>
+    <message>
+        <source>Fit to Margins</source>
+        <translation>An Seitenrand anpassen</translation>
+    </message>
+    <message>
+        <source>Give the selected elements the height of the last selected one</source>
+        <translation>Ausgewählten Elementen die Höhe des zuletzt ausgewählten geben</translation>
+    </message>
+    <message>
+        <source>Give the selected elements the size of the last selected one</source>
+        <translation>Ausgewählten Elementen die Größe des zuletzt ausgewählten geben</translation>
+    </message>
+    <message>
+        <source>Give the selected elements the width of the last selected one</source>
+        <translation>Ausgewählten Elementen die Breite des zuletzt ausgewählten geben</translation>
+    </message>
+    <message>
+        <source>Go back to what was shown before</source>
+        <translation>Zum vorher gezeigten Ausschnitt zurückgehen</translation>
+    </message>
+    <message>
+        <source>Go forward to what was shown after</source>
+        <translation>Zum danach gezeigten Ausschnitt vorgehen</translation>
+    </message>
+    <message>
+        <source>Grid…</source>
+        <translation>Gitternetz …</translation>
+    </message>
+    <message>
+        <source>Insert a data frame with an empty map</source>
+        <translation>Datenrahmen mit leerer Karte einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a legend of the focus map</source>
+        <translation>Legende der aktiven Karte einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a north arrow chosen from the style libraries</source>
+        <translation>Nordpfeil aus den Stilbibliotheken einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a scale bar of the focus map</source>
+        <translation>Maßstabsleiste der aktiven Karte einfügen</translation>
+    </message>
+    <message>
+        <source>Insert the scale of the focus map as text</source>
+        <translation>Maßstab der aktiven Karte als Text einfügen</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Let the mouse move all data frames again</source>
+        <translation>Alle Datenrahmen wieder mit der Maus verschieben lassen</translation>
+    </message>
+    <message>
+        <source>Lock Data Frames</source>
+        <translation>Datenrahmen sperren</translation>
+    </message>
+    <message>
+        <source>Make the change again</source>
+        <translation>Änderung erneut ausführen</translation>
+    </message>
+    <message>
+        <source>Make the horizontal gaps between the selected elements equal</source>
+        <translation>Horizontale Abstände zwischen den ausgewählten Elementen angleichen</translation>
+    </message>
+    <message>
+        <source>Make the vertical gaps between the selected elements equal</source>
+        <translation>Vertikale Abstände zwischen den ausgewählten Elementen angleichen</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Move the page under the view</source>
+        <translation>Seite in der Ansicht verschieben</translation>
+    </message>
+    <message>
+        <source>Move the selected elements one step down</source>
+        <translation>Ausgewählte Elemente eine Ebene nach hinten stellen</translation>
+    </message>
+    <message>
+        <source>Move the selected elements one step up</source>
+        <translation>Ausgewählte Elemente eine Ebene nach vorn bringen</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Next Extent</source>
+        <translation>Nächster Ausschnitt</translation>
+    </message>
+    <message>
+        <source>North Arrow…</source>
+        <translation>Nordpfeil …</translation>
+    </message>
+    <message>
+        <source>Open a map document</source>
+        <translation>Kartendokument öffnen</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>Öffnen …</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
+    <message>
+        <source>Page Setup…</source>
+        <translation>Seite einrichten …</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Previous Extent</source>
+        <translation>Vorheriger Ausschnitt</translation>
+    </message>
+    <message>
+        <source>Protect all data frames from the mouse</source>
+        <translation>Alle Datenrahmen vor der Maus schützen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Replace the page layout by that of another document</source>
+        <translation>Seitenlayout durch das eines anderen Dokuments ersetzen</translation>
+    </message>
+    <message>
+        <source>Same Height</source>
+        <translation>Gleiche Höhe</translation>
+    </message>
+    <message>
+        <source>Same Size</source>
+        <translation>Gleiche Größe</translation>
+    </message>
+    <message>
+        <source>Same Width</source>
+        <translation>Gleiche Breite</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message>
+        <source>Save the document under another name</source>
+        <translation>Dokument unter anderem Namen speichern</translation>
+    </message>
+    <message>
+        <source>Save the document</source>
+        <translation>Dokument speichern</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Scale Bar</source>
+        <translation>Maßstabsleiste</translation>
+    </message>
+    <message>
+        <source>Scale Text</source>
+        <translation>Maßstabsangabe</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select all elements but locked data frames</source>
+        <translation>Alle Elemente außer gesperrten Datenrahmen auswählen</translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation>Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Select, move and resize elements</source>
+        <translation>Elemente auswählen, verschieben und in der Größe ändern</translation>
+    </message>
+    <message>
+        <source>Send Backward</source>
+        <translation>Eine Ebene nach hinten</translation>
+    </message>
+    <message>
+        <source>Send to Back</source>
+        <translation>In den Hintergrund</translation>
+    </message>
+    <message>
+        <source>Set paper form, size, orientation, border and background</source>
+        <translation>Papierformat, Größe, Ausrichtung, Rand und Hintergrund festlegen</translation>
+    </message>
+    <message>
+        <source>Show or hide the table of contents</source>
+        <translation>Inhaltsverzeichnis ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Show the map of the data frame alone</source>
+        <translation>Nur die Karte des Datenrahmens anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the page in its real size</source>
+        <translation>Seite in ihrer wirklichen Größe anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the page</source>
+        <translation>Seite anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the whole page</source>
+        <translation>Ganze Seite anzeigen</translation>
+    </message>
+    <message>
+        <source>Start a document with an empty page</source>
+        <translation>Dokument mit leerer Seite beginnen</translation>
+    </message>
+    <message>
+        <source>Stretch the selected elements to the height between the margins</source>
+        <translation>Ausgewählte Elemente auf die Höhe zwischen den Seitenrändern strecken</translation>
+    </message>
+    <message>
+        <source>Stretch the selected elements to the page margins</source>
+        <translation>Ausgewählte Elemente bis zum Seitenrand strecken</translation>
+    </message>
+    <message>
+        <source>Stretch the selected elements to the width between the margins</source>
+        <translation>Ausgewählte Elemente auf die Breite zwischen den Seitenrändern strecken</translation>
+    </message>
+    <message>
+        <source>Take the last change back</source>
+        <translation>Letzte Änderung zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Turn the selected map surrounds into plain graphics</source>
+        <translation>Ausgewählte Randangaben in einfache Grafik umwandeln</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Unlock Data Frames</source>
+        <translation>Datenrahmen entsperren</translation>
+    </message>
+    <message>
+        <source>Unselect</source>
+        <translation>Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>Version and licence</source>
+        <translation>Version und Lizenz</translation>
+    </message>
+    <message>
+        <source>Whole Page</source>
+        <translation>Ganze Seite</translation>
+    </message>
+    <message>
+        <source>Write the page as an image file</source>
+        <translation>Seite als Bilddatei schreiben</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom in by click or rectangle</source>
+        <translation>Durch Klicken oder Aufziehen eines Rechtecks vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out by click or rectangle</source>
+        <translation>Durch Klicken oder Aufziehen eines Rechtecks verkleinern</translation>
+    </message>
+    <message>
+        <source>a change that was taken back</source>
+        <translation>eine zurückgenommene Änderung</translation>
+    </message>
+    <message>
+        <source>a change to take back</source>
+        <translation>eine Änderung, die sich zurücknehmen lässt</translation>
+    </message>
+    <message>
+        <source>a document</source>
+        <translation>ein Dokument</translation>
+    </message>
+    <message>
+        <source>a later extent</source>
+        <translation>ein späterer Ausschnitt</translation>
+    </message>
+    <message>
+        <source>a page layout</source>
+        <translation>ein Seitenlayout</translation>
+    </message>
+    <message>
+        <source>a selected element that is not a locked data frame</source>
+        <translation>ein ausgewähltes Element, das kein gesperrter Datenrahmen ist</translation>
+    </message>
+    <message>
+        <source>a selected element</source>
+        <translation>ein ausgewähltes Element</translation>
+    </message>
+    <message>
+        <source>a selected map surround</source>
+        <translation>eine ausgewählte Randangabe</translation>
+    </message>
+    <message>
+        <source>an earlier extent</source>
+        <translation>ein früherer Ausschnitt</translation>
+    </message>
+    <message>
+        <source>changes that are not saved</source>
+        <translation>nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>selected elements, no markers and no map surrounds among them</source>
+        <translation>ausgewählte Elemente ohne Punktsymbole und Randangaben</translation>
+    </message>
+    <message>
+        <source>the page layout shown and a selected element</source>
+        <translation>angezeigtes Seitenlayout und ein ausgewähltes Element</translation>
+    </message>
+    <message>
+        <source>the page layout shown</source>
+        <translation>angezeigtes Seitenlayout</translation>
+    </message>
+    <message>
+        <source>the page layout shown, with elements</source>
+        <translation>angezeigtes Seitenlayout mit Elementen</translation>
+    </message>
+    <message>
+        <source>three selected elements</source>
+        <translation>drei ausgewählte Elemente</translation>
+    </message>
+    <message>
+        <source>two selected elements</source>
+        <translation>zwei ausgewählte Elemente</translation>
+    </message>
+    <message>
+        <source>two selected elements, or one when aligning to margins</source>
+        <translation>zwei ausgewählte Elemente oder eines beim Ausrichten am Seitenrand</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>Ausrichten</translation>
+    </message>
+    <message>
+        <source>Distribute</source>
+        <translation>Verteilen</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+</context>
+<context>
+    <name>CommandsSubcommand</name>
+    <message>
+        <source>Print JSON, for programs.</source>
+        <translation>JSON für Programme ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the reference of all commands, the host&apos;s included.</source>
+        <translation>Die Übersicht aller Befehle ausgeben, auch der des Hostprogramms.</translation>
+    </message>
+</context>
+<context>
+    <name>CoordinateSystem</name>
+    <message>
+        <source>is longer than a coordinate system can be</source>
+        <translation>länger, als ein Koordinatensystem sein kann</translation>
+    </message>
+    <message>
+        <source>“%1” is no coordinate system; give a code such as EPSG:8857, WKT or a PROJ text</source>
+        <translation>„%1“ ist kein Koordinatensystem; geben Sie einen Code wie EPSG:8857, WKT oder einen PROJ-Text an</translation>
+    </message>
+    <message>
+        <source>names a file, and a document&apos;s coordinate system may not; leave out the grid or the file</source>
+        <translation>nennt eine Datei, was im Koordinatensystem eines Dokuments nicht erlaubt ist; lassen Sie das Gitter oder die Datei weg</translation>
+    </message>
+    <message>
+        <source>“%1” is not a coordinate system that PROJ knows; give a code such as EPSG:8857</source>
+        <translation>„%1“ ist kein Koordinatensystem, das PROJ kennt; geben Sie einen Code wie EPSG:8857 an</translation>
+    </message>
+    <message>
+        <source>is neither geographic nor projected; leave it empty for plain coordinates</source>
+        <translation>weder geographisch noch projiziert; lassen Sie es für einfache Koordinaten leer</translation>
+    </message>
+</context>
+<context>
+    <name>DataSource</name>
+    <message>
+        <source>The file “%1” can&apos;t be opened: %2.</source>
+        <translation>Die Datei „%1“ kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>The source names no file; give the path of a local file.</source>
+        <translation>Die Quelle nennt keine Datei; geben Sie den Pfad einer lokalen Datei an.</translation>
+    </message>
+    <message>
+        <source>The source “%1” is not a local file: virtual file systems are not opened.</source>
+        <translation>Die Quelle „%1“ ist keine lokale Datei: Virtuelle Dateisysteme werden nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>The source “%1” is not a local file: addresses are not opened.</source>
+        <translation>Die Quelle „%1“ ist keine lokale Datei: Netzadressen werden nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>The source “%1” is not a plain path: leave out the prefix before the colon.</source>
+        <translation>Die Quelle „%1“ ist kein einfacher Pfad: Lassen Sie das Präfix vor dem Doppelpunkt weg.</translation>
+    </message>
+    <message>
+        <source>The source “%1” is not a path.</source>
+        <translation>Die Quelle „%1“ ist kein Pfad.</translation>
+    </message>
+    <message>
+        <source>it does not exist</source>
+        <translation>sie existiert nicht</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>sie ist keine Datei</translation>
+    </message>
+    <message>
+        <source>reading it is not permitted</source>
+        <translation>das Lesen ist nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file</source>
+        <translation>sie ist keine GeoPackage-, GeoJSON-, Shapefile- oder FlatGeobuf-Datei</translation>
+    </message>
+    <message>
+        <source>The file “%1” has no layer “%2”; it has: %3.</source>
+        <translation>Die Datei „%1“ hat keinen Layer „%2“; sie enthält: %3.</translation>
+    </message>
+</context>
+<context>
+    <name>DialogAnswers</name>
+    <message>
+        <source>the message box &quot;%1&quot; (&quot;%2&quot;)</source>
+        <translation>das Meldungsfenster „%1“ („%2“)</translation>
+    </message>
+    <message>
+        <source>the dialog &quot;%1&quot; (%2)</source>
+        <translation>der Dialog „%1“ (%2)</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;</source>
+        <translation>%1 nimmt „%2“ nicht an</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be accepted like this</source>
+        <translation>so kann er nicht bestätigt werden</translation>
+    </message>
+    <message>
+        <source>; the next answer is for %1</source>
+        <translation>; die nächste Antwort ist für %1</translation>
+    </message>
+    <message>
+        <source>no dialog has taken the answer for %1</source>
+        <translation>kein Dialog hat die Antwort für %1 angenommen</translation>
+    </message>
+    <message>
+        <source>a dialog as a whole</source>
+        <translation>einen Dialog als Ganzes</translation>
+    </message>
+    <message>
+        <source>nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command</source>
+        <translation>niemand beantwortet ihn; setzen Sie answer=WIDGET:VALUE, accept oder cancel vor den Befehl</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFiles</name>
+    <message>
+        <source>Map documents (*.kdx)</source>
+        <translation>Kartendokumente (*.kdx)</translation>
+    </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation>Änderungen an %1 speichern?</translation>
+    </message>
+    <message>
+        <source>Without saving, they are lost.</source>
+        <translation>Ohne Speichern gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>The document was not opened.</source>
+        <translation>Das Dokument wurde nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>… and %1 more.</source>
+        <translation>… und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>The document was opened, but not all of it was read.</source>
+        <translation>Das Dokument wurde geöffnet, aber nicht vollständig gelesen.</translation>
+    </message>
+    <message>
+        <source>The document was not saved.</source>
+        <translation>Das Dokument wurde nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>Keine zuletzt geöffneten Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentReport</name>
+    <message>
+        <source>marker</source>
+        <translation>Punktsymbol</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>polygon</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>data frame</source>
+        <translation>Datenrahmen</translation>
+    </message>
+    <message>
+        <source>map surround frame</source>
+        <translation>Randangabe</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>features</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>raster</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>No page</source>
+        <translation>Keine Seite</translation>
+    </message>
+    <message>
+        <source>Page: %1, %2, %3 × %4 cm</source>
+        <translation>Seite: %1, %2, %3 × %4 cm</translation>
+    </message>
+    <message>
+        <source>handle</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>xmin  ymin  xmax  ymax (cm)</source>
+        <translation>xmin  ymin  xmax  ymax (cm)</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source> (selected)</source>
+        <translation> (ausgewählt)</translation>
+    </message>
+    <message>
+        <source> (locked)</source>
+        <translation> (gesperrt)</translation>
+    </message>
+    <message>
+        <source>Elements: %1</source>
+        <translation>Elemente: %1</translation>
+    </message>
+    <message>
+        <source>shown</source>
+        <translation>sichtbar</translation>
+    </message>
+    <message>
+        <source>hidden</source>
+        <translation>ausgeblendet</translation>
+    </message>
+    <message>
+        <source>Map: %1, scale 1:%2, extent %3</source>
+        <translation>Karte: %1, Maßstab 1:%2, Ausdehnung %3</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentSession</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
+    </message>
+</context>
+<context>
+    <name>Editor</name>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>ElementArchive</name>
+    <message>
+        <source>must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax</source>
+        <translation>muss xmin, ymin, xmax, ymax enthalten, mit xmin ≤ xmax und ymin ≤ ymax</translation>
+    </message>
+    <message>
+        <source>needs at least %1 points</source>
+        <translation>braucht mindestens %1 Punkte</translation>
+    </message>
+    <message>
+        <source>holds a coordinate beyond %1</source>
+        <translation>enthält eine Koordinate jenseits von %1</translation>
+    </message>
+    <message>
+        <source>needs at least one ring</source>
+        <translation>braucht mindestens einen Ring</translation>
+    </message>
+    <message>
+        <source>groups are nested more than %1 deep</source>
+        <translation>Gruppen sind tiefer als %1 Ebenen verschachtelt</translation>
+    </message>
+    <message>
+        <source>is no map of the document</source>
+        <translation>ist keine Karte des Dokuments</translation>
+    </message>
+    <message>
+        <source>another data frame shows this map already</source>
+        <translation>ein anderer Datenrahmen zeigt diese Karte bereits</translation>
+    </message>
+    <message>
+        <source>%1 is another element&apos;s handle already</source>
+        <translation>%1 ist bereits die Kennung eines anderen Elements</translation>
+    </message>
+    <message>
+        <source>an element of a kind that can&apos;t be stored</source>
+        <translation>ein Element einer Art, die sich nicht speichern lässt</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation>„%1“ ist keiner der Werte %2</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be part of a group</source>
+        <translation>„%1“ kann nicht Teil einer Gruppe sein</translation>
+    </message>
+    <message>
+        <source>a part of a frame of a kind that can&apos;t be stored</source>
+        <translation>ein Rahmenteil einer Art, die sich nicht speichern lässt</translation>
+    </message>
+    <message>
+        <source>“%1” is not a paper form; “A4” and “Custom” are</source>
+        <translation>„%1“ ist kein Papierformat; „A4“ und „Custom“ sind welche</translation>
+    </message>
+    <message>
+        <source>needs at least one element</source>
+        <translation>braucht mindestens ein Element</translation>
+    </message>
+</context>
+<context>
+    <name>ExportSubcommand</name>
+    <message>
+        <source>The .kdx document.</source>
+        <translation>Das .kdx-Dokument.</translation>
+    </message>
+    <message>
+        <source>The file to write: .png, .jpg, .bmp or .tif. Any other suffix gives a TIFF.</source>
+        <translation>Die zu schreibende Datei: .png, .jpg, .bmp oder .tif. Jede andere Endung ergibt ein TIFF.</translation>
+    </message>
+    <message>
+        <source>Pixels per inch of paper, 1 to %1; %2 if not given.</source>
+        <translation>Pixel je Zoll Papier, 1 bis %1; %2, wenn nicht angegeben.</translation>
+    </message>
+    <message>
+        <source>Print neither the path nor the progress.</source>
+        <translation>Weder den Pfad noch den Fortschritt ausgeben.</translation>
+    </message>
+    <message>
+        <source>Draw the page also where a data source can&apos;t be read; its layer stays empty.</source>
+        <translation>Die Seite auch zeichnen, wenn eine Datenquelle nicht gelesen werden kann; ihr Layer bleibt leer.</translation>
+    </message>
+    <message>
+        <source>export: --dpi takes a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <translation>export: --dpi erwartet eine ganze Zahl von 1 bis %1, nicht „%2“.</translation>
+    </message>
+    <message>
+        <source>%1: this GDAL can&apos;t write %2; choose another format, or install a GDAL that can.</source>
+        <translation>%1: Dieses GDAL kann %2 nicht schreiben; wählen Sie ein anderes Format, oder installieren Sie ein GDAL, das es kann.</translation>
+    </message>
+    <message>
+        <source>%1 will be a TIFF; .png, .jpg and .bmp name the other formats.</source>
+        <translation>%1 wird ein TIFF; .png, .jpg und .bmp stehen für die anderen Formate.</translation>
+    </message>
+    <message>
+        <source>%1: data sources could not be read, so the page would not be whole; mend them, or pass --allow-missing.</source>
+        <translation>%1: Datenquellen konnten nicht gelesen werden, die Seite wäre also nicht vollständig; reparieren Sie sie, oder geben Sie --allow-missing an.</translation>
+    </message>
+    <message>
+        <source>%1: the document has no page to draw.</source>
+        <translation>%1: Das Dokument hat keine Seite zum Zeichnen.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: interrupted.</source>
+        <translation>%1 wurde nicht geschrieben: abgebrochen.</translation>
+    </message>
+    <message>
+        <source>the image file could not be created</source>
+        <translation>die Bilddatei konnte nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2. Is the disk full?</source>
+        <translation>%1 wurde nicht geschrieben: %2. Ist der Datenträger voll?</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureReader</name>
+    <message>
+        <source>the file “%1”</source>
+        <translation>Datei „%1“</translation>
+    </message>
+    <message>
+        <source>layer “%2” of the file “%1”</source>
+        <translation>Layer „%2“ der Datei „%1“</translation>
+    </message>
+    <message>
+        <source>There is no field “%1” in %2; it has: %3.</source>
+        <translation>Es gibt kein Feld „%1“ in %2; vorhanden sind: %3.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of %1 %2.</source>
+        <translation>Koordinatensystem von %1: %2.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is known for %1; its coordinates are taken as those of the map. Give one in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Für %1 ist kein Koordinatensystem bekannt; die Koordinaten werden als solche der Karte genommen. Geben Sie eines im Feld „coordinateSystem“ der Quelle an.</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 can&apos;t be projected to the map&apos;s coordinate system: %2.</source>
+        <translation>Die Koordinaten von %1 können nicht in das Koordinatensystem der Karte projiziert werden: %2.</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be placed on the map: %2.</source>
+        <translation>Nicht alles aus %1 konnte auf der Karte platziert werden: %2.</translation>
+    </message>
+    <message>
+        <source>The filter “%1” of %2 is not understood: %3.</source>
+        <translation>Der Filter „%1“ von %2 wird nicht verstanden: %3.</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read: %2.</source>
+        <translation>Nicht alles aus %1 konnte gelesen werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>FileSaver</name>
+    <message>
+        <source>“%1” was not saved: %2. %3</source>
+        <translation>„%1“ wurde nicht gespeichert: %2. %3</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>der Ordner existiert nicht</translation>
+    </message>
+    <message>
+        <source>Choose a place where you may write.</source>
+        <translation>Wählen Sie einen Ort, an dem Sie schreiben dürfen.</translation>
+    </message>
+    <message>
+        <source>there is no room for it</source>
+        <translation>es ist kein Platz dafür</translation>
+    </message>
+    <message>
+        <source>Free some space or choose another place.</source>
+        <translation>Schaffen Sie Platz, oder wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>Check the disk or choose another place.</source>
+        <translation>Prüfen Sie den Datenträger, oder wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>Choose a file name.</source>
+        <translation>Wählen Sie einen Dateinamen.</translation>
+    </message>
+    <message>
+        <source>Create the folder or choose another.</source>
+        <translation>Legen Sie den Ordner an, oder wählen Sie einen anderen.</translation>
+    </message>
+</context>
+<context>
+    <name>Graticule</name>
+    <message>
+        <source>the graticule “%1” of the map “%2” has an interval of %3 degrees, which makes %4 lines; at most %5 are drawn, so an interval is chosen for it; enter one of %6 degrees or more</source>
+        <translation>das Gradnetz „%1“ der Karte „%2“ hat einen Abstand von %3 Grad, was %4 Linien ergibt; höchstens %5 werden gezeichnet, deshalb wird ein Abstand gewählt; geben Sie einen von mindestens %6 Grad ein</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
+    <name>HostCommands</name>
+    <message>
+        <source>Delete the selected elements</source>
+        <translation>Ausgewählte Elemente löschen</translation>
+    </message>
+</context>
+<context>
+    <name>ImageTarget</name>
+    <message>
+        <source>%1: the folder %2 does not exist; make it first.</source>
+        <translation>%1: Der Ordner %2 existiert nicht; legen Sie ihn zuerst an.</translation>
+    </message>
+    <message>
+        <source>%1: the folder %2 can&apos;t be written (%3); choose another.</source>
+        <translation>%1: In den Ordner %2 kann nicht geschrieben werden (%3); wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; name a file in it.</source>
+        <translation>%1 ist ein Ordner; nennen Sie eine Datei darin.</translation>
+    </message>
+    <message>
+        <source>%1 is the document itself; name another file for the image.</source>
+        <translation>%1 ist das Dokument selbst; nennen Sie eine andere Datei für das Bild.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2.</source>
+        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1 is not an ordinary file; name another.</source>
+        <translation>%1 ist keine gewöhnliche Datei; nennen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>%1 is write-protected; name another file or unlock it.</source>
+        <translation>%1 ist schreibgeschützt; nennen Sie eine andere Datei, oder heben Sie den Schutz auf.</translation>
+    </message>
+    <message>
+        <source>%1: the image would have no pixels; give more DPI.</source>
+        <translation>%1: Das Bild hätte keine Pixel; geben Sie mehr DPI an.</translation>
+    </message>
+    <message>
+        <source>%1: the image would be %2 × %3 pixels, and a %4 has at most %5 on a side; give less DPI, or write a TIFF.</source>
+        <translation>%1: Das Bild hätte %2 × %3 Pixel, ein %4 aber höchstens %5 je Seite; geben Sie weniger DPI an, oder schreiben Sie ein TIFF.</translation>
+    </message>
+    <message>
+        <source>%1: the image would be %2 × %3 pixels, and a BMP holds at most 4 GB; give less DPI, or write a TIFF.</source>
+        <translation>%1: Das Bild hätte %2 × %3 Pixel, ein BMP fasst aber höchstens 4 GB; geben Sie weniger DPI an, oder schreiben Sie ein TIFF.</translation>
+    </message>
+    <message>
+        <source>%1: drawing %2 × %3 pixels takes %4 GB on the disk, and %5 GB are free; give less DPI, or make room.</source>
+        <translation>%1: Das Zeichnen von %2 × %3 Pixeln braucht %4 GB auf dem Datenträger, frei sind %5 GB; geben Sie weniger DPI an, oder schaffen Sie Platz.</translation>
+    </message>
+    <message>
+        <source>%1: a JPEG of %2 × %3 pixels takes %4 GB of memory, and this machine has %5 GB; give less DPI, or write a PNG or TIFF.</source>
+        <translation>%1: Ein JPEG von %2 × %3 Pixeln braucht %4 GB Arbeitsspeicher, dieser Rechner hat %5 GB; geben Sie weniger DPI an, oder schreiben Sie ein PNG oder TIFF.</translation>
+    </message>
+    <message>
+        <source>%1: no working folder can be made in %2: %3.</source>
+        <translation>%1: In %2 kann kein Arbeitsordner angelegt werden: %3.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: the image can&apos;t be read again.</source>
+        <translation>%1 wurde nicht geschrieben: Das Bild kann nicht wieder gelesen werden.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: the image has not the size that it should have.</source>
+        <translation>%1 wurde nicht geschrieben: Das Bild hat nicht die vorgesehene Größe.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: the end of the image is missing; is the disk full?</source>
+        <translation>%1 wurde nicht geschrieben: Das Ende des Bildes fehlt; ist der Datenträger voll?</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2.</source>
+        <translation>%1 wurde nicht geschrieben: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>InfoSubcommand</name>
+    <message>
+        <source>The .kdx document.</source>
+        <translation>Das .kdx-Dokument.</translation>
+    </message>
+    <message>
+        <source>Print JSON, for programs.</source>
+        <translation>JSON für Programme ausgeben.</translation>
+    </message>
+</context>
+<context>
+    <name>JsonFile</name>
+    <message>
+        <source>no file was named; choose a %1 file</source>
+        <translation>es wurde keine Datei genannt; wählen Sie eine %1-Datei</translation>
+    </message>
+    <message>
+        <source>there is no such file; check the name and the folder</source>
+        <translation>diese Datei gibt es nicht; prüfen Sie Namen und Ordner</translation>
+    </message>
+    <message>
+        <source>this is a folder; choose a %1 file in it</source>
+        <translation>dies ist ein Ordner; wählen Sie eine %1-Datei darin</translation>
+    </message>
+    <message>
+        <source>this is no ordinary file; choose a %1 file</source>
+        <translation>dies ist keine gewöhnliche Datei; wählen Sie eine %1-Datei</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>%1: this is not JSON (%2); mend the file in a text editor or open another one</source>
+        <translation>%1: dies ist kein JSON (%2); berichtigen Sie die Datei in einem Texteditor, oder öffnen Sie eine andere</translation>
+    </message>
+    <message>
+        <source>the file can&apos;t be read (%1); make it readable or choose another one</source>
+        <translation>die Datei kann nicht gelesen werden (%1); machen Sie sie lesbar, oder wählen Sie eine andere</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 MB, too large for a %2; choose another one</source>
+        <translation>die Datei ist größer als %1 MB, zu groß für diese Art (%2); wählen Sie eine andere</translation>
+    </message>
+    <message>
+        <source>the file can&apos;t be read (%1); check the disk</source>
+        <translation>die Datei kann nicht gelesen werden (%1); prüfen Sie den Datenträger</translation>
+    </message>
+    <message>
+        <source>the file holds a list where a %1 holds an object; choose another one</source>
+        <translation>die Datei enthält eine Liste statt eines Objekts (erwartet: %1); wählen Sie eine andere</translation>
+    </message>
+</context>
+<context>
+    <name>LabelSettings</name>
+    <message>
+        <source>names no field; leave out the labels</source>
+        <translation>nennt kein Feld; lassen Sie die Beschriftung weg</translation>
+    </message>
+    <message>
+        <source>is not above that of the class before</source>
+        <translation>liegt nicht über dem der vorigen Klasse</translation>
+    </message>
+</context>
+<context>
+    <name>LayerArchive</name>
+    <message>
+        <source>is larger than maxScale</source>
+        <translation>ist größer als maxScale</translation>
+    </message>
+    <message>
+        <source>Layer “%1”: %2</source>
+        <translation>Layer „%1“: %2</translation>
+    </message>
+    <message>
+        <source>is a layer that can&apos;t be stored</source>
+        <translation>ist ein Layer, der sich nicht speichern lässt</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Open Recent</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>Seitenlayout</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>x 000.00 cm  y 000.00 cm</source>
+        <translation>x 000.00 cm  y 000.00 cm</translation>
+    </message>
+    <message>
+        <source>Place on the page, from its lower left corner</source>
+        <translation>Stelle auf der Seite, von ihrer linken unteren Ecke aus</translation>
+    </message>
+    <message>
+        <source>Map 1:000,000,000</source>
+        <translation>Karte 1:000.000.000</translation>
+    </message>
+    <message>
+        <source>Scale of the map in the focus data frame</source>
+        <translation>Maßstab der Karte im aktiven Datenrahmen</translation>
+    </message>
+    <message>
+        <source>Zoom 0000 %</source>
+        <translation>Zoom 0000 %</translation>
+    </message>
+    <message>
+        <source>Size of the page on the screen; 100 % is its size on paper</source>
+        <translation>Größe der Seite auf dem Bildschirm; 100 % ist ihre Größe auf Papier</translation>
+    </message>
+    <message>
+        <source>%1[*] – Plotvane</source>
+        <translation>%1[*] – Plotvane</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Map 1:%1</source>
+        <translation>Karte 1:%1</translation>
+    </message>
+    <message>
+        <source>Zoom %1 %</source>
+        <translation>Zoom %1 %</translation>
+    </message>
+    <message>
+        <source>x %1 cm  y %2 cm</source>
+        <translation>x %1 cm  y %2 cm</translation>
+    </message>
+    <message>
+        <source>About Plotvane</source>
+        <translation>Über Plotvane</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Plotvane %1&lt;/b&gt;&lt;p&gt;Lays out printed maps.&lt;/p&gt;&lt;p&gt;MIT licence.&lt;/p&gt;</source>
+        <translation>&lt;b&gt;Plotvane %1&lt;/b&gt;&lt;p&gt;Gestaltet gedruckte Karten.&lt;/p&gt;&lt;p&gt;MIT-Lizenz.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>Map</name>
+    <message>
+        <source>New map</source>
+        <translation>Neue Karte</translation>
+    </message>
+</context>
+<context>
+    <name>MapDocument</name>
+    <message>
+        <source>is not “%1”, so this is no map document</source>
+        <translation>ist nicht „%1“, also ist dies kein Kartendokument</translation>
+    </message>
+    <message>
+        <source>the document was written by a newer version of Plotvane, as version %1; update Plotvane, or save it there as version %2</source>
+        <translation>das Dokument wurde von einer neueren Version von Plotvane geschrieben, als Version %1; aktualisieren Sie Plotvane, oder speichern Sie es dort als Version %2</translation>
+    </message>
+    <message>
+        <source>must be xmin, ymin, xmax, ymax, with xmin &lt; xmax and ymin &lt; ymax</source>
+        <translation>muss xmin, ymin, xmax, ymax enthalten, mit xmin &lt; xmax und ymin &lt; ymax</translation>
+    </message>
+    <message>
+        <source>data frames and surrounds can&apos;t lie on a map, only on the page</source>
+        <translation>Datenrahmen und Randangaben können nicht auf einer Karte liegen, nur auf der Seite</translation>
+    </message>
+    <message>
+        <source>maps[%1]: no data frame shows this map; it is left out and will be missing after the next save</source>
+        <translation>maps[%1]: kein Datenrahmen zeigt diese Karte; sie wird weggelassen und fehlt nach dem nächsten Speichern</translation>
+    </message>
+    <message>
+        <source>map document</source>
+        <translation>Kartendokument</translation>
+    </message>
+    <message>
+        <source>the old file can&apos;t be read to keep it as a backup (%1); save without a backup</source>
+        <translation>die alte Datei kann nicht gelesen werden, um sie als Sicherung zu behalten (%1); speichern Sie ohne Sicherung</translation>
+    </message>
+    <message>
+        <source>: this field is unknown; it has no effect and will be missing after the next save</source>
+        <translation>: dieses Feld ist unbekannt; es hat keine Wirkung und fehlt nach dem nächsten Speichern</translation>
+    </message>
+    <message>
+        <source>; change this value, then save again</source>
+        <translation>; ändern Sie diesen Wert, und speichern Sie erneut</translation>
+    </message>
+    <message>
+        <source>There is no document to save; open one or make a new one.</source>
+        <translation>Es gibt kein Dokument zum Speichern; öffnen Sie eines, oder legen Sie ein neues an.</translation>
+    </message>
+    <message>
+        <source>The document has no file yet; save it under a name.</source>
+        <translation>Das Dokument hat noch keine Datei; speichern Sie es unter einem Namen.</translation>
+    </message>
+    <message>
+        <source>; correct the file or open another one</source>
+        <translation>; berichtigen Sie die Datei, oder öffnen Sie eine andere</translation>
+    </message>
+</context>
+<context>
+    <name>MapSurround</name>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstige</translation>
+    </message>
+    <message>
+        <source>Map surround</source>
+        <translation>Randangabe</translation>
+    </message>
+    <message>
+        <source>North arrow</source>
+        <translation>Nordpfeil</translation>
+    </message>
+    <message>
+        <source>Scale bar</source>
+        <translation>Maßstabsleiste</translation>
+    </message>
+    <message>
+        <source>Scale text</source>
+        <translation>Maßstabsangabe</translation>
+    </message>
+    <message>
+        <source>must hold %1 where the scale stands, as in “1:%1”</source>
+        <translation>muss %1 enthalten, wo der Maßstab steht, wie in „1:%1“</translation>
+    </message>
+</context>
+<context>
+    <name>MapView</name>
+    <message>
+        <source>The page has no data frame, so there is no map to show.</source>
+        <translation>Die Seite hat keinen Datenrahmen, also gibt es keine Karte zu zeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>PageGesture</name>
+    <message>
+        <source>Move the selected elements</source>
+        <translation>Ausgewählte Elemente verschieben</translation>
+    </message>
+    <message>
+        <source>Resize the selected elements</source>
+        <translation>Größe der ausgewählten Elemente ändern</translation>
+    </message>
+</context>
+<context>
+    <name>PagePicture</name>
+    <message>
+        <source>No map</source>
+        <translation>Keine Karte</translation>
+    </message>
+</context>
+<context>
     <name>Paper</name>
     <message>
         <source>Custom</source>
         <translation>Benutzerdefiniert</translation>
+    </message>
+</context>
+<context>
+    <name>PictureElement</name>
+    <message>
+        <source>The picture has no file; choose one.</source>
+        <translation>Das Bild hat keine Datei; wählen Sie eine.</translation>
+    </message>
+    <message>
+        <source>%1: there is no such picture file; put it there.</source>
+        <translation>%1: diese Bilddatei gibt es nicht; legen Sie sie dort ab.</translation>
+    </message>
+    <message>
+        <source>%1: the picture is neither PNG nor JPEG nor SVG; save it as one of these.</source>
+        <translation>%1: das Bild ist weder PNG noch JPEG noch SVG; speichern Sie es als eines davon.</translation>
+    </message>
+    <message>
+        <source>%1: the picture&apos;s size can&apos;t be read; save it anew.</source>
+        <translation>%1: die Größe des Bildes kann nicht gelesen werden; speichern Sie es neu.</translation>
+    </message>
+    <message>
+        <source>%1: the picture has %2 × %3 pixels; make it smaller than %4 pixels a side and %5 pixels in all.</source>
+        <translation>%1: das Bild hat %2 × %3 Pixel; verkleinern Sie es auf weniger als %4 Pixel je Seite und %5 Pixel insgesamt.</translation>
+    </message>
+    <message>
+        <source>%1: the picture can&apos;t be read: %2.</source>
+        <translation>%1: das Bild kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1: the picture can&apos;t be opened.</source>
+        <translation>%1: das Bild kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>%1: the SVG can&apos;t be drawn; save it with a size.</source>
+        <translation>%1: das SVG kann nicht gezeichnet werden; speichern Sie es mit einer Größe.</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLibrary</name>
+    <message>
+        <source>The plug-in is missing: there is no %1. Build it, or name it in PLOTVANE_PLUGIN.</source>
+        <translation>Das Plug-in fehlt: Es gibt kein %1. Bauen Sie es, oder nennen Sie es in PLOTVANE_PLUGIN.</translation>
+    </message>
+    <message>
+        <source> and no </source>
+        <translation> und kein </translation>
+    </message>
+    <message>
+        <source>The plug-in can&apos;t be loaded: %1</source>
+        <translation>Das Plug-in kann nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 is no plug-in: it exports no function %2.</source>
+        <translation>%1 ist kein Plug-in: Es exportiert keine Funktion %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2 answered no module.</source>
+        <translation>%1: %2 hat kein Modul geliefert.</translation>
+    </message>
+</context>
+<context>
+    <name>PointTransform</name>
+    <message>
+        <source>there is no transformation between them</source>
+        <translation>zwischen ihnen gibt es keine Transformation</translation>
+    </message>
+</context>
+<context>
+    <name>Renderer</name>
+    <message>
+        <source>“%1” is in two classes</source>
+        <translation>„%1“ steht in zwei Klassen</translation>
+    </message>
+    <message>
+        <source>is not above that of the class before</source>
+        <translation>liegt nicht über dem der vorigen Klasse</translation>
+    </message>
+    <message>
+        <source>names no field</source>
+        <translation>nennt kein Feld</translation>
+    </message>
+</context>
+<context>
+    <name>RunSteps</name>
+    <message>
+        <source>run: this plug-in does not build %1; plotvane commands lists what it builds.</source>
+        <translation>run: Dieses Plug-in baut %1 nicht; plotvane commands zeigt, was es baut.</translation>
+    </message>
+    <message>
+        <source>run: &quot;%1&quot; is neither a step nor a command&apos;s identifier; plotvane run --help lists the steps, and plotvane commands the commands.</source>
+        <translation>run: „%1“ ist weder ein Schritt noch die Kennung eines Befehls; plotvane run --help zeigt die Schritte, plotvane commands die Befehle.</translation>
+    </message>
+    <message>
+        <source>run: &quot;%1&quot; is written %2=%3.</source>
+        <translation>run: „%1“ wird %2=%3 geschrieben.</translation>
+    </message>
+    <message>
+        <source>run: %1: %2</source>
+        <translation>run: %1: %2</translation>
+    </message>
+    <message>
+        <source>run: %1.</source>
+        <translation>run: %1.</translation>
+    </message>
+    <message>
+        <source>%1 is disabled; it needs %2.</source>
+        <translation>„%1“ ist nicht verfügbar; nötig: %2.</translation>
+    </message>
+    <message>
+        <source>there is no view whose elements could be selected.</source>
+        <translation>es gibt keine Ansicht, deren Elemente ausgewählt werden könnten.</translation>
+    </message>
+    <message>
+        <source>no element is named &quot;%1&quot;; plotvane info lists names and handles, and #12 is the one with handle 12.</source>
+        <translation>kein Element heißt „%1“; plotvane info zeigt Namen und Kennungen, und #12 ist das mit der Kennung 12.</translation>
+    </message>
+    <message>
+        <source>%1 needs the page layout shown.</source>
+        <translation>„%1“ braucht das angezeigte Seitenlayout.</translation>
+    </message>
+</context>
+<context>
+    <name>RunSubcommand</name>
+    <message>
+        <source>The .kdx document.</source>
+        <translation>Das .kdx-Dokument.</translation>
+    </message>
+    <message>
+        <source>What to do, in order: a command&apos;s identifier, or one of
+%1</source>
+        <translation>Was zu tun ist, der Reihe nach: die Kennung eines Befehls oder eines von
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>SelectTool</name>
+    <message>
+        <source>Nudge the selected elements</source>
+        <translation>Ausgewählte Elemente schrittweise verschieben</translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>There is no display for the window. To make an image of a page without one: plotvane export DOCUMENT IMAGE; plotvane --help tells what else works.</source>
+        <translation>Es gibt keine Anzeige für das Fenster. So entsteht ohne eine ein Bild der Seite: plotvane export DOCUMENT IMAGE; plotvane --help nennt, was sonst noch geht.</translation>
+    </message>
+</context>
+<context>
+    <name>StyleLibrary</name>
+    <message>
+        <source>style library</source>
+        <translation>Stilbibliothek</translation>
+    </message>
+    <message>
+        <source>is not “%1”, so this is no style library</source>
+        <translation>ist nicht „%1“, also ist dies keine Stilbibliothek</translation>
+    </message>
+    <message>
+        <source>the library was written by a newer version of Plotvane, as version %1; update Plotvane</source>
+        <translation>die Bibliothek wurde von einer neueren Version von Plotvane geschrieben, als Version %1; aktualisieren Sie Plotvane</translation>
+    </message>
+    <message>
+        <source>is empty; give it a name</source>
+        <translation>ist leer; geben Sie einen Namen an</translation>
+    </message>
+    <message>
+        <source>; correct the file or choose another one</source>
+        <translation>; berichtigen Sie die Datei, oder wählen Sie eine andere</translation>
+    </message>
+    <message>
+        <source>; change this value, then save again</source>
+        <translation>; ändern Sie diesen Wert, und speichern Sie erneut</translation>
+    </message>
+</context>
+<context>
+    <name>Subcommand</name>
+    <message>
+        <source>Draw the page of a document into an image file</source>
+        <translation>Die Seite eines Dokuments in eine Bilddatei zeichnen</translation>
+    </message>
+    <message>
+        <source>Tell what is on the page of a document</source>
+        <translation>Angeben, was auf der Seite eines Dokuments liegt</translation>
+    </message>
+    <message>
+        <source>Work on a document step by step, without a window</source>
+        <translation>Ein Dokument ohne Fenster Schritt für Schritt bearbeiten</translation>
+    </message>
+    <message>
+        <source>List the commands and whether the plug-in builds them</source>
+        <translation>Die Befehle auflisten und ob das Plug-in sie baut</translation>
+    </message>
+    <message>
+        <source>Usage: plotvane [DOCUMENT]              opens the window
+       plotvane SUBCOMMAND [options]   works without one</source>
+        <translation>Aufruf: plotvane [DOCUMENT]              öffnet das Fenster
+        plotvane SUBCOMMAND [options]   arbeitet ohne eines</translation>
+    </message>
+    <message>
+        <source>
+plotvane SUBCOMMAND --help tells about one of them; plotvane --version tells the version. --language LANG, on any of these lines, names the language of the texts, such as de; it is the user&apos;s own otherwise.</source>
+        <translation>
+plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die Version. --language LANG nennt in jeder dieser Zeilen die Sprache der Texte, etwa de; sonst ist es die des Benutzers.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a subcommand nor a document; plotvane --help lists the subcommands.</source>
+        <translation>„%1“ ist weder ein Unterbefehl noch ein Dokument; plotvane --help zeigt die Unterbefehle.</translation>
+    </message>
+    <message>
+        <source>The result could not be written to standard output.</source>
+        <translation>Das Ergebnis konnte nicht auf die Standardausgabe geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>Diese Hilfe anzeigen.</translation>
+    </message>
+    <message>
+        <source>The language of the texts, such as de; the user&apos;s own if not given.</source>
+        <translation>Die Sprache der Texte, etwa de; die des Benutzers, wenn nicht angegeben.</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>%1 fehlt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many.</source>
+        <translation>„%1“ ist ein Argument zu viel.</translation>
+    </message>
+    <message>
+        <source>plotvane %1 --help tells how.</source>
+        <translation>plotvane %1 --help sagt, wie es geht.</translation>
+    </message>
+    <message>
+        <source>Usage: plotvane %1 [options] %2</source>
+        <translation>Aufruf: plotvane %1 [options] %2</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+</context>
+<context>
+    <name>SvgCheck</name>
+    <message>
+        <source>the SVG is not well-formed: %1 in line %2</source>
+        <translation>das SVG ist nicht wohlgeformt: %1 in Zeile %2</translation>
+    </message>
+    <message>
+        <source>the SVG is empty</source>
+        <translation>das SVG ist leer</translation>
+    </message>
+    <message>
+        <source>the SVG declares a document type or entities; remove them</source>
+        <translation>das SVG deklariert einen Dokumenttyp oder Entitäten; entfernen Sie sie</translation>
+    </message>
+    <message>
+        <source>the SVG holds a processing instruction; remove it</source>
+        <translation>das SVG enthält eine Verarbeitungsanweisung; entfernen Sie sie</translation>
+    </message>
+    <message>
+        <source>the file is not an SVG</source>
+        <translation>die Datei ist kein SVG</translation>
+    </message>
+    <message>
+        <source>the SVG has more than %1 elements</source>
+        <translation>das SVG hat mehr als %1 Elemente</translation>
+    </message>
+    <message>
+        <source>the SVG&apos;s elements are nested more than %1 deep</source>
+        <translation>die Elemente des SVG sind tiefer als %1 Ebenen verschachtelt</translation>
+    </message>
+    <message>
+        <source>the SVG holds a script; remove it</source>
+        <translation>das SVG enthält ein Skript; entfernen Sie es</translation>
+    </message>
+    <message>
+        <source>the SVG refers to “%1”; put what it needs into the file</source>
+        <translation>das SVG verweist auf „%1“; nehmen Sie in die Datei auf, was es braucht</translation>
+    </message>
+    <message>
+        <source>the SVG embeds an image that is neither PNG nor JPEG</source>
+        <translation>das SVG bettet ein Bild ein, das weder PNG noch JPEG ist</translation>
+    </message>
+    <message>
+        <source>the SVG embeds an image larger than %1 × %1 pixels</source>
+        <translation>das SVG bettet ein Bild ein, das größer als %1 × %1 Pixel ist</translation>
+    </message>
+    <message>
+        <source>the SVG&apos;s style sheet imports another or hides characters; put what it needs into the file</source>
+        <translation>das Stylesheet des SVG bindet ein anderes ein oder verbirgt Zeichen; nehmen Sie in die Datei auf, was es braucht</translation>
+    </message>
+    <message>
+        <source>the SVG repeats its parts in a circle or more than %1 times</source>
+        <translation>das SVG wiederholt seine Teile im Kreis oder mehr als %1 Mal</translation>
+    </message>
+    <message>
+        <source>the SVG has more than %1 bytes</source>
+        <translation>das SVG hat mehr als %1 Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>SvgMarkerSymbol</name>
+    <message>
+        <source>the SVG can&apos;t be drawn: it has no size or no content</source>
+        <translation>das SVG kann nicht gezeichnet werden: es hat keine Größe oder keinen Inhalt</translation>
+    </message>
+</context>
+<context>
+    <name>SymbolArchive</name>
+    <message>
+        <source>a symbol of a kind that can&apos;t be stored</source>
+        <translation>ein Symbol einer Art, die sich nicht speichern lässt</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation>„%1“ ist keiner der Werte %2</translation>
+    </message>
+    <message>
+        <source>there is no symbol to store</source>
+        <translation>es gibt kein Symbol zu speichern</translation>
+    </message>
+    <message>
+        <source>“%1” is not a colour like #rrggbb or #aarrggbb</source>
+        <translation>„%1“ ist keine Farbe wie #rrggbb oder #aarrggbb</translation>
     </message>
 </context>
 <context>
@@ -150,34 +1963,38 @@
     <name>SysAdapterUI::StyleSelectorDlg</name>
     <message>
         <source>All</source>
-        <translation type="vanished">Alle</translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>The style libraries hold nothing of this kind.</source>
-        <translation type="vanished">Die Stilbibliotheken enthalten nichts von dieser Art.</translation>
+        <translation>Die Stilbibliotheken enthalten nichts von dieser Art.</translation>
     </message>
     <message>
         <source>No name matches.</source>
-        <translation type="vanished">Kein Name passt zur Suche.</translation>
+        <translation>Kein Name passt zur Suche.</translation>
     </message>
     <message>
         <source>Styles</source>
-        <translation type="vanished">Stile</translation>
+        <translation>Stile</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="vanished">Suchen</translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Current symbol</source>
-        <translation type="vanished">Aktuelles Symbol</translation>
+        <translation>Aktuelles Symbol</translation>
+    </message>
+    <message>
+        <source>Nothing is chosen.</source>
+        <translation>Nichts ausgewählt.</translation>
     </message>
 </context>
 <context>
     <name>SysAdapterUI::TOCControl</name>
     <message>
         <source>No maps on this page</source>
-        <translation type="vanished">Keine Karten auf dieser Seite</translation>
+        <translation>Keine Karten auf dieser Seite</translation>
     </message>
 </context>
 </TS>

@@ -2,10 +2,1823 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>Archive</name>
+    <message>
+        <source>true or false</source>
+        <translation>真或假</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>应为%1，实际为%2</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 不在 %2 和 %3 之间</translation>
+    </message>
+    <message>
+        <source>the text has %1 characters; at most %2</source>
+        <translation>文本有 %1 个字符；最多允许 %2 个</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>%1 is not a whole number</source>
+        <translation>%1 不是整数</translation>
+    </message>
+    <message>
+        <source>expected %1 numbers, found %2</source>
+        <translation>应有 %1 个数字，实际有 %2 个</translation>
+    </message>
+    <message>
+        <source>holds an odd count of numbers</source>
+        <translation>数字个数为奇数</translation>
+    </message>
+    <message>
+        <source>%1 is a choice without a name</source>
+        <translation>%1 是没有名称的选项</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation>“%1”不在可用值之中：%2</translation>
+    </message>
+    <message>
+        <source>holds %1 entries; at most %2</source>
+        <translation>含有 %1 个条目；最多允许 %2 个</translation>
+    </message>
+</context>
+<context>
+    <name>Commands</name>
+    <message>
+        <source>&amp;Arrange</source>
+        <translation>排列(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation>插入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>About Plotvane</source>
+        <translation>关于 Plotvane</translation>
+    </message>
+    <message>
+        <source>Actual Size</source>
+        <translation>实际大小</translation>
+    </message>
+    <message>
+        <source>Add a grid to a data frame</source>
+        <translation>为数据框添加格网</translation>
+    </message>
+    <message>
+        <source>Align Bottom</source>
+        <translation>底端对齐</translation>
+    </message>
+    <message>
+        <source>Align Centres</source>
+        <translation>水平居中</translation>
+    </message>
+    <message>
+        <source>Align Left</source>
+        <translation>左对齐</translation>
+    </message>
+    <message>
+        <source>Align Middles</source>
+        <translation>垂直居中</translation>
+    </message>
+    <message>
+        <source>Align Right</source>
+        <translation>右对齐</translation>
+    </message>
+    <message>
+        <source>Align Top</source>
+        <translation>顶端对齐</translation>
+    </message>
+    <message>
+        <source>Align the bottom edges of the selected elements</source>
+        <translation>对齐所选元素的底边</translation>
+    </message>
+    <message>
+        <source>Align the horizontal centres of the selected elements</source>
+        <translation>对齐所选元素的水平中心</translation>
+    </message>
+    <message>
+        <source>Align the left edges of the selected elements</source>
+        <translation>对齐所选元素的左边</translation>
+    </message>
+    <message>
+        <source>Align the right edges of the selected elements</source>
+        <translation>对齐所选元素的右边</translation>
+    </message>
+    <message>
+        <source>Align the top edges of the selected elements</source>
+        <translation>对齐所选元素的顶边</translation>
+    </message>
+    <message>
+        <source>Align the vertical centres of the selected elements</source>
+        <translation>对齐所选元素的垂直中心</translation>
+    </message>
+    <message>
+        <source>Align to Margins</source>
+        <translation>对齐到页边距</translation>
+    </message>
+    <message>
+        <source>Align to the page margins instead of to the first selected element</source>
+        <translation>对齐到页边距，而不是第一个选中的元素</translation>
+    </message>
+    <message>
+        <source>Arrange</source>
+        <translation>排列</translation>
+    </message>
+    <message>
+        <source>Bring Forward</source>
+        <translation>上移一层</translation>
+    </message>
+    <message>
+        <source>Bring to Front</source>
+        <translation>置于顶层</translation>
+    </message>
+    <message>
+        <source>Change Layout…</source>
+        <translation>更换布局…</translation>
+    </message>
+    <message>
+        <source>Close the window</source>
+        <translation>关闭窗口</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>内容列表</translation>
+    </message>
+    <message>
+        <source>Convert to Graphics</source>
+        <translation>转换为图形</translation>
+    </message>
+    <message>
+        <source>Data Frame</source>
+        <translation>数据框</translation>
+    </message>
+    <message>
+        <source>Delete the selected elements</source>
+        <translation>删除所选元素</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Distribute Horizontally</source>
+        <translation>水平分布</translation>
+    </message>
+    <message>
+        <source>Distribute Vertically</source>
+        <translation>垂直分布</translation>
+    </message>
+    <message>
+        <source>Draw the selected elements above all others</source>
+        <translation>将所选元素绘制在其他所有元素之上</translation>
+    </message>
+    <message>
+        <source>Draw the selected elements below all others</source>
+        <translation>将所选元素绘制在其他所有元素之下</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Export Map…</source>
+        <translation>导出地图…</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Fit Height to Margins</source>
+        <translation>高度适应页边距</translation>
+    </message>
+    <message>
+        <source>Fit Width to Margins</source>
+        <translation>宽度适应页边距</translation>
+    </message>
+    <message>
+        <source>Fit to Margins</source>
+        <translation>适应页边距</translation>
+    </message>
+    <message>
+        <source>Give the selected elements the height of the last selected one</source>
+        <translation>使所选元素与最后选中的元素等高</translation>
+    </message>
+    <message>
+        <source>Give the selected elements the size of the last selected one</source>
+        <translation>使所选元素与最后选中的元素大小相同</translation>
+    </message>
+    <message>
+        <source>Give the selected elements the width of the last selected one</source>
+        <translation>使所选元素与最后选中的元素等宽</translation>
+    </message>
+    <message>
+        <source>Go back to what was shown before</source>
+        <translation>返回之前显示的范围</translation>
+    </message>
+    <message>
+        <source>Go forward to what was shown after</source>
+        <translation>前进到之后显示的范围</translation>
+    </message>
+    <message>
+        <source>Grid…</source>
+        <translation>格网…</translation>
+    </message>
+    <message>
+        <source>Insert a data frame with an empty map</source>
+        <translation>插入带有空白地图的数据框</translation>
+    </message>
+    <message>
+        <source>Insert a legend of the focus map</source>
+        <translation>插入活动地图的图例</translation>
+    </message>
+    <message>
+        <source>Insert a north arrow chosen from the style libraries</source>
+        <translation>插入从样式库中选择的指北针</translation>
+    </message>
+    <message>
+        <source>Insert a scale bar of the focus map</source>
+        <translation>插入活动地图的比例尺</translation>
+    </message>
+    <message>
+        <source>Insert the scale of the focus map as text</source>
+        <translation>以文字形式插入活动地图的比例尺</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>插入</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>图例</translation>
+    </message>
+    <message>
+        <source>Let the mouse move all data frames again</source>
+        <translation>允许再次用鼠标移动所有数据框</translation>
+    </message>
+    <message>
+        <source>Lock Data Frames</source>
+        <translation>锁定数据框</translation>
+    </message>
+    <message>
+        <source>Make the change again</source>
+        <translation>重新执行该更改</translation>
+    </message>
+    <message>
+        <source>Make the horizontal gaps between the selected elements equal</source>
+        <translation>使所选元素之间的水平间距相等</translation>
+    </message>
+    <message>
+        <source>Make the vertical gaps between the selected elements equal</source>
+        <translation>使所选元素之间的垂直间距相等</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>Move the page under the view</source>
+        <translation>在视图中移动页面</translation>
+    </message>
+    <message>
+        <source>Move the selected elements one step down</source>
+        <translation>将所选元素下移一层</translation>
+    </message>
+    <message>
+        <source>Move the selected elements one step up</source>
+        <translation>将所选元素上移一层</translation>
+    </message>
+    <message>
+        <source>Navigation</source>
+        <translation>导航</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>Next Extent</source>
+        <translation>下一范围</translation>
+    </message>
+    <message>
+        <source>North Arrow…</source>
+        <translation>指北针…</translation>
+    </message>
+    <message>
+        <source>Open a map document</source>
+        <translation>打开地图文档</translation>
+    </message>
+    <message>
+        <source>Open…</source>
+        <translation>打开…</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>页面布局</translation>
+    </message>
+    <message>
+        <source>Page Setup…</source>
+        <translation>页面设置…</translation>
+    </message>
+    <message>
+        <source>Pan</source>
+        <translation>平移</translation>
+    </message>
+    <message>
+        <source>Previous Extent</source>
+        <translation>上一范围</translation>
+    </message>
+    <message>
+        <source>Protect all data frames from the mouse</source>
+        <translation>防止用鼠标改动任何数据框</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Replace the page layout by that of another document</source>
+        <translation>用另一文档的页面布局替换当前布局</translation>
+    </message>
+    <message>
+        <source>Same Height</source>
+        <translation>等高</translation>
+    </message>
+    <message>
+        <source>Same Size</source>
+        <translation>大小相同</translation>
+    </message>
+    <message>
+        <source>Same Width</source>
+        <translation>等宽</translation>
+    </message>
+    <message>
+        <source>Save As…</source>
+        <translation>另存为…</translation>
+    </message>
+    <message>
+        <source>Save the document under another name</source>
+        <translation>以其他名称保存文档</translation>
+    </message>
+    <message>
+        <source>Save the document</source>
+        <translation>保存文档</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Scale Bar</source>
+        <translation>比例尺</translation>
+    </message>
+    <message>
+        <source>Scale Text</source>
+        <translation>比例尺文字</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>Select all elements but locked data frames</source>
+        <translation>选择除锁定数据框以外的所有元素</translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation>取消所有选择</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>Select, move and resize elements</source>
+        <translation>选择、移动元素并调整其大小</translation>
+    </message>
+    <message>
+        <source>Send Backward</source>
+        <translation>下移一层</translation>
+    </message>
+    <message>
+        <source>Send to Back</source>
+        <translation>置于底层</translation>
+    </message>
+    <message>
+        <source>Set paper form, size, orientation, border and background</source>
+        <translation>设置纸张规格、大小、方向、边框和背景</translation>
+    </message>
+    <message>
+        <source>Show or hide the table of contents</source>
+        <translation>显示或隐藏内容列表</translation>
+    </message>
+    <message>
+        <source>Show the map of the data frame alone</source>
+        <translation>仅显示数据框中的地图</translation>
+    </message>
+    <message>
+        <source>Show the page in its real size</source>
+        <translation>按实际大小显示页面</translation>
+    </message>
+    <message>
+        <source>Show the page</source>
+        <translation>显示页面</translation>
+    </message>
+    <message>
+        <source>Show the whole page</source>
+        <translation>显示整页</translation>
+    </message>
+    <message>
+        <source>Start a document with an empty page</source>
+        <translation>新建带有空白页面的文档</translation>
+    </message>
+    <message>
+        <source>Stretch the selected elements to the height between the margins</source>
+        <translation>将所选元素拉伸到页边距之间的高度</translation>
+    </message>
+    <message>
+        <source>Stretch the selected elements to the page margins</source>
+        <translation>将所选元素拉伸到页边距</translation>
+    </message>
+    <message>
+        <source>Stretch the selected elements to the width between the margins</source>
+        <translation>将所选元素拉伸到页边距之间的宽度</translation>
+    </message>
+    <message>
+        <source>Take the last change back</source>
+        <translation>撤销上一次更改</translation>
+    </message>
+    <message>
+        <source>Turn the selected map surrounds into plain graphics</source>
+        <translation>将所选地图整饰要素转换为普通图形</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Unlock Data Frames</source>
+        <translation>解锁数据框</translation>
+    </message>
+    <message>
+        <source>Unselect</source>
+        <translation>取消选择</translation>
+    </message>
+    <message>
+        <source>Version and licence</source>
+        <translation>版本和许可证</translation>
+    </message>
+    <message>
+        <source>Whole Page</source>
+        <translation>整页</translation>
+    </message>
+    <message>
+        <source>Write the page as an image file</source>
+        <translation>将页面写入图像文件</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Zoom in by click or rectangle</source>
+        <translation>单击或拉框放大</translation>
+    </message>
+    <message>
+        <source>Zoom out by click or rectangle</source>
+        <translation>单击或拉框缩小</translation>
+    </message>
+    <message>
+        <source>a change that was taken back</source>
+        <translation>有已撤销的更改</translation>
+    </message>
+    <message>
+        <source>a change to take back</source>
+        <translation>有可撤销的更改</translation>
+    </message>
+    <message>
+        <source>a document</source>
+        <translation>有文档</translation>
+    </message>
+    <message>
+        <source>a later extent</source>
+        <translation>有之后的范围</translation>
+    </message>
+    <message>
+        <source>a page layout</source>
+        <translation>有页面布局</translation>
+    </message>
+    <message>
+        <source>a selected element that is not a locked data frame</source>
+        <translation>选中一个不是锁定数据框的元素</translation>
+    </message>
+    <message>
+        <source>a selected element</source>
+        <translation>选中一个元素</translation>
+    </message>
+    <message>
+        <source>a selected map surround</source>
+        <translation>选中一个地图整饰要素</translation>
+    </message>
+    <message>
+        <source>an earlier extent</source>
+        <translation>有之前的范围</translation>
+    </message>
+    <message>
+        <source>changes that are not saved</source>
+        <translation>有未保存的更改</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>selected elements, no markers and no map surrounds among them</source>
+        <translation>选中元素，且其中没有点标记和地图整饰要素</translation>
+    </message>
+    <message>
+        <source>the page layout shown and a selected element</source>
+        <translation>显示页面布局并选中一个元素</translation>
+    </message>
+    <message>
+        <source>the page layout shown</source>
+        <translation>显示页面布局</translation>
+    </message>
+    <message>
+        <source>the page layout shown, with elements</source>
+        <translation>显示含有元素的页面布局</translation>
+    </message>
+    <message>
+        <source>three selected elements</source>
+        <translation>选中三个元素</translation>
+    </message>
+    <message>
+        <source>two selected elements</source>
+        <translation>选中两个元素</translation>
+    </message>
+    <message>
+        <source>two selected elements, or one when aligning to margins</source>
+        <translation>选中两个元素；对齐到页边距时选中一个即可</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>对齐</translation>
+    </message>
+    <message>
+        <source>Distribute</source>
+        <translation>分布</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>顺序</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+</context>
+<context>
+    <name>CommandsSubcommand</name>
+    <message>
+        <source>Print JSON, for programs.</source>
+        <translation>输出 JSON，供程序使用。</translation>
+    </message>
+    <message>
+        <source>Print the reference of all commands, the host&apos;s included.</source>
+        <translation>输出所有命令的参考，包括主程序的命令。</translation>
+    </message>
+</context>
+<context>
+    <name>CoordinateSystem</name>
+    <message>
+        <source>is longer than a coordinate system can be</source>
+        <translation>长度超出坐标系定义的上限</translation>
+    </message>
+    <message>
+        <source>“%1” is no coordinate system; give a code such as EPSG:8857, WKT or a PROJ text</source>
+        <translation>“%1”不是坐标系；请给出 EPSG:8857 之类的代码、WKT 或 PROJ 文本</translation>
+    </message>
+    <message>
+        <source>names a file, and a document&apos;s coordinate system may not; leave out the grid or the file</source>
+        <translation>引用了文件，而文档的坐标系不允许引用文件；请去掉格网或文件</translation>
+    </message>
+    <message>
+        <source>“%1” is not a coordinate system that PROJ knows; give a code such as EPSG:8857</source>
+        <translation>“%1”不是 PROJ 已知的坐标系；请给出 EPSG:8857 之类的代码</translation>
+    </message>
+    <message>
+        <source>is neither geographic nor projected; leave it empty for plain coordinates</source>
+        <translation>既不是地理坐标系也不是投影坐标系；使用普通坐标时请留空</translation>
+    </message>
+</context>
+<context>
+    <name>DataSource</name>
+    <message>
+        <source>The file “%1” can&apos;t be opened: %2.</source>
+        <translation>无法打开文件“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>The source names no file; give the path of a local file.</source>
+        <translation>数据源没有指定文件；请给出本地文件的路径。</translation>
+    </message>
+    <message>
+        <source>The source “%1” is not a local file: virtual file systems are not opened.</source>
+        <translation>数据源“%1”不是本地文件：不打开虚拟文件系统。</translation>
+    </message>
+    <message>
+        <source>The source “%1” is not a local file: addresses are not opened.</source>
+        <translation>数据源“%1”不是本地文件：不打开网络地址。</translation>
+    </message>
+    <message>
+        <source>The source “%1” is not a plain path: leave out the prefix before the colon.</source>
+        <translation>数据源“%1”不是普通路径：请去掉冒号前的前缀。</translation>
+    </message>
+    <message>
+        <source>The source “%1” is not a path.</source>
+        <translation>数据源“%1”不是路径。</translation>
+    </message>
+    <message>
+        <source>it does not exist</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>it is not a file</source>
+        <translation>它不是文件</translation>
+    </message>
+    <message>
+        <source>reading it is not permitted</source>
+        <translation>没有读取权限</translation>
+    </message>
+    <message>
+        <source>it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file</source>
+        <translation>它不是 GeoPackage、GeoJSON、Shapefile 或 FlatGeobuf 文件</translation>
+    </message>
+    <message>
+        <source>The file “%1” has no layer “%2”; it has: %3.</source>
+        <translation>文件“%1”中没有图层“%2”；其中有：%3。</translation>
+    </message>
+</context>
+<context>
+    <name>DialogAnswers</name>
+    <message>
+        <source>the message box &quot;%1&quot; (&quot;%2&quot;)</source>
+        <translation>消息框“%1”（“%2”）</translation>
+    </message>
+    <message>
+        <source>the dialog &quot;%1&quot; (%2)</source>
+        <translation>对话框“%1”（%2）</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;</source>
+        <translation>%1 不接受“%2”</translation>
+    </message>
+    <message>
+        <source>it can&apos;t be accepted like this</source>
+        <translation>这样无法确定</translation>
+    </message>
+    <message>
+        <source>; the next answer is for %1</source>
+        <translation>；下一个回答是给 %1 的</translation>
+    </message>
+    <message>
+        <source>no dialog has taken the answer for %1</source>
+        <translation>没有对话框接受给 %1 的回答</translation>
+    </message>
+    <message>
+        <source>a dialog as a whole</source>
+        <translation>整个对话框</translation>
+    </message>
+    <message>
+        <source>nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command</source>
+        <translation>没有给出回答；请在命令之前加上 answer=WIDGET:VALUE、accept 或 cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentFiles</name>
+    <message>
+        <source>Map documents (*.kdx)</source>
+        <translation>地图文档 (*.kdx)</translation>
+    </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation>是否保存对 %1 的更改？</translation>
+    </message>
+    <message>
+        <source>Without saving, they are lost.</source>
+        <translation>如果不保存，更改将会丢失。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>The document was not opened.</source>
+        <translation>文档未能打开。</translation>
+    </message>
+    <message>
+        <source>… and %1 more.</source>
+        <translation>……以及另外 %1 条。</translation>
+    </message>
+    <message>
+        <source>The document was opened, but not all of it was read.</source>
+        <translation>文档已打开，但未能全部读取。</translation>
+    </message>
+    <message>
+        <source>The document was not saved.</source>
+        <translation>文档未能保存。</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>No recent files</source>
+        <translation>没有最近打开的文件</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentReport</name>
+    <message>
+        <source>marker</source>
+        <translation>点标记</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>polygon</source>
+        <translation>多边形</translation>
+    </message>
+    <message>
+        <source>rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>ellipse</source>
+        <translation>椭圆</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>data frame</source>
+        <translation>数据框</translation>
+    </message>
+    <message>
+        <source>map surround frame</source>
+        <translation>地图整饰要素</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>features</source>
+        <translation>要素</translation>
+    </message>
+    <message>
+        <source>raster</source>
+        <translation>栅格</translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>No page</source>
+        <translation>没有页面</translation>
+    </message>
+    <message>
+        <source>Page: %1, %2, %3 × %4 cm</source>
+        <translation>页面：%1，%2，%3 × %4 厘米</translation>
+    </message>
+    <message>
+        <source>handle</source>
+        <translation>句柄</translation>
+    </message>
+    <message>
+        <source>kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>xmin  ymin  xmax  ymax (cm)</source>
+        <translation>xmin  ymin  xmax  ymax (cm)</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source> (selected)</source>
+        <translation> (已选中)</translation>
+    </message>
+    <message>
+        <source> (locked)</source>
+        <translation> (已锁定)</translation>
+    </message>
+    <message>
+        <source>Elements: %1</source>
+        <translation>元素：%1</translation>
+    </message>
+    <message>
+        <source>shown</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>hidden</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>Map: %1, scale 1:%2, extent %3</source>
+        <translation>地图：%1，比例尺 1:%2，范围 %3</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentSession</name>
+    <message>
+        <source>Untitled</source>
+        <translation>未命名</translation>
+    </message>
+</context>
+<context>
+    <name>Editor</name>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+</context>
+<context>
+    <name>ElementArchive</name>
+    <message>
+        <source>must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax</source>
+        <translation>必须是 xmin, ymin, xmax, ymax，且 xmin ≤ xmax、ymin ≤ ymax</translation>
+    </message>
+    <message>
+        <source>needs at least %1 points</source>
+        <translation>至少需要 %1 个点</translation>
+    </message>
+    <message>
+        <source>holds a coordinate beyond %1</source>
+        <translation>含有超出 %1 的坐标</translation>
+    </message>
+    <message>
+        <source>needs at least one ring</source>
+        <translation>至少需要一个环</translation>
+    </message>
+    <message>
+        <source>groups are nested more than %1 deep</source>
+        <translation>组的嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>is no map of the document</source>
+        <translation>不是该文档中的地图</translation>
+    </message>
+    <message>
+        <source>another data frame shows this map already</source>
+        <translation>另一个数据框已显示此地图</translation>
+    </message>
+    <message>
+        <source>%1 is another element&apos;s handle already</source>
+        <translation>%1 已是另一个元素的句柄</translation>
+    </message>
+    <message>
+        <source>an element of a kind that can&apos;t be stored</source>
+        <translation>无法存储的元素类型</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation>“%1”不在可用值之中：%2</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be part of a group</source>
+        <translation>“%1”不能作为组的成员</translation>
+    </message>
+    <message>
+        <source>a part of a frame of a kind that can&apos;t be stored</source>
+        <translation>无法存储的边框组成部分</translation>
+    </message>
+    <message>
+        <source>“%1” is not a paper form; “A4” and “Custom” are</source>
+        <translation>“%1”不是纸张规格；“A4”和“Custom”才是</translation>
+    </message>
+    <message>
+        <source>needs at least one element</source>
+        <translation>至少需要一个元素</translation>
+    </message>
+</context>
+<context>
+    <name>ExportSubcommand</name>
+    <message>
+        <source>The .kdx document.</source>
+        <translation>.kdx 文档。</translation>
+    </message>
+    <message>
+        <source>The file to write: .png, .jpg, .bmp or .tif. Any other suffix gives a TIFF.</source>
+        <translation>要写入的文件：.png、.jpg、.bmp 或 .tif。其他后缀一律写为 TIFF。</translation>
+    </message>
+    <message>
+        <source>Pixels per inch of paper, 1 to %1; %2 if not given.</source>
+        <translation>纸面每英寸的像素数，1 到 %1；不给出时为 %2。</translation>
+    </message>
+    <message>
+        <source>Print neither the path nor the progress.</source>
+        <translation>既不输出路径也不输出进度。</translation>
+    </message>
+    <message>
+        <source>Draw the page also where a data source can&apos;t be read; its layer stays empty.</source>
+        <translation>即使数据源无法读取也绘制页面；相应图层留空。</translation>
+    </message>
+    <message>
+        <source>export: --dpi takes a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <translation>export: --dpi 须为 1 到 %1 的整数，而不是“%2”。</translation>
+    </message>
+    <message>
+        <source>%1: this GDAL can&apos;t write %2; choose another format, or install a GDAL that can.</source>
+        <translation>%1：此 GDAL 无法写入 %2；请选择其他格式，或安装支持该格式的 GDAL。</translation>
+    </message>
+    <message>
+        <source>%1 will be a TIFF; .png, .jpg and .bmp name the other formats.</source>
+        <translation>%1 将写为 TIFF；.png、.jpg 和 .bmp 对应其他格式。</translation>
+    </message>
+    <message>
+        <source>%1: data sources could not be read, so the page would not be whole; mend them, or pass --allow-missing.</source>
+        <translation>%1：部分数据源无法读取，页面将不完整；请修复数据源，或使用 --allow-missing。</translation>
+    </message>
+    <message>
+        <source>%1: the document has no page to draw.</source>
+        <translation>%1：文档没有可绘制的页面。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: interrupted.</source>
+        <translation>%1 未写入：已中断。</translation>
+    </message>
+    <message>
+        <source>the image file could not be created</source>
+        <translation>无法创建图像文件</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2. Is the disk full?</source>
+        <translation>%1 未写入：%2。磁盘是否已满？</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureReader</name>
+    <message>
+        <source>the file “%1”</source>
+        <translation>文件“%1”</translation>
+    </message>
+    <message>
+        <source>layer “%2” of the file “%1”</source>
+        <translation>文件“%1”的图层“%2”</translation>
+    </message>
+    <message>
+        <source>There is no field “%1” in %2; it has: %3.</source>
+        <translation>%2中没有字段“%1”；其中有：%3。</translation>
+    </message>
+    <message>
+        <source>The coordinate system of %1 %2.</source>
+        <translation>%1的坐标系：%2。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is known for %1; its coordinates are taken as those of the map. Give one in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1的坐标系未知，其坐标按地图坐标处理。请在数据源的“coordinateSystem”字段中给出坐标系。</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 can&apos;t be projected to the map&apos;s coordinate system: %2.</source>
+        <translation>%1的坐标无法投影到地图坐标系：%2。</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be placed on the map: %2.</source>
+        <translation>%1未能全部放置到地图上：%2。</translation>
+    </message>
+    <message>
+        <source>The filter “%1” of %2 is not understood: %3.</source>
+        <translation>无法理解%2的筛选条件“%1”：%3。</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read: %2.</source>
+        <translation>%1未能全部读取：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>FileSaver</name>
+    <message>
+        <source>“%1” was not saved: %2. %3</source>
+        <translation>“%1”未保存：%2。%3</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>它是文件夹</translation>
+    </message>
+    <message>
+        <source>its folder does not exist</source>
+        <translation>所在文件夹不存在</translation>
+    </message>
+    <message>
+        <source>Choose a place where you may write.</source>
+        <translation>请选择有写入权限的位置。</translation>
+    </message>
+    <message>
+        <source>there is no room for it</source>
+        <translation>空间不足</translation>
+    </message>
+    <message>
+        <source>Free some space or choose another place.</source>
+        <translation>请释放空间或选择其他位置。</translation>
+    </message>
+    <message>
+        <source>Check the disk or choose another place.</source>
+        <translation>请检查磁盘或选择其他位置。</translation>
+    </message>
+    <message>
+        <source>Choose a file name.</source>
+        <translation>请选择文件名。</translation>
+    </message>
+    <message>
+        <source>Create the folder or choose another.</source>
+        <translation>请创建该文件夹或选择其他文件夹。</translation>
+    </message>
+</context>
+<context>
+    <name>Graticule</name>
+    <message>
+        <source>the graticule “%1” of the map “%2” has an interval of %3 degrees, which makes %4 lines; at most %5 are drawn, so an interval is chosen for it; enter one of %6 degrees or more</source>
+        <translation>地图“%2”的经纬网“%1”间隔为 %3 度，将产生 %4 条线；最多绘制 %5 条，因此将自动选择间隔；请输入不小于 %6 度的间隔</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+</context>
+<context>
+    <name>HostCommands</name>
+    <message>
+        <source>Delete the selected elements</source>
+        <translation>删除所选元素</translation>
+    </message>
+</context>
+<context>
+    <name>ImageTarget</name>
+    <message>
+        <source>%1: the folder %2 does not exist; make it first.</source>
+        <translation>%1：文件夹 %2 不存在；请先创建。</translation>
+    </message>
+    <message>
+        <source>%1: the folder %2 can&apos;t be written (%3); choose another.</source>
+        <translation>%1：无法写入文件夹 %2（%3）；请选择其他文件夹。</translation>
+    </message>
+    <message>
+        <source>%1 is a folder; name a file in it.</source>
+        <translation>%1 是文件夹；请指定其中的文件。</translation>
+    </message>
+    <message>
+        <source>%1 is the document itself; name another file for the image.</source>
+        <translation>%1 就是文档本身；请为图像指定其他文件。</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2.</source>
+        <translation>无法写入 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1 is not an ordinary file; name another.</source>
+        <translation>%1 不是普通文件；请指定其他文件。</translation>
+    </message>
+    <message>
+        <source>%1 is write-protected; name another file or unlock it.</source>
+        <translation>%1 已写保护；请指定其他文件或解除写保护。</translation>
+    </message>
+    <message>
+        <source>%1: the image would have no pixels; give more DPI.</source>
+        <translation>%1：图像将没有像素；请提高 DPI。</translation>
+    </message>
+    <message>
+        <source>%1: the image would be %2 × %3 pixels, and a %4 has at most %5 on a side; give less DPI, or write a TIFF.</source>
+        <translation>%1：图像将为 %2 × %3 像素，而 %4 每边最多 %5 像素；请降低 DPI，或写为 TIFF。</translation>
+    </message>
+    <message>
+        <source>%1: the image would be %2 × %3 pixels, and a BMP holds at most 4 GB; give less DPI, or write a TIFF.</source>
+        <translation>%1：图像将为 %2 × %3 像素，而 BMP 最多容纳 4 GB；请降低 DPI，或写为 TIFF。</translation>
+    </message>
+    <message>
+        <source>%1: drawing %2 × %3 pixels takes %4 GB on the disk, and %5 GB are free; give less DPI, or make room.</source>
+        <translation>%1：绘制 %2 × %3 像素需要 %4 GB 磁盘空间，可用 %5 GB；请降低 DPI，或释放空间。</translation>
+    </message>
+    <message>
+        <source>%1: a JPEG of %2 × %3 pixels takes %4 GB of memory, and this machine has %5 GB; give less DPI, or write a PNG or TIFF.</source>
+        <translation>%1：%2 × %3 像素的 JPEG 需要 %4 GB 内存，本机有 %5 GB；请降低 DPI，或写为 PNG 或 TIFF。</translation>
+    </message>
+    <message>
+        <source>%1: no working folder can be made in %2: %3.</source>
+        <translation>%1：无法在 %2 中创建工作文件夹：%3。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: the image can&apos;t be read again.</source>
+        <translation>%1 未写入：图像无法重新读取。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: the image has not the size that it should have.</source>
+        <translation>%1 未写入：图像大小不符。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: the end of the image is missing; is the disk full?</source>
+        <translation>%1 未写入：图像末尾缺失；磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2.</source>
+        <translation>%1 未写入：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>InfoSubcommand</name>
+    <message>
+        <source>The .kdx document.</source>
+        <translation>.kdx 文档。</translation>
+    </message>
+    <message>
+        <source>Print JSON, for programs.</source>
+        <translation>输出 JSON，供程序使用。</translation>
+    </message>
+</context>
+<context>
+    <name>JsonFile</name>
+    <message>
+        <source>no file was named; choose a %1 file</source>
+        <translation>没有指定文件；请选择 %1 文件</translation>
+    </message>
+    <message>
+        <source>there is no such file; check the name and the folder</source>
+        <translation>没有此文件；请检查文件名和文件夹</translation>
+    </message>
+    <message>
+        <source>this is a folder; choose a %1 file in it</source>
+        <translation>这是文件夹；请选择其中的 %1 文件</translation>
+    </message>
+    <message>
+        <source>this is no ordinary file; choose a %1 file</source>
+        <translation>这不是普通文件；请选择 %1 文件</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>第 %1 行，第 %2 列</translation>
+    </message>
+    <message>
+        <source>%1: this is not JSON (%2); mend the file in a text editor or open another one</source>
+        <translation>%1：这不是 JSON（%2）；请在文本编辑器中修正文件，或打开其他文件</translation>
+    </message>
+    <message>
+        <source>the file can&apos;t be read (%1); make it readable or choose another one</source>
+        <translation>无法读取文件（%1）；请使其可读或选择其他文件</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 MB, too large for a %2; choose another one</source>
+        <translation>文件大于 %1 MB，对%2来说过大；请选择其他文件</translation>
+    </message>
+    <message>
+        <source>the file can&apos;t be read (%1); check the disk</source>
+        <translation>无法读取文件（%1）；请检查磁盘</translation>
+    </message>
+    <message>
+        <source>the file holds a list where a %1 holds an object; choose another one</source>
+        <translation>文件中是列表，而%1应为对象；请选择其他文件</translation>
+    </message>
+</context>
+<context>
+    <name>LabelSettings</name>
+    <message>
+        <source>names no field; leave out the labels</source>
+        <translation>没有指定字段；请去掉标注</translation>
+    </message>
+    <message>
+        <source>is not above that of the class before</source>
+        <translation>不大于前一类的值</translation>
+    </message>
+</context>
+<context>
+    <name>LayerArchive</name>
+    <message>
+        <source>is larger than maxScale</source>
+        <translation>大于 maxScale</translation>
+    </message>
+    <message>
+        <source>Layer “%1”: %2</source>
+        <translation>图层“%1”：%2</translation>
+    </message>
+    <message>
+        <source>is a layer that can&apos;t be stored</source>
+        <translation>是无法存储的图层</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Open Recent</source>
+        <translation>最近打开</translation>
+    </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
+    </message>
+    <message>
+        <source>Page Layout</source>
+        <translation>页面布局</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>内容列表</translation>
+    </message>
+    <message>
+        <source>x 000.00 cm  y 000.00 cm</source>
+        <translation>x 000.00 厘米  y 000.00 厘米</translation>
+    </message>
+    <message>
+        <source>Place on the page, from its lower left corner</source>
+        <translation>页面上的位置，从左下角算起</translation>
+    </message>
+    <message>
+        <source>Map 1:000,000,000</source>
+        <translation>地图 1:000,000,000</translation>
+    </message>
+    <message>
+        <source>Scale of the map in the focus data frame</source>
+        <translation>活动数据框中地图的比例尺</translation>
+    </message>
+    <message>
+        <source>Zoom 0000 %</source>
+        <translation>缩放 0000%</translation>
+    </message>
+    <message>
+        <source>Size of the page on the screen; 100 % is its size on paper</source>
+        <translation>页面在屏幕上的大小；100% 即纸上的大小</translation>
+    </message>
+    <message>
+        <source>%1[*] – Plotvane</source>
+        <translation>%1[*] – Plotvane</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Map 1:%1</source>
+        <translation>地图 1:%1</translation>
+    </message>
+    <message>
+        <source>Zoom %1 %</source>
+        <translation>缩放 %1%</translation>
+    </message>
+    <message>
+        <source>x %1 cm  y %2 cm</source>
+        <translation>x %1 厘米  y %2 厘米</translation>
+    </message>
+    <message>
+        <source>About Plotvane</source>
+        <translation>关于 Plotvane</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Plotvane %1&lt;/b&gt;&lt;p&gt;Lays out printed maps.&lt;/p&gt;&lt;p&gt;MIT licence.&lt;/p&gt;</source>
+        <translation>&lt;b&gt;Plotvane %1&lt;/b&gt;&lt;p&gt;为印刷地图排版。&lt;/p&gt;&lt;p&gt;MIT 许可证。&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>Map</name>
+    <message>
+        <source>New map</source>
+        <translation>新地图</translation>
+    </message>
+</context>
+<context>
+    <name>MapDocument</name>
+    <message>
+        <source>is not “%1”, so this is no map document</source>
+        <translation>不是“%1”，因此这不是地图文档</translation>
+    </message>
+    <message>
+        <source>the document was written by a newer version of Plotvane, as version %1; update Plotvane, or save it there as version %2</source>
+        <translation>文档由较新版本的 Plotvane 写成，版本为 %1；请更新 Plotvane，或在那里将其保存为版本 %2</translation>
+    </message>
+    <message>
+        <source>must be xmin, ymin, xmax, ymax, with xmin &lt; xmax and ymin &lt; ymax</source>
+        <translation>必须是 xmin, ymin, xmax, ymax，且 xmin &lt; xmax、ymin &lt; ymax</translation>
+    </message>
+    <message>
+        <source>data frames and surrounds can&apos;t lie on a map, only on the page</source>
+        <translation>数据框和地图整饰要素只能位于页面上，不能位于地图上</translation>
+    </message>
+    <message>
+        <source>maps[%1]: no data frame shows this map; it is left out and will be missing after the next save</source>
+        <translation>maps[%1]：没有数据框显示此地图；它将被略去，下次保存后不再存在</translation>
+    </message>
+    <message>
+        <source>map document</source>
+        <translation>地图文档</translation>
+    </message>
+    <message>
+        <source>the old file can&apos;t be read to keep it as a backup (%1); save without a backup</source>
+        <translation>无法读取旧文件以保留备份（%1）；请不带备份保存</translation>
+    </message>
+    <message>
+        <source>: this field is unknown; it has no effect and will be missing after the next save</source>
+        <translation>：此字段未知；它不起作用，下次保存后不再存在</translation>
+    </message>
+    <message>
+        <source>; change this value, then save again</source>
+        <translation>；请更改此值后重新保存</translation>
+    </message>
+    <message>
+        <source>There is no document to save; open one or make a new one.</source>
+        <translation>没有可保存的文档；请打开或新建一个文档。</translation>
+    </message>
+    <message>
+        <source>The document has no file yet; save it under a name.</source>
+        <translation>文档尚无文件；请指定名称保存。</translation>
+    </message>
+    <message>
+        <source>; correct the file or open another one</source>
+        <translation>；请修正文件或打开其他文件</translation>
+    </message>
+</context>
+<context>
+    <name>MapSurround</name>
+    <message>
+        <source>Legend</source>
+        <translation>图例</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>Map surround</source>
+        <translation>地图整饰要素</translation>
+    </message>
+    <message>
+        <source>North arrow</source>
+        <translation>指北针</translation>
+    </message>
+    <message>
+        <source>Scale bar</source>
+        <translation>比例尺</translation>
+    </message>
+    <message>
+        <source>Scale text</source>
+        <translation>比例尺文字</translation>
+    </message>
+    <message>
+        <source>must hold %1 where the scale stands, as in “1:%1”</source>
+        <translation>在比例尺所在处必须含有 %1，如“1:%1”</translation>
+    </message>
+</context>
+<context>
+    <name>MapView</name>
+    <message>
+        <source>The page has no data frame, so there is no map to show.</source>
+        <translation>页面上没有数据框，因此没有可显示的地图。</translation>
+    </message>
+</context>
+<context>
+    <name>PageGesture</name>
+    <message>
+        <source>Move the selected elements</source>
+        <translation>移动所选元素</translation>
+    </message>
+    <message>
+        <source>Resize the selected elements</source>
+        <translation>调整所选元素的大小</translation>
+    </message>
+</context>
+<context>
+    <name>PagePicture</name>
+    <message>
+        <source>No map</source>
+        <translation>无地图</translation>
+    </message>
+</context>
+<context>
     <name>Paper</name>
     <message>
         <source>Custom</source>
         <translation>自定义</translation>
+    </message>
+</context>
+<context>
+    <name>PictureElement</name>
+    <message>
+        <source>The picture has no file; choose one.</source>
+        <translation>图片没有文件；请选择一个。</translation>
+    </message>
+    <message>
+        <source>%1: there is no such picture file; put it there.</source>
+        <translation>%1：没有此图片文件；请将其放到该处。</translation>
+    </message>
+    <message>
+        <source>%1: the picture is neither PNG nor JPEG nor SVG; save it as one of these.</source>
+        <translation>%1：图片既不是 PNG、JPEG 也不是 SVG；请另存为其中一种格式。</translation>
+    </message>
+    <message>
+        <source>%1: the picture&apos;s size can&apos;t be read; save it anew.</source>
+        <translation>%1：无法读取图片大小；请重新保存。</translation>
+    </message>
+    <message>
+        <source>%1: the picture has %2 × %3 pixels; make it smaller than %4 pixels a side and %5 pixels in all.</source>
+        <translation>%1：图片为 %2 × %3 像素；请将每边缩小到 %4 像素以下，总数缩小到 %5 像素以下。</translation>
+    </message>
+    <message>
+        <source>%1: the picture can&apos;t be read: %2.</source>
+        <translation>%1：无法读取图片：%2。</translation>
+    </message>
+    <message>
+        <source>%1: the picture can&apos;t be opened.</source>
+        <translation>%1：无法打开图片。</translation>
+    </message>
+    <message>
+        <source>%1: the SVG can&apos;t be drawn; save it with a size.</source>
+        <translation>%1：无法绘制 SVG；请带尺寸保存。</translation>
+    </message>
+</context>
+<context>
+    <name>PluginLibrary</name>
+    <message>
+        <source>The plug-in is missing: there is no %1. Build it, or name it in PLOTVANE_PLUGIN.</source>
+        <translation>缺少插件：没有 %1。请构建插件，或在 PLOTVANE_PLUGIN 中指定。</translation>
+    </message>
+    <message>
+        <source> and no </source>
+        <translation>，也没有 </translation>
+    </message>
+    <message>
+        <source>The plug-in can&apos;t be loaded: %1</source>
+        <translation>无法加载插件：%1</translation>
+    </message>
+    <message>
+        <source>%1 is no plug-in: it exports no function %2.</source>
+        <translation>%1 不是插件：它没有导出函数 %2。</translation>
+    </message>
+    <message>
+        <source>%1: %2 answered no module.</source>
+        <translation>%1：%2 没有返回模块。</translation>
+    </message>
+</context>
+<context>
+    <name>PointTransform</name>
+    <message>
+        <source>there is no transformation between them</source>
+        <translation>二者之间没有可用的变换</translation>
+    </message>
+</context>
+<context>
+    <name>Renderer</name>
+    <message>
+        <source>“%1” is in two classes</source>
+        <translation>“%1”同时属于两个类</translation>
+    </message>
+    <message>
+        <source>is not above that of the class before</source>
+        <translation>不大于前一类的值</translation>
+    </message>
+    <message>
+        <source>names no field</source>
+        <translation>没有指定字段</translation>
+    </message>
+</context>
+<context>
+    <name>RunSteps</name>
+    <message>
+        <source>run: this plug-in does not build %1; plotvane commands lists what it builds.</source>
+        <translation>run: 此插件不提供 %1；plotvane commands 列出它提供的命令。</translation>
+    </message>
+    <message>
+        <source>run: &quot;%1&quot; is neither a step nor a command&apos;s identifier; plotvane run --help lists the steps, and plotvane commands the commands.</source>
+        <translation>run: “%1”既不是步骤也不是命令标识符；plotvane run --help 列出步骤，plotvane commands 列出命令。</translation>
+    </message>
+    <message>
+        <source>run: &quot;%1&quot; is written %2=%3.</source>
+        <translation>run: “%1”应写作 %2=%3。</translation>
+    </message>
+    <message>
+        <source>run: %1: %2</source>
+        <translation>run: %1: %2</translation>
+    </message>
+    <message>
+        <source>run: %1.</source>
+        <translation>run: %1。</translation>
+    </message>
+    <message>
+        <source>%1 is disabled; it needs %2.</source>
+        <translation>“%1”不可用；需要：%2。</translation>
+    </message>
+    <message>
+        <source>there is no view whose elements could be selected.</source>
+        <translation>没有可选择元素的视图。</translation>
+    </message>
+    <message>
+        <source>no element is named &quot;%1&quot;; plotvane info lists names and handles, and #12 is the one with handle 12.</source>
+        <translation>没有名为“%1”的元素；plotvane info 列出名称和句柄，#12 表示句柄为 12 的元素。</translation>
+    </message>
+    <message>
+        <source>%1 needs the page layout shown.</source>
+        <translation>“%1”需要显示页面布局。</translation>
+    </message>
+</context>
+<context>
+    <name>RunSubcommand</name>
+    <message>
+        <source>The .kdx document.</source>
+        <translation>.kdx 文档。</translation>
+    </message>
+    <message>
+        <source>What to do, in order: a command&apos;s identifier, or one of
+%1</source>
+        <translation>按顺序执行的步骤：命令标识符，或下列之一
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>SelectTool</name>
+    <message>
+        <source>Nudge the selected elements</source>
+        <translation>微移所选元素</translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>There is no display for the window. To make an image of a page without one: plotvane export DOCUMENT IMAGE; plotvane --help tells what else works.</source>
+        <translation>没有可供窗口使用的显示。无需显示即可生成页面图像：plotvane export DOCUMENT IMAGE；plotvane --help 列出其他可用功能。</translation>
+    </message>
+</context>
+<context>
+    <name>StyleLibrary</name>
+    <message>
+        <source>style library</source>
+        <translation>样式库</translation>
+    </message>
+    <message>
+        <source>is not “%1”, so this is no style library</source>
+        <translation>不是“%1”，因此这不是样式库</translation>
+    </message>
+    <message>
+        <source>the library was written by a newer version of Plotvane, as version %1; update Plotvane</source>
+        <translation>样式库由较新版本的 Plotvane 写成，版本为 %1；请更新 Plotvane</translation>
+    </message>
+    <message>
+        <source>is empty; give it a name</source>
+        <translation>为空；请给出名称</translation>
+    </message>
+    <message>
+        <source>; correct the file or choose another one</source>
+        <translation>；请修正文件或选择其他文件</translation>
+    </message>
+    <message>
+        <source>; change this value, then save again</source>
+        <translation>；请更改此值后重新保存</translation>
+    </message>
+</context>
+<context>
+    <name>Subcommand</name>
+    <message>
+        <source>Draw the page of a document into an image file</source>
+        <translation>将文档的页面绘制到图像文件</translation>
+    </message>
+    <message>
+        <source>Tell what is on the page of a document</source>
+        <translation>列出文档页面上的内容</translation>
+    </message>
+    <message>
+        <source>Work on a document step by step, without a window</source>
+        <translation>无需窗口，逐步处理文档</translation>
+    </message>
+    <message>
+        <source>List the commands and whether the plug-in builds them</source>
+        <translation>列出命令以及插件是否提供这些命令</translation>
+    </message>
+    <message>
+        <source>Usage: plotvane [DOCUMENT]              opens the window
+       plotvane SUBCOMMAND [options]   works without one</source>
+        <translation>用法：plotvane [DOCUMENT]              打开窗口
+      plotvane SUBCOMMAND [options]   无需窗口运行</translation>
+    </message>
+    <message>
+        <source>
+plotvane SUBCOMMAND --help tells about one of them; plotvane --version tells the version. --language LANG, on any of these lines, names the language of the texts, such as de; it is the user&apos;s own otherwise.</source>
+        <translation>
+plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给出版本。以上各行均可用 --language LANG 指定文字的语言，例如 de；否则使用用户自己的语言。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a subcommand nor a document; plotvane --help lists the subcommands.</source>
+        <translation>“%1”既不是子命令也不是文档；plotvane --help 列出子命令。</translation>
+    </message>
+    <message>
+        <source>The result could not be written to standard output.</source>
+        <translation>无法将结果写入标准输出。</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>The language of the texts, such as de; the user&apos;s own if not given.</source>
+        <translation>文字的语言，例如 de；不给出时使用用户自己的语言。</translation>
+    </message>
+    <message>
+        <source>%1 is missing.</source>
+        <translation>缺少 %1。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is one argument too many.</source>
+        <translation>“%1”是多余的参数。</translation>
+    </message>
+    <message>
+        <source>plotvane %1 --help tells how.</source>
+        <translation>用法见 plotvane %1 --help。</translation>
+    </message>
+    <message>
+        <source>Usage: plotvane %1 [options] %2</source>
+        <translation>用法：plotvane %1 [options] %2</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+</context>
+<context>
+    <name>SvgCheck</name>
+    <message>
+        <source>the SVG is not well-formed: %1 in line %2</source>
+        <translation>SVG 格式不正确：第 %2 行，%1</translation>
+    </message>
+    <message>
+        <source>the SVG is empty</source>
+        <translation>SVG 为空</translation>
+    </message>
+    <message>
+        <source>the SVG declares a document type or entities; remove them</source>
+        <translation>SVG 声明了文档类型或实体；请去掉</translation>
+    </message>
+    <message>
+        <source>the SVG holds a processing instruction; remove it</source>
+        <translation>SVG 含有处理指令；请去掉</translation>
+    </message>
+    <message>
+        <source>the file is not an SVG</source>
+        <translation>文件不是 SVG</translation>
+    </message>
+    <message>
+        <source>the SVG has more than %1 elements</source>
+        <translation>SVG 的元素超过 %1 个</translation>
+    </message>
+    <message>
+        <source>the SVG&apos;s elements are nested more than %1 deep</source>
+        <translation>SVG 元素的嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>the SVG holds a script; remove it</source>
+        <translation>SVG 含有脚本；请去掉</translation>
+    </message>
+    <message>
+        <source>the SVG refers to “%1”; put what it needs into the file</source>
+        <translation>SVG 引用了“%1”；请将所需内容放入文件</translation>
+    </message>
+    <message>
+        <source>the SVG embeds an image that is neither PNG nor JPEG</source>
+        <translation>SVG 嵌入的图像既不是 PNG 也不是 JPEG</translation>
+    </message>
+    <message>
+        <source>the SVG embeds an image larger than %1 × %1 pixels</source>
+        <translation>SVG 嵌入的图像大于 %1 × %1 像素</translation>
+    </message>
+    <message>
+        <source>the SVG&apos;s style sheet imports another or hides characters; put what it needs into the file</source>
+        <translation>SVG 的样式表导入了其他样式表或隐藏了字符；请将所需内容放入文件</translation>
+    </message>
+    <message>
+        <source>the SVG repeats its parts in a circle or more than %1 times</source>
+        <translation>SVG 循环引用自身的部分，或重复超过 %1 次</translation>
+    </message>
+    <message>
+        <source>the SVG has more than %1 bytes</source>
+        <translation>SVG 超过 %1 字节</translation>
+    </message>
+</context>
+<context>
+    <name>SvgMarkerSymbol</name>
+    <message>
+        <source>the SVG can&apos;t be drawn: it has no size or no content</source>
+        <translation>无法绘制 SVG：它没有尺寸或没有内容</translation>
+    </message>
+</context>
+<context>
+    <name>SymbolArchive</name>
+    <message>
+        <source>a symbol of a kind that can&apos;t be stored</source>
+        <translation>无法存储的符号类型</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation>“%1”不在可用值之中：%2</translation>
+    </message>
+    <message>
+        <source>there is no symbol to store</source>
+        <translation>没有可存储的符号</translation>
+    </message>
+    <message>
+        <source>“%1” is not a colour like #rrggbb or #aarrggbb</source>
+        <translation>“%1”不是 #rrggbb 或 #aarrggbb 形式的颜色</translation>
     </message>
 </context>
 <context>
@@ -150,34 +1963,38 @@
     <name>SysAdapterUI::StyleSelectorDlg</name>
     <message>
         <source>All</source>
-        <translation type="vanished">全部</translation>
+        <translation>全部</translation>
     </message>
     <message>
         <source>The style libraries hold nothing of this kind.</source>
-        <translation type="vanished">样式库中没有此类样式。</translation>
+        <translation>样式库中没有此类样式。</translation>
     </message>
     <message>
         <source>No name matches.</source>
-        <translation type="vanished">没有匹配的名称。</translation>
+        <translation>没有匹配的名称。</translation>
     </message>
     <message>
         <source>Styles</source>
-        <translation type="vanished">样式</translation>
+        <translation>样式</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="vanished">搜索</translation>
+        <translation>搜索</translation>
     </message>
     <message>
         <source>Current symbol</source>
-        <translation type="vanished">当前符号</translation>
+        <translation>当前符号</translation>
+    </message>
+    <message>
+        <source>Nothing is chosen.</source>
+        <translation>未选择任何样式。</translation>
     </message>
 </context>
 <context>
     <name>SysAdapterUI::TOCControl</name>
     <message>
         <source>No maps on this page</source>
-        <translation type="vanished">此页面上没有地图</translation>
+        <translation>此页面上没有地图</translation>
     </message>
 </context>
 </TS>

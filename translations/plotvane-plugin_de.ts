@@ -5,50 +5,50 @@
     <name>AddGridCommand</name>
     <message>
         <source>Grid</source>
-        <translation type="vanished">Gitternetz</translation>
+        <translation>Gitternetz</translation>
     </message>
     <message>
         <source>Grid already exists, continue to add new grid?</source>
-        <translation type="vanished">Es ist bereits ein Gitternetz vorhanden. Trotzdem ein neues hinzufügen?</translation>
+        <translation>Es ist bereits ein Gitternetz vorhanden. Trotzdem ein neues hinzufügen?</translation>
     </message>
     <message>
         <source>Add a grid</source>
-        <translation type="vanished">Gitternetz hinzufügen</translation>
+        <translation>Gitternetz hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>AddLegendCommand</name>
     <message>
         <source>Add a legend</source>
-        <translation type="vanished">Legende hinzufügen</translation>
+        <translation>Legende hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>AddMapFrameElementTool</name>
     <message>
         <source>Add Data Frame</source>
-        <translation type="vanished">Datenrahmen hinzufügen</translation>
+        <translation>Datenrahmen hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>AddNorthArrowCommand</name>
     <message>
         <source>North Arrow Properties</source>
-        <translation type="vanished">Eigenschaften des Nordpfeils</translation>
+        <translation>Eigenschaften des Nordpfeils</translation>
     </message>
 </context>
 <context>
     <name>AddScaleBarCommand</name>
     <message>
         <source>Add a scale bar</source>
-        <translation type="vanished">Maßstabsleiste hinzufügen</translation>
+        <translation>Maßstabsleiste hinzufügen</translation>
     </message>
 </context>
 <context>
     <name>AddScaleTextCommand</name>
     <message>
         <source>Add a text of description of the scale</source>
-        <translation type="vanished">Maßstabsangabe hinzufügen</translation>
+        <translation>Maßstabsangabe hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -83,7 +83,7 @@
     <name>ConvertToGraphics</name>
     <message>
         <source>ConvertToGraphics</source>
-        <translation type="vanished">In Grafik umwandeln</translation>
+        <translation>In Grafik umwandeln</translation>
     </message>
 </context>
 <context>
@@ -231,19 +231,19 @@
     <name>OpenProjectCommand</name>
     <message>
         <source>Open</source>
-        <translation type="vanished">Öffnen</translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>kdx File(*.kdx)</source>
-        <translation type="vanished">kdx-Datei (*.kdx)</translation>
+        <translation>kdx-Datei (*.kdx)</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="vanished">Fehler</translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Open File Failed!</source>
-        <translation type="vanished">Die Datei konnte nicht geöffnet werden!</translation>
+        <translation>Die Datei konnte nicht geöffnet werden!</translation>
     </message>
 </context>
 <context>

@@ -5,50 +5,50 @@
     <name>AddGridCommand</name>
     <message>
         <source>Grid</source>
-        <translation type="vanished">格网</translation>
+        <translation>格网</translation>
     </message>
     <message>
         <source>Grid already exists, continue to add new grid?</source>
-        <translation type="vanished">格网已存在，是否继续添加新的格网？</translation>
+        <translation>格网已存在，是否继续添加新的格网？</translation>
     </message>
     <message>
         <source>Add a grid</source>
-        <translation type="vanished">添加格网</translation>
+        <translation>添加格网</translation>
     </message>
 </context>
 <context>
     <name>AddLegendCommand</name>
     <message>
         <source>Add a legend</source>
-        <translation type="vanished">添加图例</translation>
+        <translation>添加图例</translation>
     </message>
 </context>
 <context>
     <name>AddMapFrameElementTool</name>
     <message>
         <source>Add Data Frame</source>
-        <translation type="vanished">添加数据框</translation>
+        <translation>添加数据框</translation>
     </message>
 </context>
 <context>
     <name>AddNorthArrowCommand</name>
     <message>
         <source>North Arrow Properties</source>
-        <translation type="vanished">指北针属性</translation>
+        <translation>指北针属性</translation>
     </message>
 </context>
 <context>
     <name>AddScaleBarCommand</name>
     <message>
         <source>Add a scale bar</source>
-        <translation type="vanished">添加比例尺</translation>
+        <translation>添加比例尺</translation>
     </message>
 </context>
 <context>
     <name>AddScaleTextCommand</name>
     <message>
         <source>Add a text of description of the scale</source>
-        <translation type="vanished">添加比例尺文字</translation>
+        <translation>添加比例尺文字</translation>
     </message>
 </context>
 <context>
@@ -83,7 +83,7 @@
     <name>ConvertToGraphics</name>
     <message>
         <source>ConvertToGraphics</source>
-        <translation type="vanished">转换为图形</translation>
+        <translation>转换为图形</translation>
     </message>
 </context>
 <context>
@@ -231,19 +231,19 @@
     <name>OpenProjectCommand</name>
     <message>
         <source>Open</source>
-        <translation type="vanished">打开</translation>
+        <translation>打开</translation>
     </message>
     <message>
         <source>kdx File(*.kdx)</source>
-        <translation type="vanished">kdx 文件 (*.kdx)</translation>
+        <translation>kdx 文件 (*.kdx)</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="vanished">错误</translation>
+        <translation>错误</translation>
     </message>
     <message>
         <source>Open File Failed!</source>
-        <translation type="vanished">打开文件失败！</translation>
+        <translation>打开文件失败！</translation>
     </message>
 </context>
 <context>

@@ -70,9 +70,9 @@ void ActionTable::addAction(HostedCommand const& command) {
 QMenu* ActionTable::menu(QString const& path) {
   if (menus_.contains(path)) return menus_[path];
   int const slash = path.lastIndexOf(QLatin1Char('/'));
-  QString const title = path.mid(slash + 1);
-  QMenu* const made =
-      slash < 0 ? window_.menuBar()->addMenu(QLatin1Char('&') + title) : menu(path.left(slash))->addMenu(title);
+  QString const name = path.mid(slash + 1);
+  QMenu* const made = slash < 0 ? window_.menuBar()->addMenu(translatedPlace(QLatin1Char('&') + name))
+                                : menu(path.left(slash))->addMenu(translatedPlace(name));
   return menus_[path] = made;
 }
 
@@ -100,7 +100,7 @@ void ActionTable::fillToolbars() {
         chosen(commands_.commands(), [&](CommandEntry const& entry) { return entry.toolbar == name; });
     if (commands.isEmpty()) continue;
     if (row.startsRow) window_.addToolBarBreak();
-    QToolBar* const bar = window_.addToolBar(name);
+    QToolBar* const bar = window_.addToolBar(translatedPlace(name));
     bar->setObjectName(QStringLiteral("toolBar_") + name);
     bar->setIconSize({toolbarIconPx, toolbarIconPx});
     HostedCommand const* last = nullptr;

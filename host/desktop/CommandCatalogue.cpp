@@ -1,5 +1,6 @@
 #include "CommandCatalogue.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -19,7 +20,19 @@ QVector<CommandEntry> readCatalogue(QString const& path) {
   return entries;
 }
 
+// scripts/translations lists the texts.
+QString translatedText(QString const& text) {
+  return QCoreApplication::translate("Commands", text.toUtf8().constData());
+}
+
 }  // namespace
 
 QVector<CommandEntry> commandCatalogue() { return readCatalogue(QStringLiteral(":/desktop/commands.json")); }
 QVector<CommandEntry> hostCatalogue() { return readCatalogue(QStringLiteral(":/desktop/host-commands.json")); }
+
+CommandEntry translated(CommandEntry entry) {
+  for (QString* const text : {&entry.caption, &entry.toolTip, &entry.needs}) *text = translatedText(*text);
+  return entry;
+}
+
+QString translatedPlace(QString const& name) { return translatedText(name); }

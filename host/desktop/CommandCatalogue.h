@@ -16,8 +16,15 @@ struct CommandEntry {
   QString needs;     ///< for people: what must be so before the command is enabled
 };
 
-/// The plug-in's commands in the order of their menus, from the configuration that is built in.
+/// The plug-in's commands in the order of their menus, from the configuration that is built in. Their texts are
+/// English.
 QVector<CommandEntry> commandCatalogue();
 
 /// The host's own, in the same shape.
 QVector<CommandEntry> hostCatalogue();
+
+/// The same with its caption, tool tip and needs as people are shown them.
+CommandEntry translated(CommandEntry entry);
+
+/// The name of a menu or a toolbar as people are shown it; that of a menu of the menu bar has its "&" before it.
+QString translatedPlace(QString const& name);

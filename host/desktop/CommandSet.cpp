@@ -20,7 +20,7 @@ CommandSet::~CommandSet() { views_.layoutView().setTool(nullptr); }
 void CommandSet::add(CommandEntry const& entry, _ptr_t<ICommand> const& command, void* hook) {
   if (!command) return;
   command->OnCreate(hook);
-  commands_.append({entry, command, SysUtility::ptr_cast<ITool>(command)});
+  commands_.append({translated(entry), command, SysUtility::ptr_cast<ITool>(command)});
 }
 
 HostedCommand const* CommandSet::find(QString const& identifier) const {

@@ -42,8 +42,7 @@ QString commandsText(QJsonArray const& commands) {
                 .arg(isBuilt ? QStringLiteral("built") : QStringLiteral("-"), -5)
                 .arg(command[QStringLiteral("caption")].toString());
   }
-  return text +
-         QCoreApplication::translate("CommandsSubcommand", "%1 of %2 commands built").arg(built).arg(commands.size());
+  return text + QStringLiteral("%1 of %2 commands built").arg(built).arg(commands.size());
 }
 
 QString markdownTable(QVector<CommandEntry> const& entries) {
@@ -58,9 +57,9 @@ QString markdownTable(QVector<CommandEntry> const& entries) {
 
 // The reference in docs/commands.md.
 QString commandsMarkdown() {
-  return QCoreApplication::translate("CommandsSubcommand",
-                                     "# The commands\n\nPrinted by `plotvane commands --markdown`.\n\n"
-                                     "## Of the plug-in\n\n%1\n## Of the host\n\n%2")
+  return QStringLiteral(
+             "# The commands\n\nPrinted by `plotvane commands --markdown`.\n\n"
+             "## Of the plug-in\n\n%1\n## Of the host\n\n%2")
       .arg(markdownTable(commandCatalogue()), markdownTable(hostCatalogue()))
       .trimmed();
 }

@@ -9,6 +9,8 @@
 #include <QSet>
 #include <QVector>
 
+#include <algorithm>
+
 using SysCarto::Element;
 using SysCarto::Layer;
 using SysCarto::Map;
@@ -23,18 +25,32 @@ struct KindName {
 };
 // clang-format off
 constexpr KindName elementKinds[] = {
-    { 1, "marker"},     { 2, "line"},               { 3, "polygon"}, { 4, "rectangle"}, { 5, "ellipse"},
-    { 9, "text"},       {10, "group"},              {11, "data frame"},
-    {12, "map surround frame"},                     {13, "picture"},
+    { 1, QT_TRANSLATE_NOOP("DocumentReport", "marker")},
+    { 2, QT_TRANSLATE_NOOP("DocumentReport", "line")},
+    { 3, QT_TRANSLATE_NOOP("DocumentReport", "polygon")},
+    { 4, QT_TRANSLATE_NOOP("DocumentReport", "rectangle")},
+    { 5, QT_TRANSLATE_NOOP("DocumentReport", "ellipse")},
+    { 9, QT_TRANSLATE_NOOP("DocumentReport", "text")},
+    {10, QT_TRANSLATE_NOOP("DocumentReport", "group")},
+    {11, QT_TRANSLATE_NOOP("DocumentReport", "data frame")},
+    {12, QT_TRANSLATE_NOOP("DocumentReport", "map surround frame")},
+    {13, QT_TRANSLATE_NOOP("DocumentReport", "picture")},
 };
-constexpr KindName layerKinds[] = {{2, "features"}, {3, "raster"}};
+constexpr KindName layerKinds[] = {
+    { 2, QT_TRANSLATE_NOOP("DocumentReport", "features")},
+    { 3, QT_TRANSLATE_NOOP("DocumentReport", "raster")},
+};
+constexpr char const* orientations[] = {
+    QT_TRANSLATE_NOOP("DocumentReport", "portrait"),
+    QT_TRANSLATE_NOOP("DocumentReport", "landscape"),
+};
 // clang-format on
 
 template <std::size_t count>
 QString kindName(KindName const (&kinds)[count], int type) {
   for (KindName const& kind : kinds)
     if (kind.type == type) return QString::fromLatin1(kind.name);
-  return QStringLiteral("unknown");
+  return QStringLiteral(QT_TRANSLATE_NOOP("DocumentReport", "unknown"));
 }
 
 QJsonValue rectangle(_ptr_t<SysGeometry::Envelope> const& envelope) {
@@ -50,8 +66,7 @@ QJsonValue pageJson(SysCarto::Page const* page) {
   double height = 0.0;
   page->QuerySize(width, height);
   return QJsonObject{{QStringLiteral("form"), form.key},
-                     {QStringLiteral("orientation"),
-                      page->GetOrientation() == 2 ? QStringLiteral("landscape") : QStringLiteral("portrait")},
+                     {QStringLiteral("orientation"), QLatin1String(orientations[page->GetOrientation() == 2 ? 1 : 0])},
                      {QStringLiteral("width"), width},
                      {QStringLiteral("height"), height}};
 }
@@ -93,11 +108,11 @@ QJsonObject mapJson(_ptr_t<Map> const& map) {
                      {QStringLiteral("layers"), layers}};
 }
 
-QString formatted(QJsonValue const& rectangle, int decimals) {
-  QStringList numbers;
-  for (QJsonValue const& number : rectangle.toArray())
-    numbers.append(QString::number(number.toDouble(), 'f', decimals));
-  return numbers.isEmpty() ? QStringLiteral("empty") : numbers.join(QStringLiteral("  "));
+// What a terminal takes for the text: two columns for a Chinese character.
+int columnsOf(QString const& text) {
+  return text.size() + static_cast<int>(std::count_if(text.begin(), text.end(), [](QChar character) {
+           return character.script() == QChar::Script_Han;
+         }));
 }
 
 // Columns as wide as their widest cell, two spaces between them.
@@ -106,13 +121,13 @@ QString table(QVector<QStringList> const& rows) {
   for (QStringList const& row : rows)
     for (int column = 0; column < row.size(); ++column) {
       if (column == widths.size()) widths.append(0);
-      widths[column] = qMax(widths.at(column), row.at(column).size());
+      widths[column] = qMax(widths.at(column), columnsOf(row.at(column)));
     }
   QString text;
   for (QStringList const& row : rows) {
     QString line = QStringLiteral("  ");
     for (int column = 0; column < row.size(); ++column)
-      line += row.at(column).leftJustified(widths.at(column)) + QStringLiteral("  ");
+      line += row.at(column) + QString(widths.at(column) - columnsOf(row.at(column)) + 2, QLatin1Char(' '));
     while (line.endsWith(QLatin1Char(' '))) line.chop(1);
     text += line + QLatin1Char('\n');
   }
@@ -126,12 +141,25 @@ public:
   static QString page(QJsonObject const& page);
   static QString elements(QJsonArray const& elements);
   static QString map(QJsonObject const& map);
+
+private:
+  static QString formatted(QJsonValue const& rectangle, int decimals);
+
+  // The JSON is for programs and has the word in English.
+  static QString word(QJsonValue const& english) { return tr(english.toString().toLatin1().constData()); }
 };
+
+QString ReportText::formatted(QJsonValue const& rectangle, int decimals) {
+  QStringList numbers;
+  for (QJsonValue const& number : rectangle.toArray())
+    numbers.append(QString::number(number.toDouble(), 'f', decimals));
+  return numbers.isEmpty() ? tr("empty") : numbers.join(QStringLiteral("  "));
+}
 
 QString ReportText::page(QJsonObject const& page) {
   if (page.isEmpty()) return tr("No page") + QLatin1Char('\n');
   return tr("Page: %1, %2, %3 × %4 cm")
-             .arg(page[QStringLiteral("form")].toString(), page[QStringLiteral("orientation")].toString())
+             .arg(page[QStringLiteral("form")].toString(), word(page[QStringLiteral("orientation")]))
              .arg(page[QStringLiteral("width")].toDouble())
              .arg(page[QStringLiteral("height")].toDouble()) +
          QLatin1Char('\n');
@@ -145,7 +173,7 @@ QString ReportText::elements(QJsonArray const& elements) {
     QString name = element[QStringLiteral("name")].toString();
     if (element[QStringLiteral("selected")].toBool()) name += tr(" (selected)");
     if (element[QStringLiteral("locked")].toBool()) name += tr(" (locked)");
-    rows.append({QString::number(element[QStringLiteral("handle")].toInt()), element[QStringLiteral("kind")].toString(),
+    rows.append({QString::number(element[QStringLiteral("handle")].toInt()), word(element[QStringLiteral("kind")]),
                  formatted(element[QStringLiteral("envelope")], 2), name.trimmed()});
   }
   return tr("Elements: %1").arg(elements.size()) + QLatin1Char('\n') + table(rows);
@@ -155,7 +183,7 @@ QString ReportText::map(QJsonObject const& map) {
   QVector<QStringList> rows;
   for (QJsonValue const& value : map[QStringLiteral("layers")].toArray()) {
     QJsonObject const layer = value.toObject();
-    rows.append({layer[QStringLiteral("kind")].toString(),
+    rows.append({word(layer[QStringLiteral("kind")]),
                  layer[QStringLiteral("visible")].toBool() ? tr("shown") : tr("hidden"),
                  layer[QStringLiteral("name")].toString()});
   }

@@ -5,8 +5,13 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+namespace {
+
+QString say(char const* text) { return QCoreApplication::translate("RunSubcommand", text); }
+
+}  // namespace
+
 ExitStatus runRun(Subcommand const& self, QStringList const& arguments) {
-  auto const say = [](char const* text) { return QCoreApplication::translate("RunSubcommand", text); };
   QCommandLineParser parser;
   parser.addPositionalArgument(QStringLiteral("DOCUMENT"), say("The .kdx document."));
   parser.addPositionalArgument(QStringLiteral("STEP..."),
