@@ -20,6 +20,8 @@ private slots:
   void aPluginThatDoesNotLoadIsNamed();
   void infoTellsWhatIsOnThePage();
   void infoFindsADocumentWithAnUmlautInAnyLocale();
+  void textsAreInTheLanguageAskedFor_data();
+  void textsAreInTheLanguageAskedFor();
 
 private:
   DocumentFolder folder_;
@@ -68,6 +70,10 @@ void SubcommandsTest::refusesWrongArguments_data() {
   row("an option without its value", "export page.kdx a.png --dpi", "dpi");
   row("info without a document", "info", "DOCUMENT is missing");
   row("commands with an operand", "commands page.kdx", "one argument too many");
+  row("a language that there is none of", "info page.kdx --language fr",
+      "\"fr\" is none of the languages: de, en, zh_CN.");
+  row("a language for the window", "--language klingon page.kdx", "\"klingon\" is none of");
+  row("no language after the option", "info page.kdx --language", "--language: \"\" is none of");
 }
 
 void SubcommandsTest::refusesWrongArguments() {
@@ -204,6 +210,39 @@ void SubcommandsTest::infoFindsADocumentWithAnUmlautInAnyLocale() {
   Outcome const outcome = run({"info", "Übersicht.kdx"}, folder_.path(), {{"LC_ALL", "C"}});
   QCOMPARE(outcome.status, 0);
   QCOMPARE(outcome.err, QString());
+}
+
+void SubcommandsTest::textsAreInTheLanguageAskedFor_data() {
+  QTest::addColumn<QString>("arguments");
+  QTest::addColumn<QString>("session");
+  QTest::addColumn<QString>("text");
+  auto const row = [](char const* claim, char const* arguments, char const* session, char const* text) {
+    QTest::newRow(claim) << QString(arguments) << QString(session) << QString(text);
+  };
+  row("the option before a subcommand", "--language de info page.kdx", "", "Elemente: 1");
+  row("the option after it", "info page.kdx --language=zh_CN", "", "元素：1");
+  row("the help of the program", "--help --language de", "", "öffnet das Fenster");
+  row("the session's language", "info page.kdx", "de_DE.UTF-8", "Elemente: 1");
+  row("a session in another encoding", "info page.kdx", "de_DE.ISO-8859-1", "Elemente: 1");
+  row("the option against the session", "info page.kdx --language en", "de_DE.UTF-8", "Elements: 1");
+  row("a session in a language that there is none of", "info page.kdx", "fr_FR.UTF-8", "Elements: 1");
+  row("JSON is English", "info page.kdx --json", "de_DE.UTF-8", "\"kind\": \"data frame\"");
+  row("the reference is English", "commands --markdown", "de_DE.UTF-8", "| Align Left |");
+  row("a dialog is accepted in any language", "run page.kdx accept Plotvane_PageSetting info --language zh_CN", "",
+      "{");
+  row("a message box is answered in English", "run page.kdx Plotvane_Grid answer=button:Yes Plotvane_Grid info",
+      "de_DE", "{");
+}
+
+void SubcommandsTest::textsAreInTheLanguageAskedFor() {
+  QFETCH(QString, arguments);
+  QFETCH(QString, session);
+  QFETCH(QString, text);
+  Outcome const outcome =
+      run(arguments.split(' '), folder_.path(), {{"LC_ALL", session.isEmpty() ? "C.UTF-8" : session}});
+  QCOMPARE(outcome.err, QString());
+  QCOMPARE(outcome.status, 0);
+  QVERIFY2(outcome.out.contains(text), qPrintable(outcome.out));
 }
 
 QTEST_GUILESS_MAIN(SubcommandsTest)
