@@ -208,8 +208,8 @@ GraticuleLine GraticuleLines::made(bool isMeridian, double step, double number, 
   QVector<QLineF> ends;
   for (Part const& part : store.parts) {
     if (part.count < 2) continue;
-    QVector<QPointF> points;
-    for (int i = 0; i < part.count; ++i) points << QPointF(part.xy[2 * i], part.xy[2 * i + 1]);
+    QVector<QPointF> points(part.count);
+    for (int i = 0; i < part.count; ++i) points[i] = QPointF(part.xy[2 * i], part.xy[2 * i + 1]);
     ends << QLineF(points[1], points[0]) << QLineF(points[points.size() - 2], points.last());
     result.parts << points;
   }
