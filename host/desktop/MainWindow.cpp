@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
@@ -146,7 +147,13 @@ void MainWindow::buildContents() {
 void MainWindow::buildStatusBar() {
   position_ =
       addLabel(*statusBar(), tr("x 000.00 cm  y 000.00 cm"), tr("Place on the page, from its lower left corner"));
-  scale_ = addLabel(*statusBar(), tr("Map 1:000,000,000"), tr("Scale of the map in the focus data frame"));
+  scale_ = new QLineEdit(this);
+  scale_->setObjectName(QStringLiteral("lineEdit_MapScale"));
+  scale_->setToolTip(tr("Scale of the map in the focus data frame; type another one"));
+  scale_->setFixedWidth(scale_->fontMetrics().horizontalAdvance(QStringLiteral("1:000,000,000")) + 3 * labelMarginPx);
+  connect(scale_, &QLineEdit::editingFinished, this, &MainWindow::takeScale);
+  statusBar()->addPermanentWidget(new QLabel(tr("Map"), this));
+  statusBar()->addPermanentWidget(scale_);
   zoom_ = addLabel(*statusBar(), tr("Zoom 0000 %"), tr("Size of the page on the screen; 100 % is its size on paper"));
 }
 
@@ -190,7 +197,10 @@ void MainWindow::showState() {
   auto const layout = bench_.views().GetPageLayout();
   auto const map = layout ? layout->GetFocusMap() : nullptr;
   double const denominator = map && map->GetLayerCount() > 0 ? map->GetDisplayTransformation()->GetMapScale() : 0;
-  scale_->setText(denominator > 0 ? tr("Map 1:%1").arg(locale().toString(denominator, 'f', 0)) : QString());
+  auto const frame = layout ? layout->GetFocusMapFrameElement() : nullptr;
+  scale_->setEnabled(denominator > 0 && frame && !frame->IsLocked());
+  if (!scale_->isModified())
+    scale_->setText(denominator > 0 ? QStringLiteral("1:") + locale().toString(denominator, 'f', 0) : QString());
   double const zoom = layout ? layout->GetDisplayTransformation()->GetPageScale() : 0;
   zoom_->setText(zoom > 0 ? tr("Zoom %1 %").arg(100 * zoom, 0, 'f', zoom < 0.1 ? 1 : 0) : QString());
 }
@@ -200,6 +210,25 @@ void MainWindow::showPointer(QPoint const& positionPx) {
   if (!layout) return position_->clear();
   auto const point = layout->GetDisplayTransformation()->ToMapPoint(positionPx);
   position_->setText(tr("x %1 cm  y %2 cm").arg(point->GetX(), 0, 'f', 2).arg(point->GetY(), 0, 'f', 2));
+}
+
+// About the map's centre, where the scale is true. What is no scale gives way to the one there is.
+void MainWindow::takeScale() {
+  if (!scale_->isModified()) return;
+  scale_->setModified(false);
+  QString digits = scale_->text().section(QLatin1Char(':'), -1).remove(locale().groupSeparator());
+  double const wanted = locale().toDouble(digits.remove(QLatin1Char(' ')));
+  auto const layout = bench_.views().GetPageLayout();
+  auto const map = layout ? layout->GetFocusMap() : nullptr;
+  if (map && wanted > 0) {
+    double const factor = wanted / map->GetDisplayTransformation()->GetMapScale();
+    auto const extent = map->GetExtent();
+    extent->Expand(extent->GetWidth() * (factor - 1) / 2, extent->GetHeight() * (factor - 1) / 2, false);
+    map->SetExtent(extent);
+    bench_.views().layoutView().refresh(everything);
+    bench_.views().mapView().refresh(everything);
+  }
+  showState();
 }
 
 void MainWindow::showAbout() {

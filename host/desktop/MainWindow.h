@@ -10,6 +10,7 @@
 #include <QMainWindow>
 
 class QLabel;
+class QLineEdit;
 class QTabBar;
 
 /// The window: puts together the workbench, its actions, the table of contents and the status bar.
@@ -48,6 +49,7 @@ private:
   void listMaps();
   void showState();
   void showPointer(QPoint const& positionPx);
+  void takeScale();
   void showAbout();
 
   Workbench bench_;
@@ -59,7 +61,7 @@ private:
   QDockWidget* contentsDock_ = nullptr;
   QTabBar* tabs_ = nullptr;
   QLabel* position_ = nullptr;
-  QLabel* scale_ = nullptr;
+  QLineEdit* scale_ = nullptr;
   QLabel* zoom_ = nullptr;
 };
 

@@ -1,12 +1,23 @@
 #include "MapView.h"
 
 #include <QElapsedTimer>
+#include <QMouseEvent>
 #include <QPainter>
+
+#include <cmath>
+#include <utility>
 
 using SysCarto::Map;
 using SysCarto::MapFrameElement;
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr double wheelStep = 120;  // of an ordinary wheel, in eighths of a degree
+constexpr double zoomPerStep = 1.25;
+
+}  // namespace
 
 MapView::MapView(QWidget* parent) : ViewWidget(parent) { setObjectName(QStringLiteral("mapView")); }
 MapView::~MapView() {
@@ -38,6 +49,12 @@ void MapView::composePicture() {
   paintMap();
 }
 
+// Of the map in the picture.
+QRect MapView::placePx() const {
+  QSize const size = tiles_.sizePx();
+  return {QPoint((picture_.width() - size.width()) / 2, (picture_.height() - size.height()) / 2), size};
+}
+
 void MapView::paintMap() {
   if (picture_.isNull()) return;
   picture_.fill(palette().color(QPalette::Mid));
@@ -47,11 +64,8 @@ void MapView::paintMap() {
     painter.drawText(picture_.rect(), Qt::AlignCenter, tr("The page has no data frame, so there is no map to show."));
     return;
   }
-  QRect const place(
-      QPoint((picture_.width() - tiles_.sizePx().width()) / 2, (picture_.height() - tiles_.sizePx().height()) / 2),
-      tiles_.sizePx());
-  painter.fillRect(place, Qt::white);
-  tiles_.paint(painter, place.topLeft());
+  painter.fillRect(placePx(), Qt::white);
+  tiles_.paint(painter, placePx().topLeft());
 }
 
 void MapView::continuePicture() {
@@ -64,3 +78,53 @@ void MapView::continuePicture() {
 }
 
 void MapView::resizeEvent(QResizeEvent*) { refresh(everything); }
+
+bool MapView::isFree() const {
+  auto const frame = layout_ ? layout_->GetFocusMapFrameElement() : nullptr;
+  return frame && !frame->IsLocked() && !tiles_.sizePx().isEmpty();
+}
+
+// Moves the map by device pixels, then enlarges it about a place that stays where it is.
+void MapView::showExtent(QPointF const& fixed, QPointF const& offset, double factor) {
+  QRectF const place = placePx();
+  auto const shown = map()->GetExtent();
+  double const unitsPerPx = shown->GetWidth() / place.width();
+  double const x = shown->GetXMin() + (fixed.x() - place.left()) * unitsPerPx;
+  double const y = shown->GetYMax() - (fixed.y() - place.top()) * unitsPerPx;
+  shown->Offset(-offset.x() * unitsPerPx, offset.y() * unitsPerPx);
+  auto const nearer = [factor](double centre, double side) { return centre + (side - centre) / factor; };
+  shown->PutCoords(nearer(x, shown->GetXMin()), nearer(y, shown->GetYMin()), nearer(x, shown->GetXMax()),
+                   nearer(y, shown->GetYMax()));
+  map()->SetExtent(shown);
+  refresh(everything);
+}
+
+void MapView::wheelEvent(QWheelEvent* event) {
+  if (!isFree() || grabbed_) return;
+  showExtent(event->position() * devicePixelRatioF(), {}, std::pow(zoomPerStep, event->angleDelta().y() / wheelStep));
+  event->accept();
+}
+
+void MapView::mousePressEvent(QMouseEvent* event) {
+  if (isFree() && event->button() == Qt::LeftButton) grabbed_ = event->pos();
+}
+
+void MapView::mouseMoveEvent(QMouseEvent* event) {
+  ViewWidget::mouseMoveEvent(event);
+  if (!grabbed_) return;
+  QPoint const offset = event->pos() - *grabbed_;
+  beginTracker();
+  trackerOffset(offset.x(), offset.y());
+  endTracker();
+}
+
+void MapView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !grabbed_) return;
+  QPoint const offset = event->pos() - *std::exchange(grabbed_, std::nullopt);
+  clearOverlay();
+  if (!offset.isNull() && isFree()) showExtent({}, QPointF(offset) * devicePixelRatioF(), 1);
+}
+
+void MapView::hideEvent(QHideEvent*) {
+  if (std::exchange(grabbed_, std::nullopt)) clearOverlay();
+}

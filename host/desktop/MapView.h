@@ -5,7 +5,10 @@
 
 #include <SysCarto/PageLayout.h>
 
-/// The screen of a map alone: what its data frame shows, as large as the window allows.
+#include <optional>
+
+/// The screen of a map alone: what its data frame shows, as large as the window allows. The wheel zooms and a drag
+/// moves the map in its frame, unless that is locked.
 class MapView final : public ViewWidget {
   Q_OBJECT
 
@@ -25,12 +28,21 @@ protected:
   void continuePicture() override;
   QImage const& picture() const override { return picture_; }
   void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
 private:
+  QRect placePx() const;
   void paintMap();
+  bool isFree() const;
+  void showExtent(QPointF const& fixed, QPointF const& offset, double factor);
 
   SysUtility::_ptr_t<SysCarto::PageLayout> layout_;
   SysUtility::_ptr_t<SysCarto::Map> shown_;
   MapTiles tiles_;
   QImage picture_;
+  std::optional<QPoint> grabbed_;  // where a drag began
 };

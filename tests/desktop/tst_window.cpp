@@ -7,6 +7,7 @@
 
 #include <QCloseEvent>
 #include <QDropEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -38,6 +39,7 @@ private slots:
   void aPieceOfRealWork();
   void theContentsFollowTheDataFrames();
   void hidingALayerIsAChangeOfTheDocument();
+  void theMapMovesInItsFrame();
   void iconsTakeThePalettesColour_data();
   void iconsTakeThePalettesColour();
   void shortcutsAreUnique();
@@ -252,6 +254,44 @@ void WindowTest::hidingALayerIsAChangeOfTheDocument() {
   QTRY_VERIFY(window.isWindowModified());
   layer->setCheckState(0, Qt::Checked);
   QTRY_VERIFY(!window.isWindowModified());
+}
+
+void WindowTest::theMapMovesInItsFrame() {
+  MainWindow window;
+  window.show();
+  QVERIFY(window.open(world));
+  auto const layout = window.bench().views().GetPageLayout();
+  auto const map = layout->GetFocusMap();
+  auto const scale = [&] { return map->GetDisplayTransformation()->GetMapScale(); };
+  auto* const field = window.findChild<QLineEdit*>("lineEdit_MapScale");
+  QTest::keyClicks(field, "junk");
+  QTest::keyClick(field, Qt::Key_Return);
+  QCOMPARE(field->text(), "1:" + window.locale().toString(scale(), 'f', 0));
+  field->selectAll();
+  QTest::keyClicks(field, "1:50000000");
+  QTest::keyClick(field, Qt::Key_Return);
+  QVERIFY(qAbs(scale() / 50e6 - 1) < 1e-6);
+  QVERIFY(window.isWindowModified());
+
+  window.actions().find("Host_MapView")->trigger();
+  MapView& view = window.bench().views().mapView();
+  view.grab();
+  QPoint const middle = view.rect().center();
+  auto const before = map->GetExtent();
+  QTest::mousePress(&view, Qt::LeftButton, {}, middle);
+  QMouseEvent move(QEvent::MouseMove, middle + QPoint(50, 0), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&view, &move);
+  QTest::mouseRelease(&view, Qt::LeftButton, {}, middle + QPoint(50, 0));
+  QVERIFY(map->GetExtent()->GetXMin() < before->GetXMin());
+  QVERIFY(qAbs(map->GetExtent()->GetWidth() / before->GetWidth() - 1) < 1e-9);
+
+  QWheelEvent wheel(middle, middle, QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&view, &wheel);
+  QVERIFY(scale() < 50e6 * 0.9);
+  layout->GetFocusMapFrameElement()->SetLocked(true);
+  double const locked = scale();
+  QCoreApplication::sendEvent(&view, &wheel);
+  QCOMPARE(scale(), locked);
 }
 
 void WindowTest::iconsTakeThePalettesColour_data() {
