@@ -64,6 +64,7 @@ private slots:
   void aFailureLeavesTheFolderAsItWas();
   void aFullDiskLeavesTheOldImage_data();
   void aFullDiskLeavesTheOldImage();
+  void aReadOnlyFolderKeepsItsImage();
   void aFileLimitLeavesTheOldImage_data();
   void aFileLimitLeavesTheOldImage();
   void anInterruptLeavesTheFolderAsItWas();
@@ -229,13 +230,20 @@ void ExportSubcommandTest::aFailureLeavesTheFolderAsItWas() {
 
 void ExportSubcommandTest::aFullDiskLeavesTheOldImage_data() {
   QTest::addColumn<QString>("name");
-  for (QString const suffix : {"png", "jpg", "bmp", "tif"})
-    QTest::addRow("a %s", qPrintable(suffix)) << "old." + suffix;
+  QTest::addColumn<double>("ofTemporary");
+  QTest::addColumn<double>("ofImage");
+  for (QString const suffix : {"png", "jpg", "bmp", "tif"}) {
+    QTest::addRow("a %s, before the drawing", qPrintable(suffix)) << "old." + suffix << 0.4 << 0.0;
+    QTest::addRow("a %s, halfway through the image", qPrintable(suffix)) << "old." + suffix << 1.0 << 0.5;
+    QTest::addRow("a %s, at its last bytes", qPrintable(suffix)) << "old." + suffix << 1.0 << 0.95;
+  }
 }
 
-// The disk has room for the temporary file and for half of the image, so that nothing fails before its last bytes.
+// The disk has room for a part of the temporary file or of the image.
 void ExportSubcommandTest::aFullDiskLeavesTheOldImage() {
   QFETCH(QString, name);
+  QFETCH(double, ofTemporary);
+  QFETCH(double, ofImage);
   if (geteuid() != 0) QSKIP("only root mounts a small disk");
   // A page that no format makes small: A3, drawn into three bytes a pixel.
   QStringList const arguments{"export", QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx"), name, "--dpi", "100"};
@@ -246,13 +254,27 @@ void ExportSubcommandTest::aFullDiskLeavesTheOldImage() {
   QVERIFY(QFile::remove(folder_.path(name)));
   QVERIFY(imageBytes > 2 * headerBytes);
 
-  SmallDisk const disk(temporaryBytes + headerBytes + imageBytes / 2);
+  bool const isDrawn = ofTemporary == 1;
+  SmallDisk const disk(qint64(temporaryBytes * ofTemporary) + (isDrawn ? headerBytes : 0) +
+                       qint64((imageBytes - headerBytes) * ofImage));
   if (!disk.mounted()) QSKIP("no small disk can be mounted here");
   write(disk.path(name), "old");
   Outcome const outcome = run(arguments, disk.path());
   QCOMPARE(outcome.status, 1);
-  QVERIFY2(outcome.err.contains(name + " was not written"), qPrintable(outcome.err));
+  QVERIFY2(outcome.err.contains(isDrawn ? name + " was not written" : "are free"), qPrintable(outcome.err));
   QCOMPARE(contents(disk.path()), (QMap<QString, QByteArray>{{disk.path(name), "old"}}));
+}
+
+void ExportSubcommandTest::aReadOnlyFolderKeepsItsImage() {
+  if (geteuid() != 0) QSKIP("only root mounts a disk");
+  SmallDisk const disk(1000000);
+  if (!disk.mounted()) QSKIP("no disk can be mounted here");
+  write(disk.path("old.png"), "old");
+  QCOMPARE(QProcess::execute("mount", {"-o", "remount,ro", disk.path()}), 0);
+  Outcome const outcome = run({"export", folder_.path("page.kdx"), disk.path("old.png")}, folder_.path());
+  QCOMPARE(outcome.status, 1);
+  QVERIFY2(outcome.err.contains(disk.path()), qPrintable(outcome.err));
+  QCOMPARE(contents(disk.path()), (QMap<QString, QByteArray>{{disk.path("old.png"), "old"}}));
 }
 
 void ExportSubcommandTest::aFileLimitLeavesTheOldImage_data() {
