@@ -7,6 +7,7 @@
 #include <SysAdapterUI/StyleGalleryClass.h>
 #include <SysUI/EnvironmentSetting.h>
 
+#include <QApplication>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPainter>
@@ -21,6 +22,8 @@ using SysDisplay::SymbolType;
 using SysUtility::_ptr_t;
 
 namespace {
+
+constexpr int cellMarginPx = 12;
 
 constexpr double pixelsPerPoint = 96.0 / 72;
 constexpr int marginPx = 6;
@@ -107,6 +110,11 @@ QStringList StyleItemModel::categories() const {
 
 QSize StyleItemModel::pictureSize() const { return rowOf(class_).pictureSize; }
 
+// With room for a name of two lines.
+QSize StyleItemModel::cellSize() const {
+  return pictureSize() + QSize(2 * cellMarginPx, cellMarginPx + 2 * QFontMetrics(QApplication::font()).lineSpacing());
+}
+
 int StyleItemModel::rowCount(QModelIndex const& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(entries_.size());
 }
@@ -120,6 +128,7 @@ QVariant StyleItemModel::data(QModelIndex const& index, int role) const {
     case Qt::ToolTipRole:
       return entry.file.isEmpty() ? entry.name : entry.name + QLatin1Char('\n') + QFileInfo(entry.file).fileName();
     case CategoryRole: return entry.category;
+    case Qt::SizeHintRole: return cellSize();
     default: return {};
   }
 }

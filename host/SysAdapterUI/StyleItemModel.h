@@ -39,6 +39,7 @@ public:
   /// The categories in their order, without the outermost one.
   QStringList categories() const;
   QSize pictureSize() const;
+  QSize cellSize() const;
 
   int rowCount(QModelIndex const& parent = {}) const override;
   QVariant data(QModelIndex const& index, int role) const override;

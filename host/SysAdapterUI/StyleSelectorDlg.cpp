@@ -18,7 +18,6 @@ using SysUtility::_ptr_t;
 
 namespace {
 
-constexpr int cellMarginPx = 16;
 constexpr int categoryWidthPx = 150;
 
 }  // namespace
@@ -36,9 +35,8 @@ struct StyleSelectorDlg::Private {
   _ptr_t<Symbol> current() const { return model->symbol(filter->mapToSource(grid->currentIndex()).row()); }
 
   void fitGrid() const {
-    QSize const picture = model->pictureSize();
-    grid->setIconSize(picture);
-    grid->setGridSize(picture + QSize(2 * cellMarginPx, 2 * cellMarginPx + 2 * grid->fontMetrics().lineSpacing()));
+    grid->setIconSize(model->pictureSize());
+    grid->setGridSize(model->cellSize());
   }
 
   void listCategories() const {

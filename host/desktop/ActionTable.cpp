@@ -36,7 +36,8 @@ QVector<HostedCommand const*> chosen(QVector<HostedCommand> const& commands, Pre
 
 QString toolTipOf(CommandEntry const& entry, QAction const& action) {
   QString const keys = action.shortcut().toString(QKeySequence::NativeText);
-  return keys.isEmpty() ? entry.toolTip : QStringLiteral("%1 (%2)").arg(entry.toolTip, keys);
+  QString const tip = keys.isEmpty() ? entry.toolTip : QStringLiteral("%1 (%2)").arg(entry.toolTip, keys);
+  return action.isEnabled() ? tip : tip + QLatin1Char('\n') + ActionTable::tr("Needs %1").arg(entry.needs);
 }
 
 }  // namespace
@@ -59,7 +60,6 @@ void ActionTable::addAction(HostedCommand const& command) {
   auto* const action = new QAction(loadIcon(entry.icon), entry.caption, &window_);
   action->setObjectName(entry.identifier);
   action->setShortcut(QKeySequence::fromString(entry.shortcut, QKeySequence::PortableText));
-  action->setToolTip(toolTipOf(entry, *action));
   action->setStatusTip(entry.toolTip);
   connect(action, &QAction::triggered, this, [this, &command] {
     if (!commands_.click(command)) refresh();  // it was found disabled just now
@@ -118,6 +118,7 @@ void ActionTable::refresh() {
   for (HostedCommand const& command : commands_.commands()) {
     QAction& action = *actions_[command.entry.identifier];
     action.setEnabled(command.command->IsEnable());
+    action.setToolTip(toolTipOf(command.entry, action));
     bool const isChecked = command.command->IsChecked();
     // An action shows its state only where it has one; it has one from its first check on.
     if (isChecked || command.tool) action.setCheckable(true);

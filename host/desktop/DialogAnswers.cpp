@@ -1,5 +1,7 @@
 #include "DialogAnswers.h"
 
+#include "Console.h"
+
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
 #include <QApplication>
@@ -48,7 +50,7 @@ bool type(QLineEdit& edit, QString const& value) {
 
 bool press(QAbstractButton& button, QString const& value) {
   bool const isOff = isSame(QStringLiteral("off"), value);
-  if (isOff && !button.isCheckable()) return false;
+  if (button.isCheckable() ? !isOff && !isSame(QStringLiteral("on"), value) : isOff) return false;
   if (!button.isCheckable() || button.isChecked() == isOff) button.click();
   return true;
 }
@@ -154,6 +156,11 @@ void accept(QDialog& dialog) {
     QMetaObject::invokeMethod(&dialog, "accept");
 }
 
+bool onlyTells(QDialog const& dialog) {
+  auto const* const box = qobject_cast<QMessageBox const*>(&dialog);
+  return box && box->icon() == QMessageBox::Information && box->buttons().size() == 1;
+}
+
 QString nameOf(QDialog const& dialog) {
   auto const* const box = qobject_cast<QMessageBox const*>(&dialog);
   QString const title = dialog.windowTitle();
@@ -194,7 +201,9 @@ void DialogAnswers::answer(QDialog& dialog) {
     if (!shown || !shown->isVisible()) return;
   }
   if (!problem_.isEmpty() || isToBeRejected) return dialog.reject();
-  if (!isAnswered)
+  if (!isAnswered && onlyTells(dialog))
+    Console::complain(static_cast<QMessageBox&>(dialog).text());
+  else if (!isAnswered)
     return fail(dialog, say("nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command"));
   accept(dialog);
   if (shown && shown->isVisible()) fail(dialog, say("it can't be accepted like this"));

@@ -10,7 +10,7 @@ class QWidget;
 
 /// Answers the dialogs that commands open, in the place of a person. Answers are used in their order: each dialog takes
 /// those that name widgets of its own, and is then accepted. A dialog for which there is no answer is rejected, and
-/// told as a problem.
+/// told as a problem; but a message box that only tells something is accepted, and its text goes to standard error.
 class DialogAnswers final : public QObject {
   Q_OBJECT
 

@@ -44,6 +44,12 @@ ExitStatus runWithoutSubcommand(QStringList const& arguments) {
     Console::print(QStringLiteral("plotvane ") + QCoreApplication::applicationVersion());
     return Done;
   }
+  if (arguments.size() == 1 && first.endsWith(QLatin1String(".kdx"), Qt::CaseInsensitive)) {
+    Console::complain(
+        say(QT_TRANSLATE_NOOP("Subcommand", "%1: there is no such document; check the name and the folder."))
+            .arg(first));
+    return WorkFailed;
+  }
   Console::complain(say(QT_TRANSLATE_NOOP("Subcommand",
                                           "\"%1\" is neither a subcommand nor a document; plotvane "
                                           "--help lists the subcommands."))
@@ -68,7 +74,11 @@ QString helpText(Subcommand const& self, QCommandLineParser const& parser) {
 
 }  // namespace
 
-bool asksForWindow(QStringList const& arguments) {
+bool asksForWindow(QStringList arguments) {
+  // Options of Qt, such as -style and -geometry, have a value each.
+  while (arguments.size() > 1 && arguments.first().size() > 2 && arguments.first().startsWith(QLatin1Char('-')) &&
+         !arguments.first().startsWith(QLatin1String("--")))
+    arguments = arguments.mid(2);
   if (arguments.isEmpty()) return true;
   for (Subcommand const& subcommand : subcommands)
     if (arguments.first() == QLatin1String(subcommand.name)) return false;

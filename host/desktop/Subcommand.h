@@ -23,7 +23,7 @@ ExitStatus runRun(Subcommand const& self, QStringList const& arguments);
 ExitStatus runCommands(Subcommand const& self, QStringList const& arguments);
 
 /// Whether the arguments (without the program's name) ask for the window: none, or a document.
-bool asksForWindow(QStringList const& arguments);
+bool asksForWindow(QStringList arguments);
 
 /// Runs what the arguments (without the program's name) ask for.
 int runCommandLine(QStringList const& arguments);

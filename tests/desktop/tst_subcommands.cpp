@@ -9,6 +9,7 @@ class SubcommandsTest : public QObject {
 private slots:
   void answersHelp_data();
   void answersHelp();
+  void aDocumentThatIsNotThereIsNamed();
   void refusesWrongArguments_data();
   void refusesWrongArguments();
   void withoutADisplayTheWindowSaysWhatWorks_data();
@@ -47,13 +48,18 @@ void SubcommandsTest::answersHelp() {
   QCOMPARE(outcome.err, QString());
 }
 
+void SubcommandsTest::aDocumentThatIsNotThereIsNamed() {
+  Outcome const outcome = run({"none.kdx"}, folder_.path());
+  QCOMPARE(outcome.status, 1);
+  QVERIFY2(outcome.err.contains("none.kdx: there is no such document"), qPrintable(outcome.err));
+}
+
 void SubcommandsTest::refusesWrongArguments_data() {
   QTest::addColumn<QString>("arguments");
   QTest::addColumn<QString>("complaint");
   auto const row = [](char const* claim, char const* arguments, char const* complaint) {
     QTest::newRow(claim) << QString(arguments) << QString(complaint);
   };
-  row("a document that is not there", "none.kdx", "\"none.kdx\" is neither");
   row("two documents", "page.kdx page.kdx", "\"page.kdx\" is neither");
   row("a misspelt subcommand is named", "exprot page.kdx a.png", "\"exprot\" is neither");
   row("an unknown option of the program", "--frobnicate", "--frobnicate");
