@@ -5,8 +5,10 @@
 #include <SysCarto/Map.h>
 #include <SysGeometry/Polyline.h>
 
+#include <QApplication>
 #include <QPainter>
 #include <QPixmap>
+#include <QStyle>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -67,10 +69,15 @@ public:
   _ptr_t<Layer> const layer;
 };
 
-// One symbol stands beside the layer's name; several have a row each.
+// One symbol stands beside the layer's name; several have a row each. A layer that could not be read has a sign.
 void addSymbols(QTreeWidgetItem& item, Layer const& layer, double devicePixelRatio) {
   auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(&layer);
   if (!vector) return;
+  item.setToolTip(0, vector->problem());
+  if (!vector->problem().isEmpty()) {
+    item.setIcon(0, QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    return;
+  }
   auto const& classes = vector->renderer().classes();
   for (SysCarto::SymbolClass const& one : classes) {
     if (!one.symbol) continue;

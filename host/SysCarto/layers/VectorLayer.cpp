@@ -47,7 +47,8 @@ QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem
   store_ = std::move(read.store);
   thinned_ = std::make_unique<ThinnedFeatures>(*store_);
   warnings += read.warnings;
-  return read.error;
+  problem_ = read.error;
+  return problem_;
 }
 
 void VectorLayer::storeRenderer(SysUtility::Archive& archive, char const* key) {

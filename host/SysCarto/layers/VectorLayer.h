@@ -26,6 +26,9 @@ public:
 
   SourceSettings const& source() const { return source_; }
 
+  /// Why the source could not be read, as `open` answered it.
+  QString const& problem() const { return problem_; }
+
   /// Writes the renderer (`describeRenderer`); a layer's renderer is not changed once it is made.
   void storeRenderer(SysUtility::Archive& archive, char const* key);
   Renderer const& renderer() const { return *renderer_; }
@@ -47,6 +50,7 @@ public:
 
 private:
   SourceSettings source_;
+  QString problem_;
   std::unique_ptr<Renderer> renderer_;
   LabelSettings labels_;
   SysUtility::_ptr_t<AnnotationProperties> properties_;
