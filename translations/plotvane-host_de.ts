@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ActionTable</name>
+    <message>
+        <source>Needs %1</source>
+        <translation>Braucht %1</translation>
+    </message>
+</context>
+<context>
     <name>Archive</name>
     <message>
         <source>true or false</source>
@@ -1331,14 +1338,6 @@
         <translation>Stelle auf der Seite, von ihrer linken unteren Ecke aus</translation>
     </message>
     <message>
-        <source>Map 1:000,000,000</source>
-        <translation>Karte 1:000.000.000</translation>
-    </message>
-    <message>
-        <source>Scale of the map in the focus data frame</source>
-        <translation>Maßstab der Karte im aktiven Datenrahmen</translation>
-    </message>
-    <message>
         <source>Zoom 0000 %</source>
         <translation>Zoom 0000 %</translation>
     </message>
@@ -1355,10 +1354,6 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>Map 1:%1</source>
-        <translation>Karte 1:%1</translation>
-    </message>
-    <message>
         <source>Zoom %1 %</source>
         <translation>Zoom %1 %</translation>
     </message>
@@ -1373,6 +1368,10 @@
     <message>
         <source>&lt;b&gt;Plotvane %1&lt;/b&gt;&lt;p&gt;Lays out printed maps.&lt;/p&gt;&lt;p&gt;MIT licence.&lt;/p&gt;</source>
         <translation>&lt;b&gt;Plotvane %1&lt;/b&gt;&lt;p&gt;Gestaltet gedruckte Karten.&lt;/p&gt;&lt;p&gt;MIT-Lizenz.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Scale of the map in the focus data frame; type another one</source>
+        <translation>Maßstab der Karte im aktiven Datenrahmen; hier lässt sich ein anderer eingeben</translation>
     </message>
 </context>
 <context>
@@ -1735,6 +1734,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
         <source>%1.</source>
         <translation>%1.</translation>
     </message>
+    <message>
+        <source>%1: there is no such document; check the name and the folder.</source>
+        <translation>%1: Dieses Dokument gibt es nicht; bitte Namen und Ordner prüfen.</translation>
+    </message>
 </context>
 <context>
     <name>SvgCheck</name>
@@ -1995,6 +1998,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>No maps on this page</source>
         <translation>Keine Karten auf dieser Seite</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstige</translation>
     </message>
 </context>
 </TS>

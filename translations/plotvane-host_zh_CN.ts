@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>ActionTable</name>
+    <message>
+        <source>Needs %1</source>
+        <translation>需要：%1</translation>
+    </message>
+</context>
+<context>
     <name>Archive</name>
     <message>
         <source>true or false</source>
@@ -1331,14 +1338,6 @@
         <translation>页面上的位置，从左下角算起</translation>
     </message>
     <message>
-        <source>Map 1:000,000,000</source>
-        <translation>地图 1:000,000,000</translation>
-    </message>
-    <message>
-        <source>Scale of the map in the focus data frame</source>
-        <translation>活动数据框中地图的比例尺</translation>
-    </message>
-    <message>
         <source>Zoom 0000 %</source>
         <translation>缩放 0000%</translation>
     </message>
@@ -1355,10 +1354,6 @@
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>Map 1:%1</source>
-        <translation>地图 1:%1</translation>
-    </message>
-    <message>
         <source>Zoom %1 %</source>
         <translation>缩放 %1%</translation>
     </message>
@@ -1373,6 +1368,10 @@
     <message>
         <source>&lt;b&gt;Plotvane %1&lt;/b&gt;&lt;p&gt;Lays out printed maps.&lt;/p&gt;&lt;p&gt;MIT licence.&lt;/p&gt;</source>
         <translation>&lt;b&gt;Plotvane %1&lt;/b&gt;&lt;p&gt;为印刷地图排版。&lt;/p&gt;&lt;p&gt;MIT 许可证。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Scale of the map in the focus data frame; type another one</source>
+        <translation>活动数据框中地图的比例尺；可输入其他值</translation>
     </message>
 </context>
 <context>
@@ -1735,6 +1734,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <source>%1.</source>
         <translation>%1。</translation>
     </message>
+    <message>
+        <source>%1: there is no such document; check the name and the folder.</source>
+        <translation>%1：没有此文档；请检查名称和文件夹。</translation>
+    </message>
 </context>
 <context>
     <name>SvgCheck</name>
@@ -1995,6 +1998,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>No maps on this page</source>
         <translation>此页面上没有地图</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
     </message>
 </context>
 </TS>
