@@ -33,15 +33,26 @@ private slots:
       QVERIFY2(!open(whole_.left(length)), qPrintable(QString::number(length)));
   }
 
+  // In pieces, since a test function may take five minutes at most.
+  void withOneBitFlippedItOpensOrIsRefused_data() {
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    constexpr int pieces = 4;
+    for (int i = 0; i < pieces; ++i)
+      QTest::addRow("part %d", i + 1) << whole_.size() * i / pieces << whole_.size() * (i + 1) / pieces;
+  }
+
   void withOneBitFlippedItOpensOrIsRefused() {
+    QFETCH(int, from);
+    QFETCH(int, to);
     int refused = 0;
-    for (int place = 0; place < whole_.size(); ++place) {
+    for (int place = from; place < to; ++place) {
       QByteArray damaged = whole_;
       damaged[place] = static_cast<char>(damaged[place] ^ (1 << place % 8));
       refused += open(damaged) ? 0 : 1;
     }
     // Most of a document is punctuation, names and numbers in their ranges; the rest is texts and places.
-    QVERIFY2(refused > whole_.size() / 2 && refused < whole_.size(), qPrintable(QString::number(refused)));
+    QVERIFY2(refused > (to - from) / 3 && refused < to - from, qPrintable(QString::number(refused)));
   }
 
 private:
@@ -49,6 +60,7 @@ private:
   bool open(QByteArray const& content) {
     QString const path = folder_.filePath(QStringLiteral("damaged.kdx"));
     QFile file(path);
+    file.remove();  // a file system may write one that is replaced to the disk at once
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write a test file");
     file.close();
 
