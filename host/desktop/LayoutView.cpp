@@ -6,7 +6,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <cmath>
 #include <utility>
 
 using SysCarto::PageLayout;
@@ -15,8 +14,6 @@ using SysUtility::_ptr_t;
 namespace {
 
 constexpr int everything = SysCarto::ViewSurface::everything;
-constexpr double wheelStep = 120;  // of an ordinary wheel, in eighths of a degree
-constexpr double zoomPerStep = 1.25;
 constexpr double scrollPerStepPx = 60;
 constexpr double largestPageScale = 100, smallestPageScale = 0.03451;  // as far as the zoom tools go
 
@@ -134,7 +131,7 @@ void LayoutView::mouseDoubleClickEvent(QMouseEvent* event) {
 void LayoutView::wheelEvent(QWheelEvent* event) {
   if (!layout_ || dragging_ != Qt::NoButton || (tool_ && tool_->OnWheelEvent(event))) return;
   if (event->modifiers() & Qt::ControlModifier)
-    zoomAt(event->position().toPoint(), std::pow(zoomPerStep, event->angleDelta().y() / wheelStep));
+    zoomAt(event->position().toPoint(), zoomOf(*event));
   else
     scrollBy(scrollOf(*event));
   event->accept();

@@ -4,20 +4,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <cmath>
 #include <utility>
 
 using SysCarto::Map;
 using SysCarto::MapFrameElement;
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
-
-namespace {
-
-constexpr double wheelStep = 120;  // of an ordinary wheel, in eighths of a degree
-constexpr double zoomPerStep = 1.25;
-
-}  // namespace
 
 MapView::MapView(QWidget* parent) : ViewWidget(parent) { setObjectName(QStringLiteral("mapView")); }
 MapView::~MapView() {
@@ -101,7 +93,7 @@ void MapView::showExtent(QPointF const& fixed, QPointF const& offset, double fac
 
 void MapView::wheelEvent(QWheelEvent* event) {
   if (!isFree() || grabbed_) return;
-  showExtent(event->position() * devicePixelRatioF(), {}, std::pow(zoomPerStep, event->angleDelta().y() / wheelStep));
+  showExtent(event->position() * devicePixelRatioF(), {}, zoomOf(*event));
   event->accept();
 }
 

@@ -2,6 +2,9 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
+
+#include <cmath>
 
 namespace {
 
@@ -50,6 +53,11 @@ void ViewWidget::refresh(int) {
 void ViewWidget::clearOverlay() {
   beginTracker();
   endTracker();
+}
+
+double ViewWidget::zoomOf(QWheelEvent const& event) {
+  constexpr double zoomPerStep = 1.25;
+  return std::pow(zoomPerStep, event.angleDelta().y() / wheelStep);
 }
 
 void ViewWidget::setCursor(QCursor const& cursor) { QWidget::setCursor(cursor); }

@@ -58,6 +58,10 @@ protected:
   /// Composes the picture when nobody has asked for it again for a moment. Until then the one there is stands in.
   void composeAtRest();
 
+  /// By how much a turn of the wheel enlarges.
+  static double zoomOf(QWheelEvent const& event);
+  static constexpr double wheelStep = 120;  // of an ordinary wheel, in eighths of a degree
+
   /// Lets a picture that is not complete grow.
   void goOn();
   bool isStale() const { return isStale_; }
