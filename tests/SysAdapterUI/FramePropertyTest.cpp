@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include <SysAdapterUI/FramePropertyWidget.h>
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
@@ -63,19 +65,12 @@ QColor pixelAtCentre(FramePropertyWidget& widget) {
 
 }  // namespace
 
-Q_DECLARE_METATYPE(Edit)
-Q_DECLARE_METATYPE(Check)
-
 class FramePropertyTest : public QObject {
   Q_OBJECT
 
 private slots:
   void everyFieldReachesItsPart_data() {
-    QTest::addColumn<Edit>("edit");
-    QTest::addColumn<Check>("check");
-    auto const row = [](char const* name, Edit const& edit, Check const& check) {
-      QTest::newRow(name) << edit << check;
-    };
+    Rows<Edit, Check> row;
     QColor const glass(10, 20, 30, 40);
     row("line style", noStyle("comboBox_BorderStyle"), [](auto const& widget) {
       return ptr_cast<SimpleLineSymbol>(widget.GetBorder()->GetLineSymbol())->GetStyle() == SimpleLineStyle::Null;
@@ -112,8 +107,7 @@ private slots:
   }
 
   void everyFieldReachesItsPart() {
-    QFETCH(Edit, edit);
-    QFETCH(Check, check);
+    auto const [edit, check] = fetched<Edit, Check>();
     auto const border = make<SymbolBorder>();
     auto const background = make<SymbolBackground>();
     auto const shadow = make<SymbolShadow>();

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysAdapterUI/StyleItemModel.h"
 #include "host/SysAdapterUI/SymbolPreview.h"
 
@@ -51,20 +53,18 @@ private slots:
   void init() { QFile::remove(folder_.filePath("settings.ini")); }
 
   void theLibraryHoldsEnoughOfEachClass_data() {
-    QTest::addColumn<int>("styleClass");
-    QTest::addColumn<int>("fewest");
-    QTest::newRow("north arrows") << int(NorthArrowStyle) << 16;
-    QTest::newRow("markers") << int(MarkerStyle) << 30;
-    QTest::newRow("lines") << int(LineStyle) << 20;
-    QTest::newRow("fills") << int(FillStyle) << 20;
-    QTest::newRow("texts") << int(TextStyle) << 5;
+    Rows<orvSymbologyStyleClass, int> row;
+    row("north arrows", NorthArrowStyle, 16);
+    row("markers", MarkerStyle, 30);
+    row("lines", LineStyle, 20);
+    row("fills", FillStyle, 20);
+    row("texts", TextStyle, 5);
   }
 
   void theLibraryHoldsEnoughOfEachClass() {
-    QFETCH(int, styleClass);
-    QFETCH(int, fewest);
+    auto const [styleClass, fewest] = fetched<orvSymbologyStyleClass, int>();
     StyleItemModel model(nullptr);
-    model.load(static_cast<orvSymbologyStyleClass>(styleClass), {library_});
+    model.load(styleClass, {library_});
     QVERIFY2(model.rowCount() >= fewest, qPrintable(QString::number(model.rowCount())));
     QCOMPARE(model.problems(), QStringList());
   }

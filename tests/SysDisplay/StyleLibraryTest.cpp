@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysDisplay/StyleLibrary.h"
 
 #include <QTemporaryDir>
@@ -66,12 +68,7 @@ private slots:
   }
 
   void refused_data() {
-    QTest::addColumn<QByteArray>("from");
-    QTest::addColumn<QByteArray>("to");
-    QTest::addColumn<QString>("sentence");
-    auto const row = [](char const* name, char const* from, QByteArray const& to, char const* sentence) {
-      QTest::newRow(name) << QByteArray(from) << to << QString(sentence);
-    };
+    Rows<QByteArray, QByteArray, QString> row;
     row("a document", "plotvane-style", "plotvane-document", "format: is not “plotvane-style”");
     row("a newer version", "\"version\": 1", "\"version\": 2", "version: the library was written by a newer version");
     row("no symbol", "\"symbol\"", "\"sybmol\"", "categories[0].items[0].symbol: is missing");
@@ -86,9 +83,7 @@ private slots:
   }
 
   void refused() {
-    QFETCH(QByteArray, from);
-    QFETCH(QByteArray, to);
-    QFETCH(QString, sentence);
+    auto const [from, to, sentence] = fetched<QByteArray, QByteArray, QString>();
     QByteArray damaged = whole_;
     damaged.replace(damaged.indexOf(from), from.size(), to);
     QVERIFY(!read(damaged));

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgCheck.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
@@ -31,24 +33,24 @@ class SymbolArchiveTest : public QObject {
 
 private slots:
   void everySymbolComesBackAsItWas_data() {
-    QTest::addColumn<QByteArray>("json");
-    QTest::newRow("line of default values") << QByteArray("{'type':'simpleLine'}");
-    QTest::newRow("line") << QByteArray(
+    Rows<QByteArray> row;
+    row("line of default values", "{'type':'simpleLine'}");
+    row("line",
         "{'cap':'square','color':'#80102030','join':'miter','miterLimit':5,'offset':-2.5,'style':'dashDotDot','type':'"
         "simpleLine','width':3.25}");
-    QTest::newRow("fill with an outline") << QByteArray(
+    row("fill with an outline",
         "{'color':'#ff0000','outline':{'type':'simpleLine','width':2},'style':'diagonalCross','type':'simpleFill'}");
-    QTest::newRow("fill without an outline") << QByteArray("{'style':'null','type':'simpleFill'}");
-    QTest::newRow("marker") << QByteArray(
+    row("fill without an outline", "{'style':'null','type':'simpleFill'}");
+    row("marker",
         "{'angle':45,'color':'#00ff00','outlineColor':'#0000ff','outlineWidth':0.5,'size':12,'style':'star','type':'"
         "simpleMarker'}");
-    QTest::newRow("SVG marker") << QByteArray("{'size':40,'svg':'<svg viewBox=\\'0 0 1 1\\'/>','type':'svgMarker'}");
-    QTest::newRow("text") << QByteArray(
+    row("SVG marker", "{'size':40,'svg':'<svg viewBox=\\'0 0 1 1\\'/>','type':'svgMarker'}");
+    row("text",
         "{'bold':true,'color':'#010203','family':'Lato','haloColor':'#40ffffff','haloSize':1.5,'horizontal':'center','"
         "italic':true,'letterSpacing':0.5,'lineSpacing':1.2,'size':14,'type':'text','vertical':'bottom'}");
   }
   void everySymbolComesBackAsItWas() {
-    QFETCH(QByteArray, json);
+    auto const [json] = fetched<QByteArray>();
     QJsonObject const expected{{QStringLiteral("symbol"), parsed(json)}};
     QVERIFY(!parsed(json).isEmpty());
     Archive reading(expected);
@@ -64,11 +66,8 @@ private slots:
   }
 
   void badValuesAreNamed_data() {
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<QString>("problem");  // how the sentence begins
-    auto const row = [](char const* name, char const* json, char const* problem) {
-      QTest::newRow(name) << QByteArray(json) << QString::fromUtf8(problem);
-    };
+    // problem: how the sentence begins
+    Rows<QByteArray, QString> row;
     row("no type", "{'width':1}", "symbol.type: is missing");
     row("unknown type", "{'type':'cartoonLine'}", "symbol.type: “cartoonLine” is not one of simpleLine");
     row("wrong family", "{'type':'simpleFill'}", "symbol.type: “simpleFill” is not one of simpleLine");
@@ -81,8 +80,7 @@ private slots:
     row("colour of other letters", "{'type':'simpleLine','color':'#12345g'}", "symbol.color: “#12345g”");
   }
   void badValuesAreNamed() {
-    QFETCH(QByteArray, json);
-    QFETCH(QString, problem);
+    auto const [json, problem] = fetched<QByteArray, QString>();
     Archive archive(QJsonObject{{QStringLiteral("symbol"), parsed(json)}});
     auto const before = SysUtility::make<SimpleLineSymbol>();
     _ptr_t<LineSymbol> symbol = before;
@@ -124,11 +122,8 @@ private slots:
   }
 
   void svgThatReachesOutIsRefused_data() {
-    QTest::addColumn<QByteArray>("svg");
-    QTest::addColumn<QString>("problem");  // empty: it is taken
-    auto const row = [](char const* name, QByteArray const& svg, char const* problem) {
-      QTest::newRow(name) << svg << QString::fromUtf8(problem);
-    };
+    // problem: empty: it is taken
+    Rows<QByteArray, QString> row;
     row("plain", svg("<path d='M0 0L9 9' style='fill:#fff'/>"), "");
     row("gradient of its own", svg("<rect id='r' fill='url(#g)' width='2' height='2'/><use xlink:href='#r'/>"), "");
     row("image file", svg("<image xlink:href='file:///etc/passwd' width='9' height='9'/>"), "refers to");
@@ -162,8 +157,7 @@ private slots:
     row("too large", svg(QByteArray(3 << 20, ' ')), "bytes");
   }
   void svgThatReachesOutIsRefused() {
-    QFETCH(QByteArray, svg);
-    QFETCH(QString, problem);
+    auto const [svg, problem] = fetched<QByteArray, QString>();
     QString const found = svgProblem(svg);
     QVERIFY2(problem.isEmpty() ? found.isEmpty() : found.contains(problem), qPrintable(found));
     if (problem.isEmpty()) return;

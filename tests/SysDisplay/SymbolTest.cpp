@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
 #include "host/SysDisplay/TextSymbol.h"
@@ -71,20 +73,13 @@ QRect aligned(_ptr_t<Envelope> const& e) {  // world rectangle to pixels
 
 }  // namespace
 
-Q_DECLARE_METATYPE(_ptr_t<Symbol>)
-Q_DECLARE_METATYPE(_ptr_t<Geometry>)
-
 class SymbolTest : public QObject {
   Q_OBJECT
 
 private slots:
   void dashesStandWhereTheirLengthsSay_data() {
-    QTest::addColumn<int>("style");
-    QTest::addColumn<int>("cap");
-    QTest::addColumn<QVector<int>>("starts");  // ink and gap in turn, in pixels from the line's beginning
-    auto const row = [](char const* name, SimpleLineStyle style, LineCapStyle cap, QVector<int> const& starts) {
-      QTest::newRow(name) << static_cast<int>(style) << static_cast<int>(cap) << starts;
-    };
+    // starts: ink and gap in turn, in pixels from the line's beginning
+    Rows<SimpleLineStyle, LineCapStyle, QVector<int>> row;
     row("dash", SimpleLineStyle::Dash, LineCapStyle::Butt, {0, 16, 24, 40, 48, 64});
     row("dot", SimpleLineStyle::Dot, LineCapStyle::Butt, {0, 4, 12, 16, 24, 28});
     row("dash and dot", SimpleLineStyle::DashDot, LineCapStyle::Butt, {0, 16, 24, 28, 36, 52});
@@ -92,13 +87,11 @@ private slots:
     row("caps leave the rhythm", SimpleLineStyle::Dash, LineCapStyle::Square, {-2, 14, 22, 38, 46, 62});
   }
   void dashesStandWhereTheirLengthsSay() {
-    QFETCH(int, style);
-    QFETCH(int, cap);
-    QFETCH(QVector<int>, starts);
+    auto const [style, cap, starts] = fetched<SimpleLineStyle, LineCapStyle, QVector<int>>();
     Canvas canvas;
     // With a corner at 50 pixels, over which the pattern goes on.
     auto const line = polyline({{20, 100}, {70, 100}, {70, 20}});
-    canvas.draw(*pen(4, static_cast<SimpleLineStyle>(style), static_cast<LineCapStyle>(cap)), line);
+    canvas.draw(*pen(4, style, cap), line);
     for (int i = 0; i + 1 < starts.size(); ++i) {
       int const middle = (starts[i] + starts[i + 1]) / 2;
       QPoint const pixel = middle < 50 ? QPoint(20 + middle, 100) : QPoint(70, 100 + middle - 50);
@@ -107,18 +100,16 @@ private slots:
   }
 
   void hatchesRunAsNamed_data() {
-    QTest::addColumn<int>("style");
-    QTest::addColumn<QPoint>("along");
-    QTest::newRow("horizontal") << 2 << QPoint(1, 0);
-    QTest::newRow("vertical") << 3 << QPoint(0, 1);
-    QTest::newRow("forward diagonal rises to the left") << 4 << QPoint(1, 1);
-    QTest::newRow("backward diagonal rises to the right") << 5 << QPoint(1, -1);
+    Rows<SimpleFillStyle, QPoint> row;
+    row("horizontal", SimpleFillStyle::Horizontal, QPoint(1, 0));
+    row("vertical", SimpleFillStyle::Vertical, QPoint(0, 1));
+    row("forward diagonal rises to the left", SimpleFillStyle::ForwardDiagonal, QPoint(1, 1));
+    row("backward diagonal rises to the right", SimpleFillStyle::BackwardDiagonal, QPoint(1, -1));
   }
   void hatchesRunAsNamed() {
-    QFETCH(int, style);
-    QFETCH(QPoint, along);
+    auto const [style, along] = fetched<SimpleFillStyle, QPoint>();
     SimpleFillSymbol fill;
-    fill.SetStyle(static_cast<SimpleFillStyle>(style));
+    fill.SetStyle(style);
     fill.SetColor(Qt::black);
     Canvas canvas(5);  // lines 20 pixels apart, 2 wide
     canvas.draw(fill, make<Envelope>(20, 20, 180, 180));
@@ -145,12 +136,12 @@ private slots:
   }
 
   void sizesFollowThePageScaleAlone_data() {
-    QTest::addColumn<double>("pixelsPerPoint");
-    QTest::newRow("a pixel a point") << 1.0;
-    QTest::newRow("three pixels a point") << 3.0;
+    Rows<double> row;
+    row("a pixel a point", 1.0);
+    row("three pixels a point", 3.0);
   }
   void sizesFollowThePageScaleAlone() {
-    QFETCH(double, pixelsPerPoint);
+    auto const [pixelsPerPoint] = fetched<double>();
     int const scale = static_cast<int>(pixelsPerPoint);
     auto const centre = make<Point>(100, 100, 0);
     SimpleMarkerSymbol square;
@@ -169,12 +160,7 @@ private slots:
 
   // What QueryBoundary answers decides which tiles an element is drawn in, so that nothing may lie outside of it.
   void boundaryCoversTheDrawing_data() {
-    QTest::addColumn<_ptr_t<Symbol>>("symbol");
-    QTest::addColumn<_ptr_t<Geometry>>("geometry");
-    QTest::addColumn<bool>("isTight");
-    auto const row = [](char const* name, _ptr_t<Symbol> const& symbol, _ptr_t<Geometry> const& geometry, bool tight) {
-      QTest::newRow(name) << symbol << geometry << tight;
-    };
+    Rows<_ptr_t<Symbol>, _ptr_t<Geometry>, bool> row;
     auto const corner = polyline({{40, 40}, {160, 60}, {50, 100}});
     auto const moved = pen(8, SimpleLineStyle::Solid, LineCapStyle::Square);
     moved->SetOffset(-7);
@@ -192,9 +178,7 @@ private slots:
     row("star", star, make<Point>(90, 90, 0), true);
   }
   void boundaryCoversTheDrawing() {
-    QFETCH(_ptr_t<Symbol>, symbol);
-    QFETCH(_ptr_t<Geometry>, geometry);
-    QFETCH(bool, isTight);
+    auto const [symbol, geometry, isTight] = fetched<_ptr_t<Symbol>, _ptr_t<Geometry>, bool>();
     Canvas canvas;
     QRect const covered = canvas.draw(*symbol, geometry).covered();
     QRect const boundary = aligned(symbol->QueryBoundary(canvas.transformation(), geometry));
@@ -232,18 +216,15 @@ private slots:
   }
 
   void textHangsOnItsPosition_data() {
-    QTest::addColumn<int>("horizontal");
-    QTest::addColumn<int>("vertical");
-    QTest::addColumn<QRectF>("allowed");  // where the letters may be, from the position, in points
-    QTest::newRow("left on the baseline") << 0 << 2 << QRectF(-0.5, -40, 200, 40.5);
-    QTest::newRow("right on the baseline") << 2 << 2 << QRectF(-200, -40, 200.5, 40.5);
-    QTest::newRow("left below the top") << 0 << 0 << QRectF(-0.5, 0, 200, 40);
-    QTest::newRow("right above the bottom") << 2 << 3 << QRectF(-200, -40, 200.5, 40);
+    // allowed: where the letters may be, from the position, in points
+    Rows<int, int, QRectF> row;
+    row("left on the baseline", 0, 2, QRectF(-0.5, -40, 200, 40.5));
+    row("right on the baseline", 2, 2, QRectF(-200, -40, 200.5, 40.5));
+    row("left below the top", 0, 0, QRectF(-0.5, 0, 200, 40));
+    row("right above the bottom", 2, 3, QRectF(-200, -40, 200.5, 40));
   }
   void textHangsOnItsPosition() {
-    QFETCH(int, horizontal);
-    QFETCH(int, vertical);
-    QFETCH(QRectF, allowed);
+    auto const [horizontal, vertical, allowed] = fetched<int, int, QRectF>();
     TextFormat format;
     format.size = 20;
     format.horizontal = static_cast<HorizontalAlignment>(horizontal);

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysDisplay/FillPainter.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
@@ -125,18 +127,15 @@ char const compass[] =
 
 }  // namespace
 
-Q_DECLARE_METATYPE(Scene)
-
 class TilingTest : public QObject {
   Q_OBJECT
 
 private slots:
   void tilesEqualTheWhole_data() {
-    QTest::addColumn<Scene>("scene");
+    Rows<Scene> row;
     using S = SimpleLineStyle;
     using C = LineCapStyle;
     using J = LineJoinStyle;
-    auto const row = [](char const* name, Scene const& scene) { QTest::newRow(name) << scene; };
     QVector<QPointF> const far{{-1e7, -6.3e6}, {350, 250}, {2e7, 9.9e6}, {9e6, -1e7}, {-5e6, 8e6}, {-7.7e6, 8.1e6}};
     QVector<QPointF> const flatFar{{-1e7, 200.3}, {1e7, 260.7}};
     QVector<QVector<QPointF>> const farRing{worldLine(far)};
@@ -170,14 +169,14 @@ private slots:
       marker->SetSize(19);
       marker->SetAngle(17);
       marker->setOutlineWidth(1.1);
-      QTest::addRow("marker %d", static_cast<int>(style)) << markers(marker);
+      row(QString("marker %1").arg(static_cast<int>(style)), markers(marker));
     }
     for (double size : {24.0, 300.0}) {
       auto const marker = make<SvgMarkerSymbol>();
       QCOMPARE(marker->setSvg(compass), QString());
       marker->SetSize(size);
       marker->SetAngle(33);
-      QTest::addRow("SVG marker of %g points", size) << markers(marker);
+      row(QString("SVG marker of %1 points").arg(size), markers(marker));
     }
     TextFormat format;
     format.size = 13;
@@ -190,7 +189,7 @@ private slots:
     row("large text", texts(format));
   }
   void tilesEqualTheWhole() {
-    QFETCH(Scene, scene);
+    auto const [scene] = fetched<Scene>();
     for (double pageScale : {1.0, 600 / 96.0}) {
       QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx), pageScale);
       for (int size : {64, 100, 512}) {

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include <SysDisplay/DisplayTransformation.h>
 
 #include <QtTest>
@@ -27,22 +29,20 @@ class TransformationTest : public QObject {
 
 private slots:
   void fitting_data() {
-    QTest::addColumn<QRectF>("bounds");  // x, y, width, height with y upwards
-    QTest::addColumn<QRectF>("fitted");
-    QTest::newRow("equal aspect stays as it is") << QRectF(1, 2, 20, 10) << QRectF(1, 2, 20, 10);
-    QTest::newRow("narrow bounds grow to the right") << QRectF(0, 0, 10, 10) << QRectF(0, 0, 20, 10);
-    QTest::newRow("low bounds grow downwards") << QRectF(0, 0, 20, 5) << QRectF(0, -5, 20, 10);
-    QTest::newRow("corners are ordered") << QRectF(20, 10, -20, -10) << QRectF(0, 0, 20, 10);
-    QTest::newRow("a flat line takes the frame's aspect") << QRectF(0, 7, 20, 0) << QRectF(0, -3, 20, 10);
-    QTest::newRow("an upright line takes the frame's aspect") << QRectF(3, 0, 0, 10) << QRectF(3, 0, 20, 10);
-    QTest::newRow("a point is ignored") << QRectF(5, 5, 0, 0) << QRectF(0, 0, 2, 1);
-    QTest::newRow("not a number is ignored") << QRectF(notANumber, 0, 4, 4) << QRectF(0, 0, 2, 1);
-    QTest::newRow("infinite bounds are ignored")
-        << QRectF(-1e308, 0, 1.7e308, 4).adjusted(-1e308, 0, 1e308, 0) << QRectF(0, 0, 2, 1);
+    // bounds: x, y, width, height with y upwards
+    Rows<QRectF, QRectF> row;
+    row("equal aspect stays as it is", QRectF(1, 2, 20, 10), QRectF(1, 2, 20, 10));
+    row("narrow bounds grow to the right", QRectF(0, 0, 10, 10), QRectF(0, 0, 20, 10));
+    row("low bounds grow downwards", QRectF(0, 0, 20, 5), QRectF(0, -5, 20, 10));
+    row("corners are ordered", QRectF(20, 10, -20, -10), QRectF(0, 0, 20, 10));
+    row("a flat line takes the frame's aspect", QRectF(0, 7, 20, 0), QRectF(0, -3, 20, 10));
+    row("an upright line takes the frame's aspect", QRectF(3, 0, 0, 10), QRectF(3, 0, 20, 10));
+    row("a point is ignored", QRectF(5, 5, 0, 0), QRectF(0, 0, 2, 1));
+    row("not a number is ignored", QRectF(notANumber, 0, 4, 4), QRectF(0, 0, 2, 1));
+    row("infinite bounds are ignored", QRectF(-1e308, 0, 1.7e308, 4).adjusted(-1e308, 0, 1e308, 0), QRectF(0, 0, 2, 1));
   }
   void fitting() {
-    QFETCH(QRectF, bounds);
-    QFETCH(QRectF, fitted);
+    auto const [bounds, fitted] = fetched<QRectF, QRectF>();
     DisplayTransformation transformation;
     transformation.SetDeviceFrame(QRect(0, 0, 200, 100));
     transformation.SetVisibleBounds(box(QRectF(0, 0, 2, 1)));
@@ -51,20 +51,18 @@ private slots:
   }
 
   void pixels_data() {
-    QTest::addColumn<QPointF>("world");
-    QTest::addColumn<QPoint>("pixel");
+    Rows<QPointF, QPoint> row;
     int const most = std::numeric_limits<int>::max(), least = std::numeric_limits<int>::min();
-    QTest::newRow("upper left corner") << QPointF(0, 10) << QPoint(5, 7);
-    QTest::newRow("lower right corner lies beyond the last pixel") << QPointF(20, 0) << QPoint(205, 107);
-    QTest::newRow("below half rounds down") << QPointF(0.049, 10) << QPoint(5, 7);
-    QTest::newRow("half rounds up") << QPointF(0.05, 9.95) << QPoint(6, 8);
-    QTest::newRow("half rounds up left of zero, too") << QPointF(-0.65, 10.75) << QPoint(-1, 0);
-    QTest::newRow("far away saturates") << QPointF(1e300, 1e300) << QPoint(most, least);
-    QTest::newRow("far away saturates the other way") << QPointF(-1e300, -1e300) << QPoint(least, most);
+    row("upper left corner", QPointF(0, 10), QPoint(5, 7));
+    row("lower right corner lies beyond the last pixel", QPointF(20, 0), QPoint(205, 107));
+    row("below half rounds down", QPointF(0.049, 10), QPoint(5, 7));
+    row("half rounds up", QPointF(0.05, 9.95), QPoint(6, 8));
+    row("half rounds up left of zero, too", QPointF(-0.65, 10.75), QPoint(-1, 0));
+    row("far away saturates", QPointF(1e300, 1e300), QPoint(most, least));
+    row("far away saturates the other way", QPointF(-1e300, -1e300), QPoint(least, most));
   }
   void pixels() {
-    QFETCH(QPointF, world);
-    QFETCH(QPoint, pixel);
+    auto const [world, pixel] = fetched<QPointF, QPoint>();
     DisplayTransformation transformation;
     transformation.SetDeviceFrame(QRect(5, 7, 200, 100));
     transformation.SetVisibleBounds(box(QRectF(0, 0, 20, 10)));

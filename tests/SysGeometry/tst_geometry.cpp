@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysGeometry/OgrBridge.h"
 
 #include <SysGeometry/Envelope.h>
@@ -21,7 +23,6 @@ using SysUtility::make;
 using SysUtility::ptr_cast;
 
 using GeometryPtr = _ptr_t<Geometry>;
-Q_DECLARE_METATYPE(GeometryPtr)
 
 namespace {
 
@@ -87,16 +88,16 @@ private slots:
   }
 
   void emptyGeometriesHaveAnEmptyEnvelopeAndNoAnchor_data() {
-    QTest::addColumn<GeometryPtr>("geometry");
-    QTest::newRow("envelope") << GeometryPtr(make<Envelope>());
-    QTest::newRow("point") << point(noNumber, 1);
-    QTest::newRow("polyline") << line({});
-    QTest::newRow("polyline of no number") << line({{noNumber, 1}});
-    QTest::newRow("multipolyline") << GeometryPtr(make<MultiPolyline>(QVector<QVector<QPointF>>{{}, {}}));
-    QTest::newRow("polygon") << area({});
+    Rows<GeometryPtr> row;
+    row("envelope", GeometryPtr(make<Envelope>()));
+    row("point", point(noNumber, 1));
+    row("polyline", line({}));
+    row("polyline of no number", line({{noNumber, 1}}));
+    row("multipolyline", GeometryPtr(make<MultiPolyline>(QVector<QVector<QPointF>>{{}, {}})));
+    row("polygon", area({}));
   }
   void emptyGeometriesHaveAnEmptyEnvelopeAndNoAnchor() {
-    QFETCH(GeometryPtr, geometry);
+    auto const [geometry] = fetched<GeometryPtr>();
     QVERIFY(geometry->GetEnvelope()->IsEmpty());
     QCOMPARE(geometry->GetEnvelope()->GetWidth(), 0.0);
     QVERIFY(!geometry->GetAnchorPoint());
@@ -106,67 +107,61 @@ private slots:
   }
 
   void geometriesMeet_data() {
-    QTest::addColumn<GeometryPtr>("a");
-    QTest::addColumn<GeometryPtr>("b");
-    QTest::addColumn<bool>("meet");
+    Rows<GeometryPtr, GeometryPtr, bool> row;
     auto const page = rectangle(0, 0, 10, 10);
-    QTest::newRow("rectangles that touch in a corner") << page << rectangle(10, 10, 20, 20) << true;
-    QTest::newRow("rectangles apart") << page << rectangle(10.1, 0, 20, 10) << false;
-    QTest::newRow("a flat rectangle inside") << page << rectangle(2, 5, 8, 5) << true;
-    QTest::newRow("a rectangle that is a point on the edge") << page << rectangle(10, 5, 10, 5) << true;
-    QTest::newRow("two flat rectangles that cross") << rectangle(0, 5, 9, 5) << rectangle(4, 0, 4, 9) << true;
-    QTest::newRow("a rectangle with unordered corners") << page << rectangle(8, 8, 2, 2) << true;
-    QTest::newRow("an empty rectangle") << page << GeometryPtr(make<Envelope>()) << false;
-    QTest::newRow("two empty rectangles") << GeometryPtr(make<Envelope>()) << GeometryPtr(make<Envelope>()) << false;
-    QTest::newRow("nothing") << page << GeometryPtr() << false;
-    QTest::newRow("a line through a rectangle") << page << line({{-5, 5}, {15, 5}}) << true;
-    QTest::newRow("a line past a corner") << page << line({{9, 12}, {12, 9}}) << false;
-    QTest::newRow("a line of one vertex") << page << line({{5, 5}}) << true;
-    QTest::newRow("a line of one vertex, repeated") << page << line({{5, 5}, {5, 5}}) << true;
-    QTest::newRow("a line against a flat rectangle") << line({{5, 0}, {5, 9}}) << rectangle(2, 5, 8, 5) << true;
-    QTest::newRow("a line with an infinite vertex") << page << line({{5, 5}, {HUGE_VAL, 5}}) << false;
-    QTest::newRow("a ring of two vertices") << page << area({{{1, 1}, {2, 2}}}) << false;
+    row("rectangles that touch in a corner", page, rectangle(10, 10, 20, 20), true);
+    row("rectangles apart", page, rectangle(10.1, 0, 20, 10), false);
+    row("a flat rectangle inside", page, rectangle(2, 5, 8, 5), true);
+    row("a rectangle that is a point on the edge", page, rectangle(10, 5, 10, 5), true);
+    row("two flat rectangles that cross", rectangle(0, 5, 9, 5), rectangle(4, 0, 4, 9), true);
+    row("a rectangle with unordered corners", page, rectangle(8, 8, 2, 2), true);
+    row("an empty rectangle", page, GeometryPtr(make<Envelope>()), false);
+    row("two empty rectangles", GeometryPtr(make<Envelope>()), GeometryPtr(make<Envelope>()), false);
+    row("nothing", page, GeometryPtr(), false);
+    row("a line through a rectangle", page, line({{-5, 5}, {15, 5}}), true);
+    row("a line past a corner", page, line({{9, 12}, {12, 9}}), false);
+    row("a line of one vertex", page, line({{5, 5}}), true);
+    row("a line of one vertex, repeated", page, line({{5, 5}, {5, 5}}), true);
+    row("a line against a flat rectangle", line({{5, 0}, {5, 9}}), rectangle(2, 5, 8, 5), true);
+    row("a line with an infinite vertex", page, line({{5, 5}, {HUGE_VAL, 5}}), false);
+    row("a ring of two vertices", page, area({{{1, 1}, {2, 2}}}), false);
     auto const ring = area({square(2, 8), square(0, 10)});
-    QTest::newRow("a point in a hole, whatever the order") << ring << point(5, 5) << false;
-    QTest::newRow("a point beside the hole") << ring << point(1, 5) << true;
+    row("a point in a hole, whatever the order", ring, point(5, 5), false);
+    row("a point beside the hole", ring, point(1, 5), true);
     auto const island = area({square(4, 6), square(0, 10), square(2, 8)});
-    QTest::newRow("a point on an island") << island << point(5, 5) << true;
-    QTest::newRow("a point around the island") << island << point(3, 5) << false;
+    row("a point on an island", island, point(5, 5), true);
+    row("a point around the island", island, point(3, 5), false);
     auto const crossing = area({square(0, 6), square(4, 10)});
-    QTest::newRow("a point where two rings cover each other") << crossing << point(5, 5) << false;
-    QTest::newRow("a point in one of two rings") << crossing << point(8, 8) << true;
+    row("a point where two rings cover each other", crossing, point(5, 5), false);
+    row("a point in one of two rings", crossing, point(8, 8), true);
     auto const bow = area({{{0, 0}, {10, 10}, {10, 0}, {0, 10}}});
-    QTest::newRow("a point in a wing of a bow") << bow << point(9, 5) << true;
-    QTest::newRow("a point between the wings") << bow << point(5, 9) << false;
+    row("a point in a wing of a bow", bow, point(9, 5), true);
+    row("a point between the wings", bow, point(5, 9), false);
     auto const spike = area({{{0, 0}, {10, 0}, {20, 0}, {10, 0}, {10, 10}, {0, 10}}});
-    QTest::newRow("a point in an area with a spike") << spike << point(5, 5) << true;
-    QTest::newRow("a point on the spike") << spike << point(15, 0) << false;
+    row("a point in an area with a spike", spike, point(5, 5), true);
+    row("a point on the spike", spike, point(15, 0), false);
   }
   void geometriesMeet() {
-    QFETCH(GeometryPtr, a);
-    QFETCH(GeometryPtr, b);
-    QTEST(a->Intersects(b), "meet");
-    if (b) QTEST(b->Intersects(a), "meet");
+    auto const [a, b, meet] = fetched<GeometryPtr, GeometryPtr, bool>();
+    QCOMPARE(a->Intersects(b), meet);
+    if (b) QCOMPARE(b->Intersects(a), meet);
   }
 
   void equalMeansTheSamePoints_data() {
-    QTest::addColumn<GeometryPtr>("a");
-    QTest::addColumn<GeometryPtr>("b");
-    QTest::addColumn<bool>("equal");
+    Rows<GeometryPtr, GeometryPtr, bool> row;
     auto const page = rectangle(0, 0, 10, 10);
-    QTest::newRow("rectangle and ring, other start and sense")
-        << page << area({{{10, 10}, {10, 0}, {0, 0}, {0, 10}, {10, 10}}}) << true;
-    QTest::newRow("an extra vertex on a side") << page << area({{{0, 0}, {5, 0}, {10, 0}, {10, 10}, {0, 10}}}) << true;
-    QTest::newRow("one inside the other") << page << rectangle(1, 1, 9, 9) << false;
-    QTest::newRow("a line and its reverse") << line({{0, 0}, {4, 2}}) << line({{4, 2}, {2, 1}, {0, 0}}) << true;
-    QTest::newRow("an area and its outline") << page << line({{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}}) << false;
-    QTest::newRow("points") << point(1, 2) << point(1, 2) << true;
+    row("rectangle and ring, other start and sense", page, area({{{10, 10}, {10, 0}, {0, 0}, {0, 10}, {10, 10}}}),
+        true);
+    row("an extra vertex on a side", page, area({{{0, 0}, {5, 0}, {10, 0}, {10, 10}, {0, 10}}}), true);
+    row("one inside the other", page, rectangle(1, 1, 9, 9), false);
+    row("a line and its reverse", line({{0, 0}, {4, 2}}), line({{4, 2}, {2, 1}, {0, 0}}), true);
+    row("an area and its outline", page, line({{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}}), false);
+    row("points", point(1, 2), point(1, 2), true);
   }
   void equalMeansTheSamePoints() {
-    QFETCH(GeometryPtr, a);
-    QFETCH(GeometryPtr, b);
-    QTEST(a->Equals(b), "equal");
-    QTEST(b->Equals(a), "equal");
+    auto const [a, b, equal] = fetched<GeometryPtr, GeometryPtr, bool>();
+    QCOMPARE(a->Equals(b), equal);
+    QCOMPARE(b->Equals(a), equal);
   }
 
   void containingNeedsTheInterior() {

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include <SysUI/EnvironmentSetting.h>
 #include <SysUI/ICommand.h>
 #include <SysUI/ITool.h>
@@ -61,19 +63,16 @@ private slots:
   }
 
   void aSettingComesBackAsOneText_data() {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("value");
-    QTest::newRow("a list without quotation marks") << QByteArray("k=/a.style,/b.style") << "/a.style,/b.style";
-    QTest::newRow("a quoted list") << QByteArray("k=\"/a.style,/b.style\"") << "/a.style,/b.style";
-    QTest::newRow("empty entries") << QByteArray("k=a.style,,b.style,") << "a.style,,b.style,";
-    QTest::newRow("UTF-8 as an editor writes it")
-        << QByteArray("k=/Straße/地図.style") << QString::fromUtf8("/Straße/地図.style");
-    QTest::newRow("nothing after the sign") << QByteArray("k=") << "";
-    QTest::newRow("no such key") << QByteArray("other=1") << QString();
+    Rows<QByteArray, QString> row;
+    row("a list without quotation marks", "k=/a.style,/b.style", "/a.style,/b.style");
+    row("a quoted list", "k=\"/a.style,/b.style\"", "/a.style,/b.style");
+    row("empty entries", "k=a.style,,b.style,", "a.style,,b.style,");
+    row("UTF-8 as an editor writes it", "k=/Straße/地図.style", "/Straße/地図.style");
+    row("nothing after the sign", "k=", "");
+    row("no such key", "other=1", QString());
   }
   void aSettingComesBackAsOneText() {
-    QFETCH(QByteArray, line);
-    QFETCH(QString, value);
+    auto const [line, value] = fetched<QByteArray, QString>();
     QTemporaryDir const folder;
     QFile file(folder.filePath("settings.ini"));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -85,14 +84,14 @@ private slots:
   }
 
   void aSettingIsKeptAsItWasSet_data() {
-    QTest::addColumn<QString>("value");
-    QTest::newRow("commas") << "/a.style,,/b.style,";
-    QTest::newRow("blanks, marks and backslashes") << " C:\\x \"y\";z=%1, @a ";
-    QTest::newRow("text that looks like a variant") << "@Variant(x)";
-    QTest::newRow("letters of everywhere") << QString::fromUtf8("Straße 地図");
+    Rows<QString> row;
+    row("commas", "/a.style,,/b.style,");
+    row("blanks, marks and backslashes", " C:\\x \"y\";z=%1, @a ");
+    row("text that looks like a variant", "@Variant(x)");
+    row("letters of everywhere", "Straße 地図");
   }
   void aSettingIsKeptAsItWasSet() {
-    QFETCH(QString, value);
+    auto const [value] = fetched<QString>();
     QTemporaryDir const folder;
     qputenv("PLOTVANE_SETTINGS", folder.filePath("one.ini").toUtf8());
     EnvironmentSetting::Instance()->SetPropertyValue("PATH", "k", value);

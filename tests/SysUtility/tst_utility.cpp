@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysUtility/Archive.h"
 #include "host/SysUtility/FileSaver.h"
 
@@ -110,23 +112,20 @@ private slots:
   }
 
   void valuesAreEqualWithinATolerance_data() {
-    QTest::addColumn<double>("a");
-    QTest::addColumn<double>("b");
-    QTest::addColumn<bool>("equal");
-    QTest::newRow("absolute near zero") << 0.0 << 9e-10 << true;
-    QTest::newRow("too far near zero") << 0.0 << 2e-9 << false;
-    QTest::newRow("relative for large values") << 1e6 << 1e6 + 5e-4 << true;
-    QTest::newRow("too far for large values") << 1e6 << 1e6 + 2e-3 << false;
-    QTest::newRow("opposite signs") << 5.0 << -5.0 << false;
-    QTest::newRow("not a number equals nothing") << noNumber << noNumber << false;
-    QTest::newRow("infinity equals itself") << HUGE_VAL << HUGE_VAL << true;
-    QTest::newRow("infinity is not close to anything") << HUGE_VAL << 1e300 << false;
+    Rows<double, double, bool> row;
+    row("absolute near zero", 0.0, 9e-10, true);
+    row("too far near zero", 0.0, 2e-9, false);
+    row("relative for large values", 1e6, 1e6 + 5e-4, true);
+    row("too far for large values", 1e6, 1e6 + 2e-3, false);
+    row("opposite signs", 5.0, -5.0, false);
+    row("not a number equals nothing", noNumber, noNumber, false);
+    row("infinity equals itself", HUGE_VAL, HUGE_VAL, true);
+    row("infinity is not close to anything", HUGE_VAL, 1e300, false);
   }
   void valuesAreEqualWithinATolerance() {
-    QFETCH(double, a);
-    QFETCH(double, b);
-    QTEST(MathUtil::IsEqual(a, b), "equal");
-    QTEST(MathUtil::IsEqual(b, a), "equal");
+    auto const [a, b, equal] = fetched<double, double, bool>();
+    QCOMPARE(MathUtil::IsEqual(a, b), equal);
+    QCOMPARE(MathUtil::IsEqual(b, a), equal);
   }
 
   void oneDescriptionReadsWhatItWrote() {
@@ -165,31 +164,30 @@ private slots:
   }
 
   void aProblemIsNamedWithItsPath_data() {
-    QTest::addColumn<QByteArray>("field");
-    QTest::addColumn<QString>("error");
+    Rows<QByteArray, QString> row;
     // clang-format off
-    QTest::newRow("text for a number")    << QByteArray(R"("width": "9")")   << "width: expected a number, found a text";
-    QTest::newRow("null for a number")    << QByteArray(R"("scale": null)")  << "scale: expected a number, found null";
-    QTest::newRow("number out of range")  << QByteArray(R"("width": 1000.5)") << "width: 1000.5 is not between 0.1 and 1000";
-    QTest::newRow("integer beyond int")   << QByteArray(R"("copies": 4294967297)") << "copies: 4294967297 is not between 1 and 5";
-    QTest::newRow("fraction of an integer") << QByteArray(R"("copies": 1.5)") << "copies: 1.5 is not a whole number";
-    QTest::newRow("number for a flag")    << QByteArray(R"("landscape": 1)") << "landscape: expected true or false, found a number";
-    QTest::newRow("unknown choice, no escapes shown") << QByteArray(R"("side": "up\u001b%1")") << QString::fromUtf8("side: “up\uFFFD%1” is not one of left, right");
-    QTest::newRow("list for a text")      << QByteArray(R"("title": [])")    << "title: expected a text, found a list";
-    QTest::newRow("number among texts")   << QByteArray(R"("tags": ["a", 1])") << "tags[1]: expected a text, found a number";
-    QTest::newRow("required object")      << QByteArray(R"("at": {})")       << "at.corner: is missing";
-    QTest::newRow("list for an object")   << QByteArray(R"("at": [1])")      << "at: expected an object, found a list";
-    QTest::newRow("three for a point")    << QByteArray(R"("at": {"corner": [1, 2, 3]})") << "at.corner: expected 2 numbers, found 3";
-    QTest::newRow("coordinate too large") << QByteArray(R"("at": {"corner": [1, 11]})") << "at.corner[1]: 11 is not between -10 and 10";
-    QTest::newRow("odd coordinates")      << QByteArray(R"("outline": [1])") << "outline: holds an odd count of numbers";
-    QTest::newRow("text as coordinate")   << QByteArray(R"("outline": [1, "x"])") << "outline[1]: expected a number, found a text";
-    QTest::newRow("too long a list")      << QByteArray(R"("inner": [{}, {}, {}])") << "inner: holds 3 entries; at most 2";
-    QTest::newRow("number in a list")     << QByteArray(R"("inner": [7])")   << "inner[0]: expected an object, found a number";
-    QTest::newRow("deep inside")          << QByteArray(R"("inner": [{"width": 1, "title": "", "at": {"corner": [0, 0]}, "outline": []}, {"width": false}])") << "inner[1].width: expected a number, found true or false";
+    row("text for a number", R"("width": "9")", "width: expected a number, found a text");
+    row("null for a number", R"("scale": null)", "scale: expected a number, found null");
+    row("number out of range", R"("width": 1000.5)", "width: 1000.5 is not between 0.1 and 1000");
+    row("integer beyond int", R"("copies": 4294967297)", "copies: 4294967297 is not between 1 and 5");
+    row("fraction of an integer", R"("copies": 1.5)", "copies: 1.5 is not a whole number");
+    row("number for a flag", R"("landscape": 1)", "landscape: expected true or false, found a number");
+    row("unknown choice, no escapes shown", R"("side": "up\u001b%1")", "side: “up\uFFFD%1” is not one of left, right");
+    row("list for a text", R"("title": [])", "title: expected a text, found a list");
+    row("number among texts", R"("tags": ["a", 1])", "tags[1]: expected a text, found a number");
+    row("required object", R"("at": {})", "at.corner: is missing");
+    row("list for an object", R"("at": [1])", "at: expected an object, found a list");
+    row("three for a point", R"("at": {"corner": [1, 2, 3]})", "at.corner: expected 2 numbers, found 3");
+    row("coordinate too large", R"("at": {"corner": [1, 11]})", "at.corner[1]: 11 is not between -10 and 10");
+    row("odd coordinates", R"("outline": [1])", "outline: holds an odd count of numbers");
+    row("text as coordinate", R"("outline": [1, "x"])", "outline[1]: expected a number, found a text");
+    row("too long a list", R"("inner": [{}, {}, {}])", "inner: holds 3 entries; at most 2");
+    row("number in a list", R"("inner": [7])", "inner[0]: expected an object, found a number");
+    row("deep inside", R"("inner": [{"width": 1, "title": "", "at": {"corner": [0, 0]}, "outline": []}, {"width": false}])", "inner[1].width: expected a number, found true or false");
     // clang-format on
   }
   void aProblemIsNamedWithItsPath() {
-    QFETCH(QByteArray, field);
+    auto const [field, error] = fetched<QByteArray, QString>();
     QJsonParseError parsed;
     QJsonObject object = written(Sheet());
     QJsonObject const wrong = QJsonDocument::fromJson("{" + field + "}", &parsed).object();
@@ -199,7 +197,7 @@ private slots:
     Sheet read;
     describe(archive, read);
     QVERIFY(!archive.ok());
-    QTEST(archive.error(), "error");
+    QCOMPARE(archive.error(), error);
   }
 
   void nothingChangesAfterTheFirstProblem() {
@@ -233,18 +231,16 @@ private slots:
   }
 
   void whatCouldNotBeReadAgainIsAProblemWhenWriting_data() {
-    QTest::addColumn<int>("fault");
-    QTest::addColumn<QString>("path");
-    QTest::newRow("not a number") << 0 << "width";
-    QTest::newRow("a default field that is not a number") << 1 << "scale";
-    QTest::newRow("an integer out of range") << 2 << "copies";
-    QTest::newRow("a choice without a name") << 3 << "side";
-    QTest::newRow("an infinite coordinate") << 4 << "outline[1]";
-    QTest::newRow("more entries than are read") << 5 << "inner";
+    Rows<int, QString> row;
+    row("not a number", 0, "width");
+    row("a default field that is not a number", 1, "scale");
+    row("an integer out of range", 2, "copies");
+    row("a choice without a name", 3, "side");
+    row("an infinite coordinate", 4, "outline[1]");
+    row("more entries than are read", 5, "inner");
   }
   void whatCouldNotBeReadAgainIsAProblemWhenWriting() {
-    QFETCH(int, fault);
-    QFETCH(QString, path);
+    auto const [fault, path] = fetched<int, QString>();
     Sheet sheet;
     if (fault == 0) sheet.width = noNumber;
     if (fault == 1) sheet.scale = noNumber;
@@ -267,12 +263,12 @@ private slots:
   }
 
   void aFileWithoutRoomKeepsItsOldContent_data() {
-    QTest::addColumn<int>("size");
-    QTest::newRow("a small one, buffered until the flush") << 10000;
-    QTest::newRow("a large one, of which a beginning fits") << 1000000;
+    Rows<int> row;
+    row("a small one, buffered until the flush", 10000);
+    row("a large one, of which a beginning fits", 1000000);
   }
   void aFileWithoutRoomKeepsItsOldContent() {
-    QFETCH(int, size);
+    auto const [size] = fetched<int>();
     QTemporaryDir const folder;
     QString const path = folder.filePath("page.kdx");
     QCOMPARE(FileSaver::save(path, "good"), QString());
@@ -287,16 +283,12 @@ private slots:
   }
 
   void aPlaceThatTakesNoFileIsExplained_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("cause");
-    QTest::newRow("no such folder") << "absent/page.kdx"
-                                    << "its folder does not exist";
-    QTest::newRow("a folder") << ""
-                              << "it is a folder";
+    Rows<QString, QString> row;
+    row("no such folder", "absent/page.kdx", "its folder does not exist");
+    row("a folder", "", "it is a folder");
   }
   void aPlaceThatTakesNoFileIsExplained() {
-    QFETCH(QString, name);
-    QFETCH(QString, cause);
+    auto const [name, cause] = fetched<QString, QString>();
     QTemporaryDir const folder;
     QString const path = name.isEmpty() ? folder.path() : folder.filePath(name);
     QString const problem = FileSaver::save(path, "x");

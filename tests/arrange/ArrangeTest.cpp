@@ -1,4 +1,5 @@
 #include "LayoutHook.h"
+#include "Rows.h"
 #include "arrange/AlignToMarginsElement.h"
 #include "arrange/Alignment.h"
 #include "arrange/DataFrameLock.h"
@@ -77,9 +78,6 @@ QString text(Rectangle const& r) { return QStringLiteral("(%1, %2, %3, %4)").arg
 
 }  // namespace
 
-Q_DECLARE_METATYPE(Rectangles)
-Q_DECLARE_METATYPE(MakeCommand)
-
 // On a page of 20 × 28 cm, which is its own margin rectangle.
 class ArrangeTest : public QObject {
   Q_OBJECT
@@ -92,73 +90,56 @@ private slots:
   }
 
   void elementsGoWhereTheCommandPutsThem_data() {
-    QTest::addColumn<MakeCommand>("command");
-    QTest::addColumn<bool>("toMargins");
-    QTest::addColumn<Rectangles>("before");  // selected in this order
-    QTest::addColumn<Rectangles>("after");
+    // before: selected in this order
+    Rows<MakeCommand, bool, Rectangles, Rectangles> row;
     Rectangles const three = {{5, 1, 7, 2}, {2, 4, 4, 8}, {9, 10, 12, 13}};
 
-    QTest::newRow("left edges follow the first selected") << maker<Plugin::LeftAlignmentElement>() << false << three
-                                                          << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {5, 10, 8, 13}};
-    QTest::newRow("right edges follow the first selected") << maker<Plugin::RightAlignmentElement>() << false << three
-                                                           << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {4, 10, 7, 13}};
-    QTest::newRow("top edges are the larger y") << maker<Plugin::TopAlignmentElement>() << false << three
-                                                << Rectangles{{5, 1, 7, 2}, {2, -2, 4, 2}, {9, -1, 12, 2}};
-    QTest::newRow("bottom edges are the smaller y") << maker<Plugin::BottomAlignmentElement>() << false << three
-                                                    << Rectangles{{5, 1, 7, 2}, {2, 1, 4, 5}, {9, 1, 12, 4}};
-    QTest::newRow("centres share an x") << maker<Plugin::CenterAlignmentElement>() << false << three
-                                        << Rectangles{{5, 1, 7, 2}, {5, 4, 7, 8}, {4.5, 10, 7.5, 13}};
-    QTest::newRow("middles share a y") << maker<Plugin::VerticalCenterAlignmentElement>() << false << three
-                                       << Rectangles{{5, 1, 7, 2}, {2, -0.5, 4, 3.5}, {9, 0, 12, 3}};
-    QTest::newRow("with margins the first moves too") << maker<Plugin::LeftAlignmentElement>() << true << three
-                                                      << Rectangles{{0, 1, 2, 2}, {0, 4, 2, 8}, {0, 10, 3, 13}};
-    QTest::newRow("with margins one is enough")
-        << maker<Plugin::TopAlignmentElement>() << true << Rectangles{{5, 1, 7, 2}} << Rectangles{{5, 27, 7, 28}};
+    row("left edges follow the first selected", maker<Plugin::LeftAlignmentElement>(), false, three,
+        {{5, 1, 7, 2}, {5, 4, 7, 8}, {5, 10, 8, 13}});
+    row("right edges follow the first selected", maker<Plugin::RightAlignmentElement>(), false, three,
+        {{5, 1, 7, 2}, {5, 4, 7, 8}, {4, 10, 7, 13}});
+    row("top edges are the larger y", maker<Plugin::TopAlignmentElement>(), false, three,
+        {{5, 1, 7, 2}, {2, -2, 4, 2}, {9, -1, 12, 2}});
+    row("bottom edges are the smaller y", maker<Plugin::BottomAlignmentElement>(), false, three,
+        {{5, 1, 7, 2}, {2, 1, 4, 5}, {9, 1, 12, 4}});
+    row("centres share an x", maker<Plugin::CenterAlignmentElement>(), false, three,
+        {{5, 1, 7, 2}, {5, 4, 7, 8}, {4.5, 10, 7.5, 13}});
+    row("middles share a y", maker<Plugin::VerticalCenterAlignmentElement>(), false, three,
+        {{5, 1, 7, 2}, {2, -0.5, 4, 3.5}, {9, 0, 12, 3}});
+    row("with margins the first moves too", maker<Plugin::LeftAlignmentElement>(), true, three,
+        {{0, 1, 2, 2}, {0, 4, 2, 8}, {0, 10, 3, 13}});
+    row("with margins one is enough", maker<Plugin::TopAlignmentElement>(), true, {{5, 1, 7, 2}}, {{5, 27, 7, 28}});
 
-    QTest::newRow("gaps become equal") << maker<Plugin::DistributeHorizontallyElements>() << false
-                                       << Rectangles{{8, 0, 10, 1}, {30, 0, 34, 1}, {12, 0, 15, 1}}
-                                       << Rectangles{{8, 0, 10, 1}, {30, 0, 34, 1}, {18.5, 0, 21.5, 1}};
-    QTest::newRow("four in a column, in the order of their lower edges")
-        << maker<Plugin::DistributeVerticallyElements>() << false
-        << Rectangles{{0, 0, 1, 1}, {0, 4, 1, 5}, {0, 2, 1, 4}, {0, 10, 1, 12}}
-        << Rectangles{{0, 0, 1, 1}, {0, 7, 1, 8}, {0, 3, 1, 5}, {0, 10, 1, 12}};
-    QTest::newRow("too little room makes them overlap alike")
-        << maker<Plugin::DistributeHorizontallyElements>() << false
-        << Rectangles{{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}} << Rectangles{{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}};
-    QTest::newRow("all on one centre chain after the first")
-        << maker<Plugin::DistributeHorizontallyElements>() << false
-        << Rectangles{{4, 0, 6, 1}, {3, 0, 7, 1}, {4.5, 0, 5.5, 1}}
-        << Rectangles{{4, 0, 6, 1}, {7.0 / 3, 0, 19.0 / 3, 1}, {11.0 / 3, 0, 14.0 / 3, 1}};
+    row("gaps become equal", maker<Plugin::DistributeHorizontallyElements>(), false,
+        {{8, 0, 10, 1}, {30, 0, 34, 1}, {12, 0, 15, 1}}, {{8, 0, 10, 1}, {30, 0, 34, 1}, {18.5, 0, 21.5, 1}});
+    row("four in a column, in the order of their lower edges", maker<Plugin::DistributeVerticallyElements>(), false,
+        {{0, 0, 1, 1}, {0, 4, 1, 5}, {0, 2, 1, 4}, {0, 10, 1, 12}},
+        {{0, 0, 1, 1}, {0, 7, 1, 8}, {0, 3, 1, 5}, {0, 10, 1, 12}});
+    row("too little room makes them overlap alike", maker<Plugin::DistributeHorizontallyElements>(), false,
+        {{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}}, {{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}});
+    row("all on one centre chain after the first", maker<Plugin::DistributeHorizontallyElements>(), false,
+        {{4, 0, 6, 1}, {3, 0, 7, 1}, {4.5, 0, 5.5, 1}},
+        {{4, 0, 6, 1}, {7.0 / 3, 0, 19.0 / 3, 1}, {11.0 / 3, 0, 14.0 / 3, 1}});
 
-    QTest::newRow("heights follow the last selected")
-        << maker<Plugin::MakeSameHeightElements>() << false << Rectangles{{0, 0, 1, 2}, {3, 3, 4, 7}, {5, 0, 6, 8}}
-        << Rectangles{{0, 0, 1, 8}, {3, 3, 4, 11}, {5, 0, 6, 8}};
-    QTest::newRow("widths follow the last selected")
-        << maker<Plugin::MakeSameWidthElements>() << false << Rectangles{{0, 0, 4, 2}, {3, 3, 5, 7}}
-        << Rectangles{{0, 0, 2, 2}, {3, 3, 5, 7}};
-    QTest::newRow("sizes follow the last selected")
-        << maker<Plugin::MakeSameSizeElements>() << false << Rectangles{{1, 1, 4, 2}, {3, 3, 5, 7}}
-        << Rectangles{{1, 1, 3, 5}, {3, 3, 5, 7}};
-    QTest::newRow("an element without width keeps none")
-        << maker<Plugin::MakeSameSizeElements>() << false << Rectangles{{1, 1, 1, 2}, {3, 3, 5, 7}}
-        << Rectangles{{1, 1, 1, 5}, {3, 3, 5, 7}};
+    row("heights follow the last selected", maker<Plugin::MakeSameHeightElements>(), false,
+        {{0, 0, 1, 2}, {3, 3, 4, 7}, {5, 0, 6, 8}}, {{0, 0, 1, 8}, {3, 3, 4, 11}, {5, 0, 6, 8}});
+    row("widths follow the last selected", maker<Plugin::MakeSameWidthElements>(), false, {{0, 0, 4, 2}, {3, 3, 5, 7}},
+        {{0, 0, 2, 2}, {3, 3, 5, 7}});
+    row("sizes follow the last selected", maker<Plugin::MakeSameSizeElements>(), false, {{1, 1, 4, 2}, {3, 3, 5, 7}},
+        {{1, 1, 3, 5}, {3, 3, 5, 7}});
+    row("an element without width keeps none", maker<Plugin::MakeSameSizeElements>(), false,
+        {{1, 1, 1, 2}, {3, 3, 5, 7}}, {{1, 1, 1, 5}, {3, 3, 5, 7}});
 
-    QTest::newRow("fits both extents") << maker<Plugin::FittoMarginsElements>() << false << Rectangles{{2, 3, 6, 5}}
-                                       << Rectangles{{0, 0, 20, 28}};
-    QTest::newRow("fits the width alone")
-        << maker<Plugin::FitWidthtoMarginsElements>() << true << Rectangles{{2, 3, 6, 5}} << Rectangles{{0, 3, 20, 5}};
-    QTest::newRow("fits the height alone") << maker<Plugin::FitHeighttoMarginsElements>() << false
-                                           << Rectangles{{2, 3, 6, 5}} << Rectangles{{2, 0, 6, 28}};
-    QTest::newRow("without height it goes to the lower edge")
-        << maker<Plugin::FitHeighttoMarginsElements>() << false << Rectangles{{2, 3, 6, 3}} << Rectangles{{2, 0, 6, 0}};
+    row("fits both extents", maker<Plugin::FittoMarginsElements>(), false, {{2, 3, 6, 5}}, {{0, 0, 20, 28}});
+    row("fits the width alone", maker<Plugin::FitWidthtoMarginsElements>(), true, {{2, 3, 6, 5}}, {{0, 3, 20, 5}});
+    row("fits the height alone", maker<Plugin::FitHeighttoMarginsElements>(), false, {{2, 3, 6, 5}}, {{2, 0, 6, 28}});
+    row("without height it goes to the lower edge", maker<Plugin::FitHeighttoMarginsElements>(), false, {{2, 3, 6, 3}},
+        {{2, 0, 6, 0}});
   }
 
   // And one undo brings everything back, one redo puts it there again.
   void elementsGoWhereTheCommandPutsThem() {
-    QFETCH(MakeCommand, command);
-    QFETCH(bool, toMargins);
-    QFETCH(Rectangles, before);
-    QFETCH(Rectangles, after);
+    auto const [command, toMargins, before, after] = fetched<MakeCommand, bool, Rectangles, Rectangles>();
     hook_->layout->SetAlignToMargins(toMargins);
     for (Rectangle const& r : before) addSelected(rectangle(r));
     auto const original = container_->GetElements();
@@ -194,30 +175,24 @@ private slots:
   }
 
   void enabling_data() {
-    QTest::addColumn<MakeCommand>("command");
-    QTest::addColumn<int>("selected");
-    QTest::addColumn<bool>("toMargins");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("alignment wants two") << maker<Plugin::LeftAlignmentElement>() << 1 << false << false;
-    QTest::newRow("alignment has two") << maker<Plugin::LeftAlignmentElement>() << 2 << false << true;
-    QTest::newRow("alignment to margins wants one") << maker<Plugin::LeftAlignmentElement>() << 1 << true << true;
-    QTest::newRow("alignment to margins has none") << maker<Plugin::LeftAlignmentElement>() << 0 << true << false;
-    QTest::newRow("distribution wants three") << maker<Plugin::DistributeVerticallyElements>() << 2 << false << false;
-    QTest::newRow("distribution has three") << maker<Plugin::DistributeVerticallyElements>() << 3 << false << true;
-    QTest::newRow("same size wants two") << maker<Plugin::MakeSameSizeElements>() << 1 << false << false;
-    QTest::newRow("fit wants one") << maker<Plugin::FittoMarginsElements>() << 0 << false << false;
-    QTest::newRow("fit has one") << maker<Plugin::FittoMarginsElements>() << 1 << false << true;
-    QTest::newRow("stacking wants one") << maker<Plugin::SendToBackElements>() << 0 << false << false;
-    QTest::newRow("stacking has one") << maker<Plugin::SendToBackElements>() << 1 << false << true;
-    QTest::newRow("the toggle wants one") << maker<Plugin::AlignToMarginsElement>() << 0 << true << false;
-    QTest::newRow("locking wants none") << maker<LockDataFrame>() << 0 << false << true;
+    Rows<MakeCommand, int, bool, bool> row;
+    row("alignment wants two", maker<Plugin::LeftAlignmentElement>(), 1, false, false);
+    row("alignment has two", maker<Plugin::LeftAlignmentElement>(), 2, false, true);
+    row("alignment to margins wants one", maker<Plugin::LeftAlignmentElement>(), 1, true, true);
+    row("alignment to margins has none", maker<Plugin::LeftAlignmentElement>(), 0, true, false);
+    row("distribution wants three", maker<Plugin::DistributeVerticallyElements>(), 2, false, false);
+    row("distribution has three", maker<Plugin::DistributeVerticallyElements>(), 3, false, true);
+    row("same size wants two", maker<Plugin::MakeSameSizeElements>(), 1, false, false);
+    row("fit wants one", maker<Plugin::FittoMarginsElements>(), 0, false, false);
+    row("fit has one", maker<Plugin::FittoMarginsElements>(), 1, false, true);
+    row("stacking wants one", maker<Plugin::SendToBackElements>(), 0, false, false);
+    row("stacking has one", maker<Plugin::SendToBackElements>(), 1, false, true);
+    row("the toggle wants one", maker<Plugin::AlignToMarginsElement>(), 0, true, false);
+    row("locking wants none", maker<LockDataFrame>(), 0, false, true);
   }
 
   void enabling() {
-    QFETCH(MakeCommand, command);
-    QFETCH(int, selected);
-    QFETCH(bool, toMargins);
-    QFETCH(bool, enabled);
+    auto const [command, selected, toMargins, enabled] = fetched<MakeCommand, int, bool, bool>();
     hook_->layout->SetAlignToMargins(toMargins);
     for (int i = 0; i < selected; ++i) addSelected(rectangle({0, 0, 1, 1}));
     auto const bound = command();
@@ -274,17 +249,16 @@ private slots:
   }
 
   void stackingOrders_data() {
-    QTest::addColumn<MakeCommand>("command");
-    QTest::addColumn<QVector<int>>("order");  // of elements 0 to 4, with 1 and 2 selected
-    QTest::newRow("forward") << maker<Plugin::BringForwardElements>() << QVector<int>{0, 3, 1, 2, 4};
-    QTest::newRow("to the front") << maker<Plugin::BringToFrontElements>() << QVector<int>{0, 3, 4, 1, 2};
-    QTest::newRow("backward") << maker<Plugin::SendBackwardElements>() << QVector<int>{1, 2, 0, 3, 4};
-    QTest::newRow("to the back") << maker<Plugin::SendToBackElements>() << QVector<int>{1, 2, 0, 3, 4};
+    // order: of elements 0 to 4, with 1 and 2 selected
+    Rows<MakeCommand, QVector<int>> row;
+    row("forward", maker<Plugin::BringForwardElements>(), {0, 3, 1, 2, 4});
+    row("to the front", maker<Plugin::BringToFrontElements>(), {0, 3, 4, 1, 2});
+    row("backward", maker<Plugin::SendBackwardElements>(), {1, 2, 0, 3, 4});
+    row("to the back", maker<Plugin::SendToBackElements>(), {1, 2, 0, 3, 4});
   }
 
   void stackingOrders() {
-    QFETCH(MakeCommand, command);
-    QFETCH(QVector<int>, order);
+    auto const [command, order] = fetched<MakeCommand, QVector<int>>();
     for (int i = 0; i < 5; ++i) container_->AddElement(rectangle({0, 0, 1, 1}));
     auto const all = container_->GetElements();
     container_->SelectElement(all[2]);

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/desktop/DialogAnswers.h"
 
 #include <QCheckBox>
@@ -64,91 +66,76 @@ class DialogAnswersTest : public QObject {
   Q_OBJECT
 
 private slots:
-  void answersReachTheWidgetsAsAPersonsDo();
-  void aMessageBoxBehindAButtonTakesTheNextAnswer();
-  void cancelRejectsAndAcceptLeavesAllAsItIs();
-  void whatIsWrongIsNamed_data();
-  void whatIsWrongIsNamed();
-  void aFileDialogTakesAPath();
+  void answersReachTheWidgetsAsAPersonsDo() {
+    DialogAnswers answers;
+    SampleDialog dialog;
+    for (auto const& [widget, value] :
+         {std::make_pair("lineEdit_DPI", "150"), std::make_pair("checkBox_On", "on"),
+          std::make_pair("radioButton_Portrait", "on"), std::make_pair("comboBox_Form", "a3")})
+      answers.add(answer(widget, value));
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCOMPARE(answers.takeProblem(), QString());
+    QCOMPARE(dialog.dpi->text(), QString("150"));
+    QCOMPARE(dialog.edits, 3);
+    QCOMPARE(dialog.activations, 1);
+    QVERIFY(dialog.isOn->isChecked() && dialog.portrait->isChecked());
+    QCOMPARE(dialog.form->currentText(), QString("A3"));
+  }
+
+  void aMessageBoxBehindAButtonTakesTheNextAnswer() {
+    DialogAnswers answers;
+    SampleDialog dialog;
+    answers.add(answer("pushButton_Ask", "click"));
+    answers.add(answer("button", "No"));
+    answers.add(answer("checkBox_On", "on"));
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCOMPARE(answers.takeProblem(), QString());
+    QCOMPARE(dialog.reply, int(QMessageBox::No));
+    QVERIFY(dialog.isOn->isChecked());
+  }
+
+  void cancelRejectsAndAcceptLeavesAllAsItIs() {
+    DialogAnswers answers;
+    SampleDialog cancelled, accepted;
+    answers.add(answer("checkBox_On", "on"));
+    answers.add({Kind::Cancel, {}, {}});
+    answers.add({Kind::Accept, {}, {}});
+    QCOMPARE(cancelled.exec(), int(QDialog::Rejected));
+    QCOMPARE(accepted.exec(), int(QDialog::Accepted));
+    QCOMPARE(answers.takeProblem(), QString());
+  }
+
+  void whatIsWrongIsNamed_data() {
+    Rows<QString, QString, QString> row;
+    row("a dialog without an answer", "", "", "the dialog \"Sample\" (SampleDialog): nobody answers it; put");
+    row("an answer for another dialog", "comboBox_Other", "1", "the next answer is for comboBox_Other");
+    row("a value that the validator refuses", "lineEdit_DPI", "many", "lineEdit_DPI does not take \"many\"");
+    row("an entry that a list has not", "comboBox_Form", "A9", "comboBox_Form does not take \"A9\"");
+    row("a value that the dialog refuses", "lineEdit_DPI", "13", "it can't be accepted like this");
+    row("a message box without an answer", "pushButton_Ask", "click", "the message box \"Sure\" (\"Really?\")");
+  }
+  void whatIsWrongIsNamed() {
+    auto const [widget, value, problem] = fetched<QString, QString, QString>();
+    DialogAnswers answers;
+    SampleDialog dialog;
+    if (!widget.isEmpty()) answers.add(answer(widget, value));
+    QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+    QString const told = answers.takeProblem();
+    QVERIFY2(told.contains(problem), qPrintable(told));
+    QCOMPARE(answers.takeProblem(), QString());
+  }
+
+  void aFileDialogTakesAPath() {
+    DialogAnswers answers;
+    QTemporaryDir folder;
+    QString const path = folder.filePath("out.png");
+    answers.add(answer("file", path));
+    QCOMPARE(
+        QFileDialog::getSaveFileName(nullptr, "Save", QString(), QString(), nullptr, QFileDialog::DontUseNativeDialog),
+        path);
+    QCOMPARE(answers.takeProblem(), QString());
+  }
 };
-
-void DialogAnswersTest::answersReachTheWidgetsAsAPersonsDo() {
-  DialogAnswers answers;
-  SampleDialog dialog;
-  for (auto const& [widget, value] :
-       {std::make_pair("lineEdit_DPI", "150"), std::make_pair("checkBox_On", "on"),
-        std::make_pair("radioButton_Portrait", "on"), std::make_pair("comboBox_Form", "a3")})
-    answers.add(answer(widget, value));
-  QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-  QCOMPARE(answers.takeProblem(), QString());
-  QCOMPARE(dialog.dpi->text(), QString("150"));
-  QCOMPARE(dialog.edits, 3);
-  QCOMPARE(dialog.activations, 1);
-  QVERIFY(dialog.isOn->isChecked() && dialog.portrait->isChecked());
-  QCOMPARE(dialog.form->currentText(), QString("A3"));
-}
-
-void DialogAnswersTest::aMessageBoxBehindAButtonTakesTheNextAnswer() {
-  DialogAnswers answers;
-  SampleDialog dialog;
-  answers.add(answer("pushButton_Ask", "click"));
-  answers.add(answer("button", "No"));
-  answers.add(answer("checkBox_On", "on"));
-  QCOMPARE(dialog.exec(), int(QDialog::Accepted));
-  QCOMPARE(answers.takeProblem(), QString());
-  QCOMPARE(dialog.reply, int(QMessageBox::No));
-  QVERIFY(dialog.isOn->isChecked());
-}
-
-void DialogAnswersTest::cancelRejectsAndAcceptLeavesAllAsItIs() {
-  DialogAnswers answers;
-  SampleDialog cancelled, accepted;
-  answers.add(answer("checkBox_On", "on"));
-  answers.add({Kind::Cancel, {}, {}});
-  answers.add({Kind::Accept, {}, {}});
-  QCOMPARE(cancelled.exec(), int(QDialog::Rejected));
-  QCOMPARE(accepted.exec(), int(QDialog::Accepted));
-  QCOMPARE(answers.takeProblem(), QString());
-}
-
-void DialogAnswersTest::whatIsWrongIsNamed_data() {
-  QTest::addColumn<QString>("widget");
-  QTest::addColumn<QString>("value");
-  QTest::addColumn<QString>("problem");
-  auto const row = [](char const* claim, char const* widget, char const* value, char const* problem) {
-    QTest::newRow(claim) << QString(widget) << QString(value) << QString(problem);
-  };
-  row("a dialog without an answer", "", "", "the dialog \"Sample\" (SampleDialog): nobody answers it; put");
-  row("an answer for another dialog", "comboBox_Other", "1", "the next answer is for comboBox_Other");
-  row("a value that the validator refuses", "lineEdit_DPI", "many", "lineEdit_DPI does not take \"many\"");
-  row("an entry that a list has not", "comboBox_Form", "A9", "comboBox_Form does not take \"A9\"");
-  row("a value that the dialog refuses", "lineEdit_DPI", "13", "it can't be accepted like this");
-  row("a message box without an answer", "pushButton_Ask", "click", "the message box \"Sure\" (\"Really?\")");
-}
-
-void DialogAnswersTest::whatIsWrongIsNamed() {
-  QFETCH(QString, widget);
-  QFETCH(QString, value);
-  QFETCH(QString, problem);
-  DialogAnswers answers;
-  SampleDialog dialog;
-  if (!widget.isEmpty()) answers.add(answer(widget, value));
-  QCOMPARE(dialog.exec(), int(QDialog::Rejected));
-  QString const told = answers.takeProblem();
-  QVERIFY2(told.contains(problem), qPrintable(told));
-  QCOMPARE(answers.takeProblem(), QString());
-}
-
-void DialogAnswersTest::aFileDialogTakesAPath() {
-  DialogAnswers answers;
-  QTemporaryDir folder;
-  QString const path = folder.filePath("out.png");
-  answers.add(answer("file", path));
-  QCOMPARE(
-      QFileDialog::getSaveFileName(nullptr, "Save", QString(), QString(), nullptr, QFileDialog::DontUseNativeDialog),
-      path);
-  QCOMPARE(answers.takeProblem(), QString());
-}
 
 QTEST_MAIN(DialogAnswersTest)
 #include "tst_dialog_answers.moc"

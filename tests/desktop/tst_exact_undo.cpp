@@ -48,8 +48,54 @@ class ExactUndoTest : public QObject {
 
 private slots:
   void initTestCase() { prepareApplication(); }
-  void undoingEverythingGivesTheStartAndRedoingTheEnd();
-  void eachGestureIsOneNamedStep();
+  void undoingEverythingGivesTheStartAndRedoingTheEnd() {
+    int steps = 0;
+    for (int i = 0; i < sequences; ++i) {
+      WorkbenchPage page;
+      QCOMPARE(page.bench.plugin().state(), PluginLibrary::State::Loaded);
+      fill(page);
+      auto const history = page.bench.session().document().GetOperationStack();
+      QByteArray const start = page.bench.session().document().GetText();
+      Apart const apartAtStart = apart(page);
+      for (int step = 0; step < stepsOfASequence; ++step) doSomething(page);
+      while (history->CanRedo()) history->Redo();
+      QByteArray const end = page.bench.session().document().GetText();
+      Apart const apartAtEnd = apart(page);
+
+      for (; history->CanUndo(); ++steps) history->Undo();
+      QCOMPARE(page.layout()->GetAlignToMargins(), apartAtEnd.alignsToMargins);
+      put(page, apartAtStart);
+      QVERIFY2(page.bench.session().document().GetText() == start, qPrintable(QString("sequence %1").arg(i)));
+
+      while (history->CanRedo()) history->Redo();
+      put(page, apartAtEnd);
+      QVERIFY2(page.bench.session().document().GetText() == end, qPrintable(QString("sequence %1").arg(i)));
+    }
+    QVERIFY2(steps > sequences * 2, qPrintable(QString::number(steps)));  // or the steps did nothing
+  }
+
+  void eachGestureIsOneNamedStep() {
+    WorkbenchPage page;
+    auto const box = page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
+    auto const history = page.bench.session().document().GetOperationStack();
+    auto const lastStep = [&] { return history->GetUndoName(); };
+
+    page.drag(page.pixel(6, 5), page.pixel(7, 6));
+    QCOMPARE(lastStep(), QString("Move the selected elements"));
+    QVERIFY(page.place(*box).left() > 4.9);
+    page.drag(page.pixel(9, 8), page.pixel(10, 8));
+    QCOMPARE(lastStep(), QString("Resize the selected elements"));
+    page.key(Qt::Key_Right, Qt::ShiftModifier);
+    QCOMPARE(lastStep(), QString("Nudge the selected elements"));
+    page.key(Qt::Key_Delete);  // a shortcut of the window, nothing in the view itself
+    QVERIFY(page.run("Host_Delete"));
+    QCOMPARE(lastStep(), QString("Delete the selected elements"));
+    QVERIFY(!page.now(*box));
+
+    for (int i = 0; i < 4; ++i) history->Undo();
+    QVERIFY(!history->CanUndo());
+    QCOMPARE(page.place(*box), QRectF(4, 4, 4, 3));
+  }
 
 private:
   // What the history leaves alone.
@@ -59,122 +105,68 @@ private:
   };
 
   int upTo(int most) { return std::uniform_int_distribution<int>(0, most)(random_); }
-  static void fill(WorkbenchPage& page);
-  void doSomething(WorkbenchPage& page);
-  void useTheMouse(WorkbenchPage& page);
-  static Apart apart(WorkbenchPage& page);
-  static void put(WorkbenchPage& page, Apart const& values);
+  static void fill(WorkbenchPage& page) {
+    page.add<MapFrameElement>(1.13, 14.7, 11.9, 27.03);
+    page.add<MapFrameElement>(12.4, 15.1, 19.77, 22.6);
+    page.add<SysCarto::RectangleElement>(2.1, 2.3, 6.6, 5.9);
+    page.add<SysCarto::RectangleElement>(8.0 / 3, 7.0, 9.1, 11.0 / 3);
+    page.add<SysCarto::EllipseElement>(12.2, 3.7, 17.3, 8.1);
+    page.add<SysCarto::MarkerElement>(15.0, 11.0, 15.0, 11.0);
+    auto const text = page.add<SysCarto::TextElement>(5.0, 9.5, 5.0, 9.5);
+    text->setText("A title");
+    auto const group = SysUtility::make<SysCarto::GroupElement>();
+    for (double x : {10.0, 11.1}) {
+      auto const member = SysUtility::make<SysCarto::RectangleElement>();
+      member->SetGeometry(SysUtility::make<SysGeometry::Envelope>(x, 9.0, x + 0.7, 10.3));
+      group->AddElement(member);
+    }
+    page.container().AddElement(group);
+  }
+
+  void doSomething(WorkbenchPage& page) {
+    switch (upTo(5)) {
+      case 0:
+      case 1: return useTheMouse(page);
+      case 2:
+        return page.key(static_cast<Qt::Key>(Qt::Key_Left + upTo(3)), upTo(1) ? Qt::ShiftModifier : Qt::NoModifier);
+      case 3: page.run("Host_SelectAll"); break;
+      default: break;
+    }
+    page.run(commands.at(upTo(commands.size() - 1)));
+  }
+
+  void useTheMouse(WorkbenchPage& page) {
+    QPoint const from(upTo(799), upTo(599)), to(upTo(799), upTo(599));
+    auto const shift = upTo(2) == 0 ? Qt::ShiftModifier : Qt::NoModifier;
+    auto const elements = page.container().GetElements();
+    if (upTo(3) == 0 || elements.isEmpty()) return page.drag(from, to, shift);
+    auto const element = elements.at(upTo(elements.size() - 1));
+    QRectF const place = page.place(*element);
+    QPoint const grip = upTo(1) == 0 ? page.pixel(place.center().x(), place.center().y())
+                                     : page.pixel(place.right(), place.bottom());  // the upper right handle
+    if (upTo(1) == 0)
+      page.click(grip, shift);
+    else
+      page.drag(grip, grip + QPoint(upTo(80) - 40, upTo(80) - 40), shift);
+  }
+
+  static Apart apart(WorkbenchPage& page) {
+    Apart values{page.layout()->GetAlignToMargins(), {}};
+    for (auto const& element : page.container().GetElements())
+      if (auto const frame = SysUtility::ptr_cast<MapFrameElement>(element))
+        values.locks[frame->GetHandle()] = frame->IsLocked();
+    return values;
+  }
+
+  static void put(WorkbenchPage& page, Apart const& values) {
+    page.layout()->SetAlignToMargins(values.alignsToMargins);
+    for (auto const& element : page.container().GetElements())
+      if (auto const frame = SysUtility::ptr_cast<MapFrameElement>(element))
+        frame->SetLocked(values.locks.value(frame->GetHandle(), frame->IsLocked()));
+  }
 
   std::mt19937 random_{20261125};
 };
-
-void ExactUndoTest::fill(WorkbenchPage& page) {
-  page.add<MapFrameElement>(1.13, 14.7, 11.9, 27.03);
-  page.add<MapFrameElement>(12.4, 15.1, 19.77, 22.6);
-  page.add<SysCarto::RectangleElement>(2.1, 2.3, 6.6, 5.9);
-  page.add<SysCarto::RectangleElement>(8.0 / 3, 7.0, 9.1, 11.0 / 3);
-  page.add<SysCarto::EllipseElement>(12.2, 3.7, 17.3, 8.1);
-  page.add<SysCarto::MarkerElement>(15.0, 11.0, 15.0, 11.0);
-  auto const text = page.add<SysCarto::TextElement>(5.0, 9.5, 5.0, 9.5);
-  text->setText("A title");
-  auto const group = SysUtility::make<SysCarto::GroupElement>();
-  for (double x : {10.0, 11.1}) {
-    auto const member = SysUtility::make<SysCarto::RectangleElement>();
-    member->SetGeometry(SysUtility::make<SysGeometry::Envelope>(x, 9.0, x + 0.7, 10.3));
-    group->AddElement(member);
-  }
-  page.container().AddElement(group);
-}
-
-void ExactUndoTest::useTheMouse(WorkbenchPage& page) {
-  QPoint const from(upTo(799), upTo(599)), to(upTo(799), upTo(599));
-  auto const shift = upTo(2) == 0 ? Qt::ShiftModifier : Qt::NoModifier;
-  auto const elements = page.container().GetElements();
-  if (upTo(3) == 0 || elements.isEmpty()) return page.drag(from, to, shift);
-  auto const element = elements.at(upTo(elements.size() - 1));
-  QRectF const place = page.place(*element);
-  QPoint const grip = upTo(1) == 0 ? page.pixel(place.center().x(), place.center().y())
-                                   : page.pixel(place.right(), place.bottom());  // the upper right handle
-  if (upTo(1) == 0)
-    page.click(grip, shift);
-  else
-    page.drag(grip, grip + QPoint(upTo(80) - 40, upTo(80) - 40), shift);
-}
-
-void ExactUndoTest::doSomething(WorkbenchPage& page) {
-  switch (upTo(5)) {
-    case 0:
-    case 1: return useTheMouse(page);
-    case 2: return page.key(static_cast<Qt::Key>(Qt::Key_Left + upTo(3)), upTo(1) ? Qt::ShiftModifier : Qt::NoModifier);
-    case 3: page.run("Host_SelectAll"); break;
-    default: break;
-  }
-  page.run(commands.at(upTo(commands.size() - 1)));
-}
-
-ExactUndoTest::Apart ExactUndoTest::apart(WorkbenchPage& page) {
-  Apart values{page.layout()->GetAlignToMargins(), {}};
-  for (auto const& element : page.container().GetElements())
-    if (auto const frame = SysUtility::ptr_cast<MapFrameElement>(element))
-      values.locks[frame->GetHandle()] = frame->IsLocked();
-  return values;
-}
-
-void ExactUndoTest::put(WorkbenchPage& page, Apart const& values) {
-  page.layout()->SetAlignToMargins(values.alignsToMargins);
-  for (auto const& element : page.container().GetElements())
-    if (auto const frame = SysUtility::ptr_cast<MapFrameElement>(element))
-      frame->SetLocked(values.locks.value(frame->GetHandle(), frame->IsLocked()));
-}
-
-void ExactUndoTest::undoingEverythingGivesTheStartAndRedoingTheEnd() {
-  int steps = 0;
-  for (int i = 0; i < sequences; ++i) {
-    WorkbenchPage page;
-    QCOMPARE(page.bench.plugin().state(), PluginLibrary::State::Loaded);
-    fill(page);
-    auto const history = page.bench.session().document().GetOperationStack();
-    QByteArray const start = page.bench.session().document().GetText();
-    Apart const apartAtStart = apart(page);
-    for (int step = 0; step < stepsOfASequence; ++step) doSomething(page);
-    while (history->CanRedo()) history->Redo();
-    QByteArray const end = page.bench.session().document().GetText();
-    Apart const apartAtEnd = apart(page);
-
-    for (; history->CanUndo(); ++steps) history->Undo();
-    QCOMPARE(page.layout()->GetAlignToMargins(), apartAtEnd.alignsToMargins);
-    put(page, apartAtStart);
-    QVERIFY2(page.bench.session().document().GetText() == start, qPrintable(QString("sequence %1").arg(i)));
-
-    while (history->CanRedo()) history->Redo();
-    put(page, apartAtEnd);
-    QVERIFY2(page.bench.session().document().GetText() == end, qPrintable(QString("sequence %1").arg(i)));
-  }
-  QVERIFY2(steps > sequences * 2, qPrintable(QString::number(steps)));  // or the steps did nothing
-}
-
-void ExactUndoTest::eachGestureIsOneNamedStep() {
-  WorkbenchPage page;
-  auto const box = page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
-  auto const history = page.bench.session().document().GetOperationStack();
-  auto const lastStep = [&] { return history->GetUndoName(); };
-
-  page.drag(page.pixel(6, 5), page.pixel(7, 6));
-  QCOMPARE(lastStep(), QString("Move the selected elements"));
-  QVERIFY(page.place(*box).left() > 4.9);
-  page.drag(page.pixel(9, 8), page.pixel(10, 8));
-  QCOMPARE(lastStep(), QString("Resize the selected elements"));
-  page.key(Qt::Key_Right, Qt::ShiftModifier);
-  QCOMPARE(lastStep(), QString("Nudge the selected elements"));
-  page.key(Qt::Key_Delete);  // a shortcut of the window, nothing in the view itself
-  QVERIFY(page.run("Host_Delete"));
-  QCOMPARE(lastStep(), QString("Delete the selected elements"));
-  QVERIFY(!page.now(*box));
-
-  for (int i = 0; i < 4; ++i) history->Undo();
-  QVERIFY(!history->CanUndo());
-  QCOMPARE(page.place(*box), QRectF(4, 4, 4, 3));
-}
 
 QTEST_MAIN(ExactUndoTest)
 #include "tst_exact_undo.moc"

@@ -1,3 +1,4 @@
+#include "Rows.h"
 #include "desktop/Executable.h"
 
 #include <QImage>
@@ -53,259 +54,214 @@ class ExportSubcommandTest : public QObject {
 
 private slots:
   void initTestCase() { GDALAllRegister(); }
-  void writesTheFormatOfTheSuffix_data();
-  void writesTheFormatOfTheSuffix();
-  void quietPrintsNothing();
-  void followsALinkToTheImage();
-  void aMissingDataSourceIsAnErrorUnlessAllowed();
-  void aDamagedSourceIsAnErrorUnlessAllowed_data();
-  void aDamagedSourceIsAnErrorUnlessAllowed();
-  void aFailureLeavesTheFolderAsItWas_data();
-  void aFailureLeavesTheFolderAsItWas();
-  void aFullDiskLeavesTheOldImage_data();
-  void aFullDiskLeavesTheOldImage();
-  void aReadOnlyFolderKeepsItsImage();
-  void aFileLimitLeavesTheOldImage_data();
-  void aFileLimitLeavesTheOldImage();
-  void anInterruptLeavesTheFolderAsItWas();
+  void writesTheFormatOfTheSuffix_data() {
+    Rows<QString, QString, bool> row;
+    row("png", "a.png", "PNG", false);
+    row("jpg in capitals", "a.JPG", "JPEG", false);
+    row("bmp", "a.bmp", "BMP", false);
+    row("tif", "a.tif", "GTiff", false);
+    row("a jpeg is a TIFF, and the user hears of it", "a.jpeg", "GTiff", true);
+    row("no suffix is a TIFF, and the user hears of it", "a", "GTiff", true);
+  }
+  void writesTheFormatOfTheSuffix() {
+    auto const [name, driver, noted] = fetched<QString, QString, bool>();
+    auto before = contents(folder_.path());
+    Outcome const outcome = run({"export", "page.kdx", name}, folder_.path());
+    QCOMPARE(outcome.err.contains("TIFF"), noted);
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.out, name + '\n');
+
+    std::unique_ptr<GDALDataset> const image(
+        static_cast<GDALDataset*>(GDALOpen(qPrintable(folder_.path(name)), GA_ReadOnly)));
+    QVERIFY(image);
+    QCOMPARE(QString(image->GetDriverName()), driver);
+    QCOMPARE(QSize(image->GetRasterXSize(), image->GetRasterYSize()), QSize(width, height));
+    QVERIFY(QFile::remove(folder_.path(name)));
+    QVERIFY(contents(folder_.path()) == before);
+  }
+
+  void quietPrintsNothing() {
+    Outcome const outcome = run({"export", "page.kdx", "quiet", "--quiet", "--dpi", "50"}, folder_.path());
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(outcome.out + outcome.err, QString());
+    QVERIFY(QFile::remove(folder_.path("quiet")));
+  }
+
+  void followsALinkToTheImage() {
+    QTemporaryDir elsewhere;
+    write(elsewhere.filePath("real.png"), "old");
+    QVERIFY(QFile::link(elsewhere.filePath("real.png"), folder_.path("link.png")));
+    QCOMPARE(run({"export", "page.kdx", "link.png", "--dpi", "50"}, folder_.path()).status, 0);
+    QVERIFY(QFileInfo(folder_.path("link.png")).isSymLink());
+    QVERIFY(!QImage(elsewhere.filePath("real.png")).isNull());
+    QVERIFY(QFile::remove(folder_.path("link.png")));
+  }
+
+  // The sample without its data beside it.
+  void aMissingDataSourceIsAnErrorUnlessAllowed() {
+    QVERIFY(QFile::copy(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx"), folder_.path("lost.kdx")));
+    QStringList const arguments{"export", "lost.kdx", "lost.png", "--dpi", "30"};
+    Outcome const refused = run(arguments, folder_.path());
+    QCOMPARE(refused.status, 1);
+    QVERIFY2(refused.err.contains("world.gpkg") && refused.err.contains("--allow-missing"), qPrintable(refused.err));
+    QVERIFY(!QFile::exists(folder_.path("lost.png")));
+
+    Outcome const allowed = run(arguments + QStringList("--allow-missing"), folder_.path());
+    QCOMPARE(allowed.status, 0);
+    QVERIFY(allowed.err.contains("world.gpkg"));
+    QVERIFY(QFile::remove(folder_.path("lost.png")) && QFile::remove(folder_.path("lost.kdx")));
+  }
+
+  void aDamagedSourceIsAnErrorUnlessAllowed_data() {
+    Rows<QString, QByteArray, QString> row;
+    QByteArray const header(
+        "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\xea\x60\0\0\xea\x60\x8\6\0\0\0\x80\xd2\x75\x42\0\0\0\1IDAT", 41);
+    row("a picture that is not there", "none.png", QByteArray(), "no such picture file");
+    row("a picture that is a text", "text.png", "text", "neither PNG nor JPEG nor SVG");
+    row("a picture of 60,000 pixels a side", "bomb.png", header, "make it smaller");
+    row("a drawing that refers to another file", "far.svg",
+        "<svg xmlns='http://www.w3.org/2000/svg'><image href='file:///etc/a.png'/></svg>", "the SVG refers to");
+    QByteArray const whole =
+        contents(PLOTVANE_SOURCE_DIR "/samples/data").value(PLOTVANE_SOURCE_DIR "/samples/data/world.gpkg");
+    row("data that end early", "half.gpkg", whole.left(whole.size() / 2), "half.gpkg");
+  }
+  void aDamagedSourceIsAnErrorUnlessAllowed() {
+    auto const [file, content, complaint] = fetched<QString, QByteArray, QString>();
+    if (!content.isEmpty()) write(folder_.path(file), content);
+    QJsonObject const picture{{"type", "picture"}, {"path", file}, {"rectangle", QJsonArray{1, 1, 5, 5}}};
+    QJsonObject const symbol{{"type", "simple"}, {"symbol", QJsonObject{{"type", "simpleFill"}}}};
+    QJsonObject const layer{
+        {"type", "feature"}, {"name", "A"}, {"source", QJsonObject{{"file", file}}}, {"renderer", symbol}};
+    QJsonObject const map{{"name", "M"}, {"bounds", QJsonArray{0, 0, 9, 9}}, {"layers", QJsonArray{layer}}};
+    if (file.endsWith(".gpkg"))
+      folder_.writeVariant("damaged.kdx", {{"maps", QJsonArray{map}}});
+    else
+      folder_.writeVariant("damaged.kdx", {{"elements", QJsonArray{picture}}, {"maps", QJsonArray()}});
+
+    auto const before = contents(folder_.path());
+    QStringList const arguments{"export", "damaged.kdx", "damaged.png", "--dpi", "30"};
+    Outcome const refused = run(arguments, folder_.path());
+    QCOMPARE(refused.status, 1);
+    QVERIFY2(refused.err.contains(file) && refused.err.contains(complaint), qPrintable(refused.err));
+    QVERIFY(contents(folder_.path()) == before);
+    QCOMPARE(run(arguments + QStringList("--allow-missing"), folder_.path()).status, 0);
+    QVERIFY(QFile::remove(folder_.path("damaged.png")));
+  }
+
+  void aFailureLeavesTheFolderAsItWas_data() {
+    write(folder_.path("text.kdx"), "{ \"format\": ");
+    write(folder_.path("old.png"), "old");
+    folder_.writeDocument("poster.kdx", 100.0, 100.0);
+    folder_.writeVariant("newer.kdx", {{"version", 1000}});
+    folder_.writeVariant("pageless.kdx", {{"page", QJsonValue::Null}});
+    QDir(folder_.path()).mkdir("folder.png");
+
+    Rows<QString, QString> row;
+    row("a missing document", "none.kdx old.png", "none.kdx");
+    row("a folder as document", "folder.png old.png", "folder.png");
+    row("a document that is no JSON", "text.kdx old.png", "text.kdx");
+    row("a document of a newer version", "newer.kdx old.png", "version");
+    row("a document without a page", "pageless.kdx old.png", "no page");
+    row("the document as target", "page.kdx page.kdx", "is the document itself");
+    row("the document as target, by another way", "page.kdx folder.png/../page.kdx", "is the document itself");
+    row("a target folder that does not exist", "page.kdx nowhere/a.png", "does not exist");
+    row("a folder as target", "page.kdx folder.png", "is a folder");
+    row("a device as target", "page.kdx /dev/null", "not an ordinary file");
+    row("a file system that refuses files", "page.kdx /proc/a.png", "/proc");
+    row("a name that is too long", "page.kdx " + QString(300, 'a') + ".png", "too long");
+    row("more pixels than a JPEG holds", "page.kdx a.jpg --dpi 100000", "at most 65500");
+    row("more pixels than a BMP holds", "page.kdx a.bmp --dpi 20000", "4 GB");
+    row("more pixels than the disk holds", "poster.kdx a.tif --dpi 100000", "GB are free");
+  }
+  void aFailureLeavesTheFolderAsItWas() {
+    auto const [arguments, complaint] = fetched<QString, QString>();
+    auto const before = contents(folder_.path());
+    QElapsedTimer timer;
+    timer.start();
+    Outcome const outcome = run(QStringList("export") + arguments.split(' '), folder_.path());
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.err.contains(complaint), qPrintable(outcome.err));
+    QCOMPARE(outcome.out, QString());
+    QVERIFY(contents(folder_.path()) == before);
+    QVERIFY2(timer.elapsed() < 20000, "refused only after it was drawn");
+  }
+
+  void aFullDiskLeavesTheOldImage_data() {
+    Rows<QString, double, double> row;
+    for (QString const suffix : {"png", "jpg", "bmp", "tif"}) {
+      row("a " + suffix + ", before the drawing", "old." + suffix, 0.4, 0.0);
+      row("a " + suffix + ", halfway through the image", "old." + suffix, 1.0, 0.5);
+      row("a " + suffix + ", at its last bytes", "old." + suffix, 1.0, 0.95);
+    }
+  }
+  // The disk has room for a part of the temporary file or of the image.
+  void aFullDiskLeavesTheOldImage() {
+    auto const [name, ofTemporary, ofImage] = fetched<QString, double, double>();
+    if (geteuid() != 0) QSKIP("only root mounts a small disk");
+    // A page that no format makes small: A3, drawn into three bytes a pixel.
+    QStringList const arguments{"export", QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx"), name, "--dpi",
+                                "100"};
+    qint64 const temporaryBytes = qint64{3} * 1653 * 1169;
+    qint64 const headerBytes = 60000;
+    QCOMPARE(run(arguments, folder_.path()).status, 0);
+    qint64 const imageBytes = QFileInfo(folder_.path(name)).size();
+    QVERIFY(QFile::remove(folder_.path(name)));
+    QVERIFY(imageBytes > 2 * headerBytes);
+
+    bool const isDrawn = ofTemporary == 1;
+    SmallDisk const disk(qint64(temporaryBytes * ofTemporary) + (isDrawn ? headerBytes : 0) +
+                         qint64((imageBytes - headerBytes) * ofImage));
+    if (!disk.mounted()) QSKIP("no small disk can be mounted here");
+    write(disk.path(name), "old");
+    Outcome const outcome = run(arguments, disk.path());
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.err.contains(isDrawn ? name + " was not written" : "are free"), qPrintable(outcome.err));
+    QCOMPARE(contents(disk.path()), (QMap<QString, QByteArray>{{disk.path(name), "old"}}));
+  }
+
+  void aReadOnlyFolderKeepsItsImage() {
+    if (geteuid() != 0) QSKIP("only root mounts a disk");
+    SmallDisk const disk(1000000);
+    if (!disk.mounted()) QSKIP("no disk can be mounted here");
+    write(disk.path("old.png"), "old");
+    QCOMPARE(QProcess::execute("mount", {"-o", "remount,ro", disk.path()}), 0);
+    Outcome const outcome = run({"export", folder_.path("page.kdx"), disk.path("old.png")}, folder_.path());
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.err.contains(disk.path()), qPrintable(outcome.err));
+    QCOMPARE(contents(disk.path()), (QMap<QString, QByteArray>{{disk.path("old.png"), "old"}}));
+  }
+
+  void aFileLimitLeavesTheOldImage_data() {
+    Rows<QString> row;
+    for (QString const suffix : {"png", "jpg", "bmp", "tif"}) row("a " + suffix, "limited." + suffix);
+  }
+  void aFileLimitLeavesTheOldImage() {
+    auto const [name] = fetched<QString>();
+    write(folder_.path(name), "old");
+    auto const before = contents(folder_.path());
+    Outcome const outcome = exportWithFileLimit(folder_.path(), name, qint64{2} * width * height);
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.err.contains("was not written"), qPrintable(outcome.err));
+    QVERIFY(contents(folder_.path()) == before);
+  }
+
+  void anInterruptLeavesTheFolderAsItWas() {
+    auto const before = contents(folder_.path());
+    QProcess process;
+    prepare(process, {"export", "page.kdx", "late.tif", "--dpi", "1500"}, folder_.path());
+    process.start();
+    QDir const folder(folder_.path());
+    QTRY_VERIFY(!folder.entryList({".plotvane-*"}, QDir::Dirs | QDir::Hidden).isEmpty());
+    kill(static_cast<pid_t>(process.processId()), SIGTERM);
+    Outcome const outcome = finish(process);
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.err.contains("interrupted"), qPrintable(outcome.err));
+    QVERIFY(contents(folder_.path()) == before);
+  }
 
 private:
   DocumentFolder folder_;
 };
-
-void ExportSubcommandTest::writesTheFormatOfTheSuffix_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<QString>("driver");
-  QTest::addColumn<bool>("noted");
-  QTest::newRow("png") << "a.png"
-                       << "PNG" << false;
-  QTest::newRow("jpg in capitals") << "a.JPG"
-                                   << "JPEG" << false;
-  QTest::newRow("bmp") << "a.bmp"
-                       << "BMP" << false;
-  QTest::newRow("tif") << "a.tif"
-                       << "GTiff" << false;
-  QTest::newRow("a jpeg is a TIFF, and the user hears of it") << "a.jpeg"
-                                                              << "GTiff" << true;
-  QTest::newRow("no suffix is a TIFF, and the user hears of it") << "a"
-                                                                 << "GTiff" << true;
-}
-
-void ExportSubcommandTest::writesTheFormatOfTheSuffix() {
-  QFETCH(QString, name);
-  QFETCH(QString, driver);
-  QFETCH(bool, noted);
-  auto before = contents(folder_.path());
-  Outcome const outcome = run({"export", "page.kdx", name}, folder_.path());
-  QCOMPARE(outcome.err.contains("TIFF"), noted);
-  QCOMPARE(outcome.status, 0);
-  QCOMPARE(outcome.out, name + '\n');
-
-  std::unique_ptr<GDALDataset> const image(
-      static_cast<GDALDataset*>(GDALOpen(qPrintable(folder_.path(name)), GA_ReadOnly)));
-  QVERIFY(image);
-  QCOMPARE(QString(image->GetDriverName()), driver);
-  QCOMPARE(QSize(image->GetRasterXSize(), image->GetRasterYSize()), QSize(width, height));
-  QVERIFY(QFile::remove(folder_.path(name)));
-  QVERIFY(contents(folder_.path()) == before);
-}
-
-void ExportSubcommandTest::quietPrintsNothing() {
-  Outcome const outcome = run({"export", "page.kdx", "quiet", "--quiet", "--dpi", "50"}, folder_.path());
-  QCOMPARE(outcome.status, 0);
-  QCOMPARE(outcome.out + outcome.err, QString());
-  QVERIFY(QFile::remove(folder_.path("quiet")));
-}
-
-void ExportSubcommandTest::followsALinkToTheImage() {
-  QTemporaryDir elsewhere;
-  write(elsewhere.filePath("real.png"), "old");
-  QVERIFY(QFile::link(elsewhere.filePath("real.png"), folder_.path("link.png")));
-  QCOMPARE(run({"export", "page.kdx", "link.png", "--dpi", "50"}, folder_.path()).status, 0);
-  QVERIFY(QFileInfo(folder_.path("link.png")).isSymLink());
-  QVERIFY(!QImage(elsewhere.filePath("real.png")).isNull());
-  QVERIFY(QFile::remove(folder_.path("link.png")));
-}
-
-// The sample without its data beside it.
-void ExportSubcommandTest::aMissingDataSourceIsAnErrorUnlessAllowed() {
-  QVERIFY(QFile::copy(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx"), folder_.path("lost.kdx")));
-  QStringList const arguments{"export", "lost.kdx", "lost.png", "--dpi", "30"};
-  Outcome const refused = run(arguments, folder_.path());
-  QCOMPARE(refused.status, 1);
-  QVERIFY2(refused.err.contains("world.gpkg") && refused.err.contains("--allow-missing"), qPrintable(refused.err));
-  QVERIFY(!QFile::exists(folder_.path("lost.png")));
-
-  Outcome const allowed = run(arguments + QStringList("--allow-missing"), folder_.path());
-  QCOMPARE(allowed.status, 0);
-  QVERIFY(allowed.err.contains("world.gpkg"));
-  QVERIFY(QFile::remove(folder_.path("lost.png")) && QFile::remove(folder_.path("lost.kdx")));
-}
-
-void ExportSubcommandTest::aDamagedSourceIsAnErrorUnlessAllowed_data() {
-  QTest::addColumn<QString>("file");
-  QTest::addColumn<QByteArray>("content");
-  QTest::addColumn<QString>("complaint");
-  QByteArray const header(
-      "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\xea\x60\0\0\xea\x60\x8\6\0\0\0\x80\xd2\x75\x42\0\0\0\1IDAT", 41);
-  QTest::newRow("a picture that is not there") << "none.png" << QByteArray() << "no such picture file";
-  QTest::newRow("a picture that is a text") << "text.png" << QByteArray("text") << "neither PNG nor JPEG nor SVG";
-  QTest::newRow("a picture of 60,000 pixels a side") << "bomb.png" << header << "make it smaller";
-  QTest::newRow("a drawing that refers to another file")
-      << "far.svg" << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'><image href='file:///etc/a.png'/></svg>")
-      << "the SVG refers to";
-  QByteArray const whole =
-      contents(PLOTVANE_SOURCE_DIR "/samples/data").value(PLOTVANE_SOURCE_DIR "/samples/data/world.gpkg");
-  QTest::newRow("data that end early") << "half.gpkg" << whole.left(whole.size() / 2) << "half.gpkg";
-}
-
-void ExportSubcommandTest::aDamagedSourceIsAnErrorUnlessAllowed() {
-  QFETCH(QString, file);
-  QFETCH(QByteArray, content);
-  QFETCH(QString, complaint);
-  if (!content.isEmpty()) write(folder_.path(file), content);
-  QJsonObject const picture{{"type", "picture"}, {"path", file}, {"rectangle", QJsonArray{1, 1, 5, 5}}};
-  QJsonObject const symbol{{"type", "simple"}, {"symbol", QJsonObject{{"type", "simpleFill"}}}};
-  QJsonObject const layer{
-      {"type", "feature"}, {"name", "A"}, {"source", QJsonObject{{"file", file}}}, {"renderer", symbol}};
-  QJsonObject const map{{"name", "M"}, {"bounds", QJsonArray{0, 0, 9, 9}}, {"layers", QJsonArray{layer}}};
-  if (file.endsWith(".gpkg"))
-    folder_.writeVariant("damaged.kdx", {{"maps", QJsonArray{map}}});
-  else
-    folder_.writeVariant("damaged.kdx", {{"elements", QJsonArray{picture}}, {"maps", QJsonArray()}});
-
-  auto const before = contents(folder_.path());
-  QStringList const arguments{"export", "damaged.kdx", "damaged.png", "--dpi", "30"};
-  Outcome const refused = run(arguments, folder_.path());
-  QCOMPARE(refused.status, 1);
-  QVERIFY2(refused.err.contains(file) && refused.err.contains(complaint), qPrintable(refused.err));
-  QVERIFY(contents(folder_.path()) == before);
-  QCOMPARE(run(arguments + QStringList("--allow-missing"), folder_.path()).status, 0);
-  QVERIFY(QFile::remove(folder_.path("damaged.png")));
-}
-
-void ExportSubcommandTest::aFailureLeavesTheFolderAsItWas_data() {
-  write(folder_.path("text.kdx"), "{ \"format\": ");
-  write(folder_.path("old.png"), "old");
-  folder_.writeDocument("poster.kdx", 100.0, 100.0);
-  folder_.writeVariant("newer.kdx", {{"version", 1000}});
-  folder_.writeVariant("pageless.kdx", {{"page", QJsonValue::Null}});
-  QDir(folder_.path()).mkdir("folder.png");
-
-  QTest::addColumn<QString>("arguments");
-  QTest::addColumn<QString>("complaint");
-  auto const row = [](char const* claim, QString const& arguments, char const* complaint) {
-    QTest::newRow(claim) << arguments << QString(complaint);
-  };
-  row("a missing document", "none.kdx old.png", "none.kdx");
-  row("a folder as document", "folder.png old.png", "folder.png");
-  row("a document that is no JSON", "text.kdx old.png", "text.kdx");
-  row("a document of a newer version", "newer.kdx old.png", "version");
-  row("a document without a page", "pageless.kdx old.png", "no page");
-  row("the document as target", "page.kdx page.kdx", "is the document itself");
-  row("the document as target, by another way", "page.kdx folder.png/../page.kdx", "is the document itself");
-  row("a target folder that does not exist", "page.kdx nowhere/a.png", "does not exist");
-  row("a folder as target", "page.kdx folder.png", "is a folder");
-  row("a device as target", "page.kdx /dev/null", "not an ordinary file");
-  row("a file system that refuses files", "page.kdx /proc/a.png", "/proc");
-  row("a name that is too long", "page.kdx " + QString(300, 'a') + ".png", "too long");
-  row("more pixels than a JPEG holds", "page.kdx a.jpg --dpi 100000", "at most 65500");
-  row("more pixels than a BMP holds", "page.kdx a.bmp --dpi 20000", "4 GB");
-  row("more pixels than the disk holds", "poster.kdx a.tif --dpi 100000", "GB are free");
-}
-
-void ExportSubcommandTest::aFailureLeavesTheFolderAsItWas() {
-  QFETCH(QString, arguments);
-  QFETCH(QString, complaint);
-  auto const before = contents(folder_.path());
-  QElapsedTimer timer;
-  timer.start();
-  Outcome const outcome = run(QStringList("export") + arguments.split(' '), folder_.path());
-  QCOMPARE(outcome.status, 1);
-  QVERIFY2(outcome.err.contains(complaint), qPrintable(outcome.err));
-  QCOMPARE(outcome.out, QString());
-  QVERIFY(contents(folder_.path()) == before);
-  QVERIFY2(timer.elapsed() < 20000, "refused only after it was drawn");
-}
-
-void ExportSubcommandTest::aFullDiskLeavesTheOldImage_data() {
-  QTest::addColumn<QString>("name");
-  QTest::addColumn<double>("ofTemporary");
-  QTest::addColumn<double>("ofImage");
-  for (QString const suffix : {"png", "jpg", "bmp", "tif"}) {
-    QTest::addRow("a %s, before the drawing", qPrintable(suffix)) << "old." + suffix << 0.4 << 0.0;
-    QTest::addRow("a %s, halfway through the image", qPrintable(suffix)) << "old." + suffix << 1.0 << 0.5;
-    QTest::addRow("a %s, at its last bytes", qPrintable(suffix)) << "old." + suffix << 1.0 << 0.95;
-  }
-}
-
-// The disk has room for a part of the temporary file or of the image.
-void ExportSubcommandTest::aFullDiskLeavesTheOldImage() {
-  QFETCH(QString, name);
-  QFETCH(double, ofTemporary);
-  QFETCH(double, ofImage);
-  if (geteuid() != 0) QSKIP("only root mounts a small disk");
-  // A page that no format makes small: A3, drawn into three bytes a pixel.
-  QStringList const arguments{"export", QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx"), name, "--dpi", "100"};
-  qint64 const temporaryBytes = qint64{3} * 1653 * 1169;
-  qint64 const headerBytes = 60000;
-  QCOMPARE(run(arguments, folder_.path()).status, 0);
-  qint64 const imageBytes = QFileInfo(folder_.path(name)).size();
-  QVERIFY(QFile::remove(folder_.path(name)));
-  QVERIFY(imageBytes > 2 * headerBytes);
-
-  bool const isDrawn = ofTemporary == 1;
-  SmallDisk const disk(qint64(temporaryBytes * ofTemporary) + (isDrawn ? headerBytes : 0) +
-                       qint64((imageBytes - headerBytes) * ofImage));
-  if (!disk.mounted()) QSKIP("no small disk can be mounted here");
-  write(disk.path(name), "old");
-  Outcome const outcome = run(arguments, disk.path());
-  QCOMPARE(outcome.status, 1);
-  QVERIFY2(outcome.err.contains(isDrawn ? name + " was not written" : "are free"), qPrintable(outcome.err));
-  QCOMPARE(contents(disk.path()), (QMap<QString, QByteArray>{{disk.path(name), "old"}}));
-}
-
-void ExportSubcommandTest::aReadOnlyFolderKeepsItsImage() {
-  if (geteuid() != 0) QSKIP("only root mounts a disk");
-  SmallDisk const disk(1000000);
-  if (!disk.mounted()) QSKIP("no disk can be mounted here");
-  write(disk.path("old.png"), "old");
-  QCOMPARE(QProcess::execute("mount", {"-o", "remount,ro", disk.path()}), 0);
-  Outcome const outcome = run({"export", folder_.path("page.kdx"), disk.path("old.png")}, folder_.path());
-  QCOMPARE(outcome.status, 1);
-  QVERIFY2(outcome.err.contains(disk.path()), qPrintable(outcome.err));
-  QCOMPARE(contents(disk.path()), (QMap<QString, QByteArray>{{disk.path("old.png"), "old"}}));
-}
-
-void ExportSubcommandTest::aFileLimitLeavesTheOldImage_data() {
-  QTest::addColumn<QString>("name");
-  for (QString const suffix : {"png", "jpg", "bmp", "tif"})
-    QTest::addRow("a %s", qPrintable(suffix)) << "limited." + suffix;
-}
-
-void ExportSubcommandTest::aFileLimitLeavesTheOldImage() {
-  QFETCH(QString, name);
-  write(folder_.path(name), "old");
-  auto const before = contents(folder_.path());
-  Outcome const outcome = exportWithFileLimit(folder_.path(), name, qint64{2} * width * height);
-  QCOMPARE(outcome.status, 1);
-  QVERIFY2(outcome.err.contains("was not written"), qPrintable(outcome.err));
-  QVERIFY(contents(folder_.path()) == before);
-}
-
-void ExportSubcommandTest::anInterruptLeavesTheFolderAsItWas() {
-  auto const before = contents(folder_.path());
-  QProcess process;
-  prepare(process, {"export", "page.kdx", "late.tif", "--dpi", "1500"}, folder_.path());
-  process.start();
-  QDir const folder(folder_.path());
-  QTRY_VERIFY(!folder.entryList({".plotvane-*"}, QDir::Dirs | QDir::Hidden).isEmpty());
-  kill(static_cast<pid_t>(process.processId()), SIGTERM);
-  Outcome const outcome = finish(process);
-  QCOMPARE(outcome.status, 1);
-  QVERIFY2(outcome.err.contains("interrupted"), qPrintable(outcome.err));
-  QVERIFY(contents(folder_.path()) == before);
-}
 
 QTEST_GUILESS_MAIN(ExportSubcommandTest)
 #include "tst_export_subcommand.moc"

@@ -1,3 +1,4 @@
+#include "Rows.h"
 #include "desktop/WorkbenchPage.h"
 
 #include "host/desktop/Session.h"
@@ -11,17 +12,118 @@ class GesturesTest : public QObject {
 
 private slots:
   void initTestCase() { prepareApplication(); }
-  void clicksSelect();
-  void aRubberBandSelectsWhatLiesWhollyInIt();
-  void handlesResizeAboutTheOppositeSide_data();
-  void handlesResizeAboutTheOppositeSide();
-  void shiftKeepsTheRatio();
-  void arrowKeysNudge_data();
-  void arrowKeysNudge();
-  void escapePutsEverythingBack_data();
-  void escapePutsEverythingBack();
-  void aLockedFrameResistsAll();
-  void aHandThatTremblesMovesNothing();
+  void clicksSelect() {
+    Page page;
+    int const left = page.left->GetHandle(), right = page.right->GetHandle();
+    page.click(page.pixel(4, 5));
+    QCOMPARE(page.selected(), QList<int>{left});
+    page.click(page.pixel(12, 5), Qt::ShiftModifier);
+    QCOMPARE(page.selected(), (QList<int>{left, right}));
+    page.click(page.pixel(4, 5), Qt::ShiftModifier);
+    QCOMPARE(page.selected(), QList<int>{right});
+    page.click(page.pixel(4, 5), Qt::ShiftModifier);
+    page.click(page.pixel(4, 5));
+    QCOMPARE(page.selected(), QList<int>{left});  // of several, a click leaves the one under it
+    page.click(page.pixel(18, 28));
+    QCOMPARE(page.selected(), QList<int>{});
+  }
+
+  void aRubberBandSelectsWhatLiesWhollyInIt() {
+    Page page;
+    page.drag(page.pixel(15, 3), page.pixel(5, 8));
+    QCOMPARE(page.selected(), QList<int>{page.right->GetHandle()});
+    page.drag(page.pixel(1, 3), page.pixel(7, 8), Qt::ShiftModifier);
+    QCOMPARE(page.selected().size(), 2);
+    QVERIFY(!page.bench.session().document().GetOperationStack()->CanUndo());
+  }
+
+  void handlesResizeAboutTheOppositeSide_data() {
+    Rows<QPointF, QPointF, QRectF> row;
+    row("the upper right corner", QPointF(6, 7), QPointF(8, 9), QRectF(2, 4, 6, 5));
+    row("the lower left corner", QPointF(2, 4), QPointF(1, 3), QRectF(1, 3, 5, 4));
+    row("the upper left corner", QPointF(2, 7), QPointF(3, 8), QRectF(3, 4, 3, 4));
+    row("the right side alone", QPointF(6, 5.5), QPointF(9, 8), QRectF(2, 4, 7, 3));
+    row("the lower side alone", QPointF(4, 4), QPointF(9, 2), QRectF(2, 2, 4, 5));
+    row("a side is not pulled through the other", QPointF(6, 5.5), QPointF(-3, 5.5), QRectF(2, 4, 0.1, 3));
+  }
+  void handlesResizeAboutTheOppositeSide() {
+    auto const [from, to, expected] = fetched<QPointF, QPointF, QRectF>();
+    Page page;
+    page.click(page.pixel(4, 5));
+    page.drag(page.pixel(from.x(), from.y()), page.pixel(to.x(), to.y()));
+    QVERIFY(page.isAbout(*page.left, expected));
+  }
+
+  void shiftKeepsTheRatio() {
+    Page page;
+    page.click(page.pixel(4, 5));
+    page.drag(page.pixel(6, 7), page.pixel(10, 7.5), Qt::ShiftModifier);
+    QVERIFY(page.isAbout(*page.left, QRectF(2, 4, 8, 6)));
+  }
+
+  void arrowKeysNudge_data() {
+    Rows<Qt::Key, bool, QPointF> row;
+    row("right by a millimetre", Qt::Key_Right, false, QPointF(0.1, 0));
+    row("up is up on the page", Qt::Key_Up, false, QPointF(0, 0.1));
+    row("down ten times as far with Shift", Qt::Key_Down, true, QPointF(0, -1));
+  }
+  void arrowKeysNudge() {
+    auto const [key, shift, by] = fetched<Qt::Key, bool, QPointF>();
+    Page page;
+    page.click(page.pixel(4, 5));
+    page.key(key, shift ? Qt::ShiftModifier : Qt::NoModifier);
+    QCOMPARE(page.place(*page.left), QRectF(2, 4, 4, 3).translated(by));
+    QCOMPARE(page.place(*page.right), QRectF(10, 4, 4, 3));
+  }
+
+  void escapePutsEverythingBack_data() {
+    Rows<QPointF> row;
+    row("a move", QPointF(4, 5));
+    row("a resize", QPointF(6, 7));
+    row("a rubber band", QPointF(8, 9));
+    row("a move of what the press selected", QPointF(12, 5));
+  }
+  void escapePutsEverythingBack() {
+    auto const [press] = fetched<QPointF>();
+    Page page;
+    page.click(page.pixel(4, 5));
+    QByteArray const before = page.bench.session().document().GetText();
+    page.mouse(QEvent::MouseButtonPress, page.pixel(press.x(), press.y()));
+    page.mouse(QEvent::MouseMove, page.pixel(16, 20));
+    page.key(Qt::Key_Escape);
+    page.mouse(QEvent::MouseMove, page.pixel(17, 20));
+    page.mouse(QEvent::MouseButtonRelease, page.pixel(17, 20));
+    QVERIFY(page.bench.session().document().GetText() == before);
+    QCOMPARE(page.selected(), QList<int>{page.left->GetHandle()});
+    QVERIFY(!page.bench.session().document().GetOperationStack()->CanUndo());
+  }
+
+  void aLockedFrameResistsAll() {
+    Page page;
+    QByteArray const place = page.bench.session().document().GetText();
+    page.frame->SetLocked(true);
+    page.click(page.pixel(8, 18));
+    page.drag(page.pixel(1, 11), page.pixel(15, 25));
+    QCOMPARE(page.selected(), QList<int>{});
+    QVERIFY(page.run("Host_SelectAll"));
+    QVERIFY(!page.selected().contains(page.frame->GetHandle()));
+
+    page.container().UnselectAllElements();
+    page.container().SelectElement(page.frame);  // a command may have selected it
+    page.drag(page.pixel(8, 18), page.pixel(9, 19));
+    page.container().SelectElement(page.frame);
+    page.key(Qt::Key_Left);
+    QVERIFY(!page.run("Host_Delete"));
+    page.frame->SetLocked(false);
+    QVERIFY(page.bench.session().document().GetText() == place);
+  }
+
+  void aHandThatTremblesMovesNothing() {
+    Page page;
+    page.drag(page.pixel(4, 5), page.pixel(4, 5) + QPoint(2, -2));
+    QCOMPARE(page.place(*page.left), QRectF(2, 4, 4, 3));
+    QVERIFY(!page.bench.session().document().GetOperationStack()->CanUndo());
+  }
 
 private:
   struct Page : WorkbenchPage {
@@ -41,131 +143,6 @@ private:
     }
   };
 };
-
-void GesturesTest::clicksSelect() {
-  Page page;
-  int const left = page.left->GetHandle(), right = page.right->GetHandle();
-  page.click(page.pixel(4, 5));
-  QCOMPARE(page.selected(), QList<int>{left});
-  page.click(page.pixel(12, 5), Qt::ShiftModifier);
-  QCOMPARE(page.selected(), (QList<int>{left, right}));
-  page.click(page.pixel(4, 5), Qt::ShiftModifier);
-  QCOMPARE(page.selected(), QList<int>{right});
-  page.click(page.pixel(4, 5), Qt::ShiftModifier);
-  page.click(page.pixel(4, 5));
-  QCOMPARE(page.selected(), QList<int>{left});  // of several, a click leaves the one under it
-  page.click(page.pixel(18, 28));
-  QCOMPARE(page.selected(), QList<int>{});
-}
-
-void GesturesTest::aRubberBandSelectsWhatLiesWhollyInIt() {
-  Page page;
-  page.drag(page.pixel(15, 3), page.pixel(5, 8));
-  QCOMPARE(page.selected(), QList<int>{page.right->GetHandle()});
-  page.drag(page.pixel(1, 3), page.pixel(7, 8), Qt::ShiftModifier);
-  QCOMPARE(page.selected().size(), 2);
-  QVERIFY(!page.bench.session().document().GetOperationStack()->CanUndo());
-}
-
-void GesturesTest::handlesResizeAboutTheOppositeSide_data() {
-  QTest::addColumn<QPointF>("from");
-  QTest::addColumn<QPointF>("to");
-  QTest::addColumn<QRectF>("expected");
-  QTest::newRow("the upper right corner") << QPointF(6, 7) << QPointF(8, 9) << QRectF(2, 4, 6, 5);
-  QTest::newRow("the lower left corner") << QPointF(2, 4) << QPointF(1, 3) << QRectF(1, 3, 5, 4);
-  QTest::newRow("the upper left corner") << QPointF(2, 7) << QPointF(3, 8) << QRectF(3, 4, 3, 4);
-  QTest::newRow("the right side alone") << QPointF(6, 5.5) << QPointF(9, 8) << QRectF(2, 4, 7, 3);
-  QTest::newRow("the lower side alone") << QPointF(4, 4) << QPointF(9, 2) << QRectF(2, 2, 4, 5);
-  QTest::newRow("a side is not pulled through the other")
-      << QPointF(6, 5.5) << QPointF(-3, 5.5) << QRectF(2, 4, 0.1, 3);
-}
-
-void GesturesTest::handlesResizeAboutTheOppositeSide() {
-  QFETCH(QPointF, from);
-  QFETCH(QPointF, to);
-  QFETCH(QRectF, expected);
-  Page page;
-  page.click(page.pixel(4, 5));
-  page.drag(page.pixel(from.x(), from.y()), page.pixel(to.x(), to.y()));
-  QVERIFY(page.isAbout(*page.left, expected));
-}
-
-void GesturesTest::shiftKeepsTheRatio() {
-  Page page;
-  page.click(page.pixel(4, 5));
-  page.drag(page.pixel(6, 7), page.pixel(10, 7.5), Qt::ShiftModifier);
-  QVERIFY(page.isAbout(*page.left, QRectF(2, 4, 8, 6)));
-}
-
-void GesturesTest::arrowKeysNudge_data() {
-  QTest::addColumn<int>("key");
-  QTest::addColumn<bool>("shift");
-  QTest::addColumn<QPointF>("by");
-  QTest::newRow("right by a millimetre") << int(Qt::Key_Right) << false << QPointF(0.1, 0);
-  QTest::newRow("up is up on the page") << int(Qt::Key_Up) << false << QPointF(0, 0.1);
-  QTest::newRow("down ten times as far with Shift") << int(Qt::Key_Down) << true << QPointF(0, -1);
-}
-
-void GesturesTest::arrowKeysNudge() {
-  QFETCH(int, key);
-  QFETCH(bool, shift);
-  QFETCH(QPointF, by);
-  Page page;
-  page.click(page.pixel(4, 5));
-  page.key(Qt::Key(key), shift ? Qt::ShiftModifier : Qt::NoModifier);
-  QCOMPARE(page.place(*page.left), QRectF(2, 4, 4, 3).translated(by));
-  QCOMPARE(page.place(*page.right), QRectF(10, 4, 4, 3));
-}
-
-void GesturesTest::escapePutsEverythingBack_data() {
-  QTest::addColumn<QPointF>("press");
-  QTest::newRow("a move") << QPointF(4, 5);
-  QTest::newRow("a resize") << QPointF(6, 7);
-  QTest::newRow("a rubber band") << QPointF(8, 9);
-  QTest::newRow("a move of what the press selected") << QPointF(12, 5);
-}
-
-void GesturesTest::escapePutsEverythingBack() {
-  QFETCH(QPointF, press);
-  Page page;
-  page.click(page.pixel(4, 5));
-  QByteArray const before = page.bench.session().document().GetText();
-  page.mouse(QEvent::MouseButtonPress, page.pixel(press.x(), press.y()));
-  page.mouse(QEvent::MouseMove, page.pixel(16, 20));
-  page.key(Qt::Key_Escape);
-  page.mouse(QEvent::MouseMove, page.pixel(17, 20));
-  page.mouse(QEvent::MouseButtonRelease, page.pixel(17, 20));
-  QVERIFY(page.bench.session().document().GetText() == before);
-  QCOMPARE(page.selected(), QList<int>{page.left->GetHandle()});
-  QVERIFY(!page.bench.session().document().GetOperationStack()->CanUndo());
-}
-
-void GesturesTest::aLockedFrameResistsAll() {
-  Page page;
-  QByteArray const place = page.bench.session().document().GetText();
-  page.frame->SetLocked(true);
-  page.click(page.pixel(8, 18));
-  page.drag(page.pixel(1, 11), page.pixel(15, 25));
-  QCOMPARE(page.selected(), QList<int>{});
-  QVERIFY(page.run("Host_SelectAll"));
-  QVERIFY(!page.selected().contains(page.frame->GetHandle()));
-
-  page.container().UnselectAllElements();
-  page.container().SelectElement(page.frame);  // a command may have selected it
-  page.drag(page.pixel(8, 18), page.pixel(9, 19));
-  page.container().SelectElement(page.frame);
-  page.key(Qt::Key_Left);
-  QVERIFY(!page.run("Host_Delete"));
-  page.frame->SetLocked(false);
-  QVERIFY(page.bench.session().document().GetText() == place);
-}
-
-void GesturesTest::aHandThatTremblesMovesNothing() {
-  Page page;
-  page.drag(page.pixel(4, 5), page.pixel(4, 5) + QPoint(2, -2));
-  QCOMPARE(page.place(*page.left), QRectF(2, 4, 4, 3));
-  QVERIFY(!page.bench.session().document().GetOperationStack()->CanUndo());
-}
 
 QTEST_MAIN(GesturesTest)
 #include "tst_gestures.moc"

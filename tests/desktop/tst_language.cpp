@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysFramework/Translations.h"
 #include "host/desktop/CommandCatalogue.h"
 #include "host/desktop/Language.h"
@@ -14,87 +16,67 @@ class LanguageTest : public QObject {
   Q_OBJECT
 
 private slots:
-  void initTestCase();
-  void theOptionIsTakenOut_data();
-  void theOptionIsTakenOut();
-  void aLanguageHasEveryTextOfTheCommands_data();
-  void aLanguageHasEveryTextOfTheCommands();
-  void theWindowSpeaksGerman();
+  void initTestCase() {
+    prepareApplication();
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
+  }
+
+  void theOptionIsTakenOut_data() {
+    Rows<QString, QString, QString> row;
+    row("before the subcommand", "--language de info a.kdx", "de", "info a.kdx");
+    row("after the operands", "info a.kdx --language=zh_CN", "zh_CN", "info a.kdx");
+    row("the last of two counts", "--language de a.kdx --language en", "en", "a.kdx");
+    row("without its value it is there all the same", "a.kdx --language", "", "a.kdx");
+    row("no option", "info a.kdx", QString(), "info a.kdx");
+    row("behind two dashes are operands", "info -- --language de", QString(), "info -- --language de");
+  }
+  void theOptionIsTakenOut() {
+    auto const [line, language, left] = fetched<QString, QString, QString>();
+    QStringList arguments = line.split(' ');
+    auto const taken = takeLanguage(arguments);
+    QCOMPARE(taken.has_value(), !language.isNull());
+    QCOMPARE(taken.value_or(QString()), language);
+    QCOMPARE(arguments.join(' '), left);
+  }
+
+  void aLanguageHasEveryTextOfTheCommands_data() {
+    Rows<QString> row;
+    for (QString const& language : SysFramework::languagesOfTexts())
+      if (language != "en") row(language, language);
+  }
+  void aLanguageHasEveryTextOfTheCommands() {
+    auto const [language] = fetched<QString>();
+    QTranslator texts;
+    QVERIFY(texts.load(":/translations/plotvane-host_" + language + ".qm"));
+    auto const has = [&texts](QString const& text) {
+      return text.isEmpty() || !texts.translate("Commands", text.toUtf8().constData()).isEmpty();
+    };
+    for (CommandEntry const& entry : commandCatalogue() + hostCatalogue()) {
+      QStringList menus = entry.menu.split('/');
+      menus.first().prepend('&');
+      for (QString const& text : menus + QStringList{entry.caption, entry.toolTip, entry.needs, entry.toolbar})
+        QVERIFY2(has(text), qPrintable(text));
+    }
+  }
+
+  // The plug-in's texts come with its library, which is loaded after the language was chosen.
+  void theWindowSpeaksGerman() {
+    installLanguage(QStringLiteral("de-AT"));
+    MainWindow window;
+    QStringList menus;
+    for (QAction const* menu : window.menuBar()->actions()) menus << menu->text();
+    QCOMPARE(menus, QStringList({"&Datei", "&Bearbeiten", "An&sicht", "&Einfügen", "&Anordnen", "&Hilfe"}));
+    QVERIFY(window.open(PLOTVANE_SOURCE_DIR "/samples/world.kdx"));
+    window.actions().find("Host_SelectAll")->trigger();
+    window.actions().find("Plotvane_LeftAlignment")->trigger();
+    QCOMPARE(window.actions().find("Host_Undo")->text(),
+             QString("Rückgängig: Ausgewählte Elemente linksbündig ausrichten"));
+  }
 
 private:
   QTemporaryDir folder_;
 };
-
-void LanguageTest::initTestCase() {
-  prepareApplication();
-  QSettings::setDefaultFormat(QSettings::IniFormat);
-  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
-}
-
-void LanguageTest::theOptionIsTakenOut_data() {
-  QTest::addColumn<QString>("line");
-  QTest::addColumn<QString>("language");
-  QTest::addColumn<QString>("left");
-  QTest::newRow("before the subcommand") << "--language de info a.kdx"
-                                         << "de"
-                                         << "info a.kdx";
-  QTest::newRow("after the operands") << "info a.kdx --language=zh_CN"
-                                      << "zh_CN"
-                                      << "info a.kdx";
-  QTest::newRow("the last of two counts") << "--language de a.kdx --language en"
-                                          << "en"
-                                          << "a.kdx";
-  QTest::newRow("without its value it is there all the same") << "a.kdx --language"
-                                                              << ""
-                                                              << "a.kdx";
-  QTest::newRow("no option") << "info a.kdx" << QString() << "info a.kdx";
-  QTest::newRow("behind two dashes are operands") << "info -- --language de" << QString() << "info -- --language de";
-}
-
-void LanguageTest::theOptionIsTakenOut() {
-  QFETCH(QString, line);
-  QFETCH(QString, language);
-  QStringList arguments = line.split(' ');
-  auto const taken = takeLanguage(arguments);
-  QCOMPARE(taken.has_value(), !language.isNull());
-  QCOMPARE(taken.value_or(QString()), language);
-  QTEST(arguments.join(' '), "left");
-}
-
-void LanguageTest::aLanguageHasEveryTextOfTheCommands_data() {
-  QTest::addColumn<QString>("language");
-  for (QString const& language : SysFramework::languagesOfTexts())
-    if (language != "en") QTest::newRow(qPrintable(language)) << language;
-}
-
-void LanguageTest::aLanguageHasEveryTextOfTheCommands() {
-  QFETCH(QString, language);
-  QTranslator texts;
-  QVERIFY(texts.load(":/translations/plotvane-host_" + language + ".qm"));
-  auto const has = [&texts](QString const& text) {
-    return text.isEmpty() || !texts.translate("Commands", text.toUtf8().constData()).isEmpty();
-  };
-  for (CommandEntry const& entry : commandCatalogue() + hostCatalogue()) {
-    QStringList menus = entry.menu.split('/');
-    menus.first().prepend('&');
-    for (QString const& text : menus + QStringList{entry.caption, entry.toolTip, entry.needs, entry.toolbar})
-      QVERIFY2(has(text), qPrintable(text));
-  }
-}
-
-// The plug-in's texts come with its library, which is loaded after the language was chosen.
-void LanguageTest::theWindowSpeaksGerman() {
-  installLanguage(QStringLiteral("de-AT"));
-  MainWindow window;
-  QStringList menus;
-  for (QAction const* menu : window.menuBar()->actions()) menus << menu->text();
-  QCOMPARE(menus, QStringList({"&Datei", "&Bearbeiten", "An&sicht", "&Einfügen", "&Anordnen", "&Hilfe"}));
-  QVERIFY(window.open(PLOTVANE_SOURCE_DIR "/samples/world.kdx"));
-  window.actions().find("Host_SelectAll")->trigger();
-  window.actions().find("Plotvane_LeftAlignment")->trigger();
-  QCOMPARE(window.actions().find("Host_Undo")->text(),
-           QString("Rückgängig: Ausgewählte Elemente linksbündig ausrichten"));
-}
 
 QTEST_MAIN(LanguageTest)
 #include "tst_language.moc"

@@ -1,3 +1,4 @@
+#include "Rows.h"
 #include "desktop/Executable.h"
 
 #include <QJsonArray>
@@ -6,104 +7,82 @@ class RunSubcommandTest : public QObject {
   Q_OBJECT
 
 private slots:
-  void initTestCase();
-  void stepsWorkOnThePage_data();
-  void stepsWorkOnThePage();
-  void aStepThatCanNotBeDoneStopsTheRun_data();
-  void aStepThatCanNotBeDoneStopsTheRun();
-  void undoneWorkSavesTheSameFile();
+  // A second element beside the data frame: what follows needs two.
+  void initTestCase() {
+    SysCarto::MapDocument document;
+    QVERIFY(document.Open(folder_.path("page.kdx")));
+    auto const frame = SysUtility::make<SysCarto::MapFrameElement>();
+    frame->SetName("Inset");
+    frame->SetGeometry(SysUtility::make<SysGeometry::Envelope>(2.0, 2.0, 3.0, 3.0));
+    document.GetPageLayout()->GetGraphicsContainer()->AddElement(frame);
+    QVERIFY(document.SaveAs(folder_.path("two.kdx"), true, false));
+  }
+
+  void stepsWorkOnThePage_data() {
+    Rows<QString, double> row;
+    row("the first selected is the reference", "select=World,Inset Plotvane_LeftAlignment info", 1);
+    row("a command's name may be in any case", "select=World,Inset plotvane_leftalignment info", 1);
+    row("undo takes a command back", "select=World,Inset Plotvane_LeftAlignment undo info", 2);
+    row("redo makes it again", "select=World,Inset Plotvane_LeftAlignment undo redo info", 1);
+    row("handles name elements, too", "select=#1,#2 Plotvane_LeftAlignment info", 1);
+    row("a drag moves what lies under it", "drag=2.5,2.5,4.5,2.5 info", 4);
+    row("a locked frame stays where it is", "Plotvane_LockDataFrame drag=2.5,2.5,4.5,2.5 info", 2);
+    row("the pan tool moves no element", "Plotvane_Pan drag=2.5,2.5,4.5,2.5 info", 2);
+  }
+  void stepsWorkOnThePage() {
+    auto const [steps, xminOfInset] = fetched<QString, double>();
+    Outcome const outcome = run(QStringList{"run", "two.kdx"} + steps.split(' '), folder_.path());
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.status, 0);
+    double const onePixelCm = 0.02;  // the mouse goes from pixel to pixel
+    double const xmin = envelopeOf("Inset", outcome.out).at(0).toDouble();
+    QVERIFY2(qAbs(xmin - xminOfInset) < onePixelCm, qPrintable(QString::number(xmin)));
+  }
+
+  void aStepThatCanNotBeDoneStopsTheRun_data() {
+    Rows<QString, int, QString> row;
+    row("a disabled command says what it needs", "select=World Plotvane_LeftAlignment", 1,
+        "Align Left is disabled; it needs two selected elements");
+    row("a tool of the page in the map view", "view=map Plotvane_ZoomIn", 1, "needs the page layout shown");
+    row("a click in the map view", "view=map click=1,1", 1, "needs the page layout shown");
+    row("a name that is not on the page", "select=Legend", 1, "no element is named \"Legend\"");
+    row("nothing to undo", "undo", 1, "it needs a change to take back");
+    row("an answer that no dialog takes", "answer=lineEdit_DPI:96", 1, "lineEdit_DPI");
+    row("a folder that is not there", "save=none/out.kdx", 1, "none");
+    row("an unknown step", "frobnicate", 2, "\"frobnicate\" is neither");
+    row("a point without its second number", "click=1", 2, "click=X,Y");
+    row("a view that there is not", "view=globe", 2, "view=layout|map");
+  }
+  void aStepThatCanNotBeDoneStopsTheRun() {
+    auto const [steps, status, complaint] = fetched<QString, int, QString>();
+    auto const before = contents(folder_.path());
+    Outcome const outcome =
+        run(QStringList{"run", "two.kdx"} + steps.split(' ') + QStringList{"save=out.kdx"}, folder_.path());
+    QVERIFY2(outcome.err.contains(complaint), qPrintable(outcome.err));
+    QCOMPARE(outcome.status, status);
+    bool const isLastStep = steps.startsWith("answer");  // told at the end, since a command may still come
+    if (!isLastStep) QVERIFY(contents(folder_.path()) == before);
+    QFile::remove(folder_.path("out.kdx"));
+  }
+
+  void undoneWorkSavesTheSameFile() {
+    QStringList const steps{"select-all", "Plotvane_TopAlignment", "Plotvane_SendToBackElements", "undo",
+                            "undo",       "save=same.kdx"};
+    Outcome const outcome = run(QStringList{"run", "two.kdx"} + steps, folder_.path());
+    QCOMPARE(outcome.status, 0);
+    auto const files = contents(folder_.path());
+    QCOMPARE(files[folder_.path("same.kdx")], files[folder_.path("two.kdx")]);
+  }
 
 private:
-  QJsonArray envelopeOf(QString const& name, QString const& report) const;
+  QJsonArray envelopeOf(QString const& name, QString const& report) const {
+    for (QJsonValue const& value : QJsonDocument::fromJson(report.toUtf8()).object()["elements"].toArray())
+      if (value.toObject()["name"] == name) return value.toObject()["envelope"].toArray();
+    return {};
+  }
 
   DocumentFolder folder_;
 };
-
-// A second element beside the data frame: what follows needs two.
-void RunSubcommandTest::initTestCase() {
-  SysCarto::MapDocument document;
-  QVERIFY(document.Open(folder_.path("page.kdx")));
-  auto const frame = SysUtility::make<SysCarto::MapFrameElement>();
-  frame->SetName("Inset");
-  frame->SetGeometry(SysUtility::make<SysGeometry::Envelope>(2.0, 2.0, 3.0, 3.0));
-  document.GetPageLayout()->GetGraphicsContainer()->AddElement(frame);
-  QVERIFY(document.SaveAs(folder_.path("two.kdx"), true, false));
-}
-
-QJsonArray RunSubcommandTest::envelopeOf(QString const& name, QString const& report) const {
-  for (QJsonValue const& value : QJsonDocument::fromJson(report.toUtf8()).object()["elements"].toArray())
-    if (value.toObject()["name"] == name) return value.toObject()["envelope"].toArray();
-  return {};
-}
-
-void RunSubcommandTest::stepsWorkOnThePage_data() {
-  QTest::addColumn<QStringList>("steps");
-  QTest::addColumn<double>("xminOfInset");
-  auto const row = [](char const* claim, char const* steps, double xmin) {
-    QTest::newRow(claim) << QString(steps).split(' ') << xmin;
-  };
-  row("the first selected is the reference", "select=World,Inset Plotvane_LeftAlignment info", 1);
-  row("a command's name may be in any case", "select=World,Inset plotvane_leftalignment info", 1);
-  row("undo takes a command back", "select=World,Inset Plotvane_LeftAlignment undo info", 2);
-  row("redo makes it again", "select=World,Inset Plotvane_LeftAlignment undo redo info", 1);
-  row("handles name elements, too", "select=#1,#2 Plotvane_LeftAlignment info", 1);
-  row("a drag moves what lies under it", "drag=2.5,2.5,4.5,2.5 info", 4);
-  row("a locked frame stays where it is", "Plotvane_LockDataFrame drag=2.5,2.5,4.5,2.5 info", 2);
-  row("the pan tool moves no element", "Plotvane_Pan drag=2.5,2.5,4.5,2.5 info", 2);
-}
-
-void RunSubcommandTest::stepsWorkOnThePage() {
-  QFETCH(QStringList, steps);
-  QFETCH(double, xminOfInset);
-  Outcome const outcome = run(QStringList{"run", "two.kdx"} + steps, folder_.path());
-  QCOMPARE(outcome.err, QString());
-  QCOMPARE(outcome.status, 0);
-  double const onePixelCm = 0.02;  // the mouse goes from pixel to pixel
-  double const xmin = envelopeOf("Inset", outcome.out).at(0).toDouble();
-  QVERIFY2(qAbs(xmin - xminOfInset) < onePixelCm, qPrintable(QString::number(xmin)));
-}
-
-void RunSubcommandTest::aStepThatCanNotBeDoneStopsTheRun_data() {
-  QTest::addColumn<QStringList>("steps");
-  QTest::addColumn<int>("status");
-  QTest::addColumn<QString>("complaint");
-  auto const row = [](char const* claim, char const* steps, int status, char const* complaint) {
-    QTest::newRow(claim) << QString(steps).split(' ') << status << QString(complaint);
-  };
-  row("a disabled command says what it needs", "select=World Plotvane_LeftAlignment", 1,
-      "Align Left is disabled; it needs two selected elements");
-  row("a tool of the page in the map view", "view=map Plotvane_ZoomIn", 1, "needs the page layout shown");
-  row("a click in the map view", "view=map click=1,1", 1, "needs the page layout shown");
-  row("a name that is not on the page", "select=Legend", 1, "no element is named \"Legend\"");
-  row("nothing to undo", "undo", 1, "it needs a change to take back");
-  row("an answer that no dialog takes", "answer=lineEdit_DPI:96", 1, "lineEdit_DPI");
-  row("a folder that is not there", "save=none/out.kdx", 1, "none");
-  row("an unknown step", "frobnicate", 2, "\"frobnicate\" is neither");
-  row("a point without its second number", "click=1", 2, "click=X,Y");
-  row("a view that there is not", "view=globe", 2, "view=layout|map");
-}
-
-void RunSubcommandTest::aStepThatCanNotBeDoneStopsTheRun() {
-  QFETCH(QStringList, steps);
-  QFETCH(int, status);
-  QFETCH(QString, complaint);
-  auto const before = contents(folder_.path());
-  Outcome const outcome = run(QStringList{"run", "two.kdx"} + steps + QStringList{"save=out.kdx"}, folder_.path());
-  QVERIFY2(outcome.err.contains(complaint), qPrintable(outcome.err));
-  QCOMPARE(outcome.status, status);
-  bool const isLastStep = steps.last().startsWith("answer");  // told at the end, since a command may still come
-  if (!isLastStep) QVERIFY(contents(folder_.path()) == before);
-  QFile::remove(folder_.path("out.kdx"));
-}
-
-void RunSubcommandTest::undoneWorkSavesTheSameFile() {
-  QStringList const steps{"select-all", "Plotvane_TopAlignment", "Plotvane_SendToBackElements", "undo",
-                          "undo",       "save=same.kdx"};
-  Outcome const outcome = run(QStringList{"run", "two.kdx"} + steps, folder_.path());
-  QCOMPARE(outcome.status, 0);
-  auto const files = contents(folder_.path());
-  QCOMPARE(files[folder_.path("same.kdx")], files[folder_.path("two.kdx")]);
-}
 
 QTEST_GUILESS_MAIN(RunSubcommandTest)
 #include "tst_run_subcommand.moc"

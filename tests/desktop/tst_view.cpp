@@ -1,3 +1,4 @@
+#include "Rows.h"
 #include "desktop/WorkbenchPage.h"
 
 #include "host/SysCarto/layout/MapPicture.h"
@@ -57,186 +58,168 @@ class ViewTest : public QObject {
 
 private slots:
   void initTestCase() { prepareApplication(); }
-  void thePictureIsWhatTheElementsDraw_data();
-  void thePictureIsWhatTheElementsDraw();
-  void onlyWhatChangesAMapDrawsIt_data();
-  void onlyWhatChangesAMapDrawsIt();
-  void aSlowMapLetsEventsThroughAndTheNewestWins();
-  void scrollingMovesThePictureExactly_data();
-  void scrollingMovesThePictureExactly();
-  void zoomingShowsTheOldPictureUntilTheWheelRests();
-  void aDragShowsTheElementsWithoutComposingThem();
-  void theViewKeepsItsPlaceWhenTheDocumentIsSaved();
+  void thePictureIsWhatTheElementsDraw_data() {
+    Rows<int> row;
+    row("on an ordinary screen", 1);
+    row("on a screen of twice the resolution", 2);
+  }
+  void thePictureIsWhatTheElementsDraw() {
+    auto const [ratio] = fetched<int>();
+    SysCarto::MapDocument document;
+    QVERIFY(document.Open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
+    auto const layout = document.GetPageLayout();
+    layout->GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 1000, 700));
+    layout->SetExtent(make<Envelope>(0.4, 1.0, 0.4 + 1000.0 / pixelsPerCm, 1.0 + 700.0 / pixelsPerCm));
+    PagePicture picture;
+    picture.compose(*layout, ratio);
+    while (!picture.isComplete()) QVERIFY(!picture.drawSlice(*layout, 1).isEmpty());
+    auto const frame = layout->GetFocusMapFrameElement();
+    auto const labels = SysCarto::placeLabels(*frame, 300);
+    QVERIFY(labels.size() > 100);
+    frame->GetMap()->GetGraphicsContainer()->AddElements(labels);
+    QImage const expected = drawnDirectly(*layout, ratio);
+    QCOMPARE(picture.image().size(), QSize(1000, 700) * ratio);
+    int const rounding = 8;  // labels are drawn over a picture of another format
+    QVERIFY2(furthestApart(picture.image(), expected) <= rounding,
+             qPrintable(QString::number(furthestApart(picture.image(), expected))));
+  }
+
+  void onlyWhatChangesAMapDrawsIt_data() {
+    Rows<QString, bool> row;
+    for (char const* what : {"select", "drag", "nudge", "align", "restack", "undo", "pan", "lock"})
+      row(what, QString(what), false);
+    for (char const* what : {"zoom", "resize", "hide"}) row(what, QString(what), true);
+  }
+  void onlyWhatChangesAMapDrawsIt() {
+    auto const [what, draws] = fetched<QString, bool>();
+    WorkbenchPage page;
+    QVERIFY(page.bench.session().open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
+    page.add<SysCarto::RectangleElement>(2.1, 2.3, 6.6, 5.9);
+    int const before = tilesAfter(page);
+    QVERIFY(before > 0);
+
+    QPoint const onMap = page.pixel(20, 15);
+    if (what != "pan") page.click(onMap);
+    if (what == "drag") page.drag(onMap, onMap + QPoint(17, 9));
+    if (what == "nudge") page.key(Qt::Key_Left);
+    if (what == "align" || what == "undo") QVERIFY(page.run("Host_SelectAll") && page.run("Plotvane_LeftAlignment"));
+    if (what == "undo") QVERIFY(page.run("Host_Undo"));
+    if (what == "restack") QVERIFY(page.run("Plotvane_BringToFrontElements"));
+    if (what == "lock") QVERIFY(page.run("Plotvane_LockDataFrame"));
+    if (what == "pan") QVERIFY(page.run("Plotvane_Pan"));
+    if (what == "pan") page.drag(onMap, onMap + QPoint(40, -23));
+    if (what == "zoom") QVERIFY(page.run("Plotvane_ZoomToOrigin"));
+    if (what == "resize") page.drag(page.pixel(40.4, 25.6), page.pixel(35, 22));
+    if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
+    if (what == "hide") page.view().refresh(SysCarto::ViewSurface::everything);
+    QCOMPARE(tilesAfter(page) > before, draws);
+  }
+
+  void aSlowMapLetsEventsThroughAndTheNewestWins() {
+    WorkbenchPage page;
+    auto const frame = page.add<MapFrameElement>(0, 0, 21, 29.7);
+    auto const layer = make<SlowLayer>();
+    frame->GetMap()->AddLayer(layer);
+    page.run("Plotvane_ZoomToOrigin");
+    QElapsedTimer clock;
+    qint64 longestTurnMs = 0;
+    int turns = 0;
+    auto const turn = [&] {
+      clock.start();
+      QCoreApplication::processEvents();
+      longestTurnMs = qMax(longestTurnMs, clock.elapsed());
+      ++turns;
+    };
+    page.view().grab();
+    for (int i = 0; i < 3; ++i) turn();
+    QVERIFY(!page.view().isComplete());
+
+    layer->colour = Qt::blue;  // and the map's graphics change under way, so what was drawn is no longer the map
+    auto const note = make<SysCarto::TextElement>();
+    frame->GetMap()->GetGraphicsContainer()->AddElement(note);
+    while (!page.view().isComplete()) turn();
+    QImage const picture = page.view().grab().toImage();
+    for (QPoint const& at : {QPoint(5, 5), QPoint(400, 300), QPoint(790, 590)})
+      QCOMPARE(picture.pixelColor(at), QColor(Qt::blue));
+    QVERIFY2(turns > 4, qPrintable(QString::number(turns)));
+    int const aTileAndMore = 20 * SlowLayer::msPerTile;  // forty tiles are in sight; the machine may be busy
+    QVERIFY2(longestTurnMs < aTileAndMore, qPrintable(QString::number(longestTurnMs)));
+
+    frame->GetMap()->GetGraphicsContainer()->DeleteElement(note);  // as after an export, and nobody asks for a redraw
+    int const before = page.view().drawnTiles();
+    page.run("Host_Unselect");
+    page.run("Host_SelectAll");
+    QVERIFY(tilesAfter(page) > before);
+  }
+
+  void scrollingMovesThePictureExactly_data() {
+    Rows<QPoint> row;
+    row("down", QPoint(0, -120));
+    row("up and back, a little at a time", QPoint(0, 30));
+    row("aslant", QPoint(50, -70));
+  }
+  void scrollingMovesThePictureExactly() {
+    auto const [angle] = fetched<QPoint>();
+    WorkbenchPage page;
+    QVERIFY(page.bench.session().open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
+    QVERIFY(page.run("Plotvane_ZoomToOrigin"));
+    tilesAfter(page);
+    for (int i = 0; i < 3; ++i) page.wheel(angle);
+    tilesAfter(page);
+    QImage const scrolled = page.view().grab().toImage();
+    page.view().refresh(SysCarto::ViewSurface::everything);
+    QVERIFY(page.view().grab().toImage() == scrolled);
+  }
+
+  void zoomingShowsTheOldPictureUntilTheWheelRests() {
+    WorkbenchPage page;
+    page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
+    page.view().grab();
+    QPoint const centre = page.view().rect().center();
+    auto const under = page.layout()->GetDisplayTransformation()->ToMapPoint(centre);
+    double const scale = page.layout()->GetDisplayTransformation()->GetPageScale();
+    page.wheel({0, 120}, Qt::ControlModifier);
+    QCOMPARE(page.layout()->GetDisplayTransformation()->GetPageScale(), scale * 1.25);
+    auto const now = page.layout()->GetDisplayTransformation()->ToMapPoint(centre);
+    QVERIFY(qAbs(now->GetX() - under->GetX()) < 1e-9 && qAbs(now->GetY() - under->GetY()) < 1e-9);
+    QImage const scaled = page.view().grab().toImage();
+    QTest::qWait(200);
+    QVERIFY(page.view().grab().toImage() != scaled);  // sharp now
+  }
+
+  void aDragShowsTheElementsWithoutComposingThem() {
+    WorkbenchPage page;
+    auto const box = page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
+    page.click(page.pixel(6, 5));
+    QImage const before = page.view().grab().toImage();
+    page.mouse(QEvent::MouseButtonPress, page.pixel(6, 5));
+    page.mouse(QEvent::MouseMove, page.pixel(9, 9));
+    QVERIFY(page.view().grab().toImage() != before);
+    QCOMPARE(page.place(*box), QRectF(4, 4, 4, 3));
+    page.key(Qt::Key_Escape);
+    QVERIFY(page.view().grab().toImage() == before);
+  }
+
+  void theViewKeepsItsPlaceWhenTheDocumentIsSaved() {
+    QTemporaryDir folder;
+    WorkbenchPage page;
+    QVERIFY(page.run("Plotvane_ZoomToOrigin"));
+    double const scale = page.layout()->GetDisplayTransformation()->GetPageScale();
+    page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
+    QVERIFY(page.bench.session().isModified());
+    QVERIFY(page.bench.session().saveAs(folder.filePath("page.kdx")));
+    QVERIFY(!page.bench.session().isModified());
+    QCOMPARE(page.layout()->GetDisplayTransformation()->GetPageScale(), scale);
+  }
 
 private:
-  static int tilesAfter(WorkbenchPage& page);
+  static int tilesAfter(WorkbenchPage& page) {
+    page.view().grab();
+    for (int i = 0; i < 1000 && !page.view().isComplete(); ++i) QTest::qWait(1);
+    page.view().grab();
+    return page.view().drawnTiles();
+  }
 };
-
-void ViewTest::thePictureIsWhatTheElementsDraw_data() {
-  QTest::addColumn<int>("ratio");
-  QTest::newRow("on an ordinary screen") << 1;
-  QTest::newRow("on a screen of twice the resolution") << 2;
-}
-
-void ViewTest::thePictureIsWhatTheElementsDraw() {
-  QFETCH(int, ratio);
-  SysCarto::MapDocument document;
-  QVERIFY(document.Open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
-  auto const layout = document.GetPageLayout();
-  layout->GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 1000, 700));
-  layout->SetExtent(make<Envelope>(0.4, 1.0, 0.4 + 1000.0 / pixelsPerCm, 1.0 + 700.0 / pixelsPerCm));
-  PagePicture picture;
-  picture.compose(*layout, ratio);
-  while (!picture.isComplete()) QVERIFY(!picture.drawSlice(*layout, 1).isEmpty());
-  auto const frame = layout->GetFocusMapFrameElement();
-  auto const labels = SysCarto::placeLabels(*frame, 300);
-  QVERIFY(labels.size() > 100);
-  frame->GetMap()->GetGraphicsContainer()->AddElements(labels);
-  QImage const expected = drawnDirectly(*layout, ratio);
-  QCOMPARE(picture.image().size(), QSize(1000, 700) * ratio);
-  int const rounding = 8;  // labels are drawn over a picture of another format
-  QVERIFY2(furthestApart(picture.image(), expected) <= rounding,
-           qPrintable(QString::number(furthestApart(picture.image(), expected))));
-}
-
-int ViewTest::tilesAfter(WorkbenchPage& page) {
-  page.view().grab();
-  for (int i = 0; i < 1000 && !page.view().isComplete(); ++i) QTest::qWait(1);
-  page.view().grab();
-  return page.view().drawnTiles();
-}
-
-void ViewTest::onlyWhatChangesAMapDrawsIt_data() {
-  QTest::addColumn<QString>("what");
-  QTest::addColumn<bool>("draws");
-  for (char const* what : {"select", "drag", "nudge", "align", "restack", "undo", "pan", "lock"})
-    QTest::newRow(what) << QString(what) << false;
-  for (char const* what : {"zoom", "resize", "hide"}) QTest::newRow(what) << QString(what) << true;
-}
-
-void ViewTest::onlyWhatChangesAMapDrawsIt() {
-  QFETCH(QString, what);
-  QFETCH(bool, draws);
-  WorkbenchPage page;
-  QVERIFY(page.bench.session().open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
-  page.add<SysCarto::RectangleElement>(2.1, 2.3, 6.6, 5.9);
-  int const before = tilesAfter(page);
-  QVERIFY(before > 0);
-
-  QPoint const onMap = page.pixel(20, 15);
-  if (what != "pan") page.click(onMap);
-  if (what == "drag") page.drag(onMap, onMap + QPoint(17, 9));
-  if (what == "nudge") page.key(Qt::Key_Left);
-  if (what == "align" || what == "undo") QVERIFY(page.run("Host_SelectAll") && page.run("Plotvane_LeftAlignment"));
-  if (what == "undo") QVERIFY(page.run("Host_Undo"));
-  if (what == "restack") QVERIFY(page.run("Plotvane_BringToFrontElements"));
-  if (what == "lock") QVERIFY(page.run("Plotvane_LockDataFrame"));
-  if (what == "pan") QVERIFY(page.run("Plotvane_Pan"));
-  if (what == "pan") page.drag(onMap, onMap + QPoint(40, -23));
-  if (what == "zoom") QVERIFY(page.run("Plotvane_ZoomToOrigin"));
-  if (what == "resize") page.drag(page.pixel(40.4, 25.6), page.pixel(35, 22));
-  if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
-  if (what == "hide") page.view().refresh(SysCarto::ViewSurface::everything);
-  QCOMPARE(tilesAfter(page) > before, draws);
-}
-
-void ViewTest::aSlowMapLetsEventsThroughAndTheNewestWins() {
-  WorkbenchPage page;
-  auto const frame = page.add<MapFrameElement>(0, 0, 21, 29.7);
-  auto const layer = make<SlowLayer>();
-  frame->GetMap()->AddLayer(layer);
-  page.run("Plotvane_ZoomToOrigin");
-  QElapsedTimer clock;
-  qint64 longestTurnMs = 0;
-  int turns = 0;
-  auto const turn = [&] {
-    clock.start();
-    QCoreApplication::processEvents();
-    longestTurnMs = qMax(longestTurnMs, clock.elapsed());
-    ++turns;
-  };
-  page.view().grab();
-  for (int i = 0; i < 3; ++i) turn();
-  QVERIFY(!page.view().isComplete());
-
-  layer->colour = Qt::blue;  // and the map's graphics change under way, so what was drawn is no longer the map
-  auto const note = make<SysCarto::TextElement>();
-  frame->GetMap()->GetGraphicsContainer()->AddElement(note);
-  while (!page.view().isComplete()) turn();
-  QImage const picture = page.view().grab().toImage();
-  for (QPoint const& at : {QPoint(5, 5), QPoint(400, 300), QPoint(790, 590)})
-    QCOMPARE(picture.pixelColor(at), QColor(Qt::blue));
-  QVERIFY2(turns > 4, qPrintable(QString::number(turns)));
-  int const aTileAndMore = 20 * SlowLayer::msPerTile;  // forty tiles are in sight; the machine may be busy
-  QVERIFY2(longestTurnMs < aTileAndMore, qPrintable(QString::number(longestTurnMs)));
-
-  frame->GetMap()->GetGraphicsContainer()->DeleteElement(note);  // as after an export, and nobody asks for a redraw
-  int const before = page.view().drawnTiles();
-  page.run("Host_Unselect");
-  page.run("Host_SelectAll");
-  QVERIFY(tilesAfter(page) > before);
-}
-
-void ViewTest::scrollingMovesThePictureExactly_data() {
-  QTest::addColumn<QPoint>("angle");
-  QTest::newRow("down") << QPoint(0, -120);
-  QTest::newRow("up and back, a little at a time") << QPoint(0, 30);
-  QTest::newRow("aslant") << QPoint(50, -70);
-}
-
-void ViewTest::scrollingMovesThePictureExactly() {
-  QFETCH(QPoint, angle);
-  WorkbenchPage page;
-  QVERIFY(page.bench.session().open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
-  QVERIFY(page.run("Plotvane_ZoomToOrigin"));
-  tilesAfter(page);
-  for (int i = 0; i < 3; ++i) page.wheel(angle);
-  tilesAfter(page);
-  QImage const scrolled = page.view().grab().toImage();
-  page.view().refresh(SysCarto::ViewSurface::everything);
-  QVERIFY(page.view().grab().toImage() == scrolled);
-}
-
-void ViewTest::zoomingShowsTheOldPictureUntilTheWheelRests() {
-  WorkbenchPage page;
-  page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
-  page.view().grab();
-  QPoint const centre = page.view().rect().center();
-  auto const under = page.layout()->GetDisplayTransformation()->ToMapPoint(centre);
-  double const scale = page.layout()->GetDisplayTransformation()->GetPageScale();
-  page.wheel({0, 120}, Qt::ControlModifier);
-  QCOMPARE(page.layout()->GetDisplayTransformation()->GetPageScale(), scale * 1.25);
-  auto const now = page.layout()->GetDisplayTransformation()->ToMapPoint(centre);
-  QVERIFY(qAbs(now->GetX() - under->GetX()) < 1e-9 && qAbs(now->GetY() - under->GetY()) < 1e-9);
-  QImage const scaled = page.view().grab().toImage();
-  QTest::qWait(200);
-  QVERIFY(page.view().grab().toImage() != scaled);  // sharp now
-}
-
-void ViewTest::aDragShowsTheElementsWithoutComposingThem() {
-  WorkbenchPage page;
-  auto const box = page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
-  page.click(page.pixel(6, 5));
-  QImage const before = page.view().grab().toImage();
-  page.mouse(QEvent::MouseButtonPress, page.pixel(6, 5));
-  page.mouse(QEvent::MouseMove, page.pixel(9, 9));
-  QVERIFY(page.view().grab().toImage() != before);
-  QCOMPARE(page.place(*box), QRectF(4, 4, 4, 3));
-  page.key(Qt::Key_Escape);
-  QVERIFY(page.view().grab().toImage() == before);
-}
-
-void ViewTest::theViewKeepsItsPlaceWhenTheDocumentIsSaved() {
-  QTemporaryDir folder;
-  WorkbenchPage page;
-  QVERIFY(page.run("Plotvane_ZoomToOrigin"));
-  double const scale = page.layout()->GetDisplayTransformation()->GetPageScale();
-  page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
-  QVERIFY(page.bench.session().isModified());
-  QVERIFY(page.bench.session().saveAs(folder.filePath("page.kdx")));
-  QVERIFY(!page.bench.session().isModified());
-  QCOMPARE(page.layout()->GetDisplayTransformation()->GetPageScale(), scale);
-}
 
 QTEST_MAIN(ViewTest)
 #include "tst_view.moc"

@@ -1,4 +1,5 @@
 #include "LayoutHook.h"
+#include "Rows.h"
 #include "export/ExportCommand.h"
 #include "export/ExportParaDlg.h"
 #include "export/LayoutRenderer.h"
@@ -87,32 +88,25 @@ private slots:
   }
 
   void resolutionWidthAndHeightAreKeptInStep_data() {
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QStringList>("shown");  // DPI, width, height
-    QTest::addColumn<QSizeF>("pageCm");
-    auto const row = [](char const* name, char const* field, char const* typed, QStringList const& shown,
-                        QSizeF const& pageCm = {21.0, 29.7}) {
-      QTest::newRow(name) << field << typed << shown << pageCm;
-    };
-    row("a resolution", "lineEdit_DPI", "300", {"300", "2480", "3507"});
-    row("none is 1 at once", "lineEdit_DPI", "", {"1", "8", "11"});
-    row("a resolution of 0 is 1", "lineEdit_DPI", "0", {"1", "8", "11"});
-    row("letters are not taken", "lineEdit_DPI", "x300", {"300", "2480", "3507"});
-    row("more than the most can be typed", "lineEdit_DPI", "3001", {"3001", "24811", "35090"});
-    row("but no fifth digit", "lineEdit_DPI", "30010", {"3001", "24811", "35090"});
-    row("a width", "lineEdit_Width", "2480", {"300", "2480", "3507"});
-    row("a width that gives no resolution", "lineEdit_Width", "1", {"1", "1", "1"});
-    row("a width of 0", "lineEdit_Width", "0", {"1", "0", "0"});
-    row("a height", "lineEdit_Height", "3508", {"300", "2480", "3508"});
+    // shown: DPI, width, height
+    Rows<QString, QString, QStringList, QSizeF> row;
+    QSizeF const a4(21.0, 29.7);
+    row("a resolution", "lineEdit_DPI", "300", {"300", "2480", "3507"}, a4);
+    row("none is 1 at once", "lineEdit_DPI", "", {"1", "8", "11"}, a4);
+    row("a resolution of 0 is 1", "lineEdit_DPI", "0", {"1", "8", "11"}, a4);
+    row("letters are not taken", "lineEdit_DPI", "x300", {"300", "2480", "3507"}, a4);
+    row("more than the most can be typed", "lineEdit_DPI", "3001", {"3001", "24811", "35090"}, a4);
+    row("but no fifth digit", "lineEdit_DPI", "30010", {"3001", "24811", "35090"}, a4);
+    row("a width", "lineEdit_Width", "2480", {"300", "2480", "3507"}, a4);
+    row("a width that gives no resolution", "lineEdit_Width", "1", {"1", "1", "1"}, a4);
+    row("a width of 0", "lineEdit_Width", "0", {"1", "0", "0"}, a4);
+    row("a height", "lineEdit_Height", "3508", {"300", "2480", "3508"}, a4);
     row("a width on a page that has none", "lineEdit_Width", "500", {"1", "500", "0"}, {0.0, 10.0});
     row("a width without a page", "lineEdit_Width", "500", {"96", "500", "0"}, {0.0, 0.0});
   }
 
   void resolutionWidthAndHeightAreKeptInStep() {
-    QFETCH(QString, field);
-    QFETCH(QString, typed);
-    QFETCH(QSizeF, pageCm);
+    auto const [field, typed, shown, pageCm] = fetched<QString, QString, QStringList, QSizeF>();
     auto const hook =
         make<LayoutHook>(pageCm.isNull() ? make<PageLayout>() : emptyLayout(pageCm.width(), pageCm.height()));
     ExportParaDlg dialog(hook->layout, hook, nullptr);
@@ -121,9 +115,9 @@ private slots:
     QTest::keyClick(line, Qt::Key_Backspace);
     line->selectAll();
     QTest::keyClicks(line, typed);
-    QTEST((QStringList{edit(dialog, "lineEdit_DPI")->text(), edit(dialog, "lineEdit_Width")->text(),
-                       edit(dialog, "lineEdit_Height")->text()}),
-          "shown");
+    QCOMPARE((QStringList{edit(dialog, "lineEdit_DPI")->text(), edit(dialog, "lineEdit_Width")->text(),
+                          edit(dialog, "lineEdit_Height")->text()}),
+             shown);
   }
 
   void onlyAChosenFileReplacesThePath() {
@@ -141,27 +135,22 @@ private slots:
   }
 
   void anExportSaysHowItEnded_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("accept");
-    QTest::addColumn<QStringList>("said");
-    QTest::addColumn<QByteArray>("format");
+    Rows<QString, bool, QStringList, QByteArray> row;
     QStringList const complete{"Information: Export complete!"};
-    QTest::newRow("a picture") << "map.PNG" << true << complete << QByteArray("png");
-    QTest::newRow("no suffix gives a TIFF") << "map" << true << complete << QByteArray("tiff");
-    QTest::newRow("an unknown suffix, too") << "map.jpeg" << true << complete << QByteArray("tiff");
-    QTest::newRow("no path") << "" << true << QStringList{"Warning: Invalid path!"} << QByteArray();
-    QTest::newRow("a missing folder") << "nowhere/map.png" << true << QStringList() << QByteArray();
-    QTest::newRow("cancelled") << "map.png" << false << QStringList() << QByteArray();
+    row("a picture", "map.PNG", true, complete, "png");
+    row("no suffix gives a TIFF", "map", true, complete, "tiff");
+    row("an unknown suffix, too", "map.jpeg", true, complete, "tiff");
+    row("no path", "", true, {"Warning: Invalid path!"}, QByteArray());
+    row("a missing folder", "nowhere/map.png", true, QStringList(), QByteArray());
+    row("cancelled", "map.png", false, QStringList(), QByteArray());
   }
 
   void anExportSaysHowItEnded() {
-    QFETCH(QString, name);
-    QFETCH(bool, accept);
-    QFETCH(QByteArray, format);
+    auto const [name, accept, said, format] = fetched<QString, bool, QStringList, QByteArray>();
     QTemporaryDir folder;
     QString const path = name.isEmpty() ? QString() : folder.filePath(name);
     Person person;
-    person.answerParameters = [&](ExportParaDlg& dialog) {
+    person.answerParameters = [&, accept = accept](ExportParaDlg& dialog) {
       edit(dialog, "lineEdit_OutputPath")->setText(path);
       press(dialog, accept ? "pushButton" : "pushButton_2");
     };
@@ -169,7 +158,7 @@ private slots:
     ExportCommand command;
     command.OnCreate(hook->pointer());
     command.OnClick();
-    QTEST(person.said, "said");
+    QCOMPARE(person.said, said);
     QFile file(path);
     QCOMPARE(file.exists(), !format.isEmpty());
     if (!file.exists()) return;
@@ -208,24 +197,23 @@ private slots:
   }
 
   void thePreviewIsScaledFromTheDrawnPicture_data() {
-    QTest::addColumn<QVector<int>>("percents");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("as drawn") << QVector<int>{} << QSize(250, 355);
-    QTest::newRow("smallest") << QVector<int>{20} << QSize(50, 71);
-    QTest::newRow("largest") << QVector<int>{200} << QSize(500, 710);
-    QTest::newRow("cut down to whole pixels") << QVector<int>{33} << QSize(82, 117);
-    QTest::newRow("beyond the slider") << QVector<int>{19} << QSize(50, 71);
-    QTest::newRow("back to the start") << QVector<int>{20, 100} << QSize(250, 355);
+    Rows<QVector<int>, QSize> row;
+    row("as drawn", {}, QSize(250, 355));
+    row("smallest", {20}, QSize(50, 71));
+    row("largest", {200}, QSize(500, 710));
+    row("cut down to whole pixels", {33}, QSize(82, 117));
+    row("beyond the slider", {19}, QSize(50, 71));
+    row("back to the start", {20, 100}, QSize(250, 355));
   }
 
   void thePreviewIsScaledFromTheDrawnPicture() {
-    QFETCH(QVector<int>, percents);
+    auto const [percents, size] = fetched<QVector<int>, QSize>();
     auto const hook = make<LayoutHook>(emptyLayout(21.0, 29.7));
     PreView preview(nullptr);
     preview.RenderPreview(96, nullptr, hook->layout, hook);
     QImage const drawn = preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).toImage();
     for (int percent : percents) preview.findChild<QSlider*>("horizontalSlider")->setValue(percent);
-    QTEST(shownSize(preview), "size");
+    QCOMPARE(shownSize(preview), size);
     if (shownSize(preview) == drawn.size())
       QCOMPARE(preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).toImage(), drawn);
   }
@@ -264,13 +252,13 @@ private slots:
   }
 
   void aPictureThatWasNotDrawnIsNotScaled_data() {
-    QTest::addColumn<bool>("cancelled");
-    QTest::newRow("cancelled") << true;
-    QTest::newRow("a layout without a page") << false;
+    Rows<bool> row;
+    row("cancelled", true);
+    row("a layout without a page", false);
   }
 
   void aPictureThatWasNotDrawnIsNotScaled() {
-    QFETCH(bool, cancelled);
+    auto const [cancelled] = fetched<bool>();
     auto const hook = make<LayoutHook>(cancelled ? emptyLayout(5.0, 5.0) : make<PageLayout>());
     auto const cancel = make<TrackerCancel>();
     if (cancelled) cancel->Cancel();

@@ -1,4 +1,5 @@
 #include "LayoutHook.h"
+#include "Rows.h"
 #include "export/ExportCommand.h"
 #include "export/LayoutRenderer.h"
 
@@ -105,26 +106,15 @@ private slots:
   void init() { reported.clear(); }
 
   void theImageIsThePageCutDownToWholePixels_data() {
-    QTest::addColumn<double>("widthCm");
-    QTest::addColumn<double>("heightCm");
-    QTest::addColumn<int>("dpi");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QSize>("tiles");
-    QTest::addColumn<QSize>("lastTile");
-    QTest::newRow("A4 at 96") << 21.0 << 29.7 << 96 << QSize(793, 1122) << QSize(2, 3) << QSize(281, 98);
-    QTest::newRow("whole tiles get no narrow one")
-        << 25.4 << 12.7 << 512 << QSize(5120, 2560) << QSize(10, 5) << QSize(512, 512);
-    QTest::newRow("no resolution, no image") << 21.0 << 29.7 << 0 << QSize() << QSize() << QSize();
-    QTest::newRow("a negative one neither") << 21.0 << 29.7 << -300 << QSize() << QSize() << QSize();
+    Rows<double, double, int, QSize, QSize, QSize> row;
+    row("A4 at 96", 21.0, 29.7, 96, QSize(793, 1122), QSize(2, 3), QSize(281, 98));
+    row("whole tiles get no narrow one", 25.4, 12.7, 512, QSize(5120, 2560), QSize(10, 5), QSize(512, 512));
+    row("no resolution, no image", 21.0, 29.7, 0, QSize(), QSize(), QSize());
+    row("a negative one neither", 21.0, 29.7, -300, QSize(), QSize(), QSize());
   }
 
   void theImageIsThePageCutDownToWholePixels() {
-    QFETCH(double, widthCm);
-    QFETCH(double, heightCm);
-    QFETCH(int, dpi);
-    QFETCH(QSize, size);
-    QFETCH(QSize, tiles);
-    QFETCH(QSize, lastTile);
+    auto const [widthCm, heightCm, dpi, size, tiles, lastTile] = fetched<double, double, int, QSize, QSize, QSize>();
     auto const layout = emptyLayout(widthCm, heightCm);
     QCOMPARE(LayoutRenderer::imageSize(*layout->GetPage(), dpi), size);
     if (size.isEmpty()) return;
@@ -182,21 +172,17 @@ private slots:
   }
 
   void aLayerIsLeftOutBeyondItsScales_data() {
-    QTest::addColumn<double>("minScale");
-    QTest::addColumn<double>("maxScale");
-    QTest::addColumn<bool>("drawn");
-    QTest::newRow("no limits") << 0.0 << 0.0 << true;
-    QTest::newRow("between the limits") << 0.5 << 2.0 << true;
-    QTest::newRow("smaller than the smallest") << 1.5 << 2.0 << false;
-    QTest::newRow("larger than the largest") << 0.1 << 0.5 << false;
-    QTest::newRow("only a smallest, and beyond it") << 0.5 << 0.0 << true;
-    QTest::newRow("only a largest, and below it") << 0.0 << 2.0 << true;
+    Rows<double, double, bool> row;
+    row("no limits", 0.0, 0.0, true);
+    row("between the limits", 0.5, 2.0, true);
+    row("smaller than the smallest", 1.5, 2.0, false);
+    row("larger than the largest", 0.1, 0.5, false);
+    row("only a smallest, and beyond it", 0.5, 0.0, true);
+    row("only a largest, and below it", 0.0, 2.0, true);
   }
 
   void aLayerIsLeftOutBeyondItsScales() {
-    QFETCH(double, minScale);
-    QFETCH(double, maxScale);
-    QFETCH(bool, drawn);
+    auto const [minScale, maxScale, drawn] = fetched<double, double, bool>();
     auto const layout = emptyLayout(10.0, 10.0);
     auto const frame = make<MapFrameElement>();
     frame->SetGeometry(make<Envelope>(0.0, 0.0, 10.0, 10.0));
@@ -213,15 +199,13 @@ private slots:
   }
 
   void tilesDoNotShow_data() {
-    QTest::addColumn<QString>("document");
-    QTest::addColumn<int>("dpi");
+    Rows<QString, int> row;
     for (char const* document : {"world.kdx", "aegean.kdx"})
-      for (int dpi : {60, 150}) QTest::addRow("%s at %d dpi", document, dpi) << QString(document) << dpi;
+      for (int dpi : {60, 150}) row(QString("%1 at %2 dpi").arg(document).arg(dpi), document, dpi);
   }
 
   void tilesDoNotShow() {
-    QFETCH(QString, document);
-    QFETCH(int, dpi);
+    auto const [document, dpi] = fetched<QString, int>();
     MapDocument sample;
     QVERIFY2(sample.Open(PLOTVANE_SOURCE_DIR "/samples/" + document), qPrintable(sample.GetErrors().join('\n')));
     auto const layout = sample.GetPageLayout();
@@ -289,18 +273,14 @@ private slots:
   }
 
   void whatCannotBeExportedAnswersFalseAndLeavesNothing_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("dpi");
-    QTest::addColumn<bool>("hasPage");
-    QTest::newRow("no page") << "page.png" << 96 << false;
-    QTest::newRow("no resolution") << "page.png" << 0 << true;
-    QTest::newRow("no folder") << "nowhere/page.png" << 96 << true;
+    Rows<QString, int, bool> row;
+    row("no page", "page.png", 96, false);
+    row("no resolution", "page.png", 0, true);
+    row("no folder", "nowhere/page.png", 96, true);
   }
 
   void whatCannotBeExportedAnswersFalseAndLeavesNothing() {
-    QFETCH(QString, name);
-    QFETCH(int, dpi);
-    QFETCH(bool, hasPage);
+    auto const [name, dpi, hasPage] = fetched<QString, int, bool>();
     auto const layout = hasPage ? emptyLayout(5.0, 5.0) : make<PageLayout>();
     QTemporaryDir folder;
     auto const hook = make<LayoutHook>(layout);

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "export/RasterWriter.h"
 
 #include <QDir>
@@ -50,32 +52,21 @@ private slots:
   }
 
   void theSuffixNamesTheFormat_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("driver");
-    QTest::newRow("jpg") << "map.jpg"
-                         << "JPEG";
-    QTest::newRow("JPG in capitals") << "map.JPG"
-                                     << "JPEG";
-    QTest::newRow("jpeg is a TIFF") << "map.jpeg"
-                                    << "GTiff";
-    QTest::newRow("png") << "map.png"
-                         << "PNG";
-    QTest::newRow("bmp") << "map.bmp"
-                         << "BMP";
-    QTest::newRow("tif") << "map.tif"
-                         << "GTiff";
-    QTest::newRow("TIFF in capitals") << "map.TIFF"
-                                      << "GTiff";
-    QTest::newRow("no suffix") << "map"
-                               << "GTiff";
-    QTest::newRow("the last suffix counts, and letters beyond Latin stay")
-        << QString::fromUtf8("Überblick 地図.v2.png") << "PNG";
+    Rows<QString, QString> row;
+    row("jpg", "map.jpg", "JPEG");
+    row("JPG in capitals", "map.JPG", "JPEG");
+    row("jpeg is a TIFF", "map.jpeg", "GTiff");
+    row("png", "map.png", "PNG");
+    row("bmp", "map.bmp", "BMP");
+    row("tif", "map.tif", "GTiff");
+    row("TIFF in capitals", "map.TIFF", "GTiff");
+    row("no suffix", "map", "GTiff");
+    row("the last suffix counts, and letters beyond Latin stay", "Überblick 地図.v2.png", "PNG");
   }
 
   // Two tiles of unequal width; the first column of the second must be its own colour, and not the first tile's.
   void theSuffixNamesTheFormat() {
-    QFETCH(QString, name);
-    QFETCH(QString, driver);
+    auto const [name, driver] = fetched<QString, QString>();
     QTemporaryDir folder;
     QString const path = folder.filePath(name);
     {
@@ -112,15 +103,13 @@ private slots:
   }
 
   void whatCannotBeCreatedLeavesNothing_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("a folder that is not there") << "nowhere/map.png" << QSize(8, 8);
-    QTest::newRow("an image without pixels") << "map.png" << QSize(0, 0);
+    Rows<QString, QSize> row;
+    row("a folder that is not there", "nowhere/map.png", QSize(8, 8));
+    row("an image without pixels", "map.png", QSize(0, 0));
   }
 
   void whatCannotBeCreatedLeavesNothing() {
-    QFETCH(QString, name);
-    QFETCH(QSize, size);
+    auto const [name, size] = fetched<QString, QSize>();
     QTemporaryDir folder;
     RasterWriter writer(folder.filePath(name));
     QVERIFY(!writer.create(size));

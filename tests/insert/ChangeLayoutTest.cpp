@@ -1,4 +1,5 @@
 #include "InsertDesktop.h"
+#include "Rows.h"
 #include "insert/ChangePageLayout.h"
 
 #include "host/SysCarto/layout/GraphicElements.h"
@@ -112,13 +113,13 @@ private slots:
   }
 
   void theShippedTemplatesExplainTheFirstMap_data() {
-    QTest::addColumn<QString>("file");
-    QTest::newRow("report") << "a4-report.kdx";
-    QTest::newRow("poster") << "a3-poster.kdx";
+    Rows<QString> row;
+    row("report", "a4-report.kdx");
+    row("poster", "a3-poster.kdx");
   }
 
   void theShippedTemplatesExplainTheFirstMap() {
-    QFETCH(QString, file);
+    auto const [file] = fetched<QString>();
     QList<_ptr_t<Map>> maps;
     old_->GetMaps(maps);
     choose(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/templates/") + file);
@@ -152,18 +153,15 @@ private slots:
   }
 
   void aBadTemplateIsRefusedAndNothingChanges_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("no document") << QByteArray("{\"format\":\"plotvane-style\"}") << "format: is not";
-    QTest::newRow("not even JSON") << QByteArray("page") << "this is not JSON";
-    QTest::newRow("a newer version") << QByteArray("{\"format\":\"plotvane-document\",\"version\":99}")
-                                     << "newer version";
-    QTest::newRow("without a page") << QByteArray("{\"format\":\"plotvane-document\",\"version\":1}") << "has no page";
+    Rows<QByteArray, QString> row;
+    row("no document", "{\"format\":\"plotvane-style\"}", "format: is not");
+    row("not even JSON", "page", "this is not JSON");
+    row("a newer version", "{\"format\":\"plotvane-document\",\"version\":99}", "newer version");
+    row("without a page", "{\"format\":\"plotvane-document\",\"version\":1}", "has no page");
   }
 
   void aBadTemplateIsRefusedAndNothingChanges() {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, reason);
+    auto const [content, reason] = fetched<QByteArray, QString>();
     QString const file = writeFile("bad.kdx", content);
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(file) + ".*" + reason + ".*"));
     choose(file, [] {

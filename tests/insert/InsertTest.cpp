@@ -1,4 +1,5 @@
 #include "InsertDesktop.h"
+#include "Rows.h"
 #include "insert/AddGridCommand.h"
 #include "insert/AddMapFrameElementTool.h"
 #include "insert/AddNorthArrowCommand.h"
@@ -26,8 +27,6 @@
 
 using Create = SysFramework::BaseCommand* (*)();
 using Place = SysUtility::_ptr_t<SysGeometry::Envelope> (SysCarto::PageLayout::*)() const;
-Q_DECLARE_METATYPE(Create)
-Q_DECLARE_METATYPE(Place)
 
 using namespace Plugin;
 using namespace SysCarto;
@@ -132,20 +131,18 @@ private slots:
   }
 
   void aNewMapTakesTheFirstFreeName_data() {
-    QTest::addColumn<QStringList>("present");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("the first") << QStringList() << "Map1";
-    QTest::newRow("a gap") << QStringList{"Map1", "Map3"} << "Map2";
-    QTest::newRow("letters count as they are") << QStringList{"Map1", "map2"} << "Map2";
-    QTest::newRow("no leading zeros") << QStringList{"Map01"} << "Map1";
+    Rows<QStringList, QString> row;
+    row("the first", QStringList(), "Map1");
+    row("a gap", {"Map1", "Map3"}, "Map2");
+    row("letters count as they are", {"Map1", "map2"}, "Map2");
+    row("no leading zeros", {"Map01"}, "Map1");
     QStringList all;
     for (int i = 1; i <= 999; ++i) all << QString("Map%1").arg(i);
-    QTest::newRow("none is free") << all << "Map999";
+    row("none is free", all, "Map999");
   }
 
   void aNewMapTakesTheFirstFreeName() {
-    QFETCH(QStringList, present);
-    QFETCH(QString, name);
+    auto const [present, name] = fetched<QStringList, QString>();
     for (QString const& one : present) container()->AddElement(frameNamed(one));
     click<AddMapFrameElementTool>();
     QCOMPARE(ptr_cast<MapFrameElement>(elements().last())->GetMap()->GetName(), name);
@@ -173,24 +170,16 @@ private slots:
   }
 
   void aSurroundIsAddedAtItsPlaceAndSelectedAlone_data() {
-    QTest::addColumn<Create>("create");
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<Place>("place");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("legend") << created<AddLegendCommand>() << 1 << Place(&PageLayout::GetDefaultLegendEnvelope)
-                            << "Add a legend";
-    QTest::newRow("scale bar") << created<AddScaleBarCommand>() << 2 << Place(&PageLayout::GetDefaultScaleBarEnvelope)
-                               << "Add a scale bar";
-    QTest::newRow("scale text") << created<AddScaleTextCommand>() << 3
-                                << Place(&PageLayout::GetDefaultScaleTextEnvelope)
-                                << "Add a text of description of the scale";
+    Rows<Create, int, Place, QString> row;
+    row("legend", created<AddLegendCommand>(), 1, Place(&PageLayout::GetDefaultLegendEnvelope), "Add a legend");
+    row("scale bar", created<AddScaleBarCommand>(), 2, Place(&PageLayout::GetDefaultScaleBarEnvelope),
+        "Add a scale bar");
+    row("scale text", created<AddScaleTextCommand>(), 3, Place(&PageLayout::GetDefaultScaleTextEnvelope),
+        "Add a text of description of the scale");
   }
 
   void aSurroundIsAddedAtItsPlaceAndSelectedAlone() {
-    QFETCH(Create, create);
-    QFETCH(int, kind);
-    QFETCH(Place, place);
-    QFETCH(QString, name);
+    auto const [create, kind, place, name] = fetched<Create, int, Place, QString>();
     _ptr_t<BaseCommand> const command(create());
     command->OnCreate(hook_->pointer());
     auto const first = frameNamed("First"), focus = frameNamed("Focus");
@@ -220,15 +209,15 @@ private slots:
   }
 
   void onlyTheLayoutViewEnablesInsertion_data() {
-    QTest::addColumn<Create>("create");
-    QTest::newRow("data frame") << created<AddMapFrameElementTool>();
-    QTest::newRow("legend") << created<AddLegendCommand>();
-    QTest::newRow("north arrow") << created<AddNorthArrowCommand>();
-    QTest::newRow("grid") << created<AddGridCommand>();
+    Rows<Create> row;
+    row("data frame", created<AddMapFrameElementTool>());
+    row("legend", created<AddLegendCommand>());
+    row("north arrow", created<AddNorthArrowCommand>());
+    row("grid", created<AddGridCommand>());
   }
 
   void onlyTheLayoutViewEnablesInsertion() {
-    QFETCH(Create, create);
+    auto const [create] = fetched<Create>();
     _ptr_t<BaseCommand> const command(create());
     command->OnCreate(hook_->pointer());
     QVERIFY(command->IsEnable());
@@ -242,25 +231,17 @@ private slots:
   }
 
   void theLibrariesAreSearchedInTheirOrder_data() {
-    QTest::addColumn<QString>("setting");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<double>("size");  // of the arrow that is inserted; 0 for a new one's own
-    QTest::newRow("one that exists among empty parts and missing files") << "@/a.style,,@/b.style"
-                                                                         << "@/a.style,,@/b.style" << 22.0;
-    QTest::newRow("the first that has an arrow") << "@/none.style,@/c.style,@/b.style"
-                                                 << "@/none.style,@/c.style,@/b.style" << 33.0;
-    QTest::newRow("missing files alone are replaced") << "@/x.style,@/y.style"
-                                                      << "@/ORV.style" << 11.0;
-    QTest::newRow("an empty setting is replaced") << ""
-                                                  << "@/ORV.style" << 11.0;
-    QTest::newRow("blanks are part of a name") << " @/b.style"
-                                               << "@/ORV.style" << 11.0;
+    // size: of the arrow that is inserted; 0 for a new one's own
+    Rows<QString, QString, double> row;
+    row("one that exists among empty parts and missing files", "@/a.style,,@/b.style", "@/a.style,,@/b.style", 22.0);
+    row("the first that has an arrow", "@/none.style,@/c.style,@/b.style", "@/none.style,@/c.style,@/b.style", 33.0);
+    row("missing files alone are replaced", "@/x.style,@/y.style", "@/ORV.style", 11.0);
+    row("an empty setting is replaced", "", "@/ORV.style", 11.0);
+    row("blanks are part of a name", " @/b.style", "@/ORV.style", 11.0);
   }
 
   void theLibrariesAreSearchedInTheirOrder() {
-    QFETCH(QString, setting);
-    QFETCH(QString, after);
-    QFETCH(double, size);
+    auto [setting, after, size] = fetched<QString, QString, double>();
     writeLibrary("ORV.style", "NorthArrows", 11);
     writeLibrary("b.style", "NorthArrows", 22);
     writeLibrary("c.style", "NorthArrows", 33);
@@ -327,21 +308,19 @@ private slots:
   }
 
   void aGridIsNamedAfterTheLastGraticule_data() {
-    QTest::addColumn<QStringList>("present");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("the first of the series") << QStringList{"Graticule"} << "Graticule1";
-    QTest::newRow("further on") << QStringList{"Graticule", "Graticule1"} << "Graticule2";
-    QTest::newRow("the last one counts") << QStringList{"Graticule7", "Graticule1"} << "Graticule2";
-    QTest::newRow("a name of one's own") << QStringList{"MyGrid"} << "Graticule1";
-    QTest::newRow("nine letters, whatever they are") << QStringList{"MyGrid---12"} << "Graticule13";
-    QTest::newRow("minus one begins again") << QStringList{"Graticule-1"} << "Graticule";
-    QTest::newRow("the highest number") << QStringList{"Graticule2147483647"} << "Graticule2147483648";
-    QTest::newRow("minus five goes up") << QStringList{"Graticule-5"} << "Graticule-4";
+    Rows<QStringList, QString> row;
+    row("the first of the series", {"Graticule"}, "Graticule1");
+    row("further on", {"Graticule", "Graticule1"}, "Graticule2");
+    row("the last one counts", {"Graticule7", "Graticule1"}, "Graticule2");
+    row("a name of one's own", {"MyGrid"}, "Graticule1");
+    row("nine letters, whatever they are", {"MyGrid---12"}, "Graticule13");
+    row("minus one begins again", {"Graticule-1"}, "Graticule");
+    row("the highest number", {"Graticule2147483647"}, "Graticule2147483648");
+    row("minus five goes up", {"Graticule-5"}, "Graticule-4");
   }
 
   void aGridIsNamedAfterTheLastGraticule() {
-    QFETCH(QStringList, present);
-    QFETCH(QString, name);
+    auto const [present, name] = fetched<QStringList, QString>();
     addFrameWithGraticules(present);
     answerQuestion(QMessageBox::Yes);
     click<AddGridCommand>();
@@ -396,16 +375,13 @@ private slots:
   }
 
   void conversionIsForConvertibleKinds_data() {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<bool>("convertible");
+    Rows<int, bool> row;
     for (int kind : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11})
-      QTest::newRow(qPrintable(QString("kind %1").arg(kind)))
-          << kind << (kind > 0 && kind < 10 && kind != 4 && kind != 5);
+      row(QString("kind %1").arg(kind), kind, (kind > 0 && kind < 10 && kind != 4 && kind != 5));
   }
 
   void conversionIsForConvertibleKinds() {
-    QFETCH(int, kind);
-    QFETCH(bool, convertible);
+    auto const [kind, convertible] = fetched<int, bool>();
     ConvertToGraphics command;
     command.OnCreate(hook_->pointer());
     QVERIFY(!command.IsEnable());

@@ -1,4 +1,5 @@
 #include "LayoutHook.h"
+#include "Rows.h"
 #include "navigation/PageExtentCommands.h"
 #include "navigation/PagePanTool.h"
 #include "navigation/PageZoomTools.h"
@@ -64,26 +65,18 @@ private slots:
   }
 
   void toolsDrawOverThePictureInOnePassAMove_data() {
-    QTest::addColumn<QString>("identifier");
-    QTest::addColumn<QStringList>("calls");
-    QTest::newRow("zooming in")
-        << "in"
-        << QStringList{
-               "begin",      "line 5 10 10 at scale 1", "end", "begin", "line 5 14 10 at scale 1", "end", "clear",
-               "refresh 255"};
-    QTest::newRow("zooming out")
-        << "out"
-        << QStringList{
-               "begin",      "fill 5 10 10 at scale 1", "end", "begin", "fill 5 14 10 at scale 1", "end", "clear",
-               "refresh 255"};
-    QTest::newRow("panning, always from the press")
-        << "pan" << QStringList{"closed hand",    "begin", "offset 250 100", "end",         "begin",
-                                "offset 450 300", "end",   "clear",          "refresh 255", "own cursor"};
+    Rows<QString, QStringList> row;
+    row("zooming in", "in",
+        {"begin", "line 5 10 10 at scale 1", "end", "begin", "line 5 14 10 at scale 1", "end", "clear", "refresh 255"});
+    row("zooming out", "out",
+        {"begin", "fill 5 10 10 at scale 1", "end", "begin", "fill 5 14 10 at scale 1", "end", "clear", "refresh 255"});
+    row("panning, always from the press", "pan",
+        {"closed hand", "begin", "offset 250 100", "end", "begin", "offset 450 300", "end", "clear", "refresh 255",
+         "own cursor"});
   }
 
   void toolsDrawOverThePictureInOnePassAMove() {
-    QFETCH(QString, identifier);
-    QFETCH(QStringList, calls);
+    auto const [identifier, calls] = fetched<QString, QStringList>();
     RecordingSurface surface;
     hook_->layout->setSurface(&surface);
     _ptr_t<BaseTool> tool = make<Plugin::PagePanTool>();
@@ -104,46 +97,33 @@ private slots:
   }
 
   void zoomingIn_data() {
-    QTest::addColumn<QPoint>("press");
-    QTest::addColumn<QPoint>("release");
-    QTest::addColumn<QRectF>("shown");  // as x, y of the lower left corner, width, height
-    QTest::newRow("a click centres on the point")
-        << QPoint(250, 250) << QPoint(250, 250) << QRectF(5 - 9, 10 - 6.75, 18, 13.5);
-    QTest::newRow("a drag shows the rectangle") << QPoint(500, 375) << QPoint(900, 675) << QRectF(10, 1.5, 8, 6);
-    QTest::newRow("from the other corner as well") << QPoint(900, 675) << QPoint(500, 375) << QRectF(10, 1.5, 8, 6);
-    QTest::newRow("a flat drag takes the view's aspect")
-        << QPoint(500, 375) << QPoint(900, 375) << QRectF(10, 7.5 - 3, 8, 6);
+    // shown: as x, y of the lower left corner, width, height
+    Rows<QPoint, QPoint, QRectF> row;
+    row("a click centres on the point", QPoint(250, 250), QPoint(250, 250), QRectF(5 - 9, 10 - 6.75, 18, 13.5));
+    row("a drag shows the rectangle", QPoint(500, 375), QPoint(900, 675), QRectF(10, 1.5, 8, 6));
+    row("from the other corner as well", QPoint(900, 675), QPoint(500, 375), QRectF(10, 1.5, 8, 6));
+    row("a flat drag takes the view's aspect", QPoint(500, 375), QPoint(900, 375), QRectF(10, 7.5 - 3, 8, 6));
   }
 
   void zoomingIn() {
-    QFETCH(QPoint, press);
-    QFETCH(QPoint, release);
-    QFETCH(QRectF, shown);
+    auto const [press, release, shown] = fetched<QPoint, QPoint, QRectF>();
     drag(make<Plugin::PageZoomInTool>(), press, release);
     expectShown(shown);
   }
 
   void zoomingOut_data() {
-    QTest::addColumn<QPoint>("press");
-    QTest::addColumn<QPoint>("release");
-    QTest::addColumn<QRectF>("shown");
-    QTest::newRow("a click centres on the press")
-        << QPoint(250, 250) << QPoint(250, 250) << QRectF(5 - 11, 10 - 8.25, 22, 16.5);
-    QTest::newRow("flat in one direction is a click")
-        << QPoint(250, 250) << QPoint(350, 250) << QRectF(5 - 11, 10 - 8.25, 22, 16.5);
-    QTest::newRow("a quarter of the extent folds to 1")
-        << QPoint(0, 750) << QPoint(250, 750 - 188) << QRectF();  // a ratio just under 4 folds to just under 2
-    QTest::newRow("half of it doubles") << QPoint(0, 750) << QPoint(500, 375) << QRectF(5 - 20, 3.75 - 15, 40, 30);
-    QTest::newRow("two fifths fold 2.5 to 1.5")
-        << QPoint(0, 750) << QPoint(400, 450) << QRectF(4 - 15, 3 - 11.25, 30, 22.5);
-    QTest::newRow("the smaller ratio counts")
-        << QPoint(0, 750) << QPoint(800, 700) << QRectF(8 - 12.5, 0.5 - 9.375, 25, 18.75);
+    Rows<QPoint, QPoint, QRectF> row;
+    row("a click centres on the press", QPoint(250, 250), QPoint(250, 250), QRectF(5 - 11, 10 - 8.25, 22, 16.5));
+    row("flat in one direction is a click", QPoint(250, 250), QPoint(350, 250), QRectF(5 - 11, 10 - 8.25, 22, 16.5));
+    row("a quarter of the extent folds to 1", QPoint(0, 750), QPoint(250, 750 - 188),
+        QRectF());  // a ratio just under 4 folds to just under 2
+    row("half of it doubles", QPoint(0, 750), QPoint(500, 375), QRectF(5 - 20, 3.75 - 15, 40, 30));
+    row("two fifths fold 2.5 to 1.5", QPoint(0, 750), QPoint(400, 450), QRectF(4 - 15, 3 - 11.25, 30, 22.5));
+    row("the smaller ratio counts", QPoint(0, 750), QPoint(800, 700), QRectF(8 - 12.5, 0.5 - 9.375, 25, 18.75));
   }
 
   void zoomingOut() {
-    QFETCH(QPoint, press);
-    QFETCH(QPoint, release);
-    QFETCH(QRectF, shown);
+    auto const [press, release, shown] = fetched<QPoint, QPoint, QRectF>();
     drag(make<Plugin::PageZoomOutTool>(), press, release);
     if (!shown.isNull()) return expectShown(shown);
     QVERIFY(hook_->layout->GetExtent()->GetWidth() > 1.9 * extentWidth);

@@ -1,4 +1,5 @@
 #include "LayoutHook.h"
+#include "Rows.h"
 #include "host/SysCarto/layout/GraphicElements.h"
 #include "host/SysCarto/layout/ViewSurface.h"
 #include "pagesetup/PageSettingCommand.h"
@@ -111,15 +112,8 @@ class PageSetupTest : public QObject {
 
 private slots:
   void theFieldsFollowFormAndOrientation_data() {
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<int>("orientation");
-    QTest::addColumn<QStringList>("steps");
-    QTest::addColumn<QStringList>("size");
-    QTest::addColumn<bool>("editable");
+    Rows<QString, int, QStringList, QStringList, bool> row;
     QString const lie = "radioButton_H", stand = "radioButton_V";
-    auto const row = [](char const* name, char const* page, int orientation, QStringList const& steps,
-                        QStringList const& size,
-                        bool editable) { QTest::newRow(name) << page << orientation << steps << size << editable; };
     row("at first, a form", "A4", 1, {}, {"21", "29.7"}, false);
     row("at first, one that lies", "A4", 2, {}, {"29.7", "21"}, false);
     row("at first, a size of its own that lies", "Custom", 2, {}, {"20", "10"}, true);
@@ -134,9 +128,7 @@ private slots:
   }
 
   void theFieldsFollowFormAndOrientation() {
-    QFETCH(QString, page);
-    QFETCH(int, orientation);
-    QFETCH(QStringList, steps);
+    auto const [page, orientation, steps, size, editable] = fetched<QString, int, QStringList, QStringList, bool>();
     PageSizeTabPage tab(layoutOf(qPrintable(page), static_cast<short>(orientation)), nullptr);
     Person const person(tab);
     QSignalSpy const changes(&tab, &PageSizeTabPage::ValueChanged);
@@ -145,9 +137,9 @@ private slots:
         person.press(qPrintable(step));
       else
         person.choose(qPrintable(step));
-    QTEST((QStringList{person.width(), person.height()}), "size");
-    QTEST(person.find<QLineEdit>("lineEdit_PageWidth")->isEnabled(), "editable");
-    QTEST(person.find<QLineEdit>("lineEdit_PageHeight")->isEnabled(), "editable");
+    QCOMPARE((QStringList{person.width(), person.height()}), size);
+    QCOMPARE(person.find<QLineEdit>("lineEdit_PageWidth")->isEnabled(), editable);
+    QCOMPARE(person.find<QLineEdit>("lineEdit_PageHeight")->isEnabled(), editable);
     QCOMPARE(changes.count(), steps.size());
   }
 
@@ -166,30 +158,17 @@ private slots:
   }
 
   void thePageTakesWhatTheTabShows_data() {
-    QTest::addColumn<QString>("form");
-    QTest::addColumn<bool>("landscape");
-    QTest::addColumn<QString>("width");
-    QTest::addColumn<QString>("height");
-    QTest::addColumn<QSizeF>("size");
-    QTest::newRow("a listed form") << "A3" << false << ""
-                                   << "" << QSizeF(29.7, 42.0);
-    QTest::newRow("a listed form that lies") << "A3" << true << ""
-                                             << "" << QSizeF(42.0, 29.7);
-    QTest::newRow("a size of its own") << "Custom" << false << "12.5"
-                                       << "30.0" << QSizeF(12.5, 30.0);
-    QTest::newRow("one that lies is stored the portrait way") << "Custom" << true << "29.7"
-                                                              << "21.0" << QSizeF(29.7, 21.0);
-    QTest::newRow("a size of 0") << "Custom" << false << "0"
-                                 << "21.0" << QSizeF(0, 21.0);
-    QTest::newRow("a size that is no number is 0") << "Custom" << false << "."
-                                                   << "21.0" << QSizeF(0, 21.0);
+    Rows<QString, bool, QString, QString, QSizeF> row;
+    row("a listed form", "A3", false, "", "", QSizeF(29.7, 42.0));
+    row("a listed form that lies", "A3", true, "", "", QSizeF(42.0, 29.7));
+    row("a size of its own", "Custom", false, "12.5", "30.0", QSizeF(12.5, 30.0));
+    row("one that lies is stored the portrait way", "Custom", true, "29.7", "21.0", QSizeF(29.7, 21.0));
+    row("a size of 0", "Custom", false, "0", "21.0", QSizeF(0, 21.0));
+    row("a size that is no number is 0", "Custom", false, ".", "21.0", QSizeF(0, 21.0));
   }
 
   void thePageTakesWhatTheTabShows() {
-    QFETCH(QString, form);
-    QFETCH(bool, landscape);
-    QFETCH(QString, width);
-    QFETCH(QString, height);
+    auto const [form, landscape, width, height, size] = fetched<QString, bool, QString, QString, QSizeF>();
     auto const layout = layoutOf("A4", 1);
     PageSizeTabPage tab(layout, nullptr);
     Person const person(tab);
@@ -201,7 +180,7 @@ private slots:
     }
     QCOMPARE(sizeOf(layout), QSizeF(21.0, 29.7));
     tab.ApplyToPage();
-    QTEST(sizeOf(layout), "size");
+    QCOMPARE(sizeOf(layout), size);
     QCOMPARE(layout->GetPage()->GetOrientation(), short(landscape ? 2 : 1));
     FormInfo custom;
     Paper::GetFormInfo(customPageForm, custom);
@@ -209,18 +188,14 @@ private slots:
   }
 
   void elementsFollowThePageWhereThatIsWanted_data() {
-    QTest::addColumn<bool>("wanted");
-    QTest::addColumn<QString>("width");
-    QTest::addColumn<bool>("moved");
-    QTest::newRow("wanted") << true << "40.0" << true;
-    QTest::newRow("not wanted") << false << "40.0" << false;
-    QTest::newRow("never to a page without width") << true << "0" << false;
+    Rows<bool, QString, bool> row;
+    row("wanted", true, "40.0", true);
+    row("not wanted", false, "40.0", false);
+    row("never to a page without width", true, "0", false);
   }
 
   void elementsFollowThePageWhereThatIsWanted() {
-    QFETCH(bool, wanted);
-    QFETCH(QString, width);
-    QFETCH(bool, moved);
+    auto const [wanted, width, moved] = fetched<bool, QString, bool>();
     auto const layout = emptyLayout(20.0, 10.0);
     auto const hook = make<LayoutHook>(layout);
     auto const frame = make<MapFrameElement>();
@@ -248,21 +223,16 @@ private slots:
   }
 
   void theDialogAppliesOnceAndShowsTheWholePage_data() {
-    QTest::addColumn<QStringList>("buttons");
-    QTest::addColumn<bool>("changes");
-    QTest::addColumn<bool>("applied");
-    QTest::addColumn<int>("redraws");
-    QTest::newRow("OK without a change") << QStringList{"OK"} << false << false << 1;
-    QTest::newRow("OK with a change") << QStringList{"OK"} << true << true << 2;
-    QTest::newRow("Apply and OK") << QStringList{"Apply", "OK"} << true << true << 2;
-    QTest::newRow("Apply and Cancel") << QStringList{"Apply", "Cancel"} << true << true << 1;
-    QTest::newRow("Cancel") << QStringList{"Cancel"} << true << false << 0;
+    Rows<QStringList, bool, bool, int> row;
+    row("OK without a change", {"OK"}, false, false, 1);
+    row("OK with a change", {"OK"}, true, true, 2);
+    row("Apply and OK", {"Apply", "OK"}, true, true, 2);
+    row("Apply and Cancel", {"Apply", "Cancel"}, true, true, 1);
+    row("Cancel", {"Cancel"}, true, false, 0);
   }
 
   void theDialogAppliesOnceAndShowsTheWholePage() {
-    QFETCH(QStringList, buttons);
-    QFETCH(bool, changes);
-    QFETCH(bool, applied);
+    auto const [buttons, changes, applied, redraws] = fetched<QStringList, bool, bool, int>();
     auto const layout = layoutOf("A4", 1);
     CountingSurface surface;
     layout->setSurface(&surface);
@@ -272,7 +242,7 @@ private slots:
     command.OnCreate(hook->pointer());
     QVERIFY(command.IsEnable());
 
-    atNextDialog([&](QDialog& dialog) {
+    atNextDialog([&buttons = buttons, changes = changes](QDialog& dialog) {
       Person const person(dialog);
       QVERIFY(!(dialog.windowFlags() & Qt::WindowContextHelpButtonHint));
       QCOMPARE(person.find<QTabWidget>("tabWidget")->count(), 2);
@@ -286,7 +256,7 @@ private slots:
     command.OnClick();
 
     QCOMPARE(layout->GetPage()->GetFormID(), formNamed(applied ? "A3" : "A4"));
-    QTEST(surface.redraws, "redraws");
+    QCOMPARE(surface.redraws, redraws);
     bool const isWhole = layout->GetExtent()->Contains(layout->GetPage()->GetPageEnvelope());
     QCOMPARE(isWhole, surface.redraws > 0);
     layout->setSurface(nullptr);

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysFramework/Translations.h"
 
 #include <SysUI/CMDPluginModule.h>
@@ -27,39 +29,35 @@ private slots:
   }
 
   void anUnknownIdentifierGivesNoCommand_data() {
-    QTest::addColumn<QString>("id");
-    QTest::newRow("an empty one") << QString();
-    QTest::newRow("the prefix alone") << "Plotvane_";
-    QTest::newRow("a known one with a letter more") << "Plotvane_ZoomInX";
-    QTest::newRow("one without the prefix") << "ZoomIn";
+    Rows<QString> row;
+    row("an empty one", QString());
+    row("the prefix alone", "Plotvane_");
+    row("a known one with a letter more", "Plotvane_ZoomInX");
+    row("one without the prefix", "ZoomIn");
   }
 
   void anUnknownIdentifierGivesNoCommand() {
-    QFETCH(QString, id);
+    auto const [id] = fetched<QString>();
     _ptr_t<CMDPluginModule> const module(entry_());
     QVERIFY(!module->CreateCommand(id, QString()));
   }
 
   void textsAreTranslated_data() {
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("operation");
-    QTest::newRow("English stays") << QLocale("en_GB") << "Output file:"
-                                   << "Aligh the selected elements to the left";
-    QTest::newRow("a language that we have not stays English") << QLocale("fi_FI") << "Output file:"
-                                                               << "Aligh the selected elements to the left";
-    QTest::newRow("German, also of another country") << QLocale("de_AT") << "Ausgabedatei:"
-                                                     << "Ausgewählte Elemente linksbündig ausrichten";
-    QTest::newRow("Chinese") << QLocale("zh_CN") << "输出文件："
-                             << "将所选元素左对齐";
+    Rows<QLocale, QString, QString> row;
+    row("English stays", QLocale("en_GB"), "Output file:", "Aligh the selected elements to the left");
+    row("a language that we have not stays English", QLocale("fi_FI"),
+        "Output file:", "Aligh the selected elements to the left");
+    row("German, also of another country", QLocale("de_AT"),
+        "Ausgabedatei:", "Ausgewählte Elemente linksbündig ausrichten");
+    row("Chinese", QLocale("zh_CN"), "输出文件：", "将所选元素左对齐");
   }
 
   // Translators stay for good, so the rows run in this order: each one goes over those before it.
   void textsAreTranslated() {
-    QFETCH(QLocale, locale);
+    auto const [locale, text, operation] = fetched<QLocale, QString, QString>();
     SysFramework::installTranslations(locale);
-    QTEST(QCoreApplication::translate("ExportParaDlg", "Output file:"), "text");
-    QTEST(QCoreApplication::translate("LeftAlignmentElement", "Aligh the selected elements to the left"), "operation");
+    QCOMPARE(QCoreApplication::translate("ExportParaDlg", "Output file:"), text);
+    QCOMPARE(QCoreApplication::translate("LeftAlignmentElement", "Aligh the selected elements to the left"), operation);
   }
 
 private:

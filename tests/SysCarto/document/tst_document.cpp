@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include <SysCarto/Editor.h>
 #include <SysCarto/Graticule.h>
 #include <SysCarto/GroupElement.h>
@@ -167,60 +169,53 @@ private slots:
   }
 
   void aBadFieldIsNamedAndNothingIsOpened_data() {
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QJsonValue>("value");
-    QTest::addColumn<QString>("complaint");
+    Rows<QString, QJsonValue, QString> row;
     QJsonValue const gone(QJsonValue::Undefined);
     // clang-format off
-    QTest::newRow("another format")           << "format"    << QJsonValue("other") << "format: is not “plotvane-document”";
-    QTest::newRow("no format")                << "format"    << gone                << "format: is missing";
-    QTest::newRow("a newer version")          << "version"   << QJsonValue(2)       << "version: the document was written by a newer version";
-    QTest::newRow("version 0")                << "version"   << QJsonValue(0)       << "version: 0 is not between";
-    QTest::newRow("a text for a flag")        << "relativePaths" << QJsonValue("no") << "relativePaths: expected true or false, found a text";
-    QTest::newRow("an object for a list")     << "maps"      << QJsonValue(QJsonObject()) << "maps: expected a list";
-    QTest::newRow("a number for a map")       << "maps.1"    << QJsonValue(7)       << "maps[1]: expected an object";
-    QTest::newRow("a name without end")       << "maps.0.name" << QJsonValue(QString(16385, 'n'))
-                                              << "maps[0].name: the text has 16385 characters; at most 16384";
-    QTest::newRow("null for a name")          << "maps.0.name" << QJsonValue()      << "maps[0].name: expected a text, found null";
-    QTest::newRow("an unknown system")        << "maps.0.coordinateSystem" << QJsonValue("EPSG:99999") << "maps[0].coordinateSystem: “EPSG:99999”";
-    QTest::newRow("a system from a file")     << "maps.0.coordinateSystem" << QJsonValue("/etc/passwd") << "maps[0].coordinateSystem: ";
-    QTest::newRow("bounds of three numbers")  << "maps.0.bounds" << QJsonValue(QJsonArray{0, 0, 1}) << "maps[0].bounds: expected 4 numbers";
-    QTest::newRow("bounds without a size")    << "maps.0.bounds" << QJsonValue(QJsonArray{5, 5, 5, 5}) << "maps[0].bounds: must be";
-    QTest::newRow("bounds turned over")       << "maps.0.bounds" << QJsonValue(QJsonArray{5, 5, 1, 9}) << "maps[0].bounds: must be";
-    QTest::newRow("bounds beyond all maps")   << "maps.1.bounds.2" << QJsonValue(1e308) << "maps[1].bounds[2]: 1e+308 is not between";
-    QTest::newRow("a focus that is no map")   << "layout.focusMap" << QJsonValue(2)     << "layout.focusMap: 2 is not between 0 and 1";
-    QTest::newRow("a focus between two maps") << "layout.focusMap" << QJsonValue(0.5)   << "layout.focusMap: 0.5 is not a whole number";
-    QTest::newRow("a handle used twice")      << "elements.1.handle" << QJsonValue(1)   << "elements[1].handle";
-    QTest::newRow("a negative handle")        << "elements.1.handle" << QJsonValue(-1)  << "elements[1].handle";
-    QTest::newRow("an element of no type")    << "elements.2.type" << QJsonValue("")    << "elements[2].type";
-    QTest::newRow("a data frame on a map")    << "maps.0.graphics.0" << QJsonValue(QJsonDocument::fromJson(sample_).object()["elements"].toArray()[1]) << "maps[0].graphics[0].type: data frames";
+    row("another format", "format", "other", "format: is not “plotvane-document”");
+    row("no format", "format", gone, "format: is missing");
+    row("a newer version", "version", 2, "version: the document was written by a newer version");
+    row("version 0", "version", 0, "version: 0 is not between");
+    row("a text for a flag", "relativePaths", "no", "relativePaths: expected true or false, found a text");
+    row("an object for a list", "maps", QJsonObject(), "maps: expected a list");
+    row("a number for a map", "maps.1", 7, "maps[1]: expected an object");
+    row("a name without end", "maps.0.name", QString(16385, 'n'), "maps[0].name: the text has 16385 characters; at most 16384");
+    row("null for a name", "maps.0.name", QJsonValue(), "maps[0].name: expected a text, found null");
+    row("an unknown system", "maps.0.coordinateSystem", "EPSG:99999", "maps[0].coordinateSystem: “EPSG:99999”");
+    row("a system from a file", "maps.0.coordinateSystem", "/etc/passwd", "maps[0].coordinateSystem: ");
+    row("bounds of three numbers", "maps.0.bounds", QJsonArray{0, 0, 1}, "maps[0].bounds: expected 4 numbers");
+    row("bounds without a size", "maps.0.bounds", QJsonArray{5, 5, 5, 5}, "maps[0].bounds: must be");
+    row("bounds turned over", "maps.0.bounds", QJsonArray{5, 5, 1, 9}, "maps[0].bounds: must be");
+    row("bounds beyond all maps", "maps.1.bounds.2", 1e308, "maps[1].bounds[2]: 1e+308 is not between");
+    row("a focus that is no map", "layout.focusMap", 2, "layout.focusMap: 2 is not between 0 and 1");
+    row("a focus between two maps", "layout.focusMap", 0.5, "layout.focusMap: 0.5 is not a whole number");
+    row("a handle used twice", "elements.1.handle", 1, "elements[1].handle");
+    row("a negative handle", "elements.1.handle", -1, "elements[1].handle");
+    row("an element of no type", "elements.2.type", "", "elements[2].type");
+    row("a data frame on a map", "maps.0.graphics.0", QJsonDocument::fromJson(sample_).object()["elements"].toArray()[1], "maps[0].graphics[0].type: data frames");
     // clang-format on
   }
   void aBadFieldIsNamedAndNothingIsOpened() {
-    QFETCH(QString, field);
-    QFETCH(QJsonValue, value);
-    QFETCH(QString, complaint);
+    auto const [field, value, complaint] = fetched<QString, QJsonValue, QString>();
     QJsonValue const json = changed(QJsonDocument::fromJson(sample_).object(), field.split('.'), value);
     put(path("bad.kdx"), QJsonDocument(json.toObject()).toJson());
     QVERIFY2(refused("bad.kdx").startsWith(path("bad.kdx") + ": " + complaint), qPrintable(refused("bad.kdx")));
   }
 
   void aFileThatIsNoDocumentIsRefused_data() {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("complaint");
-    QTest::newRow("empty") << QByteArray() << "line 1, column 1: this is not JSON";
-    QTest::newRow("a slip in the third line") << QByteArray("{\n  \"a\": 1,\n  \"ä\" 2\n}") << "line 3, column 8: ";
-    QTest::newRow("a picture") << QByteArray("\x89PNG\r\n\x1a\n\0\0", 10) << "this is not JSON";
-    QTest::newRow("a list") << QByteArray("[1, 2]") << "holds a list";
-    QTest::newRow("a number that JSON does not have")
-        << QByteArray(sample_).replace("\"version\": 1", "\"version\": NaN") << "this is not JSON";
-    QTest::newRow("lists without an end") << QByteArray(100000, '[') << "this is not JSON";
-    QTest::newRow("objects without an end") << QByteArray("{\"maps\":").repeated(100000) << "this is not JSON";
-    QTest::newRow("broken letters") << QByteArray(sample_).replace("Plan", "Pl\xff\xfe") << "this is not JSON";
+    Rows<QByteArray, QString> row;
+    row("empty", QByteArray(), "line 1, column 1: this is not JSON");
+    row("a slip in the third line", "{\n  \"a\": 1,\n  \"ä\" 2\n}", "line 3, column 8: ");
+    row("a picture", QByteArray("\x89PNG\r\n\x1a\n\0\0", 10), "this is not JSON");
+    row("a list", "[1, 2]", "holds a list");
+    row("a number that JSON does not have", QByteArray(sample_).replace("\"version\": 1", "\"version\": NaN"),
+        "this is not JSON");
+    row("lists without an end", QByteArray(100000, '['), "this is not JSON");
+    row("objects without an end", QByteArray("{\"maps\":").repeated(100000), "this is not JSON");
+    row("broken letters", QByteArray(sample_).replace("Plan", "Pl\xff\xfe"), "this is not JSON");
   }
   void aFileThatIsNoDocumentIsRefused() {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, complaint);
+    auto const [content, complaint] = fetched<QByteArray, QString>();
     put(path("bad.kdx"), content);
     QVERIFY2(refused("bad.kdx").contains(complaint), qPrintable(refused("bad.kdx")));
   }
@@ -401,18 +396,14 @@ private slots:
   }
 
   void aRescaledPageStartsANewHistory_data() {
-    QTest::addColumn<bool>("turned");
-    QTest::addColumn<bool>("moved");
-    QTest::addColumn<bool>("keepsHistory");
-    QTest::newRow("a page that stays") << false << false << true;
-    QTest::newRow("elements moved outside the history") << false << true << true;
-    QTest::newRow("another page, the elements stay") << true << false << true;
-    QTest::newRow("another page, the elements moved with it") << true << true << false;
+    Rows<bool, bool, bool> row;
+    row("a page that stays", false, false, true);
+    row("elements moved outside the history", false, true, true);
+    row("another page, the elements stay", true, false, true);
+    row("another page, the elements moved with it", true, true, false);
   }
   void aRescaledPageStartsANewHistory() {
-    QFETCH(bool, turned);
-    QFETCH(bool, moved);
-    QFETCH(bool, keepsHistory);
+    auto const [turned, moved, keepsHistory] = fetched<bool, bool, bool>();
     MapDocument document;
     document.New(QString());
     auto* const elements = document.GetPageLayout()->GetGraphicsContainer();

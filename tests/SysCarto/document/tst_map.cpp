@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include <SysCarto/Map.h>
 
 #include "host/SysCarto/document/CoordinateSystem.h"
@@ -48,33 +50,24 @@ class MapTest : public QObject {
 
 private slots:
   void theScaleHasGroundMetresAtTheCentre_data() {
-    QTest::addColumn<QString>("coordinateSystem");
-    QTest::addColumn<double>("x");
-    QTest::addColumn<double>("y");
-    QTest::addColumn<double>("width");
-    QTest::addColumn<double>("metresPerUnit");
-    QTest::addColumn<double>("tolerance");
+    Rows<QString, double, double, double, double, double> row;
     // clang-format off
-    QTest::newRow("plain coordinates are metres")         << ""           << 3e5 << 5e6 << 2000.0 << 1.0 << 1e-12;
-    QTest::newRow("Mercator on the equator")              << "EPSG:3857"  << 0.0 << 0.0 << 2000.0 << 1.0 << 1e-6;
-    QTest::newRow("Mercator at 60° doubles the ground")   << "EPSG:3857"  << 1e6 << mercatorY(60) << 2000.0 << metresPerRadian(60) / semiMajor << 1e-6;
-    QTest::newRow("a wide Mercator map counts its centre")<< "EPSG:3857"  << 1e6 << mercatorY(60) << 2e6 << metresPerRadian(60) / semiMajor << 1e-6;
-    QTest::newRow("Equal Earth stretches at its centre")  << "EPSG:8857"  << 0.0 << 0.0 << 1e6 << equalEarthUnit() << 1e-6;
-    QTest::newRow("degrees on the equator")               << "EPSG:4326"  << 10.0 << 0.0 << 10.0 << metresPerRadian(0) * pi / 180 << 1e-6;
-    QTest::newRow("degrees at 60° south")                 << "EPSG:4326"  << 10.0 << -60.0 << 10.0 << metresPerRadian(60) * pi / 180 << 1e-6;
-    QTest::newRow("degrees at the pole keep a scale")     << "EPSG:4326"  << 10.0 << 90.0 << 10.0 << metresPerRadian(89) * pi / 180 << 1e-6;
-    QTest::newRow("feet")                                 << "EPSG:2264"  << 2e6 << 6e5 << 1e4 << 1200.0 / 3937.0 << 2e-4;
-    QTest::newRow("beyond the edge a unit is nominal")    << "EPSG:8857"  << 9e7 << 9e7 << 1000.0 << 1.0 << 1e-12;
-    QTest::newRow("a system that nobody knows")           << "EPSG:1"     << 0.0 << 0.0 << 1000.0 << 1.0 << 1e-12;
+    row("plain coordinates are metres", "", 3e5, 5e6, 2000.0, 1.0, 1e-12);
+    row("Mercator on the equator", "EPSG:3857", 0.0, 0.0, 2000.0, 1.0, 1e-6);
+    row("Mercator at 60° doubles the ground", "EPSG:3857", 1e6, mercatorY(60), 2000.0, metresPerRadian(60) / semiMajor, 1e-6);
+    row("a wide Mercator map counts its centre", "EPSG:3857", 1e6, mercatorY(60), 2e6, metresPerRadian(60) / semiMajor, 1e-6);
+    row("Equal Earth stretches at its centre", "EPSG:8857", 0.0, 0.0, 1e6, equalEarthUnit(), 1e-6);
+    row("degrees on the equator", "EPSG:4326", 10.0, 0.0, 10.0, metresPerRadian(0) * pi / 180, 1e-6);
+    row("degrees at 60° south", "EPSG:4326", 10.0, -60.0, 10.0, metresPerRadian(60) * pi / 180, 1e-6);
+    row("degrees at the pole keep a scale", "EPSG:4326", 10.0, 90.0, 10.0, metresPerRadian(89) * pi / 180, 1e-6);
+    row("feet", "EPSG:2264", 2e6, 6e5, 1e4, 1200.0 / 3937.0, 2e-4);
+    row("beyond the edge a unit is nominal", "EPSG:8857", 9e7, 9e7, 1000.0, 1.0, 1e-12);
+    row("a system that nobody knows", "EPSG:1", 0.0, 0.0, 1000.0, 1.0, 1e-12);
     // clang-format on
   }
   void theScaleHasGroundMetresAtTheCentre() {
-    QFETCH(QString, coordinateSystem);
-    QFETCH(double, x);
-    QFETCH(double, y);
-    QFETCH(double, width);
-    QFETCH(double, metresPerUnit);
-    QFETCH(double, tolerance);
+    auto const [coordinateSystem, x, y, width, metresPerUnit, tolerance] =
+        fetched<QString, double, double, double, double, double>();
     auto const map = mapOf(coordinateSystem, x, y, width);
     double const expected = width * metresPerUnit / 0.2;
     double const scale = map->GetDisplayTransformation()->GetMapScale();
@@ -83,21 +76,15 @@ private slots:
   }
 
   void theExtentHasTheAspectOfTheFrame_data() {
-    QTest::addColumn<double>("widthCm");
-    QTest::addColumn<double>("heightCm");
-    QTest::addColumn<double>("extentWidth");
-    QTest::addColumn<double>("extentHeight");
-    QTest::newRow("a wide extent in a tall frame") << 7.3 << 21.17 << 5000.0 << 100.0;
-    QTest::newRow("a tall extent in a wide frame") << 28.1 << 3.0 << 1.0 << 700.0;
-    QTest::newRow("an extent that fits") << 20.0 << 10.0 << 200.0 << 100.0;
-    QTest::newRow("a poster") << 500.0 << 300.0 << 1e7 << 1e7;
-    QTest::newRow("a stamp") << 0.5 << 0.4 << 1e-3 << 1e-3;
+    Rows<double, double, double, double> row;
+    row("a wide extent in a tall frame", 7.3, 21.17, 5000.0, 100.0);
+    row("a tall extent in a wide frame", 28.1, 3.0, 1.0, 700.0);
+    row("an extent that fits", 20.0, 10.0, 200.0, 100.0);
+    row("a poster", 500.0, 300.0, 1e7, 1e7);
+    row("a stamp", 0.5, 0.4, 1e-3, 1e-3);
   }
   void theExtentHasTheAspectOfTheFrame() {
-    QFETCH(double, widthCm);
-    QFETCH(double, heightCm);
-    QFETCH(double, extentWidth);
-    QFETCH(double, extentHeight);
+    auto const [widthCm, heightCm, extentWidth, extentHeight] = fetched<double, double, double, double>();
     auto const map = make<Map>();
     map->SetExtent(make<Envelope>(50.0, 70.0, 50 + extentWidth, 70 + extentHeight));
     map->setFrameSize(widthCm, heightCm);
@@ -116,15 +103,15 @@ private slots:
 
   void whatAMapCannotShowIsIgnored_data() {
     double const nan = std::numeric_limits<double>::quiet_NaN(), most = std::numeric_limits<double>::max();
-    QTest::addColumn<QVector<double>>("sides");
-    QTest::newRow("a point") << QVector<double>{-5, -5, -5, -5};
-    QTest::newRow("not a number") << QVector<double>{0, nan, 1, 1};
-    QTest::newRow("everything") << QVector<double>{-most, -most, most, most};
-    QTest::newRow("farther than any map") << QVector<double>{1e13, 0, 2e13, 1e13};
-    QTest::newRow("smaller than any map") << QVector<double>{0, 0, 1e-10, 1e-10};
+    Rows<QVector<double>> row;
+    row("a point", {-5, -5, -5, -5});
+    row("not a number", {0, nan, 1, 1});
+    row("everything", {-most, -most, most, most});
+    row("farther than any map", {1e13, 0, 2e13, 1e13});
+    row("smaller than any map", {0, 0, 1e-10, 1e-10});
   }
   void whatAMapCannotShowIsIgnored() {
-    QFETCH(QVector<double>, sides);
+    auto const [sides] = fetched<QVector<double>>();
     auto const map = mapOf("", 0, 0, 100);
     map->SetExtent(make<Envelope>(sides[0], sides[1], sides[2], sides[3]));
     map->setFrameSize(sides[1], 10);
@@ -133,33 +120,31 @@ private slots:
   }
 
   void aCoordinateSystemIsChecked_data() {
-    QTest::addColumn<QString>("definition");
-    QTest::addColumn<QString>("complaint");
+    Rows<QString, QString> row;
     // clang-format off
-    QTest::newRow("plain coordinates")   << "" << "";
-    QTest::newRow("a code")              << "EPSG:8857" << "";
-    QTest::newRow("a code in small type")<< "epsg:4326" << "";
-    QTest::newRow("a PROJ text")         << "+proj=utm +zone=33 +datum=WGS84" << "";
-    QTest::newRow("no grid at all")      << "+proj=merc +a=6378137 +b=6378137 +nadgrids=@null" << "";
-    QTest::newRow("WKT")                 << R"(GEOGCS["WGS 84",DATUM["WGS_1984",SPHEROID["WGS 84",6378137,298.257223563]],PRIMEM["Greenwich",0],UNIT["degree",0.0174532925199433]])" << "";
-    QTest::newRow("an unknown code")     << "EPSG:99999" << "PROJ knows";
-    QTest::newRow("broken WKT")          << "PROJCS[\"a" << "PROJ knows";
-    QTest::newRow("geocentric")          << "EPSG:4978" << "neither geographic nor projected";
-    QTest::newRow("heights")             << "EPSG:5773" << "neither geographic nor projected";
-    QTest::newRow("a file")              << PLOTVANE_SOURCE_DIR "/LICENSE" << "no coordinate system";
-    QTest::newRow("an address")          << "https://example.org/3857.prj" << "no coordinate system";
-    QTest::newRow("an address as a code")<< "OGC:https://example.org/3857" << "no coordinate system";
-    QTest::newRow("a dictionary")        << "DICT:/etc/passwd,1" << "no coordinate system";
-    QTest::newRow("a grid file")         << "+proj=longlat +nadgrids=/etc/passwd" << "names a file";
-    QTest::newRow("a grid after none")   << "+proj=longlat +nadgrids=@null,/etc/passwd" << "names a file";
-    QTest::newRow("a spaced grid file")  << "+proj=longlat +geoidgrids = /etc/passwd" << "names a file";
-    QTest::newRow("an init file")        << "+proj=longlat +init=/tmp/x:1" << "names a file";
-    QTest::newRow("without end")         << QString("+proj=longlat ").repeated(10000) << "longer";
+    row("plain coordinates", "", "");
+    row("a code", "EPSG:8857", "");
+    row("a code in small type", "epsg:4326", "");
+    row("a PROJ text", "+proj=utm +zone=33 +datum=WGS84", "");
+    row("no grid at all", "+proj=merc +a=6378137 +b=6378137 +nadgrids=@null", "");
+    row("WKT", R"(GEOGCS["WGS 84",DATUM["WGS_1984",SPHEROID["WGS 84",6378137,298.257223563]],PRIMEM["Greenwich",0],UNIT["degree",0.0174532925199433]])", "");
+    row("an unknown code", "EPSG:99999", "PROJ knows");
+    row("broken WKT", "PROJCS[\"a", "PROJ knows");
+    row("geocentric", "EPSG:4978", "neither geographic nor projected");
+    row("heights", "EPSG:5773", "neither geographic nor projected");
+    row("a file", PLOTVANE_SOURCE_DIR "/LICENSE", "no coordinate system");
+    row("an address", "https://example.org/3857.prj", "no coordinate system");
+    row("an address as a code", "OGC:https://example.org/3857", "no coordinate system");
+    row("a dictionary", "DICT:/etc/passwd,1", "no coordinate system");
+    row("a grid file", "+proj=longlat +nadgrids=/etc/passwd", "names a file");
+    row("a grid after none", "+proj=longlat +nadgrids=@null,/etc/passwd", "names a file");
+    row("a spaced grid file", "+proj=longlat +geoidgrids = /etc/passwd", "names a file");
+    row("an init file", "+proj=longlat +init=/tmp/x:1", "names a file");
+    row("without end", QString("+proj=longlat ").repeated(10000), "longer");
     // clang-format on
   }
   void aCoordinateSystemIsChecked() {
-    QFETCH(QString, definition);
-    QFETCH(QString, complaint);
+    auto const [definition, complaint] = fetched<QString, QString>();
     QString const answer = checkCoordinateSystem(definition);
     if (complaint.isEmpty())
       QCOMPARE(answer, QString());

@@ -1,4 +1,5 @@
 #include "LayerFixture.h"
+#include "Rows.h"
 
 #include "host/SysCarto/layout/TextElement.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
@@ -73,25 +74,13 @@ class LabelTest : public QObject {
 
 private slots:
   void labelsKeepTheirPromises_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("layer");
-    QTest::addColumn<QString>("priorityField");
-    QTest::addColumn<int>("fewest");
-    QTest::newRow("beside points") << "world.gpkg"
-                                   << "cities"
-                                   << "population" << 60;
-    QTest::newRow("in polygons") << "world.gpkg"
-                                 << "countries"
-                                 << "" << 10;
-    QTest::newRow("beside many points") << "aegean.gpkg"
-                                        << "places"
-                                        << "population" << 60;
+    Rows<QString, QString, QString, int> row;
+    row("beside points", "world.gpkg", "cities", "population", 60);
+    row("in polygons", "world.gpkg", "countries", "", 10);
+    row("beside many points", "aegean.gpkg", "places", "population", 60);
   }
   void labelsKeepTheirPromises() {
-    QFETCH(QString, file);
-    QFETCH(QString, layer);
-    QFETCH(QString, priorityField);
-    QFETCH(int, fewest);
+    auto const [file, layer, priorityField, fewest] = fetched<QString, QString, QString, int>();
     auto const data =
         opened({sample(file), layer, {}, {}}, "EPSG:8857", make<SimpleMarkerSymbol>(), settings(6, priorityField));
     QCOMPARE(data.warnings, QStringList());
@@ -122,23 +111,16 @@ private slots:
   }
 
   void aLabelLiesWithinItsPolygonOrIsLeftOut_data() {
-    QTest::addColumn<QByteArray>("ring");
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("in a square") << QByteArray("[0,0],[90,0],[90,90],[0,90],[0,0]") << QByteArray("Peru") << "Peru";
-    QTest::newRow("in the wide arm of an L")
-        << QByteArray("[0,0],[90,0],[90,25],[12,25],[12,90],[0,90],[0,0]") << QByteArray("Peru") << "Peru";
-    QTest::newRow("a long name on two lines where one is too long")
-        << QByteArray("[0,0],[52,0],[52,90],[0,90],[0,0]") << QByteArray("Papua Guinea") << "Papua\nGuinea";
-    QTest::newRow("a name that does not fit is left out")
-        << QByteArray("[0,0],[20,0],[20,90],[0,90],[0,0]") << QByteArray("Mauritania") << "";
-    QTest::newRow("a part that is out of sight does not count")
-        << QByteArray("[-900,20],[80,20],[80,60],[-900,60],[-900,20]") << QByteArray("Peru") << "Peru";
+    Rows<QByteArray, QByteArray, QString> row;
+    row("in a square", "[0,0],[90,0],[90,90],[0,90],[0,0]", "Peru", "Peru");
+    row("in the wide arm of an L", "[0,0],[90,0],[90,25],[12,25],[12,90],[0,90],[0,0]", "Peru", "Peru");
+    row("a long name on two lines where one is too long", "[0,0],[52,0],[52,90],[0,90],[0,0]", "Papua Guinea",
+        "Papua\nGuinea");
+    row("a name that does not fit is left out", "[0,0],[20,0],[20,90],[0,90],[0,0]", "Mauritania", "");
+    row("a part that is out of sight does not count", "[-900,20],[80,20],[80,60],[-900,60],[-900,20]", "Peru", "Peru");
   }
   void aLabelLiesWithinItsPolygonOrIsLeftOut() {
-    QFETCH(QByteArray, ring);
-    QFETCH(QByteArray, name);
-    QFETCH(QString, expected);
+    auto const [ring, name, expected] = fetched<QByteArray, QByteArray, QString>();
     QTemporaryDir folder;
     QByteArray json = geoJson(R"({"type":"Polygon","coordinates":[[)" + ring + "]]}");
     json.replace("\"A\"", '"' + name + '"');
@@ -175,17 +157,15 @@ private slots:
   }
 
   void aLabelAlongALineStandsUpright_data() {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<double>("angle");
-    QTest::newRow("rising") << QByteArray("[10,10],[90,90]") << 45.0;
-    QTest::newRow("drawn from right to left") << QByteArray("[90,90],[10,10]") << 45.0;
-    QTest::newRow("falling") << QByteArray("[10,90],[90,10]") << -45.0;
-    QTest::newRow("its straight stretch, not its zigzag")
-        << QByteArray("[5,50],[75,50],[77,54],[79,46],[81,54],[83,46],[85,54],[87,46],[89,54],[91,46]") << 0.0;
+    Rows<QByteArray, double> row;
+    row("rising", "[10,10],[90,90]", 45.0);
+    row("drawn from right to left", "[90,90],[10,10]", 45.0);
+    row("falling", "[10,90],[90,10]", -45.0);
+    row("its straight stretch, not its zigzag",
+        "[5,50],[75,50],[77,54],[79,46],[81,54],[83,46],[85,54],[87,46],[89,54],[91,46]", 0.0);
   }
   void aLabelAlongALineStandsUpright() {
-    QFETCH(QByteArray, line);
-    QFETCH(double, angle);
+    auto const [line, angle] = fetched<QByteArray, double>();
     QTemporaryDir folder;
     QByteArray json = geoJson(R"({"type":"LineString","coordinates":[)" + line + "]}");
     json.replace("\"A\"", "\"Danube\"");

@@ -1,4 +1,5 @@
 #include "LayerFixture.h"
+#include "Rows.h"
 
 #include "host/SysCarto/layers/LayerArchive.h"
 
@@ -55,36 +56,33 @@ class LayerArchiveTest : public QObject {
 
 private slots:
   void aLayerComesBackAsItWas_data() {
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<int>("unreadable");
-    QTest::newRow("one symbol") << layerJson(cities, simple) << 0;
-    QTest::newRow("limits on one side") << layerJson(cities, simple, R"(,"maxScale":50000000,"visible":false)") << 0;
-    QTest::newRow("unique values")
-        << layerJson(
-               cities,
-               R"({"classes":[{"symbol":{"type":"simpleMarker"},"values":["FR","DE"]},)"
-               R"({"label":"Italy","symbol":{"size":9,"type":"simpleMarker"},"values":["IT"]}],)"
-               R"("defaultLabel":"Others","defaultSymbol":{"type":"simpleMarker"},"field":"country","type":"uniqueValues"})")
-        << 0;
-    QTest::newRow("graduated")
-        << layerJson(cities, R"({"classes":[{"label":"small","minimum":0,"symbol":{"type":"simpleMarker"}},)"
-                             R"({"label":"large","minimum":10000000,"symbol":{"size":9,"type":"simpleMarker"}}],)"
-                             R"("field":"population","type":"graduated"})")
-        << 0;
-    QTest::newRow("labels")
-        << layerJson(
-               cities, simple,
-               R"(,"labels":{"classes":[{"minimum":1000000,"symbol":{"size":12,"type":"text"}}],"field":"name","gap":3,)"
-               R"("minScale":1000,"priority":5,"priorityField":"population","symbol":{"type":"text"}})")
-        << 0;
-    QTest::newRow("a file that is gone") << layerJson(R"({"file":"gone/world.gpkg","layer":"cities"})", simple) << 1;
-    QTest::newRow("an address") << layerJson(R"({"file":"http:\/\/127.0.0.1:1/a.gpkg"})", simple) << 1;
-    QTest::newRow("a filter that is wrong")
-        << layerJson(R"({"file":"world.gpkg","filter":"a >","layer":"cities"})", simple) << 1;
+    Rows<QByteArray, int> row;
+    row("one symbol", layerJson(cities, simple), 0);
+    row("limits on one side", layerJson(cities, simple, R"(,"maxScale":50000000,"visible":false)"), 0);
+    row("unique values",
+        layerJson(
+            cities,
+            R"({"classes":[{"symbol":{"type":"simpleMarker"},"values":["FR","DE"]},)"
+            R"({"label":"Italy","symbol":{"size":9,"type":"simpleMarker"},"values":["IT"]}],)"
+            R"("defaultLabel":"Others","defaultSymbol":{"type":"simpleMarker"},"field":"country","type":"uniqueValues"})"),
+        0);
+    row("graduated",
+        layerJson(cities, R"({"classes":[{"label":"small","minimum":0,"symbol":{"type":"simpleMarker"}},)"
+                          R"({"label":"large","minimum":10000000,"symbol":{"size":9,"type":"simpleMarker"}}],)"
+                          R"("field":"population","type":"graduated"})"),
+        0);
+    row("labels",
+        layerJson(
+            cities, simple,
+            R"(,"labels":{"classes":[{"minimum":1000000,"symbol":{"size":12,"type":"text"}}],"field":"name","gap":3,)"
+            R"("minScale":1000,"priority":5,"priorityField":"population","symbol":{"type":"text"}})"),
+        0);
+    row("a file that is gone", layerJson(R"({"file":"gone/world.gpkg","layer":"cities"})", simple), 1);
+    row("an address", layerJson(R"({"file":"http:\/\/127.0.0.1:1/a.gpkg"})", simple), 1);
+    row("a filter that is wrong", layerJson(R"({"file":"world.gpkg","filter":"a >","layer":"cities"})", simple), 1);
   }
   void aLayerComesBackAsItWas() {
-    QFETCH(QByteArray, json);
-    QFETCH(int, unreadable);
+    auto const [json, unreadable] = fetched<QByteArray, int>();
     Read result = read(json);
     QCOMPARE(result.error, QString());
     QCOMPARE(result.unknown, QStringList());
@@ -98,28 +96,24 @@ private slots:
   }
 
   void aWrongFieldIsNamed_data() {
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<QString>("says");
-    QTest::newRow("another kind of layer") << layerJson(cities, simple).replace("\"feature\"", "\"tiles\"") << "type";
-    QTest::newRow("no source") << QByteArray(R"({"name":"a","type":"feature","renderer":)" + simple + "}") << "source";
-    QTest::newRow("no symbol") << layerJson(cities, R"({"type":"simple"})") << "renderer.symbol";
-    QTest::newRow("classes that do not ascend")
-        << layerJson(cities,
-                     R"({"type":"graduated","field":"a","classes":[{"minimum":5,"symbol":{"type":"simpleMarker"}},)"
-                     R"({"minimum":5,"symbol":{"type":"simpleMarker"}}]})")
-        << "renderer.classes[1].minimum";
-    QTest::newRow("a value in two classes")
-        << layerJson(
-               cities,
-               R"({"type":"uniqueValues","field":"a","classes":[{"values":["x"],"symbol":{"type":"simpleMarker"}},)"
-               R"({"values":["x"],"symbol":{"type":"simpleMarker"}}]})")
-        << "renderer.classes[1].values";
-    QTest::newRow("limits the wrong way round")
-        << layerJson(cities, simple, R"(,"minScale":500,"maxScale":100)") << "minScale";
+    Rows<QByteArray, QString> row;
+    row("another kind of layer", layerJson(cities, simple).replace("\"feature\"", "\"tiles\""), "type");
+    row("no source", R"({"name":"a","type":"feature","renderer":)" + simple + "}", "source");
+    row("no symbol", layerJson(cities, R"({"type":"simple"})"), "renderer.symbol");
+    row("classes that do not ascend",
+        layerJson(cities,
+                  R"({"type":"graduated","field":"a","classes":[{"minimum":5,"symbol":{"type":"simpleMarker"}},)"
+                  R"({"minimum":5,"symbol":{"type":"simpleMarker"}}]})"),
+        "renderer.classes[1].minimum");
+    row("a value in two classes",
+        layerJson(cities,
+                  R"({"type":"uniqueValues","field":"a","classes":[{"values":["x"],"symbol":{"type":"simpleMarker"}},)"
+                  R"({"values":["x"],"symbol":{"type":"simpleMarker"}}]})"),
+        "renderer.classes[1].values");
+    row("limits the wrong way round", layerJson(cities, simple, R"(,"minScale":500,"maxScale":100)"), "minScale");
   }
   void aWrongFieldIsNamed() {
-    QFETCH(QByteArray, json);
-    QFETCH(QString, says);
+    auto const [json, says] = fetched<QByteArray, QString>();
     Read const result = read(json);
     QVERIFY2(result.error.contains(says), qPrintable(result.error));
     QVERIFY(!result.layer);
@@ -146,25 +140,18 @@ private slots:
   }
 
   void scaleLimitsAreBothSetOrNeither_data() {
-    QTest::addColumn<double>("min");
-    QTest::addColumn<double>("max");
-    QTest::addColumn<bool>("limited");
-    QTest::addColumn<double>("storedMin");
-    QTest::addColumn<double>("storedMax");
-    QTest::newRow("none") << 0.0 << 0.0 << false << 0.0 << 0.0;
-    QTest::newRow("the smallest alone") << 1000.0 << 0.0 << true << 1000.0 << 0.0;
-    QTest::newRow("the largest alone") << 0.0 << 5000.0 << true << 0.0 << 5000.0;
-    QTest::newRow("both, exchanged") << 5000.0 << 1000.0 << true << 1000.0 << 5000.0;
-    QTest::newRow("no numbers") << -3.0 << qQNaN() << false << 0.0 << 0.0;
+    Rows<double, double, bool, double, double> row;
+    row("none", 0.0, 0.0, false, 0.0, 0.0);
+    row("the smallest alone", 1000.0, 0.0, true, 1000.0, 0.0);
+    row("the largest alone", 0.0, 5000.0, true, 0.0, 5000.0);
+    row("both, exchanged", 5000.0, 1000.0, true, 1000.0, 5000.0);
+    row("no numbers", -3.0, qQNaN(), false, 0.0, 0.0);
   }
   void scaleLimitsAreBothSetOrNeither() {
-    QFETCH(double, min);
-    QFETCH(double, max);
-    QFETCH(bool, limited);
-    QFETCH(double, storedMin);
-    QFETCH(double, storedMax);
+    auto const [min, max, limited, storedMin, storedMax] = fetched<double, double, bool, double, double>();
     VectorLayer layer(makeSimpleRenderer(make<SysDisplay::SimpleFillSymbol>()));
-    auto const check = [&](auto& limits) {
+    auto const check = [min = min, max = max, limited = limited, storedMin = storedMin,
+                        storedMax = storedMax](auto& limits) {
       limits.SetScaleRange(min, max);
       QCOMPARE(limits.GetMinScale() > 0 && limits.GetMaxScale() > 0, limited);
       QCOMPARE(limits.GetMinScale() > 0 || limits.GetMaxScale() > 0, limited);

@@ -1,4 +1,5 @@
 #include "LayerFixture.h"
+#include "Rows.h"
 
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 
@@ -12,8 +13,6 @@ using namespace SysDisplay;
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
 using SysUtility::make;
-
-Q_DECLARE_METATYPE(_ptr_t<Symbol>)
 
 namespace {
 
@@ -68,13 +67,7 @@ class LayerDrawTest : public QObject {
 
 private slots:
   void tilesMakeTheWholePicture_data() {
-    QTest::addColumn<QString>("layer");
-    QTest::addColumn<QString>("system");
-    QTest::addColumn<double>("scale");
-    QTest::addColumn<_ptr_t<Symbol>>("symbol");
-    auto const row = [](char const* name, char const* layer, char const* system, double scale, _ptr_t<Symbol> symbol) {
-      QTest::newRow(name) << layer << system << scale << symbol;
-    };
+    Rows<QString, QString, double, _ptr_t<Symbol>> row;
     auto const thin = line(SimpleLineStyle::Solid, 0.6, QColor(90, 50, 20));
     row("countries with outlines", "countries", "EPSG:8857", 1, fill(SimpleFillStyle::Solid, thin));
     row("a detail of them", "countries", "EPSG:8857", 0.03, fill(SimpleFillStyle::Solid, thin));
@@ -86,10 +79,7 @@ private slots:
     row("cities", "cities", "EPSG:8857", 0.3, marker());
   }
   void tilesMakeTheWholePicture() {
-    QFETCH(QString, layer);
-    QFETCH(QString, system);
-    QFETCH(double, scale);
-    QFETCH(_ptr_t<Symbol>, symbol);
+    auto const [layer, system, scale, symbol] = fetched<QString, QString, double, _ptr_t<Symbol>>();
     auto const data = opened({sample("world.gpkg"), layer, {}, {}}, system, symbol);
     QCOMPARE(data.error, QString());
     Box const& all = data.features().box();
@@ -118,17 +108,13 @@ private slots:
   }
 
   void whatMustDrawNothingDrawsNothing_data() {
-    QTest::addColumn<int>("phase");
-    QTest::addColumn<bool>("cancelled");
-    QTest::addColumn<bool>("draws");
-    QTest::newRow("features are drawn in phase 1") << 1 << false << true;
-    QTest::newRow("and in no other") << 8 << false << false;
-    QTest::newRow("nor after a cancellation") << 1 << true << false;
+    Rows<int, bool, bool> row;
+    row("features are drawn in phase 1", 1, false, true);
+    row("and in no other", 8, false, false);
+    row("nor after a cancellation", 1, true, false);
   }
   void whatMustDrawNothingDrawsNothing() {
-    QFETCH(int, phase);
-    QFETCH(bool, cancelled);
-    QFETCH(bool, draws);
+    auto const [phase, cancelled, draws] = fetched<int, bool, bool>();
     auto const cities = opened({sample("world.gpkg"), "cities", {}, {}}, "EPSG:8857", marker());
     auto const cancel = make<TrackerCancel>();
     if (cancelled) cancel->Cancel();

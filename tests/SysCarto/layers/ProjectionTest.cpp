@@ -1,4 +1,5 @@
 #include "LayerFixture.h"
+#include "Rows.h"
 
 #include <QtTest>
 
@@ -76,21 +77,18 @@ class ProjectionTest : public QObject {
 
 private slots:
   void theWholeGlobeFillsItsOutline_data() {
-    QTest::addColumn<QString>("system");
-    QTest::addColumn<double>("area");
-    QTest::newRow("Equal Earth") << equalEarth << earthArea;
-    QTest::newRow("Equal Earth, cut in the Atlantic") << equalEarthPacific << earthArea;
-    QTest::newRow("azimuthal about a place, up to near its antipode")
-        << "+proj=laea +lat_0=52 +lon_0=10 +datum=WGS84" << earthArea;
-    QTest::newRow("azimuthal about the south pole") << "+proj=laea +lat_0=-90 +datum=WGS84" << earthArea;
-    QTest::newRow("azimuthal on the antimeridian") << "+proj=laea +lat_0=0 +lon_0=180 +datum=WGS84" << earthArea;
-    QTest::newRow("half the globe seen from above is a disk") << globe << M_PI * 6371000.0 * 6371000.0;
-    QTest::newRow("a square in web Mercator") << "EPSG:3857" << std::pow(2 * M_PI * 6378137.0, 2);
-    QTest::newRow("degrees") << "EPSG:4326" << 360.0 * 180.0;
+    Rows<QString, double> row;
+    row("Equal Earth", equalEarth, earthArea);
+    row("Equal Earth, cut in the Atlantic", equalEarthPacific, earthArea);
+    row("azimuthal about a place, up to near its antipode", "+proj=laea +lat_0=52 +lon_0=10 +datum=WGS84", earthArea);
+    row("azimuthal about the south pole", "+proj=laea +lat_0=-90 +datum=WGS84", earthArea);
+    row("azimuthal on the antimeridian", "+proj=laea +lat_0=0 +lon_0=180 +datum=WGS84", earthArea);
+    row("half the globe seen from above is a disk", globe, M_PI * 6371000.0 * 6371000.0);
+    row("a square in web Mercator", "EPSG:3857", std::pow(2 * M_PI * 6378137.0, 2));
+    row("degrees", "EPSG:4326", 360.0 * 180.0);
   }
   void theWholeGlobeFillsItsOutline() {
-    QFETCH(QString, system);
-    QFETCH(double, area);
+    auto const [system, area] = fetched<QString, double>();
     auto const sphere = opened({sample("sphere.geojson"), {}, {}, {}}, system);
     QCOMPARE(sphere.error, QString());
     double const error = areaOf(sphere.features()) / area - 1;
@@ -99,14 +97,14 @@ private slots:
   }
 
   void areasStayWhatTheyAre_data() {
-    QTest::addColumn<QString>("system");
-    QTest::newRow("cut in the Atlantic") << equalEarthPacific;
-    QTest::newRow("cut through Europe") << "+proj=eqearth +lon_0=-170 +datum=WGS84";
-    QTest::newRow("about the north pole") << "+proj=laea +lat_0=90 +datum=WGS84";
-    QTest::newRow("about the south pole") << "+proj=laea +lat_0=-90 +datum=WGS84";
+    Rows<QString> row;
+    row("cut in the Atlantic", equalEarthPacific);
+    row("cut through Europe", "+proj=eqearth +lon_0=-170 +datum=WGS84");
+    row("about the north pole", "+proj=laea +lat_0=90 +datum=WGS84");
+    row("about the south pole", "+proj=laea +lat_0=-90 +datum=WGS84");
   }
   void areasStayWhatTheyAre() {
-    QFETCH(QString, system);
+    auto const [system] = fetched<QString>();
     SourceSettings const countries{sample("world.gpkg"), QStringLiteral("countries"), {}, {}};
     double const expected = areaOf(opened(countries, equalEarth).features());
     double const error = areaOf(opened(countries, system).features()) / expected - 1;
@@ -115,16 +113,14 @@ private slots:
   }
 
   void nothingRunsAcrossTheMap_data() {
-    QTest::addColumn<QString>("system");
-    QTest::addColumn<QString>("layer");
+    Rows<QString, QString> row;
     for (char const* layer : {"countries", "land"})
       for (char const* system : {equalEarth, equalEarthPacific, equirectangularPacific, globe, northPole, "EPSG:3857",
                                  "EPSG:3031", "EPSG:4326", "+proj=lcc +lat_1=33 +lat_2=45 +lon_0=-96 +datum=WGS84"})
-        QTest::addRow("%s in %s", layer, system) << system << layer;
+        row(QString("%1 in %2").arg(layer, system), system, layer);
   }
   void nothingRunsAcrossTheMap() {
-    QFETCH(QString, system);
-    QFETCH(QString, layer);
+    auto const [system, layer] = fetched<QString, QString>();
     auto const countries = opened({sample("world.gpkg"), layer, {}, {}}, system);
     QVERIFY(vertexCount(countries.features()) > 2500);
     Box const& box = countries.features().box();
@@ -147,27 +143,20 @@ private slots:
   }
 
   void whatStepsOverTheAntimeridian_data() {
-    QTest::addColumn<QByteArray>("geometry");
-    QTest::addColumn<int>("widestDegrees");
-    QTest::newRow("an island that was not cut lies on both sides")
-        << QByteArray(R"({"type":"Polygon","coordinates":[[[179,-10],[-179,-10.5],[-179.5,-5],[179.2,-4],[179,-10]]]})")
-        << 1;
-    QTest::newRow("so does a track")
-        << QByteArray(R"({"type":"LineString","coordinates":[[170,0],[179,5],[-178,8],[-170,9]]})") << 10;
-    QTest::newRow("longitudes beyond 180 go on at the other side")
-        << QByteArray(R"({"type":"Polygon","coordinates":[[[170,0],[190,1],[190,10],[170,11],[170,0]]]})") << 10;
-    QTest::newRow("a wide box stays wide")
-        << QByteArray(R"({"type":"Polygon","coordinates":[[[-170,0],[170,0],[170,9],[-170,9],[-170,0]]]})") << 340;
-    QTest::newRow("a parallel runs around the map")
-        << QByteArray(R"({"type":"LineString","coordinates":[[-180,5],[180,5]]})") << 360;
-    QTest::newRow("a band with a bent side does, too")
-        << QByteArray(
-               R"({"type":"Polygon","coordinates":[[[-180,10],[0,14],[180,10],[180,-20],[-180,-20],[-180,10]]]})")
-        << 360;
+    Rows<QByteArray, int> row;
+    row("an island that was not cut lies on both sides",
+        R"({"type":"Polygon","coordinates":[[[179,-10],[-179,-10.5],[-179.5,-5],[179.2,-4],[179,-10]]]})", 1);
+    row("so does a track", R"({"type":"LineString","coordinates":[[170,0],[179,5],[-178,8],[-170,9]]})", 10);
+    row("longitudes beyond 180 go on at the other side",
+        R"({"type":"Polygon","coordinates":[[[170,0],[190,1],[190,10],[170,11],[170,0]]]})", 10);
+    row("a wide box stays wide", R"({"type":"Polygon","coordinates":[[[-170,0],[170,0],[170,9],[-170,9],[-170,0]]]})",
+        340);
+    row("a parallel runs around the map", R"({"type":"LineString","coordinates":[[-180,5],[180,5]]})", 360);
+    row("a band with a bent side does, too",
+        R"({"type":"Polygon","coordinates":[[[-180,10],[0,14],[180,10],[180,-20],[-180,-20],[-180,10]]]})", 360);
   }
   void whatStepsOverTheAntimeridian() {
-    QFETCH(QByteArray, geometry);
-    QFETCH(int, widestDegrees);
+    auto const [geometry, widestDegrees] = fetched<QByteArray, int>();
     QTemporaryDir folder;
     auto const layer = opened({written(folder, "a.geojson", geoJson(geometry)), {}, {}, {}}, "EPSG:4326");
     QCOMPARE(layer.error, QString());

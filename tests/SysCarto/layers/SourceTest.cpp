@@ -1,4 +1,5 @@
 #include "LayerFixture.h"
+#include "Rows.h"
 
 #include "host/SysCarto/layers/GdalErrors.h"
 
@@ -14,46 +15,27 @@ class SourceTest : public QObject {
 
 private slots:
   void whatIsNotAPlainDataFileIsRefused_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("layer");
-    QTest::addColumn<QString>("says");
+    Rows<QString, QByteArray, QString, QString> row;
     QByteArray const none;
-    QTest::newRow("the network by its file system") << "/vsicurl/http://127.0.0.1:1/a.gpkg" << none << ""
-                                                    << "virtual";
-    QTest::newRow("any virtual file system") << "/vsizip/a.zip/a.geojson" << none << ""
-                                             << "virtual";
-    QTest::newRow("an address") << "http://127.0.0.1:1/a.geojson" << none << ""
-                                << "addresses";
-    QTest::newRow("a database") << "PG:dbname=a" << none << ""
-                                << "prefix";
-    QTest::newRow("a driver's prefix before a file") << "GPKG:/tmp/a.gpkg" << none << ""
-                                                     << "prefix";
-    QTest::newRow("data in place of a path") << R"({"type":"Point","coordinates":[0,0]})" << none << ""
-                                             << "not a path";
-    QTest::newRow("nothing") << "" << none << ""
-                             << "no file";
-    QTest::newRow("a file that is not there") << "missing.gpkg" << none << ""
-                                              << "does not exist";
-    QTest::newRow("a folder") << "." << none << ""
-                              << "not a file";
+    row("the network by its file system", "/vsicurl/http://127.0.0.1:1/a.gpkg", none, "", "virtual");
+    row("any virtual file system", "/vsizip/a.zip/a.geojson", none, "", "virtual");
+    row("an address", "http://127.0.0.1:1/a.geojson", none, "", "addresses");
+    row("a database", "PG:dbname=a", none, "", "prefix");
+    row("a driver's prefix before a file", "GPKG:/tmp/a.gpkg", none, "", "prefix");
+    row("data in place of a path", R"({"type":"Point","coordinates":[0,0]})", none, "", "not a path");
+    row("nothing", "", none, "", "no file");
+    row("a file that is not there", "missing.gpkg", none, "", "does not exist");
+    row("a folder", ".", none, "", "not a file");
     QByteArray const vrt = "<OGRVRTDataSource><OGRVRTLayer name='cities'><SrcDataSource>" +
                            sample("world.gpkg").toUtf8() + "</SrcDataSource></OGRVRTLayer></OGRVRTDataSource>";
-    QTest::newRow("a format that names further files") << "a.vrt" << vrt << ""
-                                                       << "GeoPackage, GeoJSON";
-    QTest::newRow("whatever the file's ending") << "a.gpkg" << vrt << ""
-                                                << "GeoPackage, GeoJSON";
-    QTest::newRow("an empty file") << "a.geojson" << QByteArray("\n") << ""
-                                   << "GeoPackage, GeoJSON";
-    QTest::newRow("a layer that the file does not have")
-        << "a.geojson" << geoJson(R"({"type":"Point","coordinates":[0,0]})") << "rivers"
-        << "no layer “rivers”";
+    row("a format that names further files", "a.vrt", vrt, "", "GeoPackage, GeoJSON");
+    row("whatever the file's ending", "a.gpkg", vrt, "", "GeoPackage, GeoJSON");
+    row("an empty file", "a.geojson", "\n", "", "GeoPackage, GeoJSON");
+    row("a layer that the file does not have", "a.geojson", geoJson(R"({"type":"Point","coordinates":[0,0]})"),
+        "rivers", "no layer “rivers”");
   }
   void whatIsNotAPlainDataFileIsRefused() {
-    QFETCH(QString, file);
-    QFETCH(QByteArray, content);
-    QFETCH(QString, layer);
-    QFETCH(QString, says);
+    auto const [file, content, layer, says] = fetched<QString, QByteArray, QString, QString>();
     QTemporaryDir folder;
     if (!content.isEmpty()) QVERIFY(!written(folder, file, content).isEmpty());
     bool const isName = !content.isEmpty() || file == QLatin1String("missing.gpkg") || file == QLatin1String(".");
@@ -79,22 +61,16 @@ private slots:
   }
 
   void aFilterSelectsOrSaysWhatIsWrong_data() {
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<bool>("isRight");
-    QTest::addColumn<int>("fewest");
-    QTest::addColumn<int>("most");
-    QTest::newRow("a number") << "population > 10000000" << true << 5 << 60;
-    QTest::newRow("two conditions") << "capital = 1 AND country LIKE 'F%'" << true << 1 << 20;
-    QTest::newRow("a field that is not there") << "inhabitants > 5" << false << 0 << 0;
-    QTest::newRow("no condition") << "population >" << false << 0 << 0;
-    QTest::newRow("a function of the database") << "ogr_geocode(name) IS NOT NULL" << false << 0 << 0;
-    QTest::newRow("a query in the condition") << "name IN (SELECT name FROM cities)" << false << 0 << 0;
+    Rows<QString, bool, int, int> row;
+    row("a number", "population > 10000000", true, 5, 60);
+    row("two conditions", "capital = 1 AND country LIKE 'F%'", true, 1, 20);
+    row("a field that is not there", "inhabitants > 5", false, 0, 0);
+    row("no condition", "population >", false, 0, 0);
+    row("a function of the database", "ogr_geocode(name) IS NOT NULL", false, 0, 0);
+    row("a query in the condition", "name IN (SELECT name FROM cities)", false, 0, 0);
   }
   void aFilterSelectsOrSaysWhatIsWrong() {
-    QFETCH(QString, filter);
-    QFETCH(bool, isRight);
-    QFETCH(int, fewest);
-    QFETCH(int, most);
+    auto const [filter, isRight, fewest, most] = fetched<QString, bool, int, int>();
     auto const result = opened({sample("world.gpkg"), "cities", filter, {}}, "EPSG:8857");
     QVERIFY2(result.error.isEmpty() == isRight, qPrintable(result.error));
     QVERIFY(isRight || (result.error.contains(filter) && result.error.contains("cities")));
@@ -103,11 +79,7 @@ private slots:
   }
 
   void geometriesThatAreNoneArePassedOver_data() {
-    QTest::addColumn<QByteArray>("geometry");
-    QTest::addColumn<int>("parts");
-    auto const row = [](char const* name, char const* geometry, int parts) {
-      QTest::newRow(name) << QByteArray(geometry) << parts;
-    };
+    Rows<QByteArray, int> row;
     row("no geometry", "null", 0);
     row("an empty point", R"({"type":"Point","coordinates":[]})", 0);
     row("a line of one place", R"({"type":"LineString","coordinates":[[1,1]]})", 0);
@@ -126,8 +98,7 @@ private slots:
         3);
   }
   void geometriesThatAreNoneArePassedOver() {
-    QFETCH(QByteArray, geometry);
-    QFETCH(int, parts);
+    auto const [geometry, parts] = fetched<QByteArray, int>();
     QTemporaryDir folder;
     QString const file = written(folder, "a.geojson", geoJson(geometry));
     for (char const* system : {"EPSG:8857", "EPSG:3857", "+proj=ortho +lat_0=10 +lon_0=5 +datum=WGS84", ""}) {

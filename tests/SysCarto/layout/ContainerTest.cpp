@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysCarto/layout/ElementContainer.h"
 #include "host/SysCarto/layout/GraphicElements.h"
 
@@ -45,8 +47,6 @@ QList<ElementPtr> pick(IElementContainer const& container, QString const& names)
 
 }  // namespace
 
-Q_DECLARE_METATYPE(Restack)
-
 class ContainerTest : public QObject {
   Q_OBJECT
 
@@ -58,38 +58,22 @@ private slots:
   void cleanup() { Editor::Instance()->setHistory(nullptr); }
 
   void restacksAndComesBack_data() {
-    QTest::addColumn<QString>("names");
-    QTest::addColumn<QString>("chosen");
-    QTest::addColumn<Restack>("restack");
-    QTest::addColumn<QString>("expected");
+    Rows<QString, QString, Restack, QString> row;
     Restack const forward = &IElementContainer::BringForward, front = &IElementContainer::BringToFront;
     Restack const backward = &IElementContainer::SendBackward, back = &IElementContainer::SendToBack;
-    QTest::newRow("one goes up by one") << "ABC"
-                                        << "A" << forward << "BAC";
-    QTest::newRow("a run goes up as a block") << "ABCD"
-                                              << "BC" << forward << "ADBC";
-    QTest::newRow("each of two runs goes up by one") << "ABCDE"
-                                                     << "AC" << forward << "BADCE";
-    QTest::newRow("a run at the end stays, the other closes up") << "ABCDE"
-                                                                 << "BDE" << forward << "ACBDE";
-    QTest::newRow("a run goes down as a block") << "ABCD"
-                                                << "CB" << backward << "BCAD";
-    QTest::newRow("what lies lowest stays, the other closes up") << "ABCD"
-                                                                 << "AC" << backward << "ACBD";
-    QTest::newRow("the front keeps the order of drawing, not of the list") << "ABCD"
-                                                                           << "CA" << front << "BDAC";
-    QTest::newRow("the back keeps it, too") << "ABCD"
-                                            << "DB" << back << "BDAC";
-    QTest::newRow("all of them stay as they are") << "ABC"
-                                                  << "ABC" << front << "ABC";
-    QTest::newRow("an element at the end stays") << "ABC"
-                                                 << "C" << forward << "ABC";
+    row("one goes up by one", "ABC", "A", forward, "BAC");
+    row("a run goes up as a block", "ABCD", "BC", forward, "ADBC");
+    row("each of two runs goes up by one", "ABCDE", "AC", forward, "BADCE");
+    row("a run at the end stays, the other closes up", "ABCDE", "BDE", forward, "ACBDE");
+    row("a run goes down as a block", "ABCD", "CB", backward, "BCAD");
+    row("what lies lowest stays, the other closes up", "ABCD", "AC", backward, "ACBD");
+    row("the front keeps the order of drawing, not of the list", "ABCD", "CA", front, "BDAC");
+    row("the back keeps it, too", "ABCD", "DB", back, "BDAC");
+    row("all of them stay as they are", "ABC", "ABC", front, "ABC");
+    row("an element at the end stays", "ABC", "C", forward, "ABC");
   }
   void restacksAndComesBack() {
-    QFETCH(QString, names);
-    QFETCH(QString, chosen);
-    QFETCH(Restack, restack);
-    QFETCH(QString, expected);
+    auto const [names, chosen, restack, expected] = fetched<QString, QString, Restack, QString>();
     ElementContainer container;
     fill(container, names);
     Editor::Instance()->StartOperation("Restack");

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysCarto/layout/ElementArchive.h"
 #include "host/SysCarto/layout/GraphicElements.h"
 #include "host/SysCarto/layout/PictureElement.h"
@@ -51,45 +53,43 @@ class ElementArchiveTest : public QObject {
 
 private slots:
   void comesBackAsItWasStored_data() {
-    QTest::addColumn<QByteArray>("stored");
+    Rows<QByteArray> row;
     QByteArray const line = "'symbol':{'type':'simpleLine'}", fill = "'symbol':{'type':'simpleFill','style':'cross'}";
-    QTest::newRow("marker") << QByteArray(
+    row("marker",
         "{'type':'marker','handle':3,'name':'Church','position':[1.5,-2],"
         "'symbol':{'type':'simpleMarker','size':9}}");
-    QTest::newRow("line without a symbol") << QByteArray("{'type':'line','handle':3,'points':[0,0,1,2,3.25,4]}");
-    QTest::newRow("polygon with a hole") << QByteArray(
+    row("line without a symbol", "{'type':'line','handle':3,'points':[0,0,1,2,3.25,4]}");
+    row("polygon with a hole",
         "{'type':'polygon','handle':3,'rings':[{'points':[0,0,9,0,9,9]},"
         "{'points':[1,1,2,1,2,2]}]," +
-        fill + "}");
-    QTest::newRow("rectangle") << QByteArray("{'type':'rectangle','handle':3,'rectangle':[1,2,3,4]," + fill + "}");
-    QTest::newRow("ellipse on a map, in its units")
-        << QByteArray("{'type':'ellipse','handle':3,'rectangle':[500000,5400000,500100,5400200]," + fill + "}");
-    QTest::newRow("text") << QByteArray(
+            fill + "}");
+    row("rectangle", "{'type':'rectangle','handle':3,'rectangle':[1,2,3,4]," + fill + "}");
+    row("ellipse on a map, in its units",
+        "{'type':'ellipse','handle':3,'rectangle':[500000,5400000,500100,5400200]," + fill + "}");
+    row("text",
         "{'type':'text','handle':3,'position':[1,2],'text':'Grüße','angle':30,"
         "'symbol':{'type':'text','size':14}}");
-    QTest::newRow("group in a group") << QByteArray(
+    row("group in a group",
         "{'type':'group','handle':3,'name':'Outer','members':[{'type':'group','members':["
         "{'type':'line','points':[0,0,1,1]," +
-        line + "}]},{'type':'marker','position':[0,0]}]}");
-    QTest::newRow("data frame") << QByteArray(
+            line + "}]},{'type':'marker','position':[0,0]}]}");
+    row("data frame",
         "{'type':'dataFrame','handle':3,'map':1,'locked':true,'rectangle':[1,2,11,12],"
         "'border':{" +
-        line +
-        ",'gap':2,'rounding':50},'shadow':{'offset':[3,-3]},"
-        "'grids':[{'name':'Grid 1'},{}]}");
-    QTest::newRow("bare data frame") << QByteArray("{'type':'dataFrame','handle':3,'map':0,'rectangle':[1,2,11,12]}");
-    QTest::newRow("surround") << QByteArray("{'type':'surround','handle':3,'rectangle':[1,2,3,4],'background':{" +
-                                            fill +
-                                            ",'gap':1},"
-                                            "'surround':{'kind':'scaleLine','map':1}}");
-    QTest::newRow("north arrow bound to no map") << QByteArray(
+            line +
+            ",'gap':2,'rounding':50},'shadow':{'offset':[3,-3]},"
+            "'grids':[{'name':'Grid 1'},{}]}");
+    row("bare data frame", "{'type':'dataFrame','handle':3,'map':0,'rectangle':[1,2,11,12]}");
+    row("surround", "{'type':'surround','handle':3,'rectangle':[1,2,3,4],'background':{" + fill +
+                        ",'gap':1},"
+                        "'surround':{'kind':'scaleLine','map':1}}");
+    row("north arrow bound to no map",
         "{'type':'surround','handle':3,'rectangle':[1,2,3,4],"
         "'surround':{'kind':'northArrow','symbol':{'type':'simpleMarker','style':'star'}}}");
-    QTest::newRow("picture beside the document")
-        << QByteArray("{'type':'picture','handle':3,'rectangle':[1,2,3,4],'path':'../logos/a.png'}");
+    row("picture beside the document", "{'type':'picture','handle':3,'rectangle':[1,2,3,4],'path':'../logos/a.png'}");
   }
   void comesBackAsItWasStored() {
-    QFETCH(QByteArray, stored);
+    auto const [stored] = fetched<QByteArray>();
     DocumentContext context = contextWith(2);
     _ptr_t<Element> element;
     Archive reader(json(stored));
@@ -106,47 +106,38 @@ private slots:
   }
 
   void refusesWithThePathOfTheField_data() {
-    QTest::addColumn<QByteArray>("stored");
-    QTest::addColumn<QString>("says");
-    QTest::newRow("no type") << QByteArray("{}") << "type";
-    QTest::newRow("unknown type") << QByteArray("{'type':'sphere'}") << "“sphere” is not one of marker, line";
-    QTest::newRow("handle used before") << QByteArray("{'type':'marker','handle':7,'position':[0,0]}") << "handle";
-    QTest::newRow("handle without a successor")
-        << QByteArray("{'type':'marker','handle':2147483647,'position':[0,0]}") << "handle";
-    QTest::newRow("negative handle") << QByteArray("{'type':'marker','handle':-1,'position':[0,0]}") << "handle";
-    QTest::newRow("position with one number") << QByteArray("{'type':'marker','position':[0]}") << "position";
-    QTest::newRow("line of one point") << QByteArray("{'type':'line','points':[0,0]}") << "points";
-    QTest::newRow("odd number of coordinates") << QByteArray("{'type':'line','points':[0,0,1]}") << "points";
-    QTest::newRow("coordinate out of this world") << QByteArray("{'type':'line','points':[0,0,1e15,0]}") << "points";
-    QTest::newRow("ring of two points")
-        << QByteArray("{'type':'polygon','rings':[{'points':[0,0,1,1,2,0]},{'points':[0,0,1,1]}]}")
-        << "rings[1].points";
-    QTest::newRow("polygon without rings") << QByteArray("{'type':'polygon'}") << "rings";
-    QTest::newRow("corners out of order") << QByteArray("{'type':'rectangle','rectangle':[3,0,1,1]}") << "rectangle";
-    QTest::newRow("text without a symbol") << QByteArray("{'type':'text','position':[0,0],'text':'a'}") << "symbol";
-    QTest::newRow("map that does not exist")
-        << QByteArray("{'type':'dataFrame','map':2,'rectangle':[0,0,1,1]}") << "map: 2";
-    QTest::newRow("map that another frame shows")
-        << QByteArray("{'type':'dataFrame','map':0,'rectangle':[0,0,1,1]}") << "map: another data frame";
-    QTest::newRow("frame far off the page")
-        << QByteArray("{'type':'dataFrame','map':1,'rectangle':[0,0,1,20000]}") << "rectangle";
-    QTest::newRow("rounding of more than all")
-        << QByteArray("{'type':'dataFrame','map':1,'rectangle':[0,0,1,1],'border':{'rounding':101}}")
-        << "border.rounding";
-    QTest::newRow("surround of an unknown kind")
-        << QByteArray("{'type':'surround','rectangle':[0,0,1,1],'surround':{'kind':'clock'}}") << "surround.kind";
-    QTest::newRow("surround of a map that does not exist")
-        << QByteArray("{'type':'surround','rectangle':[0,0,1,1],'surround':{'kind':'legend','map':5}}")
-        << "surround.map";
-    QTest::newRow("data frame in a group")
-        << QByteArray("{'type':'group','members':[{'type':'dataFrame','map':1,'rectangle':[0,0,1,1]}]}")
-        << "members[0].type";
-    QTest::newRow("a group of nothing") << QByteArray("{'type':'group','members':[]}") << "members";
-    QTest::newRow("seventeen groups") << nested(17) << "groups are nested";
+    Rows<QByteArray, QString> row;
+    row("no type", "{}", "type");
+    row("unknown type", "{'type':'sphere'}", "“sphere” is not one of marker, line");
+    row("handle used before", "{'type':'marker','handle':7,'position':[0,0]}", "handle");
+    row("handle without a successor", "{'type':'marker','handle':2147483647,'position':[0,0]}", "handle");
+    row("negative handle", "{'type':'marker','handle':-1,'position':[0,0]}", "handle");
+    row("position with one number", "{'type':'marker','position':[0]}", "position");
+    row("line of one point", "{'type':'line','points':[0,0]}", "points");
+    row("odd number of coordinates", "{'type':'line','points':[0,0,1]}", "points");
+    row("coordinate out of this world", "{'type':'line','points':[0,0,1e15,0]}", "points");
+    row("ring of two points", "{'type':'polygon','rings':[{'points':[0,0,1,1,2,0]},{'points':[0,0,1,1]}]}",
+        "rings[1].points");
+    row("polygon without rings", "{'type':'polygon'}", "rings");
+    row("corners out of order", "{'type':'rectangle','rectangle':[3,0,1,1]}", "rectangle");
+    row("text without a symbol", "{'type':'text','position':[0,0],'text':'a'}", "symbol");
+    row("map that does not exist", "{'type':'dataFrame','map':2,'rectangle':[0,0,1,1]}", "map: 2");
+    row("map that another frame shows", "{'type':'dataFrame','map':0,'rectangle':[0,0,1,1]}",
+        "map: another data frame");
+    row("frame far off the page", "{'type':'dataFrame','map':1,'rectangle':[0,0,1,20000]}", "rectangle");
+    row("rounding of more than all", "{'type':'dataFrame','map':1,'rectangle':[0,0,1,1],'border':{'rounding':101}}",
+        "border.rounding");
+    row("surround of an unknown kind", "{'type':'surround','rectangle':[0,0,1,1],'surround':{'kind':'clock'}}",
+        "surround.kind");
+    row("surround of a map that does not exist",
+        "{'type':'surround','rectangle':[0,0,1,1],'surround':{'kind':'legend','map':5}}", "surround.map");
+    row("data frame in a group", "{'type':'group','members':[{'type':'dataFrame','map':1,'rectangle':[0,0,1,1]}]}",
+        "members[0].type");
+    row("a group of nothing", "{'type':'group','members':[]}", "members");
+    row("seventeen groups", nested(17), "groups are nested");
   }
   void refusesWithThePathOfTheField() {
-    QFETCH(QByteArray, stored);
-    QFETCH(QString, says);
+    auto const [stored, says] = fetched<QByteArray, QString>();
     DocumentContext context = contextWith(2);
     context.handles << 7;
     context.framedMaps << context.maps[0].get();
@@ -183,24 +174,18 @@ private slots:
   }
 
   void storesThePage_data() {
-    QTest::addColumn<QByteArray>("stored");
-    QTest::addColumn<QString>("says");  // empty: taken
-    QTest::addColumn<QSizeF>("sizeCm");
-    QTest::newRow("A3, lying") << QByteArray("{'form':'A3','orientation':'landscape','background':{}}") << ""
-                               << QSizeF(42, 29.7);
-    QTest::newRow("custom, lying: the size is stored upright")
-        << QByteArray("{'form':'Custom','width':12.5,'height':80,'orientation':'landscape'}") << "" << QSizeF(80, 12.5);
-    QTest::newRow("unknown form") << QByteArray("{'form':'A44'}") << "“A44” is not a paper form" << QSizeF();
-    QTest::newRow("custom without a height") << QByteArray("{'form':'Custom','width':12}") << "height" << QSizeF();
-    QTest::newRow("wider than any plotter")
-        << QByteArray("{'form':'Custom','width':501,'height':1}") << "width" << QSizeF();
-    QTest::newRow("standing on its head")
-        << QByteArray("{'form':'A4','orientation':'upside'}") << "orientation" << QSizeF();
+    // says: empty: taken
+    Rows<QByteArray, QString, QSizeF> row;
+    row("A3, lying", "{'form':'A3','orientation':'landscape','background':{}}", "", QSizeF(42, 29.7));
+    row("custom, lying: the size is stored upright",
+        "{'form':'Custom','width':12.5,'height':80,'orientation':'landscape'}", "", QSizeF(80, 12.5));
+    row("unknown form", "{'form':'A44'}", "“A44” is not a paper form", QSizeF());
+    row("custom without a height", "{'form':'Custom','width':12}", "height", QSizeF());
+    row("wider than any plotter", "{'form':'Custom','width':501,'height':1}", "width", QSizeF());
+    row("standing on its head", "{'form':'A4','orientation':'upside'}", "orientation", QSizeF());
   }
   void storesThePage() {
-    QFETCH(QByteArray, stored);
-    QFETCH(QString, says);
-    QFETCH(QSizeF, sizeCm);
+    auto const [stored, says, sizeCm] = fetched<QByteArray, QString, QSizeF>();
     Page page;
     Archive reader(json(stored));
     describePage(reader, page);

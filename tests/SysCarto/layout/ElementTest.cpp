@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysCarto/layout/GraphicElements.h"
 #include "host/SysCarto/layout/PictureElement.h"
 #include "host/SysCarto/layout/TextElement.h"
@@ -70,41 +72,34 @@ _ptr_t<Element> groupOf(QList<_ptr_t<Element>> const& members) {
 
 }  // namespace
 
-Q_DECLARE_METATYPE(_ptr_t<Element>)
-
 class ElementTest : public QObject {
   Q_OBJECT
 
 private slots:
   void movesScalesAndFits_data() {
-    QTest::addColumn<_ptr_t<Element>>("element");
-    QTest::addColumn<QVector<double>>("moved");   // by (1, -2)
-    QTest::addColumn<QVector<double>>("scaled");  // about (2, 3) by 2 and 0.5
-    QTest::addColumn<QVector<double>>("fitted");  // into (10, 10) to (14, 12)
+    // moved: by (1, -2); scaled: about (2, 3) by 2 and 0.5; fitted: into (10, 10) to (14, 12)
+    Rows<_ptr_t<Element>, QVector<double>, QVector<double>, QVector<double>> row;
     using Sides = QVector<double>;
     Sides const moved{3, 1, 7, 3}, scaled{2, 3, 10, 4}, fitted{10, 10, 14, 12};
-    QTest::newRow("rectangle") << in(make<RectangleElement>(), 2, 3, 6, 5) << moved << scaled << fitted;
-    QTest::newRow("ellipse") << in(make<EllipseElement>(), 2, 3, 6, 5) << moved << scaled << fitted;
-    QTest::newRow("picture") << in(make<PictureElement>(), 2, 3, 6, 5) << moved << scaled << fitted;
-    QTest::newRow("data frame") << in(make<MapFrameElement>(), 2, 3, 6, 5) << moved << scaled << fitted;
-    QTest::newRow("surround") << in(make<MapSurroundFrame>(), 2, 3, 6, 5) << moved << scaled << fitted;
-    QTest::newRow("line") << lineFrom({{2, 5}, {6, 3}}) << moved << scaled << fitted;
-    QTest::newRow("group of two") << groupOf({in(make<RectangleElement>(), 2, 3, 3, 4), lineFrom({{3, 3}, {6, 5}})})
-                                  << moved << scaled << fitted;
-    QTest::newRow("a level line keeps its height of nothing")
-        << lineFrom({{2, 3}, {6, 3}}) << Sides{3, 1, 7, 1} << Sides{2, 3, 10, 3} << Sides{10, 11, 14, 11};
+    row("rectangle", in(make<RectangleElement>(), 2, 3, 6, 5), moved, scaled, fitted);
+    row("ellipse", in(make<EllipseElement>(), 2, 3, 6, 5), moved, scaled, fitted);
+    row("picture", in(make<PictureElement>(), 2, 3, 6, 5), moved, scaled, fitted);
+    row("data frame", in(make<MapFrameElement>(), 2, 3, 6, 5), moved, scaled, fitted);
+    row("surround", in(make<MapSurroundFrame>(), 2, 3, 6, 5), moved, scaled, fitted);
+    row("line", lineFrom({{2, 5}, {6, 3}}), moved, scaled, fitted);
+    row("group of two", groupOf({in(make<RectangleElement>(), 2, 3, 3, 4), lineFrom({{3, 3}, {6, 5}})}), moved, scaled,
+        fitted);
+    row("a level line keeps its height of nothing", lineFrom({{2, 3}, {6, 3}}), {3, 1, 7, 1}, {2, 3, 10, 3},
+        {10, 11, 14, 11});
     auto const marker = make<MarkerElement>();
     marker->setShape(make<Point>(4.0, 5.0, 0.0));
-    QTest::newRow("a marker only moves") << _ptr_t<Element>(marker) << Sides{5, 3, 5, 3} << Sides{6, 4, 6, 4}
-                                         << Sides{12, 11, 12, 11};
+    row("a marker only moves", _ptr_t<Element>(marker), {5, 3, 5, 3}, {6, 4, 6, 4}, {12, 11, 12, 11});
   }
   void movesScalesAndFits() {
-    QFETCH(_ptr_t<Element>, element);
-    QFETCH(QVector<double>, moved);
-    QFETCH(QVector<double>, scaled);
-    QFETCH(QVector<double>, fitted);
+    auto const [element, moved, scaled, fitted] =
+        fetched<_ptr_t<Element>, QVector<double>, QVector<double>, QVector<double>>();
     QVector<double> const before = sides(element->GetEnvelope());
-    auto const changed = [&](auto const& change) {
+    auto const changed = [&element = element](auto const& change) {
       auto const copy = element->Clone();
       change(*copy);
       return sides(copy->GetEnvelope());
@@ -117,9 +112,8 @@ private slots:
   }
 
   void boundaryCoversWhatSymbolsAdd_data() {
-    QTest::addColumn<_ptr_t<Element>>("element");
-    QTest::addColumn<double>("left");  // in points beyond the rectangle (2, 3) to (6, 5)
-    QTest::addColumn<double>("bottom");
+    // left: in points beyond the rectangle (2, 3) to (6, 5)
+    Rows<_ptr_t<Element>, double, double> row;
     auto const border = make<SymbolBorder>();
     border->SetGap(4);
     auto const framed = make<MapFrameElement>(), shaded = make<MapFrameElement>(), bare = make<MapFrameElement>();
@@ -128,15 +122,13 @@ private slots:
     auto const shadow = make<SymbolShadow>();
     shadow->SetOffset(-7, 5);
     shaded->SetShadow(shadow);
-    QTest::newRow("border and its gap") << in(framed, 2, 3, 6, 5) << 4.5 << 4.5;
-    QTest::newRow("shadow to the upper left") << in(shaded, 2, 3, 6, 5) << 7.0 << 0.0;
-    QTest::newRow("no part") << in(bare, 2, 3, 6, 5) << 0.0 << 0.0;
-    QTest::newRow("outline of half a point") << in(make<RectangleElement>(), 2, 3, 6, 5) << 0.25 << 0.25;
+    row("border and its gap", in(framed, 2, 3, 6, 5), 4.5, 4.5);
+    row("shadow to the upper left", in(shaded, 2, 3, 6, 5), 7.0, 0.0);
+    row("no part", in(bare, 2, 3, 6, 5), 0.0, 0.0);
+    row("outline of half a point", in(make<RectangleElement>(), 2, 3, 6, 5), 0.25, 0.25);
   }
   void boundaryCoversWhatSymbolsAdd() {
-    QFETCH(_ptr_t<Element>, element);
-    QFETCH(double, left);
-    QFETCH(double, bottom);
+    auto const [element, left, bottom] = fetched<_ptr_t<Element>, double, double>();
     for (double dpi : {96.0, 300.0}) {
       auto const boundary = element->GetBoundary(pageView(dpi))->GetEnvelope();
       double const pixel = 2.54 / dpi;

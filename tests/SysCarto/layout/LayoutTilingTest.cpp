@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysCarto/layout/ElementContainer.h"
 #include "host/SysCarto/layout/GraphicElements.h"
 #include "host/SysCarto/layout/PictureElement.h"
@@ -145,8 +147,6 @@ QImage photo(QSize const& size) {
 
 }  // namespace
 
-Q_DECLARE_METATYPE(Scene)
-
 class LayoutTilingTest : public QObject {
   Q_OBJECT
 
@@ -164,23 +164,23 @@ private slots:
   }
 
   void tilesDoNotShow_data() {
-    QTest::addColumn<Scene>("scene");
-    QTest::newRow("border, background and shadow") << sceneOf({framed(0)});
-    QTest::newRow("rounded corners") << sceneOf({framed(60)});
-    QTest::newRow("map with graphics and labels") << sceneOf({framedMap()});
-    QTest::newRow("text with a halo") << sceneOf({turnedText()});
-    QTest::newRow("ellipse") << sceneOf({in(make<EllipseElement>(), 0.3, 0.4, 7.1, 5.7)});
+    Rows<Scene> row;
+    row("border, background and shadow", sceneOf({framed(0)}));
+    row("rounded corners", sceneOf({framed(60)}));
+    row("map with graphics and labels", sceneOf({framedMap()}));
+    row("text with a halo", sceneOf({turnedText()}));
+    row("ellipse", sceneOf({in(make<EllipseElement>(), 0.3, 0.4, 7.1, 5.7)}));
     auto const group = make<GroupElement>();
     group->AddElement(in(make<RectangleElement>(), 0.5, 0.5, 6.9, 2.47));
     group->AddElement(turnedText());
-    QTest::newRow("group") << sceneOf({group});
-    QTest::newRow("picture that is made smaller") << sceneOf({picture("large.png")});
-    QTest::newRow("picture that is made larger") << sceneOf({picture("small.jpg")});
-    QTest::newRow("SVG picture") << sceneOf({picture("drawing.svg")});
-    QTest::newRow("picture that is not there") << sceneOf({picture("missing.png")});
+    row("group", sceneOf({group}));
+    row("picture that is made smaller", sceneOf({picture("large.png")}));
+    row("picture that is made larger", sceneOf({picture("small.jpg")}));
+    row("SVG picture", sceneOf({picture("drawing.svg")}));
+    row("picture that is not there", sceneOf({picture("missing.png")}));
   }
   void tilesDoNotShow() {
-    QFETCH(Scene, scene);
+    auto const [scene] = fetched<Scene>();
     QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx));
     QVERIFY(inked(whole) > 2000);
     QCOMPARE(differences(whole, tiled(scene, 512)), 0);
@@ -196,22 +196,15 @@ private slots:
   }
 
   void refusesAPictureWithASentence_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("says");
-    QTest::newRow("no file") << "missing.png"
-                             << "no such picture";
-    QTest::newRow("a folder") << "."
-                              << "no such picture";
-    QTest::newRow("no picture") << "text.png"
-                                << "neither PNG";
-    QTest::newRow("too wide to be decoded") << "wide.png"
-                                            << "20000";
-    QTest::newRow("an SVG that reaches outside") << "outside.svg"
-                                                 << "example.com";
+    Rows<QString, QString> row;
+    row("no file", "missing.png", "no such picture");
+    row("a folder", ".", "no such picture");
+    row("no picture", "text.png", "neither PNG");
+    row("too wide to be decoded", "wide.png", "20000");
+    row("an SVG that reaches outside", "outside.svg", "example.com");
   }
   void refusesAPictureWithASentence() {
-    QFETCH(QString, file);
-    QFETCH(QString, says);
+    auto const [file, says] = fetched<QString, QString>();
     auto const element = picture(file);
     QVERIFY2(element->problem().contains(says), qPrintable(element->problem()));
     QVERIFY(inked(drawn(sceneOf({element}), QRect(0, 0, widthPx, heightPx))) > 1000);

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysCarto/layout/GraphicElements.h"
 #include "host/SysCarto/layout/ViewSurface.h"
 
@@ -53,23 +55,19 @@ class PageViewTest : public QObject {
 
 private slots:
   void knowsThePaperForms_data() {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<double>("widthCm");
-    QTest::addColumn<double>("heightCm");
-    QTest::newRow("A0") << "A0" << 84.1 << 118.9;
-    QTest::newRow("A4") << "A4" << 21.0 << 29.7;
-    QTest::newRow("B5 is the ISO one") << "ISOB5" << 17.6 << 25.0;
-    QTest::newRow("Letter") << "Letter" << 21.59 << 27.94;
-    QTest::newRow("Ledger lies") << "Ledger" << 43.18 << 27.94;
-    QTest::newRow("Executive is the standard one") << "Executive" << 18.415 << 26.67;
-    QTest::newRow("DL envelope") << "EnvDL" << 11.0 << 22.0;
-    QTest::newRow("Arch E") << "ARCHE" << 91.44 << 121.92;
-    QTest::newRow("ANSI E") << "AnsiE" << 86.36 << 111.76;
+    Rows<QString, double, double> row;
+    row("A0", "A0", 84.1, 118.9);
+    row("A4", "A4", 21.0, 29.7);
+    row("B5 is the ISO one", "ISOB5", 17.6, 25.0);
+    row("Letter", "Letter", 21.59, 27.94);
+    row("Ledger lies", "Ledger", 43.18, 27.94);
+    row("Executive is the standard one", "Executive", 18.415, 26.67);
+    row("DL envelope", "EnvDL", 11.0, 22.0);
+    row("Arch E", "ARCHE", 91.44, 121.92);
+    row("ANSI E", "AnsiE", 86.36, 111.76);
   }
   void knowsThePaperForms() {
-    QFETCH(QString, key);
-    QFETCH(double, widthCm);
-    QFETCH(double, heightCm);
+    auto const [key, widthCm, heightCm] = fetched<QString, double, double>();
     FormInfo info;
     QSet<QString> keys;
     for (int id = 0; id < Paper::GetFormCount(); ++id) {
@@ -130,21 +128,20 @@ private slots:
   }
 
   void ignoresOrMendsAStrangeExtent_data() {
-    QTest::addColumn<QVector<double>>("asked");
-    QTest::addColumn<QVector<double>>("shown");  // empty: as before
+    // shown: empty: as before
+    Rows<QVector<double>, QVector<double>> row;
     double const nan = std::numeric_limits<double>::quiet_NaN(), inf = std::numeric_limits<double>::infinity();
     using Sides = QVector<double>;
-    QTest::newRow("a point is ignored") << Sides{3, 3, 3, 3} << Sides{};
-    QTest::newRow("not a number is ignored") << Sides{0, nan, 4, 3} << Sides{};
-    QTest::newRow("infinity is ignored") << Sides{0, 0, inf, 3} << Sides{};
-    QTest::newRow("a width beyond all numbers is ignored") << Sides{-1.7e308, 0, 1.7e308, 3} << Sides{};
-    QTest::newRow("corners are ordered") << Sides{4, 3, 0, 0} << Sides{0, 0, 4, 3};
-    QTest::newRow("a level line is widened to the aspect") << Sides{0, 5, 4, 5} << Sides{0, 3.5, 4, 6.5};
-    QTest::newRow("so is an upright one") << Sides{5, 0, 5, 3} << Sides{3, 0, 7, 3};
+    row("a point is ignored", {3, 3, 3, 3}, {});
+    row("not a number is ignored", {0, nan, 4, 3}, {});
+    row("infinity is ignored", {0, 0, inf, 3}, {});
+    row("a width beyond all numbers is ignored", {-1.7e308, 0, 1.7e308, 3}, {});
+    row("corners are ordered", {4, 3, 0, 0}, {0, 0, 4, 3});
+    row("a level line is widened to the aspect", {0, 5, 4, 5}, {0, 3.5, 4, 6.5});
+    row("so is an upright one", {5, 0, 5, 3}, {3, 0, 7, 3});
   }
   void ignoresOrMendsAStrangeExtent() {
-    QFETCH(QVector<double>, asked);
-    QFETCH(QVector<double>, shown);
+    auto const [asked, shown] = fetched<QVector<double>, QVector<double>>();
     auto const layout = newLayout();
     auto const before = layout->GetExtent();
     auto const stack = layout->GetExtentStack();
@@ -247,16 +244,14 @@ private slots:
   }
 
   void replacesMapsByOrder_data() {
-    QTest::addColumn<int>("frames");
-    QTest::addColumn<int>("maps");
-    QTest::newRow("as many maps as data frames") << 2 << 2;
-    QTest::newRow("a data frame left over keeps its place with an empty map") << 3 << 1;
-    QTest::newRow("a map left over gets a data frame") << 1 << 3;
-    QTest::newRow("no data frame at all") << 0 << 2;
+    Rows<int, int> row;
+    row("as many maps as data frames", 2, 2);
+    row("a data frame left over keeps its place with an empty map", 3, 1);
+    row("a map left over gets a data frame", 1, 3);
+    row("no data frame at all", 0, 2);
   }
   void replacesMapsByOrder() {
-    QFETCH(int, frames);
-    QFETCH(int, maps);
+    auto const [frames, maps] = fetched<int, int>();
     auto const layout = newLayout();
     QList<_ptr_t<Map>> former, given, present;
     for (int i = 0; i < frames; ++i) former << addFrame(*layout)->GetMap();

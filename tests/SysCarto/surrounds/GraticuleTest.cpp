@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysUtility/Archive.h"
 
 #include <SysCarto/Graticule.h>
@@ -11,8 +13,6 @@
 #include <cpl_error.h>
 
 #include <cmath>
-
-Q_DECLARE_METATYPE(SysGeometry::Envelope)
 
 using namespace SysCarto;
 using SysDisplay::DisplayTransformation;
@@ -42,36 +42,25 @@ class GraticuleTest : public QObject {
 
 private slots:
   void linesRunThroughTheirPlaces_data() {
-    QTest::addColumn<QString>("system");
-    QTest::addColumn<Envelope>("bounds");
-    QTest::addColumn<double>("interval");
-    QTest::addColumn<QVector<QPointF>>("onLines");  // map units
-    QTest::addColumn<QVector<QPointF>>("offLines");
+    // onLines: map units
+    Rows<QString, Envelope, double, QVector<QPointF>, QVector<QPointF>> row;
     using Points = QVector<QPointF>;
-    QTest::newRow("degrees") << "EPSG:4326" << Envelope(-25, -20, 25, 20) << 10.0
-                             << Points{{0, 5}, {5, 0}, {20, -13}, {-17, -10}} << Points{{5, 5}, {-15, 15}};
-    QTest::newRow("the whole world, both sides of its cut")
-        << "EPSG:4326" << Envelope(-180, -90, 180, 90) << 45.0
-        << Points{{-135, 10}, {-135, 85}, {45, -80}, {179.5, 20}, {-179.5, 20}, {20, 45}}
-        << Points{{20, 20}, {160, -20}};
-    QTest::newRow("over the antimeridian")
-        << "EPSG:3832" << Envelope(2000000, -2000000, 7000000, 2000000) << 10.0
-        << Points{{30 * 111319.49, 500000}, {40 * 111319.49, 500000}, {4000000, 0}} << Points{{35 * 111319.49, 500000}};
+    row("degrees", "EPSG:4326", Envelope(-25, -20, 25, 20), 10.0, {{0, 5}, {5, 0}, {20, -13}, {-17, -10}},
+        {{5, 5}, {-15, 15}});
+    row("the whole world, both sides of its cut", "EPSG:4326", Envelope(-180, -90, 180, 90), 45.0,
+        {{-135, 10}, {-135, 85}, {45, -80}, {179.5, 20}, {-179.5, 20}, {20, 45}}, {{20, 20}, {160, -20}});
+    row("over the antimeridian", "EPSG:3832", Envelope(2000000, -2000000, 7000000, 2000000), 10.0,
+        {{30 * 111319.49, 500000}, {40 * 111319.49, 500000}, {4000000, 0}}, {{35 * 111319.49, 500000}});
     // A polar map: the parallel of 80 degrees is a circle about the pole, and meridians meet there.
-    QTest::newRow("around a pole") << "EPSG:3995" << Envelope(-2500000, -2000000, 2500000, 2000000) << 10.0
-                                   << Points{{0, 1085943}, {1085943, 0}, {-1085943, 0}, {0, -500000}, {500000, 0}}
-                                   << Points{{700000, 300000}};
-    QTest::newRow("a map that lies askew")
-        << "+proj=omerc +lat_0=45 +lonc=10 +alpha=35 +gamma=0 +datum=WGS84"
-        << Envelope(-500000, -400000, 500000, 400000) << 5.0 << Points{{0, 0}} << Points{};
+    row("around a pole", "EPSG:3995", Envelope(-2500000, -2000000, 2500000, 2000000), 10.0,
+        {{0, 1085943}, {1085943, 0}, {-1085943, 0}, {0, -500000}, {500000, 0}}, {{700000, 300000}});
+    row("a map that lies askew", "+proj=omerc +lat_0=45 +lonc=10 +alpha=35 +gamma=0 +datum=WGS84",
+        Envelope(-500000, -400000, 500000, 400000), 5.0, {{0, 0}}, {});
   }
 
   void linesRunThroughTheirPlaces() {
-    QFETCH(QString, system);
-    QFETCH(Envelope, bounds);
-    QFETCH(double, interval);
-    QFETCH(QVector<QPointF>, onLines);
-    QFETCH(QVector<QPointF>, offLines);
+    auto const [system, bounds, interval, onLines, offLines] =
+        fetched<QString, Envelope, double, QVector<QPointF>, QVector<QPointF>>();
     auto const frame = frameWith(system, bounds, {{"interval", interval}, {"labels", false}});
     QImage const image = drawn(*frame);
     auto const shown = frame->GetMap()->GetExtent();
@@ -107,32 +96,22 @@ private slots:
   }
 
   void everyLineHasItsLabel_data() {
-    QTest::addColumn<QString>("system");
-    QTest::addColumn<Envelope>("bounds");
-    QTest::addColumn<double>("interval");
-    QTest::addColumn<QVector<QPoint>>("labels");  // pixels
-    QTest::addColumn<QVector<QPoint>>("bare");
+    // labels: pixels
+    Rows<QString, Envelope, double, QVector<QPoint>, QVector<QPoint>> row;
     using Points = QVector<QPoint>;
-    QTest::newRow("a parallel around a pole, on its lowest point")
-        << "EPSG:3995" << Envelope(-2500000, -2000000, 2500000, 2000000) << 10.0 << Points{{240, 287}}
-        << Points{{240, 113}};
-    QTest::newRow("meridians from pole to pole, on the equator")
-        << "ESRI:54009" << Envelope(-20000000, -16000000, 20000000, 16000000) << 45.0
-        << Points{{195, 200}, {285, 200}, {240, 200}} << Points{{240, 105}};
-    QTest::newRow("meridians that end in the line of a pole, beyond it")
-        << "ESRI:54030" << Envelope(-20000000, -16000000, 20000000, 16000000) << 90.0
-        << Points{{240, 107}, {240, 293}, {288, 107}} << Points{{240, 200}};
-    QTest::newRow("lines along the sides of the frame, in its corners")
-        << "EPSG:4326" << Envelope(-25, -20, 25, 20) << 25.0 << Points{{40, 33}, {40, 367}, {33, 200}}
-        << Points{{33, 50}};
+    row("a parallel around a pole, on its lowest point", "EPSG:3995", Envelope(-2500000, -2000000, 2500000, 2000000),
+        10.0, {{240, 287}}, {{240, 113}});
+    row("meridians from pole to pole, on the equator", "ESRI:54009", Envelope(-20000000, -16000000, 20000000, 16000000),
+        45.0, {{195, 200}, {285, 200}, {240, 200}}, {{240, 105}});
+    row("meridians that end in the line of a pole, beyond it", "ESRI:54030",
+        Envelope(-20000000, -16000000, 20000000, 16000000), 90.0, {{240, 107}, {240, 293}, {288, 107}}, {{240, 200}});
+    row("lines along the sides of the frame, in its corners", "EPSG:4326", Envelope(-25, -20, 25, 20), 25.0,
+        {{40, 33}, {40, 367}, {33, 200}}, {{33, 50}});
   }
 
   void everyLineHasItsLabel() {
-    QFETCH(QString, system);
-    QFETCH(Envelope, bounds);
-    QFETCH(double, interval);
-    QFETCH(QVector<QPoint>, labels);
-    QFETCH(QVector<QPoint>, bare);
+    auto const [system, bounds, interval, labels, bare] =
+        fetched<QString, Envelope, double, QVector<QPoint>, QVector<QPoint>>();
     QImage const with = drawn(*frameWith(system, bounds, {{"interval", interval}}));
     QImage const without = drawn(*frameWith(system, bounds, {{"interval", interval}, {"labels", false}}));
     auto const isLabelled = [&](QPoint const& place) {

@@ -1,3 +1,5 @@
+#include "Rows.h"
+
 #include "host/SysCarto/document/CoordinateSystem.h"
 #include "host/SysCarto/layers/VectorLayer.h"
 #include "host/SysCarto/layout/GraphicElements.h"
@@ -20,9 +22,6 @@
 #include <ogr_spatialref.h>
 
 #include <cmath>
-
-Q_DECLARE_METATYPE(SysGeometry::Envelope)
-Q_DECLARE_METATYPE(SysUtility::_ptr_t<SysCarto::MapSurroundFrame>)
 
 using namespace SysCarto;
 using SysDisplay::DisplayTransformation;
@@ -122,17 +121,7 @@ class SurroundTest : public QObject {
 
 private slots:
   void aScaleBarIsAsLongAsTheGroundSays_data() {
-    QTest::addColumn<QString>("system");
-    QTest::addColumn<double>("x");
-    QTest::addColumn<double>("y");
-    QTest::addColumn<double>("unitsPerCm");
-    QTest::addColumn<QByteArray>("settings");
-    QTest::addColumn<QString>("last");
-    QTest::addColumn<double>("metres");
-    auto const row = [](char const* name, QString const& system, double x, double y, double unitsPerCm,
-                        char const* settings, char const* last, double metres) {
-      QTest::newRow(name) << system << x << y << unitsPerCm << QByteArray(settings) << QString(last) << metres;
-    };
+    Rows<QString, double, double, double, QByteArray, QString, double> row;
     row("a plan", "EPSG:32634", 500000, 4200000, 10, "{}", "80 m", 80);
     row("metres to the thousands", "EPSG:32634", 500000, 4200000, 250, "{}", "2,000 m", 2000);
     row("a region", aegean, 0, 0, 20000, "{}", "150 km", 0);
@@ -145,13 +134,8 @@ private slots:
   }
 
   void aScaleBarIsAsLongAsTheGroundSays() {
-    QFETCH(QString, system);
-    QFETCH(double, x);
-    QFETCH(double, y);
-    QFETCH(double, unitsPerCm);
-    QFETCH(QByteArray, settings);
-    QFETCH(QString, last);
-    QFETCH(double, metres);
+    auto const [system, x, y, unitsPerCm, settings, last, metres] =
+        fetched<QString, double, double, double, QByteArray, QString, double>();
     auto const map = mapOf(system, x, y, unitsPerCm);
     auto const frame = framed<ScaleLine>(map, whole, settings);
     double left = INFINITY, right = -INFINITY;
@@ -185,19 +169,15 @@ private slots:
   }
 
   void aScaleTextIsWrittenAsAsked_data() {
-    QTest::addColumn<double>("unitsPerCm");
-    QTest::addColumn<QByteArray>("settings");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("grouped") << 250000.0 << QByteArray("{}") << "1:25,000,000";
-    QTest::newRow("four digits and no more") << 42537.14 << QByteArray("{}") << "1:4,254,000";
-    QTest::newRow("a plan larger than nature") << 0.005 << QByteArray("{}") << "1:0.5";
-    QTest::newRow("a pattern") << 10.0 << QByteArray("{'pattern':'Massstab 1 : %1'}") << "Massstab 1 : 1,000";
+    Rows<double, QByteArray, QString> row;
+    row("grouped", 250000.0, "{}", "1:25,000,000");
+    row("four digits and no more", 42537.14, "{}", "1:4,254,000");
+    row("a plan larger than nature", 0.005, "{}", "1:0.5");
+    row("a pattern", 10.0, "{'pattern':'Massstab 1 : %1'}", "Massstab 1 : 1,000");
   }
 
   void aScaleTextIsWrittenAsAsked() {
-    QFETCH(double, unitsPerCm);
-    QFETCH(QByteArray, settings);
-    QFETCH(QString, text);
+    auto const [unitsPerCm, settings, text] = fetched<double, QByteArray, QString>();
     QCOMPARE(textsOf(*framed<ScaleText>(mapOf("", 0, 0, unitsPerCm), whole, settings)), QStringList(text));
   }
 
@@ -228,19 +208,15 @@ private slots:
   }
 
   void aLegendFitsItsFrame_data() {
-    QTest::addColumn<int>("layers");
-    QTest::addColumn<Envelope>("rectangle");
-    QTest::addColumn<int>("columns");
-    QTest::newRow("one column") << 5 << Envelope(0, 0, 5, 8) << 1;
-    QTest::newRow("two where one is too high") << 16 << Envelope(0, 2, 10, 8) << 2;
-    QTest::newRow("many in a flat frame") << 24 << Envelope(0, 5, 10, 7) << 5;
-    QTest::newRow("smaller in a small one") << 24 << Envelope(4, 4, 6, 5) << 3;
+    Rows<int, Envelope, int> row;
+    row("one column", 5, Envelope(0, 0, 5, 8), 1);
+    row("two where one is too high", 16, Envelope(0, 2, 10, 8), 2);
+    row("many in a flat frame", 24, Envelope(0, 5, 10, 7), 5);
+    row("smaller in a small one", 24, Envelope(4, 4, 6, 5), 3);
   }
 
   void aLegendFitsItsFrame() {
-    QFETCH(int, layers);
-    QFETCH(Envelope, rectangle);
-    QFETCH(int, columns);
+    auto const [layers, rectangle, columns] = fetched<int, Envelope, int>();
     auto const map = mapOf("", 0, 0, 1000);
     for (int i = 0; i < layers; ++i) addLayer(*map, QString("Layer %1").arg(i), make<SysDisplay::SimpleFillSymbol>());
     auto const frame = framed<Legend>(map, rectangle);
@@ -256,13 +232,13 @@ private slots:
 
   // However big the symbols of the map are, and however small the frame.
   void symbolsOfALegendKeepTheirPlace_data() {
-    QTest::addColumn<Envelope>("rectangle");
-    QTest::newRow("in full size") << whole;
-    QTest::newRow("smaller") << Envelope(4, 4, 6, 5.5);
+    Rows<Envelope> row;
+    row("in full size", whole);
+    row("smaller", Envelope(4, 4, 6, 5.5));
   }
 
   void symbolsOfALegendKeepTheirPlace() {
-    QFETCH(Envelope, rectangle);
+    auto const [rectangle] = fetched<Envelope>();
     auto const map = mapOf("", 0, 0, 1000);
     auto const marker = make<SysDisplay::SimpleMarkerSymbol>();
     marker->SetSize(60);
@@ -328,20 +304,20 @@ private slots:
   }
 
   void graphicsMadeOfASurroundLookTheSame_data() {
-    QTest::addColumn<_ptr_t<MapSurroundFrame>>("frame");
+    Rows<_ptr_t<MapSurroundFrame>> row;
     auto const map = mapOf(aegean, 0, 0, 20000);
     addLayer(*map, "Land", make<SysDisplay::SimpleFillSymbol>());
     addLayer(*map, "Rivers", make<SysDisplay::SimpleLineSymbol>());
     addLayer(*map, "Towns", make<SysDisplay::SimpleMarkerSymbol>());
-    QTest::newRow("legend") << framed<Legend>(map, Envelope(1, 1, 5, 7));
-    QTest::newRow("scale bar") << framed<ScaleLine>(map, Envelope(1, 1, 9, 3));
-    QTest::newRow("ticks") << framed<ScaleLine>(map, Envelope(1, 1, 9, 3), "{'style':'ticks','unit':'nmi'}");
-    QTest::newRow("scale text") << framed<ScaleText>(map, Envelope(1, 1, 9, 3));
-    QTest::newRow("north arrow") << framed<MarkerNorthArrow>(map, Envelope(1, 1, 9, 7), "{'trueNorth':true}");
+    row("legend", framed<Legend>(map, Envelope(1, 1, 5, 7)));
+    row("scale bar", framed<ScaleLine>(map, Envelope(1, 1, 9, 3)));
+    row("ticks", framed<ScaleLine>(map, Envelope(1, 1, 9, 3), "{'style':'ticks','unit':'nmi'}"));
+    row("scale text", framed<ScaleText>(map, Envelope(1, 1, 9, 3)));
+    row("north arrow", framed<MarkerNorthArrow>(map, Envelope(1, 1, 9, 7), "{'trueNorth':true}"));
   }
 
   void graphicsMadeOfASurroundLookTheSame() {
-    QFETCH(_ptr_t<MapSurroundFrame>, frame);
+    auto const [frame] = fetched<_ptr_t<MapSurroundFrame>>();
     auto const group = make<GroupElement>();
     for (auto const& element : frame->GetMapSurround()->GetElements()) group->AddElement(element);
     QImage const asGraphics = drawn(*group);
