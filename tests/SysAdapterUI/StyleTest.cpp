@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "Rows.h"
 
 #include "host/SysAdapterUI/StyleItemModel.h"
@@ -147,18 +148,16 @@ private slots:
   }
 
   void aBrokenLibraryIsNamedAndTheOthersAreShown() {
-    QFile broken(folder_.filePath("broken.style"));
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("{\"format\": ") > 0);
-    broken.close();
+    QString const broken = put(folder_.filePath("broken.style"), "{\"format\": ");
     SysUI::EnvironmentSetting::Instance()->SetPropertyValue("PATH", "StyleFilePaths",
-                                                            broken.fileName() + ",/missing.style," + library_);
+                                                            broken + ",/missing.style," + library_);
     StyleSelectorDlg dialog(nullptr);
     dialog.SetStyleItem(FillStyle, nullptr);
     dialog.show();
     QVERIFY(dialog.findChild<QListView*>("grid")->model()->rowCount() >= 20);
     auto* const problems = dialog.findChild<QLabel*>("problems");
     QVERIFY(problems->isVisible());
-    QVERIFY2(problems->text().startsWith(broken.fileName()), qPrintable(problems->text()));
+    QVERIFY2(problems->text().startsWith(broken), qPrintable(problems->text()));
   }
 
 private:

@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "Rows.h"
 
 #include "host/SysDisplay/StyleLibrary.h"
@@ -14,9 +15,8 @@ class StyleLibraryTest : public QObject {
 
 private slots:
   void initTestCase() {
-    QFile file(QStringLiteral(PLOTVANE_SOURCE_DIR "/fuzz/seeds/style/everything.style"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    whole_ = file.readAll();
+    whole_ = contentOf(PLOTVANE_SOURCE_DIR "/fuzz/seeds/style/everything.style");
+    QVERIFY(!whole_.isEmpty());
   }
 
   void aLibraryIsWrittenAsItWasRead() {
@@ -101,18 +101,9 @@ private:
     return text + "<path ";
   }
 
-  static QByteArray contentOf(QString const& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-
   std::optional<StyleLibrary> read(QByteArray const& content) {
-    QString const path = folder_.filePath("read.style");
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write a test file");
-    file.close();
     error_.clear();
-    return readStyleLibrary(path, error_);
+    return readStyleLibrary(put(folder_.filePath("read.style"), content), error_);
   }
 
   QTemporaryDir folder_;

@@ -1,7 +1,7 @@
+#include "RecordingSurface.h"
+
 #include <SysFramework/BaseTool.h>
 #include <SysFramework/DesktopCommand.h>
-
-#include "host/SysCarto/layout/ViewSurface.h"
 
 #include <QtTest>
 
@@ -26,19 +26,6 @@ public:
   SysCarto::IKdxContents* GetActiveContents() override { return nullptr; }
   SysAdapterUI::TOCControl* GetTOCControl() override { return nullptr; }
   _ptr_t<IContentsSite> GetContentsSite() override { return nullptr; }
-};
-
-class Surface final : public SysCarto::ViewSurface {
-public:
-  void beginTracker() override {}
-  void endTracker() override {}
-  void trackerOffset(double, double) override {}
-  void trackerShape(SysDisplay::Symbol const&, _ptr_t<SysGeometry::Geometry> const&,
-                    _ptr_t<SysDisplay::DisplayTransformation> const&) override {}
-  void refresh(int) override {}
-  void clearOverlay() override {}
-  void setCursor(QCursor const& cursor) override { shape = cursor.shape(); }
-  Qt::CursorShape shape = Qt::ArrowCursor;
 };
 
 class Command final : public DesktopCommand {
@@ -114,7 +101,8 @@ private slots:
 
   void theCursorIsKeptAndReachesTheViewThatIsShown() {
     PlainHook hook;
-    Surface surface;
+    QStringList calls;
+    RecordingSurface surface(calls);
     auto const tool = make<Tool>();
     QVERIFY(tool->Activate() && tool->IsChecked());
     tool->SetCurrentCursor(Qt::CrossCursor);
@@ -125,7 +113,7 @@ private slots:
     QCOMPARE(tool->GetCursor().shape(), Qt::CrossCursor);
     hook.view->setSurface(&surface);
     tool->SetCurrentCursor(Qt::WaitCursor);
-    QCOMPARE(surface.shape, Qt::WaitCursor);
+    QCOMPARE(calls, QStringList(QString("cursor %1").arg(Qt::WaitCursor)));
     QCOMPARE(tool->GetCursor().shape(), Qt::WaitCursor);
     QVERIFY(tool->Deactivate() && !tool->IsChecked());
   }

@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "Rows.h"
 
 #include <SysUI/EnvironmentSetting.h>
@@ -74,11 +75,7 @@ private slots:
   void aSettingComesBackAsOneText() {
     auto const [line, value] = fetched<QByteArray, QString>();
     QTemporaryDir const folder;
-    QFile file(folder.filePath("settings.ini"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("[PATH]\n" + line + "\n");
-    file.close();
-    qputenv("PLOTVANE_SETTINGS", file.fileName().toUtf8());
+    qputenv("PLOTVANE_SETTINGS", put(folder.filePath("settings.ini"), "[PATH]\n" + line + "\n").toUtf8());
     QCOMPARE(setting("k"), value);
     QCOMPARE(setting("k").isNull(), value.isNull());
   }

@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "Rows.h"
 
 #include "host/SysUtility/Archive.h"
@@ -11,9 +12,6 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <sys/resource.h>
-
-#include <csignal>
 #include <cmath>
 
 using namespace SysUtility;
@@ -64,26 +62,6 @@ QJsonObject written(Sheet sheet) {
   describe(archive, sheet);
   return archive.json();
 }
-
-QString file(QString const& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-// While it lives, no file of this process can grow beyond a size. A write then comes back short, as on a full disk.
-class FileSizeLimit {
-public:
-  explicit FileSizeLimit(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit const limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-private:
-  rlimit before_;
-};
 
 }  // namespace
 
@@ -258,7 +236,7 @@ private slots:
     QString const path = folder.filePath("page.kdx");
     QCOMPARE(FileSaver::save(path, "a longer first text"), QString());
     QCOMPARE(FileSaver::save(path, "second"), QString());
-    QCOMPARE(file(path), QStringLiteral("second"));
+    QCOMPARE(contentOf(path), QByteArray("second"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
   }
 
@@ -278,7 +256,7 @@ private slots:
       problem = FileSaver::save(path, QByteArray(size, 'x'));
     }
     QVERIFY2(problem.contains(path), qUtf8Printable(problem));
-    QCOMPARE(file(path), QStringLiteral("good"));
+    QCOMPARE(contentOf(path), QByteArray("good"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
   }
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "Files.h"
+
 #include <SysCarto/Map.h>
 #include <SysCarto/MapDocument.h>
 
 #include <QDir>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QMap>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -46,24 +46,6 @@ inline Outcome run(QStringList const& arguments, QString const& folder, QMap<QSt
   return finish(process);
 }
 
-/// Every file below a folder, with its content.
-inline QMap<QString, QByteArray> contents(QString const& folder) {
-  QMap<QString, QByteArray> all;
-  QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                  QDirIterator::Subdirectories);
-  while (it.hasNext()) {
-    QFile file(it.next());
-    all[it.filePath()] = it.fileInfo().isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-  return all;
-}
-
-inline void write(QString const& path, QByteArray const& content) {
-  QFile file(path);
-  QVERIFY(file.open(QIODevice::WriteOnly));
-  QCOMPARE(file.write(content), qint64{content.size()});
-}
-
 /// A folder with `page.kdx`: 8 × 6 cm with a data frame named "World", its map empty.
 class DocumentFolder {
 public:
@@ -88,16 +70,14 @@ public:
 
   /// A copy of the document with other values at its top; a null takes one away.
   void writeVariant(QString const& name, QJsonObject const& values) const {
-    QFile file(path("page.kdx"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QJsonObject json = QJsonDocument::fromJson(file.readAll()).object();
+    QJsonObject json = QJsonDocument::fromJson(contentOf(path("page.kdx"))).object();
     for (auto it = values.begin(); it != values.end(); ++it) {
       if (it.value().isNull())
         json.remove(it.key());
       else
         json[it.key()] = it.value();
     }
-    write(path(name), QJsonDocument(json).toJson());
+    put(path(name), QJsonDocument(json).toJson());
   }
 
 private:

@@ -89,7 +89,7 @@ private slots:
 
   void followsALinkToTheImage() {
     QTemporaryDir elsewhere;
-    write(elsewhere.filePath("real.png"), "old");
+    put(elsewhere.filePath("real.png"), "old");
     QVERIFY(QFile::link(elsewhere.filePath("real.png"), folder_.path("link.png")));
     QCOMPARE(run({"export", "page.kdx", "link.png", "--dpi", "50"}, folder_.path()).status, 0);
     QVERIFY(QFileInfo(folder_.path("link.png")).isSymLink());
@@ -127,7 +127,7 @@ private slots:
   }
   void aDamagedSourceIsAnErrorUnlessAllowed() {
     auto const [file, content, complaint] = fetched<QString, QByteArray, QString>();
-    if (!content.isEmpty()) write(folder_.path(file), content);
+    if (!content.isEmpty()) put(folder_.path(file), content);
     QJsonObject const picture{{"type", "picture"}, {"path", file}, {"rectangle", QJsonArray{1, 1, 5, 5}}};
     QJsonObject const symbol{{"type", "simple"}, {"symbol", QJsonObject{{"type", "simpleFill"}}}};
     QJsonObject const layer{
@@ -149,8 +149,8 @@ private slots:
   }
 
   void aFailureLeavesTheFolderAsItWas_data() {
-    write(folder_.path("text.kdx"), "{ \"format\": ");
-    write(folder_.path("old.png"), "old");
+    put(folder_.path("text.kdx"), "{ \"format\": ");
+    put(folder_.path("old.png"), "old");
     folder_.writeDocument("poster.kdx", 100.0, 100.0);
     folder_.writeVariant("newer.kdx", {{"version", 1000}});
     folder_.writeVariant("pageless.kdx", {{"page", QJsonValue::Null}});
@@ -212,7 +212,7 @@ private slots:
     SmallDisk const disk(qint64(temporaryBytes * ofTemporary) + (isDrawn ? headerBytes : 0) +
                          qint64((imageBytes - headerBytes) * ofImage));
     if (!disk.mounted()) QSKIP("no small disk can be mounted here");
-    write(disk.path(name), "old");
+    put(disk.path(name), "old");
     Outcome const outcome = run(arguments, disk.path());
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.err.contains(isDrawn ? name + " was not written" : "are free"), qPrintable(outcome.err));
@@ -223,7 +223,7 @@ private slots:
     if (geteuid() != 0) QSKIP("only root mounts a disk");
     SmallDisk const disk(1000000);
     if (!disk.mounted()) QSKIP("no disk can be mounted here");
-    write(disk.path("old.png"), "old");
+    put(disk.path("old.png"), "old");
     QCOMPARE(QProcess::execute("mount", {"-o", "remount,ro", disk.path()}), 0);
     Outcome const outcome = run({"export", folder_.path("page.kdx"), disk.path("old.png")}, folder_.path());
     QCOMPARE(outcome.status, 1);
@@ -237,7 +237,7 @@ private slots:
   }
   void aFileLimitLeavesTheOldImage() {
     auto const [name] = fetched<QString>();
-    write(folder_.path(name), "old");
+    put(folder_.path(name), "old");
     auto const before = contents(folder_.path());
     Outcome const outcome = exportWithFileLimit(folder_.path(), name, qint64{2} * width * height);
     QCOMPARE(outcome.status, 1);

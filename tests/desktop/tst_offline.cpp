@@ -108,7 +108,7 @@ void OfflineTest::addSources() {
     QTest::newRow(qPrintable("source " + source.section("127.0.0.1", 0, 0))) << name;
   }
   QString const system = listener_.address("system");
-  write(folder_.path("plain.geojson"), pointWith(""));
+  put(folder_.path("plain.geojson"), pointWith(""));
   writeLayer("mapsystem.kdx", "plain.geojson", system);
   writeLayer("mapgrid.kdx", "plain.geojson", "+proj=longlat +datum=WGS84 +nadgrids=" + system + " +type=crs");
   writeLayer("sourcesystem.kdx", "plain.geojson", "EPSG:3857", system);
@@ -138,7 +138,7 @@ void OfflineTest::addFilesThatNameAnAddress() {
     QTest::newRow(claim) << file + ".kdx";
   };
   auto const geoJson = [&](char const* claim, QString const& file, QByteArray const& system) {
-    write(folder_.path(file), pointWith("\"crs\":" + system + ','));
+    put(folder_.path(file), pointWith("\"crs\":" + system + ','));
     row(claim, file);
   };
   geoJson("a GeoJSON that links to its coordinate system", "link.geojson",
@@ -149,7 +149,7 @@ void OfflineTest::addFilesThatNameAnAddress() {
           R"({"type":"name","properties":{"name":")" + address + "\"}}");
   geoJson("a GeoJSON that names a virtual file", "vsi.geojson",
           R"({"type":"name","properties":{"name":"/vsicurl/)" + address + "\"}}");
-  write(folder_.path("bare.geojson"), address);
+  put(folder_.path("bare.geojson"), address);
   row("a GeoJSON that is an address", "bare.geojson");
 
   QStringList statements{
@@ -164,11 +164,11 @@ void OfflineTest::addFilesThatNameAnAddress() {
   for (QString const name : {"address", "grid"})
     GDALClose(shapefile->CreateCopy(folder_.path(name + ".shp").toUtf8().constData(), plain.get(), TRUE, nullptr,
                                     nullptr, nullptr));
-  write(folder_.path("address.prj"), address);
-  write(folder_.path("grid.prj"),
-        R"(GEOGCS["x",DATUM["d",SPHEROID["s",6378137,298.25]],PRIMEM["g",0],UNIT["degree",0.0174532925199433],)"
-        R"(EXTENSION["PROJ4","+proj=longlat +ellps=WGS84 +nadgrids=)" +
-            address + "\"]]");
+  put(folder_.path("address.prj"), address);
+  put(folder_.path("grid.prj"),
+      R"(GEOGCS["x",DATUM["d",SPHEROID["s",6378137,298.25]],PRIMEM["g",0],UNIT["degree",0.0174532925199433],)"
+      R"(EXTENSION["PROJ4","+proj=longlat +ellps=WGS84 +nadgrids=)" +
+          address + "\"]]");
   row("a shapefile whose coordinate system is an address", "address.shp");
   row("a shapefile whose coordinate system names a grid", "grid.shp");
 }
@@ -196,7 +196,7 @@ void OfflineTest::addPictures() {
         "viewBox='0 0 9 9'>" +
         drawing.body + "</svg>";
     QString const name = drawing.name;
-    write(folder_.path(name + ".svg"), svg);
+    put(folder_.path(name + ".svg"), svg);
     writeElement(name + "-picture.kdx",
                  {{"type", "picture"}, {"path", name + ".svg"}, {"rectangle", QJsonArray{1, 1, 5, 5}}});
     QJsonObject const symbol{{"type", "svgMarker"}, {"svg", QString(svg)}, {"size", 40}};

@@ -120,14 +120,13 @@ private slots:
   }
 
   void theReferenceIsAsPrinted() {
-    QFile reference(QStringLiteral(PLOTVANE_SOURCE_DIR "/docs/commands.md"));
-    QVERIFY(reference.open(QIODevice::ReadOnly));
-    QCOMPARE(run({"commands", "--markdown"}, folder_.path()).out, QString::fromUtf8(reference.readAll()));
+    QCOMPARE(run({"commands", "--markdown"}, folder_.path()).out,
+             QString::fromUtf8(contentOf(PLOTVANE_SOURCE_DIR "/docs/commands.md")));
   }
 
   void aPluginThatDoesNotLoadIsNamed_data() {
     Rows<QString, QString, QString> row;
-    write(folder_.path("text.so"), "not a library");
+    put(folder_.path("text.so"), "not a library");
     row("a missing file", folder_.path("none.so"), "missing", "none.so");
     row("a file that is no library", folder_.path("text.so"), "failed", "text.so");
     row("a library without the entry", QStringLiteral(PLOTVANE_BINARY_DIR "/lib/libSysUI.so"), "failed",

@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "Rows.h"
 
 #include "host/SysCarto/layout/GraphicElements.h"
@@ -71,14 +72,12 @@ private slots:
   }
 
   void aDocumentThatCanNotBeReadChangesNothing() {
-    QFile file(folder_.filePath("broken.kdx"));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("{") == 1);
-    file.close();
+    QString const file = put(folder_.filePath("broken.kdx"), "{");
     MainWindow window;
     QVERIFY(window.open(world));
     QByteArray const before = window.bench().session().document().GetText();
     DialogAnswers answers;  // none: the message box is a problem that is named
-    QVERIFY(!window.open(file.fileName()));
+    QVERIFY(!window.open(file));
     QString const told = answers.takeProblem();
     QVERIFY2(told.contains("message box"), qPrintable(told));
     QVERIFY(window.bench().session().problem().contains("broken.kdx"));
@@ -98,11 +97,7 @@ private slots:
     QFile::remove(path);
     MainWindow window;
     QVERIFY(window.open(world) && window.bench().session().saveAs(path));
-    auto const written = [&path] {
-      QFile file(path);
-      return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
-    QByteArray const before = written();
+    QByteArray const before = contentOf(path);
     window.show();
     window.actions().find("Host_SelectAll")->trigger();
     window.actions().find("Host_Delete")->trigger();
@@ -110,7 +105,7 @@ private slots:
     answers.add(button(answer));
     QCOMPARE(window.close(), closes);
     QCOMPARE(answers.takeProblem(), QString());
-    QCOMPARE(written() != before, writes);
+    QCOMPARE(contentOf(path) != before, writes);
   }
 
   void aDroppedDocumentOpens() {

@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "InsertDesktop.h"
 #include "Rows.h"
 #include "insert/ChangePageLayout.h"
@@ -67,7 +68,7 @@ private slots:
 
   void init() {
     log_.clear();
-    surface_ = std::make_unique<LoggedSurface>(log_);
+    surface_ = std::make_unique<RecordingSurface>(log_);
     contents_ = new LoggedContents(log_);
     contents_->surface = surface_.get();
     old_ = emptyLayout(20, 30);
@@ -92,8 +93,8 @@ private slots:
   void theLayoutComesFromTheTemplateAndTheMapsStay() {
     choose(writeTemplate());
     click();
-    QCOMPARE(log_, CallLog({"document", "contents", "clear overlay", "set layout", "site", "table of contents",
-                            "refresh 255"}));
+    QCOMPARE(log_,
+             CallLog({"document", "contents", "clear", "set layout", "site", "table of contents", "refresh 255"}));
     auto const layout = contents_->layout;
     QVERIFY(layout != old_);
     double width = 0, height = 0;
@@ -136,7 +137,8 @@ private slots:
   }
 
   void theTemplatesOwnDataNeedNotBeThere() {
-    choose(writeFile("lost.kdx", R"({"format":"plotvane-document","version":1,"page":{"form":"A4"},"maps":[{"name":"M",
+    choose(put(folder_.filePath("lost.kdx"),
+               R"({"format":"plotvane-document","version":1,"page":{"form":"A4"},"maps":[{"name":"M",
       "bounds":[0,0,1,1],"layers":[{"type":"feature","name":"L","source":{"file":"absent.gpkg"},
       "renderer":{"type":"simple","symbol":{"type":"simpleLine"}}}]}],
       "elements":[{"type":"dataFrame","map":0,"rectangle":[1,1,5,5]}]})"));
@@ -148,7 +150,7 @@ private slots:
     answerDialog([](QWidget& dialog) { static_cast<QDialog&>(dialog).reject(); });
     click();
     // Deactivated before anybody was asked.
-    QCOMPARE(log_, CallLog({"document", "contents", "clear overlay"}));
+    QCOMPARE(log_, CallLog({"document", "contents", "clear"}));
     QVERIFY(contents_->layout == old_);
   }
 
@@ -162,7 +164,7 @@ private slots:
 
   void aBadTemplateIsRefusedAndNothingChanges() {
     auto const [content, reason] = fetched<QByteArray, QString>();
-    QString const file = writeFile("bad.kdx", content);
+    QString const file = put(folder_.filePath("bad.kdx"), content);
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(file) + ".*" + reason + ".*"));
     choose(file, [] {
       answerDialog([](QWidget& dialog) {
@@ -175,7 +177,7 @@ private slots:
       });
     });
     click();
-    QCOMPARE(log_, CallLog({"document", "contents", "clear overlay"}));
+    QCOMPARE(log_, CallLog({"document", "contents", "clear"}));
     QVERIFY(contents_->layout == old_);
     QCOMPARE(old_->GetGraphicsContainer()->GetElements().size(), 2);
   }
@@ -210,15 +212,8 @@ private:
     });
   }
 
-  QString writeFile(QString const& name, QByteArray const& content) {
-    QString const path = folder_.filePath(name);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write a test file");
-    return path;
-  }
-
   QString writeTemplate() {
-    return writeFile("template.kdx", R"({"format":"plotvane-document","version":1,
+    return put(folder_.filePath("template.kdx"), R"({"format":"plotvane-document","version":1,
       "page":{"form":"Custom","width":40,"height":50},
       "maps":[{"name":"One","bounds":[0,0,1,1]},{"name":"Two","bounds":[0,0,1,1]}],
       "elements":[{"type":"dataFrame","map":0,"rectangle":[1,1,20,20]},{"type":"dataFrame","map":1,"rectangle":[21,1,30,20]},
@@ -230,7 +225,7 @@ private:
   _ptr_t<PageLayout> old_;
   LoggedContents* contents_ = nullptr;
   _ptr_t<LoggedDesktop> desktop_;
-  std::unique_ptr<LoggedSurface> surface_;
+  std::unique_ptr<RecordingSurface> surface_;
 };
 
 QTEST_MAIN(ChangeLayoutTest)

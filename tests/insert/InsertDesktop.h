@@ -1,7 +1,7 @@
 #pragma once
 
 #include "LayoutHook.h"
-#include "host/SysCarto/layout/ViewSurface.h"
+#include "RecordingSurface.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
 #include <SysFramework/IDesktop.h>
@@ -15,27 +15,6 @@
 
 /// Notes in which order a command asks for what. Each entry may add what it saw then.
 using CallLog = QStringList;
-
-class LoggedSurface final : public SysCarto::ViewSurface {
-public:
-  explicit LoggedSurface(CallLog& log) : log_(log) {}
-  void beginTracker() override {}
-  void endTracker() override {}
-  void trackerOffset(double, double) override {}
-  void trackerShape(SysDisplay::Symbol const&, SysUtility::_ptr_t<SysGeometry::Geometry> const&,
-                    SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const&) override {}
-  void refresh(int phase) override {
-    log_ << QStringLiteral("refresh %1").arg(phase);
-    if (onRefresh) onRefresh();
-  }
-  void clearOverlay() override { log_ << QStringLiteral("clear overlay"); }
-  void setCursor(QCursor const&) override {}
-
-  std::function<void()> onRefresh;
-
-private:
-  CallLog& log_;
-};
 
 /// A control that shows a layout, with a companion.
 class LoggedContents final : public QWidget, public SysAdapterUI::PageLayoutControl, public SysAdapterUI::ICompanion {

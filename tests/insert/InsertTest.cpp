@@ -98,7 +98,7 @@ private slots:
   void init() {
     log_.clear();
     hook_ = make<InsertHook>(emptyLayout(20, 30));
-    surface_ = std::make_unique<LoggedSurface>(log_);
+    surface_ = std::make_unique<RecordingSurface>(log_);
     layout()->setSurface(surface_.get());
     stepsAtRefresh_ = -1;
     surface_->onRefresh = [this] { stepsAtRefresh_ = hook_->history.count(); };
@@ -356,7 +356,7 @@ private slots:
     QCOMPARE(now[3]->GetType(), 1);
     QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>({text, unknown, now[2], now[3]}));
     QCOMPARE(hook_->history.undoText(), QString("ConvertToGraphics"));
-    QCOMPARE(log_, CallLog({"clear overlay", "refresh 255"}));
+    QCOMPARE(log_, CallLog({"clear", "refresh 255"}));
     QCOMPARE(stepsAtRefresh_, 1);
     hook_->history.undo();
     QCOMPARE(elements(), QList<_ptr_t<Element>>({text, several, one, unknown}));
@@ -369,7 +369,7 @@ private slots:
     click<ConvertToGraphics>();
     QCOMPARE(elements().size(), 3);
     QVERIFY(elements()[0] == empty && elements()[1] == after);
-    QCOMPARE(log_, CallLog({"clear overlay", "refresh 255"}));
+    QCOMPARE(log_, CallLog({"clear", "refresh 255"}));
     container()->AddElement(make<MarkerElement>());
     QCOMPARE(hook_->history.count(), 1);  // the operation is closed
   }
@@ -456,7 +456,7 @@ private:
   QTemporaryDir folder_;
   CallLog log_;
   _ptr_t<InsertHook> hook_;
-  std::unique_ptr<LoggedSurface> surface_;
+  std::unique_ptr<RecordingSurface> surface_;
   int questions_ = 0;
   int stepsAtRefresh_ = -1;
 };

@@ -1,7 +1,7 @@
 #include "LayoutHook.h"
+#include "RecordingSurface.h"
 #include "Rows.h"
 #include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/ViewSurface.h"
 #include "pagesetup/PageSettingCommand.h"
 #include "pagesetup/PageSettingsDlg.h"
 #include "pagesetup/PageSizeTabPage.h"
@@ -50,21 +50,6 @@ QSizeF sizeOf(_ptr_t<PageLayout> const& layout) {
   layout->GetPage()->QuerySize(width, height);
   return {width, height};
 }
-
-// Counts redraws of everything.
-class CountingSurface : public ViewSurface {
-public:
-  void beginTracker() override {}
-  void endTracker() override {}
-  void trackerOffset(double, double) override {}
-  void trackerShape(SysDisplay::Symbol const&, _ptr_t<SysGeometry::Geometry> const&,
-                    _ptr_t<SysDisplay::DisplayTransformation> const&) override {}
-  void refresh(int phase) override { redraws += phase == everything; }
-  void clearOverlay() override {}
-  void setCursor(QCursor const&) override {}
-
-  int redraws = 0;
-};
 
 // A person at the tab or at the dialog.
 struct Person {
@@ -234,7 +219,8 @@ private slots:
   void theDialogAppliesOnceAndShowsTheWholePage() {
     auto const [buttons, changes, applied, redraws] = fetched<QStringList, bool, bool, int>();
     auto const layout = layoutOf("A4", 1);
-    CountingSurface surface;
+    QStringList calls;
+    RecordingSurface surface(calls);
     layout->setSurface(&surface);
     layout->SetExtent(make<Envelope>(1.0, 1.0, 2.0, 2.0));
     auto const hook = make<LayoutHook>(layout);
@@ -256,9 +242,9 @@ private slots:
     command.OnClick();
 
     QCOMPARE(layout->GetPage()->GetFormID(), formNamed(applied ? "A3" : "A4"));
-    QCOMPARE(surface.redraws, redraws);
+    QCOMPARE(calls.count("refresh 255"), redraws);
     bool const isWhole = layout->GetExtent()->Contains(layout->GetPage()->GetPageEnvelope());
-    QCOMPARE(isWhole, surface.redraws > 0);
+    QCOMPARE(isWhole, calls.count("refresh 255") > 0);
     layout->setSurface(nullptr);
   }
 

@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "Rows.h"
 
 #include <SysCarto/Editor.h>
@@ -16,10 +17,6 @@
 #include <QUndoStack>
 #include <QtTest>
 
-#include <sys/resource.h>
-
-#include <csignal>
-
 using namespace SysCarto;
 using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
@@ -27,16 +24,6 @@ using SysUtility::make;
 using SysUtility::ptr_cast;
 
 namespace {
-
-QByteArray contentOf(QString const& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void put(QString const& path, QByteArray const& content) {
-  QFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write a test file");
-}
 
 // The value with the one at a path ("maps.0.bounds") put in its place; an undefined value removes the field.
 QJsonValue changed(QJsonValue const& value, QStringList path, QJsonValue const& replacement) {
@@ -91,21 +78,6 @@ void fill(PageLayout& layout) {
   layout.SetAlignToMargins(true);
   layout.SetFocusMap(plan->GetMap());
 }
-
-// While it lives, no file of this process can grow beyond a size. A write then comes back short, as on a full disk.
-class FileSizeLimit {
-public:
-  explicit FileSizeLimit(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit const limit{bytes, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-private:
-  rlimit before_;
-};
 
 class Contents final : public IKdxContents {
 public:

@@ -1,3 +1,6 @@
+#include "Files.h"
+#include "Rows.h"
+
 #include <SysCarto/MapDocument.h>
 
 #include <QLoggingCategory>
@@ -5,15 +8,6 @@
 #include <QtTest>
 
 using SysCarto::MapDocument;
-
-namespace {
-
-QByteArray contentOf(QString const& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-}  // namespace
 
 // A document with one of everything, damaged at every place in turn. None may crash, and each opens or answers a
 // sentence; the sanitizers see what else may happen.
@@ -35,16 +29,14 @@ private slots:
 
   // In pieces, since a test function may take five minutes at most.
   void withOneBitFlippedItOpensOrIsRefused_data() {
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
+    Rows<int, int> row;
     constexpr int pieces = 4;
     for (int i = 0; i < pieces; ++i)
-      QTest::addRow("part %d", i + 1) << whole_.size() * i / pieces << whole_.size() * (i + 1) / pieces;
+      row(QString("part %1").arg(i + 1), whole_.size() * i / pieces, whole_.size() * (i + 1) / pieces);
   }
 
   void withOneBitFlippedItOpensOrIsRefused() {
-    QFETCH(int, from);
-    QFETCH(int, to);
+    auto const [from, to] = fetched<int, int>();
     int refused = 0;
     for (int place = from; place < to; ++place) {
       QByteArray damaged = whole_;
@@ -58,11 +50,7 @@ private slots:
 private:
   // A refusal is one sentence about the file and leaves the document empty; an opened page can be drawn.
   bool open(QByteArray const& content) {
-    QString const path = folder_.filePath(QStringLiteral("damaged.kdx"));
-    QFile file(path);
-    file.remove();  // a file system may write one that is replaced to the disk at once
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write a test file");
-    file.close();
+    QString const path = put(folder_.filePath("damaged.kdx"), content);
 
     MapDocument document;
     if (document.Open(path)) {

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "Files.h"
 #include "host/SysCarto/layers/VectorLayer.h"
 
 #include <SysDisplay/SimpleFillSymbol.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 // What the tests of layers share.
 
 inline QString sample(QString const& name) { return QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/data/") + name; }
 
+/// The path of a file in a folder that the test may fill.
 inline QString written(QTemporaryDir const& folder, QString const& name, QByteArray const& content) {
-  QFile file(folder.filePath(name));
-  return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+  return put(folder.filePath(name), content);
 }
 
 inline QByteArray geoJson(QByteArray const& geometry) {

@@ -37,7 +37,7 @@ private slots:
   void whatIsNotAPlainDataFileIsRefused() {
     auto const [file, content, layer, says] = fetched<QString, QByteArray, QString, QString>();
     QTemporaryDir folder;
-    if (!content.isEmpty()) QVERIFY(!written(folder, file, content).isEmpty());
+    if (!content.isEmpty()) written(folder, file, content);
     bool const isName = !content.isEmpty() || file == QLatin1String("missing.gpkg") || file == QLatin1String(".");
     GdalErrors const outside;
     auto const result = opened({isName ? folder.filePath(file) : file, layer, {}, {}}, "EPSG:4326");

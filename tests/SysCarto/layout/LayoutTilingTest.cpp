@@ -1,3 +1,4 @@
+#include "Files.h"
 #include "Rows.h"
 
 #include "host/SysCarto/layout/ElementContainer.h"
@@ -154,11 +155,11 @@ private slots:
   void initTestCase() {
     QVERIFY(photo(QSize(1500, 1100)).save(path("large.png")));
     QVERIFY(photo(QSize(90, 70)).save(path("small.jpg")));
-    write("drawing.svg",
-          "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 40 30'><circle cx='20' cy='15' r='13' fill='teal'/>"
-          "<path d='M0 0 L40 30 M0 30 L40 0' stroke='red' stroke-width='1.3'/></svg>");
-    write("outside.svg", "<svg xmlns='http://www.w3.org/2000/svg'><image href='http://example.com/a.png'/></svg>");
-    write("text.png", "not a picture");
+    put(path("drawing.svg"),
+        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 40 30'><circle cx='20' cy='15' r='13' fill='teal'/>"
+        "<path d='M0 0 L40 30 M0 30 L40 0' stroke='red' stroke-width='1.3'/></svg>");
+    put(path("outside.svg"), "<svg xmlns='http://www.w3.org/2000/svg'><image href='http://example.com/a.png'/></svg>");
+    put(path("text.png"), "not a picture");
     QImage const wide(20000, 1, QImage::Format_Mono);
     QVERIFY(wide.save(path("wide.png")));
   }
@@ -230,11 +231,6 @@ private slots:
 
 private:
   QString path(QString const& name) const { return folder_.filePath(name); }
-
-  void write(QString const& name, QByteArray const& content) const {
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-  }
 
   _ptr_t<PictureElement> picture(QString const& name) const {
     auto const element = in(make<PictureElement>(), 0.33, 0.41, 6.87, 5.36);

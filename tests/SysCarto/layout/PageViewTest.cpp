@@ -1,7 +1,7 @@
+#include "RecordingSurface.h"
 #include "Rows.h"
 
 #include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/ViewSurface.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurroundFrame.h>
@@ -198,19 +198,8 @@ private slots:
   }
 
   void tellsItsSurface() {
-    struct Surface final : ViewSurface {
-      void beginTracker() override { calls << "begin"; }
-      void endTracker() override { calls << "end"; }
-      void trackerOffset(double dx, double dy) override { calls << QString("offset %1 %2").arg(dx).arg(dy); }
-      void trackerShape(SysDisplay::Symbol const&, _ptr_t<SysGeometry::Geometry> const&,
-                        _ptr_t<DisplayTransformation> const& transformation) override {
-        calls << QString("shape at %1").arg(transformation->GetPageScale());
-      }
-      void refresh(int phase) override { calls << QString("refresh %1").arg(phase); }
-      void clearOverlay() override { calls << "clear"; }
-      void setCursor(QCursor const&) override {}
-      QStringList calls;
-    } surface;
+    QStringList calls;
+    RecordingSurface surface(calls);
     auto const layout = newLayout();
     layout->PartialRefresh(8, nullptr);  // without a surface: nothing
     layout->setSurface(&surface);
@@ -225,8 +214,8 @@ private slots:
     layout->Refresh(0, false);
     layout->Refresh(0, true);
     layout->Deactivate();
-    QCOMPARE(surface.calls, (QStringList{"begin", "offset 3 -4", "shape at 1", "end", "refresh 8", "refresh 255",
-                                         "clear", "refresh 255", "clear"}));
+    QCOMPARE(calls, (QStringList{"begin", "offset 3 -4", "line 0 1 1 at scale 1", "end", "refresh 8", "refresh 255",
+                                 "clear", "refresh 255", "clear"}));
     QVERIFY(near(scaleOf(*layout), 3));
   }
 
