@@ -1,3 +1,4 @@
+#include "Pictures.h"
 #include "Rows.h"
 
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
@@ -8,7 +9,6 @@
 #include <SysDisplay/SimpleLineSymbol.h>
 #include <SysGeometry/Polyline.h>
 
-#include <QPainter>
 #include <QtTest>
 
 #include <cmath>
@@ -23,12 +23,8 @@ namespace {
 // A canvas of 200 × 200 pixels on which a world unit is a pixel and y runs upwards; its upper left corner is (0, 200).
 class Canvas {
 public:
-  explicit Canvas(double pixelsPerPoint = 1.0) : image_(200, 200, QImage::Format_RGBA8888_Premultiplied) {
-    image_.fill(Qt::white);
-    transformation_->SetDeviceFrame(image_.rect());
-    transformation_->SetVisibleBounds(make<Envelope>(0, 0, 200, 200));
-    transformation_->SetPageScale(pixelsPerPoint * 72 / 96);
-  }
+  explicit Canvas(double pixelsPerPoint = 1.0)
+      : transformation_(Sheet{Envelope(0, 0, 200, 200), QSize(200, 200), pixelsPerPoint * 72 / 96}.transformation()) {}
 
   Canvas& draw(Symbol const& symbol, _ptr_t<Geometry> const& geometry) {
     QPainter painter(&image_);
@@ -36,23 +32,16 @@ public:
     return *this;
   }
 
-  _ptr_t<DisplayTransformation> const& transformation() const { return transformation_; }
+  Transformation const& transformation() const { return transformation_; }
   QImage& image() { return image_; }
 
   bool isInk(int x, int y) const { return qGray(image_.pixel(x, y)) < 128; }
 
-  // The pixels with any ink.
-  QRect covered() const {
-    QRect all;
-    for (int y = 0; y < image_.height(); ++y)
-      for (int x = 0; x < image_.width(); ++x)
-        if (image_.pixel(x, y) != qRgb(255, 255, 255)) all |= QRect(x, y, 1, 1);
-    return all;
-  }
+  QRect covered() const { return ink(image_).where; }
 
 private:
-  QImage image_;
-  _ptr_t<DisplayTransformation> transformation_ = make<DisplayTransformation>();
+  QImage image_ = canvas({200, 200});
+  Transformation transformation_;
 };
 
 _ptr_t<Polyline> polyline(QVector<QPointF> points) { return make<Polyline>(std::move(points)); }

@@ -1,3 +1,4 @@
+#include "Pictures.h"
 #include "Rows.h"
 
 #include "host/SysDisplay/FillPainter.h"
@@ -11,11 +12,9 @@
 #include <SysGeometry/Polygon.h>
 #include <SysGeometry/Polyline.h>
 
-#include <QPainter>
 #include <QtTest>
 
 #include <cmath>
-#include <functional>
 
 using namespace SysDisplay;
 using namespace SysGeometry;
@@ -24,9 +23,8 @@ using SysUtility::make;
 
 namespace {
 
-constexpr int widthPx = 700, heightPx = 500;
-
 // A world whose numbers have no short binary form, so that the transformations of two tiles really differ in rounding.
+constexpr QSize sizePx(700, 500);
 constexpr double left = 512345.678, top = 5400123.456, unitsPerPx = 0.37;
 
 double worldX(double px) { return left + px * unitsPerPx; }
@@ -38,22 +36,8 @@ QVector<QPointF> worldLine(QVector<QPointF> line) {
   return line;
 }
 
-using Transformation = _ptr_t<DisplayTransformation>;
-using Scene = std::function<void(QPainter&, Transformation const&)>;
-
-// Draws one rectangle of the whole image with a transformation of its own, as the export does.
-QImage drawn(Scene const& scene, QRect const& tile, double pageScale) {
-  auto const transformation = make<DisplayTransformation>();
-  transformation->SetPageScale(pageScale);
-  transformation->SetDeviceFrame(QRect(QPoint(0, 0), tile.size()));
-  double const xmin = worldX(tile.x()), ymax = worldY(tile.y());
-  transformation->SetVisibleBounds(
-      make<Envelope>(xmin, ymax - tile.height() * unitsPerPx, xmin + tile.width() * unitsPerPx, ymax));
-  QImage image(tile.size(), QImage::Format_RGBA8888_Premultiplied);
-  image.fill(Qt::white);
-  QPainter painter(&image);
-  scene(painter, transformation);
-  return image;
+Sheet sheet(double pageScale) {
+  return {Envelope(left, worldY(sizePx.height()), worldX(sizePx.width()), top), sizePx, pageScale};
 }
 
 QVector<QPointF> zigzag(double amplitude, int count) {
@@ -191,22 +175,12 @@ private slots:
   void tilesEqualTheWhole() {
     auto const [scene] = fetched<Scene>();
     for (double pageScale : {1.0, 600 / 96.0}) {
-      QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx), pageScale);
-      for (int size : {64, 100, 512}) {
-        QImage tiled(whole.size(), whole.format());
-        QPainter painter(&tiled);
-        painter.setCompositionMode(QPainter::CompositionMode_Source);
-        for (int y = 0; y < heightPx; y += size)
-          for (int x = 0; x < widthPx; x += size) {
-            QRect const tile = QRect(x, y, size, size) & whole.rect();
-            painter.drawImage(tile.topLeft(), drawn(scene, tile, pageScale));
-          }
-        painter.end();
-        QVERIFY2(tiled == whole, qPrintable(difference(whole, tiled, size)));
+      QImage const whole = sheet(pageScale).drawn(scene);
+      QVERIFY2(ink(whole).pixels > 0, "the scene shows nothing");
+      for (int side : {64, 100, 512}) {
+        Difference const found = difference(whole, sheet(pageScale).drawnInTiles(scene, side));
+        QVERIFY2(found.pixels == 0, qPrintable(found.text()));
       }
-      QImage blank(whole.size(), whole.format());
-      blank.fill(Qt::white);
-      QVERIFY2(whole != blank, "the scene shows nothing");
     }
   }
 
@@ -214,7 +188,7 @@ private slots:
   void movedAndClippedPainterShowsTheSame() {
     Scene const scene = area(SimpleFillStyle::Cross, blob(280),
                              line(SimpleLineStyle::Dash, 5, LineCapStyle::Round, LineJoinStyle::Round));
-    QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx), 1);
+    QImage const whole = sheet(1).drawn(scene);
     Scene const moved = [&](QPainter& painter, Transformation const& t) {
       painter.translate(-300, -200);
       painter.setClipRect(300, 200, 200, 100);
@@ -222,28 +196,8 @@ private slots:
       QCOMPARE(painter.transform(), QTransform::fromTranslate(-300, -200));
       QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));
     };
-    QImage const part = drawn(moved, QRect(0, 0, widthPx, heightPx), 1);
+    QImage const part = sheet(1).drawn(moved);
     QCOMPARE(part.copy(0, 0, 200, 100), whole.copy(300, 200, 200, 100));
-  }
-
-private:
-  static QString difference(QImage const& a, QImage const& b, int tileSize) {
-    int count = 0, most = 0;
-    QPoint first(-1, -1);
-    for (int y = 0; y < a.height(); ++y)
-      for (int x = 0; x < a.width(); ++x) {
-        QRgb const p = a.pixel(x, y), q = b.pixel(x, y);
-        if (p == q) continue;
-        if (!count++) first = {x, y};
-        most = std::max(
-            {most, std::abs(qRed(p) - qRed(q)), std::abs(qGreen(p) - qGreen(q)), std::abs(qBlue(p) - qBlue(q))});
-      }
-    return QStringLiteral("tiles of %1: %2 pixels differ, by up to %3, first at (%4, %5)")
-        .arg(tileSize)
-        .arg(count)
-        .arg(most)
-        .arg(first.x())
-        .arg(first.y());
   }
 };
 

@@ -1,11 +1,10 @@
+#include "Pictures.h"
 #include "Rows.h"
 #include "desktop/WorkbenchPage.h"
 
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/desktop/PagePicture.h"
 #include "host/desktop/Session.h"
-
-#include <QPainter>
 
 using SysCarto::MapFrameElement;
 using SysGeometry::Envelope;
@@ -42,15 +41,6 @@ QImage drawnDirectly(SysCarto::PageLayout const& layout, int ratio) {
   return image;
 }
 
-// The largest difference of a channel of a pixel.
-int furthestApart(QImage const& a, QImage const& b) {
-  int furthest = 0;
-  for (int y = 0; y < a.height(); ++y)
-    for (int x = 0; x < a.width() * 4; ++x)
-      furthest = qMax(furthest, qAbs(a.constScanLine(y)[x] - b.constScanLine(y)[x]));
-  return furthest;
-}
-
 }  // namespace
 
 class ViewTest : public QObject {
@@ -80,8 +70,8 @@ private slots:
     QImage const expected = drawnDirectly(*layout, ratio);
     QCOMPARE(picture.image().size(), QSize(1000, 700) * ratio);
     int const rounding = 8;  // labels are drawn over a picture of another format
-    QVERIFY2(furthestApart(picture.image(), expected) <= rounding,
-             qPrintable(QString::number(furthestApart(picture.image(), expected))));
+    Difference const found = difference(picture.image(), expected);
+    QVERIFY2(found.levels <= rounding, qPrintable(found.text()));
   }
 
   void onlyWhatChangesAMapDrawsIt_data() {

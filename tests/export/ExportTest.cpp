@@ -1,4 +1,5 @@
 #include "LayoutHook.h"
+#include "Pictures.h"
 #include "Rows.h"
 #include "export/ExportCommand.h"
 #include "export/LayoutRenderer.h"
@@ -8,12 +9,8 @@
 #include <SysCarto/SymbolFrameParts.h>
 
 #include <QDir>
-#include <QPainter>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <algorithm>
-#include <cstdlib>
 
 using namespace SysCarto;
 using Plugin::ExportCommand;
@@ -52,38 +49,6 @@ public:
 private:
   _ptr_t<AnnotationProperties> settings_ = make<AnnotationProperties>();
 };
-
-struct Difference {
-  int levels = 0;     // the greatest of any channel
-  qint64 pixels = 0;  // that differ at all
-};
-
-Difference difference(QImage const& a, QImage const& b) {
-  Difference found;
-  for (int y = 0; y < a.height(); ++y) {
-    uchar const* const left = a.constScanLine(y);
-    uchar const* const right = b.constScanLine(y);
-    for (int x = 0; x < a.width() * 4; x += 4) {
-      int levels = 0;
-      for (int i = 0; i < 4; ++i) levels = std::max(levels, std::abs(left[x + i] - right[x + i]));
-      found.levels = std::max(found.levels, levels);
-      found.pixels += levels > 0;
-    }
-  }
-  return found;
-}
-
-QImage drawnInTiles(LayoutRenderer const& renderer, QSize const& size, int side) {
-  QImage image(size, QImage::Format_RGBA8888_Premultiplied);
-  QPainter painter(&image);
-  painter.setCompositionMode(QPainter::CompositionMode_Source);
-  for (int y = 0; y < size.height(); y += side)
-    for (int x = 0; x < size.width(); x += side) {
-      QRect const tile(x, y, std::min(side, size.width() - x), std::min(side, size.height() - y));
-      painter.drawImage(tile.topLeft(), renderer.tileImage(tile, nullptr));
-    }
-  return image;
-}
 
 QList<int> handlesOf(_ptr_t<Map> const& map) {
   QList<int> handles;
@@ -215,12 +180,9 @@ private slots:
     PlacedLabels const labels(*hook, renderer.pageTransform());
     QImage const whole = renderer.tileImage(QRect(QPoint(0, 0), size), nullptr);
     for (int side : {512, 300, 97}) {
-      Difference const found = difference(whole, drawnInTiles(renderer, size, side));
-      QVERIFY2(found.levels <= 2 && found.pixels < 1e-4 * size.width() * size.height(),
-               qPrintable(QStringLiteral("tiles of %1: %2 pixels differ by up to %3 levels")
-                              .arg(side)
-                              .arg(found.pixels)
-                              .arg(found.levels)));
+      Difference const found =
+          difference(whole, tiled(size, side, [&](QRect const& tile) { return renderer.tileImage(tile, nullptr); }));
+      QVERIFY2(found.levels <= 2 && found.pixels < 1e-4 * size.width() * size.height(), qPrintable(found.text()));
     }
   }
 

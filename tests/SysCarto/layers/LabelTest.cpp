@@ -84,7 +84,7 @@ private slots:
     auto const data =
         opened({sample(file), layer, {}, {}}, "EPSG:8857", make<SimpleMarkerSymbol>(), settings(6, priorityField));
     QCOMPARE(data.warnings, QStringList());
-    auto const transformation = shown(data.features().box(), QSize(900, 500));
+    auto const transformation = shown(data.features().box(), QSize(900, 500)).transformation();
     Placed const result = placed(*data.layer, transformation);
     QVERIFY2(result.labels.size() >= fewest, qPrintable(QString::number(result.labels.size())));
     QCOMPARE(result.shapes().size(), result.labels.size());
@@ -126,7 +126,7 @@ private slots:
     json.replace("\"A\"", '"' + name + '"');
     auto const layer = opened({written(folder, "a.geojson", json), {}, {}, {}}, "", nullptr, settings(9));
     // A pixel is a map unit, and 0.75 points.
-    Placed const result = placed(*layer.layer, shown({-5, -5, 95, 95}, QSize(100, 100)));
+    Placed const result = placed(*layer.layer, shown({-5, -5, 95, 95}, QSize(100, 100)).transformation());
     QCOMPARE(result.texts().join('|'), expected);
     QPolygonF polygon;
     for (SysCarto::Part const& part : layer.features().parts)
@@ -147,7 +147,7 @@ private slots:
     large.size = 14;
     labels.classes.push_back({500, make<TextSymbol>(large)});
     auto const layer = opened({file, {}, {}, {}}, "", make<SimpleMarkerSymbol>(), labels);
-    Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)));
+    Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)).transformation());
     QCOMPARE(result.texts().value(0), QStringLiteral("Large"));
     QVERIFY(!result.texts().contains("Nameless"));
     auto const label = SysUtility::ptr_cast<TextElement>(result.labels[0]);
@@ -171,7 +171,7 @@ private slots:
     json.replace("\"A\"", "\"Danube\"");
     auto const layer =
         opened({written(folder, "a.geojson", json), {}, {}, {}}, "", make<SimpleLineSymbol>(), settings(8));
-    Placed const result = placed(*layer.layer, shown({0, 0, 100, 100}, QSize(100, 100)));
+    Placed const result = placed(*layer.layer, shown({0, 0, 100, 100}, QSize(100, 100)).transformation());
     QCOMPARE(result.texts(), QStringList{"Danube"});
     QVERIFY(std::abs(SysUtility::ptr_cast<TextElement>(result.labels[0])->angle() - angle) < 1e-6);
   }

@@ -5,7 +5,6 @@
 
 #include <SysDisplay/SimpleLineSymbol.h>
 
-#include <QPainter>
 #include <QtTest>
 
 using namespace SysCarto;
@@ -15,8 +14,6 @@ using SysUtility::_ptr_t;
 using SysUtility::make;
 
 namespace {
-
-constexpr int widthPx = 620, heightPx = 430;
 
 _ptr_t<SimpleLineSymbol> line(SimpleLineStyle style, double width, QColor const& color) {
   auto const symbol = make<SimpleLineSymbol>();
@@ -41,23 +38,10 @@ _ptr_t<Symbol> marker() {
   return symbol;
 }
 
-// One rectangle of the picture with a transformation of its own, as the export draws it.
-QImage drawn(Layer& layer, Box const& box, QRect const& tile) {
-  double const pixel = (box.xmax - box.xmin) / widthPx;
-  double const xmin = box.xmin + tile.x() * pixel, ymax = box.ymax - tile.y() * pixel;
-  QImage image(tile.size(), QImage::Format_RGBA8888_Premultiplied);
-  image.fill(Qt::white);
-  QPainter painter(&image);
-  layer.Draw(painter, shown({xmin, ymax - tile.height() * pixel, xmin + tile.width() * pixel, ymax}, tile.size(), 2.1),
-             1, nullptr);
-  return image;
-}
-
-int differences(QImage const& a, QImage const& b) {
-  int count = 0;
-  for (int y = 0; y < a.height(); ++y)
-    for (int x = 0; x < a.width(); ++x) count += a.pixel(x, y) != b.pixel(x, y);
-  return count;
+Scene sceneOf(OpenedLayer const& opened) {
+  return [layer = opened.layer](QPainter& painter, Transformation const& transformation) {
+    layer->Draw(painter, transformation, 1, nullptr);
+  };
 }
 
 }  // namespace
@@ -85,25 +69,14 @@ private slots:
     Box const& all = data.features().box();
     double const x = all.xmin + 0.52 * (all.xmax - all.xmin), y = all.ymin + 0.7 * (all.ymax - all.ymin);
     double const width = (all.xmax - all.xmin) * scale * 0.9;
-    Box const box{x - width / 2, y - width / 2 * heightPx / widthPx, x + width / 2, y + width / 2 * heightPx / widthPx};
-    QRect const page(0, 0, widthPx, heightPx);
-    QImage const whole = drawn(*data.layer, box, page);
-    QImage blank = whole;
-    blank.fill(Qt::white);
-    QVERIFY(differences(whole, blank) > 1000);
-    for (int const tilePx : {128, 173}) {
+    double const height = width * 430 / 620;
+    Sheet const sheet = shown({x - width / 2, y - height / 2, x + width / 2, y + height / 2}, QSize(620, 430), 2.1);
+    QImage const whole = sheet.drawn(sceneOf(data));
+    QVERIFY(ink(whole).pixels > 1000);
+    for (int const side : {128, 173}) {
       // Another layer object: the lines must not depend on which tile came first.
       auto const again = opened({sample("world.gpkg"), layer, {}, {}}, system, symbol);
-      QImage tiled(page.size(), whole.format());
-      QPainter painter(&tiled);
-      painter.setCompositionMode(QPainter::CompositionMode_Source);
-      for (int top = 0; top < heightPx; top += tilePx)
-        for (int left = 0; left < widthPx; left += tilePx) {
-          QRect const tile = QRect(left, top, tilePx, tilePx) & page;
-          painter.drawImage(tile.topLeft(), drawn(*again.layer, box, tile));
-        }
-      painter.end();
-      QCOMPARE(differences(whole, tiled), 0);
+      QCOMPARE(difference(whole, sheet.drawnInTiles(sceneOf(again), side)).pixels, 0);
     }
   }
 
@@ -118,13 +91,10 @@ private slots:
     auto const cities = opened({sample("world.gpkg"), "cities", {}, {}}, "EPSG:8857", marker());
     auto const cancel = make<TrackerCancel>();
     if (cancelled) cancel->Cancel();
-    QImage image(200, 100, QImage::Format_RGBA8888_Premultiplied);
-    image.fill(Qt::white);
-    QImage const blank = image;
-    QPainter painter(&image);
-    cities.layer->Draw(painter, shown(cities.features().box(), image.size()), phase, cancel);
-    painter.end();
-    QCOMPARE(differences(image, blank) > 0, draws);
+    auto const draw = [&, phase = phase](QPainter& painter, Transformation const& transformation) {
+      cities.layer->Draw(painter, transformation, phase, cancel);
+    };
+    QCOMPARE(ink(shown(cities.features().box(), QSize(200, 100)).drawn(draw)).pixels > 0, draws);
   }
 
   // Neighbours share their border, so no background shows between them when both are filled.
@@ -143,11 +113,7 @@ private slots:
     auto const symbol = make<SimpleFillSymbol>();
     symbol->SetColor(Qt::black);
     auto const layer = opened({file, {}, {}, {}}, "", symbol);
-    QImage image(100, 100, QImage::Format_RGBA8888_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    layer.layer->Draw(painter, shown({0, 0, 10, 10}, image.size()), 1, nullptr);
-    painter.end();
+    QImage const image = shown({0, 0, 10, 10}, QSize(100, 100)).drawn(sceneOf(layer));
     for (int y = 1; y < 99; ++y)
       for (int x = 1; x < 99; ++x) QCOMPARE(qGray(image.pixel(x, y)), 0);
   }

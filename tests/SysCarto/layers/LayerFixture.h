@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Files.h"
+#include "Pictures.h"
 #include "host/SysCarto/layers/VectorLayer.h"
 
 #include <SysDisplay/SimpleFillSymbol.h>
@@ -39,11 +40,6 @@ inline OpenedLayer opened(SysCarto::SourceSettings const& source, QString const&
   return result;
 }
 
-inline SysUtility::_ptr_t<SysDisplay::DisplayTransformation> shown(SysCarto::Box const& box, QSize const& sizePx,
-                                                                   double pageScale = 1) {
-  auto const transformation = SysUtility::make<SysDisplay::DisplayTransformation>();
-  transformation->SetPageScale(pageScale);
-  transformation->SetDeviceFrame(QRect(QPoint(0, 0), sizePx));
-  transformation->SetVisibleBounds(SysUtility::make<SysGeometry::Envelope>(box.xmin, box.ymin, box.xmax, box.ymax));
-  return transformation;
+inline Sheet shown(SysCarto::Box const& box, QSize const& sizePx, double pageScale = 1) {
+  return {SysGeometry::Envelope(box.xmin, box.ymin, box.xmax, box.ymax), sizePx, pageScale};
 }

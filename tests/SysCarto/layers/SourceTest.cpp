@@ -4,7 +4,6 @@
 #include "host/SysCarto/layers/GdalErrors.h"
 
 #include <QDir>
-#include <QPainter>
 #include <QtTest>
 
 using namespace SysCarto;
@@ -108,9 +107,9 @@ private slots:
       for (SysCarto::Part const& part : result.features().parts)
         QVERIFY(std::all_of(part.xy, part.xy + 2 * part.count,
                             [](double coordinate) { return std::isfinite(coordinate); }));
-      QImage image(64, 64, QImage::Format_RGBA8888_Premultiplied);
-      QPainter painter(&image);
-      result.layer->Draw(painter, shown({-1e7, -1e7, 1e7, 1e7}, image.size()), 1, nullptr);
+      shown({-1e7, -1e7, 1e7, 1e7}, QSize(64, 64)).drawn([&](QPainter& painter, Transformation const& transformation) {
+        result.layer->Draw(painter, transformation, 1, nullptr);
+      });
     }
   }
 

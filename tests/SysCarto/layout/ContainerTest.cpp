@@ -1,3 +1,4 @@
+#include "Pictures.h"
 #include "Rows.h"
 
 #include "host/SysCarto/layout/ElementContainer.h"
@@ -7,7 +8,6 @@
 #include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>
 
-#include <QPainter>
 #include <QUndoStack>
 #include <QtTest>
 
@@ -231,10 +231,8 @@ private slots:
     int draws = 0;
     ElementContainer container;
     for (double x : {0.0, 5.0, 100.0, -50.0}) container.AddElement(_ptr_t<Element>(new Counted(x, draws)));
-    auto const transformation = make<SysDisplay::DisplayTransformation>();
-    transformation->SetDeviceFrame(QRect(0, 0, 100, 100));
-    transformation->SetVisibleBounds(make<SysGeometry::Envelope>(0.0, 0.0, 10.0, 10.0));
-    QImage image(100, 100, QImage::Format_ARGB32_Premultiplied);
+    auto const transformation = Sheet{SysGeometry::Envelope(0, 0, 10, 10), QSize(100, 100)}.transformation();
+    QImage image = canvas({100, 100});
     QPainter painter(&image);
     container.Draw(painter, transformation, 2, nullptr);
     QCOMPARE(draws, 0);

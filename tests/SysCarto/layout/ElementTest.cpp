@@ -1,3 +1,4 @@
+#include "Pictures.h"
 #include "Rows.h"
 
 #include "host/SysCarto/layout/GraphicElements.h"
@@ -28,10 +29,9 @@ namespace {
 constexpr double cmPerPoint = 2.54 / 72;
 
 // An A4 page at 96 pixels an inch.
-_ptr_t<DisplayTransformation> pageView(double dpi = 96) {
-  auto const transformation = make<DisplayTransformation>();
-  transformation->SetDeviceFrame(QRect(0, 0, qRound(21 / 2.54 * dpi), qRound(29.7 / 2.54 * dpi)));
-  transformation->SetVisibleBounds(make<Envelope>(0.0, 0.0, 21.0, 29.7));
+Transformation pageView(double dpi = 96) {
+  QSize const size(qRound(21 / 2.54 * dpi), qRound(29.7 / 2.54 * dpi));
+  auto const transformation = Sheet{Envelope(0, 0, 21, 29.7), size}.transformation();
   transformation->SetPageScale(transformation->ToDevice().m11() * 2.54 / 96);
   return transformation;
 }

@@ -1,4 +1,5 @@
 #include "Files.h"
+#include "Pictures.h"
 #include "Rows.h"
 
 #include "host/SysCarto/layout/ElementContainer.h"
@@ -12,75 +13,29 @@
 #include <SysCarto/Page.h>
 #include <SysCarto/SymbolFrameParts.h>
 
-#include <QPainter>
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <functional>
-
 using namespace SysCarto;
-using SysDisplay::DisplayTransformation;
 using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
 using SysUtility::make;
 
 namespace {
 
-using Scene = std::function<void(QPainter&, _ptr_t<DisplayTransformation> const&)>;
-
 // A page whose pixels have no short size in centimetres.
 constexpr double pageWidthCm = 7.3, pageHeightCm = 5.9;
 constexpr int dpi = 251;
-constexpr int widthPx = 721, heightPx = 583;
-static_assert(widthPx == int(pageWidthCm / 2.54 * dpi) && heightPx == int(pageHeightCm / 2.54 * dpi));
-
-QImage drawn(Scene const& scene, QRect const& tile) {
-  constexpr double pixel = pageWidthCm / widthPx;
-  auto const transformation = make<DisplayTransformation>();
-  transformation->SetPageScale(dpi / 96.0);
-  transformation->SetDeviceFrame(QRect(QPoint(0, 0), tile.size()));
-  double const xmin = tile.x() * pixel, ymax = pageHeightCm - tile.y() * pixel;
-  transformation->SetVisibleBounds(
-      make<Envelope>(xmin, ymax - tile.height() * pixel, xmin + tile.width() * pixel, ymax));
-  QImage image(tile.size(), QImage::Format_RGBA8888_Premultiplied);
-  image.fill(Qt::white);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  scene(painter, transformation);
-  return image;
-}
-
-QImage tiled(Scene const& scene, int tilePx) {
-  QImage whole(widthPx, heightPx, QImage::Format_RGBA8888_Premultiplied);
-  QPainter painter(&whole);
-  painter.setCompositionMode(QPainter::CompositionMode_Source);
-  for (int y = 0; y < heightPx; y += tilePx)
-    for (int x = 0; x < widthPx; x += tilePx) {
-      QRect const tile = QRect(x, y, tilePx, tilePx) & whole.rect();
-      painter.drawImage(tile.topLeft(), drawn(scene, tile));
-    }
-  return whole;
-}
-
-int differences(QImage const& a, QImage const& b) {
-  int count = 0;
-  for (int y = 0; y < a.height(); ++y)
-    for (int x = 0; x < a.width(); ++x) count += a.pixel(x, y) != b.pixel(x, y);
-  return count;
-}
-
-int inked(QImage const& image) {
-  int count = 0;
-  for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < image.width(); ++x) count += image.pixel(x, y) != qRgb(255, 255, 255);
-  return count;
-}
+constexpr QSize sizePx(721, 583);
+static_assert(sizePx == QSize(int(pageWidthCm / 2.54 * dpi), int(pageHeightCm / 2.54 * dpi)));
+Sheet const sheet{Envelope(0, 0, pageWidthCm, pageHeightCm), sizePx, dpi / 96.0};
 
 // Drawn through a container, so that what it leaves out at a tile's edge shows, too.
 Scene sceneOf(QList<_ptr_t<Element>> const& elements) {
   auto const container = std::make_shared<ElementContainer>();
   container->AddElements(elements);
-  return [container](QPainter& painter, _ptr_t<DisplayTransformation> const& transformation) {
+  return [container](QPainter& painter, Transformation const& transformation) {
+    painter.setRenderHint(QPainter::Antialiasing);
     container->Draw(painter, transformation, 1, nullptr);
   };
 }
@@ -182,17 +137,16 @@ private slots:
   }
   void tilesDoNotShow() {
     auto const [scene] = fetched<Scene>();
-    QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx));
-    QVERIFY(inked(whole) > 2000);
-    QCOMPARE(differences(whole, tiled(scene, 512)), 0);
-    QCOMPARE(differences(whole, tiled(scene, 64)), 0);
+    QImage const whole = sheet.drawn(scene);
+    QVERIFY(ink(whole).pixels > 2000);
+    for (int side : {512, 64}) QCOMPARE(difference(whole, sheet.drawnInTiles(scene, side)).pixels, 0);
   }
 
   void cellsOfAPictureDoNotShow() {
     QImage level(4, 4, QImage::Format_RGB32);
     level.fill(QColor(10, 120, 200));
     QVERIFY(level.save(path("level.png")));
-    QImage const whole = drawn(sceneOf({picture("level.png")}), QRect(0, 0, widthPx, heightPx));
+    QImage const whole = sheet.drawn(sceneOf({picture("level.png")}));
     for (int x = 100; x < 600; ++x) QCOMPARE(whole.pixel(x, 300), qRgb(10, 120, 200));
   }
 
@@ -208,7 +162,7 @@ private slots:
     auto const [file, says] = fetched<QString, QString>();
     auto const element = picture(file);
     QVERIFY2(element->problem().contains(says), qPrintable(element->problem()));
-    QVERIFY(inked(drawn(sceneOf({element}), QRect(0, 0, widthPx, heightPx))) > 1000);
+    QVERIFY(ink(sheet.drawn(sceneOf({element}))).pixels > 1000);
   }
 
   void pageDrawsItsParts() {
@@ -218,15 +172,15 @@ private slots:
     background->GetFillSymbol()->SetColor(Qt::yellow);
     page->SetBackGround(background);
     page->SetBorder(make<SymbolBorder>());
-    Scene const scene = [page](QPainter& painter, _ptr_t<DisplayTransformation> const& transformation) {
+    Scene const scene = [page](QPainter& painter, Transformation const& transformation) {
       page->DrawBackground(painter, transformation);
       page->DrawBorder(painter, transformation);
     };
-    QImage const whole = drawn(scene, QRect(0, 0, widthPx, heightPx));
-    QCOMPARE(whole.pixelColor(widthPx / 2, heightPx / 2), QColor(Qt::yellow));
-    QCOMPARE(whole.pixelColor(0, heightPx / 2), QColor(Qt::black));
-    QCOMPARE(whole.pixelColor(widthPx - 1, heightPx / 2), QColor(Qt::black));
-    QCOMPARE(differences(whole, tiled(scene, 100)), 0);
+    QImage const whole = sheet.drawn(scene);
+    QCOMPARE(whole.pixelColor(sizePx.width() / 2, sizePx.height() / 2), QColor(Qt::yellow));
+    QCOMPARE(whole.pixelColor(0, sizePx.height() / 2), QColor(Qt::black));
+    QCOMPARE(whole.pixelColor(sizePx.width() - 1, sizePx.height() / 2), QColor(Qt::black));
+    QCOMPARE(difference(whole, sheet.drawnInTiles(scene, 100)).pixels, 0);
   }
 
 private:

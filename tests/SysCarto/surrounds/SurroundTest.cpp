@@ -1,3 +1,4 @@
+#include "Pictures.h"
 #include "Rows.h"
 
 #include "host/SysCarto/document/CoordinateSystem.h"
@@ -15,7 +16,6 @@
 #include <SysDisplay/SimpleLineSymbol.h>
 
 #include <QJsonDocument>
-#include <QPainter>
 #include <QtTest>
 
 #include <geodesic.h>
@@ -24,7 +24,6 @@
 #include <cmath>
 
 using namespace SysCarto;
-using SysDisplay::DisplayTransformation;
 using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
 using SysUtility::make;
@@ -71,26 +70,13 @@ QStringList textsOf(MapSurroundFrame const& frame) {
 }
 
 // The page from (0, 0) to (10, 8) centimetres, at 40 pixels a centimetre.
-_ptr_t<DisplayTransformation> pageTransformation() {
-  auto const transformation = make<DisplayTransformation>();
-  transformation->SetDeviceFrame(QRect(0, 0, 400, 320));
-  transformation->SetVisibleBounds(make<Envelope>(0.0, 0.0, frameWidthCm, frameHeightCm));
-  transformation->SetPageScale(40 * 2.54 / 96);
-  return transformation;
-}
-
-QImage blank() {
-  QImage image(400, 320, QImage::Format_RGBA8888_Premultiplied);
-  image.fill(Qt::white);
-  return image;
-}
+Sheet const page{Envelope(0, 0, frameWidthCm, frameHeightCm), QSize(400, 320), 40 * 2.54 / 96};
 
 QImage drawn(Element& element) {
-  QImage image = blank();
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  element.Draw(painter, pageTransformation(), nullptr);
-  return image;
+  return page.drawn([&](QPainter& painter, Transformation const& transformation) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    element.Draw(painter, transformation, nullptr);
+  });
 }
 
 // Metres on the ellipsoid between two places of a map.
@@ -246,7 +232,7 @@ private slots:
     line->SetWidth(30);
     for (auto const& symbol : QList<_ptr_t<SysDisplay::Symbol>>{line, marker}) addLayer(*map, "Layer", symbol);
     auto const frame = framed<Legend>(map, rectangle);
-    auto const transformation = pageTransformation();
+    auto const transformation = page.transformation();
     QVector<QRectF> boxes;
     for (auto const& element : frame->GetMapSurround()->GetElements()) {
       auto const box = element->GetBoundary(transformation)->GetEnvelope();
@@ -294,13 +280,10 @@ private slots:
     Envelope const rectangle(2, 1, 4, 7);
     auto const frame = framed<MarkerNorthArrow>(map, rectangle);
     QImage const image = drawn(*frame);
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y)
-      for (int x = 0; x < image.width(); ++x)
-        if (image.pixelColor(x, y) != Qt::white) ink |= QRect(x, y, 1, 1);
+    QRect const inked = ink(image).where;
     QRect const inside(80, 40, 80, 240);
-    QVERIFY(inside.adjusted(-1, -1, 1, 1).contains(ink));
-    QVERIFY(ink.width() > 60);
+    QVERIFY(inside.adjusted(-1, -1, 1, 1).contains(inked));
+    QVERIFY(inked.width() > 60);
   }
 
   void graphicsMadeOfASurroundLookTheSame_data() {
@@ -321,7 +304,7 @@ private slots:
     auto const group = make<GroupElement>();
     for (auto const& element : frame->GetMapSurround()->GetElements()) group->AddElement(element);
     QImage const asGraphics = drawn(*group);
-    QVERIFY(asGraphics != blank());
+    QVERIFY(ink(asGraphics).pixels > 0);
     QVERIFY(drawn(*frame) == asGraphics);
     QVERIFY(drawn(*ptr_cast<MapSurroundFrame>(frame->Clone())) == asGraphics);
   }
@@ -330,7 +313,7 @@ private slots:
     auto const frame = framed<Legend>(nullptr, Envelope(1, 1, 9, 7));
     QCOMPARE(frame->GetMapSurround()->GetElements().size(), 0);
     QImage const image = drawn(*frame);
-    QVERIFY(image != blank());
+    QVERIFY(ink(image).pixels > 0);
     for (int y = 0; y < image.height(); ++y)
       for (int x = 0; x < image.width(); ++x) QVERIFY(image.pixelColor(x, y).lightness() > 130);
   }
