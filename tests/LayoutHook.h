@@ -1,7 +1,8 @@
 #pragma once
 
+#include "Elements.h"
+
 #include <SysCarto/Editor.h>
-#include <SysCarto/Map.h>
 #include <SysFramework/IApplicationHook.h>
 
 #include <QUndoStack>
@@ -9,30 +10,30 @@
 /// A host without a window: it shows a layout, a map of it, or nothing.
 class LayoutHook : public IApplicationHook {
 public:
-  explicit LayoutHook(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout) : layout(layout), view(layout) {
+  explicit LayoutHook(_ptr_t<SysCarto::PageLayout> const& layout) : layout(layout), view(layout) {
     SysCarto::Editor::Instance()->setHistory(&history);
   }
   ~LayoutHook() override { SysCarto::Editor::Instance()->setHistory(nullptr); }
 
-  SysUtility::_ptr_t<SysCarto::ActiveView> GetActiveView() override { return view; }
-  SysUtility::_ptr_t<SysCarto::PageLayout> GetPageLayout() override { return layout; }
+  _ptr_t<SysCarto::ActiveView> GetActiveView() override { return view; }
+  _ptr_t<SysCarto::PageLayout> GetPageLayout() override { return layout; }
   SysCarto::IKdxContents* GetContents() override { return nullptr; }
 
   /// What `OnCreate` receives.
   void* pointer() { return static_cast<IApplicationHook*>(this); }
 
-  SysUtility::_ptr_t<SysCarto::PageLayout> layout;
-  SysUtility::_ptr_t<SysCarto::ActiveView> view;
+  _ptr_t<SysCarto::PageLayout> layout;
+  _ptr_t<SysCarto::ActiveView> view;
   QUndoStack history;
 };
 
 /// A layout with an empty page of its own size, shown whole.
-inline SysUtility::_ptr_t<SysCarto::PageLayout> emptyLayout(double widthCm, double heightCm) {
-  auto const page = SysUtility::make<SysCarto::Page>();
+inline _ptr_t<SysCarto::PageLayout> emptyLayout(double widthCm, double heightCm) {
+  auto const page = make<SysCarto::Page>();
   SysCarto::Paper::SetCustomSize(widthCm, heightCm);
   page->SetFormID(SysCarto::customPageForm);
   page->SetOrientation(1);
-  auto const layout = SysUtility::make<SysCarto::PageLayout>();
+  auto const layout = make<SysCarto::PageLayout>();
   layout->SetPage(page);
   layout->ZoomToWholePage();
   return layout;

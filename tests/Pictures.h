@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Test.h"
+
 #include <SysDisplay/DisplayTransformation.h>
 
 #include <QImage>
@@ -71,7 +73,7 @@ QImage tiled(QSize const& size, int side, DrawTile const& drawTile) {
   return image;
 }
 
-using Transformation = SysUtility::_ptr_t<SysDisplay::DisplayTransformation>;
+using Transformation = _ptr_t<SysDisplay::DisplayTransformation>;
 using Scene = std::function<void(QPainter&, Transformation const&)>;
 
 /// A part of a world, shown in pixels. A tile of it is drawn with a transformation of its own, as an export does it.
@@ -102,10 +104,10 @@ struct Sheet {
 
 private:
   Transformation showing(SysGeometry::Envelope const& part, QSize const& sizePx) const {
-    auto const transformation = SysUtility::make<SysDisplay::DisplayTransformation>();
+    auto const transformation = make<SysDisplay::DisplayTransformation>();
     transformation->SetPageScale(pageScale);
     transformation->SetDeviceFrame(QRect(QPoint(0, 0), sizePx));
-    transformation->SetVisibleBounds(SysUtility::make<SysGeometry::Envelope>(part));
+    transformation->SetVisibleBounds(make<SysGeometry::Envelope>(part));
     return transformation;
   }
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Test.h"
 #include "host/SysCarto/layout/ViewSurface.h"
 
 #include <SysDisplay/DisplayTransformation.h>
@@ -17,8 +18,8 @@ public:
   void beginTracker() override { calls_ << "begin"; }
   void endTracker() override { calls_ << "end"; }
   void trackerOffset(double dx, double dy) override { calls_ << QString("offset %1 %2").arg(dx).arg(dy); }
-  void trackerShape(SysDisplay::Symbol const& symbol, SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry,
-                    SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) override {
+  void trackerShape(SysDisplay::Symbol const& symbol, _ptr_t<SysGeometry::Geometry> const& geometry,
+                    _ptr_t<SysDisplay::DisplayTransformation> const& transformation) override {
     auto const box = geometry->GetEnvelope();
     calls_ << QString("%1 %2 %3 %4 at scale %5")
                   .arg(symbol.GetType() == SysDisplay::SymbolType::Line ? "line" : "fill")

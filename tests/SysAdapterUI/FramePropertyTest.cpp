@@ -1,4 +1,4 @@
-#include "Rows.h"
+#include "Test.h"
 
 #include <SysAdapterUI/FramePropertyWidget.h>
 #include <SysDisplay/SimpleFillSymbol.h>
@@ -11,7 +11,6 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QTimer>
-#include <QtTest>
 
 #include <functional>
 
@@ -21,9 +20,6 @@ using SysDisplay::SimpleFillStyle;
 using SysDisplay::SimpleFillSymbol;
 using SysDisplay::SimpleLineStyle;
 using SysDisplay::SimpleLineSymbol;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 

@@ -1,5 +1,5 @@
 #include "Files.h"
-#include "Rows.h"
+#include "Test.h"
 
 #include "host/SysAdapterUI/StyleItemModel.h"
 #include "host/SysAdapterUI/SymbolPreview.h"
@@ -16,14 +16,11 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QtTest>
 
 using namespace SysAdapterUI;
 using SysDisplay::MarkerSymbol;
 using SysDisplay::Symbol;
 using SysDisplay::SymbolType;
-using SysUtility::_ptr_t;
-using SysUtility::ptr_cast;
 
 namespace {
 

@@ -1,10 +1,9 @@
 #include "Files.h"
-#include "Rows.h"
+#include "Test.h"
 
 #include "host/SysDisplay/StyleLibrary.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
 
 using SysDisplay::readStyleLibrary;
 using SysDisplay::StyleLibrary;

@@ -1,4 +1,4 @@
-#include "Rows.h"
+#include "Test.h"
 
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgCheck.h"
@@ -9,10 +9,8 @@
 #include <SysDisplay/SimpleLineSymbol.h>
 
 #include <QJsonDocument>
-#include <QtTest>
 
 using namespace SysDisplay;
-using SysUtility::_ptr_t;
 using SysUtility::Archive;
 
 namespace {
@@ -82,7 +80,7 @@ private slots:
   void badValuesAreNamed() {
     auto const [json, problem] = fetched<QByteArray, QString>();
     Archive archive(QJsonObject{{QStringLiteral("symbol"), parsed(json)}});
-    auto const before = SysUtility::make<SimpleLineSymbol>();
+    auto const before = make<SimpleLineSymbol>();
     _ptr_t<LineSymbol> symbol = before;
     describeSymbol(archive, "symbol", symbol);
     QVERIFY2(archive.error().startsWith(problem), qPrintable(archive.error()));
@@ -99,7 +97,7 @@ private slots:
 
   void missingOptionalSymbolIsNone() {
     Archive reading(QJsonObject{});
-    _ptr_t<LineSymbol> symbol = SysUtility::make<SimpleLineSymbol>();
+    _ptr_t<LineSymbol> symbol = make<SimpleLineSymbol>();
     describeOptionalSymbol(reading, "border", symbol);
     QVERIFY(reading.ok() && !symbol);
     Archive writing;

@@ -1,5 +1,4 @@
 #include "Pictures.h"
-#include "Rows.h"
 
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
@@ -9,14 +8,10 @@
 #include <SysDisplay/SimpleLineSymbol.h>
 #include <SysGeometry/Polyline.h>
 
-#include <QtTest>
-
 #include <cmath>
 
 using namespace SysDisplay;
 using namespace SysGeometry;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 
@@ -197,7 +192,7 @@ private slots:
   void cloneIsIndependent() {
     SimpleFillSymbol fill;
     fill.SetOutlineSymbol(pen(3));
-    auto const clone = SysUtility::ptr_cast<SimpleFillSymbol>(fill.Clone());
+    auto const clone = ptr_cast<SimpleFillSymbol>(fill.Clone());
     clone->GetOutlineSymbol()->SetWidth(9);
     clone->SetColor(Qt::red);
     QCOMPARE(fill.GetOutlineSymbol()->GetWidth(), 3.0);

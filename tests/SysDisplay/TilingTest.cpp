@@ -1,5 +1,4 @@
 #include "Pictures.h"
-#include "Rows.h"
 
 #include "host/SysDisplay/FillPainter.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
@@ -12,14 +11,10 @@
 #include <SysGeometry/Polygon.h>
 #include <SysGeometry/Polyline.h>
 
-#include <QtTest>
-
 #include <cmath>
 
 using namespace SysDisplay;
 using namespace SysGeometry;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 

@@ -1,8 +1,6 @@
-#include "Rows.h"
+#include "Test.h"
 
 #include <SysDisplay/DisplayTransformation.h>
-
-#include <QtTest>
 
 #include <cmath>
 #include <limits>
@@ -14,11 +12,9 @@ namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-SysUtility::_ptr_t<Envelope> box(QRectF const& r) {
-  return SysUtility::make<Envelope>(r.left(), r.top(), r.right(), r.bottom());
-}
+_ptr_t<Envelope> box(QRectF const& r) { return make<Envelope>(r.left(), r.top(), r.right(), r.bottom()); }
 
-QRectF rectOf(SysUtility::_ptr_t<Envelope> const& e) {
+QRectF rectOf(_ptr_t<Envelope> const& e) {
   return QRectF(QPointF(e->GetXMin(), e->GetYMin()), QPointF(e->GetXMax(), e->GetYMax()));
 }
 

@@ -3,12 +3,7 @@
 #include <SysFramework/BaseTool.h>
 #include <SysFramework/DesktopCommand.h>
 
-#include <QtTest>
-
 using namespace SysFramework;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 

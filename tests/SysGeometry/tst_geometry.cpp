@@ -1,4 +1,4 @@
-#include "Rows.h"
+#include "Test.h"
 
 #include "host/SysGeometry/OgrBridge.h"
 
@@ -8,8 +8,6 @@
 #include <SysGeometry/Polygon.h>
 #include <SysGeometry/Polyline.h>
 
-#include <QtTest>
-
 #include <cpl_error.h>
 #include <ogr_geometry.h>
 
@@ -18,9 +16,6 @@
 #include <utility>
 
 using namespace SysGeometry;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 using GeometryPtr = _ptr_t<Geometry>;
 

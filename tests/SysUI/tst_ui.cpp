@@ -1,5 +1,5 @@
 #include "Files.h"
-#include "Rows.h"
+#include "Test.h"
 
 #include <SysUI/EnvironmentSetting.h>
 #include <SysUI/ICommand.h>
@@ -7,12 +7,8 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QtTest>
 
 using namespace SysUI;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 

@@ -1,5 +1,5 @@
 #include "Files.h"
-#include "Rows.h"
+#include "Test.h"
 
 #include "host/SysUtility/Archive.h"
 #include "host/SysUtility/FileSaver.h"
@@ -10,7 +10,6 @@
 
 #include <QJsonDocument>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <cmath>
 

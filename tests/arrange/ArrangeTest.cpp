@@ -1,5 +1,4 @@
 #include "LayoutHook.h"
-#include "Rows.h"
 #include "arrange/AlignToMarginsElement.h"
 #include "arrange/Alignment.h"
 #include "arrange/DataFrameLock.h"
@@ -7,15 +6,9 @@
 #include "arrange/FitToMargins.h"
 #include "arrange/SameSize.h"
 #include "arrange/StackingOrder.h"
-#include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/TextElement.h"
 
-#include <SysCarto/MapSurroundFrame.h>
-#include <SysCarto/SymbolFrameParts.h>
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
-
-#include <QtTest>
 
 #include <array>
 #include <cmath>
@@ -24,9 +17,6 @@
 using namespace SysCarto;
 using SysFramework::BaseCommand;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 
@@ -55,8 +45,7 @@ _ptr_t<Element> bordered(Rectangle const& r, double gapCm) {
   auto const border = make<SymbolBorder>();
   border->SetLineSymbol(line);
   border->SetGap(gapCm / 2.54 * 72.0);
-  auto const frame = make<MapFrameElement>();
-  frame->SetGeometry(make<Envelope>(r[0], r[1], r[2], r[3]));
+  auto const frame = madeIn<MapFrameElement>(r[0], r[1], r[2], r[3]);
   frame->SetBorder(border);
   frame->SetShadow(nullptr);
   return frame;
@@ -272,8 +261,7 @@ private slots:
   }
 
   void lockingTakesDataFramesOutOfTheSelectionAndNothingElse() {
-    auto const frame = make<MapFrameElement>();
-    frame->SetGeometry(make<Envelope>(0, 0, 5, 5));
+    auto const frame = madeIn<MapFrameElement>(0, 0, 5, 5);
     addSelected(frame);
     addSelected(rectangle({0, 0, 1, 1}));
     QVERIFY(click(make<LockDataFrame>()));

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Elements.h"
 #include "Files.h"
 
-#include <SysCarto/Map.h>
 #include <SysCarto/MapDocument.h>
 
 #include <QDir>
@@ -10,7 +10,6 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QtTest>
 
 /// What a run of `plotvane` came to.
 struct Outcome {
@@ -57,10 +56,10 @@ public:
     auto const layout = document.GetPageLayout();
     SysCarto::Paper::SetCustomSize(widthCm, heightCm);
     layout->GetPage()->SetFormID(SysCarto::customPageForm);
-    auto const frame = SysUtility::make<SysCarto::MapFrameElement>();
+    auto const frame = make<SysCarto::MapFrameElement>();
     frame->SetName("World");
     frame->GetMap()->SetName("Countries");
-    frame->SetGeometry(SysUtility::make<SysGeometry::Envelope>(1.0, 1.0, 7.0, 5.0));
+    frame->SetGeometry(make<SysGeometry::Envelope>(1.0, 1.0, 7.0, 5.0));
     layout->GetGraphicsContainer()->AddElement(frame);
     if (!document.SaveAs(path(name), true, false)) qFatal("%s", qPrintable(document.GetErrors().join(' ')));
   }

@@ -1,16 +1,12 @@
 #pragma once
 
-#include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/TextElement.h"
-#include "host/desktop/Workbench.h"
+#include "Elements.h"
 
-#include <SysCarto/GroupElement.h>
-#include <SysCarto/Map.h>
+#include "host/desktop/Workbench.h"
 
 #include <QApplication>
 #include <QMouseEvent>
 #include <QWheelEvent>
-#include <QtTest>
 
 /// A person at a workbench: a page with elements, and a mouse and keys on its view.
 class WorkbenchPage {
@@ -21,28 +17,24 @@ public:
     bench.views().QWidget::show();
   }
 
-  SysUtility::_ptr_t<SysCarto::PageLayout> layout() { return bench.session().document().GetPageLayout(); }
+  _ptr_t<SysCarto::PageLayout> layout() { return bench.session().document().GetPageLayout(); }
   IElementContainer& container() { return *layout()->GetGraphicsContainer(); }
 
   template <class Element>
-  SysUtility::_ptr_t<Element> add(double xmin, double ymin, double xmax, double ymax) {
-    auto const element = SysUtility::make<Element>();
-    element->SetGeometry(SysUtility::make<SysGeometry::Envelope>(xmin, ymin, xmax, ymax));
+  _ptr_t<Element> add(double xmin, double ymin, double xmax, double ymax) {
+    auto const element = madeIn<Element>(xmin, ymin, xmax, ymax);
     container().AddElement(element);
     return element;
   }
 
   /// The element that now has the handle of this one.
-  SysUtility::_ptr_t<SysCarto::Element> now(SysCarto::Element const& element) {
+  _ptr_t<SysCarto::Element> now(SysCarto::Element const& element) {
     for (auto const& one : container().GetElements())
       if (one->GetHandle() == element.GetHandle()) return one;
     return nullptr;
   }
 
-  QRectF place(SysCarto::Element const& element) {
-    auto const box = now(element)->GetEnvelope();
-    return {box->GetXMin(), box->GetYMin(), box->GetWidth(), box->GetHeight()};
-  }
+  QRectF place(SysCarto::Element const& element) { return placeOf(*now(element)); }
 
   QPoint pixel(double xCm, double yCm) { return layout()->GetDisplayTransformation()->FromMapPoint(xCm, yCm); }
 

@@ -1,4 +1,4 @@
-#include "Rows.h"
+#include "Test.h"
 
 #include "host/desktop/DialogAnswers.h"
 
@@ -12,7 +12,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
-#include <QtTest>
 
 using Answer = DialogAnswers::Answer;
 using Kind = Answer::Kind;

@@ -114,10 +114,9 @@ private:
     page.add<SysCarto::MarkerElement>(15.0, 11.0, 15.0, 11.0);
     auto const text = page.add<SysCarto::TextElement>(5.0, 9.5, 5.0, 9.5);
     text->setText("A title");
-    auto const group = SysUtility::make<SysCarto::GroupElement>();
+    auto const group = make<SysCarto::GroupElement>();
     for (double x : {10.0, 11.1}) {
-      auto const member = SysUtility::make<SysCarto::RectangleElement>();
-      member->SetGeometry(SysUtility::make<SysGeometry::Envelope>(x, 9.0, x + 0.7, 10.3));
+      auto const member = madeIn<SysCarto::RectangleElement>(x, 9.0, x + 0.7, 10.3);
       group->AddElement(member);
     }
     page.container().AddElement(group);
@@ -153,15 +152,14 @@ private:
   static Apart apart(WorkbenchPage& page) {
     Apart values{page.layout()->GetAlignToMargins(), {}};
     for (auto const& element : page.container().GetElements())
-      if (auto const frame = SysUtility::ptr_cast<MapFrameElement>(element))
-        values.locks[frame->GetHandle()] = frame->IsLocked();
+      if (auto const frame = ptr_cast<MapFrameElement>(element)) values.locks[frame->GetHandle()] = frame->IsLocked();
     return values;
   }
 
   static void put(WorkbenchPage& page, Apart const& values) {
     page.layout()->SetAlignToMargins(values.alignsToMargins);
     for (auto const& element : page.container().GetElements())
-      if (auto const frame = SysUtility::ptr_cast<MapFrameElement>(element))
+      if (auto const frame = ptr_cast<MapFrameElement>(element))
         frame->SetLocked(values.locks.value(frame->GetHandle(), frame->IsLocked()));
   }
 

@@ -1,4 +1,3 @@
-#include "Rows.h"
 #include "desktop/Executable.h"
 
 #include <QImage>

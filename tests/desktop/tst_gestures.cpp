@@ -1,4 +1,3 @@
-#include "Rows.h"
 #include "desktop/WorkbenchPage.h"
 
 #include "host/desktop/Session.h"
@@ -127,9 +126,9 @@ private slots:
 
 private:
   struct Page : WorkbenchPage {
-    SysUtility::_ptr_t<RectangleElement> left = add<RectangleElement>(2, 4, 6, 7);
-    SysUtility::_ptr_t<RectangleElement> right = add<RectangleElement>(10, 4, 14, 7);
-    SysUtility::_ptr_t<MapFrameElement> frame = add<MapFrameElement>(2, 12, 14, 24);
+    _ptr_t<RectangleElement> left = add<RectangleElement>(2, 4, 6, 7);
+    _ptr_t<RectangleElement> right = add<RectangleElement>(10, 4, 14, 7);
+    _ptr_t<MapFrameElement> frame = add<MapFrameElement>(2, 12, 14, 24);
     QList<int> selected() {
       QList<int> handles;
       for (auto const& element : container().GetSelectedElements()) handles << element->GetHandle();

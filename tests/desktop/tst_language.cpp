@@ -1,4 +1,4 @@
-#include "Rows.h"
+#include "Test.h"
 
 #include "host/SysFramework/Translations.h"
 #include "host/desktop/CommandCatalogue.h"
@@ -10,7 +10,6 @@
 #include <QSet>
 #include <QSettings>
 #include <QTranslator>
-#include <QtTest>
 
 class LanguageTest : public QObject {
   Q_OBJECT

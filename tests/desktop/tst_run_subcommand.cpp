@@ -1,4 +1,3 @@
-#include "Rows.h"
 #include "desktop/Executable.h"
 
 #include <QJsonArray>
@@ -11,9 +10,9 @@ private slots:
   void initTestCase() {
     SysCarto::MapDocument document;
     QVERIFY(document.Open(folder_.path("page.kdx")));
-    auto const frame = SysUtility::make<SysCarto::MapFrameElement>();
+    auto const frame = make<SysCarto::MapFrameElement>();
     frame->SetName("Inset");
-    frame->SetGeometry(SysUtility::make<SysGeometry::Envelope>(2.0, 2.0, 3.0, 3.0));
+    frame->SetGeometry(make<SysGeometry::Envelope>(2.0, 2.0, 3.0, 3.0));
     document.GetPageLayout()->GetGraphicsContainer()->AddElement(frame);
     QVERIFY(document.SaveAs(folder_.path("two.kdx"), true, false));
   }

@@ -1,5 +1,4 @@
 #include "Pictures.h"
-#include "Rows.h"
 #include "desktop/WorkbenchPage.h"
 
 #include "host/SysCarto/layout/MapPicture.h"
@@ -8,7 +7,6 @@
 
 using SysCarto::MapFrameElement;
 using SysGeometry::Envelope;
-using SysUtility::make;
 
 namespace {
 
@@ -20,8 +18,8 @@ public:
   static constexpr int msPerTile = 15;
 
   int GetType() const override { return 2; }
-  void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation, int,
-            SysUtility::_ptr_t<SysUI::TrackerCancel> const&) override {
+  void Draw(QPainter& painter, _ptr_t<SysDisplay::DisplayTransformation> const& transformation, int,
+            _ptr_t<SysUI::TrackerCancel> const&) override {
     QTest::qSleep(msPerTile);
     painter.fillRect(transformation->GetDeviceFrame(), colour);
   }

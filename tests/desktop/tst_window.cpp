@@ -1,5 +1,5 @@
 #include "Files.h"
-#include "Rows.h"
+#include "Test.h"
 
 #include "host/SysCarto/layout/GraphicElements.h"
 #include "host/desktop/CommandCatalogue.h"
@@ -17,7 +17,6 @@
 #include <QSettings>
 #include <QTreeWidget>
 #include <QUndoStack>
-#include <QtTest>
 
 namespace {
 
@@ -132,9 +131,9 @@ private slots:
     auto const layout = window.bench().session().document().GetPageLayout();
     QVector<int> handles;
     for (int i = 0; i < 6; ++i) {
-      auto const box = SysUtility::make<SysCarto::RectangleElement>();
+      auto const box = make<SysCarto::RectangleElement>();
       double const x = 2 + i * 2.9, y = 4 + (i * 7) % 17;
-      box->SetGeometry(SysUtility::make<SysGeometry::Envelope>(x, y, x + 1.2 + 0.2 * i, y + 2.6 - 0.2 * i));
+      box->SetGeometry(make<SysGeometry::Envelope>(x, y, x + 1.2 + 0.2 * i, y + 2.6 - 0.2 * i));
       layout->GetGraphicsContainer()->AddElement(box);
       handles << box->GetHandle();
     }

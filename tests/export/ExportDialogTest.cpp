@@ -1,5 +1,4 @@
 #include "LayoutHook.h"
-#include "Rows.h"
 #include "export/ExportCommand.h"
 #include "export/ExportParaDlg.h"
 #include "export/LayoutRenderer.h"
@@ -18,7 +17,6 @@
 #include <QSlider>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QtTest>
 
 #include <cpl_error.h>
 
@@ -28,8 +26,6 @@ using namespace SysCarto;
 using Plugin::ExportCommand;
 using Plugin::LayoutRenderer;
 using SysUI::TrackerCancel;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 

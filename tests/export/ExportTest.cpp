@@ -1,16 +1,13 @@
 #include "LayoutHook.h"
 #include "Pictures.h"
-#include "Rows.h"
 #include "export/ExportCommand.h"
 #include "export/LayoutRenderer.h"
 
 #include <SysCarto/FeatureLayer.h>
 #include <SysCarto/MapDocument.h>
-#include <SysCarto/SymbolFrameParts.h>
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QtTest>
 
 using namespace SysCarto;
 using Plugin::ExportCommand;
@@ -19,9 +16,6 @@ using Plugin::PlacedLabels;
 using SysDisplay::DisplayTransformation;
 using SysGeometry::Envelope;
 using SysUI::TrackerCancel;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 
@@ -90,8 +84,7 @@ private slots:
 
   void neighbouringTilesShowMapsThatMeet() {
     auto const layout = emptyLayout(20.0, 20.0);
-    auto const frame = make<MapFrameElement>();
-    frame->SetGeometry(make<Envelope>(3.0, 3.0, 17.0, 17.0));
+    auto const frame = madeIn<MapFrameElement>(3.0, 3.0, 17.0, 17.0);
     auto const layer = make<RecordingLayer>();
     frame->GetMap()->AddLayer(layer);
     layout->GetGraphicsContainer()->AddElement(frame);
@@ -149,8 +142,7 @@ private slots:
   void aLayerIsLeftOutBeyondItsScales() {
     auto const [minScale, maxScale, drawn] = fetched<double, double, bool>();
     auto const layout = emptyLayout(10.0, 10.0);
-    auto const frame = make<MapFrameElement>();
-    frame->SetGeometry(make<Envelope>(0.0, 0.0, 10.0, 10.0));
+    auto const frame = madeIn<MapFrameElement>(0.0, 0.0, 10.0, 10.0);
     layout->GetGraphicsContainer()->AddElement(frame);
     frame->GetMap()->SetExtent(make<Envelope>(0.0, 0.0, 100.0, 100.0));
     double const scale = frame->GetMap()->GetDisplayTransformation()->GetMapScale();

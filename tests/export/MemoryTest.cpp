@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <unistd.h>
 
@@ -37,10 +36,10 @@ private slots:
 #endif
     SysCarto::MapDocument document;
     QVERIFY(document.Open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/aegean.kdx")));
-    auto const hook = SysUtility::make<LayoutHook>(document.GetPageLayout());
+    auto const hook = make<LayoutHook>(document.GetPageLayout());
     QTemporaryDir const folder;
     auto const exportOnce = [&] {
-      auto const command = SysUtility::make<ExportCommand>();
+      auto const command = make<ExportCommand>();
       command->OnCreate(hook->pointer());
       QVERIFY(command->OutputOtherPicture(folder.filePath("a.png"), 5, nullptr, goOn, nullptr));
     };

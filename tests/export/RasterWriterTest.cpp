@@ -1,11 +1,10 @@
-#include "Rows.h"
+#include "Test.h"
 
 #include "export/RasterWriter.h"
 
 #include <QDir>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <gdal_priv.h>
 

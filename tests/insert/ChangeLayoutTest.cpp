@@ -1,28 +1,19 @@
 #include "Files.h"
 #include "InsertDesktop.h"
-#include "Rows.h"
 #include "insert/ChangePageLayout.h"
-
-#include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/TextElement.h"
 
 #include <SysAdapterUI/TOCControl.h>
 #include <SysCarto/MapDocument.h>
-#include <SysCarto/MapSurroundFrame.h>
 
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTreeWidget>
-#include <QtTest>
 
 #include <memory>
 
 using namespace SysCarto;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 
@@ -74,11 +65,7 @@ private slots:
     old_ = emptyLayout(20, 30);
     old_->setSurface(surface_.get());
     old_->GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 640, 480));
-    for (char const* name : {"Alpha", "Beta"}) {
-      auto const frame = make<MapFrameElement>();
-      frame->GetMap()->SetName(name);
-      old_->GetGraphicsContainer()->AddElement(frame);
-    }
+    for (char const* name : {"Alpha", "Beta"}) old_->GetGraphicsContainer()->AddElement(frameNamed(name));
     desktop_ = make<LoggedDesktop>(old_, *contents_, log_);
   }
 

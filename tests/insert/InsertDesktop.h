@@ -21,8 +21,8 @@ class LoggedContents final : public QWidget, public SysAdapterUI::PageLayoutCont
 public:
   explicit LoggedContents(CallLog& log) : log_(log) {}
 
-  SysUtility::_ptr_t<SysCarto::PageLayout> GetPageLayout() const override { return layout; }
-  void SetPageLayout(SysUtility::_ptr_t<SysCarto::PageLayout> const& next) override {
+  _ptr_t<SysCarto::PageLayout> GetPageLayout() const override { return layout; }
+  void SetPageLayout(_ptr_t<SysCarto::PageLayout> const& next) override {
     log_ << QStringLiteral("set layout");
     layout = next;
     layout->setSurface(surface);
@@ -33,7 +33,7 @@ public:
     if (onCompanion) onCompanion();
   }
 
-  SysUtility::_ptr_t<SysCarto::PageLayout> layout;
+  _ptr_t<SysCarto::PageLayout> layout;
   SysCarto::ViewSurface* surface = nullptr;
   std::function<void()> onCompanion;
 

@@ -1,40 +1,31 @@
 #include "InsertDesktop.h"
-#include "Rows.h"
 #include "insert/AddGridCommand.h"
 #include "insert/AddMapFrameElementTool.h"
 #include "insert/AddNorthArrowCommand.h"
 #include "insert/ConvertToGraphics.h"
 #include "insert/SurroundInsertion.h"
 
-#include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/TextElement.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/StyleLibrary.h"
 
 #include <SysAdapterUI/StyleSelectorDlg.h>
 #include <SysCarto/Graticule.h>
-#include <SysCarto/GroupElement.h>
-#include <SysCarto/MapSurroundFrame.h>
 #include <SysDisplay/SimpleLineSymbol.h>
 #include <SysUI/EnvironmentSetting.h>
 
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <memory>
 
 using Create = SysFramework::BaseCommand* (*)();
-using Place = SysUtility::_ptr_t<SysGeometry::Envelope> (SysCarto::PageLayout::*)() const;
+using Place = _ptr_t<SysGeometry::Envelope> (SysCarto::PageLayout::*)() const;
 
 using namespace Plugin;
 using namespace SysCarto;
 using SysFramework::BaseCommand;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 using SysUI::EnvironmentSetting;
 
@@ -75,12 +66,6 @@ public:
 bool isSame(Envelope const& a, Envelope const& b) {
   return a.GetXMin() == b.GetXMin() && a.GetYMin() == b.GetYMin() && a.GetXMax() == b.GetXMax() &&
          a.GetYMax() == b.GetYMax();
-}
-
-_ptr_t<MapFrameElement> frameNamed(QString const& mapName) {
-  auto const frame = make<MapFrameElement>();
-  frame->GetMap()->SetName(mapName);
-  return frame;
 }
 
 QStringList gridNames(MapFrameElement const& frame) {

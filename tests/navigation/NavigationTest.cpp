@@ -1,20 +1,16 @@
 #include "LayoutHook.h"
 #include "RecordingSurface.h"
-#include "Rows.h"
 #include "navigation/PageExtentCommands.h"
 #include "navigation/PagePanTool.h"
 #include "navigation/PageZoomTools.h"
 
 #include <QMouseEvent>
-#include <QtTest>
 
 #include <cmath>
 
 using namespace SysCarto;
 using SysFramework::BaseTool;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 

@@ -1,13 +1,10 @@
 #include "LayoutHook.h"
 #include "RecordingSurface.h"
-#include "Rows.h"
-#include "host/SysCarto/layout/GraphicElements.h"
 #include "pagesetup/PageSettingCommand.h"
 #include "pagesetup/PageSettingsDlg.h"
 #include "pagesetup/PageSizeTabPage.h"
 
 #include <SysAdapterUI/FramePropertyWidget.h>
-#include <SysCarto/SymbolFrameParts.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -19,15 +16,12 @@
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTimer>
-#include <QtTest>
 
 #include <functional>
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
 using SysGeometry::Point;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 
@@ -183,10 +177,8 @@ private slots:
     auto const [wanted, width, moved] = fetched<bool, QString, bool>();
     auto const layout = emptyLayout(20.0, 10.0);
     auto const hook = make<LayoutHook>(layout);
-    auto const frame = make<MapFrameElement>();
-    frame->SetGeometry(make<Envelope>(2.0, 1.0, 12.0, 6.0));
-    auto const picture = make<RectangleElement>();
-    picture->SetGeometry(make<Envelope>(4.0, 2.0, 6.0, 8.0));
+    auto const frame = madeIn<MapFrameElement>(2.0, 1.0, 12.0, 6.0);
+    auto const picture = madeIn<RectangleElement>(4.0, 2.0, 6.0, 8.0);
     layout->GetGraphicsContainer()->AddElements({frame, picture});
     frame->SetLocked(true);
 
@@ -262,7 +254,7 @@ private slots:
     person.press("pushButton_Apply");
 
     QVERIFY2(!page.GetBackground() && !page.GetShadow(), "what is not there stays so");
-    auto const applied = SysUtility::ptr_cast<SymbolBorder>(page.GetBorder());
+    auto const applied = ptr_cast<SymbolBorder>(page.GetBorder());
     QVERIFY(applied && applied != border);
     QCOMPARE(applied->GetGap(), 5.0);
     person.find<QDoubleSpinBox>("spinBox_BorderGap")->setValue(7.0);

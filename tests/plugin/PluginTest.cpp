@@ -1,14 +1,12 @@
-#include "Rows.h"
+#include "Test.h"
 
 #include "host/SysFramework/Translations.h"
 
 #include <SysUI/CMDPluginModule.h>
 
 #include <QLibrary>
-#include <QtTest>
 
 using SysUI::CMDPluginModule;
-using SysUtility::_ptr_t;
 
 // The plug-in, loaded as a host loads it.
 class PluginTest : public QObject {

@@ -1,27 +1,16 @@
 #include "Files.h"
-#include "Rows.h"
+#include "Elements.h"
 
 #include <SysCarto/Editor.h>
 #include <SysCarto/Graticule.h>
-#include <SysCarto/GroupElement.h>
-#include <SysCarto/Map.h>
 #include <SysCarto/MapDocument.h>
-#include <SysCarto/MapSurroundFrame.h>
-#include <SysCarto/SymbolFrameParts.h>
-
-#include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/TextElement.h"
 
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QUndoStack>
-#include <QtTest>
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 
@@ -41,8 +30,7 @@ QJsonValue changed(QJsonValue const& value, QStringList path, QJsonValue const& 
 }
 
 _ptr_t<MapFrameElement> frameOf(QString const& name, QString const& coordinateSystem, Envelope const& bounds) {
-  auto const frame = make<MapFrameElement>();
-  frame->GetMap()->SetName(name);
+  auto const frame = frameNamed(name);
   frame->GetMap()->SetCoordinateSystem(coordinateSystem);
   frame->GetMap()->SetExtent(make<Envelope>(bounds));
   return frame;

@@ -1,18 +1,14 @@
-#include "Rows.h"
+#include "Test.h"
 
 #include <SysCarto/Map.h>
 
 #include "host/SysCarto/document/CoordinateSystem.h"
-
-#include <QtTest>
 
 #include <cmath>
 #include <limits>
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 

@@ -1,11 +1,10 @@
 #include "Files.h"
-#include "Rows.h"
+#include "Test.h"
 
 #include <SysCarto/MapDocument.h>
 
 #include <QLoggingCategory>
 #include <QTemporaryDir>
-#include <QtTest>
 
 using SysCarto::MapDocument;
 

@@ -1,5 +1,4 @@
 #include "LayerFixture.h"
-#include "Rows.h"
 
 #include "host/SysCarto/layout/TextElement.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
@@ -7,15 +6,11 @@
 #include <SysDisplay/SimpleLineSymbol.h>
 #include <SysGeometry/Point.h>
 
-#include <QtTest>
-
 #include <cmath>
 
 using namespace SysCarto;
 using namespace SysDisplay;
 using SysGeometry::Polygon;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 
@@ -44,7 +39,7 @@ struct Placed {
   }
   QStringList texts() const {
     QStringList result;
-    for (auto const& label : labels) result << SysUtility::ptr_cast<TextElement>(label)->text();
+    for (auto const& label : labels) result << ptr_cast<TextElement>(label)->text();
     return result;
   }
 };
@@ -150,7 +145,7 @@ private slots:
     Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)).transformation());
     QCOMPARE(result.texts().value(0), QStringLiteral("Large"));
     QVERIFY(!result.texts().contains("Nameless"));
-    auto const label = SysUtility::ptr_cast<TextElement>(result.labels[0]);
+    auto const label = ptr_cast<TextElement>(result.labels[0]);
     QCOMPARE(label->symbol()->format().size, 14.0);
     QRectF const box = result.shapes()[0].boundingRect();
     QVERIFY2(box.left() > 50 && box.center().y() > 53, "the first choice is at the upper right");
@@ -173,7 +168,7 @@ private slots:
         opened({written(folder, "a.geojson", json), {}, {}, {}}, "", make<SimpleLineSymbol>(), settings(8));
     Placed const result = placed(*layer.layer, shown({0, 0, 100, 100}, QSize(100, 100)).transformation());
     QCOMPARE(result.texts(), QStringList{"Danube"});
-    QVERIFY(std::abs(SysUtility::ptr_cast<TextElement>(result.labels[0])->angle() - angle) < 1e-6);
+    QVERIFY(std::abs(ptr_cast<TextElement>(result.labels[0])->angle() - angle) < 1e-6);
   }
 };
 

@@ -1,16 +1,12 @@
 #include "LayerFixture.h"
-#include "Rows.h"
 
 #include "host/SysCarto/layers/LayerArchive.h"
 
 #include <QDir>
 #include <QJsonDocument>
-#include <QtTest>
 
 using namespace SysCarto;
-using SysUtility::_ptr_t;
 using SysUtility::Archive;
-using SysUtility::make;
 
 namespace {
 
@@ -91,7 +87,7 @@ private slots:
     QCOMPARE(result.context.unreadableSources, unreadable);
     QCOMPARE(result.context.warnings.size(), unreadable);
     if (unreadable) QVERIFY(result.context.warnings[0].contains("Places"));
-    auto const layer = SysUtility::ptr_cast<VectorLayer>(result.layer);
+    auto const layer = ptr_cast<VectorLayer>(result.layer);
     QCOMPARE(layer->features().size() > 0, unreadable == 0);
   }
 
@@ -131,7 +127,7 @@ private slots:
     Read const result = read(layerJson(
         R"({"file":"world.gpkg","layer":"cities"})",
         R"({"classes":[{"minimum":1000000,"symbol":{"type":"simpleMarker"}},{"minimum":10000000,"symbol":{"type":"simpleMarker"}}],"field":"population","type":"graduated"})"));
-    auto const layer = SysUtility::ptr_cast<VectorLayer>(result.layer);
+    auto const layer = ptr_cast<VectorLayer>(result.layer);
     QVERIFY(layer);
     int counts[3] = {0};
     for (Feature const& feature : layer->features().features) ++counts[feature.symbolClass + 1];

@@ -1,17 +1,12 @@
 #include "LayerFixture.h"
-#include "Rows.h"
 
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 
 #include <SysDisplay/SimpleLineSymbol.h>
 
-#include <QtTest>
-
 using namespace SysCarto;
 using namespace SysDisplay;
 using SysUI::TrackerCancel;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 

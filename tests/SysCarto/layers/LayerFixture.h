@@ -23,7 +23,7 @@ inline QByteArray geoJson(QByteArray const& geometry) {
 }
 
 struct OpenedLayer {
-  SysUtility::_ptr_t<SysCarto::VectorLayer> layer;
+  _ptr_t<SysCarto::VectorLayer> layer;
   QString error;
   QStringList warnings;
 
@@ -31,10 +31,9 @@ struct OpenedLayer {
 };
 
 inline OpenedLayer opened(SysCarto::SourceSettings const& source, QString const& mapSystem,
-                          SysUtility::_ptr_t<SysDisplay::Symbol> symbol = nullptr,
-                          SysCarto::LabelSettings const& labels = {}) {
-  if (!symbol) symbol = SysUtility::make<SysDisplay::SimpleFillSymbol>();
-  OpenedLayer result{SysUtility::make<SysCarto::VectorLayer>(SysCarto::makeSimpleRenderer(symbol)), {}, {}};
+                          _ptr_t<SysDisplay::Symbol> symbol = nullptr, SysCarto::LabelSettings const& labels = {}) {
+  if (!symbol) symbol = make<SysDisplay::SimpleFillSymbol>();
+  OpenedLayer result{make<SysCarto::VectorLayer>(SysCarto::makeSimpleRenderer(symbol)), {}, {}};
   result.layer->setLabelSettings(labels);
   result.error = result.layer->open(source, mapSystem, result.warnings);
   return result;

@@ -1,7 +1,4 @@
 #include "LayerFixture.h"
-#include "Rows.h"
-
-#include <QtTest>
 
 #include <cmath>
 #include <numeric>

@@ -1,13 +1,10 @@
 #include "LayerFixture.h"
-#include "Rows.h"
 
 #include "host/SysCarto/layers/GdalErrors.h"
 
 #include <QDir>
-#include <QtTest>
 
 using namespace SysCarto;
-using SysUtility::make;
 
 class SourceTest : public QObject {
   Q_OBJECT

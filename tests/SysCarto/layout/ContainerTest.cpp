@@ -1,19 +1,13 @@
 #include "Pictures.h"
-#include "Rows.h"
+#include "Elements.h"
 
 #include "host/SysCarto/layout/ElementContainer.h"
-#include "host/SysCarto/layout/GraphicElements.h"
 
 #include <SysCarto/Editor.h>
-#include <SysCarto/Map.h>
-#include <SysCarto/MapFrameElement.h>
 
 #include <QUndoStack>
-#include <QtTest>
 
 using namespace SysCarto;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 
@@ -203,13 +197,13 @@ private slots:
     auto const frame = make<MapFrameElement>();
     container.AddElement(frame);
     Editor::Instance()->StartOperation("Move");
-    auto const moved = SysUtility::ptr_cast<MapFrameElement>(frame->Clone());
+    auto const moved = ptr_cast<MapFrameElement>(frame->Clone());
     container.ReplaceElement(frame->GetHandle(), moved);
     Editor::Instance()->StopOperation();
     moved->SetLocked(true);
     history_.undo();
     QVERIFY(frame->IsLocked());
-    auto const second = SysUtility::ptr_cast<MapFrameElement>(frame->Clone());
+    auto const second = ptr_cast<MapFrameElement>(frame->Clone());
     container.AddElement(second);
     second->SetLocked(false);
     QVERIFY(frame->IsLocked());

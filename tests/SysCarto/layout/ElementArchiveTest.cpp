@@ -1,28 +1,17 @@
-#include "Rows.h"
+#include "Elements.h"
 
 #include "host/SysCarto/layout/ElementArchive.h"
-#include "host/SysCarto/layout/GraphicElements.h"
 #include "host/SysCarto/layout/PictureElement.h"
-#include "host/SysCarto/layout/TextElement.h"
 
 #include <SysCarto/Graticule.h>
-#include <SysCarto/GroupElement.h>
-#include <SysCarto/Map.h>
-#include <SysCarto/MapFrameElement.h>
-#include <SysCarto/MapSurroundFrame.h>
-#include <SysCarto/SymbolFrameParts.h>
 
 #include <QJsonDocument>
-#include <QtTest>
 
 #include <optional>
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
 using SysUtility::Archive;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 

@@ -1,18 +1,9 @@
 #include "Pictures.h"
-#include "Rows.h"
+#include "Elements.h"
 
-#include "host/SysCarto/layout/GraphicElements.h"
 #include "host/SysCarto/layout/PictureElement.h"
-#include "host/SysCarto/layout/TextElement.h"
 
 #include <SysCarto/Graticule.h>
-#include <SysCarto/GroupElement.h>
-#include <SysCarto/Map.h>
-#include <SysCarto/MapFrameElement.h>
-#include <SysCarto/MapSurroundFrame.h>
-#include <SysCarto/SymbolFrameParts.h>
-
-#include <QtTest>
 
 #include <cmath>
 
@@ -20,9 +11,6 @@ using namespace SysCarto;
 using SysDisplay::DisplayTransformation;
 using SysGeometry::Envelope;
 using SysGeometry::Point;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 
@@ -47,11 +35,6 @@ _ptr_t<Element> lineFrom(QVector<QPointF> points) {
   auto const line = make<LineElement>();
   line->setShape(make<SysGeometry::Polyline>(points));
   return line;
-}
-
-_ptr_t<Element> in(_ptr_t<Element> const& element, double xmin, double ymin, double xmax, double ymax) {
-  element->SetGeometry(make<Envelope>(xmin, ymin, xmax, ymax));
-  return element;
 }
 
 _ptr_t<Element> text(QString const& letters, double x, double y, double haloPt = 0) {
@@ -81,13 +64,13 @@ private slots:
     Rows<_ptr_t<Element>, QVector<double>, QVector<double>, QVector<double>> row;
     using Sides = QVector<double>;
     Sides const moved{3, 1, 7, 3}, scaled{2, 3, 10, 4}, fitted{10, 10, 14, 12};
-    row("rectangle", in(make<RectangleElement>(), 2, 3, 6, 5), moved, scaled, fitted);
-    row("ellipse", in(make<EllipseElement>(), 2, 3, 6, 5), moved, scaled, fitted);
-    row("picture", in(make<PictureElement>(), 2, 3, 6, 5), moved, scaled, fitted);
-    row("data frame", in(make<MapFrameElement>(), 2, 3, 6, 5), moved, scaled, fitted);
-    row("surround", in(make<MapSurroundFrame>(), 2, 3, 6, 5), moved, scaled, fitted);
+    row("rectangle", madeIn<RectangleElement>(2, 3, 6, 5), moved, scaled, fitted);
+    row("ellipse", madeIn<EllipseElement>(2, 3, 6, 5), moved, scaled, fitted);
+    row("picture", madeIn<PictureElement>(2, 3, 6, 5), moved, scaled, fitted);
+    row("data frame", madeIn<MapFrameElement>(2, 3, 6, 5), moved, scaled, fitted);
+    row("surround", madeIn<MapSurroundFrame>(2, 3, 6, 5), moved, scaled, fitted);
     row("line", lineFrom({{2, 5}, {6, 3}}), moved, scaled, fitted);
-    row("group of two", groupOf({in(make<RectangleElement>(), 2, 3, 3, 4), lineFrom({{3, 3}, {6, 5}})}), moved, scaled,
+    row("group of two", groupOf({madeIn<RectangleElement>(2, 3, 3, 4), lineFrom({{3, 3}, {6, 5}})}), moved, scaled,
         fitted);
     row("a level line keeps its height of nothing", lineFrom({{2, 3}, {6, 3}}), {3, 1, 7, 1}, {2, 3, 10, 3},
         {10, 11, 14, 11});
@@ -125,7 +108,7 @@ private slots:
     row("border and its gap", in(framed, 2, 3, 6, 5), 4.5, 4.5);
     row("shadow to the upper left", in(shaded, 2, 3, 6, 5), 7.0, 0.0);
     row("no part", in(bare, 2, 3, 6, 5), 0.0, 0.0);
-    row("outline of half a point", in(make<RectangleElement>(), 2, 3, 6, 5), 0.25, 0.25);
+    row("outline of half a point", madeIn<RectangleElement>(2, 3, 6, 5), 0.25, 0.25);
   }
   void boundaryCoversWhatSymbolsAdd() {
     auto const [element, left, bottom] = fetched<_ptr_t<Element>, double, double>();
@@ -147,8 +130,7 @@ private slots:
       double GetMargin() const override { return 72; }
       _ptr_t<IMapGrid> Clone() const override { return make<LabelledGrid>(); }
     };
-    auto const frame = make<MapFrameElement>();
-    frame->SetGeometry(make<Envelope>(4.0, 4.0, 8.0, 8.0));
+    auto const frame = madeIn<MapFrameElement>(4.0, 4.0, 8.0, 8.0);
     frame->AddMapGrid(_ptr_t<IMapGrid>(new LabelledGrid));
     QVector<double> const labelled{4 - 2.54, 4 - 2.54, 8 + 2.54, 8 + 2.54};
     QCOMPARE(sides(frame->GetBoundary(pageView())), labelled);
@@ -187,8 +169,7 @@ private slots:
   }
 
   void onlyAFrameOnThePageTellsTheMapItsSize() {
-    auto const frame = make<MapFrameElement>();
-    frame->SetGeometry(make<Envelope>(0.0, 0.0, 10.0, 10.0));
+    auto const frame = madeIn<MapFrameElement>(0.0, 0.0, 10.0, 10.0);
     frame->setPlaced(true);
     auto const aspect = [&] {
       QRect const device = frame->GetMap()->GetDisplayTransformation()->GetDeviceFrame();

@@ -1,25 +1,16 @@
 #include "Files.h"
 #include "Pictures.h"
-#include "Rows.h"
+#include "Elements.h"
 
 #include "host/SysCarto/layout/ElementContainer.h"
-#include "host/SysCarto/layout/GraphicElements.h"
 #include "host/SysCarto/layout/PictureElement.h"
-#include "host/SysCarto/layout/TextElement.h"
 
-#include <SysCarto/GroupElement.h>
-#include <SysCarto/Map.h>
-#include <SysCarto/MapFrameElement.h>
 #include <SysCarto/Page.h>
-#include <SysCarto/SymbolFrameParts.h>
 
 #include <QTemporaryDir>
-#include <QtTest>
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 
@@ -38,12 +29,6 @@ Scene sceneOf(QList<_ptr_t<Element>> const& elements) {
     painter.setRenderHint(QPainter::Antialiasing);
     container->Draw(painter, transformation, 1, nullptr);
   };
-}
-
-template <class E>
-_ptr_t<E> in(_ptr_t<E> const& element, double xmin, double ymin, double xmax, double ymax) {
-  element->SetGeometry(make<Envelope>(xmin, ymin, xmax, ymax));
-  return element;
 }
 
 _ptr_t<MapFrameElement> framed(double rounding) {
@@ -69,7 +54,7 @@ _ptr_t<MapFrameElement> framedMap() {
   frame->setPlaced(true);
   IElementContainer* const graphics = frame->GetMap()->GetGraphicsContainer();
   for (int i = 0; i < 12; ++i) {
-    graphics->AddElement(in(make<EllipseElement>(), i * 170, i * 120, i * 170 + 300, i * 120 + 200));
+    graphics->AddElement(madeIn<EllipseElement>(i * 170, i * 120, i * 170 + 300, i * 120 + 200));
     auto const label = make<TextElement>();
     label->setText(QString("Label %1").arg(i));
     label->setPosition(i * 170, 1400 - i * 100);
@@ -125,9 +110,9 @@ private slots:
     row("rounded corners", sceneOf({framed(60)}));
     row("map with graphics and labels", sceneOf({framedMap()}));
     row("text with a halo", sceneOf({turnedText()}));
-    row("ellipse", sceneOf({in(make<EllipseElement>(), 0.3, 0.4, 7.1, 5.7)}));
+    row("ellipse", sceneOf({madeIn<EllipseElement>(0.3, 0.4, 7.1, 5.7)}));
     auto const group = make<GroupElement>();
-    group->AddElement(in(make<RectangleElement>(), 0.5, 0.5, 6.9, 2.47));
+    group->AddElement(madeIn<RectangleElement>(0.5, 0.5, 6.9, 2.47));
     group->AddElement(turnedText());
     row("group", sceneOf({group}));
     row("picture that is made smaller", sceneOf({picture("large.png")}));
@@ -187,7 +172,7 @@ private:
   QString path(QString const& name) const { return folder_.filePath(name); }
 
   _ptr_t<PictureElement> picture(QString const& name) const {
-    auto const element = in(make<PictureElement>(), 0.33, 0.41, 6.87, 5.36);
+    auto const element = madeIn<PictureElement>(0.33, 0.41, 6.87, 5.36);
     element->setPath(path(name));
     return element;
   }

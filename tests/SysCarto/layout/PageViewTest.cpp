@@ -1,14 +1,8 @@
 #include "RecordingSurface.h"
-#include "Rows.h"
+#include "Elements.h"
 
-#include "host/SysCarto/layout/GraphicElements.h"
-
-#include <SysCarto/Map.h>
-#include <SysCarto/MapSurroundFrame.h>
 #include <SysCarto/PageLayout.h>
 #include <SysDisplay/SimpleLineSymbol.h>
-
-#include <QtTest>
 
 #include <cmath>
 #include <limits>
@@ -16,8 +10,6 @@
 using namespace SysCarto;
 using SysDisplay::DisplayTransformation;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
-using SysUtility::make;
 
 namespace {
 
@@ -131,7 +123,6 @@ private slots:
     // shown: empty: as before
     Rows<QVector<double>, QVector<double>> row;
     double const nan = std::numeric_limits<double>::quiet_NaN(), inf = std::numeric_limits<double>::infinity();
-    using Sides = QVector<double>;
     row("a point is ignored", {3, 3, 3, 3}, {});
     row("not a number is ignored", {0, nan, 4, 3}, {});
     row("infinity is ignored", {0, 0, inf, 3}, {});

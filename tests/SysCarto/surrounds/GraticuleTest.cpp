@@ -1,14 +1,11 @@
 #include "Pictures.h"
-#include "Rows.h"
+#include "Elements.h"
 
 #include "host/SysUtility/Archive.h"
 
 #include <SysCarto/Graticule.h>
-#include <SysCarto/Map.h>
-#include <SysCarto/MapFrameElement.h>
 
 #include <QJsonObject>
-#include <QtTest>
 
 #include <cpl_error.h>
 
@@ -16,9 +13,6 @@
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 

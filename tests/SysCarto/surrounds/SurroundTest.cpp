@@ -1,22 +1,15 @@
 #include "Pictures.h"
-#include "Rows.h"
+#include "Elements.h"
 
 #include "host/SysCarto/document/CoordinateSystem.h"
 #include "host/SysCarto/layers/VectorLayer.h"
-#include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/TextElement.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysUtility/Archive.h"
 
-#include <SysCarto/GroupElement.h>
-#include <SysCarto/Map.h>
-#include <SysCarto/MapFrameElement.h>
-#include <SysCarto/MapSurroundFrame.h>
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
 
 #include <QJsonDocument>
-#include <QtTest>
 
 #include <geodesic.h>
 #include <ogr_spatialref.h>
@@ -25,9 +18,6 @@
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
-using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 

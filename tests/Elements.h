@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Test.h"
+
+#include "host/SysCarto/layout/GraphicElements.h"
+#include "host/SysCarto/layout/TextElement.h"
+
+#include <SysCarto/GroupElement.h>
+#include <SysCarto/Map.h>
+#include <SysCarto/MapFrameElement.h>
+#include <SysCarto/MapSurroundFrame.h>
+#include <SysCarto/SymbolFrameParts.h>
+
+/// The element, put into a rectangle.
+template <class Element>
+_ptr_t<Element> in(_ptr_t<Element> const& element, double xmin, double ymin, double xmax, double ymax) {
+  element->SetGeometry(make<SysGeometry::Envelope>(xmin, ymin, xmax, ymax));
+  return element;
+}
+
+/// A new one in a rectangle.
+template <class Element>
+_ptr_t<Element> madeIn(double xmin, double ymin, double xmax, double ymax) {
+  return in(make<Element>(), xmin, ymin, xmax, ymax);
+}
+
+/// A data frame that shows nothing yet, with a named map.
+inline _ptr_t<SysCarto::MapFrameElement> frameNamed(QString const& mapName) {
+  auto const frame = make<SysCarto::MapFrameElement>();
+  frame->GetMap()->SetName(mapName);
+  return frame;
+}
+
+inline QRectF placeOf(SysCarto::Element const& element) {
+  auto const box = element.GetEnvelope();
+  return {box->GetXMin(), box->GetYMin(), box->GetWidth(), box->GetHeight()};
+}
