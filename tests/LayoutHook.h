@@ -19,6 +19,14 @@ public:
   _ptr_t<SysCarto::PageLayout> GetPageLayout() override { return layout; }
   SysCarto::IKdxContents* GetContents() override { return nullptr; }
 
+  /// A command as a host binds it.
+  template <class Command>
+  _ptr_t<Command> bound() {
+    auto const command = make<Command>();
+    command->OnCreate(pointer());
+    return command;
+  }
+
   /// What `OnCreate` receives.
   void* pointer() { return static_cast<IApplicationHook*>(this); }
 

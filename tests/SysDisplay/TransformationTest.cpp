@@ -67,16 +67,6 @@ private slots:
     if (std::abs(exact.x()) < 1e6) QVERIFY(std::abs(exact.x() - pixel.x()) <= 0.5 + 1e-9);
   }
 
-  void pixelAndWorldAreInverse() {
-    DisplayTransformation transformation;
-    transformation.SetDeviceFrame(QRect(0, 0, 793, 1122));
-    transformation.SetVisibleBounds(box(QRectF(500000, 5200000, 12345, 6789)));
-    for (QPoint pixel : {QPoint(0, 0), QPoint(792, 1121), QPoint(-300, 4000)}) {
-      auto const world = transformation.ToMapPoint(pixel);
-      QCOMPARE(transformation.FromMapPoint(world->GetX(), world->GetY()), pixel);
-    }
-  }
-
   // Scales belong to their owner: neither bounds nor frame nor device may change them, and a clone keeps them.
   void scalesStay() {
     DisplayTransformation transformation;

@@ -2,8 +2,6 @@
 #include "Test.h"
 
 #include <SysUI/EnvironmentSetting.h>
-#include <SysUI/ICommand.h>
-#include <SysUI/ITool.h>
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -11,35 +9,6 @@
 using namespace SysUI;
 
 namespace {
-
-class Hand final : public ICommand, public ITool {
-public:
-  ~Hand() override { destroyed = true; }
-  static inline bool destroyed = false;
-
-  QString GetName() override { return {}; }
-  QString GetCaption() override { return {}; }
-  QString GetToolTip() override { return {}; }
-  QString GetTypeName() override { return {}; }
-  bool IsEnable() override { return true; }
-  bool IsChecked() override { return false; }
-  void OnCreate(void*) override {}
-  void OnClick() override {}
-  QCursor GetCursor() override { return {}; }
-  bool Activate() override { return true; }
-  bool Deactivate() override { return true; }
-  bool OnContextMenu(QContextMenuEvent*) override { return false; }
-  void OnDblClick(QMouseEvent*) override {}
-  void OnKeyDown(QKeyEvent*) override {}
-  void OnKeyUp(QKeyEvent*) override {}
-  void OnMouseDown(QMouseEvent*) override {}
-  void OnMouseMove(QMouseEvent*) override {}
-  void OnMouseUp(QMouseEvent*) override {}
-  void JustMouseMove(QMouseEvent*) override {}
-  void OnEnterEvent(QEvent*) override {}
-  void OnLeaveEvent(QEvent*) override {}
-  bool OnWheelEvent(QWheelEvent*) override { return false; }
-};
 
 QString setting(char const* key) { return EnvironmentSetting::Instance()->GetPropertyValue("PATH", key); }
 
@@ -49,16 +18,6 @@ class UiTest : public QObject {
   Q_OBJECT
 
 private slots:
-  void aToolHasOneCountForBothFaces() {
-    _ptr_t<ICommand> command = make<Hand>();
-    _ptr_t<ITool> tool = ptr_cast<ITool>(command);
-    QVERIFY(tool);
-    command = nullptr;
-    QVERIFY(!Hand::destroyed);
-    tool = nullptr;
-    QVERIFY(Hand::destroyed);
-  }
-
   void aSettingComesBackAsOneText_data() {
     Rows<QByteArray, QString> row;
     row("a list without quotation marks", "k=/a.style,/b.style", "/a.style,/b.style");

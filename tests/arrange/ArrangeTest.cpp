@@ -274,8 +274,7 @@ private slots:
   }
 
   void theToggleIsCheckedByTheLayoutItself() {
-    auto const toggle = make<Plugin::AlignToMarginsElement>();
-    toggle->OnCreate(hook_->pointer());
+    auto const toggle = hook_->bound<Plugin::AlignToMarginsElement>();
     toggle->OnClick();
     QVERIFY(toggle->IsChecked());
     hook_->view = make<Map>();

@@ -1,7 +1,6 @@
+#include "Elements.h"
 #include "Files.h"
-#include "Test.h"
 
-#include "host/SysCarto/layout/GraphicElements.h"
 #include "host/desktop/CommandCatalogue.h"
 #include "host/desktop/DialogAnswers.h"
 #include "host/desktop/Icons.h"
@@ -129,13 +128,10 @@ private slots:
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     auto const layout = window.bench().session().document().GetPageLayout();
-    QVector<int> handles;
     for (int i = 0; i < 6; ++i) {
-      auto const box = make<SysCarto::RectangleElement>();
       double const x = 2 + i * 2.9, y = 4 + (i * 7) % 17;
-      box->SetGeometry(make<SysGeometry::Envelope>(x, y, x + 1.2 + 0.2 * i, y + 2.6 - 0.2 * i));
-      layout->GetGraphicsContainer()->AddElement(box);
-      handles << box->GetHandle();
+      layout->GetGraphicsContainer()->AddElement(
+          madeIn<SysCarto::RectangleElement>(x, y, x + 1.2 + 0.2 * i, y + 2.6 - 0.2 * i));
     }
     auto& view = window.bench().views().layoutView();
     view.refresh(SysCarto::ViewSurface::everything);
@@ -148,10 +144,7 @@ private slots:
     auto const pixel = [&](double x, double y) { return layout->GetDisplayTransformation()->FromMapPoint(x, y); };
     auto const boxes = [&] {
       QVector<QRectF> rectangles;
-      for (auto const& element : layout->GetGraphicsContainer()->GetElements()) {
-        auto const box = element->GetEnvelope();
-        rectangles << QRectF(box->GetXMin(), box->GetYMin(), box->GetWidth(), box->GetHeight());
-      }
+      for (auto const& element : layout->GetGraphicsContainer()->GetElements()) rectangles << placeOf(*element);
       return rectangles;
     };
 

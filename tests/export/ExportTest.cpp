@@ -198,10 +198,9 @@ private slots:
     auto const layout = emptyLayout(21.0, 29.7);
     QTemporaryDir folder;
     auto const hook = make<LayoutHook>(layout);
-    ExportCommand command;
-    command.OnCreate(hook->pointer());
-    command.GetProgressBar();
-    QVERIFY(command.OutputOtherPicture(folder.filePath("page.png"), 96, nullptr, report, nullptr));
+    auto const command = hook->bound<ExportCommand>();
+    command->GetProgressBar();
+    QVERIFY(command->OutputOtherPicture(folder.filePath("page.png"), 96, nullptr, report, nullptr));
     QCOMPARE(reported.size(), 7);
     QCOMPARE(reported[0], 0.0);
     QCOMPARE(reported[1], 0.0);
@@ -216,12 +215,11 @@ private slots:
     auto const layout = emptyLayout(5.0, 5.0);
     QTemporaryDir folder;
     auto const hook = make<LayoutHook>(layout);
-    ExportCommand command;
-    command.OnCreate(hook->pointer());
-    command.GetProgressBar();
+    auto const command = hook->bound<ExportCommand>();
+    command->GetProgressBar();
     auto const cancel = make<TrackerCancel>();
     cancel->Cancel();
-    QVERIFY(command.OutputOtherPicture(folder.filePath("page.png"), 100, cancel, report, nullptr));
+    QVERIFY(command->OutputOtherPicture(folder.filePath("page.png"), 100, cancel, report, nullptr));
     QCOMPARE(reported, QVector<double>{0.0});
     QCOMPARE(QImage(folder.filePath("page.png")).pixelColor(50, 50), QColor(Qt::black));
   }
@@ -238,29 +236,27 @@ private slots:
     auto const layout = hasPage ? emptyLayout(5.0, 5.0) : make<PageLayout>();
     QTemporaryDir folder;
     auto const hook = make<LayoutHook>(layout);
-    ExportCommand command;
-    command.OnCreate(hook->pointer());
-    command.GetProgressBar();
-    QVERIFY(!command.OutputOtherPicture(folder.filePath(name), dpi, nullptr, report, nullptr));
+    auto const command = hook->bound<ExportCommand>();
+    command->GetProgressBar();
+    QVERIFY(!command->OutputOtherPicture(folder.filePath(name), dpi, nullptr, report, nullptr));
     QVERIFY(reported.isEmpty());
     QVERIFY(QDir(folder.path()).isEmpty());
   }
 
   void theProgressDialogIsMadeOnceAndShared() {
     auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
-    ExportCommand command;
-    command.OnCreate(hook->pointer());
-    QProgressDialog* const dialog = command.GetProgressBar();
-    QCOMPARE(command.GetProgressBar(), dialog);
+    auto const command = hook->bound<ExportCommand>();
+    QProgressDialog* const dialog = command->GetProgressBar();
+    QCOMPARE(command->GetProgressBar(), dialog);
     QVERIFY(dialog->windowFlags() & Qt::FramelessWindowHint);
     QCOMPARE(dialog->windowModality(), Qt::WindowModal);
-    QVERIFY(ExportCommand::DrawProgressCallback(41.9, "", &command));
+    QVERIFY(ExportCommand::DrawProgressCallback(41.9, "", command.get()));
     QCOMPARE(dialog->value(), 41);
     QVERIFY(dialog->isVisible());
-    QVERIFY(ExportCommand::CopyProgressCallback(0.429, "", &command));
+    QVERIFY(ExportCommand::CopyProgressCallback(0.429, "", command.get()));
     QCOMPARE(dialog->value(), 42);
-    { ExportCommand const copy(command); }
-    QCOMPARE(command.GetProgressBar(), dialog);
+    { ExportCommand const copy(*command); }
+    QCOMPARE(command->GetProgressBar(), dialog);
   }
 };
 

@@ -100,20 +100,6 @@ private slots:
     }
     QVERIFY(QDir(folder.path()).isEmpty());
   }
-
-  void whatCannotBeCreatedLeavesNothing_data() {
-    Rows<QString, QSize> row;
-    row("a folder that is not there", "nowhere/map.png", QSize(8, 8));
-    row("an image without pixels", "map.png", QSize(0, 0));
-  }
-
-  void whatCannotBeCreatedLeavesNothing() {
-    auto const [name, size] = fetched<QString, QSize>();
-    QTemporaryDir folder;
-    RasterWriter writer(folder.filePath(name));
-    QVERIFY(!writer.create(size));
-    QVERIFY(QDir(folder.path()).isEmpty());
-  }
 };
 
 QTEST_GUILESS_MAIN(RasterWriterTest)

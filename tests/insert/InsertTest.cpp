@@ -100,13 +100,12 @@ private slots:
 
   // First of all tests that add data frames: the offset belongs to the process.
   void framesCascadeByTwoUpToThirty() {
-    AddMapFrameElementTool command;
-    command.OnCreate(hook_->pointer());
+    auto const command = hook_->bound<AddMapFrameElementTool>();
     auto const expected = layout()->GetDefaultDataFrameEnvelope();
     for (int click = 1; click <= 17; ++click) {
       AddMapFrameElementTool other;  // another instance goes on where this one stopped
       other.OnCreate(hook_->pointer());
-      (click % 2 ? command : other).OnClick();
+      (click % 2 ? *command : other).OnClick();
       int const offset = click == 16 ? 0 : click == 17 ? 2 : 2 * click;
       auto const shifted = layout()->GetDefaultDataFrameEnvelope();
       shifted->Offset(offset, offset);
@@ -367,17 +366,16 @@ private slots:
 
   void conversionIsForConvertibleKinds() {
     auto const [kind, convertible] = fetched<int, bool>();
-    ConvertToGraphics command;
-    command.OnCreate(hook_->pointer());
-    QVERIFY(!command.IsEnable());
-    command.OnClick();
+    auto const command = hook_->bound<ConvertToGraphics>();
+    QVERIFY(!command->IsEnable());
+    command->OnClick();
     QCOMPARE(log_, CallLog());
     auto const text = make<TextElement>();
     container()->AddElements({text, surround(kind, 1)});
     container()->SelectElement(text);
-    QVERIFY(!command.IsEnable());
+    QVERIFY(!command->IsEnable());
     container()->SelectElement(elements().last());
-    QCOMPARE(command.IsEnable(), convertible);
+    QCOMPARE(command->IsEnable(), convertible);
   }
 
 private:
@@ -387,9 +385,8 @@ private:
 
   template <class Command>
   void click() {
-    Command command;
-    command.OnCreate(hook_->pointer());
-    command.OnClick();
+    auto const command = hook_->bound<Command>();
+    command->OnClick();
   }
 
   template <class Command>

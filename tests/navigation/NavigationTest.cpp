@@ -122,10 +122,8 @@ private slots:
   }
 
   void theHistoryStepsBackAndForth() {
-    auto const previous = make<Plugin::ZoomToPreviousExtentCommand>();
-    auto const next = make<Plugin::ZoomToNextExtentCommand>();
-    previous->OnCreate(hook_->pointer());
-    next->OnCreate(hook_->pointer());
+    auto const previous = hook_->bound<Plugin::ZoomToPreviousExtentCommand>();
+    auto const next = hook_->bound<Plugin::ZoomToNextExtentCommand>();
     drag(make<Plugin::PageZoomInTool>(), {500, 375}, {900, 675});
     QVERIFY(previous->IsEnable() && !next->IsEnable());
     previous->OnClick();
@@ -136,10 +134,8 @@ private slots:
   }
 
   void wholePageAndRatioOne() {
-    auto const whole = make<Plugin::PageFullExtent>();
-    auto const origin = make<Plugin::PageZoomToOrigin>();
-    whole->OnCreate(hook_->pointer());
-    origin->OnCreate(hook_->pointer());
+    auto const whole = hook_->bound<Plugin::PageFullExtent>();
+    auto const origin = hook_->bound<Plugin::PageZoomToOrigin>();
     whole->OnClick();
     auto const extent = hook_->layout->GetExtent();
     QVERIFY(extent->GetXMin() <= 0.0 && extent->GetXMax() >= 20.0 && extent->GetYMin() <= 0.0 &&

@@ -76,14 +76,6 @@ void atNextDialog(std::function<void(QDialog&)> const& act) {
   });
 }
 
-bool isNear(double a, double b) { return std::abs(a - b) < 1e-9; }
-
-bool hasCoords(_ptr_t<Element> const& element, double xmin, double ymin, double xmax, double ymax) {
-  auto const is = element->GetEnvelope();
-  return isNear(is->GetXMin(), xmin) && isNear(is->GetYMin(), ymin) && isNear(is->GetXMax(), xmax) &&
-         isNear(is->GetYMax(), ymax);
-}
-
 }  // namespace
 
 class PageSetupTest : public QObject {
@@ -190,9 +182,9 @@ private slots:
     person.type("lineEdit_PageHeight", "30.0");
     tab.ApplyToPage();
 
-    QVERIFY(moved ? hasCoords(frame, 4.0, 3.0, 24.0, 18.0) : hasCoords(frame, 2.0, 1.0, 12.0, 6.0));
+    QCOMPARE(placeOf(*frame), moved ? QRectF(4, 3, 20, 15) : QRectF(2, 1, 10, 5));
     // The centre (5, 5) goes to (10, 15); the size stays.
-    QVERIFY(moved ? hasCoords(picture, 9.0, 12.0, 11.0, 18.0) : hasCoords(picture, 4.0, 2.0, 6.0, 8.0));
+    QCOMPARE(placeOf(*picture), moved ? QRectF(9, 12, 2, 6) : QRectF(4, 2, 2, 6));
     QVERIFY(frame->IsLocked());
     QVERIFY2(PageSizeTabPage(layout, nullptr).findChild<QCheckBox*>()->isChecked() == wanted,
              "the next tab shows the option as it was left");
@@ -216,9 +208,8 @@ private slots:
     layout->setSurface(&surface);
     layout->SetExtent(make<Envelope>(1.0, 1.0, 2.0, 2.0));
     auto const hook = make<LayoutHook>(layout);
-    Plugin::PageSettingCommand command;
-    command.OnCreate(hook->pointer());
-    QVERIFY(command.IsEnable());
+    auto const command = hook->bound<Plugin::PageSettingCommand>();
+    QVERIFY(command->IsEnable());
 
     atNextDialog([&buttons = buttons, changes = changes](QDialog& dialog) {
       Person const person(dialog);
@@ -231,7 +222,7 @@ private slots:
         person.press(qPrintable("pushButton_" + button));
       }
     });
-    command.OnClick();
+    command->OnClick();
 
     QCOMPARE(layout->GetPage()->GetFormID(), formNamed(applied ? "A3" : "A4"));
     QCOMPARE(calls.count("refresh 255"), redraws);
@@ -283,13 +274,12 @@ private slots:
   // A dialog would wait for an answer.
   void withoutALayoutOrItsPageNoDialogOpens() {
     auto const hook = make<LayoutHook>(make<PageLayout>());
-    Plugin::PageSettingCommand command;
-    command.OnCreate(hook->pointer());
-    QVERIFY(command.IsEnable());
-    command.OnClick();
+    auto const command = hook->bound<Plugin::PageSettingCommand>();
+    QVERIFY(command->IsEnable());
+    command->OnClick();
     hook->view = make<Map>();
-    QVERIFY(!command.IsEnable());
-    command.OnClick();
+    QVERIFY(!command->IsEnable());
+    command->OnClick();
   }
 };
 

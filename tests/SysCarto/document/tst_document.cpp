@@ -180,13 +180,6 @@ private slots:
     QVERIFY2(refused("bad.kdx").contains(complaint), qPrintable(refused("bad.kdx")));
   }
 
-  void aCutFileIsRefusedWhereverItIsCut() {
-    for (int length = 0; length < sample_.size() - 2; length += 100) {
-      put(path("cut.kdx"), sample_.left(length));
-      QVERIFY2(refused("cut.kdx").contains("this is not JSON"), qPrintable(QString::number(length)));
-    }
-  }
-
   void whatIsNoFileIsRefused() {
     QVERIFY(refused("missing.kdx").contains("no such file"));
     QVERIFY(refused(".").contains("is a folder"));

@@ -121,22 +121,6 @@ private slots:
     }
   }
 
-  void gridLabelsWidenTheBoundary() {
-    struct LabelledGrid final : IMapGrid {
-      QString GetName() const override { return {}; }
-      void SetName(QString const&) override {}
-      void Draw(QPainter&, _ptr_t<SysUI::TrackerCancel> const&, _ptr_t<DisplayTransformation> const&,
-                _ptr_t<MapFrameElement> const&) override {}
-      double GetMargin() const override { return 72; }
-      _ptr_t<IMapGrid> Clone() const override { return make<LabelledGrid>(); }
-    };
-    auto const frame = madeIn<MapFrameElement>(4.0, 4.0, 8.0, 8.0);
-    frame->AddMapGrid(_ptr_t<IMapGrid>(new LabelledGrid));
-    QVector<double> const labelled{4 - 2.54, 4 - 2.54, 8 + 2.54, 8 + 2.54};
-    QCOMPARE(sides(frame->GetBoundary(pageView())), labelled);
-    QCOMPARE(sides(frame->Clone()->GetBoundary(pageView())), labelled);
-  }
-
   void textScalesItsFontByTheFirstFactorAlone() {
     auto const element = ptr_cast<TextElement>(text("Plan", 4, 5));
     auto const shared = element->symbol();
