@@ -9,7 +9,6 @@
 #include <SysDisplay/SimpleLineSymbol.h>
 #include <SysGeometry/MultiPolyline.h>
 #include <SysGeometry/Polygon.h>
-#include <SysGeometry/Polyline.h>
 
 #include <cmath>
 

@@ -3,7 +3,6 @@
 
 #include <SysUI/EnvironmentSetting.h>
 
-#include <QDir>
 #include <QTemporaryDir>
 
 using namespace SysUI;

@@ -2,6 +2,7 @@
 
 #include "Elements.h"
 
+#include "host/desktop/Session.h"
 #include "host/desktop/Workbench.h"
 
 #include <QApplication>

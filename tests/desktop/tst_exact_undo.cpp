@@ -1,7 +1,5 @@
 #include "desktop/WorkbenchPage.h"
 
-#include "host/desktop/Session.h"
-
 #include <random>
 
 using SysCarto::MapFrameElement;

@@ -1,7 +1,5 @@
 #include "desktop/WorkbenchPage.h"
 
-#include "host/desktop/Session.h"
-
 using SysCarto::MapFrameElement;
 using SysCarto::RectangleElement;
 

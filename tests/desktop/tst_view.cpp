@@ -3,7 +3,6 @@
 
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/desktop/PagePicture.h"
-#include "host/desktop/Session.h"
 
 using SysCarto::MapFrameElement;
 using SysGeometry::Envelope;

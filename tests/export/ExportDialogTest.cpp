@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>

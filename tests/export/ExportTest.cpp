@@ -56,6 +56,20 @@ int report(double percent, char const*, void*) {
   return 1;
 }
 
+// A page that is exported into a folder of its own.
+struct Export {
+  explicit Export(_ptr_t<PageLayout> const& layout) : hook(make<LayoutHook>(layout)) { command->GetProgressBar(); }
+
+  bool run(QString const& name, int dpi, _ptr_t<TrackerCancel> const& cancel = nullptr) const {
+    return command->OutputOtherPicture(folder.filePath(name), dpi, cancel, report, nullptr);
+  }
+  QStringList files() const { return QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+
+  QTemporaryDir folder;
+  _ptr_t<LayoutHook> hook;
+  _ptr_t<ExportCommand> command = hook->bound<ExportCommand>();
+};
+
 }  // namespace
 
 class ExportTest : public QObject {
@@ -195,33 +209,25 @@ private slots:
   }
 
   void progressCountsTheTilesBegun() {
-    auto const layout = emptyLayout(21.0, 29.7);
-    QTemporaryDir folder;
-    auto const hook = make<LayoutHook>(layout);
-    auto const command = hook->bound<ExportCommand>();
-    command->GetProgressBar();
-    QVERIFY(command->OutputOtherPicture(folder.filePath("page.png"), 96, nullptr, report, nullptr));
+    Export const page(emptyLayout(21.0, 29.7));
+    QVERIFY(page.run("page.png", 96));
     QCOMPARE(reported.size(), 7);
     QCOMPARE(reported[0], 0.0);
     QCOMPARE(reported[1], 0.0);
     QCOMPARE(reported[6], 5 / 6.0 * 100.0);
-    QImage const image(folder.filePath("page.png"));
+    QImage const image(page.folder.filePath("page.png"));
     QCOMPARE(image.size(), QSize(793, 1122));
     QCOMPARE(image.pixelColor(400, 600), QColor(Qt::white));
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("page.png"));
+    QCOMPARE(page.files(), QStringList("page.png"));
   }
 
   void aCancelledExportIsStillWrittenAndBlack() {
-    auto const layout = emptyLayout(5.0, 5.0);
-    QTemporaryDir folder;
-    auto const hook = make<LayoutHook>(layout);
-    auto const command = hook->bound<ExportCommand>();
-    command->GetProgressBar();
+    Export const page(emptyLayout(5.0, 5.0));
     auto const cancel = make<TrackerCancel>();
     cancel->Cancel();
-    QVERIFY(command->OutputOtherPicture(folder.filePath("page.png"), 100, cancel, report, nullptr));
+    QVERIFY(page.run("page.png", 100, cancel));
     QCOMPARE(reported, QVector<double>{0.0});
-    QCOMPARE(QImage(folder.filePath("page.png")).pixelColor(50, 50), QColor(Qt::black));
+    QCOMPARE(QImage(page.folder.filePath("page.png")).pixelColor(50, 50), QColor(Qt::black));
   }
 
   void whatCannotBeExportedAnswersFalseAndLeavesNothing_data() {
@@ -233,14 +239,10 @@ private slots:
 
   void whatCannotBeExportedAnswersFalseAndLeavesNothing() {
     auto const [name, dpi, hasPage] = fetched<QString, int, bool>();
-    auto const layout = hasPage ? emptyLayout(5.0, 5.0) : make<PageLayout>();
-    QTemporaryDir folder;
-    auto const hook = make<LayoutHook>(layout);
-    auto const command = hook->bound<ExportCommand>();
-    command->GetProgressBar();
-    QVERIFY(!command->OutputOtherPicture(folder.filePath(name), dpi, nullptr, report, nullptr));
+    Export const page(hasPage ? emptyLayout(5.0, 5.0) : make<PageLayout>());
+    QVERIFY(!page.run(name, dpi));
     QVERIFY(reported.isEmpty());
-    QVERIFY(QDir(folder.path()).isEmpty());
+    QCOMPARE(page.files(), QStringList());
   }
 
   void theProgressDialogIsMadeOnceAndShared() {

@@ -8,9 +8,7 @@
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/StyleLibrary.h"
 
-#include <SysAdapterUI/StyleSelectorDlg.h>
 #include <SysCarto/Graticule.h>
-#include <SysDisplay/SimpleLineSymbol.h>
 #include <SysUI/EnvironmentSetting.h>
 
 #include <QMessageBox>

@@ -4,8 +4,6 @@
 #include "pagesetup/PageSettingsDlg.h"
 #include "pagesetup/PageSizeTabPage.h"
 
-#include <SysAdapterUI/FramePropertyWidget.h>
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,7 +19,6 @@
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
-using SysGeometry::Point;
 
 namespace {
 

@@ -2,7 +2,6 @@
 
 #include "host/SysCarto/layers/LayerArchive.h"
 
-#include <QDir>
 #include <QJsonDocument>
 
 using namespace SysCarto;

@@ -1,26 +1,15 @@
 #include "Elements.h"
+#include "Json.h"
 
 #include "host/SysCarto/layout/ElementArchive.h"
 #include "host/SysCarto/layout/PictureElement.h"
 
-#include <SysCarto/Graticule.h>
-
 #include <QJsonDocument>
 
-#include <optional>
-
 using namespace SysCarto;
-using SysGeometry::Envelope;
 using SysUtility::Archive;
 
 namespace {
-
-QJsonObject json(QByteArray text) {
-  QJsonParseError error;
-  QJsonDocument const document = QJsonDocument::fromJson(text.replace('\'', '"'), &error);
-  if (error.error != QJsonParseError::NoError) qFatal("%s in %s", qPrintable(error.errorString()), text.data());
-  return document.object();
-}
 
 DocumentContext contextWith(int maps) {
   DocumentContext context;

@@ -3,12 +3,9 @@
 
 #include "host/SysCarto/layout/PictureElement.h"
 
-#include <SysCarto/Graticule.h>
-
 #include <cmath>
 
 using namespace SysCarto;
-using SysDisplay::DisplayTransformation;
 using SysGeometry::Envelope;
 using SysGeometry::Point;
 

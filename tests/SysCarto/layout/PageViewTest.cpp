@@ -8,7 +8,6 @@
 #include <limits>
 
 using namespace SysCarto;
-using SysDisplay::DisplayTransformation;
 using SysGeometry::Envelope;
 
 namespace {

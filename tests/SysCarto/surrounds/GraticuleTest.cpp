@@ -9,8 +9,6 @@
 
 #include <cpl_error.h>
 
-#include <cmath>
-
 using namespace SysCarto;
 using SysGeometry::Envelope;
 

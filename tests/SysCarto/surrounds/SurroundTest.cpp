@@ -1,5 +1,6 @@
-#include "Pictures.h"
 #include "Elements.h"
+#include "Json.h"
+#include "Pictures.h"
 
 #include "host/SysCarto/document/CoordinateSystem.h"
 #include "host/SysCarto/layers/VectorLayer.h"
@@ -8,8 +9,6 @@
 
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
-
-#include <QJsonDocument>
 
 #include <geodesic.h>
 #include <ogr_spatialref.h>
@@ -40,10 +39,10 @@ void addLayer(Map& map, QString const& name, _ptr_t<SysDisplay::Symbol> const& s
 }
 
 template <class Surround>
-_ptr_t<MapSurroundFrame> framed(_ptr_t<Map> const& map, Envelope const& rectangle, QByteArray settings = "{}") {
+_ptr_t<MapSurroundFrame> framed(_ptr_t<Map> const& map, Envelope const& rectangle, QByteArray const& settings = "{}") {
   auto const surround = make<Surround>();
   surround->SetMap(map);
-  SysUtility::Archive archive(QJsonDocument::fromJson(settings.replace('\'', '"')).object());
+  SysUtility::Archive archive(json(settings));
   surround->describe(archive);
   if (!archive.ok()) qFatal("%s", qPrintable(archive.error()));
   auto const frame = make<MapSurroundFrame>();
