@@ -31,6 +31,15 @@ inline _ptr_t<SysCarto::MapFrameElement> frameNamed(QString const& mapName) {
   return frame;
 }
 
+/// A surround of the map in its frame.
+template <class Surround>
+_ptr_t<SysCarto::MapSurroundFrame> surroundOf(_ptr_t<SysCarto::Map> const& map) {
+  auto const frame = make<SysCarto::MapSurroundFrame>();
+  frame->SetMapSurround(make<Surround>());
+  frame->GetMapSurround()->SetMap(map);
+  return frame;
+}
+
 inline QRectF placeOf(SysCarto::Element const& element) {
   auto const box = element.GetEnvelope();
   return {box->GetXMin(), box->GetYMin(), box->GetWidth(), box->GetHeight()};

@@ -1,16 +1,15 @@
+#include "Dialogs.h"
 #include "Test.h"
 
 #include <SysAdapterUI/FramePropertyWidget.h>
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
 
-#include <QApplication>
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
 #include <QPushButton>
-#include <QTimer>
 
 #include <functional>
 
@@ -40,11 +39,9 @@ Edit noStyle(char const* box) {
 
 Edit color(char const* button, QColor const& wanted) {
   return [=](FramePropertyWidget& widget) {
-    QTimer::singleShot(0, [=] {
-      auto* const dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-      QVERIFY(dialog);
-      dialog->setCurrentColor(wanted);
-      dialog->accept();
+    answerDialog([=](QWidget& dialog) {
+      dynamic_cast<QColorDialog&>(dialog).setCurrentColor(wanted);
+      static_cast<QDialog&>(dialog).accept();
     });
     QTest::mouseClick(widget.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
   };

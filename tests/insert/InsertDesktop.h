@@ -1,14 +1,13 @@
 #pragma once
 
+#include "Dialogs.h"
 #include "LayoutHook.h"
 #include "RecordingSurface.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
 #include <SysFramework/IDesktop.h>
 
-#include <QApplication>
 #include <QStringList>
-#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -40,12 +39,3 @@ public:
 private:
   CallLog& log_;
 };
-
-/// Does something with the dialog that is going to be shown, as a person would.
-inline void answerDialog(std::function<void(QWidget&)> const& answer) {
-  QTimer::singleShot(0, [answer] {
-    QWidget* const dialog = QApplication::activeModalWidget();
-    if (dialog) return answer(*dialog);
-    answerDialog(answer);
-  });
-}

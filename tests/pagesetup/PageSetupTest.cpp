@@ -1,10 +1,10 @@
+#include "Dialogs.h"
 #include "LayoutHook.h"
 #include "RecordingSurface.h"
 #include "pagesetup/PageSettingCommand.h"
 #include "pagesetup/PageSettingsDlg.h"
 #include "pagesetup/PageSizeTabPage.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -13,7 +13,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
-#include <QTimer>
 
 #include <functional>
 
@@ -62,16 +61,6 @@ struct Person {
 
   QWidget& shown;
 };
-
-// What a person does to the modal dialog that comes next.
-void atNextDialog(std::function<void(QDialog&)> const& act) {
-  QTimer::singleShot(0, [act] {
-    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    QVERIFY(dialog);
-    act(*dialog);
-    dialog->close();
-  });
-}
 
 }  // namespace
 
@@ -208,7 +197,7 @@ private slots:
     auto const command = hook->bound<Plugin::PageSettingCommand>();
     QVERIFY(command->IsEnable());
 
-    atNextDialog([&buttons = buttons, changes = changes](QDialog& dialog) {
+    answerDialog([&buttons = buttons, changes = changes](QWidget& dialog) {
       Person const person(dialog);
       QVERIFY(!(dialog.windowFlags() & Qt::WindowContextHelpButtonHint));
       QCOMPARE(person.find<QTabWidget>("tabWidget")->count(), 2);
@@ -218,6 +207,7 @@ private slots:
         QCOMPARE(person.find<QPushButton>("pushButton_Apply")->isEnabled(), changes && buttons.first() == button);
         person.press(qPrintable("pushButton_" + button));
       }
+      dialog.close();
     });
     command->OnClick();
 

@@ -37,12 +37,8 @@ _ptr_t<MapFrameElement> frameOf(QString const& name, QString const& coordinateSy
 }
 
 template <class Surround>
-_ptr_t<MapSurroundFrame> surroundOf(_ptr_t<Map> const& map) {
-  auto const frame = make<MapSurroundFrame>();
-  frame->SetMapSurround(make<Surround>());
-  frame->GetMapSurround()->SetMap(map);
-  frame->SetGeometry(make<Envelope>(1.0, 2.0, 6.5, 4.1));
-  return frame;
+_ptr_t<MapSurroundFrame> surround(_ptr_t<Map> const& map) {
+  return in(surroundOf<Surround>(map), 1.0, 2.0, 6.5, 4.1);
 }
 
 // A page with one of everything that refers to something else, and with numbers that no short decimal hits.
@@ -60,8 +56,8 @@ void fill(PageLayout& layout) {
   layout.GetPage()->SetBorder(make<SymbolBorder>());
   layout.GetPage()->SetOrientation(2);
   for (_ptr_t<Element> const& element : QList<_ptr_t<Element>>{
-           world, plan, group, surroundOf<ScaleLine>(plan->GetMap()), surroundOf<Legend>(world->GetMap()),
-           surroundOf<MarkerNorthArrow>(world->GetMap()), surroundOf<ScaleText>(nullptr)})
+           world, plan, group, surround<ScaleLine>(plan->GetMap()), surround<Legend>(world->GetMap()),
+           surround<MarkerNorthArrow>(world->GetMap()), surround<ScaleText>(nullptr)})
     layout.GetGraphicsContainer()->AddElement(element);
   layout.SetAlignToMargins(true);
   layout.SetFocusMap(plan->GetMap());

@@ -166,12 +166,9 @@ private slots:
   }
 
   void cloneOfASurroundFrameHasASurroundOfItsOwn() {
-    auto const frame = make<MapSurroundFrame>();
     auto const map = make<Map>();
-    frame->SetMapSurround(make<ScaleText>());
-    frame->GetMapSurround()->SetMap(map);
-    auto const copy = ptr_cast<MapSurroundFrame>(frame->Clone());
-    copy->SetGeometry(make<Envelope>(1.0, 2.0, 3.0, 4.0));
+    auto const frame = surroundOf<ScaleText>(map);
+    auto const copy = in(ptr_cast<MapSurroundFrame>(frame->Clone()), 1.0, 2.0, 3.0, 4.0);
     QVERIFY(copy->GetMapSurround() != frame->GetMapSurround());
     QVERIFY(copy->GetMapSurround()->GetMap() == map);
     QCOMPARE(copy->GetMapSurround()->rectangle().GetXMax(), 3.0);

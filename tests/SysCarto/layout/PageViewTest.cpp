@@ -1,5 +1,5 @@
 #include "RecordingSurface.h"
-#include "Elements.h"
+#include "LayoutHook.h"
 
 #include <SysCarto/PageLayout.h>
 #include <SysDisplay/SimpleLineSymbol.h>
@@ -12,12 +12,7 @@ using SysGeometry::Envelope;
 
 namespace {
 
-_ptr_t<PageLayout> newLayout() {
-  auto const layout = make<PageLayout>();
-  layout->SetPage(make<Page>());
-  layout->ZoomToWholePage();
-  return layout;
-}
+_ptr_t<PageLayout> newLayout() { return emptyLayout(21.0, 29.7); }
 
 _ptr_t<Envelope> square(double x, double y, double size) { return make<Envelope>(x, y, x + size, y + size); }
 
@@ -32,9 +27,7 @@ _ptr_t<MapFrameElement> addFrame(PageLayout& layout) {
 }
 
 _ptr_t<MapSurround> addLegend(PageLayout& layout, _ptr_t<Map> const& map) {
-  auto const frame = make<MapSurroundFrame>();
-  frame->SetMapSurround(make<Legend>());
-  frame->GetMapSurround()->SetMap(map);
+  auto const frame = surroundOf<Legend>(map);
   layout.GetGraphicsContainer()->AddElement(frame);
   return frame->GetMapSurround();
 }
