@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <cmath>
+#include <functional>
 
 using namespace SysUtility;
 
@@ -208,23 +209,28 @@ private slots:
   }
 
   void whatCouldNotBeReadAgainIsAProblemWhenWriting_data() {
-    Rows<int, QString> row;
-    row("not a number", 0, "width");
-    row("a default field that is not a number", 1, "scale");
-    row("an integer out of range", 2, "copies");
-    row("a choice without a name", 3, "side");
-    row("an infinite coordinate", 4, "outline[1]");
-    row("more entries than are read", 5, "inner");
+    Rows<std::function<void(Sheet&)>, QString> row;
+    row(
+        "not a number", [](Sheet& sheet) { sheet.width = noNumber; }, "width");
+    row(
+        "a default field that is not a number", [](Sheet& sheet) { sheet.scale = noNumber; }, "scale");
+    row(
+        "an integer out of range", [](Sheet& sheet) { sheet.copies = 6; }, "copies");
+    row(
+        "a choice without a name", [](Sheet& sheet) { sheet.side = static_cast<Side>(7); }, "side");
+    row(
+        "an infinite coordinate",
+        [](Sheet& sheet) {
+          sheet.outline = {0, HUGE_VAL};
+        },
+        "outline[1]");
+    row(
+        "more entries than are read", [](Sheet& sheet) { sheet.inner.resize(3); }, "inner");
   }
   void whatCouldNotBeReadAgainIsAProblemWhenWriting() {
-    auto const [fault, path] = fetched<int, QString>();
+    auto const [spoil, path] = fetched<std::function<void(Sheet&)>, QString>();
     Sheet sheet;
-    if (fault == 0) sheet.width = noNumber;
-    if (fault == 1) sheet.scale = noNumber;
-    if (fault == 2) sheet.copies = 6;
-    if (fault == 3) sheet.side = static_cast<Side>(7);
-    if (fault == 4) sheet.outline = {0, HUGE_VAL};
-    if (fault == 5) sheet.inner.resize(3);
+    spoil(sheet);
     Archive archive;
     describe(archive, sheet);
     QVERIFY2(archive.error().startsWith(path + ": "), qUtf8Printable(archive.error()));

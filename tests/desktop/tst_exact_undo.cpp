@@ -10,34 +10,17 @@ constexpr int sequences = 300;
 constexpr int stepsOfASequence = 12;
 
 // All that changes elements; which of them is enabled depends on the selection of the moment.
-QStringList const commands = {
-    "Plotvane_LeftAlignment",
-    "Plotvane_RightAlignment",
-    "Plotvane_TopAlignment",
-    "Plotvane_BottomAlignment",
-    "Plotvane_CenterAlignment",
-    "Plotvane_VerticalCenterAlignment",
-    "Plotvane_AlignToMargins",
-    "Plotvane_BringToFrontElements",
-    "Plotvane_BringForwardElements",
-    "Plotvane_SendToBackElements",
-    "Plotvane_SendBackwardElements",
-    "Plotvane_DistributeHorizontallyElements",
-    "Plotvane_DistributeVerticallyElements",
-    "Plotvane_MakeSameSizeElements",
-    "Plotvane_MakeSameWidthElements",
-    "Plotvane_MakeSameHeightElements",
-    "Plotvane_FittoMarginsElements",
-    "Plotvane_FitWidthtoMarginsElements",
-    "Plotvane_FitHeighttoMarginsElements",
-    "Plotvane_LockDataFrame",
-    "Plotvane_UnlockDataFrame",
-    "Host_SelectAll",
-    "Host_Unselect",
-    "Host_Delete",
-    "Host_Undo",
-    "Host_Redo",
-};
+QStringList const commands =
+    QString(
+        "Plotvane_LeftAlignment Plotvane_RightAlignment Plotvane_TopAlignment Plotvane_BottomAlignment "
+        "Plotvane_CenterAlignment Plotvane_VerticalCenterAlignment Plotvane_AlignToMargins "
+        "Plotvane_BringToFrontElements Plotvane_BringForwardElements Plotvane_SendToBackElements "
+        "Plotvane_SendBackwardElements Plotvane_DistributeHorizontallyElements "
+        "Plotvane_DistributeVerticallyElements Plotvane_MakeSameSizeElements "
+        "Plotvane_MakeSameWidthElements Plotvane_MakeSameHeightElements Plotvane_FittoMarginsElements "
+        "Plotvane_FitWidthtoMarginsElements Plotvane_FitHeighttoMarginsElements Plotvane_LockDataFrame "
+        "Plotvane_UnlockDataFrame Host_SelectAll Host_Unselect Host_Delete Host_Undo Host_Redo")
+        .split(' ');
 
 }  // namespace
 

@@ -44,6 +44,13 @@ private:
   _ptr_t<AnnotationProperties> settings_ = make<AnnotationProperties>();
 };
 
+_ptr_t<RecordingLayer> addWithLayer(PageLayout& layout, _ptr_t<MapFrameElement> const& frame) {
+  auto const layer = make<RecordingLayer>();
+  frame->GetMap()->AddLayer(layer);
+  layout.GetGraphicsContainer()->AddElement(frame);
+  return layer;
+}
+
 QList<int> handlesOf(_ptr_t<Map> const& map) {
   QList<int> handles;
   for (auto const& element : map->GetGraphicsContainer()->GetElements()) handles << element->GetHandle();
@@ -99,13 +106,10 @@ private slots:
   void neighbouringTilesShowMapsThatMeet() {
     auto const layout = emptyLayout(20.0, 20.0);
     auto const frame = madeIn<MapFrameElement>(3.0, 3.0, 17.0, 17.0);
-    auto const layer = make<RecordingLayer>();
-    frame->GetMap()->AddLayer(layer);
-    layout->GetGraphicsContainer()->AddElement(frame);
+    auto const layer = addWithLayer(*layout, frame);
     frame->GetMap()->SetExtent(make<Envelope>(100.0, 200.0, 500.0, 600.0));
 
-    QSize const size = LayoutRenderer::imageSize(*layout->GetPage(), 100);
-    LayoutRenderer const renderer(layout, size, 100);
+    LayoutRenderer const renderer(layout, LayoutRenderer::imageSize(*layout->GetPage(), 100), 100);
     for (int row = 0; row < 2; ++row)
       for (int column = 0; column < 2; ++column) renderer.tileImage(renderer.tile(column, row), nullptr);
 
@@ -125,18 +129,14 @@ private slots:
 
   void aFrameThatTouchesATileWithItsShadowAloneDrawsNoMapThere() {
     auto const layout = emptyLayout(20.0, 20.0);
-    auto const frame = make<MapFrameElement>();
     // The frame ends at pixel 500; its shadow reaches into the second column of tiles.
-    frame->SetGeometry(make<Envelope>(1.0, 1.0, 500 * 2.54 / 100.0, 10.0));
+    auto const frame = madeIn<MapFrameElement>(1.0, 1.0, 500 * 2.54 / 100.0, 10.0);
     auto const shadow = make<SymbolShadow>();
     shadow->SetOffset(30.0, 0.0);
     frame->SetShadow(shadow);
-    auto const layer = make<RecordingLayer>();
-    frame->GetMap()->AddLayer(layer);
-    layout->GetGraphicsContainer()->AddElement(frame);
+    auto const layer = addWithLayer(*layout, frame);
 
-    QSize const size = LayoutRenderer::imageSize(*layout->GetPage(), 100);
-    LayoutRenderer const renderer(layout, size, 100);
+    LayoutRenderer const renderer(layout, LayoutRenderer::imageSize(*layout->GetPage(), 100), 100);
     QImage const tile = renderer.tileImage(renderer.tile(1, 1), nullptr);
     QVERIFY(layer->calls.isEmpty());
     QVERIFY(tile.pixelColor(5, 10) != QColor(Qt::white));
@@ -157,13 +157,11 @@ private slots:
     auto const [minScale, maxScale, drawn] = fetched<double, double, bool>();
     auto const layout = emptyLayout(10.0, 10.0);
     auto const frame = madeIn<MapFrameElement>(0.0, 0.0, 10.0, 10.0);
-    layout->GetGraphicsContainer()->AddElement(frame);
+    auto const layer = addWithLayer(*layout, frame);
     frame->GetMap()->SetExtent(make<Envelope>(0.0, 0.0, 100.0, 100.0));
     double const scale = frame->GetMap()->GetDisplayTransformation()->GetMapScale();
     QVERIFY(scale > 0.0);
-    auto const layer = make<RecordingLayer>();
     layer->SetScaleRange(minScale * scale, maxScale * scale);
-    frame->GetMap()->AddLayer(layer);
     LayoutRenderer const renderer(layout, QSize(100, 100), 25);
     renderer.tileImage(QRect(0, 0, 100, 100), nullptr);
     QCOMPARE(!layer->calls.isEmpty(), drawn);

@@ -14,13 +14,8 @@ using Plugin::RasterWriter;
 
 namespace {
 
-struct CloseDataset {
-  void operator()(GDALDataset* dataset) const { GDALClose(dataset); }
-};
-using Dataset = std::unique_ptr<GDALDataset, CloseDataset>;
-
-Dataset open(QString const& path) {
-  return Dataset(GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_RASTER | GDAL_OF_READONLY));
+std::unique_ptr<GDALDataset> open(QString const& path) {
+  return std::unique_ptr<GDALDataset>(GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_RASTER | GDAL_OF_READONLY));
 }
 
 QRgb pixel(GDALDataset& dataset, int x, int y) {
@@ -76,7 +71,7 @@ private slots:
       writer.convert(proceed, nullptr);
     }
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(name));
-    Dataset const image = open(path);
+    auto const image = open(path);
     QVERIFY(image);
     QCOMPARE(QString(image->GetDriver()->GetDescription()), driver);
     QCOMPARE(QSize(image->GetRasterXSize(), image->GetRasterYSize()), QSize(96, 64));

@@ -50,9 +50,7 @@ private slots:
     QStringList asked;
     RecordingSurface surface(asked);
     hook_->layout->setSurface(&surface);
-    _ptr_t<BaseTool> tool = make<Plugin::PagePanTool>();
-    if (identifier == "in") tool = make<Plugin::PageZoomInTool>();
-    if (identifier == "out") tool = make<Plugin::PageZoomOutTool>();
+    auto const tool = toolNamed(identifier);
     tool->OnCreate(hook_->pointer());
     auto const at = [](QEvent::Type type, QPoint const& place) {
       return QMouseEvent(type, place, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
@@ -67,35 +65,25 @@ private slots:
     QCOMPARE(asked, calls);
   }
 
-  void zoomingIn_data() {
-    // shown: as x, y of the lower left corner, width, height
-    Rows<QPoint, QPoint, QRectF> row;
-    row("a click centres on the point", QPoint(250, 250), QPoint(250, 250), QRectF(5 - 9, 10 - 6.75, 18, 13.5));
-    row("a drag shows the rectangle", QPoint(500, 375), QPoint(900, 675), QRectF(10, 1.5, 8, 6));
-    row("from the other corner as well", QPoint(900, 675), QPoint(500, 375), QRectF(10, 1.5, 8, 6));
-    row("a flat drag takes the view's aspect", QPoint(500, 375), QPoint(900, 375), QRectF(10, 7.5 - 3, 8, 6));
+  void zooming_data() {
+    // tool; press; release; shown as x, y of the lower left corner, width, height
+    Rows<QString, QPoint, QPoint, QRectF> row;
+    QPoint const centre(500, 375), mark(250, 250), corner(0, 750);
+    row("in: a click centres on the point", "in", mark, mark, QRectF(5 - 9, 10 - 6.75, 18, 13.5));
+    row("in: a drag shows the rectangle", "in", centre, QPoint(900, 675), QRectF(10, 1.5, 8, 6));
+    row("in: from the other corner as well", "in", QPoint(900, 675), centre, QRectF(10, 1.5, 8, 6));
+    row("in: a flat drag takes the view's aspect", "in", centre, QPoint(900, 375), QRectF(10, 7.5 - 3, 8, 6));
+    row("out: a click centres on the press", "out", mark, mark, QRectF(5 - 11, 10 - 8.25, 22, 16.5));
+    row("out: flat in one direction is a click", "out", mark, QPoint(350, 250), QRectF(5 - 11, 10 - 8.25, 22, 16.5));
+    row("out: a ratio just under 4 folds to just under 2", "out", corner, QPoint(250, 750 - 188), QRectF());
+    row("out: half of it doubles", "out", corner, centre, QRectF(5 - 20, 3.75 - 15, 40, 30));
+    row("out: two fifths fold 2.5 to 1.5", "out", corner, QPoint(400, 450), QRectF(4 - 15, 3 - 11.25, 30, 22.5));
+    row("out: the smaller ratio counts", "out", corner, QPoint(800, 700), QRectF(8 - 12.5, 0.5 - 9.375, 25, 18.75));
   }
 
-  void zoomingIn() {
-    auto const [press, release, shown] = fetched<QPoint, QPoint, QRectF>();
-    drag(make<Plugin::PageZoomInTool>(), press, release);
-    expectShown(shown);
-  }
-
-  void zoomingOut_data() {
-    Rows<QPoint, QPoint, QRectF> row;
-    row("a click centres on the press", QPoint(250, 250), QPoint(250, 250), QRectF(5 - 11, 10 - 8.25, 22, 16.5));
-    row("flat in one direction is a click", QPoint(250, 250), QPoint(350, 250), QRectF(5 - 11, 10 - 8.25, 22, 16.5));
-    row("a quarter of the extent folds to 1", QPoint(0, 750), QPoint(250, 750 - 188),
-        QRectF());  // a ratio just under 4 folds to just under 2
-    row("half of it doubles", QPoint(0, 750), QPoint(500, 375), QRectF(5 - 20, 3.75 - 15, 40, 30));
-    row("two fifths fold 2.5 to 1.5", QPoint(0, 750), QPoint(400, 450), QRectF(4 - 15, 3 - 11.25, 30, 22.5));
-    row("the smaller ratio counts", QPoint(0, 750), QPoint(800, 700), QRectF(8 - 12.5, 0.5 - 9.375, 25, 18.75));
-  }
-
-  void zoomingOut() {
-    auto const [press, release, shown] = fetched<QPoint, QPoint, QRectF>();
-    drag(make<Plugin::PageZoomOutTool>(), press, release);
+  void zooming() {
+    auto const [identifier, press, release, shown] = fetched<QString, QPoint, QPoint, QRectF>();
+    drag(toolNamed(identifier), press, release);
     if (!shown.isNull()) return expectShown(shown);
     QVERIFY(hook_->layout->GetExtent()->GetWidth() > 1.9 * extentWidth);
   }
@@ -157,6 +145,12 @@ private slots:
   }
 
 private:
+  static _ptr_t<BaseTool> toolNamed(QString const& identifier) {
+    if (identifier == "in") return make<Plugin::PageZoomInTool>();
+    if (identifier == "out") return make<Plugin::PageZoomOutTool>();
+    return make<Plugin::PagePanTool>();
+  }
+
   void drag(_ptr_t<BaseTool> const& tool, QPoint press, QPoint release) {
     tool->OnCreate(hook_->pointer());
     QVERIFY(tool->IsEnable());

@@ -153,8 +153,7 @@ private slots:
   }
   void aBadFieldIsNamedAndNothingIsOpened() {
     auto const [field, value, complaint] = fetched<QString, QJsonValue, QString>();
-    QJsonValue const json = changed(QJsonDocument::fromJson(sample_).object(), field.split('.'), value);
-    put(path("bad.kdx"), QJsonDocument(json.toObject()).toJson());
+    putChanged("bad.kdx", field.split('.'), value);
     QVERIFY2(refused("bad.kdx").startsWith(path("bad.kdx") + ": " + complaint), qPrintable(refused("bad.kdx")));
   }
 
@@ -188,8 +187,7 @@ private slots:
   void groupsWithoutAnEndAreRefused() {
     QJsonObject element{{"type", "group"}};
     for (int i = 0; i < 400; ++i) element = QJsonObject{{"type", "group"}, {"members", QJsonArray{element}}};
-    QJsonValue const json = changed(QJsonDocument::fromJson(sample_).object(), {"elements"}, QJsonArray{element});
-    put(path("deep.kdx"), QJsonDocument(json.toObject()).toJson());
+    putChanged("deep.kdx", {"elements"}, QJsonArray{element});
     QVERIFY2(refused("deep.kdx").contains("nested more than"), qPrintable(refused("deep.kdx")));
   }
 
@@ -231,9 +229,7 @@ private slots:
     QJsonObject const layer = QJsonDocument::fromJson(R"({"type": "feature", "name": "Rivers",
         "source": {"file": "data/rivers.gpkg"}, "renderer": {"type": "simple", "symbol": {"type": "simpleLine"}}})")
                                   .object();
-    QJsonValue const json =
-        changed(QJsonDocument::fromJson(sample_).object(), {"maps", "0", "layers"}, QJsonArray{layer});
-    put(path("rivers.kdx"), QJsonDocument(json.toObject()).toJson());
+    putChanged("rivers.kdx", {"maps", "0", "layers"}, QJsonArray{layer});
     MapDocument document;
     QVERIFY2(document.Open(path("rivers.kdx")), qPrintable(document.GetErrors().join('\n')));
     QCOMPARE(document.GetUnreadableSourceCount(), 1);
@@ -405,6 +401,11 @@ private slots:
 
 private:
   QString path(QString const& name) const { return folder_.filePath(name); }
+
+  void putChanged(QString const& name, QStringList const& field, QJsonValue const& value) const {
+    QJsonValue const json = changed(QJsonDocument::fromJson(sample_).object(), field, value);
+    put(path(name), QJsonDocument(json.toObject()).toJson());
+  }
 
   // The one sentence with which an empty document refuses a file, and with which it stays empty.
   QString refused(QString const& name) const {
