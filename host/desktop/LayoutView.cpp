@@ -31,8 +31,8 @@ LayoutView::~LayoutView() {
 void LayoutView::setLayout(_ptr_t<PageLayout> const& layout) {
   if (layout == layout_) return;
   if (layout_) layout_->setSurface(nullptr);
-  layout_ = layout;
   giveDragUp();
+  layout_ = layout;
   clearOverlay();
   if (layout_) {
     layout_->setSurface(this);

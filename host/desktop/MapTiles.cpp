@@ -87,7 +87,7 @@ void MapTiles::setShown(QRect const& shownPx) {
 // First all that is missing, then the labels, unless there turned out to be none.
 std::optional<MapTiles::TileNumber> MapTiles::next() const {
   auto const missing = firstShown([](Tile const& tile) { return tile.image.isNull(); });
-  if (missing || (labels_ && labels_->GetElements().isEmpty())) return missing;
+  if (missing || (labels_ && labels_->order().elements.isEmpty())) return missing;
   return firstShown([](Tile const& tile) { return !tile.isLabelled; });
 }
 
