@@ -124,6 +124,24 @@ private slots:
     QCOMPARE(answers.takeProblem(), QString());
   }
 
+  void aFieldThatOnlyAButtonFillsTakesItsAnswer() {
+    DialogAnswers answers;
+    SampleDialog dialog;
+    dialog.dpi->setReadOnly(true);
+    answers.add(answer("lineEdit_DPI", "150"));
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCOMPARE(answers.takeProblem(), QString());
+    QCOMPARE(dialog.dpi->text(), QString("150"));
+  }
+
+  void aBoxThatOnlyTellsNeedsNoAnswerButAWarningDoes() {
+    DialogAnswers answers;
+    QMessageBox::information(nullptr, "Information", "Done");
+    QCOMPARE(answers.takeProblem(), QString());
+    QMessageBox::warning(nullptr, "Warning", "Not done");
+    QVERIFY(answers.takeProblem().contains("nobody answers it"));
+  }
+
   void aFileDialogTakesAPath() {
     DialogAnswers answers;
     QTemporaryDir folder;

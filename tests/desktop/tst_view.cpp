@@ -187,6 +187,23 @@ private slots:
     QVERIFY(page.view().grab().toImage() == before);
   }
 
+  // The release goes to another view or tool, or to nobody.
+  void aDragThatIsCutOffIsGivenUp() {
+    for (char const* command : {"Plotvane_Pan", "Host_MapView"}) {
+      WorkbenchPage page;
+      page.bench.views().QWidget::show();
+      auto const box = page.add<SysCarto::RectangleElement>(4.0, 4.0, 8.0, 7.0);
+      page.mouse(QEvent::MouseButtonPress, page.pixel(6, 5));
+      page.mouse(QEvent::MouseMove, page.pixel(9, 9));
+      QVERIFY(page.run(command));
+      QVERIFY(page.run("Host_LayoutView") && page.run("Host_Select"));
+      page.mouse(QEvent::MouseButtonRelease, page.pixel(9, 9));
+      QCOMPARE(page.place(*box), QRectF(4, 4, 4, 3));
+      page.drag(page.pixel(6, 5), page.pixel(7, 5));
+      QVERIFY(page.place(*box).left() > 4.5);
+    }
+  }
+
   void theViewKeepsItsPlaceWhenTheDocumentIsSaved() {
     QTemporaryDir folder;
     WorkbenchPage page;
