@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace SysCarto {
 
@@ -178,10 +179,10 @@ void GraticuleLabels::addOn(QString const& text, QVector<QVector<QPointF>> const
   QVector<QPointF> const& part = parts.first();
   auto const lowest = std::min_element(part.begin(), part.end(),
                                        [](QPointF const& one, QPointF const& other) { return one.y() < other.y(); });
-  format_.haloSize = haloPt;
+  double const usual = std::exchange(format_.haloSize, std::max(haloPt, format_.haloSize));
   add(text, line_->isMeridian ? halfwayAlong(part) : *lowest, 0, HorizontalAlignment::Center,
       VerticalAlignment::Middle);
-  format_.haloSize = 0;
+  format_.haloSize = usual;
 }
 
 void GraticuleLabels::add(QString const& text, QPointF const& position, double angle, HorizontalAlignment horizontal,
