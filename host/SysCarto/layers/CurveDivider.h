@@ -6,6 +6,12 @@
 
 namespace SysCarto {
 
+/// A place on an edge.
+struct CurveEnd {
+  double x, y;    ///< before
+  double px, py;  ///< projected
+};
+
 /// Adds vertices along an edge whose image under a projection is a curve, until no piece of the curve lies farther than
 /// a tolerance from its chord. `Project` is called as bool(double& x, double& y).
 template <class Project>
@@ -16,21 +22,26 @@ public:
   CurveDivider(Project project, double tolerance, double longest, double shortest)
       : project_(project), tolerance_(tolerance), longest_(longest), shortest_(shortest) {}
 
-  struct End {
-    double x, y;    ///< before
-    double px, py;  ///< projected
-  };
+  /// Whether an edge is long enough for its image to be looked at.
+  template <class Place>
+  bool mayBend(Place const& a, Place const& b) const {
+    return length(a, b) >= shortest_;
+  }
 
   /// Calls `visit(px, py)` for each vertex added between the two, in order.
   template <class Visit>
-  void divide(End const& a, End const& b, Visit const& visit, int depth = 0) const {
-    double const length = std::max(std::abs(b.x - a.x), std::abs(b.y - a.y));
-    if (length < shortest_ || depth > deepest) return;
-    End middle{(a.x + b.x) / 2, (a.y + b.y) / 2, 0, 0};
+  void divide(CurveEnd const& a, CurveEnd const& b, Visit const& visit, int depth = 0) const {
+    if (!mayBend(a, b) || depth > deepest) return;
+    CurveEnd middle{(a.x + b.x) / 2, (a.y + b.y) / 2, 0, 0};
     middle.px = middle.x;
     middle.py = middle.y;
-    if (!project_(middle.px, middle.py)) return;
-    if (length <= longest_ && distance(a, b, middle) <= tolerance_) return;
+    if (project_(middle.px, middle.py)) divideAt(middle, a, b, visit, depth);
+  }
+
+  /// The same for an edge that may bend and whose middle is known.
+  template <class Visit>
+  void divideAt(CurveEnd const& middle, CurveEnd const& a, CurveEnd const& b, Visit const& visit, int depth = 0) const {
+    if (length(a, b) <= longest_ && distance(a, b, middle) <= tolerance_) return;
     divide(a, middle, visit, depth + 1);
     visit(middle.px, middle.py);
     divide(middle, b, visit, depth + 1);
@@ -39,7 +50,12 @@ public:
 private:
   static constexpr int deepest = 16;
 
-  static double distance(End const& a, End const& b, End const& p) {
+  template <class Place>
+  static double length(Place const& a, Place const& b) {
+    return std::max(std::abs(b.x - a.x), std::abs(b.y - a.y));
+  }
+
+  static double distance(CurveEnd const& a, CurveEnd const& b, CurveEnd const& p) {
     double const dx = b.px - a.px, dy = b.py - a.py, squared = dx * dx + dy * dy;
     double t = squared > 0 ? ((p.px - a.px) * dx + (p.py - a.py) * dy) / squared : 0;
     t = std::clamp(t, 0.0, 1.0);

@@ -2,9 +2,8 @@
 
 #include "host/SysCarto/document/CoordinateSystem.h"
 #include "host/SysCarto/layers/DataSource.h"
-#include "host/SysCarto/layers/FeatureStore.h"
+#include "host/SysCarto/layers/FeatureIntake.h"
 #include "host/SysCarto/layers/GdalErrors.h"
-#include "host/SysCarto/layers/GeometryProjector.h"
 #include "host/SysCarto/layers/LabelSettings.h"
 #include "host/SysCarto/layers/Renderer.h"
 
@@ -105,22 +104,17 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   Field const priorityField(layer, labels.priorityField, source, result.warnings);
   FeatureStore& store = *result.store;
   store.keepsLabels = labels.isUsed();
-  QString unplaced;
+  FeatureIntake intake(projector, store, [&](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
+    to.beginFeature();
+    own.add(*feature.GetGeometryRef(), to);
+    double const priority = priorityField.number(feature);
+    to.endFeature(renderer.classOf(classField.text(feature), classField.number(feature)), labelField.text(feature),
+                  std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority);
+  });
   layer.ResetReading();
-  while (OGRFeatureUniquePtr const feature{layer.GetNextFeature()}) {
-    OGRGeometry const* const geometry = feature->GetGeometryRef();
-    if (!geometry || !condition.admits(*feature)) continue;
-    store.beginFeature();
-    {
-      GdalErrors const places;  // a place that the map can't show is no damage to the file
-      projector.add(*geometry, store);
-      if (places.hasFailure()) unplaced = places.reason();
-    }
-    double const priority = priorityField.number(*feature);
-    store.endFeature(renderer.classOf(classField.text(*feature), classField.number(*feature)),
-                     labelField.text(*feature),
-                     std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority);
-  }
+  while (OGRFeatureUniquePtr feature{layer.GetNextFeature()})
+    if (feature->GetGeometryRef() && condition.admits(*feature)) intake.add(std::move(feature));
+  QString const unplaced = intake.finish();
   store.finish();
   if (!unplaced.isEmpty())
     result.warnings

@@ -53,6 +53,19 @@ void FeatureStore::endFeature(int symbolClass, QString const& label, double prio
   priorities.push_back(priority);
 }
 
+void FeatureStore::append(FeatureStore& other) {
+  int const before = static_cast<int>(parts.size());
+  parts.insert(parts.end(), other.parts.begin(), other.parts.end());
+  for (Feature& feature : other.features) {
+    feature.firstPart += before;
+    features.push_back(feature);
+  }
+  labels.insert(labels.end(), other.labels.begin(), other.labels.end());
+  priorities.insert(priorities.end(), other.priorities.begin(), other.priorities.end());
+  vertices_.takeOver(other.vertices_);
+  box_.add(other.box_);
+}
+
 void FeatureStore::finish() {
   parts.shrink_to_fit();
   std::vector<Box> boxes;

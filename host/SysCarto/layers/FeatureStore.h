@@ -64,6 +64,9 @@ public:
   void addPart(PartKind kind, double const* xy, int count);
   void endFeature(int symbolClass, QString const& label, double priority);
 
+  /// Takes over the features of another store that was filled and not finished.
+  void append(FeatureStore& other);
+
   /// Builds the index. Nothing is added afterwards.
   void finish();
 

@@ -147,6 +147,17 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
   return projector;
 }
 
+std::unique_ptr<GeometryProjector> GeometryProjector::clone() const {
+  auto copy = std::make_unique<GeometryProjector>();
+  if (toGlobe_) copy->toGlobe_ = toGlobe_->clone();
+  if (toMap_) copy->toMap_ = toMap_->clone();
+  copy->sourceIsGeographic_ = sourceIsGeographic_;
+  copy->domain_ = domain_;
+  copy->mapTolerance_ = mapTolerance_;
+  copy->longestSource_ = longestSource_;
+  return copy;
+}
+
 void GeometryProjector::add(OGRGeometry const& geometry, FeatureStore& store) const {
   if (!geometry.hasCurveGeometry()) return addLinear(geometry, store, 0);
   std::unique_ptr<OGRGeometry> const linear(geometry.getLinearGeometry());
@@ -278,23 +289,39 @@ std::vector<double> GeometryProjector::toMap(Run const& run, bool closed, std::v
     x = longitude(x);
     return toMap_->apply(x, y);
   };
-  std::vector<double> projected, result;
-  projected.reserve(2 * run.size());
-  for (Vertex const& v : run) projected.insert(projected.end(), {longitude(v.x), v.y});
-  toMap_->apply(projected);
   CurveDivider<decltype(project)> const divider(project, mapTolerance_, longestDegrees, shortestDegrees);
   size_t const count = run.size();
+  auto const leadsToCurve = [&](size_t i) {
+    size_t const n = (i + 1) % count;
+    return (n != 0 || closed) && !(run[i].edge & arcEdge) && divider.mayBend(run[i], run[n]);
+  };
+  // One after the other they would take PROJ much longer: the vertices, then the middles of edges in their order.
+  std::vector<double> projected, result;
+  projected.reserve(3 * count);
+  auto const put = [&](double x, double y) { projected.insert(projected.end(), {longitude(x), y}); };
+  for (Vertex const& v : run) put(v.x, v.y);
   for (size_t i = 0; i < count; ++i) {
-    double const px = projected[2 * i], py = projected[2 * i + 1];
-    if (!std::isfinite(px)) continue;
+    Vertex const &a = run[i], &b = run[(i + 1) % count];
+    if (leadsToCurve(i)) put((a.x + b.x) / 2, (a.y + b.y) / 2);
+  }
+  toMap_->apply(projected);
+
+  auto const end = [&](Vertex const& v, size_t i) {
+    return CurveEnd{v.x, v.y, projected[2 * i], projected[2 * i + 1]};
+  };
+  size_t nextMiddle = count;
+  for (size_t i = 0; i < count; ++i) {
+    size_t const n = (i + 1) % count;
+    size_t const middle = leadsToCurve(i) ? nextMiddle++ : 0;
+    if (!std::isfinite(projected[2 * i])) continue;
     auto const add = [&](double x, double y) {
       result.insert(result.end(), {x, y});
       edges.push_back(run[i].edge);
     };
-    add(px, py);
-    size_t const n = (i + 1) % count;
-    if ((n == 0 && !closed) || (run[i].edge & arcEdge) || !std::isfinite(projected[2 * n])) continue;
-    divider.divide({run[i].x, run[i].y, px, py}, {run[n].x, run[n].y, projected[2 * n], projected[2 * n + 1]}, add);
+    add(projected[2 * i], projected[2 * i + 1]);
+    if (middle == 0 || !std::isfinite(projected[2 * n]) || !std::isfinite(projected[2 * middle])) continue;
+    Vertex const between{(run[i].x + run[n].x) / 2, (run[i].y + run[n].y) / 2, 0};
+    divider.divideAt(end(between, middle), end(run[i], i), end(run[n], n), add);
   }
   return result;
 }

@@ -25,6 +25,9 @@ public:
   static std::unique_ptr<GeometryProjector> create(OGRSpatialReference const* source, OGRSpatialReference const* target,
                                                    QString& error);
 
+  /// The same for another thread.
+  std::unique_ptr<GeometryProjector> clone() const;
+
   /// Adds the parts of a geometry to the store's current feature.
   void add(OGRGeometry const& geometry, FeatureStore& store) const;
 

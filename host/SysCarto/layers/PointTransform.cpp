@@ -37,6 +37,10 @@ std::unique_ptr<PointTransform> PointTransform::create(OGRSpatialReference const
 PointTransform::PointTransform(OGRCoordinateTransformation* transformation) : transformation_(transformation) {}
 PointTransform::~PointTransform() = default;
 
+std::unique_ptr<PointTransform> PointTransform::clone() const {
+  return std::unique_ptr<PointTransform>(new PointTransform(transformation_->Clone()));
+}
+
 // A place without an image is no fault, but PROJ itself reports some of them as one.
 void PointTransform::apply(std::vector<double>& xy) const {
   SysGeometry::QuietOgr const quiet;

@@ -18,6 +18,9 @@ public:
                                                 QString& error);
   ~PointTransform();
 
+  /// The same for another thread.
+  std::unique_ptr<PointTransform> clone() const;
+
   /// x, y pairs, in place.
   void apply(std::vector<double>& xy) const;
   bool apply(double& x, double& y) const;

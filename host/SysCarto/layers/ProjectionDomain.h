@@ -49,7 +49,7 @@ using CanProject = std::function<bool(double x, double y)>;
 struct Domain {
   double centralLongitude;  ///< where x is 0
   bool isStrip;             ///< x is within ±180 after clipping; otherwise it may be any turn of the globe
-  std::unique_ptr<ProjectionDomain> border;
+  std::shared_ptr<ProjectionDomain const> border;
 };
 
 /// The domain of a geographic or projected coordinate system. `canProject` is asked with longitudes of the system, not

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -20,6 +21,13 @@ public:
 
   /// Keeps that many of the vertices for which there was room.
   void keep(int count) { next_ += 2 * static_cast<std::size_t>(count); }
+
+  /// Takes over the runs of another pool, which stay at their places.
+  void takeOver(VertexPool& other) {
+    blocks_.insert(blocks_.end(), std::make_move_iterator(other.blocks_.begin()),
+                   std::make_move_iterator(other.blocks_.end()));
+    other.clear();
+  }
 
   void clear() { *this = VertexPool(); }
 
