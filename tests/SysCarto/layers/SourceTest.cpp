@@ -3,6 +3,9 @@
 #include "host/SysCarto/layers/GdalErrors.h"
 
 #include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 using namespace SysCarto;
 
@@ -107,6 +110,30 @@ private slots:
       shown({-1e7, -1e7, 1e7, 1e7}, QSize(64, 64)).drawn([&](QPainter& painter, Transformation const& transformation) {
         result.layer->Draw(painter, transformation, 1, nullptr);
       });
+    }
+  }
+
+  void manyFeaturesStayInTheirOrder() {
+    constexpr int count = 9000;
+    QJsonArray features;
+    for (int i = 0; i < count; ++i)
+      features << QJsonObject{
+          {"type", "Feature"},
+          {"properties", QJsonObject{{"name", QString::number(i)}}},
+          {"geometry", QJsonObject{{"type", "Point"}, {"coordinates", QJsonArray{i % 300 / 10.0, i / 300}}}}};
+    QTemporaryDir folder;
+    QJsonObject const collection{{"type", "FeatureCollection"}, {"features", features}};
+    QString const file = written(folder, "a.geojson", QJsonDocument(collection).toJson());
+    SysCarto::LabelSettings labels;
+    labels.field = QStringLiteral("name");
+    auto const result = opened({file, {}, {}, {}}, "EPSG:3857", nullptr, labels);
+    SysCarto::FeatureStore const& store = result.features();
+    QCOMPARE(store.size(), count);
+    for (int i = 0; i < count; ++i) {
+      double const* const xy = store.parts.at(store.features[i].firstPart).xy;
+      QCOMPARE(store.labels.at(i), QString::number(i));
+      QVERIFY(std::abs(xy[0] - 111319.490793 * (i % 300 / 10.0)) < 0.1);
+      QVERIFY(store.features[i].box.contains(xy[0], xy[1]));
     }
   }
 
