@@ -80,8 +80,11 @@ void keepMemory() {
   mallopt(M_TRIM_THRESHOLD, 2 * reserve);
   mallopt(M_TOP_PAD, reserve);
   void* block = nullptr;
-  if (posix_memalign(&block, static_cast<size_t>(sysconf(_SC_PAGESIZE)), reserve / 8) != 0) return;
-  madvise(block, static_cast<size_t>(static_cast<char*>(sbrk(0)) - static_cast<char*>(block)), MADV_HUGEPAGE);
+  bool const grown = posix_memalign(&block, static_cast<size_t>(sysconf(_SC_PAGESIZE)), reserve / 8) == 0;
+  mallopt(M_TOP_PAD, reserve / 256);
+  if (!grown) return;
+  ptrdiff_t const heap = static_cast<char*>(sbrk(0)) - static_cast<char*>(block);
+  if (heap > 0 && heap < 2 * reserve) madvise(block, static_cast<size_t>(heap), MADV_HUGEPAGE);
   free(block);
 }
 
