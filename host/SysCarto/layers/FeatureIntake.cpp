@@ -5,7 +5,6 @@
 #include <ogr_geometry.h>
 
 #include <algorithm>
-#include <iterator>
 #include <thread>
 
 namespace SysCarto {
@@ -21,9 +20,7 @@ size_t cores() { return std::max(1U, std::thread::hardware_concurrency()); }
 }  // namespace
 
 FeatureIntake::FeatureIntake(GeometryProjector const& projector, FeatureStore& store, Place place)
-    : store_(store), place_(std::move(place)) {
-  std::generate_n(std::back_inserter(idle_), cores(), [&] { return projector.clone(); });
-}
+    : projector_(projector), store_(store), place_(std::move(place)) {}
 
 void FeatureIntake::add(OGRFeatureUniquePtr feature) {
   waitingBytes_ += feature->GetGeometryRef()->WkbSize();
@@ -38,6 +35,7 @@ QString FeatureIntake::finish() {
 }
 
 void FeatureIntake::start(std::launch when) {
+  if (idle_.empty() && running_.size() < cores()) idle_.push_back(projector_.clone());
   if (idle_.empty()) takeOldest();
   auto batch = std::make_unique<Batch>();
   batch->projector = std::move(idle_.back());

@@ -18,6 +18,7 @@ public:
   /// Adds one feature to a store. Called on several threads at once, with a projector that is the thread's own.
   using Place = std::function<void(OGRFeature& feature, GeometryProjector const& projector, FeatureStore& store)>;
 
+  /// Projector and store must outlive it.
   FeatureIntake(GeometryProjector const& projector, FeatureStore& store, Place place);
 
   /// Takes a feature that has a geometry.
@@ -38,6 +39,7 @@ private:
   void takeOldest();
   std::unique_ptr<Batch> work(std::unique_ptr<Batch> batch) const;
 
+  GeometryProjector const& projector_;
   FeatureStore& store_;
   Place place_;
   QString problem_;
