@@ -8,8 +8,6 @@ namespace SysDisplay {
 
 namespace {
 
-constexpr double farthestPx = 1e12;  // within the range in which `snapped` is exact
-
 // A segment longer than this is divided where it crosses a lattice that hangs on the world's origin. So no coordinate
 // near the tile gets too large for the rasteriser, and the points of division are the same in every tile.
 constexpr double longPx = 8192.0;
@@ -174,6 +172,13 @@ void clipRing(std::vector<QPointF> const& ring, QRectF const& area, Anchor const
     dropper.add(point);
     previous = &point;
   }
+  dropper.flush();
+  out.endRun();
+}
+
+void dropBeyond(QPointF const* ring, int count, QRectF const& area, PointRuns& out) {
+  StretchDropper dropper(area, out);
+  for (int i = 0; i < count; ++i) dropper.add(ring[i]);
   dropper.flush();
   out.endRun();
 }

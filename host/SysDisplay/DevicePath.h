@@ -26,6 +26,9 @@ struct Anchor {
 };
 SYSDISPLAY_EXPORT Anchor anchorOf(QTransform const& toDevice);
 
+/// Device coordinates lie within this distance of 0, the range in which `snapped` is exact.
+constexpr double farthestPx = 1e12;
+
 /// `count` world coordinate pairs as snapped device points. Neighbours that fall onto one point are merged; with
 /// `thinPx`, so is a point that lies nearer than that to the last one kept, but for the end. Pairs that are not finite
 /// are left out. The work starts at the first pair and looks at no tile, so the result is the same in every tile.
@@ -37,6 +40,9 @@ SYSDISPLAY_EXPORT void toDevicePoints(QTransform const& toDevice, double const* 
 /// divided, at places that hang on `anchor`.
 SYSDISPLAY_EXPORT void clipRing(std::vector<QPointF> const& ring, QRectF const& area, Anchor const& anchor,
                                 PointRuns& out);
+
+/// Brings a ring to the vertices that matter within `area`, as `clipRing` does, and divides nothing.
+SYSDISPLAY_EXPORT void dropBeyond(QPointF const* ring, int count, QRectF const& area, PointRuns& out);
 
 /// Brings a line to the runs that matter within `area`. Segments beyond one side are dropped, except the neighbour of a
 /// segment that stays, since it shapes the join. Answers true where a closed line stayed in one piece, so that its one

@@ -18,10 +18,14 @@ DrawTarget::DrawTarget(QPainter& painter, QTransform const& toDevice, double pix
       toDevice_(toDevice),
       pixelsPerPoint_(pixelsPerPoint),
       anchor_(anchorOf(toDevice)),
-      area_(reachableArea(painter)) {
+      area_(reachableArea(painter)),
+      fills_(painter) {
   painter_.save();
 }
 
-DrawTarget::~DrawTarget() { painter_.restore(); }
+DrawTarget::~DrawTarget() {
+  fills_.finish();
+  painter_.restore();
+}
 
 }  // namespace SysDisplay

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysDisplay/DevicePath.h"
+#include "host/SysDisplay/FillQueue.h"
 
 #include <SysDisplay/DisplayTransformation.h>
 
@@ -27,7 +28,15 @@ public:
   DrawTarget(DrawTarget const&) = delete;
   DrawTarget& operator=(DrawTarget const&) = delete;
 
-  QPainter& painter() const { return painter_; }
+  /// Fills the runs as rings, by and by.
+  void fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule) { fills_.add(rings, color, rule); }
+
+  /// For what is no fill. All fills so far are drawn before.
+  QPainter& painter() {
+    fills_.finish();
+    return painter_;
+  }
+
   QTransform const& toDevice() const { return toDevice_; }
   double pixelsPerPoint() const { return pixelsPerPoint_; }
 
@@ -43,6 +52,7 @@ private:
   double const pixelsPerPoint_;
   Anchor const anchor_;
   QRectF const area_;
+  FillQueue fills_;
 };
 
 }  // namespace SysDisplay

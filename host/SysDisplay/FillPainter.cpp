@@ -76,7 +76,7 @@ void FillPainter::addOutline(double const* xy, int count) {
 
 void FillPainter::draw() {
   if (solid_)
-    fillRuns(target_.painter(), rings_, color_, Qt::OddEvenFill);
+    target_.fill(rings_, color_, Qt::OddEvenFill);
   else
     drawHatches();
   rings_.clear();
@@ -88,7 +88,7 @@ void FillPainter::drawHatches() {
   hatchLines_.clear();
   for (HatchDirection direction : hatches_)
     hatchRings(rings_, direction, hatchSpacingPx_, hatchWidthPx_, area_, target_.anchor(), hatchLines_);
-  fillHatch(target_.painter(), hatchLines_, color_, area_);
+  fillHatch(target_, hatchLines_, color_, area_);
 }
 
 }  // namespace SysDisplay

@@ -1,5 +1,7 @@
 #include "Hatch.h"
 
+#include "host/SysDisplay/DrawTarget.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -131,7 +133,7 @@ void cutToRows(QPointF const* corners, int count, double top, double bottom, Poi
 
 }  // namespace
 
-void fillHatch(QPainter& painter, PointRuns const& lines, QColor const& color, QRectF const& area) {
+void fillHatch(DrawTarget& target, PointRuns const& lines, QColor const& color, QRectF const& area) {
   PointRuns band;
   for (double top = std::floor(area.top()); top < area.bottom(); top += bandPx) {
     double const bottom = top + bandPx;
@@ -142,7 +144,7 @@ void fillHatch(QPainter& painter, PointRuns const& lines, QColor const& color, Q
                                                    [](QPointF const& a, QPointF const& b) { return a.y() < b.y(); });
       if (high->y() > top && low->y() < bottom) cutToRows(corners, lines.size(i), top, bottom, band);
     }
-    fillRuns(painter, band, color, Qt::WindingFill);
+    target.fill(band, color, Qt::WindingFill);
   }
 }
 

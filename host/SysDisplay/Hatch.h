@@ -4,6 +4,8 @@
 
 namespace SysDisplay {
 
+class DrawTarget;
+
 /// Directions as seen on the page.
 enum class HatchDirection { Horizontal, Vertical, RisingLeft, RisingRight };
 
@@ -13,6 +15,6 @@ SYSDISPLAY_EXPORT void hatchRings(PointRuns const& rings, HatchDirection directi
                                   QRectF const& area, Anchor const& anchor, PointRuns& out);
 
 /// Fills what `hatchRings` made.
-SYSDISPLAY_EXPORT void fillHatch(QPainter& painter, PointRuns const& lines, QColor const& color, QRectF const& area);
+SYSDISPLAY_EXPORT void fillHatch(DrawTarget& target, PointRuns const& lines, QColor const& color, QRectF const& area);
 
 }  // namespace SysDisplay

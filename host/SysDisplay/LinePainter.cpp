@@ -107,7 +107,7 @@ void LinePainter::stroke(std::vector<QPointF> const& line, bool closed) {
 }
 
 void LinePainter::draw() {
-  fillRuns(target_.painter(), outline_, color_, Qt::WindingFill);
+  target_.fill(outline_, color_, Qt::WindingFill);
   outline_.clear();
 }
 

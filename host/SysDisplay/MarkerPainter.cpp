@@ -47,7 +47,7 @@ void MarkerPainter::draw(double x, double y) { drawAt(target_.toDevice().map(QPo
 void MarkerPainter::drawAt(QPointF const& position) {
   if (!drawing_ || !std::isfinite(position.x()) || !std::isfinite(position.y())) return;
   if (!drawing_->bounds().translated(position).adjusted(-4, -4, 4, 4).intersects(target_.area())) return;
-  drawing_->drawAt(target_.painter(), position);
+  drawing_->drawAt(target_, position);
 }
 
 }  // namespace SysDisplay

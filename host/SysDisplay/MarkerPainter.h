@@ -14,7 +14,7 @@ public:
   virtual ~MarkerDrawing();
 
   /// Draws the marker about a device position.
-  virtual void drawAt(QPainter& painter, QPointF const& position) = 0;
+  virtual void drawAt(DrawTarget& target, QPointF const& position) = 0;
 
   /// What the marker covers about its position, in pixels, y downwards.
   virtual QRectF bounds() const = 0;

@@ -2,13 +2,10 @@
 
 #include <SysDisplay/Export.h>
 
-#include <QColor>
 #include <QPointF>
 #include <QRectF>
 
 #include <vector>
-
-class QPainter;
 
 namespace SysDisplay {
 
@@ -34,11 +31,10 @@ struct SYSDISPLAY_EXPORT PointRuns {
   /// Closes the open run; an empty one is forgotten.
   void endRun();
 
+  /// Appends whole runs; the open run must be empty.
+  void append(PointRuns const& other);
+
   QRectF bounds() const;
 };
-
-/// Fills the runs as rings in one colour, antialiased and without a pen, and leaves the painter in that state. Points
-/// should lie on the 1/64 pixel grid. What lies too far from the device for QPainter is cut off.
-SYSDISPLAY_EXPORT void fillRuns(QPainter& painter, PointRuns const& rings, QColor const& color, Qt::FillRule rule);
 
 }  // namespace SysDisplay

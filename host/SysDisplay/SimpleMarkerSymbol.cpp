@@ -75,21 +75,21 @@ public:
     bounds_ = area_.bounds() | outline_.bounds();
   }
 
-  void drawAt(QPainter& painter, QPointF const& position) override {
+  void drawAt(DrawTarget& target, QPointF const& position) override {
     QPointF const place = snapped(position);
-    draw(painter, area_, place, color_, Qt::OddEvenFill);
-    draw(painter, outline_, place, outlineColor_, Qt::WindingFill);
+    draw(target, area_, place, color_, Qt::OddEvenFill);
+    draw(target, outline_, place, outlineColor_, Qt::WindingFill);
   }
 
   QRectF bounds() const override { return bounds_; }
 
 private:
-  void draw(QPainter& painter, PointRuns const& shape, QPointF const& place, QColor const& color, Qt::FillRule rule) {
+  void draw(DrawTarget& target, PointRuns const& shape, QPointF const& place, QColor const& color, Qt::FillRule rule) {
     placed_.points.resize(shape.points.size());
     placed_.ends = shape.ends;
     std::transform(shape.points.begin(), shape.points.end(), placed_.points.begin(),
                    [&](QPointF const& point) { return point + place; });
-    fillRuns(painter, placed_, color, rule);
+    target.fill(placed_, color, rule);
   }
 
   QColor const color_;

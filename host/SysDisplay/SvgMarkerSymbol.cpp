@@ -42,7 +42,7 @@ public:
 
   QRectF bounds() const override { return bounds_; }
 
-  void drawAt(QPainter& painter, QPointF const& position) override {
+  void drawAt(DrawTarget& target, QPointF const& position) override {
     // The bias sends what lies between two phases the same way in every tile.
     auto const phased = [](double p) { return std::floor(p * phases + 0.5 + 1e-4); };
     double const x = phased(position.x()), y = phased(position.y());
@@ -50,11 +50,11 @@ public:
     if (std::abs(wholeX) > 1e6 || std::abs(wholeY) > 1e6) return;
     Cell cell{static_cast<int>(x - wholeX * phases), static_cast<int>(y - wholeY * phases), 0, 0};
     QPoint const place(static_cast<int>(wholeX), static_cast<int>(wholeY));
-    QRect const seen = covered() & reachableArea(painter).toAlignedRect().translated(-place);
+    QRect const seen = covered() & target.area().toAlignedRect().translated(-place);
     if (seen.isEmpty()) return;
     for (cell.row = cellOf(seen.top()); cell.row <= cellOf(seen.bottom()); ++cell.row)
       for (cell.column = cellOf(seen.left()); cell.column <= cellOf(seen.right()); ++cell.column)
-        painter.drawImage(place + origin(cell), image(cell));
+        target.painter().drawImage(place + origin(cell), image(cell));
   }
 
 private:

@@ -130,11 +130,11 @@ void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angl
   if (format_.haloSize > 0 && format_.haloColor.alpha() > 0) {
     double const size = format_.haloSize / format_.size;
     visitGlyphs(text, [&](Glyph const& glyph, QPointF const& at) { place(glyph.halo(size, emPx), at); });
-    fillRuns(target.painter(), rings, format_.haloColor, Qt::WindingFill);
+    target.fill(rings, format_.haloColor, Qt::WindingFill);
     rings.clear();
   }
   visitGlyphs(text, [&](Glyph const& glyph, QPointF const& at) { place(glyph.rings(emPx), at); });
-  fillRuns(target.painter(), rings, format_.color, Qt::WindingFill);
+  target.fill(rings, format_.color, Qt::WindingFill);
 }
 
 void TextSymbol::drawAt(QPainter& painter, QPointF const& position, double pixelsPerPoint, double angleDegrees,

@@ -178,6 +178,46 @@ private slots:
     }
   }
 
+  // Much of it at once is drawn in bands and by several threads, on a painter that clips nothing. What is added first
+  // stays below, pictures included.
+  void bandsShowWhatOnePainterShows() {
+    auto const fill = make<SimpleFillSymbol>();
+    fill->SetColor(QColor(30, 120, 200, 90));
+    fill->SetOutlineSymbol(line(SimpleLineStyle::Solid, 3, LineCapStyle::Round, LineJoinStyle::Round));
+    auto const dot = make<SimpleMarkerSymbol>();
+    dot->setOutlineWidth(1.1);
+    auto const picture = make<SvgMarkerSymbol>();
+    QCOMPARE(picture->setSvg(compass), QString());
+    picture->SetSize(40);
+    std::vector<double> coast;
+    for (int i = 0; i < 20000; ++i) {
+      double const angle = i * M_PI / 10000, r = 230 + 25 * std::sin(700 * angle) + i % 7;
+      coast.insert(coast.end(), {worldX(350 + r * std::cos(angle)), worldY(250 + r * std::sin(angle))});
+    }
+    Scene const crowd = [&](QPainter& painter, Transformation const& t) {
+      DrawTarget target(painter, *t);
+      FillPainter area(target, *fill);
+      MarkerPainter dots(target, *dot), pictures(target, *picture);
+      for (int i = 0; i < 2000; ++i) {
+        if (i % 500 == 0) {
+          area.addRing(coast.data(), static_cast<int>(coast.size() / 2));
+          area.draw();
+        }
+        (i % 400 == 7 ? pictures : dots).draw(worldX(i * 37 % 700 + 0.3), worldY(i * 91 % 500 + 0.7));
+      }
+    };
+    Scene const clipped = [&](QPainter& painter, Transformation const& t) {
+      painter.setClipRect(painter.viewport());
+      crowd(painter, t);
+    };
+    QImage const onePainters = sheet(1).drawn(clipped);
+    QVERIFY(ink(onePainters).pixels > 100000);
+    for (int i = 0; i < 5; ++i) {
+      Difference const found = difference(onePainters, sheet(1).drawn(crowd));
+      QVERIFY2(found.pixels == 0, qPrintable(found.text()));
+    }
+  }
+
   // A painter that is moved and clipped, as that of a widget, shows the same.
   void movedAndClippedPainterShowsTheSame() {
     Scene const scene = area(SimpleFillStyle::Cross, blob(280),

@@ -1,14 +1,19 @@
 #include "ElementContainer.h"
 
 #include "EditorRecord.h"
+#include "TextElement.h"
+
+#include "host/SysDisplay/DrawTarget.h"
 
 #include <QSet>
 
 #include <algorithm>
+#include <optional>
 
 namespace SysCarto {
 
 using SysDisplay::DisplayTransformation;
+using SysDisplay::DrawTarget;
 using SysGeometry::Envelope;
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
@@ -164,8 +169,15 @@ void ElementContainer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> con
   if (phase != 1 || !transformation) return;
   _ptr_t<Envelope> const area = drawnArea(*transformation);
   auto const elements = order_.elements;  // as they are now, whatever drawing them does
+  std::optional<DrawTarget> texts;        // shared by those that follow each other, as the many labels of a map do
   for (ElementPtr const& element : elements) {
     if (cancel && cancel->IsCanced()) return;
+    if (auto const* text = dynamic_cast<TextElement const*>(element.get())) {
+      if (!texts) texts.emplace(painter, *transformation);
+      text->drawOn(*texts);
+      continue;
+    }
+    texts.reset();
     if (element->GetBoundary(transformation)->Intersects(area)) element->Draw(painter, transformation, cancel);
   }
 }

@@ -2,12 +2,15 @@
 
 #include "Placement.h"
 
+#include "host/SysDisplay/DrawTarget.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace SysCarto {
 
 using SysDisplay::DisplayTransformation;
+using SysDisplay::DrawTarget;
 using SysDisplay::TextFormat;
 using SysDisplay::TextSymbol;
 using SysGeometry::Envelope;
@@ -90,9 +93,16 @@ _ptr_t<Envelope> TextElement::GetEnvelope() const {
 
 void TextElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
                        _ptr_t<SysUI::TrackerCancel> const&) {
-  if (transformation)
-    symbol_->drawAt(painter, transformation->ToDevice().map(QPointF(x_, y_)), transformation->PixelsPerPoint(), angle_,
-                    text_);
+  if (!transformation) return;
+  DrawTarget target(painter, *transformation);
+  drawOn(target);
+}
+
+void TextElement::drawOn(DrawTarget& target) const {
+  QPointF const position = target.toDevice().map(QPointF(x_, y_));
+  double const scale = target.pixelsPerPoint();
+  QRectF const pixels(position + boundsPt().topLeft() * scale, boundsPt().size() * scale);
+  if (pixels.adjusted(-1, -1, 1, 1).intersects(target.area())) symbol_->drawAt(target, position, angle_, text_);
 }
 
 _ptr_t<Geometry> TextElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {

@@ -43,6 +43,10 @@ public:
   SysUtility::_ptr_t<SysGeometry::Envelope> GetEnvelope() const override;
   void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
             SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) override;
+
+  /// `Draw` with a target that several texts share.
+  void drawOn(SysDisplay::DrawTarget& target) const;
+
   SysUtility::_ptr_t<SysGeometry::Geometry> GetBoundary(
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   SysUtility::_ptr_t<Element> Clone() const override;

@@ -1,0 +1,259 @@
+#include "FillQueue.h"
+
+#include "host/SysDisplay/DevicePath.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QThread>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+
+namespace SysDisplay {
+
+namespace {
+
+// The rasteriser has room for few cells at a time, and goes through all edges of a polygon again for every few rows;
+// so a band is low even where few threads share the work.
+constexpr int bandRows = 64;
+
+constexpr size_t batchPoints = 4096;
+constexpr size_t mostBatches = 64;  // that wait: some megabytes
+
+// A polygon with fewer points is not worth a look at which of them concern a band.
+constexpr int pointsWorthDropping = 64;
+
+// Half of the widest polygon that the rasteriser's 32 bit arithmetic can take.
+constexpr double halfBoxPx = 16000.0;
+
+// One side of a box: positive distances are inside.
+struct Side {
+  double a, b, c;
+  double distance(QPointF const& p) const { return a * p.x() + b * p.y() + c; }
+};
+
+std::vector<QPointF> cut(std::vector<QPointF> const& ring, Side const& side) {
+  std::vector<QPointF> kept;
+  for (size_t i = 0; i < ring.size(); ++i) {
+    QPointF const& from = ring[i];
+    QPointF const& to = ring[(i + 1) % ring.size()];
+    double const d1 = side.distance(from), d2 = side.distance(to);
+    if (d1 >= 0) kept.push_back(from);
+    if ((d1 >= 0) != (d2 >= 0)) kept.push_back(from + (to - from) * (d1 / (d1 - d2)));
+  }
+  return kept;
+}
+
+void cutToBox(PointRuns& rings, QRectF const& box) {
+  std::array<Side, 4> const sides{
+      {{1, 0, -box.left()}, {-1, 0, box.right()}, {0, 1, -box.top()}, {0, -1, box.bottom()}}};
+  PointRuns result;
+  for (int i = 0; i < rings.count(); ++i) {
+    std::vector<QPointF> ring(rings.run(i), rings.run(i) + rings.size(i));
+    for (Side const& side : sides) ring = cut(ring, side);
+    for (QPointF const& point : ring) result.add(point);
+    result.endRun();
+  }
+  std::swap(rings, result);
+}
+
+bool isMovedByWholePixels(QTransform const& transform) {
+  return transform.type() <= QTransform::TxTranslate && transform.dx() == std::floor(transform.dx()) &&
+         transform.dy() == std::floor(transform.dy());
+}
+
+// The image on which a painter draws, where several painters may as well draw on parts of it.
+std::optional<QImage> sharedImage(QPainter const& painter) {
+  if (!painter.device() || painter.device()->devType() != QInternal::Image) return std::nullopt;
+  auto const& image = *static_cast<QImage const*>(painter.device());
+  if (image.depth() != 32 || image.devicePixelRatio() != 1 || painter.hasClipping() || painter.opacity() != 1 ||
+      painter.compositionMode() != QPainter::CompositionMode_SourceOver ||
+      !isMovedByWholePixels(painter.combinedTransform()))
+    return std::nullopt;
+  // Through a constant image, since another one would make a copy of its pixels.
+  auto* const pixels = const_cast<uchar*>(image.constBits());
+  return QImage(pixels, image.width(), image.height(), image.bytesPerLine(), image.format());
+}
+
+}  // namespace
+
+/// Some rows of the image, or all that the queue's painter shows.
+class FillQueue::Band {
+public:
+  explicit Band(QPainter& painter) : painter_(&painter) { prepare(); }
+
+  Band(QImage& image, QTransform const& transform, int firstRow, int rows)
+      : rows_(image.scanLine(firstRow), image.width(), rows, image.bytesPerLine(), image.format()),
+        own_(std::make_unique<QPainter>(&rows_)),
+        painter_(own_.get()),
+        top_(firstRow - transform.dy()),
+        bottom_(top_ + rows) {
+    own_->translate(transform.dx(), -top_);
+    prepare();
+  }
+
+  void paint(Batch const& batch) {
+    for (Fill const& fill : batch.fills)
+      if (fill.bounds.bottom() > top_ && fill.bounds.top() < bottom_) paint(batch.rings, fill);
+  }
+
+  size_t next = 0;  // of the batches
+  bool busy = false;
+
+private:
+  void prepare() {
+    painter_->setRenderHint(QPainter::Antialiasing);
+    painter_->setPen(Qt::NoPen);
+    QPointF const centre = QRectF(painter_->viewport()).center() -
+                           QPointF(painter_->combinedTransform().dx(), painter_->combinedTransform().dy());
+    QPointF const middle(std::round(centre.x()), std::round(centre.y()));
+    box_ = QRectF(middle - QPointF(halfBoxPx, halfBoxPx), middle + QPointF(halfBoxPx, halfBoxPx));
+  }
+
+  void paint(PointRuns const& rings, Fill const& fill) {
+    if (color_ != fill.color) painter_->setBrush(fill.color);
+    color_ = fill.color;
+    bool const fits = box_.contains(fill.bounds);
+    bool const reachesBeyond = fill.bounds.top() < top_ || fill.bounds.bottom() > bottom_;
+    int const points = rings.ends[fill.lastRun] - (fill.firstRun ? rings.ends[fill.firstRun - 1] : 0);
+    if (fits && !(reachesBeyond && points >= pointsWorthDropping))
+      return draw(rings, fill.firstRun, fill.lastRun, fill.rule);
+    part_.clear();
+    QRectF const rows(-farthestPx, top_, 2 * farthestPx, bottom_ - top_);
+    for (int i = fill.firstRun; i <= fill.lastRun; ++i) dropBeyond(rings.run(i), rings.size(i), rows, part_);
+    if (!fits) cutToBox(part_, box_);
+    if (!part_.isEmpty()) draw(part_, 0, part_.count() - 1, fill.rule);
+  }
+
+  void draw(PointRuns const& rings, int first, int last, Qt::FillRule rule) {
+    // A polygon of few points might be taken for a rectangle, which the raster engine draws in another way.
+    if (first == last && rings.size(first) > 5) {
+      painter_->drawPolygon(rings.run(first), rings.size(first), rule);
+      return;
+    }
+    path_.clear();
+    path_.setFillRule(rule);
+    path_.reserve(rings.ends[last] - (first ? rings.ends[first - 1] : 0) + 1);
+    for (int i = first; i <= last; ++i) {
+      QPointF const* points = rings.run(i);
+      path_.moveTo(points[0]);
+      for (int j = 1; j < rings.size(i); ++j) path_.lineTo(points[j]);
+    }
+    painter_->drawPath(path_);
+  }
+
+  QImage rows_;
+  std::unique_ptr<QPainter> own_;
+  QPainter* painter_;
+  double top_ = -farthestPx, bottom_ = farthestPx;  // in the painter's coordinates
+  QRectF box_;
+  QColor color_;  // of the painter's brush; invalid at first
+  PointRuns part_;
+  QPainterPath path_;
+};
+
+FillQueue::FillQueue(QPainter& painter) : painter_(painter) {}
+
+FillQueue::~FillQueue() {
+  finish();
+  std::unique_lock<std::mutex> lock(mutex_);
+  ends_ = true;
+  changed_.notify_all();
+  changed_.wait(lock, [this] { return helpers_ == 0; });
+}
+
+void FillQueue::add(PointRuns const& rings, QColor const& color, Qt::FillRule rule) {
+  if (rings.isEmpty() || color.alpha() == 0) return;
+  int const before = open_.rings.count();
+  open_.rings.append(rings);
+  open_.fills.push_back({before, open_.rings.count() - 1, rings.bounds(), color, rule});
+  if (open_.rings.points.size() >= batchPoints) publish();
+}
+
+void FillQueue::publish() {
+  if (bands_.empty()) cutIntoBands();
+  auto batch = std::make_unique<Batch>(std::move(open_));
+  open_ = Batch();
+  size_t waiting;
+  {
+    std::lock_guard<std::mutex> const lock(mutex_);
+    batches_.push_back(std::move(batch));
+    waiting = batches_.size();
+  }
+  if (bands_.size() == 1 || waiting > mostBatches) return finish();
+  changed_.notify_one();
+  if (waiting == 1) callHelpers();
+}
+
+void FillQueue::cutIntoBands() {
+  auto image = sharedImage(painter_);
+  int const rows = image ? image->height() : 0;
+  for (int row = 0; row < rows; row += bandRows)
+    bands_.push_back(std::make_unique<Band>(*image, painter_.combinedTransform(), row, std::min(bandRows, rows - row)));
+  if (bands_.empty()) bands_.push_back(std::make_unique<Band>(painter_));
+}
+
+void FillQueue::callHelpers() {
+  int const wanted = std::min(QThread::idealThreadCount(), static_cast<int>(bands_.size())) - 1;
+  while (helpers_ < wanted) {
+    {
+      std::lock_guard<std::mutex> const lock(mutex_);
+      ++helpers_;
+    }
+    if (QThreadPool::globalInstance()->tryStart([this] { help(); })) continue;
+    std::lock_guard<std::mutex> const lock(mutex_);
+    --helpers_;
+    return;
+  }
+}
+
+void FillQueue::help() {
+  std::unique_lock<std::mutex> lock(mutex_);
+  while (!ends_)
+    if (!paintOne(lock)) changed_.wait(lock);
+  --helpers_;
+  changed_.notify_all();
+}
+
+// Paints one batch onto the band that is furthest behind. False where all that can be painted is being painted.
+bool FillQueue::paintOne(std::unique_lock<std::mutex>& lock) {
+  Band* behind = nullptr;
+  for (auto const& band : bands_)
+    if (!band->busy && band->next < batches_.size() && (!behind || band->next < behind->next)) behind = band.get();
+  if (!behind) return false;
+  behind->busy = true;
+  Batch const& batch = *batches_[behind->next];
+  lock.unlock();
+  behind->paint(batch);
+  lock.lock();
+  behind->busy = false;
+  ++behind->next;
+  changed_.notify_all();
+  return true;
+}
+
+bool FillQueue::isPainted() const {
+  return std::all_of(bands_.begin(), bands_.end(), [this](auto const& band) { return band->next == batches_.size(); });
+}
+
+void FillQueue::finish() {
+  if (!open_.fills.empty()) {
+    if (bands_.empty()) {
+      Band(painter_).paint(open_);
+      open_ = Batch();
+    } else {
+      publish();
+    }
+  }
+  std::unique_lock<std::mutex> lock(mutex_);
+  while (!isPainted())
+    if (!paintOne(lock)) changed_.wait(lock);
+  batches_.clear();
+  for (auto const& band : bands_) band->next = 0;
+}
+
+}  // namespace SysDisplay

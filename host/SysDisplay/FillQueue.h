@@ -1,0 +1,69 @@
+#pragma once
+
+#include "host/SysDisplay/PointRuns.h"
+
+#include <QColor>
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+class QPainter;
+
+namespace SysDisplay {
+
+/// Fills on their way to a painter, in the order in which they are added.
+///
+/// Where the painter draws on an image in memory, without clipping, the image is cut into bands of rows, and helpers
+/// from Qt's pool of threads rasterise a band each while more is added. What a band shows is what the image would
+/// show, to the last bit. Everywhere else, and where little is to be drawn, the painter itself does it.
+///
+/// While fills are waiting, nothing else may draw on the image. Belongs to one thread, as the painter does.
+class SYSDISPLAY_EXPORT FillQueue {
+public:
+  /// The painter must outlive the queue, which leaves it with another pen, brush and antialiasing.
+  explicit FillQueue(QPainter& painter);
+  ~FillQueue();
+  FillQueue(FillQueue const&) = delete;
+  FillQueue& operator=(FillQueue const&) = delete;
+
+  /// Fills the runs as rings in one colour, antialiased. Points should lie on the 1/64 pixel grid. What lies too far
+  /// from the device for QPainter is cut off.
+  void add(PointRuns const& rings, QColor const& color, Qt::FillRule rule);
+
+  /// When it returns, all that was added is drawn.
+  void finish();
+
+private:
+  class Band;
+  struct Fill {
+    int firstRun, lastRun;  // of the batch's rings
+    QRectF bounds;
+    QColor color;
+    Qt::FillRule rule;
+  };
+  struct Batch {
+    PointRuns rings;
+    std::vector<Fill> fills;
+  };
+
+  void publish();
+  void cutIntoBands();
+  void callHelpers();
+  void help();
+  bool paintOne(std::unique_lock<std::mutex>& lock);
+  bool isPainted() const;
+
+  QPainter& painter_;
+  Batch open_;
+  std::vector<std::unique_ptr<Band>> bands_;
+
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  std::vector<std::unique_ptr<Batch>> batches_;  // published; painted band by band, in their order
+  int helpers_ = 0;
+  bool ends_ = false;
+};
+
+}  // namespace SysDisplay
