@@ -95,6 +95,33 @@ private:
   unsigned shared_ = 0;
 };
 
+// Tells which stretches of a run are not needed to draw an area.
+class StretchSkipper {
+public:
+  StretchSkipper(QTransform const& toDevice, WorldRun const& run, QRectF const& area) : run_(run) {
+    constexpr double roundingPx = 1;
+    if (!run.stretches || run.stretchCount() < 4) return;
+    QRectF const needed =
+        toDevice.inverted(&knows_).mapRect(area.adjusted(-roundingPx, -roundingPx, roundingPx, roundingPx));
+    needed_ = {needed.left(), needed.top(), needed.right(), needed.bottom()};
+  }
+
+  // The neighbours, too, shape what is drawn: a join takes its direction from the segments on both sides.
+  bool skips(int stretch) const {
+    return knows_ && !isNeeded(stretch - 1) && !isNeeded(stretch) && !isNeeded(stretch + 1);
+  }
+
+private:
+  bool isNeeded(int stretch) const {
+    int const count = run_.stretchCount();
+    return run_.stretches[(stretch + count) % count].meets(needed_);
+  }
+
+  WorldRun const& run_;
+  bool knows_ = false;
+  SysGeometry::Box needed_;
+};
+
 // The line with its long segments divided.
 std::vector<QPointF> divided(std::vector<QPointF> const& line, bool closed, QRectF const& area, Anchor const& anchor) {
   std::vector<QPointF> result;
@@ -138,7 +165,7 @@ Anchor anchorOf(QTransform const& toDevice) {
   return {QPointF(toDevice.dx(), toDevice.dy()), shared > 0 && std::isfinite(shared) ? scale / shared : 1.0};
 }
 
-void toDevicePoints(QTransform const& toDevice, double const* xy, int count, double thinPx,
+void toDevicePoints(QTransform const& toDevice, WorldRun const& run, QRectF const& area, double thinPx,
                     std::vector<QPointF>& points) {
   points.clear();
   double const m11 = toDevice.m11(), m12 = toDevice.m12(), m21 = toDevice.m21(), m22 = toDevice.m22();
@@ -147,17 +174,25 @@ void toDevicePoints(QTransform const& toDevice, double const* xy, int count, dou
   double lastX = std::numeric_limits<double>::infinity(), lastY = lastX;
   QPointF end;
   bool endIsKept = true;
-  for (int i = 0; i < count; ++i) {
-    double const wx = xy[2 * i], wy = xy[2 * i + 1];
+  auto const add = [&](int i, double nearest) {
+    double const wx = run.xy[2 * i], wy = run.xy[2 * i + 1];
     double x = m11 * wx + m21 * wy + dx, y = m12 * wx + m22 * wy + dy;
-    if (!std::isfinite(x) || !std::isfinite(y)) continue;
+    if (!std::isfinite(x) || !std::isfinite(y)) return;
     x = snapped(std::clamp(x, -farthestPx, farthestPx));
     y = snapped(std::clamp(y, -farthestPx, farthestPx));
-    endIsKept = !(std::abs(x - lastX) < thin && std::abs(y - lastY) < thin);
+    endIsKept = !(std::abs(x - lastX) < nearest && std::abs(y - lastY) < nearest);
     if (endIsKept)
       points.push_back(QPointF(lastX = x, lastY = y));
     else
       end = QPointF(x, y);
+  };
+  StretchSkipper const skipper(toDevice, run, area);
+  for (int stretch = 0; stretch < run.stretchCount(); ++stretch) {
+    int const first = stretch * WorldRun::stretchLength;
+    add(first, 1.0 / 128);
+    if (skipper.skips(stretch)) continue;
+    int const last = std::min(first + WorldRun::stretchLength, run.count);
+    for (int i = first + 1; i < last; ++i) add(i, thin);
   }
   if (!endIsKept && end != points.back()) points.push_back(end);
 }

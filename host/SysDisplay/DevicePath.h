@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysDisplay/PointRuns.h"
+#include "host/SysDisplay/WorldRun.h"
 
 #include <QTransform>
 
@@ -29,11 +30,15 @@ SYSDISPLAY_EXPORT Anchor anchorOf(QTransform const& toDevice);
 /// Device coordinates lie within this distance of 0, the range in which `snapped` is exact.
 constexpr double farthestPx = 1e12;
 
-/// `count` world coordinate pairs as snapped device points. Neighbours that fall onto one point are merged; with
-/// `thinPx`, so is a point that lies nearer than that to the last one kept, but for the end. Pairs that are not finite
-/// are left out. The work starts at the first pair and looks at no tile, so the result is the same in every tile.
-SYSDISPLAY_EXPORT void toDevicePoints(QTransform const& toDevice, double const* xy, int count, double thinPx,
-                                      std::vector<QPointF>& points);
+/// The vertices of a run as snapped device points. Neighbours that fall onto one point are merged; with `thinPx`, so is
+/// a point that lies nearer than that to the last one kept, but for the end and the first of a stretch. Pairs that are
+/// not finite are left out.
+///
+/// Of a stretch that lies beyond one side of `area` (device pixels), as its neighbours do, only the first vertex stays.
+/// Everything else looks at no tile, so what is within the area is the same in every tile, with the segments before and
+/// after it.
+SYSDISPLAY_EXPORT void toDevicePoints(QTransform const& toDevice, WorldRun const& run, QRectF const& area,
+                                      double thinPx, std::vector<QPointF>& points);
 
 /// Brings a ring to what matters within `area`: of neighbouring vertices that lie beyond the same side only the first
 /// and the last stay. Inside the area the ring stays as it is, vertex for vertex. Long segments are

@@ -62,16 +62,16 @@ FillPainter::FillPainter(DrawTarget& target, FillSymbol const& symbol)
 bool FillPainter::isVisible() const { return fills() || outline_; }
 double FillPainter::reachPx() const { return outline_ ? std::max(1.0, outline_->reachPx()) : 1.0; }
 
-void FillPainter::addRing(double const* xy, int count, bool outlined) {
+void FillPainter::addRing(WorldRun const& run, bool outlined) {
   if (fills()) {
-    toDevicePoints(target_.toDevice(), xy, count, 0, ring_);
+    toDevicePoints(target_.toDevice(), run, area_, 0, ring_);
     if (ring_.size() > 2) clipRing(ring_, area_, target_.anchor(), rings_);
   }
-  if (outline_ && outlined) outline_->addRing(xy, count);
+  if (outline_ && outlined) outline_->addRing(run);
 }
 
-void FillPainter::addOutline(double const* xy, int count) {
-  if (outline_) outline_->addLine(xy, count);
+void FillPainter::addOutline(WorldRun const& run) {
+  if (outline_) outline_->addLine(run);
 }
 
 void FillPainter::draw() {

@@ -22,12 +22,11 @@ public:
   /// How far from the polygon the outline may reach, in pixels.
   double reachPx() const;
 
-  /// `xy` holds `count` pairs, x first; the first may be repeated at the end. Without `outlined` the ring is only
-  /// filled, and the caller adds those of its edges that are to be stroked.
-  void addRing(double const* xy, int count, bool outlined = true);
+  /// Without `outlined` the ring is only filled, and the caller adds those of its edges that are to be stroked.
+  void addRing(WorldRun const& run, bool outlined = true);
 
   /// A run of edges that belongs to the outline and not to the area.
-  void addOutline(double const* xy, int count);
+  void addOutline(WorldRun const& run);
 
   /// Draws what was added and forgets it.
   void draw();

@@ -72,12 +72,14 @@ LinePainter::LinePainter(DrawTarget& target, LineSymbol const& symbol)
 
 double LinePainter::reachPx() const { return stroker_.reachPx() + std::abs(offsetPx_) * 2; }
 
-void LinePainter::addLine(double const* xy, int count) { add(xy, count, false); }
-void LinePainter::addRing(double const* xy, int count) { add(xy, count, true); }
+void LinePainter::addLine(WorldRun const& run) { add(run, false); }
+void LinePainter::addRing(WorldRun const& run) { add(run, true); }
 
-void LinePainter::add(double const* xy, int count, bool closed) {
+void LinePainter::add(WorldRun const& run, bool closed) {
   if (!visible_) return;
-  toDevicePoints(target_.toDevice(), xy, count, thinPx, line_);
+  // Where a dash begins, and how far a line moved to its side reaches, depends on what comes before.
+  bool const needsAll = !dashes_.empty() || offsetPx_ != 0;
+  toDevicePoints(target_.toDevice(), needsAll ? WorldRun{run.xy, run.count} : run, area_, thinPx, line_);
   addDevice(line_, closed);
 }
 

@@ -21,9 +21,8 @@ public:
   /// How far from its line the symbol may reach, in pixels.
   double reachPx() const;
 
-  /// `xy` holds `count` pairs, x first.
-  void addLine(double const* xy, int count);
-  void addRing(double const* xy, int count);
+  void addLine(WorldRun const& run);
+  void addRing(WorldRun const& run);
 
   /// The same from points as `toDevicePoints` makes them.
   void addDevice(std::vector<QPointF> const& points, bool closed);
@@ -32,7 +31,7 @@ public:
   void draw();
 
 private:
-  void add(double const* xy, int count, bool closed);
+  void add(WorldRun const& run, bool closed);
   void stroke(std::vector<QPointF> const& line, bool closed);
 
   DrawTarget& target_;

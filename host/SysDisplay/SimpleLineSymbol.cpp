@@ -16,9 +16,9 @@ namespace {
 
 void add(LinePainter& line, GeometryPart const& part) {
   if (part.closed)
-    line.addRing(part.xy(), part.count);
+    line.addRing({part.xy(), part.count});
   else
-    line.addLine(part.xy(), part.count);
+    line.addLine({part.xy(), part.count});
 }
 
 }  // namespace

@@ -78,6 +78,32 @@ Scene area(SimpleFillStyle style, QVector<QVector<QPointF>> const& rings, _ptr_t
   return [=](QPainter& painter, Transformation const& t) { symbol->Draw(painter, t, geometry); };
 }
 
+// A ring, and a line beside it, of many vertices whose stretches are known.
+Scene longRuns(_ptr_t<SimpleLineSymbol> const& symbol) {
+  auto const fill = make<SimpleFillSymbol>();
+  fill->SetOutlineSymbol(symbol);
+  return [=](QPainter& painter, Transformation const& t) {
+    std::vector<double> xy;
+    for (int i = 0; i < 5000; ++i) {
+      double const angle = i * M_PI / 2500, r = 300 + 30 * std::sin(90 * angle) + i * 7 % 4;
+      xy.insert(xy.end(), {worldX(350 + r * std::cos(angle)), worldY(250 + r * std::sin(angle))});
+    }
+    WorldRun run{xy.data(), 5000};
+    auto const stretches = stretchesOf(run);
+    run.stretches = stretches.data();
+    DrawTarget target(painter, *t);
+    FillPainter area(target, *fill);
+    area.addRing(run);
+    area.draw();
+    LinePainter beside(target, *symbol);
+    for (int i = 0; i < 5000; ++i) xy[2 * i] += 40 * unitsPerPx;
+    auto const moved = stretchesOf(run);
+    run.stretches = moved.data();
+    beside.addLine(run);
+    beside.draw();
+  };
+}
+
 Scene markers(_ptr_t<MarkerSymbol> const& symbol) {
   return [=](QPainter& painter, Transformation const& t) {
     DrawTarget target(painter, *t);
@@ -132,6 +158,9 @@ private slots:
     moved->SetOffset(9);
     row("line beside its course", lines(moved, {zigzag(90, 17), far}));
     row("area and outline", area(SimpleFillStyle::Solid, blob(280), line(S::Solid, 1.3, C::Round, J::Round)));
+    row("long runs", longRuns(line(S::Solid, 1.3, C::Round, J::Round)));
+    row("long runs with wide joins", longRuns(line(S::Solid, 9, C::Butt, J::Miter)));
+    row("long runs with dashes", longRuns(line(S::Dash, 1.3, C::Butt, J::Round)));
     row("area all around the image", area(SimpleFillStyle::Solid, blob(1500), line(S::Solid, 9, C::Round, J::Miter)));
     row("area with very far corners", area(SimpleFillStyle::Solid, farRing, line(S::Solid, 3, C::Butt, J::Miter)));
     char const* const hatches[] = {"level hatch",  "upright hatch", "falling hatch",
@@ -200,7 +229,7 @@ private slots:
       MarkerPainter dots(target, *dot), pictures(target, *picture);
       for (int i = 0; i < 2000; ++i) {
         if (i % 500 == 0) {
-          area.addRing(coast.data(), static_cast<int>(coast.size() / 2));
+          area.addRing({coast.data(), static_cast<int>(coast.size() / 2)});
           area.draw();
         }
         (i % 400 == 7 ? pictures : dots).draw(worldX(i * 37 % 700 + 0.3), worldY(i * 91 % 500 + 0.7));

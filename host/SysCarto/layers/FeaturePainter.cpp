@@ -21,9 +21,9 @@ public:
 private:
   void add(Part const& part) override {
     switch (part.kind) {
-      case PartKind::Ring: return painter_.addRing(part.xy, part.count);
-      case PartKind::FilledRing: return painter_.addRing(part.xy, part.count, false);
-      case PartKind::Outline: return painter_.addOutline(part.xy, part.count);
+      case PartKind::Ring: return painter_.addRing(part.run());
+      case PartKind::FilledRing: return painter_.addRing(part.run(), false);
+      case PartKind::Outline: return painter_.addOutline(part.run());
       case PartKind::Line:
       case PartKind::Point: return;
     }
@@ -41,8 +41,8 @@ public:
 
 private:
   void add(Part const& part) override {
-    if (part.kind == PartKind::Ring) painter_.addRing(part.xy, part.count);
-    if (part.kind == PartKind::Line || part.kind == PartKind::Outline) painter_.addLine(part.xy, part.count);
+    if (part.kind == PartKind::Ring) painter_.addRing(part.run());
+    if (part.kind == PartKind::Line || part.kind == PartKind::Outline) painter_.addLine(part.run());
   }
   void draw() override { painter_.draw(); }
 

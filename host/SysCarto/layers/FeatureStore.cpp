@@ -6,23 +6,6 @@
 
 namespace SysCarto {
 
-void Box::add(double x, double y) {
-  xmin = std::min(xmin, x);
-  xmax = std::max(xmax, x);
-  ymin = std::min(ymin, y);
-  ymax = std::max(ymax, y);
-}
-
-void Box::add(double const* xy, int count) {
-  for (int i = 0; i < count; ++i) add(xy[2 * i], xy[2 * i + 1]);
-}
-
-void Box::add(Box const& other) {
-  if (other.isEmpty()) return;
-  add(other.xmin, other.ymin);
-  add(other.xmax, other.ymax);
-}
-
 FeatureStore::FeatureStore() = default;
 FeatureStore::~FeatureStore() = default;
 
@@ -35,7 +18,7 @@ void FeatureStore::addPart(PartKind kind, double const* xy, int count) {
   double* const room = vertices_.room(count);
   std::copy_n(xy, 2 * static_cast<size_t>(count), room);
   vertices_.keep(count);
-  Part part{room, count, kind, polygonStarts_, Box()};
+  Part part{room, count, kind, polygonStarts_, Box(), nullptr};
   part.box.add(xy, count);
   current_.box.add(part.box);
   parts.push_back(part);

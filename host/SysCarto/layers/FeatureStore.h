@@ -1,12 +1,12 @@
 #pragma once
 
 #include "host/SysCarto/layers/VertexPool.h"
+#include "host/SysDisplay/WorldRun.h"
 
 #include <SysCarto/Export.h>
 
 #include <QString>
 
-#include <limits>
 #include <memory>
 #include <vector>
 
@@ -14,21 +14,7 @@ namespace SysCarto {
 
 class BoxTree;
 
-/// A rectangle in map units; without a point in it until one is added.
-struct SYSCARTO_EXPORT Box {
-  double xmin = std::numeric_limits<double>::infinity(), ymin = xmin, xmax = -xmin, ymax = -xmin;
-
-  bool isEmpty() const { return !(xmin <= xmax && ymin <= ymax); }
-  void add(double x, double y);
-  void add(double const* xy, int count);
-  void add(Box const& other);
-  bool meets(Box const& other) const {
-    return xmin <= other.xmax && other.xmin <= xmax && ymin <= other.ymax && other.ymin <= ymax;
-  }
-  bool contains(double x, double y) const { return x >= xmin && x <= xmax && y >= ymin && y <= ymax; }
-  bool contains(Box const& other) const { return contains(other.xmin, other.ymin) && contains(other.xmax, other.ymax); }
-  Box grown(double distance) const { return {xmin - distance, ymin - distance, xmax + distance, ymax + distance}; }
-};
+using SysGeometry::Box;
 
 /// A ring that is filled and stroked; one that is only filled, since some of its edges come from a cut; a run of its
 /// other edges, which is only stroked; a line; a point.
@@ -40,6 +26,9 @@ struct Part {
   PartKind kind;
   bool startsPolygon;  ///< the first ring of a polygon; its holes and outlines follow
   Box box;
+  Box const* stretches = nullptr;  ///< as of a `WorldRun`
+
+  SysDisplay::WorldRun run() const { return {xy, count, stretches}; }
 };
 
 struct Feature {

@@ -38,6 +38,7 @@ void ThinnedFeatures::setResolution(double unitsPerPixel) {
   places_.assign(store_.features.size(), Place());
   parts_.clear();
   vertices_.clear();
+  stretches_.clear();
 }
 
 ThinnedFeatures::Range ThinnedFeatures::parts(int feature) {
@@ -59,6 +60,8 @@ void ThinnedFeatures::thin(int feature) {
     if (part.count < fewestVertices(part.kind)) continue;
     vertices_.keep(part.count);
     part.xy = room;
+    stretches_.push_back(SysDisplay::stretchesOf(part.run()));
+    part.stretches = stretches_.back().empty() ? nullptr : stretches_.back().data();
     part.startsPolygon = startsPolygon;
     startsPolygon = false;
     parts_.push_back(part);

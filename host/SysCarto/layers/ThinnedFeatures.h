@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/layers/FeatureStore.h"
 
+#include <deque>
 #include <vector>
 
 namespace SysCarto {
@@ -42,6 +43,7 @@ private:
   std::vector<Place> places_;
   std::vector<Part> parts_;
   VertexPool vertices_;
+  std::deque<std::vector<Box>> stretches_;  // of the parts that have several
 };
 
 }  // namespace SysCarto
