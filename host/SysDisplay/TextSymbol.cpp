@@ -45,6 +45,12 @@ public:
     return all;
   }
 
+  template <class Visit>
+  void visitGlyphs(Visit const& visit) const {
+    for (size_t i = 0; i < text_.lines.size(); ++i)
+      for (PlacedGlyph const& placed : text_.lines[i].glyphs) visit(*placed.glyph, start(i) + placed.place);
+  }
+
 private:
   double lineHeight() const { return (text_.ascent + text_.descent) * format_.lineSpacing; }
 
@@ -52,6 +58,12 @@ private:
   ShapedText const& text_;
   double firstBaseline_ = 0;
 };
+
+QRectF inPoints(QRectF const& box, TextFormat const& format) {
+  if (box.isNull()) return QRectF();
+  double const halo = format.haloSize;
+  return QRectF(box.topLeft() * format.size, box.size() * format.size).adjusted(-halo, -halo, halo, halo);
+}
 
 }  // namespace
 
@@ -83,26 +95,18 @@ _ptr_t<SysGeometry::Envelope> TextSymbol::QueryBoundary(_ptr_t<DisplayTransforma
   return nullptr;
 }
 
-template <class Visit>
-void TextSymbol::visitGlyphs(QString const& text, Visit const& visit) const {
-  auto const shaped = shapedText(format_, fontKey_, text);
-  Block const block(format_, *shaped);
-  for (size_t i = 0; i < shaped->lines.size(); ++i)
-    for (PlacedGlyph const& placed : shaped->lines[i].glyphs) visit(*placed.glyph, block.start(i) + placed.place);
-}
-
 QPainterPath TextSymbol::outline(QString const& text) const {
   QPainterPath path;
   path.setFillRule(Qt::WindingFill);
-  visitGlyphs(text, [&](Glyph const& glyph, QPointF const& place) { path.addPath(glyph.outline().translated(place)); });
+  auto const shaped = shapedText(format_, fontKey_, text);
+  Block(format_, *shaped).visitGlyphs([&](Glyph const& glyph, QPointF const& place) {
+    path.addPath(glyph.outline().translated(place));
+  });
   return QTransform::fromScale(format_.size, format_.size).map(path);
 }
 
 QRectF TextSymbol::bounds(QString const& text) const {
-  QRectF const box = Block(format_, *shapedText(format_, fontKey_, text)).bounds();
-  if (box.isNull()) return QRectF();
-  double const halo = format_.haloSize;
-  return QRectF(box.topLeft() * format_.size, box.size() * format_.size).adjusted(-halo, -halo, halo, halo);
+  return inPoints(Block(format_, *shapedText(format_, fontKey_, text)).bounds(), format_);
 }
 
 double TextSymbol::leastWidth(QString const& text) const {
@@ -112,7 +116,9 @@ double TextSymbol::leastWidth(QString const& text) const {
 void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angleDegrees, QString const& text) const {
   double const emPx = format_.size * target.pixelsPerPoint();
   if (emPx <= 0 || !std::isfinite(position.x()) || !std::isfinite(position.y())) return;
-  QRectF const box = bounds(text);
+  auto const shaped = shapedText(format_, fontKey_, text);
+  Block const block(format_, *shaped);
+  QRectF const box = inPoints(block.bounds(), format_);
   if (box.isNull()) return;
   QTransform const turned = QTransform().rotate(-angleDegrees);
   QTransform const points = QTransform(turned).scale(target.pixelsPerPoint(), target.pixelsPerPoint());
@@ -129,11 +135,11 @@ void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angl
   };
   if (format_.haloSize > 0 && format_.haloColor.alpha() > 0) {
     double const size = format_.haloSize / format_.size;
-    visitGlyphs(text, [&](Glyph const& glyph, QPointF const& at) { place(glyph.halo(size, emPx), at); });
+    block.visitGlyphs([&](Glyph const& glyph, QPointF const& at) { place(glyph.halo(size, emPx), at); });
     target.fill(rings, format_.haloColor, Qt::WindingFill);
     rings.clear();
   }
-  visitGlyphs(text, [&](Glyph const& glyph, QPointF const& at) { place(glyph.rings(emPx), at); });
+  block.visitGlyphs([&](Glyph const& glyph, QPointF const& at) { place(glyph.rings(emPx), at); });
   target.fill(rings, format_.color, Qt::WindingFill);
 }
 

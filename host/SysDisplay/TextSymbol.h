@@ -73,9 +73,6 @@ public:
               QString const& text) const;
 
 private:
-  template <class Visit>
-  void visitGlyphs(QString const& text, Visit const& visit) const;
-
   TextFormat format_;
   QString fontKey_;
 };

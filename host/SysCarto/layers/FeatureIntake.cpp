@@ -15,7 +15,10 @@ namespace {
 constexpr size_t batchBytes = 1 << 19;  // of coordinates
 constexpr size_t batchFeatures = 4096;
 
-size_t cores() { return std::max(1U, std::thread::hardware_concurrency()); }
+size_t cores() {
+  static size_t const count = std::max(1U, std::thread::hardware_concurrency());  // it reads a file
+  return count;
+}
 
 }  // namespace
 
