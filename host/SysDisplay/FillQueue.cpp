@@ -97,7 +97,7 @@ std::optional<QImage> sharedImage(QPainter const& painter) {
 /// Some rows of the image, or all that the queue's painter shows.
 class FillQueue::Band {
 public:
-  explicit Band(QPainter& painter) : painter_(&painter), exchanges_(false) { prepare(); }
+  explicit Band(QPainter& painter) : painter_(&painter), exchanges_(false) {}
 
   Band(QImage& image, bool exchanges, QTransform const& transform, int firstRow, int rows)
       : rows_(image.scanLine(firstRow), image.width(), rows, image.bytesPerLine(), image.format()),
@@ -111,6 +111,7 @@ public:
   }
 
   void paint(Batch const& batch) {
+    if (!own_) prepare();  // others draw with that painter in between
     for (Fill const& fill : batch.fills)
       if (fill.bounds.bottom() > top_ && fill.bounds.top() < bottom_) paint(batch.rings, fill);
   }
@@ -122,6 +123,7 @@ private:
   void prepare() {
     painter_->setRenderHint(QPainter::Antialiasing);
     painter_->setPen(Qt::NoPen);
+    color_ = QColor();
     QPointF const centre = QRectF(painter_->viewport()).center() -
                            QPointF(painter_->combinedTransform().dx(), painter_->combinedTransform().dy());
     QPointF const middle(std::round(centre.x()), std::round(centre.y()));

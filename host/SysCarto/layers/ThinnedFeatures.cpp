@@ -60,8 +60,11 @@ void ThinnedFeatures::thin(int feature) {
     if (part.count < fewestVertices(part.kind)) continue;
     vertices_.keep(part.count);
     part.xy = room;
-    stretches_.push_back(SysDisplay::stretchesOf(part.run()));
-    part.stretches = stretches_.back().empty() ? nullptr : stretches_.back().data();
+    std::vector<Box> stretches = SysDisplay::stretchesOf(part.run());
+    if (!stretches.empty()) {
+      stretches_.push_back(std::move(stretches));
+      part.stretches = stretches_.back().data();
+    }
     part.startsPolygon = startsPolygon;
     startsPolygon = false;
     parts_.push_back(part);
