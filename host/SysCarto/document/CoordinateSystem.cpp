@@ -45,9 +45,10 @@ std::unique_ptr<OGRSpatialReference> parse(QString const& text) {
   return system;
 }
 
-}  // namespace
+using SystemPtr = std::unique_ptr<OGRSpatialReference>;
 
-QString checkCoordinateSystem(QString const& definition) {
+// Reads a definition into `system`; answers why it can't be one, with an empty pointer then.
+QString read(QString const& definition, SystemPtr& system) {
   QString const text = definition.trimmed();
   if (text.isEmpty()) return QString();
   if (text.size() > mostCharacters) return translated("is longer than a coordinate system can be");
@@ -56,19 +57,27 @@ QString checkCoordinateSystem(QString const& definition) {
         .arg(text.left(64).simplified());
   if (namesFile(text))
     return translated("names a file, and a document's coordinate system may not; leave out the grid or the file");
-  auto const system = parse(text);
-  if (!system)
+  SystemPtr parsed = parse(text);
+  if (!parsed)
     return translated("“%1” is not a coordinate system that PROJ knows; give a code such as EPSG:8857")
         .arg(text.left(64).simplified());
-  if (!system->IsGeographic() && !system->IsProjected())
+  if (!parsed->IsGeographic() && !parsed->IsProjected())
     return translated("is neither geographic nor projected; leave it empty for plain coordinates");
+  system = std::move(parsed);
   return QString();
 }
 
+}  // namespace
+
+QString checkCoordinateSystem(QString const& definition) {
+  SystemPtr system;
+  return read(definition, system);
+}
+
 std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definition) {
-  QString const text = definition.trimmed();
-  if (text.isEmpty() || !checkCoordinateSystem(text).isEmpty()) return nullptr;
-  return parse(text);
+  SystemPtr system;
+  read(definition, system);
+  return system;
 }
 
 }  // namespace SysCarto
