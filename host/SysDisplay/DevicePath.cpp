@@ -170,29 +170,41 @@ void toDevicePoints(QTransform const& toDevice, WorldRun const& run, QRectF cons
   points.clear();
   double const m11 = toDevice.m11(), m12 = toDevice.m12(), m21 = toDevice.m21(), m22 = toDevice.m22();
   double const dx = toDevice.dx(), dy = toDevice.dy();
-  double const thin = std::max(thinPx, 1.0 / 128);
-  double lastX = std::numeric_limits<double>::infinity(), lastY = lastX;
-  QPointF end;
-  bool endIsKept = true;
-  auto const add = [&](int i, double nearest) {
+  constexpr double nearest = 1.0 / 128;
+  double const thin = std::max(thinPx, nearest);
+  auto const isNear = [&points](QPointF const& point, double distance) {
+    return !points.empty() && std::abs(point.x() - points.back().x()) < distance &&
+           std::abs(point.y() - points.back().y()) < distance;
+  };
+  auto const at = [&](int i, QPointF& point) {
     double const wx = run.xy[2 * i], wy = run.xy[2 * i + 1];
-    double x = m11 * wx + m21 * wy + dx, y = m12 * wx + m22 * wy + dy;
-    if (!std::isfinite(x) || !std::isfinite(y)) return;
-    x = snapped(std::clamp(x, -farthestPx, farthestPx));
-    y = snapped(std::clamp(y, -farthestPx, farthestPx));
-    endIsKept = !(std::abs(x - lastX) < nearest && std::abs(y - lastY) < nearest);
-    if (endIsKept)
-      points.push_back(QPointF(lastX = x, lastY = y));
-    else
-      end = QPointF(x, y);
+    double const x = m11 * wx + m21 * wy + dx, y = m12 * wx + m22 * wy + dy;
+    point = {snapped(std::clamp(x, -farthestPx, farthestPx)), snapped(std::clamp(y, -farthestPx, farthestPx))};
+    return std::isfinite(x) && std::isfinite(y);
   };
   StretchSkipper const skipper(toDevice, run, area);
+  QPointF point, end;
+  bool endIsKept = true;
+  size_t afterFirst = 0;  // how many points there are up to the first of the stretch before
   for (int stretch = 0; stretch < run.stretchCount(); ++stretch) {
     int const first = stretch * WorldRun::stretchLength;
-    add(first, 1.0 / 128);
+    if (at(first, point)) {
+      // The first of a stretch stays whatever came before, and what is too near to it gives way.
+      while (points.size() > afterFirst && isNear(point, thin)) points.pop_back();
+      if (!isNear(point, nearest)) points.push_back(point);
+      endIsKept = true;
+    }
+    afterFirst = points.size();
     if (skipper.skips(stretch)) continue;
     int const last = std::min(first + WorldRun::stretchLength, run.count);
-    for (int i = first + 1; i < last; ++i) add(i, thin);
+    for (int i = first + 1; i < last; ++i) {
+      if (!at(i, point)) continue;
+      endIsKept = !isNear(point, thin);
+      if (endIsKept)
+        points.push_back(point);
+      else
+        end = point;
+    }
   }
   if (!endIsKept && end != points.back()) points.push_back(end);
 }

@@ -14,8 +14,8 @@ namespace SysDisplay {
 /// The pixels of a painter that can be reached, in its own coordinates: those of its device that it does not clip away.
 SYSDISPLAY_EXPORT QRectF reachableArea(QPainter const& painter);
 
-/// A painter with the mapping of what is drawn on it. Stands for one stretch of drawing: it saves the painter's state
-/// and puts it back at its end, so that in between symbols set pen, brush and antialiasing freely.
+/// A painter with the mapping of what is drawn on it. Stands for one stretch of drawing, and all that is drawn in it
+/// goes through it, since fills are drawn later than they are added. The painter's state is put back at its end.
 ///
 /// The painter may have a transformation of its own that moves by whole pixels, and clipping; both are respected.
 class SYSDISPLAY_EXPORT DrawTarget {
@@ -31,7 +31,8 @@ public:
   /// Fills the runs as rings, by and by.
   void fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule) { fills_.add(rings, color, rule); }
 
-  /// For what is no fill. All fills so far are drawn before.
+  /// For what is no fill; all fills so far are drawn before. Pen, brush and antialiasing may be set, and what else of
+  /// its state is changed is to be put back.
   QPainter& painter() {
     fills_.finish();
     return painter_;

@@ -22,13 +22,19 @@ namespace {
 constexpr int bandRows = 64;
 
 constexpr size_t batchPoints = 1024;
-constexpr size_t mostBatches = 64;  // that wait: some megabytes
+constexpr size_t mostBatches = 64;  // that wait: about a megabyte
 
 // A polygon with fewer points is not worth a look at which of them concern a band.
 constexpr int pointsWorthDropping = 64;
 
 // Half of the widest polygon that the rasteriser's 32 bit arithmetic can take.
 constexpr double halfBoxPx = 16000.0;
+
+// Apart from Qt's own pool, whose threads its work on large images waits for.
+QThreadPool& helperThreads() {
+  static QThreadPool threads;
+  return threads;
+}
 
 // One side of a box: positive distances are inside.
 struct Side {
@@ -110,7 +116,8 @@ public:
     prepare();
   }
 
-  void paint(Batch const& batch) {
+  // Painting that stops half-way can't be taken up again: without memory, the program ends here as elsewhere in Qt.
+  void paint(Batch const& batch) noexcept {
     if (!own_) prepare();  // others draw with that painter in between
     for (Fill const& fill : batch.fills)
       if (fill.bounds.bottom() > top_ && fill.bounds.top() < bottom_) paint(batch.rings, fill);
@@ -201,7 +208,7 @@ void FillQueue::publish() {
     batches_.push_back(std::move(batch));
     waiting = batches_.size();
   }
-  if (bands_.size() == 1 || waiting > mostBatches) return finish();
+  if (bands_.size() == 1 || waiting > mostBatches) return paintAll();
   changed_.notify_one();
   if (waiting == 1) callHelpers();
 }
@@ -216,7 +223,8 @@ void FillQueue::cutIntoBands() {
   if (bands_.empty()) bands_.push_back(std::make_unique<Band>(painter_));
 }
 
-void FillQueue::callHelpers() {
+// Helpers count themselves out only when the queue ends, so that here their number can be read without a lock.
+void FillQueue::callHelpers() noexcept {
   static int const cores = QThread::idealThreadCount();  // each time it is asked, it reads a file
   int const wanted = std::min(cores, static_cast<int>(bands_.size())) - 1;
   while (helpers_ < wanted) {
@@ -224,7 +232,7 @@ void FillQueue::callHelpers() {
       std::lock_guard<std::mutex> const lock(mutex_);
       ++helpers_;
     }
-    if (QThreadPool::globalInstance()->tryStart([this] { help(); })) continue;
+    if (helperThreads().tryStart([this] { help(); })) continue;
     std::lock_guard<std::mutex> const lock(mutex_);
     --helpers_;
     return;
@@ -269,6 +277,10 @@ void FillQueue::finish() {
       publish();
     }
   }
+  paintAll();
+}
+
+void FillQueue::paintAll() {
   std::unique_lock<std::mutex> lock(mutex_);
   while (!isPainted())
     if (!paintOne(lock)) changed_.wait(lock);

@@ -16,13 +16,14 @@ namespace SysDisplay {
 /// Fills on their way to a painter, in the order in which they are added.
 ///
 /// Where the painter draws on an image in memory, without clipping, the image is cut into bands of rows, and helpers
-/// from Qt's pool of threads rasterise a band each while more is added. What a band shows is what the image would
+/// on other threads rasterise a band each while more is added. What a band shows is what the image would
 /// show, to the last bit. Everywhere else, and where little is to be drawn, the painter itself does it.
 ///
-/// While fills are waiting, nothing else may draw on the image. Belongs to one thread, as the painter does.
+/// While fills are waiting, nothing else may draw on the image or change the painter. Belongs to one thread, as the
+/// painter does.
 class SYSDISPLAY_EXPORT FillQueue {
 public:
-  /// The painter must outlive the queue, which leaves it with another pen, brush and antialiasing.
+  /// The painter must outlive the queue, which may leave it with another pen, brush and antialiasing.
   explicit FillQueue(QPainter& painter);
   ~FillQueue();
   FillQueue(FillQueue const&) = delete;
@@ -49,8 +50,9 @@ private:
   };
 
   void publish();
+  void paintAll();
   void cutIntoBands();
-  void callHelpers();
+  void callHelpers() noexcept;
   void help();
   bool paintOne(std::unique_lock<std::mutex>& lock);
   bool isPainted() const;

@@ -25,7 +25,7 @@ namespace {
 constexpr int referencePx = 1024;
 
 // Pieces that replace a curve stray from it by at most the inverse of this, in units of the font's size: a twentieth of
-// a pixel, in steps so that similar sizes share their outlines.
+// a pixel, for the largest fonts some tenths, in steps so that similar sizes share their outlines.
 int finenessFor(double emPx) {
   constexpr double piecesOfPixel = 20;
   return 1 << std::clamp(static_cast<int>(std::ceil(std::log2(piecesOfPixel * emPx))), 6, 14);
@@ -248,7 +248,7 @@ PointRuns const& Glyph::rings(double emPx) const {
 
 // Only the border is widened: what the letter itself covers is drawn over it.
 PointRuns const& Glyph::halo(double size, double emPx) const {
-  int const fineness = finenessFor(emPx) / 4;  // still a fifth of a pixel at the most
+  int const fineness = finenessFor(emPx) / 4;  // a fifth of a pixel
   PointRuns& halo = halos_[{fineness, size}];
   if (halo.isEmpty()) halo = widened(flattened(outline_, 1.0 / fineness), size, 1.0 / fineness);
   return halo;

@@ -247,6 +247,30 @@ private slots:
     }
   }
 
+  // A long line of tiny steps, as a survey leaves it, with a join that shoots far out where it turns. No two vertices
+  // so near to each other may shape one, not even where a stretch begins.
+  void tinyStepsMakeNoSpikes() {
+    std::vector<double> xy;
+    auto noise = [number = 1u]() mutable {
+      number = number * 1664525u + 1013904223u;
+      return (number >> 8) % 1000 * 0.0002 - 0.1;
+    };
+    for (int i = 0; i < 12000; ++i) {
+      double const x = 50 + i * 0.05 + noise(), y = 250 + noise();
+      xy.insert(xy.end(), {worldX(x), worldY(y)});
+    }
+    auto const symbol = line(SimpleLineStyle::Solid, 9, LineCapStyle::Butt, LineJoinStyle::Miter);
+    symbol->SetMiterLimit(10);
+    QImage const drawn = sheet(1).drawn([&](QPainter& painter, Transformation const& t) {
+      DrawTarget target(painter, *t);
+      LinePainter painted(target, *symbol);
+      painted.addLine({xy.data(), static_cast<int>(xy.size() / 2)});
+      painted.draw();
+    });
+    QRect const where = ink(drawn).where;
+    QVERIFY2(where.top() > 240 && where.bottom() < 260, qPrintable(ink(drawn).text()));
+  }
+
   // A painter that is moved and clipped, as that of a widget, shows the same.
   void movedAndClippedPainterShowsTheSame() {
     Scene const scene = area(SimpleFillStyle::Cross, blob(280),
