@@ -18,11 +18,19 @@ struct Outcome {
   QString err;
 };
 
+/// Of the environment; a null value takes one away.
+using Variables = QMap<QString, QString>;
+
 /// A process of `plotvane` that has not been started. Its environment says that there is a display, which there isn't.
-inline void prepare(QProcess& process, QStringList const& arguments, QString const& folder) {
+inline void prepare(QProcess& process, QStringList const& arguments, QString const& folder,
+                    Variables const& variables = {}) {
   auto environment = QProcessEnvironment::systemEnvironment();
   environment.insert("DISPLAY", ":59999");
   environment.insert("QT_QPA_PLATFORM", "xcb");
+  for (auto it = variables.begin(); it != variables.end(); ++it) {
+    environment.insert(it.key(), it.value());
+    if (it.value().isNull()) environment.remove(it.key());
+  }
   process.setProcessEnvironment(environment);
   process.setWorkingDirectory(folder);
   process.setProgram(QStringLiteral(PLOTVANE_BINARY_DIR "/bin/plotvane"));
@@ -35,12 +43,9 @@ inline Outcome finish(QProcess& process) {
           QString::fromUtf8(process.readAllStandardError())};
 }
 
-inline Outcome run(QStringList const& arguments, QString const& folder, QMap<QString, QString> const& variables = {}) {
+inline Outcome run(QStringList const& arguments, QString const& folder, Variables const& variables = {}) {
   QProcess process;
-  prepare(process, arguments, folder);
-  auto environment = process.processEnvironment();
-  for (auto it = variables.begin(); it != variables.end(); ++it) environment.insert(it.key(), it.value());
-  process.setProcessEnvironment(environment);
+  prepare(process, arguments, folder, variables);
   process.start();
   return finish(process);
 }
@@ -56,10 +61,8 @@ public:
     auto const layout = document.GetPageLayout();
     SysCarto::Paper::SetCustomSize(widthCm, heightCm);
     layout->GetPage()->SetFormID(SysCarto::customPageForm);
-    auto const frame = make<SysCarto::MapFrameElement>();
+    auto const frame = in(frameNamed("Countries"), 1.0, 1.0, 7.0, 5.0);
     frame->SetName("World");
-    frame->GetMap()->SetName("Countries");
-    frame->SetGeometry(make<SysGeometry::Envelope>(1.0, 1.0, 7.0, 5.0));
     layout->GetGraphicsContainer()->AddElement(frame);
     if (!document.SaveAs(path(name), true, false)) qFatal("%s", qPrintable(document.GetErrors().join(' ')));
   }
@@ -71,10 +74,8 @@ public:
   void writeVariant(QString const& name, QJsonObject const& values) const {
     QJsonObject json = QJsonDocument::fromJson(contentOf(path("page.kdx"))).object();
     for (auto it = values.begin(); it != values.end(); ++it) {
-      if (it.value().isNull())
-        json.remove(it.key());
-      else
-        json[it.key()] = it.value();
+      json[it.key()] = it.value();
+      if (it.value().isNull()) json.remove(it.key());
     }
     put(path(name), QJsonDocument(json).toJson());
   }

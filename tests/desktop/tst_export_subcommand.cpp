@@ -1,7 +1,7 @@
+#include "Json.h"
 #include "desktop/Executable.h"
 
 #include <QImage>
-#include <QJsonArray>
 
 #include <gdal_priv.h>
 
@@ -16,16 +16,6 @@ namespace {
 // 8 × 6 cm at 300 DPI.
 constexpr int width = 944;
 constexpr int height = 708;
-// Runs the export in a shell that lets no file grow beyond a size: a write then comes back short, as on a full disk.
-Outcome exportWithFileLimit(QString const& folder, QString const& image, qint64 bytes) {
-  QProcess process;
-  prepare(process, {}, folder);
-  QString const script = QStringLiteral("trap '' XFSZ; ulimit -f %1; exec \"$0\" export \"$@\"").arg(bytes / 512);
-  process.setArguments({"-c", script, process.program(), "page.kdx", image});
-  process.setProgram("/bin/sh");
-  process.start();
-  return finish(process);
-}
 
 // A file system of a given size, unmounted when it goes.
 class SmallDisk {
@@ -55,10 +45,7 @@ private slots:
   void initTestCase() { GDALAllRegister(); }
   void writesTheFormatOfTheSuffix_data() {
     Rows<QString, QString, bool> row;
-    row("png", "a.png", "PNG", false);
     row("jpg in capitals", "a.JPG", "JPEG", false);
-    row("bmp", "a.bmp", "BMP", false);
-    row("tif", "a.tif", "GTiff", false);
     row("a jpeg is a TIFF, and the user hears of it", "a.jpeg", "GTiff", true);
     row("no suffix is a TIFF, and the user hears of it", "a", "GTiff", true);
   }
@@ -113,29 +100,19 @@ private slots:
 
   void aDamagedSourceIsAnErrorUnlessAllowed_data() {
     Rows<QString, QByteArray, QString> row;
-    QByteArray const header(
-        "\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0\xea\x60\0\0\xea\x60\x8\6\0\0\0\x80\xd2\x75\x42\0\0\0\1IDAT", 41);
     row("a picture that is not there", "none.png", QByteArray(), "no such picture file");
     row("a picture that is a text", "text.png", "text", "neither PNG nor JPEG nor SVG");
-    row("a picture of 60,000 pixels a side", "bomb.png", header, "make it smaller");
-    row("a drawing that refers to another file", "far.svg",
-        "<svg xmlns='http://www.w3.org/2000/svg'><image href='file:///etc/a.png'/></svg>", "the SVG refers to");
-    QByteArray const whole =
-        contents(PLOTVANE_SOURCE_DIR "/samples/data").value(PLOTVANE_SOURCE_DIR "/samples/data/world.gpkg");
+    QByteArray const whole = contentOf(PLOTVANE_SOURCE_DIR "/samples/data/world.gpkg");
     row("data that end early", "half.gpkg", whole.left(whole.size() / 2), "half.gpkg");
   }
   void aDamagedSourceIsAnErrorUnlessAllowed() {
     auto const [file, content, complaint] = fetched<QString, QByteArray, QString>();
     if (!content.isEmpty()) put(folder_.path(file), content);
-    QJsonObject const picture{{"type", "picture"}, {"path", file}, {"rectangle", QJsonArray{1, 1, 5, 5}}};
-    QJsonObject const symbol{{"type", "simple"}, {"symbol", QJsonObject{{"type", "simpleFill"}}}};
-    QJsonObject const layer{
-        {"type", "feature"}, {"name", "A"}, {"source", QJsonObject{{"file", file}}}, {"renderer", symbol}};
-    QJsonObject const map{{"name", "M"}, {"bounds", QJsonArray{0, 0, 9, 9}}, {"layers", QJsonArray{layer}}};
-    if (file.endsWith(".gpkg"))
-      folder_.writeVariant("damaged.kdx", {{"maps", QJsonArray{map}}});
-    else
-      folder_.writeVariant("damaged.kdx", {{"elements", QJsonArray{picture}}, {"maps", QJsonArray()}});
+    QString const source = file.endsWith(".gpkg")
+                               ? "{'maps':[{'name':'M','bounds':[0,0,9,9],'layers':[{'type':'feature','name':'A',"
+                                 "'source':{'file':'%1'},'renderer':{'type':'simple','symbol':{'type':'simpleFill'}}}]}]}"
+                               : "{'elements':[{'type':'picture','path':'%1','rectangle':[1,1,5,5]}],'maps':[]}";
+    folder_.writeVariant("damaged.kdx", json(source.arg(file).toUtf8()));
 
     auto const before = contents(folder_.path());
     QStringList const arguments{"export", "damaged.kdx", "damaged.png", "--dpi", "30"};
@@ -157,11 +134,9 @@ private slots:
 
     Rows<QString, QString> row;
     row("a missing document", "none.kdx old.png", "none.kdx");
-    row("a folder as document", "folder.png old.png", "folder.png");
     row("a document that is no JSON", "text.kdx old.png", "text.kdx");
     row("a document of a newer version", "newer.kdx old.png", "version");
     row("a document without a page", "pageless.kdx old.png", "no page");
-    row("the document as target", "page.kdx page.kdx", "is the document itself");
     row("the document as target, by another way", "page.kdx folder.png/../page.kdx", "is the document itself");
     row("a target folder that does not exist", "page.kdx nowhere/a.png", "does not exist");
     row("a folder as target", "page.kdx folder.png", "is a folder");
@@ -238,7 +213,8 @@ private slots:
     auto const [name] = fetched<QString>();
     put(folder_.path(name), "old");
     auto const before = contents(folder_.path());
-    Outcome const outcome = exportWithFileLimit(folder_.path(), name, qint64{2} * width * height);
+    FileSizeLimit const limit(2 * width * height);  // the process inherits it
+    Outcome const outcome = run({"export", "page.kdx", name}, folder_.path());
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.err.contains("was not written"), qPrintable(outcome.err));
     QVERIFY(contents(folder_.path()) == before);

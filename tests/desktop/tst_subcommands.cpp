@@ -1,3 +1,4 @@
+#include "Json.h"
 #include "desktop/Executable.h"
 
 #include <QJsonArray>
@@ -13,7 +14,6 @@ private slots:
     row("the program knows its version", {"--version"}, "plotvane 0.");
     row("export shows its operands", {"export", "--help"}, "Usage: plotvane export [options] DOCUMENT IMAGE\n");
     row("info shows its option", {"info", "--help"}, "--json");
-    row("commands shows its option", {"commands", "--help"}, "--json");
   }
   void answersHelp() {
     auto const [arguments, expected] = fetched<QStringList, QString>();
@@ -31,7 +31,6 @@ private slots:
 
   void refusesWrongArguments_data() {
     Rows<QString, QString> row;
-    row("two documents", "page.kdx page.kdx", "\"page.kdx\" is neither");
     row("a misspelt subcommand is named", "exprot page.kdx a.png", "\"exprot\" is neither");
     row("an unknown option of the program", "--frobnicate", "--frobnicate");
     row("export without an image", "export page.kdx", "IMAGE is missing");
@@ -39,13 +38,9 @@ private slots:
     row("export with a third operand", "export page.kdx a.png b.png", "\"b.png\" is one argument too many");
     row("export with an unknown option", "export page.kdx a.png --fast", "fast");
     row("a DPI of 0", "export page.kdx a.png --dpi 0", "whole number from 1 to 100000, not \"0\"");
-    row("a negative DPI", "export page.kdx a.png --dpi -1", "not \"-1\"");
     row("a DPI beyond the most", "export page.kdx a.png --dpi 100001", "not \"100001\"");
     row("a DPI beyond int", "export page.kdx a.png --dpi 4294967396", "not \"4294967396\"");
-    row("a DPI that is no number", "export page.kdx a.png --dpi high", "not \"high\"");
     row("a DPI with a fraction", "export page.kdx a.png --dpi 96.5", "not \"96.5\"");
-    row("an option without its value", "export page.kdx a.png --dpi", "dpi");
-    row("info without a document", "info", "DOCUMENT is missing");
     row("commands with an operand", "commands page.kdx", "one argument too many");
     row("a language that there is none of", "info page.kdx --language fr",
         "\"fr\" is none of the languages: de, en, zh_CN.");
@@ -63,21 +58,15 @@ private slots:
   }
 
   void withoutADisplayTheWindowSaysWhatWorks_data() {
-    Rows<QStringList, bool> row;
-    row("no display at all", {}, false);
-    row("no display for a document", {"page.kdx"}, false);
-    row("a display that does not answer", {"page.kdx"}, true);
+    Rows<QStringList, Variables> row;
+    Variables const none{{"DISPLAY", QString()}, {"WAYLAND_DISPLAY", QString()}, {"QT_QPA_PLATFORM", QString()}};
+    row("no display at all", {}, none);
+    row("no display for a document", {"page.kdx"}, none);
+    row("a display that does not answer", {"page.kdx"}, {});
   }
   void withoutADisplayTheWindowSaysWhatWorks() {
-    auto const [arguments, namesADisplay] = fetched<QStringList, bool>();
-    QProcess process;
-    prepare(process, arguments, folder_.path());
-    auto environment = process.processEnvironment();
-    for (char const* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-      if (!namesADisplay) environment.remove(variable);
-    process.setProcessEnvironment(environment);
-    process.start();
-    Outcome const outcome = finish(process);
+    auto const [arguments, variables] = fetched<QStringList, Variables>();
+    Outcome const outcome = run(arguments, folder_.path(), variables);
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.err.contains("plotvane export DOCUMENT IMAGE"), qPrintable(outcome.err));
   }
@@ -99,22 +88,16 @@ private slots:
     QJsonObject const report = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
     QCOMPARE(report["plugin"].toObject()["state"].toString(), QString("loaded"));
     QSet<QString> identifiers;
-    QSet<QString> shortcuts;
     QStringList tools;
-    int withShortcut = 0;
     for (QJsonValue const& value : report["commands"].toArray()) {
       QJsonObject const command = value.toObject();
       identifiers.insert(command["identifier"].toString());
       if (command["built"].toBool() && command["tool"].toBool()) tools.append(command["identifier"].toString());
       for (char const* key : {"caption", "toolTip", "menu", "needs"})
         QVERIFY2(!command[key].toString().isEmpty(), qPrintable(command["identifier"].toString() + key));
-      if (command["shortcut"].toString().isEmpty()) continue;
-      ++withShortcut;
-      shortcuts.insert(command["shortcut"].toString());
     }
     QCOMPARE(identifiers.size(), 38);
     QCOMPARE(report["commands"].toArray().size(), 38);
-    QCOMPARE(shortcuts.size(), withShortcut);
     QCOMPARE(tools, QStringList({"Plotvane_ZoomIn", "Plotvane_ZoomOut", "Plotvane_Pan"}));
   }
 
@@ -145,20 +128,11 @@ private slots:
     Outcome const outcome = run({"info", "page.kdx", "--json"}, folder_.path());
     QCOMPARE(outcome.status, 0);
     QJsonObject const report = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
-    QJsonObject const page = report["page"].toObject();
-    QCOMPARE(page["orientation"].toString(), QString("portrait"));
-    QVERIFY(!page["form"].toString().isEmpty());
-    QCOMPARE(page["width"].toDouble(), 8.0);
-    QCOMPARE(page["height"].toDouble(), 6.0);
-
-    QCOMPARE(report["elements"].toArray().size(), 1);
-    QJsonObject const element = report["elements"].toArray().at(0).toObject();
-    QVERIFY(element["handle"].toInt() > 0);
-    QCOMPARE(element["name"].toString(), QString("World"));
-    QCOMPARE(element["type"].toInt(), 11);
-    QCOMPARE(element["envelope"].toArray(), QJsonArray({1, 1, 7, 5}));
-    QCOMPARE(element["selected"].toBool(true), false);
-
+    QCOMPARE(report["page"].toObject(), json("{'form':'Custom','orientation':'portrait','width':8,'height':6}"));
+    QJsonObject const frame = json(
+        "{'handle':1,'name':'World','type':11,'kind':'data frame','envelope':[1,1,7,5],'selected':false,"
+        "'locked':false}");
+    QCOMPARE(report["elements"].toArray(), QJsonArray{frame});
     QCOMPARE(report["maps"].toArray().size(), 1);
     QJsonObject const map = report["maps"].toArray().at(0).toObject();
     QCOMPARE(map["name"].toString(), QString("Countries"));
@@ -178,8 +152,7 @@ private slots:
 
   void textsAreInTheLanguageAskedFor_data() {
     Rows<QString, QString, QString> row;
-    row("the option before a subcommand", "--language de info page.kdx", "", "Elemente: 1");
-    row("the option after it", "info page.kdx --language=zh_CN", "", "元素：1");
+    row("the option", "info page.kdx --language=zh_CN", "", "元素：1");
     row("the help of the program", "--help --language de", "", "öffnet das Fenster");
     row("the session's language", "info page.kdx", "de_DE.UTF-8", "Elemente: 1");
     row("a session in another encoding", "info page.kdx", "de_DE.ISO-8859-1", "Elemente: 1");
