@@ -1,3 +1,4 @@
+#include "Json.h"
 #include "desktop/Executable.h"
 
 #include <QJsonArray>
@@ -9,8 +10,6 @@
 #include <memory>
 
 namespace {
-
-QJsonObject const markers{{"type", "simple"}, {"symbol", QJsonObject{{"type", "simpleMarker"}}}};
 
 QByteArray pointWith(QByteArray const& system) {
   return R"({"type":"FeatureCollection",)" + system +
@@ -53,187 +52,158 @@ class OfflineTest : public QObject {
 
 private slots:
   void initTestCase() { GDALAllRegister(); }
-  void theListenerNoticesAConnection();
-  void noConnectionIsMade_data();
-  void noConnectionIsMade();
+
+  void theListenerNoticesAConnection() {
+    QString const device = listener_.address("").replace("http://127.0.0.1:", "/dev/tcp/127.0.0.1/").chopped(1);
+    QProcess process;
+    process.start("/bin/bash", {"-c", "exec 3<>" + device});
+    QCOMPARE(listener_.connectionsWhile(process), 1);
+  }
+
+  void noConnectionIsMade_data() {
+    QTest::addColumn<QString>("document");
+    put(folder_.path("plain.geojson"), pointWith(""));
+    addSources();
+    addCoordinateSystems();
+    addFilesThatNameAnAddress();
+    addDrawings();
+    for (QString const prefix : {"", "/vsicurl/"})
+      rowWithElement("a picture at " + prefix + "an address", pictureOf(prefix + listener_.address("a.png")));
+  }
+
+  // The environment, too, invites to the network: none of it may count.
+  void noConnectionIsMade() {
+    QFETCH(QString, document);
+    QProcess process;
+    prepare(process, {"export", document, "a.png", "--dpi", "30", "--allow-missing"}, folder_.path(),
+            {{"PROJ_NETWORK", "ON"},
+             {"PROJ_NETWORK_ENDPOINT", listener_.address("").chopped(1)},
+             {"PROJ_USER_WRITABLE_DIRECTORY", folder_.path()},
+             {"no_proxy", "*"}});
+    process.start();
+    QCOMPARE(listener_.connectionsWhile(process), 0);
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QVERIFY2(process.exitCode() <= 1, process.readAllStandardError().constData());
+  }
 
 private:
-  void writeLayer(QString const& name, QString const& file, QString const& mapSystem = "EPSG:3857",
-                  QString const& sourceSystem = QString()) const {
-    QJsonObject const source{{"file", file}, {"coordinateSystem", sourceSystem}};
-    QJsonObject const layer{{"type", "feature"}, {"name", "A"}, {"source", source}, {"renderer", markers}};
-    QJsonObject const map{{"name", "M"},
-                          {"coordinateSystem", mapSystem},
-                          {"bounds", QJsonArray{-10, -10, 10, 10}},
-                          {"layers", QJsonArray{layer}}};
-    folder_.writeVariant(name, {{"maps", QJsonArray{map}}});
+  // A row with a document of its own, which differs from the folder's in these values.
+  void row(QString const& claim, QJsonObject const& values) {
+    QString const name = QString("%1.kdx").arg(++documents_);
+    folder_.writeVariant(name, values);
+    QTest::newRow(qPrintable(claim)) << name;
   }
-  void writeElement(QString const& name, QJsonObject const& element) const {
-    folder_.writeVariant(name, {{"elements", QJsonArray{element}}, {"maps", QJsonArray()}});
+
+  void rowWithLayer(QString const& claim, QString const& file, QString const& mapSystem = "EPSG:3857",
+                    QString const& sourceSystem = QString()) {
+    QJsonObject layer =
+        json("{'type':'feature','name':'A','renderer':{'type':'simple','symbol':{'type':'simpleMarker'}}}");
+    layer["source"] = QJsonObject{{"file", file}, {"coordinateSystem", sourceSystem}};
+    QJsonObject map = json("{'name':'M','bounds':[-10,-10,10,10]}");
+    map["coordinateSystem"] = mapSystem;
+    map["layers"] = QJsonArray{layer};
+    row(claim, {{"maps", QJsonArray{map}}});
   }
-  void addSources();
-  void addFilesThatNameAnAddress();
-  void addPictures();
-  void writeGeoPackage(QString const& name, QStringList const& statements) const;
+
+  void rowWithElement(QString const& claim, QJsonObject const& element) {
+    row(claim, {{"elements", QJsonArray{element}}, {"maps", QJsonArray()}});
+  }
+
+  static QJsonObject pictureOf(QString const& path) {
+    return {{"type", "picture"}, {"path", path}, {"rectangle", QJsonArray{1, 1, 5, 5}}};
+  }
+
+  void addSources() {
+    QString const port = listener_.address("").section(':', 2).chopped(1);
+    for (QString const source :
+         {"ADDRESS/a.geojson", "/vsicurl/ADDRESS/a.geojson", "/vsicurl?url=ADDRESS/a.geojson",
+          "/vsicurl_streaming/ADDRESS/a.geojson", "/vsizip//vsicurl/ADDRESS/a.zip", "/VSICURL/ADDRESS/a.geojson",
+          "./vsicurl/ADDRESS/a.geojson", "WFS:ADDRESS/wfs", "GeoJSON:ADDRESS/a.geojson", "GPKG:/vsicurl/ADDRESS/a.gpkg",
+          "MVT:ADDRESS/0/0/0", "ESRIJSON:ADDRESS/a", "PG:host=127.0.0.1 port=PORT"})
+      rowWithLayer("source " + source,
+                   QString(source).replace("ADDRESS", listener_.address("").chopped(1)).replace("PORT", port));
+  }
+
+  void addCoordinateSystems() {
+    QString const system = listener_.address("system");
+    rowWithLayer("a map's coordinate system", "plain.geojson", system);
+    rowWithLayer("the grid of a map's coordinate system", "plain.geojson",
+                 "+proj=longlat +datum=WGS84 +nadgrids=" + system + " +type=crs");
+    rowWithLayer("a source's coordinate system", "plain.geojson", "EPSG:3857", system);
+    rowWithLayer("a transformation that has a grid on the network", "plain.geojson", "EPSG:27700");
+  }
+
+  void addFilesThatNameAnAddress() {
+    QByteArray const address = listener_.address("crs").toUtf8();
+    auto const geoJson = [&](QString const& claim, QString const& file, QByteArray const& type, QByteArray const& key,
+                             QByteArray const& value) {
+      put(folder_.path(file),
+          pointWith("\"crs\":{\"type\":\"" + type + "\",\"properties\":{\"" + key + "\":\"" + value + "\"}},"));
+      rowWithLayer(claim, file);
+    };
+    geoJson("a GeoJSON that links to its coordinate system", "link.geojson", "link", "href", address);
+    geoJson("a GeoJSON that gives the address of its coordinate system", "url.geojson", "url", "url", address);
+    geoJson("a GeoJSON that names its coordinate system by an address", "name.geojson", "name", "name", address);
+    geoJson("a GeoJSON that names a virtual file", "vsi.geojson", "name", "name", "/vsicurl/" + address);
+    put(folder_.path("bare.geojson"), address);
+    rowWithLayer("a GeoJSON that is an address", "bare.geojson");
+
+    auto const geoPackage = copyOfPlain("GPKG", "srs.gpkg");
+    for (QString const statement :
+         {"INSERT INTO gpkg_spatial_ref_sys VALUES ('x', 777, 'NONE', 777, 'ADDRESS', '')",
+          "UPDATE gpkg_contents SET srs_id = 777", "UPDATE gpkg_geometry_columns SET srs_id = 777"})
+      geoPackage->ReleaseResultSet(geoPackage->ExecuteSQL(
+          QString(statement).replace("ADDRESS", address).toUtf8().constData(), nullptr, nullptr));
+    rowWithLayer("a GeoPackage whose coordinate system is an address", "srs.gpkg");
+
+    copyOfPlain("ESRI Shapefile", "address.shp");
+    put(folder_.path("address.prj"), address);
+    rowWithLayer("a shapefile whose coordinate system is an address", "address.shp");
+    copyOfPlain("ESRI Shapefile", "grid.shp");
+    put(folder_.path("grid.prj"),
+        "GEOGCS[\"x\",DATUM[\"d\",SPHEROID[\"s\",6378137,298.25]],PRIMEM[\"g\",0],UNIT[\"degree\",0.0174532925199433],"
+        "EXTENSION[\"PROJ4\",\"+proj=longlat +ellps=WGS84 +nadgrids=" +
+            address + "\"]]");
+    rowWithLayer("a shapefile whose coordinate system names a grid", "grid.shp");
+  }
+
+  std::unique_ptr<GDALDataset> copyOfPlain(char const* driver, QString const& file) const {
+    std::unique_ptr<GDALDataset> const plain(GDALDataset::Open(folder_.path("plain.geojson").toUtf8().constData()));
+    std::unique_ptr<GDALDataset> copy(GetGDALDriverManager()->GetDriverByName(driver)->Create(
+        folder_.path(file).toUtf8().constData(), 0, 0, 0, GDT_Unknown, nullptr));
+    if (!copy || !copy->CopyLayer(plain->GetLayer(0), "points")) qFatal("can't write %s", qPrintable(file));
+    copy->FlushCache();
+    return copy;
+  }
+
+  void addDrawings() {
+    QByteArray const address = listener_.address("a.png").toUtf8();
+    QByteArray const image = "<image href='" + address + "' width='9' height='9'/>";
+    QByteArray const nested = "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 9 9'>" + image + "</svg>";
+    addDrawing("href", image);
+    addDrawing("xlink", "<image xlink:href='" + address + "' width='9' height='9'/>");
+    addDrawing("use", "<use xlink:href='" + address + "#a'/>");
+    addDrawing("data",
+               "<image xlink:href='data:image/svg+xml;base64," + nested.toBase64() + "' width='9' height='9'/>");
+    addDrawing("url", "<rect width='9' height='9' style='fill:url(" + address + ")'/>");
+    addDrawing("font", "<style>@font-face{font-family:a;src:url(" + address + ")}</style><rect width='9' height='9'/>");
+    addDrawing("import", "<style>@import '" + address + "';</style><rect width='9' height='9'/>");
+  }
+
+  void addDrawing(QString const& name, QByteArray const& body) {
+    QByteArray const svg =
+        "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' viewBox='0 0 9 9'>" + body +
+        "</svg>";
+    put(folder_.path(name + ".svg"), svg);
+    rowWithElement("a picture: " + name, pictureOf(name + ".svg"));
+    QJsonObject const symbol{{"type", "svgMarker"}, {"svg", QString(svg)}, {"size", 40}};
+    rowWithElement("a marker: " + name, {{"type", "marker"}, {"position", QJsonArray{3, 3}}, {"symbol", symbol}});
+  }
 
   DocumentFolder folder_;
+  int documents_ = 0;
   Listener listener_;
 };
-
-void OfflineTest::theListenerNoticesAConnection() {
-  QProcess process;
-  process.start(
-      "/bin/bash",
-      {"-c", "exec 3<>" + listener_.address("").replace("http://127.0.0.1:", "/dev/tcp/127.0.0.1/").chopped(1)});
-  QCOMPARE(listener_.connectionsWhile(process), 1);
-}
-
-void OfflineTest::addSources() {
-  QStringList const sources{listener_.address("a.geojson"),
-                            "/vsicurl/" + listener_.address("a.geojson"),
-                            "/vsicurl?url=" + listener_.address("a.geojson"),
-                            "/vsicurl_streaming/" + listener_.address("a.geojson"),
-                            "/vsizip//vsicurl/" + listener_.address("a.zip"),
-                            "/VSICURL/" + listener_.address("a.geojson"),
-                            "./vsicurl/" + listener_.address("a.geojson"),
-                            "WFS:" + listener_.address("wfs"),
-                            "GeoJSON:" + listener_.address("a.geojson"),
-                            "GPKG:/vsicurl/" + listener_.address("a.gpkg"),
-                            "MVT:" + listener_.address("0/0/0"),
-                            "ESRIJSON:" + listener_.address("a"),
-                            "PG:host=127.0.0.1 port=" + listener_.address("").section(':', 2).chopped(1)};
-  for (QString const& source : sources) {
-    QString const name = QString::number(qHash(source)) + ".kdx";
-    writeLayer(name, source);
-    QTest::newRow(qPrintable("source " + source.section("127.0.0.1", 0, 0))) << name;
-  }
-  QString const system = listener_.address("system");
-  put(folder_.path("plain.geojson"), pointWith(""));
-  writeLayer("mapsystem.kdx", "plain.geojson", system);
-  writeLayer("mapgrid.kdx", "plain.geojson", "+proj=longlat +datum=WGS84 +nadgrids=" + system + " +type=crs");
-  writeLayer("sourcesystem.kdx", "plain.geojson", "EPSG:3857", system);
-  writeLayer("nationalgrid.kdx", "plain.geojson", "EPSG:27700");
-  QTest::newRow("a map's coordinate system") << "mapsystem.kdx";
-  QTest::newRow("the grid of a map's coordinate system") << "mapgrid.kdx";
-  QTest::newRow("a source's coordinate system") << "sourcesystem.kdx";
-  QTest::newRow("a transformation that has a grid on the network") << "nationalgrid.kdx";
-}
-
-void OfflineTest::writeGeoPackage(QString const& name, QStringList const& statements) const {
-  QByteArray const path = folder_.path(name).toUtf8();
-  std::unique_ptr<GDALDataset> const plain(GDALDataset::Open(folder_.path("plain.geojson").toUtf8().constData()));
-  QVERIFY(plain);
-  GDALDriver* const driver = GetGDALDriverManager()->GetDriverByName("GPKG");
-  std::unique_ptr<GDALDataset> const made(driver->Create(path.constData(), 0, 0, 0, GDT_Unknown, nullptr));
-  QVERIFY(made && made->CopyLayer(plain->GetLayer(0), "points"));
-  made->FlushCache();
-  for (QString const& statement : statements)
-    made->ReleaseResultSet(made->ExecuteSQL(statement.toUtf8().constData(), nullptr, nullptr));
-}
-
-void OfflineTest::addFilesThatNameAnAddress() {
-  QByteArray const address = listener_.address("crs").toUtf8();
-  auto const row = [this](char const* claim, QString const& file) {
-    writeLayer(file + ".kdx", file);
-    QTest::newRow(claim) << file + ".kdx";
-  };
-  auto const geoJson = [&](char const* claim, QString const& file, QByteArray const& system) {
-    put(folder_.path(file), pointWith("\"crs\":" + system + ','));
-    row(claim, file);
-  };
-  geoJson("a GeoJSON that links to its coordinate system", "link.geojson",
-          R"({"type":"link","properties":{"href":")" + address + "\"}}");
-  geoJson("a GeoJSON that gives the address of its coordinate system", "url.geojson",
-          R"({"type":"url","properties":{"url":")" + address + "\"}}");
-  geoJson("a GeoJSON that names its coordinate system by an address", "name.geojson",
-          R"({"type":"name","properties":{"name":")" + address + "\"}}");
-  geoJson("a GeoJSON that names a virtual file", "vsi.geojson",
-          R"({"type":"name","properties":{"name":"/vsicurl/)" + address + "\"}}");
-  put(folder_.path("bare.geojson"), address);
-  row("a GeoJSON that is an address", "bare.geojson");
-
-  QStringList statements{
-      QString("INSERT INTO gpkg_spatial_ref_sys VALUES ('x', 777, 'NONE', 777, '%1', '')").arg(address.constData())};
-  for (char const* table : {"gpkg_contents", "gpkg_geometry_columns"})
-    statements << QString("UPDATE %1 SET srs_id = 777").arg(table);
-  writeGeoPackage("srs.gpkg", statements);
-  row("a GeoPackage whose coordinate system is an address", "srs.gpkg");
-
-  std::unique_ptr<GDALDataset> const plain(GDALDataset::Open(folder_.path("plain.geojson").toUtf8().constData()));
-  GDALDriver* const shapefile = GetGDALDriverManager()->GetDriverByName("ESRI Shapefile");
-  for (QString const name : {"address", "grid"})
-    GDALClose(shapefile->CreateCopy(folder_.path(name + ".shp").toUtf8().constData(), plain.get(), TRUE, nullptr,
-                                    nullptr, nullptr));
-  put(folder_.path("address.prj"), address);
-  put(folder_.path("grid.prj"),
-      R"(GEOGCS["x",DATUM["d",SPHEROID["s",6378137,298.25]],PRIMEM["g",0],UNIT["degree",0.0174532925199433],)"
-      R"(EXTENSION["PROJ4","+proj=longlat +ellps=WGS84 +nadgrids=)" +
-          address + "\"]]");
-  row("a shapefile whose coordinate system is an address", "address.shp");
-  row("a shapefile whose coordinate system names a grid", "grid.shp");
-}
-
-void OfflineTest::addPictures() {
-  QByteArray const address = listener_.address("a.png").toUtf8();
-  QString const nested =
-      "data:image/svg+xml;base64," + ("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 9 9'><image href='" +
-                                      address + "' width='9' height='9'/></svg>")
-                                         .toBase64();
-  struct {
-    char const* name;
-    QByteArray body;
-  } const drawings[] = {
-      {"href", "<image href='" + address + "' width='9' height='9'/>"},
-      {"xlink", "<image xlink:href='" + address + "' width='9' height='9'/>"},
-      {"use", "<use xlink:href='" + address + "#a'/>"},
-      {"data", "<image xlink:href='" + nested.toUtf8() + "' width='9' height='9'/>"},
-      {"url", "<rect width='9' height='9' style='fill:url(" + address + ")'/>"},
-      {"font", "<style>@font-face{font-family:a;src:url(" + address + ")}</style><rect width='9' height='9'/>"},
-      {"import", "<style>@import '" + address + "';</style><rect width='9' height='9'/>"}};
-  for (auto const& drawing : drawings) {
-    QByteArray const svg =
-        "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
-        "viewBox='0 0 9 9'>" +
-        drawing.body + "</svg>";
-    QString const name = drawing.name;
-    put(folder_.path(name + ".svg"), svg);
-    writeElement(name + "-picture.kdx",
-                 {{"type", "picture"}, {"path", name + ".svg"}, {"rectangle", QJsonArray{1, 1, 5, 5}}});
-    QJsonObject const symbol{{"type", "svgMarker"}, {"svg", QString(svg)}, {"size", 40}};
-    writeElement(name + "-marker.kdx", {{"type", "marker"}, {"position", QJsonArray{3, 3}}, {"symbol", symbol}});
-    QTest::addRow("a picture: %s", drawing.name) << name + "-picture.kdx";
-    QTest::addRow("a marker: %s", drawing.name) << name + "-marker.kdx";
-  }
-  for (QString const prefix : {"", "/vsicurl/"}) {
-    QString const name = QString("picture%1.kdx").arg(prefix.size());
-    writeElement(name, {{"type", "picture"}, {"path", prefix + address}, {"rectangle", QJsonArray{1, 1, 5, 5}}});
-    QTest::addRow("a picture at %s", qPrintable(prefix + "an address")) << name;
-  }
-}
-
-void OfflineTest::noConnectionIsMade_data() {
-  QTest::addColumn<QString>("document");
-  addSources();
-  addFilesThatNameAnAddress();
-  addPictures();
-}
-
-// The environment, too, invites to the network: none of it may count.
-void OfflineTest::noConnectionIsMade() {
-  QFETCH(QString, document);
-  QProcess process;
-  prepare(process, {"export", document, "a.png", "--dpi", "30", "--allow-missing"}, folder_.path());
-  auto environment = process.processEnvironment();
-  environment.insert("PROJ_NETWORK", "ON");
-  environment.insert("PROJ_NETWORK_ENDPOINT", listener_.address("").chopped(1));
-  environment.insert("PROJ_USER_WRITABLE_DIRECTORY", folder_.path());
-  environment.insert("no_proxy", "*");
-  process.setProcessEnvironment(environment);
-  process.start();
-  QCOMPARE(listener_.connectionsWhile(process), 0);
-  QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-  QVERIFY2(process.exitCode() <= 1, process.readAllStandardError().constData());
-}
 
 QTEST_GUILESS_MAIN(OfflineTest)
 #include "tst_offline.moc"
