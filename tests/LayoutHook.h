@@ -1,19 +1,25 @@
 #pragma once
 
 #include "Elements.h"
+#include "RecordingSurface.h"
 
 #include <SysCarto/Editor.h>
 #include <SysFramework/IApplicationHook.h>
 
 #include <QUndoStack>
 
-/// A host without a window: it shows a layout, a map of it, or nothing.
+/// A host without a window: it shows a layout, a map of it, or nothing, and notes in `calls` what the layout asks of
+/// its screen.
 class LayoutHook : public IApplicationHook {
 public:
   explicit LayoutHook(_ptr_t<SysCarto::PageLayout> const& layout) : layout(layout), view(layout) {
     SysCarto::Editor::Instance()->setHistory(&history);
+    layout->setSurface(&surface);
   }
-  ~LayoutHook() override { SysCarto::Editor::Instance()->setHistory(nullptr); }
+  ~LayoutHook() override {
+    SysCarto::Editor::Instance()->setHistory(nullptr);
+    layout->setSurface(nullptr);
+  }
 
   _ptr_t<SysCarto::ActiveView> GetActiveView() override { return view; }
   _ptr_t<SysCarto::PageLayout> GetPageLayout() override { return layout; }
@@ -33,6 +39,8 @@ public:
   _ptr_t<SysCarto::PageLayout> layout;
   _ptr_t<SysCarto::ActiveView> view;
   QUndoStack history;
+  QStringList calls;
+  RecordingSurface surface{calls};
 };
 
 /// A layout with an empty page of its own size, shown whole.

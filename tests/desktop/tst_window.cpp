@@ -1,11 +1,10 @@
-#include "Elements.h"
 #include "Files.h"
+#include "desktop/WorkbenchPage.h"
 
 #include "host/desktop/CommandCatalogue.h"
 #include "host/desktop/DialogAnswers.h"
 #include "host/desktop/Icons.h"
 #include "host/desktop/MainWindow.h"
-#include "host/desktop/Session.h"
 
 #include <QCloseEvent>
 #include <QDropEvent>
@@ -56,6 +55,31 @@ private slots:
     QVERIFY(window.actions().find("Plotvane_AlignToMargins")->isChecked());
     window.actions().find("Host_MapView")->trigger();
     QVERIFY(!isEnabled(window, "Plotvane_ZoomIn") && isEnabled(window, "Plotvane_LockDataFrame"));
+  }
+
+  void theMapViewEnablesOnlyWhatWorksThere() {
+    WorkbenchPage page;
+    QVERIFY(page.bench.session().open(world));
+    for (char const* step : {"Plotvane_ZoomToOrigin", "Plotvane_ZoomToWhole", "Plotvane_ZoomToPreviousExtent"})
+      QVERIFY(page.run(step));
+    QVERIFY(page.run("Host_SelectAll"));
+    auto const namesWhere = [&page](bool enabled) {
+      QStringList names;
+      for (HostedCommand const& one : page.bench.commands().commands())
+        if (one.entry.identifier.startsWith("Plotvane_") && one.command->IsEnable() == enabled)
+          names << one.entry.identifier.mid(9);
+      return names;
+    };
+    // The page has a map surround.
+    QCOMPARE(namesWhere(false),
+             QStringList({"FittoMarginsElements", "FitWidthtoMarginsElements", "FitHeighttoMarginsElements"}));
+    QVERIFY(page.run("Host_MapView"));
+    QCOMPARE(namesWhere(true), QStringList({"LockDataFrame", "UnlockDataFrame"}));
+
+    QByteArray const before = page.bench.session().document().GetText();
+    for (QString const& name : namesWhere(false))  // a dialog would wait for an answer
+      if (name != "MapFrame") page.bench.commands().find("Plotvane_" + name)->command->OnClick();
+    QVERIFY(page.bench.session().document().GetText() == before);
   }
 
   void whatThePluginDoesNotBuildIsNotShown() {

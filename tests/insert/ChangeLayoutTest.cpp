@@ -2,7 +2,6 @@
 #include "InsertDesktop.h"
 #include "insert/ChangePageLayout.h"
 
-#include <SysAdapterUI/TOCControl.h>
 #include <SysCarto/MapDocument.h>
 
 #include <QFileDialog>
@@ -11,45 +10,7 @@
 #include <QTemporaryDir>
 #include <QTreeWidget>
 
-#include <memory>
-
 using namespace SysCarto;
-
-namespace {
-
-// A desktop that notes what it is asked.
-class LoggedDesktop final : public LayoutHook, public IDesktop, public IContentsSite {
-public:
-  LoggedDesktop(_ptr_t<PageLayout> const& layout, LoggedContents& contents, CallLog& log)
-      : LayoutHook(layout), table(new SysAdapterUI::TOCControl(&contents)), contents_(contents), log_(log) {
-    contents.layout = layout;
-  }
-  IKdxContents* GetContents() override { return &contents_; }
-  MapDocument* GetMapDocument() override {
-    log_ << QStringLiteral("document");
-    return nullptr;
-  }
-  IKdxContents* GetActiveContents() override {
-    log_ << QStringLiteral("contents");
-    return &contents_;
-  }
-  SysAdapterUI::TOCControl* GetTOCControl() override {
-    log_ << QStringLiteral("table of contents");
-    return table;
-  }
-  _ptr_t<IContentsSite> GetContentsSite() override { return SysUtility::retain<IContentsSite>(this); }
-  void SetContents(IKdxContents* contents) override {
-    log_ << (contents == &contents_ ? QStringLiteral("site") : QStringLiteral("site of another"));
-  }
-
-  SysAdapterUI::TOCControl* table;
-
-private:
-  LoggedContents& contents_;
-  CallLog& log_;
-};
-
-}  // namespace
 
 class ChangeLayoutTest : public QObject {
   Q_OBJECT
@@ -58,31 +19,19 @@ private slots:
   void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
   void init() {
-    log_.clear();
-    surface_ = std::make_unique<RecordingSurface>(log_);
-    contents_ = new LoggedContents(log_);
-    contents_->surface = surface_.get();
+    desktop_ = nullptr;  // it lets go of the history that the next one takes
     old_ = emptyLayout(20, 30);
-    old_->setSurface(surface_.get());
     old_->GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 640, 480));
     for (char const* name : {"Alpha", "Beta"}) old_->GetGraphicsContainer()->AddElement(frameNamed(name));
-    desktop_ = make<LoggedDesktop>(old_, *contents_, log_);
-  }
-
-  void cleanup() {
-    old_->setSurface(nullptr);
-    if (contents_->layout) contents_->layout->setSurface(nullptr);
-    contents_->layout = nullptr;
-    desktop_ = nullptr;
-    contents_->Release();
+    desktop_ = make<InsertDesktop>(old_);
   }
 
   void theLayoutComesFromTheTemplateAndTheMapsStay() {
     choose(writeTemplate());
     click();
-    QCOMPARE(log_,
-             CallLog({"document", "contents", "clear", "set layout", "site", "table of contents", "refresh 255"}));
-    auto const layout = contents_->layout;
+    QCOMPARE(desktop_->calls,
+             QStringList({"document", "contents", "clear", "set layout", "site", "table of contents", "refresh 255"}));
+    auto const layout = desktop_->contents->layout;
     QVERIFY(layout != old_);
     double width = 0, height = 0;
     layout->GetPage()->QuerySize(width, height);
@@ -112,9 +61,9 @@ private slots:
     old_->GetMaps(maps);
     choose(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/templates/") + file);
     click();
-    QVERIFY(contents_->layout != old_);
+    QVERIFY(desktop_->contents->layout != old_);
     QSet<int> kinds;
-    for (auto const& element : contents_->layout->GetGraphicsContainer()->GetElements()) {
+    for (auto const& element : desktop_->contents->layout->GetGraphicsContainer()->GetElements()) {
       auto const frame = ptr_cast<MapSurroundFrame>(element);
       if (!frame) continue;
       QVERIFY(frame->GetMapSurround()->GetMap() == maps[0]);
@@ -130,15 +79,15 @@ private slots:
       "renderer":{"type":"simple","symbol":{"type":"simpleLine"}}}]}],
       "elements":[{"type":"dataFrame","map":0,"rectangle":[1,1,5,5]}]})"));
     click();
-    QVERIFY(log_.contains("set layout"));
+    QVERIFY(desktop_->calls.contains("set layout"));
   }
 
   void aCancelledChoiceLeavesEverything() {
     answerDialog([](QWidget& dialog) { static_cast<QDialog&>(dialog).reject(); });
     click();
     // Deactivated before anybody was asked.
-    QCOMPARE(log_, CallLog({"document", "contents", "clear"}));
-    QVERIFY(contents_->layout == old_);
+    QCOMPARE(desktop_->calls, QStringList({"document", "contents", "clear"}));
+    QVERIFY(desktop_->contents->layout == old_);
   }
 
   void aBadTemplateIsRefusedAndNothingChanges_data() {
@@ -164,27 +113,13 @@ private slots:
       });
     });
     click();
-    QCOMPARE(log_, CallLog({"document", "contents", "clear"}));
-    QVERIFY(contents_->layout == old_);
+    QCOMPARE(desktop_->calls, QStringList({"document", "contents", "clear"}));
+    QVERIFY(desktop_->contents->layout == old_);
     QCOMPARE(old_->GetGraphicsContainer()->GetElements().size(), 2);
   }
 
-  void itIsForTheLayoutView() {
-    Plugin::ChangePageLayout command;
-    command.OnCreate(desktop_->pointer());
-    QVERIFY(command.IsEnable());
-    desktop_->view = make<Map>();
-    QVERIFY(!command.IsEnable());
-    command.OnClick();
-    QCOMPARE(log_, CallLog());
-  }
-
 private:
-  void click() {
-    Plugin::ChangePageLayout command;
-    command.OnCreate(desktop_->pointer());
-    command.OnClick();
-  }
+  void click() { desktop_->bound<Plugin::ChangePageLayout>()->OnClick(); }
 
   void choose(QString const& file, std::function<void()> const& then = {}) {
     answerDialog([=](QWidget& dialog) {
@@ -208,11 +143,8 @@ private:
   }
 
   QTemporaryDir folder_;
-  CallLog log_;
   _ptr_t<PageLayout> old_;
-  LoggedContents* contents_ = nullptr;
-  _ptr_t<LoggedDesktop> desktop_;
-  std::unique_ptr<RecordingSurface> surface_;
+  _ptr_t<InsertDesktop> desktop_;
 };
 
 QTEST_MAIN(ChangeLayoutTest)

