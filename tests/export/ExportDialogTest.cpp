@@ -70,7 +70,7 @@ void press(QWidget& dialog, char const* name) {
   QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(name)), Qt::LeftButton);
 }
 
-QSize shownSize(PreView& preview) { return preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).size(); }
+QImage shown(PreView& preview) { return preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).toImage(); }
 
 }  // namespace
 
@@ -152,39 +152,16 @@ private slots:
     };
     auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
     auto const command = hook->bound<ExportCommand>();
+    QProgressDialog* const progress = command->GetProgressBar();
     command->OnClick();
     QCOMPARE(person.said, said);
+    QCOMPARE(command->GetProgressBar(), progress);
     QCOMPARE(QFile::exists(path), !format.isEmpty());
     if (format.isEmpty()) return;
+    QCOMPARE(progress->width(), 400);
     QByteArray const head = contentOf(path).left(4);
     QVERIFY(format == "png" ? head.mid(1) == "PNG" : head.startsWith("II*"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
-  }
-
-  void theProgressDialogIsWideAndKept() {
-    QTemporaryDir folder;
-    Person person;
-    person.answerParameters = [&](ExportParaDlg& dialog) {
-      edit(dialog, "lineEdit_OutputPath")->setText(folder.filePath("map.png"));
-      press(dialog, "pushButton");
-    };
-    auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
-    auto const command = hook->bound<ExportCommand>();
-    QProgressDialog* const progress = command->GetProgressBar();
-    command->OnClick();
-    command->OnClick();
-    QCOMPARE(command->GetProgressBar(), progress);
-    QCOMPARE(progress->width(), 400);
-    QVERIFY(!progress->findChild<QPushButton*>());
-    QCOMPARE(person.said.size(), 2);
-  }
-
-  void aMapIsNotExported() {
-    auto const hook = make<LayoutHook>(emptyLayout(5.0, 5.0));
-    hook->view = make<Map>();
-    auto const command = hook->bound<ExportCommand>();
-    QVERIFY(!command->IsEnable());
-    command->OnClick();  // would wait for an answer to its dialog
   }
 
   void thePreviewIsScaledFromTheDrawnPicture_data() {
@@ -202,11 +179,10 @@ private slots:
     auto const hook = make<LayoutHook>(emptyLayout(21.0, 29.7));
     PreView preview(nullptr);
     preview.RenderPreview(96, nullptr, hook->layout, hook);
-    QImage const drawn = preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).toImage();
+    QImage const drawn = shown(preview);
     for (int percent : percents) preview.findChild<QSlider*>("horizontalSlider")->setValue(percent);
-    QCOMPARE(shownSize(preview), size);
-    if (shownSize(preview) == drawn.size())
-      QCOMPARE(preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).toImage(), drawn);
+    QCOMPARE(shown(preview).size(), size);
+    if (size == drawn.size()) QCOMPARE(shown(preview), drawn);
   }
 
   void thePreviewDrawsWhatTheExportDraws() {
@@ -224,9 +200,7 @@ private slots:
 
     Person person;
     QImage picture;
-    person.lookAtPreview = [&](PreView& preview) {
-      picture = preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).toImage();
-    };
+    person.lookAtPreview = [&](PreView& preview) { picture = shown(preview); };
     ExportParaDlg dialog(hook->layout, hook, nullptr);
     person.answerParameters = [](ExportParaDlg&) {};
     dialog.show();
@@ -256,7 +230,7 @@ private slots:
     PreView preview(nullptr);
     preview.RenderPreview(96, cancel, hook->layout, hook);
     preview.findChild<QSlider*>("horizontalSlider")->setValue(50);
-    QVERIFY(preview.findChild<QLabel*>("label")->pixmap(Qt::ReturnByValue).isNull());
+    QVERIFY(shown(preview).isNull());
   }
 };
 

@@ -26,18 +26,10 @@ private slots:
     QVERIFY(first && second && first != second);
   }
 
-  void anUnknownIdentifierGivesNoCommand_data() {
-    Rows<QString> row;
-    row("an empty one", QString());
-    row("the prefix alone", "Plotvane_");
-    row("a known one with a letter more", "Plotvane_ZoomInX");
-    row("one without the prefix", "ZoomIn");
-  }
-
   void anUnknownIdentifierGivesNoCommand() {
-    auto const [id] = fetched<QString>();
     _ptr_t<CMDPluginModule> const module(entry_());
-    QVERIFY(!module->CreateCommand(id, QString()));
+    for (char const* identifier : {"", "Plotvane_", "Plotvane_ZoomInX", "ZoomIn"})
+      QVERIFY2(!module->CreateCommand(identifier, QString()), identifier);
   }
 
   void textsAreTranslated_data() {
