@@ -9,10 +9,16 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 
-/// A person at a workbench: a page with elements, and a mouse and keys on its view.
+#include <memory>
+
+/// A person at a workbench, one without a window or that of a window: a page with elements, and a mouse and keys on its
+/// view.
 class WorkbenchPage {
+  std::unique_ptr<Workbench> own_;
+
 public:
-  WorkbenchPage() {
+  explicit WorkbenchPage(Workbench& windows) : bench(windows) {}
+  WorkbenchPage() : own_(std::make_unique<Workbench>()), bench(*own_) {
     bench.session().create();
     bench.views().resize(800, 600);
     bench.views().QWidget::show();
@@ -69,5 +75,5 @@ public:
 
   LayoutView& view() { return bench.views().layoutView(); }
 
-  Workbench bench;
+  Workbench& bench;
 };

@@ -10,9 +10,8 @@ private slots:
   void initTestCase() {
     SysCarto::MapDocument document;
     QVERIFY(document.Open(folder_.path("page.kdx")));
-    auto const frame = make<SysCarto::MapFrameElement>();
+    auto const frame = madeIn<SysCarto::MapFrameElement>(2.0, 2.0, 3.0, 3.0);
     frame->SetName("Inset");
-    frame->SetGeometry(make<SysGeometry::Envelope>(2.0, 2.0, 3.0, 3.0));
     document.GetPageLayout()->GetGraphicsContainer()->AddElement(frame);
     QVERIFY(document.SaveAs(folder_.path("two.kdx"), true, false));
   }

@@ -20,6 +20,21 @@ namespace {
 
 QString const world = QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx");
 
+// With the sample open.
+struct WorldWindow {
+  WorldWindow() {
+    window.show();
+    if (!window.open(world)) qFatal("can't open %s", qPrintable(world));
+    QCoreApplication::processEvents();
+  }
+  void trigger(char const* identifier) { window.actions().find(identifier)->trigger(); }
+  bool isEnabled(char const* identifier) { return window.actions().find(identifier)->isEnabled(); }
+  bool isChecked(char const* identifier) { return window.actions().find(identifier)->isChecked(); }
+  SysCarto::MapDocument& document() { return window.bench().session().document(); }
+
+  MainWindow window;
+};
+
 DialogAnswers::Answer button(QString const& text) { return {DialogAnswers::Answer::Kind::Widget, "button", text}; }
 
 }  // namespace
@@ -36,25 +51,22 @@ private slots:
 
   void init() { QSettings().clear(); }
   void statesFollowTheHost() {
-    MainWindow window;
-    window.show();
-    QVERIFY(window.open(world));
-    QCoreApplication::processEvents();
-    QVERIFY(!isEnabled(window, "Plotvane_ZoomToPreviousExtent"));
-    QVERIFY(!isEnabled(window, "Plotvane_LeftAlignment") && !isEnabled(window, "Host_Undo"));
-    window.actions().find("Host_SelectAll")->trigger();
-    QVERIFY(isEnabled(window, "Plotvane_LeftAlignment"));
-    window.actions().find("Plotvane_LeftAlignment")->trigger();
-    QVERIFY(isEnabled(window, "Host_Undo") && window.isWindowModified());
-    window.actions().find("Host_Undo")->trigger();
-    QVERIFY(isEnabled(window, "Host_Redo") && !window.isWindowModified());
+    WorldWindow sample;
+    QVERIFY(!sample.isEnabled("Plotvane_ZoomToPreviousExtent"));
+    QVERIFY(!sample.isEnabled("Plotvane_LeftAlignment") && !sample.isEnabled("Host_Undo"));
+    sample.trigger("Host_SelectAll");
+    QVERIFY(sample.isEnabled("Plotvane_LeftAlignment"));
+    sample.trigger("Plotvane_LeftAlignment");
+    QVERIFY(sample.isEnabled("Host_Undo") && sample.window.isWindowModified());
+    sample.trigger("Host_Undo");
+    QVERIFY(sample.isEnabled("Host_Redo") && !sample.window.isWindowModified());
 
-    window.actions().find("Plotvane_Pan")->trigger();
-    QVERIFY(window.actions().find("Plotvane_Pan")->isChecked() && !window.actions().find("Host_Select")->isChecked());
-    window.actions().find("Plotvane_AlignToMargins")->trigger();
-    QVERIFY(window.actions().find("Plotvane_AlignToMargins")->isChecked());
-    window.actions().find("Host_MapView")->trigger();
-    QVERIFY(!isEnabled(window, "Plotvane_ZoomIn") && isEnabled(window, "Plotvane_LockDataFrame"));
+    sample.trigger("Plotvane_Pan");
+    QVERIFY(sample.isChecked("Plotvane_Pan") && !sample.isChecked("Host_Select"));
+    sample.trigger("Plotvane_AlignToMargins");
+    QVERIFY(sample.isChecked("Plotvane_AlignToMargins"));
+    sample.trigger("Host_MapView");
+    QVERIFY(!sample.isEnabled("Plotvane_ZoomIn") && sample.isEnabled("Plotvane_LockDataFrame"));
   }
 
   void theMapViewEnablesOnlyWhatWorksThere() {
@@ -95,16 +107,15 @@ private slots:
 
   void aDocumentThatCanNotBeReadChangesNothing() {
     QString const file = put(folder_.filePath("broken.kdx"), "{");
-    MainWindow window;
-    QVERIFY(window.open(world));
-    QByteArray const before = window.bench().session().document().GetText();
+    WorldWindow sample;
+    QByteArray const before = sample.document().GetText();
     DialogAnswers answers;  // none: the message box is a problem that is named
-    QVERIFY(!window.open(file));
+    QVERIFY(!sample.window.open(file));
     QString const told = answers.takeProblem();
     QVERIFY2(told.contains("message box"), qPrintable(told));
-    QVERIFY(window.bench().session().problem().contains("broken.kdx"));
-    QCOMPARE(window.bench().session().path(), world);
-    QVERIFY(window.bench().session().document().GetText() == before);
+    QVERIFY(sample.window.bench().session().problem().contains("broken.kdx"));
+    QCOMPARE(sample.window.bench().session().path(), world);
+    QVERIFY(sample.document().GetText() == before);
   }
 
   void changesAreNotLostWithoutAQuestion_data() {
@@ -117,15 +128,14 @@ private slots:
     auto const [answer, closes, writes] = fetched<QString, bool, bool>();
     QString const path = folder_.filePath("changed.kdx");
     QFile::remove(path);
-    MainWindow window;
-    QVERIFY(window.open(world) && window.bench().session().saveAs(path));
+    WorldWindow sample;
+    QVERIFY(sample.window.bench().session().saveAs(path));
     QByteArray const before = contentOf(path);
-    window.show();
-    window.actions().find("Host_SelectAll")->trigger();
-    window.actions().find("Host_Delete")->trigger();
+    sample.trigger("Host_SelectAll");
+    sample.trigger("Host_Delete");
     DialogAnswers answers;
     answers.add(button(answer));
-    QCOMPARE(window.close(), closes);
+    QCOMPARE(sample.window.close(), closes);
     QCOMPARE(answers.takeProblem(), QString());
     QCOMPARE(contentOf(path) != before, writes);
   }
@@ -151,114 +161,97 @@ private slots:
     window.resize(1280, 860);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    auto const layout = window.bench().session().document().GetPageLayout();
+    WorkbenchPage page(window.bench());
+    QVector<_ptr_t<SysCarto::Element>> boxes;
     for (int i = 0; i < 6; ++i) {
       double const x = 2 + i * 2.9, y = 4 + (i * 7) % 17;
-      layout->GetGraphicsContainer()->AddElement(
-          madeIn<SysCarto::RectangleElement>(x, y, x + 1.2 + 0.2 * i, y + 2.6 - 0.2 * i));
+      boxes << page.add<SysCarto::RectangleElement>(x, y, x + 1.2 + 0.2 * i, y + 2.6 - 0.2 * i);
     }
-    auto& view = window.bench().views().layoutView();
-    view.refresh(SysCarto::ViewSurface::everything);
-    QByteArray const start = window.bench().session().document().GetText();
+    page.view().refresh(SysCarto::ViewSurface::everything);
+    QByteArray const start = page.bench.session().document().GetText();
     auto const picture = [&](char const* name) {
       for (int i = 0; i < 3; ++i) QTest::qWait(20);
       QString const folder = qEnvironmentVariable("PLOTVANE_PICTURES");
       if (!folder.isEmpty()) QVERIFY(window.grab().save(folder + QLatin1Char('/') + name + ".png"));
     };
-    auto const pixel = [&](double x, double y) { return layout->GetDisplayTransformation()->FromMapPoint(x, y); };
-    auto const boxes = [&] {
-      QVector<QRectF> rectangles;
-      for (auto const& element : layout->GetGraphicsContainer()->GetElements()) rectangles << placeOf(*element);
-      return rectangles;
-    };
 
-    auto const moveTo = [&view](QPoint const& at) {
-      QMouseEvent move(QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-      QApplication::sendEvent(&view, &move);
-    };
-    QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, pixel(0.5, 29));
-    moveTo(pixel(10, 10));
+    page.mouse(QEvent::MouseButtonPress, page.pixel(0.5, 29));
+    page.mouse(QEvent::MouseMove, page.pixel(10, 10));
     picture("band");
-    moveTo(pixel(20.5, 1));
-    QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, pixel(20.5, 1));
-    QCOMPARE(layout->GetGraphicsContainer()->GetSelectedElementCount(), 6);
+    page.mouse(QEvent::MouseMove, page.pixel(20.5, 1));
+    page.mouse(QEvent::MouseButtonRelease, page.pixel(20.5, 1));
+    QCOMPARE(page.container().GetSelectedElementCount(), 6);
     picture("selected");
-    window.actions().find("Plotvane_MakeSameSizeElements")->trigger();
-    window.actions().find("Plotvane_AlignToMargins")->trigger();
+    QVERIFY(page.run("Plotvane_MakeSameSizeElements") && page.run("Plotvane_AlignToMargins"));
     QTest::keyClick(&window, Qt::Key_B, Qt::ControlModifier | Qt::AltModifier);  // align bottom
-    window.actions().find("Plotvane_DistributeHorizontallyElements")->trigger();
+    QVERIFY(page.run("Plotvane_DistributeHorizontallyElements"));
     picture("arranged");
-    auto const arranged = boxes();
     double const outlineCm = 0.05;  // the commands go by what is drawn, outlines included
-    for (QRectF const& box : arranged) QVERIFY(qAbs(box.top()) < outlineCm);
-    for (QRectF const& box : arranged) QVERIFY(qAbs(box.width() - arranged[0].width()) < outlineCm);
-    double const gap = arranged[1].left() - arranged[0].left();
-    for (int i = 2; i < 6; ++i) QVERIFY(qAbs(arranged[i].left() - arranged[i - 1].left() - gap) < outlineCm);
+    double const step = page.place(*boxes[1]).left() - page.place(*boxes[0]).left();
+    for (int i = 0; i < 6; ++i) {
+      QRectF const box = page.place(*boxes[i]), first = page.place(*boxes[0]);
+      QVERIFY(qAbs(box.top()) < outlineCm && qAbs(box.width() - first.width()) < outlineCm);
+      QVERIFY(qAbs(box.left() - first.left() - i * step) < i * outlineCm + 1e-9);
+    }
 
-    QPoint const grip = pixel(arranged[0].center().x(), arranged[0].center().y());
-    QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, grip);
-    moveTo(grip - QPoint(0, 120));
+    QPointF const centre = page.place(*boxes[0]).center();
+    QPoint const grip = page.pixel(centre.x(), centre.y());
+    page.mouse(QEvent::MouseButtonPress, grip);
+    page.mouse(QEvent::MouseMove, grip - QPoint(0, 120));
     picture("dragging");
-    QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, grip - QPoint(0, 120));
-    QTest::keyClick(&view, Qt::Key_Up, Qt::ShiftModifier);
+    page.mouse(QEvent::MouseButtonRelease, grip - QPoint(0, 120));
+    page.key(Qt::Key_Up, Qt::ShiftModifier);
     picture("moved");
-    QVERIFY(boxes()[0].top() > 4);
+    QVERIFY(page.place(*boxes[0]).top() > 4);
     QTest::keyClick(&window, Qt::Key_Escape);
-    while (isEnabled(window, "Host_Undo")) QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
-    layout->SetAlignToMargins(false);
-    QVERIFY(window.bench().session().document().GetText() == start);
-    window.bench().session().document().history()->setClean();
+    while (window.actions().find("Host_Undo")->isEnabled()) QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+    page.layout()->SetAlignToMargins(false);
+    QVERIFY(page.bench.session().document().GetText() == start);
+    page.bench.session().document().history()->setClean();
   }
 
   void theContentsFollowTheDataFrames() {
-    MainWindow window;
-    window.show();
-    QVERIFY(window.open(world));
-    auto* const tree = window.findChild<QTreeWidget*>("treeWidget_Contents");
+    WorldWindow sample;
+    auto* const tree = sample.window.findChild<QTreeWidget*>("treeWidget_Contents");
     auto const first = [tree] { return tree->topLevelItem(0)->text(0); };
     QCOMPARE(first(), QString("World"));
-    window.actions().find("Host_SelectAll")->trigger();
-    window.actions().find("Host_Delete")->trigger();
+    sample.trigger("Host_SelectAll");
+    sample.trigger("Host_Delete");
     QCOMPARE(first(), QString("No maps on this page"));
-    window.actions().find("Host_Undo")->trigger();
+    sample.trigger("Host_Undo");
     QCOMPARE(first(), QString("World"));
-    QCOMPARE(tree->topLevelItem(0)->childCount(), window.bench().session().document().GetMap(0)->GetLayerCount());
+    QCOMPARE(tree->topLevelItem(0)->childCount(), sample.document().GetMap(0)->GetLayerCount());
   }
 
   void hidingALayerIsAChangeOfTheDocument() {
-    MainWindow window;
-    window.show();
-    QVERIFY(window.open(world));
-    QCoreApplication::processEvents();
-    auto* const tree = window.findChild<QTreeWidget*>("treeWidget_Contents");
+    WorldWindow sample;
+    auto* const tree = sample.window.findChild<QTreeWidget*>("treeWidget_Contents");
     QTreeWidgetItem* const layer = tree->topLevelItem(0)->child(0);
     layer->setCheckState(0, Qt::Unchecked);
-    auto const map = window.bench().session().document().GetMap(0);
+    auto const map = sample.document().GetMap(0);
     QVERIFY(!map->GetLayer(map->GetLayerCount() - 1)->IsVisible());
-    QTRY_VERIFY(window.isWindowModified());
+    QTRY_VERIFY(sample.window.isWindowModified());
     layer->setCheckState(0, Qt::Checked);
-    QTRY_VERIFY(!window.isWindowModified());
+    QTRY_VERIFY(!sample.window.isWindowModified());
   }
 
   void theMapMovesInItsFrame() {
-    MainWindow window;
-    window.show();
-    QVERIFY(window.open(world));
-    auto const layout = window.bench().views().GetPageLayout();
+    WorldWindow sample;
+    auto const layout = sample.window.bench().views().GetPageLayout();
     auto const map = layout->GetFocusMap();
     auto const scale = [&] { return map->GetDisplayTransformation()->GetMapScale(); };
-    auto* const field = window.findChild<QLineEdit*>("lineEdit_MapScale");
+    auto* const field = sample.window.findChild<QLineEdit*>("lineEdit_MapScale");
     QTest::keyClicks(field, "junk");
     QTest::keyClick(field, Qt::Key_Return);
-    QCOMPARE(field->text(), "1:" + window.locale().toString(scale(), 'f', 0));
+    QCOMPARE(field->text(), "1:" + sample.window.locale().toString(scale(), 'f', 0));
     field->selectAll();
     QTest::keyClicks(field, "1:50000000");
     QTest::keyClick(field, Qt::Key_Return);
     QVERIFY(qAbs(scale() / 50e6 - 1) < 1e-6);
-    QVERIFY(window.isWindowModified());
+    QVERIFY(sample.window.isWindowModified());
 
-    window.actions().find("Host_MapView")->trigger();
-    MapView& view = window.bench().views().mapView();
+    sample.trigger("Host_MapView");
+    MapView& view = sample.window.bench().views().mapView();
     view.grab();
     QPoint const middle = view.rect().center();
     auto const before = map->GetExtent();
@@ -311,11 +304,6 @@ private slots:
   }
 
 private:
-  bool isEnabled(MainWindow& window, char const* identifier) {
-    QAction const* const action = window.actions().find(identifier);
-    return action && action->isEnabled();
-  }
-
   QTemporaryDir folder_;
 };
 
