@@ -24,7 +24,6 @@ private slots:
     row("redo makes it again", "select=World,Inset Plotvane_LeftAlignment undo redo info", 1);
     row("handles name elements, too", "select=#1,#2 Plotvane_LeftAlignment info", 1);
     row("a drag moves what lies under it", "drag=2.5,2.5,4.5,2.5 info", 4);
-    row("a locked frame stays where it is", "Plotvane_LockDataFrame drag=2.5,2.5,4.5,2.5 info", 2);
     row("the pan tool moves no element", "Plotvane_Pan drag=2.5,2.5,4.5,2.5 info", 2);
   }
   void stepsWorkOnThePage() {

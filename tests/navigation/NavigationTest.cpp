@@ -29,10 +29,6 @@ private slots:
     hook_->layout->SetExtent(make<Envelope>(0.0, 0.0, extentWidth, extentHeight));
   }
 
-  void theCursorsAreThePluginsOwn() {
-    for (char const* path : {":/res/ZoomIn.cur", ":/res/ZoomOut.cur"}) QCOMPARE(QPixmap(path).size(), QSize(32, 32));
-  }
-
   void toolsDrawOverThePictureInOnePassAMove_data() {
     Rows<QString, QStringList> row;
     row("zooming in", "in",
