@@ -4,6 +4,7 @@
 #include "RecordingSurface.h"
 
 #include <SysCarto/Editor.h>
+#include <SysFramework/BaseCommand.h>
 #include <SysFramework/IApplicationHook.h>
 
 #include <QUndoStack>
@@ -42,6 +43,14 @@ public:
   QStringList calls;
   RecordingSurface surface{calls};
 };
+
+/// How a row of a test makes its command.
+using MakeCommand = _ptr_t<SysFramework::BaseCommand> (*)();
+
+template <class Command>
+_ptr_t<SysFramework::BaseCommand> made() {
+  return make<Command>();
+}
 
 /// A layout with an empty page of its own size, shown whole.
 inline _ptr_t<SysCarto::PageLayout> emptyLayout(double widthCm, double heightCm) {

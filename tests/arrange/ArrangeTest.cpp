@@ -11,8 +11,8 @@
 #include <SysDisplay/SimpleLineSymbol.h>
 
 #include <cmath>
-#include <functional>
 
+using namespace Plugin;
 using namespace SysCarto;
 using SysFramework::BaseCommand;
 using SysGeometry::Envelope;
@@ -21,12 +21,6 @@ namespace {
 
 using Rectangle = QVector<double>;  // xmin, ymin, xmax, ymax
 using Rectangles = QVector<Rectangle>;
-using MakeCommand = std::function<_ptr_t<BaseCommand>()>;
-
-template <class Command>
-MakeCommand maker() {
-  return [] { return _ptr_t<BaseCommand>(make<Command>()); };
-}
 
 _ptr_t<Element> rectangle(Rectangle const& r) {
   auto const element = make<RectangleElement>();
@@ -79,46 +73,46 @@ private slots:
     Rows<MakeCommand, bool, Rectangles, Rectangles> row;
     Rectangles const three = {{5, 1, 7, 2}, {2, 4, 4, 8}, {9, 10, 12, 13}};
 
-    row("left edges follow the first selected", maker<Plugin::LeftAlignmentElement>(), false, three,
+    row("left edges follow the first selected", made<LeftAlignmentElement>, false, three,
         {{5, 1, 7, 2}, {5, 4, 7, 8}, {5, 10, 8, 13}});
-    row("right edges follow the first selected", maker<Plugin::RightAlignmentElement>(), false, three,
+    row("right edges follow the first selected", made<RightAlignmentElement>, false, three,
         {{5, 1, 7, 2}, {5, 4, 7, 8}, {4, 10, 7, 13}});
-    row("top edges are the larger y", maker<Plugin::TopAlignmentElement>(), false, three,
+    row("top edges are the larger y", made<TopAlignmentElement>, false, three,
         {{5, 1, 7, 2}, {2, -2, 4, 2}, {9, -1, 12, 2}});
-    row("bottom edges are the smaller y", maker<Plugin::BottomAlignmentElement>(), false, three,
+    row("bottom edges are the smaller y", made<BottomAlignmentElement>, false, three,
         {{5, 1, 7, 2}, {2, 1, 4, 5}, {9, 1, 12, 4}});
-    row("centres share an x", maker<Plugin::CenterAlignmentElement>(), false, three,
+    row("centres share an x", made<CenterAlignmentElement>, false, three,
         {{5, 1, 7, 2}, {5, 4, 7, 8}, {4.5, 10, 7.5, 13}});
-    row("middles share a y", maker<Plugin::VerticalCenterAlignmentElement>(), false, three,
+    row("middles share a y", made<VerticalCenterAlignmentElement>, false, three,
         {{5, 1, 7, 2}, {2, -0.5, 4, 3.5}, {9, 0, 12, 3}});
-    row("with margins the first moves too", maker<Plugin::LeftAlignmentElement>(), true, three,
+    row("with margins the first moves too", made<LeftAlignmentElement>, true, three,
         {{0, 1, 2, 2}, {0, 4, 2, 8}, {0, 10, 3, 13}});
-    row("with margins one is enough", maker<Plugin::TopAlignmentElement>(), true, {{5, 1, 7, 2}}, {{5, 27, 7, 28}});
+    row("with margins one is enough", made<TopAlignmentElement>, true, {{5, 1, 7, 2}}, {{5, 27, 7, 28}});
 
-    row("gaps become equal", maker<Plugin::DistributeHorizontallyElements>(), false,
+    row("gaps become equal", made<DistributeHorizontallyElements>, false,
         {{8, 0, 10, 1}, {30, 0, 34, 1}, {12, 0, 15, 1}}, {{8, 0, 10, 1}, {30, 0, 34, 1}, {18.5, 0, 21.5, 1}});
-    row("four in a column, in the order of their lower edges", maker<Plugin::DistributeVerticallyElements>(), false,
+    row("four in a column, in the order of their lower edges", made<DistributeVerticallyElements>, false,
         {{0, 0, 1, 1}, {0, 4, 1, 5}, {0, 2, 1, 4}, {0, 10, 1, 12}},
         {{0, 0, 1, 1}, {0, 7, 1, 8}, {0, 3, 1, 5}, {0, 10, 1, 12}});
-    row("too little room makes them overlap alike", maker<Plugin::DistributeHorizontallyElements>(), false,
+    row("too little room makes them overlap alike", made<DistributeHorizontallyElements>, false,
         {{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}}, {{0, 0, 2, 1}, {1, 0, 5, 1}, {4, 0, 6, 1}});
-    row("all on one centre chain after the first", maker<Plugin::DistributeHorizontallyElements>(), false,
+    row("all on one centre chain after the first", made<DistributeHorizontallyElements>, false,
         {{4, 0, 6, 1}, {3, 0, 7, 1}, {4.5, 0, 5.5, 1}},
         {{4, 0, 6, 1}, {7.0 / 3, 0, 19.0 / 3, 1}, {11.0 / 3, 0, 14.0 / 3, 1}});
 
-    row("heights follow the last selected", maker<Plugin::MakeSameHeightElements>(), false,
+    row("heights follow the last selected", made<MakeSameHeightElements>, false,
         {{0, 0, 1, 2}, {3, 3, 4, 7}, {5, 0, 6, 8}}, {{0, 0, 1, 8}, {3, 3, 4, 11}, {5, 0, 6, 8}});
-    row("widths follow the last selected", maker<Plugin::MakeSameWidthElements>(), false, {{0, 0, 4, 2}, {3, 3, 5, 7}},
+    row("widths follow the last selected", made<MakeSameWidthElements>, false, {{0, 0, 4, 2}, {3, 3, 5, 7}},
         {{0, 0, 2, 2}, {3, 3, 5, 7}});
-    row("sizes follow the last selected", maker<Plugin::MakeSameSizeElements>(), false, {{1, 1, 4, 2}, {3, 3, 5, 7}},
+    row("sizes follow the last selected", made<MakeSameSizeElements>, false, {{1, 1, 4, 2}, {3, 3, 5, 7}},
         {{1, 1, 3, 5}, {3, 3, 5, 7}});
-    row("an element without width keeps none", maker<Plugin::MakeSameSizeElements>(), false,
-        {{1, 1, 1, 2}, {3, 3, 5, 7}}, {{1, 1, 1, 5}, {3, 3, 5, 7}});
+    row("an element without width keeps none", made<MakeSameSizeElements>, false, {{1, 1, 1, 2}, {3, 3, 5, 7}},
+        {{1, 1, 1, 5}, {3, 3, 5, 7}});
 
-    row("fits both extents", maker<Plugin::FittoMarginsElements>(), false, {{2, 3, 6, 5}}, {{0, 0, 20, 28}});
-    row("fits the width alone", maker<Plugin::FitWidthtoMarginsElements>(), true, {{2, 3, 6, 5}}, {{0, 3, 20, 5}});
-    row("fits the height alone", maker<Plugin::FitHeighttoMarginsElements>(), false, {{2, 3, 6, 5}}, {{2, 0, 6, 28}});
-    row("without height it goes to the lower edge", maker<Plugin::FitHeighttoMarginsElements>(), false, {{2, 3, 6, 3}},
+    row("fits both extents", made<FittoMarginsElements>, false, {{2, 3, 6, 5}}, {{0, 0, 20, 28}});
+    row("fits the width alone", made<FitWidthtoMarginsElements>, true, {{2, 3, 6, 5}}, {{0, 3, 20, 5}});
+    row("fits the height alone", made<FitHeighttoMarginsElements>, false, {{2, 3, 6, 5}}, {{2, 0, 6, 28}});
+    row("without height it goes to the lower edge", made<FitHeighttoMarginsElements>, false, {{2, 3, 6, 3}},
         {{2, 0, 6, 0}});
   }
 
@@ -140,7 +134,7 @@ private slots:
   void alignmentGoesByTheDrawnBounds() {
     addSelected(bordered({5, 1, 7, 2}, 0.5));
     addSelected(bordered({2, 4, 4, 8}, 0.25));
-    QVERIFY(click(make<Plugin::LeftAlignmentElement>()));
+    QVERIFY(click(make<LeftAlignmentElement>()));
     expectSelected({{5, 1, 7, 2}, {4.75, 4, 6.75, 8}});
   }
 
@@ -148,32 +142,32 @@ private slots:
     addSelected(bordered({0, 0, 2, 1}, 0.5));
     addSelected(bordered({3, 0, 5, 1}, 0.1));
     addSelected(bordered({10, 0, 12, 1}, 1.0));
-    QVERIFY(click(make<Plugin::DistributeHorizontallyElements>()));
+    QVERIFY(click(make<DistributeHorizontallyElements>()));
     expectSelected({{0, 0, 2, 1}, {5, 0, 7, 1}, {10, 0, 12, 1}});
   }
 
   void fittingIsMeasuredDrawnAndPlacedByTheOwnRectangle() {
     addSelected(bordered({4, 4, 8, 8}, 1.0));
-    QVERIFY(click(make<Plugin::FitWidthtoMarginsElements>()));
+    QVERIFY(click(make<FitWidthtoMarginsElements>()));
     // Drawn 6 wide, so 20 / 6 times as wide, and its own left edge on the margin.
     expectSelected({{0, 4, 4 * 20 / 6.0, 8}});
   }
 
   void enabling_data() {
     Rows<MakeCommand, int, bool, bool> row;
-    row("alignment wants two", maker<Plugin::LeftAlignmentElement>(), 1, false, false);
-    row("alignment has two", maker<Plugin::LeftAlignmentElement>(), 2, false, true);
-    row("alignment to margins wants one", maker<Plugin::LeftAlignmentElement>(), 1, true, true);
-    row("alignment to margins has none", maker<Plugin::LeftAlignmentElement>(), 0, true, false);
-    row("distribution wants three", maker<Plugin::DistributeVerticallyElements>(), 2, false, false);
-    row("distribution has three", maker<Plugin::DistributeVerticallyElements>(), 3, false, true);
-    row("same size wants two", maker<Plugin::MakeSameSizeElements>(), 1, false, false);
-    row("fit wants one", maker<Plugin::FittoMarginsElements>(), 0, false, false);
-    row("fit has one", maker<Plugin::FittoMarginsElements>(), 1, false, true);
-    row("stacking wants one", maker<Plugin::SendToBackElements>(), 0, false, false);
-    row("stacking has one", maker<Plugin::SendToBackElements>(), 1, false, true);
-    row("the toggle wants one", maker<Plugin::AlignToMarginsElement>(), 0, true, false);
-    row("locking wants none", maker<LockDataFrame>(), 0, false, true);
+    row("alignment wants two", made<LeftAlignmentElement>, 1, false, false);
+    row("alignment has two", made<LeftAlignmentElement>, 2, false, true);
+    row("alignment to margins wants one", made<LeftAlignmentElement>, 1, true, true);
+    row("alignment to margins has none", made<LeftAlignmentElement>, 0, true, false);
+    row("distribution wants three", made<DistributeVerticallyElements>, 2, false, false);
+    row("distribution has three", made<DistributeVerticallyElements>, 3, false, true);
+    row("same size wants two", made<MakeSameSizeElements>, 1, false, false);
+    row("fit wants one", made<FittoMarginsElements>, 0, false, false);
+    row("fit has one", made<FittoMarginsElements>, 1, false, true);
+    row("stacking wants one", made<SendToBackElements>, 0, false, false);
+    row("stacking has one", made<SendToBackElements>, 1, false, true);
+    row("the toggle wants one", made<AlignToMarginsElement>, 0, true, false);
+    row("locking wants none", made<LockDataFrame>, 0, false, true);
   }
 
   void enabling() {
@@ -190,10 +184,10 @@ private slots:
   void whatCannotBeStretchedDisablesFitting() {
     addSelected(rectangle({0, 0, 1, 1}));
     addSelected(make<MapSurroundFrame>());
-    QVERIFY(!click(make<Plugin::FittoMarginsElements>()));
+    QVERIFY(!click(make<FittoMarginsElements>()));
     container_->UnselectAllElements();
     addSelected(make<MarkerElement>());
-    QVERIFY(!click(make<Plugin::FittoMarginsElements>()));
+    QVERIFY(!click(make<FittoMarginsElements>()));
   }
 
   void aMarkerEndsSameSizeWhereItIsMet() {
@@ -201,7 +195,7 @@ private slots:
     addSelected(make<MarkerElement>());
     addSelected(rectangle({5, 5, 6, 6}));
     addSelected(rectangle({7, 7, 9, 10}));
-    QVERIFY(click(make<Plugin::MakeSameWidthElements>()));
+    QVERIFY(click(make<MakeSameWidthElements>()));
     auto const selection = container_->GetSelectedElements();
     QCOMPARE(ownRectangle(*selection[0]), (Rectangle{0, 0, 1, 1}));
     QCOMPARE(ownRectangle(*selection[2]), (Rectangle{5, 5, 7, 6}));
@@ -219,7 +213,7 @@ private slots:
     auto const transform = hook_->layout->GetDisplayTransformation();
     double const height = label->GetBoundary(transform)->GetEnvelope()->GetHeight();
     addSelected(rectangle({10, 10, 11, 10 + 3 * height}));
-    QVERIFY(click(make<Plugin::MakeSameHeightElements>()));
+    QVERIFY(click(make<MakeSameHeightElements>()));
     auto const scaled = ptr_cast<TextElement>(container_->GetSelectedElements().first());
     QVERIFY(std::abs(scaled->symbol()->format().size / label->symbol()->format().size - 3.0) < 1e-6);
   }
@@ -229,17 +223,17 @@ private slots:
     auto const all = container_->GetElements();
     container_->SelectElement(all[0]);
     container_->SelectElement(all[1]);
-    QVERIFY(click(make<Plugin::MakeSameSizeElements>()));
+    QVERIFY(click(make<MakeSameSizeElements>()));
     expectOrder({all[2], all[0], all[1], all[3]});
   }
 
   void stackingOrders_data() {
     // order: of elements 0 to 4, with 1 and 2 selected
     Rows<MakeCommand, QVector<int>> row;
-    row("forward", maker<Plugin::BringForwardElements>(), {0, 3, 1, 2, 4});
-    row("to the front", maker<Plugin::BringToFrontElements>(), {0, 3, 4, 1, 2});
-    row("backward", maker<Plugin::SendBackwardElements>(), {1, 2, 0, 3, 4});
-    row("to the back", maker<Plugin::SendToBackElements>(), {1, 2, 0, 3, 4});
+    row("forward", made<BringForwardElements>, {0, 3, 1, 2, 4});
+    row("to the front", made<BringToFrontElements>, {0, 3, 4, 1, 2});
+    row("backward", made<SendBackwardElements>, {1, 2, 0, 3, 4});
+    row("to the back", made<SendToBackElements>, {1, 2, 0, 3, 4});
   }
 
   void stackingOrders() {
@@ -270,7 +264,7 @@ private slots:
   }
 
   void theToggleIsCheckedByTheLayoutItself() {
-    auto const toggle = hook_->bound<Plugin::AlignToMarginsElement>();
+    auto const toggle = hook_->bound<AlignToMarginsElement>();
     toggle->OnClick();
     QVERIFY(toggle->IsChecked());
     hook_->view = make<Map>();
@@ -286,7 +280,7 @@ private slots:
     container_ = map->GetGraphicsContainer();
     addSelected(rectangle({5, 1, 7, 2}));
     addSelected(rectangle({2, 4, 4, 8}));
-    QVERIFY(click(make<Plugin::LeftAlignmentElement>()));
+    QVERIFY(click(make<LeftAlignmentElement>()));
     expectSelected({{5, 1, 7, 2}, {5, 4, 7, 8}});
   }
 
@@ -294,8 +288,8 @@ private slots:
     addSelected(rectangle({5, 1, 7, 2}));
     hook_->layout->SetAlignToMargins(true);
     hook_->layout->SetPage(nullptr);
-    QVERIFY(click(make<Plugin::LeftAlignmentElement>()));
-    QVERIFY(click(make<Plugin::FittoMarginsElements>()));
+    QVERIFY(click(make<LeftAlignmentElement>()));
+    QVERIFY(click(make<FittoMarginsElements>()));
     expectSelected({{5, 1, 7, 2}});
     QCOMPARE(hook_->history.count(), 0);
   }

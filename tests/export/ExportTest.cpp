@@ -3,7 +3,7 @@
 #include "export/ExportCommand.h"
 #include "export/LayoutRenderer.h"
 
-#include <SysCarto/FeatureLayer.h>
+#include <SysCarto/Layer.h>
 #include <SysCarto/MapDocument.h>
 
 #include <QDir>
@@ -21,7 +21,7 @@ using SysUI::TrackerCancel;
 namespace {
 
 // Notes what it is asked to draw, and draws nothing.
-class RecordingLayer : public FeatureLayer {
+class RecordingLayer : public Layer {
 public:
   struct Call {
     Envelope bounds;
@@ -29,10 +29,7 @@ public:
     double pageScale;
   };
 
-  bool IsAnnotationVisible() const override { return false; }
-  _ptr_t<AnnotationProperties> GetAnnotationProperties() const override { return settings_; }
-  void GetAnnotationElements(QMap<int, QList<_ptr_t<SysGeometry::Polygon>>>&, QList<_ptr_t<Element>>&,
-                             _ptr_t<DisplayTransformation> const&, _ptr_t<TrackerCancel>) override {}
+  int GetType() const override { return 2; }
   void Draw(QPainter&, _ptr_t<DisplayTransformation> const& transform, int phase,
             _ptr_t<TrackerCancel> const&) override {
     QCOMPARE(phase, 1);
@@ -40,9 +37,6 @@ public:
   }
 
   QVector<Call> calls;
-
-private:
-  _ptr_t<AnnotationProperties> settings_ = make<AnnotationProperties>();
 };
 
 _ptr_t<RecordingLayer> addWithLayer(PageLayout& layout, _ptr_t<MapFrameElement> const& frame) {
@@ -50,12 +44,6 @@ _ptr_t<RecordingLayer> addWithLayer(PageLayout& layout, _ptr_t<MapFrameElement> 
   frame->GetMap()->AddLayer(layer);
   layout.GetGraphicsContainer()->AddElement(frame);
   return layer;
-}
-
-QList<int> handlesOf(_ptr_t<Map> const& map) {
-  QList<int> handles;
-  for (auto const& element : map->GetGraphicsContainer()->GetElements()) handles << element->GetHandle();
-  return handles;
 }
 
 QVector<double> reported;
@@ -191,16 +179,16 @@ private slots:
     MapDocument sample;
     QVERIFY(sample.Open(PLOTVANE_SOURCE_DIR "/samples/world.kdx"));
     auto const layout = sample.GetPageLayout();
-    auto const map = sample.GetMap(0);
-    QList<int> const before = handlesOf(map);
+    auto* const graphics = sample.GetMap(0)->GetGraphicsContainer();
+    auto const before = graphics->GetElements();
     QSize const size = LayoutRenderer::imageSize(*layout->GetPage(), 50);
     LayoutRenderer const renderer(layout, size, 50);
     {
       auto const hook = make<LayoutHook>(layout);
       PlacedLabels const labels(*hook, renderer.pageTransform());
-      QVERIFY(handlesOf(map).size() > before.size() + 20);
+      QVERIFY(graphics->GetElements().size() > before.size() + 20);
     }
-    QCOMPARE(handlesOf(map), before);
+    QCOMPARE(graphics->GetElements(), before);
   }
 
   void progressCountsTheTilesBegun() {

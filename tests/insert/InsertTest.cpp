@@ -15,12 +15,10 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
-using Create = SysFramework::BaseCommand* (*)();
 using Place = _ptr_t<SysGeometry::Envelope> (SysCarto::PageLayout::*)() const;
 
 using namespace Plugin;
 using namespace SysCarto;
-using SysFramework::BaseCommand;
 using SysGeometry::Envelope;
 
 using SysUI::EnvironmentSetting;
@@ -131,18 +129,17 @@ private slots:
   }
 
   void aSurroundIsAddedAtItsPlaceAndSelectedAlone_data() {
-    Rows<Create, int, Place, QString> row;
-    row("legend", created<AddLegendCommand>(), 1, Place(&PageLayout::GetDefaultLegendEnvelope), "Add a legend");
-    row("scale bar", created<AddScaleBarCommand>(), 2, Place(&PageLayout::GetDefaultScaleBarEnvelope),
-        "Add a scale bar");
-    row("scale text", created<AddScaleTextCommand>(), 3, Place(&PageLayout::GetDefaultScaleTextEnvelope),
+    Rows<MakeCommand, int, Place, QString> row;
+    row("legend", made<AddLegendCommand>, 1, Place(&PageLayout::GetDefaultLegendEnvelope), "Add a legend");
+    row("scale bar", made<AddScaleBarCommand>, 2, Place(&PageLayout::GetDefaultScaleBarEnvelope), "Add a scale bar");
+    row("scale text", made<AddScaleTextCommand>, 3, Place(&PageLayout::GetDefaultScaleTextEnvelope),
         "Add a text of description of the scale");
-    row("north arrow", created<AddNorthArrowCommand>(), 6, Place(&PageLayout::GetDefaultNorthArrowEnvelope), "Edit");
+    row("north arrow", made<AddNorthArrowCommand>, 6, Place(&PageLayout::GetDefaultNorthArrowEnvelope), "Edit");
   }
 
   void aSurroundIsAddedAtItsPlaceAndSelectedAlone() {
-    auto const [create, kind, place, name] = fetched<Create, int, Place, QString>();
-    _ptr_t<BaseCommand> const command(create());
+    auto const [create, kind, place, name] = fetched<MakeCommand, int, Place, QString>();
+    auto const command = create();
     command->OnCreate(hook_->pointer());
     auto const first = frameNamed("First"), focus = frameNamed("Focus");
     container()->AddElements({first, focus});
@@ -342,11 +339,6 @@ private:
   template <class Command>
   void click() {
     hook_->bound<Command>()->OnClick();
-  }
-
-  template <class Command>
-  static Create created() {
-    return [] { return static_cast<BaseCommand*>(new Command); };
   }
 
   static _ptr_t<MapSurroundFrame> surround(int kind, int elements) {
