@@ -48,7 +48,7 @@ public:
   void mouse(QEvent::Type type, QPoint const& at, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QMouseEvent event(type, at, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
                       type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, modifiers);
-    QApplication::sendEvent(&view(), &event);
+    QApplication::sendEvent(&shown(), &event);
   }
 
   void click(QPoint const& at, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { drag(at, at, modifiers); }
@@ -61,18 +61,20 @@ public:
   }
 
   void wheel(QPoint const& angle, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QPointF const centre = view().rect().center();
+    QPointF const centre = shown().rect().center();
     QWheelEvent event(centre, centre, QPoint(), angle, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&view(), &event);
+    QApplication::sendEvent(&shown(), &event);
   }
 
-  void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { QTest::keyClick(&view(), key, modifiers); }
+  void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) { QTest::keyClick(&shown(), key, modifiers); }
 
   bool run(QString const& identifier) {
     auto const* const command = bench.commands().find(identifier);
     return command && bench.commands().click(*command);
   }
 
+  /// The one of the two views that mouse and keys go to.
+  QWidget& shown() { return *bench.views().currentWidget(); }
   LayoutView& view() { return bench.views().layoutView(); }
 
   Workbench& bench;

@@ -251,23 +251,18 @@ private slots:
     QVERIFY(sample.window.isWindowModified());
 
     sample.trigger("Host_MapView");
-    MapView& view = sample.window.bench().views().mapView();
-    view.grab();
-    QPoint const middle = view.rect().center();
+    WorkbenchPage page(sample.window.bench());
+    page.shown().grab();
     auto const before = map->GetExtent();
-    QTest::mousePress(&view, Qt::LeftButton, {}, middle);
-    QMouseEvent move(QEvent::MouseMove, middle + QPoint(50, 0), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&view, &move);
-    QTest::mouseRelease(&view, Qt::LeftButton, {}, middle + QPoint(50, 0));
+    page.drag({100, 100}, {150, 100});
     QVERIFY(map->GetExtent()->GetXMin() < before->GetXMin());
     QVERIFY(qAbs(map->GetExtent()->GetWidth() / before->GetWidth() - 1) < 1e-9);
 
-    QWheelEvent wheel(middle, middle, QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&view, &wheel);
+    page.wheel({0, 120});
     QVERIFY(scale() < 50e6 * 0.9);
     layout->GetFocusMapFrameElement()->SetLocked(true);
     double const locked = scale();
-    QCoreApplication::sendEvent(&view, &wheel);
+    page.wheel({0, 120});
     QCOMPARE(scale(), locked);
   }
 
