@@ -72,16 +72,6 @@ private slots:
     QCOMPARE(kinds, QSet<int>({1, 2, 3, 6}));
   }
 
-  void theTemplatesOwnDataNeedNotBeThere() {
-    choose(put(folder_.filePath("lost.kdx"),
-               R"({"format":"plotvane-document","version":1,"page":{"form":"A4"},"maps":[{"name":"M",
-      "bounds":[0,0,1,1],"layers":[{"type":"feature","name":"L","source":{"file":"absent.gpkg"},
-      "renderer":{"type":"simple","symbol":{"type":"simpleLine"}}}]}],
-      "elements":[{"type":"dataFrame","map":0,"rectangle":[1,1,5,5]}]})"));
-    click();
-    QVERIFY(desktop_->calls.contains("set layout"));
-  }
-
   void aCancelledChoiceLeavesEverything() {
     answerDialog([](QWidget& dialog) { static_cast<QDialog&>(dialog).reject(); });
     click();
@@ -132,11 +122,14 @@ private:
     });
   }
 
+  // Its own data need not be there.
   QString writeTemplate() {
     return put(folder_.filePath("template.kdx"), R"({"format":"plotvane-document","version":1,
       "page":{"form":"Custom","width":40,"height":50},
-      "maps":[{"name":"One","bounds":[0,0,1,1]},{"name":"Two","bounds":[0,0,1,1]}],
-      "elements":[{"type":"dataFrame","map":0,"rectangle":[1,1,20,20]},{"type":"dataFrame","map":1,"rectangle":[21,1,30,20]},
+      "maps":[{"name":"One","bounds":[0,0,1,1],"layers":[{"type":"feature","name":"L","source":{"file":"absent.gpkg"},
+      "renderer":{"type":"simple","symbol":{"type":"simpleLine"}}}]},{"name":"Two","bounds":[0,0,1,1]}],
+      "elements":[{"type":"dataFrame","map":0,"rectangle":[1,1,20,20]},
+      {"type":"dataFrame","map":1,"rectangle":[21,1,30,20]},
       {"type":"surround","rectangle":[1,21,5,25],"surround":{"kind":"legend","map":0}}]})");
   }
 

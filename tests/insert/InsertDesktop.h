@@ -16,7 +16,7 @@ class InsertDesktop final : public LayoutHook, public IDesktop, public IContents
 public:
   class Contents final : public QWidget, public SysAdapterUI::PageLayoutControl, public SysAdapterUI::ICompanion {
   public:
-    explicit Contents(InsertDesktop& desktop) : desktop_(desktop), layout(desktop.layout) {}
+    explicit Contents(InsertDesktop& desktop) : layout(desktop.layout), desktop_(desktop) {}
     ~Contents() override { layout->setSurface(nullptr); }
 
     _ptr_t<SysCarto::PageLayout> GetPageLayout() const override { return layout; }
@@ -31,12 +31,11 @@ public:
       if (onCompanion) onCompanion();
     }
 
-  private:
-    InsertDesktop& desktop_;
-
-  public:
     _ptr_t<SysCarto::PageLayout> layout;
     std::function<void()> onCompanion;
+
+  private:
+    InsertDesktop& desktop_;
   };
 
   using LayoutHook::LayoutHook;
