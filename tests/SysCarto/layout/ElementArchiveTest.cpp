@@ -33,44 +33,31 @@ private slots:
   void comesBackAsItWasStored_data() {
     Rows<QByteArray> row;
     QByteArray const line = "'symbol':{'type':'simpleLine'}", fill = "'symbol':{'type':'simpleFill','style':'cross'}";
-    row("marker",
-        "{'type':'marker','handle':3,'name':'Church','position':[1.5,-2],"
-        "'symbol':{'type':'simpleMarker','size':9}}");
-    row("line without a symbol", "{'type':'line','handle':3,'points':[0,0,1,2,3.25,4]}");
-    row("polygon with a hole",
-        "{'type':'polygon','handle':3,'rings':[{'points':[0,0,9,0,9,9]},"
-        "{'points':[1,1,2,1,2,2]}]," +
-            fill + "}");
-    row("rectangle", "{'type':'rectangle','handle':3,'rectangle':[1,2,3,4]," + fill + "}");
-    row("ellipse on a map, in its units",
-        "{'type':'ellipse','handle':3,'rectangle':[500000,5400000,500100,5400200]," + fill + "}");
-    row("text",
-        "{'type':'text','handle':3,'position':[1,2],'text':'Grüße','angle':30,"
-        "'symbol':{'type':'text','size':14}}");
+    row("marker", "'type':'marker','name':'Church','position':[1.5,-2],'symbol':{'type':'simpleMarker','size':9}");
+    row("line without a symbol", "'type':'line','points':[0,0,1,2,3.25,4]");
+    row("polygon with a hole", "'type':'polygon','rings':[{'points':[0,0,9,0,9,9]},{'points':[1,1,2,1,2,2]}]," + fill);
+    row("rectangle", "'type':'rectangle','rectangle':[1,2,3,4]," + fill);
+    row("ellipse on a map, in its units", "'type':'ellipse','rectangle':[500000,5400000,500100,5400200]," + fill);
+    row("text", "'type':'text','position':[1,2],'text':'Grüße','angle':30,'symbol':{'type':'text','size':14}");
     row("group in a group",
-        "{'type':'group','handle':3,'name':'Outer','members':[{'type':'group','members':["
-        "{'type':'line','points':[0,0,1,1]," +
-            line + "}]},{'type':'marker','position':[0,0]}]}");
-    row("data frame",
-        "{'type':'dataFrame','handle':3,'map':1,'locked':true,'rectangle':[1,2,11,12],"
-        "'border':{" +
-            line +
-            ",'gap':2,'rounding':50},'shadow':{'offset':[3,-3]},"
-            "'grids':[{'name':'Grid 1'},{}]}");
-    row("bare data frame", "{'type':'dataFrame','handle':3,'map':0,'rectangle':[1,2,11,12]}");
-    row("surround", "{'type':'surround','handle':3,'rectangle':[1,2,3,4],'background':{" + fill +
-                        ",'gap':1},"
-                        "'surround':{'kind':'scaleLine','map':1}}");
+        "'type':'group','name':'Outer','members':[{'type':'group','members':[{'type':'line','points':[0,0,1,1]," +
+            line + "}]},{'type':'marker','position':[0,0]}]");
+    row("data frame", "'type':'dataFrame','map':1,'locked':true,'rectangle':[1,2,11,12],'border':{" + line +
+                          ",'gap':2,'rounding':50},'shadow':{'offset':[3,-3]},'grids':[{'name':'Grid 1'},{}]");
+    row("bare data frame", "'type':'dataFrame','map':0,'rectangle':[1,2,11,12]");
+    row("surround", "'type':'surround','rectangle':[1,2,3,4],'background':{" + fill +
+                        ",'gap':1},'surround':{'kind':'scaleLine','map':1}");
     row("north arrow bound to no map",
-        "{'type':'surround','handle':3,'rectangle':[1,2,3,4],"
-        "'surround':{'kind':'northArrow','symbol':{'type':'simpleMarker','style':'star'}}}");
-    row("picture beside the document", "{'type':'picture','handle':3,'rectangle':[1,2,3,4],'path':'../logos/a.png'}");
+        "'type':'surround','rectangle':[1,2,3,4],"
+        "'surround':{'kind':'northArrow','symbol':{'type':'simpleMarker','style':'star'}}");
+    row("picture beside the document", "'type':'picture','rectangle':[1,2,3,4],'path':'../logos/a.png'");
   }
   void comesBackAsItWasStored() {
-    auto const [stored] = fetched<QByteArray>();
+    auto const [fields] = fetched<QByteArray>();
+    QJsonObject const stored = json("{'handle':3," + fields + "}");
     DocumentContext context = contextWith(2);
     _ptr_t<Element> element;
-    Archive reader(json(stored));
+    Archive reader(stored);
     describeElement(reader, element, context);
     QCOMPARE(reader.error(), QString());
     QCOMPARE(reader.warnings(), QStringList());
@@ -79,8 +66,7 @@ private slots:
     Archive writer;
     describeElement(writer, element, context);
     QCOMPARE(writer.error(), QString());
-    QCOMPARE(QJsonDocument(writer.json()).toJson(),
-             QJsonDocument(withFilledSymbols(writer.json(), json(stored))).toJson());
+    QCOMPARE(QJsonDocument(writer.json()).toJson(), QJsonDocument(stored).toJson());
   }
 
   void refusesWithThePathOfTheField_data() {
@@ -112,6 +98,7 @@ private slots:
     row("data frame in a group", "{'type':'group','members':[{'type':'dataFrame','map':1,'rectangle':[0,0,1,1]}]}",
         "members[0].type");
     row("a group of nothing", "{'type':'group','members':[]}", "members");
+    row("sixteen groups may be nested", nested(16), "");
     row("seventeen groups", nested(17), "groups are nested");
   }
   void refusesWithThePathOfTheField() {
@@ -123,15 +110,7 @@ private slots:
     Archive archive(json(stored));
     describeElement(archive, element, context);
     QVERIFY2(archive.error().contains(says), qPrintable(archive.error()));
-    QVERIFY(!element);
-  }
-
-  void takesSixteenGroups() {
-    DocumentContext context = contextWith(0);
-    _ptr_t<Element> element;
-    Archive archive(json(nested(16)));
-    describeElement(archive, element, context);
-    QCOMPARE(archive.error(), QString());
+    QCOMPARE(archive.ok() && element, says.isEmpty());
   }
 
   void picturePathsFollowTheDocument() {
@@ -177,18 +156,6 @@ private slots:
     describePage(writer, page);
     QCOMPARE(writer.error(), QString());
     QCOMPARE(writer.json(), json(stored));
-  }
-
-private:
-  // Symbols are another folder's to store: what it writes beyond the row is taken as it is.
-  static QJsonObject withFilledSymbols(QJsonObject const& written, QJsonObject expected) {
-    for (auto field = written.begin(); field != written.end(); ++field) {
-      bool const isSymbol = field.key() == QLatin1String("symbol");
-      QJsonValue const wanted = expected[field.key()];
-      if (field->isObject() && wanted.isObject())
-        expected[field.key()] = isSymbol ? *field : QJsonValue(withFilledSymbols(field->toObject(), wanted.toObject()));
-    }
-    return expected;
   }
 };
 
