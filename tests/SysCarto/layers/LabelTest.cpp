@@ -1,3 +1,4 @@
+#include "Boxes.h"
 #include "LayerFixture.h"
 
 #include "host/SysCarto/layout/TextElement.h"
@@ -84,19 +85,15 @@ private slots:
     QVERIFY2(result.labels.size() >= fewest, qPrintable(QString::number(result.labels.size())));
     QCOMPARE(result.shapes().size(), result.labels.size());
 
-    auto const frame = transformation->GetFittedBounds();
-    QRectF const inside(QPointF(frame->GetXMin(), frame->GetYMin()), QPointF(frame->GetXMax(), frame->GetYMax()));
+    QRectF const inside = rectOf(*transformation->GetFittedBounds());
+    double const pixel = inside.width() / 900;
     auto const shapes = result.shapes();
     for (int i = 0; i < shapes.size(); ++i) {
       QVERIFY2(inside.contains(shapes[i].boundingRect()), qPrintable(result.texts()[i]));
       for (int j = 0; j < i; ++j) QVERIFY2(!overlap(shapes[i], shapes[j]), qPrintable(result.texts()[i]));
-      auto const drawn = result.labels[i]->GetBoundary(transformation)->GetEnvelope();
+      QRectF const drawn = rectOf(*result.labels[i]->GetBoundary(transformation)->GetEnvelope());
       QRectF const box = shapes[i].boundingRect();
-      double const pixel = frame->GetWidth() / 900;
-      QVERIFY(std::abs(drawn->GetXMin() - box.left()) < 2 * pixel &&
-              std::abs(drawn->GetXMax() - box.right()) < 2 * pixel);
-      QVERIFY(std::abs(drawn->GetYMin() - box.top()) < 2 * pixel &&
-              std::abs(drawn->GetYMax() - box.bottom()) < 2 * pixel);
+      QVERIFY(isWithin(box, drawn, 2 * pixel) && isWithin(drawn, box, 2 * pixel));
     }
 
     Placed const again = placed(*data.layer, transformation);
@@ -116,10 +113,8 @@ private slots:
   }
   void aLabelLiesWithinItsPolygonOrIsLeftOut() {
     auto const [ring, name, expected] = fetched<QByteArray, QByteArray, QString>();
-    QTemporaryDir folder;
-    QByteArray json = geoJson(R"({"type":"Polygon","coordinates":[[)" + ring + "]]}");
-    json.replace("\"A\"", '"' + name + '"');
-    auto const layer = opened({written(folder, "a.geojson", json), {}, {}, {}}, "", nullptr, settings(9));
+    QByteArray const polygonJson = R"({"type":"Polygon","coordinates":[[)" + ring + "]]}";
+    auto const layer = openedJson(geoJson(polygonJson, name), "", nullptr, settings(9));
     // A pixel is a map unit, and 0.75 points.
     Placed const result = placed(*layer.layer, shown({-5, -5, 95, 95}, QSize(100, 100)).transformation());
     QCOMPARE(result.texts().join('|'), expected);
@@ -131,17 +126,16 @@ private slots:
   }
 
   void theMoreImportantPlaceIsNamed() {
-    QTemporaryDir folder;
-    QString const file = written(folder, "a.geojson", R"({"type":"FeatureCollection","features":[
+    QByteArray const places = R"({"type":"FeatureCollection","features":[
       {"type":"Feature","properties":{"name":"Small","size":1},"geometry":{"type":"Point","coordinates":[50,51]}},
       {"type":"Feature","properties":{"name":"Nameless","size":null},"geometry":{"type":"Point","coordinates":[50,50]}},
       {"type":"Feature","properties":{"name":"Large","size":1000},"geometry":{"type":"Point","coordinates":[50,50]}},
-      {"type":"Feature","properties":{"name":null,"size":2000},"geometry":{"type":"Point","coordinates":[50,50]}}]})");
+      {"type":"Feature","properties":{"name":null,"size":2000},"geometry":{"type":"Point","coordinates":[50,50]}}]})";
     auto labels = settings(9, "size");
     TextFormat large;
     large.size = 14;
     labels.classes.push_back({500, make<TextSymbol>(large)});
-    auto const layer = opened({file, {}, {}, {}}, "", make<SimpleMarkerSymbol>(), labels);
+    auto const layer = openedJson(places, "", make<SimpleMarkerSymbol>(), labels);
     Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)).transformation());
     QCOMPARE(result.texts().value(0), QStringLiteral("Large"));
     QVERIFY(!result.texts().contains("Nameless"));
@@ -161,11 +155,8 @@ private slots:
   }
   void aLabelAlongALineStandsUpright() {
     auto const [line, angle] = fetched<QByteArray, double>();
-    QTemporaryDir folder;
-    QByteArray json = geoJson(R"({"type":"LineString","coordinates":[)" + line + "]}");
-    json.replace("\"A\"", "\"Danube\"");
-    auto const layer =
-        opened({written(folder, "a.geojson", json), {}, {}, {}}, "", make<SimpleLineSymbol>(), settings(8));
+    QByteArray const json = geoJson(R"({"type":"LineString","coordinates":[)" + line + "]}", "Danube");
+    auto const layer = openedJson(json, "", make<SimpleLineSymbol>(), settings(8));
     Placed const result = placed(*layer.layer, shown({0, 0, 100, 100}, QSize(100, 100)).transformation());
     QCOMPARE(result.texts(), QStringList{"Danube"});
     QVERIFY(std::abs(ptr_cast<TextElement>(result.labels[0])->angle() - angle) < 1e-6);

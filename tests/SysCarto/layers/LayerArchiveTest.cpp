@@ -1,22 +1,27 @@
+#include "Json.h"
 #include "LayerFixture.h"
 
 #include "host/SysCarto/layers/LayerArchive.h"
-
-#include <QJsonDocument>
 
 using namespace SysCarto;
 using SysUtility::Archive;
 
 namespace {
 
-QJsonObject parsed(QByteArray const& json) { return QJsonDocument::fromJson(json).object(); }
-
 QByteArray layerJson(QByteArray const& source, QByteArray const& renderer, QByteArray const& more = QByteArray()) {
-  return R"({"name":"Places","renderer":)" + renderer + R"(,"source":)" + source + R"(,"type":"feature")" + more + "}";
+  return "{'type':'feature','name':'Places','source':{" + source + "},'renderer':{" + renderer + "}" + more + "}";
 }
 
-QByteArray const cities = R"({"file":"world.gpkg","filter":"population > 5000000","layer":"cities"})";
-QByteArray const simple = R"({"symbol":{"type":"simpleMarker"},"type":"simple"})";
+// The fields of a source and of renderers; the classes go between.
+QByteArray const cities = "'file':'world.gpkg','layer':'cities'";
+QByteArray const large = cities + ",'filter':'population > 5000000'";
+QByteArray const marker = "'symbol':{'type':'simpleMarker'}";
+QByteArray const bigMarker = "'symbol':{'type':'simpleMarker','size':9}";
+QByteArray const simple = "'type':'simple'," + marker;
+
+QByteArray renderer(QByteArray const& type, QByteArray const& field, QByteArray const& classes) {
+  return "'type':'" + type + "','field':'" + field + "','classes':[" + classes + "]";
+}
 
 struct Read {
   _ptr_t<Layer> layer;
@@ -25,12 +30,12 @@ struct Read {
   QStringList unknown;
 };
 
-Read read(QByteArray const& json) {
+Read read(QByteArray const& stored) {
   Read result;
   result.context.folder = sample("");
   auto const map = make<Map>();
   map->SetCoordinateSystem("EPSG:8857");
-  Archive archive(parsed(json));
+  Archive archive(json(stored));
   describeLayer(archive, result.layer, *map, result.context);
   result.error = archive.error();
   result.unknown = archive.warnings();
@@ -52,37 +57,31 @@ class LayerArchiveTest : public QObject {
 private slots:
   void aLayerComesBackAsItWas_data() {
     Rows<QByteArray, int> row;
-    row("one symbol", layerJson(cities, simple), 0);
-    row("limits on one side", layerJson(cities, simple, R"(,"maxScale":50000000,"visible":false)"), 0);
-    row("unique values",
-        layerJson(
-            cities,
-            R"({"classes":[{"symbol":{"type":"simpleMarker"},"values":["FR","DE"]},)"
-            R"({"label":"Italy","symbol":{"size":9,"type":"simpleMarker"},"values":["IT"]}],)"
-            R"("defaultLabel":"Others","defaultSymbol":{"type":"simpleMarker"},"field":"country","type":"uniqueValues"})"),
-        0);
-    row("graduated",
-        layerJson(cities, R"({"classes":[{"label":"small","minimum":0,"symbol":{"type":"simpleMarker"}},)"
-                          R"({"label":"large","minimum":10000000,"symbol":{"size":9,"type":"simpleMarker"}}],)"
-                          R"("field":"population","type":"graduated"})"),
-        0);
+    row("one symbol", layerJson(large, simple), 0);
+    row("limits on one side", layerJson(large, simple, ",'maxScale':50000000,'visible':false"), 0);
+    QByteArray const countries =
+        "{'values':['FR','DE']," + marker + "},{'values':['IT'],'label':'Italy'," + bigMarker + "}";
+    QByteArray const others = ",'defaultLabel':'Others','defaultSymbol':{'type':'simpleMarker','size':9}";
+    row("unique values", layerJson(large, renderer("uniqueValues", "country", countries) + others), 0);
+    QByteArray const sizes =
+        "{'label':'small','minimum':0," + marker + "},{'label':'large','minimum':10000000," + bigMarker + "}";
+    row("graduated", layerJson(large, renderer("graduated", "population", sizes)), 0);
     row("labels",
         layerJson(
-            cities, simple,
-            R"(,"labels":{"classes":[{"minimum":1000000,"symbol":{"size":12,"type":"text"}}],"field":"name","gap":3,)"
-            R"("minScale":1000,"priority":5,"priorityField":"population","symbol":{"type":"text"}})"),
+            large, simple,
+            ",'labels':{'classes':[{'minimum':1000000,'symbol':{'size':12,'type':'text'}}],'field':'name','gap':3,"
+            "'minScale':1000,'priority':5,'priorityField':'population','symbol':{'type':'text'}}"),
         0);
-    row("a file that is gone", layerJson(R"({"file":"gone/world.gpkg","layer":"cities"})", simple), 1);
-    row("an address", layerJson(R"({"file":"http:\/\/127.0.0.1:1/a.gpkg"})", simple), 1);
-    row("a filter that is wrong", layerJson(R"({"file":"world.gpkg","filter":"a >","layer":"cities"})", simple), 1);
+    row("a file that is gone", layerJson("'file':'gone/world.gpkg','layer':'cities'", simple), 1);
+    row("a filter that is wrong", layerJson(cities + ",'filter':'a >'", simple), 1);
   }
   void aLayerComesBackAsItWas() {
-    auto const [json, unreadable] = fetched<QByteArray, int>();
-    Read result = read(json);
+    auto const [given, unreadable] = fetched<QByteArray, int>();
+    Read result = read(given);
     QCOMPARE(result.error, QString());
     QCOMPARE(result.unknown, QStringList());
     QVERIFY(result.layer);
-    QCOMPARE(stored(result), parsed(json));
+    QCOMPARE(stored(result), json(given));
     QCOMPARE(result.context.unreadableSources, unreadable);
     QCOMPARE(result.context.warnings.size(), unreadable);
     if (unreadable) QVERIFY(result.context.warnings[0].contains("Places"));
@@ -92,40 +91,34 @@ private slots:
 
   void aWrongFieldIsNamed_data() {
     Rows<QByteArray, QString> row;
-    row("another kind of layer", layerJson(cities, simple).replace("\"feature\"", "\"tiles\""), "type");
-    row("no source", R"({"name":"a","type":"feature","renderer":)" + simple + "}", "source");
-    row("no symbol", layerJson(cities, R"({"type":"simple"})"), "renderer.symbol");
-    row("classes that do not ascend",
-        layerJson(cities,
-                  R"({"type":"graduated","field":"a","classes":[{"minimum":5,"symbol":{"type":"simpleMarker"}},)"
-                  R"({"minimum":5,"symbol":{"type":"simpleMarker"}}]})"),
+    row("another kind of layer", layerJson(cities, simple).replace("'feature'", "'tiles'"), "type");
+    row("no source", "{'type':'feature','name':'a','renderer':{" + simple + "}}", "source");
+    row("no symbol", layerJson(cities, "'type':'simple'"), "renderer.symbol");
+    QByteArray const five = "{'minimum':5," + marker + "}", x = "{'values':['x']," + marker + "}";
+    row("classes that do not ascend", layerJson(cities, renderer("graduated", "a", five + "," + five)),
         "renderer.classes[1].minimum");
-    row("a value in two classes",
-        layerJson(cities,
-                  R"({"type":"uniqueValues","field":"a","classes":[{"values":["x"],"symbol":{"type":"simpleMarker"}},)"
-                  R"({"values":["x"],"symbol":{"type":"simpleMarker"}}]})"),
+    row("a value in two classes", layerJson(cities, renderer("uniqueValues", "a", x + "," + x)),
         "renderer.classes[1].values");
-    row("limits the wrong way round", layerJson(cities, simple, R"(,"minScale":500,"maxScale":100)"), "minScale");
+    row("limits the wrong way round", layerJson(cities, simple, ",'minScale':500,'maxScale':100"), "minScale");
   }
   void aWrongFieldIsNamed() {
-    auto const [json, says] = fetched<QByteArray, QString>();
-    Read const result = read(json);
+    auto const [given, says] = fetched<QByteArray, QString>();
+    Read const result = read(given);
     QVERIFY2(result.error.contains(says), qPrintable(result.error));
     QVERIFY(!result.layer);
   }
 
   void aFieldThatTheDataLackIsReported() {
-    Read const result = read(layerJson(
-        cities, R"({"classes":[],"defaultSymbol":{"type":"simpleMarker"},"field":"colour","type":"uniqueValues"})"));
+    QByteArray const others = ",'defaultSymbol':{'type':'simpleMarker'}";
+    Read const result = read(layerJson(large, renderer("uniqueValues", "colour", "") + others));
     QCOMPARE(result.context.warnings.size(), 1);
     QVERIFY(result.context.warnings[0].contains("“colour”") && result.context.warnings[0].contains("population"));
     QCOMPARE(result.context.unreadableSources, 0);
   }
 
   void classesDivideTheFeatures() {
-    Read const result = read(layerJson(
-        R"({"file":"world.gpkg","layer":"cities"})",
-        R"({"classes":[{"minimum":1000000,"symbol":{"type":"simpleMarker"}},{"minimum":10000000,"symbol":{"type":"simpleMarker"}}],"field":"population","type":"graduated"})"));
+    QByteArray const sizes = "{'minimum':1000000," + marker + "},{'minimum':10000000," + marker + "}";
+    Read const result = read(layerJson(cities, renderer("graduated", "population", sizes)));
     auto const layer = ptr_cast<VectorLayer>(result.layer);
     QVERIFY(layer);
     int counts[3] = {0};
@@ -143,10 +136,9 @@ private slots:
     row("no numbers", -3.0, qQNaN(), false, 0.0, 0.0);
   }
   void scaleLimitsAreBothSetOrNeither() {
-    auto const [min, max, limited, storedMin, storedMax] = fetched<double, double, bool, double, double>();
     VectorLayer layer(makeSimpleRenderer(make<SysDisplay::SimpleFillSymbol>()));
-    auto const check = [min = min, max = max, limited = limited, storedMin = storedMin,
-                        storedMax = storedMax](auto& limits) {
+    auto const check = [row = fetched<double, double, bool, double, double>()](auto& limits) {
+      auto const [min, max, limited, storedMin, storedMax] = row;
       limits.SetScaleRange(min, max);
       QCOMPARE(limits.GetMinScale() > 0 && limits.GetMaxScale() > 0, limited);
       QCOMPARE(limits.GetMinScale() > 0 || limits.GetMaxScale() > 0, limited);

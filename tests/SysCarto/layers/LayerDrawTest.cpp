@@ -94,7 +94,6 @@ private slots:
 
   // Neighbours share their border, so no background shows between them when both are filled.
   void neighboursLeaveNoGapWhenThinned() {
-    QTemporaryDir folder;
     QByteArray border, back;
     for (int i = 0; i <= 4000; ++i) {
       QByteArray const place = "[" + QByteArray::number(5 + 0.002 * ((i * 7919) % 97) / 97) + "," +
@@ -103,11 +102,10 @@ private slots:
       back.prepend("," + place);
     }
     QByteArray const left = "[[0,0]" + border.mid(0) + ",[0,10],[0,0]]", right = "[[10,0],[10,10]" + back + ",[10,0]]";
-    QString const file = written(folder, "a.geojson",
-                                 geoJson(R"({"type":"MultiPolygon","coordinates":[[)" + left + "],[" + right + "]]}"));
+    QByteArray const halves = R"({"type":"MultiPolygon","coordinates":[[)" + left + "],[" + right + "]]}";
     auto const symbol = make<SimpleFillSymbol>();
     symbol->SetColor(Qt::black);
-    auto const layer = opened({file, {}, {}, {}}, "", symbol);
+    auto const layer = openedJson(geoJson(halves), "", symbol);
     QImage const image = shown({0, 0, 10, 10}, QSize(100, 100)).drawn(sceneOf(layer));
     for (int y = 1; y < 99; ++y)
       for (int x = 1; x < 99; ++x) QCOMPARE(qGray(image.pixel(x, y)), 0);

@@ -17,9 +17,9 @@ inline QString written(QTemporaryDir const& folder, QString const& name, QByteAr
   return put(folder.filePath(name), content);
 }
 
-inline QByteArray geoJson(QByteArray const& geometry) {
-  return R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{"name":"A"},"geometry":)" +
-         geometry + "}]}";
+inline QByteArray geoJson(QByteArray const& geometry, QByteArray const& name = "A") {
+  return R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{"name":")" + name +
+         R"("},"geometry":)" + geometry + "}]}";
 }
 
 struct OpenedLayer {
@@ -37,6 +37,13 @@ inline OpenedLayer opened(SysCarto::SourceSettings const& source, QString const&
   result.layer->setLabelSettings(labels);
   result.error = result.layer->open(source, mapSystem, result.warnings);
   return result;
+}
+
+/// A layer of GeoJSON, in a coordinate system of its own if one is given.
+inline OpenedLayer openedJson(QByteArray const& json, QString const& mapSystem, _ptr_t<SysDisplay::Symbol> symbol = {},
+                              SysCarto::LabelSettings const& labels = {}, QString const& system = {}) {
+  QTemporaryDir const folder;
+  return opened({written(folder, "a.geojson", json), {}, {}, system}, mapSystem, symbol, labels);
 }
 
 inline Sheet shown(SysCarto::Box const& box, QSize const& sizePx, double pageScale = 1) {

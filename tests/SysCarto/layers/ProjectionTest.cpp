@@ -154,8 +154,7 @@ private slots:
   }
   void whatStepsOverTheAntimeridian() {
     auto const [geometry, widestDegrees] = fetched<QByteArray, int>();
-    QTemporaryDir folder;
-    auto const layer = opened({written(folder, "a.geojson", geoJson(geometry)), {}, {}, {}}, "EPSG:4326");
+    auto const layer = openedJson(geoJson(geometry), "EPSG:4326");
     QCOMPARE(layer.error, QString());
     QCOMPARE(layer.features().size(), 1);
     QVERIFY2(std::abs(widest(layer.features()) - widestDegrees) < 0.6,
@@ -163,10 +162,8 @@ private slots:
   }
 
   void aParallelIsACircleAboutThePole() {
-    QTemporaryDir folder;
-    QString const file =
-        written(folder, "a.geojson", geoJson(R"({"type":"LineString","coordinates":[[-180,40],[180,40]]})"));
-    auto const layer = opened({file, {}, {}, {}}, "+proj=stere +lat_0=90 +lon_0=20 +R=6371000");
+    auto const layer = openedJson(geoJson(R"({"type":"LineString","coordinates":[[-180,40],[180,40]]})"),
+                                  "+proj=stere +lat_0=90 +lon_0=20 +R=6371000");
     FeatureStore const& store = layer.features();
     double const radius = 2 * 6371000.0 * std::tan(25 * M_PI / 180);
     visitEdges(store, true, [&](QPointF a, QPointF b) {
@@ -193,16 +190,14 @@ private slots:
 
   // A polygon around the pole, in a system of metres about it, has no longitude at its corners that says so.
   void aProjectedSourceAroundThePoleKeepsItsPole() {
-    QTemporaryDir folder;
-    QString const file = written(
-        folder, "a.geojson",
-        geoJson(R"({"type":"Polygon","coordinates":[[[-1e6,-1e6],[1e6,-1e6],[1e6,1e6],[-1e6,1e6],[-1e6,-1e6]]]})"));
+    QByteArray const square =
+        geoJson(R"({"type":"Polygon","coordinates":[[[-1e6,-1e6],[1e6,-1e6],[1e6,1e6],[-1e6,1e6],[-1e6,-1e6]]]})");
     QString const source = QStringLiteral("+proj=laea +lat_0=90 +datum=WGS84");
-    auto const layer = opened({file, {}, {}, source}, equalEarthPacific);
+    auto const layer = openedJson(square, equalEarthPacific, {}, {}, source);
     QCOMPARE(layer.error, QString());
     double const error = areaOf(layer.features()) / 4e12 - 1;
     QVERIFY2(std::abs(error) < 2e-3, qPrintable(QString::number(error)));
-    QVERIFY(std::abs(areaOf(opened({file, {}, {}, source}, source).features()) - 4e12) < 1);
+    QVERIFY(std::abs(areaOf(openedJson(square, source, {}, {}, source).features()) - 4e12) < 1);
   }
 };
 

@@ -98,10 +98,8 @@ private slots:
   }
   void geometriesThatAreNoneArePassedOver() {
     auto const [geometry, parts] = fetched<QByteArray, int>();
-    QTemporaryDir folder;
-    QString const file = written(folder, "a.geojson", geoJson(geometry));
     for (char const* system : {"EPSG:8857", "EPSG:3857", "+proj=ortho +lat_0=10 +lon_0=5 +datum=WGS84", ""}) {
-      auto const result = opened({file, {}, {}, {}}, system);
+      auto const result = openedJson(geoJson(geometry), system);
       QCOMPARE(result.error, QString());
       if (parts >= 0 && *system) QCOMPARE(result.features().parts.size(), size_t(parts));
       for (SysCarto::Part const& part : result.features().parts)
@@ -121,12 +119,10 @@ private slots:
           {"type", "Feature"},
           {"properties", QJsonObject{{"name", QString::number(i)}}},
           {"geometry", QJsonObject{{"type", "Point"}, {"coordinates", QJsonArray{i % 300 / 10.0, i / 300}}}}};
-    QTemporaryDir folder;
     QJsonObject const collection{{"type", "FeatureCollection"}, {"features", features}};
-    QString const file = written(folder, "a.geojson", QJsonDocument(collection).toJson());
     SysCarto::LabelSettings labels;
     labels.field = QStringLiteral("name");
-    auto const result = opened({file, {}, {}, {}}, "EPSG:3857", nullptr, labels);
+    auto const result = openedJson(QJsonDocument(collection).toJson(), "EPSG:3857", nullptr, labels);
     SysCarto::FeatureStore const& store = result.features();
     QCOMPARE(store.size(), count);
     for (int i = 0; i < count; ++i) {
@@ -138,14 +134,13 @@ private slots:
   }
 
   void aCoordinateSystemOfItsOwnStandsInForTheFiles() {
-    QTemporaryDir folder;
-    QString const file = written(folder, "a.geojson", geoJson(R"({"type":"Point","coordinates":[500000,0]})"));
-    auto const right = opened({file, {}, {}, "EPSG:32633"}, "EPSG:4326");
+    QByteArray const point = geoJson(R"({"type":"Point","coordinates":[500000,0]})");
+    auto const right = openedJson(point, "EPSG:4326", {}, {}, "EPSG:32633");
     QCOMPARE(right.error, QString());
     QCOMPARE(right.features().size(), 1);
     double const* const xy = right.features().parts.at(0).xy;
     QVERIFY(std::abs(xy[0] - 15) < 1e-6 && std::abs(xy[1]) < 1e-6);
-    auto const wrong = opened({file, {}, {}, "http://127.0.0.1:1/system"}, "EPSG:4326");
+    auto const wrong = openedJson(point, "EPSG:4326", {}, {}, "http://127.0.0.1:1/system");
     QVERIFY2(wrong.error.contains("coordinate system"), qPrintable(wrong.error));
   }
 };
