@@ -1,7 +1,4 @@
-#include "Pictures.h"
-#include "Elements.h"
-
-#include "host/SysUtility/Archive.h"
+#include "SurroundFixture.h"
 
 #include <SysCarto/Graticule.h>
 
@@ -19,6 +16,14 @@ constexpr int pxPerCm = 40;
 constexpr QRect framePx(pxPerCm, pxPerCm, 10 * pxPerCm, 8 * pxPerCm);
 
 Sheet const page{Envelope(0, 0, 12, 10), QSize(12, 10) * pxPerCm, pxPerCm * 2.54 / 96};
+
+// The places of which something is true.
+template <class Place, class Predicate>
+QVector<Place> where(QVector<Place> const& places, Predicate const& isSo) {
+  QVector<Place> found;
+  std::copy_if(places.begin(), places.end(), std::back_inserter(found), isSo);
+  return found;
+}
 
 }  // namespace
 
@@ -53,10 +58,7 @@ private slots:
       double const y = framePx.top() + (shown->GetYMax() - place.y()) / shown->GetHeight() * framePx.height();
       return !isBlank(image, QRect(qRound(x) - 2, qRound(y) - 2, 5, 5));
     };
-    for (QPointF const& place : onLines)
-      QVERIFY2(isInked(place), qPrintable(QString("%1 %2").arg(place.x()).arg(place.y())));
-    for (QPointF const& place : offLines)
-      QVERIFY2(!isInked(place), qPrintable(QString("%1 %2").arg(place.x()).arg(place.y())));
+    QCOMPARE(where(onLines + offLines, isInked), onLines);
     QVERIFY(isBlank(image, QRect(0, 0, image.width(), pxPerCm - 2)));
     QVERIFY(isBlank(image, QRect(0, 0, pxPerCm - 2, image.height())));
   }
@@ -64,9 +66,9 @@ private slots:
   void labelsLieOutsideTheFrameAndInItsBoundary() {
     auto const frame = frameWith("EPSG:4326", Envelope(-25, -20, 25, 20), {{"interval", 10}});
     QImage const image = drawn(frame);
-    auto const boundary = frame->GetBoundary(page.transformation())->GetEnvelope();
-    QRect const covered(qFloor(boundary->GetXMin() * pxPerCm), qFloor((10 - boundary->GetYMax()) * pxPerCm),
-                        qCeil(boundary->GetWidth() * pxPerCm) + 1, qCeil(boundary->GetHeight() * pxPerCm) + 1);
+    QTransform const toPixels = page.transformation()->ToDevice();
+    QRectF const boundary = rectOf(*frame->GetBoundary(page.transformation())->GetEnvelope());
+    QRect const covered = toPixels.mapRect(boundary).toAlignedRect();
     QVERIFY(covered.contains(framePx.adjusted(-8, -8, 8, 8)));
     QVERIFY(covered.contains(ink(image).where));
     // The equator and the meridian of 0 have one on each of the four sides.
@@ -99,10 +101,7 @@ private slots:
       QRect const around(place - QPoint(4, 4), QSize(9, 9));
       return with.copy(around) != without.copy(around);
     };
-    for (QPoint const& place : labels)
-      QVERIFY2(isLabelled(place), qPrintable(QString("%1 %2").arg(place.x()).arg(place.y())));
-    for (QPoint const& place : bare)
-      QVERIFY2(!isLabelled(place), qPrintable(QString("%1 %2").arg(place.x()).arg(place.y())));
+    QCOMPARE(where(labels + bare, isLabelled), labels);
   }
 
   // In Svalbard a degree of longitude is a fifth as long as one of latitude.
@@ -155,27 +154,15 @@ private slots:
 
 private:
   static _ptr_t<MapFrameElement> frameWith(QString const& system, Envelope const& bounds, QJsonObject const& settings) {
-    auto const frame = make<MapFrameElement>();
+    auto const frame = madeIn<MapFrameElement>(1, 1, 11, 9);
     frame->SetBorder(nullptr);
     frame->SetBackGround(nullptr);
-    frame->GetMap()->SetCoordinateSystem(system);
-    frame->SetGeometry(make<Envelope>(1.0, 1.0, 11.0, 9.0));
+    frame->SetMap(mapShowing(system, bounds, 10, 8));
     frame->setPlaced(true);
-    frame->GetMap()->SetExtent(make<Envelope>(bounds));
-    auto const grid = make<Graticule>();
-    SysUtility::Archive archive(settings);
-    grid->describe(archive);
-    if (!archive.ok()) qFatal("%s", qPrintable(archive.error()));
-    frame->AddMapGrid(grid);
+    frame->AddMapGrid(described<Graticule>(settings));
     return frame;
   }
 
-  static Scene sceneOf(_ptr_t<MapFrameElement> const& frame) {
-    return [frame](QPainter& painter, Transformation const& transformation) {
-      painter.setRenderHint(QPainter::Antialiasing);
-      frame->Draw(painter, transformation, nullptr);
-    };
-  }
   static QImage drawn(_ptr_t<MapFrameElement> const& frame) { return page.drawn(sceneOf(frame)); }
 };
 

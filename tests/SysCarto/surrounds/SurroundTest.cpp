@@ -1,11 +1,9 @@
-#include "Elements.h"
 #include "Json.h"
-#include "Pictures.h"
+#include "SurroundFixture.h"
 
 #include "host/SysCarto/document/CoordinateSystem.h"
 #include "host/SysCarto/layers/VectorLayer.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
-#include "host/SysUtility/Archive.h"
 
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
@@ -24,12 +22,8 @@ constexpr double frameWidthCm = 10, frameHeightCm = 8;
 constexpr double degreesPerRadian = 57.29577951308232;
 
 _ptr_t<Map> mapOf(QString const& system, double x, double y, double unitsPerCm) {
-  auto const map = make<Map>();
-  map->SetCoordinateSystem(system);
-  map->setFrameSize(frameWidthCm, frameHeightCm);
   double const w = frameWidthCm * unitsPerCm / 2, h = frameHeightCm * unitsPerCm / 2;
-  map->SetExtent(make<Envelope>(x - w, y - h, x + w, y + h));
-  return map;
+  return mapShowing(system, Envelope(x - w, y - h, x + w, y + h), frameWidthCm, frameHeightCm);
 }
 
 void addLayer(Map& map, QString const& name, _ptr_t<SysDisplay::Symbol> const& symbol, QString const& label = {}) {
@@ -40,11 +34,8 @@ void addLayer(Map& map, QString const& name, _ptr_t<SysDisplay::Symbol> const& s
 
 template <class Surround>
 _ptr_t<MapSurroundFrame> framed(_ptr_t<Map> const& map, Envelope const& rectangle, QByteArray const& settings = "{}") {
-  auto const surround = make<Surround>();
+  auto const surround = described<Surround>(json(settings));
   surround->SetMap(map);
-  SysUtility::Archive archive(json(settings));
-  surround->describe(archive);
-  if (!archive.ok()) qFatal("%s", qPrintable(archive.error()));
   auto const frame = make<MapSurroundFrame>();
   frame->SetMapSurround(surround);
   frame->SetGeometry(make<Envelope>(rectangle));
@@ -61,28 +52,25 @@ QStringList textsOf(MapSurroundFrame const& frame) {
 // The page from (0, 0) to (10, 8) centimetres, at 40 pixels a centimetre.
 Sheet const page{Envelope(0, 0, frameWidthCm, frameHeightCm), QSize(400, 320), 40 * 2.54 / 96};
 
-QImage drawn(Element& element) {
-  return page.drawn([&](QPainter& painter, Transformation const& transformation) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    element.Draw(painter, transformation, nullptr);
-  });
-}
+QImage drawn(_ptr_t<Element> const& element) { return page.drawn(sceneOf(element)); }
 
-// Metres on the ellipsoid between two places of a map.
-double geodesic(Map const& map, QPointF const& a, QPointF const& b) {
+// Longitude and latitude of a place of a map.
+QPointF onGlobe(Map const& map, QPointF const& place) {
   auto const system = makeCoordinateSystem(map.GetCoordinateSystem());
   std::unique_ptr<OGRSpatialReference> globe(system->CloneGeogCS());
   globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-  double xs[] = {a.x(), b.x()}, ys[] = {a.y(), b.y()};
-  if (system->IsProjected()) {
-    std::unique_ptr<OGRCoordinateTransformation> const way(
-        OGRCreateCoordinateTransformation(system.get(), globe.get()));
-    way->Transform(2, xs, ys);
-  }
+  std::unique_ptr<OGRCoordinateTransformation> const way(OGRCreateCoordinateTransformation(system.get(), globe.get()));
+  double x = place.x(), y = place.y();
+  if (!way->Transform(1, &x, &y)) qFatal("a place that is not on the globe");
+  return {x, y};
+}
+
+// Metres on the ellipsoid between two places of the globe.
+double geodesic(QPointF const& a, QPointF const& b) {
   geod_geodesic ellipsoid;
   geod_init(&ellipsoid, 6378137, 1 / 298.257223563);
   double metres = 0;
-  geod_inverse(&ellipsoid, ys[0], xs[0], ys[1], xs[1], &metres, nullptr, nullptr);
+  geod_inverse(&ellipsoid, a.y(), a.x(), b.y(), b.x(), &metres, nullptr, nullptr);
   return metres;
 }
 
@@ -129,7 +117,7 @@ private slots:
 
     // A hundredth of the bar about the centre: the scale belongs to that place.
     double const half = (right - left) * unitsPerCm / 200;
-    double const ground = 100 * geodesic(*map, {x - half, y}, {x + half, y});
+    double const ground = 100 * geodesic(onGlobe(*map, {x - half, y}), onGlobe(*map, {x + half, y}));
     QVERIFY2(std::abs(ground / stated - 1) < 0.001, qPrintable(QString("%1 for %2").arg(ground).arg(text)));
   }
 
@@ -197,10 +185,9 @@ private slots:
     auto const frame = framed<Legend>(map, rectangle);
     QSet<int> lefts;
     for (auto const& element : frame->GetMapSurround()->GetElements()) {
-      auto const box = element->GetEnvelope();
-      QVERIFY(box->GetXMin() > rectangle.GetXMin() - 0.01 && box->GetXMax() < rectangle.GetXMax() + 0.01);
-      QVERIFY(box->GetYMin() > rectangle.GetYMin() - 0.05 && box->GetYMax() < rectangle.GetYMax() + 0.01);
-      if (element->GetType() == 4) lefts << qRound(box->GetXMin() * 100);
+      QRectF const box = placeOf(*element);
+      QVERIFY(isWithin(box.adjusted(0, 0.04, 0, 0), rectOf(rectangle), 0.01));
+      if (element->GetType() == 4) lefts << qRound(box.left() * 100);
     }
     QCOMPARE(lefts.size(), columns);
   }
@@ -224,10 +211,8 @@ private slots:
     auto const transformation = page.transformation();
     QVector<QRectF> boxes;
     for (auto const& element : frame->GetMapSurround()->GetElements()) {
-      auto const box = element->GetBoundary(transformation)->GetEnvelope();
-      QRectF const covered(box->GetXMin(), box->GetYMin(), box->GetWidth(), box->GetHeight());
-      QVERIFY(covered.left() > rectangle.GetXMin() - 0.05 && covered.right() < rectangle.GetXMax() + 0.05);
-      QVERIFY(covered.top() > rectangle.GetYMin() - 0.05 && covered.bottom() < rectangle.GetYMax() + 0.05);
+      QRectF const covered = rectOf(*element->GetBoundary(transformation)->GetEnvelope());
+      QVERIFY(isWithin(covered, rectOf(rectangle), 0.05));
       for (QRectF const& other : qAsConst(boxes))
         QVERIFY(!other.intersects(covered.adjusted(0.06, 0.06, -0.06, -0.06)));
       boxes << covered;
@@ -237,10 +222,8 @@ private slots:
 
   void aScaleBarFitsAFlatFrame() {
     Envelope const rectangle(0, 5, 10, 5.2);
-    for (auto const& element : framed<ScaleLine>(mapOf("", 0, 0, 1000), rectangle)->GetMapSurround()->GetElements()) {
-      auto const box = element->GetEnvelope();
-      QVERIFY(box->GetYMin() > rectangle.GetYMin() - 0.01 && box->GetYMax() < rectangle.GetYMax() + 0.01);
-    }
+    for (auto const& element : framed<ScaleLine>(mapOf("", 0, 0, 1000), rectangle)->GetMapSurround()->GetElements())
+      QVERIFY(isWithin(placeOf(*element), rectOf(rectangle), 0.01));
   }
 
   void aNorthArrowPointsToTrueNorthWhereAsked() {
@@ -250,14 +233,7 @@ private slots:
     };
     QCOMPARE(angleOf(*framed<MarkerNorthArrow>(map, whole)), 0.0);
     // Where meridians meet in a cone's tip, north turns by the sine of its parallel for each degree of longitude.
-    double x = 300000, y = 0;
-    auto const system = makeCoordinateSystem(aegean);
-    std::unique_ptr<OGRSpatialReference> globe(system->CloneGeogCS());
-    globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-    std::unique_ptr<OGRCoordinateTransformation> const way(
-        OGRCreateCoordinateTransformation(system.get(), globe.get()));
-    QVERIFY(way->Transform(1, &x, &y));
-    double const turned = (x - 24.6) * std::sin(38.53 / degreesPerRadian);
+    double const turned = (onGlobe(*map, {300000, 0}).x() - 24.6) * std::sin(38.53 / degreesPerRadian);
     double const angle = angleOf(*framed<MarkerNorthArrow>(map, whole, "{'trueNorth':true}"));
     QVERIFY2(std::abs(angle - turned) < 0.01 && angle > 2, qPrintable(QString("%1, not %2").arg(angle).arg(turned)));
     QCOMPARE(angleOf(*framed<MarkerNorthArrow>(mapOf("", 0, 0, 1), whole, "{'trueNorth':true}")), 0.0);
@@ -265,13 +241,9 @@ private slots:
   }
 
   void aNorthArrowFillsItsFrameAndStaysInIt() {
-    auto const map = mapOf("", 0, 0, 1000);
-    Envelope const rectangle(2, 1, 4, 7);
-    auto const frame = framed<MarkerNorthArrow>(map, rectangle);
-    QImage const image = drawn(*frame);
-    QRect const inked = ink(image).where;
-    QRect const inside(80, 40, 80, 240);
-    QVERIFY(inside.adjusted(-1, -1, 1, 1).contains(inked));
+    auto const frame = framed<MarkerNorthArrow>(mapOf("", 0, 0, 1000), Envelope(2, 1, 4, 7));
+    QRect const inked = ink(drawn(frame)).where;
+    QVERIFY(isWithin(inked, QRectF(80, 40, 80, 240), 1));
     QVERIFY(inked.width() > 60);
   }
 
@@ -292,16 +264,16 @@ private slots:
     auto const [frame] = fetched<_ptr_t<MapSurroundFrame>>();
     auto const group = make<GroupElement>();
     for (auto const& element : frame->GetMapSurround()->GetElements()) group->AddElement(element);
-    QImage const asGraphics = drawn(*group);
+    QImage const asGraphics = drawn(group);
     QVERIFY(ink(asGraphics).pixels > 0);
-    QVERIFY(drawn(*frame) == asGraphics);
-    QVERIFY(drawn(*ptr_cast<MapSurroundFrame>(frame->Clone())) == asGraphics);
+    QVERIFY(drawn(frame) == asGraphics);
+    QVERIFY(drawn(ptr_cast<MapSurroundFrame>(frame->Clone())) == asGraphics);
   }
 
   void anUnboundSurroundAnswersNothingAndShowsAPlaceholder() {
     auto const frame = framed<Legend>(nullptr, Envelope(1, 1, 9, 7));
     QCOMPARE(frame->GetMapSurround()->GetElements().size(), 0);
-    QImage const image = drawn(*frame);
+    QImage const image = drawn(frame);
     QVERIFY(ink(image).pixels > 0);
     for (int y = 0; y < image.height(); ++y)
       for (int x = 0; x < image.width(); ++x) QVERIFY(image.pixelColor(x, y).lightness() > 130);
