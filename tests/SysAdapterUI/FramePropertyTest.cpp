@@ -1,29 +1,28 @@
 #include "Dialogs.h"
 #include "Test.h"
 
+#include "host/SysCarto/layout/ElementArchive.h"
+#include "host/SysUtility/Archive.h"
+
 #include <SysAdapterUI/FramePropertyWidget.h>
-#include <SysDisplay/SimpleFillSymbol.h>
-#include <SysDisplay/SimpleLineSymbol.h>
+#include <SysCarto/MapFrameElement.h>
 
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QPushButton>
 
 #include <functional>
 
 using namespace SysCarto;
 using SysAdapterUI::FramePropertyWidget;
-using SysDisplay::SimpleFillStyle;
-using SysDisplay::SimpleFillSymbol;
-using SysDisplay::SimpleLineStyle;
-using SysDisplay::SimpleLineSymbol;
 
 namespace {
 
 using Edit = std::function<void(FramePropertyWidget&)>;
-using Check = std::function<bool(FramePropertyWidget const&)>;
 
 Edit number(char const* box, double value) {
   return [=](FramePropertyWidget& widget) { widget.findChild<QDoubleSpinBox*>(QLatin1String(box))->setValue(value); };
@@ -47,8 +46,17 @@ Edit color(char const* button, QColor const& wanted) {
   };
 }
 
-bool isFilled(_ptr_t<SymbolBackground> const& part) {
-  return ptr_cast<SimpleFillSymbol>(part->GetFillSymbol())->GetStyle() != SimpleFillStyle::Null;
+// A field of the parts that the widget answers, as a document has it.
+QJsonValue stored(FramePropertyWidget const& widget, QString const& field) {
+  auto const frame = make<MapFrameElement>();
+  frame->SetBorder(widget.GetBorder());
+  frame->SetBackGround(widget.GetBackground());
+  frame->SetShadow(widget.GetShadow());
+  SysUtility::Archive archive;
+  describeFrame(archive, *frame);
+  QJsonValue value = archive.json();
+  for (QString const& step : field.split('.')) value = value[step];
+  return value;
 }
 
 QColor pixelAtCentre(FramePropertyWidget& widget) {
@@ -63,44 +71,27 @@ class FramePropertyTest : public QObject {
 
 private slots:
   void everyFieldReachesItsPart_data() {
-    Rows<Edit, Check> row;
+    Rows<Edit, QString, QJsonValue> row;
     QColor const glass(10, 20, 30, 40);
-    row("line style", noStyle("comboBox_BorderStyle"), [](auto const& widget) {
-      return ptr_cast<SimpleLineSymbol>(widget.GetBorder()->GetLineSymbol())->GetStyle() == SimpleLineStyle::Null;
-    });
-    row("line color", color("colorButton_Border", glass),
-        [=](auto const& widget) { return widget.GetBorder()->GetLineSymbol()->GetColor() == glass; });
-    row("line width", number("spinBox_BorderWidth", 3.25),
-        [](auto const& widget) { return widget.GetBorder()->GetLineSymbol()->GetWidth() == 3.25; });
-    row("border gap", number("spinBox_BorderGap", -4),
-        [](auto const& widget) { return widget.GetBorder()->GetGap() == -4; });
-    row("border rounding", number("spinBox_BorderRounding", 30),
-        [](auto const& widget) { return widget.GetBorder()->GetCornerRounding() == 30; });
-    row("background fill", noStyle("comboBox_BackgroundStyle"),
-        [](auto const& widget) { return !isFilled(widget.GetBackground()); });
-    row("background color", color("colorButton_Background", glass),
-        [=](auto const& widget) { return widget.GetBackground()->GetFillSymbol()->GetColor() == glass; });
-    row("background gap", number("spinBox_BackgroundGap", 6),
-        [](auto const& widget) { return widget.GetBackground()->GetGap() == 6; });
-    row("background rounding", number("spinBox_BackgroundRounding", 40),
-        [](auto const& widget) { return widget.GetBackground()->GetCornerRounding() == 40; });
-    row("shadow fill", noStyle("comboBox_ShadowStyle"), [](auto const& widget) {
-      return ptr_cast<SimpleFillSymbol>(widget.GetShadow()->GetFillSymbol())->GetStyle() == SimpleFillStyle::Null;
-    });
-    row("shadow color", color("colorButton_Shadow", glass),
-        [=](auto const& widget) { return widget.GetShadow()->GetFillSymbol()->GetColor() == glass; });
-    row("shadow to the right, its height kept", number("spinBox_ShadowX", 8), [](auto const& widget) {
-      return widget.GetShadow()->GetXOffset() == 8 && widget.GetShadow()->GetYOffset() == -2;
-    });
-    row("shadow upwards, its side kept", number("spinBox_ShadowY", 9), [](auto const& widget) {
-      return widget.GetShadow()->GetXOffset() == 2 && widget.GetShadow()->GetYOffset() == 9;
-    });
-    row("shadow rounding", number("spinBox_ShadowRounding", 50),
-        [](auto const& widget) { return widget.GetShadow()->GetCornerRounding() == 50; });
+    QString const glassStored = QStringLiteral("#280a141e");
+    row("line style", noStyle("comboBox_BorderStyle"), "border.symbol.style", "null");
+    row("line color", color("colorButton_Border", glass), "border.symbol.color", glassStored);
+    row("line width", number("spinBox_BorderWidth", 3.25), "border.symbol.width", 3.25);
+    row("border gap", number("spinBox_BorderGap", -4), "border.gap", -4);
+    row("border rounding", number("spinBox_BorderRounding", 30), "border.rounding", 30);
+    row("background fill", noStyle("comboBox_BackgroundStyle"), "background.symbol.style", "null");
+    row("background color", color("colorButton_Background", glass), "background.symbol.color", glassStored);
+    row("background gap", number("spinBox_BackgroundGap", 6), "background.gap", 6);
+    row("background rounding", number("spinBox_BackgroundRounding", 40), "background.rounding", 40);
+    row("shadow fill", noStyle("comboBox_ShadowStyle"), "shadow.symbol.style", "null");
+    row("shadow color", color("colorButton_Shadow", glass), "shadow.symbol.color", glassStored);
+    row("shadow to the right, its height kept", number("spinBox_ShadowX", 8), "shadow.offset", QJsonArray{8, -2});
+    row("shadow upwards, its side kept", number("spinBox_ShadowY", 9), "shadow.offset", QJsonArray{2, 9});
+    row("shadow rounding", number("spinBox_ShadowRounding", 50), "shadow.rounding", 50);
   }
 
   void everyFieldReachesItsPart() {
-    auto const [edit, check] = fetched<Edit, Check>();
+    auto const [edit, field, value] = fetched<Edit, QString, QJsonValue>();
     auto const border = make<SymbolBorder>();
     auto const background = make<SymbolBackground>();
     auto const shadow = make<SymbolShadow>();
@@ -108,11 +99,11 @@ private slots:
     FramePropertyWidget const untouched(border, background, shadow, nullptr);
     widget.show();
     QSignalSpy const changes(&widget, &FramePropertyWidget::ValueChanged);
-    QVERIFY(!check(widget));
+    QVERIFY(stored(widget, field) != value);
     edit(widget);
-    QVERIFY(check(widget));
+    QCOMPARE(stored(widget, field), value);
     QCOMPARE(changes.count(), 1);
-    QVERIFY2(!check(untouched), "the widget works on copies");
+    QVERIFY2(stored(untouched, field) != value, "the widget works on copies");
   }
 
   void aPartThatIsNotThereCanBeAddedAndTakenAway() {
@@ -138,7 +129,7 @@ private slots:
     FramePropertyWidget const widget(border, bare, nullptr, nullptr);
     QCOMPARE(widget.GetBorder()->GetLineSymbol()->GetOffset(), 1.5);
     QCOMPARE(widget.GetBorder()->GetCornerRounding(), 12.345);
-    QVERIFY2(!isFilled(widget.GetBackground()), "a part without a symbol still draws nothing");
+    QVERIFY2(stored(widget, "background.symbol.style") == "null", "a part without a symbol still draws nothing");
   }
 
   void thePreviewFollows() {
