@@ -1,11 +1,9 @@
 #include "Pictures.h"
+#include "Symbols.h"
 
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
-#include "host/SysDisplay/TextSymbol.h"
 
-#include <SysDisplay/SimpleFillSymbol.h>
-#include <SysDisplay/SimpleLineSymbol.h>
 #include <SysGeometry/Polyline.h>
 
 #include <cmath>
@@ -40,16 +38,6 @@ private:
 };
 
 _ptr_t<Polyline> polyline(QVector<QPointF> points) { return make<Polyline>(std::move(points)); }
-
-_ptr_t<SimpleLineSymbol> pen(double width, SimpleLineStyle style = SimpleLineStyle::Solid,
-                             LineCapStyle cap = LineCapStyle::Butt) {
-  auto const symbol = make<SimpleLineSymbol>();
-  symbol->SetWidth(width);
-  symbol->SetStyle(style);
-  symbol->SetCapStyle(cap);
-  symbol->SetJoinStyle(LineJoinStyle::Miter);
-  return symbol;
-}
 
 QRect aligned(_ptr_t<Envelope> const& e) {  // world rectangle to pixels
   return QRectF(QPointF(e->GetXMin(), 200 - e->GetYMax()), QPointF(e->GetXMax(), 200 - e->GetYMin())).toAlignedRect();
@@ -209,8 +197,7 @@ private slots:
   }
   void textHangsOnItsPosition() {
     auto const [horizontal, vertical, allowed] = fetched<int, int, QRectF>();
-    TextFormat format;
-    format.size = 20;
+    TextFormat format = letters(20);
     format.horizontal = static_cast<HorizontalAlignment>(horizontal);
     format.vertical = static_cast<VerticalAlignment>(vertical);
     TextSymbol const symbol(format);
@@ -220,10 +207,7 @@ private slots:
   }
 
   void textIsDrawnWhereItsOutlineIs() {
-    TextFormat format;
-    format.size = 24;
-    format.haloSize = 2;
-    format.haloColor = Qt::yellow;
+    TextFormat format = letters(24, 2);
     format.horizontal = HorizontalAlignment::Center;
     format.vertical = VerticalAlignment::Middle;
     TextSymbol const symbol(format);
@@ -242,17 +226,14 @@ private slots:
   }
 
   void textShapeIsLinear() {
-    TextFormat small, large;
-    small.size = 7;
-    large.size = 70;
-    QRectF const a = TextSymbol(small).bounds(QStringLiteral("Wide & narrow"));
-    QRectF const b = TextSymbol(large).bounds(QStringLiteral("Wide & narrow"));
-    QVERIFY(std::abs(a.width() * 10 - b.width()) < 1e-6);
-    QVERIFY(TextSymbol(small).bounds(QString()).isNull());
-    small.letterSpacing = 2;
-    QRectF const spaced = TextSymbol(small).bounds(QStringLiteral("HHHH"));
-    small.letterSpacing = 0;
-    QVERIFY(std::abs(spaced.width() - TextSymbol(small).bounds(QStringLiteral("HHHH")).width() - 6) < 0.05);
+    auto const width = [](TextFormat const& format, char const* text) {
+      return TextSymbol(format).bounds(text).width();
+    };
+    QVERIFY(std::abs(width(letters(7), "Wide & narrow") * 10 - width(letters(70), "Wide & narrow")) < 1e-6);
+    QVERIFY(TextSymbol(letters(7)).bounds(QString()).isNull());
+    TextFormat spaced = letters(7);
+    spaced.letterSpacing = 2;
+    QVERIFY(std::abs(width(spaced, "HHHH") - width(letters(7), "HHHH") - 6) < 0.05);
   }
 };
 

@@ -1,12 +1,10 @@
 #include "Pictures.h"
+#include "Symbols.h"
 
 #include "host/SysDisplay/FillPainter.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
-#include "host/SysDisplay/TextSymbol.h"
 
-#include <SysDisplay/SimpleFillSymbol.h>
-#include <SysDisplay/SimpleLineSymbol.h>
 #include <SysGeometry/MultiPolyline.h>
 #include <SysGeometry/Polygon.h>
 
@@ -52,15 +50,8 @@ QVector<QVector<QPointF>> blob(double radius) {
   return {outer, hole};
 }
 
-_ptr_t<SimpleLineSymbol> line(SimpleLineStyle style, double width, LineCapStyle cap, LineJoinStyle join,
-                              QColor const& color = QColor(200, 30, 30, 150)) {
-  auto const symbol = make<SimpleLineSymbol>();
-  symbol->SetStyle(style);
-  symbol->SetWidth(width);
-  symbol->SetCapStyle(cap);
-  symbol->SetJoinStyle(join);
-  symbol->SetColor(color);
-  return symbol;
+_ptr_t<SimpleLineSymbol> line(SimpleLineStyle style, double width, LineCapStyle cap, LineJoinStyle join) {
+  return pen(width, style, cap, join, QColor(200, 30, 30, 150));
 }
 
 Scene lines(_ptr_t<SimpleLineSymbol> symbol, QVector<QVector<QPointF>> lines) {
@@ -70,10 +61,7 @@ Scene lines(_ptr_t<SimpleLineSymbol> symbol, QVector<QVector<QPointF>> lines) {
 }
 
 Scene area(SimpleFillStyle style, QVector<QVector<QPointF>> const& rings, _ptr_t<LineSymbol> const& outline) {
-  auto const symbol = make<SimpleFillSymbol>();
-  symbol->SetStyle(style);
-  symbol->SetColor(QColor(30, 120, 200, 180));
-  symbol->SetOutlineSymbol(outline);
+  auto const symbol = fill(QColor(30, 120, 200, 180), style, outline);
   auto const geometry = make<Polygon>(rings);
   return [=](QPainter& painter, Transformation const& t) { symbol->Draw(painter, t, geometry); };
 }
@@ -185,10 +173,8 @@ private slots:
       marker->SetAngle(33);
       row(QString("SVG marker of %1 points").arg(size), markers(marker));
     }
-    TextFormat format;
-    format.size = 13;
-    row("text", texts(format));
-    format.haloSize = 1.5;
+    row("text", texts(letters(13)));
+    TextFormat format = letters(13, 1.5);
     format.haloColor = QColor(255, 230, 0, 128);
     format.bold = true;
     row("text with a halo", texts(format));
@@ -210,9 +196,8 @@ private slots:
   // Much of it at once is drawn in bands and by several threads, on a painter that clips nothing. What is added first
   // stays below, pictures included.
   void bandsShowWhatOnePainterShows() {
-    auto const fill = make<SimpleFillSymbol>();
-    fill->SetColor(QColor(30, 120, 200, 90));
-    fill->SetOutlineSymbol(line(SimpleLineStyle::Solid, 3, LineCapStyle::Round, LineJoinStyle::Round));
+    auto const land = fill(QColor(30, 120, 200, 90), SimpleFillStyle::Solid,
+                           line(SimpleLineStyle::Solid, 3, LineCapStyle::Round, LineJoinStyle::Round));
     auto const dot = make<SimpleMarkerSymbol>();
     dot->setOutlineWidth(1.1);
     auto const picture = make<SvgMarkerSymbol>();
@@ -225,7 +210,7 @@ private slots:
     }
     Scene const crowd = [&](QPainter& painter, Transformation const& t) {
       DrawTarget target(painter, *t);
-      FillPainter area(target, *fill);
+      FillPainter area(target, *land);
       MarkerPainter dots(target, *dot), pictures(target, *picture);
       for (int i = 0; i < 2000; ++i) {
         if (i % 500 == 0) {

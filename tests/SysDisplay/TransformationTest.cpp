@@ -1,3 +1,4 @@
+#include "Boxes.h"
 #include "Test.h"
 
 #include <SysDisplay/DisplayTransformation.h>
@@ -13,10 +14,6 @@ namespace {
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 _ptr_t<Envelope> box(QRectF const& r) { return make<Envelope>(r.left(), r.top(), r.right(), r.bottom()); }
-
-QRectF rectOf(_ptr_t<Envelope> const& e) {
-  return QRectF(QPointF(e->GetXMin(), e->GetYMin()), QPointF(e->GetXMax(), e->GetYMax()));
-}
 
 }  // namespace
 
@@ -43,7 +40,7 @@ private slots:
     transformation.SetDeviceFrame(QRect(0, 0, 200, 100));
     transformation.SetVisibleBounds(box(QRectF(0, 0, 2, 1)));
     transformation.SetVisibleBounds(box(bounds));
-    QCOMPARE(rectOf(transformation.GetFittedBounds()), fitted);
+    QCOMPARE(rectOf(*transformation.GetFittedBounds()), fitted);
   }
 
   void pixels_data() {

@@ -1,3 +1,4 @@
+#include "Boxes.h"
 #include "Test.h"
 
 #include "host/SysGeometry/OgrBridge.h"
@@ -31,12 +32,6 @@ GeometryPtr rectangle(double xmin, double ymin, double xmax, double ymax) {
 }
 QVector<QPointF> square(double from, double to) { return {{from, from}, {to, from}, {to, to}, {from, to}}; }
 
-QVector<double> sides(_ptr_t<Envelope> const& envelope) {
-  QVector<double> sides(4);
-  envelope->QueryCoords(sides[0], sides[1], sides[2], sides[3]);
-  return sides;
-}
-
 int errorsPrinted = 0;
 void countError(CPLErr, CPLErrorNum, char const*) { ++errorsPrinted; }
 
@@ -55,10 +50,10 @@ private slots:
     QCOMPARE(envelope.GetWidth(), 9.0);
     QCOMPARE(envelope.GetHeight(), 22.0);
     envelope.CenterAt(3, 4);
-    QCOMPARE(sides(envelope.GetEnvelope()), (QVector<double>{-1.5, -7, 7.5, 15}));
+    QCOMPARE(sidesOf(envelope), (QVector<double>{-1.5, -7, 7.5, 15}));
     envelope.Offset(1, -1);
     envelope.Expand(0.5, 2, false);
-    QCOMPARE(sides(envelope.GetEnvelope()), (QVector<double>{-1, -10, 9, 16}));
+    QCOMPARE(sidesOf(envelope), (QVector<double>{-1, -10, 9, 16}));
     QCOMPARE(envelope.GetAnchorPoint()->GetX(), 4.0);
     QCOMPARE(envelope.GetAnchorPoint()->GetY(), 3.0);
   }
@@ -71,13 +66,13 @@ private slots:
     envelope.CenterAt(make<Point>(0.0, 0.0, 0.0));
     QCOMPARE(envelope.GetXMin(), 6.0);
     QCOMPARE(envelope.GetYMax(), -12.0);
-    QCOMPARE(sides(envelope.GetEnvelope()), (QVector<double>{-6, -12, 6, 12}));
+    QCOMPARE(sidesOf(envelope), (QVector<double>{-6, -12, 6, 12}));
     QCOMPARE(ptr_cast<Envelope>(envelope.Clone())->GetXMin(), 6.0);
   }
 
   void twoPointsSpanAnOrderedRectangle() {
     auto const corner = make<Point>(5.0, 1.0, 0.0);
-    QCOMPARE(sides(make<Envelope>(corner, make<Point>(2.0, 8.0, 0.0))), (QVector<double>{2, 1, 5, 8}));
+    QCOMPARE(sidesOf(Envelope(corner, make<Point>(2.0, 8.0, 0.0))), (QVector<double>{2, 1, 5, 8}));
     QVERIFY(Envelope(corner, nullptr).IsEmpty());
     QVERIFY(Envelope(corner, make<Point>(noNumber, 8.0, 0.0)).IsEmpty());
   }
@@ -171,8 +166,8 @@ private slots:
   void aBufferIsAnArea() {
     auto const round = point(3, 4)->Buffer(2);
     QVERIFY(ptr_cast<Polygon>(round));
-    QCOMPARE(sides(round->GetEnvelope()), (QVector<double>{1, 2, 5, 6}));
-    QCOMPARE(sides(rectangle(0, 0, 10, 10)->Buffer(-2)->GetEnvelope()), (QVector<double>{2, 2, 8, 8}));
+    QCOMPARE(sidesOf(*round), (QVector<double>{1, 2, 5, 6}));
+    QCOMPARE(sidesOf(*rectangle(0, 0, 10, 10)->Buffer(-2)), (QVector<double>{2, 2, 8, 8}));
     QVERIFY(!rectangle(0, 0, 10, 10)->Buffer(-6));
     QVERIFY(!point(3, 4)->Buffer(noNumber));
   }
@@ -181,7 +176,7 @@ private slots:
     auto const page = rectangle(0, 0, 10, 10);
     auto const apart = ptr_cast<Polygon>(page->Union(rectangle(20, 0, 30, 10)));
     QCOMPARE(apart->GetRings().size(), 2);
-    QCOMPARE(sides(apart->GetEnvelope()), (QVector<double>{0, 0, 30, 10}));
+    QCOMPARE(sidesOf(*apart), (QVector<double>{0, 0, 30, 10}));
     QVERIFY(page->Union(area({}))->Equals(page));
     QVERIFY(ptr_cast<MultiPolyline>(line({{0, 0}, {1, 0}})->Union(line({{5, 0}, {6, 0}}))));
     QVERIFY(!page->Union(point(20, 20)));

@@ -1,10 +1,10 @@
 #include "Boxes.h"
 #include "LayerFixture.h"
+#include "Symbols.h"
 
 #include "host/SysCarto/layout/TextElement.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 
-#include <SysDisplay/SimpleLineSymbol.h>
 #include <SysGeometry/Point.h>
 
 #include <cmath>
@@ -22,9 +22,7 @@ LabelSettings settings(double sizePt, QString const& priorityField = QString()) 
   result.visible = true;
   result.field = QStringLiteral("name");
   result.priorityField = priorityField;
-  TextFormat format;
-  format.size = sizePt;
-  result.symbol = make<TextSymbol>(format);
+  result.symbol = make<TextSymbol>(letters(sizePt));
   return result;
 }
 
@@ -132,9 +130,7 @@ private slots:
       {"type":"Feature","properties":{"name":"Large","size":1000},"geometry":{"type":"Point","coordinates":[50,50]}},
       {"type":"Feature","properties":{"name":null,"size":2000},"geometry":{"type":"Point","coordinates":[50,50]}}]})";
     auto labels = settings(9, "size");
-    TextFormat large;
-    large.size = 14;
-    labels.classes.push_back({500, make<TextSymbol>(large)});
+    labels.classes.push_back({500, make<TextSymbol>(letters(14))});
     auto const layer = openedJson(places, "", make<SimpleMarkerSymbol>(), labels);
     Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)).transformation());
     QCOMPARE(result.texts().value(0), QStringLiteral("Large"));

@@ -1,30 +1,13 @@
 #include "LayerFixture.h"
+#include "Symbols.h"
 
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
-
-#include <SysDisplay/SimpleLineSymbol.h>
 
 using namespace SysCarto;
 using namespace SysDisplay;
 using SysUI::TrackerCancel;
 
 namespace {
-
-_ptr_t<SimpleLineSymbol> line(SimpleLineStyle style, double width, QColor const& color) {
-  auto const symbol = make<SimpleLineSymbol>();
-  symbol->SetStyle(style);
-  symbol->SetWidth(width);
-  symbol->SetColor(color);
-  return symbol;
-}
-
-_ptr_t<Symbol> fill(SimpleFillStyle style, _ptr_t<LineSymbol> const& outline) {
-  auto const symbol = make<SimpleFillSymbol>();
-  symbol->SetStyle(style);
-  symbol->SetColor(QColor(60, 120, 60, 180));
-  symbol->SetOutlineSymbol(outline);
-  return symbol;
-}
 
 _ptr_t<Symbol> marker() {
   auto const symbol = make<SimpleMarkerSymbol>();
@@ -47,13 +30,16 @@ class LayerDrawTest : public QObject {
 private slots:
   void tilesMakeTheWholePicture_data() {
     Rows<QString, QString, double, _ptr_t<Symbol>> row;
-    auto const thin = line(SimpleLineStyle::Solid, 0.6, QColor(90, 50, 20));
-    row("countries with outlines", "countries", "EPSG:8857", 1, fill(SimpleFillStyle::Solid, thin));
-    row("a detail of them", "countries", "EPSG:8857", 0.03, fill(SimpleFillStyle::Solid, thin));
+    auto const line = [](SimpleLineStyle style, double width, QColor const& color) {
+      return pen(width, style, LineCapStyle::Round, LineJoinStyle::Round, color);
+    };
+    QColor const green(60, 120, 60, 180);
+    auto const land = fill(green, SimpleFillStyle::Solid, line(SimpleLineStyle::Solid, 0.6, QColor(90, 50, 20)));
+    row("countries with outlines", "countries", "EPSG:8857", 1, land);
+    row("a detail of them", "countries", "EPSG:8857", 0.03, land);
     row("cut in the Atlantic, dashed and hatched", "countries", "+proj=eqearth +lon_0=150 +datum=WGS84", 1,
-        fill(SimpleFillStyle::DiagonalCross, line(SimpleLineStyle::DashDot, 1.2, QColor(0, 0, 160, 128))));
-    row("seen from above", "countries", "+proj=ortho +lat_0=40 +lon_0=10 +datum=WGS84", 1,
-        fill(SimpleFillStyle::Solid, thin));
+        fill(green, SimpleFillStyle::DiagonalCross, line(SimpleLineStyle::DashDot, 1.2, QColor(0, 0, 160, 128))));
+    row("seen from above", "countries", "+proj=ortho +lat_0=40 +lon_0=10 +datum=WGS84", 1, land);
     row("borders alone", "countries", "EPSG:3413", 0.2, line(SimpleLineStyle::Dash, 1.5, QColor(0, 80, 160, 128)));
     row("cities", "cities", "EPSG:8857", 0.3, marker());
   }
@@ -103,9 +89,7 @@ private slots:
     }
     QByteArray const left = "[[0,0]" + border.mid(0) + ",[0,10],[0,0]]", right = "[[10,0],[10,10]" + back + ",[10,0]]";
     QByteArray const halves = R"({"type":"MultiPolygon","coordinates":[[)" + left + "],[" + right + "]]}";
-    auto const symbol = make<SimpleFillSymbol>();
-    symbol->SetColor(Qt::black);
-    auto const layer = openedJson(geoJson(halves), "", symbol);
+    auto const layer = openedJson(geoJson(halves), "", fill(Qt::black, SimpleFillStyle::Solid, nullptr));
     QImage const image = shown({0, 0, 10, 10}, QSize(100, 100)).drawn(sceneOf(layer));
     for (int y = 1; y < 99; ++y)
       for (int x = 1; x < 99; ++x) QCOMPARE(qGray(image.pixel(x, y)), 0);

@@ -1,4 +1,6 @@
+#include "Boxes.h"
 #include "Pictures.h"
+#include "Symbols.h"
 #include "Elements.h"
 
 #include "host/SysCarto/layout/PictureElement.h"
@@ -21,26 +23,17 @@ Transformation pageView(double dpi = 96) {
   return transformation;
 }
 
-QVector<double> sides(_ptr_t<SysGeometry::Geometry> const& geometry) {
-  auto const e = geometry->GetEnvelope();
-  QVector<double> sides{e->GetXMin(), e->GetYMin(), e->GetXMax(), e->GetYMax()};
-  for (double& side : sides) side = std::round(side * 1e6) / 1e6;
-  return sides;
-}
-
 _ptr_t<Element> lineFrom(QVector<QPointF> points) {
   auto const line = make<LineElement>();
   line->setShape(make<SysGeometry::Polyline>(points));
   return line;
 }
 
-_ptr_t<Element> text(QString const& letters, double x, double y, double haloPt = 0) {
-  SysDisplay::TextFormat format;
-  format.haloSize = haloPt;
+_ptr_t<Element> text(QString const& content, double x, double y, double haloPt = 0) {
   auto const element = make<TextElement>();
-  element->setText(letters);
+  element->setText(content);
   element->setPosition(x, y);
-  element->setSymbol(make<SysDisplay::TextSymbol>(format));
+  element->setSymbol(make<SysDisplay::TextSymbol>(letters(10, haloPt)));
   return element;
 }
 
@@ -78,17 +71,17 @@ private slots:
   void movesScalesAndFits() {
     auto const [element, moved, scaled, fitted] =
         fetched<_ptr_t<Element>, QVector<double>, QVector<double>, QVector<double>>();
-    QVector<double> const before = sides(element->GetEnvelope());
+    QVector<double> const before = sidesOf(*element->GetEnvelope());
     auto const changed = [&element = element](auto const& change) {
       auto const copy = element->Clone();
       change(*copy);
-      return sides(copy->GetEnvelope());
+      return sidesOf(*copy->GetEnvelope());
     };
     QCOMPARE(changed([](Element& e) { e.Move(1, -2); }), moved);
     QCOMPARE(changed([](Element& e) { e.Scale(make<Point>(2.0, 3.0, 0.0), 2, 0.5); }), scaled);
     QCOMPARE(changed([](Element& e) { e.SetGeometry(make<Envelope>(14.0, 12.0, 10.0, 10.0)); }), fitted);
     QCOMPARE(changed([](Element& e) { e.SetGeometry(make<Envelope>()); }), before);
-    QCOMPARE(sides(element->GetEnvelope()), before);  // clones are independent
+    QCOMPARE(sidesOf(*element->GetEnvelope()), before);  // clones are independent
   }
 
   void boundaryCoversWhatSymbolsAdd_data() {
@@ -125,14 +118,14 @@ private slots:
     element->Scale(make<Point>(2.0, 3.0, 0.0), 2, 10);
     QCOMPARE(element->symbol()->format().size, 20.0);
     QCOMPARE(shared->format().size, 10.0);  // of other elements
-    QCOMPARE(sides(element->GetGeometry()), (QVector<double>{6, 23, 6, 23}));
+    QCOMPARE(sidesOf(*element->GetGeometry()), (QVector<double>{6, 23, 6, 23}));
     QVERIFY(std::abs(element->GetEnvelope()->GetWidth() - 2 * envelope->GetWidth()) < 0.02 * envelope->GetWidth());
   }
 
   void textHasOneSizeOnPaperAndItsHaloIsNotItsOwn() {
     auto const plain = text("Plan", 4, 5), haloed = text("Plan", 4, 5, 3);
-    QCOMPARE(sides(plain->GetEnvelope()), sides(haloed->GetEnvelope()));
-    QCOMPARE(sides(plain->GetBoundary(pageView(96))), sides(plain->GetBoundary(pageView(600))));
+    QCOMPARE(sidesOf(*plain->GetEnvelope()), sidesOf(*haloed->GetEnvelope()));
+    QCOMPARE(sidesOf(*plain->GetBoundary(pageView(96))), sidesOf(*plain->GetBoundary(pageView(600))));
     auto const wider = haloed->GetBoundary(pageView())->GetEnvelope();
     QVERIFY(std::abs(wider->GetWidth() - plain->GetEnvelope()->GetWidth() - 6 * cmPerPoint) < 1e-6);
     haloed->SetGeometry(make<Envelope>(10.0, 10.0, 12.0, 11.0));

@@ -1,5 +1,6 @@
 #include "Files.h"
 #include "Pictures.h"
+#include "Symbols.h"
 #include "Elements.h"
 
 #include "host/SysCarto/layout/ElementContainer.h"
@@ -66,13 +67,9 @@ _ptr_t<MapFrameElement> framedMap() {
 }
 
 _ptr_t<TextElement> turnedText() {
-  SysDisplay::TextFormat format;
-  format.size = 31;
-  format.haloSize = 2;
-  format.haloColor = Qt::yellow;
   auto const text = make<TextElement>();
   text->setText("Across the\ntile's edges");
-  text->setSymbol(make<SysDisplay::TextSymbol>(format));
+  text->setSymbol(make<SysDisplay::TextSymbol>(letters(31, 2)));
   text->setPosition(0.4, 2.2);
   text->setAngle(17);
   return text;
