@@ -1,5 +1,5 @@
 #include "Files.h"
-#include "Test.h"
+#include "Pictures.h"
 
 #include "host/SysAdapterUI/StyleItemModel.h"
 #include "host/SysAdapterUI/SymbolPreview.h"
@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
-#include <QPainter>
 #include <QPushButton>
 #include <QTemporaryDir>
 
@@ -24,11 +23,8 @@ using SysDisplay::SymbolType;
 
 namespace {
 
-constexpr QSize sampleSize(64, 64);
-
 QImage sampleOf(Symbol const& symbol) {
-  QImage image(sampleSize, QImage::Format_RGB32);
-  image.fill(Qt::white);
+  QImage image = canvas({64, 64});
   QPainter painter(&image);
   drawSymbolPreview(painter, image.rect(), symbol, 2, true);
   return image;
@@ -75,9 +71,7 @@ private slots:
       QVERIFY2(!names.contains(name), qPrintable(name + " is there twice"));
       names << name;
       QImage const image = sampleOf(*ptr_cast<Symbol>(item->GetItem()));
-      QImage blank(sampleSize, QImage::Format_RGB32);
-      blank.fill(Qt::white);
-      QVERIFY2(image != blank, qPrintable(item->GetName()));
+      QVERIFY2(ink(image).pixels > 0, qPrintable(item->GetName()));
       auto const type = ptr_cast<Symbol>(item->GetItem())->GetType();
       if (type != SymbolType::Marker || item->GetCategory().startsWith("Markers/Towns")) continue;
       QVERIFY2(!seen[item->GetCategory()].contains(image), qPrintable(item->GetName()));

@@ -66,7 +66,6 @@ private slots:
     row("wrong family", "{'type':'simpleFill'}", "symbol.type: “simpleFill” is not one of simpleLine");
     row("negative width", "{'type':'simpleLine','width':-1}", "symbol.width: ");
     row("too wide", "{'type':'simpleLine','width':1001}", "symbol.width: ");
-    row("width of the wrong kind", "{'type':'simpleLine','width':'2'}", "symbol.width: expected a number");
     row("unknown style", "{'type':'simpleLine','style':'wavy'}", "symbol.style: “wavy”");
     row("colour by name", "{'type':'simpleLine','color':'red'}", "symbol.color: “red”");
     row("short colour", "{'type':'simpleLine','color':'#fff'}", "symbol.color: “#fff”");

@@ -48,10 +48,18 @@ class FrameworkTest : public QObject {
   Q_OBJECT
 
 private slots:
+  void aNewCommandIsDisabledAndBoundToNothing() {
+    Command command;
+    QVERIFY(!command.IsEnable());
+    QVERIFY(!command.IsChecked());
+    QVERIFY(!command.hook());
+    command.enabled_ = true;
+    QVERIFY(command.IsEnable());
+  }
+
   void theDesktopIsFoundBehindTheHook() {
     DesktopHook desktop;
     Command command;
-    QVERIFY(!command.IsEnable() && !command.IsChecked() && !command.hook());
     command.OnCreate(address(desktop));
     QCOMPARE(command.hook(), static_cast<IApplicationHook*>(&desktop));
     QCOMPARE(command.desktop_, static_cast<IDesktop*>(&desktop));
@@ -76,7 +84,7 @@ private slots:
       QVERIFY(copy->IsEnable());
       QCOMPARE(copy->desktop_, original->desktop_);
     }
-    QCOMPARE(Command::destroyed, 1 + 1);  // and that of the function before
+    QCOMPARE(Command::destroyed, 1 + 2);  // and those of the two functions before
   }
 
   void aToolHasOneCountForAllItsFaces() {
