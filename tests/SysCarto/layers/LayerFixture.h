@@ -17,9 +17,16 @@ inline QString written(QTemporaryDir const& folder, QString const& name, QByteAr
   return put(folder.filePath(name), content);
 }
 
+inline QByteArray feature(QByteArray const& geometry, QByteArray const& name) {
+  return R"({"type":"Feature","properties":{"name":")" + name + R"("},"geometry":)" + geometry + "}";
+}
+
+inline QByteArray collection(QByteArrayList const& features) {
+  return R"({"type":"FeatureCollection","features":[)" + features.join(',') + "]}";
+}
+
 inline QByteArray geoJson(QByteArray const& geometry, QByteArray const& name = "A") {
-  return R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{"name":")" + name +
-         R"("},"geometry":)" + geometry + "}]}";
+  return collection({feature(geometry, name)});
 }
 
 struct OpenedLayer {

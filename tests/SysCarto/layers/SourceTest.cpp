@@ -3,9 +3,6 @@
 #include "host/SysCarto/layers/GdalErrors.h"
 
 #include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 using namespace SysCarto;
 
@@ -113,16 +110,14 @@ private slots:
 
   void manyFeaturesStayInTheirOrder() {
     constexpr int count = 9000;
-    QJsonArray features;
-    for (int i = 0; i < count; ++i)
-      features << QJsonObject{
-          {"type", "Feature"},
-          {"properties", QJsonObject{{"name", QString::number(i)}}},
-          {"geometry", QJsonObject{{"type", "Point"}, {"coordinates", QJsonArray{i % 300 / 10.0, i / 300}}}}};
-    QJsonObject const collection{{"type", "FeatureCollection"}, {"features", features}};
+    QByteArrayList features;
+    for (int i = 0; i < count; ++i) {
+      QByteArray const place = QByteArray::number(i % 300 / 10.0) + "," + QByteArray::number(i / 300);
+      features << feature(R"({"type":"Point","coordinates":[)" + place + "]}", QByteArray::number(i));
+    }
     SysCarto::LabelSettings labels;
     labels.field = QStringLiteral("name");
-    auto const result = openedJson(QJsonDocument(collection).toJson(), "EPSG:3857", nullptr, labels);
+    auto const result = openedJson(collection(features), "EPSG:3857", nullptr, labels);
     SysCarto::FeatureStore const& store = result.features();
     QCOMPARE(store.size(), count);
     for (int i = 0; i < count; ++i) {
