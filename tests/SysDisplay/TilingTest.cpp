@@ -66,21 +66,27 @@ Scene area(SimpleFillStyle style, QVector<QVector<QPointF>> const& rings, _ptr_t
   return [=](QPainter& painter, Transformation const& t) { symbol->Draw(painter, t, geometry); };
 }
 
+// The coordinates of a ring that waves about a radius, with a tooth of some pixels at each vertex.
+std::vector<double> teeth(int vertices, double radius, double height, int waves, int tooth) {
+  std::vector<double> xy;
+  for (int i = 0; i < vertices; ++i) {
+    double const angle = 2 * M_PI * i / vertices, r = radius + height * std::sin(waves * angle) + i * 7 % tooth;
+    xy.insert(xy.end(), {worldX(350 + r * std::cos(angle)), worldY(250 + r * std::sin(angle))});
+  }
+  return xy;
+}
+
 // A ring, and a line beside it, of many vertices whose stretches are known.
 Scene longRuns(_ptr_t<SimpleLineSymbol> const& symbol) {
-  auto const fill = make<SimpleFillSymbol>();
-  fill->SetOutlineSymbol(symbol);
+  auto const land = make<SimpleFillSymbol>();
+  land->SetOutlineSymbol(symbol);
   return [=](QPainter& painter, Transformation const& t) {
-    std::vector<double> xy;
-    for (int i = 0; i < 5000; ++i) {
-      double const angle = i * M_PI / 2500, r = 300 + 30 * std::sin(90 * angle) + i * 7 % 4;
-      xy.insert(xy.end(), {worldX(350 + r * std::cos(angle)), worldY(250 + r * std::sin(angle))});
-    }
+    std::vector<double> xy = teeth(5000, 300, 30, 90, 4);
     WorldRun run{xy.data(), 5000};
     auto const stretches = stretchesOf(run);
     run.stretches = stretches.data();
     DrawTarget target(painter, *t);
-    FillPainter area(target, *fill);
+    FillPainter area(target, *land);
     area.addRing(run);
     area.draw();
     LinePainter beside(target, *symbol);
@@ -203,11 +209,7 @@ private slots:
     auto const picture = make<SvgMarkerSymbol>();
     QCOMPARE(picture->setSvg(compass), QString());
     picture->SetSize(40);
-    std::vector<double> coast;
-    for (int i = 0; i < 20000; ++i) {
-      double const angle = i * M_PI / 10000, r = 230 + 25 * std::sin(700 * angle) + i % 7;
-      coast.insert(coast.end(), {worldX(350 + r * std::cos(angle)), worldY(250 + r * std::sin(angle))});
-    }
+    std::vector<double> const coast = teeth(20000, 230, 25, 700, 6);
     Scene const crowd = [&](QPainter& painter, Transformation const& t) {
       DrawTarget target(painter, *t);
       FillPainter area(target, *land);
