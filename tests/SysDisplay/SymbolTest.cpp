@@ -106,27 +106,24 @@ private slots:
     QCOMPARE(canvas.covered(), QRect(50, 89, 100, 2));
   }
 
-  void sizesFollowThePageScaleAlone_data() {
-    Rows<double> row;
-    row("a pixel a point", 1.0);
-    row("three pixels a point", 3.0);
-  }
   void sizesFollowThePageScaleAlone() {
-    auto const [pixelsPerPoint] = fetched<double>();
-    int const scale = static_cast<int>(pixelsPerPoint);
     auto const centre = make<Point>(100, 100, 0);
     SimpleMarkerSymbol square;
     square.setStyle(SimpleMarkerStyle::Square);
     square.SetSize(20);
-    SvgMarkerSymbol svg;
-    QCOMPARE(svg.setSvg("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 2 4'><rect width='2' height='4'/></svg>"),
-             QString());
-    svg.SetSize(20);
-    QCOMPARE(Canvas(pixelsPerPoint).draw(*pen(8), polyline({{50, 100}, {150, 100}})).covered().height(), 8 * scale);
-    QCOMPARE(Canvas(pixelsPerPoint).draw(square, centre).covered().size(), QSize(20, 20) * scale);
-    QCOMPARE(Canvas(pixelsPerPoint).draw(svg, centre).covered().size(), QSize(10, 20) * scale);
-    svg.SetAngle(90);
-    QCOMPARE(Canvas(pixelsPerPoint).draw(svg, centre).covered().size(), QSize(20, 10) * scale);
+    SvgMarkerSymbol level;
+    QByteArray const svg =
+        "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 2 4'><rect width='2' height='4'/></svg>";
+    QCOMPARE(level.setSvg(svg), QString());
+    level.SetSize(20);
+    SvgMarkerSymbol turned(level);
+    turned.SetAngle(90);
+    for (int pixels : {1, 3}) {  // a point
+      QCOMPARE(Canvas(pixels).draw(*pen(8), polyline({{50, 100}, {150, 100}})).covered().height(), 8 * pixels);
+      QCOMPARE(Canvas(pixels).draw(square, centre).covered().size(), QSize(20, 20) * pixels);
+      QCOMPARE(Canvas(pixels).draw(level, centre).covered().size(), QSize(10, 20) * pixels);
+      QCOMPARE(Canvas(pixels).draw(turned, centre).covered().size(), QSize(20, 10) * pixels);
+    }
   }
 
   // What QueryBoundary answers decides which tiles an element is drawn in, so that nothing may lie outside of it.

@@ -1,12 +1,10 @@
 #include "Json.h"
 #include "SurroundFixture.h"
+#include "Symbols.h"
 
 #include "host/SysCarto/document/CoordinateSystem.h"
 #include "host/SysCarto/layers/VectorLayer.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
-
-#include <SysDisplay/SimpleFillSymbol.h>
-#include <SysDisplay/SimpleLineSymbol.h>
 
 #include <geodesic.h>
 #include <ogr_spatialref.h>
@@ -189,31 +187,23 @@ private slots:
   }
 
   // However big the symbols of the map are, and however small the frame.
-  void symbolsOfALegendKeepTheirPlace_data() {
-    Rows<Envelope> row;
-    row("in full size", whole);
-    row("smaller", Envelope(4, 4, 6, 5.5));
-  }
-
   void symbolsOfALegendKeepTheirPlace() {
-    auto const [rectangle] = fetched<Envelope>();
     auto const map = mapOf("", 0, 0, 1000);
     auto const marker = make<SysDisplay::SimpleMarkerSymbol>();
     marker->SetSize(60);
-    auto const line = make<SysDisplay::SimpleLineSymbol>();
-    line->SetWidth(30);
-    for (auto const& symbol : QList<_ptr_t<SysDisplay::Symbol>>{line, marker}) addLayer(*map, "Layer", symbol);
-    auto const frame = framed<Legend>(map, rectangle);
-    auto const transformation = page.transformation();
-    QVector<QRectF> boxes;
-    for (auto const& element : frame->GetMapSurround()->GetElements()) {
-      QRectF const covered = rectOf(*element->GetBoundary(transformation)->GetEnvelope());
-      QVERIFY(isWithin(covered, rectOf(rectangle), 0.05));
-      for (QRectF const& other : qAsConst(boxes))
-        QVERIFY(!other.intersects(covered.adjusted(0.06, 0.06, -0.06, -0.06)));
-      boxes << covered;
+    addLayer(*map, "Layer", pen(30));
+    addLayer(*map, "Layer", marker);
+    for (Envelope const& rectangle : {whole, Envelope(4, 4, 6, 5.5)}) {
+      QVector<QRectF> boxes;
+      for (auto const& element : framed<Legend>(map, rectangle)->GetMapSurround()->GetElements()) {
+        QRectF const covered = rectOf(*element->GetBoundary(page.transformation())->GetEnvelope());
+        QVERIFY(isWithin(covered, rectOf(rectangle), 0.05));
+        for (QRectF const& other : qAsConst(boxes))
+          QVERIFY(!other.intersects(covered.adjusted(0.06, 0.06, -0.06, -0.06)));
+        boxes << covered;
+      }
+      QCOMPARE(boxes.size(), 5);
     }
-    QCOMPARE(boxes.size(), 5);
   }
 
   void aScaleBarFitsAFlatFrame() {
