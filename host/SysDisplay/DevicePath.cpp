@@ -100,7 +100,7 @@ class StretchSkipper {
 public:
   StretchSkipper(QTransform const& toDevice, WorldRun const& run, QRectF const& area) : run_(run) {
     constexpr double roundingPx = 1;
-    if (!run.stretches || run.stretchCount() < 4) return;
+    if (!run.stretches) return;
     QRectF const needed =
         toDevice.inverted(&knows_).mapRect(area.adjusted(-roundingPx, -roundingPx, roundingPx, roundingPx));
     needed_ = {needed.left(), needed.top(), needed.right(), needed.bottom()};

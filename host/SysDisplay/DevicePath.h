@@ -35,8 +35,8 @@ constexpr double farthestPx = 1e12;
 /// not finite are left out.
 ///
 /// Of a stretch that lies beyond one side of `area` (device pixels), as its neighbours do, only the first vertex stays.
-/// Everything else looks at no tile, so what is within the area is the same in every tile, with the segments before and
-/// after it.
+/// No other point depends on the area. So all tiles that a place lies in have the same points there, and the same
+/// segments before and after them.
 SYSDISPLAY_EXPORT void toDevicePoints(QTransform const& toDevice, WorldRun const& run, QRectF const& area,
                                       double thinPx, std::vector<QPointF>& points);
 

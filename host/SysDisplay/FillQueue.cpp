@@ -142,9 +142,8 @@ private:
     color_ = fill.color;
     bool const fits = box_.contains(fill.bounds);
     bool const reachesBeyond = fill.bounds.top() < top_ || fill.bounds.bottom() > bottom_;
-    int const points = rings.ends[fill.lastRun] - (fill.firstRun ? rings.ends[fill.firstRun - 1] : 0);
-    if (fits && !(reachesBeyond && points >= pointsWorthDropping))
-      return draw(rings, fill.firstRun, fill.lastRun, fill.rule);
+    bool const isLong = rings.size(fill.firstRun, fill.lastRun) >= pointsWorthDropping;
+    if (fits && !(reachesBeyond && isLong)) return draw(rings, fill.firstRun, fill.lastRun, fill.rule);
     part_.clear();
     QRectF const rows(-farthestPx, top_, 2 * farthestPx, bottom_ - top_);
     for (int i = fill.firstRun; i <= fill.lastRun; ++i) dropBeyond(rings.run(i), rings.size(i), rows, part_);
@@ -160,7 +159,7 @@ private:
     }
     path_.clear();
     path_.setFillRule(rule);
-    path_.reserve(rings.ends[last] - (first ? rings.ends[first - 1] : 0) + 1);
+    path_.reserve(rings.size(first, last) + 1);
     for (int i = first; i <= last; ++i) {
       QPointF const* points = rings.run(i);
       path_.moveTo(points[0]);

@@ -16,8 +16,8 @@ namespace SysDisplay {
 /// Fills on their way to a painter, in the order in which they are added.
 ///
 /// Where the painter draws on an image in memory, without clipping, the image is cut into bands of rows, and helpers
-/// on other threads rasterise a band each while more is added. What a band shows is what the image would
-/// show, to the last bit. Everywhere else, and where little is to be drawn, the painter itself does it.
+/// on other threads rasterise a band each while more is added. What a band shows is what the image would show, to the
+/// last bit. Everywhere else, and where little is to be drawn, the painter itself does it.
 ///
 /// While fills are waiting, nothing else may draw on the image or change the painter. Belongs to one thread, as the
 /// painter does.

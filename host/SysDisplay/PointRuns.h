@@ -18,8 +18,11 @@ struct SYSDISPLAY_EXPORT PointRuns {
   void clear();
   bool isEmpty() const { return ends.empty(); }
   int count() const { return static_cast<int>(ends.size()); }
-  QPointF const* run(int number) const { return points.data() + (number ? ends[number - 1] : 0); }
-  int size(int number) const { return ends[number] - (number ? ends[number - 1] : 0); }
+  QPointF const* run(int number) const { return points.data() + begin(number); }
+  int size(int number) const { return size(number, number); }
+
+  /// How many points the runs from the first to the last have together.
+  int size(int first, int last) const { return ends[last] - begin(first); }
 
   /// Appends to the open run. A point that repeats the one before it is left out.
   void add(QPointF const& point) {
@@ -35,6 +38,9 @@ struct SYSDISPLAY_EXPORT PointRuns {
   void append(PointRuns const& other);
 
   QRectF bounds() const;
+
+private:
+  int begin(int number) const { return number ? ends[number - 1] : 0; }
 };
 
 }  // namespace SysDisplay

@@ -21,10 +21,11 @@ struct WorldRun {
   int stretchCount() const { return (count + stretchLength - 1) / stretchLength; }
 };
 
-/// What a run's `stretches` are to be. Empty for a run that is too short to have several.
+/// What a run's `stretches` are to be. Empty for a run of three or less, since the neighbours of one that is needed are
+/// needed, too.
 inline std::vector<SysGeometry::Box> stretchesOf(WorldRun const& run) {
   int const count = run.stretchCount();
-  if (count < 2) return {};
+  if (count < 4) return {};
   std::vector<SysGeometry::Box> boxes(count);
   for (int i = 0; i < run.count; ++i) {
     double const x = run.xy[2 * i], y = run.xy[2 * i + 1];

@@ -15,9 +15,8 @@ namespace {
 constexpr double earthRadiusM = 6378137;
 constexpr double toleranceM = 10;
 constexpr double toleranceDegrees = 1e-4;
-constexpr double longestDegrees = 5;  // longer edges are divided, whatever a look at their middle says
-constexpr double shortestDegrees =
-    0.05;  // on the globe a curve this short strays from its chord by a metre at the most
+constexpr double longestDegrees = 5;      // longer edges are divided, whatever a look at their middle says
+constexpr double shortestDegrees = 0.05;  // a curve this short strays from its chord by about a metre
 constexpr double longestSourceM = 200000;
 constexpr double seamDegrees = 1e-4;      // how near to the antimeridian data are cut
 constexpr double nearAntimeridian = 150;  // where both ends of an edge that steps across it lie

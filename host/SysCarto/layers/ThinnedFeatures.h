@@ -43,7 +43,7 @@ private:
   std::vector<Place> places_;
   std::vector<Part> parts_;
   VertexPool vertices_;
-  std::deque<std::vector<Box>> stretches_;  // of the parts that have several
+  std::deque<std::vector<Box>> stretches_;  // of the parts that are long enough
 };
 
 }  // namespace SysCarto

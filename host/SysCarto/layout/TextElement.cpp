@@ -101,6 +101,7 @@ void TextElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& t
 void TextElement::drawOn(DrawTarget& target) const {
   QPointF const position = target.toDevice().map(QPointF(x_, y_));
   double const scale = target.pixelsPerPoint();
+  // Most labels of a map lie in other tiles. That shows here without looking the text up.
   QRectF const pixels(position + boundsPt().topLeft() * scale, boundsPt().size() * scale);
   if (pixels.adjusted(-1, -1, 1, 1).intersects(target.area())) symbol_->drawAt(target, position, angle_, text_);
 }
