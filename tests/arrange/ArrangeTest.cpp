@@ -131,26 +131,22 @@ private slots:
     expectSelected(after);
   }
 
-  void alignmentGoesByTheDrawnBounds() {
-    addSelected(bordered({5, 1, 7, 2}, 0.5));
-    addSelected(bordered({2, 4, 4, 8}, 0.25));
-    QVERIFY(click(make<LeftAlignmentElement>()));
-    expectSelected({{5, 1, 7, 2}, {4.75, 4, 6.75, 8}});
-  }
-
-  void distributionFindsTheOutermostByDrawnBoundsAndMeasuresOwnRectangles() {
-    addSelected(bordered({0, 0, 2, 1}, 0.5));
-    addSelected(bordered({3, 0, 5, 1}, 0.1));
-    addSelected(bordered({10, 0, 12, 1}, 1.0));
-    QVERIFY(click(make<DistributeHorizontallyElements>()));
-    expectSelected({{0, 0, 2, 1}, {5, 0, 7, 1}, {10, 0, 12, 1}});
-  }
-
-  void fittingIsMeasuredDrawnAndPlacedByTheOwnRectangle() {
-    addSelected(bordered({4, 4, 8, 8}, 1.0));
-    QVERIFY(click(make<FitWidthtoMarginsElements>()));
+  void drawnBoundsAreMeasuredAndOwnRectanglesPlaced_data() {
+    // before: selected in this order, drawn so far beyond their own rectangles
+    Rows<MakeCommand, Rectangles, QVector<double>, Rectangles> row;
+    row("alignment goes by the drawn bounds", made<LeftAlignmentElement>, {{5, 1, 7, 2}, {2, 4, 4, 8}}, {0.5, 0.25},
+        {{5, 1, 7, 2}, {4.75, 4, 6.75, 8}});
+    row("distribution finds the outermost by them, and measures own rectangles", made<DistributeHorizontallyElements>,
+        {{0, 0, 2, 1}, {3, 0, 5, 1}, {10, 0, 12, 1}}, {0.5, 0.1, 1.0}, {{0, 0, 2, 1}, {5, 0, 7, 1}, {10, 0, 12, 1}});
     // Drawn 6 wide, so 20 / 6 times as wide, and its own left edge on the margin.
-    expectSelected({{0, 4, 4 * 20 / 6.0, 8}});
+    row("fitting measures them", made<FitWidthtoMarginsElements>, {{4, 4, 8, 8}}, {1.0}, {{0, 4, 4 * 20 / 6.0, 8}});
+  }
+
+  void drawnBoundsAreMeasuredAndOwnRectanglesPlaced() {
+    auto const [command, before, beyond, after] = fetched<MakeCommand, Rectangles, QVector<double>, Rectangles>();
+    for (int i = 0; i < before.size(); ++i) addSelected(bordered(before[i], beyond[i]));
+    QVERIFY(click(command()));
+    expectSelected(after);
   }
 
   void enabling_data() {

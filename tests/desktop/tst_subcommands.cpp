@@ -38,6 +38,8 @@ private slots:
     row("export with a third operand", "export page.kdx a.png b.png", "\"b.png\" is one argument too many");
     row("export with an unknown option", "export page.kdx a.png --fast", "fast");
     row("a DPI of 0", "export page.kdx a.png --dpi 0", "whole number from 1 to 100000, not \"0\"");
+    row("a negative DPI", "export page.kdx a.png --dpi -1", "not \"-1\"");
+    row("a DPI that is no number", "export page.kdx a.png --dpi high", "not \"high\"");
     row("a DPI beyond the most", "export page.kdx a.png --dpi 100001", "not \"100001\"");
     row("a DPI beyond int", "export page.kdx a.png --dpi 4294967396", "not \"4294967396\"");
     row("a DPI with a fraction", "export page.kdx a.png --dpi 96.5", "not \"96.5\"");

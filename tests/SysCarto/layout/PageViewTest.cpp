@@ -132,6 +132,14 @@ private slots:
     QCOMPARE(stack->CanUndo(), !shown.isEmpty());
     auto const expected = shown.isEmpty() ? before : make<Envelope>(shown[0], shown[1], shown[2], shown[3]);
     QVERIFY(layout->GetExtent()->Equals(expected));
+    if (!shown.isEmpty()) return;
+    // Nor does it come back when the window changes its size.
+    auto const untouched = newLayout();
+    for (auto const& one : {layout, untouched}) {
+      one->GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 2000, 1000));
+      one->RedrawAll(false);
+    }
+    QVERIFY(layout->GetExtent()->Equals(untouched->GetExtent()));
   }
 
   void extentHistoryStepsBackAndForth() {
