@@ -1,5 +1,5 @@
-#include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/TextElement.h"
+#include "host/SysCarto/elements/GraphicElements.h"
+#include "host/SysCarto/elements/TextElement.h"
 #include "host/desktop/Session.h"
 #include "host/desktop/Workbench.h"
 

@@ -2,8 +2,8 @@
 
 #include "Test.h"
 
-#include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/TextElement.h"
+#include "host/SysCarto/elements/GraphicElements.h"
+#include "host/SysCarto/elements/TextElement.h"
 
 #include <SysCarto/GroupElement.h>
 #include <SysCarto/Map.h>

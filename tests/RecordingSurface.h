@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Test.h"
-#include "host/SysCarto/layout/ViewSurface.h"
+#include "host/SysCarto/maps/ViewSurface.h"
 
 #include <SysDisplay/DisplayTransformation.h>
 

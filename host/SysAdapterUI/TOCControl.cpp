@@ -1,6 +1,6 @@
 #include <SysAdapterUI/TOCControl.h>
 
-#include "host/SysCarto/layers/VectorLayer.h"
+#include "host/SysCarto/maps/VectorLayer.h"
 
 #include <SysCarto/Map.h>
 #include <SysGeometry/Polyline.h>

@@ -1,6 +1,6 @@
 #include <SysFramework/BaseTool.h>
 
-#include "host/SysCarto/layout/ViewSurface.h"
+#include "host/SysCarto/maps/ViewSurface.h"
 
 namespace SysFramework {
 

@@ -8,7 +8,7 @@
 #include "export/ExportCommand.h"
 #include "export/LayoutRenderer.h"
 #include "export/RasterWriter.h"
-#include "host/SysCarto/layers/GdalErrors.h"
+#include "host/SysCarto/projection/GdalErrors.h"
 
 #include <SysCarto/MapDocument.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/SysCarto/layout/ElementContainer.h"
+#include "host/SysCarto/elements/ElementContainer.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>

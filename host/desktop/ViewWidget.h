@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/SysCarto/layout/ViewSurface.h"
+#include "host/SysCarto/maps/ViewSurface.h"
 
 #include <SysCarto/ActiveView.h>
 

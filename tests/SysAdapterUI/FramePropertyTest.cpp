@@ -1,7 +1,7 @@
 #include "Dialogs.h"
 #include "Test.h"
 
-#include "host/SysCarto/layout/ElementArchive.h"
+#include "host/SysCarto/document/ElementArchive.h"
 #include "host/SysUtility/Archive.h"
 
 #include <SysAdapterUI/FramePropertyWidget.h>

@@ -1,10 +1,9 @@
 #include "DocumentArchive.h"
 
-#include "CoordinateSystem.h"
-#include "MapLimits.h"
-
-#include "host/SysCarto/layers/LayerArchive.h"
-#include "host/SysCarto/layout/ElementArchive.h"
+#include "host/SysCarto/document/ElementArchive.h"
+#include "host/SysCarto/document/LayerArchive.h"
+#include "host/SysCarto/maps/MapLimits.h"
+#include "host/SysCarto/projection/CoordinateSystem.h"
 
 #include <SysCarto/MapSurroundFrame.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/SysCarto/DocumentContext.h"
+#include "host/SysCarto/document/DocumentContext.h"
 #include "host/SysUtility/Archive.h"
 
 #include <SysCarto/PageLayout.h>

@@ -1,7 +1,7 @@
 #include "DataSource.h"
 
-#include "host/SysCarto/layers/GdalErrors.h"
-#include "host/SysCarto/layers/Offline.h"
+#include "host/SysCarto/projection/GdalErrors.h"
+#include "host/SysCarto/projection/Offline.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "FeatureIntake.h"
 
-#include "host/SysCarto/layers/GdalErrors.h"
+#include "host/SysCarto/projection/GdalErrors.h"
 
 #include <ogr_geometry.h>
 

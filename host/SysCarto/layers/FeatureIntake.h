@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/SysCarto/layers/FeatureStore.h"
-#include "host/SysCarto/layers/GeometryProjector.h"
+#include "host/SysCarto/projection/GeometryProjector.h"
 
 #include <ogr_feature.h>
 

@@ -1,11 +1,10 @@
 #include "FeatureReader.h"
 
-#include "host/SysCarto/document/CoordinateSystem.h"
 #include "host/SysCarto/layers/DataSource.h"
 #include "host/SysCarto/layers/FeatureIntake.h"
-#include "host/SysCarto/layers/GdalErrors.h"
-#include "host/SysCarto/layers/LabelSettings.h"
 #include "host/SysCarto/layers/Renderer.h"
+#include "host/SysCarto/projection/CoordinateSystem.h"
+#include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QCoreApplication>
 
@@ -98,12 +97,12 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
 }
 
 void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition const& condition, Renderer const& renderer,
-             SourceSettings const& source, LabelSettings const& labels, ReadFeatures& result) {
+             SourceSettings const& source, LabelFields const& labels, ReadFeatures& result) {
   Field const classField(layer, renderer.field(), source, result.warnings);
-  Field const labelField(layer, labels.field, source, result.warnings);
-  Field const priorityField(layer, labels.priorityField, source, result.warnings);
+  Field const labelField(layer, labels.text, source, result.warnings);
+  Field const priorityField(layer, labels.priority, source, result.warnings);
   FeatureStore& store = *result.store;
-  store.keepsLabels = labels.isUsed();
+  store.keepsLabels = !labels.text.isEmpty();
   FeatureIntake intake(projector, store, [&](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
     to.beginFeature();
     own.add(*feature.GetGeometryRef(), to);
@@ -124,7 +123,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
 }  // namespace
 
 ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem, Renderer const& renderer,
-                          LabelSettings const& labels) {
+                          LabelFields const& labels) {
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
   auto const data = DataSource::open(source.file, source.layer, result.error);

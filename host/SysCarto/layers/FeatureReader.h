@@ -11,7 +11,6 @@ namespace SysCarto {
 
 class FeatureStore;
 class Renderer;
-struct LabelSettings;
 
 /// Where the features of a layer come from.
 struct SourceSettings {
@@ -19,6 +18,12 @@ struct SourceSettings {
   QString layer;             ///< empty for the first of the file
   QString filter;            ///< a condition on the fields, as in OGR SQL ("population > 1000000"); empty for all
   QString coordinateSystem;  ///< stands in for the file's own; empty for that
+};
+
+/// The fields that labels need; empty names for none.
+struct LabelFields {
+  QString text;      ///< without it, labels need nothing
+  QString priority;  ///< numeric
 };
 
 struct ReadFeatures {
@@ -30,6 +35,6 @@ struct ReadFeatures {
 /// Reads the features that the condition admits, projected to `mapSystem` (empty: not projected), with what renderer
 /// and labels need of their attributes.
 SYSCARTO_EXPORT ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem,
-                                          Renderer const& renderer, LabelSettings const& labels);
+                                          Renderer const& renderer, LabelFields const& labels);
 
 }  // namespace SysCarto

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysCarto/layers/VertexPool.h"
+#include "host/SysCarto/projection/PartSink.h"
 #include "host/SysDisplay/WorldRun.h"
 
 #include <SysCarto/Export.h>
@@ -15,10 +16,6 @@ namespace SysCarto {
 class BoxTree;
 
 using SysGeometry::Box;
-
-/// A ring that is filled and stroked; one that is only filled, since some of its edges come from a cut; a run of its
-/// other edges, which is only stroked; a line; a point.
-enum class PartKind : unsigned char { Ring, FilledRing, Outline, Line, Point };
 
 struct Part {
   double const* xy;  ///< its vertices, owned by what it is a part of
@@ -40,17 +37,17 @@ struct Feature {
 
 /// The geometries of a layer in map units, flat, in the order of the source, and what drawing and labelling need of
 /// their attributes. Filled once, then only read.
-class SYSCARTO_EXPORT FeatureStore {
+class SYSCARTO_EXPORT FeatureStore final : public PartSink {
 public:
   FeatureStore();
-  ~FeatureStore();
+  ~FeatureStore() override;
   FeatureStore(FeatureStore const&) = delete;
   FeatureStore& operator=(FeatureStore const&) = delete;
 
   // Filling. A feature begins, gets its parts and ends; one without parts is dropped. Vertices are x, y pairs.
   void beginFeature();
-  void startPolygon() { polygonStarts_ = true; }
-  void addPart(PartKind kind, double const* xy, int count);
+  void startPolygon() override { polygonStarts_ = true; }
+  void addPart(PartKind kind, double const* xy, int count) override;
   void endFeature(int symbolClass, QString const& label, double priority);
 
   /// Takes over the features of another store that was filled and not finished.

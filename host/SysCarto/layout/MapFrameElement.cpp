@@ -1,6 +1,6 @@
 #include "MapPicture.h"
-#include "Placement.h"
 
+#include "host/SysCarto/elements/Placement.h"
 #include "host/SysDisplay/DrawTarget.h"
 
 #include <SysCarto/Map.h>

@@ -1,5 +1,5 @@
-#include "GraphicElements.h"
-#include "TextElement.h"
+#include "host/SysCarto/elements/GraphicElements.h"
+#include "host/SysCarto/elements/TextElement.h"
 
 #include <SysCarto/MapSurroundFrame.h>
 #include <SysDisplay/SimpleFillSymbol.h>

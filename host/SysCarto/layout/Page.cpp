@@ -1,4 +1,4 @@
-#include "Placement.h"
+#include "host/SysCarto/elements/Placement.h"
 
 #include <SysCarto/Page.h>
 #include <SysCarto/SymbolFrameParts.h>

@@ -1,5 +1,5 @@
-#include "ElementContainer.h"
-#include "Placement.h"
+#include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/elements/Placement.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurroundFrame.h>

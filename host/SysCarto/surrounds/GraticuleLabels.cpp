@@ -2,7 +2,7 @@
 
 #include "Pieces.h"
 
-#include "host/SysCarto/layout/TextElement.h"
+#include "host/SysCarto/elements/TextElement.h"
 #include "host/SysGeometry/QuietOgr.h"
 
 #include <ogr_geometry.h>

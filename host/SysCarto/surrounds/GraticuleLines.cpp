@@ -1,8 +1,8 @@
 #include "GraticuleLines.h"
 
-#include "host/SysCarto/document/CoordinateSystem.h"
-#include "host/SysCarto/layers/GeometryProjector.h"
-#include "host/SysCarto/layers/PointTransform.h"
+#include "host/SysCarto/projection/CoordinateSystem.h"
+#include "host/SysCarto/projection/GeometryProjector.h"
+#include "host/SysCarto/projection/PointTransform.h"
 
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
@@ -28,6 +28,23 @@ double inTurn(double longitude) { return std::remainder(longitude, 360.0); }
 
 // Meridians reach the line of a pole as slanted as the projection likes; what lies beyond is above or below it.
 QLineF upright(QLineF const& edge) { return {{edge.x2(), edge.y1()}, edge.p2()}; }
+
+// The parts of a projected line as points.
+class LineParts final : public PartSink {
+public:
+  explicit LineParts(QVector<QVector<QPointF>>& lines) : lines_(lines) {}
+
+  void startPolygon() override {}
+  void addPart(PartKind, double const* xy, int count) override {
+    if (count < 2) return;
+    QVector<QPointF> points(count);
+    for (int i = 0; i < count; ++i) points[i] = QPointF(xy[2 * i], xy[2 * i + 1]);
+    lines_ << points;
+  }
+
+private:
+  QVector<QVector<QPointF>>& lines_;
+};
 
 // The first and last multiple of a step in a range, in steps.
 double firstIn(double from, double step) { return std::ceil(from / step - 1e-9); }
@@ -200,19 +217,12 @@ GraticuleLine GraticuleLines::made(bool isMeridian, double step, double number, 
   OGRLineString line;
   line.addPoint(onGlobe.x1(), onGlobe.y1());
   line.addPoint(onGlobe.x2(), onGlobe.y2());
-  FeatureStore store;
-  store.beginFeature();
-  projector_->add(line, store);
-  store.endFeature(0, QString(), 0);
   GraticuleLine result{isMeridian, number * step, static_cast<int>(number), {}, {}};
+  LineParts parts(result.parts);
+  projector_->add(line, parts);
   QVector<QLineF> ends;
-  for (Part const& part : store.parts) {
-    if (part.count < 2) continue;
-    QVector<QPointF> points(part.count);
-    for (int i = 0; i < part.count; ++i) points[i] = QPointF(part.xy[2 * i], part.xy[2 * i + 1]);
+  for (QVector<QPointF> const& points : result.parts)
     ends << QLineF(points[1], points[0]) << QLineF(points[points.size() - 2], points.last());
-    result.parts << points;
-  }
   for (int i = 0; i < ends.size(); ++i)
     if (!goesOnFrom(ends, i)) result.ends << ends[i];
   return result;

@@ -1,7 +1,7 @@
 #include "Pieces.h"
 
-#include "host/SysCarto/layout/GraphicElements.h"
-#include "host/SysCarto/layout/TextElement.h"
+#include "host/SysCarto/elements/GraphicElements.h"
+#include "host/SysCarto/elements/TextElement.h"
 #include "host/SysDisplay/MarkerPainter.h"
 
 #include <QLocale>

@@ -1,6 +1,6 @@
 #include "LayerFixture.h"
 
-#include "host/SysCarto/layers/GdalErrors.h"
+#include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QDir>
 

@@ -3,8 +3,8 @@
 #include "Symbols.h"
 #include "Elements.h"
 
-#include "host/SysCarto/layout/ElementContainer.h"
-#include "host/SysCarto/layout/PictureElement.h"
+#include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/elements/PictureElement.h"
 
 #include <SysCarto/Page.h>
 

@@ -2,8 +2,8 @@
 #include "SurroundFixture.h"
 #include "Symbols.h"
 
-#include "host/SysCarto/document/CoordinateSystem.h"
-#include "host/SysCarto/layers/VectorLayer.h"
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 
 #include <geodesic.h>

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/SysCarto/elements/ElementContainer.h"
+
+#include <SysCarto/Editor.h>
+
+#include <QPointer>
+#include <QUndoStack>
+
+#include <vector>
+
+namespace SysCarto {
+
+/// A container that an operation changes, with its order as it was before the operation or will be again after an undo.
+struct ChangedContainer {
+  std::weak_ptr<ElementContainer*> container;
+  ElementContainer::Order order;
+};
+
+struct Editor::Private {
+  QPointer<QUndoStack> history;
+  bool isOpen = false;
+  QString name;
+  std::vector<ChangedContainer> changes;
+
+  /// A container says so before each change.
+  void changing(ElementContainer const& container);
+  void close();
+};
+
+}  // namespace SysCarto

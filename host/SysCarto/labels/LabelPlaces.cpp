@@ -1,0 +1,207 @@
+#include "host/SysCarto/labels/LabelPlacer.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <queue>
+
+namespace SysCarto {
+
+namespace {
+
+using Rings = QVector<QVector<QPointF>>;
+
+constexpr int mostCells = 4000;
+constexpr double finePt = 0.5;
+constexpr int rows = 15;
+constexpr int mostLines = 3;
+constexpr double straightness = 0.97;  // of a stretch: its chord over its length
+constexpr double mostBend = 0.2;       // and how far the line may leave it, in text heights
+constexpr int mostStarts = 60;
+
+template <class Visit>
+void visitEdges(Rings const& rings, Visit const& visit) {
+  for (QVector<QPointF> const& ring : rings)
+    for (int i = 0, j = ring.size() - 1; i < ring.size(); j = i++) visit(ring[j], ring[i]);
+}
+
+double squaredDistance(QPointF const& a, QPointF const& b, QPointF const& p) {
+  QPointF const along = b - a, to = p - a;
+  double const squared = QPointF::dotProduct(along, along);
+  double const t = squared > 0 ? std::clamp(QPointF::dotProduct(to, along) / squared, 0.0, 1.0) : 0;
+  QPointF const rest = to - along * t;
+  return QPointF::dotProduct(rest, rest);
+}
+
+// From the border, negative outside.
+double depthOf(Rings const& rings, QPointF const& point) {
+  double nearest = INFINITY;
+  visitEdges(rings,
+             [&](QPointF const& a, QPointF const& b) { nearest = std::min(nearest, squaredDistance(a, b, point)); });
+  return contains(rings, point) ? std::sqrt(nearest) : -std::sqrt(nearest);
+}
+
+struct Cell {
+  QPointF centre;
+  double half;
+  double depth;
+  int number;
+
+  double most() const { return depth + half * M_SQRT2; }
+  bool operator<(Cell const& other) const {
+    return most() != other.most() ? most() < other.most() : number > other.number;
+  }
+};
+
+Box boundsOf(Rings const& rings) {
+  Box box;
+  for (QVector<QPointF> const& ring : rings)
+    for (QPointF const& point : ring) box.add(point.x(), point.y());
+  return box;
+}
+
+// The place that is farthest from the border, found by dividing squares that may still hold a better one.
+Cell deepest(Rings const& rings, Box const& box) {
+  double const width = box.xmax - box.xmin, height = box.ymax - box.ymin, half = std::min(width, height) / 2;
+  std::priority_queue<Cell> cells;
+  int number = 0;
+  auto const cell = [&](QPointF const& centre, double h) { return Cell{centre, h, depthOf(rings, centre), number++}; };
+  Cell best = cell({box.xmin + width / 2, box.ymin + height / 2}, 0);
+  auto const add = [&](QPointF const& centre, double h) {
+    Cell const made = cell(centre, h);
+    if (made.depth > best.depth) best = made;
+    cells.push(made);
+  };
+  if (!(half > finePt / 4) || std::max(width, height) / half > mostCells / 4) return best;
+  for (double x = box.xmin + half; x < box.xmax + half; x += 2 * half)
+    for (double y = box.ymin + half; y < box.ymax + half; y += 2 * half) add({x, y}, half);
+  while (!cells.empty() && number < mostCells) {
+    Cell const top = cells.top();
+    cells.pop();
+    if (top.most() - best.depth <= std::max(finePt, 0.02 * best.depth)) break;
+    double const h = top.half / 2;
+    for (QPointF const& off : {QPointF(-h, -h), QPointF(h, -h), QPointF(-h, h), QPointF(h, h)})
+      add(top.centre + off, h);
+  }
+  return best;
+}
+
+bool boxIsInside(Rings const& rings, QPointF const& centre, double width, double height) {
+  Box const box{centre.x() - width / 2, centre.y() - height / 2, centre.x() + width / 2, centre.y() + height / 2};
+  bool crossed = false;
+  LabelShape const shape = LabelShape::upright(box);
+  visitEdges(rings, [&](QPointF const& a, QPointF const& b) {
+    if (crossed || std::max(a.x(), b.x()) < box.xmin || std::min(a.x(), b.x()) > box.xmax ||
+        std::max(a.y(), b.y()) < box.ymin || std::min(a.y(), b.y()) > box.ymax)
+      return;
+    crossed = intersects(shape, LabelShape::area({QVector<QPointF>{a, b}}));
+  });
+  return !crossed && contains(rings, centre);
+}
+
+// Where a row meets the area, as pairs of crossings.
+std::vector<double> crossings(Rings const& rings, double y) {
+  std::vector<double> xs;
+  visitEdges(rings, [&](QPointF const& a, QPointF const& b) {
+    if ((a.y() > y) != (b.y() > y)) xs.push_back(a.x() + (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y()));
+  });
+  std::sort(xs.begin(), xs.end());
+  return xs;
+}
+
+// Places in rows across the area, each as near to `wanted` as the row allows.
+std::vector<QPointF> placesInRows(Rings const& rings, Box const& box, QPointF const& wanted, double width,
+                                  double height) {
+  std::vector<QPointF> places;
+  double const room = box.ymax - box.ymin - height;
+  for (int row = 0; row < rows; ++row) {
+    double const y = box.ymin + height / 2 + room * row / (rows - 1);
+    std::vector<double> const xs = crossings(rings, y);
+    for (size_t i = 0; i + 1 < xs.size(); i += 2) {
+      double const slack = xs[i + 1] - xs[i] - width;
+      if (slack < 0) continue;
+      double const low = xs[i] + width / 2 + slack / 4, high = xs[i + 1] - width / 2 - slack / 4;
+      places.emplace_back(std::clamp(wanted.x(), low, high), y);
+    }
+  }
+  return places;
+}
+
+}  // namespace
+
+std::vector<QPointF> placesInside(Rings const& rings, double width, double height) {
+  std::vector<QPointF> places;
+  Box const box = boundsOf(rings);
+  if (box.isEmpty() || box.xmax - box.xmin < width || box.ymax - box.ymin < height) return places;
+  QPointF const best = deepest(rings, box).centre;
+  places = placesInRows(rings, box, best, width, height);
+  std::stable_sort(places.begin(), places.end(), [&](QPointF const& a, QPointF const& b) {
+    QPointF const p = a - best, q = b - best;
+    return QPointF::dotProduct(p, p) < QPointF::dotProduct(q, q);
+  });
+  places.insert(places.begin(), best);
+  places.erase(std::remove_if(places.begin(), places.end(),
+                              [&](QPointF const& place) { return !boxIsInside(rings, place, width, height); }),
+               places.end());
+  return places;
+}
+
+QStringList wrapped(QString const& text) {
+  QStringList const words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+  QStringList result{text};
+  for (int lines = 2; lines <= mostLines && lines <= words.size(); ++lines) {
+    // The smallest width, in letters, at which the words go into that many lines.
+    for (int width = text.size() / lines; width <= text.size(); ++width) {
+      QStringList broken{words[0]};
+      for (int i = 1; i < words.size(); ++i) {
+        if (broken.last().size() + 1 + words[i].size() <= width)
+          broken.last() += QLatin1Char(' ') + words[i];
+        else
+          broken << words[i];
+      }
+      if (broken.size() > lines) continue;
+      QString const joined = broken.join(QLatin1Char('\n'));
+      if (!result.contains(joined)) result << joined;
+      break;
+    }
+  }
+  return result;
+}
+
+std::vector<Stretch> straightStretches(std::vector<QPointF> const& line, double width, double height) {
+  std::vector<double> at(line.size(), 0);
+  for (size_t i = 1; i < line.size(); ++i)
+    at[i] = at[i - 1] + std::hypot(line[i].x() - line[i - 1].x(), line[i].y() - line[i - 1].y());
+  std::vector<std::pair<double, Stretch>> found;
+  double const room = at.empty() ? -1 : at.back() - width;
+  if (room < 0) return {};
+  auto const place = [&](double along) {
+    size_t const next =
+        std::clamp<size_t>(std::lower_bound(at.begin(), at.end(), along) - at.begin(), 1, at.size() - 1);
+    double const length = at[next] - at[next - 1];
+    double const t = length > 0 ? (along - at[next - 1]) / length : 0;
+    return line[next - 1] + (line[next] - line[next - 1]) * t;
+  };
+  int const starts = std::clamp(static_cast<int>(room / height), 1, mostStarts);
+  for (int i = 0; i <= starts; ++i) {
+    double const from = room * i / starts;
+    QPointF const a = place(from), b = place(from + width);
+    if (std::hypot(b.x() - a.x(), b.y() - a.y()) < straightness * width) continue;
+    double bend = 0;
+    for (size_t k = std::upper_bound(at.begin(), at.end(), from) - at.begin(); k < at.size() && at[k] < from + width;
+         ++k)
+      bend = std::max(bend, std::sqrt(squaredDistance(a, b, line[k])));
+    if (bend > mostBend * height) continue;
+    double angle = std::atan2(b.y() - a.y(), b.x() - a.x()) * 180 / M_PI;
+    if (angle > 90) angle -= 180;
+    if (angle <= -90) angle += 180;
+    found.push_back({std::abs(from - room / 2), {(a + b) / 2, angle, bend}});
+  }
+  std::stable_sort(found.begin(), found.end(), [](auto const& a, auto const& b) { return a.first < b.first; });
+  std::vector<Stretch> stretches;
+  for (auto const& one : found) stretches.push_back(one.second);
+  return stretches;
+}
+
+}  // namespace SysCarto

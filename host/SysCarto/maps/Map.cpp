@@ -1,0 +1,118 @@
+#include <SysCarto/Map.h>
+
+#include "MapLimits.h"
+
+#include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/projection/GroundScale.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace SysCarto {
+
+using SysDisplay::DisplayTransformation;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::retain;
+
+namespace {
+
+constexpr double micrometresPerCm = 10000.0;
+constexpr double metresPerMicrometre = 1e-6;
+constexpr double largestFrameUm = 2e9;
+constexpr double scaleStep = 1e-4;  // of the extent's width
+
+bool isShowable(Envelope const& bounds) {
+  double const sides[] = {bounds.GetXMin(), bounds.GetYMin(), bounds.GetXMax(), bounds.GetYMax()};
+  bool const isNear = std::all_of(std::begin(sides), std::end(sides),
+                                  [](double side) { return std::abs(side) <= farthestMapCoordinate; });
+  return isNear && bounds.GetWidth() >= smallestMapExtent && bounds.GetHeight() >= smallestMapExtent;
+}
+
+int micrometres(double cm) {
+  return static_cast<int>(std::clamp(std::round(cm * micrometresPerCm), 1.0, largestFrameUm));
+}
+
+}  // namespace
+
+struct Map::Private {
+  QString name = QCoreApplication::translate("Map", "New map");
+  QString coordinateSystem;
+  std::unique_ptr<GroundScale> ground = std::make_unique<GroundScale>(QString());
+  QList<_ptr_t<Layer>> layers;
+  Envelope bounds{0, 0, 2000, 1500};
+  QRect frame{0, 0, 200000, 150000};
+  _ptr_t<DisplayTransformation> transformation = make<DisplayTransformation>();
+  ElementContainer graphics;
+
+  void fit();
+};
+
+// Centres the bounds and gives them the aspect of the frame. The transformation could fit them itself, but it would
+// leave them in the upper left corner.
+void Map::Private::fit() {
+  double const scale = std::max(bounds.GetWidth() / frame.width(), bounds.GetHeight() / frame.height());
+  double const halfWidth = frame.width() * scale / 2, halfHeight = frame.height() * scale / 2;
+  double const x = bounds.GetXMin() + bounds.GetWidth() / 2, y = bounds.GetYMin() + bounds.GetHeight() / 2;
+  transformation->SetDeviceFrame(frame);
+  transformation->SetVisibleBounds(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
+  double const groundMetres = scale * ground->metresPerUnit(x, y, 2 * halfWidth * scaleStep);
+  transformation->SetMapScale(groundMetres / metresPerMicrometre);
+}
+
+Map::Map() : d(std::make_unique<Private>()) { d->fit(); }
+Map::~Map() = default;
+
+_ptr_t<DisplayTransformation> Map::GetDisplayTransformation() const { return d->transformation; }
+
+QString const& Map::GetName() const { return d->name; }
+void Map::SetName(QString const& name) { d->name = name; }
+
+int Map::GetLayerCount() const { return d->layers.size(); }
+_ptr_t<Layer> Map::GetLayer(int index) const { return d->layers.value(index); }
+QList<_ptr_t<Layer>> const& Map::GetLayers() const { return d->layers; }
+void Map::AddLayer(_ptr_t<Layer> const& layer) {
+  if (layer) d->layers << layer;
+}
+
+_ptr_t<Envelope> Map::GetExtent() const { return d->transformation->GetVisibleBounds(); }
+_ptr_t<Map> Map::GetFocusMap() const { return retain(const_cast<Map*>(this)); }
+IElementContainer* Map::GetGraphicsContainer() const { return &d->graphics; }
+
+QString Map::GetCoordinateSystem() const { return d->coordinateSystem; }
+
+void Map::SetCoordinateSystem(QString const& definition) {
+  QString const trimmed = definition.trimmed();
+  if (trimmed == d->coordinateSystem) return;
+  d->coordinateSystem = trimmed;
+  d->ground = std::make_unique<GroundScale>(trimmed);
+  d->fit();
+}
+
+double Map::GetNorthAngle() const {
+  auto const centre = GetExtent()->GetAnchorPoint();
+  return d->ground->northAngle(centre->GetX(), centre->GetY());
+}
+
+Envelope Map::GetStoredBounds() const { return d->bounds; }
+
+void Map::setFrameSize(double widthCm, double heightCm) {
+  if (!(std::isfinite(widthCm) && std::isfinite(heightCm) && widthCm > 0 && heightCm > 0)) return;
+  QRect const frame(0, 0, micrometres(widthCm), micrometres(heightCm));
+  if (frame == d->frame) return;
+  d->frame = frame;
+  d->fit();
+}
+
+void Map::applyExtent(Envelope const& extent) {
+  auto const bounds = extent.GetEnvelope();
+  if (!isShowable(*bounds)) return;
+  d->bounds = *bounds;
+  d->fit();
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "host/SysCarto/labels/LabelSettings.h"
+#include "host/SysCarto/layers/FeatureReader.h"
+#include "host/SysCarto/layers/FeatureStore.h"
+#include "host/SysCarto/layers/Renderer.h"
+
+#include <SysCarto/FeatureLayer.h>
+
+#include <memory>
+
+namespace SysCarto {
+
+class ThinnedFeatures;
+
+/// Features of a file, held in memory in the map's coordinate system. A layer whose source can't be read is empty.
+class SYSCARTO_EXPORT VectorLayer final : public FeatureLayer {
+public:
+  /// Empty, and drawn with `renderer` once it is opened; it must not be null.
+  explicit VectorLayer(std::unique_ptr<Renderer> renderer);
+  ~VectorLayer() override;
+
+  /// Reads the source anew. A sentence that says why it could not be read, or empty; what else is to be said of it is
+  /// added to `warnings`. `mapSystem` as in `Map::GetCoordinateSystem`.
+  QString open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings);
+
+  SourceSettings const& source() const { return source_; }
+
+  /// Why the source could not be read, as `open` answered it.
+  QString const& problem() const { return problem_; }
+
+  /// Writes the renderer (`describeRenderer`); a layer's renderer is not changed once it is made.
+  void storeRenderer(SysUtility::Archive& archive, char const* key);
+  Renderer const& renderer() const { return *renderer_; }
+  FeatureStore const& features() const { return *store_; }
+
+  /// Takes effect when the layer is opened: the texts are read with the features.
+  void setLabelSettings(LabelSettings const& settings) { labels_ = settings; }
+  LabelSettings& labelSettings() { return labels_; }
+
+  void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation, int phase,
+            SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) override;
+  QList<LegendClass> legendClasses() const override;
+  bool IsAnnotationVisible() const override;
+  SysUtility::_ptr_t<AnnotationProperties> GetAnnotationProperties() const override;
+  void GetAnnotationElements(QMap<int, QList<SysUtility::_ptr_t<SysGeometry::Polygon>>>& obstacles,
+                             QList<SysUtility::_ptr_t<Element>>& labels,
+                             SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+                             SysUtility::_ptr_t<SysUI::TrackerCancel> cancel) override;
+
+private:
+  SourceSettings source_;
+  QString problem_;
+  std::unique_ptr<Renderer> renderer_;
+  LabelSettings labels_;
+  SysUtility::_ptr_t<AnnotationProperties> properties_;
+  std::unique_ptr<FeatureStore> store_;
+  std::unique_ptr<ThinnedFeatures> thinned_;
+};
+
+}  // namespace SysCarto

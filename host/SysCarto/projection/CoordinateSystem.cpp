@@ -1,0 +1,83 @@
+#include "CoordinateSystem.h"
+
+#include "host/SysCarto/projection/Offline.h"
+#include "host/SysGeometry/QuietOgr.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+#include <ogr_spatialref.h>
+
+namespace SysCarto {
+
+namespace {
+
+constexpr int mostCharacters = 16384;
+
+QString translated(char const* text) { return QCoreApplication::translate("CoordinateSystem", text); }
+
+bool matches(QString const& text, char const* pattern) {
+  return QRegularExpression(QString::fromLatin1(pattern), QRegularExpression::CaseInsensitiveOption)
+      .match(text)
+      .hasMatch();
+}
+
+// The three notations. Others that GDAL knows (addresses, file names, dictionaries) stay out.
+bool isKnownNotation(QString const& text) {
+  return matches(text, R"(^(EPSG|ESRI|IGNF|OGC|IAU_20[0-9]{2}):[A-Z0-9._]+$)") ||
+         matches(text, R"(^[A-Z_]*(CS|CRS)\s*\[)") || matches(text, R"(^\+?proj\s*=)");
+}
+
+// Grids and parameter files are opened by their name wherever it points. A name of "@null" means that there is none.
+bool namesFile(QString const& text) {
+  return matches(text, R"(grids\s*=\s*+(?!@null(\s|\+|$)))") || matches(text, R"(\b(init|file)\s*=)") ||
+         matches(text, "PARAMETERFILE");
+}
+
+std::unique_ptr<OGRSpatialReference> parse(QString const& text) {
+  stayOffline();
+  SysGeometry::QuietOgr const quiet;
+  auto system = std::make_unique<OGRSpatialReference>();
+  OGRErr const result =
+      system->SetFromUserInput(text.toUtf8().constData(), OGRSpatialReference::SET_FROM_USER_INPUT_LIMITATIONS_get());
+  if (result != OGRERR_NONE) return nullptr;
+  system->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+  return system;
+}
+
+using SystemPtr = std::unique_ptr<OGRSpatialReference>;
+
+// Reads a definition into `system`; answers why it can't be one, with an empty pointer then.
+QString read(QString const& definition, SystemPtr& system) {
+  QString const text = definition.trimmed();
+  if (text.isEmpty()) return QString();
+  if (text.size() > mostCharacters) return translated("is longer than a coordinate system can be");
+  if (!isKnownNotation(text))
+    return translated("“%1” is no coordinate system; give a code such as EPSG:8857, WKT or a PROJ text")
+        .arg(text.left(64).simplified());
+  if (namesFile(text))
+    return translated("names a file, and a document's coordinate system may not; leave out the grid or the file");
+  SystemPtr parsed = parse(text);
+  if (!parsed)
+    return translated("“%1” is not a coordinate system that PROJ knows; give a code such as EPSG:8857")
+        .arg(text.left(64).simplified());
+  if (!parsed->IsGeographic() && !parsed->IsProjected())
+    return translated("is neither geographic nor projected; leave it empty for plain coordinates");
+  system = std::move(parsed);
+  return QString();
+}
+
+}  // namespace
+
+QString checkCoordinateSystem(QString const& definition) {
+  SystemPtr system;
+  return read(definition, system);
+}
+
+std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definition) {
+  SystemPtr system;
+  read(definition, system);
+  return system;
+}
+
+}  // namespace SysCarto

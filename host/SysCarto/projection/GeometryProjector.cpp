@@ -1,0 +1,366 @@
+#include "GeometryProjector.h"
+
+#include "host/SysCarto/projection/CurveDivider.h"
+
+#include <ogr_geometry.h>
+#include <ogr_spatialref.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace SysCarto {
+
+namespace {
+
+constexpr double earthRadiusM = 6378137;
+constexpr double toleranceM = 10;
+constexpr double toleranceDegrees = 1e-4;
+constexpr double longestDegrees = 5;      // longer edges are divided, whatever a look at their middle says
+constexpr double shortestDegrees = 0.05;  // a curve this short strays from its chord by about a metre
+constexpr double longestSourceM = 200000;
+constexpr double seamDegrees = 1e-4;      // how near to the antimeridian data are cut
+constexpr double nearAntimeridian = 150;  // where both ends of an edge that steps across it lie
+constexpr double noArea = 1e-7;           // square degrees
+constexpr double poleDegrees = 0.01;      // and how near to a pole their lower edge may end
+constexpr double inwards = 1e-9;          // at ±180 itself a projection may take either side
+constexpr double farthestRadii = 6;       // what is projected beyond this is as good as infinite
+constexpr int deepestCollection = 32;
+
+double metresPerUnit(OGRSpatialReference const& system) {
+  double const unit = system.IsProjected() ? system.GetLinearUnits() : 1;
+  return unit > 0 ? unit : 1;
+}
+
+std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system) {
+  std::unique_ptr<OGRSpatialReference> globe(system.CloneGeogCS());
+  if (globe) globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+  return globe;
+}
+
+bool isOnGlobe(OGRSpatialReference const& system) { return system.IsGeographic() || system.IsProjected(); }
+
+bool isSame(OGRSpatialReference const& a, OGRSpatialReference const& b) {
+  char const* const options[] = {"IGNORE_DATA_AXIS_TO_SRS_AXIS_MAPPING=YES", "CRITERION=EQUIVALENT", nullptr};
+  return a.IsSame(&b, options);
+}
+
+std::vector<double> coordinatesOf(OGRSimpleCurve const& curve) {
+  std::vector<double> xy;
+  xy.reserve(2 * static_cast<size_t>(curve.getNumPoints()));
+  for (int i = 0; i < curve.getNumPoints(); ++i) {
+    double const x = curve.getX(i), y = curve.getY(i);
+    if (std::isfinite(x) && std::isfinite(y)) xy.insert(xy.end(), {x, y});
+  }
+  return xy;
+}
+
+void openRing(std::vector<double>& xy) {
+  while (xy.size() > 2 && xy[0] == xy[xy.size() - 2] && xy[1] == xy[xy.size() - 1]) xy.resize(xy.size() - 2);
+}
+
+// The same places with every step in longitude the short way round.
+void unwrap(Run& run) {
+  for (size_t i = 1; i < run.size(); ++i) run[i].x = run[i - 1].x + std::remainder(run[i].x - run[i - 1].x, 360.0);
+}
+
+// A ring that goes around the globe has a pole inside: it is closed along the meridian and over the pole.
+void closeOverPole(Run& ring) {
+  if (ring.size() < 3) return;
+  double const gap = ring.front().x - ring.back().x;
+  double const turn = std::round((gap - std::remainder(gap, 360.0)) / 360);
+  if (turn == 0) return;
+  double middle = 0;
+  for (Vertex const& v : ring) middle += v.y;
+  double const pole = middle > 0 ? 90 : -90;
+  Vertex const first = ring.front();
+  ring.push_back({first.x - 360 * turn, first.y, seamEdge});
+  ring.push_back({first.x - 360 * turn, pole, seamEdge});
+  ring.push_back({first.x, pole, seamEdge});
+}
+
+// Geographic data that were not cut at the antimeridian have edges that step across it. Read as straight lines these
+// would run around the whole map.
+bool stepsAcross(Vertex const& a, Vertex const& b, double centralLongitude) {
+  double const ax = a.x + centralLongitude, bx = b.x + centralLongitude;
+  return std::abs(ax - bx) > 180 && ax * bx < 0 && std::min(std::abs(ax), std::abs(bx)) > nearAntimeridian;
+}
+
+// Whether an edge lies on that meridian.
+bool runsAlong(double meridian, Vertex const& a, Vertex const& b, double centralLongitude) {
+  return a.x == b.x && a.y != b.y && std::abs(a.x + centralLongitude - meridian) < seamDegrees;
+}
+
+// Steps count where they can't be meant as they are written: a box may be as wide as it likes, a band around the globe
+// has an edge on both sides of the antimeridian, or is nothing without its long edges.
+void joinRing(Run& ring, double centralLongitude) {
+  bool across = false, isBox = true, runsWest = false, runsEast = false;
+  for (size_t i = 0; i < ring.size(); ++i) {
+    Vertex const &a = ring[i], &b = ring[(i + 1) % ring.size()];
+    runsWest = runsWest || runsAlong(-180, a, b, centralLongitude);
+    runsEast = runsEast || runsAlong(180, a, b, centralLongitude);
+    across = across || stepsAcross(a, b, centralLongitude);
+    isBox = isBox && (a.x == b.x || a.y == b.y);
+  }
+  if (!across || isBox || (runsWest && runsEast)) return;
+  Run joined = ring;
+  unwrap(joined);
+  closeOverPole(joined);
+  double twiceArea = 0;
+  for (size_t i = 0, j = joined.size() - 1; i < joined.size(); j = i++)
+    twiceArea += (joined[j].x - joined[i].x) * (joined[j].y + joined[i].y - 2 * joined[0].y);
+  if (std::abs(twiceArea) > noArea) ring = std::move(joined);
+}
+
+// A step along a parallel is meant as it is written.
+void joinLine(Run& line, double centralLongitude) {
+  for (size_t i = 1; i < line.size(); ++i)
+    if (line[i - 1].y != line[i].y && stepsAcross(line[i - 1], line[i], centralLongitude)) return unwrap(line);
+}
+
+bool anyEdge(std::vector<unsigned char> const& edges, unsigned char flag) {
+  return std::any_of(edges.begin(), edges.end(), [=](unsigned char edge) { return edge & flag; });
+}
+
+}  // namespace
+
+PartSink::~PartSink() = default;
+
+std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference const* source,
+                                                             OGRSpatialReference const* target, QString& error) {
+  auto projector = std::make_unique<GeometryProjector>();
+  bool const hasGlobe = source && target && isOnGlobe(*target);
+  if (!hasGlobe || (!target->IsGeographic() && isSame(*source, *target))) return projector;
+
+  auto const globe = globeOf(*target);
+  if (!globe) return projector;
+  projector->sourceIsGeographic_ = source->IsGeographic();
+  if (!isSame(*source, *globe)) projector->toGlobe_ = PointTransform::create(*source, *globe, error);
+  if (!error.isEmpty()) return nullptr;
+  projector->toMap_ = PointTransform::create(*globe, *target, error);
+  if (!projector->toMap_) return nullptr;
+
+  double const unit = metresPerUnit(*target), farthest = farthestRadii * earthRadiusM / unit;
+  PointTransform const& toMap = *projector->toMap_;
+  projector->domain_ = makeDomain(*target, [&](double x, double y) {
+    return toMap.apply(x, y) && std::abs(x) < farthest && std::abs(y) < farthest;
+  });
+  projector->mapTolerance_ = target->IsGeographic() ? toleranceDegrees : toleranceM / unit;
+  projector->longestSource_ = longestSourceM / metresPerUnit(*source);
+  return projector;
+}
+
+std::unique_ptr<GeometryProjector> GeometryProjector::clone() const {
+  auto copy = std::make_unique<GeometryProjector>();
+  if (toGlobe_) copy->toGlobe_ = toGlobe_->clone();
+  if (toMap_) copy->toMap_ = toMap_->clone();
+  copy->sourceIsGeographic_ = sourceIsGeographic_;
+  copy->domain_ = domain_;
+  copy->mapTolerance_ = mapTolerance_;
+  copy->longestSource_ = longestSource_;
+  return copy;
+}
+
+void GeometryProjector::add(OGRGeometry const& geometry, PartSink& sink) const {
+  if (!geometry.hasCurveGeometry()) return addLinear(geometry, sink, 0);
+  std::unique_ptr<OGRGeometry> const linear(geometry.getLinearGeometry());
+  if (linear) addLinear(*linear, sink, 0);
+}
+
+void GeometryProjector::addLinear(OGRGeometry const& geometry, PartSink& sink, int depth) const {
+  if (geometry.IsEmpty() || depth > deepestCollection) return;
+  switch (wkbFlatten(geometry.getGeometryType())) {
+    case wkbPoint: return addPoint(geometry.toPoint()->getX(), geometry.toPoint()->getY(), sink);
+    case wkbLineString: return addLine(*geometry.toLineString(), sink);
+    case wkbPolygon:
+    case wkbTriangle: return addPolygon(*geometry.toPolygon(), sink);
+    case wkbPolyhedralSurface:
+    case wkbTIN:
+      for (auto const* face : *geometry.toPolyhedralSurface()) addLinear(*face, sink, depth + 1);
+      return;
+    case wkbMultiPoint:
+    case wkbMultiLineString:
+    case wkbMultiPolygon:
+    case wkbGeometryCollection:
+      for (auto const* member : *geometry.toGeometryCollection()) addLinear(*member, sink, depth + 1);
+      return;
+    default: return;
+  }
+}
+
+void GeometryProjector::addPoint(double x, double y, PartSink& sink) const {
+  if (!std::isfinite(x) || !std::isfinite(y)) return;
+  if (toMap_) {
+    if (toGlobe_ && !toGlobe_->apply(x, y)) return;
+    Vertex point{x - domain_.centralLongitude, y, 0};
+    if (!domain_.border->admit(point)) return;
+    x = point.x + domain_.centralLongitude;
+    y = point.y;
+    if (!toMap_->apply(x, y)) return;
+  }
+  double const xy[] = {x, y};
+  sink.addPart(PartKind::Point, xy, 1);
+}
+
+void GeometryProjector::addLine(OGRLineString const& line, PartSink& sink) const {
+  std::vector<double> xy = coordinatesOf(line);
+  if (xy.size() < 4) return;
+  if (!toMap_) return sink.addPart(PartKind::Line, xy.data(), static_cast<int>(xy.size() / 2));
+  std::vector<Run> pieces;
+  domain_.border->clipLine(toGlobe(std::move(xy), false), pieces);
+  for (Run const& piece : pieces) storeLine(piece, sink);
+}
+
+void GeometryProjector::addPolygon(OGRPolygon const& polygon, PartSink& sink) const {
+  std::vector<Run> rings;
+  sink.startPolygon();
+  for (auto const* ring : polygon) {
+    std::vector<double> xy = coordinatesOf(*ring);
+    openRing(xy);
+    if (xy.size() < 6) continue;
+    if (toMap_)
+      rings.push_back(toGlobe(std::move(xy), true));
+    else
+      sink.addPart(PartKind::Ring, xy.data(), static_cast<int>(xy.size() / 2));
+  }
+  rings.erase(std::remove_if(rings.begin(), rings.end(), [](Run const& ring) { return ring.size() < 3; }), rings.end());
+  if (rings.empty()) return;
+  std::vector<std::vector<Run>> polygons;
+  domain_.border->clipPolygon(rings, polygons);
+  for (std::vector<Run> const& piece : polygons) storePolygon(piece, sink);
+}
+
+// Longitude from the middle of the map, and latitude. The edges of a geographic source are straight in these, those of
+// a projected one become so by added vertices.
+Run GeometryProjector::toGlobe(std::vector<double> xy, bool closed) const {
+  Run run;
+  run.reserve(xy.size() / 2);
+  auto const add = [&](double x, double y) {
+    run.push_back({x - domain_.centralLongitude, std::clamp(y, -90.0, 90.0), 0});
+  };
+  std::vector<double> const source = toGlobe_ ? xy : std::vector<double>();
+  if (toGlobe_) toGlobe_->apply(xy);
+  size_t const count = xy.size() / 2;
+  if (toGlobe_ && sourceIsGeographic_)  // another datum must not move a place to the other side of the antimeridian
+    for (size_t i = 0; i < count; ++i) xy[2 * i] = source[2 * i] + std::remainder(xy[2 * i] - source[2 * i], 360.0);
+  double start = 0;  // of the edge: its other places are as near to it in longitude as they can be
+  auto const project = [&](double& x, double& y) {
+    if (!toGlobe_->apply(x, y)) return false;
+    x = start + std::remainder(x - start, 360.0);
+    return true;
+  };
+  CurveDivider<decltype(project)> const divider(project, toleranceDegrees, longestSource_, longestSource_ / 100);
+  for (size_t i = 0; i < count; ++i) {
+    if (!std::isfinite(xy[2 * i])) continue;
+    add(xy[2 * i], xy[2 * i + 1]);
+    size_t const n = (i + 1) % count;
+    if (!toGlobe_ || sourceIsGeographic_ || (n == 0 && !closed) || !std::isfinite(xy[2 * n])) continue;
+    start = xy[2 * i];
+    double const end = start + std::remainder(xy[2 * n] - start, 360.0);
+    divider.divide({source[2 * i], source[2 * i + 1], start, xy[2 * i + 1]},
+                   {source[2 * n], source[2 * n + 1], end, xy[2 * n + 1]}, add);
+  }
+  if (sourceIsGeographic_) {
+    closed ? joinRing(run, domain_.centralLongitude) : joinLine(run, domain_.centralLongitude);
+  } else {
+    unwrap(run);
+    if (closed) closeOverPole(run);
+  }
+  if (closed) markSeams(run);
+  return run;
+}
+
+// Edges on the antimeridian of geographic data, and along their pole, come from a cut that was made before.
+void GeometryProjector::markSeams(Run& ring) const {
+  for (size_t i = 0; i < ring.size(); ++i) {
+    Vertex& a = ring[i];
+    Vertex const& b = ring[(i + 1) % ring.size()];
+    double const ax = a.x + domain_.centralLongitude, bx = b.x + domain_.centralLongitude;
+    bool const onCut =
+        std::abs(std::abs(std::remainder(ax, 360.0)) - 180) < seamDegrees && std::abs(ax - bx) < 2 * seamDegrees;
+    bool const onPole = std::min(std::abs(a.y), std::abs(b.y)) > 90 - poleDegrees && a.y * b.y > 0;
+    if ((sourceIsGeographic_ && onCut) || onPole) a.edge |= seamEdge;
+  }
+}
+
+// The projected vertices, and for each what is known of the edge that leads on from it. A closed run's last edge leads
+// to the first vertex. What can't be projected is left out.
+std::vector<double> GeometryProjector::toMap(Run const& run, bool closed, std::vector<unsigned char>& edges) const {
+  double const widest = domain_.isStrip ? 180 - inwards : INFINITY;
+  auto const longitude = [&](double x) { return std::clamp(x, -widest, widest) + domain_.centralLongitude; };
+  auto const project = [&](double& x, double& y) {
+    x = longitude(x);
+    return toMap_->apply(x, y);
+  };
+  CurveDivider<decltype(project)> const divider(project, mapTolerance_, longestDegrees, shortestDegrees);
+  size_t const count = run.size();
+  auto const leadsToCurve = [&](size_t i) {
+    size_t const n = (i + 1) % count;
+    return (n != 0 || closed) && !(run[i].edge & arcEdge) && divider.mayBend(run[i], run[n]);
+  };
+  // One after the other they would take PROJ much longer: the vertices, then the middles of edges in their order.
+  std::vector<double> projected, result;
+  projected.reserve(3 * count);
+  auto const put = [&](double x, double y) { projected.insert(projected.end(), {longitude(x), y}); };
+  for (Vertex const& v : run) put(v.x, v.y);
+  for (size_t i = 0; i < count; ++i) {
+    Vertex const &a = run[i], &b = run[(i + 1) % count];
+    if (leadsToCurve(i)) put((a.x + b.x) / 2, (a.y + b.y) / 2);
+  }
+  toMap_->apply(projected);
+
+  auto const end = [&](Vertex const& v, size_t i) {
+    return CurveEnd{v.x, v.y, projected[2 * i], projected[2 * i + 1]};
+  };
+  size_t nextMiddle = count;
+  for (size_t i = 0; i < count; ++i) {
+    size_t const n = (i + 1) % count;
+    size_t const middle = leadsToCurve(i) ? nextMiddle++ : 0;
+    if (!std::isfinite(projected[2 * i])) continue;
+    auto const add = [&](double x, double y) {
+      result.insert(result.end(), {x, y});
+      edges.push_back(run[i].edge);
+    };
+    add(projected[2 * i], projected[2 * i + 1]);
+    if (middle == 0 || !std::isfinite(projected[2 * n]) || !std::isfinite(projected[2 * middle])) continue;
+    Vertex const between{(run[i].x + run[n].x) / 2, (run[i].y + run[n].y) / 2, 0};
+    divider.divideAt(end(between, middle), end(run[i], i), end(run[n], n), add);
+  }
+  return result;
+}
+
+void GeometryProjector::storePolygon(std::vector<Run> const& rings, PartSink& sink) const {
+  sink.startPolygon();
+  for (Run const& ring : rings) storeRing(ring, sink);
+}
+
+void GeometryProjector::storeRing(Run const& ring, PartSink& sink) const {
+  std::vector<unsigned char> edges;
+  std::vector<double> const xy = toMap(ring, true, edges);
+  int const count = static_cast<int>(edges.size());
+  if (count < 3) return;
+  bool const cut = anyEdge(edges, seamEdge);
+  sink.addPart(cut ? PartKind::FilledRing : PartKind::Ring, xy.data(), count);
+  if (!cut) return;
+
+  // From one seam to the next there is a run of edges to be stroked.
+  int const start = static_cast<int>(
+      std::find_if(edges.begin(), edges.end(), [](unsigned char edge) { return edge & seamEdge; }) - edges.begin());
+  std::vector<double> outline;
+  auto const end = [&] {
+    if (outline.size() > 2) sink.addPart(PartKind::Outline, outline.data(), static_cast<int>(outline.size() / 2));
+    outline.clear();
+  };
+  for (int n = 1; n <= count; ++n) {
+    int const i = (start + n) % count;
+    outline.insert(outline.end(), {xy[2 * i], xy[2 * i + 1]});
+    if (edges[i] & seamEdge) end();
+  }
+}
+
+void GeometryProjector::storeLine(Run const& line, PartSink& sink) const {
+  std::vector<unsigned char> edges;
+  std::vector<double> const xy = toMap(line, false, edges);
+  if (edges.size() > 1) sink.addPart(PartKind::Line, xy.data(), static_cast<int>(edges.size()));
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "host/SysCarto/projection/PartSink.h"
+#include "host/SysCarto/projection/PointTransform.h"
+#include "host/SysCarto/projection/ProjectionDomain.h"
+
+#include <optional>
+
+class OGRGeometry;
+class OGRLineString;
+class OGRPolygon;
+
+namespace SysCarto {
+
+/// Takes geometries of a data source into a map's coordinate system: cut where the map is cut, with vertices added
+/// where a straight edge becomes a curve. Collections are flattened, curves made of segments; empty parts, and vertices
+/// that are no numbers, are left out.
+class GeometryProjector {
+public:
+  /// Without a projection, coordinates are taken as they are.
+  GeometryProjector() = default;
+
+  /// Null for a system that isn't known: coordinates are then taken as the map's. An empty pointer where there is no
+  /// way between the two; `error` then says why, as a clause.
+  static std::unique_ptr<GeometryProjector> create(OGRSpatialReference const* source, OGRSpatialReference const* target,
+                                                   QString& error);
+
+  /// The same for another thread.
+  std::unique_ptr<GeometryProjector> clone() const;
+
+  /// Hands the parts of a geometry to the sink.
+  void add(OGRGeometry const& geometry, PartSink& sink) const;
+
+private:
+  void addLinear(OGRGeometry const& geometry, PartSink& sink, int depth) const;
+  void addPoint(double x, double y, PartSink& sink) const;
+  void addLine(OGRLineString const& line, PartSink& sink) const;
+  void addPolygon(OGRPolygon const& polygon, PartSink& sink) const;
+
+  Run toGlobe(std::vector<double> xy, bool closed) const;
+  void markSeams(Run& ring) const;
+  std::vector<double> toMap(Run const& run, bool closed, std::vector<unsigned char>& edges) const;
+  void storePolygon(std::vector<Run> const& rings, PartSink& sink) const;
+  void storeRing(Run const& ring, PartSink& sink) const;
+  void storeLine(Run const& line, PartSink& sink) const;
+
+  std::unique_ptr<PointTransform>
+      toGlobe_;  // from a projected source, or another datum; null where there is nothing to do
+  std::unique_ptr<PointTransform> toMap_;  // from longitude and latitude; null without a projection
+  bool sourceIsGeographic_ = true;
+  Domain domain_{0, true, nullptr};
+  double mapTolerance_ = 0;   // how far a curve may lie from its edges, in map units
+  double longestSource_ = 0;  // an edge of a projected source is divided beyond this length, in its units
+};
+
+}  // namespace SysCarto

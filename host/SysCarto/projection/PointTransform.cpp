@@ -1,0 +1,71 @@
+#include "PointTransform.h"
+
+#include "host/SysCarto/projection/GdalErrors.h"
+#include "host/SysGeometry/QuietOgr.h"
+
+#include <QCoreApplication>
+
+#include <ogr_spatialref.h>
+
+#include <cmath>
+#include <limits>
+
+namespace SysCarto {
+
+namespace {
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+
+}  // namespace
+
+std::unique_ptr<PointTransform> PointTransform::create(OGRSpatialReference const& from, OGRSpatialReference const& to,
+                                                       QString& error) {
+  GdalErrors const errors;
+  OGRSpatialReference source(from), target(to);
+  source.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+  target.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+  OGRCoordinateTransformation* const made = OGRCreateCoordinateTransformation(&source, &target);
+  if (made) {
+    made->SetEmitErrors(false);
+    return std::unique_ptr<PointTransform>(new PointTransform(made));
+  }
+  error = errors.reason();
+  if (error.isEmpty()) error = QCoreApplication::translate("PointTransform", "there is no transformation between them");
+  return nullptr;
+}
+
+PointTransform::PointTransform(OGRCoordinateTransformation* transformation) : transformation_(transformation) {}
+PointTransform::~PointTransform() = default;
+
+std::unique_ptr<PointTransform> PointTransform::clone() const {
+  return std::unique_ptr<PointTransform>(new PointTransform(transformation_->Clone()));
+}
+
+// A place without an image is no fault, but PROJ itself reports some of them as one.
+void PointTransform::apply(std::vector<double>& xy) const {
+  SysGeometry::QuietOgr const quiet;
+  size_t const count = xy.size() / 2;
+  x_.resize(count);
+  y_.resize(count);
+  ok_.assign(count, 0);
+  for (size_t i = 0; i < count; ++i) {
+    x_[i] = xy[2 * i];
+    y_[i] = xy[2 * i + 1];
+  }
+  if (count > 0)
+    transformation_->Transform(static_cast<int>(count), x_.data(), y_.data(), nullptr, nullptr, ok_.data());
+  for (size_t i = 0; i < count; ++i) {
+    bool const good = ok_[i] && std::isfinite(x_[i]) && std::isfinite(y_[i]);
+    xy[2 * i] = good ? x_[i] : nan;
+    xy[2 * i + 1] = good ? y_[i] : nan;
+  }
+}
+
+bool PointTransform::apply(double& x, double& y) const {
+  SysGeometry::QuietOgr const quiet;
+  int ok = 0;
+  transformation_->Transform(1, &x, &y, nullptr, nullptr, &ok);
+  return ok && std::isfinite(x) && std::isfinite(y);
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,155 @@
+#include "Json.h"
+#include "LayerFixture.h"
+
+#include "host/SysCarto/document/LayerArchive.h"
+
+using namespace SysCarto;
+using SysUtility::Archive;
+
+namespace {
+
+QByteArray layerJson(QByteArray const& source, QByteArray const& renderer, QByteArray const& more = QByteArray()) {
+  return "{'type':'feature','name':'Places','source':{" + source + "},'renderer':{" + renderer + "}" + more + "}";
+}
+
+// The fields of a source and of renderers; the classes go between.
+QByteArray const cities = "'file':'world.gpkg','layer':'cities'";
+QByteArray const large = cities + ",'filter':'population > 5000000'";
+QByteArray const marker = "'symbol':{'type':'simpleMarker'}";
+QByteArray const bigMarker = "'symbol':{'type':'simpleMarker','size':9}";
+QByteArray const simple = "'type':'simple'," + marker;
+
+QByteArray renderer(QByteArray const& type, QByteArray const& field, QByteArray const& classes) {
+  return "'type':'" + type + "','field':'" + field + "','classes':[" + classes + "]";
+}
+
+struct Read {
+  _ptr_t<Layer> layer;
+  DocumentContext context;
+  QString error;
+  QStringList unknown;
+};
+
+Read read(QByteArray const& stored) {
+  Read result;
+  result.context.folder = sample("");
+  auto const map = make<Map>();
+  map->SetCoordinateSystem("EPSG:8857");
+  Archive archive(json(stored));
+  describeLayer(archive, result.layer, *map, result.context);
+  result.error = archive.error();
+  result.unknown = archive.warnings();
+  return result;
+}
+
+QJsonObject stored(Read& read) {
+  Archive archive;
+  auto const map = make<Map>();
+  describeLayer(archive, read.layer, *map, read.context);
+  return archive.json();
+}
+
+}  // namespace
+
+class LayerArchiveTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void aLayerComesBackAsItWas_data() {
+    Rows<QByteArray, int> row;
+    row("one symbol", layerJson(large, simple), 0);
+    row("limits on one side", layerJson(large, simple, ",'maxScale':50000000,'visible':false"), 0);
+    QByteArray const countries =
+        "{'values':['FR','DE']," + marker + "},{'values':['IT'],'label':'Italy'," + bigMarker + "}";
+    QByteArray const others = ",'defaultLabel':'Others','defaultSymbol':{'type':'simpleMarker','size':9}";
+    row("unique values", layerJson(large, renderer("uniqueValues", "country", countries) + others), 0);
+    QByteArray const sizes =
+        "{'label':'small','minimum':0," + marker + "},{'label':'large','minimum':10000000," + bigMarker + "}";
+    row("graduated", layerJson(large, renderer("graduated", "population", sizes)), 0);
+    row("labels",
+        layerJson(
+            large, simple,
+            ",'labels':{'classes':[{'minimum':1000000,'symbol':{'size':12,'type':'text'}}],'field':'name','gap':3,"
+            "'minScale':1000,'priority':5,'priorityField':'population','symbol':{'type':'text'}}"),
+        0);
+    row("a file that is gone", layerJson("'file':'gone/world.gpkg','layer':'cities'", simple), 1);
+    row("a filter that is wrong", layerJson(cities + ",'filter':'a >'", simple), 1);
+  }
+  void aLayerComesBackAsItWas() {
+    auto const [given, unreadable] = fetched<QByteArray, int>();
+    Read result = read(given);
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.unknown, QStringList());
+    QVERIFY(result.layer);
+    QCOMPARE(stored(result), json(given));
+    QCOMPARE(result.context.unreadableSources, unreadable);
+    QCOMPARE(result.context.warnings.size(), unreadable);
+    if (unreadable) QVERIFY(result.context.warnings[0].contains("Places"));
+    auto const layer = ptr_cast<VectorLayer>(result.layer);
+    QCOMPARE(layer->features().size() > 0, unreadable == 0);
+  }
+
+  void aWrongFieldIsNamed_data() {
+    Rows<QByteArray, QString> row;
+    row("another kind of layer", layerJson(cities, simple).replace("'feature'", "'tiles'"), "type");
+    row("no source", "{'type':'feature','name':'a','renderer':{" + simple + "}}", "source");
+    row("no symbol", layerJson(cities, "'type':'simple'"), "renderer.symbol");
+    QByteArray const five = "{'minimum':5," + marker + "}", x = "{'values':['x']," + marker + "}";
+    row("classes that do not ascend", layerJson(cities, renderer("graduated", "a", five + "," + five)),
+        "renderer.classes[1].minimum");
+    row("a value in two classes", layerJson(cities, renderer("uniqueValues", "a", x + "," + x)),
+        "renderer.classes[1].values");
+    row("limits the wrong way round", layerJson(cities, simple, ",'minScale':500,'maxScale':100"), "minScale");
+  }
+  void aWrongFieldIsNamed() {
+    auto const [given, says] = fetched<QByteArray, QString>();
+    Read const result = read(given);
+    QVERIFY2(result.error.contains(says), qPrintable(result.error));
+    QVERIFY(!result.layer);
+  }
+
+  void aFieldThatTheDataLackIsReported() {
+    QByteArray const others = ",'defaultSymbol':{'type':'simpleMarker'}";
+    Read const result = read(layerJson(large, renderer("uniqueValues", "colour", "") + others));
+    QCOMPARE(result.context.warnings.size(), 1);
+    QVERIFY(result.context.warnings[0].contains("“colour”") && result.context.warnings[0].contains("population"));
+    QCOMPARE(result.context.unreadableSources, 0);
+  }
+
+  void classesDivideTheFeatures() {
+    QByteArray const sizes = "{'minimum':1000000," + marker + "},{'minimum':10000000," + marker + "}";
+    Read const result = read(layerJson(cities, renderer("graduated", "population", sizes)));
+    auto const layer = ptr_cast<VectorLayer>(result.layer);
+    QVERIFY(layer);
+    int counts[3] = {0};
+    for (Feature const& feature : layer->features().features) ++counts[feature.symbolClass + 1];
+    QVERIFY(counts[0] > 50 && counts[1] > 300 && counts[2] > 5);
+    QCOMPARE(counts[0] + counts[1] + counts[2], 521);
+  }
+
+  void scaleLimitsAreBothSetOrNeither_data() {
+    Rows<double, double, bool, double, double> row;
+    row("none", 0.0, 0.0, false, 0.0, 0.0);
+    row("the smallest alone", 1000.0, 0.0, true, 1000.0, 0.0);
+    row("the largest alone", 0.0, 5000.0, true, 0.0, 5000.0);
+    row("both, exchanged", 5000.0, 1000.0, true, 1000.0, 5000.0);
+    row("no numbers", -3.0, qQNaN(), false, 0.0, 0.0);
+  }
+  void scaleLimitsAreBothSetOrNeither() {
+    VectorLayer layer(makeSimpleRenderer(make<SysDisplay::SimpleFillSymbol>()));
+    auto const check = [row = fetched<double, double, bool, double, double>()](auto& limits) {
+      auto const [min, max, limited, storedMin, storedMax] = row;
+      limits.SetScaleRange(min, max);
+      QCOMPARE(limits.GetMinScale() > 0 && limits.GetMaxScale() > 0, limited);
+      QCOMPARE(limits.GetMinScale() > 0 || limits.GetMaxScale() > 0, limited);
+      QCOMPARE(limits.storedMinScale(), storedMin);
+      QCOMPARE(limits.storedMaxScale(), storedMax);
+      if (limited) QVERIFY(limits.GetMinScale() < 2000 && limits.GetMaxScale() > 2000);
+    };
+    check(static_cast<Layer&>(layer));
+    check(*layer.GetAnnotationProperties());
+  }
+};
+
+QTEST_MAIN(LayerArchiveTest)
+#include "LayerArchiveTest.moc"
