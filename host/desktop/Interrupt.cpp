@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP};
+constexpr int endSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 std::atomic<SysUI::TrackerCancel*> current{nullptr};
 static_assert(std::atomic<SysUI::TrackerCancel*>::is_always_lock_free, "used in a signal handler");
@@ -22,7 +22,7 @@ Interrupt::Interrupt() : cancel_(SysUtility::make<SysUI::TrackerCancel>()) {
   struct sigaction action = {};
   action.sa_handler = ask;
   action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
-  for (int const signal : signals) {
+  for (int const signal : endSignals) {
     struct sigaction old = {};
     sigaction(signal, nullptr, &old);
     if (old.sa_handler != SIG_IGN) sigaction(signal, &action, nullptr);
@@ -30,7 +30,7 @@ Interrupt::Interrupt() : cancel_(SysUtility::make<SysUI::TrackerCancel>()) {
 }
 
 Interrupt::~Interrupt() {
-  for (int const signal : signals) {
+  for (int const signal : endSignals) {
     struct sigaction old = {};
     sigaction(signal, nullptr, &old);
     if (old.sa_handler == ask) std::signal(signal, SIG_DFL);
