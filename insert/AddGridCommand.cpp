@@ -17,7 +17,9 @@ namespace {
 
 constexpr int dataFrameType = 11;
 
-QString translated(char const* text) { return QCoreApplication::translate("AddGridCommand", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(AddGridCommand)
+};
 
 _ptr_t<MapFrameElement> firstFrame(IElementContainer const& container) {
   for (auto const& element : container.GetElements())
@@ -34,7 +36,7 @@ void AddGridCommand::OnClick() {
   if (auto const frame = firstFrame(*container)) {
     frame_ = frame;
     if (!mayAdd()) return;
-    SysFramework::EditorOperation const operation(translated("Add a grid"));
+    SysFramework::EditorOperation const operation(Texts::tr("Add a grid"));
     auto const copy = ptr_cast<MapFrameElement>(frame_->Clone());
     auto const grid = SysUtility::make<Graticule>();
     grid->SetName(GetGraticuleName());
@@ -47,8 +49,8 @@ void AddGridCommand::OnClick() {
 bool AddGridCommand::mayAdd() const {
   for (int i = 0; i < frame_->GetMapGridCount(); ++i)
     if (ptr_cast<Graticule>(frame_->GetMapGrid(i)))
-      return QMessageBox::question(dialogParent(*hook()), translated("Grid"),
-                                   translated("Grid already exists, continue to add new grid?"),
+      return QMessageBox::question(dialogParent(*hook()), Texts::tr("Grid"),
+                                   Texts::tr("Grid already exists, continue to add new grid?"),
                                    QMessageBox::Yes | QMessageBox::No, QMessageBox::NoButton) == QMessageBox::Yes;
   return true;
 }

@@ -22,11 +22,13 @@ namespace Plugin {
 
 namespace {
 
-QString translated(char const* text) { return QCoreApplication::translate("OpenProjectCommand", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(OpenProjectCommand)
+};
 
 QString chosenFile() {
-  return QFileDialog::getOpenFileName(QApplication::desktop(), translated("Open"), QString(),
-                                      translated("kdx File(*.kdx)"));
+  return QFileDialog::getOpenFileName(QApplication::desktop(), Texts::tr("Open"), QString(),
+                                      Texts::tr("kdx File(*.kdx)"));
 }
 
 // Opens the document whose layout is to be taken over. Why one can't be is for those who look at the program's
@@ -73,7 +75,7 @@ void ChangePageLayout::OnClick() {
   QString const file = chosenFile();
   if (file.isEmpty()) return;
   if (!openTemplate(templateDocument, file)) {
-    QMessageBox::critical(dialogParent(*hook()), translated("Error"), translated("Open File Failed!"), QMessageBox::Ok,
+    QMessageBox::critical(dialogParent(*hook()), Texts::tr("Error"), Texts::tr("Open File Failed!"), QMessageBox::Ok,
                           QMessageBox::Ok);
     return;
   }

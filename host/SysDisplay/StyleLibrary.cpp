@@ -17,9 +17,11 @@ constexpr int styleVersion = 1;
 constexpr int newestThinkable = 1000000;
 constexpr int mostCategories = 1000, mostItems = 10000;
 
-QString translated(char const* text) { return QCoreApplication::translate("StyleLibrary", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(StyleLibrary)
+};
 
-SysUtility::JsonFileKind styleKind() { return {translated("style library"), QStringLiteral(".style"), 64}; }
+SysUtility::JsonFileKind styleKind() { return {Texts::tr("style library"), QStringLiteral(".style"), 64}; }
 
 void describeFormat(Archive& archive) {
   QString const ours = QStringLiteral("plotvane-style");
@@ -27,17 +29,17 @@ void describeFormat(Archive& archive) {
   int version = styleVersion;
   archive.text("format", format);
   if (archive.ok() && format != ours)
-    return archive.fail("format", translated("is not “%1”, so this is no style library").arg(ours));
+    return archive.fail("format", Texts::tr("is not “%1”, so this is no style library").arg(ours));
   archive.integer("version", version, 1, newestThinkable);
   if (archive.ok() && version > styleVersion)
     archive.fail("version",
-                 translated("the library was written by a newer version of Plotvane, as version %1; update Plotvane")
+                 Texts::tr("the library was written by a newer version of Plotvane, as version %1; update Plotvane")
                      .arg(version));
 }
 
 void describeName(Archive& archive, QString& name) {
   archive.text("name", name);
-  if (archive.ok() && name.trimmed().isEmpty()) archive.fail("name", translated("is empty; give it a name"));
+  if (archive.ok() && name.trimmed().isEmpty()) archive.fail("name", Texts::tr("is empty; give it a name"));
 }
 
 void describe(Archive& archive, StyleItem& item) {
@@ -71,7 +73,7 @@ std::optional<StyleLibrary> readStyleLibrary(QString const& path, QString& error
   Archive archive(*json);
   describeStyleLibrary(archive, library);
   if (archive.ok()) return library;
-  error = aboutFile(path, archive.error() + translated("; correct the file or choose another one"));
+  error = aboutFile(path, archive.error() + Texts::tr("; correct the file or choose another one"));
   return std::nullopt;
 }
 
@@ -79,7 +81,7 @@ QString writeStyleLibrary(QString const& path, StyleLibrary const& library) {
   StyleLibrary written = library;
   Archive archive;
   describeStyleLibrary(archive, written);
-  if (!archive.ok()) return aboutFile(path, archive.error() + translated("; change this value, then save again"));
+  if (!archive.ok()) return aboutFile(path, archive.error() + Texts::tr("; change this value, then save again"));
   return SysUtility::FileSaver::save(path, SysUtility::jsonText(archive.json()));
 }
 

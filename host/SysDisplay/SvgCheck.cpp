@@ -21,7 +21,9 @@ constexpr int deepest = 64;
 constexpr int deepestUse = 256;  // a chain of so many, each drawn on its own too, comes to more than `mostElements`
 constexpr int largestImagePx = 4096;
 
-QString translated(char const* text) { return QCoreApplication::translate("SvgCheck", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(SvgCheck)
+};
 
 // The targets of `url(…)` in a style.
 QStringList urlsIn(QString const& style) {
@@ -43,8 +45,8 @@ public:
     while (!reader_.atEnd() && problem_.isEmpty()) token(reader_.readNext());
     if (problem_.isEmpty() && reader_.hasError())
       refuse(
-          translated("the SVG is not well-formed: %1 in line %2").arg(reader_.errorString()).arg(reader_.lineNumber()));
-    if (problem_.isEmpty() && elements_ == 0) refuse(translated("the SVG is empty"));
+          Texts::tr("the SVG is not well-formed: %1 in line %2").arg(reader_.errorString()).arg(reader_.lineNumber()));
+    if (problem_.isEmpty() && elements_ == 0) refuse(Texts::tr("the SVG is empty"));
     if (problem_.isEmpty()) checkUses();
     return problem_;
   }
@@ -58,9 +60,9 @@ private:
     switch (type) {
       case QXmlStreamReader::DTD:
       case QXmlStreamReader::EntityReference:
-        return refuse(translated("the SVG declares a document type or entities; remove them"));
+        return refuse(Texts::tr("the SVG declares a document type or entities; remove them"));
       case QXmlStreamReader::ProcessingInstruction:
-        return refuse(translated("the SVG holds a processing instruction; remove it"));
+        return refuse(Texts::tr("the SVG holds a processing instruction; remove it"));
       case QXmlStreamReader::StartElement: return startElement();
       case QXmlStreamReader::EndElement:
         openIds_.removeLast();
@@ -76,11 +78,11 @@ private:
 
   void startElement() {
     QString const name = reader_.name().toString();
-    if (++elements_ == 1 && name != QLatin1String("svg")) return refuse(translated("the file is not an SVG"));
-    if (elements_ > mostElements) return refuse(translated("the SVG has more than %1 elements").arg(mostElements));
+    if (++elements_ == 1 && name != QLatin1String("svg")) return refuse(Texts::tr("the file is not an SVG"));
+    if (elements_ > mostElements) return refuse(Texts::tr("the SVG has more than %1 elements").arg(mostElements));
     if (openIds_.size() >= deepest)
-      return refuse(translated("the SVG's elements are nested more than %1 deep").arg(deepest));
-    if (name == QLatin1String("script")) return refuse(translated("the SVG holds a script; remove it"));
+      return refuse(Texts::tr("the SVG's elements are nested more than %1 deep").arg(deepest));
+    if (name == QLatin1String("script")) return refuse(Texts::tr("the SVG holds a script; remove it"));
     inStyle_ = name == QLatin1String("style");
     QXmlStreamAttributes const attributes = reader_.attributes();
     openIds_ << attributes.value(QLatin1String("id")).toString();
@@ -104,7 +106,7 @@ private:
     } else if (target.startsWith(QLatin1String("data:"))) {
       checkImage(target);
     } else {
-      refuse(translated("the SVG refers to “%1”; put what it needs into the file").arg(target.left(64)));
+      refuse(Texts::tr("the SVG refers to “%1”; put what it needs into the file").arg(target.left(64)));
     }
   }
 
@@ -116,20 +118,20 @@ private:
     image.setDecideFormatFromContent(true);
     QByteArray const format = image.format();
     if (format != "png" && format != "jpeg" && format != "jpg")
-      return refuse(translated("the SVG embeds an image that is neither PNG nor JPEG"));
+      return refuse(Texts::tr("the SVG embeds an image that is neither PNG nor JPEG"));
     QSize const size = image.size();
     if (!size.isValid() || size.width() > largestImagePx || size.height() > largestImagePx)
-      refuse(translated("the SVG embeds an image larger than %1 × %1 pixels").arg(largestImagePx));
+      refuse(Texts::tr("the SVG embeds an image larger than %1 × %1 pixels").arg(largestImagePx));
   }
 
   // In a style sheet a backslash can hide the letters of a word.
   void checkStyle(QString const& style, bool isSheet) {
     if (style.contains(QLatin1String("@import"), Qt::CaseInsensitive) || (isSheet && style.contains(QLatin1Char('\\'))))
       return refuse(
-          translated("the SVG's style sheet imports another or hides characters; put what it needs into the file"));
+          Texts::tr("the SVG's style sheet imports another or hides characters; put what it needs into the file"));
     for (QString const& target : urlsIn(style))
       if (!target.startsWith(QLatin1Char('#')))
-        refuse(translated("the SVG refers to “%1”; put what it needs into the file").arg(target.left(64)));
+        refuse(Texts::tr("the SVG refers to “%1”; put what it needs into the file").arg(target.left(64)));
   }
 
   // What `use` elements repeat, repeated in turn, must come to an end, and soon.
@@ -137,7 +139,7 @@ private:
     double drawn = elements_;
     for (QString const& id : qAsConst(total_)) drawn += expanded(id, 0);
     if (drawn > mostElements)
-      refuse(translated("the SVG repeats its parts in a circle or more than %1 times").arg(mostElements));
+      refuse(Texts::tr("the SVG repeats its parts in a circle or more than %1 times").arg(mostElements));
   }
 
   double expanded(QString const& id, int depth) {
@@ -169,7 +171,7 @@ private:
 }  // namespace
 
 QString svgProblem(QByteArray const& svg) {
-  if (svg.size() > mostBytes) return translated("the SVG has more than %1 bytes").arg(mostBytes);
+  if (svg.size() > mostBytes) return Texts::tr("the SVG has more than %1 bytes").arg(mostBytes);
   return Checker(svg).problem();
 }
 

@@ -13,18 +13,20 @@ namespace SysUtility {
 
 namespace {
 
-QString translated(char const* text) { return QCoreApplication::translate("FileSaver", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(FileSaver)
+};
 
 QString problem(QString const& path, QString const& cause, QString const& fix) {
-  return translated("“%1” was not saved: %2. %3").arg(QDir::toNativeSeparators(path), cause, fix);
+  return Texts::tr("“%1” was not saved: %2. %3").arg(QDir::toNativeSeparators(path), cause, fix);
 }
 
 QString cannotOpen(QString const& path, QString const& cause) {
   QFileInfo const file(path);
-  if (file.isDir()) return problem(path, translated("it is a folder"), translated("Choose a file name."));
+  if (file.isDir()) return problem(path, Texts::tr("it is a folder"), Texts::tr("Choose a file name."));
   if (!file.dir().exists())
-    return problem(path, translated("its folder does not exist"), translated("Create the folder or choose another."));
-  return problem(path, cause, translated("Choose a place where you may write."));
+    return problem(path, Texts::tr("its folder does not exist"), Texts::tr("Create the folder or choose another."));
+  return problem(path, cause, Texts::tr("Choose a place where you may write."));
 }
 
 }  // namespace
@@ -38,13 +40,13 @@ QString FileSaver::save(QString const& path, QByteArray const& content) {
   bool const whole = file.write(content) == content.size() && file.flush() && file.error() == QFileDevice::NoError;
   if (!whole) {
     QString const cause =
-        file.error() == QFileDevice::NoError ? translated("there is no room for it") : file.errorString();
-    return problem(path, cause, translated("Free some space or choose another place."));
+        file.error() == QFileDevice::NoError ? Texts::tr("there is no room for it") : file.errorString();
+    return problem(path, cause, Texts::tr("Free some space or choose another place."));
   }
   // Some file systems can't synchronise, and say so with EINVAL.
   if (fsync(file.handle()) != 0 && errno != EINVAL)
-    return problem(path, qt_error_string(errno), translated("Check the disk or choose another place."));
-  if (!file.commit()) return problem(path, file.errorString(), translated("Choose a place where you may write."));
+    return problem(path, qt_error_string(errno), Texts::tr("Check the disk or choose another place."));
+  if (!file.commit()) return problem(path, file.errorString(), Texts::tr("Choose a place where you may write."));
   return QString();
 }
 

@@ -12,14 +12,16 @@ namespace {
 
 constexpr qint64 mebibyte = 1024 * 1024;
 
-QString translated(char const* text) { return QCoreApplication::translate("JsonFile", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(JsonFile)
+};
 
 // What stands in the way before a byte is read. A device or a pipe would be read for ever.
 QString problemWith(QFileInfo const& file, JsonFileKind const& kind) {
-  if (file.filePath().isEmpty()) return translated("no file was named; choose a %1 file").arg(kind.suffix);
-  if (!file.exists()) return translated("there is no such file; check the name and the folder");
-  if (file.isDir()) return translated("this is a folder; choose a %1 file in it").arg(kind.suffix);
-  if (!file.isFile()) return translated("this is no ordinary file; choose a %1 file").arg(kind.suffix);
+  if (file.filePath().isEmpty()) return Texts::tr("no file was named; choose a %1 file").arg(kind.suffix);
+  if (!file.exists()) return Texts::tr("there is no such file; check the name and the folder");
+  if (file.isDir()) return Texts::tr("this is a folder; choose a %1 file in it").arg(kind.suffix);
+  if (!file.isFile()) return Texts::tr("this is no ordinary file; choose a %1 file").arg(kind.suffix);
   return QString();
 }
 
@@ -28,11 +30,11 @@ QString placeOf(QByteArray const& text, int offset) {
   QByteArray const before = text.left(offset);
   int const line = before.count('\n') + 1;
   int const column = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).size() + 1;
-  return translated("line %1, column %2").arg(line).arg(column);
+  return Texts::tr("line %1, column %2").arg(line).arg(column);
 }
 
 QString problemWith(QByteArray const& text, QJsonParseError const& problem) {
-  return translated("%1: this is not JSON (%2); mend the file in a text editor or open another one")
+  return Texts::tr("%1: this is not JSON (%2); mend the file in a text editor or open another one")
       .arg(placeOf(text, problem.offset), problem.errorString());
 }
 
@@ -41,18 +43,18 @@ std::optional<QByteArray> readAll(QString const& path, JsonFileKind const& kind,
   if (!problem.isEmpty()) return std::nullopt;
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
-    problem = translated("the file can't be read (%1); make it readable or choose another one").arg(file.errorString());
+    problem = Texts::tr("the file can't be read (%1); make it readable or choose another one").arg(file.errorString());
     return std::nullopt;
   }
   // No more than there is: Qt makes room for all that it is asked for.
   qint64 const most = kind.mostMebibytes * mebibyte;
   QByteArray const content = file.read(qMin(file.size(), most) + 1);
   if (content.size() > most)
-    problem = translated("the file is larger than %1 MB, too large for a %2; choose another one")
+    problem = Texts::tr("the file is larger than %1 MB, too large for a %2; choose another one")
                   .arg(kind.mostMebibytes)
                   .arg(kind.noun);
   else if (file.error() != QFileDevice::NoError)
-    problem = translated("the file can't be read (%1); check the disk").arg(file.errorString());
+    problem = Texts::tr("the file can't be read (%1); check the disk").arg(file.errorString());
   if (!problem.isEmpty()) return std::nullopt;
   return content;
 }
@@ -72,7 +74,7 @@ std::optional<QJsonObject> readJsonFile(QString const& path, JsonFileKind const&
     if (parsing.error != QJsonParseError::NoError)
       problem = problemWith(*content, parsing);
     else if (!document.isObject())
-      problem = translated("the file holds a list where a %1 holds an object; choose another one").arg(kind.noun);
+      problem = Texts::tr("the file holds a list where a %1 holds an object; choose another one").arg(kind.noun);
   }
   if (problem.isEmpty()) return document.object();
   error = aboutFile(path, problem);

@@ -1,34 +1,202 @@
 #include "CommandCatalogue.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 namespace {
 
-QVector<CommandEntry> readCatalogue(QString const& path) {
-  QFile file(path);
+// A menu of the menu bar with its mnemonic, and a menu in it or none.
+struct Place {
+  char const* menu;
+  char const* submenu;
+};
+
+struct Row {
+  char const* identifier;
+  char const* icon;
+  Place place;
+  int section;
+  char const* toolbar;
+  char const* shortcut;
+  char const* caption;
+  char const* toolTip;
+  char const* needs;
+};
+
+struct Commands {
+  Q_DECLARE_TR_FUNCTIONS(Commands)
+
+public:
+  static constexpr Place inFile{QT_TR_NOOP("&File"), ""};
+  static constexpr Place inEdit{QT_TR_NOOP("&Edit"), ""};
+  static constexpr Place inView{QT_TR_NOOP("&View"), ""};
+  static constexpr Place inInsert{QT_TR_NOOP("&Insert"), ""};
+  static constexpr Place inArrange{QT_TR_NOOP("&Arrange"), ""};
+  static constexpr Place inHelp{QT_TR_NOOP("&Help"), ""};
+  static constexpr Place inAlign{QT_TR_NOOP("&Arrange"), QT_TR_NOOP("Align")};
+  static constexpr Place inDistribute{QT_TR_NOOP("&Arrange"), QT_TR_NOOP("Distribute")};
+  static constexpr Place inSize{QT_TR_NOOP("&Arrange"), QT_TR_NOOP("Size")};
+  static constexpr Place inOrder{QT_TR_NOOP("&Arrange"), QT_TR_NOOP("Order")};
+
+  static constexpr char const* onLayout = QT_TR_NOOP("Layout");
+  static constexpr char const* onNavigation = QT_TR_NOOP("Navigation");
+  static constexpr char const* onInsert = QT_TR_NOOP("Insert");
+  static constexpr char const* onArrange = QT_TR_NOOP("Arrange");
+  static constexpr char const* onFile = QT_TR_NOOP("File");
+  static constexpr char const* onEdit = QT_TR_NOOP("Edit");
+  static constexpr char const* onNone = "";
+
+  static constexpr char const* nothing = QT_TR_NOOP("nothing");
+  static constexpr char const* pageShown = QT_TR_NOOP("the page layout shown");
+  static constexpr char const* document = QT_TR_NOOP("a document");
+  static constexpr char const* pageLayout = QT_TR_NOOP("a page layout");
+  static constexpr char const* selected = QT_TR_NOOP("a selected element");
+  static constexpr char const* two = QT_TR_NOOP("two selected elements");
+  static constexpr char const* twoOrMargins = QT_TR_NOOP("two selected elements, or one when aligning to margins");
+  static constexpr char const* scalable = QT_TR_NOOP("selected elements, no markers and no map surrounds among them");
+  static constexpr char const* three = QT_TR_NOOP("three selected elements");
+
+  // clang-format off
+  static constexpr Row ofPlugin[] = {
+      {"Plotvane_Export", "export", inFile, 3, onLayout, "Ctrl+E",
+       QT_TR_NOOP("Export Map…"), QT_TR_NOOP("Write the page as an image file"), pageShown},
+      {"Plotvane_ChangePageLayout", "change-layout", inFile, 4, onNone, "",
+       QT_TR_NOOP("Change Layout…"), QT_TR_NOOP("Replace the page layout by that of another document"), pageShown},
+      {"Plotvane_PageSetting", "page-setup", inFile, 4, onLayout, "Ctrl+Shift+P",
+       QT_TR_NOOP("Page Setup…"), QT_TR_NOOP("Set paper form, size, orientation, border and background"), pageShown},
+      {"Plotvane_ZoomIn", "zoom-in", inView, 1, onNavigation, "Z",
+       QT_TR_NOOP("Zoom In"), QT_TR_NOOP("Zoom in by click or rectangle"), pageShown},
+      {"Plotvane_ZoomOut", "zoom-out", inView, 1, onNavigation, "Shift+Z",
+       QT_TR_NOOP("Zoom Out"), QT_TR_NOOP("Zoom out by click or rectangle"), pageShown},
+      {"Plotvane_Pan", "pan", inView, 1, onNavigation, "H",
+       QT_TR_NOOP("Pan"), QT_TR_NOOP("Move the page under the view"), pageShown},
+      {"Plotvane_ZoomToWhole", "whole-page", inView, 2, onNavigation, "Ctrl+0",
+       QT_TR_NOOP("Whole Page"), QT_TR_NOOP("Show the whole page"), pageShown},
+      {"Plotvane_ZoomToOrigin", "actual-size", inView, 2, onNavigation, "Ctrl+1",
+       QT_TR_NOOP("Actual Size"), QT_TR_NOOP("Show the page in its real size"), pageShown},
+      {"Plotvane_ZoomToPreviousExtent", "previous-extent", inView, 2, onNavigation, "Alt+Left",
+       QT_TR_NOOP("Previous Extent"), QT_TR_NOOP("Go back to what was shown before"), QT_TR_NOOP("an earlier extent")},
+      {"Plotvane_ZoomToNextExtent", "next-extent", inView, 2, onNavigation, "Alt+Right",
+       QT_TR_NOOP("Next Extent"), QT_TR_NOOP("Go forward to what was shown after"), QT_TR_NOOP("a later extent")},
+      {"Plotvane_MapFrame", "data-frame", inInsert, 1, onInsert, "",
+       QT_TR_NOOP("Data Frame"), QT_TR_NOOP("Insert a data frame with an empty map"), pageShown},
+      {"Plotvane_Legend", "legend", inInsert, 1, onInsert, "",
+       QT_TR_NOOP("Legend"), QT_TR_NOOP("Insert a legend of the focus map"), pageShown},
+      {"Plotvane_ScaleBar", "scale-bar", inInsert, 1, onInsert, "",
+       QT_TR_NOOP("Scale Bar"), QT_TR_NOOP("Insert a scale bar of the focus map"), pageShown},
+      {"Plotvane_ScaleText", "scale-text", inInsert, 1, onInsert, "",
+       QT_TR_NOOP("Scale Text"), QT_TR_NOOP("Insert the scale of the focus map as text"), pageShown},
+      {"Plotvane_NorthArrow", "north-arrow", inInsert, 1, onInsert, "",
+       QT_TR_NOOP("North Arrow…"), QT_TR_NOOP("Insert a north arrow chosen from the style libraries"), pageShown},
+      {"Plotvane_Grid", "grid", inInsert, 1, onInsert, "",
+       QT_TR_NOOP("Grid…"), QT_TR_NOOP("Add a grid to a data frame"), pageShown},
+      {"Plotvane_ConvertToGraphics", "convert-to-graphics", inInsert, 2, onNone, "",
+       QT_TR_NOOP("Convert to Graphics"), QT_TR_NOOP("Turn the selected map surrounds into plain graphics"),
+       QT_TR_NOOP("a selected map surround")},
+      {"Plotvane_LeftAlignment", "align-left", inAlign, 1, onArrange, "Ctrl+Alt+L",
+       QT_TR_NOOP("Align Left"), QT_TR_NOOP("Align the left edges of the selected elements"), twoOrMargins},
+      {"Plotvane_CenterAlignment", "align-centre", inAlign, 1, onArrange, "Ctrl+Alt+C",
+       QT_TR_NOOP("Align Centres"), QT_TR_NOOP("Align the horizontal centres of the selected elements"), twoOrMargins},
+      {"Plotvane_RightAlignment", "align-right", inAlign, 1, onArrange, "Ctrl+Alt+R",
+       QT_TR_NOOP("Align Right"), QT_TR_NOOP("Align the right edges of the selected elements"), twoOrMargins},
+      {"Plotvane_TopAlignment", "align-top", inAlign, 1, onArrange, "Ctrl+Alt+T",
+       QT_TR_NOOP("Align Top"), QT_TR_NOOP("Align the top edges of the selected elements"), twoOrMargins},
+      {"Plotvane_VerticalCenterAlignment", "align-middle", inAlign, 1, onArrange, "Ctrl+Alt+M",
+       QT_TR_NOOP("Align Middles"), QT_TR_NOOP("Align the vertical centres of the selected elements"), twoOrMargins},
+      {"Plotvane_BottomAlignment", "align-bottom", inAlign, 1, onArrange, "Ctrl+Alt+B",
+       QT_TR_NOOP("Align Bottom"), QT_TR_NOOP("Align the bottom edges of the selected elements"), twoOrMargins},
+      {"Plotvane_AlignToMargins", "align-to-margins", inAlign, 2, onArrange, "",
+       QT_TR_NOOP("Align to Margins"), QT_TR_NOOP("Align to the page margins instead of to the first selected element"),
+       QT_TR_NOOP("the page layout shown and a selected element")},
+      {"Plotvane_DistributeHorizontallyElements", "distribute-horizontally", inDistribute, 1, onArrange, "",
+       QT_TR_NOOP("Distribute Horizontally"),
+       QT_TR_NOOP("Make the horizontal gaps between the selected elements equal"), three},
+      {"Plotvane_DistributeVerticallyElements", "distribute-vertically", inDistribute, 1, onArrange, "",
+       QT_TR_NOOP("Distribute Vertically"), QT_TR_NOOP("Make the vertical gaps between the selected elements equal"),
+       three},
+      {"Plotvane_MakeSameSizeElements", "same-size", inSize, 1, onArrange, "",
+       QT_TR_NOOP("Same Size"), QT_TR_NOOP("Give the selected elements the size of the last selected one"), two},
+      {"Plotvane_MakeSameWidthElements", "same-width", inSize, 1, onArrange, "",
+       QT_TR_NOOP("Same Width"), QT_TR_NOOP("Give the selected elements the width of the last selected one"), two},
+      {"Plotvane_MakeSameHeightElements", "same-height", inSize, 1, onArrange, "",
+       QT_TR_NOOP("Same Height"), QT_TR_NOOP("Give the selected elements the height of the last selected one"), two},
+      {"Plotvane_FittoMarginsElements", "fit-to-margins", inSize, 2, onArrange, "",
+       QT_TR_NOOP("Fit to Margins"), QT_TR_NOOP("Stretch the selected elements to the page margins"), scalable},
+      {"Plotvane_FitWidthtoMarginsElements", "fit-width-to-margins", inSize, 2, onArrange, "",
+       QT_TR_NOOP("Fit Width to Margins"), QT_TR_NOOP("Stretch the selected elements to the width between the margins"),
+       scalable},
+      {"Plotvane_FitHeighttoMarginsElements", "fit-height-to-margins", inSize, 2, onArrange, "",
+       QT_TR_NOOP("Fit Height to Margins"),
+       QT_TR_NOOP("Stretch the selected elements to the height between the margins"), scalable},
+      {"Plotvane_BringToFrontElements", "bring-to-front", inOrder, 1, onArrange, "Ctrl+Shift+]",
+       QT_TR_NOOP("Bring to Front"), QT_TR_NOOP("Draw the selected elements above all others"), selected},
+      {"Plotvane_BringForwardElements", "bring-forward", inOrder, 1, onArrange, "Ctrl+]",
+       QT_TR_NOOP("Bring Forward"), QT_TR_NOOP("Move the selected elements one step up"), selected},
+      {"Plotvane_SendBackwardElements", "send-backward", inOrder, 1, onArrange, "Ctrl+[",
+       QT_TR_NOOP("Send Backward"), QT_TR_NOOP("Move the selected elements one step down"), selected},
+      {"Plotvane_SendToBackElements", "send-to-back", inOrder, 1, onArrange, "Ctrl+Shift+[",
+       QT_TR_NOOP("Send to Back"), QT_TR_NOOP("Draw the selected elements below all others"), selected},
+      {"Plotvane_LockDataFrame", "lock", inArrange, 2, onNone, "",
+       QT_TR_NOOP("Lock Data Frames"), QT_TR_NOOP("Protect all data frames from the mouse"), pageLayout},
+      {"Plotvane_UnlockDataFrame", "unlock", inArrange, 2, onNone, "",
+       QT_TR_NOOP("Unlock Data Frames"), QT_TR_NOOP("Let the mouse move all data frames again"), pageLayout},
+  };
+
+  static constexpr Row ofHost[] = {
+      {"Host_New", "new", inFile, 1, onFile, "Ctrl+N",
+       QT_TR_NOOP("New"), QT_TR_NOOP("Start a document with an empty page"), nothing},
+      {"Host_Open", "open", inFile, 1, onFile, "Ctrl+O",
+       QT_TR_NOOP("Open…"), QT_TR_NOOP("Open a map document"), nothing},
+      {"Host_Save", "save", inFile, 2, onFile, "Ctrl+S",
+       QT_TR_NOOP("Save"), QT_TR_NOOP("Save the document"), QT_TR_NOOP("changes that are not saved")},
+      {"Host_SaveAs", "save-as", inFile, 2, onNone, "Ctrl+Shift+S",
+       QT_TR_NOOP("Save As…"), QT_TR_NOOP("Save the document under another name"), document},
+      {"Host_Undo", "undo", inEdit, 1, onEdit, "Ctrl+Z",
+       QT_TR_NOOP("Undo"), QT_TR_NOOP("Take the last change back"), QT_TR_NOOP("a change to take back")},
+      {"Host_Redo", "redo", inEdit, 1, onEdit, "Ctrl+Shift+Z",
+       QT_TR_NOOP("Redo"), QT_TR_NOOP("Make the change again"), QT_TR_NOOP("a change that was taken back")},
+      {"Host_Delete", "delete", inEdit, 2, onEdit, "Del",
+       QT_TR_NOOP("Delete"), QT_TR_NOOP("Delete the selected elements"),
+       QT_TR_NOOP("a selected element that is not a locked data frame")},
+      {"Host_SelectAll", "select-all", inEdit, 3, onNone, "Ctrl+A",
+       QT_TR_NOOP("Select All"), QT_TR_NOOP("Select all elements but locked data frames"),
+       QT_TR_NOOP("the page layout shown, with elements")},
+      {"Host_Unselect", "unselect", inEdit, 3, onNone, "Ctrl+Shift+A",
+       QT_TR_NOOP("Unselect"), QT_TR_NOOP("Select nothing"), selected},
+      {"Host_Select", "select", inView, 1, onNavigation, "V",
+       QT_TR_NOOP("Select"), QT_TR_NOOP("Select, move and resize elements"), pageShown},
+      {"Host_LayoutView", "layout-view", inView, 3, onNone, "F5",
+       QT_TR_NOOP("Page Layout"), QT_TR_NOOP("Show the page"), document},
+      {"Host_MapView", "map-view", inView, 3, onNone, "F6",
+       QT_TR_NOOP("Map"), QT_TR_NOOP("Show the map of the data frame alone"), document},
+      {"Host_Contents", "contents", inView, 4, onNone, "F9",
+       QT_TR_NOOP("Contents"), QT_TR_NOOP("Show or hide the table of contents"), nothing},
+      {"Host_Quit", "quit", inFile, 9, onNone, "Ctrl+Q",
+       QT_TR_NOOP("Quit"), QT_TR_NOOP("Close the window"), nothing},
+      {"Host_About", "about", inHelp, 1, onNone, "",
+       QT_TR_NOOP("About Plotvane"), QT_TR_NOOP("Version and licence"), nothing},
+  };
+  // clang-format on
+};
+
+template <std::size_t count>
+QVector<CommandEntry> entriesOf(Row const (&rows)[count]) {
   QVector<CommandEntry> entries;
-  if (!file.open(QIODevice::ReadOnly)) return entries;
-  for (QJsonValue const& value : QJsonDocument::fromJson(file.readAll()).array()) {
-    auto const text = [row = value.toObject()](char const* key) { return row[QLatin1String(key)].toString(); };
-    entries.append({text("identifier"), text("caption"), text("toolTip"), text("icon"), text("shortcut"), text("menu"),
-                    value.toObject()[QStringLiteral("section")].toInt(1), text("toolbar"), text("needs")});
+  for (Row const& row : rows) {
+    QString menu = QString::fromUtf8(row.place.menu).remove(QLatin1Char('&'));
+    if (*row.place.submenu) menu += QLatin1Char('/') + QString::fromUtf8(row.place.submenu);
+    entries.append({QString::fromUtf8(row.identifier), QString::fromUtf8(row.caption), QString::fromUtf8(row.toolTip),
+                    QString::fromUtf8(row.icon), QString::fromUtf8(row.shortcut), menu, row.section,
+                    QString::fromUtf8(row.toolbar), QString::fromUtf8(row.needs)});
   }
   return entries;
 }
 
-// scripts/translations lists the texts.
-QString translatedText(QString const& text) {
-  return QCoreApplication::translate("Commands", text.toUtf8().constData());
-}
+QString translatedText(QString const& text) { return Commands::tr(text.toUtf8().constData()); }
 
 }  // namespace
 
-QVector<CommandEntry> commandCatalogue() { return readCatalogue(QStringLiteral(":/desktop/commands.json")); }
-QVector<CommandEntry> hostCatalogue() { return readCatalogue(QStringLiteral(":/desktop/host-commands.json")); }
+QVector<CommandEntry> commandCatalogue() { return entriesOf(Commands::ofPlugin); }
+QVector<CommandEntry> hostCatalogue() { return entriesOf(Commands::ofHost); }
 
 CommandEntry translated(CommandEntry entry) {
   for (QString* const text : {&entry.caption, &entry.toolTip, &entry.needs}) *text = translatedText(*text);

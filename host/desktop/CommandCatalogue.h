@@ -16,8 +16,7 @@ struct CommandEntry {
   QString needs;     ///< for people: what must be so before the command is enabled
 };
 
-/// The plug-in's commands in the order of their menus, from the configuration that is built in. Their texts are
-/// English.
+/// The plug-in's commands in the order of their menus, Their texts are English.
 QVector<CommandEntry> commandCatalogue();
 
 /// The host's own, in the same shape.

@@ -22,7 +22,9 @@
 
 namespace {
 
-QString say(char const* text) { return QCoreApplication::translate("DialogAnswers", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(DialogAnswers)
+};
 
 QString plain(QString text) { return text.remove(QLatin1Char('&')); }
 bool isSame(QString const& text, QString const& value) { return plain(text).compare(value, Qt::CaseInsensitive) == 0; }
@@ -164,10 +166,10 @@ bool onlyTells(QDialog const& dialog) {
 QString nameOf(QDialog const& dialog) {
   auto const* const box = qobject_cast<QMessageBox const*>(&dialog);
   QString const title = dialog.windowTitle();
-  if (box) return say("the message box \"%1\" (\"%2\")").arg(title, box->text().simplified());
+  if (box) return Texts::tr("the message box \"%1\" (\"%2\")").arg(title, box->text().simplified());
   QString const kind =
       dialog.objectName().isEmpty() ? QString::fromLatin1(dialog.metaObject()->className()) : dialog.objectName();
-  return say("the dialog \"%1\" (%2)").arg(title, kind);
+  return Texts::tr("the dialog \"%1\" (%2)").arg(title, kind);
 }
 
 }  // namespace
@@ -197,20 +199,21 @@ void DialogAnswers::answer(QDialog& dialog) {
     isToBeRejected = next.kind == Answer::Kind::Cancel;
     if (next.kind != Answer::Kind::Widget) break;
     if (!apply(dialog, *widget, next.value))
-      return fail(dialog, say("%1 does not take \"%2\"").arg(next.widget, next.value));
+      return fail(dialog, Texts::tr("%1 does not take \"%2\"").arg(next.widget, next.value));
     if (!shown || !shown->isVisible()) return;
   }
   if (!problem_.isEmpty() || isToBeRejected) return dialog.reject();
   if (!isAnswered && onlyTells(dialog))
     Console::complain(static_cast<QMessageBox&>(dialog).text());
   else if (!isAnswered)
-    return fail(dialog, say("nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command"));
+    return fail(dialog, Texts::tr("nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command"));
   accept(dialog);
-  if (shown && shown->isVisible()) fail(dialog, say("it can't be accepted like this"));
+  if (shown && shown->isVisible()) fail(dialog, Texts::tr("it can't be accepted like this"));
 }
 
 void DialogAnswers::fail(QDialog& dialog, QString const& why) {
-  QString const names = answers_.empty() ? QString() : say("; the next answer is for %1").arg(answers_.front().widget);
+  QString const names =
+      answers_.empty() ? QString() : Texts::tr("; the next answer is for %1").arg(answers_.front().widget);
   if (problem_.isEmpty()) problem_ = nameOf(dialog) + QStringLiteral(": ") + why + names;
   dialog.reject();
 }
@@ -218,8 +221,8 @@ void DialogAnswers::fail(QDialog& dialog, QString const& why) {
 QString DialogAnswers::takeProblem() {
   QString problem = std::exchange(problem_, QString());
   if (problem.isEmpty() && !answers_.empty())
-    problem = say("no dialog has taken the answer for %1")
-                  .arg(answers_.front().widget.isEmpty() ? say("a dialog as a whole") : answers_.front().widget);
+    problem = Texts::tr("no dialog has taken the answer for %1")
+                  .arg(answers_.front().widget.isEmpty() ? Texts::tr("a dialog as a whole") : answers_.front().widget);
   answers_.clear();
   return problem;
 }

@@ -23,7 +23,9 @@ constexpr double smallestCm = 0.1;  // that a drag makes of a side
 constexpr int elementsChanged = 8;
 constexpr int mostOutlines = 200;  // more of them tell no more than one about them all
 
-QString say(char const* text) { return QCoreApplication::translate("PageGesture", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(PageGesture)
+};
 
 _ptr_t<SysDisplay::Symbol> outlineSymbol() {
   auto const line = make<SysDisplay::SimpleLineSymbol>();
@@ -102,7 +104,7 @@ QVector<QRectF> MoveGesture::outlines() const {
 void MoveGesture::commit() {
   QPointF const by = offset();
   if (by.isNull()) return;
-  changeSelection(layout(), say(QT_TRANSLATE_NOOP("PageGesture", "Move the selected elements")),
+  changeSelection(layout(), Texts::tr("Move the selected elements"),
                   [by](Element& element) { element.Move(by.x(), by.y()); });
 }
 
@@ -147,7 +149,7 @@ void ResizeGesture::commit() {
   Scaling const by = scaling();
   if (by.x == 1 && by.y == 1) return;
   auto const origin = make<Point>(by.origin.x(), by.origin.y(), 0.0);
-  changeSelection(layout(), say(QT_TRANSLATE_NOOP("PageGesture", "Resize the selected elements")),
+  changeSelection(layout(), Texts::tr("Resize the selected elements"),
                   [&](Element& element) { element.Scale(origin, by.x, by.y); });
 }
 

@@ -7,15 +7,17 @@
 
 namespace {
 
-QString say(char const* text) { return QCoreApplication::translate("RunSubcommand", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(RunSubcommand)
+};
 
 }  // namespace
 
 ExitStatus runRun(Subcommand const& self, QStringList const& arguments) {
   QCommandLineParser parser;
-  parser.addPositionalArgument(QStringLiteral("DOCUMENT"), say("The .kdx document."));
+  parser.addPositionalArgument(QStringLiteral("DOCUMENT"), Texts::tr("The .kdx document."));
   parser.addPositionalArgument(QStringLiteral("STEP..."),
-                               say("What to do, in order: a command's identifier, or one of\n%1")
+                               Texts::tr("What to do, in order: a command's identifier, or one of\n%1")
                                    .arg(RunSteps::names().join(QLatin1Char('\n'))));
   if (auto const settled = parseArguments(self, parser, arguments)) return *settled;
 

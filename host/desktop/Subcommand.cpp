@@ -18,19 +18,21 @@ constexpr Subcommand subcommands[] = {
 };
 // clang-format on
 
-QString say(char const* text) { return QCoreApplication::translate("Subcommand", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Subcommand)
+};
 
 void printHelp() {
-  QString text = say(QT_TRANSLATE_NOOP("Subcommand",
-                                       "Usage: plotvane [DOCUMENT]              opens the window\n       plotvane "
-                                       "SUBCOMMAND [options]   works without one")) +
+  QString text = Texts::tr(
+                     "Usage: plotvane [DOCUMENT]              opens the window\n       plotvane "
+                     "SUBCOMMAND [options]   works without one") +
                  QStringLiteral("\n\n");
   for (Subcommand const& subcommand : subcommands)
-    text += QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -9).arg(say(subcommand.help));
-  text += say(QT_TRANSLATE_NOOP("Subcommand",
-                                "\nplotvane SUBCOMMAND --help tells about one of them; plotvane "
-                                "--version tells the version. --language LANG, on any of these lines, names the "
-                                "language of the texts, such as de; it is the user's own otherwise."));
+    text += QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -9).arg(Texts::tr(subcommand.help));
+  text += Texts::tr(
+      "\nplotvane SUBCOMMAND --help tells about one of them; plotvane "
+      "--version tells the version. --language LANG, on any of these lines, names the "
+      "language of the texts, such as de; it is the user's own otherwise.");
   Console::print(text);
 }
 
@@ -45,14 +47,11 @@ ExitStatus runWithoutSubcommand(QStringList const& arguments) {
     return Done;
   }
   if (arguments.size() == 1 && first.endsWith(QLatin1String(".kdx"), Qt::CaseInsensitive)) {
-    Console::complain(
-        say(QT_TRANSLATE_NOOP("Subcommand", "%1: there is no such document; check the name and the folder."))
-            .arg(first));
+    Console::complain(Texts::tr("%1: there is no such document; check the name and the folder.").arg(first));
     return WorkFailed;
   }
-  Console::complain(say(QT_TRANSLATE_NOOP("Subcommand",
-                                          "\"%1\" is neither a subcommand nor a document; plotvane "
-                                          "--help lists the subcommands."))
+  Console::complain(Texts::tr("\"%1\" is neither a subcommand nor a document; plotvane "
+                              "--help lists the subcommands.")
                         .arg(first));
   return WrongArguments;
 }
@@ -66,7 +65,7 @@ ExitStatus dispatch(QStringList const& arguments) {
 // The parser's own usage line names the executable's path and not the subcommand.
 QString helpText(Subcommand const& self, QCommandLineParser const& parser) {
   QString const text = parser.helpText();
-  return say(QT_TRANSLATE_NOOP("Subcommand", "Usage: plotvane %1 [options] %2"))
+  return Texts::tr("Usage: plotvane %1 [options] %2")
              .arg(QLatin1String(self.name), QLatin1String(self.operands))
              .trimmed() +
          text.mid(text.indexOf(QLatin1Char('\n'))).trimmed().prepend(QStringLiteral("\n"));
@@ -88,21 +87,19 @@ bool asksForWindow(QStringList arguments) {
 int runCommandLine(QStringList const& arguments) {
   ExitStatus const status = dispatch(arguments);
   if (Console::finish()) return status;
-  Console::complain(say(QT_TRANSLATE_NOOP("Subcommand", "The result could not be written to standard output.")));
+  Console::complain(Texts::tr("The result could not be written to standard output."));
   return status == Done ? WorkFailed : status;
 }
 
 std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLineParser& parser,
                                          QStringList const& arguments) {
-  QCommandLineOption const help({QStringLiteral("h"), QStringLiteral("help")},
-                                say(QT_TRANSLATE_NOOP("Subcommand", "Show this help.")));
+  QCommandLineOption const help({QStringLiteral("h"), QStringLiteral("help")}, Texts::tr("Show this help."));
   // Its value was taken out of the arguments before; here it is for the help.
-  QCommandLineOption const language(
-      QLatin1String(languageOption),
-      say(QT_TRANSLATE_NOOP("Subcommand", "The language of the texts, such as de; the user's own if not given.")),
-      QStringLiteral("LANG"));
+  QCommandLineOption const language(QLatin1String(languageOption),
+                                    Texts::tr("The language of the texts, such as de; the user's own if not given."),
+                                    QStringLiteral("LANG"));
   parser.addOptions({language, help});
-  parser.setApplicationDescription(say(QT_TRANSLATE_NOOP("Subcommand", "%1.")).arg(say(self.help)));
+  parser.setApplicationDescription(Texts::tr("%1.").arg(Texts::tr(self.help)));
   bool const understood = parser.parse(QStringList(QStringLiteral("plotvane")) + arguments);
   if (parser.isSet(help)) {
     Console::print(helpText(self, parser));
@@ -112,15 +109,12 @@ std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLinePar
   QString problem = understood ? QString() : parser.errorText();
   QStringList const operands = QString::fromLatin1(self.operands).split(QLatin1Char(' '), Qt::SkipEmptyParts);
   int const given = parser.positionalArguments().size();
-  if (problem.isEmpty() && given < operands.size())
-    problem = say(QT_TRANSLATE_NOOP("Subcommand", "%1 is missing.")).arg(operands.at(given));
+  if (problem.isEmpty() && given < operands.size()) problem = Texts::tr("%1 is missing.").arg(operands.at(given));
   bool const takesMore = !operands.isEmpty() && operands.last().endsWith(QLatin1String("..."));
   if (problem.isEmpty() && given > operands.size() && !takesMore)
-    problem = say(QT_TRANSLATE_NOOP("Subcommand", "\"%1\" is one argument too many."))
-                  .arg(parser.positionalArguments().at(operands.size()));
+    problem = Texts::tr("\"%1\" is one argument too many.").arg(parser.positionalArguments().at(operands.size()));
   if (problem.isEmpty()) return std::nullopt;
-  Console::complain(
-      QStringLiteral("%1: %2 ").arg(QLatin1String(self.name), problem) +
-      say(QT_TRANSLATE_NOOP("Subcommand", "plotvane %1 --help tells how.")).arg(QLatin1String(self.name)));
+  Console::complain(QStringLiteral("%1: %2 ").arg(QLatin1String(self.name), problem) +
+                    Texts::tr("plotvane %1 --help tells how.").arg(QLatin1String(self.name)));
   return WrongArguments;
 }

@@ -27,9 +27,11 @@ namespace {
 constexpr int thumbnailPx = 256;
 constexpr double cmPerInch = 2.54, pixelsPerInch = 96.0;
 
-QString translated(char const* text) { return QCoreApplication::translate("MapDocument", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(MapDocument)
+};
 
-SysUtility::JsonFileKind documentKind() { return {translated("map document"), QStringLiteral(".kdx"), 256}; }
+SysUtility::JsonFileKind documentKind() { return {Texts::tr("map document"), QStringLiteral(".kdx"), 256}; }
 
 QString folderOf(QString const& path) { return QFileInfo(path).absolutePath(); }
 
@@ -38,7 +40,7 @@ QString keepOldFile(QString const& path) {
   QFile file(path);
   if (!file.exists()) return QString();
   if (!file.open(QIODevice::ReadOnly))
-    return aboutFile(path, translated("the old file can't be read to keep it as a backup (%1); save without a backup")
+    return aboutFile(path, Texts::tr("the old file can't be read to keep it as a backup (%1); save without a backup")
                                .arg(file.errorString()));
   return SysUtility::FileSaver::save(path + QLatin1Char('~'), file.readAll());
 }
@@ -46,8 +48,8 @@ QString keepOldFile(QString const& path) {
 QStringList unknownFieldSentences(QString const& path, QStringList const& fields) {
   QStringList sentences;
   for (QString const& field : fields)
-    sentences << aboutFile(path, field + translated(": this field is unknown; it has no effect and will be missing "
-                                                    "after the next save"));
+    sentences << aboutFile(path, field + Texts::tr(": this field is unknown; it has no effect and will be missing "
+                                                   "after the next save"));
   return sentences;
 }
 
@@ -100,14 +102,14 @@ std::optional<QByteArray> MapDocument::Private::textFor(QString const& file, boo
   Archive archive;
   describeDocument(archive, written, context);
   if (archive.ok()) return SysUtility::jsonText(archive.json());
-  problem = aboutFile(file, archive.error() + translated("; change this value, then save again"));
+  problem = aboutFile(file, archive.error() + Texts::tr("; change this value, then save again"));
   return std::nullopt;
 }
 
 // Everything that can go wrong does so before the old file gives way.
 QString MapDocument::Private::write(QString const& file, bool relativePaths, bool keepBackup) const {
-  if (!content.layout) return translated("There is no document to save; open one or make a new one.");
-  if (file.isEmpty()) return translated("The document has no file yet; save it under a name.");
+  if (!content.layout) return Texts::tr("There is no document to save; open one or make a new one.");
+  if (file.isEmpty()) return Texts::tr("The document has no file yet; save it under a name.");
   QString problem;
   auto const text = textFor(file, relativePaths, problem);
   if (text && keepBackup) problem = keepOldFile(file);
@@ -137,7 +139,7 @@ bool MapDocument::Open(QString const& path) {
   Archive archive(*json);
   describeDocument(archive, content, context);
   if (!archive.ok())
-    return d->failed(aboutFile(path, archive.error() + translated("; correct the file or open another one")));
+    return d->failed(aboutFile(path, archive.error() + Texts::tr("; correct the file or open another one")));
 
   content.layout->ZoomToWholePage();
   d->take(path, content);

@@ -20,7 +20,9 @@ constexpr qint64 mostPixels = 100000000;
 constexpr qint64 mostSvgBytes = 2 * 1024 * 1024;
 constexpr int cellPx = 256;
 
-QString translated(char const* text) { return QCoreApplication::translate("PictureElement", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(PictureElement)
+};
 
 bool isPixelFormat(QByteArray const& format) { return format == "png" || format == "jpeg" || format == "jpg"; }
 
@@ -38,21 +40,21 @@ QString const& PictureSource::problem() {
 }
 
 QString PictureSource::load() {
-  if (path_.isEmpty()) return translated("The picture has no file; choose one.");
-  if (!QFileInfo(path_).isFile()) return translated("%1: there is no such picture file; put it there.").arg(path_);
+  if (path_.isEmpty()) return Texts::tr("The picture has no file; choose one.");
+  if (!QFileInfo(path_).isFile()) return Texts::tr("%1: there is no such picture file; put it there.").arg(path_);
   QImageReader reader(path_);
   reader.setDecideFormatFromContent(true);
   QByteArray const format = reader.format();
   if (isPixelFormat(format)) return loadImage(reader);
   if (format == "svg") return loadSvg();
-  return translated("%1: the picture is neither PNG nor JPEG nor SVG; save it as one of these.").arg(path_);
+  return Texts::tr("%1: the picture is neither PNG nor JPEG nor SVG; save it as one of these.").arg(path_);
 }
 
 QString PictureSource::loadImage(QImageReader& reader) {
   QSize const size = reader.size();
-  if (size.isEmpty()) return translated("%1: the picture's size can't be read; save it anew.").arg(path_);
+  if (size.isEmpty()) return Texts::tr("%1: the picture's size can't be read; save it anew.").arg(path_);
   if (std::max(size.width(), size.height()) > largestSidePx || areaOf(size) > mostPixels)
-    return translated("%1: the picture has %2 × %3 pixels; make it smaller than %4 pixels a side and %5 pixels in all.")
+    return Texts::tr("%1: the picture has %2 × %3 pixels; make it smaller than %4 pixels a side and %5 pixels in all.")
         .arg(path_)
         .arg(size.width())
         .arg(size.height())
@@ -60,21 +62,21 @@ QString PictureSource::loadImage(QImageReader& reader) {
         .arg(mostPixels);
   reader.setAutoTransform(true);
   QImage const image = reader.read();
-  if (image.isNull()) return translated("%1: the picture can't be read: %2.").arg(path_, reader.errorString());
+  if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(path_, reader.errorString());
   image_ = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
   return {};
 }
 
 QString PictureSource::loadSvg() {
   QFile file(path_);
-  if (!file.open(QIODevice::ReadOnly)) return translated("%1: the picture can't be opened.").arg(path_);
+  if (!file.open(QIODevice::ReadOnly)) return Texts::tr("%1: the picture can't be opened.").arg(path_);
   QByteArray const content = file.read(mostSvgBytes + 1);
   QString const refused = SysDisplay::svgProblem(content);
   if (!refused.isEmpty()) return QStringLiteral("%1: %2.").arg(path_, refused);
   svg_ = std::make_unique<QSvgRenderer>(content);
   if (svg_->isValid() && !svg_->viewBoxF().isEmpty()) return {};
   svg_.reset();
-  return translated("%1: the SVG can't be drawn; save it with a size.").arg(path_);
+  return Texts::tr("%1: the SVG can't be drawn; save it with a size.").arg(path_);
 }
 
 void PictureSource::draw(QPainter& painter, QRect const& targetPx) {

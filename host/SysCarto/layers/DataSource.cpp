@@ -17,7 +17,9 @@ namespace SysCarto {
 
 namespace {
 
-QString translated(char const* text) { return QCoreApplication::translate("DataSource", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(DataSource)
+};
 
 // Formats whose files hold their data themselves. VRT, CSVT, WFS, PostgreSQL and the like lead elsewhere.
 char const* const allowedDrivers[] = {"GPKG", "GeoJSON", "ESRI Shapefile", "FlatGeobuf", nullptr};
@@ -51,22 +53,22 @@ QString layerNames(GDALDataset& dataset) {
 }
 
 QString cannotOpen(QString const& path, QString const& reason) {
-  return translated("The file “%1” can't be opened: %2.").arg(path, reason);
+  return Texts::tr("The file “%1” can't be opened: %2.").arg(path, reason);
 }
 
 }  // namespace
 
 QString DataSource::refusal(QString const& path) {
-  if (path.isEmpty()) return translated("The source names no file; give the path of a local file.");
+  if (path.isEmpty()) return Texts::tr("The source names no file; give the path of a local file.");
   if (path.startsWith(QLatin1String("/vsi"), Qt::CaseInsensitive))
-    return translated("The source “%1” is not a local file: virtual file systems are not opened.").arg(path);
+    return Texts::tr("The source “%1” is not a local file: virtual file systems are not opened.").arg(path);
   if (path.contains(QLatin1String("://")))
-    return translated("The source “%1” is not a local file: addresses are not opened.").arg(path);
+    return Texts::tr("The source “%1” is not a local file: addresses are not opened.").arg(path);
   static QRegularExpression const prefix(QStringLiteral("^[A-Za-z][A-Za-z0-9_+.-]*:"));
   if (prefix.match(path).hasMatch())
-    return translated("The source “%1” is not a plain path: leave out the prefix before the colon.").arg(path);
+    return Texts::tr("The source “%1” is not a plain path: leave out the prefix before the colon.").arg(path);
   if (path.contains(QChar(0)) || path.trimmed().startsWith(QLatin1Char('{')) || path.startsWith(QLatin1Char('<')))
-    return translated("The source “%1” is not a path.").arg(path.left(40));
+    return Texts::tr("The source “%1” is not a path.").arg(path.left(40));
   return QString();
 }
 
@@ -75,11 +77,11 @@ std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const&
   if (!error.isEmpty()) return nullptr;
   QFileInfo const file(path);
   if (!file.exists())
-    error = cannotOpen(path, translated("it does not exist"));
+    error = cannotOpen(path, Texts::tr("it does not exist"));
   else if (!file.isFile())
-    error = cannotOpen(path, translated("it is not a file"));
+    error = cannotOpen(path, Texts::tr("it is not a file"));
   else if (!file.isReadable())
-    error = cannotOpen(path, translated("reading it is not permitted"));
+    error = cannotOpen(path, Texts::tr("reading it is not permitted"));
   if (!error.isEmpty()) return nullptr;
 
   stayOffline();
@@ -87,7 +89,7 @@ std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const&
   GdalErrors const errors;
   GDALDataset* const dataset = openDataset(file.absoluteFilePath());
   if (!dataset) {
-    QString const known = translated("it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file");
+    QString const known = Texts::tr("it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file");
     error = cannotOpen(path,
                        errors.hasFailure() ? known + QLatin1String(" (") + errors.reason() + QLatin1Char(')') : known);
     return nullptr;
@@ -95,7 +97,7 @@ std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const&
   OGRLayer* const layer =
       layerName.isEmpty() ? dataset->GetLayer(0) : dataset->GetLayerByName(layerName.toUtf8().constData());
   if (!layer) {
-    error = translated("The file “%1” has no layer “%2”; it has: %3.").arg(path, layerName, layerNames(*dataset));
+    error = Texts::tr("The file “%1” has no layer “%2”; it has: %3.").arg(path, layerName, layerNames(*dataset));
     GDALClose(dataset);
     return nullptr;
   }

@@ -19,11 +19,13 @@ namespace SysCarto {
 
 namespace {
 
-QString translated(char const* text) { return QCoreApplication::translate("FeatureReader", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(FeatureReader)
+};
 
 QString describeSource(SourceSettings const& source) {
-  return source.layer.isEmpty() ? translated("the file “%1”").arg(source.file)
-                                : translated("layer “%2” of the file “%1”").arg(source.file, source.layer);
+  return source.layer.isEmpty() ? Texts::tr("the file “%1”").arg(source.file)
+                                : Texts::tr("layer “%2” of the file “%1”").arg(source.file, source.layer);
 }
 
 // A field of the layer, or none.
@@ -32,7 +34,7 @@ public:
   Field(OGRLayer& layer, QString const& name, SourceSettings const& source, QStringList& warnings)
       : index_(name.isEmpty() ? -1 : layer.GetLayerDefn()->GetFieldIndex(name.toUtf8().constData())) {
     if (!name.isEmpty() && index_ < 0)
-      warnings << translated("There is no field “%1” in %2; it has: %3.")
+      warnings << Texts::tr("There is no field “%1” in %2; it has: %3.")
                       .arg(name, describeSource(source), fieldNames(*layer.GetLayerDefn()));
   }
 
@@ -78,20 +80,20 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
   auto const target = makeCoordinateSystem(mapSystem);
   auto const given = makeCoordinateSystem(source.coordinateSystem);
   if (!source.coordinateSystem.isEmpty() && !given) {
-    result.error = translated("The coordinate system of %1 %2.")
+    result.error = Texts::tr("The coordinate system of %1 %2.")
                        .arg(describeSource(source), checkCoordinateSystem(source.coordinateSystem));
     return nullptr;
   }
   OGRSpatialReference const* const own = given ? given.get() : layer.GetSpatialRef();
   if (!own && target)
-    result.warnings << translated(
+    result.warnings << Texts::tr(
                            "No coordinate system is known for %1; its coordinates are taken as those of the map. "
                            "Give one in the source's field “coordinateSystem”.")
                            .arg(describeSource(source));
   QString reason;
   auto projector = GeometryProjector::create(own, target.get(), reason);
   if (!projector)
-    result.error = translated("The coordinates of %1 can't be projected to the map's coordinate system: %2.")
+    result.error = Texts::tr("The coordinates of %1 can't be projected to the map's coordinate system: %2.")
                        .arg(describeSource(source), reason);
   return projector;
 }
@@ -116,8 +118,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   QString const unplaced = intake.finish();
   store.finish();
   if (!unplaced.isEmpty())
-    result.warnings
-        << translated("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
+    result.warnings << Texts::tr("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
 }
 
 }  // namespace
@@ -134,13 +135,13 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
   QString reason;
   if (!condition.compile(data->layer(), source.filter, reason)) {
     result.error =
-        translated("The filter “%1” of %2 is not understood: %3.").arg(source.filter, describeSource(source), reason);
+        Texts::tr("The filter “%1” of %2 is not understood: %3.").arg(source.filter, describeSource(source), reason);
     return result;
   }
   GdalErrors const errors;
   readAll(data->layer(), *projector, condition, renderer, source, labels, result);
   if (errors.hasFailure())
-    result.error = translated("Not all of %1 could be read: %2.").arg(describeSource(source), errors.reason());
+    result.error = Texts::tr("Not all of %1 could be read: %2.").arg(describeSource(source), errors.reason());
   return result;
 }
 

@@ -20,7 +20,9 @@ namespace {
 constexpr int mostClasses = 10000;
 constexpr double farthest = 1e300;
 
-QString translated(char const* text) { return QCoreApplication::translate("Renderer", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Renderer)
+};
 
 enum Kind { Simple, UniqueValues, Graduated };
 
@@ -59,7 +61,7 @@ public:
       describeSymbol(item, "symbol", one.symbol);
       for (QString const& value : one.values) {
         if (item.reading() && classByValue_.contains(value))
-          item.fail("values", translated("“%1” is in two classes").arg(value.left(64)));
+          item.fail("values", Texts::tr("“%1” is in two classes").arg(value.left(64)));
         classByValue_.insert(value, i);
       }
     });
@@ -91,7 +93,7 @@ public:
       item.text("label", one.label, QString());
       describeSymbol(item, "symbol", one.symbol);
       if (i > 0 && !(one.minimum > classes_[i - 1].minimum))
-        item.fail("minimum", translated("is not above that of the class before"));
+        item.fail("minimum", Texts::tr("is not above that of the class before"));
     });
     describeOthers(archive);
   }
@@ -103,7 +105,7 @@ Renderer::~Renderer() = default;
 
 void Renderer::describeField(Archive& archive) {
   archive.text("field", field_);
-  if (field_.isEmpty()) archive.fail("field", translated("names no field"));
+  if (field_.isEmpty()) archive.fail("field", Texts::tr("names no field"));
 }
 
 void Renderer::describeOthers(Archive& archive) {

@@ -14,7 +14,9 @@ namespace {
 
 constexpr int mostCharacters = 16384;
 
-QString translated(char const* text) { return QCoreApplication::translate("CoordinateSystem", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(CoordinateSystem)
+};
 
 bool matches(QString const& text, char const* pattern) {
   return QRegularExpression(QString::fromLatin1(pattern), QRegularExpression::CaseInsensitiveOption)
@@ -51,18 +53,18 @@ using SystemPtr = std::unique_ptr<OGRSpatialReference>;
 QString read(QString const& definition, SystemPtr& system) {
   QString const text = definition.trimmed();
   if (text.isEmpty()) return QString();
-  if (text.size() > mostCharacters) return translated("is longer than a coordinate system can be");
+  if (text.size() > mostCharacters) return Texts::tr("is longer than a coordinate system can be");
   if (!isKnownNotation(text))
-    return translated("“%1” is no coordinate system; give a code such as EPSG:8857, WKT or a PROJ text")
+    return Texts::tr("“%1” is no coordinate system; give a code such as EPSG:8857, WKT or a PROJ text")
         .arg(text.left(64).simplified());
   if (namesFile(text))
-    return translated("names a file, and a document's coordinate system may not; leave out the grid or the file");
+    return Texts::tr("names a file, and a document's coordinate system may not; leave out the grid or the file");
   SystemPtr parsed = parse(text);
   if (!parsed)
-    return translated("“%1” is not a coordinate system that PROJ knows; give a code such as EPSG:8857")
+    return Texts::tr("“%1” is not a coordinate system that PROJ knows; give a code such as EPSG:8857")
         .arg(text.left(64).simplified());
   if (!parsed->IsGeographic() && !parsed->IsProjected())
-    return translated("is neither geographic nor projected; leave it empty for plain coordinates");
+    return Texts::tr("is neither geographic nor projected; leave it empty for plain coordinates");
   system = std::move(parsed);
   return QString();
 }
