@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -19,6 +20,8 @@
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTimer>
+
+#include <optional>
 
 namespace {
 
@@ -50,10 +53,26 @@ bool type(QLineEdit& edit, QString const& value) {
   return taken;
 }
 
-bool press(QAbstractButton& button, QString const& value) {
+std::optional<bool> isOn(QString const& value) {
   bool const isOff = isSame(QStringLiteral("off"), value);
-  if (button.isCheckable() ? !isOff && !isSame(QStringLiteral("on"), value) : isOff) return false;
-  if (!button.isCheckable() || button.isChecked() == isOff) button.click();
+  return isOff || isSame(QStringLiteral("on"), value) ? std::optional(!isOff) : std::nullopt;
+}
+
+bool press(QAbstractButton& button, QString const& value) {
+  auto const wanted = isOn(value);
+  if (button.isCheckable() ? !wanted : wanted == false) return false;
+  if (!button.isCheckable() || button.isChecked() != wanted) button.click();
+  return true;
+}
+
+bool press(QGroupBox& box, QString const& value) {
+  auto const wanted = isOn(value);
+  if (!box.isCheckable() || !wanted) return false;
+  if (box.isChecked() == wanted) return true;
+  for (auto const type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent space(type, Qt::Key_Space, Qt::NoModifier);
+    QApplication::sendEvent(&box, &space);
+  }
   return true;
 }
 
@@ -96,6 +115,7 @@ bool setValue(QWidget& widget, QString const& value) {
   double const number = value.toDouble(&isNumber);
   if (auto* const edit = qobject_cast<QLineEdit*>(&widget)) return type(*edit, value);
   if (auto* const button = qobject_cast<QAbstractButton*>(&widget)) return press(*button, value);
+  if (auto* const box = qobject_cast<QGroupBox*>(&widget)) return press(*box, value);
   if (auto* const box = qobject_cast<QComboBox*>(&widget)) return choose(*box, value);
   if (auto* const view = qobject_cast<QAbstractItemView*>(&widget)) return choose(*view, value);
   if (auto* const tabs = qobject_cast<QTabWidget*>(&widget)) return choose(*tabs, value);

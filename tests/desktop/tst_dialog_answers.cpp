@@ -6,11 +6,13 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QIntValidator>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include <optional>
@@ -33,11 +35,16 @@ public:
     portrait = named(new QRadioButton("Portrait"), "radioButton_Portrait");
     form = named(new QComboBox, "comboBox_Form");
     form->addItems({"A4", "A3"});
+    border = named(new QGroupBox("Border"), "groupBox_Border");
+    border->setCheckable(true);
+    border->setChecked(false);
+    gap = named(new QSpinBox(border), "spinBox_BorderGap");
     auto* const ask = named(new QPushButton("Ask"), "pushButton_Ask");
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    for (QWidget* widget : QList<QWidget*>{dpi, isOn, portrait, form, ask, buttons}) box->addWidget(widget);
+    for (QWidget* widget : QList<QWidget*>{dpi, isOn, portrait, form, border, ask, buttons}) box->addWidget(widget);
     connect(dpi, &QLineEdit::textEdited, [this] { ++edits; });
     connect(form, QOverload<int>::of(&QComboBox::activated), [this] { ++activations; });
+    connect(border, &QGroupBox::clicked, [this](bool isChecked) { switches += isChecked ? "on " : "off "; });
     connect(ask, &QPushButton::clicked, [this] { reply = QMessageBox::question(this, "Sure", "Really?"); });
     connect(buttons, &QDialogButtonBox::accepted, this, [this] {
       if (dpi->text() != "13") accept();  // a dialog may refuse what it was given
@@ -49,6 +56,9 @@ public:
   QCheckBox* isOn;
   QRadioButton* portrait;
   QComboBox* form;
+  QGroupBox* border;
+  QSpinBox* gap;
+  QString switches;
   int edits = 0, activations = 0, reply = QMessageBox::NoButton;
 
 private:
@@ -74,7 +84,9 @@ private slots:
     SampleDialog dialog;
     for (auto const& [widget, value] :
          {std::make_pair("lineEdit_DPI", "150"), std::make_pair("checkBox_On", "on"),
-          std::make_pair("radioButton_Portrait", "on"), std::make_pair("comboBox_Form", "a3")})
+          std::make_pair("radioButton_Portrait", "on"), std::make_pair("comboBox_Form", "a3"),
+          std::make_pair("groupBox_Border", "on"), std::make_pair("spinBox_BorderGap", "7"),
+          std::make_pair("groupBox_Border", "off")})
       answers_->add(answer(widget, value));
     QCOMPARE(dialog.exec(), int(QDialog::Accepted));
     QCOMPARE(dialog.dpi->text(), QString("150"));
@@ -82,6 +94,8 @@ private slots:
     QCOMPARE(dialog.activations, 1);
     QVERIFY(dialog.isOn->isChecked() && dialog.portrait->isChecked());
     QCOMPARE(dialog.form->currentText(), QString("A3"));
+    QCOMPARE(dialog.switches, QString("on off "));
+    QCOMPARE(dialog.gap->value(), 7);
   }
 
   void aMessageBoxBehindAButtonTakesTheNextAnswer() {
@@ -108,6 +122,7 @@ private slots:
     row("a dialog without an answer", "", "", "the dialog \"Sample\" (SampleDialog): nobody answers it; put");
     row("an answer for another dialog", "comboBox_Other", "1", "the next answer is for comboBox_Other");
     row("a value that the validator refuses", "lineEdit_DPI", "many", "lineEdit_DPI does not take \"many\"");
+    row("a number behind a box that is off", "spinBox_BorderGap", "7", "spinBox_BorderGap does not take \"7\"");
     row("an entry that a list has not", "comboBox_Form", "A9", "comboBox_Form does not take \"A9\"");
     row("a value that the dialog refuses", "lineEdit_DPI", "13", "it can't be accepted like this");
     row("a message box without an answer", "pushButton_Ask", "click", "the message box \"Sure\" (\"Really?\")");
