@@ -1373,6 +1373,10 @@
         <source>Scale of the map in the focus data frame; type another one</source>
         <translation>Maßstab der Karte im aktiven Datenrahmen; hier lässt sich ein anderer eingeben</translation>
     </message>
+    <message>
+        <source>“%1” is no scale; type one like 1:25,000, 10M or 12.5 million</source>
+        <translation>„%1“ ist kein Maßstab; einzugeben ist etwas wie 1:25.000, 10 Mio oder 12,5 Mio</translation>
+    </message>
 </context>
 <context>
     <name>Map</name>
@@ -1827,7 +1831,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
 <context>
     <name>SysAdapterUI::ColorButton</name>
     <message>
-        <source>Choose Color</source>
+        <source>Choose Colour</source>
         <translation>Farbe wählen</translation>
     </message>
 </context>
@@ -1842,7 +1846,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
         <translation>Linie:</translation>
     </message>
     <message>
-        <source>Color:</source>
+        <source>Colour:</source>
         <translation>Farbe:</translation>
     </message>
     <message>
@@ -1958,7 +1962,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
         <translation>Keine Füllung</translation>
     </message>
     <message>
-        <source>Plain color</source>
+        <source>Plain colour</source>
         <translation>Einfarbig</translation>
     </message>
 </context>

@@ -1373,6 +1373,10 @@
         <source>Scale of the map in the focus data frame; type another one</source>
         <translation>活动数据框中地图的比例尺；可输入其他值</translation>
     </message>
+    <message>
+        <source>“%1” is no scale; type one like 1:25,000, 10M or 12.5 million</source>
+        <translation>“%1”不是比例尺；请输入如 1:25,000、10M 或 1250万</translation>
+    </message>
 </context>
 <context>
     <name>Map</name>
@@ -1827,7 +1831,7 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
 <context>
     <name>SysAdapterUI::ColorButton</name>
     <message>
-        <source>Choose Color</source>
+        <source>Choose Colour</source>
         <translation>选择颜色</translation>
     </message>
 </context>
@@ -1842,7 +1846,7 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <translation>线型：</translation>
     </message>
     <message>
-        <source>Color:</source>
+        <source>Colour:</source>
         <translation>颜色：</translation>
     </message>
     <message>
@@ -1958,7 +1962,7 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <translation>无填充</translation>
     </message>
     <message>
-        <source>Plain color</source>
+        <source>Plain colour</source>
         <translation>纯色</translation>
     </message>
 </context>

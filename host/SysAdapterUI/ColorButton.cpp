@@ -38,7 +38,7 @@ void ColorButton::setColor(QColor const& color) {
 }
 
 void ColorButton::choose() {
-  QColor const chosen = QColorDialog::getColor(color_, this, tr("Choose Color"), QColorDialog::ShowAlphaChannel);
+  QColor const chosen = QColorDialog::getColor(color_, this, tr("Choose Colour"), QColorDialog::ShowAlphaChannel);
   if (!chosen.isValid() || chosen == color_) return;
   setColor(chosen);
   emit colorChosen(chosen);

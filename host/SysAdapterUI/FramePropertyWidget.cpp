@@ -45,7 +45,7 @@ constexpr StyleName<SimpleLineStyle> lineStyles[] = {
     {SimpleLineStyle::Null,       QT_TRANSLATE_NOOP("SysAdapterUI::FramePropertyWidget", "No line")},
 };
 constexpr StyleName<SimpleFillStyle> fillStyles[] = {
-    {SimpleFillStyle::Solid,            QT_TRANSLATE_NOOP("SysAdapterUI::FramePropertyWidget", "Plain color")},
+    {SimpleFillStyle::Solid,            QT_TRANSLATE_NOOP("SysAdapterUI::FramePropertyWidget", "Plain colour")},
     {SimpleFillStyle::Horizontal,       QT_TRANSLATE_NOOP("SysAdapterUI::FramePropertyWidget", "Horizontal lines")},
     {SimpleFillStyle::Vertical,         QT_TRANSLATE_NOOP("SysAdapterUI::FramePropertyWidget", "Vertical lines")},
     {SimpleFillStyle::BackwardDiagonal, QT_TRANSLATE_NOOP("SysAdapterUI::FramePropertyWidget", "Lines rising to the right")},

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "Icons.h"
+#include "ScaleText.h"
 
 #include <SysCarto/Map.h>
 
@@ -24,6 +25,7 @@ namespace {
 constexpr QSize firstSize(1280, 860);
 constexpr int contentsWidthPx = 230;
 constexpr int labelMarginPx = 8;
+constexpr int refusalMs = 8000;
 constexpr int everything = SysCarto::ViewSurface::everything;
 QString const geometryKey = QStringLiteral("window/geometry");
 QString const stateKey = QStringLiteral("window/state");
@@ -212,16 +214,18 @@ void MainWindow::showPointer(QPoint const& positionPx) {
   position_->setText(tr("x %1 cm  y %2 cm").arg(point->GetX(), 0, 'f', 2).arg(point->GetY(), 0, 'f', 2));
 }
 
-// About the map's centre, where the scale is true. What is no scale gives way to the one there is.
+// About the map's centre, where the scale is true. What is no scale is told, and gives way to the one there is.
 void MainWindow::takeScale() {
   if (!scale_->isModified()) return;
   scale_->setModified(false);
-  QString digits = scale_->text().section(QLatin1Char(':'), -1).remove(locale().groupSeparator());
-  double const wanted = locale().toDouble(digits.remove(QLatin1Char(' ')));
+  auto const wanted = scaleDenominatorOf(scale_->text());
+  if (!wanted)
+    statusBar()->showMessage(
+        tr("“%1” is no scale; type one like 1:25,000, 10M or 12.5 million").arg(scale_->text().left(40)), refusalMs);
   auto const layout = bench_.views().GetPageLayout();
   auto const map = layout ? layout->GetFocusMap() : nullptr;
-  if (map && wanted > 0) {
-    double const factor = wanted / map->GetDisplayTransformation()->GetMapScale();
+  if (map && wanted) {
+    double const factor = *wanted / map->GetDisplayTransformation()->GetMapScale();
     auto const extent = map->GetExtent();
     extent->Expand(extent->GetWidth() * (factor - 1) / 2, extent->GetHeight() * (factor - 1) / 2, false);
     map->SetExtent(extent);

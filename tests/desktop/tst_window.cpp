@@ -5,6 +5,7 @@
 #include "host/desktop/DialogAnswers.h"
 #include "host/desktop/Icons.h"
 #include "host/desktop/MainWindow.h"
+#include "host/desktop/ScaleText.h"
 
 #include <QCloseEvent>
 #include <QDropEvent>
@@ -13,6 +14,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QSettings>
+#include <QStatusBar>
 #include <QTreeWidget>
 #include <QUndoStack>
 
@@ -235,6 +237,25 @@ private slots:
     QTRY_VERIFY(!sample.window.isWindowModified());
   }
 
+  void aScaleIsReadInTheMannerOfAnyLanguage_data() {
+    Rows<double> row;
+    for (char const* text : {"1:12000000", "1:12,000,000", "1:12.000.000", "1/12 000 000", "12'000'000", "12M",
+                             "12 Mio.", "12000 Tsd.", "1：1200万", "1,20,00,000", "12,000,000.00"})
+      row(text, 12e6);
+    row("12,5 Mio", 12.5e6);
+    row("1.500 Mio", 1.5e6);
+    row("1:12.500", 12500);
+    row("1:12,5", 12.5);
+    row("1:0.500", 0.5);
+    for (char const* text : {"", "junk", "1:", "0", "-5", "2:1000", "1:12.00.0", "1.2.3,4", "12 Furlongs", "99 Mrd"})
+      row(QByteArray("no scale: ") + text, 0);
+  }
+  void aScaleIsReadInTheMannerOfAnyLanguage() {
+    auto const [denominator] = fetched<double>();
+    QString const text = QString(QTest::currentDataTag()).remove("no scale: ");
+    QCOMPARE(scaleDenominatorOf(text).value_or(0), denominator);
+  }
+
   void theMapMovesInItsFrame() {
     WorldWindow sample;
     auto const layout = sample.window.bench().views().GetPageLayout();
@@ -244,6 +265,7 @@ private slots:
     QTest::keyClicks(field, "junk");
     QTest::keyClick(field, Qt::Key_Return);
     QCOMPARE(field->text(), "1:" + sample.window.locale().toString(scale(), 'f', 0));
+    QVERIFY(sample.window.statusBar()->currentMessage().contains("junk"));
     field->selectAll();
     QTest::keyClicks(field, "1:50000000");
     QTest::keyClick(field, Qt::Key_Return);
