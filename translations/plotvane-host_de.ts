@@ -804,6 +804,10 @@
         <source>No recent files</source>
         <translation>Keine zuletzt geöffneten Dateien</translation>
     </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 existiert bereits. Ersetzen?</translation>
+    </message>
 </context>
 <context>
     <name>DocumentReport</name>
@@ -1000,10 +1004,6 @@
         <translation>Das .kdx-Dokument.</translation>
     </message>
     <message>
-        <source>The file to write: .png, .jpg, .bmp or .tif. Any other suffix gives a TIFF.</source>
-        <translation>Die zu schreibende Datei: .png, .jpg, .bmp oder .tif. Jede andere Endung ergibt ein TIFF.</translation>
-    </message>
-    <message>
         <source>Pixels per inch of paper, 1 to %1; %2 if not given.</source>
         <translation>Pixel je Zoll Papier, 1 bis %1; %2, wenn nicht angegeben.</translation>
     </message>
@@ -1024,10 +1024,6 @@
         <translation>%1: Dieses GDAL kann %2 nicht schreiben; wählen Sie ein anderes Format, oder installieren Sie ein GDAL, das es kann.</translation>
     </message>
     <message>
-        <source>%1 will be a TIFF; .png, .jpg and .bmp name the other formats.</source>
-        <translation>%1 wird ein TIFF; .png, .jpg und .bmp stehen für die anderen Formate.</translation>
-    </message>
-    <message>
         <source>%1: data sources could not be read, so the page would not be whole; mend them, or pass --allow-missing.</source>
         <translation>%1: Datenquellen konnten nicht gelesen werden, die Seite wäre also nicht vollständig; reparieren Sie sie, oder geben Sie --allow-missing an.</translation>
     </message>
@@ -1046,6 +1042,22 @@
     <message>
         <source>%1 was not written: %2. Is the disk full?</source>
         <translation>%1 wurde nicht geschrieben: %2. Ist der Datenträger voll?</translation>
+    </message>
+    <message>
+        <source>The file to write; its suffix names the format: %1. Without one it is a TIFF.</source>
+        <translation>Die zu schreibende Datei; ihre Endung nennt das Format: %1. Ohne Endung wird es ein TIFF.</translation>
+    </message>
+    <message>
+        <source>The format, whatever the suffix: %1.</source>
+        <translation>Das Format, gleich welche Endung: %1.</translation>
+    </message>
+    <message>
+        <source>export: --format takes one of %1, not &quot;%2&quot;.</source>
+        <translation>export: --format nimmt eines von %1, nicht „%2“.</translation>
+    </message>
+    <message>
+        <source>export: %1: &quot;.%2&quot; names no image format; use one of %3, or pass --format tiff or another.</source>
+        <translation>export: %1: „.%2“ nennt kein Bildformat; nehmen Sie eine der Endungen %3, oder geben Sie --format tiff oder ein anderes an.</translation>
     </message>
 </context>
 <context>
@@ -1090,40 +1102,36 @@
 <context>
     <name>FileSaver</name>
     <message>
-        <source>“%1” was not saved: %2. %3</source>
-        <translation>„%1“ wurde nicht gespeichert: %2. %3</translation>
-    </message>
-    <message>
-        <source>it is a folder</source>
-        <translation>es ist ein Ordner</translation>
-    </message>
-    <message>
         <source>its folder does not exist</source>
         <translation>der Ordner existiert nicht</translation>
-    </message>
-    <message>
-        <source>Choose a place where you may write.</source>
-        <translation>Wählen Sie einen Ort, an dem Sie schreiben dürfen.</translation>
     </message>
     <message>
         <source>there is no room for it</source>
         <translation>es ist kein Platz dafür</translation>
     </message>
     <message>
-        <source>Free some space or choose another place.</source>
-        <translation>Schaffen Sie Platz, oder wählen Sie einen anderen Ort.</translation>
+        <source>this is a folder</source>
+        <translation>dies ist ein Ordner</translation>
     </message>
     <message>
-        <source>Check the disk or choose another place.</source>
-        <translation>Prüfen Sie den Datenträger, oder wählen Sie einen anderen Ort.</translation>
+        <source>choose a file name</source>
+        <translation>wählen Sie einen Dateinamen</translation>
     </message>
     <message>
-        <source>Choose a file name.</source>
-        <translation>Wählen Sie einen Dateinamen.</translation>
+        <source>create the folder or choose another</source>
+        <translation>legen Sie den Ordner an, oder wählen Sie einen anderen</translation>
     </message>
     <message>
-        <source>Create the folder or choose another.</source>
-        <translation>Legen Sie den Ordner an, oder wählen Sie einen anderen.</translation>
+        <source>choose a place where you may write</source>
+        <translation>wählen Sie einen Ort, an dem Sie schreiben dürfen</translation>
+    </message>
+    <message>
+        <source>free some space or choose another place</source>
+        <translation>schaffen Sie Platz, oder wählen Sie einen anderen Ort</translation>
+    </message>
+    <message>
+        <source>check the disk or choose another place</source>
+        <translation>prüfen Sie den Datenträger, oder wählen Sie einen anderen Ort</translation>
     </message>
 </context>
 <context>

@@ -804,6 +804,10 @@
         <source>No recent files</source>
         <translation>没有最近打开的文件</translation>
     </message>
+    <message>
+        <source>%1 exists already. Replace it?</source>
+        <translation>%1 已存在。要替换吗？</translation>
+    </message>
 </context>
 <context>
     <name>DocumentReport</name>
@@ -1000,10 +1004,6 @@
         <translation>.kdx 文档。</translation>
     </message>
     <message>
-        <source>The file to write: .png, .jpg, .bmp or .tif. Any other suffix gives a TIFF.</source>
-        <translation>要写入的文件：.png、.jpg、.bmp 或 .tif。其他后缀一律写为 TIFF。</translation>
-    </message>
-    <message>
         <source>Pixels per inch of paper, 1 to %1; %2 if not given.</source>
         <translation>纸面每英寸的像素数，1 到 %1；不给出时为 %2。</translation>
     </message>
@@ -1024,10 +1024,6 @@
         <translation>%1：此 GDAL 无法写入 %2；请选择其他格式，或安装支持该格式的 GDAL。</translation>
     </message>
     <message>
-        <source>%1 will be a TIFF; .png, .jpg and .bmp name the other formats.</source>
-        <translation>%1 将写为 TIFF；.png、.jpg 和 .bmp 对应其他格式。</translation>
-    </message>
-    <message>
         <source>%1: data sources could not be read, so the page would not be whole; mend them, or pass --allow-missing.</source>
         <translation>%1：部分数据源无法读取，页面将不完整；请修复数据源，或使用 --allow-missing。</translation>
     </message>
@@ -1046,6 +1042,22 @@
     <message>
         <source>%1 was not written: %2. Is the disk full?</source>
         <translation>%1 未写入：%2。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>The file to write; its suffix names the format: %1. Without one it is a TIFF.</source>
+        <translation>要写入的文件；扩展名决定格式：%1。没有扩展名时为 TIFF。</translation>
+    </message>
+    <message>
+        <source>The format, whatever the suffix: %1.</source>
+        <translation>格式，不论扩展名：%1。</translation>
+    </message>
+    <message>
+        <source>export: --format takes one of %1, not &quot;%2&quot;.</source>
+        <translation>export：--format 可取 %1，而不是“%2”。</translation>
+    </message>
+    <message>
+        <source>export: %1: &quot;.%2&quot; names no image format; use one of %3, or pass --format tiff or another.</source>
+        <translation>export：%1：“.%2”不是图像格式的扩展名；请使用 %3 之一，或加上 --format tiff 等选项。</translation>
     </message>
 </context>
 <context>
@@ -1090,40 +1102,36 @@
 <context>
     <name>FileSaver</name>
     <message>
-        <source>“%1” was not saved: %2. %3</source>
-        <translation>“%1”未保存：%2。%3</translation>
-    </message>
-    <message>
-        <source>it is a folder</source>
-        <translation>它是文件夹</translation>
-    </message>
-    <message>
         <source>its folder does not exist</source>
         <translation>所在文件夹不存在</translation>
-    </message>
-    <message>
-        <source>Choose a place where you may write.</source>
-        <translation>请选择有写入权限的位置。</translation>
     </message>
     <message>
         <source>there is no room for it</source>
         <translation>空间不足</translation>
     </message>
     <message>
-        <source>Free some space or choose another place.</source>
-        <translation>请释放空间或选择其他位置。</translation>
+        <source>this is a folder</source>
+        <translation>这是一个文件夹</translation>
     </message>
     <message>
-        <source>Check the disk or choose another place.</source>
-        <translation>请检查磁盘或选择其他位置。</translation>
+        <source>choose a file name</source>
+        <translation>请选择文件名</translation>
     </message>
     <message>
-        <source>Choose a file name.</source>
-        <translation>请选择文件名。</translation>
+        <source>create the folder or choose another</source>
+        <translation>请创建该文件夹或选择其他文件夹</translation>
     </message>
     <message>
-        <source>Create the folder or choose another.</source>
-        <translation>请创建该文件夹或选择其他文件夹。</translation>
+        <source>choose a place where you may write</source>
+        <translation>请选择有写入权限的位置</translation>
+    </message>
+    <message>
+        <source>free some space or choose another place</source>
+        <translation>请释放空间或选择其他位置</translation>
+    </message>
+    <message>
+        <source>check the disk or choose another place</source>
+        <translation>请检查磁盘或选择其他位置</translation>
     </message>
 </context>
 <context>

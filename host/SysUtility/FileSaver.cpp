@@ -1,5 +1,7 @@
 #include "FileSaver.h"
 
+#include "JsonFile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -18,15 +20,15 @@ struct Texts {
 };
 
 QString problem(QString const& path, QString const& cause, QString const& fix) {
-  return Texts::tr("“%1” was not saved: %2. %3").arg(QDir::toNativeSeparators(path), cause, fix);
+  return aboutFile(path, cause + QStringLiteral("; ") + fix);
 }
 
 QString cannotOpen(QString const& path, QString const& cause) {
   QFileInfo const file(path);
-  if (file.isDir()) return problem(path, Texts::tr("it is a folder"), Texts::tr("Choose a file name."));
+  if (file.isDir()) return problem(path, Texts::tr("this is a folder"), Texts::tr("choose a file name"));
   if (!file.dir().exists())
-    return problem(path, Texts::tr("its folder does not exist"), Texts::tr("Create the folder or choose another."));
-  return problem(path, cause, Texts::tr("Choose a place where you may write."));
+    return problem(path, Texts::tr("its folder does not exist"), Texts::tr("create the folder or choose another"));
+  return problem(path, cause, Texts::tr("choose a place where you may write"));
 }
 
 }  // namespace
@@ -41,12 +43,12 @@ QString FileSaver::save(QString const& path, QByteArray const& content) {
   if (!whole) {
     QString const cause =
         file.error() == QFileDevice::NoError ? Texts::tr("there is no room for it") : file.errorString();
-    return problem(path, cause, Texts::tr("Free some space or choose another place."));
+    return problem(path, cause, Texts::tr("free some space or choose another place"));
   }
   // Some file systems can't synchronise, and say so with EINVAL.
   if (fsync(file.handle()) != 0 && errno != EINVAL)
-    return problem(path, qt_error_string(errno), Texts::tr("Check the disk or choose another place."));
-  if (!file.commit()) return problem(path, file.errorString(), Texts::tr("Choose a place where you may write."));
+    return problem(path, qt_error_string(errno), Texts::tr("check the disk or choose another place"));
+  if (!file.commit()) return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
   return QString();
 }
 

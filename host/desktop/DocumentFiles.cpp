@@ -2,10 +2,9 @@
 
 #include "DocumentSession.h"
 
-#include <QFileDialog>
+#include <QDir>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -32,10 +31,18 @@ QString DocumentFiles::folder() const {
                           : QFileInfo(recent.first()).absolutePath();
 }
 
-void DocumentFiles::tellProblem(QString const& what) {
-  QMessageBox box(QMessageBox::Critical, tr("Plotvane"), what, QMessageBox::Ok, &parent_);
-  box.setInformativeText(session_.problem());
-  box.exec();
+// Plain text: a file may be called <b>.
+QMessageBox::StandardButton DocumentFiles::ask(QMessageBox::Icon icon, QString const& text,
+                                               QMessageBox::StandardButtons buttons,
+                                               QMessageBox::StandardButton proposed) {
+  QMessageBox box(icon, tr("Plotvane"), text, buttons, &parent_);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(proposed);
+  return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+void DocumentFiles::tell(QMessageBox::Icon icon, QString const& what, QString const& why) {
+  ask(icon, what + QStringLiteral("\n\n") + why, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void DocumentFiles::remember(QString const& path) {
@@ -48,11 +55,10 @@ void DocumentFiles::remember(QString const& path) {
 
 bool DocumentFiles::mayLeave() {
   if (!session_.isModified()) return true;
-  QMessageBox box(QMessageBox::Question, tr("Plotvane"), tr("Save the changes to %1?").arg(session_.title()),
-                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &parent_);
-  box.setInformativeText(tr("Without saving, they are lost."));
-  box.setDefaultButton(QMessageBox::Save);
-  switch (box.exec()) {
+  QString const question =
+      tr("Save the changes to %1?").arg(session_.title()) + QLatin1Char('\n') + tr("Without saving, they are lost.");
+  switch (ask(QMessageBox::Question, question, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+              QMessageBox::Save)) {
     case QMessageBox::Save: return save();
     case QMessageBox::Discard: return true;
     default: return false;
@@ -61,15 +67,25 @@ bool DocumentFiles::mayLeave() {
 
 bool DocumentFiles::create() { return mayLeave() && session_.create(); }
 
+// Both dialogs show the same files, under the same names, and take the document's own as a proposal.
+QString DocumentFiles::choose(QString const& caption, QFileDialog::AcceptMode mode, QString const& proposed) {
+  QFileDialog dialog(&parent_, caption, QFileInfo(proposed).absolutePath(), filter());
+  dialog.setAcceptMode(mode);
+  dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setDefaultSuffix(suffix.mid(1));  // before the question whether to write over a file
+  if (mode == QFileDialog::AcceptSave) dialog.selectFile(proposed);
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().first() : QString();
+}
+
 bool DocumentFiles::open() {
-  QString const path = QFileDialog::getOpenFileName(&parent_, tr("Open"), folder(), filter());
+  QString const path = choose(tr("Open"), QFileDialog::AcceptOpen, folder() + QLatin1Char('/'));
   return !path.isEmpty() && open(path);
 }
 
 bool DocumentFiles::open(QString const& path) {
   if (!mayLeave()) return false;
   if (!session_.open(path)) {
-    tellProblem(tr("The document was not opened."));
+    tell(QMessageBox::Critical, tr("The document was not opened."), session_.problem());
     return false;
   }
   remember(path);
@@ -78,31 +94,34 @@ bool DocumentFiles::open(QString const& path) {
   int const more = warnings.size() - mostWarnings;
   warnings = warnings.mid(0, mostWarnings);
   if (more > 0) warnings << tr("… and %1 more.").arg(more);
-  QMessageBox box(QMessageBox::Warning, tr("Plotvane"), tr("The document was opened, but not all of it was read."),
-                  QMessageBox::Ok, &parent_);
-  box.setInformativeText(warnings.join(QStringLiteral("\n\n")));
-  box.exec();
+  tell(QMessageBox::Warning, tr("The document was opened, but not all of it was read."),
+       warnings.join(QStringLiteral("\n\n")));
   return true;
 }
 
-bool DocumentFiles::save() {
-  if (session_.path().isEmpty()) return saveAs();
-  if (session_.save()) return true;
-  tellProblem(tr("The document was not saved."));
-  return false;
-}
+bool DocumentFiles::save() { return session_.path().isEmpty() ? saveAs() : write(session_.path()); }
 
 bool DocumentFiles::saveAs() {
   QString const proposed =
       session_.path().isEmpty() ? folder() + QLatin1Char('/') + session_.title() + suffix : session_.path();
-  QFileDialog dialog(&parent_, tr("Save As"), proposed, filter());
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(suffix.mid(1));  // before the question whether to write over a file
-  dialog.selectFile(proposed);
-  if (dialog.exec() != QDialog::Accepted) return false;
-  QString const path = dialog.selectedFiles().first();
+  QString path = choose(tr("Save As"), QFileDialog::AcceptSave, proposed);
+  if (path.isEmpty()) return false;
+  // The dialog leaves "map.v2" as it is.
+  if (!path.endsWith(suffix, Qt::CaseInsensitive)) {
+    path += suffix;
+    if (QFileInfo::exists(path) && !mayReplace(path)) return false;
+  }
+  return write(path);
+}
+
+bool DocumentFiles::mayReplace(QString const& path) {
+  QString const question = tr("%1 exists already. Replace it?").arg(QDir::toNativeSeparators(path));
+  return ask(QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+bool DocumentFiles::write(QString const& path) {
   if (!session_.saveAs(path)) {
-    tellProblem(tr("The document was not saved."));
+    tell(QMessageBox::Critical, tr("The document was not saved."), session_.problem());
     return false;
   }
   remember(path);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QObject>
-#include <QStringList>
+#include <QFileDialog>
+#include <QMessageBox>
 
 class DocumentSession;
 class QMenu;
@@ -32,7 +32,12 @@ public:
 
 private:
   void remember(QString const& path);
-  void tellProblem(QString const& what);
+  QMessageBox::StandardButton ask(QMessageBox::Icon icon, QString const& text, QMessageBox::StandardButtons buttons,
+                                  QMessageBox::StandardButton proposed);
+  void tell(QMessageBox::Icon icon, QString const& what, QString const& why);
+  QString choose(QString const& caption, QFileDialog::AcceptMode mode, QString const& proposed);
+  bool mayReplace(QString const& path);
+  bool write(QString const& path);
   QString folder() const;
 
   DocumentSession& session_;

@@ -1,4 +1,5 @@
 #include "Console.h"
+#include "ImageFormat.h"
 #include "ImageTarget.h"
 #include "Interrupt.h"
 #include "OffscreenDesktop.h"
@@ -7,7 +8,6 @@
 
 #include "export/ExportCommand.h"
 #include "export/LayoutRenderer.h"
-#include "export/RasterWriter.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <SysCarto/MapDocument.h>
@@ -38,6 +38,7 @@ void reserveBlockCache(int imageWidthPx) {
 struct Request {
   QString document;
   QString image;
+  ImageFormat const* format = nullptr;
   int dpi = defaultDpi;
   bool quiet = false;
   bool allowMissing = false;
@@ -62,7 +63,6 @@ private:
   bool drawWithProgress(ExportCommand& command, Interrupt const& interrupt, QString const& path) const;
 
   Request request_;
-  QString driver_;
   MapDocument document_;
 };
 
@@ -71,31 +71,49 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
   QCommandLineParser parser;
   parser.addPositionalArgument(QStringLiteral("DOCUMENT"), tr("The .kdx document."));
   parser.addPositionalArgument(QStringLiteral("IMAGE"),
-                               tr("The file to write: .png, .jpg, .bmp or .tif. Any other suffix gives a TIFF."));
+                               tr("The file to write; its suffix names the format: %1. Without one it is a TIFF.")
+                                   .arg(ImageFormat::allSuffixes()));
+  QCommandLineOption const format(QStringLiteral("format"),
+                                  tr("The format, whatever the suffix: %1.").arg(ImageFormat::names()),
+                                  QStringLiteral("FORMAT"));
   QCommandLineOption const dpi(QStringLiteral("dpi"),
                                tr("Pixels per inch of paper, 1 to %1; %2 if not given.").arg(mostDpi).arg(defaultDpi),
                                QStringLiteral("N"), QString::number(defaultDpi));
   QCommandLineOption const quiet(QStringLiteral("quiet"), tr("Print neither the path nor the progress."));
   QCommandLineOption const missing(QStringLiteral("allow-missing"),
                                    tr("Draw the page also where a data source can't be read; its layer stays empty."));
-  parser.addOptions({dpi, quiet, missing});
+  parser.addOptions({format, dpi, quiet, missing});
   if (auto const settled = parseArguments(self, parser, arguments)) return settled;
 
   bool isNumber = false;
-  request = {parser.positionalArguments().at(0), parser.positionalArguments().at(1), parser.value(dpi).toInt(&isNumber),
-             parser.isSet(quiet), parser.isSet(missing)};
-  if (isNumber && request.dpi >= 1 && request.dpi <= mostDpi) return std::nullopt;
-  Console::complain(
-      tr("export: --dpi takes a whole number from 1 to %1, not \"%2\".").arg(mostDpi).arg(parser.value(dpi)));
+  QString const image = parser.positionalArguments().at(1);
+  QString const name = parser.value(format), suffix = QFileInfo(image).suffix();
+  request = {parser.positionalArguments().at(0),
+             image,
+             !parser.isSet(format) ? suffix.isEmpty() ? &ImageFormat::writtenAt(image) : ImageFormat::withSuffix(suffix)
+                                   : ImageFormat::named(name),
+             parser.value(dpi).toInt(&isNumber),
+             parser.isSet(quiet),
+             parser.isSet(missing)};
+  QString problem;
+  if (!isNumber || request.dpi < 1 || request.dpi > mostDpi)
+    problem = tr("export: --dpi takes a whole number from 1 to %1, not \"%2\".")
+                  .arg(QString::number(mostDpi), parser.value(dpi));
+  else if (!request.format && parser.isSet(format))
+    problem = tr("export: --format takes one of %1, not \"%2\".").arg(ImageFormat::names(), name);
+  else if (!request.format)
+    problem = tr("export: %1: \".%2\" names no image format; use one of %3, or pass --format tiff or another.")
+                  .arg(image, suffix, ImageFormat::allSuffixes());
+  if (problem.isEmpty()) return std::nullopt;
+  Console::complain(problem);
   return WrongArguments;
 }
 
-ExportSubcommand::ExportSubcommand(Request const& request)
-    : request_(request), driver_(QLatin1String(Plugin::RasterWriter::driverName(request.image))) {}
+ExportSubcommand::ExportSubcommand(Request const& request) : request_(request) {}
 
 QString ExportSubcommand::run() {
   Interrupt const interrupt;  // before the working folder is made, and until it has gone
-  ImageTarget target(request_.image, driver_);
+  ImageTarget target(request_.image, *request_.format);
   QSize size;
   QString problem = checkFormat();
   if (problem.isEmpty()) problem = target.checkPlace(request_.document);
@@ -111,16 +129,10 @@ QString ExportSubcommand::run() {
 }
 
 QString ExportSubcommand::checkFormat() const {
-  for (QString const& name : {driver_, QStringLiteral("GTiff")})
-    if (!GetGDALDriverManager()->GetDriverByName(name.toLatin1().constData()))
+  for (char const* driver : {request_.format->driver, "GTiff"})
+    if (!GetGDALDriverManager()->GetDriverByName(driver))
       return tr("%1: this GDAL can't write %2; choose another format, or install a GDAL that can.")
-          .arg(request_.image, name);
-  QString const suffix = QFileInfo(request_.image).suffix();
-  bool const expected = driver_ != QLatin1String("GTiff") ||
-                        suffix.compare(QLatin1String("tif"), Qt::CaseInsensitive) == 0 ||
-                        suffix.compare(QLatin1String("tiff"), Qt::CaseInsensitive) == 0;
-  if (!expected && !request_.quiet)
-    Console::complain(tr("%1 will be a TIFF; .png, .jpg and .bmp name the other formats.").arg(request_.image));
+          .arg(request_.image, QLatin1String(driver));
   return QString();
 }
 

@@ -1,5 +1,7 @@
 #include "ImageTarget.h"
 
+#include "ImageFormat.h"
+
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QDir>
@@ -36,6 +38,8 @@ struct SideLimit {
 constexpr SideLimit sideLimits[] = {{"JPEG", 65500}, {"PNG", 1000000}};
 
 QString systemReason(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
+
+QString gigabytes(double bytes, int decimals) { return QString::number(bytes / 1e9, 'f', decimals); }
 
 QString resolved(QString const& path) {
   QFileInfo const info(path);
@@ -95,10 +99,12 @@ int syncToDisk(QString const& path) {
 
 }  // namespace
 
-ImageTarget::ImageTarget(QString const& path, QString const& driver)
-    : name_(QDir::toNativeSeparators(path)), path_(resolved(path)), driver_(driver) {}
+ImageTarget::ImageTarget(QString const& path, ImageFormat const& format)
+    : name_(QDir::toNativeSeparators(path)), path_(resolved(path)), format_(format) {}
 
 ImageTarget::~ImageTarget() = default;
+
+bool ImageTarget::is(char const* driver) const { return std::strcmp(format_.driver, driver) == 0; }
 
 QString ImageTarget::checkPlace(QString const& document) const {
   QFileInfo const target(path_);
@@ -129,19 +135,14 @@ QString ImageTarget::checkSize(QSize const& size) const {
 
 QString ImageTarget::checkFormatLimits(QSize const& size) const {
   for (SideLimit const& limit : sideLimits)
-    if (driver_ == QLatin1String(limit.driver) && std::max(size.width(), size.height()) > limit.pixels)
+    if (is(limit.driver) && std::max(size.width(), size.height()) > limit.pixels)
       return tr("%1: the image would be %2 × %3 pixels, and a %4 has at most %5 on a side; give less DPI, or write a "
                 "TIFF.")
-          .arg(name_)
-          .arg(size.width())
-          .arg(size.height())
-          .arg(driver_)
-          .arg(limit.pixels);
-  if (driver_ == QLatin1String("BMP") && bmpBytes(size) > std::numeric_limits<quint32>::max())
+          .arg(name_, QString::number(size.width()), QString::number(size.height()), QLatin1String(format_.driver),
+               QString::number(limit.pixels));
+  if (is("BMP") && bmpBytes(size) > std::numeric_limits<quint32>::max())
     return tr("%1: the image would be %2 × %3 pixels, and a BMP holds at most 4 GB; give less DPI, or write a TIFF.")
-        .arg(name_)
-        .arg(size.width())
-        .arg(size.height());
+        .arg(name_, QString::number(size.width()), QString::number(size.height()));
   return QString();
 }
 
@@ -152,27 +153,21 @@ QString ImageTarget::checkFreeSpace(QSize const& size) const {
   double const needed = double{bandCount} * size.width() * size.height();
   if (needed <= static_cast<double>(free)) return QString();
   return tr("%1: drawing %2 × %3 pixels takes %4 GB on the disk, and %5 GB are free; give less DPI, or make room.")
-      .arg(name_)
-      .arg(size.width())
-      .arg(size.height())
-      .arg(needed / 1e9, 0, 'f', 3)
-      .arg(static_cast<double>(free) / 1e9, 0, 'f', 3);
+      .arg(name_, QString::number(size.width()), QString::number(size.height()), gigabytes(needed, 3),
+           gigabytes(static_cast<double>(free), 3));
 }
 
 // GDAL's JPEG driver chooses its code when it has seen the whole image, and so keeps it in memory: 16 bits for each of
 // the 1.5 values to which it reduces a pixel.
 QString ImageTarget::checkFreeMemory(QSize const& size) const {
   constexpr double bytesPerPixel = 3;
-  double const needed = driver_ == QLatin1String("JPEG") ? bytesPerPixel * size.width() * size.height() : 0;
+  double const needed = is("JPEG") ? bytesPerPixel * size.width() * size.height() : 0;
   double const memory = static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGESIZE));
   if (needed <= memory) return QString();
   return tr("%1: a JPEG of %2 × %3 pixels takes %4 GB of memory, and this machine has %5 GB; give less DPI, or write a "
             "PNG or TIFF.")
-      .arg(name_)
-      .arg(size.width())
-      .arg(size.height())
-      .arg(needed / 1e9, 0, 'f', 1)
-      .arg(memory / 1e9, 0, 'f', 1);
+      .arg(name_, QString::number(size.width()), QString::number(size.height()), gigabytes(needed, 1),
+           gigabytes(memory, 1));
 }
 
 QString ImageTarget::prepare() {
@@ -183,14 +178,12 @@ QString ImageTarget::prepare() {
 }
 
 QString ImageTarget::workingPath() const {
-  QString const suffix = QFileInfo(path_).suffix();
-  return folder_->filePath(suffix.isEmpty() ? QStringLiteral("image") : QStringLiteral("image.") + suffix);
+  return folder_->filePath(QStringLiteral("image.") + format_.suffixList().first());
 }
 
 QString ImageTarget::checkResult(QSize const& size) const {
   SysCarto::GdalErrors const errors;
-  QByteArray const driver = driver_.toLatin1();
-  char const* const drivers[] = {driver.constData(), nullptr};
+  char const* const drivers[] = {format_.driver, nullptr};
   DatasetPtr const image(static_cast<GDALDataset*>(
       GDALOpenEx(workingPath().toUtf8().constData(), GDAL_OF_RASTER | GDAL_OF_READONLY, drivers, nullptr, nullptr)));
   if (!image) return tr("%1 was not written: the image can't be read again.").arg(name_);
@@ -205,8 +198,8 @@ QString ImageTarget::checkResult(QSize const& size) const {
 // Reading the last rows of a format that is written in one go would take as long as writing them all.
 bool ImageTarget::hasItsEnd(GDALDataset& image, QSize const& size) const {
   for (Ending const& ending : endings)
-    if (driver_ == QLatin1String(ending.driver)) return endsWith(workingPath(), ending.bytes);
-  bool const whole = driver_ != QLatin1String("BMP") || QFileInfo(workingPath()).size() >= bmpBytes(size);
+    if (is(ending.driver)) return endsWith(workingPath(), ending.bytes);
+  bool const whole = !is("BMP") || QFileInfo(workingPath()).size() >= bmpBytes(size);
   return whole && readLastRows(image, size);
 }
 

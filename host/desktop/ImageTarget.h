@@ -8,6 +8,7 @@
 
 class GDALDataset;
 class QTemporaryDir;
+struct ImageFormat;
 
 /// An image file on its way into place. It is written in a working folder beside its place, so that whatever a failed
 /// export leaves behind is in there and goes with it; only an image that has been looked at is moved, in one step, over
@@ -18,8 +19,7 @@ class ImageTarget {
   Q_DECLARE_TR_FUNCTIONS(ImageTarget)
 
 public:
-  /// `driver` is GDAL's name for the format.
-  ImageTarget(QString const& path, QString const& driver);
+  ImageTarget(QString const& path, ImageFormat const& format);
   ~ImageTarget();
   ImageTarget(ImageTarget const&) = delete;
   ImageTarget& operator=(ImageTarget const&) = delete;
@@ -33,7 +33,7 @@ public:
   /// Makes the working folder.
   QString prepare();
 
-  /// Where to write the image: same suffix, in the working folder. After `prepare`.
+  /// Where to write the image: in the working folder, with a suffix that names the format. After `prepare`.
   QString workingPath() const;
 
   /// Opens what was written and looks at its end.
@@ -46,10 +46,11 @@ private:
   QString checkFormatLimits(QSize const& size) const;
   QString checkFreeSpace(QSize const& size) const;
   QString checkFreeMemory(QSize const& size) const;
+  bool is(char const* driver) const;
   bool hasItsEnd(GDALDataset& image, QSize const& size) const;
 
   QString name_;  // as the user gave it, for sentences
   QString path_;  // absolute, links followed
-  QString driver_;
+  ImageFormat const& format_;
   std::unique_ptr<QTemporaryDir> folder_;
 };

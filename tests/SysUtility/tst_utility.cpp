@@ -258,7 +258,7 @@ private slots:
     QVERIFY(FileSaver::save(absent, "x").contains(absent));
     QVERIFY(FileSaver::save(absent, "x").contains("its folder does not exist"));
     QVERIFY(FileSaver::save(folder.path(), "x").contains(folder.path()));
-    QVERIFY(FileSaver::save(folder.path(), "x").contains("it is a folder"));
+    QVERIFY(FileSaver::save(folder.path(), "x").contains("this is a folder"));
   }
 };
 

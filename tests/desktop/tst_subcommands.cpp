@@ -42,6 +42,8 @@ private slots:
     row("a DPI that is no number", "export page.kdx a.png --dpi high", "not \"high\"");
     row("a DPI beyond the most", "export page.kdx a.png --dpi 100001", "not \"100001\"");
     row("a DPI beyond int", "export page.kdx a.png --dpi 4294967396", "not \"4294967396\"");
+    row("a suffix that names no format", "export page.kdx a.pdf", ".png, .jpg, .bmp, .tif, .tiff");
+    row("a format that there is not", "export page.kdx a.png --format gif", "png, jpeg, bmp, tiff, not \"gif\"");
     row("a DPI with a fraction", "export page.kdx a.png --dpi 96.5", "not \"96.5\"");
     row("commands with an operand", "commands page.kdx", "one argument too many");
     row("a language that there is none of", "info page.kdx --language fr",

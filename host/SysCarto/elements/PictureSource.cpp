@@ -55,11 +55,8 @@ QString PictureSource::loadImage(QImageReader& reader) {
   if (size.isEmpty()) return Texts::tr("%1: the picture's size can't be read; save it anew.").arg(path_);
   if (std::max(size.width(), size.height()) > largestSidePx || areaOf(size) > mostPixels)
     return Texts::tr("%1: the picture has %2 × %3 pixels; make it smaller than %4 pixels a side and %5 pixels in all.")
-        .arg(path_)
-        .arg(size.width())
-        .arg(size.height())
-        .arg(largestSidePx)
-        .arg(mostPixels);
+        .arg(path_, QString::number(size.width()), QString::number(size.height()), QString::number(largestSidePx),
+             QString::number(mostPixels));
   reader.setAutoTransform(true);
   QImage const image = reader.read();
   if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(path_, reader.errorString());

@@ -98,7 +98,7 @@ private slots:
     put(path("outside.svg"), "<svg xmlns='http://www.w3.org/2000/svg'><image href='http://example.com/a.png'/></svg>");
     put(path("text.png"), "not a picture");
     QImage const wide(20000, 1, QImage::Format_Mono);
-    QVERIFY(wide.save(path("wide.png")));
+    QVERIFY(wide.save(path("100%1 wide.png")));
   }
 
   void tilesDoNotShow_data() {
@@ -137,7 +137,7 @@ private slots:
     row("no file", "missing.png", "no such picture");
     row("a folder", ".", "no such picture");
     row("no picture", "text.png", "neither PNG");
-    row("too wide to be decoded", "wide.png", "20000");
+    row("too wide to be decoded", "100%1 wide.png", "100%1 wide.png: the picture has 20000");
     row("an SVG that reaches outside", "outside.svg", "example.com");
   }
   void refusesAPictureWithASentence() {
