@@ -805,8 +805,71 @@
         <translation>Keine zuletzt geöffneten Dateien</translation>
     </message>
     <message>
-        <source>%1 exists already. Replace it?</source>
-        <translation>%1 existiert bereits. Ersetzen?</translation>
+        <source>The page will not be whole.</source>
+        <translation>Die Seite wird nicht vollständig.</translation>
+    </message>
+    <message>
+        <source>Export it all the same?</source>
+        <translation>Trotzdem exportieren?</translation>
+    </message>
+    <message>
+        <source>Open %1 to read it? Changes are then saved under another name.</source>
+        <translation>%1 zum Lesen öffnen? Änderungen werden dann unter einem anderen Namen gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 existiert bereits.</translation>
+    </message>
+    <message>
+        <source>Replace it?</source>
+        <translation>Ersetzen?</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program since it was read.</source>
+        <translation>%1 wurde von einem anderen Programm geändert, seit es gelesen wurde.</translation>
+    </message>
+    <message>
+        <source>Replace what it holds now?</source>
+        <translation>Ersetzen, was jetzt darin steht?</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Changed by another program: %1.</source>
+        <translation>Von einem anderen Programm geändert: %1.</translation>
+    </message>
+    <message>
+        <source>Removed by another program: %1.</source>
+        <translation>Von einem anderen Programm entfernt: %1.</translation>
+    </message>
+    <message>
+        <source>%1 holds changes that were not saved.</source>
+        <translation>%1 enthält Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>Drop them and read the file?</source>
+        <translation>Verwerfen und die Datei lesen?</translation>
+    </message>
+    <message>
+        <source>Not all data could be read.</source>
+        <translation>Nicht alle Daten konnten gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentLock</name>
+    <message>
+        <source>somebody</source>
+        <translation>jemandem</translation>
+    </message>
+    <message>
+        <source>%1 is open already: by %2 on %3, since %4. If that is over, delete %5.</source>
+        <translation>%1 ist bereits geöffnet: von %2 auf %3, seit %4. Wenn das vorbei ist, löschen Sie %5.</translation>
+    </message>
+    <message>
+        <source>an unknown machine</source>
+        <translation>einem unbekannten Rechner</translation>
     </message>
 </context>
 <context>
@@ -932,6 +995,13 @@
     </message>
 </context>
 <context>
+    <name>DocumentSources</name>
+    <message>
+        <source>Layer “%1”: %2</source>
+        <translation>Layer „%1“: %2</translation>
+    </message>
+</context>
+<context>
     <name>Editor</name>
     <message>
         <source>Edit</source>
@@ -1034,14 +1104,6 @@
     <message>
         <source>%1 was not written: interrupted.</source>
         <translation>%1 wurde nicht geschrieben: abgebrochen.</translation>
-    </message>
-    <message>
-        <source>the image file could not be created</source>
-        <translation>die Bilddatei konnte nicht angelegt werden</translation>
-    </message>
-    <message>
-        <source>%1 was not written: %2. Is the disk full?</source>
-        <translation>%1 wurde nicht geschrieben: %2. Ist der Datenträger voll?</translation>
     </message>
     <message>
         <source>The file to write; its suffix names the format: %1. Without one it is a TIFF.</source>
@@ -1234,6 +1296,14 @@
         <source>%1 was not written: %2.</source>
         <translation>%1 wurde nicht geschrieben: %2.</translation>
     </message>
+    <message>
+        <source>the image file could not be created</source>
+        <translation>die Bilddatei konnte nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2. Is the disk full?</source>
+        <translation>%1 wurde nicht geschrieben: %2. Ist der Datenträger voll?</translation>
+    </message>
 </context>
 <context>
     <name>InfoSubcommand</name>
@@ -1385,6 +1455,10 @@
         <source>“%1” is no scale; type one like 1:25,000, 10M or 12.5 million</source>
         <translation>„%1“ ist kein Maßstab; einzugeben ist etwas wie 1:25.000, 10 Mio oder 12,5 Mio</translation>
     </message>
+    <message>
+        <source>%1[*] (read-only) – Plotvane</source>
+        <translation>%1[*] (schreibgeschützt) – Plotvane</translation>
+    </message>
 </context>
 <context>
     <name>Map</name>
@@ -1480,6 +1554,17 @@
     <message>
         <source>The page has no data frame, so there is no map to show.</source>
         <translation>Die Seite hat keinen Datenrahmen, also gibt es keine Karte zu zeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>Beibehalten</translation>
     </message>
 </context>
 <context>
@@ -1625,6 +1710,14 @@
         <source>%1 needs the page layout shown.</source>
         <translation>„%1“ braucht das angezeigte Seitenlayout.</translation>
     </message>
+    <message>
+        <source>%1 Name another file, or pass --force.</source>
+        <translation>%1 Nennen Sie eine andere Datei, oder geben Sie --force an.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program since it was read; name another file, or pass --force.</source>
+        <translation>%1 wurde von einem anderen Programm geändert, seit es gelesen wurde; nennen Sie eine andere Datei, oder geben Sie --force an.</translation>
+    </message>
 </context>
 <context>
     <name>RunSubcommand</name>
@@ -1637,6 +1730,10 @@
 %1</source>
         <translation>Was zu tun ist, der Reihe nach: die Kennung eines Befehls oder eines von
 %1</translation>
+    </message>
+    <message>
+        <source>Save also over a document that somebody else has opened or changed.</source>
+        <translation>Auch über ein Dokument speichern, das jemand anders geöffnet oder geändert hat.</translation>
     </message>
 </context>
 <context>

@@ -805,8 +805,71 @@
         <translation>没有最近打开的文件</translation>
     </message>
     <message>
-        <source>%1 exists already. Replace it?</source>
-        <translation>%1 已存在。要替换吗？</translation>
+        <source>The page will not be whole.</source>
+        <translation>页面将不完整。</translation>
+    </message>
+    <message>
+        <source>Export it all the same?</source>
+        <translation>仍要导出吗？</translation>
+    </message>
+    <message>
+        <source>Open %1 to read it? Changes are then saved under another name.</source>
+        <translation>以只读方式打开 %1 吗？更改将以其他名称保存。</translation>
+    </message>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>Replace it?</source>
+        <translation>要替换吗？</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program since it was read.</source>
+        <translation>读取之后，%1 已被其他程序更改。</translation>
+    </message>
+    <message>
+        <source>Replace what it holds now?</source>
+        <translation>要替换其当前内容吗？</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>请选择其他名称。</translation>
+    </message>
+    <message>
+        <source>Changed by another program: %1.</source>
+        <translation>已被其他程序更改：%1。</translation>
+    </message>
+    <message>
+        <source>Removed by another program: %1.</source>
+        <translation>已被其他程序删除：%1。</translation>
+    </message>
+    <message>
+        <source>%1 holds changes that were not saved.</source>
+        <translation>%1 含有未保存的更改。</translation>
+    </message>
+    <message>
+        <source>Drop them and read the file?</source>
+        <translation>要放弃更改并重新读取文件吗？</translation>
+    </message>
+    <message>
+        <source>Not all data could be read.</source>
+        <translation>部分数据无法读取。</translation>
+    </message>
+</context>
+<context>
+    <name>DocumentLock</name>
+    <message>
+        <source>somebody</source>
+        <translation>某人</translation>
+    </message>
+    <message>
+        <source>%1 is open already: by %2 on %3, since %4. If that is over, delete %5.</source>
+        <translation>%1 已被打开：由 %2 在 %3 上，自 %4 起。如果已不再使用，请删除 %5。</translation>
+    </message>
+    <message>
+        <source>an unknown machine</source>
+        <translation>未知的计算机</translation>
     </message>
 </context>
 <context>
@@ -932,6 +995,13 @@
     </message>
 </context>
 <context>
+    <name>DocumentSources</name>
+    <message>
+        <source>Layer “%1”: %2</source>
+        <translation>图层“%1”：%2</translation>
+    </message>
+</context>
+<context>
     <name>Editor</name>
     <message>
         <source>Edit</source>
@@ -1034,14 +1104,6 @@
     <message>
         <source>%1 was not written: interrupted.</source>
         <translation>%1 未写入：已中断。</translation>
-    </message>
-    <message>
-        <source>the image file could not be created</source>
-        <translation>无法创建图像文件</translation>
-    </message>
-    <message>
-        <source>%1 was not written: %2. Is the disk full?</source>
-        <translation>%1 未写入：%2。磁盘是否已满？</translation>
     </message>
     <message>
         <source>The file to write; its suffix names the format: %1. Without one it is a TIFF.</source>
@@ -1234,6 +1296,14 @@
         <source>%1 was not written: %2.</source>
         <translation>%1 未写入：%2。</translation>
     </message>
+    <message>
+        <source>the image file could not be created</source>
+        <translation>无法创建图像文件</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2. Is the disk full?</source>
+        <translation>%1 未写入：%2。磁盘是否已满？</translation>
+    </message>
 </context>
 <context>
     <name>InfoSubcommand</name>
@@ -1385,6 +1455,10 @@
         <source>“%1” is no scale; type one like 1:25,000, 10M or 12.5 million</source>
         <translation>“%1”不是比例尺；请输入如 1:25,000、10M 或 1250万</translation>
     </message>
+    <message>
+        <source>%1[*] (read-only) – Plotvane</source>
+        <translation>%1[*]（只读）– Plotvane</translation>
+    </message>
 </context>
 <context>
     <name>Map</name>
@@ -1480,6 +1554,17 @@
     <message>
         <source>The page has no data frame, so there is no map to show.</source>
         <translation>页面上没有数据框，因此没有可显示的地图。</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeBar</name>
+    <message>
+        <source>Reload</source>
+        <translation>重新加载</translation>
+    </message>
+    <message>
+        <source>Keep</source>
+        <translation>保留</translation>
     </message>
 </context>
 <context>
@@ -1625,6 +1710,14 @@
         <source>%1 needs the page layout shown.</source>
         <translation>“%1”需要显示页面布局。</translation>
     </message>
+    <message>
+        <source>%1 Name another file, or pass --force.</source>
+        <translation>%1请指定其他文件，或加上 --force。</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program since it was read; name another file, or pass --force.</source>
+        <translation>读取之后，%1 已被其他程序更改；请指定其他文件，或加上 --force。</translation>
+    </message>
 </context>
 <context>
     <name>RunSubcommand</name>
@@ -1637,6 +1730,10 @@
 %1</source>
         <translation>按顺序执行的步骤：命令标识符，或下列之一
 %1</translation>
+    </message>
+    <message>
+        <source>Save also over a document that somebody else has opened or changed.</source>
+        <translation>即使文档已被他人打开或更改，也予以保存。</translation>
     </message>
 </context>
 <context>

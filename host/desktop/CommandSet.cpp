@@ -2,6 +2,7 @@
 
 #include "DocumentViews.h"
 #include "HostCommands.h"
+#include "OutputWatch.h"
 #include "PluginLibrary.h"
 
 using SysUI::ICommand;
@@ -32,13 +33,18 @@ HostedCommand const* CommandSet::find(QString const& identifier) const {
 HostedCommand const* CommandSet::currentTool() const { return currentTool_ < 0 ? nullptr : &commands_[currentTool_]; }
 
 bool CommandSet::click(HostedCommand const& command) {
-  if (!command.command->IsEnable()) return false;
-  if (command.tool)
+  if (!command.command->IsEnable() || (mayClick_ && !mayClick_(command.entry))) return false;
+  QString problem;
+  if (command.tool) {
     makeCurrent(command);
-  else
+  } else {
+    OutputWatch const watch;
     command.command->OnClick();
+    problem = watch.problem();
+  }
   views_.layoutView().catchUp();
   emit clicked();
+  if (!problem.isEmpty()) emit failed(problem);
   return true;
 }
 

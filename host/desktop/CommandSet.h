@@ -7,6 +7,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class DocumentViews;
 class HostCommands;
 class PluginLibrary;
@@ -41,15 +43,23 @@ public:
   /// Null where no tool is current.
   HostedCommand const* currentTool() const;
 
+  /// `mayClick` is asked before each click; where it answers false, nothing is done.
+  void setGuard(std::function<bool(CommandEntry const&)> mayClick) { mayClick_ = std::move(mayClick); }
+
 signals:
   /// After each click.
   void clicked();
+
+  /// After a click whose command did not write the image that it was to write, which it says of its own accord to
+  /// nobody.
+  void failed(QString const& sentence);
 
 private:
   void makeCurrent(HostedCommand const& command);
   void add(CommandEntry const& entry, SysUtility::_ptr_t<SysUI::ICommand> const& command, void* hook);
 
   DocumentViews& views_;
+  std::function<bool(CommandEntry const&)> mayClick_;
   QVector<HostedCommand> commands_;
   int currentTool_ = -1;
 };

@@ -2,6 +2,8 @@
 
 #include "DocumentSession.h"
 
+#include "host/SysCarto/document/DocumentSources.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
@@ -11,7 +13,7 @@
 namespace {
 
 constexpr int mostRecent = 8;
-constexpr int mostWarnings = 6;
+constexpr int mostReasons = 6;
 QString const recentKey = QStringLiteral("recentFiles");
 QString const suffix = QStringLiteral(".kdx");
 
@@ -19,9 +21,42 @@ QString filter() { return DocumentFiles::tr("Map documents (*.kdx)"); }
 
 QStringList recentFiles() { return QSettings().value(recentKey).toStringList(); }
 
+QVector<SysCarto::DocumentSource> sourcesOf(DocumentSession& session) {
+  auto const layout = session.document().GetPageLayout();
+  return layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>();
+}
+
+QStringList problemsOf(DocumentSession& session) {
+  QStringList problems;
+  for (auto const& source : sourcesOf(session))
+    if (!source.problem.isEmpty()) problems << source.problem;
+  return problems;
+}
+
+QString paragraphs(QStringList texts) {
+  int const more = texts.size() - mostReasons;
+  texts = texts.mid(0, mostReasons);
+  if (more > 0) texts << DocumentFiles::tr("… and %1 more.").arg(more);
+  return texts.join(QStringLiteral("\n\n"));
+}
+
+QString namesOf(QStringList const& paths) {
+  QStringList names;
+  for (QString const& path : paths) names << QFileInfo(path).fileName();
+  return names.join(QStringLiteral(", "));
+}
+
 }  // namespace
 
-DocumentFiles::DocumentFiles(DocumentSession& session, QWidget& parent) : session_(session), parent_(parent) {}
+DocumentFiles::DocumentFiles(DocumentSession& session, QWidget& parent) : session_(session), parent_(parent) {
+  connect(&session_, &DocumentSession::replaced, this, [this] {
+    changed_.clear();
+    followFiles();
+  });
+  connect(&session_, &DocumentSession::historyChanged, this, &DocumentFiles::followFiles);
+  connect(&watch_, &FileWatch::changed, this, &DocumentFiles::noteChanges);
+}
+
 DocumentFiles::~DocumentFiles() = default;
 
 QString DocumentFiles::folder() const {
@@ -41,8 +76,13 @@ QMessageBox::StandardButton DocumentFiles::ask(QMessageBox::Icon icon, QString c
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
-void DocumentFiles::tell(QMessageBox::Icon icon, QString const& what, QString const& why) {
-  ask(icon, what + QStringLiteral("\n\n") + why, QMessageBox::Ok, QMessageBox::Ok);
+bool DocumentFiles::confirm(QString const& what, QString const& question) {
+  return ask(QMessageBox::Warning, paragraphs({what, question}), QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+         QMessageBox::Yes;
+}
+
+void DocumentFiles::tell(QMessageBox::Icon icon, QString const& what, QStringList const& why) {
+  ask(icon, what + QStringLiteral("\n\n") + paragraphs(why), QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void DocumentFiles::remember(QString const& path) {
@@ -65,9 +105,19 @@ bool DocumentFiles::mayLeave() {
   }
 }
 
-bool DocumentFiles::create() { return mayLeave() && session_.create(); }
+bool DocumentFiles::mayExport() {
+  QStringList const missing = problemsOf(session_);
+  return missing.isEmpty() || confirm(tr("The page will not be whole.") + QStringLiteral("\n\n") + paragraphs(missing),
+                                      tr("Export it all the same?"));
+}
 
-// Both dialogs show the same files, under the same names, and take the document's own as a proposal.
+bool DocumentFiles::create() {
+  if (!mayLeave() || !session_.create()) return false;
+  lock_.reset();
+  return true;
+}
+
+// Both dialogs show the same files, under the same names, and begin in the same folder.
 QString DocumentFiles::choose(QString const& caption, QFileDialog::AcceptMode mode, QString const& proposed) {
   QFileDialog dialog(&parent_, caption, QFileInfo(proposed).absolutePath(), filter());
   dialog.setAcceptMode(mode);
@@ -77,29 +127,40 @@ QString DocumentFiles::choose(QString const& caption, QFileDialog::AcceptMode mo
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().first() : QString();
 }
 
+std::shared_ptr<DocumentLock> DocumentFiles::lockFor(QString const& path) const {
+  return lock_ && lock_->guards(path) ? lock_ : std::make_shared<DocumentLock>(path);
+}
+
 bool DocumentFiles::open() {
   QString const path = choose(tr("Open"), QFileDialog::AcceptOpen, folder() + QLatin1Char('/'));
   return !path.isEmpty() && open(path);
 }
 
-bool DocumentFiles::open(QString const& path) {
-  if (!mayLeave()) return false;
+bool DocumentFiles::open(QString const& path) { return mayLeave() && read(path); }
+
+bool DocumentFiles::read(QString const& path) {
+  auto const lock = lockFor(path);
+  if (!lock->take() && lock != lock_ &&
+      !confirm(lock->holder(),
+               tr("Open %1 to read it? Changes are then saved under another name.").arg(QFileInfo(path).fileName())))
+    return false;
   if (!session_.open(path)) {
-    tell(QMessageBox::Critical, tr("The document was not opened."), session_.problem());
+    tell(QMessageBox::Critical, tr("The document was not opened."), {session_.problem()});
     return false;
   }
+  lock_ = lock;
   remember(path);
-  QStringList warnings = session_.document().GetWarnings();
-  if (warnings.isEmpty()) return true;
-  int const more = warnings.size() - mostWarnings;
-  warnings = warnings.mid(0, mostWarnings);
-  if (more > 0) warnings << tr("… and %1 more.").arg(more);
-  tell(QMessageBox::Warning, tr("The document was opened, but not all of it was read."),
-       warnings.join(QStringLiteral("\n\n")));
+  QStringList const warnings = session_.document().GetWarnings();
+  if (!warnings.isEmpty())
+    tell(QMessageBox::Warning, tr("The document was opened, but not all of it was read."), warnings);
   return true;
 }
 
-bool DocumentFiles::save() { return session_.path().isEmpty() ? saveAs() : write(session_.path()); }
+// Whoever had the document open first may have closed it meanwhile.
+bool DocumentFiles::save() {
+  bool const hasPlace = !session_.path().isEmpty() && lockFor(session_.path())->take();
+  return hasPlace ? write(session_.path()) : saveAs();
+}
 
 bool DocumentFiles::saveAs() {
   QString const proposed =
@@ -109,30 +170,82 @@ bool DocumentFiles::saveAs() {
   // The dialog leaves "map.v2" as it is.
   if (!path.endsWith(suffix, Qt::CaseInsensitive)) {
     path += suffix;
-    if (QFileInfo::exists(path) && !mayReplace(path)) return false;
+    if (QFileInfo::exists(path) &&
+        !confirm(tr("%1 exists already.").arg(QDir::toNativeSeparators(path)), tr("Replace it?")))
+      return false;
   }
   return write(path);
 }
 
-bool DocumentFiles::mayReplace(QString const& path) {
-  QString const question = tr("%1 exists already. Replace it?").arg(QDir::toNativeSeparators(path));
-  return ask(QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+bool DocumentFiles::mayOverwrite(QString const& path, DocumentLock const& lock) {
+  return !lock.guards(session_.path()) || !session_.isFileChanged() ||
+         confirm(tr("%1 was changed by another program since it was read.").arg(QDir::toNativeSeparators(path)),
+                 tr("Replace what it holds now?"));
 }
 
 bool DocumentFiles::write(QString const& path) {
-  if (!session_.saveAs(path)) {
-    tell(QMessageBox::Critical, tr("The document was not saved."), session_.problem());
+  QString const failed = tr("The document was not saved.");
+  auto const lock = lockFor(path);
+  if (!lock->take()) {
+    tell(QMessageBox::Critical, failed, {lock->holder(), tr("Choose another name.")});
     return false;
   }
+  if (!mayOverwrite(path, *lock)) return false;
+  if (!session_.saveAs(path)) {
+    tell(QMessageBox::Critical, failed, {session_.problem()});
+    return false;
+  }
+  lock_ = lock;
   remember(path);
   return true;
+}
+
+void DocumentFiles::followFiles() {
+  QStringList files;
+  if (!session_.path().isEmpty()) files << session_.path();
+  for (auto const& source : sourcesOf(session_)) files << source.file;
+  watch_.follow(files);
+}
+
+// The window's own save is a change of the file, too, but not of what it is known to hold.
+void DocumentFiles::noteChanges(QStringList const& paths) {
+  QStringList changed, missing, sentences;
+  for (QString const& path : paths)
+    if (!QFileInfo::exists(path))
+      missing << path;
+    else if (path != session_.path() || session_.isFileChanged())
+      changed << path;
+  for (QString const& path : qAsConst(changed))
+    if (!changed_.contains(path)) changed_ << path;
+  for (QString const& path : qAsConst(missing)) changed_.removeAll(path);
+  if (!changed.isEmpty()) sentences << tr("Changed by another program: %1.").arg(namesOf(changed));
+  if (!missing.isEmpty()) sentences << tr("Removed by another program: %1.").arg(namesOf(missing));
+  if (!sentences.isEmpty()) emit changedOutside(sentences.join(QLatin1Char(' ')), !changed_.isEmpty());
+}
+
+void DocumentFiles::reload() {
+  if (changed_.contains(session_.path())) {
+    if (session_.isModified() &&
+        !confirm(tr("%1 holds changes that were not saved.").arg(session_.title()), tr("Drop them and read the file?")))
+      return;
+    read(session_.path());
+    return;
+  }
+  auto const layout = session_.document().GetPageLayout();
+  if (layout) SysCarto::readAgain(*layout, changed_);
+  changed_.clear();
+  emit dataReplaced();
+  QStringList const problems = problemsOf(session_);
+  if (!problems.isEmpty()) tell(QMessageBox::Warning, tr("Not all data could be read."), problems);
 }
 
 void DocumentFiles::fillWithRecent(QMenu& menu) {
   connect(&menu, &QMenu::aboutToShow, this, [this, &menu] {
     menu.clear();
     for (QString const& path : recentFiles())
-      menu.addAction(QFileInfo(path).fileName(), this, [this, path] { open(path); })->setStatusTip(path);
+      menu.addAction(QFileInfo(path).fileName().replace(QLatin1Char('&'), QStringLiteral("&&")), this,
+                     [this, path] { open(path); })
+          ->setStatusTip(path);
     if (menu.isEmpty()) menu.addAction(tr("No recent files"))->setEnabled(false);
   });
 }

@@ -1,14 +1,19 @@
 #pragma once
 
+#include "DocumentLock.h"
+#include "FileWatch.h"
+
 #include <QFileDialog>
 #include <QMessageBox>
+
+#include <memory>
 
 class DocumentSession;
 class QMenu;
 class QWidget;
 
-/// Documents as a person opens and saves them: with file dialogs, questions before changes are lost, and the list of
-/// recent files.
+/// Documents as a person opens and saves them: with file dialogs, questions before anything is lost, here or of others
+/// who work on the same files, and the list of recent files.
 class DocumentFiles final : public QObject {
   Q_OBJECT
 
@@ -27,19 +32,46 @@ public:
   /// Whether the document may be given up: it holds no changes, or a person has saved or dropped them.
   bool mayLeave();
 
+  /// Whether the page may be drawn: it is whole, or a person does not mind.
+  bool mayExport();
+
+  /// Whether somebody else had the document open first.
+  bool isReadOnly() const { return lock_ && lock_->isForeign(); }
+
+  /// Looks for changes that were not told of.
+  void look() { watch_.look(); }
+
+  /// Reads anew what `changedOutside` last told of.
+  void reload();
+
   /// Makes the menu list the recent files whenever it is about to be shown.
   void fillWithRecent(QMenu& menu);
 
+signals:
+  /// Somebody else has changed or removed the document or files that it draws from.
+  void changedOutside(QString const& sentence, bool canReload);
+
+  /// Data have been read anew: everything that shows them is to be drawn again.
+  void dataReplaced();
+
 private:
-  void remember(QString const& path);
   QMessageBox::StandardButton ask(QMessageBox::Icon icon, QString const& text, QMessageBox::StandardButtons buttons,
                                   QMessageBox::StandardButton proposed);
-  void tell(QMessageBox::Icon icon, QString const& what, QString const& why);
+  bool confirm(QString const& what, QString const& question);
+  void tell(QMessageBox::Icon icon, QString const& what, QStringList const& why);
   QString choose(QString const& caption, QFileDialog::AcceptMode mode, QString const& proposed);
-  bool mayReplace(QString const& path);
+  std::shared_ptr<DocumentLock> lockFor(QString const& path) const;
+  bool mayOverwrite(QString const& path, DocumentLock const& lock);
+  bool read(QString const& path);
   bool write(QString const& path);
+  void remember(QString const& path);
+  void followFiles();
+  void noteChanges(QStringList const& paths);
   QString folder() const;
 
   DocumentSession& session_;
   QWidget& parent_;
+  std::shared_ptr<DocumentLock> lock_;  // null for a document without a file
+  FileWatch watch_;
+  QStringList changed_;  // since it was last read
 };

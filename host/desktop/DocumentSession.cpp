@@ -1,5 +1,7 @@
 #include "DocumentSession.h"
 
+#include "FileStamp.h"
+
 #include <SysCarto/Editor.h>
 
 #include <QFileInfo>
@@ -24,11 +26,26 @@ bool DocumentSession::settle(bool done) {
 }
 
 bool DocumentSession::create() { return settle(document_.New(QString())); }
-bool DocumentSession::open(QString const& path) { return settle(document_.Open(path)); }
+
+// The digest is taken first: what changes while it is read then counts as changed.
+bool DocumentSession::open(QString const& path) {
+  QByteArray const digest = contentDigest(path);
+  if (!document_.Open(path)) return false;
+  fileDigest_ = digest;
+  return settle(true);
+}
+
 bool DocumentSession::save() { return saveAs(path()); }
 
 bool DocumentSession::saveAs(QString const& path) {
-  return settle(document_.SaveAs(path, document_.IsUsesRelativePaths(), false));
+  if (!document_.SaveAs(path, document_.IsUsesRelativePaths(), false)) return false;
+  fileDigest_ = contentDigest(path);
+  return settle(true);
+}
+
+bool DocumentSession::isFileChanged() const {
+  QByteArray const digest = path().isEmpty() ? QByteArray() : contentDigest(path());
+  return !digest.isEmpty() && digest != fileDigest_;
 }
 
 bool DocumentSession::isModified() const {

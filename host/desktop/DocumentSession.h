@@ -26,6 +26,9 @@ public:
   bool saveAs(QString const& path);
   QString problem() const { return document_.GetErrors().join(QLatin1Char('\n')); }
 
+  /// Whether the file holds something else than what was read from it or written to it here; false where it has gone.
+  bool isFileChanged() const;
+
   /// Whether a save would write another file than the last one. What is kept out of the history counts, too.
   bool isModified() const;
 
@@ -40,5 +43,6 @@ private:
   bool settle(bool done);
 
   SysCarto::MapDocument document_;
+  QByteArray fileDigest_;  // of the file, as it is known here
   QByteArray storedText_;
 };

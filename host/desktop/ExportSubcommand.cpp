@@ -59,7 +59,7 @@ private:
   QString checkFormat() const;
   QString openDocument();
   QString imageSize(QSize& size) const;
-  QString draw(QString const& path, Interrupt const& interrupt);
+  QString draw(ImageTarget const& target, Interrupt const& interrupt);
   bool drawWithProgress(ExportCommand& command, Interrupt const& interrupt, QString const& path) const;
 
   Request request_;
@@ -122,7 +122,7 @@ QString ExportSubcommand::run() {
   if (problem.isEmpty()) problem = target.checkSize(size);
   if (problem.isEmpty()) problem = target.prepare();
   if (problem.isEmpty()) reserveBlockCache(size.width());
-  if (problem.isEmpty()) problem = draw(target.workingPath(), interrupt);
+  if (problem.isEmpty()) problem = draw(target, interrupt);
   if (problem.isEmpty()) problem = target.checkResult(size);
   if (problem.isEmpty()) problem = target.commit();
   return problem;
@@ -153,17 +153,15 @@ QString ExportSubcommand::imageSize(QSize& size) const {
   return QString();
 }
 
-QString ExportSubcommand::draw(QString const& path, Interrupt const& interrupt) {
+QString ExportSubcommand::draw(ImageTarget const& target, Interrupt const& interrupt) {
   auto const desktop = SysUtility::make<OffscreenDesktop>(document_);
   auto const command = SysUtility::make<ExportCommand>();
   command->OnCreate(desktop->hook());
 
   SysCarto::GdalErrors const errors;
-  bool const reached = drawWithProgress(*command, interrupt, path);
+  bool const reached = drawWithProgress(*command, interrupt, target.workingPath());
   if (interrupt.cancel()->IsCanced()) return tr("%1 was not written: interrupted.").arg(request_.image);
-  if (reached && !errors.hasFailure()) return QString();
-  QString const reason = errors.hasFailure() ? errors.reason() : tr("the image file could not be created");
-  return tr("%1 was not written: %2. Is the disk full?").arg(request_.image, reason);
+  return reached && !errors.hasFailure() ? QString() : target.failure(errors);
 }
 
 bool ExportSubcommand::drawWithProgress(ExportCommand& command, Interrupt const& interrupt, QString const& path) const {

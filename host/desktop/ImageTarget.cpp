@@ -181,12 +181,18 @@ QString ImageTarget::workingPath() const {
   return folder_->filePath(QStringLiteral("image.") + format_.suffixList().first());
 }
 
-QString ImageTarget::checkResult(QSize const& size) const {
+QString ImageTarget::failure(SysCarto::GdalErrors const& errors) const {
+  QString const reason = errors.hasFailure() ? errors.reason() : tr("the image file could not be created");
+  return tr("%1 was not written: %2. Is the disk full?").arg(name_, reason);
+}
+
+QString ImageTarget::checkResult(QSize size) const {
   SysCarto::GdalErrors const errors;
   char const* const drivers[] = {format_.driver, nullptr};
   DatasetPtr const image(static_cast<GDALDataset*>(
-      GDALOpenEx(workingPath().toUtf8().constData(), GDAL_OF_RASTER | GDAL_OF_READONLY, drivers, nullptr, nullptr)));
+      GDALOpenEx(writtenPath().toUtf8().constData(), GDAL_OF_RASTER | GDAL_OF_READONLY, drivers, nullptr, nullptr)));
   if (!image) return tr("%1 was not written: the image can't be read again.").arg(name_);
+  if (size.isEmpty()) size = {image->GetRasterXSize(), image->GetRasterYSize()};
   if (image->GetRasterXSize() != size.width() || image->GetRasterYSize() != size.height() ||
       image->GetRasterCount() != bandCount)
     return tr("%1 was not written: the image has not the size that it should have.").arg(name_);
@@ -198,8 +204,8 @@ QString ImageTarget::checkResult(QSize const& size) const {
 // Reading the last rows of a format that is written in one go would take as long as writing them all.
 bool ImageTarget::hasItsEnd(GDALDataset& image, QSize const& size) const {
   for (Ending const& ending : endings)
-    if (is(ending.driver)) return endsWith(workingPath(), ending.bytes);
-  bool const whole = !is("BMP") || QFileInfo(workingPath()).size() >= bmpBytes(size);
+    if (is(ending.driver)) return endsWith(writtenPath(), ending.bytes);
+  bool const whole = !is("BMP") || QFileInfo(writtenPath()).size() >= bmpBytes(size);
   return whole && readLastRows(image, size);
 }
 

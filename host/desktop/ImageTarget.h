@@ -8,6 +8,11 @@
 
 class GDALDataset;
 class QTemporaryDir;
+
+namespace SysCarto {
+class GdalErrors;
+}
+
 struct ImageFormat;
 
 /// An image file on its way into place. It is written in a working folder beside its place, so that whatever a failed
@@ -36,8 +41,12 @@ public:
   /// Where to write the image: in the working folder, with a suffix that names the format. After `prepare`.
   QString workingPath() const;
 
-  /// Opens what was written and looks at its end.
-  QString checkResult(QSize const& size) const;
+  /// Opens what was written, in the working folder or without one in its place, and looks at its end. A size that is
+  /// empty is not known.
+  QString checkResult(QSize size) const;
+
+  /// That it was not written, with GDAL's reason.
+  QString failure(SysCarto::GdalErrors const& errors) const;
 
   /// Moves the image into its place.
   QString commit();
@@ -47,6 +56,7 @@ private:
   QString checkFreeSpace(QSize const& size) const;
   QString checkFreeMemory(QSize const& size) const;
   bool is(char const* driver) const;
+  QString writtenPath() const { return folder_ ? workingPath() : path_; }
   bool hasItsEnd(GDALDataset& image, QSize const& size) const;
 
   QString name_;  // as the user gave it, for sentences

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "Icons.h"
+#include "NoticeBar.h"
 #include "ScaleText.h"
 
 #include <SysCarto/Map.h>
@@ -79,6 +80,7 @@ MainWindow::MainWindow()
   connect(&bench_.session(), &DocumentSession::historyChanged, this, &MainWindow::listMaps);
   connect(&bench_.session(), &DocumentSession::replaced, this, &MainWindow::documentReplaced);
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
+  connectFiles();
   restoreState();
   contents_->SetBuddy(&bench_.views());
   bench_.session().create();
@@ -119,6 +121,8 @@ void MainWindow::buildViews() {
   tabs_->setExpanding(false);
   tabs_->addTab(loadIcon(QStringLiteral("layout-view")), tr("Page Layout"));
   tabs_->addTab(loadIcon(QStringLiteral("map-view")), tr("Map"));
+  notice_ = new NoticeBar(centre);
+  box->addWidget(notice_);
   box->addWidget(&bench_.views(), 1);
   box->addWidget(tabs_);
   setCentralWidget(centre);
@@ -127,6 +131,32 @@ void MainWindow::buildViews() {
   connect(&bench_.views(), &QStackedWidget::currentChanged, tabs_, &QTabBar::setCurrentIndex);
   connect(&bench_.views().layoutView(), &ViewWidget::pointed, this, &MainWindow::showPointer);
   connect(&bench_.views().layoutView(), &ViewWidget::left, this, [this] { position_->clear(); });
+}
+
+void MainWindow::connectFiles() {
+  connect(&files_, &DocumentFiles::changedOutside, notice_, &NoticeBar::tell);
+  connect(&files_, &DocumentFiles::dataReplaced, this, [this] {
+    contents_->SetBuddy(&bench_.views());
+    drawAnew();
+  });
+  connect(&bench_.session(), &DocumentSession::replaced, notice_, &QWidget::hide);
+  connect(notice_, &NoticeBar::reloadWanted, this, [this] {
+    notice_->hide();
+    files_.reload();
+  });
+  bench_.commands().setGuard([this](CommandEntry const& entry) {
+    return entry.identifier != QLatin1String("Plotvane_Export") || files_.mayExport();
+  });
+  connect(&bench_.commands(), &CommandSet::failed, this, [this](QString const& sentence) {
+    QMessageBox box(QMessageBox::Critical, tr("Plotvane"), sentence, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+  });
+}
+
+void MainWindow::drawAnew() {
+  bench_.views().layoutView().refresh(everything);
+  bench_.views().mapView().refresh(everything);
 }
 
 void MainWindow::buildContents() {
@@ -140,10 +170,7 @@ void MainWindow::buildContents() {
   companion_ = std::make_unique<Companion>(*contents_);
   bench_.views().setCompanion(companion_.get());
   bench_.desktop().setTableOfContents(contents_);
-  connect(contents_, &SysAdapterUI::TOCControl::VisibilityChanged, this, [this] {
-    bench_.views().layoutView().refresh(everything);
-    bench_.views().mapView().refresh(everything);
-  });
+  connect(contents_, &SysAdapterUI::TOCControl::VisibilityChanged, this, &MainWindow::drawAnew);
 }
 
 void MainWindow::buildStatusBar() {
@@ -187,7 +214,8 @@ void MainWindow::listMaps() {
 
 void MainWindow::showState() {
   auto& session = bench_.session();
-  setWindowTitle(tr("%1[*] – Plotvane").arg(session.title()));
+  setWindowTitle(
+      (files_.isReadOnly() ? tr("%1[*] (read-only) – Plotvane") : tr("%1[*] – Plotvane")).arg(session.title()));
   setWindowModified(session.isModified());
   auto const stack = session.document().GetOperationStack();
   for (auto const& [identifier, name] :
@@ -229,8 +257,7 @@ void MainWindow::takeScale() {
     auto const extent = map->GetExtent();
     extent->Expand(extent->GetWidth() * (factor - 1) / 2, extent->GetHeight() * (factor - 1) / 2, false);
     map->SetExtent(extent);
-    bench_.views().layoutView().refresh(everything);
-    bench_.views().mapView().refresh(everything);
+    drawAnew();
   }
   showState();
 }
@@ -250,6 +277,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 // The icons are drawn anew by themselves, the pictures of the views and the list's symbols are not.
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) files_.look();
   if (event->type() == QEvent::PaletteChange && contents_) bench_.views().layoutView().refresh(everything);
 }
 

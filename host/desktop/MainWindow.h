@@ -11,6 +11,7 @@
 
 class QLabel;
 class QLineEdit;
+class NoticeBar;
 class QTabBar;
 
 /// The window: puts together the workbench, its actions, the table of contents and the status bar.
@@ -41,11 +42,13 @@ private:
   void addWindowCommands(HostCommands& host);
   void buildContents();
   void buildViews();
+  void connectFiles();
   void buildStatusBar();
   void keepState();
   void restoreState();
 
   void documentReplaced();
+  void drawAnew();
   void listMaps();
   void showState();
   void showPointer(QPoint const& positionPx);
@@ -59,6 +62,7 @@ private:
   SysAdapterUI::TOCControl* contents_ = nullptr;
   QList<SysUtility::_ptr_t<SysCarto::Map>> listedMaps_;
   QDockWidget* contentsDock_ = nullptr;
+  NoticeBar* notice_ = nullptr;
   QTabBar* tabs_ = nullptr;
   QLabel* position_ = nullptr;
   QLineEdit* scale_ = nullptr;

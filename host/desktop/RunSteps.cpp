@@ -1,6 +1,7 @@
 #include "RunSteps.h"
 
 #include "Console.h"
+#include "DocumentLock.h"
 #include "DocumentReport.h"
 
 #include <QApplication>
@@ -81,7 +82,8 @@ QStringList RunSteps::names() {
   return names;
 }
 
-RunSteps::RunSteps() {
+RunSteps::RunSteps(bool force) : force_(force) {
+  QObject::connect(&bench_.commands(), &CommandSet::failed, [this](QString const& sentence) { failure_ = sentence; });
   bench_.views().resize(viewSize);
   bench_.views().QWidget::show();
 }
@@ -134,8 +136,8 @@ QString RunSteps::click(QString const& identifier) {
   HostedCommand const* const command = bench_.commands().find(identifier);
   if (!bench_.commands().click(*command))
     return tr("%1 is disabled; it needs %2.").arg(command->entry.caption, command->entry.needs);
-  QString const problem = answers_.takeProblem();
-  return problem.isEmpty() ? QString() : problem + QLatin1Char('.');
+  QString const problem = answers_.takeProblem(), failure = std::exchange(failure_, QString());
+  return problem.isEmpty() ? failure : problem + QLatin1Char('.');
 }
 
 // By name, or by handle as in #12.
@@ -205,6 +207,10 @@ QString RunSteps::answer(QString const& text) {
 }
 
 QString RunSteps::save(QString const& file) {
+  DocumentLock lock(file);
+  if (!lock.take() && !force_) return tr("%1 Name another file, or pass --force.").arg(lock.holder());
+  if (!force_ && lock.guards(bench_.session().path()) && bench_.session().isFileChanged())
+    return tr("%1 was changed by another program since it was read; name another file, or pass --force.").arg(file);
   return bench_.session().saveAs(file) ? QString() : bench_.session().problem();
 }
 

@@ -11,7 +11,8 @@ class RunSteps {
   Q_DECLARE_TR_FUNCTIONS(RunSteps)
 
 public:
-  RunSteps();
+  /// `force`: a save asks for nobody's leave.
+  explicit RunSteps(bool force);
   ~RunSteps();
 
   /// How the steps are written that are no command's identifier.
@@ -44,4 +45,6 @@ private:
 
   Workbench bench_;
   DialogAnswers answers_;
+  QString failure_;  // of the last command
+  bool const force_;
 };

@@ -19,9 +19,12 @@ ExitStatus runRun(Subcommand const& self, QStringList const& arguments) {
   parser.addPositionalArgument(QStringLiteral("STEP..."),
                                Texts::tr("What to do, in order: a command's identifier, or one of\n%1")
                                    .arg(RunSteps::names().join(QLatin1Char('\n'))));
+  QCommandLineOption const force(QStringLiteral("force"),
+                                 Texts::tr("Save also over a document that somebody else has opened or changed."));
+  parser.addOption(force);
   if (auto const settled = parseArguments(self, parser, arguments)) return *settled;
 
-  RunSteps steps;
+  RunSteps steps(parser.isSet(force));
   QStringList const given = parser.positionalArguments().mid(1);
   QString const wrong = steps.check(given);
   if (!wrong.isEmpty()) {

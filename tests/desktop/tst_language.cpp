@@ -1,4 +1,5 @@
 #include "Test.h"
+#include "desktop/Sample.h"
 
 #include "host/SysFramework/Translations.h"
 #include "host/desktop/CommandCatalogue.h"
@@ -66,7 +67,7 @@ private slots:
     QStringList menus;
     for (QAction const* menu : window.menuBar()->actions()) menus << menu->text();
     QCOMPARE(menus, QStringList({"&Datei", "&Bearbeiten", "An&sicht", "&Einfügen", "&Anordnen", "&Hilfe"}));
-    QVERIFY(window.open(PLOTVANE_SOURCE_DIR "/samples/world.kdx"));
+    QVERIFY(window.open(sampleIn(folder_.path(), "world.kdx")));
     window.actions().find("Host_SelectAll")->trigger();
     window.actions().find("Plotvane_LeftAlignment")->trigger();
     QCOMPARE(window.actions().find("Host_Undo")->text(),

@@ -1,6 +1,7 @@
 #include "desktop/Executable.h"
 
 #include <QJsonArray>
+#include <QLockFile>
 
 class RunSubcommandTest : public QObject {
   Q_OBJECT
@@ -46,6 +47,9 @@ private slots:
     row("nothing to undo", "undo", 1, "it needs a change to take back");
     row("an answer that no dialog takes", "answer=lineEdit_DPI:96", 1, "lineEdit_DPI");
     row("a folder that is not there", "save=none/out.kdx", 1, "none");
+    row("an image in a folder that is not there", "answer=lineEdit_OutputPath:none/a.png Plotvane_Export", 1,
+        "none does not exist");
+    row("a folder for an image", "answer=lineEdit_OutputPath:. Plotvane_Export", 1, "is a folder");
     row("an unknown step", "frobnicate", 2, "\"frobnicate\" is neither");
     row("a point without its second number", "click=1", 2, "click=X,Y");
     row("a view that there is not", "view=globe", 2, "view=layout|map");
@@ -60,6 +64,33 @@ private slots:
     bool const isLastStep = steps.startsWith("answer");  // told at the end, since a command may still come
     if (!isLastStep) QVERIFY(contents(folder_.path()) == before);
     QFile::remove(folder_.path("out.kdx"));
+  }
+
+  void aFullDiskIsTold_data() {
+    Rows<QString> row;
+    for (QString const name : {"a.png", "a.jpg", "a.bmp", "a.tif"}) row("a file like " + name, name);
+  }
+  void aFullDiskIsTold() {
+    auto const [name] = fetched<QString>();
+    FileSizeLimit const limit(20000);  // the process inherits it
+    Outcome const outcome =
+        run({"run", "two.kdx", "answer=lineEdit_OutputPath:" + name, "Plotvane_Export"}, folder_.path());
+    QVERIFY2(outcome.err.contains(name + " was not written"), qPrintable(outcome.err));
+    QCOMPARE(outcome.status, 1);
+  }
+
+  void aLockedDocumentIsSavedByForceAlone() {
+    QLockFile lock(folder_.path(".two.kdx.lock"));
+    QVERIFY(lock.tryLock(0));
+    QStringList const arguments{"run", "two.kdx", "select-all", "Plotvane_TopAlignment", "save=two.kdx"};
+    QByteArray const before = contentOf(folder_.path("two.kdx"));
+    Outcome const refused = run(arguments, folder_.path());
+    QVERIFY2(refused.err.contains(".two.kdx.lock"), qPrintable(refused.err));
+    QCOMPARE(refused.status, 1);
+    QCOMPARE(contentOf(folder_.path("two.kdx")), before);
+    QCOMPARE(run(arguments + QStringList("--force"), folder_.path()).status, 0);
+    QVERIFY(contentOf(folder_.path("two.kdx")) != before);
+    put(folder_.path("two.kdx"), before);
   }
 
   void undoneWorkSavesTheSameFile() {

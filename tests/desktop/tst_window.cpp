@@ -1,18 +1,22 @@
-#include "Files.h"
+#include "desktop/Sample.h"
 #include "desktop/WorkbenchPage.h"
 
+#include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/CommandCatalogue.h"
 #include "host/desktop/DialogAnswers.h"
 #include "host/desktop/Icons.h"
 #include "host/desktop/MainWindow.h"
+#include "host/desktop/NoticeBar.h"
 #include "host/desktop/ScaleText.h"
 
 #include <QCloseEvent>
 #include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTreeWidget>
@@ -20,7 +24,7 @@
 
 namespace {
 
-QString const world = QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx");
+QString world;  // a copy of the sample, with its data
 
 // With the sample open.
 struct WorldWindow {
@@ -49,6 +53,7 @@ private slots:
     prepareApplication();
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
+    world = sampleIn(folder_.path(), "world.kdx");
   }
 
   void init() { QSettings().clear(); }
@@ -126,6 +131,101 @@ private slots:
     sample.trigger("Host_SaveAs");
     QCOMPARE(answers.takeProblem(), QString());
     QCOMPARE(sample.window.bench().session().path(), folder_.filePath("map.v2.kdx"));
+  }
+
+  void anEditFromOutsideIsToldAndNotOverwritten_data() {
+    Rows<QString, bool> row;
+    row("No keeps the file as it is now", "No", false);
+    row("Yes writes over it", "Yes", true);
+  }
+  void anEditFromOutsideIsToldAndNotOverwritten() {
+    auto const [answer, writes] = fetched<QString, bool>();
+    WorldWindow sample;
+    QString const path = folder_.filePath("edited.kdx");
+    QVERIFY(sample.window.bench().session().saveAs(path));
+    auto* const notice = sample.window.findChild<NoticeBar*>();
+    QTest::qWait(500);
+    QVERIFY(!notice->isVisible());  // it was the window's own save
+    QByteArray const theirs = contentOf(path) + '\n';
+    QFile::rename(put(folder_.filePath("theirs"), theirs), folder_.filePath("edited.kdx.new"));
+    QCOMPARE(std::rename(qPrintable(path + ".new"), qPrintable(path)), 0);
+    QTRY_VERIFY(notice->isVisible());
+    QVERIFY(notice->findChild<QLabel*>("label_Notice")->text().contains("edited.kdx"));
+
+    sample.trigger("Host_SelectAll");
+    sample.trigger("Host_Delete");
+    DialogAnswers answers;
+    answers.add(button(answer));
+    sample.trigger("Host_Save");
+    QCOMPARE(answers.takeProblem(), QString());
+    QCOMPARE(contentOf(path) != theirs, writes);
+    QCOMPARE(sample.window.isWindowModified(), !writes);
+    sample.document().history()->setClean();
+  }
+
+  void dataThatChangeAreReadAgain() {
+    WorldWindow sample;
+    auto* const notice = sample.window.findChild<NoticeBar*>();
+    QString const file = folder_.filePath("data/sphere.geojson");
+    auto const layer = [&] {
+      for (auto const& one : sample.document().GetMap(0)->GetLayers())
+        if (auto const vector = SysUtility::ptr_cast<SysCarto::VectorLayer>(one))
+          if (vector->source().file == file) return vector;
+      return _ptr_t<SysCarto::VectorLayer>();
+    };
+    QByteArray const before = contentOf(file);
+    QVERIFY(layer() && layer()->features().size() > 0);
+    put(file, "{\"type\":\"FeatureCollection\",\"features\":[]}");
+    QTRY_VERIFY(notice->isVisible());
+    notice->findChild<QPushButton*>("pushButton_Reload")->click();
+    QVERIFY(layer()->features().size() == 0);
+    QVERIFY(!notice->isVisible());
+
+    QVERIFY(QFile::remove(file));
+    QTRY_VERIFY(notice->isVisible());
+    QVERIFY(!notice->findChild<QPushButton*>("pushButton_Reload")->isVisible());
+    put(file, before);
+    QTRY_VERIFY(notice->findChild<QPushButton*>("pushButton_Reload")->isVisible());
+  }
+
+  void theSecondWindowOnlyReads() {
+    WorldWindow first;
+    MainWindow second;
+    DialogAnswers answers;
+    answers.add(button("No"));
+    QVERIFY(!second.open(world));
+    answers.add(button("Yes"));
+    QVERIFY(second.open(world));
+    QTRY_VERIFY(second.windowTitle().contains("read-only"));
+    QByteArray const before = contentOf(world);
+    QString const other = folder_.filePath("other.kdx");
+    answers.add({DialogAnswers::Answer::Kind::Widget, "file", other});
+    second.bench().commands().find("Host_Save")->command->OnClick();
+    QCOMPARE(answers.takeProblem(), QString());
+    QVERIFY(contentOf(world) == before && QFile::exists(other));
+    QTRY_VERIFY(!second.windowTitle().contains("read-only"));
+  }
+
+  void aDeadOwnersLockIsTakenOver() {
+    put(folder_.filePath(".world.kdx.lock"), "4194303\nplotvane\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+    DialogAnswers answers;
+    WorldWindow sample;
+    QCOMPARE(answers.takeProblem(), QString());
+  }
+
+  void missingDataAreToldBeforeAnExport() {
+    QString const file = folder_.filePath("data/sphere.geojson");
+    QByteArray const before = contentOf(file);
+    QVERIFY(QFile::remove(file));
+    DialogAnswers answers;
+    answers.add({DialogAnswers::Answer::Kind::Accept, {}, {}});
+    WorldWindow sample;
+    put(file, before);
+    answers.add(button("No"));
+    sample.trigger("Plotvane_Export");
+    QCOMPARE(answers.takeProblem(), QString());
+    sample.trigger("Plotvane_Export");
+    QVERIFY(answers.takeProblem().contains("sphere.geojson"));
   }
 
   void changesAreNotLostWithoutAQuestion_data() {

@@ -46,6 +46,7 @@ PictureElement::~PictureElement() = default;
 
 QString PictureElement::path() const { return source_->path(); }
 void PictureElement::setPath(QString const& path) { source_ = std::make_shared<PictureSource>(path); }
+void PictureElement::readAgain() { source_->forget(); }
 QString PictureElement::problem() const { return source_->problem(); }
 
 int PictureElement::GetType() const { return 13; }

@@ -17,6 +17,9 @@ public:
   QString path() const;
   void setPath(QString const& path);
 
+  /// Reads the file anew, for the clones, too, when it is next asked for.
+  void readAgain();
+
   /// Why a crossed frame is drawn in the picture's place, as a sentence; empty where the picture is drawn.
   QString problem() const;
 

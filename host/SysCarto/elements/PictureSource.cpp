@@ -33,6 +33,12 @@ qint64 areaOf(QSize const& size) { return qint64(size.width()) * size.height(); 
 PictureSource::PictureSource(QString path) : path_(std::move(path)) {}
 PictureSource::~PictureSource() = default;
 
+void PictureSource::forget() {
+  isLoaded_ = false;
+  image_ = reduced_ = QImage();
+  svg_.reset();
+}
+
 QString const& PictureSource::problem() {
   if (!isLoaded_) problem_ = load();
   isLoaded_ = true;

@@ -19,6 +19,9 @@ public:
 
   QString const& path() const { return path_; }
 
+  /// Reads the file anew when it is next asked for.
+  void forget();
+
   /// Why the picture can't be drawn, as a sentence; empty where it can.
   QString const& problem();
 

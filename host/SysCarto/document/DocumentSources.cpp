@@ -1,0 +1,70 @@
+#include "DocumentSources.h"
+
+#include "DocumentArchive.h"
+
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysCarto/elements/PictureElement.h"
+
+#include <SysCarto/GroupElement.h>
+
+#include <QCoreApplication>
+
+namespace SysCarto {
+
+using SysUtility::_ptr_t;
+using SysUtility::ptr_cast;
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(DocumentSources)
+};
+
+template <class OnPicture>
+void visitPictures(QList<_ptr_t<Element>> const& elements, OnPicture const& onPicture) {
+  for (auto const& element : elements) {
+    if (auto const group = ptr_cast<GroupElement>(element)) visitPictures(group->GetElements(), onPicture);
+    if (auto const picture = ptr_cast<PictureElement>(element)) onPicture(*picture);
+  }
+}
+
+template <class OnLayer, class OnPicture>
+void visitSources(PageLayout const& layout, OnLayer const& onLayer, OnPicture const& onPicture) {
+  visitPictures(layout.GetGraphicsContainer()->GetElements(), onPicture);
+  for (auto const& map : mapsOf(layout)) {
+    visitPictures(map->GetGraphicsContainer()->GetElements(), onPicture);
+    for (auto const& layer : map->GetLayers())
+      if (auto const vector = ptr_cast<VectorLayer>(layer)) onLayer(*map, *vector);
+  }
+}
+
+}  // namespace
+
+QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
+  QVector<DocumentSource> sources;
+  visitSources(
+      layout,
+      [&](Map const&, VectorLayer const& layer) {
+        QString const problem = layer.problem();
+        sources.append({layer.source().file,
+                        problem.isEmpty() ? problem : Texts::tr("Layer “%1”: %2").arg(layer.GetName(), problem)});
+      },
+      [&](PictureElement const& picture) {
+        if (!picture.path().isEmpty()) sources.append({picture.path(), picture.problem()});
+      });
+  return sources;
+}
+
+void readAgain(PageLayout const& layout, QStringList const& files) {
+  visitSources(
+      layout,
+      [&](Map const& map, VectorLayer& layer) {
+        QStringList warnings;
+        if (files.contains(layer.source().file)) layer.open(layer.source(), map.GetCoordinateSystem(), warnings);
+      },
+      [&](PictureElement& picture) {
+        if (files.contains(picture.path())) picture.readAgain();
+      });
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+class QPushButton;
+
+/// A line above the views that tells what has happened to files, and offers to read them anew or to let it be. It keeps
+/// nobody from working on.
+class NoticeBar final : public QFrame {
+  Q_OBJECT
+
+public:
+  explicit NoticeBar(QWidget* parent);
+  ~NoticeBar() override;
+
+  void tell(QString const& text, bool canReload);
+
+signals:
+  void reloadWanted();
+
+private:
+  QLabel* text_;
+  QPushButton* reload_;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "FileStamp.h"
+
+#include "host/SysCarto/projection/GdalErrors.h"
+
+#include <QObject>
+
+/// While it lives, watches a command at work: which image it was told to write, and what GDAL reports. A command itself
+/// says nothing where its export fails, or even that it is complete.
+class OutputWatch final : public QObject {
+  Q_OBJECT
+
+public:
+  OutputWatch();
+  ~OutputWatch() override;
+
+  /// Looks at the image now. A sentence that says why it was not written, or empty.
+  QString problem() const;
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+  SysCarto::GdalErrors errors_;
+  QString path_;      // empty as long as no dialog has named one
+  FileStamp before_;  // of what was there when it was named
+};
