@@ -1517,6 +1517,14 @@
         <source>; correct the file or open another one</source>
         <translation>; berichtigen Sie die Datei, oder öffnen Sie eine andere</translation>
     </message>
+    <message>
+        <source>the page&apos;s width is %1 cm; set one of %2 to %3 cm in the page setup, then save again</source>
+        <translation>die Seite ist %1 cm breit; stellen Sie in der Seiteneinrichtung eine Breite von %2 bis %3 cm ein, und speichern Sie noch einmal</translation>
+    </message>
+    <message>
+        <source>the page&apos;s height is %1 cm; set one of %2 to %3 cm in the page setup, then save again</source>
+        <translation>die Seite ist %1 cm hoch; stellen Sie in der Seiteneinrichtung eine Höhe von %2 bis %3 cm ein, und speichern Sie noch einmal</translation>
+    </message>
 </context>
 <context>
     <name>MapSurround</name>

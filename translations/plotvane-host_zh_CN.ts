@@ -1517,6 +1517,14 @@
         <source>; correct the file or open another one</source>
         <translation>；请修正文件或打开其他文件</translation>
     </message>
+    <message>
+        <source>the page&apos;s width is %1 cm; set one of %2 to %3 cm in the page setup, then save again</source>
+        <translation>页面宽度为 %1 厘米；请在页面设置中改为 %2 至 %3 厘米，然后再次保存</translation>
+    </message>
+    <message>
+        <source>the page&apos;s height is %1 cm; set one of %2 to %3 cm in the page setup, then save again</source>
+        <translation>页面高度为 %1 厘米；请在页面设置中改为 %2 至 %3 厘米，然后再次保存</translation>
+    </message>
 </context>
 <context>
     <name>MapSurround</name>

@@ -49,6 +49,9 @@ private slots:
     row("a folder that is not there", "save=none/out.kdx", 1, "none");
     row("an image in a folder that is not there", "answer=lineEdit_OutputPath:none/a.png Plotvane_Export", 1,
         "none does not exist");
+    row("a page that lies and has no width",
+        "answer=comboBox_PaperType:Custom answer=radioButton_H:on answer=lineEdit_PageWidth:0 Plotvane_PageSetting", 1,
+        "the page's width is 0 cm; set one of 0.1 to 500 cm");
     row("a folder for an image", "answer=lineEdit_OutputPath:. Plotvane_Export", 1, "is a folder");
     row("an unknown step", "frobnicate", 2, "\"frobnicate\" is neither");
     row("a point without its second number", "click=1", 2, "click=X,Y");

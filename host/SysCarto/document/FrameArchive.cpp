@@ -1,5 +1,6 @@
 #include "ElementArchive.h"
 
+#include "host/SysCarto/layout/PageLimits.h"
 #include "host/SysDisplay/SymbolArchive.h"
 
 #include <SysCarto/SymbolFrameParts.h>
@@ -17,7 +18,6 @@ using SysUtility::ptr_cast;
 namespace {
 
 constexpr double mostPt = 1000;
-constexpr double smallestPageCm = 0.1, largestPageCm = 500;
 
 QString translated(char const* text) { return QCoreApplication::translate("ElementArchive", text); }
 
@@ -89,8 +89,8 @@ void describeForm(Archive& archive, Page& page) {
 void describeCustomSize(Archive& archive, Page& page) {
   double width, height;
   page.QuerySize(width, height);
-  archive.number("width", width, smallestPageCm, largestPageCm);
-  archive.number("height", height, smallestPageCm, largestPageCm);
+  archive.number("width", width, minPageSideCm, maxPageSideCm);
+  archive.number("height", height, minPageSideCm, maxPageSideCm);
   if (archive.reading() && archive.ok()) page.setCustomSize(width, height);
 }
 

@@ -3,6 +3,7 @@
 #include "DocumentArchive.h"
 #include "OperationStack.h"
 
+#include "host/SysCarto/layout/PageLimits.h"
 #include "host/SysUtility/FileSaver.h"
 #include "host/SysUtility/JsonFile.h"
 
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace SysCarto {
 
@@ -43,6 +45,20 @@ QString keepOldFile(QString const& path) {
     return aboutFile(path, Texts::tr("the old file can't be read to keep it as a backup (%1); save without a backup")
                                .arg(file.errorString()));
   return SysUtility::FileSaver::save(path + QLatin1Char('~'), file.readAll());
+}
+
+// Told as the page lies, which is how its sides are typed; the file has them as they are when it stands upright.
+QString problemOfSides(Page const& page) {
+  double widthCm, heightCm;
+  page.QuerySize(widthCm, heightCm);
+  for (auto const& [sideCm, sentence] :
+       {std::make_pair(
+            widthCm, Texts::tr("the page's width is %1 cm; set one of %2 to %3 cm in the page setup, then save again")),
+        std::make_pair(heightCm, Texts::tr("the page's height is %1 cm; set one of %2 to %3 cm in the page setup, then "
+                                           "save again"))})
+    if (sideCm < minPageSideCm || sideCm > maxPageSideCm)
+      return sentence.arg(sideCm).arg(minPageSideCm).arg(maxPageSideCm);
+  return QString();
 }
 
 QStringList unknownFieldSentences(QString const& path, QStringList const& fields) {
@@ -110,7 +126,9 @@ std::optional<QByteArray> MapDocument::Private::textFor(QString const& file, boo
 QString MapDocument::Private::write(QString const& file, bool relativePaths, bool keepBackup) const {
   if (!content.layout) return Texts::tr("There is no document to save; open one or make a new one.");
   if (file.isEmpty()) return Texts::tr("The document has no file yet; save it under a name.");
-  QString problem;
+  Page const* const page = content.layout->GetPage();
+  QString problem = page ? problemOfSides(*page) : QString();
+  if (!problem.isEmpty()) return aboutFile(file, problem);
   auto const text = textFor(file, relativePaths, problem);
   if (text && keepBackup) problem = keepOldFile(file);
   return problem.isEmpty() ? SysUtility::FileSaver::save(file, *text) : problem;
