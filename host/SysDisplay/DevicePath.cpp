@@ -1,10 +1,16 @@
 #include "DevicePath.h"
 
+#include "host/SysGeometry/PlaneGeometry.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
 namespace SysDisplay {
+
+using SysGeometry::Box;
+using SysGeometry::boxOf;
+using SysGeometry::outcode;
 
 namespace {
 
@@ -67,10 +73,10 @@ void divide(QPointF const& a, QPointF const& b, QRectF const& area, Anchor const
 // Takes vertices and keeps, of a stretch beyond one side, its first and its last.
 class StretchDropper {
 public:
-  StretchDropper(QRectF const& area, PointRuns& out) : area_(area), out_(out) {}
+  StretchDropper(Box const& area, PointRuns& out) : area_(area), out_(out) {}
 
   void add(QPointF const& point) {
-    unsigned const sides = sidesBeyond(area_, point);
+    unsigned const sides = outcode(area_, point);
     if (shared_ & sides) {
       shared_ &= sides;
       held_ = point;
@@ -88,7 +94,7 @@ public:
   }
 
 private:
-  QRectF const area_;
+  Box const area_;
   PointRuns& out_;
   QPointF held_;
   bool holds_ = false;
@@ -101,9 +107,8 @@ public:
   StretchSkipper(QTransform const& toDevice, WorldRun const& run, QRectF const& area) : run_(run) {
     constexpr double roundingPx = 1;
     if (!run.stretches) return;
-    QRectF const needed =
-        toDevice.inverted(&knows_).mapRect(area.adjusted(-roundingPx, -roundingPx, roundingPx, roundingPx));
-    needed_ = {needed.left(), needed.top(), needed.right(), needed.bottom()};
+    needed_ =
+        boxOf(toDevice.inverted(&knows_).mapRect(area.adjusted(-roundingPx, -roundingPx, roundingPx, roundingPx)));
   }
 
   // The neighbours, too, shape what is drawn: a join takes its direction from the segments on both sides.
@@ -119,7 +124,7 @@ private:
 
   WorldRun const& run_;
   bool knows_ = false;
-  SysGeometry::Box needed_;
+  Box needed_;
 };
 
 // The line with its long segments divided.
@@ -211,10 +216,11 @@ void toDevicePoints(QTransform const& toDevice, WorldRun const& run, QRectF cons
 
 void clipRing(std::vector<QPointF> const& ring, QRectF const& area, Anchor const& anchor, PointRuns& out) {
   if (ring.empty()) return;
-  StretchDropper dropper(area, out);
+  Box const box = boxOf(area);
+  StretchDropper dropper(box, out);
   QPointF const* previous = &ring.back();
   for (QPointF const& point : ring) {
-    if (isLong(*previous, point) && !(sidesBeyond(area, *previous) & sidesBeyond(area, point)))
+    if (isLong(*previous, point) && !(outcode(box, *previous) & outcode(box, point)))
       divide(*previous, point, area, anchor, [&](QPointF const& p) { dropper.add(p); });
     dropper.add(point);
     previous = &point;
@@ -224,7 +230,7 @@ void clipRing(std::vector<QPointF> const& ring, QRectF const& area, Anchor const
 }
 
 void dropBeyond(QPointF const* ring, int count, QRectF const& area, PointRuns& out) {
-  StretchDropper dropper(area, out);
+  StretchDropper dropper(boxOf(area), out);
   for (int i = 0; i < count; ++i) dropper.add(ring[i]);
   dropper.flush();
   out.endRun();
@@ -237,11 +243,12 @@ bool splitLine(std::vector<QPointF> const& given, bool closed, QRectF const& are
   std::vector<QPointF> const longer = dividing ? divided(given, closed, area, anchor) : std::vector<QPointF>();
   std::vector<QPointF> const& line = dividing ? longer : given;
 
+  Box const box = boxOf(area);
   int const count = static_cast<int>(line.size());
   int const segments = closed ? count : count - 1;
   int const firstRun = out.count();
   if (segments == 0 || count == 1) {
-    if (!sidesBeyond(area, line[0])) out.add(line[0]);
+    if (!outcode(box, line[0])) out.add(line[0]);
     out.endRun();
     return false;
   }
@@ -251,7 +258,7 @@ bool splitLine(std::vector<QPointF> const& given, bool closed, QRectF const& are
       if (!closed) return false;
       segment = (segment + segments) % segments;
     }
-    return (sidesBeyond(area, line[segment]) & sidesBeyond(area, line[end(segment)])) == 0;
+    return (outcode(box, line[segment]) & outcode(box, line[end(segment)])) == 0;
   };
   bool before = visible(-1), here = visible(0), open = false, broken = false;
   bool const startsAtOnce = before || here || visible(1);

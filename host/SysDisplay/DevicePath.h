@@ -65,10 +65,4 @@ inline QPointF leftOf(QPointF const& from, QPointF const& to) {
   return QPointF(d.y(), -d.x()) / std::hypot(d.x(), d.y());
 }
 
-/// The sides of a rectangle beyond which a point lies, one bit each.
-inline unsigned sidesBeyond(QRectF const& area, QPointF const& point) {
-  return (point.x() < area.left() ? 1u : 0u) | (point.x() > area.right() ? 2u : 0u) |
-         (point.y() < area.top() ? 4u : 0u) | (point.y() > area.bottom() ? 8u : 0u);
-}
-
 }  // namespace SysDisplay

@@ -1,6 +1,7 @@
 #include "FillQueue.h"
 
 #include "host/SysDisplay/DevicePath.h"
+#include "host/SysGeometry/PlaneGeometry.h"
 
 #include <QImage>
 #include <QPainter>
@@ -9,11 +10,13 @@
 #include <QThreadPool>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <optional>
 
 namespace SysDisplay {
+
+using SysGeometry::Box;
+using SysGeometry::boxOf;
 
 namespace {
 
@@ -22,7 +25,7 @@ namespace {
 constexpr int bandRows = 64;
 
 constexpr size_t batchPoints = 1024;
-constexpr size_t mostBatches = 64;  // that wait: about a megabyte
+constexpr size_t maxBatches = 64;  // that wait: about a megabyte
 
 // A polygon with fewer points is not worth a look at which of them concern a band.
 constexpr int pointsWorthDropping = 64;
@@ -36,32 +39,11 @@ QThreadPool& helperThreads() {
   return threads;
 }
 
-// One side of a box: positive distances are inside.
-struct Side {
-  double a, b, c;
-  double distance(QPointF const& p) const { return a * p.x() + b * p.y() + c; }
-};
-
-std::vector<QPointF> cut(std::vector<QPointF> const& ring, Side const& side) {
-  std::vector<QPointF> kept;
-  for (size_t i = 0; i < ring.size(); ++i) {
-    QPointF const& from = ring[i];
-    QPointF const& to = ring[(i + 1) % ring.size()];
-    double const d1 = side.distance(from), d2 = side.distance(to);
-    if (d1 >= 0) kept.push_back(from);
-    if ((d1 >= 0) != (d2 >= 0)) kept.push_back(from + (to - from) * (d1 / (d1 - d2)));
-  }
-  return kept;
-}
-
-void cutToBox(PointRuns& rings, QRectF const& box) {
-  std::array<Side, 4> const sides{
-      {{1, 0, -box.left()}, {-1, 0, box.right()}, {0, 1, -box.top()}, {0, -1, box.bottom()}}};
+void cutToBox(PointRuns& rings, Box const& box) {
   PointRuns result;
   for (int i = 0; i < rings.count(); ++i) {
-    std::vector<QPointF> ring(rings.run(i), rings.run(i) + rings.size(i));
-    for (Side const& side : sides) ring = cut(ring, side);
-    for (QPointF const& point : ring) result.add(point);
+    std::vector<QPointF> const ring(rings.run(i), rings.run(i) + rings.size(i));
+    for (QPointF const& point : SysGeometry::clippedRing(ring, box)) result.add(point);
     result.endRun();
   }
   std::swap(rings, result);
@@ -147,7 +129,7 @@ private:
     part_.clear();
     QRectF const rows(-farthestPx, top_, 2 * farthestPx, bottom_ - top_);
     for (int i = fill.firstRun; i <= fill.lastRun; ++i) dropBeyond(rings.run(i), rings.size(i), rows, part_);
-    if (!fits) cutToBox(part_, box_);
+    if (!fits) cutToBox(part_, boxOf(box_));
     if (!part_.isEmpty()) draw(part_, 0, part_.count() - 1, fill.rule);
   }
 
@@ -207,7 +189,7 @@ void FillQueue::publish() {
     batches_.push_back(std::move(batch));
     waiting = batches_.size();
   }
-  if (bands_.size() == 1 || waiting > mostBatches) return paintAll();
+  if (bands_.size() == 1 || waiting > maxBatches) return paintAll();
   changed_.notify_one();
   if (waiting == 1) callHelpers();
 }

@@ -1,5 +1,7 @@
 #include "PointRuns.h"
 
+#include "host/SysGeometry/Box.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -23,14 +25,9 @@ void PointRuns::append(PointRuns const& other) {
 
 QRectF PointRuns::bounds() const {
   if (points.empty()) return QRectF();
-  double left = points[0].x(), right = left, top = points[0].y(), bottom = top;
-  for (QPointF const& point : points) {
-    left = std::min(left, point.x());
-    right = std::max(right, point.x());
-    top = std::min(top, point.y());
-    bottom = std::max(bottom, point.y());
-  }
-  return QRectF(QPointF(left, top), QPointF(right, bottom));
+  SysGeometry::Box box;
+  for (QPointF const& point : points) box.add(point.x(), point.y());
+  return QRectF(QPointF(box.xmin, box.ymin), QPointF(box.xmax, box.ymax));
 }
 
 }  // namespace SysDisplay

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SysGeometry/Envelope.h>
+
 #include <algorithm>
 #include <limits>
 
@@ -30,6 +32,9 @@ struct Box {
   bool contains(double x, double y) const { return x >= xmin && x <= xmax && y >= ymin && y <= ymax; }
   bool contains(Box const& other) const { return contains(other.xmin, other.ymin) && contains(other.xmax, other.ymax); }
   Box grown(double distance) const { return {xmin - distance, ymin - distance, xmax + distance, ymax + distance}; }
+  SysUtility::_ptr_t<Envelope> envelope() const {
+    return isEmpty() ? SysUtility::make<Envelope>() : SysUtility::make<Envelope>(xmin, ymin, xmax, ymax);
+  }
 };
 
 }  // namespace SysGeometry

@@ -1,6 +1,6 @@
 #include <SysGeometry/MultiPolyline.h>
 
-#include "Bounds.h"
+#include "PlaneGeometry.h"
 
 using SysUtility::_ptr_t;
 using SysUtility::make;
@@ -13,7 +13,7 @@ MultiPolyline::MultiPolyline(MultiPolyline const&) = default;
 MultiPolyline& MultiPolyline::operator=(MultiPolyline const&) = default;
 MultiPolyline::~MultiPolyline() = default;
 
-_ptr_t<Envelope> MultiPolyline::GetEnvelope() const { return boundsOf(paths_); }
+_ptr_t<Envelope> MultiPolyline::GetEnvelope() const { return boxOf(paths_).envelope(); }
 _ptr_t<Geometry> MultiPolyline::Clone() const { return make<MultiPolyline>(*this); }
 
 QVector<QVector<QPointF>> const& MultiPolyline::GetPaths() const { return paths_; }

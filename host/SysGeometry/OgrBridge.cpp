@@ -1,5 +1,6 @@
 #include "OgrBridge.h"
 
+#include "PlaneGeometry.h"
 #include "QuietOgr.h"
 
 #include <SysGeometry/Envelope.h>
@@ -20,25 +21,23 @@ namespace SysGeometry {
 
 namespace {
 
-using Points = QVector<QPointF>;
-using Runs = QVector<QVector<QPointF>>;
 using OgrPtr = std::unique_ptr<OGRGeometry>;
 
 bool isFinite(QPointF const& point) { return std::isfinite(point.x()) && std::isfinite(point.y()); }
-bool isFinite(Points const& points) {
+bool isFinite(Ring const& points) {
   return std::all_of(points.begin(), points.end(), [](QPointF const& point) { return isFinite(point); });
 }
-bool isFinite(Runs const& runs) {
-  return std::all_of(runs.begin(), runs.end(), [](Points const& points) { return isFinite(points); });
+bool isFinite(Rings const& runs) {
+  return std::all_of(runs.begin(), runs.end(), [](Ring const& points) { return isFinite(points); });
 }
 
-void fill(OGRSimpleCurve& curve, Points const& points) {
+void fill(OGRSimpleCurve& curve, Ring const& points) {
   curve.setNumPoints(points.size(), FALSE);
   for (int i = 0; i < points.size(); ++i) curve.setPoint(i, points[i].x(), points[i].y());
 }
 
 // What the vertices cover, valid: a line, or a point where all of them coincide.
-OgrPtr lineOf(Points const& points) {
+OgrPtr lineOf(Ring const& points) {
   bool const flat = std::all_of(points.begin(), points.end(), [&](QPointF const& p) { return p == points.first(); });
   if (flat && !points.isEmpty()) return std::make_unique<OGRPoint>(points.first().x(), points.first().y());
   auto line = std::make_unique<OGRLineString>();
@@ -46,9 +45,9 @@ OgrPtr lineOf(Points const& points) {
   return line;
 }
 
-OgrPtr linesOf(Runs const& paths) {
+OgrPtr linesOf(Rings const& paths) {
   auto lines = std::make_unique<OGRMultiLineString>();
-  for (Points const& path : paths) {
+  for (Ring const& path : paths) {
     OgrPtr line = lineOf(path);
     if (!line->IsEmpty() && wkbFlatten(line->getGeometryType()) == wkbLineString)
       lines->addGeometryDirectly(line.release());
@@ -58,9 +57,9 @@ OgrPtr linesOf(Runs const& paths) {
 
 // The rings first stand as one shell with holes. Where that is not valid (islands, crossing rings), making it valid
 // from its line work is the even-odd rule.
-OgrPtr polygonOf(Runs const& rings) {
+OgrPtr polygonOf(Rings const& rings) {
   auto polygon = std::make_unique<OGRPolygon>();
-  for (Points const& points : rings) {
+  for (Ring const& points : rings) {
     auto ring = std::make_unique<OGRLinearRing>();
     fill(*ring, points);
     ring->closeRings();
@@ -76,19 +75,19 @@ OgrPtr rectangleOf(Envelope const& envelope) {
   if (envelope.IsEmpty()) return std::make_unique<OGRPolygon>();
   double xmin, ymin, xmax, ymax;
   envelope.QueryCoords(xmin, ymin, xmax, ymax);
-  Points const corners{{xmin, ymin}, {xmax, ymin}, {xmax, ymax}, {xmin, ymax}};
+  Ring const corners{{xmin, ymin}, {xmax, ymin}, {xmax, ymax}, {xmin, ymax}};
   if (!isFinite(corners)) return nullptr;
   return xmin == xmax || ymin == ymax ? lineOf({corners[0], corners[2]}) : polygonOf({corners});
 }
 
-Points pointsOf(OGRSimpleCurve const& curve) {
-  Points points;
+Ring pointsOf(OGRSimpleCurve const& curve) {
+  Ring points;
   points.reserve(curve.getNumPoints());
   for (int i = 0; i < curve.getNumPoints(); ++i) points << QPointF(curve.getX(i), curve.getY(i));
   return points;
 }
 
-void addRings(Runs& rings, OGRPolygon const& polygon) {
+void addRings(Rings& rings, OGRPolygon const& polygon) {
   for (OGRLinearRing const* ring : polygon) rings << pointsOf(*ring);
 }
 
@@ -124,13 +123,13 @@ _ptr_t<Geometry> fromOgr(OGRGeometry const& geometry) {
     }
     case wkbLineString: return make<Polyline>(pointsOf(*geometry.toLineString()));
     case wkbMultiLineString: {
-      Runs paths;
+      Rings paths;
       for (OGRLineString const* line : geometry.toMultiLineString()) paths << pointsOf(*line);
       return make<MultiPolyline>(paths);
     }
     case wkbPolygon:
     case wkbMultiPolygon: {
-      Runs rings;
+      Rings rings;
       if (wkbFlatten(geometry.getGeometryType()) == wkbPolygon)
         addRings(rings, *geometry.toPolygon());
       else

@@ -1,6 +1,6 @@
 #include <SysGeometry/Polygon.h>
 
-#include "Bounds.h"
+#include "PlaneGeometry.h"
 
 using SysUtility::_ptr_t;
 using SysUtility::make;
@@ -13,7 +13,7 @@ Polygon::Polygon(Polygon const&) = default;
 Polygon& Polygon::operator=(Polygon const&) = default;
 Polygon::~Polygon() = default;
 
-_ptr_t<Envelope> Polygon::GetEnvelope() const { return boundsOf(rings_); }
+_ptr_t<Envelope> Polygon::GetEnvelope() const { return boxOf(rings_).envelope(); }
 _ptr_t<Geometry> Polygon::Clone() const { return make<Polygon>(*this); }
 
 QVector<QVector<QPointF>> const& Polygon::GetRings() const { return rings_; }

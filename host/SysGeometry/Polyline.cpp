@@ -1,6 +1,6 @@
 #include <SysGeometry/Polyline.h>
 
-#include "Bounds.h"
+#include "PlaneGeometry.h"
 
 using SysUtility::_ptr_t;
 using SysUtility::make;
@@ -13,7 +13,7 @@ Polyline::Polyline(Polyline const&) = default;
 Polyline& Polyline::operator=(Polyline const&) = default;
 Polyline::~Polyline() = default;
 
-_ptr_t<Envelope> Polyline::GetEnvelope() const { return boundsOf(GetPoints()); }
+_ptr_t<Envelope> Polyline::GetEnvelope() const { return boxOf(GetPoints()).envelope(); }
 _ptr_t<Geometry> Polyline::Clone() const { return make<Polyline>(*this); }
 
 }  // namespace SysGeometry

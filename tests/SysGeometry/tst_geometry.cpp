@@ -2,6 +2,7 @@
 #include "Test.h"
 
 #include "host/SysGeometry/OgrBridge.h"
+#include "host/SysGeometry/PlaneGeometry.h"
 
 #include <SysGeometry/Envelope.h>
 #include <SysGeometry/MultiPolyline.h>
@@ -110,6 +111,9 @@ private slots:
     row("nothing", page, GeometryPtr(), false);
     row("a line through a rectangle", page, line({{-5, 5}, {15, 5}}), true);
     row("a line past a corner", page, line({{9, 12}, {12, 9}}), false);
+    row("a line that ends on a side", page, line({{10, 5}, {12, 5}}), true);
+    row("a line along a side", page, line({{10, 2}, {10, 12}}), true);
+    row("a line beyond a side", page, line({{11, 2}, {11, 12}}), false);
     row("a line of one vertex", page, line({{5, 5}}), true);
     row("a line of one vertex, repeated", page, line({{5, 5}, {5, 5}}), true);
     row("a line against a flat rectangle", line({{5, 0}, {5, 9}}), rectangle(2, 5, 8, 5), true);
@@ -135,6 +139,41 @@ private slots:
     auto const [a, b, meet] = fetched<GeometryPtr, GeometryPtr, bool>();
     QCOMPARE(a->Intersects(b), meet);
     if (b) QCOMPARE(b->Intersects(a), meet);
+
+    // The kernel agrees with GEOS.
+    auto const polygon = ptr_cast<Polygon>(a);
+    auto const place = ptr_cast<Point>(b);
+    if (polygon && place) QCOMPARE(contains(polygon->GetRings(), place->GetX(), place->GetY()), meet);
+    auto const rectangle = ptr_cast<Envelope>(a);
+    Ring const ends = ptr_cast<Polyline>(b) ? ptr_cast<Polyline>(b)->GetPoints() : Ring();
+    if (rectangle && ends.size() == 2 && std::isfinite(ends[1].x()))
+      QCOMPARE(!clippedSegment(ends[0], ends[1], boxOf(rectOf(*rectangle))).isEmpty(), meet);
+  }
+
+  void aRingIsClippedToABox_data() {
+    Rows<Ring, double, bool> row;
+    row("inside", square(2, 8), 36.0, true);
+    row("around", square(-5, 20), 100.0, true);
+    row("over a corner", square(5, 20), 25.0, true);
+    row("beyond", square(11, 20), 0.0, true);
+    row("a bar beyond two sides", Ring{{-4, 4}, {14, 4}, {14, 6}, {-4, 6}, {-4, 4}}, 20.0, true);
+    row("far from the origin a small ring keeps its area", Ring{{1e9, 1e9}, {1e9 + 1, 1e9}, {1e9, 1e9 + 1}}, 0.5,
+        false);
+  }
+  void aRingIsClippedToABox() {
+    auto const [ring, size, isClipped] = fetched<Ring, double, bool>();
+    Ring const clipped = isClipped ? clippedRing(ring, {0, 0, 10, 10}) : ring;
+    QCOMPARE(signedArea(clipped), size);
+    Ring reversed = clipped;
+    std::reverse(reversed.begin(), reversed.end());
+    QCOMPARE(signedArea(reversed), -size);
+  }
+
+  void thePoleOfInaccessibilityIsInTheWidestPart() {
+    Rings const ell{{{0, 0}, {90, 0}, {90, 30}, {12, 30}, {12, 90}, {0, 90}}, {{60, 5}, {85, 5}, {85, 25}, {60, 25}}};
+    Pole const pole = poleOfInaccessibility(ell, 0.1);
+    QVERIFY2(std::abs(pole.depth - 15) < 0.4, qPrintable(QString::number(pole.depth)));
+    QVERIFY(contains(ell, pole.place.x(), pole.place.y()) && pole.place.x() < 60);
   }
 
   void equalMeansTheSamePoints_data() {

@@ -8,54 +8,23 @@
 
 namespace SysCarto {
 
+using SysGeometry::anyEdge;
+
 namespace {
-
-using Rings = QVector<QVector<QPointF>>;
-
-double side(QPointF const& a, QPointF const& b, QPointF const& p) {
-  return (b.x() - a.x()) * (p.y() - a.y()) - (b.y() - a.y()) * (p.x() - a.x());
-}
-
-bool edgesMeet(QPointF const& a, QPointF const& b, QPointF const& c, QPointF const& d) {
-  if (std::max(a.x(), b.x()) < std::min(c.x(), d.x()) || std::max(c.x(), d.x()) < std::min(a.x(), b.x()) ||
-      std::max(a.y(), b.y()) < std::min(c.y(), d.y()) || std::max(c.y(), d.y()) < std::min(a.y(), b.y()))
-    return false;
-  return side(a, b, c) * side(a, b, d) <= 0 && side(c, d, a) * side(c, d, b) <= 0;
-}
-
-// Calls `visit` with the ends of each edge until it answers true.
-template <class Visit>
-bool anyEdge(Rings const& rings, Visit const& visit) {
-  for (QVector<QPointF> const& ring : rings)
-    for (int i = 0, j = ring.size() - 1; i < ring.size(); j = i++)
-      if (visit(ring[j], ring[i])) return true;
-  return false;
-}
 
 bool anyEdgesMeet(Rings const& a, Rings const& b) {
   return anyEdge(a, [&](QPointF const& p, QPointF const& q) {
-    return anyEdge(b, [&](QPointF const& r, QPointF const& s) { return edgesMeet(p, q, r, s); });
+    return anyEdge(b, [&](QPointF const& r, QPointF const& s) { return SysGeometry::segmentsMeet(p, q, r, s); });
   });
 }
 
 bool holdsCornerOf(Rings const& a, Rings const& b) {
-  for (QVector<QPointF> const& ring : b)
-    if (!ring.isEmpty() && contains(a, ring.first())) return true;
-  return false;
+  return std::any_of(b.begin(), b.end(), [&](Ring const& ring) {
+    return !ring.isEmpty() && SysGeometry::contains(a, ring.first().x(), ring.first().y());
+  });
 }
 
 }  // namespace
-
-bool contains(Rings const& rings, QPointF const& point) {
-  bool inside = false;
-  anyEdge(rings, [&](QPointF const& a, QPointF const& b) {
-    if ((a.y() > point.y()) != (b.y() > point.y()) &&
-        point.x() < a.x() + (b.x() - a.x()) * (point.y() - a.y()) / (b.y() - a.y()))
-      inside = !inside;
-    return false;
-  });
-  return inside;
-}
 
 LabelShape LabelShape::turned(QPointF const& centre, double width, double height, double degrees) {
   QTransform turn;
@@ -67,10 +36,8 @@ LabelShape LabelShape::turned(QPointF const& centre, double width, double height
 }
 
 LabelShape LabelShape::area(Rings rings) {
-  LabelShape shape{Box(), std::move(rings)};
-  for (QVector<QPointF> const& ring : shape.rings)
-    for (QPointF const& point : ring) shape.box.add(point.x(), point.y());
-  return shape;
+  Box const box = SysGeometry::boxOf(rings);
+  return {box, std::move(rings)};
 }
 
 Rings LabelShape::outline() const {

@@ -1,34 +1,32 @@
 #pragma once
 
 #include "host/SysCarto/layers/FeatureStore.h"
-
-#include <QPointF>
-#include <QVector>
+#include "host/SysGeometry/PlaneGeometry.h"
 
 #include <memory>
 #include <vector>
 
 namespace SysCarto {
 
+using SysGeometry::Ring;
+using SysGeometry::Rings;
+
 /// A place that a label takes: an upright box, or a box that is turned, or any area. In points of the page, y upwards.
 struct LabelShape {
-  Box box;                          ///< around the whole
-  QVector<QVector<QPointF>> rings;  ///< empty for an upright box
+  Box box;      ///< around the whole
+  Rings rings;  ///< empty for an upright box
 
   static LabelShape upright(Box const& box) { return {box, {}}; }
 
   /// A box about a centre, turned counterclockwise.
   static LabelShape turned(QPointF const& centre, double width, double height, double degrees);
-  static LabelShape area(QVector<QVector<QPointF>> rings);
+  static LabelShape area(Rings rings);
 
-  QVector<QVector<QPointF>> outline() const;
+  Rings outline() const;
 };
 
 /// True where the two share a point.
 bool intersects(LabelShape const& a, LabelShape const& b);
-
-/// By the even-odd rule.
-bool contains(QVector<QVector<QPointF>> const& rings, QPointF const& point);
 
 /// What has been placed on a page, for quick answers to whether a place is free.
 class LabelIndex {

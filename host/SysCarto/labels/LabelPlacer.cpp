@@ -18,9 +18,9 @@ namespace {
 constexpr double besideMarkPt = 1;
 constexpr double aboveLinePt = 1;
 constexpr double fromBorderPt = 0.75;
-constexpr int mostMarksCounted = 8;
-constexpr int mostPolygons = 3;  // of a feature that are tried, largest first
-constexpr int mostLines = 5;
+constexpr int maxMarksCounted = 8;
+constexpr int maxPolygons = 3;  // of a feature that are tried, largest first
+constexpr int maxLines = 5;
 
 // Beside a mark, in the order in which a label is wanted: across, −1 to the left and 1 to the right of it, and up.
 // clang-format off
@@ -54,31 +54,6 @@ Box markShape(Symbol const* symbol) {
   return {bounds.left(), -bounds.bottom(), bounds.right(), -bounds.top()};
 }
 
-double areaOf(QVector<QPointF> const& ring) {
-  double twice = 0;
-  for (int i = 0, j = ring.size() - 1; i < ring.size(); j = i++)
-    twice += ring[j].x() * ring[i].y() - ring[i].x() * ring[j].y();
-  return std::abs(twice) / 2;
-}
-
-// A ring within a rectangle; what lies beyond is moved onto its sides.
-QVector<QPointF> clipped(QVector<QPointF> ring, Box const& box) {
-  auto const cut = [&](auto const& signedDistance) {
-    QVector<QPointF> result;
-    for (int i = 0, j = ring.size() - 1; i < ring.size(); j = i++) {
-      double const a = signedDistance(ring[j]), b = signedDistance(ring[i]);
-      if ((a < 0) != (b < 0)) result << ring[j] + (ring[i] - ring[j]) * (a / (a - b));
-      if (b >= 0) result << ring[i];
-    }
-    ring = result;
-  };
-  cut([&](QPointF const& p) { return p.x() - box.xmin; });
-  cut([&](QPointF const& p) { return box.xmax - p.x(); });
-  cut([&](QPointF const& p) { return p.y() - box.ymin; });
-  cut([&](QPointF const& p) { return box.ymax - p.y(); });
-  return ring;
-}
-
 }  // namespace
 
 LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& settings, Renderer const& renderer,
@@ -97,13 +72,13 @@ LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& setting
 }
 
 void LabelPlacer::addObstacle(SysGeometry::Polygon const& area) {
-  QVector<QVector<QPointF>> rings = area.GetRings();
-  for (QVector<QPointF>& ring : rings)
+  Rings rings = area.GetRings();
+  for (Ring& ring : rings)
     for (QPointF& point : ring) point = toPage(point.x(), point.y());
   LabelShape shape = LabelShape::area(std::move(rings));
-  bool const isUpright =
-      shape.rings.size() == 1 && shape.rings[0].size() == 4 &&
-      std::abs(areaOf(shape.rings[0]) - (shape.box.xmax - shape.box.xmin) * (shape.box.ymax - shape.box.ymin)) < 1e-6;
+  bool const isUpright = shape.rings.size() == 1 && shape.rings[0].size() == 4 &&
+                         std::abs(std::abs(SysGeometry::signedArea(shape.rings[0])) -
+                                  (shape.box.xmax - shape.box.xmin) * (shape.box.ymax - shape.box.ymin)) < 1e-6;
   index_.add(isUpright ? LabelShape::upright(shape.box) : std::move(shape));
 }
 
@@ -201,7 +176,7 @@ Box LabelPlacer::boxFor(Box const& mark, double width, double height) const {
   // Labels come in the order of importance, so the first one around names the most important place there: it is shown
   // whatever marks it covers.
   bool const isFirstAround = index_.isFree(LabelShape::upright(mark.grown(height)));
-  int fewest = isFirstAround ? std::numeric_limits<int>::max() : mostMarksCounted + 1;
+  int fewest = isFirstAround ? std::numeric_limits<int>::max() : maxMarksCounted + 1;
   for (Direction const& direction : directions) {
     Box const box = boxBeside(mark, direction, width, height);
     if (!frame_.contains(box) || !index_.isFree(LabelShape::upright(box.grown(settings_.gapPt)))) continue;
@@ -233,7 +208,7 @@ bool LabelPlacer::placeBesidePoint(int feature, LabelText& text, QPointF const& 
 
 bool LabelPlacer::placeInPolygon(LabelText const& given, int feature) {
   struct Area {
-    QVector<QVector<QPointF>> rings;
+    Rings rings;
     double size = 0;
   };
   std::vector<Area> areas;
@@ -241,15 +216,16 @@ bool LabelPlacer::placeInPolygon(LabelText const& given, int feature) {
     if (part.kind != PartKind::Ring && part.kind != PartKind::FilledRing) continue;
     if (part.startsPolygon || areas.empty()) areas.emplace_back();
     double const* const xy = part.xy;
-    QVector<QPointF> ring;
+    Ring ring;
     for (int i = 0; i < part.count; ++i) ring << toPage(xy[2 * i], xy[2 * i + 1]);
-    ring = clipped(ring, frame_);
+    ring = SysGeometry::clippedRing(ring, frame_);
     if (ring.size() < 3) continue;
-    areas.back().size += areas.back().rings.isEmpty() ? areaOf(ring) : -areaOf(ring);
+    double const size = std::abs(SysGeometry::signedArea(ring));
+    areas.back().size += areas.back().rings.isEmpty() ? size : -size;
     areas.back().rings << ring;
   }
   std::stable_sort(areas.begin(), areas.end(), [](Area const& a, Area const& b) { return a.size > b.size; });
-  if (areas.size() > mostPolygons) areas.resize(mostPolygons);
+  if (areas.size() > maxPolygons) areas.resize(maxPolygons);
   for (QString const& lines : wrapped(given.text)) {
     LabelText text = given;
     text.text = lines;
@@ -276,7 +252,7 @@ bool LabelPlacer::placeAlongLine(LabelText const& text, int feature) {
     lines.push_back(std::move(line));
   }
   std::stable_sort(lines.begin(), lines.end(), [](auto const& a, auto const& b) { return a.size() > b.size(); });
-  if (lines.size() > mostLines) lines.resize(mostLines);
+  if (lines.size() > maxLines) lines.resize(maxLines);
   for (std::vector<QPointF> const& line : lines)
     for (Stretch const& stretch : straightStretches(line, text.bounds.width(), text.bounds.height())) {
       double const above = text.bounds.height() / 2 + aboveLinePt + stretch.bend;

@@ -19,9 +19,9 @@ class Renderer;
 struct PlacedLabel {
   QString text;
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;
-  double x, y;            ///< map units; the text hangs on it by its symbol's alignment
-  double angle;           ///< degrees, counterclockwise
-  QVector<QPointF> area;  ///< map units, what the text covers
+  double x, y;   ///< map units; the text hangs on it by its symbol's alignment
+  double angle;  ///< degrees, counterclockwise
+  Ring area;     ///< map units, what the text covers
 };
 
 /// A text with the room it needs.
@@ -84,7 +84,7 @@ private:
 
 /// The places for a text box inside an area, best first: near the place that is farthest from the area's border.
 /// `rings` by the even-odd rule.
-std::vector<QPointF> placesInside(QVector<QVector<QPointF>> const& rings, double width, double height);
+std::vector<QPointF> placesInside(Rings const& rings, double width, double height);
 
 /// The same text in one, two and three lines of about equal length, as far as it has words.
 QStringList wrapped(QString const& text);

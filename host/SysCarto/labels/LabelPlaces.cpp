@@ -4,107 +4,33 @@
 
 #include <algorithm>
 #include <cmath>
-#include <queue>
 
 namespace SysCarto {
 
+using SysGeometry::anyEdge;
+
 namespace {
 
-using Rings = QVector<QVector<QPointF>>;
-
-constexpr int mostCells = 4000;
 constexpr double finePt = 0.5;
 constexpr int rows = 15;
-constexpr int mostLines = 3;
+constexpr int maxLines = 3;
 constexpr double straightness = 0.97;  // of a stretch: its chord over its length
-constexpr double mostBend = 0.2;       // and how far the line may leave it, in text heights
-constexpr int mostStarts = 60;
-
-template <class Visit>
-void visitEdges(Rings const& rings, Visit const& visit) {
-  for (QVector<QPointF> const& ring : rings)
-    for (int i = 0, j = ring.size() - 1; i < ring.size(); j = i++) visit(ring[j], ring[i]);
-}
-
-double squaredDistance(QPointF const& a, QPointF const& b, QPointF const& p) {
-  QPointF const along = b - a, to = p - a;
-  double const squared = QPointF::dotProduct(along, along);
-  double const t = squared > 0 ? std::clamp(QPointF::dotProduct(to, along) / squared, 0.0, 1.0) : 0;
-  QPointF const rest = to - along * t;
-  return QPointF::dotProduct(rest, rest);
-}
-
-// From the border, negative outside.
-double depthOf(Rings const& rings, QPointF const& point) {
-  double nearest = INFINITY;
-  visitEdges(rings,
-             [&](QPointF const& a, QPointF const& b) { nearest = std::min(nearest, squaredDistance(a, b, point)); });
-  return contains(rings, point) ? std::sqrt(nearest) : -std::sqrt(nearest);
-}
-
-struct Cell {
-  QPointF centre;
-  double half;
-  double depth;
-  int number;
-
-  double most() const { return depth + half * M_SQRT2; }
-  bool operator<(Cell const& other) const {
-    return most() != other.most() ? most() < other.most() : number > other.number;
-  }
-};
-
-Box boundsOf(Rings const& rings) {
-  Box box;
-  for (QVector<QPointF> const& ring : rings)
-    for (QPointF const& point : ring) box.add(point.x(), point.y());
-  return box;
-}
-
-// The place that is farthest from the border, found by dividing squares that may still hold a better one.
-Cell deepest(Rings const& rings, Box const& box) {
-  double const width = box.xmax - box.xmin, height = box.ymax - box.ymin, half = std::min(width, height) / 2;
-  std::priority_queue<Cell> cells;
-  int number = 0;
-  auto const cell = [&](QPointF const& centre, double h) { return Cell{centre, h, depthOf(rings, centre), number++}; };
-  Cell best = cell({box.xmin + width / 2, box.ymin + height / 2}, 0);
-  auto const add = [&](QPointF const& centre, double h) {
-    Cell const made = cell(centre, h);
-    if (made.depth > best.depth) best = made;
-    cells.push(made);
-  };
-  if (!(half > finePt / 4) || std::max(width, height) / half > mostCells / 4) return best;
-  for (double x = box.xmin + half; x < box.xmax + half; x += 2 * half)
-    for (double y = box.ymin + half; y < box.ymax + half; y += 2 * half) add({x, y}, half);
-  while (!cells.empty() && number < mostCells) {
-    Cell const top = cells.top();
-    cells.pop();
-    if (top.most() - best.depth <= std::max(finePt, 0.02 * best.depth)) break;
-    double const h = top.half / 2;
-    for (QPointF const& off : {QPointF(-h, -h), QPointF(h, -h), QPointF(-h, h), QPointF(h, h)})
-      add(top.centre + off, h);
-  }
-  return best;
-}
+constexpr double maxBend = 0.2;        // and how far the line may leave it, in text heights
+constexpr int maxStarts = 60;
 
 bool boxIsInside(Rings const& rings, QPointF const& centre, double width, double height) {
   Box const box{centre.x() - width / 2, centre.y() - height / 2, centre.x() + width / 2, centre.y() + height / 2};
-  bool crossed = false;
-  LabelShape const shape = LabelShape::upright(box);
-  visitEdges(rings, [&](QPointF const& a, QPointF const& b) {
-    if (crossed || std::max(a.x(), b.x()) < box.xmin || std::min(a.x(), b.x()) > box.xmax ||
-        std::max(a.y(), b.y()) < box.ymin || std::min(a.y(), b.y()) > box.ymax)
-      return;
-    crossed = intersects(shape, LabelShape::area({QVector<QPointF>{a, b}}));
-  });
-  return !crossed && contains(rings, centre);
+  bool const isCrossed = anyEdge(
+      rings, [&](QPointF const& a, QPointF const& b) { return !SysGeometry::clippedSegment(a, b, box).isEmpty(); });
+  return !isCrossed && SysGeometry::contains(rings, centre.x(), centre.y());
 }
 
 // Where a row meets the area, as pairs of crossings.
 std::vector<double> crossings(Rings const& rings, double y) {
   std::vector<double> xs;
-  visitEdges(rings, [&](QPointF const& a, QPointF const& b) {
+  anyEdge(rings, [&](QPointF const& a, QPointF const& b) {
     if ((a.y() > y) != (b.y() > y)) xs.push_back(a.x() + (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y()));
+    return false;
   });
   std::sort(xs.begin(), xs.end());
   return xs;
@@ -132,9 +58,9 @@ std::vector<QPointF> placesInRows(Rings const& rings, Box const& box, QPointF co
 
 std::vector<QPointF> placesInside(Rings const& rings, double width, double height) {
   std::vector<QPointF> places;
-  Box const box = boundsOf(rings);
+  Box const box = SysGeometry::boxOf(rings);
   if (box.isEmpty() || box.xmax - box.xmin < width || box.ymax - box.ymin < height) return places;
-  QPointF const best = deepest(rings, box).centre;
+  QPointF const best = SysGeometry::poleOfInaccessibility(rings, finePt).place;
   places = placesInRows(rings, box, best, width, height);
   std::stable_sort(places.begin(), places.end(), [&](QPointF const& a, QPointF const& b) {
     QPointF const p = a - best, q = b - best;
@@ -150,7 +76,7 @@ std::vector<QPointF> placesInside(Rings const& rings, double width, double heigh
 QStringList wrapped(QString const& text) {
   QStringList const words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
   QStringList result{text};
-  for (int lines = 2; lines <= mostLines && lines <= words.size(); ++lines) {
+  for (int lines = 2; lines <= maxLines && lines <= words.size(); ++lines) {
     // The smallest width, in letters, at which the words go into that many lines.
     for (int width = text.size() / lines; width <= text.size(); ++width) {
       QStringList broken{words[0]};
@@ -183,7 +109,7 @@ std::vector<Stretch> straightStretches(std::vector<QPointF> const& line, double 
     double const t = length > 0 ? (along - at[next - 1]) / length : 0;
     return line[next - 1] + (line[next] - line[next - 1]) * t;
   };
-  int const starts = std::clamp(static_cast<int>(room / height), 1, mostStarts);
+  int const starts = std::clamp(static_cast<int>(room / height), 1, maxStarts);
   for (int i = 0; i <= starts; ++i) {
     double const from = room * i / starts;
     QPointF const a = place(from), b = place(from + width);
@@ -191,8 +117,8 @@ std::vector<Stretch> straightStretches(std::vector<QPointF> const& line, double 
     double bend = 0;
     for (size_t k = std::upper_bound(at.begin(), at.end(), from) - at.begin(); k < at.size() && at[k] < from + width;
          ++k)
-      bend = std::max(bend, std::sqrt(squaredDistance(a, b, line[k])));
-    if (bend > mostBend * height) continue;
+      bend = std::max(bend, std::sqrt(SysGeometry::squaredDistanceToSegment(a, b, line[k])));
+    if (bend > maxBend * height) continue;
     double angle = std::atan2(b.y() - a.y(), b.x() - a.x()) * 180 / M_PI;
     if (angle > 90) angle -= 180;
     if (angle <= -90) angle += 180;

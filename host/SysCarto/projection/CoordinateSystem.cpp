@@ -12,7 +12,7 @@ namespace SysCarto {
 
 namespace {
 
-constexpr int mostCharacters = 16384;
+constexpr int maxCharacters = 16384;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(CoordinateSystem)
@@ -53,7 +53,7 @@ using SystemPtr = std::unique_ptr<OGRSpatialReference>;
 QString read(QString const& definition, SystemPtr& system) {
   QString const text = definition.trimmed();
   if (text.isEmpty()) return QString();
-  if (text.size() > mostCharacters) return Texts::tr("is longer than a coordinate system can be");
+  if (text.size() > maxCharacters) return Texts::tr("is longer than a coordinate system can be");
   if (!isKnownNotation(text))
     return Texts::tr("“%1” is no coordinate system; give a code such as EPSG:8857, WKT or a PROJ text")
         .arg(text.left(64).simplified());
@@ -80,6 +80,12 @@ std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definit
   SystemPtr system;
   read(definition, system);
   return system;
+}
+
+std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system) {
+  SystemPtr globe(system.CloneGeogCS());
+  if (globe) globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+  return globe;
 }
 
 }  // namespace SysCarto

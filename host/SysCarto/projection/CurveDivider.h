@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysGeometry/PlaneGeometry.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -41,7 +43,7 @@ public:
   /// The same for an edge that may bend and whose middle is known.
   template <class Visit>
   void divideAt(CurveEnd const& middle, CurveEnd const& a, CurveEnd const& b, Visit const& visit, int depth = 0) const {
-    if (length(a, b) <= longest_ && distance(a, b, middle) <= tolerance_) return;
+    if (length(a, b) <= longest_ && isStraight(a, b, middle)) return;
     divide(a, middle, visit, depth + 1);
     visit(middle.px, middle.py);
     divide(middle, b, visit, depth + 1);
@@ -55,11 +57,9 @@ private:
     return std::max(std::abs(b.x - a.x), std::abs(b.y - a.y));
   }
 
-  static double distance(CurveEnd const& a, CurveEnd const& b, CurveEnd const& p) {
-    double const dx = b.px - a.px, dy = b.py - a.py, squared = dx * dx + dy * dy;
-    double t = squared > 0 ? ((p.px - a.px) * dx + (p.py - a.py) * dy) / squared : 0;
-    t = std::clamp(t, 0.0, 1.0);
-    return std::hypot(a.px + t * dx - p.px, a.py + t * dy - p.py);
+  bool isStraight(CurveEnd const& a, CurveEnd const& b, CurveEnd const& middle) const {
+    return SysGeometry::squaredDistanceToSegment(a.px, a.py, b.px, b.py, middle.px, middle.py) <=
+           tolerance_ * tolerance_;
   }
 
   Project project_;

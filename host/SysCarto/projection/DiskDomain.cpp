@@ -1,4 +1,5 @@
 #include "host/SysCarto/projection/ProjectionDomain.h"
+#include "host/SysGeometry/PlaneGeometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +15,7 @@ constexpr double arcStep = 0.5;  // degrees of direction between vertices on the
 constexpr double nearly = 1e-7;
 
 // Edges along a pole are followed around it, just before it; so the pole itself lies beyond them.
-constexpr double mostLatitude = 90 - 1e-7;
+constexpr double maxLatitude = 90 - 1e-7;
 constexpr double antipodeLatitude = 90 - 1e-9;
 
 // A direction from the centre, from north over east, and a distance; degrees.
@@ -24,18 +25,8 @@ struct Polar {
 
 double turned(double from, double to) { return std::remainder(to - from, 360.0); }
 
-// By the even-odd rule in the plane of longitude and latitude.
-bool ringContains(Run const& ring, double x, double y) {
-  bool inside = false;
-  for (size_t i = 0, j = ring.size() - 1; i < ring.size(); j = i++) {
-    Vertex const &a = ring[i], &b = ring[j];
-    if ((a.y > y) != (b.y > y) && x < a.x + (b.x - a.x) * (y - a.y) / (b.y - a.y)) inside = !inside;
-  }
-  return inside;
-}
-
 Run beforePoles(Run run) {
-  for (Vertex& v : run) v.y = std::clamp(v.y, -mostLatitude, mostLatitude);
+  for (Vertex& v : run) v.y = std::clamp(v.y, -maxLatitude, maxLatitude);
   return run;
 }
 
@@ -177,11 +168,12 @@ Run DiskDomain::clipRing(Run const& given) const {
   return result;
 }
 
+// In the plane of longitude and latitude.
 bool DiskDomain::containsAntipode(std::vector<Run> const& rings) const {
   bool inside = false;
   for (Run const& ring : rings)
     for (int turn = -2; turn <= 2; ++turn)
-      if (ringContains(ring, antipode_.x + 360 * turn, antipode_.y)) inside = !inside;
+      if (SysGeometry::contains(ring, antipode_.x + 360 * turn, antipode_.y)) inside = !inside;
   return inside;
 }
 

@@ -1,6 +1,8 @@
 #include "GeometryProjector.h"
 
+#include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/CurveDivider.h"
+#include "host/SysGeometry/PlaneGeometry.h"
 
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
@@ -20,7 +22,7 @@ constexpr double shortestDegrees = 0.05;  // a curve this short strays from its 
 constexpr double longestSourceM = 200000;
 constexpr double seamDegrees = 1e-4;      // how near to the antimeridian data are cut
 constexpr double nearAntimeridian = 150;  // where both ends of an edge that steps across it lie
-constexpr double noArea = 1e-7;           // square degrees
+constexpr double noArea = 5e-8;           // square degrees
 constexpr double poleDegrees = 0.01;      // and how near to a pole their lower edge may end
 constexpr double inwards = 1e-9;          // at ±180 itself a projection may take either side
 constexpr double farthestRadii = 6;       // what is projected beyond this is as good as infinite
@@ -29,12 +31,6 @@ constexpr int deepestCollection = 32;
 double metresPerUnit(OGRSpatialReference const& system) {
   double const unit = system.IsProjected() ? system.GetLinearUnits() : 1;
   return unit > 0 ? unit : 1;
-}
-
-std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system) {
-  std::unique_ptr<OGRSpatialReference> globe(system.CloneGeogCS());
-  if (globe) globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-  return globe;
 }
 
 bool isOnGlobe(OGRSpatialReference const& system) { return system.IsGeographic() || system.IsProjected(); }
@@ -105,10 +101,7 @@ void joinRing(Run& ring, double centralLongitude) {
   Run joined = ring;
   unwrap(joined);
   closeOverPole(joined);
-  double twiceArea = 0;
-  for (size_t i = 0, j = joined.size() - 1; i < joined.size(); j = i++)
-    twiceArea += (joined[j].x - joined[i].x) * (joined[j].y + joined[i].y - 2 * joined[0].y);
-  if (std::abs(twiceArea) > noArea) ring = std::move(joined);
+  if (std::abs(SysGeometry::signedArea(joined)) > noArea) ring = std::move(joined);
 }
 
 // A step along a parallel is meant as it is written.

@@ -3,6 +3,7 @@
 #include "Pieces.h"
 
 #include "host/SysCarto/elements/TextElement.h"
+#include "host/SysGeometry/PlaneGeometry.h"
 #include "host/SysGeometry/QuietOgr.h"
 
 #include <ogr_geometry.h>
@@ -16,7 +17,10 @@ namespace SysCarto {
 using SysDisplay::HorizontalAlignment;
 using SysDisplay::TextSymbol;
 using SysDisplay::VerticalAlignment;
+using SysGeometry::Box;
 using SysGeometry::Envelope;
+using SysGeometry::Ring;
+using SysGeometry::Rings;
 using SysUtility::_ptr_t;
 using SysUtility::make;
 
@@ -28,19 +32,7 @@ constexpr double betweenCm = 0.08;  // two labels
 constexpr double steepFrom = 0.5;   // of half the frame's height
 constexpr double haloPt = 1;        // around a label on its line
 
-OGRPolygon polygonOf(double left, double bottom, double right, double top) {
-  OGRLinearRing ring;
-  ring.addPoint(left, bottom);
-  ring.addPoint(right, bottom);
-  ring.addPoint(right, top);
-  ring.addPoint(left, top);
-  ring.closeRings();
-  OGRPolygon polygon;
-  polygon.addRing(&ring);
-  return polygon;
-}
-
-QPointF halfwayAlong(QVector<QPointF> const& line) {
+QPointF halfwayAlong(Ring const& line) {
   double left = 0;
   for (int i = 1; i < line.size(); ++i) left += QLineF(line[i - 1], line[i]).length() / 2;
   for (int i = 1; i < line.size(); ++i) {
@@ -55,14 +47,39 @@ bool meets(QRectF const& box, QRectF const& other) {
   return other.intersects(box.adjusted(-betweenCm, -betweenCm, betweenCm, betweenCm));
 }
 
-void addLines(OGRGeometry const& geometry, QVector<QVector<QPointF>>& parts) {
-  if (wkbFlatten(geometry.getGeometryType()) == wkbLineString) {
-    QVector<QPointF> points;
-    for (OGRPoint const& point : *geometry.toLineString()) points << QPointF(point.getX(), point.getY());
-    if (points.size() > 1) parts << points;
-  } else if (OGR_GT_IsSubClassOf(geometry.getGeometryType(), wkbGeometryCollection)) {
-    for (auto const* member : *geometry.toGeometryCollection()) addLines(*member, parts);
+// What a pixel can't show of a line is left out.
+Ring thinned(Ring const& line) {
+  OGRLineString string;
+  string.setNumPoints(line.size());
+  for (int i = 0; i < line.size(); ++i) string.setPoint(i, line[i].x(), line[i].y());
+  SysGeometry::QuietOgr const quiet;
+  std::unique_ptr<OGRGeometry> const simple(string.Simplify(thinnedCm));
+  Ring points;
+  if (simple && !simple->IsEmpty())
+    for (OGRPoint const& point : *simple->toLineString()) points << QPointF(point.getX(), point.getY());
+  return points;
+}
+
+// Appends the parts of a line that lie within a box.
+void addClipped(Ring const& line, Box const& box, Rings& parts) {
+  Ring part;
+  auto const end = [&] {
+    if (part.size() > 1) parts << part;
+    part.clear();
+  };
+  for (int i = 1; i < line.size(); ++i) {
+    QPointF const &a = line[i - 1], &b = line[i];
+    SysGeometry::SegmentRange const inside = SysGeometry::clippedSegment(a, b, box);
+    if (!(inside.from < inside.to)) {
+      end();
+      continue;
+    }
+    if (inside.from > 0) end();
+    if (part.isEmpty()) part << a + (b - a) * inside.from;
+    part << (inside.to < 1 ? a + (b - a) * inside.to : b);
+    if (inside.to < 1) end();
   }
+  end();
 }
 
 }  // namespace
@@ -80,30 +97,12 @@ QPointF GraticuleLabels::onPage(QPointF const& point, Envelope const& extent) co
           bottom_ + (point.y() - extent.GetYMin()) * (top_ - bottom_) / extent.GetHeight()};
 }
 
-QVector<QVector<QPointF>> GraticuleLabels::placed(GraticuleLine const& line, Envelope const& extent) const {
-  OGRMultiLineString whole;
-  for (QVector<QPointF> const& part : line.parts) {
-    OGRLineString string;
-    string.setNumPoints(part.size());
-    for (int i = 0; i < part.size(); ++i) {
-      QPointF const point = onPage(part[i], extent);
-      string.setPoint(i, point.x(), point.y());
-    }
-    whole.addGeometry(&string);
+Rings GraticuleLabels::placed(GraticuleLine const& line, Envelope const& extent) const {
+  Rings parts;
+  for (Ring part : line.parts) {
+    for (QPointF& point : part) point = onPage(point, extent);
+    addClipped(thinned(part), {left_, bottom_, right_, top_}, parts);
   }
-  SysGeometry::QuietOgr const quiet;
-  OGREnvelope covered, frame;
-  whole.getEnvelope(&covered);
-  OGRPolygon const rectangle = polygonOf(left_, bottom_, right_, top_);
-  rectangle.getEnvelope(&frame);
-  std::unique_ptr<OGRGeometry> const thinned(whole.Simplify(thinnedCm));
-  std::unique_ptr<OGRGeometry> const inside(thinned && !frame.Contains(covered) ? thinned->Intersection(&rectangle)
-                                                                                : nullptr);
-  QVector<QVector<QPointF>> parts;
-  if (inside)
-    addLines(*inside, parts);
-  else if (thinned && frame.Contains(covered))
-    addLines(*thinned, parts);
   return parts;
 }
 
@@ -119,10 +118,10 @@ GraticuleLabels::Side GraticuleLabels::sideOf(QPointF const& point, bool isMerid
   return isMeridian ? above : beside;
 }
 
-void GraticuleLabels::label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts, Envelope const& extent) {
+void GraticuleLabels::label(GraticuleLine const& line, Rings const& parts, Envelope const& extent) {
   line_ = &line;
-  QVector<QPointF> wanted, others;
-  for (QVector<QPointF> const& part : parts)
+  Ring wanted, others;
+  for (Ring const& part : parts)
     for (QPointF const& point : {part.first(), part.last()}) {
       Side const side = sideOf(point, line.isMeridian);
       bool const isWanted = line.isMeridian == (side == Bottom || side == Top);
@@ -174,9 +173,9 @@ void GraticuleLabels::addBeyond(QString const& text, QLineF const& end) {
 }
 
 // At the lowest point of a parallel, which goes around a pole; halfway along a meridian, which goes from pole to pole.
-void GraticuleLabels::addOn(QString const& text, QVector<QVector<QPointF>> const& parts) {
+void GraticuleLabels::addOn(QString const& text, Rings const& parts) {
   if (parts.isEmpty()) return;
-  QVector<QPointF> const& part = parts.first();
+  Ring const& part = parts.first();
   auto const lowest = std::min_element(part.begin(), part.end(),
                                        [](QPointF const& one, QPointF const& other) { return one.y() < other.y(); });
   double const usual = std::exchange(format_.haloSize, std::max(haloPt, format_.haloSize));

@@ -64,9 +64,8 @@ bool goesOnFrom(QVector<QLineF> const& ends, int index) {
 GraticuleLines::GraticuleLines(QString const& definition) {
   auto const system = makeCoordinateSystem(definition);
   if (!system) return;
-  std::unique_ptr<OGRSpatialReference> const globe(system->CloneGeogCS());
+  auto const globe = globeOf(*system);
   if (!globe) return;
-  globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
   QString error;
   projector_ = GeometryProjector::create(globe.get(), system.get(), error);
   toGlobe_ = PointTransform::create(*system, *globe, error);
