@@ -15,13 +15,19 @@ using namespace SysGeometry;
 
 namespace {
 
+static_assert(sizeof(QPointF) == 2 * sizeof(double), "points are handed on as flat arrays");
+
+GeometryPart partOf(QPointF const* points, int count, bool closed) {
+  return {{reinterpret_cast<double const*>(points), count}, closed};
+}
+
 // A line that ends where it began counts as closed: it has a corner there like its others.
 bool isClosed(QVector<QPointF> const& run) { return run.size() > 3 && run.first() == run.last(); }
 
 void visitRuns(QVector<QVector<QPointF>> const& runs, bool closed,
                std::function<void(GeometryPart const&)> const& visit) {
   for (QVector<QPointF> const& run : runs)
-    if (!run.isEmpty()) visit({run.constData(), run.size(), closed || isClosed(run)});
+    if (!run.isEmpty()) visit(partOf(run.constData(), run.size(), closed || isClosed(run)));
 }
 
 }  // namespace
@@ -38,7 +44,7 @@ bool visitParts(Geometry const* geometry, std::function<void(GeometryPart const&
     double x1, y1, x2, y2;
     envelope->QueryCoords(x1, y1, x2, y2);
     QPointF const corners[] = {{x1, y1}, {x2, y1}, {x2, y2}, {x1, y2}};
-    visit({corners, 4, true});
+    visit(partOf(corners, 4, true));
   } else {
     return false;
   }
@@ -47,7 +53,7 @@ bool visitParts(Geometry const* geometry, std::function<void(GeometryPart const&
 
 void visitParts(QPainterPath const& path, std::function<void(GeometryPart const&)> const& visit) {
   for (QPolygonF const& run : path.toSubpathPolygons())
-    if (!run.isEmpty()) visit({run.constData(), run.size(), run.size() > 2 && run.isClosed()});
+    if (!run.isEmpty()) visit(partOf(run.constData(), run.size(), run.size() > 2 && run.isClosed()));
 }
 
 bool isArea(Geometry const* geometry) {

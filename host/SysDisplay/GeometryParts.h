@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysDisplay/WorldRun.h"
+
 #include <SysDisplay/DisplayTransformation.h>
 
 #include <QPointF>
@@ -14,13 +16,9 @@ namespace SysDisplay {
 
 /// One run of vertices of a geometry.
 struct GeometryPart {
-  QPointF const* points;
-  int count;
+  WorldRun run;
   bool closed;
-
-  double const* xy() const { return reinterpret_cast<double const*>(points); }
 };
-static_assert(sizeof(QPointF) == 2 * sizeof(double), "points are handed on as flat arrays");
 
 /// Visits the lines of a polyline and the rings of a polygon or an envelope. Answers false for an empty pointer and for
 /// other geometries.

@@ -116,7 +116,8 @@ private:
 // long lines it has to be given a few rows at a time.
 constexpr double bandPx = 16;
 
-// Appends the part of a line's quadrangle between two pixel rows. The cuts lie on the 1/64 grid like the corners.
+// Appends the part of a line's quadrangle between two pixel rows. The cuts lie on the 1/64 grid like the corners, and
+// both are made on the edges as given, so that two bands meet in the same points.
 void cutToRows(QPointF const* corners, int count, double top, double bottom, PointRuns& out) {
   auto const addCut = [&](QPointF const& a, QPointF const& b, double row) {
     if ((a.y() < row) != (b.y() < row)) out.add(snapped(a + (b - a) * ((row - a.y()) / (b.y() - a.y()))));

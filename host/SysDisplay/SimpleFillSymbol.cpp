@@ -30,7 +30,7 @@ void SimpleFillSymbol::DrawSurface(QPainter& painter, _ptr_t<DisplayTransformati
   if (!transformation || !isArea(geometry.get())) return;
   DrawTarget target(painter, *transformation);
   FillPainter fill(target, *this);
-  visitParts(geometry.get(), [&](GeometryPart const& part) { fill.addRing({part.xy(), part.count}); });
+  visitParts(geometry.get(), [&](GeometryPart const& part) { fill.addRing(part.run); });
   fill.draw();
 }
 
@@ -42,7 +42,7 @@ void SimpleFillSymbol::DrawEnvelope(QPainter& painter, _ptr_t<DisplayTransformat
 void SimpleFillSymbol::Draw(QPainter& painter, QPainterPath const& path) const {
   DrawTarget target(painter, QTransform(), DisplayTransformation().PixelsPerPoint());
   FillPainter fill(target, *this);
-  visitParts(path, [&](GeometryPart const& part) { fill.addRing({part.xy(), part.count}); });
+  visitParts(path, [&](GeometryPart const& part) { fill.addRing(part.run); });
   fill.draw();
 }
 

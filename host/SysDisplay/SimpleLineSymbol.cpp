@@ -16,9 +16,9 @@ namespace {
 
 void add(LinePainter& line, GeometryPart const& part) {
   if (part.closed)
-    line.addRing({part.xy(), part.count});
+    line.addRing(part.run);
   else
-    line.addLine({part.xy(), part.count});
+    line.addLine(part.run);
 }
 
 }  // namespace
@@ -65,8 +65,8 @@ _ptr_t<Envelope> SimpleLineSymbol::QueryBoundary(_ptr_t<DisplayTransformation> c
   std::vector<QPointF> line;
   visitParts(geometry.get(), [&](GeometryPart const& part) {
     line.clear();
-    for (int i = 0; i < part.count; ++i) {
-      QPointF const point = toDevice.map(part.points[i]);
+    for (int i = 0; i < part.run.count; ++i) {
+      QPointF const point = toDevice.map(QPointF(part.run.xy[2 * i], part.run.xy[2 * i + 1]));
       if (line.empty() || line.back() != point) line.push_back(point);
     }
     if (part.closed && line.size() > 1 && line.front() == line.back()) line.pop_back();
