@@ -41,9 +41,12 @@ auto yOf(Point const& point) -> decltype(point.y + 0.0) {
 /// Calls `visit` with the ends of each edge, the one that closes the ring first, until it answers true.
 template <class Points, class Visit>
 bool anyEdge(Points const& ring, Visit const& visit) {
-  auto const count = ring.size();
-  for (auto i = count - count, j = count - 1; i < count; j = i++)
-    if (visit(ring[j], ring[i])) return true;
+  if (ring.empty()) return false;
+  auto const* before = &ring.back();
+  for (auto const& point : ring) {
+    if (visit(*before, point)) return true;
+    before = &point;
+  }
   return false;
 }
 template <class Visit>
@@ -157,8 +160,9 @@ Points clippedRing(Points ring, Box const& box) {
   auto const cut = [&](auto const& distance) {  // positive inside
     kept.clear();
     Points const& given = ring;
-    for (auto i = given.size() - given.size(); i < given.size(); ++i) {
-      QPointF const &from = given[i], &to = given[i + 1 == given.size() ? 0 : i + 1];
+    int const count = static_cast<int>(given.size());
+    for (int i = 0; i < count; ++i) {
+      QPointF const &from = given[i], &to = given[i + 1 == count ? 0 : i + 1];
       double const before = distance(from), after = distance(to);
       if (before >= 0) kept.push_back(from);
       if ((before >= 0) != (after >= 0)) kept.push_back(from + (to - from) * (before / (before - after)));
