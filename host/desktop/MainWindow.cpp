@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "BoxTitles.h"
 #include "Icons.h"
 #include "NoticeBar.h"
 #include "ScaleText.h"
@@ -61,6 +62,7 @@ private:
 
 MainWindow::MainWindow()
     : bench_([this](HostCommands& host) { addWindowCommands(host); }), files_(bench_.session(), *this) {
+  new BoxTitles(this);
   setAcceptDrops(true);
   setWindowIcon(loadIcon(QStringLiteral("layout-view")));
   resize(firstSize);

@@ -2,6 +2,7 @@
 #include "desktop/WorkbenchPage.h"
 
 #include "host/SysCarto/maps/VectorLayer.h"
+#include "host/desktop/BoxTitles.h"
 #include "host/desktop/CommandCatalogue.h"
 #include "host/desktop/DialogAnswers.h"
 #include "host/desktop/Icons.h"
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSettings>
@@ -343,6 +345,13 @@ private slots:
     QTRY_VERIFY(sample.window.isWindowModified());
     layer->setCheckState(0, Qt::Checked);
     QTRY_VERIFY(!sample.window.isWindowModified());
+  }
+
+  void aMessageBoxHasRoomForItsTitle() {
+    MainWindow const window;
+    QMessageBox box(QMessageBox::Warning, "A warning of some length", "No.", QMessageBox::Ok);
+    box.show();
+    QVERIFY(box.width() >= box.fontMetrics().horizontalAdvance(box.windowTitle()) + BoxTitles::titleBarPx);
   }
 
   void aScaleIsReadInTheMannerOfAnyLanguage_data() {
