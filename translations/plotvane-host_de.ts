@@ -12,71 +12,71 @@
     <name>Archive</name>
     <message>
         <source>true or false</source>
-        <translation>wahr oder falsch</translation>
+        <translation type="vanished">wahr oder falsch</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation>eine Zahl</translation>
+        <translation type="vanished">eine Zahl</translation>
     </message>
     <message>
         <source>a text</source>
-        <translation>ein Text</translation>
+        <translation type="vanished">ein Text</translation>
     </message>
     <message>
         <source>a list</source>
-        <translation>eine Liste</translation>
+        <translation type="vanished">eine Liste</translation>
     </message>
     <message>
         <source>an object</source>
-        <translation>ein Objekt</translation>
+        <translation type="vanished">ein Objekt</translation>
     </message>
     <message>
         <source>null</source>
-        <translation>null</translation>
+        <translation type="vanished">null</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation>nichts</translation>
+        <translation type="vanished">nichts</translation>
     </message>
     <message>
         <source>expected %1, found %2</source>
-        <translation>erwartet: %1, gefunden: %2</translation>
+        <translation type="vanished">erwartet: %1, gefunden: %2</translation>
     </message>
     <message>
         <source>%1 is not between %2 and %3</source>
-        <translation>%1 liegt nicht zwischen %2 und %3</translation>
+        <translation type="vanished">%1 liegt nicht zwischen %2 und %3</translation>
     </message>
     <message>
         <source>the text has %1 characters; at most %2</source>
-        <translation>der Text hat %1 Zeichen; höchstens %2 sind erlaubt</translation>
+        <translation type="vanished">der Text hat %1 Zeichen; höchstens %2 sind erlaubt</translation>
     </message>
     <message>
         <source>is missing</source>
-        <translation>fehlt</translation>
+        <translation type="vanished">fehlt</translation>
     </message>
     <message>
         <source>%1 is not a whole number</source>
-        <translation>%1 ist keine ganze Zahl</translation>
+        <translation type="vanished">%1 ist keine ganze Zahl</translation>
     </message>
     <message>
         <source>expected %1 numbers, found %2</source>
-        <translation>%1 Zahlen erwartet, %2 gefunden</translation>
+        <translation type="vanished">%1 Zahlen erwartet, %2 gefunden</translation>
     </message>
     <message>
         <source>holds an odd count of numbers</source>
-        <translation>enthält eine ungerade Anzahl von Zahlen</translation>
+        <translation type="vanished">enthält eine ungerade Anzahl von Zahlen</translation>
     </message>
     <message>
         <source>%1 is a choice without a name</source>
-        <translation>%1 ist eine Auswahl ohne Namen</translation>
+        <translation type="vanished">%1 ist eine Auswahl ohne Namen</translation>
     </message>
     <message>
         <source>“%1” is not one of %2</source>
-        <translation>„%1“ ist keiner der Werte %2</translation>
+        <translation type="vanished">„%1“ ist keiner der Werte %2</translation>
     </message>
     <message>
         <source>holds %1 entries; at most %2</source>
-        <translation>enthält %1 Einträge; höchstens %2 sind erlaubt</translation>
+        <translation type="vanished">enthält %1 Einträge; höchstens %2 sind erlaubt</translation>
     </message>
 </context>
 <context>
@@ -1012,8 +1012,82 @@
     <name>ElementArchive</name>
     <message>
         <source>must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax</source>
-        <translation>muss xmin, ymin, xmax, ymax enthalten, mit xmin ≤ xmax und ymin ≤ ymax</translation>
+        <translation type="vanished">muss xmin, ymin, xmax, ymax enthalten, mit xmin ≤ xmax und ymin ≤ ymax</translation>
     </message>
+    <message>
+        <source>needs at least %1 points</source>
+        <translation type="vanished">braucht mindestens %1 Punkte</translation>
+    </message>
+    <message>
+        <source>holds a coordinate beyond %1</source>
+        <translation type="vanished">enthält eine Koordinate jenseits von %1</translation>
+    </message>
+    <message>
+        <source>needs at least one ring</source>
+        <translation type="vanished">braucht mindestens einen Ring</translation>
+    </message>
+    <message>
+        <source>groups are nested more than %1 deep</source>
+        <translation type="vanished">Gruppen sind tiefer als %1 Ebenen verschachtelt</translation>
+    </message>
+    <message>
+        <source>is no map of the document</source>
+        <translation type="vanished">ist keine Karte des Dokuments</translation>
+    </message>
+    <message>
+        <source>another data frame shows this map already</source>
+        <translation type="vanished">ein anderer Datenrahmen zeigt diese Karte bereits</translation>
+    </message>
+    <message>
+        <source>%1 is another element&apos;s handle already</source>
+        <translation type="vanished">%1 ist bereits die Kennung eines anderen Elements</translation>
+    </message>
+    <message>
+        <source>an element of a kind that can&apos;t be stored</source>
+        <translation type="vanished">ein Element einer Art, die sich nicht speichern lässt</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation type="vanished">„%1“ ist keiner der Werte %2</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be part of a group</source>
+        <translation type="vanished">„%1“ kann nicht Teil einer Gruppe sein</translation>
+    </message>
+    <message>
+        <source>a part of a frame of a kind that can&apos;t be stored</source>
+        <translation type="vanished">ein Rahmenteil einer Art, die sich nicht speichern lässt</translation>
+    </message>
+    <message>
+        <source>“%1” is not a paper form; “A4” and “Custom” are</source>
+        <translation type="vanished">„%1“ ist kein Papierformat; „A4“ und „Custom“ sind welche</translation>
+    </message>
+    <message>
+        <source>needs at least one element</source>
+        <translation type="vanished">braucht mindestens ein Element</translation>
+    </message>
+</context>
+<context>
+    <name>ElementFields</name>
+    <message>
+        <source>%1 is another element&apos;s handle already</source>
+        <translation>%1 ist bereits die Kennung eines anderen Elements</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be part of a group</source>
+        <translation>„%1“ kann nicht Teil einer Gruppe sein</translation>
+    </message>
+    <message>
+        <source>data frames and surrounds can&apos;t lie on a map, only on the page</source>
+        <translation>Datenrahmen und Randangaben können nicht auf einer Karte liegen, nur auf der Seite</translation>
+    </message>
+    <message>
+        <source>an element of a kind that can&apos;t be stored</source>
+        <translation>ein Element einer Art, die sich nicht speichern lässt</translation>
+    </message>
+</context>
+<context>
+    <name>ElementSettings</name>
     <message>
         <source>needs at least %1 points</source>
         <translation>braucht mindestens %1 Punkte</translation>
@@ -1027,44 +1101,20 @@
         <translation>braucht mindestens einen Ring</translation>
     </message>
     <message>
+        <source>must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax</source>
+        <translation>muss xmin, ymin, xmax, ymax enthalten, mit xmin ≤ xmax und ymin ≤ ymax</translation>
+    </message>
+    <message>
         <source>groups are nested more than %1 deep</source>
         <translation>Gruppen sind tiefer als %1 Ebenen verschachtelt</translation>
     </message>
     <message>
-        <source>is no map of the document</source>
-        <translation>ist keine Karte des Dokuments</translation>
+        <source>needs at least one element</source>
+        <translation>braucht mindestens ein Element</translation>
     </message>
     <message>
         <source>another data frame shows this map already</source>
         <translation>ein anderer Datenrahmen zeigt diese Karte bereits</translation>
-    </message>
-    <message>
-        <source>%1 is another element&apos;s handle already</source>
-        <translation>%1 ist bereits die Kennung eines anderen Elements</translation>
-    </message>
-    <message>
-        <source>an element of a kind that can&apos;t be stored</source>
-        <translation>ein Element einer Art, die sich nicht speichern lässt</translation>
-    </message>
-    <message>
-        <source>“%1” is not one of %2</source>
-        <translation>„%1“ ist keiner der Werte %2</translation>
-    </message>
-    <message>
-        <source>“%1” can&apos;t be part of a group</source>
-        <translation>„%1“ kann nicht Teil einer Gruppe sein</translation>
-    </message>
-    <message>
-        <source>a part of a frame of a kind that can&apos;t be stored</source>
-        <translation>ein Rahmenteil einer Art, die sich nicht speichern lässt</translation>
-    </message>
-    <message>
-        <source>“%1” is not a paper form; “A4” and “Custom” are</source>
-        <translation>„%1“ ist kein Papierformat; „A4“ und „Custom“ sind welche</translation>
-    </message>
-    <message>
-        <source>needs at least one element</source>
-        <translation>braucht mindestens ein Element</translation>
     </message>
 </context>
 <context>
@@ -1162,6 +1212,1153 @@
     </message>
 </context>
 <context>
+    <name>Fields</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>What the map is called.</source>
+        <translation>Wie die Karte heißt.</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>That of the map, as a code (“EPSG:8857”), WKT or a PROJ text.</source>
+        <translation>Das der Karte, als Code („EPSG:8857“), WKT oder PROJ-Text.</translation>
+    </message>
+    <message>
+        <source>Extent</source>
+        <translation>Ausdehnung</translation>
+    </message>
+    <message>
+        <source>What the map shows: its left, lower, right and upper side.</source>
+        <translation>Was die Karte zeigt: ihre linke, untere, rechte und obere Seite.</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Layer</translation>
+    </message>
+    <message>
+        <source>The layers of the map, the lowest first.</source>
+        <translation>Die Layer der Karte, der unterste zuerst.</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>The sheet.</source>
+        <translation>Das Blatt.</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Settings of the layout.</source>
+        <translation>Einstellungen des Layouts.</translation>
+    </message>
+    <message>
+        <source>Align to margins</source>
+        <translation>Am Seitenrand ausrichten</translation>
+    </message>
+    <message>
+        <source>Whether the alignment commands align to the page.</source>
+        <translation>Ob die Befehle zum Ausrichten an der Seite ausrichten.</translation>
+    </message>
+    <message>
+        <source>Focus map</source>
+        <translation>Aktive Karte</translation>
+    </message>
+    <message>
+        <source>The number of the map that new surrounds follow.</source>
+        <translation>Die Nummer der Karte, der neue Randangaben folgen.</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <source>Elements that lie on the map, in map units.</source>
+        <translation>Elemente, die auf der Karte liegen, in Karteneinheiten.</translation>
+    </message>
+    <message>
+        <source>Relative paths</source>
+        <translation>Relative Pfade</translation>
+    </message>
+    <message>
+        <source>Whether files are named relative to the document.</source>
+        <translation>Ob Dateien relativ zum Dokument angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>Karten</translation>
+    </message>
+    <message>
+        <source>The maps of the data frames.</source>
+        <translation>Die Karten der Datenrahmen.</translation>
+    </message>
+    <message>
+        <source>Elements</source>
+        <translation>Elemente</translation>
+    </message>
+    <message>
+        <source>What lies on the page, the lowest first.</source>
+        <translation>Was auf der Seite liegt, das unterste zuerst.</translation>
+    </message>
+    <message>
+        <source>What the element is called in lists and by the command line.</source>
+        <translation>Wie das Element in Listen und auf der Befehlszeile heißt.</translation>
+    </message>
+    <message>
+        <source>Handle</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>The number of the element, which no other one has.</source>
+        <translation>Die Nummer des Elements, die kein anderes hat.</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>Punktsymbol</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Data frame</source>
+        <translation>Datenrahmen</translation>
+    </message>
+    <message>
+        <source>Map surround</source>
+        <translation>Randangabe</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>What kind of element it is.</source>
+        <translation>Welche Art von Element es ist.</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>The vertices: x and y of the first, of the second, and so on.</source>
+        <translation>Die Stützpunkte: x und y des ersten, des zweiten und so weiter.</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>The point at which it stands, from the lower left corner.</source>
+        <translation>Der Punkt, an dem es steht, von der linken unteren Ecke aus.</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>How it is drawn; without a symbol it is not.</source>
+        <translation>Wie es gezeichnet wird; ohne Symbol wird es nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>Ringe</translation>
+    </message>
+    <message>
+        <source>Closed lines that bound the area; one within another is a hole.</source>
+        <translation>Geschlossene Linien, die die Fläche begrenzen; eine innerhalb einer anderen ist ein Loch.</translation>
+    </message>
+    <message>
+        <source>Its left, lower, right and upper side, from the lower left corner.</source>
+        <translation>Die linke, untere, rechte und obere Seite, von der linken unteren Ecke aus.</translation>
+    </message>
+    <message>
+        <source>What it says.</source>
+        <translation>Was darin steht.</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>How far the text is turned counterclockwise about its position.</source>
+        <translation>Wie weit der Text gegen den Uhrzeigersinn um seine Position gedreht ist.</translation>
+    </message>
+    <message>
+        <source>How the letters look.</source>
+        <translation>Wie die Schrift aussieht.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>The file of the picture (PNG, JPEG or SVG), relative to the document.</source>
+        <translation>Die Datei des Bildes (PNG, JPEG oder SVG), relativ zum Dokument.</translation>
+    </message>
+    <message>
+        <source>Members</source>
+        <translation>Teile</translation>
+    </message>
+    <message>
+        <source>The elements of the group.</source>
+        <translation>Die Elemente der Gruppe.</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Whether the mouse leaves the data frame and its map alone.</source>
+        <translation>Ob die Maus den Datenrahmen und seine Karte in Ruhe lässt.</translation>
+    </message>
+    <message>
+        <source>Grids</source>
+        <translation>Gitternetze</translation>
+    </message>
+    <message>
+        <source>Grids over the map.</source>
+        <translation>Gitternetze über der Karte.</translation>
+    </message>
+    <message>
+        <source>What explains the map: a legend, a scale bar, a scale text or a north arrow.</source>
+        <translation>Was die Karte erläutert: eine Legende, eine Maßstabsleiste, eine Maßstabsangabe oder ein Nordpfeil.</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>How far it stands outside the frame; inside where it is negative.</source>
+        <translation>Abstand vom Rahmen nach außen; ein negativer Wert liegt innen.</translation>
+    </message>
+    <message>
+        <source>Rounding</source>
+        <translation>Rundung</translation>
+    </message>
+    <message>
+        <source>How round the corners are: 0 is square, 100 as round as they can be.</source>
+        <translation>Wie rund die Ecken sind: 0 ist eckig, 100 so rund wie möglich.</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllung</translation>
+    </message>
+    <message>
+        <source>How it is filled.</source>
+        <translation>Wie die Fläche gefüllt ist.</translation>
+    </message>
+    <message>
+        <source>How the border is drawn.</source>
+        <translation>Wie der Rand gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>How far the shadow lies to the right and upwards.</source>
+        <translation>Wie weit der Schatten nach rechts und nach oben versetzt ist.</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>The line around it.</source>
+        <translation>Die Linie ringsum.</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>The area behind it.</source>
+        <translation>Die Fläche dahinter.</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>The shadow that it throws.</source>
+        <translation>Der Schatten, den es wirft.</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>The form of the paper, as in “A4”, or “Custom” for a size of its own.</source>
+        <translation>Das Papierformat, etwa „A4“, oder „Custom“ für eine eigene Größe.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>The width of the sheet when it stands upright.</source>
+        <translation>Die Breite des Blattes im Hochformat.</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>The height of the sheet when it stands upright.</source>
+        <translation>Die Höhe des Blattes im Hochformat.</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Whether the sheet stands upright or lies.</source>
+        <translation>Ob das Blatt hoch oder quer liegt.</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>The file of the data, relative to the document.</source>
+        <translation>Die Datei der Daten, relativ zum Dokument.</translation>
+    </message>
+    <message>
+        <source>Layer of the file</source>
+        <translation>Layer der Datei</translation>
+    </message>
+    <message>
+        <source>Its name in the file; the first one where it is empty.</source>
+        <translation>Sein Name in der Datei; ist er leer, der erste Layer.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>A condition on the attributes, as in “population &gt; 1000000”.</source>
+        <translation>Eine Bedingung für die Attribute, etwa „population &gt; 1000000“.</translation>
+    </message>
+    <message>
+        <source>Stands in for that of the file.</source>
+        <translation>Ersetzt das der Datei.</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Where the data come from.</source>
+        <translation>Woher die Daten kommen.</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>How features are drawn.</source>
+        <translation>Wie Objekte gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>What the layer is called.</source>
+        <translation>Wie der Layer heißt.</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>Sichtbar</translation>
+    </message>
+    <message>
+        <source>Whether the layer shows.</source>
+        <translation>Ob der Layer gezeigt wird.</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>Texts at the features; without them, none are written.</source>
+        <translation>Texte an den Objekten; fehlen sie, wird nichts beschriftet.</translation>
+    </message>
+    <message>
+        <source>What kind of layer it is.</source>
+        <translation>Welche Art von Layer es ist.</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Scale bar</source>
+        <translation>Maßstabsleiste</translation>
+    </message>
+    <message>
+        <source>Scale text</source>
+        <translation>Maßstabsangabe</translation>
+    </message>
+    <message>
+        <source>North arrow</source>
+        <translation>Nordpfeil</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>The number of the map in the document; the first one is 0.</source>
+        <translation>Die Nummer der Karte im Dokument; die erste ist 0.</translation>
+    </message>
+    <message>
+        <source>What explains the map.</source>
+        <translation>Was die Karte erläutert.</translation>
+    </message>
+    <message>
+        <source>Whether there are labels.</source>
+        <translation>Ob es eine Beschriftung gibt.</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
+        <source>The attribute whose value is the text.</source>
+        <translation>Das Attribut, dessen Wert der Text ist.</translation>
+    </message>
+    <message>
+        <source>Attribute of the priority</source>
+        <translation>Attribut für die Priorität</translation>
+    </message>
+    <message>
+        <source>Features with a higher number in it are labelled first.</source>
+        <translation>Objekte mit einer höheren Zahl darin werden zuerst beschriftet.</translation>
+    </message>
+    <message>
+        <source>What is kept free around a label.</source>
+        <translation>Was um eine Beschriftung herum frei bleibt.</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>Klassen</translation>
+    </message>
+    <message>
+        <source>Letters of their own for features of a higher priority.</source>
+        <translation>Eigene Schrift für Objekte mit höherer Priorität.</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Ab</translation>
+    </message>
+    <message>
+        <source>The lowest priority of the class.</source>
+        <translation>Die niedrigste Priorität der Klasse.</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>Labels of layers with a higher one are placed first.</source>
+        <translation>Beschriftungen von Layern mit höherer Priorität werden zuerst platziert.</translation>
+    </message>
+    <message>
+        <source>From scale</source>
+        <translation>Ab Maßstab</translation>
+    </message>
+    <message>
+        <source>It shows above this scale denominator; 0 is no limit.</source>
+        <translation>Sichtbar oberhalb dieser Maßstabszahl; 0 heißt ohne Grenze.</translation>
+    </message>
+    <message>
+        <source>To scale</source>
+        <translation>Bis Maßstab</translation>
+    </message>
+    <message>
+        <source>It shows below this scale denominator; 0 is no limit.</source>
+        <translation>Sichtbar unterhalb dieser Maßstabszahl; 0 heißt ohne Grenze.</translation>
+    </message>
+    <message>
+        <source>One symbol</source>
+        <translation>Ein Symbol</translation>
+    </message>
+    <message>
+        <source>A symbol for each value</source>
+        <translation>Ein Symbol je Wert</translation>
+    </message>
+    <message>
+        <source>Symbols by a number</source>
+        <translation>Symbole nach einer Zahl</translation>
+    </message>
+    <message>
+        <source>Features that are drawn alike.</source>
+        <translation>Objekte, die gleich gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>What a legend calls them.</source>
+        <translation>Wie eine Legende sie nennt.</translation>
+    </message>
+    <message>
+        <source>How they are drawn.</source>
+        <translation>Wie sie gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>The values of the attribute that belong to the class.</source>
+        <translation>Die Werte des Attributs, die zur Klasse gehören.</translation>
+    </message>
+    <message>
+        <source>The lowest number of the class; it ends where the next one begins.</source>
+        <translation>Die niedrigste Zahl der Klasse; sie endet, wo die nächste beginnt.</translation>
+    </message>
+    <message>
+        <source>Symbol of the others</source>
+        <translation>Symbol der übrigen</translation>
+    </message>
+    <message>
+        <source>How features are drawn that are in no class; without a symbol they are not.</source>
+        <translation>Wie Objekte gezeichnet werden, die in keiner Klasse sind; ohne Symbol werden sie nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Label of the others</source>
+        <translation>Beschriftung der übrigen</translation>
+    </message>
+    <message>
+        <source>What a legend calls features that are in no class.</source>
+        <translation>Wie eine Legende Objekte nennt, die in keiner Klasse sind.</translation>
+    </message>
+    <message>
+        <source>Whether all features are drawn alike, or by the value of an attribute.</source>
+        <translation>Ob alle Objekte gleich oder nach dem Wert eines Attributs gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>The attribute whose value decides.</source>
+        <translation>Das Attribut, dessen Wert entscheidet.</translation>
+    </message>
+    <message>
+        <source>Alternating</source>
+        <translation>Abwechselnd</translation>
+    </message>
+    <message>
+        <source>Two rows</source>
+        <translation>Zwei Reihen</translation>
+    </message>
+    <message>
+        <source>Line with ticks</source>
+        <translation>Linie mit Teilstrichen</translation>
+    </message>
+    <message>
+        <source>Metres or kilometres</source>
+        <translation>Meter oder Kilometer</translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>Kilometres</source>
+        <translation>Kilometer</translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation>Fuß</translation>
+    </message>
+    <message>
+        <source>Miles</source>
+        <translation>Meilen</translation>
+    </message>
+    <message>
+        <source>Nautical miles</source>
+        <translation>Seemeilen</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>What stands above the legend; it may be empty.</source>
+        <translation>Was über der Legende steht; der Titel darf leer sein.</translation>
+    </message>
+    <message>
+        <source>Text of the title</source>
+        <translation>Schrift des Titels</translation>
+    </message>
+    <message>
+        <source>How the letters of the title look.</source>
+        <translation>Wie die Schrift des Titels aussieht.</translation>
+    </message>
+    <message>
+        <source>Text of the headings</source>
+        <translation>Schrift der Überschriften</translation>
+    </message>
+    <message>
+        <source>How the name of a layer with several classes looks.</source>
+        <translation>Wie der Name eines Layers mit mehreren Klassen aussieht.</translation>
+    </message>
+    <message>
+        <source>Text of the entries</source>
+        <translation>Schrift der Einträge</translation>
+    </message>
+    <message>
+        <source>How the letters of the entries look.</source>
+        <translation>Wie die Schrift der Einträge aussieht.</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Weggelassen</translation>
+    </message>
+    <message>
+        <source>The names of layers that the legend does not list.</source>
+        <translation>Die Namen der Layer, die die Legende nicht aufführt.</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>How the bar is drawn.</source>
+        <translation>Wie die Leiste gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>What the bar counts.</source>
+        <translation>Was die Leiste zählt.</translation>
+    </message>
+    <message>
+        <source>The height of the bar.</source>
+        <translation>Die Höhe der Leiste.</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>The colour of the outline and of every second part.</source>
+        <translation>Die Farbe des Umrisses und jedes zweiten Abschnitts.</translation>
+    </message>
+    <message>
+        <source>Second colour</source>
+        <translation>Zweite Farbe</translation>
+    </message>
+    <message>
+        <source>The colour of the other parts.</source>
+        <translation>Die Farbe der anderen Abschnitte.</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>Muster</translation>
+    </message>
+    <message>
+        <source>The text, with %1 where the scale stands.</source>
+        <translation>Der Text, mit %1 an der Stelle des Maßstabs.</translation>
+    </message>
+    <message>
+        <source>The marker that points north.</source>
+        <translation>Das Punktsymbol, das nach Norden zeigt.</translation>
+    </message>
+    <message>
+        <source>True north</source>
+        <translation>Geographisch Nord</translation>
+    </message>
+    <message>
+        <source>Whether it points to true north at the map&apos;s centre, and not upwards.</source>
+        <translation>Ob der Pfeil in der Kartenmitte nach geographisch Nord zeigt statt nach oben.</translation>
+    </message>
+    <message>
+        <source>What the grid is called.</source>
+        <translation>Wie das Gitternetz heißt.</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>The distance of two lines; 0 chooses one for the map&apos;s scale.</source>
+        <translation>Der Abstand zweier Linien; 0 wählt einen passend zum Maßstab der Karte.</translation>
+    </message>
+    <message>
+        <source>Whether the degrees stand beside the lines.</source>
+        <translation>Ob die Grade neben den Linien stehen.</translation>
+    </message>
+    <message>
+        <source>How the meridians and parallels are drawn.</source>
+        <translation>Wie die Meridiane und Breitenkreise gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>Text of the labels</source>
+        <translation>Schrift der Beschriftung</translation>
+    </message>
+    <message>
+        <source>How the letters of the labels look.</source>
+        <translation>Wie die Schrift der Beschriftung aussieht.</translation>
+    </message>
+    <message>
+        <source>What the symbol is called.</source>
+        <translation>Wie das Symbol heißt.</translation>
+    </message>
+    <message>
+        <source>The symbol itself.</source>
+        <translation>Das Symbol selbst.</translation>
+    </message>
+    <message>
+        <source>What the category is called; a slash puts it into another.</source>
+        <translation>Wie die Kategorie heißt; ein Schrägstrich ordnet sie einer anderen unter.</translation>
+    </message>
+    <message>
+        <source>The symbols of the category.</source>
+        <translation>Die Symbole der Kategorie.</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorien</translation>
+    </message>
+    <message>
+        <source>Groups of symbols, in the order in which they are shown.</source>
+        <translation>Gruppen von Symbolen, in der Reihenfolge, in der sie gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>What kind of symbol it is.</source>
+        <translation>Welche Art von Symbol es ist.</translation>
+    </message>
+    <message>
+        <source>Picture marker</source>
+        <translation>Punktsymbol aus Bild</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Durchgezogen</translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation>Gefüllt</translation>
+    </message>
+    <message>
+        <source>Dashes</source>
+        <translation>Gestrichelt</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>Gepunktet</translation>
+    </message>
+    <message>
+        <source>Dash and dot</source>
+        <translation>Strich und Punkt</translation>
+    </message>
+    <message>
+        <source>Dash and two dots</source>
+        <translation>Strich und zwei Punkte</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Flach</translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation>Rund</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>Pointed</source>
+        <translation>Spitz</translation>
+    </message>
+    <message>
+        <source>Bevelled</source>
+        <translation>Abgeschrägt</translation>
+    </message>
+    <message>
+        <source>Horizontal lines</source>
+        <translation>Waagerechte Linien</translation>
+    </message>
+    <message>
+        <source>Vertical lines</source>
+        <translation>Senkrechte Linien</translation>
+    </message>
+    <message>
+        <source>Forward diagonals</source>
+        <translation>Nach rechts steigende Linien</translation>
+    </message>
+    <message>
+        <source>Backward diagonals</source>
+        <translation>Nach links steigende Linien</translation>
+    </message>
+    <message>
+        <source>Horizontal and vertical lines</source>
+        <translation>Waagerechte und senkrechte Linien</translation>
+    </message>
+    <message>
+        <source>Both diagonals</source>
+        <translation>Beide Diagonalen</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Diamond</source>
+        <translation>Raute</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation>Dreieck</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>Kreuz</translation>
+    </message>
+    <message>
+        <source>Diagonal cross</source>
+        <translation>Diagonales Kreuz</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>Stern</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Baseline</source>
+        <translation>Grundlinie</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Whether the line is solid, dashed or not drawn at all.</source>
+        <translation>Ob die Linie durchgezogen, gestrichelt oder gar nicht gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>The colour of the line.</source>
+        <translation>Die Farbe der Linie.</translation>
+    </message>
+    <message>
+        <source>The width of the line; one of width 0 is not drawn.</source>
+        <translation>Die Breite der Linie; bei Breite 0 wird sie nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>How far the line is moved to the left of its direction; to the right where it is negative.</source>
+        <translation>Wie weit die Linie nach links von ihrer Richtung versetzt ist; ein negativer Wert versetzt sie nach rechts.</translation>
+    </message>
+    <message>
+        <source>Ends</source>
+        <translation>Enden</translation>
+    </message>
+    <message>
+        <source>How the line and its dashes end.</source>
+        <translation>Wie die Linie und ihre Striche enden.</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Ecken</translation>
+    </message>
+    <message>
+        <source>How the line turns at a vertex.</source>
+        <translation>Wie die Linie an einem Stützpunkt abbiegt.</translation>
+    </message>
+    <message>
+        <source>Limit of points</source>
+        <translation>Grenze für Spitzen</translation>
+    </message>
+    <message>
+        <source>How far a pointed corner may reach before it is bevelled.</source>
+        <translation>Wie weit eine spitze Ecke reichen darf, bevor sie abgeschrägt wird.</translation>
+    </message>
+    <message>
+        <source>Whether the area is filled whole, hatched or not at all.</source>
+        <translation>Ob die Fläche ganz, schraffiert oder gar nicht gefüllt wird.</translation>
+    </message>
+    <message>
+        <source>The colour of the filling.</source>
+        <translation>Die Farbe der Füllung.</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Umriss</translation>
+    </message>
+    <message>
+        <source>The line around the area; without one, none is drawn.</source>
+        <translation>Die Linie um die Fläche; ohne Angabe wird keine gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>The longer side of the marker; one of size 0 is not drawn.</source>
+        <translation>Die längere Seite des Punktsymbols; bei Größe 0 wird es nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>How far the marker is turned counterclockwise.</source>
+        <translation>Wie weit das Punktsymbol gegen den Uhrzeigersinn gedreht ist.</translation>
+    </message>
+    <message>
+        <source>The shape of the marker.</source>
+        <translation>Die Form des Punktsymbols.</translation>
+    </message>
+    <message>
+        <source>The colour of the marker.</source>
+        <translation>Die Farbe des Punktsymbols.</translation>
+    </message>
+    <message>
+        <source>Colour of the outline</source>
+        <translation>Farbe des Umrisses</translation>
+    </message>
+    <message>
+        <source>The colour of the line around the marker.</source>
+        <translation>Die Farbe der Linie um das Punktsymbol.</translation>
+    </message>
+    <message>
+        <source>Width of the outline</source>
+        <translation>Breite des Umrisses</translation>
+    </message>
+    <message>
+        <source>The width of the line around the marker; 0 for none.</source>
+        <translation>Die Breite der Linie um das Punktsymbol; 0 für keine.</translation>
+    </message>
+    <message>
+        <source>The picture as SVG; its view box is the marker.</source>
+        <translation>Das Bild als SVG; seine viewBox ist das Punktsymbol.</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schriftart</translation>
+    </message>
+    <message>
+        <source>The name of the font&apos;s family, as in “DejaVu Sans”.</source>
+        <translation>Der Name der Schriftfamilie, etwa „DejaVu Sans“.</translation>
+    </message>
+    <message>
+        <source>The size of the font.</source>
+        <translation>Die Größe der Schrift.</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Whether the letters are bold.</source>
+        <translation>Ob die Schrift fett ist.</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <source>Whether the letters are slanted.</source>
+        <translation>Ob die Schrift kursiv ist.</translation>
+    </message>
+    <message>
+        <source>Letter spacing</source>
+        <translation>Zeichenabstand</translation>
+    </message>
+    <message>
+        <source>What is added between two letters.</source>
+        <translation>Was zwischen zwei Buchstaben hinzugefügt wird.</translation>
+    </message>
+    <message>
+        <source>Line spacing</source>
+        <translation>Zeilenabstand</translation>
+    </message>
+    <message>
+        <source>The distance of two lines, as a multiple of the font&apos;s own.</source>
+        <translation>Der Abstand zweier Zeilen, als Vielfaches des Abstands der Schriftart.</translation>
+    </message>
+    <message>
+        <source>The colour of the letters.</source>
+        <translation>Die Farbe der Schrift.</translation>
+    </message>
+    <message>
+        <source>Halo</source>
+        <translation>Lichthof</translation>
+    </message>
+    <message>
+        <source>How far the halo reaches beyond the letters; 0 for none.</source>
+        <translation>Wie weit der Lichthof über die Schrift hinausreicht; 0 für keinen.</translation>
+    </message>
+    <message>
+        <source>Colour of the halo</source>
+        <translation>Farbe des Lichthofs</translation>
+    </message>
+    <message>
+        <source>The colour behind the letters.</source>
+        <translation>Die Farbe hinter der Schrift.</translation>
+    </message>
+    <message>
+        <source>Horizontal alignment</source>
+        <translation>Horizontale Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Which part of a line stands at the position.</source>
+        <translation>Welcher Teil einer Zeile an der Position steht.</translation>
+    </message>
+    <message>
+        <source>Vertical alignment</source>
+        <translation>Vertikale Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Which part of the text&apos;s height stands at the position.</source>
+        <translation>Welcher Teil der Höhe des Textes an der Position steht.</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 liegt nicht zwischen %2 und %3</translation>
+    </message>
+    <message>
+        <source>the text has %1 characters; at most %2</source>
+        <translation>der Text hat %1 Zeichen; höchstens %2 sind erlaubt</translation>
+    </message>
+    <message>
+        <source>holds %1 entries; at most %2</source>
+        <translation>enthält %1 Einträge; höchstens %2 sind erlaubt</translation>
+    </message>
+    <message>
+        <source>holds an odd count of numbers</source>
+        <translation>enthält eine ungerade Anzahl von Zahlen</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>wahr oder falsch</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>eine Zahl</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nichts</translation>
+    </message>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>erwartet: %1, gefunden: %2</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>%1 is not a whole number</source>
+        <translation>%1 ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>expected %1 numbers, found %2</source>
+        <translation>%1 Zahlen erwartet, %2 gefunden</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation>„%1“ ist keiner der Werte %2</translation>
+    </message>
+    <message>
+        <source>%1 is a choice without a name</source>
+        <translation>%1 ist eine Auswahl ohne Namen</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>What the file is.</source>
+        <translation>Was die Datei ist.</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>The version of the format.</source>
+        <translation>Die Version des Formats.</translation>
+    </message>
+</context>
+<context>
     <name>FileSaver</name>
     <message>
         <source>its folder does not exist</source>
@@ -1194,6 +2391,17 @@
     <message>
         <source>check the disk or choose another place</source>
         <translation>prüfen Sie den Datenträger, oder wählen Sie einen anderen Ort</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSettings</name>
+    <message>
+        <source>a part of a frame of a kind that can&apos;t be stored</source>
+        <translation>ein Rahmenteil einer Art, die sich nicht speichern lässt</translation>
+    </message>
+    <message>
+        <source>“%1” is not a paper form; “A4” and “Custom” are</source>
+        <translation>„%1“ ist kein Papierformat; „A4“ und „Custom“ sind welche</translation>
     </message>
 </context>
 <context>
@@ -1374,11 +2582,26 @@
     <name>LayerArchive</name>
     <message>
         <source>is larger than maxScale</source>
-        <translation>ist größer als maxScale</translation>
+        <translation type="vanished">ist größer als maxScale</translation>
     </message>
     <message>
         <source>Layer “%1”: %2</source>
+        <translation type="vanished">Layer „%1“: %2</translation>
+    </message>
+    <message>
+        <source>is a layer that can&apos;t be stored</source>
+        <translation type="vanished">ist ein Layer, der sich nicht speichern lässt</translation>
+    </message>
+</context>
+<context>
+    <name>LayerSettings</name>
+    <message>
+        <source>Layer “%1”: %2</source>
         <translation>Layer „%1“: %2</translation>
+    </message>
+    <message>
+        <source>is larger than maxScale</source>
+        <translation>ist größer als maxScale</translation>
     </message>
     <message>
         <source>is a layer that can&apos;t be stored</source>
@@ -1483,7 +2706,7 @@
     </message>
     <message>
         <source>data frames and surrounds can&apos;t lie on a map, only on the page</source>
-        <translation>Datenrahmen und Randangaben können nicht auf einer Karte liegen, nur auf der Seite</translation>
+        <translation type="vanished">Datenrahmen und Randangaben können nicht auf einer Karte liegen, nur auf der Seite</translation>
     </message>
     <message>
         <source>maps[%1]: no data frame shows this map; it is left out and will be missing after the next save</source>
@@ -1857,6 +3080,17 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
 </context>
 <context>
+    <name>SurroundFields</name>
+    <message>
+        <source>is no map of the document</source>
+        <translation>ist keine Karte des Dokuments</translation>
+    </message>
+    <message>
+        <source>a grid of a kind that can&apos;t be stored</source>
+        <translation>ein Gitternetz einer Art, die sich nicht speichern lässt</translation>
+    </message>
+</context>
+<context>
     <name>SvgCheck</name>
     <message>
         <source>the SVG is not well-formed: %1 in line %2</source>
@@ -1926,15 +3160,30 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <name>SymbolArchive</name>
     <message>
         <source>a symbol of a kind that can&apos;t be stored</source>
-        <translation>ein Symbol einer Art, die sich nicht speichern lässt</translation>
+        <translation type="vanished">ein Symbol einer Art, die sich nicht speichern lässt</translation>
     </message>
     <message>
         <source>“%1” is not one of %2</source>
-        <translation>„%1“ ist keiner der Werte %2</translation>
+        <translation type="vanished">„%1“ ist keiner der Werte %2</translation>
     </message>
     <message>
         <source>there is no symbol to store</source>
+        <translation type="vanished">es gibt kein Symbol zu speichern</translation>
+    </message>
+    <message>
+        <source>“%1” is not a colour like #rrggbb or #aarrggbb</source>
+        <translation type="vanished">„%1“ ist keine Farbe wie #rrggbb oder #aarrggbb</translation>
+    </message>
+</context>
+<context>
+    <name>SymbolFields</name>
+    <message>
+        <source>there is no symbol to store</source>
         <translation>es gibt kein Symbol zu speichern</translation>
+    </message>
+    <message>
+        <source>a symbol of a kind that can&apos;t be stored</source>
+        <translation>ein Symbol einer Art, die sich nicht speichern lässt</translation>
     </message>
     <message>
         <source>“%1” is not a colour like #rrggbb or #aarrggbb</source>

@@ -12,71 +12,71 @@
     <name>Archive</name>
     <message>
         <source>true or false</source>
-        <translation>真或假</translation>
+        <translation type="vanished">真或假</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation>数字</translation>
+        <translation type="vanished">数字</translation>
     </message>
     <message>
         <source>a text</source>
-        <translation>文本</translation>
+        <translation type="vanished">文本</translation>
     </message>
     <message>
         <source>a list</source>
-        <translation>列表</translation>
+        <translation type="vanished">列表</translation>
     </message>
     <message>
         <source>an object</source>
-        <translation>对象</translation>
+        <translation type="vanished">对象</translation>
     </message>
     <message>
         <source>null</source>
-        <translation>null</translation>
+        <translation type="vanished">null</translation>
     </message>
     <message>
         <source>nothing</source>
-        <translation>无</translation>
+        <translation type="vanished">无</translation>
     </message>
     <message>
         <source>expected %1, found %2</source>
-        <translation>应为%1，实际为%2</translation>
+        <translation type="vanished">应为%1，实际为%2</translation>
     </message>
     <message>
         <source>%1 is not between %2 and %3</source>
-        <translation>%1 不在 %2 和 %3 之间</translation>
+        <translation type="vanished">%1 不在 %2 和 %3 之间</translation>
     </message>
     <message>
         <source>the text has %1 characters; at most %2</source>
-        <translation>文本有 %1 个字符；最多允许 %2 个</translation>
+        <translation type="vanished">文本有 %1 个字符；最多允许 %2 个</translation>
     </message>
     <message>
         <source>is missing</source>
-        <translation>缺失</translation>
+        <translation type="vanished">缺失</translation>
     </message>
     <message>
         <source>%1 is not a whole number</source>
-        <translation>%1 不是整数</translation>
+        <translation type="vanished">%1 不是整数</translation>
     </message>
     <message>
         <source>expected %1 numbers, found %2</source>
-        <translation>应有 %1 个数字，实际有 %2 个</translation>
+        <translation type="vanished">应有 %1 个数字，实际有 %2 个</translation>
     </message>
     <message>
         <source>holds an odd count of numbers</source>
-        <translation>数字个数为奇数</translation>
+        <translation type="vanished">数字个数为奇数</translation>
     </message>
     <message>
         <source>%1 is a choice without a name</source>
-        <translation>%1 是没有名称的选项</translation>
+        <translation type="vanished">%1 是没有名称的选项</translation>
     </message>
     <message>
         <source>“%1” is not one of %2</source>
-        <translation>“%1”不在可用值之中：%2</translation>
+        <translation type="vanished">“%1”不在可用值之中：%2</translation>
     </message>
     <message>
         <source>holds %1 entries; at most %2</source>
-        <translation>含有 %1 个条目；最多允许 %2 个</translation>
+        <translation type="vanished">含有 %1 个条目；最多允许 %2 个</translation>
     </message>
 </context>
 <context>
@@ -1012,8 +1012,82 @@
     <name>ElementArchive</name>
     <message>
         <source>must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax</source>
-        <translation>必须是 xmin, ymin, xmax, ymax，且 xmin ≤ xmax、ymin ≤ ymax</translation>
+        <translation type="vanished">必须是 xmin, ymin, xmax, ymax，且 xmin ≤ xmax、ymin ≤ ymax</translation>
     </message>
+    <message>
+        <source>needs at least %1 points</source>
+        <translation type="vanished">至少需要 %1 个点</translation>
+    </message>
+    <message>
+        <source>holds a coordinate beyond %1</source>
+        <translation type="vanished">含有超出 %1 的坐标</translation>
+    </message>
+    <message>
+        <source>needs at least one ring</source>
+        <translation type="vanished">至少需要一个环</translation>
+    </message>
+    <message>
+        <source>groups are nested more than %1 deep</source>
+        <translation type="vanished">组的嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>is no map of the document</source>
+        <translation type="vanished">不是该文档中的地图</translation>
+    </message>
+    <message>
+        <source>another data frame shows this map already</source>
+        <translation type="vanished">另一个数据框已显示此地图</translation>
+    </message>
+    <message>
+        <source>%1 is another element&apos;s handle already</source>
+        <translation type="vanished">%1 已是另一个元素的句柄</translation>
+    </message>
+    <message>
+        <source>an element of a kind that can&apos;t be stored</source>
+        <translation type="vanished">无法存储的元素类型</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation type="vanished">“%1”不在可用值之中：%2</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be part of a group</source>
+        <translation type="vanished">“%1”不能作为组的成员</translation>
+    </message>
+    <message>
+        <source>a part of a frame of a kind that can&apos;t be stored</source>
+        <translation type="vanished">无法存储的边框组成部分</translation>
+    </message>
+    <message>
+        <source>“%1” is not a paper form; “A4” and “Custom” are</source>
+        <translation type="vanished">“%1”不是纸张规格；“A4”和“Custom”才是</translation>
+    </message>
+    <message>
+        <source>needs at least one element</source>
+        <translation type="vanished">至少需要一个元素</translation>
+    </message>
+</context>
+<context>
+    <name>ElementFields</name>
+    <message>
+        <source>%1 is another element&apos;s handle already</source>
+        <translation>%1 已是另一个元素的句柄</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be part of a group</source>
+        <translation>“%1”不能作为组的成员</translation>
+    </message>
+    <message>
+        <source>data frames and surrounds can&apos;t lie on a map, only on the page</source>
+        <translation>数据框和地图整饰要素只能位于页面上，不能位于地图上</translation>
+    </message>
+    <message>
+        <source>an element of a kind that can&apos;t be stored</source>
+        <translation>无法存储的元素类型</translation>
+    </message>
+</context>
+<context>
+    <name>ElementSettings</name>
     <message>
         <source>needs at least %1 points</source>
         <translation>至少需要 %1 个点</translation>
@@ -1027,44 +1101,20 @@
         <translation>至少需要一个环</translation>
     </message>
     <message>
+        <source>must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax</source>
+        <translation>必须是 xmin, ymin, xmax, ymax，且 xmin ≤ xmax、ymin ≤ ymax</translation>
+    </message>
+    <message>
         <source>groups are nested more than %1 deep</source>
         <translation>组的嵌套超过 %1 层</translation>
     </message>
     <message>
-        <source>is no map of the document</source>
-        <translation>不是该文档中的地图</translation>
+        <source>needs at least one element</source>
+        <translation>至少需要一个元素</translation>
     </message>
     <message>
         <source>another data frame shows this map already</source>
         <translation>另一个数据框已显示此地图</translation>
-    </message>
-    <message>
-        <source>%1 is another element&apos;s handle already</source>
-        <translation>%1 已是另一个元素的句柄</translation>
-    </message>
-    <message>
-        <source>an element of a kind that can&apos;t be stored</source>
-        <translation>无法存储的元素类型</translation>
-    </message>
-    <message>
-        <source>“%1” is not one of %2</source>
-        <translation>“%1”不在可用值之中：%2</translation>
-    </message>
-    <message>
-        <source>“%1” can&apos;t be part of a group</source>
-        <translation>“%1”不能作为组的成员</translation>
-    </message>
-    <message>
-        <source>a part of a frame of a kind that can&apos;t be stored</source>
-        <translation>无法存储的边框组成部分</translation>
-    </message>
-    <message>
-        <source>“%1” is not a paper form; “A4” and “Custom” are</source>
-        <translation>“%1”不是纸张规格；“A4”和“Custom”才是</translation>
-    </message>
-    <message>
-        <source>needs at least one element</source>
-        <translation>至少需要一个元素</translation>
     </message>
 </context>
 <context>
@@ -1162,6 +1212,1153 @@
     </message>
 </context>
 <context>
+    <name>Fields</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>What the map is called.</source>
+        <translation>地图的名称。</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>That of the map, as a code (“EPSG:8857”), WKT or a PROJ text.</source>
+        <translation>地图的坐标系，以代码（“EPSG:8857”）、WKT 或 PROJ 文本给出。</translation>
+    </message>
+    <message>
+        <source>Extent</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>What the map shows: its left, lower, right and upper side.</source>
+        <translation>地图显示的范围：左、下、右、上边。</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>图层</translation>
+    </message>
+    <message>
+        <source>The layers of the map, the lowest first.</source>
+        <translation>地图的图层，最底层在前。</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>The sheet.</source>
+        <translation>纸张。</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Settings of the layout.</source>
+        <translation>布局的设置。</translation>
+    </message>
+    <message>
+        <source>Align to margins</source>
+        <translation>对齐到页边距</translation>
+    </message>
+    <message>
+        <source>Whether the alignment commands align to the page.</source>
+        <translation>对齐命令是否以页面为准。</translation>
+    </message>
+    <message>
+        <source>Focus map</source>
+        <translation>活动地图</translation>
+    </message>
+    <message>
+        <source>The number of the map that new surrounds follow.</source>
+        <translation>新的地图整饰要素所跟随的地图的编号。</translation>
+    </message>
+    <message>
+        <source>Graphics</source>
+        <translation>图形</translation>
+    </message>
+    <message>
+        <source>Elements that lie on the map, in map units.</source>
+        <translation>位于地图上的元素，以地图单位计。</translation>
+    </message>
+    <message>
+        <source>Relative paths</source>
+        <translation>相对路径</translation>
+    </message>
+    <message>
+        <source>Whether files are named relative to the document.</source>
+        <translation>文件路径是否相对于文档。</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>The maps of the data frames.</source>
+        <translation>各数据框的地图。</translation>
+    </message>
+    <message>
+        <source>Elements</source>
+        <translation>元素</translation>
+    </message>
+    <message>
+        <source>What lies on the page, the lowest first.</source>
+        <translation>页面上的内容，最底层在前。</translation>
+    </message>
+    <message>
+        <source>What the element is called in lists and by the command line.</source>
+        <translation>元素在列表和命令行中的名称。</translation>
+    </message>
+    <message>
+        <source>Handle</source>
+        <translation>句柄</translation>
+    </message>
+    <message>
+        <source>The number of the element, which no other one has.</source>
+        <translation>元素的编号，与其他元素均不相同。</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>点标记</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>多边形</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>椭圆</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>Data frame</source>
+        <translation>数据框</translation>
+    </message>
+    <message>
+        <source>Map surround</source>
+        <translation>地图整饰要素</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>What kind of element it is.</source>
+        <translation>元素的类型。</translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>The vertices: x and y of the first, of the second, and so on.</source>
+        <translation>各顶点：第一个的 x 和 y、第二个的 x 和 y，依此类推。</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>The point at which it stands, from the lower left corner.</source>
+        <translation>所在的点，从左下角算起。</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>How it is drawn; without a symbol it is not.</source>
+        <translation>绘制方式；没有符号则不绘制。</translation>
+    </message>
+    <message>
+        <source>Rings</source>
+        <translation>环</translation>
+    </message>
+    <message>
+        <source>Closed lines that bound the area; one within another is a hole.</source>
+        <translation>围成区域的闭合线；位于另一条之内的是孔洞。</translation>
+    </message>
+    <message>
+        <source>Its left, lower, right and upper side, from the lower left corner.</source>
+        <translation>左、下、右、上边，从左下角算起。</translation>
+    </message>
+    <message>
+        <source>What it says.</source>
+        <translation>文本的内容。</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>角度</translation>
+    </message>
+    <message>
+        <source>How far the text is turned counterclockwise about its position.</source>
+        <translation>文本绕其位置逆时针旋转的角度。</translation>
+    </message>
+    <message>
+        <source>How the letters look.</source>
+        <translation>文字的外观。</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>The file of the picture (PNG, JPEG or SVG), relative to the document.</source>
+        <translation>图片文件（PNG、JPEG 或 SVG），相对于文档。</translation>
+    </message>
+    <message>
+        <source>Members</source>
+        <translation>成员</translation>
+    </message>
+    <message>
+        <source>The elements of the group.</source>
+        <translation>组中的元素。</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>Whether the mouse leaves the data frame and its map alone.</source>
+        <translation>是否防止用鼠标改动数据框及其地图。</translation>
+    </message>
+    <message>
+        <source>Grids</source>
+        <translation>格网</translation>
+    </message>
+    <message>
+        <source>Grids over the map.</source>
+        <translation>地图上的格网。</translation>
+    </message>
+    <message>
+        <source>What explains the map: a legend, a scale bar, a scale text or a north arrow.</source>
+        <translation>用于说明地图的要素：图例、比例尺、比例尺文字或指北针。</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>间距</translation>
+    </message>
+    <message>
+        <source>How far it stands outside the frame; inside where it is negative.</source>
+        <translation>从边框向外的距离；负值表示向内。</translation>
+    </message>
+    <message>
+        <source>Rounding</source>
+        <translation>圆角</translation>
+    </message>
+    <message>
+        <source>How round the corners are: 0 is square, 100 as round as they can be.</source>
+        <translation>各角的圆角程度：0 为直角，100 为最大圆角。</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>填充</translation>
+    </message>
+    <message>
+        <source>How it is filled.</source>
+        <translation>填充方式。</translation>
+    </message>
+    <message>
+        <source>How the border is drawn.</source>
+        <translation>边框的绘制方式。</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>偏移</translation>
+    </message>
+    <message>
+        <source>How far the shadow lies to the right and upwards.</source>
+        <translation>阴影向右和向上的偏移量。</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>边框</translation>
+    </message>
+    <message>
+        <source>The line around it.</source>
+        <translation>四周的线。</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>背景</translation>
+    </message>
+    <message>
+        <source>The area behind it.</source>
+        <translation>后面的区域。</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>阴影</translation>
+    </message>
+    <message>
+        <source>The shadow that it throws.</source>
+        <translation>投下的阴影。</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>纸张</translation>
+    </message>
+    <message>
+        <source>The form of the paper, as in “A4”, or “Custom” for a size of its own.</source>
+        <translation>纸张规格，如“A4”；自定义大小时为“Custom”。</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>The width of the sheet when it stands upright.</source>
+        <translation>纸张纵向放置时的宽度。</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>The height of the sheet when it stands upright.</source>
+        <translation>纸张纵向放置时的高度。</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Whether the sheet stands upright or lies.</source>
+        <translation>纸张是纵向还是横向放置。</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>要素</translation>
+    </message>
+    <message>
+        <source>The file of the data, relative to the document.</source>
+        <translation>数据文件，相对于文档。</translation>
+    </message>
+    <message>
+        <source>Layer of the file</source>
+        <translation>文件中的图层</translation>
+    </message>
+    <message>
+        <source>Its name in the file; the first one where it is empty.</source>
+        <translation>图层在文件中的名称；留空时为第一个图层。</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选条件</translation>
+    </message>
+    <message>
+        <source>A condition on the attributes, as in “population &gt; 1000000”.</source>
+        <translation>针对属性的条件，如“population &gt; 1000000”。</translation>
+    </message>
+    <message>
+        <source>Stands in for that of the file.</source>
+        <translation>替代文件的坐标系。</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>数据源</translation>
+    </message>
+    <message>
+        <source>Where the data come from.</source>
+        <translation>数据的来源。</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>How features are drawn.</source>
+        <translation>要素的绘制方式。</translation>
+    </message>
+    <message>
+        <source>What the layer is called.</source>
+        <translation>图层的名称。</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>可见</translation>
+    </message>
+    <message>
+        <source>Whether the layer shows.</source>
+        <translation>是否显示图层。</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>标注</translation>
+    </message>
+    <message>
+        <source>Texts at the features; without them, none are written.</source>
+        <translation>要素旁的文字；没有此项则不标注。</translation>
+    </message>
+    <message>
+        <source>What kind of layer it is.</source>
+        <translation>图层的类型。</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>图例</translation>
+    </message>
+    <message>
+        <source>Scale bar</source>
+        <translation>比例尺</translation>
+    </message>
+    <message>
+        <source>Scale text</source>
+        <translation>比例尺文字</translation>
+    </message>
+    <message>
+        <source>North arrow</source>
+        <translation>指北针</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>The number of the map in the document; the first one is 0.</source>
+        <translation>地图在文档中的编号；第一个为 0。</translation>
+    </message>
+    <message>
+        <source>What explains the map.</source>
+        <translation>用于说明地图的要素。</translation>
+    </message>
+    <message>
+        <source>Whether there are labels.</source>
+        <translation>是否有标注。</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>The attribute whose value is the text.</source>
+        <translation>以其值作为文字的属性。</translation>
+    </message>
+    <message>
+        <source>Attribute of the priority</source>
+        <translation>优先级属性</translation>
+    </message>
+    <message>
+        <source>Features with a higher number in it are labelled first.</source>
+        <translation>其中数值较大的要素先标注。</translation>
+    </message>
+    <message>
+        <source>What is kept free around a label.</source>
+        <translation>标注四周留出的空白。</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>类</translation>
+    </message>
+    <message>
+        <source>Letters of their own for features of a higher priority.</source>
+        <translation>用于较高优先级要素的单独文字样式。</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>起始值</translation>
+    </message>
+    <message>
+        <source>The lowest priority of the class.</source>
+        <translation>该类的最低优先级。</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>优先级</translation>
+    </message>
+    <message>
+        <source>Labels of layers with a higher one are placed first.</source>
+        <translation>优先级较高的图层先放置标注。</translation>
+    </message>
+    <message>
+        <source>From scale</source>
+        <translation>起始比例尺</translation>
+    </message>
+    <message>
+        <source>It shows above this scale denominator; 0 is no limit.</source>
+        <translation>比例尺分母大于此值时显示；0 表示无限制。</translation>
+    </message>
+    <message>
+        <source>To scale</source>
+        <translation>终止比例尺</translation>
+    </message>
+    <message>
+        <source>It shows below this scale denominator; 0 is no limit.</source>
+        <translation>比例尺分母小于此值时显示；0 表示无限制。</translation>
+    </message>
+    <message>
+        <source>One symbol</source>
+        <translation>单一符号</translation>
+    </message>
+    <message>
+        <source>A symbol for each value</source>
+        <translation>每个值一个符号</translation>
+    </message>
+    <message>
+        <source>Symbols by a number</source>
+        <translation>按数值分级的符号</translation>
+    </message>
+    <message>
+        <source>Features that are drawn alike.</source>
+        <translation>以相同方式绘制的要素。</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>What a legend calls them.</source>
+        <translation>它们在图例中的名称。</translation>
+    </message>
+    <message>
+        <source>How they are drawn.</source>
+        <translation>它们的绘制方式。</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>The values of the attribute that belong to the class.</source>
+        <translation>属于该类的属性值。</translation>
+    </message>
+    <message>
+        <source>The lowest number of the class; it ends where the next one begins.</source>
+        <translation>该类的最小数值；到下一类的起点为止。</translation>
+    </message>
+    <message>
+        <source>Symbol of the others</source>
+        <translation>其他要素的符号</translation>
+    </message>
+    <message>
+        <source>How features are drawn that are in no class; without a symbol they are not.</source>
+        <translation>不属于任何类的要素的绘制方式；没有符号则不绘制。</translation>
+    </message>
+    <message>
+        <source>Label of the others</source>
+        <translation>其他要素的标签</translation>
+    </message>
+    <message>
+        <source>What a legend calls features that are in no class.</source>
+        <translation>不属于任何类的要素在图例中的名称。</translation>
+    </message>
+    <message>
+        <source>Whether all features are drawn alike, or by the value of an attribute.</source>
+        <translation>所有要素以相同方式绘制，还是按属性值绘制。</translation>
+    </message>
+    <message>
+        <source>The attribute whose value decides.</source>
+        <translation>以其值为准的属性。</translation>
+    </message>
+    <message>
+        <source>Alternating</source>
+        <translation>交替</translation>
+    </message>
+    <message>
+        <source>Two rows</source>
+        <translation>双行</translation>
+    </message>
+    <message>
+        <source>Line with ticks</source>
+        <translation>带刻度的线</translation>
+    </message>
+    <message>
+        <source>Metres or kilometres</source>
+        <translation>米或千米</translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation>米</translation>
+    </message>
+    <message>
+        <source>Kilometres</source>
+        <translation>千米</translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation>英尺</translation>
+    </message>
+    <message>
+        <source>Miles</source>
+        <translation>英里</translation>
+    </message>
+    <message>
+        <source>Nautical miles</source>
+        <translation>海里</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>What stands above the legend; it may be empty.</source>
+        <translation>图例上方的文字；可以留空。</translation>
+    </message>
+    <message>
+        <source>Text of the title</source>
+        <translation>标题文字</translation>
+    </message>
+    <message>
+        <source>How the letters of the title look.</source>
+        <translation>标题文字的外观。</translation>
+    </message>
+    <message>
+        <source>Text of the headings</source>
+        <translation>小标题文字</translation>
+    </message>
+    <message>
+        <source>How the name of a layer with several classes looks.</source>
+        <translation>含有多个类的图层的名称的外观。</translation>
+    </message>
+    <message>
+        <source>Text of the entries</source>
+        <translation>条目文字</translation>
+    </message>
+    <message>
+        <source>How the letters of the entries look.</source>
+        <translation>条目文字的外观。</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>略去</translation>
+    </message>
+    <message>
+        <source>The names of layers that the legend does not list.</source>
+        <translation>图例中不列出的图层的名称。</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+    <message>
+        <source>How the bar is drawn.</source>
+        <translation>比例尺的绘制方式。</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>What the bar counts.</source>
+        <translation>比例尺所用的单位。</translation>
+    </message>
+    <message>
+        <source>The height of the bar.</source>
+        <translation>比例尺的高度。</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>The colour of the outline and of every second part.</source>
+        <translation>轮廓线和每隔一段的颜色。</translation>
+    </message>
+    <message>
+        <source>Second colour</source>
+        <translation>第二颜色</translation>
+    </message>
+    <message>
+        <source>The colour of the other parts.</source>
+        <translation>其余各段的颜色。</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>格式文本</translation>
+    </message>
+    <message>
+        <source>The text, with %1 where the scale stands.</source>
+        <translation>文本，以 %1 表示比例尺所在处。</translation>
+    </message>
+    <message>
+        <source>The marker that points north.</source>
+        <translation>指向北方的点标记。</translation>
+    </message>
+    <message>
+        <source>True north</source>
+        <translation>真北</translation>
+    </message>
+    <message>
+        <source>Whether it points to true north at the map&apos;s centre, and not upwards.</source>
+        <translation>是否指向地图中心处的真北，而不是正上方。</translation>
+    </message>
+    <message>
+        <source>What the grid is called.</source>
+        <translation>格网的名称。</translation>
+    </message>
+    <message>
+        <source>Interval</source>
+        <translation>间隔</translation>
+    </message>
+    <message>
+        <source>The distance of two lines; 0 chooses one for the map&apos;s scale.</source>
+        <translation>两条线之间的间隔；0 表示按地图比例尺自动选择。</translation>
+    </message>
+    <message>
+        <source>Whether the degrees stand beside the lines.</source>
+        <translation>线旁是否标出度数。</translation>
+    </message>
+    <message>
+        <source>How the meridians and parallels are drawn.</source>
+        <translation>经线和纬线的绘制方式。</translation>
+    </message>
+    <message>
+        <source>Text of the labels</source>
+        <translation>标注文字</translation>
+    </message>
+    <message>
+        <source>How the letters of the labels look.</source>
+        <translation>标注文字的外观。</translation>
+    </message>
+    <message>
+        <source>What the symbol is called.</source>
+        <translation>符号的名称。</translation>
+    </message>
+    <message>
+        <source>The symbol itself.</source>
+        <translation>符号本身。</translation>
+    </message>
+    <message>
+        <source>What the category is called; a slash puts it into another.</source>
+        <translation>类别的名称；用斜线将其置于另一类别之下。</translation>
+    </message>
+    <message>
+        <source>The symbols of the category.</source>
+        <translation>该类别中的符号。</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Groups of symbols, in the order in which they are shown.</source>
+        <translation>符号的分组，按显示顺序排列。</translation>
+    </message>
+    <message>
+        <source>What kind of symbol it is.</source>
+        <translation>符号的类型。</translation>
+    </message>
+    <message>
+        <source>Picture marker</source>
+        <translation>图片点标记</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>实线</translation>
+    </message>
+    <message>
+        <source>Filled</source>
+        <translation>填充</translation>
+    </message>
+    <message>
+        <source>Dashes</source>
+        <translation>虚线</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>点线</translation>
+    </message>
+    <message>
+        <source>Dash and dot</source>
+        <translation>点划线</translation>
+    </message>
+    <message>
+        <source>Dash and two dots</source>
+        <translation>双点划线</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>平头</translation>
+    </message>
+    <message>
+        <source>Round</source>
+        <translation>圆形</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>方形</translation>
+    </message>
+    <message>
+        <source>Pointed</source>
+        <translation>尖角</translation>
+    </message>
+    <message>
+        <source>Bevelled</source>
+        <translation>斜角</translation>
+    </message>
+    <message>
+        <source>Horizontal lines</source>
+        <translation>水平线</translation>
+    </message>
+    <message>
+        <source>Vertical lines</source>
+        <translation>垂直线</translation>
+    </message>
+    <message>
+        <source>Forward diagonals</source>
+        <translation>右斜线</translation>
+    </message>
+    <message>
+        <source>Backward diagonals</source>
+        <translation>左斜线</translation>
+    </message>
+    <message>
+        <source>Horizontal and vertical lines</source>
+        <translation>水平线和垂直线</translation>
+    </message>
+    <message>
+        <source>Both diagonals</source>
+        <translation>双向斜线</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>圆形</translation>
+    </message>
+    <message>
+        <source>Diamond</source>
+        <translation>菱形</translation>
+    </message>
+    <message>
+        <source>Triangle</source>
+        <translation>三角形</translation>
+    </message>
+    <message>
+        <source>Cross</source>
+        <translation>十字</translation>
+    </message>
+    <message>
+        <source>Diagonal cross</source>
+        <translation>斜十字</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>星形</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>顶端</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中部</translation>
+    </message>
+    <message>
+        <source>Baseline</source>
+        <translation>基线</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>底端</translation>
+    </message>
+    <message>
+        <source>Whether the line is solid, dashed or not drawn at all.</source>
+        <translation>线是实线、虚线还是不绘制。</translation>
+    </message>
+    <message>
+        <source>The colour of the line.</source>
+        <translation>线的颜色。</translation>
+    </message>
+    <message>
+        <source>The width of the line; one of width 0 is not drawn.</source>
+        <translation>线的宽度；宽度为 0 时不绘制。</translation>
+    </message>
+    <message>
+        <source>How far the line is moved to the left of its direction; to the right where it is negative.</source>
+        <translation>线向其前进方向左侧的偏移量；负值表示向右。</translation>
+    </message>
+    <message>
+        <source>Ends</source>
+        <translation>端点</translation>
+    </message>
+    <message>
+        <source>How the line and its dashes end.</source>
+        <translation>线及其各段短划的端点形状。</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>拐角</translation>
+    </message>
+    <message>
+        <source>How the line turns at a vertex.</source>
+        <translation>线在顶点处的转折形状。</translation>
+    </message>
+    <message>
+        <source>Limit of points</source>
+        <translation>尖角限制</translation>
+    </message>
+    <message>
+        <source>How far a pointed corner may reach before it is bevelled.</source>
+        <translation>尖角最多可伸出多远，超出则改为斜角。</translation>
+    </message>
+    <message>
+        <source>Whether the area is filled whole, hatched or not at all.</source>
+        <translation>区域是完全填充、用斜线等线条填充还是不填充。</translation>
+    </message>
+    <message>
+        <source>The colour of the filling.</source>
+        <translation>填充的颜色。</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>轮廓线</translation>
+    </message>
+    <message>
+        <source>The line around the area; without one, none is drawn.</source>
+        <translation>区域四周的线；没有此项则不绘制。</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>The longer side of the marker; one of size 0 is not drawn.</source>
+        <translation>点标记较长的一边；大小为 0 时不绘制。</translation>
+    </message>
+    <message>
+        <source>How far the marker is turned counterclockwise.</source>
+        <translation>点标记逆时针旋转的角度。</translation>
+    </message>
+    <message>
+        <source>The shape of the marker.</source>
+        <translation>点标记的形状。</translation>
+    </message>
+    <message>
+        <source>The colour of the marker.</source>
+        <translation>点标记的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the outline</source>
+        <translation>轮廓线颜色</translation>
+    </message>
+    <message>
+        <source>The colour of the line around the marker.</source>
+        <translation>点标记四周的线的颜色。</translation>
+    </message>
+    <message>
+        <source>Width of the outline</source>
+        <translation>轮廓线宽度</translation>
+    </message>
+    <message>
+        <source>The width of the line around the marker; 0 for none.</source>
+        <translation>点标记四周的线的宽度；0 表示没有。</translation>
+    </message>
+    <message>
+        <source>The picture as SVG; its view box is the marker.</source>
+        <translation>SVG 格式的图片；其 viewBox 即为点标记。</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>The name of the font&apos;s family, as in “DejaVu Sans”.</source>
+        <translation>字体族的名称，如“DejaVu Sans”。</translation>
+    </message>
+    <message>
+        <source>The size of the font.</source>
+        <translation>字体的大小。</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>粗体</translation>
+    </message>
+    <message>
+        <source>Whether the letters are bold.</source>
+        <translation>文字是否为粗体。</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>斜体</translation>
+    </message>
+    <message>
+        <source>Whether the letters are slanted.</source>
+        <translation>文字是否倾斜。</translation>
+    </message>
+    <message>
+        <source>Letter spacing</source>
+        <translation>字间距</translation>
+    </message>
+    <message>
+        <source>What is added between two letters.</source>
+        <translation>两个字符之间增加的距离。</translation>
+    </message>
+    <message>
+        <source>Line spacing</source>
+        <translation>行间距</translation>
+    </message>
+    <message>
+        <source>The distance of two lines, as a multiple of the font&apos;s own.</source>
+        <translation>两行之间的距离，为字体自身行距的倍数。</translation>
+    </message>
+    <message>
+        <source>The colour of the letters.</source>
+        <translation>文字的颜色。</translation>
+    </message>
+    <message>
+        <source>Halo</source>
+        <translation>光晕</translation>
+    </message>
+    <message>
+        <source>How far the halo reaches beyond the letters; 0 for none.</source>
+        <translation>光晕超出文字的距离；0 表示没有。</translation>
+    </message>
+    <message>
+        <source>Colour of the halo</source>
+        <translation>光晕颜色</translation>
+    </message>
+    <message>
+        <source>The colour behind the letters.</source>
+        <translation>文字后面的颜色。</translation>
+    </message>
+    <message>
+        <source>Horizontal alignment</source>
+        <translation>水平对齐</translation>
+    </message>
+    <message>
+        <source>Which part of a line stands at the position.</source>
+        <translation>一行文字的哪一部分位于该位置。</translation>
+    </message>
+    <message>
+        <source>Vertical alignment</source>
+        <translation>垂直对齐</translation>
+    </message>
+    <message>
+        <source>Which part of the text&apos;s height stands at the position.</source>
+        <translation>文本高度的哪一部分位于该位置。</translation>
+    </message>
+    <message>
+        <source>%1 is not between %2 and %3</source>
+        <translation>%1 不在 %2 和 %3 之间</translation>
+    </message>
+    <message>
+        <source>the text has %1 characters; at most %2</source>
+        <translation>文本有 %1 个字符；最多允许 %2 个</translation>
+    </message>
+    <message>
+        <source>holds %1 entries; at most %2</source>
+        <translation>含有 %1 个条目；最多允许 %2 个</translation>
+    </message>
+    <message>
+        <source>holds an odd count of numbers</source>
+        <translation>数字个数为奇数</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>真或假</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>应为%1，实际为%2</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>%1 is not a whole number</source>
+        <translation>%1 不是整数</translation>
+    </message>
+    <message>
+        <source>expected %1 numbers, found %2</source>
+        <translation>应有 %1 个数字，实际有 %2 个</translation>
+    </message>
+    <message>
+        <source>“%1” is not one of %2</source>
+        <translation>“%1”不在可用值之中：%2</translation>
+    </message>
+    <message>
+        <source>%1 is a choice without a name</source>
+        <translation>%1 是没有名称的选项</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>What the file is.</source>
+        <translation>文件的类别。</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>The version of the format.</source>
+        <translation>格式的版本。</translation>
+    </message>
+</context>
+<context>
     <name>FileSaver</name>
     <message>
         <source>its folder does not exist</source>
@@ -1194,6 +2391,17 @@
     <message>
         <source>check the disk or choose another place</source>
         <translation>请检查磁盘或选择其他位置</translation>
+    </message>
+</context>
+<context>
+    <name>FrameSettings</name>
+    <message>
+        <source>a part of a frame of a kind that can&apos;t be stored</source>
+        <translation>无法存储的边框组成部分</translation>
+    </message>
+    <message>
+        <source>“%1” is not a paper form; “A4” and “Custom” are</source>
+        <translation>“%1”不是纸张规格；“A4”和“Custom”才是</translation>
     </message>
 </context>
 <context>
@@ -1374,11 +2582,26 @@
     <name>LayerArchive</name>
     <message>
         <source>is larger than maxScale</source>
-        <translation>大于 maxScale</translation>
+        <translation type="vanished">大于 maxScale</translation>
     </message>
     <message>
         <source>Layer “%1”: %2</source>
+        <translation type="vanished">图层“%1”：%2</translation>
+    </message>
+    <message>
+        <source>is a layer that can&apos;t be stored</source>
+        <translation type="vanished">是无法存储的图层</translation>
+    </message>
+</context>
+<context>
+    <name>LayerSettings</name>
+    <message>
+        <source>Layer “%1”: %2</source>
         <translation>图层“%1”：%2</translation>
+    </message>
+    <message>
+        <source>is larger than maxScale</source>
+        <translation>大于 maxScale</translation>
     </message>
     <message>
         <source>is a layer that can&apos;t be stored</source>
@@ -1483,7 +2706,7 @@
     </message>
     <message>
         <source>data frames and surrounds can&apos;t lie on a map, only on the page</source>
-        <translation>数据框和地图整饰要素只能位于页面上，不能位于地图上</translation>
+        <translation type="vanished">数据框和地图整饰要素只能位于页面上，不能位于地图上</translation>
     </message>
     <message>
         <source>maps[%1]: no data frame shows this map; it is left out and will be missing after the next save</source>
@@ -1857,6 +3080,17 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
 </context>
 <context>
+    <name>SurroundFields</name>
+    <message>
+        <source>is no map of the document</source>
+        <translation>不是该文档中的地图</translation>
+    </message>
+    <message>
+        <source>a grid of a kind that can&apos;t be stored</source>
+        <translation>无法存储的格网类型</translation>
+    </message>
+</context>
+<context>
     <name>SvgCheck</name>
     <message>
         <source>the SVG is not well-formed: %1 in line %2</source>
@@ -1926,15 +3160,30 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <name>SymbolArchive</name>
     <message>
         <source>a symbol of a kind that can&apos;t be stored</source>
-        <translation>无法存储的符号类型</translation>
+        <translation type="vanished">无法存储的符号类型</translation>
     </message>
     <message>
         <source>“%1” is not one of %2</source>
-        <translation>“%1”不在可用值之中：%2</translation>
+        <translation type="vanished">“%1”不在可用值之中：%2</translation>
     </message>
     <message>
         <source>there is no symbol to store</source>
+        <translation type="vanished">没有可存储的符号</translation>
+    </message>
+    <message>
+        <source>“%1” is not a colour like #rrggbb or #aarrggbb</source>
+        <translation type="vanished">“%1”不是 #rrggbb 或 #aarrggbb 形式的颜色</translation>
+    </message>
+</context>
+<context>
+    <name>SymbolFields</name>
+    <message>
+        <source>there is no symbol to store</source>
         <translation>没有可存储的符号</translation>
+    </message>
+    <message>
+        <source>a symbol of a kind that can&apos;t be stored</source>
+        <translation>无法存储的符号类型</translation>
     </message>
     <message>
         <source>“%1” is not a colour like #rrggbb or #aarrggbb</source>

@@ -2,7 +2,7 @@
 
 #include "host/SysAdapterUI/SymbolPreview.h"
 #include "host/SysDisplay/StyleLibrary.h"
-#include "host/SysDisplay/SymbolArchive.h"
+#include "host/SysDisplay/SymbolFields.h"
 
 #include <SysAdapterUI/StyleGalleryClass.h>
 #include <SysUI/EnvironmentSetting.h>

@@ -2,7 +2,7 @@
 
 #include "host/SysDisplay/FillPainter.h"
 #include "host/SysDisplay/GeometryParts.h"
-#include "host/SysDisplay/SymbolArchive.h"
+#include "host/SysDisplay/SymbolFields.h"
 
 namespace SysDisplay {
 

@@ -2,7 +2,7 @@
 
 #include "host/SysDisplay/GeometryParts.h"
 #include "host/SysDisplay/LinePainter.h"
-#include "host/SysDisplay/SymbolArchive.h"
+#include "host/SysDisplay/SymbolFields.h"
 
 #include <cmath>
 

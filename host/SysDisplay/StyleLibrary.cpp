@@ -1,7 +1,8 @@
 #include "StyleLibrary.h"
 
-#include "host/SysDisplay/SymbolArchive.h"
+#include "host/SysDisplay/SymbolFields.h"
 #include "host/SysUtility/FileSaver.h"
+#include "host/SysUtility/JsonFields.h"
 #include "host/SysUtility/JsonFile.h"
 
 #include <QCoreApplication>
@@ -9,13 +10,13 @@
 namespace SysDisplay {
 
 using SysUtility::aboutFile;
-using SysUtility::Archive;
+using SysUtility::Fields;
+using SysUtility::TextKind;
 
 namespace {
 
 constexpr int styleVersion = 1;
-constexpr int newestThinkable = 1000000;
-constexpr int mostCategories = 1000, mostItems = 10000;
+constexpr int maxCategories = 1000, maxItems = 10000;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(StyleLibrary)
@@ -23,66 +24,53 @@ struct Texts {
 
 SysUtility::JsonFileKind styleKind() { return {Texts::tr("style library"), QStringLiteral(".style"), 64}; }
 
-void describeFormat(Archive& archive) {
-  QString const ours = QStringLiteral("plotvane-style");
-  QString format = ours;
-  int version = styleVersion;
-  archive.text("format", format);
-  if (archive.ok() && format != ours)
-    return archive.fail("format", Texts::tr("is not “%1”, so this is no style library").arg(ours));
-  archive.integer("version", version, 1, newestThinkable);
-  if (archive.ok() && version > styleVersion)
-    archive.fail("version",
-                 Texts::tr("the library was written by a newer version of Plotvane, as version %1; update Plotvane")
-                     .arg(version));
-}
-
-void describeName(Archive& archive, QString& name) {
-  archive.text("name", name);
-  if (archive.ok() && name.trimmed().isEmpty()) archive.fail("name", Texts::tr("is empty; give it a name"));
-}
-
-void describe(Archive& archive, StyleItem& item) {
-  describeName(archive, item.name);
-  describeSymbol(archive, "symbol", item.symbol);
-}
-
-void describe(Archive& archive, StyleCategory& category) {
-  describeName(archive, category.name);
-  archive.list("items", category.items.size(), mostItems, [&](Archive& object, int index) {
-    if (object.reading()) category.items << StyleItem();
-    describe(object, category.items[index]);
-  });
+void listName(Fields& fields, QString& name, char const* help) {
+  fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"), help}, name, TextKind::Line);
+  if (fields.ok() && name.trimmed().isEmpty()) fields.fail("name", Texts::tr("is empty; give it a name"));
 }
 
 }  // namespace
 
-void describeStyleLibrary(Archive& archive, StyleLibrary& library) {
-  describeFormat(archive);
-  if (!archive.ok()) return;
-  archive.list("categories", library.categories.size(), mostCategories, [&](Archive& object, int index) {
-    if (object.reading()) library.categories << StyleCategory();
-    describe(object, library.categories[index]);
-  });
+void StyleItem::list(Fields& fields) {
+  listName(fields, name, QT_TRANSLATE_NOOP("Fields", "What the symbol is called."));
+  listSymbol(fields,
+             {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"), QT_TRANSLATE_NOOP("Fields", "The symbol itself.")},
+             symbol);
+}
+
+void StyleCategory::list(Fields& fields) {
+  listName(fields, name, QT_TRANSLATE_NOOP("Fields", "What the category is called; a slash puts it into another."));
+  fields.list(
+      {"items", QT_TRANSLATE_NOOP("Fields", "Symbols"), QT_TRANSLATE_NOOP("Fields", "The symbols of the category.")},
+      items, maxItems, [](Fields& own, StyleItem& item, int) { item.list(own); });
+}
+
+void StyleLibrary::list(Fields& fields) {
+  listFormat(fields,
+             {"plotvane-style", styleVersion, Texts::tr("is not “%1”, so this is no style library"),
+              Texts::tr("the library was written by a newer version of Plotvane, as version %1; update Plotvane")});
+  if (!fields.ok()) return;
+  fields.list({"categories", QT_TRANSLATE_NOOP("Fields", "Categories"),
+               QT_TRANSLATE_NOOP("Fields", "Groups of symbols, in the order in which they are shown.")},
+              categories, maxCategories, [](Fields& own, StyleCategory& category, int) { category.list(own); });
 }
 
 std::optional<StyleLibrary> readStyleLibrary(QString const& path, QString& error) {
   auto const json = SysUtility::readJsonFile(path, styleKind(), error);
   if (!json) return std::nullopt;
   StyleLibrary library;
-  Archive archive(*json);
-  describeStyleLibrary(archive, library);
-  if (archive.ok()) return library;
-  error = aboutFile(path, archive.error() + Texts::tr("; correct the file or choose another one"));
+  QString const problem = SysUtility::readJson(*json, library);
+  if (problem.isEmpty()) return library;
+  error = aboutFile(path, problem + Texts::tr("; correct the file or choose another one"));
   return std::nullopt;
 }
 
 QString writeStyleLibrary(QString const& path, StyleLibrary const& library) {
   StyleLibrary written = library;
-  Archive archive;
-  describeStyleLibrary(archive, written);
-  if (!archive.ok()) return aboutFile(path, archive.error() + Texts::tr("; change this value, then save again"));
-  return SysUtility::FileSaver::save(path, SysUtility::jsonText(archive.json()));
+  SysUtility::JsonWriter writer;
+  written.list(writer);
+  if (!writer.ok()) return aboutFile(path, writer.error() + Texts::tr("; change this value, then save again"));
+  return SysUtility::FileSaver::save(path, SysUtility::jsonText(writer.json()));
 }
 
 bool liesIn(QString const& category, QString const& name) {

@@ -9,7 +9,7 @@
 #include <optional>
 
 namespace SysUtility {
-class Archive;
+class Fields;
 }
 
 namespace SysDisplay {
@@ -17,6 +17,8 @@ namespace SysDisplay {
 struct StyleItem {
   QString name;
   SysUtility::_ptr_t<Symbol> symbol;
+
+  void list(SysUtility::Fields& fields);
 };
 
 /// Symbols that a person looks for in one place. A name with slashes ("NorthArrows/Compass roses") is a category within
@@ -24,15 +26,16 @@ struct StyleItem {
 struct StyleCategory {
   QString name;
   QVector<StyleItem> items;
+
+  void list(SysUtility::Fields& fields);
 };
 
 /// The content of a `.style` file: named symbols by category, in the order in which they are shown.
-struct StyleLibrary {
+struct SYSDISPLAY_EXPORT StyleLibrary {
   QVector<StyleCategory> categories;
-};
 
-/// Describes a library for reading and writing.
-SYSDISPLAY_EXPORT void describeStyleLibrary(SysUtility::Archive& archive, StyleLibrary& library);
+  void list(SysUtility::Fields& fields);
+};
 
 /// Nothing, with a sentence in `error` that names the file, the field and the fix, where any of the library is wrong: a
 /// library comes from a stranger, and half of one is no help to anybody.

@@ -115,17 +115,24 @@ std::unique_ptr<MarkerDrawing> SvgMarkerSymbol::prepare(double pixelsPerPoint) c
   return std::make_unique<SvgDrawing>(picture_, picture_->renderer, GetSize() * pixelsPerPoint, GetAngle());
 }
 
-QString SvgMarkerSymbol::setSvg(QByteArray const& svg) {
-  QString const problem = svgProblem(svg);
-  if (!problem.isEmpty()) return problem;
+std::shared_ptr<SvgMarkerSymbol::Picture> SvgMarkerSymbol::pictureOf(QByteArray const& svg, QString& problem) {
+  problem = svgProblem(svg);
+  if (!problem.isEmpty()) return nullptr;
   auto picture = std::make_shared<Picture>();
   picture->svg = svg;
-  if (!picture->renderer.load(svg) || picture->renderer.viewBoxF().isEmpty())
-    return QCoreApplication::translate("SvgMarkerSymbol", "the SVG can't be drawn: it has no size or no content");
-  picture_ = std::move(picture);
-  return QString();
+  if (picture->renderer.load(svg) && !picture->renderer.viewBoxF().isEmpty()) return picture;
+  problem = QCoreApplication::translate("SvgMarkerSymbol", "the SVG can't be drawn: it has no size or no content");
+  return nullptr;
 }
 
-QByteArray SvgMarkerSymbol::svg() const { return picture_ ? picture_->svg : QByteArray(); }
+QString SvgMarkerSymbol::setSvg(QByteArray const& svg) {
+  QString problem;
+  if (auto const picture = pictureOf(svg, problem)) picture_ = picture;
+  return problem;
+}
+
+QByteArray SvgMarkerSymbol::svgOf(std::shared_ptr<Picture> const& picture) {
+  return picture ? picture->svg : QByteArray();
+}
 
 }  // namespace SysDisplay

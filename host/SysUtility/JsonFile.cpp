@@ -11,6 +11,7 @@ namespace SysUtility {
 namespace {
 
 constexpr qint64 mebibyte = 1024 * 1024;
+constexpr int maxVersion = 1000000;  // thinkable
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(JsonFile)
@@ -79,6 +80,19 @@ std::optional<QJsonObject> readJsonFile(QString const& path, JsonFileKind const&
   if (problem.isEmpty()) return document.object();
   error = aboutFile(path, problem);
   return std::nullopt;
+}
+
+void listFormat(Fields& fields, JsonFormat const& format) {
+  QString const ours = QLatin1String(format.name);
+  QString name = ours;
+  int version = format.version;
+  fields.text({"format", QT_TRANSLATE_NOOP("Fields", "Format"), QT_TRANSLATE_NOOP("Fields", "What the file is.")}, name,
+              TextKind::Line);
+  if (fields.ok() && name != ours) return fields.fail("format", format.otherSentence.arg(ours));
+  fields.integer(
+      {"version", QT_TRANSLATE_NOOP("Fields", "Version"), QT_TRANSLATE_NOOP("Fields", "The version of the format.")},
+      version, 1, maxVersion);
+  if (fields.ok() && version > format.version) fields.fail("version", format.newerSentence.arg(version));
 }
 
 QByteArray jsonText(QJsonObject const& object) { return QJsonDocument(object).toJson(QJsonDocument::Indented); }

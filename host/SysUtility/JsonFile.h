@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysUtility/Fields.h"
+
 #include <SysUtility/Export.h>
 
 #include <QByteArray>
@@ -21,6 +23,17 @@ struct JsonFileKind {
 /// no such file, it is too large for its kind, or it holds no JSON object.
 SYSUTILITY_EXPORT std::optional<QJsonObject> readJsonFile(QString const& path, JsonFileKind const& kind,
                                                           QString& error);
+
+/// What a file says of itself. The sentences tell of a file of another format than %1, and of one of the newer version
+/// %1.
+struct JsonFormat {
+  char const* name;
+  int version;
+  QString otherSentence, newerSentence;
+};
+
+/// The fields "format" and "version". Other fields make sense only where the visitor is `ok` afterwards.
+SYSUTILITY_EXPORT void listFormat(Fields& fields, JsonFormat const& format);
 
 /// The text of a file: equal objects give equal bytes.
 SYSUTILITY_EXPORT QByteArray jsonText(QJsonObject const& object);

@@ -1,8 +1,8 @@
 #include "Dialogs.h"
 #include "Test.h"
 
-#include "host/SysCarto/document/ElementArchive.h"
-#include "host/SysUtility/Archive.h"
+#include "host/SysCarto/document/FrameSettings.h"
+#include "host/SysUtility/JsonFields.h"
 
 #include <SysAdapterUI/FramePropertyWidget.h>
 #include <SysCarto/MapFrameElement.h>
@@ -52,9 +52,9 @@ QJsonValue stored(FramePropertyWidget const& widget, QString const& field) {
   frame->SetBorder(widget.GetBorder());
   frame->SetBackGround(widget.GetBackground());
   frame->SetShadow(widget.GetShadow());
-  SysUtility::Archive archive;
-  describeFrame(archive, *frame);
-  QJsonValue value = archive.json();
+  SysUtility::JsonWriter writer;
+  FrameSettings::of(*frame).list(writer);
+  QJsonValue value = writer.json();
   for (QString const& step : field.split('.')) value = value[step];
   return value;
 }

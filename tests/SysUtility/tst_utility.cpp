@@ -2,8 +2,8 @@
 #include "Json.h"
 #include "Test.h"
 
-#include "host/SysUtility/Archive.h"
 #include "host/SysUtility/FileSaver.h"
+#include "host/SysUtility/JsonFields.h"
 
 #include <SysUtility/CRef.h>
 #include <SysUtility/MathUtil.h>
@@ -28,6 +28,8 @@ struct Counted : CRef {
 struct Other : CRef {};
 
 enum class Side { Left, Right };
+constexpr Choice sides[] = {{Side::Left, "left", ""}, {Side::Right, "right", ""}};
+constexpr Field named(char const* key) { return {key, "", ""}; }
 
 struct Sheet {
   double width = 21;
@@ -40,28 +42,25 @@ struct Sheet {
   double corner[2] = {0, 0};
   QVector<double> outline;
   QVector<Sheet> inner;
+
+  void list(Fields& fields) {
+    fields.number(named("width"), width, {0.1, 1000});
+    fields.number(named("scale"), scale, {0, 10}, 1.0);
+    fields.integer(named("copies"), copies, 1, 5, 1);
+    fields.flag(named("landscape"), landscape, false);
+    fields.choice<Side>(named("side"), side, sides, Side::Left);
+    fields.text(named("title"), title, TextKind::Line);
+    fields.texts(named("tags"), tags);
+    fields.object(named("at"), [&](Fields& at) { at.numbers(named("corner"), corner, NumbersKind::Point, {-10, 10}); });
+    fields.coordinates(named("outline"), outline);
+    fields.list(named("inner"), inner, 2, [](Fields& own, Sheet& sheet, int) { sheet.list(own); });
+  }
 };
 
-void describe(Archive& archive, Sheet& sheet) {
-  archive.number("width", sheet.width, 0.1, 1000);
-  archive.number("scale", sheet.scale, 0, 10, 1);
-  archive.integer("copies", sheet.copies, 1, 5, 1);
-  archive.flag("landscape", sheet.landscape, false);
-  archive.choice("side", sheet.side, {{int(Side::Left), "left"}, {int(Side::Right), "right"}}, Side::Left);
-  archive.text("title", sheet.title);
-  archive.texts("tags", sheet.tags);
-  archive.object("at", [&](Archive& at) { at.numbers("corner", sheet.corner, 2, -10, 10); });
-  archive.coordinates("outline", sheet.outline);
-  archive.list("inner", sheet.inner.size(), 2, [&](Archive& inner, int number) {
-    if (inner.reading()) sheet.inner.append(Sheet());
-    describe(inner, sheet.inner[number]);
-  });
-}
-
 QJsonObject written(Sheet sheet) {
-  Archive archive;
-  describe(archive, sheet);
-  return archive.json();
+  JsonWriter writer;
+  sheet.list(writer);
+  return writer.json();
 }
 
 }  // namespace
@@ -122,11 +121,11 @@ private slots:
     sheet.inner[1].width = 3;
     QByteArray const text = QJsonDocument(written(sheet)).toJson();
 
-    Archive archive(QJsonDocument::fromJson(text).object());
+    JsonReader reader(QJsonDocument::fromJson(text).object());
     Sheet read;
-    describe(archive, read);
-    QCOMPARE(archive.error(), QString());
-    QCOMPARE(archive.warnings(), QStringList());
+    read.list(reader);
+    QCOMPARE(reader.error(), QString());
+    QCOMPARE(reader.warnings(), QStringList());
     QCOMPARE(read.width, sheet.width);
     QCOMPARE(read.title, sheet.title);
     QCOMPARE(read.inner.value(1).width, 3.0);
@@ -137,8 +136,8 @@ private slots:
     QCOMPARE(written(Sheet()).keys(), (QStringList{"at", "outline", "title", "width"}));
     Sheet read;
     read.copies = 4;
-    Archive archive(written(Sheet()));
-    describe(archive, read);
+    JsonReader reader(written(Sheet()));
+    read.list(reader);
     QCOMPARE(read.copies, 1);
   }
 
@@ -170,23 +169,23 @@ private slots:
     QJsonObject object = written(Sheet());
     QJsonObject const wrong = json("{" + field + "}");
     object.insert(wrong.begin().key(), wrong.begin().value());
-    Archive archive(object);
+    JsonReader reader(object);
     Sheet read;
-    describe(archive, read);
-    QCOMPARE(archive.error(), error);
+    read.list(reader);
+    QCOMPARE(reader.error(), error);
   }
 
   void nothingChangesAfterTheFirstProblem() {
     Sheet read;
     read.copies = 3;
     read.tags = QStringList{QStringLiteral("kept")};
-    Archive archive(json("{'width': 0, 'landscape': true, 'tags': [], 'new': 1}"));
-    describe(archive, read);
-    QCOMPARE(archive.error(), QStringLiteral("width: 0 is not between 0.1 and 1000"));
+    JsonReader reader(json("{'width': 0, 'landscape': true, 'tags': [], 'new': 1}"));
+    read.list(reader);
+    QCOMPARE(reader.error(), QStringLiteral("width: 0 is not between 0.1 and 1000"));
     QCOMPARE(read.copies, 3);
     QCOMPARE(read.landscape, false);
     QCOMPARE(read.tags.size(), 1);
-    QCOMPARE(archive.warnings(), QStringList());
+    QCOMPARE(reader.warnings(), QStringList());
   }
 
   void anUnknownFieldIsReportedOnce() {
@@ -195,15 +194,12 @@ private slots:
     QJsonObject object = written(Sheet());
     object.insert("inner", QJsonArray{inner});
     object.insert("zoom", 1);
-    object.insert("asked", 1);
-    Archive archive(object);
+    JsonReader reader(object);
     Sheet read;
-    describe(archive, read);
-    QVERIFY(archive.has("asked"));
-    QVERIFY(!archive.has("absent"));
+    read.list(reader);
     QStringList const expected{"inner[0].colour", "zoom"};
-    QCOMPARE(archive.warnings(), expected);
-    QCOMPARE(archive.warnings(), expected);
+    QCOMPARE(reader.warnings(), expected);
+    QCOMPARE(reader.warnings(), expected);
   }
 
   void whatCouldNotBeReadAgainIsAProblemWhenWriting_data() {
@@ -221,9 +217,9 @@ private slots:
     auto const [spoil, path] = fetched<std::function<void(Sheet&)>, QString>();
     Sheet sheet;
     spoil(sheet);
-    Archive archive;
-    describe(archive, sheet);
-    QVERIFY2(archive.error().startsWith(path + ": "), qUtf8Printable(archive.error()));
+    JsonWriter writer;
+    sheet.list(writer);
+    QVERIFY2(writer.error().startsWith(path + ": "), qUtf8Printable(writer.error()));
   }
 
   void aFileIsReplacedWhole() {

@@ -15,7 +15,7 @@ struct DocumentContext {
   bool relativePaths = true;            ///< when writing
   QList<SysUtility::_ptr_t<Map>> maps;  ///< elements refer to them by their place in this list
   QSet<ElementHandle> handles;          ///< read so far: a handle is used once
-  QSet<Map const*> framedMaps;          ///< of the data frames so far: no two show the same map
+  QSet<int> framedMaps;                 ///< of the data frames so far, by number: no two show the same map
   QStringList warnings;                 ///< sentences: what could not be read and was passed over
   int unreadableSources = 0;
 };

@@ -1,10 +1,11 @@
 #include <SysCarto/MapDocument.h>
 
-#include "DocumentArchive.h"
+#include "DocumentFields.h"
 #include "OperationStack.h"
 
 #include "host/SysCarto/layout/PageLimits.h"
 #include "host/SysUtility/FileSaver.h"
+#include "host/SysUtility/JsonFields.h"
 #include "host/SysUtility/JsonFile.h"
 
 #include <QCoreApplication>
@@ -21,7 +22,6 @@ namespace SysCarto {
 
 using SysUtility::_ptr_t;
 using SysUtility::aboutFile;
-using SysUtility::Archive;
 using SysUtility::make;
 
 namespace {
@@ -115,10 +115,10 @@ std::optional<QByteArray> MapDocument::Private::textFor(QString const& file, boo
                                                         QString& problem) const {
   auto context = contextFor(file, relativePaths);
   DocumentContent written{content.layout, relativePaths};
-  Archive archive;
-  describeDocument(archive, written, context);
-  if (archive.ok()) return SysUtility::jsonText(archive.json());
-  problem = aboutFile(file, archive.error() + Texts::tr("; change this value, then save again"));
+  SysUtility::JsonWriter writer;
+  written.list(writer, context);
+  if (writer.ok()) return SysUtility::jsonText(writer.json());
+  problem = aboutFile(file, writer.error() + Texts::tr("; change this value, then save again"));
   return std::nullopt;
 }
 
@@ -154,14 +154,14 @@ bool MapDocument::Open(QString const& path) {
   DocumentContent content;
   DocumentContext context;
   context.folder = folderOf(path);
-  Archive archive(*json);
-  describeDocument(archive, content, context);
-  if (!archive.ok())
-    return d->failed(aboutFile(path, archive.error() + Texts::tr("; correct the file or open another one")));
+  SysUtility::JsonReader reader(*json);
+  content.list(reader, context);
+  if (!reader.ok())
+    return d->failed(aboutFile(path, reader.error() + Texts::tr("; correct the file or open another one")));
 
   content.layout->ZoomToWholePage();
   d->take(path, content);
-  d->warnings = unknownFieldSentences(path, archive.warnings());
+  d->warnings = unknownFieldSentences(path, reader.warnings());
   for (QString const& warning : context.warnings) d->warnings << aboutFile(path, warning);
   d->unreadableSources = context.unreadableSources;
   return true;

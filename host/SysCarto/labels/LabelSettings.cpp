@@ -1,23 +1,29 @@
 #include "LabelSettings.h"
 
-#include "host/SysDisplay/SymbolArchive.h"
-#include "host/SysUtility/Archive.h"
+#include "host/SysDisplay/SymbolFields.h"
 
 #include <SysCarto/FeatureLayer.h>
-
-#include <QCoreApplication>
 
 namespace SysCarto {
 
 using SysUtility::_ptr_t;
-using SysUtility::Archive;
+using SysUtility::Fields;
+using SysUtility::TextKind;
+using SysUtility::Unit;
 
 namespace {
 
-constexpr int mostClasses = 100;
+constexpr int maxClasses = 100;
 constexpr double farthest = 1e300;
-constexpr double mostScale = 1e15;
-constexpr int mostPriority = 1000000;
+constexpr int maxPriority = 1000000;
+constexpr SysUtility::Range scales{0, 1e15, Unit::ScaleDenominator};
+
+template <class Settings>
+void listSymbolOf(Fields& fields, Settings& settings) {
+  listSymbol(fields,
+             {"symbol", QT_TRANSLATE_NOOP("Fields", "Text"), QT_TRANSLATE_NOOP("Fields", "How the letters look.")},
+             settings.symbol);
+}
 
 }  // namespace
 
@@ -27,31 +33,58 @@ _ptr_t<SysDisplay::TextSymbol> const& LabelSettings::symbolFor(double priority) 
   return symbol;
 }
 
-void describeLabels(Archive& archive, LabelSettings& settings, AnnotationProperties& properties) {
-  archive.flag("visible", settings.visible, true);
-  archive.text("field", settings.field);
-  if (settings.field.isEmpty())
-    archive.fail("field", QCoreApplication::translate("LabelSettings", "names no field; leave out the labels"));
-  archive.text("priorityField", settings.priorityField, QString());
-  archive.number("gap", settings.gapPt, 0, 1000, 1.5);
-  describeSymbol(archive, "symbol", settings.symbol);
-  if (archive.reading()) settings.classes.clear();
-  archive.list("classes", static_cast<int>(settings.classes.size()), mostClasses, [&](Archive& item, int i) {
-    if (item.reading()) settings.classes.emplace_back();
-    LabelClass& one = settings.classes[i];
-    item.number("minimum", one.minimum, -farthest, farthest);
-    describeSymbol(item, "symbol", one.symbol);
-    if (i > 0 && !(one.minimum > settings.classes[i - 1].minimum))
-      item.fail("minimum", QCoreApplication::translate("LabelSettings", "is not above that of the class before"));
-  });
+void LabelSettings::list(Fields& fields) {
+  fields.flag(
+      {"visible", QT_TRANSLATE_NOOP("Fields", "Visible"), QT_TRANSLATE_NOOP("Fields", "Whether there are labels.")},
+      visible, true);
+  fields.text({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
+               QT_TRANSLATE_NOOP("Fields", "The attribute whose value is the text.")},
+              field, TextKind::Attribute);
+  if (field.isEmpty())
+    fields.fail("field", QCoreApplication::translate("LabelSettings", "names no field; leave out the labels"));
+  fields.text({"priorityField", QT_TRANSLATE_NOOP("Fields", "Attribute of the priority"),
+               QT_TRANSLATE_NOOP("Fields", "Features with a higher number in it are labelled first.")},
+              priorityField, TextKind::Attribute, QString());
+  fields.number(
+      {"gap", QT_TRANSLATE_NOOP("Fields", "Gap"), QT_TRANSLATE_NOOP("Fields", "What is kept free around a label.")},
+      gapPt, {0, 1000, Unit::Point}, LabelSettings().gapPt);
+  listSymbolOf(fields, *this);
+  fields.list({"classes", QT_TRANSLATE_NOOP("Fields", "Classes"),
+               QT_TRANSLATE_NOOP("Fields", "Letters of their own for features of a higher priority.")},
+              classes, maxClasses, [this](Fields& own, LabelClass& one, int index) {
+                own.number({"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
+                            QT_TRANSLATE_NOOP("Fields", "The lowest priority of the class.")},
+                           one.minimum, {-farthest, farthest});
+                listSymbolOf(own, one);
+                if (index > 0 && !(one.minimum > classes[index - 1].minimum))
+                  own.fail("minimum",
+                           QCoreApplication::translate("LabelSettings", "is not above that of the class before"));
+              });
+}
 
-  int priority = properties.GetPriority();
-  double minScale = properties.storedMinScale(), maxScale = properties.storedMaxScale();
-  archive.integer("priority", priority, -mostPriority, mostPriority, 0);
-  archive.number("minScale", minScale, 0, mostScale, 0);
-  archive.number("maxScale", maxScale, 0, mostScale, 0);
+AnnotationSettings AnnotationSettings::of(AnnotationProperties const& properties) {
+  return {properties.GetPriority(), properties.storedMinScale(), properties.storedMaxScale()};
+}
+
+void AnnotationSettings::list(Fields& fields) {
+  fields.integer({"priority", QT_TRANSLATE_NOOP("Fields", "Priority"),
+                  QT_TRANSLATE_NOOP("Fields", "Labels of layers with a higher one are placed first.")},
+                 priority, -maxPriority, maxPriority, 0);
+  listScaleRange(fields, minScale, maxScale);
+}
+
+void AnnotationSettings::applyTo(AnnotationProperties& properties) const {
   properties.SetPriority(priority);
   properties.SetScaleRange(minScale, maxScale);
+}
+
+void listScaleRange(Fields& fields, double& minScale, double& maxScale) {
+  fields.number({"minScale", QT_TRANSLATE_NOOP("Fields", "From scale"),
+                 QT_TRANSLATE_NOOP("Fields", "It shows above this scale denominator; 0 is no limit.")},
+                minScale, scales, 0.0);
+  fields.number({"maxScale", QT_TRANSLATE_NOOP("Fields", "To scale"),
+                 QT_TRANSLATE_NOOP("Fields", "It shows below this scale denominator; 0 is no limit.")},
+                maxScale, scales, 0.0);
 }
 
 }  // namespace SysCarto

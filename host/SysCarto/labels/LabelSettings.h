@@ -9,7 +9,7 @@
 #include <vector>
 
 namespace SysUtility {
-class Archive;
+class Fields;
 }
 
 namespace SysCarto {
@@ -33,10 +33,21 @@ struct LabelSettings {
 
   bool isUsed() const { return !field.isEmpty(); }
   SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbolFor(double priority) const;
+
+  void list(SysUtility::Fields& fields);
 };
 
-/// Describes the settings in an object of their own, with the scale range and the priority that `properties` holds.
-SYSCARTO_EXPORT void describeLabels(SysUtility::Archive& archive, LabelSettings& settings,
-                                    AnnotationProperties& properties);
+/// When the labels of a layer show, and before which other layers they are placed.
+struct AnnotationSettings {
+  int priority = 0;
+  double minScale = 0, maxScale = 0;  ///< scale denominators; 0 is no limit
+
+  static AnnotationSettings of(AnnotationProperties const& properties);
+  void list(SysUtility::Fields& fields);
+  void applyTo(AnnotationProperties& properties) const;
+};
+
+/// The smallest and the largest scale denominator at which something shows, of a layer or of its labels.
+void listScaleRange(SysUtility::Fields& fields, double& minScale, double& maxScale);
 
 }  // namespace SysCarto

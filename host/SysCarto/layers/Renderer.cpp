@@ -1,71 +1,109 @@
 #include "Renderer.h"
 
-#include "host/SysDisplay/SymbolArchive.h"
-#include "host/SysUtility/Archive.h"
+#include "host/SysDisplay/SymbolFields.h"
 
-#include <QCoreApplication>
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 #include <cmath>
 
 namespace SysCarto {
 
-using SysDisplay::Symbol;
+using SysDisplay::listSymbol;
 using SysUtility::_ptr_t;
-using SysUtility::Archive;
+using SysUtility::Choice;
+using SysUtility::Field;
+using SysUtility::Fields;
+using SysUtility::TextKind;
 
 namespace {
 
-constexpr int mostClasses = 10000;
+constexpr int maxClasses = 10000;
 constexpr double farthest = 1e300;
+
+// clang-format off
+constexpr Choice kinds[] = {
+    {RendererSettings::Kind::Simple,       "simple",       QT_TRANSLATE_NOOP("Fields", "One symbol")},
+    {RendererSettings::Kind::UniqueValues, "uniqueValues", QT_TRANSLATE_NOOP("Fields", "A symbol for each value")},
+    {RendererSettings::Kind::Graduated,    "graduated",    QT_TRANSLATE_NOOP("Fields", "Symbols by a number")},
+};
+// clang-format on
+
+constexpr Field classesField{"classes", QT_TRANSLATE_NOOP("Fields", "Classes"),
+                             QT_TRANSLATE_NOOP("Fields", "Features that are drawn alike.")};
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(Renderer)
 };
 
-enum Kind { Simple, UniqueValues, Graduated };
+void listLabel(Fields& fields, QString& label, QString const& byDefault) {
+  fields.text({"label", QT_TRANSLATE_NOOP("Fields", "Label"), QT_TRANSLATE_NOOP("Fields", "What a legend calls them.")},
+              label, TextKind::Line, byDefault);
+}
+
+void listSymbolOf(Fields& fields, SymbolClass& one) {
+  listSymbol(fields,
+             {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"), QT_TRANSLATE_NOOP("Fields", "How they are drawn.")},
+             one.symbol);
+}
+
+void listValues(Fields& fields, std::vector<SymbolClass>& classes) {
+  QSet<QString> known;
+  fields.list(classesField, classes, maxClasses, [&](Fields& own, SymbolClass& one, int) {
+    own.texts({"values", QT_TRANSLATE_NOOP("Fields", "Values"),
+               QT_TRANSLATE_NOOP("Fields", "The values of the attribute that belong to the class.")},
+              one.values);
+    listLabel(own, one.label, one.values.join(QLatin1String(", ")));
+    listSymbolOf(own, one);
+    for (QString const& value : qAsConst(one.values)) {
+      if (own.isReading() && known.contains(value))
+        own.fail("values", Texts::tr("“%1” is in two classes").arg(value.left(64)));
+      known << value;
+    }
+  });
+}
+
+void listMinima(Fields& fields, std::vector<SymbolClass>& classes) {
+  fields.list(classesField, classes, maxClasses, [&](Fields& own, SymbolClass& one, int index) {
+    own.number({"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
+                QT_TRANSLATE_NOOP("Fields", "The lowest number of the class; it ends where the next one begins.")},
+               one.minimum, {-farthest, farthest});
+    listLabel(own, one.label, QString());
+    listSymbolOf(own, one);
+    if (index > 0 && !(one.minimum > classes[index - 1].minimum))
+      own.fail("minimum", Texts::tr("is not above that of the class before"));
+  });
+}
+
+void listOthers(Fields& fields, std::optional<SymbolClass>& others) {
+  SymbolClass one = others.value_or(SymbolClass());
+  listOptionalSymbol(fields,
+                     {"defaultSymbol", QT_TRANSLATE_NOOP("Fields", "Symbol of the others"),
+                      QT_TRANSLATE_NOOP("Fields",
+                                        "How features are drawn that are in no class; without a symbol they "
+                                        "are not.")},
+                     one.symbol);
+  fields.text({"defaultLabel", QT_TRANSLATE_NOOP("Fields", "Label of the others"),
+               QT_TRANSLATE_NOOP("Fields", "What a legend calls features that are in no class.")},
+              one.label, TextKind::Line, QString());
+  if (fields.isReading()) others = one.symbol ? std::optional<SymbolClass>(one) : std::nullopt;
+}
 
 class SimpleRenderer final : public Renderer {
 public:
-  SimpleRenderer() { classes_.resize(1); }
-  SimpleRenderer(_ptr_t<Symbol> const& symbol, QString const& label) {
-    SymbolClass all;
-    all.label = label;
-    all.symbol = symbol;
-    classes_.push_back(all);
-  }
+  explicit SimpleRenderer(RendererSettings const& settings) : Renderer(settings) {}
   int classOf(QString const&, double) const override { return 0; }
-  int kind() const override { return Simple; }
-  void describe(Archive& archive) override {
-    archive.text("label", classes_[0].label, QString());
-    describeSymbol(archive, "symbol", classes_[0].symbol);
-  }
 };
 
 class UniqueValuesRenderer final : public Renderer {
 public:
+  explicit UniqueValuesRenderer(RendererSettings const& settings) : Renderer(settings) {
+    for (int i = 0; i < static_cast<int>(settings.classes.size()); ++i)
+      for (QString const& value : settings.classes[i].values) classByValue_.insert(value, i);
+  }
   int classOf(QString const& text, double) const override {
     return text.isNull() ? otherClass() : classByValue_.value(text, otherClass());
-  }
-  int kind() const override { return UniqueValues; }
-
-  void describe(Archive& archive) override {
-    describeField(archive);
-    if (archive.reading()) classes_.clear();
-    archive.list("classes", ownClasses(), mostClasses, [this](Archive& item, int i) {
-      if (item.reading()) classes_.emplace_back();
-      SymbolClass& one = classes_[i];
-      item.texts("values", one.values);
-      item.text("label", one.label, one.values.join(QLatin1String(", ")));
-      describeSymbol(item, "symbol", one.symbol);
-      for (QString const& value : one.values) {
-        if (item.reading() && classByValue_.contains(value))
-          item.fail("values", Texts::tr("“%1” is in two classes").arg(value.left(64)));
-        classByValue_.insert(value, i);
-      }
-    });
-    describeOthers(archive);
   }
 
 private:
@@ -74,69 +112,57 @@ private:
 
 class GraduatedRenderer final : public Renderer {
 public:
+  explicit GraduatedRenderer(RendererSettings const& settings) : Renderer(settings) {}
   int classOf(QString const&, double number) const override {
-    auto const begin = classes_.begin(), end = begin + ownClasses();
+    auto const& classes = settings().classes;
     if (std::isnan(number)) return otherClass();
-    auto const next =
-        std::upper_bound(begin, end, number, [](double n, SymbolClass const& c) { return n < c.minimum; });
-    return next == begin ? otherClass() : static_cast<int>(next - begin) - 1;
-  }
-  int kind() const override { return Graduated; }
-
-  void describe(Archive& archive) override {
-    describeField(archive);
-    if (archive.reading()) classes_.clear();
-    archive.list("classes", ownClasses(), mostClasses, [this](Archive& item, int i) {
-      if (item.reading()) classes_.emplace_back();
-      SymbolClass& one = classes_[i];
-      item.number("minimum", one.minimum, -farthest, farthest);
-      item.text("label", one.label, QString());
-      describeSymbol(item, "symbol", one.symbol);
-      if (i > 0 && !(one.minimum > classes_[i - 1].minimum))
-        item.fail("minimum", Texts::tr("is not above that of the class before"));
-    });
-    describeOthers(archive);
+    auto const next = std::upper_bound(classes.begin(), classes.end(), number,
+                                       [](double n, SymbolClass const& one) { return n < one.minimum; });
+    return next == classes.begin() ? otherClass() : static_cast<int>(next - classes.begin()) - 1;
   }
 };
 
 }  // namespace
 
+void RendererSettings::list(Fields& fields) {
+  int number = static_cast<int>(kind);
+  fields.variant(
+      {"type", QT_TRANSLATE_NOOP("Fields", "Kind"),
+       QT_TRANSLATE_NOOP("Fields", "Whether all features are drawn alike, or by the value of an attribute.")},
+      number, kinds, [&](int chosen) {
+        kind = static_cast<Kind>(chosen);
+        if (kind == Kind::Simple) {
+          classes.resize(1);
+          listLabel(fields, classes[0].label, QString());
+          return listSymbolOf(fields, classes[0]);
+        }
+        fields.text({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
+                     QT_TRANSLATE_NOOP("Fields", "The attribute whose value decides.")},
+                    field, TextKind::Attribute);
+        if (field.isEmpty()) fields.fail("field", Texts::tr("names no field"));
+        (kind == Kind::UniqueValues ? listValues : listMinima)(fields, classes);
+        listOthers(fields, others);
+      });
+}
+
+Renderer::Renderer(RendererSettings settings) : settings_(std::move(settings)), classes_(settings_.classes) {
+  if (settings_.others) classes_.push_back(*settings_.others);
+}
 Renderer::~Renderer() = default;
 
-void Renderer::describeField(Archive& archive) {
-  archive.text("field", field_);
-  if (field_.isEmpty()) archive.fail("field", Texts::tr("names no field"));
+std::unique_ptr<Renderer> makeRenderer(RendererSettings const& settings) {
+  switch (settings.kind) {
+    case RendererSettings::Kind::UniqueValues: return std::make_unique<UniqueValuesRenderer>(settings);
+    case RendererSettings::Kind::Graduated: return std::make_unique<GraduatedRenderer>(settings);
+    case RendererSettings::Kind::Simple: break;
+  }
+  return std::make_unique<SimpleRenderer>(settings);
 }
 
-void Renderer::describeOthers(Archive& archive) {
-  SymbolClass others;
-  if (hasOthers_) others = classes_.back();
-  describeOptionalSymbol(archive, "defaultSymbol", others.symbol);
-  archive.text("defaultLabel", others.label, QString());
-  if (!archive.reading()) return;
-  hasOthers_ = others.symbol != nullptr;
-  if (hasOthers_) classes_.push_back(others);
-}
-
-std::unique_ptr<Renderer> makeSimpleRenderer(_ptr_t<Symbol> const& symbol, QString const& label) {
-  return std::make_unique<SimpleRenderer>(symbol, label);
-}
-
-void describeRenderer(Archive& archive, char const* key, std::unique_ptr<Renderer>& renderer) {
-  archive.object(key, [&](Archive& item) {
-    int kind = renderer ? renderer->kind() : Simple;
-    item.choice("type", kind, {{Simple, "simple"}, {UniqueValues, "uniqueValues"}, {Graduated, "graduated"}});
-    if (!item.ok()) return;
-    if (item.reading()) {
-      if (kind == UniqueValues)
-        renderer = std::make_unique<UniqueValuesRenderer>();
-      else if (kind == Graduated)
-        renderer = std::make_unique<GraduatedRenderer>();
-      else
-        renderer = std::make_unique<SimpleRenderer>();
-    }
-    renderer->describe(item);
-  });
+std::unique_ptr<Renderer> makeSimpleRenderer(_ptr_t<SysDisplay::Symbol> const& symbol, QString const& label) {
+  RendererSettings settings;
+  settings.classes.push_back({label, {}, 0, symbol});
+  return makeRenderer(settings);
 }
 
 }  // namespace SysCarto

@@ -7,10 +7,11 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace SysUtility {
-class Archive;
+class Fields;
 }
 
 namespace SysCarto {
@@ -23,40 +24,49 @@ struct SymbolClass {
   SysUtility::_ptr_t<SysDisplay::Symbol> symbol;
 };
 
-/// Which symbol a feature is drawn with, by the value of a field. The class for all other features is the last one.
+/// What a document stores of a renderer.
+struct SYSCARTO_EXPORT RendererSettings {
+  enum class Kind { Simple, UniqueValues, Graduated };
+
+  Kind kind = Kind::Simple;
+  QString field;                      ///< that decides; empty where none does
+  std::vector<SymbolClass> classes;   ///< a simple renderer has one
+  std::optional<SymbolClass> others;  ///< for all features that are in none of the classes
+
+  void list(SysUtility::Fields& fields);
+};
+
+/// Which symbol a feature is drawn with, by the value of a field.
 class SYSCARTO_EXPORT Renderer {
 public:
   virtual ~Renderer();
+  Renderer(Renderer const&) = delete;
+  Renderer& operator=(Renderer const&) = delete;
+
+  RendererSettings const& settings() const { return settings_; }
 
   /// The field that decides; empty where none does.
-  QString const& field() const { return field_; }
+  QString const& field() const { return settings_.field; }
 
   /// The class of a value, −1 for none. `text` is null, and `number` not a number, for a value that is missing.
   virtual int classOf(QString const& text, double number) const = 0;
 
+  /// The class for all other features is the last one.
   std::vector<SymbolClass> const& classes() const { return classes_; }
 
 protected:
-  friend SYSCARTO_EXPORT void describeRenderer(SysUtility::Archive&, char const*, std::unique_ptr<Renderer>&);
+  explicit Renderer(RendererSettings settings);
+  int otherClass() const { return settings_.others ? static_cast<int>(settings_.classes.size()) : -1; }
 
-  virtual int kind() const = 0;
-  virtual void describe(SysUtility::Archive& archive) = 0;
-  void describeField(SysUtility::Archive& archive);
-  void describeOthers(SysUtility::Archive& archive);
-  int otherClass() const { return hasOthers_ ? static_cast<int>(classes_.size()) - 1 : -1; }
-  int ownClasses() const { return static_cast<int>(classes_.size()) - (hasOthers_ ? 1 : 0); }
-
-  QString field_;
+private:
+  RendererSettings const settings_;
   std::vector<SymbolClass> classes_;
-  bool hasOthers_ = false;
 };
+
+SYSCARTO_EXPORT std::unique_ptr<Renderer> makeRenderer(RendererSettings const& settings);
 
 /// A renderer with one symbol for all features.
 SYSCARTO_EXPORT std::unique_ptr<Renderer> makeSimpleRenderer(SysUtility::_ptr_t<SysDisplay::Symbol> const& symbol,
                                                              QString const& label = QString());
-
-/// Describes a renderer that must be there, as a nested object with its kind in the field "type".
-SYSCARTO_EXPORT void describeRenderer(SysUtility::Archive& archive, char const* key,
-                                      std::unique_ptr<Renderer>& renderer);
 
 }  // namespace SysCarto

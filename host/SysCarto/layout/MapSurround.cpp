@@ -25,7 +25,6 @@ void MapSurround::setRectangle(Envelope const& rectangle) { d->rectangle = recta
 Envelope const& MapSurround::rectangle() const { return d->rectangle; }
 
 QString MapSurround::title() const { return QCoreApplication::translate("MapSurround", "Map surround"); }
-void MapSurround::describe(SysUtility::Archive&) {}
 
 bool MapSurround::hasPlace() const { return d->map && d->rectangle.GetWidth() > 0 && d->rectangle.GetHeight() > 0; }
 

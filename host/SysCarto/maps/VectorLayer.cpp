@@ -51,10 +51,6 @@ QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem
   return problem_;
 }
 
-void VectorLayer::storeRenderer(SysUtility::Archive& archive, char const* key) {
-  describeRenderer(archive, key, renderer_);
-}
-
 void VectorLayer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, int phase,
                        _ptr_t<TrackerCancel> const& cancel) {
   if (phase != featurePhase || !transformation || store_->size() == 0) return;

@@ -29,14 +29,13 @@ public:
   /// Why the source could not be read, as `open` answered it.
   QString const& problem() const { return problem_; }
 
-  /// Writes the renderer (`describeRenderer`); a layer's renderer is not changed once it is made.
-  void storeRenderer(SysUtility::Archive& archive, char const* key);
+  /// It is not changed once the layer is made.
   Renderer const& renderer() const { return *renderer_; }
   FeatureStore const& features() const { return *store_; }
 
   /// Takes effect when the layer is opened: the texts are read with the features.
   void setLabelSettings(LabelSettings const& settings) { labels_ = settings; }
-  LabelSettings& labelSettings() { return labels_; }
+  LabelSettings const& labelSettings() const { return labels_; }
 
   void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation, int phase,
             SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) override;

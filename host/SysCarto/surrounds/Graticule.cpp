@@ -3,8 +3,7 @@
 #include "GraticuleLabels.h"
 #include "GraticuleLines.h"
 #include "Pieces.h"
-
-#include "host/SysDisplay/SymbolArchive.h"
+#include "SurroundSettings.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>
@@ -24,7 +23,6 @@ using SysDisplay::TextFormat;
 using SysDisplay::TextSymbol;
 using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
-using SysUtility::Archive;
 using SysUtility::make;
 
 namespace {
@@ -66,15 +64,10 @@ _ptr_t<TextSymbol> usualLabel() {
 }  // namespace
 
 IMapGrid::~IMapGrid() = default;
-void IMapGrid::describe(Archive&) {}
 QString IMapGrid::problemOn(MapFrameElement const&) const { return QString(); }
 
 struct Graticule::Private {
-  QString name;
-  double interval = 0;  // degrees; 0 chooses one for the scale
-  bool labelled = true;
-  _ptr_t<LineSymbol> line;  // empty for the usual ones
-  _ptr_t<TextSymbol> label;
+  GraticuleSettings settings;
 
   // What was worked out for a map and a rectangle, since a page is drawn in many tiles. Clones share it.
   struct Picture {
@@ -86,14 +79,14 @@ struct Graticule::Private {
   mutable QString system;
   mutable std::shared_ptr<GraticuleLines const> lines;  // of that system; null until they are asked for
 
-  _ptr_t<TextSymbol> labelSymbol() const { return label ? label : usualLabel(); }
+  _ptr_t<TextSymbol> labelSymbol() const { return settings.label ? settings.label : usualLabel(); }
   GraticuleLines const& linesOf(QString const& wanted) const {
     if (!lines || system != wanted) lines = std::make_shared<GraticuleLines>(wanted);
     system = wanted;
     return *lines;
   }
   bool isTooFine(GraticuleLines const& lines, Envelope const& extent) const {
-    return interval > 0 && lines.count(extent, interval) > mostLines;
+    return settings.interval > 0 && lines.count(extent, settings.interval) > mostLines;
   }
   QList<_ptr_t<Element>> const& elementsFor(Map const& map, Envelope const& rectangle) const;
 };
@@ -113,17 +106,18 @@ QList<_ptr_t<Element>> const& Graticule::Private::elementsFor(Map const& map, En
   if (picture && picture->system == system && isSame(picture->extent, extent) && isSame(picture->rectangle, rectangle))
     return picture->elements;
   auto made = std::make_shared<Picture>(Picture{system, extent, rectangle, {}});
-  bool const isChosen = interval > 0 && !isTooFine(globe, extent);
+  bool const isChosen = settings.interval > 0 && !isTooFine(globe, extent);
   GraticuleStep const size = globe.degreeSize(extent);
   double const cmPerUnit = rectangle.GetWidth() / extent.GetWidth();
   GraticuleStep const step =
-      isChosen ? GraticuleStep{interval, interval}
+      isChosen ? GraticuleStep{settings.interval, settings.interval}
                : GraticuleStep{intervalFor(size.longitude * cmPerUnit), intervalFor(size.latitude * cmPerUnit)};
   GraticuleLabels labels(rectangle, labelSymbol(), labelGapPt);
   for (GraticuleLine const& one : globe.lines(extent, step)) {
     auto const parts = labels.placed(one, extent);
-    for (QVector<QPointF> const& part : parts) made->elements << linePiece(part, line ? line : usualLine());
-    if (labelled) labels.label(one, parts, extent);
+    for (QVector<QPointF> const& part : parts)
+      made->elements << linePiece(part, settings.line ? settings.line : usualLine());
+    if (settings.labelled) labels.label(one, parts, extent);
   }
   made->elements += labels.elements();
   picture = made;
@@ -134,8 +128,8 @@ Graticule::Graticule() : d(std::make_unique<Private>()) {}
 Graticule::Graticule(Graticule const& other) : IMapGrid(other), d(std::make_unique<Private>(*other.d)) {}
 Graticule::~Graticule() = default;
 
-QString Graticule::GetName() const { return d->name; }
-void Graticule::SetName(QString const& name) { d->name = name; }
+QString Graticule::GetName() const { return d->settings.name; }
+void Graticule::SetName(QString const& name) { d->settings.name = name; }
 
 void Graticule::Draw(QPainter& painter, _ptr_t<SysUI::TrackerCancel> const& cancel,
                      _ptr_t<DisplayTransformation> const& transformation, _ptr_t<MapFrameElement> const& frame) {
@@ -147,31 +141,30 @@ void Graticule::Draw(QPainter& painter, _ptr_t<SysUI::TrackerCancel> const& canc
 }
 
 double Graticule::GetMargin() const {
-  return d->labelled ? labelGapPt + d->labelSymbol()->bounds(QStringLiteral("0°")).height() : 0;
+  return d->settings.labelled ? labelGapPt + d->labelSymbol()->bounds(QStringLiteral("0°")).height() : 0;
 }
 
 _ptr_t<IMapGrid> Graticule::Clone() const { return make<Graticule>(*this); }
 
-void Graticule::describe(Archive& archive) {
-  d->picture = nullptr;
-  archive.number("interval", d->interval, 0, 90, 0);
-  archive.flag("labels", d->labelled, true);
-  SysDisplay::describeOptionalSymbol(archive, "lineSymbol", d->line);
-  SysDisplay::describeOptionalSymbol(archive, "labelSymbol", d->label);
+GraticuleSettings GraticuleSettings::of(Graticule const& graticule) { return graticule.d->settings; }
+
+void GraticuleSettings::applyTo(Graticule& graticule) const {
+  graticule.d->settings = *this;
+  graticule.d->picture = nullptr;
 }
 
 QString Graticule::problemOn(MapFrameElement const& frame) const {
   Map const& map = *frame.GetMap();
   Envelope const extent(*map.GetExtent());
-  if (d->interval == 0 || !d->isTooFine(d->linesOf(map.GetCoordinateSystem()), extent)) return QString();
-  double const count = d->lines->count(extent, d->interval);
-  double const least = std::ceil(count * d->interval / mostLines * 1000) / 1000;
+  if (d->settings.interval == 0 || !d->isTooFine(d->linesOf(map.GetCoordinateSystem()), extent)) return QString();
+  double const count = d->lines->count(extent, d->settings.interval);
+  double const least = std::ceil(count * d->settings.interval / mostLines * 1000) / 1000;
   return QCoreApplication::translate("Graticule",
                                      "the graticule “%1” of the map “%2” has an interval of %3 degrees, which makes %4 "
                                      "lines; at most %5 are drawn, so an interval is chosen for it; enter one of %6 "
                                      "degrees or more")
-      .arg(d->name, map.GetName(), grouped(d->interval), grouped(std::round(count)), grouped(mostLines),
-           grouped(least));
+      .arg(d->settings.name, map.GetName(), grouped(d->settings.interval), grouped(std::round(count)),
+           grouped(mostLines), grouped(least));
 }
 
 }  // namespace SysCarto

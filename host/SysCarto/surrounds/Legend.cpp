@@ -1,6 +1,5 @@
 #include "LegendLayout.h"
-
-#include "host/SysDisplay/SymbolArchive.h"
+#include "SurroundSettings.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurround.h>
@@ -12,14 +11,15 @@ namespace SysCarto {
 using SysDisplay::TextFormat;
 using SysDisplay::TextSymbol;
 using SysUtility::_ptr_t;
-using SysUtility::Archive;
 using SysUtility::make;
 
 namespace {
 
 constexpr int longestLabel = 80;
 
-QString translated(char const* text) { return QCoreApplication::translate("MapSurround", text); }
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(MapSurround)
+};
 
 _ptr_t<TextSymbol> usual(_ptr_t<TextSymbol> const& chosen, double sizePt, bool bold) {
   TextFormat format;
@@ -38,16 +38,14 @@ QString shortened(QString const& label) {
 }  // namespace
 
 struct Legend::Private {
-  QString title = translated("Legend");
-  _ptr_t<TextSymbol> titleSymbol, headingSymbol, labelSymbol;  // empty for the usual ones
-  QStringList omitted;                                         // names of layers
+  LegendSettings settings;
 
   // A layer with one class is one entry; one with several has its name above them.
   void addRows(Layer const& layer, QVector<LegendRow>& rows) const {
     QList<LegendClass> const classes = layer.legendClasses();
     if (classes.size() > 1) rows << LegendRow{shortened(layer.GetName()), nullptr, LegendRow::Heading};
     for (LegendClass const& one : classes) {
-      QString const otherwise = classes.size() > 1 ? translated("Other") : layer.GetName();
+      QString const otherwise = classes.size() > 1 ? Texts::tr("Other") : layer.GetName();
       rows << LegendRow{shortened(one.label.isEmpty() ? otherwise : one.label), one.symbol,
                         classes.size() > 1 ? LegendRow::Class : LegendRow::Layer};
     }
@@ -64,22 +62,17 @@ QList<_ptr_t<Element>> Legend::GetElements() {
   double const scale = GetMap()->GetDisplayTransformation()->GetMapScale();
   QVector<LegendRow> rows;
   for (auto layer = layers.rbegin(); layer != layers.rend(); ++layer)
-    if ((*layer)->showsAt(scale) && !d->omitted.contains((*layer)->GetName())) d->addRows(**layer, rows);
+    if ((*layer)->showsAt(scale) && !d->settings.omitted.contains((*layer)->GetName())) d->addRows(**layer, rows);
   if (rows.isEmpty()) return {};
-  LegendLayout layout(
-      {usual(d->titleSymbol, 12, true), usual(d->headingSymbol, 9, true), usual(d->labelSymbol, 8, false)});
-  return layout.elements(d->title, rows, rectangle());
+  LegendLayout layout({usual(d->settings.titleSymbol, 12, true), usual(d->settings.headingSymbol, 9, true),
+                       usual(d->settings.labelSymbol, 8, false)});
+  return layout.elements(d->settings.title, rows, rectangle());
 }
 
 _ptr_t<MapSurround> Legend::Clone() const { return make<Legend>(*this); }
-QString Legend::title() const { return translated("Legend"); }
+QString Legend::title() const { return Texts::tr("Legend"); }
 
-void Legend::describe(Archive& archive) {
-  archive.text("title", d->title, translated("Legend"));
-  SysDisplay::describeOptionalSymbol(archive, "titleSymbol", d->titleSymbol);
-  SysDisplay::describeOptionalSymbol(archive, "headingSymbol", d->headingSymbol);
-  SysDisplay::describeOptionalSymbol(archive, "labelSymbol", d->labelSymbol);
-  archive.texts("omit", d->omitted);
-}
+LegendSettings LegendSettings::of(Legend const& legend) { return legend.d->settings; }
+void LegendSettings::applyTo(Legend& legend) const { legend.d->settings = *this; }
 
 }  // namespace SysCarto

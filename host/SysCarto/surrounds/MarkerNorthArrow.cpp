@@ -1,7 +1,7 @@
 #include "Pieces.h"
+#include "SurroundSettings.h"
 
 #include "host/SysDisplay/SvgMarkerSymbol.h"
-#include "host/SysDisplay/SymbolArchive.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurround.h>
@@ -14,7 +14,6 @@ namespace SysCarto {
 
 using SysDisplay::MarkerSymbol;
 using SysUtility::_ptr_t;
-using SysUtility::Archive;
 using SysUtility::make;
 using SysUtility::ptr_cast;
 
@@ -35,14 +34,19 @@ _ptr_t<MarkerSymbol> usualSymbol() {
 
 }  // namespace
 
-MarkerNorthArrow::MarkerNorthArrow() : MapSurround(6) {}
-MarkerNorthArrow::MarkerNorthArrow(MarkerNorthArrow const&) = default;
+struct MarkerNorthArrow::Private {
+  NorthArrowSettings settings;
+};
+
+MarkerNorthArrow::MarkerNorthArrow() : MapSurround(6), d(std::make_unique<Private>()) {}
+MarkerNorthArrow::MarkerNorthArrow(MarkerNorthArrow const& other)
+    : MapSurround(other), d(std::make_unique<Private>(*other.d)) {}
 MarkerNorthArrow::~MarkerNorthArrow() = default;
 
 QList<_ptr_t<Element>> MarkerNorthArrow::GetElements() {
   if (!hasPlace()) return {};
   auto const arrow = ptr_cast<MarkerSymbol>(GetMarkerSymbol()->Clone());
-  if (trueNorth_) arrow->SetAngle(arrow->GetAngle() + GetMap()->GetNorthAngle());
+  if (d->settings.trueNorth) arrow->SetAngle(arrow->GetAngle() + GetMap()->GetNorthAngle());
   QRectF const unit = unitBounds(*arrow);
   if (unit.isEmpty()) return {};
   arrow->SetSize(std::min(rectangle().GetWidth() / unit.width(), rectangle().GetHeight() / unit.height()) / cmPerPoint);
@@ -53,12 +57,12 @@ QList<_ptr_t<Element>> MarkerNorthArrow::GetElements() {
 _ptr_t<MapSurround> MarkerNorthArrow::Clone() const { return make<MarkerNorthArrow>(*this); }
 QString MarkerNorthArrow::title() const { return QCoreApplication::translate("MapSurround", "North arrow"); }
 
-void MarkerNorthArrow::SetMarkerSymbol(_ptr_t<MarkerSymbol> const& symbol) { symbol_ = symbol; }
-_ptr_t<MarkerSymbol> MarkerNorthArrow::GetMarkerSymbol() const { return symbol_ ? symbol_ : usualSymbol(); }
-
-void MarkerNorthArrow::describe(Archive& archive) {
-  SysDisplay::describeOptionalSymbol(archive, "symbol", symbol_);
-  archive.flag("trueNorth", trueNorth_, false);
+void MarkerNorthArrow::SetMarkerSymbol(_ptr_t<MarkerSymbol> const& symbol) { d->settings.symbol = symbol; }
+_ptr_t<MarkerSymbol> MarkerNorthArrow::GetMarkerSymbol() const {
+  return d->settings.symbol ? d->settings.symbol : usualSymbol();
 }
+
+NorthArrowSettings NorthArrowSettings::of(MarkerNorthArrow const& arrow) { return arrow.d->settings; }
+void NorthArrowSettings::applyTo(MarkerNorthArrow& arrow) const { arrow.d->settings = *this; }
 
 }  // namespace SysCarto

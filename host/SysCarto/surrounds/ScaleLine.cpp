@@ -1,6 +1,5 @@
 #include "Pieces.h"
-
-#include "host/SysDisplay/SymbolArchive.h"
+#include "SurroundSettings.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurround.h>
@@ -20,13 +19,9 @@ using SysDisplay::SimpleLineSymbol;
 using SysDisplay::TextFormat;
 using SysDisplay::TextSymbol;
 using SysUtility::_ptr_t;
-using SysUtility::Archive;
 using SysUtility::make;
 
 namespace {
-
-enum class BarStyle { Alternating, Double, Ticks };
-enum class BarUnit { Automatic, Metres, Kilometres, Feet, Miles, NauticalMiles };
 
 struct UnitRow {
   BarUnit unit;
@@ -54,7 +49,6 @@ constexpr double outlinePt = 0.5;
 constexpr double gapPt = 2.5;         // between the numbers and the bar
 constexpr double leastBetweenPt = 4;  // two numbers
 constexpr double shortestBarCm = 0.3;
-constexpr double defaultHeightPt = 5;
 
 UnitRow const& rowOf(BarUnit unit) {
   return *std::find_if(std::begin(units), std::end(units), [=](UnitRow const& row) { return row.unit == unit; });
@@ -94,14 +88,10 @@ _ptr_t<TextSymbol> usualSymbol() {
 }  // namespace
 
 struct ScaleLine::Private {
-  BarStyle style = BarStyle::Alternating;
-  BarUnit unit = BarUnit::Automatic;
-  double heightPt = defaultHeightPt;
-  QColor color = QColor(0, 0, 0), secondColor = QColor(255, 255, 255);
-  _ptr_t<TextSymbol> symbol;  // empty for the usual one
+  ScaleLineSettings settings;
 
   _ptr_t<TextSymbol> textSymbol() const {
-    TextFormat format = (symbol ? symbol : usualSymbol())->format();
+    TextFormat format = (settings.symbol ? settings.symbol : usualSymbol())->format();
     format.horizontal = SysDisplay::HorizontalAlignment::Left;
     format.vertical = SysDisplay::VerticalAlignment::Baseline;
     return make<TextSymbol>(format);
@@ -217,32 +207,16 @@ ScaleLine::~ScaleLine() = default;
 QList<_ptr_t<Element>> ScaleLine::GetElements() {
   if (!hasPlace()) return {};
   double const metresPerCm = GetMap()->GetDisplayTransformation()->GetMapScale() / 100;
-  BarLayout layout(rectangle(), d->textSymbol(), d->heightPt);
-  auto const bar = layout.fit(metresPerCm, d->unit);
+  BarLayout layout(rectangle(), d->textSymbol(), d->settings.heightPt);
+  auto const bar = layout.fit(metresPerCm, d->settings.unit);
   if (!bar) return {};
-  return layout.elements(*bar, d->style, d->color, d->secondColor);
+  return layout.elements(*bar, d->settings.style, d->settings.color, d->settings.secondColor);
 }
 
 _ptr_t<MapSurround> ScaleLine::Clone() const { return make<ScaleLine>(*this); }
 QString ScaleLine::title() const { return QCoreApplication::translate("MapSurround", "Scale bar"); }
 
-void ScaleLine::describe(Archive& archive) {
-  archive.choice(
-      "style", d->style,
-      {{int(BarStyle::Alternating), "alternating"}, {int(BarStyle::Double), "double"}, {int(BarStyle::Ticks), "ticks"}},
-      BarStyle::Alternating);
-  archive.choice("unit", d->unit,
-                 {{int(BarUnit::Automatic), "automatic"},
-                  {int(BarUnit::Metres), "m"},
-                  {int(BarUnit::Kilometres), "km"},
-                  {int(BarUnit::Feet), "ft"},
-                  {int(BarUnit::Miles), "mi"},
-                  {int(BarUnit::NauticalMiles), "nmi"}},
-                 BarUnit::Automatic);
-  archive.number("height", d->heightPt, 0.5, 100, defaultHeightPt);
-  SysDisplay::describeColor(archive, "color", d->color, QColor(0, 0, 0));
-  SysDisplay::describeColor(archive, "secondColor", d->secondColor, QColor(255, 255, 255));
-  SysDisplay::describeOptionalSymbol(archive, "symbol", d->symbol);
-}
+ScaleLineSettings ScaleLineSettings::of(ScaleLine const& line) { return line.d->settings; }
+void ScaleLineSettings::applyTo(ScaleLine& line) const { line.d->settings = *this; }
 
 }  // namespace SysCarto

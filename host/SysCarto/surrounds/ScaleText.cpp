@@ -1,6 +1,5 @@
 #include "Pieces.h"
-
-#include "host/SysDisplay/SymbolArchive.h"
+#include "SurroundSettings.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurround.h>
@@ -15,14 +14,11 @@ namespace SysCarto {
 using SysDisplay::TextFormat;
 using SysDisplay::TextSymbol;
 using SysUtility::_ptr_t;
-using SysUtility::Archive;
 using SysUtility::make;
 
 namespace {
 
 constexpr int digits = 4;  // off by a twentieth of a per cent at most
-
-QString usualPattern() { return QStringLiteral("1:%1"); }
 
 double roundedTo(double value, int digits) {
   double const unit = std::pow(10.0, std::floor(std::log10(value)) + 1 - digits);
@@ -38,8 +34,7 @@ _ptr_t<TextSymbol> usualSymbol() {
 }  // namespace
 
 struct ScaleText::Private {
-  QString pattern = usualPattern();
-  _ptr_t<TextSymbol> symbol;  // empty for the usual one
+  ScaleTextSettings settings;
 };
 
 ScaleText::ScaleText() : MapSurround(3), d(std::make_unique<Private>()) {}
@@ -50,9 +45,9 @@ ScaleText::~ScaleText() = default;
 QList<_ptr_t<Element>> ScaleText::GetElements() {
   double const scale = hasPlace() ? GetMap()->GetDisplayTransformation()->GetMapScale() : 0;
   if (!(scale > 0) || !std::isfinite(scale)) return {};
-  QString text = d->pattern;
+  QString text = d->settings.pattern;
   text.replace(QLatin1String("%1"), grouped(roundedTo(scale, digits)));
-  TextFormat format = (d->symbol ? d->symbol : usualSymbol())->format();
+  TextFormat format = (d->settings.symbol ? d->settings.symbol : usualSymbol())->format();
   format.horizontal = SysDisplay::HorizontalAlignment::Center;
   format.vertical = SysDisplay::VerticalAlignment::Middle;
   auto symbol = make<TextSymbol>(format);
@@ -67,12 +62,7 @@ QList<_ptr_t<Element>> ScaleText::GetElements() {
 _ptr_t<MapSurround> ScaleText::Clone() const { return make<ScaleText>(*this); }
 QString ScaleText::title() const { return QCoreApplication::translate("MapSurround", "Scale text"); }
 
-void ScaleText::describe(Archive& archive) {
-  archive.text("pattern", d->pattern, usualPattern());
-  if (archive.ok() && !d->pattern.contains(QLatin1String("%1")))
-    archive.fail("pattern",
-                 QCoreApplication::translate("MapSurround", "must hold %1 where the scale stands, as in “1:%1”"));
-  SysDisplay::describeOptionalSymbol(archive, "symbol", d->symbol);
-}
+ScaleTextSettings ScaleTextSettings::of(ScaleText const& text) { return text.d->settings; }
+void ScaleTextSettings::applyTo(ScaleText& text) const { text.d->settings = *this; }
 
 }  // namespace SysCarto

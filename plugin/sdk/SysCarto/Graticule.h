@@ -20,10 +20,10 @@ public:
             SysUtility::_ptr_t<MapFrameElement> const& frame) override;
   double GetMargin() const override;
   SysUtility::_ptr_t<IMapGrid> Clone() const override;
-  void describe(SysUtility::Archive& archive) override;
   QString problemOn(MapFrameElement const& frame) const override;
 
 private:
+  friend struct GraticuleSettings;
   struct Private;
   std::unique_ptr<Private> d;
 };

@@ -8,10 +8,6 @@
 
 class QPainter;
 
-namespace SysUtility {
-class Archive;
-}
-
 namespace SysCarto {
 
 class MapFrameElement;
@@ -34,9 +30,6 @@ public:
   virtual SysUtility::_ptr_t<IMapGrid> Clone() const = 0;
 
   // Beyond what the commands of a plug-in need.
-
-  /// Describes the settings, without the name, for a document; for the host.
-  virtual void describe(SysUtility::Archive& archive);
 
   /// A sentence where the settings can't be followed on the map of that frame, and what is done instead; empty where
   /// they can.

@@ -8,10 +8,6 @@
 
 #include <memory>
 
-namespace SysUtility {
-class Archive;
-}
-
 namespace SysCarto {
 
 class Map;
@@ -45,9 +41,6 @@ public:
   /// What a person calls this kind of surround.
   virtual QString title() const;
 
-  /// Describes the settings for a document; for the host.
-  virtual void describe(SysUtility::Archive& archive);
-
 protected:
   explicit MapSurround(int kind);
   MapSurround(MapSurround const&);
@@ -70,9 +63,9 @@ public:
   QList<SysUtility::_ptr_t<Element>> GetElements() override;
   SysUtility::_ptr_t<MapSurround> Clone() const override;
   QString title() const override;
-  void describe(SysUtility::Archive& archive) override;
 
 private:
+  friend struct LegendSettings;
   struct Private;
   std::unique_ptr<Private> d;
 };
@@ -86,9 +79,9 @@ public:
   QList<SysUtility::_ptr_t<Element>> GetElements() override;
   SysUtility::_ptr_t<MapSurround> Clone() const override;
   QString title() const override;
-  void describe(SysUtility::Archive& archive) override;
 
 private:
+  friend struct ScaleLineSettings;
   struct Private;
   std::unique_ptr<Private> d;
 };
@@ -102,9 +95,9 @@ public:
   QList<SysUtility::_ptr_t<Element>> GetElements() override;
   SysUtility::_ptr_t<MapSurround> Clone() const override;
   QString title() const override;
-  void describe(SysUtility::Archive& archive) override;
 
 private:
+  friend struct ScaleTextSettings;
   struct Private;
   std::unique_ptr<Private> d;
 };
@@ -119,18 +112,15 @@ public:
   QList<SysUtility::_ptr_t<Element>> GetElements() override;
   SysUtility::_ptr_t<MapSurround> Clone() const override;
   QString title() const override;
-  void describe(SysUtility::Archive& archive) override;
 
   /// An empty pointer brings back the symbol of a new arrow.
   void SetMarkerSymbol(SysUtility::_ptr_t<SysDisplay::MarkerSymbol> const& symbol);
   SysUtility::_ptr_t<SysDisplay::MarkerSymbol> GetMarkerSymbol() const;
 
-  bool pointsToTrueNorth() const { return trueNorth_; }
-  void setPointsToTrueNorth(bool on) { trueNorth_ = on; }
-
 private:
-  SysUtility::_ptr_t<SysDisplay::MarkerSymbol> symbol_;  // empty for that of a new arrow
-  bool trueNorth_ = false;
+  friend struct NorthArrowSettings;
+  struct Private;
+  std::unique_ptr<Private> d;
 };
 
 }  // namespace SysCarto

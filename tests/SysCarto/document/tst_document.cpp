@@ -2,6 +2,9 @@
 #include "Json.h"
 #include "Elements.h"
 
+#include "host/SysCarto/document/DocumentFields.h"
+#include "host/SysUtility/FieldTree.h"
+
 #include <SysCarto/Editor.h>
 #include <SysCarto/Graticule.h>
 #include <SysCarto/MapDocument.h>
@@ -40,6 +43,25 @@ _ptr_t<MapFrameElement> frameOf(QString const& name, QString const& coordinateSy
 template <class Surround>
 _ptr_t<MapSurroundFrame> surround(_ptr_t<Map> const& map) {
   return in(surroundOf<Surround>(map), 1.0, 2.0, 6.5, 4.1);
+}
+
+// The keys of fields that nobody explains, with the path to them; `count` tells how many fields there are.
+QStringList unexplained(QVector<SysUtility::FieldInfo> const& fields, QString const& path, QString const& manual,
+                        int& count) {
+  QStringList keys;
+  for (SysUtility::FieldInfo const& info : fields) {
+    ++count;
+    QString const key = QLatin1String(info.field.key), inner = path + key + '/';
+    bool const isSentence = QString(info.field.help).endsWith('.') && QString(info.field.caption) != "";
+    if (!isSentence || !manual.contains('`' + key + '`')) keys << path + key;
+    for (SysUtility::Choice const& choice : info.choices)
+      if (QString(choice.caption).isEmpty() || !manual.contains(QLatin1String(choice.name)))
+        keys << inner + choice.name;
+    keys += unexplained(info.fields, inner, manual, count);
+    for (int i = 0; i < info.variants.size(); ++i)
+      keys += unexplained(info.variants[i], inner + info.choices[i].name + '/', manual, count);
+  }
+  return keys;
 }
 
 // A page with one of everything that refers to something else, and with numbers that no short decimal hits.
@@ -233,6 +255,17 @@ private slots:
     QCOMPARE(document.GetWarnings().size(), 1);
     QCOMPARE(document.GetUnreadableSourceCount(), 1);
     QCOMPARE(document.GetPageLayout()->GetGraphicsContainer()->GetElements().size(), 3);
+  }
+
+  void everyFieldIsExplainedToPeopleAndInTheManual() {
+    DocumentContent content;
+    DocumentContext context;
+    SysUtility::FieldTree tree;
+    content.list(tree, context);
+    QString const manual = QString::fromUtf8(contentOf(PLOTVANE_SOURCE_DIR "/docs/document-format.md"));
+    int count = 0;
+    QCOMPARE(unexplained(tree.fields(), QString(), manual, count), QStringList());
+    QVERIFY2(count > 500, qPrintable(QString::number(count)));
   }
 
   void elementsWithoutAHandleGetOneThatIsFree() {

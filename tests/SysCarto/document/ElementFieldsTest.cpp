@@ -1,13 +1,14 @@
 #include "Elements.h"
 #include "Json.h"
 
-#include "host/SysCarto/document/ElementArchive.h"
-#include "host/SysCarto/elements/PictureElement.h"
+#include "host/SysCarto/document/ElementFields.h"
+#include "host/SysUtility/JsonFields.h"
 
 #include <QJsonDocument>
 
-using namespace SysCarto;
-using SysUtility::Archive;
+      using namespace SysCarto;
+using SysUtility::JsonReader;
+using SysUtility::JsonWriter;
 
 namespace {
 
@@ -26,7 +27,7 @@ QByteArray nested(int depth) {
 
 }  // namespace
 
-class ElementArchiveTest : public QObject {
+class ElementFieldsTest : public QObject {
   Q_OBJECT
 
 private slots:
@@ -57,14 +58,14 @@ private slots:
     QJsonObject const stored = json("{'handle':3," + fields + "}");
     DocumentContext context = contextWith(2);
     _ptr_t<Element> element;
-    Archive reader(stored);
-    describeElement(reader, element, context);
+    JsonReader reader(stored);
+    listElement(reader, element, {context});
     QCOMPARE(reader.error(), QString());
     QCOMPARE(reader.warnings(), QStringList());
     QVERIFY(element && element->GetHandle() == 3);
     context.framedMaps.clear();
-    Archive writer;
-    describeElement(writer, element, context);
+    JsonWriter writer;
+    listElement(writer, element, {context});
     QCOMPARE(writer.error(), QString());
     QCOMPARE(QJsonDocument(writer.json()).toJson(), QJsonDocument(stored).toJson());
   }
@@ -103,12 +104,12 @@ private slots:
     auto const [stored, says] = fetched<QByteArray, QString>();
     DocumentContext context = contextWith(2);
     context.handles << 7;
-    context.framedMaps << context.maps[0].get();
+    context.framedMaps << 0;
     _ptr_t<Element> element;
-    Archive archive(json(stored));
-    describeElement(archive, element, context);
-    QVERIFY2(archive.error().contains(says), qPrintable(archive.error()));
-    QCOMPARE(archive.ok() && element, says.isEmpty());
+    JsonReader reader(json(stored));
+    listElement(reader, element, {context});
+    QVERIFY2(reader.error().contains(says), qPrintable(reader.error()));
+    QCOMPARE(reader.ok() && element, says.isEmpty());
   }
 
   void picturePathsFollowTheDocument() {
@@ -118,12 +119,12 @@ private slots:
     _ptr_t<Element> element = picture;
     for (bool relative : {true, false}) {
       context.relativePaths = relative;
-      Archive writer;
-      describeElement(writer, element, context);
+      JsonWriter writer;
+      listElement(writer, element, {context});
       QCOMPARE(writer.json()["path"].toString(), QString(relative ? "logos/a.png" : "/documents/logos/a.png"));
       _ptr_t<Element> read;
-      Archive reader(writer.json());
-      describeElement(reader, read, context);
+      JsonReader reader(writer.json());
+      listElement(reader, read, {context});
       QCOMPARE(ptr_cast<PictureElement>(read)->path(), picture->path());
     }
   }
@@ -141,21 +142,23 @@ private slots:
   }
   void storesThePage() {
     auto const [stored, says, sizeCm] = fetched<QByteArray, QString, QSizeF>();
-    Page page;
-    Archive reader(json(stored));
-    describePage(reader, page);
+    JsonReader reader(json(stored));
+    PageSettings settings;
+    settings.list(reader);
     QVERIFY2(says.isEmpty() ? reader.ok() : reader.error().contains(says), qPrintable(reader.error()));
     if (!says.isEmpty()) return;
+    Page page;
+    settings.applyTo(page);
     double width, height;
     page.QuerySize(width, height);
     QVERIFY(std::abs(width - sizeCm.width()) < 1e-9 && std::abs(height - sizeCm.height()) < 1e-9);
     QCOMPARE(bool(page.GetBackground()), stored.contains("background"));
-    Archive writer;
-    describePage(writer, page);
+    JsonWriter writer;
+    PageSettings::of(page).list(writer);
     QCOMPARE(writer.error(), QString());
     QCOMPARE(writer.json(), json(stored));
   }
 };
 
-QTEST_MAIN(ElementArchiveTest)
-#include "ElementArchiveTest.moc"
+QTEST_MAIN(ElementFieldsTest)
+#include "ElementFieldsTest.moc"

@@ -3,14 +3,18 @@
 
 #include "host/SysDisplay/SvgCheck.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
-#include "host/SysDisplay/SymbolArchive.h"
+#include "host/SysDisplay/SymbolFields.h"
+#include "host/SysUtility/JsonFields.h"
 
 #include <SysDisplay/SimpleLineSymbol.h>
 
 using namespace SysDisplay;
-using SysUtility::Archive;
+using SysUtility::JsonReader;
+using SysUtility::JsonWriter;
 
 namespace {
+
+constexpr SysUtility::Field symbolField{"symbol", "", ""};
 
 QByteArray svg(QByteArray const& inside, QByteArray const& before = QByteArray()) {
   return before +
@@ -20,7 +24,7 @@ QByteArray svg(QByteArray const& inside, QByteArray const& before = QByteArray()
 
 }  // namespace
 
-class SymbolArchiveTest : public QObject {
+class SymbolFieldsTest : public QObject {
   Q_OBJECT
 
 private slots:
@@ -46,15 +50,15 @@ private slots:
   void everySymbolComesBackAsItWas() {
     auto const [stored] = fetched<QByteArray>();
     QJsonObject const expected{{"symbol", json(stored)}};
-    Archive reading(expected);
+    JsonReader reading(expected);
     _ptr_t<Symbol> symbol;
-    describeOptionalSymbol(reading, "symbol", symbol);
+    listOptionalSymbol(reading, symbolField, symbol);
     QCOMPARE(reading.error(), QString());
     QCOMPARE(reading.warnings(), QStringList());
     QVERIFY(symbol);
-    Archive writing;
+    JsonWriter writing;
     auto clone = symbol->Clone();
-    describeOptionalSymbol(writing, "symbol", clone);
+    listOptionalSymbol(writing, symbolField, clone);
     QCOMPARE(writing.json(), expected);
   }
 
@@ -73,29 +77,29 @@ private slots:
   }
   void badValuesAreNamed() {
     auto const [stored, problem] = fetched<QByteArray, QString>();
-    Archive archive(QJsonObject{{QStringLiteral("symbol"), json(stored)}});
+    JsonReader reader(QJsonObject{{QStringLiteral("symbol"), json(stored)}});
     auto const before = make<SimpleLineSymbol>();
     _ptr_t<LineSymbol> symbol = before;
-    describeSymbol(archive, "symbol", symbol);
-    QVERIFY2(archive.error().startsWith(problem), qPrintable(archive.error()));
+    listSymbol(reader, symbolField, symbol);
+    QVERIFY2(reader.error().startsWith(problem), qPrintable(reader.error()));
     QVERIFY(symbol == before);
   }
 
   void nestedProblemsHaveTheirPath() {
-    Archive archive(json("{'type':'simpleFill','outline':{'type':'simpleLine','cap':'pointed'}}"));
+    JsonReader reader(json("{'symbol':{'type':'simpleFill','outline':{'type':'simpleLine','cap':'pointed'}}}"));
     _ptr_t<Symbol> symbol;
-    describeSymbolHere(archive, symbol);
-    QVERIFY2(archive.error().startsWith(QStringLiteral("outline.cap: ")), qPrintable(archive.error()));
+    listSymbol(reader, symbolField, symbol);
+    QVERIFY2(reader.error().startsWith(QStringLiteral("symbol.outline.cap: ")), qPrintable(reader.error()));
     QVERIFY(!symbol);
   }
 
   void missingOptionalSymbolIsNone() {
-    Archive reading(QJsonObject{});
+    JsonReader reading(QJsonObject{});
     _ptr_t<LineSymbol> symbol = make<SimpleLineSymbol>();
-    describeOptionalSymbol(reading, "border", symbol);
+    listOptionalSymbol(reading, symbolField, symbol);
     QVERIFY(reading.ok() && !symbol);
-    Archive writing;
-    describeOptionalSymbol(writing, "border", symbol);
+    JsonWriter writing;
+    listOptionalSymbol(writing, symbolField, symbol);
     QVERIFY(writing.ok() && writing.json().isEmpty());
   }
 
@@ -159,5 +163,5 @@ private slots:
   }
 };
 
-QTEST_MAIN(SymbolArchiveTest)
-#include "SymbolArchiveTest.moc"
+QTEST_MAIN(SymbolFieldsTest)
+#include "SymbolFieldsTest.moc"

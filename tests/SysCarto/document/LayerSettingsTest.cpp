@@ -1,10 +1,10 @@
 #include "Json.h"
 #include "LayerFixture.h"
 
-#include "host/SysCarto/document/LayerArchive.h"
+#include "host/SysCarto/document/LayerSettings.h"
+#include "host/SysUtility/JsonFields.h"
 
 using namespace SysCarto;
-using SysUtility::Archive;
 
 namespace {
 
@@ -35,23 +35,23 @@ Read read(QByteArray const& stored) {
   result.context.folder = sample("");
   auto const map = make<Map>();
   map->SetCoordinateSystem("EPSG:8857");
-  Archive archive(json(stored));
-  describeLayer(archive, result.layer, *map, result.context);
-  result.error = archive.error();
-  result.unknown = archive.warnings();
+  SysUtility::JsonReader reader(json(stored));
+  listLayer(reader, result.layer, *map, result.context);
+  result.error = reader.error();
+  result.unknown = reader.warnings();
   return result;
 }
 
 QJsonObject stored(Read& read) {
-  Archive archive;
+  SysUtility::JsonWriter writer;
   auto const map = make<Map>();
-  describeLayer(archive, read.layer, *map, read.context);
-  return archive.json();
+  listLayer(writer, read.layer, *map, read.context);
+  return writer.json();
 }
 
 }  // namespace
 
-class LayerArchiveTest : public QObject {
+class LayerSettingsTest : public QObject {
   Q_OBJECT
 
 private slots:
@@ -151,5 +151,5 @@ private slots:
   }
 };
 
-QTEST_MAIN(LayerArchiveTest)
-#include "LayerArchiveTest.moc"
+QTEST_MAIN(LayerSettingsTest)
+#include "LayerSettingsTest.moc"

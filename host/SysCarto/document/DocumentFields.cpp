@@ -1,0 +1,189 @@
+#include "DocumentFields.h"
+
+#include "ElementFields.h"
+
+#include "host/SysCarto/document/LayerSettings.h"
+#include "host/SysCarto/maps/MapLimits.h"
+#include "host/SysCarto/projection/CoordinateSystem.h"
+#include "host/SysUtility/JsonFile.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace SysCarto {
+
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::Fields;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+using SysUtility::TextKind;
+using SysUtility::Unit;
+
+namespace {
+
+constexpr int documentVersion = 1;
+constexpr int maxMaps = 1000, maxLayers = 10000;
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(MapDocument)
+};
+
+// Elements without a handle get one before a container sees them: it would take the next one for itself, and that may
+// be the handle of an element further on in the list.
+void giveHandles(QList<_ptr_t<Element>> const& elements) {
+  ElementHandle highest = 0;
+  for (auto const& element : elements) highest = std::max(highest, element->GetHandle());
+  for (auto const& element : elements)
+    if (element->GetHandle() == 0) element->setHandle(++highest);
+}
+
+// The elements of a page or a map. Reading adds them to the container.
+void listElementsOf(Fields& fields, SysUtility::Field const& field, IElementContainer& container,
+                    ElementScope const& scope) {
+  auto elements = fields.isReading() ? QList<_ptr_t<Element>>() : container.GetElements();
+  listElements(fields, field, elements, scope);
+  if (!fields.isReading() || !fields.ok()) return;
+  giveHandles(elements);
+  container.AddElements(elements);
+}
+
+// What a document stores of a map, beside its layers and graphics.
+struct MapSettings {
+  QString name;
+  QString coordinateSystem;
+  double bounds[4] = {0, 0, 0, 0};
+
+  static MapSettings of(Map const& map) {
+    MapSettings settings{map.GetName(), map.GetCoordinateSystem()};
+    map.GetStoredBounds().QueryCoords(settings.bounds[0], settings.bounds[1], settings.bounds[2], settings.bounds[3]);
+    return settings;
+  }
+
+  void list(Fields& fields) {
+    fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"), QT_TRANSLATE_NOOP("Fields", "What the map is called.")},
+                name, TextKind::Line);
+    fields.text({"coordinateSystem", QT_TRANSLATE_NOOP("Fields", "Coordinate system"),
+                 QT_TRANSLATE_NOOP("Fields", "That of the map, as a code (“EPSG:8857”), WKT or a PROJ text.")},
+                coordinateSystem, TextKind::CoordinateSystem, QString());
+    QString const problem = fields.isReading() && fields.ok() ? checkCoordinateSystem(coordinateSystem) : QString();
+    if (!problem.isEmpty()) fields.fail("coordinateSystem", problem);
+    fields.numbers({"bounds", QT_TRANSLATE_NOOP("Fields", "Extent"),
+                    QT_TRANSLATE_NOOP("Fields", "What the map shows: its left, lower, right and upper side.")},
+                   bounds, SysUtility::NumbersKind::Rectangle,
+                   {-farthestMapCoordinate, farthestMapCoordinate, Unit::MapUnit});
+    if (!fields.isReading() || !fields.ok()) return;
+    if (bounds[2] - bounds[0] < smallestMapExtent || bounds[3] - bounds[1] < smallestMapExtent)
+      fields.fail("bounds", Texts::tr("must be xmin, ymin, xmax, ymax, with xmin < xmax and ymin < ymax"));
+  }
+
+  void applyTo(Map& map) const {
+    map.SetName(name);
+    map.SetCoordinateSystem(coordinateSystem);
+    map.SetExtent(make<Envelope>(bounds[0], bounds[1], bounds[2], bounds[3]));
+  }
+};
+
+void listLayers(Fields& fields, Map& map, DocumentContext& context) {
+  QList<_ptr_t<Layer>> layers = fields.isReading() ? QList<_ptr_t<Layer>>() : map.GetLayers();
+  fields.list({"layers", QT_TRANSLATE_NOOP("Fields", "Layers"),
+               QT_TRANSLATE_NOOP("Fields", "The layers of the map, the lowest first.")},
+              layers, maxLayers, [&](Fields& own, _ptr_t<Layer>& layer, int) { listLayer(own, layer, map, context); });
+  if (!fields.isReading() || !fields.ok()) return;
+  for (_ptr_t<Layer> const& layer : qAsConst(layers)) map.AddLayer(layer);
+}
+
+void listPage(Fields& fields, PageLayout& layout) {
+  Page const* const page = fields.isReading() ? nullptr : layout.GetPage();
+  PageSettings settings = page ? PageSettings::of(*page) : PageSettings();
+  bool const isThere =
+      fields.optionalObject({"page", QT_TRANSLATE_NOOP("Fields", "Page"), QT_TRANSLATE_NOOP("Fields", "The sheet.")},
+                            page != nullptr, [&](Fields& own) { settings.list(own); });
+  if (!fields.isReading() || !fields.ok()) return;
+  auto const made = isThere ? make<Page>() : nullptr;
+  if (made) settings.applyTo(*made);
+  layout.SetPage(made);
+}
+
+void listLayout(Fields& fields, PageLayout& layout, DocumentContext const& context) {
+  bool alignToMargins = layout.GetAlignToMargins();
+  int focus = std::max(0, context.maps.indexOf(layout.GetFocusMap()));
+  fields.optionalObject(
+      {"layout", QT_TRANSLATE_NOOP("Fields", "Layout"), QT_TRANSLATE_NOOP("Fields", "Settings of the layout.")},
+      alignToMargins || focus > 0, [&](Fields& own) {
+        own.flag({"alignToMargins", QT_TRANSLATE_NOOP("Fields", "Align to margins"),
+                  QT_TRANSLATE_NOOP("Fields", "Whether the alignment commands align to the page.")},
+                 alignToMargins, false);
+        own.integer({"focusMap", QT_TRANSLATE_NOOP("Fields", "Focus map"),
+                     QT_TRANSLATE_NOOP("Fields", "The number of the map that new surrounds follow.")},
+                    focus, 0, std::max(0, context.maps.size() - 1), 0);
+      });
+  if (!fields.isReading() || !fields.ok()) return;
+  layout.SetAlignToMargins(alignToMargins);
+  if (!context.maps.isEmpty()) layout.SetFocusMap(context.maps.at(focus));
+}
+
+void noteUnusedMaps(PageLayout const& layout, DocumentContext& context) {
+  auto const used = mapsOf(layout);
+  for (int i = 0; i < context.maps.size(); ++i)
+    if (!used.contains(context.maps.at(i)))
+      context.warnings << Texts::tr(
+                              "maps[%1]: no data frame shows this map; it is left out and will be missing after "
+                              "the next save")
+                              .arg(i);
+}
+
+}  // namespace
+
+// A surround keeps the map that it follows, also after its data frame was deleted.
+QList<_ptr_t<Map>> mapsOf(PageLayout const& layout) {
+  QList<_ptr_t<Map>> maps;
+  layout.GetMaps(maps);
+  for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
+    auto const frame = ptr_cast<MapSurroundFrame>(element);
+    auto const surround = frame ? frame->GetMapSurround() : nullptr;
+    auto const map = surround ? surround->GetMap() : nullptr;
+    if (map && !maps.contains(map)) maps << map;
+  }
+  return maps;
+}
+
+void listMap(Fields& fields, _ptr_t<Map>& map, DocumentContext& context) {
+  bool const isPresent = map && !fields.isReading();
+  MapSettings settings = isPresent ? MapSettings::of(*map) : MapSettings();
+  settings.list(fields);
+  auto const listed = isPresent ? map : make<Map>();
+  if (fields.isReading() && fields.ok()) settings.applyTo(*listed);
+  listLayers(fields, *listed, context);
+  auto const handlesOfPage = std::exchange(context.handles, {});
+  listElementsOf(fields,
+                 {"graphics", QT_TRANSLATE_NOOP("Fields", "Graphics"),
+                  QT_TRANSLATE_NOOP("Fields", "Elements that lie on the map, in map units.")},
+                 *listed->GetGraphicsContainer(), {context, true});
+  context.handles = handlesOfPage;
+  if (fields.isReading() && fields.ok()) map = listed;
+}
+
+void DocumentContent::list(Fields& fields, DocumentContext& context) {
+  listFormat(fields, {"plotvane-document", documentVersion, Texts::tr("is not “%1”, so this is no map document"),
+                      Texts::tr("the document was written by a newer version of Plotvane, as version %1; "
+                                "update Plotvane, or save it there as version %2")
+                          .arg(QStringLiteral("%1"), QString::number(documentVersion))});
+  if (!fields.ok()) return;
+  if (fields.isReading() || !layout) layout = make<PageLayout>();
+  fields.flag({"relativePaths", QT_TRANSLATE_NOOP("Fields", "Relative paths"),
+               QT_TRANSLATE_NOOP("Fields", "Whether files are named relative to the document.")},
+              relativePaths, true);
+  fields.list(
+      {"maps", QT_TRANSLATE_NOOP("Fields", "Maps"), QT_TRANSLATE_NOOP("Fields", "The maps of the data frames.")},
+      context.maps, maxMaps, [&](Fields& own, _ptr_t<Map>& map, int) { listMap(own, map, context); });
+  listPage(fields, *layout);
+  listElementsOf(fields,
+                 {"elements", QT_TRANSLATE_NOOP("Fields", "Elements"),
+                  QT_TRANSLATE_NOOP("Fields", "What lies on the page, the lowest first.")},
+                 *layout->GetGraphicsContainer(), {context});
+  if (fields.ok()) listLayout(fields, *layout, context);
+  if (fields.isReading() && fields.ok()) noteUnusedMaps(*layout, context);
+}
+
+}  // namespace SysCarto

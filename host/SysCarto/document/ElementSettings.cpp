@@ -1,0 +1,260 @@
+#include "ElementSettings.h"
+
+#include "ElementFields.h"
+
+#include "host/SysCarto/document/SurroundFields.h"
+#include "host/SysDisplay/SymbolFields.h"
+
+#include <SysCarto/Graticule.h>
+
+#include <QDir>
+
+#include <algorithm>
+#include <cmath>
+
+namespace SysCarto {
+
+using SysDisplay::listOptionalSymbol;
+using SysGeometry::Envelope;
+using SysGeometry::Point;
+using SysGeometry::Polygon;
+using SysGeometry::Polyline;
+using SysUtility::_ptr_t;
+using SysUtility::Field;
+using SysUtility::Fields;
+using SysUtility::make;
+using SysUtility::NumbersKind;
+using SysUtility::ptr_cast;
+using SysUtility::Range;
+using SysUtility::TextKind;
+using SysUtility::Unit;
+
+namespace {
+
+constexpr Range onPage{-10000, 10000, Unit::Centimetre};
+constexpr double farthestAnywhere = 1e12;  // graphics lie on maps, too, in map units
+constexpr int maxMembers = 100000, maxRings = 100000, maxGrids = 100;
+constexpr int maxDepth = 16;
+
+Range anywhere(ElementScope const& scope) {
+  return {-farthestAnywhere, farthestAnywhere, scope.onMap ? Unit::MapUnit : Unit::Centimetre};
+}
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(ElementSettings)
+};
+
+void listPoints(Fields& fields, QVector<QPointF>& points, int fewest) {
+  QVector<double> flat;
+  for (QPointF const& point : qAsConst(points)) flat << point.x() << point.y();
+  fields.coordinates({"points", QT_TRANSLATE_NOOP("Fields", "Points"),
+                      QT_TRANSLATE_NOOP("Fields", "The vertices: x and y of the first, of the second, and so on.")},
+                     flat);
+  if (!fields.ok()) return;
+  if (flat.size() < 2 * fewest) return fields.fail("points", Texts::tr("needs at least %1 points").arg(fewest));
+  if (std::any_of(flat.begin(), flat.end(), [](double value) { return std::abs(value) > farthestAnywhere; }))
+    return fields.fail("points", Texts::tr("holds a coordinate beyond %1").arg(farthestAnywhere));
+  points.clear();
+  for (int i = 0; i + 1 < flat.size(); i += 2) points << QPointF(flat[i], flat[i + 1]);
+}
+
+void listPosition(Fields& fields, double* position, ElementScope const& scope) {
+  fields.numbers({"position", QT_TRANSLATE_NOOP("Fields", "Position"),
+                  QT_TRANSLATE_NOOP("Fields", "The point at which it stands, from the lower left corner.")},
+                 position, NumbersKind::Point, anywhere(scope));
+}
+
+template <class S>
+void listSymbolOf(Fields& fields, _ptr_t<S>& symbol) {
+  listOptionalSymbol(fields,
+                     {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"),
+                      QT_TRANSLATE_NOOP("Fields", "How it is drawn; without a symbol it is not.")},
+                     symbol);
+}
+
+}  // namespace
+
+PointSettings PointSettings::of(MarkerElement const& marker, ElementScope const&) {
+  return {{marker.shape()->GetX(), marker.shape()->GetY()}, marker.symbol()};
+}
+
+void PointSettings::list(Fields& fields, ElementScope const& scope) {
+  listPosition(fields, position, scope);
+  listSymbolOf(fields, symbol);
+}
+
+void PointSettings::applyTo(MarkerElement& marker, ElementScope const&) const {
+  marker.setShape(make<Point>(position[0], position[1], 0.0));
+  marker.setSymbol(symbol);
+}
+
+LineSettings LineSettings::of(LineElement const& line, ElementScope const&) {
+  return {line.shape()->GetPoints(), line.symbol()};
+}
+
+void LineSettings::list(Fields& fields, ElementScope const&) {
+  listPoints(fields, points, 2);
+  listSymbolOf(fields, symbol);
+}
+
+void LineSettings::applyTo(LineElement& line, ElementScope const&) const {
+  line.setShape(make<Polyline>(points));
+  line.setSymbol(symbol);
+}
+
+PolygonSettings PolygonSettings::of(PolygonElement const& polygon, ElementScope const&) {
+  return {polygon.shape()->GetRings(), polygon.symbol()};
+}
+
+void PolygonSettings::list(Fields& fields, ElementScope const&) {
+  fields.list({"rings", QT_TRANSLATE_NOOP("Fields", "Rings"),
+               QT_TRANSLATE_NOOP("Fields", "Closed lines that bound the area; one within another is a hole.")},
+              rings, maxRings, [](Fields& own, QVector<QPointF>& ring, int) { listPoints(own, ring, 3); });
+  if (fields.ok() && rings.isEmpty()) fields.fail("rings", Texts::tr("needs at least one ring"));
+  listSymbolOf(fields, symbol);
+}
+
+void PolygonSettings::applyTo(PolygonElement& polygon, ElementScope const&) const {
+  polygon.setShape(make<Polygon>(rings));
+  polygon.setSymbol(symbol);
+}
+
+RectangleSettings RectangleSettings::of(Envelope const& rectangle) {
+  RectangleSettings settings;
+  rectangle.QueryCoords(settings.sides[0], settings.sides[1], settings.sides[2], settings.sides[3]);
+  return settings;
+}
+
+void RectangleSettings::list(Fields& fields, Range const& range) {
+  fields.numbers({"rectangle", QT_TRANSLATE_NOOP("Fields", "Rectangle"),
+                  QT_TRANSLATE_NOOP("Fields", "Its left, lower, right and upper side, from the lower left corner.")},
+                 sides, NumbersKind::Rectangle, range);
+  if (fields.ok() && (sides[0] > sides[2] || sides[1] > sides[3]))
+    fields.fail("rectangle", Texts::tr("must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax"));
+}
+
+_ptr_t<Envelope> RectangleSettings::envelope() const { return make<Envelope>(sides[0], sides[1], sides[2], sides[3]); }
+
+void FilledSettings::list(Fields& fields, ElementScope const& scope) {
+  rectangle.list(fields, anywhere(scope));
+  listSymbolOf(fields, symbol);
+}
+
+TextElementSettings TextElementSettings::of(TextElement const& element, ElementScope const&) {
+  auto const at = ptr_cast<Point>(element.GetGeometry());
+  return {{at->GetX(), at->GetY()}, element.text(), element.angle(), element.symbol()};
+}
+
+void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
+  listPosition(fields, position, scope);
+  fields.text({"text", QT_TRANSLATE_NOOP("Fields", "Text"), QT_TRANSLATE_NOOP("Fields", "What it says.")}, text,
+              TextKind::Lines);
+  fields.number({"angle", QT_TRANSLATE_NOOP("Fields", "Angle"),
+                 QT_TRANSLATE_NOOP("Fields", "How far the text is turned counterclockwise about its position.")},
+                angle, {-360, 360, Unit::Degree}, 0.0);
+  listSymbol(fields,
+             {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"), QT_TRANSLATE_NOOP("Fields", "How the letters look.")},
+             symbol);
+}
+
+void TextElementSettings::applyTo(TextElement& element, ElementScope const&) const {
+  element.setPosition(position[0], position[1]);
+  element.setText(text);
+  element.setAngle(angle);
+  element.setSymbol(symbol);
+}
+
+PictureSettings PictureSettings::of(PictureElement const& picture, ElementScope const& scope) {
+  QString const path = picture.path();
+  bool const relates = scope.context.relativePaths && !path.isEmpty();
+  return {RectangleSettings::of(*picture.shape()), relates ? QDir(scope.context.folder).relativeFilePath(path) : path};
+}
+
+void PictureSettings::list(Fields& fields, ElementScope const& scope) {
+  rectangle.list(fields, anywhere(scope));
+  fields.text({"path", QT_TRANSLATE_NOOP("Fields", "File"),
+               QT_TRANSLATE_NOOP("Fields", "The file of the picture (PNG, JPEG or SVG), relative to the document.")},
+              path, TextKind::File);
+}
+
+void PictureSettings::applyTo(PictureElement& picture, ElementScope const& scope) const {
+  picture.setShape(rectangle.envelope());
+  picture.setPath(path.isEmpty() ? QString() : QDir::cleanPath(QDir(scope.context.folder).absoluteFilePath(path)));
+  if (path.isEmpty() || picture.problem().isEmpty()) return;
+  ++scope.context.unreadableSources;
+  scope.context.warnings << picture.problem();
+}
+
+GroupSettings GroupSettings::of(GroupElement const& group, ElementScope const&) { return {group.GetElements()}; }
+
+void GroupSettings::list(Fields& fields, ElementScope const& scope) {
+  if (scope.depth >= maxDepth)
+    return fields.fail(nullptr, Texts::tr("groups are nested more than %1 deep").arg(maxDepth));
+  ElementScope const inner{scope.context, scope.onMap, scope.depth + 1};
+  fields.list(
+      {"members", QT_TRANSLATE_NOOP("Fields", "Members"), QT_TRANSLATE_NOOP("Fields", "The elements of the group.")},
+      members, maxMembers, [&](Fields& own, _ptr_t<Element>& member, int) { listElement(own, member, inner); });
+  if (fields.ok() && members.isEmpty()) fields.fail("members", Texts::tr("needs at least one element"));
+}
+
+void GroupSettings::applyTo(GroupElement& group, ElementScope const&) const {
+  for (_ptr_t<Element> const& member : members) group.AddElement(member);
+}
+
+MapFrameSettings MapFrameSettings::of(MapFrameElement const& element, ElementScope const& scope) {
+  MapFrameSettings settings{mapNumber(element.GetMap(), scope.context),
+                            element.IsLocked(),
+                            RectangleSettings::of(*element.GetEnvelope()),
+                            FrameSettings::of(element),
+                            {}};
+  for (int i = 0; i < element.GetMapGridCount(); ++i) settings.grids << element.GetMapGrid(i);
+  return settings;
+}
+
+void MapFrameSettings::list(Fields& fields, ElementScope const& scope) {
+  listMapNumber(fields, map, scope.context, true);
+  if (fields.ok() && scope.context.framedMaps.contains(map))
+    return fields.fail("map", Texts::tr("another data frame shows this map already"));
+  scope.context.framedMaps << map;
+  fields.flag({"locked", QT_TRANSLATE_NOOP("Fields", "Locked"),
+               QT_TRANSLATE_NOOP("Fields", "Whether the mouse leaves the data frame and its map alone.")},
+              locked, false);
+  rectangle.list(fields, onPage);
+  frame.list(fields);
+  fields.list({"grids", QT_TRANSLATE_NOOP("Fields", "Grids"), QT_TRANSLATE_NOOP("Fields", "Grids over the map.")},
+              grids, maxGrids, [](Fields& own, _ptr_t<IMapGrid>& grid, int) { listGrid(own, grid); });
+}
+
+void MapFrameSettings::applyTo(MapFrameElement& element, ElementScope const& scope) const {
+  frame.applyTo(element);
+  for (_ptr_t<IMapGrid> const& grid : grids) element.AddMapGrid(grid);
+  element.SetMap(scope.context.maps.value(map));
+  element.SetLocked(locked);
+  element.SetGeometry(rectangle.envelope());
+  for (_ptr_t<IMapGrid> const& grid : grids) {
+    QString const problem = grid->problemOn(element);
+    if (!problem.isEmpty()) scope.context.warnings << problem;
+  }
+}
+
+SurroundFrameSettings SurroundFrameSettings::of(MapSurroundFrame const& element, ElementScope const&) {
+  return {RectangleSettings::of(*element.GetEnvelope()), FrameSettings::of(element), element.GetMapSurround()};
+}
+
+void SurroundFrameSettings::list(Fields& fields, ElementScope const& scope) {
+  rectangle.list(fields, onPage);
+  frame.list(fields);
+  bool const isThere = fields.optionalObject(
+      {"surround", QT_TRANSLATE_NOOP("Fields", "Map surround"),
+       QT_TRANSLATE_NOOP("Fields", "What explains the map: a legend, a scale bar, a scale text or a north arrow.")},
+      bool(surround), [&](Fields& own) { listSurround(own, surround, scope.context); });
+  if (fields.isReading() && !isThere) surround = nullptr;
+}
+
+void SurroundFrameSettings::applyTo(MapSurroundFrame& element, ElementScope const&) const {
+  frame.applyTo(element);
+  element.SetGeometry(rectangle.envelope());
+  if (surround) element.SetMapSurround(surround);
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,191 @@
+#include "FrameSettings.h"
+
+#include "host/SysCarto/layout/PageLimits.h"
+#include "host/SysDisplay/SymbolFields.h"
+
+#include <utility>
+
+namespace SysCarto {
+
+using SysDisplay::listOptionalSymbol;
+using SysUtility::_ptr_t;
+using SysUtility::Choice;
+using SysUtility::Field;
+using SysUtility::Fields;
+using SysUtility::NumbersKind;
+using SysUtility::ptr_cast;
+using SysUtility::Unit;
+
+namespace {
+
+constexpr double maxPt = 1000;
+constexpr SysUtility::Range distances{-maxPt, maxPt, Unit::Point};
+constexpr SysUtility::Range pageSides{minPageSideCm, maxPageSideCm, Unit::Centimetre};
+constexpr short portrait = 1, landscape = 2;
+
+constexpr Choice orientations[] = {{portrait, "portrait", QT_TRANSLATE_NOOP("Fields", "Portrait")},
+                                   {landscape, "landscape", QT_TRANSLATE_NOOP("Fields", "Landscape")}};
+
+void listGap(Fields& fields, double& gap) {
+  fields.number({"gap", QT_TRANSLATE_NOOP("Fields", "Gap"),
+                 QT_TRANSLATE_NOOP("Fields", "How far it stands outside the frame; inside where it is negative.")},
+                gap, distances, 0.0);
+}
+
+void listRounding(Fields& fields, double& rounding) {
+  fields.number({"rounding", QT_TRANSLATE_NOOP("Fields", "Rounding"),
+                 QT_TRANSLATE_NOOP("Fields", "How round the corners are: 0 is square, 100 as round as they can be.")},
+                rounding, {0, 100, Unit::Percent}, 0.0);
+}
+
+void listFill(Fields& fields, _ptr_t<SysDisplay::FillSymbol>& symbol) {
+  listOptionalSymbol(fields,
+                     {"symbol", QT_TRANSLATE_NOOP("Fields", "Fill"), QT_TRANSLATE_NOOP("Fields", "How it is filled.")},
+                     symbol);
+}
+
+// A part of a frame as the class that can be stored.
+template <class Stored, class Settings, class Part>
+void listPart(Fields& fields, Field const& field, _ptr_t<Part>& part) {
+  auto const present = ptr_cast<Stored>(part);
+  if (!fields.isReading() && part && !present)
+    return fields.fail(
+        field.key, QCoreApplication::translate("FrameSettings", "a part of a frame of a kind that can't be stored"));
+  Settings settings = present && !fields.isReading() ? Settings::of(*present) : Settings();
+  bool const isThere = fields.optionalObject(field, bool(present), [&](Fields& own) { settings.list(own); });
+  if (!fields.isReading() || !fields.ok()) return;
+  auto const made = isThere ? SysUtility::make<Stored>() : nullptr;
+  if (made) settings.applyTo(*made);
+  part = made;
+}
+
+std::optional<PageFormID> formOf(QString const& key) {
+  FormInfo info;
+  for (PageFormID form = 0; Paper::GetFormInfo(form, info); ++form)
+    if (info.key == key) return form;
+  return std::nullopt;
+}
+
+}  // namespace
+
+BorderSettings BorderSettings::of(SymbolBorder const& border) {
+  return {border.GetLineSymbol(), border.GetGap(), border.GetCornerRounding()};
+}
+
+void BorderSettings::list(Fields& fields) {
+  listOptionalSymbol(
+      fields, {"symbol", QT_TRANSLATE_NOOP("Fields", "Line"), QT_TRANSLATE_NOOP("Fields", "How the border is drawn.")},
+      symbol);
+  listGap(fields, gap);
+  listRounding(fields, rounding);
+}
+
+void BorderSettings::applyTo(SymbolBorder& border) const {
+  border.SetLineSymbol(symbol);
+  border.SetGap(gap);
+  border.SetCornerRounding(rounding);
+}
+
+BackgroundSettings BackgroundSettings::of(SymbolBackground const& background) {
+  return {background.GetFillSymbol(), background.GetGap(), background.GetCornerRounding()};
+}
+
+void BackgroundSettings::list(Fields& fields) {
+  listFill(fields, symbol);
+  listGap(fields, gap);
+  listRounding(fields, rounding);
+}
+
+void BackgroundSettings::applyTo(SymbolBackground& background) const {
+  background.SetFillSymbol(symbol);
+  background.SetGap(gap);
+  background.SetCornerRounding(rounding);
+}
+
+ShadowSettings ShadowSettings::of(SymbolShadow const& shadow) {
+  return {shadow.GetFillSymbol(), {shadow.GetXOffset(), shadow.GetYOffset()}, shadow.GetCornerRounding()};
+}
+
+void ShadowSettings::list(Fields& fields) {
+  listFill(fields, symbol);
+  fields.numbers({"offset", QT_TRANSLATE_NOOP("Fields", "Offset"),
+                  QT_TRANSLATE_NOOP("Fields", "How far the shadow lies to the right and upwards.")},
+                 offset, NumbersKind::Offset, distances);
+  listRounding(fields, rounding);
+}
+
+void ShadowSettings::applyTo(SymbolShadow& shadow) const {
+  shadow.SetFillSymbol(symbol);
+  shadow.SetOffset(offset[0], offset[1]);
+  shadow.SetCornerRounding(rounding);
+}
+
+FrameSettings FrameSettings::of(IFrameProperties const& frame) {
+  return {frame.GetBorder(), frame.GetBackground(), frame.GetShadow()};
+}
+
+void FrameSettings::list(Fields& fields) {
+  listPart<SymbolBorder, BorderSettings>(
+      fields, {"border", QT_TRANSLATE_NOOP("Fields", "Border"), QT_TRANSLATE_NOOP("Fields", "The line around it.")},
+      border);
+  listPart<SymbolBackground, BackgroundSettings>(
+      fields,
+      {"background", QT_TRANSLATE_NOOP("Fields", "Background"), QT_TRANSLATE_NOOP("Fields", "The area behind it.")},
+      background);
+  listPart<SymbolShadow, ShadowSettings>(
+      fields,
+      {"shadow", QT_TRANSLATE_NOOP("Fields", "Shadow"), QT_TRANSLATE_NOOP("Fields", "The shadow that it throws.")},
+      shadow);
+}
+
+void FrameSettings::applyTo(IFrameProperties& frame) const {
+  frame.SetBorder(border);
+  frame.SetBackGround(background);
+  frame.SetShadow(shadow);
+}
+
+PageSettings PageSettings::of(Page const& page) {
+  PageSettings settings;
+  FormInfo info;
+  Paper::GetFormInfo(page.GetFormID(), info);
+  settings.form = info.key;
+  settings.orientation = page.GetOrientation();
+  page.QuerySize(settings.widthCm, settings.heightCm);
+  if (settings.orientation == landscape) std::swap(settings.widthCm, settings.heightCm);
+  settings.frame = FrameSettings::of(page);
+  return settings;
+}
+
+void PageSettings::list(Fields& fields) {
+  fields.text({"form", QT_TRANSLATE_NOOP("Fields", "Paper"),
+               QT_TRANSLATE_NOOP("Fields", "The form of the paper, as in “A4”, or “Custom” for a size of its own.")},
+              form, SysUtility::TextKind::Line);
+  auto const known = formOf(form);
+  if (fields.isReading() && !known)
+    fields.fail("form", QCoreApplication::translate("FrameSettings", "“%1” is not a paper form; “A4” and “Custom” are")
+                            .arg(form.left(64)));
+  if (known.value_or(customPageForm) == customPageForm) {
+    fields.number({"width", QT_TRANSLATE_NOOP("Fields", "Width"),
+                   QT_TRANSLATE_NOOP("Fields", "The width of the sheet when it stands upright.")},
+                  widthCm, pageSides);
+    fields.number({"height", QT_TRANSLATE_NOOP("Fields", "Height"),
+                   QT_TRANSLATE_NOOP("Fields", "The height of the sheet when it stands upright.")},
+                  heightCm, pageSides);
+  }
+  fields.choice<short>({"orientation", QT_TRANSLATE_NOOP("Fields", "Orientation"),
+                        QT_TRANSLATE_NOOP("Fields", "Whether the sheet stands upright or lies.")},
+                       orientation, orientations, portrait);
+  frame.list(fields);
+}
+
+void PageSettings::applyTo(Page& page) const {
+  int const id = formOf(form).value_or(customPageForm);
+  if (id == customPageForm)
+    page.setCustomSize(widthCm, heightCm);
+  else
+    page.SetFormID(id);
+  page.SetOrientation(orientation);
+  frame.applyTo(page);
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,119 @@
+#include "LayerSettings.h"
+
+#include "host/SysCarto/layers/DataSource.h"
+#include "host/SysUtility/Fields.h"
+
+#include <QDir>
+
+namespace SysCarto {
+
+using SysUtility::_ptr_t;
+using SysUtility::Choice;
+using SysUtility::Fields;
+using SysUtility::TextKind;
+
+namespace {
+
+enum Kind { FeatureKind };
+constexpr Choice kinds[] = {{FeatureKind, "feature", QT_TRANSLATE_NOOP("Fields", "Features")}};
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(LayerSettings)
+};
+
+// The path as the document has it, and the one to open. What may not be opened stays as it was written.
+QString storedPath(QString const& file, DocumentContext const& context) {
+  if (!context.relativePaths || context.folder.isEmpty() || !DataSource::refusal(file).isEmpty()) return file;
+  return QDir(context.folder).relativeFilePath(file);
+}
+
+QString pathToOpen(QString const& stored, DocumentContext const& context) {
+  if (!DataSource::refusal(stored).isEmpty()) return stored;
+  return QDir::cleanPath(QDir(context.folder).absoluteFilePath(stored));
+}
+
+void listSource(Fields& fields, SourceSettings& source) {
+  fields.text({"file", QT_TRANSLATE_NOOP("Fields", "File"),
+               QT_TRANSLATE_NOOP("Fields", "The file of the data, relative to the document.")},
+              source.file, TextKind::File);
+  fields.text({"layer", QT_TRANSLATE_NOOP("Fields", "Layer of the file"),
+               QT_TRANSLATE_NOOP("Fields", "Its name in the file; the first one where it is empty.")},
+              source.layer, TextKind::Line, QString());
+  fields.text({"filter", QT_TRANSLATE_NOOP("Fields", "Filter"),
+               QT_TRANSLATE_NOOP("Fields", "A condition on the attributes, as in “population > 1000000”.")},
+              source.filter, TextKind::Condition, QString());
+  fields.text({"coordinateSystem", QT_TRANSLATE_NOOP("Fields", "Coordinate system"),
+               QT_TRANSLATE_NOOP("Fields", "Stands in for that of the file.")},
+              source.coordinateSystem, TextKind::CoordinateSystem, QString());
+}
+
+void open(VectorLayer& layer, SourceSettings const& source, Map const& map, DocumentContext& context) {
+  QStringList warnings;
+  QString const error = layer.open(source, map.GetCoordinateSystem(), warnings);
+  if (!error.isEmpty()) {
+    ++context.unreadableSources;
+    warnings.prepend(error);
+  }
+  for (QString const& warning : warnings) context.warnings << Texts::tr("Layer “%1”: %2").arg(layer.GetName(), warning);
+}
+
+}  // namespace
+
+LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const& context) {
+  LayerSettings settings{layer.source(),         layer.renderer().settings(),
+                         layer.GetName(),        layer.IsVisible(),
+                         layer.storedMinScale(), layer.storedMaxScale(),
+                         layer.labelSettings(),  AnnotationSettings::of(*layer.GetAnnotationProperties())};
+  settings.source.file = storedPath(settings.source.file, context);
+  return settings;
+}
+
+void LayerSettings::list(Fields& fields) {
+  fields.object(
+      {"source", QT_TRANSLATE_NOOP("Fields", "Source"), QT_TRANSLATE_NOOP("Fields", "Where the data come from.")},
+      [this](Fields& own) { listSource(own, source); });
+  fields.object(
+      {"renderer", QT_TRANSLATE_NOOP("Fields", "Symbols"), QT_TRANSLATE_NOOP("Fields", "How features are drawn.")},
+      [this](Fields& own) { renderer.list(own); });
+  fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"), QT_TRANSLATE_NOOP("Fields", "What the layer is called.")},
+              name, TextKind::Line);
+  fields.flag(
+      {"visible", QT_TRANSLATE_NOOP("Fields", "Visible"), QT_TRANSLATE_NOOP("Fields", "Whether the layer shows.")},
+      visible, true);
+  listScaleRange(fields, minScale, maxScale);
+  if (minScale > 0 && maxScale > 0 && minScale > maxScale)
+    fields.fail("minScale", Texts::tr("is larger than maxScale"));
+  fields.optionalObject({"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
+                         QT_TRANSLATE_NOOP("Fields", "Texts at the features; without them, none are written.")},
+                        labels.isUsed(), [this](Fields& own) {
+                          labels.list(own);
+                          annotation.list(own);
+                        });
+}
+
+_ptr_t<Layer> LayerSettings::make(Map const& map, DocumentContext& context) const {
+  auto const layer = SysUtility::make<VectorLayer>(makeRenderer(renderer));
+  layer->SetName(name);
+  layer->SetVisible(visible);
+  layer->SetScaleRange(minScale, maxScale);
+  layer->setLabelSettings(labels);
+  annotation.applyTo(*layer->GetAnnotationProperties());
+  SourceSettings opened = source;
+  opened.file = pathToOpen(source.file, context);
+  open(*layer, opened, map, context);
+  return layer;
+}
+
+void listLayer(Fields& fields, _ptr_t<Layer>& layer, Map const& map, DocumentContext& context) {
+  auto const present = fields.isReading() ? nullptr : SysUtility::ptr_cast<VectorLayer>(layer);
+  if (!fields.isReading() && layer && !present)
+    return fields.fail(nullptr, Texts::tr("is a layer that can't be stored"));
+  LayerSettings settings = present ? LayerSettings::of(*present, context) : LayerSettings();
+  int kind = FeatureKind;
+  fields.variant(
+      {"type", QT_TRANSLATE_NOOP("Fields", "Kind"), QT_TRANSLATE_NOOP("Fields", "What kind of layer it is.")}, kind,
+      kinds, [&](int) { settings.list(fields); });
+  if (fields.isReading() && fields.ok()) layer = settings.make(map, context);
+}
+
+}  // namespace SysCarto

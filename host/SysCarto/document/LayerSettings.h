@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/SysCarto/document/DocumentContext.h"
+#include "host/SysCarto/maps/VectorLayer.h"
+
+#include <SysCarto/Layer.h>
+
+namespace SysCarto {
+
+/// What a document stores of a layer. Its data are not: they are read when the layer is made.
+struct LayerSettings {
+  SourceSettings source;  ///< the file as it is stored: relative to the document where it keeps relative paths
+  RendererSettings renderer;
+  QString name;
+  bool visible = true;
+  double minScale = 0, maxScale = 0;  ///< scale denominators; 0 is no limit
+  LabelSettings labels;
+  AnnotationSettings annotation;
+
+  static LayerSettings of(VectorLayer const& layer, DocumentContext const& context);
+  void list(SysUtility::Fields& fields);
+
+  /// A layer of the map, with its source read. What could not be read is told to the context.
+  SysUtility::_ptr_t<Layer> make(Map const& map, DocumentContext& context) const;
+};
+
+/// A layer of `map` in the visitor's own object. Reading makes a new one.
+SYSCARTO_EXPORT void listLayer(SysUtility::Fields& fields, SysUtility::_ptr_t<Layer>& layer, Map const& map,
+                               DocumentContext& context);
+
+}  // namespace SysCarto

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "host/SysDisplay/TextSymbol.h"
+#include "host/SysUtility/Fields.h"
+
+#include <SysDisplay/FillSymbol.h>
+#include <SysDisplay/MarkerSymbol.h>
+
+#include <QJsonObject>
+
+namespace SysDisplay {
+
+/// A colour: "#rrggbb", or "#aarrggbb" where it shines through.
+SYSDISPLAY_EXPORT void listColor(SysUtility::Fields& fields, SysUtility::Field const& field, QColor& color,
+                                 QColor const& byDefault);
+
+template <class Wanted>
+bool isA(Symbol const* symbol) {
+  return dynamic_cast<Wanted const*>(symbol) != nullptr;
+}
+
+/// The same for a class that a function tells.
+SYSDISPLAY_EXPORT void listSymbolOf(SysUtility::Fields& fields, SysUtility::Field const& field,
+                                    SysUtility::_ptr_t<Symbol>& symbol, bool (*isWanted)(Symbol const*),
+                                    bool isRequired);
+
+/// A symbol as a nested object with its kind in the field "type". One that must be there, or one that may be missing:
+/// an empty pointer is then left out, and a missing field reads as one. Reading makes a new symbol of the class
+/// `Wanted`: `Symbol`, `LineSymbol`, `FillSymbol`, `MarkerSymbol` or `TextSymbol`. After a problem the pointer is as
+/// before.
+template <class Wanted>
+void listSymbol(SysUtility::Fields& fields, SysUtility::Field const& field, SysUtility::_ptr_t<Wanted>& symbol) {
+  SysUtility::_ptr_t<Symbol> any = symbol;
+  listSymbolOf(fields, field, any, isA<Wanted>, true);
+  symbol = SysUtility::ptr_cast<Wanted>(any);
+}
+template <class Wanted>
+void listOptionalSymbol(SysUtility::Fields& fields, SysUtility::Field const& field,
+                        SysUtility::_ptr_t<Wanted>& symbol) {
+  SysUtility::_ptr_t<Symbol> any = symbol;
+  listSymbolOf(fields, field, any, isA<Wanted>, false);
+  symbol = SysUtility::ptr_cast<Wanted>(any);
+}
+
+/// The JSON operations of the symbols. `symbol` is changed only where the JSON is a symbol of the same kind.
+SYSDISPLAY_EXPORT bool importSymbol(QJsonObject const& json, Symbol& symbol);
+SYSDISPLAY_EXPORT bool importSymbol(QString const& json, Symbol& symbol);
+SYSDISPLAY_EXPORT QString exportSymbol(Symbol const& symbol);
+
+}  // namespace SysDisplay

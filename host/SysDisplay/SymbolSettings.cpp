@@ -1,0 +1,249 @@
+#include "SymbolSettings.h"
+
+#include "SymbolFields.h"
+
+namespace SysDisplay {
+
+using SysUtility::Choice;
+using SysUtility::Fields;
+using SysUtility::Unit;
+
+namespace {
+
+constexpr double maxPt = 1000;
+constexpr double maxDegrees = 3600;
+constexpr SysUtility::Range lengths{0, maxPt, Unit::Point};
+constexpr SysUtility::Range anyLengths{-maxPt, maxPt, Unit::Point};
+
+// clang-format off
+constexpr Choice lineStyles[] = {
+    {SimpleLineStyle::Null,       "null",       QT_TRANSLATE_NOOP("Fields", "None")},
+    {SimpleLineStyle::Solid,      "solid",      QT_TRANSLATE_NOOP("Fields", "Solid")},
+    {SimpleLineStyle::Dash,       "dash",       QT_TRANSLATE_NOOP("Fields", "Dashes")},
+    {SimpleLineStyle::Dot,        "dot",        QT_TRANSLATE_NOOP("Fields", "Dots")},
+    {SimpleLineStyle::DashDot,    "dashDot",    QT_TRANSLATE_NOOP("Fields", "Dash and dot")},
+    {SimpleLineStyle::DashDotDot, "dashDotDot", QT_TRANSLATE_NOOP("Fields", "Dash and two dots")},
+};
+constexpr Choice caps[] = {
+    {LineCapStyle::Butt,   "butt",   QT_TRANSLATE_NOOP("Fields", "Flat")},
+    {LineCapStyle::Round,  "round",  QT_TRANSLATE_NOOP("Fields", "Round")},
+    {LineCapStyle::Square, "square", QT_TRANSLATE_NOOP("Fields", "Square")},
+};
+constexpr Choice joins[] = {
+    {LineJoinStyle::Miter, "miter", QT_TRANSLATE_NOOP("Fields", "Pointed")},
+    {LineJoinStyle::Round, "round", QT_TRANSLATE_NOOP("Fields", "Round")},
+    {LineJoinStyle::Bevel, "bevel", QT_TRANSLATE_NOOP("Fields", "Bevelled")},
+};
+constexpr Choice fillStyles[] = {
+    {SimpleFillStyle::Solid,            "solid",            QT_TRANSLATE_NOOP("Fields", "Filled")},
+    {SimpleFillStyle::Null,             "null",             QT_TRANSLATE_NOOP("Fields", "None")},
+    {SimpleFillStyle::Horizontal,       "horizontal",       QT_TRANSLATE_NOOP("Fields", "Horizontal lines")},
+    {SimpleFillStyle::Vertical,         "vertical",         QT_TRANSLATE_NOOP("Fields", "Vertical lines")},
+    {SimpleFillStyle::ForwardDiagonal,  "forwardDiagonal",  QT_TRANSLATE_NOOP("Fields", "Forward diagonals")},
+    {SimpleFillStyle::BackwardDiagonal, "backwardDiagonal", QT_TRANSLATE_NOOP("Fields", "Backward diagonals")},
+    {SimpleFillStyle::Cross,            "cross",            QT_TRANSLATE_NOOP("Fields", "Horizontal and vertical lines")},
+    {SimpleFillStyle::DiagonalCross,    "diagonalCross",    QT_TRANSLATE_NOOP("Fields", "Both diagonals")},
+};
+constexpr Choice markerStyles[] = {
+    {SimpleMarkerStyle::Circle,   "circle",   QT_TRANSLATE_NOOP("Fields", "Circle")},
+    {SimpleMarkerStyle::Square,   "square",   QT_TRANSLATE_NOOP("Fields", "Square")},
+    {SimpleMarkerStyle::Diamond,  "diamond",  QT_TRANSLATE_NOOP("Fields", "Diamond")},
+    {SimpleMarkerStyle::Triangle, "triangle", QT_TRANSLATE_NOOP("Fields", "Triangle")},
+    {SimpleMarkerStyle::Cross,    "cross",    QT_TRANSLATE_NOOP("Fields", "Cross")},
+    {SimpleMarkerStyle::X,        "x",        QT_TRANSLATE_NOOP("Fields", "Diagonal cross")},
+    {SimpleMarkerStyle::Star,     "star",     QT_TRANSLATE_NOOP("Fields", "Star")},
+};
+constexpr Choice horizontals[] = {
+    {HorizontalAlignment::Left,   "left",   QT_TRANSLATE_NOOP("Fields", "Left")},
+    {HorizontalAlignment::Center, "center", QT_TRANSLATE_NOOP("Fields", "Centre")},
+    {HorizontalAlignment::Right,  "right",  QT_TRANSLATE_NOOP("Fields", "Right")},
+};
+constexpr Choice verticals[] = {
+    {VerticalAlignment::Top,      "top",      QT_TRANSLATE_NOOP("Fields", "Top")},
+    {VerticalAlignment::Middle,   "middle",   QT_TRANSLATE_NOOP("Fields", "Middle")},
+    {VerticalAlignment::Baseline, "baseline", QT_TRANSLATE_NOOP("Fields", "Baseline")},
+    {VerticalAlignment::Bottom,   "bottom",   QT_TRANSLATE_NOOP("Fields", "Bottom")},
+};
+// clang-format on
+
+}  // namespace
+
+SimpleLineSettings SimpleLineSettings::of(SimpleLineSymbol const& symbol) {
+  return {symbol.GetStyle(),    symbol.GetColor(),     symbol.GetWidth(),     symbol.GetOffset(),
+          symbol.GetCapStyle(), symbol.GetJoinStyle(), symbol.GetMiterLimit()};
+}
+
+void SimpleLineSettings::list(Fields& fields) {
+  SimpleLineSettings const usual;
+  fields.choice<SimpleLineStyle>(
+      {"style", QT_TRANSLATE_NOOP("Fields", "Style"),
+       QT_TRANSLATE_NOOP("Fields", "Whether the line is solid, dashed or not drawn at all.")},
+      style, lineStyles, usual.style);
+  listColor(fields,
+            {"color", QT_TRANSLATE_NOOP("Fields", "Colour"), QT_TRANSLATE_NOOP("Fields", "The colour of the line.")},
+            color, usual.color);
+  fields.number({"width", QT_TRANSLATE_NOOP("Fields", "Width"),
+                 QT_TRANSLATE_NOOP("Fields", "The width of the line; one of width 0 is not drawn.")},
+                width, lengths, usual.width);
+  fields.number({"offset", QT_TRANSLATE_NOOP("Fields", "Offset"),
+                 QT_TRANSLATE_NOOP("Fields",
+                                   "How far the line is moved to the left of its direction; to the right "
+                                   "where it is negative.")},
+                offset, anyLengths, usual.offset);
+  fields.choice<LineCapStyle>(
+      {"cap", QT_TRANSLATE_NOOP("Fields", "Ends"), QT_TRANSLATE_NOOP("Fields", "How the line and its dashes end.")},
+      cap, caps, usual.cap);
+  fields.choice<LineJoinStyle>(
+      {"join", QT_TRANSLATE_NOOP("Fields", "Corners"), QT_TRANSLATE_NOOP("Fields", "How the line turns at a vertex.")},
+      join, joins, usual.join);
+  fields.number({"miterLimit", QT_TRANSLATE_NOOP("Fields", "Limit of points"),
+                 QT_TRANSLATE_NOOP("Fields", "How far a pointed corner may reach before it is bevelled.")},
+                miterLimit, {0, 100, Unit::LineWidth}, usual.miterLimit);
+}
+
+void SimpleLineSettings::applyTo(SimpleLineSymbol& symbol) const {
+  symbol.SetStyle(style);
+  symbol.SetColor(color);
+  symbol.SetWidth(width);
+  symbol.SetOffset(offset);
+  symbol.SetCapStyle(cap);
+  symbol.SetJoinStyle(join);
+  symbol.SetMiterLimit(miterLimit);
+}
+
+SimpleFillSettings SimpleFillSettings::of(SimpleFillSymbol const& symbol) {
+  return {symbol.GetStyle(), symbol.GetColor(), symbol.GetOutlineSymbol()};
+}
+
+void SimpleFillSettings::list(Fields& fields) {
+  SimpleFillSettings const usual;
+  fields.choice<SimpleFillStyle>(
+      {"style", QT_TRANSLATE_NOOP("Fields", "Style"),
+       QT_TRANSLATE_NOOP("Fields", "Whether the area is filled whole, hatched or not at all.")},
+      style, fillStyles, usual.style);
+  listColor(fields,
+            {"color", QT_TRANSLATE_NOOP("Fields", "Colour"), QT_TRANSLATE_NOOP("Fields", "The colour of the filling.")},
+            color, usual.color);
+  listOptionalSymbol(fields,
+                     {"outline", QT_TRANSLATE_NOOP("Fields", "Outline"),
+                      QT_TRANSLATE_NOOP("Fields", "The line around the area; without one, none is drawn.")},
+                     outline);
+}
+
+void SimpleFillSettings::applyTo(SimpleFillSymbol& symbol) const {
+  symbol.SetStyle(style);
+  symbol.SetColor(color);
+  symbol.SetOutlineSymbol(outline);
+}
+
+MarkerSettings MarkerSettings::of(MarkerSymbol const& symbol) { return {symbol.GetSize(), symbol.GetAngle()}; }
+
+void MarkerSettings::list(Fields& fields) {
+  MarkerSettings const usual;
+  fields.number({"size", QT_TRANSLATE_NOOP("Fields", "Size"),
+                 QT_TRANSLATE_NOOP("Fields", "The longer side of the marker; one of size 0 is not drawn.")},
+                size, lengths, usual.size);
+  fields.number({"angle", QT_TRANSLATE_NOOP("Fields", "Angle"),
+                 QT_TRANSLATE_NOOP("Fields", "How far the marker is turned counterclockwise.")},
+                angle, {-maxDegrees, maxDegrees, Unit::Degree}, usual.angle);
+}
+
+void MarkerSettings::applyTo(MarkerSymbol& symbol) const {
+  symbol.SetSize(size);
+  symbol.SetAngle(angle);
+}
+
+SimpleMarkerSettings SimpleMarkerSettings::of(SimpleMarkerSymbol const& symbol) {
+  return {symbol.style(), MarkerSettings::of(symbol), symbol.color(), symbol.outlineColor(), symbol.outlineWidth()};
+}
+
+void SimpleMarkerSettings::list(Fields& fields) {
+  SimpleMarkerSettings const usual;
+  fields.choice<SimpleMarkerStyle>(
+      {"style", QT_TRANSLATE_NOOP("Fields", "Style"), QT_TRANSLATE_NOOP("Fields", "The shape of the marker.")}, style,
+      markerStyles, usual.style);
+  marker.list(fields);
+  listColor(fields,
+            {"color", QT_TRANSLATE_NOOP("Fields", "Colour"), QT_TRANSLATE_NOOP("Fields", "The colour of the marker.")},
+            color, usual.color);
+  listColor(fields,
+            {"outlineColor", QT_TRANSLATE_NOOP("Fields", "Colour of the outline"),
+             QT_TRANSLATE_NOOP("Fields", "The colour of the line around the marker.")},
+            outlineColor, usual.outlineColor);
+  fields.number({"outlineWidth", QT_TRANSLATE_NOOP("Fields", "Width of the outline"),
+                 QT_TRANSLATE_NOOP("Fields", "The width of the line around the marker; 0 for none.")},
+                outlineWidth, lengths, usual.outlineWidth);
+}
+
+void SimpleMarkerSettings::applyTo(SimpleMarkerSymbol& symbol) const {
+  symbol.setStyle(style);
+  marker.applyTo(symbol);
+  symbol.setColor(color);
+  symbol.setOutlineColor(outlineColor);
+  symbol.setOutlineWidth(outlineWidth);
+}
+
+SvgMarkerSettings SvgMarkerSettings::of(SvgMarkerSymbol const& symbol) {
+  return {MarkerSettings::of(symbol), symbol.picture()};
+}
+
+void SvgMarkerSettings::list(Fields& fields) {
+  marker.list(fields);
+  QString svg = QString::fromUtf8(SvgMarkerSymbol::svgOf(picture));
+  fields.text({"svg", QT_TRANSLATE_NOOP("Fields", "Picture"),
+               QT_TRANSLATE_NOOP("Fields", "The picture as SVG; its view box is the marker.")},
+              svg, SysUtility::TextKind::Svg);
+  if (!fields.isReading() || !fields.ok()) return;
+  QString problem;
+  picture = SvgMarkerSymbol::pictureOf(svg.toUtf8(), problem);
+  if (!picture) fields.fail("svg", problem);
+}
+
+void SvgMarkerSettings::applyTo(SvgMarkerSymbol& symbol) const {
+  marker.applyTo(symbol);
+  symbol.setPicture(picture);
+}
+
+TextSettings TextSettings::of(TextSymbol const& symbol) { return {symbol.format()}; }
+
+void TextSettings::list(Fields& fields) {
+  TextFormat const usual;
+  fields.text({"family", QT_TRANSLATE_NOOP("Fields", "Font"),
+               QT_TRANSLATE_NOOP("Fields", "The name of the font's family, as in “DejaVu Sans”.")},
+              format.family, SysUtility::TextKind::Line, usual.family);
+  fields.number({"size", QT_TRANSLATE_NOOP("Fields", "Size"), QT_TRANSLATE_NOOP("Fields", "The size of the font.")},
+                format.size, lengths, usual.size);
+  fields.flag(
+      {"bold", QT_TRANSLATE_NOOP("Fields", "Bold"), QT_TRANSLATE_NOOP("Fields", "Whether the letters are bold.")},
+      format.bold, usual.bold);
+  fields.flag({"italic", QT_TRANSLATE_NOOP("Fields", "Italic"),
+               QT_TRANSLATE_NOOP("Fields", "Whether the letters are slanted.")},
+              format.italic, usual.italic);
+  fields.number({"letterSpacing", QT_TRANSLATE_NOOP("Fields", "Letter spacing"),
+                 QT_TRANSLATE_NOOP("Fields", "What is added between two letters.")},
+                format.letterSpacing, anyLengths, usual.letterSpacing);
+  fields.number({"lineSpacing", QT_TRANSLATE_NOOP("Fields", "Line spacing"),
+                 QT_TRANSLATE_NOOP("Fields", "The distance of two lines, as a multiple of the font's own.")},
+                format.lineSpacing, {0.1, 10}, usual.lineSpacing);
+  listColor(fields,
+            {"color", QT_TRANSLATE_NOOP("Fields", "Colour"), QT_TRANSLATE_NOOP("Fields", "The colour of the letters.")},
+            format.color, usual.color);
+  fields.number({"haloSize", QT_TRANSLATE_NOOP("Fields", "Halo"),
+                 QT_TRANSLATE_NOOP("Fields", "How far the halo reaches beyond the letters; 0 for none.")},
+                format.haloSize, lengths, usual.haloSize);
+  listColor(fields,
+            {"haloColor", QT_TRANSLATE_NOOP("Fields", "Colour of the halo"),
+             QT_TRANSLATE_NOOP("Fields", "The colour behind the letters.")},
+            format.haloColor, usual.haloColor);
+  fields.choice<HorizontalAlignment>({"horizontal", QT_TRANSLATE_NOOP("Fields", "Horizontal alignment"),
+                                      QT_TRANSLATE_NOOP("Fields", "Which part of a line stands at the position.")},
+                                     format.horizontal, horizontals, usual.horizontal);
+  fields.choice<VerticalAlignment>(
+      {"vertical", QT_TRANSLATE_NOOP("Fields", "Vertical alignment"),
+       QT_TRANSLATE_NOOP("Fields", "Which part of the text's height stands at the position.")},
+      format.vertical, verticals, usual.vertical);
+}
+
+void TextSettings::applyTo(TextSymbol& symbol) const { symbol.setFormat(format); }
+
+}  // namespace SysDisplay

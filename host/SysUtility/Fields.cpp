@@ -1,0 +1,7 @@
+#include "Fields.h"
+
+namespace SysUtility {
+
+Fields::~Fields() = default;
+
+}  // namespace SysUtility

@@ -1,0 +1,153 @@
+#pragma once
+
+#include <SysUtility/Export.h>
+
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+#include <optional>
+
+namespace SysUtility {
+
+/// What the numbers of a field count. A map unit is metres, degrees or whatever the map's coordinate system has; an
+/// element that lies on a map is measured in those, too.
+enum class Unit { None, Point, Centimetre, Degree, Percent, LineWidth, ScaleDenominator, MapUnit };
+
+/// The lowest and the highest value of a number, both allowed.
+struct Range {
+  double min;
+  double max;
+  Unit unit = Unit::None;
+};
+
+/// What a text is to the person who enters it; it also sets how long the text may be.
+enum class TextKind { Line, Lines, Color, File, Svg, Attribute, Condition, CoordinateSystem };
+
+/// A fixed count of numbers that belong together: x and y, or xmin, ymin, xmax and ymax.
+enum class NumbersKind { Point, Offset, Rectangle };
+
+/// One field of a stored thing: its key in a document, and what a person reads of it. `caption` and `help` are English
+/// source texts of the translation context "Fields".
+struct Field {
+  char const* key;
+  char const* caption;
+  char const* help;
+};
+
+/// One value of a field that has a few: the number in the program, the name in a document, and the caption as in
+/// `Field`.
+struct Choice {
+  template <class Value>
+  constexpr Choice(Value value, char const* name, char const* caption)
+      : value(static_cast<int>(value)), name(name), caption(caption) {}
+  int value;
+  char const* name;
+  char const* caption;
+};
+
+/// Several choices, borrowed from a table that outlives them.
+struct Choices {
+  template <int count>
+  constexpr Choices(Choice const (&table)[count]) : first(table), last(table + count) {}
+  Choices(QVector<Choice> const& table) : first(table.constBegin()), last(table.constEnd()) {}
+  Choice const* begin() const { return first; }
+  Choice const* end() const { return last; }
+
+  Choice const* first;
+  Choice const* last;
+};
+
+/// A visitor of the fields of stored things.
+///
+/// Whatever is stored has a plain struct of its settings with one function that names the fields in turn:
+///
+///     void PaperSettings::list(Fields& fields) {
+///       fields.number({"width", QT_TRANSLATE_NOOP("Fields", "Width"), …}, widthCm, {0.1, 1000, Unit::Centimetre});
+///       fields.flag({"landscape", …}, landscape, false);
+///     }
+///
+/// A reader fills the struct from a document, a writer takes a copy of it to one, and others only look at which fields
+/// there are, so a field is named once. Where a call gives a default, the field may be missing, and writing leaves it
+/// out when it has that value.
+///
+/// The first problem is kept, with the path of its field; after it no call changes a value.
+class SYSUTILITY_EXPORT Fields {
+  Q_DECLARE_TR_FUNCTIONS(Fields)
+
+public:
+  using Describe = std::function<void(Fields&)>;
+
+  Fields() = default;
+  virtual ~Fields();
+  Fields(Fields const&) = delete;
+  Fields& operator=(Fields const&) = delete;
+
+  /// Whether the values are being filled in, and not only looked at.
+  virtual bool isReading() const = 0;
+
+  /// The first problem, with its path; empty while all is well.
+  virtual QString error() const = 0;
+  bool ok() const { return error().isEmpty(); }
+
+  /// Reports a problem with a field that is there but does not make sense, or with the whole object (`key` null).
+  virtual void fail(char const* key, QString const& what) = 0;
+
+  // Numbers outside their range, infinite or not a number are problems.
+
+  virtual void number(Field const& field, double& value, Range const& range, std::optional<double> byDefault = {}) = 0;
+  virtual void integer(Field const& field, int& value, int min, int max, std::optional<int> byDefault = {}) = 0;
+  virtual void flag(Field const& field, bool& value, std::optional<bool> byDefault = {}) = 0;
+  virtual void text(Field const& field, QString& value, TextKind kind, std::optional<QString> byDefault = {}) = 0;
+
+  /// A list of texts; a missing list is an empty one.
+  virtual void texts(Field const& field, QStringList& values) = 0;
+
+  /// `values` holds as many numbers as the kind says.
+  virtual void numbers(Field const& field, double* values, NumbersKind kind, Range const& range) = 0;
+
+  /// A list of coordinate pairs, stored flat: [x1, y1, x2, y2, …].
+  virtual void coordinates(Field const& field, QVector<double>& values) = 0;
+
+  template <class Value>
+  void choice(Field const& field, Value& value, Choices const& choices, std::optional<Value> byDefault = {}) {
+    int number = static_cast<int>(value);
+    choose(field, number, choices, byDefault ? std::optional<int>(static_cast<int>(*byDefault)) : std::nullopt);
+    value = static_cast<Value>(number);
+  }
+
+  /// The choice of what the object is, which decides on its other fields. `describe` names those of the kind that it
+  /// receives.
+  virtual void variant(Field const& field, int& kind, Choices const& kinds,
+                       std::function<void(int)> const& describe) = 0;
+
+  /// A nested object. It must be there.
+  virtual void object(Field const& field, Describe const& describe) = 0;
+
+  /// A nested object that may be missing. `present` says whether it is there; reading answers whether it was.
+  virtual bool optionalObject(Field const& field, bool present, Describe const& describe) = 0;
+
+  /// A list of nested objects, at most `max`; a missing list is an empty one. `describe` receives each object's fields
+  /// and its entry, a new one when reading.
+  template <class List>
+  void list(Field const& field, List& entries, int max,
+            std::function<void(Fields&, typename List::value_type&, int)> const& describe) {
+    if (isReading() && ok()) entries.clear();
+    objects(field, static_cast<int>(entries.size()), max, [&](Fields& fields, int index) {
+      if (index == static_cast<int>(entries.size())) entries.push_back({});
+      describe(fields, entries[index], index);
+    });
+  }
+
+protected:
+  virtual void choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) = 0;
+  virtual void objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) = 0;
+};
+
+/// How many numbers, and how many characters at most.
+constexpr int countOf(NumbersKind kind) { return kind == NumbersKind::Rectangle ? 4 : 2; }
+constexpr int maxCharacters(TextKind kind) { return kind == TextKind::Svg ? 2 * 1024 * 1024 : 16384; }
+
+}  // namespace SysUtility

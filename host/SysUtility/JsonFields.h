@@ -1,0 +1,132 @@
+#pragma once
+
+#include "host/SysUtility/Fields.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QSet>
+
+#include <memory>
+
+namespace SysUtility {
+
+/// What reading and writing JSON have in common: where they are, the first problem, and what a value may be.
+class SYSUTILITY_EXPORT JsonFields : public Fields {
+public:
+  ~JsonFields() override;
+  QString error() const override;
+  void fail(char const* key, QString const& what) override;
+
+protected:
+  struct Shared {
+    QString error;
+    QStringList warnings;
+  };
+  JsonFields(QString path, std::shared_ptr<Shared> shared);
+
+  Shared& shared() const { return *shared_; }
+  std::shared_ptr<Shared> const& share() const { return shared_; }
+  void failAt(QString const& path, QString const& what);
+  QString pathOf(QString const& name) const;
+  /// `entry` is the number of an entry of the field's list.
+  QString pathOf(Field const& field, std::optional<int> entry = {}) const;
+
+  // Each reports a problem with the value of the field, and answers whether there is none.
+  bool isWithin(Field const& field, double value, Range const& range, std::optional<int> entry = {});
+  bool isShort(Field const& field, QString const& text, TextKind kind);
+  bool isFew(Field const& field, int count, int max);
+  bool isEven(Field const& field, int count);
+
+private:
+  QString path_;
+  std::shared_ptr<Shared> shared_;
+};
+
+/// Fills settings from a JSON object and checks every field. A field that nobody asked for is reported as a warning and
+/// is otherwise ignored.
+class SYSUTILITY_EXPORT JsonReader final : public JsonFields {
+public:
+  explicit JsonReader(QJsonObject source);
+  ~JsonReader() override;
+
+  /// The paths of fields that nobody asked for ("maps[0].layers[2].zoom"), at most 100. Those of the object itself are
+  /// known once all its fields have been named.
+  QStringList warnings() const;
+
+  bool isReading() const override { return true; }
+  void number(Field const& field, double& value, Range const& range, std::optional<double> byDefault) override;
+  void integer(Field const& field, int& value, int min, int max, std::optional<int> byDefault) override;
+  void flag(Field const& field, bool& value, std::optional<bool> byDefault) override;
+  void text(Field const& field, QString& value, TextKind kind, std::optional<QString> byDefault) override;
+  void texts(Field const& field, QStringList& values) override;
+  void numbers(Field const& field, double* values, NumbersKind kind, Range const& range) override;
+  void coordinates(Field const& field, QVector<double>& values) override;
+  void variant(Field const& field, int& kind, Choices const& kinds, std::function<void(int)> const& describe) override;
+  void object(Field const& field, Describe const& describe) override;
+  bool optionalObject(Field const& field, bool present, Describe const& describe) override;
+
+protected:
+  void choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) override;
+  void objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) override;
+
+private:
+  JsonReader(QJsonObject source, QString path, std::shared_ptr<Shared> shared);
+
+  template <class Value>
+  std::optional<QJsonValue> take(Field const& field, QJsonValue::Type type, Value& value,
+                                 std::optional<Value> const& byDefault);
+  std::optional<QJsonValue> take(Field const& field, QJsonValue::Type type, bool required);
+  std::optional<QVector<double>> takeNumbers(Field const& field, QJsonArray const& list, Range const& range);
+  void describeChild(QJsonObject const& source, QString const& path, Describe const& describe);
+  QStringList unknownFields() const;
+
+  QJsonObject const object_;
+  QSet<QString> asked_;
+};
+
+/// Makes a JSON object of settings. What could not be read again (a number out of range, a choice without a name) is a
+/// problem, and whoever writes asks `ok` before an old file gives way.
+class SYSUTILITY_EXPORT JsonWriter final : public JsonFields {
+public:
+  JsonWriter();
+  ~JsonWriter() override;
+
+  /// What has been written so far.
+  QJsonObject json() const { return object_; }
+
+  bool isReading() const override { return false; }
+  void number(Field const& field, double& value, Range const& range, std::optional<double> byDefault) override;
+  void integer(Field const& field, int& value, int min, int max, std::optional<int> byDefault) override;
+  void flag(Field const& field, bool& value, std::optional<bool> byDefault) override;
+  void text(Field const& field, QString& value, TextKind kind, std::optional<QString> byDefault) override;
+  void texts(Field const& field, QStringList& values) override;
+  void numbers(Field const& field, double* values, NumbersKind kind, Range const& range) override;
+  void coordinates(Field const& field, QVector<double>& values) override;
+  void variant(Field const& field, int& kind, Choices const& kinds, std::function<void(int)> const& describe) override;
+  void object(Field const& field, Describe const& describe) override;
+  bool optionalObject(Field const& field, bool present, Describe const& describe) override;
+
+protected:
+  void choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) override;
+  void objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) override;
+
+private:
+  JsonWriter(QString path, std::shared_ptr<Shared> shared);
+
+  void put(Field const& field, QJsonValue const& value);
+  void putNumbers(Field const& field, double const* values, int count, Range const& range);
+  QJsonObject describeChild(QString const& path, Describe const& describe);
+
+  QJsonObject object_;
+};
+
+/// Fills settings, `Settings::list(Fields&, context…)`, from JSON. Answers the first problem, or an empty text.
+template <class Settings, class... Context>
+QString readJson(QJsonObject const& json, Settings& settings, Context&&... context) {
+  JsonReader reader(json);
+  settings.list(reader, context...);
+  return reader.error();
+}
+
+}  // namespace SysUtility
