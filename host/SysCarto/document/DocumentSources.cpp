@@ -1,6 +1,6 @@
 #include "DocumentSources.h"
 
-#include "DocumentArchive.h"
+#include "DocumentFields.h"
 
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/elements/PictureElement.h"
