@@ -20,7 +20,6 @@ QString DocumentSession::title() const { return path().isEmpty() ? tr("Untitled"
 
 bool DocumentSession::settle(bool done) {
   if (!done) return false;
-  storedText_ = document_.GetText();
   emit replaced();
   return true;
 }
@@ -46,8 +45,4 @@ bool DocumentSession::saveAs(QString const& path) {
 bool DocumentSession::isFileChanged() const {
   QByteArray const digest = path().isEmpty() ? QByteArray() : contentDigest(path());
   return !digest.isEmpty() && digest != fileDigest_;
-}
-
-bool DocumentSession::isModified() const {
-  return document_.GetPageLayout() && (!document_.history()->isClean() || document_.GetText() != storedText_);
 }

@@ -29,8 +29,8 @@ public:
   /// Whether the file holds something else than what was read from it or written to it here; false where it has gone.
   bool isFileChanged() const;
 
-  /// Whether a save would write another file than the last one. What is kept out of the history counts, too.
-  bool isModified() const;
+  /// Whether a save would write what the file does not hold. What is kept out of the history counts, too.
+  bool isModified() const { return document_.isModified(); }
 
 signals:
   /// Another document, or the same with another file: everything about it is to be asked anew.
@@ -44,5 +44,4 @@ private:
 
   SysCarto::MapDocument document_;
   QByteArray fileDigest_;  // of the file, as it is known here
-  QByteArray storedText_;
 };

@@ -1,5 +1,6 @@
 #include "MapTiles.h"
 
+#include "host/SysCarto/elements/Placement.h"
 #include "host/SysCarto/layout/MapPicture.h"
 
 #include <QPainter>
@@ -20,11 +21,6 @@ constexpr double sameScale = 1e-6;  // a view that is panned computes its scale 
 constexpr int largestFramePx = 1 << 28;
 constexpr double labelsPerInch = 300;  // the resolution that labels are placed for
 
-bool isSameRectangle(Envelope const& a, Envelope const& b) {
-  return a.GetXMin() == b.GetXMin() && a.GetYMin() == b.GetYMin() && a.GetXMax() == b.GetXMax() &&
-         a.GetYMax() == b.GetYMax();
-}
-
 int pixels(double cm, double pixelsPerCm) {
   return static_cast<int>(std::clamp(std::round(cm * pixelsPerCm), 1.0, double(largestFramePx)));
 }
@@ -33,12 +29,12 @@ int pixels(double cm, double pixelsPerCm) {
 
 bool MapTiles::Look::isSameAs(Look const& other) const {
   return map == other.map && std::abs(pixelsPerCm - other.pixelsPerCm) <= sameScale * pixelsPerCm &&
-         sizePx == other.sizePx && isSameRectangle(extent, other.extent) && visibleLayers == other.visibleLayers &&
-         graphics == other.graphics;
+         sizePx == other.sizePx && SysCarto::haveSameCorners(extent, other.extent) &&
+         visibleLayers == other.visibleLayers && graphics == other.graphics;
 }
 
 bool MapTiles::Look::hasSameLabels(Look const& other) const {
-  return map == other.map && sizeCm == other.sizeCm && isSameRectangle(extent, other.extent) &&
+  return map == other.map && sizeCm == other.sizeCm && SysCarto::haveSameCorners(extent, other.extent) &&
          visibleLayers == other.visibleLayers;
 }
 

@@ -3,7 +3,9 @@
 #include "DocumentFields.h"
 #include "OperationStack.h"
 
+#include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/layout/PageLimits.h"
+#include "host/SysUtility/ChangeMark.h"
 #include "host/SysUtility/FileSaver.h"
 #include "host/SysUtility/JsonFields.h"
 #include "host/SysUtility/JsonFile.h"
@@ -81,7 +83,15 @@ struct MapDocument::Private {
   int unreadableSources = 0;
   QUndoStack history;
   _ptr_t<OperationStack> operations;
+  SysUtility::ChangeMark change;  // of the layout for another
 
+  // As it is in the file.
+  quint64 cleanTime = 0;
+  _ptr_t<Map> cleanFocus;
+
+  void setLayout(_ptr_t<PageLayout> const& layout);
+  void becomeClean();
+  quint64 lastChange() const;
   void take(QString const& newPath, DocumentContent const& newContent);
   bool failed(QString const& sentence);
   DocumentContext contextFor(QString const& file, bool relativePaths) const;
@@ -89,10 +99,37 @@ struct MapDocument::Private {
   QString write(QString const& file, bool relativePaths, bool keepBackup) const;
 };
 
+// The steps of another layout name elements that this one does not hold.
+void MapDocument::Private::setLayout(_ptr_t<PageLayout> const& layout) {
+  auto const elementsOf = [](PageLayout const& one) {
+    return static_cast<ElementContainer*>(one.GetGraphicsContainer());
+  };
+  // The former one may have become another document's meanwhile.
+  if (content.layout && elementsOf(*content.layout)->history() == &history)
+    elementsOf(*content.layout)->setHistory(nullptr);
+  if (layout) elementsOf(*layout)->setHistory(&history);
+  content.layout = layout;
+  history.clear();
+  change.raise();
+}
+
+void MapDocument::Private::becomeClean() {
+  history.setClean();
+  cleanTime = SysUtility::ChangeMark::now();
+  cleanFocus = content.layout ? content.layout->GetFocusMap() : nullptr;
+}
+
+quint64 MapDocument::Private::lastChange() const {
+  quint64 last = std::max(change.time(), content.layout->lastChange());
+  for (auto const& map : mapsOf(*content.layout)) last = std::max(last, map->lastChange());
+  return last;
+}
+
 void MapDocument::Private::take(QString const& newPath, DocumentContent const& newContent) {
   path = newPath;
+  setLayout(newContent.layout);
   content = newContent;
-  history.clear();
+  becomeClean();
   errors.clear();
   warnings.clear();
   unreadableSources = 0;
@@ -175,7 +212,7 @@ bool MapDocument::SaveAs(QString const& path, bool relativePaths, bool keepBacku
   d->path = path;
   d->content.relativePaths = relativePaths;
   d->errors.clear();
-  d->history.setClean();
+  d->becomeClean();
   return true;
 }
 
@@ -245,11 +282,14 @@ QStringList MapDocument::GetWarnings() const { return d->warnings; }
 int MapDocument::GetUnreadableSourceCount() const { return d->unreadableSources; }
 QUndoStack* MapDocument::history() const { return &d->history; }
 
-// The steps of another layout name elements that this one does not hold.
 void MapDocument::setPageLayout(_ptr_t<PageLayout> const& layout) {
-  if (layout == d->content.layout) return;
-  d->content.layout = layout;
-  d->history.clear();
+  if (layout != d->content.layout) d->setLayout(layout);
+}
+
+// The focus comes and goes with data frames, and so with the steps of the history: it is compared, not counted.
+bool MapDocument::isModified() const {
+  auto const& layout = d->content.layout;
+  return layout && (!d->history.isClean() || d->lastChange() > d->cleanTime || layout->GetFocusMap() != d->cleanFocus);
 }
 
 }  // namespace SysCarto

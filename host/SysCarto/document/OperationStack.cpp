@@ -7,24 +7,13 @@
 namespace SysCarto {
 
 OperationStack::OperationStack(QUndoStack* history, MapDocument const* document)
-    : history_(history), document_(document) {
-  noting_ =
-      QObject::connect(history, &QUndoStack::indexChanged, [this] { page_.note(document_->GetPageLayout().get()); });
-}
+    : history_(history), document_(document) {}
 OperationStack::~OperationStack() = default;
 
-// The history, after it was cleared where the page was rescaled since the last step; null after the document's end.
-QUndoStack* OperationStack::history() const {
-  if (!history_ || !history_->count()) return history_;
-  auto const layout = document_->GetPageLayout();
-  if (page_.wasRescaled(layout.get())) history_->clear();
-  return history_;
-}
-
-bool OperationStack::CanUndo() const { return history() && history()->canUndo(); }
-bool OperationStack::CanRedo() const { return history() && history()->canRedo(); }
-QString OperationStack::GetUndoName() const { return history() ? history()->undoText() : QString(); }
-QString OperationStack::GetRedoName() const { return history() ? history()->redoText() : QString(); }
+bool OperationStack::CanUndo() const { return history_ && history_->canUndo(); }
+bool OperationStack::CanRedo() const { return history_ && history_->canRedo(); }
+QString OperationStack::GetUndoName() const { return history_ ? history_->undoText() : QString(); }
+QString OperationStack::GetRedoName() const { return history_ ? history_->redoText() : QString(); }
 
 void OperationStack::Undo() {
   if (!CanUndo()) return;
@@ -39,7 +28,6 @@ void OperationStack::Redo() {
 }
 
 void OperationStack::detach() {
-  QObject::disconnect(noting_);
   history_ = nullptr;
   document_ = nullptr;
 }

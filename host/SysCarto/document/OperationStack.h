@@ -1,7 +1,5 @@
 #pragma once
 
-#include "PageWatch.h"
-
 #include <SysCarto/MapDocument.h>
 
 namespace SysCarto {
@@ -24,13 +22,10 @@ public:
   void detach();
 
 private:
-  QUndoStack* history() const;
   void redraw() const;
 
   QUndoStack* history_;
   MapDocument const* document_;
-  mutable PageWatch page_;
-  QMetaObject::Connection noting_;
 };
 
 }  // namespace SysCarto

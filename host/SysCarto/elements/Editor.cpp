@@ -32,13 +32,14 @@ private:
 
 }  // namespace
 
-void Editor::Private::changing(ElementContainer const& container) {
-  if (!isOpen || !history) return;
+bool Editor::Private::records(ElementContainer const& container) {
+  if (!isOpen || !history) return false;
   auto const isSame = [&](ChangedContainer const& change) {
     auto const changed = change.container.lock();
     return changed && *changed == &container;
   };
   if (std::none_of(changes.begin(), changes.end(), isSame)) changes.push_back({container.token(), container.order()});
+  return true;
 }
 
 void Editor::Private::close() {

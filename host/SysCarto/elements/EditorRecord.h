@@ -23,8 +23,8 @@ struct Editor::Private {
   QString name;
   std::vector<ChangedContainer> changes;
 
-  /// A container says so before each change.
-  void changing(ElementContainer const& container);
+  /// A container asks before each change, whose opposite is then kept; false where no operation is open.
+  bool records(ElementContainer const& container);
   void close();
 };
 

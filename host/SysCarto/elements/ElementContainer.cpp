@@ -71,7 +71,7 @@ namespace SysCarto {
 ElementContainer::ElementContainer() : token_(std::make_shared<ElementContainer*>(this)) {}
 
 ElementContainer::~ElementContainer() {
-  for (ElementPtr const& element : qAsConst(order_.elements)) element->setPlaced(false);
+  for (ElementPtr const& element : qAsConst(order_.elements)) element->setContainer(nullptr);
 }
 
 ElementPtr ElementContainer::find(ElementHandle handle) const {
@@ -90,15 +90,20 @@ ElementHandle ElementContainer::freeHandle(ElementHandle wanted) {
   return handle;
 }
 
+// Before each change. What happens outside an operation is no step of the history.
+void ElementContainer::changing(bool stays) {
+  if (!Editor::Instance()->d->records(*this) && stays) change_.raise();
+}
+
 void ElementContainer::AddElement(ElementPtr const& element) {
   if (!element || element->isPlaced()) return;
-  Editor::Instance()->d->changing(*this);
+  changing(!element->isLabel());
   ElementHandle const handle = freeHandle(element->GetHandle());
   qint64 const rank = order_.elements.isEmpty() ? 0 : order_.elements.lastKey() + 1;
   order_.elements.insert(order_.elements.constEnd(), rank, element);
   order_.ranks.insert(handle, rank);
   element->setHandle(handle);
-  element->setPlaced(true);
+  element->setContainer(this);
 }
 
 void ElementContainer::AddElements(QList<ElementPtr> const& elements) {
@@ -109,11 +114,11 @@ QList<ElementPtr> ElementContainer::GetElements() const { return order_.elements
 
 void ElementContainer::DeleteElement(ElementPtr const& element) {
   if (!holds(element)) return;
-  Editor::Instance()->d->changing(*this);
+  changing(!element->isLabel());
   ElementHandle const handle = element->GetHandle();
   ElementPtr const taken = order_.elements.take(order_.ranks.take(handle));
   selection_.removeOne(handle);
-  taken->setPlaced(false);
+  taken->setContainer(nullptr);
 }
 
 int ElementContainer::GetSelectedElementCount() const { return selection_.size(); }
@@ -137,11 +142,11 @@ void ElementContainer::UnselectElement(ElementPtr const& element) {
 void ElementContainer::ReplaceElement(ElementHandle handle, ElementPtr const& element) {
   ElementPtr const old = find(handle);
   if (!old || !element || (element->isPlaced() && element != old)) return;
-  Editor::Instance()->d->changing(*this);
+  changing();
   order_.elements[order_.ranks.value(handle)] = element;
-  old->setPlaced(false);
+  old->setContainer(nullptr);
   element->setHandle(handle);
-  element->setPlaced(true);
+  element->setContainer(this);
 }
 
 void ElementContainer::BringForward(QList<ElementPtr> const& elements) { restack(elements, broughtForward); }
@@ -154,7 +159,7 @@ void ElementContainer::restack(QList<ElementPtr> const& elements, Restacking res
   for (ElementPtr const& element : elements)
     if (holds(element)) chosen << element->GetHandle();
   if (chosen.isEmpty()) return;
-  Editor::Instance()->d->changing(*this);
+  changing();
   Order order;
   for (ElementPtr const& element : restacked(GetElements(), chosen)) {
     qint64 const rank = order.elements.size();
@@ -182,10 +187,17 @@ void ElementContainer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> con
   }
 }
 
+void ElementContainer::setHistory(QUndoStack* history) { history_ = history; }
+QUndoStack* ElementContainer::history() const { return history_; }
+
+void ElementContainer::elementMoved() {
+  if (change_.raise() && history_) history_->clear();
+}
+
 void ElementContainer::exchange(Order& other) {
   std::swap(order_, other);
-  for (ElementPtr const& element : qAsConst(other.elements)) element->setPlaced(false);
-  for (ElementPtr const& element : qAsConst(order_.elements)) element->setPlaced(true);
+  for (ElementPtr const& element : qAsConst(other.elements)) element->setContainer(nullptr);
+  for (ElementPtr const& element : qAsConst(order_.elements)) element->setContainer(this);
   selection_.erase(std::remove_if(selection_.begin(), selection_.end(),
                                   [this](ElementHandle handle) { return !order_.ranks.contains(handle); }),
                    selection_.end());

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "host/SysUtility/ChangeMark.h"
+
 #include <SysCarto/IElementContainer.h>
 
 #include <QHash>
 #include <QMap>
+#include <QPointer>
 
 #include <memory>
+
+class QUndoStack;
 
 namespace SysCarto {
 
@@ -54,15 +59,31 @@ public:
   /// Expires with the container.
   std::weak_ptr<ElementContainer*> token() const { return token_; }
 
+  /// The history with steps about this container, borrowed, or null: it is cleared where an element is moved outside
+  /// them. An older step would bring back places from before.
+  void setHistory(QUndoStack* history);
+  QUndoStack* history() const;
+
+  /// When an element came, went or changed outside an operation; but labels come and go with a drawing.
+  quint64 lastChange() const { return change_.time(); }
+
+  // An element tells these.
+
+  void elementChanged() { change_.raise(); }
+  void elementMoved();
+
 private:
   using Restacking = QList<ElementPtr> (*)(QList<ElementPtr>, QSet<ElementHandle> const&);
   void restack(QList<ElementPtr> const& elements, Restacking restacked);
   bool holds(ElementPtr const& element) const;
+  void changing(bool stays = true);
   ElementHandle freeHandle(ElementHandle wanted);
 
   Order order_;
   QList<ElementHandle> selection_;
   ElementHandle lastHandle_ = 0;
+  SysUtility::ChangeMark change_;
+  QPointer<QUndoStack> history_;
   std::shared_ptr<ElementContainer*> token_;
 };
 

@@ -34,23 +34,24 @@ void FrameElementBase::DrawShadow(QPainter& painter, _ptr_t<DisplayTransformatio
 
 void FrameElementBase::rectangleChanged() {}
 
-void FrameElementBase::Move(double dx, double dy) {
-  d->rectangle = placed(*d->rectangle, Placement::moving(dx, dy));
+void FrameElementBase::place(_ptr_t<Envelope> const& rectangle) {
+  bool const isElsewhere = !haveSameCorners(*rectangle, *d->rectangle);
+  d->rectangle = rectangle;
   rectangleChanged();
+  if (isElsewhere) moved();
 }
 
+void FrameElementBase::Move(double dx, double dy) { place(placed(*d->rectangle, Placement::moving(dx, dy))); }
+
 void FrameElementBase::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
-  d->rectangle = placed(*d->rectangle, Placement::scaling(origin, sx, sy));
-  rectangleChanged();
+  place(placed(*d->rectangle, Placement::scaling(origin, sx, sy)));
 }
 
 _ptr_t<Geometry> FrameElementBase::GetGeometry() const { return d->rectangle->Clone(); }
 _ptr_t<Envelope> FrameElementBase::GetEnvelope() const { return d->rectangle->GetEnvelope(); }
 
 void FrameElementBase::SetGeometry(_ptr_t<Envelope> const& rectangle) {
-  if (!isFinite(rectangle)) return;
-  d->rectangle = rectangle->GetEnvelope();
-  rectangleChanged();
+  if (isFinite(rectangle)) place(rectangle->GetEnvelope());
 }
 
 _ptr_t<Geometry> FrameElementBase::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
@@ -62,10 +63,19 @@ _ptr_t<Geometry> FrameElementBase::GetBoundary(_ptr_t<DisplayTransformation> con
 }
 
 _ptr_t<IBorder> FrameElementBase::GetBorder() const { return d->border; }
-void FrameElementBase::SetBorder(_ptr_t<IBorder> const& border) { d->border = border; }
+void FrameElementBase::SetBorder(_ptr_t<IBorder> const& border) {
+  d->border = border;
+  changed();
+}
 _ptr_t<IBackground> FrameElementBase::GetBackground() const { return d->background; }
-void FrameElementBase::SetBackGround(_ptr_t<IBackground> const& background) { d->background = background; }
+void FrameElementBase::SetBackGround(_ptr_t<IBackground> const& background) {
+  d->background = background;
+  changed();
+}
 _ptr_t<IShadow> FrameElementBase::GetShadow() const { return d->shadow; }
-void FrameElementBase::SetShadow(_ptr_t<IShadow> shadow) { d->shadow = shadow; }
+void FrameElementBase::SetShadow(_ptr_t<IShadow> shadow) {
+  d->shadow = shadow;
+  changed();
+}
 
 }  // namespace SysCarto

@@ -27,10 +27,12 @@ QList<_ptr_t<Element>> GroupElement::GetElements() const { return members_; }
 
 void GroupElement::Move(double dx, double dy) {
   for (_ptr_t<Element> const& member : qAsConst(members_)) member->Move(dx, dy);
+  if (dx != 0 || dy != 0) moved();
 }
 
 void GroupElement::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
   for (_ptr_t<Element> const& member : qAsConst(members_)) member->Scale(origin, sx, sy);
+  if (sx != 1 || sy != 1) moved();
 }
 
 int GroupElement::GetType() const { return 10; }

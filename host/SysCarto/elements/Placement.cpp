@@ -84,6 +84,11 @@ _ptr_t<Polygon> placed(Polygon const& polygon, Placement const& placement) {
   return SysUtility::make<Polygon>(rings);
 }
 
+bool haveSameCorners(Envelope const& a, Envelope const& b) {
+  return a.GetXMin() == b.GetXMin() && a.GetYMin() == b.GetYMin() && a.GetXMax() == b.GetXMax() &&
+         a.GetYMax() == b.GetYMax();
+}
+
 bool isFinite(_ptr_t<Envelope> const& rectangle) {
   return rectangle && std::isfinite(rectangle->GetXMin()) && std::isfinite(rectangle->GetYMin()) &&
          std::isfinite(rectangle->GetXMax()) && std::isfinite(rectangle->GetYMax());

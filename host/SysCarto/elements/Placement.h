@@ -37,6 +37,9 @@ SYSCARTO_EXPORT SysUtility::_ptr_t<SysGeometry::Polyline> placed(SysGeometry::Po
 SYSCARTO_EXPORT SysUtility::_ptr_t<SysGeometry::Polygon> placed(SysGeometry::Polygon const& polygon,
                                                                 Placement const& placement);
 
+/// Whether both have the same corners, to the last bit.
+SYSCARTO_EXPORT bool haveSameCorners(SysGeometry::Envelope const& a, SysGeometry::Envelope const& b);
+
 /// False for an empty pointer, and where a side is infinite or not a number.
 SYSCARTO_EXPORT bool isFinite(SysUtility::_ptr_t<SysGeometry::Envelope> const& rectangle);
 

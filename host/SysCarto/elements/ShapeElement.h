@@ -19,18 +19,18 @@ public:
     shapeChanged();
   }
 
-  void Move(double dx, double dy) override { setShape(placed(*shape_, Placement::moving(dx, dy))); }
+  void Move(double dx, double dy) override { place(placed(*shape_, Placement::moving(dx, dy))); }
   void Scale(SysUtility::_ptr_t<SysGeometry::Point> const& origin, double sx, double sy) override {
-    setShape(placed(*shape_, Placement::scaling(origin, sx, sy)));
+    place(placed(*shape_, Placement::scaling(origin, sx, sy)));
   }
   SysUtility::_ptr_t<SysGeometry::Geometry> GetGeometry() const override { return shape_->Clone(); }
   SysUtility::_ptr_t<SysGeometry::Envelope> GetEnvelope() const override { return shape_->GetEnvelope(); }
   void SetGeometry(SysUtility::_ptr_t<SysGeometry::Envelope> const& rectangle) override {
     if (!isFinite(rectangle)) return;
     if constexpr (std::is_same_v<Shape, SysGeometry::Envelope>)
-      setShape(rectangle->GetEnvelope());
+      place(rectangle->GetEnvelope());
     else
-      setShape(placed(*shape_, Placement::fitting(*GetEnvelope(), *rectangle)));
+      place(placed(*shape_, Placement::fitting(*GetEnvelope(), *rectangle)));
   }
 
 protected:
@@ -40,6 +40,12 @@ protected:
   virtual void shapeChanged() {}
 
 private:
+  void place(SysUtility::_ptr_t<Shape> const& shape) {
+    bool const isElsewhere = !haveSameCorners(*shape->GetEnvelope(), *GetEnvelope());
+    setShape(shape);
+    if (isElsewhere) this->moved();
+  }
+
   SysUtility::_ptr_t<Shape> shape_;
 };
 

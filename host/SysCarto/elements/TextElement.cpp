@@ -53,11 +53,13 @@ void TextElement::setAngle(double degrees) {
 void TextElement::Move(double dx, double dy) {
   x_ += dx;
   y_ += dy;
+  if (dx != 0 || dy != 0) moved();
 }
 
 void TextElement::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
   QPointF const position = Placement::scaling(origin, sx, sy).map(x_, y_);
   setPosition(position.x(), position.y());
+  moved();
   double const factor = std::abs(sx);
   if (!std::isfinite(factor) || factor == 0 || factor == 1) return;
   TextFormat format = symbol_->format();

@@ -1,6 +1,7 @@
 #include <SysCarto/Layer.h>
 
 #include "host/SysCarto/layers/ScaleRange.h"
+#include "host/SysUtility/ChangeMark.h"
 
 namespace SysCarto {
 
@@ -8,6 +9,7 @@ struct Layer::Private {
   QString name;
   bool visible = true;
   ScaleRange scales;
+  SysUtility::ChangeMark change;
 };
 
 Layer::Layer() : d(std::make_unique<Private>()) {}
@@ -22,12 +24,16 @@ bool Layer::showsAt(double scale) const { return IsVisible() && d->scales.contai
 QList<LegendClass> Layer::legendClasses() const { return {}; }
 
 QString Layer::GetName() const { return d->name; }
-void Layer::SetName(QString const& name) { d->name = name; }
-void Layer::SetVisible(bool visible) { d->visible = visible; }
+void Layer::SetName(QString const& name) { d->change.set(d->name, name); }
+void Layer::SetVisible(bool visible) { d->change.set(d->visible, visible); }
 void Layer::SetScaleRange(double minDenominator, double maxDenominator) {
-  d->scales.set(minDenominator, maxDenominator);
+  ScaleRange scales;
+  scales.set(minDenominator, maxDenominator);
+  d->change.set(d->scales.min, scales.min);
+  d->change.set(d->scales.max, scales.max);
 }
 double Layer::storedMinScale() const { return d->scales.min; }
 double Layer::storedMaxScale() const { return d->scales.max; }
+quint64 Layer::lastChange() const { return d->change.time(); }
 
 }  // namespace SysCarto

@@ -44,16 +44,23 @@ void MapFrameElement::SetMap(_ptr_t<Map> const& map) {
   if (!map) return;
   d->map = map;
   rectangleChanged();
+  changed();
 }
 
 int MapFrameElement::GetMapGridCount() const { return d->grids.size(); }
 _ptr_t<IMapGrid> MapFrameElement::GetMapGrid(int index) const { return d->grids.value(index); }
 void MapFrameElement::AddMapGrid(_ptr_t<IMapGrid> const& grid) {
-  if (grid) d->grids << grid;
+  if (!grid) return;
+  d->grids << grid;
+  changed();
 }
 
 bool MapFrameElement::IsLocked() const { return *d->locked; }
-void MapFrameElement::SetLocked(bool locked) { *d->locked = locked; }
+void MapFrameElement::SetLocked(bool locked) {
+  if (locked == *d->locked) return;
+  *d->locked = locked;
+  changed();
+}
 
 int MapFrameElement::GetType() const { return 11; }
 
@@ -89,8 +96,8 @@ void MapFrameElement::setHandle(ElementHandle handle) {
   Element::setHandle(handle);
 }
 
-void MapFrameElement::setPlaced(bool placed) {
-  Element::setPlaced(placed);
+void MapFrameElement::setContainer(ElementContainer* container) {
+  Element::setContainer(container);
   rectangleChanged();
 }
 

@@ -60,6 +60,7 @@ _ptr_t<MapSurround> MapSurroundFrame::GetMapSurround() const { return d->surroun
 void MapSurroundFrame::SetMapSurround(_ptr_t<MapSurround> const& surround) {
   d->surround = surround;
   rectangleChanged();
+  changed();
 }
 
 int MapSurroundFrame::GetType() const { return 12; }

@@ -1,5 +1,7 @@
 #include "host/SysCarto/elements/Placement.h"
 
+#include "host/SysUtility/ChangeMark.h"
+
 #include <SysCarto/Page.h>
 #include <SysCarto/SymbolFrameParts.h>
 
@@ -32,6 +34,13 @@ struct Page::Private {
   _ptr_t<IBorder> border;
   _ptr_t<IBackground> background = SysUtility::make<SymbolBackground>();
   _ptr_t<IShadow> shadow;
+  SysUtility::ChangeMark change;
+
+  void setForm(PageFormID id, double width, double height) {
+    change.set(form, id);
+    change.set(widthCm, width);
+    change.set(heightCm, height);
+  }
 };
 
 Page::Page() : d(std::make_unique<Private>()) { Page::SetFormID(formOf(QStringLiteral("A4"))); }
@@ -41,22 +50,17 @@ int Page::GetFormID() const { return d->form; }
 
 void Page::SetFormID(int id) {
   FormInfo info;
-  if (!Paper::GetFormInfo(id, info)) return;
-  d->form = id;
-  d->widthCm = info.width;
-  d->heightCm = info.height;
+  if (Paper::GetFormInfo(id, info)) d->setForm(id, info.width, info.height);
 }
 
 void Page::setCustomSize(double widthCm, double heightCm) {
   if (!std::isfinite(widthCm) || !std::isfinite(heightCm) || widthCm < 0 || heightCm < 0) return;
-  d->form = customPageForm;
-  d->widthCm = widthCm;
-  d->heightCm = heightCm;
+  d->setForm(customPageForm, widthCm, heightCm);
 }
 
 short Page::GetOrientation() const { return d->orientation; }
 void Page::SetOrientation(short orientation) {
-  if (orientation == portrait || orientation == landscape) d->orientation = orientation;
+  if (orientation == portrait || orientation == landscape) d->change.set(d->orientation, orientation);
 }
 
 void Page::QuerySize(double& width, double& height) const {
@@ -84,10 +88,12 @@ void Page::drawShadow(QPainter& painter, _ptr_t<DisplayTransformation> const& tr
 }
 
 _ptr_t<IBorder> Page::GetBorder() const { return d->border; }
-void Page::SetBorder(_ptr_t<IBorder> const& border) { d->border = border; }
+void Page::SetBorder(_ptr_t<IBorder> const& border) { d->change.set(d->border, border); }
 _ptr_t<IBackground> Page::GetBackground() const { return d->background; }
-void Page::SetBackGround(_ptr_t<IBackground> const& background) { d->background = background; }
+void Page::SetBackGround(_ptr_t<IBackground> const& background) { d->change.set(d->background, background); }
 _ptr_t<IShadow> Page::GetShadow() const { return d->shadow; }
-void Page::SetShadow(_ptr_t<IShadow> shadow) { d->shadow = shadow; }
+void Page::SetShadow(_ptr_t<IShadow> shadow) { d->change.set(d->shadow, shadow); }
+
+quint64 Page::lastChange() const { return d->change.time(); }
 
 }  // namespace SysCarto

@@ -52,6 +52,7 @@ struct PageLayout::Private {
   _ptr_t<Page> page;
   _ptr_t<Map> focus;
   bool alignToMargins = false;
+  SysUtility::ChangeMark change;
   ElementContainer elements;
 
   QList<_ptr_t<MapFrameElement>> frames() const {
@@ -83,7 +84,7 @@ PageLayout::PageLayout() : d(std::make_unique<Private>()) {
 PageLayout::~PageLayout() = default;
 
 bool PageLayout::GetAlignToMargins() const { return d->alignToMargins; }
-void PageLayout::SetAlignToMargins(bool on) { d->alignToMargins = on; }
+void PageLayout::SetAlignToMargins(bool on) { d->change.set(d->alignToMargins, on); }
 
 _ptr_t<Envelope> PageLayout::GetDefaultDataFrameEnvelope() const { return partOf(GetPage(), dataFramePart); }
 _ptr_t<Envelope> PageLayout::GetDefaultLegendEnvelope() const { return partOf(GetPage(), legendPart); }
@@ -117,7 +118,11 @@ void PageLayout::QueryOutputSize(int dpi, int& width, int& height) const {
 }
 
 Page* PageLayout::GetPage() const { return d->page.get(); }
-void PageLayout::SetPage(_ptr_t<Page> const& page) { d->page = page; }
+void PageLayout::SetPage(_ptr_t<Page> const& page) { d->change.set(d->page, page); }
+
+quint64 PageLayout::lastChange() const {
+  return std::max({d->change.time(), d->page ? d->page->lastChange() : 0, d->elements.lastChange()});
+}
 
 void PageLayout::ZoomToRatio(double ratio) {
   if (!std::isfinite(ratio) || ratio <= 0 || !d->page) return;

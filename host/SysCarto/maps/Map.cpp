@@ -3,6 +3,7 @@
 #include "MapLimits.h"
 
 #include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/elements/Placement.h"
 #include "host/SysCarto/projection/GroundScale.h"
 
 #include <QCoreApplication>
@@ -48,6 +49,7 @@ struct Map::Private {
   QRect frame{0, 0, 200000, 150000};
   _ptr_t<DisplayTransformation> transformation = make<DisplayTransformation>();
   ElementContainer graphics;
+  SysUtility::ChangeMark change;
 
   void fit();
 };
@@ -70,13 +72,15 @@ Map::~Map() = default;
 _ptr_t<DisplayTransformation> Map::GetDisplayTransformation() const { return d->transformation; }
 
 QString const& Map::GetName() const { return d->name; }
-void Map::SetName(QString const& name) { d->name = name; }
+void Map::SetName(QString const& name) { d->change.set(d->name, name); }
 
 int Map::GetLayerCount() const { return d->layers.size(); }
 _ptr_t<Layer> Map::GetLayer(int index) const { return d->layers.value(index); }
 QList<_ptr_t<Layer>> const& Map::GetLayers() const { return d->layers; }
 void Map::AddLayer(_ptr_t<Layer> const& layer) {
-  if (layer) d->layers << layer;
+  if (!layer) return;
+  d->layers << layer;
+  d->change.raise();
 }
 
 _ptr_t<Envelope> Map::GetExtent() const { return d->transformation->GetVisibleBounds(); }
@@ -88,7 +92,7 @@ QString Map::GetCoordinateSystem() const { return d->coordinateSystem; }
 void Map::SetCoordinateSystem(QString const& definition) {
   QString const trimmed = definition.trimmed();
   if (trimmed == d->coordinateSystem) return;
-  d->coordinateSystem = trimmed;
+  d->change.set(d->coordinateSystem, trimmed);
   d->ground = std::make_unique<GroundScale>(trimmed);
   d->fit();
 }
@@ -111,8 +115,15 @@ void Map::setFrameSize(double widthCm, double heightCm) {
 void Map::applyExtent(Envelope const& extent) {
   auto const bounds = extent.GetEnvelope();
   if (!isShowable(*bounds)) return;
+  if (!haveSameCorners(*bounds, d->bounds)) d->change.raise();
   d->bounds = *bounds;
   d->fit();
+}
+
+quint64 Map::lastChange() const {
+  quint64 last = std::max(d->change.time(), d->graphics.lastChange());
+  for (auto const& layer : qAsConst(d->layers)) last = std::max(last, layer->lastChange());
+  return last;
 }
 
 }  // namespace SysCarto

@@ -98,6 +98,7 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
   placer.place([&] { return isCancelled(cancel); });
   for (PlacedLabel const& placed : placer.labels()) {
     auto const element = make<TextElement>();
+    element->becomeLabel();
     element->setText(placed.text);
     element->setSymbol(placed.symbol);
     element->setPosition(placed.x, placed.y);

@@ -12,6 +12,8 @@ class QPainter;
 
 namespace SysCarto {
 
+class ElementContainer;
+
 /// The number by which a container knows an element: unique in it, positive, never used again. 0 is no element.
 using ElementHandle = int;
 
@@ -66,12 +68,24 @@ public:
   QString GetName() const;
   void SetName(QString const& name);
 
-  /// A container tells its elements their handle, and when they come into it and leave it. Nobody else calls these.
+  /// A container tells its elements their handle, and that they lie in it or, with null, in none any more. Nobody else
+  /// calls these.
   virtual void setHandle(ElementHandle handle);
-  virtual void setPlaced(bool placed);
+  virtual void setContainer(ElementContainer* container);
   bool isPlaced() const;
 
+  /// A label lies in a container while it is drawn and no longer, so that its coming and going change no document. A
+  /// clone is an element like others.
+  bool isLabel() const;
+  void becomeLabel();
+
 protected:
+  /// What is stored of the element has changed where it lies: no step of the history knows of that.
+  void changed();
+
+  /// So has its place: the history's older steps would put it back where it no longer belongs.
+  void moved();
+
   Element();
   Element(Element const&);
   Element& operator=(Element const&) = delete;

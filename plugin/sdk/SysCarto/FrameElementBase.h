@@ -39,6 +39,8 @@ protected:
   virtual void rectangleChanged();
 
 private:
+  void place(SysUtility::_ptr_t<SysGeometry::Envelope> const& rectangle);
+
   struct Private;
   std::unique_ptr<Private> d;
 };

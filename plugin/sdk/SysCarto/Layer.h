@@ -57,6 +57,9 @@ public:
   double storedMinScale() const;
   double storedMaxScale() const;
 
+  /// When what can be set of every layer was last changed outside the history's steps (`ChangeMark`).
+  quint64 lastChange() const;
+
 protected:
   Layer();
   Layer(Layer const&) = delete;

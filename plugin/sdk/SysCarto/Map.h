@@ -52,6 +52,9 @@ public:
   /// The size of the data frame on paper, told by the frame that is on the page.
   void setFrameSize(double widthCm, double heightCm);
 
+  /// When the map, a layer or a graphic of it was last changed outside the history's steps (`ChangeMark`).
+  quint64 lastChange() const;
+
 protected:
   void applyExtent(SysGeometry::Envelope const& extent) override;
 

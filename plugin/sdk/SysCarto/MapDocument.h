@@ -73,6 +73,9 @@ public:
 
   /// How many data sources the last `Open` could not read.
   int GetUnreadableSourceCount() const;
+
+  /// Whether a save would write what was neither read nor saved before. Costs a look at each element, no more.
+  bool isModified() const;
   QUndoStack* history() const;
   void setPageLayout(SysUtility::_ptr_t<PageLayout> const& layout);
 

@@ -42,7 +42,7 @@ public:
   /// Shows another map. An empty pointer is ignored.
   void SetMap(SysUtility::_ptr_t<Map> const& map);
   void setHandle(ElementHandle handle) override;
-  void setPlaced(bool placed) override;
+  void setContainer(ElementContainer* container) override;
 
 protected:
   void rectangleChanged() override;

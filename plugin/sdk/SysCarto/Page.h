@@ -52,6 +52,9 @@ public:
   /// Draws the shadow, which lies beside the page: it shows in a view, not in an export.
   void drawShadow(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation);
 
+  /// When what a document stores of the page was last changed (`ChangeMark`).
+  quint64 lastChange() const;
+
 private:
   struct Private;
   std::unique_ptr<Private> d;

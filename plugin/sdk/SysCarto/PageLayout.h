@@ -57,6 +57,10 @@ public:
   /// Gives the layout a page; an empty pointer takes it away.
   void SetPage(SysUtility::_ptr_t<Page> const& page);
 
+  /// When the layout's settings, its page or its elements were last changed outside the history's steps (`ChangeMark`).
+  /// The focus counts for nothing: it is told by `GetFocusMap`.
+  quint64 lastChange() const;
+
 protected:
   void applyExtent(SysGeometry::Envelope const& extent) override;
 

@@ -1,6 +1,7 @@
 #include "Files.h"
 #include "Json.h"
 #include "Elements.h"
+#include "LayerFixture.h"
 
 #include "host/SysCarto/document/DocumentFields.h"
 #include "host/SysUtility/FieldTree.h"
@@ -346,33 +347,103 @@ private slots:
     QVERIFY(!document.GetPageLayout()->GetPage());
   }
 
-  void aRescaledPageStartsANewHistory_data() {
-    Rows<bool, bool, bool> row;
-    row("a page that stays", false, false, true);
-    row("elements moved outside the history", false, true, true);
-    row("another page, the elements stay", true, false, true);
-    row("another page, the elements moved with it", true, true, false);
+  void elementsMovedWithThePageStartANewHistory_data() {
+    Rows<bool, double, bool> row;
+    row("another page, the elements stay", true, 0, true);
+    row("another page, the elements move with it", true, 1, false);
+    row("the elements alone", false, 1, false);
   }
-  void aRescaledPageStartsANewHistory() {
-    auto const [turned, moved, keepsHistory] = fetched<bool, bool, bool>();
+  void elementsMovedWithThePageStartANewHistory() {
+    auto const [turned, dx, keepsHistory] = fetched<bool, double, bool>();
     MapDocument document;
     document.New(QString());
     auto* const elements = document.GetPageLayout()->GetGraphicsContainer();
-    _ptr_t<Element> const element = make<RectangleElement>();
     Editor::Instance()->setHistory(document.history());
-    Editor::Instance()->StartOperation("step");
-    elements->AddElement(element);
-    Editor::Instance()->StopOperation();
-    auto const operations = document.GetOperationStack();
-    QVERIFY(operations->CanUndo());
-
+    auto const add = [elements](_ptr_t<Element> const& element) {
+      Editor::Instance()->StartOperation("step");
+      elements->AddElement(element);
+      Editor::Instance()->StopOperation();
+      return element;
+    };
+    auto const first = add(make<RectangleElement>());
     if (turned) document.GetPageLayout()->GetPage()->SetOrientation(2);
-    if (moved) element->Move(1, 1);
+    first->Move(dx, 0);
+    QCOMPARE(document.history()->count(), keepsHistory ? 1 : 0);  // nobody has asked for it yet
+
+    add(make<RectangleElement>());
+    auto const operations = document.GetOperationStack();
+    operations->Undo();
     QCOMPARE(operations->CanUndo(), keepsHistory);
     operations->Undo();
     QCOMPARE(elements->GetElements().isEmpty(), keepsHistory);
-    QCOMPARE(operations->GetRedoName(), keepsHistory ? QString("step") : QString());
+    QVERIFY(document.isModified());
     Editor::Instance()->setHistory(nullptr);
+  }
+
+  void whatIsKeptOutOfTheHistoryIsAModification_data() {
+    Rows<void (*)(PageLayout&), bool> row;
+    row(
+        "a lock", [](PageLayout& page) { page.GetFocusMapFrameElement()->SetLocked(true); }, true);
+    row(
+        "the margins toggle", [](PageLayout& page) { page.SetAlignToMargins(!page.GetAlignToMargins()); }, true);
+    row(
+        "the focus", [](PageLayout& page) { page.SetFocusMap(mapsOn(page).first()); }, true);
+    row(
+        "the paper", [](PageLayout& page) { page.GetPage()->SetFormID(0); }, true);
+    row(
+        "another custom size", [](PageLayout& page) { page.GetPage()->setCustomSize(7, 5); }, true);
+    row(
+        "the orientation", [](PageLayout& page) { page.GetPage()->SetOrientation(1); }, true);
+    row(
+        "the page's border", [](PageLayout& page) { page.GetPage()->SetBorder(nullptr); }, true);
+    row(
+        "an element's name", [](PageLayout& page) { elementsOf(page).last()->SetName("Other"); }, true);
+    row(
+        "an element that goes without an operation",
+        [](PageLayout& page) { page.GetGraphicsContainer()->DeleteElement(elementsOf(page).last()); }, true);
+    row(
+        "a map's name", [](PageLayout& page) { mapsOn(page)[0]->SetName("Other"); }, true);
+    row(
+        "a map's extent", [](PageLayout& page) { mapsOn(page)[0]->SetExtent(make<Envelope>(0, 0, 7, 5)); }, true);
+    row(
+        "a layer shown", [](PageLayout& page) { mapsOn(page)[0]->GetLayer(0)->SetVisible(false); }, true);
+    row(
+        "a layer's scales", [](PageLayout& page) { mapsOn(page)[0]->GetLayer(0)->SetScaleRange(0, 5e6); }, true);
+
+    row(
+        "what is said again",
+        [](PageLayout& page) {
+          page.GetFocusMapFrameElement()->SetLocked(false);
+          page.SetFocusMap(page.GetFocusMap());
+          page.GetPage()->SetOrientation(page.GetPage()->GetOrientation());
+          mapsOn(page)[0]->SetExtent(make<Envelope>(mapsOn(page)[0]->GetStoredBounds()));
+          elementsOf(page).last()->SetGeometry(elementsOf(page).last()->GetEnvelope());
+        },
+        false);
+    row(
+        "a clone that nobody sees", [](PageLayout& page) { elementsOf(page)[0]->Clone()->Move(1, 1); }, false);
+    row(
+        "the view", [](PageLayout& page) { page.ZoomToRatio(2); }, false);
+    row(
+        "labels that come and go",
+        [](PageLayout& page) {
+          auto const label = make<TextElement>();
+          label->becomeLabel();
+          mapsOn(page)[0]->GetGraphicsContainer()->AddElement(label);
+          mapsOn(page)[0]->GetGraphicsContainer()->DeleteElement(label);
+        },
+        false);
+  }
+  void whatIsKeptOutOfTheHistoryIsAModification() {
+    auto const [change, isModification] = fetched<void (*)(PageLayout&), bool>();
+    MapDocument document;
+    QVERIFY(document.Open(path("sample.kdx")));
+    mapsOn(*document.GetPageLayout())[0]->AddLayer(opened({}, {}).layer);
+    QVERIFY(document.isModified());
+    QVERIFY(document.SaveAs(path("modified.kdx"), true, false));
+    QVERIFY(!document.isModified());
+    change(*document.GetPageLayout());
+    QCOMPARE(document.isModified(), isModification);
   }
 
   void anotherLayoutStartsANewHistory() {
@@ -384,11 +455,13 @@ private slots:
     auto const contents = make<Contents>();
     contents->layout = document.GetPageLayout();
     document.ReplaceContents(contents);
-    QVERIFY(operations->CanUndo());
+    QVERIFY(operations->CanUndo() && document.isModified());
+    document.history()->setClean();
+    QVERIFY(!document.isModified());
     contents->layout = make<PageLayout>();
     document.ReplaceContents(contents);
     QCOMPARE(document.GetPageLayout(), contents->layout);
-    QVERIFY(!operations->CanUndo());
+    QVERIFY(!operations->CanUndo() && document.isModified());
   }
 
   void anOperationStackOutlivesItsDocument() {
@@ -406,6 +479,15 @@ private slots:
   }
 
 private:
+  static QList<_ptr_t<Map>> mapsOn(PageLayout const& page) {
+    QList<_ptr_t<Map>> maps;
+    page.GetMaps(maps);
+    return maps;
+  }
+  static QList<_ptr_t<Element>> elementsOf(PageLayout const& page) {
+    return page.GetGraphicsContainer()->GetElements();
+  }
+
   QString path(QString const& name) const { return folder_.filePath(name); }
 
   void putChanged(QString const& name, QStringList const& field, QJsonValue const& value) const {

@@ -3,6 +3,7 @@
 #include "Symbols.h"
 #include "Elements.h"
 
+#include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/elements/PictureElement.h"
 
 #include <cmath>
@@ -144,7 +145,8 @@ private slots:
 
   void onlyAFrameOnThePageTellsTheMapItsSize() {
     auto const frame = madeIn<MapFrameElement>(0.0, 0.0, 10.0, 10.0);
-    frame->setPlaced(true);
+    ElementContainer page;
+    page.AddElement(frame);
     auto const aspect = [&] {
       QRect const device = frame->GetMap()->GetDisplayTransformation()->GetDeviceFrame();
       return double(device.width()) / device.height();
@@ -153,8 +155,7 @@ private slots:
     auto const copy = frame->Clone();
     copy->SetGeometry(make<Envelope>(0.0, 0.0, 20.0, 10.0));
     QCOMPARE(aspect(), 1.0);
-    frame->setPlaced(false);
-    copy->setPlaced(true);
+    page.ReplaceElement(frame->GetHandle(), copy);
     QCOMPARE(aspect(), 2.0);
   }
 

@@ -52,7 +52,8 @@ _ptr_t<MapFrameElement> framed(double rounding) {
 
 _ptr_t<MapFrameElement> framedMap() {
   auto const frame = framed(0);
-  frame->setPlaced(true);
+  ElementContainer page;  // which tells the map its size
+  page.AddElement(frame);
   IElementContainer* const graphics = frame->GetMap()->GetGraphicsContainer();
   for (int i = 0; i < 12; ++i) {
     graphics->AddElement(madeIn<EllipseElement>(i * 170, i * 120, i * 170 + 300, i * 120 + 200));
@@ -62,7 +63,6 @@ _ptr_t<MapFrameElement> framedMap() {
     label->setAngle(i * 9);
     graphics->AddElement(label);
   }
-  frame->setPlaced(false);
   return frame;
 }
 

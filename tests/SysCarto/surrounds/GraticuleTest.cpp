@@ -158,7 +158,6 @@ private:
     frame->SetBorder(nullptr);
     frame->SetBackGround(nullptr);
     frame->SetMap(mapShowing(system, bounds, 10, 8));
-    frame->setPlaced(true);
     frame->AddMapGrid(described<Graticule>(settings));
     return frame;
   }
