@@ -2428,6 +2428,37 @@
     </message>
 </context>
 <context>
+    <name>HistoryQuestion</name>
+    <message>
+        <source>Page settings can&apos;t be undone.</source>
+        <translation>Seiteneinstellungen lassen sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Where they scale the elements to another page size, what was done before can be neither undone nor redone any more:</source>
+        <translation>Wo sie die Elemente an eine andere Seitengröße anpassen, lässt sich danach auch das Bisherige weder rückgängig machen noch wiederholen:</translation>
+    </message>
+    <message>
+        <source>Another layout can&apos;t be undone.</source>
+        <translation>Ein anderes Layout lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>With a template&apos;s layout, what was done before can be neither undone nor redone any more:</source>
+        <translation>Mit dem Layout einer Vorlage lässt sich auch das Bisherige weder rückgängig machen noch wiederholen:</translation>
+    </message>
+    <message>
+        <source>… and %1 more.</source>
+        <translation>… und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Fortfahren</translation>
+    </message>
+</context>
+<context>
     <name>HostCommands</name>
     <message>
         <source>Delete the selected elements</source>
@@ -2750,6 +2781,33 @@
     </message>
 </context>
 <context>
+    <name>MapSteps</name>
+    <message>
+        <source>Zoom the map</source>
+        <translation>Karte zoomen</translation>
+    </message>
+    <message>
+        <source>Move the map in its frame</source>
+        <translation>Karte im Rahmen verschieben</translation>
+    </message>
+    <message>
+        <source>Set the map&apos;s extent</source>
+        <translation>Kartenausschnitt festlegen</translation>
+    </message>
+    <message>
+        <source>Set the map&apos;s scale</source>
+        <translation>Kartenmaßstab festlegen</translation>
+    </message>
+    <message>
+        <source>Show the layer “%1”</source>
+        <translation>Layer „%1“ einblenden</translation>
+    </message>
+    <message>
+        <source>Hide the layer “%1”</source>
+        <translation>Layer „%1“ ausblenden</translation>
+    </message>
+</context>
+<context>
     <name>MapSurround</name>
     <message>
         <source>Legend</source>
@@ -2948,6 +3006,22 @@
     <message>
         <source>%1 was changed by another program since it was read; name another file, or pass --force.</source>
         <translation>%1 wurde von einem anderen Programm geändert, seit es gelesen wurde; nennen Sie eine andere Datei, oder geben Sie --force an.</translation>
+    </message>
+    <message>
+        <source>the page has no data frame, so there is no map to show.</source>
+        <translation>die Seite hat keinen Datenrahmen, also gibt es keine Karte zu zeigen.</translation>
+    </message>
+    <message>
+        <source>the data frame is locked; Plotvane_UnlockDataFrame unlocks it.</source>
+        <translation>der Datenrahmen ist gesperrt; Plotvane_UnlockDataFrame entsperrt ihn.</translation>
+    </message>
+    <message>
+        <source>a map can&apos;t show that.</source>
+        <translation>das kann eine Karte nicht zeigen.</translation>
+    </message>
+    <message>
+        <source>the focus map has no layer &quot;%1&quot;; it has: %2.</source>
+        <translation>die Karte im aktiven Datenrahmen hat keinen Layer „%1“; sie hat: %2.</translation>
     </message>
 </context>
 <context>

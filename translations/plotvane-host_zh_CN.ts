@@ -2428,6 +2428,37 @@
     </message>
 </context>
 <context>
+    <name>HistoryQuestion</name>
+    <message>
+        <source>Page settings can&apos;t be undone.</source>
+        <translation>页面设置无法撤销。</translation>
+    </message>
+    <message>
+        <source>Where they scale the elements to another page size, what was done before can be neither undone nor redone any more:</source>
+        <translation>如果将元素缩放到另一页面尺寸，则以下操作将无法再撤销或重做：</translation>
+    </message>
+    <message>
+        <source>Another layout can&apos;t be undone.</source>
+        <translation>更换布局无法撤销。</translation>
+    </message>
+    <message>
+        <source>With a template&apos;s layout, what was done before can be neither undone nor redone any more:</source>
+        <translation>采用模板的布局后，以下操作将无法再撤销或重做：</translation>
+    </message>
+    <message>
+        <source>… and %1 more.</source>
+        <translation>……以及另外 %1 条。</translation>
+    </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+</context>
+<context>
     <name>HostCommands</name>
     <message>
         <source>Delete the selected elements</source>
@@ -2750,6 +2781,33 @@
     </message>
 </context>
 <context>
+    <name>MapSteps</name>
+    <message>
+        <source>Zoom the map</source>
+        <translation>缩放地图</translation>
+    </message>
+    <message>
+        <source>Move the map in its frame</source>
+        <translation>在框内移动地图</translation>
+    </message>
+    <message>
+        <source>Set the map&apos;s extent</source>
+        <translation>设置地图范围</translation>
+    </message>
+    <message>
+        <source>Set the map&apos;s scale</source>
+        <translation>设置地图比例尺</translation>
+    </message>
+    <message>
+        <source>Show the layer “%1”</source>
+        <translation>显示图层“%1”</translation>
+    </message>
+    <message>
+        <source>Hide the layer “%1”</source>
+        <translation>隐藏图层“%1”</translation>
+    </message>
+</context>
+<context>
     <name>MapSurround</name>
     <message>
         <source>Legend</source>
@@ -2948,6 +3006,22 @@
     <message>
         <source>%1 was changed by another program since it was read; name another file, or pass --force.</source>
         <translation>读取之后，%1 已被其他程序更改；请指定其他文件，或加上 --force。</translation>
+    </message>
+    <message>
+        <source>the page has no data frame, so there is no map to show.</source>
+        <translation>页面没有数据框，因此没有可显示的地图。</translation>
+    </message>
+    <message>
+        <source>the data frame is locked; Plotvane_UnlockDataFrame unlocks it.</source>
+        <translation>数据框已锁定；Plotvane_UnlockDataFrame 可将其解锁。</translation>
+    </message>
+    <message>
+        <source>a map can&apos;t show that.</source>
+        <translation>地图无法显示该范围。</translation>
+    </message>
+    <message>
+        <source>the focus map has no layer &quot;%1&quot;; it has: %2.</source>
+        <translation>活动数据框的地图没有图层“%1”；现有图层：%2。</translation>
     </message>
 </context>
 <context>

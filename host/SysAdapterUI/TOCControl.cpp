@@ -1,5 +1,6 @@
 #include <SysAdapterUI/TOCControl.h>
 
+#include "host/SysCarto/maps/MapSteps.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 
 #include <SysCarto/Map.h>
@@ -10,6 +11,7 @@
 #include <QPixmap>
 #include <QStyle>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 #include <cmath>
@@ -64,8 +66,9 @@ public:
   explicit LayerItem(_ptr_t<Layer> const& layer) : layer(layer) {
     setText(0, layer->GetName());
     setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    setCheckState(0, layer->IsVisible() ? Qt::Checked : Qt::Unchecked);
+    showState();
   }
+  void showState() { setCheckState(0, layer->IsVisible() ? Qt::Checked : Qt::Unchecked); }
   _ptr_t<Layer> const layer;
 };
 
@@ -108,9 +111,7 @@ TOCControl::TOCControl(QWidget* parent) : QWidget(parent), d(std::make_unique<Pr
   connect(d->tree, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) {
     auto* const row = dynamic_cast<LayerItem*>(item);
     bool const isOn = item->checkState(0) == Qt::Checked;
-    if (!row || row->layer->IsVisible() == isOn) return;
-    row->layer->SetVisible(isOn);
-    emit VisibilityChanged();
+    if (row) SysCarto::MapSteps::setVisible(*row->layer, isOn);
   });
 }
 
@@ -138,6 +139,12 @@ void TOCControl::SetBuddy(SysCarto::IKdxContents* contents) {
     auto* const empty = new QTreeWidgetItem(d->tree, {tr("No maps on this page")});
     empty->setFlags(Qt::NoItemFlags);
   }
+}
+
+void TOCControl::Refresh() {
+  QSignalBlocker const quiet(d->tree);
+  for (QTreeWidgetItemIterator item(d->tree); *item; ++item)
+    if (auto* const row = dynamic_cast<LayerItem*>(*item)) row->showState();
 }
 
 }  // namespace SysAdapterUI

@@ -26,6 +26,11 @@ void DocumentViews::follow() {
   mapView_->setLayout(document_.GetPageLayout());
 }
 
+void DocumentViews::redraw() {
+  layoutView_->refresh(SysCarto::ViewSurface::everything);
+  mapView_->refresh(SysCarto::ViewSurface::everything);
+}
+
 // The focus may have gone to another map since the view was last shown.
 void DocumentViews::show(Kind kind) {
   if (kind == Kind::Map) mapView_->setLayout(document_.GetPageLayout());

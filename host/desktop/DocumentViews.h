@@ -22,8 +22,11 @@ public:
   DocumentViews(SysCarto::MapDocument& document, QWidget* parent);
   ~DocumentViews() override;
 
-  /// Shows what the document holds now.
+  /// Shows the layout that the document holds now.
   void follow();
+
+  /// Shows anew what a step of the history may have changed.
+  void redraw();
 
   Kind kind() const { return static_cast<Kind>(currentIndex()); }
   void show(Kind kind);

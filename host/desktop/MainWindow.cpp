@@ -5,6 +5,8 @@
 #include "NoticeBar.h"
 #include "ScaleText.h"
 
+#include "host/SysCarto/maps/MapSteps.h"
+
 #include <SysCarto/Map.h>
 
 #include <QApplication>
@@ -61,7 +63,9 @@ private:
 };
 
 MainWindow::MainWindow()
-    : bench_([this](HostCommands& host) { addWindowCommands(host); }), files_(bench_.session(), *this) {
+    : bench_([this](HostCommands& host) { addWindowCommands(host); }),
+      files_(bench_.session(), *this),
+      question_(bench_.session(), *this) {
   new BoxTitles(this);
   setAcceptDrops(true);
   setWindowIcon(loadIcon(QStringLiteral("layout-view")));
@@ -139,7 +143,7 @@ void MainWindow::connectFiles() {
   connect(&files_, &DocumentFiles::changedOutside, notice_, &NoticeBar::tell);
   connect(&files_, &DocumentFiles::dataReplaced, this, [this] {
     contents_->SetBuddy(&bench_.views());
-    drawAnew();
+    bench_.views().redraw();
   });
   connect(&bench_.session(), &DocumentSession::replaced, notice_, &QWidget::hide);
   connect(notice_, &NoticeBar::reloadWanted, this, [this] {
@@ -147,18 +151,14 @@ void MainWindow::connectFiles() {
     files_.reload();
   });
   bench_.commands().setGuard([this](CommandEntry const& entry) {
-    return entry.identifier != QLatin1String("Plotvane_Export") || files_.mayExport();
+    if (entry.identifier == QLatin1String("Plotvane_Export")) return files_.mayExport();
+    return question_.mayRun(entry.identifier);
   });
   connect(&bench_.commands(), &CommandSet::failed, this, [this](QString const& sentence) {
     QMessageBox box(QMessageBox::Critical, tr("Plotvane"), sentence, QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
   });
-}
-
-void MainWindow::drawAnew() {
-  bench_.views().layoutView().refresh(everything);
-  bench_.views().mapView().refresh(everything);
 }
 
 void MainWindow::buildContents() {
@@ -172,7 +172,6 @@ void MainWindow::buildContents() {
   companion_ = std::make_unique<Companion>(*contents_);
   bench_.views().setCompanion(companion_.get());
   bench_.desktop().setTableOfContents(contents_);
-  connect(contents_, &SysAdapterUI::TOCControl::VisibilityChanged, this, &MainWindow::drawAnew);
 }
 
 void MainWindow::buildStatusBar() {
@@ -205,11 +204,11 @@ void MainWindow::documentReplaced() {
   actions_->refreshSoon();
 }
 
-// Data frames come and go with the steps of the history, and with them their maps.
+// Data frames come and go with the steps of the history, and with them their maps; so do layers.
 void MainWindow::listMaps() {
   QList<_ptr_t<SysCarto::Map>> maps;
   bench_.session().document().GetMaps(maps);
-  if (maps == listedMaps_) return;
+  if (maps == listedMaps_) return contents_->Refresh();
   listedMaps_ = maps;
   contents_->SetBuddy(&bench_.views());
 }
@@ -254,13 +253,7 @@ void MainWindow::takeScale() {
         tr("“%1” is no scale; type one like 1:25,000, 10M or 12.5 million").arg(scale_->text().left(40)), refusalMs);
   auto const layout = bench_.views().GetPageLayout();
   auto const map = layout ? layout->GetFocusMap() : nullptr;
-  if (map && wanted) {
-    double const factor = *wanted / map->GetDisplayTransformation()->GetMapScale();
-    auto const extent = map->GetExtent();
-    extent->Expand(extent->GetWidth() * (factor - 1) / 2, extent->GetHeight() * (factor - 1) / 2, false);
-    map->SetExtent(extent);
-    drawAnew();
-  }
+  if (map && wanted) SysCarto::MapSteps::setScale(*map, *wanted);
   showState();
 }
 

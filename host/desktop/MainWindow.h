@@ -2,6 +2,7 @@
 
 #include "ActionTable.h"
 #include "DocumentFiles.h"
+#include "HistoryQuestion.h"
 #include "Workbench.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
@@ -48,7 +49,6 @@ private:
   void restoreState();
 
   void documentReplaced();
-  void drawAnew();
   void listMaps();
   void showState();
   void showPointer(QPoint const& positionPx);
@@ -57,6 +57,7 @@ private:
 
   Workbench bench_;
   DocumentFiles files_;
+  HistoryQuestion question_;
   std::unique_ptr<ActionTable> actions_;
   std::unique_ptr<Companion> companion_;
   SysAdapterUI::TOCControl* contents_ = nullptr;

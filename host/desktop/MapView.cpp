@@ -1,5 +1,7 @@
 #include "MapView.h"
 
+#include "host/SysCarto/maps/MapSteps.h"
+
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QPainter>
@@ -8,6 +10,7 @@
 
 using SysCarto::Map;
 using SysCarto::MapFrameElement;
+using SysCarto::MapSteps;
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
 
@@ -76,24 +79,23 @@ bool MapView::isFree() const {
   return frame && !frame->IsLocked() && !tiles_.sizePx().isEmpty();
 }
 
-// Moves the map by device pixels, then enlarges it about a place that stays where it is.
-void MapView::showExtent(QPointF const& fixed, QPointF const& offset, double factor) {
-  QRectF const place = placePx();
+double MapView::unitsPerPx() const { return map()->GetExtent()->GetWidth() / placePx().width(); }
+
+// A place that stays where it is, in device pixels.
+void MapView::zoomAt(QPointF const& fixedPx, double factor) {
+  QPointF const place = placePx().topLeft();
   auto const shown = map()->GetExtent();
-  double const unitsPerPx = shown->GetWidth() / place.width();
-  double const x = shown->GetXMin() + (fixed.x() - place.left()) * unitsPerPx;
-  double const y = shown->GetYMax() - (fixed.y() - place.top()) * unitsPerPx;
-  shown->Offset(-offset.x() * unitsPerPx, offset.y() * unitsPerPx);
+  double const x = shown->GetXMin() + (fixedPx.x() - place.x()) * unitsPerPx();
+  double const y = shown->GetYMax() - (fixedPx.y() - place.y()) * unitsPerPx();
   auto const nearer = [factor](double centre, double side) { return centre + (side - centre) / factor; };
   shown->PutCoords(nearer(x, shown->GetXMin()), nearer(y, shown->GetYMin()), nearer(x, shown->GetXMax()),
                    nearer(y, shown->GetYMax()));
-  map()->SetExtent(shown);
-  refresh(everything);
+  MapSteps::zoom(*map(), *shown);
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {
   if (!isFree() || grabbed_) return;
-  showExtent(event->position() * devicePixelRatioF(), {}, zoomOf(*event));
+  zoomAt(event->position() * devicePixelRatioF(), zoomOf(*event));
   event->accept();
 }
 
@@ -112,9 +114,12 @@ void MapView::mouseMoveEvent(QMouseEvent* event) {
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !grabbed_) return;
-  QPoint const offset = event->pos() - *std::exchange(grabbed_, std::nullopt);
+  QPointF const offset = QPointF(event->pos() - *std::exchange(grabbed_, std::nullopt)) * devicePixelRatioF();
   clearOverlay();
-  if (!offset.isNull() && isFree()) showExtent({}, QPointF(offset) * devicePixelRatioF(), 1);
+  if (offset.isNull() || !isFree()) return;
+  auto const shown = map()->GetExtent();
+  shown->Offset(-offset.x() * unitsPerPx(), offset.y() * unitsPerPx());
+  MapSteps::pan(*map(), *shown);
 }
 
 void MapView::hideEvent(QHideEvent*) {

@@ -38,7 +38,8 @@ private:
   QRect placePx() const;
   void paintMap();
   bool isFree() const;
-  void showExtent(QPointF const& fixed, QPointF const& offset, double factor);
+  double unitsPerPx() const;
+  void zoomAt(QPointF const& fixedPx, double factor);
 
   SysUtility::_ptr_t<SysCarto::PageLayout> layout_;
   SysUtility::_ptr_t<SysCarto::Map> shown_;

@@ -3,6 +3,9 @@
 #include "Console.h"
 #include "DocumentLock.h"
 #include "DocumentReport.h"
+#include "ScaleText.h"
+
+#include "host/SysCarto/maps/MapSteps.h"
 
 #include <QApplication>
 #include <QJsonDocument>
@@ -11,6 +14,8 @@
 #include <algorithm>
 #include <cmath>
 
+using SysCarto::Map;
+using SysCarto::MapSteps;
 using SysUtility::_ptr_t;
 
 namespace {
@@ -38,6 +43,7 @@ bool isInCatalogue(QString const& identifier) {
 
 bool isPoint(QString const& text) { return numbersIn(text).size() == 2; }
 bool areTwoPoints(QString const& text) { return numbersIn(text).size() == 4; }
+bool isScale(QString const& text) { return scaleDenominatorOf(text).has_value(); }
 bool isView(QString const& text) { return text == QLatin1String("layout") || text == QLatin1String("map"); }
 bool isAnswer(QString const& text) { return text.indexOf(QLatin1Char(':')) > 0; }
 bool isAnything(QString const& text) { return !text.isEmpty(); }
@@ -65,6 +71,10 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("view"),       text("layout|map"),   isView,       &RunSteps::show,    {}},
       {text("click"),      text("X,Y"),          isPoint,      &RunSteps::clickAt, {}},
       {text("drag"),       text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::drag,    {}},
+      {text("scale"),      text("1:N"),          isScale,      &RunSteps::setScale, {}},
+      {text("extent"),     text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::setExtent, {}},
+      {text("show"),       text("LAYER"),        isAnything,   &RunSteps::showLayers, {}},
+      {text("hide"),       text("LAYER"),        isAnything,   &RunSteps::hideLayers, {}},
       {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
       {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
       {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
@@ -192,6 +202,37 @@ QString RunSteps::withMouse(QVector<QPointF> const& pathCm) {
   for (QPoint const& at : path.mid(1)) send(QEvent::MouseMove, at);
   send(QEvent::MouseButtonRelease, path.last());
   return QString();
+}
+
+QString RunSteps::setScale(QString const& scale) {
+  return withFreeMap([&](Map& map) { return MapSteps::setScale(map, *scaleDenominatorOf(scale)); });
+}
+
+QString RunSteps::setExtent(QString const& sides) {
+  auto const side = numbersIn(sides);
+  return withFreeMap([&](Map& map) { return MapSteps::setExtent(map, {side[0], side[1], side[2], side[3]}); });
+}
+
+// The map of the focus data frame, as the wheel and the field for the scale find it.
+QString RunSteps::withFreeMap(std::function<bool(Map&)> const& change) {
+  auto const layout = bench_.session().document().GetPageLayout();
+  auto const frame = layout->GetFocusMapFrameElement();
+  if (!frame) return tr("the page has no data frame, so there is no map to show.");
+  if (frame->IsLocked()) return tr("the data frame is locked; Plotvane_UnlockDataFrame unlocks it.");
+  return change(*frame->GetMap()) ? QString() : tr("a map can't show that.");
+}
+
+// All of that name, since names need not differ.
+QString RunSteps::setVisible(QString const& layerName, bool visible) {
+  auto const map = bench_.session().document().GetPageLayout()->GetFocusMap();
+  QStringList names;
+  for (auto const& layer : map ? map->GetLayers() : QList<_ptr_t<SysCarto::Layer>>()) {
+    names << layer->GetName();
+    if (names.last() == layerName) MapSteps::setVisible(*layer, visible);
+  }
+  return names.contains(layerName)
+             ? QString()
+             : tr("the focus map has no layer \"%1\"; it has: %2.").arg(layerName, names.join(QStringLiteral(", ")));
 }
 
 QString RunSteps::answer(QString const& text) {

@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 /// Work on a document without a person: steps that click commands, move the mouse and answer dialogs, on the very views
 /// and commands of the window.
 class RunSteps {
@@ -38,10 +40,16 @@ private:
   QString show(QString const& view);
   QString clickAt(QString const& point);
   QString drag(QString const& points);
+  QString setScale(QString const& scale);
+  QString setExtent(QString const& sides);
+  QString showLayers(QString const& name) { return setVisible(name, true); }
+  QString hideLayers(QString const& name) { return setVisible(name, false); }
   QString answer(QString const& text);
   QString save(QString const& file);
   QString info(QString const&);
   QString withMouse(QVector<QPointF> const& pathCm);
+  QString withFreeMap(std::function<bool(SysCarto::Map&)> const& change);
+  QString setVisible(QString const& layerName, bool visible);
 
   Workbench bench_;
   DialogAnswers answers_;

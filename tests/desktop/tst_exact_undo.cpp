@@ -1,4 +1,11 @@
+#include "LayerFixture.h"
 #include "desktop/WorkbenchPage.h"
+
+#include "host/SysCarto/elements/Placement.h"
+#include "host/SysCarto/maps/MapSteps.h"
+#include "host/desktop/DialogAnswers.h"
+
+#include <QUndoStack>
 
 #include <random>
 
@@ -28,31 +35,48 @@ class ExactUndoTest : public QObject {
   Q_OBJECT
 
 private slots:
-  void initTestCase() { prepareApplication(); }
+  void initTestCase() {
+    prepareApplication();
+    WorkbenchPage page;
+    fill(page);
+    QVERIFY(page.bench.session().saveAs(folder_.filePath("start.kdx")));
+  }
+
   void undoingEverythingGivesTheStartAndRedoingTheEnd() {
-    int steps = 0;
+    int steps = 0, fresh = 0;
     for (int i = 0; i < sequences; ++i) {
       WorkbenchPage page;
       QCOMPARE(page.bench.plugin().state(), PluginLibrary::State::Loaded);
-      fill(page);
-      auto const history = page.bench.session().document().GetOperationStack();
-      QByteArray const start = page.bench.session().document().GetText();
-      Apart const apartAtStart = apart(page);
-      for (int step = 0; step < stepsOfASequence; ++step) doSomething(page);
+      auto& document = page.bench.session().document();
+      QVERIFY(page.bench.session().open(folder_.filePath("start.kdx")));
+      QByteArray const saved = document.GetText();
+      QByteArray start = saved;
+      Apart apartAtStart = apart(page);
+      for (int step = 0; step < stepsOfASequence; ++step) {
+        int const known = document.history()->count();
+        doSomething(page);
+        if (document.history()->count() > 0) continue;
+        start = document.GetText();  // what the history can take back begins here
+        apartAtStart = apart(page);
+        fresh += known > 0;
+      }
+      auto const history = document.GetOperationStack();
       while (history->CanRedo()) history->Redo();
-      QByteArray const end = page.bench.session().document().GetText();
+      QByteArray const end = document.GetText();
       Apart const apartAtEnd = apart(page);
 
       for (; history->CanUndo(); ++steps) history->Undo();
-      QCOMPARE(page.layout()->GetAlignToMargins(), apartAtEnd.alignsToMargins);
+      if (!document.isModified()) QVERIFY(document.GetText() == saved);
+      QCOMPARE(apart(page).alignsToMargins, apartAtEnd.alignsToMargins);
       put(page, apartAtStart);
-      QVERIFY2(page.bench.session().document().GetText() == start, qPrintable(QString("sequence %1").arg(i)));
+      QVERIFY2(document.GetText() == start, qPrintable(QString("sequence %1").arg(i)));
 
       while (history->CanRedo()) history->Redo();
       put(page, apartAtEnd);
-      QVERIFY2(page.bench.session().document().GetText() == end, qPrintable(QString("sequence %1").arg(i)));
+      QVERIFY2(document.GetText() == end, qPrintable(QString("sequence %1").arg(i)));
     }
     QVERIFY2(steps > sequences * 2, qPrintable(QString::number(steps)));  // or the steps did nothing
+    QVERIFY2(fresh > sequences / 10, qPrintable(QString::number(fresh)));
   }
 
   void eachGestureIsOneNamedStep() {
@@ -73,6 +97,20 @@ private slots:
     QCOMPARE(lastStep(), QString("Delete the selected elements"));
     QVERIFY(!page.now(*box));
 
+    auto const map = page.add<MapFrameElement>(1.0, 9.0, 9.0, 17.0)->GetMap();
+    map->SetExtent(make<SysGeometry::Envelope>(0.1, 0.2, 1000.0 / 3, 5.0));
+    auto const composed = map->GetStoredBounds();
+    QVERIFY(page.run("Host_MapView"));
+    page.shown().grab();
+    for (int turn : {120, 120, -120}) page.wheel({0, turn});
+    QCOMPARE(lastStep(), QString("Zoom the map"));
+    page.drag({400, 300}, {420, 330});
+    QCOMPARE(lastStep(), QString("Move the map in its frame"));
+    history->Undo();
+    history->Undo();
+    QCOMPARE(lastStep(), QString("Delete the selected elements"));
+    QVERIFY(SysCarto::haveSameCorners(map->GetStoredBounds(), composed));
+
     for (int i = 0; i < 4; ++i) history->Undo();
     QVERIFY(!history->CanUndo());
     QCOMPARE(page.place(*box), QRectF(4, 4, 4, 3));
@@ -82,12 +120,18 @@ private:
   // What the history leaves alone.
   struct Apart {
     bool alignsToMargins;
+    int paper;
+    short orientation;
     QMap<int, bool> locks;
   };
 
   int upTo(int most) { return std::uniform_int_distribution<int>(0, most)(random_); }
-  static void fill(WorkbenchPage& page) {
-    page.add<MapFrameElement>(1.13, 14.7, 11.9, 27.03);
+  void fill(WorkbenchPage& page) {
+    auto const map = page.add<MapFrameElement>(1.13, 14.7, 11.9, 27.03)->GetMap();
+    map->SetExtent(make<SysGeometry::Envelope>(1.0 / 3, 0.1, 7.7, 5.2));
+    map->AddLayer(
+        opened({written(folder_, "a.geojson", geoJson(R"({"type":"Point","coordinates":[1,2]})")), {}, {}, {}}, {})
+            .layer);
     page.add<MapFrameElement>(12.4, 15.1, 19.77, 22.6);
     page.add<SysCarto::RectangleElement>(2.1, 2.3, 6.6, 5.9);
     page.add<SysCarto::RectangleElement>(8.0 / 3, 7.0, 9.1, 11.0 / 3);
@@ -104,9 +148,14 @@ private:
   }
 
   void doSomething(WorkbenchPage& page) {
-    switch (upTo(5)) {
+    switch (upTo(8)) {
       case 0:
       case 1: return useTheMouse(page);
+      case 4: return changeTheMap(page);
+      case 5: return showOrHideLayers(page);
+      case 6:
+        if (upTo(2) == 0) return upTo(3) == 0 ? takeATemplate(page) : setThePageUp(page);
+        break;
       case 2:
         return page.key(static_cast<Qt::Key>(Qt::Key_Left + upTo(3)), upTo(1) ? Qt::ShiftModifier : Qt::NoModifier);
       case 3: page.run("Host_SelectAll"); break;
@@ -130,8 +179,49 @@ private:
       page.drag(grip, grip + QPoint(upTo(80) - 40, upTo(80) - 40), shift);
   }
 
+  void changeTheMap(WorkbenchPage& page) {
+    if (upTo(2) == 0) {
+      auto const map = page.layout()->GetFocusMap();
+      if (map) SysCarto::MapSteps::setScale(*map, 1000 + upTo(9999));
+      return;
+    }
+    page.run("Host_MapView");
+    page.shown().grab();
+    if (upTo(1) == 0)
+      for (int turns = upTo(2); turns >= 0; --turns) page.wheel({0, 240 * upTo(1) - 120});
+    else
+      page.drag({400, 300}, {upTo(799), upTo(599)});
+    page.run("Host_LayoutView");
+  }
+
+  static void showOrHideLayers(WorkbenchPage& page) {
+    QList<_ptr_t<SysCarto::Map>> maps;
+    page.layout()->GetMaps(maps);
+    for (auto const& map : qAsConst(maps))
+      for (auto const& layer : map->GetLayers()) SysCarto::MapSteps::setVisible(*layer, !layer->IsVisible());
+  }
+
+  void setThePageUp(WorkbenchPage& page) {
+    choose("comboBox_PaperType", upTo(1) ? "A4" : "A3");
+    choose("radioButton_H", upTo(1) ? "on" : "off");
+    choose("checkBox_ScaleMapElements", upTo(1) ? "on" : "off");
+    page.run("Plotvane_PageSetting");
+    QCOMPARE(answers_.takeProblem(), QString());
+  }
+
+  void takeATemplate(WorkbenchPage& page) {
+    choose("file", QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/templates/a4-report.kdx"));
+    page.run("Plotvane_ChangePageLayout");
+    QCOMPARE(answers_.takeProblem(), QString());
+  }
+
+  void choose(QString const& widget, QString const& value) {
+    answers_.add({DialogAnswers::Answer::Kind::Widget, widget, value});
+  }
+
   static Apart apart(WorkbenchPage& page) {
-    Apart values{page.layout()->GetAlignToMargins(), {}};
+    auto const* const sheet = page.layout()->GetPage();
+    Apart values{page.layout()->GetAlignToMargins(), sheet->GetFormID(), sheet->GetOrientation(), {}};
     for (auto const& element : page.container().GetElements())
       if (auto const frame = ptr_cast<MapFrameElement>(element)) values.locks[frame->GetHandle()] = frame->IsLocked();
     return values;
@@ -139,12 +229,16 @@ private:
 
   static void put(WorkbenchPage& page, Apart const& values) {
     page.layout()->SetAlignToMargins(values.alignsToMargins);
+    page.layout()->GetPage()->SetFormID(values.paper);
+    page.layout()->GetPage()->SetOrientation(values.orientation);
     for (auto const& element : page.container().GetElements())
       if (auto const frame = ptr_cast<MapFrameElement>(element))
         frame->SetLocked(values.locks.value(frame->GetHandle(), frame->IsLocked()));
   }
 
   std::mt19937 random_{20261125};
+  DialogAnswers answers_;
+  QTemporaryDir folder_;
 };
 
 QTEST_MAIN(ExactUndoTest)

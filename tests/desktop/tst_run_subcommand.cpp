@@ -44,6 +44,14 @@ private slots:
     row("a tool of the page in the map view", "view=map Plotvane_ZoomIn", 1, "needs the page layout shown");
     row("a click in the map view", "view=map click=1,1", 1, "needs the page layout shown");
     row("a name that is not on the page", "select=Legend", 1, "no element is named \"Legend\"");
+    row("a step from before the page was scaled",
+        "select=World,Inset Plotvane_LeftAlignment answer=comboBox_PaperType:A3 answer=checkBox_ScaleMapElements:on "
+        "Plotvane_PageSetting select=World,Inset Plotvane_TopAlignment undo undo",
+        1, "it needs a change to take back");
+    row("an extent that no map shows", "extent=0,0,1e300,1", 1, "can't show");
+    row("the scale of a locked map", "Plotvane_LockDataFrame scale=1:5000", 1, "Plotvane_UnlockDataFrame");
+    row("a layer that is not there", "hide=Roads", 1, "no layer \"Roads\"");
+    row("no scale", "scale=1:0", 2, "scale=1:N");
     row("nothing to undo", "undo", 1, "it needs a change to take back");
     row("an answer that no dialog takes", "answer=lineEdit_DPI:96", 1, "lineEdit_DPI");
     row("a folder that is not there", "save=none/out.kdx", 1, "none");
@@ -97,8 +105,16 @@ private slots:
   }
 
   void undoneWorkSavesTheSameFile() {
-    QStringList const steps{"select-all", "Plotvane_TopAlignment", "Plotvane_SendToBackElements", "undo",
-                            "undo",       "save=same.kdx"};
+    QStringList const steps{"select-all",
+                            "Plotvane_TopAlignment",
+                            "Plotvane_SendToBackElements",
+                            "scale=5000",
+                            "extent=0,0,7,5",
+                            "undo",
+                            "undo",
+                            "undo",
+                            "undo",
+                            "save=same.kdx"};
     Outcome const outcome = run(QStringList{"run", "two.kdx"} + steps, folder_.path());
     QCOMPARE(outcome.status, 0);
     auto const files = contents(folder_.path());

@@ -335,7 +335,7 @@ private slots:
     QCOMPARE(tree->topLevelItem(0)->childCount(), sample.document().GetMap(0)->GetLayerCount());
   }
 
-  void hidingALayerIsAChangeOfTheDocument() {
+  void hidingALayerIsAStep() {
     WorldWindow sample;
     auto* const tree = sample.window.findChild<QTreeWidget*>("treeWidget_Contents");
     QTreeWidgetItem* const layer = tree->topLevelItem(0)->child(0);
@@ -343,8 +343,50 @@ private slots:
     auto const map = sample.document().GetMap(0);
     QVERIFY(!map->GetLayer(map->GetLayerCount() - 1)->IsVisible());
     QTRY_VERIFY(sample.window.isWindowModified());
-    layer->setCheckState(0, Qt::Checked);
-    QTRY_VERIFY(!sample.window.isWindowModified());
+    QVERIFY(sample.window.actions().find("Host_Undo")->text().contains(layer->text(0)));
+    sample.trigger("Host_Undo");
+    QCOMPARE(layer->checkState(0), Qt::Checked);
+    QVERIFY(!sample.window.isWindowModified());
+  }
+
+  void lookingChangesNothing() {
+    WorldWindow sample;
+    WorkbenchPage page(sample.window.bench());
+    page.wheel({0, 120});
+    page.wheel({0, -240}, Qt::ControlModifier);
+    for (char const* command : {"Plotvane_ZoomToWhole", "Host_SelectAll", "Host_MapView", "Host_LayoutView"})
+      sample.trigger(command);
+    DialogAnswers answers;
+    for (auto const& [widget, value] :
+         {std::make_pair("lineEdit_OutputPath", folder_.filePath("out.png")), {"lineEdit_DPI", "20"}})
+      answers.add({DialogAnswers::Answer::Kind::Widget, widget, value});
+    sample.trigger("Plotvane_Export");
+    QCOMPARE(answers.takeProblem(), QString());
+    QVERIFY(!sample.window.isWindowModified() && !sample.isEnabled("Host_Undo"));
+  }
+
+  void whatCostsTheHistoryIsAskedForOnce() {
+    WorldWindow sample;
+    DialogAnswers answers;
+    DialogAnswers::Answer const cancel{DialogAnswers::Answer::Kind::Cancel, {}, {}};
+    auto const trigger = [&](char const* command, QVector<DialogAnswers::Answer> const& given) {
+      for (auto const& answer : given) answers.add(answer);
+      sample.trigger(command);
+      return answers.takeProblem();
+    };
+    sample.trigger("Host_SelectAll");
+    sample.trigger("Plotvane_LeftAlignment");
+    for (char const* command : {"Plotvane_PageSetting", "Plotvane_ChangePageLayout"})
+      QCOMPARE(trigger(command, {button("Cancel")}), QString());  // or another dialog would want an answer
+    QCOMPARE(trigger("Plotvane_PageSetting", {button("Continue"), cancel}), QString());
+    QCOMPARE(trigger("Plotvane_PageSetting", {cancel}), QString());
+    QVERIFY(sample.isEnabled("Host_Undo"));
+
+    sample.trigger("Plotvane_TopAlignment");
+    QString const file = QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/templates/a4-report.kdx");
+    DialogAnswers::Answer const choice{DialogAnswers::Answer::Kind::Widget, "file", file};
+    QCOMPARE(trigger("Plotvane_ChangePageLayout", {button("Continue"), choice}), QString());
+    QVERIFY(!sample.isEnabled("Host_Undo") && sample.window.isWindowModified());
   }
 
   void aMessageBoxHasRoomForItsTitle() {

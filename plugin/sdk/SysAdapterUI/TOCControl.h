@@ -20,9 +20,8 @@ public:
   /// Shows the maps of these contents, borrowed; null shows none.
   void SetBuddy(SysCarto::IKdxContents* contents);
 
-signals:
-  /// The user has shown or hidden a layer.
-  void VisibilityChanged();
+  /// Shows anew which layers are visible. A click on a layer's box is a step of the history, which may be taken back.
+  void Refresh();
 
 private:
   struct Private;
