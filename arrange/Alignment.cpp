@@ -84,7 +84,7 @@ void AlignmentCommand::OnClick() {
       active.container->ReplaceElement(selection[i]->GetHandle(), moved);
     }
   }
-  active.view->PartialRefresh(8, nullptr);
+  active.view->PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 LeftAlignmentElement::LeftAlignmentElement() : AlignmentCommand(leftRow) {}

@@ -14,7 +14,7 @@ void setLocked(IApplicationHook& hook, bool locked) {
     if (locked) active.container->UnselectElement(element);
     frame->SetLocked(locked);
   }
-  hook.GetActiveView()->PartialRefresh(8, nullptr);
+  hook.GetActiveView()->PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 }  // namespace

@@ -103,7 +103,7 @@ void DistributionCommand::OnClick() {
       previous = moved;
     }
   }
-  active.view->PartialRefresh(8, nullptr);
+  active.view->PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 DistributeHorizontallyElements::DistributeHorizontallyElements() : DistributionCommand(horizontally) {}

@@ -41,7 +41,7 @@ bool FitToMarginsCommand::IsEnable() {
   auto const selection = active.container->GetSelectedElements();
   return !selection.isEmpty() && std::none_of(selection.begin(), selection.end(), [](auto const& element) {
     int const type = element->GetType();
-    return type == surroundFrameType || type == markerType;
+    return type == SysCarto::ElementType::MapSurroundFrame || type == SysCarto::ElementType::Marker;
   });
 }
 
@@ -60,7 +60,7 @@ void FitToMarginsCommand::OnClick() {
       active.container->ReplaceElement(element->GetHandle(), fitted(*element, transform, *margins));
     active.container->BringForward(selection);
   }
-  active.view->PartialRefresh(8, nullptr);
+  active.view->PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 // Stretched by its drawn bounds, then placed by its own rectangle.
@@ -73,7 +73,7 @@ _ptr_t<Element> FitToMarginsCommand::fitted(Element const& element,
   scaleExtents(*copy, type, *drawn, row_->extents, margins.GetWidth(), margins.GetHeight());
 
   auto const own = copy->GetEnvelope();
-  bool const movesUp = row_->extents.height && !(type == textType && row_->extents.width);
+  bool const movesUp = row_->extents.height && !(type == SysCarto::ElementType::Text && row_->extents.width);
   copy->Move(row_->extents.width ? margins.GetXMin() - own->GetXMin() : 0.0,
              movesUp ? margins.GetYMin() - own->GetYMin() : 0.0);
   return copy;

@@ -38,7 +38,8 @@ bool SameSizeCommand::IsEnable() {
 void SameSizeCommand::OnClick() {
   ActiveElements const active(*hook());
   if (!active) return;
-  if (resizeSelection(*active.view, *active.container)) active.view->PartialRefresh(8, nullptr);
+  if (resizeSelection(*active.view, *active.container))
+    active.view->PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 // False where there is nothing to redraw.
@@ -55,7 +56,7 @@ bool SameSizeCommand::resizeSelection(SysCarto::ActiveView const& view, IElement
     auto const& element = selection[i];
     auto const drawn = element->GetBoundary(transform)->GetEnvelope();
     int const type = element->GetType();
-    if (type == markerType) return false;
+    if (type == SysCarto::ElementType::Marker) return false;
     auto const resized = element->Clone();
     scaleExtents(*resized, type, *drawn, row_->extents, width, height);
     container.ReplaceElement(element->GetHandle(), resized);

@@ -10,10 +10,6 @@ struct SizedExtents {
   bool height;
 };
 
-constexpr int markerType = 1;
-constexpr int textType = 9;
-constexpr int surroundFrameType = 12;
-
 /// A factor for scaling what is `drawn` wide or high to `wanted`. What has no extent counts as 0.01.
 inline double scaleFactor(double wanted, double drawn) { return wanted / (drawn == 0.0 ? 0.01 : drawn); }
 
@@ -23,7 +19,7 @@ inline void scaleExtents(SysCarto::Element& element, int type, SysGeometry::Enve
   double const fx = extents.width ? scaleFactor(wantedWidth, drawn.GetXMax() - drawn.GetXMin()) : 1.0;
   double const fy = extents.height ? scaleFactor(wantedHeight, drawn.GetYMax() - drawn.GetYMin()) : 1.0;
   auto const origin = SysUtility::make<SysGeometry::Point>(drawn.GetXMin(), drawn.GetYMin(), 0.0);
-  if (type == textType)
+  if (type == SysCarto::ElementType::Text)
     element.Scale(origin, extents.width ? fx : fy, 1.0);
   else
     element.Scale(origin, fx, fy);

@@ -44,7 +44,7 @@ void StackingOrderCommand::OnClick() {
     EditorOperation const operation(QCoreApplication::translate(row_->context, row_->operation));
     (active.container->*row_->restack)(active.container->GetSelectedElements());
   }
-  active.view->PartialRefresh(8, nullptr);
+  active.view->PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 BringForwardElements::BringForwardElements() : StackingOrderCommand(forward) {}

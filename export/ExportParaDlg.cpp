@@ -3,6 +3,8 @@
 #include "PreView.h"
 #include "ui_ExportParaDlg.h"
 
+#include <SysDisplay/Units.h>
+
 #include <QFileDialog>
 #include <QIntValidator>
 
@@ -15,7 +17,6 @@ using SysUtility::_ptr_t;
 
 namespace {
 
-constexpr double cmPerInch = 2.54;
 constexpr int usualDpi = 96;
 constexpr int mostDpi = 3000, mostPixels = 10000;
 
@@ -80,7 +81,7 @@ void ExportParaDlg::slotWidthEdited(QString const& text) {
   layout_->GetPage()->QuerySize(widthCm, heightCm);
   int const width = text.toInt();
   ui_->lineEdit_Height->setText(QString::number(rounded((heightCm / widthCm) * width)));
-  showResolution(rounded((cmPerInch / widthCm) * width));
+  showResolution(rounded((SysDisplay::cmPerInch / widthCm) * width));
 }
 
 void ExportParaDlg::slotHeightEdited(QString const& text) {
@@ -89,7 +90,7 @@ void ExportParaDlg::slotHeightEdited(QString const& text) {
   layout_->GetPage()->QuerySize(widthCm, heightCm);
   int const height = text.toInt();
   ui_->lineEdit_Width->setText(QString::number(rounded((widthCm / heightCm) * height)));
-  showResolution(rounded((cmPerInch / heightCm) * height));
+  showResolution(rounded((SysDisplay::cmPerInch / heightCm) * height));
 }
 
 void ExportParaDlg::slot_PreView() {

@@ -2,6 +2,7 @@
 
 #include <SysCarto/FeatureLayer.h>
 #include <SysCarto/MapSurroundFrame.h>
+#include <SysDisplay/Units.h>
 
 #include <QPainter>
 
@@ -26,16 +27,7 @@ namespace Plugin {
 
 namespace {
 
-constexpr double cmPerInch = 2.54;
-constexpr double pixelsPerInchAtScale1 = 96.0;
-
-constexpr int dataFrameType = 11;
-constexpr int surroundFrameType = 12;
-constexpr int featureLayerType = 2;
 constexpr int featurePhase = 1;
-
-// Surrounds of these kinds are drawn through their elements, all others by themselves.
-constexpr int kindsDrawnByElements[] = {1, 2, 3, 6, 7, 8, 9};
 
 QRect frameOfSize(int widthPx, int heightPx) { return {QPoint(0, 0), QPoint(widthPx - 1, heightPx - 1)}; }
 
@@ -83,7 +75,7 @@ QImage mapImage(Map& map, QSize const& clip, _ptr_t<Envelope> const& clipExtent,
 QList<_ptr_t<Layer>> layersByLabelPriority(Map const& map) {
   QList<_ptr_t<Layer>> layers;
   for (auto const& layer : map.GetLayers())
-    if (layer->GetType() == featureLayerType) layers << layer;
+    if (layer->GetType() == SysCarto::LayerType::Feature) layers << layer;
   auto const priority = [](_ptr_t<Layer> const& layer) {
     auto const features = ptr_cast<FeatureLayer>(layer);
     return features ? features->GetAnnotationProperties()->GetPriority() : std::numeric_limits<int>::min();
@@ -141,7 +133,7 @@ LayoutRenderer::LayoutRenderer(_ptr_t<SysCarto::PageLayout> const& layout, QSize
   layout->GetPage()->QuerySize(pageWidthCm, pageHeightCm_);
   cmPerPixel_ = pageWidthCm / imageSize.width();
   pageTransform_ = layout->GetDisplayTransformation()->Clone();
-  pageTransform_->SetPageScale(dpi / pixelsPerInchAtScale1);
+  pageTransform_->SetPageScale(dpi / SysDisplay::pixelsPerInch);
   pageTransform_->SetDeviceFrame(frameOfSize(imageSize.width(), imageSize.height()));
   pageTransform_->SetVisibleBounds(layout->GetPage()->GetPageEnvelope());
 }
@@ -149,8 +141,8 @@ LayoutRenderer::LayoutRenderer(_ptr_t<SysCarto::PageLayout> const& layout, QSize
 QSize LayoutRenderer::imageSize(SysCarto::Page const& page, int dpi) {
   double widthCm, heightCm;
   page.QuerySize(widthCm, heightCm);
-  double const width = std::trunc(widthCm / cmPerInch * dpi);
-  double const height = std::trunc(heightCm / cmPerInch * dpi);
+  double const width = std::trunc(widthCm / SysDisplay::cmPerInch * dpi);
+  double const height = std::trunc(heightCm / SysDisplay::cmPerInch * dpi);
   double const most = std::numeric_limits<int>::max();
   if (!(width >= 1.0 && height >= 1.0 && width <= most && height <= most)) return {};
   return {static_cast<int>(width), static_cast<int>(height)};
@@ -193,9 +185,9 @@ void LayoutRenderer::drawTile(QPainter& painter, QRect const& pixels, _ptr_t<Tra
 }
 
 void LayoutRenderer::drawElement(Tile const& tile, _ptr_t<Element> const& element) const {
-  if (element->GetType() == dataFrameType) {
+  if (element->GetType() == SysCarto::ElementType::DataFrame) {
     if (auto const frame = ptr_cast<MapFrameElement>(element)) return drawMapFrame(tile, frame);
-  } else if (element->GetType() == surroundFrameType) {
+  } else if (element->GetType() == SysCarto::ElementType::MapSurroundFrame) {
     if (auto const frame = ptr_cast<MapSurroundFrame>(element)) return drawSurroundFrame(tile, *frame);
   }
   element->Draw(tile.painter, tile.transform, tile.cancel);
@@ -219,9 +211,8 @@ void LayoutRenderer::drawMapFrame(Tile const& tile, _ptr_t<MapFrameElement> cons
 
 void LayoutRenderer::drawSurroundFrame(Tile const& tile, MapSurroundFrame& frame) {
   auto const surround = frame.GetMapSurround();
-  bool const byElements = surround && std::find(std::begin(kindsDrawnByElements), std::end(kindsDrawnByElements),
-                                                surround->kind) != std::end(kindsDrawnByElements);
-  if (!byElements) return frame.Draw(tile.painter, tile.transform, tile.cancel);
+  if (!surround || !SysCarto::SurroundKind::isMadeOfElements(surround->kind))
+    return frame.Draw(tile.painter, tile.transform, tile.cancel);
   frame.DrawShadow(tile.painter, tile.transform);
   frame.DrawBackground(tile.painter, tile.transform);
   frame.DrawBorder(tile.painter, tile.transform);
@@ -254,7 +245,7 @@ void PlacedLabels::CreateAnnotationElement(IApplicationHook& hook, Maps& maps, L
   IElementContainer* elements = view ? view->GetGraphicsContainer() : nullptr;
   if (!elements) return;
   for (auto const& element : elements->GetElements()) {
-    if (element->GetType() != dataFrameType) continue;
+    if (element->GetType() != SysCarto::ElementType::DataFrame) continue;
     auto const frame = ptr_cast<MapFrameElement>(element);
     if (!frame) continue;
     maps << frame->GetMap();

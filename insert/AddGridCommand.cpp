@@ -15,15 +15,13 @@ namespace Plugin {
 
 namespace {
 
-constexpr int dataFrameType = 11;
-
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(AddGridCommand)
 };
 
 _ptr_t<MapFrameElement> firstFrame(IElementContainer const& container) {
   for (auto const& element : container.GetElements())
-    if (element->GetType() == dataFrameType) return ptr_cast<MapFrameElement>(element);
+    if (element->GetType() == SysCarto::ElementType::DataFrame) return ptr_cast<MapFrameElement>(element);
   return nullptr;
 }
 

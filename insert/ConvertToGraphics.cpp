@@ -20,15 +20,11 @@ namespace Plugin {
 
 namespace {
 
-constexpr int convertibleKinds[] = {1, 2, 3, 6, 7, 8, 9};
-
 // The surround of an element; empty for an element that can't be converted.
 _ptr_t<MapSurround> convertibleSurround(_ptr_t<Element> const& element) {
   auto const frame = ptr_cast<MapSurroundFrame>(element);
   auto const surround = frame ? frame->GetMapSurround() : nullptr;
-  bool const isConvertible = surround && std::find(std::begin(convertibleKinds), std::end(convertibleKinds),
-                                                   surround->kind) != std::end(convertibleKinds);
-  return isConvertible ? surround : nullptr;
+  return surround && SysCarto::SurroundKind::isMadeOfElements(surround->kind) ? surround : nullptr;
 }
 
 _ptr_t<Element> oneOf(QList<_ptr_t<Element>> const& elements) {

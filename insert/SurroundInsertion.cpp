@@ -89,7 +89,7 @@ void selectAlone(PageLayout& layout, _ptr_t<Element> const& element) {
   IElementContainer* const container = layout.GetGraphicsContainer();
   container->UnselectAllElements();
   container->SelectElement(element);
-  layout.PartialRefresh(8, nullptr);
+  layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 }  // namespace Plugin

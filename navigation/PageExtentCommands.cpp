@@ -28,7 +28,7 @@ bool ExtentStepCommand::IsEnable() {
 void ExtentStepCommand::OnClick() {
   auto const view = hook()->GetActiveView();
   (view->GetExtentStack().get()->*direction_.step)();
-  view->PartialRefresh(255, nullptr);
+  view->PartialRefresh(SysCarto::RefreshPhase::Everything, nullptr);
 }
 
 ZoomToPreviousExtentCommand::ZoomToPreviousExtentCommand()

@@ -15,7 +15,6 @@ using SysUtility::ptr_cast;
 namespace {
 
 constexpr short portrait = 1, landscape = 2;
-constexpr int dataFrameType = 11;
 
 // 0 to 400 with one or two decimals; less, while it is being typed.
 constexpr char sizePattern[] = R"(^(400|[1-3]{0,1}[0-9]{0,2})(\.\d{1,2})$)";
@@ -158,7 +157,7 @@ void PageSizeTabPage::rescaleElements(double oldWidthCm, double oldHeightCm) con
   if (!elements || !(oldWidthCm * oldHeightCm > 0.0) || !(page->GetWidth() * page->GetHeight() > 0.0)) return;
   double const sx = page->GetWidth() / oldWidthCm, sy = page->GetHeight() / oldHeightCm;
   for (auto const& element : elements->GetElements())
-    if (element->GetType() == dataFrameType)
+    if (element->GetType() == SysCarto::ElementType::DataFrame)
       rescaleRectangle(*element, sx, sy);
     else
       rescalePosition(*element, sx, sy);

@@ -1,5 +1,6 @@
 #include "FramePreview.h"
 
+#include <SysDisplay/Units.h>
 #include <SysGeometry/Envelope.h>
 
 #include <QPainter>
@@ -15,7 +16,6 @@ using SysUtility::make;
 
 namespace {
 
-constexpr double pixelsPerCm = 96 / 2.54;
 constexpr int roomForPartsPx = 28;
 constexpr int marginPx = 8;
 
@@ -24,7 +24,8 @@ constexpr QRgb deskColor = 0xffb4b4b4, outlineColor = 0xff808080;
 
 // The given point of the world in the middle of the widget, at a zoom.
 _ptr_t<DisplayTransformation> transformAt(QRect const& frame, QPointF const& centreCm, double zoom) {
-  double const width = frame.width() / (pixelsPerCm * zoom), height = frame.height() / (pixelsPerCm * zoom);
+  double const width = frame.width() / (SysDisplay::pixelsPerCm * zoom),
+               height = frame.height() / (SysDisplay::pixelsPerCm * zoom);
   auto const transform = make<DisplayTransformation>();
   transform->SetDeviceFrame(frame);
   transform->SetVisibleBounds(make<Envelope>(centreCm.x() - width / 2, centreCm.y() - height / 2,
@@ -53,8 +54,8 @@ void FramePreview::setParts(_ptr_t<SysCarto::IShadow> const& shadow, _ptr_t<SysC
 }
 
 _ptr_t<Envelope> FramePreview::sample() const {
-  return make<Envelope>(0.0, 0.0, inside(width(), roomForPartsPx) / pixelsPerCm,
-                        inside(height(), roomForPartsPx) / pixelsPerCm);
+  return make<Envelope>(0.0, 0.0, inside(width(), roomForPartsPx) / SysDisplay::pixelsPerCm,
+                        inside(height(), roomForPartsPx) / SysDisplay::pixelsPerCm);
 }
 
 _ptr_t<DisplayTransformation> FramePreview::fittedTransform() const {
@@ -65,8 +66,8 @@ _ptr_t<DisplayTransformation> FramePreview::fittedTransform() const {
     auto const boundary = part ? part->QueryBoundary(trueSize, sample()) : nullptr;
     if (boundary && !boundary->IsEmpty()) covered |= rectangleOf(*boundary);
   }
-  double const zoom = std::min({1.0, inside(width(), marginPx) / (covered.width() * pixelsPerCm),
-                                inside(height(), marginPx) / (covered.height() * pixelsPerCm)});
+  double const zoom = std::min({1.0, inside(width(), marginPx) / (covered.width() * SysDisplay::pixelsPerCm),
+                                inside(height(), marginPx) / (covered.height() * SysDisplay::pixelsPerCm)});
   return transformAt(rect(), covered.center(), zoom);
 }
 

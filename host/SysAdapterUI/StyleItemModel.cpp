@@ -5,6 +5,7 @@
 #include "host/SysDisplay/SymbolFields.h"
 
 #include <SysAdapterUI/StyleGalleryClass.h>
+#include <SysDisplay/Units.h>
 #include <SysUI/EnvironmentSetting.h>
 
 #include <QApplication>
@@ -25,7 +26,6 @@ namespace {
 
 constexpr int cellMarginPx = 12;
 
-constexpr double pixelsPerPoint = 96.0 / 72;
 constexpr int marginPx = 6;
 
 // What belongs to a class of styles, and how it is shown.
@@ -141,7 +141,7 @@ QIcon const& StyleItemModel::pictureOf(Entry const& entry) const {
   QPainter painter(&picture);
   double const margin = marginPx * ratio;
   drawSymbolPreview(painter, QRectF(picture.rect()).adjusted(margin, margin, -margin, -margin), *entry.symbol,
-                    pixelsPerPoint * ratio, rowOf(class_).fillsPicture);
+                    SysDisplay::pixelsPerPoint * ratio, rowOf(class_).fillsPicture);
   painter.end();
   picture.setDevicePixelRatio(ratio);
   entry.picture = QIcon(picture);

@@ -5,6 +5,7 @@
 #include <SysDisplay/FillSymbol.h>
 #include <SysDisplay/LineSymbol.h>
 #include <SysDisplay/MarkerSymbol.h>
+#include <SysDisplay/Units.h>
 #include <SysGeometry/Polyline.h>
 
 #include <QPainter>
@@ -24,15 +25,13 @@ using SysUtility::ptr_cast;
 
 namespace {
 
-constexpr double pixelsPerPointAtScale1 = 96.0 / 72;
-
 // One pixel is one world unit, y turned over.
 _ptr_t<DisplayTransformation> transformationFor(QRectF const& area, double pixelsPerPoint) {
   auto const transformation = make<DisplayTransformation>();
   QRect const pixels = area.toAlignedRect();
   transformation->SetDeviceFrame(pixels);
   transformation->SetVisibleBounds(make<Envelope>(0.0, 0.0, double(pixels.width()), double(pixels.height())));
-  transformation->SetPageScale(pixelsPerPoint / pixelsPerPointAtScale1);
+  transformation->SetPageScale(pixelsPerPoint / SysDisplay::pixelsPerPoint);
   return transformation;
 }
 

@@ -1,4 +1,5 @@
 #include <SysDisplay/DisplayTransformation.h>
+#include <SysDisplay/Units.h>
 
 #include <algorithm>
 #include <cmath>
@@ -11,9 +12,6 @@ using SysGeometry::Point;
 using SysUtility::_ptr_t;
 
 namespace {
-
-constexpr double pixelsPerInch = 96.0;
-constexpr double pointsPerInch = 72.0;
 
 // Two scales this near to each other differ only by the rounding of the bounds.
 constexpr double sameScale = 1e-7;

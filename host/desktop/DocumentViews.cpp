@@ -27,8 +27,8 @@ void DocumentViews::follow() {
 }
 
 void DocumentViews::redraw() {
-  layoutView_->refresh(SysCarto::ViewSurface::everything);
-  mapView_->refresh(SysCarto::ViewSurface::everything);
+  layoutView_->refresh(SysCarto::RefreshPhase::Everything);
+  mapView_->refresh(SysCarto::RefreshPhase::Everything);
 }
 
 // The focus may have gone to another map since the view was last shown.

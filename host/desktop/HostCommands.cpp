@@ -12,8 +12,6 @@ using SysUtility::_ptr_t;
 
 namespace {
 
-constexpr int elementsChanged = 8;
-
 class HostCommand final : public SysFramework::BaseCommand {
 public:
   explicit HostCommand(HostCommands::Action action) : action_(std::move(action)) {}
@@ -33,12 +31,12 @@ _ptr_t<SysCarto::PageLayout> shownLayout(DocumentViews const& views) {
 void selectAll(SysCarto::PageLayout& layout) {
   for (auto const& element : layout.GetGraphicsContainer()->GetElements())
     if (!isLocked(*element)) layout.GetGraphicsContainer()->SelectElement(element);
-  layout.PartialRefresh(elementsChanged, nullptr);
+  layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 void unselect(SysCarto::PageLayout& layout) {
   layout.GetGraphicsContainer()->UnselectAllElements();
-  layout.PartialRefresh(elementsChanged, nullptr);
+  layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 void deleteSelection(SysCarto::PageLayout& layout) {
@@ -47,7 +45,7 @@ void deleteSelection(SysCarto::PageLayout& layout) {
         QCoreApplication::translate("HostCommands", "Delete the selected elements"));
     for (auto const& element : movableSelection(layout)) layout.GetGraphicsContainer()->DeleteElement(element);
   }
-  layout.PartialRefresh(elementsChanged, nullptr);
+  layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 bool hasElements(SysCarto::PageLayout const& layout) { return !layout.GetGraphicsContainer()->GetElements().isEmpty(); }

@@ -13,7 +13,6 @@ using SysUtility::_ptr_t;
 
 namespace {
 
-constexpr int everything = SysCarto::ViewSurface::everything;
 constexpr double scrollPerStepPx = 60;
 constexpr double largestPageScale = 100, smallestPageScale = 0.03451;  // as far as the zoom tools go
 
@@ -39,7 +38,7 @@ void LayoutView::setLayout(_ptr_t<PageLayout> const& layout) {
     layout_->GetDisplayTransformation()->SetDeviceFrame(rect());
     return layout_->RedrawAll(true);  // the extent that the layout came with follows the frame
   }
-  refresh(everything);
+  refresh(SysCarto::RefreshPhase::Everything);
 }
 
 void LayoutView::setTool(_ptr_t<SysUI::ITool> const& tool) {
@@ -69,7 +68,7 @@ void LayoutView::continuePicture() {
 }
 
 void LayoutView::catchUp() {
-  if (layout_ && !picture_.isCurrent(*layout_)) refresh(everything);
+  if (layout_ && !picture_.isCurrent(*layout_)) refresh(SysCarto::RefreshPhase::Everything);
 }
 
 QRectF LayoutView::placeOfPicture() const {

@@ -30,7 +30,6 @@ constexpr QSize firstSize(1280, 860);
 constexpr int contentsWidthPx = 230;
 constexpr int labelMarginPx = 8;
 constexpr int refusalMs = 8000;
-constexpr int everything = SysCarto::ViewSurface::everything;
 QString const geometryKey = QStringLiteral("window/geometry");
 QString const stateKey = QStringLiteral("window/state");
 constexpr int stateVersion = 1;  // of the toolbars and docks
@@ -273,7 +272,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) files_.look();
-  if (event->type() == QEvent::PaletteChange && contents_) bench_.views().layoutView().refresh(everything);
+  if (event->type() == QEvent::PaletteChange && contents_)
+    bench_.views().layoutView().refresh(SysCarto::RefreshPhase::Everything);
 }
 
 void MainWindow::contextMenuEvent(QContextMenuEvent* event) {

@@ -3,6 +3,8 @@
 #include "host/SysCarto/elements/Placement.h"
 #include "host/SysCarto/layout/MapPicture.h"
 
+#include <SysDisplay/Units.h>
+
 #include <QPainter>
 
 #include <algorithm>
@@ -15,8 +17,6 @@ using SysUtility::make;
 
 namespace {
 
-constexpr double inchCm = 2.54;
-constexpr double pixelsPerInch = 96;
 constexpr double sameScale = 1e-6;  // a view that is panned computes its scale anew
 constexpr int largestFramePx = 1 << 28;
 constexpr double labelsPerInch = 300;  // the resolution that labels are placed for
@@ -120,7 +120,7 @@ SysUtility::_ptr_t<DisplayTransformation> MapTiles::pageOf(MapFrameElement const
   page->SetDeviceFrame(QRect(QPoint(0, 0), sizePx));
   page->SetVisibleBounds(make<Envelope>(rectangle->GetXMin(), rectangle->GetYMax() - sizePx.height() / pixelsPerCm,
                                         rectangle->GetXMin() + sizePx.width() / pixelsPerCm, rectangle->GetYMax()));
-  page->SetPageScale(pixelsPerCm * inchCm / pixelsPerInch);
+  page->SetPageScale(pixelsPerCm * SysDisplay::cmPerInch / SysDisplay::pixelsPerInch);
   return page;
 }
 

@@ -26,7 +26,7 @@ void MapView::setLayout(_ptr_t<PageLayout> const& layout) {
   layout_ = layout;
   shown_ = map();
   if (shown_) shown_->setSurface(this);
-  refresh(everything);
+  refresh(SysCarto::RefreshPhase::Everything);
 }
 
 void MapView::composePicture() {
@@ -72,7 +72,7 @@ void MapView::continuePicture() {
   paintMap();
 }
 
-void MapView::resizeEvent(QResizeEvent*) { refresh(everything); }
+void MapView::resizeEvent(QResizeEvent*) { refresh(SysCarto::RefreshPhase::Everything); }
 
 bool MapView::isFree() const {
   auto const frame = layout_ ? layout_->GetFocusMapFrameElement() : nullptr;

@@ -20,8 +20,7 @@ namespace {
 
 constexpr double dragPx = 3;        // a hand is not still
 constexpr double smallestCm = 0.1;  // that a drag makes of a side
-constexpr int elementsChanged = 8;
-constexpr int mostOutlines = 200;  // more of them tell no more than one about them all
+constexpr int mostOutlines = 200;   // more of them tell no more than one about them all
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(PageGesture)
@@ -63,7 +62,7 @@ void changeSelection(PageLayout& layout, QString const& name, std::function<void
       layout.GetGraphicsContainer()->ReplaceElement(element->GetHandle(), clone);
     }
   }
-  layout.PartialRefresh(elementsChanged, nullptr);
+  layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 PageGesture::PageGesture(PageLayout& layout, QPointF const& press) : layout_(layout), press_(press), point_(press) {}

@@ -28,8 +28,9 @@ _ptr_t<Element> elementAt(PageLayout const& layout, QPoint const& pixel) {
   double const reach = reachPx / layout.GetDisplayTransformation()->ToDevice().m11();
   auto const elements = layout.GetGraphicsContainer()->GetElements();
   auto const isHit = [&](_ptr_t<Element> const& element) {
-    auto const box = element->GetType() == 1 ? element->GetBoundary(layout.GetDisplayTransformation())->GetEnvelope()
-                                             : element->GetEnvelope();
+    auto const box = element->GetType() == SysCarto::ElementType::Marker
+                         ? element->GetBoundary(layout.GetDisplayTransformation())->GetEnvelope()
+                         : element->GetEnvelope();
     return !isLocked(*element) && point.x() >= box->GetXMin() - reach && point.x() <= box->GetXMax() + reach &&
            point.y() >= box->GetYMin() - reach && point.y() <= box->GetYMax() + reach;
   };

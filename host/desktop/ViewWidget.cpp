@@ -23,7 +23,7 @@ ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
   });
   rest_.setSingleShot(true);
   rest_.setInterval(restMs);
-  connect(&rest_, &QTimer::timeout, this, [this] { refresh(everything); });
+  connect(&rest_, &QTimer::timeout, this, [this] { refresh(SysCarto::RefreshPhase::Everything); });
 }
 
 ViewWidget::~ViewWidget() = default;

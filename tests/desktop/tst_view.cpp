@@ -98,7 +98,7 @@ private slots:
     if (what == "zoom") QVERIFY(page.run("Plotvane_ZoomToOrigin"));
     if (what == "resize") page.drag(page.pixel(40.4, 25.6), page.pixel(35, 22));
     if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
-    if (what == "hide") page.view().refresh(SysCarto::ViewSurface::everything);
+    if (what == "hide") page.view().refresh(SysCarto::RefreshPhase::Everything);
     QCOMPARE(tilesAfter(page) > before, draws);
   }
 
@@ -154,7 +154,7 @@ private slots:
     for (int i = 0; i < 3; ++i) page.wheel(angle);
     tilesAfter(page);
     QImage const scrolled = page.view().grab().toImage();
-    page.view().refresh(SysCarto::ViewSurface::everything);
+    page.view().refresh(SysCarto::RefreshPhase::Everything);
     QVERIFY(page.view().grab().toImage() == scrolled);
   }
 

@@ -279,7 +279,7 @@ private slots:
       double const x = 2 + i * 2.9, y = 4 + (i * 7) % 17;
       boxes << page.add<SysCarto::RectangleElement>(x, y, x + 1.2 + 0.2 * i, y + 2.6 - 0.2 * i);
     }
-    page.view().refresh(SysCarto::ViewSurface::everything);
+    page.view().refresh(SysCarto::RefreshPhase::Everything);
     QByteArray const start = page.bench.session().document().GetText();
     auto const picture = [&](char const* name) {
       for (int i = 0; i < 3; ++i) QTest::qWait(20);

@@ -1,4 +1,5 @@
 #include <SysCarto/MapDocument.h>
+#include <SysDisplay/Units.h>
 
 #include "DocumentFields.h"
 #include "OperationStack.h"
@@ -29,7 +30,6 @@ using SysUtility::make;
 namespace {
 
 constexpr int thumbnailPx = 256;
-constexpr double cmPerInch = 2.54, pixelsPerInch = 96.0;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(MapDocument)
@@ -254,7 +254,7 @@ QImage MapDocument::Thumbnail() const {
   auto const transformation = make<SysDisplay::DisplayTransformation>();
   transformation->SetDeviceFrame(picture.rect());
   transformation->SetVisibleBounds(page->GetPageEnvelope());
-  transformation->SetPageScale(pixelsPerCm * cmPerInch / pixelsPerInch);
+  transformation->SetPageScale(pixelsPerCm * SysDisplay::cmPerInch / SysDisplay::pixelsPerInch);
   transformation->SetPaintDevice(&picture);
   QPainter painter(&picture);
   page->DrawBackground(painter, transformation);

@@ -34,13 +34,12 @@ void OperationStack::detach() {
 
 // A step may have changed the page's elements or a map's graphics; a view that is not on a screen draws nothing.
 void OperationStack::redraw() const {
-  constexpr int elementsChanged = 8;
   auto const layout = document_->GetPageLayout();
   if (!layout) return;
-  layout->PartialRefresh(elementsChanged, nullptr);
+  layout->PartialRefresh(RefreshPhase::Elements, nullptr);
   QList<SysUtility::_ptr_t<Map>> maps;
   document_->GetMaps(maps);
-  for (auto const& map : maps) map->PartialRefresh(elementsChanged, nullptr);
+  for (auto const& map : maps) map->PartialRefresh(RefreshPhase::Elements, nullptr);
 }
 
 }  // namespace SysCarto

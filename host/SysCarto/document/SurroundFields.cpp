@@ -36,10 +36,10 @@ void listSettings(Fields& fields, _ptr_t<Base>& object) {
 
 // clang-format off
 constexpr Kind kinds[] = {
-    {{1, "legend",     QT_TRANSLATE_NOOP("Fields", "Legend")},      listSettings<Legend, LegendSettings>},
-    {{2, "scaleLine",  QT_TRANSLATE_NOOP("Fields", "Scale bar")},   listSettings<ScaleLine, ScaleLineSettings>},
-    {{3, "scaleText",  QT_TRANSLATE_NOOP("Fields", "Scale text")},  listSettings<ScaleText, ScaleTextSettings>},
-    {{6, "northArrow", QT_TRANSLATE_NOOP("Fields", "North arrow")}, listSettings<MarkerNorthArrow, NorthArrowSettings>},
+    {{SurroundKind::Legend, "legend",     QT_TRANSLATE_NOOP("Fields", "Legend")},      listSettings<Legend, LegendSettings>},
+    {{SurroundKind::ScaleLine, "scaleLine",  QT_TRANSLATE_NOOP("Fields", "Scale bar")},   listSettings<ScaleLine, ScaleLineSettings>},
+    {{SurroundKind::ScaleText, "scaleText",  QT_TRANSLATE_NOOP("Fields", "Scale text")},  listSettings<ScaleText, ScaleTextSettings>},
+    {{SurroundKind::NorthArrow, "northArrow", QT_TRANSLATE_NOOP("Fields", "North arrow")}, listSettings<MarkerNorthArrow, NorthArrowSettings>},
 };
 // clang-format on
 

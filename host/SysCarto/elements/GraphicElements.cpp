@@ -33,31 +33,31 @@ _ptr_t<SimpleFillSymbol> outlinedFill() {
 MarkerElement::MarkerElement() : SymbolElement(make<Point>(0.0, 0.0, 0.0), make<SimpleMarkerSymbol>()) {}
 MarkerElement::MarkerElement(MarkerElement const&) = default;
 MarkerElement::~MarkerElement() = default;
-int MarkerElement::GetType() const { return 1; }
+int MarkerElement::GetType() const { return ElementType::Marker; }
 _ptr_t<Element> MarkerElement::Clone() const { return make<MarkerElement>(*this); }
 
 LineElement::LineElement() : SymbolElement(make<Polyline>(), make<SimpleLineSymbol>()) {}
 LineElement::LineElement(LineElement const&) = default;
 LineElement::~LineElement() = default;
-int LineElement::GetType() const { return 2; }
+int LineElement::GetType() const { return ElementType::Line; }
 _ptr_t<Element> LineElement::Clone() const { return make<LineElement>(*this); }
 
 PolygonElement::PolygonElement() : SymbolElement(make<Polygon>(), outlinedFill()) {}
 PolygonElement::PolygonElement(PolygonElement const&) = default;
 PolygonElement::~PolygonElement() = default;
-int PolygonElement::GetType() const { return 3; }
+int PolygonElement::GetType() const { return ElementType::Polygon; }
 _ptr_t<Element> PolygonElement::Clone() const { return make<PolygonElement>(*this); }
 
 RectangleElement::RectangleElement() : SymbolElement(unitSquare(), outlinedFill()) {}
 RectangleElement::RectangleElement(RectangleElement const&) = default;
 RectangleElement::~RectangleElement() = default;
-int RectangleElement::GetType() const { return 4; }
+int RectangleElement::GetType() const { return ElementType::Rectangle; }
 _ptr_t<Element> RectangleElement::Clone() const { return make<RectangleElement>(*this); }
 
 EllipseElement::EllipseElement() : SymbolElement(unitSquare(), outlinedFill()), outline_(ellipseIn(*shape())) {}
 EllipseElement::EllipseElement(EllipseElement const&) = default;
 EllipseElement::~EllipseElement() = default;
-int EllipseElement::GetType() const { return 5; }
+int EllipseElement::GetType() const { return ElementType::Ellipse; }
 _ptr_t<Element> EllipseElement::Clone() const { return make<EllipseElement>(*this); }
 void EllipseElement::shapeChanged() { outline_ = ellipseIn(*shape()); }
 _ptr_t<Geometry> EllipseElement::drawn() const { return outline_; }

@@ -35,7 +35,7 @@ void GroupElement::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
   if (sx != 1 || sy != 1) moved();
 }
 
-int GroupElement::GetType() const { return 10; }
+int GroupElement::GetType() const { return ElementType::Group; }
 
 _ptr_t<Geometry> GroupElement::GetGeometry() const { return GetEnvelope(); }
 

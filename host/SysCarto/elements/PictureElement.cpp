@@ -49,7 +49,7 @@ void PictureElement::setPath(QString const& path) { source_ = std::make_shared<P
 void PictureElement::readAgain() { source_->forget(); }
 QString PictureElement::problem() const { return source_->problem(); }
 
-int PictureElement::GetType() const { return 13; }
+int PictureElement::GetType() const { return ElementType::Picture; }
 
 void PictureElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
                           _ptr_t<TrackerCancel> const&) {

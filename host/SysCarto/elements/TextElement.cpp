@@ -4,6 +4,8 @@
 
 #include "host/SysDisplay/DrawTarget.h"
 
+#include <SysDisplay/Units.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -20,7 +22,6 @@ using SysUtility::_ptr_t;
 
 namespace {
 
-constexpr double centimetresPerPoint = 2.54 / 72;
 constexpr double largestFontPt = 1000;
 
 }  // namespace
@@ -67,7 +68,7 @@ void TextElement::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
   setSymbol(SysUtility::make<TextSymbol>(format));
 }
 
-int TextElement::GetType() const { return 9; }
+int TextElement::GetType() const { return ElementType::Text; }
 
 _ptr_t<Geometry> TextElement::GetGeometry() const { return SysUtility::make<Point>(x_, y_, 0.0); }
 
@@ -90,7 +91,7 @@ _ptr_t<Envelope> TextElement::rectangle(QRectF const& boundsPt, double unitsPerP
 _ptr_t<Envelope> TextElement::GetEnvelope() const {
   double const halo = symbol_->format().haloSize;
   QRectF const letters = symbol_->bounds(text_).adjusted(halo, halo, -halo, -halo);
-  return rectangle(QTransform().rotate(-angle_).mapRect(letters.normalized()), centimetresPerPoint);
+  return rectangle(QTransform().rotate(-angle_).mapRect(letters.normalized()), SysDisplay::cmPerPoint);
 }
 
 void TextElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,

@@ -25,6 +25,6 @@ double AnnotationProperties::storedMaxScale() const { return d->scales.max; }
 FeatureLayer::FeatureLayer() = default;
 FeatureLayer::~FeatureLayer() = default;
 
-int FeatureLayer::GetType() const { return 2; }
+int FeatureLayer::GetType() const { return LayerType::Feature; }
 
 }  // namespace SysCarto

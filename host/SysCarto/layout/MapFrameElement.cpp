@@ -62,7 +62,7 @@ void MapFrameElement::SetLocked(bool locked) {
   changed();
 }
 
-int MapFrameElement::GetType() const { return 11; }
+int MapFrameElement::GetType() const { return ElementType::DataFrame; }
 
 void MapFrameElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
                            _ptr_t<TrackerCancel> const& cancel) {

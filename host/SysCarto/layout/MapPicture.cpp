@@ -4,6 +4,7 @@
 
 #include <SysCarto/FeatureLayer.h>
 #include <SysCarto/Map.h>
+#include <SysDisplay/Units.h>
 
 #include <QPainter>
 
@@ -19,7 +20,6 @@ using SysUtility::_ptr_t;
 
 namespace {
 
-constexpr double inchCm = 2.54, pixelsPerInch = 96;
 constexpr int farthestPx = 1 << 29;  // beyond it the width of a rectangle may not be an int
 
 // The pixels of a frame, counted so that both corners belong to it.
@@ -94,10 +94,10 @@ void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameEleme
 QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi) {
   auto const rectangle = frame.GetEnvelope();
   auto const pixels = [dpi](double cm) {
-    return static_cast<int>(std::clamp(std::round(cm / inchCm * dpi), 1.0, double(farthestPx)));
+    return static_cast<int>(std::clamp(std::round(cm / SysDisplay::cmPerInch * dpi), 1.0, double(farthestPx)));
   };
   QRect const framePx(0, 0, pixels(rectangle->GetWidth()), pixels(rectangle->GetHeight()));
-  auto const transformation = transformationOf(*frame.GetMap(), framePx, framePx, dpi / pixelsPerInch);
+  auto const transformation = transformationOf(*frame.GetMap(), framePx, framePx, dpi / SysDisplay::pixelsPerInch);
   QMap<int, QList<_ptr_t<SysGeometry::Polygon>>> obstacles;
   QList<_ptr_t<Element>> labels;
   for (auto const& layer : labelledLayers(*frame.GetMap()))

@@ -63,7 +63,7 @@ void MapSurroundFrame::SetMapSurround(_ptr_t<MapSurround> const& surround) {
   changed();
 }
 
-int MapSurroundFrame::GetType() const { return 12; }
+int MapSurroundFrame::GetType() const { return ElementType::MapSurroundFrame; }
 
 void MapSurroundFrame::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
                             _ptr_t<TrackerCancel> const& cancel) {

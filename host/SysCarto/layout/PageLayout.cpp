@@ -4,6 +4,7 @@
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurroundFrame.h>
 #include <SysCarto/PageLayout.h>
+#include <SysDisplay/Units.h>
 
 #include <algorithm>
 #include <cmath>
@@ -19,8 +20,6 @@ using SysUtility::ptr_cast;
 
 namespace {
 
-constexpr double centimetresPerInch = 2.54;
-constexpr double pixelsPerInch = 96;
 constexpr double spaceAboutPage = 1.04;  // of the page's size, when the whole page is shown
 
 // A rectangle of the page, in fractions of its width and height.
@@ -43,7 +42,7 @@ _ptr_t<Envelope> partOf(Page const* page, PagePart const& part) {
 }
 
 int pixelsOf(double cm, int dpi) {
-  return static_cast<int>(std::min<double>(cm / centimetresPerInch * dpi, std::numeric_limits<int>::max()));
+  return static_cast<int>(std::min<double>(cm / SysDisplay::cmPerInch * dpi, std::numeric_limits<int>::max()));
 }
 
 }  // namespace
@@ -126,7 +125,7 @@ quint64 PageLayout::lastChange() const {
 
 void PageLayout::ZoomToRatio(double ratio) {
   if (!std::isfinite(ratio) || ratio <= 0 || !d->page) return;
-  double const pixelsPerCm = ratio * pixelsPerInch / centimetresPerInch;
+  double const pixelsPerCm = ratio * SysDisplay::pixelsPerInch / SysDisplay::cmPerInch;
   QRect const frame = GetDisplayTransformation()->GetDeviceFrame();
   auto const extent = make<Envelope>(0.0, 0.0, frame.width() / pixelsPerCm, frame.height() / pixelsPerCm);
   extent->CenterAt(GetExtent()->GetAnchorPoint());
@@ -173,7 +172,7 @@ void PageLayout::applyExtent(Envelope const& extent) {
   ActiveView::applyExtent(extent);
   auto const transformation = GetDisplayTransformation();
   double const pixelsPerCm = transformation->ToDevice().m11();
-  transformation->SetPageScale(pixelsPerCm * centimetresPerInch / pixelsPerInch);
+  transformation->SetPageScale(pixelsPerCm * SysDisplay::cmPerInch / SysDisplay::pixelsPerInch);
 }
 
 }  // namespace SysCarto

@@ -1,4 +1,5 @@
 #include <SysCarto/Paper.h>
+#include <SysDisplay/Units.h>
 
 #include <QCoreApplication>
 #include <QPageSize>
@@ -32,7 +33,7 @@ static_assert(forms[customPageForm] == QPageSize::Custom, "the custom size has a
 // at 300 DPI.
 QSizeF listedSizeCm(QPageSize::PageSizeId form) {
   QSizeF const size = QPageSize::definitionSize(form);
-  return QPageSize::definitionUnits(form) == QPageSize::Inch ? size * 2.54 : size / 10;
+  return QPageSize::definitionUnits(form) == QPageSize::Inch ? size * SysDisplay::cmPerInch : size / 10;
 }
 
 QSizeF& customSizeCm() {

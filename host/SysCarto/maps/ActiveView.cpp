@@ -122,7 +122,7 @@ void ActiveView::RedrawAll(bool overlay) {
   followFrame();
   if (!d->surface) return;
   if (overlay) d->surface->clearOverlay();
-  d->surface->refresh(ViewSurface::everything);
+  d->surface->refresh(RefreshPhase::Everything);
 }
 
 void ActiveView::Deactivate() {

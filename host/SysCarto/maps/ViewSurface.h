@@ -23,9 +23,8 @@ public:
   virtual void trackerShape(SysDisplay::Symbol const& symbol, SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry,
                             SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) = 0;
 
-  /// Asks for a redraw: 8 after elements changed, `everything` else.
+  /// Asks for a redraw of one `RefreshPhase`.
   virtual void refresh(int phase) = 0;
-  static constexpr int everything = 255;
 
   /// Drops what the tracker drew, and a pass that is open.
   virtual void clearOverlay() = 0;

@@ -90,7 +90,7 @@ GraticuleLabels::GraticuleLabels(Envelope const& rectangle, _ptr_t<TextSymbol> c
       right_(rectangle.GetXMax()),
       top_(rectangle.GetYMax()),
       format_(symbol->format()),
-      gapCm_(gapPt * cmPerPoint) {}
+      gapCm_(gapPt * SysDisplay::cmPerPoint) {}
 
 QPointF GraticuleLabels::onPage(QPointF const& point, Envelope const& extent) const {
   return {left_ + (point.x() - extent.GetXMin()) * (right_ - left_) / extent.GetWidth(),
@@ -195,7 +195,7 @@ void GraticuleLabels::add(QString const& text, QPointF const& position, double a
   element->setAngle(angle);
   auto const covered = element->GetEnvelope();
   QRectF const box(covered->GetXMin(), covered->GetYMin(), covered->GetWidth(), covered->GetHeight());
-  double const margin = gapCm_ + element->symbol()->bounds(text).height() * cmPerPoint;
+  double const margin = gapCm_ + element->symbol()->bounds(text).height() * SysDisplay::cmPerPoint;
   QRectF const room(left_ - margin, bottom_ - margin, right_ - left_ + 2 * margin, top_ - bottom_ + 2 * margin);
   if (!room.adjusted(-onSideCm, -onSideCm, onSideCm, onSideCm).contains(box)) return;
   labels_ << Label{line_->isMeridian, line_->number, box, element};

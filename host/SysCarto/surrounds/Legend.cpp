@@ -52,7 +52,7 @@ struct Legend::Private {
   }
 };
 
-Legend::Legend() : MapSurround(1), d(std::make_unique<Private>()) {}
+Legend::Legend() : MapSurround(SurroundKind::Legend), d(std::make_unique<Private>()) {}
 Legend::Legend(Legend const& other) : MapSurround(other), d(std::make_unique<Private>(*other.d)) {}
 Legend::~Legend() = default;
 

@@ -107,8 +107,8 @@ LegendLayout::Arrangement LegendLayout::arrange(QVector<LegendRow> const& rows, 
   }
   result.width = std::max(result.width, titleWidth_);
   result.height += deepest;
-  result.factor =
-      std::min({1.0, area.GetWidth() / cmPerPoint / result.width, area.GetHeight() / cmPerPoint / result.height});
+  result.factor = std::min({1.0, area.GetWidth() / SysDisplay::cmPerPoint / result.width,
+                            area.GetHeight() / SysDisplay::cmPerPoint / result.height});
   return result;
 }
 
@@ -167,7 +167,7 @@ void LegendLayout::addPatch(_ptr_t<Symbol> const& symbol, double middleX, double
 }
 
 QPointF LegendLayout::onPage(double x, double y) const {
-  return {left_ + x * factor_ * cmPerPoint, top_ - y * factor_ * cmPerPoint};
+  return {left_ + x * factor_ * SysDisplay::cmPerPoint, top_ - y * factor_ * SysDisplay::cmPerPoint};
 }
 
 }  // namespace SysCarto

@@ -38,7 +38,7 @@ struct MarkerNorthArrow::Private {
   NorthArrowSettings settings;
 };
 
-MarkerNorthArrow::MarkerNorthArrow() : MapSurround(6), d(std::make_unique<Private>()) {}
+MarkerNorthArrow::MarkerNorthArrow() : MapSurround(SurroundKind::NorthArrow), d(std::make_unique<Private>()) {}
 MarkerNorthArrow::MarkerNorthArrow(MarkerNorthArrow const& other)
     : MapSurround(other), d(std::make_unique<Private>(*other.d)) {}
 MarkerNorthArrow::~MarkerNorthArrow() = default;
@@ -49,7 +49,8 @@ QList<_ptr_t<Element>> MarkerNorthArrow::GetElements() {
   if (d->settings.trueNorth) arrow->SetAngle(arrow->GetAngle() + GetMap()->GetNorthAngle());
   QRectF const unit = unitBounds(*arrow);
   if (unit.isEmpty()) return {};
-  arrow->SetSize(std::min(rectangle().GetWidth() / unit.width(), rectangle().GetHeight() / unit.height()) / cmPerPoint);
+  arrow->SetSize(std::min(rectangle().GetWidth() / unit.width(), rectangle().GetHeight() / unit.height()) /
+                 SysDisplay::cmPerPoint);
   auto const middle = rectangle().GetAnchorPoint();
   return {markerPiece(QPointF(middle->GetX(), middle->GetY()), arrow)};
 }

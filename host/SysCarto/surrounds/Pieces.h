@@ -5,6 +5,7 @@
 #include <SysCarto/Element.h>
 #include <SysDisplay/FillSymbol.h>
 #include <SysDisplay/MarkerSymbol.h>
+#include <SysDisplay/Units.h>
 
 #include <QPointF>
 #include <QRectF>
@@ -13,8 +14,6 @@
 
 // What surrounds are made of: plain graphic elements on the page.
 namespace SysCarto {
-
-constexpr double cmPerPoint = 2.54 / 72;
 
 // Positions in page centimetres, y upwards.
 SysUtility::_ptr_t<Element> textPiece(QString const& text, SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbol,

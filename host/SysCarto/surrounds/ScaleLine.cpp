@@ -104,7 +104,7 @@ namespace {
 class BarLayout {
 public:
   BarLayout(SysGeometry::Envelope const& area, _ptr_t<TextSymbol> const& text, double heightPt)
-      : area_(area), text_(text), barCm_(heightPt * cmPerPoint) {
+      : area_(area), text_(text), barCm_(heightPt * SysDisplay::cmPerPoint) {
     double const fits = area.GetHeight() / height();
     if (fits >= 1) return;
     text_ = resized(*text, fits);
@@ -134,10 +134,12 @@ public:
   }
 
 private:
-  double height() const { return barCm_ + gapCm_ + text_->bounds(QStringLiteral("0")).height() * cmPerPoint; }
+  double height() const {
+    return barCm_ + gapCm_ + text_->bounds(QStringLiteral("0")).height() * SysDisplay::cmPerPoint;
+  }
   QString numberAt(Bar const& bar, int division) const { return grouped(bar.step * division); }
   QString unitText(Bar const& bar) const { return QStringLiteral(" ") + QLatin1String(bar.unit->sign); }
-  double widthOf(QString const& text) const { return text_->bounds(text).width() * cmPerPoint; }
+  double widthOf(QString const& text) const { return text_->bounds(text).width() * SysDisplay::cmPerPoint; }
 
   // What the first and the last number and the unit need beside the bar.
   double overhang(Bar const& bar) const {
@@ -182,7 +184,7 @@ private:
     for (int i = 0; i <= bar.divisions; ++i) widest = std::max(widest, widthOf(numberAt(bar, i)));
     int every = 1;
     while (every < bar.divisions &&
-           (bar.divisions % every != 0 || every * stepCm_ < widest + leastBetweenPt * cmPerPoint))
+           (bar.divisions % every != 0 || every * stepCm_ < widest + leastBetweenPt * SysDisplay::cmPerPoint))
       ++every;
     for (int i = 0; i <= bar.divisions; i += every) {
       QString const number = numberAt(bar, i);
@@ -193,14 +195,14 @@ private:
 
   SysGeometry::Envelope const area_;
   _ptr_t<TextSymbol> text_;
-  double barCm_, gapCm_ = gapPt * cmPerPoint;
+  double barCm_, gapCm_ = gapPt * SysDisplay::cmPerPoint;
   double left_ = 0, bottom_ = 0, stepCm_ = 0;
   QList<_ptr_t<Element>> pieces_;
 };
 
 }  // namespace
 
-ScaleLine::ScaleLine() : MapSurround(2), d(std::make_unique<Private>()) {}
+ScaleLine::ScaleLine() : MapSurround(SurroundKind::ScaleLine), d(std::make_unique<Private>()) {}
 ScaleLine::ScaleLine(ScaleLine const& other) : MapSurround(other), d(std::make_unique<Private>(*other.d)) {}
 ScaleLine::~ScaleLine() = default;
 

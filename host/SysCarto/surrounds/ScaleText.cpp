@@ -37,7 +37,7 @@ struct ScaleText::Private {
   ScaleTextSettings settings;
 };
 
-ScaleText::ScaleText() : MapSurround(3), d(std::make_unique<Private>()) {}
+ScaleText::ScaleText() : MapSurround(SurroundKind::ScaleText), d(std::make_unique<Private>()) {}
 ScaleText::ScaleText(ScaleText const& other) : MapSurround(other), d(std::make_unique<Private>(*other.d)) {}
 ScaleText::~ScaleText() = default;
 
@@ -52,8 +52,8 @@ QList<_ptr_t<Element>> ScaleText::GetElements() {
   format.vertical = SysDisplay::VerticalAlignment::Middle;
   auto symbol = make<TextSymbol>(format);
   QRectF const bounds = symbol->bounds(text);
-  double const fits = std::min(rectangle().GetWidth() / (bounds.width() * cmPerPoint),
-                               rectangle().GetHeight() / (bounds.height() * cmPerPoint));
+  double const fits = std::min(rectangle().GetWidth() / (bounds.width() * SysDisplay::cmPerPoint),
+                               rectangle().GetHeight() / (bounds.height() * SysDisplay::cmPerPoint));
   if (fits < 1) symbol = resized(*symbol, fits);
   auto const middle = rectangle().GetAnchorPoint();
   return {textPiece(text, symbol, QPointF(middle->GetX(), middle->GetY()))};

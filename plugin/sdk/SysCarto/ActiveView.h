@@ -12,6 +12,11 @@ namespace SysCarto {
 class Map;
 class ViewSurface;
 
+/// What `ActiveView::PartialRefresh` is asked to draw again.
+namespace RefreshPhase {
+enum : int { Elements = 8, Everything = 255 };
+}
+
 /// Base of every view: the page layout, or a map. A command tells them apart by `dynamic_cast` to `PageLayout`.
 ///
 /// Where a view is shown on a screen, refreshing and tracking reach it through a surface that the desktop supplies;

@@ -17,6 +17,22 @@ class ElementContainer;
 /// The number by which a container knows an element: unique in it, positive, never used again. 0 is no element.
 using ElementHandle = int;
 
+/// The codes that `Element::GetType` answers.
+namespace ElementType {
+enum : int {
+  Marker = 1,
+  Line = 2,
+  Polygon = 3,
+  Rectangle = 4,
+  Ellipse = 5,
+  Text = 9,
+  Group = 10,
+  DataFrame = 11,
+  MapSurroundFrame = 12,
+  Picture = 13
+};
+}
+
 /// Something that is placed on a page, or on a map. Coordinates are those of its container: page centimetres with y
 /// upwards, or map units.
 ///
@@ -35,8 +51,7 @@ public:
   /// The container's number for the element; 0 before it is added. A clone carries its original's.
   virtual ElementHandle GetHandle() const;
 
-  /// 1 marker, 2 line, 3 polygon, 4 rectangle, 5 ellipse, 9 text, 10 group, 11 data frame, 12 map surround frame,
-  /// 13 picture.
+  /// One of `ElementType`.
   virtual int GetType() const = 0;
 
   /// The element's geometry, a copy: an envelope for frames, rectangles, ellipses and pictures, a point for markers and

@@ -19,12 +19,17 @@ struct LegendClass {
   SysUtility::_ptr_t<SysDisplay::Symbol> symbol;
 };
 
+/// The codes that `Layer::GetType` answers.
+namespace LayerType {
+enum : int { Feature = 2, Raster = 3 };
+}
+
 /// A layer of a map. It holds its data projected to the map's coordinate system.
 class SYSCARTO_EXPORT Layer : public SysUtility::CRef {
 public:
   ~Layer() override;
 
-  /// 2 is a feature layer, 3 a raster layer.
+  /// One of `LayerType`.
   virtual int GetType() const = 0;
   virtual bool IsVisible() const;
 

@@ -12,6 +12,14 @@ namespace SysCarto {
 
 class Map;
 
+/// The values of `MapSurround::kind`. 0, 4, 5 and 10 upwards are reserved: such surrounds draw themselves.
+namespace SurroundKind {
+enum : int { Legend = 1, ScaleLine = 2, ScaleText = 3, NorthArrow = 6 };
+
+/// Whether a surround of the kind is drawn through its elements, and can be converted to them.
+constexpr bool isMadeOfElements(int kind) { return (kind >= 1 && kind <= 3) || (kind >= 6 && kind <= 9); }
+}  // namespace SurroundKind
+
 /// Something that explains a map and follows it: a legend, a scale bar, a scale text, a north arrow. It lies in a
 /// `MapSurroundFrame`.
 class SYSCARTO_EXPORT MapSurround : public SysUtility::CRef {
@@ -25,8 +33,7 @@ public:
   /// Ties the surround to a map; an empty pointer unties it.
   virtual void SetMap(SysUtility::_ptr_t<Map> const& map);
 
-  /// 1 legend, 2 scale line, 3 scale text, 6 north arrow. 0, 4, 5 and 10 upwards are reserved: such surrounds draw
-  /// themselves and are not converted to graphics.
+  /// One of `SurroundKind`.
   int kind;
 
   // Beyond what the commands of a plug-in need.

@@ -6,7 +6,7 @@
 
 #include <QJsonDocument>
 
-      using namespace SysCarto;
+using namespace SysCarto;
 using SysUtility::JsonReader;
 using SysUtility::JsonWriter;
 
