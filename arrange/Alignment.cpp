@@ -8,7 +8,6 @@ using SysCarto::Element;
 using SysFramework::ActiveElements;
 using SysFramework::EditorOperation;
 using SysGeometry::Envelope;
-using SysUtility::_ptr_t;
 
 namespace Plugin {
 

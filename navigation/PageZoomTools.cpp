@@ -15,7 +15,6 @@ using SysDisplay::SimpleFillSymbol;
 using SysDisplay::SimpleLineSymbol;
 using SysGeometry::Envelope;
 using SysGeometry::Geometry;
-using SysGeometry::Point;
 using SysGeometry::Polyline;
 using SysUtility::_ptr_t;
 using SysUtility::make;

@@ -13,7 +13,7 @@ namespace SysDisplay {
 /// A letter's outline in units of the font's size, y downwards, with its place on the baseline at (0, 0).
 class Glyph {
 public:
-  explicit Glyph(QPainterPath outline) : outline_(std::move(outline)), bounds_(outline_.boundingRect()) {}
+  explicit Glyph(QPainterPath const& outline) : outline_(outline), bounds_(outline_.boundingRect()) {}
 
   QPainterPath const& outline() const { return outline_; }
   QRectF const& bounds() const { return bounds_; }

@@ -14,7 +14,6 @@
 using SysCarto::Element;
 using SysCarto::Layer;
 using SysCarto::Map;
-using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
 
 namespace {

@@ -9,7 +9,6 @@
 #include <utility>
 
 using SysCarto::Map;
-using SysCarto::MapFrameElement;
 using SysCarto::MapSteps;
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;

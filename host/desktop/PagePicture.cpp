@@ -14,7 +14,6 @@ using SysCarto::MapSurroundFrame;
 using SysCarto::PageLayout;
 using SysDisplay::DisplayTransformation;
 using SysUtility::_ptr_t;
-using SysUtility::make;
 using SysUtility::ptr_cast;
 
 namespace {

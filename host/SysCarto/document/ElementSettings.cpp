@@ -20,7 +20,6 @@ using SysGeometry::Point;
 using SysGeometry::Polygon;
 using SysGeometry::Polyline;
 using SysUtility::_ptr_t;
-using SysUtility::Field;
 using SysUtility::Fields;
 using SysUtility::make;
 using SysUtility::NumbersKind;

@@ -12,7 +12,6 @@
 
 namespace SysCarto {
 
-using SysDisplay::DisplayTransformation;
 using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
 using SysUtility::make;
