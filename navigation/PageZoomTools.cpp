@@ -30,6 +30,8 @@ constexpr double largestPageScale = 100.0;
 constexpr double smallestPageScale = 0.03451;
 constexpr double foldingThreshold = 2.0;
 
+constexpr double sameRatio = 1e-6;  // far less than one pixel of a rectangle makes
+
 constexpr int centreOfImage = -1;
 
 _ptr_t<SimpleLineSymbol> rubberBandLine() {
@@ -40,6 +42,12 @@ _ptr_t<SimpleLineSymbol> rubberBandLine() {
   line->SetCapStyle(static_cast<SysDisplay::LineCapStyle>(1));
   line->SetJoinStyle(static_cast<SysDisplay::LineJoinStyle>(1));
   return line;
+}
+
+// The ratio of a rectangle that is a whole part of the view is off by its last digits, to either side of a threshold.
+double withoutRounding(double ratio) {
+  double const whole = std::round(ratio);
+  return std::abs(ratio - whole) <= sameRatio * ratio ? whole : ratio;
 }
 
 }  // namespace
@@ -143,7 +151,7 @@ _ptr_t<Envelope> PageZoomOutTool::zoomed(_ptr_t<Envelope> const& extent) const {
   }
   double const widthRatio = std::abs(extent->GetWidth() / dragged->GetWidth());
   double const heightRatio = std::abs(extent->GetHeight() / dragged->GetHeight());
-  double factor = std::min(heightRatio, widthRatio);
+  double factor = withoutRounding(std::min(heightRatio, widthRatio));
   if (factor > foldingThreshold) factor = factor - std::floor(factor) + 1.0;
   extent->Expand(factor, factor, true);
   extent->CenterAt(anchor);

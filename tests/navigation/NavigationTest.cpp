@@ -57,7 +57,6 @@ private slots:
     row("out: a click centres on the press", "out", {mark}, QRectF(5 - 11, 10 - 8.25, 22, 16.5));
     row("out: flat in one direction is a click", "out", {mark, {350, 250}}, QRectF(5 - 11, 10 - 8.25, 22, 16.5));
     row("out: a ratio just under 4 folds to just under 2", "out", {corner, {250, 750 - 188}}, QRectF());
-    row("out: half of it doubles", "out", {corner, centre}, QRectF(5 - 20, 3.75 - 15, 40, 30));
     row("out: two fifths fold 2.5 to 1.5", "out", {corner, {400, 450}}, QRectF(4 - 15, 3 - 11.25, 30, 22.5));
     row("out: the smaller ratio counts", "out", {corner, {800, 700}}, QRectF(8 - 12.5, 0.5 - 9.375, 25, 18.75));
   }
@@ -67,6 +66,24 @@ private slots:
     drag(toolNamed(identifier), path);
     if (!expected.isNull()) QCOMPARE(shown(), expected);
     if (expected.isNull()) QVERIFY(hook_->layout->GetExtent()->GetWidth() > 1.9 * extentWidth);
+  }
+
+  void aWholePartOfTheViewIsOneWhereverItIsDragged_data() {
+    // size of the rectangle, part of 1000 × 750 in one direction and more in the other; what the view grows by
+    Rows<QSize, double> row;
+    row("a half doubles", QSize(500, 370), 2);
+    row("a third folds to 1", QSize(330, 250), 1);
+    row("a quarter folds to 1", QSize(250, 180), 1);
+  }
+
+  void aWholePartOfTheViewIsOneWhereverItIsDragged() {
+    auto const [size, factor] = fetched<QSize, double>();
+    for (int place = 0; place < 200; ++place) {
+      hook_->layout->SetExtent(make<Envelope>(0.1 * place, 0.3, 0.1 * place + extentWidth, 0.3 + extentHeight));
+      QPoint const press(2 * place, place);
+      drag(make<Plugin::PageZoomOutTool>(), {press, press + QPoint(size.width(), size.height())});
+      QVERIFY2(near(hook_->layout->GetExtent()->GetWidth(), factor * extentWidth), qPrintable(QString::number(place)));
+    }
   }
 
   void beyondItsLimitAToolZoomsNoMore() {
