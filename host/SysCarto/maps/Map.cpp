@@ -24,6 +24,8 @@ namespace {
 
 constexpr double micrometresPerCm = 10000.0;
 constexpr double metresPerMicrometre = 1e-6;
+constexpr double micrometresPerInch = 25400.0;
+constexpr double pixelsPerInch = 96.0;  // of paper, at page scale 1
 constexpr double largestFrameUm = 2e9;
 constexpr double scaleStep = 1e-4;  // of the extent's width
 
@@ -66,7 +68,10 @@ void Map::Private::fit() {
   transformation->SetMapScale(groundMetres / metresPerMicrometre);
 }
 
-Map::Map() : d(std::make_unique<Private>()) { d->fit(); }
+Map::Map() : d(std::make_unique<Private>()) {
+  d->transformation->SetPageScale(micrometresPerInch / pixelsPerInch);
+  d->fit();
+}
 Map::~Map() = default;
 
 _ptr_t<DisplayTransformation> Map::GetDisplayTransformation() const { return d->transformation; }

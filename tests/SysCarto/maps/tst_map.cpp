@@ -88,6 +88,9 @@ private slots:
     auto const extent = map->GetExtent();
     QVERIFY(relativeError(extent->GetWidth() / extent->GetHeight(), widthCm / heightCm) < 1e-9);
     QVERIFY(std::abs(extent->GetAnchorPoint()->GetX() - (50 + extentWidth / 2)) < 1e-9 * extentWidth);
+    auto const mapping = map->GetDisplayTransformation();
+    QVERIFY(relativeError(mapping->PixelsPerPoint() / mapping->ToDevice().m11(),
+                          extent->GetWidth() / widthCm * 2.54 / 72) < 1e-3);
     QVERIFY(std::abs(extent->GetAnchorPoint()->GetY() - (70 + extentHeight / 2)) < 1e-9 * extentHeight);
     QVERIFY(relativeError(std::max(extentWidth / extent->GetWidth(), extentHeight / extent->GetHeight()), 1) < 1e-9);
     QCOMPARE(map->GetStoredBounds().GetWidth(), 50 + extentWidth - 50);
