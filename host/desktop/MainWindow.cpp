@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTabBar>
@@ -39,6 +40,13 @@ QString documentIn(QMimeData const& data) {
   QList<QUrl> const urls = data.urls();
   QString const path = urls.size() == 1 ? urls.first().toLocalFile() : QString();
   return path.endsWith(QLatin1String(".kdx"), Qt::CaseInsensitive) ? path : QString();
+}
+
+QRect within(QRect const& room, QRect place) {
+  place.setSize(place.size().boundedTo(room.size()));
+  QPoint const farthest = room.bottomRight() - place.bottomRight() + place.topLeft();
+  place.moveTo(qBound(room.left(), place.left(), farthest.x()), qBound(room.top(), place.top(), farthest.y()));
+  return place;
 }
 
 QLabel* addLabel(QStatusBar& bar, QString const& widest, QString const& toolTip) {
@@ -189,6 +197,10 @@ void MainWindow::buildStatusBar() {
 void MainWindow::restoreState() {
   QSettings const settings;
   restoreGeometry(settings.value(geometryKey).toByteArray());
+  // A place of another scale factor is refused or taken as it is, and the first size is too large for some screens.
+  QScreen const* const under = QGuiApplication::screenAt(geometry().center());
+  QRect const place = within((under ? under : screen())->availableGeometry(), geometry());
+  if (place != geometry() && !isMaximized() && !isFullScreen()) setGeometry(place);
   QMainWindow::restoreState(settings.value(stateKey).toByteArray(), stateVersion);
 }
 

@@ -19,6 +19,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTreeWidget>
@@ -59,6 +60,21 @@ private slots:
   }
 
   void init() { QSettings().clear(); }
+  void theWindowFitsOnTheScreen_data() {
+    Rows<QRect> row;
+    row("at first", QRect());
+    row("remembered from a larger one", QRect(700, 300, 3000, 2000));
+  }
+  void theWindowFitsOnTheScreen() {
+    auto const [remembered] = fetched<QRect>();
+    QWidget window;
+    window.setGeometry(remembered);
+    if (!remembered.isNull()) QSettings().setValue("window/geometry", window.saveGeometry());
+    MainWindow const restored;
+    QRect const screen = restored.screen()->availableGeometry();
+    QVERIFY(screen.contains(restored.geometry()));
+  }
+
   void statesFollowTheHost() {
     WorldWindow sample;
     QVERIFY(!sample.isEnabled("Plotvane_ZoomToPreviousExtent"));
