@@ -108,6 +108,7 @@ private:
     transformation->SetPageScale(pageScale);
     transformation->SetDeviceFrame(QRect(QPoint(0, 0), sizePx));
     transformation->SetVisibleBounds(make<SysGeometry::Envelope>(part));
+    transformation->SetPatternOrigin(bounds.GetXMin(), bounds.GetYMax());
     return transformation;
   }
 };

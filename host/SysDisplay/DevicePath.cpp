@@ -14,7 +14,7 @@ using SysGeometry::outcode;
 
 namespace {
 
-// A segment longer than this is divided where it crosses a lattice that hangs on the world's origin. So no coordinate
+// A segment longer than this is divided where it crosses a lattice that hangs on the pattern's origin. So no coordinate
 // near the tile gets too large for the rasteriser, and the points of division are the same in every tile.
 constexpr double longPx = 8192.0;
 constexpr double latticePx = 4096.0;
@@ -25,10 +25,10 @@ bool isLong(QPointF const& a, QPointF const& b) {
 
 // One axis of a segment, turned so that the segment runs upwards along it.
 struct Axis {
-  double from, to, low, high, anchor, step;
+  double from, to, low, high, anchor;
 
-  double position(double number) const { return anchor + number * step; }
-  double numberOf(double position) const { return (position - anchor) / step; }
+  double position(double number) const { return anchor + number * latticePx; }
+  double numberOf(double position) const { return (position - anchor) / latticePx; }
 };
 
 // Calls `visit` for the numbers of the lattice lines that the segment crosses: those near the area, and the ones next
@@ -47,18 +47,14 @@ void visitCrossings(Axis const& axis, Visit const& visit) {
 
 // Calls `visit` with the points that divide a long segment, from a to b.
 template <class Visit>
-void divide(QPointF const& a, QPointF const& b, QRectF const& area, Anchor const& anchor, Visit const& visit) {
+void divide(QPointF const& a, QPointF const& b, QRectF const& area, QPointF const& anchor, Visit const& visit) {
   bool const alongX = std::abs(b.x() - a.x()) >= std::abs(b.y() - a.y());
   auto const major = [&](QPointF const& p) { return alongX ? p.x() : p.y(); };
   auto const minor = [&](QPointF const& p) { return alongX ? p.y() : p.x(); };
   double const sign = major(b) > major(a) ? 1.0 : -1.0;
   double const side1 = sign * major(area.topLeft()), side2 = sign * major(area.bottomRight());
-  Axis const axis{sign * major(a),
-                  sign * major(b),
-                  std::min(side1, side2),
-                  std::max(side1, side2),
-                  sign * major(anchor.position),
-                  latticePx * anchor.stretch};
+  Axis const axis{sign * major(a), sign * major(b), std::min(side1, side2), std::max(side1, side2),
+                  sign * major(anchor)};
   // The same points whichever way the segment runs: neighbours share it.
   QPointF const& start = sign > 0 ? a : b;
   QPointF const& end = sign > 0 ? b : a;
@@ -128,7 +124,7 @@ private:
 };
 
 // The line with its long segments divided.
-std::vector<QPointF> divided(std::vector<QPointF> const& line, bool closed, QRectF const& area, Anchor const& anchor) {
+std::vector<QPointF> divided(std::vector<QPointF> const& line, bool closed, QRectF const& area, QPointF const& anchor) {
   std::vector<QPointF> result;
   size_t const count = line.size();
   for (size_t i = 0; i < count; ++i) {
@@ -161,14 +157,6 @@ void joinAtStart(PointRuns& runs, int firstRun) {
 }
 
 }  // namespace
-
-Anchor anchorOf(QTransform const& toDevice) {
-  // Nine digits are the same for all tiles of a page.
-  double const scale = std::hypot(toDevice.m11(), toDevice.m12());
-  double const unit = std::pow(10.0, std::floor(std::log10(scale)) - 8);
-  double const shared = std::round(scale / unit) * unit;
-  return {QPointF(toDevice.dx(), toDevice.dy()), shared > 0 && std::isfinite(shared) ? scale / shared : 1.0};
-}
 
 void toDevicePoints(QTransform const& toDevice, WorldRun const& run, QRectF const& area, double thinPx,
                     std::vector<QPointF>& points) {
@@ -214,7 +202,7 @@ void toDevicePoints(QTransform const& toDevice, WorldRun const& run, QRectF cons
   if (!endIsKept && end != points.back()) points.push_back(end);
 }
 
-void clipRing(std::vector<QPointF> const& ring, QRectF const& area, Anchor const& anchor, PointRuns& out) {
+void clipRing(std::vector<QPointF> const& ring, QRectF const& area, QPointF const& anchor, PointRuns& out) {
   if (ring.empty()) return;
   Box const box = boxOf(area);
   StretchDropper dropper(box, out);
@@ -236,7 +224,7 @@ void dropBeyond(QPointF const* ring, int count, QRectF const& area, PointRuns& o
   out.endRun();
 }
 
-bool splitLine(std::vector<QPointF> const& given, bool closed, QRectF const& area, Anchor const& anchor,
+bool splitLine(std::vector<QPointF> const& given, bool closed, QRectF const& area, QPointF const& anchor,
                PointRuns& out) {
   if (given.empty()) return false;
   bool const dividing = hasLongSegment(given, closed);

@@ -18,15 +18,6 @@ inline double snapped(double px) {
 }
 inline QPointF snapped(QPointF const& point) { return {snapped(point.x()), snapped(point.y())}; }
 
-/// Where patterns that go on from tile to tile hang: the device position of the world's origin. That may be many
-/// millions of pixels away, where the last bits of a tile's scale add up to visible parts of a pixel; so lengths
-/// counted from there are to be multiplied by `stretch`, which takes them to a scale that all tiles share.
-struct Anchor {
-  QPointF position;
-  double stretch = 1;
-};
-SYSDISPLAY_EXPORT Anchor anchorOf(QTransform const& toDevice);
-
 /// Device coordinates lie within this distance of 0, the range in which `snapped` is exact.
 constexpr double farthestPx = 1e12;
 
@@ -43,7 +34,7 @@ SYSDISPLAY_EXPORT void toDevicePoints(QTransform const& toDevice, WorldRun const
 /// Brings a ring to what matters within `area`: of neighbouring vertices that lie beyond the same side only the first
 /// and the last stay. Inside the area the ring stays as it is, vertex for vertex. Long segments are
 /// divided, at places that hang on `anchor`.
-SYSDISPLAY_EXPORT void clipRing(std::vector<QPointF> const& ring, QRectF const& area, Anchor const& anchor,
+SYSDISPLAY_EXPORT void clipRing(std::vector<QPointF> const& ring, QRectF const& area, QPointF const& anchor,
                                 PointRuns& out);
 
 /// Brings a ring to the vertices that matter within `area`, as `clipRing` does, and divides nothing.
@@ -53,7 +44,7 @@ SYSDISPLAY_EXPORT void dropBeyond(QPointF const* ring, int count, QRectF const& 
 /// segment that stays, since it shapes the join. Answers true where a closed line stayed in one piece, so that its one
 /// run is to be closed again.
 SYSDISPLAY_EXPORT bool splitLine(std::vector<QPointF> const& line, bool closed, QRectF const& area,
-                                 Anchor const& anchor, PointRuns& out);
+                                 QPointF const& anchor, PointRuns& out);
 
 /// The line moved by `distancePx` to the left of its direction, as seen on the page. Sharp corners are cut off.
 SYSDISPLAY_EXPORT std::vector<QPointF> offsetLine(std::vector<QPointF> const& line, bool closed, double distancePx);

@@ -1,6 +1,8 @@
 #include <SysDisplay/DisplayTransformation.h>
 #include <SysDisplay/Units.h>
 
+#include "host/SysDisplay/DevicePath.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -30,6 +32,8 @@ struct DisplayTransformation::Private {
   QRect frame{0, 0, 1, 1};
   double mapScale = 0;
   double pageScale = 1;
+  bool fillsWidth = false;
+  QPointF patternOrigin;
   QPaintDevice* device = nullptr;
 
   double frameWidth() const { return std::max(1, frame.width()); }
@@ -43,7 +47,7 @@ struct DisplayTransformation::Private {
   // Pixels on a world unit. Of two scales that should be equal the longer side has the truer one.
   double scale() const {
     if (hasFrameAspect()) return frameWidth() >= frameHeight() ? scaleX() : scaleY();
-    return std::min(scaleX(), scaleY());
+    return fillsWidth && xmax > xmin ? scaleX() : std::min(scaleX(), scaleY());
   }
 };
 
@@ -66,6 +70,11 @@ double DisplayTransformation::GetPageScale() const { return d->pageScale; }
 void DisplayTransformation::SetPageScale(double pageScale) {
   if (std::isfinite(pageScale) && pageScale > 0) d->pageScale = pageScale;
 }
+void DisplayTransformation::SetFillsWidth(bool fillsWidth) { d->fillsWidth = fillsWidth; }
+
+void DisplayTransformation::SetPatternOrigin(double x, double y) { d->patternOrigin = {x, y}; }
+QPointF DisplayTransformation::PatternOrigin() const { return snapped(ToDevice().map(d->patternOrigin)); }
+
 double DisplayTransformation::PixelsPerPoint() const { return d->pageScale * pixelsPerInch / pointsPerInch; }
 
 QPaintDevice* DisplayTransformation::GetPaintDevice() const { return d->device; }
@@ -92,7 +101,7 @@ _ptr_t<Envelope> DisplayTransformation::GetVisibleBounds() const {
 
 _ptr_t<Envelope> DisplayTransformation::GetFittedBounds() const {
   if (d->hasFrameAspect()) return GetVisibleBounds();
-  bool const widens = d->scaleY() < d->scaleX();
+  bool const widens = d->scale() < d->scaleX();
   double const xmax = widens ? d->xmin + d->frameWidth() / d->scale() : d->xmax;
   double const ymin = widens ? d->ymin : d->ymax - d->frameHeight() / d->scale();
   return SysUtility::make<Envelope>(d->xmin, ymin, xmax, d->ymax);

@@ -11,13 +11,13 @@ QRectF reachableArea(QPainter const& painter) {
 }
 
 DrawTarget::DrawTarget(QPainter& painter, DisplayTransformation const& transformation)
-    : DrawTarget(painter, transformation.ToDevice(), transformation.PixelsPerPoint()) {}
+    : DrawTarget(painter, transformation.ToDevice(), transformation.PixelsPerPoint(), transformation.PatternOrigin()) {}
 
-DrawTarget::DrawTarget(QPainter& painter, QTransform const& toDevice, double pixelsPerPoint)
+DrawTarget::DrawTarget(QPainter& painter, QTransform const& toDevice, double pixelsPerPoint, QPointF const& anchor)
     : painter_(painter),
       toDevice_(toDevice),
       pixelsPerPoint_(pixelsPerPoint),
-      anchor_(anchorOf(toDevice)),
+      anchor_(anchor),
       area_(reachableArea(painter)),
       fills_(painter) {
   painter_.save();

@@ -22,8 +22,9 @@ class SYSDISPLAY_EXPORT DrawTarget {
 public:
   DrawTarget(QPainter& painter, DisplayTransformation const& transformation);
 
-  /// `pixelsPerPoint` are the device pixels on one point (1/72 inch) of a symbol.
-  DrawTarget(QPainter& painter, QTransform const& toDevice, double pixelsPerPoint);
+  /// `pixelsPerPoint` are the device pixels on one point (1/72 inch) of a symbol, `anchor` is the device position that
+  /// hatches and the like hang on.
+  DrawTarget(QPainter& painter, QTransform const& toDevice, double pixelsPerPoint, QPointF const& anchor = {});
   ~DrawTarget();
   DrawTarget(DrawTarget const&) = delete;
   DrawTarget& operator=(DrawTarget const&) = delete;
@@ -45,13 +46,13 @@ public:
   QRectF const& area() const { return area_; }
 
   /// Where hatches and the like hang.
-  Anchor const& anchor() const { return anchor_; }
+  QPointF const& anchor() const { return anchor_; }
 
 private:
   QPainter& painter_;
   QTransform const toDevice_;
   double const pixelsPerPoint_;
-  Anchor const anchor_;
+  QPointF const anchor_;
   QRectF const area_;
   FillQueue fills_;
 };

@@ -49,11 +49,11 @@ QRectF frameOf(Frame const& frame, QRectF const& area) {
 
 class Hatcher {
 public:
-  Hatcher(Frame const& frame, double spacingPx, double widthPx, QRectF const& area, Anchor const& anchor)
-      : frame_(frame), step_(spacingPx * frame.stretch * anchor.stretch), origin_(frame.toFrame(anchor.position).y()) {
+  Hatcher(Frame const& frame, double spacingPx, double widthPx, QRectF const& area, QPointF const& anchor)
+      : frame_(frame), step_(spacingPx * frame.stretch), origin_(frame.toFrame(anchor).y()) {
     half_ = std::max(frame.rounded(widthPx / 2 * frame.stretch), frame.quantum);
     visible_ = frameOf(frame, area);
-    // Numbers count from the first line that shows, since far from the world's origin they would be too large.
+    // Numbers count from the first line that shows, since far from the origin they would be too large.
     base_ = std::ceil((visible_.top() - half_ - origin_) / step_);
     last_ = static_cast<int>(std::floor((visible_.bottom() + half_ - origin_) / step_) - base_);
   }
@@ -150,7 +150,7 @@ void fillHatch(DrawTarget& target, PointRuns const& lines, QColor const& color, 
 }
 
 void hatchRings(PointRuns const& rings, HatchDirection direction, double spacingPx, double widthPx, QRectF const& area,
-                Anchor const& anchor, PointRuns& out) {
+                QPointF const& anchor, PointRuns& out) {
   Hatcher hatcher(frames[static_cast<int>(direction)], spacingPx, widthPx, area, anchor);
   hatcher.cross(rings);
   hatcher.collect(out);

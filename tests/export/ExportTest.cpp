@@ -1,5 +1,6 @@
 #include "LayoutHook.h"
 #include "Pictures.h"
+#include "Symbols.h"
 #include "export/ExportCommand.h"
 #include "export/LayoutRenderer.h"
 
@@ -172,6 +173,27 @@ private slots:
       Difference const found =
           difference(whole, tiled(size, side, [&](QRect const& tile) { return renderer.tileImage(tile, nullptr); }));
       QVERIFY2(found.levels <= 2 && found.pixels < 1e-4 * size.width() * size.height(), qPrintable(found.text()));
+    }
+  }
+
+  // At 1:100, where the last digits of a coordinate are a good part of what a tile shows.
+  void hatchesOfAFarPlanRunOnFromTileToTile() {
+    auto const layout = emptyLayout(4.0, 4.0);
+    auto const frame = madeIn<MapFrameElement>(0.2, 0.2, 3.8, 3.8);
+    layout->GetGraphicsContainer()->AddElement(frame);
+    double const x = 4512345.678, y = 5400123.456;
+    auto const area = madeIn<RectangleElement>(x, y, x + 4, y + 4);
+    area->setSymbol(fill(QColor(30, 120, 200, 180), SysDisplay::SimpleFillStyle::ForwardDiagonal, nullptr));
+    frame->GetMap()->GetGraphicsContainer()->AddElement(area);
+    for (double width : {3.6, 3.83, 4.71}) {
+      frame->GetMap()->SetExtent(make<Envelope>(x, y, x + width, y + width));
+      LayoutRenderer const renderer(layout, LayoutRenderer::imageSize(*layout->GetPage(), 600), 600);
+      auto const drawn = [&](QRect const& tile) { return renderer.tileImage(tile, nullptr); };
+      QImage const whole = drawn(QRect(0, 0, 944, 944));
+      for (int side : {512, 100}) {
+        Difference const found = difference(whole, tiled(whole.size(), side, drawn));
+        QVERIFY2(found.pixels == 0, qPrintable(found.text()));
+      }
     }
   }
 

@@ -64,6 +64,7 @@ void Map::Private::fit() {
   double const x = bounds.GetXMin() + bounds.GetWidth() / 2, y = bounds.GetYMin() + bounds.GetHeight() / 2;
   transformation->SetDeviceFrame(frame);
   transformation->SetVisibleBounds(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
+  transformation->SetPatternOrigin(x - halfWidth, y + halfHeight);
   double const groundMetres = scale * ground->metresPerUnit(x, y, 2 * halfWidth * scaleStep);
   transformation->SetMapScale(groundMetres / metresPerMicrometre);
 }
