@@ -21,7 +21,7 @@ using SysUI::TrackerCancel;
 
 namespace {
 
-// Notes what it is asked to draw, and draws nothing.
+// Notes what it is asked to draw, and draws it in red.
 class RecordingLayer : public Layer {
 public:
   struct Call {
@@ -31,10 +31,11 @@ public:
   };
 
   int GetType() const override { return 2; }
-  void Draw(QPainter&, _ptr_t<DisplayTransformation> const& transform, int phase,
+  void Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transform, int phase,
             _ptr_t<TrackerCancel> const&) override {
     QCOMPARE(phase, 1);
     calls.append({*transform->GetVisibleBounds(), transform->GetDeviceFrame(), transform->GetPageScale()});
+    painter.fillRect(transform->GetDeviceFrame(), Qt::red);
   }
 
   QVector<Call> calls;
@@ -111,6 +112,28 @@ private slots:
     QCOMPARE(upperLeft.frame, QRect(0, 0, 512 - 118, 512 - 118));
     QCOMPARE(lowerRight.frame, QRect(0, 0, 669 - 511, 669 - 511));
     QCOMPARE(upperLeft.pageScale, 100 / 96.0);
+  }
+
+  void theMapFillsItsFrame_data() {
+    Rows<double, double, QSize, int> row;
+    row("a page higher than the preview", 21.59, 35.56, QSize(250, 355), 96);
+    row("a page lower than the preview", 29.7, 21.0, QSize(250, 355), 96);
+    row("a strip whose height is cut to whole pixels", 100.0, 10.0, QSize(3779, 377), 96);
+    row("a frame that ends at 511.7, before the second tile", 13.697, 13.697, QSize(552, 552), 100);
+  }
+
+  void theMapFillsItsFrame() {
+    auto const [widthCm, heightCm, size, dpi] = fetched<double, double, QSize, int>();
+    auto const layout = emptyLayout(widthCm, heightCm);
+    auto const frame = madeIn<MapFrameElement>(1.0, 1.0, widthCm - 1, heightCm - 1);
+    frame->SetBorder(nullptr);
+    addWithLayer(*layout, frame);
+    LayoutRenderer const renderer(layout, size, dpi);
+    QImage const image =
+        tiled(size, LayoutRenderer::tileSize, [&](QRect const& tile) { return renderer.tileImage(tile, nullptr); });
+    auto const pixel = [width = widthCm, &size](double cm) { return qRound(cm / width * size.width()); };
+    QRect const corners(QPoint(pixel(1), pixel(1)), QPoint(pixel(widthCm - 1), pixel(heightCm - 1)));
+    QCOMPARE(ink(image).where, corners & image.rect());
   }
 
   void aFrameThatTouchesATileWithItsShadowAloneDrawsNoMapThere() {

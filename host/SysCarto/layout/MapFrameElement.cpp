@@ -15,8 +15,21 @@ namespace SysCarto {
 using SysDisplay::DisplayTransformation;
 using SysGeometry::Envelope;
 using SysGeometry::Geometry;
+using SysGeometry::Point;
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
+
+namespace {
+
+// The pixel of the lower right corner is the last of the map, and half of it may lie beyond the rectangle. A device
+// that begins with it has to be told, since the frame would seem to end before it.
+_ptr_t<Point> firstPixel(Envelope const& rectangle, DisplayTransformation const& transformation) {
+  QPoint const last = transformation.FromMapPoint(rectangle.GetXMax(), rectangle.GetYMin());
+  QPoint const first = transformation.GetDeviceFrame().topLeft();
+  return last.x() == first.x() || last.y() == first.y() ? transformation.ToMapPoint(last) : nullptr;
+}
+
+}  // namespace
 
 struct MapFrameElement::Private {
   _ptr_t<Map> map;
@@ -86,6 +99,7 @@ _ptr_t<Geometry> MapFrameElement::GetBoundary(_ptr_t<DisplayTransformation> cons
   _ptr_t<Envelope> const labelled = GetEnvelope();
   labelled->Expand(margin, margin, false);
   include(*framed, labelled);
+  if (auto const pixel = firstPixel(*GetEnvelope(), *transformation)) include(*framed, pixel);
   return framed;
 }
 

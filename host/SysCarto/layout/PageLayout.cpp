@@ -78,6 +78,7 @@ struct PageLayout::Private {
 
 PageLayout::PageLayout() : d(std::make_unique<Private>()) {
   GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 1000, 750));
+  GetDisplayTransformation()->SetFillsWidth(true);
 }
 PageLayout::~PageLayout() = default;
 
