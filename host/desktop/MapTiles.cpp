@@ -43,7 +43,8 @@ MapTiles::Look MapTiles::lookOf(MapFrameElement const& frame, double pixelsPerCm
   Look look;
   look.map = frame.GetMap();
   look.pixelsPerCm = pixelsPerCm;
-  look.sizePx = {pixels(rectangle->GetWidth(), pixelsPerCm), pixels(rectangle->GetHeight(), pixelsPerCm)};
+  // Both corners' pixels belong to a frame, as in an export.
+  look.sizePx = {pixels(rectangle->GetWidth(), pixelsPerCm) + 1, pixels(rectangle->GetHeight(), pixelsPerCm) + 1};
   look.sizeCm = {rectangle->GetWidth(), rectangle->GetHeight()};
   look.extent = *look.map->GetExtent();
   for (auto const& layer : look.map->GetLayers()) look.visibleLayers << layer->IsVisible();

@@ -1,5 +1,7 @@
 #include "PagePicture.h"
 
+#include "host/SysCarto/layout/PageOrder.h"
+
 #include <SysCarto/MapSurround.h>
 #include <SysCarto/MapSurroundFrame.h>
 
@@ -123,22 +125,18 @@ void PagePicture::paint(PageLayout const& layout, QRegion const& area) {
   QPainter painter(&image_);
   painter.setClipRegion(area);
   painter.fillRect(image_.rect(), QApplication::palette().color(QPalette::Mid));
-  SysCarto::Page* const page = layout.GetPage();
-  if (page) paintPage(painter, *page);
-  QRectF const dirty = QRectF(area.boundingRect()).adjusted(-1, -1, 1, 1);
-  for (auto const& element : layout.GetGraphicsContainer()->GetElements())
-    if (pixelsOf(*transformation_, *element->GetBoundary(transformation_)->GetEnvelope()).intersects(dirty))
-      paintElement(painter, element);
-  if (page) page->DrawBorder(painter, transformation_);
+  if (SysCarto::Page* const page = layout.GetPage()) paintSheet(painter, *page);
+  SysCarto::drawInPageOrder(layout, painter, transformation_,
+                            [&](auto const& element) { paintElement(painter, element); });
 }
 
-void PagePicture::paintPage(QPainter& painter, SysCarto::Page& page) const {
+// What an export doesn't have: the sheet of paper on the desk.
+void PagePicture::paintSheet(QPainter& painter, SysCarto::Page& page) const {
   QRectF const sheet = pixelsOf(*transformation_, *page.GetPageEnvelope());
   int const spread = qRound(shadowPx * devicePixelRatio_);
   painter.fillRect(sheet.translated(spread, spread), QColor(0, 0, 0, 60));
   page.drawShadow(painter, transformation_);
   painter.fillRect(sheet, Qt::white);
-  page.DrawBackground(painter, transformation_);
 }
 
 void PagePicture::paintElement(QPainter& painter, _ptr_t<Element> const& element) const {

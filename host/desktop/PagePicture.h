@@ -42,7 +42,7 @@ private:
   void followView(SysCarto::PageLayout const& layout);
   void followMaps(SysCarto::PageLayout const& layout);
   void paint(SysCarto::PageLayout const& layout, QRegion const& area);
-  void paintPage(QPainter& painter, SysCarto::Page& page) const;
+  void paintSheet(QPainter& painter, SysCarto::Page& page) const;
   void paintElement(QPainter& painter, SysUtility::_ptr_t<SysCarto::Element> const& element) const;
   void paintFrame(QPainter& painter, SysUtility::_ptr_t<SysCarto::MapFrameElement> const& frame) const;
   QPoint cornerOf(SysCarto::MapFrameElement const& frame) const;

@@ -6,6 +6,7 @@
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/layout/PageLimits.h"
+#include "host/SysCarto/layout/PageOrder.h"
 #include "host/SysUtility/ChangeMark.h"
 #include "host/SysUtility/FileSaver.h"
 #include "host/SysUtility/JsonFields.h"
@@ -253,13 +254,13 @@ QImage MapDocument::Thumbnail() const {
   picture.fill(Qt::white);
   auto const transformation = make<SysDisplay::DisplayTransformation>();
   transformation->SetDeviceFrame(picture.rect());
+  transformation->SetFillsWidth(true);
   transformation->SetVisibleBounds(page->GetPageEnvelope());
   transformation->SetPageScale(pixelsPerCm * SysDisplay::cmPerInch / SysDisplay::pixelsPerInch);
   transformation->SetPaintDevice(&picture);
   QPainter painter(&picture);
-  page->DrawBackground(painter, transformation);
-  d->content.layout->GetGraphicsContainer()->Draw(painter, transformation, 1, nullptr);
-  page->DrawBorder(painter, transformation);
+  drawInPageOrder(*d->content.layout, painter, transformation,
+                  [&](auto const& element) { element->Draw(painter, transformation, nullptr); });
   return picture;
 }
 

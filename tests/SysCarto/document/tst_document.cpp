@@ -339,6 +339,9 @@ private slots:
     QCOMPARE(picture.size(), QSize(256, 181));
     QCOMPARE(picture.pixelColor(250, 100), QColor(Qt::white));
     QVERIFY(picture.pixelColor(0, 100).lightness() < 230);
+    document.GetPageLayout()->GetGraphicsContainer()->AddElement(madeIn<RectangleElement>(-1, 5, 2, 10));
+    QImage const covered = document.Thumbnail();  // the element lies over the border
+    QCOMPARE(covered.pixelColor(0, 116), covered.pixelColor(5, 116));
 
     document.GetPageLayout()->SetPage(nullptr);
     QVERIFY(document.Thumbnail().isNull());
