@@ -108,7 +108,7 @@ TOCControl::TOCControl(QWidget* parent) : QWidget(parent), d(std::make_unique<Pr
   auto* const box = new QVBoxLayout(this);
   box->setContentsMargins(0, 0, 0, 0);
   box->addWidget(d->tree);
-  connect(d->tree, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item) {
+  connect(d->tree, &QTreeWidget::itemChanged, this, [](QTreeWidgetItem* item) {
     auto* const row = dynamic_cast<LayerItem*>(item);
     bool const isOn = item->checkState(0) == Qt::Checked;
     if (row) SysCarto::MapSteps::setVisible(*row->layer, isOn);
