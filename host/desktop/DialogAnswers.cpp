@@ -5,6 +5,7 @@
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
@@ -151,6 +152,7 @@ QPushButton* acceptingButtonOf(QDialog const& dialog) {
 // The widget that an answer names in the dialog; null where there is none.
 QWidget* widgetOf(QDialog& dialog, QString const& name) {
   if (qobject_cast<QFileDialog*>(&dialog)) return name == QLatin1String("file") ? &dialog : nullptr;
+  if (qobject_cast<QColorDialog*>(&dialog)) return name == QLatin1String("color") ? &dialog : nullptr;
   if (qobject_cast<QMessageBox*>(&dialog)) return name == QLatin1String("button") ? &dialog : nullptr;
   return dialog.findChild<QWidget*>(name);
 }
@@ -159,6 +161,10 @@ bool apply(QDialog& dialog, QWidget& widget, QString const& value) {
   if (auto* const files = qobject_cast<QFileDialog*>(&dialog)) {
     files->selectFile(QFileInfo(value).absoluteFilePath());
     return true;
+  }
+  if (auto* const colors = qobject_cast<QColorDialog*>(&dialog)) {
+    colors->setCurrentColor(QColor(value));
+    return QColor::isValidColor(value);
   }
   if (auto const* const box = qobject_cast<QMessageBox*>(&dialog)) {
     QPushButton* const button = buttonOf(*box, value);

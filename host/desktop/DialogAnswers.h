@@ -17,7 +17,7 @@ class DialogAnswers final : public QObject {
 public:
   struct Answer {
     enum class Kind { Widget, Accept, Cancel } kind = Kind::Accept;
-    QString widget;  ///< object name; "file" in a file dialog, "button" in a message box
+    QString widget;  ///< object name; "file", "color" or "button" in a dialog of that kind
     QString value;
   };
 
