@@ -17,7 +17,7 @@ function(plotvane_precompiled_headers)
   add_library(plotvane_precompiled_test OBJECT ${source})
   target_link_libraries(plotvane_precompiled_test PRIVATE Qt5::Network Qt5::Test Qt5::Widgets)
   target_compile_options(plotvane_precompiled_test PRIVATE ${plotvane_test_options})
-  target_precompile_headers(plotvane_precompiled_test PRIVATE ${headers} <QDialog> <QMenu> <QTemporaryDir> <QtTest>)
+  target_precompile_headers(plotvane_precompiled_test PRIVATE ${headers} <QtTest> <QtWidgets>)
 endfunction()
 
 # plotvane_host_library(SysName [files…] LINKS [libraries…])

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <SysGeometry/Envelope.h>
+#include "Test.h"
 
-#include <QRectF>
-#include <QVector>
+#include <SysGeometry/Envelope.h>
 
 #include <cmath>
 
@@ -15,6 +14,10 @@ inline QRectF rectOf(SysGeometry::Envelope const& box) {
 /// Whether a box lies in another, or at most so far beyond it.
 inline bool isWithin(QRectF const& box, QRectF const& outer, double tolerance) {
   return outer.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(box);
+}
+
+inline bool isAbout(QRectF const& a, QRectF const& b, double tolerance) {
+  return isWithin(a, b, tolerance) && isWithin(b, a, tolerance);
 }
 
 /// Of what a geometry covers, in order, without the last bits of their rounding.

@@ -1,16 +1,26 @@
 #pragma once
 
-#include <QApplication>
-#include <QDialog>
-#include <QTimer>
+#include "Test.h"
 
-#include <functional>
+#include "host/desktop/DialogAnswers.h"
 
-/// Does something with the dialog that is going to be shown, as a person would.
-inline void answerDialog(std::function<void(QWidget&)> const& answer) {
-  QTimer::singleShot(0, [answer] {
-    QWidget* const dialog = QApplication::activeModalWidget();
-    if (dialog) return answer(*dialog);
-    answerDialog(answer);
-  });
-}
+#include <QtWidgets>
+
+/// Who answers the dialogs that a test opens, in their order. At the end nothing may be left over on either side.
+class Person {
+public:
+  ~Person() { QCOMPARE(problem(), QString()); }
+
+  /// In the dialog that has it; "file" is the path in a file dialog, "color" that of a color dialog.
+  void sets(QString const& widget, QString const& value) { answers_.add({Kind::Widget, widget, value}); }
+  void presses(QString const& buttonOfABox) { sets("button", buttonOfABox); }
+  void accepts() { answers_.add({Kind::Accept, {}, {}}); }
+  void cancels() { answers_.add({Kind::Cancel, {}, {}}); }
+
+  /// A dialog that nobody answered was rejected: its title, and a message box's text.
+  QString problem() { return answers_.takeProblem(); }
+
+private:
+  using Kind = DialogAnswers::Answer::Kind;
+  DialogAnswers answers_;
+};

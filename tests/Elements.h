@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Test.h"
+#include "Boxes.h"
 
 #include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/TextElement.h"
@@ -9,7 +9,10 @@
 #include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>
 #include <SysCarto/MapSurroundFrame.h>
+#include <SysCarto/Page.h>
 #include <SysCarto/SymbolFrameParts.h>
+
+#include <QtWidgets>
 
 /// The element, put into a rectangle.
 template <class Element>
@@ -40,7 +43,10 @@ _ptr_t<SysCarto::MapSurroundFrame> surroundOf(_ptr_t<SysCarto::Map> const& map) 
   return frame;
 }
 
-inline QRectF placeOf(SysCarto::Element const& element) {
-  auto const box = element.GetEnvelope();
-  return {box->GetXMin(), box->GetYMin(), box->GetWidth(), box->GetHeight()};
+inline QSizeF sizeOf(SysCarto::Page const& page) {
+  QSizeF size;
+  page.QuerySize(size.rwidth(), size.rheight());
+  return size;
 }
+
+inline QRectF placeOf(SysCarto::Element const& element) { return rectOf(*element.GetEnvelope()); }

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QDirIterator>
-#include <QFile>
-#include <QMap>
+#include "Test.h"
 
 #include <sys/resource.h>
 
@@ -19,6 +17,15 @@ inline QString put(QString const& path, QByteArray const& content) {
   file.remove();  // a file system may write one that is replaced to the disk at once
   if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write a test file");
   return path;
+}
+
+/// A copy of a sample in a folder, with the data of all samples.
+inline QString sampleIn(QString const& folder, QString const& name) {
+  QDir const samples(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples"));
+  QDir(folder).mkdir("data");
+  for (QString const& file : QDir(samples.filePath("data")).entryList(QDir::Files))
+    put(folder + "/data/" + file, contentOf(samples.filePath("data/" + file)));
+  return put(folder + '/' + name, contentOf(samples.filePath(name)));
 }
 
 /// Every file below a folder, with its content.

@@ -6,8 +6,6 @@
 
 #include <SysDisplay/SimpleFillSymbol.h>
 
-#include <QTemporaryDir>
-
 // What the tests of layers share.
 
 inline QString sample(QString const& name) { return QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/data/") + name; }

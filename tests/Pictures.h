@@ -4,8 +4,7 @@
 
 #include <SysDisplay/DisplayTransformation.h>
 
-#include <QImage>
-#include <QPainter>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <cstdlib>
@@ -24,13 +23,8 @@ struct Difference {
   QRect where;
 
   QString text() const {
-    return QStringLiteral("%1 pixels from (%2, %3) to (%4, %5) differ by up to %6 levels")
-        .arg(pixels)
-        .arg(where.left())
-        .arg(where.top())
-        .arg(where.right())
-        .arg(where.bottom())
-        .arg(levels);
+    return QString::asprintf("%d pixels from (%d, %d) to (%d, %d) differ by up to %d levels", pixels, where.left(),
+                             where.top(), where.right(), where.bottom(), levels);
   }
 };
 

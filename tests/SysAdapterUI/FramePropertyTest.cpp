@@ -1,19 +1,10 @@
 #include "Dialogs.h"
-#include "Test.h"
 
 #include "host/SysCarto/document/FrameSettings.h"
 #include "host/SysUtility/JsonFields.h"
 
 #include <SysAdapterUI/FramePropertyWidget.h>
 #include <SysCarto/MapFrameElement.h>
-
-#include <QColorDialog>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QGroupBox>
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QPushButton>
 
 #include <functional>
 
@@ -36,12 +27,10 @@ Edit noStyle(char const* box) {
   };
 }
 
-Edit color(char const* button, QColor const& wanted) {
+Edit color(char const* button, QString const& wanted) {
   return [=](FramePropertyWidget& widget) {
-    answerDialog([=](QWidget& dialog) {
-      dynamic_cast<QColorDialog&>(dialog).setCurrentColor(wanted);
-      static_cast<QDialog&>(dialog).accept();
-    });
+    Person person;
+    person.sets("color", wanted);
     QTest::mouseClick(widget.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
   };
 }
@@ -72,19 +61,18 @@ class FramePropertyTest : public QObject {
 private slots:
   void everyFieldReachesItsPart_data() {
     Rows<Edit, QString, QJsonValue> row;
-    QColor const glass(10, 20, 30, 40);
-    QString const glassStored = QStringLiteral("#280a141e");
+    QString const glass = QStringLiteral("#280a141e");
     row("line style", noStyle("comboBox_BorderStyle"), "border.symbol.style", "null");
-    row("line color", color("colorButton_Border", glass), "border.symbol.color", glassStored);
+    row("line color", color("colorButton_Border", glass), "border.symbol.color", glass);
     row("line width", number("spinBox_BorderWidth", 3.25), "border.symbol.width", 3.25);
     row("border gap", number("spinBox_BorderGap", -4), "border.gap", -4);
     row("border rounding", number("spinBox_BorderRounding", 30), "border.rounding", 30);
     row("background fill", noStyle("comboBox_BackgroundStyle"), "background.symbol.style", "null");
-    row("background color", color("colorButton_Background", glass), "background.symbol.color", glassStored);
+    row("background color", color("colorButton_Background", glass), "background.symbol.color", glass);
     row("background gap", number("spinBox_BackgroundGap", 6), "background.gap", 6);
     row("background rounding", number("spinBox_BackgroundRounding", 40), "background.rounding", 40);
     row("shadow fill", noStyle("comboBox_ShadowStyle"), "shadow.symbol.style", "null");
-    row("shadow color", color("colorButton_Shadow", glass), "shadow.symbol.color", glassStored);
+    row("shadow color", color("colorButton_Shadow", glass), "shadow.symbol.color", glass);
     row("shadow to the right, its height kept", number("spinBox_ShadowX", 8), "shadow.offset", QJsonArray{8, -2});
     row("shadow upwards, its side kept", number("spinBox_ShadowY", 9), "shadow.offset", QJsonArray{2, 9});
     row("shadow rounding", number("spinBox_ShadowRounding", 50), "shadow.rounding", 50);
@@ -138,7 +126,7 @@ private slots:
     FramePropertyWidget widget(nullptr, background, make<SymbolShadow>(), nullptr);
     widget.show();
     QCOMPARE(pixelAtCentre(widget), QColor(Qt::red));
-    color("colorButton_Background", Qt::blue)(widget);
+    color("colorButton_Background", "#0000ff")(widget);
     QCOMPARE(pixelAtCentre(widget), QColor(Qt::blue));
     widget.findChild<QGroupBox*>("groupBox_Background")->setChecked(false);
     QCOMPARE(pixelAtCentre(widget), QColor(128, 128, 128));  // the shadow under it

@@ -1,5 +1,4 @@
 #include "Boxes.h"
-#include "Test.h"
 
 #include <SysDisplay/DisplayTransformation.h>
 

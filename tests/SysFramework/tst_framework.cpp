@@ -1,4 +1,4 @@
-#include "RecordingSurface.h"
+#include "LayoutHook.h"
 
 #include <SysFramework/BaseTool.h>
 #include <SysFramework/DesktopCommand.h>
@@ -7,16 +7,9 @@ using namespace SysFramework;
 
 namespace {
 
-class PlainHook : public IApplicationHook {
+class DesktopHook final : public LayoutHook, public IDesktop {
 public:
-  _ptr_t<SysCarto::ActiveView> GetActiveView() override { return view; }
-  _ptr_t<SysCarto::PageLayout> GetPageLayout() override { return nullptr; }
-  SysCarto::IKdxContents* GetContents() override { return nullptr; }
-  _ptr_t<SysCarto::ActiveView> view;
-};
-
-class DesktopHook final : public PlainHook, public IDesktop {
-public:
+  using LayoutHook::LayoutHook;
   SysCarto::MapDocument* GetMapDocument() override { return nullptr; }
   SysCarto::IKdxContents* GetActiveContents() override { return nullptr; }
   SysAdapterUI::TOCControl* GetTOCControl() override { return nullptr; }
@@ -39,33 +32,22 @@ public:
   using BaseTool::SetCurrentCursor;
 };
 
-// A hook reaches a command as the bare address of its `IApplicationHook` face.
-void* address(IApplicationHook& hook) { return &hook; }
-
 }  // namespace
 
 class FrameworkTest : public QObject {
   Q_OBJECT
 
 private slots:
-  void aNewCommandIsDisabledAndBoundToNothing() {
-    Command command;
-    QVERIFY(!command.IsEnable());
-    QVERIFY(!command.IsChecked());
-    QVERIFY(!command.hook());
-    command.enabled_ = true;
-    QVERIFY(command.IsEnable());
-  }
-
   void theDesktopIsFoundBehindTheHook() {
-    DesktopHook desktop;
+    DesktopHook desktop(make<SysCarto::PageLayout>());
     Command command;
-    command.OnCreate(address(desktop));
+    QVERIFY(!command.IsEnable() && !command.hook());
+    command.OnCreate(desktop.pointer());
     QCOMPARE(command.hook(), static_cast<IApplicationHook*>(&desktop));
     QCOMPARE(command.desktop_, static_cast<IDesktop*>(&desktop));
 
-    PlainHook plain;
-    command.OnCreate(address(plain));
+    LayoutHook plain(make<SysCarto::PageLayout>());
+    command.OnCreate(plain.pointer());
     QCOMPARE(command.hook(), static_cast<IApplicationHook*>(&plain));
     QVERIFY(!command.desktop_);
 
@@ -74,17 +56,17 @@ private slots:
   }
 
   void aCopyIsAnObjectOfItsOwn() {
-    DesktopHook desktop;
+    DesktopHook desktop(make<SysCarto::PageLayout>());
     auto const original = make<Command>();
-    original->OnCreate(address(desktop));
+    original->OnCreate(desktop.pointer());
     original->enabled_ = true;
-    auto const other = original;
+    int const before = Command::destroyed;
     {
       auto const copy = make<Command>(*original);
       QVERIFY(copy->IsEnable());
       QCOMPARE(copy->desktop_, original->desktop_);
     }
-    QCOMPARE(Command::destroyed, 1 + 2);  // and those of the two functions before
+    QCOMPARE(Command::destroyed, before + 1);
   }
 
   void aToolHasOneCountForAllItsFaces() {
@@ -95,20 +77,19 @@ private slots:
   }
 
   void theCursorIsKeptAndReachesTheViewThatIsShown() {
-    PlainHook hook;
-    QStringList calls;
-    RecordingSurface surface(calls);
+    LayoutHook hook(make<SysCarto::PageLayout>());
+    hook.view = nullptr;
     auto const tool = make<Tool>();
     QVERIFY(tool->Activate() && tool->IsChecked());
     tool->SetCurrentCursor(Qt::CrossCursor);
-    tool->OnCreate(address(hook));
+    tool->OnCreate(hook.pointer());
     tool->SetCurrentCursor(Qt::CrossCursor);
     hook.view = make<SysCarto::PageLayout>();
     tool->SetCurrentCursor(Qt::CrossCursor);
     QCOMPARE(tool->GetCursor().shape(), Qt::CrossCursor);
-    hook.view->setSurface(&surface);
+    hook.view->setSurface(&hook.surface);
     tool->SetCurrentCursor(Qt::WaitCursor);
-    QCOMPARE(calls, QStringList(QString("cursor %1").arg(Qt::WaitCursor)));
+    QCOMPARE(hook.calls, QStringList(QString("cursor %1").arg(Qt::WaitCursor)));
     QCOMPARE(tool->GetCursor().shape(), Qt::WaitCursor);
     QVERIFY(tool->Deactivate() && !tool->IsChecked());
   }

@@ -1,5 +1,4 @@
 #include "Boxes.h"
-#include "Test.h"
 
 #include "host/SysGeometry/OgrBridge.h"
 #include "host/SysGeometry/PlaneGeometry.h"
@@ -78,23 +77,17 @@ private slots:
     QVERIFY(Envelope(corner, make<Point>(noNumber, 8.0, 0.0)).IsEmpty());
   }
 
-  void emptyGeometriesHaveAnEmptyEnvelopeAndNoAnchor_data() {
-    Rows<GeometryPtr> row;
-    row("envelope", GeometryPtr(make<Envelope>()));
-    row("point", point(noNumber, 1));
-    row("polyline", line({}));
-    row("polyline of no number", line({{noNumber, 1}}));
-    row("multipolyline", GeometryPtr(make<MultiPolyline>(QVector<QVector<QPointF>>{{}, {}})));
-    row("polygon", area({}));
-  }
   void emptyGeometriesHaveAnEmptyEnvelopeAndNoAnchor() {
-    auto const [geometry] = fetched<GeometryPtr>();
-    QVERIFY(geometry->GetEnvelope()->IsEmpty());
-    QCOMPARE(geometry->GetEnvelope()->GetWidth(), 0.0);
-    QVERIFY(!geometry->GetAnchorPoint());
-    QVERIFY(!geometry->Intersects(rectangle(-100, -100, 100, 100)));
-    QVERIFY(!rectangle(-100, -100, 100, 100)->Contains(geometry));
-    QVERIFY(!geometry->Buffer(1));
+    auto const empty = make<Envelope>(), everywhere = make<Envelope>(-100.0, -100.0, 100.0, 100.0);
+    for (GeometryPtr const& geometry :
+         QList<GeometryPtr>{empty, point(noNumber, 1), line({}), line({{noNumber, 1}}), area({}),
+                            make<MultiPolyline>(QVector<QVector<QPointF>>{{}, {}})}) {
+      QVERIFY(geometry->GetEnvelope()->IsEmpty());
+      QCOMPARE(geometry->GetEnvelope()->GetWidth(), 0.0);
+      QVERIFY(!geometry->GetAnchorPoint());
+      QVERIFY(!geometry->Intersects(everywhere) && !everywhere->Contains(geometry));
+      QVERIFY(!geometry->Buffer(1));
+    }
   }
 
   void geometriesMeet_data() {
@@ -107,15 +100,12 @@ private slots:
     row("two flat rectangles that cross", rectangle(0, 5, 9, 5), rectangle(4, 0, 4, 9), true);
     row("a rectangle with unordered corners", page, rectangle(8, 8, 2, 2), true);
     row("an empty rectangle", page, GeometryPtr(make<Envelope>()), false);
-    row("two empty rectangles", GeometryPtr(make<Envelope>()), GeometryPtr(make<Envelope>()), false);
     row("nothing", page, GeometryPtr(), false);
     row("a line through a rectangle", page, line({{-5, 5}, {15, 5}}), true);
     row("a line past a corner", page, line({{9, 12}, {12, 9}}), false);
     row("a line that ends on a side", page, line({{10, 5}, {12, 5}}), true);
     row("a line along a side", page, line({{10, 2}, {10, 12}}), true);
-    row("a line beyond a side", page, line({{11, 2}, {11, 12}}), false);
     row("a line of one vertex", page, line({{5, 5}}), true);
-    row("a line of one vertex, repeated", page, line({{5, 5}, {5, 5}}), true);
     row("a line against a flat rectangle", line({{5, 0}, {5, 9}}), rectangle(2, 5, 8, 5), true);
     row("a line with an infinite vertex", page, line({{5, 5}, {HUGE_VAL, 5}}), false);
     row("a ring of two vertices", page, area({{{1, 1}, {2, 2}}}), false);
@@ -157,8 +147,7 @@ private slots:
     row("over a corner", square(5, 20), 25.0, true);
     row("beyond", square(11, 20), 0.0, true);
     row("a bar beyond two sides", Ring{{-4, 4}, {14, 4}, {14, 6}, {-4, 6}, {-4, 4}}, 20.0, true);
-    row("far from the origin a small ring keeps its area", Ring{{1e9, 1e9}, {1e9 + 1, 1e9}, {1e9, 1e9 + 1}}, 0.5,
-        false);
+    row("a small ring far from the origin", Ring{{1e9, 1e9}, {1e9 + 1, 1e9}, {1e9, 1e9 + 1}}, 0.5, false);
   }
   void aRingIsClippedToABox() {
     auto const [ring, size, isClipped] = fetched<Ring, double, bool>();
@@ -179,13 +168,11 @@ private slots:
   void equalMeansTheSamePoints_data() {
     Rows<GeometryPtr, GeometryPtr, bool> row;
     auto const page = rectangle(0, 0, 10, 10);
-    row("rectangle and ring, other start and sense", page, area({{{10, 10}, {10, 0}, {0, 0}, {0, 10}, {10, 10}}}),
-        true);
+    row("rectangle and ring that starts elsewhere", page, area({{{10, 10}, {10, 0}, {0, 0}, {0, 10}, {10, 10}}}), true);
     row("an extra vertex on a side", page, area({{{0, 0}, {5, 0}, {10, 0}, {10, 10}, {0, 10}}}), true);
     row("one inside the other", page, rectangle(1, 1, 9, 9), false);
     row("a line and its reverse", line({{0, 0}, {4, 2}}), line({{4, 2}, {2, 1}, {0, 0}}), true);
     row("an area and its outline", page, line({{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}}), false);
-    row("points", point(1, 2), point(1, 2), true);
   }
   void equalMeansTheSamePoints() {
     auto const [a, b, equal] = fetched<GeometryPtr, GeometryPtr, bool>();

@@ -1,9 +1,6 @@
 #include "Files.h"
-#include "Test.h"
 
 #include <SysUI/EnvironmentSetting.h>
-
-#include <QTemporaryDir>
 
 using namespace SysUI;
 

@@ -1,6 +1,4 @@
 #include "Files.h"
-#include "Json.h"
-#include "Test.h"
 
 #include "host/SysUtility/FileSaver.h"
 #include "host/SysUtility/JsonFields.h"
@@ -8,9 +6,6 @@
 #include <SysUtility/CRef.h>
 #include <SysUtility/MathUtil.h>
 #include <SysUtility/Ptr.h>
-
-#include <QJsonDocument>
-#include <QTemporaryDir>
 
 #include <cmath>
 #include <functional>

@@ -5,12 +5,6 @@
 
 #include <SysCarto/MapDocument.h>
 
-#include <QDir>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-
 /// What a run of `plotvane` came to.
 struct Outcome {
   int status = -1;

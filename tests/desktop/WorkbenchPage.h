@@ -5,10 +5,6 @@
 #include "host/desktop/Session.h"
 #include "host/desktop/Workbench.h"
 
-#include <QApplication>
-#include <QMouseEvent>
-#include <QWheelEvent>
-
 #include <memory>
 
 /// A person at a workbench, one without a window or that of a window: a page with elements, and a mouse and keys on its

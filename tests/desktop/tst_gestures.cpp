@@ -37,10 +37,8 @@ private slots:
   void handlesResizeAboutTheOppositeSide_data() {
     Rows<QPointF, QPointF, QRectF> row;
     row("the upper right corner", QPointF(6, 7), QPointF(8, 9), QRectF(2, 4, 6, 5));
-    row("the lower left corner", QPointF(2, 4), QPointF(1, 3), QRectF(1, 3, 5, 4));
     row("the upper left corner", QPointF(2, 7), QPointF(3, 8), QRectF(3, 4, 3, 4));
     row("the right side alone", QPointF(6, 5.5), QPointF(9, 8), QRectF(2, 4, 7, 3));
-    row("the lower side alone", QPointF(4, 4), QPointF(9, 2), QRectF(2, 2, 4, 5));
     row("a side is not pulled through the other", QPointF(6, 5.5), QPointF(-3, 5.5), QRectF(2, 4, 0.1, 3));
   }
   void handlesResizeAboutTheOppositeSide() {
@@ -48,14 +46,14 @@ private slots:
     Page page;
     page.click(page.pixel(4, 5));
     page.drag(page.pixel(from.x(), from.y()), page.pixel(to.x(), to.y()));
-    QVERIFY(page.isAbout(*page.left, expected));
+    QVERIFY(page.isAt(*page.left, expected));
   }
 
   void shiftKeepsTheRatio() {
     Page page;
     page.click(page.pixel(4, 5));
     page.drag(page.pixel(6, 7), page.pixel(10, 7.5), Qt::ShiftModifier);
-    QVERIFY(page.isAbout(*page.left, QRectF(2, 4, 8, 6)));
+    QVERIFY(page.isAt(*page.left, QRectF(2, 4, 8, 6)));
   }
 
   void arrowKeysNudge_data() {
@@ -132,11 +130,8 @@ private:
       for (auto const& element : container().GetSelectedElements()) handles << element->GetHandle();
       return handles;
     }
-    bool isAbout(SysCarto::Element const& element, QRectF const& expected) {
-      double const onePixelCm = 1 / layout()->GetDisplayTransformation()->ToDevice().m11();
-      QRectF const now = place(element);
-      return qAbs(now.left() - expected.left()) < onePixelCm && qAbs(now.top() - expected.top()) < onePixelCm &&
-             qAbs(now.right() - expected.right()) < onePixelCm && qAbs(now.bottom() - expected.bottom()) < onePixelCm;
+    bool isAt(SysCarto::Element const& element, QRectF const& expected) {
+      return isAbout(place(element), expected, 1 / layout()->GetDisplayTransformation()->ToDevice().m11());
     }
   };
 };

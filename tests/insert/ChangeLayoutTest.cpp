@@ -4,12 +4,6 @@
 
 #include <SysCarto/MapDocument.h>
 
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <QTreeWidget>
-
 using namespace SysCarto;
 
 class ChangeLayoutTest : public QObject {
@@ -24,18 +18,17 @@ private slots:
     old_->GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 640, 480));
     for (char const* name : {"Alpha", "Beta"}) old_->GetGraphicsContainer()->AddElement(frameNamed(name));
     desktop_ = make<InsertDesktop>(old_);
+    person_.emplace();
   }
 
   void theLayoutComesFromTheTemplateAndTheMapsStay() {
-    choose(writeTemplate());
+    person_->sets("file", writeTemplate());
     click();
     QCOMPARE(desktop_->calls,
              QStringList({"document", "contents", "clear", "set layout", "site", "table of contents", "refresh 255"}));
     auto const layout = desktop_->contents->layout;
     QVERIFY(layout != old_);
-    double width = 0, height = 0;
-    layout->GetPage()->QuerySize(width, height);
-    QCOMPARE(width, 40.0);
+    QCOMPARE(sizeOf(*layout->GetPage()), QSizeF(40, 50));
     QList<_ptr_t<Map>> before, after;
     old_->GetMaps(before);
     layout->GetMaps(after);
@@ -49,32 +42,29 @@ private slots:
     QCOMPARE(tree->topLevelItem(0)->text(0), QString("Alpha"));
   }
 
-  void theShippedTemplatesExplainTheFirstMap_data() {
-    Rows<QString> row;
-    row("report", "a4-report.kdx");
-    row("poster", "a3-poster.kdx");
-  }
+  void cleanup() { person_.reset(); }
 
   void theShippedTemplatesExplainTheFirstMap() {
-    auto const [file] = fetched<QString>();
     QList<_ptr_t<Map>> maps;
     old_->GetMaps(maps);
-    choose(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/templates/") + file);
-    click();
-    QVERIFY(desktop_->contents->layout != old_);
-    QSet<int> kinds;
-    for (auto const& element : desktop_->contents->layout->GetGraphicsContainer()->GetElements()) {
-      auto const frame = ptr_cast<MapSurroundFrame>(element);
-      if (!frame) continue;
-      QVERIFY(frame->GetMapSurround()->GetMap() == maps[0]);
-      kinds << frame->GetMapSurround()->kind;
+    for (char const* file : {"a4-report.kdx", "a3-poster.kdx"}) {
+      person_->sets("file", QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/templates/") + file);
+      click();
+      QVERIFY(desktop_->contents->layout != old_);
+      QSet<int> kinds;
+      for (auto const& element : desktop_->contents->layout->GetGraphicsContainer()->GetElements()) {
+        auto const frame = ptr_cast<MapSurroundFrame>(element);
+        if (!frame) continue;
+        QVERIFY(frame->GetMapSurround()->GetMap() == maps[0]);
+        kinds << frame->GetMapSurround()->kind;
+      }
+      QCOMPARE(kinds, QSet<int>({1, 2, 3, 6}));
     }
-    QCOMPARE(kinds, QSet<int>({1, 2, 3, 6}));
   }
 
   void aCancelledChoiceLeavesEverything() {
-    answerDialog([](QWidget& dialog) { static_cast<QDialog&>(dialog).reject(); });
     click();
+    QVERIFY(person_->problem().contains("\"Open\""));
     // Deactivated before anybody was asked.
     QCOMPARE(desktop_->calls, QStringList({"document", "contents", "clear"}));
     QVERIFY(desktop_->contents->layout == old_);
@@ -90,17 +80,9 @@ private slots:
     auto const [content, reason] = fetched<QByteArray, QString>();
     QString const file = put(folder_.filePath("bad.kdx"), content);
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(file) + ".*" + reason + ".*"));
-    choose(file, [] {
-      answerDialog([](QWidget& dialog) {
-        auto& box = dynamic_cast<QMessageBox&>(dialog);
-        QCOMPARE(box.windowTitle(), QString("Error"));
-        QCOMPARE(box.text(), QString("Open File Failed!"));
-        QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
-        QVERIFY(box.defaultButton() == box.button(QMessageBox::Ok));
-        box.accept();
-      });
-    });
+    person_->sets("file", file);
     click();
+    QVERIFY(person_->problem().contains("\"Error\" (\"Open File Failed!\")"));
     QCOMPARE(desktop_->calls, QStringList({"document", "contents", "clear"}));
     QVERIFY(desktop_->contents->layout == old_);
     QCOMPARE(old_->GetGraphicsContainer()->GetElements().size(), 2);
@@ -108,19 +90,6 @@ private slots:
 
 private:
   void click() { desktop_->bound<Plugin::ChangePageLayout>()->OnClick(); }
-
-  void choose(QString const& file, std::function<void()> const& then = {}) {
-    answerDialog([=](QWidget& dialog) {
-      auto& chooser = dynamic_cast<QFileDialog&>(dialog);
-      QCOMPARE(chooser.windowTitle(), QString("Open"));
-      QCOMPARE(chooser.nameFilters(), QStringList("kdx File(*.kdx)"));
-      chooser.setDirectory(QFileInfo(file).absolutePath());
-      chooser.selectFile(file);
-      if (then) then();
-      // Done as the button does it; the chooser's own check would wait for its file model.
-      QMetaObject::invokeMethod(&chooser, "accept");
-    });
-  }
 
   // Its own data need not be there.
   QString writeTemplate() {
@@ -136,6 +105,7 @@ private:
   QTemporaryDir folder_;
   _ptr_t<PageLayout> old_;
   _ptr_t<InsertDesktop> desktop_;
+  std::optional<Person> person_;
 };
 
 QTEST_MAIN(ChangeLayoutTest)

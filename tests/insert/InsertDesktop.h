@@ -7,8 +7,6 @@
 #include <SysAdapterUI/TOCControl.h>
 #include <SysFramework/IDesktop.h>
 
-#include <QWidget>
-
 #include <functional>
 
 /// A desktop with a control that shows a layout and has a companion. Both note what they are asked.

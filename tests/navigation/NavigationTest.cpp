@@ -3,8 +3,6 @@
 #include "navigation/PagePanTool.h"
 #include "navigation/PageZoomTools.h"
 
-#include <QMouseEvent>
-
 #include <cmath>
 
 using namespace SysCarto;
@@ -52,10 +50,8 @@ private slots:
     QPoint const centre(500, 375), mark(250, 250), corner(0, 750);
     row("in: a click centres on the point", "in", {mark}, QRectF(5 - 9, 10 - 6.75, 18, 13.5));
     row("in: a drag shows the rectangle", "in", {centre, {900, 675}}, QRectF(10, 1.5, 8, 6));
-    row("in: from the other corner as well", "in", {{900, 675}, centre}, QRectF(10, 1.5, 8, 6));
     row("in: a flat drag takes the view's aspect", "in", {centre, {900, 375}}, QRectF(10, 7.5 - 3, 8, 6));
     row("out: a click centres on the press", "out", {mark}, QRectF(5 - 11, 10 - 8.25, 22, 16.5));
-    row("out: flat in one direction is a click", "out", {mark, {350, 250}}, QRectF(5 - 11, 10 - 8.25, 22, 16.5));
     row("out: a ratio just under 4 folds to just under 2", "out", {corner, {250, 750 - 188}}, QRectF());
     row("out: two fifths fold 2.5 to 1.5", "out", {corner, {400, 450}}, QRectF(4 - 15, 3 - 11.25, 30, 22.5));
     row("out: the smaller ratio counts", "out", {corner, {800, 700}}, QRectF(8 - 12.5, 0.5 - 9.375, 25, 18.75));
@@ -155,10 +151,8 @@ private:
 
   // Without the rounding errors of the way there.
   QRectF shown() const {
-    auto const extent = hook_->layout->GetExtent();
-    auto const rounded = [](double value) { return std::round(value * 1e6) / 1e6; };
-    return {rounded(extent->GetXMin()), rounded(extent->GetYMin()), rounded(extent->GetWidth()),
-            rounded(extent->GetHeight())};
+    auto const sides = sidesOf(*hook_->layout->GetExtent());
+    return {QPointF(sides[0], sides[1]), QPointF(sides[2], sides[3])};
   }
 
   _ptr_t<LayoutHook> hook_;

@@ -4,15 +4,6 @@
 #include "pagesetup/PageSettingsDlg.h"
 #include "pagesetup/PageSizeTabPage.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QGroupBox>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabWidget>
-
 #include <functional>
 
 using namespace SysCarto;
@@ -34,15 +25,9 @@ _ptr_t<PageLayout> layoutOf(char const* form, short orientation) {
   return layout;
 }
 
-QSizeF sizeOf(_ptr_t<PageLayout> const& layout) {
-  double width, height;
-  layout->GetPage()->QuerySize(width, height);
-  return {width, height};
-}
-
-// A person at the tab or at the dialog.
-struct Person {
-  explicit Person(QWidget& shown) : shown(shown) { shown.show(); }
+// A hand at the tab or at the dialog.
+struct Hand {
+  explicit Hand(QWidget& shown) : shown(shown) { shown.show(); }
 
   template <class Widget>
   Widget* find(char const* name) const {
@@ -71,12 +56,9 @@ private slots:
     Rows<QString, int, QStringList, QStringList, bool> row;
     QString const lie = "radioButton_H", stand = "radioButton_V";
     row("at first, a form", "A4", 1, {}, {"21", "29.7"}, false);
-    row("at first, one that lies", "A4", 2, {}, {"29.7", "21"}, false);
     row("at first, a size of its own that lies", "Custom", 2, {}, {"20", "10"}, true);
     row("landscape swaps", "A4", 1, {lie}, {"29.7", "21"}, false);
-    row("pressed twice it swaps once", "A4", 1, {lie, lie}, {"29.7", "21"}, false);
     row("and back", "A4", 1, {lie, stand}, {"21", "29.7"}, false);
-    row("a form is shown as listed, also in landscape", "A4", 2, {"A3"}, {"29.7", "42"}, false);
     row("landscape again leaves that", "A4", 2, {"A3", lie}, {"29.7", "42"}, false);
     row("portrait swaps it", "A4", 2, {"A3", stand}, {"42", "29.7"}, false);
     row("the custom size starts from what is shown", "A4", 1, {"A5", "Custom"}, {"14.8", "21"}, true);
@@ -86,40 +68,38 @@ private slots:
   void theFieldsFollowFormAndOrientation() {
     auto const [page, orientation, steps, size, editable] = fetched<QString, int, QStringList, QStringList, bool>();
     PageSizeTabPage tab(layoutOf(qPrintable(page), static_cast<short>(orientation)), nullptr);
-    Person const person(tab);
+    Hand const hand(tab);
     QSignalSpy const changes(&tab, &PageSizeTabPage::ValueChanged);
     for (QString const& step : steps)
       if (step.startsWith(QLatin1String("radio")))
-        person.press(qPrintable(step));
+        hand.press(qPrintable(step));
       else
-        person.choose(qPrintable(step));
-    QCOMPARE((QStringList{person.width(), person.height()}), size);
-    QCOMPARE(person.find<QLineEdit>("lineEdit_PageWidth")->isEnabled(), editable);
-    QCOMPARE(person.find<QLineEdit>("lineEdit_PageHeight")->isEnabled(), editable);
+        hand.choose(qPrintable(step));
+    QCOMPARE((QStringList{hand.width(), hand.height()}), size);
+    QCOMPARE(hand.find<QLineEdit>("lineEdit_PageWidth")->isEnabled(), editable);
+    QCOMPARE(hand.find<QLineEdit>("lineEdit_PageHeight")->isEnabled(), editable);
     QCOMPARE(changes.count(), steps.size());
   }
 
   void orientationFollowsThePressAndTheArrowKeys() {
     PageSizeTabPage tab(layoutOf("A4", 1), nullptr);
-    Person const person(tab);
-    auto* const lie = person.find<QRadioButton>("radioButton_H");
+    Hand const hand(tab);
+    auto* const lie = hand.find<QRadioButton>("radioButton_H");
     QTest::mousePress(lie, Qt::LeftButton, {}, {8, 8});
-    QCOMPARE(person.width(), QString("29.7"));
+    QCOMPARE(hand.width(), QString("29.7"));
     QTest::mouseRelease(lie, Qt::LeftButton, {}, {8, 8});
     QVERIFY(QTest::qWaitForWindowActive(&tab));
     lie->setFocus();
     QTest::keyClick(lie, Qt::Key_Left);
-    QVERIFY(person.find<QRadioButton>("radioButton_V")->isChecked());
-    QCOMPARE(person.width(), QString("21"));
+    QVERIFY(hand.find<QRadioButton>("radioButton_V")->isChecked());
+    QCOMPARE(hand.width(), QString("21"));
   }
 
   void thePageTakesWhatTheTabShows_data() {
     Rows<QString, bool, QString, QString, QSizeF> row;
     row("a listed form", "A3", false, "", "", QSizeF(29.7, 42.0));
-    row("a listed form that lies", "A3", true, "", "", QSizeF(42.0, 29.7));
     row("a size of its own", "Custom", false, "12.5", "30.0", QSizeF(12.5, 30.0));
     row("one that lies is stored the portrait way", "Custom", true, "29.7", "21.0", QSizeF(29.7, 21.0));
-    row("a size of 0", "Custom", false, "0", "21.0", QSizeF(0, 21.0));
     row("a size that is no number is 0", "Custom", false, ".", "21.0", QSizeF(0, 21.0));
   }
 
@@ -127,16 +107,16 @@ private slots:
     auto const [form, landscape, width, height, size] = fetched<QString, bool, QString, QString, QSizeF>();
     auto const layout = layoutOf("A4", 1);
     PageSizeTabPage tab(layout, nullptr);
-    Person const person(tab);
-    if (landscape) person.press("radioButton_H");
-    person.choose(qPrintable(form));
+    Hand const hand(tab);
+    if (landscape) hand.press("radioButton_H");
+    hand.choose(qPrintable(form));
     if (!width.isEmpty()) {
-      person.type("lineEdit_PageWidth", width);
-      person.type("lineEdit_PageHeight", height);
+      hand.type("lineEdit_PageWidth", width);
+      hand.type("lineEdit_PageHeight", height);
     }
-    QCOMPARE(sizeOf(layout), QSizeF(21.0, 29.7));
+    QCOMPARE(sizeOf(*layout->GetPage()), QSizeF(21.0, 29.7));
     tab.ApplyToPage();
-    QCOMPARE(sizeOf(layout), size);
+    QCOMPARE(sizeOf(*layout->GetPage()), size);
     QCOMPARE(layout->GetPage()->GetOrientation(), short(landscape ? 2 : 1));
     FormInfo custom;
     Paper::GetFormInfo(customPageForm, custom);
@@ -160,11 +140,11 @@ private slots:
     frame->SetLocked(true);
 
     PageSizeTabPage tab(layout, nullptr);
-    Person const person(tab);
-    auto* const option = person.find<QCheckBox>("checkBox_ScaleMapElements");
-    if (option->isChecked() != wanted) person.press("checkBox_ScaleMapElements");
-    person.type("lineEdit_PageWidth", width);
-    person.type("lineEdit_PageHeight", "30.0");
+    Hand const hand(tab);
+    auto* const option = hand.find<QCheckBox>("checkBox_ScaleMapElements");
+    if (option->isChecked() != wanted) hand.press("checkBox_ScaleMapElements");
+    hand.type("lineEdit_PageWidth", width);
+    hand.type("lineEdit_PageHeight", "30.0");
     tab.ApplyToPage();
 
     QCOMPARE(placeOf(*frame), moved ? QRectF(4, 3, 20, 15) : QRectF(2, 1, 10, 5));
@@ -178,6 +158,7 @@ private slots:
 
   void theDialogAppliesOnceAndShowsTheWholePage_data() {
     Rows<QStringList, bool, bool, int> row;
+    row("nothing to apply", {"Apply"}, false, false, 0);
     row("OK without a change", {"OK"}, false, false, 1);
     row("OK with a change", {"OK"}, true, true, 2);
     row("Apply and OK", {"Apply", "OK"}, true, true, 2);
@@ -190,23 +171,11 @@ private slots:
     auto const layout = layoutOf("A4", 1);
     layout->SetExtent(make<Envelope>(1.0, 1.0, 2.0, 2.0));
     auto const hook = make<LayoutHook>(layout);
-    auto const command = hook->bound<Plugin::PageSettingCommand>();
-    QVERIFY(command->IsEnable());
-
-    answerDialog([&buttons = buttons, changes = changes](QWidget& dialog) {
-      Person const person(dialog);
-      QVERIFY(!(dialog.windowFlags() & Qt::WindowContextHelpButtonHint));
-      QCOMPARE(person.find<QTabWidget>("tabWidget")->count(), 2);
-      QVERIFY(!person.find<QPushButton>("pushButton_Apply")->isEnabled());
-      if (changes) person.choose("A3");
-      for (QString const& button : buttons) {
-        QCOMPARE(person.find<QPushButton>("pushButton_Apply")->isEnabled(), changes && buttons.first() == button);
-        person.press(qPrintable("pushButton_" + button));
-      }
-      dialog.close();
-    });
-    command->OnClick();
-
+    Person person;
+    if (changes) person.sets("comboBox_PaperType", "A3");
+    for (QString const& button : buttons) person.sets("pushButton_" + button, "click");
+    hook->bound<Plugin::PageSettingCommand>()->OnClick();
+    QCOMPARE(person.problem().contains("pushButton_Apply does not take"), !changes && buttons.first() == "Apply");
     QCOMPARE(layout->GetPage()->GetFormID(), formNamed(applied ? "A3" : "A4"));
     QCOMPARE(hook->calls.count("refresh 255"), redraws);
     QCOMPARE(layout->GetExtent()->Contains(layout->GetPage()->GetPageEnvelope()), redraws > 0);
@@ -219,21 +188,21 @@ private slots:
     auto const border = make<SymbolBorder>();
     page.SetBorder(border);
     PageSettingsDlg dialog(layout, nullptr);
-    Person const person(dialog);
-    person.find<QTabWidget>("tabWidget")->setCurrentIndex(1);
-    person.find<QDoubleSpinBox>("spinBox_BorderGap")->setValue(5.0);
+    Hand const hand(dialog);
+    hand.find<QTabWidget>("tabWidget")->setCurrentIndex(1);
+    hand.find<QDoubleSpinBox>("spinBox_BorderGap")->setValue(5.0);
     QCOMPARE(border->GetGap(), 0.0);
-    person.press("pushButton_Apply");
+    hand.press("pushButton_Apply");
 
     QVERIFY2(!page.GetBackground() && !page.GetShadow(), "what is not there stays so");
     auto const applied = ptr_cast<SymbolBorder>(page.GetBorder());
     QVERIFY(applied && applied != border);
     QCOMPARE(applied->GetGap(), 5.0);
-    person.find<QDoubleSpinBox>("spinBox_BorderGap")->setValue(7.0);
+    hand.find<QDoubleSpinBox>("spinBox_BorderGap")->setValue(7.0);
     QCOMPARE(applied->GetGap(), 5.0);
 
-    person.find<QGroupBox>("groupBox_Border")->setChecked(false);
-    person.press("pushButton_OK");
+    hand.find<QGroupBox>("groupBox_Border")->setChecked(false);
+    hand.press("pushButton_OK");
     QVERIFY(!page.GetBorder());
   }
 

@@ -1,5 +1,3 @@
-#include "Files.h"
-#include "Json.h"
 #include "Elements.h"
 #include "LayerFixture.h"
 
@@ -7,12 +5,7 @@
 #include "host/SysUtility/FieldTree.h"
 
 #include <SysCarto/Editor.h>
-#include <SysCarto/Graticule.h>
 #include <SysCarto/MapDocument.h>
-
-#include <QJsonDocument>
-#include <QTemporaryDir>
-#include <QUndoStack>
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
@@ -34,18 +27,6 @@ QJsonValue changed(QJsonValue const& value, QStringList path, QJsonValue const& 
   return object;
 }
 
-_ptr_t<MapFrameElement> frameOf(QString const& name, QString const& coordinateSystem, Envelope const& bounds) {
-  auto const frame = frameNamed(name);
-  frame->GetMap()->SetCoordinateSystem(coordinateSystem);
-  frame->GetMap()->SetExtent(make<Envelope>(bounds));
-  return frame;
-}
-
-template <class Surround>
-_ptr_t<MapSurroundFrame> surround(_ptr_t<Map> const& map) {
-  return in(surroundOf<Surround>(map), 1.0, 2.0, 6.5, 4.1);
-}
-
 // The keys of fields that nobody explains, with the path to them; `count` tells how many fields there are.
 QStringList unexplained(QVector<SysUtility::FieldInfo> const& fields, QString const& path, QString const& manual,
                         int& count) {
@@ -65,26 +46,15 @@ QStringList unexplained(QVector<SysUtility::FieldInfo> const& fields, QString co
   return keys;
 }
 
-// A page with one of everything that refers to something else, and with numbers that no short decimal hits.
-void fill(PageLayout& layout) {
-  auto const world =
-      frameOf(QStringLiteral("Welt – “quoted”\n"), "EPSG:8857", Envelope(-1e7 / 3, -5e6 / 7, 1e7, 0.1 + 0.2));
-  auto const plan = frameOf("Plan", "", Envelope(0, 0, 1.0 / 3, 1e-3));
-  world->AddMapGrid(make<Graticule>());
-  world->SetGeometry(make<Envelope>(1.1, 15.3, 19.9, 28.7));
-  world->SetBorder(make<SymbolBorder>());
-  world->GetMap()->GetGraphicsContainer()->AddElement(make<RectangleElement>());
-  auto const group = make<GroupElement>();
-  group->AddElement(make<RectangleElement>());
-  group->AddElement(make<TextElement>());
-  layout.GetPage()->SetBorder(make<SymbolBorder>());
-  layout.GetPage()->SetOrientation(2);
-  for (_ptr_t<Element> const& element : QList<_ptr_t<Element>>{
-           world, plan, group, surround<ScaleLine>(plan->GetMap()), surround<Legend>(world->GetMap()),
-           surround<MarkerNorthArrow>(world->GetMap()), surround<ScaleText>(nullptr)})
-    layout.GetGraphicsContainer()->AddElement(element);
-  layout.SetAlignToMargins(true);
-  layout.SetFocusMap(plan->GetMap());
+// The keys of fields, at any depth, that a JSON text does not hold.
+QSet<QString> missingIn(QByteArray const& text, QVector<SysUtility::FieldInfo> const& fields) {
+  QSet<QString> keys;
+  for (SysUtility::FieldInfo const& info : fields) {
+    if (!text.contains('"' + QByteArray(info.field.key) + '"')) keys << info.field.key;
+    keys += missingIn(text, info.fields);
+    for (auto const& variant : info.variants) keys += missingIn(text, variant);
+  }
+  return keys;
 }
 
 class Contents final : public IKdxContents {
@@ -101,10 +71,11 @@ class DocumentTest : public QObject {
 
 private slots:
   void initTestCase() {
+    QVERIFY(canvas({9, 9}).save(path("missing.png")));
+    putJson("seed.kdx", changed(json(everything_), {"maps", "0", "layers"}, QJsonArray()));
     MapDocument document;
-    document.New(path("sample.kdx"));
-    fill(*document.GetPageLayout());
-    QVERIFY2(document.Save(true, false), qPrintable(document.GetErrors().join('\n')));
+    QVERIFY2(document.Open(path("seed.kdx")), qPrintable(document.GetErrors().join('\n')));
+    QVERIFY2(document.SaveAs(path("sample.kdx"), true, false), qPrintable(document.GetErrors().join('\n')));
     sample_ = contentOf(path("sample.kdx"));
     QVERIFY(sample_.endsWith("}\n"));
   }
@@ -119,20 +90,30 @@ private slots:
     }
   }
 
+  void allThatADocumentCanHoldComesBack() {
+    put(path("everything.kdx"), everything_);
+    MapDocument document;
+    QVERIFY2(document.Open(path("everything.kdx")), qPrintable(document.GetErrors().join('\n')));
+    auto* const container = document.GetPageLayout()->GetGraphicsContainer();
+    for (auto const& one : container->GetElements()) container->ReplaceElement(one->GetHandle(), one->Clone());
+    QVERIFY(document.Save(true, false));
+    QCOMPARE(QJsonDocument::fromJson(contentOf(path("everything.kdx"))), QJsonDocument::fromJson(everything_));
+  }
+
   void anOpenedDocumentRefersToItsOwnMapsAndShowsItsWholePage() {
     MapDocument document;
     QVERIFY(document.Open(path("sample.kdx")));
     auto const layout = document.GetPageLayout();
     auto const elements = layout->GetGraphicsContainer()->GetElements();
     QCOMPARE(document.GetMapCount(), 2);
-    QCOMPARE(document.GetMap(0)->GetName(), QStringLiteral("Welt – “quoted”\n"));
+    QCOMPARE(document.GetMap(0)->GetName(), QString("World"));
     QVERIFY(!document.GetMap(2));
     QVERIFY(!document.GetMap(-1));
     QCOMPARE(layout->GetFocusMap(), document.GetMap(1));
-    QCOMPARE(ptr_cast<MapSurroundFrame>(elements[3])->GetMapSurround()->GetMap(), document.GetMap(1));
-    QCOMPARE(ptr_cast<MapSurroundFrame>(elements[4])->GetMapSurround()->GetMap(), document.GetMap(0));
-    QVERIFY(!ptr_cast<MapSurroundFrame>(elements[6])->GetMapSurround()->GetMap());
-    QCOMPARE(document.GetMap(0)->GetGraphicsContainer()->GetElements().size(), 1);
+    QCOMPARE(ptr_cast<MapSurroundFrame>(elements[14])->GetMapSurround()->GetMap(), document.GetMap(1));
+    QCOMPARE(ptr_cast<MapSurroundFrame>(elements[11])->GetMapSurround()->GetMap(), document.GetMap(0));
+    QVERIFY(!ptr_cast<MapSurroundFrame>(elements[13])->GetMapSurround()->GetMap());
+    QCOMPARE(document.GetMap(0)->GetGraphicsContainer()->GetElements().size(), 2);
     QVERIFY(layout->GetAlignToMargins());
     QCOMPARE(document.history()->count(), 0);
     QVERIFY(document.GetActiveView()->GetExtent()->Contains(layout->GetPage()->GetPageEnvelope()));
@@ -145,17 +126,10 @@ private slots:
     QJsonValue const gone(QJsonValue::Undefined);
     // clang-format off
     row("another format", "format", "other", "format: is not “plotvane-document”");
-    row("no format", "format", gone, "format: is missing");
     row("a newer version", "version", 2, "version: the document was written by a newer version");
-    row("version 0", "version", 0, "version: 0 is not between");
-    row("an object for a list", "maps", QJsonObject(), "maps: expected a list");
-    row("a name without end", "maps.0.name", QString(16385, 'n'), "maps[0].name: the text has 16385 characters; at most 16384");
-    row("null for a name", "maps.0.name", QJsonValue(), "maps[0].name: expected a text, found null");
     row("an unknown system", "maps.0.coordinateSystem", "EPSG:99999", "maps[0].coordinateSystem: “EPSG:99999”");
-    row("a system from a file", "maps.0.coordinateSystem", "/etc/passwd", "maps[0].coordinateSystem: ");
     row("bounds without a size", "maps.0.bounds", QJsonArray{5, 5, 5, 5}, "maps[0].bounds: must be");
     row("bounds turned over", "maps.0.bounds", QJsonArray{5, 5, 1, 9}, "maps[0].bounds: must be");
-    row("bounds beyond all maps", "maps.1.bounds.2", 1e308, "maps[1].bounds[2]: 1e+308 is not between");
     row("a focus that is no map", "layout.focusMap", 2, "layout.focusMap: 2 is not between 0 and 1");
     row("a handle used twice", "elements.1.handle", 1, "elements[1].handle");
     row("a data frame on a map", "maps.0.graphics.0", json(sample_)["elements"].toArray()[1], "maps[0].graphics[0].type: data frames");
@@ -169,14 +143,9 @@ private slots:
 
   void aFileThatIsNoDocumentIsRefused_data() {
     Rows<QByteArray, QString> row;
-    row("empty", QByteArray(), "line 1, column 1: this is not JSON");
     row("a slip in the third line", "{\n  \"a\": 1,\n  \"ä\" 2\n}", "line 3, column 8: ");
-    row("a picture", QByteArray("\x89PNG\r\n\x1a\n\0\0", 10), "this is not JSON");
     row("a list", "[1, 2]", "holds a list");
-    row("a number that JSON does not have", QByteArray(sample_).replace("\"version\": 1", "\"version\": NaN"),
-        "this is not JSON");
     row("lists without an end", QByteArray(100000, '['), "this is not JSON");
-    row("objects without an end", QByteArray("{\"maps\":").repeated(100000), "this is not JSON");
     row("broken letters", QByteArray(sample_).replace("Plan", "Pl\xff\xfe"), "this is not JSON");
   }
   void aFileThatIsNoDocumentIsRefused() {
@@ -202,9 +171,9 @@ private slots:
     QVERIFY2(document.SaveAs(path("orphan.kdx"), true, false), qPrintable(document.GetErrors().join('\n')));
     QVERIFY(document.Open(path("orphan.kdx")));
     QCOMPARE(document.GetWarnings(), QStringList());
-    auto const scaleLine =
-        ptr_cast<MapSurroundFrame>(document.GetPageLayout()->GetGraphicsContainer()->GetElements().at(2));
-    QCOMPARE(scaleLine->GetMapSurround()->GetMap()->GetName(), QString("Plan"));
+    auto const arrow =
+        ptr_cast<MapSurroundFrame>(document.GetPageLayout()->GetGraphicsContainer()->GetElements().at(13));
+    QCOMPARE(arrow->GetMapSurround()->GetMap()->GetName(), QString("Plan"));
     QCOMPARE(document.GetMapCount(), 1);
   }
 
@@ -212,7 +181,7 @@ private slots:
     QJsonObject odd = changed(json(sample_), {"maps", "0", "note"}, 1).toObject();
     odd["colour"] = "red";
     odd["maps"] = odd["maps"].toArray() + QJsonObject{{"name", "Unseen"}, {"bounds", QJsonArray{0, 0, 1, 1}}};
-    put(path("odd.kdx"), QJsonDocument(odd).toJson());
+    putJson("odd.kdx", odd);
     MapDocument document;
     QVERIFY(document.Open(path("odd.kdx")));
     QString const warnings = document.GetWarnings().join('\n');
@@ -258,7 +227,7 @@ private slots:
     QCOMPARE(document.GetPageLayout()->GetGraphicsContainer()->GetElements().size(), 3);
   }
 
-  void everyFieldIsExplainedToPeopleAndInTheManual() {
+  void everyFieldIsExplainedToPeopleAndInTheManualAndIsInTheSeed() {
     DocumentContent content;
     DocumentContext context;
     SysUtility::FieldTree tree;
@@ -266,13 +235,14 @@ private slots:
     QString const manual = QString::fromUtf8(contentOf(PLOTVANE_SOURCE_DIR "/docs/document-format.md"));
     int count = 0;
     QCOMPARE(unexplained(tree.fields(), QString(), manual, count), QStringList());
+    QCOMPARE(missingIn(everything_, tree.fields()), QSet<QString>({"relativePaths"}));
     QVERIFY2(count > 500, qPrintable(QString::number(count)));
   }
 
   void elementsWithoutAHandleGetOneThatIsFree() {
     QJsonValue const gone(QJsonValue::Undefined), some = changed(json(sample_), {"elements", "0", "handle"}, gone);
     QJsonObject const stored = changed(some, {"elements", "1", "handle"}, 0).toObject();
-    put(path("handles.kdx"), QJsonDocument(stored).toJson());
+    putJson("handles.kdx", stored);
     MapDocument document;
     QVERIFY2(document.Open(path("handles.kdx")), qPrintable(document.GetErrors().join('\n')));
     QSet<ElementHandle> handles;
@@ -291,9 +261,6 @@ private slots:
     QVERIFY(!document.Open(path("bad.kdx")));
     QCOMPARE(document.GetPageLayout(), layout);
     QCOMPARE(document.GetPath(), path("sample.kdx"));
-    QVERIFY(document.Save(true, false));
-    QCOMPARE(document.GetErrors(), QStringList());
-    QCOMPARE(QString::fromUtf8(contentOf(path("sample.kdx"))), QString::fromUtf8(sample_));
   }
 
   void aSaveThatFailsKeepsTheOldFile() {
@@ -335,10 +302,11 @@ private slots:
     MapDocument document;
     QVERIFY(document.Thumbnail().isNull());
     QVERIFY(document.Open(path("sample.kdx")));
+    document.GetPageLayout()->GetPage()->SetBorder(make<SymbolBorder>());
     QImage const picture = document.Thumbnail();
-    QCOMPARE(picture.size(), QSize(256, 181));
-    QCOMPARE(picture.pixelColor(250, 100), QColor(Qt::white));
-    QVERIFY(picture.pixelColor(0, 100).lightness() < 230);
+    QCOMPARE(picture.size(), QSize(256, 197));
+    QCOMPARE(picture.pixelColor(3, 116), QColor("#fffdf5"));
+    QVERIFY(picture.pixelColor(0, 116).lightness() < 230);
     document.GetPageLayout()->GetGraphicsContainer()->AddElement(madeIn<RectangleElement>(-1, 5, 2, 10));
     QImage const covered = document.Thumbnail();  // the element lies over the border
     QCOMPARE(covered.pixelColor(0, 116), covered.pixelColor(5, 116));
@@ -384,61 +352,40 @@ private slots:
   }
 
   void whatIsKeptOutOfTheHistoryIsAModification_data() {
-    Rows<void (*)(PageLayout&), bool> row;
-    row(
-        "a lock", [](PageLayout& page) { page.GetFocusMapFrameElement()->SetLocked(true); }, true);
-    row(
-        "the margins toggle", [](PageLayout& page) { page.SetAlignToMargins(!page.GetAlignToMargins()); }, true);
-    row(
-        "the focus", [](PageLayout& page) { page.SetFocusMap(mapsOn(page).first()); }, true);
-    row(
-        "the paper", [](PageLayout& page) { page.GetPage()->SetFormID(0); }, true);
-    row(
-        "another custom size", [](PageLayout& page) { page.GetPage()->setCustomSize(7, 5); }, true);
-    row(
-        "the orientation", [](PageLayout& page) { page.GetPage()->SetOrientation(1); }, true);
-    row(
-        "the page's border", [](PageLayout& page) { page.GetPage()->SetBorder(nullptr); }, true);
-    row(
-        "an element's name", [](PageLayout& page) { elementsOf(page).last()->SetName("Other"); }, true);
-    row(
-        "an element that goes without an operation",
-        [](PageLayout& page) { page.GetGraphicsContainer()->DeleteElement(elementsOf(page).last()); }, true);
-    row(
-        "a map's name", [](PageLayout& page) { mapsOn(page)[0]->SetName("Other"); }, true);
-    row(
-        "a map's extent", [](PageLayout& page) { mapsOn(page)[0]->SetExtent(make<Envelope>(0, 0, 7, 5)); }, true);
-    row(
-        "a layer shown", [](PageLayout& page) { mapsOn(page)[0]->GetLayer(0)->SetVisible(false); }, true);
-    row(
-        "a layer's scales", [](PageLayout& page) { mapsOn(page)[0]->GetLayer(0)->SetScaleRange(0, 5e6); }, true);
+    Rows<bool, void (*)(PageLayout&)> row;
+    row("a lock", true, [](PageLayout& page) { page.GetFocusMapFrameElement()->SetLocked(true); });
+    row("the margins toggle", true, [](PageLayout& page) { page.SetAlignToMargins(!page.GetAlignToMargins()); });
+    row("the focus", true, [](PageLayout& page) { page.SetFocusMap(mapsOn(page).first()); });
+    row("the paper", true, [](PageLayout& page) { page.GetPage()->SetFormID(0); });
+    row("another custom size", true, [](PageLayout& page) { page.GetPage()->setCustomSize(7, 5); });
+    row("the orientation", true, [](PageLayout& page) { page.GetPage()->SetOrientation(1); });
+    row("the page's border", true, [](PageLayout& page) { page.GetPage()->SetBorder(nullptr); });
+    row("an element's name", true, [](PageLayout& page) { elementsOf(page).last()->SetName("Other"); });
+    row("an element that goes without an operation", true,
+        [](PageLayout& page) { page.GetGraphicsContainer()->DeleteElement(elementsOf(page).last()); });
+    row("a map's name", true, [](PageLayout& page) { mapsOn(page)[0]->SetName("Other"); });
+    row("a map's extent", true, [](PageLayout& page) { mapsOn(page)[0]->SetExtent(make<Envelope>(0, 0, 7, 5)); });
+    row("a layer shown", true, [](PageLayout& page) { mapsOn(page)[0]->GetLayer(0)->SetVisible(false); });
+    row("a layer's scales", true, [](PageLayout& page) { mapsOn(page)[0]->GetLayer(0)->SetScaleRange(0, 5e6); });
 
-    row(
-        "what is said again",
-        [](PageLayout& page) {
-          page.GetFocusMapFrameElement()->SetLocked(false);
-          page.SetFocusMap(page.GetFocusMap());
-          page.GetPage()->SetOrientation(page.GetPage()->GetOrientation());
-          mapsOn(page)[0]->SetExtent(make<Envelope>(mapsOn(page)[0]->GetStoredBounds()));
-          elementsOf(page).last()->SetGeometry(elementsOf(page).last()->GetEnvelope());
-        },
-        false);
-    row(
-        "a clone that nobody sees", [](PageLayout& page) { elementsOf(page)[0]->Clone()->Move(1, 1); }, false);
-    row(
-        "the view", [](PageLayout& page) { page.ZoomToRatio(2); }, false);
-    row(
-        "labels that come and go",
-        [](PageLayout& page) {
-          auto const label = make<TextElement>();
-          label->becomeLabel();
-          mapsOn(page)[0]->GetGraphicsContainer()->AddElement(label);
-          mapsOn(page)[0]->GetGraphicsContainer()->DeleteElement(label);
-        },
-        false);
+    row("what is said again", false, [](PageLayout& page) {
+      page.GetFocusMapFrameElement()->SetLocked(false);
+      page.SetFocusMap(page.GetFocusMap());
+      page.GetPage()->SetOrientation(page.GetPage()->GetOrientation());
+      mapsOn(page)[0]->SetExtent(make<Envelope>(mapsOn(page)[0]->GetStoredBounds()));
+      elementsOf(page).last()->SetGeometry(elementsOf(page).last()->GetEnvelope());
+    });
+    row("a clone that nobody sees", false, [](PageLayout& page) { elementsOf(page)[0]->Clone()->Move(1, 1); });
+    row("the view", false, [](PageLayout& page) { page.ZoomToRatio(2); });
+    row("labels that come and go", false, [](PageLayout& page) {
+      auto const label = make<TextElement>();
+      label->becomeLabel();
+      mapsOn(page)[0]->GetGraphicsContainer()->AddElement(label);
+      mapsOn(page)[0]->GetGraphicsContainer()->DeleteElement(label);
+    });
   }
   void whatIsKeptOutOfTheHistoryIsAModification() {
-    auto const [change, isModification] = fetched<void (*)(PageLayout&), bool>();
+    auto const [isModification, change] = fetched<bool, void (*)(PageLayout&)>();
     MapDocument document;
     QVERIFY(document.Open(path("sample.kdx")));
     mapsOn(*document.GetPageLayout())[0]->AddLayer(opened({}, {}).layer);
@@ -493,8 +440,11 @@ private:
 
   QString path(QString const& name) const { return folder_.filePath(name); }
 
+  void putJson(QString const& name, QJsonValue const& value) const {
+    put(path(name), QJsonDocument(value.toObject()).toJson());
+  }
   void putChanged(QString const& name, QStringList const& field, QJsonValue const& value) const {
-    put(path(name), QJsonDocument(changed(json(sample_), field, value).toObject()).toJson());
+    putJson(name, changed(json(sample_), field, value));
   }
 
   // The one sentence with which an empty document refuses a file, and with which it stays empty.
@@ -507,6 +457,7 @@ private:
 
   QTemporaryDir folder_;
   QByteArray sample_;
+  QByteArray const everything_ = contentOf(PLOTVANE_SOURCE_DIR "/fuzz/seeds/document/everything.kdx");
 };
 
 QTEST_MAIN(DocumentTest)

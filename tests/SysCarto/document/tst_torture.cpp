@@ -1,10 +1,6 @@
 #include "Files.h"
-#include "Test.h"
 
 #include <SysCarto/MapDocument.h>
-
-#include <QLoggingCategory>
-#include <QTemporaryDir>
 
 using SysCarto::MapDocument;
 

@@ -5,8 +5,6 @@
 
 #include <SysCarto/Editor.h>
 
-#include <QUndoStack>
-
 using namespace SysCarto;
 
 namespace {

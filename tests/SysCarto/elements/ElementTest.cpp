@@ -1,4 +1,3 @@
-#include "Boxes.h"
 #include "Pictures.h"
 #include "Symbols.h"
 #include "Elements.h"
@@ -61,10 +60,8 @@ private slots:
     row("data frame", madeIn<MapFrameElement>(2, 3, 6, 5), moved, scaled, fitted);
     row("surround", madeIn<MapSurroundFrame>(2, 3, 6, 5), moved, scaled, fitted);
     row("line", lineFrom({{2, 5}, {6, 3}}), moved, scaled, fitted);
-    row("group of two", groupOf({madeIn<RectangleElement>(2, 3, 3, 4), lineFrom({{3, 3}, {6, 5}})}), moved, scaled,
-        fitted);
-    row("a level line keeps its height of nothing", lineFrom({{2, 3}, {6, 3}}), {3, 1, 7, 1}, {2, 3, 10, 3},
-        {10, 11, 14, 11});
+    row("group", groupOf({madeIn<RectangleElement>(2, 3, 3, 4), lineFrom({{3, 3}, {6, 5}})}), moved, scaled, fitted);
+    row("a level line stays level", lineFrom({{2, 3}, {6, 3}}), {3, 1, 7, 1}, {2, 3, 10, 3}, {10, 11, 14, 11});
     auto const marker = make<MarkerElement>();
     marker->setShape(make<Point>(4.0, 5.0, 0.0));
     row("a marker only moves", _ptr_t<Element>(marker), {5, 3, 5, 3}, {6, 4, 6, 4}, {12, 11, 12, 11});

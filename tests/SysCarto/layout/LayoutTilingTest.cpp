@@ -8,8 +8,6 @@
 
 #include <SysCarto/Page.h>
 
-#include <QTemporaryDir>
-
 using namespace SysCarto;
 using SysGeometry::Envelope;
 
@@ -106,8 +104,6 @@ private slots:
     row("border, background and shadow", sceneOf({framed(0)}));
     row("rounded corners", sceneOf({framed(60)}));
     row("map with graphics and labels", sceneOf({framedMap()}));
-    row("text with a halo", sceneOf({turnedText()}));
-    row("ellipse", sceneOf({madeIn<EllipseElement>(0.3, 0.4, 7.1, 5.7)}));
     auto const group = make<GroupElement>();
     group->AddElement(madeIn<RectangleElement>(0.5, 0.5, 6.9, 2.47));
     group->AddElement(turnedText());

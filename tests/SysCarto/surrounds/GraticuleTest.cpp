@@ -2,8 +2,6 @@
 
 #include <SysCarto/Graticule.h>
 
-#include <QJsonObject>
-
 #include <cpl_error.h>
 
 using namespace SysCarto;
@@ -112,13 +110,6 @@ private slots:
     for (int x = framePx.left() + 2; x < framePx.right() - 2; ++x)
       if (image.pixelColor(x, 200) != Qt::white && image.pixelColor(x - 1, 200) == Qt::white) ++crossed;
     QVERIFY2(crossed >= 2 && crossed <= 5, qPrintable(QString::number(crossed)));
-  }
-
-  void aDrawingInTilesIsTheWholeOne() {
-    auto const frame = frameWith("EPSG:3035", Envelope(3000000, 2000000, 5000000, 3600000), {});
-    QImage const whole = drawn(frame);
-    QVERIFY(ink(whole).pixels > 0);
-    for (int side : {160, 100}) QCOMPARE(difference(whole, page.drawnInTiles(sceneOf(frame), side)).pixels, 0);
   }
 
   void theIntervalFollowsTheScale() {

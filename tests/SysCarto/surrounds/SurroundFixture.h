@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Boxes.h"
 #include "Elements.h"
 #include "Pictures.h"
 
@@ -17,26 +16,20 @@ inline _ptr_t<SysCarto::Map> mapShowing(QString const& system, SysGeometry::Enve
   return map;
 }
 
-template <class Described>
-struct SettingsOf;
-template <>
-struct SettingsOf<SysCarto::Legend> : SysCarto::LegendSettings {};
-template <>
-struct SettingsOf<SysCarto::ScaleLine> : SysCarto::ScaleLineSettings {};
-template <>
-struct SettingsOf<SysCarto::ScaleText> : SysCarto::ScaleTextSettings {};
-template <>
-struct SettingsOf<SysCarto::MarkerNorthArrow> : SysCarto::NorthArrowSettings {};
-template <>
-struct SettingsOf<SysCarto::Graticule> : SysCarto::GraticuleSettings {};
+// Which settings belong to what; never called.
+SysCarto::LegendSettings settingsOf(SysCarto::Legend const&);
+SysCarto::ScaleLineSettings settingsOf(SysCarto::ScaleLine const&);
+SysCarto::ScaleTextSettings settingsOf(SysCarto::ScaleText const&);
+SysCarto::NorthArrowSettings settingsOf(SysCarto::MarkerNorthArrow const&);
+SysCarto::GraticuleSettings settingsOf(SysCarto::Graticule const&);
 
 /// A grid or a surround with stored settings.
 template <class Described>
 _ptr_t<Described> described(QJsonObject const& stored) {
-  SettingsOf<Described> settings;
+  auto const result = make<Described>();
+  decltype(settingsOf(*result)) settings;
   QString const problem = SysUtility::readJson(stored, settings);
   if (!problem.isEmpty()) qFatal("%s", qPrintable(problem));
-  auto const result = make<Described>();
   settings.applyTo(*result);
   return result;
 }

@@ -1,4 +1,3 @@
-#include "Json.h"
 #include "SurroundFixture.h"
 #include "Symbols.h"
 
