@@ -86,6 +86,14 @@ void TextSymbol::setFormat(TextFormat format) {
   fontKey_ = fontKeyOf(format_);
 }
 
+_ptr_t<TextSymbol> TextSymbol::resized(double factor) const {
+  TextFormat format = format_;
+  format.size *= factor;
+  format.letterSpacing *= factor;
+  format.haloSize *= factor;
+  return SysUtility::make<TextSymbol>(std::move(format));
+}
+
 SymbolType TextSymbol::GetType() const { return SymbolType::Text; }
 _ptr_t<Symbol> TextSymbol::Clone() const { return SysUtility::make<TextSymbol>(*this); }
 

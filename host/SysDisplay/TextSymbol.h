@@ -45,6 +45,9 @@ public:
   TextFormat const& format() const { return format_; }
   void setFormat(TextFormat format);
 
+  /// The symbol with every length multiplied: a new object.
+  SysUtility::_ptr_t<TextSymbol> resized(double factor) const;
+
   SymbolType GetType() const override;
   SysUtility::_ptr_t<Symbol> Clone() const override;
 

@@ -1,5 +1,7 @@
 #include "PageGesture.h"
 
+#include "host/SysCarto/layout/TextElement.h"
+
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
 #include <SysFramework/HostAccess.h>
@@ -20,7 +22,7 @@ namespace {
 
 constexpr double dragPx = 3;        // a hand is not still
 constexpr double smallestCm = 0.1;  // that a drag makes of a side
-constexpr int mostOutlines = 200;   // more of them tell no more than one about them all
+constexpr int maxOutlines = 200;   // more of them tell no more than one about them all
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(PageGesture)
@@ -43,7 +45,7 @@ QRectF rectangleOf(Envelope const& envelope) {
 
 QVector<QRectF> selectedRectangles(PageLayout const& layout) {
   auto const selection = movableSelection(layout);
-  if (selection.size() > mostOutlines) return {SelectionHandles(layout).boundsCm()};
+  if (selection.size() > maxOutlines) return {SelectionHandles(layout).boundsCm()};
   QVector<QRectF> rectangles;
   for (auto const& element : selection) rectangles << rectangleOf(*element->GetEnvelope());
   return rectangles;
@@ -110,6 +112,14 @@ void MoveGesture::commit() {
 ResizeGesture::ResizeGesture(PageLayout& layout, QPointF const& press, Handle const& handle)
     : PageGesture(layout, press), handle_(handle), bounds_(SelectionHandles(layout).boundsCm()) {}
 
+// Texts alone can't be stretched.
+bool ResizeGesture::keepsRatio() const {
+  if (modifiers() & Qt::ShiftModifier) return true;
+  auto const selection = movableSelection(layout());
+  return std::all_of(selection.begin(), selection.end(),
+                     [](_ptr_t<Element> const& element) { return element->GetType() == SysCarto::ElementType::Text; });
+}
+
 // A rectangle is not turned over, and a side without a length is not scaled.
 ResizeGesture::Scaling ResizeGesture::scaling() const {
   QPointF const way = point() - press();
@@ -119,7 +129,7 @@ ResizeGesture::Scaling ResizeGesture::scaling() const {
   Scaling scaling;
   scaling.x = factor(bounds_.width(), handle_.x, way.x());
   scaling.y = factor(bounds_.height(), handle_.y, way.y());
-  if (modifiers() & Qt::ShiftModifier) {
+  if (keepsRatio()) {
     bool const followsX = handle_.y == 0 || (handle_.x != 0 && std::abs(scaling.x - 1) > std::abs(scaling.y - 1));
     scaling.x = scaling.y = followsX ? scaling.x : scaling.y;
   }
@@ -133,23 +143,30 @@ ResizeGesture::Scaling ResizeGesture::scaling() const {
   return scaling;
 }
 
+void ResizeGesture::Scaling::apply(Element& element) const {
+  SysCarto::scaleInWhole(element, make<Point>(origin.x(), origin.y(), 0.0), x, y);
+}
+
+// Of clones, since not every element becomes what its rectangle would.
 QVector<QRectF> ResizeGesture::outlines() const {
   Scaling const by = scaling();
-  QTransform scaled;
-  scaled.translate(by.origin.x(), by.origin.y());
-  scaled.scale(by.x, by.y);
-  scaled.translate(-by.origin.x(), -by.origin.y());
-  QVector<QRectF> rectangles = selectedRectangles(layout());
-  for (QRectF& rectangle : rectangles) rectangle = scaled.mapRect(rectangle);
+  auto const selection = movableSelection(layout());
+  if (selection.size() > maxOutlines)
+    return {QRectF(by.origin + by.scaled(bounds_.topLeft() - by.origin),
+                   by.origin + by.scaled(bounds_.bottomRight() - by.origin))};
+  QVector<QRectF> rectangles;
+  for (auto const& element : selection) {
+    auto const clone = element->Clone();
+    by.apply(*clone);
+    rectangles << rectangleOf(*clone->GetEnvelope());
+  }
   return rectangles;
 }
 
 void ResizeGesture::commit() {
   Scaling const by = scaling();
   if (by.x == 1 && by.y == 1) return;
-  auto const origin = make<Point>(by.origin.x(), by.origin.y(), 0.0);
-  changeSelection(layout(), Texts::tr("Resize the selected elements"),
-                  [&](Element& element) { element.Scale(origin, by.x, by.y); });
+  changeSelection(layout(), Texts::tr("Resize the selected elements"), [&](Element& element) { by.apply(element); });
 }
 
 void RubberBandGesture::commit() {

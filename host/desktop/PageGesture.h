@@ -67,7 +67,8 @@ private:
   QPointF offset() const { return point() - press(); }
 };
 
-/// Drags a handle of the selection, the opposite side staying where it is. Shift keeps the ratio of width and height.
+/// Drags a handle of the selection, the opposite side staying where it is. Shift keeps the ratio of width and height,
+/// and so does a selection of texts alone.
 class ResizeGesture final : public PageGesture {
 public:
   ResizeGesture(SysCarto::PageLayout& layout, QPointF const& press, Handle const& handle);
@@ -80,7 +81,11 @@ private:
   struct Scaling {
     QPointF origin;
     double x = 1, y = 1;
+
+    QPointF scaled(QPointF const& way) const { return {way.x() * x, way.y() * y}; }
+    void apply(SysCarto::Element& element) const;
   };
+  bool keepsRatio() const;
   Scaling scaling() const;
 
   Handle const handle_;

@@ -143,6 +143,28 @@ private slots:
     expectSelected(after);
   }
 
+  void aTextGetsTheWidthThatIsAskedOfWhatIsDrawn_data() {
+    Rows<MakeCommand, double> row;
+    row("of another element", made<MakeSameWidthElements>, 7.0);
+    row("of the page", made<FitWidthtoMarginsElements>, 20.0);
+  }
+
+  void aTextGetsTheWidthThatIsAskedOfWhatIsDrawn() {
+    auto const [command, width] = fetched<MakeCommand, double>();
+    auto const text = make<TextElement>();
+    SysDisplay::TextFormat format;
+    format.letterSpacing = 3;
+    format.haloSize = 2;
+    text->setSymbol(make<SysDisplay::TextSymbol>(format));
+    text->setText("Plan");
+    addSelected(text);
+    if (width < 20) addSelected(rectangle({5, 5, 5 + width, 6}));
+    QVERIFY(click(command()));
+    auto const drawn =
+        container_->GetSelectedElements().first()->GetBoundary(hook_->layout->GetDisplayTransformation());
+    QVERIFY(std::abs(drawn->GetEnvelope()->GetWidth() - width) < 1e-9);
+  }
+
   void enabling_data() {
     Rows<MakeCommand, int, bool, bool> row;
     row("alignment wants two", made<LeftAlignmentElement>, 1, false, false);

@@ -56,6 +56,23 @@ private slots:
     QVERIFY(page.isAt(*page.left, QRectF(2, 4, 8, 6)));
   }
 
+  void aTextGrowsAboutTheOppositeSide() {
+    Page page;
+    auto const text = make<SysCarto::TextElement>();
+    auto format = text->symbol()->format();
+    format.size = 60;
+    format.horizontal = SysDisplay::HorizontalAlignment::Center;
+    text->setSymbol(make<SysDisplay::TextSymbol>(format));
+    text->setText("Plan");
+    text->setPosition(10, 15);
+    page.container().AddElement(text);
+    QRectF const before = page.place(*text);
+    page.click(page.pixel(10, 15.5));
+    page.drag(page.pixel(10, before.bottom()), page.pixel(10, before.bottom() + before.height()));
+    QVERIFY(page.isAbout(
+        *text, QRectF(before.left() - before.width() / 2, before.top(), 2 * before.width(), 2 * before.height())));
+  }
+
   void arrowKeysNudge_data() {
     Rows<Qt::Key, bool, QPointF> row;
     row("right by a millimetre", Qt::Key_Right, false, QPointF(0.1, 0));

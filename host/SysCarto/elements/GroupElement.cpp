@@ -1,4 +1,5 @@
 #include "Placement.h"
+#include "TextElement.h"
 
 #include <SysCarto/GroupElement.h>
 
@@ -31,7 +32,7 @@ void GroupElement::Move(double dx, double dy) {
 }
 
 void GroupElement::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
-  for (_ptr_t<Element> const& member : qAsConst(members_)) member->Scale(origin, sx, sy);
+  for (_ptr_t<Element> const& member : qAsConst(members_)) scaleInWhole(*member, origin, sx, sy);
   if (sx != 1 || sy != 1) moved();
 }
 

@@ -22,7 +22,7 @@ using SysUtility::_ptr_t;
 
 namespace {
 
-constexpr double largestFontPt = 1000;
+constexpr double maxLengthPt = 1000;
 
 }  // namespace
 
@@ -57,15 +57,35 @@ void TextElement::Move(double dx, double dy) {
   if (dx != 0 || dy != 0) moved();
 }
 
-void TextElement::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
-  QPointF const position = Placement::scaling(origin, sx, sy).map(x_, y_);
+void TextElement::Scale(_ptr_t<Point> const& origin, double sx, double) {
+  double const factor = largestFactor(sx);
+  QPointF const position = Placement::scaling(origin, factor, factor).map(x_, y_);
   setPosition(position.x(), position.y());
-  moved();
-  double const factor = std::abs(sx);
-  if (!std::isfinite(factor) || factor == 0 || factor == 1) return;
-  TextFormat format = symbol_->format();
-  format.size = std::min(format.size * factor, largestFontPt);
-  setSymbol(SysUtility::make<TextSymbol>(format));
+  enlarge(factor);
+  if (factor != 1) moved();
+}
+
+// 1 for what is no factor.
+double TextElement::largestFactor(double wanted) const {
+  double const factor = std::abs(wanted);
+  if (!std::isfinite(factor) || factor == 0) return 1;
+  TextFormat const& format = symbol_->format();
+  double const longest = std::max({format.size, std::abs(format.letterSpacing), format.haloSize});
+  // A little less, so that rounding does not bring it over.
+  return longest * factor > maxLengthPt ? maxLengthPt / longest * (1 - 1e-15) : factor;
+}
+
+void TextElement::enlarge(double factor) {
+  if (factor != 1) setSymbol(symbol_->resized(factor));
+}
+
+void scaleInWhole(Element& element, _ptr_t<Point> const& origin, double sx, double sy) {
+  auto* const text = dynamic_cast<TextElement*>(&element);
+  if (!text) return element.Scale(origin, sx, sy);
+  QPointF const position = Placement::scaling(origin, sx, sy).map(text->x_, text->y_);
+  text->setPosition(position.x(), position.y());
+  text->enlarge(text->largestFactor(sx));
+  if (sx != 1 || sy != 1) text->moved();
 }
 
 int TextElement::GetType() const { return ElementType::Text; }

@@ -31,6 +31,9 @@ public:
   void setAngle(double degrees);
 
   void Move(double dx, double dy) override;
+
+  /// Scales everything by the first factor, height and place included, since letters can't be stretched. At most as far
+  /// as a document can store the font.
   void Scale(SysUtility::_ptr_t<SysGeometry::Point> const& origin, double sx, double sy) override;
   int GetType() const override;
   SysUtility::_ptr_t<SysGeometry::Geometry> GetGeometry() const override;
@@ -52,6 +55,9 @@ public:
   SysUtility::_ptr_t<Element> Clone() const override;
 
 private:
+  friend void scaleInWhole(Element&, SysUtility::_ptr_t<SysGeometry::Point> const&, double, double);
+  double largestFactor(double wanted) const;
+  void enlarge(double factor);
   QRectF const& boundsPt() const;
   SysUtility::_ptr_t<SysGeometry::Envelope> rectangle(QRectF const& boundsPt, double unitsPerPoint) const;
 
@@ -61,5 +67,10 @@ private:
   double angle_ = 0;
   mutable std::optional<QRectF> boundsPt_;  // turned, halo included, y downwards, about the position
 };
+
+/// Scales an element that is part of a whole, such as a group: a text keeps its place there, whatever shape the whole
+/// takes, and its font alone follows the width.
+SYSCARTO_EXPORT void scaleInWhole(Element& element, SysUtility::_ptr_t<SysGeometry::Point> const& origin, double sx,
+                                  double sy);
 
 }  // namespace SysCarto

@@ -125,7 +125,7 @@ QList<_ptr_t<Element>> LegendLayout::elements(QString const& title, QVector<Lege
   factor_ = best.factor;
   if (factor_ < 1)
     for (auto* symbol : {&lettering_.title, &lettering_.heading, &lettering_.label})
-      *symbol = resized(**symbol, factor_);
+      *symbol = (*symbol)->resized(factor_);
   pieces_.clear();
   if (titleHeight_ > 0) pieces_ << textPiece(title, lettering_.title, onPage(0, 0));
   double x = 0;

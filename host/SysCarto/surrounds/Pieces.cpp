@@ -58,14 +58,6 @@ QRectF unitBounds(MarkerSymbol const& symbol) {
   return {bounds.topLeft() / measuredPt, bounds.size() / measuredPt};
 }
 
-_ptr_t<TextSymbol> resized(TextSymbol const& symbol, double factor) {
-  auto format = symbol.format();
-  format.size *= factor;
-  format.letterSpacing *= factor;
-  format.haloSize *= factor;
-  return make<TextSymbol>(format);
-}
-
 _ptr_t<MarkerSymbol> resized(MarkerSymbol const& symbol, double factor) {
   auto const made = ptr_cast<MarkerSymbol>(symbol.Clone());
   made->SetSize(symbol.GetSize() * factor);

@@ -30,7 +30,6 @@ SysUtility::_ptr_t<Element> markerPiece(QPointF const& position,
 QRectF unitBounds(SysDisplay::MarkerSymbol const& symbol);
 
 /// The symbol with every length multiplied.
-SysUtility::_ptr_t<SysDisplay::TextSymbol> resized(SysDisplay::TextSymbol const& symbol, double factor);
 SysUtility::_ptr_t<SysDisplay::MarkerSymbol> resized(SysDisplay::MarkerSymbol const& symbol, double factor);
 SysUtility::_ptr_t<SysDisplay::LineSymbol> resized(SysDisplay::LineSymbol const& symbol, double factor);
 

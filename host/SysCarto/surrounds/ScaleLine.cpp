@@ -107,7 +107,7 @@ public:
       : area_(area), text_(text), barCm_(heightPt * SysDisplay::cmPerPoint) {
     double const fits = area.GetHeight() / height();
     if (fits >= 1) return;
-    text_ = resized(*text, fits);
+    text_ = text->resized(fits);
     barCm_ *= fits;
     gapCm_ *= fits;
   }

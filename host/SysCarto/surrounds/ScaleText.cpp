@@ -54,7 +54,7 @@ QList<_ptr_t<Element>> ScaleText::GetElements() {
   QRectF const bounds = symbol->bounds(text);
   double const fits = std::min(rectangle().GetWidth() / (bounds.width() * SysDisplay::cmPerPoint),
                                rectangle().GetHeight() / (bounds.height() * SysDisplay::cmPerPoint));
-  if (fits < 1) symbol = resized(*symbol, fits);
+  if (fits < 1) symbol = symbol->resized(fits);
   auto const middle = rectangle().GetAnchorPoint();
   return {textPiece(text, symbol, QPointF(middle->GetX(), middle->GetY()))};
 }

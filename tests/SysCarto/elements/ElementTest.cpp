@@ -109,15 +109,30 @@ private slots:
     }
   }
 
-  void textScalesItsFontByTheFirstFactorAlone() {
-    auto const element = ptr_cast<TextElement>(text("Plan", 4, 5));
+  void textIsScaledWholeByTheFirstFactorAlone() {
+    auto const element = ptr_cast<TextElement>(text("Plan", 4, 5, 3));
+    auto format = element->symbol()->format();
+    format.letterSpacing = 2;
+    format.horizontal = SysDisplay::HorizontalAlignment::Center;
+    element->setSymbol(make<SysDisplay::TextSymbol>(format));
     auto const shared = element->symbol();
-    auto const envelope = element->GetEnvelope();
-    element->Scale(make<Point>(2.0, 3.0, 0.0), 2, 10);
-    QCOMPARE(element->symbol()->format().size, 20.0);
+    auto const before = element->GetBoundary(pageView())->GetEnvelope();
+    element->Scale(make<Point>(before->GetXMin(), before->GetYMin(), 0.0), 2, 10);
     QCOMPARE(shared->format().size, 10.0);  // of other elements
-    QCOMPARE(sidesOf(*element->GetGeometry()), (QVector<double>{6, 23, 6, 23}));
-    QVERIFY(std::abs(element->GetEnvelope()->GetWidth() - 2 * envelope->GetWidth()) < 0.02 * envelope->GetWidth());
+    QVector<double> const after = sidesOf(*element->GetBoundary(pageView()));
+    QVector<double> const doubled = {before->GetXMin(), before->GetYMin(), 2 * before->GetXMax() - before->GetXMin(),
+                                     2 * before->GetYMax() - before->GetYMin()};
+    for (int i = 0; i < 4; ++i) QVERIFY(std::abs(after[i] - doubled[i]) < 1e-5);
+    element->Scale(make<Point>(0.0, 0.0, 0.0), 1e6, 1);
+    QVERIFY(element->symbol()->format().size <= 1000);  // what a document can store
+    QVERIFY(element->symbol()->format().size > 999);
+  }
+
+  void textInAGroupKeepsItsPlace() {
+    auto const group = groupOf({madeIn<RectangleElement>(0, 0, 10, 10), text("Plan", 4, 5)});
+    group->Scale(make<Point>(0.0, 0.0, 0.0), 0.5, 2);
+    auto const place = ptr_cast<GroupElement>(group)->GetElements().at(1)->GetGeometry();
+    QCOMPARE(sidesOf(*place), (QVector<double>{2, 10, 2, 10}));
   }
 
   void textHasOneSizeOnPaperAndItsHaloIsNotItsOwn() {
