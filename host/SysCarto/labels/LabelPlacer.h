@@ -63,7 +63,6 @@ private:
   static void measure(LabelText& text);
   std::optional<QPointF> visiblePoint(int feature) const;
 
-  bool isFree(LabelShape const& shape) const { return frame_.contains(shape.box) && index_.isFree(shape); }
   LabelShape shapeAt(LabelText const& text, QPointF const& centre, double angle, double gapPt) const;
   void accept(LabelText const& text, QPointF const& centre, double angle);
 

@@ -2,12 +2,6 @@
 
 namespace SysCarto {
 
-namespace {
-
-constexpr int mostMessages = 100;
-
-}  // namespace
-
 GdalErrors::GdalErrors() { CPLPushErrorHandlerEx(&GdalErrors::collect, this); }
 GdalErrors::~GdalErrors() { CPLPopErrorHandler(); }
 
@@ -23,7 +17,6 @@ void GdalErrors::add(CPLErr kind, QString const& message) {
   while (line.endsWith(QLatin1Char('.'))) line.chop(1);
   if (line.isEmpty()) return;
   (kind == CE_Warning ? warning_ : failure_) = line;
-  if (messages_.size() < mostMessages) messages_ << line;
 }
 
 }  // namespace SysCarto

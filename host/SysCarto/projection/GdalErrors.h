@@ -3,7 +3,6 @@
 #include <SysCarto/Export.h>
 
 #include <QString>
-#include <QStringList>
 
 #include <cpl_error.h>
 
@@ -22,8 +21,6 @@ public:
   /// without a full stop.
   QString reason() const;
 
-  /// Everything reported, oldest first, at most 100.
-  QStringList const& messages() const { return messages_; }
   bool hasFailure() const { return !failure_.isEmpty(); }
 
 private:
@@ -31,7 +28,6 @@ private:
   void add(CPLErr kind, QString const& message);
 
   CPLErrorStateBackuper backup_;
-  QStringList messages_;
   QString failure_;
   QString warning_;
 };

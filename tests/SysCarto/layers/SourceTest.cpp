@@ -38,7 +38,7 @@ private slots:
     QVERIFY2(result.error.contains(says), qPrintable(result.error));
     QVERIFY(result.error.contains(file.left(20)) && result.error.endsWith('.'));
     QCOMPARE(result.features().size(), 0);
-    QCOMPARE(outside.messages(), QStringList());
+    QCOMPARE(outside.reason(), QString());
   }
 
   void openingLeavesNothingBehind() {
