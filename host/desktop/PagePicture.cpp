@@ -34,13 +34,13 @@ QList<_ptr_t<MapFrameElement>> framesOf(PageLayout const& layout) {
   return frames;
 }
 
-// A surround without a map draws nothing, and nobody would find it on the page.
+// A frame without a surround draws nothing, and nobody would find it on the page.
 void paintPlaceholder(QPainter& painter, QRectF const& place) {
   painter.save();
   QPen pen(QColor(0x90, 0x98, 0xa0), 0, Qt::DashLine);
   painter.setPen(pen);
   painter.drawRect(place);
-  painter.drawText(place, Qt::AlignCenter, QCoreApplication::translate("PagePicture", "No map"));
+  painter.drawText(place, Qt::AlignCenter, QCoreApplication::translate("MapSurround", "Map surround"));
   painter.restore();
 }
 
@@ -144,8 +144,7 @@ void PagePicture::paintElement(QPainter& painter, _ptr_t<Element> const& element
   if (frame) return paintFrame(painter, frame);
   element->Draw(painter, transformation_, nullptr);
   auto const surroundFrame = ptr_cast<MapSurroundFrame>(element);
-  auto const surround = surroundFrame ? surroundFrame->GetMapSurround() : nullptr;
-  if (surroundFrame && (!surround || !surround->GetMap()))
+  if (surroundFrame && !surroundFrame->GetMapSurround())
     paintPlaceholder(painter, pixelsOf(*transformation_, *element->GetEnvelope()));
 }
 

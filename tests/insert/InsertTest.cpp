@@ -41,7 +41,10 @@ public:
   void SetName(QString const&) override {}
   void Draw(QPainter&, _ptr_t<SysUI::TrackerCancel> const&, _ptr_t<SysDisplay::DisplayTransformation> const&,
             _ptr_t<MapFrameElement> const&) override {}
-  double GetMargin() const override { return 0; }
+  _ptr_t<SysGeometry::Geometry> GetBoundary(_ptr_t<SysDisplay::DisplayTransformation> const&,
+                                            MapFrameElement const&) const override {
+    return make<Envelope>();
+  }
   _ptr_t<IMapGrid> Clone() const override { return make<OtherGrid>(*this); }
 };
 

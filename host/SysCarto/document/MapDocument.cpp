@@ -284,7 +284,9 @@ int MapDocument::GetUnreadableSourceCount() const { return d->unreadableSources;
 QUndoStack* MapDocument::history() const { return &d->history; }
 
 void MapDocument::setPageLayout(_ptr_t<PageLayout> const& layout) {
-  if (layout != d->content.layout) d->setLayout(layout);
+  if (layout == d->content.layout) return;
+  if (layout && d->content.layout) layout->succeed(*d->content.layout);
+  d->setLayout(layout);
 }
 
 // The focus comes and goes with data frames, and so with the steps of the history: it is compared, not counted.

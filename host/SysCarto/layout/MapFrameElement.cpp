@@ -8,8 +8,6 @@
 
 #include <QPainter>
 
-#include <algorithm>
-
 namespace SysCarto {
 
 using SysDisplay::DisplayTransformation;
@@ -55,7 +53,9 @@ _ptr_t<Map> MapFrameElement::GetMap() const { return d->map; }
 
 void MapFrameElement::SetMap(_ptr_t<Map> const& map) {
   if (!map) return;
+  if (isPlaced()) d->map->leaveFrame();
   d->map = map;
+  if (isPlaced()) d->map->enterFrame();
   rectangleChanged();
   changed();
 }
@@ -91,16 +91,11 @@ void MapFrameElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> cons
 }
 
 _ptr_t<Geometry> MapFrameElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
-  _ptr_t<Envelope> const framed = FrameElementBase::GetBoundary(transformation)->GetEnvelope();
-  if (!transformation) return framed;
-  double marginPt = 0;
-  for (_ptr_t<IMapGrid> const& grid : qAsConst(d->grids)) marginPt = std::max(marginPt, grid->GetMargin());
-  double const margin = marginPt * worldPerPoint(*transformation);
-  _ptr_t<Envelope> const labelled = GetEnvelope();
-  labelled->Expand(margin, margin, false);
-  include(*framed, labelled);
-  if (auto const pixel = firstPixel(*GetEnvelope(), *transformation)) include(*framed, pixel);
-  return framed;
+  _ptr_t<Envelope> const area = FrameElementBase::GetBoundary(transformation)->GetEnvelope();
+  if (!transformation) return area;
+  for (_ptr_t<IMapGrid> const& grid : qAsConst(d->grids)) include(*area, grid->GetBoundary(transformation, *this));
+  if (auto const pixel = firstPixel(*GetEnvelope(), *transformation)) include(*area, pixel);
+  return area;
 }
 
 _ptr_t<Element> MapFrameElement::Clone() const { return SysUtility::make<MapFrameElement>(*this); }
@@ -111,6 +106,8 @@ void MapFrameElement::setHandle(ElementHandle handle) {
 }
 
 void MapFrameElement::setContainer(ElementContainer* container) {
+  if (container && !isPlaced()) d->map->enterFrame();
+  if (!container && isPlaced()) d->map->leaveFrame();
   Element::setContainer(container);
   rectangleChanged();
 }

@@ -26,6 +26,8 @@ Envelope const& MapSurround::rectangle() const { return d->rectangle; }
 
 QString MapSurround::title() const { return QCoreApplication::translate("MapSurround", "Map surround"); }
 
-bool MapSurround::hasPlace() const { return d->map && d->rectangle.GetWidth() > 0 && d->rectangle.GetHeight() > 0; }
+bool MapSurround::hasPlace() const {
+  return d->map && d->map->isFramed() && d->rectangle.GetWidth() > 0 && d->rectangle.GetHeight() > 0;
+}
 
 }  // namespace SysCarto

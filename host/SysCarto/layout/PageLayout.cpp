@@ -19,6 +19,7 @@ using SysUtility::ptr_cast;
 
 namespace {
 
+constexpr QRect firstFramePx(0, 0, 1000, 750);
 constexpr double spaceAboutPage = 1.04;  // of the page's size, when the whole page is shown
 
 // A rectangle of the page, in fractions of its width and height.
@@ -38,6 +39,12 @@ _ptr_t<Envelope> partOf(Page const* page, PagePart const& part) {
   double width, height;
   page->QuerySize(width, height);
   return make<Envelope>(part.left * width, part.bottom * height, part.right * width, part.top * height);
+}
+
+// From the page's origin, at a zoom.
+_ptr_t<Envelope> extentAt(double ratio, QRect const& framePx) {
+  double const pixelsPerCm = ratio * SysDisplay::pixelsPerInch / SysDisplay::cmPerInch;
+  return make<Envelope>(0.0, 0.0, framePx.width() / pixelsPerCm, framePx.height() / pixelsPerCm);
 }
 
 int pixelsOf(double cm, int dpi) {
@@ -60,25 +67,32 @@ struct PageLayout::Private {
     return frames;
   }
 
-  void rebindSurrounds(QList<std::pair<_ptr_t<Map>, _ptr_t<Map>>> const& replaced) {
+  QList<_ptr_t<MapSurround>> surrounds() const {
+    QList<_ptr_t<MapSurround>> surrounds;
     for (auto const& element : elements.GetElements()) {
       auto const frame = ptr_cast<MapSurroundFrame>(element);
-      auto const surround = frame ? frame->GetMapSurround() : nullptr;
-      if (surround) surround->SetMap(replacementOf(surround->GetMap(), replaced));
+      if (frame && frame->GetMapSurround()) surrounds << frame->GetMapSurround();
     }
-    focus = replacementOf(focus, replaced);
+    return surrounds;
   }
 
-  static _ptr_t<Map> replacementOf(_ptr_t<Map> const& map, QList<std::pair<_ptr_t<Map>, _ptr_t<Map>>> const& replaced) {
-    for (auto const& [former, present] : replaced)
-      if (former == map) return present;
-    return map;
+  _ptr_t<Map> firstWithLayers() const {
+    for (auto const& frame : frames())
+      if (frame->GetMap()->GetLayerCount() > 0) return frame->GetMap();
+    return nullptr;
+  }
+
+  bool shows(_ptr_t<Map> const& map) const {
+    auto const all = frames();
+    return std::any_of(all.begin(), all.end(), [&](auto const& frame) { return frame->GetMap() == map; });
   }
 };
 
+// Even without a page it has an extent, so that symbols have their size on paper.
 PageLayout::PageLayout() : d(std::make_unique<Private>()) {
-  GetDisplayTransformation()->SetDeviceFrame(QRect(0, 0, 1000, 750));
+  GetDisplayTransformation()->SetDeviceFrame(firstFramePx);
   GetDisplayTransformation()->SetFillsWidth(true);
+  show(*extentAt(1, firstFramePx));
 }
 PageLayout::~PageLayout() = default;
 
@@ -125,9 +139,7 @@ quint64 PageLayout::lastChange() const {
 
 void PageLayout::ZoomToRatio(double ratio) {
   if (!std::isfinite(ratio) || ratio <= 0 || !d->page) return;
-  double const pixelsPerCm = ratio * SysDisplay::pixelsPerInch / SysDisplay::cmPerInch;
-  QRect const frame = GetDisplayTransformation()->GetDeviceFrame();
-  auto const extent = make<Envelope>(0.0, 0.0, frame.width() / pixelsPerCm, frame.height() / pixelsPerCm);
+  auto const extent = extentAt(ratio, GetDisplayTransformation()->GetDeviceFrame());
   extent->CenterAt(GetExtent()->GetAnchorPoint());
   SetExtent(extent);
 }
@@ -144,11 +156,11 @@ void PageLayout::ReplaceMaps(QList<_ptr_t<Map>> const& maps) {
   QList<_ptr_t<Map>> left;
   for (auto const& map : maps)
     if (map && !left.contains(map)) left << map;
-  QList<std::pair<_ptr_t<Map>, _ptr_t<Map>>> replaced;
+  QVector<std::pair<_ptr_t<Map>, _ptr_t<Map>>> replaced;
   for (auto const& frame : frames) {
     _ptr_t<Map> const former = frame->GetMap(), present = left.isEmpty() ? make<Map>() : left.takeFirst();
     frame->SetMap(present);
-    replaced << std::make_pair(former, present);
+    replaced.append({former, present});
   }
   for (auto const& map : qAsConst(left)) {
     auto const frame = make<MapFrameElement>();
@@ -156,7 +168,20 @@ void PageLayout::ReplaceMaps(QList<_ptr_t<Map>> const& maps) {
     if (d->page) frame->SetGeometry(GetDefaultDataFrameEnvelope());
     d->elements.AddElement(frame);
   }
-  d->rebindSurrounds(replaced);
+  auto const presentOf = [&](_ptr_t<Map> const& map) {
+    for (auto const& [former, present] : qAsConst(replaced))
+      if (former == map) return present;
+    return d->shows(map) ? map : nullptr;
+  };
+  for (auto const& surround : d->surrounds()) surround->SetMap(presentOf(surround->GetMap()));
+  _ptr_t<Map> const focus = presentOf(d->focus);
+  SetFocusMap(maps.contains(focus) ? focus : d->firstWithLayers());
+}
+
+void PageLayout::succeed(PageLayout const& former) {
+  if (!d->shows(d->focus)) SetFocusMap(former.GetFocusMap());
+  for (auto const& surround : d->surrounds())
+    if (!d->shows(surround->GetMap())) surround->SetMap(GetFocusMap());
 }
 
 _ptr_t<Map> PageLayout::GetFocusMap() const {

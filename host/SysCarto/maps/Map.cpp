@@ -51,6 +51,7 @@ struct Map::Private {
   QRect frame{0, 0, 200000, 150000};
   _ptr_t<DisplayTransformation> transformation = make<DisplayTransformation>();
   ElementContainer graphics;
+  int frames = 0;
   SysUtility::ChangeMark change;
 
   void fit();
@@ -103,6 +104,8 @@ void Map::SetCoordinateSystem(QString const& definition) {
   d->fit();
 }
 
+double Map::scale() const { return d->layers.isEmpty() ? 0 : d->transformation->GetMapScale(); }
+
 double Map::GetNorthAngle() const {
   auto const centre = GetExtent()->GetAnchorPoint();
   return d->ground->northAngle(centre->GetX(), centre->GetY());
@@ -117,6 +120,10 @@ void Map::setFrameSize(double widthCm, double heightCm) {
   d->frame = frame;
   d->fit();
 }
+
+void Map::enterFrame() { ++d->frames; }
+void Map::leaveFrame() { --d->frames; }
+bool Map::isFramed() const { return d->frames > 0; }
 
 void Map::applyExtent(Envelope const& extent) {
   auto const bounds = extent.GetEnvelope();

@@ -5,6 +5,8 @@
 #include "Pieces.h"
 #include "SurroundSettings.h"
 
+#include "host/SysCarto/elements/Placement.h"
+
 #include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>
 #include <SysDisplay/SimpleLineSymbol.h>
@@ -140,8 +142,12 @@ void Graticule::Draw(QPainter& painter, _ptr_t<SysUI::TrackerCancel> const& canc
   }
 }
 
-double Graticule::GetMargin() const {
-  return d->settings.labelled ? labelGapPt + d->labelSymbol()->bounds(QStringLiteral("0°")).height() : 0;
+_ptr_t<SysGeometry::Geometry> Graticule::GetBoundary(_ptr_t<DisplayTransformation> const& transformation,
+                                                     MapFrameElement const& frame) const {
+  auto const area = make<Envelope>();
+  for (auto const& element : d->elementsFor(*frame.GetMap(), *frame.GetEnvelope()))
+    include(*area, element->GetBoundary(transformation));
+  return area;
 }
 
 _ptr_t<IMapGrid> Graticule::Clone() const { return make<Graticule>(*this); }

@@ -208,7 +208,7 @@ ScaleLine::~ScaleLine() = default;
 
 QList<_ptr_t<Element>> ScaleLine::GetElements() {
   if (!hasPlace()) return {};
-  double const metresPerCm = GetMap()->GetDisplayTransformation()->GetMapScale() / 100;
+  double const metresPerCm = GetMap()->scale() / 100;
   BarLayout layout(rectangle(), d->textSymbol(), d->settings.heightPt);
   auto const bar = layout.fit(metresPerCm, d->settings.unit);
   if (!bar) return {};

@@ -43,7 +43,7 @@ ScaleText::~ScaleText() = default;
 
 // In the middle of the frame, and smaller where it would not fit.
 QList<_ptr_t<Element>> ScaleText::GetElements() {
-  double const scale = hasPlace() ? GetMap()->GetDisplayTransformation()->GetMapScale() : 0;
+  double const scale = hasPlace() ? GetMap()->scale() : 0;
   if (!(scale > 0) || !std::isfinite(scale)) return {};
   QString text = d->settings.pattern;
   text.replace(QLatin1String("%1"), grouped(roundedTo(scale, digits)));

@@ -81,8 +81,10 @@ protected:
   /// Shows an extent without entering it in the history. Called by `SetExtent` and by the history.
   virtual void applyExtent(SysGeometry::Envelope const& extent);
 
-private:
+  /// The same, and again for each other frame that the view is given.
   void show(SysGeometry::Envelope const& extent);
+
+private:
   void followFrame();
 
   struct Private;

@@ -18,7 +18,9 @@ public:
   void Draw(QPainter& painter, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
             SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
             SysUtility::_ptr_t<MapFrameElement> const& frame) override;
-  double GetMargin() const override;
+  SysUtility::_ptr_t<SysGeometry::Geometry> GetBoundary(
+      SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+      MapFrameElement const& frame) const override;
   SysUtility::_ptr_t<IMapGrid> Clone() const override;
   QString problemOn(MapFrameElement const& frame) const override;
 

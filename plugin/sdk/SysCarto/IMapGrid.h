@@ -25,8 +25,11 @@ public:
                     SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
                     SysUtility::_ptr_t<MapFrameElement> const& frame) = 0;
 
-  /// How far the grid's labels reach outside the frame, in points.
-  virtual double GetMargin() const = 0;
+  /// What the grid of `frame` covers when drawn, labels included: an envelope in page units, an empty one where nothing
+  /// is drawn.
+  virtual SysUtility::_ptr_t<SysGeometry::Geometry> GetBoundary(
+      SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+      MapFrameElement const& frame) const = 0;
   virtual SysUtility::_ptr_t<IMapGrid> Clone() const = 0;
 
   // Beyond what the commands of a plug-in need.

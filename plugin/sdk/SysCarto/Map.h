@@ -49,8 +49,16 @@ public:
   /// The bounds as they were set, before they are fitted to the frame; a document stores these.
   SysGeometry::Envelope GetStoredBounds() const;
 
-  /// The size of the data frame on paper, told by the frame that is on the page.
+  /// The denominator of the scale; 0 for a map without layers, whose extent means nothing.
+  double scale() const;
+
+  // Told by the data frames that are on a page: the size on paper, and that one comes or goes.
   void setFrameSize(double widthCm, double heightCm);
+  void enterFrame();
+  void leaveFrame();
+
+  /// Whether a data frame on a page shows the map.
+  bool isFramed() const;
 
   /// When the map, a layer or a graphic of it was last changed outside the history's steps (`ChangeMark`).
   quint64 lastChange() const;

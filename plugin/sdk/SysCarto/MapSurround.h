@@ -27,7 +27,7 @@ public:
   ~MapSurround() override;
 
   /// Plain graphic elements in page centimetres that draw the surround as it is now, laid out in its frame: new
-  /// objects, the caller's. An unbound surround answers none.
+  /// objects, the caller's. A surround without a map answers none, nor does one whose map no data frame shows.
   virtual QList<SysUtility::_ptr_t<Element>> GetElements() = 0;
 
   /// Ties the surround to a map; an empty pointer unties it.
@@ -52,7 +52,7 @@ protected:
   explicit MapSurround(int kind);
   MapSurround(MapSurround const&);
 
-  /// Whether there is a map to explain and a rectangle to do it in.
+  /// Whether there is a map on the page to explain and a rectangle to do it in.
   bool hasPlace() const;
 
 private:
@@ -77,7 +77,8 @@ private:
   std::unique_ptr<Private> d;
 };
 
-/// A bar of round lengths of ground, as long as its frame allows. True at the map's centre, as is the map's scale.
+/// A bar of round lengths of ground, as long as its frame allows. True at the map's centre, as is the map's scale; a
+/// map without layers has none.
 class SYSCARTO_EXPORT ScaleLine final : public MapSurround {
 public:
   ScaleLine();

@@ -42,8 +42,9 @@ public:
   virtual void ZoomToRatio(double ratio);
   virtual void ZoomToWholePage();
 
-  /// Gives the layout's data frames these maps, paired by order, and rebinds the surrounds. A data frame left over
-  /// keeps its place with an empty map; for a map left over a data frame is added.
+  /// Gives the layout's data frames these maps, paired by order, and rebinds the surrounds; those of a map that no data
+  /// frame showed follow none. A data frame left over keeps its place with an empty map, and gives the focus to the
+  /// first map with layers; for a map left over a data frame is added.
   virtual void ReplaceMaps(QList<SysUtility::_ptr_t<Map>> const& maps);
 
   SysUtility::_ptr_t<Map> GetFocusMap() const override;
@@ -53,6 +54,10 @@ public:
   IElementContainer* GetGraphicsContainer() const override;
 
   // Beyond what the commands of a plug-in need.
+
+  /// Takes the place of a layout whose maps it was given: where the focus is open, it stays where it was there, and
+  /// surrounds whose map no data frame shows follow the focus map.
+  void succeed(PageLayout const& former);
 
   /// Gives the layout a page; an empty pointer takes it away.
   void SetPage(SysUtility::_ptr_t<Page> const& page);

@@ -1,5 +1,8 @@
 #include "LayoutHook.h"
 
+#include "host/SysCarto/layers/VectorLayer.h"
+#include "host/SysCarto/layout/Placement.h"
+
 #include <SysCarto/PageLayout.h>
 #include <SysDisplay/SimpleLineSymbol.h>
 
@@ -203,17 +206,47 @@ private slots:
     QList<_ptr_t<Map>> former, given, present;
     for (int i = 0; i < frames; ++i) former << addFrame(*layout)->GetMap();
     for (int i = 0; i < maps; ++i) given << make<Map>();
-    auto const bound = addLegend(*layout, former.value(0)), unbound = addLegend(*layout, nullptr);
+    auto const bound = addLegend(*layout, former.value(0)), stray = addLegend(*layout, make<Map>());
     layout->SetFocusMap(former.value(frames - 1));
     layout->ReplaceMaps(given + QList<_ptr_t<Map>>{nullptr, given[0]});
     layout->GetMaps(present);
     QCOMPARE(present.size(), std::max(frames, maps));
     QVERIFY(present.mid(0, maps) == given);
     for (auto const& map : former) QVERIFY(!present.contains(map));
-    QVERIFY(!unbound->GetMap());
-    if (frames > 0) {
-      QVERIFY(bound->GetMap() == given[0]);
-      QVERIFY(layout->GetFocusMap() == present[frames - 1]);
+    QVERIFY(!stray->GetMap());
+    if (frames > 0) QVERIFY(bound->GetMap() == given[0]);
+    if (frames > 0) QVERIFY(layout->GetFocusMap() == given.value(frames - 1, given[0]));
+  }
+
+  void aLayoutThatTakesAnothersPlaceExplainsItsFocusMap() {
+    auto const former = newLayout(), next = newLayout();
+    addFrame(*former);
+    former->SetFocusMap(addFrame(*former)->GetMap());
+    auto const stray = addLegend(*next, make<Map>()), unbound = addLegend(*next, nullptr);
+    QList<_ptr_t<Map>> maps;
+    former->GetMaps(maps);
+    next->ReplaceMaps(maps);
+    next->succeed(*former);
+    QVERIFY(next->GetFocusMap() == maps[1]);
+    QVERIFY(stray->GetMap() == maps[1] && unbound->GetMap() == maps[1]);
+  }
+
+  void theFocusLeavesANewEmptyMap() {
+    auto const layout = newLayout();
+    addFrame(*layout), addFrame(*layout);
+    layout->SetFocusMap(addFrame(*layout)->GetMap());
+    auto const full = make<Map>();
+    full->AddLayer(make<VectorLayer>(makeSimpleRenderer(make<SysDisplay::SimpleLineSymbol>())));
+    layout->ReplaceMaps({make<Map>(), full});
+    QVERIFY(layout->GetFocusMap() == full);
+  }
+
+  void withoutAPageSymbolsHaveTheirSizeOnPaper() {
+    auto const layout = make<PageLayout>();
+    for (QRect const& frame : {layout->GetDisplayTransformation()->GetDeviceFrame(), QRect(0, 0, 300, 700)}) {
+      layout->GetDisplayTransformation()->SetDeviceFrame(frame);
+      layout->Refresh(0, false);
+      QVERIFY(near(worldPerPoint(*layout->GetDisplayTransformation()), 2.54 / 72));
     }
   }
 };

@@ -75,6 +75,11 @@ private slots:
          {QRect(middleX - 5, framePx.bottom() + 3, 10, 12), QRect(middleX - 5, framePx.top() - 15, 10, 12),
           QRect(framePx.left() - 15, middleY - 5, 12, 10), QRect(framePx.right() + 3, middleY - 5, 12, 10)})
       QVERIFY(!isBlank(image, place));
+
+    // Where only a meridian is labelled, nothing stands beside the frame.
+    auto const upright = frameWith("EPSG:4326", Envelope(-25, 5, 25, 45), {{"interval", 90}});
+    QRectF const covers = rectOf(*upright->GetBoundary(page.transformation())->GetEnvelope());
+    QVERIFY(covers.left() == 1 && covers.right() == 11 && covers.top() < 0.8 && covers.bottom() > 9.2);
   }
 
   void everyLineHasItsLabel_data() {

@@ -6,11 +6,12 @@
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysUtility/JsonFields.h"
 
-/// A map of a part of the world, in a data frame of a size.
+/// A map of a part of the world, in a data frame of a size that is on a page.
 inline _ptr_t<SysCarto::Map> mapShowing(QString const& system, SysGeometry::Envelope const& bounds, double widthCm,
                                         double heightCm) {
   auto const map = make<SysCarto::Map>();
   map->SetCoordinateSystem(system);
+  map->enterFrame();
   map->setFrameSize(widthCm, heightCm);
   map->SetExtent(make<SysGeometry::Envelope>(bounds));
   return map;

@@ -5,6 +5,8 @@
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 
+#include <SysCarto/PageLayout.h>
+
 #include <geodesic.h>
 #include <ogr_spatialref.h>
 
@@ -27,6 +29,12 @@ void addLayer(Map& map, QString const& name, _ptr_t<SysDisplay::Symbol> const& s
   auto const layer = make<VectorLayer>(makeSimpleRenderer(symbol, label));
   layer->SetName(name);
   map.AddLayer(layer);
+}
+
+_ptr_t<Map> mapWithLayer(QString const& system, double x, double y, double unitsPerCm) {
+  auto const map = mapOf(system, x, y, unitsPerCm);
+  addLayer(*map, "Land", make<SysDisplay::SimpleFillSymbol>());
+  return map;
 }
 
 template <class Surround>
@@ -96,7 +104,7 @@ private slots:
   void aScaleBarIsAsLongAsTheGroundSays() {
     auto const [system, x, y, unitsPerCm, settings, last, metres] =
         fetched<QString, double, double, double, QByteArray, QString, double>();
-    auto const map = mapOf(system, x, y, unitsPerCm);
+    auto const map = mapWithLayer(system, x, y, unitsPerCm);
     auto const frame = framed<ScaleLine>(map, whole, settings);
     double left = INFINITY, right = -INFINITY;
     for (auto const& element : frame->GetMapSurround()->GetElements())
@@ -119,7 +127,7 @@ private slots:
   }
 
   void textAndBarFollowTheMap() {
-    auto const map = mapOf("EPSG:32634", 500000, 4200000, 250);
+    auto const map = mapWithLayer("EPSG:32634", 500000, 4200000, 250);
     auto const text = framed<ScaleText>(map, whole), bar = framed<ScaleLine>(map, whole);
     QCOMPARE(textsOf(*text), QStringList("1:25,010"));  // UTM draws the ground at its middle smaller, by 0.9996
     QString const before = textsOf(*bar).last();
@@ -138,13 +146,13 @@ private slots:
 
   void aScaleTextIsWrittenAsAsked() {
     auto const [unitsPerCm, settings, text] = fetched<double, QByteArray, QString>();
-    QCOMPARE(textsOf(*framed<ScaleText>(mapOf("", 0, 0, unitsPerCm), whole, settings)), QStringList(text));
+    QCOMPARE(textsOf(*framed<ScaleText>(mapWithLayer("", 0, 0, unitsPerCm), whole, settings)), QStringList(text));
   }
 
   void theNumbersFollowTheUsersLanguage() {
     QLocale::setDefault(QLocale(QLocale::German));
     auto const restored = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
-    QCOMPARE(textsOf(*framed<ScaleText>(mapOf("", 0, 0, 25000), whole)), QStringList("1:2.500.000"));
+    QCOMPARE(textsOf(*framed<ScaleText>(mapWithLayer("", 0, 0, 25000), whole)), QStringList("1:2.500.000"));
   }
 
   void aLegendListsWhatTheMapShows() {
@@ -207,7 +215,8 @@ private slots:
 
   void aScaleBarFitsAFlatFrame() {
     Envelope const rectangle(0, 5, 10, 5.2);
-    for (auto const& element : framed<ScaleLine>(mapOf("", 0, 0, 1000), rectangle)->GetMapSurround()->GetElements())
+    for (auto const& element :
+         framed<ScaleLine>(mapWithLayer("", 0, 0, 1000), rectangle)->GetMapSurround()->GetElements())
       QVERIFY(isWithin(placeOf(*element), rectOf(rectangle), 0.01));
   }
 
@@ -262,6 +271,29 @@ private slots:
     QVERIFY(ink(image).pixels > 0);
     for (int y = 0; y < image.height(); ++y)
       for (int x = 0; x < image.width(); ++x) QVERIFY(image.pixelColor(x, y).lightness() > 130);
+  }
+
+  void aMapWithoutLayersHasNoScale() {
+    auto const map = mapOf("", 0, 0, 1000);
+    QCOMPARE(framed<ScaleText>(map, whole)->GetMapSurround()->GetElements().size(), 0);
+    QCOMPARE(framed<ScaleLine>(map, whole)->GetMapSurround()->GetElements().size(), 0);
+  }
+
+  void aSurroundFollowsAMapAsLongAsADataFrameShowsIt() {
+    PageLayout layout;
+    auto const shown = frameNamed("Shown");
+    addLayer(*shown->GetMap(), "Land", make<SysDisplay::SimpleFillSymbol>());
+    auto const legend = framed<Legend>(shown->GetMap(), whole);
+    layout.GetGraphicsContainer()->AddElement(shown);
+    QCOMPARE(textsOf(*legend), QStringList({"Legend", "Land"}));
+    layout.GetGraphicsContainer()->ReplaceElement(shown->GetHandle(), shown->Clone());
+    QCOMPARE(textsOf(*legend).size(), 2);
+    layout.GetGraphicsContainer()->DeleteElement(layout.GetFocusMapFrameElement());
+    QCOMPARE(textsOf(*legend), QStringList());
+    layout.GetGraphicsContainer()->AddElement(shown);
+    QCOMPARE(textsOf(*legend).size(), 2);
+    shown->SetMap(make<Map>());
+    QCOMPARE(textsOf(*legend), QStringList());
   }
 
   void aPatternWithoutAPlaceForTheScaleIsRefused() {
