@@ -986,6 +986,14 @@
         <source>Map: %1, scale 1:%2, extent %3</source>
         <translation>Karte: %1, Maßstab 1:%2, Ausdehnung %3</translation>
     </message>
+    <message>
+        <source> (focus)</source>
+        <translation> (Fokus)</translation>
+    </message>
+    <message>
+        <source>Map: %1, no layers</source>
+        <translation>Karte: %1, ohne Layer</translation>
+    </message>
 </context>
 <context>
     <name>DocumentSession</name>
@@ -2868,13 +2876,6 @@
     </message>
 </context>
 <context>
-    <name>PagePicture</name>
-    <message>
-        <source>No map</source>
-        <translation>Keine Karte</translation>
-    </message>
-</context>
-<context>
     <name>Paper</name>
     <message>
         <source>Custom</source>
@@ -3022,6 +3023,10 @@
     <message>
         <source>the focus map has no layer &quot;%1&quot;; it has: %2.</source>
         <translation>die Karte im aktiven Datenrahmen hat keinen Layer „%1“; sie hat: %2.</translation>
+    </message>
+    <message>
+        <source>no map is named &quot;%1&quot;; plotvane info lists maps and handles, and #12 is the map of the data frame with handle 12.</source>
+        <translation>keine Karte heißt „%1“; plotvane info zeigt Karten und Kennungen, und #12 ist die Karte des Datenrahmens mit der Kennung 12.</translation>
     </message>
 </context>
 <context>
@@ -3442,6 +3447,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Other</source>
         <translation>Sonstige</translation>
+    </message>
+    <message>
+        <source>Click to work on this map</source>
+        <translation>Klicken, um an dieser Karte zu arbeiten</translation>
     </message>
 </context>
 </TS>

@@ -986,6 +986,14 @@
         <source>Map: %1, scale 1:%2, extent %3</source>
         <translation>地图：%1，比例尺 1:%2，范围 %3</translation>
     </message>
+    <message>
+        <source> (focus)</source>
+        <translation> (焦点)</translation>
+    </message>
+    <message>
+        <source>Map: %1, no layers</source>
+        <translation>地图：%1，无图层</translation>
+    </message>
 </context>
 <context>
     <name>DocumentSession</name>
@@ -2868,13 +2876,6 @@
     </message>
 </context>
 <context>
-    <name>PagePicture</name>
-    <message>
-        <source>No map</source>
-        <translation>无地图</translation>
-    </message>
-</context>
-<context>
     <name>Paper</name>
     <message>
         <source>Custom</source>
@@ -3022,6 +3023,10 @@
     <message>
         <source>the focus map has no layer &quot;%1&quot;; it has: %2.</source>
         <translation>活动数据框的地图没有图层“%1”；现有图层：%2。</translation>
+    </message>
+    <message>
+        <source>no map is named &quot;%1&quot;; plotvane info lists maps and handles, and #12 is the map of the data frame with handle 12.</source>
+        <translation>没有名为“%1”的地图；plotvane info 列出地图和句柄，#12 表示句柄为 12 的数据框中的地图。</translation>
     </message>
 </context>
 <context>
@@ -3442,6 +3447,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Other</source>
         <translation>其他</translation>
+    </message>
+    <message>
+        <source>Click to work on this map</source>
+        <translation>单击以处理此地图</translation>
     </message>
 </context>
 </TS>

@@ -72,6 +72,19 @@ public:
   _ptr_t<Layer> const layer;
 };
 
+class MapItem final : public QTreeWidgetItem {
+public:
+  explicit MapItem(_ptr_t<Map> const& map) : map(map) { setText(0, map->GetName()); }
+  void setFocused(bool on) {
+    QFont font = this->font(0);
+    if (font.bold() == on) return;
+    font.setBold(on);
+    setFont(0, font);
+    setToolTip(0, on ? QString() : TOCControl::tr("Click to work on this map"));
+  }
+  _ptr_t<Map> const map;
+};
+
 // One symbol stands beside the layer's name; several have a row each. A layer that could not be read has a sign.
 void addSymbols(QTreeWidgetItem& item, Layer const& layer, double devicePixelRatio) {
   auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(&layer);
@@ -113,6 +126,10 @@ TOCControl::TOCControl(QWidget* parent) : QWidget(parent), d(std::make_unique<Pr
     bool const isOn = item->checkState(0) == Qt::Checked;
     if (row) SysCarto::MapSteps::setVisible(*row->layer, isOn);
   });
+  for (auto const chosen : {&QTreeWidget::itemClicked, &QTreeWidget::itemActivated})
+    connect(d->tree, chosen, this, [this](QTreeWidgetItem* item) {
+      if (auto const* const row = dynamic_cast<MapItem*>(item)) emit MapChosen(row->map);
+    });
 }
 
 TOCControl::~TOCControl() = default;
@@ -124,10 +141,8 @@ void TOCControl::SetBuddy(SysCarto::IKdxContents* contents) {
   QList<_ptr_t<Map>> maps;
   if (layout) layout->GetMaps(maps);
   for (auto const& map : qAsConst(maps)) {
-    auto* const mapItem = new QTreeWidgetItem(d->tree, {map->GetName()});
-    QFont font = mapItem->font(0);
-    font.setBold(true);
-    mapItem->setFont(0, font);
+    auto* const mapItem = new MapItem(map);
+    d->tree->addTopLevelItem(mapItem);
     mapItem->setExpanded(true);
     for (int i = map->GetLayerCount() - 1; i >= 0; --i) {  // what is drawn last lies on top
       auto* const item = new LayerItem(map->GetLayer(i));
@@ -139,6 +154,13 @@ void TOCControl::SetBuddy(SysCarto::IKdxContents* contents) {
     auto* const empty = new QTreeWidgetItem(d->tree, {tr("No maps on this page")});
     empty->setFlags(Qt::NoItemFlags);
   }
+  ShowFocus(layout ? layout->GetFocusMap() : nullptr);
+}
+
+void TOCControl::ShowFocus(_ptr_t<Map> const& map) {
+  QSignalBlocker const quiet(d->tree);
+  for (int i = 0; i < d->tree->topLevelItemCount(); ++i)
+    if (auto* const item = dynamic_cast<MapItem*>(d->tree->topLevelItem(i))) item->setFocused(item->map == map);
 }
 
 void TOCControl::Refresh() {

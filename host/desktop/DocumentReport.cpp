@@ -98,11 +98,12 @@ QJsonObject layerJson(_ptr_t<Layer> const& layer) {
                      {QStringLiteral("visible"), layer->IsVisible()}};
 }
 
-QJsonObject mapJson(_ptr_t<Map> const& map) {
+QJsonObject mapJson(_ptr_t<Map> const& map, bool hasFocus) {
   QJsonArray layers;
   for (auto const& layer : map->GetLayers()) layers.append(layerJson(layer));
   return QJsonObject{{QStringLiteral("name"), map->GetName()},
-                     {QStringLiteral("scale"), map->GetDisplayTransformation()->GetMapScale()},
+                     {QStringLiteral("focus"), hasFocus},
+                     {QStringLiteral("scale"), map->scale()},
                      {QStringLiteral("extent"), rectangle(map->GetExtent())},
                      {QStringLiteral("layers"), layers}};
 }
@@ -186,9 +187,11 @@ QString ReportText::map(QJsonObject const& map) {
                  layer[QStringLiteral("visible")].toBool() ? tr("shown") : tr("hidden"),
                  layer[QStringLiteral("name")].toString()});
   }
+  QString name = map[QStringLiteral("name")].toString();
+  if (map[QStringLiteral("focus")].toBool()) name += tr(" (focus)");
+  if (rows.isEmpty()) return tr("Map: %1, no layers").arg(name) + QLatin1Char('\n');
   return tr("Map: %1, scale 1:%2, extent %3")
-             .arg(map[QStringLiteral("name")].toString(),
-                  QString::number(map[QStringLiteral("scale")].toDouble(), 'f', 0),
+             .arg(name, QString::number(map[QStringLiteral("scale")].toDouble(), 'f', 0),
                   formatted(map[QStringLiteral("extent")], 3)) +
          QLatin1Char('\n') + table(rows);
 }
@@ -199,8 +202,8 @@ QJsonObject documentJson(SysCarto::MapDocument const& document) {
   QList<_ptr_t<Map>> maps;
   document.GetMaps(maps);
   QJsonArray mapList;
-  for (auto const& map : maps) mapList.append(mapJson(map));
   auto const layout = document.GetPageLayout();
+  for (auto const& map : maps) mapList.append(mapJson(map, map == layout->GetFocusMap()));
   return QJsonObject{
       {QStringLiteral("page"), layout ? pageJson(layout->GetPage()) : QJsonValue(QJsonValue::Null)},
       {QStringLiteral("elements"), elementsJson(layout ? layout->GetGraphicsContainer() : nullptr)},

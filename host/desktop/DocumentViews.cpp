@@ -38,6 +38,15 @@ void DocumentViews::show(Kind kind) {
   emit changed();
 }
 
+void DocumentViews::focusOn(_ptr_t<SysCarto::Map> const& map) {
+  auto const layout = document_.GetPageLayout();
+  if (!layout || layout->GetFocusMap() == map) return;
+  layout->SetFocusMap(map);
+  mapView_->setLayout(layout);
+  layoutView_->update();
+  emit changed();
+}
+
 _ptr_t<SysCarto::ActiveView> DocumentViews::activeView() const {
   if (kind() == Kind::Layout) return document_.GetPageLayout();
   return mapView_->map();

@@ -31,7 +31,11 @@ public:
   Kind kind() const { return static_cast<Kind>(currentIndex()); }
   void show(Kind kind);
 
-  /// Empty where the document has no page, or the map view is shown and there is no map.
+  /// Makes the map the one that insertion and the map view work on. Like every change of the focus it is no step of
+  /// undo.
+  void focusOn(SysUtility::_ptr_t<SysCarto::Map> const& map);
+
+  /// Empty where the document has no layout, or the map view is shown and there is no map.
   SysUtility::_ptr_t<SysCarto::ActiveView> activeView() const;
   LayoutView& layoutView() { return *layoutView_; }
   MapView& mapView() { return *mapView_; }

@@ -2,6 +2,8 @@
 
 #include "SelectionHandles.h"
 
+#include <SysCarto/Map.h>
+
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -14,7 +16,29 @@ using SysUtility::_ptr_t;
 namespace {
 
 constexpr double scrollPerStepPx = 60;
+constexpr double markGapPx = 6, markLengthPx = 14;                     // beyond the handles of a selection
 constexpr double largestPageScale = 100, smallestPageScale = 0.03451;  // as far as the zoom tools go
+
+// Brackets about the corners of the data frame with the focus, where it is one of several.
+void paintFocusMark(QPainter& painter, PageLayout const& layout) {
+  QList<_ptr_t<SysCarto::Map>> maps;
+  layout.GetMaps(maps);
+  if (maps.size() < 2) return;
+  auto const frame = layout.GetFocusMapFrameElement()->GetEnvelope();
+  QRectF const place = layout.GetDisplayTransformation()
+                           ->ToDevice()
+                           .mapRect(QRectF(frame->GetXMin(), frame->GetYMin(), frame->GetWidth(), frame->GetHeight()))
+                           .adjusted(-markGapPx, -markGapPx, markGapPx, markGapPx);
+  painter.save();
+  painter.setPen(QPen(QColor(0x1a, 0x73, 0xe8, 170), 2, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+  for (int const x : {-1, 1})
+    for (int const y : {-1, 1}) {
+      QPointF const corner = place.center() + QPointF(x * place.width() / 2, y * place.height() / 2);
+      QPointF const level(x * markLengthPx, 0), upright(0, y * markLengthPx);
+      painter.drawPolyline(QPolygonF({corner - level, corner, corner - upright}));
+    }
+  painter.restore();
+}
 
 }  // namespace
 
@@ -78,7 +102,9 @@ QRectF LayoutView::placeOfPicture() const {
 }
 
 void LayoutView::paintOver(QPainter& painter) {
-  if (layout_) SelectionHandles(*layout_).paint(painter);
+  if (!layout_) return;
+  paintFocusMark(painter, *layout_);
+  SelectionHandles(*layout_).paint(painter);
 }
 
 // Undo and redo, and the tool's own keys, reach the tool before a menu takes them for a shortcut.
@@ -125,6 +151,7 @@ void LayoutView::mouseReleaseEvent(QMouseEvent* event) {
 void LayoutView::mouseDoubleClickEvent(QMouseEvent* event) {
   mousePressEvent(event);
   if (tool_ && layout_) tool_->OnDblClick(event);
+  emit viewChanged();
 }
 
 void LayoutView::wheelEvent(QWheelEvent* event) {

@@ -179,6 +179,7 @@ void MainWindow::buildContents() {
   companion_ = std::make_unique<Companion>(*contents_);
   bench_.views().setCompanion(companion_.get());
   bench_.desktop().setTableOfContents(contents_);
+  connect(contents_, &SysAdapterUI::TOCControl::MapChosen, &bench_.views(), &DocumentViews::focusOn);
 }
 
 void MainWindow::buildStatusBar() {
@@ -238,7 +239,8 @@ void MainWindow::showState() {
   }
   auto const layout = bench_.views().GetPageLayout();
   auto const map = layout ? layout->GetFocusMap() : nullptr;
-  double const denominator = map && map->GetLayerCount() > 0 ? map->GetDisplayTransformation()->GetMapScale() : 0;
+  contents_->ShowFocus(map);
+  double const denominator = map ? map->scale() : 0;
   auto const frame = layout ? layout->GetFocusMapFrameElement() : nullptr;
   scale_->setEnabled(denominator > 0 && frame && !frame->IsLocked());
   if (!scale_->isModified())

@@ -7,6 +7,8 @@
 
 #include "host/SysCarto/maps/MapSteps.h"
 
+#include <SysCarto/Map.h>
+
 #include <QApplication>
 #include <QJsonDocument>
 #include <QMouseEvent>
@@ -41,6 +43,11 @@ bool isInCatalogue(QString const& identifier) {
   });
 }
 
+// By name, or by handle as in #12.
+bool isCalled(SysCarto::Element const& element, QString const& name) {
+  return element.GetName() == name || name == QStringLiteral("#%1").arg(element.GetHandle());
+}
+
 bool isPoint(QString const& text) { return numbersIn(text).size() == 2; }
 bool areTwoPoints(QString const& text) { return numbersIn(text).size() == 4; }
 bool isScale(QString const& text) { return scaleDenominatorOf(text).has_value(); }
@@ -69,6 +76,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("undo"),       {},                   nullptr,      &RunSteps::click,   text("Host_Undo")},
       {text("redo"),       {},                   nullptr,      &RunSteps::click,   text("Host_Redo")},
       {text("view"),       text("layout|map"),   isView,       &RunSteps::show,    {}},
+      {text("focus"),      text("NAME"),         isAnything,   &RunSteps::focus,   {}},
       {text("click"),      text("X,Y"),          isPoint,      &RunSteps::clickAt, {}},
       {text("drag"),       text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::drag,    {}},
       {text("scale"),      text("1:N"),          isScale,      &RunSteps::setScale, {}},
@@ -150,7 +158,6 @@ QString RunSteps::click(QString const& identifier) {
   return problem.isEmpty() ? failure : problem + QLatin1Char('.');
 }
 
-// By name, or by handle as in #12.
 QString RunSteps::select(QString const& names) {
   auto const view = bench_.desktop().GetActiveView();
   auto* const container = view ? view->GetGraphicsContainer() : nullptr;
@@ -159,7 +166,7 @@ QString RunSteps::select(QString const& names) {
   for (QString const& name : names.split(QLatin1Char(','))) {
     int const before = chosen.size();
     for (auto const& element : container->GetElements())
-      if (element->GetName() == name || name == QStringLiteral("#%1").arg(element->GetHandle())) chosen << element;
+      if (isCalled(*element, name)) chosen << element;
     if (chosen.size() == before)
       return tr("no element is named \"%1\"; plotvane info lists names and handles, and #12 is the one with handle 12.")
           .arg(name);
@@ -171,6 +178,18 @@ QString RunSteps::select(QString const& names) {
 
 QString RunSteps::show(QString const& view) {
   return click(view == QLatin1String("map") ? QStringLiteral("Host_MapView") : QStringLiteral("Host_LayoutView"));
+}
+
+QString RunSteps::focus(QString const& name) {
+  for (auto const& element : bench_.views().GetPageLayout()->GetGraphicsContainer()->GetElements()) {
+    auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element);
+    if (!frame || (frame->GetMap()->GetName() != name && !isCalled(*frame, name))) continue;
+    bench_.views().focusOn(frame->GetMap());
+    return QString();
+  }
+  return tr("no map is named \"%1\"; plotvane info lists maps and handles, and #12 is the map of the data frame with "
+            "handle 12.")
+      .arg(name);
 }
 
 QString RunSteps::clickAt(QString const& point) {

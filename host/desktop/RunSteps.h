@@ -38,6 +38,7 @@ private:
   QString click(QString const& identifier);
   QString select(QString const& names);
   QString show(QString const& view);
+  QString focus(QString const& name);
   QString clickAt(QString const& point);
   QString drag(QString const& points);
   QString setScale(QString const& scale);

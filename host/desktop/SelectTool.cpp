@@ -1,5 +1,6 @@
 #include "SelectTool.h"
 
+#include <SysCarto/Map.h>
 #include <SysFramework/HostAccess.h>
 
 #include <QCoreApplication>
@@ -22,8 +23,8 @@ QPointF pageOf(PageLayout const& layout, QPoint const& pixel) {
   return layout.GetDisplayTransformation()->ToDevice().inverted().map(QPointF(pixel));
 }
 
-// The topmost one; empty where there is none that may be touched.
-_ptr_t<Element> elementAt(PageLayout const& layout, QPoint const& pixel) {
+// The topmost one; empty where there is none.
+_ptr_t<Element> elementAt(PageLayout const& layout, QPoint const& pixel, bool mayBeLocked = false) {
   QPointF const point = pageOf(layout, pixel);
   double const reach = reachPx / layout.GetDisplayTransformation()->ToDevice().m11();
   auto const elements = layout.GetGraphicsContainer()->GetElements();
@@ -31,8 +32,9 @@ _ptr_t<Element> elementAt(PageLayout const& layout, QPoint const& pixel) {
     auto const box = element->GetType() == SysCarto::ElementType::Marker
                          ? element->GetBoundary(layout.GetDisplayTransformation())->GetEnvelope()
                          : element->GetEnvelope();
-    return !isLocked(*element) && point.x() >= box->GetXMin() - reach && point.x() <= box->GetXMax() + reach &&
-           point.y() >= box->GetYMin() - reach && point.y() <= box->GetYMax() + reach;
+    return (mayBeLocked || !isLocked(*element)) && point.x() >= box->GetXMin() - reach &&
+           point.x() <= box->GetXMax() + reach && point.y() >= box->GetYMin() - reach &&
+           point.y() <= box->GetYMax() + reach;
   };
   auto const hit = std::find_if(elements.crbegin(), elements.crend(), isHit);
   return hit == elements.crend() ? nullptr : *hit;
@@ -131,6 +133,16 @@ void SelectTool::OnMouseUp(QMouseEvent* event) {
   gesture->finish();
   clicked_ = nullptr;
   layout_ = nullptr;
+}
+
+// A lock keeps a frame where it is and what it shows; the focus changes neither.
+void SelectTool::OnDblClick(QMouseEvent* event) {
+  auto const layout = SysFramework::activePageLayout(*hook());
+  if (!layout || event->button() != Qt::LeftButton) return;
+  auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(elementAt(*layout, event->pos(), true));
+  if (!frame) return;
+  layout->SetFocusMap(frame->GetMap());
+  showSelection(*layout);
 }
 
 // Everything is as it was before the button went down.

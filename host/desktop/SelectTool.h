@@ -7,7 +7,8 @@
 #include <memory>
 
 /// The host's tool for arranging a page by hand: click and Shift-click select, a drag moves, resizes by a handle or
-/// spans a rubber band; arrow keys nudge, Escape puts back what a gesture began.
+/// spans a rubber band; a double click gives a data frame the focus; arrow keys nudge, Escape puts back what a gesture
+/// began.
 class SelectTool final : public SysFramework::BaseTool {
 public:
   SelectTool();
@@ -18,6 +19,7 @@ public:
   void OnMouseDown(QMouseEvent* event) override;
   void OnMouseMove(QMouseEvent* event) override;
   void OnMouseUp(QMouseEvent* event) override;
+  void OnDblClick(QMouseEvent* event) override;
   void JustMouseMove(QMouseEvent* event) override;
   void OnKeyDown(QKeyEvent* event) override;
   void OnEnterEvent(QEvent* event) override;

@@ -9,7 +9,8 @@
 
 namespace SysAdapterUI {
 
-/// The table of contents: the maps of the contents that it is bound to, with their layers.
+/// The table of contents: the maps of the contents that it is bound to, with their layers. The name of the focus map is
+/// bold.
 class SYSADAPTERUI_EXPORT TOCControl : public QWidget {
   Q_OBJECT
 
@@ -22,6 +23,13 @@ public:
 
   /// Shows anew which layers are visible. A click on a layer's box is a step of the history, which may be taken back.
   void Refresh();
+
+  /// Shows which map has the focus now.
+  void ShowFocus(SysUtility::_ptr_t<SysCarto::Map> const& map);
+
+signals:
+  /// The user has chosen a map by its name.
+  void MapChosen(SysUtility::_ptr_t<SysCarto::Map> const& map);
 
 private:
   struct Private;
