@@ -1,6 +1,6 @@
 #include "PageGesture.h"
 
-#include "host/SysCarto/layout/TextElement.h"
+#include "host/SysCarto/elements/TextElement.h"
 
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>

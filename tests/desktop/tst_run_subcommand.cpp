@@ -49,6 +49,7 @@ private slots:
     row("the scale of a locked map", "Plotvane_LockDataFrame scale=1:5000", 1, "Plotvane_UnlockDataFrame");
     row("a layer that is not there", "hide=Roads", 1, "no layer \"Roads\"");
     row("no scale", "scale=1:0", 2, "scale=1:N");
+    row("a map that is not on the page", "focus=Moon", 1, "no map is named \"Moon\"");
     row("nothing to undo", "undo", 1, "it needs a change to take back");
     row("an answer that no dialog takes", "answer=lineEdit_DPI:96", 1, "lineEdit_DPI");
     row("a folder that is not there", "save=none/out.kdx", 1, "none");
@@ -95,6 +96,14 @@ private slots:
     QCOMPARE(run(arguments + QStringList("--force"), folder_.path()).status, 0);
     QVERIFY(contentOf(folder_.path("two.kdx")) != before);
     put(folder_.path("two.kdx"), before);
+  }
+
+  void theFocusGoesToAMapByName() {
+    Outcome const outcome = run({"run", "two.kdx", "focus=Inset", "info"}, folder_.path());
+    QCOMPARE(outcome.err, QString());
+    auto const maps = QJsonDocument::fromJson(outcome.out.toUtf8()).object()["maps"].toArray();
+    QCOMPARE(maps.at(0)["focus"].toBool(), false);
+    QCOMPARE(maps.at(1)["focus"].toBool(), true);
   }
 
   void undoneWorkSavesTheSameFile() {

@@ -314,6 +314,28 @@ private slots:
     QCOMPARE(tree->topLevelItem(0)->childCount(), sample.document().GetMap(0)->GetLayerCount());
   }
 
+  void theFocusGoesToTheMapThatIsClicked() {
+    WorldWindow sample;
+    auto* const tree = sample.window.findChild<QTreeWidget*>("treeWidget_Contents");
+    sample.trigger("Plotvane_MapFrame");  // the new map has the focus
+    WorkbenchPage page(sample.window.bench());
+    auto const layout = page.layout();
+    auto const isBold = [tree](int map) { return tree->topLevelItem(map)->font(0).bold(); };
+    QCOMPARE(tree->topLevelItemCount(), 2);
+    QTRY_VERIFY(!isBold(0) && isBold(1));
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(tree->topLevelItem(0)).center());
+    QVERIFY(layout->GetFocusMap() == sample.document().GetMap(0));
+    QTRY_VERIFY(isBold(0) && !isBold(1));
+
+    sample.document().history()->setClean();
+    page.run("Plotvane_LockDataFrame");
+    auto const corner = layout->GetGraphicsContainer()->GetElements().last()->GetEnvelope();
+    QTest::mouseDClick(&page.view(), Qt::LeftButton, {}, page.pixel(corner->GetXMax() - 0.1, corner->GetYMin() + 0.1));
+    QVERIFY(layout->GetFocusMap() == sample.document().GetMap(1));
+    QTRY_VERIFY(isBold(1));
+    QVERIFY(sample.document().history()->isClean());
+  }
+
   void hidingALayerIsAStep() {
     WorldWindow sample;
     auto* const tree = sample.window.findChild<QTreeWidget*>("treeWidget_Contents");

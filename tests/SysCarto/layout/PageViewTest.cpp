@@ -1,7 +1,7 @@
 #include "LayoutHook.h"
 
-#include "host/SysCarto/layers/VectorLayer.h"
-#include "host/SysCarto/layout/Placement.h"
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysCarto/elements/Placement.h"
 
 #include <SysCarto/PageLayout.h>
 #include <SysDisplay/SimpleLineSymbol.h>
