@@ -175,7 +175,7 @@ void PageLayout::ReplaceMaps(QList<_ptr_t<Map>> const& maps) {
   };
   for (auto const& surround : d->surrounds()) surround->SetMap(presentOf(surround->GetMap()));
   _ptr_t<Map> const focus = presentOf(d->focus);
-  SetFocusMap(maps.contains(focus) ? focus : d->firstWithLayers());
+  SetFocusMap(!focus || maps.contains(focus) ? focus : d->firstWithLayers());
 }
 
 void PageLayout::succeed(PageLayout const& former) {

@@ -34,6 +34,8 @@ _ptr_t<MapSurround> addLegend(PageLayout& layout, _ptr_t<Map> const& map) {
   return frame->GetMapSurround();
 }
 
+void addLayer(Map& map) { map.AddLayer(make<VectorLayer>(makeSimpleRenderer(make<SysDisplay::SimpleLineSymbol>()))); }
+
 }  // namespace
 
 class PageViewTest : public QObject {
@@ -223,8 +225,10 @@ private slots:
     addFrame(*former);
     former->SetFocusMap(addFrame(*former)->GetMap());
     auto const stray = addLegend(*next, make<Map>()), unbound = addLegend(*next, nullptr);
+    next->SetFocusMap(stray->GetMap());
     QList<_ptr_t<Map>> maps;
     former->GetMaps(maps);
+    addLayer(*maps[0]);
     next->ReplaceMaps(maps);
     next->succeed(*former);
     QVERIFY(next->GetFocusMap() == maps[1]);
@@ -236,7 +240,7 @@ private slots:
     addFrame(*layout), addFrame(*layout);
     layout->SetFocusMap(addFrame(*layout)->GetMap());
     auto const full = make<Map>();
-    full->AddLayer(make<VectorLayer>(makeSimpleRenderer(make<SysDisplay::SimpleLineSymbol>())));
+    addLayer(*full);
     layout->ReplaceMaps({make<Map>(), full});
     QVERIFY(layout->GetFocusMap() == full);
   }
