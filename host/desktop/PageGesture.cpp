@@ -22,7 +22,7 @@ namespace {
 
 constexpr double dragPx = 3;        // a hand is not still
 constexpr double smallestCm = 0.1;  // that a drag makes of a side
-constexpr int maxOutlines = 200;   // more of them tell no more than one about them all
+constexpr int maxOutlines = 200;    // more of them tell no more than one about them all
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(PageGesture)
