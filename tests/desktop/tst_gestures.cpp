@@ -69,7 +69,7 @@ private slots:
     QRectF const before = page.place(*text);
     page.click(page.pixel(10, 15.5));
     page.drag(page.pixel(10, before.bottom()), page.pixel(10, before.bottom() + before.height()));
-    QVERIFY(page.isAbout(
+    QVERIFY(page.isAt(
         *text, QRectF(before.left() - before.width() / 2, before.top(), 2 * before.width(), 2 * before.height())));
   }
 

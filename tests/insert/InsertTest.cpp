@@ -43,7 +43,7 @@ public:
             _ptr_t<MapFrameElement> const&) override {}
   _ptr_t<SysGeometry::Geometry> GetBoundary(_ptr_t<SysDisplay::DisplayTransformation> const&,
                                             MapFrameElement const&) const override {
-    return make<Envelope>();
+    return make<SysGeometry::Envelope>();
   }
   _ptr_t<IMapGrid> Clone() const override { return make<OtherGrid>(*this); }
 };
