@@ -1,5 +1,6 @@
 #include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/TextElement.h"
+#include "host/desktop/MainWindow.h"
 #include "host/desktop/Session.h"
 #include "host/desktop/Workbench.h"
 
@@ -7,11 +8,13 @@
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QTextStream>
+#include <QUndoStack>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <memory>
 
 // What a person waits for at the window: the time of each frame while something moves on the page, and of a command on
 // many elements. Prints rows of a table.
@@ -19,17 +22,20 @@
 namespace {
 
 constexpr QSize viewSize(1600, 1000);
-constexpr int frames = 240;
+constexpr int frames = 240, turnsOneWay = 12;
 constexpr int manyElements = 1000;
 constexpr double millisecond = 1e6;
 
 class Bench {
 public:
-  explicit Bench(QString const& document) {
+  explicit Bench(QString const& document) : own_(std::make_unique<Workbench>()), bench_(*own_) {
     if (!bench_.session().open(document)) qFatal("%s", qPrintable(bench_.session().problem()));
     bench_.views().resize(viewSize);
     bench_.views().QWidget::show();
   }
+
+  /// With the menus of a window about it, whose states are asked for after each event.
+  explicit Bench(MainWindow& window) : bench_(window.bench()) {}
 
   void addElements(int count) {
     for (int i = 0; i < count; ++i) {
@@ -84,33 +90,42 @@ public:
   }
 
   void wheel(QString const& name, Qt::KeyboardModifiers modifiers) {
-    row(name, [&](int i) {
-      int const step = (i / 12) % 2 ? 30 : -30;
-      QWheelEvent event(view().rect().center(), view().rect().center(), QPoint(), QPoint(0, step), Qt::NoButton,
-                        modifiers, Qt::NoScrollPhase, false);
-      QApplication::sendEvent(&view(), &event);
-    });
+    row(name, [&](int i) { turnWheel(i, modifiers); });
     settle();
+  }
+
+  /// To and fro, whatever the number of turns.
+  void turnWheel(int i, Qt::KeyboardModifiers modifiers) {
+    int const step = (i / turnsOneWay) % 2 ? 30 : -30;
+    QWheelEvent event(view().rect().center(), view().rect().center(), QPoint(), QPoint(0, step), Qt::NoButton,
+                      modifiers, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&view(), &event);
   }
 
   /// One row: each frame is an event and the painting that it asks for.
   void row(QString const& name, std::function<void(int)> const& step, int count = frames, bool paints = true) {
+    print(name, timesOf(step, count, paints));
+  }
+
+  static QVector<double> timesOf(std::function<void(int)> const& step, int count, bool paints = true) {
     QVector<double> times;
     for (int i = 0; i < count; ++i)
       times << timed([&] {
         step(i);
         if (paints) QCoreApplication::processEvents();
       });
-    print(name, times);
+    return times;
   }
 
-  static void print(QString const& name, QVector<double> times) {
+  /// Answers the median.
+  static double print(QString const& name, QVector<double> times) {
     std::sort(times.begin(), times.end());
     QTextStream(stdout) << QStringLiteral("| %1 | %2 | %3 | %4 |\n")
                                .arg(name)
                                .arg(times[times.size() / 2], 0, 'f', 2)
                                .arg(times[times.size() * 95 / 100], 0, 'f', 2)
                                .arg(times.last(), 0, 'f', 2);
+    return times[times.size() / 2];
   }
 
   LayoutView& view() { return bench_.views().layoutView(); }
@@ -129,8 +144,34 @@ private:
     QApplication::sendEvent(&view(), &event);
   }
 
-  Workbench bench_;
+  std::unique_ptr<Workbench> own_;
+  Workbench& bench_;
 };
+
+// A modified document shows so in the title, and no more: it scrolls as fast as one that is not. By turns, so that what
+// else the machine does falls on both.
+void scrollInTheWindow(QString const& document) {
+  MainWindow window;
+  if (!window.bench().session().open(document)) qFatal("%s", qPrintable(window.bench().session().problem()));
+  window.resize(viewSize);
+  window.show();
+  Bench page(window);
+  page.click("Host_SelectAll");
+  page.click("Plotvane_SendToBackElements");  // all of them: a step that changes no picture
+  page.click("Host_Unselect");
+  QVector<double> times[2];
+  for (int i = 0; i < frames / turnsOneWay; ++i) {
+    page.click(i % 2 ? "Host_Redo" : "Host_Undo");
+    page.settle();
+    times[i % 2] += Bench::timesOf([&](int turn) { page.turnWheel(turn, Qt::NoModifier); }, 2 * turnsOneWay);
+    if (window.isWindowModified() != bool(i % 2)) qFatal("scrolling has modified the document, or saved it");
+  }
+  double const unmodified = Bench::print(QStringLiteral("scroll in the window, unmodified"), times[0]);
+  double const modified = Bench::print(QStringLiteral("scroll in the window, modified"), times[1]);
+  QTextStream(stdout)
+      << QStringLiteral("| the one against the other, times | %1 | | |\n").arg(unmodified / modified, 0, 'f', 2);
+  window.bench().session().document().history()->setClean();  // closing the window asks nothing
+}
 
 }  // namespace
 
@@ -140,6 +181,7 @@ int main(int argc, char** argv) {
   prepareApplication();
   QString const document = application.arguments().value(1, QStringLiteral("samples/world.kdx"));
 
+  scrollInTheWindow(document);
   Bench page(document);
   page.addElements(200 - page.container().GetElements().size());
   page.click("Plotvane_Pan");
