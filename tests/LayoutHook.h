@@ -43,11 +43,11 @@ class LayoutHook : public IApplicationHook {
 public:
   explicit LayoutHook(_ptr_t<SysCarto::PageLayout> const& layout) : layout(layout), view(layout) {
     SysCarto::Editor::Instance()->setHistory(&history);
-    layout->setSurface(&surface);
+    SysCarto::ActiveViewHost::setSurface(*layout, &surface);
   }
   ~LayoutHook() override {
     SysCarto::Editor::Instance()->setHistory(nullptr);
-    layout->setSurface(nullptr);
+    SysCarto::ActiveViewHost::setSurface(*layout, nullptr);
   }
 
   _ptr_t<SysCarto::ActiveView> GetActiveView() override { return view; }

@@ -1,6 +1,6 @@
 #include <SysFramework/BaseTool.h>
 
-#include "host/SysCarto/maps/ViewSurface.h"
+#include "host/SysCarto/maps/ActiveViewHost.h"
 
 namespace SysFramework {
 
@@ -25,7 +25,7 @@ bool BaseTool::Deactivate() {
 void BaseTool::SetCurrentCursor(QCursor const& cursor) {
   cursor_ = cursor;
   auto const view = hook() ? hook()->GetActiveView() : nullptr;
-  if (auto* surface = view ? view->surface() : nullptr) surface->setCursor(cursor);
+  if (auto* surface = view ? SysCarto::ActiveViewHost::surface(*view) : nullptr) surface->setCursor(cursor);
 }
 
 bool BaseTool::OnContextMenu(QContextMenuEvent*) { return false; }

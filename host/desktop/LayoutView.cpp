@@ -10,6 +10,7 @@
 
 #include <utility>
 
+using SysCarto::ActiveViewHost;
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
 
@@ -48,17 +49,17 @@ LayoutView::LayoutView(QWidget* parent) : ViewWidget(parent) {
 }
 
 LayoutView::~LayoutView() {
-  if (layout_) layout_->setSurface(nullptr);
+  if (layout_) ActiveViewHost::setSurface(*layout_, nullptr);
 }
 
 void LayoutView::setLayout(_ptr_t<PageLayout> const& layout) {
   if (layout == layout_) return;
-  if (layout_) layout_->setSurface(nullptr);
+  if (layout_) ActiveViewHost::setSurface(*layout_, nullptr);
   giveDragUp();
   layout_ = layout;
   clearOverlay();
   if (layout_) {
-    layout_->setSurface(this);
+    ActiveViewHost::setSurface(*layout_, this);
     layout_->GetDisplayTransformation()->SetDeviceFrame(rect());
     return layout_->RedrawAll(true);  // the extent that the layout came with follows the frame
   }

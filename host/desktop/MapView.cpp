@@ -8,6 +8,7 @@
 
 #include <utility>
 
+using SysCarto::ActiveViewHost;
 using SysCarto::Map;
 using SysCarto::MapSteps;
 using SysCarto::PageLayout;
@@ -15,16 +16,16 @@ using SysUtility::_ptr_t;
 
 MapView::MapView(QWidget* parent) : ViewWidget(parent) { setObjectName(QStringLiteral("mapView")); }
 MapView::~MapView() {
-  if (shown_) shown_->setSurface(nullptr);
+  if (shown_) ActiveViewHost::setSurface(*shown_, nullptr);
 }
 
 _ptr_t<Map> MapView::map() const { return layout_ ? layout_->GetFocusMap() : nullptr; }
 
 void MapView::setLayout(_ptr_t<PageLayout> const& layout) {
-  if (shown_) shown_->setSurface(nullptr);
+  if (shown_) ActiveViewHost::setSurface(*shown_, nullptr);
   layout_ = layout;
   shown_ = map();
-  if (shown_) shown_->setSurface(this);
+  if (shown_) ActiveViewHost::setSurface(*shown_, this);
   refresh(SysCarto::RefreshPhase::Everything);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/SysCarto/maps/ViewSurface.h"
+#include "host/SysCarto/maps/ActiveViewHost.h"
 
 #include <SysCarto/ActiveView.h>
 

@@ -87,7 +87,7 @@ private slots:
     hook.view = make<SysCarto::PageLayout>();
     tool->SetCurrentCursor(Qt::CrossCursor);
     QCOMPARE(tool->GetCursor().shape(), Qt::CrossCursor);
-    hook.view->setSurface(&hook.surface);
+    SysCarto::ActiveViewHost::setSurface(*hook.view, &hook.surface);
     tool->SetCurrentCursor(Qt::WaitCursor);
     QCOMPARE(hook.calls, QStringList(QString("cursor %1").arg(Qt::WaitCursor)));
     QCOMPARE(tool->GetCursor().shape(), Qt::WaitCursor);

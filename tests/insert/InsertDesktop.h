@@ -15,13 +15,13 @@ public:
   class Contents final : public QWidget, public SysAdapterUI::PageLayoutControl, public SysAdapterUI::ICompanion {
   public:
     explicit Contents(InsertDesktop& desktop) : layout(desktop.layout), desktop_(desktop) {}
-    ~Contents() override { layout->setSurface(nullptr); }
+    ~Contents() override { SysCarto::ActiveViewHost::setSurface(*layout, nullptr); }
 
     _ptr_t<SysCarto::PageLayout> GetPageLayout() const override { return layout; }
     void SetPageLayout(_ptr_t<SysCarto::PageLayout> const& next) override {
       desktop_.calls << "set layout";
       layout = next;
-      layout->setSurface(&desktop_.surface);
+      SysCarto::ActiveViewHost::setSurface(*layout, &desktop_.surface);
     }
     SysAdapterUI::ICompanion* GetCompanion() override { return this; }
     void SetBuddy(SysCarto::IKdxContents* contents) override {

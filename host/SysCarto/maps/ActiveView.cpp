@@ -1,5 +1,5 @@
+#include "ActiveViewHost.h"
 #include "ExtentHistory.h"
-#include "ViewSurface.h"
 
 #include "host/SysCarto/elements/Placement.h"
 
@@ -129,7 +129,7 @@ void ActiveView::Deactivate() {
   if (d->surface) d->surface->clearOverlay();
 }
 
-void ActiveView::setSurface(ViewSurface* surface) { d->surface = surface; }
-ViewSurface* ActiveView::surface() const { return d->surface; }
+void ActiveViewHost::setSurface(ActiveView& view, ViewSurface* surface) { view.d->surface = surface; }
+ViewSurface* ActiveViewHost::surface(ActiveView const& view) { return view.d->surface; }
 
 }  // namespace SysCarto

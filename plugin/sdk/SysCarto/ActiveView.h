@@ -10,7 +10,6 @@
 namespace SysCarto {
 
 class Map;
-class ViewSurface;
 
 /// What `ActiveView::PartialRefresh` is asked to draw again.
 namespace RefreshPhase {
@@ -69,12 +68,6 @@ public:
   /// Drops an overlay or drag in progress and nothing else: the next refresh works as before.
   virtual void Deactivate();
 
-  // Beyond what the commands of a plug-in need.
-
-  /// The screen on which the view is shown, borrowed, or null. Belongs to the desktop.
-  void setSurface(ViewSurface* surface);
-  ViewSurface* surface() const;
-
 protected:
   ActiveView();
 
@@ -90,6 +83,7 @@ private:
   struct Private;
   std::unique_ptr<Private> d;
   friend class ExtentHistory;
+  friend struct ActiveViewHost;
 };
 
 }  // namespace SysCarto

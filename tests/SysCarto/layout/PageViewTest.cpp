@@ -165,7 +165,7 @@ private slots:
     RecordingSurface surface(calls);
     auto const layout = newLayout();
     layout->PartialRefresh(8, nullptr);  // without a surface: nothing
-    layout->setSurface(&surface);
+    ActiveViewHost::setSurface(*layout, &surface);
     _ptr_t<SysDisplay::Symbol> symbol = make<SysDisplay::SimpleLineSymbol>();
     _ptr_t<SysGeometry::Geometry> geometry = square(0, 0, 1);
     layout->ZoomToRatio(3);
