@@ -3,9 +3,8 @@
 #include "ElementFields.h"
 
 #include "host/SysCarto/document/SurroundFields.h"
+#include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysDisplay/SymbolFields.h"
-
-#include <SysCarto/Graticule.h>
 
 #include <QDir>
 
@@ -231,7 +230,8 @@ void MapFrameSettings::applyTo(MapFrameElement& element, ElementScope const& sco
   element.SetLocked(locked);
   element.SetGeometry(rectangle.envelope());
   for (_ptr_t<IMapGrid> const& grid : grids) {
-    QString const problem = grid->problemOn(element);
+    auto const graticule = ptr_cast<Graticule>(grid);
+    QString const problem = graticule ? GraticuleSettings::problemOf(*graticule, element) : QString();
     if (!problem.isEmpty()) scope.context.warnings << problem;
   }
 }

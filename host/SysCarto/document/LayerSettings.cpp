@@ -1,6 +1,7 @@
 #include "LayerSettings.h"
 
 #include "host/SysCarto/layers/DataSource.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysUtility/Fields.h"
 
 #include <QDir>
@@ -60,10 +61,10 @@ void open(VectorLayer& layer, SourceSettings const& source, Map const& map, Docu
 }  // namespace
 
 LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const& context) {
-  LayerSettings settings{layer.source(),         layer.renderer().settings(),
-                         layer.GetName(),        layer.IsVisible(),
-                         layer.storedMinScale(), layer.storedMaxScale(),
-                         layer.labelSettings(),  AnnotationSettings::of(*layer.GetAnnotationProperties())};
+  auto const scales = LayerHost::scales(layer);
+  auto const labels = AnnotationSettings::of(*layer.GetAnnotationProperties());
+  LayerSettings settings{layer.source(), layer.renderer().settings(), layer.GetName(), layer.IsVisible(), scales.min,
+                         scales.max,     layer.labelSettings(),       labels};
   settings.source.file = storedPath(settings.source.file, context);
   return settings;
 }

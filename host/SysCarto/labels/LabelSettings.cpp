@@ -1,5 +1,6 @@
 #include "LabelSettings.h"
 
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysDisplay/SymbolFields.h"
 
 #include <SysCarto/FeatureLayer.h>
@@ -63,7 +64,8 @@ void LabelSettings::list(Fields& fields) {
 }
 
 AnnotationSettings AnnotationSettings::of(AnnotationProperties const& properties) {
-  return {properties.GetPriority(), properties.storedMinScale(), properties.storedMaxScale()};
+  auto const scales = LayerHost::scales(properties);
+  return {properties.GetPriority(), scales.min, scales.max};
 }
 
 void AnnotationSettings::list(Fields& fields) {

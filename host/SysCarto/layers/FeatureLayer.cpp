@@ -1,6 +1,4 @@
-#include <SysCarto/FeatureLayer.h>
-
-#include "host/SysCarto/layers/ScaleRange.h"
+#include "LayerHost.h"
 
 namespace SysCarto {
 
@@ -19,8 +17,8 @@ void AnnotationProperties::SetScaleRange(double minDenominator, double maxDenomi
   d->scales.set(minDenominator, maxDenominator);
 }
 void AnnotationProperties::SetPriority(int priority) { d->priority = priority; }
-double AnnotationProperties::storedMinScale() const { return d->scales.min; }
-double AnnotationProperties::storedMaxScale() const { return d->scales.max; }
+
+ScaleRange LayerHost::scales(AnnotationProperties const& labels) { return labels.d->scales; }
 
 FeatureLayer::FeatureLayer() = default;
 FeatureLayer::~FeatureLayer() = default;

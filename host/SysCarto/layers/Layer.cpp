@@ -1,6 +1,5 @@
-#include <SysCarto/Layer.h>
+#include "LayerHost.h"
 
-#include "host/SysCarto/layers/ScaleRange.h"
 #include "host/SysUtility/ChangeMark.h"
 
 namespace SysCarto {
@@ -32,8 +31,8 @@ void Layer::SetScaleRange(double minDenominator, double maxDenominator) {
   d->change.set(d->scales.min, scales.min);
   d->change.set(d->scales.max, scales.max);
 }
-double Layer::storedMinScale() const { return d->scales.min; }
-double Layer::storedMaxScale() const { return d->scales.max; }
-quint64 Layer::lastChange() const { return d->change.time(); }
+
+ScaleRange LayerHost::scales(Layer const& layer) { return layer.d->scales; }
+quint64 LayerHost::lastChange(Layer const& layer) { return layer.d->change.time(); }
 
 }  // namespace SysCarto

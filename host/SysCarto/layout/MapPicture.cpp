@@ -1,6 +1,6 @@
 #include "MapPicture.h"
 
-#include "host/SysCarto/layers/ScaleRange.h"
+#include "host/SysCarto/layers/LayerHost.h"
 
 #include <SysCarto/FeatureLayer.h>
 #include <SysCarto/Map.h>
@@ -55,8 +55,7 @@ QList<_ptr_t<FeatureLayer>> labelledLayers(Map const& map) {
   for (auto const& layer : map.GetLayers()) {
     auto const features = SysUtility::ptr_cast<FeatureLayer>(layer);
     if (!features || !features->IsVisible() || !features->IsAnnotationVisible()) continue;
-    auto const settings = features->GetAnnotationProperties();
-    if (ScaleRange{settings->storedMinScale(), settings->storedMaxScale()}.contains(scale)) layers << features;
+    if (LayerHost::scales(*features->GetAnnotationProperties()).contains(scale)) layers << features;
   }
   std::stable_sort(layers.begin(), layers.end(), [](auto const& a, auto const& b) {
     return a->GetAnnotationProperties()->GetPriority() > b->GetAnnotationProperties()->GetPriority();

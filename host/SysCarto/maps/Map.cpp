@@ -4,6 +4,7 @@
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/elements/Placement.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/projection/GroundScale.h"
 
 #include <QCoreApplication>
@@ -135,7 +136,7 @@ void Map::applyExtent(Envelope const& extent) {
 
 quint64 Map::lastChange() const {
   quint64 last = std::max(d->change.time(), d->graphics.lastChange());
-  for (auto const& layer : qAsConst(d->layers)) last = std::max(last, layer->lastChange());
+  for (auto const& layer : qAsConst(d->layers)) last = std::max(last, LayerHost::lastChange(*layer));
   return last;
 }
 

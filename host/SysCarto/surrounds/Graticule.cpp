@@ -66,7 +66,6 @@ _ptr_t<TextSymbol> usualLabel() {
 }  // namespace
 
 IMapGrid::~IMapGrid() = default;
-QString IMapGrid::problemOn(MapFrameElement const&) const { return QString(); }
 
 struct Graticule::Private {
   GraticuleSettings settings;
@@ -159,18 +158,19 @@ void GraticuleSettings::applyTo(Graticule& graticule) const {
   graticule.d->picture = nullptr;
 }
 
-QString Graticule::problemOn(MapFrameElement const& frame) const {
+QString GraticuleSettings::problemOf(Graticule const& graticule, MapFrameElement const& frame) {
+  Graticule::Private& d = *graticule.d;
   Map const& map = *frame.GetMap();
   Envelope const extent(*map.GetExtent());
-  if (d->settings.interval == 0 || !d->isTooFine(d->linesOf(map.GetCoordinateSystem()), extent)) return QString();
-  double const count = d->lines->count(extent, d->settings.interval);
-  double const least = std::ceil(count * d->settings.interval / mostLines * 1000) / 1000;
+  if (d.settings.interval == 0 || !d.isTooFine(d.linesOf(map.GetCoordinateSystem()), extent)) return QString();
+  double const count = d.lines->count(extent, d.settings.interval);
+  double const least = std::ceil(count * d.settings.interval / mostLines * 1000) / 1000;
   return QCoreApplication::translate("Graticule",
                                      "the graticule “%1” of the map “%2” has an interval of %3 degrees, which makes %4 "
                                      "lines; at most %5 are drawn, so an interval is chosen for it; enter one of %6 "
                                      "degrees or more")
-      .arg(d->settings.name, map.GetName(), grouped(d->settings.interval), grouped(std::round(count)),
-           grouped(mostLines), grouped(least));
+      .arg(d.settings.name, map.GetName(), grouped(d.settings.interval), grouped(std::round(count)), grouped(mostLines),
+           grouped(least));
 }
 
 }  // namespace SysCarto

@@ -69,6 +69,10 @@ struct SYSCARTO_EXPORT GraticuleSettings {
   static GraticuleSettings of(Graticule const& graticule);
   void list(SysUtility::Fields& fields);
   void applyTo(Graticule& graticule) const;
+
+  /// A sentence where the settings of a graticule can't be followed on the map of that frame, and what is done instead;
+  /// empty where they can.
+  static QString problemOf(Graticule const& graticule, MapFrameElement const& frame);
 };
 
 }  // namespace SysCarto

@@ -27,11 +27,8 @@ public:
   void SetScaleRange(double minDenominator, double maxDenominator);
   void SetPriority(int priority);
 
-  // The limits as they were set, 0 for an open side: what a document stores.
-  double storedMinScale() const;
-  double storedMaxScale() const;
-
 private:
+  friend struct LayerHost;
   struct Private;
   std::unique_ptr<Private> d;
 };

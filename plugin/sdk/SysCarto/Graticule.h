@@ -22,7 +22,6 @@ public:
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
       MapFrameElement const& frame) const override;
   SysUtility::_ptr_t<IMapGrid> Clone() const override;
-  QString problemOn(MapFrameElement const& frame) const override;
 
 private:
   friend struct GraticuleSettings;

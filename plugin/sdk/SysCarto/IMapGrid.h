@@ -31,12 +31,6 @@ public:
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
       MapFrameElement const& frame) const = 0;
   virtual SysUtility::_ptr_t<IMapGrid> Clone() const = 0;
-
-  // Beyond what the commands of a plug-in need.
-
-  /// A sentence where the settings can't be followed on the map of that frame, and what is done instead; empty where
-  /// they can.
-  virtual QString problemOn(MapFrameElement const& frame) const;
 };
 
 }  // namespace SysCarto

@@ -43,8 +43,6 @@ public:
   virtual void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
                     int phase, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) = 0;
 
-  // Beyond what the commands of a plug-in need.
-
   QString GetName() const;
   void SetName(QString const& name);
   void SetVisible(bool visible);
@@ -58,18 +56,12 @@ public:
   /// What the layer shows, in the order of a legend; empty where it has nothing to tell.
   virtual QList<LegendClass> legendClasses() const;
 
-  // The limits as they were set, 0 for an open side: what a document stores.
-  double storedMinScale() const;
-  double storedMaxScale() const;
-
-  /// When what can be set of every layer was last changed outside the history's steps (`ChangeMark`).
-  quint64 lastChange() const;
-
 protected:
   Layer();
   Layer(Layer const&) = delete;
 
 private:
+  friend struct LayerHost;
   struct Private;
   std::unique_ptr<Private> d;
 };

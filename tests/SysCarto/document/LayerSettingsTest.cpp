@@ -1,6 +1,7 @@
 #include "LayerFixture.h"
 
 #include "host/SysCarto/document/LayerSettings.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysUtility/JsonFields.h"
 
 using namespace SysCarto;
@@ -117,8 +118,8 @@ private slots:
       limits.SetScaleRange(min, max);
       QCOMPARE(limits.GetMinScale() > 0 && limits.GetMaxScale() > 0, limited);
       QCOMPARE(limits.GetMinScale() > 0 || limits.GetMaxScale() > 0, limited);
-      QCOMPARE(limits.storedMinScale(), storedMin);
-      QCOMPARE(limits.storedMaxScale(), storedMax);
+      QCOMPARE(LayerHost::scales(limits).min, storedMin);
+      QCOMPARE(LayerHost::scales(limits).max, storedMax);
       if (limited) QVERIFY(limits.GetMinScale() < 2000 && limits.GetMaxScale() > 2000);
     };
     check(static_cast<Layer&>(layer));

@@ -1,6 +1,6 @@
 #include "SurroundFixture.h"
 
-#include <SysCarto/Graticule.h>
+#include "host/SysCarto/surrounds/SurroundSettings.h"
 
 #include <cpl_error.h>
 
@@ -128,7 +128,7 @@ private slots:
 
   void aMillionLinesAreNotDrawnButToldOf() {
     auto const frame = frameWith("EPSG:4326", Envelope(-180, -90, 180, 90), {{"interval", 0.0005}});
-    QString const problem = frame->GetMapGrid(0)->problemOn(*frame);
+    QString const problem = GraticuleSettings::problemOf(*ptr_cast<Graticule>(frame->GetMapGrid(0)), *frame);
     QVERIFY2(problem.contains("has an interval of 0.0005 degrees, which makes 1,080,000 lines"), qPrintable(problem));
     QVERIFY2(problem.contains("enter one of 0.54 degrees or more"), qPrintable(problem));
     QVERIFY(drawn(frame) == drawn(frameWith("EPSG:4326", Envelope(-180, -90, 180, 90), {})));

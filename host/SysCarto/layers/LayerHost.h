@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/SysCarto/layers/ScaleRange.h"
+
+#include <SysCarto/FeatureLayer.h>
+
+namespace SysCarto {
+
+struct SYSCARTO_EXPORT LayerHost {
+  // The limits as they were set: what a document stores.
+  static ScaleRange scales(Layer const& layer);
+  static ScaleRange scales(AnnotationProperties const& labels);
+
+  /// When what can be set of every layer was last changed outside the history's steps (`ChangeMark`).
+  static quint64 lastChange(Layer const& layer);
+};
+
+}  // namespace SysCarto
