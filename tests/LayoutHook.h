@@ -3,7 +3,8 @@
 #include "Elements.h"
 #include "host/SysCarto/maps/ViewSurface.h"
 
-#include <SysCarto/Editor.h>
+#include "host/SysCarto/elements/EditorHost.h"
+
 #include <SysFramework/BaseCommand.h>
 #include <SysFramework/IApplicationHook.h>
 
@@ -42,11 +43,11 @@ private:
 class LayoutHook : public IApplicationHook {
 public:
   explicit LayoutHook(_ptr_t<SysCarto::PageLayout> const& layout) : layout(layout), view(layout) {
-    SysCarto::Editor::Instance()->setHistory(&history);
+    SysCarto::EditorHost::setHistory(&history);
     SysCarto::ActiveViewHost::setSurface(*layout, &surface);
   }
   ~LayoutHook() override {
-    SysCarto::Editor::Instance()->setHistory(nullptr);
+    SysCarto::EditorHost::setHistory(nullptr);
     SysCarto::ActiveViewHost::setSurface(*layout, nullptr);
   }
 

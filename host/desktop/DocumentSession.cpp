@@ -2,18 +2,18 @@
 
 #include "FileStamp.h"
 
-#include <SysCarto/Editor.h>
+#include "host/SysCarto/elements/EditorHost.h"
 
 #include <QFileInfo>
 #include <QUndoStack>
 
 DocumentSession::DocumentSession() {
-  SysCarto::Editor::Instance()->setHistory(document_.history());
+  SysCarto::EditorHost::setHistory(document_.history());
   connect(document_.history(), &QUndoStack::indexChanged, this, &DocumentSession::historyChanged);
 }
 
 DocumentSession::~DocumentSession() {
-  if (SysCarto::Editor::Instance()->history() == document_.history()) SysCarto::Editor::Instance()->setHistory(nullptr);
+  if (SysCarto::EditorHost::history() == document_.history()) SysCarto::EditorHost::setHistory(nullptr);
 }
 
 QString DocumentSession::title() const { return path().isEmpty() ? tr("Untitled") : QFileInfo(path()).fileName(); }

@@ -2,10 +2,11 @@
 
 #include "OffscreenContents.h"
 
-#include <SysCarto/Editor.h>
+#include "host/SysCarto/elements/EditorHost.h"
+
 #include <SysCarto/MapDocument.h>
 
-using SysCarto::Editor;
+using SysCarto::EditorHost;
 using SysUtility::_ptr_t;
 
 OffscreenDesktop::OffscreenDesktop(SysCarto::MapDocument& document)
@@ -13,9 +14,9 @@ OffscreenDesktop::OffscreenDesktop(SysCarto::MapDocument& document)
 
 OffscreenDesktop::OffscreenDesktop(SysCarto::MapDocument& document, _ptr_t<OffscreenContents> const& contents)
     : Desktop(document, *contents), contents_(contents) {
-  Editor::Instance()->setHistory(document.history());
+  EditorHost::setHistory(document.history());
 }
 
-OffscreenDesktop::~OffscreenDesktop() { Editor::Instance()->setHistory(nullptr); }
+OffscreenDesktop::~OffscreenDesktop() { EditorHost::setHistory(nullptr); }
 
 _ptr_t<SysCarto::ActiveView> OffscreenDesktop::GetActiveView() { return GetPageLayout(); }

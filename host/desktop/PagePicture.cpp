@@ -135,7 +135,7 @@ void PagePicture::paintSheet(QPainter& painter, SysCarto::Page& page) const {
   QRectF const sheet = pixelsOf(*transformation_, *page.GetPageEnvelope());
   int const spread = qRound(shadowPx * devicePixelRatio_);
   painter.fillRect(sheet.translated(spread, spread), QColor(0, 0, 0, 60));
-  page.drawShadow(painter, transformation_);
+  if (auto const shadow = page.GetShadow()) shadow->Draw(painter, transformation_, page.GetPageEnvelope());
   painter.fillRect(sheet, Qt::white);
 }
 

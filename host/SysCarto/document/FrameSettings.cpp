@@ -1,5 +1,6 @@
 #include "FrameSettings.h"
 
+#include "host/SysCarto/layout/PageHost.h"
 #include "host/SysCarto/layout/PageLimits.h"
 #include "host/SysDisplay/SymbolFields.h"
 
@@ -181,7 +182,7 @@ void PageSettings::list(Fields& fields) {
 void PageSettings::applyTo(Page& page) const {
   int const id = formOf(form).value_or(customPageForm);
   if (id == customPageForm)
-    page.setCustomSize(widthCm, heightCm);
+    PageHost::setCustomSize(page, widthCm, heightCm);
   else
     page.SetFormID(id);
   page.SetOrientation(orientation);

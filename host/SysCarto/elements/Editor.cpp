@@ -1,3 +1,4 @@
+#include "EditorHost.h"
 #include "EditorRecord.h"
 
 #include <QCoreApplication>
@@ -66,12 +67,13 @@ void Editor::StartOperation(QString const& name) {
 
 void Editor::StopOperation() { d->close(); }
 
-void Editor::setHistory(QUndoStack* history) {
-  if (history == d->history) return;
-  d->close();
-  d->history = history;
+void EditorHost::setHistory(QUndoStack* history) {
+  Editor::Private& editor = *Editor::Instance()->d;
+  if (history == editor.history) return;
+  editor.close();
+  editor.history = history;
 }
 
-QUndoStack* Editor::history() const { return d->history; }
+QUndoStack* EditorHost::history() { return Editor::Instance()->d->history; }
 
 }  // namespace SysCarto

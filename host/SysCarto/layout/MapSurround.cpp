@@ -1,5 +1,6 @@
+#include "MapSurroundHost.h"
+
 #include <SysCarto/Map.h>
-#include <SysCarto/MapSurround.h>
 
 #include <QCoreApplication>
 
@@ -21,7 +22,10 @@ MapSurround::~MapSurround() = default;
 _ptr_t<Map> MapSurround::GetMap() const { return d->map; }
 void MapSurround::SetMap(_ptr_t<Map> const& map) { d->map = map; }
 
-void MapSurround::setRectangle(Envelope const& rectangle) { d->rectangle = rectangle; }
+void MapSurroundHost::setRectangle(MapSurround& surround, Envelope const& rectangle) {
+  surround.d->rectangle = rectangle;
+}
+
 Envelope const& MapSurround::rectangle() const { return d->rectangle; }
 
 QString MapSurround::title() const { return QCoreApplication::translate("MapSurround", "Map surround"); }

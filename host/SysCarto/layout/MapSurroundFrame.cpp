@@ -1,3 +1,5 @@
+#include "MapSurroundHost.h"
+
 #include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/TextElement.h"
 
@@ -79,7 +81,7 @@ void MapSurroundFrame::Draw(QPainter& painter, _ptr_t<DisplayTransformation> con
 _ptr_t<Element> MapSurroundFrame::Clone() const { return SysUtility::make<MapSurroundFrame>(*this); }
 
 void MapSurroundFrame::rectangleChanged() {
-  if (d->surround) d->surround->setRectangle(*GetEnvelope());
+  if (d->surround) MapSurroundHost::setRectangle(*d->surround, *GetEnvelope());
 }
 
 }  // namespace SysCarto

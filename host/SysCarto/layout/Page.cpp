@@ -1,8 +1,8 @@
-#include "host/SysCarto/elements/Placement.h"
+#include "PageHost.h"
 
+#include "host/SysCarto/elements/Placement.h"
 #include "host/SysUtility/ChangeMark.h"
 
-#include <SysCarto/Page.h>
 #include <SysCarto/SymbolFrameParts.h>
 
 #include <cmath>
@@ -53,9 +53,9 @@ void Page::SetFormID(int id) {
   if (Paper::GetFormInfo(id, info)) d->setForm(id, info.width, info.height);
 }
 
-void Page::setCustomSize(double widthCm, double heightCm) {
+void PageHost::setCustomSize(Page& page, double widthCm, double heightCm) {
   if (!std::isfinite(widthCm) || !std::isfinite(heightCm) || widthCm < 0 || heightCm < 0) return;
-  d->setForm(customPageForm, widthCm, heightCm);
+  page.d->setForm(customPageForm, widthCm, heightCm);
 }
 
 short Page::GetOrientation() const { return d->orientation; }
@@ -83,9 +83,6 @@ void Page::DrawBackground(QPainter& painter, _ptr_t<DisplayTransformation> const
 void Page::DrawBorder(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation) {
   if (d->border) d->border->Draw(painter, transformation, GetPageEnvelope());
 }
-void Page::drawShadow(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation) {
-  if (d->shadow) d->shadow->Draw(painter, transformation, GetPageEnvelope());
-}
 
 _ptr_t<IBorder> Page::GetBorder() const { return d->border; }
 void Page::SetBorder(_ptr_t<IBorder> const& border) { d->change.set(d->border, border); }
@@ -94,6 +91,6 @@ void Page::SetBackGround(_ptr_t<IBackground> const& background) { d->change.set(
 _ptr_t<IShadow> Page::GetShadow() const { return d->shadow; }
 void Page::SetShadow(_ptr_t<IShadow> shadow) { d->change.set(d->shadow, shadow); }
 
-quint64 Page::lastChange() const { return d->change.time(); }
+quint64 PageHost::lastChange(Page const& page) { return page.d->change.time(); }
 
 }  // namespace SysCarto

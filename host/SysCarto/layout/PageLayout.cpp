@@ -1,3 +1,5 @@
+#include "PageHost.h"
+
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/elements/Placement.h"
 
@@ -134,7 +136,7 @@ Page* PageLayout::GetPage() const { return d->page.get(); }
 void PageLayout::SetPage(_ptr_t<Page> const& page) { d->change.set(d->page, page); }
 
 quint64 PageLayout::lastChange() const {
-  return std::max({d->change.time(), d->page ? d->page->lastChange() : 0, d->elements.lastChange()});
+  return std::max({d->change.time(), d->page ? PageHost::lastChange(*d->page) : 0, d->elements.lastChange()});
 }
 
 void PageLayout::ZoomToRatio(double ratio) {

@@ -1,9 +1,8 @@
 #include "MapSteps.h"
 
+#include "host/SysCarto/elements/EditorHost.h"
 #include "host/SysCarto/elements/Placement.h"
 #include "host/SysUtility/ChangeMark.h"
-
-#include <SysCarto/Editor.h>
 
 #include <QUndoStack>
 
@@ -58,7 +57,7 @@ private:
 
 // The history redoes what it is given.
 void take(std::unique_ptr<QUndoCommand> step) {
-  if (QUndoStack* const history = Editor::Instance()->history())
+  if (QUndoStack* const history = EditorHost::history())
     history->push(step.release());
   else
     step->redo();

@@ -6,8 +6,6 @@
 
 #include <memory>
 
-class QUndoStack;
-
 namespace SysCarto {
 
 /// The undo bracket. What is added, deleted, replaced or restacked in element containers between `StartOperation` and
@@ -25,17 +23,12 @@ public:
   /// moved nothing. Without an open operation this does nothing.
   virtual void StopOperation();
 
-  // For hosts.
-
-  /// The history that takes the operations, borrowed: that of the document being edited. Null drops them.
-  void setHistory(QUndoStack* history);
-  QUndoStack* history() const;
-
 private:
   Editor();
   struct Private;
   std::unique_ptr<Private> d;
   friend class ElementContainer;
+  friend struct EditorHost;
 };
 
 }  // namespace SysCarto

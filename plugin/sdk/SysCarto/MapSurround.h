@@ -36,12 +36,9 @@ public:
   /// One of `SurroundKind`.
   int kind;
 
-  // Beyond what the commands of a plug-in need.
-
   SysUtility::_ptr_t<Map> GetMap() const;
 
-  /// The rectangle of the frame in page centimetres; told by the frame.
-  void setRectangle(SysGeometry::Envelope const& rectangle);
+  /// The rectangle of the frame in page centimetres.
   SysGeometry::Envelope const& rectangle() const;
   virtual SysUtility::_ptr_t<MapSurround> Clone() const = 0;
 
@@ -56,6 +53,7 @@ protected:
   bool hasPlace() const;
 
 private:
+  friend struct MapSurroundHost;
   struct Private;
   std::unique_ptr<Private> d;
 };

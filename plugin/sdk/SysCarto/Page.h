@@ -43,19 +43,8 @@ public:
   SysUtility::_ptr_t<IShadow> GetShadow() const override;
   void SetShadow(SysUtility::_ptr_t<IShadow> shadow) override;
 
-  // Beyond what the commands of a plug-in need.
-
-  /// Makes the page one of the custom form with a size of its own, in centimetres, portrait way up; that of `Paper` is
-  /// left as it is. A negative size, or one that is not a number, is ignored.
-  void setCustomSize(double widthCm, double heightCm);
-
-  /// Draws the shadow, which lies beside the page: it shows in a view, not in an export.
-  void drawShadow(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation);
-
-  /// When what a document stores of the page was last changed (`ChangeMark`).
-  quint64 lastChange() const;
-
 private:
+  friend struct PageHost;
   struct Private;
   std::unique_ptr<Private> d;
 };

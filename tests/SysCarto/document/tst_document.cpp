@@ -2,6 +2,8 @@
 #include "LayerFixture.h"
 
 #include "host/SysCarto/document/DocumentFields.h"
+#include "host/SysCarto/elements/EditorHost.h"
+#include "host/SysCarto/layout/PageHost.h"
 #include "host/SysUtility/FieldTree.h"
 
 #include <SysCarto/Editor.h>
@@ -329,7 +331,7 @@ private slots:
     MapDocument document;
     document.New(QString());
     auto* const elements = document.GetPageLayout()->GetGraphicsContainer();
-    Editor::Instance()->setHistory(document.history());
+    EditorHost::setHistory(document.history());
     auto const add = [elements](_ptr_t<Element> const& element) {
       Editor::Instance()->StartOperation("step");
       elements->AddElement(element);
@@ -348,7 +350,7 @@ private slots:
     operations->Undo();
     QCOMPARE(elements->GetElements().isEmpty(), keepsHistory);
     QVERIFY(document.isModified());
-    Editor::Instance()->setHistory(nullptr);
+    EditorHost::setHistory(nullptr);
   }
 
   void whatIsKeptOutOfTheHistoryIsAModification_data() {

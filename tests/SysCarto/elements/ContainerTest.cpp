@@ -1,6 +1,7 @@
 #include "Pictures.h"
 #include "Elements.h"
 
+#include "host/SysCarto/elements/EditorHost.h"
 #include "host/SysCarto/elements/ElementContainer.h"
 
 #include <SysCarto/Editor.h>
@@ -45,9 +46,9 @@ class ContainerTest : public QObject {
 private slots:
   void init() {
     history_.clear();
-    Editor::Instance()->setHistory(&history_);
+    EditorHost::setHistory(&history_);
   }
-  void cleanup() { Editor::Instance()->setHistory(nullptr); }
+  void cleanup() { EditorHost::setHistory(nullptr); }
 
   void restacksAndComesBack_data() {
     Rows<QString, QString, Restack, QString> row;

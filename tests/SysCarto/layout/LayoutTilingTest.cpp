@@ -5,8 +5,7 @@
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/elements/PictureElement.h"
-
-#include <SysCarto/Page.h>
+#include "host/SysCarto/layout/PageHost.h"
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
@@ -145,7 +144,7 @@ private slots:
 
   void pageDrawsItsParts() {
     auto const page = std::make_shared<Page>();
-    page->setCustomSize(pageWidthCm, pageHeightCm);
+    PageHost::setCustomSize(*page, pageWidthCm, pageHeightCm);
     auto const background = make<SymbolBackground>();
     background->GetFillSymbol()->SetColor(Qt::yellow);
     page->SetBackGround(background);
