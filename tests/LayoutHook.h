@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Elements.h"
-#include "host/SysCarto/maps/ViewSurface.h"
 
 #include "host/SysCarto/elements/EditorHost.h"
+#include "host/SysCarto/maps/ActiveViewHost.h"
 
 #include <SysFramework/BaseCommand.h>
 #include <SysFramework/IApplicationHook.h>

@@ -2,7 +2,7 @@
 
 #include "Test.h"
 
-#include <SysDisplay/DisplayTransformation.h>
+#include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <QtWidgets>
 
@@ -102,7 +102,7 @@ private:
     transformation->SetPageScale(pageScale);
     transformation->SetDeviceFrame(QRect(QPoint(0, 0), sizePx));
     transformation->SetVisibleBounds(make<SysGeometry::Envelope>(part));
-    transformation->SetPatternOrigin(bounds.GetXMin(), bounds.GetYMax());
+    SysDisplay::DisplayTransformationHost::setPatternOrigin(*transformation, bounds.GetXMin(), bounds.GetYMax());
     return transformation;
   }
 };

@@ -1,7 +1,7 @@
-#include <SysDisplay/DisplayTransformation.h>
-#include <SysDisplay/Units.h>
+#include "DevicePath.h"
+#include "DisplayTransformationHost.h"
 
-#include "host/SysDisplay/DevicePath.h"
+#include <SysDisplay/Units.h>
 
 #include <algorithm>
 #include <cmath>
@@ -65,16 +65,10 @@ _ptr_t<DisplayTransformation> DisplayTransformation::Clone() const {
 }
 
 double DisplayTransformation::GetMapScale() const { return d->mapScale; }
-void DisplayTransformation::SetMapScale(double denominator) { d->mapScale = denominator; }
 double DisplayTransformation::GetPageScale() const { return d->pageScale; }
 void DisplayTransformation::SetPageScale(double pageScale) {
   if (std::isfinite(pageScale) && pageScale > 0) d->pageScale = pageScale;
 }
-void DisplayTransformation::SetFillsWidth(bool fillsWidth) { d->fillsWidth = fillsWidth; }
-
-void DisplayTransformation::SetPatternOrigin(double x, double y) { d->patternOrigin = {x, y}; }
-QPointF DisplayTransformation::PatternOrigin() const { return snapped(ToDevice().map(d->patternOrigin)); }
-
 double DisplayTransformation::PixelsPerPoint() const { return d->pageScale * pixelsPerInch / pointsPerInch; }
 
 QPaintDevice* DisplayTransformation::GetPaintDevice() const { return d->device; }
@@ -126,6 +120,22 @@ _ptr_t<Point> DisplayTransformation::ToMapPoint(int x, int y) const {
 QTransform DisplayTransformation::ToDevice() const {
   double const scale = d->scale();
   return QTransform(scale, 0, 0, -scale, d->frame.left() - d->xmin * scale, d->frame.top() + d->ymax * scale);
+}
+
+void DisplayTransformationHost::setMapScale(DisplayTransformation& transformation, double denominator) {
+  transformation.d->mapScale = denominator;
+}
+
+void DisplayTransformationHost::setFillsWidth(DisplayTransformation& transformation, bool fillsWidth) {
+  transformation.d->fillsWidth = fillsWidth;
+}
+
+void DisplayTransformationHost::setPatternOrigin(DisplayTransformation& transformation, double x, double y) {
+  transformation.d->patternOrigin = {x, y};
+}
+
+QPointF DisplayTransformationHost::patternOrigin(DisplayTransformation const& transformation) {
+  return snapped(transformation.ToDevice().map(transformation.d->patternOrigin));
 }
 
 }  // namespace SysDisplay

@@ -1,5 +1,7 @@
 #include "DrawTarget.h"
 
+#include "DisplayTransformationHost.h"
+
 #include <QPainter>
 
 namespace SysDisplay {
@@ -11,7 +13,8 @@ QRectF reachableArea(QPainter const& painter) {
 }
 
 DrawTarget::DrawTarget(QPainter& painter, DisplayTransformation const& transformation)
-    : DrawTarget(painter, transformation.ToDevice(), transformation.PixelsPerPoint(), transformation.PatternOrigin()) {}
+    : DrawTarget(painter, transformation.ToDevice(), transformation.PixelsPerPoint(),
+                 DisplayTransformationHost::patternOrigin(transformation)) {}
 
 DrawTarget::DrawTarget(QPainter& painter, QTransform const& toDevice, double pixelsPerPoint, QPointF const& anchor)
     : painter_(painter),

@@ -2,18 +2,21 @@
 
 #include "FileStamp.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/EditorHost.h"
 
 #include <QFileInfo>
 #include <QUndoStack>
 
 DocumentSession::DocumentSession() {
-  SysCarto::EditorHost::setHistory(document_.history());
-  connect(document_.history(), &QUndoStack::indexChanged, this, &DocumentSession::historyChanged);
+  SysCarto::EditorHost::setHistory(SysCarto::MapDocumentHost::history(document_));
+  connect(SysCarto::MapDocumentHost::history(document_), &QUndoStack::indexChanged, this,
+          &DocumentSession::historyChanged);
 }
 
 DocumentSession::~DocumentSession() {
-  if (SysCarto::EditorHost::history() == document_.history()) SysCarto::EditorHost::setHistory(nullptr);
+  if (SysCarto::EditorHost::history() == SysCarto::MapDocumentHost::history(document_))
+    SysCarto::EditorHost::setHistory(nullptr);
 }
 
 QString DocumentSession::title() const { return path().isEmpty() ? tr("Untitled") : QFileInfo(path()).fileName(); }

@@ -1,8 +1,10 @@
 #include "DocumentViews.h"
 
-#include <SysCarto/Map.h>
-#include <SysCarto/MapDocument.h>
+#include "host/SysCarto/document/MapDocumentHost.h"
 
+#include <SysCarto/Map.h>
+
+using SysCarto::MapDocumentHost;
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
 
@@ -55,6 +57,6 @@ _ptr_t<SysCarto::ActiveView> DocumentViews::activeView() const {
 _ptr_t<PageLayout> DocumentViews::GetPageLayout() const { return document_.GetPageLayout(); }
 
 void DocumentViews::SetPageLayout(_ptr_t<PageLayout> const& layout) {
-  document_.setPageLayout(layout);
+  MapDocumentHost::setPageLayout(document_, layout);
   follow();
 }

@@ -8,9 +8,8 @@
 
 #include "export/ExportCommand.h"
 #include "export/LayoutRenderer.h"
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/projection/GdalErrors.h"
-
-#include <SysCarto/MapDocument.h>
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -140,7 +139,7 @@ QString ExportSubcommand::openDocument() {
   bool const opened = document_.Open(request_.document);
   for (QString const& warning : document_.GetWarnings()) Console::complain(warning);
   if (!opened) return document_.GetErrors().join(QLatin1Char('\n'));
-  if (document_.GetUnreadableSourceCount() > 0 && !request_.allowMissing)
+  if (SysCarto::MapDocumentHost::unreadableSources(document_) > 0 && !request_.allowMissing)
     return tr("%1: data sources could not be read, so the page would not be whole; mend them, or pass --allow-missing.")
         .arg(request_.document);
   return QString();

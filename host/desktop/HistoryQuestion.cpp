@@ -2,6 +2,8 @@
 
 #include "DocumentSession.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
+
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUndoStack>
@@ -36,7 +38,7 @@ HistoryQuestion::HistoryQuestion(DocumentSession& session, QWidget& parent) : se
 HistoryQuestion::~HistoryQuestion() = default;
 
 bool HistoryQuestion::mayRun(QString const& identifier) {
-  QUndoStack const& history = *session_.document().history();
+  QUndoStack const& history = *SysCarto::MapDocumentHost::history(session_.document());
   auto const* const command =
       std::find_if(std::begin(costlyCommands), std::end(costlyCommands),
                    [&](CostlyCommand const& one) { return identifier == QLatin1String(one.identifier); });

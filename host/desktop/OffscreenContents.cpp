@@ -1,7 +1,8 @@
 #include "OffscreenContents.h"
 
-#include <SysCarto/MapDocument.h>
+#include "host/SysCarto/document/MapDocumentHost.h"
 
+using SysCarto::MapDocumentHost;
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
 
@@ -22,7 +23,7 @@ OffscreenContents::~OffscreenContents() = default;
 _ptr_t<PageLayout> OffscreenContents::GetPageLayout() const { return document_.GetPageLayout(); }
 
 void OffscreenContents::SetPageLayout(_ptr_t<PageLayout> const& layout) {
-  document_.setPageLayout(layout);
+  MapDocumentHost::setPageLayout(document_, layout);
   showWholePage();
 }
 

@@ -2,11 +2,11 @@
 
 #include "OffscreenContents.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/EditorHost.h"
 
-#include <SysCarto/MapDocument.h>
-
 using SysCarto::EditorHost;
+using SysCarto::MapDocumentHost;
 using SysUtility::_ptr_t;
 
 OffscreenDesktop::OffscreenDesktop(SysCarto::MapDocument& document)
@@ -14,7 +14,7 @@ OffscreenDesktop::OffscreenDesktop(SysCarto::MapDocument& document)
 
 OffscreenDesktop::OffscreenDesktop(SysCarto::MapDocument& document, _ptr_t<OffscreenContents> const& contents)
     : Desktop(document, *contents), contents_(contents) {
-  EditorHost::setHistory(document.history());
+  EditorHost::setHistory(MapDocumentHost::history(document));
 }
 
 OffscreenDesktop::~OffscreenDesktop() { EditorHost::setHistory(nullptr); }

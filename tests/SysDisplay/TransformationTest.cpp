@@ -1,11 +1,12 @@
 #include "Boxes.h"
 
-#include <SysDisplay/DisplayTransformation.h>
+#include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <cmath>
 #include <limits>
 
 using SysDisplay::DisplayTransformation;
+using SysDisplay::DisplayTransformationHost;
 using SysGeometry::Envelope;
 
 namespace {
@@ -67,7 +68,7 @@ private slots:
   void scalesStay() {
     DisplayTransformation transformation;
     transformation.SetPageScale(3.125);
-    transformation.SetMapScale(25000);
+    DisplayTransformationHost::setMapScale(transformation, 25000);
     auto const clone = transformation.Clone();
     clone->SetDeviceFrame(QRect(0, 0, 512, 512));
     clone->SetVisibleBounds(box(QRectF(0, 0, 1, 1)));

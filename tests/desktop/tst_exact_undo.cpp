@@ -2,12 +2,16 @@
 #include "LayerFixture.h"
 #include "desktop/WorkbenchPage.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/Placement.h"
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
 
 #include <random>
 
+using SysCarto::MapDocumentHost;
 using SysCarto::MapFrameElement;
+using SysCarto::MapHost;
 
 namespace {
 
@@ -47,31 +51,31 @@ private slots:
       QCOMPARE(page.bench.plugin().state(), PluginLibrary::State::Loaded);
       auto& document = page.bench.session().document();
       QVERIFY(page.bench.session().open(folder_.filePath("start.kdx")));
-      QByteArray const saved = document.GetText();
+      QByteArray const saved = MapDocumentHost::text(document);
       QByteArray start = saved;
       Apart apartAtStart = apart(page);
       for (int step = 0; step < stepsOfASequence; ++step) {
-        int const known = document.history()->count();
+        int const known = MapDocumentHost::history(document)->count();
         doSomething(page);
-        if (document.history()->count() > 0) continue;
-        start = document.GetText();  // what the history can take back begins here
+        if (MapDocumentHost::history(document)->count() > 0) continue;
+        start = MapDocumentHost::text(document);  // what the history can take back begins here
         apartAtStart = apart(page);
         fresh += known > 0;
       }
       auto const history = document.GetOperationStack();
       while (history->CanRedo()) history->Redo();
-      QByteArray const end = document.GetText();
+      QByteArray const end = MapDocumentHost::text(document);
       Apart const apartAtEnd = apart(page);
 
       for (; history->CanUndo(); ++steps) history->Undo();
-      if (!document.isModified()) QVERIFY(document.GetText() == saved);
+      if (!document.isModified()) QVERIFY(MapDocumentHost::text(document) == saved);
       QCOMPARE(apart(page).alignsToMargins, apartAtEnd.alignsToMargins);
       put(page, apartAtStart);
-      QVERIFY2(document.GetText() == start, qPrintable(QString("sequence %1").arg(i)));
+      QVERIFY2(MapDocumentHost::text(document) == start, qPrintable(QString("sequence %1").arg(i)));
 
       while (history->CanRedo()) history->Redo();
       put(page, apartAtEnd);
-      QVERIFY2(document.GetText() == end, qPrintable(QString("sequence %1").arg(i)));
+      QVERIFY2(MapDocumentHost::text(document) == end, qPrintable(QString("sequence %1").arg(i)));
     }
     QVERIFY2(steps > sequences * 2, qPrintable(QString::number(steps)));  // or the steps did nothing
     QVERIFY2(fresh > sequences / 10, qPrintable(QString::number(fresh)));
@@ -97,7 +101,7 @@ private slots:
 
     auto const map = page.add<MapFrameElement>(1.0, 9.0, 9.0, 17.0)->GetMap();
     map->SetExtent(make<SysGeometry::Envelope>(0.1, 0.2, 1000.0 / 3, 5.0));
-    auto const composed = map->GetStoredBounds();
+    auto const composed = MapHost::storedBounds(*map);
     QVERIFY(page.run("Host_MapView"));
     page.shown().grab();
     for (int turn : {120, 120, -120}) page.wheel({0, turn});
@@ -107,7 +111,7 @@ private slots:
     history->Undo();
     history->Undo();
     QCOMPARE(lastStep(), QString("Delete the selected elements"));
-    QVERIFY(SysCarto::haveSameCorners(map->GetStoredBounds(), composed));
+    QVERIFY(SysCarto::haveSameCorners(MapHost::storedBounds(*map), composed));
 
     for (int i = 0; i < 4; ++i) history->Undo();
     QVERIFY(!history->CanUndo());

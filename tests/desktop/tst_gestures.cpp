@@ -1,5 +1,8 @@
 #include "desktop/WorkbenchPage.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
+
+using SysCarto::MapDocumentHost;
 using SysCarto::MapFrameElement;
 using SysCarto::RectangleElement;
 
@@ -99,20 +102,20 @@ private slots:
     auto const [press] = fetched<QPointF>();
     Page page;
     page.click(page.pixel(4, 5));
-    QByteArray const before = page.bench.session().document().GetText();
+    QByteArray const before = MapDocumentHost::text(page.bench.session().document());
     page.mouse(QEvent::MouseButtonPress, page.pixel(press.x(), press.y()));
     page.mouse(QEvent::MouseMove, page.pixel(16, 20));
     page.key(Qt::Key_Escape);
     page.mouse(QEvent::MouseMove, page.pixel(17, 20));
     page.mouse(QEvent::MouseButtonRelease, page.pixel(17, 20));
-    QVERIFY(page.bench.session().document().GetText() == before);
+    QVERIFY(MapDocumentHost::text(page.bench.session().document()) == before);
     QCOMPARE(page.selected(), QList<int>{page.left->GetHandle()});
     QVERIFY(!page.bench.session().document().GetOperationStack()->CanUndo());
   }
 
   void aLockedFrameResistsAll() {
     Page page;
-    QByteArray const place = page.bench.session().document().GetText();
+    QByteArray const place = MapDocumentHost::text(page.bench.session().document());
     page.frame->SetLocked(true);
     page.click(page.pixel(8, 18));
     page.drag(page.pixel(1, 11), page.pixel(15, 25));
@@ -127,7 +130,7 @@ private slots:
     page.key(Qt::Key_Left);
     QVERIFY(!page.run("Host_Delete"));
     page.frame->SetLocked(false);
-    QVERIFY(page.bench.session().document().GetText() == place);
+    QVERIFY(MapDocumentHost::text(page.bench.session().document()) == place);
   }
 
   void aHandThatTremblesMovesNothing() {

@@ -2,6 +2,7 @@
 #include "Files.h"
 #include "desktop/WorkbenchPage.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/BoxTitles.h"
 #include "host/desktop/CommandCatalogue.h"
@@ -9,6 +10,8 @@
 #include "host/desktop/MainWindow.h"
 #include "host/desktop/NoticeBar.h"
 #include "host/desktop/ScaleText.h"
+
+using SysCarto::MapDocumentHost;
 
 namespace {
 
@@ -96,10 +99,10 @@ private slots:
     QVERIFY(page.run("Host_MapView"));
     QCOMPARE(namesWhere(true), QStringList({"LockDataFrame", "UnlockDataFrame"}));
 
-    QByteArray const before = page.bench.session().document().GetText();
+    QByteArray const before = MapDocumentHost::text(page.bench.session().document());
     for (QString const& name : namesWhere(false))  // a dialog would wait for an answer
       if (name != "MapFrame") page.bench.commands().find("Plotvane_" + name)->command->OnClick();
-    QVERIFY(page.bench.session().document().GetText() == before);
+    QVERIFY(MapDocumentHost::text(page.bench.session().document()) == before);
   }
 
   void aDocumentThatCanNotBeReadChangesNothing() {
@@ -145,7 +148,7 @@ private slots:
     sample.trigger("Host_Save");
     QCOMPARE(contentOf(path) != theirs, writes);
     QCOMPARE(sample.window.isWindowModified(), !writes);
-    sample.document().history()->setClean();
+    MapDocumentHost::history(sample.document())->setClean();
   }
 
   void dataThatChangeAreReadAgain() {
@@ -259,7 +262,7 @@ private slots:
       boxes << page.add<SysCarto::RectangleElement>(x, y, x + 1.2 + 0.2 * i, y + 2.6 - 0.2 * i);
     }
     page.view().refresh(SysCarto::RefreshPhase::Everything);
-    QByteArray const start = page.bench.session().document().GetText();
+    QByteArray const start = MapDocumentHost::text(page.bench.session().document());
     auto const picture = [&](char const* name) {
       for (int i = 0; i < 3; ++i) QTest::qWait(20);
       QString const folder = qEnvironmentVariable("PLOTVANE_PICTURES");
@@ -297,8 +300,8 @@ private slots:
     QTest::keyClick(&window, Qt::Key_Escape);
     while (window.actions().find("Host_Undo")->isEnabled()) QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
     page.layout()->SetAlignToMargins(false);
-    QVERIFY(page.bench.session().document().GetText() == start);
-    page.bench.session().document().history()->setClean();
+    QVERIFY(MapDocumentHost::text(page.bench.session().document()) == start);
+    MapDocumentHost::history(page.bench.session().document())->setClean();
   }
 
   void theContentsFollowTheDataFrames() {
@@ -327,13 +330,13 @@ private slots:
     QVERIFY(layout->GetFocusMap() == sample.document().GetMap(0));
     QTRY_VERIFY(isBold(0) && !isBold(1));
 
-    sample.document().history()->setClean();
+    MapDocumentHost::history(sample.document())->setClean();
     page.run("Plotvane_LockDataFrame");
     auto const corner = layout->GetGraphicsContainer()->GetElements().last()->GetEnvelope();
     QTest::mouseDClick(&page.view(), Qt::LeftButton, {}, page.pixel(corner->GetXMax() - 0.1, corner->GetYMin() + 0.1));
     QVERIFY(layout->GetFocusMap() == sample.document().GetMap(1));
     QTRY_VERIFY(isBold(1));
-    QVERIFY(sample.document().history()->isClean());
+    QVERIFY(MapDocumentHost::history(sample.document())->isClean());
   }
 
   void hidingALayerIsAStep() {

@@ -3,6 +3,8 @@
 #include "ElementFields.h"
 
 #include "host/SysCarto/document/LayerSettings.h"
+#include "host/SysCarto/elements/ElementHost.h"
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/MapLimits.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysUtility/JsonFile.h"
@@ -35,7 +37,7 @@ void giveHandles(QList<_ptr_t<Element>> const& elements) {
   ElementHandle highest = 0;
   for (auto const& element : elements) highest = std::max(highest, element->GetHandle());
   for (auto const& element : elements)
-    if (element->GetHandle() == 0) element->setHandle(++highest);
+    if (element->GetHandle() == 0) ElementHost::setHandle(*element, ++highest);
 }
 
 // The elements of a page or a map. Reading adds them to the container.
@@ -56,7 +58,8 @@ struct MapSettings {
 
   static MapSettings of(Map const& map) {
     MapSettings settings{map.GetName(), map.GetCoordinateSystem()};
-    map.GetStoredBounds().QueryCoords(settings.bounds[0], settings.bounds[1], settings.bounds[2], settings.bounds[3]);
+    MapHost::storedBounds(map).QueryCoords(settings.bounds[0], settings.bounds[1], settings.bounds[2],
+                                           settings.bounds[3]);
     return settings;
   }
 

@@ -1,5 +1,7 @@
 #include "ElementFields.h"
 
+#include "host/SysCarto/elements/ElementHost.h"
+
 #include <algorithm>
 
 namespace SysCarto {
@@ -59,7 +61,7 @@ constexpr Kind kind(int number, char const* name, char const* caption) {
             settings.list(fields, scope);
             if (!fields.isReading() || !fields.ok()) return;
             auto const made = SysUtility::make<T>();
-            if (common.handle != 0) made->setHandle(common.handle);
+            if (common.handle != 0) ElementHost::setHandle(*made, common.handle);
             made->SetName(common.name);
             settings.applyTo(*made, scope);
             element = made;

@@ -1,16 +1,19 @@
-#include <SysCarto/MapDocument.h>
-#include <SysDisplay/Units.h>
-
+#include "MapDocumentHost.h"
 #include "DocumentFields.h"
 #include "OperationStack.h"
 
 #include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/layout/PageLimits.h"
 #include "host/SysCarto/layout/PageOrder.h"
+#include "host/SysCarto/maps/MapHost.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysUtility/ChangeMark.h"
 #include "host/SysUtility/FileSaver.h"
 #include "host/SysUtility/JsonFields.h"
 #include "host/SysUtility/JsonFile.h"
+
+#include <SysDisplay/Units.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -121,8 +124,8 @@ void MapDocument::Private::becomeClean() {
 }
 
 quint64 MapDocument::Private::lastChange() const {
-  quint64 last = std::max(change.time(), content.layout->lastChange());
-  for (auto const& map : mapsOf(*content.layout)) last = std::max(last, map->lastChange());
+  quint64 last = std::max(change.time(), PageLayoutHost::lastChange(*content.layout));
+  for (auto const& map : mapsOf(*content.layout)) last = std::max(last, MapHost::lastChange(*map));
   return last;
 }
 
@@ -254,7 +257,7 @@ QImage MapDocument::Thumbnail() const {
   picture.fill(Qt::white);
   auto const transformation = make<SysDisplay::DisplayTransformation>();
   transformation->SetDeviceFrame(picture.rect());
-  transformation->SetFillsWidth(true);
+  SysDisplay::DisplayTransformationHost::setFillsWidth(*transformation, true);
   transformation->SetVisibleBounds(page->GetPageEnvelope());
   transformation->SetPageScale(pixelsPerCm * SysDisplay::cmPerInch / SysDisplay::pixelsPerInch);
   transformation->SetPaintDevice(&picture);
@@ -267,32 +270,35 @@ QImage MapDocument::Thumbnail() const {
 bool MapDocument::IsUsesRelativePaths() const { return d->content.relativePaths; }
 
 void MapDocument::ReplaceContents(_ptr_t<IKdxContents> const& contents) {
-  if (contents) setPageLayout(contents->GetPageLayout());
+  if (contents) MapDocumentHost::setPageLayout(*this, contents->GetPageLayout());
 }
 
 QString MapDocument::GetPath() const { return d->path; }
 
-QByteArray MapDocument::GetText() const {
-  QString problem;
-  return d->content.layout ? d->textFor(d->path, d->content.relativePaths, problem).value_or(QByteArray())
-                           : QByteArray();
-}
-
 QStringList MapDocument::GetErrors() const { return d->errors; }
 QStringList MapDocument::GetWarnings() const { return d->warnings; }
-int MapDocument::GetUnreadableSourceCount() const { return d->unreadableSources; }
-QUndoStack* MapDocument::history() const { return &d->history; }
-
-void MapDocument::setPageLayout(_ptr_t<PageLayout> const& layout) {
-  if (layout == d->content.layout) return;
-  if (layout && d->content.layout) layout->succeed(*d->content.layout);
-  d->setLayout(layout);
-}
 
 // The focus comes and goes with data frames, and so with the steps of the history: it is compared, not counted.
 bool MapDocument::isModified() const {
   auto const& layout = d->content.layout;
   return layout && (!d->history.isClean() || d->lastChange() > d->cleanTime || layout->GetFocusMap() != d->cleanFocus);
 }
+
+QUndoStack* MapDocumentHost::history(MapDocument const& document) { return &document.d->history; }
+
+void MapDocumentHost::setPageLayout(MapDocument& document, _ptr_t<PageLayout> const& layout) {
+  _ptr_t<PageLayout> const former = document.d->content.layout;
+  if (layout == former) return;
+  if (layout && former) PageLayoutHost::succeed(*layout, *former);
+  document.d->setLayout(layout);
+}
+
+QByteArray MapDocumentHost::text(MapDocument const& document) {
+  MapDocument::Private const& d = *document.d;
+  QString problem;
+  return d.content.layout ? d.textFor(d.path, d.content.relativePaths, problem).value_or(QByteArray()) : QByteArray();
+}
+
+int MapDocumentHost::unreadableSources(MapDocument const& document) { return document.d->unreadableSources; }
 
 }  // namespace SysCarto

@@ -1,6 +1,5 @@
 #include "ElementContainer.h"
-
-#include <SysCarto/Element.h>
+#include "ElementHost.h"
 
 namespace SysCarto {
 
@@ -19,7 +18,6 @@ Element::Element(Element const& other) : CRef(other), d(std::make_unique<Private
 Element::~Element() = default;
 
 ElementHandle Element::GetHandle() const { return d->handle; }
-void Element::setHandle(ElementHandle handle) { d->handle = handle; }
 
 QString Element::GetName() const { return d->name; }
 void Element::SetName(QString const& name) {
@@ -28,11 +26,8 @@ void Element::SetName(QString const& name) {
   changed();
 }
 
-bool Element::isPlaced() const { return d->container != nullptr; }
-void Element::setContainer(ElementContainer* container) { d->container = container; }
-
-bool Element::isLabel() const { return d->label; }
-void Element::becomeLabel() { d->label = true; }
+void Element::handleChanged() {}
+void Element::containerChanged() {}
 
 void Element::changed() {
   if (d->container) d->container->elementChanged();
@@ -41,5 +36,21 @@ void Element::changed() {
 void Element::moved() {
   if (d->container) d->container->elementMoved();
 }
+
+void ElementHost::setHandle(Element& element, ElementHandle handle) {
+  if (handle == element.d->handle) return;
+  element.d->handle = handle;
+  element.handleChanged();
+}
+
+void ElementHost::setContainer(Element& element, ElementContainer* container) {
+  bool const wasPlaced = isPlaced(element);
+  element.d->container = container;
+  if (isPlaced(element) != wasPlaced) element.containerChanged();
+}
+
+bool ElementHost::isPlaced(Element const& element) { return element.d->container != nullptr; }
+bool ElementHost::isLabel(Element const& element) { return element.d->label; }
+void ElementHost::becomeLabel(Element& element) { element.d->label = true; }
 
 }  // namespace SysCarto

@@ -2,6 +2,7 @@
 
 #include "EditorRecord.h"
 #include "TextElement.h"
+#include "ElementHost.h"
 
 #include "host/SysDisplay/DrawTarget.h"
 
@@ -71,7 +72,7 @@ namespace SysCarto {
 ElementContainer::ElementContainer() : token_(std::make_shared<ElementContainer*>(this)) {}
 
 ElementContainer::~ElementContainer() {
-  for (ElementPtr const& element : qAsConst(order_.elements)) element->setContainer(nullptr);
+  for (ElementPtr const& element : qAsConst(order_.elements)) ElementHost::setContainer(*element, nullptr);
 }
 
 ElementPtr ElementContainer::find(ElementHandle handle) const {
@@ -96,14 +97,14 @@ void ElementContainer::changing(bool stays) {
 }
 
 void ElementContainer::AddElement(ElementPtr const& element) {
-  if (!element || element->isPlaced()) return;
-  changing(!element->isLabel());
+  if (!element || ElementHost::isPlaced(*element)) return;
+  changing(!ElementHost::isLabel(*element));
   ElementHandle const handle = freeHandle(element->GetHandle());
   qint64 const rank = order_.elements.isEmpty() ? 0 : order_.elements.lastKey() + 1;
   order_.elements.insert(order_.elements.constEnd(), rank, element);
   order_.ranks.insert(handle, rank);
-  element->setHandle(handle);
-  element->setContainer(this);
+  ElementHost::setHandle(*element, handle);
+  ElementHost::setContainer(*element, this);
 }
 
 void ElementContainer::AddElements(QList<ElementPtr> const& elements) {
@@ -114,11 +115,11 @@ QList<ElementPtr> ElementContainer::GetElements() const { return order_.elements
 
 void ElementContainer::DeleteElement(ElementPtr const& element) {
   if (!holds(element)) return;
-  changing(!element->isLabel());
+  changing(!ElementHost::isLabel(*element));
   ElementHandle const handle = element->GetHandle();
   ElementPtr const taken = order_.elements.take(order_.ranks.take(handle));
   selection_.removeOne(handle);
-  taken->setContainer(nullptr);
+  ElementHost::setContainer(*taken, nullptr);
 }
 
 int ElementContainer::GetSelectedElementCount() const { return selection_.size(); }
@@ -141,12 +142,12 @@ void ElementContainer::UnselectElement(ElementPtr const& element) {
 
 void ElementContainer::ReplaceElement(ElementHandle handle, ElementPtr const& element) {
   ElementPtr const old = find(handle);
-  if (!old || !element || (element->isPlaced() && element != old)) return;
+  if (!old || !element || (ElementHost::isPlaced(*element) && element != old)) return;
   changing();
   order_.elements[order_.ranks.value(handle)] = element;
-  old->setContainer(nullptr);
-  element->setHandle(handle);
-  element->setContainer(this);
+  ElementHost::setContainer(*old, nullptr);
+  ElementHost::setHandle(*element, handle);
+  ElementHost::setContainer(*element, this);
 }
 
 void ElementContainer::BringForward(QList<ElementPtr> const& elements) { restack(elements, broughtForward); }
@@ -196,8 +197,8 @@ void ElementContainer::elementMoved() {
 
 void ElementContainer::exchange(Order& other) {
   std::swap(order_, other);
-  for (ElementPtr const& element : qAsConst(other.elements)) element->setContainer(nullptr);
-  for (ElementPtr const& element : qAsConst(order_.elements)) element->setContainer(this);
+  for (ElementPtr const& element : qAsConst(other.elements)) ElementHost::setContainer(*element, nullptr);
+  for (ElementPtr const& element : qAsConst(order_.elements)) ElementHost::setContainer(*element, this);
   selection_.erase(std::remove_if(selection_.begin(), selection_.end(),
                                   [this](ElementHandle handle) { return !order_.ranks.contains(handle); }),
                    selection_.end());

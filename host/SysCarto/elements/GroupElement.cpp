@@ -1,4 +1,5 @@
 #include "Placement.h"
+#include "ElementHost.h"
 #include "TextElement.h"
 
 #include <SysCarto/GroupElement.h>
@@ -20,7 +21,7 @@ GroupElement::~GroupElement() = default;
 
 void GroupElement::AddElement(_ptr_t<Element> const& element) {
   if (!element || element.get() == this) return;
-  element->setHandle(0);  // no container knows it
+  ElementHost::setHandle(*element, 0);  // no container knows it
   members_ << element;
 }
 

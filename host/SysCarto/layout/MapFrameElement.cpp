@@ -1,6 +1,8 @@
 #include "MapPicture.h"
 
+#include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/elements/Placement.h"
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/SysDisplay/DrawTarget.h"
 
 #include <SysCarto/Map.h>
@@ -53,9 +55,9 @@ _ptr_t<Map> MapFrameElement::GetMap() const { return d->map; }
 
 void MapFrameElement::SetMap(_ptr_t<Map> const& map) {
   if (!map) return;
-  if (isPlaced()) d->map->leaveFrame();
+  if (ElementHost::isPlaced(*this)) MapHost::countFrame(*d->map, false);
   d->map = map;
-  if (isPlaced()) d->map->enterFrame();
+  if (ElementHost::isPlaced(*this)) MapHost::countFrame(*d->map, true);
   rectangleChanged();
   changed();
 }
@@ -100,23 +102,18 @@ _ptr_t<Geometry> MapFrameElement::GetBoundary(_ptr_t<DisplayTransformation> cons
 
 _ptr_t<Element> MapFrameElement::Clone() const { return SysUtility::make<MapFrameElement>(*this); }
 
-void MapFrameElement::setHandle(ElementHandle handle) {
-  if (handle != GetHandle()) d->locked = std::make_shared<bool>(*d->locked);
-  Element::setHandle(handle);
-}
+void MapFrameElement::handleChanged() { d->locked = std::make_shared<bool>(*d->locked); }
 
-void MapFrameElement::setContainer(ElementContainer* container) {
-  if (container && !isPlaced()) d->map->enterFrame();
-  if (!container && isPlaced()) d->map->leaveFrame();
-  Element::setContainer(container);
+void MapFrameElement::containerChanged() {
+  MapHost::countFrame(*d->map, ElementHost::isPlaced(*this));
   rectangleChanged();
 }
 
 // A clone that nobody has put on the page yet must not reach through to the map that it shares.
 void MapFrameElement::rectangleChanged() {
-  if (!isPlaced()) return;
+  if (!ElementHost::isPlaced(*this)) return;
   _ptr_t<Envelope> const rectangle = GetEnvelope();
-  d->map->setFrameSize(rectangle->GetWidth(), rectangle->GetHeight());
+  MapHost::setFrameSize(*d->map, rectangle->GetWidth(), rectangle->GetHeight());
 }
 
 }  // namespace SysCarto

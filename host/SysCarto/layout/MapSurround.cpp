@@ -1,6 +1,6 @@
 #include "MapSurroundHost.h"
 
-#include <SysCarto/Map.h>
+#include "host/SysCarto/maps/MapHost.h"
 
 #include <QCoreApplication>
 
@@ -31,7 +31,7 @@ Envelope const& MapSurround::rectangle() const { return d->rectangle; }
 QString MapSurround::title() const { return QCoreApplication::translate("MapSurround", "Map surround"); }
 
 bool MapSurround::hasPlace() const {
-  return d->map && d->map->isFramed() && d->rectangle.GetWidth() > 0 && d->rectangle.GetHeight() > 0;
+  return d->map && MapHost::isFramed(*d->map) && d->rectangle.GetWidth() > 0 && d->rectangle.GetHeight() > 0;
 }
 
 }  // namespace SysCarto

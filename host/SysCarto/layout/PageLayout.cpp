@@ -1,11 +1,12 @@
 #include "PageHost.h"
+#include "PageLayoutHost.h"
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/elements/Placement.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurroundFrame.h>
-#include <SysCarto/PageLayout.h>
 #include <SysDisplay/Units.h>
 
 #include <algorithm>
@@ -93,7 +94,7 @@ struct PageLayout::Private {
 // Even without a page it has an extent, so that symbols have their size on paper.
 PageLayout::PageLayout() : d(std::make_unique<Private>()) {
   GetDisplayTransformation()->SetDeviceFrame(firstFramePx);
-  GetDisplayTransformation()->SetFillsWidth(true);
+  SysDisplay::DisplayTransformationHost::setFillsWidth(*GetDisplayTransformation(), true);
   show(*extentAt(1, firstFramePx));
 }
 PageLayout::~PageLayout() = default;
@@ -135,8 +136,9 @@ void PageLayout::QueryOutputSize(int dpi, int& width, int& height) const {
 Page* PageLayout::GetPage() const { return d->page.get(); }
 void PageLayout::SetPage(_ptr_t<Page> const& page) { d->change.set(d->page, page); }
 
-quint64 PageLayout::lastChange() const {
-  return std::max({d->change.time(), d->page ? PageHost::lastChange(*d->page) : 0, d->elements.lastChange()});
+quint64 PageLayoutHost::lastChange(PageLayout const& layout) {
+  PageLayout::Private const& d = *layout.d;
+  return std::max({d.change.time(), d.page ? PageHost::lastChange(*d.page) : 0, d.elements.lastChange()});
 }
 
 void PageLayout::ZoomToRatio(double ratio) {
@@ -180,10 +182,11 @@ void PageLayout::ReplaceMaps(QList<_ptr_t<Map>> const& maps) {
   SetFocusMap(!focus || maps.contains(focus) ? focus : d->firstWithLayers());
 }
 
-void PageLayout::succeed(PageLayout const& former) {
-  if (!d->shows(d->focus)) SetFocusMap(former.GetFocusMap());
-  for (auto const& surround : d->surrounds())
-    if (!d->shows(surround->GetMap())) surround->SetMap(GetFocusMap());
+void PageLayoutHost::succeed(PageLayout& layout, PageLayout const& former) {
+  PageLayout::Private const& d = *layout.d;
+  if (!d.shows(d.focus)) layout.SetFocusMap(former.GetFocusMap());
+  for (auto const& surround : d.surrounds())
+    if (!d.shows(surround->GetMap())) surround->SetMap(layout.GetFocusMap());
 }
 
 _ptr_t<Map> PageLayout::GetFocusMap() const {

@@ -1,11 +1,11 @@
-#include <SysCarto/Map.h>
-
+#include "MapHost.h"
 #include "MapLimits.h"
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/elements/Placement.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/projection/GroundScale.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <QCoreApplication>
 
@@ -16,6 +16,7 @@
 namespace SysCarto {
 
 using SysDisplay::DisplayTransformation;
+using SysDisplay::DisplayTransformationHost;
 using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
 using SysUtility::make;
@@ -66,9 +67,9 @@ void Map::Private::fit() {
   double const x = bounds.GetXMin() + bounds.GetWidth() / 2, y = bounds.GetYMin() + bounds.GetHeight() / 2;
   transformation->SetDeviceFrame(frame);
   transformation->SetVisibleBounds(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
-  transformation->SetPatternOrigin(x - halfWidth, y + halfHeight);
+  DisplayTransformationHost::setPatternOrigin(*transformation, x - halfWidth, y + halfHeight);
   double const groundMetres = scale * ground->metresPerUnit(x, y, 2 * halfWidth * scaleStep);
-  transformation->SetMapScale(groundMetres / metresPerMicrometre);
+  DisplayTransformationHost::setMapScale(*transformation, groundMetres / metresPerMicrometre);
 }
 
 Map::Map() : d(std::make_unique<Private>()) {
@@ -112,19 +113,18 @@ double Map::GetNorthAngle() const {
   return d->ground->northAngle(centre->GetX(), centre->GetY());
 }
 
-Envelope Map::GetStoredBounds() const { return d->bounds; }
+Envelope MapHost::storedBounds(Map const& map) { return map.d->bounds; }
 
-void Map::setFrameSize(double widthCm, double heightCm) {
+void MapHost::setFrameSize(Map& map, double widthCm, double heightCm) {
   if (!(std::isfinite(widthCm) && std::isfinite(heightCm) && widthCm > 0 && heightCm > 0)) return;
   QRect const frame(0, 0, micrometres(widthCm), micrometres(heightCm));
-  if (frame == d->frame) return;
-  d->frame = frame;
-  d->fit();
+  if (frame == map.d->frame) return;
+  map.d->frame = frame;
+  map.d->fit();
 }
 
-void Map::enterFrame() { ++d->frames; }
-void Map::leaveFrame() { --d->frames; }
-bool Map::isFramed() const { return d->frames > 0; }
+void MapHost::countFrame(Map& map, bool comes) { map.d->frames += comes ? 1 : -1; }
+bool MapHost::isFramed(Map const& map) { return map.d->frames > 0; }
 
 void Map::applyExtent(Envelope const& extent) {
   auto const bounds = extent.GetEnvelope();
@@ -134,9 +134,9 @@ void Map::applyExtent(Envelope const& extent) {
   d->fit();
 }
 
-quint64 Map::lastChange() const {
-  quint64 last = std::max(d->change.time(), d->graphics.lastChange());
-  for (auto const& layer : qAsConst(d->layers)) last = std::max(last, LayerHost::lastChange(*layer));
+quint64 MapHost::lastChange(Map const& map) {
+  quint64 last = std::max(map.d->change.time(), map.d->graphics.lastChange());
+  for (auto const& layer : qAsConst(map.d->layers)) last = std::max(last, LayerHost::lastChange(*layer));
   return last;
 }
 

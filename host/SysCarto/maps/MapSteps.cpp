@@ -1,4 +1,5 @@
 #include "MapSteps.h"
+#include "MapHost.h"
 
 #include "host/SysCarto/elements/EditorHost.h"
 #include "host/SysCarto/elements/Placement.h"
@@ -65,12 +66,12 @@ void take(std::unique_ptr<QUndoCommand> step) {
 
 // What the map makes of the extent is known when it shows it.
 bool change(QString const& name, int joining, Map& map, Envelope const& extent) {
-  Envelope const before = map.GetStoredBounds();
+  Envelope const before = MapHost::storedBounds(map);
   {
     SysUtility::ChangeMark::Step const step;
     put(map, extent);
   }
-  Envelope const after = map.GetStoredBounds();
+  Envelope const after = MapHost::storedBounds(map);
   if (haveSameCorners(before, after)) return haveSameCorners(before, extent);
   take(std::make_unique<ValueStep<Map, Envelope>>(name, joining, map, before, after));
   return true;

@@ -1,5 +1,6 @@
 #include "VectorLayer.h"
 
+#include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/labels/LabelPlacer.h"
 #include "host/SysCarto/layers/FeaturePainter.h"
@@ -98,7 +99,7 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
   placer.place([&] { return isCancelled(cancel); });
   for (PlacedLabel const& placed : placer.labels()) {
     auto const element = make<TextElement>();
-    element->becomeLabel();
+    ElementHost::becomeLabel(*element);
     element->setText(placed.text);
     element->setSymbol(placed.symbol);
     element->setPosition(placed.x, placed.y);

@@ -12,8 +12,6 @@ class QPainter;
 
 namespace SysCarto {
 
-class ElementContainer;
-
 /// The number by which a container knows an element: unique in it, positive, never used again. 0 is no element.
 using ElementHandle = int;
 
@@ -77,22 +75,9 @@ public:
   /// shared.
   virtual SysUtility::_ptr_t<Element> Clone() const = 0;
 
-  // Beyond what the commands of a plug-in need.
-
   /// The name by which a person finds the element; may be empty.
   QString GetName() const;
   void SetName(QString const& name);
-
-  /// A container tells its elements their handle, and that they lie in it or, with null, in none any more. Nobody else
-  /// calls these.
-  virtual void setHandle(ElementHandle handle);
-  virtual void setContainer(ElementContainer* container);
-  bool isPlaced() const;
-
-  /// A label lies in a container while it is drawn and no longer, so that its coming and going change no document. A
-  /// clone is an element like others.
-  bool isLabel() const;
-  void becomeLabel();
 
 protected:
   /// What is stored of the element has changed where it lies: no step of the history knows of that.
@@ -106,6 +91,14 @@ protected:
   Element& operator=(Element const&) = delete;
 
 private:
+  friend struct ElementHost;
+
+  /// The element has another handle.
+  virtual void handleChanged();
+
+  /// A container has taken the element in, or has let it go.
+  virtual void containerChanged();
+
   struct Private;
   std::unique_ptr<Private> d;
 };

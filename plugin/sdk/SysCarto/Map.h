@@ -32,8 +32,6 @@ public:
   SysUtility::_ptr_t<Map> GetFocusMap() const override;
   IElementContainer* GetGraphicsContainer() const override;
 
-  // Beyond what the commands of a plug-in need.
-
   /// Appends a layer on top. It must hold its data in the map's coordinate system.
   void AddLayer(SysUtility::_ptr_t<Layer> const& layer);
 
@@ -46,27 +44,14 @@ public:
   /// Degrees, counterclockwise from up, to true north at the map's centre; 0 in plain coordinates and at a pole.
   double GetNorthAngle() const;
 
-  /// The bounds as they were set, before they are fitted to the frame; a document stores these.
-  SysGeometry::Envelope GetStoredBounds() const;
-
   /// The denominator of the scale; 0 for a map without layers, whose extent means nothing.
   double scale() const;
-
-  // Told by the data frames that are on a page: the size on paper, and that one comes or goes.
-  void setFrameSize(double widthCm, double heightCm);
-  void enterFrame();
-  void leaveFrame();
-
-  /// Whether a data frame on a page shows the map.
-  bool isFramed() const;
-
-  /// When the map, a layer or a graphic of it was last changed outside the history's steps (`ChangeMark`).
-  quint64 lastChange() const;
 
 protected:
   void applyExtent(SysGeometry::Envelope const& extent) override;
 
 private:
+  friend struct MapHost;
   struct Private;
   std::unique_ptr<Private> d;
 };

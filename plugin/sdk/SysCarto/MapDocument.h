@@ -4,14 +4,11 @@
 #include <SysCarto/PageLayout.h>
 #include <SysUI/IOperationStack.h>
 
-#include <QByteArray>
 #include <QImage>
 #include <QList>
 #include <QStringList>
 
 #include <memory>
-
-class QUndoStack;
 
 namespace SysCarto {
 
@@ -58,12 +55,7 @@ public:
   /// Takes over the layout that the contents show.
   virtual void ReplaceContents(SysUtility::_ptr_t<IKdxContents> const& contents);
 
-  // Beyond what the commands of a plug-in need.
-
   QString GetPath() const;
-
-  /// What a save to the document's file would write now; empty where there is nothing that can be saved.
-  QByteArray GetText() const;
 
   /// Sentences for people, each naming the file, the field and what is wrong; of the last `Open` or `Save`.
   QStringList GetErrors() const;
@@ -71,15 +63,11 @@ public:
   /// What the last `Open` passed over: unknown fields, data sources that could not be read.
   QStringList GetWarnings() const;
 
-  /// How many data sources the last `Open` could not read.
-  int GetUnreadableSourceCount() const;
-
   /// Whether a save would write what was neither read nor saved before. Costs a look at each element, no more.
   bool isModified() const;
-  QUndoStack* history() const;
-  void setPageLayout(SysUtility::_ptr_t<PageLayout> const& layout);
 
 private:
+  friend struct MapDocumentHost;
   struct Private;
   std::unique_ptr<Private> d;
 };

@@ -35,19 +35,18 @@ public:
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   SysUtility::_ptr_t<Element> Clone() const override;
 
-  // Beyond what the commands of a plug-in need.
-
   bool IsLocked() const;
 
   /// Shows another map. An empty pointer is ignored.
   void SetMap(SysUtility::_ptr_t<Map> const& map);
-  void setHandle(ElementHandle handle) override;
-  void setContainer(ElementContainer* container) override;
 
 protected:
   void rectangleChanged() override;
 
 private:
+  void handleChanged() override;
+  void containerChanged() override;
+
   struct Private;
   std::unique_ptr<Private> d;
 };

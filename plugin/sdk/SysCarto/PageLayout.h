@@ -53,23 +53,14 @@ public:
   void SetFocusMap(SysUtility::_ptr_t<Map> const& map) override;
   IElementContainer* GetGraphicsContainer() const override;
 
-  // Beyond what the commands of a plug-in need.
-
-  /// Takes the place of a layout whose maps it was given: where the focus is open, it stays where it was there, and
-  /// surrounds whose map no data frame shows follow the focus map.
-  void succeed(PageLayout const& former);
-
   /// Gives the layout a page; an empty pointer takes it away.
   void SetPage(SysUtility::_ptr_t<Page> const& page);
-
-  /// When the layout's settings, its page or its elements were last changed outside the history's steps (`ChangeMark`).
-  /// The focus counts for nothing: it is told by `GetFocusMap`.
-  quint64 lastChange() const;
 
 protected:
   void applyExtent(SysGeometry::Envelope const& extent) override;
 
 private:
+  friend struct PageLayoutHost;
   struct Private;
   std::unique_ptr<Private> d;
 };

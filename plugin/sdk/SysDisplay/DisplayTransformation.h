@@ -4,7 +4,6 @@
 #include <SysGeometry/Envelope.h>
 #include <SysGeometry/Point.h>
 
-#include <QPointF>
 #include <QRect>
 #include <QTransform>
 
@@ -47,7 +46,8 @@ public:
   virtual SysUtility::_ptr_t<SysGeometry::Envelope> GetVisibleBounds() const;
 
   /// What the device frame really shows: the visible bounds, widened to the aspect of the device frame. The upper left
-  /// corner stays; the rectangle grows to the right or downwards, or as `SetFillsWidth` says.
+  /// corner stays; the rectangle grows to the right or downwards. The width of a page fills the frame in any case; its
+  /// height is cut at the bottom where it is too high.
   virtual SysUtility::_ptr_t<SysGeometry::Envelope> GetFittedBounds() const;
 
   /// The pixel rectangle that the bounds map onto, corners inclusive as in every QRect: (0, 0)–(511, 511) is 512 pixels
@@ -63,20 +63,7 @@ public:
 
   virtual QRect GetDeviceFrame() const;
 
-  // Beyond what the commands of a plug-in need: for hosts and for those who draw.
-
-  void SetMapScale(double denominator);
-
-  /// Whether the width of the bounds always fills the frame, as a page does in a picture of whole pixels or of another
-  /// shape; the height then shows what it can from the top. Otherwise the bounds are shown whole.
-  void SetFillsWidth(bool fillsWidth);
-
-  /// The place in the world that hatches hang on, (0, 0) at first. All tiles of a picture share it: the nearer it is,
-  /// the better they agree on its pixels.
-  void SetPatternOrigin(double x, double y);
-
-  /// Where that place lies on the device, on the grid of the rasteriser.
-  QPointF PatternOrigin() const;
+  // For those who draw.
 
   QPaintDevice* GetPaintDevice() const;
 
@@ -87,6 +74,7 @@ public:
   double PixelsPerPoint() const;
 
 private:
+  friend struct DisplayTransformationHost;
   struct Private;
   std::unique_ptr<Private> d;
 };

@@ -2,12 +2,12 @@
 #include "LayerFixture.h"
 
 #include "host/SysCarto/document/DocumentFields.h"
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/EditorHost.h"
+#include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/layout/PageHost.h"
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/SysUtility/FieldTree.h"
-
-#include <SysCarto/Editor.h>
-#include <SysCarto/MapDocument.h>
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
@@ -117,7 +117,7 @@ private slots:
     QVERIFY(!ptr_cast<MapSurroundFrame>(elements[13])->GetMapSurround()->GetMap());
     QCOMPARE(document.GetMap(0)->GetGraphicsContainer()->GetElements().size(), 2);
     QVERIFY(layout->GetAlignToMargins());
-    QCOMPARE(document.history()->count(), 0);
+    QCOMPARE(MapDocumentHost::history(document)->count(), 0);
     QVERIFY(document.GetActiveView()->GetExtent()->Contains(layout->GetPage()->GetPageEnvelope()));
     for (_ptr_t<ActiveView> const& view : {document.GetActiveView(), _ptr_t<ActiveView>(document.GetMap(0))})
       QVERIFY(!view->GetExtentStack()->CanUndo() && !view->GetExtentStack()->CanRedo());
@@ -201,7 +201,7 @@ private slots:
     putChanged("rivers.kdx", {"maps", "0", "layers"}, QJsonArray{layer});
     MapDocument document;
     QVERIFY2(document.Open(path("rivers.kdx")), qPrintable(document.GetErrors().join('\n')));
-    QCOMPARE(document.GetUnreadableSourceCount(), 1);
+    QCOMPARE(MapDocumentHost::unreadableSources(document), 1);
     QCOMPARE(document.GetWarnings().size(), 1);
     QVERIFY2(document.GetWarnings().at(0).contains("data/rivers.gpkg"), qPrintable(document.GetWarnings().at(0)));
     QCOMPARE(document.GetMap(0)->GetLayerCount(), 1);
@@ -225,7 +225,7 @@ private slots:
     MapDocument document;
     QVERIFY2(document.Open(path("example.kdx")), qPrintable(document.GetErrors().join('\n')));
     QCOMPARE(document.GetWarnings().size(), 1);
-    QCOMPARE(document.GetUnreadableSourceCount(), 1);
+    QCOMPARE(MapDocumentHost::unreadableSources(document), 1);
     QCOMPARE(document.GetPageLayout()->GetGraphicsContainer()->GetElements().size(), 3);
   }
 
@@ -331,7 +331,7 @@ private slots:
     MapDocument document;
     document.New(QString());
     auto* const elements = document.GetPageLayout()->GetGraphicsContainer();
-    EditorHost::setHistory(document.history());
+    EditorHost::setHistory(MapDocumentHost::history(document));
     auto const add = [elements](_ptr_t<Element> const& element) {
       Editor::Instance()->StartOperation("step");
       elements->AddElement(element);
@@ -341,7 +341,7 @@ private slots:
     auto const first = add(make<RectangleElement>());
     if (turned) document.GetPageLayout()->GetPage()->SetOrientation(2);
     first->Move(dx, 0);
-    QCOMPARE(document.history()->count(), keepsHistory ? 1 : 0);  // nobody has asked for it yet
+    QCOMPARE(MapDocumentHost::history(document)->count(), keepsHistory ? 1 : 0);  // nobody has asked for it yet
 
     add(make<RectangleElement>());
     auto const operations = document.GetOperationStack();
@@ -359,7 +359,7 @@ private slots:
     row("the margins toggle", true, [](PageLayout& page) { page.SetAlignToMargins(!page.GetAlignToMargins()); });
     row("the focus", true, [](PageLayout& page) { page.SetFocusMap(mapsOn(page).first()); });
     row("the paper", true, [](PageLayout& page) { page.GetPage()->SetFormID(0); });
-    row("another custom size", true, [](PageLayout& page) { page.GetPage()->setCustomSize(7, 5); });
+    row("another custom size", true, [](PageLayout& page) { PageHost::setCustomSize(*page.GetPage(), 7, 5); });
     row("the orientation", true, [](PageLayout& page) { page.GetPage()->SetOrientation(1); });
     row("the page's border", true, [](PageLayout& page) { page.GetPage()->SetBorder(nullptr); });
     row("an element's name", true, [](PageLayout& page) { elementsOf(page).last()->SetName("Other"); });
@@ -374,14 +374,14 @@ private slots:
       page.GetFocusMapFrameElement()->SetLocked(false);
       page.SetFocusMap(page.GetFocusMap());
       page.GetPage()->SetOrientation(page.GetPage()->GetOrientation());
-      mapsOn(page)[0]->SetExtent(make<Envelope>(mapsOn(page)[0]->GetStoredBounds()));
+      mapsOn(page)[0]->SetExtent(make<Envelope>(MapHost::storedBounds(*mapsOn(page)[0])));
       elementsOf(page).last()->SetGeometry(elementsOf(page).last()->GetEnvelope());
     });
     row("a clone that nobody sees", false, [](PageLayout& page) { elementsOf(page)[0]->Clone()->Move(1, 1); });
     row("the view", false, [](PageLayout& page) { page.ZoomToRatio(2); });
     row("labels that come and go", false, [](PageLayout& page) {
       auto const label = make<TextElement>();
-      label->becomeLabel();
+      ElementHost::becomeLabel(*label);
       mapsOn(page)[0]->GetGraphicsContainer()->AddElement(label);
       mapsOn(page)[0]->GetGraphicsContainer()->DeleteElement(label);
     });
@@ -401,14 +401,14 @@ private slots:
   void anotherLayoutStartsANewHistory() {
     MapDocument document;
     document.New(QString());
-    document.history()->push(new QUndoCommand("step"));
+    MapDocumentHost::history(document)->push(new QUndoCommand("step"));
     auto const operations = document.GetOperationStack();
     QCOMPARE(operations->GetUndoName(), QString("step"));
     auto const contents = make<Contents>();
     contents->layout = document.GetPageLayout();
     document.ReplaceContents(contents);
     QVERIFY(operations->CanUndo() && document.isModified());
-    document.history()->setClean();
+    MapDocumentHost::history(document)->setClean();
     QVERIFY(!document.isModified());
     contents->layout = make<PageLayout>();
     document.ReplaceContents(contents);
@@ -422,7 +422,7 @@ private slots:
       MapDocument document;
       document.New(QString());
       operations = document.GetOperationStack();
-      document.history()->push(new QUndoCommand("step"));
+      MapDocumentHost::history(document)->push(new QUndoCommand("step"));
       operations->Undo();
       QVERIFY(operations->CanRedo());
     }

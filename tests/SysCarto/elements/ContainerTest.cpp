@@ -3,8 +3,7 @@
 
 #include "host/SysCarto/elements/EditorHost.h"
 #include "host/SysCarto/elements/ElementContainer.h"
-
-#include <SysCarto/Editor.h>
+#include "host/SysCarto/elements/ElementHost.h"
 
 using namespace SysCarto;
 
@@ -108,8 +107,8 @@ private slots:
     container.DeleteElement(last);
     container.AddElement(named('D'));
     auto const far = named('E'), endless = named('F');
-    far->setHandle(500);
-    endless->setHandle(std::numeric_limits<int>::max());
+    ElementHost::setHandle(*far, 500);
+    ElementHost::setHandle(*endless, std::numeric_limits<int>::max());
     container.AddElements({far, endless, named('G')});
     QList<int> handles;
     for (auto const& element : container.GetElements()) handles << element->GetHandle();
@@ -154,11 +153,11 @@ private slots:
     QVERIFY(container.GetElements() == before);
     QCOMPARE(namesOf(other.GetElements()), QString("M"));
     QCOMPARE(namesOf(container.GetSelectedElements()), QString("ABD"));  // E has vanished, C was deleted
-    QVERIFY(before[1]->isPlaced() && !after[3]->isPlaced());
+    QVERIFY(ElementHost::isPlaced(*before[1]) && !ElementHost::isPlaced(*after[3]));
     history_.redo();
     QVERIFY(container.GetElements() == after);
     QCOMPARE(namesOf(other.GetElements()), QString("MN"));
-    QVERIFY(!before[1]->isPlaced() && after[3]->isPlaced());
+    QVERIFY(!ElementHost::isPlaced(*before[1]) && ElementHost::isPlaced(*after[3]));
   }
 
   void recordsOnlyOperationsThatHoldAChange() {
@@ -188,7 +187,7 @@ private slots:
     container.reset();
     history_.undo();
     history_.redo();
-    QVERIFY(!element->isPlaced());
+    QVERIFY(!ElementHost::isPlaced(*element));
   }
 
   void lockBelongsToTheHandle() {

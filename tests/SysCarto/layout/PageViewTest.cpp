@@ -1,9 +1,9 @@
 #include "LayoutHook.h"
 
-#include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/elements/Placement.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
+#include "host/SysCarto/maps/VectorLayer.h"
 
-#include <SysCarto/PageLayout.h>
 #include <SysDisplay/SimpleLineSymbol.h>
 
 #include <cmath>
@@ -230,7 +230,7 @@ private slots:
     former->GetMaps(maps);
     addLayer(*maps[0]);
     next->ReplaceMaps(maps);
-    next->succeed(*former);
+    PageLayoutHost::succeed(*next, *former);
     QVERIFY(next->GetFocusMap() == maps[1]);
     QVERIFY(stray->GetMap() == maps[1] && unbound->GetMap() == maps[1]);
   }

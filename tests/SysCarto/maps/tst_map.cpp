@@ -1,7 +1,6 @@
 #include "Test.h"
 
-#include <SysCarto/Map.h>
-
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 
 #include <cmath>
@@ -31,7 +30,7 @@ double equalEarthUnit() {
 
 _ptr_t<Map> mapOf(QString const& coordinateSystem, double x, double y, double width) {
   auto const map = make<Map>();
-  map->setFrameSize(20, 10);
+  MapHost::setFrameSize(*map, 20, 10);
   map->SetCoordinateSystem(coordinateSystem);
   map->SetExtent(make<Envelope>(x - width / 2, y - width / 4, x + width / 2, y + width / 4));
   return map;
@@ -80,7 +79,7 @@ private slots:
     auto const [widthCm, heightCm, extentWidth, extentHeight] = fetched<double, double, double, double>();
     auto const map = make<Map>();
     map->SetExtent(make<Envelope>(50.0, 70.0, 50 + extentWidth, 70 + extentHeight));
-    map->setFrameSize(widthCm, heightCm);
+    MapHost::setFrameSize(*map, widthCm, heightCm);
 
     auto const extent = map->GetExtent();
     QVERIFY(relativeError(extent->GetWidth() / extent->GetHeight(), widthCm / heightCm) < 1e-9);
@@ -90,7 +89,7 @@ private slots:
                           extent->GetWidth() / widthCm * 2.54 / 72) < 1e-3);
     QVERIFY(std::abs(extent->GetAnchorPoint()->GetY() - (70 + extentHeight / 2)) < 1e-9 * extentHeight);
     QVERIFY(relativeError(std::max(extentWidth / extent->GetWidth(), extentHeight / extent->GetHeight()), 1) < 1e-9);
-    QCOMPARE(map->GetStoredBounds().GetWidth(), 50 + extentWidth - 50);
+    QCOMPARE(MapHost::storedBounds(*map).GetWidth(), 50 + extentWidth - 50);
 
     auto const corner = map->GetDisplayTransformation()->FromMapPoint(extent->GetXMax(), extent->GetYMin());
     QCOMPARE(corner, QPoint(qRound(widthCm * 10000), qRound(heightCm * 10000)));
@@ -101,9 +100,9 @@ private slots:
     auto const map = mapOf("", 0, 0, 100);
     map->SetExtent(make<Envelope>(1e13, 0.0, 2e13, 1e13));   // farther than any map
     map->SetExtent(make<Envelope>(0.0, 0.0, 1e-10, 1e-10));  // smaller than any
-    QCOMPARE(map->GetStoredBounds().GetWidth(), 100.0);
+    QCOMPARE(MapHost::storedBounds(*map).GetWidth(), 100.0);
     for (double side : {0.0, -5.0, std::numeric_limits<double>::quiet_NaN()}) {
-      map->setFrameSize(side, side);
+      MapHost::setFrameSize(*map, side, side);
       QCOMPARE(map->GetDisplayTransformation()->GetMapScale(), 500.0);
     }
   }

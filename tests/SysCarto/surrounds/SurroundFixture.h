@@ -3,6 +3,7 @@
 #include "Elements.h"
 #include "Pictures.h"
 
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysUtility/JsonFields.h"
 
@@ -11,8 +12,8 @@ inline _ptr_t<SysCarto::Map> mapShowing(QString const& system, SysGeometry::Enve
                                         double heightCm) {
   auto const map = make<SysCarto::Map>();
   map->SetCoordinateSystem(system);
-  map->enterFrame();
-  map->setFrameSize(widthCm, heightCm);
+  SysCarto::MapHost::countFrame(*map, true);
+  SysCarto::MapHost::setFrameSize(*map, widthCm, heightCm);
   map->SetExtent(make<SysGeometry::Envelope>(bounds));
   return map;
 }

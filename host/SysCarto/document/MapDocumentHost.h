@@ -1,0 +1,21 @@
+#pragma once
+
+#include <SysCarto/MapDocument.h>
+
+class QUndoStack;
+
+namespace SysCarto {
+
+struct SYSCARTO_EXPORT MapDocumentHost {
+  /// The document's own, borrowed; cleared whenever it gets another layout.
+  static QUndoStack* history(MapDocument const& document);
+  static void setPageLayout(MapDocument& document, SysUtility::_ptr_t<PageLayout> const& layout);
+
+  /// What a save to the document's file would write now; empty where there is nothing that can be saved.
+  static QByteArray text(MapDocument const& document);
+
+  /// How many data sources the last `Open` could not read.
+  static int unreadableSources(MapDocument const& document);
+};
+
+}  // namespace SysCarto

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <SysCarto/Element.h>
+
+namespace SysCarto {
+
+class ElementContainer;
+
+/// A container tells its elements their handle, and that they lie in it or, with null, in none any more.
+struct SYSCARTO_EXPORT ElementHost {
+  static void setHandle(Element& element, ElementHandle handle);
+  static void setContainer(Element& element, ElementContainer* container);
+  static bool isPlaced(Element const& element);
+
+  /// A label lies in a container while it is drawn and no longer, so that its coming and going change no document. A
+  /// clone is an element like others.
+  static bool isLabel(Element const& element);
+  static void becomeLabel(Element& element);
+};
+
+}  // namespace SysCarto
