@@ -22,8 +22,6 @@ public:
   bool GetItems(QString const& file, QString const& category, QString const& reserved,
                 QVector<SysUtility::_ptr_t<SysDisplay::StyleGalleryItem>>& items);
 
-  // Beyond what the commands of a plug-in need.
-
   /// Appends the items of all categories. False where the file can't be read.
   bool GetAllItems(QString const& file, QVector<SysUtility::_ptr_t<SysDisplay::StyleGalleryItem>>& items);
 
