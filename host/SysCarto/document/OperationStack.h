@@ -2,6 +2,8 @@
 
 #include <SysCarto/MapDocument.h>
 
+class QUndoStack;
+
 namespace SysCarto {
 
 /// A document's undo history as the window sees it.
