@@ -29,7 +29,7 @@ struct Format {
 constexpr Format formats[] = {{"TIFF", "tif"}, {"PNG", "png"}, {"JPEG", "jpg"}};
 
 // Drawing a larger page in one image says nothing more, and takes half a gigabyte.
-constexpr qint64 mostPixelsInOneImage = 50000000;
+constexpr qint64 maxPixelsInOneImage = 50000000;
 
 [[noreturn]] void giveUp(QString const& why) {
   std::fprintf(stderr, "plotvane_bench: %s\n", qPrintable(why));
@@ -72,7 +72,7 @@ void ExportBench::measure(Page const& page, Report& report) {
   }
   QFile::remove(tilesFile());
   QSize const size = report.exports.last().size;
-  if (qint64{size.width()} * size.height() > mostPixelsInOneImage) return;
+  if (qint64{size.width()} * size.height() > maxPixelsInOneImage) return;
   std::fprintf(stderr, "%s, tiles\n", qPrintable(page.name));
   report.tilings << measureTiling(page);
 }

@@ -18,7 +18,7 @@ using SysUtility::_ptr_t;
 namespace {
 
 constexpr int usualDpi = 96;
-constexpr int mostDpi = 3000, mostPixels = 10000;
+constexpr int maxDpi = 3000, maxPixels = 10000;
 
 // Digits alone: what a locale groups by commas would not be read as a number.
 void setNumberValidator(QLineEdit* edit, int most) {
@@ -42,9 +42,9 @@ ExportParaDlg::ExportParaDlg(_ptr_t<PageLayout> const& layout, _ptr_t<IApplicati
   ui_->setupUi(this);
   ui_->lineEdit_DPI->setText(QString::number(usualDpi));
   showSize(usualDpi);
-  setNumberValidator(ui_->lineEdit_DPI, mostDpi);
-  setNumberValidator(ui_->lineEdit_Width, mostPixels);
-  setNumberValidator(ui_->lineEdit_Height, mostPixels);
+  setNumberValidator(ui_->lineEdit_DPI, maxDpi);
+  setNumberValidator(ui_->lineEdit_Width, maxPixels);
+  setNumberValidator(ui_->lineEdit_Height, maxPixels);
   ui_->lineEdit_OutputPath->setReadOnly(true);
   ui_->pushButton_3->setText(tr("PreView"));
   setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);

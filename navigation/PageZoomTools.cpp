@@ -26,8 +26,8 @@ namespace {
 
 constexpr double clickZoomIn = 0.9;
 constexpr double clickZoomOut = 1.1;
-constexpr double largestPageScale = 100.0;
-constexpr double smallestPageScale = 0.03451;
+constexpr double maxPageScale = 100.0;
+constexpr double minPageScale = 0.03451;
 constexpr double foldingThreshold = 2.0;
 
 constexpr double sameRatio = 1e-6;  // far less than one pixel of a rectangle makes
@@ -99,7 +99,7 @@ void PageZoomInTool::OnMouseMove(QMouseEvent* event) {
   view->EndTrackerDraw();
 }
 
-bool PageZoomInTool::isAtLimit(double pageScale) const { return pageScale > largestPageScale; }
+bool PageZoomInTool::isAtLimit(double pageScale) const { return pageScale > maxPageScale; }
 
 _ptr_t<Envelope> PageZoomInTool::zoomed(_ptr_t<Envelope> const& extent) const {
   double const xmin = std::min(start_->GetX(), end_->GetX());
@@ -139,7 +139,7 @@ void PageZoomOutTool::OnMouseMove(QMouseEvent* event) {
   view->EndTrackerDraw();
 }
 
-bool PageZoomOutTool::isAtLimit(double pageScale) const { return pageScale < smallestPageScale; }
+bool PageZoomOutTool::isAtLimit(double pageScale) const { return pageScale < minPageScale; }
 
 _ptr_t<Envelope> PageZoomOutTool::zoomed(_ptr_t<Envelope> const& extent) const {
   auto const dragged = make<Envelope>(start_, end_);

@@ -37,8 +37,8 @@ _ptr_t<DisplayTransformation> transformationFor(QRectF const& area, double pixel
 
 void drawMarker(QPainter& painter, QRectF const& area, MarkerSymbol const& symbol, double pixelsPerPoint, bool fills) {
   auto const marker = ptr_cast<MarkerSymbol>(symbol.Clone());
-  double const mostPt = std::min(area.width(), area.height()) / pixelsPerPoint;
-  marker->SetSize(fills ? mostPt : std::min(marker->GetSize(), mostPt));
+  double const maxPt = std::min(area.width(), area.height()) / pixelsPerPoint;
+  marker->SetSize(fills ? maxPt : std::min(marker->GetSize(), maxPt));
   auto const middle = make<SysGeometry::Point>(area.width() / 2, area.height() / 2, 0.0);
   marker->Draw(painter, transformationFor(area, pixelsPerPoint), middle);
 }

@@ -172,7 +172,8 @@ void toDevicePoints(QTransform const& toDevice, WorldRun const& run, QRectF cons
   auto const at = [&](int i, QPointF& point) {
     double const wx = run.xy[2 * i], wy = run.xy[2 * i + 1];
     double const x = m11 * wx + m21 * wy + dx, y = m12 * wx + m22 * wy + dy;
-    point = {snapped(std::clamp(x, -farthestPx, farthestPx)), snapped(std::clamp(y, -farthestPx, farthestPx))};
+    point = {snapped(std::clamp(x, -maxCoordinatePx, maxCoordinatePx)),
+             snapped(std::clamp(y, -maxCoordinatePx, maxCoordinatePx))};
     return std::isfinite(x) && std::isfinite(y);
   };
   StretchSkipper const skipper(toDevice, run, area);

@@ -19,7 +19,7 @@ inline double snapped(double px) {
 inline QPointF snapped(QPointF const& point) { return {snapped(point.x()), snapped(point.y())}; }
 
 /// Device coordinates lie within this distance of 0, the range in which `snapped` is exact.
-constexpr double farthestPx = 1e12;
+constexpr double maxCoordinatePx = 1e12;
 
 /// The vertices of a run as snapped device points. Neighbours that fall onto one point are merged; with `thinPx`, so is
 /// a point that lies nearer than that to the last one kept, but for the end and the first of a stretch. Pairs that are

@@ -127,7 +127,7 @@ private:
     bool const isLong = rings.size(fill.firstRun, fill.lastRun) >= pointsWorthDropping;
     if (fits && !(reachesBeyond && isLong)) return draw(rings, fill.firstRun, fill.lastRun, fill.rule);
     part_.clear();
-    QRectF const rows(-farthestPx, top_, 2 * farthestPx, bottom_ - top_);
+    QRectF const rows(-maxCoordinatePx, top_, 2 * maxCoordinatePx, bottom_ - top_);
     for (int i = fill.firstRun; i <= fill.lastRun; ++i) dropBeyond(rings.run(i), rings.size(i), rows, part_);
     if (!fits) cutToBox(part_, boxOf(box_));
     if (!part_.isEmpty()) draw(part_, 0, part_.count() - 1, fill.rule);
@@ -153,7 +153,7 @@ private:
   QImage rows_;
   std::unique_ptr<QPainter> own_;
   QPainter* painter_;
-  double top_ = -farthestPx, bottom_ = farthestPx;  // in the painter's coordinates
+  double top_ = -maxCoordinatePx, bottom_ = maxCoordinatePx;  // in the painter's coordinates
   QRectF box_;
   bool const exchanges_;
   QColor color_;  // of the last fill; invalid at first

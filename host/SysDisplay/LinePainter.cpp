@@ -15,7 +15,7 @@ namespace {
 constexpr double thinPx = 0.25;
 
 // Nothing that a page needs reaches farther, and the outline has to stay within what the rasteriser can take.
-constexpr double farthestReachPx = 12000.0;
+constexpr double maxReachPx = 12000.0;
 
 SimpleLineStyle styleOf(LineSymbol const& symbol) {
   auto const* simple = dynamic_cast<SimpleLineSymbol const*>(&symbol);
@@ -66,7 +66,7 @@ LinePainter::LinePainter(DrawTarget& target, LineSymbol const& symbol)
       dashes_(dashesOf(symbol, widthPx(target, symbol))),
       stroker_(widthPx(target, symbol), symbol.GetCapStyle(), symbol.GetJoinStyle(), symbol.GetMiterLimit()) {
   visible_ = symbol.GetWidth() > 0 && color_.alpha() > 0 && styleOf(symbol) != SimpleLineStyle::Null;
-  double const reach = std::min(stroker_.reachPx(), farthestReachPx);
+  double const reach = std::min(stroker_.reachPx(), maxReachPx);
   area_ = target.area().adjusted(-reach, -reach, reach, reach);
 }
 

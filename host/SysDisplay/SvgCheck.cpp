@@ -15,11 +15,11 @@ namespace SysDisplay {
 
 namespace {
 
-constexpr int mostBytes = 2 * 1024 * 1024;
-constexpr int mostElements = 20000;
+constexpr int maxBytes = 2 * 1024 * 1024;
+constexpr int maxElements = 20000;
 constexpr int deepest = 64;
-constexpr int deepestUse = 256;  // a chain of so many, each drawn on its own too, comes to more than `mostElements`
-constexpr int largestImagePx = 4096;
+constexpr int maxUseDepth = 256;  // a chain of so many, each drawn on its own too, comes to more than `maxElements`
+constexpr int maxImagePx = 4096;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(SvgCheck)
@@ -79,7 +79,7 @@ private:
   void startElement() {
     QString const name = reader_.name().toString();
     if (++elements_ == 1 && name != QLatin1String("svg")) return refuse(Texts::tr("the file is not an SVG"));
-    if (elements_ > mostElements) return refuse(Texts::tr("the SVG has more than %1 elements").arg(mostElements));
+    if (elements_ > maxElements) return refuse(Texts::tr("the SVG has more than %1 elements").arg(maxElements));
     if (openIds_.size() >= deepest)
       return refuse(Texts::tr("the SVG's elements are nested more than %1 deep").arg(deepest));
     if (name == QLatin1String("script")) return refuse(Texts::tr("the SVG holds a script; remove it"));
@@ -120,8 +120,8 @@ private:
     if (format != "png" && format != "jpeg" && format != "jpg")
       return refuse(Texts::tr("the SVG embeds an image that is neither PNG nor JPEG"));
     QSize const size = image.size();
-    if (!size.isValid() || size.width() > largestImagePx || size.height() > largestImagePx)
-      refuse(Texts::tr("the SVG embeds an image larger than %1 × %1 pixels").arg(largestImagePx));
+    if (!size.isValid() || size.width() > maxImagePx || size.height() > maxImagePx)
+      refuse(Texts::tr("the SVG embeds an image larger than %1 × %1 pixels").arg(maxImagePx));
   }
 
   // In a style sheet a backslash can hide the letters of a word.
@@ -138,19 +138,19 @@ private:
   void checkUses() {
     double drawn = elements_;
     for (QString const& id : qAsConst(total_)) drawn += expanded(id, 0);
-    if (drawn > mostElements)
-      refuse(Texts::tr("the SVG repeats its parts in a circle or more than %1 times").arg(mostElements));
+    if (drawn > maxElements)
+      refuse(Texts::tr("the SVG repeats its parts in a circle or more than %1 times").arg(maxElements));
   }
 
   double expanded(QString const& id, int depth) {
-    if (depth > deepestUse) return mostElements + 1.0;
+    if (depth > maxUseDepth) return maxElements + 1.0;
     auto const known = expanded_.constFind(id);
     if (known != expanded_.constEnd()) return *known;
-    expanded_[id] = mostElements + 1.0;  // holds while its own content is counted: a circle
+    expanded_[id] = maxElements + 1.0;  // holds while its own content is counted: a circle
     double sum = content_[id].elements;
     QStringList const uses = content_[id].uses;
     for (QString const& used : uses) sum += expanded(used, depth + 1);
-    return expanded_[id] = std::min(sum, mostElements + 1.0);
+    return expanded_[id] = std::min(sum, maxElements + 1.0);
   }
 
   struct Content {
@@ -171,7 +171,7 @@ private:
 }  // namespace
 
 QString svgProblem(QByteArray const& svg) {
-  if (svg.size() > mostBytes) return Texts::tr("the SVG has more than %1 bytes").arg(mostBytes);
+  if (svg.size() > maxBytes) return Texts::tr("the SVG has more than %1 bytes").arg(maxBytes);
   return Checker(svg).problem();
 }
 

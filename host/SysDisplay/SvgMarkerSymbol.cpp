@@ -24,8 +24,8 @@ struct SvgMarkerSymbol::Picture {
 namespace {
 
 constexpr int cellPx = 256;
-constexpr int phases = 4;      // positions within a pixel, along either axis
-constexpr int mostCells = 64;  // kept: 16 MB
+constexpr int phases = 4;     // positions within a pixel, along either axis
+constexpr int maxCells = 64;  // kept: 16 MB
 
 // The SVG renderer draws with curves and pens, which Qt rounds differently on the two sides of a tile's edge. So the
 // picture is drawn into cells that hang on the marker, and a tile copies the cells that it sees pixel by pixel.
@@ -75,7 +75,7 @@ private:
   QImage const& image(Cell const& cell) {
     auto const known = cells_.constFind(cell);
     if (known != cells_.constEnd()) return *known;
-    if (cells_.size() >= mostCells) cells_.clear();
+    if (cells_.size() >= maxCells) cells_.clear();
     return *cells_.insert(cell, drawn(cell));
   }
 

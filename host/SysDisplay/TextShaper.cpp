@@ -32,9 +32,9 @@ int finenessFor(double emPx) {
 }
 
 // Kerning and ligatures draw the letters of a text nearer together, never as near as this.
-constexpr double mostCloseness = 0.7;
+constexpr double maxCloseness = 0.7;
 
-constexpr int mostKeptGlyphs = 1000000;
+constexpr int maxKeptGlyphs = 1000000;
 
 void addCurve(QPointF const& a, QPointF const& b, QPointF const& c, QPointF const& d, double tolerance,
               PointRuns& out) {
@@ -122,7 +122,7 @@ public:
     return shaped;
   }
 
-  double leastWidth(TextFormat const& format, QString const& fontKey, QString const& text) {
+  double minWidth(TextFormat const& format, QString const& fontKey, QString const& text) {
     Letters& letters = letters_[fontKey];
     if (!letters.metrics) letters.metrics = std::make_unique<QFontMetricsF>(fontOf(format));
     double widest = 0, width = 0;
@@ -133,7 +133,7 @@ public:
         width += letters.width(letter);
       widest = std::max(widest, width);
     }
-    return std::max(widest - std::max(spacingOf(format), 0.0), 0.0) * mostCloseness / referencePx;
+    return std::max(widest - std::max(spacingOf(format), 0.0), 0.0) * maxCloseness / referencePx;
   }
 
 private:
@@ -232,7 +232,7 @@ private:
   static Shaper* shaper_;
   std::list<std::pair<QRawFont, Glyphs>> fonts_;
   std::map<QString, Letters> letters_;  // by font key
-  QCache<TextKey, std::shared_ptr<ShapedText const>> texts_{mostKeptGlyphs};
+  QCache<TextKey, std::shared_ptr<ShapedText const>> texts_{maxKeptGlyphs};
 };
 
 Shaper* Shaper::shaper_ = nullptr;
@@ -266,8 +266,8 @@ std::shared_ptr<ShapedText const> shapedText(TextFormat const& format, QString c
   return Shaper::instance().shape(format, fontKey, text);
 }
 
-double leastWidth(TextFormat const& format, QString const& fontKey, QString const& text) {
-  return Shaper::instance().leastWidth(format, fontKey, text);
+double minWidth(TextFormat const& format, QString const& fontKey, QString const& text) {
+  return Shaper::instance().minWidth(format, fontKey, text);
 }
 
 }  // namespace SysDisplay

@@ -56,6 +56,6 @@ QString fontKeyOf(TextFormat const& format);
 std::shared_ptr<ShapedText const> shapedText(TextFormat const& format, QString const& fontKey, QString const& text);
 
 /// A width, in units of the font's size, that the text has at least. Costs a small part of what laying it out does.
-double leastWidth(TextFormat const& format, QString const& fontKey, QString const& text);
+double minWidth(TextFormat const& format, QString const& fontKey, QString const& text);
 
 }  // namespace SysDisplay

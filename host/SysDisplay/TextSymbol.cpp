@@ -117,8 +117,8 @@ QRectF TextSymbol::bounds(QString const& text) const {
   return inPoints(Block(format_, *shapedText(format_, fontKey_, text)).bounds(), format_);
 }
 
-double TextSymbol::leastWidth(QString const& text) const {
-  return SysDisplay::leastWidth(format_, fontKey_, text) * format_.size;
+double TextSymbol::minWidth(QString const& text) const {
+  return SysDisplay::minWidth(format_, fontKey_, text) * format_.size;
 }
 
 void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angleDegrees, QString const& text) const {

@@ -66,7 +66,7 @@ public:
   QRectF bounds(QString const& text) const;
 
   /// A width in points that the text has at least, to be asked before `bounds` where most texts will find no room.
-  double leastWidth(QString const& text) const;
+  double minWidth(QString const& text) const;
 
   /// Draws the text at a position in device pixels, turned counterclockwise about it.
   void drawAt(DrawTarget& target, QPointF const& position, double angleDegrees, QString const& text) const;

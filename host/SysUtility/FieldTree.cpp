@@ -1,6 +1,6 @@
 #include "FieldTree.h"
 
-#include <limits>
+#include <utility>
 
 namespace SysUtility {
 
@@ -11,55 +11,24 @@ FieldInfo& FieldTree::add(Field const& field, FieldInfo::Kind kind, bool isRequi
   FieldInfo info;
   info.field = field;
   info.kind = kind;
-  info.isRequired = isRequired;
+  info.rules.isRequired = isRequired;
   fields_ << info;
   return fields_.last();
 }
 
-template <class Value>
-FieldInfo& FieldTree::add(Field const& field, FieldInfo::Kind kind, std::optional<Value> const& byDefault) {
-  FieldInfo& info = add(field, kind, !byDefault);
-  if (byDefault) info.byDefault = *byDefault;
-  return info;
+void FieldTree::value(Field const& field, ValueRef value, ValueRules const& rules) {
+  using Kind = FieldInfo::Kind;
+  constexpr Kind kinds[] = {Kind::Number, Kind::Integer, Kind::Flag,       Kind::Text,
+                            Kind::Texts,  Kind::Numbers, Kind::Coordinates};
+  static_assert(std::size(kinds) == std::variant_size_v<ValueRef>);
+  add(field, kinds[value.index()], rules.isRequired).rules = rules;
 }
-
-QVector<FieldInfo> FieldTree::fieldsOf(Describe const& describe) const {
-  FieldTree inner(outerLists_);
-  describe(inner);
-  return inner.fields_;
-}
-
-void FieldTree::number(Field const& field, double&, Range const& range, std::optional<double> byDefault) {
-  add(field, FieldInfo::Kind::Number, byDefault).range = range;
-}
-
-void FieldTree::integer(Field const& field, int&, int min, int max, std::optional<int> byDefault) {
-  add(field, FieldInfo::Kind::Integer, byDefault).range = {double(min), double(max)};
-}
-
-void FieldTree::flag(Field const& field, bool&, std::optional<bool> byDefault) {
-  add(field, FieldInfo::Kind::Flag, byDefault);
-}
-
-void FieldTree::text(Field const& field, QString&, TextKind kind, std::optional<QString> byDefault) {
-  add(field, FieldInfo::Kind::Text, byDefault).textKind = kind;
-}
-
-void FieldTree::texts(Field const& field, QStringList&) { add(field, FieldInfo::Kind::Texts, false); }
-
-void FieldTree::numbers(Field const& field, double*, NumbersKind kind, Range const& range) {
-  FieldInfo& info = add(field, FieldInfo::Kind::Numbers, true);
-  info.numbersKind = kind;
-  info.range = range;
-}
-
-void FieldTree::coordinates(Field const& field, QVector<double>&) { add(field, FieldInfo::Kind::Coordinates, true); }
 
 void FieldTree::choose(Field const& field, int&, Choices const& choices, std::optional<int> byDefault) {
   FieldInfo& info = add(field, FieldInfo::Kind::Choice, !byDefault);
   for (Choice const& choice : choices) {
     info.choices << choice;
-    if (choice.value == byDefault) info.byDefault = QString::fromUtf8(choice.name);
+    if (choice.value == byDefault) info.rules.byDefault = QString::fromUtf8(choice.name);
   }
 }
 
@@ -76,18 +45,16 @@ void FieldTree::variant(Field const& field, int&, Choices const& kinds, std::fun
   info.variants = variants;
 }
 
-void FieldTree::object(Field const& field, Describe const& describe) {
-  add(field, FieldInfo::Kind::Object, true).fields = fieldsOf(describe);
-}
-
-bool FieldTree::optionalObject(Field const& field, bool, Describe const& describe) {
-  add(field, FieldInfo::Kind::Object, false).fields = fieldsOf(describe);
+bool FieldTree::nest(Field const& field, std::optional<bool> present, Describe const& describe) {
+  FieldTree inner(outerLists_);
+  describe(inner);
+  add(field, FieldInfo::Kind::Object, !present).fields = inner.fields_;
   return true;
 }
 
 void FieldTree::objects(Field const& field, int, int max, std::function<void(Fields&, int)> const& describe) {
   FieldInfo& info = add(field, FieldInfo::Kind::List, false);
-  info.range = {0, double(max)};
+  info.maxCount = max;
   QString const key = QString::fromUtf8(field.key);
   if (outerLists_.contains(key)) return;
   FieldTree entry(outerLists_ + QStringList(key));

@@ -4,4 +4,9 @@ namespace SysUtility {
 
 Fields::~Fields() = default;
 
+void Fields::variant(Field const& field, int& kind, Choices const& kinds, std::function<void(int)> const& describe) {
+  choose(field, kind, kinds, std::nullopt);
+  if (ok()) describe(kind);
+}
+
 }  // namespace SysUtility

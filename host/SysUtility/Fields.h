@@ -3,12 +3,15 @@
 #include <SysUtility/Export.h>
 
 #include <QCoreApplication>
+#include <QJsonValue>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
 #include <functional>
+#include <limits>
 #include <optional>
+#include <variant>
 
 namespace SysUtility {
 
@@ -60,6 +63,24 @@ struct Choices {
   Choice const* last;
 };
 
+/// What a single value of a field may be.
+struct ValueRules {
+  bool isRequired = true;
+  QJsonValue byDefault = QJsonValue::Undefined;  ///< of a value that may be missing
+  Range range{-std::numeric_limits<double>::max(), std::numeric_limits<double>::max()};  ///< of each number
+  TextKind textKind = TextKind::Line;
+  NumbersKind numbersKind = NumbersKind::Point;
+};
+
+/// As many numbers as their kind says.
+struct NumbersRef {
+  double* first;
+};
+
+/// The value that a visitor looks at or fills in; its type is the kind of the field. A vector is a list of coordinate
+/// pairs.
+using ValueRef = std::variant<double*, int*, bool*, QString*, QStringList*, NumbersRef, QVector<double>*>;
+
 /// A visitor of the fields of stored things.
 ///
 /// Whatever is stored has a plain struct of its settings with one function that names the fields in turn:
@@ -97,19 +118,34 @@ public:
 
   // Numbers outside their range, infinite or not a number are problems.
 
-  virtual void number(Field const& field, double& value, Range const& range, std::optional<double> byDefault = {}) = 0;
-  virtual void integer(Field const& field, int& value, int min, int max, std::optional<int> byDefault = {}) = 0;
-  virtual void flag(Field const& field, bool& value, std::optional<bool> byDefault = {}) = 0;
-  virtual void text(Field const& field, QString& value, TextKind kind, std::optional<QString> byDefault = {}) = 0;
+  void number(Field const& field, double& number, Range const& range, std::optional<double> byDefault = {}) {
+    visit(field, &number, byDefault, range);
+  }
+  void integer(Field const& field, int& number, int min, int max, std::optional<int> byDefault = {}) {
+    visit(field, &number, byDefault, {double(min), double(max)});
+  }
+  void flag(Field const& field, bool& flag, std::optional<bool> byDefault = {}) { visit(field, &flag, byDefault); }
+  void text(Field const& field, QString& text, TextKind kind, std::optional<QString> const& byDefault = {}) {
+    visit(field, &text, byDefault, ValueRules().range, kind);
+  }
 
   /// A list of texts; a missing list is an empty one.
-  virtual void texts(Field const& field, QStringList& values) = 0;
+  void texts(Field const& field, QStringList& texts) {
+    ValueRules rules;
+    rules.isRequired = false;
+    value(field, &texts, rules);
+  }
 
-  /// `values` holds as many numbers as the kind says.
-  virtual void numbers(Field const& field, double* values, NumbersKind kind, Range const& range) = 0;
+  /// `numbers` holds as many as the kind says.
+  void numbers(Field const& field, double* numbers, NumbersKind kind, Range const& range) {
+    ValueRules rules;
+    rules.range = range;
+    rules.numbersKind = kind;
+    value(field, NumbersRef{numbers}, rules);
+  }
 
   /// A list of coordinate pairs, stored flat: [x1, y1, x2, y2, …].
-  virtual void coordinates(Field const& field, QVector<double>& values) = 0;
+  void coordinates(Field const& field, QVector<double>& coordinates) { value(field, &coordinates, {}); }
 
   template <class Value>
   void choice(Field const& field, Value& value, Choices const& choices, std::optional<Value> byDefault = {}) {
@@ -120,14 +156,15 @@ public:
 
   /// The choice of what the object is, which decides on its other fields. `describe` names those of the kind that it
   /// receives.
-  virtual void variant(Field const& field, int& kind, Choices const& kinds,
-                       std::function<void(int)> const& describe) = 0;
+  virtual void variant(Field const& field, int& kind, Choices const& kinds, std::function<void(int)> const& describe);
 
   /// A nested object. It must be there.
-  virtual void object(Field const& field, Describe const& describe) = 0;
+  void object(Field const& field, Describe const& describe) { nest(field, std::nullopt, describe); }
 
   /// A nested object that may be missing. `present` says whether it is there; reading answers whether it was.
-  virtual bool optionalObject(Field const& field, bool present, Describe const& describe) = 0;
+  bool optionalObject(Field const& field, bool present, Describe const& describe) {
+    return nest(field, present, describe);
+  }
 
   /// A list of nested objects, at most `max`; a missing list is an empty one. `describe` receives each object's fields
   /// and its entry, a new one when reading.
@@ -142,8 +179,20 @@ public:
   }
 
 protected:
+  virtual void value(Field const& field, ValueRef value, ValueRules const& rules) = 0;
   virtual void choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) = 0;
+  /// Without `present` the object must be there.
+  virtual bool nest(Field const& field, std::optional<bool> present, Describe const& describe) = 0;
   virtual void objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) = 0;
+
+private:
+  template <class Value>
+  void visit(Field const& field, Value* visited, std::optional<Value> const& byDefault,
+             Range const& range = ValueRules().range, TextKind textKind = TextKind::Line) {
+    ValueRules rules{!byDefault, QJsonValue::Undefined, range, textKind};
+    if (byDefault) rules.byDefault = *byDefault;
+    value(field, visited, rules);
+  }
 };
 
 /// How many numbers, and how many characters at most.

@@ -121,46 +121,46 @@ std::optional<QJsonValue> JsonReader::take(Field const& field, QJsonValue::Type 
   return std::nullopt;
 }
 
-// As above; a missing field has its default.
-template <class Value>
-std::optional<QJsonValue> JsonReader::take(Field const& field, QJsonValue::Type type, Value& value,
-                                           std::optional<Value> const& byDefault) {
-  auto const taken = take(field, type, !byDefault);
-  if (!taken && ok() && byDefault) value = *byDefault;
-  return taken;
+namespace {
+
+QJsonValue::Type typeOf(ValueRef const& value) {
+  constexpr QJsonValue::Type types[] = {QJsonValue::Double, QJsonValue::Double, QJsonValue::Bool, QJsonValue::String,
+                                        QJsonValue::Array,  QJsonValue::Array,  QJsonValue::Array};
+  static_assert(std::size(types) == std::variant_size_v<ValueRef>);
+  return types[value.index()];
 }
 
-void JsonReader::number(Field const& field, double& value, Range const& range, std::optional<double> byDefault) {
-  auto const json = take(field, QJsonValue::Double, value, byDefault);
-  if (json && isWithin(field, json->toDouble(), range)) value = json->toDouble();
+}  // namespace
+
+void JsonReader::value(Field const& field, ValueRef value, ValueRules const& rules) {
+  auto const json = take(field, typeOf(value), rules.isRequired);
+  if (ok()) std::visit([&](auto target) { read(field, json.value_or(rules.byDefault), target, rules); }, value);
 }
 
-void JsonReader::integer(Field const& field, int& value, int min, int max, std::optional<int> byDefault) {
-  auto const json = take(field, QJsonValue::Double, value, byDefault);
-  if (!json || !isWithin(field, json->toDouble(), {double(min), double(max)})) return;
-  double const number = json->toDouble();
+void JsonReader::read(Field const& field, QJsonValue const& json, double* value, ValueRules const& rules) {
+  if (isWithin(field, json.toDouble(), rules.range)) *value = json.toDouble();
+}
+
+void JsonReader::read(Field const& field, QJsonValue const& json, int* value, ValueRules const& rules) {
+  double const number = json.toDouble();
+  if (!isWithin(field, number, rules.range)) return;
   if (number != std::floor(number)) return fail(field.key, Fields::tr("%1 is not a whole number").arg(shown(number)));
-  value = static_cast<int>(number);
+  *value = static_cast<int>(number);
 }
 
-void JsonReader::flag(Field const& field, bool& value, std::optional<bool> byDefault) {
-  if (auto const json = take(field, QJsonValue::Bool, value, byDefault)) value = json->toBool();
+void JsonReader::read(Field const&, QJsonValue const& json, bool* value, ValueRules const&) { *value = json.toBool(); }
+
+void JsonReader::read(Field const& field, QJsonValue const& json, QString* value, ValueRules const& rules) {
+  if (isShort(field, json.toString(), rules.textKind)) *value = json.toString();
 }
 
-void JsonReader::text(Field const& field, QString& value, TextKind kind, std::optional<QString> byDefault) {
-  auto const json = take(field, QJsonValue::String, value, byDefault);
-  if (json && isShort(field, json->toString(), kind)) value = json->toString();
-}
-
-void JsonReader::texts(Field const& field, QStringList& values) {
-  auto const json = take(field, QJsonValue::Array, values, std::optional<QStringList>(QStringList()));
-  if (!json) return;
+void JsonReader::read(Field const& field, QJsonValue const& json, QStringList* values, ValueRules const&) {
   QStringList read;
-  for (QJsonValue const& entry : json->toArray()) {
+  for (QJsonValue const& entry : json.toArray()) {
     if (!entry.isString()) return failAt(pathOf(field, read.size()), wrongKind(QJsonValue::String, entry));
     read << entry.toString();
   }
-  values = read;
+  *values = read;
 }
 
 // The numbers of a list, each checked; nothing where there is a problem.
@@ -176,26 +176,23 @@ std::optional<QVector<double>> JsonReader::takeNumbers(Field const& field, QJson
   return read;
 }
 
-void JsonReader::numbers(Field const& field, double* values, NumbersKind kind, Range const& range) {
-  auto const json = take(field, QJsonValue::Array, true);
-  if (!json) return;
-  QJsonArray const list = json->toArray();
-  if (list.size() != countOf(kind))
-    return fail(field.key, Fields::tr("expected %1 numbers, found %2").arg(countOf(kind)).arg(list.size()));
-  if (auto const read = takeNumbers(field, list, range)) std::copy(read->begin(), read->end(), values);
+void JsonReader::read(Field const& field, QJsonValue const& json, NumbersRef values, ValueRules const& rules) {
+  QJsonArray const list = json.toArray();
+  int const count = countOf(rules.numbersKind);
+  if (list.size() != count)
+    return fail(field.key, Fields::tr("expected %1 numbers, found %2").arg(count).arg(list.size()));
+  if (auto const read = takeNumbers(field, list, rules.range)) std::copy(read->begin(), read->end(), values.first);
 }
 
-void JsonReader::coordinates(Field const& field, QVector<double>& values) {
-  auto const json = take(field, QJsonValue::Array, true);
-  if (!json) return;
-  QJsonArray const list = json->toArray();
-  double const max = std::numeric_limits<double>::max();
+void JsonReader::read(Field const& field, QJsonValue const& json, QVector<double>* values, ValueRules const& rules) {
+  QJsonArray const list = json.toArray();
   if (!isEven(field, list.size())) return;
-  if (auto const read = takeNumbers(field, list, {-max, max})) values = *read;
+  if (auto const read = takeNumbers(field, list, rules.range)) *values = *read;
 }
 
 void JsonReader::choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) {
-  auto const json = take(field, QJsonValue::String, value, byDefault);
+  auto const json = take(field, QJsonValue::String, !byDefault);
+  if (!json && ok()) value = *byDefault;
   if (!json || !isShort(field, json->toString(), TextKind::Line)) return;
   QStringList known;
   for (Choice const& choice : choices) {
@@ -207,24 +204,14 @@ void JsonReader::choose(Field const& field, int& value, Choices const& choices, 
   fail(field.key, Fields::tr("“%1” is not one of %2").arg(shown(json->toString()), known.join(QStringLiteral(", "))));
 }
 
-void JsonReader::variant(Field const& field, int& kind, Choices const& kinds,
-                         std::function<void(int)> const& describe) {
-  choose(field, kind, kinds, std::nullopt);
-  if (ok()) describe(kind);
-}
-
 void JsonReader::describeChild(QJsonObject const& source, QString const& path, Describe const& describe) {
   JsonReader child(source, path, share());
   describe(child);
   if (shared().warnings.size() < maxWarnings) shared().warnings << child.unknownFields();
 }
 
-void JsonReader::object(Field const& field, Describe const& describe) {
-  if (auto const json = take(field, QJsonValue::Object, true)) describeChild(json->toObject(), pathOf(field), describe);
-}
-
-bool JsonReader::optionalObject(Field const& field, bool, Describe const& describe) {
-  auto const json = take(field, QJsonValue::Object, false);
+bool JsonReader::nest(Field const& field, std::optional<bool> present, Describe const& describe) {
+  auto const json = take(field, QJsonValue::Object, !present);
   if (json) describeChild(json->toObject(), pathOf(field), describe);
   return json && ok();
 }
@@ -250,24 +237,36 @@ void JsonWriter::put(Field const& field, QJsonValue const& value) {
   object_.insert(QString::fromUtf8(field.key), value);
 }
 
-void JsonWriter::number(Field const& field, double& value, Range const& range, std::optional<double> byDefault) {
-  if (value != byDefault && isWithin(field, value, range)) put(field, value);
+void JsonWriter::value(Field const& field, ValueRef value, ValueRules const& rules) {
+  std::visit([&](auto source) { write(field, source, rules); }, value);
 }
 
-void JsonWriter::integer(Field const& field, int& value, int min, int max, std::optional<int> byDefault) {
-  if (value != byDefault && isWithin(field, value, {double(min), double(max)})) put(field, value);
+void JsonWriter::write(Field const& field, double const* value, ValueRules const& rules) {
+  if (rules.byDefault != *value && isWithin(field, *value, rules.range)) put(field, *value);
 }
 
-void JsonWriter::flag(Field const& field, bool& value, std::optional<bool> byDefault) {
-  if (value != byDefault) put(field, value);
+void JsonWriter::write(Field const& field, int const* value, ValueRules const& rules) {
+  if (rules.byDefault != *value && isWithin(field, *value, rules.range)) put(field, *value);
 }
 
-void JsonWriter::text(Field const& field, QString& value, TextKind kind, std::optional<QString> byDefault) {
-  if (value != byDefault && isShort(field, value, kind)) put(field, value);
+void JsonWriter::write(Field const& field, bool const* value, ValueRules const& rules) {
+  if (rules.byDefault != *value) put(field, *value);
 }
 
-void JsonWriter::texts(Field const& field, QStringList& values) {
-  if (!values.isEmpty()) put(field, QJsonArray::fromStringList(values));
+void JsonWriter::write(Field const& field, QString const* value, ValueRules const& rules) {
+  if (rules.byDefault != *value && isShort(field, *value, rules.textKind)) put(field, *value);
+}
+
+void JsonWriter::write(Field const& field, QStringList const* values, ValueRules const&) {
+  if (!values->isEmpty()) put(field, QJsonArray::fromStringList(*values));
+}
+
+void JsonWriter::write(Field const& field, NumbersRef values, ValueRules const& rules) {
+  putNumbers(field, values.first, countOf(rules.numbersKind), rules.range);
+}
+
+void JsonWriter::write(Field const& field, QVector<double> const* values, ValueRules const& rules) {
+  if (isEven(field, values->size())) putNumbers(field, values->constData(), values->size(), rules.range);
 }
 
 void JsonWriter::putNumbers(Field const& field, double const* values, int count, Range const& range) {
@@ -279,26 +278,11 @@ void JsonWriter::putNumbers(Field const& field, double const* values, int count,
   put(field, list);
 }
 
-void JsonWriter::numbers(Field const& field, double* values, NumbersKind kind, Range const& range) {
-  putNumbers(field, values, countOf(kind), range);
-}
-
-void JsonWriter::coordinates(Field const& field, QVector<double>& values) {
-  double const max = std::numeric_limits<double>::max();
-  if (isEven(field, values.size())) putNumbers(field, values.constData(), values.size(), {-max, max});
-}
-
 void JsonWriter::choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) {
   if (value == byDefault) return;
   for (Choice const& choice : choices)
     if (choice.value == value) return put(field, QString::fromUtf8(choice.name));
   fail(field.key, Fields::tr("%1 is a choice without a name").arg(value));
-}
-
-void JsonWriter::variant(Field const& field, int& kind, Choices const& kinds,
-                         std::function<void(int)> const& describe) {
-  choose(field, kind, kinds, std::nullopt);
-  if (ok()) describe(kind);
 }
 
 QJsonObject JsonWriter::describeChild(QString const& path, Describe const& describe) {
@@ -307,13 +291,10 @@ QJsonObject JsonWriter::describeChild(QString const& path, Describe const& descr
   return child.object_;
 }
 
-void JsonWriter::object(Field const& field, Describe const& describe) {
-  put(field, describeChild(pathOf(field), describe));
-}
-
-bool JsonWriter::optionalObject(Field const& field, bool present, Describe const& describe) {
-  if (present) object(field, describe);
-  return present;
+bool JsonWriter::nest(Field const& field, std::optional<bool> present, Describe const& describe) {
+  bool const isThere = present.value_or(true);
+  if (isThere) put(field, describeChild(pathOf(field), describe));
+  return isThere;
 }
 
 void JsonWriter::objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) {

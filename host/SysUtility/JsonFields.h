@@ -55,28 +55,24 @@ public:
   QStringList warnings() const;
 
   bool isReading() const override { return true; }
-  void number(Field const& field, double& value, Range const& range, std::optional<double> byDefault) override;
-  void integer(Field const& field, int& value, int min, int max, std::optional<int> byDefault) override;
-  void flag(Field const& field, bool& value, std::optional<bool> byDefault) override;
-  void text(Field const& field, QString& value, TextKind kind, std::optional<QString> byDefault) override;
-  void texts(Field const& field, QStringList& values) override;
-  void numbers(Field const& field, double* values, NumbersKind kind, Range const& range) override;
-  void coordinates(Field const& field, QVector<double>& values) override;
-  void variant(Field const& field, int& kind, Choices const& kinds, std::function<void(int)> const& describe) override;
-  void object(Field const& field, Describe const& describe) override;
-  bool optionalObject(Field const& field, bool present, Describe const& describe) override;
 
 protected:
+  void value(Field const& field, ValueRef value, ValueRules const& rules) override;
   void choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) override;
+  bool nest(Field const& field, std::optional<bool> present, Describe const& describe) override;
   void objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) override;
 
 private:
   JsonReader(QJsonObject source, QString path, std::shared_ptr<Shared> shared);
 
-  template <class Value>
-  std::optional<QJsonValue> take(Field const& field, QJsonValue::Type type, Value& value,
-                                 std::optional<Value> const& byDefault);
   std::optional<QJsonValue> take(Field const& field, QJsonValue::Type type, bool required);
+  void read(Field const& field, QJsonValue const& json, double* value, ValueRules const& rules);
+  void read(Field const& field, QJsonValue const& json, int* value, ValueRules const& rules);
+  void read(Field const& field, QJsonValue const& json, bool* value, ValueRules const& rules);
+  void read(Field const& field, QJsonValue const& json, QString* value, ValueRules const& rules);
+  void read(Field const& field, QJsonValue const& json, QStringList* values, ValueRules const& rules);
+  void read(Field const& field, QJsonValue const& json, NumbersRef values, ValueRules const& rules);
+  void read(Field const& field, QJsonValue const& json, QVector<double>* values, ValueRules const& rules);
   std::optional<QVector<double>> takeNumbers(Field const& field, QJsonArray const& list, Range const& range);
   void describeChild(QJsonObject const& source, QString const& path, Describe const& describe);
   QStringList unknownFields() const;
@@ -96,25 +92,24 @@ public:
   QJsonObject json() const { return object_; }
 
   bool isReading() const override { return false; }
-  void number(Field const& field, double& value, Range const& range, std::optional<double> byDefault) override;
-  void integer(Field const& field, int& value, int min, int max, std::optional<int> byDefault) override;
-  void flag(Field const& field, bool& value, std::optional<bool> byDefault) override;
-  void text(Field const& field, QString& value, TextKind kind, std::optional<QString> byDefault) override;
-  void texts(Field const& field, QStringList& values) override;
-  void numbers(Field const& field, double* values, NumbersKind kind, Range const& range) override;
-  void coordinates(Field const& field, QVector<double>& values) override;
-  void variant(Field const& field, int& kind, Choices const& kinds, std::function<void(int)> const& describe) override;
-  void object(Field const& field, Describe const& describe) override;
-  bool optionalObject(Field const& field, bool present, Describe const& describe) override;
 
 protected:
+  void value(Field const& field, ValueRef value, ValueRules const& rules) override;
   void choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) override;
+  bool nest(Field const& field, std::optional<bool> present, Describe const& describe) override;
   void objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) override;
 
 private:
   JsonWriter(QString path, std::shared_ptr<Shared> shared);
 
   void put(Field const& field, QJsonValue const& value);
+  void write(Field const& field, double const* value, ValueRules const& rules);
+  void write(Field const& field, int const* value, ValueRules const& rules);
+  void write(Field const& field, bool const* value, ValueRules const& rules);
+  void write(Field const& field, QString const* value, ValueRules const& rules);
+  void write(Field const& field, QStringList const* values, ValueRules const& rules);
+  void write(Field const& field, NumbersRef values, ValueRules const& rules);
+  void write(Field const& field, QVector<double> const* values, ValueRules const& rules);
   void putNumbers(Field const& field, double const* values, int count, Range const& range);
   QJsonObject describeChild(QString const& path, Describe const& describe);
 

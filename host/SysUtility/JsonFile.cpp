@@ -48,11 +48,11 @@ std::optional<QByteArray> readAll(QString const& path, JsonFileKind const& kind,
     return std::nullopt;
   }
   // No more than there is: Qt makes room for all that it is asked for.
-  qint64 const most = kind.mostMebibytes * mebibyte;
+  qint64 const most = kind.maxMebibytes * mebibyte;
   QByteArray const content = file.read(qMin(file.size(), most) + 1);
   if (content.size() > most)
     problem = Texts::tr("the file is larger than %1 MB, too large for a %2; choose another one")
-                  .arg(kind.mostMebibytes)
+                  .arg(kind.maxMebibytes)
                   .arg(kind.noun);
   else if (file.error() != QFileDevice::NoError)
     problem = Texts::tr("the file can't be read (%1); check the disk").arg(file.errorString());

@@ -16,7 +16,7 @@ namespace SysUtility {
 struct JsonFileKind {
   QString noun;    ///< "map document"
   QString suffix;  ///< ".kdx"
-  int mostMebibytes;
+  int maxMebibytes;
 };
 
 /// Reads the JSON object in a file. Nothing, with a sentence in `error` that names the file and the fix, where there is

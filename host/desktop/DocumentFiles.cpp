@@ -12,8 +12,8 @@
 
 namespace {
 
-constexpr int mostRecent = 8;
-constexpr int mostReasons = 6;
+constexpr int maxRecent = 8;
+constexpr int maxReasons = 6;
 QString const recentKey = QStringLiteral("recentFiles");
 QString const suffix = QStringLiteral(".kdx");
 
@@ -34,8 +34,8 @@ QStringList problemsOf(DocumentSession& session) {
 }
 
 QString paragraphs(QStringList texts) {
-  int const more = texts.size() - mostReasons;
-  texts = texts.mid(0, mostReasons);
+  int const more = texts.size() - maxReasons;
+  texts = texts.mid(0, maxReasons);
   if (more > 0) texts << DocumentFiles::tr("… and %1 more.").arg(more);
   return texts.join(QStringLiteral("\n\n"));
 }
@@ -90,7 +90,7 @@ void DocumentFiles::remember(QString const& path) {
   QStringList recent = recentFiles();
   recent.removeAll(absolute);
   recent.prepend(absolute);
-  QSettings().setValue(recentKey, QStringList(recent.mid(0, mostRecent)));
+  QSettings().setValue(recentKey, QStringList(recent.mid(0, maxRecent)));
 }
 
 bool DocumentFiles::mayLeave() {

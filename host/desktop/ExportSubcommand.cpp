@@ -25,7 +25,7 @@ using SysCarto::MapDocument;
 namespace {
 
 constexpr int defaultDpi = 300;
-constexpr int mostDpi = 100000;
+constexpr int maxDpi = 100000;
 
 // Where GDAL's block cache does not hold a whole row of tiles, each tile of the row makes it read and write all the
 // rows of pixels anew. The fourth part more is for its book-keeping.
@@ -76,7 +76,7 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
                                   tr("The format, whatever the suffix: %1.").arg(ImageFormat::names()),
                                   QStringLiteral("FORMAT"));
   QCommandLineOption const dpi(QStringLiteral("dpi"),
-                               tr("Pixels per inch of paper, 1 to %1; %2 if not given.").arg(mostDpi).arg(defaultDpi),
+                               tr("Pixels per inch of paper, 1 to %1; %2 if not given.").arg(maxDpi).arg(defaultDpi),
                                QStringLiteral("N"), QString::number(defaultDpi));
   QCommandLineOption const quiet(QStringLiteral("quiet"), tr("Print neither the path nor the progress."));
   QCommandLineOption const missing(QStringLiteral("allow-missing"),
@@ -95,9 +95,9 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
              parser.isSet(quiet),
              parser.isSet(missing)};
   QString problem;
-  if (!isNumber || request.dpi < 1 || request.dpi > mostDpi)
+  if (!isNumber || request.dpi < 1 || request.dpi > maxDpi)
     problem = tr("export: --dpi takes a whole number from 1 to %1, not \"%2\".")
-                  .arg(QString::number(mostDpi), parser.value(dpi));
+                  .arg(QString::number(maxDpi), parser.value(dpi));
   else if (!request.format && parser.isSet(format))
     problem = tr("export: --format takes one of %1, not \"%2\".").arg(ImageFormat::names(), name);
   else if (!request.format)

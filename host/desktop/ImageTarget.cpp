@@ -73,8 +73,8 @@ bool endsWith(QString const& path, QByteArray const& bytes) {
 }
 
 bool readLastRows(GDALDataset& dataset, QSize const& size) {
-  constexpr int mostPixels = 1 << 22;
-  int const rows = std::min(std::clamp(mostPixels / size.width(), 1, 64), size.height());
+  constexpr int maxPixels = 1 << 22;
+  int const rows = std::min(std::clamp(maxPixels / size.width(), 1, 64), size.height());
   QVector<uchar> bytes(size.width() * rows * bandCount);
   return dataset.RasterIO(GF_Read, 0, size.height() - rows, size.width(), rows, bytes.data(), size.width(), rows,
                           GDT_Byte, bandCount, nullptr, 0, 0, 0, nullptr) == CE_None;

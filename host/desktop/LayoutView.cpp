@@ -17,8 +17,8 @@ using SysUtility::_ptr_t;
 namespace {
 
 constexpr double scrollPerStepPx = 60;
-constexpr double markGapPx = 6, markLengthPx = 14;                     // beyond the handles of a selection
-constexpr double largestPageScale = 100, smallestPageScale = 0.03451;  // as far as the zoom tools go
+constexpr double markGapPx = 6, markLengthPx = 14;            // beyond the handles of a selection
+constexpr double maxPageScale = 100, minPageScale = 0.03451;  // as far as the zoom tools go
 
 // Brackets about the corners of the data frame with the focus, where it is one of several.
 void paintFocusMark(QPainter& painter, PageLayout const& layout) {
@@ -187,7 +187,7 @@ void LayoutView::scrollBy(QPoint const& offset) {
 // What lies under the mouse stays there.
 void LayoutView::zoomAt(QPoint const& position, double factor) {
   double const pageScale = layout_->GetDisplayTransformation()->GetPageScale() * factor;
-  if (pageScale > largestPageScale || pageScale < smallestPageScale) return;
+  if (pageScale > maxPageScale || pageScale < minPageScale) return;
   auto const at = layout_->GetDisplayTransformation()->ToMapPoint(position);
   auto const extent = layout_->GetExtent();
   auto const nearer = [factor](double centre, double side) { return centre + (side - centre) / factor; };

@@ -18,11 +18,11 @@ using SysUtility::make;
 namespace {
 
 constexpr double sameScale = 1e-6;  // a view that is panned computes its scale anew
-constexpr int largestFramePx = 1 << 28;
+constexpr int maxFramePx = 1 << 28;
 constexpr double labelsPerInch = 300;  // the resolution that labels are placed for
 
 int pixels(double cm, double pixelsPerCm) {
-  return static_cast<int>(std::clamp(std::round(cm * pixelsPerCm), 1.0, double(largestFramePx)));
+  return static_cast<int>(std::clamp(std::round(cm * pixelsPerCm), 1.0, double(maxFramePx)));
 }
 
 }  // namespace

@@ -20,9 +20,9 @@ using SysUtility::make;
 
 namespace {
 
-constexpr double dragPx = 3;        // a hand is not still
-constexpr double smallestCm = 0.1;  // that a drag makes of a side
-constexpr int maxOutlines = 200;    // more of them tell no more than one about them all
+constexpr double dragPx = 3;      // a hand is not still
+constexpr double minCm = 0.1;     // that a drag makes of a side
+constexpr int maxOutlines = 200;  // more of them tell no more than one about them all
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(PageGesture)
@@ -124,7 +124,7 @@ bool ResizeGesture::keepsRatio() const {
 ResizeGesture::Scaling ResizeGesture::scaling() const {
   QPointF const way = point() - press();
   auto const factor = [](double length, int side, double by) {
-    return side == 0 || length <= 0 ? 1.0 : std::max(length + side * by, std::min(smallestCm, length)) / length;
+    return side == 0 || length <= 0 ? 1.0 : std::max(length + side * by, std::min(minCm, length)) / length;
   };
   Scaling scaling;
   scaling.x = factor(bounds_.width(), handle_.x, way.x());

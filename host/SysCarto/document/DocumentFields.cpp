@@ -73,10 +73,9 @@ struct MapSettings {
     if (!problem.isEmpty()) fields.fail("coordinateSystem", problem);
     fields.numbers({"bounds", QT_TRANSLATE_NOOP("Fields", "Extent"),
                     QT_TRANSLATE_NOOP("Fields", "What the map shows: its left, lower, right and upper side.")},
-                   bounds, SysUtility::NumbersKind::Rectangle,
-                   {-farthestMapCoordinate, farthestMapCoordinate, Unit::MapUnit});
+                   bounds, SysUtility::NumbersKind::Rectangle, {-maxMapCoordinate, maxMapCoordinate, Unit::MapUnit});
     if (!fields.isReading() || !fields.ok()) return;
-    if (bounds[2] - bounds[0] < smallestMapExtent || bounds[3] - bounds[1] < smallestMapExtent)
+    if (bounds[2] - bounds[0] < minMapExtent || bounds[3] - bounds[1] < minMapExtent)
       fields.fail("bounds", Texts::tr("must be xmin, ymin, xmax, ymax, with xmin < xmax and ymin < ymax"));
   }
 

@@ -30,12 +30,12 @@ using SysUtility::Unit;
 namespace {
 
 constexpr Range onPage{-10000, 10000, Unit::Centimetre};
-constexpr double farthestAnywhere = 1e12;  // graphics lie on maps, too, in map units
+constexpr double maxCoordinate = 1e12;  // graphics lie on maps, too, in map units
 constexpr int maxMembers = 100000, maxRings = 100000, maxGrids = 100;
 constexpr int maxDepth = 16;
 
 Range anywhere(ElementScope const& scope) {
-  return {-farthestAnywhere, farthestAnywhere, scope.onMap ? Unit::MapUnit : Unit::Centimetre};
+  return {-maxCoordinate, maxCoordinate, scope.onMap ? Unit::MapUnit : Unit::Centimetre};
 }
 
 struct Texts {
@@ -50,8 +50,8 @@ void listPoints(Fields& fields, QVector<QPointF>& points, int fewest) {
                      flat);
   if (!fields.ok()) return;
   if (flat.size() < 2 * fewest) return fields.fail("points", Texts::tr("needs at least %1 points").arg(fewest));
-  if (std::any_of(flat.begin(), flat.end(), [](double value) { return std::abs(value) > farthestAnywhere; }))
-    return fields.fail("points", Texts::tr("holds a coordinate beyond %1").arg(farthestAnywhere));
+  if (std::any_of(flat.begin(), flat.end(), [](double value) { return std::abs(value) > maxCoordinate; }))
+    return fields.fail("points", Texts::tr("holds a coordinate beyond %1").arg(maxCoordinate));
   points.clear();
   for (int i = 0; i + 1 < flat.size(); i += 2) points << QPointF(flat[i], flat[i + 1]);
 }

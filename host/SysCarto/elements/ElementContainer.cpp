@@ -25,7 +25,7 @@ using ElementPtr = IElementContainer::ElementPtr;
 using Handles = QSet<ElementHandle>;
 
 // A handle beyond this is not taken over, so that there is always a next one.
-constexpr ElementHandle largestTakenHandle = 1000000000;
+constexpr ElementHandle maxTakenHandle = 1000000000;
 
 QList<ElementPtr> reversed(QList<ElementPtr> elements) {
   std::reverse(elements.begin(), elements.end());
@@ -85,7 +85,7 @@ bool ElementContainer::holds(ElementPtr const& element) const {
 }
 
 ElementHandle ElementContainer::freeHandle(ElementHandle wanted) {
-  bool const isFree = wanted > 0 && wanted <= largestTakenHandle && !order_.ranks.contains(wanted);
+  bool const isFree = wanted > 0 && wanted <= maxTakenHandle && !order_.ranks.contains(wanted);
   ElementHandle const handle = isFree ? wanted : lastHandle_ + 1;
   lastHandle_ = std::max(lastHandle_, handle);
   return handle;

@@ -20,7 +20,7 @@ using SysUtility::make;
 namespace {
 
 constexpr double placeholderWidthPt = 0.5;
-constexpr int farthestPx = 1 << 24;
+constexpr int maxCoordinatePx = 1 << 24;
 
 // Drawn where there is no picture: a frame, just inside the rectangle, and a diagonal cross.
 void drawPlaceholder(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
@@ -58,7 +58,7 @@ void PictureElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const
   QPoint const from = transformation->FromMapPoint(shape()->GetXMin(), shape()->GetYMax());
   QPoint const to = transformation->FromMapPoint(shape()->GetXMax(), shape()->GetYMin());
   for (int side : {from.x(), from.y(), to.x(), to.y()})
-    if (side < -farthestPx || side > farthestPx) return;
+    if (side < -maxCoordinatePx || side > maxCoordinatePx) return;
   source_->draw(painter, QRect(from, QSize(std::max(1, to.x() - from.x()), std::max(1, to.y() - from.y()))));
 }
 

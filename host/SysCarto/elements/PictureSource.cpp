@@ -15,9 +15,9 @@ namespace SysCarto {
 
 namespace {
 
-constexpr int largestSidePx = 16384;
-constexpr qint64 mostPixels = 100000000;
-constexpr qint64 mostSvgBytes = 2 * 1024 * 1024;
+constexpr int maxSidePx = 16384;
+constexpr qint64 maxPixels = 100000000;
+constexpr qint64 maxSvgBytes = 2 * 1024 * 1024;
 constexpr int cellPx = 256;
 
 struct Texts {
@@ -59,10 +59,10 @@ QString PictureSource::load() {
 QString PictureSource::loadImage(QImageReader& reader) {
   QSize const size = reader.size();
   if (size.isEmpty()) return Texts::tr("%1: the picture's size can't be read; save it anew.").arg(path_);
-  if (std::max(size.width(), size.height()) > largestSidePx || areaOf(size) > mostPixels)
+  if (std::max(size.width(), size.height()) > maxSidePx || areaOf(size) > maxPixels)
     return Texts::tr("%1: the picture has %2 × %3 pixels; make it smaller than %4 pixels a side and %5 pixels in all.")
-        .arg(path_, QString::number(size.width()), QString::number(size.height()), QString::number(largestSidePx),
-             QString::number(mostPixels));
+        .arg(path_, QString::number(size.width()), QString::number(size.height()), QString::number(maxSidePx),
+             QString::number(maxPixels));
   reader.setAutoTransform(true);
   QImage const image = reader.read();
   if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(path_, reader.errorString());
@@ -73,7 +73,7 @@ QString PictureSource::loadImage(QImageReader& reader) {
 QString PictureSource::loadSvg() {
   QFile file(path_);
   if (!file.open(QIODevice::ReadOnly)) return Texts::tr("%1: the picture can't be opened.").arg(path_);
-  QByteArray const content = file.read(mostSvgBytes + 1);
+  QByteArray const content = file.read(maxSvgBytes + 1);
   QString const refused = SysDisplay::svgProblem(content);
   if (!refused.isEmpty()) return QStringLiteral("%1: %2.").arg(path_, refused);
   svg_ = std::make_unique<QSvgRenderer>(content);

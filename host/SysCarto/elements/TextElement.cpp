@@ -58,7 +58,7 @@ void TextElement::Move(double dx, double dy) {
 }
 
 void TextElement::Scale(_ptr_t<Point> const& origin, double sx, double) {
-  double const factor = largestFactor(sx);
+  double const factor = maxFactor(sx);
   QPointF const position = Placement::scaling(origin, factor, factor).map(x_, y_);
   setPosition(position.x(), position.y());
   enlarge(factor);
@@ -66,7 +66,7 @@ void TextElement::Scale(_ptr_t<Point> const& origin, double sx, double) {
 }
 
 // 1 for what is no factor.
-double TextElement::largestFactor(double wanted) const {
+double TextElement::maxFactor(double wanted) const {
   double const factor = std::abs(wanted);
   if (!std::isfinite(factor) || factor == 0) return 1;
   TextFormat const& format = symbol_->format();
@@ -84,7 +84,7 @@ void scaleInWhole(Element& element, _ptr_t<Point> const& origin, double sx, doub
   if (!text) return element.Scale(origin, sx, sy);
   QPointF const position = Placement::scaling(origin, sx, sy).map(text->x_, text->y_);
   text->setPosition(position.x(), position.y());
-  text->enlarge(text->largestFactor(sx));
+  text->enlarge(text->maxFactor(sx));
   if (sx != 1 || sy != 1) text->moved();
 }
 

@@ -56,7 +56,7 @@ public:
 
 private:
   friend void scaleInWhole(Element&, SysUtility::_ptr_t<SysGeometry::Point> const&, double, double);
-  double largestFactor(double wanted) const;
+  double maxFactor(double wanted) const;
   void enlarge(double factor);
   QRectF const& boundsPt() const;
   SysUtility::_ptr_t<SysGeometry::Envelope> rectangle(QRectF const& boundsPt, double unitsPerPoint) const;

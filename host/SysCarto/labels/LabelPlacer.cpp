@@ -195,8 +195,8 @@ bool LabelPlacer::placeBesidePoint(int feature, LabelText& text, QPointF const& 
   if (!index_.isFree(LabelShape::upright(mark))) return false;
   // Most places of a crowded map have no room for their name. That shows at the least size that it may have, too, and
   // laying out a text takes far longer.
-  double const leastHeight = text.symbol->bounds(QStringLiteral("i")).height();
-  if (boxFor(mark, text.symbol->leastWidth(text.text), leastHeight).isEmpty()) return false;
+  double const minHeight = text.symbol->bounds(QStringLiteral("i")).height();
+  if (boxFor(mark, text.symbol->minWidth(text.text), minHeight).isEmpty()) return false;
   measure(text);
   if (text.bounds.isEmpty()) return false;
   Box const box = boxFor(mark, text.bounds.width(), text.bounds.height());

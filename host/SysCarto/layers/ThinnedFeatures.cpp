@@ -16,7 +16,7 @@ double cellFor(double unitsPerPixel) {
   return std::exp2((std::floor(std::log2(unitsPerPixel * cellPx) * 4 + place) - place) / 4);
 }
 
-int fewestVertices(PartKind kind) {
+int minVertices(PartKind kind) {
   switch (kind) {
     case PartKind::Ring:
     case PartKind::FilledRing: return 3;
@@ -57,7 +57,7 @@ void ThinnedFeatures::thin(int feature) {
     startsPolygon = startsPolygon || part.startsPolygon;
     double* const room = vertices_.room(part.count);
     part.count = thinInto(room, part);
-    if (part.count < fewestVertices(part.kind)) continue;
+    if (part.count < minVertices(part.kind)) continue;
     vertices_.keep(part.count);
     part.xy = room;
     std::vector<Box> stretches = SysDisplay::stretchesOf(part.run());

@@ -20,7 +20,7 @@ using SysUtility::_ptr_t;
 
 namespace {
 
-constexpr int farthestPx = 1 << 29;  // beyond it the width of a rectangle may not be an int
+constexpr int maxCoordinatePx = 1 << 29;  // beyond it the width of a rectangle may not be an int
 
 // The pixels of a frame, counted so that both corners belong to it.
 QRect pixelsOf(MapFrameElement const& frame, DisplayTransformation const& transformation) {
@@ -28,7 +28,7 @@ QRect pixelsOf(MapFrameElement const& frame, DisplayTransformation const& transf
   QPoint const upperLeft = transformation.FromMapPoint(rectangle->GetXMin(), rectangle->GetYMax());
   QPoint const lowerRight = transformation.FromMapPoint(rectangle->GetXMax(), rectangle->GetYMin());
   for (int side : {upperLeft.x(), upperLeft.y(), lowerRight.x(), lowerRight.y()})
-    if (side < -farthestPx || side > farthestPx) return {};
+    if (side < -maxCoordinatePx || side > maxCoordinatePx) return {};
   return {upperLeft, lowerRight};
 }
 
@@ -93,7 +93,7 @@ void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameEleme
 QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi) {
   auto const rectangle = frame.GetEnvelope();
   auto const pixels = [dpi](double cm) {
-    return static_cast<int>(std::clamp(std::round(cm / SysDisplay::cmPerInch * dpi), 1.0, double(farthestPx)));
+    return static_cast<int>(std::clamp(std::round(cm / SysDisplay::cmPerInch * dpi), 1.0, double(maxCoordinatePx)));
   };
   QRect const framePx(0, 0, pixels(rectangle->GetWidth()), pixels(rectangle->GetHeight()));
   auto const transformation = transformationOf(*frame.GetMap(), framePx, framePx, dpi / SysDisplay::pixelsPerInch);

@@ -6,7 +6,7 @@ namespace SysCarto {
 
 namespace {
 
-constexpr int mostExtents = 64;
+constexpr int maxExtents = 64;
 
 }  // namespace
 
@@ -27,7 +27,7 @@ void ExtentHistory::Undo() {
 void ExtentHistory::enter(SysGeometry::Envelope const& extent) {
   while (extents_.size() > shown_ + 1) extents_.removeLast();
   extents_ << extent;
-  if (extents_.size() > mostExtents) extents_.removeFirst();
+  if (extents_.size() > maxExtents) extents_.removeFirst();
   shown_ = extents_.size() - 1;
 }
 

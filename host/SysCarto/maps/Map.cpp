@@ -28,19 +28,17 @@ constexpr double micrometresPerCm = 10000.0;
 constexpr double metresPerMicrometre = 1e-6;
 constexpr double micrometresPerInch = 25400.0;
 constexpr double pixelsPerInch = 96.0;  // of paper, at page scale 1
-constexpr double largestFrameUm = 2e9;
+constexpr double maxFrameUm = 2e9;
 constexpr double scaleStep = 1e-4;  // of the extent's width
 
 bool isShowable(Envelope const& bounds) {
   double const sides[] = {bounds.GetXMin(), bounds.GetYMin(), bounds.GetXMax(), bounds.GetYMax()};
-  bool const isNear = std::all_of(std::begin(sides), std::end(sides),
-                                  [](double side) { return std::abs(side) <= farthestMapCoordinate; });
-  return isNear && bounds.GetWidth() >= smallestMapExtent && bounds.GetHeight() >= smallestMapExtent;
+  bool const isNear =
+      std::all_of(std::begin(sides), std::end(sides), [](double side) { return std::abs(side) <= maxMapCoordinate; });
+  return isNear && bounds.GetWidth() >= minMapExtent && bounds.GetHeight() >= minMapExtent;
 }
 
-int micrometres(double cm) {
-  return static_cast<int>(std::clamp(std::round(cm * micrometresPerCm), 1.0, largestFrameUm));
-}
+int micrometres(double cm) { return static_cast<int>(std::clamp(std::round(cm * micrometresPerCm), 1.0, maxFrameUm)); }
 
 }  // namespace
 

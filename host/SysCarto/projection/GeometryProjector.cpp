@@ -17,16 +17,16 @@ namespace {
 constexpr double earthRadiusM = 6378137;
 constexpr double toleranceM = 10;
 constexpr double toleranceDegrees = 1e-4;
-constexpr double longestDegrees = 5;      // longer edges are divided, whatever a look at their middle says
-constexpr double shortestDegrees = 0.05;  // a curve this short strays from its chord by about a metre
-constexpr double longestSourceM = 200000;
+constexpr double maxEdgeDegrees = 5;     // longer edges are divided, whatever a look at their middle says
+constexpr double minEdgeDegrees = 0.05;  // a curve this short strays from its chord by about a metre
+constexpr double maxEdgeM = 200000;
 constexpr double seamDegrees = 1e-4;      // how near to the antimeridian data are cut
 constexpr double nearAntimeridian = 150;  // where both ends of an edge that steps across it lie
 constexpr double noArea = 5e-8;           // square degrees
 constexpr double poleDegrees = 0.01;      // and how near to a pole their lower edge may end
 constexpr double inwards = 1e-9;          // at ±180 itself a projection may take either side
-constexpr double farthestRadii = 6;       // what is projected beyond this is as good as infinite
-constexpr int deepestCollection = 32;
+constexpr double maxRadii = 6;            // what is projected beyond this is as good as infinite
+constexpr int maxCollectionDepth = 32;
 
 double metresPerUnit(OGRSpatialReference const& system) {
   double const unit = system.IsProjected() ? system.GetLinearUnits() : 1;
@@ -132,13 +132,13 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
   projector->toMap_ = PointTransform::create(*globe, *target, error);
   if (!projector->toMap_) return nullptr;
 
-  double const unit = metresPerUnit(*target), farthest = farthestRadii * earthRadiusM / unit;
+  double const unit = metresPerUnit(*target), farthest = maxRadii * earthRadiusM / unit;
   PointTransform const& toMap = *projector->toMap_;
   projector->domain_ = makeDomain(*target, [&](double x, double y) {
     return toMap.apply(x, y) && std::abs(x) < farthest && std::abs(y) < farthest;
   });
   projector->mapTolerance_ = target->IsGeographic() ? toleranceDegrees : toleranceM / unit;
-  projector->longestSource_ = longestSourceM / metresPerUnit(*source);
+  projector->maxSourceEdge_ = maxEdgeM / metresPerUnit(*source);
   return projector;
 }
 
@@ -149,7 +149,7 @@ std::unique_ptr<GeometryProjector> GeometryProjector::clone() const {
   copy->sourceIsGeographic_ = sourceIsGeographic_;
   copy->domain_ = domain_;
   copy->mapTolerance_ = mapTolerance_;
-  copy->longestSource_ = longestSource_;
+  copy->maxSourceEdge_ = maxSourceEdge_;
   return copy;
 }
 
@@ -160,7 +160,7 @@ void GeometryProjector::add(OGRGeometry const& geometry, PartSink& sink) const {
 }
 
 void GeometryProjector::addLinear(OGRGeometry const& geometry, PartSink& sink, int depth) const {
-  if (geometry.IsEmpty() || depth > deepestCollection) return;
+  if (geometry.IsEmpty() || depth > maxCollectionDepth) return;
   switch (wkbFlatten(geometry.getGeometryType())) {
     case wkbPoint: return addPoint(geometry.toPoint()->getX(), geometry.toPoint()->getY(), sink);
     case wkbLineString: return addLine(*geometry.toLineString(), sink);
@@ -241,7 +241,7 @@ Run GeometryProjector::toGlobe(std::vector<double> xy, bool closed) const {
     x = start + std::remainder(x - start, 360.0);
     return true;
   };
-  CurveDivider<decltype(project)> const divider(project, toleranceDegrees, longestSource_, longestSource_ / 100);
+  CurveDivider<decltype(project)> const divider(project, toleranceDegrees, maxSourceEdge_, maxSourceEdge_ / 100);
   for (size_t i = 0; i < count; ++i) {
     if (!std::isfinite(xy[2 * i])) continue;
     add(xy[2 * i], xy[2 * i + 1]);
@@ -284,7 +284,7 @@ std::vector<double> GeometryProjector::toMap(Run const& run, bool closed, std::v
     x = longitude(x);
     return toMap_->apply(x, y);
   };
-  CurveDivider<decltype(project)> const divider(project, mapTolerance_, longestDegrees, shortestDegrees);
+  CurveDivider<decltype(project)> const divider(project, mapTolerance_, maxEdgeDegrees, minEdgeDegrees);
   size_t const count = run.size();
   auto const leadsToCurve = [&](size_t i) {
     size_t const n = (i + 1) % count;

@@ -50,7 +50,7 @@ private:
   bool sourceIsGeographic_ = true;
   Domain domain_{0, true, nullptr};
   double mapTolerance_ = 0;   // how far a curve may lie from its edges, in map units
-  double longestSource_ = 0;  // an edge of a projected source is divided beyond this length, in its units
+  double maxSourceEdge_ = 0;  // an edge of a projected source is divided beyond this length, in its units
 };
 
 }  // namespace SysCarto

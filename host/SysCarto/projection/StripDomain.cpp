@@ -10,7 +10,7 @@ namespace {
 
 constexpr double edge = 180;
 constexpr double nearly = 1e-9;
-constexpr int mostTurns = 3;  // coordinates further round the globe than this are no coordinates
+constexpr int maxTurns = 3;  // coordinates further round the globe than this are no coordinates
 
 class StripDomain final : public ProjectionDomain {
 public:
@@ -60,9 +60,7 @@ StripDomain::Turns StripDomain::turnsOf(Run const* runs, size_t count) {
       east = std::max(east, v.x);
     }
   if (!(west <= east)) return {0, -1};
-  auto const turn = [](double x) {
-    return std::clamp(std::floor((x + edge) / 360), -1.0 * mostTurns, 1.0 * mostTurns);
-  };
+  auto const turn = [](double x) { return std::clamp(std::floor((x + edge) / 360), -1.0 * maxTurns, 1.0 * maxTurns); };
   int const first = static_cast<int>(turn(west + nearly)), last = static_cast<int>(turn(east - nearly));
   return {first, std::max(first, last)};
 }

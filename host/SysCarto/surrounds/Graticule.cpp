@@ -37,13 +37,13 @@ constexpr double intervals[] = {
     1, 2, 5, 10, 15, 30, 45, 90};
 // clang-format on
 
-constexpr double leastBetweenCm = 2;  // two lines
-constexpr double mostLines = 1000;
+constexpr double minBetweenCm = 2;  // two lines
+constexpr double maxLines = 1000;
 constexpr double labelGapPt = 3;
 
 double intervalFor(double cmPerDegree) {
   auto const* const found = std::find_if(std::begin(intervals), std::end(intervals), [cmPerDegree](double interval) {
-    return interval * cmPerDegree >= leastBetweenCm;
+    return interval * cmPerDegree >= minBetweenCm;
   });
   return found == std::end(intervals) ? intervals[std::size(intervals) - 1] : *found;
 }
@@ -87,7 +87,7 @@ struct Graticule::Private {
     return *lines;
   }
   bool isTooFine(GraticuleLines const& lines, Envelope const& extent) const {
-    return settings.interval > 0 && lines.count(extent, settings.interval) > mostLines;
+    return settings.interval > 0 && lines.count(extent, settings.interval) > maxLines;
   }
   QList<_ptr_t<Element>> const& elementsFor(Map const& map, Envelope const& rectangle) const;
 };
@@ -164,12 +164,12 @@ QString GraticuleSettings::problemOf(Graticule const& graticule, MapFrameElement
   Envelope const extent(*map.GetExtent());
   if (d.settings.interval == 0 || !d.isTooFine(d.linesOf(map.GetCoordinateSystem()), extent)) return QString();
   double const count = d.lines->count(extent, d.settings.interval);
-  double const least = std::ceil(count * d.settings.interval / mostLines * 1000) / 1000;
+  double const least = std::ceil(count * d.settings.interval / maxLines * 1000) / 1000;
   return QCoreApplication::translate("Graticule",
                                      "the graticule “%1” of the map “%2” has an interval of %3 degrees, which makes %4 "
                                      "lines; at most %5 are drawn, so an interval is chosen for it; enter one of %6 "
                                      "degrees or more")
-      .arg(d.settings.name, map.GetName(), grouped(d.settings.interval), grouped(std::round(count)), grouped(mostLines),
+      .arg(d.settings.name, map.GetName(), grouped(d.settings.interval), grouped(std::round(count)), grouped(maxLines),
            grouped(least));
 }
 

@@ -15,7 +15,7 @@ using SysUtility::make;
 
 namespace {
 
-constexpr int longestLabel = 80;
+constexpr int maxLabelLength = 80;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(MapSurround)
@@ -32,7 +32,7 @@ _ptr_t<TextSymbol> usual(_ptr_t<TextSymbol> const& chosen, double sizePt, bool b
 }
 
 QString shortened(QString const& label) {
-  return label.size() > longestLabel ? label.left(longestLabel - 1).trimmed() + QChar(0x2026) : label;
+  return label.size() > maxLabelLength ? label.left(maxLabelLength - 1).trimmed() + QChar(0x2026) : label;
 }
 
 }  // namespace

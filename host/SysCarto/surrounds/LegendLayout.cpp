@@ -26,7 +26,7 @@ constexpr double rowGap = 3;    // between two rows
 constexpr double layerGap = 7;  // before a heading
 constexpr double titleGap = 6;  // below the title
 constexpr double columnGap = 16;
-constexpr int mostColumns = 12;
+constexpr int maxColumns = 12;
 
 // What a symbol covers about the middle of its patch.
 QSizeF sizeOf(_ptr_t<Symbol> const& symbol) {
@@ -70,13 +70,13 @@ void LegendLayout::measure(QString const& title, QVector<LegendRow> const& rows)
 }
 
 // A heading stays with its first class.
-QVector<LegendLayout::Column> LegendLayout::columnsOf(QVector<LegendRow> const& rows, double mostHeight) const {
+QVector<LegendLayout::Column> LegendLayout::columnsOf(QVector<LegendRow> const& rows, double maxHeight) const {
   QVector<Column> columns;
   for (int i = 0; i < rows.size(); ++i) {
     bool const leads = rows[i].kind == LegendRow::Heading && i + 1 < rows.size();
     double const needed = sizes_[i].height + (leads ? sizes_[i + 1].above + sizes_[i + 1].height : 0);
     bool const follows = i > 0 && rows[i - 1].kind == LegendRow::Heading;
-    bool const isFull = !columns.isEmpty() && columns.last().height + sizes_[i].above + needed > mostHeight + 1e-6;
+    bool const isFull = !columns.isEmpty() && columns.last().height + sizes_[i].above + needed > maxHeight + 1e-6;
     if (columns.isEmpty() || (isFull && !follows)) columns << Column{i, 0, 0, 0};
     Column& column = columns.last();
     column.height += (column.count > 0 ? sizes_[i].above : 0) + sizes_[i].height;
@@ -116,7 +116,7 @@ QList<_ptr_t<Element>> LegendLayout::elements(QString const& title, QVector<Lege
                                               Envelope const& area) {
   measure(title, rows);
   Arrangement best = arrange(rows, 1, area);
-  for (int columns = 2; columns <= mostColumns && best.factor < 1; ++columns) {
+  for (int columns = 2; columns <= maxColumns && best.factor < 1; ++columns) {
     Arrangement const next = arrange(rows, columns, area);
     if (next.factor > best.factor + 1e-9) best = next;
   }

@@ -46,7 +46,7 @@ private:
 
   static double spaceAbove(QVector<LegendRow> const& rows, int row);
   void measure(QString const& title, QVector<LegendRow> const& rows);
-  QVector<Column> columnsOf(QVector<LegendRow> const& rows, double mostHeight) const;
+  QVector<Column> columnsOf(QVector<LegendRow> const& rows, double maxHeight) const;
   Arrangement arrange(QVector<LegendRow> const& rows, int columns, SysGeometry::Envelope const& area) const;
   void addRow(LegendRow const& row, Measured const& size, double x, double y);
   void addPatch(SysUtility::_ptr_t<SysDisplay::Symbol> const& symbol, double middleX, double middleY);

@@ -46,9 +46,9 @@ constexpr RoundLength roundLengths[] = {{1, 4}, {2, 4}, {3, 3}, {4, 4}, {5, 5}, 
 // clang-format on
 
 constexpr double outlinePt = 0.5;
-constexpr double gapPt = 2.5;         // between the numbers and the bar
-constexpr double leastBetweenPt = 4;  // two numbers
-constexpr double shortestBarCm = 0.3;
+constexpr double gapPt = 2.5;       // between the numbers and the bar
+constexpr double minBetweenPt = 4;  // two numbers
+constexpr double minBarCm = 0.3;
 
 UnitRow const& rowOf(BarUnit unit) {
   return *std::find_if(std::begin(units), std::end(units), [=](UnitRow const& row) { return row.unit == unit; });
@@ -63,9 +63,9 @@ struct Bar {
 };
 
 // The longest bar of a round length that is not longer than that.
-std::optional<Bar> longestBar(double mostCm, double metresPerCm, BarUnit asked) {
-  if (!(mostCm > shortestBarCm) || !(metresPerCm > 0) || !std::isfinite(metresPerCm)) return std::nullopt;
-  double const most = mostCm * metresPerCm / (asked == BarUnit::Automatic ? 1 : rowOf(asked).metres);
+std::optional<Bar> maxBar(double maxCm, double metresPerCm, BarUnit asked) {
+  if (!(maxCm > minBarCm) || !(metresPerCm > 0) || !std::isfinite(metresPerCm)) return std::nullopt;
+  double const most = maxCm * metresPerCm / (asked == BarUnit::Automatic ? 1 : rowOf(asked).metres);
   double const power = std::pow(10.0, std::floor(std::log10(most)));
   RoundLength const* best = roundLengths;
   for (RoundLength const& one : roundLengths)
@@ -114,9 +114,9 @@ public:
 
   std::optional<Bar> fit(double metresPerCm, BarUnit unit) const {
     // How far the numbers reach beyond the ends depends on the bar, which depends on the room that they leave.
-    std::optional<Bar> bar = longestBar(area_.GetWidth(), metresPerCm, unit);
+    std::optional<Bar> bar = maxBar(area_.GetWidth(), metresPerCm, unit);
     for (int i = 0; bar && i < 8 && bar->lengthCm + overhang(*bar) > area_.GetWidth(); ++i)
-      bar = longestBar(std::min(area_.GetWidth() - overhang(*bar), bar->lengthCm * (1 - 1e-9)), metresPerCm, unit);
+      bar = maxBar(std::min(area_.GetWidth() - overhang(*bar), bar->lengthCm * (1 - 1e-9)), metresPerCm, unit);
     return bar && bar->lengthCm + overhang(*bar) <= area_.GetWidth() ? bar : std::nullopt;
   }
 
@@ -184,7 +184,7 @@ private:
     for (int i = 0; i <= bar.divisions; ++i) widest = std::max(widest, widthOf(numberAt(bar, i)));
     int every = 1;
     while (every < bar.divisions &&
-           (bar.divisions % every != 0 || every * stepCm_ < widest + leastBetweenPt * SysDisplay::cmPerPoint))
+           (bar.divisions % every != 0 || every * stepCm_ < widest + minBetweenPt * SysDisplay::cmPerPoint))
       ++every;
     for (int i = 0; i <= bar.divisions; i += every) {
       QString const number = numberAt(bar, i);
