@@ -31,18 +31,6 @@ QString chosenFile() {
                                       Texts::tr("kdx File(*.kdx)"));
 }
 
-// Opens the document whose layout is to be taken over. Why one can't be is for those who look at the program's
-// messages; the box says only that it is so.
-bool openTemplate(MapDocument& document, QString const& file) {
-  bool const opened = document.Open(file);
-  for (QString const& error : document.GetErrors()) qWarning("%s", qUtf8Printable(error));
-  if (!opened) return false;
-  auto const layout = document.GetPageLayout();
-  if (layout && layout->GetPage()) return true;
-  qWarning("%s: the document has no page; choose one that has a page", qUtf8Printable(file));
-  return false;
-}
-
 void install(_ptr_t<PageLayout> const& layout, IKdxContents& contents, IDesktop& desktop, PageLayout const& old) {
   contents.SetPageLayout(layout);
   if (auto const site = desktop.GetContentsSite()) site->SetContents(&contents);
@@ -74,7 +62,7 @@ void ChangePageLayout::OnClick() {
   MapDocument templateDocument;
   QString const file = chosenFile();
   if (file.isEmpty()) return;
-  if (!openTemplate(templateDocument, file)) {
+  if (!templateDocument.Open(file)) {
     QMessageBox::critical(dialogParent(*hook()), Texts::tr("Error"), Texts::tr("Open File Failed!"), QMessageBox::Ok,
                           QMessageBox::Ok);
     return;

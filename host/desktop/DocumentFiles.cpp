@@ -145,7 +145,7 @@ bool DocumentFiles::read(QString const& path) {
                tr("Open %1 to read it? Changes are then saved under another name.").arg(QFileInfo(path).fileName())))
     return false;
   if (!session_.open(path)) {
-    tell(QMessageBox::Critical, tr("The document was not opened."), {session_.problem()});
+    tell(QMessageBox::Critical, tr("The document was not opened."), {session_.takeProblem()});
     return false;
   }
   lock_ = lock;
@@ -192,7 +192,7 @@ bool DocumentFiles::write(QString const& path) {
   }
   if (!mayOverwrite(path, *lock)) return false;
   if (!session_.saveAs(path)) {
-    tell(QMessageBox::Critical, failed, {session_.problem()});
+    tell(QMessageBox::Critical, failed, {session_.takeProblem()});
     return false;
   }
   lock_ = lock;

@@ -21,6 +21,8 @@ DocumentSession::~DocumentSession() {
 
 QString DocumentSession::title() const { return path().isEmpty() ? tr("Untitled") : QFileInfo(path()).fileName(); }
 
+QString DocumentSession::takeProblem() { return SysCarto::MapDocumentHost::takeLastFailure(); }
+
 bool DocumentSession::settle(bool done) {
   if (!done) return false;
   emit replaced();

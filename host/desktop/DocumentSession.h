@@ -19,12 +19,13 @@ public:
   /// The file's name, or what a document without a file is called.
   QString title() const;
 
-  // Each answers false, with a sentence in `problem` and the document unchanged, where it can't be done.
+  // Each answers false, with a sentence in `takeProblem` and the document unchanged, where it can't be done.
   bool create();
   bool open(QString const& path);
   bool save();
   bool saveAs(QString const& path);
-  QString problem() const { return document_.GetErrors().join(QLatin1Char('\n')); }
+  /// Said once: whoever asks tells it.
+  static QString takeProblem();
 
   /// Whether the file holds something else than what was read from it or written to it here; false where it has gone.
   bool isFileChanged() const;

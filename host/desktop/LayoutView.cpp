@@ -70,6 +70,10 @@ void LayoutView::setTool(_ptr_t<SysUI::ITool> const& tool) {
   giveDragUp();
   tool_ = tool;
   unsetCursor();
+  enterTool();
+}
+
+void LayoutView::enterTool() {
   QEvent enter(QEvent::Enter);
   if (tool_ && layout_) tool_->OnEnterEvent(&enter);
 }
@@ -80,6 +84,7 @@ void LayoutView::giveDragUp() {
   QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
   if (tool_) tool_->OnKeyDown(&escape);
   clearOverlay();
+  enterTool();  // a cursor of the drag goes with it
 }
 
 void LayoutView::hideEvent(QHideEvent*) { giveDragUp(); }

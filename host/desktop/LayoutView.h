@@ -50,6 +50,7 @@ protected:
 
 private:
   void giveDragUp();
+  void enterTool();
   void scrollBy(QPoint const& offset);
   QPoint scrollOf(QWheelEvent const& event) const;
   void zoomAt(QPoint const& position, double factor);

@@ -3,13 +3,18 @@
 #include "ImageFormat.h"
 #include "ImageTarget.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
 #include <QFileInfo>
 #include <QLineEdit>
 
-OutputWatch::OutputWatch() { qApp->installEventFilter(this); }
+OutputWatch::OutputWatch() {
+  qApp->installEventFilter(this);
+  SysCarto::MapDocumentHost::takeLastFailure();
+}
 OutputWatch::~OutputWatch() = default;
 
 // The field by which a dialog is known as one that names an image to write.
@@ -25,7 +30,7 @@ bool OutputWatch::eventFilter(QObject* watched, QEvent* event) {
 }
 
 QString OutputWatch::problem() const {
-  if (path_.isEmpty()) return QString();
+  if (path_.isEmpty()) return SysCarto::MapDocumentHost::takeLastFailure();
   ImageTarget const target(path_, ImageFormat::writtenAt(path_));
   bool const isWritten = FileStamp::of(path_) != before_;
   QString problem = isWritten ? QString() : target.checkPlace(QString());

@@ -6,8 +6,8 @@
 
 #include <QObject>
 
-/// While it lives, watches a command at work: which image it was told to write, and what GDAL reports. A command itself
-/// says nothing where its export fails, or even that it is complete.
+/// While it lives, watches a command at work: which image it was told to write, what GDAL reports, and why a document
+/// could not be opened. A command itself says little or nothing where it fails, or even that it is complete.
 class OutputWatch final : public QObject {
   Q_OBJECT
 
@@ -15,7 +15,7 @@ public:
   OutputWatch();
   ~OutputWatch() override;
 
-  /// Looks at the image now. A sentence that says why it was not written, or empty.
+  /// Looks at the image now. A sentence that says why it was not written, or a document not opened, or empty.
   QString problem() const;
 
 protected:

@@ -134,7 +134,7 @@ QString RunSteps::check(QStringList const& steps) const {
 QString RunSteps::open(QString const& document) {
   bool const opened = bench_.session().open(document);
   for (QString const& warning : bench_.session().document().GetWarnings()) Console::complain(warning);
-  return opened ? QString() : bench_.session().problem();
+  return opened ? QString() : bench_.session().takeProblem();
 }
 
 QString RunSteps::run(QString const& step) {
@@ -271,7 +271,7 @@ QString RunSteps::save(QString const& file) {
   if (!lock.take() && !force_) return tr("%1 Name another file, or pass --force.").arg(lock.holder());
   if (!force_ && lock.guards(bench_.session().path()) && bench_.session().isFileChanged())
     return tr("%1 was changed by another program since it was read; name another file, or pass --force.").arg(file);
-  return bench_.session().saveAs(file) ? QString() : bench_.session().problem();
+  return bench_.session().saveAs(file) ? QString() : bench_.session().takeProblem();
 }
 
 QString RunSteps::info(QString const&) {

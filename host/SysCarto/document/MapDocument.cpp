@@ -75,6 +75,9 @@ QStringList unknownFieldSentences(QString const& path, QStringList const& fields
   return sentences;
 }
 
+// Of any document of the program; a command's own document is gone when the command is asked what it did.
+QString lastFailure;
+
 }  // namespace
 
 struct MapDocument::Private {
@@ -141,6 +144,7 @@ void MapDocument::Private::take(QString const& newPath, DocumentContent const& n
 
 bool MapDocument::Private::failed(QString const& sentence) {
   errors = QStringList{sentence};
+  lastFailure = sentence;
   return false;
 }
 
@@ -298,6 +302,8 @@ QByteArray MapDocumentHost::text(MapDocument const& document) {
   QString problem;
   return d.content.layout ? d.textFor(d.path, d.content.relativePaths, problem).value_or(QByteArray()) : QByteArray();
 }
+
+QString MapDocumentHost::takeLastFailure() { return std::exchange(lastFailure, QString()); }
 
 int MapDocumentHost::unreadableSources(MapDocument const& document) { return document.d->unreadableSources; }
 

@@ -16,6 +16,10 @@ struct SYSCARTO_EXPORT MapDocumentHost {
 
   /// How many data sources the last `Open` could not read.
   static int unreadableSources(MapDocument const& document);
+
+  /// Why the latest `Open` or `Save` of any document failed, empty where none has since the last call: a command tells
+  /// no more than that it did.
+  static QString takeLastFailure();
 };
 
 }  // namespace SysCarto
