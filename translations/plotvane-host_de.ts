@@ -1098,15 +1098,15 @@
     <name>ElementSettings</name>
     <message>
         <source>needs at least %1 points</source>
-        <translation>braucht mindestens %1 Punkte</translation>
+        <translation type="vanished">braucht mindestens %1 Punkte</translation>
     </message>
     <message>
         <source>holds a coordinate beyond %1</source>
-        <translation>enthält eine Koordinate jenseits von %1</translation>
+        <translation type="vanished">enthält eine Koordinate jenseits von %1</translation>
     </message>
     <message>
         <source>needs at least one ring</source>
-        <translation>braucht mindestens einen Ring</translation>
+        <translation type="vanished">braucht mindestens einen Ring</translation>
     </message>
     <message>
         <source>must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax</source>
@@ -1118,7 +1118,7 @@
     </message>
     <message>
         <source>needs at least one element</source>
-        <translation>braucht mindestens ein Element</translation>
+        <translation type="vanished">braucht mindestens ein Element</translation>
     </message>
     <message>
         <source>another data frame shows this map already</source>
@@ -2365,6 +2365,30 @@
         <source>The version of the format.</source>
         <translation>Die Version des Formats.</translation>
     </message>
+    <message>
+        <source>Map document</source>
+        <translation>Kartendokument</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Style library</source>
+        <translation>Stilbibliothek</translation>
+    </message>
+    <message>
+        <source>is empty; enter a name</source>
+        <translation>ist leer; geben Sie einen Namen an</translation>
+    </message>
+    <message>
+        <source>holds %1 entries; at least %2</source>
+        <translation>enthält %1 Einträge; mindestens %2 sind nötig</translation>
+    </message>
+    <message>
+        <source>needs at least %1 points</source>
+        <translation>braucht mindestens %1 Punkte</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -2409,7 +2433,7 @@
     </message>
     <message>
         <source>“%1” is not a paper form; “A4” and “Custom” are</source>
-        <translation>„%1“ ist kein Papierformat; „A4“ und „Custom“ sind welche</translation>
+        <translation type="vanished">„%1“ ist kein Papierformat; „A4“ und „Custom“ sind welche</translation>
     </message>
 </context>
 <context>
@@ -2610,7 +2634,7 @@
     <name>LabelSettings</name>
     <message>
         <source>names no field; leave out the labels</source>
-        <translation>nennt kein Feld; lassen Sie die Beschriftung weg</translation>
+        <translation type="vanished">nennt kein Feld; lassen Sie die Beschriftung weg</translation>
     </message>
     <message>
         <source>is not above that of the class before</source>
@@ -2959,7 +2983,7 @@
     </message>
     <message>
         <source>names no field</source>
-        <translation>nennt kein Feld</translation>
+        <translation type="vanished">nennt kein Feld</translation>
     </message>
 </context>
 <context>
@@ -3076,7 +3100,7 @@
     </message>
     <message>
         <source>is empty; give it a name</source>
-        <translation>ist leer; geben Sie einen Namen an</translation>
+        <translation type="vanished">ist leer; geben Sie einen Namen an</translation>
     </message>
     <message>
         <source>; correct the file or choose another one</source>

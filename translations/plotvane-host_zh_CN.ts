@@ -1098,15 +1098,15 @@
     <name>ElementSettings</name>
     <message>
         <source>needs at least %1 points</source>
-        <translation>至少需要 %1 个点</translation>
+        <translation type="vanished">至少需要 %1 个点</translation>
     </message>
     <message>
         <source>holds a coordinate beyond %1</source>
-        <translation>含有超出 %1 的坐标</translation>
+        <translation type="vanished">含有超出 %1 的坐标</translation>
     </message>
     <message>
         <source>needs at least one ring</source>
-        <translation>至少需要一个环</translation>
+        <translation type="vanished">至少需要一个环</translation>
     </message>
     <message>
         <source>must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax</source>
@@ -1118,7 +1118,7 @@
     </message>
     <message>
         <source>needs at least one element</source>
-        <translation>至少需要一个元素</translation>
+        <translation type="vanished">至少需要一个元素</translation>
     </message>
     <message>
         <source>another data frame shows this map already</source>
@@ -2365,6 +2365,30 @@
         <source>The version of the format.</source>
         <translation>格式的版本。</translation>
     </message>
+    <message>
+        <source>Map document</source>
+        <translation>地图文档</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Style library</source>
+        <translation>样式库</translation>
+    </message>
+    <message>
+        <source>is empty; enter a name</source>
+        <translation>为空；请给出名称</translation>
+    </message>
+    <message>
+        <source>holds %1 entries; at least %2</source>
+        <translation>含有 %1 个条目；至少需要 %2 个</translation>
+    </message>
+    <message>
+        <source>needs at least %1 points</source>
+        <translation>至少需要 %1 个点</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -2409,7 +2433,7 @@
     </message>
     <message>
         <source>“%1” is not a paper form; “A4” and “Custom” are</source>
-        <translation>“%1”不是纸张规格；“A4”和“Custom”才是</translation>
+        <translation type="vanished">“%1”不是纸张规格；“A4”和“Custom”才是</translation>
     </message>
 </context>
 <context>
@@ -2610,7 +2634,7 @@
     <name>LabelSettings</name>
     <message>
         <source>names no field; leave out the labels</source>
-        <translation>没有指定字段；请去掉标注</translation>
+        <translation type="vanished">没有指定字段；请去掉标注</translation>
     </message>
     <message>
         <source>is not above that of the class before</source>
@@ -2959,7 +2983,7 @@
     </message>
     <message>
         <source>names no field</source>
-        <translation>没有指定字段</translation>
+        <translation type="vanished">没有指定字段</translation>
     </message>
 </context>
 <context>
@@ -3076,7 +3100,7 @@
     </message>
     <message>
         <source>is empty; give it a name</source>
-        <translation>为空；请给出名称</translation>
+        <translation type="vanished">为空；请给出名称</translation>
     </message>
     <message>
         <source>; correct the file or choose another one</source>

@@ -25,8 +25,7 @@ struct Texts {
 SysUtility::JsonFileKind styleKind() { return {Texts::tr("style library"), QStringLiteral(".style"), 64}; }
 
 void listName(Fields& fields, QString& name, char const* help) {
-  fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"), help}, name, TextKind::Line);
-  if (fields.ok() && name.trimmed().isEmpty()) fields.fail("name", Texts::tr("is empty; give it a name"));
+  fields.filledText({"name", QT_TRANSLATE_NOOP("Fields", "Name"), help}, name, TextKind::Line);
 }
 
 }  // namespace
@@ -40,18 +39,19 @@ void StyleItem::list(Fields& fields) {
 
 void StyleCategory::list(Fields& fields) {
   listName(fields, name, QT_TRANSLATE_NOOP("Fields", "What the category is called; a slash puts it into another."));
-  fields.list(
-      {"items", QT_TRANSLATE_NOOP("Fields", "Symbols"), QT_TRANSLATE_NOOP("Fields", "The symbols of the category.")},
-      items, maxItems, [](Fields& own, StyleItem& item, int) { item.list(own); });
+  fields.list({"items", QT_TRANSLATE_NOOP("Fields", "Symbols"),
+               QT_TRANSLATE_NOOP("Fields", "The symbols of the category."), "item"},
+              items, maxItems, [](Fields& own, StyleItem& item, int) { item.list(own); });
 }
 
 void StyleLibrary::list(Fields& fields) {
   listFormat(fields,
-             {"plotvane-style", styleVersion, Texts::tr("is not “%1”, so this is no style library"),
+             {"plotvane-style", QT_TRANSLATE_NOOP("Fields", "Style library"), styleVersion,
+              Texts::tr("is not “%1”, so this is no style library"),
               Texts::tr("the library was written by a newer version of Plotvane, as version %1; update Plotvane")});
   if (!fields.ok()) return;
   fields.list({"categories", QT_TRANSLATE_NOOP("Fields", "Categories"),
-               QT_TRANSLATE_NOOP("Fields", "Groups of symbols, in the order in which they are shown.")},
+               QT_TRANSLATE_NOOP("Fields", "Groups of symbols, in the order in which they are shown."), "category"},
               categories, maxCategories, [](Fields& own, StyleCategory& category, int) { category.list(own); });
 }
 

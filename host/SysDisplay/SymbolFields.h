@@ -19,6 +19,18 @@ bool isA(Symbol const* symbol) {
   return dynamic_cast<Wanted const*>(symbol) != nullptr;
 }
 
+/// What the description of a document calls symbols of a class.
+template <class Wanted>
+constexpr char const* typeOfSymbols = "symbol";
+template <>
+inline constexpr char const* typeOfSymbols<LineSymbol> = "lineSymbol";
+template <>
+inline constexpr char const* typeOfSymbols<FillSymbol> = "fillSymbol";
+template <>
+inline constexpr char const* typeOfSymbols<MarkerSymbol> = "markerSymbol";
+template <>
+inline constexpr char const* typeOfSymbols<TextSymbol> = "textSymbol";
+
 /// The same for a class that a function tells.
 SYSDISPLAY_EXPORT void listSymbolOf(SysUtility::Fields& fields, SysUtility::Field const& field,
                                     SysUtility::_ptr_t<Symbol>& symbol, bool (*isWanted)(Symbol const*),
@@ -31,14 +43,14 @@ SYSDISPLAY_EXPORT void listSymbolOf(SysUtility::Fields& fields, SysUtility::Fiel
 template <class Wanted>
 void listSymbol(SysUtility::Fields& fields, SysUtility::Field const& field, SysUtility::_ptr_t<Wanted>& symbol) {
   SysUtility::_ptr_t<Symbol> any = symbol;
-  listSymbolOf(fields, field, any, isA<Wanted>, true);
+  listSymbolOf(fields, {field.key, field.caption, field.help, typeOfSymbols<Wanted>}, any, isA<Wanted>, true);
   symbol = SysUtility::ptr_cast<Wanted>(any);
 }
 template <class Wanted>
 void listOptionalSymbol(SysUtility::Fields& fields, SysUtility::Field const& field,
                         SysUtility::_ptr_t<Wanted>& symbol) {
   SysUtility::_ptr_t<Symbol> any = symbol;
-  listSymbolOf(fields, field, any, isA<Wanted>, false);
+  listSymbolOf(fields, {field.key, field.caption, field.help, typeOfSymbols<Wanted>}, any, isA<Wanted>, false);
   symbol = SysUtility::ptr_cast<Wanted>(any);
 }
 

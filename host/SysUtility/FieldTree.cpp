@@ -4,7 +4,7 @@
 
 namespace SysUtility {
 
-FieldTree::FieldTree(QStringList outerLists) : outerLists_(std::move(outerLists)) {}
+FieldTree::FieldTree(QStringList outerTypes) : outerTypes_(std::move(outerTypes)) {}
 FieldTree::~FieldTree() = default;
 
 FieldInfo& FieldTree::add(Field const& field, FieldInfo::Kind kind, bool isRequired) {
@@ -15,6 +15,17 @@ FieldInfo& FieldTree::add(Field const& field, FieldInfo::Kind kind, bool isRequi
   fields_ << info;
   return fields_.last();
 }
+
+// The fields of a nested object, or of each object of a list.
+QVector<FieldInfo> FieldTree::fieldsOf(Field const& field, Describe const& describe) const {
+  QString const type = QString::fromUtf8(field.type ? field.type : field.key);
+  if (outerTypes_.contains(type)) return {};
+  FieldTree inner(outerTypes_ + QStringList(type));
+  describe(inner);
+  return inner.fields_;
+}
+
+void FieldTree::fail(char const* key, QString const&) { failedKey_ = QString::fromUtf8(key); }
 
 void FieldTree::value(Field const& field, ValueRef value, ValueRules const& rules) {
   using Kind = FieldInfo::Kind;
@@ -33,33 +44,33 @@ void FieldTree::choose(Field const& field, int&, Choices const& choices, std::op
 }
 
 void FieldTree::variant(Field const& field, int&, Choices const& kinds, std::function<void(int)> const& describe) {
-  QVector<FieldInfo> before = std::exchange(fields_, {});
+  QVector<FieldInfo> const before = std::exchange(fields_, {});
+  QVector<Choice> choices;
   QVector<QVector<FieldInfo>> variants;
   for (Choice const& kind : kinds) {
+    failedKey_.clear();
     describe(kind.value);
-    variants << std::exchange(fields_, {});
+    auto const described = std::exchange(fields_, {});
+    if (failedKey_ == QLatin1String(field.key)) continue;
+    choices << kind;
+    variants << described;
   }
   fields_ = before;
   FieldInfo& info = add(field, FieldInfo::Kind::Variant, true);
-  for (Choice const& kind : kinds) info.choices << kind;
+  info.choices = choices;
   info.variants = variants;
 }
 
 bool FieldTree::nest(Field const& field, std::optional<bool> present, Describe const& describe) {
-  FieldTree inner(outerLists_);
-  describe(inner);
-  add(field, FieldInfo::Kind::Object, !present).fields = inner.fields_;
+  add(field, FieldInfo::Kind::Object, !present).fields = fieldsOf(field, describe);
   return true;
 }
 
-void FieldTree::objects(Field const& field, int, int max, std::function<void(Fields&, int)> const& describe) {
-  FieldInfo& info = add(field, FieldInfo::Kind::List, false);
-  info.maxCount = max;
-  QString const key = QString::fromUtf8(field.key);
-  if (outerLists_.contains(key)) return;
-  FieldTree entry(outerLists_ + QStringList(key));
-  describe(entry, 0);
-  info.fields = entry.fields_;
+void FieldTree::objects(Field const& field, int, Counts const& counts,
+                        std::function<void(Fields&, int)> const& describe) {
+  FieldInfo& info = add(field, FieldInfo::Kind::List, counts.min > 0);
+  info.counts = counts;
+  info.fields = fieldsOf(field, [&](Fields& entry) { describe(entry, 0); });
 }
 
 }  // namespace SysUtility

@@ -33,11 +33,13 @@ enum class TextKind { Line, Lines, Color, File, Svg, Attribute, Condition, Coord
 enum class NumbersKind { Point, Offset, Rectangle };
 
 /// One field of a stored thing: its key in a document, and what a person reads of it. `caption` and `help` are English
-/// source texts of the translation context "Fields".
+/// source texts of the translation context "Fields". What may stand in several places, or in itself, has one name there
+/// for its `type`: that of an object, or of each object of a list. Without one the key is the name.
 struct Field {
   char const* key;
   char const* caption;
   char const* help;
+  char const* type = nullptr;
 };
 
 /// One value of a field that has a few: the number in the program, the name in a document, and the caption as in
@@ -63,6 +65,12 @@ struct Choices {
   Choice const* last;
 };
 
+/// How many objects a list holds.
+struct Counts {
+  int min;
+  int max;
+};
+
 /// What a single value of a field may be.
 struct ValueRules {
   bool isRequired = true;
@@ -70,6 +78,8 @@ struct ValueRules {
   Range range{-std::numeric_limits<double>::max(), std::numeric_limits<double>::max()};  ///< of each number
   TextKind textKind = TextKind::Line;
   NumbersKind numbersKind = NumbersKind::Point;
+  bool isFilled = false;  ///< a text is more than blanks
+  int minPoints = 0;      ///< of a list of coordinate pairs
 };
 
 /// As many numbers as their kind says.
@@ -129,6 +139,14 @@ public:
     visit(field, &text, byDefault, ValueRules().range, kind);
   }
 
+  /// A text that must be there and hold more than blanks.
+  void filledText(Field const& field, QString& text, TextKind kind) {
+    ValueRules rules;
+    rules.textKind = kind;
+    rules.isFilled = true;
+    value(field, &text, rules);
+  }
+
   /// A list of texts; a missing list is an empty one.
   void texts(Field const& field, QStringList& texts) {
     ValueRules rules;
@@ -145,7 +163,12 @@ public:
   }
 
   /// A list of coordinate pairs, stored flat: [x1, y1, x2, y2, …].
-  void coordinates(Field const& field, QVector<double>& coordinates) { value(field, &coordinates, {}); }
+  void coordinates(Field const& field, QVector<double>& coordinates, int minPoints, Range const& range) {
+    ValueRules rules;
+    rules.range = range;
+    rules.minPoints = minPoints;
+    value(field, &coordinates, rules);
+  }
 
   template <class Value>
   void choice(Field const& field, Value& value, Choices const& choices, std::optional<Value> byDefault = {}) {
@@ -166,16 +189,21 @@ public:
     return nest(field, present, describe);
   }
 
-  /// A list of nested objects, at most `max`; a missing list is an empty one. `describe` receives each object's fields
-  /// and its entry, a new one when reading.
+  /// A list of nested objects. One that may be empty may be missing. `describe` receives each object's fields and its
+  /// entry, a new one when reading.
   template <class List>
-  void list(Field const& field, List& entries, int max,
+  void list(Field const& field, List& entries, Counts const& counts,
             std::function<void(Fields&, typename List::value_type&, int)> const& describe) {
     if (isReading() && ok()) entries.clear();
-    objects(field, static_cast<int>(entries.size()), max, [&](Fields& fields, int index) {
+    objects(field, static_cast<int>(entries.size()), counts, [&](Fields& fields, int index) {
       if (index == static_cast<int>(entries.size())) entries.push_back({});
       describe(fields, entries[index], index);
     });
+  }
+  template <class List>
+  void list(Field const& field, List& entries, int max,
+            std::function<void(Fields&, typename List::value_type&, int)> const& describe) {
+    list(field, entries, Counts{0, max}, describe);
   }
 
 protected:
@@ -183,13 +211,17 @@ protected:
   virtual void choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) = 0;
   /// Without `present` the object must be there.
   virtual bool nest(Field const& field, std::optional<bool> present, Describe const& describe) = 0;
-  virtual void objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) = 0;
+  virtual void objects(Field const& field, int count, Counts const& counts,
+                       std::function<void(Fields&, int)> const& describe) = 0;
 
 private:
   template <class Value>
   void visit(Field const& field, Value* visited, std::optional<Value> const& byDefault,
              Range const& range = ValueRules().range, TextKind textKind = TextKind::Line) {
-    ValueRules rules{!byDefault, QJsonValue::Undefined, range, textKind};
+    ValueRules rules;
+    rules.isRequired = !byDefault;
+    rules.range = range;
+    rules.textKind = textKind;
     if (byDefault) rules.byDefault = *byDefault;
     value(field, visited, rules);
   }

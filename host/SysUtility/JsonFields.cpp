@@ -57,14 +57,24 @@ bool JsonFields::isShort(Field const& field, QString const& text, TextKind kind)
   return text.size() <= max;
 }
 
-bool JsonFields::isFew(Field const& field, int count, int max) {
-  if (count > max) fail(field.key, Fields::tr("holds %1 entries; at most %2").arg(count).arg(max));
-  return count <= max;
+bool JsonFields::isFilled(Field const& field, QString const& text, ValueRules const& rules) {
+  bool const isWell = !rules.isFilled || !text.trimmed().isEmpty();
+  if (!isWell) fail(field.key, Fields::tr("is empty; enter a name"));
+  return isWell;
 }
 
-bool JsonFields::isEven(Field const& field, int count) {
-  if (count % 2) fail(field.key, Fields::tr("holds an odd count of numbers"));
-  return count % 2 == 0;
+bool JsonFields::isAllowed(Field const& field, int count, Counts const& counts) {
+  if (count > counts.max) fail(field.key, Fields::tr("holds %1 entries; at most %2").arg(count).arg(counts.max));
+  if (count < counts.min) fail(field.key, Fields::tr("holds %1 entries; at least %2").arg(count).arg(counts.min));
+  return count >= counts.min && count <= counts.max;
+}
+
+bool JsonFields::isPairs(Field const& field, int count, ValueRules const& rules) {
+  if (count % 2)
+    fail(field.key, Fields::tr("holds an odd count of numbers"));
+  else if (count < 2 * rules.minPoints)
+    fail(field.key, Fields::tr("needs at least %1 points").arg(rules.minPoints));
+  return count % 2 == 0 && count >= 2 * rules.minPoints;
 }
 
 // Reading
@@ -151,7 +161,8 @@ void JsonReader::read(Field const& field, QJsonValue const& json, int* value, Va
 void JsonReader::read(Field const&, QJsonValue const& json, bool* value, ValueRules const&) { *value = json.toBool(); }
 
 void JsonReader::read(Field const& field, QJsonValue const& json, QString* value, ValueRules const& rules) {
-  if (isShort(field, json.toString(), rules.textKind)) *value = json.toString();
+  QString const text = json.toString();
+  if (isShort(field, text, rules.textKind) && isFilled(field, text, rules)) *value = text;
 }
 
 void JsonReader::read(Field const& field, QJsonValue const& json, QStringList* values, ValueRules const&) {
@@ -186,7 +197,7 @@ void JsonReader::read(Field const& field, QJsonValue const& json, NumbersRef val
 
 void JsonReader::read(Field const& field, QJsonValue const& json, QVector<double>* values, ValueRules const& rules) {
   QJsonArray const list = json.toArray();
-  if (!isEven(field, list.size())) return;
+  if (!isPairs(field, list.size(), rules)) return;
   if (auto const read = takeNumbers(field, list, rules.range)) *values = *read;
 }
 
@@ -216,11 +227,12 @@ bool JsonReader::nest(Field const& field, std::optional<bool> present, Describe 
   return json && ok();
 }
 
-void JsonReader::objects(Field const& field, int, int max, std::function<void(Fields&, int)> const& describe) {
-  auto const json = take(field, QJsonValue::Array, false);
+void JsonReader::objects(Field const& field, int, Counts const& counts,
+                         std::function<void(Fields&, int)> const& describe) {
+  auto const json = take(field, QJsonValue::Array, counts.min > 0);
   if (!json) return;
   QJsonArray const list = json->toArray();
-  if (!isFew(field, list.size(), max)) return;
+  if (!isAllowed(field, list.size(), counts)) return;
   for (int i = 0; i < list.size() && ok(); ++i) {
     if (!list.at(i).isObject()) return failAt(pathOf(field, i), wrongKind(QJsonValue::Object, list.at(i)));
     describeChild(list.at(i).toObject(), pathOf(field, i), [&](Fields& child) { describe(child, i); });
@@ -254,7 +266,8 @@ void JsonWriter::write(Field const& field, bool const* value, ValueRules const& 
 }
 
 void JsonWriter::write(Field const& field, QString const* value, ValueRules const& rules) {
-  if (rules.byDefault != *value && isShort(field, *value, rules.textKind)) put(field, *value);
+  if (rules.byDefault != *value && isShort(field, *value, rules.textKind) && isFilled(field, *value, rules))
+    put(field, *value);
 }
 
 void JsonWriter::write(Field const& field, QStringList const* values, ValueRules const&) {
@@ -266,7 +279,7 @@ void JsonWriter::write(Field const& field, NumbersRef values, ValueRules const& 
 }
 
 void JsonWriter::write(Field const& field, QVector<double> const* values, ValueRules const& rules) {
-  if (isEven(field, values->size())) putNumbers(field, values->constData(), values->size(), rules.range);
+  if (isPairs(field, values->size(), rules)) putNumbers(field, values->constData(), values->size(), rules.range);
 }
 
 void JsonWriter::putNumbers(Field const& field, double const* values, int count, Range const& range) {
@@ -297,8 +310,9 @@ bool JsonWriter::nest(Field const& field, std::optional<bool> present, Describe 
   return isThere;
 }
 
-void JsonWriter::objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) {
-  if (!isFew(field, count, max)) return;
+void JsonWriter::objects(Field const& field, int count, Counts const& counts,
+                         std::function<void(Fields&, int)> const& describe) {
+  if (!isAllowed(field, count, counts)) return;
   QJsonArray written;
   for (int i = 0; i < count && ok(); ++i)
     written.append(describeChild(pathOf(field, i), [&](Fields& child) { describe(child, i); }));

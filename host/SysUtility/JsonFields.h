@@ -35,8 +35,9 @@ protected:
   // Each reports a problem with the value of the field, and answers whether there is none.
   bool isWithin(Field const& field, double value, Range const& range, std::optional<int> entry = {});
   bool isShort(Field const& field, QString const& text, TextKind kind);
-  bool isFew(Field const& field, int count, int max);
-  bool isEven(Field const& field, int count);
+  bool isFilled(Field const& field, QString const& text, ValueRules const& rules);
+  bool isAllowed(Field const& field, int count, Counts const& counts);
+  bool isPairs(Field const& field, int count, ValueRules const& rules);
 
 private:
   QString path_;
@@ -60,7 +61,8 @@ protected:
   void value(Field const& field, ValueRef value, ValueRules const& rules) override;
   void choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) override;
   bool nest(Field const& field, std::optional<bool> present, Describe const& describe) override;
-  void objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) override;
+  void objects(Field const& field, int count, Counts const& counts,
+               std::function<void(Fields&, int)> const& describe) override;
 
 private:
   JsonReader(QJsonObject source, QString path, std::shared_ptr<Shared> shared);
@@ -97,7 +99,8 @@ protected:
   void value(Field const& field, ValueRef value, ValueRules const& rules) override;
   void choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) override;
   bool nest(Field const& field, std::optional<bool> present, Describe const& describe) override;
-  void objects(Field const& field, int count, int max, std::function<void(Fields&, int)> const& describe) override;
+  void objects(Field const& field, int count, Counts const& counts,
+               std::function<void(Fields&, int)> const& describe) override;
 
 private:
   JsonWriter(QString path, std::shared_ptr<Shared> shared);

@@ -82,16 +82,25 @@ std::optional<QJsonObject> readJsonFile(QString const& path, JsonFileKind const&
   return std::nullopt;
 }
 
+// A file of another format, or of a newer version, gets a sentence that says so.
 void listFormat(Fields& fields, JsonFormat const& format) {
+  constexpr Field formatField{"format", QT_TRANSLATE_NOOP("Fields", "Format"),
+                              QT_TRANSLATE_NOOP("Fields", "What the file is.")};
   QString const ours = QLatin1String(format.name);
-  QString name = ours;
+  if (fields.isReading()) {
+    QString name;
+    fields.text(formatField, name, TextKind::Line);
+    if (fields.ok() && name != ours) fields.fail("format", format.otherSentence.arg(ours));
+  } else {
+    QVector<Choice> const formats{{0, format.name, format.caption}};
+    int name = 0;
+    fields.choice(formatField, name, formats);
+  }
+  if (!fields.ok()) return;
   int version = format.version;
-  fields.text({"format", QT_TRANSLATE_NOOP("Fields", "Format"), QT_TRANSLATE_NOOP("Fields", "What the file is.")}, name,
-              TextKind::Line);
-  if (fields.ok() && name != ours) return fields.fail("format", format.otherSentence.arg(ours));
   fields.integer(
       {"version", QT_TRANSLATE_NOOP("Fields", "Version"), QT_TRANSLATE_NOOP("Fields", "The version of the format.")},
-      version, 1, maxVersion);
+      version, 1, fields.isReading() ? maxVersion : format.version);
   if (fields.ok() && version > format.version) fields.fail("version", format.newerSentence.arg(version));
 }
 

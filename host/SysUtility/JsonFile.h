@@ -28,6 +28,7 @@ SYSUTILITY_EXPORT std::optional<QJsonObject> readJsonFile(QString const& path, J
 /// %1.
 struct JsonFormat {
   char const* name;
+  char const* caption;  ///< as in `Choice`
   int version;
   QString otherSentence, newerSentence;
 };

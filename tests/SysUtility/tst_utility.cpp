@@ -35,7 +35,7 @@ struct Sheet {
   QString title = QStringLiteral("A–4");
   QStringList tags;
   double corner[2] = {0, 0};
-  QVector<double> outline;
+  QVector<double> outline{0, 0};
   QVector<Sheet> inner;
 
   void list(Fields& fields) {
@@ -44,10 +44,10 @@ struct Sheet {
     fields.integer(named("copies"), copies, 1, 5, 1);
     fields.flag(named("landscape"), landscape, false);
     fields.choice<Side>(named("side"), side, sides, Side::Left);
-    fields.text(named("title"), title, TextKind::Line);
+    fields.filledText(named("title"), title, TextKind::Line);
     fields.texts(named("tags"), tags);
     fields.object(named("at"), [&](Fields& at) { at.numbers(named("corner"), corner, NumbersKind::Point, {-10, 10}); });
-    fields.coordinates(named("outline"), outline);
+    fields.coordinates(named("outline"), outline, 1, {-1e15, 1e15});
     fields.list(named("inner"), inner, 2, [](Fields& own, Sheet& sheet, int) { sheet.list(own); });
   }
 };
@@ -153,10 +153,13 @@ private slots:
     row("three for a point", R"("at": {"corner": [1, 2, 3]})", "at.corner: expected 2 numbers, found 3");
     row("coordinate too large", R"("at": {"corner": [1, 11]})", "at.corner[1]: 11 is not between -10 and 10");
     row("odd coordinates", R"("outline": [1])", "outline: holds an odd count of numbers");
+    row("too few points", R"("outline": [])", "outline: needs at least 1 points");
+    row("a point too far away", R"("outline": [0, -1e16])", "outline[1]: -1e+16 is not between -1e+15 and 1e+15");
+    row("blanks for a name", R"("title": " ")", "title: is empty; enter a name");
     row("text as coordinate", R"("outline": [1, "x"])", "outline[1]: expected a number, found a text");
     row("too long a list", R"("inner": [{}, {}, {}])", "inner: holds 3 entries; at most 2");
     row("number in a list", R"("inner": [7])", "inner[0]: expected an object, found a number");
-    row("deep inside", R"("inner": [{"width": 1, "title": "", "at": {"corner": [0, 0]}, "outline": []}, {"width": false}])", "inner[1].width: expected a number, found true or false");
+    row("deep inside", R"("inner": [{"width": 1, "title": "-", "at": {"corner": [0, 0]}, "outline": [0, 0]}, {"width": false}])", "inner[1].width: expected a number, found true or false");
     // clang-format on
   }
   void aProblemIsNamedWithItsPath() {

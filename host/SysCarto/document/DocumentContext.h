@@ -9,6 +9,8 @@
 
 namespace SysCarto {
 
+constexpr int maxMaps = 1000;
+
 /// What the parts of a document need to know of the whole while they are read or written.
 struct DocumentContext {
   QString folder;                       ///< absolute; data sources are relative to it

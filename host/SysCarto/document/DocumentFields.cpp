@@ -3,6 +3,7 @@
 #include "ElementFields.h"
 
 #include "host/SysCarto/document/LayerSettings.h"
+#include "host/SysCarto/document/SurroundFields.h"
 #include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/MapLimits.h"
@@ -25,7 +26,7 @@ using SysUtility::Unit;
 namespace {
 
 constexpr int documentVersion = 1;
-constexpr int maxMaps = 1000, maxLayers = 10000;
+constexpr int maxLayers = 10000;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(MapDocument)
@@ -89,7 +90,7 @@ struct MapSettings {
 void listLayers(Fields& fields, Map& map, DocumentContext& context) {
   QList<_ptr_t<Layer>> layers = fields.isReading() ? QList<_ptr_t<Layer>>() : map.GetLayers();
   fields.list({"layers", QT_TRANSLATE_NOOP("Fields", "Layers"),
-               QT_TRANSLATE_NOOP("Fields", "The layers of the map, the lowest first.")},
+               QT_TRANSLATE_NOOP("Fields", "The layers of the map, the lowest first."), "layer"},
               layers, maxLayers, [&](Fields& own, _ptr_t<Layer>& layer, int) { listLayer(own, layer, map, context); });
   if (!fields.isReading() || !fields.ok()) return;
   for (_ptr_t<Layer> const& layer : qAsConst(layers)) map.AddLayer(layer);
@@ -118,7 +119,7 @@ void listLayout(Fields& fields, PageLayout& layout, DocumentContext const& conte
                  alignToMargins, false);
         own.integer({"focusMap", QT_TRANSLATE_NOOP("Fields", "Focus map"),
                      QT_TRANSLATE_NOOP("Fields", "The number of the map that new surrounds follow.")},
-                    focus, 0, std::max(0, context.maps.size() - 1), 0);
+                    focus, 0, std::max(0, lastMap(fields, context)), 0);
       });
   if (!fields.isReading() || !fields.ok()) return;
   layout.SetAlignToMargins(alignToMargins);
@@ -160,14 +161,15 @@ void listMap(Fields& fields, _ptr_t<Map>& map, DocumentContext& context) {
   auto const handlesOfPage = std::exchange(context.handles, {});
   listElementsOf(fields,
                  {"graphics", QT_TRANSLATE_NOOP("Fields", "Graphics"),
-                  QT_TRANSLATE_NOOP("Fields", "Elements that lie on the map, in map units.")},
+                  QT_TRANSLATE_NOOP("Fields", "Elements that lie on the map, in map units."), "graphic"},
                  *listed->GetGraphicsContainer(), {context, true});
   context.handles = handlesOfPage;
   if (fields.isReading() && fields.ok()) map = listed;
 }
 
 void DocumentContent::list(Fields& fields, DocumentContext& context) {
-  listFormat(fields, {"plotvane-document", documentVersion, Texts::tr("is not “%1”, so this is no map document"),
+  listFormat(fields, {"plotvane-document", QT_TRANSLATE_NOOP("Fields", "Map document"), documentVersion,
+                      Texts::tr("is not “%1”, so this is no map document"),
                       Texts::tr("the document was written by a newer version of Plotvane, as version %1; "
                                 "update Plotvane, or save it there as version %2")
                           .arg(QStringLiteral("%1"), QString::number(documentVersion))});
@@ -177,12 +179,12 @@ void DocumentContent::list(Fields& fields, DocumentContext& context) {
                QT_TRANSLATE_NOOP("Fields", "Whether files are named relative to the document.")},
               relativePaths, true);
   fields.list(
-      {"maps", QT_TRANSLATE_NOOP("Fields", "Maps"), QT_TRANSLATE_NOOP("Fields", "The maps of the data frames.")},
+      {"maps", QT_TRANSLATE_NOOP("Fields", "Maps"), QT_TRANSLATE_NOOP("Fields", "The maps of the data frames."), "map"},
       context.maps, maxMaps, [&](Fields& own, _ptr_t<Map>& map, int) { listMap(own, map, context); });
   listPage(fields, *layout);
   listElementsOf(fields,
                  {"elements", QT_TRANSLATE_NOOP("Fields", "Elements"),
-                  QT_TRANSLATE_NOOP("Fields", "What lies on the page, the lowest first.")},
+                  QT_TRANSLATE_NOOP("Fields", "What lies on the page, the lowest first."), "element"},
                  *layout->GetGraphicsContainer(), {context});
   if (fields.ok()) listLayout(fields, *layout, context);
   if (fields.isReading() && fields.ok()) noteUnusedMaps(*layout, context);

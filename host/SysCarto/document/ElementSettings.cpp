@@ -8,9 +8,6 @@
 
 #include <QDir>
 
-#include <algorithm>
-#include <cmath>
-
 namespace SysCarto {
 
 using SysDisplay::listOptionalSymbol;
@@ -42,16 +39,13 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(ElementSettings)
 };
 
-void listPoints(Fields& fields, QVector<QPointF>& points, int fewest) {
+void listPoints(Fields& fields, QVector<QPointF>& points, int fewest, ElementScope const& scope) {
   QVector<double> flat;
   for (QPointF const& point : qAsConst(points)) flat << point.x() << point.y();
   fields.coordinates({"points", QT_TRANSLATE_NOOP("Fields", "Points"),
                       QT_TRANSLATE_NOOP("Fields", "The vertices: x and y of the first, of the second, and so on.")},
-                     flat);
+                     flat, fewest, anywhere(scope));
   if (!fields.ok()) return;
-  if (flat.size() < 2 * fewest) return fields.fail("points", Texts::tr("needs at least %1 points").arg(fewest));
-  if (std::any_of(flat.begin(), flat.end(), [](double value) { return std::abs(value) > maxCoordinate; }))
-    return fields.fail("points", Texts::tr("holds a coordinate beyond %1").arg(maxCoordinate));
   points.clear();
   for (int i = 0; i + 1 < flat.size(); i += 2) points << QPointF(flat[i], flat[i + 1]);
 }
@@ -90,8 +84,8 @@ LineSettings LineSettings::of(LineElement const& line, ElementScope const&) {
   return {line.shape()->GetPoints(), line.symbol()};
 }
 
-void LineSettings::list(Fields& fields, ElementScope const&) {
-  listPoints(fields, points, 2);
+void LineSettings::list(Fields& fields, ElementScope const& scope) {
+  listPoints(fields, points, 2, scope);
   listSymbolOf(fields, symbol);
 }
 
@@ -104,11 +98,11 @@ PolygonSettings PolygonSettings::of(PolygonElement const& polygon, ElementScope 
   return {polygon.shape()->GetRings(), polygon.symbol()};
 }
 
-void PolygonSettings::list(Fields& fields, ElementScope const&) {
+void PolygonSettings::list(Fields& fields, ElementScope const& scope) {
   fields.list({"rings", QT_TRANSLATE_NOOP("Fields", "Rings"),
-               QT_TRANSLATE_NOOP("Fields", "Closed lines that bound the area; one within another is a hole.")},
-              rings, maxRings, [](Fields& own, QVector<QPointF>& ring, int) { listPoints(own, ring, 3); });
-  if (fields.ok() && rings.isEmpty()) fields.fail("rings", Texts::tr("needs at least one ring"));
+               QT_TRANSLATE_NOOP("Fields", "Closed lines that bound the area; one within another is a hole."),
+               scope.onMap ? "ringOfGraphic" : "ring"},
+              rings, {1, maxRings}, [&](Fields& own, QVector<QPointF>& ring, int) { listPoints(own, ring, 3, scope); });
   listSymbolOf(fields, symbol);
 }
 
@@ -189,10 +183,10 @@ void GroupSettings::list(Fields& fields, ElementScope const& scope) {
   if (scope.depth >= maxDepth)
     return fields.fail(nullptr, Texts::tr("groups are nested more than %1 deep").arg(maxDepth));
   ElementScope const inner{scope.context, scope.onMap, scope.depth + 1};
-  fields.list(
-      {"members", QT_TRANSLATE_NOOP("Fields", "Members"), QT_TRANSLATE_NOOP("Fields", "The elements of the group.")},
-      members, maxMembers, [&](Fields& own, _ptr_t<Element>& member, int) { listElement(own, member, inner); });
-  if (fields.ok() && members.isEmpty()) fields.fail("members", Texts::tr("needs at least one element"));
+  fields.list({"members", QT_TRANSLATE_NOOP("Fields", "Members"),
+               QT_TRANSLATE_NOOP("Fields", "The elements of the group."), scope.onMap ? "memberOfGraphic" : "member"},
+              members, {1, maxMembers},
+              [&](Fields& own, _ptr_t<Element>& member, int) { listElement(own, member, inner); });
 }
 
 void GroupSettings::applyTo(GroupElement& group, ElementScope const&) const {
@@ -219,8 +213,9 @@ void MapFrameSettings::list(Fields& fields, ElementScope const& scope) {
               locked, false);
   rectangle.list(fields, onPage);
   frame.list(fields);
-  fields.list({"grids", QT_TRANSLATE_NOOP("Fields", "Grids"), QT_TRANSLATE_NOOP("Fields", "Grids over the map.")},
-              grids, maxGrids, [](Fields& own, _ptr_t<IMapGrid>& grid, int) { listGrid(own, grid); });
+  fields.list(
+      {"grids", QT_TRANSLATE_NOOP("Fields", "Grids"), QT_TRANSLATE_NOOP("Fields", "Grids over the map."), "grid"},
+      grids, maxGrids, [](Fields& own, _ptr_t<IMapGrid>& grid, int) { listGrid(own, grid); });
 }
 
 void MapFrameSettings::applyTo(MapFrameElement& element, ElementScope const& scope) const {

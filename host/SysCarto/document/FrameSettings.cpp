@@ -60,12 +60,18 @@ void listPart(Fields& fields, Field const& field, _ptr_t<Part>& part) {
   part = made;
 }
 
-std::optional<PageFormID> formOf(QString const& key) {
-  FormInfo info;
-  for (PageFormID form = 0; Paper::GetFormInfo(form, info); ++form)
-    if (info.key == key) return form;
-  return std::nullopt;
-}
+// The forms as choices; their texts are kept beside them.
+struct PaperForms {
+  PaperForms() {
+    FormInfo info;
+    for (PageFormID form = 0; Paper::GetFormInfo(form, info); ++form) keys << info.key.toUtf8();
+    for (int form = 0; form < keys.size(); ++form)
+      choices << Choice{form, keys[form].constData(),
+                        form == customPageForm ? QT_TRANSLATE_NOOP("Fields", "Custom") : keys[form].constData()};
+  }
+  QVector<QByteArray> keys;
+  QVector<Choice> choices;
+};
 
 }  // namespace
 
@@ -147,9 +153,7 @@ void FrameSettings::applyTo(IFrameProperties& frame) const {
 
 PageSettings PageSettings::of(Page const& page) {
   PageSettings settings;
-  FormInfo info;
-  Paper::GetFormInfo(page.GetFormID(), info);
-  settings.form = info.key;
+  settings.form = page.GetFormID();
   settings.orientation = page.GetOrientation();
   page.QuerySize(settings.widthCm, settings.heightCm);
   if (settings.orientation == landscape) std::swap(settings.widthCm, settings.heightCm);
@@ -158,21 +162,19 @@ PageSettings PageSettings::of(Page const& page) {
 }
 
 void PageSettings::list(Fields& fields) {
-  fields.text({"form", QT_TRANSLATE_NOOP("Fields", "Paper"),
-               QT_TRANSLATE_NOOP("Fields", "The form of the paper, as in “A4”, or “Custom” for a size of its own.")},
-              form, SysUtility::TextKind::Line);
-  auto const known = formOf(form);
-  if (fields.isReading() && !known)
-    fields.fail("form", QCoreApplication::translate("FrameSettings", "“%1” is not a paper form; “A4” and “Custom” are")
-                            .arg(form.left(64)));
-  if (known.value_or(customPageForm) == customPageForm) {
-    fields.number({"width", QT_TRANSLATE_NOOP("Fields", "Width"),
-                   QT_TRANSLATE_NOOP("Fields", "The width of the sheet when it stands upright.")},
-                  widthCm, pageSides);
-    fields.number({"height", QT_TRANSLATE_NOOP("Fields", "Height"),
-                   QT_TRANSLATE_NOOP("Fields", "The height of the sheet when it stands upright.")},
-                  heightCm, pageSides);
-  }
+  static PaperForms const forms;
+  fields.variant({"form", QT_TRANSLATE_NOOP("Fields", "Paper"),
+                  QT_TRANSLATE_NOOP("Fields", "The form of the paper, as in “A4”, or “Custom” for a size of its own.")},
+                 form, forms.choices, [&](int chosen) {
+                   form = chosen;
+                   if (chosen != customPageForm) return;
+                   fields.number({"width", QT_TRANSLATE_NOOP("Fields", "Width"),
+                                  QT_TRANSLATE_NOOP("Fields", "The width of the sheet when it stands upright.")},
+                                 widthCm, pageSides);
+                   fields.number({"height", QT_TRANSLATE_NOOP("Fields", "Height"),
+                                  QT_TRANSLATE_NOOP("Fields", "The height of the sheet when it stands upright.")},
+                                 heightCm, pageSides);
+                 });
   fields.choice<short>({"orientation", QT_TRANSLATE_NOOP("Fields", "Orientation"),
                         QT_TRANSLATE_NOOP("Fields", "Whether the sheet stands upright or lies.")},
                        orientation, orientations, portrait);
@@ -180,11 +182,10 @@ void PageSettings::list(Fields& fields) {
 }
 
 void PageSettings::applyTo(Page& page) const {
-  int const id = formOf(form).value_or(customPageForm);
-  if (id == customPageForm)
+  if (form == customPageForm)
     PageHost::setCustomSize(page, widthCm, heightCm);
   else
-    page.SetFormID(id);
+    page.SetFormID(form);
   page.SetOrientation(orientation);
   frame.applyTo(page);
 }

@@ -53,7 +53,7 @@ struct SYSCARTO_EXPORT FrameSettings {
 };
 
 struct SYSCARTO_EXPORT PageSettings {
-  QString form;                      ///< the key of a form of `Paper`
+  int form = customPageForm;         ///< of `Paper`
   double widthCm = 0, heightCm = 0;  ///< of the custom form, portrait way up
   short orientation = 1;
   FrameSettings frame;

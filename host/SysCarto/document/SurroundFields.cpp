@@ -56,12 +56,16 @@ int mapNumber(_ptr_t<Map> const& map, DocumentContext const& context) {
   return number < 0 && map ? foreignMap : number;
 }
 
+int lastMap(Fields const& fields, DocumentContext const& context) {
+  return (fields.isReading() ? context.maps.size() : maxMaps) - 1;
+}
+
 void listMapNumber(Fields& fields, int& number, DocumentContext const& context, bool isRequired) {
   if (number == foreignMap)
     fields.fail("map", QCoreApplication::translate("SurroundFields", "is no map of the document"));
   fields.integer({"map", QT_TRANSLATE_NOOP("Fields", "Map"),
                   QT_TRANSLATE_NOOP("Fields", "The number of the map in the document; the first one is 0.")},
-                 number, isRequired ? 0 : noMap, context.maps.size() - 1,
+                 number, isRequired ? 0 : noMap, lastMap(fields, context),
                  isRequired ? std::nullopt : std::optional<int>(noMap));
 }
 

@@ -10,6 +10,8 @@ namespace SysCarto {
 
 /// The number of a map in the document: −1 for an empty pointer, and one that can't be stored for a map of another.
 int mapNumber(SysUtility::_ptr_t<Map> const& map, DocumentContext const& context);
+/// The highest number that a map may have where the visitor is: of those that there are, when reading.
+int lastMap(SysUtility::Fields const& fields, DocumentContext const& context);
 void listMapNumber(SysUtility::Fields& fields, int& number, DocumentContext const& context, bool isRequired);
 
 /// A surround in the visitor's own object, its kind in the field "kind". Reading makes a new one.

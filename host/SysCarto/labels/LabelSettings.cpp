@@ -38,11 +38,9 @@ void LabelSettings::list(Fields& fields) {
   fields.flag(
       {"visible", QT_TRANSLATE_NOOP("Fields", "Visible"), QT_TRANSLATE_NOOP("Fields", "Whether there are labels.")},
       visible, true);
-  fields.text({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
-               QT_TRANSLATE_NOOP("Fields", "The attribute whose value is the text.")},
-              field, TextKind::Attribute);
-  if (field.isEmpty())
-    fields.fail("field", QCoreApplication::translate("LabelSettings", "names no field; leave out the labels"));
+  fields.filledText({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
+                     QT_TRANSLATE_NOOP("Fields", "The attribute whose value is the text.")},
+                    field, TextKind::Attribute);
   fields.text({"priorityField", QT_TRANSLATE_NOOP("Fields", "Attribute of the priority"),
                QT_TRANSLATE_NOOP("Fields", "Features with a higher number in it are labelled first.")},
               priorityField, TextKind::Attribute, QString());
@@ -51,7 +49,7 @@ void LabelSettings::list(Fields& fields) {
       gapPt, {0, 1000, Unit::Point}, LabelSettings().gapPt);
   listSymbolOf(fields, *this);
   fields.list({"classes", QT_TRANSLATE_NOOP("Fields", "Classes"),
-               QT_TRANSLATE_NOOP("Fields", "Letters of their own for features of a higher priority.")},
+               QT_TRANSLATE_NOOP("Fields", "Letters of their own for features of a higher priority."), "labelClass"},
               classes, maxClasses, [this](Fields& own, LabelClass& one, int index) {
                 own.number({"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
                             QT_TRANSLATE_NOOP("Fields", "The lowest priority of the class.")},

@@ -30,8 +30,10 @@ constexpr Choice kinds[] = {
 };
 // clang-format on
 
-constexpr Field classesField{"classes", QT_TRANSLATE_NOOP("Fields", "Classes"),
-                             QT_TRANSLATE_NOOP("Fields", "Features that are drawn alike.")};
+constexpr Field classesOf(char const* type) {
+  return {"classes", QT_TRANSLATE_NOOP("Fields", "Classes"),
+          QT_TRANSLATE_NOOP("Fields", "Features that are drawn alike."), type};
+}
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(Renderer)
@@ -50,7 +52,7 @@ void listSymbolOf(Fields& fields, SymbolClass& one) {
 
 void listValues(Fields& fields, std::vector<SymbolClass>& classes) {
   QSet<QString> known;
-  fields.list(classesField, classes, maxClasses, [&](Fields& own, SymbolClass& one, int) {
+  fields.list(classesOf("valueClass"), classes, maxClasses, [&](Fields& own, SymbolClass& one, int) {
     own.texts({"values", QT_TRANSLATE_NOOP("Fields", "Values"),
                QT_TRANSLATE_NOOP("Fields", "The values of the attribute that belong to the class.")},
               one.values);
@@ -65,7 +67,7 @@ void listValues(Fields& fields, std::vector<SymbolClass>& classes) {
 }
 
 void listMinima(Fields& fields, std::vector<SymbolClass>& classes) {
-  fields.list(classesField, classes, maxClasses, [&](Fields& own, SymbolClass& one, int index) {
+  fields.list(classesOf("rangeClass"), classes, maxClasses, [&](Fields& own, SymbolClass& one, int index) {
     own.number({"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
                 QT_TRANSLATE_NOOP("Fields", "The lowest number of the class; it ends where the next one begins.")},
                one.minimum, {-farthest, farthest});
@@ -136,10 +138,9 @@ void RendererSettings::list(Fields& fields) {
           listLabel(fields, classes[0].label, QString());
           return listSymbolOf(fields, classes[0]);
         }
-        fields.text({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
-                     QT_TRANSLATE_NOOP("Fields", "The attribute whose value decides.")},
-                    field, TextKind::Attribute);
-        if (field.isEmpty()) fields.fail("field", Texts::tr("names no field"));
+        fields.filledText({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
+                           QT_TRANSLATE_NOOP("Fields", "The attribute whose value decides.")},
+                          field, TextKind::Attribute);
         (kind == Kind::UniqueValues ? listValues : listMinima)(fields, classes);
         listOthers(fields, others);
       });
