@@ -3085,6 +3085,17 @@
     </message>
 </context>
 <context>
+    <name>StoredFormat</name>
+    <message>
+        <source>document for .kdx files, which is meant without it, or style for .style files.</source>
+        <translation>document für .kdx-Dateien, was auch ohne Angabe gemeint ist, oder style für .style-Dateien.</translation>
+    </message>
+    <message>
+        <source>the format is document or style, not &quot;%1&quot;.</source>
+        <translation>das Format ist document oder style, nicht „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>StyleLibrary</name>
     <message>
         <source>style library</source>
@@ -3180,6 +3191,14 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>%1: there is no such document; check the name and the folder.</source>
         <translation>%1: Dieses Dokument gibt es nicht; bitte Namen und Ordner prüfen.</translation>
+    </message>
+    <message>
+        <source>Print the format of documents or styles as a JSON Schema</source>
+        <translation>Das Format von Dokumenten oder Stilen als JSON-Schema ausgeben</translation>
+    </message>
+    <message>
+        <source>Print tables of all fields of documents or styles</source>
+        <translation>Tabellen aller Felder von Dokumenten oder Stilen ausgeben</translation>
     </message>
 </context>
 <context>

@@ -3085,6 +3085,17 @@
     </message>
 </context>
 <context>
+    <name>StoredFormat</name>
+    <message>
+        <source>document for .kdx files, which is meant without it, or style for .style files.</source>
+        <translation>document 表示 .kdx 文件（省略时即为此），style 表示 .style 文件。</translation>
+    </message>
+    <message>
+        <source>the format is document or style, not &quot;%1&quot;.</source>
+        <translation>格式应为 document 或 style，而不是“%1”。</translation>
+    </message>
+</context>
+<context>
     <name>StyleLibrary</name>
     <message>
         <source>style library</source>
@@ -3180,6 +3191,14 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>%1: there is no such document; check the name and the folder.</source>
         <translation>%1：没有此文档；请检查名称和文件夹。</translation>
+    </message>
+    <message>
+        <source>Print the format of documents or styles as a JSON Schema</source>
+        <translation>以 JSON Schema 输出文档或样式的格式</translation>
+    </message>
+    <message>
+        <source>Print tables of all fields of documents or styles</source>
+        <translation>输出文档或样式的全部字段表</translation>
     </message>
 </context>
 <context>

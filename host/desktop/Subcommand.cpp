@@ -15,6 +15,8 @@ constexpr Subcommand subcommands[] = {
     {"info",     "DOCUMENT",       QT_TRANSLATE_NOOP("Subcommand", "Tell what is on the page of a document"),           runInfo},
     {"run",      "DOCUMENT STEP...", QT_TRANSLATE_NOOP("Subcommand", "Work on a document step by step, without a window"), runRun},
     {"commands", "",               QT_TRANSLATE_NOOP("Subcommand", "List the commands and whether the plug-in builds them"), runCommands},
+    {"schema",   "[FORMAT]",       QT_TRANSLATE_NOOP("Subcommand", "Print the format of documents or styles as a JSON Schema"), runSchema},
+    {"reference", "[FORMAT]",      QT_TRANSLATE_NOOP("Subcommand", "Print tables of all fields of documents or styles"), runReference},
 };
 // clang-format on
 
@@ -109,7 +111,8 @@ std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLinePar
   QString problem = understood ? QString() : parser.errorText();
   QStringList const operands = QString::fromLatin1(self.operands).split(QLatin1Char(' '), Qt::SkipEmptyParts);
   int const given = parser.positionalArguments().size();
-  if (problem.isEmpty() && given < operands.size()) problem = Texts::tr("%1 is missing.").arg(operands.at(given));
+  bool const isMissing = given < operands.size() && !operands.at(given).startsWith(QLatin1Char('['));
+  if (problem.isEmpty() && isMissing) problem = Texts::tr("%1 is missing.").arg(operands.at(given));
   bool const takesMore = !operands.isEmpty() && operands.last().endsWith(QLatin1String("..."));
   if (problem.isEmpty() && given > operands.size() && !takesMore)
     problem = Texts::tr("\"%1\" is one argument too many.").arg(parser.positionalArguments().at(operands.size()));

@@ -11,7 +11,8 @@ enum ExitStatus { Done = 0, WorkFailed = 1, WrongArguments = 2 };
 /// A row of the table of subcommands.
 struct Subcommand {
   char const* name;
-  char const* operands;  ///< as the usage line shows them: "DOCUMENT IMAGE"; dots after the last one let it repeat
+  char const* operands;  ///< as the usage line shows them: "DOCUMENT IMAGE"; dots after the last one let it repeat, and
+                         ///< one in brackets may be missing
   char const* help;      ///< one line
   ExitStatus (*run)(Subcommand const& self, QStringList const& arguments);
 };
@@ -21,6 +22,8 @@ ExitStatus runExport(Subcommand const& self, QStringList const& arguments);
 ExitStatus runInfo(Subcommand const& self, QStringList const& arguments);
 ExitStatus runRun(Subcommand const& self, QStringList const& arguments);
 ExitStatus runCommands(Subcommand const& self, QStringList const& arguments);
+ExitStatus runSchema(Subcommand const& self, QStringList const& arguments);
+ExitStatus runReference(Subcommand const& self, QStringList const& arguments);
 
 /// Whether the arguments (without the program's name) ask for the window: none, or a document.
 bool asksForWindow(QStringList arguments);

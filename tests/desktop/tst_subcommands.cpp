@@ -37,6 +37,7 @@ private slots:
     row("a suffix that names no format", "export page.kdx a.pdf", ".png, .jpg, .bmp, .tif, .tiff");
     row("a format that there is not", "export page.kdx a.png --format gif", "png, jpeg, bmp, tiff, not \"gif\"");
     row("commands with an operand", "commands page.kdx", "one argument too many");
+    row("a format that there is not", "schema page.kdx", "document or style, not \"page.kdx\"");
     row("no such language", "info page.kdx --language fr", "\"fr\" is none of the languages: de, en, zh_CN.");
     row("a language for the window", "--language klingon page.kdx", "\"klingon\" is none of");
   }

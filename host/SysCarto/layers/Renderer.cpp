@@ -56,7 +56,7 @@ void listValues(Fields& fields, std::vector<SymbolClass>& classes) {
     own.texts({"values", QT_TRANSLATE_NOOP("Fields", "Values"),
                QT_TRANSLATE_NOOP("Fields", "The values of the attribute that belong to the class.")},
               one.values);
-    listLabel(own, one.label, one.values.join(QLatin1String(", ")));
+    listLabel(own, one.label, one.values.join(QLatin1String(", ")).left(SysUtility::maxCharacters(TextKind::Line)));
     listSymbolOf(own, one);
     for (QString const& value : qAsConst(one.values)) {
       if (own.isReading() && known.contains(value))
