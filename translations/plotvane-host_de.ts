@@ -1235,7 +1235,7 @@
     </message>
     <message>
         <source>That of the map, as a code (“EPSG:8857”), WKT or a PROJ text.</source>
-        <translation>Das der Karte, als Code („EPSG:8857“), WKT oder PROJ-Text.</translation>
+        <translation type="vanished">Das der Karte, als Code („EPSG:8857“), WKT oder PROJ-Text.</translation>
     </message>
     <message>
         <source>Extent</source>
@@ -1243,7 +1243,7 @@
     </message>
     <message>
         <source>What the map shows: its left, lower, right and upper side.</source>
-        <translation>Was die Karte zeigt: ihre linke, untere, rechte und obere Seite.</translation>
+        <translation type="vanished">Was die Karte zeigt: ihre linke, untere, rechte und obere Seite.</translation>
     </message>
     <message>
         <source>Layers</source>
@@ -1275,7 +1275,7 @@
     </message>
     <message>
         <source>Whether the alignment commands align to the page.</source>
-        <translation>Ob die Befehle zum Ausrichten an der Seite ausrichten.</translation>
+        <translation type="vanished">Ob die Befehle zum Ausrichten an der Seite ausrichten.</translation>
     </message>
     <message>
         <source>Focus map</source>
@@ -1283,7 +1283,7 @@
     </message>
     <message>
         <source>The number of the map that new surrounds follow.</source>
-        <translation>Die Nummer der Karte, der neue Randangaben folgen.</translation>
+        <translation type="vanished">Die Nummer der Karte, der neue Randangaben folgen.</translation>
     </message>
     <message>
         <source>Graphics</source>
@@ -1307,7 +1307,7 @@
     </message>
     <message>
         <source>The maps of the data frames.</source>
-        <translation>Die Karten der Datenrahmen.</translation>
+        <translation type="vanished">Die Karten der Datenrahmen.</translation>
     </message>
     <message>
         <source>Elements</source>
@@ -1327,7 +1327,7 @@
     </message>
     <message>
         <source>The number of the element, which no other one has.</source>
-        <translation>Die Nummer des Elements, die kein anderes hat.</translation>
+        <translation type="vanished">Die Nummer des Elements, die kein anderes hat.</translation>
     </message>
     <message>
         <source>Marker</source>
@@ -1391,7 +1391,7 @@
     </message>
     <message>
         <source>The point at which it stands, from the lower left corner.</source>
-        <translation>Der Punkt, an dem es steht, von der linken unteren Ecke aus.</translation>
+        <translation type="vanished">Der Punkt, an dem es steht, von der linken unteren Ecke aus.</translation>
     </message>
     <message>
         <source>Symbol</source>
@@ -1411,7 +1411,7 @@
     </message>
     <message>
         <source>Its left, lower, right and upper side, from the lower left corner.</source>
-        <translation>Die linke, untere, rechte und obere Seite, von der linken unteren Ecke aus.</translation>
+        <translation type="vanished">Die linke, untere, rechte und obere Seite, von der linken unteren Ecke aus.</translation>
     </message>
     <message>
         <source>What it says.</source>
@@ -1435,7 +1435,7 @@
     </message>
     <message>
         <source>The file of the picture (PNG, JPEG or SVG), relative to the document.</source>
-        <translation>Die Datei des Bildes (PNG, JPEG oder SVG), relativ zum Dokument.</translation>
+        <translation type="vanished">Die Datei des Bildes (PNG, JPEG oder SVG), relativ zum Dokument.</translation>
     </message>
     <message>
         <source>Members</source>
@@ -1443,7 +1443,7 @@
     </message>
     <message>
         <source>The elements of the group.</source>
-        <translation>Die Elemente der Gruppe.</translation>
+        <translation type="vanished">Die Elemente der Gruppe.</translation>
     </message>
     <message>
         <source>Locked</source>
@@ -1487,7 +1487,7 @@
     </message>
     <message>
         <source>How round the corners are: 0 is square, 100 as round as they can be.</source>
-        <translation>Wie rund die Ecken sind: 0 ist eckig, 100 so rund wie möglich.</translation>
+        <translation type="vanished">Wie rund die Ecken sind: 0 ist eckig, 100 so rund wie möglich.</translation>
     </message>
     <message>
         <source>Fill</source>
@@ -1495,11 +1495,11 @@
     </message>
     <message>
         <source>How it is filled.</source>
-        <translation>Wie die Fläche gefüllt ist.</translation>
+        <translation type="vanished">Wie die Fläche gefüllt ist.</translation>
     </message>
     <message>
         <source>How the border is drawn.</source>
-        <translation>Wie der Rand gezeichnet wird.</translation>
+        <translation type="vanished">Wie der Rand gezeichnet wird.</translation>
     </message>
     <message>
         <source>Offset</source>
@@ -1563,7 +1563,7 @@
     </message>
     <message>
         <source>Whether the sheet stands upright or lies.</source>
-        <translation>Ob das Blatt hoch oder quer liegt.</translation>
+        <translation type="vanished">Ob das Blatt hoch oder quer liegt.</translation>
     </message>
     <message>
         <source>Features</source>
@@ -1571,7 +1571,7 @@
     </message>
     <message>
         <source>The file of the data, relative to the document.</source>
-        <translation>Die Datei der Daten, relativ zum Dokument.</translation>
+        <translation type="vanished">Die Datei der Daten, relativ zum Dokument.</translation>
     </message>
     <message>
         <source>Layer of the file</source>
@@ -1587,11 +1587,11 @@
     </message>
     <message>
         <source>A condition on the attributes, as in “population &gt; 1000000”.</source>
-        <translation>Eine Bedingung für die Attribute, etwa „population &gt; 1000000“.</translation>
+        <translation type="vanished">Eine Bedingung für die Attribute, etwa „population &gt; 1000000“.</translation>
     </message>
     <message>
         <source>Stands in for that of the file.</source>
-        <translation>Ersetzt das der Datei.</translation>
+        <translation type="vanished">Ersetzt das der Datei.</translation>
     </message>
     <message>
         <source>Source</source>
@@ -1655,7 +1655,7 @@
     </message>
     <message>
         <source>The number of the map in the document; the first one is 0.</source>
-        <translation>Die Nummer der Karte im Dokument; die erste ist 0.</translation>
+        <translation type="vanished">Die Nummer der Karte im Dokument; die erste ist 0.</translation>
     </message>
     <message>
         <source>What explains the map.</source>
@@ -1679,7 +1679,7 @@
     </message>
     <message>
         <source>Features with a higher number in it are labelled first.</source>
-        <translation>Objekte mit einer höheren Zahl darin werden zuerst beschriftet.</translation>
+        <translation type="vanished">Objekte mit einer höheren Zahl darin werden zuerst beschriftet.</translation>
     </message>
     <message>
         <source>What is kept free around a label.</source>
@@ -1699,7 +1699,7 @@
     </message>
     <message>
         <source>The lowest priority of the class.</source>
-        <translation>Die niedrigste Priorität der Klasse.</translation>
+        <translation type="vanished">Die niedrigste Priorität der Klasse.</translation>
     </message>
     <message>
         <source>Priority</source>
@@ -1747,11 +1747,11 @@
     </message>
     <message>
         <source>What a legend calls them.</source>
-        <translation>Wie eine Legende sie nennt.</translation>
+        <translation type="vanished">Wie eine Legende sie nennt.</translation>
     </message>
     <message>
         <source>How they are drawn.</source>
-        <translation>Wie sie gezeichnet werden.</translation>
+        <translation type="vanished">Wie sie gezeichnet werden.</translation>
     </message>
     <message>
         <source>Values</source>
@@ -1759,11 +1759,11 @@
     </message>
     <message>
         <source>The values of the attribute that belong to the class.</source>
-        <translation>Die Werte des Attributs, die zur Klasse gehören.</translation>
+        <translation type="vanished">Die Werte des Attributs, die zur Klasse gehören.</translation>
     </message>
     <message>
         <source>The lowest number of the class; it ends where the next one begins.</source>
-        <translation>Die niedrigste Zahl der Klasse; sie endet, wo die nächste beginnt.</translation>
+        <translation type="vanished">Die niedrigste Zahl der Klasse; sie endet, wo die nächste beginnt.</translation>
     </message>
     <message>
         <source>Symbol of the others</source>
@@ -1783,7 +1783,7 @@
     </message>
     <message>
         <source>Whether all features are drawn alike, or by the value of an attribute.</source>
-        <translation>Ob alle Objekte gleich oder nach dem Wert eines Attributs gezeichnet werden.</translation>
+        <translation type="vanished">Ob alle Objekte gleich oder nach dem Wert eines Attributs gezeichnet werden.</translation>
     </message>
     <message>
         <source>The attribute whose value decides.</source>
@@ -1839,7 +1839,7 @@
     </message>
     <message>
         <source>How the letters of the title look.</source>
-        <translation>Wie die Schrift des Titels aussieht.</translation>
+        <translation type="vanished">Wie die Schrift des Titels aussieht.</translation>
     </message>
     <message>
         <source>Text of the headings</source>
@@ -1847,7 +1847,7 @@
     </message>
     <message>
         <source>How the name of a layer with several classes looks.</source>
-        <translation>Wie der Name eines Layers mit mehreren Klassen aussieht.</translation>
+        <translation type="vanished">Wie der Name eines Layers mit mehreren Klassen aussieht.</translation>
     </message>
     <message>
         <source>Text of the entries</source>
@@ -1855,7 +1855,7 @@
     </message>
     <message>
         <source>How the letters of the entries look.</source>
-        <translation>Wie die Schrift der Einträge aussieht.</translation>
+        <translation type="vanished">Wie die Schrift der Einträge aussieht.</translation>
     </message>
     <message>
         <source>Left out</source>
@@ -1871,7 +1871,7 @@
     </message>
     <message>
         <source>How the bar is drawn.</source>
-        <translation>Wie die Leiste gezeichnet wird.</translation>
+        <translation type="vanished">Wie die Leiste gezeichnet wird.</translation>
     </message>
     <message>
         <source>Unit</source>
@@ -1879,7 +1879,7 @@
     </message>
     <message>
         <source>What the bar counts.</source>
-        <translation>Was die Leiste zählt.</translation>
+        <translation type="vanished">Was die Leiste zählt.</translation>
     </message>
     <message>
         <source>The height of the bar.</source>
@@ -1891,7 +1891,7 @@
     </message>
     <message>
         <source>The colour of the outline and of every second part.</source>
-        <translation>Die Farbe des Umrisses und jedes zweiten Abschnitts.</translation>
+        <translation type="vanished">Die Farbe des Umrisses und jedes zweiten Abschnitts.</translation>
     </message>
     <message>
         <source>Second colour</source>
@@ -1911,7 +1911,7 @@
     </message>
     <message>
         <source>The marker that points north.</source>
-        <translation>Das Punktsymbol, das nach Norden zeigt.</translation>
+        <translation type="vanished">Das Punktsymbol, das nach Norden zeigt.</translation>
     </message>
     <message>
         <source>True north</source>
@@ -1931,15 +1931,15 @@
     </message>
     <message>
         <source>The distance of two lines; 0 chooses one for the map&apos;s scale.</source>
-        <translation>Der Abstand zweier Linien; 0 wählt einen passend zum Maßstab der Karte.</translation>
+        <translation type="vanished">Der Abstand zweier Linien; 0 wählt einen passend zum Maßstab der Karte.</translation>
     </message>
     <message>
         <source>Whether the degrees stand beside the lines.</source>
-        <translation>Ob die Grade neben den Linien stehen.</translation>
+        <translation type="vanished">Ob die Grade neben den Linien stehen.</translation>
     </message>
     <message>
         <source>How the meridians and parallels are drawn.</source>
-        <translation>Wie die Meridiane und Breitenkreise gezeichnet werden.</translation>
+        <translation type="vanished">Wie die Meridiane und Breitenkreise gezeichnet werden.</translation>
     </message>
     <message>
         <source>Text of the labels</source>
@@ -1947,7 +1947,7 @@
     </message>
     <message>
         <source>How the letters of the labels look.</source>
-        <translation>Wie die Schrift der Beschriftung aussieht.</translation>
+        <translation type="vanished">Wie die Schrift der Beschriftung aussieht.</translation>
     </message>
     <message>
         <source>What the symbol is called.</source>
@@ -1955,11 +1955,11 @@
     </message>
     <message>
         <source>The symbol itself.</source>
-        <translation>Das Symbol selbst.</translation>
+        <translation type="vanished">Das Symbol selbst.</translation>
     </message>
     <message>
         <source>What the category is called; a slash puts it into another.</source>
-        <translation>Wie die Kategorie heißt; ein Schrägstrich ordnet sie einer anderen unter.</translation>
+        <translation type="vanished">Wie die Kategorie heißt; ein Schrägstrich ordnet sie einer anderen unter.</translation>
     </message>
     <message>
         <source>The symbols of the category.</source>
@@ -2199,7 +2199,7 @@
     </message>
     <message>
         <source>The picture as SVG; its view box is the marker.</source>
-        <translation>Das Bild als SVG; seine viewBox ist das Punktsymbol.</translation>
+        <translation type="vanished">Das Bild als SVG; seine viewBox ist das Punktsymbol.</translation>
     </message>
     <message>
         <source>Font</source>
@@ -2363,7 +2363,7 @@
     </message>
     <message>
         <source>The version of the format.</source>
-        <translation>Die Version des Formats.</translation>
+        <translation type="vanished">Die Version des Formats.</translation>
     </message>
     <message>
         <source>Map document</source>
@@ -2388,6 +2388,190 @@
     <message>
         <source>needs at least %1 points</source>
         <translation>braucht mindestens %1 Punkte</translation>
+    </message>
+    <message>
+        <source>That of the map: a code as in “EPSG:8857”, WKT or a PROJ text; empty for plain coordinates in metres.</source>
+        <translation>Das der Karte: ein Code wie in „EPSG:8857“, WKT oder ein PROJ-Text; leer für einfache Koordinaten in Metern.</translation>
+    </message>
+    <message>
+        <source>What the map shows: its left, lower, right and upper side. It is centred in the data frame and widened to its shape.</source>
+        <translation>Was die Karte zeigt: die linke, untere, rechte und obere Seite. Der Ausschnitt wird im Datenrahmen zentriert und auf dessen Form erweitert.</translation>
+    </message>
+    <message>
+        <source>Whether elements are aligned with the edges of the page, and not with each other.</source>
+        <translation>Ob Elemente an den Rändern der Seite ausgerichtet werden und nicht aneinander.</translation>
+    </message>
+    <message>
+        <source>The number of the map that insertion and navigation work on.</source>
+        <translation>Die Nummer der Karte, auf die sich Einfügen und Navigieren beziehen.</translation>
+    </message>
+    <message>
+        <source>The maps, which data frames and surrounds name by their number here, from 0.</source>
+        <translation>Die Karten, die Datenrahmen und Kartenelemente mit ihrer Nummer hier nennen, ab 0.</translation>
+    </message>
+    <message>
+        <source>The number by which the element is known, which no other one has; 0 asks for a new one.</source>
+        <translation>Die Nummer, unter der das Element bekannt ist und die kein anderes hat; 0 verlangt eine neue.</translation>
+    </message>
+    <message>
+        <source>The point of the map at which it stands.</source>
+        <translation>Der Punkt der Karte, an dem es steht.</translation>
+    </message>
+    <message>
+        <source>The point at which it stands, from the lower left corner of the page.</source>
+        <translation>Der Punkt, an dem es steht, von der linken unteren Ecke der Seite aus.</translation>
+    </message>
+    <message>
+        <source>Its left, lower, right and upper side on the map.</source>
+        <translation>Die linke, untere, rechte und obere Seite auf der Karte.</translation>
+    </message>
+    <message>
+        <source>Its left, lower, right and upper side, from the lower left corner of the page.</source>
+        <translation>Die linke, untere, rechte und obere Seite, von der linken unteren Ecke der Seite aus.</translation>
+    </message>
+    <message>
+        <source>The file of the picture (PNG, JPEG or SVG), relative to the document; without one, a crossed frame is drawn.</source>
+        <translation>Die Datei des Bildes (PNG, JPEG oder SVG), relativ zum Dokument; ohne eine wird ein durchkreuzter Rahmen gezeichnet.</translation>
+    </message>
+    <message>
+        <source>The elements of the group; groups lie at most 16 deep in each other.</source>
+        <translation>Die Elemente der Gruppe; Gruppen liegen höchstens 16 tief ineinander.</translation>
+    </message>
+    <message>
+        <source>The radius of the corners, as a part of half the shorter side: 0 is square, 100 as round as they can be.</source>
+        <translation>Der Radius der Ecken als Anteil der halben kürzeren Seite: 0 ist eckig, 100 so rund wie möglich.</translation>
+    </message>
+    <message>
+        <source>How it is filled; without a symbol it is not drawn.</source>
+        <translation>Wie es gefüllt wird; ohne Symbol wird es nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>How the border is drawn; without a symbol it is not.</source>
+        <translation>Wie der Rand gezeichnet wird; ohne Symbol wird er nicht gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Whether the sheet stands upright or lies, which swaps its width and height.</source>
+        <translation>Ob das Blatt aufrecht steht oder liegt, was Breite und Höhe vertauscht.</translation>
+    </message>
+    <message>
+        <source>The local file of the data (GeoPackage, GeoJSON, Shapefile or FlatGeobuf), relative to the document.</source>
+        <translation>Die lokale Datei der Daten (GeoPackage, GeoJSON, Shapefile oder FlatGeobuf), relativ zum Dokument.</translation>
+    </message>
+    <message>
+        <source>A condition on the attributes as in SQL, “population &gt; 1000000”; empty for all features.</source>
+        <translation>Eine Bedingung an die Attribute wie in SQL, „population &gt; 1000000“; leer für alle Objekte.</translation>
+    </message>
+    <message>
+        <source>Stands in for that of the file where it is not empty.</source>
+        <translation>Tritt an die Stelle dessen der Datei, wenn es nicht leer ist.</translation>
+    </message>
+    <message>
+        <source>The number of the map that it shows, which no other data frame shows; the first one is 0.</source>
+        <translation>Die Nummer der Karte, die er zeigt und die kein anderer Datenrahmen zeigt; die erste ist 0.</translation>
+    </message>
+    <message>
+        <source>The number of the map that it follows; −1 for none.</source>
+        <translation>Die Nummer der Karte, der es folgt; −1 für keine.</translation>
+    </message>
+    <message>
+        <source>A numeric attribute: features with a higher number are labelled first; without one, in their own order.</source>
+        <translation>Ein Zahlenattribut: Objekte mit einer höheren Zahl werden zuerst beschriftet; ohne es in ihrer eigenen Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>The lowest priority of the class, above that of the class before.</source>
+        <translation>Die niedrigste Priorität der Klasse, höher als die der Klasse davor.</translation>
+    </message>
+    <message>
+        <source>What a legend calls the features.</source>
+        <translation>Wie eine Legende die Objekte nennt.</translation>
+    </message>
+    <message>
+        <source>How the features are drawn.</source>
+        <translation>Wie die Objekte gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>The values of the attribute that belong to the class; each belongs to one class only.</source>
+        <translation>Die Werte des Attributs, die zur Klasse gehören; jeder gehört nur zu einer Klasse.</translation>
+    </message>
+    <message>
+        <source>What a legend calls the features; their values where it is missing.</source>
+        <translation>Wie eine Legende die Objekte nennt; ihre Werte, wenn es fehlt.</translation>
+    </message>
+    <message>
+        <source>The lowest number of the class, above that of the class before; it ends where the next one begins.</source>
+        <translation>Die kleinste Zahl der Klasse, größer als die der Klasse davor; sie endet, wo die nächste beginnt.</translation>
+    </message>
+    <message>
+        <source>One symbol for all features, one for each value of an attribute, or one for each range of a numeric attribute.</source>
+        <translation>Ein Symbol für alle Objekte, eines für jeden Wert eines Attributs oder eines für jeden Bereich eines Zahlenattributs.</translation>
+    </message>
+    <message>
+        <source>How the letters of the title look; without a symbol bold and 12 points high.</source>
+        <translation>Wie die Buchstaben des Titels aussehen; ohne Symbol fett und 12 Punkt hoch.</translation>
+    </message>
+    <message>
+        <source>How the name of a layer with several classes looks; without a symbol bold and 9 points high.</source>
+        <translation>Wie der Name eines Layers mit mehreren Klassen aussieht; ohne Symbol fett und 9 Punkt hoch.</translation>
+    </message>
+    <message>
+        <source>How the letters of the entries look; without a symbol 8 points high.</source>
+        <translation>Wie die Buchstaben der Einträge aussehen; ohne Symbol 8 Punkt hoch.</translation>
+    </message>
+    <message>
+        <source>How the bar is drawn: as one row of boxes, as two, or as a line with ticks.</source>
+        <translation>Wie die Leiste gezeichnet wird: als eine Reihe von Kästen, als zwei oder als Linie mit Strichen.</translation>
+    </message>
+    <message>
+        <source>What the bar counts; automatic is metres, or kilometres where each division is one at least.</source>
+        <translation>Was die Leiste zählt; automatisch sind es Meter, oder Kilometer, wenn jeder Abschnitt mindestens einer ist.</translation>
+    </message>
+    <message>
+        <source>The colour of outlines, of ticks and of every second part.</source>
+        <translation>Die Farbe von Umrissen, Strichen und jedem zweiten Abschnitt.</translation>
+    </message>
+    <message>
+        <source>How the letters look; without a symbol 8 points high.</source>
+        <translation>Wie die Buchstaben aussehen; ohne Symbol 8 Punkt hoch.</translation>
+    </message>
+    <message>
+        <source>How the letters look; without a symbol 12 points high.</source>
+        <translation>Wie die Buchstaben aussehen; ohne Symbol 12 Punkt hoch.</translation>
+    </message>
+    <message>
+        <source>The marker that points north; without a symbol a plain arrow.</source>
+        <translation>Der Marker, der nach Norden zeigt; ohne Symbol ein einfacher Pfeil.</translation>
+    </message>
+    <message>
+        <source>The distance of two lines; 0, or one that would make more than 1,000 lines, chooses one for the map&apos;s scale.</source>
+        <translation>Der Abstand zweier Linien; 0 oder einer, der mehr als 1.000 Linien ergäbe, wählt einen passend zum Maßstab.</translation>
+    </message>
+    <message>
+        <source>Whether the degrees stand outside the frame, or where a parallel ends inside it.</source>
+        <translation>Ob die Grade außerhalb des Rahmens stehen, oder wo ein Breitenkreis darin endet.</translation>
+    </message>
+    <message>
+        <source>How the meridians and parallels are drawn; without a symbol grey and 0.3 points wide.</source>
+        <translation>Wie Meridiane und Breitenkreise gezeichnet werden; ohne Symbol grau und 0,3 Punkt breit.</translation>
+    </message>
+    <message>
+        <source>How the letters of the labels look; without a symbol 6.5 points high.</source>
+        <translation>Wie die Buchstaben der Beschriftung aussehen; ohne Symbol 6,5 Punkt hoch.</translation>
+    </message>
+    <message>
+        <source>The symbol, of any kind.</source>
+        <translation>Das Symbol, von beliebiger Art.</translation>
+    </message>
+    <message>
+        <source>What the category is called; slashes put it into others, as in “Markers/Towns”.</source>
+        <translation>Wie die Kategorie heißt; Schrägstriche legen sie in andere, wie in „Markers/Towns“.</translation>
+    </message>
+    <message>
+        <source>The picture as SVG, which refers to nothing outside itself; its view box is the marker.</source>
+        <translation>Das Bild als SVG, das auf nichts außerhalb verweist; seine viewBox ist der Marker.</translation>
+    </message>
+    <message>
+        <source>The version of the format; a newer one is refused.</source>
+        <translation>Die Version des Formats; eine neuere wird abgelehnt.</translation>
     </message>
 </context>
 <context>

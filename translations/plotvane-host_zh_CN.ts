@@ -1235,7 +1235,7 @@
     </message>
     <message>
         <source>That of the map, as a code (“EPSG:8857”), WKT or a PROJ text.</source>
-        <translation>地图的坐标系，以代码（“EPSG:8857”）、WKT 或 PROJ 文本给出。</translation>
+        <translation type="vanished">地图的坐标系，以代码（“EPSG:8857”）、WKT 或 PROJ 文本给出。</translation>
     </message>
     <message>
         <source>Extent</source>
@@ -1243,7 +1243,7 @@
     </message>
     <message>
         <source>What the map shows: its left, lower, right and upper side.</source>
-        <translation>地图显示的范围：左、下、右、上边。</translation>
+        <translation type="vanished">地图显示的范围：左、下、右、上边。</translation>
     </message>
     <message>
         <source>Layers</source>
@@ -1275,7 +1275,7 @@
     </message>
     <message>
         <source>Whether the alignment commands align to the page.</source>
-        <translation>对齐命令是否以页面为准。</translation>
+        <translation type="vanished">对齐命令是否以页面为准。</translation>
     </message>
     <message>
         <source>Focus map</source>
@@ -1283,7 +1283,7 @@
     </message>
     <message>
         <source>The number of the map that new surrounds follow.</source>
-        <translation>新的地图整饰要素所跟随的地图的编号。</translation>
+        <translation type="vanished">新的地图整饰要素所跟随的地图的编号。</translation>
     </message>
     <message>
         <source>Graphics</source>
@@ -1307,7 +1307,7 @@
     </message>
     <message>
         <source>The maps of the data frames.</source>
-        <translation>各数据框的地图。</translation>
+        <translation type="vanished">各数据框的地图。</translation>
     </message>
     <message>
         <source>Elements</source>
@@ -1327,7 +1327,7 @@
     </message>
     <message>
         <source>The number of the element, which no other one has.</source>
-        <translation>元素的编号，与其他元素均不相同。</translation>
+        <translation type="vanished">元素的编号，与其他元素均不相同。</translation>
     </message>
     <message>
         <source>Marker</source>
@@ -1391,7 +1391,7 @@
     </message>
     <message>
         <source>The point at which it stands, from the lower left corner.</source>
-        <translation>所在的点，从左下角算起。</translation>
+        <translation type="vanished">所在的点，从左下角算起。</translation>
     </message>
     <message>
         <source>Symbol</source>
@@ -1411,7 +1411,7 @@
     </message>
     <message>
         <source>Its left, lower, right and upper side, from the lower left corner.</source>
-        <translation>左、下、右、上边，从左下角算起。</translation>
+        <translation type="vanished">左、下、右、上边，从左下角算起。</translation>
     </message>
     <message>
         <source>What it says.</source>
@@ -1435,7 +1435,7 @@
     </message>
     <message>
         <source>The file of the picture (PNG, JPEG or SVG), relative to the document.</source>
-        <translation>图片文件（PNG、JPEG 或 SVG），相对于文档。</translation>
+        <translation type="vanished">图片文件（PNG、JPEG 或 SVG），相对于文档。</translation>
     </message>
     <message>
         <source>Members</source>
@@ -1443,7 +1443,7 @@
     </message>
     <message>
         <source>The elements of the group.</source>
-        <translation>组中的元素。</translation>
+        <translation type="vanished">组中的元素。</translation>
     </message>
     <message>
         <source>Locked</source>
@@ -1487,7 +1487,7 @@
     </message>
     <message>
         <source>How round the corners are: 0 is square, 100 as round as they can be.</source>
-        <translation>各角的圆角程度：0 为直角，100 为最大圆角。</translation>
+        <translation type="vanished">各角的圆角程度：0 为直角，100 为最大圆角。</translation>
     </message>
     <message>
         <source>Fill</source>
@@ -1495,11 +1495,11 @@
     </message>
     <message>
         <source>How it is filled.</source>
-        <translation>填充方式。</translation>
+        <translation type="vanished">填充方式。</translation>
     </message>
     <message>
         <source>How the border is drawn.</source>
-        <translation>边框的绘制方式。</translation>
+        <translation type="vanished">边框的绘制方式。</translation>
     </message>
     <message>
         <source>Offset</source>
@@ -1563,7 +1563,7 @@
     </message>
     <message>
         <source>Whether the sheet stands upright or lies.</source>
-        <translation>纸张是纵向还是横向放置。</translation>
+        <translation type="vanished">纸张是纵向还是横向放置。</translation>
     </message>
     <message>
         <source>Features</source>
@@ -1571,7 +1571,7 @@
     </message>
     <message>
         <source>The file of the data, relative to the document.</source>
-        <translation>数据文件，相对于文档。</translation>
+        <translation type="vanished">数据文件，相对于文档。</translation>
     </message>
     <message>
         <source>Layer of the file</source>
@@ -1587,11 +1587,11 @@
     </message>
     <message>
         <source>A condition on the attributes, as in “population &gt; 1000000”.</source>
-        <translation>针对属性的条件，如“population &gt; 1000000”。</translation>
+        <translation type="vanished">针对属性的条件，如“population &gt; 1000000”。</translation>
     </message>
     <message>
         <source>Stands in for that of the file.</source>
-        <translation>替代文件的坐标系。</translation>
+        <translation type="vanished">替代文件的坐标系。</translation>
     </message>
     <message>
         <source>Source</source>
@@ -1655,7 +1655,7 @@
     </message>
     <message>
         <source>The number of the map in the document; the first one is 0.</source>
-        <translation>地图在文档中的编号；第一个为 0。</translation>
+        <translation type="vanished">地图在文档中的编号；第一个为 0。</translation>
     </message>
     <message>
         <source>What explains the map.</source>
@@ -1679,7 +1679,7 @@
     </message>
     <message>
         <source>Features with a higher number in it are labelled first.</source>
-        <translation>其中数值较大的要素先标注。</translation>
+        <translation type="vanished">其中数值较大的要素先标注。</translation>
     </message>
     <message>
         <source>What is kept free around a label.</source>
@@ -1699,7 +1699,7 @@
     </message>
     <message>
         <source>The lowest priority of the class.</source>
-        <translation>该类的最低优先级。</translation>
+        <translation type="vanished">该类的最低优先级。</translation>
     </message>
     <message>
         <source>Priority</source>
@@ -1747,11 +1747,11 @@
     </message>
     <message>
         <source>What a legend calls them.</source>
-        <translation>它们在图例中的名称。</translation>
+        <translation type="vanished">它们在图例中的名称。</translation>
     </message>
     <message>
         <source>How they are drawn.</source>
-        <translation>它们的绘制方式。</translation>
+        <translation type="vanished">它们的绘制方式。</translation>
     </message>
     <message>
         <source>Values</source>
@@ -1759,11 +1759,11 @@
     </message>
     <message>
         <source>The values of the attribute that belong to the class.</source>
-        <translation>属于该类的属性值。</translation>
+        <translation type="vanished">属于该类的属性值。</translation>
     </message>
     <message>
         <source>The lowest number of the class; it ends where the next one begins.</source>
-        <translation>该类的最小数值；到下一类的起点为止。</translation>
+        <translation type="vanished">该类的最小数值；到下一类的起点为止。</translation>
     </message>
     <message>
         <source>Symbol of the others</source>
@@ -1783,7 +1783,7 @@
     </message>
     <message>
         <source>Whether all features are drawn alike, or by the value of an attribute.</source>
-        <translation>所有要素以相同方式绘制，还是按属性值绘制。</translation>
+        <translation type="vanished">所有要素以相同方式绘制，还是按属性值绘制。</translation>
     </message>
     <message>
         <source>The attribute whose value decides.</source>
@@ -1839,7 +1839,7 @@
     </message>
     <message>
         <source>How the letters of the title look.</source>
-        <translation>标题文字的外观。</translation>
+        <translation type="vanished">标题文字的外观。</translation>
     </message>
     <message>
         <source>Text of the headings</source>
@@ -1847,7 +1847,7 @@
     </message>
     <message>
         <source>How the name of a layer with several classes looks.</source>
-        <translation>含有多个类的图层的名称的外观。</translation>
+        <translation type="vanished">含有多个类的图层的名称的外观。</translation>
     </message>
     <message>
         <source>Text of the entries</source>
@@ -1855,7 +1855,7 @@
     </message>
     <message>
         <source>How the letters of the entries look.</source>
-        <translation>条目文字的外观。</translation>
+        <translation type="vanished">条目文字的外观。</translation>
     </message>
     <message>
         <source>Left out</source>
@@ -1871,7 +1871,7 @@
     </message>
     <message>
         <source>How the bar is drawn.</source>
-        <translation>比例尺的绘制方式。</translation>
+        <translation type="vanished">比例尺的绘制方式。</translation>
     </message>
     <message>
         <source>Unit</source>
@@ -1879,7 +1879,7 @@
     </message>
     <message>
         <source>What the bar counts.</source>
-        <translation>比例尺所用的单位。</translation>
+        <translation type="vanished">比例尺所用的单位。</translation>
     </message>
     <message>
         <source>The height of the bar.</source>
@@ -1891,7 +1891,7 @@
     </message>
     <message>
         <source>The colour of the outline and of every second part.</source>
-        <translation>轮廓线和每隔一段的颜色。</translation>
+        <translation type="vanished">轮廓线和每隔一段的颜色。</translation>
     </message>
     <message>
         <source>Second colour</source>
@@ -1911,7 +1911,7 @@
     </message>
     <message>
         <source>The marker that points north.</source>
-        <translation>指向北方的点标记。</translation>
+        <translation type="vanished">指向北方的点标记。</translation>
     </message>
     <message>
         <source>True north</source>
@@ -1931,15 +1931,15 @@
     </message>
     <message>
         <source>The distance of two lines; 0 chooses one for the map&apos;s scale.</source>
-        <translation>两条线之间的间隔；0 表示按地图比例尺自动选择。</translation>
+        <translation type="vanished">两条线之间的间隔；0 表示按地图比例尺自动选择。</translation>
     </message>
     <message>
         <source>Whether the degrees stand beside the lines.</source>
-        <translation>线旁是否标出度数。</translation>
+        <translation type="vanished">线旁是否标出度数。</translation>
     </message>
     <message>
         <source>How the meridians and parallels are drawn.</source>
-        <translation>经线和纬线的绘制方式。</translation>
+        <translation type="vanished">经线和纬线的绘制方式。</translation>
     </message>
     <message>
         <source>Text of the labels</source>
@@ -1947,7 +1947,7 @@
     </message>
     <message>
         <source>How the letters of the labels look.</source>
-        <translation>标注文字的外观。</translation>
+        <translation type="vanished">标注文字的外观。</translation>
     </message>
     <message>
         <source>What the symbol is called.</source>
@@ -1955,11 +1955,11 @@
     </message>
     <message>
         <source>The symbol itself.</source>
-        <translation>符号本身。</translation>
+        <translation type="vanished">符号本身。</translation>
     </message>
     <message>
         <source>What the category is called; a slash puts it into another.</source>
-        <translation>类别的名称；用斜线将其置于另一类别之下。</translation>
+        <translation type="vanished">类别的名称；用斜线将其置于另一类别之下。</translation>
     </message>
     <message>
         <source>The symbols of the category.</source>
@@ -2199,7 +2199,7 @@
     </message>
     <message>
         <source>The picture as SVG; its view box is the marker.</source>
-        <translation>SVG 格式的图片；其 viewBox 即为点标记。</translation>
+        <translation type="vanished">SVG 格式的图片；其 viewBox 即为点标记。</translation>
     </message>
     <message>
         <source>Font</source>
@@ -2363,7 +2363,7 @@
     </message>
     <message>
         <source>The version of the format.</source>
-        <translation>格式的版本。</translation>
+        <translation type="vanished">格式的版本。</translation>
     </message>
     <message>
         <source>Map document</source>
@@ -2388,6 +2388,190 @@
     <message>
         <source>needs at least %1 points</source>
         <translation>至少需要 %1 个点</translation>
+    </message>
+    <message>
+        <source>That of the map: a code as in “EPSG:8857”, WKT or a PROJ text; empty for plain coordinates in metres.</source>
+        <translation>地图的坐标系：代码（如“EPSG:8857”）、WKT 或 PROJ 文本；为空表示以米为单位的平面坐标。</translation>
+    </message>
+    <message>
+        <source>What the map shows: its left, lower, right and upper side. It is centred in the data frame and widened to its shape.</source>
+        <translation>地图显示的范围：左、下、右、上边。它在数据框中居中，并按其形状扩展。</translation>
+    </message>
+    <message>
+        <source>Whether elements are aligned with the edges of the page, and not with each other.</source>
+        <translation>元素是否与页面边缘对齐，而不是彼此对齐。</translation>
+    </message>
+    <message>
+        <source>The number of the map that insertion and navigation work on.</source>
+        <translation>插入和导航所作用的地图编号。</translation>
+    </message>
+    <message>
+        <source>The maps, which data frames and surrounds name by their number here, from 0.</source>
+        <translation>地图；数据框和地图整饰以其在此处的编号（从 0 起）引用。</translation>
+    </message>
+    <message>
+        <source>The number by which the element is known, which no other one has; 0 asks for a new one.</source>
+        <translation>标识元素的编号，不与其他元素重复；0 表示分配新的编号。</translation>
+    </message>
+    <message>
+        <source>The point of the map at which it stands.</source>
+        <translation>其在地图上所在的点。</translation>
+    </message>
+    <message>
+        <source>The point at which it stands, from the lower left corner of the page.</source>
+        <translation>其所在的点，从页面左下角起算。</translation>
+    </message>
+    <message>
+        <source>Its left, lower, right and upper side on the map.</source>
+        <translation>在地图上的左、下、右、上边。</translation>
+    </message>
+    <message>
+        <source>Its left, lower, right and upper side, from the lower left corner of the page.</source>
+        <translation>左、下、右、上边，从页面左下角起算。</translation>
+    </message>
+    <message>
+        <source>The file of the picture (PNG, JPEG or SVG), relative to the document; without one, a crossed frame is drawn.</source>
+        <translation>图片文件（PNG、JPEG 或 SVG），相对于文档；没有时绘制带叉的框。</translation>
+    </message>
+    <message>
+        <source>The elements of the group; groups lie at most 16 deep in each other.</source>
+        <translation>组中的元素；组最多嵌套 16 层。</translation>
+    </message>
+    <message>
+        <source>The radius of the corners, as a part of half the shorter side: 0 is square, 100 as round as they can be.</source>
+        <translation>圆角半径占短边一半的比例：0 为直角，100 为最圆。</translation>
+    </message>
+    <message>
+        <source>How it is filled; without a symbol it is not drawn.</source>
+        <translation>如何填充；没有符号则不绘制。</translation>
+    </message>
+    <message>
+        <source>How the border is drawn; without a symbol it is not.</source>
+        <translation>边框如何绘制；没有符号则不绘制。</translation>
+    </message>
+    <message>
+        <source>Whether the sheet stands upright or lies, which swaps its width and height.</source>
+        <translation>纸张是竖放还是横放；横放时宽高互换。</translation>
+    </message>
+    <message>
+        <source>The local file of the data (GeoPackage, GeoJSON, Shapefile or FlatGeobuf), relative to the document.</source>
+        <translation>数据的本地文件（GeoPackage、GeoJSON、Shapefile 或 FlatGeobuf），相对于文档。</translation>
+    </message>
+    <message>
+        <source>A condition on the attributes as in SQL, “population &gt; 1000000”; empty for all features.</source>
+        <translation>对属性的条件，写法同 SQL，如“population &gt; 1000000”；为空表示全部要素。</translation>
+    </message>
+    <message>
+        <source>Stands in for that of the file where it is not empty.</source>
+        <translation>不为空时代替文件自身的坐标系。</translation>
+    </message>
+    <message>
+        <source>The number of the map that it shows, which no other data frame shows; the first one is 0.</source>
+        <translation>所显示地图的编号，其他数据框不显示该地图；第一幅为 0。</translation>
+    </message>
+    <message>
+        <source>The number of the map that it follows; −1 for none.</source>
+        <translation>所跟随地图的编号；−1 表示没有。</translation>
+    </message>
+    <message>
+        <source>A numeric attribute: features with a higher number are labelled first; without one, in their own order.</source>
+        <translation>数值属性：数值较大的要素先标注；没有时按要素自身的顺序。</translation>
+    </message>
+    <message>
+        <source>The lowest priority of the class, above that of the class before.</source>
+        <translation>该类的最低优先级，高于前一类的。</translation>
+    </message>
+    <message>
+        <source>What a legend calls the features.</source>
+        <translation>图例中要素的名称。</translation>
+    </message>
+    <message>
+        <source>How the features are drawn.</source>
+        <translation>要素如何绘制。</translation>
+    </message>
+    <message>
+        <source>The values of the attribute that belong to the class; each belongs to one class only.</source>
+        <translation>属于该类的属性值；每个值只属于一个类。</translation>
+    </message>
+    <message>
+        <source>What a legend calls the features; their values where it is missing.</source>
+        <translation>图例中要素的名称；缺省时为其各个值。</translation>
+    </message>
+    <message>
+        <source>The lowest number of the class, above that of the class before; it ends where the next one begins.</source>
+        <translation>该类的最小数，大于前一类的；到下一类开始处为止。</translation>
+    </message>
+    <message>
+        <source>One symbol for all features, one for each value of an attribute, or one for each range of a numeric attribute.</source>
+        <translation>所有要素用一个符号、属性的每个值用一个符号，或数值属性的每个区间用一个符号。</translation>
+    </message>
+    <message>
+        <source>How the letters of the title look; without a symbol bold and 12 points high.</source>
+        <translation>标题文字的样子；没有符号时为粗体 12 磅。</translation>
+    </message>
+    <message>
+        <source>How the name of a layer with several classes looks; without a symbol bold and 9 points high.</source>
+        <translation>有多个类的图层名称的样子；没有符号时为粗体 9 磅。</translation>
+    </message>
+    <message>
+        <source>How the letters of the entries look; without a symbol 8 points high.</source>
+        <translation>条目文字的样子；没有符号时为 8 磅。</translation>
+    </message>
+    <message>
+        <source>How the bar is drawn: as one row of boxes, as two, or as a line with ticks.</source>
+        <translation>比例尺如何绘制：一行方格、两行方格，或带刻度的线。</translation>
+    </message>
+    <message>
+        <source>What the bar counts; automatic is metres, or kilometres where each division is one at least.</source>
+        <translation>比例尺的单位；自动为米，每格至少一千米时为千米。</translation>
+    </message>
+    <message>
+        <source>The colour of outlines, of ticks and of every second part.</source>
+        <translation>轮廓、刻度和每隔一段的颜色。</translation>
+    </message>
+    <message>
+        <source>How the letters look; without a symbol 8 points high.</source>
+        <translation>文字的样子；没有符号时为 8 磅。</translation>
+    </message>
+    <message>
+        <source>How the letters look; without a symbol 12 points high.</source>
+        <translation>文字的样子；没有符号时为 12 磅。</translation>
+    </message>
+    <message>
+        <source>The marker that points north; without a symbol a plain arrow.</source>
+        <translation>指向北方的标记；没有符号时为简单箭头。</translation>
+    </message>
+    <message>
+        <source>The distance of two lines; 0, or one that would make more than 1,000 lines, chooses one for the map&apos;s scale.</source>
+        <translation>两条线的间隔；0 或会产生超过 1,000 条线的间隔，则按地图比例尺选择。</translation>
+    </message>
+    <message>
+        <source>Whether the degrees stand outside the frame, or where a parallel ends inside it.</source>
+        <translation>度数是否标注在框外，或标注在纬线于框内结束处。</translation>
+    </message>
+    <message>
+        <source>How the meridians and parallels are drawn; without a symbol grey and 0.3 points wide.</source>
+        <translation>经线和纬线如何绘制；没有符号时为灰色、0.3 磅宽。</translation>
+    </message>
+    <message>
+        <source>How the letters of the labels look; without a symbol 6.5 points high.</source>
+        <translation>标注文字的样子；没有符号时为 6.5 磅。</translation>
+    </message>
+    <message>
+        <source>The symbol, of any kind.</source>
+        <translation>符号，可为任何种类。</translation>
+    </message>
+    <message>
+        <source>What the category is called; slashes put it into others, as in “Markers/Towns”.</source>
+        <translation>类别的名称；斜杠表示位于其他类别中，如“Markers/Towns”。</translation>
+    </message>
+    <message>
+        <source>The picture as SVG, which refers to nothing outside itself; its view box is the marker.</source>
+        <translation>以 SVG 表示的图片，不引用外部内容；其 viewBox 即标记。</translation>
+    </message>
+    <message>
+        <source>The version of the format; a newer one is refused.</source>
+        <translation>格式的版本；更新的版本会被拒绝。</translation>
     </message>
 </context>
 <context>

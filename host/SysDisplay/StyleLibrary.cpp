@@ -33,12 +33,14 @@ void listName(Fields& fields, QString& name, char const* help) {
 void StyleItem::list(Fields& fields) {
   listName(fields, name, QT_TRANSLATE_NOOP("Fields", "What the symbol is called."));
   listSymbol(fields,
-             {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"), QT_TRANSLATE_NOOP("Fields", "The symbol itself.")},
+             {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"), QT_TRANSLATE_NOOP("Fields", "The symbol, of any kind.")},
              symbol);
 }
 
 void StyleCategory::list(Fields& fields) {
-  listName(fields, name, QT_TRANSLATE_NOOP("Fields", "What the category is called; a slash puts it into another."));
+  listName(
+      fields, name,
+      QT_TRANSLATE_NOOP("Fields", "What the category is called; slashes put it into others, as in “Markers/Towns”."));
   fields.list({"items", QT_TRANSLATE_NOOP("Fields", "Symbols"),
                QT_TRANSLATE_NOOP("Fields", "The symbols of the category."), "item"},
               items, maxItems, [](Fields& own, StyleItem& item, int) { item.list(own); });

@@ -190,9 +190,11 @@ SvgMarkerSettings SvgMarkerSettings::of(SvgMarkerSymbol const& symbol) {
 void SvgMarkerSettings::list(Fields& fields) {
   marker.list(fields);
   QString svg = QString::fromUtf8(SvgMarkerSymbol::svgOf(picture));
-  fields.text({"svg", QT_TRANSLATE_NOOP("Fields", "Picture"),
-               QT_TRANSLATE_NOOP("Fields", "The picture as SVG; its view box is the marker.")},
-              svg, SysUtility::TextKind::Svg);
+  fields.text(
+      {"svg", QT_TRANSLATE_NOOP("Fields", "Picture"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "The picture as SVG, which refers to nothing outside itself; its view box is the marker.")},
+      svg, SysUtility::TextKind::Svg);
   if (!fields.isReading() || !fields.ok()) return;
   QString problem;
   picture = SvgMarkerSymbol::pictureOf(svg.toUtf8(), problem);

@@ -78,8 +78,9 @@ struct ValueRules {
   Range range{-std::numeric_limits<double>::max(), std::numeric_limits<double>::max()};  ///< of each number
   TextKind textKind = TextKind::Line;
   NumbersKind numbersKind = NumbersKind::Point;
-  bool isFilled = false;  ///< a text is more than blanks
-  int minPoints = 0;      ///< of a list of coordinate pairs
+  bool isFilled = false;   ///< a text is more than blanks
+  bool isDerived = false;  ///< the default is made of other fields
+  int minPoints = 0;       ///< of a list of coordinate pairs
 };
 
 /// As many numbers as their kind says.
@@ -144,6 +145,16 @@ public:
     ValueRules rules;
     rules.textKind = kind;
     rules.isFilled = true;
+    value(field, &text, rules);
+  }
+
+  /// A text that has another one, made of other fields, where it is missing.
+  void derivedText(Field const& field, QString& text, TextKind kind, QString const& derived) {
+    ValueRules rules;
+    rules.isRequired = false;
+    rules.byDefault = derived;
+    rules.isDerived = true;
+    rules.textKind = kind;
     value(field, &text, rules);
   }
 

@@ -98,9 +98,9 @@ void listFormat(Fields& fields, JsonFormat const& format) {
   }
   if (!fields.ok()) return;
   int version = format.version;
-  fields.integer(
-      {"version", QT_TRANSLATE_NOOP("Fields", "Version"), QT_TRANSLATE_NOOP("Fields", "The version of the format.")},
-      version, 1, fields.isReading() ? maxVersion : format.version);
+  fields.integer({"version", QT_TRANSLATE_NOOP("Fields", "Version"),
+                  QT_TRANSLATE_NOOP("Fields", "The version of the format; a newer one is refused.")},
+                 version, 1, fields.isReading() ? maxVersion : format.version);
   if (fields.ok() && version > format.version) fields.fail("version", format.newerSentence.arg(version));
 }
 

@@ -129,6 +129,7 @@ QString shown(QStringList const& names) {
 
 QString defaultOf(FieldInfo const& info) {
   if (info.rules.isRequired) return QStringLiteral("must be there");
+  if (info.rules.isDerived) return QStringLiteral("by other fields");
   QJsonValue const& value = info.rules.byDefault;
   if (value.isBool()) return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
   if (value.isDouble()) return shown(value.toDouble());
@@ -212,7 +213,7 @@ QString ReferenceMaker::section(FieldType const& type) const {
   bool const hasKinds = !parts.ofKinds.isEmpty();
   QString heading = words(type.name);
   heading[0] = heading[0].toUpper();
-  QString text = QStringLiteral("<!-- plotvane reference %1: %2 -->\n### %3\n\n").arg(format_, type.name, heading);
+  QString text = QStringLiteral("<!-- plotvane reference %1: %2 -->\n\n### %3\n\n").arg(format_, type.name, heading);
   if (hasKinds) text += QStringLiteral("| %1 ").arg(code(parts.kindKey));
   text += QStringLiteral("| field | kind | default | meaning |\n|---|---|---|---|");
   text += hasKinds ? QStringLiteral("---|\n") : QStringLiteral("\n");
@@ -223,7 +224,7 @@ QString ReferenceMaker::section(FieldType const& type) const {
     else
       text += QStringLiteral("| %1 | | | | the fields of a %2 |\n").arg(shown(part.kinds), link(part.type));
   }
-  return text + QStringLiteral("<!-- end -->\n");
+  return text + QStringLiteral("\n<!-- end -->\n");
 }
 
 }  // namespace

@@ -147,7 +147,8 @@ QJsonObject SchemaMaker::field(FieldInfo const& info) const {
   schema.insert(QStringLiteral("title"), QString::fromUtf8(info.field.caption));
   schema.insert(QStringLiteral("description"),
                 QString::fromUtf8(info.field.help) + sentenceOf(info.rules.range.unit) + sentenceOf(info.choices));
-  if (!info.rules.byDefault.isUndefined()) schema.insert(QStringLiteral("default"), info.rules.byDefault);
+  if (!info.rules.byDefault.isUndefined() && !info.rules.isDerived)
+    schema.insert(QStringLiteral("default"), info.rules.byDefault);
   return schema;
 }
 

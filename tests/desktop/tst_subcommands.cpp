@@ -81,6 +81,32 @@ private slots:
     QVERIFY(run({"commands", "--json"}, folder_.path()).out.contains("\"loaded\""));
   }
 
+  void theTablesOfFieldsAreAsPrintedAndTheirLinksLeadToOne_data() {
+    Rows<QString, int> row;
+    row("documents", "document", 20);
+    row("styles", "style", 3);
+  }
+  void theTablesOfFieldsAreAsPrintedAndTheirLinksLeadToOne() {
+    auto const [format, fewest] = fetched<QString, int>();
+    QString const mark = "<!-- plotvane reference ", folder = PLOTVANE_SOURCE_DIR "/docs/";
+    QString const printed = run({"reference", format}, folder_.path()).out;
+    QString const manual = QString::fromUtf8(contentOf(folder + format + "-format.md"));
+    QStringList const parts = manual.split(mark).mid(1);
+    QVERIFY(parts.size() >= fewest);
+    for (QString const& part : parts) {
+      QString const table = mark + part.section("<!-- end -->", 0, 0) + "<!-- end -->";
+      QVERIFY2(printed.contains(table), qPrintable("scripts/reference brings this up to date: " + table));
+    }
+    auto links = QRegularExpression("\\]\\(([a-z-]+\\.md)?#([a-z-]+)\\)").globalMatch(manual);
+    while (links.hasNext()) {
+      auto const link = links.next();
+      QString const target = link.captured(1).isEmpty() ? manual : contentOf(folder + link.captured(1));
+      QString const heading = "\n#+ " + link.captured(2).replace('-', "[ -]") + "\n";
+      QVERIFY2(target.contains(QRegularExpression(heading, QRegularExpression::CaseInsensitiveOption)),
+               qPrintable(link.captured()));
+    }
+  }
+
   void aPluginThatDoesNotLoadIsNamed_data() {
     Rows<QString, QString, QString> row;
     put(folder_.path("text.so"), "not a library");

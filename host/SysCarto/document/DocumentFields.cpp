@@ -67,13 +67,18 @@ struct MapSettings {
   void list(Fields& fields) {
     fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"), QT_TRANSLATE_NOOP("Fields", "What the map is called.")},
                 name, TextKind::Line);
-    fields.text({"coordinateSystem", QT_TRANSLATE_NOOP("Fields", "Coordinate system"),
-                 QT_TRANSLATE_NOOP("Fields", "That of the map, as a code (“EPSG:8857”), WKT or a PROJ text.")},
-                coordinateSystem, TextKind::CoordinateSystem, QString());
+    fields.text(
+        {"coordinateSystem", QT_TRANSLATE_NOOP("Fields", "Coordinate system"),
+         QT_TRANSLATE_NOOP(
+             "Fields",
+             "That of the map: a code as in “EPSG:8857”, WKT or a PROJ text; empty for plain coordinates in metres.")},
+        coordinateSystem, TextKind::CoordinateSystem, QString());
     QString const problem = fields.isReading() && fields.ok() ? checkCoordinateSystem(coordinateSystem) : QString();
     if (!problem.isEmpty()) fields.fail("coordinateSystem", problem);
     fields.numbers({"bounds", QT_TRANSLATE_NOOP("Fields", "Extent"),
-                    QT_TRANSLATE_NOOP("Fields", "What the map shows: its left, lower, right and upper side.")},
+                    QT_TRANSLATE_NOOP("Fields",
+                                      "What the map shows: its left, lower, right and upper side. It is centred in the "
+                                      "data frame and widened to its shape.")},
                    bounds, SysUtility::NumbersKind::Rectangle, {-maxMapCoordinate, maxMapCoordinate, Unit::MapUnit});
     if (!fields.isReading() || !fields.ok()) return;
     if (bounds[2] - bounds[0] < minMapExtent || bounds[3] - bounds[1] < minMapExtent)
@@ -115,10 +120,11 @@ void listLayout(Fields& fields, PageLayout& layout, DocumentContext const& conte
       {"layout", QT_TRANSLATE_NOOP("Fields", "Layout"), QT_TRANSLATE_NOOP("Fields", "Settings of the layout.")},
       alignToMargins || focus > 0, [&](Fields& own) {
         own.flag({"alignToMargins", QT_TRANSLATE_NOOP("Fields", "Align to margins"),
-                  QT_TRANSLATE_NOOP("Fields", "Whether the alignment commands align to the page.")},
+                  QT_TRANSLATE_NOOP(
+                      "Fields", "Whether elements are aligned with the edges of the page, and not with each other.")},
                  alignToMargins, false);
         own.integer({"focusMap", QT_TRANSLATE_NOOP("Fields", "Focus map"),
-                     QT_TRANSLATE_NOOP("Fields", "The number of the map that new surrounds follow.")},
+                     QT_TRANSLATE_NOOP("Fields", "The number of the map that insertion and navigation work on.")},
                     focus, 0, std::max(0, lastMap(fields, context)), 0);
       });
   if (!fields.isReading() || !fields.ok()) return;
@@ -179,7 +185,9 @@ void DocumentContent::list(Fields& fields, DocumentContext& context) {
                QT_TRANSLATE_NOOP("Fields", "Whether files are named relative to the document.")},
               relativePaths, true);
   fields.list(
-      {"maps", QT_TRANSLATE_NOOP("Fields", "Maps"), QT_TRANSLATE_NOOP("Fields", "The maps of the data frames."), "map"},
+      {"maps", QT_TRANSLATE_NOOP("Fields", "Maps"),
+       QT_TRANSLATE_NOOP("Fields", "The maps, which data frames and surrounds name by their number here, from 0."),
+       "map"},
       context.maps, maxMaps, [&](Fields& own, _ptr_t<Map>& map, int) { listMap(own, map, context); });
   listPage(fields, *layout);
   listElementsOf(fields,

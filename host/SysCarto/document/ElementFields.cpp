@@ -31,9 +31,11 @@ struct CommonSettings {
 
 private:
   void listHandle(Fields& fields, DocumentContext& context) {
-    fields.integer({"handle", QT_TRANSLATE_NOOP("Fields", "Handle"),
-                    QT_TRANSLATE_NOOP("Fields", "The number of the element, which no other one has.")},
-                   handle, 0, maxHandle, 0);
+    fields.integer(
+        {"handle", QT_TRANSLATE_NOOP("Fields", "Handle"),
+         QT_TRANSLATE_NOOP("Fields",
+                           "The number by which the element is known, which no other one has; 0 asks for a new one.")},
+        handle, 0, maxHandle, 0);
     if (!fields.isReading() || !fields.ok() || handle == 0) return;
     if (context.handles.contains(handle))
       return fields.fail(

@@ -52,7 +52,9 @@ void listPoints(Fields& fields, QVector<QPointF>& points, int fewest, ElementSco
 
 void listPosition(Fields& fields, double* position, ElementScope const& scope) {
   fields.numbers({"position", QT_TRANSLATE_NOOP("Fields", "Position"),
-                  QT_TRANSLATE_NOOP("Fields", "The point at which it stands, from the lower left corner.")},
+                  scope.onMap ? QT_TRANSLATE_NOOP("Fields", "The point of the map at which it stands.")
+                              : QT_TRANSLATE_NOOP(
+                                    "Fields", "The point at which it stands, from the lower left corner of the page.")},
                  position, NumbersKind::Point, anywhere(scope));
 }
 
@@ -118,9 +120,13 @@ RectangleSettings RectangleSettings::of(Envelope const& rectangle) {
 }
 
 void RectangleSettings::list(Fields& fields, Range const& range) {
-  fields.numbers({"rectangle", QT_TRANSLATE_NOOP("Fields", "Rectangle"),
-                  QT_TRANSLATE_NOOP("Fields", "Its left, lower, right and upper side, from the lower left corner.")},
-                 sides, NumbersKind::Rectangle, range);
+  fields.numbers(
+      {"rectangle", QT_TRANSLATE_NOOP("Fields", "Rectangle"),
+       range.unit == Unit::MapUnit
+           ? QT_TRANSLATE_NOOP("Fields", "Its left, lower, right and upper side on the map.")
+           : QT_TRANSLATE_NOOP("Fields",
+                               "Its left, lower, right and upper side, from the lower left corner of the page.")},
+      sides, NumbersKind::Rectangle, range);
   if (fields.ok() && (sides[0] > sides[2] || sides[1] > sides[3]))
     fields.fail("rectangle", Texts::tr("must be xmin, ymin, xmax, ymax, with xmin ≤ xmax and ymin ≤ ymax"));
 }
@@ -165,7 +171,9 @@ PictureSettings PictureSettings::of(PictureElement const& picture, ElementScope 
 void PictureSettings::list(Fields& fields, ElementScope const& scope) {
   rectangle.list(fields, anywhere(scope));
   fields.text({"path", QT_TRANSLATE_NOOP("Fields", "File"),
-               QT_TRANSLATE_NOOP("Fields", "The file of the picture (PNG, JPEG or SVG), relative to the document.")},
+               QT_TRANSLATE_NOOP("Fields",
+                                 "The file of the picture (PNG, JPEG or SVG), relative to the document; without one, a "
+                                 "crossed frame is drawn.")},
               path, TextKind::File);
 }
 
@@ -184,7 +192,8 @@ void GroupSettings::list(Fields& fields, ElementScope const& scope) {
     return fields.fail(nullptr, Texts::tr("groups are nested more than %1 deep").arg(maxDepth));
   ElementScope const inner{scope.context, scope.onMap, scope.depth + 1};
   fields.list({"members", QT_TRANSLATE_NOOP("Fields", "Members"),
-               QT_TRANSLATE_NOOP("Fields", "The elements of the group."), scope.onMap ? "memberOfGraphic" : "member"},
+               QT_TRANSLATE_NOOP("Fields", "The elements of the group; groups lie at most 16 deep in each other."),
+               scope.onMap ? "memberOfGraphic" : "member"},
               members, {1, maxMembers},
               [&](Fields& own, _ptr_t<Element>& member, int) { listElement(own, member, inner); });
 }

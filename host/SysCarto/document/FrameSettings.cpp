@@ -34,14 +34,18 @@ void listGap(Fields& fields, double& gap) {
 }
 
 void listRounding(Fields& fields, double& rounding) {
-  fields.number({"rounding", QT_TRANSLATE_NOOP("Fields", "Rounding"),
-                 QT_TRANSLATE_NOOP("Fields", "How round the corners are: 0 is square, 100 as round as they can be.")},
-                rounding, {0, 100, Unit::Percent}, 0.0);
+  fields.number(
+      {"rounding", QT_TRANSLATE_NOOP("Fields", "Rounding"),
+       QT_TRANSLATE_NOOP(
+           "Fields",
+           "The radius of the corners, as a part of half the shorter side: 0 is square, 100 as round as they can be.")},
+      rounding, {0, 100, Unit::Percent}, 0.0);
 }
 
 void listFill(Fields& fields, _ptr_t<SysDisplay::FillSymbol>& symbol) {
   listOptionalSymbol(fields,
-                     {"symbol", QT_TRANSLATE_NOOP("Fields", "Fill"), QT_TRANSLATE_NOOP("Fields", "How it is filled.")},
+                     {"symbol", QT_TRANSLATE_NOOP("Fields", "Fill"),
+                      QT_TRANSLATE_NOOP("Fields", "How it is filled; without a symbol it is not drawn.")},
                      symbol);
 }
 
@@ -80,9 +84,10 @@ BorderSettings BorderSettings::of(SymbolBorder const& border) {
 }
 
 void BorderSettings::list(Fields& fields) {
-  listOptionalSymbol(
-      fields, {"symbol", QT_TRANSLATE_NOOP("Fields", "Line"), QT_TRANSLATE_NOOP("Fields", "How the border is drawn.")},
-      symbol);
+  listOptionalSymbol(fields,
+                     {"symbol", QT_TRANSLATE_NOOP("Fields", "Line"),
+                      QT_TRANSLATE_NOOP("Fields", "How the border is drawn; without a symbol it is not.")},
+                     symbol);
   listGap(fields, gap);
   listRounding(fields, rounding);
 }
@@ -175,9 +180,10 @@ void PageSettings::list(Fields& fields) {
                                   QT_TRANSLATE_NOOP("Fields", "The height of the sheet when it stands upright.")},
                                  heightCm, pageSides);
                  });
-  fields.choice<short>({"orientation", QT_TRANSLATE_NOOP("Fields", "Orientation"),
-                        QT_TRANSLATE_NOOP("Fields", "Whether the sheet stands upright or lies.")},
-                       orientation, orientations, portrait);
+  fields.choice<short>(
+      {"orientation", QT_TRANSLATE_NOOP("Fields", "Orientation"),
+       QT_TRANSLATE_NOOP("Fields", "Whether the sheet stands upright or lies, which swaps its width and height.")},
+      orientation, orientations, portrait);
   frame.list(fields);
 }
 

@@ -34,17 +34,22 @@ QString pathToOpen(QString const& stored, DocumentContext const& context) {
 }
 
 void listSource(Fields& fields, SourceSettings& source) {
-  fields.text({"file", QT_TRANSLATE_NOOP("Fields", "File"),
-               QT_TRANSLATE_NOOP("Fields", "The file of the data, relative to the document.")},
-              source.file, TextKind::File);
+  fields.text(
+      {"file", QT_TRANSLATE_NOOP("Fields", "File"),
+       QT_TRANSLATE_NOOP(
+           "Fields",
+           "The local file of the data (GeoPackage, GeoJSON, Shapefile or FlatGeobuf), relative to the document.")},
+      source.file, TextKind::File);
   fields.text({"layer", QT_TRANSLATE_NOOP("Fields", "Layer of the file"),
                QT_TRANSLATE_NOOP("Fields", "Its name in the file; the first one where it is empty.")},
               source.layer, TextKind::Line, QString());
-  fields.text({"filter", QT_TRANSLATE_NOOP("Fields", "Filter"),
-               QT_TRANSLATE_NOOP("Fields", "A condition on the attributes, as in “population > 1000000”.")},
-              source.filter, TextKind::Condition, QString());
+  fields.text(
+      {"filter", QT_TRANSLATE_NOOP("Fields", "Filter"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "A condition on the attributes as in SQL, “population > 1000000”; empty for all features.")},
+      source.filter, TextKind::Condition, QString());
   fields.text({"coordinateSystem", QT_TRANSLATE_NOOP("Fields", "Coordinate system"),
-               QT_TRANSLATE_NOOP("Fields", "Stands in for that of the file.")},
+               QT_TRANSLATE_NOOP("Fields", "Stands in for that of the file where it is not empty.")},
               source.coordinateSystem, TextKind::CoordinateSystem, QString());
 }
 

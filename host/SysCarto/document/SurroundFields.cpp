@@ -63,10 +63,13 @@ int lastMap(Fields const& fields, DocumentContext const& context) {
 void listMapNumber(Fields& fields, int& number, DocumentContext const& context, bool isRequired) {
   if (number == foreignMap)
     fields.fail("map", QCoreApplication::translate("SurroundFields", "is no map of the document"));
-  fields.integer({"map", QT_TRANSLATE_NOOP("Fields", "Map"),
-                  QT_TRANSLATE_NOOP("Fields", "The number of the map in the document; the first one is 0.")},
-                 number, isRequired ? 0 : noMap, lastMap(fields, context),
-                 isRequired ? std::nullopt : std::optional<int>(noMap));
+  fields.integer(
+      {"map", QT_TRANSLATE_NOOP("Fields", "Map"),
+       isRequired
+           ? QT_TRANSLATE_NOOP(
+                 "Fields", "The number of the map that it shows, which no other data frame shows; the first one is 0.")
+           : QT_TRANSLATE_NOOP("Fields", "The number of the map that it follows; −1 for none.")},
+      number, isRequired ? 0 : noMap, lastMap(fields, context), isRequired ? std::nullopt : std::optional<int>(noMap));
 }
 
 void listSurround(Fields& fields, _ptr_t<MapSurround>& surround, DocumentContext const& context) {

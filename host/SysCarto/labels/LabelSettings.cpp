@@ -41,24 +41,27 @@ void LabelSettings::list(Fields& fields) {
   fields.filledText({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
                      QT_TRANSLATE_NOOP("Fields", "The attribute whose value is the text.")},
                     field, TextKind::Attribute);
-  fields.text({"priorityField", QT_TRANSLATE_NOOP("Fields", "Attribute of the priority"),
-               QT_TRANSLATE_NOOP("Fields", "Features with a higher number in it are labelled first.")},
-              priorityField, TextKind::Attribute, QString());
+  fields.text(
+      {"priorityField", QT_TRANSLATE_NOOP("Fields", "Attribute of the priority"),
+       QT_TRANSLATE_NOOP(
+           "Fields",
+           "A numeric attribute: features with a higher number are labelled first; without one, in their own order.")},
+      priorityField, TextKind::Attribute, QString());
   fields.number(
       {"gap", QT_TRANSLATE_NOOP("Fields", "Gap"), QT_TRANSLATE_NOOP("Fields", "What is kept free around a label.")},
       gapPt, {0, 1000, Unit::Point}, LabelSettings().gapPt);
   listSymbolOf(fields, *this);
-  fields.list({"classes", QT_TRANSLATE_NOOP("Fields", "Classes"),
-               QT_TRANSLATE_NOOP("Fields", "Letters of their own for features of a higher priority."), "labelClass"},
-              classes, maxClasses, [this](Fields& own, LabelClass& one, int index) {
-                own.number({"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
-                            QT_TRANSLATE_NOOP("Fields", "The lowest priority of the class.")},
-                           one.minimum, {-farthest, farthest});
-                listSymbolOf(own, one);
-                if (index > 0 && !(one.minimum > classes[index - 1].minimum))
-                  own.fail("minimum",
-                           QCoreApplication::translate("LabelSettings", "is not above that of the class before"));
-              });
+  fields.list(
+      {"classes", QT_TRANSLATE_NOOP("Fields", "Classes"),
+       QT_TRANSLATE_NOOP("Fields", "Letters of their own for features of a higher priority."), "labelClass"},
+      classes, maxClasses, [this](Fields& own, LabelClass& one, int index) {
+        own.number({"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
+                    QT_TRANSLATE_NOOP("Fields", "The lowest priority of the class, above that of the class before.")},
+                   one.minimum, {-farthest, farthest});
+        listSymbolOf(own, one);
+        if (index > 0 && !(one.minimum > classes[index - 1].minimum))
+          own.fail("minimum", QCoreApplication::translate("LabelSettings", "is not above that of the class before"));
+      });
 }
 
 AnnotationSettings AnnotationSettings::of(AnnotationProperties const& properties) {

@@ -39,24 +39,31 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(Renderer)
 };
 
-void listLabel(Fields& fields, QString& label, QString const& byDefault) {
-  fields.text({"label", QT_TRANSLATE_NOOP("Fields", "Label"), QT_TRANSLATE_NOOP("Fields", "What a legend calls them.")},
-              label, TextKind::Line, byDefault);
+constexpr Field labelNamed(char const* help) { return {"label", QT_TRANSLATE_NOOP("Fields", "Label"), help}; }
+
+void listLabel(Fields& fields, QString& label) {
+  fields.text(labelNamed(QT_TRANSLATE_NOOP("Fields", "What a legend calls the features.")), label, TextKind::Line,
+              QString());
 }
 
 void listSymbolOf(Fields& fields, SymbolClass& one) {
-  listSymbol(fields,
-             {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"), QT_TRANSLATE_NOOP("Fields", "How they are drawn.")},
-             one.symbol);
+  listSymbol(
+      fields,
+      {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"), QT_TRANSLATE_NOOP("Fields", "How the features are drawn.")},
+      one.symbol);
 }
 
 void listValues(Fields& fields, std::vector<SymbolClass>& classes) {
   QSet<QString> known;
   fields.list(classesOf("valueClass"), classes, maxClasses, [&](Fields& own, SymbolClass& one, int) {
     own.texts({"values", QT_TRANSLATE_NOOP("Fields", "Values"),
-               QT_TRANSLATE_NOOP("Fields", "The values of the attribute that belong to the class.")},
+               QT_TRANSLATE_NOOP(
+                   "Fields", "The values of the attribute that belong to the class; each belongs to one class only.")},
               one.values);
-    listLabel(own, one.label, one.values.join(QLatin1String(", ")).left(SysUtility::maxCharacters(TextKind::Line)));
+    own.derivedText(
+        labelNamed(QT_TRANSLATE_NOOP("Fields", "What a legend calls the features; their values where it is missing.")),
+        one.label, TextKind::Line,
+        one.values.join(QLatin1String(", ")).left(SysUtility::maxCharacters(TextKind::Line)));
     listSymbolOf(own, one);
     for (QString const& value : qAsConst(one.values)) {
       if (own.isReading() && known.contains(value))
@@ -68,10 +75,13 @@ void listValues(Fields& fields, std::vector<SymbolClass>& classes) {
 
 void listMinima(Fields& fields, std::vector<SymbolClass>& classes) {
   fields.list(classesOf("rangeClass"), classes, maxClasses, [&](Fields& own, SymbolClass& one, int index) {
-    own.number({"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
-                QT_TRANSLATE_NOOP("Fields", "The lowest number of the class; it ends where the next one begins.")},
-               one.minimum, {-farthest, farthest});
-    listLabel(own, one.label, QString());
+    own.number(
+        {"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
+         QT_TRANSLATE_NOOP(
+             "Fields",
+             "The lowest number of the class, above that of the class before; it ends where the next one begins.")},
+        one.minimum, {-farthest, farthest});
+    listLabel(own, one.label);
     listSymbolOf(own, one);
     if (index > 0 && !(one.minimum > classes[index - 1].minimum))
       own.fail("minimum", Texts::tr("is not above that of the class before"));
@@ -128,22 +138,23 @@ public:
 
 void RendererSettings::list(Fields& fields) {
   int number = static_cast<int>(kind);
-  fields.variant(
-      {"type", QT_TRANSLATE_NOOP("Fields", "Kind"),
-       QT_TRANSLATE_NOOP("Fields", "Whether all features are drawn alike, or by the value of an attribute.")},
-      number, kinds, [&](int chosen) {
-        kind = static_cast<Kind>(chosen);
-        if (kind == Kind::Simple) {
-          classes.resize(1);
-          listLabel(fields, classes[0].label, QString());
-          return listSymbolOf(fields, classes[0]);
-        }
-        fields.filledText({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
-                           QT_TRANSLATE_NOOP("Fields", "The attribute whose value decides.")},
-                          field, TextKind::Attribute);
-        (kind == Kind::UniqueValues ? listValues : listMinima)(fields, classes);
-        listOthers(fields, others);
-      });
+  fields.variant({"type", QT_TRANSLATE_NOOP("Fields", "Kind"),
+                  QT_TRANSLATE_NOOP("Fields",
+                                    "One symbol for all features, one for each value of an attribute, or one for each "
+                                    "range of a numeric attribute.")},
+                 number, kinds, [&](int chosen) {
+                   kind = static_cast<Kind>(chosen);
+                   if (kind == Kind::Simple) {
+                     classes.resize(1);
+                     listLabel(fields, classes[0].label);
+                     return listSymbolOf(fields, classes[0]);
+                   }
+                   fields.filledText({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
+                                      QT_TRANSLATE_NOOP("Fields", "The attribute whose value decides.")},
+                                     field, TextKind::Attribute);
+                   (kind == Kind::UniqueValues ? listValues : listMinima)(fields, classes);
+                   listOthers(fields, others);
+                 });
 }
 
 Renderer::Renderer(RendererSettings settings) : settings_(std::move(settings)), classes_(settings_.classes) {
