@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 
 using SysUtility::FieldInfo;
 using SysUtility::NumbersKind;

@@ -6,6 +6,7 @@
 #include <QJsonArray>
 
 #include <limits>
+#include <utility>
 
 using SysUtility::Choice;
 using SysUtility::FieldInfo;
