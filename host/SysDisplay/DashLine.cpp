@@ -30,10 +30,13 @@ constexpr double tiny = 1e-6;
 
 class Dasher {
 public:
-  Dasher(DashPattern const& pattern, QRectF const& area, PointRuns& out)
-      : pattern_(pattern), period_(std::accumulate(pattern.begin(), pattern.end(), 0.0)), out_(out) {
+  Dasher(Dashes const& dashes, QRectF const& area, PointRuns& out)
+      : pattern_(dashes.pattern),
+        period_(std::accumulate(pattern_.begin(), pattern_.end(), 0.0)),
+        out_(out),
+        phase_(std::fmod(dashes.start, period_)) {
     // A dash that shows begins at most its own length outside.
-    double const longest = *std::max_element(pattern.begin(), pattern.end()) + 1;
+    double const longest = *std::max_element(pattern_.begin(), pattern_.end()) + 1;
     area_ = area.adjusted(-longest, -longest, longest, longest);
   }
 
@@ -81,20 +84,19 @@ private:
     return false;
   }
 
-  DashPattern const& pattern_;
+  std::vector<double> const& pattern_;
   double const period_;
   PointRuns& out_;
   QRectF area_;
-  double phase_ = 0;
+  double phase_;
   bool open_ = false;
 };
 
 }  // namespace
 
-void dashLine(std::vector<QPointF> const& line, bool closed, DashPattern const& pattern, QRectF const& area,
-              PointRuns& out) {
-  if (line.size() < 2 || pattern.empty()) return;
-  Dasher dasher(pattern, area, out);
+void dashLine(std::vector<QPointF> const& line, bool closed, Dashes const& dashes, QRectF const& area, PointRuns& out) {
+  if (line.size() < 2 || dashes.pattern.empty()) return;
+  Dasher dasher(dashes, area, out);
   for (size_t i = 1; i < line.size(); ++i) dasher.segment(line[i - 1], line[i]);
   if (closed) dasher.segment(line.back(), line.front());
   dasher.finish();

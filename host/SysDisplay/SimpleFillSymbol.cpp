@@ -1,7 +1,6 @@
 #include <SysDisplay/SimpleFillSymbol.h>
 
-#include "host/SysDisplay/FillPainter.h"
-#include "host/SysDisplay/GeometryParts.h"
+#include "host/SysDisplay/FillDrawing.h"
 #include "host/SysDisplay/SymbolFields.h"
 
 namespace SysDisplay {
@@ -27,11 +26,7 @@ void SimpleFillSymbol::Draw(QPainter& painter, _ptr_t<DisplayTransformation> con
 
 void SimpleFillSymbol::DrawSurface(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
                                    _ptr_t<Geometry> const& geometry) const {
-  if (!transformation || !isArea(geometry.get())) return;
-  DrawTarget target(painter, *transformation);
-  FillPainter fill(target, *this);
-  visitParts(geometry.get(), [&](GeometryPart const& part) { fill.addRing(part.run); });
-  fill.draw();
+  drawGeometry(*this, painter, transformation.get(), geometry.get());
 }
 
 void SimpleFillSymbol::DrawEnvelope(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
@@ -39,21 +34,11 @@ void SimpleFillSymbol::DrawEnvelope(QPainter& painter, _ptr_t<DisplayTransformat
   DrawSurface(painter, transformation, envelope);
 }
 
-void SimpleFillSymbol::Draw(QPainter& painter, QPainterPath const& path) const {
-  DrawTarget target(painter, QTransform(), DisplayTransformation().PixelsPerPoint());
-  FillPainter fill(target, *this);
-  visitParts(path, [&](GeometryPart const& part) { fill.addRing(part.run); });
-  fill.draw();
-}
+void SimpleFillSymbol::Draw(QPainter& painter, QPainterPath const& path) const { drawPath(*this, painter, path); }
 
 _ptr_t<Envelope> SimpleFillSymbol::QueryBoundary(_ptr_t<DisplayTransformation> const& transformation,
                                                  _ptr_t<Geometry> const& geometry) const {
-  if (!transformation || !isArea(geometry.get())) return nullptr;
-  _ptr_t<Envelope> boundary;
-  if (auto const outline = GetOutlineSymbol()) boundary = outline->QueryBoundary(transformation, geometry);
-  if (boundary || style_ == SimpleFillStyle::Null) return boundary;  // an outline covers at least the area
-  _ptr_t<Envelope> const area = geometry->GetEnvelope();
-  return area && !area->IsEmpty() ? SysUtility::make<Envelope>(*area) : nullptr;
+  return fillBoundary(*this, style_ != SimpleFillStyle::Null, transformation, geometry);
 }
 
 bool SimpleFillSymbol::ImportFromJson(QJsonObject& json) { return importSymbol(json, *this); }

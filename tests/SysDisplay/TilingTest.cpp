@@ -1,7 +1,8 @@
 #include "Pictures.h"
 #include "Symbols.h"
 
-#include "host/SysDisplay/FillPainter.h"
+#include "host/SysDisplay/MarkerPainter.h"
+#include "host/SysDisplay/PathDrawing.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
 
@@ -86,15 +87,14 @@ Scene longRuns(_ptr_t<SimpleLineSymbol> const& symbol) {
     auto const stretches = stretchesOf(run);
     run.stretches = stretches.data();
     DrawTarget target(painter, *t);
-    FillPainter area(target, *land);
-    area.addRing(run);
-    area.draw();
-    LinePainter beside(target, *symbol);
+    auto const area = prepared(target, *land), beside = prepared(target, *symbol);
+    area->addRing(run);
+    area->draw({});
     for (int i = 0; i < 5000; ++i) xy[2 * i] += 40 * unitsPerPx;
     auto const moved = stretchesOf(run);
     run.stretches = moved.data();
-    beside.addLine(run);
-    beside.draw();
+    beside->addLine(run);
+    beside->draw({});
   };
 }
 
@@ -212,12 +212,12 @@ private slots:
     std::vector<double> const coast = teeth(20000, 230, 25, 700, 6);
     Scene const crowd = [&](QPainter& painter, Transformation const& t) {
       DrawTarget target(painter, *t);
-      FillPainter area(target, *land);
+      auto const area = prepared(target, *land);
       MarkerPainter dots(target, *dot), pictures(target, *picture);
       for (int i = 0; i < 2000; ++i) {
         if (i % 500 == 0) {
-          area.addRing({coast.data(), static_cast<int>(coast.size() / 2)});
-          area.draw();
+          area->addRing({coast.data(), static_cast<int>(coast.size() / 2)});
+          area->draw({});
         }
         (i % 400 == 7 ? pictures : dots).draw(worldX(i * 37 % 700 + 0.3), worldY(i * 91 % 500 + 0.7));
       }
@@ -250,9 +250,9 @@ private slots:
     symbol->SetMiterLimit(10);
     QImage const drawn = sheet(1).drawn([&](QPainter& painter, Transformation const& t) {
       DrawTarget target(painter, *t);
-      LinePainter painted(target, *symbol);
-      painted.addLine({xy.data(), static_cast<int>(xy.size() / 2)});
-      painted.draw();
+      auto const painted = prepared(target, *symbol);
+      painted->addLine({xy.data(), static_cast<int>(xy.size() / 2)});
+      painted->draw({});
     });
     QRect const where = ink(drawn).where;
     QVERIFY2(where.top() > 240 && where.bottom() < 260, qPrintable(ink(drawn).text()));

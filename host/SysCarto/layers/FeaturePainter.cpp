@@ -1,7 +1,7 @@
 #include "FeaturePainter.h"
 
-#include "host/SysDisplay/FillPainter.h"
 #include "host/SysDisplay/MarkerPainter.h"
+#include "host/SysDisplay/PathDrawing.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,41 +12,28 @@ using namespace SysDisplay;
 
 namespace {
 
-class PolygonPainter final : public FeaturePainter {
+class PathPainter final : public FeaturePainter {
 public:
-  PolygonPainter(DrawTarget& target, FillSymbol const& symbol) : painter_(target, symbol) {}
-  bool isVisible() const { return painter_.isVisible(); }
-  double reachPx() const override { return painter_.reachPx(); }
+  PathPainter(std::unique_ptr<PathDrawing> drawing, bool drawsLines)
+      : drawing_(std::move(drawing)), drawsLines_(drawsLines) {}
+  double reachPx() const override { return drawing_->reachPx(); }
 
 private:
   void add(Part const& part) override {
     switch (part.kind) {
-      case PartKind::Ring: return painter_.addRing(part.run());
-      case PartKind::FilledRing: return painter_.addRing(part.run(), false);
-      case PartKind::Outline: return painter_.addOutline(part.run());
+      case PartKind::Ring: return drawing_->addRing(part.run());
+      case PartKind::FilledRing: return drawing_->addRing(part.run(), false);
+      case PartKind::Outline: return drawing_->addLine(part.run());
       case PartKind::Line:
+        if (drawsLines_) drawing_->addLine(part.run());
+        return;
       case PartKind::Point: return;
     }
   }
-  void draw() override { painter_.draw(); }
+  void draw(Box const& feature) override { drawing_->draw(feature); }
 
-  FillPainter painter_;
-};
-
-class LineFeaturePainter final : public FeaturePainter {
-public:
-  LineFeaturePainter(DrawTarget& target, LineSymbol const& symbol) : painter_(target, symbol) {}
-  bool isVisible() const { return painter_.isVisible(); }
-  double reachPx() const override { return painter_.reachPx(); }
-
-private:
-  void add(Part const& part) override {
-    if (part.kind == PartKind::Ring) painter_.addRing(part.run());
-    if (part.kind == PartKind::Line || part.kind == PartKind::Outline) painter_.addLine(part.run());
-  }
-  void draw() override { painter_.draw(); }
-
-  LinePainter painter_;
+  std::unique_ptr<PathDrawing> const drawing_;
+  bool const drawsLines_;
 };
 
 class PointPainter final : public FeaturePainter {
@@ -62,14 +49,20 @@ private:
   void add(Part const& part) override {
     if (part.kind == PartKind::Point) painter_.draw(part.xy[0], part.xy[1]);
   }
-  void draw() override {}
+  void draw(Box const&) override {}
 
   MarkerPainter painter_;
 };
 
-template <class Painter, class Symbol>
-std::unique_ptr<FeaturePainter> made(DrawTarget& target, Symbol const& symbol) {
-  auto painter = std::make_unique<Painter>(target, symbol);
+template <class PathSymbol>
+std::unique_ptr<FeaturePainter> made(DrawTarget& target, PathSymbol const& symbol) {
+  auto drawing = prepared(target, symbol);
+  if (!drawing) return nullptr;
+  return std::make_unique<PathPainter>(std::move(drawing), std::is_same_v<PathSymbol, LineSymbol>);
+}
+
+std::unique_ptr<FeaturePainter> made(DrawTarget& target, MarkerSymbol const& symbol) {
+  auto painter = std::make_unique<PointPainter>(target, symbol);
   if (!painter->isVisible()) return nullptr;
   return painter;
 }
@@ -81,13 +74,13 @@ FeaturePainter::~FeaturePainter() = default;
 void FeaturePainter::draw(ThinnedFeatures& features, int feature, Box const& area) {
   for (Part const& part : features.parts(feature))
     if (part.box.meets(area)) add(part);
-  draw();
+  draw(features.box(feature));
 }
 
 std::unique_ptr<FeaturePainter> FeaturePainter::create(DrawTarget& target, Symbol const* symbol) {
-  if (auto const* fill = dynamic_cast<FillSymbol const*>(symbol)) return made<PolygonPainter>(target, *fill);
-  if (auto const* line = dynamic_cast<LineSymbol const*>(symbol)) return made<LineFeaturePainter>(target, *line);
-  if (auto const* marker = dynamic_cast<MarkerSymbol const*>(symbol)) return made<PointPainter>(target, *marker);
+  if (auto const* fill = dynamic_cast<FillSymbol const*>(symbol)) return made(target, *fill);
+  if (auto const* line = dynamic_cast<LineSymbol const*>(symbol)) return made(target, *line);
+  if (auto const* marker = dynamic_cast<MarkerSymbol const*>(symbol)) return made(target, *marker);
   return nullptr;
 }
 

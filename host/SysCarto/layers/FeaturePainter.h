@@ -29,8 +29,8 @@ private:
   /// Takes a part, whatever its kind.
   virtual void add(Part const& part) = 0;
 
-  /// Draws what was taken.
-  virtual void draw() = 0;
+  /// Draws what was taken of a feature that covers `feature` in the map.
+  virtual void draw(Box const& feature) = 0;
 };
 
 }  // namespace SysCarto

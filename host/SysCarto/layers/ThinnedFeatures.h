@@ -29,6 +29,9 @@ public:
   };
   Range parts(int feature);
 
+  /// What a feature covers, as it is in the store.
+  Box const& box(int feature) const { return store_.features[feature].box; }
+
 private:
   struct Place {
     int firstPart = -1;
