@@ -29,8 +29,8 @@ void FieldTree::fail(char const* key, QString const&) { failedKey_ = QString::fr
 
 void FieldTree::value(Field const& field, ValueRef value, ValueRules const& rules) {
   using Kind = FieldInfo::Kind;
-  constexpr Kind kinds[] = {Kind::Number, Kind::Integer, Kind::Flag,       Kind::Text,
-                            Kind::Texts,  Kind::Numbers, Kind::Coordinates};
+  constexpr Kind kinds[] = {Kind::Number, Kind::Integer, Kind::Flag,        Kind::Text,
+                            Kind::Texts,  Kind::Numbers, Kind::Coordinates, Kind::NumberList};
   static_assert(std::size(kinds) == std::variant_size_v<ValueRef>);
   add(field, kinds[value.index()], rules.isRequired).rules = rules;
 }

@@ -6,7 +6,20 @@ namespace SysUtility {
 
 /// What is known of a field without its value.
 struct FieldInfo {
-  enum class Kind { Number, Integer, Flag, Text, Texts, Numbers, Coordinates, Choice, Variant, Object, List };
+  enum class Kind {
+    Number,
+    Integer,
+    Flag,
+    Text,
+    Texts,
+    Numbers,
+    Coordinates,
+    NumberList,
+    Choice,
+    Variant,
+    Object,
+    List
+  };
 
   Field field{};
   Kind kind = Kind::Object;

@@ -65,7 +65,7 @@ struct Choices {
   Choice const* last;
 };
 
-/// How many objects a list holds.
+/// How many objects or numbers a list holds.
 struct Counts {
   int min;
   int max;
@@ -78,9 +78,10 @@ struct ValueRules {
   Range range{-std::numeric_limits<double>::max(), std::numeric_limits<double>::max()};  ///< of each number
   TextKind textKind = TextKind::Line;
   NumbersKind numbersKind = NumbersKind::Point;
-  bool isFilled = false;   ///< a text is more than blanks
-  bool isDerived = false;  ///< the default is made of other fields
-  int minPoints = 0;       ///< of a list of coordinate pairs
+  bool isFilled = false;                              ///< a text is more than blanks
+  bool isDerived = false;                             ///< the default is made of other fields
+  int minPoints = 0;                                  ///< of a list of coordinate pairs
+  Counts counts{0, std::numeric_limits<int>::max()};  ///< of a list of numbers
 };
 
 /// As many numbers as their kind says.
@@ -88,9 +89,15 @@ struct NumbersRef {
   double* first;
 };
 
+/// Any count of numbers that each stand for themselves.
+struct NumberListRef {
+  QVector<double>* numbers;
+};
+
 /// The value that a visitor looks at or fills in; its type is the kind of the field. A vector is a list of coordinate
 /// pairs.
-using ValueRef = std::variant<double*, int*, bool*, QString*, QStringList*, NumbersRef, QVector<double>*>;
+using ValueRef =
+    std::variant<double*, int*, bool*, QString*, QStringList*, NumbersRef, QVector<double>*, NumberListRef>;
 
 /// A visitor of the fields of stored things.
 ///
@@ -179,6 +186,14 @@ public:
     rules.range = range;
     rules.minPoints = minPoints;
     value(field, &coordinates, rules);
+  }
+
+  /// A list of numbers. It must be there.
+  void numberList(Field const& field, QVector<double>& numbers, Counts const& counts, Range const& range) {
+    ValueRules rules;
+    rules.range = range;
+    rules.counts = counts;
+    value(field, NumberListRef{&numbers}, rules);
   }
 
   template <class Value>

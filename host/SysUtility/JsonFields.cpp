@@ -134,8 +134,8 @@ std::optional<QJsonValue> JsonReader::take(Field const& field, QJsonValue::Type 
 namespace {
 
 QJsonValue::Type typeOf(ValueRef const& value) {
-  constexpr QJsonValue::Type types[] = {QJsonValue::Double, QJsonValue::Double, QJsonValue::Bool, QJsonValue::String,
-                                        QJsonValue::Array,  QJsonValue::Array,  QJsonValue::Array};
+  constexpr QJsonValue::Type types[] = {QJsonValue::Double, QJsonValue::Double, QJsonValue::Bool,  QJsonValue::String,
+                                        QJsonValue::Array,  QJsonValue::Array,  QJsonValue::Array, QJsonValue::Array};
   static_assert(std::size(types) == std::variant_size_v<ValueRef>);
   return types[value.index()];
 }
@@ -199,6 +199,12 @@ void JsonReader::read(Field const& field, QJsonValue const& json, QVector<double
   QJsonArray const list = json.toArray();
   if (!isPairs(field, list.size(), rules)) return;
   if (auto const read = takeNumbers(field, list, rules.range)) *values = *read;
+}
+
+void JsonReader::read(Field const& field, QJsonValue const& json, NumberListRef values, ValueRules const& rules) {
+  QJsonArray const list = json.toArray();
+  if (!isAllowed(field, list.size(), rules.counts)) return;
+  if (auto const read = takeNumbers(field, list, rules.range)) *values.numbers = *read;
 }
 
 void JsonReader::choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) {
@@ -280,6 +286,12 @@ void JsonWriter::write(Field const& field, NumbersRef values, ValueRules const& 
 
 void JsonWriter::write(Field const& field, QVector<double> const* values, ValueRules const& rules) {
   if (isPairs(field, values->size(), rules)) putNumbers(field, values->constData(), values->size(), rules.range);
+}
+
+void JsonWriter::write(Field const& field, NumberListRef values, ValueRules const& rules) {
+  QVector<double> const& numbers = *values.numbers;
+  if (isAllowed(field, numbers.size(), rules.counts))
+    putNumbers(field, numbers.constData(), numbers.size(), rules.range);
 }
 
 void JsonWriter::putNumbers(Field const& field, double const* values, int count, Range const& range) {

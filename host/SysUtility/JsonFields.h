@@ -75,6 +75,7 @@ private:
   void read(Field const& field, QJsonValue const& json, QStringList* values, ValueRules const& rules);
   void read(Field const& field, QJsonValue const& json, NumbersRef values, ValueRules const& rules);
   void read(Field const& field, QJsonValue const& json, QVector<double>* values, ValueRules const& rules);
+  void read(Field const& field, QJsonValue const& json, NumberListRef values, ValueRules const& rules);
   std::optional<QVector<double>> takeNumbers(Field const& field, QJsonArray const& list, Range const& range);
   void describeChild(QJsonObject const& source, QString const& path, Describe const& describe);
   QStringList unknownFields() const;
@@ -113,6 +114,7 @@ private:
   void write(Field const& field, QStringList const* values, ValueRules const& rules);
   void write(Field const& field, NumbersRef values, ValueRules const& rules);
   void write(Field const& field, QVector<double> const* values, ValueRules const& rules);
+  void write(Field const& field, NumberListRef values, ValueRules const& rules);
   void putNumbers(Field const& field, double const* values, int count, Range const& range);
   QJsonObject describeChild(QString const& path, Describe const& describe);
 

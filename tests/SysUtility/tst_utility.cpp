@@ -36,6 +36,7 @@ struct Sheet {
   QStringList tags;
   double corner[2] = {0, 0};
   QVector<double> outline{0, 0};
+  QVector<double> steps{1};
   QVector<Sheet> inner;
 
   void list(Fields& fields) {
@@ -48,6 +49,7 @@ struct Sheet {
     fields.texts(named("tags"), tags);
     fields.object(named("at"), [&](Fields& at) { at.numbers(named("corner"), corner, NumbersKind::Point, {-10, 10}); });
     fields.coordinates(named("outline"), outline, 1, {-1e15, 1e15});
+    fields.numberList(named("steps"), steps, {1, 3}, {0, 9});
     fields.list(named("inner"), inner, 2, [](Fields& own, Sheet& sheet, int) { sheet.list(own); });
   }
 };
@@ -112,6 +114,7 @@ private slots:
     sheet.tags = QStringList{QStringLiteral("a"), QString()};
     sheet.corner[1] = -10;
     sheet.outline = {1e15, -1e-15};
+    sheet.steps = {0.1, 9, 0};
     sheet.inner = {Sheet(), Sheet()};
     sheet.inner[1].width = 3;
     QByteArray const text = QJsonDocument(written(sheet)).toJson();
@@ -128,7 +131,7 @@ private slots:
   }
 
   void whatHasItsDefaultIsNotWritten() {
-    QCOMPARE(written(Sheet()).keys(), (QStringList{"at", "outline", "title", "width"}));
+    QCOMPARE(written(Sheet()).keys(), (QStringList{"at", "outline", "steps", "title", "width"}));
     Sheet read;
     read.copies = 4;
     JsonReader reader(written(Sheet()));
@@ -157,9 +160,11 @@ private slots:
     row("a point too far away", R"("outline": [0, -1e16])", "outline[1]: -1e+16 is not between -1e+15 and 1e+15");
     row("blanks for a name", R"("title": " ")", "title: is empty; enter a name");
     row("text as coordinate", R"("outline": [1, "x"])", "outline[1]: expected a number, found a text");
+    row("no number", R"("steps": [])", "steps: holds 0 entries; at least 1");
+    row("too large a number of a list", R"("steps": [0, 9.5])", "steps[1]: 9.5 is not between 0 and 9");
     row("too long a list", R"("inner": [{}, {}, {}])", "inner: holds 3 entries; at most 2");
     row("number in a list", R"("inner": [7])", "inner[0]: expected an object, found a number");
-    row("deep inside", R"("inner": [{"width": 1, "title": "-", "at": {"corner": [0, 0]}, "outline": [0, 0]}, {"width": false}])", "inner[1].width: expected a number, found true or false");
+    row("deep inside", R"("inner": [{"width": 1, "title": "-", "at": {"corner": [0, 0]}, "outline": [0, 0], "steps": [1]}, {"width": false}])", "inner[1].width: expected a number, found true or false");
     // clang-format on
   }
   void aProblemIsNamedWithItsPath() {
