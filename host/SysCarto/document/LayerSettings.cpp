@@ -1,7 +1,6 @@
 #include "LayerSettings.h"
 
 #include "host/SysCarto/layers/DataSource.h"
-#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysUtility/Fields.h"
 
 #include <QDir>
@@ -16,6 +15,11 @@ using SysUtility::TextKind;
 namespace {
 
 enum Kind { FeatureKind };
+constexpr Choice blends[] = {
+    {LayerBlend::Normal, "normal", QT_TRANSLATE_NOOP("Fields", "Cover")},
+    {LayerBlend::Multiply, "multiply", QT_TRANSLATE_NOOP("Fields", "Darken")},
+    {LayerBlend::Screen, "screen", QT_TRANSLATE_NOOP("Fields", "Lighten")},
+};
 constexpr Choice kinds[] = {{FeatureKind, "feature", QT_TRANSLATE_NOOP("Fields", "Features")}};
 
 struct Texts {
@@ -68,13 +72,21 @@ void open(VectorLayer& layer, SourceSettings const& source, Map const& map, Docu
 LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const& context) {
   auto const scales = LayerHost::scales(layer);
   auto const labels = AnnotationSettings::of(*layer.GetAnnotationProperties());
-  LayerSettings settings{layer.source(), layer.renderer().settings(), layer.GetName(), layer.IsVisible(), scales.min,
-                         scales.max,     layer.labelSettings(),       labels};
+  LayerSettings settings{layer.source(),
+                         layer.renderer().settings(),
+                         layer.GetName(),
+                         layer.IsVisible(),
+                         scales.min,
+                         scales.max,
+                         LayerHost::effects(layer),
+                         layer.labelSettings(),
+                         labels};
   settings.source.file = storedPath(settings.source.file, context);
   return settings;
 }
 
 void LayerSettings::list(Fields& fields) {
+  LayerSettings const usual;
   fields.object(
       {"source", QT_TRANSLATE_NOOP("Fields", "Source"), QT_TRANSLATE_NOOP("Fields", "Where the data come from.")},
       [this](Fields& own) { listSource(own, source); });
@@ -89,6 +101,15 @@ void LayerSettings::list(Fields& fields) {
   listScaleRange(fields, minScale, maxScale);
   if (minScale > 0 && maxScale > 0 && minScale > maxScale)
     fields.fail("minScale", Texts::tr("is larger than maxScale"));
+  fields.number(
+      {"opacity", QT_TRANSLATE_NOOP("Fields", "Opacity"),
+       QT_TRANSLATE_NOOP("Fields", "How much of the layer is seen; features of it do not show through each other.")},
+      effects.opacityPercent, {0, 100, SysUtility::Unit::Percent}, usual.effects.opacityPercent);
+  fields.choice<LayerBlend>({"blend", QT_TRANSLATE_NOOP("Fields", "Blending"),
+                             QT_TRANSLATE_NOOP("Fields",
+                                               "Whether the layer covers the layers below, or darkens or lightens "
+                                               "them.")},
+                            effects.blend, blends, usual.effects.blend);
   fields.optionalObject({"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
                          QT_TRANSLATE_NOOP("Fields", "Texts at the features; without them, none are written.")},
                         labels.isUsed(), [this](Fields& own) {
@@ -102,6 +123,7 @@ _ptr_t<Layer> LayerSettings::make(Map const& map, DocumentContext& context) cons
   layer->SetName(name);
   layer->SetVisible(visible);
   layer->SetScaleRange(minScale, maxScale);
+  LayerHost::setEffects(*layer, effects);
   layer->setLabelSettings(labels);
   annotation.applyTo(*layer->GetAnnotationProperties());
   SourceSettings opened = source;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysCarto/document/DocumentContext.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 
 #include <SysCarto/Layer.h>
@@ -14,6 +15,7 @@ struct LayerSettings {
   QString name;
   bool visible = true;
   double minScale = 0, maxScale = 0;  ///< scale denominators; 0 is no limit
+  LayerEffects effects;
   LabelSettings labels;
   AnnotationSettings annotation;
 

@@ -8,6 +8,7 @@ struct Layer::Private {
   QString name;
   bool visible = true;
   ScaleRange scales;
+  LayerEffects effects;
   SysUtility::ChangeMark change;
 };
 
@@ -33,6 +34,11 @@ void Layer::SetScaleRange(double minDenominator, double maxDenominator) {
 }
 
 ScaleRange LayerHost::scales(Layer const& layer) { return layer.d->scales; }
+LayerEffects LayerHost::effects(Layer const& layer) { return layer.d->effects; }
+void LayerHost::setEffects(Layer& layer, LayerEffects const& effects) {
+  layer.d->change.set(layer.d->effects.opacityPercent, effects.opacityPercent);
+  layer.d->change.set(layer.d->effects.blend, effects.blend);
+}
 quint64 LayerHost::lastChange(Layer const& layer) { return layer.d->change.time(); }
 
 }  // namespace SysCarto

@@ -5,6 +5,7 @@
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/elements/PictureElement.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/PageHost.h"
 
 using namespace SysCarto;
@@ -63,6 +64,32 @@ _ptr_t<MapFrameElement> framedMap() {
   return frame;
 }
 
+// Two rectangles of one colour that cover each other in the middle of the map.
+class Patches final : public Layer {
+public:
+  explicit Patches(QColor const& color) : symbol_(fill(color, SysDisplay::SimpleFillStyle::Solid, nullptr)) {}
+  int GetType() const override { return LayerType::Feature; }
+  void Draw(QPainter& painter, Transformation const& transformation, int,
+            _ptr_t<SysUI::TrackerCancel> const&) override {
+    symbol_->Draw(painter, transformation, make<Envelope>(200.3, 0, 1300, 1500));
+    symbol_->Draw(painter, transformation, make<Envelope>(700, 0, 1800.7, 1500));
+  }
+
+private:
+  _ptr_t<SysDisplay::FillSymbol> const symbol_;
+};
+
+_ptr_t<MapFrameElement> mapOfPatches(LayerEffects const& above) {
+  auto const frame = framed(0);
+  ElementContainer page;
+  page.AddElement(frame);
+  auto const ground = make<Patches>(QColor(255, 204, 51)), covering = make<Patches>(QColor(0, 102, 204));
+  LayerHost::setEffects(*covering, above);
+  frame->GetMap()->AddLayer(ground);
+  frame->GetMap()->AddLayer(covering);
+  return frame;
+}
+
 _ptr_t<TextElement> turnedText() {
   auto const text = make<TextElement>();
   text->setText("Across the\ntile's edges");
@@ -107,6 +134,9 @@ private slots:
     group->AddElement(madeIn<RectangleElement>(0.5, 0.5, 6.9, 2.47));
     group->AddElement(turnedText());
     row("group", sceneOf({group}));
+    row("half a layer", sceneOf({mapOfPatches({37.5, LayerBlend::Normal})}));
+    row("a layer that darkens", sceneOf({mapOfPatches({100, LayerBlend::Multiply})}));
+    row("a layer that lightens by half", sceneOf({mapOfPatches({50, LayerBlend::Screen})}));
     row("picture that is made smaller", sceneOf({picture("large.png")}));
     row("picture that is made larger", sceneOf({picture("small.jpg")}));
     row("SVG picture", sceneOf({picture("drawing.svg")}));
@@ -117,6 +147,26 @@ private slots:
     QImage const whole = sheet.drawn(scene);
     QVERIFY(ink(whole).pixels > 2000);
     for (int side : {512, 64}) QCOMPARE(difference(whole, sheet.drawnInTiles(scene, side)).pixels, 0);
+  }
+
+  void aLayerLiesOverOthersAsAWhole_data() {
+    Rows<LayerEffects, QColor> row;
+    row("covering", LayerEffects{}, QColor(0, 102, 204));
+    row("half", LayerEffects{50, LayerBlend::Normal}, QColor(127, 153, 128));
+    row("darkening", LayerEffects{100, LayerBlend::Multiply}, QColor(0, 82, 41));
+    row("lightening", LayerEffects{100, LayerBlend::Screen}, QColor(255, 224, 214));
+    row("lightening by half", LayerEffects{50, LayerBlend::Screen}, QColor(255, 214, 132));
+    row("not at all", LayerEffects{0, LayerBlend::Multiply}, QColor(255, 204, 51));
+  }
+  void aLayerLiesOverOthersAsAWhole() {
+    auto const [effects, expected] = fetched<LayerEffects, QColor>();
+    QImage const whole = sheet.drawn(sceneOf({mapOfPatches(effects)}));
+    for (int x : {200, 360, 520}) {  // one rectangle, both, the other
+      QColor const found = whole.pixelColor(x, 300);
+      QVERIFY2(std::abs(found.red() - expected.red()) <= 1 && std::abs(found.green() - expected.green()) <= 1 &&
+                   std::abs(found.blue() - expected.blue()) <= 1,
+               qPrintable(QString("%1 at %2").arg(found.name()).arg(x)));
+    }
   }
 
   void cellsOfAPictureDoNotShow() {
