@@ -2,7 +2,9 @@
 
 #include "Test.h"
 
+#include "host/SysDisplay/SymbolFields.h"
 #include "host/SysDisplay/TextSymbol.h"
+#include "host/SysUtility/JsonFields.h"
 
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
@@ -36,4 +38,13 @@ inline SysDisplay::TextFormat letters(double size, double haloSize = 0) {
   format.haloSize = haloSize;
   format.haloColor = Qt::yellow;
   return format;
+}
+
+/// A symbol as a document holds it, with ' for ".
+inline _ptr_t<SysDisplay::Symbol> storedSymbol(QByteArray const& text) {
+  _ptr_t<SysDisplay::Symbol> symbol;
+  SysUtility::JsonReader reader(json("{'symbol':" + text + "}"));
+  SysDisplay::listSymbol(reader, {"symbol", "", ""}, symbol);
+  if (!reader.ok()) qFatal("%s", qPrintable(reader.error()));
+  return symbol;
 }

@@ -2573,6 +2573,182 @@
         <source>The version of the format; a newer one is refused.</source>
         <translation>Die Version des Formats; eine neuere wird abgelehnt.</translation>
     </message>
+    <message>
+        <source>Cover</source>
+        <translation>Überdecken</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>Abdunkeln</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>Aufhellen</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>How much of the layer is seen; features of it do not show through each other.</source>
+        <translation>Wie viel vom Layer zu sehen ist; seine Objekte scheinen nicht durcheinander durch.</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Überblendung</translation>
+    </message>
+    <message>
+        <source>Whether the layer covers the layers below, or darkens or lightens them.</source>
+        <translation>Ob der Layer die Layer darunter überdeckt, abdunkelt oder aufhellt.</translation>
+    </message>
+    <message>
+        <source>Line of dashes</source>
+        <translation>Strichlinie</translation>
+    </message>
+    <message>
+        <source>Line of markers</source>
+        <translation>Linie aus Punktsymbolen</translation>
+    </message>
+    <message>
+        <source>Layered line</source>
+        <translation>Mehrschichtige Linie</translation>
+    </message>
+    <message>
+        <source>Fill of pictures</source>
+        <translation>Füllung aus Bildern</translation>
+    </message>
+    <message>
+        <source>Fill of markers</source>
+        <translation>Füllung aus Punktsymbolen</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Farbverlauf</translation>
+    </message>
+    <message>
+        <source>Layered fill</source>
+        <translation>Mehrschichtige Füllung</translation>
+    </message>
+    <message>
+        <source>Layered marker</source>
+        <translation>Mehrschichtiges Punktsymbol</translation>
+    </message>
+    <message>
+        <source>Straight</source>
+        <translation>Gerade</translation>
+    </message>
+    <message>
+        <source>Lengths of dashes</source>
+        <translation>Strichlängen</translation>
+    </message>
+    <message>
+        <source>The lengths of dashes and gaps in turn, without their ends; an odd count is run through twice.</source>
+        <translation>Die Längen von Strichen und Lücken im Wechsel, ohne ihre Enden; eine ungerade Anzahl wird zweimal durchlaufen.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>How far into the dashes and gaps the line begins.</source>
+        <translation>Wie weit im Wechsel von Strichen und Lücken die Linie beginnt.</translation>
+    </message>
+    <message>
+        <source>The marker that is repeated.</source>
+        <translation>Das Punktsymbol, das sich wiederholt.</translation>
+    </message>
+    <message>
+        <source>How far it is from one marker to the next, a pixel at least.</source>
+        <translation>Wie weit es von einem Punktsymbol zum nächsten ist, mindestens ein Pixel.</translation>
+    </message>
+    <message>
+        <source>First marker</source>
+        <translation>Erstes Punktsymbol</translation>
+    </message>
+    <message>
+        <source>How far it is from the beginning of the line to its first marker.</source>
+        <translation>Wie weit es vom Anfang der Linie zu ihrem ersten Punktsymbol ist.</translation>
+    </message>
+    <message>
+        <source>Turned</source>
+        <translation>Gedreht</translation>
+    </message>
+    <message>
+        <source>Whether what is the right of a marker points along the line.</source>
+        <translation>Ob die rechte Seite eines Punktsymbols in Richtung der Linie zeigt.</translation>
+    </message>
+    <message>
+        <source>The picture as SVG, which refers to nothing outside itself; its view box is a tile.</source>
+        <translation>Das Bild als SVG, das auf nichts außerhalb seiner selbst verweist; seine viewBox ist eine Kachel.</translation>
+    </message>
+    <message>
+        <source>The width of a tile; its height follows from the picture.</source>
+        <translation>Die Breite einer Kachel; ihre Höhe ergibt sich aus dem Bild.</translation>
+    </message>
+    <message>
+        <source>How far tiles and pictures are turned counterclockwise.</source>
+        <translation>Wie weit Kacheln und Bilder gegen den Uhrzeigersinn gedreht sind.</translation>
+    </message>
+    <message>
+        <source>Column width</source>
+        <translation>Spaltenbreite</translation>
+    </message>
+    <message>
+        <source>How far it is from one marker of a row to the next.</source>
+        <translation>Wie weit es von einem Punktsymbol einer Reihe zum nächsten ist.</translation>
+    </message>
+    <message>
+        <source>Row height</source>
+        <translation>Reihenhöhe</translation>
+    </message>
+    <message>
+        <source>How far it is from one row to the next.</source>
+        <translation>Wie weit es von einer Reihe zur nächsten ist.</translation>
+    </message>
+    <message>
+        <source>Staggered</source>
+        <translation>Versetzt</translation>
+    </message>
+    <message>
+        <source>Whether every second row is moved by half a column.</source>
+        <translation>Ob jede zweite Reihe um eine halbe Spalte verschoben ist.</translation>
+    </message>
+    <message>
+        <source>How far the rows are turned counterclockwise; the markers stay upright.</source>
+        <translation>Wie weit die Reihen gegen den Uhrzeigersinn gedreht sind; die Punktsymbole bleiben aufrecht.</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Whether the colours run across the area&apos;s rectangle, or from its middle outwards.</source>
+        <translation>Ob die Farben quer durch das Rechteck der Fläche verlaufen oder von seiner Mitte nach außen.</translation>
+    </message>
+    <message>
+        <source>Where a straight gradient runs to, counterclockwise from the right; −90 is down.</source>
+        <translation>Wohin ein gerader Verlauf führt, gegen den Uhrzeigersinn von rechts; −90 ist nach unten.</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>The colours of the gradient, from its beginning to its end.</source>
+        <translation>Die Farben des Verlaufs, von seinem Anfang bis zu seinem Ende.</translation>
+    </message>
+    <message>
+        <source>Where the colour stands between the beginning and the end, not before the last one.</source>
+        <translation>Wo die Farbe zwischen Anfang und Ende steht, nicht vor der letzten.</translation>
+    </message>
+    <message>
+        <source>The colour at this place.</source>
+        <translation>Die Farbe an dieser Stelle.</translation>
+    </message>
+    <message>
+        <source>Symbols that are drawn one over the other, the first one at the bottom.</source>
+        <translation>Symbole, die übereinander gezeichnet werden, das erste zuunterst.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3459,7 +3635,14 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <name>SvgMarkerSymbol</name>
     <message>
         <source>the SVG can&apos;t be drawn: it has no size or no content</source>
-        <translation>das SVG kann nicht gezeichnet werden: es hat keine Größe oder keinen Inhalt</translation>
+        <translation type="vanished">das SVG kann nicht gezeichnet werden: es hat keine Größe oder keinen Inhalt</translation>
+    </message>
+</context>
+<context>
+    <name>SvgPicture</name>
+    <message>
+        <source>the SVG can&apos;t be drawn: it has no size or no content</source>
+        <translation>das SVG lässt sich nicht zeichnen: Es hat keine Größe oder keinen Inhalt</translation>
     </message>
 </context>
 <context>
@@ -3494,6 +3677,14 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>“%1” is not a colour like #rrggbb or #aarrggbb</source>
         <translation>„%1“ ist keine Farbe wie #rrggbb oder #aarrggbb</translation>
+    </message>
+    <message>
+        <source>is smaller than that of the colour before; sort them</source>
+        <translation>ist kleiner als die der Farbe davor; ordnen Sie sie</translation>
+    </message>
+    <message>
+        <source>layers lie within layers more than %1 deep; put them into one list</source>
+        <translation>Schichten liegen mehr als %1 tief in Schichten; fassen Sie sie in einer Liste zusammen</translation>
     </message>
 </context>
 <context>

@@ -2573,6 +2573,182 @@
         <source>The version of the format; a newer one is refused.</source>
         <translation>格式的版本；更新的版本会被拒绝。</translation>
     </message>
+    <message>
+        <source>Cover</source>
+        <translation>覆盖</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>变暗</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>变亮</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>How much of the layer is seen; features of it do not show through each other.</source>
+        <translation>图层的可见程度；图层内的要素不会彼此透出。</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>混合</translation>
+    </message>
+    <message>
+        <source>Whether the layer covers the layers below, or darkens or lightens them.</source>
+        <translation>图层是覆盖下方的图层，还是使其变暗或变亮。</translation>
+    </message>
+    <message>
+        <source>Line of dashes</source>
+        <translation>虚线</translation>
+    </message>
+    <message>
+        <source>Line of markers</source>
+        <translation>点标记线</translation>
+    </message>
+    <message>
+        <source>Layered line</source>
+        <translation>分层线</translation>
+    </message>
+    <message>
+        <source>Fill of pictures</source>
+        <translation>图片填充</translation>
+    </message>
+    <message>
+        <source>Fill of markers</source>
+        <translation>点标记填充</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>渐变</translation>
+    </message>
+    <message>
+        <source>Layered fill</source>
+        <translation>分层填充</translation>
+    </message>
+    <message>
+        <source>Layered marker</source>
+        <translation>分层点标记</translation>
+    </message>
+    <message>
+        <source>Straight</source>
+        <translation>直线</translation>
+    </message>
+    <message>
+        <source>Lengths of dashes</source>
+        <translation>划线长度</translation>
+    </message>
+    <message>
+        <source>The lengths of dashes and gaps in turn, without their ends; an odd count is run through twice.</source>
+        <translation>划线与间隔交替的长度，不含端头；个数为奇数时循环两遍。</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>起点</translation>
+    </message>
+    <message>
+        <source>How far into the dashes and gaps the line begins.</source>
+        <translation>线从划线与间隔序列的何处开始。</translation>
+    </message>
+    <message>
+        <source>The marker that is repeated.</source>
+        <translation>重复的点标记。</translation>
+    </message>
+    <message>
+        <source>How far it is from one marker to the next, a pixel at least.</source>
+        <translation>相邻点标记之间的距离，至少一个像素。</translation>
+    </message>
+    <message>
+        <source>First marker</source>
+        <translation>第一个点标记</translation>
+    </message>
+    <message>
+        <source>How far it is from the beginning of the line to its first marker.</source>
+        <translation>从线的起点到第一个点标记的距离。</translation>
+    </message>
+    <message>
+        <source>Turned</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>Whether what is the right of a marker points along the line.</source>
+        <translation>点标记的右侧是否指向线的方向。</translation>
+    </message>
+    <message>
+        <source>The picture as SVG, which refers to nothing outside itself; its view box is a tile.</source>
+        <translation>SVG 图片，不引用自身以外的内容；其视图框为一块图块。</translation>
+    </message>
+    <message>
+        <source>The width of a tile; its height follows from the picture.</source>
+        <translation>图块的宽度；高度由图片决定。</translation>
+    </message>
+    <message>
+        <source>How far tiles and pictures are turned counterclockwise.</source>
+        <translation>图块和图片逆时针旋转的角度。</translation>
+    </message>
+    <message>
+        <source>Column width</source>
+        <translation>列宽</translation>
+    </message>
+    <message>
+        <source>How far it is from one marker of a row to the next.</source>
+        <translation>同一行中相邻点标记之间的距离。</translation>
+    </message>
+    <message>
+        <source>Row height</source>
+        <translation>行高</translation>
+    </message>
+    <message>
+        <source>How far it is from one row to the next.</source>
+        <translation>相邻两行之间的距离。</translation>
+    </message>
+    <message>
+        <source>Staggered</source>
+        <translation>错开</translation>
+    </message>
+    <message>
+        <source>Whether every second row is moved by half a column.</source>
+        <translation>是否每隔一行错开半列。</translation>
+    </message>
+    <message>
+        <source>How far the rows are turned counterclockwise; the markers stay upright.</source>
+        <translation>各行逆时针旋转的角度；点标记保持直立。</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>形状</translation>
+    </message>
+    <message>
+        <source>Whether the colours run across the area&apos;s rectangle, or from its middle outwards.</source>
+        <translation>颜色是横穿区域的外接矩形，还是从其中心向外变化。</translation>
+    </message>
+    <message>
+        <source>Where a straight gradient runs to, counterclockwise from the right; −90 is down.</source>
+        <translation>直线渐变的走向，从右侧起逆时针计；−90 为向下。</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>The colours of the gradient, from its beginning to its end.</source>
+        <translation>渐变从起点到终点的颜色。</translation>
+    </message>
+    <message>
+        <source>Where the colour stands between the beginning and the end, not before the last one.</source>
+        <translation>颜色在起点与终点之间的位置，不得在前一颜色之前。</translation>
+    </message>
+    <message>
+        <source>The colour at this place.</source>
+        <translation>此处的颜色。</translation>
+    </message>
+    <message>
+        <source>Symbols that are drawn one over the other, the first one at the bottom.</source>
+        <translation>自下而上依次叠绘的符号，第一个在最下面。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3459,7 +3635,14 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <name>SvgMarkerSymbol</name>
     <message>
         <source>the SVG can&apos;t be drawn: it has no size or no content</source>
-        <translation>无法绘制 SVG：它没有尺寸或没有内容</translation>
+        <translation type="vanished">无法绘制 SVG：它没有尺寸或没有内容</translation>
+    </message>
+</context>
+<context>
+    <name>SvgPicture</name>
+    <message>
+        <source>the SVG can&apos;t be drawn: it has no size or no content</source>
+        <translation>无法绘制该 SVG：它没有尺寸或没有内容</translation>
     </message>
 </context>
 <context>
@@ -3494,6 +3677,14 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>“%1” is not a colour like #rrggbb or #aarrggbb</source>
         <translation>“%1”不是 #rrggbb 或 #aarrggbb 形式的颜色</translation>
+    </message>
+    <message>
+        <source>is smaller than that of the colour before; sort them</source>
+        <translation>小于前一颜色的位置；请按顺序排列</translation>
+    </message>
+    <message>
+        <source>layers lie within layers more than %1 deep; put them into one list</source>
+        <translation>图层嵌套超过 %1 层；请放入一个列表</translation>
     </message>
 </context>
 <context>

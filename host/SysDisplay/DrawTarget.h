@@ -32,6 +32,15 @@ public:
   /// Fills the runs as rings, by and by.
   void fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule) { fills_.add(rings, color, rule); }
 
+  /// The same with pixels in place of a colour.
+  void fill(PointRuns const& rings, std::shared_ptr<Texture const> const& texture, Qt::FillRule rule) {
+    fills_.add(rings, texture, rule);
+  }
+  QImage::Format textureFormat() const { return fills_.textureFormat(); }
+
+  /// When it returns, all fills so far are drawn.
+  void finish() { fills_.finish(); }
+
   /// For what is no fill; all fills so far are drawn before. Pen, brush and antialiasing may be set, and what else of
   /// its state is changed is to be put back.
   QPainter& painter() {

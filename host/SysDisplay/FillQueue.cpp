@@ -113,15 +113,29 @@ private:
     painter_->setRenderHint(QPainter::Antialiasing);
     painter_->setPen(Qt::NoPen);
     color_ = QColor();
+    texture_ = nullptr;
     QPointF const centre = QRectF(painter_->viewport()).center() -
                            QPointF(painter_->combinedTransform().dx(), painter_->combinedTransform().dy());
     QPointF const middle(std::round(centre.x()), std::round(centre.y()));
     box_ = QRectF(middle - QPointF(halfBoxPx, halfBoxPx), middle + QPointF(halfBoxPx, halfBoxPx));
   }
 
-  void paint(PointRuns const& rings, Fill const& fill) {
-    if (color_ != fill.color) painter_->setBrush(exchanges_ ? withRedAndBlueExchanged(fill.color) : fill.color);
+  void setBrush(Fill const& fill) {
+    if (fill.texture && fill.texture != texture_) {
+      QImage const& given = fill.texture->image;
+      QImage const exchanged(given.constBits(), given.width(), given.height(), given.bytesPerLine(),
+                             fasterFormat(given.format()));
+      painter_->setBrush(QBrush(exchanges_ ? exchanged : given));
+      painter_->setBrushOrigin(fill.texture->place);
+    } else if (!fill.texture && (texture_ || color_ != fill.color)) {
+      painter_->setBrush(exchanges_ ? withRedAndBlueExchanged(fill.color) : fill.color);
+    }
+    texture_ = fill.texture;
     color_ = fill.color;
+  }
+
+  void paint(PointRuns const& rings, Fill const& fill) {
+    setBrush(fill);
     bool const fits = box_.contains(fill.bounds);
     bool const reachesBeyond = fill.bounds.top() < top_ || fill.bounds.bottom() > bottom_;
     bool const isLong = rings.size(fill.firstRun, fill.lastRun) >= pointsWorthDropping;
@@ -157,6 +171,7 @@ private:
   QRectF box_;
   bool const exchanges_;
   QColor color_;  // of the last fill; invalid at first
+  std::shared_ptr<Texture const> texture_;
   PointRuns part_;
   QPainterPath path_;
 };
@@ -172,10 +187,28 @@ FillQueue::~FillQueue() {
 }
 
 void FillQueue::add(PointRuns const& rings, QColor const& color, Qt::FillRule rule) {
-  if (rings.isEmpty() || color.alpha() == 0) return;
-  int const before = open_.rings.count();
+  if (color.alpha() > 0) add(rings, {0, 0, QRectF(), color, nullptr, rule});
+}
+
+void FillQueue::add(PointRuns const& rings, std::shared_ptr<Texture const> const& texture, Qt::FillRule rule) {
+  add(rings, {0, 0, QRectF(), QColor(), texture, rule});
+}
+
+QImage::Format FillQueue::textureFormat() const {
+  auto const* device = painter_.device();
+  bool const isImage = device && device->devType() == QInternal::Image;
+  bool const isExchanged =
+      isImage && static_cast<QImage const*>(device)->format() == QImage::Format_RGBA8888_Premultiplied;
+  return isExchanged ? QImage::Format_RGBA8888_Premultiplied : QImage::Format_ARGB32_Premultiplied;
+}
+
+void FillQueue::add(PointRuns const& rings, Fill fill) {
+  if (rings.isEmpty()) return;
+  fill.firstRun = open_.rings.count();
   open_.rings.append(rings);
-  open_.fills.push_back({before, open_.rings.count() - 1, rings.bounds(), color, rule});
+  fill.lastRun = open_.rings.count() - 1;
+  fill.bounds = rings.bounds();
+  open_.fills.push_back(std::move(fill));
   if (open_.rings.points.size() >= batchPoints) publish();
 }
 

@@ -3,6 +3,8 @@
 #include "host/SysDisplay/PointRuns.h"
 
 #include <QColor>
+#include <QImage>
+#include <QPoint>
 
 #include <condition_variable>
 #include <memory>
@@ -12,6 +14,13 @@
 class QPainter;
 
 namespace SysDisplay {
+
+/// Pixels to fill with, in place of one colour: those of `image`, whose upper left corner lies at `place` in the
+/// painter's coordinates. It is to cover all that is filled with it.
+struct Texture {
+  QImage image;  ///< in the queue's `textureFormat`
+  QPoint place;
+};
 
 /// Fills on their way to a painter, in the order in which they are added.
 ///
@@ -33,6 +42,10 @@ public:
   /// from the device for QPainter is cut off.
   void add(PointRuns const& rings, QColor const& color, Qt::FillRule rule);
 
+  /// Fills with pixels. Those that the rings let through must not change until `finish`; others may.
+  void add(PointRuns const& rings, std::shared_ptr<Texture const> const& texture, Qt::FillRule rule);
+  QImage::Format textureFormat() const;
+
   /// When it returns, all that was added is drawn.
   void finish();
 
@@ -42,6 +55,7 @@ private:
     int firstRun, lastRun;  // of the batch's rings
     QRectF bounds;
     QColor color;
+    std::shared_ptr<Texture const> texture;  // in place of the colour
     Qt::FillRule rule;
   };
   struct Batch {
@@ -49,6 +63,7 @@ private:
     std::vector<Fill> fills;
   };
 
+  void add(PointRuns const& rings, Fill fill);
   void publish();
   void paintAll();
   void cutIntoBands();

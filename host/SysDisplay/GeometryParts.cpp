@@ -1,5 +1,7 @@
 #include "GeometryParts.h"
 
+#include "host/SysGeometry/Box.h"
+
 #include <SysGeometry/MultiPolyline.h>
 #include <SysGeometry/Polygon.h>
 #include <SysGeometry/Polyline.h>
@@ -65,6 +67,19 @@ std::optional<QPointF> placeOf(Geometry const* geometry) {
   auto const point = geometry->GetAnchorPoint();
   if (!point || !std::isfinite(point->GetX()) || !std::isfinite(point->GetY())) return std::nullopt;
   return QPointF(point->GetX(), point->GetY());
+}
+
+std::optional<QRectF> deviceBounds(DisplayTransformation const& transformation, Geometry const* geometry) {
+  Box covered;
+  QTransform const toDevice = transformation.ToDevice();
+  visitParts(geometry, [&](GeometryPart const& part) {
+    for (int i = 0; i < part.run.count; ++i) {
+      QPointF const point = toDevice.map(QPointF(part.run.xy[2 * i], part.run.xy[2 * i + 1]));
+      if (std::isfinite(point.x()) && std::isfinite(point.y())) covered.add(point.x(), point.y());
+    }
+  });
+  if (covered.isEmpty()) return std::nullopt;
+  return QRectF(QPointF(covered.xmin, covered.ymin), QPointF(covered.xmax, covered.ymax));
 }
 
 SysUtility::_ptr_t<Envelope> toWorld(DisplayTransformation const& transformation, std::optional<QRectF> const& device) {

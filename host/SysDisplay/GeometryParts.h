@@ -32,6 +32,9 @@ bool isArea(SysGeometry::Geometry const* geometry);
 /// The position of a point, the anchor point of another geometry; nothing where there is none.
 std::optional<QPointF> placeOf(SysGeometry::Geometry const* geometry);
 
+/// What the vertices of a geometry's lines and rings cover on the device; nothing where there are none.
+std::optional<QRectF> deviceBounds(DisplayTransformation const& transformation, SysGeometry::Geometry const* geometry);
+
 /// A device rectangle in world units; empty pointer for nothing.
 SysUtility::_ptr_t<SysGeometry::Envelope> toWorld(DisplayTransformation const& transformation,
                                                   std::optional<QRectF> const& device);

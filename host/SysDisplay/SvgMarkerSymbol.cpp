@@ -1,12 +1,8 @@
 #include "SvgMarkerSymbol.h"
 
-#include "host/SysDisplay/SvgCheck.h"
-
-#include <QCoreApplication>
 #include <QImage>
 #include <QMap>
 #include <QPainter>
-#include <QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
@@ -15,11 +11,6 @@
 namespace SysDisplay {
 
 using SysUtility::_ptr_t;
-
-struct SvgMarkerSymbol::Picture {
-  QByteArray svg;
-  QSvgRenderer renderer;
-};
 
 namespace {
 
@@ -31,9 +22,8 @@ constexpr int maxCells = 64;  // kept: 16 MB
 // picture is drawn into cells that hang on the marker, and a tile copies the cells that it sees pixel by pixel.
 class SvgDrawing final : public MarkerDrawing {
 public:
-  SvgDrawing(std::shared_ptr<void> keepsAlive, QSvgRenderer& renderer, double sizePx, double degrees)
-      : keepsAlive_(std::move(keepsAlive)), renderer_(renderer) {
-    QSizeF const box = renderer.viewBoxF().size();
+  SvgDrawing(std::shared_ptr<SvgPicture> picture, double sizePx, double degrees) : picture_(std::move(picture)) {
+    QSizeF const box = picture_->viewBox().size();
     double const scale = sizePx / std::max(box.width(), box.height());
     size_ = box * scale;
     rotation_.rotate(-degrees);
@@ -54,7 +44,7 @@ public:
     if (seen.isEmpty()) return;
     for (cell.row = cellOf(seen.top()); cell.row <= cellOf(seen.bottom()); ++cell.row)
       for (cell.column = cellOf(seen.left()); cell.column <= cellOf(seen.right()); ++cell.column)
-        target.painter().drawImage(place + origin(cell), image(cell));
+        target.painter().drawImage(place + area(cell).topLeft(), image(cell));
   }
 
 private:
@@ -67,7 +57,9 @@ private:
 
   // A marker of usual size lies within the one cell about its position.
   static int cellOf(int px) { return static_cast<int>(std::floor((px + cellPx / 2.0) / cellPx)); }
-  static QPoint origin(Cell const& cell) { return {cell.column * cellPx - cellPx / 2, cell.row * cellPx - cellPx / 2}; }
+  QRect area(Cell const& cell) const {
+    return QRect(cell.column * cellPx - cellPx / 2, cell.row * cellPx - cellPx / 2, cellPx, cellPx) & covered();
+  }
 
   // The pixels about the position that the marker may cover in any phase.
   QRect covered() const { return bounds_.toAlignedRect().adjusted(-1, -1, 2, 2); }
@@ -80,21 +72,21 @@ private:
   }
 
   QImage drawn(Cell const& cell) {
-    QImage image(cellPx, cellPx, QImage::Format_ARGB32_Premultiplied);
+    QRect const pixels = area(cell);
+    QImage image(pixels.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.translate(-origin(cell));
+    painter.translate(-pixels.topLeft());
     painter.setClipRect(covered());  // an SVG may draw beyond its view box
     painter.translate(cell.phaseX / double(phases), cell.phaseY / double(phases));
     painter.setTransform(rotation_, true);
-    renderer_.render(&painter, QRectF(-size_.width() / 2, -size_.height() / 2, size_.width(), size_.height()));
+    picture_->render(painter, QRectF(-size_.width() / 2, -size_.height() / 2, size_.width(), size_.height()));
     return image;
   }
 
-  std::shared_ptr<void> const keepsAlive_;
-  QSvgRenderer& renderer_;
+  std::shared_ptr<SvgPicture> const picture_;
   QSizeF size_;
   QTransform rotation_;
   QRectF bounds_;
@@ -112,27 +104,13 @@ _ptr_t<Symbol> SvgMarkerSymbol::Clone() const { return SysUtility::make<SvgMarke
 
 std::unique_ptr<MarkerDrawing> SvgMarkerSymbol::prepare(double pixelsPerPoint) const {
   if (!picture_ || GetSize() <= 0) return nullptr;
-  return std::make_unique<SvgDrawing>(picture_, picture_->renderer, GetSize() * pixelsPerPoint, GetAngle());
-}
-
-std::shared_ptr<SvgMarkerSymbol::Picture> SvgMarkerSymbol::pictureOf(QByteArray const& svg, QString& problem) {
-  problem = svgProblem(svg);
-  if (!problem.isEmpty()) return nullptr;
-  auto picture = std::make_shared<Picture>();
-  picture->svg = svg;
-  if (picture->renderer.load(svg) && !picture->renderer.viewBoxF().isEmpty()) return picture;
-  problem = QCoreApplication::translate("SvgMarkerSymbol", "the SVG can't be drawn: it has no size or no content");
-  return nullptr;
+  return std::make_unique<SvgDrawing>(picture_, GetSize() * pixelsPerPoint, GetAngle());
 }
 
 QString SvgMarkerSymbol::setSvg(QByteArray const& svg) {
   QString problem;
-  if (auto const picture = pictureOf(svg, problem)) picture_ = picture;
+  if (auto const picture = SvgPicture::of(svg, problem)) picture_ = picture;
   return problem;
-}
-
-QByteArray SvgMarkerSymbol::svgOf(std::shared_ptr<Picture> const& picture) {
-  return picture ? picture->svg : QByteArray();
 }
 
 }  // namespace SysDisplay

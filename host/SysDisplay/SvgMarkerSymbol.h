@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysDisplay/MarkerPainter.h"
+#include "host/SysDisplay/SvgPicture.h"
 
 #include <QByteArray>
 
@@ -18,22 +19,15 @@ public:
   SysUtility::_ptr_t<Symbol> Clone() const override;
   std::unique_ptr<MarkerDrawing> prepare(double pixelsPerPoint) const override;
 
-  /// An SVG that can be drawn. It never changes, so that symbols share it.
-  struct Picture;
-
-  /// Reads an SVG in UTF-8. Null, with the reason as a sentence, where it is refused.
-  static std::shared_ptr<Picture> pictureOf(QByteArray const& svg, QString& problem);
-  static QByteArray svgOf(std::shared_ptr<Picture> const& picture);
-
   /// Null, as in a new symbol, draws nothing.
-  std::shared_ptr<Picture> const& picture() const { return picture_; }
-  void setPicture(std::shared_ptr<Picture> const& picture) { picture_ = picture; }
+  std::shared_ptr<SvgPicture> const& picture() const { return picture_; }
+  void setPicture(std::shared_ptr<SvgPicture> const& picture) { picture_ = picture; }
 
   /// Takes an SVG in UTF-8. Answers why it was refused, as a sentence, and keeps the former one then; empty when taken.
   QString setSvg(QByteArray const& svg);
 
 private:
-  std::shared_ptr<Picture> picture_;
+  std::shared_ptr<SvgPicture> picture_;
 };
 
 }  // namespace SysDisplay

@@ -48,11 +48,19 @@ constexpr Kind kind(int number, char const* name, char const* caption) {
 
 // clang-format off
 constexpr Kind kinds[] = {
-    kind<SimpleLineSymbol, SimpleLineSettings>    (0, "simpleLine",   QT_TRANSLATE_NOOP("Fields", "Line")),
-    kind<SimpleFillSymbol, SimpleFillSettings>    (1, "simpleFill",   QT_TRANSLATE_NOOP("Fields", "Fill")),
-    kind<SimpleMarkerSymbol, SimpleMarkerSettings>(2, "simpleMarker", QT_TRANSLATE_NOOP("Fields", "Marker")),
-    kind<SvgMarkerSymbol, SvgMarkerSettings>      (3, "svgMarker",    QT_TRANSLATE_NOOP("Fields", "Picture marker")),
-    kind<TextSymbol, TextSettings>                (4, "text",         QT_TRANSLATE_NOOP("Fields", "Text")),
+    kind<SimpleLineSymbol, SimpleLineSettings>                      (0, "simpleLine",       QT_TRANSLATE_NOOP("Fields", "Line")),
+    kind<DashLineSymbol, DashLineSettings>                          (1, "dashLine",         QT_TRANSLATE_NOOP("Fields", "Line of dashes")),
+    kind<MarkerLineSymbol, MarkerLineSettings>                      (2, "markerLine",       QT_TRANSLATE_NOOP("Fields", "Line of markers")),
+    kind<LayeredLineSymbol, LayeredSettings<LayeredLineSymbol>>     (3, "layeredLine",      QT_TRANSLATE_NOOP("Fields", "Layered line")),
+    kind<SimpleFillSymbol, SimpleFillSettings>                      (4, "simpleFill",       QT_TRANSLATE_NOOP("Fields", "Fill")),
+    kind<PictureFillSymbol, PictureFillSettings>                    (5, "pictureFill",      QT_TRANSLATE_NOOP("Fields", "Fill of pictures")),
+    kind<PointPatternFillSymbol, PointPatternFillSettings>          (6, "pointPatternFill", QT_TRANSLATE_NOOP("Fields", "Fill of markers")),
+    kind<GradientFillSymbol, GradientFillSettings>                  (7, "gradientFill",     QT_TRANSLATE_NOOP("Fields", "Gradient")),
+    kind<LayeredFillSymbol, LayeredSettings<LayeredFillSymbol>>     (8, "layeredFill",      QT_TRANSLATE_NOOP("Fields", "Layered fill")),
+    kind<SimpleMarkerSymbol, SimpleMarkerSettings>                  (9, "simpleMarker",     QT_TRANSLATE_NOOP("Fields", "Marker")),
+    kind<SvgMarkerSymbol, SvgMarkerSettings>                        (10, "svgMarker",       QT_TRANSLATE_NOOP("Fields", "Picture marker")),
+    kind<LayeredMarkerSymbol, LayeredSettings<LayeredMarkerSymbol>> (11, "layeredMarker",   QT_TRANSLATE_NOOP("Fields", "Layered marker")),
+    kind<TextSymbol, TextSettings>                                  (12, "text",            QT_TRANSLATE_NOOP("Fields", "Text")),
 };
 // clang-format on
 
@@ -60,19 +68,6 @@ int kindOf(Symbol const* symbol) {
   for (Kind const& kind : kinds)
     if (symbol && kind.matches(*symbol)) return kind.choice.value;
   return -1;
-}
-
-// The fields of a symbol in the visitor's own object.
-void listHere(Fields& fields, _ptr_t<Symbol>& symbol, bool (*isWanted)(Symbol const*)) {
-  QVector<Choice> wanted;
-  for (Kind const& kind : kinds)
-    if (isWanted(kind.create().get())) wanted << kind.choice;
-  int kind = kindOf(symbol.get());
-  if (!fields.isReading() && !symbol)
-    fields.fail(nullptr, QCoreApplication::translate("SymbolFields", "there is no symbol to store"));
-  else if (!fields.isReading() && kind < 0)
-    fields.fail(nullptr, QCoreApplication::translate("SymbolFields", "a symbol of a kind that can't be stored"));
-  fields.variant(typeField, kind, wanted, [&](int chosen) { kinds[chosen].list(fields, symbol); });
 }
 
 }  // namespace
@@ -91,9 +86,21 @@ void listColor(Fields& fields, Field const& field, QColor& color, QColor const& 
   color = read;
 }
 
+void listOwnSymbolOf(Fields& fields, _ptr_t<Symbol>& symbol, bool (*isWanted)(Symbol const*)) {
+  QVector<Choice> wanted;
+  for (Kind const& kind : kinds)
+    if (isWanted(kind.create().get())) wanted << kind.choice;
+  int kind = kindOf(symbol.get());
+  if (!fields.isReading() && !symbol)
+    fields.fail(nullptr, QCoreApplication::translate("SymbolFields", "there is no symbol to store"));
+  else if (!fields.isReading() && kind < 0)
+    fields.fail(nullptr, QCoreApplication::translate("SymbolFields", "a symbol of a kind that can't be stored"));
+  fields.variant(typeField, kind, wanted, [&](int chosen) { kinds[chosen].list(fields, symbol); });
+}
+
 void listSymbolOf(Fields& fields, Field const& field, _ptr_t<Symbol>& symbol, bool (*isWanted)(Symbol const*),
                   bool isRequired) {
-  auto const list = [&](Fields& own) { listHere(own, symbol, isWanted); };
+  auto const list = [&](Fields& own) { listOwnSymbolOf(own, symbol, isWanted); };
   if (isRequired) return fields.object(field, list);
   bool const isThere = fields.optionalObject(field, bool(symbol), list);
   if (fields.isReading() && fields.ok() && !isThere) symbol = nullptr;
@@ -119,7 +126,7 @@ bool importSymbol(QString const& json, Symbol& symbol) {
 QString exportSymbol(Symbol const& symbol) {
   JsonWriter writer;
   auto written = symbol.Clone();
-  listHere(writer, written, isA<Symbol>);
+  listOwnSymbolOf(writer, written, isA<Symbol>);
   return QString::fromUtf8(QJsonDocument(writer.json()).toJson(QJsonDocument::Compact));
 }
 

@@ -54,6 +54,16 @@ void listOptionalSymbol(SysUtility::Fields& fields, SysUtility::Field const& fie
   symbol = SysUtility::ptr_cast<Wanted>(any);
 }
 
+/// A symbol in the visitor's own object, as an entry of a list has it.
+SYSDISPLAY_EXPORT void listOwnSymbolOf(SysUtility::Fields& fields, SysUtility::_ptr_t<Symbol>& symbol,
+                                       bool (*isWanted)(Symbol const*));
+template <class Wanted>
+void listOwnSymbol(SysUtility::Fields& fields, SysUtility::_ptr_t<Wanted>& symbol) {
+  SysUtility::_ptr_t<Symbol> any = symbol;
+  listOwnSymbolOf(fields, any, isA<Wanted>);
+  symbol = SysUtility::ptr_cast<Wanted>(any);
+}
+
 /// The JSON operations of the symbols. `symbol` is changed only where the JSON is a symbol of the same kind.
 SYSDISPLAY_EXPORT bool importSymbol(QJsonObject const& json, Symbol& symbol);
 SYSDISPLAY_EXPORT bool importSymbol(QString const& json, Symbol& symbol);

@@ -1,5 +1,11 @@
 #pragma once
 
+#include "host/SysDisplay/DashLineSymbol.h"
+#include "host/SysDisplay/GradientFillSymbol.h"
+#include "host/SysDisplay/LayeredSymbol.h"
+#include "host/SysDisplay/MarkerLineSymbol.h"
+#include "host/SysDisplay/PictureFillSymbol.h"
+#include "host/SysDisplay/PointPatternFillSymbol.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
 #include "host/SysDisplay/SymbolDefaults.h"
@@ -14,8 +20,8 @@ namespace SysDisplay {
 // What a document stores of each kind of symbol. `of` takes it from a symbol, `list` names its fields, and `applyTo`
 // gives it to a symbol of the kind. Lengths are in points, angles in degrees counterclockwise.
 
-struct SimpleLineSettings {
-  SimpleLineStyle style = SimpleLineStyle::Solid;
+/// What all lines have in common that are drawn with one pen.
+struct LineSettings {
   QColor color = SymbolDefaults::lineColor();
   double width = SymbolDefaults::lineWidth;
   double offset = 0;
@@ -23,9 +29,40 @@ struct SimpleLineSettings {
   LineJoinStyle join = SymbolDefaults::join;
   double miterLimit = SymbolDefaults::miterLimit;
 
+  static LineSettings of(LineSymbol const& symbol);
+  void list(SysUtility::Fields& fields);
+  void applyTo(LineSymbol& symbol) const;
+};
+
+struct SimpleLineSettings {
+  SimpleLineStyle style = SimpleLineStyle::Solid;
+  LineSettings line;
+
   static SimpleLineSettings of(SimpleLineSymbol const& symbol);
   void list(SysUtility::Fields& fields);
   void applyTo(SimpleLineSymbol& symbol) const;
+};
+
+struct DashLineSettings {
+  QVector<double> pattern;
+  double start = 0;
+  LineSettings line;
+
+  static DashLineSettings of(DashLineSymbol const& symbol);
+  void list(SysUtility::Fields& fields);
+  void applyTo(DashLineSymbol& symbol) const;
+};
+
+struct MarkerLineSettings {
+  SysUtility::_ptr_t<MarkerSymbol> marker;
+  double interval = MarkerLineSymbol().interval();
+  double first = 0;
+  double offset = 0;
+  bool turned = true;
+
+  static MarkerLineSettings of(MarkerLineSymbol const& symbol);
+  void list(SysUtility::Fields& fields);
+  void applyTo(MarkerLineSymbol& symbol) const;
 };
 
 struct SimpleFillSettings {
@@ -36,6 +73,46 @@ struct SimpleFillSettings {
   static SimpleFillSettings of(SimpleFillSymbol const& symbol);
   void list(SysUtility::Fields& fields);
   void applyTo(SimpleFillSymbol& symbol) const;
+};
+
+struct PictureFillSettings {
+  std::shared_ptr<SvgPicture> picture;  ///< null draws nothing
+  double width = PictureFillSymbol().width();
+  double angle = 0;
+  SysUtility::_ptr_t<LineSymbol> outline;
+
+  static PictureFillSettings of(PictureFillSymbol const& symbol);
+  void list(SysUtility::Fields& fields);
+  void applyTo(PictureFillSymbol& symbol) const;
+};
+
+struct PointPatternFillSettings {
+  SysUtility::_ptr_t<MarkerSymbol> marker;
+  PointPatternFillSymbol::Grid grid;
+  SysUtility::_ptr_t<LineSymbol> outline;
+
+  static PointPatternFillSettings of(PointPatternFillSymbol const& symbol);
+  void list(SysUtility::Fields& fields);
+  void applyTo(PointPatternFillSymbol& symbol) const;
+};
+
+struct GradientFillSettings {
+  GradientFillSymbol::Gradient gradient;
+  SysUtility::_ptr_t<LineSymbol> outline;
+
+  static GradientFillSettings of(GradientFillSymbol const& symbol);
+  void list(SysUtility::Fields& fields);
+  void applyTo(GradientFillSymbol& symbol) const;
+};
+
+/// The layers of a line, a fill or a marker.
+template <class Layered>
+struct LayeredSettings {
+  typename Layered::Layers layers;
+
+  static LayeredSettings of(Layered const& symbol);
+  void list(SysUtility::Fields& fields);
+  void applyTo(Layered& symbol) const;
 };
 
 /// What all markers have in common.
@@ -62,7 +139,7 @@ struct SimpleMarkerSettings {
 
 struct SvgMarkerSettings {
   MarkerSettings marker;
-  std::shared_ptr<SvgMarkerSymbol::Picture> picture;  ///< null draws nothing
+  std::shared_ptr<SvgPicture> picture;  ///< null draws nothing
 
   static SvgMarkerSettings of(SvgMarkerSymbol const& symbol);
   void list(SysUtility::Fields& fields);

@@ -187,6 +187,8 @@ QString ReferenceMaker::kindOf(FieldInfo const& info) const {
     case Kind::Numbers: return withRange(shown(rules.numbersKind), rules.range);
     case Kind::Coordinates:
       return withRange(QStringLiteral("`[x1, y1, x2, y2, …]`, %1 points or more").arg(rules.minPoints), rules.range);
+    case Kind::NumberList:
+      return withRange(QStringLiteral("%1 to %2 numbers").arg(rules.counts.min).arg(rules.counts.max), rules.range);
     case Kind::Choice:
     case Kind::Variant: return shown(namesOf(info.choices));
     case Kind::Object: return link(type);

@@ -165,6 +165,8 @@ QJsonObject SchemaMaker::value(FieldInfo const& info) const {
       return listOf(numberIn(info.rules.range, "number"), count, count);
     }
     case Kind::Coordinates: return listOf(numberIn(info.rules.range, "number"), 2 * info.rules.minPoints);
+    case Kind::NumberList:
+      return listOf(numberIn(info.rules.range, "number"), info.rules.counts.min, info.rules.counts.max);
     case Kind::Choice:
     case Kind::Variant: return oneOf(namesOf(info.choices));
     case Kind::Object: return referenceTo(QString::fromUtf8(info.type()));

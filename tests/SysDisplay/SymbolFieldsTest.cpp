@@ -32,6 +32,15 @@ private slots:
     row("unknown type", "{'type':'cartoonLine'}", "symbol.type: “cartoonLine” is not one of simpleLine");
     row("wrong family", "{'type':'simpleFill'}", "symbol.type: “simpleFill” is not one of simpleLine");
     row("colour by name", "{'type':'simpleLine','color':'red'}", "symbol.color: “red”");
+    row("no dashes", "{'type':'dashLine','pattern':[1]}", "symbol.pattern: holds 1 entries; at least 2");
+    row("a dash of no length", "{'type':'dashLine','pattern':[1,0]}", "symbol.pattern[1]: 0 is not between");
+    row("no layer", "{'type':'layeredLine','layers':[]}", "symbol.layers: holds 0 entries; at least 1");
+    row("a layer of another family", "{'type':'layeredLine','layers':[{'type':'simpleFill'}]}",
+        "symbol.layers[0].type: “simpleFill” is not one of simpleLine");
+    QByteArray nested = "{'type':'simpleLine'}";
+    for (int i = 0; i < 200; ++i) nested = "{'type':'layeredLine','layers':[" + nested + "]}";
+    row("layers without end", nested,
+        QString("symbol.%1layers: layers lie within layers more than 3 deep").arg(QString("layers[0].").repeated(196)));
     row("colour of other letters", "{'type':'simpleLine','color':'#12345g'}", "symbol.color: “#12345g”");
   }
   void badValuesAreNamed() {
@@ -42,6 +51,13 @@ private slots:
     listSymbol(reader, symbolField, symbol);
     QVERIFY2(reader.error().startsWith(problem), qPrintable(reader.error()));
     QVERIFY(symbol == before);
+  }
+
+  void stopsOfAGradientAscend() {
+    JsonReader reader(json("{'symbol':{'type':'gradientFill','stops':[{'position':50},{'position':20}]}}"));
+    _ptr_t<FillSymbol> symbol;
+    listSymbol(reader, symbolField, symbol);
+    QCOMPARE(reader.error(), QString("symbol.stops[1].position: is smaller than that of the colour before; sort them"));
   }
 
   void importChangesNothingUnlessTheJsonFits() {

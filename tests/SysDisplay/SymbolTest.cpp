@@ -1,6 +1,7 @@
 #include "Pictures.h"
-#include "Symbols.h"
+#include "StoredSymbols.h"
 
+#include "host/SysDisplay/LayeredSymbol.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
 
@@ -51,19 +52,21 @@ class SymbolTest : public QObject {
 private slots:
   void dashesStandWhereTheirLengthsSay_data() {
     // starts: ink and gap in turn, in pixels from the line's beginning
-    Rows<SimpleLineStyle, LineCapStyle, QVector<int>> row;
-    row("dash", SimpleLineStyle::Dash, LineCapStyle::Butt, {0, 16, 24, 40, 48, 64});
-    row("dot", SimpleLineStyle::Dot, LineCapStyle::Butt, {0, 4, 12, 16, 24, 28});
-    row("dash and dot", SimpleLineStyle::DashDot, LineCapStyle::Butt, {0, 16, 24, 28, 36, 52});
-    row("dash and two dots", SimpleLineStyle::DashDotDot, LineCapStyle::Butt, {0, 16, 24, 28, 36, 40, 48, 64});
-    row("caps leave the rhythm", SimpleLineStyle::Dash, LineCapStyle::Square, {-2, 14, 22, 38, 46, 62});
+    Rows<_ptr_t<Symbol>, QVector<int>> row;
+    row("dash", pen(4, SimpleLineStyle::Dash, LineCapStyle::Butt), {0, 16, 24, 40, 48, 64});
+    row("dot", pen(4, SimpleLineStyle::Dot, LineCapStyle::Butt), {0, 4, 12, 16, 24, 28});
+    row("dash and dot", pen(4, SimpleLineStyle::DashDot, LineCapStyle::Butt), {0, 16, 24, 28, 36, 52});
+    row("dash and two dots", pen(4, SimpleLineStyle::DashDotDot, LineCapStyle::Butt), {0, 16, 24, 28, 36, 40, 48, 64});
+    row("caps leave the rhythm", pen(4, SimpleLineStyle::Dash, LineCapStyle::Square), {-2, 14, 22, 38, 46, 62});
+    auto const own = storedSymbol("{'type':'dashLine','pattern':[10,5,3],'start':12,'width':4,'cap':'butt'}");
+    row("an odd count of lengths, from within", own, {3, 6, 16, 21, 24, 34, 39, 42});
   }
   void dashesStandWhereTheirLengthsSay() {
-    auto const [style, cap, starts] = fetched<SimpleLineStyle, LineCapStyle, QVector<int>>();
+    auto const [symbol, starts] = fetched<_ptr_t<Symbol>, QVector<int>>();
     Canvas canvas;
     // With a corner at 50 pixels, over which the pattern goes on.
     auto const line = polyline({{20, 100}, {70, 100}, {70, 20}});
-    canvas.draw(*pen(4, style, cap), line);
+    canvas.draw(*symbol, line);
     for (int i = 0; i + 1 < starts.size(); ++i) {
       int const middle = (starts[i] + starts[i + 1]) / 2;
       QPoint const pixel = middle < 50 ? QPoint(20 + middle, 100) : QPoint(70, 100 + middle - 50);
@@ -144,6 +147,9 @@ private slots:
     row("frame", framed, make<Envelope>(20, 30, 120, 140), true);
     row("plain area", make<SimpleFillSymbol>(), make<Envelope>(20, 30, 120, 140), true);
     row("star", star, make<Point>(90, 90, 0), true);
+    for (Stored const& stored : storedLines) row(stored.name, symbolOf(stored), corner, false);
+    for (Stored const& stored : storedFills)
+      row(stored.name, symbolOf(stored), make<Envelope>(20, 30, 120, 140), false);
   }
   void boundaryCoversTheDrawing() {
     auto const [symbol, geometry, isTight] = fetched<_ptr_t<Symbol>, _ptr_t<Geometry>, bool>();
@@ -161,6 +167,15 @@ private slots:
     none.SetStyle(SimpleLineStyle::Null);
     SimpleFillSymbol fill;
     double const infinite = std::numeric_limits<double>::infinity();
+    for (auto const& symbol : {symbolOf(storedLines[3]), symbolOf(storedFills[1]), symbolOf(storedFills[8])}) {
+      canvas.draw(*symbol, nullptr);
+      canvas.draw(*symbol, polyline({}));
+      canvas.draw(*symbol, make<Envelope>());
+      canvas.draw(*symbol, polyline({{infinite, 0}, {std::nan(""), 3}}));
+    }
+    canvas.draw(LayeredLineSymbol(), polyline({{0, 0}, {100, 100}}));
+    canvas.draw(*storedSymbol("{'type':'markerLine','marker':{'type':'simpleMarker','size':0}}"),
+                polyline({{0, 0}, {100, 100}}));
     canvas.draw(none, polyline({{0, 0}, {100, 100}}));
     canvas.draw(*pen(0), polyline({{0, 0}, {100, 100}}));
     canvas.draw(*pen(3), nullptr);
@@ -181,6 +196,98 @@ private slots:
     clone->SetColor(Qt::red);
     QCOMPARE(fill.GetOutlineSymbol()->GetWidth(), 3.0);
     QVERIFY(fill.GetColor() != QColor(Qt::red));
+  }
+
+  // Nested symbols are their own: what is done to a clone must not reach the one that a document holds.
+  void cloneOfEveryKindIsEqualAndIndependent() {
+    QVector<Stored> all;
+    for (Stored const& stored : storedLines) all << stored;
+    for (Stored const& stored : storedFills) all << stored;
+    for (Stored const& stored : qAsConst(all)) {
+      auto const symbol = symbolOf(stored), clone = symbol->Clone();
+      QString const before = exportSymbol(*symbol);
+      QCOMPARE(exportSymbol(*clone), before);
+      if (auto const line = ptr_cast<LineSymbol>(clone)) resize(*line, 2);
+      if (auto const fill = ptr_cast<FillSymbol>(clone)) resize(*fill, 2);
+      QCOMPARE(exportSymbol(*symbol), before);
+      QCOMPARE(exportSymbol(*clone) != before, bool(ptr_cast<LineSymbol>(clone)) || before.contains("outline\":"));
+    }
+  }
+
+  void markersFollowTheLine() {
+    // A flat marker every 40 pixels, from 20 on: along the first leg and the second, which runs down.
+    auto const symbol = storedSymbol(
+        "{'type':'markerLine','interval':40,'first':20,'marker':{'type':'svgMarker','size':16,'svg':"
+        "'<svg xmlns=\\\"http://www.w3.org/2000/svg\\\" viewBox=\\\"0 0 8 1\\\"><rect width=\\\"8\\\" "
+        "height=\\\"1\\\"/></svg>'}}");
+    Canvas canvas;
+    canvas.draw(*symbol, polyline({{20, 150}, {120, 150}, {120, 20}}));
+    for (int x : {40, 80}) QVERIFY(canvas.isInk(x + 6, 49) && !canvas.isInk(x, 44) && !canvas.isInk(x + 12, 49));
+    for (int y : {90, 130, 170})
+      QVERIFY(canvas.isInk(119, y + 6) && !canvas.isInk(114, y) && !canvas.isInk(119, y + 12));
+  }
+
+  void layersKeepTheirProportions() {
+    auto const symbol = storedSymbol(
+        "{'type':'layeredMarker','layers':[{'type':'simpleMarker','style':'square','size':40,'color':'#000000'},"
+        "{'type':'simpleMarker','style':'square','size':20,'color':'#ffffff','angle':10}]}");
+    auto const marker = ptr_cast<LayeredMarkerSymbol>(symbol);
+    QCOMPARE(marker->GetSize(), 40.0);
+    marker->SetSize(80);
+    marker->SetAngle(90);
+    QCOMPARE(marker->layers()[1]->GetSize(), 40.0);
+    QCOMPARE(marker->layers()[1]->GetAngle(), 100.0);
+    Canvas canvas;
+    canvas.draw(*symbol, make<Point>(100, 100, 0));
+    QCOMPARE(canvas.covered(), QRect(60, 60, 80, 80));
+    QVERIFY(!canvas.isInk(100, 100) && canvas.isInk(65, 100));
+  }
+
+  // What is too fine for the pixels is as dark as it was, and what is seen covers what it should.
+  void patternsAreAsDarkAtEveryScale_data() {
+    Rows<QByteArray, double> row;
+    QByteArray const square = "'marker':{'type':'simpleMarker','style':'square','size':4,'color':'#000000'}";
+    row("markers", "{'type':'pointPatternFill','dx':8,'dy':8," + square + "}", 0.25);
+    row("markers on a turned grid",
+        "{'type':'pointPatternFill','dx':8,'dy':4,'staggered':true,'angle':30," + square + "}", 0.5);
+    row("tiles",
+        "{'type':'pictureFill','width':8,'angle':15,'svg':'<svg xmlns=\\\"http://www.w3.org/2000/svg\\\" viewBox=\\\"0 "
+        "0 4 2\\\">"
+        "<rect width=\\\"1\\\" height=\\\"2\\\"/></svg>'}",
+        0.25);
+    row("a gradient",
+        "{'type':'gradientFill','stops':[{'position':0,'color':'#000000'},{'position':100,'color':'#ffffff'}]}", 0.5);
+  }
+  void patternsAreAsDarkAtEveryScale() {
+    auto const [stored, share] = fetched<QByteArray, double>();
+    auto const symbol = storedSymbol(stored);
+    for (double pixelsPerPoint : {3.3, 1.0, 0.3, 0.1}) {
+      Canvas canvas(pixelsPerPoint);
+      canvas.draw(*symbol, make<Envelope>(20, 20, 180, 180));
+      double dark = 0;
+      for (int y = 20; y < 180; ++y)
+        for (int x = 20; x < 180; ++x) dark += 1 - qGray(canvas.image().pixel(x, y)) / 255.0;
+      QVERIFY2(std::abs(dark / (160 * 160) - share) < 0.04, qPrintable(QString::number(dark / (160 * 160))));
+    }
+  }
+
+  void gradientsRunAsNamed() {
+    QByteArray const stops =
+        "'stops':[{'position':0,'color':'#000000'},{'position':50,'color':'#000000'},"
+        "{'position':50,'color':'#ffffff'},{'position':100,'color':'#ffffff'}]}";
+    auto const right = storedSymbol("{'type':'gradientFill','angle':0," + stops);
+    auto const down = storedSymbol("{'type':'gradientFill'," + stops);
+    auto const outwards = storedSymbol("{'type':'gradientFill','shape':'radial'," + stops);
+    auto const area = make<Envelope>(20, 20, 180, 180);
+    auto const inks = [&](_ptr_t<Symbol> const& symbol) {
+      Canvas canvas;
+      canvas.draw(*symbol, area);
+      return QVector<bool>{canvas.isInk(30, 100), canvas.isInk(170, 100), canvas.isInk(100, 30), canvas.isInk(100, 170),
+                           canvas.isInk(100, 98)};
+    };
+    QCOMPARE(inks(right).mid(0, 2), (QVector<bool>{true, false}));
+    QCOMPARE(inks(down).mid(2, 2), (QVector<bool>{true, false}));
+    QCOMPARE(inks(outwards), (QVector<bool>{false, false, false, false, true}));
   }
 
   void textHangsOnItsPosition_data() {

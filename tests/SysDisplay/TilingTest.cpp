@@ -1,4 +1,5 @@
 #include "Pictures.h"
+#include "StoredSymbols.h"
 #include "Symbols.h"
 
 #include "host/SysDisplay/MarkerPainter.h"
@@ -67,6 +68,10 @@ Scene area(SimpleFillStyle style, QVector<QVector<QPointF>> const& rings, _ptr_t
   return [=](QPainter& painter, Transformation const& t) { symbol->Draw(painter, t, geometry); };
 }
 
+Scene drawing(_ptr_t<Symbol> const& symbol, _ptr_t<Geometry> const& geometry) {
+  return [=](QPainter& painter, Transformation const& t) { symbol->Draw(painter, t, geometry); };
+}
+
 // The coordinates of a ring that waves about a radius, with a tooth of some pixels at each vertex.
 std::vector<double> teeth(int vertices, double radius, double height, int waves, int tooth) {
   std::vector<double> xy;
@@ -116,12 +121,6 @@ Scene texts(TextFormat const& format) {
                     QStringLiteral("Ångström %1\nWAVE fjord").arg(i));
   };
 }
-
-char const compass[] =
-    "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 20 40'><defs><linearGradient id='g'>"
-    "<stop offset='0' stop-color='red'/><stop offset='1' stop-color='blue'/></linearGradient></defs>"
-    "<path d='M10 1 C 20 10 18 30 10 39 C 2 30 0 10 10 1 Z' fill='url(#g)' stroke='black'/>"
-    "<circle cx='10' cy='20' r='4.3' fill='white' stroke='green'/></svg>";
 
 }  // namespace
 
@@ -179,6 +178,17 @@ private slots:
       marker->SetAngle(33);
       row(QString("SVG marker of %1 points").arg(size), markers(marker));
     }
+    for (Stored const& stored : storedLines) {
+      auto const symbol = symbolOf(stored);
+      row(stored.name, drawing(symbol, make<MultiPolyline>(QVector<QVector<QPointF>>{
+                                           worldLine(zigzag(180, 13)), worldLine(zigzag(7, 400)), worldLine(far)})));
+      row(QString("%1 around a coast").arg(stored.name), drawing(symbol, make<Polygon>(blob(280))));
+    }
+    for (Stored const& stored : storedFills) {
+      auto const symbol = symbolOf(stored);
+      row(stored.name, drawing(symbol, make<Polygon>(blob(280))));
+      row(QString("%1 with very far corners").arg(stored.name), drawing(symbol, make<Polygon>(farRing)));
+    }
     row("text", texts(letters(13)));
     TextFormat format = letters(13, 1.5);
     format.haloColor = QColor(255, 230, 0, 128);
@@ -209,15 +219,20 @@ private slots:
     auto const picture = make<SvgMarkerSymbol>();
     QCOMPARE(picture->setSvg(compass), QString());
     picture->SetSize(40);
+    auto const pattern = ptr_cast<FillSymbol>(symbolOf(storedFills[2]));
+    auto const gradient = ptr_cast<FillSymbol>(symbolOf(storedFills[8]));
     std::vector<double> const coast = teeth(20000, 230, 25, 700, 6);
     Scene const crowd = [&](QPainter& painter, Transformation const& t) {
       DrawTarget target(painter, *t);
-      auto const area = prepared(target, *land);
+      auto const area = prepared(target, *land), tiles = prepared(target, *pattern),
+                 shades = prepared(target, *gradient);
       MarkerPainter dots(target, *dot), pictures(target, *picture);
       for (int i = 0; i < 2000; ++i) {
         if (i % 500 == 0) {
-          area->addRing({coast.data(), static_cast<int>(coast.size() / 2)});
-          area->draw({});
+          for (auto const* one : {&area, &shades, &tiles}) {
+            (*one)->addRing({coast.data(), static_cast<int>(coast.size() / 2)});
+            (*one)->draw({left, worldY(500), worldX(700), top});
+          }
         }
         (i % 400 == 7 ? pictures : dots).draw(worldX(i * 37 % 700 + 0.3), worldY(i * 91 % 500 + 0.7));
       }

@@ -22,10 +22,12 @@ QRegularExpression const untold[] = {
     QRegularExpression("is in two classes"),
     QRegularExpression("groups are nested more than 16 deep"),
     QRegularExpression("pattern: must hold %1"),
+    QRegularExpression("layers lie within layers more than 3 deep"),
+    QRegularExpression("is smaller than that of the colour before"),
     QRegularExpression("svg: "),
 };
 // clang-format on
-int constexpr toldByStyles = 11;
+int constexpr toldByStyles = 13;
 
 QString verdictOnDocument(QJsonObject const& json) {
   SysUtility::JsonReader reader(json);
@@ -122,6 +124,12 @@ QJsonObject nested(int groups) {
   return element;
 }
 
+QJsonObject layered(int depth) {
+  QJsonObject symbol = json("{'type': 'simpleLine'}");
+  for (int i = 0; i < depth; ++i) symbol = QJsonObject{{"type", "layeredLine"}, {"layers", QJsonArray{symbol}}};
+  return with(json("{'type': 'line', 'points': [1, 1, 2, 2]}"), "symbol", symbol);
+}
+
 // Small documents with one part of the seed each: a validator in Python takes its time.
 Json mutatedDocuments(QJsonObject const& seed) {
   QJsonArray maps, bareMaps;
@@ -143,6 +151,7 @@ Json mutatedDocuments(QJsonObject const& seed) {
               << with(frame, "elements", QJsonArray{other, other});
   }
   documents << with(frame, "elements", QJsonArray{nested(16)}) << with(frame, "elements", QJsonArray{nested(17)});
+  documents << with(frame, "elements", QJsonArray{layered(3)}) << with(frame, "elements", QJsonArray{layered(4)});
   for (QJsonValue const& map : seed["maps"].toArray())
     for (char const* part : {"layers", "graphics"})
       for (QJsonArray const& list : oneByOne(map[part])) {

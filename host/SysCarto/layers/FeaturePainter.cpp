@@ -1,5 +1,6 @@
 #include "FeaturePainter.h"
 
+#include "host/SysDisplay/LayeredSymbol.h"
 #include "host/SysDisplay/MarkerPainter.h"
 #include "host/SysDisplay/PathDrawing.h"
 
@@ -82,6 +83,14 @@ std::unique_ptr<FeaturePainter> FeaturePainter::create(DrawTarget& target, Symbo
   if (auto const* line = dynamic_cast<LineSymbol const*>(symbol)) return made(target, *line);
   if (auto const* marker = dynamic_cast<MarkerSymbol const*>(symbol)) return made(target, *marker);
   return nullptr;
+}
+
+QVector<Symbol const*> FeaturePainter::passesOf(Symbol const* symbol) {
+  auto const* line = dynamic_cast<LineSymbol const*>(symbol);
+  if (!line) return {symbol};
+  QVector<Symbol const*> passes;
+  for (LineSymbol const* one : linesOf(*line)) passes << one;
+  return passes;
 }
 
 }  // namespace SysCarto

@@ -3,6 +3,8 @@
 #include "host/SysCarto/layers/ThinnedFeatures.h"
 #include "host/SysDisplay/DrawTarget.h"
 
+#include <QVector>
+
 #include <memory>
 
 namespace SysDisplay {
@@ -16,6 +18,10 @@ class FeaturePainter {
 public:
   /// An empty pointer for no symbol, and for one that draws nothing.
   static std::unique_ptr<FeaturePainter> create(SysDisplay::DrawTarget& target, SysDisplay::Symbol const* symbol);
+
+  /// The symbols that a layer draws one after the other, each for all of its features: the lines of a layered line, so
+  /// that roads that cross join over their casings. Any other symbol stands for itself.
+  static QVector<SysDisplay::Symbol const*> passesOf(SysDisplay::Symbol const* symbol);
 
   virtual ~FeaturePainter();
 

@@ -32,6 +32,21 @@ Box areaOf(DrawTarget const& target, double reachPx) {
   return {area.left(), area.top(), area.right(), area.bottom()};
 }
 
+// What draws the features of each class; null for nothing.
+using Pass = std::vector<std::unique_ptr<FeaturePainter>>;
+
+std::vector<Pass> passesOf(std::vector<SymbolClass> const& classes, DrawTarget& target) {
+  std::vector<Pass> passes;
+  for (size_t i = 0; i < classes.size(); ++i) {
+    auto const symbols = FeaturePainter::passesOf(classes[i].symbol.get());
+    for (int pass = 0; pass < symbols.size(); ++pass) {
+      if (pass == static_cast<int>(passes.size())) passes.emplace_back(classes.size());
+      passes[pass][i] = FeaturePainter::create(target, symbols[pass]);
+    }
+  }
+  return passes;
+}
+
 }  // namespace
 
 VectorLayer::VectorLayer(std::unique_ptr<Renderer> renderer)
@@ -59,23 +74,24 @@ void VectorLayer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& t
   double const scale = pixelsPerUnit(target.toDevice());
   if (!(scale > 0) || !std::isfinite(scale) || target.area().isEmpty()) return;
 
-  std::vector<std::unique_ptr<FeaturePainter>> painters;
+  std::vector<Pass> const passes = passesOf(renderer_->classes(), target);
   double reachPx = 0;
-  for (SymbolClass const& one : renderer_->classes()) {
-    painters.push_back(FeaturePainter::create(target, one.symbol.get()));
-    if (painters.back()) reachPx = std::max(reachPx, painters.back()->reachPx());
-  }
+  for (Pass const& pass : passes)
+    for (auto const& painter : pass)
+      if (painter) reachPx = std::max(reachPx, painter->reachPx());
   Box const area = areaOf(target, reachPx + 1);
   thinned_->setResolution(1 / scale);
+  std::vector<int> const shown = store_->query(area);
   int untilCheck = 0;
-  for (int const feature : store_->query(area)) {
-    if (untilCheck-- == 0) {
-      if (isCancelled(cancel)) return;
-      untilCheck = betweenCancelChecks;
+  for (Pass const& pass : passes)
+    for (int const feature : shown) {
+      if (untilCheck-- == 0) {
+        if (isCancelled(cancel)) return;
+        untilCheck = betweenCancelChecks;
+      }
+      int const symbolClass = store_->features[feature].symbolClass;
+      if (symbolClass >= 0 && pass[symbolClass]) pass[symbolClass]->draw(*thinned_, feature, area);
     }
-    int const symbolClass = store_->features[feature].symbolClass;
-    if (symbolClass >= 0 && painters[symbolClass]) painters[symbolClass]->draw(*thinned_, feature, area);
-  }
 }
 
 QList<LegendClass> VectorLayer::legendClasses() const {

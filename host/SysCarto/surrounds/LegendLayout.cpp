@@ -160,9 +160,8 @@ void LegendLayout::addPatch(_ptr_t<Symbol> const& symbol, double middleX, double
     QPointF const start = onPage(middleX - patchWidth / 2, middleY), end = onPage(middleX + patchWidth / 2, middleY);
     pieces_ << linePiece({start, end}, resized(*line, factor_));
   } else if (auto const fill = ptr_cast<FillSymbol>(symbol)) {
-    auto const patch = ptr_cast<FillSymbol>(fill->Clone());
-    if (auto const outline = fill->GetOutlineSymbol()) patch->SetOutlineSymbol(resized(*outline, factor_));
-    pieces_ << rectanglePiece(upperLeft.x(), lowerRight.y(), lowerRight.x(), upperLeft.y(), patch);
+    pieces_ << rectanglePiece(upperLeft.x(), lowerRight.y(), lowerRight.x(), upperLeft.y(),
+                              withOutlineResized(*fill, factor_));
   }
 }
 

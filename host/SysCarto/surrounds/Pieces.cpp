@@ -3,6 +3,7 @@
 #include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/SysDisplay/MarkerPainter.h"
+#include "host/SysDisplay/PathDrawing.h"
 
 #include <QLocale>
 
@@ -66,8 +67,13 @@ _ptr_t<MarkerSymbol> resized(MarkerSymbol const& symbol, double factor) {
 
 _ptr_t<LineSymbol> resized(LineSymbol const& symbol, double factor) {
   auto const made = ptr_cast<LineSymbol>(symbol.Clone());
-  made->SetWidth(symbol.GetWidth() * factor);
-  made->SetOffset(symbol.GetOffset() * factor);
+  SysDisplay::resize(*made, factor);
+  return made;
+}
+
+_ptr_t<FillSymbol> withOutlineResized(FillSymbol const& symbol, double factor) {
+  auto const made = ptr_cast<FillSymbol>(symbol.Clone());
+  SysDisplay::resize(*made, factor);
   return made;
 }
 

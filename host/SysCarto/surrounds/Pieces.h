@@ -33,6 +33,9 @@ QRectF unitBounds(SysDisplay::MarkerSymbol const& symbol);
 SysUtility::_ptr_t<SysDisplay::MarkerSymbol> resized(SysDisplay::MarkerSymbol const& symbol, double factor);
 SysUtility::_ptr_t<SysDisplay::LineSymbol> resized(SysDisplay::LineSymbol const& symbol, double factor);
 
+/// A fill keeps its pattern.
+SysUtility::_ptr_t<SysDisplay::FillSymbol> withOutlineResized(SysDisplay::FillSymbol const& symbol, double factor);
+
 /// A number with the thousands separators of the user's language, and no more decimals than it has.
 QString grouped(double number);
 

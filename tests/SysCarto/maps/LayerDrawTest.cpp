@@ -36,6 +36,13 @@ private slots:
     row("a detail of the countries", "countries", "EPSG:8857", 0.03, land);
     row("cut in the Atlantic", "countries", "+proj=eqearth +lon_0=150 +datum=WGS84", 1, land);
     row("seen from above", "countries", "+proj=ortho +lat_0=40 +lon_0=10 +datum=WGS84", 1, land);
+    row("a grid and a gradient", "countries", "EPSG:8857", 0.2,
+        storedSymbol(
+            "{'type':'layeredFill','layers':[{'type':'gradientFill','stops':[{'position':0,'color':'#f8f0d0'},"
+            "{'position':100,'color':'#5070a0'}]},{'type':'pointPatternFill','dx':5,'dy':5,'marker':{'type':'"
+            "simpleMarker',"
+            "'size':2},'outline':{'type':'markerLine','interval':6,'marker':{'type':'simpleMarker','style':'triangle',"
+            "'size':4}}}]}"));
     row("cities", "cities", "EPSG:8857", 0.3, marker());
   }
   void tilesMakeTheWholePicture() {
@@ -69,6 +76,22 @@ private slots:
     QVERIFY(draws(1, going));
     QVERIFY(!draws(8, going));
     QVERIFY(!draws(1, cancelled));
+  }
+
+  // Roads that cross are joined: no casing lies over the inside of another road, of whatever class.
+  void casingsLieBelowAllInnerLines() {
+    auto const road = storedSymbol(
+        "{'type':'layeredLine','layers':[{'type':'simpleLine','width':12,'color':'#000000'},"
+        "{'type':'simpleLine','width':6,'color':'#ffdd55'}]}");
+    QByteArray const level = R"({"type":"LineString","coordinates":[[0,5],[10,5]]})";
+    QByteArray const upright = R"({"type":"LineString","coordinates":[[5,0],[5,10]]})";
+    auto const layer = openedJson(collection({feature(level, "A"), feature(upright, "B")}), "", road);
+    QImage const image = shown({0, 0, 10, 10}, QSize(100, 100)).drawn(sceneOf(layer));
+    for (int i = 20; i < 80; ++i) {
+      QCOMPARE(image.pixelColor(i, 50), QColor("#ffdd55"));
+      QCOMPARE(image.pixelColor(50, i), QColor("#ffdd55"));
+    }
+    QCOMPARE(image.pixelColor(30, 44), QColor(Qt::black));
   }
 
   // Neighbours share their border, so no background shows between them when both are filled.

@@ -1,0 +1,32 @@
+#include "SvgPicture.h"
+
+#include "host/SysDisplay/SvgCheck.h"
+
+#include <QCoreApplication>
+#include <QSvgRenderer>
+
+namespace SysDisplay {
+
+struct SvgPicture::Private {
+  QByteArray svg;
+  QSvgRenderer renderer;
+};
+
+SvgPicture::SvgPicture() : d(std::make_unique<Private>()) {}
+SvgPicture::~SvgPicture() = default;
+
+std::shared_ptr<SvgPicture> SvgPicture::of(QByteArray const& svg, QString& problem) {
+  problem = svgProblem(svg);
+  if (!problem.isEmpty()) return nullptr;
+  std::shared_ptr<SvgPicture> picture(new SvgPicture);
+  picture->d->svg = svg;
+  if (picture->d->renderer.load(svg) && !picture->viewBox().isEmpty()) return picture;
+  problem = QCoreApplication::translate("SvgPicture", "the SVG can't be drawn: it has no size or no content");
+  return nullptr;
+}
+
+QByteArray const& SvgPicture::svg() const { return d->svg; }
+QRectF SvgPicture::viewBox() const { return d->renderer.viewBoxF(); }
+void SvgPicture::render(QPainter& painter, QRectF const& rectangle) { d->renderer.render(&painter, rectangle); }
+
+}  // namespace SysDisplay

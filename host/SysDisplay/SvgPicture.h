@@ -1,0 +1,38 @@
+#pragma once
+
+#include <SysDisplay/Export.h>
+
+#include <QByteArray>
+#include <QRectF>
+#include <QString>
+
+#include <memory>
+
+class QPainter;
+
+namespace SysDisplay {
+
+/// An SVG that can be drawn. It never changes, so that symbols share it.
+class SYSDISPLAY_EXPORT SvgPicture {
+public:
+  /// Reads an SVG in UTF-8. Null, with the reason as a sentence, where it is refused.
+  static std::shared_ptr<SvgPicture> of(QByteArray const& svg, QString& problem);
+  ~SvgPicture();
+  SvgPicture(SvgPicture const&) = delete;
+  SvgPicture& operator=(SvgPicture const&) = delete;
+
+  QByteArray const& svg() const;
+
+  /// In the SVG's units; not empty.
+  QRectF viewBox() const;
+
+  /// Draws the view box into a rectangle; what lies beyond it shows, too.
+  void render(QPainter& painter, QRectF const& rectangle);
+
+private:
+  SvgPicture();
+  struct Private;
+  std::unique_ptr<Private> d;
+};
+
+}  // namespace SysDisplay
