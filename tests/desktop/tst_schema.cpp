@@ -148,7 +148,9 @@ Json mutatedDocuments(QJsonObject const& seed) {
   for (QJsonValue const& element : seed["elements"].toArray()) {
     QJsonObject const other = with(element.toObject(), "handle", 0);
     documents << with(frame, "elements", QJsonArray{element, element})
-              << with(frame, "elements", QJsonArray{other, other});
+              << with(frame, "elements", QJsonArray{other, other})
+              << with(frame, "elements", QJsonArray{QJsonObject{{"type", "group"}, {"members", QJsonArray{element}}}})
+              << with(frame, "maps", QJsonArray{with(bareMaps[0].toObject(), "graphics", QJsonArray{element})});
   }
   documents << with(frame, "elements", QJsonArray{nested(16)}) << with(frame, "elements", QJsonArray{nested(17)});
   documents << with(frame, "elements", QJsonArray{layered(3)}) << with(frame, "elements", QJsonArray{layered(4)});
