@@ -1,6 +1,7 @@
 #include "LayerSettings.h"
 
 #include "host/SysCarto/layers/DataSource.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysUtility/Fields.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/SysCarto/document/DocumentContext.h"
-#include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layers/LayerEffects.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 
 #include <SysCarto/Layer.h>

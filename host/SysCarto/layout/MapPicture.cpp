@@ -63,34 +63,6 @@ QList<_ptr_t<FeatureLayer>> labelledLayers(Map const& map) {
   return layers;
 }
 
-QPainter::CompositionMode modeOf(LayerBlend blend) {
-  switch (blend) {
-    case LayerBlend::Normal: return QPainter::CompositionMode_SourceOver;
-    case LayerBlend::Multiply: return QPainter::CompositionMode_Multiply;
-    case LayerBlend::Screen: return QPainter::CompositionMode_Screen;
-  }
-  return QPainter::CompositionMode_SourceOver;
-}
-
-// A layer with effects is drawn on a sheet of its own, as large as what is drawn of the map.
-void drawLayer(Layer& layer, QPainter& painter, QImage const& picture, _ptr_t<DisplayTransformation> const& mapped,
-               _ptr_t<TrackerCancel> const& cancel) {
-  LayerEffects const effects = LayerHost::effects(layer);
-  if (effects.areNone()) return layer.Draw(painter, mapped, 1, cancel);
-  if (effects.opacityPercent <= 0) return;
-  QImage sheet(picture.size(), picture.format());
-  sheet.fill(Qt::transparent);
-  {
-    QPainter own(&sheet);
-    layer.Draw(own, mapped, 1, cancel);
-  }
-  painter.save();
-  painter.setOpacity(effects.opacityPercent / 100);
-  painter.setCompositionMode(modeOf(effects.blend));
-  painter.drawImage(0, 0, sheet);
-  painter.restore();
-}
-
 }  // namespace
 
 MapPicture drawMap(MapFrameElement const& frame, DisplayTransformation const& transformation, QRect const& areaPx,
@@ -104,7 +76,7 @@ MapPicture drawMap(MapFrameElement const& frame, DisplayTransformation const& tr
   QPainter painter(&picture.image);
   for (_ptr_t<Layer> const& layer : map->GetLayers()) {
     if (cancel && cancel->IsCanced()) break;
-    if (layer->showsAt(mapped->GetMapScale())) drawLayer(*layer, painter, picture.image, mapped, cancel);
+    if (layer->showsAt(mapped->GetMapScale())) layer->Draw(painter, mapped, 1, cancel);
   }
   if (IElementContainer* graphics = map->GetGraphicsContainer()) graphics->Draw(painter, mapped, 1, cancel);
   return picture;

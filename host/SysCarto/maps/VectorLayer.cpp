@@ -4,6 +4,7 @@
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/labels/LabelPlacer.h"
 #include "host/SysCarto/layers/FeaturePainter.h"
+#include "host/SysCarto/layers/LayerHost.h"
 
 #include <algorithm>
 #include <cmath>
@@ -70,7 +71,13 @@ QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem
 void VectorLayer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, int phase,
                        _ptr_t<TrackerCancel> const& cancel) {
   if (phase != featurePhase || !transformation || store_->size() == 0) return;
-  DrawTarget target(painter, *transformation);
+  drawWithEffects(LayerHost::effects(*this), painter,
+                  [&](QPainter& own) { drawFeatures(own, *transformation, cancel); });
+}
+
+void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& transformation,
+                               _ptr_t<TrackerCancel> const& cancel) {
+  DrawTarget target(painter, transformation);
   double const scale = pixelsPerUnit(target.toDevice());
   if (!(scale > 0) || !std::isfinite(scale) || target.area().isEmpty()) return;
 

@@ -48,6 +48,9 @@ public:
                              SysUtility::_ptr_t<SysUI::TrackerCancel> cancel) override;
 
 private:
+  void drawFeatures(QPainter& painter, SysDisplay::DisplayTransformation const& transformation,
+                    SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
+
   SourceSettings source_;
   QString problem_;
   std::unique_ptr<Renderer> renderer_;

@@ -1,5 +1,4 @@
-#include "Files.h"
-#include "Pictures.h"
+#include "LayerFixture.h"
 #include "Symbols.h"
 #include "Elements.h"
 
@@ -65,25 +64,22 @@ _ptr_t<MapFrameElement> framedMap() {
 }
 
 // Two rectangles of one colour that cover each other in the middle of the map.
-class Patches final : public Layer {
-public:
-  explicit Patches(QColor const& color) : symbol_(fill(color, SysDisplay::SimpleFillStyle::Solid, nullptr)) {}
-  int GetType() const override { return LayerType::Feature; }
-  void Draw(QPainter& painter, Transformation const& transformation, int,
-            _ptr_t<SysUI::TrackerCancel> const&) override {
-    symbol_->Draw(painter, transformation, make<Envelope>(200.3, 0, 1300, 1500));
-    symbol_->Draw(painter, transformation, make<Envelope>(700, 0, 1800.7, 1500));
-  }
-
-private:
-  _ptr_t<SysDisplay::FillSymbol> const symbol_;
-};
+_ptr_t<Layer> patches(QColor const& color) {
+  auto const rectangle = [](double left, double right) {
+    QByteArray const x1 = QByteArray::number(left), x2 = QByteArray::number(right);
+    return feature(R"({"type":"Polygon","coordinates":[[[)" + x1 + ",0],[" + x2 + ",0],[" + x2 + ",1500],[" + x1 +
+                       ",1500],[" + x1 + ",0]]]}",
+                   "A");
+  };
+  auto const symbol = fill(color, SysDisplay::SimpleFillStyle::Solid, nullptr);
+  return openedJson(collection({rectangle(200.3, 1300), rectangle(700, 1800.7)}), "", symbol).layer;
+}
 
 _ptr_t<MapFrameElement> mapOfPatches(LayerEffects const& above) {
   auto const frame = framed(0);
   ElementContainer page;
   page.AddElement(frame);
-  auto const ground = make<Patches>(QColor(255, 204, 51)), covering = make<Patches>(QColor(0, 102, 204));
+  auto const ground = patches(QColor(255, 204, 51)), covering = patches(QColor(0, 102, 204));
   LayerHost::setEffects(*covering, above);
   frame->GetMap()->AddLayer(ground);
   frame->GetMap()->AddLayer(covering);
