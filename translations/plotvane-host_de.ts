@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Draw the page also where a data source can&apos;t be read; its layer stays empty.</source>
-        <translation>Die Seite auch zeichnen, wenn eine Datenquelle nicht gelesen werden kann; ihr Layer bleibt leer.</translation>
+        <translation type="vanished">Die Seite auch zeichnen, wenn eine Datenquelle nicht gelesen werden kann; ihr Layer bleibt leer.</translation>
     </message>
     <message>
         <source>export: --dpi takes a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -1157,11 +1157,11 @@
     </message>
     <message>
         <source>%1: the document has no page to draw.</source>
-        <translation>%1: Das Dokument hat keine Seite zum Zeichnen.</translation>
+        <translation type="vanished">%1: Das Dokument hat keine Seite zum Zeichnen.</translation>
     </message>
     <message>
         <source>%1 was not written: interrupted.</source>
-        <translation>%1 wurde nicht geschrieben: abgebrochen.</translation>
+        <translation>%1 wurde nicht geschrieben: unterbrochen.</translation>
     </message>
     <message>
         <source>The file to write; its suffix names the format: %1. Without one it is a TIFF.</source>
@@ -1178,6 +1178,14 @@
     <message>
         <source>export: %1: &quot;.%2&quot; names no image format; use one of %3, or pass --format tiff or another.</source>
         <translation>export: %1: „.%2“ nennt kein Bildformat; nehmen Sie eine der Endungen %3, oder geben Sie --format tiff oder ein anderes an.</translation>
+    </message>
+    <message>
+        <source>Draw the page also where a data source or a picture can&apos;t be read, or not to its end.</source>
+        <translation>Die Seite auch dann zeichnen, wenn eine Datenquelle oder ein Bild nicht oder nicht bis zum Ende gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
+        <translation>%1: Das Dokument hat keine Seite, die gezeichnet werden könnte; geben Sie ihm eine, etwa &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</translation>
     </message>
 </context>
 <context>
@@ -2754,7 +2762,7 @@
     <name>FileSaver</name>
     <message>
         <source>its folder does not exist</source>
-        <translation>der Ordner existiert nicht</translation>
+        <translation type="vanished">der Ordner existiert nicht</translation>
     </message>
     <message>
         <source>there is no room for it</source>
@@ -2762,15 +2770,15 @@
     </message>
     <message>
         <source>this is a folder</source>
-        <translation>dies ist ein Ordner</translation>
+        <translation>das ist ein Ordner</translation>
     </message>
     <message>
         <source>choose a file name</source>
-        <translation>wählen Sie einen Dateinamen</translation>
+        <translation type="vanished">wählen Sie einen Dateinamen</translation>
     </message>
     <message>
         <source>create the folder or choose another</source>
-        <translation>legen Sie den Ordner an, oder wählen Sie einen anderen</translation>
+        <translation type="vanished">legen Sie den Ordner an, oder wählen Sie einen anderen</translation>
     </message>
     <message>
         <source>choose a place where you may write</source>
@@ -2783,6 +2791,46 @@
     <message>
         <source>check the disk or choose another place</source>
         <translation>prüfen Sie den Datenträger, oder wählen Sie einen anderen Ort</translation>
+    </message>
+    <message>
+        <source>No file was named; give it a name.</source>
+        <translation>Es wurde keine Datei genannt; geben Sie ihr einen Namen.</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>der Ordner %1 existiert nicht</translation>
+    </message>
+    <message>
+        <source>make it first, or choose another</source>
+        <translation>legen Sie ihn an oder wählen Sie einen anderen</translation>
+    </message>
+    <message>
+        <source>name a file in it</source>
+        <translation>nennen Sie eine Datei darin</translation>
+    </message>
+    <message>
+        <source>choose another name</source>
+        <translation>wählen Sie einen anderen Namen</translation>
+    </message>
+    <message>
+        <source>this is no ordinary file</source>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>the folder %1 can&apos;t be written (%2)</source>
+        <translation>in den Ordner %1 kann nicht geschrieben werden (%2)</translation>
+    </message>
+    <message>
+        <source>choose another</source>
+        <translation>wählen Sie einen anderen</translation>
+    </message>
+    <message>
+        <source>this file is write-protected</source>
+        <translation>diese Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>choose another name, or unlock it</source>
+        <translation>wählen Sie einen anderen Namen oder heben Sie den Schutz auf</translation>
     </message>
 </context>
 <context>
@@ -2861,15 +2909,15 @@
     <name>ImageTarget</name>
     <message>
         <source>%1: the folder %2 does not exist; make it first.</source>
-        <translation>%1: Der Ordner %2 existiert nicht; legen Sie ihn zuerst an.</translation>
+        <translation type="vanished">%1: Der Ordner %2 existiert nicht; legen Sie ihn zuerst an.</translation>
     </message>
     <message>
         <source>%1: the folder %2 can&apos;t be written (%3); choose another.</source>
-        <translation>%1: In den Ordner %2 kann nicht geschrieben werden (%3); wählen Sie einen anderen.</translation>
+        <translation type="vanished">%1: In den Ordner %2 kann nicht geschrieben werden (%3); wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>%1 is a folder; name a file in it.</source>
-        <translation>%1 ist ein Ordner; nennen Sie eine Datei darin.</translation>
+        <translation type="vanished">%1 ist ein Ordner; nennen Sie eine Datei darin.</translation>
     </message>
     <message>
         <source>%1 is the document itself; name another file for the image.</source>
@@ -2877,15 +2925,15 @@
     </message>
     <message>
         <source>%1 can&apos;t be written: %2.</source>
-        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+        <translation type="vanished">%1 kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
         <source>%1 is not an ordinary file; name another.</source>
-        <translation>%1 ist keine gewöhnliche Datei; nennen Sie eine andere.</translation>
+        <translation type="vanished">%1 ist keine gewöhnliche Datei; nennen Sie eine andere.</translation>
     </message>
     <message>
         <source>%1 is write-protected; name another file or unlock it.</source>
-        <translation>%1 ist schreibgeschützt; nennen Sie eine andere Datei, oder heben Sie den Schutz auf.</translation>
+        <translation type="vanished">%1 ist schreibgeschützt; nennen Sie eine andere Datei, oder heben Sie den Schutz auf.</translation>
     </message>
     <message>
         <source>%1: the image would have no pixels; give more DPI.</source>
@@ -2934,6 +2982,10 @@
     <message>
         <source>%1 was not written: %2. Is the disk full?</source>
         <translation>%1 wurde nicht geschrieben: %2. Ist der Datenträger voll?</translation>
+    </message>
+    <message>
+        <source>%1 is a file that the page is drawn from; name another file for the image.</source>
+        <translation>Aus %1 wird die Seite gezeichnet; nennen Sie eine andere Datei für das Bild.</translation>
     </message>
 </context>
 <context>
@@ -3246,6 +3298,17 @@
     <message>
         <source>Keep</source>
         <translation>Beibehalten</translation>
+    </message>
+</context>
+<context>
+    <name>OutputWatch</name>
+    <message>
+        <source>%1 holds a TIFF: this export writes no &quot;.%2&quot;; rename it to .tif, or name an image that ends in %3.</source>
+        <translation>%1 enthält ein TIFF: Dieser Export schreibt kein „.%2“; benennen Sie die Datei in .tif um oder nennen Sie ein Bild, das auf %3 endet.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: interrupted.</source>
+        <translation>%1 wurde nicht geschrieben: unterbrochen.</translation>
     </message>
 </context>
 <context>

@@ -1141,7 +1141,7 @@
     </message>
     <message>
         <source>Draw the page also where a data source can&apos;t be read; its layer stays empty.</source>
-        <translation>即使数据源无法读取也绘制页面；相应图层留空。</translation>
+        <translation type="vanished">即使数据源无法读取也绘制页面；相应图层留空。</translation>
     </message>
     <message>
         <source>export: --dpi takes a whole number from 1 to %1, not &quot;%2&quot;.</source>
@@ -1157,7 +1157,7 @@
     </message>
     <message>
         <source>%1: the document has no page to draw.</source>
-        <translation>%1：文档没有可绘制的页面。</translation>
+        <translation type="vanished">%1：文档没有可绘制的页面。</translation>
     </message>
     <message>
         <source>%1 was not written: interrupted.</source>
@@ -1178,6 +1178,14 @@
     <message>
         <source>export: %1: &quot;.%2&quot; names no image format; use one of %3, or pass --format tiff or another.</source>
         <translation>export：%1：“.%2”不是图像格式的扩展名；请使用 %3 之一，或加上 --format tiff 等选项。</translation>
+    </message>
+    <message>
+        <source>Draw the page also where a data source or a picture can&apos;t be read, or not to its end.</source>
+        <translation>即使数据源或图片无法读取或无法完整读取，也绘制页面。</translation>
+    </message>
+    <message>
+        <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
+        <translation>%1：文档没有可绘制的页面；请给它一个，例如 &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}。</translation>
     </message>
 </context>
 <context>
@@ -2754,7 +2762,7 @@
     <name>FileSaver</name>
     <message>
         <source>its folder does not exist</source>
-        <translation>所在文件夹不存在</translation>
+        <translation type="vanished">所在文件夹不存在</translation>
     </message>
     <message>
         <source>there is no room for it</source>
@@ -2766,11 +2774,11 @@
     </message>
     <message>
         <source>choose a file name</source>
-        <translation>请选择文件名</translation>
+        <translation type="vanished">请选择文件名</translation>
     </message>
     <message>
         <source>create the folder or choose another</source>
-        <translation>请创建该文件夹或选择其他文件夹</translation>
+        <translation type="vanished">请创建该文件夹或选择其他文件夹</translation>
     </message>
     <message>
         <source>choose a place where you may write</source>
@@ -2783,6 +2791,46 @@
     <message>
         <source>check the disk or choose another place</source>
         <translation>请检查磁盘或选择其他位置</translation>
+    </message>
+    <message>
+        <source>No file was named; give it a name.</source>
+        <translation>未指定文件；请给出文件名。</translation>
+    </message>
+    <message>
+        <source>the folder %1 does not exist</source>
+        <translation>文件夹 %1 不存在</translation>
+    </message>
+    <message>
+        <source>make it first, or choose another</source>
+        <translation>请先创建它，或选择其他文件夹</translation>
+    </message>
+    <message>
+        <source>name a file in it</source>
+        <translation>请指定其中的一个文件</translation>
+    </message>
+    <message>
+        <source>choose another name</source>
+        <translation>请选择其他名称</translation>
+    </message>
+    <message>
+        <source>this is no ordinary file</source>
+        <translation>这不是普通文件</translation>
+    </message>
+    <message>
+        <source>the folder %1 can&apos;t be written (%2)</source>
+        <translation>无法写入文件夹 %1（%2）</translation>
+    </message>
+    <message>
+        <source>choose another</source>
+        <translation>请选择其他文件夹</translation>
+    </message>
+    <message>
+        <source>this file is write-protected</source>
+        <translation>此文件受写保护</translation>
+    </message>
+    <message>
+        <source>choose another name, or unlock it</source>
+        <translation>请选择其他名称，或解除保护</translation>
     </message>
 </context>
 <context>
@@ -2861,15 +2909,15 @@
     <name>ImageTarget</name>
     <message>
         <source>%1: the folder %2 does not exist; make it first.</source>
-        <translation>%1：文件夹 %2 不存在；请先创建。</translation>
+        <translation type="vanished">%1：文件夹 %2 不存在；请先创建。</translation>
     </message>
     <message>
         <source>%1: the folder %2 can&apos;t be written (%3); choose another.</source>
-        <translation>%1：无法写入文件夹 %2（%3）；请选择其他文件夹。</translation>
+        <translation type="vanished">%1：无法写入文件夹 %2（%3）；请选择其他文件夹。</translation>
     </message>
     <message>
         <source>%1 is a folder; name a file in it.</source>
-        <translation>%1 是文件夹；请指定其中的文件。</translation>
+        <translation type="vanished">%1 是文件夹；请指定其中的文件。</translation>
     </message>
     <message>
         <source>%1 is the document itself; name another file for the image.</source>
@@ -2877,15 +2925,15 @@
     </message>
     <message>
         <source>%1 can&apos;t be written: %2.</source>
-        <translation>无法写入 %1：%2。</translation>
+        <translation type="vanished">无法写入 %1：%2。</translation>
     </message>
     <message>
         <source>%1 is not an ordinary file; name another.</source>
-        <translation>%1 不是普通文件；请指定其他文件。</translation>
+        <translation type="vanished">%1 不是普通文件；请指定其他文件。</translation>
     </message>
     <message>
         <source>%1 is write-protected; name another file or unlock it.</source>
-        <translation>%1 已写保护；请指定其他文件或解除写保护。</translation>
+        <translation type="vanished">%1 已写保护；请指定其他文件或解除写保护。</translation>
     </message>
     <message>
         <source>%1: the image would have no pixels; give more DPI.</source>
@@ -2934,6 +2982,10 @@
     <message>
         <source>%1 was not written: %2. Is the disk full?</source>
         <translation>%1 未写入：%2。磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>%1 is a file that the page is drawn from; name another file for the image.</source>
+        <translation>%1 是绘制此页面所用的文件；请为图像指定其他文件。</translation>
     </message>
 </context>
 <context>
@@ -3246,6 +3298,17 @@
     <message>
         <source>Keep</source>
         <translation>保留</translation>
+    </message>
+</context>
+<context>
+    <name>OutputWatch</name>
+    <message>
+        <source>%1 holds a TIFF: this export writes no &quot;.%2&quot;; rename it to .tif, or name an image that ends in %3.</source>
+        <translation>%1 中是 TIFF：此导出不写“.%2”；请将其改名为 .tif，或指定以 %3 结尾的图像。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: interrupted.</source>
+        <translation>%1 未写入：已中断。</translation>
     </message>
 </context>
 <context>

@@ -38,7 +38,7 @@ bool CommandSet::click(HostedCommand const& command) {
   if (command.tool) {
     makeCurrent(command);
   } else {
-    OutputWatch const watch;
+    OutputWatch const watch(views_.document());
     command.command->OnClick();
     problem = watch.problem();
   }

@@ -3,6 +3,7 @@
 #include "DocumentSession.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
+#include "host/SysUtility/FileSaver.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -156,9 +157,15 @@ bool DocumentFiles::read(QString const& path) {
   return true;
 }
 
+bool DocumentFiles::isReadOnly() const {
+  return (lock_ && lock_->isForeign()) ||
+         (!session_.path().isEmpty() && !SysUtility::FileSaver::checkPlace(session_.path()).isEmpty());
+}
+
 // Whoever had the document open first may have closed it meanwhile.
 bool DocumentFiles::save() {
-  bool const hasPlace = !session_.path().isEmpty() && lockFor(session_.path())->take();
+  bool const hasPlace =
+      SysUtility::FileSaver::checkPlace(session_.path()).isEmpty() && lockFor(session_.path())->take();
   return hasPlace ? write(session_.path()) : saveAs();
 }
 
@@ -218,18 +225,23 @@ void DocumentFiles::noteChanges(QStringList const& paths) {
   for (QString const& path : qAsConst(changed))
     if (!changed_.contains(path)) changed_ << path;
   for (QString const& path : qAsConst(missing)) changed_.removeAll(path);
+  if (missing.contains(session_.path()))
+    session_.setFileGivenUp(true);
+  else if (paths.contains(session_.path()) && !session_.isFileChanged())
+    session_.setFileGivenUp(false);
   if (!changed.isEmpty()) sentences << tr("Changed by another program: %1.").arg(namesOf(changed));
   if (!missing.isEmpty()) sentences << tr("Removed by another program: %1.").arg(namesOf(missing));
   if (!sentences.isEmpty()) emit changedOutside(sentences.join(QLatin1Char(' ')), !changed_.isEmpty());
 }
 
-void DocumentFiles::reload() {
+bool DocumentFiles::reload() {
   if (changed_.contains(session_.path())) {
-    if (session_.isModified() &&
+    if (session_.hasChanges() &&
         !confirm(tr("%1 holds changes that were not saved.").arg(session_.title()), tr("Drop them and read the file?")))
-      return;
-    read(session_.path());
-    return;
+      return false;
+    bool const isRead = read(session_.path());
+    if (!isRead) session_.setFileGivenUp(true);
+    return isRead;
   }
   auto const layout = session_.document().GetPageLayout();
   if (layout) SysCarto::readAgain(*layout, changed_);
@@ -237,6 +249,11 @@ void DocumentFiles::reload() {
   emit dataReplaced();
   QStringList const problems = problemsOf(session_);
   if (!problems.isEmpty()) tell(QMessageBox::Warning, tr("Not all data could be read."), problems);
+  return true;
+}
+
+void DocumentFiles::keep() {
+  if (changed_.removeAll(session_.path()) > 0) session_.setFileGivenUp(true);
 }
 
 void DocumentFiles::fillWithRecent(QMenu& menu) {

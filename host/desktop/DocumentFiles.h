@@ -35,14 +35,19 @@ public:
   /// Whether the page may be drawn: it is whole, or a person does not mind.
   bool mayExport();
 
-  /// Whether somebody else had the document open first.
-  bool isReadOnly() const { return lock_ && lock_->isForeign(); }
+  /// Whether the document can only be saved under another name: somebody else had it open first, or its file can't be
+  /// written.
+  bool isReadOnly() const;
 
   /// Looks for changes that were not told of.
   void look() { watch_.look(); }
 
-  /// Reads anew what `changedOutside` last told of.
-  void reload();
+  /// Reads anew what `changedOutside` last told of; false where that is still to be done.
+  bool reload();
+
+  /// Lets be what `changedOutside` last told of. A document that another program has changed counts as modified from
+  /// now on.
+  void keep();
 
   /// Makes the menu list the recent files whenever it is about to be shown.
   void fillWithRecent(QMenu& menu);

@@ -25,6 +25,7 @@ QString DocumentSession::takeProblem() { return SysCarto::MapDocumentHost::takeL
 
 bool DocumentSession::settle(bool done) {
   if (!done) return false;
+  isFileGivenUp_ = false;
   emit replaced();
   return true;
 }
@@ -45,6 +46,11 @@ bool DocumentSession::saveAs(QString const& path) {
   if (!document_.SaveAs(path, document_.IsUsesRelativePaths(), false)) return false;
   fileDigest_ = contentDigest(path);
   return settle(true);
+}
+
+void DocumentSession::setFileGivenUp(bool isGivenUp) {
+  isFileGivenUp_ = isGivenUp;
+  emit modifiedChanged();
 }
 
 bool DocumentSession::isFileChanged() const {

@@ -31,7 +31,14 @@ public:
   bool isFileChanged() const;
 
   /// Whether a save would write what the file does not hold. What is kept out of the history counts, too.
-  bool isModified() const { return document_.isModified(); }
+  bool isModified() const { return isFileGivenUp_ || hasChanges(); }
+
+  /// Whether the document is no longer as it was read or saved here.
+  bool hasChanges() const { return document_.isModified(); }
+
+  /// Whether the file counts as one that does not hold the document, whatever it holds; until the document is saved or
+  /// read the next time.
+  void setFileGivenUp(bool isGivenUp);
 
 signals:
   /// Another document, or the same with another file: everything about it is to be asked anew.
@@ -40,9 +47,13 @@ signals:
   /// The history has moved.
   void historyChanged();
 
+  /// Whether the document counts as modified has been decided anew.
+  void modifiedChanged();
+
 private:
   bool settle(bool done);
 
   SysCarto::MapDocument document_;
   QByteArray fileDigest_;  // of the file, as it is known here
+  bool isFileGivenUp_ = false;
 };

@@ -22,6 +22,8 @@ public:
   DocumentViews(SysCarto::MapDocument& document, QWidget* parent);
   ~DocumentViews() override;
 
+  SysCarto::MapDocument const& document() const { return document_; }
+
   /// Shows the layout that the document holds now.
   void follow();
 

@@ -79,8 +79,9 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
                                tr("Pixels per inch of paper, 1 to %1; %2 if not given.").arg(maxDpi).arg(defaultDpi),
                                QStringLiteral("N"), QString::number(defaultDpi));
   QCommandLineOption const quiet(QStringLiteral("quiet"), tr("Print neither the path nor the progress."));
-  QCommandLineOption const missing(QStringLiteral("allow-missing"),
-                                   tr("Draw the page also where a data source can't be read; its layer stays empty."));
+  QCommandLineOption const missing(
+      QStringLiteral("allow-missing"),
+      tr("Draw the page also where a data source or a picture can't be read, or not to its end."));
   parser.addOptions({format, dpi, quiet, missing});
   if (auto const settled = parseArguments(self, parser, arguments)) return settled;
 
@@ -115,8 +116,9 @@ QString ExportSubcommand::run() {
   ImageTarget target(request_.image, *request_.format);
   QSize size;
   QString problem = checkFormat();
-  if (problem.isEmpty()) problem = target.checkPlace(request_.document);
+  if (problem.isEmpty()) problem = target.checkPlace();
   if (problem.isEmpty()) problem = openDocument();
+  if (problem.isEmpty()) problem = target.checkAgainst(document_);
   if (problem.isEmpty()) problem = imageSize(size);
   if (problem.isEmpty()) problem = target.checkSize(size);
   if (problem.isEmpty()) problem = target.prepare();
@@ -147,7 +149,9 @@ QString ExportSubcommand::openDocument() {
 
 QString ExportSubcommand::imageSize(QSize& size) const {
   auto const layout = document_.GetPageLayout();
-  if (!layout || !layout->GetPage()) return tr("%1: the document has no page to draw.").arg(request_.document);
+  if (!layout || !layout->GetPage())
+    return tr("%1: the document has no page to draw; give it one, such as \"page\": {\"form\": \"A4\"}.")
+        .arg(request_.document);
   layout->QueryOutputSize(request_.dpi, size.rwidth(), size.rheight());
   return QString();
 }

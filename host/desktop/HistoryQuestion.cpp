@@ -32,17 +32,14 @@ constexpr CostlyCommand costlyCommands[] = {
 
 }  // namespace
 
-HistoryQuestion::HistoryQuestion(DocumentSession& session, QWidget& parent) : session_(session), parent_(parent) {
-  connect(&session, &DocumentSession::historyChanged, this, [this] { agreed_ = false; });
-}
-HistoryQuestion::~HistoryQuestion() = default;
+HistoryQuestion::HistoryQuestion(DocumentSession& session, QWidget& parent) : session_(session), parent_(parent) {}
 
-bool HistoryQuestion::mayRun(QString const& identifier) {
+bool HistoryQuestion::mayRun(QString const& identifier) const {
   QUndoStack const& history = *SysCarto::MapDocumentHost::history(session_.document());
   auto const* const command =
       std::find_if(std::begin(costlyCommands), std::end(costlyCommands),
                    [&](CostlyCommand const& one) { return identifier == QLatin1String(one.identifier); });
-  if (command == std::end(costlyCommands) || history.count() == 0 || agreed_) return true;
+  if (command == std::end(costlyCommands) || history.count() == 0) return true;
 
   QStringList steps;
   for (int i = history.count() - 1; i >= 0 && steps.size() < maxNames; --i)
@@ -53,6 +50,5 @@ bool HistoryQuestion::mayRun(QString const& identifier) {
   QPushButton* const go = box.addButton(tr("Continue"), QMessageBox::AcceptRole);
   box.setDefaultButton(go);
   box.exec();
-  agreed_ = box.clickedButton() == go;
-  return agreed_;
+  return box.clickedButton() == go;
 }

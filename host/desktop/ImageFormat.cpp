@@ -8,7 +8,7 @@
 namespace {
 
 constexpr ImageFormat formats[] = {
-    {"png", "png", "PNG"}, {"jpeg", "jpg", "JPEG"}, {"bmp", "bmp", "BMP"}, {"tiff", "tif tiff", "GTiff"}};
+    {"png", "png", "PNG"}, {"jpeg", "jpg jpeg", "JPEG"}, {"bmp", "bmp", "BMP"}, {"tiff", "tif tiff", "GTiff"}};
 
 template <class Predicate>
 ImageFormat const* first(Predicate isWanted) {
@@ -21,7 +21,9 @@ ImageFormat const* first(Predicate isWanted) {
 QStringList ImageFormat::suffixList() const { return QString::fromLatin1(suffixes).split(QLatin1Char(' ')); }
 
 ImageFormat const* ImageFormat::named(QString const& name) {
-  return first([&](ImageFormat const& one) { return name.compare(QLatin1String(one.name), Qt::CaseInsensitive) == 0; });
+  auto const* const found =
+      first([&](ImageFormat const& one) { return name.compare(QLatin1String(one.name), Qt::CaseInsensitive) == 0; });
+  return found ? found : withSuffix(name);
 }
 
 ImageFormat const* ImageFormat::withSuffix(QString const& suffix) {
@@ -29,7 +31,9 @@ ImageFormat const* ImageFormat::withSuffix(QString const& suffix) {
 }
 
 ImageFormat const& ImageFormat::writtenAt(QString const& path) {
-  ImageFormat const* const found = withSuffix(QFileInfo(path).suffix());
+  QString const suffix = QFileInfo(path).suffix();
+  ImageFormat const* const found =
+      first([&](ImageFormat const& one) { return suffix.compare(one.suffixList().first(), Qt::CaseInsensitive) == 0; });
   return found ? *found : *named(QStringLiteral("tiff"));
 }
 
@@ -43,5 +47,11 @@ QString ImageFormat::allSuffixes() {
   QStringList all;
   for (ImageFormat const& one : formats)
     for (QString const& suffix : one.suffixList()) all << QLatin1Char('.') + suffix;
+  return all.join(QStringLiteral(", "));
+}
+
+QString ImageFormat::writtenSuffixes() {
+  QStringList all;
+  for (ImageFormat const& one : formats) all << QLatin1Char('.') + one.suffixList().first();
   return all.join(QStringLiteral(", "));
 }

@@ -10,13 +10,16 @@ struct ImageFormat {
 
   QStringList suffixList() const;
 
-  // Without regard to case; null where there is no such format.
+  // Without regard to case; null where there is no such format. A suffix is a name, too.
   static ImageFormat const* named(QString const& name);
   static ImageFormat const* withSuffix(QString const& suffix);
 
-  /// What the plug-in writes at a path: a TIFF where the suffix names nothing.
+  /// What the plug-in writes at a path: a TIFF where it does not know the suffix.
   static ImageFormat const& writtenAt(QString const& path);
 
   static QString names();        ///< "png, jpeg, …"
   static QString allSuffixes();  ///< ".png, .jpg, …"
+
+  /// Those by which the plug-in writes each format.
+  static QString writtenSuffixes();
 };

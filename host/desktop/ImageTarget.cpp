@@ -1,8 +1,13 @@
 #include "ImageTarget.h"
 
+#include "FileStamp.h"
 #include "ImageFormat.h"
 
+#include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/projection/GdalErrors.h"
+#include "host/SysUtility/FileSaver.h"
+
+#include <SysCarto/MapDocument.h>
 
 #include <QDir>
 #include <QFile>
@@ -15,7 +20,6 @@
 #include <gdal_priv.h>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -106,22 +110,17 @@ ImageTarget::~ImageTarget() = default;
 
 bool ImageTarget::is(char const* driver) const { return std::strcmp(format_.driver, driver) == 0; }
 
-QString ImageTarget::checkPlace(QString const& document) const {
-  QFileInfo const target(path_);
-  QFileInfo const folder(target.absolutePath());
-  if (!folder.isDir()) return tr("%1: the folder %2 does not exist; make it first.").arg(name_, folder.filePath());
-  if (access(QFile::encodeName(folder.filePath()).constData(), W_OK | X_OK) != 0)
-    return tr("%1: the folder %2 can't be written (%3); choose another.")
-        .arg(name_, folder.filePath(), systemReason(errno));
-  if (target.isDir()) return tr("%1 is a folder; name a file in it.").arg(name_);
-  if (target.exists() && path_ == resolved(document))
-    return tr("%1 is the document itself; name another file for the image.").arg(name_);
+QString ImageTarget::checkPlace() const { return SysUtility::FileSaver::checkPlace(name_); }
 
-  struct stat status = {};
-  if (lstat(QFile::encodeName(path_).constData(), &status) != 0)
-    return errno == ENOENT ? QString() : tr("%1 can't be written: %2.").arg(name_, systemReason(errno));
-  if (!S_ISREG(status.st_mode)) return tr("%1 is not an ordinary file; name another.").arg(name_);
-  if (!target.isWritable()) return tr("%1 is write-protected; name another file or unlock it.").arg(name_);
+QString ImageTarget::checkAgainst(SysCarto::MapDocument const& document) const {
+  FileStamp const there = FileStamp::of(path_);
+  if (!there.exists()) return QString();
+  if (there == FileStamp::of(document.GetPath()))
+    return tr("%1 is the document itself; name another file for the image.").arg(name_);
+  auto const layout = document.GetPageLayout();
+  for (auto const& source : layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>())
+    if (there == FileStamp::of(source.file))
+      return tr("%1 is a file that the page is drawn from; name another file for the image.").arg(name_);
   return QString();
 }
 

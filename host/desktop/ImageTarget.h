@@ -11,7 +11,8 @@ class QTemporaryDir;
 
 namespace SysCarto {
 class GdalErrors;
-}
+class MapDocument;
+}  // namespace SysCarto
 
 struct ImageFormat;
 
@@ -29,8 +30,11 @@ public:
   ImageTarget(ImageTarget const&) = delete;
   ImageTarget& operator=(ImageTarget const&) = delete;
 
-  /// Whether a file can be put there at all; `document` is the one file that it must not replace.
-  QString checkPlace(QString const& document) const;
+  /// Whether a file can be put there at all.
+  QString checkPlace() const;
+
+  /// Whether it would replace the document, or a file that its page is drawn from.
+  QString checkAgainst(SysCarto::MapDocument const& document) const;
 
   /// Whether the format, the disk and the memory can hold an image of that size.
   QString checkSize(QSize const& size) const;

@@ -153,9 +153,13 @@ void MainWindow::connectFiles() {
     bench_.views().redraw();
   });
   connect(&bench_.session(), &DocumentSession::replaced, notice_, &QWidget::hide);
+  connect(&bench_.session(), &DocumentSession::modifiedChanged, actions_.get(), &ActionTable::refreshSoon);
   connect(notice_, &NoticeBar::reloadWanted, this, [this] {
+    if (files_.reload()) notice_->hide();
+  });
+  connect(notice_, &NoticeBar::keepWanted, this, [this] {
     notice_->hide();
-    files_.reload();
+    files_.keep();
   });
   bench_.commands().setGuard([this](CommandEntry const& entry) {
     if (entry.identifier == QLatin1String("Plotvane_Export")) return files_.mayExport();
@@ -190,6 +194,7 @@ void MainWindow::buildStatusBar() {
   scale_->setToolTip(tr("Scale of the map in the focus data frame; type another one"));
   scale_->setFixedWidth(scale_->fontMetrics().horizontalAdvance(QStringLiteral("1:000,000,000")) + 3 * labelMarginPx);
   connect(scale_, &QLineEdit::editingFinished, this, &MainWindow::takeScale);
+  connect(scale_, &QLineEdit::returnPressed, this, [this] { bench_.views().currentWidget()->setFocus(); });
   statusBar()->addPermanentWidget(new QLabel(tr("Map"), this));
   statusBar()->addPermanentWidget(scale_);
   zoom_ = addLabel(*statusBar(), tr("Zoom 0000 %"), tr("Size of the page on the screen; 100 % is its size on paper"));

@@ -21,7 +21,7 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), text_(new QLabel(this)),
   row->addWidget(reload_);
   row->addWidget(keep);
   connect(reload_, &QPushButton::clicked, this, &NoticeBar::reloadWanted);
-  connect(keep, &QPushButton::clicked, this, &QWidget::hide);
+  connect(keep, &QPushButton::clicked, this, &NoticeBar::keepWanted);
   hide();
 }
 

@@ -18,6 +18,7 @@ public:
 
 signals:
   void reloadWanted();
+  void keepWanted();
 
 private:
   QLabel* text_;

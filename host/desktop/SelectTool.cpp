@@ -1,5 +1,7 @@
 #include "SelectTool.h"
 
+#include "host/SysCarto/elements/ElementHit.h"
+
 #include <SysCarto/Map.h>
 #include <SysFramework/HostAccess.h>
 
@@ -28,15 +30,10 @@ _ptr_t<Element> elementAt(PageLayout const& layout, QPoint const& pixel, bool ma
   QPointF const point = pageOf(layout, pixel);
   double const reach = reachPx / layout.GetDisplayTransformation()->ToDevice().m11();
   auto const elements = layout.GetGraphicsContainer()->GetElements();
-  auto const isHit = [&](_ptr_t<Element> const& element) {
-    auto const box = element->GetType() == SysCarto::ElementType::Marker
-                         ? element->GetBoundary(layout.GetDisplayTransformation())->GetEnvelope()
-                         : element->GetEnvelope();
-    return (mayBeLocked || !isLocked(*element)) && point.x() >= box->GetXMin() - reach &&
-           point.x() <= box->GetXMax() + reach && point.y() >= box->GetYMin() - reach &&
-           point.y() <= box->GetYMax() + reach;
-  };
-  auto const hit = std::find_if(elements.crbegin(), elements.crend(), isHit);
+  SysGeometry::Envelope const place(point.x() - reach, point.y() - reach, point.x() + reach, point.y() + reach);
+  auto const hit = std::find_if(elements.crbegin(), elements.crend(), [&](_ptr_t<Element> const& element) {
+    return (mayBeLocked || !isLocked(*element)) && SysCarto::isHit(*element, place, layout.GetDisplayTransformation());
+  });
   return hit == elements.crend() ? nullptr : *hit;
 }
 

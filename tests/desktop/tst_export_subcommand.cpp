@@ -43,6 +43,7 @@ private slots:
   void writesTheFormatOfTheSuffix_data() {
     Rows<QStringList, QString> row;
     row("jpg in capitals", {"a.JPG"}, "JPEG");
+    row("jpg and jpeg are one", {"a.jpeg", "--format", "jpg"}, "JPEG");
     row("no suffix is a TIFF", {"a"}, "GTiff");
     row("a format against a suffix that names none", {"a.pdf", "--format", "PNG"}, "PNG");
   }
@@ -123,7 +124,7 @@ private slots:
     row("the document, by another way", "page.kdx folder.png/../page.kdx --format tiff", "is the document itself");
     row("a target folder that does not exist", "page.kdx nowhere/a.png", "does not exist");
     row("a folder as target", "page.kdx folder.png", "is a folder");
-    row("a device as target", "page.kdx /dev/null", "not an ordinary file");
+    row("a device as target", "page.kdx /dev/null", "no ordinary file");
     row("a file system that refuses files", "page.kdx /proc/a.png", "/proc");
     row("a name that is too long", "page.kdx " + QString(300, 'a') + ".png", "too long");
     row("more pixels than a JPEG holds", "page.kdx 100%1.jpg --dpi 100000", "100%1.jpg: the image would be 314960");
@@ -176,13 +177,20 @@ private slots:
     QCOMPARE(contents(disk.path()), (QMap<QString, QByteArray>{{disk.path(name), "old"}}));
   }
 
+  void anInterruptLeavesTheFolderAsItWas_data() {
+    Rows<QString> row;
+    row("without the plug-in", "export page.kdx late.tif --dpi 1500");
+    row("through its dialog",
+        "run page.kdx answer=lineEdit_OutputPath:late.tif answer=lineEdit_DPI:1500 Plotvane_Export");
+  }
   void anInterruptLeavesTheFolderAsItWas() {
+    auto const [arguments] = fetched<QString>();
     auto const before = contents(folder_.path());
     QProcess process;
-    prepare(process, {"export", "page.kdx", "late.tif", "--dpi", "1500"}, folder_.path());
+    prepare(process, arguments.split(' '), folder_.path());
     process.start();
     QDir const folder(folder_.path());
-    QTRY_VERIFY(!folder.entryList({".plotvane-*"}, QDir::Dirs | QDir::Hidden).isEmpty());
+    QTRY_VERIFY(!folder.entryList({".plotvane-*", "{*}.tif"}, QDir::AllEntries | QDir::Hidden).isEmpty());
     kill(static_cast<pid_t>(process.processId()), SIGTERM);
     Outcome const outcome = finish(process);
     QCOMPARE(outcome.status, 1);

@@ -2,6 +2,9 @@
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+
 using SysCarto::MapDocumentHost;
 using SysCarto::MapFrameElement;
 using SysCarto::RectangleElement;
@@ -35,6 +38,32 @@ private slots:
     page.drag(page.pixel(1, 3), page.pixel(7, 8), Qt::ShiftModifier);
     QCOMPARE(page.selected().size(), 2);
     QVERIFY(!page.bench.session().document().GetOperationStack()->CanUndo());
+  }
+
+  void whatIsNotFilledIsHitOnItsOutline() {
+    Page page;
+    auto const hollow = [] {
+      auto const symbol = make<SysDisplay::SimpleFillSymbol>();
+      symbol->SetStyle(SysDisplay::SimpleFillStyle::Null);
+      symbol->SetOutlineSymbol(make<SysDisplay::SimpleLineSymbol>());
+      return symbol;
+    }();
+    auto const neatline = page.add<RectangleElement>(1, 1, 20, 28);
+    neatline->setSymbol(hollow);
+    auto const ring = madeIn<SysCarto::EllipseElement>(8, 25, 12, 27);
+    ring->setSymbol(hollow);
+    auto const group = make<SysCarto::GroupElement>();
+    group->AddElement(ring);
+    page.container().AddElement(group);
+    auto const selectedBy = [&](double x, double y) {
+      page.click(page.pixel(x, y));
+      return page.selected();
+    };
+    QCOMPARE(selectedBy(4, 5), QList<int>{page.left->GetHandle()});
+    QCOMPARE(selectedBy(10, 26), QList<int>{});
+    QCOMPARE(selectedBy(8.1, 25.1), QList<int>{});  // in the ring's rectangle
+    QCOMPARE(selectedBy(8, 26), QList<int>{group->GetHandle()});
+    QCOMPARE(selectedBy(20, 10), QList<int>{neatline->GetHandle()});
   }
 
   void handlesResizeAboutTheOppositeSide_data() {

@@ -1,5 +1,9 @@
 #include "desktop/Executable.h"
 
+#include "host/SysCarto/elements/PictureElement.h"
+
+#include <sys/stat.h>
+
 class RunSubcommandTest : public QObject {
   Q_OBJECT
 
@@ -11,6 +15,11 @@ private slots:
     auto const frame = madeIn<SysCarto::MapFrameElement>(2.0, 2.0, 3.0, 3.0);
     frame->SetName("Inset");
     document.GetPageLayout()->GetGraphicsContainer()->AddElement(frame);
+    auto const picture = madeIn<SysCarto::PictureElement>(6.0, 5.0, 7.0, 6.0);
+    QImage(2, 2, QImage::Format_RGB32).save(folder_.path("drawn.png"));
+    picture->setPath(folder_.path("drawn.png"));
+    document.GetPageLayout()->GetGraphicsContainer()->AddElement(picture);
+    QCOMPARE(mkfifo(qPrintable(folder_.path("pipe.kdx")), 0600), 0);
     QVERIFY(document.SaveAs(folder_.path("two.kdx"), true, false));
   }
 
@@ -52,11 +61,17 @@ private slots:
     row("a map that is not on the page", "focus=Moon", 1, "no map is named \"Moon\"");
     row("nothing to undo", "undo", 1, "it needs a change to take back");
     row("an answer that no dialog takes", "answer=lineEdit_DPI:96", 1, "lineEdit_DPI");
+    row("an image that is called what it is not", "answer=lineEdit_OutputPath:a.gif Plotvane_Export", 1,
+        "a.gif holds a TIFF");
     row("a folder that is not there", "save=none/out.kdx", 1, "none");
     row("a missing folder", "answer=lineEdit_OutputPath:none/a.png Plotvane_Export", 1, "none does not exist");
     row("a page that lies and has no width",
         "answer=comboBox_PaperType:Custom answer=radioButton_H:on answer=lineEdit_PageWidth:0 Plotvane_PageSetting", 1,
         "the page's width is 0 cm; set one of 0.1 to 500 cm");
+    row("an image in the document's place", "info answer=lineEdit_OutputPath:two.kdx Plotvane_Export", 1,
+        "is the document itself");
+    row("an image over data of the page", "info answer=lineEdit_OutputPath:drawn.png Plotvane_Export", 1, "drawn from");
+    row("a pipe", "save=pipe.kdx", 1, "no ordinary file");
     row("a folder for an image", "answer=lineEdit_OutputPath:. Plotvane_Export", 1, "is a folder");
     row("an unknown step", "frobnicate", 2, "\"frobnicate\" is neither");
     row("a point without its second number", "click=1", 2, "click=X,Y");

@@ -151,6 +151,32 @@ private slots:
     MapDocumentHost::history(sample.document())->setClean();
   }
 
+  void aDocumentThatItsFileDoesNotHoldCanBeSaved_data() {
+    Rows<QByteArray, QString, QString, bool> row;
+    row("removed, and kept", QByteArray(), "Keep", {}, false);
+    row("edited, and kept", "{ }", "Keep", {}, false);
+    row("edited, and changes here are not dropped", "{ }", "Reload", "No", true);
+    row("edited so that it can't be read", "{", "Reload", "OK", true);
+  }
+  void aDocumentThatItsFileDoesNotHoldCanBeSaved() {
+    auto const [theirs, button, answer, keepsNotice] = fetched<QByteArray, QString, QString, bool>();
+    WorldWindow sample;
+    QString const path = folder_.filePath("lost.kdx");
+    QVERIFY(sample.window.bench().session().saveAs(path));
+    if (answer == "No") sample.trigger("Host_SelectAll"), sample.trigger("Host_Delete");
+    auto* const notice = sample.window.findChild<NoticeBar*>();
+    QVERIFY(QFile::remove(path));
+    if (!theirs.isEmpty()) put(path, theirs);
+    QTRY_VERIFY(notice->isVisible());
+    Person person;
+    if (!answer.isEmpty()) person.presses(answer);
+    notice->findChild<QPushButton*>("pushButton_" + button)->click();
+    QCOMPARE(notice->isVisible(), keepsNotice);
+    QTRY_VERIFY(sample.isEnabled("Host_Save") && sample.window.isWindowModified());
+    QVERIFY(sample.window.bench().session().save());
+    QTRY_VERIFY(!sample.window.isWindowModified() && !notice->isVisible());
+  }
+
   void dataThatChangeAreReadAgain() {
     WorldWindow sample;
     auto* const notice = sample.window.findChild<NoticeBar*>();
@@ -367,7 +393,7 @@ private slots:
     QVERIFY(!sample.window.isWindowModified() && !sample.isEnabled("Host_Undo"));
   }
 
-  void whatCostsTheHistoryIsAskedForOnce() {
+  void whatCostsTheHistoryIsAskedForEachTime() {
     WorldWindow sample;
     sample.trigger("Host_SelectAll");
     sample.trigger("Plotvane_LeftAlignment");
@@ -379,8 +405,7 @@ private slots:
     };
     for (char const* command : {"Plotvane_PageSetting", "Plotvane_ChangePageLayout"})
       answered(command, "Cancel", false);  // or another dialog would want an answer
-    answered("Plotvane_PageSetting", "Continue", true);
-    answered("Plotvane_PageSetting", {}, true);
+    for (int i = 0; i < 2; ++i) answered("Plotvane_PageSetting", "Continue", true);
     QVERIFY(sample.isEnabled("Host_Undo"));
 
     sample.trigger("Plotvane_TopAlignment");
@@ -422,8 +447,10 @@ private slots:
     auto const map = layout->GetFocusMap();
     auto const scale = [&] { return map->GetDisplayTransformation()->GetMapScale(); };
     auto* const field = sample.window.findChild<QLineEdit*>("lineEdit_MapScale");
+    field->setFocus();
     QTest::keyClicks(field, "junk");
     QTest::keyClick(field, Qt::Key_Return);
+    QVERIFY(sample.window.focusWidget() == &sample.window.bench().views().layoutView());  // keys work on the page again
     QCOMPARE(field->text(), "1:" + sample.window.locale().toString(scale(), 'f', 0));
     QVERIFY(sample.window.statusBar()->currentMessage().contains("junk"));
     field->selectAll();

@@ -51,10 +51,10 @@ public:
   ~EllipseElement() override;
   int GetType() const override;
   SysUtility::_ptr_t<Element> Clone() const override;
+  SysUtility::_ptr_t<SysGeometry::Geometry> drawn() const override;
 
 protected:
   void shapeChanged() override;
-  SysUtility::_ptr_t<SysGeometry::Geometry> drawn() const override;
 
 private:
   SysUtility::_ptr_t<SysGeometry::Geometry> outline_;

@@ -69,13 +69,13 @@ public:
     return covered ? covered : this->GetEnvelope();
   }
 
+  /// What the symbol receives: the shape itself, or what stands for it.
+  virtual SysUtility::_ptr_t<SysGeometry::Geometry> drawn() const { return this->shape(); }
+
 protected:
   SymbolElement(SysUtility::_ptr_t<Shape> shape, SysUtility::_ptr_t<S> symbol)
       : ShapeElement<Shape>(std::move(shape)), symbol_(std::move(symbol)) {}
   SymbolElement(SymbolElement const&) = default;
-
-  /// What the symbol receives, where that is not the shape itself.
-  virtual SysUtility::_ptr_t<SysGeometry::Geometry> drawn() const { return this->shape(); }
 
 private:
   SysUtility::_ptr_t<S> symbol_;
