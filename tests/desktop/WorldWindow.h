@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Files.h"
+#include "desktop/WorkbenchPage.h"
+
+#include "host/desktop/MainWindow.h"
+
+inline QString world;  ///< a copy of the sample, with its data
+
+/// Before a test of the window: the copy, and settings that are nobody's, both in that folder.
+inline void prepareWorld(QString const& folder) {
+  prepareApplication();
+  QSettings::setDefaultFormat(QSettings::IniFormat);
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+  world = sampleIn(folder, "world.kdx");
+}
+
+/// The window with the sample open.
+struct WorldWindow {
+  WorldWindow() {
+    window.show();
+    if (!window.open(world)) qFatal("can't open %s", qPrintable(world));
+    QCoreApplication::processEvents();
+  }
+  void trigger(char const* identifier) { window.actions().find(identifier)->trigger(); }
+  bool isEnabled(char const* identifier) { return window.actions().find(identifier)->isEnabled(); }
+  bool isChecked(char const* identifier) { return window.actions().find(identifier)->isChecked(); }
+  SysCarto::MapDocument& document() { return window.bench().session().document(); }
+
+  MainWindow window;
+};

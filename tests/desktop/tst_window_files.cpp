@@ -1,0 +1,191 @@
+#include "Dialogs.h"
+#include "desktop/WorldWindow.h"
+
+#include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/desktop/NoticeBar.h"
+
+using SysCarto::MapDocumentHost;
+
+/// The window among files: what it opens and saves, and what others do to them meanwhile.
+class WindowFilesTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() { prepareWorld(folder_.path()); }
+
+  void aDocumentThatCanNotBeReadChangesNothing() {
+    QString const file = put(folder_.filePath("broken.kdx"), "{");
+    WorldWindow sample;
+    Person person;
+    QVERIFY(!sample.window.open(file));
+    QVERIFY(person.problem().contains("broken.kdx"));
+    QCOMPARE(sample.window.bench().session().path(), world);
+  }
+
+  void aSavedNameGetsItsSuffix() {
+    WorldWindow sample;
+    Person person;
+    person.sets("file", folder_.filePath("map.v2"));
+    sample.trigger("Host_SaveAs");
+    QCOMPARE(sample.window.bench().session().path(), folder_.filePath("map.v2.kdx"));
+  }
+
+  void anEditFromOutsideIsToldAndNotOverwritten_data() {
+    Rows<QString, bool> row;
+    row("No keeps the file as it is now", "No", false);
+    row("Yes writes over it", "Yes", true);
+  }
+  void anEditFromOutsideIsToldAndNotOverwritten() {
+    auto const [answer, writes] = fetched<QString, bool>();
+    WorldWindow sample;
+    QString const path = folder_.filePath("edited.kdx");
+    QVERIFY(sample.window.bench().session().saveAs(path));
+    auto* const notice = sample.window.findChild<NoticeBar*>();
+    QTest::qWait(500);
+    QVERIFY(!notice->isVisible());  // it was the window's own save
+    QByteArray const theirs = contentOf(path) + '\n';
+    QFile::rename(put(folder_.filePath("theirs"), theirs), folder_.filePath("edited.kdx.new"));
+    QCOMPARE(std::rename(qPrintable(path + ".new"), qPrintable(path)), 0);
+    QTRY_VERIFY(notice->isVisible());
+    QVERIFY(notice->findChild<QLabel*>("label_Notice")->text().contains("edited.kdx"));
+
+    sample.trigger("Host_SelectAll");
+    sample.trigger("Host_Delete");
+    Person person;
+    person.presses(answer);
+    sample.trigger("Host_Save");
+    QCOMPARE(contentOf(path) != theirs, writes);
+    QCOMPARE(sample.window.isWindowModified(), !writes);
+    MapDocumentHost::history(sample.document())->setClean();
+  }
+
+  void aDocumentThatItsFileDoesNotHoldCanBeSaved_data() {
+    Rows<QByteArray, QString, QString, bool> row;
+    row("removed, and kept", QByteArray(), "Keep", {}, false);
+    row("edited, and kept", "{ }", "Keep", {}, false);
+    row("edited, and changes here are not dropped", "{ }", "Reload", "No", true);
+    row("edited so that it can't be read", "{", "Reload", "OK", true);
+  }
+  void aDocumentThatItsFileDoesNotHoldCanBeSaved() {
+    auto const [theirs, button, answer, keepsNotice] = fetched<QByteArray, QString, QString, bool>();
+    WorldWindow sample;
+    QString const path = folder_.filePath("lost.kdx");
+    QVERIFY(sample.window.bench().session().saveAs(path));
+    if (answer == "No") sample.trigger("Host_SelectAll"), sample.trigger("Host_Delete");
+    auto* const notice = sample.window.findChild<NoticeBar*>();
+    QVERIFY(QFile::remove(path));
+    if (!theirs.isEmpty()) put(path, theirs);
+    QTRY_VERIFY(notice->isVisible());
+    Person person;
+    if (!answer.isEmpty()) person.presses(answer);
+    notice->findChild<QPushButton*>("pushButton_" + button)->click();
+    QCOMPARE(notice->isVisible(), keepsNotice);
+    QTRY_VERIFY(sample.isEnabled("Host_Save") && sample.window.isWindowModified());
+    QVERIFY(sample.window.bench().session().save());
+    QTRY_VERIFY(!sample.window.isWindowModified() && !notice->isVisible());
+  }
+
+  void dataThatChangeAreReadAgain() {
+    WorldWindow sample;
+    auto* const notice = sample.window.findChild<NoticeBar*>();
+    QString const file = folder_.filePath("data/sphere.geojson");
+    auto const layer = [&] {
+      for (auto const& one : sample.document().GetMap(0)->GetLayers())
+        if (auto const vector = SysUtility::ptr_cast<SysCarto::VectorLayer>(one))
+          if (vector->source().file == file) return vector;
+      return _ptr_t<SysCarto::VectorLayer>();
+    };
+    QByteArray const before = contentOf(file);
+    QVERIFY(layer() && layer()->features().size() > 0);
+    put(file, "{\"type\":\"FeatureCollection\",\"features\":[]}");
+    QTRY_VERIFY(notice->isVisible());
+    notice->findChild<QPushButton*>("pushButton_Reload")->click();
+    QVERIFY(layer()->features().size() == 0);
+    QVERIFY(!notice->isVisible());
+
+    QVERIFY(QFile::remove(file));
+    QTRY_VERIFY(notice->isVisible());
+    QVERIFY(!notice->findChild<QPushButton*>("pushButton_Reload")->isVisible());
+    put(file, before);
+    QTRY_VERIFY(notice->findChild<QPushButton*>("pushButton_Reload")->isVisible());
+  }
+
+  void theSecondWindowOnlyReads() {
+    WorldWindow first;
+    MainWindow second;
+    Person person;
+    person.presses("No");
+    QVERIFY(!second.open(world));
+    person.presses("Yes");
+    QVERIFY(second.open(world));
+    QTRY_VERIFY(second.windowTitle().contains("read-only"));
+    QByteArray const before = contentOf(world);
+    QString const other = folder_.filePath("other.kdx");
+    person.sets("file", other);
+    second.bench().commands().find("Host_Save")->command->OnClick();
+    QVERIFY(contentOf(world) == before && QFile::exists(other));
+    QTRY_VERIFY(!second.windowTitle().contains("read-only"));
+  }
+
+  void aDeadOwnersLockIsTakenOver() {
+    put(folder_.filePath(".world.kdx.lock"), "4194303\nplotvane\n" + QSysInfo::machineHostName().toUtf8() + '\n');
+    Person person;  // who has nothing to answer
+    WorldWindow sample;
+  }
+
+  void missingDataAreToldBeforeAnExport() {
+    QString const file = folder_.filePath("data/sphere.geojson");
+    QByteArray const before = contentOf(file);
+    QVERIFY(QFile::remove(file));
+    Person person;
+    person.accepts();
+    WorldWindow sample;
+    put(file, before);
+    person.presses("No");
+    sample.trigger("Plotvane_Export");
+    sample.trigger("Plotvane_Export");
+    QVERIFY(person.problem().contains("sphere.geojson"));
+  }
+
+  void changesAreNotLostWithoutAQuestion_data() {
+    Rows<QString, bool, bool> row;
+    row("Cancel keeps the window", "Cancel", false, false);
+    row("Discard drops them", "Discard", true, false);
+    row("Save writes them", "Save", true, true);
+  }
+  void changesAreNotLostWithoutAQuestion() {
+    auto const [answer, closes, writes] = fetched<QString, bool, bool>();
+    QString const path = folder_.filePath("changed.kdx");
+    QFile::remove(path);
+    WorldWindow sample;
+    QVERIFY(sample.window.bench().session().saveAs(path));
+    QByteArray const before = contentOf(path);
+    sample.trigger("Host_SelectAll");
+    sample.trigger("Host_Delete");
+    Person person;
+    person.presses(answer);
+    QCOMPARE(sample.window.close(), closes);
+    QCOMPARE(contentOf(path) != before, writes);
+  }
+
+  void aDroppedDocumentOpens() {
+    MainWindow window;
+    window.show();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(world)});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    QTRY_COMPARE(window.bench().session().path(), world);
+    QVERIFY(window.windowTitle().startsWith("world.kdx"));
+  }
+
+private:
+  QTemporaryDir folder_;
+};
+
+QTEST_MAIN(WindowFilesTest)
+#include "tst_window_files.moc"
