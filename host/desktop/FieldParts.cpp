@@ -12,7 +12,7 @@ bool areSame(ValueRules const& a, ValueRules const& b) {
   return a.isRequired == b.isRequired && a.byDefault == b.byDefault && a.range.min == b.range.min &&
          a.range.max == b.range.max && a.range.unit == b.range.unit && a.textKind == b.textKind &&
          a.numbersKind == b.numbersKind && a.isFilled == b.isFilled && a.isDerived == b.isDerived &&
-         a.minPoints == b.minPoints;
+         a.minPoints == b.minPoints && a.counts.min == b.counts.min && a.counts.max == b.counts.max;
 }
 
 // What lies in an object is told by its type.

@@ -180,7 +180,7 @@ QJsonObject SchemaMaker::value(FieldInfo const& info) const {
 QJsonObject jsonSchema(StoredFormat const& format) {
   QJsonObject schema = SchemaMaker(typesOf(QString::fromUtf8(format.name), format.fields())).schema();
   schema.insert(QStringLiteral("$schema"), QStringLiteral("https://json-schema.org/draft/2020-12/schema"));
-  schema.insert(QStringLiteral("$comment"), QString::fromUtf8(format.untold));
+  schema.insert(QStringLiteral("$comment"), format.untold().join(QLatin1Char(' ')));
   schema.insert(QStringLiteral("title"), QString::fromUtf8(format.title));
   return schema;
 }

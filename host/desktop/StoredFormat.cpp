@@ -31,30 +31,45 @@ QVector<FieldInfo> fieldsOfStyle() {
   return tree.fields();
 }
 
-constexpr char const untoldOfDocuments[] =
-    "Plotvane refuses some documents that this schema accepts. Not told here: The file is UTF-8 and has at most 256 "
-    "MB. "
-    "The length of a text counts UTF-16 units. A coordinate system is one that PROJ knows, and names no file. The "
-    "number "
-    "of a map is that of one in the list maps; no two data frames show the same one. A handle is used once on the "
-    "page, "
-    "and once on each map; 0 asks for a new one. In a rectangle xmin ≤ xmax and ymin ≤ ymax, and the bounds of a map "
-    "have a width and a height. Lists of coordinates hold x and y of each point, so an even count of numbers. Of two "
-    "scale limits that are not 0, minScale is the smaller one. The minimum of a class lies above that of the class "
-    "before, and a value is in one class only. Groups lie at most 16 deep in each other. An SVG is well-formed and "
-    "refers "
-    "to nothing outside itself. The pattern of a scale text holds %1. A field that is not described is reported and "
-    "ignored.";
-constexpr char const untoldOfStyles[] =
-    "Plotvane refuses some libraries that this schema accepts. Not told here: The file is UTF-8 and has at most 64 MB. "
-    "The length of a text counts UTF-16 units. An SVG is well-formed and refers to nothing outside itself. A field "
-    "that "
-    "is not described is ignored.";
+// clang-format off
+constexpr char const* untoldOfDocuments[] = {
+    "Plotvane refuses some documents that this schema accepts. Not told here: The file is UTF-8 and has at most 256 MB.",
+    "A coordinate system is one that PROJ knows, and names no file.",
+    "The number of a map is that of one in the list maps; no two data frames show the same one.",
+    "A handle is used once on the page, and once on each map; 0 asks for a new one.",
+    "In a rectangle xmin ≤ xmax and ymin ≤ ymax, and the bounds of a map have a width and a height.",
+    "Lists of coordinates hold x and y of each point, so an even count of numbers.",
+    "Of two scale limits that are not 0, minScale is the smaller one.",
+    "The minimum of a class lies above that of the class before, and a value is in one class only.",
+    "Groups lie at most 16 deep in each other.",
+    "The pattern of a scale text holds %1.",
+};
+constexpr char const* untoldOfStyles[] = {
+    "Plotvane refuses some libraries that this schema accepts. Not told here: The file is UTF-8 and has at most 64 MB.",
+};
+constexpr char const* untoldOfBoth[] = {
+    "The length of a text counts UTF-16 units.",
+    "Symbols lie in the layers of symbols at most 3 deep.",
+    "A stop of a gradient does not lie before the last one.",
+    "An SVG is well-formed and refers to nothing outside itself.",
+    "A field that is not described is reported and ignored.",
+};
+// clang-format on
+
+template <int count>
+QStringList sentences(char const* const (&own)[count]) {
+  QStringList all;
+  for (char const* sentence : own) all << QString::fromUtf8(sentence);
+  for (char const* sentence : untoldOfBoth) all << QString::fromUtf8(sentence);
+  return all;
+}
 
 }  // namespace
 
-StoredFormat const documentFormat{"document", "A map document of Plotvane (.kdx)", untoldOfDocuments, fieldsOfDocument};
-StoredFormat const styleFormat{"style", "A style library of Plotvane (.style)", untoldOfStyles, fieldsOfStyle};
+StoredFormat const documentFormat{"document", "A map document of Plotvane (.kdx)",
+                                  [] { return sentences(untoldOfDocuments); }, fieldsOfDocument};
+StoredFormat const styleFormat{"style", "A style library of Plotvane (.style)",
+                               [] { return sentences(untoldOfStyles); }, fieldsOfStyle};
 
 void describeFormatOperand(QCommandLineParser& parser) {
   parser.addPositionalArgument(

@@ -2,7 +2,7 @@
 
 #include "host/SysUtility/FieldTree.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -10,9 +10,9 @@ class QCommandLineParser;
 
 /// A format of files that a person may write by hand or with another program.
 struct StoredFormat {
-  char const* name;    ///< "document"
-  char const* title;   ///< English, as all of its texts
-  char const* untold;  ///< what a reader refuses and no description of single fields can tell
+  char const* name;         ///< "document"
+  char const* title;        ///< English, as all of its texts
+  QStringList (*untold)();  ///< sentences: what a reader refuses and no description of single fields can tell
   QVector<SysUtility::FieldInfo> (*fields)();
 };
 
