@@ -641,6 +641,14 @@
         <source>Size</source>
         <translation>Größe</translation>
     </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Show or hide the properties of what is selected</source>
+        <translation>Die Eigenschaften des Ausgewählten zeigen oder verbergen</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1007,6 +1015,29 @@
     <message>
         <source>Layer “%1”: %2</source>
         <translation>Layer „%1“: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Editable</name>
+    <message>
+        <source>can&apos;t be changed</source>
+        <translation>lässt sich nicht ändern</translation>
+    </message>
+    <message>
+        <source>the page</source>
+        <translation>die Seite</translation>
+    </message>
+    <message>
+        <source>there is no field to set</source>
+        <translation>es gibt kein Feld, das zu setzen wäre</translation>
+    </message>
+    <message>
+        <source>%1 elements</source>
+        <translation>%1 Elemente</translation>
+    </message>
+    <message>
+        <source>Set %1 of %2</source>
+        <translation>%1 von %2 ändern</translation>
     </message>
 </context>
 <context>
@@ -2757,6 +2788,18 @@
         <source>Symbols that are drawn one over the other, the first one at the bottom.</source>
         <translation>Symbole, die übereinander gezeichnet werden, das erste zuunterst.</translation>
     </message>
+    <message>
+        <source>there is no entry %1 in a list of %2</source>
+        <translation>einen Eintrag %1 gibt es in einer Liste von %2 nicht</translation>
+    </message>
+    <message>
+        <source>there is no “%1” in a value</source>
+        <translation>in einem Wert gibt es kein „%1“</translation>
+    </message>
+    <message>
+        <source>there is no field “%1”; there are %2</source>
+        <translation>ein Feld „%1“ gibt es nicht; es gibt %2</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3312,6 +3355,13 @@
     </message>
 </context>
 <context>
+    <name>OwnLibrary</name>
+    <message>
+        <source>My symbols</source>
+        <translation>Meine Symbole</translation>
+    </message>
+</context>
+<context>
     <name>PageGesture</name>
     <message>
         <source>Move the selected elements</source>
@@ -3395,6 +3445,33 @@
     </message>
 </context>
 <context>
+    <name>PropertyPanel</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Nothing to set</source>
+        <translation>Nichts einzustellen</translation>
+    </message>
+    <message>
+        <source>%1 elements</source>
+        <translation>%1 Elemente</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>Ebene %1</translation>
+    </message>
+    <message>
+        <source>Map %1</source>
+        <translation>Karte %1</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+</context>
+<context>
     <name>Renderer</name>
     <message>
         <source>“%1” is in two classes</source>
@@ -3474,6 +3551,14 @@
     <message>
         <source>no map is named &quot;%1&quot;; plotvane info lists maps and handles, and #12 is the map of the data frame with handle 12.</source>
         <translation>keine Karte heißt „%1“; plotvane info zeigt Karten und Kennungen, und #12 ist die Karte des Datenrahmens mit der Kennung 12.</translation>
+    </message>
+    <message>
+        <source>there is no &quot;%1&quot;; write page, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
+        <translation>„%1“ gibt es nicht; page, selection, der Name eines Elements oder #HANDLE, map:NAME oder layer:KARTE/EBENE gehen; plotvane info zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>there is no such field; get=%1 prints all that there are.</source>
+        <translation>ein solches Feld gibt es nicht; get=%1 gibt alle aus, die es gibt.</translation>
     </message>
 </context>
 <context>
@@ -3758,6 +3843,25 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
 </context>
 <context>
+    <name>SysAdapterUI::FieldEditor</name>
+    <message>
+        <source>Choose a file</source>
+        <translation>Eine Datei wählen</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 Zeichen</translation>
+    </message>
+    <message>
+        <source>Pictures (*.svg)</source>
+        <translation>Bilder (*.svg)</translation>
+    </message>
+    <message>
+        <source>Choose a File</source>
+        <translation>Datei wählen</translation>
+    </message>
+</context>
+<context>
     <name>SysAdapterUI::FramePropertyWidget</name>
     <message>
         <source>&amp;Border</source>
@@ -3889,7 +3993,173 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
 </context>
 <context>
-    <name>SysAdapterUI::StyleSelectorDlg</name>
+    <name>SysAdapterUI::PropertyModel</name>
+    <message>
+        <source>Upper left</source>
+        <translation>Oben links</translation>
+    </message>
+    <message>
+        <source>Upper middle</source>
+        <translation>Oben Mitte</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>Oben rechts</translation>
+    </message>
+    <message>
+        <source>Middle left</source>
+        <translation>Mitte links</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Middle right</source>
+        <translation>Mitte rechts</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>Unten links</translation>
+    </message>
+    <message>
+        <source>Lower middle</source>
+        <translation>Unten Mitte</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>Unten rechts</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>To the right.</source>
+        <translation>Nach rechts.</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Upwards.</source>
+        <translation>Nach oben.</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>From the left side to the right one.</source>
+        <translation>Von der linken Seite zur rechten.</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>From the lower side to the upper one.</source>
+        <translation>Von der unteren Seite zur oberen.</translation>
+    </message>
+    <message>
+        <source>Measured from</source>
+        <translation>Gemessen von</translation>
+    </message>
+    <message>
+        <source>The place of the rectangle that X and Y tell of, and that stays where it is when the size changes.</source>
+        <translation>Die Stelle des Rechtecks, von der X und Y sprechen und die bleibt, wo sie ist, wenn sich die Größe ändert.</translation>
+    </message>
+    <message>
+        <source>line widths</source>
+        <translation>Linienbreiten</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 Punkte</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>verschieden</translation>
+    </message>
+    <message>
+        <source>%1 entries</source>
+        <translation>%1 Einträge</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Entry %1</source>
+        <translation>Eintrag %1</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::PropertySheet</name>
+    <message>
+        <source>Add an entry to the list</source>
+        <translation>Der Liste einen Eintrag hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove this entry from the list</source>
+        <translation>Diesen Eintrag aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Move this entry up</source>
+        <translation>Diesen Eintrag nach oben schieben</translation>
+    </message>
+    <message>
+        <source>Move this entry down</source>
+        <translation>Diesen Eintrag nach unten schieben</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search for a property</source>
+        <translation>Eine Eigenschaft suchen</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::StyleBrowser</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search for a symbol</source>
+        <translation>Ein Symbol suchen</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorien</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>Current symbol</source>
+        <translation>Gegenwärtiges Symbol</translation>
+    </message>
     <message>
         <source>All</source>
         <translation>Alle</translation>
@@ -3900,7 +4170,26 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>No name matches.</source>
-        <translation>Kein Name passt zur Suche.</translation>
+        <translation>Kein Name passt.</translation>
+    </message>
+    <message>
+        <source>Nothing is chosen.</source>
+        <translation>Nichts ist gewählt.</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::StyleSelectorDlg</name>
+    <message>
+        <source>All</source>
+        <translation type="vanished">Alle</translation>
+    </message>
+    <message>
+        <source>The style libraries hold nothing of this kind.</source>
+        <translation type="vanished">Die Stilbibliotheken enthalten nichts von dieser Art.</translation>
+    </message>
+    <message>
+        <source>No name matches.</source>
+        <translation type="vanished">Kein Name passt zur Suche.</translation>
     </message>
     <message>
         <source>Styles</source>
@@ -3908,15 +4197,38 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>Search</source>
-        <translation>Suchen</translation>
+        <translation type="vanished">Suchen</translation>
     </message>
     <message>
         <source>Current symbol</source>
-        <translation>Aktuelles Symbol</translation>
+        <translation type="vanished">Aktuelles Symbol</translation>
     </message>
     <message>
         <source>Nothing is chosen.</source>
-        <translation>Nichts ausgewählt.</translation>
+        <translation type="vanished">Nichts ausgewählt.</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::SymbolChooser</name>
+    <message>
+        <source>The symbol at its size on paper</source>
+        <translation>Das Symbol in seiner Größe auf dem Papier</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>Save to Library…</source>
+        <translation>In der Bibliothek speichern…</translation>
+    </message>
+    <message>
+        <source>Save to Library</source>
+        <translation>In der Bibliothek speichern</translation>
+    </message>
+    <message>
+        <source>The name under which the symbol is found:</source>
+        <translation>Der Name, unter dem das Symbol zu finden ist:</translation>
     </message>
 </context>
 <context>

@@ -641,6 +641,14 @@
         <source>Size</source>
         <translation>大小</translation>
     </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Show or hide the properties of what is selected</source>
+        <translation>显示或隐藏所选内容的属性</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1007,6 +1015,29 @@
     <message>
         <source>Layer “%1”: %2</source>
         <translation>图层“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Editable</name>
+    <message>
+        <source>can&apos;t be changed</source>
+        <translation>无法更改</translation>
+    </message>
+    <message>
+        <source>the page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>there is no field to set</source>
+        <translation>没有可设置的字段</translation>
+    </message>
+    <message>
+        <source>%1 elements</source>
+        <translation>%1 个元素</translation>
+    </message>
+    <message>
+        <source>Set %1 of %2</source>
+        <translation>设置 %2 的 %1</translation>
     </message>
 </context>
 <context>
@@ -2103,7 +2134,7 @@
     </message>
     <message>
         <source>Middle</source>
-        <translation>中部</translation>
+        <translation>中心</translation>
     </message>
     <message>
         <source>Baseline</source>
@@ -2757,6 +2788,18 @@
         <source>Symbols that are drawn one over the other, the first one at the bottom.</source>
         <translation>自下而上依次叠绘的符号，第一个在最下面。</translation>
     </message>
+    <message>
+        <source>there is no entry %1 in a list of %2</source>
+        <translation>在有 %2 项的列表中没有第 %1 项</translation>
+    </message>
+    <message>
+        <source>there is no “%1” in a value</source>
+        <translation>值中没有“%1”</translation>
+    </message>
+    <message>
+        <source>there is no field “%1”; there are %2</source>
+        <translation>没有字段“%1”；有 %2</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3312,6 +3355,13 @@
     </message>
 </context>
 <context>
+    <name>OwnLibrary</name>
+    <message>
+        <source>My symbols</source>
+        <translation>我的符号</translation>
+    </message>
+</context>
+<context>
     <name>PageGesture</name>
     <message>
         <source>Move the selected elements</source>
@@ -3395,6 +3445,33 @@
     </message>
 </context>
 <context>
+    <name>PropertyPanel</name>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Nothing to set</source>
+        <translation>没有可设置的内容</translation>
+    </message>
+    <message>
+        <source>%1 elements</source>
+        <translation>%1 个元素</translation>
+    </message>
+    <message>
+        <source>Layer %1</source>
+        <translation>图层 %1</translation>
+    </message>
+    <message>
+        <source>Map %1</source>
+        <translation>地图 %1</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+</context>
+<context>
     <name>Renderer</name>
     <message>
         <source>“%1” is in two classes</source>
@@ -3474,6 +3551,14 @@
     <message>
         <source>no map is named &quot;%1&quot;; plotvane info lists maps and handles, and #12 is the map of the data frame with handle 12.</source>
         <translation>没有名为“%1”的地图；plotvane info 列出地图和句柄，#12 表示句柄为 12 的数据框中的地图。</translation>
+    </message>
+    <message>
+        <source>there is no &quot;%1&quot;; write page, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
+        <translation>没有“%1”；请写 page、selection、元素的名称或 #HANDLE、map:名称或 layer:地图/图层；plotvane info 会列出它们。</translation>
+    </message>
+    <message>
+        <source>there is no such field; get=%1 prints all that there are.</source>
+        <translation>没有这个字段；get=%1 会打印所有字段。</translation>
     </message>
 </context>
 <context>
@@ -3758,6 +3843,25 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
 </context>
 <context>
+    <name>SysAdapterUI::FieldEditor</name>
+    <message>
+        <source>Choose a file</source>
+        <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 个字符</translation>
+    </message>
+    <message>
+        <source>Pictures (*.svg)</source>
+        <translation>图片 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Choose a File</source>
+        <translation>选择文件</translation>
+    </message>
+</context>
+<context>
     <name>SysAdapterUI::FramePropertyWidget</name>
     <message>
         <source>&amp;Border</source>
@@ -3889,18 +3993,203 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
 </context>
 <context>
-    <name>SysAdapterUI::StyleSelectorDlg</name>
+    <name>SysAdapterUI::PropertyModel</name>
+    <message>
+        <source>Upper left</source>
+        <translation>左上</translation>
+    </message>
+    <message>
+        <source>Upper middle</source>
+        <translation>中上</translation>
+    </message>
+    <message>
+        <source>Upper right</source>
+        <translation>右上</translation>
+    </message>
+    <message>
+        <source>Middle left</source>
+        <translation>左中</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中心</translation>
+    </message>
+    <message>
+        <source>Middle right</source>
+        <translation>右中</translation>
+    </message>
+    <message>
+        <source>Lower left</source>
+        <translation>左下</translation>
+    </message>
+    <message>
+        <source>Lower middle</source>
+        <translation>中下</translation>
+    </message>
+    <message>
+        <source>Lower right</source>
+        <translation>右下</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>To the right.</source>
+        <translation>向右。</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Upwards.</source>
+        <translation>向上。</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽度</translation>
+    </message>
+    <message>
+        <source>From the left side to the right one.</source>
+        <translation>从左边到右边。</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>From the lower side to the upper one.</source>
+        <translation>从下边到上边。</translation>
+    </message>
+    <message>
+        <source>Measured from</source>
+        <translation>测量基准</translation>
+    </message>
+    <message>
+        <source>The place of the rectangle that X and Y tell of, and that stays where it is when the size changes.</source>
+        <translation>X 和 Y 所指的矩形位置；改变大小时该位置保持不动。</translation>
+    </message>
+    <message>
+        <source>line widths</source>
+        <translation>线宽</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 个字符</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 个点</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>不同</translation>
+    </message>
+    <message>
+        <source>%1 entries</source>
+        <translation>%1 项</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Entry %1</source>
+        <translation>第 %1 项</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::PropertySheet</name>
+    <message>
+        <source>Add an entry to the list</source>
+        <translation>向列表添加一项</translation>
+    </message>
+    <message>
+        <source>Remove this entry from the list</source>
+        <translation>从列表中删除此项</translation>
+    </message>
+    <message>
+        <source>Move this entry up</source>
+        <translation>将此项上移</translation>
+    </message>
+    <message>
+        <source>Move this entry down</source>
+        <translation>将此项下移</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search for a property</source>
+        <translation>搜索属性</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::StyleBrowser</name>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search for a symbol</source>
+        <translation>搜索符号</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>类别</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>Current symbol</source>
+        <translation>当前符号</translation>
+    </message>
     <message>
         <source>All</source>
         <translation>全部</translation>
     </message>
     <message>
         <source>The style libraries hold nothing of this kind.</source>
-        <translation>样式库中没有此类样式。</translation>
+        <translation>样式库中没有这一类符号。</translation>
     </message>
     <message>
         <source>No name matches.</source>
         <translation>没有匹配的名称。</translation>
+    </message>
+    <message>
+        <source>Nothing is chosen.</source>
+        <translation>未选择。</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::StyleSelectorDlg</name>
+    <message>
+        <source>All</source>
+        <translation type="vanished">全部</translation>
+    </message>
+    <message>
+        <source>The style libraries hold nothing of this kind.</source>
+        <translation type="vanished">样式库中没有此类样式。</translation>
+    </message>
+    <message>
+        <source>No name matches.</source>
+        <translation type="vanished">没有匹配的名称。</translation>
     </message>
     <message>
         <source>Styles</source>
@@ -3908,15 +4197,38 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
     <message>
         <source>Search</source>
-        <translation>搜索</translation>
+        <translation type="vanished">搜索</translation>
     </message>
     <message>
         <source>Current symbol</source>
-        <translation>当前符号</translation>
+        <translation type="vanished">当前符号</translation>
     </message>
     <message>
         <source>Nothing is chosen.</source>
-        <translation>未选择任何样式。</translation>
+        <translation type="vanished">未选择任何样式。</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::SymbolChooser</name>
+    <message>
+        <source>The symbol at its size on paper</source>
+        <translation>符号在纸上的大小</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>Save to Library…</source>
+        <translation>保存到符号库…</translation>
+    </message>
+    <message>
+        <source>Save to Library</source>
+        <translation>保存到符号库</translation>
+    </message>
+    <message>
+        <source>The name under which the symbol is found:</source>
+        <translation>查找该符号时使用的名称：</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "StyleItemModel.h"
 
+#include "host/SysAdapterUI/OwnLibrary.h"
 #include "host/SysAdapterUI/SymbolPreview.h"
 #include "host/SysDisplay/StyleLibrary.h"
 #include "host/SysDisplay/SymbolFields.h"
@@ -176,6 +177,7 @@ QStringList styleFiles() {
   for (QString const& file : named.split(QLatin1Char(',')))
     if (QFileInfo::exists(file)) files << file;
   if (files.isEmpty()) files << settings->GetStyleDir() + QStringLiteral("/ORV.style");
+  if (QFileInfo::exists(ownStyleFile())) files.prepend(ownStyleFile());
   return files;
 }
 

@@ -77,7 +77,8 @@ private:
   QStringList words_;
 };
 
-/// The style libraries that the settings name and that exist; the host's own where there are none.
+/// A person's own style library, where there is one, and those that the settings name and that exist; the host's own
+/// where there are none.
 SYSADAPTERUI_EXPORT QStringList styleFiles();
 
 }  // namespace SysAdapterUI

@@ -1,5 +1,6 @@
 #include <SysAdapterUI/TOCControl.h>
 
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPixmap>
+#include <QSet>
 #include <QStyle>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
@@ -60,18 +62,6 @@ QPixmap swatch(Symbol const& symbol, double devicePixelRatio) {
   return picture;
 }
 
-// The row stands for the layer as long as the tree shows it; it is rebuilt with each new list.
-class LayerItem final : public QTreeWidgetItem {
-public:
-  explicit LayerItem(_ptr_t<Layer> const& layer) : layer(layer) {
-    setText(0, layer->GetName());
-    setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    showState();
-  }
-  void showState() { setCheckState(0, layer->IsVisible() ? Qt::Checked : Qt::Unchecked); }
-  _ptr_t<Layer> const layer;
-};
-
 class MapItem final : public QTreeWidgetItem {
 public:
   explicit MapItem(_ptr_t<Map> const& map) : map(map) { setText(0, map->GetName()); }
@@ -106,10 +96,44 @@ void addSymbols(QTreeWidgetItem& item, Layer const& layer, double devicePixelRat
   }
 }
 
+// The row stands for the layer as long as the tree shows it; it is rebuilt with each new list.
+class LayerItem final : public QTreeWidgetItem {
+public:
+  explicit LayerItem(_ptr_t<Layer> const& layer) : layer(layer) {
+    setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+  }
+  void show(double devicePixelRatio) {
+    quint64 const look = SysCarto::LayerHost::look(*layer);
+    if (text(0) == layer->GetName() && look_ == look) return;
+    look_ = look;
+    setText(0, layer->GetName());
+    setCheckState(0, layer->IsVisible() ? Qt::Checked : Qt::Unchecked);
+    qDeleteAll(takeChildren());
+    setIcon(0, QIcon());
+    addSymbols(*this, *layer, devicePixelRatio);
+  }
+  _ptr_t<Layer> const layer;
+
+private:
+  quint64 look_ = 0;  // of the layer when it was shown last
+};
+
+// The map or the layer that a row stands for; null for the rows within a layer.
+void const* thingOf(QTreeWidgetItem const& item) {
+  if (auto const* const row = dynamic_cast<LayerItem const*>(&item)) return row->layer.get();
+  auto const* const row = dynamic_cast<MapItem const*>(&item);
+  return row ? row->map.get() : nullptr;
+}
+
 }  // namespace
 
 struct TOCControl::Private {
   QTreeWidget* tree = nullptr;
+
+  template <class Use>
+  void forEach(Use const& use) const {
+    for (QTreeWidgetItemIterator item(tree); *item; ++item) use(**item);
+  }
 };
 
 TOCControl::TOCControl(QWidget* parent) : QWidget(parent), d(std::make_unique<Private>()) {
@@ -129,13 +153,32 @@ TOCControl::TOCControl(QWidget* parent) : QWidget(parent), d(std::make_unique<Pr
   for (auto const chosen : {&QTreeWidget::itemClicked, &QTreeWidget::itemActivated})
     connect(d->tree, chosen, this, [this](QTreeWidgetItem* item) {
       if (auto const* const row = dynamic_cast<MapItem*>(item)) emit MapChosen(row->map);
+      tellRow(item);
     });
+  connect(d->tree, &QTreeWidget::currentItemChanged, this, &TOCControl::tellRow);
 }
 
 TOCControl::~TOCControl() = default;
 
+// A row of a class stands for its layer.
+void TOCControl::tellRow(QTreeWidgetItem* item) {
+  _ptr_t<Layer> layer;
+  for (; item; item = item->parent()) {
+    if (auto const* const row = dynamic_cast<LayerItem*>(item)) layer = row->layer;
+    if (auto const* const row = dynamic_cast<MapItem*>(item)) return emit RowChosen(row->map, layer);
+  }
+}
+
 void TOCControl::SetBuddy(SysCarto::IKdxContents* contents) {
   QSignalBlocker const quiet(d->tree);
+  // What is there again is as open as it was, and the current row stays it.
+  QSet<void const*> open;
+  void const* const current = d->tree->currentItem() ? thingOf(*d->tree->currentItem()) : nullptr;
+  QSet<void const*> known;
+  d->forEach([&](QTreeWidgetItem& item) {
+    known << thingOf(item);
+    if (item.isExpanded()) open << thingOf(item);
+  });
   d->tree->clear();
   auto const layout = contents ? contents->GetPageLayout() : nullptr;
   QList<_ptr_t<Map>> maps;
@@ -143,13 +186,17 @@ void TOCControl::SetBuddy(SysCarto::IKdxContents* contents) {
   for (auto const& map : qAsConst(maps)) {
     auto* const mapItem = new MapItem(map);
     d->tree->addTopLevelItem(mapItem);
-    mapItem->setExpanded(true);
+    mapItem->setExpanded(!known.contains(map.get()) || open.contains(map.get()));
     for (int i = map->GetLayerCount() - 1; i >= 0; --i) {  // what is drawn last lies on top
       auto* const item = new LayerItem(map->GetLayer(i));
       mapItem->addChild(item);
-      addSymbols(*item, *map->GetLayer(i), devicePixelRatioF());
+      item->show(devicePixelRatioF());
+      item->setExpanded(open.contains(map->GetLayer(i).get()));
     }
   }
+  d->forEach([&](QTreeWidgetItem& item) {
+    if (current && thingOf(item) == current) d->tree->setCurrentItem(&item);
+  });
   if (maps.isEmpty()) {
     auto* const empty = new QTreeWidgetItem(d->tree, {tr("No maps on this page")});
     empty->setFlags(Qt::NoItemFlags);
@@ -165,8 +212,12 @@ void TOCControl::ShowFocus(_ptr_t<Map> const& map) {
 
 void TOCControl::Refresh() {
   QSignalBlocker const quiet(d->tree);
-  for (QTreeWidgetItemIterator item(d->tree); *item; ++item)
-    if (auto* const row = dynamic_cast<LayerItem*>(*item)) row->showState();
+  for (int i = 0; i < d->tree->topLevelItemCount(); ++i) {
+    auto* const map = dynamic_cast<MapItem*>(d->tree->topLevelItem(i));
+    if (map) map->setText(0, map->map->GetName());
+    for (int j = 0; map && j < map->childCount(); ++j)
+      if (auto* const layer = dynamic_cast<LayerItem*>(map->child(j))) layer->show(devicePixelRatioF());
+  }
 }
 
 }  // namespace SysAdapterUI

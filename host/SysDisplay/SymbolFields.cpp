@@ -6,6 +6,8 @@
 
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace SysDisplay {
 
 using SysUtility::_ptr_t;
@@ -86,10 +88,9 @@ void listColor(Fields& fields, Field const& field, QColor& color, QColor const& 
   color = read;
 }
 
-void listOwnSymbolOf(Fields& fields, _ptr_t<Symbol>& symbol, bool (*isWanted)(Symbol const*)) {
-  QVector<Choice> wanted;
-  for (Kind const& kind : kinds)
-    if (isWanted(kind.create().get())) wanted << kind.choice;
+namespace {
+
+void listAs(Fields& fields, _ptr_t<Symbol>& symbol, QVector<Choice> const& wanted) {
   int kind = kindOf(symbol.get());
   if (!fields.isReading() && !symbol)
     fields.fail(nullptr, QCoreApplication::translate("SymbolFields", "there is no symbol to store"));
@@ -98,12 +99,41 @@ void listOwnSymbolOf(Fields& fields, _ptr_t<Symbol>& symbol, bool (*isWanted)(Sy
   fields.variant(typeField, kind, wanted, [&](int chosen) { kinds[chosen].list(fields, symbol); });
 }
 
+}  // namespace
+
+void listOwnSymbolOf(Fields& fields, _ptr_t<Symbol>& symbol, bool (*isWanted)(Symbol const*)) {
+  QVector<Choice> wanted;
+  for (Kind const& kind : kinds)
+    if (isWanted(kind.create().get())) wanted << kind.choice;
+  listAs(fields, symbol, wanted);
+}
+
+void listOwnSymbol(Fields& fields, _ptr_t<Symbol>& symbol, QStringList const& names) {
+  QVector<Choice> wanted;
+  for (Kind const& kind : kinds)
+    if (names.contains(QLatin1String(kind.choice.name))) wanted << kind.choice;
+  listAs(fields, symbol, wanted);
+}
+
 void listSymbolOf(Fields& fields, Field const& field, _ptr_t<Symbol>& symbol, bool (*isWanted)(Symbol const*),
                   bool isRequired) {
   auto const list = [&](Fields& own) { listOwnSymbolOf(own, symbol, isWanted); };
   if (isRequired) return fields.object(field, list);
   bool const isThere = fields.optionalObject(field, bool(symbol), list);
   if (fields.isReading() && fields.ok() && !isThere) symbol = nullptr;
+}
+
+bool isSymbol(Field const& field) {
+  auto const types = {typeOfSymbols<Symbol>, typeOfSymbols<LineSymbol>, typeOfSymbols<FillSymbol>,
+                      typeOfSymbols<MarkerSymbol>, typeOfSymbols<TextSymbol>};
+  return std::any_of(types.begin(), types.end(), [&](char const* type) { return qstrcmp(field.type, type) == 0; });
+}
+
+_ptr_t<Symbol> symbolOf(QJsonObject const& json) {
+  JsonReader reader(json);
+  _ptr_t<Symbol> symbol;
+  listOwnSymbolOf(reader, symbol, isA<Symbol>);
+  return reader.ok() ? symbol : nullptr;
 }
 
 bool importSymbol(QJsonObject const& json, Symbol& symbol) {

@@ -64,6 +64,16 @@ void listOwnSymbol(SysUtility::Fields& fields, SysUtility::_ptr_t<Wanted>& symbo
   symbol = SysUtility::ptr_cast<Wanted>(any);
 }
 
+/// The same for the kinds of these names.
+SYSDISPLAY_EXPORT void listOwnSymbol(SysUtility::Fields& fields, SysUtility::_ptr_t<Symbol>& symbol,
+                                     QStringList const& kinds);
+
+/// Whether the field is that of a symbol.
+SYSDISPLAY_EXPORT bool isSymbol(SysUtility::Field const& field);
+
+/// A symbol of any kind; empty where the JSON is none.
+SYSDISPLAY_EXPORT SysUtility::_ptr_t<Symbol> symbolOf(QJsonObject const& json);
+
 /// The JSON operations of the symbols. `symbol` is changed only where the JSON is a symbol of the same kind.
 SYSDISPLAY_EXPORT bool importSymbol(QJsonObject const& json, Symbol& symbol);
 SYSDISPLAY_EXPORT bool importSymbol(QString const& json, Symbol& symbol);

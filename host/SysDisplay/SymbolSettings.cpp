@@ -80,6 +80,10 @@ constexpr Choice verticals[] = {
 };
 // clang-format on
 
+// What a picture is until a person chooses one.
+constexpr char const* plainPicture =
+    "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 10 10\"><circle cx=\"5\" cy=\"5\" r=\"4.5\"/></svg>";
+
 void listOutline(Fields& fields, SysUtility::_ptr_t<LineSymbol>& outline) {
   listOptionalSymbol(fields,
                      {"outline", QT_TRANSLATE_NOOP("Fields", "Outline"),
@@ -89,6 +93,7 @@ void listOutline(Fields& fields, SysUtility::_ptr_t<LineSymbol>& outline) {
 
 void listPicture(Fields& fields, char const* help, std::shared_ptr<SvgPicture>& picture) {
   QString svg = picture ? QString::fromUtf8(picture->svg()) : QString();
+  if (fields.isReading()) svg = QLatin1String(plainPicture);
   fields.text({"svg", QT_TRANSLATE_NOOP("Fields", "Picture"), help}, svg, SysUtility::TextKind::Svg);
   if (!fields.isReading() || !fields.ok()) return;
   QString problem;

@@ -44,7 +44,7 @@ struct SimpleLineSettings {
 };
 
 struct DashLineSettings {
-  QVector<double> pattern;
+  QVector<double> pattern{4, 2};
   double start = 0;
   LineSettings line;
 

@@ -4,6 +4,14 @@
 
 namespace SysUtility {
 
+FieldInfo::Kind kindOf(ValueRef const& value) {
+  using Kind = FieldInfo::Kind;
+  constexpr Kind kinds[] = {Kind::Number, Kind::Integer, Kind::Flag,        Kind::Text,
+                            Kind::Texts,  Kind::Numbers, Kind::Coordinates, Kind::NumberList};
+  static_assert(std::size(kinds) == std::variant_size_v<ValueRef>);
+  return kinds[value.index()];
+}
+
 FieldTree::FieldTree(QStringList outerTypes) : outerTypes_(std::move(outerTypes)) {}
 FieldTree::~FieldTree() = default;
 
@@ -28,11 +36,7 @@ QVector<FieldInfo> FieldTree::fieldsOf(Field const& field, Describe const& descr
 void FieldTree::fail(char const* key, QString const&) { failedKey_ = QString::fromUtf8(key); }
 
 void FieldTree::value(Field const& field, ValueRef value, ValueRules const& rules) {
-  using Kind = FieldInfo::Kind;
-  constexpr Kind kinds[] = {Kind::Number, Kind::Integer, Kind::Flag,        Kind::Text,
-                            Kind::Texts,  Kind::Numbers, Kind::Coordinates, Kind::NumberList};
-  static_assert(std::size(kinds) == std::variant_size_v<ValueRef>);
-  add(field, kinds[value.index()], rules.isRequired).rules = rules;
+  add(field, kindOf(value), rules.isRequired).rules = rules;
 }
 
 void FieldTree::choose(Field const& field, int&, Choices const& choices, std::optional<int> byDefault) {

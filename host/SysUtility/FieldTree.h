@@ -32,6 +32,9 @@ struct FieldInfo {
   char const* type() const { return field.type ? field.type : field.key; }
 };
 
+/// Of a single value.
+SYSUTILITY_EXPORT FieldInfo::Kind kindOf(ValueRef const& value);
+
 /// Looks at which fields there are, for whoever makes a form, a schema or a table of them: an object that
 /// `Settings::list` or a function like it visits with new settings. What lies in an object of its own type (the members
 /// of a group) is named, and not entered again. A kind of a variant that is refused where it stands is left out.

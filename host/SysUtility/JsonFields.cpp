@@ -1,5 +1,6 @@
 #include "JsonFields.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace SysUtility {
@@ -143,8 +144,20 @@ QJsonValue::Type typeOf(ValueRef const& value) {
 }  // namespace
 
 void JsonReader::value(Field const& field, ValueRef value, ValueRules const& rules) {
-  auto const json = take(field, typeOf(value), rules.isRequired);
-  if (ok()) std::visit([&](auto target) { read(field, json.value_or(rules.byDefault), target, rules); }, value);
+  bool const isAttribute = rules.isFilled && rules.textKind == TextKind::Attribute;
+  QString const attribute = isAttribute && shared().attributes ? shared().attributes().value(0) : QString();
+  bool const isMadeUp = shared().completes && (!rules.isFilled || !attribute.isEmpty()) &&
+                        !std::holds_alternative<QVector<double>*>(value);
+  auto const json = take(field, typeOf(value), rules.isRequired && !isMadeUp);
+  if (!ok()) return;
+  if (json || !rules.isRequired)
+    std::visit([&](auto target) { read(field, json.value_or(rules.byDefault), target, rules); }, value);
+  else if (auto const number = std::get_if<double*>(&value))
+    **number = std::clamp(**number, rules.range.min, rules.range.max);
+  else if (auto const whole = std::get_if<int*>(&value))
+    **whole = static_cast<int>(std::clamp<double>(**whole, rules.range.min, rules.range.max));
+  else if (isAttribute)
+    *std::get<QString*>(value) = attribute;
 }
 
 void JsonReader::read(Field const& field, QJsonValue const& json, double* value, ValueRules const& rules) {
@@ -208,8 +221,8 @@ void JsonReader::read(Field const& field, QJsonValue const& json, NumberListRef 
 }
 
 void JsonReader::choose(Field const& field, int& value, Choices const& choices, std::optional<int> byDefault) {
-  auto const json = take(field, QJsonValue::String, !byDefault);
-  if (!json && ok()) value = *byDefault;
+  auto const json = take(field, QJsonValue::String, !byDefault && !shared().completes);
+  if (!json && ok()) value = byDefault.value_or(choices.begin()->value);
   if (!json || !isShort(field, json->toString(), TextKind::Line)) return;
   QStringList known;
   for (Choice const& choice : choices) {
@@ -228,14 +241,21 @@ void JsonReader::describeChild(QJsonObject const& source, QString const& path, D
 }
 
 bool JsonReader::nest(Field const& field, std::optional<bool> present, Describe const& describe) {
-  auto const json = take(field, QJsonValue::Object, !present);
+  auto json = take(field, QJsonValue::Object, !present && !shared().completes);
+  if (!json && !present && ok()) json = QJsonObject();
   if (json) describeChild(json->toObject(), pathOf(field), describe);
   return json && ok();
 }
 
 void JsonReader::objects(Field const& field, int, Counts const& counts,
                          std::function<void(Fields&, int)> const& describe) {
-  auto const json = take(field, QJsonValue::Array, counts.min > 0);
+  bool const isMadeUp = shared().completes && counts.min > 0;
+  auto json = take(field, QJsonValue::Array, counts.min > 0 && !isMadeUp);
+  if (!json && isMadeUp && ok()) {
+    QJsonArray made;
+    for (int i = 0; i < counts.min; ++i) made.append(QJsonObject());
+    json = made;
+  }
   if (!json) return;
   QJsonArray const list = json->toArray();
   if (!isAllowed(field, list.size(), counts)) return;

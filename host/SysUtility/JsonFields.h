@@ -22,6 +22,8 @@ protected:
   struct Shared {
     QString error;
     QStringList warnings;
+    bool completes = false;  // reading makes up what must be there and is not
+    std::function<QStringList()> attributes;
   };
   JsonFields(QString path, std::shared_ptr<Shared> shared);
 
@@ -50,6 +52,15 @@ class SYSUTILITY_EXPORT JsonReader final : public JsonFields {
 public:
   explicit JsonReader(QJsonObject source);
   ~JsonReader() override;
+
+  /// A field that must be there and is not is no problem from now on: it keeps the value that the settings came with, a
+  /// number the nearest one of its range, a choice its first, and an object, or each of as many entries as a list must
+  /// have, is made of its own fields in the same way. The name of an attribute is the first of those given, which may
+  /// be null. Only what can't be made up must still be there: points, and other texts that may not be blank.
+  void complete(std::function<QStringList()> const& attributes) {
+    shared().completes = true;
+    shared().attributes = attributes;
+  }
 
   /// The paths of fields that nobody asked for ("maps[0].layers[2].zoom"), at most 100. Those of the object itself are
   /// known once all its fields have been named.

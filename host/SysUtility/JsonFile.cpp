@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 namespace SysUtility {
@@ -105,5 +106,11 @@ void listFormat(Fields& fields, JsonFormat const& format) {
 }
 
 QByteArray jsonText(QJsonObject const& object) { return QJsonDocument(object).toJson(QJsonDocument::Indented); }
+
+// Without the brackets of the list that it has to lie in.
+QString jsonLine(QJsonValue const& value) {
+  QByteArray const list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+  return QString::fromUtf8(list.mid(1, list.size() - 2));
+}
 
 }  // namespace SysUtility

@@ -39,6 +39,9 @@ SYSUTILITY_EXPORT void listFormat(Fields& fields, JsonFormat const& format);
 /// The text of a file: equal objects give equal bytes.
 SYSUTILITY_EXPORT QByteArray jsonText(QJsonObject const& object);
 
+/// Any value on one line.
+SYSUTILITY_EXPORT QString jsonLine(QJsonValue const& value);
+
 /// A sentence about a file: “FILE: problem”.
 SYSUTILITY_EXPORT QString aboutFile(QString const& path, QString const& problem);
 

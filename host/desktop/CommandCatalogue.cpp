@@ -170,6 +170,8 @@ public:
        QT_TR_NOOP("Map"), QT_TR_NOOP("Show the map of the data frame alone"), document},
       {"Host_Contents", "contents", inView, 4, onNone, "F9",
        QT_TR_NOOP("Contents"), QT_TR_NOOP("Show or hide the table of contents"), nothing},
+      {"Host_Properties", "properties", inView, 4, onNone, "F4",
+       QT_TR_NOOP("Properties"), QT_TR_NOOP("Show or hide the properties of what is selected"), nothing},
       {"Host_Quit", "quit", inFile, 9, onNone, "Ctrl+Q",
        QT_TR_NOOP("Quit"), QT_TR_NOOP("Close the window"), nothing},
       {"Host_About", "about", inHelp, 1, onNone, "",

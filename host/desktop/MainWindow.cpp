@@ -3,6 +3,7 @@
 #include "BoxTitles.h"
 #include "Icons.h"
 #include "NoticeBar.h"
+#include "PropertyPanel.h"
 #include "ScaleText.h"
 
 #include "host/SysCarto/maps/MapSteps.h"
@@ -29,6 +30,7 @@ namespace {
 
 constexpr QSize firstSize(1280, 860);
 constexpr int contentsWidthPx = 230;
+constexpr int propertiesWidthPx = 300;
 constexpr int labelMarginPx = 8;
 constexpr int refusalMs = 8000;
 QString const geometryKey = QStringLiteral("window/geometry");
@@ -79,6 +81,7 @@ MainWindow::MainWindow()
   resize(firstSize);
   buildViews();
   buildContents();
+  buildProperties();
   buildStatusBar();
   actions_ = std::make_unique<ActionTable>(bench_.commands(), *this);
   auto* const recent = new QMenu(tr("Open Recent"), this);
@@ -93,6 +96,8 @@ MainWindow::MainWindow()
   connect(&bench_.session(), &DocumentSession::historyChanged, this, &MainWindow::listMaps);
   connect(&bench_.session(), &DocumentSession::replaced, this, &MainWindow::documentReplaced);
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
+  connect(actions_.get(), &ActionTable::refreshed, properties_, &PropertyPanel::follow);
+  connect(properties_, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
   connectFiles();
   restoreState();
   contents_->SetBuddy(&bench_.views());
@@ -119,6 +124,8 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   host.add(QStringLiteral("Host_SaveAs"), {[this] { files_.saveAs(); }, always, always});
   host.add(QStringLiteral("Host_Contents"), {[this] { contentsDock_->setVisible(!contentsDock_->isVisible()); }, always,
                                              [this] { return contentsDock_->isVisible(); }});
+  host.add(QStringLiteral("Host_Properties"), {[this] { properties_->setVisible(!properties_->isVisible()); }, always,
+                                               [this] { return properties_->isVisible(); }});
   host.add(QStringLiteral("Host_Quit"), {[this] { QTimer::singleShot(0, this, &QWidget::close); }, always, always});
   host.add(QStringLiteral("Host_About"), {[this] { showAbout(); }, always, always});
 }
@@ -184,6 +191,15 @@ void MainWindow::buildContents() {
   bench_.views().setCompanion(companion_.get());
   bench_.desktop().setTableOfContents(contents_);
   connect(contents_, &SysAdapterUI::TOCControl::MapChosen, &bench_.views(), &DocumentViews::focusOn);
+}
+
+void MainWindow::buildProperties() {
+  properties_ = new PropertyPanel(bench_.session(), this);
+  addDockWidget(Qt::RightDockWidgetArea, properties_);
+  resizeDocks({properties_}, {propertiesWidthPx}, Qt::Horizontal);
+  connect(contents_, &SysAdapterUI::TOCControl::RowChosen, properties_, &PropertyPanel::showRow);
+  connect(properties_, &PropertyPanel::told, notice_,
+          [this](QString const& sentence) { notice_->tell(sentence, false); });
 }
 
 void MainWindow::buildStatusBar() {

@@ -13,6 +13,7 @@
 class QLabel;
 class QLineEdit;
 class NoticeBar;
+class PropertyPanel;
 class QTabBar;
 
 /// The window: puts together the workbench, its actions, the table of contents and the status bar.
@@ -42,6 +43,7 @@ private:
 
   void addWindowCommands(HostCommands& host);
   void buildContents();
+  void buildProperties();
   void buildViews();
   void connectFiles();
   void buildStatusBar();
@@ -62,6 +64,7 @@ private:
   std::unique_ptr<Companion> companion_;
   SysAdapterUI::TOCControl* contents_ = nullptr;
   QList<SysUtility::_ptr_t<SysCarto::Map>> listedMaps_;
+  PropertyPanel* properties_ = nullptr;
   QDockWidget* contentsDock_ = nullptr;
   NoticeBar* notice_ = nullptr;
   QTabBar* tabs_ = nullptr;

@@ -49,7 +49,7 @@ private:
     QSize sizePx;
     QSizeF sizeCm;
     SysGeometry::Envelope extent;
-    QList<bool> visibleLayers;
+    QList<quint64> layers;  // `LayerHost::look` of each
     QList<SysUtility::_ptr_t<SysCarto::Element>> graphics;
 
     bool isSameAs(Look const& other) const;

@@ -6,6 +6,7 @@
 #include "ScaleText.h"
 
 #include "host/SysCarto/maps/MapSteps.h"
+#include "host/SysUtility/JsonFile.h"
 
 #include <SysCarto/Map.h>
 
@@ -19,6 +20,7 @@
 using SysCarto::Map;
 using SysCarto::MapSteps;
 using SysUtility::_ptr_t;
+using SysUtility::SheetField;
 
 namespace {
 
@@ -46,6 +48,31 @@ bool isInCatalogue(QString const& identifier) {
 // By name, or by handle as in #12.
 bool isCalled(SysCarto::Element const& element, QString const& name) {
   return element.GetName() == name || name == QStringLiteral("#%1").arg(element.GetHandle());
+}
+
+// WHAT/FIELD…:VALUE; what a layer is called has two parts, and map: and layer: come before a name.
+struct FieldText {
+  QString what;
+  QStringList path;
+  QString value;  // null without a colon
+
+  static FieldText of(QString const& text) {
+    static QStringList const prefixes{QStringLiteral("map:"), QStringLiteral("layer:")};
+    QString prefix;
+    for (QString const& known : prefixes)
+      if (text.startsWith(known)) prefix = known;
+    int const colon = text.indexOf(QLatin1Char(':'), prefix.size());
+    QString const address = colon < 0 ? text : text.left(colon);
+    int const parts = prefix == prefixes.last() ? 2 : 1;
+    return {address.section(QLatin1Char('/'), 0, parts - 1),
+            address.section(QLatin1Char('/'), parts).split(QLatin1Char('/'), Qt::SkipEmptyParts),
+            colon < 0 ? QString() : text.mid(colon + 1).append(QLatin1String(""))};
+  }
+};
+
+bool isSetting(QString const& text) {
+  FieldText const field = FieldText::of(text);
+  return !field.what.isEmpty() && !field.path.isEmpty() && !field.value.isNull();
 }
 
 bool isPoint(QString const& text) { return numbersIn(text).size() == 2; }
@@ -83,6 +110,8 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("extent"),     text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::setExtent, {}},
       {text("show"),       text("LAYER"),        isAnything,   &RunSteps::showLayers, {}},
       {text("hide"),       text("LAYER"),        isAnything,   &RunSteps::hideLayers, {}},
+      {text("set"),        text("WHAT/FIELD…:VALUE"), isSetting, &RunSteps::setField, {}},
+      {text("get"),        text("WHAT/FIELD…"),  isAnything,   &RunSteps::getField, {}},
       {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
       {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
       {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
@@ -252,6 +281,42 @@ QString RunSteps::setVisible(QString const& layerName, bool visible) {
   return names.contains(layerName)
              ? QString()
              : tr("the focus map has no layer \"%1\"; it has: %2.").arg(layerName, names.join(QStringLiteral(", ")));
+}
+
+QString RunSteps::withThings(QString const& what, std::function<QString(SysCarto::Editable::List const&)> const& use) {
+  auto const things = SysCarto::Editable::named(bench_.session().document(), what);
+  if (!things.isEmpty()) return use(things);
+  return tr("there is no \"%1\"; write page, selection, an element's name or #HANDLE, map:NAME, or layer:MAP/LAYER; "
+            "plotvane info lists them.")
+      .arg(what);
+}
+
+QString RunSteps::setField(QString const& text) {
+  FieldText const field = FieldText::of(text);
+  return withThings(field.what, [&](SysCarto::Editable::List const& things) {
+    auto const& document = bench_.session().document();
+    auto const sheet = SysCarto::Editable::fields(document, {things.first()});
+    SheetField const* const known = SysUtility::fieldAt(sheet.first(), field.path);
+    QJsonValue const value = SysUtility::valueOf(field.value, known);
+    QStringList warnings;
+    QString const problem = SysCarto::Editable::set(
+        document, things, field.path, [&](QJsonValue const&) { return value; }, warnings);
+    for (QString const& warning : qAsConst(warnings)) Console::complain(warning);
+    return problem.isEmpty() ? problem : problem + QLatin1Char('.');
+  });
+}
+
+QString RunSteps::getField(QString const& text) {
+  FieldText const field = FieldText::of(text);
+  return withThings(field.what, [&](SysCarto::Editable::List const& things) {
+    for (auto const& sheet : SysCarto::Editable::fields(bench_.session().document(), things)) {
+      SheetField const* const found = SysUtility::fieldAt(sheet, field.path);
+      if (!found && !field.path.isEmpty())
+        return tr("there is no such field; get=%1 prints all that there are.").arg(field.what);
+      Console::print(SysUtility::jsonLine(found ? wholeValue(*found) : QJsonValue(wholeObject(sheet))));
+    }
+    return QString();
+  });
 }
 
 QString RunSteps::answer(QString const& text) {

@@ -3,6 +3,8 @@
 #include "DialogAnswers.h"
 #include "Workbench.h"
 
+#include "host/SysCarto/document/Editable.h"
+
 #include <QStringList>
 
 #include <functional>
@@ -45,6 +47,9 @@ private:
   QString setExtent(QString const& sides);
   QString showLayers(QString const& name) { return setVisible(name, true); }
   QString hideLayers(QString const& name) { return setVisible(name, false); }
+  QString setField(QString const& text);
+  QString getField(QString const& text);
+  QString withThings(QString const& what, std::function<QString(SysCarto::Editable::List const&)> const& use);
   QString answer(QString const& text);
   QString save(QString const& file);
   QString info(QString const&);

@@ -1,11 +1,15 @@
 #include "Files.h"
 #include "Pictures.h"
 
+#include "host/SysAdapterUI/OwnLibrary.h"
+#include "host/SysAdapterUI/PropertySheet.h"
 #include "host/SysAdapterUI/StyleItemModel.h"
+#include "host/SysAdapterUI/SymbolChooser.h"
 #include "host/SysAdapterUI/SymbolPreview.h"
 
 #include <SysAdapterUI/StyleGalleryClass.h>
 #include <SysDisplay/MarkerSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
 #include <SysUI/EnvironmentSetting.h>
 
 using namespace SysAdapterUI;
@@ -134,6 +138,31 @@ private slots:
     auto* const problems = dialog.findChild<QLabel*>("problems");
     QVERIFY(problems->isVisible());
     QVERIFY2(problems->text().startsWith(broken), qPrintable(problems->text()));
+  }
+
+  void aSymbolIsChangedInTheChooserAndKeptInALibraryOfOnesOwn() {
+    qputenv("XDG_DATA_HOME", folder_.filePath("data").toUtf8());
+    auto const symbol = SysUtility::make<SysDisplay::SimpleLineSymbol>();
+    SymbolChooser chooser(symbol, {"simpleLine", "dashLine", "layeredLine"}, Qt::yellow, nullptr);
+    auto& model = chooser.findChild<PropertySheet*>()->model();
+    QVERIFY(model.take(model.indexOf(QStringList("width")), 3.5, QString()));
+    QVERIFY(!model.take(model.indexOf(QStringList("width")), -1, "-1"));
+    QVERIFY(!model.take(model.indexOf(QStringList("type")), "markerLine", QString()));
+    QCOMPARE(ptr_cast<SysDisplay::LineSymbol>(chooser.symbol())->GetWidth(), 3.5);
+    QVERIFY(symbol->GetWidth() != 3.5);  // the dialog may still be cancelled
+
+    QCOMPARE(saveToOwnLibrary("Broad", chooser.symbol()), QString());
+    QCOMPARE(saveToOwnLibrary("Broad", chooser.symbol()), QString());  // once
+    QCOMPARE(styleFiles(), QStringList({ownStyleFile(), library_}));
+    StyleItemModel items(nullptr);
+    items.load(LineStyle, {ownStyleFile()});
+    QCOMPARE(items.rowCount(), 1);
+    QCOMPARE(items.rowLike(*chooser.symbol()), 0);
+
+    put(ownStyleFile(), "{");
+    QVERIFY(saveToOwnLibrary("Broad", symbol).contains(ownStyleFile()));
+    QCOMPARE(contentOf(ownStyleFile()), QByteArray("{"));
+    QFile::remove(ownStyleFile());
   }
 
 private:

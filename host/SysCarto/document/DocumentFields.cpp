@@ -1,13 +1,11 @@
 #include "DocumentFields.h"
 
 #include "ElementFields.h"
+#include "MapSettings.h"
 
 #include "host/SysCarto/document/LayerSettings.h"
 #include "host/SysCarto/document/SurroundFields.h"
 #include "host/SysCarto/elements/ElementHost.h"
-#include "host/SysCarto/maps/MapHost.h"
-#include "host/SysCarto/maps/MapLimits.h"
-#include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysUtility/JsonFile.h"
 
 #include <algorithm>
@@ -15,13 +13,10 @@
 
 namespace SysCarto {
 
-using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
 using SysUtility::Fields;
 using SysUtility::make;
 using SysUtility::ptr_cast;
-using SysUtility::TextKind;
-using SysUtility::Unit;
 
 namespace {
 
@@ -50,47 +45,6 @@ void listElementsOf(Fields& fields, SysUtility::Field const& field, IElementCont
   giveHandles(elements);
   container.AddElements(elements);
 }
-
-// What a document stores of a map, beside its layers and graphics.
-struct MapSettings {
-  QString name;
-  QString coordinateSystem;
-  double bounds[4] = {0, 0, 0, 0};
-
-  static MapSettings of(Map const& map) {
-    MapSettings settings{map.GetName(), map.GetCoordinateSystem()};
-    MapHost::storedBounds(map).QueryCoords(settings.bounds[0], settings.bounds[1], settings.bounds[2],
-                                           settings.bounds[3]);
-    return settings;
-  }
-
-  void list(Fields& fields) {
-    fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"), QT_TRANSLATE_NOOP("Fields", "What the map is called.")},
-                name, TextKind::Line);
-    fields.text(
-        {"coordinateSystem", QT_TRANSLATE_NOOP("Fields", "Coordinate system"),
-         QT_TRANSLATE_NOOP(
-             "Fields",
-             "That of the map: a code as in “EPSG:8857”, WKT or a PROJ text; empty for plain coordinates in metres.")},
-        coordinateSystem, TextKind::CoordinateSystem, QString());
-    QString const problem = fields.isReading() && fields.ok() ? checkCoordinateSystem(coordinateSystem) : QString();
-    if (!problem.isEmpty()) fields.fail("coordinateSystem", problem);
-    fields.numbers({"bounds", QT_TRANSLATE_NOOP("Fields", "Extent"),
-                    QT_TRANSLATE_NOOP("Fields",
-                                      "What the map shows: its left, lower, right and upper side. It is centred in the "
-                                      "data frame and widened to its shape.")},
-                   bounds, SysUtility::NumbersKind::Rectangle, {-maxMapCoordinate, maxMapCoordinate, Unit::MapUnit});
-    if (!fields.isReading() || !fields.ok()) return;
-    if (bounds[2] - bounds[0] < minMapExtent || bounds[3] - bounds[1] < minMapExtent)
-      fields.fail("bounds", Texts::tr("must be xmin, ymin, xmax, ymax, with xmin < xmax and ymin < ymax"));
-  }
-
-  void applyTo(Map& map) const {
-    map.SetName(name);
-    map.SetCoordinateSystem(coordinateSystem);
-    map.SetExtent(make<Envelope>(bounds[0], bounds[1], bounds[2], bounds[3]));
-  }
-};
 
 void listLayers(Fields& fields, Map& map, DocumentContext& context) {
   QList<_ptr_t<Layer>> layers = fields.isReading() ? QList<_ptr_t<Layer>>() : map.GetLayers();
@@ -162,7 +116,7 @@ void listMap(Fields& fields, _ptr_t<Map>& map, DocumentContext& context) {
   MapSettings settings = isPresent ? MapSettings::of(*map) : MapSettings();
   settings.list(fields);
   auto const listed = isPresent ? map : make<Map>();
-  if (fields.isReading() && fields.ok()) settings.applyTo(*listed);
+  if (fields.isReading() && fields.ok()) settings.applyTo(*listed, context.warnings);
   listLayers(fields, *listed, context);
   auto const handlesOfPage = std::exchange(context.handles, {});
   listElementsOf(fields,

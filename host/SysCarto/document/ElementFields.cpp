@@ -111,6 +111,11 @@ QString refusal(Choice const& kind, ElementScope const& scope) {
 
 }  // namespace
 
+QString captionOfKind(Element const& element) {
+  int const kind = kindOf(&element);
+  return kind < 0 ? QString() : QCoreApplication::translate("Fields", kinds[kind].choice.caption);
+}
+
 void listElement(Fields& fields, _ptr_t<Element>& element, ElementScope const& scope) {
   static QVector<Choice> const choices = choicesOfKinds();
   int kind = fields.isReading() ? 0 : kindOf(element.get());

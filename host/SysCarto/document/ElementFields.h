@@ -9,6 +9,9 @@ namespace SysCarto {
 SYSCARTO_EXPORT void listElement(SysUtility::Fields& fields, SysUtility::_ptr_t<Element>& element,
                                  ElementScope const& scope);
 
+/// What people call its kind; empty for a kind that can't be stored.
+QString captionOfKind(Element const& element);
+
 /// The elements of a page, of a map or of a group, in drawing order.
 void listElements(SysUtility::Fields& fields, SysUtility::Field const& field,
                   QList<SysUtility::_ptr_t<Element>>& elements, ElementScope const& scope);

@@ -121,16 +121,35 @@ void LayerSettings::list(Fields& fields) {
 
 _ptr_t<Layer> LayerSettings::make(Map const& map, DocumentContext& context) const {
   auto const layer = SysUtility::make<VectorLayer>(makeRenderer(renderer));
-  layer->SetName(name);
-  layer->SetVisible(visible);
-  layer->SetScaleRange(minScale, maxScale);
-  LayerHost::setEffects(*layer, effects);
-  layer->setLabelSettings(labels);
-  annotation.applyTo(*layer->GetAnnotationProperties());
+  give(*layer);
+  open(*layer, sourceToOpen(context), map, context);
+  return layer;
+}
+
+void LayerSettings::applyTo(VectorLayer& layer, Map const& map, DocumentContext& context) const {
+  SourceSettings const opened = sourceToOpen(context);
+  bool const readsAlike = opened == layer.source() && renderer.classifiesAs(layer.renderer().settings()) &&
+                          labels.field == layer.labelSettings().field &&
+                          labels.priorityField == layer.labelSettings().priorityField;
+  layer.setRenderer(makeRenderer(renderer));
+  give(layer);
+  if (!readsAlike) open(layer, opened, map, context);
+}
+
+// All but the renderer and the data.
+void LayerSettings::give(VectorLayer& layer) const {
+  layer.SetName(name);
+  layer.SetVisible(visible);
+  layer.SetScaleRange(minScale, maxScale);
+  LayerHost::setEffects(layer, effects);
+  layer.setLabelSettings(labels);
+  annotation.applyTo(*layer.GetAnnotationProperties());
+}
+
+SourceSettings LayerSettings::sourceToOpen(DocumentContext const& context) const {
   SourceSettings opened = source;
   opened.file = pathToOpen(source.file, context);
-  open(*layer, opened, map, context);
-  return layer;
+  return opened;
 }
 
 void listLayer(Fields& fields, _ptr_t<Layer>& layer, Map const& map, DocumentContext& context) {

@@ -24,6 +24,13 @@ struct LayerSettings {
 
   /// A layer of the map, with its source read. What could not be read is told to the context.
   SysUtility::_ptr_t<Layer> make(Map const& map, DocumentContext& context) const;
+
+  /// Changes a layer of the map. Its source is read anew only where that makes a difference.
+  void applyTo(VectorLayer& layer, Map const& map, DocumentContext& context) const;
+
+private:
+  void give(VectorLayer& layer) const;
+  SourceSettings sourceToOpen(DocumentContext const& context) const;
 };
 
 /// A layer of `map` in the visitor's own object. Reading makes a new one.

@@ -145,4 +145,14 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
   return result;
 }
 
+QStringList attributesOf(SourceSettings const& source) {
+  QString error;
+  QStringList names;
+  auto const data = DataSource::open(source.file, source.layer, error);
+  OGRFeatureDefn* const definition = data ? data->layer().GetLayerDefn() : nullptr;
+  for (int i = 0; definition && i < definition->GetFieldCount(); ++i)
+    names << QString::fromUtf8(definition->GetFieldDefn(i)->GetNameRef());
+  return names;
+}
+
 }  // namespace SysCarto

@@ -18,6 +18,11 @@ struct SourceSettings {
   QString layer;             ///< empty for the first of the file
   QString filter;            ///< a condition on the fields, as in OGR SQL ("population > 1000000"); empty for all
   QString coordinateSystem;  ///< stands in for the file's own; empty for that
+
+  bool operator==(SourceSettings const& other) const {
+    return file == other.file && layer == other.layer && filter == other.filter &&
+           coordinateSystem == other.coordinateSystem;
+  }
 };
 
 /// The fields that labels need; empty names for none.
@@ -36,5 +41,8 @@ struct ReadFeatures {
 /// and labels need of their attributes.
 SYSCARTO_EXPORT ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem,
                                           Renderer const& renderer, LabelFields const& labels);
+
+/// The names of the attributes that the features of a source have; none where it can't be read.
+SYSCARTO_EXPORT QStringList attributesOf(SourceSettings const& source);
 
 }  // namespace SysCarto

@@ -10,6 +10,7 @@ struct Layer::Private {
   ScaleRange scales;
   LayerEffects effects;
   SysUtility::ChangeMark change;
+  quint64 look = 1;
 };
 
 Layer::Layer() : d(std::make_unique<Private>()) {}
@@ -25,8 +26,12 @@ QList<LegendClass> Layer::legendClasses() const { return {}; }
 
 QString Layer::GetName() const { return d->name; }
 void Layer::SetName(QString const& name) { d->change.set(d->name, name); }
-void Layer::SetVisible(bool visible) { d->change.set(d->visible, visible); }
+void Layer::SetVisible(bool visible) {
+  d->change.set(d->visible, visible);
+  LayerHost::changeLook(*this);
+}
 void Layer::SetScaleRange(double minDenominator, double maxDenominator) {
+  LayerHost::changeLook(*this);
   ScaleRange scales;
   scales.set(minDenominator, maxDenominator);
   d->change.set(d->scales.min, scales.min);
@@ -38,7 +43,14 @@ LayerEffects LayerHost::effects(Layer const& layer) { return layer.d->effects; }
 void LayerHost::setEffects(Layer& layer, LayerEffects const& effects) {
   layer.d->change.set(layer.d->effects.opacityPercent, effects.opacityPercent);
   layer.d->change.set(layer.d->effects.blend, effects.blend);
+  changeLook(layer);
 }
 quint64 LayerHost::lastChange(Layer const& layer) { return layer.d->change.time(); }
+quint64 LayerHost::look(Layer const& layer) { return layer.d->look; }
+
+void LayerHost::changeLook(Layer& layer) {
+  static quint64 latest = 1;
+  layer.d->look = ++latest;
+}
 
 }  // namespace SysCarto

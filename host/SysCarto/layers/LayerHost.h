@@ -18,6 +18,10 @@ struct SYSCARTO_EXPORT LayerHost {
 
   /// When what can be set of every layer was last changed outside the history's steps (`ChangeMark`).
   static quint64 lastChange(Layer const& layer);
+
+  /// Differs from each number before it once the layer is drawn otherwise, for whoever keeps a picture of it.
+  static quint64 look(Layer const& layer);
+  static void changeLook(Layer& layer);
 };
 
 }  // namespace SysCarto

@@ -88,18 +88,16 @@ void listMinima(Fields& fields, std::vector<SymbolClass>& classes) {
   });
 }
 
-void listOthers(Fields& fields, std::optional<SymbolClass>& others) {
-  SymbolClass one = others.value_or(SymbolClass());
+void listOthers(Fields& fields, SymbolClass& others) {
   listOptionalSymbol(fields,
                      {"defaultSymbol", QT_TRANSLATE_NOOP("Fields", "Symbol of the others"),
                       QT_TRANSLATE_NOOP("Fields",
                                         "How features are drawn that are in no class; without a symbol they "
                                         "are not.")},
-                     one.symbol);
+                     others.symbol);
   fields.text({"defaultLabel", QT_TRANSLATE_NOOP("Fields", "Label of the others"),
                QT_TRANSLATE_NOOP("Fields", "What a legend calls features that are in no class.")},
-              one.label, TextKind::Line, QString());
-  if (fields.isReading()) others = one.symbol ? std::optional<SymbolClass>(one) : std::nullopt;
+              others.label, TextKind::Line, QString());
 }
 
 class SimpleRenderer final : public Renderer {
@@ -136,6 +134,14 @@ public:
 
 }  // namespace
 
+bool RendererSettings::classifiesAs(RendererSettings const& other) const {
+  auto const isAlike = [](SymbolClass const& a, SymbolClass const& b) {
+    return a.values == b.values && a.minimum == b.minimum;
+  };
+  return kind == other.kind && field == other.field && !others.symbol == !other.others.symbol &&
+         std::equal(classes.begin(), classes.end(), other.classes.begin(), other.classes.end(), isAlike);
+}
+
 void RendererSettings::list(Fields& fields) {
   int number = static_cast<int>(kind);
   fields.variant({"type", QT_TRANSLATE_NOOP("Fields", "Kind"),
@@ -158,7 +164,7 @@ void RendererSettings::list(Fields& fields) {
 }
 
 Renderer::Renderer(RendererSettings settings) : settings_(std::move(settings)), classes_(settings_.classes) {
-  if (settings_.others) classes_.push_back(*settings_.others);
+  if (settings_.others.symbol) classes_.push_back(settings_.others);
 }
 Renderer::~Renderer() = default;
 

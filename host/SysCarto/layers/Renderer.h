@@ -7,7 +7,6 @@
 #include <QStringList>
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace SysUtility {
@@ -29,11 +28,14 @@ struct SYSCARTO_EXPORT RendererSettings {
   enum class Kind { Simple, UniqueValues, Graduated };
 
   Kind kind = Kind::Simple;
-  QString field;                      ///< that decides; empty where none does
-  std::vector<SymbolClass> classes;   ///< a simple renderer has one
-  std::optional<SymbolClass> others;  ///< for all features that are in none of the classes
+  QString field;                     ///< that decides; empty where none does
+  std::vector<SymbolClass> classes;  ///< a simple renderer has one
+  SymbolClass others;                ///< for all features that are in none of the classes; drawn with a symbol alone
 
   void list(SysUtility::Fields& fields);
+
+  /// Whether every feature is in the same class by both, whatever the classes look like.
+  bool classifiesAs(RendererSettings const& other) const;
 };
 
 /// Which symbol a feature is drawn with, by the value of a field.
@@ -56,7 +58,7 @@ public:
 
 protected:
   explicit Renderer(RendererSettings settings);
-  int otherClass() const { return settings_.others ? static_cast<int>(settings_.classes.size()) : -1; }
+  int otherClass() const { return settings_.others.symbol ? static_cast<int>(settings_.classes.size()) : -1; }
 
 private:
   RendererSettings const settings_;

@@ -65,7 +65,18 @@ QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem
   thinned_ = std::make_unique<ThinnedFeatures>(*store_);
   warnings += read.warnings;
   problem_ = read.error;
+  LayerHost::changeLook(*this);
   return problem_;
+}
+
+void VectorLayer::setRenderer(std::unique_ptr<Renderer> renderer) {
+  renderer_ = std::move(renderer);
+  LayerHost::changeLook(*this);
+}
+
+void VectorLayer::setLabelSettings(LabelSettings const& settings) {
+  labels_ = settings;
+  LayerHost::changeLook(*this);
 }
 
 void VectorLayer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, int phase,

@@ -29,12 +29,13 @@ public:
   /// Why the source could not be read, as `open` answered it.
   QString const& problem() const { return problem_; }
 
-  /// It is not changed once the layer is made.
+  /// Not null. A renderer that puts features into other classes takes effect when the layer is opened.
+  void setRenderer(std::unique_ptr<Renderer> renderer);
   Renderer const& renderer() const { return *renderer_; }
   FeatureStore const& features() const { return *store_; }
 
-  /// Takes effect when the layer is opened: the texts are read with the features.
-  void setLabelSettings(LabelSettings const& settings) { labels_ = settings; }
+  /// Other fields take effect when the layer is opened: the texts are read with the features.
+  void setLabelSettings(LabelSettings const& settings);
   LabelSettings const& labelSettings() const { return labels_; }
 
   void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation, int phase,

@@ -1,5 +1,6 @@
 #include "PointTransform.h"
 
+#include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysGeometry/QuietOgr.h"
 
@@ -7,6 +8,7 @@
 
 #include <ogr_spatialref.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -14,6 +16,7 @@ namespace SysCarto {
 
 namespace {
 
+constexpr int pointsOnASide = 21;
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
@@ -66,6 +69,22 @@ bool PointTransform::apply(double& x, double& y) const {
   int ok = 0;
   transformation_->Transform(1, &x, &y, nullptr, nullptr, &ok);
   return ok && std::isfinite(x) && std::isfinite(y);
+}
+
+bool transformBounds(double (&sides)[4], QString const& from, QString const& to) {
+  GdalErrors const errors;
+  auto const source = makeCoordinateSystem(from), target = makeCoordinateSystem(to);
+  if (!source || !target) return false;
+  std::unique_ptr<OGRCoordinateTransformation> const transformation(
+      OGRCreateCoordinateTransformation(source.get(), target.get()));
+  double moved[4];
+  bool const isDone = transformation &&
+                      transformation->TransformBounds(sides[0], sides[1], sides[2], sides[3], &moved[0], &moved[1],
+                                                      &moved[2], &moved[3], pointsOnASide) &&
+                      std::all_of(moved, moved + 4, [](double side) { return std::isfinite(side); }) &&
+                      moved[0] < moved[2] && moved[1] < moved[3];
+  if (isDone) std::copy(moved, moved + 4, sides);
+  return isDone;
 }
 
 }  // namespace SysCarto

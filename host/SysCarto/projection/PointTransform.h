@@ -33,4 +33,8 @@ private:
   mutable std::vector<int> ok_;
 };
 
+/// The rectangle about what lies in one, as xmin, ymin, xmax and ymax in one system and then in the other; definitions
+/// as in `makeCoordinateSystem`. False, with the sides as they were, where it can't be told.
+bool transformBounds(double (&sides)[4], QString const& from, QString const& to);
+
 }  // namespace SysCarto

@@ -28,13 +28,7 @@ public:
   /// The chosen symbol after acceptance; empty where nothing was chosen.
   SysUtility::_ptr_t<SysUtility::CRef> GetStyleItem() const;
 
-protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
-  void build();
-  void connectParts();
-
   struct Private;
   std::unique_ptr<Private> d;
 };

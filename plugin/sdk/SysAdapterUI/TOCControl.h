@@ -2,10 +2,13 @@
 
 #include <SysAdapterUI/Export.h>
 #include <SysCarto/IKdxContents.h>
+#include <SysCarto/Layer.h>
 
 #include <QWidget>
 
 #include <memory>
+
+class QTreeWidgetItem;
 
 namespace SysAdapterUI {
 
@@ -21,7 +24,7 @@ public:
   /// Shows the maps of these contents, borrowed; null shows none.
   void SetBuddy(SysCarto::IKdxContents* contents);
 
-  /// Shows anew which layers are visible. A click on a layer's box is a step of the history, which may be taken back.
+  /// Shows anew the names, symbols and visibility of maps and layers, which a step of the history may have changed.
   void Refresh();
 
   /// Shows which map has the focus now.
@@ -31,7 +34,12 @@ signals:
   /// The user has chosen a map by its name.
   void MapChosen(SysUtility::_ptr_t<SysCarto::Map> const& map);
 
+  /// The row of a map, or of one of its layers, has become the current one; `layer` is empty for the map itself.
+  void RowChosen(SysUtility::_ptr_t<SysCarto::Map> const& map, SysUtility::_ptr_t<SysCarto::Layer> const& layer);
+
 private:
+  void tellRow(QTreeWidgetItem* item);
+
   struct Private;
   std::unique_ptr<Private> d;
 };

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "host/SysUtility/FieldEdit.h"
+
+namespace SysAdapterUI {
+
+/// Where a property sheet has its fields from.
+class FieldSource {
+public:
+  virtual ~FieldSource() = default;
+
+  /// The fields that all things shown have in common.
+  virtual QVector<SysUtility::SheetField> fields() = 0;
+
+  /// The attributes that a text of that kind may name.
+  virtual QStringList attributes() const { return {}; }
+
+  /// Gives a field of all things shown another value. Answers a problem, with nothing changed, or an empty text.
+  virtual QString set(QStringList const& path, SysUtility::NewValue const& value) = 0;
+};
+
+}  // namespace SysAdapterUI

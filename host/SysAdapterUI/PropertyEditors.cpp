@@ -1,0 +1,275 @@
+#include "PropertyEditors.h"
+
+#include "ColorButton.h"
+
+#include "host/SysUtility/JsonFile.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPlainTextEdit>
+#include <QTimer>
+#include <QToolButton>
+
+#include <cmath>
+
+namespace SysAdapterUI {
+
+using SysUtility::Choice;
+using SysUtility::FieldInfo;
+using SysUtility::TextKind;
+using SysUtility::Unit;
+using Kind = FieldInfo::Kind;
+
+namespace {
+
+constexpr int linesOfAText = 5;
+constexpr qint64 maxSvgBytes = 8 * 1024 * 1024;  // more than a reader takes, so that it is the one to refuse
+
+double stepOf(Unit unit) {
+  return unit == Unit::Centimetre || unit == Unit::LineWidth ? 0.1 : unit == Unit::Point ? 0.5 : 1;
+}
+
+// A number, or a text that is typed as it is.
+class LineField : public FieldEditor {
+public:
+  LineField(FieldInfo const& info, QLineEdit* edit) : FieldEditor(edit), info_(info), edit_(edit) {
+    edit->setFrame(false);
+    if (isNumber()) edit->installEventFilter(this);
+  }
+
+  void show(QVariant const& value) override {
+    edit_->setText(shown(value));
+    edit_->selectAll();
+    edit_->setModified(false);
+  }
+  bool isChanged() const override { return edit_->isModified(); }
+  QString text() const override { return edit_->text(); }
+
+  // A comma or a point, whatever the language.
+  QJsonValue value() const override {
+    if (isList()) return list();
+    if (!isNumber()) return edit_->text();
+    auto const number = numberIn(edit_->text());
+    return number ? QJsonValue(*number) : QJsonValue(edit_->text());
+  }
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto const* const key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+    if (!key || (key->key() != Qt::Key_Up && key->key() != Qt::Key_Down))
+      return FieldEditor::eventFilter(watched, event);
+    auto const number = numberIn(edit_->text());
+    double const step = info_.kind == Kind::Integer ? 1 : stepOf(info_.rules.range.unit);
+    double const factor = key->modifiers() & Qt::ShiftModifier ? 10 : 1;
+    double const by = key->key() == Qt::Key_Up ? step * factor : -step * factor;
+    if (number) {
+      edit_->setText(
+          shown(qBound(info_.rules.range.min, std::round((*number + by) * 1e6) / 1e6, info_.rules.range.max)));
+      edit_->setModified(true);
+    }
+    return true;
+  }
+
+private:
+  bool isNumber() const { return info_.kind == Kind::Number || info_.kind == Kind::Integer; }
+
+  static std::optional<double> numberIn(QString text) {
+    text = text.trimmed().replace(QLatin1Char(','), QLatin1Char('.')).replace(QChar(0x2212), QLatin1Char('-'));
+    bool isNumber = false;
+    double const number = text.toDouble(&isNumber);
+    return isNumber && std::isfinite(number) ? std::optional<double>(number) : std::nullopt;
+  }
+
+  bool isList() const { return info_.kind == Kind::Coordinates || info_.kind == Kind::NumberList; }
+
+  QJsonValue list() const {
+    QJsonDocument const list = QJsonDocument::fromJson('[' + edit_->text().toUtf8() + ']');
+    return list.isArray() ? QJsonValue(list.array()) : QJsonValue(edit_->text());
+  }
+
+  QString shown(QVariant const& value) const {
+    if (isList() && value.type() == QVariant::List) {
+      QString const list = SysUtility::jsonLine(QJsonValue::fromVariant(value));
+      return list.mid(1, list.size() - 2);
+    }
+    if (!isNumber() || value.type() == QVariant::String) return value.toString();
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+  }
+
+  FieldInfo const info_;
+  QLineEdit* const edit_;
+};
+
+// Texts of many lines, and lists with a text on each line.
+class LinesField final : public FieldEditor {
+public:
+  LinesField(FieldInfo const& info, QPlainTextEdit* edit) : FieldEditor(edit), info_(info), edit_(edit) {
+    edit->setFixedHeight(linesOfAText * edit->fontMetrics().lineSpacing() + 10);
+    edit->setTabChangesFocus(true);
+    edit->installEventFilter(this);
+  }
+
+  void show(QVariant const& value) override {
+    edit_->setPlainText(value.type() == QVariant::List ? value.toStringList().join(QLatin1Char('\n'))
+                                                       : value.toString());
+    edit_->document()->setModified(false);
+  }
+  bool isChanged() const override { return edit_->document()->isModified(); }
+  QString text() const override { return edit_->toPlainText(); }
+  QJsonValue value() const override {
+    if (info_.kind != Kind::Texts) return text();
+    return QJsonArray::fromStringList(text().split(QLatin1Char('\n'), Qt::SkipEmptyParts));
+  }
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto const* const key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+    bool const isReturn = key && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter);
+    if (!isReturn || !(key->modifiers() & Qt::ControlModifier)) return FieldEditor::eventFilter(watched, event);
+    emit finished();
+    return true;
+  }
+
+private:
+  FieldInfo const info_;
+  QPlainTextEdit* const edit_;
+};
+
+class ChoiceField final : public FieldEditor {
+public:
+  ChoiceField(FieldInfo const& info, QComboBox* box) : FieldEditor(box), box_(box) {
+    for (Choice const& choice : info.choices) {
+      // Of what is no field of a document, the number counts.
+      bool const isNamed = choice.name && *choice.name;
+      box->addItem(isNamed ? QCoreApplication::translate("Fields", choice.caption)
+                           : QCoreApplication::translate("SysAdapterUI::PropertyModel", choice.caption),
+                   isNamed ? QVariant(QString::fromUtf8(choice.name)) : QVariant(choice.value));
+    }
+    box->setCurrentIndex(-1);
+    connect(box, QOverload<int>::of(&QComboBox::activated), this, [this] {
+      isChosen_ = true;
+      emit finished();
+    });
+  }
+
+  void show(QVariant const& value) override {
+    int const known = box_->findData(value.type() == QVariant::String ? value : QVariant(value.toInt()));
+    box_->setCurrentIndex(known);
+    isChosen_ = false;
+    shown_ = known;
+  }
+  bool isChanged() const override { return isChosen_ || box_->currentIndex() != shown_; }
+  QString text() const override { return box_->currentText(); }
+  QJsonValue value() const override { return QJsonValue::fromVariant(box_->currentData()); }
+
+private:
+  QComboBox* const box_;
+  bool isChosen_ = false;
+  int shown_ = -1;
+};
+
+// A text that a button helps to enter.
+class ButtonField final : public FieldEditor {
+public:
+  ButtonField(FieldInfo const& info, QWidget* widget) : FieldEditor(widget), kind_(info.rules.textKind) {
+    auto* const box = new QHBoxLayout(widget);
+    box->setContentsMargins(0, 0, 0, 0);
+    box->setSpacing(1);
+    edit_ = new QLineEdit(widget);
+    edit_->setFrame(false);
+    box->addWidget(edit_, 1);
+    widget->setAutoFillBackground(true);
+    widget->setFocusProxy(edit_);
+    if (kind_ == TextKind::Color) {
+      color_ = new ColorButton(widget);
+      box->addWidget(color_);
+      connect(color_, &ColorButton::colorChosen, this, [this](QColor const& chosen) {
+        take(chosen.name(chosen.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb));
+      });
+    } else {
+      auto* const button = new QToolButton(widget);
+      button->setText(QStringLiteral("…"));
+      button->setAccessibleName(FieldEditor::tr("Choose a file"));
+      button->setToolTip(button->accessibleName());
+      box->addWidget(button);
+      connect(button, &QToolButton::clicked, this, &ButtonField::chooseFile);
+    }
+    if (kind_ == TextKind::Svg) edit_->setReadOnly(true);
+  }
+
+  void show(QVariant const& value) override {
+    text_ = value.toString();
+    edit_->setText(kind_ == TextKind::Svg ? FieldEditor::tr("%1 characters").arg(text_.size()) : text_);
+    edit_->selectAll();
+    edit_->setModified(false);
+    if (color_) color_->setColor(QColor(text_));
+    isTaken_ = false;
+  }
+  bool isChanged() const override { return isTaken_ || edit_->isModified(); }
+  QString text() const override { return kind_ == TextKind::Svg ? text_ : edit_->text(); }
+  QJsonValue value() const override { return text(); }
+
+private:
+  void take(QString const& text) {
+    text_ = text;
+    edit_->setText(text);
+    isTaken_ = true;
+    emit finished();
+  }
+
+  void chooseFile() {
+    QString const filter = kind_ == TextKind::Svg ? FieldEditor::tr("Pictures (*.svg)") : QString();
+    QString const path =
+        QFileDialog::getOpenFileName(&widget(), FieldEditor::tr("Choose a File"), QFileInfo(text_).path(), filter);
+    if (path.isEmpty()) return;
+    if (kind_ != TextKind::Svg) return take(path);
+    QFile file(path);
+    take(file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(maxSvgBytes)) : path);
+  }
+
+  TextKind const kind_;
+  QLineEdit* edit_ = nullptr;
+  ColorButton* color_ = nullptr;
+  QString text_;
+  bool isTaken_ = false;
+};
+
+bool hasButton(TextKind kind) { return kind == TextKind::Color || kind == TextKind::File || kind == TextKind::Svg; }
+
+}  // namespace
+
+FieldEditor::FieldEditor(QWidget* widget) : QObject(widget), widget_(widget) {}
+
+FieldEditor* FieldEditor::of(QWidget* widget) {
+  return widget->findChild<FieldEditor*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+FieldEditor* FieldEditor::create(FieldInfo const& info, QStringList const& suggestions, QWidget* parent) {
+  bool const isText = info.kind == Kind::Text;
+  if (info.kind == Kind::Choice || info.kind == Kind::Variant) return new ChoiceField(info, new QComboBox(parent));
+  if (info.kind == Kind::Texts || (isText && info.rules.textKind == TextKind::Lines))
+    return new LinesField(info, new QPlainTextEdit(parent));
+  if (isText && hasButton(info.rules.textKind)) return new ButtonField(info, new QWidget(parent));
+  auto* const line = new QLineEdit(parent);
+  if (!suggestions.isEmpty()) {
+    auto* const completer = new QCompleter(suggestions, line);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    completer->setFilterMode(Qt::MatchContains);
+    line->setCompleter(completer);
+    QTimer::singleShot(0, completer, [completer] { completer->complete(); });
+  }
+  return new LineField(info, line);
+}
+
+}  // namespace SysAdapterUI

@@ -1,0 +1,479 @@
+#include "PropertyModel.h"
+
+#include "SymbolPreview.h"
+
+#include "host/SysDisplay/SymbolFields.h"
+#include "host/SysUtility/JsonFile.h"
+
+#include <QApplication>
+#include <QColor>
+#include <QIcon>
+#include <QJsonArray>
+#include <QLocale>
+#include <QPainter>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace SysAdapterUI {
+
+using SysUtility::Choice;
+using SysUtility::FieldInfo;
+using SysUtility::NewValue;
+using SysUtility::NumbersKind;
+using SysUtility::SheetField;
+using SysUtility::TextKind;
+using SysUtility::Unit;
+using Kind = FieldInfo::Kind;
+using Part = PropertyModel::Row::Part;
+
+namespace {
+
+constexpr int maxShown = 200;  // characters of a value
+constexpr QSize swatchPx(32, 16);
+
+QString translatedField(char const* text) { return QCoreApplication::translate("Fields", text); }
+
+// clang-format off
+constexpr Choice anchors[] = {
+    {0, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Upper left")},
+    {1, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Upper middle")},
+    {2, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Upper right")},
+    {3, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Middle left")},
+    {4, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Middle")},
+    {5, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Middle right")},
+    {6, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Lower left")},
+    {7, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Lower middle")},
+    {8, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Lower right")},
+};
+struct PartText { Part part; char const* caption; char const* help; };
+constexpr PartText parts[] = {
+    {Part::X,      QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "X"),             QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "To the right.")},
+    {Part::Y,      QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Y"),             QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Upwards.")},
+    {Part::Width,  QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Width"),         QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "From the left side to the right one.")},
+    {Part::Height, QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Height"),        QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "From the lower side to the upper one.")},
+    {Part::Anchor, QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Measured from"), QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "The place of the rectangle that X and Y tell of, and that stays where it is when the size changes.")},
+};
+// clang-format on
+
+PartText const& textOf(Part part) {
+  return *std::find_if(std::begin(parts), std::end(parts), [&](PartText const& text) { return text.part == part; });
+}
+
+// Across and upwards, from 0 to 1.
+QPointF placeOf(int anchor) { return {anchor % 3 / 2.0, 1 - anchor / 3 / 2.0}; }
+
+// Of a rectangle as a document has it.
+double partOf(QJsonArray const& numbers, Part part, int anchor) {
+  auto const at = [&](int i) { return numbers.at(i).toDouble(); };
+  if (numbers.size() < 4) return at(part == Part::X ? 0 : 1);
+  QPointF const place = placeOf(anchor);
+  double const width = at(2) - at(0), height = at(3) - at(1);
+  switch (part) {
+    case Part::X: return at(0) + place.x() * width;
+    case Part::Y: return at(1) + place.y() * height;
+    case Part::Width: return width;
+    default: return height;
+  }
+}
+
+QJsonArray withPart(QJsonArray numbers, Part part, double value, int anchor) {
+  bool const isAcross = part == Part::X || part == Part::Width;
+  int const low = isAcross ? 0 : 1;
+  if (numbers.size() < 4) {
+    numbers[low] = value;
+    return numbers;
+  }
+  double const from = numbers.at(low).toDouble(), to = numbers.at(low + 2).toDouble();
+  if (part == Part::X || part == Part::Y) {
+    double const by = value - partOf(numbers, part, anchor);
+    numbers[low] = from + by;
+    numbers[low + 2] = to + by;
+  } else {
+    double const share = isAcross ? placeOf(anchor).x() : placeOf(anchor).y();
+    double const fixed = from + share * (to - from);
+    numbers[low] = fixed - share * value;
+    numbers[low + 2] = fixed + (1 - share) * value;
+  }
+  return numbers;
+}
+
+QString number(double value) {
+  QLocale locale;
+  locale.setNumberOptions(QLocale::OmitGroupSeparator);
+  return locale.toString(value, 'g', 8);
+}
+
+QIcon symbolIcon(SheetField const& field) {
+  auto const symbol = SysDisplay::symbolOf(SysUtility::wholeValue(field).toObject());
+  if (!symbol) return QIcon();
+  double const ratio = qApp->devicePixelRatio();
+  QPixmap picture(swatchPx * ratio);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  drawSymbolPreview(painter, picture.rect(), *symbol, ratio, false);
+  painter.end();
+  picture.setDevicePixelRatio(ratio);
+  return picture;
+}
+
+}  // namespace
+
+QString unitText(Unit unit) {
+  switch (unit) {
+    case Unit::Point: return QStringLiteral("pt");
+    case Unit::Centimetre: return QStringLiteral("cm");
+    case Unit::Degree: return QStringLiteral("°");
+    case Unit::Percent: return QStringLiteral("%");
+    case Unit::LineWidth: return PropertyModel::tr("line widths");
+    case Unit::None:
+    case Unit::ScaleDenominator:
+    case Unit::MapUnit: break;
+  }
+  return QString();
+}
+
+QString readable(FieldInfo const& info, QJsonValue const& value) {
+  QString const unit = unitText(info.rules.range.unit);
+  switch (info.kind) {
+    case Kind::Number:
+    case Kind::Integer:
+      if (info.rules.range.unit == Unit::ScaleDenominator && value.toDouble() > 0)
+        return QStringLiteral("1:") + number(value.toDouble());
+      return unit.isEmpty() ? number(value.toDouble()) : number(value.toDouble()) + QChar(0x202f) + unit;
+    case Kind::Text:
+      if (info.rules.textKind == TextKind::Svg) return PropertyModel::tr("%1 characters").arg(value.toString().size());
+      return value.toString().left(maxShown).simplified();
+    case Kind::Texts: return value.toVariant().toStringList().join(QStringLiteral(", ")).left(maxShown);
+    case Kind::NumberList:
+    case Kind::Numbers: {
+      QStringList texts;
+      for (QJsonValue const& one : value.toArray()) texts << number(one.toDouble());
+      return texts.join(QStringLiteral("; "));
+    }
+    case Kind::Coordinates: return PropertyModel::tr("%1 points").arg(value.toArray().size() / 2);
+    case Kind::Choice:
+    case Kind::Variant:
+      for (Choice const& choice : info.choices)
+        if (value.toString() == QLatin1String(choice.name)) return translatedField(choice.caption);
+      return value.toString();
+    case Kind::Flag:
+    case Kind::Object:
+    case Kind::List: break;
+  }
+  return QString();
+}
+
+struct PropertyModel::Node {
+  SheetField field;
+  QStringList path;
+  Part part = Part::Field;
+  bool isEntry = false;
+  Node* parent = nullptr;
+  int place = 0;
+  std::vector<std::unique_ptr<Node>> children;
+  QString refused, problem;  // empty where nothing was refused
+
+  // One that there is.
+  bool isSymbol() const {
+    return field.info.kind == Kind::Object && field.isPresent && SysDisplay::isSymbol(field.info.field);
+  }
+
+  Node& add(SheetField const& of, QStringList const& at) {
+    children.push_back(std::make_unique<Node>());
+    Node& child = *children.back();
+    child.field = of;
+    child.path = at;
+    child.parent = this;
+    child.place = static_cast<int>(children.size()) - 1;
+    return child;
+  }
+
+  // The same rows, whatever their values.
+  bool isShapedAs(Node const& other) const {
+    auto const isSame = [](auto const& a, auto const& b) { return a->isShapedAs(*b); };
+    return path == other.path && part == other.part && field.info.kind == other.field.info.kind &&
+           field.info.field.caption == other.field.info.field.caption &&
+           std::equal(children.begin(), children.end(), other.children.begin(), other.children.end(), isSame);
+  }
+
+  // What was refused stays.
+  void takeValues(Node const& other) {
+    field = other.field;
+    for (size_t i = 0; i < children.size(); ++i) children[i]->takeValues(*other.children[i]);
+  }
+};
+
+PropertyModel::PropertyModel(QObject* parent) : QAbstractItemModel(parent), root_(std::make_unique<Node>()) {}
+PropertyModel::~PropertyModel() = default;
+
+void PropertyModel::setSource(FieldSource* source) {
+  source_ = source;
+  beginResetModel();
+  root_ = std::make_unique<Node>();
+  if (source_) build(*root_, source_->fields());
+  endResetModel();
+}
+
+void PropertyModel::refresh() {
+  auto fresh = std::make_unique<Node>();
+  if (source_) build(*fresh, source_->fields());
+  if (fresh->isShapedAs(*root_)) {
+    root_->takeValues(*fresh);
+    auto const tell = [this](auto const& self, QModelIndex const& parent) -> void {
+      int const count = rowCount(parent);
+      if (count == 0) return;
+      emit dataChanged(index(0, 0, parent), index(count - 1, ValueColumn, parent));
+      for (int i = 0; i < count; ++i) self(self, index(i, 0, parent));
+    };
+    return tell(tell, {});
+  }
+  beginResetModel();
+  root_ = std::move(fresh);
+  endResetModel();
+}
+
+void PropertyModel::build(Node& parent, QVector<SheetField> const& fields) {
+  bool const isList = parent.parent && parent.field.info.kind == Kind::List;
+  for (int i = 0; i < fields.size(); ++i) {
+    Node& node = parent.add(fields[i], parent.path + QStringList(isList ? QString::number(i) : fields[i].key()));
+    node.isEntry = isList;
+    build(node, fields[i].fields);
+    addParts(node);
+  }
+}
+
+void PropertyModel::addParts(Node& node) {
+  if (node.field.info.kind != Kind::Numbers) return;
+  bool const isRectangle = node.field.info.rules.numbersKind == NumbersKind::Rectangle;
+  for (Part const part : {Part::X, Part::Y, Part::Width, Part::Height, Part::Anchor}) {
+    if (!isRectangle && part == Part::Width) break;
+    Node& own = node.add(node.field, node.path);
+    own.part = part;
+    own.field.info.field.caption = textOf(part).caption;
+    own.field.info.field.help = textOf(part).help;
+    own.field.info.kind = part == Part::Anchor ? Kind::Choice : Kind::Number;
+    if (part == Part::Anchor)
+      for (Choice const& anchor : anchors) own.field.info.choices << anchor;
+  }
+}
+
+PropertyModel::Node& PropertyModel::nodeAt(QModelIndex const& index) const {
+  return index.isValid() ? *static_cast<Node*>(index.internalPointer()) : *root_;
+}
+
+QModelIndex PropertyModel::indexOf(Node const& node, int column) const {
+  if (!node.parent) return {};
+  return createIndex(node.place, column, const_cast<Node*>(&node));
+}
+
+PropertyModel::Row PropertyModel::row(QModelIndex const& index) const {
+  Node const& node = nodeAt(index);
+  return {&node.field, node.path, node.part, node.isEntry};
+}
+
+QModelIndex PropertyModel::indexOf(QStringList const& path) const {
+  Node const* node = root_.get();
+  while (node->path != path) {
+    auto const& children = node->children;
+    auto const next = std::find_if(children.begin(), children.end(), [&](auto const& child) {
+      return child->part == Part::Field && path.mid(0, child->path.size()) == child->path;
+    });
+    if (next == children.end()) return {};
+    node = next->get();
+  }
+  return indexOf(*node, ValueColumn);
+}
+
+QModelIndex PropertyModel::index(int row, int column, QModelIndex const& parent) const {
+  Node const& node = nodeAt(parent);
+  if (row < 0 || row >= static_cast<int>(node.children.size()) || column < 0 || column > ValueColumn) return {};
+  return indexOf(*node.children[row], column);
+}
+
+QModelIndex PropertyModel::parent(QModelIndex const& index) const {
+  return index.isValid() ? indexOf(*nodeAt(index).parent, CaptionColumn) : QModelIndex();
+}
+
+int PropertyModel::rowCount(QModelIndex const& parent) const {
+  return parent.column() > 0 ? 0 : static_cast<int>(nodeAt(parent).children.size());
+}
+
+QVariant PropertyModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+  return section == CaptionColumn ? tr("Property") : tr("Value");
+}
+
+Qt::ItemFlags PropertyModel::flags(QModelIndex const& index) const {
+  if (!index.isValid()) return Qt::NoItemFlags;
+  Node const& node = nodeAt(index);
+  Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+  if (index.column() != ValueColumn) return flags;
+  if (check(node).isValid()) flags |= Qt::ItemIsUserCheckable;
+  Kind const kind = node.field.info.kind;
+  bool const isInside = kind == Kind::List || kind == Kind::Flag || (kind == Kind::Object && !node.isSymbol()) ||
+                        (kind == Kind::Numbers && node.part == Part::Field);
+  // What kind of thing it is decides on nearly all other fields.
+  bool const isFixed = node.path == QStringList(QStringLiteral("handle")) ||
+                       node.path == QStringList(QStringLiteral("type")) ||
+                       (kind == Kind::Variant && node.field.info.choices.size() == 1);
+  if (!isInside && !isFixed) flags |= Qt::ItemIsEditable;
+  return flags;
+}
+
+QJsonValue PropertyModel::valueOf(Node const& node) const {
+  if (node.part == Part::Field) return SysUtility::wholeValue(node.field);
+  if (node.part == Part::Anchor) return anchor_;
+  return partOf(node.field.value.toArray(), node.part, anchor_);
+}
+
+bool PropertyModel::isMixed(Node const& node) const {
+  if (node.part == Part::Anchor) return false;
+  QJsonValue const first = valueOf(node);
+  return std::any_of(node.field.others.begin(), node.field.others.end(), [&](QJsonValue const& other) {
+    return node.part == Part::Field ? other != first : partOf(other.toArray(), node.part, anchor_) != first.toDouble();
+  });
+}
+
+QVariant PropertyModel::check(Node const& node) const {
+  bool const isObject = node.field.info.kind == Kind::Object && !node.field.info.rules.isRequired && !node.isEntry;
+  if (node.part != Part::Field || (!isObject && node.field.info.kind != Kind::Flag)) return {};
+  auto const isOn = [&](QJsonValue const& value) { return isObject ? value.isObject() : value.toBool(); };
+  QJsonValue const own = valueOf(node);
+  for (QJsonValue const& other : node.field.others)
+    if (isOn(other) != isOn(own)) return Qt::PartiallyChecked;
+  return isOn(own) ? Qt::Checked : Qt::Unchecked;
+}
+
+QVariant PropertyModel::display(Node const& node) const {
+  if (!node.problem.isEmpty()) return node.refused;
+  Kind const kind = node.field.info.kind;
+  if (isMixed(node) && kind != Kind::Flag) return tr("mixed");
+  if (node.part == Part::Anchor) return tr(anchors[anchor_].caption);
+  if (kind == Kind::List) return tr("%1 entries").arg(static_cast<int>(node.children.size()));
+  if (kind == Kind::Object && !node.field.isPresent) return tr("none");
+  if (node.isSymbol()) return readable(node.field.fields.first().info, node.field.fields.first().value);
+  return readable(node.field.info, valueOf(node));
+}
+
+QVariant PropertyModel::data(QModelIndex const& index, int role) const {
+  if (!index.isValid()) return {};
+  Node const& node = nodeAt(index);
+  if (role == ProblemRole) return node.problem;
+  if (role == PathRole) return node.path;
+  bool const isPart = node.part != Part::Field;
+  if (role == HelpRole || role == Qt::WhatsThisRole)
+    return isPart ? tr(node.field.info.field.help) : translatedField(node.field.info.field.help);
+  if (role == Qt::ToolTipRole) return node.problem.isEmpty() ? data(index, HelpRole) : node.problem;
+  if (index.column() == CaptionColumn) {
+    if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
+    if (node.isEntry) return tr("Entry %1").arg(node.place + 1);
+    return isPart ? tr(node.field.info.field.caption) : translatedField(node.field.info.field.caption);
+  }
+  switch (role) {
+    case Qt::DisplayRole: return display(node);
+    case Qt::EditRole: return node.problem.isEmpty() ? valueOf(node).toVariant() : node.refused;
+    case Qt::CheckStateRole: return check(node);
+    case Qt::ForegroundRole:
+      if (!node.problem.isEmpty()) return QColor(0xc0, 0x20, 0x20);
+      return isMixed(node) ? qApp->palette().color(QPalette::Disabled, QPalette::Text) : QVariant();
+    case Qt::DecorationRole:
+      if (isMixed(node)) return {};
+      if (node.field.info.kind == Kind::Text && node.field.info.rules.textKind == TextKind::Color)
+        return QColor(node.field.value.toString());
+      return node.isSymbol() ? symbolIcon(node.field) : QVariant();
+    default: return {};
+  }
+}
+
+bool PropertyModel::change(Node& node, NewValue const& value, QString const& shown) {
+  if (!source_) return false;
+  node.problem = source_->set(node.path, value);
+  node.refused = node.problem.isEmpty() ? QString() : shown;
+  if (node.problem.isEmpty()) {
+    refresh();  // which may be the end of the node
+    return true;
+  }
+  QModelIndex const index = indexOf(node, ValueColumn);
+  emit dataChanged(index, index);
+  return false;
+}
+
+QStringList PropertyModel::suggestions(QModelIndex const& index) const {
+  FieldInfo const& info = nodeAt(index).field.info;
+  bool const isAttribute = info.kind == Kind::Text && info.rules.textKind == TextKind::Attribute;
+  return isAttribute && source_ ? source_->attributes() : QStringList();
+}
+
+bool PropertyModel::take(QModelIndex const& index, QJsonValue const& value, QString const& shown) {
+  Node& node = nodeAt(index);
+  if (node.part == Part::Field)
+    return change(
+        node, [&](QJsonValue const&) { return value; }, shown);
+  if (node.part == Part::Anchor) {
+    anchor_ = std::clamp(value.toInt(), 0, 8);
+    emit dataChanged(indexOf(*node.parent->children.front(), 0), indexOf(*node.parent->children.back(), ValueColumn));
+    return true;
+  }
+  // A text that is no number goes to the reader, which says so.
+  return change(
+      node,
+      [&, part = node.part](QJsonValue const& now) {
+        return value.isDouble() ? QJsonValue(withPart(now.toArray(), part, value.toDouble(), anchor_)) : value;
+      },
+      shown);
+}
+
+bool PropertyModel::setData(QModelIndex const& index, QVariant const& value, int role) {
+  if (role != Qt::CheckStateRole || !index.isValid()) return false;
+  Node& node = nodeAt(index);
+  bool const isOn = value.toInt() == Qt::Checked;
+  bool const isObject = node.field.info.kind == Kind::Object;
+  return change(
+      node,
+      [=](QJsonValue const& now) {
+        if (!isObject) return QJsonValue(isOn);
+        if (!isOn) return QJsonValue(QJsonValue::Null);
+        return now.isObject() ? now : QJsonValue(QJsonObject());
+      },
+      QString());
+}
+
+QModelIndex PropertyModel::addEntry(QModelIndex const& index) {
+  Node* const node = &nodeAt(index);
+  Node* const list = node->isEntry ? node->parent : node;
+  QStringList const path = list->path;
+  int const count = static_cast<int>(list->children.size());
+  QString problem =
+      source_ ? source_->set(path + QStringList(QStringLiteral("-")), [](QJsonValue const&) { return QJsonObject(); })
+              : QString();
+  list->problem = problem;
+  list->refused.clear();
+  refresh();
+  return indexOf(path + QStringList(QString::number(count)));
+}
+
+void PropertyModel::removeEntry(QModelIndex const& index) {
+  Node& node = nodeAt(index);
+  if (node.isEntry)
+    change(
+        node, [](QJsonValue const&) { return QJsonValue(QJsonValue::Null); }, QString());
+}
+
+QModelIndex PropertyModel::moveEntry(QModelIndex const& index, int by) {
+  Node& node = nodeAt(index);
+  int const from = node.place, to = from + by;
+  if (!node.isEntry || to < 0 || to >= static_cast<int>(node.parent->children.size())) return index;
+  QStringList const path = node.parent->path;
+  bool const isDone = change(
+      *node.parent,
+      [&](QJsonValue const& now) {
+        QJsonArray list = now.toArray();
+        list.insert(to, list.takeAt(from));
+        return QJsonValue(list);
+      },
+      QString());
+  return indexOf(path + QStringList(QString::number(isDone ? to : from)));
+}
+
+}  // namespace SysAdapterUI

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "host/SysAdapterUI/PropertyModel.h"
+
+#include <QSet>
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QSortFilterProxyModel;
+class QToolButton;
+class QTreeView;
+
+namespace SysAdapterUI {
+
+/// A form of the fields of a source: a tree with a search above it, and below it what the current field means, or why
+/// its value was refused. A value is taken when it is finished.
+class SYSADAPTERUI_EXPORT PropertySheet final : public QWidget {
+  Q_OBJECT
+
+public:
+  explicit PropertySheet(QWidget* parent);
+  ~PropertySheet() override;
+
+  /// Borrowed, null for nothing. What was open stays open where it is there again.
+  void show(FieldSource* source);
+  void setTitle(QString const& title);
+
+  /// Shows the values as they are now, unless one is being edited.
+  void refresh();
+
+  PropertyModel& model() { return *model_; }
+  QTreeView& view() { return *view_; }
+
+signals:
+  /// The symbol of this row is to be chosen among others.
+  void symbolWanted(QModelIndex const& index);
+
+private:
+  void build();
+  void showCurrent();
+  void keepState();
+  void restoreState();
+  QModelIndex current() const;
+  void makeCurrent(QModelIndex const& index);
+
+  PropertyModel* model_;
+  QSortFilterProxyModel* filter_;
+  QLabel* title_;
+  QLineEdit* search_;
+  QTreeView* view_;
+  QLabel* note_;
+  QToolButton *add_, *remove_, *up_, *down_;
+  QSet<QString> open_;  // paths
+  QString currentPath_;
+};
+
+}  // namespace SysAdapterUI

@@ -1,0 +1,257 @@
+#include "Editable.h"
+
+#include "DocumentFields.h"
+#include "ElementFields.h"
+#include "FrameSettings.h"
+#include "LayerSettings.h"
+#include "MapSettings.h"
+
+#include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/maps/ValueStep.h"
+
+#include <SysCarto/Editor.h>
+#include <SysCarto/PageLayout.h>
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace SysCarto {
+
+using SysUtility::_ptr_t;
+using SysUtility::Fields;
+using SysUtility::FieldSheet;
+using SysUtility::SheetField;
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Editable)
+};
+
+// With the maps of all data frames.
+DocumentContext contextOf(MapDocument const& document) {
+  DocumentContext context;
+  context.folder = QFileInfo(document.GetPath()).absolutePath();
+  context.relativePaths = document.IsUsesRelativePaths() && !document.GetPath().isEmpty();
+  auto const layout = document.GetPageLayout();
+  if (!layout) return context;
+  context.maps = mapsOf(*layout);
+  for (auto const& element : layout->GetGraphicsContainer()->GetElements())
+    if (auto const frame = SysUtility::ptr_cast<MapFrameElement>(element))
+      context.framedMaps << context.maps.indexOf(frame->GetMap());
+  return context;
+}
+
+ElementContainer* elementsOf(MapDocument const& document) {
+  auto const layout = document.GetPageLayout();
+  return layout ? static_cast<ElementContainer*>(layout->GetGraphicsContainer()) : nullptr;
+}
+
+class EditableElement final : public Editable {
+public:
+  EditableElement(MapDocument const& document, ElementHandle handle) : document_(document), handle_(handle) {}
+
+  QString name() const override {
+    auto const element = find();
+    if (!element) return QString();
+    if (!element->GetName().isEmpty()) return element->GetName();
+    return QStringLiteral("%1 #%2").arg(captionOfKind(*element)).arg(handle_);
+  }
+
+protected:
+  void list(Fields& fields, DocumentContext& context) const override {
+    auto element = find();
+    context.framedMaps.clear();
+    if (element) listElement(fields, element, {context});
+  }
+
+  Change read(Fields& reader, DocumentContext& context) const override {
+    if (auto const frame = SysUtility::ptr_cast<MapFrameElement>(find()))
+      context.framedMaps.remove(context.maps.indexOf(frame->GetMap()));
+    _ptr_t<Element> made;
+    listElement(reader, made, {context});
+    if (made && made->GetHandle() != handle_) reader.fail("handle", Texts::tr("can't be changed"));
+    return [this, made, told = context.warnings](QString const&, QStringList& warnings) {
+      warnings += told;
+      elementsOf(document_)->ReplaceElement(handle_, made);
+    };
+  }
+
+private:
+  _ptr_t<Element> find() const {
+    auto const* const container = elementsOf(document_);
+    return container ? container->find(handle_) : nullptr;
+  }
+
+  MapDocument const& document_;
+  ElementHandle const handle_;
+};
+
+// Something that stays where it is.
+template <class Target, class Settings>
+class EditableSettings final : public Editable {
+public:
+  struct Uses {
+    QString name;
+    Settings (*of)(Target const&, DocumentContext const&);
+    std::function<void(Target&, Settings const&, DocumentContext&)> apply;
+    QStringList (*attributes)(Target const&);  // may be null
+  };
+
+  EditableSettings(_ptr_t<Target> target, Uses uses) : target_(std::move(target)), uses_(std::move(uses)) {}
+
+  QString name() const override { return uses_.name; }
+  QStringList attributes() const override { return uses_.attributes ? uses_.attributes(*target_) : QStringList(); }
+
+protected:
+  void list(Fields& fields, DocumentContext& context) const override { uses_.of(*target_, context).list(fields); }
+
+  Change read(Fields& reader, DocumentContext& context) const override {
+    Settings settings;
+    settings.list(reader);
+    return [this, settings, context](QString const& step, QStringList& warnings) {
+      auto const whole = std::make_shared<DocumentContext>(context);
+      auto const put = [apply = uses_.apply, whole](Target& target, Settings const& value) {
+        apply(target, value, *whole);
+      };
+      takeStep(std::make_unique<ValueStep<Target, Settings>>(step, -1, *target_, uses_.of(*target_, context), settings,
+                                                             put));
+      warnings += whole->warnings;
+    };
+  }
+
+private:
+  _ptr_t<Target> const target_;
+  Uses const uses_;
+};
+
+using EditablePage = EditableSettings<Page, PageSettings>;
+using EditableMap = EditableSettings<Map, MapSettings>;
+using EditableLayer = EditableSettings<VectorLayer, LayerSettings>;
+
+// A number as in “#3”, or a name.
+template <class T>
+QList<_ptr_t<T>> called(QList<_ptr_t<T>> const& all, QString const& name) {
+  QList<_ptr_t<T>> found;
+  for (int i = 0; i < all.size(); ++i)
+    if (all.at(i)->GetName() == name || name == QStringLiteral("#%1").arg(i)) found << all.at(i);
+  return found;
+}
+
+QString inSentence(char const* source) {
+  QString const caption = QCoreApplication::translate("Fields", source);
+  bool const isEnglish = caption == QLatin1String(source);
+  return isEnglish ? caption.left(1).toLower() + caption.mid(1) : caption;
+}
+
+}  // namespace
+
+Editable::~Editable() = default;
+
+QVector<QVector<SheetField>> Editable::fields(MapDocument const& document, List const& things) {
+  DocumentContext const context = contextOf(document);
+  QVector<QVector<SheetField>> all;
+  for (Pointer const& thing : things) {
+    DocumentContext own = context;
+    FieldSheet sheet;
+    thing->list(sheet, own);
+    all << sheet.fields();
+  }
+  return all;
+}
+
+Editable::Pointer Editable::page(MapDocument const& document) {
+  auto const layout = document.GetPageLayout();
+  Page* const page = layout ? layout->GetPage() : nullptr;
+  if (!page) return nullptr;
+  return std::make_shared<EditablePage>(
+      SysUtility::retain(page),
+      EditablePage::Uses{
+          Texts::tr("the page"), [](Page const& one, DocumentContext const&) { return PageSettings::of(one); },
+          [](Page& one, PageSettings const& settings, DocumentContext&) { settings.applyTo(one); }, nullptr});
+}
+
+Editable::Pointer Editable::element(MapDocument const& document, ElementHandle handle) {
+  return std::make_shared<EditableElement>(document, handle);
+}
+
+Editable::Pointer Editable::map(_ptr_t<Map> const& map) {
+  return std::make_shared<EditableMap>(
+      map,
+      EditableMap::Uses{map->GetName(), [](Map const& one, DocumentContext const&) { return MapSettings::of(one); },
+                        [](Map& one, MapSettings const& settings, DocumentContext& context) {
+                          settings.applyTo(one, context.warnings);
+                        },
+                        nullptr});
+}
+
+Editable::Pointer Editable::layer(_ptr_t<Map> const& map, _ptr_t<Layer> const& layer) {
+  auto const vector = SysUtility::ptr_cast<VectorLayer>(layer);
+  if (!vector) return nullptr;
+  return std::make_shared<EditableLayer>(
+      vector, EditableLayer::Uses{layer->GetName(), &LayerSettings::of,
+                                  [map](VectorLayer& one, LayerSettings const& settings, DocumentContext& context) {
+                                    settings.applyTo(one, *map, context);
+                                  },
+                                  [](VectorLayer const& one) { return attributesOf(one.source()); }});
+}
+
+Editable::List Editable::named(MapDocument const& document, QString const& text) {
+  List things;
+  auto const layout = document.GetPageLayout();
+  if (!layout) return things;
+  QString const mapPrefix = QStringLiteral("map:"), layerPrefix = QStringLiteral("layer:");
+  if (text.startsWith(layerPrefix)) {
+    QString const path = text.mid(layerPrefix.size());
+    for (auto const& map : called(mapsOf(*layout), path.section(QLatin1Char('/'), 0, 0)))
+      for (auto const& layer : called(map->GetLayers(), path.section(QLatin1Char('/'), 1)))
+        if (auto const thing = Editable::layer(map, layer)) things << thing;
+  } else if (text.startsWith(mapPrefix)) {
+    for (auto const& map : called(mapsOf(*layout), text.mid(mapPrefix.size()))) things << Editable::map(map);
+  } else if (text == QLatin1String("page")) {
+    if (auto const thing = page(document)) things << thing;
+  } else {
+    auto const* const container = elementsOf(document);
+    auto const elements =
+        text == QLatin1String("selection") ? container->GetSelectedElements() : container->GetElements();
+    for (auto const& element : elements)
+      if (text == QLatin1String("selection") || element->GetName() == text ||
+          text == QStringLiteral("#%1").arg(element->GetHandle()))
+        things << Editable::element(document, element->GetHandle());
+  }
+  return things;
+}
+
+QString Editable::set(MapDocument const& document, List const& things, QStringList const& path,
+                      SysUtility::NewValue const& value, QStringList& warnings) {
+  if (things.isEmpty() || path.isEmpty()) return Texts::tr("there is no field to set");
+  DocumentContext const context = contextOf(document);
+  QVector<Change> changes;
+  QString what = path.join(QLatin1Char('/'));
+  for (Pointer const& thing : things) {
+    Change read;
+    auto const change = SysUtility::changeField(
+        [&](Fields& fields) {
+          DocumentContext own = context;
+          thing->list(fields, own);
+        },
+        [&](Fields& fields) {
+          DocumentContext own = context;
+          read = thing->read(fields, own);
+        },
+        path, value, [&] { return thing->attributes(); });
+    if (!change.problem.isEmpty()) return change.problem;
+    if (change.isChange) changes << read;
+    if (change.caption) what = inSentence(change.caption);
+  }
+  if (changes.isEmpty()) return QString();
+  QString const whose = things.size() == 1 ? things.first()->name() : Texts::tr("%1 elements").arg(things.size());
+  QString const step = Texts::tr("Set %1 of %2").arg(what, whose);
+  Editor::Instance()->StartOperation(step);
+  for (Change const& change : qAsConst(changes)) change(step, warnings);
+  Editor::Instance()->StopOperation();
+  return QString();
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "DocumentSession.h"
+
+#include "host/SysAdapterUI/PropertySheet.h"
+#include "host/SysCarto/document/Editable.h"
+
+#include <QDockWidget>
+#include <QElapsedTimer>
+
+#include <optional>
+
+/// The panel with the fields of what is selected: elements, the map or the layer whose row in the contents is current,
+/// or else the page.
+class PropertyPanel final : public QDockWidget, private SysAdapterUI::FieldSource {
+  Q_OBJECT
+
+public:
+  /// `session` is borrowed.
+  PropertyPanel(DocumentSession& session, QWidget* parent);
+  ~PropertyPanel() override;
+
+  /// Shows what is selected now, with its values as they are. Cheap where the panel is hidden.
+  void follow();
+
+  /// A row of the contents is current: of a map, or of one of its layers. Another selection on the page ends that.
+  void showRow(SysUtility::_ptr_t<SysCarto::Map> const& map, SysUtility::_ptr_t<SysCarto::Layer> const& layer);
+
+signals:
+  /// What else is to be said of a change.
+  void told(QString const& sentence);
+
+protected:
+  void showEvent(QShowEvent* event) override;
+
+private:
+  QVector<SysUtility::SheetField> fields() override;
+  QStringList attributes() const override {
+    return things_.size() == 1 ? things_.first()->attributes() : QStringList();
+  }
+  QString set(QStringList const& path, SysUtility::NewValue const& value) override;
+  SysCarto::Editable::List chosen() const;
+  QString titleOf(SysCarto::Editable::List const& things) const;
+  QList<SysCarto::ElementHandle> selection() const;
+  void showAnew();
+  void chooseSymbol(QModelIndex const& index);
+  QColor background() const;
+
+  struct Shown {
+    SysCarto::Map const* map;
+    SysCarto::Layer const* layer;
+    QList<SysCarto::ElementHandle> selected;
+    bool operator==(Shown const& other) const {
+      return map == other.map && layer == other.layer && selected == other.selected;
+    }
+  };
+
+  // The change before, while one of the same field soon after is the same step.
+  struct Last {
+    QStringList path;
+    int step = -1;  // of the history, after it
+    QElapsedTimer clock;
+  };
+
+  DocumentSession& session_;
+  SysAdapterUI::PropertySheet* const sheet_;
+  SysCarto::Editable::List things_;
+  QList<SysCarto::ElementHandle> selected_;
+  SysUtility::_ptr_t<SysCarto::Map> map_;      // of the current row of the contents; empty where the page counts
+  SysUtility::_ptr_t<SysCarto::Layer> layer_;  // likewise, empty for the map itself
+  std::optional<Shown> shown_;                 // in the sheet
+  Last last_;
+};

@@ -1,0 +1,302 @@
+#include "Dialogs.h"
+#include "Files.h"
+#include "Pictures.h"
+#include "desktop/WorkbenchPage.h"
+
+#include "host/SysAdapterUI/PropertyEditors.h"
+#include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysDisplay/SymbolFields.h"
+#include "host/SysUtility/JsonFile.h"
+#include "host/desktop/PropertyPanel.h"
+
+using SysAdapterUI::PropertyModel;
+using SysAdapterUI::PropertySheet;
+using SysCarto::Editable;
+using SysCarto::MapDocumentHost;
+using SysUtility::FieldInfo;
+using SysUtility::NumbersKind;
+using SysUtility::TextKind;
+
+namespace {
+
+using Kind = FieldInfo::Kind;
+
+// Another value of the kind, as a person would type it.
+QString otherText(FieldInfo const& info, QVariant const& now) {
+  auto const& range = info.rules.range;
+  switch (info.kind) {
+    case Kind::Number:
+    case Kind::Integer: {
+      double const wanted = now.toDouble() + 1 <= range.max ? now.toDouble() + 1 : now.toDouble() - 1;
+      return QString::number(wanted, 'g', 15);
+    }
+    case Kind::NumberList:
+    case Kind::Coordinates: return QStringLiteral("1, 2, 3, 5, 8, 13");
+    case Kind::Text:
+      if (info.rules.textKind == TextKind::Color) return QStringLiteral("#80123456");
+      if (info.rules.textKind == TextKind::CoordinateSystem) return QStringLiteral("EPSG:3857");
+      return now.toString() + QLatin1Char('x');
+    default: return QStringLiteral("other");
+  }
+}
+
+// What a person does in the widget.
+void enter(QWidget& editor, FieldInfo const& info, QVariant const& now) {
+  if (auto* const box = qobject_cast<QComboBox*>(&editor)) {
+    box->setCurrentIndex((box->currentIndex() + 1) % box->count());
+    return;
+  }
+  if (auto* const lines = qobject_cast<QPlainTextEdit*>(&editor)) {
+    lines->selectAll();
+    lines->insertPlainText(otherText(info, now));
+    return;
+  }
+  if (info.kind == Kind::Text && info.rules.textKind == TextKind::Svg) {
+    Person person;
+    person.sets("file", PLOTVANE_SOURCE_DIR "/host/desktop/icons/properties.svg");
+    return editor.findChild<QToolButton*>()->click();
+  }
+  auto* const line =
+      qobject_cast<QLineEdit*>(&editor) ? qobject_cast<QLineEdit*>(&editor) : editor.findChild<QLineEdit*>();
+  line->selectAll();
+  line->insert(otherText(info, now));
+}
+
+}  // namespace
+
+class PropertiesTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() {
+    prepareApplication();
+    put(path("start.kdx"), contentOf(PLOTVANE_SOURCE_DIR "/fuzz/seeds/document/everything.kdx"));
+    QVERIFY(canvas({9, 9}).save(path("missing.png")));
+  }
+
+  // Each field of each thing: another value through the widget of the sheet, and the same value by its path.
+  void everyFieldIsSetSavedReadAgainAndUndone() {
+    WorkbenchPage page;
+    PropertyPanel panel(page.bench.session(), nullptr);
+    auto& document = page.bench.session().document();
+    QVERIFY2(page.bench.session().open(path("start.kdx")), qPrintable(document.GetErrors().join('\n')));
+    panel.resize(400, 800);
+    panel.show();
+    int set = 0;
+    QStringList refused;
+    for (int thing = 0; show(panel, page, thing); ++thing) {
+      auto& sheet = *panel.findChild<PropertySheet*>();
+      for (QStringList const& name : editableRows(sheet.model())) {
+        QByteArray const before = MapDocumentHost::text(document);
+        QString const where = titleOf(panel) + ": " + name.join('/');
+        QVERIFY2(edit(sheet, name), qPrintable(where));
+        QByteArray const after = MapDocumentHost::text(document);
+        QString const problem = indexNamed(sheet.model(), name).data(PropertyModel::ProblemRole).toString();
+        if (!problem.isEmpty()) {
+          QVERIFY2(after == before, qPrintable(where));
+          refused << where + ": " + problem;
+          QVERIFY(show(panel, page, thing));
+          continue;
+        }
+        QVERIFY2(after != before, qPrintable(where));
+        ++set;
+        QVERIFY2(comesBack(after), qPrintable(where));
+        QStringList const keys = name.mid(0, name.size() - 1);
+        QString const typed = SysUtility::jsonLine(valueAt(document, addressOf(page, thing), keys));
+        document.GetOperationStack()->Undo();
+        QVERIFY2(MapDocumentHost::text(document) == before, qPrintable(where));
+
+        QCOMPARE(setByPath(document, addressOf(page, thing), keys, typed), QString());
+        QVERIFY2(MapDocumentHost::text(document) == after, qPrintable(where + ' ' + typed));
+        document.GetOperationStack()->Undo();
+        QVERIFY2(MapDocumentHost::text(document) == before, qPrintable(where));
+        QVERIFY(show(panel, page, thing));
+      }
+    }
+    QVERIFY2(refused.size() < 25, qPrintable(refused.join('\n')));
+    QVERIFY2(set > 250, qPrintable(QString::number(set)));
+  }
+
+  void severalElementsShowWhatTheyShareAndChangeTogether() {
+    WorkbenchPage page;
+    auto const a = page.add<SysCarto::RectangleElement>(1, 1, 3, 3);
+    auto const b = page.add<SysCarto::RectangleElement>(5, 2, 7, 6);
+    auto const text = page.add<SysCarto::TextElement>(1, 8, 3, 9);
+    PropertyPanel panel(page.bench.session(), nullptr);
+    panel.show();
+    page.container().SelectElement(a);
+    page.container().SelectElement(b);
+    panel.follow();
+    auto& model = panel.findChild<PropertySheet*>()->model();
+    QCOMPARE(titleOf(panel), QString("2 elements"));
+    QCOMPARE(indexNamed(model, {"rectangle", "Width"}).data().toString().left(1), QString("2"));
+    QCOMPARE(indexNamed(model, {"rectangle", "Height"}).data().toString(), QString("mixed"));
+
+    // From the middle of each, in one step.
+    QModelIndex const anchor = indexNamed(model, {"rectangle", "Measured from"});
+    QVERIFY(model.take(anchor, 4, QString()));
+    QVERIFY(model.take(indexNamed(model, {"rectangle", "Height"}), 1, QString()));
+    QCOMPARE(page.place(*a), QRectF(1, 1.5, 2, 1));
+    QCOMPARE(page.place(*b), QRectF(5, 3.5, 2, 1));
+    auto const history = page.bench.session().document().GetOperationStack();
+    QCOMPARE(history->GetUndoName(), QString("Set rectangle of 2 elements"));
+
+    // What is refused by one changes none, and stays in its row.
+    QByteArray const before = MapDocumentHost::text(page.bench.session().document());
+    QVERIFY(!model.take(indexNamed(model, {"rectangle", "Height"}), 1e13, "1e13"));
+    QCOMPARE(MapDocumentHost::text(page.bench.session().document()), before);
+    QCOMPARE(indexNamed(model, {"rectangle", "Height"}).data().toString(), QString("1e13"));
+    QVERIFY(indexNamed(model, {"rectangle", "Height"})
+                .data(PropertyModel::ProblemRole)
+                .toString()
+                .startsWith("rectangle[1]"));
+
+    // Quick changes of one field are one step.
+    for (int name = 0; name < 3; ++name)
+      QVERIFY(model.take(indexNamed(model, {"name", "Name"}), QString::number(name), QString()));
+    history->Undo();
+    QCOMPARE(page.now(*a)->GetName(), QString());
+    QCOMPARE(history->GetUndoName(), QString("Set rectangle of 2 elements"));
+
+    page.container().SelectElement(text);
+    panel.follow();
+    QVERIFY(!indexNamed(model, {"rectangle", "Rectangle"}).isValid());
+    QVERIFY(indexNamed(model, {"name", "Name"}).isValid());
+  }
+
+  void aThousandElementsAreShownAtOnce() {
+    WorkbenchPage page;
+    for (int i = 0; i < 1000; ++i) page.container().SelectElement(page.add<SysCarto::RectangleElement>(i, 1, i + 1, 3));
+    PropertyPanel panel(page.bench.session(), nullptr);
+    QElapsedTimer clock;
+    clock.start();
+    panel.show();
+    qint64 const ms = clock.elapsed();
+    QCOMPARE(titleOf(panel), QString("1000 elements"));
+    QVERIFY2(ms < 1000, qPrintable(QString::number(ms)));  // a tenth of that in a release build
+  }
+
+private:
+  // As the command line names them.
+  static QString addressOf(WorkbenchPage& page, int thing) {
+    auto const elements = page.container().GetElements();
+    if (thing == 0) return "page";
+    if (thing <= elements.size()) return QString("#%1").arg(elements[thing - 1]->GetHandle());
+    int row = thing - 1 - elements.size();
+    QList<_ptr_t<SysCarto::Map>> maps;
+    page.bench.session().document().GetMaps(maps);
+    for (int map = 0; map < maps.size(); ++map) {
+      if (row-- == 0) return QString("map:#%1").arg(map);
+      if (row < maps[map]->GetLayerCount()) return QString("layer:#%1/#%2").arg(map).arg(row);
+      row -= maps[map]->GetLayerCount();
+    }
+    return QString();
+  }
+
+  static QJsonValue valueAt(SysCarto::MapDocument const& document, QString const& address, QStringList const& keys) {
+    auto const sheet = Editable::fields(document, Editable::named(document, address)).value(0);
+    auto const* const field = SysUtility::fieldAt(sheet, keys);
+    return field ? SysUtility::wholeValue(*field) : QJsonValue(QJsonValue::Undefined);
+  }
+
+  static QString setByPath(SysCarto::MapDocument const& document, QString const& address, QStringList const& keys,
+                           QString const& typed) {
+    auto const things = Editable::named(document, address);
+    auto const sheet = Editable::fields(document, things).value(0);
+    QJsonValue const value = SysUtility::valueOf(typed, SysUtility::fieldAt(sheet, keys));
+    QStringList warnings;
+    return Editable::set(
+        document, things, keys, [&](QJsonValue const&) { return value; }, warnings);
+  }
+
+  QString path(QString const& name) const { return folder_.filePath(name); }
+
+  // The page, then the elements, the maps and their layers; false beyond the last.
+  bool show(PropertyPanel& panel, WorkbenchPage& page, int thing) {
+    auto const elements = page.container().GetElements();
+    page.container().UnselectAllElements();
+    panel.showRow(nullptr, nullptr);
+    QList<std::pair<_ptr_t<SysCarto::Map>, _ptr_t<SysCarto::Layer>>> rows;
+    QList<_ptr_t<SysCarto::Map>> maps;
+    page.bench.session().document().GetMaps(maps);
+    for (auto const& map : maps) {
+      rows << std::make_pair(map, _ptr_t<SysCarto::Layer>());
+      for (auto const& layer : map->GetLayers()) rows << std::make_pair(map, layer);
+    }
+    int const row = thing - 1 - elements.size();
+    if (row >= rows.size()) return false;
+    if (row >= 0)
+      panel.showRow(rows[row].first, rows[row].second);
+    else if (thing > 0)
+      page.container().SelectElement(elements[thing - 1]);
+    panel.follow();
+    return true;
+  }
+
+  static QString titleOf(PropertyPanel& panel) { return panel.findChild<QLabel*>("label_Title")->text(); }
+
+  // Rows differ by path and caption: the parts of a rectangle share its path.
+  static QStringList nameOf(QModelIndex const& index) {
+    return index.data(PropertyModel::PathRole).toStringList() + QStringList(index.siblingAtColumn(0).data().toString());
+  }
+
+  static QModelIndex indexNamed(QAbstractItemModel const& model, QStringList const& name,
+                                QModelIndex const& parent = {}) {
+    for (int i = 0; i < model.rowCount(parent); ++i) {
+      if (nameOf(model.index(i, 1, parent)) == name) return model.index(i, 1, parent);
+      QModelIndex const inner = indexNamed(model, name, model.index(i, 0, parent));
+      if (inner.isValid()) return inner;
+    }
+    return {};
+  }
+
+  static QList<QStringList> editableRows(PropertyModel const& model, QModelIndex const& parent = {}) {
+    QList<QStringList> names;
+    for (int i = 0; i < model.rowCount(parent); ++i) {
+      QModelIndex const index = model.index(i, 1, parent);
+      auto const row = model.row(index);
+      bool const isChecked = model.flags(index) & Qt::ItemIsUserCheckable;
+      bool const isSymbol = row.field->info.kind == Kind::Object;
+      bool const isEdited = (model.flags(index) & Qt::ItemIsEditable) && !isSymbol;
+      if ((isChecked || isEdited) && row.part != PropertyModel::Row::Part::Anchor) names << nameOf(index);
+      names += editableRows(model, model.index(i, 0, parent));
+    }
+    return names;
+  }
+
+  static bool edit(PropertySheet& sheet, QStringList const& name) {
+    auto& model = sheet.model();
+    QModelIndex const index = indexNamed(model, name);
+    if (!index.isValid()) return false;
+    if (model.flags(index) & Qt::ItemIsUserCheckable) {
+      bool const isOn = model.data(index, Qt::CheckStateRole) == Qt::Checked;
+      model.setData(index, isOn ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+      return true;
+    }
+    auto& view = sheet.view();
+    QModelIndex const shown = static_cast<QSortFilterProxyModel*>(view.model())->mapFromSource(index);
+    view.expandAll();
+    view.setCurrentIndex(shown);
+    view.edit(shown);
+    QWidget* const editor = view.indexWidget(shown);
+    if (!editor) return false;
+    FieldInfo const info = model.row(index).field->info;
+    enter(*editor, info, model.data(index, Qt::EditRole));
+    emit view.itemDelegate()->commitData(editor);
+    emit view.itemDelegate()->closeEditor(editor);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return true;
+  }
+
+  bool comesBack(QByteArray const& text) {
+    put(path("after.kdx"), text);
+    SysCarto::MapDocument again;
+    if (!again.Open(path("after.kdx"))) return false;
+    return MapDocumentHost::text(again) == text;
+  }
+
+  QTemporaryDir folder_;
+};
+
+QTEST_MAIN(PropertiesTest)
+#include "tst_properties.moc"
