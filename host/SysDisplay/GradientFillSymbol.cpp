@@ -61,7 +61,7 @@ public:
     if (!(length_ > 0)) return 0;
     double const along = isRadial_ ? std::sqrt(dx * dx + dy * dy) / length_
                                    : (dx * direction_.x() + dy * direction_.y()) / length_ + 0.5;
-    return static_cast<int>(std::clamp(along, 0.0, 1.0) * (shades - 1) + 0.5);
+    return along > 0 ? static_cast<int>(std::min(along, 1.0) * (shades - 1) + 0.5) : 0;
   }
 
 private:

@@ -103,8 +103,8 @@ public:
         marker_(marker),
         bounds_(drawing->bounds()),
         isTurned_(symbol.isTurned()),
-        intervalPx_(std::max(symbol.interval() * target.pixelsPerPoint(), nearestMarkersPx)),
-        firstPx_(std::max(symbol.first() * target.pixelsPerPoint(), 0.0)),
+        intervalPx_(std::max(nearestMarkersPx, symbol.interval() * target.pixelsPerPoint())),
+        firstPx_(std::max(0.0, symbol.first() * target.pixelsPerPoint())),
         offsetPx_(symbol.GetOffset() * target.pixelsPerPoint()) {
     drawings_[0] = std::move(drawing);
     double const reach = radiusOf(bounds_) + 4;
@@ -146,13 +146,12 @@ private:
       auto const range = course.within(i, area_);
       if (range.isEmpty()) continue;
       bool const isEnd = i + 1 == course.segments() && !course.isClosed();
-      double number = std::max(0.0, std::ceil((std::max(range.from, course.from(i)) - firstPx_) / intervalPx_));
-      for (;; ++number) {
-        double const length = firstPx_ + number * intervalPx_;
-        if (length > range.to + rounding || (!isEnd && length >= course.to(i) - rounding)) break;
-        if (length < course.from(i) - rounding) continue;
-        double const place = std::clamp(length, course.from(i), course.to(i));
-        places_.push_back({course.at(place, i), degreesAt(course, place, i)});
+      double const end = isEnd ? range.to + rounding : std::min(range.to, course.to(i) - rounding);
+      double number = std::max(0.0, std::ceil((range.from - rounding - firstPx_) / intervalPx_));
+      // Beyond what is counted one by one there are no markers.
+      for (; firstPx_ + number * intervalPx_ <= end && number + 1 > number; ++number) {
+        double const length = std::max(firstPx_ + number * intervalPx_, course.from(i));
+        places_.push_back({course.at(length, i), degreesAt(course, length, i)});
       }
     }
   }

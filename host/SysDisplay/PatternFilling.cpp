@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <vector>
 
@@ -18,6 +20,7 @@ public:
   explicit PatternFilling(std::unique_ptr<Pattern> pattern) : pattern_(std::move(pattern)) {}
 
   void fill(DrawTarget& target, PointRuns const& rings, QRectF const&, Box const&) override {
+    if (!std::isfinite(target.anchor().x()) || !std::isfinite(target.anchor().y())) return;
     if (!sheet_) unfold(target);
     QRect const seen = rings.bounds().intersected(QRectF(area_)).toAlignedRect() & area_;
     if (seen.isEmpty() || !pixels_) return;

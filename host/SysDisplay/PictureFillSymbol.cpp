@@ -2,7 +2,7 @@
 
 #include "host/SysDisplay/PatternFilling.h"
 
-#include <QPainter>
+#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -24,13 +24,7 @@ QImage drawnTile(SvgPicture& picture, QSizeF const& sizePx) {
   auto const texels = [](double px) {
     return static_cast<int>(std::clamp(std::round(px * texelsPerPixel), 1.0, double(maxTexels)));
   };
-  QImage tile(texels(sizePx.width()), texels(sizePx.height()), QImage::Format_ARGB32_Premultiplied);
-  tile.fill(Qt::transparent);
-  QPainter painter(&tile);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  picture.render(painter, QRectF(tile.rect()));
-  return tile;
+  return picture.drawn({texels(sizePx.width()), texels(sizePx.height())});
 }
 
 // The tile at any place between its texels; beyond its sides it goes on.

@@ -58,10 +58,11 @@ private:
         area.adjusted(-bounds.right() - 2, -bounds.bottom() - 2, -bounds.left() + 2, -bounds.top() + 2);
     QRectF const onGrid = toDevice_.inverted().mapRect(reached.translated(-anchor));
     double const lastRow = std::ceil(onGrid.bottom() / dy_);
-    for (double row = std::floor(onGrid.top() / dy_); row <= lastRow; ++row) {
+    for (double row = std::floor(onGrid.top() / dy_); row <= lastRow && row + 1 > row; ++row) {
       double const shift = staggered_ && std::fmod(row, 2) != 0 ? dx_ / 2 : 0;
       double const lastColumn = std::ceil((onGrid.right() - shift) / dx_);
-      for (double column = std::floor((onGrid.left() - shift) / dx_); column <= lastColumn; ++column) {
+      for (double column = std::floor((onGrid.left() - shift) / dx_); column <= lastColumn && column + 1 > column;
+           ++column) {
         QPointF const position = anchor + toDevice_.map(QPointF(column * dx_ + shift, row * dy_));
         if (reached.contains(position)) marker_->drawAt(target, position);
       }

@@ -3,6 +3,7 @@
 #include "host/SysDisplay/SvgCheck.h"
 
 #include <QCoreApplication>
+#include <QPainter>
 #include <QSvgRenderer>
 
 namespace SysDisplay {
@@ -10,6 +11,7 @@ namespace SysDisplay {
 struct SvgPicture::Private {
   QByteArray svg;
   QSvgRenderer renderer;
+  QImage drawn;
 };
 
 SvgPicture::SvgPicture() : d(std::make_unique<Private>()) {}
@@ -28,5 +30,16 @@ std::shared_ptr<SvgPicture> SvgPicture::of(QByteArray const& svg, QString& probl
 QByteArray const& SvgPicture::svg() const { return d->svg; }
 QRectF SvgPicture::viewBox() const { return d->renderer.viewBoxF(); }
 void SvgPicture::render(QPainter& painter, QRectF const& rectangle) { d->renderer.render(&painter, rectangle); }
+
+QImage const& SvgPicture::drawn(QSize const& size) {
+  if (d->drawn.size() == size) return d->drawn;
+  d->drawn = QImage(size, QImage::Format_ARGB32_Premultiplied);
+  d->drawn.fill(Qt::transparent);
+  QPainter painter(&d->drawn);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  render(painter, QRectF(d->drawn.rect()));
+  return d->drawn;
+}
 
 }  // namespace SysDisplay

@@ -3,6 +3,7 @@
 #include <SysDisplay/Export.h>
 
 #include <QByteArray>
+#include <QImage>
 #include <QRectF>
 #include <QString>
 
@@ -12,7 +13,7 @@ class QPainter;
 
 namespace SysDisplay {
 
-/// An SVG that can be drawn. It never changes, so that symbols share it.
+/// An SVG that can be drawn. It never changes, so that symbols share it. Belongs to one thread.
 class SYSDISPLAY_EXPORT SvgPicture {
 public:
   /// Reads an SVG in UTF-8. Null, with the reason as a sentence, where it is refused.
@@ -28,6 +29,10 @@ public:
 
   /// Draws the view box into a rectangle; what lies beyond it shows, too.
   void render(QPainter& painter, QRectF const& rectangle);
+
+  /// The view box alone, as an image of that size on transparent ground, in the format ARGB32_Premultiplied. The last
+  /// one is kept: the tiles of a page ask for the same.
+  QImage const& drawn(QSize const& size);
 
 private:
   SvgPicture();

@@ -188,6 +188,28 @@ private slots:
     QVERIFY(!fill.QueryBoundary(canvas.transformation(), make<Envelope>()));
   }
 
+  // So far along a line, and so far from where patterns hang, that counting by one changes nothing any more.
+  void whatIsFarAwayComesToAnEnd() {
+    QVector<QPointF> there;
+    for (int i = 0; i < 60000; ++i) there << QPointF(i % 2 ? -1e300 : 1e300, 1e5);
+    there << QPointF(-50, 80) << QPointF(300, 90);
+    Canvas canvas;
+    QPainter painter(&canvas.image());
+    for (Stored const& stored : storedLines) {
+      symbolOf(stored)->Draw(painter, canvas.transformation(), polyline(there));
+      symbolOf(stored)->QueryBoundary(canvas.transformation(), polyline(there));
+    }
+    for (double place : {1.0, 1e12, 1e300})
+      for (Stored const& stored : storedFills) {
+        auto const far = make<DisplayTransformation>();
+        double const end = place * (1 + 1.6e-15);
+        far->SetDeviceFrame(QRect(0, 0, 200, 200));
+        far->SetVisibleBounds(make<Envelope>(place, place, end, end));
+        symbolOf(stored)->Draw(painter, canvas.transformation(), make<Envelope>(-1e300, -1e300, 1e300, 1e300));
+        symbolOf(stored)->Draw(painter, far, make<Envelope>(place * 0.9, place * 0.9, place * 1.1, place * 1.1));
+      }
+  }
+
   void cloneIsIndependent() {
     SimpleFillSymbol fill;
     fill.SetOutlineSymbol(pen(3));
