@@ -712,15 +712,15 @@
     </message>
     <message>
         <source>it does not exist</source>
-        <translation>sie existiert nicht</translation>
+        <translation type="vanished">sie existiert nicht</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation>sie ist keine Datei</translation>
+        <translation type="vanished">sie ist keine Datei</translation>
     </message>
     <message>
         <source>reading it is not permitted</source>
-        <translation>das Lesen ist nicht erlaubt</translation>
+        <translation type="vanished">das Lesen ist nicht erlaubt</translation>
     </message>
     <message>
         <source>it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file</source>
@@ -729,6 +729,18 @@
     <message>
         <source>The file “%1” has no layer “%2”; it has: %3.</source>
         <translation>Die Datei „%1“ hat keinen Layer „%2“; sie enthält: %3.</translation>
+    </message>
+    <message>
+        <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
+        <translation>sie existiert nicht; legen Sie sie dorthin oder nennen Sie in der Quelle des Layers eine andere</translation>
+    </message>
+    <message>
+        <source>it is not a file; name one in the layer&apos;s source</source>
+        <translation>das ist keine Datei; nennen Sie in der Quelle des Layers eine</translation>
+    </message>
+    <message>
+        <source>reading it is not permitted; make it readable</source>
+        <translation>sie darf nicht gelesen werden; machen Sie sie lesbar</translation>
     </message>
 </context>
 <context>
@@ -751,19 +763,55 @@
     </message>
     <message>
         <source>; the next answer is for %1</source>
-        <translation>; die nächste Antwort ist für %1</translation>
+        <translation type="vanished">; die nächste Antwort ist für %1</translation>
     </message>
     <message>
         <source>no dialog has taken the answer for %1</source>
-        <translation>kein Dialog hat die Antwort für %1 angenommen</translation>
+        <translation type="vanished">kein Dialog hat die Antwort für %1 angenommen</translation>
     </message>
     <message>
         <source>a dialog as a whole</source>
-        <translation>einen Dialog als Ganzes</translation>
+        <translation type="vanished">einen Dialog als Ganzes</translation>
     </message>
     <message>
         <source>nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command</source>
         <translation>niemand beantwortet ihn; setzen Sie answer=WIDGET:VALUE, accept oder cancel vor den Befehl</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>eine Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on oder off</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;%1&quot;; check the name and the folder</source>
+        <translation>es gibt keine Datei „%1“; prüfen Sie Namen und Ordner</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;: it is switched off in the dialog as it is now</source>
+        <translation>%1 nimmt „%2“ nicht: Es ist im Dialog, wie er jetzt ist, ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>%1; it takes %2</source>
+        <translation>%1; möglich ist %2</translation>
+    </message>
+    <message>
+        <source>the answer for %1</source>
+        <translation>die Antwort für %1</translation>
+    </message>
+    <message>
+        <source>; next is %1</source>
+        <translation>; als Nächstes kommt %1</translation>
+    </message>
+    <message>
+        <source>no dialog has taken %1</source>
+        <translation>kein Dialog hat dies genommen: %1</translation>
     </message>
 </context>
 <context>
@@ -3542,7 +3590,7 @@
     </message>
     <message>
         <source>a map can&apos;t show that.</source>
-        <translation>das kann eine Karte nicht zeigen.</translation>
+        <translation type="vanished">das kann eine Karte nicht zeigen.</translation>
     </message>
     <message>
         <source>the focus map has no layer &quot;%1&quot;; it has: %2.</source>
@@ -3559,6 +3607,34 @@
     <message>
         <source>there is no such field; get=%1 prints all that there are.</source>
         <translation>ein solches Feld gibt es nicht; get=%1 gibt alle aus, die es gibt.</translation>
+    </message>
+    <message>
+        <source>run: %1 belongs to the window; here save=FILE saves the document.</source>
+        <translation>run: %1 gehört zum Fenster; hier speichert save=FILE das Dokument.</translation>
+    </message>
+    <message>
+        <source>run: %1 belongs to the window; leave it out.</source>
+        <translation>run: %1 gehört zum Fenster; lassen Sie es weg.</translation>
+    </message>
+    <message>
+        <source>the map is shown, and holds nothing named &quot;%1&quot;; view=layout shows the page and its elements.</source>
+        <translation>die Karte ist zu sehen und enthält nichts namens „%1“; view=layout zeigt die Seite mit ihren Elementen.</translation>
+    </message>
+    <message>
+        <source>this rectangle has no area; its corners must differ in x and in y.</source>
+        <translation>dieses Rechteck hat keine Fläche; seine Ecken müssen sich in x und in y unterscheiden.</translation>
+    </message>
+    <message>
+        <source>a map can&apos;t show that much or that little; give other numbers.</source>
+        <translation>so viel oder so wenig kann eine Karte nicht zeigen; geben Sie andere Zahlen an.</translation>
+    </message>
+    <message>
+        <source>the page has no map with layers that could be shown or hidden.</source>
+        <translation>die Seite hat keine Karte mit Layern, die sich zeigen oder verbergen ließen.</translation>
+    </message>
+    <message>
+        <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export.</source>
+        <translation>das ist der Name eines Bildes, gespeichert wird aber das Dokument; nennen Sie eine .kdx-Datei oder machen Sie mit Plotvane_Export ein Bild.</translation>
     </message>
 </context>
 <context>

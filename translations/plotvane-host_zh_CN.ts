@@ -712,15 +712,15 @@
     </message>
     <message>
         <source>it does not exist</source>
-        <translation>文件不存在</translation>
+        <translation type="vanished">文件不存在</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation>它不是文件</translation>
+        <translation type="vanished">它不是文件</translation>
     </message>
     <message>
         <source>reading it is not permitted</source>
-        <translation>没有读取权限</translation>
+        <translation type="vanished">没有读取权限</translation>
     </message>
     <message>
         <source>it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file</source>
@@ -729,6 +729,18 @@
     <message>
         <source>The file “%1” has no layer “%2”; it has: %3.</source>
         <translation>文件“%1”中没有图层“%2”；其中有：%3。</translation>
+    </message>
+    <message>
+        <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
+        <translation>它不存在；请将其放到那里，或在图层的数据源中指定其他文件</translation>
+    </message>
+    <message>
+        <source>it is not a file; name one in the layer&apos;s source</source>
+        <translation>这不是文件；请在图层的数据源中指定一个文件</translation>
+    </message>
+    <message>
+        <source>reading it is not permitted; make it readable</source>
+        <translation>没有读取权限；请使其可读</translation>
     </message>
 </context>
 <context>
@@ -751,19 +763,55 @@
     </message>
     <message>
         <source>; the next answer is for %1</source>
-        <translation>；下一个回答是给 %1 的</translation>
+        <translation type="vanished">；下一个回答是给 %1 的</translation>
     </message>
     <message>
         <source>no dialog has taken the answer for %1</source>
-        <translation>没有对话框接受给 %1 的回答</translation>
+        <translation type="vanished">没有对话框接受给 %1 的回答</translation>
     </message>
     <message>
         <source>a dialog as a whole</source>
-        <translation>整个对话框</translation>
+        <translation type="vanished">整个对话框</translation>
     </message>
     <message>
         <source>nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command</source>
         <translation>没有给出回答；请在命令之前加上 answer=WIDGET:VALUE、accept 或 cancel</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>从 %1 到 %2 的整数</translation>
+    </message>
+    <message>
+        <source>a number from %1 to %2</source>
+        <translation>从 %1 到 %2 的数</translation>
+    </message>
+    <message>
+        <source>on or off</source>
+        <translation>on 或 off</translation>
+    </message>
+    <message>
+        <source>there is no file &quot;%1&quot;; check the name and the folder</source>
+        <translation>没有文件“%1”；请检查名称和文件夹</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;: it is switched off in the dialog as it is now</source>
+        <translation>%1 不接受“%2”：在对话框的当前状态下它已停用</translation>
+    </message>
+    <message>
+        <source>%1; it takes %2</source>
+        <translation>%1；可用的是 %2</translation>
+    </message>
+    <message>
+        <source>the answer for %1</source>
+        <translation>%1 的回答</translation>
+    </message>
+    <message>
+        <source>; next is %1</source>
+        <translation>；接下来是 %1</translation>
+    </message>
+    <message>
+        <source>no dialog has taken %1</source>
+        <translation>没有对话框接受 %1</translation>
     </message>
 </context>
 <context>
@@ -3542,7 +3590,7 @@
     </message>
     <message>
         <source>a map can&apos;t show that.</source>
-        <translation>地图无法显示该范围。</translation>
+        <translation type="vanished">地图无法显示该范围。</translation>
     </message>
     <message>
         <source>the focus map has no layer &quot;%1&quot;; it has: %2.</source>
@@ -3559,6 +3607,34 @@
     <message>
         <source>there is no such field; get=%1 prints all that there are.</source>
         <translation>没有这个字段；get=%1 会打印所有字段。</translation>
+    </message>
+    <message>
+        <source>run: %1 belongs to the window; here save=FILE saves the document.</source>
+        <translation>run：%1 属于窗口；在这里用 save=FILE 保存文档。</translation>
+    </message>
+    <message>
+        <source>run: %1 belongs to the window; leave it out.</source>
+        <translation>run：%1 属于窗口；请去掉它。</translation>
+    </message>
+    <message>
+        <source>the map is shown, and holds nothing named &quot;%1&quot;; view=layout shows the page and its elements.</source>
+        <translation>当前显示的是地图，其中没有名为“%1”的内容；view=layout 显示页面及其元素。</translation>
+    </message>
+    <message>
+        <source>this rectangle has no area; its corners must differ in x and in y.</source>
+        <translation>此矩形没有面积；两个角的 x 和 y 都必须不同。</translation>
+    </message>
+    <message>
+        <source>a map can&apos;t show that much or that little; give other numbers.</source>
+        <translation>地图无法显示这么大或这么小的范围；请给出其他数值。</translation>
+    </message>
+    <message>
+        <source>the page has no map with layers that could be shown or hidden.</source>
+        <translation>页面上没有带图层的地图可供显示或隐藏。</translation>
+    </message>
+    <message>
+        <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export.</source>
+        <translation>这是图像的名称，而保存的是文档；请指定 .kdx 文件，或用 Plotvane_Export 生成图像。</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QComboBox>
+#include <QDoubleValidator>
 #include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QGroupBox>
@@ -159,8 +160,9 @@ QWidget* widgetOf(QDialog& dialog, QString const& name) {
 
 bool apply(QDialog& dialog, QWidget& widget, QString const& value) {
   if (auto* const files = qobject_cast<QFileDialog*>(&dialog)) {
-    files->selectFile(QFileInfo(value).absoluteFilePath());
-    return true;
+    QFileInfo const file(value);
+    files->selectFile(file.absoluteFilePath());
+    return files->fileMode() != QFileDialog::ExistingFile || file.isFile();
   }
   if (auto* const colors = qobject_cast<QColorDialog*>(&dialog)) {
     colors->setCurrentColor(QColor(value));
@@ -187,6 +189,76 @@ void accept(QDialog& dialog) {
 bool onlyTells(QDialog const& dialog) {
   auto const* const box = qobject_cast<QMessageBox const*>(&dialog);
   return box && box->icon() == QMessageBox::Information && box->buttons().size() == 1;
+}
+
+QString listed(QStringList const& entries) {
+  constexpr int maxEntries = 8;
+  QStringList shown;
+  for (QString const& entry : entries.mid(0, maxEntries)) shown << QLatin1Char('"') + plain(entry) + QLatin1Char('"');
+  if (entries.size() > maxEntries) shown << QStringLiteral("…");
+  return shown.join(QStringLiteral(", "));
+}
+
+template <class Range>
+QString rangeOf(Range const& range, double from, double to) {
+  bool const isWhole = !qobject_cast<QDoubleSpinBox const*>(&range) && !qobject_cast<QDoubleValidator const*>(&range);
+  return (isWhole ? Texts::tr("a whole number from %1 to %2") : Texts::tr("a number from %1 to %2")).arg(from).arg(to);
+}
+
+// What `setValue` takes, where that can be told.
+QString takenBy(QWidget const& widget) {
+  if (auto const* const edit = qobject_cast<QLineEdit const*>(&widget)) {
+    if (auto const* const whole = qobject_cast<QIntValidator const*>(edit->validator()))
+      return rangeOf(*whole, whole->bottom(), whole->top());
+    auto const* const number = qobject_cast<QDoubleValidator const*>(edit->validator());
+    return number ? rangeOf(*number, number->bottom(), number->top()) : QString();
+  }
+  auto const* const button = qobject_cast<QAbstractButton const*>(&widget);
+  auto const* const group = qobject_cast<QGroupBox const*>(&widget);
+  if ((button && button->isCheckable()) || (group && group->isCheckable())) return Texts::tr("on or off");
+  QStringList entries;
+  if (auto const* const box = qobject_cast<QComboBox const*>(&widget))
+    for (int i = 0; i < box->count(); ++i) entries << box->itemText(i);
+  else if (auto const* const view = qobject_cast<QAbstractItemView const*>(&widget))
+    for (int i = 0; view->model() && i < view->model()->rowCount(); ++i)
+      entries << view->model()->index(i, 0).data().toString();
+  else if (auto const* const tabs = qobject_cast<QTabWidget const*>(&widget))
+    for (int i = 0; i < tabs->count(); ++i) entries << tabs->tabText(i);
+  if (!entries.isEmpty()) return listed(entries);
+  if (auto const* const box = qobject_cast<QSpinBox const*>(&widget))
+    return rangeOf(*box, box->minimum(), box->maximum());
+  if (auto const* const box = qobject_cast<QDoubleSpinBox const*>(&widget))
+    return rangeOf(*box, box->minimum(), box->maximum());
+  if (auto const* const slider = qobject_cast<QSlider const*>(&widget))
+    return rangeOf(*slider, slider->minimum(), slider->maximum());
+  return QString();
+}
+
+QString takenBy(QDialog const& dialog, QWidget const& widget) {
+  if (qobject_cast<QColorDialog const*>(&dialog)) return QStringLiteral("#RRGGBB, #AARRGGBB");
+  auto const* const box = qobject_cast<QMessageBox const*>(&dialog);
+  if (!box) return takenBy(widget);
+  QStringList texts;
+  for (QAbstractButton const* button : box->buttons()) texts << button->text();
+  return listed(texts);
+}
+
+// Why a value was not taken, and which would be.
+QString refusal(QDialog const& dialog, QWidget const& widget, DialogAnswers::Answer const& answer) {
+  if (qobject_cast<QFileDialog const*>(&dialog))
+    return Texts::tr("there is no file \"%1\"; check the name and the folder").arg(answer.value);
+  if (!widget.isEnabled())
+    return Texts::tr("%1 does not take \"%2\": it is switched off in the dialog as it is now")
+        .arg(answer.widget, answer.value);
+  QString const problem = Texts::tr("%1 does not take \"%2\"").arg(answer.widget, answer.value);
+  QString const taken = takenBy(dialog, widget);
+  return taken.isEmpty() ? problem : Texts::tr("%1; it takes %2").arg(problem, taken);
+}
+
+// As the step is called.
+QString nameOf(DialogAnswers::Answer const& answer) {
+  if (answer.kind == DialogAnswers::Answer::Kind::Widget) return Texts::tr("the answer for %1").arg(answer.widget);
+  return answer.kind == DialogAnswers::Answer::Kind::Accept ? QStringLiteral("accept") : QStringLiteral("cancel");
 }
 
 QString nameOf(QDialog const& dialog) {
@@ -224,31 +296,28 @@ void DialogAnswers::answer(QDialog& dialog) {
     isAnswered = true;
     isToBeRejected = next.kind == Answer::Kind::Cancel;
     if (next.kind != Answer::Kind::Widget) break;
-    if (!apply(dialog, *widget, next.value))
-      return fail(dialog, Texts::tr("%1 does not take \"%2\"").arg(next.widget, next.value));
+    if (!apply(dialog, *widget, next.value)) return fail(dialog, refusal(dialog, *widget, next));
     if (!shown || !shown->isVisible()) return;
   }
   if (!problem_.isEmpty() || isToBeRejected) return dialog.reject();
   if (!isAnswered && onlyTells(dialog))
     Console::complain(static_cast<QMessageBox&>(dialog).text());
   else if (!isAnswered)
-    return fail(dialog, Texts::tr("nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command"));
+    return fail(dialog, Texts::tr("nobody answers it; put answer=WIDGET:VALUE, accept or cancel before the command") +
+                            (answers_.empty() ? QString() : Texts::tr("; next is %1").arg(nameOf(answers_.front()))));
   accept(dialog);
   if (shown && shown->isVisible()) fail(dialog, Texts::tr("it can't be accepted like this"));
 }
 
 void DialogAnswers::fail(QDialog& dialog, QString const& why) {
-  QString const names =
-      answers_.empty() ? QString() : Texts::tr("; the next answer is for %1").arg(answers_.front().widget);
-  if (problem_.isEmpty()) problem_ = nameOf(dialog) + QStringLiteral(": ") + why + names;
+  if (problem_.isEmpty()) problem_ = nameOf(dialog) + QStringLiteral(": ") + why;
   dialog.reject();
 }
 
 QString DialogAnswers::takeProblem() {
   QString problem = std::exchange(problem_, QString());
   if (problem.isEmpty() && !answers_.empty())
-    problem = Texts::tr("no dialog has taken the answer for %1")
-                  .arg(answers_.front().widget.isEmpty() ? Texts::tr("a dialog as a whole") : answers_.front().widget);
+    problem = Texts::tr("no dialog has taken %1").arg(nameOf(answers_.front()));
   answers_.clear();
   return problem;
 }

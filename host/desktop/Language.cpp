@@ -39,8 +39,10 @@ std::optional<QString> takeLanguage(QStringList& arguments) {
 bool isLanguage(QString const& language) {
   if (localeOf(language)) return true;
   // In English: nothing is translated yet.
-  Console::complain(QStringLiteral("--language: \"%1\" is none of the languages: %2.")
-                        .arg(language, SysFramework::languagesOfTexts().join(QStringLiteral(", "))));
+  QString const known = SysFramework::languagesOfTexts().join(QStringLiteral(", "));
+  Console::complain(language.isEmpty()
+                        ? QStringLiteral("--language: its value is missing; it is one of: %1.").arg(known)
+                        : QStringLiteral("--language: \"%1\" is none of the languages: %2.").arg(language, known));
   return false;
 }
 

@@ -3,6 +3,7 @@
 #include "Console.h"
 #include "DocumentLock.h"
 #include "DocumentReport.h"
+#include "ImageFormat.h"
 #include "ScaleText.h"
 
 #include "host/SysCarto/maps/MapSteps.h"
@@ -11,8 +12,10 @@
 #include <SysCarto/Map.h>
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QMouseEvent>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -38,11 +41,16 @@ QVector<double> numbersIn(QString const& text) {
   return numbers;
 }
 
-bool isInCatalogue(QString const& identifier) {
-  auto const all = commandCatalogue();
+bool isIn(QVector<CommandEntry> const& all, QString const& identifier) {
   return std::any_of(all.begin(), all.end(), [&](CommandEntry const& entry) {
     return entry.identifier.compare(identifier, Qt::CaseInsensitive) == 0;
   });
+}
+
+// What stands between commas; one of a name's own has a backslash before it.
+QStringList namesIn(QString const& text) {
+  static QRegularExpression const comma(QStringLiteral("(?<!\\\\),"));
+  return text.split(comma).replaceInStrings(QStringLiteral("\\,"), QStringLiteral(","));
 }
 
 // By name, or by handle as in #12.
@@ -148,9 +156,14 @@ QString RunSteps::check(QStringList const& steps) const {
   if (bench_.plugin().state() != PluginLibrary::State::Loaded) return bench_.plugin().reason();
   for (QString const& step : steps) {
     Kind const* const kind = kindOf(step);
-    if (!kind && isInCatalogue(step) && !bench_.commands().find(step))
+    bool const isUnknown = !kind && !bench_.commands().find(step);
+    if (isUnknown && isIn(hostCatalogue(), step))
+      return step.startsWith(QLatin1String("Host_Save"), Qt::CaseInsensitive)
+                 ? tr("run: %1 belongs to the window; here save=FILE saves the document.").arg(step)
+                 : tr("run: %1 belongs to the window; leave it out.").arg(step);
+    if (isUnknown && isIn(commandCatalogue(), step))
       return tr("run: this plug-in does not build %1; plotvane commands lists what it builds.").arg(step);
-    if (!kind && !bench_.commands().find(step))
+    if (isUnknown)
       return tr("run: \"%1\" is neither a step nor a command's identifier; plotvane run --help lists the steps, and "
                 "plotvane commands the commands.")
           .arg(step);
@@ -192,10 +205,13 @@ QString RunSteps::select(QString const& names) {
   auto* const container = view ? view->GetGraphicsContainer() : nullptr;
   if (!container) return tr("there is no view whose elements could be selected.");
   QList<_ptr_t<SysCarto::Element>> chosen;
-  for (QString const& name : names.split(QLatin1Char(','))) {
+  for (QString const& name : namesIn(names)) {
     int const before = chosen.size();
     for (auto const& element : container->GetElements())
       if (isCalled(*element, name)) chosen << element;
+    if (chosen.size() == before && bench_.views().kind() == DocumentViews::Kind::Map)
+      return tr("the map is shown, and holds nothing named \"%1\"; view=layout shows the page and its elements.")
+          .arg(name);
     if (chosen.size() == before)
       return tr("no element is named \"%1\"; plotvane info lists names and handles, and #12 is the one with handle 12.")
           .arg(name);
@@ -258,6 +274,8 @@ QString RunSteps::setScale(QString const& scale) {
 
 QString RunSteps::setExtent(QString const& sides) {
   auto const side = numbersIn(sides);
+  if (side[0] == side[2] || side[1] == side[3])
+    return tr("this rectangle has no area; its corners must differ in x and in y.");
   return withFreeMap([&](Map& map) { return MapSteps::setExtent(map, {side[0], side[1], side[2], side[3]}); });
 }
 
@@ -267,7 +285,7 @@ QString RunSteps::withFreeMap(std::function<bool(Map&)> const& change) {
   auto const frame = layout->GetFocusMapFrameElement();
   if (!frame) return tr("the page has no data frame, so there is no map to show.");
   if (frame->IsLocked()) return tr("the data frame is locked; Plotvane_UnlockDataFrame unlocks it.");
-  return change(*frame->GetMap()) ? QString() : tr("a map can't show that.");
+  return change(*frame->GetMap()) ? QString() : tr("a map can't show that much or that little; give other numbers.");
 }
 
 // All of that name, since names need not differ.
@@ -278,6 +296,7 @@ QString RunSteps::setVisible(QString const& layerName, bool visible) {
     names << layer->GetName();
     if (names.last() == layerName) MapSteps::setVisible(*layer, visible);
   }
+  if (names.isEmpty()) return tr("the page has no map with layers that could be shown or hidden.");
   return names.contains(layerName)
              ? QString()
              : tr("the focus map has no layer \"%1\"; it has: %2.").arg(layerName, names.join(QStringLiteral(", ")));
@@ -332,6 +351,10 @@ QString RunSteps::answer(QString const& text) {
 }
 
 QString RunSteps::save(QString const& file) {
+  if (ImageFormat::withSuffix(QFileInfo(file).suffix()))
+    return tr(
+        "this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with "
+        "Plotvane_Export.");
   DocumentLock lock(file);
   if (!lock.take() && !force_) return tr("%1 Name another file, or pass --force.").arg(lock.holder());
   if (!force_ && lock.guards(bench_.session().path()) && bench_.session().isFileChanged())

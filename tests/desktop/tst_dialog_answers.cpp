@@ -84,10 +84,13 @@ private slots:
   void whatIsWrongIsNamed_data() {
     Rows<QString, QString, QString> row;
     row("a dialog without an answer", "", "", "the dialog \"Sample\" (SampleDialog): nobody answers it; put");
-    row("an answer for another dialog", "comboBox_Other", "1", "the next answer is for comboBox_Other");
-    row("a value that the validator refuses", "lineEdit_DPI", "many", "lineEdit_DPI does not take \"many\"");
-    row("a number behind a box that is off", "spinBox_BorderGap", "7", "spinBox_BorderGap does not take \"7\"");
-    row("an entry that a list has not", "comboBox_Form", "A9", "comboBox_Form does not take \"A9\"");
+    row("an answer for another dialog", "comboBox_Other", "1", "next is the answer for comboBox_Other");
+    row("a value that the validator refuses", "lineEdit_DPI", "many",
+        "lineEdit_DPI does not take \"many\"; it takes a whole number from 1 to 999");
+    row("a number behind a box that is off", "spinBox_BorderGap", "7",
+        "spinBox_BorderGap does not take \"7\": it is switched off");
+    row("an entry that a list has not", "comboBox_Form", "A9",
+        "comboBox_Form does not take \"A9\"; it takes \"A4\", \"A3\"");
     row("a value that the dialog refuses", "lineEdit_DPI", "13", "it can't be accepted like this");
     row("a message box without an answer", "pushButton_Ask", "click", "the message box \"Sure\" (\"Really?\")");
   }

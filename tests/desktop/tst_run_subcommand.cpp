@@ -17,6 +17,7 @@ private slots:
     document.GetPageLayout()->GetGraphicsContainer()->AddElement(frame);
     auto const picture = madeIn<SysCarto::PictureElement>(6.0, 5.0, 7.0, 6.0);
     QImage(2, 2, QImage::Format_RGB32).save(folder_.path("drawn.png"));
+    picture->SetName("Drawn,twice");
     picture->setPath(folder_.path("drawn.png"));
     document.GetPageLayout()->GetGraphicsContainer()->AddElement(picture);
     QCOMPARE(mkfifo(qPrintable(folder_.path("pipe.kdx")), 0600), 0);
@@ -29,6 +30,7 @@ private slots:
     row("a command's name may be in any case", "select=World,Inset plotvane_leftalignment info", 1);
     row("undo takes a command back", "select=World,Inset Plotvane_LeftAlignment undo info", 2);
     row("redo makes it again", "select=World,Inset Plotvane_LeftAlignment undo redo info", 1);
+    row("a comma may be part of a name", "select=World,Drawn\\,twice Plotvane_TopAlignment info", 2);
     row("handles name elements, too", "select=#1,#2 Plotvane_LeftAlignment info", 1);
     row("a drag moves what lies under it", "drag=2.5,2.5,4.5,2.5 info", 4);
     row("the pan tool moves no element", "Plotvane_Pan drag=2.5,2.5,4.5,2.5 info", 2);
@@ -54,9 +56,16 @@ private slots:
         "select=World,Inset Plotvane_LeftAlignment answer=comboBox_PaperType:A3 answer=checkBox_ScaleMapElements:on "
         "Plotvane_PageSetting select=World,Inset Plotvane_TopAlignment undo undo",
         1, "it needs a change to take back");
+    row("a name on the page in the map view", "view=map select=World", 1, "view=layout shows the page");
+    row("a command of the window", "Host_Save", 2, "save=FILE saves");
+    row("a document in an image's place", "save=a.png", 1, "name a .kdx file");
     row("an extent that no map shows", "extent=0,0,1e300,1", 1, "can't show");
+    row("an extent without area", "extent=1,1,1,1", 1, "no area");
     row("the scale of a locked map", "Plotvane_LockDataFrame scale=1:5000", 1, "Plotvane_UnlockDataFrame");
-    row("a layer that is not there", "hide=Roads", 1, "no layer \"Roads\"");
+    row("a map without layers", "hide=Roads", 1, "no map with layers");
+    row("a template that is not there", "info answer=file:none.kdx Plotvane_ChangePageLayout", 1,
+        "no file \"none.kdx\"");
+    row("an answer for no dialog as a whole", "info cancel Host_SelectAll", 1, "no dialog has taken cancel");
     row("no scale", "scale=1:0", 2, "scale=1:N");
     row("a map that is not on the page", "focus=Moon", 1, "no map is named \"Moon\"");
     row("nothing to undo", "undo", 1, "it needs a change to take back");

@@ -39,6 +39,8 @@ private slots:
     row("commands with an operand", "commands page.kdx", "one argument too many");
     row("a format that there is not", "schema page.kdx", "document or style, not \"page.kdx\"");
     row("no such language", "info page.kdx --language fr", "\"fr\" is none of the languages: de, en, zh_CN.");
+    row("a language that is left out", "info page.kdx --language",
+        "its value is missing; it is one of: de, en, zh_CN.");
     row("a language for the window", "--language klingon page.kdx", "\"klingon\" is none of");
   }
   void refusesWrongArguments() {

@@ -77,11 +77,11 @@ std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const&
   if (!error.isEmpty()) return nullptr;
   QFileInfo const file(path);
   if (!file.exists())
-    error = cannotOpen(path, Texts::tr("it does not exist"));
+    error = cannotOpen(path, Texts::tr("it does not exist; put it there, or name another file in the layer's source"));
   else if (!file.isFile())
-    error = cannotOpen(path, Texts::tr("it is not a file"));
+    error = cannotOpen(path, Texts::tr("it is not a file; name one in the layer's source"));
   else if (!file.isReadable())
-    error = cannotOpen(path, Texts::tr("reading it is not permitted"));
+    error = cannotOpen(path, Texts::tr("reading it is not permitted; make it readable"));
   if (!error.isEmpty()) return nullptr;
 
   stayOffline();
