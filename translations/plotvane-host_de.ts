@@ -3508,7 +3508,7 @@
     </message>
     <message>
         <source>Layer %1</source>
-        <translation>Ebene %1</translation>
+        <translation>Layer %1</translation>
     </message>
     <message>
         <source>Map %1</source>
@@ -3602,7 +3602,7 @@
     </message>
     <message>
         <source>there is no &quot;%1&quot;; write page, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
-        <translation>„%1“ gibt es nicht; page, selection, der Name eines Elements oder #HANDLE, map:NAME oder layer:KARTE/EBENE gehen; plotvane info zählt sie auf.</translation>
+        <translation>„%1“ gibt es nicht; page, selection, der Name eines Elements oder #HANDLE, map:NAME oder layer:KARTE/LAYER gehen; plotvane info zählt sie auf.</translation>
     </message>
     <message>
         <source>there is no such field; get=%1 prints all that there are.</source>

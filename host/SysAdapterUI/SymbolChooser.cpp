@@ -132,6 +132,15 @@ QVector<SysUtility::SheetField> SymbolChooser::fields() {
 }
 
 QString SymbolChooser::set(QStringList const& path, SysUtility::NewValue const& value) {
+  QJsonObject const json = jsonOf(*symbol_);
+  if (path == QStringList(QStringLiteral("type"))) {
+    auto const other =
+        SysDisplay::symbolOf(SysDisplay::layeredOrNot(json, value(json.value(QLatin1String("type"))).toString()));
+    if (other) {
+      showSymbol(other);
+      return QString();
+    }
+  }
   _ptr_t<Symbol> read;
   auto const change =
       SysUtility::changeField([&](Fields& fields) { SysDisplay::listOwnSymbol(fields, symbol_, kinds_); },
@@ -141,18 +150,21 @@ QString SymbolChooser::set(QStringList const& path, SysUtility::NewValue const& 
                               },
                               path, value, nullptr);
   if (!change.isChange) return change.problem;
-  symbol_ = read;
-  preview_->show(symbol_);
+  showSymbol(read);
   return QString();
+}
+
+void SymbolChooser::showSymbol(_ptr_t<Symbol> const& symbol) {
+  symbol_ = symbol;
+  preview_->show(symbol_);
 }
 
 // A symbol of a kind that can't stand here is shown in the library all the same.
 void SymbolChooser::takeFromLibrary() {
   auto const chosen = browser_->current();
   if (!chosen || !kinds_.contains(jsonOf(*chosen).value(QLatin1String("type")).toString())) return;
-  symbol_ = chosen->Clone();
+  showSymbol(chosen->Clone());
   sheet_->refresh();
-  preview_->show(symbol_);
 }
 
 void SymbolChooser::saveToLibrary() {

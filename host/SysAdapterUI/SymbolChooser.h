@@ -35,6 +35,7 @@ private:
   QVector<SysUtility::SheetField> fields() override;
   QString set(QStringList const& path, SysUtility::NewValue const& value) override;
   void build();
+  void showSymbol(SysUtility::_ptr_t<SysDisplay::Symbol> const& symbol);
   void takeFromLibrary();
   void saveToLibrary();
   void chooseInner(QModelIndex const& index);

@@ -4,6 +4,7 @@
 
 #include "host/SysUtility/JsonFields.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -134,6 +135,15 @@ _ptr_t<Symbol> symbolOf(QJsonObject const& json) {
   _ptr_t<Symbol> symbol;
   listOwnSymbolOf(reader, symbol, isA<Symbol>);
   return reader.ok() ? symbol : nullptr;
+}
+
+QJsonObject layeredOrNot(QJsonObject const& symbol, QString const& kind) {
+  auto const isLayered = [](QString const& name) { return name.startsWith(QLatin1String("layered")); };
+  QString const type = QStringLiteral("type"), layers = QStringLiteral("layers");
+  bool const wasLayered = isLayered(symbol.value(type).toString());
+  if (isLayered(kind) && !wasLayered) return {{type, kind}, {layers, QJsonArray{symbol}}};
+  QJsonObject const lowest = symbol.value(layers).toArray().at(0).toObject();
+  return wasLayered && lowest.value(type) == kind ? lowest : QJsonObject();
 }
 
 bool importSymbol(QJsonObject const& json, Symbol& symbol) {

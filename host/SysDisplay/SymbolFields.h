@@ -74,6 +74,10 @@ SYSDISPLAY_EXPORT bool isSymbol(SysUtility::Field const& field);
 /// A symbol of any kind; empty where the JSON is none.
 SYSDISPLAY_EXPORT SysUtility::_ptr_t<Symbol> symbolOf(QJsonObject const& json);
 
+/// The symbol as the lowest layer of one of a layered kind, or the lowest layer of a layered symbol where that is of
+/// the kind; empty where neither fits.
+SYSDISPLAY_EXPORT QJsonObject layeredOrNot(QJsonObject const& symbol, QString const& kind);
+
 /// The JSON operations of the symbols. `symbol` is changed only where the JSON is a symbol of the same kind.
 SYSDISPLAY_EXPORT bool importSymbol(QJsonObject const& json, Symbol& symbol);
 SYSDISPLAY_EXPORT bool importSymbol(QString const& json, Symbol& symbol);

@@ -2,6 +2,7 @@
 
 #include "host/SysAdapterUI/SymbolChooser.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysUtility/ChangeMark.h"
 
 #include <SysCarto/MapFrameElement.h>
 #include <SysCarto/PageLayout.h>
@@ -79,7 +80,14 @@ void PropertyPanel::follow() {
   things_ = chosen();
   sheet_->setTitle(titleOf(things_));
   Shown const shown{map_.get(), layer_.get(), selected_};
-  if (shown_ && *shown_ == shown) return sheet_->refresh();
+  Moment const now{MapDocumentHost::history(session_.document())->index(), SysUtility::ChangeMark::now()};
+  bool const isKnown = shown_ && *shown_ == shown, isLater = !(now == moment_);
+  moment_ = now;
+  // A map is zoomed within one step. To look at many elements takes a while, and the wheel comes here, too.
+  if (isKnown) {
+    if (isLater || things_.size() == 1) sheet_->refresh();
+    return;
+  }
   shown_ = shown;
   last_ = {};
   sheet_->show(this);

@@ -55,6 +55,13 @@ private:
     }
   };
 
+  // When something may have changed.
+  struct Moment {
+    int step;
+    quint64 change;
+    bool operator==(Moment const& other) const { return step == other.step && change == other.change; }
+  };
+
   // The change before, while one of the same field soon after is the same step.
   struct Last {
     QStringList path;
@@ -69,5 +76,6 @@ private:
   SysUtility::_ptr_t<SysCarto::Map> map_;      // of the current row of the contents; empty where the page counts
   SysUtility::_ptr_t<SysCarto::Layer> layer_;  // likewise, empty for the map itself
   std::optional<Shown> shown_;                 // in the sheet
+  Moment moment_{-1, 0};
   Last last_;
 };

@@ -29,6 +29,7 @@ namespace {
 
 constexpr QSize viewSize(1024, 768);  // fixed, so that what depends on the view is the same on every machine
 constexpr int movesOfADrag = 4;
+constexpr int maxShown = 200;  // characters of a step in a message
 
 QVector<double> numbersIn(QString const& text) {
   QVector<double> numbers;
@@ -184,7 +185,9 @@ QString RunSteps::run(QString const& step) {
   QString const value = kind && kind->isValue ? step.mid(kind->name.size() + 1) : kind ? kind->fixed : step;
   QString const problem = kind ? (this->*kind->run)(value) : click(value);
   QCoreApplication::processEvents();
-  return problem.isEmpty() ? QString() : tr("run: %1: %2").arg(step, problem);
+  bool const isLong = step.size() > maxShown;
+  QString const shown = isLong ? step.left(maxShown) + QChar(0x2026) : step;
+  return problem.isEmpty() ? QString() : tr("run: %1: %2").arg(shown, problem);
 }
 
 QString RunSteps::unusedAnswers() {

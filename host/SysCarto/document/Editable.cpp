@@ -8,6 +8,7 @@
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/maps/ValueStep.h"
+#include "host/SysDisplay/SymbolFields.h"
 
 #include <SysCarto/Editor.h>
 #include <SysCarto/PageLayout.h>
@@ -19,6 +20,7 @@
 namespace SysCarto {
 
 using SysUtility::_ptr_t;
+using SysUtility::FieldInfo;
 using SysUtility::Fields;
 using SysUtility::FieldSheet;
 using SysUtility::SheetField;
@@ -108,7 +110,7 @@ protected:
   void list(Fields& fields, DocumentContext& context) const override { uses_.of(*target_, context).list(fields); }
 
   Change read(Fields& reader, DocumentContext& context) const override {
-    Settings settings;
+    Settings settings = uses_.of(*target_, context);  // a size of one's own begins with the sheet's
     settings.list(reader);
     return [this, settings, context](QString const& step, QStringList& warnings) {
       auto const whole = std::make_shared<DocumentContext>(context);
@@ -143,6 +145,26 @@ QString inSentence(char const* source) {
   QString const caption = QCoreApplication::translate("Fields", source);
   bool const isEnglish = caption == QLatin1String(source);
   return isEnglish ? caption.left(1).toLower() + caption.mid(1) : caption;
+}
+
+struct Wanted {
+  QStringList path;
+  SysUtility::NewValue value;
+};
+
+// A symbol that becomes one of layers is the lowest of them, and the lowest layer may become the symbol again.
+Wanted wantedOf(Fields::Describe const& list, QStringList const& path, SysUtility::NewValue const& value) {
+  if (path.last() != QLatin1String("type")) return {path, value};
+  FieldSheet sheet;
+  list(sheet);
+  QStringList const whole = path.mid(0, path.size() - 1);
+  SheetField const* const parent = fieldAt(sheet.fields(), whole);
+  if (!parent || parent->info.kind != FieldInfo::Kind::Object || !SysDisplay::isSymbol(parent->info.field))
+    return {path, value};
+  QJsonObject const now = wholeValue(*parent).toObject();
+  QJsonObject const other = SysDisplay::layeredOrNot(now, value(now.value(path.last())).toString());
+  if (other.isEmpty()) return {path, value};
+  return {whole, [other](QJsonValue const&) { return other; }};
 }
 
 }  // namespace
@@ -231,16 +253,18 @@ QString Editable::set(MapDocument const& document, List const& things, QStringLi
   QString what = path.join(QLatin1Char('/'));
   for (Pointer const& thing : things) {
     Change read;
+    auto const list = [&](Fields& fields) {
+      DocumentContext own = context;
+      thing->list(fields, own);
+    };
+    Wanted const wanted = wantedOf(list, path, value);
     auto const change = SysUtility::changeField(
-        [&](Fields& fields) {
-          DocumentContext own = context;
-          thing->list(fields, own);
-        },
+        list,
         [&](Fields& fields) {
           DocumentContext own = context;
           read = thing->read(fields, own);
         },
-        path, value, [&] { return thing->attributes(); });
+        wanted.path, wanted.value, [&] { return thing->attributes(); });
     if (!change.problem.isEmpty()) return change.problem;
     if (change.isChange) changes << read;
     if (change.caption) what = inSentence(change.caption);

@@ -111,12 +111,16 @@ void LayerSettings::list(Fields& fields) {
                                                "Whether the layer covers the layers below, or darkens or lightens "
                                                "them.")},
                             effects.blend, blends, usual.effects.blend);
-  fields.optionalObject({"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
-                         QT_TRANSLATE_NOOP("Fields", "Texts at the features; without them, none are written.")},
-                        labels.isUsed(), [this](Fields& own) {
-                          labels.list(own);
-                          annotation.list(own);
-                        });
+  bool const hasLabels =
+      fields.optionalObject({"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
+                             QT_TRANSLATE_NOOP("Fields", "Texts at the features; without them, none are written.")},
+                            labels.isUsed(), [this](Fields& own) {
+                              labels.list(own);
+                              annotation.list(own);
+                            });
+  if (!fields.isReading() || hasLabels) return;
+  labels = {};
+  annotation = {};
 }
 
 _ptr_t<Layer> LayerSettings::make(Map const& map, DocumentContext& context) const {
