@@ -44,6 +44,7 @@ std::optional<bool> isDrawnAt(Element const& element, Envelope const& place,
   auto const* const kind = dynamic_cast<Kind const*>(&element);
   if (!kind || !kind->symbol()) return std::nullopt;
   auto const reached = grown(place, worldPerPoint(transformation) * widthOf(*kind->symbol()) / 2);
+  if (!element.GetEnvelope()->Intersects(reached)) return false;  // most are elsewhere, and this costs little
   return kind->drawn()->Intersects(reached) && (isFilled(*kind->symbol()) || !kind->drawn()->Contains(reached));
 }
 
