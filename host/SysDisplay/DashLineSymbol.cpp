@@ -62,8 +62,8 @@ _ptr_t<Envelope> DashLineSymbol::QueryBoundary(_ptr_t<DisplayTransformation> con
 void DashLineSymbol::resize(double factor) {
   SetWidth(GetWidth() * factor);
   SetOffset(GetOffset() * factor);
-  for (double& length : pattern_) length *= factor;
-  start_ *= factor;
+  for (double& length : pattern_) length = std::clamp(length * factor, minLength, maxLength);
+  start_ = std::clamp(start_ * factor, -maxLength, maxLength);
 }
 
 }  // namespace SysDisplay

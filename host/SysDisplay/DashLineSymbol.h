@@ -21,6 +21,9 @@ public:
       SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry) const override;
   void resize(double factor) override;
 
+  // Points: what a length may be.
+  static constexpr double minLength = 0.01, maxLength = 1000;
+
   /// Points: dash and gap in turn, without their caps. An odd count is run through twice, so that its dashes become
   /// gaps. Lengths that are not positive, and none at all, draw a solid line.
   QVector<double> const& pattern() const { return pattern_; }

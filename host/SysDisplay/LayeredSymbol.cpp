@@ -1,5 +1,7 @@
 #include "LayeredSymbol.h"
 
+#include <cmath>
+
 namespace SysDisplay {
 
 using SysGeometry::Box;
@@ -7,7 +9,6 @@ using SysGeometry::Envelope;
 using SysGeometry::Geometry;
 using SysUtility::_ptr_t;
 using SysUtility::make;
-using SysUtility::ptr_cast;
 
 namespace {
 
@@ -99,11 +100,14 @@ _ptr_t<Envelope> LayeredLineSymbol::QueryBoundary(_ptr_t<DisplayTransformation> 
 void LayeredLineSymbol::resize(double factor) {
   for (auto const& layer : layers()) SysDisplay::resize(*layer, factor);
 }
-double LayeredLineSymbol::GetWidth() const { return greatest(&LineSymbol::GetWidth); }
+double LayeredLineSymbol::GetWidth() const {
+  double widest = 0;
+  for (auto const& layer : layers()) widest = std::max(widest, layer->GetWidth() + 2 * std::abs(layer->GetOffset()));
+  return widest;
+}
 void LayeredLineSymbol::SetWidth(double points) {
   double const before = GetWidth();
-  if (before > 0 && points >= 0)
-    for (auto const& layer : layers()) layer->SetWidth(layer->GetWidth() * points / before);
+  if (before > 0 && points > 0) resize(points / before);
 }
 QColor LayeredLineSymbol::GetColor() const { return layers().isEmpty() ? QColor() : layers().last()->GetColor(); }
 void LayeredLineSymbol::SetColor(QColor color) {
@@ -157,10 +161,14 @@ std::unique_ptr<MarkerDrawing> LayeredMarkerSymbol::prepare(double pixelsPerPoin
     return own ? own->prepare(pixelsPerPoint) : nullptr;
   });
 }
-double LayeredMarkerSymbol::GetSize() const { return greatest(&MarkerSymbol::GetSize); }
+double LayeredMarkerSymbol::GetSize() const {
+  double largest = 0;
+  for (auto const& layer : layers()) largest = std::max(largest, layer->GetSize());
+  return largest;
+}
 void LayeredMarkerSymbol::SetSize(double points) {
   double const before = GetSize();
-  if (before > 0 && points >= 0)
+  if (before > 0 && points > 0)
     for (auto const& layer : layers()) layer->SetSize(layer->GetSize() * points / before);
 }
 double LayeredMarkerSymbol::GetAngle() const { return layers().isEmpty() ? 0 : layers().first()->GetAngle(); }

@@ -39,13 +39,6 @@ protected:
     return *this;
   }
 
-  /// The greatest that a member function of a layer answers; 0 without layers.
-  double greatest(double (S::*length)() const) const {
-    double most = 0;
-    for (auto const& layer : layers_) most = std::max(most, (layer.get()->*length)());
-    return most;
-  }
-
 private:
   void copyLayers(LayeredSymbol const& other) {
     Layers copies;
@@ -56,7 +49,8 @@ private:
   Layers layers_;
 };
 
-/// Its width is that of the widest layer, and its colour that of the last. A layer of a map draws such lines symbol by
+/// Its width is that of its widest layer, moved aside as it is, and its colour that of the last: another width enlarges
+/// all layers alike, and 0 is ignored, since nothing would tell them apart. A layer of a map draws such lines symbol by
 /// symbol, so that the inner lines of roads join over the casings (`linesOf`).
 class SYSDISPLAY_EXPORT LayeredLineSymbol final : public LayeredSymbol<LineSymbol, PreparableLine> {
 public:
@@ -102,8 +96,8 @@ public:
   void SetOutlineSymbol(SysUtility::_ptr_t<LineSymbol> const& outline) override;
 };
 
-/// Its size is that of the largest layer, and its angle that of the first: another size enlarges all layers alike, and
-/// another angle turns them all.
+/// Its size is that of the largest layer, and its angle that of the first: another size enlarges all layers alike, 0 is
+/// ignored, and another angle turns them all.
 class SYSDISPLAY_EXPORT LayeredMarkerSymbol final : public LayeredSymbol<MarkerSymbol, PreparableMarker> {
 public:
   LayeredMarkerSymbol();

@@ -229,8 +229,8 @@ _ptr_t<Envelope> MarkerLineSymbol::QueryBoundary(_ptr_t<DisplayTransformation> c
 void MarkerLineSymbol::resize(double factor) {
   if (marker_) marker_->SetSize(marker_->GetSize() * factor);
   SetOffset(GetOffset() * factor);
-  intervalPt_ *= factor;
-  firstPt_ *= factor;
+  intervalPt_ = std::clamp(intervalPt_ * factor, minInterval, maxInterval);
+  firstPt_ = std::min(firstPt_ * factor, maxInterval);
 }
 
 double MarkerLineSymbol::GetWidth() const { return marker_ ? marker_->GetSize() : 0; }

@@ -29,6 +29,9 @@ public:
   SysUtility::_ptr_t<MarkerSymbol> const& marker() const { return marker_; }
   void setMarker(SysUtility::_ptr_t<MarkerSymbol> const& marker) { marker_ = marker; }
 
+  // Points: what an interval may be.
+  static constexpr double minInterval = 0.5, maxInterval = 1000;
+
   /// Points from one marker to the next; where that is less than a pixel, so far.
   double interval() const { return intervalPt_; }
   void setInterval(double points) { intervalPt_ = points; }

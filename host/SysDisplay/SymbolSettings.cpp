@@ -168,7 +168,7 @@ void DashLineSettings::list(Fields& fields) {
        QT_TRANSLATE_NOOP("Fields",
                          "The lengths of dashes and gaps in turn, without their ends; an odd count is run "
                          "through twice.")},
-      pattern, {2, 20}, {0.01, maxPt, Unit::Point});
+      pattern, {2, 20}, {DashLineSymbol::minLength, DashLineSymbol::maxLength, Unit::Point});
   fields.number({"start", QT_TRANSLATE_NOOP("Fields", "Start"),
                  QT_TRANSLATE_NOOP("Fields", "How far into the dashes and gaps the line begins.")},
                 start, anyLengths, 0.0);
@@ -193,7 +193,7 @@ void MarkerLineSettings::list(Fields& fields) {
       marker);
   fields.number({"interval", QT_TRANSLATE_NOOP("Fields", "Interval"),
                  QT_TRANSLATE_NOOP("Fields", "How far it is from one marker to the next, a pixel at least.")},
-                interval, steps, usual.interval);
+                interval, {MarkerLineSymbol::minInterval, MarkerLineSymbol::maxInterval, Unit::Point}, usual.interval);
   fields.number({"first", QT_TRANSLATE_NOOP("Fields", "First marker"),
                  QT_TRANSLATE_NOOP("Fields", "How far it is from the beginning of the line to its first marker.")},
                 first, lengths, usual.first);

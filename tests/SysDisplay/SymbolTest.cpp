@@ -263,6 +263,17 @@ private slots:
     canvas.draw(*symbol, make<Point>(100, 100, 0));
     QCOMPARE(canvas.covered(), QRect(60, 60, 80, 80));
     QVERIFY(!canvas.isInk(100, 100) && canvas.isInk(65, 100));
+    auto const road = ptr_cast<LayeredLineSymbol>(
+        storedSymbol("{'type':'layeredLine','layers':[{'type':'simpleLine','width':2,'offset':3},"
+                     "{'type':'dashLine','pattern':[6,2],'width':4}]}"));
+    QCOMPARE(road->GetWidth(), 8.0);
+    road->SetWidth(0);
+    road->SetWidth(16);
+    QCOMPARE(exportSymbol(*road),
+             exportSymbol(*storedSymbol("{'type':'layeredLine','layers':[{'type':'simpleLine','width':4,'offset':6},"
+                                        "{'type':'dashLine','pattern':[12,4],'width':8}]}")));
+    road->SetWidth(1e-5);
+    QVERIFY(storedSymbol(exportSymbol(*road).toUtf8()));  // as small as it is, it is read again
   }
 
   // What is too fine for the pixels is as dark as it was, and what is seen covers what it should.
