@@ -3406,7 +3406,7 @@
     <name>OwnLibrary</name>
     <message>
         <source>My symbols</source>
-        <translation>Meine Symbole</translation>
+        <translation type="vanished">Meine Symbole</translation>
     </message>
 </context>
 <context>
@@ -3935,6 +3935,14 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Choose a File</source>
         <translation>Datei wählen</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>Eine Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Choose Colour</source>
+        <translation>Farbe wählen</translation>
     </message>
 </context>
 <context>

@@ -3406,7 +3406,7 @@
     <name>OwnLibrary</name>
     <message>
         <source>My symbols</source>
-        <translation>我的符号</translation>
+        <translation type="vanished">我的符号</translation>
     </message>
 </context>
 <context>
@@ -3935,6 +3935,14 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Choose a File</source>
         <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>Choose a colour</source>
+        <translation>选择颜色</translation>
+    </message>
+    <message>
+        <source>Choose Colour</source>
+        <translation>选择颜色</translation>
     </message>
 </context>
 <context>

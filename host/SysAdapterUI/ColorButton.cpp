@@ -5,10 +5,7 @@
 
 namespace SysAdapterUI {
 
-namespace {
-
-// A see-through colour lies on a pattern, so that it differs from a pale one.
-QPixmap swatch(QSize const& size, QColor const& color, QColor const& frame) {
+QPixmap colorIcon(QColor const& color, QColor const& frame, QSize const& size) {
   QPixmap pixmap(size);
   pixmap.fill(Qt::white);
   QPainter painter(&pixmap);
@@ -18,8 +15,6 @@ QPixmap swatch(QSize const& size, QColor const& color, QColor const& frame) {
   painter.drawRect(pixmap.rect().adjusted(0, 0, -1, -1));
   return pixmap;
 }
-
-}  // namespace
 
 ColorButton::ColorButton(QWidget* parent) : QPushButton(parent) {
   int const height = fontMetrics().height();
@@ -32,7 +27,7 @@ ColorButton::~ColorButton() = default;
 void ColorButton::setColor(QColor const& color) {
   color_ = color;
   QString const name = color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
-  setIcon(swatch(iconSize(), color, palette().color(QPalette::Dark)));
+  setIcon(colorIcon(color, palette().color(QPalette::Dark), iconSize()));
   setToolTip(name);
   setAccessibleDescription(name);
 }

@@ -16,7 +16,8 @@ public:
   virtual QStringList attributes() const { return {}; }
 
   /// Gives a field of all things shown another value. Answers a problem, with nothing changed, or an empty text.
-  virtual QString set(QStringList const& path, SysUtility::NewValue const& value) = 0;
+  /// Changes with the same `joining` that follow each other quickly may be one; an empty text is joined with none.
+  virtual QString set(QStringList const& path, SysUtility::NewValue const& value, QString const& joining) = 0;
 };
 
 }  // namespace SysAdapterUI

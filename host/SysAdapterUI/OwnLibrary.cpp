@@ -2,7 +2,6 @@
 
 #include "host/SysDisplay/StyleLibrary.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -17,9 +16,7 @@ using SysDisplay::StyleLibrary;
 
 namespace {
 
-struct Texts {
-  Q_DECLARE_TR_FUNCTIONS(OwnLibrary)
-};
+QString const category = QStringLiteral("My symbols");  // in the file, whatever the language of the texts
 
 }  // namespace
 
@@ -37,7 +34,6 @@ QString saveToOwnLibrary(QString const& name, SysUtility::_ptr_t<SysDisplay::Sym
     library = *known;
   }
   QDir().mkpath(QFileInfo(file).path());
-  QString const category = Texts::tr("My symbols");
   auto own = std::find_if(library.categories.begin(), library.categories.end(),
                           [&](StyleCategory const& one) { return one.name == category; });
   if (own == library.categories.end()) own = library.categories.insert(own, {category, {}});

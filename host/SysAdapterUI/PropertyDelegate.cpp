@@ -71,7 +71,8 @@ void PropertyDelegate::updateEditorGeometry(QWidget* editor, QStyleOptionViewIte
 // With room for an editor.
 QSize PropertyDelegate::sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const {
   QSize size = QStyledItemDelegate::sizeHint(option, index);
-  size.setHeight(std::max(size.height(), QComboBox().sizeHint().height()));
+  static int const editorHeight = QComboBox().sizeHint().height();
+  size.setHeight(std::max(size.height(), editorHeight));
   return size;
 }
 

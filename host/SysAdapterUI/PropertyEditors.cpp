@@ -3,23 +3,26 @@
 #include "ColorButton.h"
 
 #include "host/SysUtility/JsonFile.h"
+#include "host/SysUtility/ScaleText.h"
 
+#include <QAction>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QCompleter>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QLocale>
 #include <QPlainTextEdit>
+#include <QStyle>
 #include <QTimer>
-#include <QToolButton>
 
 #include <cmath>
+#include <limits>
 
 namespace SysAdapterUI {
 
@@ -43,6 +46,7 @@ class LineField : public FieldEditor {
 public:
   LineField(FieldInfo const& info, QLineEdit* edit) : FieldEditor(edit), info_(info), edit_(edit) {
     edit->setFrame(false);
+    edit->setMaxLength(std::numeric_limits<int>::max());  // a line may have any count of points
     if (isNumber()) edit->installEventFilter(this);
   }
 
@@ -58,7 +62,9 @@ public:
   QJsonValue value() const override {
     if (isList()) return list();
     if (!isNumber()) return edit_->text();
-    auto const number = numberIn(edit_->text());
+    bool const isScale = info_.rules.range.unit == Unit::ScaleDenominator;
+    auto const scale = isScale ? SysUtility::scaleDenominatorOf(edit_->text()) : std::nullopt;
+    auto const number = scale ? scale : numberIn(edit_->text());
     return number ? QJsonValue(*number) : QJsonValue(edit_->text());
   }
 
@@ -129,7 +135,7 @@ public:
   QString text() const override { return edit_->toPlainText(); }
   QJsonValue value() const override {
     if (info_.kind != Kind::Texts) return text();
-    return QJsonArray::fromStringList(text().split(QLatin1Char('\n'), Qt::SkipEmptyParts));
+    return QJsonArray::fromStringList(text().isEmpty() ? QStringList() : text().split(QLatin1Char('\n')));
   }
 
 protected:
@@ -179,44 +185,27 @@ private:
   int shown_ = -1;
 };
 
-// A text that a button helps to enter.
-class ButtonField final : public FieldEditor {
+// A text that a button in its field helps to enter.
+class ButtonField final : public LineField {
 public:
-  ButtonField(FieldInfo const& info, QWidget* widget) : FieldEditor(widget), kind_(info.rules.textKind) {
-    auto* const box = new QHBoxLayout(widget);
-    box->setContentsMargins(0, 0, 0, 0);
-    box->setSpacing(1);
-    edit_ = new QLineEdit(widget);
-    edit_->setFrame(false);
-    box->addWidget(edit_, 1);
-    widget->setAutoFillBackground(true);
-    widget->setFocusProxy(edit_);
-    if (kind_ == TextKind::Color) {
-      color_ = new ColorButton(widget);
-      box->addWidget(color_);
-      connect(color_, &ColorButton::colorChosen, this, [this](QColor const& chosen) {
-        take(chosen.name(chosen.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb));
-      });
-    } else {
-      auto* const button = new QToolButton(widget);
-      button->setText(QStringLiteral("…"));
-      button->setAccessibleName(FieldEditor::tr("Choose a file"));
-      button->setToolTip(button->accessibleName());
-      box->addWidget(button);
-      connect(button, &QToolButton::clicked, this, &ButtonField::chooseFile);
-    }
-    if (kind_ == TextKind::Svg) edit_->setReadOnly(true);
+  ButtonField(FieldInfo const& info, QLineEdit* edit) : LineField(info, edit), kind_(info.rules.textKind), edit_(edit) {
+    bool const isColor = kind_ == TextKind::Color;
+    QString const help = isColor ? FieldEditor::tr("Choose a colour") : FieldEditor::tr("Choose a file");
+    button_ = edit->addAction(edit->style()->standardIcon(QStyle::SP_DirOpenIcon), QLineEdit::TrailingPosition);
+    button_->setShortcut(Qt::ALT + Qt::Key_Down);
+    button_->setToolTip(QStringLiteral("%1 (%2)").arg(help, button_->shortcut().toString(QKeySequence::NativeText)));
+    button_->setShortcutContext(Qt::WidgetShortcut);
+    edit->setReadOnly(kind_ == TextKind::Svg);
+    connect(button_, &QAction::triggered, this, [this, isColor] { isColor ? chooseColor() : chooseFile(); });
   }
 
   void show(QVariant const& value) override {
     text_ = value.toString();
-    edit_->setText(kind_ == TextKind::Svg ? FieldEditor::tr("%1 characters").arg(text_.size()) : text_);
-    edit_->selectAll();
-    edit_->setModified(false);
-    if (color_) color_->setColor(QColor(text_));
     isTaken_ = false;
+    LineField::show(kind_ == TextKind::Svg ? FieldEditor::tr("%1 characters").arg(text_.size()) : text_);
+    if (kind_ == TextKind::Color) button_->setIcon(colorIcon(QColor(text_), edit_->palette().color(QPalette::Dark)));
   }
-  bool isChanged() const override { return isTaken_ || edit_->isModified(); }
+  bool isChanged() const override { return isTaken_ || LineField::isChanged(); }
   QString text() const override { return kind_ == TextKind::Svg ? text_ : edit_->text(); }
   QJsonValue value() const override { return text(); }
 
@@ -228,10 +217,16 @@ private:
     emit finished();
   }
 
+  void chooseColor() {
+    QColor const chosen = QColorDialog::getColor(QColor(edit_->text()), edit_, FieldEditor::tr("Choose Colour"),
+                                                 QColorDialog::ShowAlphaChannel);
+    if (chosen.isValid()) take(chosen.name(chosen.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb));
+  }
+
   void chooseFile() {
     QString const filter = kind_ == TextKind::Svg ? FieldEditor::tr("Pictures (*.svg)") : QString();
     QString const path =
-        QFileDialog::getOpenFileName(&widget(), FieldEditor::tr("Choose a File"), QFileInfo(text_).path(), filter);
+        QFileDialog::getOpenFileName(edit_, FieldEditor::tr("Choose a File"), QFileInfo(text_).path(), filter);
     if (path.isEmpty()) return;
     if (kind_ != TextKind::Svg) return take(path);
     QFile file(path);
@@ -239,8 +234,8 @@ private:
   }
 
   TextKind const kind_;
-  QLineEdit* edit_ = nullptr;
-  ColorButton* color_ = nullptr;
+  QLineEdit* const edit_;
+  QAction* button_ = nullptr;
   QString text_;
   bool isTaken_ = false;
 };
@@ -260,7 +255,7 @@ FieldEditor* FieldEditor::create(FieldInfo const& info, QStringList const& sugge
   if (info.kind == Kind::Choice || info.kind == Kind::Variant) return new ChoiceField(info, new QComboBox(parent));
   if (info.kind == Kind::Texts || (isText && info.rules.textKind == TextKind::Lines))
     return new LinesField(info, new QPlainTextEdit(parent));
-  if (isText && hasButton(info.rules.textKind)) return new ButtonField(info, new QWidget(parent));
+  if (isText && hasButton(info.rules.textKind)) return new ButtonField(info, new QLineEdit(parent));
   auto* const line = new QLineEdit(parent);
   if (!suggestions.isEmpty()) {
     auto* const completer = new QCompleter(suggestions, line);

@@ -12,8 +12,11 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPalette>
+#include <QTimer>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace SysAdapterUI {
 
@@ -86,9 +89,10 @@ QJsonArray withPart(QJsonArray numbers, Part part, double value, int anchor) {
   }
   double const from = numbers.at(low).toDouble(), to = numbers.at(low + 2).toDouble();
   if (part == Part::X || part == Part::Y) {
-    double const by = value - partOf(numbers, part, anchor);
-    numbers[low] = from + by;
-    numbers[low + 2] = to + by;
+    // The side that is measured has the very value.
+    double const share = isAcross ? placeOf(anchor).x() : placeOf(anchor).y(), length = to - from;
+    numbers[low] = share == 1 ? value - length : value - share * length;
+    numbers[low + 2] = share == 1 ? value : value + (1 - share) * length;
   } else {
     double const share = isAcross ? placeOf(anchor).x() : placeOf(anchor).y();
     double const fixed = from + share * (to - from);
@@ -172,7 +176,8 @@ struct PropertyModel::Node {
   Node* parent = nullptr;
   int place = 0;
   std::vector<std::unique_ptr<Node>> children;
-  QString refused, problem;  // empty where nothing was refused
+  QString refused, problem;           // empty where nothing was refused
+  mutable std::optional<QIcon> icon;  // of a symbol, once it was asked for
 
   // One that there is.
   bool isSymbol() const {
@@ -199,10 +204,15 @@ struct PropertyModel::Node {
 
   // What was refused stays.
   void takeValues(Node const& other) {
+    if (isSymbol() && SysUtility::wholeValue(field) != SysUtility::wholeValue(other.field)) icon.reset();
     field = other.field;
     for (size_t i = 0; i < children.size(); ++i) children[i]->takeValues(*other.children[i]);
   }
 };
+
+QString PropertyModel::nameOf(Node const& node) {
+  return QStringLiteral("%1#%2").arg(node.path.join(QLatin1Char('/'))).arg(static_cast<int>(node.part));
+}
 
 PropertyModel::PropertyModel(QObject* parent) : QAbstractItemModel(parent), root_(std::make_unique<Node>()) {}
 PropertyModel::~PropertyModel() = default;
@@ -216,6 +226,7 @@ void PropertyModel::setSource(FieldSource* source) {
 }
 
 void PropertyModel::refresh() {
+  isStale_ = false;
   auto fresh = std::make_unique<Node>();
   if (source_) build(*fresh, source_->fields());
   if (fresh->isShapedAs(*root_)) {
@@ -346,7 +357,7 @@ QVariant PropertyModel::check(Node const& node) const {
 }
 
 QVariant PropertyModel::display(Node const& node) const {
-  if (!node.problem.isEmpty()) return node.refused;
+  if (!node.problem.isEmpty() && !node.refused.isEmpty()) return node.refused;
   Kind const kind = node.field.info.kind;
   if (isMixed(node) && kind != Kind::Flag) return tr("mixed");
   if (node.part == Part::Anchor) return tr(anchors[anchor_].caption);
@@ -361,6 +372,7 @@ QVariant PropertyModel::data(QModelIndex const& index, int role) const {
   Node const& node = nodeAt(index);
   if (role == ProblemRole) return node.problem;
   if (role == PathRole) return node.path;
+  if (role == NameRole) return nameOf(node);
   bool const isPart = node.part != Part::Field;
   if (role == HelpRole || role == Qt::WhatsThisRole)
     return isPart ? tr(node.field.info.field.help) : translatedField(node.field.info.field.help);
@@ -372,7 +384,7 @@ QVariant PropertyModel::data(QModelIndex const& index, int role) const {
   }
   switch (role) {
     case Qt::DisplayRole: return display(node);
-    case Qt::EditRole: return node.problem.isEmpty() ? valueOf(node).toVariant() : node.refused;
+    case Qt::EditRole: return node.refused.isEmpty() ? valueOf(node).toVariant() : node.refused;
     case Qt::CheckStateRole: return check(node);
     case Qt::ForegroundRole:
       if (!node.problem.isEmpty()) return QColor(0xc0, 0x20, 0x20);
@@ -381,22 +393,29 @@ QVariant PropertyModel::data(QModelIndex const& index, int role) const {
       if (isMixed(node)) return {};
       if (node.field.info.kind == Kind::Text && node.field.info.rules.textKind == TextKind::Color)
         return QColor(node.field.value.toString());
-      return node.isSymbol() ? symbolIcon(node.field) : QVariant();
+      if (!node.isSymbol()) return {};
+      if (!node.icon) node.icon = symbolIcon(node.field);
+      return *node.icon;
     default: return {};
   }
 }
 
-bool PropertyModel::change(Node& node, NewValue const& value, QString const& shown) {
+bool PropertyModel::change(Node& node, NewValue const& value, QString const& shown, QString const& joining) {
   if (!source_) return false;
-  node.problem = source_->set(node.path, value);
+  node.problem = source_->set(node.path, value, joining);
   node.refused = node.problem.isEmpty() ? QString() : shown;
-  if (node.problem.isEmpty()) {
-    refresh();  // which may be the end of the node
-    return true;
-  }
   QModelIndex const index = indexOf(node, ValueColumn);
   emit dataChanged(index, index);
-  return false;
+  if (node.problem.isEmpty()) refreshSoon();
+  return node.problem.isEmpty();
+}
+
+// A view asks for a change in the middle of what it does with the index.
+void PropertyModel::refreshSoon() {
+  if (std::exchange(isStale_, true)) return;
+  QTimer::singleShot(0, this, [this] {
+    if (isStale_) refresh();
+  });
 }
 
 QStringList PropertyModel::suggestions(QModelIndex const& index) const {
@@ -409,7 +428,7 @@ bool PropertyModel::take(QModelIndex const& index, QJsonValue const& value, QStr
   Node& node = nodeAt(index);
   if (node.part == Part::Field)
     return change(
-        node, [&](QJsonValue const&) { return value; }, shown);
+        node, [&](QJsonValue const&) { return value; }, shown, nameOf(node));
   if (node.part == Part::Anchor) {
     anchor_ = std::clamp(value.toInt(), 0, 8);
     emit dataChanged(indexOf(*node.parent->children.front(), 0), indexOf(*node.parent->children.back(), ValueColumn));
@@ -421,7 +440,7 @@ bool PropertyModel::take(QModelIndex const& index, QJsonValue const& value, QStr
       [&, part = node.part](QJsonValue const& now) {
         return value.isDouble() ? QJsonValue(withPart(now.toArray(), part, value.toDouble(), anchor_)) : value;
       },
-      shown);
+      shown, nameOf(node));
 }
 
 bool PropertyModel::setData(QModelIndex const& index, QVariant const& value, int role) {
@@ -436,44 +455,48 @@ bool PropertyModel::setData(QModelIndex const& index, QVariant const& value, int
         if (!isOn) return QJsonValue(QJsonValue::Null);
         return now.isObject() ? now : QJsonValue(QJsonObject());
       },
-      QString());
+      QString(), QString());
 }
 
 QModelIndex PropertyModel::addEntry(QModelIndex const& index) {
-  Node* const node = &nodeAt(index);
-  Node* const list = node->isEntry ? node->parent : node;
-  QStringList const path = list->path;
-  int const count = static_cast<int>(list->children.size());
-  QString problem =
-      source_ ? source_->set(path + QStringList(QStringLiteral("-")), [](QJsonValue const&) { return QJsonObject(); })
+  Node& node = nodeAt(index);
+  Node& list = node.isEntry ? *node.parent : node;
+  QStringList const path = list.path;
+  int const count = static_cast<int>(list.children.size());
+  list.problem =
+      source_ ? source_->set(
+                    path + QStringList(QStringLiteral("-")), [](QJsonValue const&) { return QJsonObject(); }, QString())
               : QString();
-  list->problem = problem;
-  list->refused.clear();
   refresh();
-  return indexOf(path + QStringList(QString::number(count)));
+  QModelIndex const added = indexOf(path + QStringList(QString::number(count)));
+  return added.isValid() ? added : indexOf(path);
 }
 
 void PropertyModel::removeEntry(QModelIndex const& index) {
   Node& node = nodeAt(index);
-  if (node.isEntry)
-    change(
-        node, [](QJsonValue const&) { return QJsonValue(QJsonValue::Null); }, QString());
+  if (!node.isEntry) return;
+  if (change(
+          node, [](QJsonValue const&) { return QJsonValue(QJsonValue::Null); }, QString(), QString()))
+    refresh();
 }
 
 QModelIndex PropertyModel::moveEntry(QModelIndex const& index, int by) {
   Node& node = nodeAt(index);
   int const from = node.place, to = from + by;
-  if (!node.isEntry || to < 0 || to >= static_cast<int>(node.parent->children.size())) return index;
+  if (!node.isEntry || !source_ || to < 0 || to >= static_cast<int>(node.parent->children.size())) return index;
   QStringList const path = node.parent->path;
-  bool const isDone = change(
-      *node.parent,
-      [&](QJsonValue const& now) {
-        QJsonArray list = now.toArray();
-        list.insert(to, list.takeAt(from));
-        return QJsonValue(list);
-      },
-      QString());
-  return indexOf(path + QStringList(QString::number(isDone ? to : from)));
+  auto const move = [&](QJsonValue const& now) {
+    QJsonArray list = now.toArray();
+    list.insert(to, list.takeAt(from));
+    return QJsonValue(list);
+  };
+  node.problem = source_->set(path, move, QString());
+  if (!node.problem.isEmpty()) {
+    emit dataChanged(indexOf(node, ValueColumn), indexOf(node, ValueColumn));
+    return index;
+  }
+  refresh();
+  return indexOf(path + QStringList(QString::number(to)));
 }
 
 }  // namespace SysAdapterUI

@@ -19,7 +19,7 @@ class SYSADAPTERUI_EXPORT PropertyModel final : public QAbstractItemModel {
 
 public:
   enum Column { CaptionColumn, ValueColumn };
-  enum Role { ProblemRole = Qt::UserRole, HelpRole, PathRole };
+  enum Role { ProblemRole = Qt::UserRole, HelpRole, PathRole, NameRole };  // a name that no other row has
 
   /// What a row stands for.
   struct Row {
@@ -50,7 +50,7 @@ public:
   QStringList suggestions(QModelIndex const& index) const;
 
   /// Takes a value as a document has it. False, with `ProblemRole` saying why, where it is refused; `shown` is what
-  /// then stays in the row.
+  /// then stays in the row. The rows follow once the caller is done, since they may be others then.
   bool take(QModelIndex const& index, QJsonValue const& value, QString const& shown);
 
   // Entries of lists; `index` is the list or one of its entries. A new one comes last, and is answered.
@@ -73,6 +73,7 @@ public:
 
 private:
   struct Node;
+  static QString nameOf(Node const& node);
   Node& nodeAt(QModelIndex const& index) const;
   QModelIndex indexOf(Node const& node, int column) const;
   void build(Node& parent, QVector<SysUtility::SheetField> const& fields);
@@ -81,9 +82,11 @@ private:
   QVariant check(Node const& node) const;
   QJsonValue valueOf(Node const& node) const;
   bool isMixed(Node const& node) const;
-  bool change(Node& node, SysUtility::NewValue const& value, QString const& shown);
+  bool change(Node& node, SysUtility::NewValue const& value, QString const& shown, QString const& joining);
+  void refreshSoon();
 
   FieldSource* source_ = nullptr;
+  bool isStale_ = false;
   int anchor_ = 6;  // of nine, row by row from the upper left: the lower left corner
   std::unique_ptr<Node> root_;
 };

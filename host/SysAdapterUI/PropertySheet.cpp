@@ -7,9 +7,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace SysAdapterUI {
 
@@ -18,9 +21,7 @@ namespace {
 constexpr int marginPx = 4;
 constexpr int linesOfANote = 3;
 
-QString nameOf(QModelIndex const& index) {
-  return index.data(PropertyModel::PathRole).toStringList().join(QLatin1Char('/'));
-}
+QString nameOf(QModelIndex const& index) { return index.data(PropertyModel::NameRole).toString(); }
 
 template <class Use>
 void forEach(QAbstractItemModel const& model, QModelIndex const& parent, Use const& use) {
@@ -61,11 +62,10 @@ PropertySheet::PropertySheet(QWidget* parent)
   filter_->setFilterKeyColumn(PropertyModel::CaptionColumn);
   build();
   connect(search_, &QLineEdit::textChanged, this, [this](QString const& text) {
+    if (!isSearching_) keepState();
+    isSearching_ = !text.isEmpty();
     filter_->setFilterFixedString(text);
-    if (text.isEmpty())
-      restoreState();
-    else
-      view_->expandAll();
+    restoreState();
   });
   connect(model_, &QAbstractItemModel::modelAboutToBeReset, this, &PropertySheet::keepState);
   connect(model_, &QAbstractItemModel::modelReset, this, &PropertySheet::restoreState);
@@ -99,9 +99,11 @@ void PropertySheet::build() {
   search_->setObjectName(QStringLiteral("lineEdit_Search"));
 
   auto* const delegate = new PropertyDelegate(view_);
-  connect(
-      delegate, &PropertyDelegate::symbolWanted, this,
-      [this](QModelIndex const& index) { emit symbolWanted(filter_->mapToSource(index)); }, Qt::QueuedConnection);
+  connect(delegate, &PropertyDelegate::symbolWanted, this, [this](QModelIndex const& index) {
+    // Out of the event in which the view asked, and once where a click and what it activates both did.
+    wanted_ = model_->row(filter_->mapToSource(index)).path;
+    QTimer::singleShot(0, this, &PropertySheet::askForSymbol);
+  });
   view_->setObjectName(QStringLiteral("treeView_Properties"));
   view_->setAccessibleName(tr("Properties"));
   view_->setModel(filter_);
@@ -110,6 +112,7 @@ void PropertySheet::build() {
   view_->setAlternatingRowColors(true);
   view_->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed |
                          QAbstractItemView::DoubleClicked);
+  view_->setUniformRowHeights(true);
   view_->setIndentation(12);
   view_->header()->setSectionResizeMode(PropertyModel::CaptionColumn, QHeaderView::Interactive);
   view_->header()->setStretchLastSection(true);
@@ -132,6 +135,12 @@ void PropertySheet::build() {
   box->addWidget(view_, 1);
   box->addLayout(buttons);
   box->addWidget(note_);
+}
+
+void PropertySheet::askForSymbol() {
+  if (wanted_.isEmpty()) return;
+  QModelIndex const index = model_->indexOf(std::exchange(wanted_, {}));
+  if (index.isValid()) emit symbolWanted(index);
 }
 
 void PropertySheet::show(FieldSource* source) { model_->setSource(source); }
@@ -166,20 +175,21 @@ void PropertySheet::showCurrent() {
 }
 
 void PropertySheet::keepState() {
-  if (!search_->text().isEmpty() || filter_->rowCount() == 0) return;
+  if (isSearching_ || filter_->rowCount() == 0) return;
   forEach(*filter_, {}, [this](QModelIndex const& index) {
     if (view_->isExpanded(index))
       open_ << nameOf(index);
     else
       open_.remove(nameOf(index));
   });
-  currentPath_ = nameOf(view_->currentIndex());
+  currentName_ = nameOf(view_->currentIndex());
 }
 
 void PropertySheet::restoreState() {
+  if (isSearching_) view_->expandAll();
   forEach(*filter_, {}, [this](QModelIndex const& index) {
-    if (open_.contains(nameOf(index))) view_->expand(index);
-    if (!currentPath_.isEmpty() && nameOf(index) == currentPath_)
+    if (!isSearching_) view_->setExpanded(index, open_.contains(nameOf(index)));
+    if (!currentName_.isEmpty() && nameOf(index) == currentName_)
       view_->setCurrentIndex(index.siblingAtColumn(PropertyModel::ValueColumn));
   });
   showCurrent();

@@ -39,6 +39,7 @@ signals:
 private:
   void build();
   void showCurrent();
+  void askForSymbol();
   void keepState();
   void restoreState();
   QModelIndex current() const;
@@ -51,8 +52,10 @@ private:
   QTreeView* view_;
   QLabel* note_;
   QToolButton *add_, *remove_, *up_, *down_;
-  QSet<QString> open_;  // paths
-  QString currentPath_;
+  QSet<QString> open_;  // names of rows
+  QString currentName_;
+  QStringList wanted_;  // the path of the symbol that is to be chosen
+  bool isSearching_ = false;
 };
 
 }  // namespace SysAdapterUI

@@ -70,17 +70,14 @@ void StyleBrowser::build() {
 }
 
 void StyleBrowser::connectParts() {
-  connect(search_, &QLineEdit::textChanged, this, [this](QString const& text) {
-    filter_->setWords(text);
-    keepChoice();
-  });
+  connect(search_, &QLineEdit::textChanged, this,
+          [this](QString const& text) { narrow([&] { filter_->setWords(text); }); });
   connect(categories_, &QListWidget::currentRowChanged, this, [this](int row) {
-    filter_->setCategory(row > 0 ? categories_->item(row)->text() : QString());
-    keepChoice();
+    narrow([&] { filter_->setCategory(row > 0 ? categories_->item(row)->text() : QString()); });
   });
   connect(grid_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
     showChoice();
-    emit currentChanged();
+    if (!isNarrowing_) emit chosen();
   });
   connect(grid_, &QListView::activated, this, &StyleBrowser::accepted);
   auto* const find = new QShortcut(QKeySequence::Find, this);
@@ -144,8 +141,11 @@ void StyleBrowser::choose(int row) {
 }
 
 // A choice that the filter has hidden gives way to the first item that is shown.
-void StyleBrowser::keepChoice() {
+void StyleBrowser::narrow(std::function<void()> const& filter) {
+  isNarrowing_ = true;
+  filter();
   if (!grid_->currentIndex().isValid() && filter_->rowCount() > 0) grid_->setCurrentIndex(filter_->index(0, 0));
+  isNarrowing_ = false;
   showChoice();
 }
 

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QLabel;
 class QLineEdit;
 class QListView;
@@ -28,7 +30,8 @@ public:
   SysUtility::_ptr_t<SysDisplay::Symbol> current() const;
 
 signals:
-  void currentChanged();
+  /// The person has gone to another symbol; a search that hides the current one is no choice.
+  void chosen();
 
   /// The symbol was chosen for good: by a double click, or the key Enter.
   void accepted();
@@ -41,7 +44,7 @@ private:
   void connectParts();
   void listCategories();
   void choose(int row);
-  void keepChoice();
+  void narrow(std::function<void()> const& filter);
   void showChoice();
 
   StyleItemModel* const model_;
@@ -51,6 +54,7 @@ private:
   QListView* const grid_;
   QLabel* const chosen_;
   QLabel* const problems_;
+  bool isNarrowing_ = false;
 };
 
 }  // namespace SysAdapterUI

@@ -91,7 +91,7 @@ SymbolChooser::SymbolChooser(_ptr_t<Symbol> const& symbol, QStringList kinds, QC
   browser_->show(classOf(*symbol_), symbol_);
   sheet_->show(this);
   preview_->show(symbol_);
-  connect(browser_, &StyleBrowser::currentChanged, this, &SymbolChooser::takeFromLibrary);
+  connect(browser_, &StyleBrowser::chosen, this, &SymbolChooser::takeFromLibrary);
   connect(browser_, &StyleBrowser::accepted, this, &QDialog::accept);
   connect(sheet_, &PropertySheet::symbolWanted, this, &SymbolChooser::chooseInner);
 }
@@ -131,7 +131,7 @@ QVector<SysUtility::SheetField> SymbolChooser::fields() {
   return sheet.fields();
 }
 
-QString SymbolChooser::set(QStringList const& path, SysUtility::NewValue const& value) {
+QString SymbolChooser::set(QStringList const& path, SysUtility::NewValue const& value, QString const&) {
   QJsonObject const json = jsonOf(*symbol_);
   if (path == QStringList(QStringLiteral("type"))) {
     auto const other =
@@ -173,7 +173,9 @@ void SymbolChooser::saveToLibrary() {
   if (name.isEmpty()) return;
   QString const problem = saveToOwnLibrary(name, symbol_);
   if (!problem.isEmpty()) {
-    QMessageBox::critical(this, tr("Save to Library"), problem);
+    QMessageBox box(QMessageBox::Critical, tr("Save to Library"), problem, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
     return;
   }
   QSignalBlocker const quiet(browser_);
@@ -189,7 +191,9 @@ void chooseSymbol(PropertyModel& model, QModelIndex const& index, QColor const& 
   QStringList kinds;
   for (SysUtility::Choice const& kind : row.field->fields.first().info.choices) kinds << QString::fromUtf8(kind.name);
   SymbolChooser dialog(symbol, kinds, background, parent);
-  if (dialog.exec() == QDialog::Accepted) model.take(index, jsonOf(*dialog.symbol()), QString());
+  if (dialog.exec() != QDialog::Accepted) return;
+  QModelIndex const now = model.indexOf(row.path);
+  if (now.isValid()) model.take(now, jsonOf(*dialog.symbol()), QString());
 }
 
 }  // namespace SysAdapterUI

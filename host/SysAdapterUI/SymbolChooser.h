@@ -33,7 +33,7 @@ private:
   class Preview;
 
   QVector<SysUtility::SheetField> fields() override;
-  QString set(QStringList const& path, SysUtility::NewValue const& value) override;
+  QString set(QStringList const& path, SysUtility::NewValue const& value, QString const& joining) override;
   void build();
   void showSymbol(SysUtility::_ptr_t<SysDisplay::Symbol> const& symbol);
   void takeFromLibrary();

@@ -314,7 +314,8 @@ void GradientFillSettings::list(Fields& fields) {
   fields.list(
       {"stops", QT_TRANSLATE_NOOP("Fields", "Colours"),
        QT_TRANSLATE_NOOP("Fields", "The colours of the gradient, from its beginning to its end."), "stop"},
-      gradient.stops, stopCounts, [&](Fields& own, GradientStop& stop, int) {
+      gradient.stops, stopCounts, [&](Fields& own, GradientStop& stop, int index) {
+        if (own.isReading()) stop = GradientFillSymbol().gradient().stops.value(std::min(index, 1));
         own.number(
             {"position", QT_TRANSLATE_NOOP("Fields", "Position"),
              QT_TRANSLATE_NOOP("Fields",

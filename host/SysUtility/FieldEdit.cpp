@@ -136,6 +136,9 @@ FieldChange changeField(Fields::Describe const& list, Fields::Describe const& re
   if (now == wanted) return change;
 
   QJsonObject const whole = withValue(writer.json(), path, wanted, change.problem);
+  QString const name = dotted(whole, path);
+  // What can't be written would be lost with the change of another field.
+  if (change.problem.isEmpty() && !writer.ok() && !writer.error().startsWith(name)) change.problem = writer.error();
   if (!change.problem.isEmpty()) return change;
   auto const readFrom = [&](QJsonObject const& json) {
     JsonReader reader(json);
@@ -151,9 +154,9 @@ FieldChange changeField(Fields::Describe const& list, Fields::Describe const& re
     QJsonObject const bare{{path.last(), wanted}};
     unknown = readFrom(withValue(writer.json(), path.mid(0, path.size() - 1), bare, none));
   }
-  QString const name = dotted(whole, path);
   for (QString const& other : unknown)
-    if (name == other || name.startsWith(other + QLatin1Char('.'))) change.problem = unknownField(sheet.fields(), path);
+    if (name == other || name.startsWith(other + QLatin1Char('.')) || name.startsWith(other + QLatin1Char('[')))
+      change.problem = unknownField(sheet.fields(), path);
   change.isChange = change.problem.isEmpty();
   return change;
 }

@@ -133,6 +133,7 @@ void LayoutView::resizeEvent(QResizeEvent*) {
 void LayoutView::mousePressEvent(QMouseEvent* event) {
   if (!tool_ || !layout_ || dragging_ != Qt::NoButton || event->button() == Qt::RightButton) return;
   dragging_ = event->button();
+  emit pressed();
   tool_->OnMouseDown(event);
   emit viewChanged();
 }

@@ -4,9 +4,9 @@
 #include "Icons.h"
 #include "NoticeBar.h"
 #include "PropertyPanel.h"
-#include "ScaleText.h"
 
 #include "host/SysCarto/maps/MapSteps.h"
+#include "host/SysUtility/ScaleText.h"
 
 #include <SysCarto/Map.h>
 
@@ -25,6 +25,7 @@
 #include <QVBoxLayout>
 
 using SysUtility::_ptr_t;
+using SysUtility::scaleDenominatorOf;
 
 namespace {
 
@@ -197,6 +198,7 @@ void MainWindow::buildProperties() {
   properties_ = new PropertyPanel(bench_.session(), this);
   addDockWidget(Qt::RightDockWidgetArea, properties_);
   resizeDocks({properties_}, {propertiesWidthPx}, Qt::Horizontal);
+  connect(&bench_.views().layoutView(), &ViewWidget::pressed, properties_, &PropertyPanel::showSelection);
   connect(contents_, &SysAdapterUI::TOCControl::RowChosen, properties_, &PropertyPanel::showRow);
   connect(properties_, &PropertyPanel::told, notice_,
           [this](QString const& sentence) { notice_->tell(sentence, false); });
@@ -237,7 +239,7 @@ void MainWindow::documentReplaced() {
   actions_->refreshSoon();
 }
 
-// Data frames come and go with the steps of the history, and with them their maps; so do layers.
+// Data frames come and go with the steps of the history, and with them their maps.
 void MainWindow::listMaps() {
   QList<_ptr_t<SysCarto::Map>> maps;
   bench_.session().document().GetMaps(maps);

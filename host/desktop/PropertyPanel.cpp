@@ -76,6 +76,12 @@ void PropertyPanel::follow() {
     map_ = nullptr;
     layer_ = nullptr;
   }
+  QList<SysUtility::_ptr_t<SysCarto::Map>> maps;
+  session_.document().GetMaps(maps);
+  if (!maps.contains(map_) || (layer_ && !map_->GetLayers().contains(layer_))) {  // gone, by undo or a template
+    map_ = nullptr;
+    layer_ = nullptr;
+  }
   if (!isVisible()) return;
   things_ = chosen();
   sheet_->setTitle(titleOf(things_));
@@ -85,13 +91,15 @@ void PropertyPanel::follow() {
   moment_ = now;
   // A map is zoomed within one step. To look at many elements takes a while, and the wheel comes here, too.
   if (isKnown) {
-    if (isLater || things_.size() == 1) sheet_->refresh();
+    if (isLater || (map_ && !layer_)) sheet_->refresh();
     return;
   }
   shown_ = shown;
   last_ = {};
   sheet_->show(this);
 }
+
+void PropertyPanel::showSelection() { showRow(nullptr, nullptr); }
 
 void PropertyPanel::showRow(SysUtility::_ptr_t<SysCarto::Map> const& map,
                             SysUtility::_ptr_t<SysCarto::Layer> const& layer) {
@@ -114,17 +122,17 @@ QVector<SheetField> PropertyPanel::fields() {
   return SysUtility::commonFields(Editable::fields(session_.document(), things_));
 }
 
-QString PropertyPanel::set(QStringList const& path, SysUtility::NewValue const& value) {
+QString PropertyPanel::set(QStringList const& path, SysUtility::NewValue const& value, QString const& joining) {
   QUndoStack* const history = MapDocumentHost::history(session_.document());
-  bool const isQuick = path == last_.path && last_.step >= 0 && history->index() == last_.step && history->canUndo() &&
-                       last_.clock.isValid() && last_.clock.elapsed() < quickMs;
+  bool const isQuick = !joining.isEmpty() && joining == last_.joining && history->index() == last_.step &&
+                       history->canUndo() && last_.clock.isValid() && last_.clock.elapsed() < quickMs;
   if (isQuick) history->undo();
   QStringList warnings;
   int const before = history->index();
   QString const problem = Editable::set(session_.document(), things_, path, value, warnings);
   if (isQuick && !problem.isEmpty()) history->redo();
   if (problem.isEmpty()) {
-    last_.path = history->index() == before ? QStringList() : path;
+    last_.joining = history->index() == before ? QString() : joining;
     last_.step = history->index();
     last_.clock.restart();
   }

@@ -23,7 +23,11 @@ public:
   /// Shows what is selected now, with its values as they are. Cheap where the panel is hidden.
   void follow();
 
-  /// A row of the contents is current: of a map, or of one of its layers. Another selection on the page ends that.
+  /// Ends what a row of the contents has begun.
+  void showSelection();
+
+  /// A row of the contents is current: of a map, or of one of its layers. `showSelection` or another selection ends
+  /// that.
   void showRow(SysUtility::_ptr_t<SysCarto::Map> const& map, SysUtility::_ptr_t<SysCarto::Layer> const& layer);
 
 signals:
@@ -38,7 +42,7 @@ private:
   QStringList attributes() const override {
     return things_.size() == 1 ? things_.first()->attributes() : QStringList();
   }
-  QString set(QStringList const& path, SysUtility::NewValue const& value) override;
+  QString set(QStringList const& path, SysUtility::NewValue const& value, QString const& joining) override;
   SysCarto::Editable::List chosen() const;
   QString titleOf(SysCarto::Editable::List const& things) const;
   QList<SysCarto::ElementHandle> selection() const;
@@ -64,7 +68,7 @@ private:
 
   // The change before, while one of the same field soon after is the same step.
   struct Last {
-    QStringList path;
+    QString joining;
     int step = -1;  // of the history, after it
     QElapsedTimer clock;
   };

@@ -4,10 +4,10 @@
 #include "DocumentLock.h"
 #include "DocumentReport.h"
 #include "ImageFormat.h"
-#include "ScaleText.h"
 
 #include "host/SysCarto/maps/MapSteps.h"
 #include "host/SysUtility/JsonFile.h"
+#include "host/SysUtility/ScaleText.h"
 
 #include <SysCarto/Map.h>
 
@@ -23,6 +23,7 @@
 using SysCarto::Map;
 using SysCarto::MapSteps;
 using SysUtility::_ptr_t;
+using SysUtility::scaleDenominatorOf;
 using SysUtility::SheetField;
 
 namespace {

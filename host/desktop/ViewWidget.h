@@ -38,6 +38,9 @@ signals:
   /// The view was asked to redraw, or a person has done something in it: states that depend on it may have changed.
   void viewChanged();
 
+  /// A button of the mouse goes down for the current tool.
+  void pressed();
+
   /// The mouse is at this place, in pixels.
   void pointed(QPoint const& positionPx);
   void left();

@@ -150,6 +150,7 @@ private slots:
     QVERIFY(!model.take(model.indexOf(QStringList("type")), "markerLine", QString()));
     QCOMPARE(ptr_cast<SysDisplay::LineSymbol>(chooser.symbol())->GetWidth(), 3.5);
     QVERIFY(model.take(model.indexOf(QStringList("type")), "layeredLine", QString()));  // with itself as a layer
+    model.refresh();
     QCOMPARE(model.data(model.indexOf({"layers", "0", "width"}), Qt::DisplayRole).toString().left(3), QString("3.5"));
     QVERIFY(model.take(model.indexOf(QStringList("type")), "simpleLine", QString()));
     QCOMPARE(ptr_cast<SysDisplay::LineSymbol>(chooser.symbol())->GetWidth(), 3.5);

@@ -141,6 +141,11 @@ private slots:
     auto const history = page.bench.session().document().GetOperationStack();
     QCOMPARE(history->GetUndoName(), QString("Set rectangle of 2 elements"));
 
+    // One soon after the other, and still two.
+    QVERIFY(model.take(indexNamed(model, {"rectangle", "X"}), 4, QString()));
+    QVERIFY(model.take(indexNamed(model, {"rectangle", "Y"}), 5, QString()));
+    QCOMPARE(page.place(*b), QRectF(3, 4.5, 2, 1));
+
     // What is refused by one changes none, and stays in its row.
     QByteArray const before = MapDocumentHost::text(page.bench.session().document());
     QVERIFY(!model.take(indexNamed(model, {"rectangle", "Height"}), 1e13, "1e13"));
@@ -162,6 +167,35 @@ private slots:
     panel.follow();
     QVERIFY(!indexNamed(model, {"rectangle", "Rectangle"}).isValid());
     QVERIFY(indexNamed(model, {"name", "Name"}).isValid());
+  }
+
+  void entriesComeAndGoOneByOne() {
+    WorkbenchPage page;
+    QVERIFY(page.bench.session().open(path("start.kdx")));
+    PropertyPanel panel(page.bench.session(), nullptr);
+    panel.show();
+    auto& sheet = *panel.findChild<PropertySheet*>();
+    auto& model = sheet.model();
+    auto& view = sheet.view();
+    auto const count = [&] { return model.rowCount(model.indexOf({"renderer", "classes"}).siblingAtColumn(0)); };
+    int row = 0;
+    for (; titleOf(panel) != "Layer Cities"; ++row) QVERIFY(show(panel, page, row));
+    int const before = count();
+    for (int i = 0; i < 2; ++i) model.addEntry(model.indexOf({"renderer", "classes"}));
+    QCOMPARE(count(), before + 2);
+    for (int i = 0; i < 2; ++i) model.removeEntry(model.indexOf({"renderer", "classes", QString::number(before)}));
+    QCOMPARE(count(), before);
+    QModelIndex const last = model.indexOf({"renderer", "classes", QString::number(before - 1)});
+    QCOMPARE(model.moveEntry(last, 1), last);
+
+    // A key in the middle of a view's work changes which rows there are.
+    QVERIFY(show(panel, page, 0));
+    view.setCurrentIndex(static_cast<QSortFilterProxyModel*>(view.model())->mapFromSource(model.indexOf({"border"})));
+    for (int i = 0; i < 2; ++i) {
+      bool const isThere = model.indexOf({"border", "gap"}).isValid();
+      QTest::keyClick(&view, Qt::Key_Space);
+      QTRY_COMPARE(model.indexOf({"border", "gap"}).isValid(), !isThere);
+    }
   }
 
   void aThousandElementsAreShownAtOnce() {

@@ -5,7 +5,7 @@
 #include "host/desktop/BoxTitles.h"
 #include "host/desktop/CommandCatalogue.h"
 #include "host/desktop/Icons.h"
-#include "host/desktop/ScaleText.h"
+#include "host/SysUtility/ScaleText.h"
 
 using SysCarto::MapDocumentHost;
 
@@ -239,7 +239,7 @@ private slots:
   void aScaleIsReadInTheMannerOfAnyLanguage() {
     auto const [denominator] = fetched<double>();
     QString const text = QString(QTest::currentDataTag()).remove("no scale: ");
-    QCOMPARE(scaleDenominatorOf(text).value_or(0), denominator);
+    QCOMPARE(SysUtility::scaleDenominatorOf(text).value_or(0), denominator);
   }
 
   void theMapMovesInItsFrame() {

@@ -7,6 +7,7 @@
 #include "MapSettings.h"
 
 #include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/layout/MapFrameHost.h"
 #include "host/SysCarto/maps/ValueStep.h"
 #include "host/SysDisplay/SymbolFields.h"
 
@@ -76,6 +77,10 @@ protected:
     if (made && made->GetHandle() != handle_) reader.fail("handle", Texts::tr("can't be changed"));
     return [this, made, told = context.warnings](QString const&, QStringList& warnings) {
       warnings += told;
+      auto const former = SysUtility::ptr_cast<MapFrameElement>(find());
+      auto const frame = SysUtility::ptr_cast<MapFrameElement>(made);
+      // A lock is no part of the history, but for one that is set here.
+      if (former && frame && former->IsLocked() == frame->IsLocked()) MapFrameHost::shareLock(*frame, *former);
       elementsOf(document_)->ReplaceElement(handle_, made);
     };
   }
@@ -113,13 +118,15 @@ protected:
     Settings settings = uses_.of(*target_, context);  // a size of one's own begins with the sheet's
     settings.list(reader);
     return [this, settings, context](QString const& step, QStringList& warnings) {
-      auto const whole = std::make_shared<DocumentContext>(context);
-      auto const put = [apply = uses_.apply, whole](Target& target, Settings const& value) {
-        apply(target, value, *whole);
+      auto const told = std::make_shared<QStringList>();
+      auto const put = [apply = uses_.apply, context, told](Target& target, Settings const& value) {
+        DocumentContext own = context;
+        apply(target, value, own);
+        *told = own.warnings;
       };
       takeStep(std::make_unique<ValueStep<Target, Settings>>(step, -1, *target_, uses_.of(*target_, context), settings,
                                                              put));
-      warnings += whole->warnings;
+      warnings += *told;
     };
   }
 
@@ -248,11 +255,12 @@ Editable::List Editable::named(MapDocument const& document, QString const& text)
 QString Editable::set(MapDocument const& document, List const& things, QStringList const& path,
                       SysUtility::NewValue const& value, QStringList& warnings) {
   if (things.isEmpty() || path.isEmpty()) return Texts::tr("there is no field to set");
-  DocumentContext const context = contextOf(document);
+  DocumentContext context = contextOf(document);
   QVector<Change> changes;
   QString what = path.join(QLatin1Char('/'));
   for (Pointer const& thing : things) {
     Change read;
+    QSet<int> framedMaps = context.framedMaps;
     auto const list = [&](Fields& fields) {
       DocumentContext own = context;
       thing->list(fields, own);
@@ -263,18 +271,23 @@ QString Editable::set(MapDocument const& document, List const& things, QStringLi
         [&](Fields& fields) {
           DocumentContext own = context;
           read = thing->read(fields, own);
+          framedMaps = own.framedMaps;
         },
         wanted.path, wanted.value, [&] { return thing->attributes(); });
     if (!change.problem.isEmpty()) return change.problem;
     if (change.isChange) changes << read;
+    context.framedMaps = framedMaps;  // one map is in one frame, among those that are changed here, too
     if (change.caption) what = inSentence(change.caption);
   }
   if (changes.isEmpty()) return QString();
   QString const whose = things.size() == 1 ? things.first()->name() : Texts::tr("%1 elements").arg(things.size());
   QString const step = Texts::tr("Set %1 of %2").arg(what, whose);
+  QUndoStack* const history = changes.size() > 1 ? EditorHost::history() : nullptr;
+  if (history) history->beginMacro(step);
   Editor::Instance()->StartOperation(step);
   for (Change const& change : qAsConst(changes)) change(step, warnings);
   Editor::Instance()->StopOperation();
+  if (history) history->endMacro();
   return QString();
 }
 

@@ -52,7 +52,7 @@ void MapSettings::list(Fields& fields) {
 
 void MapSettings::applyTo(Map& map, QStringList& warnings) const {
   MapSettings const former = of(map);
-  bool const isElsewhere = coordinateSystem != former.coordinateSystem;
+  bool const isElsewhere = coordinateSystem.trimmed() != former.coordinateSystem;
   double shown[4];
   std::copy(bounds, bounds + 4, shown);
   if (isElsewhere && std::equal(bounds, bounds + 4, former.bounds))

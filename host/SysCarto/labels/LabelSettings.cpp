@@ -55,6 +55,7 @@ void LabelSettings::list(Fields& fields) {
       {"classes", QT_TRANSLATE_NOOP("Fields", "Classes"),
        QT_TRANSLATE_NOOP("Fields", "Letters of their own for features of a higher priority."), "labelClass"},
       classes, maxClasses, [this](Fields& own, LabelClass& one, int index) {
+        if (own.isReading() && index > 0) one.minimum = classes[index - 1].minimum + 1;  // of a class that says nothing
         own.number({"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
                     QT_TRANSLATE_NOOP("Fields", "The lowest priority of the class, above that of the class before.")},
                    one.minimum, {-farthest, farthest});

@@ -27,13 +27,13 @@ QList<LegendClass> Layer::legendClasses() const { return {}; }
 QString Layer::GetName() const { return d->name; }
 void Layer::SetName(QString const& name) { d->change.set(d->name, name); }
 void Layer::SetVisible(bool visible) {
+  if (visible != d->visible) LayerHost::changeLook(*this);
   d->change.set(d->visible, visible);
-  LayerHost::changeLook(*this);
 }
 void Layer::SetScaleRange(double minDenominator, double maxDenominator) {
-  LayerHost::changeLook(*this);
   ScaleRange scales;
   scales.set(minDenominator, maxDenominator);
+  if (scales.min != d->scales.min || scales.max != d->scales.max) LayerHost::changeLook(*this);
   d->change.set(d->scales.min, scales.min);
   d->change.set(d->scales.max, scales.max);
 }

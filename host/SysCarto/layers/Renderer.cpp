@@ -75,6 +75,7 @@ void listValues(Fields& fields, std::vector<SymbolClass>& classes) {
 
 void listMinima(Fields& fields, std::vector<SymbolClass>& classes) {
   fields.list(classesOf("rangeClass"), classes, maxClasses, [&](Fields& own, SymbolClass& one, int index) {
+    if (own.isReading() && index > 0) one.minimum = classes[index - 1].minimum + 1;  // of a class that says nothing
     own.number(
         {"minimum", QT_TRANSLATE_NOOP("Fields", "From"),
          QT_TRANSLATE_NOOP(

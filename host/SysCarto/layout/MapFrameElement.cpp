@@ -1,3 +1,4 @@
+#include "MapFrameHost.h"
 #include "MapPicture.h"
 
 #include "host/SysCarto/elements/ElementHost.h"
@@ -75,6 +76,10 @@ void MapFrameElement::SetLocked(bool locked) {
   if (locked == *d->locked) return;
   *d->locked = locked;
   changed();
+}
+
+void MapFrameHost::shareLock(MapFrameElement& frame, MapFrameElement const& former) {
+  frame.d->locked = former.d->locked;
 }
 
 int MapFrameElement::GetType() const { return ElementType::DataFrame; }

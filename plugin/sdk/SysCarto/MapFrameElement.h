@@ -47,6 +47,7 @@ private:
   void handleChanged() override;
   void containerChanged() override;
 
+  friend struct MapFrameHost;
   struct Private;
   std::unique_ptr<Private> d;
 };

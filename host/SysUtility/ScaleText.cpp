@@ -3,6 +3,8 @@
 #include <QLocale>
 #include <QRegularExpression>
 
+namespace SysUtility {
+
 namespace {
 
 constexpr double minDenominator = 0.01, maxDenominator = 1e10;
@@ -55,3 +57,5 @@ std::optional<double> scaleDenominatorOf(QString const& text) {
   if (!isNumber || !(denominator >= minDenominator && denominator <= maxDenominator)) return std::nullopt;
   return denominator;
 }
+
+}  // namespace SysUtility
