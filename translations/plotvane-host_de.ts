@@ -4180,7 +4180,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>%1 entries</source>
-        <translation>%1 Einträge</translation>
+        <translation type="vanished">%1 Einträge</translation>
     </message>
     <message>
         <source>none</source>

@@ -4180,7 +4180,7 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
     <message>
         <source>%1 entries</source>
-        <translation>%1 项</translation>
+        <translation type="vanished">%1 项</translation>
     </message>
     <message>
         <source>none</source>

@@ -8,9 +8,6 @@
 
 namespace SysAdapterUI {
 
-using SysUtility::FieldInfo;
-using Kind = FieldInfo::Kind;
-
 namespace {
 
 struct Place {
@@ -31,10 +28,6 @@ PropertyDelegate::~PropertyDelegate() = default;
 QWidget* PropertyDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const&, QModelIndex const& index) const {
   Place const place = Place::of(index);
   auto const row = place.model.row(place.index);
-  if (row.field->info.kind == Kind::Object) {  // only a symbol can be edited as a whole
-    emit symbolWanted(index);
-    return nullptr;
-  }
   FieldEditor* const editor = FieldEditor::create(row.field->info, place.model.suggestions(place.index), parent);
   QString const caption = index.siblingAtColumn(PropertyModel::CaptionColumn).data().toString();
   editor->widget().setAccessibleName(caption);
@@ -44,6 +37,7 @@ QWidget* PropertyDelegate::createEditor(QWidget* parent, QStyleOptionViewItem co
     emit self->commitData(&editor->widget());
     emit self->closeEditor(&editor->widget());
   });
+  emit editing();
   return &editor->widget();
 }
 

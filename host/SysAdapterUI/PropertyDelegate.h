@@ -23,8 +23,8 @@ public:
   QSize sizeHint(QStyleOptionViewItem const& option, QModelIndex const& index) const override;
 
 signals:
-  /// The symbol of this row is to be chosen among others.
-  void symbolWanted(QModelIndex const& index) const;
+  /// A value begins to be edited.
+  void editing() const;
 };
 
 }  // namespace SysAdapterUI

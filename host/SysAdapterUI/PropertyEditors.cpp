@@ -2,7 +2,6 @@
 
 #include "ColorButton.h"
 
-#include "host/SysUtility/JsonFile.h"
 #include "host/SysUtility/ScaleText.h"
 
 #include <QAction>
@@ -18,6 +17,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QTimer>
 
@@ -97,20 +97,35 @@ private:
 
   bool isList() const { return info_.kind == Kind::Coordinates || info_.kind == Kind::NumberList; }
 
+  // Between semicolons as they are shown, between commas as JSON has them, or between blanks.
   QJsonValue list() const {
-    QJsonDocument const list = QJsonDocument::fromJson('[' + edit_->text().toUtf8() + ']');
-    return list.isArray() ? QJsonValue(list.array()) : QJsonValue(edit_->text());
+    QString const text = edit_->text();
+    QJsonDocument const json = QJsonDocument::fromJson('[' + text.toUtf8() + ']');
+    if (json.isArray()) return json.array();
+    static QRegularExpression const blanks(QStringLiteral("\\s+"));
+    QJsonArray list;
+    for (QString const& part : text.contains(QLatin1Char(';')) ? text.split(QLatin1Char(';')) : text.split(blanks)) {
+      auto const number = numberIn(part);
+      if (!number) return text;
+      list.append(*number);
+    }
+    return list;
   }
 
   QString shown(QVariant const& value) const {
     if (isList() && value.type() == QVariant::List) {
-      QString const list = SysUtility::jsonLine(QJsonValue::fromVariant(value));
-      return list.mid(1, list.size() - 2);
+      QStringList numbers;
+      for (QVariant const& number : value.toList()) numbers << numberText(number.toDouble());
+      return numbers.join(QStringLiteral("; "));
     }
     if (!isNumber() || value.type() == QVariant::String) return value.toString();
+    return numberText(value.toDouble());
+  }
+
+  static QString numberText(double number) {
     QLocale locale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+    return locale.toString(number, 'g', QLocale::FloatingPointShortest);
   }
 
   FieldInfo const info_;
@@ -163,6 +178,7 @@ public:
                    isNamed ? QVariant(QString::fromUtf8(choice.name)) : QVariant(choice.value));
     }
     box->setCurrentIndex(-1);
+    QTimer::singleShot(0, box, [box] { box->showPopup(); });  // in which keys choose nothing for good
     connect(box, QOverload<int>::of(&QComboBox::activated), this, [this] {
       isChosen_ = true;
       emit finished();

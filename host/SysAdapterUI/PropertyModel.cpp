@@ -1,5 +1,6 @@
 #include "PropertyModel.h"
 
+#include "ColorButton.h"
 #include "SymbolPreview.h"
 
 #include "host/SysDisplay/SymbolFields.h"
@@ -121,6 +122,29 @@ QIcon symbolIcon(SheetField const& field) {
   return picture;
 }
 
+// What tells an entry of a list from the others: its first values.
+QString summary(SheetField const& entry) {
+  QStringList texts;
+  for (SheetField const& field : entry.fields) {
+    bool const isValue = field.info.kind != Kind::Object && field.info.kind != Kind::List &&
+                         field.info.kind != Kind::Flag && !field.value.isUndefined();
+    QString const text = isValue ? readable(field.info, field.value) : QString();
+    if (!text.isEmpty()) texts << text;
+  }
+  return QStringList(texts.mid(0, 2)).join(QStringLiteral(" · "));
+}
+
+// The symbol of an entry, or the row's own.
+SheetField const* symbolIn(SheetField const& field) {
+  if (field.info.kind != Kind::Object || !field.isPresent) return nullptr;
+  if (SysDisplay::isSymbol(field.info.field)) return &field;
+  bool const isEntry = !field.info.field.caption || field.value.isUndefined();
+  for (SheetField const& inner : field.fields)
+    if (isEntry && inner.info.kind == Kind::Object && inner.isPresent && SysDisplay::isSymbol(inner.info.field))
+      return &inner;
+  return nullptr;
+}
+
 }  // namespace
 
 QString unitText(Unit unit) {
@@ -204,7 +228,7 @@ struct PropertyModel::Node {
 
   // What was refused stays.
   void takeValues(Node const& other) {
-    if (isSymbol() && SysUtility::wholeValue(field) != SysUtility::wholeValue(other.field)) icon.reset();
+    if (icon && SysUtility::wholeValue(field) != SysUtility::wholeValue(other.field)) icon.reset();
     field = other.field;
     for (size_t i = 0; i < children.size(); ++i) children[i]->takeValues(*other.children[i]);
   }
@@ -361,7 +385,8 @@ QVariant PropertyModel::display(Node const& node) const {
   Kind const kind = node.field.info.kind;
   if (isMixed(node) && kind != Kind::Flag) return tr("mixed");
   if (node.part == Part::Anchor) return tr(anchors[anchor_].caption);
-  if (kind == Kind::List) return tr("%1 entries").arg(static_cast<int>(node.children.size()));
+  if (kind == Kind::List) return QString::number(node.children.size());
+  if (node.isEntry) return summary(node.field);
   if (kind == Kind::Object && !node.field.isPresent) return tr("none");
   if (node.isSymbol()) return readable(node.field.fields.first().info, node.field.fields.first().value);
   return readable(node.field.info, valueOf(node));
@@ -392,17 +417,33 @@ QVariant PropertyModel::data(QModelIndex const& index, int role) const {
     case Qt::DecorationRole:
       if (isMixed(node)) return {};
       if (node.field.info.kind == Kind::Text && node.field.info.rules.textKind == TextKind::Color)
-        return QColor(node.field.value.toString());
-      if (!node.isSymbol()) return {};
-      if (!node.icon) node.icon = symbolIcon(node.field);
+        return colorIcon(QColor(node.field.value.toString()), qApp->palette().color(QPalette::Mid), {14, 14});
+      if (!symbolIn(node.field)) return {};
+      if (!node.icon) node.icon = symbolIcon(*symbolIn(node.field));
       return *node.icon;
     default: return {};
   }
 }
 
+namespace {
+
+// The field of a sentence is the row, where it is that very one.
+QString withoutPath(QString const& problem, QStringList const& path) {
+  QString name;
+  for (QString const& step : path) {
+    bool isNumber = false;
+    step.toInt(&isNumber);
+    name += isNumber ? QLatin1Char('[') + step + QLatin1Char(']') : (name.isEmpty() ? step : QLatin1Char('.') + step);
+  }
+  QString const prefix = name + QStringLiteral(": ");
+  return problem.startsWith(prefix) ? problem.mid(prefix.size()) : problem;
+}
+
+}  // namespace
+
 bool PropertyModel::change(Node& node, NewValue const& value, QString const& shown, QString const& joining) {
   if (!source_) return false;
-  node.problem = source_->set(node.path, value, joining);
+  node.problem = withoutPath(source_->set(node.path, value, joining), node.path);
   node.refused = node.problem.isEmpty() ? QString() : shown;
   QModelIndex const index = indexOf(node, ValueColumn);
   emit dataChanged(index, index);
@@ -448,14 +489,29 @@ bool PropertyModel::setData(QModelIndex const& index, QVariant const& value, int
   Node& node = nodeAt(index);
   bool const isOn = value.toInt() == Qt::Checked;
   bool const isObject = node.field.info.kind == Kind::Object;
-  return change(
-      node,
-      [=](QJsonValue const& now) {
-        if (!isObject) return QJsonValue(isOn);
-        if (!isOn) return QJsonValue(QJsonValue::Null);
-        return now.isObject() ? now : QJsonValue(QJsonObject());
-      },
-      QString(), QString());
+  auto const isSet = [&](QJsonValue const& fresh) {
+    return change(
+        node,
+        [=](QJsonValue const& now) {
+          if (!isObject) return QJsonValue(isOn);
+          if (!isOn) return QJsonValue(QJsonValue::Null);
+          return now.isObject() ? now : fresh;
+        },
+        QString(), QString());
+  };
+  // What is drawn with a symbol begins with one, to be seen.
+  bool const mayHaveSymbol = isObject && isOn && !SysDisplay::isSymbol(node.field.info.field);
+  if (mayHaveSymbol && isSet(QJsonObject{{QStringLiteral("symbol"), QJsonObject()}})) return true;
+  return isSet(QJsonObject());
+}
+
+bool PropertyModel::isSymbol(QModelIndex const& index) const { return index.isValid() && nodeAt(index).isSymbol(); }
+
+void PropertyModel::forget(QModelIndex const& index) {
+  Node& node = nodeAt(index);
+  node.problem.clear();
+  node.refused.clear();
+  emit dataChanged(indexOf(node, ValueColumn), indexOf(node, ValueColumn));
 }
 
 QModelIndex PropertyModel::addEntry(QModelIndex const& index) {

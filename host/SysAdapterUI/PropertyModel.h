@@ -53,6 +53,12 @@ public:
   /// then stays in the row. The rows follow once the caller is done, since they may be others then.
   bool take(QModelIndex const& index, QJsonValue const& value, QString const& shown);
 
+  /// Drops a value that was refused.
+  void forget(QModelIndex const& index);
+
+  /// Whether the row is that of a symbol, which is chosen as a whole.
+  bool isSymbol(QModelIndex const& index) const;
+
   // Entries of lists; `index` is the list or one of its entries. A new one comes last, and is answered.
 
   QModelIndex addEntry(QModelIndex const& index);

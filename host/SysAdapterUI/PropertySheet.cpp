@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
@@ -69,19 +70,21 @@ PropertySheet::PropertySheet(QWidget* parent)
   });
   connect(model_, &QAbstractItemModel::modelAboutToBeReset, this, &PropertySheet::keepState);
   connect(model_, &QAbstractItemModel::modelReset, this, &PropertySheet::restoreState);
+  // What was not followed while a value was being edited is followed now.
+  connect(view_->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+          [this] { QTimer::singleShot(0, this, &PropertySheet::refresh); });
   connect(model_, &QAbstractItemModel::dataChanged, this, &PropertySheet::showCurrent);
   connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &PropertySheet::showCurrent);
   connect(view_, &QTreeView::clicked, this, [this](QModelIndex const& index) {
-    if (index.flags() & Qt::ItemIsEditable) view_->edit(index);
+    if (index.column() == PropertyModel::ValueColumn) open(index);
   });
-  connect(view_, &QTreeView::activated, this, [this](QModelIndex const& index) {
-    QModelIndex const value = index.siblingAtColumn(PropertyModel::ValueColumn);
-    if (value.flags() & Qt::ItemIsEditable) view_->edit(value);
-  });
+  connect(view_, &QTreeView::activated, this, &PropertySheet::open);
+  view_->installEventFilter(this);
   connect(add_, &QToolButton::clicked, this, [this] { makeCurrent(model_->addEntry(current())); });
   connect(remove_, &QToolButton::clicked, this, [this] { model_->removeEntry(current()); });
   connect(up_, &QToolButton::clicked, this, [this] { makeCurrent(model_->moveEntry(current(), -1)); });
   connect(down_, &QToolButton::clicked, this, [this] { makeCurrent(model_->moveEntry(current(), 1)); });
+  setFocusProxy(view_);
   showCurrent();
 }
 
@@ -99,11 +102,7 @@ void PropertySheet::build() {
   search_->setObjectName(QStringLiteral("lineEdit_Search"));
 
   auto* const delegate = new PropertyDelegate(view_);
-  connect(delegate, &PropertyDelegate::symbolWanted, this, [this](QModelIndex const& index) {
-    // Out of the event in which the view asked, and once where a click and what it activates both did.
-    wanted_ = model_->row(filter_->mapToSource(index)).path;
-    QTimer::singleShot(0, this, &PropertySheet::askForSymbol);
-  });
+  connect(delegate, &PropertyDelegate::editing, this, &PropertySheet::editing);
   view_->setObjectName(QStringLiteral("treeView_Properties"));
   view_->setAccessibleName(tr("Properties"));
   view_->setModel(filter_);
@@ -137,17 +136,50 @@ void PropertySheet::build() {
   box->addWidget(note_);
 }
 
-void PropertySheet::askForSymbol() {
-  if (wanted_.isEmpty()) return;
-  QModelIndex const index = model_->indexOf(std::exchange(wanted_, {}));
-  if (index.isValid()) emit symbolWanted(index);
+// Out of the event in which the view asks, and once where a click and what it activates both do.
+void PropertySheet::open(QModelIndex const& index) {
+  QModelIndex const value = index.siblingAtColumn(PropertyModel::ValueColumn);
+  if (value.flags() & Qt::ItemIsEditable) return view_->edit(value);
+  if (!model_->isSymbol(filter_->mapToSource(value))) return;
+  wanted_ = model_->row(filter_->mapToSource(value)).path;
+  QTimer::singleShot(0, this, [this] {
+    QModelIndex const symbol = wanted_.isEmpty() ? QModelIndex() : model_->indexOf(std::exchange(wanted_, {}));
+    if (symbol.isValid()) emit symbolWanted(symbol);
+  });
+}
+
+// Keys that mean something here are not those of the window: Del is about an entry, and no element of the page.
+bool PropertySheet::eventFilter(QObject* watched, QEvent* event) {
+  bool const isOverride = event->type() == QEvent::ShortcutOverride;
+  if (watched != view_ || (!isOverride && event->type() != QEvent::KeyPress))
+    return QWidget::eventFilter(watched, event);
+  auto const* const key = static_cast<QKeyEvent*>(event);
+  bool const isProblem = !current().data(PropertyModel::ProblemRole).toString().isEmpty();
+  bool const isOwn = key->matches(QKeySequence::Delete) || key->matches(QKeySequence::SelectAll) ||
+                     key->key() == Qt::Key_F2 || (key->key() == Qt::Key_Escape && isProblem);
+  if (!isOwn) return QWidget::eventFilter(watched, event);
+  event->accept();
+  if (isOverride) return true;
+  if (key->key() == Qt::Key_F2) open(view_->currentIndex());
+  if (key->key() == Qt::Key_Escape) model_->forget(current());
+  if (key->matches(QKeySequence::Delete)) model_->removeEntry(current());
+  return true;
+}
+
+bool PropertySheet::isEditing() const { return view_->indexWidget(view_->currentIndex()) != nullptr; }
+
+void PropertySheet::finish() {
+  QWidget* const editor = view_->indexWidget(view_->currentIndex());
+  if (!editor) return;
+  emit view_->itemDelegate()->commitData(editor);
+  emit view_->itemDelegate()->closeEditor(editor);
 }
 
 void PropertySheet::show(FieldSource* source) { model_->setSource(source); }
 void PropertySheet::setTitle(QString const& title) { title_->setText(title); }
 
 void PropertySheet::refresh() {
-  if (!view_->indexWidget(view_->currentIndex())) model_->refresh();
+  if (!isEditing()) model_->refresh();
 }
 
 QModelIndex PropertySheet::current() const { return filter_->mapToSource(view_->currentIndex()); }
@@ -171,10 +203,13 @@ void PropertySheet::showCurrent() {
   note_->setPalette(colors);
   bool const isList = index.isValid() && row.isList();
   add_->setEnabled(isList || row.isEntry);
-  for (QToolButton* const one : {remove_, up_, down_}) one->setEnabled(row.isEntry);
+  remove_->setEnabled(row.isEntry);
+  up_->setEnabled(row.isEntry && index.row() > 0);
+  down_->setEnabled(row.isEntry && index.row() + 1 < model_->rowCount(index.parent()));
 }
 
 void PropertySheet::keepState() {
+  hadFocus_ = view_->hasFocus() || (isEditing() && view_->indexWidget(view_->currentIndex())->hasFocus());
   if (isSearching_ || filter_->rowCount() == 0) return;
   forEach(*filter_, {}, [this](QModelIndex const& index) {
     if (view_->isExpanded(index))
@@ -192,6 +227,7 @@ void PropertySheet::restoreState() {
     if (!currentName_.isEmpty() && nameOf(index) == currentName_)
       view_->setCurrentIndex(index.siblingAtColumn(PropertyModel::ValueColumn));
   });
+  if (std::exchange(hadFocus_, false)) view_->setFocus();
   showCurrent();
 }
 

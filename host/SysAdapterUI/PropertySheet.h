@@ -29,17 +29,28 @@ public:
   /// Shows the values as they are now, unless one is being edited.
   void refresh();
 
+  bool isEditing() const;
+
+  /// Takes the value that is being edited.
+  void finish();
+
   PropertyModel& model() { return *model_; }
   QTreeView& view() { return *view_; }
 
 signals:
+  /// A value begins to be edited.
+  void editing();
+
   /// The symbol of this row is to be chosen among others.
   void symbolWanted(QModelIndex const& index);
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
   void build();
   void showCurrent();
-  void askForSymbol();
+  void open(QModelIndex const& index);
   void keepState();
   void restoreState();
   QModelIndex current() const;
@@ -56,6 +67,7 @@ private:
   QString currentName_;
   QStringList wanted_;  // the path of the symbol that is to be chosen
   bool isSearching_ = false;
+  bool hadFocus_ = false;  // before the rows became others
 };
 
 }  // namespace SysAdapterUI

@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -122,7 +123,7 @@ void SymbolChooser::build() {
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(halves, 1);
   layout->addWidget(buttons);
-  resize(980, 640);
+  resize(QSize(980, 640).boundedTo(0.9 * screen()->availableSize()));
 }
 
 QVector<SysUtility::SheetField> SymbolChooser::fields() {

@@ -155,7 +155,10 @@ TOCControl::TOCControl(QWidget* parent) : QWidget(parent), d(std::make_unique<Pr
       if (auto const* const row = dynamic_cast<MapItem*>(item)) emit MapChosen(row->map);
       tellRow(item);
     });
-  connect(d->tree, &QTreeWidget::currentItemChanged, this, &TOCControl::tellRow);
+  // The first one becomes current when the keys come here, which nobody has chosen.
+  connect(d->tree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item, QTreeWidgetItem* former) {
+    if (former) tellRow(item);
+  });
 }
 
 TOCControl::~TOCControl() = default;

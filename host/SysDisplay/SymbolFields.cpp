@@ -2,6 +2,7 @@
 
 #include "SymbolSettings.h"
 
+#include "host/SysUtility/FieldEdit.h"
 #include "host/SysUtility/JsonFields.h"
 
 #include <QJsonArray>
@@ -131,7 +132,7 @@ bool isSymbol(Field const& field) {
 }
 
 _ptr_t<Symbol> symbolOf(QJsonObject const& json) {
-  JsonReader reader(json);
+  JsonReader reader(SysUtility::withoutNulls(json).toObject());
   _ptr_t<Symbol> symbol;
   listOwnSymbolOf(reader, symbol, isA<Symbol>);
   return reader.ok() ? symbol : nullptr;

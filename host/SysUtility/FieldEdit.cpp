@@ -26,6 +26,23 @@ QJsonValue valueOf(QString const& typed, SheetField const* field) {
   return isJson ? parsed.first() : QJsonValue(typed);
 }
 
+QJsonValue withoutNulls(QJsonValue const& value) {
+  if (value.isArray()) {
+    QJsonArray list;
+    for (QJsonValue const& entry : value.toArray()) list.append(withoutNulls(entry));
+    return list;
+  }
+  if (!value.isObject()) return value;
+  QJsonObject object = value.toObject();
+  for (QString const& key : object.keys()) {
+    if (object.value(key).isNull())
+      object.remove(key);
+    else
+      object.insert(key, withoutNulls(object.value(key)));
+  }
+  return object;
+}
+
 namespace {
 
 QJsonValue changed(QJsonValue const& old, QStringList const& path, QJsonValue const& value, QString& problem);
@@ -45,24 +62,6 @@ QJsonValue changedList(QJsonArray list, QStringList const& path, QJsonValue cons
   else
     list.replace(*number, entry);
   return list;
-}
-
-// What is null in an object is missing there.
-QJsonValue withoutNulls(QJsonValue const& value) {
-  if (value.isArray()) {
-    QJsonArray list;
-    for (QJsonValue const& entry : value.toArray()) list.append(withoutNulls(entry));
-    return list;
-  }
-  if (!value.isObject()) return value;
-  QJsonObject object = value.toObject();
-  for (QString const& key : object.keys()) {
-    if (object.value(key).isNull())
-      object.remove(key);
-    else
-      object.insert(key, withoutNulls(object.value(key)));
-  }
-  return object;
 }
 
 QJsonValue changed(QJsonValue const& old, QStringList const& path, QJsonValue const& value, QString& problem) {
@@ -140,6 +139,7 @@ FieldChange changeField(Fields::Describe const& list, Fields::Describe const& re
   // What can't be written would be lost with the change of another field.
   if (change.problem.isEmpty() && !writer.ok() && !writer.error().startsWith(name)) change.problem = writer.error();
   if (!change.problem.isEmpty()) return change;
+  if (whole == writer.json()) return change;
   auto const readFrom = [&](QJsonObject const& json) {
     JsonReader reader(json);
     reader.complete(attributes);
@@ -155,7 +155,8 @@ FieldChange changeField(Fields::Describe const& list, Fields::Describe const& re
     unknown = readFrom(withValue(writer.json(), path.mid(0, path.size() - 1), bare, none));
   }
   for (QString const& other : unknown)
-    if (name == other || name.startsWith(other + QLatin1Char('.')) || name.startsWith(other + QLatin1Char('[')))
+    if (name == other || name.startsWith(other + QLatin1Char('.')) || name.startsWith(other + QLatin1Char('[')) ||
+        (wanted.isObject() && other.startsWith(name + QLatin1Char('.'))))
       change.problem = unknownField(sheet.fields(), path);
   change.isChange = change.problem.isEmpty();
   return change;

@@ -12,6 +12,9 @@ namespace SysUtility {
 /// What a person has typed for a field, null where it is not known: JSON, or the text itself where a text is asked for.
 SYSUTILITY_EXPORT QJsonValue valueOf(QString const& typed, SheetField const* field);
 
+/// The value with what is null in its objects left out, as a document has it.
+SYSUTILITY_EXPORT QJsonValue withoutNulls(QJsonValue const& value);
+
 /// Makes a field's new value of the one that it has, undefined for none.
 using NewValue = std::function<QJsonValue(QJsonValue const& now)>;
 

@@ -98,6 +98,7 @@ MainWindow::MainWindow()
   connect(&bench_.session(), &DocumentSession::replaced, this, &MainWindow::documentReplaced);
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
   connect(actions_.get(), &ActionTable::refreshed, properties_, &PropertyPanel::follow);
+  connect(properties_, &PropertyPanel::editing, actions_.get(), &ActionTable::refreshSoon);
   connect(properties_, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
   connectFiles();
   restoreState();
@@ -117,7 +118,9 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::addWindowCommands(HostCommands& host) {
-  auto const modified = [this] { return bench_.session().isModified() || bench_.session().path().isEmpty(); };
+  auto const modified = [this] {
+    return bench_.session().isModified() || bench_.session().path().isEmpty() || properties_->isEditing();
+  };
   auto const always = std::function<bool()>();
   host.add(QStringLiteral("Host_New"), {[this] { files_.create(); }, always, always});
   host.add(QStringLiteral("Host_Open"), {[this] { files_.open(); }, always, always});
@@ -125,8 +128,11 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   host.add(QStringLiteral("Host_SaveAs"), {[this] { files_.saveAs(); }, always, always});
   host.add(QStringLiteral("Host_Contents"), {[this] { contentsDock_->setVisible(!contentsDock_->isVisible()); }, always,
                                              [this] { return contentsDock_->isVisible(); }});
-  host.add(QStringLiteral("Host_Properties"), {[this] { properties_->setVisible(!properties_->isVisible()); }, always,
-                                               [this] { return properties_->isVisible(); }});
+  host.add(QStringLiteral("Host_Properties"), {[this] {
+                                                 properties_->setVisible(!properties_->isVisible());
+                                                 if (properties_->isVisible()) properties_->widget()->setFocus();
+                                               },
+                                               always, [this] { return properties_->isVisible(); }});
   host.add(QStringLiteral("Host_Quit"), {[this] { QTimer::singleShot(0, this, &QWidget::close); }, always, always});
   host.add(QStringLiteral("Host_About"), {[this] { showAbout(); }, always, always});
 }
@@ -170,6 +176,7 @@ void MainWindow::connectFiles() {
     files_.keep();
   });
   bench_.commands().setGuard([this](CommandEntry const& entry) {
+    properties_->finish();
     if (entry.identifier == QLatin1String("Plotvane_Export")) return files_.mayExport();
     return question_.mayRun(entry.identifier);
   });
@@ -300,6 +307,7 @@ void MainWindow::showAbout() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  properties_->finish();
   if (!files_.mayLeave()) return event->ignore();
   keepState();
   event->accept();

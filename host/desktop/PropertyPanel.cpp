@@ -25,6 +25,7 @@ PropertyPanel::PropertyPanel(DocumentSession& session, QWidget* parent)
     : QDockWidget(tr("Properties"), parent), session_(session), sheet_(new SysAdapterUI::PropertySheet(this)) {
   setObjectName(QStringLiteral("dockWidget_Properties"));
   setWidget(sheet_);
+  connect(sheet_, &SysAdapterUI::PropertySheet::editing, this, &PropertyPanel::editing);
   connect(sheet_, &SysAdapterUI::PropertySheet::symbolWanted, this, &PropertyPanel::chooseSymbol);
   connect(&session, &DocumentSession::replaced, this, [this] {
     map_ = nullptr;

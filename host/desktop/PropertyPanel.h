@@ -23,6 +23,11 @@ public:
   /// Shows what is selected now, with its values as they are. Cheap where the panel is hidden.
   void follow();
 
+  bool isEditing() const { return sheet_->isEditing(); }
+
+  /// Takes the value that is being edited.
+  void finish() { sheet_->finish(); }
+
   /// Ends what a row of the contents has begun.
   void showSelection();
 
@@ -31,6 +36,9 @@ public:
   void showRow(SysUtility::_ptr_t<SysCarto::Map> const& map, SysUtility::_ptr_t<SysCarto::Layer> const& layer);
 
 signals:
+  /// A value begins to be edited: there is something that could be saved.
+  void editing();
+
   /// What else is to be said of a change.
   void told(QString const& sentence);
 

@@ -7,6 +7,7 @@
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysDisplay/SymbolFields.h"
 #include "host/SysUtility/JsonFile.h"
+#include "host/desktop/MainWindow.h"
 #include "host/desktop/PropertyPanel.h"
 
 using SysAdapterUI::PropertyModel;
@@ -167,6 +168,28 @@ private slots:
     panel.follow();
     QVERIFY(!indexNamed(model, {"rectangle", "Rectangle"}).isValid());
     QVERIFY(indexNamed(model, {"name", "Name"}).isValid());
+  }
+
+  void whatIsBeingTypedIsTakenBeforeASave() {
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
+    put(path("typed.kdx"), contentOf(path("start.kdx")));
+    Person person;
+    person.accepts();  // the document has sources that are not there
+    MainWindow window;
+    window.show();
+    QVERIFY(window.open(path("typed.kdx")));
+    auto& sheet = *window.findChild<PropertySheet*>();
+    QAction* const save = window.actions().find("Host_Save");
+    QModelIndex const width = static_cast<QSortFilterProxyModel*>(sheet.view().model())
+                                  ->mapFromSource(indexNamed(sheet.model(), {"width", "Width"}));
+    QVERIFY(!save->isEnabled());
+    sheet.view().setCurrentIndex(width);
+    sheet.view().edit(width);
+    qobject_cast<QLineEdit*>(sheet.view().indexWidget(width))->insert("33");
+    QTRY_VERIFY(save->isEnabled());
+    save->trigger();
+    QCOMPARE(json(contentOf(path("typed.kdx")))["page"].toObject()["width"].toDouble(), 33.0);
   }
 
   void entriesComeAndGoOneByOne() {

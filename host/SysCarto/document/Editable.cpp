@@ -159,17 +159,21 @@ struct Wanted {
   SysUtility::NewValue value;
 };
 
-// A symbol that becomes one of layers is the lowest of them, and the lowest layer may become the symbol again.
+// What has another kind keeps what it can: a symbol that becomes one of layers is the lowest of them, and the other way
+// round; the symbol of a renderer goes on drawing.
 Wanted wantedOf(Fields::Describe const& list, QStringList const& path, SysUtility::NewValue const& value) {
   if (path.last() != QLatin1String("type")) return {path, value};
   FieldSheet sheet;
   list(sheet);
   QStringList const whole = path.mid(0, path.size() - 1);
   SheetField const* const parent = fieldAt(sheet.fields(), whole);
-  if (!parent || parent->info.kind != FieldInfo::Kind::Object || !SysDisplay::isSymbol(parent->info.field))
-    return {path, value};
+  if (!parent || parent->info.kind != FieldInfo::Kind::Object) return {path, value};
   QJsonObject const now = wholeValue(*parent).toObject();
-  QJsonObject const other = SysDisplay::layeredOrNot(now, value(now.value(path.last())).toString());
+  QString const kind = value(now.value(path.last())).toString();
+  QJsonObject other;
+  if (kind == now.value(path.last()).toString()) return {path, value};
+  if (SysDisplay::isSymbol(parent->info.field)) other = SysDisplay::layeredOrNot(now, kind);
+  if (parent->key() == QLatin1String("renderer")) other = rendererAs(now, kind);
   if (other.isEmpty()) return {path, value};
   return {whole, [other](QJsonValue const&) { return other; }};
 }

@@ -33,7 +33,7 @@ struct BackgroundSettings {
 
 struct ShadowSettings {
   SysUtility::_ptr_t<SysDisplay::FillSymbol> symbol;
-  double offset[2] = {0, 0};
+  double offset[2] = {2, -2};
   double rounding = 0;
 
   static ShadowSettings of(SymbolShadow const& shadow);

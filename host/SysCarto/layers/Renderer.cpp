@@ -3,6 +3,7 @@
 #include "host/SysDisplay/SymbolFields.h"
 
 #include <QHash>
+#include <QJsonArray>
 #include <QSet>
 
 #include <algorithm>
@@ -182,6 +183,18 @@ std::unique_ptr<Renderer> makeSimpleRenderer(_ptr_t<SysDisplay::Symbol> const& s
   RendererSettings settings;
   settings.classes.push_back({label, {}, 0, symbol});
   return makeRenderer(settings);
+}
+
+QJsonObject rendererAs(QJsonObject const& renderer, QString const& kind) {
+  QString const type = QStringLiteral("type"), symbol = QStringLiteral("symbol"), field = QStringLiteral("field");
+  QString const others = QStringLiteral("defaultSymbol"), simple = QLatin1String(kinds[0].name);
+  QJsonValue drawn = renderer.value(symbol);
+  if (!drawn.isObject()) drawn = renderer.value(others);
+  if (!drawn.isObject()) drawn = renderer.value(QLatin1String("classes")).toArray().at(0).toObject().value(symbol);
+  QJsonObject as{{type, kind}};
+  if (drawn.isObject()) as.insert(kind == simple ? symbol : others, drawn);
+  if (kind != simple && renderer.contains(field)) as.insert(field, renderer.value(field));
+  return as;
 }
 
 }  // namespace SysCarto

@@ -3,6 +3,7 @@
 #include <SysCarto/Export.h>
 #include <SysDisplay/Symbol.h>
 
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 
@@ -37,6 +38,10 @@ struct SYSCARTO_EXPORT RendererSettings {
   /// Whether every feature is in the same class by both, whatever the classes look like.
   bool classifiesAs(RendererSettings const& other) const;
 };
+
+/// The JSON of a renderer as one of another kind: the symbol that drew all features, or the most of them, goes on
+/// drawing those that are in no class.
+SYSCARTO_EXPORT QJsonObject rendererAs(QJsonObject const& renderer, QString const& kind);
 
 /// Which symbol a feature is drawn with, by the value of a field.
 class SYSCARTO_EXPORT Renderer {
