@@ -20,6 +20,9 @@ function(plotvane_precompiled_headers)
   target_precompile_headers(plotvane_precompiled_test PRIVATE ${headers} <QtTest> <QtWidgets>)
 endfunction()
 
+# A library that lacks something is not linked, but with clang, which links the sanitizers' runtime into executables alone.
+set(plotvane_no_undefined $<$<NOT:$<BOOL:${PLOTVANE_FUZZ}>>:-Wl,-z,defs>)
+
 # plotvane_host_library(SysName [files…] LINKS [libraries…])
 # A shared library of the host. It sees the host interface and the libraries that it links, and nothing else. Another
 # plug-in that links it installed needs Qt Widgets, but not what else the host is built on.
@@ -37,10 +40,7 @@ function(plotvane_host_library name)
       target_link_libraries(${name} PUBLIC $<BUILD_INTERFACE:${link}>)
     endif()
   endforeach()
-  # Clang links the sanitizers' runtime into executables alone.
-  if(NOT PLOTVANE_FUZZ)
-    target_link_options(${name} PRIVATE -Wl,-z,defs)
-  endif()
+  target_link_options(${name} PRIVATE ${plotvane_no_undefined})
   target_precompile_headers(${name} REUSE_FROM plotvane_precompiled)
   install(TARGETS ${name} EXPORT PlotvaneSdk LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/plotvane)
 endfunction()

@@ -134,7 +134,7 @@ private slots:
     LayoutRenderer const renderer(layout, size, dpi);
     QImage const image =
         tiled(size, LayoutRenderer::tileSize, [&](QRect const& tile) { return renderer.tileImage(tile, nullptr); });
-    auto const pixel = [width = widthCm, &size](double cm) { return qRound(cm / width * size.width()); };
+    auto const pixel = [width = widthCm, &size = size](double cm) { return qRound(cm / width * size.width()); };
     QRect const corners(QPoint(pixel(1), pixel(1)), QPoint(pixel(widthCm - 1), pixel(heightCm - 1)));
     QCOMPARE(ink(image).where, corners & image.rect());
   }
@@ -260,7 +260,7 @@ private slots:
   }
 
   void aThousandExportsLeaveNothingBehind() {
-#if defined(__SANITIZE_ADDRESS__)
+#ifdef PLOTVANE_SANITIZED
     QSKIP("the sanitizer keeps freed memory for a while");
 #endif
     MapDocument document;
