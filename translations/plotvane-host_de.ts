@@ -1307,6 +1307,21 @@
     </message>
 </context>
 <context>
+    <name>FieldText</name>
+    <message>
+        <source>line widths</source>
+        <translation>Linienbreiten</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 Punkte</translation>
+    </message>
+</context>
+<context>
     <name>Fields</name>
     <message>
         <source>Name</source>
@@ -4156,15 +4171,15 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>line widths</source>
-        <translation>Linienbreiten</translation>
+        <translation type="vanished">Linienbreiten</translation>
     </message>
     <message>
         <source>%1 characters</source>
-        <translation>%1 Zeichen</translation>
+        <translation type="vanished">%1 Zeichen</translation>
     </message>
     <message>
         <source>%1 points</source>
-        <translation>%1 Punkte</translation>
+        <translation type="vanished">%1 Punkte</translation>
     </message>
     <message>
         <source>Property</source>

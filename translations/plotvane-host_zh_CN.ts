@@ -1307,6 +1307,21 @@
     </message>
 </context>
 <context>
+    <name>FieldText</name>
+    <message>
+        <source>line widths</source>
+        <translation>线宽</translation>
+    </message>
+    <message>
+        <source>%1 characters</source>
+        <translation>%1 个字符</translation>
+    </message>
+    <message>
+        <source>%1 points</source>
+        <translation>%1 个点</translation>
+    </message>
+</context>
+<context>
     <name>Fields</name>
     <message>
         <source>Name</source>
@@ -4156,15 +4171,15 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
     <message>
         <source>line widths</source>
-        <translation>线宽</translation>
+        <translation type="vanished">线宽</translation>
     </message>
     <message>
         <source>%1 characters</source>
-        <translation>%1 个字符</translation>
+        <translation type="vanished">%1 个字符</translation>
     </message>
     <message>
         <source>%1 points</source>
-        <translation>%1 个点</translation>
+        <translation type="vanished">%1 个点</translation>
     </message>
     <message>
         <source>Property</source>

@@ -1,16 +1,15 @@
 #include "PropertyModel.h"
 
 #include "ColorButton.h"
+#include "FieldText.h"
 #include "SymbolPreview.h"
 
 #include "host/SysDisplay/SymbolFields.h"
-#include "host/SysUtility/JsonFile.h"
 
 #include <QApplication>
 #include <QColor>
 #include <QIcon>
 #include <QJsonArray>
-#include <QLocale>
 #include <QPainter>
 #include <QPalette>
 #include <QTimer>
@@ -27,87 +26,14 @@ using SysUtility::NewValue;
 using SysUtility::NumbersKind;
 using SysUtility::SheetField;
 using SysUtility::TextKind;
-using SysUtility::Unit;
 using Kind = FieldInfo::Kind;
-using Part = PropertyModel::Row::Part;
+using Part = PropertyPart;
 
 namespace {
 
-constexpr int maxShown = 200;  // characters of a value
 constexpr QSize swatchPx(32, 16);
 
 QString translatedField(char const* text) { return QCoreApplication::translate("Fields", text); }
-
-// clang-format off
-constexpr Choice anchors[] = {
-    {0, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Upper left")},
-    {1, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Upper middle")},
-    {2, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Upper right")},
-    {3, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Middle left")},
-    {4, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Middle")},
-    {5, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Middle right")},
-    {6, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Lower left")},
-    {7, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Lower middle")},
-    {8, "", QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Lower right")},
-};
-struct PartText { Part part; char const* caption; char const* help; };
-constexpr PartText parts[] = {
-    {Part::X,      QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "X"),             QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "To the right.")},
-    {Part::Y,      QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Y"),             QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Upwards.")},
-    {Part::Width,  QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Width"),         QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "From the left side to the right one.")},
-    {Part::Height, QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Height"),        QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "From the lower side to the upper one.")},
-    {Part::Anchor, QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "Measured from"), QT_TRANSLATE_NOOP("SysAdapterUI::PropertyModel", "The place of the rectangle that X and Y tell of, and that stays where it is when the size changes.")},
-};
-// clang-format on
-
-PartText const& textOf(Part part) {
-  return *std::find_if(std::begin(parts), std::end(parts), [&](PartText const& text) { return text.part == part; });
-}
-
-// Across and upwards, from 0 to 1.
-QPointF placeOf(int anchor) { return {anchor % 3 / 2.0, 1 - anchor / 3 / 2.0}; }
-
-// Of a rectangle as a document has it.
-double partOf(QJsonArray const& numbers, Part part, int anchor) {
-  auto const at = [&](int i) { return numbers.at(i).toDouble(); };
-  if (numbers.size() < 4) return at(part == Part::X ? 0 : 1);
-  QPointF const place = placeOf(anchor);
-  double const width = at(2) - at(0), height = at(3) - at(1);
-  switch (part) {
-    case Part::X: return at(0) + place.x() * width;
-    case Part::Y: return at(1) + place.y() * height;
-    case Part::Width: return width;
-    default: return height;
-  }
-}
-
-QJsonArray withPart(QJsonArray numbers, Part part, double value, int anchor) {
-  bool const isAcross = part == Part::X || part == Part::Width;
-  int const low = isAcross ? 0 : 1;
-  if (numbers.size() < 4) {
-    numbers[low] = value;
-    return numbers;
-  }
-  double const from = numbers.at(low).toDouble(), to = numbers.at(low + 2).toDouble();
-  if (part == Part::X || part == Part::Y) {
-    // The side that is measured has the very value.
-    double const share = isAcross ? placeOf(anchor).x() : placeOf(anchor).y(), length = to - from;
-    numbers[low] = share == 1 ? value - length : value - share * length;
-    numbers[low + 2] = share == 1 ? value : value + (1 - share) * length;
-  } else {
-    double const share = isAcross ? placeOf(anchor).x() : placeOf(anchor).y();
-    double const fixed = from + share * (to - from);
-    numbers[low] = fixed - share * value;
-    numbers[low + 2] = fixed + (1 - share) * value;
-  }
-  return numbers;
-}
-
-QString number(double value) {
-  QLocale locale;
-  locale.setNumberOptions(QLocale::OmitGroupSeparator);
-  return locale.toString(value, 'g', 8);
-}
 
 QIcon symbolIcon(SheetField const& field) {
   auto const symbol = SysDisplay::symbolOf(SysUtility::wholeValue(field).toObject());
@@ -122,18 +48,6 @@ QIcon symbolIcon(SheetField const& field) {
   return picture;
 }
 
-// What tells an entry of a list from the others: its first values.
-QString summary(SheetField const& entry) {
-  QStringList texts;
-  for (SheetField const& field : entry.fields) {
-    bool const isValue = field.info.kind != Kind::Object && field.info.kind != Kind::List &&
-                         field.info.kind != Kind::Flag && !field.value.isUndefined();
-    QString const text = isValue ? readable(field.info, field.value) : QString();
-    if (!text.isEmpty()) texts << text;
-  }
-  return QStringList(texts.mid(0, 2)).join(QStringLiteral(" · "));
-}
-
 // The symbol of an entry, or the row's own.
 SheetField const* symbolIn(SheetField const& field) {
   if (field.info.kind != Kind::Object || !field.isPresent) return nullptr;
@@ -146,51 +60,6 @@ SheetField const* symbolIn(SheetField const& field) {
 }
 
 }  // namespace
-
-QString unitText(Unit unit) {
-  switch (unit) {
-    case Unit::Point: return QStringLiteral("pt");
-    case Unit::Centimetre: return QStringLiteral("cm");
-    case Unit::Degree: return QStringLiteral("°");
-    case Unit::Percent: return QStringLiteral("%");
-    case Unit::LineWidth: return PropertyModel::tr("line widths");
-    case Unit::None:
-    case Unit::ScaleDenominator:
-    case Unit::MapUnit: break;
-  }
-  return QString();
-}
-
-QString readable(FieldInfo const& info, QJsonValue const& value) {
-  QString const unit = unitText(info.rules.range.unit);
-  switch (info.kind) {
-    case Kind::Number:
-    case Kind::Integer:
-      if (info.rules.range.unit == Unit::ScaleDenominator && value.toDouble() > 0)
-        return QStringLiteral("1:") + number(value.toDouble());
-      return unit.isEmpty() ? number(value.toDouble()) : number(value.toDouble()) + QChar(0x202f) + unit;
-    case Kind::Text:
-      if (info.rules.textKind == TextKind::Svg) return PropertyModel::tr("%1 characters").arg(value.toString().size());
-      return value.toString().left(maxShown).simplified();
-    case Kind::Texts: return value.toVariant().toStringList().join(QStringLiteral(", ")).left(maxShown);
-    case Kind::NumberList:
-    case Kind::Numbers: {
-      QStringList texts;
-      for (QJsonValue const& one : value.toArray()) texts << number(one.toDouble());
-      return texts.join(QStringLiteral("; "));
-    }
-    case Kind::Coordinates: return PropertyModel::tr("%1 points").arg(value.toArray().size() / 2);
-    case Kind::Choice:
-    case Kind::Variant:
-      for (Choice const& choice : info.choices)
-        if (value.toString() == QLatin1String(choice.name)) return translatedField(choice.caption);
-      return value.toString();
-    case Kind::Flag:
-    case Kind::Object:
-    case Kind::List: break;
-  }
-  return QString();
-}
 
 struct PropertyModel::Node {
   SheetField field;
@@ -289,7 +158,7 @@ void PropertyModel::addParts(Node& node) {
     own.field.info.field.help = textOf(part).help;
     own.field.info.kind = part == Part::Anchor ? Kind::Choice : Kind::Number;
     if (part == Part::Anchor)
-      for (Choice const& anchor : anchors) own.field.info.choices << anchor;
+      for (Choice const& anchor : anchorChoices()) own.field.info.choices << anchor;
   }
 }
 
@@ -384,7 +253,7 @@ QVariant PropertyModel::display(Node const& node) const {
   if (!node.problem.isEmpty() && !node.refused.isEmpty()) return node.refused;
   Kind const kind = node.field.info.kind;
   if (isMixed(node) && kind != Kind::Flag) return tr("mixed");
-  if (node.part == Part::Anchor) return tr(anchors[anchor_].caption);
+  if (node.part == Part::Anchor) return tr(anchorChoices().begin()[anchor_].caption);
   if (kind == Kind::List) return QString::number(node.children.size());
   if (node.isEntry) return summary(node.field);
   if (kind == Kind::Object && !node.field.isPresent) return tr("none");
@@ -431,8 +300,7 @@ namespace {
 QString withoutPath(QString const& problem, QStringList const& path) {
   QString name;
   for (QString const& step : path) {
-    bool isNumber = false;
-    step.toInt(&isNumber);
+    bool const isNumber = !step.isEmpty() && step[0].isDigit();
     name += isNumber ? QLatin1Char('[') + step + QLatin1Char(']') : (name.isEmpty() ? step : QLatin1Char('.') + step);
   }
   QString const prefix = name + QStringLiteral(": ");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysAdapterUI/FieldSource.h"
+#include "host/SysAdapterUI/PropertyParts.h"
 
 #include <SysAdapterUI/Export.h>
 
@@ -23,15 +24,12 @@ public:
 
   /// What a row stands for.
   struct Row {
-    /// Other than `Field`, a part of the field: a side or a coordinate, or from where a rectangle is measured.
-    enum class Part { Field, X, Y, Width, Height, Anchor };
-
     SysUtility::SheetField const* field;
     QStringList path;
-    Part part;
+    PropertyPart part;
     bool isEntry;  ///< of a list
 
-    bool isList() const { return part == Part::Field && field->info.kind == SysUtility::FieldInfo::Kind::List; }
+    bool isList() const { return part == PropertyPart::Field && field->info.kind == SysUtility::FieldInfo::Kind::List; }
   };
 
   explicit PropertyModel(QObject* parent);
@@ -96,11 +94,5 @@ private:
   int anchor_ = 6;  // of nine, row by row from the upper left: the lower left corner
   std::unique_ptr<Node> root_;
 };
-
-/// A value as people read it: with its unit, and choices by their caption.
-SYSADAPTERUI_EXPORT QString readable(SysUtility::FieldInfo const& info, QJsonValue const& value);
-
-/// The unit as it stands behind a number; empty for none.
-QString unitText(SysUtility::Unit unit);
 
 }  // namespace SysAdapterUI

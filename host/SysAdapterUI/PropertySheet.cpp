@@ -194,8 +194,7 @@ void PropertySheet::makeCurrent(QModelIndex const& index) {
 
 void PropertySheet::showCurrent() {
   QModelIndex const index = current();
-  auto const row =
-      index.isValid() ? model_->row(index) : PropertyModel::Row{nullptr, {}, PropertyModel::Row::Part::X, false};
+  auto const row = index.isValid() ? model_->row(index) : PropertyModel::Row{nullptr, {}, PropertyPart::X, false};
   QString const problem = index.data(PropertyModel::ProblemRole).toString();
   note_->setText(problem.isEmpty() ? index.data(PropertyModel::HelpRole).toString() : problem);
   QPalette colors = palette();

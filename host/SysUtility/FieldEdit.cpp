@@ -5,14 +5,14 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <limits>
+
 namespace SysUtility {
 
 namespace {
 
 bool isEntry(QString const& step) {
-  bool isNumber = false;
-  step.toInt(&isNumber);
-  return isNumber || step == QLatin1String("-");
+  return entryNumber(step, std::numeric_limits<int>::max()) || step == QLatin1String("-");
 }
 
 }  // namespace

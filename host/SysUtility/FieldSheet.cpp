@@ -82,8 +82,7 @@ bool FieldSheet::nest(Field const& field, std::optional<bool> present, Describe 
 
 void FieldSheet::objects(Field const& field, int count, Counts const& counts,
                          std::function<void(Fields&, int)> const& describe) {
-  SheetField list = add(field, FieldInfo::Kind::List, counts.min > 0);
-  list.info.counts = counts;
+  QVector<SheetField> entries;
   for (int i = 0; i < count; ++i) {
     FieldSheet inner;
     describe(inner, i);
@@ -91,9 +90,11 @@ void FieldSheet::objects(Field const& field, int count, Counts const& counts,
     entry.info.field = field;
     entry.value = QJsonValue::Undefined;
     entry.fields = inner.fields_;
-    list.fields << entry;
+    entries << entry;
   }
-  fields_.last() = list;
+  SheetField& list = add(field, FieldInfo::Kind::List, counts.min > 0);
+  list.info.counts = counts;
+  list.fields = entries;
 }
 
 SheetField const* fieldAt(QVector<SheetField> const& fields, QStringList const& path) {

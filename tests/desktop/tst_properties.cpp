@@ -315,7 +315,7 @@ private:
       bool const isChecked = model.flags(index) & Qt::ItemIsUserCheckable;
       bool const isSymbol = row.field->info.kind == Kind::Object;
       bool const isEdited = (model.flags(index) & Qt::ItemIsEditable) && !isSymbol;
-      if ((isChecked || isEdited) && row.part != PropertyModel::Row::Part::Anchor) names << nameOf(index);
+      if ((isChecked || isEdited) && row.part != SysAdapterUI::PropertyPart::Anchor) names << nameOf(index);
       names += editableRows(model, model.index(i, 0, parent));
     }
     return names;
