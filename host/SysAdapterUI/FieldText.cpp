@@ -86,4 +86,9 @@ QString summary(SheetField const& entry) {
   return QStringList(texts.mid(0, 2)).join(QStringLiteral(" · "));
 }
 
+QColor problemColor(QPalette const& palette) {
+  bool const isDark = palette.color(QPalette::Base).lightness() < 128;
+  return isDark ? QColor(0xff, 0x80, 0x78) : QColor(0xc0, 0x20, 0x20);
+}
+
 }  // namespace SysAdapterUI

@@ -281,7 +281,7 @@ QVariant PropertyModel::data(QModelIndex const& index, int role) const {
     case Qt::EditRole: return node.refused.isEmpty() ? valueOf(node).toVariant() : node.refused;
     case Qt::CheckStateRole: return check(node);
     case Qt::ForegroundRole:
-      if (!node.problem.isEmpty()) return QColor(0xc0, 0x20, 0x20);
+      if (!node.problem.isEmpty()) return problemColor(qApp->palette());
       return isMixed(node) ? qApp->palette().color(QPalette::Disabled, QPalette::Text) : QVariant();
     case Qt::DecorationRole:
       if (isMixed(node)) return {};

@@ -1,5 +1,6 @@
 #include "PropertySheet.h"
 
+#include "FieldText.h"
 #include "PropertyDelegate.h"
 
 #include <QHBoxLayout>
@@ -198,7 +199,7 @@ void PropertySheet::showCurrent() {
   QString const problem = index.data(PropertyModel::ProblemRole).toString();
   note_->setText(problem.isEmpty() ? index.data(PropertyModel::HelpRole).toString() : problem);
   QPalette colors = palette();
-  if (!problem.isEmpty()) colors.setColor(QPalette::WindowText, QColor(0xc0, 0x20, 0x20));
+  if (!problem.isEmpty()) colors.setColor(QPalette::WindowText, problemColor(colors));
   note_->setPalette(colors);
   bool const isList = index.isValid() && row.isList();
   add_->setEnabled(isList || row.isEntry);

@@ -118,6 +118,28 @@ private slots:
     QVERIFY2(set > 250, qPrintable(QString::number(set)));
   }
 
+  // From things that say nothing of themselves, row by row.
+  void aWholeMapIsMadeInTheSheetAlone() {
+    WorkbenchPage page;
+    PropertyPanel panel(page.bench.session(), nullptr);
+    panel.show();
+    auto& document = page.bench.session().document();
+    QVERIFY(page.bench.session().open(sampleIn(folder_.path(), "aegean.kdx")));
+    QByteArray const whole = MapDocumentHost::text(document);
+    QVector<QJsonObject> wanted;
+    for (int thing = 0; show(panel, page, thing); ++thing) {
+      QString const address = addressOf(page, thing);
+      wanted << SysUtility::wholeObject(Editable::fields(document, Editable::named(document, address)).value(0));
+      for (QString const& key : wanted.last().keys())
+        if (!QStringList({"type", "handle", "map", "bounds", "rings", "points"}).contains(key))
+          setByPath(document, address, {key}, "null");
+    }
+    QVERIFY(MapDocumentHost::text(document).size() < whole.size() / 2);
+    for (int thing = 0; show(panel, page, thing); ++thing)
+      make(panel.findChild<PropertySheet*>()->model(), {}, wanted[thing]);
+    QCOMPARE(QString::fromUtf8(MapDocumentHost::text(document)), QString::fromUtf8(whole));
+  }
+
   void severalElementsShowWhatTheyShareAndChangeTogether() {
     WorkbenchPage page;
     auto const a = page.add<SysCarto::RectangleElement>(1, 1, 3, 3);
@@ -234,6 +256,41 @@ private slots:
   }
 
 private:
+  // Gives the rows below a path the values of a whole object.
+  static void make(PropertyModel& model, QStringList const& path, QJsonObject const& wanted) {
+    auto const rows = [&] {
+      QModelIndex const parent = path.isEmpty() ? QModelIndex() : model.indexOf(path).siblingAtColumn(0);
+      QList<QStringList> paths;
+      for (int i = 0; i < model.rowCount(parent); ++i) paths << model.row(model.index(i, 1, parent)).path;
+      return paths;
+    };
+    // The kind first, which decides on the other rows.
+    for (bool const isKind : {true, false})
+      for (QStringList const& own : rows()) {
+        QModelIndex const index = model.indexOf(own);
+        FieldInfo const info = model.row(index).field->info;
+        QJsonValue const value = wanted.value(own.last());
+        if ((info.kind == Kind::Variant) != isKind || own == QStringList("handle")) continue;
+        if (info.kind == Kind::List) {
+          for (int i = 0; i < value.toArray().size(); ++i) {
+            QStringList const entry = own + QStringList(QString::number(i));
+            if (!model.indexOf(entry).isValid()) model.addEntry(model.indexOf(own));
+            make(model, entry, value.toArray()[i].toObject());
+          }
+          continue;
+        }
+        if (info.kind != Kind::Object) {
+          model.take(index, value, QString());
+        } else if (!info.rules.isRequired) {
+          bool const isThere = model.data(index, Qt::CheckStateRole) == Qt::Checked;
+          if (isThere == value.isNull())
+            model.setData(index, value.isNull() ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        }
+        model.refresh();
+        if (info.kind == Kind::Object && value.isObject()) make(model, own, value.toObject());
+      }
+  }
+
   // As the command line names them.
   static QString addressOf(WorkbenchPage& page, int thing) {
     auto const elements = page.container().GetElements();
