@@ -1,3 +1,4 @@
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/desktop/MainWindow.h"
@@ -29,7 +30,7 @@ constexpr double millisecond = 1e6;
 class Bench {
 public:
   explicit Bench(QString const& document) : own_(std::make_unique<Workbench>()), bench_(*own_) {
-    if (!bench_.session().open(document)) qFatal("%s", qPrintable(bench_.session().problem()));
+    if (!bench_.session().open(document)) qFatal("%s", qPrintable(DocumentSession::takeProblem()));
     bench_.views().resize(viewSize);
     bench_.views().QWidget::show();
   }
@@ -63,7 +64,7 @@ public:
   /// Until all maps are drawn; answers how long each turn of the event loop took.
   QVector<double> settle() {
     QVector<double> turns;
-    view().refresh(SysCarto::ViewSurface::everything);
+    view().refresh(SysCarto::RefreshPhase::Everything);
     do {
       turns << timed([] { QCoreApplication::processEvents(); });
     } while (!view().isComplete());
@@ -152,7 +153,7 @@ private:
 // else the machine does falls on both.
 void scrollInTheWindow(QString const& document) {
   MainWindow window;
-  if (!window.bench().session().open(document)) qFatal("%s", qPrintable(window.bench().session().problem()));
+  if (!window.bench().session().open(document)) qFatal("%s", qPrintable(DocumentSession::takeProblem()));
   window.resize(viewSize);
   window.show();
   Bench page(window);
@@ -170,7 +171,8 @@ void scrollInTheWindow(QString const& document) {
   double const modified = Bench::print(QStringLiteral("scroll in the window, modified"), times[1]);
   QTextStream(stdout)
       << QStringLiteral("| the one against the other, times | %1 | | |\n").arg(unmodified / modified, 0, 'f', 2);
-  window.bench().session().document().history()->setClean();  // closing the window asks nothing
+  SysCarto::MapDocumentHost::history(window.bench().session().document())
+      ->setClean();  // closing the window asks nothing
 }
 
 }  // namespace

@@ -136,28 +136,30 @@ bool isAlike(SheetField const& a, SheetField const& b) {
     return one.value == other.value && qstrcmp(one.name, other.name) == 0;
   };
   auto const &choices = a.info.choices, &others = b.info.choices;
-  return a.info.kind == b.info.kind && a.key() == b.key() &&
+  return a.info.kind == b.info.kind && qstrcmp(a.info.field.key, b.info.field.key) == 0 &&
          std::equal(choices.begin(), choices.end(), others.begin(), others.end(), isSame);
 }
 
 // Leaves what the other has, too; the first that is alike counts.
 void keepCommon(QVector<SheetField>& fields, QVector<SheetField> const& other) {
-  QVector<SheetField> kept;
-  for (SheetField field : qAsConst(fields)) {
+  for (int i = 0; i < fields.size();) {
+    SheetField& field = fields[i];
     auto const same =
         std::find_if(other.begin(), other.end(), [&](SheetField const& one) { return isAlike(field, one); });
-    if (same == other.end()) continue;
-    bool const isList = field.info.kind == FieldInfo::Kind::List;
+    if (same == other.end()) {
+      fields.remove(i);
+      continue;
+    }
     field.others << wholeValue(*same);
+    bool const isList = field.info.kind == FieldInfo::Kind::List;
     if (isList && field.fields.size() != same->fields.size())
       field.fields.clear();
     else if (isList)
-      for (int i = 0; i < field.fields.size(); ++i) keepCommon(field.fields[i].fields, same->fields.at(i).fields);
+      for (int j = 0; j < field.fields.size(); ++j) keepCommon(field.fields[j].fields, same->fields.at(j).fields);
     else
       keepCommon(field.fields, same->fields);
-    kept << field;
+    ++i;
   }
-  fields = kept;
 }
 
 }  // namespace
