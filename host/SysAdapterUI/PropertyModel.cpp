@@ -48,14 +48,12 @@ QIcon symbolIcon(SheetField const& field) {
   return picture;
 }
 
-// The symbol of an entry, or the row's own.
+// The row's own symbol, or that of what it holds: of a border, of an entry.
 SheetField const* symbolIn(SheetField const& field) {
   if (field.info.kind != Kind::Object || !field.isPresent) return nullptr;
   if (SysDisplay::isSymbol(field.info.field)) return &field;
-  bool const isEntry = !field.info.field.caption || field.value.isUndefined();
   for (SheetField const& inner : field.fields)
-    if (isEntry && inner.info.kind == Kind::Object && inner.isPresent && SysDisplay::isSymbol(inner.info.field))
-      return &inner;
+    if (inner.info.kind == Kind::Object && inner.isPresent && SysDisplay::isSymbol(inner.info.field)) return &inner;
   return nullptr;
 }
 
@@ -215,7 +213,8 @@ Qt::ItemFlags PropertyModel::flags(QModelIndex const& index) const {
   if (index.column() != ValueColumn) return flags;
   if (check(node).isValid()) flags |= Qt::ItemIsUserCheckable;
   Kind const kind = node.field.info.kind;
-  bool const isInside = kind == Kind::List || kind == Kind::Flag || (kind == Kind::Object && !node.isSymbol()) ||
+  // A symbol is chosen in a dialog, which no Tab key may open.
+  bool const isInside = kind == Kind::List || kind == Kind::Flag || kind == Kind::Object ||
                         (kind == Kind::Numbers && node.part == Part::Field);
   // What kind of thing it is decides on nearly all other fields.
   bool const isFixed = node.path == QStringList(QStringLiteral("handle")) ||

@@ -192,6 +192,30 @@ private slots:
     QVERIFY(indexNamed(model, {"name", "Name"}).isValid());
   }
 
+  void aSymbolIsAskedForAndNotTyped() {
+    WorkbenchPage page;
+    page.container().SelectElement(page.add<SysCarto::RectangleElement>(1, 1, 3, 3));
+    PropertyPanel panel(page.bench.session(), nullptr);
+    panel.resize(400, 800);
+    panel.show();
+    auto& sheet = *panel.findChild<PropertySheet*>();
+    QVERIFY(sheet.model().take(sheet.model().indexOf({"symbol"}), QJsonObject(), QString()));
+    sheet.model().refresh();
+    sheet.disconnect(&sheet, &PropertySheet::symbolWanted, nullptr, nullptr);  // the dialog is not what is tested
+    QSignalSpy const asked(&sheet, &PropertySheet::symbolWanted);
+    auto& view = sheet.view();
+    QModelIndex const symbol =
+        static_cast<QSortFilterProxyModel*>(view.model())->mapFromSource(sheet.model().indexOf({"symbol"}));
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(symbol).center());
+    QTRY_COMPARE(asked.count(), 1);
+    for (int key : {Qt::Key_F2, Qt::Key_Return}) {
+      view.setCurrentIndex(symbol);
+      QTest::keyClick(&view, static_cast<Qt::Key>(key));
+    }
+    QTRY_COMPARE(asked.count(), 2);  // two soon after each other are one
+    QVERIFY(!sheet.isEditing());
+  }
+
   void whatIsBeingTypedIsTakenBeforeASave() {
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());
