@@ -44,7 +44,7 @@ struct SimpleLineSettings {
 };
 
 struct DashLineSettings {
-  QVector<double> pattern{4, 2};
+  QVector<double> pattern = DashLineSymbol().pattern();
   double start = 0;
   LineSettings line;
 
