@@ -1,8 +1,8 @@
 #include "HostCommands.h"
 
 #include "DocumentSession.h"
-#include "SelectTool.h"
-#include "SelectionHandles.h"
+#include "drawing/SelectTool.h"
+#include "drawing/SelectionHandles.h"
 
 #include <SysFramework/HostAccess.h>
 

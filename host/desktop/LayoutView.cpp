@@ -1,6 +1,6 @@
 #include "LayoutView.h"
 
-#include "SelectionHandles.h"
+#include "drawing/SelectionHandles.h"
 
 #include <SysCarto/Map.h>
 
