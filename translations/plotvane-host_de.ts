@@ -2021,7 +2021,7 @@
     </message>
     <message>
         <source>Whether it points to true north at the map&apos;s centre, and not upwards.</source>
-        <translation>Ob der Pfeil in der Kartenmitte nach geographisch Nord zeigt statt nach oben.</translation>
+        <translation type="vanished">Ob der Pfeil in der Kartenmitte nach geographisch Nord zeigt statt nach oben.</translation>
     </message>
     <message>
         <source>What the grid is called.</source>
@@ -2497,7 +2497,7 @@
     </message>
     <message>
         <source>What the map shows: its left, lower, right and upper side. It is centred in the data frame and widened to its shape.</source>
-        <translation>Was die Karte zeigt: die linke, untere, rechte und obere Seite. Der Ausschnitt wird im Datenrahmen zentriert und auf dessen Form erweitert.</translation>
+        <translation type="vanished">Was die Karte zeigt: die linke, untere, rechte und obere Seite. Der Ausschnitt wird im Datenrahmen zentriert und auf dessen Form erweitert.</translation>
     </message>
     <message>
         <source>Whether elements are aligned with the edges of the page, and not with each other.</source>
@@ -2862,6 +2862,22 @@
     <message>
         <source>there is no field “%1”; there are %2</source>
         <translation>ein Feld „%1“ gibt es nicht; es gibt %2</translation>
+    </message>
+    <message>
+        <source>What the map shows: its left, lower, right and upper side. It is centred in the data frame and widened to its shape. Of a map that is turned, what it would show straight, about the same centre.</source>
+        <translation>Was die Karte zeigt: ihre linke, untere, rechte und obere Seite. Es wird im Datenrahmen zentriert und auf dessen Form erweitert. Bei einer gedrehten Karte das, was sie ungedreht um dieselbe Mitte zeigen würde.</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>How far the map is turned counterclockwise about its centre. The frame stays, and letters, pictures and the patterns of areas stay upright.</source>
+        <translation>Wie weit die Karte gegen den Uhrzeigersinn um ihre Mitte gedreht ist. Der Rahmen bleibt, und Buchstaben, Bilder und die Muster von Flächen bleiben aufrecht.</translation>
+    </message>
+    <message>
+        <source>Whether it points to true north at the map&apos;s centre, and not to where up on the map is.</source>
+        <translation>Ob er in der Mitte der Karte nach geografisch Nord zeigt und nicht dorthin, wo auf der Karte oben ist.</translation>
     </message>
 </context>
 <context>

@@ -2021,7 +2021,7 @@
     </message>
     <message>
         <source>Whether it points to true north at the map&apos;s centre, and not upwards.</source>
-        <translation>是否指向地图中心处的真北，而不是正上方。</translation>
+        <translation type="vanished">是否指向地图中心处的真北，而不是正上方。</translation>
     </message>
     <message>
         <source>What the grid is called.</source>
@@ -2497,7 +2497,7 @@
     </message>
     <message>
         <source>What the map shows: its left, lower, right and upper side. It is centred in the data frame and widened to its shape.</source>
-        <translation>地图显示的范围：左、下、右、上边。它在数据框中居中，并按其形状扩展。</translation>
+        <translation type="vanished">地图显示的范围：左、下、右、上边。它在数据框中居中，并按其形状扩展。</translation>
     </message>
     <message>
         <source>Whether elements are aligned with the edges of the page, and not with each other.</source>
@@ -2862,6 +2862,22 @@
     <message>
         <source>there is no field “%1”; there are %2</source>
         <translation>没有字段“%1”；有 %2</translation>
+    </message>
+    <message>
+        <source>What the map shows: its left, lower, right and upper side. It is centred in the data frame and widened to its shape. Of a map that is turned, what it would show straight, about the same centre.</source>
+        <translation>地图显示的范围：左、下、右、上边。它在数据框中居中，并扩展到数据框的形状。对于旋转的地图，是它以同一中心未旋转时会显示的范围。</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>旋转</translation>
+    </message>
+    <message>
+        <source>How far the map is turned counterclockwise about its centre. The frame stays, and letters, pictures and the patterns of areas stay upright.</source>
+        <translation>地图绕其中心逆时针旋转的角度。数据框不动，文字、图片和面的图案保持直立。</translation>
+    </message>
+    <message>
+        <source>Whether it points to true north at the map&apos;s centre, and not to where up on the map is.</source>
+        <translation>是否指向地图中心处的真北，而不是地图的上方。</translation>
     </message>
 </context>
 <context>

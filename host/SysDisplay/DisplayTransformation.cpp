@@ -3,6 +3,8 @@
 
 #include <SysDisplay/Units.h>
 
+#include <QtMath>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -33,6 +35,7 @@ struct DisplayTransformation::Private {
   double mapScale = 0;
   double pageScale = 1;
   bool fillsWidth = false;
+  QTransform turn;
   QPointF patternOrigin;
   QPaintDevice* device = nullptr;
 
@@ -48,6 +51,12 @@ struct DisplayTransformation::Private {
   double scale() const {
     if (hasFrameAspect()) return frameWidth() >= frameHeight() ? scaleX() : scaleY();
     return fillsWidth && xmax > xmin ? scaleX() : std::min(scaleX(), scaleY());
+  }
+
+  // From the turned world.
+  QTransform straight() const {
+    double const s = scale();
+    return QTransform(s, 0, 0, -s, frame.left() - xmin * s, frame.top() + ymax * s);
   }
 };
 
@@ -106,21 +115,22 @@ QRect DisplayTransformation::GetDeviceFrame() const { return d->frame; }
 
 QPoint DisplayTransformation::FromMapPoint(double x, double y) const {
   double const scale = d->scale();
-  return {toPixel(d->frame.left() + (x - d->xmin) * scale), toPixel(d->frame.top() + (d->ymax - y) * scale)};
+  QPointF const point = d->turn.map(QPointF(x, y));
+  return {toPixel(d->frame.left() + (point.x() - d->xmin) * scale),
+          toPixel(d->frame.top() + (d->ymax - point.y()) * scale)};
 }
 
 _ptr_t<Point> DisplayTransformation::ToMapPoint(QPoint const& pixel) const { return ToMapPoint(pixel.x(), pixel.y()); }
 
 _ptr_t<Point> DisplayTransformation::ToMapPoint(int x, int y) const {
   double const scale = d->scale();
-  return SysUtility::make<Point>(d->xmin + (static_cast<double>(x) - d->frame.left()) / scale,
-                                 d->ymax - (static_cast<double>(y) - d->frame.top()) / scale, 0.0);
+  QPointF const turned(d->xmin + (static_cast<double>(x) - d->frame.left()) / scale,
+                       d->ymax - (static_cast<double>(y) - d->frame.top()) / scale);
+  QPointF const point = d->turn.inverted().map(turned);
+  return SysUtility::make<Point>(point.x(), point.y(), 0.0);
 }
 
-QTransform DisplayTransformation::ToDevice() const {
-  double const scale = d->scale();
-  return QTransform(scale, 0, 0, -scale, d->frame.left() - d->xmin * scale, d->frame.top() + d->ymax * scale);
-}
+QTransform DisplayTransformation::ToDevice() const { return d->turn * d->straight(); }
 
 void DisplayTransformationHost::setMapScale(DisplayTransformation& transformation, double denominator) {
   transformation.d->mapScale = denominator;
@@ -135,7 +145,27 @@ void DisplayTransformationHost::setPatternOrigin(DisplayTransformation& transfor
 }
 
 QPointF DisplayTransformationHost::patternOrigin(DisplayTransformation const& transformation) {
-  return snapped(transformation.ToDevice().map(transformation.d->patternOrigin));
+  return snapped(transformation.d->straight().map(transformation.d->patternOrigin));
+}
+
+void DisplayTransformationHost::setTurn(DisplayTransformation& transformation, double degrees, QPointF const& about) {
+  double const angle = degrees * M_PI / 180, cosine = std::cos(angle), sine = std::sin(angle);
+  transformation.d->turn = QTransform(cosine, sine, -sine, cosine, about.x() - cosine * about.x() + sine * about.y(),
+                                      about.y() - sine * about.x() - cosine * about.y());
+}
+
+QTransform const& DisplayTransformationHost::turn(DisplayTransformation const& transformation) {
+  return transformation.d->turn;
+}
+
+QRectF DisplayTransformationHost::coveredWorld(DisplayTransformation const& transformation) {
+  auto const bounds = transformation.GetFittedBounds();
+  return transformation.d->turn.inverted().mapRect(
+      QRectF(QPointF(bounds->GetXMin(), bounds->GetYMin()), QPointF(bounds->GetXMax(), bounds->GetYMax())));
+}
+
+double DisplayTransformationHost::pixelsPerUnit(DisplayTransformation const& transformation) {
+  return transformation.d->scale();
 }
 
 }  // namespace SysDisplay

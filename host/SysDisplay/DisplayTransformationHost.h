@@ -14,8 +14,23 @@ struct SYSDISPLAY_EXPORT DisplayTransformationHost {
   /// shape; the height then shows what it can from the top. Otherwise the bounds are shown whole.
   static void setFillsWidth(DisplayTransformation& transformation, bool fillsWidth);
 
-  /// The place in the world that hatches hang on, (0, 0) at first. All tiles of a picture share it: the nearer it is,
-  /// the better they agree on its pixels.
+  // A map may be turned in its frame, which stays as it is. What the transformation maps is then the turned world: the
+  // world turned about one place, in which the frame lies straight. Visible and fitted bounds are rectangles of the
+  // turned world, and mean the same where nothing is turned; a clone with other bounds shows another part of it.
+
+  /// Degrees, counterclockwise as seen on the device, about a place of the world.
+  static void setTurn(DisplayTransformation& transformation, double degrees, QPointF const& about);
+
+  /// From the world to the turned world; the identity where nothing is turned.
+  static QTransform const& turn(DisplayTransformation const& transformation);
+
+  /// The smallest rectangle of the world, with y upwards, that holds all of what the device frame shows.
+  static QRectF coveredWorld(DisplayTransformation const& transformation);
+
+  static double pixelsPerUnit(DisplayTransformation const& transformation);
+
+  /// The place of the turned world that hatches hang on, (0, 0) at first. All tiles of a picture share it: the nearer
+  /// it is, the better they agree on its pixels.
   static void setPatternOrigin(DisplayTransformation& transformation, double x, double y);
 
   /// Where that place lies on the device, on the grid of the rasteriser.

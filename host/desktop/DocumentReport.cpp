@@ -101,11 +101,10 @@ QJsonObject layerJson(_ptr_t<Layer> const& layer) {
 QJsonObject mapJson(_ptr_t<Map> const& map, bool hasFocus) {
   QJsonArray layers;
   for (auto const& layer : map->GetLayers()) layers.append(layerJson(layer));
-  return QJsonObject{{QStringLiteral("name"), map->GetName()},
-                     {QStringLiteral("focus"), hasFocus},
-                     {QStringLiteral("scale"), map->scale()},
-                     {QStringLiteral("extent"), rectangle(map->GetExtent())},
-                     {QStringLiteral("layers"), layers}};
+  return QJsonObject{
+      {QStringLiteral("name"), map->GetName()},         {QStringLiteral("focus"), hasFocus},
+      {QStringLiteral("scale"), map->scale()},          {QStringLiteral("extent"), rectangle(map->GetExtent())},
+      {QStringLiteral("rotation"), map->GetRotation()}, {QStringLiteral("layers"), layers}};
 }
 
 // What a terminal takes for the text: two columns for a Chinese character.

@@ -30,13 +30,13 @@ int pixels(double cm, double pixelsPerCm) {
 
 bool MapTiles::Look::isSameAs(Look const& other) const {
   return map == other.map && std::abs(pixelsPerCm - other.pixelsPerCm) <= sameScale * pixelsPerCm &&
-         sizePx == other.sizePx && SysCarto::haveSameCorners(extent, other.extent) && layers == other.layers &&
-         graphics == other.graphics;
+         sizePx == other.sizePx && SysCarto::haveSameCorners(extent, other.extent) && rotation == other.rotation &&
+         layers == other.layers && graphics == other.graphics;
 }
 
 bool MapTiles::Look::hasSameLabels(Look const& other) const {
   return map == other.map && sizeCm == other.sizeCm && SysCarto::haveSameCorners(extent, other.extent) &&
-         layers == other.layers;
+         rotation == other.rotation && layers == other.layers;
 }
 
 MapTiles::Look MapTiles::lookOf(MapFrameElement const& frame, double pixelsPerCm) {
@@ -48,6 +48,7 @@ MapTiles::Look MapTiles::lookOf(MapFrameElement const& frame, double pixelsPerCm
   look.sizePx = {pixels(rectangle->GetWidth(), pixelsPerCm) + 1, pixels(rectangle->GetHeight(), pixelsPerCm) + 1};
   look.sizeCm = {rectangle->GetWidth(), rectangle->GetHeight()};
   look.extent = *look.map->GetExtent();
+  look.rotation = look.map->GetRotation();
   for (auto const& layer : look.map->GetLayers()) look.layers << SysCarto::LayerHost::look(*layer);
   if (auto const* container = look.map->GetGraphicsContainer()) look.graphics = container->GetElements();
   return look;

@@ -49,6 +49,7 @@ private:
     QSize sizePx;
     QSizeF sizeCm;
     SysGeometry::Envelope extent;
+    double rotation = 0;
     QList<quint64> layers;  // `LayerHost::look` of each
     QList<SysUtility::_ptr_t<SysCarto::Element>> graphics;
 

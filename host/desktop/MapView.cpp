@@ -1,5 +1,6 @@
 #include "MapView.h"
 
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
 
 #include <QElapsedTimer>
@@ -10,6 +11,7 @@
 
 using SysCarto::ActiveViewHost;
 using SysCarto::Map;
+using SysCarto::MapHost;
 using SysCarto::MapSteps;
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
@@ -90,7 +92,7 @@ void MapView::zoomAt(QPointF const& fixedPx, double factor) {
   auto const nearer = [factor](double centre, double side) { return centre + (side - centre) / factor; };
   shown->PutCoords(nearer(x, shown->GetXMin()), nearer(y, shown->GetYMin()), nearer(x, shown->GetXMax()),
                    nearer(y, shown->GetYMax()));
-  MapSteps::zoom(*map(), *shown);
+  MapSteps::zoom(*map(), MapHost::turnedBack(*map(), *shown));
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {
@@ -119,7 +121,7 @@ void MapView::mouseReleaseEvent(QMouseEvent* event) {
   if (offset.isNull() || !isFree()) return;
   auto const shown = map()->GetExtent();
   shown->Offset(-offset.x() * unitsPerPx(), offset.y() * unitsPerPx());
-  MapSteps::pan(*map(), *shown);
+  MapSteps::pan(*map(), MapHost::turnedBack(*map(), *shown));
 }
 
 void MapView::hideEvent(QHideEvent*) {

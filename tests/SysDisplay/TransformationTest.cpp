@@ -64,6 +64,30 @@ private slots:
     if (std::abs(exact.x()) < 1e6) QVERIFY(std::abs(exact.x() - pixel.x()) <= 0.5 + 1e-9);
   }
 
+  // Pixels of a map that is turned by 30 degrees about (10, 5), as they come out of a compass.
+  void aTurnedMapIsMappedBothWays() {
+    DisplayTransformation whole;
+    whole.SetDeviceFrame(QRect(0, 0, 2000, 1000));
+    whole.SetVisibleBounds(box(QRectF(0, 0, 20, 10)));
+    DisplayTransformationHost::setTurn(whole, 30, {10, 5});
+    auto const part = whole.Clone();
+    part->SetDeviceFrame(QRect(0, 0, 500, 400));
+    part->SetVisibleBounds(box(QRectF(11, 4, 5, 4)));
+    for (auto const& [world, pixel] :
+         {std::make_pair(QPointF(10, 5), QPoint(1000, 500)), std::make_pair(QPointF(14, 5), QPoint(1346, 300)),
+          std::make_pair(QPointF(10, 8), QPoint(850, 240))}) {
+      QCOMPARE(whole.FromMapPoint(world.x(), world.y()), pixel);
+      QCOMPARE(part->FromMapPoint(world.x(), world.y()), pixel - QPoint(1100, 200));
+      auto const back = whole.ToMapPoint(pixel);
+      QVERIFY(std::hypot(back->GetX() - world.x(), back->GetY() - world.y()) < 0.0075);
+      QVERIFY(QLineF(whole.ToDevice().map(world), pixel).length() < 0.75);
+    }
+    double const width = 20 * std::cos(M_PI / 6) + 10 * 0.5, height = 20 * 0.5 + 10 * std::cos(M_PI / 6);
+    QVERIFY(isAbout(DisplayTransformationHost::coveredWorld(whole),
+                    QRectF(10 - width / 2, 5 - height / 2, width, height), 1e-9));
+    QCOMPARE(rectOf(*whole.GetFittedBounds()), QRectF(0, 0, 20, 10));
+  }
+
   // Scales belong to their owner: neither bounds nor frame nor device may change them, and a clone keeps them.
   void scalesStay() {
     DisplayTransformation transformation;

@@ -3,6 +3,7 @@
 #include "desktop/WorkbenchPage.h"
 #include "export/LayoutRenderer.h"
 
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/desktop/PagePicture.h"
 
@@ -78,15 +79,17 @@ private slots:
   }
 
   void theScreenIsTheExport_data() {
-    Rows<QString> row;
+    Rows<QString, double> row;
     for (char const* document : {"world", "aegean", "templates/a3-poster", "templates/a4-report"})
-      row(document, QString(document));
+      row(document, QString(document), 0);
+    row("a map that is turned", "aegean", 28.5);
   }
   void theScreenIsTheExport() {
-    auto const [name] = fetched<QString>();
+    auto const [name, rotation] = fetched<QString, double>();
     SysCarto::MapDocument document;
     QVERIFY(document.Open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/%1.kdx").arg(name)));
     auto const layout = document.GetPageLayout();
+    if (auto const map = layout->GetFocusMap()) SysCarto::MapHost::setRotation(*map, rotation);
     auto const border = make<SysCarto::SymbolBorder>();
     border->SetLineSymbol(pen(12));
     layout->GetPage()->SetBorder(border);
@@ -120,7 +123,7 @@ private slots:
     Rows<QString, bool> row;
     for (char const* what : {"select", "drag", "nudge", "align", "restack", "undo", "pan", "lock"})
       row(what, QString(what), false);
-    for (char const* what : {"zoom", "resize", "hide"}) row(what, QString(what), true);
+    for (char const* what : {"zoom", "resize", "hide", "turn"}) row(what, QString(what), true);
   }
   void onlyWhatChangesAMapDrawsIt() {
     auto const [what, draws] = fetched<QString, bool>();
@@ -142,8 +145,9 @@ private slots:
     if (what == "pan") page.drag(onMap, onMap + QPoint(40, -23));
     if (what == "zoom") QVERIFY(page.run("Plotvane_ZoomToOrigin"));
     if (what == "resize") page.drag(page.pixel(40.4, 25.6), page.pixel(35, 22));
+    if (what == "turn") SysCarto::MapHost::setRotation(*page.layout()->GetFocusMap(), 12);
     if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
-    if (what == "hide") page.view().refresh(SysCarto::RefreshPhase::Everything);
+    if (what == "hide" || what == "turn") page.view().refresh(SysCarto::RefreshPhase::Everything);
     QCOMPARE(tilesAfter(page) > before, draws);
   }
 

@@ -1,7 +1,9 @@
 #include "Dialogs.h"
+#include "Boxes.h"
 #include "desktop/WorldWindow.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/desktop/BoxTitles.h"
 #include "host/desktop/CommandCatalogue.h"
 #include "host/desktop/Icons.h"
@@ -270,6 +272,29 @@ private slots:
 
     page.wheel({0, 120});
     QVERIFY(scale() < 50e6 * 0.9);
+
+    // A map that is turned follows the hand, too: the place under it is the same before and after.
+    SysCarto::MapHost::setRotation(*map, 50);
+    page.shown().grab();
+    QRectF const frame = rectOf(*layout->GetFocusMapFrameElement()->GetEnvelope());
+    QSizeF const size = frame.size().scaled(page.shown().size(), Qt::KeepAspectRatio);
+    auto const under = [&](QPointF const& px) {
+      auto const t = map->GetDisplayTransformation();
+      QPointF const inFrame(px.x() - (page.shown().width() - size.width()) / 2,
+                            px.y() - (page.shown().height() - size.height()) / 2);
+      return t->ToDevice().inverted().map(inFrame * (t->GetDeviceFrame().width() / size.width()));
+    };
+    double const unitsPerPx = map->GetExtent()->GetWidth() / size.width();
+    QPointF const held = under({100, 100}), middle = under(page.shown().rect().center());
+    page.drag({100, 100}, {160, 130});
+    QVERIFY(QLineF(held, under({160, 130})).length() < 2 * unitsPerPx);
+    QVERIFY(QLineF(middle, under(page.shown().rect().center())).length() > 60 * unitsPerPx);
+    QPointF const fixed = under({100, 100});
+    QWheelEvent nearer(QPointF(100, 100), QPointF(100, 100), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                       Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&page.shown(), &nearer);
+    QVERIFY(map->GetExtent()->GetWidth() < unitsPerPx * size.width() * 0.9);
+    QVERIFY(QLineF(fixed, under({100, 100})).length() < 2 * unitsPerPx);
     layout->GetFocusMapFrameElement()->SetLocked(true);
     double const locked = scale();
     page.wheel({0, 120});

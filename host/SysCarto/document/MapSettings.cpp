@@ -25,6 +25,7 @@ MapSettings MapSettings::of(Map const& map) {
   MapSettings settings{map.GetName(), map.GetCoordinateSystem()};
   MapHost::storedBounds(map).QueryCoords(settings.bounds[0], settings.bounds[1], settings.bounds[2],
                                          settings.bounds[3]);
+  settings.rotation = map.GetRotation();
   return settings;
 }
 
@@ -42,9 +43,15 @@ void MapSettings::list(Fields& fields) {
   fields.numbers({"bounds", QT_TRANSLATE_NOOP("Fields", "Extent"),
                   QT_TRANSLATE_NOOP("Fields",
                                     "What the map shows: its left, lower, right and upper side. It is centred in the "
-                                    "data frame and widened to its shape.")},
+                                    "data frame and widened to its shape. Of a map that is turned, what it would show "
+                                    "straight, about the same centre.")},
                  bounds, SysUtility::NumbersKind::Rectangle,
                  {-maxMapCoordinate, maxMapCoordinate, SysUtility::Unit::MapUnit});
+  fields.number({"rotation", QT_TRANSLATE_NOOP("Fields", "Rotation"),
+                 QT_TRANSLATE_NOOP("Fields",
+                                   "How far the map is turned counterclockwise about its centre. The frame stays, and "
+                                   "letters, pictures and the patterns of areas stay upright.")},
+                rotation, {-360, 360, SysUtility::Unit::Degree}, 0.0);
   if (!fields.isReading() || !fields.ok()) return;
   if (bounds[2] - bounds[0] < minMapExtent || bounds[3] - bounds[1] < minMapExtent)
     fields.fail("bounds", Texts::tr("must be xmin, ymin, xmax, ymax, with xmin < xmax and ymin < ymax"));
@@ -59,6 +66,7 @@ void MapSettings::applyTo(Map& map, QStringList& warnings) const {
     transformBounds(shown, former.coordinateSystem, coordinateSystem);
   map.SetName(name);
   map.SetCoordinateSystem(coordinateSystem);
+  MapHost::setRotation(map, rotation);
   map.SetExtent(SysUtility::make<SysGeometry::Envelope>(shown[0], shown[1], shown[2], shown[3]));
   if (!isElsewhere) return;
   for (auto const& layer : map.GetLayers()) {

@@ -11,6 +11,7 @@ struct MapSettings {
   QString name;
   QString coordinateSystem;
   double bounds[4] = {0, 0, 0, 0};  ///< xmin, ymin, xmax, ymax in map units
+  double rotation = 0;              ///< degrees, counterclockwise
 
   static MapSettings of(Map const& map);
   void list(SysUtility::Fields& fields);

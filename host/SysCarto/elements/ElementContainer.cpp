@@ -4,6 +4,7 @@
 #include "TextElement.h"
 #include "ElementHost.h"
 
+#include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysDisplay/DrawTarget.h"
 
 #include <QSet>
@@ -14,6 +15,7 @@
 namespace SysCarto {
 
 using SysDisplay::DisplayTransformation;
+using SysDisplay::DisplayTransformationHost;
 using SysDisplay::DrawTarget;
 using SysGeometry::Envelope;
 using SysUI::TrackerCancel;
@@ -56,10 +58,9 @@ QList<ElementPtr> sentBackward(QList<ElementPtr> elements, Handles const& chosen
 
 // The edge of a picture is rounded to whole pixels, beyond its rectangle.
 _ptr_t<Envelope> drawnArea(DisplayTransformation const& transformation) {
-  _ptr_t<Envelope> const area = transformation.GetFittedBounds();
-  double const slack = 2 / transformation.ToDevice().m11();
-  area->Expand(slack, slack, false);
-  return area;
+  double const slack = 2 / DisplayTransformationHost::pixelsPerUnit(transformation);
+  QRectF const area = DisplayTransformationHost::coveredWorld(transformation).adjusted(-slack, -slack, slack, slack);
+  return SysUtility::make<Envelope>(area.left(), area.top(), area.right(), area.bottom());
 }
 
 }  // namespace

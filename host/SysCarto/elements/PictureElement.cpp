@@ -22,6 +22,11 @@ namespace {
 constexpr double placeholderWidthPt = 0.5;
 constexpr int maxCoordinatePx = 1 << 24;
 
+QPointF centreOf(Envelope const& rectangle) {
+  auto const centre = rectangle.GetAnchorPoint();
+  return {centre->GetX(), centre->GetY()};
+}
+
 // Drawn where there is no picture: a frame, just inside the rectangle, and a diagonal cross.
 void drawPlaceholder(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
                      Envelope const& rectangle) {
@@ -55,14 +60,20 @@ void PictureElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const
                           _ptr_t<TrackerCancel> const&) {
   if (!transformation) return;
   if (!source_->problem().isEmpty()) return drawPlaceholder(painter, transformation, *shape());
-  QPoint const from = transformation->FromMapPoint(shape()->GetXMin(), shape()->GetYMax());
-  QPoint const to = transformation->FromMapPoint(shape()->GetXMax(), shape()->GetYMin());
+  QPointF const centre = centreOf(*shape());
+  QPointF const upperLeft = upright(*transformation, centre, {shape()->GetXMin(), shape()->GetYMax()});
+  QPointF const lowerRight = upright(*transformation, centre, {shape()->GetXMax(), shape()->GetYMin()});
+  QPoint const from = transformation->FromMapPoint(upperLeft.x(), upperLeft.y());
+  QPoint const to = transformation->FromMapPoint(lowerRight.x(), lowerRight.y());
   for (int side : {from.x(), from.y(), to.x(), to.y()})
     if (side < -maxCoordinatePx || side > maxCoordinatePx) return;
   source_->draw(painter, QRect(from, QSize(std::max(1, to.x() - from.x()), std::max(1, to.y() - from.y()))));
 }
 
-_ptr_t<Geometry> PictureElement::GetBoundary(_ptr_t<DisplayTransformation> const&) const { return GetEnvelope(); }
+_ptr_t<Geometry> PictureElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
+  if (!transformation) return GetEnvelope();
+  return upright(*transformation, centreOf(*shape()), *GetEnvelope());
+}
 
 _ptr_t<Element> PictureElement::Clone() const { return make<PictureElement>(*this); }
 

@@ -1,5 +1,7 @@
 #include "Placement.h"
 
+#include "host/SysDisplay/DisplayTransformationHost.h"
+
 #include <QtMath>
 
 #include <algorithm>
@@ -7,6 +9,8 @@
 
 namespace SysCarto {
 
+using SysDisplay::DisplayTransformation;
+using SysDisplay::DisplayTransformationHost;
 using SysGeometry::Envelope;
 using SysGeometry::Geometry;
 using SysGeometry::Point;
@@ -104,8 +108,25 @@ void include(Envelope& area, _ptr_t<Geometry> const& other) {
                    std::max(area.GetXMax(), added->GetXMax()), std::max(area.GetYMax(), added->GetYMax()));
 }
 
-double worldPerPoint(SysDisplay::DisplayTransformation const& transformation) {
-  return transformation.PixelsPerPoint() / transformation.ToDevice().m11();
+QPointF upright(DisplayTransformation const& transformation, QPointF const& place, QPointF const& point) {
+  QTransform const& turn = DisplayTransformationHost::turn(transformation);
+  if (turn.isIdentity()) return point;
+  QPointF const away = point - place;
+  return place + QPointF(turn.m11() * away.x() + turn.m12() * away.y(), turn.m21() * away.x() + turn.m22() * away.y());
+}
+
+_ptr_t<Envelope> upright(DisplayTransformation const& transformation, QPointF const& place, Envelope const& rectangle) {
+  auto const area = SysUtility::make<Envelope>();
+  for (double const x : {rectangle.GetXMin(), rectangle.GetXMax()})
+    for (double const y : {rectangle.GetYMin(), rectangle.GetYMax()}) {
+      QPointF const corner = upright(transformation, place, {x, y});
+      include(*area, SysUtility::make<Point>(corner.x(), corner.y(), 0.0));
+    }
+  return area;
+}
+
+double worldPerPoint(DisplayTransformation const& transformation) {
+  return transformation.PixelsPerPoint() / DisplayTransformationHost::pixelsPerUnit(transformation);
 }
 
 _ptr_t<Polygon> ellipseIn(Envelope const& rectangle) {

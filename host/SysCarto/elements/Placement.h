@@ -46,6 +46,17 @@ SYSCARTO_EXPORT bool isFinite(SysUtility::_ptr_t<SysGeometry::Envelope> const& r
 /// Grows `area` so that it holds `other`, too. Empty ones count for nothing.
 SYSCARTO_EXPORT void include(SysGeometry::Envelope& area, SysUtility::_ptr_t<SysGeometry::Geometry> const& other);
 
+// Letters and pictures stay upright on a map that is turned, and hang on a place of it.
+
+/// Where in the world something lies that would be at `point` if the map were not turned.
+SYSCARTO_EXPORT QPointF upright(SysDisplay::DisplayTransformation const& transformation, QPointF const& place,
+                                QPointF const& point);
+
+/// The same of a rectangle: the smallest one of the world that holds what it covers.
+SYSCARTO_EXPORT SysUtility::_ptr_t<SysGeometry::Envelope> upright(
+    SysDisplay::DisplayTransformation const& transformation, QPointF const& place,
+    SysGeometry::Envelope const& rectangle);
+
 /// World units on one point (1/72 inch) of a symbol.
 SYSCARTO_EXPORT double worldPerPoint(SysDisplay::DisplayTransformation const& transformation);
 

@@ -130,7 +130,8 @@ void TextElement::drawOn(DrawTarget& target) const {
 }
 
 _ptr_t<Geometry> TextElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
-  return rectangle(boundsPt(), transformation ? worldPerPoint(*transformation) : 0.0);
+  auto const covered = rectangle(boundsPt(), transformation ? worldPerPoint(*transformation) : 0.0);
+  return transformation ? upright(*transformation, {x_, y_}, *covered) : covered;
 }
 
 _ptr_t<Element> TextElement::Clone() const { return SysUtility::make<TextElement>(*this); }

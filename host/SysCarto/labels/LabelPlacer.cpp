@@ -1,6 +1,7 @@
 #include "LabelPlacer.h"
 
 #include "host/SysCarto/layers/Renderer.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysDisplay/MarkerPainter.h"
 
 #include <algorithm>
@@ -60,10 +61,13 @@ LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& setting
                          DisplayTransformation const& transformation)
     : store_(store), settings_(settings), thinned_(store) {
   auto const bounds = transformation.GetFittedBounds();
-  QTransform const toDevice = transformation.ToDevice();
-  double const unitsPerPoint = transformation.PixelsPerPoint() / std::hypot(toDevice.m11(), toDevice.m12());
+  double const unitsPerPoint =
+      transformation.PixelsPerPoint() / DisplayTransformationHost::pixelsPerUnit(transformation);
   if (!bounds || bounds->IsEmpty() || !(unitsPerPoint > 0) || !std::isfinite(unitsPerPoint) || !settings.symbol) return;
   unitsPerPoint_ = unitsPerPoint;
+  turn_ = DisplayTransformationHost::turn(transformation);
+  turnBack_ = turn_.inverted();
+  covered_ = DisplayTransformationHost::coveredWorld(transformation);
   left_ = bounds->GetXMin();
   bottom_ = bounds->GetYMin();
   frame_ = {0, 0, bounds->GetWidth() / unitsPerPoint, bounds->GetHeight() / unitsPerPoint};
@@ -83,8 +87,7 @@ void LabelPlacer::addObstacle(SysGeometry::Polygon const& area) {
 }
 
 std::vector<int> LabelPlacer::candidates() const {
-  Box const shown{left_, bottom_, left_ + frame_.xmax * unitsPerPoint_, bottom_ + frame_.ymax * unitsPerPoint_};
-  std::vector<int> features = store_.query(shown);
+  std::vector<int> features = store_.query({covered_.left(), covered_.top(), covered_.right(), covered_.bottom()});
   features.erase(std::remove_if(features.begin(), features.end(),
                                 [this](int feature) {
                                   return store_.features[feature].symbolClass < 0 || store_.labels[feature].isEmpty();
@@ -277,15 +280,14 @@ void LabelPlacer::accept(LabelText const& text, QPointF const& centre, double an
   LabelShape shape = shapeAt(text, centre, angle, 0);
   PlacedLabel placed{text.text, text.symbol, 0, 0, angle, {}};
   auto const outline = shape.outline();
-  for (QPointF const& corner : outline[0])
-    placed.area << QPointF(left_ + corner.x() * unitsPerPoint_, bottom_ + corner.y() * unitsPerPoint_);
+  for (QPointF const& corner : outline[0]) placed.area << fromPage(corner);
   // The bounds need not lie about the position evenly.
   double const turn = angle * M_PI / 180;
   QPointF const off(text.bounds.center().x(), -text.bounds.center().y());
-  double const x = centre.x() - (off.x() * std::cos(turn) - off.y() * std::sin(turn));
-  double const y = centre.y() - (off.x() * std::sin(turn) + off.y() * std::cos(turn));
-  placed.x = left_ + x * unitsPerPoint_;
-  placed.y = bottom_ + y * unitsPerPoint_;
+  QPointF const position = fromPage(centre - QPointF(off.x() * std::cos(turn) - off.y() * std::sin(turn),
+                                                     off.x() * std::sin(turn) + off.y() * std::cos(turn)));
+  placed.x = position.x();
+  placed.y = position.y();
   index_.add(std::move(shape));
   labels_.push_back(std::move(placed));
 }

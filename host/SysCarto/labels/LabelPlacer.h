@@ -32,7 +32,7 @@ struct LabelText {
 };
 
 /// Places the labels of one layer on one page. Works in points of the page, counted from the lower left corner of what
-/// the transformation shows.
+/// the transformation shows, so that a label is upright, and follows its line, however the map is turned.
 class LabelPlacer {
 public:
   LabelPlacer(FeatureStore const& store, LabelSettings const& settings, Renderer const& renderer,
@@ -66,12 +66,20 @@ private:
   LabelShape shapeAt(LabelText const& text, QPointF const& centre, double angle, double gapPt) const;
   void accept(LabelText const& text, QPointF const& centre, double angle);
 
-  QPointF toPage(double x, double y) const { return {(x - left_) / unitsPerPoint_, (y - bottom_) / unitsPerPoint_}; }
+  QPointF toPage(double x, double y) const {
+    QPointF const turned = turn_.map(QPointF(x, y));
+    return {(turned.x() - left_) / unitsPerPoint_, (turned.y() - bottom_) / unitsPerPoint_};
+  }
+  QPointF fromPage(QPointF const& point) const {
+    return turnBack_.map(QPointF(left_ + point.x() * unitsPerPoint_, bottom_ + point.y() * unitsPerPoint_));
+  }
 
   FeatureStore const& store_;
   LabelSettings const& settings_;
   ThinnedFeatures thinned_;
-  double left_ = 0, bottom_ = 0;  // map units
+  QTransform turn_, turnBack_;    // of a map that is turned in its frame
+  double left_ = 0, bottom_ = 0;  // map units, in the turned world
+  QRectF covered_;                // map units
   double unitsPerPoint_ = 0;
   Box frame_;
   LabelIndex index_;

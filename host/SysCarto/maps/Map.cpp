@@ -48,6 +48,7 @@ struct Map::Private {
   std::unique_ptr<GroundScale> ground = std::make_unique<GroundScale>(QString());
   QList<_ptr_t<Layer>> layers;
   Envelope bounds{0, 0, 2000, 1500};
+  double rotation = 0;
   QRect frame{0, 0, 200000, 150000};
   _ptr_t<DisplayTransformation> transformation = make<DisplayTransformation>();
   ElementContainer graphics;
@@ -65,6 +66,7 @@ void Map::Private::fit() {
   double const x = bounds.GetXMin() + bounds.GetWidth() / 2, y = bounds.GetYMin() + bounds.GetHeight() / 2;
   transformation->SetDeviceFrame(frame);
   transformation->SetVisibleBounds(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
+  DisplayTransformationHost::setTurn(*transformation, rotation, {x, y});
   DisplayTransformationHost::setPatternOrigin(*transformation, x - halfWidth, y + halfHeight);
   double const groundMetres = scale * ground->metresPerUnit(x, y, 2 * halfWidth * scaleStep);
   DisplayTransformationHost::setMapScale(*transformation, groundMetres / metresPerMicrometre);
@@ -108,10 +110,29 @@ double Map::scale() const { return d->layers.isEmpty() ? 0 : d->transformation->
 
 double Map::GetNorthAngle() const {
   auto const centre = GetExtent()->GetAnchorPoint();
-  return d->ground->northAngle(centre->GetX(), centre->GetY());
+  return d->ground->northAngle(centre->GetX(), centre->GetY()) + d->rotation;
 }
 
+double Map::GetRotation() const { return d->rotation; }
+
 Envelope MapHost::storedBounds(Map const& map) { return map.d->bounds; }
+
+void MapHost::setRotation(Map& map, double degrees) {
+  double const rotation = std::isfinite(degrees) ? std::fmod(degrees, 360) : 0;
+  if (rotation == map.d->rotation) return;
+  map.d->change.set(map.d->rotation, rotation);
+  map.d->fit();
+}
+
+Envelope MapHost::turnedBack(Map const& map, Envelope const& extent) {
+  if (map.d->rotation == 0) return extent;
+  auto const at = extent.GetAnchorPoint();
+  QPointF const centre =
+      DisplayTransformationHost::turn(*map.d->transformation).inverted().map(QPointF(at->GetX(), at->GetY()));
+  Envelope turned(extent);
+  turned.CenterAt(centre.x(), centre.y());
+  return turned;
+}
 
 void MapHost::setFrameSize(Map& map, double widthCm, double heightCm) {
   if (!(std::isfinite(widthCm) && std::isfinite(heightCm) && widthCm > 0 && heightCm > 0)) return;

@@ -8,6 +8,13 @@ struct SYSCARTO_EXPORT MapHost {
   /// The bounds as they were set, before they are fitted to the frame; a document stores these.
   static SysGeometry::Envelope storedBounds(Map const& map);
 
+  /// Within ±360 degrees, counterclockwise; an angle beyond that counts from there on.
+  static void setRotation(Map& map, double degrees);
+
+  /// What the map is asked to show when its extent changes as a rectangle of its frame does that lies straight on the
+  /// page: the same rectangle about the place that is its centre.
+  static SysGeometry::Envelope turnedBack(Map const& map, SysGeometry::Envelope const& extent);
+
   // Told by the data frames that are on a page: the size on paper, and that one comes or goes.
   static void setFrameSize(Map& map, double widthCm, double heightCm);
   static void countFrame(Map& map, bool comes);

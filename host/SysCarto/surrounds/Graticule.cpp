@@ -6,6 +6,7 @@
 #include "SurroundSettings.h"
 
 #include "host/SysCarto/elements/Placement.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>
@@ -20,6 +21,7 @@
 namespace SysCarto {
 
 using SysDisplay::DisplayTransformation;
+using SysDisplay::DisplayTransformationHost;
 using SysDisplay::LineSymbol;
 using SysDisplay::TextFormat;
 using SysDisplay::TextSymbol;
@@ -73,7 +75,7 @@ struct Graticule::Private {
   // What was worked out for a map and a rectangle, since a page is drawn in many tiles. Clones share it.
   struct Picture {
     QString system;
-    Envelope extent, rectangle;
+    MapPlace place;
     QList<_ptr_t<Element>> elements;
   };
   mutable std::shared_ptr<Picture const> picture;
@@ -94,31 +96,34 @@ struct Graticule::Private {
 
 namespace {
 
-bool isSame(Envelope const& a, Envelope const& b) {
-  return a.GetXMin() == b.GetXMin() && a.GetYMin() == b.GetYMin() && a.GetXMax() == b.GetXMax() &&
-         a.GetYMax() == b.GetYMax();
+bool isSame(MapPlace const& a, MapPlace const& b) {
+  return haveSameCorners(a.rectangle, b.rectangle) && haveSameCorners(a.extent, b.extent) && a.turn == b.turn;
+}
+
+MapPlace placeOf(Map const& map, Envelope const& rectangle) {
+  return {rectangle, *map.GetExtent(), DisplayTransformationHost::turn(*map.GetDisplayTransformation())};
 }
 
 }  // namespace
 
 QList<_ptr_t<Element>> const& Graticule::Private::elementsFor(Map const& map, Envelope const& rectangle) const {
   GraticuleLines const& globe = linesOf(map.GetCoordinateSystem());
-  Envelope const extent(*map.GetExtent());
-  if (picture && picture->system == system && isSame(picture->extent, extent) && isSame(picture->rectangle, rectangle))
-    return picture->elements;
-  auto made = std::make_shared<Picture>(Picture{system, extent, rectangle, {}});
+  MapPlace const place = placeOf(map, rectangle);
+  if (picture && picture->system == system && isSame(picture->place, place)) return picture->elements;
+  auto made = std::make_shared<Picture>(Picture{system, place, {}});
+  Envelope const extent = place.covered();
   bool const isChosen = settings.interval > 0 && !isTooFine(globe, extent);
   GraticuleStep const size = globe.degreeSize(extent);
-  double const cmPerUnit = rectangle.GetWidth() / extent.GetWidth();
+  double const cmPerUnit = rectangle.GetWidth() / place.extent.GetWidth();
   GraticuleStep const step =
       isChosen ? GraticuleStep{settings.interval, settings.interval}
                : GraticuleStep{intervalFor(size.longitude * cmPerUnit), intervalFor(size.latitude * cmPerUnit)};
-  GraticuleLabels labels(rectangle, labelSymbol(), labelGapPt);
+  GraticuleLabels labels(place, labelSymbol(), labelGapPt);
   for (GraticuleLine const& one : globe.lines(extent, step)) {
-    auto const parts = labels.placed(one, extent);
+    auto const parts = labels.placed(one);
     for (QVector<QPointF> const& part : parts)
       made->elements << linePiece(part, settings.line ? settings.line : usualLine());
-    if (settings.labelled) labels.label(one, parts, extent);
+    if (settings.labelled) labels.label(one, parts);
   }
   made->elements += labels.elements();
   picture = made;
@@ -161,7 +166,7 @@ void GraticuleSettings::applyTo(Graticule& graticule) const {
 QString GraticuleSettings::problemOf(Graticule const& graticule, MapFrameElement const& frame) {
   Graticule::Private& d = *graticule.d;
   Map const& map = *frame.GetMap();
-  Envelope const extent(*map.GetExtent());
+  Envelope const extent = placeOf(map, *frame.GetEnvelope()).covered();
   if (d.settings.interval == 0 || !d.isTooFine(d.linesOf(map.GetCoordinateSystem()), extent)) return QString();
   double const count = d.lines->count(extent, d.settings.interval);
   double const least = std::ceil(count * d.settings.interval / maxLines * 1000) / 1000;

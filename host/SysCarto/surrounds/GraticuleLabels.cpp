@@ -84,23 +84,34 @@ void addClipped(Ring const& line, Box const& box, Rings& parts) {
 
 }  // namespace
 
-GraticuleLabels::GraticuleLabels(Envelope const& rectangle, _ptr_t<TextSymbol> const& symbol, double gapPt)
-    : left_(rectangle.GetXMin()),
-      bottom_(rectangle.GetYMin()),
-      right_(rectangle.GetXMax()),
-      top_(rectangle.GetYMax()),
+QPointF MapPlace::onPage(QPointF const& point) const {
+  QPointF const turned = turn.map(point);
+  return {rectangle.GetXMin() +
+              (turned.x() - extent.GetXMin()) * (rectangle.GetXMax() - rectangle.GetXMin()) / extent.GetWidth(),
+          rectangle.GetYMin() +
+              (turned.y() - extent.GetYMin()) * (rectangle.GetYMax() - rectangle.GetYMin()) / extent.GetHeight()};
+}
+
+Envelope MapPlace::covered() const {
+  if (turn.isIdentity()) return extent;
+  QRectF const area = turn.inverted().mapRect(
+      QRectF(QPointF(extent.GetXMin(), extent.GetYMin()), QPointF(extent.GetXMax(), extent.GetYMax())));
+  return {area.left(), area.top(), area.right(), area.bottom()};
+}
+
+GraticuleLabels::GraticuleLabels(MapPlace const& place, _ptr_t<TextSymbol> const& symbol, double gapPt)
+    : place_(place),
+      left_(place.rectangle.GetXMin()),
+      bottom_(place.rectangle.GetYMin()),
+      right_(place.rectangle.GetXMax()),
+      top_(place.rectangle.GetYMax()),
       format_(symbol->format()),
       gapCm_(gapPt * SysDisplay::cmPerPoint) {}
 
-QPointF GraticuleLabels::onPage(QPointF const& point, Envelope const& extent) const {
-  return {left_ + (point.x() - extent.GetXMin()) * (right_ - left_) / extent.GetWidth(),
-          bottom_ + (point.y() - extent.GetYMin()) * (top_ - bottom_) / extent.GetHeight()};
-}
-
-Rings GraticuleLabels::placed(GraticuleLine const& line, Envelope const& extent) const {
+Rings GraticuleLabels::placed(GraticuleLine const& line) const {
   Rings parts;
   for (Ring part : line.parts) {
-    for (QPointF& point : part) point = onPage(point, extent);
+    for (QPointF& point : part) point = place_.onPage(point);
     addClipped(thinned(part), {left_, bottom_, right_, top_}, parts);
   }
   return parts;
@@ -118,7 +129,7 @@ GraticuleLabels::Side GraticuleLabels::sideOf(QPointF const& point, bool isMerid
   return isMeridian ? above : beside;
 }
 
-void GraticuleLabels::label(GraticuleLine const& line, Rings const& parts, Envelope const& extent) {
+void GraticuleLabels::label(GraticuleLine const& line, Rings const& parts) {
   line_ = &line;
   Ring wanted, others;
   for (Ring const& part : parts)
@@ -129,7 +140,7 @@ void GraticuleLabels::label(GraticuleLine const& line, Rings const& parts, Envel
     }
   QVector<QLineF> ends;
   for (QLineF const& end : line.ends) {
-    QLineF const placed(onPage(end.p1(), extent), onPage(end.p2(), extent));
+    QLineF const placed(place_.onPage(end.p1()), place_.onPage(end.p2()));
     bool const isInside = placed.x2() > left_ + onSideCm && placed.x2() < right_ - onSideCm &&
                           placed.y2() > bottom_ + onSideCm && placed.y2() < top_ - onSideCm;
     if (isInside) ends << placed;

@@ -8,24 +8,36 @@
 
 #include <QList>
 #include <QRectF>
+#include <QTransform>
 
 #include <optional>
 
 namespace SysCarto {
 
+/// The part of a map that the rectangle of a data frame shows.
+struct MapPlace {
+  SysGeometry::Envelope rectangle;  ///< page centimetres
+  SysGeometry::Envelope extent;     ///< map units, in the turned world
+  QTransform turn;                  ///< of the map
+
+  QPointF onPage(QPointF const& point) const;
+
+  /// The smallest rectangle of the map that holds all of what is shown.
+  SysGeometry::Envelope covered() const;
+};
+
 /// Places the lines of a graticule in the rectangle of a data frame, and their labels outside it.
 class GraticuleLabels {
 public:
-  GraticuleLabels(SysGeometry::Envelope const& rectangle, SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbol,
-                  double gapPt);
+  GraticuleLabels(MapPlace const& place, SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbol, double gapPt);
 
-  /// The parts of a line that lie in the rectangle, in page centimetres. `extent` is what the map shows in it.
-  QVector<QVector<QPointF>> placed(GraticuleLine const& line, SysGeometry::Envelope const& extent) const;
+  /// The parts of a line that lie in the rectangle, in page centimetres.
+  QVector<QVector<QPointF>> placed(GraticuleLine const& line) const;
 
   /// Labels a line where its parts meet the sides of the rectangle: meridians above and below, parallels beside it; a
   /// line that meets only the other sides, there. One that ends with the globe has its label beyond its end, and one
   /// that has neither, such as a parallel around a pole, on itself.
-  void label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts, SysGeometry::Envelope const& extent);
+  void label(GraticuleLine const& line, QVector<QVector<QPointF>> const& parts);
 
   /// The labels that have room: where there is none for all, those of every second line, every third and so on.
   QList<SysUtility::_ptr_t<Element>> elements() const;
@@ -33,7 +45,6 @@ public:
 private:
   enum Side { Left, Right, Bottom, Top, None };
 
-  QPointF onPage(QPointF const& point, SysGeometry::Envelope const& extent) const;
   Side sideOf(QPointF const& point, bool isMeridian) const;
   void addOutside(QString const& text, QPointF const& point, Side side);
   void addBeyond(QString const& text, QLineF const& end);
@@ -41,6 +52,7 @@ private:
   void add(QString const& text, QPointF const& position, double angle, SysDisplay::HorizontalAlignment horizontal,
            SysDisplay::VerticalAlignment vertical);
 
+  MapPlace const place_;
   double left_, bottom_, right_, top_;
   SysDisplay::TextFormat format_;
   double gapCm_;

@@ -46,7 +46,7 @@ MarkerNorthArrow::~MarkerNorthArrow() = default;
 QList<_ptr_t<Element>> MarkerNorthArrow::GetElements() {
   if (!hasPlace()) return {};
   auto const arrow = ptr_cast<MarkerSymbol>(GetMarkerSymbol()->Clone());
-  if (d->settings.trueNorth) arrow->SetAngle(arrow->GetAngle() + GetMap()->GetNorthAngle());
+  arrow->SetAngle(arrow->GetAngle() + (d->settings.trueNorth ? GetMap()->GetNorthAngle() : GetMap()->GetRotation()));
   QRectF const unit = unitBounds(*arrow);
   if (unit.isEmpty()) return {};
   arrow->SetSize(std::min(rectangle().GetWidth() / unit.width(), rectangle().GetHeight() / unit.height()) /

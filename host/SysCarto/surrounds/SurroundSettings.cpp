@@ -103,9 +103,11 @@ void NorthArrowSettings::list(Fields& fields) {
                      {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"),
                       QT_TRANSLATE_NOOP("Fields", "The marker that points north; without a symbol a plain arrow.")},
                      symbol);
-  fields.flag({"trueNorth", QT_TRANSLATE_NOOP("Fields", "True north"),
-               QT_TRANSLATE_NOOP("Fields", "Whether it points to true north at the map's centre, and not upwards.")},
-              trueNorth, false);
+  fields.flag(
+      {"trueNorth", QT_TRANSLATE_NOOP("Fields", "True north"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "Whether it points to true north at the map's centre, and not to where up on the map is.")},
+      trueNorth, false);
 }
 
 void GraticuleSettings::list(Fields& fields) {

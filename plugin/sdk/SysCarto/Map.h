@@ -41,7 +41,12 @@ public:
   /// Set before layers are added: they are projected when they are opened.
   void SetCoordinateSystem(QString const& definition);
 
-  /// Degrees, counterclockwise from up, to true north at the map's centre; 0 in plain coordinates and at a pole.
+  /// Degrees, counterclockwise, by which the map is turned about its centre; its frame stays as it is. The extent is
+  /// what the frame would show without that.
+  double GetRotation() const;
+
+  /// Degrees, counterclockwise from up on the page, to true north at the map's centre. In plain coordinates and at a
+  /// pole, to where up on the map is.
   double GetNorthAngle() const;
 
   /// The denominator of the scale; 0 for a map without layers, whose extent means nothing.

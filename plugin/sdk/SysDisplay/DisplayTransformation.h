@@ -17,6 +17,10 @@ namespace SysDisplay {
 ///
 /// The visible bounds are fitted into the device frame with their aspect kept. Where a drawing needs a mapping of its
 /// own it changes a clone, never the transformation of a view.
+///
+/// A map may be turned in its frame (`Map::GetRotation`). The bounds then say what the frame would show if the map were
+/// turned back about its centre, and a part of the frame is asked for by the same part of these bounds. Points are
+/// where they are on the map: `FromMapPoint`, `ToMapPoint` and `ToDevice` turn.
 class SYSDISPLAY_EXPORT DisplayTransformation : public SysUtility::CRef {
 public:
   DisplayTransformation();
@@ -67,7 +71,7 @@ public:
 
   QPaintDevice* GetPaintDevice() const;
 
-  /// World units to device coordinates without rounding, with y turned over.
+  /// World units to device coordinates without rounding, with y turned over; of a turned map, with its rotation.
   QTransform ToDevice() const;
 
   /// Device pixels on one point (1/72 inch) of a symbol: page scale × 96 / 72.

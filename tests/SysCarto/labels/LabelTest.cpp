@@ -3,7 +3,9 @@
 #include "Symbols.h"
 
 #include "host/SysCarto/elements/TextElement.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
+#include "host/SysGeometry/PlaneGeometry.h"
 
 #include <SysGeometry/Point.h>
 
@@ -49,6 +51,8 @@ Placed placed(VectorLayer& layer, _ptr_t<DisplayTransformation> const& transform
   return result;
 }
 
+double areaOf(QPolygonF const& ring) { return std::abs(SysGeometry::signedArea(ring)); }
+
 // Places that touch do not.
 bool overlap(QPolygonF const& a, QPolygonF const& b, double tolerance) {
   QRectF const common = a.intersected(b).boundingRect();
@@ -62,17 +66,21 @@ class LabelTest : public QObject {
 
 private slots:
   void labelsKeepTheirPromises_data() {
-    Rows<QString, QString, QString, int> row;
-    row("beside points", "world.gpkg", "cities", "population", 60);
-    row("in polygons", "world.gpkg", "countries", "", 10);
-    row("beside many points", "aegean.gpkg", "places", "population", 60);
+    Rows<QString, QString, QString, double, int> row;
+    row("beside points", "world.gpkg", "cities", "population", 0, 60);
+    row("in polygons", "world.gpkg", "countries", "", 0, 10);
+    row("beside many points", "aegean.gpkg", "places", "population", 0, 60);
+    row("on a map that is turned", "aegean.gpkg", "places", "population", 37, 60);
+    row("in polygons that are turned", "world.gpkg", "countries", "", 250, 10);
   }
   void labelsKeepTheirPromises() {
-    auto const [file, layer, priorityField, fewest] = fetched<QString, QString, QString, int>();
+    auto const [file, layer, priorityField, rotation, fewest] = fetched<QString, QString, QString, double, int>();
     auto const data =
         opened({sample(file), layer, {}, {}}, "EPSG:8857", make<SimpleMarkerSymbol>(), settings(6, priorityField));
     QCOMPARE(data.warnings, QStringList());
     auto const transformation = shown(data.features().box(), QSize(900, 500)).transformation();
+    auto const middle = transformation->GetFittedBounds()->GetAnchorPoint();
+    DisplayTransformationHost::setTurn(*transformation, rotation, {middle->GetX(), middle->GetY()});
     Placed const result = placed(*data.layer, transformation);
     QVERIFY2(result.labels.size() >= fewest, qPrintable(QString::number(result.labels.size())));
     QCOMPARE(result.shapes().size(), result.labels.size());
@@ -80,9 +88,12 @@ private slots:
     QRectF const inside = rectOf(*transformation->GetFittedBounds());
     double const pixel = inside.width() / 900;
     auto const shapes = result.shapes();
+    QList<QPolygonF> onPage;
+    for (QPolygonF const& shape : shapes) onPage << DisplayTransformationHost::turn(*transformation).map(shape);
     for (int i = 0; i < shapes.size(); ++i) {
-      QVERIFY2(inside.contains(shapes[i].boundingRect()), qPrintable(result.texts()[i]));
+      QVERIFY2(inside.contains(onPage[i].boundingRect()), qPrintable(result.texts()[i]));
       for (int j = 0; j < i; ++j) QVERIFY2(!overlap(shapes[i], shapes[j], pixel / 100), qPrintable(result.texts()[i]));
+      QVERIFY(areaOf(onPage[i]) > 0.999 * areaOf(onPage[i].boundingRect()));  // upright letters
       QRectF const drawn = rectOf(*result.labels[i]->GetBoundary(transformation)->GetEnvelope());
       QVERIFY(isAbout(shapes[i].boundingRect(), drawn, 2 * pixel));
     }

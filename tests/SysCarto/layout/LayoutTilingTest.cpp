@@ -6,6 +6,7 @@
 #include "host/SysCarto/elements/PictureElement.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/PageHost.h"
+#include "host/SysCarto/maps/MapHost.h"
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
@@ -86,6 +87,19 @@ _ptr_t<MapFrameElement> mapOfPatches(LayerEffects const& above) {
   return frame;
 }
 
+// What is drawn on a map that is turned in its frame, a pattern included.
+_ptr_t<MapFrameElement> turnedMap(_ptr_t<PictureElement> const& picture) {
+  auto const frame = framedMap();
+  auto const hatched = fill(QColor(0, 102, 204), SysDisplay::SimpleFillStyle::Cross, pen(2.5));
+  frame->GetMap()->AddLayer(
+      openedJson(geoJson(R"({"type":"Polygon","coordinates":[[[200,100],[1700,300],[900,1500],[200,100]]]})", "A"), "",
+                 hatched)
+          .layer);
+  frame->GetMap()->GetGraphicsContainer()->AddElement(in(picture, 800, 500, 1400, 900));
+  MapHost::setRotation(*frame->GetMap(), 33);
+  return frame;
+}
+
 _ptr_t<TextElement> turnedText() {
   auto const text = make<TextElement>();
   text->setText("Across the\ntile's edges");
@@ -126,6 +140,7 @@ private slots:
     row("border, background and shadow", sceneOf({framed(0)}));
     row("rounded corners", sceneOf({framed(60)}));
     row("map with graphics and labels", sceneOf({framedMap()}));
+    row("map that is turned in its frame", sceneOf({turnedMap(picture("small.jpg"))}));
     auto const group = make<GroupElement>();
     group->AddElement(madeIn<RectangleElement>(0.5, 0.5, 6.9, 2.47));
     group->AddElement(turnedText());

@@ -3,6 +3,10 @@
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 
 #include <cpl_error.h>
+#include <proj.h>
+
+#include <cmath>
+#include <memory>
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
@@ -14,6 +18,36 @@ constexpr int pxPerCm = 40;
 constexpr QRect framePx(pxPerCm, pxPerCm, 10 * pxPerCm, 8 * pxPerCm);
 
 Sheet const page{Envelope(0, 0, 12, 10), QSize(12, 10) * pxPerCm, pxPerCm * 2.54 / 96};
+
+QJsonObject thinLine() { return json("{'type':'simpleLine','width':0.28}"); }
+
+// Places of the globe on the page, as PROJ has them, with a map that is turned in the frame.
+class OnPaper {
+public:
+  OnPaper(QString const& system, Envelope const& bounds, double rotation) {
+    PJ* const given = proj_create_crs_to_crs(nullptr, "OGC:CRS84", system.toUtf8().constData(), nullptr);
+    projection_.reset(proj_normalize_for_visualization(nullptr, given));
+    proj_destroy(given);
+    cmPerUnit_ = std::min(10 / bounds.GetWidth(), 8 / bounds.GetHeight());
+    auto const centre = bounds.GetAnchorPoint();
+    centre_ = {centre->GetX(), centre->GetY()};
+    angle_ = rotation * M_PI / 180;
+  }
+
+  QPointF of(double longitude, double latitude) const {
+    PJ_COORD const at = proj_trans(projection_.get(), PJ_FWD, proj_coord(longitude, latitude, 0, 0));
+    double const x = (at.xy.x - centre_.x()) * cmPerUnit_, y = (at.xy.y - centre_.y()) * cmPerUnit_;
+    return {6 + x * std::cos(angle_) - y * std::sin(angle_), 5 + x * std::sin(angle_) + y * std::cos(angle_)};
+  }
+
+private:
+  struct Destroy {
+    void operator()(PJ* projection) const { proj_destroy(projection); }
+  };
+  std::unique_ptr<PJ, Destroy> projection_;
+  QPointF centre_;
+  double cmPerUnit_, angle_;
+};
 
 // The places of which something is true.
 template <class Place, class Predicate>
@@ -59,6 +93,40 @@ private slots:
     QCOMPARE(where(onLines + offLines, isInked), onLines);
     QVERIFY(isBlank(image, QRect(0, 0, image.width(), pxPerCm - 2)));
     QVERIFY(isBlank(image, QRect(0, 0, pxPerCm - 2, image.height())));
+  }
+
+  // Where PROJ says that a meridian and a parallel are, to a tenth of a millimetre on paper.
+  void aTurnedGridLiesWhereProjSays_data() {
+    Rows<QString, Envelope, double> row;
+    row("Europe", "EPSG:3035", Envelope(2700000, 1600000, 6100000, 4200000), 33);
+    row("a polar map", "EPSG:3995", Envelope(-1000000, -5000000, 3000000, -1800000), -71);
+    row("degrees, upside down", "EPSG:4326", Envelope(-25, -20, 25, 20), 180);
+  }
+  void aTurnedGridLiesWhereProjSays() {
+    auto const [system, bounds, rotation] = fetched<QString, Envelope, double>();
+    constexpr double fine = 400, halfLineCm = 0.005;
+    auto const frame = frameWith(system, bounds, {{"interval", 5}, {"labels", false}, {"lineSymbol", thinLine()}});
+    MapHost::setRotation(*frame->GetMap(), rotation);
+    Sheet const paper{Envelope(0, 0, 12, 10), QSize(12, 10) * fine, fine * 2.54 / 96};
+    QImage const image = paper.drawn(sceneOf(frame));
+    OnPaper const place(system, bounds, rotation);
+    int seen = 0;
+    for (double longitude = -180; longitude < 180; longitude += 15)
+      for (double latitude = -75; latitude < 90; latitude += 15) {
+        QPointF const crossing = place.of(longitude, latitude);
+        if (!QRectF(1.5, 1.5, 9, 7).contains(crossing)) continue;
+        ++seen;
+        for (QPointF const& along : {place.of(longitude + 1, latitude), place.of(longitude, latitude + 1)}) {
+          QLineF const normal = QLineF(along, crossing).normalVector().unitVector();
+          QPointF const aside = normal.p2() - normal.p1();
+          auto const isInked = [&](QPointF const& cm) {
+            return image.pixelColor(qRound(cm.x() * fine), qRound((10 - cm.y()) * fine)) != Qt::white;
+          };
+          QVERIFY(isInked(along));
+          for (double const off : {-0.01 - halfLineCm, 0.01 + halfLineCm}) QVERIFY(!isInked(along + aside * off));
+        }
+      }
+    QVERIFY2(seen >= 4, qPrintable(QString::number(seen)));
   }
 
   void labelsLieOutsideTheFrameAndInItsBoundary() {

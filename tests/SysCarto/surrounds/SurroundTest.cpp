@@ -230,6 +230,9 @@ private slots:
     double const turned = (onGlobe(*map, {300000, 0}).x() - 24.6) * std::sin(38.53 / degreesPerRadian);
     double const angle = angleOf(*framed<MarkerNorthArrow>(map, whole, "{'trueNorth':true}"));
     QVERIFY2(std::abs(angle - turned) < 0.01 && angle > 2, qPrintable(QString("%1, not %2").arg(angle).arg(turned)));
+    MapHost::setRotation(*map, 70);
+    QCOMPARE(angleOf(*framed<MarkerNorthArrow>(map, whole)), 70.0);
+    QCOMPARE(angleOf(*framed<MarkerNorthArrow>(map, whole, "{'trueNorth':true}")), angle + 70);
     QCOMPARE(angleOf(*framed<MarkerNorthArrow>(mapOf("", 0, 0, 1), whole, "{'trueNorth':true}")), 0.0);
     QCOMPARE(angleOf(*framed<MarkerNorthArrow>(mapOf("EPSG:3995", 0, 0, 1), whole, "{'trueNorth':true}")), 0.0);
   }
