@@ -52,7 +52,9 @@ QString readable(FieldInfo const& info, QJsonValue const& value) {
         return QStringLiteral("1:") + number(value.toDouble());
       return unit.isEmpty() ? number(value.toDouble()) : number(value.toDouble()) + QChar(0x202f) + unit;
     case Kind::Text:
-      if (info.rules.textKind == TextKind::Svg) return Texts::tr("%1 characters").arg(value.toString().size());
+      if (info.rules.textKind == TextKind::Picture && value.toString().isEmpty()) return QString();
+      if (info.rules.textKind == TextKind::Svg || info.rules.textKind == TextKind::Picture)
+        return Texts::tr("%1 characters").arg(value.toString().size());
       return value.toString().left(maxShown).simplified();
     case Kind::Texts: return value.toVariant().toStringList().join(QStringLiteral(", ")).left(maxShown);
     case Kind::NumberList:

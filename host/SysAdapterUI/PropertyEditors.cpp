@@ -2,6 +2,7 @@
 
 #include "ColorButton.h"
 
+#include "host/SysCarto/elements/EmbeddedPicture.h"
 #include "host/SysUtility/ScaleText.h"
 
 #include <QAction>
@@ -35,7 +36,9 @@ using Kind = FieldInfo::Kind;
 namespace {
 
 constexpr int linesOfAText = 5;
-constexpr qint64 maxSvgBytes = 8 * 1024 * 1024;  // more than a reader takes, so that it is the one to refuse
+constexpr qint64 maxSvgBytes = 8 * 1024 * 1024;       // more than a reader takes, so that it is the one to refuse
+constexpr qint64 maxPictureBytes = 32 * 1024 * 1024;  // likewise
+QLatin1String const picturePatterns(" (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)");
 
 double stepOf(Unit unit) {
   return unit == Unit::Centimetre || unit == Unit::LineWidth ? 0.1 : unit == Unit::Point ? 0.5 : 1;
@@ -211,21 +214,24 @@ public:
     button_->setShortcut(Qt::ALT + Qt::Key_Down);
     button_->setToolTip(QStringLiteral("%1 (%2)").arg(help, button_->shortcut().toString(QKeySequence::NativeText)));
     button_->setShortcutContext(Qt::WidgetShortcut);
-    edit->setReadOnly(kind_ == TextKind::Svg);
+    edit->setReadOnly(holdsFile());
     connect(button_, &QAction::triggered, this, [this, isColor] { isColor ? chooseColor() : chooseFile(); });
   }
 
   void show(QVariant const& value) override {
     text_ = value.toString();
     isTaken_ = false;
-    LineField::show(kind_ == TextKind::Svg ? FieldEditor::tr("%1 characters").arg(text_.size()) : text_);
+    LineField::show(holdsFile() && !text_.isEmpty() ? FieldEditor::tr("%1 characters").arg(text_.size()) : text_);
     if (kind_ == TextKind::Color) button_->setIcon(colorIcon(QColor(text_), edit_->palette().color(QPalette::Dark)));
   }
   bool isChanged() const override { return isTaken_ || LineField::isChanged(); }
-  QString text() const override { return kind_ == TextKind::Svg ? text_ : edit_->text(); }
+  QString text() const override { return holdsFile() ? text_ : edit_->text(); }
   QJsonValue value() const override { return text(); }
 
 private:
+  // The content of a file, which nobody types.
+  bool holdsFile() const { return kind_ == TextKind::Svg || kind_ == TextKind::Picture; }
+
   void take(QString const& text) {
     text_ = text;
     edit_->setText(text);
@@ -240,13 +246,19 @@ private:
   }
 
   void chooseFile() {
-    QString const filter = kind_ == TextKind::Svg ? FieldEditor::tr("Pictures (*.svg)") : QString();
-    QString const path =
-        QFileDialog::getOpenFileName(edit_, FieldEditor::tr("Choose a File"), QFileInfo(text_).path(), filter);
+    QString const filter = kind_ == TextKind::Svg       ? FieldEditor::tr("Pictures (*.svg)")
+                           : kind_ == TextKind::Picture ? FieldEditor::tr("Pictures") + picturePatterns
+                                                        : QString();
+    QString const folder = holdsFile() ? QString() : QFileInfo(text_).path();
+    QString const path = QFileDialog::getOpenFileName(edit_, FieldEditor::tr("Choose a File"), folder, filter);
     if (path.isEmpty()) return;
-    if (kind_ != TextKind::Svg) return take(path);
+    if (!holdsFile()) return take(path);
     QFile file(path);
-    take(file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(maxSvgBytes)) : path);
+    QByteArray const content = file.open(QIODevice::ReadOnly)
+                                   ? file.read(kind_ == TextKind::Svg ? maxSvgBytes : maxPictureBytes)
+                                   : QByteArray();
+    QString const text = kind_ == TextKind::Svg ? QString::fromUtf8(content) : SysCarto::embeddedPicture(content);
+    take(text.isEmpty() ? path : text);  // a reader says what is wrong
   }
 
   TextKind const kind_;
@@ -256,7 +268,9 @@ private:
   bool isTaken_ = false;
 };
 
-bool hasButton(TextKind kind) { return kind == TextKind::Color || kind == TextKind::File || kind == TextKind::Svg; }
+bool hasButton(TextKind kind) {
+  return kind == TextKind::Color || kind == TextKind::File || kind == TextKind::Svg || kind == TextKind::Picture;
+}
 
 }  // namespace
 

@@ -26,8 +26,8 @@ struct Range {
   Unit unit = Unit::None;
 };
 
-/// What a text is to the person who enters it; it also sets how long the text may be.
-enum class TextKind { Line, Lines, Color, File, Svg, Attribute, Condition, CoordinateSystem };
+/// What a text is to the person who enters it; it also sets how long the text may be. A picture is a data URI.
+enum class TextKind { Line, Lines, Color, File, Svg, Picture, Attribute, Condition, CoordinateSystem };
 
 /// A fixed count of numbers that belong together: x and y, or xmin, ymin, xmax and ymax.
 enum class NumbersKind { Point, Offset, Rectangle };
@@ -255,6 +255,9 @@ private:
 
 /// How many numbers, and how many characters at most.
 constexpr int countOf(NumbersKind kind) { return kind == NumbersKind::Rectangle ? 4 : 2; }
-constexpr int maxCharacters(TextKind kind) { return kind == TextKind::Svg ? 2 * 1024 * 1024 : 16384; }
+constexpr int maxCharacters(TextKind kind) {
+  constexpr int mebi = 1024 * 1024;
+  return kind == TextKind::Picture ? 32 * mebi : kind == TextKind::Svg ? 2 * mebi : 16384;
+}
 
 }  // namespace SysUtility

@@ -87,6 +87,7 @@ QString shown(TextKind kind) {
     case TextKind::Color: return QStringLiteral("colour");
     case TextKind::File: return QStringLiteral("path");
     case TextKind::Svg: return QStringLiteral("SVG");
+    case TextKind::Picture: return QStringLiteral("data URI");
     case TextKind::Condition: return QStringLiteral("condition");
     case TextKind::CoordinateSystem: return QStringLiteral("coordinate system");
   }

@@ -52,7 +52,7 @@ void enter(QWidget& editor, FieldInfo const& info, QVariant const& now) {
     lines->insertPlainText(otherText(info, now));
     return;
   }
-  if (info.kind == Kind::Text && info.rules.textKind == TextKind::Svg) {
+  if (info.kind == Kind::Text && (info.rules.textKind == TextKind::Svg || info.rules.textKind == TextKind::Picture)) {
     Person person;
     person.sets("file", PLOTVANE_SOURCE_DIR "/host/desktop/icons/properties.svg");
     return editor.findChild<QToolButton*>()->click();

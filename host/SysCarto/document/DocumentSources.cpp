@@ -50,7 +50,7 @@ QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
                         problem.isEmpty() ? problem : Texts::tr("Layer “%1”: %2").arg(layer.GetName(), problem)});
       },
       [&](PictureElement const& picture) {
-        if (!picture.path().isEmpty()) sources.append({picture.path(), picture.problem()});
+        if (picture.data().isEmpty() && !picture.path().isEmpty()) sources.append({picture.path(), picture.problem()});
       });
   return sources;
 }

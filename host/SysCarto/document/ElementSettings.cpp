@@ -3,6 +3,7 @@
 #include "ElementFields.h"
 
 #include "host/SysCarto/document/SurroundFields.h"
+#include "host/SysCarto/elements/EmbeddedPicture.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysDisplay/SymbolFields.h"
 
@@ -165,22 +166,36 @@ void TextElementSettings::applyTo(TextElement& element, ElementScope const&) con
 PictureSettings PictureSettings::of(PictureElement const& picture, ElementScope const& scope) {
   QString const path = picture.path();
   bool const relates = scope.context.relativePaths && !path.isEmpty();
-  return {RectangleSettings::of(*picture.shape()), relates ? QDir(scope.context.folder).relativeFilePath(path) : path};
+  return {RectangleSettings::of(*picture.shape()), relates ? QDir(scope.context.folder).relativeFilePath(path) : path,
+          picture.data(), picture.angle()};
 }
 
 void PictureSettings::list(Fields& fields, ElementScope const& scope) {
   rectangle.list(fields, anywhere(scope));
   fields.text({"path", QT_TRANSLATE_NOOP("Fields", "File"),
                QT_TRANSLATE_NOOP("Fields",
-                                 "The file of the picture (PNG, JPEG or SVG), relative to the document; without one, a "
-                                 "crossed frame is drawn.")},
-              path, TextKind::File);
+                                 "The file of the picture (PNG, JPEG, TIFF, WebP or SVG), relative to the document; "
+                                 "without one, and without an embedded picture, a crossed frame is drawn.")},
+              path, TextKind::File, QString());
+  fields.text({"data", QT_TRANSLATE_NOOP("Fields", "Embedded picture"),
+               QT_TRANSLATE_NOOP("Fields",
+                                 "The picture itself, as a data URI; it is drawn in place of the file, which then only "
+                                 "says where the picture came from.")},
+              data, TextKind::Picture, QString());
+  if (fields.isReading() && fields.ok() && !data.isEmpty() && !embeddedBytes(data))
+    fields.fail("data", Texts::tr("is no picture; it begins with “data:image/png;base64,”, or with jpeg, tiff, webp or "
+                                  "svg+xml in place of png, and goes on with the file in base 64"));
+  fields.number({"angle", QT_TRANSLATE_NOOP("Fields", "Angle"),
+                 QT_TRANSLATE_NOOP("Fields", "How far the picture is turned counterclockwise about its middle.")},
+                angle, {-360, 360, Unit::Degree}, 0.0);
 }
 
 void PictureSettings::applyTo(PictureElement& picture, ElementScope const& scope) const {
   picture.setShape(rectangle.envelope());
-  picture.setPath(path.isEmpty() ? QString() : QDir::cleanPath(QDir(scope.context.folder).absoluteFilePath(path)));
-  if (path.isEmpty() || picture.problem().isEmpty()) return;
+  picture.setSource(path.isEmpty() ? QString() : QDir::cleanPath(QDir(scope.context.folder).absoluteFilePath(path)),
+                    data);
+  picture.setAngle(angle);
+  if ((path.isEmpty() && data.isEmpty()) || picture.problem().isEmpty()) return;
   ++scope.context.unreadableSources;
   scope.context.warnings << picture.problem();
 }

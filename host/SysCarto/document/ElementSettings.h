@@ -91,6 +91,8 @@ struct TextElementSettings {
 struct PictureSettings {
   RectangleSettings rectangle;
   QString path;  ///< as it is stored: relative to the document where it keeps relative paths
+  QString data;
+  double angle = 0;
 
   static PictureSettings of(PictureElement const& picture, ElementScope const& scope);
   void list(SysUtility::Fields& fields, ElementScope const& scope);

@@ -1,6 +1,7 @@
 #include "ElementHit.h"
 
 #include "GraphicElements.h"
+#include "PictureElement.h"
 
 #include <SysCarto/GroupElement.h>
 #include <SysDisplay/SimpleFillSymbol.h>
@@ -48,9 +49,16 @@ std::optional<bool> isDrawnAt(Element const& element, Envelope const& place,
   return kind->drawn()->Intersects(reached) && (isFilled(*kind->symbol()) || !kind->drawn()->Contains(reached));
 }
 
+// Anywhere in the rectangle as it is turned.
+std::optional<bool> isPictureAt(Element const& element, Envelope const& place, DisplayTransformation const&) {
+  auto const* const picture = dynamic_cast<PictureElement const*>(&element);
+  if (!picture || picture->angle() == 0) return std::nullopt;
+  return make<SysGeometry::Polygon>(QVector<QVector<QPointF>>{picture->turnedRectangle()})->Intersects(grown(place, 0));
+}
+
 using Question = std::optional<bool> (*)(Element const&, Envelope const&, DisplayTransformation const&);
 constexpr Question shapes[] = {isDrawnAt<LineElement>, isDrawnAt<PolygonElement>, isDrawnAt<RectangleElement>,
-                               isDrawnAt<EllipseElement>};
+                               isDrawnAt<EllipseElement>, isPictureAt};
 
 }  // namespace
 

@@ -6,6 +6,7 @@
 #include <SysGeometry/MultiPolyline.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace SysCarto {
 
@@ -28,8 +29,8 @@ QPointF centreOf(Envelope const& rectangle) {
 }
 
 // Drawn where there is no picture: a frame, just inside the rectangle, and a diagonal cross.
-void drawPlaceholder(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
-                     Envelope const& rectangle) {
+void drawPlaceholder(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, Envelope const& rectangle,
+                     QTransform const& turn) {
   auto const line = make<SysDisplay::SimpleLineSymbol>();
   line->SetWidth(placeholderWidthPt);
   line->SetColor(QColor(160, 160, 160));
@@ -37,9 +38,18 @@ void drawPlaceholder(QPainter& painter, _ptr_t<DisplayTransformation> const& tra
   QPointF const low(rectangle.GetXMin() + inset, rectangle.GetYMin() + inset);
   QPointF const high(rectangle.GetXMax() - inset, rectangle.GetYMax() - inset);
   QPointF const upperLeft(low.x(), high.y()), lowerRight(high.x(), low.y());
-  line->Draw(painter, transformation,
-             make<MultiPolyline>(QVector<QVector<QPointF>>{
-                 {low, lowerRight, high, upperLeft, low}, {low, high}, {upperLeft, lowerRight}}));
+  QVector<QVector<QPointF>> lines{{low, lowerRight, high, upperLeft, low}, {low, high}, {upperLeft, lowerRight}};
+  for (QVector<QPointF>& points : lines)
+    for (QPointF& point : points) point = turn.map(point);
+  line->Draw(painter, transformation, make<MultiPolyline>(lines));
+}
+
+// In a world whose y goes up.
+QTransform turnOf(Envelope const& rectangle, double degrees) {
+  QTransform turn;
+  if (std::fmod(degrees, 360) == 0) return turn;
+  QPointF const centre = centreOf(rectangle);
+  return turn.translate(centre.x(), centre.y()).rotate(degrees).translate(-centre.x(), -centre.y());
 }
 
 }  // namespace
@@ -50,7 +60,10 @@ PictureElement::PictureElement(PictureElement const&) = default;
 PictureElement::~PictureElement() = default;
 
 QString PictureElement::path() const { return source_->path(); }
-void PictureElement::setPath(QString const& path) { source_ = std::make_shared<PictureSource>(path); }
+QString PictureElement::data() const { return source_->data(); }
+void PictureElement::setSource(QString const& path, QString const& data) {
+  source_ = std::make_shared<PictureSource>(path, data);
+}
 void PictureElement::readAgain() { source_->forget(); }
 QString PictureElement::problem() const { return source_->problem(); }
 
@@ -59,7 +72,8 @@ int PictureElement::GetType() const { return ElementType::Picture; }
 void PictureElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
                           _ptr_t<TrackerCancel> const&) {
   if (!transformation) return;
-  if (!source_->problem().isEmpty()) return drawPlaceholder(painter, transformation, *shape());
+  if (!source_->problem().isEmpty())
+    return drawPlaceholder(painter, transformation, *shape(), turnOf(*shape(), angle_));
   QPointF const centre = centreOf(*shape());
   QPointF const upperLeft = upright(*transformation, centre, {shape()->GetXMin(), shape()->GetYMax()});
   QPointF const lowerRight = upright(*transformation, centre, {shape()->GetXMax(), shape()->GetYMin()});
@@ -67,12 +81,19 @@ void PictureElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const
   QPoint const to = transformation->FromMapPoint(lowerRight.x(), lowerRight.y());
   for (int side : {from.x(), from.y(), to.x(), to.y()})
     if (side < -maxCoordinatePx || side > maxCoordinatePx) return;
-  source_->draw(painter, QRect(from, QSize(std::max(1, to.x() - from.x()), std::max(1, to.y() - from.y()))));
+  source_->draw(painter, QRect(from, QSize(std::max(1, to.x() - from.x()), std::max(1, to.y() - from.y()))), angle_);
+}
+
+QPolygonF PictureElement::turnedRectangle() const {
+  QPointF const low(shape()->GetXMin(), shape()->GetYMin()), high(shape()->GetXMax(), shape()->GetYMax());
+  return turnOf(*shape(), angle_).map(QPolygonF(QVector<QPointF>{low, {high.x(), low.y()}, high, {low.x(), high.y()}}));
 }
 
 _ptr_t<Geometry> PictureElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
-  if (!transformation) return GetEnvelope();
-  return upright(*transformation, centreOf(*shape()), *GetEnvelope());
+  QRectF const box = turnedRectangle().boundingRect();
+  Envelope const turned(box.left(), box.top(), box.right(), box.bottom());
+  if (!transformation) return turned.GetEnvelope();
+  return upright(*transformation, centreOf(*shape()), turned);
 }
 
 _ptr_t<Element> PictureElement::Clone() const { return make<PictureElement>(*this); }

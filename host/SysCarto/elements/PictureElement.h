@@ -2,20 +2,35 @@
 
 #include "host/SysCarto/elements/ShapeElement.h"
 
+#include <QPolygonF>
+
 namespace SysCarto {
 
 class PictureSource;
 
-/// A picture from a file (PNG, JPEG or SVG), stretched into the element's rectangle. Clones share what was read.
+/// A picture (PNG, JPEG, TIFF, WebP or SVG), linked or embedded, stretched into the element's rectangle and turned
+/// about its middle. Clones share what was read.
 class SYSCARTO_EXPORT PictureElement final : public ShapeElement<SysGeometry::Envelope> {
 public:
   PictureElement();
   PictureElement(PictureElement const&);
   ~PictureElement() override;
 
-  /// Absolute. The file is read when the picture is first drawn or asked for its problem.
+  /// Absolute. The file is read when the picture is first drawn or asked for its problem; that of an embedded picture
+  /// only says where it came from.
   QString path() const;
-  void setPath(QString const& path);
+
+  /// The embedded picture (`EmbeddedPicture.h`); empty for one that is linked.
+  QString data() const;
+  void setPath(QString const& path) { setSource(path, QString()); }
+  void setSource(QString const& path, QString const& data);
+
+  /// Degrees counterclockwise about the middle of the rectangle. The envelope stays that of the picture upright.
+  double angle() const { return angle_; }
+  void setAngle(double degrees) { angle_ = degrees; }
+
+  /// The rectangle as it is turned: its corners counterclockwise, the lower left one first.
+  QPolygonF turnedRectangle() const;
 
   /// Reads the file anew, for the clones, too, when it is next asked for.
   void readAgain();
@@ -32,6 +47,7 @@ public:
 
 private:
   std::shared_ptr<PictureSource> source_;
+  double angle_ = 0;
 };
 
 }  // namespace SysCarto

@@ -1,15 +1,20 @@
 #include "PictureSource.h"
 
+#include "EmbeddedPicture.h"
+
 #include "host/SysDisplay/DrawTarget.h"
 #include "host/SysDisplay/SvgCheck.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
 
 #include <algorithm>
+#include <cmath>
 
 namespace SysCarto {
 
@@ -24,13 +29,11 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(PictureElement)
 };
 
-bool isPixelFormat(QByteArray const& format) { return format == "png" || format == "jpeg" || format == "jpg"; }
-
 qint64 areaOf(QSize const& size) { return qint64(size.width()) * size.height(); }
 
 }  // namespace
 
-PictureSource::PictureSource(QString path) : path_(std::move(path)) {}
+PictureSource::PictureSource(QString path, QString data) : path_(std::move(path)), data_(std::move(data)) {}
 PictureSource::~PictureSource() = default;
 
 void PictureSource::forget() {
@@ -46,75 +49,101 @@ QString const& PictureSource::problem() {
 }
 
 QString PictureSource::load() {
+  if (!data_.isEmpty()) {
+    QBuffer bytes;
+    bytes.setData(embeddedBytes(data_).value_or(QByteArray()));
+    bytes.open(QIODevice::ReadOnly);
+    return load(bytes, Texts::tr("The embedded picture"));
+  }
   if (path_.isEmpty()) return Texts::tr("The picture has no file; choose one.");
   if (!QFileInfo(path_).isFile()) return Texts::tr("%1: there is no such picture file; put it there.").arg(path_);
-  QImageReader reader(path_);
-  reader.setDecideFormatFromContent(true);
-  QByteArray const format = reader.format();
-  if (isPixelFormat(format)) return loadImage(reader);
-  if (format == "svg") return loadSvg();
-  return Texts::tr("%1: the picture is neither PNG nor JPEG nor SVG; save it as one of these.").arg(path_);
+  QFile file(path_);
+  if (!file.open(QIODevice::ReadOnly)) return Texts::tr("%1: the picture can't be opened.").arg(path_);
+  return load(file, path_);
 }
 
-QString PictureSource::loadImage(QImageReader& reader) {
+QString PictureSource::load(QIODevice& file, QString const& name) {
+  QByteArray const format = pictureFormat(file);
+  if (format == "svg") return loadSvg(file, name);
+  if (!format.isEmpty()) return loadImage(file, name);
+  return Texts::tr("%1: the picture is neither PNG nor JPEG, TIFF, WebP or SVG; save it as one of these.").arg(name);
+}
+
+QString PictureSource::loadImage(QIODevice& file, QString const& name) {
+  QImageReader reader(&file);
+  reader.setDecideFormatFromContent(true);
   QSize const size = reader.size();
-  if (size.isEmpty()) return Texts::tr("%1: the picture's size can't be read; save it anew.").arg(path_);
+  if (size.isEmpty()) return Texts::tr("%1: the picture's size can't be read; save it anew.").arg(name);
   if (std::max(size.width(), size.height()) > maxSidePx || areaOf(size) > maxPixels)
     return Texts::tr("%1: the picture has %2 × %3 pixels; make it smaller than %4 pixels a side and %5 pixels in all.")
-        .arg(path_, QString::number(size.width()), QString::number(size.height()), QString::number(maxSidePx),
+        .arg(name, QString::number(size.width()), QString::number(size.height()), QString::number(maxSidePx),
              QString::number(maxPixels));
   reader.setAutoTransform(true);
   QImage const image = reader.read();
-  if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(path_, reader.errorString());
+  if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(name, reader.errorString());
   image_ = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
   return {};
 }
 
-QString PictureSource::loadSvg() {
-  QFile file(path_);
-  if (!file.open(QIODevice::ReadOnly)) return Texts::tr("%1: the picture can't be opened.").arg(path_);
+QString PictureSource::loadSvg(QIODevice& file, QString const& name) {
   QByteArray const content = file.read(maxSvgBytes + 1);
   QString const refused = SysDisplay::svgProblem(content);
-  if (!refused.isEmpty()) return QStringLiteral("%1: %2.").arg(path_, refused);
+  if (!refused.isEmpty()) return QStringLiteral("%1: %2.").arg(name, refused);
   svg_ = std::make_unique<QSvgRenderer>(content);
   if (svg_->isValid() && !svg_->viewBoxF().isEmpty()) return {};
   svg_.reset();
-  return Texts::tr("%1: the SVG can't be drawn; save it with a size.").arg(path_);
+  return Texts::tr("%1: the SVG can't be drawn; save it with a size.").arg(name);
 }
 
-void PictureSource::draw(QPainter& painter, QRect const& targetPx) {
+void PictureSource::draw(QPainter& painter, QRect const& targetPx, double angleDegrees) {
   if (!problem().isEmpty() || targetPx.isEmpty()) return;
-  if (svg_ || areaOf(targetPx.size()) > areaOf(image_.size())) return drawCells(painter, targetPx);
-  if (reduced_.size() != targetPx.size())
-    reduced_ = image_.scaled(targetPx.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+  QPointF const middle(targetPx.width() / 2.0, targetPx.height() / 2.0);
+  QTransform turn;
+  if (std::fmod(angleDegrees, 360) != 0)  // pixels go down, so that the painter turns the other way
+    turn.translate(middle.x(), middle.y()).rotate(-angleDegrees).translate(-middle.x(), -middle.y());
+  if (turn.isIdentity() && reduces(targetPx.size()))
+    painter.drawImage(targetPx.topLeft(), reducedTo(targetPx.size()));
+  else
+    drawCells(painter, targetPx, turn);
+}
+
+bool PictureSource::reduces(QSize const& targetSize) const {
+  return !svg_ && areaOf(targetSize) <= areaOf(image_.size());
+}
+
+QImage const& PictureSource::reducedTo(QSize const& targetSize) {
+  if (reduced_.size() != targetSize)
+    reduced_ = image_.scaled(targetSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                    .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-  painter.drawImage(targetPx.topLeft(), reduced_);
+  return reduced_;
 }
 
 // A picture that is larger than its source could be of any size. It is made in cells that hang on its corner, and no
-// tile draws a part of a cell: what Qt makes of an enlarged picture depends on where it begins to draw.
-void PictureSource::drawCells(QPainter& painter, QRect const& targetPx) {
-  QRect const seen = (targetPx & SysDisplay::reachableArea(painter).toAlignedRect()).translated(-targetPx.topLeft());
+// tile draws a part of a cell: what Qt makes of an enlarged or turned picture depends on where it begins to draw.
+void PictureSource::drawCells(QPainter& painter, QRect const& targetPx, QTransform const& turn) {
+  QRect const whole = turn.mapRect(QRectF(QPointF(0, 0), targetPx.size())).toAlignedRect();
+  QRect const seen = whole & SysDisplay::reachableArea(painter).toAlignedRect().translated(-targetPx.topLeft());
   if (seen.isEmpty()) return;
-  QRect const whole(QPoint(0, 0), targetPx.size());
-  for (int y = seen.top() / cellPx * cellPx; y <= seen.bottom(); y += cellPx)
-    for (int x = seen.left() / cellPx * cellPx; x <= seen.right(); x += cellPx) {
+  auto const firstCell = [](int from, int origin) { return from - (from - origin) % cellPx; };
+  for (int y = firstCell(seen.top(), whole.top()); y <= seen.bottom(); y += cellPx)
+    for (int x = firstCell(seen.left(), whole.left()); x <= seen.right(); x += cellPx) {
       QRect const part = QRect(x, y, cellPx, cellPx) & whole;
-      painter.drawImage(targetPx.topLeft() + part.topLeft(), cell(part, whole.size()));
+      painter.drawImage(targetPx.topLeft() + part.topLeft(), cell(part, targetPx.size(), turn));
     }
 }
 
-QImage PictureSource::cell(QRect const& part, QSize const& targetSize) {
+QImage PictureSource::cell(QRect const& part, QSize const& targetSize, QTransform const& turn) {
   QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
   QPainter painter(&image);
   painter.translate(-part.topLeft());
+  painter.setTransform(turn, true);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   if (svg_)
     svg_->render(&painter, QRectF(QPointF(0, 0), targetSize));
   else
-    painter.drawImage(QRectF(QPointF(0, 0), targetSize), image_);
+    painter.drawImage(QRectF(QPointF(0, 0), targetSize), reduces(targetSize) ? reducedTo(targetSize) : image_);
   return image;
 }
 

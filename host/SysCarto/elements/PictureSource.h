@@ -5,37 +5,44 @@
 
 #include <memory>
 
-class QImageReader;
+class QIODevice;
 class QPainter;
 class QSvgRenderer;
 
 namespace SysCarto {
 
-/// A picture file: read when it is first needed, checked before it is decoded.
+/// A picture, in a file or embedded: read when it is first needed, checked before it is decoded.
 class PictureSource {
 public:
-  explicit PictureSource(QString path);
+  /// `data` is a picture's data URI (`EmbeddedPicture.h`); where it is empty, the picture is in the file.
+  explicit PictureSource(QString path, QString data = {});
   ~PictureSource();
 
   QString const& path() const { return path_; }
+  QString const& data() const { return data_; }
 
-  /// Reads the file anew when it is next asked for.
+  /// Reads the picture anew when it is next asked for.
   void forget();
 
   /// Why the picture can't be drawn, as a sentence; empty where it can.
   QString const& problem();
 
-  /// Draws the picture into whole pixels, so that it comes out the same whatever part of it the painter reaches.
-  void draw(QPainter& painter, QRect const& targetPx);
+  /// Draws the picture into whole pixels, turned counterclockwise about their middle, so that it comes out the same
+  /// whatever part of it the painter reaches.
+  void draw(QPainter& painter, QRect const& targetPx, double angleDegrees);
 
 private:
   QString load();
-  QString loadSvg();
-  QString loadImage(QImageReader& reader);
-  void drawCells(QPainter& painter, QRect const& targetPx);
-  QImage cell(QRect const& part, QSize const& targetSize);
+  QString load(QIODevice& file, QString const& name);
+  QString loadSvg(QIODevice& file, QString const& name);
+  QString loadImage(QIODevice& file, QString const& name);
+  bool reduces(QSize const& targetSize) const;
+  QImage const& reducedTo(QSize const& targetSize);
+  void drawCells(QPainter& painter, QRect const& targetPx, QTransform const& turn);
+  QImage cell(QRect const& part, QSize const& targetSize, QTransform const& turn);
 
   QString const path_;
+  QString const data_;
   bool isLoaded_ = false;
   QString problem_;
   QImage image_;

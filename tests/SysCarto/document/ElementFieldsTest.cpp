@@ -42,6 +42,10 @@ private slots:
         "{'type':'surround','rectangle':[0,0,1,1],'surround':{'kind':'legend','map':5}}", "surround.map");
     row("a frame in a group", "{'type':'group','members':[{'type':'dataFrame','map':1,'rectangle':[0,0,1,1]}]}",
         "members[0].type");
+    row("an embedded text", "{'type':'picture','rectangle':[0,0,1,1],'data':'data:text/plain;base64,aGFsbG8='}",
+        "data");
+    row("base 64 that breaks off", "{'type':'picture','rectangle':[0,0,1,1],'data':'data:image/png;base64,aGFsb*8='}",
+        "data");
     row("sixteen groups may be nested", nested(16), "");
     row("seventeen groups", nested(17), "groups are nested");
   }

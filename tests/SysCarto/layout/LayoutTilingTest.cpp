@@ -1,8 +1,11 @@
+#include "Files.h"
 #include "LayerFixture.h"
 #include "Symbols.h"
 #include "Elements.h"
 
 #include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/elements/ElementHit.h"
+#include "host/SysCarto/elements/EmbeddedPicture.h"
 #include "host/SysCarto/elements/PictureElement.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/PageHost.h"
@@ -152,6 +155,10 @@ private slots:
     row("picture that is made larger", sceneOf({picture("small.jpg")}));
     row("SVG picture", sceneOf({picture("drawing.svg")}));
     row("picture that is not there", sceneOf({picture("missing.png")}));
+    row("picture turned and made smaller", sceneOf({picture("large.png", 31)}));
+    row("picture turned and made larger", sceneOf({picture("small.jpg", -140)}));
+    row("SVG picture, turned", sceneOf({picture("drawing.svg", 17)}));
+    row("turned picture that is not there", sceneOf({picture("missing.png", 60)}));
   }
   void tilesDoNotShow() {
     auto const [scene] = fetched<Scene>();
@@ -186,6 +193,47 @@ private slots:
     QVERIFY(level.save(path("level.png")));
     QImage const whole = sheet.drawn(sceneOf({picture("level.png")}));
     for (int x = 100; x < 600; ++x) QCOMPARE(whole.pixel(x, 300), qRgb(10, 120, 200));
+  }
+
+  // Red, with a white corner at the lower left.
+  void everyFormatIsDrawnLinkedAndEmbeddedAndTurned_data() {
+    Rows<QString, bool> row;
+    for (QString const format : {"png", "jpg", "tif", "webp", "svg"})
+      for (bool embeds : {false, true}) row(qPrintable(format + (embeds ? ", embedded" : "")), format, embeds);
+  }
+  void everyFormatIsDrawnLinkedAndEmbeddedAndTurned() {
+    auto const [format, embeds] = fetched<QString, bool>();
+    QString const file = path("corner." + format);
+    QImage image(64, 64, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QPainter(&image).fillRect(0, 32, 32, 32, Qt::white);
+    if (format == "svg")
+      put(file,
+          "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 2 2'><path d='M0 0H2V2H1V1H0Z' fill='red'/></svg>");
+    else
+      QVERIFY(image.save(file, nullptr, 100));
+    auto const element = madeIn<PictureElement>(1, 1, 5, 5);
+    element->setSource(embeds ? QString() : file, embeds ? embeddedPicture(contentOf(file)) : QString());
+    QCOMPARE(element->problem(), QString());
+    auto const isRed = [](QColor const& colour) { return colour.red() > 200 && colour.green() < 60; };
+    // The corner goes round counterclockwise: from the lower left to the lower right, and so on.
+    QVector<QPointF> const corners{{1.5, 1.5}, {4.5, 1.5}, {4.5, 4.5}, {1.5, 4.5}};
+    for (int quarter = 0; quarter < 4; ++quarter) {
+      element->setAngle(90 * quarter);
+      QImage const drawn = sheet.drawn(sceneOf({element}));
+      for (int i = 0; i < 4; ++i) {
+        QPoint const at = sheet.transformation()->FromMapPoint(corners[i].x(), corners[i].y());
+        QCOMPARE(isRed(drawn.pixelColor(at)), i != quarter);
+      }
+    }
+    element->setAngle(45);
+    auto const turned = element->GetBoundary(sheet.transformation())->GetEnvelope();
+    QVERIFY(std::abs(turned->GetWidth() - 4 * M_SQRT2) < 1e-9);
+    QCOMPARE(element->GetEnvelope()->GetWidth(), 4.0);
+    auto const hits = [&element = element](double x, double y) {
+      return isHit(*element, Envelope(x - 0.01, y - 0.01, x + 0.01, y + 0.01), sheet.transformation());
+    };
+    QVERIFY(hits(3, 0.4) && hits(3, 3) && !hits(1.1, 1.1));
   }
 
   void refusesAPictureWithASentence_data() {
@@ -224,9 +272,10 @@ private slots:
 private:
   QString path(QString const& name) const { return folder_.filePath(name); }
 
-  _ptr_t<PictureElement> picture(QString const& name) const {
+  _ptr_t<PictureElement> picture(QString const& name, double angle = 0) const {
     auto const element = madeIn<PictureElement>(0.33, 0.41, 6.87, 5.36);
     element->setPath(path(name));
+    element->setAngle(angle);
     return element;
   }
 
