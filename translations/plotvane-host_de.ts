@@ -575,7 +575,7 @@
     </message>
     <message>
         <source>a selected element that is not a locked data frame</source>
-        <translation>ein ausgewähltes Element, das kein gesperrter Datenrahmen ist</translation>
+        <translation type="vanished">ein ausgewähltes Element, das kein gesperrter Datenrahmen ist</translation>
     </message>
     <message>
         <source>a selected element</source>
@@ -648,6 +648,74 @@
     <message>
         <source>Show or hide the properties of what is selected</source>
         <translation>Die Eigenschaften des Ausgewählten zeigen oder verbergen</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Move the selected elements to the clipboard</source>
+        <translation>Verschiebt die ausgewählten Elemente in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>a selected element that is not locked</source>
+        <translation>ein ausgewähltes Element, das nicht gesperrt ist</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the selected elements to the clipboard</source>
+        <translation>Kopiert die ausgewählten Elemente in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Put the elements, the text or the picture of the clipboard on the page</source>
+        <translation>Fügt die Elemente, den Text oder das Bild der Zwischenablage auf der Seite ein</translation>
+    </message>
+    <message>
+        <source>Paste in Place</source>
+        <translation>An derselben Stelle einfügen</translation>
+    </message>
+    <message>
+        <source>Put the elements of the clipboard where they were copied</source>
+        <translation>Fügt die Elemente der Zwischenablage dort ein, wo sie kopiert wurden</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Put copies of the selected elements beside them</source>
+        <translation>Legt Kopien der ausgewählten Elemente neben sie</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppieren</translation>
+    </message>
+    <message>
+        <source>Make one element of the selected ones</source>
+        <translation>Macht aus den ausgewählten Elementen eines</translation>
+    </message>
+    <message>
+        <source>two selected elements, no data frames and no map surrounds among them</source>
+        <translation>zwei ausgewählte Elemente, keine Datenrahmen und keine Randangaben darunter</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>Gruppierung aufheben</translation>
+    </message>
+    <message>
+        <source>Take the selected groups apart</source>
+        <translation>Löst die ausgewählten Gruppen auf</translation>
+    </message>
+    <message>
+        <source>a selected group</source>
+        <translation>eine ausgewählte Gruppe</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1223,29 @@
     </message>
 </context>
 <context>
+    <name>ElementClip</name>
+    <message>
+        <source>is not “%1”, so these are no elements</source>
+        <translation>ist nicht „%1“, also sind dies keine Elemente</translation>
+    </message>
+    <message>
+        <source>the elements were copied by a newer version of Plotvane, as version %1</source>
+        <translation>die Elemente wurden von einer neueren Version von Plotvane kopiert, als Version %1</translation>
+    </message>
+    <message>
+        <source>The elements take %1 MB, and the clipboard takes %2; copy fewer of them, or link their pictures.</source>
+        <translation>Die Elemente brauchen %1 MB, und die Zwischenablage nimmt %2; kopieren Sie weniger, oder verknüpfen Sie ihre Bilder.</translation>
+    </message>
+    <message>
+        <source>The elements can&apos;t be copied: %1.</source>
+        <translation>Die Elemente können nicht kopiert werden: %1.</translation>
+    </message>
+    <message>
+        <source>The elements on the clipboard can&apos;t be read: %1; copy them anew.</source>
+        <translation>Die Elemente in der Zwischenablage können nicht gelesen werden: %1; kopieren Sie sie neu.</translation>
+    </message>
+</context>
+<context>
     <name>ElementFields</name>
     <message>
         <source>%1 is another element&apos;s handle already</source>
@@ -1457,7 +1548,7 @@
     </message>
     <message>
         <source>Group</source>
-        <translation>Gruppe</translation>
+        <translation>Gruppieren</translation>
     </message>
     <message>
         <source>Data frame</source>
@@ -2879,6 +2970,18 @@
         <source>Whether it points to true north at the map&apos;s centre, and not to where up on the map is.</source>
         <translation>Ob er in der Mitte der Karte nach geografisch Nord zeigt und nicht dorthin, wo auf der Karte oben ist.</translation>
     </message>
+    <message>
+        <source>Other maps</source>
+        <translation>Andere Karten</translation>
+    </message>
+    <message>
+        <source>How many maps more the surrounds follow.</source>
+        <translation>Wie vielen weiteren Karten die Randangaben folgen.</translation>
+    </message>
+    <message>
+        <source>Those of the data frames.</source>
+        <translation>Die der Datenrahmen.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -2987,6 +3090,21 @@
     <message>
         <source>N</source>
         <translation>N</translation>
+    </message>
+</context>
+<context>
+    <name>Grouping</name>
+    <message>
+        <source>Groups lie at most %1 deep in each other; ungroup some of them first.</source>
+        <translation>Gruppen liegen höchstens %1-fach ineinander; heben Sie zuerst einige Gruppierungen auf.</translation>
+    </message>
+    <message>
+        <source>Group the selected elements</source>
+        <translation>Die ausgewählten Elemente gruppieren</translation>
+    </message>
+    <message>
+        <source>Ungroup the selected elements</source>
+        <translation>Die Gruppierung der ausgewählten Elemente aufheben</translation>
     </message>
 </context>
 <context>
@@ -3438,6 +3556,53 @@
     <message>
         <source>My symbols</source>
         <translation type="vanished">Meine Symbole</translation>
+    </message>
+</context>
+<context>
+    <name>PageClipboard</name>
+    <message>
+        <source>Cut the selected elements</source>
+        <translation>Die ausgewählten Elemente ausschneiden</translation>
+    </message>
+    <message>
+        <source>The clipboard holds nothing that can lie on a page; copy elements, a text or a picture.</source>
+        <translation>Die Zwischenablage enthält nichts, was auf einer Seite liegen kann; kopieren Sie Elemente, einen Text oder ein Bild.</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no elements, which alone have a place; copy some.</source>
+        <translation>Die Zwischenablage enthält keine Elemente, und nur sie haben eine Stelle; kopieren Sie welche.</translation>
+    </message>
+    <message>
+        <source>Paste in place</source>
+        <translation>An derselben Stelle einfügen</translation>
+    </message>
+    <message>
+        <source>Duplicate the selected elements</source>
+        <translation>Die ausgewählten Elemente duplizieren</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard has more than %1 pixels a side; copy a smaller one.</source>
+        <translation>Das Bild in der Zwischenablage hat mehr als %1 Pixel je Seite; kopieren Sie ein kleineres.</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard can&apos;t be read; save it as a file and paste that.</source>
+        <translation>Das Bild in der Zwischenablage kann nicht gelesen werden; speichern Sie es als Datei und fügen Sie diese ein.</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard is too large to be embedded; save it as a file and paste that.</source>
+        <translation>Das Bild in der Zwischenablage ist zu groß, um eingebettet zu werden; speichern Sie es als Datei und fügen Sie diese ein.</translation>
+    </message>
+    <message>
+        <source>The text on the clipboard has %1 characters, and an element at most %2; copy a part of it.</source>
+        <translation>Der Text in der Zwischenablage hat %1 Zeichen und ein Element höchstens %2; kopieren Sie einen Teil davon.</translation>
+    </message>
+    <message>
+        <source>The text on the clipboard is blank; copy something else.</source>
+        <translation>Der Text in der Zwischenablage ist leer; kopieren Sie etwas anderes.</translation>
     </message>
 </context>
 <context>

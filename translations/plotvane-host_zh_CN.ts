@@ -575,7 +575,7 @@
     </message>
     <message>
         <source>a selected element that is not a locked data frame</source>
-        <translation>选中一个不是锁定数据框的元素</translation>
+        <translation type="vanished">选中一个不是锁定数据框的元素</translation>
     </message>
     <message>
         <source>a selected element</source>
@@ -648,6 +648,74 @@
     <message>
         <source>Show or hide the properties of what is selected</source>
         <translation>显示或隐藏所选内容的属性</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Move the selected elements to the clipboard</source>
+        <translation>将所选元素移到剪贴板</translation>
+    </message>
+    <message>
+        <source>a selected element that is not locked</source>
+        <translation>一个未锁定的所选元素</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy the selected elements to the clipboard</source>
+        <translation>将所选元素复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Put the elements, the text or the picture of the clipboard on the page</source>
+        <translation>将剪贴板中的元素、文本或图片放到页面上</translation>
+    </message>
+    <message>
+        <source>Paste in Place</source>
+        <translation>原位粘贴</translation>
+    </message>
+    <message>
+        <source>Put the elements of the clipboard where they were copied</source>
+        <translation>将剪贴板中的元素放到复制时的位置</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>制作副本</translation>
+    </message>
+    <message>
+        <source>Put copies of the selected elements beside them</source>
+        <translation>在所选元素旁放置其副本</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>组合</translation>
+    </message>
+    <message>
+        <source>Make one element of the selected ones</source>
+        <translation>将所选元素合为一个</translation>
+    </message>
+    <message>
+        <source>two selected elements, no data frames and no map surrounds among them</source>
+        <translation>两个所选元素，其中没有数据框和整饰要素</translation>
+    </message>
+    <message>
+        <source>Ungroup</source>
+        <translation>取消组合</translation>
+    </message>
+    <message>
+        <source>Take the selected groups apart</source>
+        <translation>将所选的组拆开</translation>
+    </message>
+    <message>
+        <source>a selected group</source>
+        <translation>一个所选的组</translation>
     </message>
 </context>
 <context>
@@ -1155,6 +1223,29 @@
     </message>
 </context>
 <context>
+    <name>ElementClip</name>
+    <message>
+        <source>is not “%1”, so these are no elements</source>
+        <translation>不是“%1”，因此这些不是元素</translation>
+    </message>
+    <message>
+        <source>the elements were copied by a newer version of Plotvane, as version %1</source>
+        <translation>这些元素由较新版本的 Plotvane 复制，版本为 %1</translation>
+    </message>
+    <message>
+        <source>The elements take %1 MB, and the clipboard takes %2; copy fewer of them, or link their pictures.</source>
+        <translation>这些元素占 %1 MB，而剪贴板可容纳 %2 MB；请少复制一些，或改为链接图片。</translation>
+    </message>
+    <message>
+        <source>The elements can&apos;t be copied: %1.</source>
+        <translation>无法复制元素：%1。</translation>
+    </message>
+    <message>
+        <source>The elements on the clipboard can&apos;t be read: %1; copy them anew.</source>
+        <translation>无法读取剪贴板中的元素：%1；请重新复制。</translation>
+    </message>
+</context>
+<context>
     <name>ElementFields</name>
     <message>
         <source>%1 is another element&apos;s handle already</source>
@@ -1457,7 +1548,7 @@
     </message>
     <message>
         <source>Group</source>
-        <translation>组</translation>
+        <translation>组合</translation>
     </message>
     <message>
         <source>Data frame</source>
@@ -2879,6 +2970,18 @@
         <source>Whether it points to true north at the map&apos;s centre, and not to where up on the map is.</source>
         <translation>是否指向地图中心处的真北，而不是地图的上方。</translation>
     </message>
+    <message>
+        <source>Other maps</source>
+        <translation>其他地图</translation>
+    </message>
+    <message>
+        <source>How many maps more the surrounds follow.</source>
+        <translation>整饰要素所跟随的其他地图的数量。</translation>
+    </message>
+    <message>
+        <source>Those of the data frames.</source>
+        <translation>数据框的地图。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -2987,6 +3090,21 @@
     <message>
         <source>N</source>
         <translation>N</translation>
+    </message>
+</context>
+<context>
+    <name>Grouping</name>
+    <message>
+        <source>Groups lie at most %1 deep in each other; ungroup some of them first.</source>
+        <translation>组最多嵌套 %1 层；请先取消其中一些组合。</translation>
+    </message>
+    <message>
+        <source>Group the selected elements</source>
+        <translation>组合所选元素</translation>
+    </message>
+    <message>
+        <source>Ungroup the selected elements</source>
+        <translation>取消组合所选元素</translation>
     </message>
 </context>
 <context>
@@ -3438,6 +3556,53 @@
     <message>
         <source>My symbols</source>
         <translation type="vanished">我的符号</translation>
+    </message>
+</context>
+<context>
+    <name>PageClipboard</name>
+    <message>
+        <source>Cut the selected elements</source>
+        <translation>剪切所选元素</translation>
+    </message>
+    <message>
+        <source>The clipboard holds nothing that can lie on a page; copy elements, a text or a picture.</source>
+        <translation>剪贴板中没有可放到页面上的内容；请复制元素、文本或图片。</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no elements, which alone have a place; copy some.</source>
+        <translation>剪贴板中没有元素，而只有元素才有位置；请复制一些。</translation>
+    </message>
+    <message>
+        <source>Paste in place</source>
+        <translation>原位粘贴</translation>
+    </message>
+    <message>
+        <source>Duplicate the selected elements</source>
+        <translation>复制所选元素</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard has more than %1 pixels a side; copy a smaller one.</source>
+        <translation>剪贴板中的图片每边超过 %1 像素；请复制较小的图片。</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard can&apos;t be read; save it as a file and paste that.</source>
+        <translation>无法读取剪贴板中的图片；请存为文件后粘贴该文件。</translation>
+    </message>
+    <message>
+        <source>The picture on the clipboard is too large to be embedded; save it as a file and paste that.</source>
+        <translation>剪贴板中的图片太大，无法嵌入；请存为文件后粘贴该文件。</translation>
+    </message>
+    <message>
+        <source>The text on the clipboard has %1 characters, and an element at most %2; copy a part of it.</source>
+        <translation>剪贴板中的文本有 %1 个字符，而元素最多有 %2 个；请复制其中一部分。</translation>
+    </message>
+    <message>
+        <source>The text on the clipboard is blank; copy something else.</source>
+        <translation>剪贴板中的文本是空白；请复制别的内容。</translation>
     </message>
 </context>
 <context>

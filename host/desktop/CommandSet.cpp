@@ -41,6 +41,7 @@ bool CommandSet::click(HostedCommand const& command) {
     OutputWatch const watch(views_.document());
     command.command->OnClick();
     problem = watch.problem();
+    if (problem.isEmpty()) problem = HostCommands::problemOf(*command.command);
   }
   views_.layoutView().catchUp();
   emit clicked();

@@ -50,8 +50,7 @@ signals:
   /// After each click.
   void clicked();
 
-  /// After a click whose command did not write the image that it was to write, which it says of its own accord to
-  /// nobody.
+  /// After a click whose command did not do what it was to do, which it says of its own accord to nobody.
   void failed(QString const& sentence);
 
 private:

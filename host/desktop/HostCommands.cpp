@@ -1,12 +1,17 @@
 #include "HostCommands.h"
 
 #include "DocumentSession.h"
+#include "drawing/Grouping.h"
+#include "drawing/PageClipboard.h"
 #include "drawing/SelectTool.h"
 #include "drawing/SelectionHandles.h"
 
 #include <SysFramework/HostAccess.h>
 
 #include <QCoreApplication>
+
+#include <memory>
+#include <vector>
 
 using SysUtility::_ptr_t;
 
@@ -18,6 +23,7 @@ public:
   bool IsEnable() override { return !action_.isEnabled || action_.isEnabled(); }
   bool IsChecked() override { return action_.isChecked && action_.isChecked(); }
   void OnClick() override { action_.click(); }
+  QString problem() const { return action_.problem ? action_.problem() : QString(); }
 
 private:
   HostCommands::Action const action_;
@@ -65,6 +71,30 @@ constexpr LayoutAction layoutActions[] = {
     {"Host_Unselect",  unselect,        hasSelection},
     {"Host_Delete",    deleteSelection, hasMovable},
 };
+// What may turn out to be impossible, which the function then says.
+struct TellingAction {
+  char const* identifier;
+  std::function<QString(SysCarto::PageLayout&)> click;
+  bool (*isEnabled)(SysCarto::PageLayout const&);
+};
+
+bool always(SysCarto::PageLayout const&) { return true; }
+
+std::vector<TellingAction> tellingActions(SysCarto::MapDocument const& document) {
+  auto const clipboard = std::make_shared<PageClipboard>(document);
+  auto const with = [clipboard](QString (PageClipboard::*function)(SysCarto::PageLayout&)) {
+    return [clipboard, function](SysCarto::PageLayout& layout) { return ((*clipboard).*function)(layout); };
+  };
+  return {
+      {"Host_Cut",          with(&PageClipboard::cut),          hasMovable},
+      {"Host_Copy",         with(&PageClipboard::copy),         hasSelection},
+      {"Host_Paste",        with(&PageClipboard::paste),        always},
+      {"Host_PasteInPlace", with(&PageClipboard::pasteInPlace), always},
+      {"Host_Duplicate",    with(&PageClipboard::duplicate),    hasSelection},
+      {"Host_Group",        groupSelection,                     canGroup},
+      {"Host_Ungroup",      ungroupSelection,                   canUngroup},
+  };
+}
 // clang-format on
 
 }  // namespace
@@ -80,6 +110,16 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) {
                                           return layout && row.isEnabled(*layout);
                                         },
                                         {}});
+  for (TellingAction const& row : tellingActions(session.document())) {
+    auto const problem = std::make_shared<QString>();
+    add(QLatin1String(row.identifier), {[&views, row, problem] { *problem = row.click(*shownLayout(views)); },
+                                        [&views, row] {
+                                          auto const layout = shownLayout(views);
+                                          return layout && row.isEnabled(*layout);
+                                        },
+                                        {},
+                                        [problem] { return *problem; }});
+  }
   for (auto const& [identifier, kind] : {std::make_pair("Host_LayoutView", DocumentViews::Kind::Layout),
                                          std::make_pair("Host_MapView", DocumentViews::Kind::Map)})
     add(QLatin1String(identifier),
@@ -92,4 +132,9 @@ _ptr_t<SysUI::ICommand> HostCommands::createCommand(QString const& identifier) c
   auto const action = actions_.constFind(identifier);
   if (action == actions_.constEnd()) return nullptr;
   return SysUtility::make<HostCommand>(*action);
+}
+
+QString HostCommands::problemOf(SysUI::ICommand const& command) {
+  auto const* const own = dynamic_cast<HostCommand const*>(&command);
+  return own ? own->problem() : QString();
 }

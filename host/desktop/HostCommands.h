@@ -14,11 +14,13 @@ class DocumentSession;
 /// The host's own commands, made by identifier as a plug-in makes its.
 class HostCommands {
 public:
-  /// What a command does; an empty `isEnabled` means always, an empty `isChecked` never.
+  /// What a command does; an empty `isEnabled` means always, an empty `isChecked` never. `problem` says after a click
+  /// why nothing was done, if anything.
   struct Action {
     std::function<void()> click;
     std::function<bool()> isEnabled;
     std::function<bool()> isChecked;
+    std::function<QString()> problem = {};
   };
 
   /// With the commands that work on a document and its views. Both are borrowed and outlive the commands.
@@ -29,6 +31,9 @@ public:
 
   /// Empty where there is no command of that name.
   SysUtility::_ptr_t<SysUI::ICommand> createCommand(QString const& identifier) const;
+
+  /// Why the latest click of one of these commands did nothing, as a sentence; empty for others.
+  static QString problemOf(SysUI::ICommand const& command);
 
 private:
   QHash<QString, Action> actions_;

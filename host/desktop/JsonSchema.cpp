@@ -61,6 +61,11 @@ QJsonObject textOf(ValueRules const& rules) {
                      {QStringLiteral("maxLength"), SysUtility::maxCharacters(rules.textKind)}};
   if (rules.textKind == TextKind::Color)
     schema.insert(QStringLiteral("pattern"), QStringLiteral("^#([0-9A-Fa-f]{6}|[0-9A-Fa-f]{8})$"));
+  else if (rules.textKind == TextKind::Picture)
+    schema.insert(
+        QStringLiteral("pattern"),
+        QStringLiteral(
+            "^(data:image/(png|jpeg|tiff|webp|svg\\+xml);base64,([A-Za-z0-9+/]{4})*[A-Za-z0-9+/]{2,3}={0,2})?$"));
   else if (rules.isFilled)
     schema.insert(QStringLiteral("pattern"), QStringLiteral("\\S"));
   return schema;

@@ -325,9 +325,10 @@ void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
   if (!bench_.views().rect().contains(bench_.views().mapFromGlobal(event->globalPos())))
     return QMainWindow::contextMenuEvent(event);
   QMenu menu;
-  for (char const* identifier : {"Host_Undo", "Host_Redo", "", "Host_SelectAll", "Host_Unselect", "Host_Delete", "",
-                                 "Plotvane_BringToFrontElements", "Plotvane_SendToBackElements", "",
-                                 "Plotvane_ZoomToWhole", "Plotvane_ZoomToOrigin"}) {
+  for (char const* identifier :
+       {"Host_Undo", "Host_Redo", "", "Host_Cut", "Host_Copy", "Host_Paste", "Host_Duplicate", "Host_Delete", "",
+        "Host_SelectAll", "Host_Unselect", "", "Host_Group", "Host_Ungroup", "Plotvane_BringToFrontElements",
+        "Plotvane_SendToBackElements", "", "Plotvane_ZoomToWhole", "Plotvane_ZoomToOrigin"}) {
     if (QAction* const action = actions_->find(QLatin1String(identifier)))
       menu.addAction(action);
     else

@@ -28,7 +28,9 @@ QStringList const commands =
         "Plotvane_DistributeVerticallyElements Plotvane_MakeSameSizeElements "
         "Plotvane_MakeSameWidthElements Plotvane_MakeSameHeightElements Plotvane_FittoMarginsElements "
         "Plotvane_FitWidthtoMarginsElements Plotvane_FitHeighttoMarginsElements Plotvane_LockDataFrame "
-        "Plotvane_UnlockDataFrame Host_SelectAll Host_Unselect Host_Delete Host_Undo Host_Redo")
+        "Plotvane_UnlockDataFrame Host_SelectAll Host_Unselect Host_Delete Host_Cut Host_Copy Host_Paste "
+        "Host_PasteInPlace "
+        "Host_Duplicate Host_Group Host_Ungroup Host_Undo Host_Redo")
         .split(' ');
 
 }  // namespace

@@ -30,7 +30,6 @@ namespace {
 constexpr Range onPage{-10000, 10000, Unit::Centimetre};
 constexpr double maxCoordinate = 1e12;  // graphics lie on maps, too, in map units
 constexpr int maxMembers = 100000, maxRings = 100000, maxGrids = 100;
-constexpr int maxDepth = 16;
 
 Range anywhere(ElementScope const& scope) {
   return {-maxCoordinate, maxCoordinate, scope.onMap ? Unit::MapUnit : Unit::Centimetre};
@@ -203,8 +202,8 @@ void PictureSettings::applyTo(PictureElement& picture, ElementScope const& scope
 GroupSettings GroupSettings::of(GroupElement const& group, ElementScope const&) { return {group.GetElements()}; }
 
 void GroupSettings::list(Fields& fields, ElementScope const& scope) {
-  if (scope.depth >= maxDepth)
-    return fields.fail(nullptr, Texts::tr("groups are nested more than %1 deep").arg(maxDepth));
+  if (scope.depth >= maxGroupDepth)
+    return fields.fail(nullptr, Texts::tr("groups are nested more than %1 deep").arg(maxGroupDepth));
   ElementScope const inner{scope.context, scope.onMap, scope.depth + 1};
   fields.list({"members", QT_TRANSLATE_NOOP("Fields", "Members"),
                QT_TRANSLATE_NOOP("Fields", "The elements of the group; groups lie at most 16 deep in each other."),

@@ -13,6 +13,9 @@
 
 namespace SysCarto {
 
+/// How many groups lie in each other at most.
+constexpr int maxGroupDepth = 16;
+
 /// Where an element is stored: the whole document, how many groups it lies in, and whether it lies on a map.
 struct ElementScope {
   DocumentContext& context;

@@ -171,6 +171,21 @@ void ElementContainer::restack(QList<ElementPtr> const& elements, Restacking res
   order_ = order;
 }
 
+void ElementContainer::setElements(QList<ElementPtr> const& elements) {
+  changing();
+  Order next;
+  for (ElementPtr const& element : elements) {
+    bool const isHere = element && find(element->GetHandle()) == element;
+    if (!element || (ElementHost::isPlaced(*element) && !isHere)) continue;
+    if (!isHere) ElementHost::setHandle(*element, freeHandle(element->GetHandle()));
+    qint64 const rank = next.elements.size();
+    if (next.ranks.contains(element->GetHandle())) continue;
+    next.elements.insert(next.elements.constEnd(), rank, element);
+    next.ranks.insert(element->GetHandle(), rank);
+  }
+  exchange(next);
+}
+
 void ElementContainer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, int phase,
                             _ptr_t<TrackerCancel> const& cancel) {
   if (phase != 1 || !transformation) return;

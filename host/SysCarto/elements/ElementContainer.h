@@ -49,6 +49,10 @@ public:
   /// Empty pointer where there is none of that handle.
   ElementPtr find(ElementHandle handle) const;
 
+  /// Makes these the elements, in this drawing order, as one change: what is not among them goes, and what is new gets
+  /// a handle as in `AddElement`.
+  void setElements(QList<ElementPtr> const& elements);
+
   // For the undo history.
 
   Order const& order() const { return order_; }

@@ -1,0 +1,110 @@
+#include "Grouping.h"
+
+#include "SelectionHandles.h"
+
+#include "host/SysCarto/document/ElementSettings.h"
+#include "host/SysCarto/elements/ElementContainer.h"
+
+#include <SysCarto/GroupElement.h>
+#include <SysFramework/HostAccess.h>
+
+#include <QCoreApplication>
+#include <QSet>
+
+#include <algorithm>
+
+using SysCarto::Element;
+using SysCarto::ElementContainer;
+using SysCarto::GroupElement;
+using SysCarto::PageLayout;
+using SysCarto::ElementType::DataFrame;
+using SysCarto::ElementType::MapSurroundFrame;
+using SysUtility::_ptr_t;
+using SysUtility::ptr_cast;
+
+namespace {
+
+using Elements = QList<_ptr_t<Element>>;
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Grouping)
+};
+
+// How many groups lie in each other, the outermost one counted.
+int depthOf(Element const& element) {
+  auto const* const group = dynamic_cast<GroupElement const*>(&element);
+  if (!group) return 0;
+  int depth = 0;
+  for (auto const& member : group->GetElements()) depth = std::max(depth, depthOf(*member));
+  return depth + 1;
+}
+
+QSet<SysCarto::ElementHandle> handlesOf(Elements const& elements) {
+  QSet<SysCarto::ElementHandle> handles;
+  for (auto const& element : elements) handles << element->GetHandle();
+  return handles;
+}
+
+// One step of undo, which makes the page's elements those in this order, and these the selection.
+void rearrange(PageLayout& layout, QString const& name, Elements const& order, Elements const& selection) {
+  auto& container = static_cast<ElementContainer&>(*layout.GetGraphicsContainer());
+  {
+    SysFramework::EditorOperation const operation(name);
+    container.setElements(order);
+  }
+  container.UnselectAllElements();
+  for (auto const& element : selection) container.SelectElement(element);
+  layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
+}
+
+}  // namespace
+
+QString groupSelection(PageLayout& layout) {
+  auto const chosen = handlesOf(movableSelection(layout));
+  auto const group = SysUtility::make<GroupElement>();
+  Elements order;
+  int place = 0;
+  for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
+    if (!chosen.contains(element->GetHandle())) {
+      order << element;
+      continue;
+    }
+    if (depthOf(*element) >= SysCarto::maxGroupDepth)
+      return Texts::tr("Groups lie at most %1 deep in each other; ungroup some of them first.")
+          .arg(SysCarto::maxGroupDepth);
+    group->AddElement(element->Clone());
+    place = order.size();
+  }
+  order.insert(place, group);
+  rearrange(layout, Texts::tr("Group the selected elements"), order, {group});
+  return {};
+}
+
+bool canGroup(PageLayout const& layout) {
+  auto const chosen = movableSelection(layout);
+  return chosen.size() >= 2 && std::none_of(chosen.begin(), chosen.end(), [](auto const& element) {
+           return element->GetType() == DataFrame || element->GetType() == MapSurroundFrame;
+         });
+}
+
+QString ungroupSelection(PageLayout& layout) {
+  auto const chosen = handlesOf(movableSelection(layout));
+  Elements order, selection;
+  for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
+    bool const isChosen = chosen.contains(element->GetHandle());
+    auto const group = isChosen ? ptr_cast<GroupElement>(element) : nullptr;
+    Elements parts;
+    for (auto const& member : group ? group->GetElements() : Elements()) parts << member->Clone();
+    if (!group) parts << element;
+    order += parts;
+    if (isChosen) selection += parts;
+  }
+  rearrange(layout, Texts::tr("Ungroup the selected elements"), order, selection);
+  return {};
+}
+
+bool canUngroup(PageLayout const& layout) {
+  auto const chosen = movableSelection(layout);
+  return std::any_of(chosen.begin(), chosen.end(),
+                     [](auto const& element) { return element->GetType() == SysCarto::ElementType::Group; });
+}
