@@ -1294,6 +1294,10 @@
         <source>another data frame shows this map already</source>
         <translation>ein anderer Datenrahmen zeigt diese Karte bereits</translation>
     </message>
+    <message>
+        <source>is no picture; it begins with “data:image/png;base64,”, or with jpeg, tiff, webp or svg+xml in place of png, and goes on with the file in base 64</source>
+        <translation>ist kein Bild; es beginnt mit „data:image/png;base64,“ oder mit jpeg, tiff, webp oder svg+xml statt png und geht mit der Datei in Base64 weiter</translation>
+    </message>
 </context>
 <context>
     <name>ExportSubcommand</name>
@@ -2624,7 +2628,7 @@
     </message>
     <message>
         <source>The file of the picture (PNG, JPEG or SVG), relative to the document; without one, a crossed frame is drawn.</source>
-        <translation>Die Datei des Bildes (PNG, JPEG oder SVG), relativ zum Dokument; ohne eine wird ein durchkreuzter Rahmen gezeichnet.</translation>
+        <translation type="vanished">Die Datei des Bildes (PNG, JPEG oder SVG), relativ zum Dokument; ohne eine wird ein durchkreuzter Rahmen gezeichnet.</translation>
     </message>
     <message>
         <source>The elements of the group; groups lie at most 16 deep in each other.</source>
@@ -2981,6 +2985,22 @@
     <message>
         <source>Those of the data frames.</source>
         <translation>Die der Datenrahmen.</translation>
+    </message>
+    <message>
+        <source>The file of the picture (PNG, JPEG, TIFF, WebP or SVG), relative to the document; without one, and without an embedded picture, a crossed frame is drawn.</source>
+        <translation>Die Datei des Bildes (PNG, JPEG, TIFF, WebP oder SVG), relativ zum Dokument; ohne sie und ohne eingebettetes Bild wird ein Rahmen mit Kreuz gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Embedded picture</source>
+        <translation>Eingebettetes Bild</translation>
+    </message>
+    <message>
+        <source>The picture itself, as a data URI; it is drawn in place of the file, which then only says where the picture came from.</source>
+        <translation>Das Bild selbst, als Data-URI; es wird statt der Datei gezeichnet, die dann nur sagt, woher das Bild kam.</translation>
+    </message>
+    <message>
+        <source>How far the picture is turned counterclockwise about its middle.</source>
+        <translation>Wie weit das Bild gegen den Uhrzeigersinn um seine Mitte gedreht ist.</translation>
     </message>
 </context>
 <context>
@@ -3635,7 +3655,7 @@
     </message>
     <message>
         <source>%1: the picture is neither PNG nor JPEG nor SVG; save it as one of these.</source>
-        <translation>%1: das Bild ist weder PNG noch JPEG noch SVG; speichern Sie es als eines davon.</translation>
+        <translation type="vanished">%1: das Bild ist weder PNG noch JPEG noch SVG; speichern Sie es als eines davon.</translation>
     </message>
     <message>
         <source>%1: the picture&apos;s size can&apos;t be read; save it anew.</source>
@@ -3656,6 +3676,14 @@
     <message>
         <source>%1: the SVG can&apos;t be drawn; save it with a size.</source>
         <translation>%1: das SVG kann nicht gezeichnet werden; speichern Sie es mit einer Größe.</translation>
+    </message>
+    <message>
+        <source>The embedded picture</source>
+        <translation>Das eingebettete Bild</translation>
+    </message>
+    <message>
+        <source>%1: the picture is neither PNG nor JPEG, TIFF, WebP or SVG; save it as one of these.</source>
+        <translation>%1: Das Bild ist weder PNG noch JPEG, TIFF, WebP oder SVG; speichern Sie es als eines davon.</translation>
     </message>
 </context>
 <context>
@@ -4139,6 +4167,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Choose Colour</source>
         <translation>Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
     </message>
 </context>
 <context>

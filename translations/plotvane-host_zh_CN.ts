@@ -1294,6 +1294,10 @@
         <source>another data frame shows this map already</source>
         <translation>另一个数据框已显示此地图</translation>
     </message>
+    <message>
+        <source>is no picture; it begins with “data:image/png;base64,”, or with jpeg, tiff, webp or svg+xml in place of png, and goes on with the file in base 64</source>
+        <translation>不是图片；它以“data:image/png;base64,”开头，或以 jpeg、tiff、webp 或 svg+xml 代替 png，其后是 base64 编码的文件</translation>
+    </message>
 </context>
 <context>
     <name>ExportSubcommand</name>
@@ -2624,7 +2628,7 @@
     </message>
     <message>
         <source>The file of the picture (PNG, JPEG or SVG), relative to the document; without one, a crossed frame is drawn.</source>
-        <translation>图片文件（PNG、JPEG 或 SVG），相对于文档；没有时绘制带叉的框。</translation>
+        <translation type="vanished">图片文件（PNG、JPEG 或 SVG），相对于文档；没有时绘制带叉的框。</translation>
     </message>
     <message>
         <source>The elements of the group; groups lie at most 16 deep in each other.</source>
@@ -2981,6 +2985,22 @@
     <message>
         <source>Those of the data frames.</source>
         <translation>数据框的地图。</translation>
+    </message>
+    <message>
+        <source>The file of the picture (PNG, JPEG, TIFF, WebP or SVG), relative to the document; without one, and without an embedded picture, a crossed frame is drawn.</source>
+        <translation>图片的文件（PNG、JPEG、TIFF、WebP 或 SVG），相对于文档；没有文件也没有嵌入图片时，绘制带叉的方框。</translation>
+    </message>
+    <message>
+        <source>Embedded picture</source>
+        <translation>嵌入图片</translation>
+    </message>
+    <message>
+        <source>The picture itself, as a data URI; it is drawn in place of the file, which then only says where the picture came from.</source>
+        <translation>图片本身，以 data URI 表示；绘制它而不绘制文件，文件只说明图片的来源。</translation>
+    </message>
+    <message>
+        <source>How far the picture is turned counterclockwise about its middle.</source>
+        <translation>图片绕其中心逆时针旋转的角度。</translation>
     </message>
 </context>
 <context>
@@ -3635,7 +3655,7 @@
     </message>
     <message>
         <source>%1: the picture is neither PNG nor JPEG nor SVG; save it as one of these.</source>
-        <translation>%1：图片既不是 PNG、JPEG 也不是 SVG；请另存为其中一种格式。</translation>
+        <translation type="vanished">%1：图片既不是 PNG、JPEG 也不是 SVG；请另存为其中一种格式。</translation>
     </message>
     <message>
         <source>%1: the picture&apos;s size can&apos;t be read; save it anew.</source>
@@ -3656,6 +3676,14 @@
     <message>
         <source>%1: the SVG can&apos;t be drawn; save it with a size.</source>
         <translation>%1：无法绘制 SVG；请带尺寸保存。</translation>
+    </message>
+    <message>
+        <source>The embedded picture</source>
+        <translation>嵌入的图片</translation>
+    </message>
+    <message>
+        <source>%1: the picture is neither PNG nor JPEG, TIFF, WebP or SVG; save it as one of these.</source>
+        <translation>%1：图片既不是 PNG，也不是 JPEG、TIFF、WebP 或 SVG；请另存为其中一种。</translation>
     </message>
 </context>
 <context>
@@ -4139,6 +4167,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Choose Colour</source>
         <translation>选择颜色</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
     </message>
 </context>
 <context>
