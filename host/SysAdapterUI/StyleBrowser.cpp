@@ -103,8 +103,8 @@ bool StyleBrowser::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-void StyleBrowser::show(orvSymbologyStyleClass styleClass, _ptr_t<Symbol> const& first) {
-  model_->load(styleClass, styleFiles());
+void StyleBrowser::show(orvSymbologyStyleClass styleClass, _ptr_t<Symbol> const& first, bool alsoOthers) {
+  model_->load(styleClass, styleFiles(), alsoOthers);
   int row = first ? model_->rowLike(*first) : -1;
   if (first && row < 0) {
     model_->addFirst(tr("Current symbol"), first);

@@ -23,8 +23,9 @@ public:
   ~StyleBrowser() override;
 
   /// Reads the libraries, and chooses the symbol that looks like `first`, which may be empty. One that no library has
-  /// stands in front of them.
-  void show(orvSymbologyStyleClass styleClass, SysUtility::_ptr_t<SysDisplay::Symbol> const& first);
+  /// stands in front of them. `alsoOthers` as for `StyleItemModel::load`.
+  void show(orvSymbologyStyleClass styleClass, SysUtility::_ptr_t<SysDisplay::Symbol> const& first,
+            bool alsoOthers = false);
 
   /// Empty where nothing is chosen.
   SysUtility::_ptr_t<SysDisplay::Symbol> current() const;

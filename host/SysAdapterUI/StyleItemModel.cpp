@@ -60,12 +60,15 @@ QString innerPart(QString const& category) {
 
 StyleItemModel::StyleItemModel(QObject* parent) : QAbstractListModel(parent) {}
 
-void StyleItemModel::load(orvSymbologyStyleClass styleClass, QStringList const& files) {
+void StyleItemModel::load(orvSymbologyStyleClass styleClass, QStringList const& files, bool alsoOthers) {
   beginResetModel();
   class_ = styleClass;
   entries_.clear();
   problems_.clear();
   for (QString const& file : files) loadFile(file);
+  auto const others =
+      std::stable_partition(entries_.begin(), entries_.end(), [](Entry const& entry) { return entry.isOfClass; });
+  if (!alsoOthers) entries_.erase(others, entries_.end());
   endResetModel();
 }
 
@@ -78,15 +81,15 @@ void StyleItemModel::loadFile(QString const& file) {
   }
   for (auto const& item : qAsConst(items)) {
     auto const symbol = SysUtility::ptr_cast<Symbol>(item->GetItem());
-    bool const belongs = symbol && symbol->GetType() == rowOf(class_).type &&
-                         isArrow(item->GetCategory()) == (class_ == NorthArrowStyle);
-    if (belongs) entries_.push_back({item->GetName(), innerPart(item->GetCategory()), file, symbol, {}});
+    bool const isOfClass = isArrow(item->GetCategory()) == (class_ == NorthArrowStyle);
+    if (symbol && symbol->GetType() == rowOf(class_).type)
+      entries_.push_back({item->GetName(), innerPart(item->GetCategory()), file, symbol, isOfClass, {}});
   }
 }
 
 void StyleItemModel::addFirst(QString const& name, _ptr_t<Symbol> const& symbol) {
   beginInsertRows({}, 0, 0);
-  entries_.insert(entries_.begin(), {name, QString(), QString(), symbol, {}});
+  entries_.insert(entries_.begin(), {name, QString(), QString(), symbol, true, {}});
   endInsertRows();
 }
 

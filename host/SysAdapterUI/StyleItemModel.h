@@ -23,8 +23,9 @@ public:
 
   explicit StyleItemModel(QObject* parent);
 
-  /// Reads the libraries anew. Those that can't be read are passed over; `problems` tells why.
-  void load(orvSymbologyStyleClass styleClass, QStringList const& files);
+  /// Reads the libraries anew. Those that can't be read are passed over; `problems` tells why. Behind the symbols of
+  /// the class may stand the others that could take their place.
+  void load(orvSymbologyStyleClass styleClass, QStringList const& files, bool alsoOthers = false);
   QStringList const& problems() const { return problems_; }
 
   /// Puts a symbol that is in no library in front of all others.
@@ -48,6 +49,7 @@ private:
   struct Entry {
     QString name, category, file;
     SysUtility::_ptr_t<SysDisplay::Symbol> symbol;
+    bool isOfClass;
     mutable QIcon picture;
   };
   void loadFile(QString const& file);

@@ -80,16 +80,18 @@ private:
   _ptr_t<Symbol> symbol_;
 };
 
-SymbolChooser::SymbolChooser(_ptr_t<Symbol> const& symbol, QStringList kinds, QColor const& background, QWidget* parent)
+SymbolChooser::SymbolChooser(_ptr_t<Symbol> const& symbol, QStringList kinds, SymbolUse use, QColor const& background,
+                             QWidget* parent)
     : QDialog(parent),
       symbol_(symbol->Clone()),
       kinds_(std::move(kinds)),
+      use_(use),
       background_(background),
       browser_(new StyleBrowser(this)),
       sheet_(new PropertySheet(this)),
       preview_(new Preview(background, this)) {
   build();
-  browser_->show(classOf(*symbol_), symbol_);
+  browse();
   sheet_->show(this);
   preview_->show(symbol_);
   connect(browser_, &StyleBrowser::chosen, this, &SymbolChooser::takeFromLibrary);
@@ -98,6 +100,11 @@ SymbolChooser::SymbolChooser(_ptr_t<Symbol> const& symbol, QStringList kinds, QC
 }
 
 SymbolChooser::~SymbolChooser() { sheet_->show(nullptr); }
+
+void SymbolChooser::browse() {
+  bool const isArrow = use_ == SymbolUse::NorthArrow;
+  browser_->show(isArrow ? NorthArrowStyle : classOf(*symbol_), symbol_, isArrow);
+}
 
 void SymbolChooser::build() {
   setWindowTitle(tr("Symbol"));
@@ -180,10 +187,21 @@ void SymbolChooser::saveToLibrary() {
     return;
   }
   QSignalBlocker const quiet(browser_);
-  browser_->show(classOf(*symbol_), symbol_);
+  browse();
 }
 
 void SymbolChooser::chooseInner(QModelIndex const& index) { chooseSymbol(sheet_->model(), index, background_, this); }
+
+namespace {
+
+// The symbol of a surround that is a north arrow.
+SymbolUse useOf(PropertyModel const& model, QStringList const& path) {
+  QModelIndex const kind = model.indexOf(path.mid(0, path.size() - 1) + QStringList(QStringLiteral("kind")));
+  bool const isArrow = kind.isValid() && SysUtility::wholeValue(*model.row(kind).field) == QLatin1String("northArrow");
+  return isArrow ? SymbolUse::NorthArrow : SymbolUse::Any;
+}
+
+}  // namespace
 
 void chooseSymbol(PropertyModel& model, QModelIndex const& index, QColor const& background, QWidget* parent) {
   auto const row = model.row(index);
@@ -191,7 +209,7 @@ void chooseSymbol(PropertyModel& model, QModelIndex const& index, QColor const& 
   if (!symbol) return;
   QStringList kinds;
   for (SysUtility::Choice const& kind : row.field->fields.first().info.choices) kinds << QString::fromUtf8(kind.name);
-  SymbolChooser dialog(symbol, kinds, background, parent);
+  SymbolChooser dialog(symbol, kinds, useOf(model, row.path), background, parent);
   if (dialog.exec() != QDialog::Accepted) return;
   QModelIndex const now = model.indexOf(row.path);
   if (now.isValid()) model.take(now, jsonOf(*dialog.symbol()), QString());

@@ -140,10 +140,24 @@ private slots:
     QVERIFY2(problems->text().startsWith(broken), qPrintable(problems->text()));
   }
 
+  void northArrowsComeBeforeOtherMarkers() {
+    StyleItemModel arrows(nullptr), markers(nullptr);
+    arrows.load(NorthArrowStyle, styleFiles());
+    markers.load(MarkerStyle, styleFiles());
+    auto const first = arrows.symbol(0);
+    SymbolChooser chooser(first, {"simpleMarker", "svgMarker", "layeredMarker"}, SymbolUse::NorthArrow, Qt::white,
+                          nullptr);
+    auto const* const shown = chooser.findChild<QListView*>("grid")->model();
+    QCOMPARE(shown->rowCount(), arrows.rowCount() + markers.rowCount());
+    auto const nameOf = [](QAbstractItemModel const& model, int row) { return model.index(row, 0).data().toString(); };
+    for (int row = 0; row < arrows.rowCount(); ++row) QCOMPARE(nameOf(*shown, row), nameOf(arrows, row));
+    QCOMPARE(nameOf(*shown, arrows.rowCount()), nameOf(markers, 0));
+  }
+
   void aSymbolIsChangedInTheChooserAndKeptInALibraryOfOnesOwn() {
     qputenv("XDG_DATA_HOME", folder_.filePath("data").toUtf8());
     auto const symbol = SysUtility::make<SysDisplay::SimpleLineSymbol>();
-    SymbolChooser chooser(symbol, {"simpleLine", "dashLine", "layeredLine"}, Qt::yellow, nullptr);
+    SymbolChooser chooser(symbol, {"simpleLine", "dashLine", "layeredLine"}, SymbolUse::Any, Qt::yellow, nullptr);
     auto& model = chooser.findChild<PropertySheet*>()->model();
     QVERIFY(model.take(model.indexOf(QStringList("width")), 3.5, QString()));
     QVERIFY(!model.take(model.indexOf(QStringList("width")), -1, "-1"));
