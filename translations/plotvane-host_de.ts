@@ -2104,7 +2104,7 @@
     </message>
     <message>
         <source>The text, with %1 where the scale stands.</source>
-        <translation>Der Text, mit %1 an der Stelle des Maßstabs.</translation>
+        <translation type="vanished">Der Text, mit %1 an der Stelle des Maßstabs.</translation>
     </message>
     <message>
         <source>The marker that points north.</source>
@@ -3002,6 +3002,186 @@
         <source>How far the picture is turned counterclockwise about its middle.</source>
         <translation>Wie weit das Bild gegen den Uhrzeigersinn um seine Mitte gedreht ist.</translation>
     </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>Yards</source>
+        <translation>Yards</translation>
+    </message>
+    <message>
+        <source>US survey feet</source>
+        <translation>US-Vermessungsfuß</translation>
+    </message>
+    <message>
+        <source>After the entries</source>
+        <translation>Nach den Einträgen</translation>
+    </message>
+    <message>
+        <source>Rounded rectangle</source>
+        <translation>Abgerundetes Rechteck</translation>
+    </message>
+    <message>
+        <source>Zigzag</source>
+        <translation>Zickzack</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Welle</translation>
+    </message>
+    <message>
+        <source>Width of the patches</source>
+        <translation>Breite der Muster</translation>
+    </message>
+    <message>
+        <source>How wide a line or a fill is shown.</source>
+        <translation>Wie breit eine Linie oder Füllung gezeigt wird.</translation>
+    </message>
+    <message>
+        <source>Height of the patches</source>
+        <translation>Höhe der Muster</translation>
+    </message>
+    <message>
+        <source>How high a fill is shown, and a line that is not straight.</source>
+        <translation>Wie hoch eine Füllung gezeigt wird, und eine Linie, die nicht gerade ist.</translation>
+    </message>
+    <message>
+        <source>Shape of fills</source>
+        <translation>Form der Füllungen</translation>
+    </message>
+    <message>
+        <source>What is filled to show a fill.</source>
+        <translation>Was gefüllt wird, um eine Füllung zu zeigen.</translation>
+    </message>
+    <message>
+        <source>Shape of lines</source>
+        <translation>Form der Linien</translation>
+    </message>
+    <message>
+        <source>How a line runs through its patch. One that is too wide for the height of the patches is shown straight.</source>
+        <translation>Wie eine Linie durch ihr Muster läuft. Eine, die für die Höhe der Muster zu breit ist, wird gerade gezeigt.</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Ebene</translation>
+    </message>
+    <message>
+        <source>The name of the layer. The entry stays, and shows nothing, while the map has none of that name.</source>
+        <translation>Der Name der Ebene. Der Eintrag bleibt und zeigt nichts, solange die Karte keine dieses Namens hat.</translation>
+    </message>
+    <message>
+        <source>What stands for the layer, or above its classes; empty for the layer&apos;s name, or the label of its only symbol.</source>
+        <translation>Was für die Ebene oder über ihren Klassen steht; leer für den Namen der Ebene oder die Beschriftung ihres einzigen Symbols.</translation>
+    </message>
+    <message>
+        <source>The labels of the classes that are shown, in that order; none for all, as the layer has them.</source>
+        <translation>Die Beschriftungen der Klassen, die gezeigt werden, in dieser Reihenfolge; keine für alle, wie die Ebene sie hat.</translation>
+    </message>
+    <message>
+        <source>The labels of classes that are not shown.</source>
+        <translation>Die Beschriftungen von Klassen, die nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Drawn with</source>
+        <translation>Gezeichnet mit</translation>
+    </message>
+    <message>
+        <source>The names of layers whose symbols are drawn in the same patches, over each other as in the map, such as the casing below a road. Of each, the class with the same label is taken, or its only one. They are not listed by themselves.</source>
+        <translation>Die Namen von Ebenen, deren Symbole in denselben Mustern gezeichnet werden, übereinander wie in der Karte, etwa der Rand unter einer Straße. Von jeder gilt die Klasse mit derselben Beschriftung oder ihre einzige. Für sich werden sie nicht aufgeführt.</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>Einträge</translation>
+    </message>
+    <message>
+        <source>Layers in the order in which the legend lists them.</source>
+        <translation>Ebenen in der Reihenfolge, in der die Legende sie aufführt.</translation>
+    </message>
+    <message>
+        <source>Other layers</source>
+        <translation>Andere Ebenen</translation>
+    </message>
+    <message>
+        <source>What becomes of layers that no entry names: they follow, the topmost first, or are left out.</source>
+        <translation>Was aus Ebenen wird, die kein Eintrag nennt: Sie folgen, die oberste zuerst, oder werden weggelassen.</translation>
+    </message>
+    <message>
+        <source>On the map only</source>
+        <translation>Nur auf der Karte</translation>
+    </message>
+    <message>
+        <source>Whether only classes are listed of which a feature lies within what the map shows.</source>
+        <translation>Ob nur Klassen aufgeführt werden, von denen ein Objekt im gezeigten Teil der Karte liegt.</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Into how many columns of about the same height the lines go, a heading always with its first class; 0 takes as many as show the legend largest.</source>
+        <translation>In wie viele etwa gleich hohe Spalten die Zeilen kommen, eine Überschrift immer mit ihrer ersten Klasse; 0 nimmt so viele, dass die Legende am größten erscheint.</translation>
+    </message>
+    <message>
+        <source>Width of texts</source>
+        <translation>Breite der Texte</translation>
+    </message>
+    <message>
+        <source>The width at which the title, headings and entries are broken into lines, at spaces; 0 for never.</source>
+        <translation>Die Breite, bei der Titel, Überschriften und Einträge an Leerzeichen umbrochen werden; 0 für nie.</translation>
+    </message>
+    <message>
+        <source>Above the bar</source>
+        <translation>Über der Leiste</translation>
+    </message>
+    <message>
+        <source>Below the bar</source>
+        <translation>Unter der Leiste</translation>
+    </message>
+    <message>
+        <source>Text of the unit</source>
+        <translation>Text der Einheit</translation>
+    </message>
+    <message>
+        <source>What stands behind the last number; empty for the sign of the unit.</source>
+        <translation>Was hinter der letzten Zahl steht; leer für das Zeichen der Einheit.</translation>
+    </message>
+    <message>
+        <source>Divisions</source>
+        <translation>Abschnitte</translation>
+    </message>
+    <message>
+        <source>How many parts the bar has; 0 chooses.</source>
+        <translation>Wie viele Teile die Leiste hat; 0 wählt selbst.</translation>
+    </message>
+    <message>
+        <source>Length of a division</source>
+        <translation>Länge eines Abschnitts</translation>
+    </message>
+    <message>
+        <source>The ground that a part of the bar stands for, in the unit, or in metres where that is automatic; 0 chooses a round length. A bar that is then too long for its frame is not drawn; its place tells why.</source>
+        <translation>Wie viel Strecke in der Natur ein Teil der Leiste darstellt, in der Einheit, oder in Metern, wo diese automatisch ist; 0 wählt eine runde Länge. Eine Leiste, die dann für ihren Rahmen zu lang ist, wird nicht gezeichnet; an ihrem Platz steht, warum.</translation>
+    </message>
+    <message>
+        <source>Subdivisions</source>
+        <translation>Unterteilungen</translation>
+    </message>
+    <message>
+        <source>Into how many parts the first division is divided. It then lies to the left of the 0, as on topographic maps, and the numbers are counted from its right end: four divisions of 250 m are numbered 250, 0, 250, 500 and 750 m. 0 divides nothing, and the bar begins with 0.</source>
+        <translation>In wie viele Teile der erste Abschnitt geteilt wird. Er liegt dann links der 0 wie auf topographischen Karten, und die Zahlen zählen von seinem rechten Ende: Vier Abschnitte von 250 m tragen die Zahlen 250, 0, 250, 500 und 750 m. 0 teilt nichts, und die Leiste beginnt mit 0.</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>On which side of the bar its numbers stand.</source>
+        <translation>Auf welcher Seite der Leiste ihre Zahlen stehen.</translation>
+    </message>
+    <message>
+        <source>The text, with %1 where the scale stands, and {km/cm} for the kilometres of ground on a centimetre of paper. Before the slash may stand m, km, ft, mi, nmi, cm, yd or ftUS, behind it cm or in.</source>
+        <translation>Der Text, mit %1, wo der Maßstab steht, und {km/cm} für die Kilometer in der Natur auf einem Zentimeter Papier. Vor dem Schrägstrich darf m, km, ft, mi, nmi, cm, yd oder ftUS stehen, dahinter cm oder in.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3539,7 +3719,23 @@
     </message>
     <message>
         <source>must hold %1 where the scale stands, as in “1:%1”</source>
-        <translation>muss %1 enthalten, wo der Maßstab steht, wie in „1:%1“</translation>
+        <translation type="vanished">muss %1 enthalten, wo der Maßstab steht, wie in „1:%1“</translation>
+    </message>
+    <message>
+        <source>%1 is too short to be seen at this scale; enter longer divisions, or 0 to choose their length</source>
+        <translation>%1 ist bei diesem Maßstab zu kurz, um gesehen zu werden; geben Sie längere Abschnitte ein, oder 0, um ihre Länge zu wählen</translation>
+    </message>
+    <message>
+        <source>%1 needs %2 cm at this scale, and the frame is %3 cm wide; enter fewer or shorter divisions, or 0 to choose them, or widen the frame</source>
+        <translation>%1 braucht bei diesem Maßstab %2 cm, und der Rahmen ist %3 cm breit; geben Sie weniger oder kürzere Abschnitte ein, oder 0, um sie zu wählen, oder verbreitern Sie den Rahmen</translation>
+    </message>
+    <message>
+        <source>“%1” is no place-holder; write a unit of ground (%2), a slash and cm or in, as in “1 cm = {km/cm} km”</source>
+        <translation>„%1“ ist kein Platzhalter; schreiben Sie eine Einheit der Natur (%2), einen Schrägstrich und cm oder in, wie in „1 cm = {km/cm} km“</translation>
+    </message>
+    <message>
+        <source>must hold %1 where the scale stands, as in “1:%1”, or a length of ground, as in “1 cm = {km/cm} km”</source>
+        <translation>muss %1 enthalten, wo der Maßstab steht, wie in „1:%1“, oder eine Strecke in der Natur, wie in „1 cm = {km/cm} km“</translation>
     </message>
 </context>
 <context>
@@ -4018,6 +4214,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>a grid of a kind that can&apos;t be stored</source>
         <translation>ein Gitternetz einer Art, die sich nicht speichern lässt</translation>
+    </message>
+    <message>
+        <source>the element “%1” is not drawn: %2</source>
+        <translation>das Element „%1“ wird nicht gezeichnet: %2</translation>
     </message>
 </context>
 <context>

@@ -2056,7 +2056,7 @@
     </message>
     <message>
         <source>Left out</source>
-        <translation>略去</translation>
+        <translation>不列出</translation>
     </message>
     <message>
         <source>The names of layers that the legend does not list.</source>
@@ -2104,7 +2104,7 @@
     </message>
     <message>
         <source>The text, with %1 where the scale stands.</source>
-        <translation>文本，以 %1 表示比例尺所在处。</translation>
+        <translation type="vanished">文本，以 %1 表示比例尺所在处。</translation>
     </message>
     <message>
         <source>The marker that points north.</source>
@@ -3002,6 +3002,186 @@
         <source>How far the picture is turned counterclockwise about its middle.</source>
         <translation>图片绕其中心逆时针旋转的角度。</translation>
     </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>厘米</translation>
+    </message>
+    <message>
+        <source>Yards</source>
+        <translation>码</translation>
+    </message>
+    <message>
+        <source>US survey feet</source>
+        <translation>美制测量英尺</translation>
+    </message>
+    <message>
+        <source>After the entries</source>
+        <translation>在条目之后</translation>
+    </message>
+    <message>
+        <source>Rounded rectangle</source>
+        <translation>圆角矩形</translation>
+    </message>
+    <message>
+        <source>Zigzag</source>
+        <translation>锯齿线</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>波浪线</translation>
+    </message>
+    <message>
+        <source>Width of the patches</source>
+        <translation>图例符号宽度</translation>
+    </message>
+    <message>
+        <source>How wide a line or a fill is shown.</source>
+        <translation>线或填充显示的宽度。</translation>
+    </message>
+    <message>
+        <source>Height of the patches</source>
+        <translation>图例符号高度</translation>
+    </message>
+    <message>
+        <source>How high a fill is shown, and a line that is not straight.</source>
+        <translation>填充以及非直线显示的高度。</translation>
+    </message>
+    <message>
+        <source>Shape of fills</source>
+        <translation>填充的形状</translation>
+    </message>
+    <message>
+        <source>What is filled to show a fill.</source>
+        <translation>用来显示填充的图形。</translation>
+    </message>
+    <message>
+        <source>Shape of lines</source>
+        <translation>线的形状</translation>
+    </message>
+    <message>
+        <source>How a line runs through its patch. One that is too wide for the height of the patches is shown straight.</source>
+        <translation>线在图例符号中的走向。对图例符号高度来说过宽的线显示为直线。</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>图层</translation>
+    </message>
+    <message>
+        <source>The name of the layer. The entry stays, and shows nothing, while the map has none of that name.</source>
+        <translation>图层的名称。地图中没有该名称的图层时，条目保留但不显示任何内容。</translation>
+    </message>
+    <message>
+        <source>What stands for the layer, or above its classes; empty for the layer&apos;s name, or the label of its only symbol.</source>
+        <translation>代表图层或位于其类别上方的文字；留空则为图层名称，或其唯一符号的标签。</translation>
+    </message>
+    <message>
+        <source>The labels of the classes that are shown, in that order; none for all, as the layer has them.</source>
+        <translation>所显示类别的标签，按此顺序；不填则按图层的顺序显示全部。</translation>
+    </message>
+    <message>
+        <source>The labels of classes that are not shown.</source>
+        <translation>不显示的类别的标签。</translation>
+    </message>
+    <message>
+        <source>Drawn with</source>
+        <translation>一同绘制</translation>
+    </message>
+    <message>
+        <source>The names of layers whose symbols are drawn in the same patches, over each other as in the map, such as the casing below a road. Of each, the class with the same label is taken, or its only one. They are not listed by themselves.</source>
+        <translation>其符号绘制在同一图例符号中的图层名称，叠放次序与地图相同，例如道路下面的边线。每个图层取标签相同的类别，或其唯一的类别。这些图层不再单独列出。</translation>
+    </message>
+    <message>
+        <source>Entries</source>
+        <translation>条目</translation>
+    </message>
+    <message>
+        <source>Layers in the order in which the legend lists them.</source>
+        <translation>图例列出图层的顺序。</translation>
+    </message>
+    <message>
+        <source>Other layers</source>
+        <translation>其他图层</translation>
+    </message>
+    <message>
+        <source>What becomes of layers that no entry names: they follow, the topmost first, or are left out.</source>
+        <translation>没有条目提到的图层如何处理：接在后面（最上面的在先），或不列出。</translation>
+    </message>
+    <message>
+        <source>On the map only</source>
+        <translation>仅限地图所示</translation>
+    </message>
+    <message>
+        <source>Whether only classes are listed of which a feature lies within what the map shows.</source>
+        <translation>是否只列出在地图所示范围内有要素的类别。</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列数</translation>
+    </message>
+    <message>
+        <source>Into how many columns of about the same height the lines go, a heading always with its first class; 0 takes as many as show the legend largest.</source>
+        <translation>各行分成几列，各列高度大致相同，标题总与其第一个类别在一起；0 表示取使图例最大的列数。</translation>
+    </message>
+    <message>
+        <source>Width of texts</source>
+        <translation>文字宽度</translation>
+    </message>
+    <message>
+        <source>The width at which the title, headings and entries are broken into lines, at spaces; 0 for never.</source>
+        <translation>标题、小标题和条目在空格处换行的宽度；0 表示从不换行。</translation>
+    </message>
+    <message>
+        <source>Above the bar</source>
+        <translation>在上方</translation>
+    </message>
+    <message>
+        <source>Below the bar</source>
+        <translation>在下方</translation>
+    </message>
+    <message>
+        <source>Text of the unit</source>
+        <translation>单位文字</translation>
+    </message>
+    <message>
+        <source>What stands behind the last number; empty for the sign of the unit.</source>
+        <translation>最后一个数字后面的文字；留空则为单位符号。</translation>
+    </message>
+    <message>
+        <source>Divisions</source>
+        <translation>分段数</translation>
+    </message>
+    <message>
+        <source>How many parts the bar has; 0 chooses.</source>
+        <translation>比例尺条的段数；0 表示自动选择。</translation>
+    </message>
+    <message>
+        <source>Length of a division</source>
+        <translation>每段长度</translation>
+    </message>
+    <message>
+        <source>The ground that a part of the bar stands for, in the unit, or in metres where that is automatic; 0 chooses a round length. A bar that is then too long for its frame is not drawn; its place tells why.</source>
+        <translation>比例尺条每段所代表的实地长度，以所选单位计，单位为自动时以米计；0 表示选择整数长度。如果比例尺条因此超出其框架，则不绘制，并在其位置说明原因。</translation>
+    </message>
+    <message>
+        <source>Subdivisions</source>
+        <translation>细分数</translation>
+    </message>
+    <message>
+        <source>Into how many parts the first division is divided. It then lies to the left of the 0, as on topographic maps, and the numbers are counted from its right end: four divisions of 250 m are numbered 250, 0, 250, 500 and 750 m. 0 divides nothing, and the bar begins with 0.</source>
+        <translation>第一段细分成几份。此时它像地形图那样位于 0 的左侧，数字从其右端算起：四段 250 米标为 250、0、250、500 和 750 m。0 表示不细分，比例尺条从 0 开始。</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>On which side of the bar its numbers stand.</source>
+        <translation>数字位于比例尺条的哪一侧。</translation>
+    </message>
+    <message>
+        <source>The text, with %1 where the scale stands, and {km/cm} for the kilometres of ground on a centimetre of paper. Before the slash may stand m, km, ft, mi, nmi, cm, yd or ftUS, behind it cm or in.</source>
+        <translation>文字，其中 %1 为比例尺所在处，{km/cm} 为图上一厘米所代表的实地公里数。斜线前可以是 m、km、ft、mi、nmi、cm、yd 或 ftUS，后面是 cm 或 in。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3539,7 +3719,23 @@
     </message>
     <message>
         <source>must hold %1 where the scale stands, as in “1:%1”</source>
-        <translation>在比例尺所在处必须含有 %1，如“1:%1”</translation>
+        <translation type="vanished">在比例尺所在处必须含有 %1，如“1:%1”</translation>
+    </message>
+    <message>
+        <source>%1 is too short to be seen at this scale; enter longer divisions, or 0 to choose their length</source>
+        <translation>在此比例尺下 %1 太短，无法看清；请输入更长的分段，或输入 0 以自动选择长度</translation>
+    </message>
+    <message>
+        <source>%1 needs %2 cm at this scale, and the frame is %3 cm wide; enter fewer or shorter divisions, or 0 to choose them, or widen the frame</source>
+        <translation>在此比例尺下 %1 需要 %2 厘米，而框架宽 %3 厘米；请输入更少或更短的分段，或输入 0 以自动选择，或加宽框架</translation>
+    </message>
+    <message>
+        <source>“%1” is no place-holder; write a unit of ground (%2), a slash and cm or in, as in “1 cm = {km/cm} km”</source>
+        <translation>“%1”不是占位符；请写实地单位（%2）、斜线以及 cm 或 in，例如“1 cm = {km/cm} km”</translation>
+    </message>
+    <message>
+        <source>must hold %1 where the scale stands, as in “1:%1”, or a length of ground, as in “1 cm = {km/cm} km”</source>
+        <translation>必须包含 %1 作为比例尺的位置，例如“1:%1”，或一段实地长度，例如“1 cm = {km/cm} km”</translation>
     </message>
 </context>
 <context>
@@ -4018,6 +4214,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>a grid of a kind that can&apos;t be stored</source>
         <translation>无法存储的格网类型</translation>
+    </message>
+    <message>
+        <source>the element “%1” is not drawn: %2</source>
+        <translation>元素“%1”未绘制：%2</translation>
     </message>
 </context>
 <context>

@@ -216,6 +216,32 @@ private slots:
     QVERIFY(!sheet.isEditing());
   }
 
+  void aNorthArrowBecomesAnotherOfTheLibraries() {
+    WorkbenchPage page;
+    auto const frame = page.add<SysCarto::MapSurroundFrame>(1, 2, 3, 5);
+    frame->SetMapSurround(::make<SysCarto::MarkerNorthArrow>());
+    page.container().SelectElement(frame);
+    PropertyPanel panel(page.bench.session(), nullptr);
+    panel.show();
+    auto& sheet = *panel.findChild<PropertySheet*>();
+    auto& model = sheet.model();
+    QStringList const symbol{"surround", "symbol"};
+    QVERIFY(model.take(model.indexOf({"surround", "trueNorth"}), true, QString()));
+    QVERIFY(model.take(model.indexOf(symbol), QJsonObject(), QString()));
+    model.refresh();
+    auto const stored = [&] { return valueAt(page.bench.session().document(), "selection", {"surround"}).toObject(); };
+    QJsonObject before = stored();
+    Person person;
+    person.sets("grid", "Compass dial");
+    person.accepts();
+    emit sheet.symbolWanted(model.indexOf(symbol));
+    QJsonObject after = stored();
+    QVERIFY(after.take("symbol") != before.take("symbol"));
+    QCOMPARE(after, before);
+    QVERIFY(after["trueNorth"].toBool());
+    QCOMPARE(page.place(*frame), QRectF(1, 2, 2, 3));
+  }
+
   void whatIsBeingTypedIsTakenBeforeASave() {
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder_.path());

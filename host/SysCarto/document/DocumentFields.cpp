@@ -96,6 +96,13 @@ void noteUnusedMaps(PageLayout const& layout, DocumentContext& context) {
                               .arg(i);
 }
 
+void noteProblems(PageLayout const& layout, DocumentContext& context) {
+  for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
+    QString const problem = problemOf(*element);
+    if (!problem.isEmpty()) context.warnings << problem;
+  }
+}
+
 }  // namespace
 
 // A surround keeps the map that it follows, also after its data frame was deleted.
@@ -149,7 +156,9 @@ void DocumentContent::list(Fields& fields, DocumentContext& context) {
                   QT_TRANSLATE_NOOP("Fields", "What lies on the page, the lowest first."), "element"},
                  *layout->GetGraphicsContainer(), {context});
   if (fields.ok()) listLayout(fields, *layout, context);
-  if (fields.isReading() && fields.ok()) noteUnusedMaps(*layout, context);
+  if (!fields.isReading() || !fields.ok()) return;
+  noteUnusedMaps(*layout, context);
+  noteProblems(*layout, context);  // only now are the maps in their frames
 }
 
 }  // namespace SysCarto

@@ -5,6 +5,7 @@
 #include "FrameSettings.h"
 #include "LayerSettings.h"
 #include "MapSettings.h"
+#include "SurroundFields.h"
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/layout/MapFrameHost.h"
@@ -75,6 +76,8 @@ protected:
     _ptr_t<Element> made;
     listElement(reader, made, {context});
     if (made && made->GetHandle() != handle_) reader.fail("handle", Texts::tr("can't be changed"));
+    QString const problem = made ? problemOf(*made) : QString();
+    if (!problem.isEmpty()) context.warnings << problem;
     return [this, made, told = context.warnings](QString const&, QStringList& warnings) {
       warnings += told;
       auto const former = SysUtility::ptr_cast<MapFrameElement>(find());

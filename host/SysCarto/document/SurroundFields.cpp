@@ -1,8 +1,10 @@
 #include "SurroundFields.h"
 
+#include "host/SysCarto/layout/MapSurroundHost.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 
 #include <SysCarto/Map.h>
+#include <SysCarto/MapSurroundFrame.h>
 
 namespace SysCarto {
 
@@ -89,6 +91,15 @@ void listGrid(Fields& fields, _ptr_t<IMapGrid>& grid) {
   if (!fields.isReading() && grid && !ptr_cast<Graticule>(grid))
     return fields.fail(nullptr, QCoreApplication::translate("SurroundFields", "a grid of a kind that can't be stored"));
   listSettings<Graticule, GraticuleSettings>(fields, grid);
+}
+
+QString problemOf(Element const& element) {
+  auto const* const frame = dynamic_cast<MapSurroundFrame const*>(&element);
+  auto const surround = frame ? frame->GetMapSurround() : nullptr;
+  QString const problem = surround ? MapSurroundHost::problem(*surround) : QString();
+  if (problem.isEmpty()) return problem;
+  QString const name = element.GetName().isEmpty() ? QStringLiteral("#%1").arg(element.GetHandle()) : element.GetName();
+  return QCoreApplication::translate("SurroundFields", "the element “%1” is not drawn: %2").arg(name, problem);
 }
 
 }  // namespace SysCarto

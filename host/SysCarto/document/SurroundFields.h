@@ -21,4 +21,7 @@ void listSurround(SysUtility::Fields& fields, SysUtility::_ptr_t<MapSurround>& s
 /// A grid in the visitor's own object. Reading makes a new one.
 void listGrid(SysUtility::Fields& fields, SysUtility::_ptr_t<IMapGrid>& grid);
 
+/// A sentence on what can't be shown as it is set, and the fix; empty for other elements.
+QString problemOf(Element const& element);
+
 }  // namespace SysCarto

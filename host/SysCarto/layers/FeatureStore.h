@@ -63,6 +63,9 @@ public:
   /// The numbers of the features whose boxes meet the rectangle, ascending.
   std::vector<int> query(Box const& rectangle) const;
 
+  /// For each of so many classes, whether the geometry of one of its features meets the rectangle.
+  std::vector<bool> classesWithin(Box const& rectangle, int count) const;
+
   std::vector<Part> parts;
   std::vector<Feature> features;
   std::vector<QString> labels;     ///< by feature; empty where the layer has no labels
@@ -70,6 +73,8 @@ public:
   bool keepsLabels = false;
 
 private:
+  bool meets(Feature const& feature, Box const& rectangle) const;
+
   VertexPool vertices_;
   std::unique_ptr<BoxTree> index_;
   Box box_;

@@ -23,6 +23,9 @@ double Layer::GetMaxScale() const { return d->scales.comparedMax(); }
 bool Layer::showsAt(double scale) const { return IsVisible() && d->scales.contains(scale); }
 
 QList<LegendClass> Layer::legendClasses() const { return {}; }
+QVector<bool> Layer::classesWithin(SysGeometry::Envelope const&) const {
+  return QVector<bool>(legendClasses().size(), true);
+}
 
 QString Layer::GetName() const { return d->name; }
 void Layer::SetName(QString const& name) { d->change.set(d->name, name); }
@@ -47,6 +50,10 @@ void LayerHost::setEffects(Layer& layer, LayerEffects const& effects) {
 }
 quint64 LayerHost::lastChange(Layer const& layer) { return layer.d->change.time(); }
 quint64 LayerHost::look(Layer const& layer) { return layer.d->look; }
+
+QVector<bool> LayerHost::classesWithin(Layer const& layer, SysGeometry::Envelope const& area) {
+  return layer.classesWithin(area);
+}
 
 void LayerHost::changeLook(Layer& layer) {
   static quint64 latest = 1;

@@ -22,6 +22,9 @@ struct SYSCARTO_EXPORT LayerHost {
   /// Differs from each number before it once the layer is drawn otherwise, for whoever keeps a picture of it.
   static quint64 look(Layer const& layer);
   static void changeLook(Layer& layer);
+
+  /// As the layer's own function; always as many as it has classes.
+  static QVector<bool> classesWithin(Layer const& layer, SysGeometry::Envelope const& area);
 };
 
 }  // namespace SysCarto

@@ -28,6 +28,9 @@ void MapSurroundHost::setRectangle(MapSurround& surround, Envelope const& rectan
 
 Envelope const& MapSurround::rectangle() const { return d->rectangle; }
 
+QString MapSurround::problem() const { return QString(); }
+QString MapSurroundHost::problem(MapSurround const& surround) { return surround.problem(); }
+
 QString MapSurround::title() const { return QCoreApplication::translate("MapSurround", "Map surround"); }
 
 bool MapSurround::hasPlace() const {

@@ -2,10 +2,12 @@
 
 #include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/TextElement.h"
+#include "host/SysDisplay/TextWrap.h"
 
 #include <SysCarto/MapSurroundFrame.h>
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
+#include <SysDisplay/Units.h>
 
 namespace SysCarto {
 
@@ -18,8 +20,12 @@ namespace {
 
 QColor quietColor() { return QColor(150, 150, 155); }
 
-// What stands in a view where a surround has nothing to show yet, so that it can be seen and selected.
-QList<_ptr_t<Element>> placeholder(Envelope const& rectangle, QString const& title) {
+constexpr double textMarginPt = 4, smaller = 0.85;
+constexpr int maxTries = 16;
+
+// What stands in a view where a surround has nothing to show, so that it can be seen and selected. The sentence is
+// broken into lines, and smaller where it would not fit.
+QList<_ptr_t<Element>> placeholder(Envelope const& rectangle, QString const& sentence) {
   auto const outline = SysUtility::make<SysDisplay::SimpleLineSymbol>();
   outline->SetColor(quietColor());
   outline->SetStyle(SysDisplay::SimpleLineStyle::Dash);
@@ -35,9 +41,19 @@ QList<_ptr_t<Element>> placeholder(Envelope const& rectangle, QString const& tit
   format.color = quietColor();
   format.horizontal = SysDisplay::HorizontalAlignment::Center;
   format.vertical = SysDisplay::VerticalAlignment::Middle;
+  auto symbol = SysUtility::make<SysDisplay::TextSymbol>(format);
+  double const width = rectangle.GetWidth() / SysDisplay::cmPerPoint - 2 * textMarginPt;
+  double const height = rectangle.GetHeight() / SysDisplay::cmPerPoint - 2 * textMarginPt;
+  QString lines = sentence;
+  QRectF covered = symbol->bounds(lines);
+  for (int i = 0; i < maxTries && (covered.width() > width || covered.height() > height); ++i) {
+    lines = SysDisplay::wrapped(sentence, *symbol, width);
+    covered = symbol->bounds(lines);
+    if (covered.height() > height || covered.width() > width) symbol = symbol->resized(smaller);
+  }
   auto const text = SysUtility::make<TextElement>();
-  text->setText(title);
-  text->setSymbol(SysUtility::make<SysDisplay::TextSymbol>(format));
+  text->setText(lines);
+  text->setSymbol(symbol);
   auto const middle = rectangle.GetAnchorPoint();
   text->setPosition(middle->GetX(), middle->GetY());
   return {box, text};
@@ -74,7 +90,10 @@ void MapSurroundFrame::Draw(QPainter& painter, _ptr_t<DisplayTransformation> con
   DrawBorder(painter, transformation);
   if (!d->surround) return;
   QList<_ptr_t<Element>> elements = d->surround->GetElements();
-  if (elements.isEmpty()) elements = placeholder(*GetEnvelope(), d->surround->title());
+  if (elements.isEmpty()) {
+    QString const problem = MapSurroundHost::problem(*d->surround);
+    elements = placeholder(*GetEnvelope(), problem.isEmpty() ? d->surround->title() : problem);
+  }
   for (_ptr_t<Element> const& element : qAsConst(elements)) element->Draw(painter, transformation, cancel);
 }
 

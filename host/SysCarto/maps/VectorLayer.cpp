@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace SysCarto {
 
@@ -116,6 +117,19 @@ QList<LegendClass> VectorLayer::legendClasses() const {
   QList<LegendClass> classes;
   for (SymbolClass const& one : renderer_->classes()) classes << LegendClass{one.label, one.symbol};
   return classes;
+}
+
+QVector<bool> VectorLayer::classesWithin(SysGeometry::Envelope const& area) const {
+  quint64 const look = LayerHost::look(*this);
+  auto const sidesOf = [](SysGeometry::Envelope const& one) {
+    return std::make_tuple(one.GetXMin(), one.GetYMin(), one.GetXMax(), one.GetYMax());
+  };
+  if (within_.look != look || sidesOf(within_.area) != sidesOf(area)) {
+    auto const found = store_->classesWithin({area.GetXMin(), area.GetYMin(), area.GetXMax(), area.GetYMax()},
+                                             static_cast<int>(renderer_->classes().size()));
+    within_ = {look, area, QVector<bool>(found.begin(), found.end())};
+  }
+  return within_.classes;
 }
 
 bool VectorLayer::IsAnnotationVisible() const { return labels_.visible && labels_.isUsed(); }

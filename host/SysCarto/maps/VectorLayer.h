@@ -49,6 +49,7 @@ public:
                              SysUtility::_ptr_t<SysUI::TrackerCancel> cancel) override;
 
 private:
+  QVector<bool> classesWithin(SysGeometry::Envelope const& area) const override;
   void drawFeatures(QPainter& painter, SysDisplay::DisplayTransformation const& transformation,
                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
 
@@ -59,6 +60,14 @@ private:
   SysUtility::_ptr_t<AnnotationProperties> properties_;
   std::unique_ptr<FeatureStore> store_;
   std::unique_ptr<ThinnedFeatures> thinned_;
+
+  // Which classes were within an area when last asked, for the look of that time: a legend asks at each redraw.
+  struct Within {
+    quint64 look = 0;
+    SysGeometry::Envelope area;
+    QVector<bool> classes;
+  };
+  mutable Within within_;
 };
 
 }  // namespace SysCarto

@@ -1,31 +1,27 @@
 #pragma once
 
-#include "host/SysDisplay/TextSymbol.h"
+#include "host/SysCarto/surrounds/LegendPatch.h"
+#include "host/SysCarto/surrounds/LegendRows.h"
 
 #include <SysCarto/Element.h>
 
-#include <QList>
-#include <QString>
-#include <QVector>
-
 namespace SysCarto {
-
-/// A line of a legend: the name of a layer above its classes, one of these, or a layer that has none.
-struct LegendRow {
-  enum Kind { Heading, Class, Layer };
-  QString text;
-  SysUtility::_ptr_t<SysDisplay::Symbol> symbol;  ///< none for a heading
-  Kind kind;
-};
 
 struct LegendLettering {
   SysUtility::_ptr_t<SysDisplay::TextSymbol> title, heading, label;  ///< hanging from their upper left corner
 };
 
-/// Lays a legend out in a rectangle of the page: a title and rows below it, in as many columns as show it largest.
+struct LegendStyle {
+  LegendLettering lettering;
+  PatchSettings patch;
+  int columns;    ///< 0 for as many as show the legend largest
+  double wrapPt;  ///< the width of a text; 0 for any
+};
+
+/// Lays a legend out in a rectangle of the page: a title and rows below it, in columns.
 class LegendLayout {
 public:
-  explicit LegendLayout(LegendLettering lettering);
+  explicit LegendLayout(LegendStyle style);
 
   QList<SysUtility::_ptr_t<Element>> elements(QString const& title, QVector<LegendRow> const& rows,
                                               SysGeometry::Envelope const& area);
@@ -44,15 +40,19 @@ private:
     double width, height, factor;
   };
 
-  static double spaceAbove(QVector<LegendRow> const& rows, int row);
+  SysUtility::_ptr_t<SysDisplay::TextSymbol>& symbolOf(LegendRow const& row);
+  double spaceAbove(int row) const;
+  bool follows(int row) const;
   void measure(QString const& title, QVector<LegendRow> const& rows);
-  QVector<Column> columnsOf(QVector<LegendRow> const& rows, double maxHeight) const;
-  Arrangement arrange(QVector<LegendRow> const& rows, int columns, SysGeometry::Envelope const& area) const;
-  void addRow(LegendRow const& row, Measured const& size, double x, double y);
-  void addPatch(SysUtility::_ptr_t<SysDisplay::Symbol> const& symbol, double middleX, double middleY);
+  QVector<Column> columnsOf(double maxHeight, int atLeast) const;
+  Arrangement arrange(int columns, int atLeast, SysGeometry::Envelope const& area) const;
+  Arrangement best(SysGeometry::Envelope const& area) const;
+  void addRow(int row, double x, double y);
   QPointF onPage(double x, double y) const;
 
-  LegendLettering lettering_;
+  LegendStyle style_;
+  LegendPatch const patch_;
+  QVector<LegendRow> rows_;  // with their texts broken into lines
   QVector<Measured> sizes_;
   double titleWidth_ = 0, titleHeight_ = 0, patchesWidth_ = 0;
   double left_ = 0, top_ = 0, factor_ = 1;  // of the arrangement on the page, in centimetres

@@ -27,25 +27,36 @@ _ptr_t<Element> textPiece(QString const& text, _ptr_t<TextSymbol> const& symbol,
   return element;
 }
 
-_ptr_t<Element> rectanglePiece(double left, double bottom, double right, double top, _ptr_t<FillSymbol> const& symbol) {
-  auto const element = make<RectangleElement>();
-  element->setShape(make<SysGeometry::Envelope>(left, bottom, right, top));
+namespace {
+
+template <class Kind, class Shape, class Symbol>
+_ptr_t<Element> piece(_ptr_t<Shape> const& shape, _ptr_t<Symbol> const& symbol) {
+  auto const element = make<Kind>();
+  element->setShape(shape);
   element->setSymbol(symbol);
   return element;
+}
+
+}  // namespace
+
+_ptr_t<Element> rectanglePiece(double left, double bottom, double right, double top, _ptr_t<FillSymbol> const& symbol) {
+  return piece<RectangleElement>(make<SysGeometry::Envelope>(left, bottom, right, top), symbol);
+}
+
+_ptr_t<Element> ellipsePiece(double left, double bottom, double right, double top, _ptr_t<FillSymbol> const& symbol) {
+  return piece<EllipseElement>(make<SysGeometry::Envelope>(left, bottom, right, top), symbol);
+}
+
+_ptr_t<Element> polygonPiece(QVector<QPointF> const& ring, _ptr_t<FillSymbol> const& symbol) {
+  return piece<PolygonElement>(make<SysGeometry::Polygon>(QVector<QVector<QPointF>>{ring}), symbol);
 }
 
 _ptr_t<Element> linePiece(QVector<QPointF> const& points, _ptr_t<LineSymbol> const& symbol) {
-  auto const element = make<LineElement>();
-  element->setShape(make<SysGeometry::Polyline>(points));
-  element->setSymbol(symbol);
-  return element;
+  return piece<LineElement>(make<SysGeometry::Polyline>(points), symbol);
 }
 
 _ptr_t<Element> markerPiece(QPointF const& position, _ptr_t<MarkerSymbol> const& symbol) {
-  auto const element = make<MarkerElement>();
-  element->setShape(make<SysGeometry::Point>(position.x(), position.y(), 0.0));
-  element->setSymbol(symbol);
-  return element;
+  return piece<MarkerElement>(make<SysGeometry::Point>(position.x(), position.y(), 0.0), symbol);
 }
 
 QRectF unitBounds(MarkerSymbol const& symbol) {

@@ -20,6 +20,10 @@ SysUtility::_ptr_t<Element> textPiece(QString const& text, SysUtility::_ptr_t<Sy
                                       QPointF const& position);
 SysUtility::_ptr_t<Element> rectanglePiece(double left, double bottom, double right, double top,
                                            SysUtility::_ptr_t<SysDisplay::FillSymbol> const& symbol);
+SysUtility::_ptr_t<Element> ellipsePiece(double left, double bottom, double right, double top,
+                                         SysUtility::_ptr_t<SysDisplay::FillSymbol> const& symbol);
+SysUtility::_ptr_t<Element> polygonPiece(QVector<QPointF> const& ring,
+                                         SysUtility::_ptr_t<SysDisplay::FillSymbol> const& symbol);
 SysUtility::_ptr_t<Element> linePiece(QVector<QPointF> const& points,
                                       SysUtility::_ptr_t<SysDisplay::LineSymbol> const& symbol);
 SysUtility::_ptr_t<Element> markerPiece(QPointF const& position,

@@ -1,3 +1,4 @@
+#include "GroundUnits.h"
 #include "Pieces.h"
 #include "SurroundSettings.h"
 
@@ -46,6 +47,9 @@ QList<_ptr_t<Element>> ScaleText::GetElements() {
   double const scale = hasPlace() ? GetMap()->scale() : 0;
   if (!(scale > 0) || !std::isfinite(scale)) return {};
   QString text = d->settings.pattern;
+  QVector<GroundPlace> const places = groundPlaces(text);
+  for (auto place = places.rbegin(); place != places.rend(); ++place)
+    text.replace(place->start, place->length, grouped(roundedTo(scale * place->factor, digits)));
   text.replace(QLatin1String("%1"), grouped(roundedTo(scale, digits)));
   TextFormat format = (d->settings.symbol ? d->settings.symbol : usualSymbol())->format();
   format.horizontal = SysDisplay::HorizontalAlignment::Center;

@@ -1,5 +1,7 @@
 #include "SurroundSettings.h"
 
+#include "GroundUnits.h"
+
 #include "host/SysDisplay/SymbolFields.h"
 
 namespace SysCarto {
@@ -20,15 +22,20 @@ constexpr Choice barStyles[] = {
     {BarStyle::Double,      "double",      QT_TRANSLATE_NOOP("Fields", "Two rows")},
     {BarStyle::Ticks,       "ticks",       QT_TRANSLATE_NOOP("Fields", "Line with ticks")},
 };
-constexpr Choice barUnits[] = {
-    {BarUnit::Automatic,     "automatic", QT_TRANSLATE_NOOP("Fields", "Metres or kilometres")},
-    {BarUnit::Metres,        "m",         QT_TRANSLATE_NOOP("Fields", "Metres")},
-    {BarUnit::Kilometres,    "km",        QT_TRANSLATE_NOOP("Fields", "Kilometres")},
-    {BarUnit::Feet,          "ft",        QT_TRANSLATE_NOOP("Fields", "Feet")},
-    {BarUnit::Miles,         "mi",        QT_TRANSLATE_NOOP("Fields", "Miles")},
-    {BarUnit::NauticalMiles, "nmi",       QT_TRANSLATE_NOOP("Fields", "Nautical miles")},
+constexpr Choice barNumbers[] = {
+    {BarNumbers::Above, "above", QT_TRANSLATE_NOOP("Fields", "Above the bar")},
+    {BarNumbers::Below, "below", QT_TRANSLATE_NOOP("Fields", "Below the bar")},
 };
 // clang-format on
+
+constexpr int maxDivisions = 50, maxSubdivisions = 20;
+constexpr double maxDivisionLength = 1e9;
+
+QVector<Choice> unitChoices() {
+  QVector<Choice> choices{{BarUnit::Automatic, "automatic", QT_TRANSLATE_NOOP("Fields", "Metres or kilometres")}};
+  for (GroundUnit const& unit : groundUnits()) choices << Choice(unit.unit, unit.name, unit.caption);
+  return choices;
+}
 
 void listText(Fields& fields, char const* help, _ptr_t<SysDisplay::TextSymbol>& symbol) {
   listOptionalSymbol(fields, {"symbol", QT_TRANSLATE_NOOP("Fields", "Text"), help}, symbol);
@@ -36,34 +43,8 @@ void listText(Fields& fields, char const* help, _ptr_t<SysDisplay::TextSymbol>& 
 
 }  // namespace
 
-QString LegendSettings::usualTitle() { return QCoreApplication::translate("MapSurround", "Legend"); }
-
-void LegendSettings::list(Fields& fields) {
-  fields.text({"title", QT_TRANSLATE_NOOP("Fields", "Title"),
-               QT_TRANSLATE_NOOP("Fields", "What stands above the legend; it may be empty.")},
-              title, TextKind::Line, usualTitle());
-  listOptionalSymbol(
-      fields,
-      {"titleSymbol", QT_TRANSLATE_NOOP("Fields", "Text of the title"),
-       QT_TRANSLATE_NOOP("Fields", "How the letters of the title look; without a symbol bold and 12 points high.")},
-      titleSymbol);
-  listOptionalSymbol(
-      fields,
-      {"headingSymbol", QT_TRANSLATE_NOOP("Fields", "Text of the headings"),
-       QT_TRANSLATE_NOOP(
-           "Fields", "How the name of a layer with several classes looks; without a symbol bold and 9 points high.")},
-      headingSymbol);
-  listOptionalSymbol(
-      fields,
-      {"labelSymbol", QT_TRANSLATE_NOOP("Fields", "Text of the entries"),
-       QT_TRANSLATE_NOOP("Fields", "How the letters of the entries look; without a symbol 8 points high.")},
-      labelSymbol);
-  fields.texts({"omit", QT_TRANSLATE_NOOP("Fields", "Left out"),
-                QT_TRANSLATE_NOOP("Fields", "The names of layers that the legend does not list.")},
-               omitted);
-}
-
 void ScaleLineSettings::list(Fields& fields) {
+  static QVector<Choice> const units = unitChoices();
   ScaleLineSettings const usual;
   fields.choice<BarStyle>(
       {"style", QT_TRANSLATE_NOOP("Fields", "Style"),
@@ -73,10 +54,33 @@ void ScaleLineSettings::list(Fields& fields) {
       {"unit", QT_TRANSLATE_NOOP("Fields", "Unit"),
        QT_TRANSLATE_NOOP(
            "Fields", "What the bar counts; automatic is metres, or kilometres where each division is one at least.")},
-      unit, barUnits, usual.unit);
+      unit, units, usual.unit);
+  fields.text({"unitText", QT_TRANSLATE_NOOP("Fields", "Text of the unit"),
+               QT_TRANSLATE_NOOP("Fields", "What stands behind the last number; empty for the sign of the unit.")},
+              unitText, TextKind::Line, QString());
+  fields.integer({"divisions", QT_TRANSLATE_NOOP("Fields", "Divisions"),
+                  QT_TRANSLATE_NOOP("Fields", "How many parts the bar has; 0 chooses.")},
+                 divisions, 0, maxDivisions, usual.divisions);
+  fields.number(
+      {"divisionLength", QT_TRANSLATE_NOOP("Fields", "Length of a division"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "The ground that a part of the bar stands for, in the unit, or in metres where that is "
+                         "automatic; 0 chooses a round length. A bar that is then too long for its frame is not "
+                         "drawn; its place tells why.")},
+      divisionLength, {0, maxDivisionLength}, usual.divisionLength);
+  fields.integer({"subdivisions", QT_TRANSLATE_NOOP("Fields", "Subdivisions"),
+                  QT_TRANSLATE_NOOP("Fields",
+                                    "Into how many parts the first division is divided. It then lies to the left of "
+                                    "the 0, as on topographic maps, and the numbers are counted from its right end: "
+                                    "four divisions of 250 m are numbered 250, 0, 250, 500 and 750 m. 0 divides "
+                                    "nothing, and the bar begins with 0.")},
+                 subdivisions, 0, maxSubdivisions, usual.subdivisions);
   fields.number(
       {"height", QT_TRANSLATE_NOOP("Fields", "Height"), QT_TRANSLATE_NOOP("Fields", "The height of the bar.")},
       heightPt, {0.5, 100, Unit::Point}, usual.heightPt);
+  fields.choice<BarNumbers>({"numbers", QT_TRANSLATE_NOOP("Fields", "Numbers"),
+                             QT_TRANSLATE_NOOP("Fields", "On which side of the bar its numbers stand.")},
+                            numbers, barNumbers, usual.numbers);
   listColor(fields,
             {"color", QT_TRANSLATE_NOOP("Fields", "Colour"),
              QT_TRANSLATE_NOOP("Fields", "The colour of outlines, of ticks and of every second part.")},
@@ -88,13 +92,39 @@ void ScaleLineSettings::list(Fields& fields) {
   listText(fields, QT_TRANSLATE_NOOP("Fields", "How the letters look; without a symbol 8 points high."), symbol);
 }
 
+namespace {
+
+QString problemOfPattern(QString const& pattern) {
+  bool isFilled = pattern.contains(QLatin1String("%1"));
+  for (GroundPlace const& place : groundPlaces(pattern)) {
+    if (!(place.factor > 0)) {
+      QStringList names;
+      for (GroundUnit const& unit : groundUnits()) names << QLatin1String(unit.name);
+      return QCoreApplication::translate("MapSurround",
+                                         "“%1” is no place-holder; write a unit of ground (%2), a slash and cm or in, "
+                                         "as in “1 cm = {km/cm} km”")
+          .arg(place.text, names.join(QStringLiteral(", ")));
+    }
+    isFilled = true;
+  }
+  if (isFilled) return QString();
+  return QCoreApplication::translate("MapSurround",
+                                     "must hold %1 where the scale stands, as in “1:%1”, or a length of ground, as in "
+                                     "“1 cm = {km/cm} km”");
+}
+
+}  // namespace
+
 void ScaleTextSettings::list(Fields& fields) {
-  fields.text({"pattern", QT_TRANSLATE_NOOP("Fields", "Pattern"),
-               QT_TRANSLATE_NOOP("Fields", "The text, with %1 where the scale stands.")},
-              pattern, TextKind::Line, ScaleTextSettings().pattern);
-  if (fields.ok() && !pattern.contains(QLatin1String("%1")))
-    fields.fail("pattern",
-                QCoreApplication::translate("MapSurround", "must hold %1 where the scale stands, as in “1:%1”"));
+  fields.text(
+      {"pattern", QT_TRANSLATE_NOOP("Fields", "Pattern"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "The text, with %1 where the scale stands, and {km/cm} for the kilometres of ground on "
+                         "a centimetre of paper. Before the slash may stand m, km, ft, mi, nmi, cm, yd or "
+                         "ftUS, behind it cm or in.")},
+      pattern, TextKind::Line, ScaleTextSettings().pattern);
+  QString const problem = fields.ok() ? problemOfPattern(pattern) : QString();
+  if (!problem.isEmpty()) fields.fail("pattern", problem);
   listText(fields, QT_TRANSLATE_NOOP("Fields", "How the letters look; without a symbol 12 points high."), symbol);
 }
 

@@ -8,11 +8,33 @@
 #include <SysDisplay/LineSymbol.h>
 
 #include <QStringList>
+#include <QVector>
 
 namespace SysCarto {
 
 // What a document stores of each kind of surround and of a graticule, and what such an object holds. `of` takes it from
 // an object, `list` names its fields, and `applyTo` gives it to an object. An empty symbol stands for the usual one.
+
+/// What a legend tells of one layer. Classes are named by the texts that stand beside them.
+struct LegendEntry {
+  QString layer;        ///< name; one that the map does not have shows nothing
+  QString text;         ///< instead of the layer's name; empty for that
+  QStringList classes;  ///< in the order shown; empty for all as the layer has them
+  QStringList omitted;  ///< classes
+  QStringList with;     ///< names of layers whose symbols are drawn in the same patches, in the map's order
+
+  void list(SysUtility::Fields& fields);
+};
+
+enum class OtherLayers { After, LeftOut };
+enum class FillPatch { Rectangle, Rounded, Ellipse };
+enum class LinePatch { Straight, Zigzag, Wave };
+
+struct PatchSettings {
+  double widthPt = 20, heightPt = 10;
+  FillPatch fill = FillPatch::Rectangle;
+  LinePatch line = LinePatch::Straight;
+};
 
 struct SYSCARTO_EXPORT LegendSettings {
   static QString usualTitle();
@@ -20,6 +42,12 @@ struct SYSCARTO_EXPORT LegendSettings {
   QString title = usualTitle();
   SysUtility::_ptr_t<SysDisplay::TextSymbol> titleSymbol, headingSymbol, labelSymbol;
   QStringList omitted;  ///< names of layers
+  QVector<LegendEntry> entries;
+  OtherLayers others = OtherLayers::After;  ///< that no entry names
+  bool onMapOnly = false;                   ///< classes of which the map shows a feature
+  int columns = 0;                          ///< 0 for as many as show it largest
+  double wrapPt = 0;                        ///< the width of a text; 0 for any
+  PatchSettings patch;
 
   static LegendSettings of(Legend const& legend);
   void list(SysUtility::Fields& fields);
@@ -27,12 +55,18 @@ struct SYSCARTO_EXPORT LegendSettings {
 };
 
 enum class BarStyle { Alternating, Double, Ticks };
-enum class BarUnit { Automatic, Metres, Kilometres, Feet, Miles, NauticalMiles };
+enum class BarUnit { Automatic, Metres, Kilometres, Feet, Miles, NauticalMiles, Centimetres, Yards, SurveyFeet };
+enum class BarNumbers { Above, Below };
 
 struct SYSCARTO_EXPORT ScaleLineSettings {
   BarStyle style = BarStyle::Alternating;
   BarUnit unit = BarUnit::Automatic;
+  QString unitText;           ///< empty for the unit's sign
+  int divisions = 0;          ///< 0 chooses, and so does a length of 0
+  double divisionLength = 0;  ///< in the unit; in metres where that is automatic
+  int subdivisions = 0;       ///< of the first division, which then lies before the 0; 0 for none
   double heightPt = 5;
+  BarNumbers numbers = BarNumbers::Above;
   QColor color = QColor(0, 0, 0), secondColor = QColor(255, 255, 255);
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;
 
@@ -42,7 +76,9 @@ struct SYSCARTO_EXPORT ScaleLineSettings {
 };
 
 struct SYSCARTO_EXPORT ScaleTextSettings {
-  QString pattern = QStringLiteral("1:%1");  ///< %1 is the scale denominator
+  /// With %1 for the scale denominator, and {km/cm} for the kilometres of ground on a centimetre of paper: any unit of
+  /// a scale bar before the slash, cm or in behind it.
+  QString pattern = QStringLiteral("1:%1");
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;
 
   static ScaleTextSettings of(ScaleText const& text);

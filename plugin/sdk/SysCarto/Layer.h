@@ -6,10 +6,15 @@
 
 #include <QList>
 #include <QString>
+#include <QVector>
 
 #include <memory>
 
 class QPainter;
+
+namespace SysGeometry {
+class Envelope;
+}
 
 namespace SysCarto {
 
@@ -62,6 +67,11 @@ protected:
 
 private:
   friend struct LayerHost;
+
+  /// For each of the `legendClasses`, whether it has something in a rectangle in map units. A layer that can't tell
+  /// says that all have.
+  virtual QVector<bool> classesWithin(SysGeometry::Envelope const& area) const;
+
   struct Private;
   std::unique_ptr<Private> d;
 };

@@ -54,12 +54,17 @@ protected:
 
 private:
   friend struct MapSurroundHost;
+
+  /// Why the surround can't be shown as it was asked for and has no elements, and what to do, as the end of a sentence;
+  /// empty where it can.
+  virtual QString problem() const;
+
   struct Private;
   std::unique_ptr<Private> d;
 };
 
-/// The layers that the map shows at its scale, the topmost first, each with its classes. In columns where one would be
-/// too high, and smaller where it would not fit otherwise.
+/// The layers that the map shows at its scale, each with its classes: those that it was told of in that order, then the
+/// others, the topmost first. In columns where one would be too high, and smaller where it would not fit otherwise.
 class SYSCARTO_EXPORT Legend final : public MapSurround {
 public:
   Legend();
@@ -75,8 +80,9 @@ private:
   std::unique_ptr<Private> d;
 };
 
-/// A bar of round lengths of ground, as long as its frame allows. True at the map's centre, as is the map's scale; a
-/// map without layers has none.
+/// A bar of lengths of ground: those asked for, or round ones, as long as its frame allows. True at the map's centre,
+/// as is the map's scale; a map without layers has none. One of a length that is asked for and too long for its frame
+/// is not shown.
 class SYSCARTO_EXPORT ScaleLine final : public MapSurround {
 public:
   ScaleLine();
@@ -87,12 +93,14 @@ public:
   QString title() const override;
 
 private:
+  QString problem() const override;
+
   friend struct ScaleLineSettings;
   struct Private;
   std::unique_ptr<Private> d;
 };
 
-/// The map's scale as a text, 1:25,000,000, to four digits.
+/// The map's scale as a text, 1:25,000,000 or 1 cm = 250 km, to four digits.
 class SYSCARTO_EXPORT ScaleText final : public MapSurround {
 public:
   ScaleText();

@@ -1,11 +1,11 @@
 #include "SurroundFixture.h"
-#include "Symbols.h"
 
-#include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
+#include "host/SysCarto/layout/MapSurroundHost.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 
 #include <SysCarto/PageLayout.h>
+#include <SysDisplay/Units.h>
 
 #include <geodesic.h>
 #include <ogr_spatialref.h>
@@ -17,42 +17,7 @@ using SysGeometry::Envelope;
 
 namespace {
 
-constexpr double frameWidthCm = 10, frameHeightCm = 8;
 constexpr double degreesPerRadian = 57.29577951308232;
-
-_ptr_t<Map> mapOf(QString const& system, double x, double y, double unitsPerCm) {
-  double const w = frameWidthCm * unitsPerCm / 2, h = frameHeightCm * unitsPerCm / 2;
-  return mapShowing(system, Envelope(x - w, y - h, x + w, y + h), frameWidthCm, frameHeightCm);
-}
-
-void addLayer(Map& map, QString const& name, _ptr_t<SysDisplay::Symbol> const& symbol, QString const& label = {}) {
-  auto const layer = make<VectorLayer>(makeSimpleRenderer(symbol, label));
-  layer->SetName(name);
-  map.AddLayer(layer);
-}
-
-_ptr_t<Map> mapWithLayer(QString const& system, double x, double y, double unitsPerCm) {
-  auto const map = mapOf(system, x, y, unitsPerCm);
-  addLayer(*map, "Land", make<SysDisplay::SimpleFillSymbol>());
-  return map;
-}
-
-template <class Surround>
-_ptr_t<MapSurroundFrame> framed(_ptr_t<Map> const& map, Envelope const& rectangle, QByteArray const& settings = "{}") {
-  auto const surround = described<Surround>(json(settings));
-  surround->SetMap(map);
-  auto const frame = make<MapSurroundFrame>();
-  frame->SetMapSurround(surround);
-  frame->SetGeometry(make<Envelope>(rectangle));
-  return frame;
-}
-
-QStringList textsOf(MapSurroundFrame const& frame) {
-  QStringList texts;
-  for (auto const& element : frame.GetMapSurround()->GetElements())
-    if (auto const text = ptr_cast<TextElement>(element)) texts << text->text();
-  return texts;
-}
 
 // The page from (0, 0) to (10, 8) centimetres, at 40 pixels a centimetre.
 Sheet const page{Envelope(0, 0, frameWidthCm, frameHeightCm), QSize(400, 320), 40 * 2.54 / 96};
@@ -80,7 +45,6 @@ double geodesic(QPointF const& a, QPointF const& b) {
 }
 
 char const* const aegean = "+proj=lcc +lat_1=36 +lat_2=41 +lat_0=38.4 +lon_0=24.6 +datum=WGS84 +units=m";
-Envelope const whole(0, 0, frameWidthCm, frameHeightCm);
 
 }  // namespace
 
@@ -98,6 +62,10 @@ private slots:
     row("degrees", "EPSG:4326", 10, 60, 0.01, "{}", "", 0);
     row("miles", aegean, 0, 0, 20000, "{'unit':'mi'}", "100 mi", 160934.4);
     row("kilometres where metres would do", aegean, 0, 0, 100, "{'unit':'km'}", "0.8 km", 800);
+    row("four divisions of a round length", aegean, 0, 0, 20000, "{'divisions':4}", "100 km", 100000);
+    row("as many of a length as fit", aegean, 0, 0, 20000, "{'divisionLength':45,'unit':'km'}", "180 km", 180000);
+    row("yards", "EPSG:32634", 500000, 4200000, 10, "{'unit':'yd'}", "100 yd", 91.44);
+    row("centimetres of a plan", "EPSG:32634", 500000, 4200000, 0.1, "{'unit':'cm'}", "80 cm", 0.8);
     row("nautical miles in two rows", aegean, 0, 0, 20000, "{'unit':'nmi','style':'double'}", "80 nmi", 148160);
   }
 
@@ -114,9 +82,11 @@ private slots:
       }
     QVERIFY(left < right && left >= 0 && right <= frameWidthCm);
     QString const text = textsOf(*frame).last();
-    if (last.endsWith('m') && metres > 0) QCOMPARE(text, last);
+    if (metres > 0) QCOMPARE(text, last);
     QString const unit = text.section(' ', 1);
-    double const inMetres = unit == "km" ? 1000 : unit == "mi" ? 1609.344 : unit == "nmi" ? 1852 : 1;
+    double const inMetres =
+        QMap<QString, double>{{"m", 1}, {"km", 1000}, {"mi", 1609.344}, {"nmi", 1852}, {"yd", 0.9144}, {"cm", 0.01}}
+            .value(unit);
     double const stated = text.section(' ', 0, 0).remove(',').toDouble() * inMetres;
     if (metres > 0) QCOMPARE(stated, metres);
 
@@ -124,6 +94,54 @@ private slots:
     double const half = (right - left) * unitsPerCm / 200;
     double const ground = 100 * geodesic(onGlobe(*map, {x - half, y}), onGlobe(*map, {x + half, y}));
     QVERIFY2(std::abs(ground / stated - 1) < 0.001, qPrintable(QString("%1 for %2").arg(ground).arg(text)));
+  }
+
+  // 250 m are 2.5 cm on a map of 1:10,000.
+  void aDividedFirstPartLiesBeforeTheZero() {
+    auto const map = mapWithLayer("", 0, 0, 100);
+    for (char const* style : {"alternating", "double", "ticks"}) {
+      QByteArray const settings = "{'divisions':4,'divisionLength':250,'subdivisions':5,'style':'" + QByteArray(style) +
+                                  "','numbers':'below','unitText':'metres'}";
+      auto const frame = framed<ScaleLine>(map, Envelope(1, 1, 13, 2), settings);
+      QCOMPARE(textsOf(*frame), QStringList({"250", "0", "250", "500", "750 metres"}));
+      QVector<double> places, ends;
+      for (auto const& element : frame->GetMapSurround()->GetElements()) {
+        QRectF const box = placeOf(*element);
+        auto const text = ptr_cast<TextElement>(element);
+        QVERIFY(!text || isWithin(box.adjusted(0, 0.04, 0, 0), QRectF(1, 1, 12, 1), 0.01));
+        // The numbers stand in the middle of their places, without the unit.
+        double const half =
+            text ? text->symbol()->bounds(text->text().section(' ', 0, 0)).width() / 2 * SysDisplay::cmPerPoint : 0;
+        (text ? places : ends) << box.left() + half;
+      }
+      double const left = *std::min_element(ends.begin(), ends.end());
+      for (int i = 0; i < 5; ++i) QVERIFY(std::abs(places[i] - left - 2.5 * i) < 0.01);
+      for (double const place : {0.5, 1.0, 1.5, 2.0, 2.5, 5.0, 7.5})
+        QVERIFY(std::any_of(ends.begin(), ends.end(), [&](double end) { return std::abs(end - left - place) < 1e-9; }));
+    }
+  }
+
+  void aBarOfAFixedLengthIsThatOrNone_data() {
+    Rows<double, QByteArray, QString> row;
+    row("with smaller numbers", 10.7, "'divisions':4,'divisionLength':250", "");
+    row("too long", 10.2, "'divisions':4,'divisionLength':250", "4 × 250 m needs 10.");
+    row("in a unit", 9, "'divisions':2,'divisionLength':1,'unit':'km'", "2 × 1 km needs 20.");
+    row("not even one division", 9, "'divisionLength':1500", "1 × 1.5 km needs 15.");
+    row("too short to be seen", 9, "'divisions':4,'divisionLength':1", "4 × 1 m is too short to be seen");
+  }
+
+  void aBarOfAFixedLengthIsThatOrNone() {
+    auto const [width, settings, problem] = fetched<double, QByteArray, QString>();
+    auto const frame = framed<ScaleLine>(mapWithLayer("", 0, 0, 100), Envelope(0, 0, width, 1), '{' + settings + '}');
+    QString const told = MapSurroundHost::problem(*frame->GetMapSurround());
+    auto const elements = frame->GetMapSurround()->GetElements();
+    QVERIFY2(told.left(problem.size()) == problem && told.isEmpty() == problem.isEmpty(), qPrintable(told));
+    QCOMPARE(elements.isEmpty(), !problem.isEmpty());
+    for (auto const& element : elements)
+      QVERIFY(isWithin(placeOf(*element).adjusted(0, 0.04, 0, 0), QRectF(0, 0, width, 1), 0.01));
+    // The sentence stays in the frame, too.
+    QRect const covered = ink(drawn(frame)).where;
+    QVERIFY(covered.top() >= page.size.height() - 42 && covered.right() <= width * 40 + 1);
   }
 
   void textAndBarFollowTheMap() {
@@ -142,6 +160,9 @@ private slots:
     row("four digits and no more", 42537.14, "{}", "1:4,254,000");
     row("a plan larger than nature", 0.005, "{}", "1:0.5");
     row("a pattern", 10.0, "{'pattern':'Massstab 1 : %1'}", "Massstab 1 : 1,000");
+    row("ground on a centimetre", 2500.0, "{'pattern':'1 cm = {km/cm} km = {m/cm} m'}", "1 cm = 2.5 km = 2,500 m");
+    row("an inch to the mile", 633.6, "{'pattern':'1:%1, 1 in = {mi/in} mi = {ft/in} ft'}",
+        "1:63,360, 1 in = 1 mi = 5,280 ft");
   }
 
   void aScaleTextIsWrittenAsAsked() {
@@ -153,64 +174,6 @@ private slots:
     QLocale::setDefault(QLocale(QLocale::German));
     auto const restored = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
     QCOMPARE(textsOf(*framed<ScaleText>(mapWithLayer("", 0, 0, 25000), whole)), QStringList("1:2.500.000"));
-  }
-
-  void aLegendListsWhatTheMapShows() {
-    auto const map = mapOf("", 0, 0, 1000);
-    addLayer(*map, "Land", make<SysDisplay::SimpleFillSymbol>());
-    addLayer(*map, "Rivers", make<SysDisplay::SimpleLineSymbol>(), "Rivers and streams");
-    addLayer(*map, "Towns", make<SysDisplay::SimpleMarkerSymbol>());
-    auto const frame = framed<Legend>(map, whole);
-    QCOMPARE(textsOf(*frame), QStringList({"Legend", "Towns", "Rivers and streams", "Land"}));
-    QMap<int, int> counts;
-    for (auto const& element : frame->GetMapSurround()->GetElements()) ++counts[element->GetType()];
-    QVERIFY2(counts[1] == 1 && counts[2] == 1 && counts[4] == 1, "a marker, a line and a filled box");
-    map->GetLayer(2)->SetVisible(false);
-    map->GetLayer(0)->SetScaleRange(0, 50000);
-    QCOMPARE(textsOf(*frame), QStringList({"Legend", "Rivers and streams"}));
-    QCOMPARE(textsOf(*framed<Legend>(map, whole, "{'title':'','omit':['Rivers']}")), QStringList());
-  }
-
-  void aLegendFitsItsFrame_data() {
-    Rows<int, Envelope, int> row;
-    row("one column", 5, Envelope(0, 0, 5, 8), 1);
-    row("two where one is too high", 16, Envelope(0, 2, 10, 8), 2);
-    row("many in a flat frame", 24, Envelope(0, 5, 10, 7), 5);
-    row("smaller in a small one", 24, Envelope(4, 4, 6, 5), 3);
-  }
-
-  void aLegendFitsItsFrame() {
-    auto const [layers, rectangle, columns] = fetched<int, Envelope, int>();
-    auto const map = mapOf("", 0, 0, 1000);
-    for (int i = 0; i < layers; ++i) addLayer(*map, QString("Layer %1").arg(i), make<SysDisplay::SimpleFillSymbol>());
-    auto const frame = framed<Legend>(map, rectangle);
-    QSet<int> lefts;
-    for (auto const& element : frame->GetMapSurround()->GetElements()) {
-      QRectF const box = placeOf(*element);
-      QVERIFY(isWithin(box.adjusted(0, 0.04, 0, 0), rectOf(rectangle), 0.01));
-      if (element->GetType() == 4) lefts << qRound(box.left() * 100);
-    }
-    QCOMPARE(lefts.size(), columns);
-  }
-
-  // However big the symbols of the map are, and however small the frame.
-  void symbolsOfALegendKeepTheirPlace() {
-    auto const map = mapOf("", 0, 0, 1000);
-    auto const marker = make<SysDisplay::SimpleMarkerSymbol>();
-    marker->SetSize(60);
-    addLayer(*map, "Layer", pen(30));
-    addLayer(*map, "Layer", marker);
-    for (Envelope const& rectangle : {whole, Envelope(4, 4, 6, 5.5)}) {
-      QVector<QRectF> boxes;
-      for (auto const& element : framed<Legend>(map, rectangle)->GetMapSurround()->GetElements()) {
-        QRectF const covered = rectOf(*element->GetBoundary(page.transformation())->GetEnvelope());
-        QVERIFY(isWithin(covered, rectOf(rectangle), 0.05));
-        for (QRectF const& other : qAsConst(boxes))
-          QVERIFY(!other.intersects(covered.adjusted(0.06, 0.06, -0.06, -0.06)));
-        boxes << covered;
-      }
-      QCOMPARE(boxes.size(), 5);
-    }
   }
 
   void aScaleBarFitsAFlatFrame() {
@@ -252,6 +215,8 @@ private slots:
     addLayer(*map, "Towns", make<SysDisplay::SimpleMarkerSymbol>());
     row("legend", framed<Legend>(map, Envelope(1, 1, 5, 7)));
     row("scale bar", framed<ScaleLine>(map, Envelope(1, 1, 9, 3)));
+    row("legend of ellipses and waves",
+        framed<Legend>(map, Envelope(1, 1, 5, 7), "{'patchShape':'ellipse','lineShape':'wave','columns':2,'wrap':20}"));
     row("ticks", framed<ScaleLine>(map, Envelope(1, 1, 9, 3), "{'style':'ticks','unit':'nmi'}"));
     row("scale text", framed<ScaleText>(map, Envelope(1, 1, 9, 3)));
     row("north arrow", framed<MarkerNorthArrow>(map, Envelope(1, 1, 9, 7), "{'trueNorth':true}"));
@@ -300,9 +265,12 @@ private slots:
   }
 
   void aPatternWithoutAPlaceForTheScaleIsRefused() {
-    ScaleTextSettings settings;
-    QString const problem = SysUtility::readJson(QJsonObject{{"pattern", "1:many"}}, settings);
-    QVERIFY2(problem.startsWith("pattern: must hold %1"), qPrintable(problem));
+    for (auto const& [pattern, start] : std::map<QString, QString>{
+             {"1:many", "pattern: must hold %1"}, {"1:%1, {kn/cm}", "pattern: “{kn/cm}” is no place-holder"}}) {
+      ScaleTextSettings settings;
+      QString const problem = SysUtility::readJson(QJsonObject{{"pattern", pattern}}, settings);
+      QVERIFY2(problem.startsWith(start), qPrintable(problem));
+    }
   }
 };
 

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "host/SysCarto/surrounds/SurroundSettings.h"
+
+#include <SysCarto/Map.h>
+#include <SysDisplay/Symbol.h>
+
+namespace SysCarto {
+
+/// A line of a legend: the name of a layer above its classes, one of these, or a layer that has none.
+struct LegendRow {
+  enum Kind { Heading, Class, Layer };
+  QString text;
+  QVector<SysUtility::_ptr_t<SysDisplay::Symbol>> symbols;  ///< one over the other; none for a heading
+  Kind kind;
+};
+
+/// What a legend tells of the map as it is now, from above.
+QVector<LegendRow> legendRows(Map const& map, LegendSettings const& settings);
+
+}  // namespace SysCarto
