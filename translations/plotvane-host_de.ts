@@ -717,6 +717,86 @@
         <source>a selected group</source>
         <translation>eine ausgewählte Gruppe</translation>
     </message>
+    <message>
+        <source>Draw</source>
+        <translation>Zeichnen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Write a text on the page</source>
+        <translation>Schreibt einen Text auf die Seite</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>Bild…</translation>
+    </message>
+    <message>
+        <source>Draw the frame of a picture and choose its file</source>
+        <translation>Zieht den Rahmen eines Bildes auf und fragt nach seiner Datei</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Draw a line: drag it, or click its vertices</source>
+        <translation>Zeichnet eine Linie: ziehen, oder die Stützpunkte anklicken</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>Draw a line with an arrow head</source>
+        <translation>Zeichnet eine Linie mit Pfeilspitze</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>Draw an area: click its vertices</source>
+        <translation>Zeichnet eine Fläche: die Stützpunkte anklicken</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Draw a rectangle</source>
+        <translation>Zeichnet ein Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Draw an ellipse</source>
+        <translation>Zeichnet eine Ellipse</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>Punktsymbol</translation>
+    </message>
+    <message>
+        <source>Put a marker on the page</source>
+        <translation>Setzt ein Punktsymbol auf die Seite</translation>
+    </message>
+    <message>
+        <source>Edit Text</source>
+        <translation>Text bearbeiten</translation>
+    </message>
+    <message>
+        <source>Write in the selected text where it stands</source>
+        <translation>Schreibt im ausgewählten Text, wo er steht</translation>
+    </message>
+    <message>
+        <source>a selected text</source>
+        <translation>einen ausgewählten Text</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1297,6 +1377,10 @@
     <message>
         <source>is no picture; it begins with “data:image/png;base64,”, or with jpeg, tiff, webp or svg+xml in place of png, and goes on with the file in base 64</source>
         <translation>ist kein Bild; es beginnt mit „data:image/png;base64,“ oder mit jpeg, tiff, webp oder svg+xml statt png und geht mit der Datei in Base64 weiter</translation>
+    </message>
+    <message>
+        <source>%1 is no placeholder and stands as written; there are [%2].</source>
+        <translation>%1 ist kein Platzhalter und steht da, wie es geschrieben ist; es gibt [%2].</translation>
     </message>
 </context>
 <context>
@@ -3182,6 +3266,62 @@
         <source>The text, with %1 where the scale stands, and {km/cm} for the kilometres of ground on a centimetre of paper. Before the slash may stand m, km, ft, mi, nmi, cm, yd or ftUS, behind it cm or in.</source>
         <translation>Der Text, mit %1, wo der Maßstab steht, und {km/cm} für die Kilometer in der Natur auf einem Zentimeter Papier. Vor dem Schrägstrich darf m, km, ft, mi, nmi, cm, yd oder ftUS stehen, dahinter cm oder in.</translation>
     </message>
+    <message>
+        <source>Arrow</source>
+        <translation>Pfeil</translation>
+    </message>
+    <message>
+        <source>Barbed arrow</source>
+        <translation>Pfeil mit Widerhaken</translation>
+    </message>
+    <message>
+        <source>Open arrow</source>
+        <translation>Offener Pfeil</translation>
+    </message>
+    <message>
+        <source>Dot</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>Balken</translation>
+    </message>
+    <message>
+        <source>Head at the start</source>
+        <translation>Spitze am Anfang</translation>
+    </message>
+    <message>
+        <source>What the first vertex bears.</source>
+        <translation>Was der erste Stützpunkt trägt.</translation>
+    </message>
+    <message>
+        <source>Head at the end</source>
+        <translation>Spitze am Ende</translation>
+    </message>
+    <message>
+        <source>What the last vertex bears.</source>
+        <translation>Was der letzte Stützpunkt trägt.</translation>
+    </message>
+    <message>
+        <source>Size of the heads</source>
+        <translation>Größe der Spitzen</translation>
+    </message>
+    <message>
+        <source>How long an arrow head is; bars are as wide, dots half as wide.</source>
+        <translation>Wie lang eine Pfeilspitze ist; Balken sind so breit, Punkte halb so breit.</translation>
+    </message>
+    <message>
+        <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits] and [page] are filled in while it is drawn.</source>
+        <translation>Was er sagt. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits] und [page] werden beim Zeichnen ausgefüllt.</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Quellenangabe</translation>
+    </message>
+    <message>
+        <source>Whom the data come from; [credits] in a text of the page names them all.</source>
+        <translation>Von wem die Daten stammen; [credits] in einem Text der Seite nennt sie alle.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3437,6 +3577,17 @@
     <message>
         <source>Print JSON, for programs.</source>
         <translation>JSON für Programme ausgeben.</translation>
+    </message>
+</context>
+<context>
+    <name>InsertTool</name>
+    <message>
+        <source>Insert a Picture</source>
+        <translation>Bild einfügen</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)</source>
+        <translation>Bilder (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)</translation>
     </message>
 </context>
 <context>
@@ -3746,6 +3897,41 @@
     </message>
 </context>
 <context>
+    <name>NewElements</name>
+    <message>
+        <source>Insert a text</source>
+        <translation>Text einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a picture</source>
+        <translation>Bild einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a line</source>
+        <translation>Linie einfügen</translation>
+    </message>
+    <message>
+        <source>Insert an arrow</source>
+        <translation>Pfeil einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a polygon</source>
+        <translation>Polygon einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a rectangle</source>
+        <translation>Rechteck einfügen</translation>
+    </message>
+    <message>
+        <source>Insert an ellipse</source>
+        <translation>Ellipse einfügen</translation>
+    </message>
+    <message>
+        <source>Insert a marker</source>
+        <translation>Punktsymbol einfügen</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Reload</source>
@@ -3830,6 +4016,13 @@
     <message>
         <source>Resize the selected elements</source>
         <translation>Größe der ausgewählten Elemente ändern</translation>
+    </message>
+</context>
+<context>
+    <name>PageTexts</name>
+    <message>
+        <source>Untitled</source>
+        <translation>Unbenannt</translation>
     </message>
 </context>
 <context>
@@ -4055,6 +4248,10 @@
     <message>
         <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export.</source>
         <translation>das ist der Name eines Bildes, gespeichert wird aber das Dokument; nennen Sie eine .kdx-Datei oder machen Sie mit Plotvane_Export ein Bild.</translation>
+    </message>
+    <message>
+        <source>an element can only be added where the page layout is shown.</source>
+        <translation>ein Element lässt sich nur hinzufügen, wo das Seitenlayout gezeigt wird.</translation>
     </message>
 </context>
 <context>
@@ -4756,6 +4953,20 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Click to work on this map</source>
         <translation>Klicken, um an dieser Karte zu arbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditing</name>
+    <message>
+        <source>Delete the text</source>
+        <translation>Text löschen</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditor</name>
+    <message>
+        <source>Text on the page</source>
+        <translation>Text auf der Seite</translation>
     </message>
 </context>
 </TS>

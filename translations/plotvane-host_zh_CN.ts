@@ -717,6 +717,86 @@
         <source>a selected group</source>
         <translation>一个所选的组</translation>
     </message>
+    <message>
+        <source>Draw</source>
+        <translation>绘制</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Write a text on the page</source>
+        <translation>在页面上书写文本</translation>
+    </message>
+    <message>
+        <source>Picture…</source>
+        <translation>图片…</translation>
+    </message>
+    <message>
+        <source>Draw the frame of a picture and choose its file</source>
+        <translation>绘制图片框并选择文件</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>Draw a line: drag it, or click its vertices</source>
+        <translation>绘制线：拖动，或逐个单击顶点</translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>Draw a line with an arrow head</source>
+        <translation>绘制带箭头的线</translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation>多边形</translation>
+    </message>
+    <message>
+        <source>Draw an area: click its vertices</source>
+        <translation>绘制面：逐个单击顶点</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>矩形</translation>
+    </message>
+    <message>
+        <source>Draw a rectangle</source>
+        <translation>绘制矩形</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>椭圆</translation>
+    </message>
+    <message>
+        <source>Draw an ellipse</source>
+        <translation>绘制椭圆</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>点标记</translation>
+    </message>
+    <message>
+        <source>Put a marker on the page</source>
+        <translation>在页面上放置点标记</translation>
+    </message>
+    <message>
+        <source>Edit Text</source>
+        <translation>编辑文本</translation>
+    </message>
+    <message>
+        <source>Write in the selected text where it stands</source>
+        <translation>就地编辑选中的文本</translation>
+    </message>
+    <message>
+        <source>a selected text</source>
+        <translation>一个选中的文本</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1297,6 +1377,10 @@
     <message>
         <source>is no picture; it begins with “data:image/png;base64,”, or with jpeg, tiff, webp or svg+xml in place of png, and goes on with the file in base 64</source>
         <translation>不是图片；它以“data:image/png;base64,”开头，或以 jpeg、tiff、webp 或 svg+xml 代替 png，其后是 base64 编码的文件</translation>
+    </message>
+    <message>
+        <source>%1 is no placeholder and stands as written; there are [%2].</source>
+        <translation>%1 不是占位符，将按原样显示；可用的有 [%2]。</translation>
     </message>
 </context>
 <context>
@@ -3182,6 +3266,62 @@
         <source>The text, with %1 where the scale stands, and {km/cm} for the kilometres of ground on a centimetre of paper. Before the slash may stand m, km, ft, mi, nmi, cm, yd or ftUS, behind it cm or in.</source>
         <translation>文字，其中 %1 为比例尺所在处，{km/cm} 为图上一厘米所代表的实地公里数。斜线前可以是 m、km、ft、mi、nmi、cm、yd 或 ftUS，后面是 cm 或 in。</translation>
     </message>
+    <message>
+        <source>Arrow</source>
+        <translation>箭头</translation>
+    </message>
+    <message>
+        <source>Barbed arrow</source>
+        <translation>带倒钩的箭头</translation>
+    </message>
+    <message>
+        <source>Open arrow</source>
+        <translation>开口箭头</translation>
+    </message>
+    <message>
+        <source>Dot</source>
+        <translation>圆点</translation>
+    </message>
+    <message>
+        <source>Bar</source>
+        <translation>短横</translation>
+    </message>
+    <message>
+        <source>Head at the start</source>
+        <translation>起点箭头</translation>
+    </message>
+    <message>
+        <source>What the first vertex bears.</source>
+        <translation>第一个顶点处的形状。</translation>
+    </message>
+    <message>
+        <source>Head at the end</source>
+        <translation>终点箭头</translation>
+    </message>
+    <message>
+        <source>What the last vertex bears.</source>
+        <translation>最后一个顶点处的形状。</translation>
+    </message>
+    <message>
+        <source>Size of the heads</source>
+        <translation>箭头大小</translation>
+    </message>
+    <message>
+        <source>How long an arrow head is; bars are as wide, dots half as wide.</source>
+        <translation>箭头的长度；短横与之同宽，圆点为其一半宽。</translation>
+    </message>
+    <message>
+        <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits] and [page] are filled in while it is drawn.</source>
+        <translation>文本内容。[scale]、[date:yyyy-MM-dd]、[document]、[map]、[crs]、[credits] 和 [page] 在绘制时填入。</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>数据来源</translation>
+    </message>
+    <message>
+        <source>Whom the data come from; [credits] in a text of the page names them all.</source>
+        <translation>数据的提供者；页面文本中的 [credits] 会列出全部来源。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3437,6 +3577,17 @@
     <message>
         <source>Print JSON, for programs.</source>
         <translation>输出 JSON，供程序使用。</translation>
+    </message>
+</context>
+<context>
+    <name>InsertTool</name>
+    <message>
+        <source>Insert a Picture</source>
+        <translation>插入图片</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)</source>
+        <translation>图片 (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)</translation>
     </message>
 </context>
 <context>
@@ -3746,6 +3897,41 @@
     </message>
 </context>
 <context>
+    <name>NewElements</name>
+    <message>
+        <source>Insert a text</source>
+        <translation>插入文本</translation>
+    </message>
+    <message>
+        <source>Insert a picture</source>
+        <translation>插入图片</translation>
+    </message>
+    <message>
+        <source>Insert a line</source>
+        <translation>插入线</translation>
+    </message>
+    <message>
+        <source>Insert an arrow</source>
+        <translation>插入箭头</translation>
+    </message>
+    <message>
+        <source>Insert a polygon</source>
+        <translation>插入多边形</translation>
+    </message>
+    <message>
+        <source>Insert a rectangle</source>
+        <translation>插入矩形</translation>
+    </message>
+    <message>
+        <source>Insert an ellipse</source>
+        <translation>插入椭圆</translation>
+    </message>
+    <message>
+        <source>Insert a marker</source>
+        <translation>插入点标记</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Reload</source>
@@ -3830,6 +4016,13 @@
     <message>
         <source>Resize the selected elements</source>
         <translation>调整所选元素的大小</translation>
+    </message>
+</context>
+<context>
+    <name>PageTexts</name>
+    <message>
+        <source>Untitled</source>
+        <translation>未命名</translation>
     </message>
 </context>
 <context>
@@ -4055,6 +4248,10 @@
     <message>
         <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export.</source>
         <translation>这是图像的名称，而保存的是文档；请指定 .kdx 文件，或用 Plotvane_Export 生成图像。</translation>
+    </message>
+    <message>
+        <source>an element can only be added where the page layout is shown.</source>
+        <translation>只有显示页面布局时才能添加元素。</translation>
     </message>
 </context>
 <context>
@@ -4756,6 +4953,20 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Click to work on this map</source>
         <translation>单击以处理此地图</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditing</name>
+    <message>
+        <source>Delete the text</source>
+        <translation>删除文本</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditor</name>
+    <message>
+        <source>Text on the page</source>
+        <translation>页面上的文本</translation>
     </message>
 </context>
 </TS>

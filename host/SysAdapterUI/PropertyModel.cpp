@@ -12,6 +12,7 @@
 #include <QJsonArray>
 #include <QPainter>
 #include <QPalette>
+#include <QStyle>
 #include <QTimer>
 
 #include <algorithm>
@@ -267,8 +268,10 @@ QVariant PropertyModel::data(QModelIndex const& index, int role) const {
   if (role == PathRole) return node.path;
   if (role == NameRole) return nameOf(node);
   bool const isPart = node.part != Part::Field;
-  if (role == HelpRole || role == Qt::WhatsThisRole)
-    return isPart ? tr(node.field.info.field.help) : translatedField(node.field.info.field.help);
+  if (role == HelpRole || role == Qt::WhatsThisRole) {
+    QString const help = isPart ? tr(node.field.info.field.help) : translatedField(node.field.info.field.help);
+    return node.field.remark.isEmpty() ? help : node.field.remark + QLatin1Char('\n') + help;
+  }
   if (role == Qt::ToolTipRole) return node.problem.isEmpty() ? data(index, HelpRole) : node.problem;
   if (index.column() == CaptionColumn) {
     if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
@@ -284,6 +287,7 @@ QVariant PropertyModel::data(QModelIndex const& index, int role) const {
       return isMixed(node) ? qApp->palette().color(QPalette::Disabled, QPalette::Text) : QVariant();
     case Qt::DecorationRole:
       if (isMixed(node)) return {};
+      if (!node.field.remark.isEmpty()) return qApp->style()->standardIcon(QStyle::SP_MessageBoxWarning);
       if (node.field.info.kind == Kind::Text && node.field.info.rules.textKind == TextKind::Color)
         return colorIcon(QColor(node.field.value.toString()), qApp->palette().color(QPalette::Mid), {14, 14});
       if (!symbolIn(node.field)) return {};

@@ -48,6 +48,11 @@ SheetField& FieldSheet::add(Field const& field, FieldInfo::Kind kind, bool isReq
   return fields_.last();
 }
 
+void FieldSheet::remark(char const* key, QString const& what) {
+  for (SheetField& field : fields_)
+    if (qstrcmp(field.info.field.key, key) == 0) field.remark = what;
+}
+
 void FieldSheet::value(Field const& field, ValueRef value, ValueRules const& rules) {
   SheetField& added = add(field, kindOf(value), rules.isRequired);
   added.info.rules = rules;

@@ -11,6 +11,7 @@ struct SheetField {
   bool isPresent = true;       ///< false for an object that may be missing and is
   QVector<SheetField> fields;  ///< of an object; the entries of a list, as objects
   QVector<QJsonValue> others;  ///< of the same field of others that are looked at, too
+  QString remark;              ///< what a person is to know of the value; mostly empty
 
   QString key() const { return QString::fromUtf8(info.field.key); }
 };
@@ -27,6 +28,7 @@ public:
   bool isReading() const override { return false; }
   QString error() const override { return QString(); }
   void fail(char const*, QString const&) override {}
+  void remark(char const* key, QString const& what) override;
   void variant(Field const& field, int& kind, Choices const& kinds, std::function<void(int)> const& describe) override;
 
 protected:

@@ -134,6 +134,10 @@ public:
   /// Reports a problem with a field that is there but does not make sense, or with the whole object (`key` null).
   virtual void fail(char const* key, QString const& what) = 0;
 
+  /// Says something about the value of a field that was named just now: it can be stored, but may not do what was
+  /// meant. Only those who show fields care.
+  virtual void remark(char const* key, QString const& what);
+
   // Numbers outside their range, infinite or not a number are problems.
 
   void number(Field const& field, double& number, Range const& range, std::optional<double> byDefault = {}) {

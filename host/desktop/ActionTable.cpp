@@ -19,8 +19,8 @@ struct Toolbar {
   char const* name;
   bool startsRow;
 };
-constexpr Toolbar toolbarOrder[] = {{"File", false},       {"Edit", false},   {"Layout", false},
-                                    {"Navigation", false}, {"Insert", false}, {"Arrange", true}};
+constexpr Toolbar toolbarOrder[] = {{"File", false},   {"Edit", false}, {"Layout", false}, {"Navigation", false},
+                                    {"Insert", false}, {"Draw", false}, {"Arrange", true}};
 constexpr int toolbarIconPx = 20;
 
 // The commands that `isWanted` chooses, by section; within one, in the order of the catalogue.

@@ -43,6 +43,7 @@ public:
   static constexpr char const* onArrange = QT_TR_NOOP("Arrange");
   static constexpr char const* onFile = QT_TR_NOOP("File");
   static constexpr char const* onEdit = QT_TR_NOOP("Edit");
+  static constexpr char const* onDraw = QT_TR_NOOP("Draw");
   static constexpr char const* onNone = "";
 
   static constexpr char const* nothing = QT_TR_NOOP("nothing");
@@ -181,6 +182,25 @@ public:
        QT_TR_NOOP("two selected elements, no data frames and no map surrounds among them")},
       {"Host_Ungroup", "ungroup", inArrange, 1, onNone, "Ctrl+Shift+G",
        QT_TR_NOOP("Ungroup"), QT_TR_NOOP("Take the selected groups apart"), QT_TR_NOOP("a selected group")},
+      {"Host_InsertText", "insert-text", inInsert, 3, onDraw, "T",
+       QT_TR_NOOP("Text"), QT_TR_NOOP("Write a text on the page"), pageShown},
+      {"Host_InsertPicture", "insert-picture", inInsert, 3, onDraw, "I",
+       QT_TR_NOOP("Picture…"), QT_TR_NOOP("Draw the frame of a picture and choose its file"), pageShown},
+      {"Host_InsertLine", "insert-line", inInsert, 3, onDraw, "L",
+       QT_TR_NOOP("Line"), QT_TR_NOOP("Draw a line: drag it, or click its vertices"), pageShown},
+      {"Host_InsertArrow", "insert-arrow", inInsert, 3, onDraw, "A",
+       QT_TR_NOOP("Arrow"), QT_TR_NOOP("Draw a line with an arrow head"), pageShown},
+      {"Host_InsertPolygon", "insert-polygon", inInsert, 3, onDraw, "G",
+       QT_TR_NOOP("Polygon"), QT_TR_NOOP("Draw an area: click its vertices"), pageShown},
+      {"Host_InsertRectangle", "insert-rectangle", inInsert, 3, onDraw, "R",
+       QT_TR_NOOP("Rectangle"), QT_TR_NOOP("Draw a rectangle"), pageShown},
+      {"Host_InsertEllipse", "insert-ellipse", inInsert, 3, onDraw, "E",
+       QT_TR_NOOP("Ellipse"), QT_TR_NOOP("Draw an ellipse"), pageShown},
+      {"Host_InsertMarker", "insert-marker", inInsert, 3, onDraw, "M",
+       QT_TR_NOOP("Marker"), QT_TR_NOOP("Put a marker on the page"), pageShown},
+      {"Host_EditText", "edit-text", inEdit, 4, onNone, "F2",
+       QT_TR_NOOP("Edit Text"), QT_TR_NOOP("Write in the selected text where it stands"),
+       QT_TR_NOOP("a selected text")},
       {"Host_LayoutView", "layout-view", inView, 3, onNone, "F5",
        QT_TR_NOOP("Page Layout"), QT_TR_NOOP("Show the page"), document},
       {"Host_MapView", "map-view", inView, 3, onNone, "F6",

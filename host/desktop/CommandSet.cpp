@@ -13,7 +13,9 @@ CommandSet::CommandSet(HostCommands const& host, PluginLibrary const& plugin, vo
     : views_(views) {
   for (CommandEntry const& entry : hostCatalogue()) add(entry, host.createCommand(entry.identifier), hook);
   for (CommandEntry const& entry : commandCatalogue()) add(entry, plugin.createCommand(entry.identifier), hook);
-  if (auto const* const select = find(QStringLiteral("Host_Select"))) makeCurrent(*select);
+  finishTool();
+  QObject::connect(&views.layoutView(), &LayoutView::toolDone, this, &CommandSet::toolDone);
+  QObject::connect(&views.layoutView(), &LayoutView::told, this, &CommandSet::failed);
 }
 
 CommandSet::~CommandSet() { views_.layoutView().setTool(nullptr); }
@@ -33,6 +35,7 @@ HostedCommand const* CommandSet::find(QString const& identifier) const {
 HostedCommand const* CommandSet::currentTool() const { return currentTool_ < 0 ? nullptr : &commands_[currentTool_]; }
 
 bool CommandSet::click(HostedCommand const& command) {
+  views_.layoutView().finishEditing();
   if (!command.command->IsEnable() || (mayClick_ && !mayClick_(command.entry))) return false;
   QString problem;
   if (command.tool) {
@@ -49,8 +52,19 @@ bool CommandSet::click(HostedCommand const& command) {
   return true;
 }
 
+void CommandSet::toolDone() {
+  if (keepsTool_) return;
+  finishTool();
+  emit clicked();
+}
+
+void CommandSet::finishTool() {
+  if (auto const* const select = find(QStringLiteral("Host_Select"))) makeCurrent(*select);
+}
+
 void CommandSet::makeCurrent(HostedCommand const& command) {
   auto const* const former = currentTool();
+  keepsTool_ = former == &command;
   if (former == &command || (former && !former->tool->Deactivate())) return;
   currentTool_ = static_cast<int>(&command - commands_.constData());
   command.tool->Activate();

@@ -43,6 +43,9 @@ public:
   /// Null where no tool is current.
   HostedCommand const* currentTool() const;
 
+  /// The current tool has done its work: that of selecting takes over, unless this one was chosen twice.
+  void toolDone();
+
   /// `mayClick` is asked before each click; where it answers false, nothing is done.
   void setGuard(std::function<bool(CommandEntry const&)> mayClick) { mayClick_ = std::move(mayClick); }
 
@@ -50,15 +53,17 @@ signals:
   /// After each click.
   void clicked();
 
-  /// After a click whose command did not do what it was to do, which it says of its own accord to nobody.
+  /// Why something was not done, as a sentence, by a command or tool that tells of it to nobody.
   void failed(QString const& sentence);
 
 private:
   void makeCurrent(HostedCommand const& command);
+  void finishTool();
   void add(CommandEntry const& entry, SysUtility::_ptr_t<SysUI::ICommand> const& command, void* hook);
 
   DocumentViews& views_;
   std::function<bool(CommandEntry const&)> mayClick_;
   QVector<HostedCommand> commands_;
   int currentTool_ = -1;
+  bool keepsTool_ = false;
 };

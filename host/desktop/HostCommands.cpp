@@ -1,10 +1,13 @@
 #include "HostCommands.h"
 
 #include "DocumentSession.h"
+
 #include "drawing/Grouping.h"
+#include "drawing/InsertTool.h"
 #include "drawing/PageClipboard.h"
 #include "drawing/SelectTool.h"
 #include "drawing/SelectionHandles.h"
+#include "drawing/TextEditing.h"
 
 #include <SysFramework/HostAccess.h>
 
@@ -99,7 +102,7 @@ std::vector<TellingAction> tellingActions(SysCarto::MapDocument const& document)
 
 }  // namespace
 
-HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) {
+HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : views_(views) {
   auto const stack = [&session] { return session.document().GetOperationStack(); };
   add(QStringLiteral("Host_Undo"), {[stack] { stack()->Undo(); }, [stack] { return stack()->CanUndo(); }, {}});
   add(QStringLiteral("Host_Redo"), {[stack] { stack()->Redo(); }, [stack] { return stack()->CanRedo(); }, {}});
@@ -120,6 +123,8 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) {
                                         {},
                                         [problem] { return *problem; }});
   }
+  add(QStringLiteral("Host_EditText"),
+      {[&views] { editText(views, selectedText(views)); }, [&views] { return selectedText(views) != 0; }, {}});
   for (auto const& [identifier, kind] : {std::make_pair("Host_LayoutView", DocumentViews::Kind::Layout),
                                          std::make_pair("Host_MapView", DocumentViews::Kind::Map)})
     add(QLatin1String(identifier),
@@ -128,7 +133,9 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) {
 }
 
 _ptr_t<SysUI::ICommand> HostCommands::createCommand(QString const& identifier) const {
-  if (identifier == QLatin1String("Host_Select")) return SysUtility::make<SelectTool>();
+  if (identifier == QLatin1String("Host_Select")) return SysUtility::make<SelectTool>(views_);
+  for (NewElementKind const& kind : NewElementKind::all())
+    if (identifier == QLatin1String(kind.identifier)) return SysUtility::make<InsertTool>(kind, views_.layoutView());
   auto const action = actions_.constFind(identifier);
   if (action == actions_.constEnd()) return nullptr;
   return SysUtility::make<HostCommand>(*action);

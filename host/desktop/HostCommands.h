@@ -29,12 +29,13 @@ public:
   /// Adds a command that only some desktops have, such as those of a window.
   void add(QString const& identifier, Action const& action) { actions_[identifier] = action; }
 
-  /// Empty where there is no command of that name.
+  /// Empty where there is no command of that name. Tools borrow the views.
   SysUtility::_ptr_t<SysUI::ICommand> createCommand(QString const& identifier) const;
 
   /// Why the latest click of one of these commands did nothing, as a sentence; empty for others.
   static QString problemOf(SysUI::ICommand const& command);
 
 private:
+  DocumentViews& views_;
   QHash<QString, Action> actions_;
 };

@@ -56,6 +56,7 @@ void LayoutView::setLayout(_ptr_t<PageLayout> const& layout) {
   if (layout == layout_) return;
   if (layout_) ActiveViewHost::setSurface(*layout_, nullptr);
   giveDragUp();
+  if (editor_) editor_->giveUp();
   layout_ = layout;
   clearOverlay();
   if (layout_) {
@@ -88,6 +89,23 @@ void LayoutView::giveDragUp() {
 }
 
 void LayoutView::hideEvent(QHideEvent*) { giveDragUp(); }
+
+void LayoutView::edit(SysCarto::TextElement const& text, TextEditor::Taken const& taken) {
+  finishEditing();
+  if (!layout_) return;
+  editor_ = new TextEditor(text, taken, this);
+  editor_->follow(*layout_->GetDisplayTransformation());
+  connect(this, &ViewWidget::viewChanged, editor_.data(), [this, editor = editor_.data()] {
+    if (layout_) editor->follow(*layout_->GetDisplayTransformation());
+  });
+  editor_->show();
+  editor_->setFocus();
+}
+
+void LayoutView::finishEditing() {
+  if (editor_) editor_->take();
+  editor_.clear();
+}
 
 void LayoutView::composePicture() {
   if (layout_) picture_.compose(*layout_, devicePixelRatioF());

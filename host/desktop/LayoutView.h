@@ -2,8 +2,11 @@
 
 #include "PagePicture.h"
 #include "ViewWidget.h"
+#include "drawing/TextEditor.h"
 
 #include <SysUI/ITool.h>
+
+#include <QPointer>
 
 /// The screen of a page layout. Mouse and keys go to the current tool.
 class LayoutView final : public ViewWidget {
@@ -24,8 +27,24 @@ public:
   /// them out again while events are handled.
   void catchUp();
 
+  /// Lets a person write a text of the page where it stands. What another text is written in is taken first.
+  void edit(SysCarto::TextElement const& text, TextEditor::Taken const& taken);
+
+  /// Takes a text that is being written.
+  void finishEditing();
+
   bool isComplete() const override { return picture_.isComplete(); }
   int drawnTiles() const { return picture_.drawnTiles(); }
+
+signals:
+  /// The current tool has done what it was chosen for.
+  void toolDone();
+
+  /// The properties of what is selected are to be shown.
+  void propertiesWanted();
+
+  /// A sentence for the person: why a gesture did nothing.
+  void told(QString const& sentence);
 
 protected:
   void composePicture() override;
@@ -59,4 +78,5 @@ private:
   SysUtility::_ptr_t<SysUI::ITool> tool_;
   Qt::MouseButton dragging_ = Qt::NoButton;  // a tool's drag begins and ends with the same button
   PagePicture picture_;
+  QPointer<TextEditor> editor_;
 };

@@ -206,6 +206,10 @@ void MainWindow::buildProperties() {
   addDockWidget(Qt::RightDockWidgetArea, properties_);
   resizeDocks({properties_}, {propertiesWidthPx}, Qt::Horizontal);
   connect(&bench_.views().layoutView(), &ViewWidget::pressed, properties_, &PropertyPanel::showSelection);
+  connect(&bench_.views().layoutView(), &LayoutView::propertiesWanted, properties_, [this] {
+    properties_->show();
+    properties_->raise();
+  });
   connect(contents_, &SysAdapterUI::TOCControl::RowChosen, properties_, &PropertyPanel::showRow);
   connect(properties_, &PropertyPanel::told, notice_,
           [this](QString const& sentence) { notice_->tell(sentence, false); });

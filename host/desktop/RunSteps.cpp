@@ -4,6 +4,8 @@
 #include "DocumentLock.h"
 #include "DocumentReport.h"
 #include "ImageFormat.h"
+#include "NumberList.h"
+#include "drawing/NewElements.h"
 
 #include "host/SysCarto/maps/MapSteps.h"
 #include "host/SysUtility/JsonFile.h"
@@ -31,17 +33,6 @@ namespace {
 constexpr QSize viewSize(1024, 768);  // fixed, so that what depends on the view is the same on every machine
 constexpr int movesOfADrag = 4;
 constexpr int maxShown = 200;  // characters of a step in a message
-
-QVector<double> numbersIn(QString const& text) {
-  QVector<double> numbers;
-  for (QString const& part : text.split(QLatin1Char(','))) {
-    bool isNumber = false;
-    double const number = part.toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(number)) return {};
-    numbers << number;
-  }
-  return numbers;
-}
 
 bool isIn(QVector<CommandEntry> const& all, QString const& identifier) {
   return std::any_of(all.begin(), all.end(), [&](CommandEntry const& entry) {
@@ -90,6 +81,7 @@ bool areTwoPoints(QString const& text) { return numbersIn(text).size() == 4; }
 bool isScale(QString const& text) { return scaleDenominatorOf(text).has_value(); }
 bool isView(QString const& text) { return text == QLatin1String("layout") || text == QLatin1String("map"); }
 bool isAnswer(QString const& text) { return text.indexOf(QLatin1Char(':')) > 0; }
+bool isAddition(QString const& text) { return NewElement::of(text).has_value(); }
 bool isAnything(QString const& text) { return !text.isEmpty(); }
 
 }  // namespace
@@ -130,6 +122,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("hide"),       text("LAYER"),        isAnything,   &RunSteps::hideLayers, {}},
       {text("set"),        text("WHAT/FIELD…:VALUE"), isSetting, &RunSteps::setField, {}},
       {text("get"),        text("WHAT/FIELD…"),  isAnything,   &RunSteps::getField, {}},
+      {text("add"),        text("KIND:CONTENT@X,Y,…"), isAddition, &RunSteps::add, {}},
       {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
       {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
       {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
@@ -348,6 +341,16 @@ QString RunSteps::getField(QString const& text) {
     }
     return QString();
   });
+}
+
+// The file of a picture is where the program runs, as in every other step.
+QString RunSteps::add(QString const& text) {
+  auto const layout = SysUtility::ptr_cast<SysCarto::PageLayout>(bench_.desktop().GetActiveView());
+  if (!layout || !layout->GetPage()) return tr("an element can only be added where the page layout is shown.");
+  auto element = *NewElement::of(text);
+  if (element.kind->content == NewElementKind::Content::File)
+    element.content = QFileInfo(element.content).absoluteFilePath();
+  return element.kind->insert(*layout, element.points, element.content);
 }
 
 QString RunSteps::answer(QString const& text) {

@@ -50,6 +50,7 @@ private:
   QString setField(QString const& text);
   QString getField(QString const& text);
   QString withThings(QString const& what, std::function<QString(SysCarto::Editable::List const&)> const& use);
+  QString add(QString const& text);
   QString answer(QString const& text);
   QString save(QString const& file);
   QString info(QString const&);

@@ -31,6 +31,17 @@ constexpr Range onPage{-10000, 10000, Unit::Centimetre};
 constexpr double maxCoordinate = 1e12;  // graphics lie on maps, too, in map units
 constexpr int maxMembers = 100000, maxRings = 100000, maxGrids = 100;
 
+// clang-format off
+constexpr SysUtility::Choice arrowHeads[] = {
+    {ArrowHead::None,     "none",     QT_TRANSLATE_NOOP("Fields", "None")},
+    {ArrowHead::Triangle, "triangle", QT_TRANSLATE_NOOP("Fields", "Arrow")},
+    {ArrowHead::Barbed,   "barbed",   QT_TRANSLATE_NOOP("Fields", "Barbed arrow")},
+    {ArrowHead::Open,     "open",     QT_TRANSLATE_NOOP("Fields", "Open arrow")},
+    {ArrowHead::Dot,      "dot",      QT_TRANSLATE_NOOP("Fields", "Dot")},
+    {ArrowHead::Bar,      "bar",      QT_TRANSLATE_NOOP("Fields", "Bar")},
+};
+// clang-format on
+
 Range anywhere(ElementScope const& scope) {
   return {-maxCoordinate, maxCoordinate, scope.onMap ? Unit::MapUnit : Unit::Centimetre};
 }
@@ -83,16 +94,27 @@ void PointSettings::applyTo(MarkerElement& marker, ElementScope const&) const {
 }
 
 LineSettings LineSettings::of(LineElement const& line, ElementScope const&) {
-  return {line.shape()->GetPoints(), line.symbol()};
+  return {line.shape()->GetPoints(), line.heads(), line.symbol()};
 }
 
 void LineSettings::list(Fields& fields, ElementScope const& scope) {
+  ArrowHeads const usual;
   listPoints(fields, points, 2, scope);
+  fields.choice<ArrowHead>({"startHead", QT_TRANSLATE_NOOP("Fields", "Head at the start"),
+                            QT_TRANSLATE_NOOP("Fields", "What the first vertex bears.")},
+                           heads.start, arrowHeads, usual.start);
+  fields.choice<ArrowHead>({"endHead", QT_TRANSLATE_NOOP("Fields", "Head at the end"),
+                            QT_TRANSLATE_NOOP("Fields", "What the last vertex bears.")},
+                           heads.end, arrowHeads, usual.end);
+  fields.number({"headSize", QT_TRANSLATE_NOOP("Fields", "Size of the heads"),
+                 QT_TRANSLATE_NOOP("Fields", "How long an arrow head is; bars are as wide, dots half as wide.")},
+                heads.sizePt, {0.1, 1000, Unit::Point}, usual.sizePt);
   listSymbolOf(fields, symbol);
 }
 
 void LineSettings::applyTo(LineElement& line, ElementScope const&) const {
   line.setShape(make<Polyline>(points));
+  line.setHeads(heads);
   line.setSymbol(symbol);
 }
 
@@ -145,8 +167,16 @@ TextElementSettings TextElementSettings::of(TextElement const& element, ElementS
 
 void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
   listPosition(fields, position, scope);
-  fields.text({"text", QT_TRANSLATE_NOOP("Fields", "Text"), QT_TRANSLATE_NOOP("Fields", "What it says.")}, text,
-              TextKind::Lines);
+  fields.text({"text", QT_TRANSLATE_NOOP("Fields", "Text"),
+               scope.onMap ? QT_TRANSLATE_NOOP("Fields", "What it says.")
+                           : QT_TRANSLATE_NOOP("Fields",
+                                               "What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], "
+                                               "[credits] and [page] are filled in while it is drawn.")},
+              text, TextKind::Lines);
+  QStringList const unknown = scope.onMap ? QStringList() : Placeholders::unknownIn(text);
+  if (!unknown.isEmpty())
+    fields.remark("text", Texts::tr("%1 is no placeholder and stands as written; there are [%2].")
+                              .arg(unknown.first(), Placeholders::names().join(QStringLiteral("], ["))));
   fields.number({"angle", QT_TRANSLATE_NOOP("Fields", "Angle"),
                  QT_TRANSLATE_NOOP("Fields", "How far the text is turned counterclockwise about its position.")},
                 angle, {-360, 360, Unit::Degree}, 0.0);

@@ -38,6 +38,7 @@ struct PointSettings {
 
 struct LineSettings {
   QVector<QPointF> points;
+  ArrowHeads heads;
   SysUtility::_ptr_t<SysDisplay::LineSymbol> symbol;
 
   static LineSettings of(LineElement const& line, ElementScope const& scope);

@@ -73,15 +73,9 @@ void open(VectorLayer& layer, SourceSettings const& source, Map const& map, Docu
 LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const& context) {
   auto const scales = LayerHost::scales(layer);
   auto const labels = AnnotationSettings::of(*layer.GetAnnotationProperties());
-  LayerSettings settings{layer.source(),
-                         layer.renderer().settings(),
-                         layer.GetName(),
-                         layer.IsVisible(),
-                         scales.min,
-                         scales.max,
-                         LayerHost::effects(layer),
-                         layer.labelSettings(),
-                         labels};
+  LayerSettings settings{
+      layer.source(), layer.renderer().settings(), layer.GetName(),           layer.IsVisible(),     scales.min,
+      scales.max,     LayerHost::effects(layer),   LayerHost::credits(layer), layer.labelSettings(), labels};
   settings.source.file = storedPath(settings.source.file, context);
   return settings;
 }
@@ -111,6 +105,9 @@ void LayerSettings::list(Fields& fields) {
                                                "Whether the layer covers the layers below, or darkens or lightens "
                                                "them.")},
                             effects.blend, blends, usual.effects.blend);
+  fields.text({"credits", QT_TRANSLATE_NOOP("Fields", "Credits"),
+               QT_TRANSLATE_NOOP("Fields", "Whom the data come from; [credits] in a text of the page names them all.")},
+              credits, TextKind::Line, QString());
   bool const hasLabels =
       fields.optionalObject({"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
                              QT_TRANSLATE_NOOP("Fields", "Texts at the features; without them, none are written.")},
@@ -146,6 +143,7 @@ void LayerSettings::give(VectorLayer& layer) const {
   layer.SetVisible(visible);
   layer.SetScaleRange(minScale, maxScale);
   LayerHost::setEffects(layer, effects);
+  LayerHost::setCredits(layer, credits);
   layer.setLabelSettings(labels);
   annotation.applyTo(*layer.GetAnnotationProperties());
 }

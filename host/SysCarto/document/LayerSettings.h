@@ -16,6 +16,7 @@ struct LayerSettings {
   bool visible = true;
   double minScale = 0, maxScale = 0;  ///< scale denominators; 0 is no limit
   LayerEffects effects;
+  QString credits;
   LabelSettings labels;
   AnnotationSettings annotation;
 

@@ -1,6 +1,7 @@
 #include "MapDocumentHost.h"
 #include "DocumentFields.h"
 #include "OperationStack.h"
+#include "PageTexts.h"
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
@@ -82,7 +83,10 @@ QString lastFailure;
 
 struct MapDocument::Private {
   explicit Private(MapDocument const* document) : operations(make<OperationStack>(&history, document)) {}
-  ~Private() { operations->detach(); }
+  ~Private() {
+    if (texts) texts->end();
+    operations->detach();
+  }
 
   DocumentContent content;
   QString path;
@@ -90,7 +94,8 @@ struct MapDocument::Private {
   int unreadableSources = 0;
   QUndoStack history;
   _ptr_t<OperationStack> operations;
-  SysUtility::ChangeMark change;  // of the layout for another
+  std::shared_ptr<Placeholders> texts;  // of the layout
+  SysUtility::ChangeMark change;        // of the layout for another
 
   // As it is in the file.
   quint64 cleanTime = 0;
@@ -115,6 +120,9 @@ void MapDocument::Private::setLayout(_ptr_t<PageLayout> const& layout) {
   if (content.layout && elementsOf(*content.layout)->history() == &history)
     elementsOf(*content.layout)->setHistory(nullptr);
   if (layout) elementsOf(*layout)->setHistory(&history);
+  if (texts) texts->end();
+  texts = layout ? pageTexts(*layout, [this] { return path; }) : nullptr;
+  if (layout) elementsOf(*layout)->setPlaceholders(texts);
   content.layout = layout;
   history.clear();
   change.raise();

@@ -50,6 +50,7 @@ void ElementHost::setContainer(Element& element, ElementContainer* container) {
 }
 
 bool ElementHost::isPlaced(Element const& element) { return element.d->container != nullptr; }
+ElementContainer const* ElementHost::container(Element const& element) { return element.d->container; }
 bool ElementHost::isLabel(Element const& element) { return element.d->label; }
 void ElementHost::becomeLabel(Element& element) { element.d->label = true; }
 

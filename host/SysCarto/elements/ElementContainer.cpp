@@ -207,6 +207,11 @@ void ElementContainer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> con
 void ElementContainer::setHistory(QUndoStack* history) { history_ = history; }
 QUndoStack* ElementContainer::history() const { return history_; }
 
+void ElementContainer::setPlaceholders(std::shared_ptr<Placeholders> const& placeholders) {
+  placeholders_ = placeholders;
+  for (ElementPtr const& element : qAsConst(order_.elements)) usePlaceholders(*element, placeholders_);
+}
+
 void ElementContainer::elementMoved() {
   if (change_.raise() && history_) history_->clear();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SysCarto/elements/Placeholders.h"
 #include "host/SysUtility/ChangeMark.h"
 
 #include <SysCarto/IElementContainer.h>
@@ -68,6 +69,10 @@ public:
   void setHistory(QUndoStack* history);
   QUndoStack* history() const;
 
+  /// What the placeholders in its texts stand for; null where texts stand as written.
+  std::shared_ptr<Placeholders> const& placeholders() const { return placeholders_; }
+  void setPlaceholders(std::shared_ptr<Placeholders> const& placeholders);
+
   /// When an element came, went or changed outside an operation; but labels come and go with a drawing.
   quint64 lastChange() const { return change_.time(); }
 
@@ -88,6 +93,7 @@ private:
   ElementHandle lastHandle_ = 0;
   SysUtility::ChangeMark change_;
   QPointer<QUndoStack> history_;
+  std::shared_ptr<Placeholders> placeholders_;
   std::shared_ptr<ElementContainer*> token_;
 };
 

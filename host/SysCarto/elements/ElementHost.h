@@ -11,6 +11,8 @@ struct SYSCARTO_EXPORT ElementHost {
   static void setHandle(Element& element, ElementHandle handle);
   static void setContainer(Element& element, ElementContainer* container);
   static bool isPlaced(Element const& element);
+  /// In which the element lies; null for none.
+  static ElementContainer const* container(Element const& element);
 
   /// A label lies in a container while it is drawn and no longer, so that its coming and going change no document. A
   /// clone is an element like others.

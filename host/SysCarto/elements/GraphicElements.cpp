@@ -7,6 +7,7 @@
 
 namespace SysCarto {
 
+using SysDisplay::DisplayTransformation;
 using SysDisplay::SimpleFillSymbol;
 using SysDisplay::SimpleLineSymbol;
 using SysDisplay::SimpleMarkerSymbol;
@@ -41,6 +42,27 @@ LineElement::LineElement(LineElement const&) = default;
 LineElement::~LineElement() = default;
 int LineElement::GetType() const { return ElementType::Line; }
 _ptr_t<Element> LineElement::Clone() const { return make<LineElement>(*this); }
+
+ArrowShape LineElement::arrow(DisplayTransformation const& transformation) const {
+  return {shape()->GetPoints(), heads_, worldPerPoint(transformation)};
+}
+
+void LineElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation,
+                       _ptr_t<SysUI::TrackerCancel> const& cancel) {
+  if (heads_.isNone() || !symbol() || !transformation) return SymbolElement::Draw(painter, transformation, cancel);
+  arrow(*transformation).draw(painter, transformation, *symbol());
+}
+
+_ptr_t<Geometry> LineElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
+  auto const line = SymbolElement::GetBoundary(transformation);
+  if (heads_.isNone() || !symbol() || !transformation) return line;
+  auto const heads = arrow(*transformation).bounds();
+  // An open head's corners reach as far as their mitre does.
+  double const reach = symbol()->GetWidth() * 1.5 * worldPerPoint(*transformation);
+  heads->Expand(reach, reach, false);
+  include(*heads, line);
+  return heads;
+}
 
 PolygonElement::PolygonElement() : SymbolElement(make<Polygon>(), outlinedFill()) {}
 PolygonElement::PolygonElement(PolygonElement const&) = default;

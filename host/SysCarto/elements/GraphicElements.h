@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SysCarto/elements/ArrowHead.h"
 #include "host/SysCarto/elements/ShapeElement.h"
 
 #include <SysDisplay/FillSymbol.h>
@@ -21,8 +22,22 @@ public:
   LineElement();
   LineElement(LineElement const&);
   ~LineElement() override;
+
+  /// In the colour of the symbol. They lie within the line's ends.
+  ArrowHeads const& heads() const { return heads_; }
+  void setHeads(ArrowHeads const& heads) { heads_ = heads; }
+
   int GetType() const override;
+  void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+            SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) override;
+  SysUtility::_ptr_t<SysGeometry::Geometry> GetBoundary(
+      SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   SysUtility::_ptr_t<Element> Clone() const override;
+
+private:
+  ArrowShape arrow(SysDisplay::DisplayTransformation const& transformation) const;
+
+  ArrowHeads heads_;
 };
 
 class SYSCARTO_EXPORT PolygonElement final : public SymbolElement<SysGeometry::Polygon, SysDisplay::FillSymbol> {

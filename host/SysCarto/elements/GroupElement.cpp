@@ -1,4 +1,5 @@
 #include "Placement.h"
+#include "ElementContainer.h"
 #include "ElementHost.h"
 #include "TextElement.h"
 
@@ -68,6 +69,10 @@ _ptr_t<Geometry> GroupElement::GetBoundary(_ptr_t<DisplayTransformation> const& 
   auto const area = SysUtility::make<Envelope>();
   for (_ptr_t<Element> const& member : members_) include(*area, member->GetBoundary(transformation));
   return area;
+}
+
+void GroupElement::containerChanged() {
+  if (auto const* const container = ElementHost::container(*this)) usePlaceholders(*this, container->placeholders());
 }
 
 _ptr_t<Element> GroupElement::Clone() const { return SysUtility::make<GroupElement>(*this); }

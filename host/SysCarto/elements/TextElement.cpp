@@ -1,5 +1,7 @@
 #include "TextElement.h"
 
+#include "ElementContainer.h"
+#include "ElementHost.h"
 #include "Placement.h"
 
 #include "host/SysDisplay/DrawTarget.h"
@@ -98,8 +100,18 @@ void TextElement::SetGeometry(_ptr_t<Envelope> const& rectangle) {
   Move(to->GetX() - from->GetX(), to->GetY() - from->GetY());
 }
 
-QRectF const& TextElement::boundsPt() const {
-  if (!boundsPt_) boundsPt_ = QTransform().rotate(-angle_).mapRect(symbol_->bounds(text_));
+QString TextElement::shown() const { return placeholders_ ? placeholders_->filled(text_) : text_; }
+
+void TextElement::setPlaceholders(std::shared_ptr<Placeholders> const& placeholders) { placeholders_ = placeholders; }
+
+// A text that was taken out goes on saying what it said, as a clone does.
+void TextElement::containerChanged() {
+  if (auto const* const container = ElementHost::container(*this)) setPlaceholders(container->placeholders());
+}
+
+QRectF const& TextElement::boundsPt(QString const& shown) const {
+  if (!boundsPt_ || measured_ != shown) boundsPt_ = QTransform().rotate(-angle_).mapRect(symbol_->bounds(shown));
+  measured_ = shown;
   return *boundsPt_;
 }
 
@@ -110,7 +122,7 @@ _ptr_t<Envelope> TextElement::rectangle(QRectF const& boundsPt, double unitsPerP
 
 _ptr_t<Envelope> TextElement::GetEnvelope() const {
   double const halo = symbol_->format().haloSize;
-  QRectF const letters = symbol_->bounds(text_).adjusted(halo, halo, -halo, -halo);
+  QRectF const letters = symbol_->bounds(shown()).adjusted(halo, halo, -halo, -halo);
   return rectangle(QTransform().rotate(-angle_).mapRect(letters.normalized()), SysDisplay::cmPerPoint);
 }
 
@@ -125,12 +137,13 @@ void TextElement::drawOn(DrawTarget& target) const {
   QPointF const position = target.toDevice().map(QPointF(x_, y_));
   double const scale = target.pixelsPerPoint();
   // Most labels of a map lie in other tiles. That shows here without looking the text up.
-  QRectF const pixels(position + boundsPt().topLeft() * scale, boundsPt().size() * scale);
-  if (pixels.adjusted(-1, -1, 1, 1).intersects(target.area())) symbol_->drawAt(target, position, angle_, text_);
+  QString const words = shown();
+  QRectF const pixels(position + boundsPt(words).topLeft() * scale, boundsPt(words).size() * scale);
+  if (pixels.adjusted(-1, -1, 1, 1).intersects(target.area())) symbol_->drawAt(target, position, angle_, words);
 }
 
 _ptr_t<Geometry> TextElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
-  auto const covered = rectangle(boundsPt(), transformation ? worldPerPoint(*transformation) : 0.0);
+  auto const covered = rectangle(boundsPt(shown()), transformation ? worldPerPoint(*transformation) : 0.0);
   return transformation ? upright(*transformation, {x_, y_}, *covered) : covered;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SysCarto/elements/Placeholders.h"
 #include "host/SysDisplay/TextSymbol.h"
 
 #include <SysCarto/Element.h>
@@ -20,6 +21,12 @@ public:
 
   QString text() const { return text_; }
   void setText(QString const& text);
+
+  /// What is drawn: the text with its placeholders filled in.
+  QString shown() const;
+
+  /// Null for a text that stands as written.
+  void setPlaceholders(std::shared_ptr<Placeholders> const& placeholders);
 
   /// Shared: elements may have one symbol together, and clones do. Change a clone. An empty pointer is ignored.
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol() const { return symbol_; }
@@ -55,16 +62,19 @@ public:
   SysUtility::_ptr_t<Element> Clone() const override;
 
 private:
+  void containerChanged() override;
   friend void scaleInWhole(Element&, SysUtility::_ptr_t<SysGeometry::Point> const&, double, double);
   double maxFactor(double wanted) const;
   void enlarge(double factor);
-  QRectF const& boundsPt() const;
+  QRectF const& boundsPt(QString const& shown) const;
   SysUtility::_ptr_t<SysGeometry::Envelope> rectangle(QRectF const& boundsPt, double unitsPerPoint) const;
 
   QString text_;
+  std::shared_ptr<Placeholders> placeholders_;
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol_;
   double x_ = 0, y_ = 0;
   double angle_ = 0;
+  mutable QString measured_;                // what the bounds are of
   mutable std::optional<QRectF> boundsPt_;  // turned, halo included, y downwards, about the position
 };
 

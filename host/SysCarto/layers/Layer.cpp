@@ -9,6 +9,7 @@ struct Layer::Private {
   bool visible = true;
   ScaleRange scales;
   LayerEffects effects;
+  QString credits;
   SysUtility::ChangeMark change;
   quint64 look = 1;
 };
@@ -48,6 +49,8 @@ void LayerHost::setEffects(Layer& layer, LayerEffects const& effects) {
   layer.d->change.set(layer.d->effects.blend, effects.blend);
   changeLook(layer);
 }
+QString LayerHost::credits(Layer const& layer) { return layer.d->credits; }
+void LayerHost::setCredits(Layer& layer, QString const& credits) { layer.d->change.set(layer.d->credits, credits); }
 quint64 LayerHost::lastChange(Layer const& layer) { return layer.d->change.time(); }
 quint64 LayerHost::look(Layer const& layer) { return layer.d->look; }
 

@@ -16,6 +16,10 @@ struct SYSCARTO_EXPORT LayerHost {
   static LayerEffects effects(Layer const& layer);
   static void setEffects(Layer& layer, LayerEffects const& effects);
 
+  /// Whom the data come from, as their makers ask to be named; may be empty.
+  static QString credits(Layer const& layer);
+  static void setCredits(Layer& layer, QString const& credits);
+
   /// When what can be set of every layer was last changed outside the history's steps (`ChangeMark`).
   static quint64 lastChange(Layer const& layer);
 

@@ -5,6 +5,7 @@
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
 #include <SysFramework/HostAccess.h>
+#include <SysGeometry/Polyline.h>
 
 #include <QCoreApplication>
 
@@ -28,19 +29,27 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(PageGesture)
 };
 
-_ptr_t<SysDisplay::Symbol> outlineSymbol() {
+_ptr_t<SysDisplay::LineSymbol> outlineSymbol() {
   auto const line = make<SysDisplay::SimpleLineSymbol>();
   line->SetStyle(SysDisplay::SimpleLineStyle::Solid);
   line->SetColor(QColor(0x1a, 0x73, 0xe8));
   line->SetWidth(0.75);
+  return line;
+}
+
+_ptr_t<SysDisplay::Symbol> filledSymbol() {
   auto const fill = make<SysDisplay::SimpleFillSymbol>();
   fill->SetColor(QColor(0x1a, 0x73, 0xe8, 36));
-  fill->SetOutlineSymbol(line);
+  fill->SetOutlineSymbol(outlineSymbol());
   return fill;
 }
 
 QRectF rectangleOf(Envelope const& envelope) {
   return {envelope.GetXMin(), envelope.GetYMin(), envelope.GetWidth(), envelope.GetHeight()};
+}
+
+_ptr_t<SysGeometry::Geometry> outlineOf(QRectF const& box) {
+  return make<Envelope>(box.left(), box.top(), box.right(), box.bottom());
 }
 
 QVector<QRectF> selectedRectangles(PageLayout const& layout) {
@@ -67,6 +76,13 @@ void changeSelection(PageLayout& layout, QString const& name, std::function<void
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
+QPointF pagePoint(PageLayout const& layout, QPoint const& pixel) {
+  QTransform const toDevice = layout.GetDisplayTransformation()->ToDevice();
+  QPointF const point = toDevice.inverted().map(QPointF(pixel));
+  double const decimals = std::pow(10.0, std::ceil(std::log10(toDevice.m11())));  // in a centimetre
+  return {std::round(point.x() * decimals) / decimals, std::round(point.y() * decimals) / decimals};
+}
+
 PageGesture::PageGesture(PageLayout& layout, QPointF const& press) : layout_(layout), press_(press), point_(press) {}
 PageGesture::~PageGesture() = default;
 
@@ -77,10 +93,9 @@ void PageGesture::moveTo(QPointF const& point, Qt::KeyboardModifiers modifiers) 
   hasMoved_ = hasMoved_ || std::max(std::abs(way.x()), std::abs(way.y())) >= dragPx;
   if (!hasMoved_) return;
   layout_.BeginTrackerDraw();
-  _ptr_t<SysDisplay::Symbol> symbol = outlineSymbol();
-  for (QRectF const& outline : outlines()) {
-    _ptr_t<SysGeometry::Geometry> shape =
-        make<Envelope>(outline.left(), outline.top(), outline.right(), outline.bottom());
+  _ptr_t<SysDisplay::Symbol> const line = outlineSymbol(), area = filledSymbol();
+  for (_ptr_t<SysGeometry::Geometry> shape : outlines()) {
+    auto symbol = SysUtility::ptr_cast<SysGeometry::Polyline>(shape) ? line : area;
     layout_.DrawTrackerShape(symbol, shape);
   }
   layout_.EndTrackerDraw();
@@ -96,9 +111,9 @@ void PageGesture::cancel() {
   layout_.EndTrackerDraw();
 }
 
-QVector<QRectF> MoveGesture::outlines() const {
-  QVector<QRectF> moved = selectedRectangles(layout());
-  for (QRectF& rectangle : moved) rectangle.translate(offset());
+PageGesture::Outlines MoveGesture::outlines() const {
+  Outlines moved;
+  for (QRectF const& rectangle : selectedRectangles(layout())) moved << outlineOf(rectangle.translated(offset()));
   return moved;
 }
 
@@ -148,17 +163,17 @@ void ResizeGesture::Scaling::apply(Element& element) const {
 }
 
 // Of clones, since not every element becomes what its rectangle would.
-QVector<QRectF> ResizeGesture::outlines() const {
+PageGesture::Outlines ResizeGesture::outlines() const {
   Scaling const by = scaling();
   auto const selection = movableSelection(layout());
   if (selection.size() > maxOutlines)
-    return {QRectF(by.origin + by.scaled(bounds_.topLeft() - by.origin),
-                   by.origin + by.scaled(bounds_.bottomRight() - by.origin))};
-  QVector<QRectF> rectangles;
+    return {outlineOf(QRectF(by.origin + by.scaled(bounds_.topLeft() - by.origin),
+                             by.origin + by.scaled(bounds_.bottomRight() - by.origin)))};
+  Outlines rectangles;
   for (auto const& element : selection) {
     auto const clone = element->Clone();
     by.apply(*clone);
-    rectangles << rectangleOf(*clone->GetEnvelope());
+    rectangles << clone->GetEnvelope();
   }
   return rectangles;
 }
@@ -168,6 +183,8 @@ void ResizeGesture::commit() {
   if (by.x == 1 && by.y == 1) return;
   changeSelection(layout(), Texts::tr("Resize the selected elements"), [&](Element& element) { by.apply(element); });
 }
+
+PageGesture::Outlines RubberBandGesture::outlines() const { return {outlineOf(band())}; }
 
 void RubberBandGesture::commit() {
   auto* const container = layout().GetGraphicsContainer();

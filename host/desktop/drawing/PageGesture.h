@@ -10,6 +10,9 @@
 
 class QString;
 
+/// The place on the page under a pixel of the view, in centimetres, with the decimals that a pixel can tell.
+QPointF pagePoint(SysCarto::PageLayout const& layout, QPoint const& pixel);
+
 /// What happens on a page between the press of a mouse button and its release. The gesture owns the course: it shows in
 /// an overlay what would become, and changes the document once, at its end, as one step of undo. What a drag means is
 /// for the derived classes to say. Points are page centimetres.
@@ -37,8 +40,9 @@ protected:
   QPointF point() const { return point_; }
   Qt::KeyboardModifiers modifiers() const { return modifiers_; }
 
-  /// The rectangles that show what the release would do.
-  virtual QVector<QRectF> outlines() const = 0;
+  /// What shows in the overlay what the release would do.
+  using Outlines = QVector<SysUtility::_ptr_t<SysGeometry::Geometry>>;
+  virtual Outlines outlines() const = 0;
   virtual void commit() = 0;
 
 private:
@@ -60,7 +64,7 @@ public:
   MoveGesture(SysCarto::PageLayout& layout, QPointF const& press) : PageGesture(layout, press) {}
 
 protected:
-  QVector<QRectF> outlines() const override;
+  Outlines outlines() const override;
   void commit() override;
 
 private:
@@ -74,7 +78,7 @@ public:
   ResizeGesture(SysCarto::PageLayout& layout, QPointF const& press, Handle const& handle);
 
 protected:
-  QVector<QRectF> outlines() const override;
+  Outlines outlines() const override;
   void commit() override;
 
 private:
@@ -98,7 +102,7 @@ public:
   RubberBandGesture(SysCarto::PageLayout& layout, QPointF const& press) : PageGesture(layout, press) {}
 
 protected:
-  QVector<QRectF> outlines() const override { return {band()}; }
+  Outlines outlines() const override;
   void commit() override;
 
 private:

@@ -1,6 +1,9 @@
 #include "SelectTool.h"
 
+#include "TextEditing.h"
+
 #include "host/SysCarto/elements/ElementHit.h"
+#include "host/desktop/DocumentViews.h"
 
 #include <SysCarto/Map.h>
 #include <SysFramework/HostAccess.h>
@@ -21,13 +24,9 @@ constexpr double reachPx = 3;
 constexpr double nudgeCm = 0.1;
 constexpr double farNudge = 10;
 
-QPointF pageOf(PageLayout const& layout, QPoint const& pixel) {
-  return layout.GetDisplayTransformation()->ToDevice().inverted().map(QPointF(pixel));
-}
-
 // The topmost one; empty where there is none.
 _ptr_t<Element> elementAt(PageLayout const& layout, QPoint const& pixel, bool mayBeLocked = false) {
-  QPointF const point = pageOf(layout, pixel);
+  QPointF const point = pagePoint(layout, pixel);
   double const reach = reachPx / layout.GetDisplayTransformation()->ToDevice().m11();
   auto const elements = layout.GetGraphicsContainer()->GetElements();
   SysGeometry::Envelope const place(point.x() - reach, point.y() - reach, point.x() + reach, point.y() + reach);
@@ -63,7 +62,7 @@ Qt::CursorShape cursorFor(Handle const& handle) {
 
 }  // namespace
 
-SelectTool::SelectTool() { enabled_ = true; }
+SelectTool::SelectTool(DocumentViews& views) : views_(views) { enabled_ = true; }
 SelectTool::~SelectTool() = default;
 
 bool SelectTool::IsEnable() { return static_cast<bool>(SysFramework::activePageLayout(*hook())); }
@@ -95,7 +94,7 @@ void SelectTool::OnMouseDown(QMouseEvent* event) {
 }
 
 void SelectTool::press(_ptr_t<PageLayout> const& layout, QMouseEvent const& event) {
-  QPointF const point = pageOf(*layout, event.pos());
+  QPointF const point = pagePoint(*layout, event.pos());
   bool const adds = event.modifiers() & Qt::ShiftModifier;
   Handle const handle = SelectionHandles(*layout).at(event.pos());
   if (!handle.isNone()) {
@@ -119,13 +118,13 @@ void SelectTool::press(_ptr_t<PageLayout> const& layout, QMouseEvent const& even
 }
 
 void SelectTool::OnMouseMove(QMouseEvent* event) {
-  if (gesture_) gesture_->moveTo(pageOf(*layout_, event->pos()), event->modifiers());
+  if (gesture_) gesture_->moveTo(pagePoint(*layout_, event->pos()), event->modifiers());
 }
 
 void SelectTool::OnMouseUp(QMouseEvent* event) {
   if (!gesture_) return;
   auto const gesture = std::move(gesture_);
-  gesture->moveTo(pageOf(*layout_, event->pos()), event->modifiers());
+  gesture->moveTo(pagePoint(*layout_, event->pos()), event->modifiers());
   if (!gesture->hasMoved() && clicked_) select(*layout_, {clicked_});
   gesture->finish();
   clicked_ = nullptr;
@@ -136,10 +135,15 @@ void SelectTool::OnMouseUp(QMouseEvent* event) {
 void SelectTool::OnDblClick(QMouseEvent* event) {
   auto const layout = SysFramework::activePageLayout(*hook());
   if (!layout || event->button() != Qt::LeftButton) return;
-  auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(elementAt(*layout, event->pos(), true));
-  if (!frame) return;
-  layout->SetFocusMap(frame->GetMap());
-  showSelection(*layout);
+  auto const element = elementAt(*layout, event->pos(), true);
+  if (!element) return;
+  giveUp();
+  if (auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element)) {
+    layout->SetFocusMap(frame->GetMap());
+    return showSelection(*layout);
+  }
+  if (element->GetType() == SysCarto::ElementType::Text) return editText(views_, element->GetHandle());
+  emit views_.layoutView().propertiesWanted();
 }
 
 // Everything is as it was before the button went down.

@@ -6,12 +6,15 @@
 
 #include <memory>
 
+class DocumentViews;
+
 /// The host's tool for arranging a page by hand: click and Shift-click select, a drag moves, resizes by a handle or
-/// spans a rubber band; a double click gives a data frame the focus; arrow keys nudge, Escape puts back what a gesture
-/// began.
+/// spans a rubber band; a double click writes in a text, gives a data frame the focus, and shows the properties of what
+/// else there is; arrow keys nudge, Escape puts back what a gesture began.
 class SelectTool final : public SysFramework::BaseTool {
 public:
-  SelectTool();
+  /// The views are borrowed and outlive the tool.
+  explicit SelectTool(DocumentViews& views);
   ~SelectTool() override;
 
   bool IsEnable() override;
@@ -31,6 +34,7 @@ private:
   void giveUp();
   bool nudge(SysCarto::PageLayout& layout, QKeyEvent const& event);
 
+  DocumentViews& views_;
   SysUtility::_ptr_t<SysCarto::PageLayout> layout_;  // of the gesture, as long as there is one
   std::unique_ptr<PageGesture> gesture_;
   Selection selectionBefore_;

@@ -30,6 +30,8 @@ public:
   SysUtility::_ptr_t<Element> Clone() const override;
 
 private:
+  void containerChanged() override;
+
   QList<SysUtility::_ptr_t<Element>> members_;
 };
 

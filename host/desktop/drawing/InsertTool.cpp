@@ -1,0 +1,202 @@
+#include "InsertTool.h"
+
+#include "TextEditor.h"
+
+#include "host/SysCarto/elements/Placement.h"
+#include "host/SysCarto/elements/TextElement.h"
+#include "host/desktop/LayoutView.h"
+
+#include <SysFramework/HostAccess.h>
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLineF>
+#include <QMouseEvent>
+
+#include <cmath>
+
+using SysCarto::PageLayout;
+using SysGeometry::Envelope;
+using SysGeometry::Geometry;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace {
+
+constexpr double shiftStepDegrees = 45;
+constexpr double sameVertexPx = 2;
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(InsertTool)
+};
+
+// The foot of the point on the nearest ray from `from` that is a multiple of 45 degrees.
+QPointF onRay(QPointF const& from, QPointF const& to) {
+  QPointF const way = to - from;
+  double const turned = std::round(QLineF(from, to).angle() / shiftStepDegrees) * shiftStepDegrees;
+  QPointF const ray = QLineF::fromPolar(1, turned).p2();
+  return from + ray * QPointF::dotProduct(way, ray);
+}
+
+// The longer side counts.
+QPointF onSquare(QPointF const& from, QPointF const& to) {
+  QPointF const way = to - from;
+  double const side = std::max(std::abs(way.x()), std::abs(way.y()));
+  return from + QPointF(std::copysign(side, way.x()), std::copysign(side, way.y()));
+}
+
+}  // namespace
+
+DrawGesture::DrawGesture(PageLayout& layout, QPointF const& press, NewElementKind const& kind)
+    : PageGesture(layout, press), kind_(kind), fixed_{press} {}
+
+void DrawGesture::addVertex() { fixed_ = points(); }
+
+bool DrawGesture::removeVertex() {
+  fixed_.removeLast();
+  if (fixed_.isEmpty()) return false;
+  moveTo(point(), modifiers());
+  return true;
+}
+
+QPointF DrawGesture::constrained() const {
+  if (!(modifiers() & Qt::ShiftModifier)) return point();
+  return kind_.points == NewElementKind::Points::Corners ? onSquare(fixed_.last(), point())
+                                                         : onRay(fixed_.last(), point());
+}
+
+QVector<QPointF> DrawGesture::points() const {
+  QPointF const last = constrained();
+  double const reach = sameVertexPx / layout().GetDisplayTransformation()->ToDevice().m11();
+  bool const isSame = QLineF(fixed_.last(), last).length() < reach;
+  return isSame ? fixed_ : QVector<QPointF>(fixed_) << last;
+}
+
+QVector<_ptr_t<Geometry>> DrawGesture::outlines() const {
+  auto const drawn = points();
+  if (drawn.size() < 2) return {};
+  if (kind_.points == NewElementKind::Points::Vertices) {
+    QVector<QPointF> const ring = kind_.isClosed() ? QVector<QPointF>(drawn) << drawn.first() : drawn;
+    return {make<SysGeometry::Polyline>(ring)};
+  }
+  auto const box = make<Envelope>(drawn[0].x(), drawn[0].y(), drawn[1].x(), drawn[1].y());
+  if (QLatin1String(kind_.name) == QLatin1String("ellipse")) return {SysCarto::ellipseIn(*box)};
+  return {box};
+}
+
+InsertTool::InsertTool(NewElementKind const& kind, LayoutView& view) : kind_(kind), view_(view) { enabled_ = true; }
+InsertTool::~InsertTool() = default;
+
+bool InsertTool::IsEnable() {
+  auto const layout = SysFramework::activePageLayout(*hook());
+  return layout && layout->GetPage();
+}
+
+bool InsertTool::Deactivate() {
+  giveUp();
+  return BaseTool::Deactivate();
+}
+
+void InsertTool::OnEnterEvent(QEvent*) { SetCurrentCursor(QCursor(Qt::CrossCursor)); }
+
+void InsertTool::OnMouseDown(QMouseEvent* event) {
+  auto const layout = SysFramework::activePageLayout(*hook());
+  if (!layout || event->button() != Qt::LeftButton) return;
+  if (gesture_ && layout == layout_) return moveTo(*event);
+  layout_ = layout;
+  isFirstPress_ = true;
+  gesture_ = std::make_unique<DrawGesture>(*layout, pagePoint(*layout, event->pos()), kind_);
+}
+
+void InsertTool::OnMouseMove(QMouseEvent* event) { moveTo(*event); }
+void InsertTool::JustMouseMove(QMouseEvent* event) { moveTo(*event); }
+
+// Another document may be shown since the first vertex was set.
+void InsertTool::moveTo(QMouseEvent const& event) {
+  if (gesture_ && layout_ != SysFramework::activePageLayout(*hook())) giveUp();
+  if (gesture_) gesture_->moveTo(pagePoint(*layout_, event.pos()), event.modifiers());
+}
+
+void InsertTool::OnMouseUp(QMouseEvent* event) {
+  if (!gesture_ || event->button() != Qt::LeftButton) return;
+  moveTo(*event);
+  if (!gesture_) return;
+  bool const wasFirst = std::exchange(isFirstPress_, false);
+  bool const isRun = kind_.points == NewElementKind::Points::Vertices;
+  if (!isRun || (wasFirst && gesture_->hasMoved() && !kind_.isClosed())) return finish();
+  gesture_->addVertex();
+}
+
+void InsertTool::OnDblClick(QMouseEvent*) {
+  if (gesture_) finish();
+}
+
+void InsertTool::finish() {
+  auto const points = gesture_->points();
+  auto const usual = kind_.usualPoints(points.first());
+  bool const isDrawn = points.size() >= kind_.minPoints;
+  if (!isDrawn && points.size() > 1) return;  // two vertices are no area yet
+  giveUp();
+  insert(isDrawn && kind_.minPoints > 1 ? points : usual);
+}
+
+void InsertTool::giveUp() {
+  if (!gesture_) return;
+  gesture_->cancel();
+  gesture_.reset();
+}
+
+void InsertTool::insert(QVector<QPointF> const& points) {
+  if (kind_.content == NewElementKind::Content::None) return insertWith(points, QString());
+  if (kind_.content == NewElementKind::Content::Text) {
+    auto const draft = SysUtility::ptr_cast<SysCarto::TextElement>(kind_.make(points, QString()));
+    view_.edit(*draft, [this, points](QString const& text) {
+      if (!text.isEmpty()) insertWith(points, text);
+    });
+    return;
+  }
+  QFileDialog dialog(&view_, Texts::tr("Insert a Picture"), QString(),
+                     Texts::tr("Pictures (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)"));
+  dialog.setObjectName(QStringLiteral("insertPicture"));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (dialog.exec() == QDialog::Accepted) insertWith(points, dialog.selectedFiles().first());
+}
+
+void InsertTool::insertWith(QVector<QPointF> const& points, QString const& content) {
+  auto const layout = SysFramework::activePageLayout(*hook());
+  if (!layout) return;
+  QString const problem = kind_.insert(*layout, points, content);
+  if (problem.isEmpty())
+    emit view_.toolDone();
+  else
+    emit view_.told(problem);
+}
+
+void InsertTool::OnKeyDown(QKeyEvent* event) {
+  auto const layout = SysFramework::activePageLayout(*hook());
+  if (!layout) return;
+  switch (event->key()) {
+    case Qt::Key_Escape:
+      if (gesture_)
+        giveUp();
+      else
+        emit view_.toolDone();
+      break;
+    case Qt::Key_Backspace:
+      if (gesture_ && !gesture_->removeVertex()) giveUp();
+      break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter: {
+      if (gesture_) {
+        finish();
+        break;
+      }
+      auto const middle = layout->GetExtent()->GetAnchorPoint();
+      insert(kind_.usualPoints({middle->GetX(), middle->GetY()}));
+      break;
+    }
+    default: return;
+  }
+  event->accept();
+}

@@ -1,0 +1,169 @@
+#include "NewElements.h"
+
+#include "host/desktop/NumberList.h"
+
+#include "host/SysCarto/elements/GraphicElements.h"
+#include "host/SysCarto/elements/PictureElement.h"
+#include "host/SysCarto/elements/TextElement.h"
+
+#include <SysDisplay/SimpleFillSymbol.h>
+#include <SysDisplay/SimpleLineSymbol.h>
+#include <SysFramework/HostAccess.h>
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+using SysCarto::Element;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+
+namespace {
+
+using Points = NewElementKind::Points;
+using Content = NewElementKind::Content;
+
+constexpr double usualWidthCm = 4, usualHeightCm = 3;
+constexpr double usualLinePt = 0.75;
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(NewElements)
+};
+
+_ptr_t<SysDisplay::LineSymbol> usualLine() {
+  auto const line = make<SysDisplay::SimpleLineSymbol>();
+  line->SetWidth(usualLinePt);
+  return line;
+}
+
+// White, so that what lies below does not disturb, and a click anywhere in it hits it.
+_ptr_t<SysDisplay::FillSymbol> usualFill() {
+  auto const fill = make<SysDisplay::SimpleFillSymbol>();
+  fill->SetColor(Qt::white);
+  fill->SetOutlineSymbol(usualLine());
+  return fill;
+}
+
+template <class Box>
+_ptr_t<Box> boxed(QVector<QPointF> const& corners) {
+  auto const element = make<Box>();
+  element->SetGeometry(make<SysGeometry::Envelope>(corners[0].x(), corners[0].y(), corners[1].x(), corners[1].y()));
+  return element;
+}
+
+template <class Box>
+_ptr_t<Element> makeBox(QVector<QPointF> const& corners, QString const&) {
+  auto const box = boxed<Box>(corners);
+  box->setSymbol(usualFill());
+  return box;
+}
+
+_ptr_t<Element> makePicture(QVector<QPointF> const& corners, QString const& path) {
+  auto const picture = boxed<SysCarto::PictureElement>(corners);
+  picture->setPath(path);
+  return picture;
+}
+
+_ptr_t<SysCarto::LineElement> lined(QVector<QPointF> const& vertices) {
+  auto const line = make<SysCarto::LineElement>();
+  line->setShape(make<SysGeometry::Polyline>(vertices));
+  line->setSymbol(usualLine());
+  return line;
+}
+
+_ptr_t<Element> makeLine(QVector<QPointF> const& vertices, QString const&) { return lined(vertices); }
+
+_ptr_t<Element> makeArrow(QVector<QPointF> const& vertices, QString const&) {
+  auto const arrow = lined(vertices);
+  SysCarto::ArrowHeads heads;
+  heads.end = SysCarto::ArrowHead::Triangle;
+  arrow->setHeads(heads);
+  return arrow;
+}
+
+_ptr_t<Element> makePolygon(QVector<QPointF> const& vertices, QString const&) {
+  auto const polygon = make<SysCarto::PolygonElement>();
+  polygon->setShape(make<SysGeometry::Polygon>(QVector<QVector<QPointF>>{vertices}));
+  polygon->setSymbol(usualFill());
+  return polygon;
+}
+
+_ptr_t<Element> makeMarker(QVector<QPointF> const& place, QString const&) {
+  auto const marker = make<SysCarto::MarkerElement>();
+  marker->setShape(make<SysGeometry::Point>(place[0].x(), place[0].y(), 0.0));
+  return marker;
+}
+
+// It hangs below its place, as it was drawn.
+_ptr_t<Element> makeText(QVector<QPointF> const& place, QString const& words) {
+  auto const text = make<SysCarto::TextElement>();
+  auto format = text->symbol()->format();
+  format.vertical = SysDisplay::VerticalAlignment::Top;
+  text->setSymbol(make<SysDisplay::TextSymbol>(format));
+  text->setText(words);
+  text->setPosition(place[0].x(), place[0].y());
+  return text;
+}
+
+}  // namespace
+
+QVector<NewElementKind> const& NewElementKind::all() {
+  // clang-format off
+  static QVector<NewElementKind> const kinds = {
+      {"text",      "Host_InsertText",      QT_TRANSLATE_NOOP("NewElements", "Insert a text"),      Points::Place,    Content::Text, 1, makeText},
+      {"picture",   "Host_InsertPicture",   QT_TRANSLATE_NOOP("NewElements", "Insert a picture"),   Points::Corners,  Content::File, 2, makePicture},
+      {"line",      "Host_InsertLine",      QT_TRANSLATE_NOOP("NewElements", "Insert a line"),      Points::Vertices, Content::None, 2, makeLine},
+      {"arrow",     "Host_InsertArrow",     QT_TRANSLATE_NOOP("NewElements", "Insert an arrow"),    Points::Vertices, Content::None, 2, makeArrow},
+      {"polygon",   "Host_InsertPolygon",   QT_TRANSLATE_NOOP("NewElements", "Insert a polygon"),   Points::Vertices, Content::None, 3, makePolygon},
+      {"rectangle", "Host_InsertRectangle", QT_TRANSLATE_NOOP("NewElements", "Insert a rectangle"), Points::Corners,  Content::None, 2, makeBox<SysCarto::RectangleElement>},
+      {"ellipse",   "Host_InsertEllipse",   QT_TRANSLATE_NOOP("NewElements", "Insert an ellipse"),  Points::Corners,  Content::None, 2, makeBox<SysCarto::EllipseElement>},
+      {"marker",    "Host_InsertMarker",    QT_TRANSLATE_NOOP("NewElements", "Insert a marker"),    Points::Place,    Content::None, 1, makeMarker},
+  };
+  // clang-format on
+  return kinds;
+}
+
+QVector<QPointF> NewElementKind::usualPoints(QPointF const& place) const {
+  QPointF const right(usualWidthCm, 0), down(0, -usualHeightCm);
+  switch (points) {
+    case Points::Place: return {place};
+    case Points::Corners: return {place, place + right + down};
+    case Points::Vertices: break;
+  }
+  return isClosed() ? QVector<QPointF>{place + right / 2, place + right + down, place + down}
+                    : QVector<QPointF>{place, place + right};
+}
+
+QString NewElementKind::insert(SysCarto::PageLayout& layout, QVector<QPointF> const& at, QString const& words) const {
+  auto const element = make(at, words);
+  auto const picture = SysUtility::ptr_cast<SysCarto::PictureElement>(element);
+  if (picture && !picture->problem().isEmpty()) return picture->problem();
+  auto* const container = layout.GetGraphicsContainer();
+  {
+    SysFramework::EditorOperation const operation(Texts::tr(stepName));
+    container->AddElement(element);
+  }
+  container->UnselectAllElements();
+  container->SelectElement(element);
+  layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
+  return QString();
+}
+
+std::optional<NewElement> NewElement::of(QString const& text) {
+  int const at = text.lastIndexOf(QLatin1Char('@'));
+  QString const what = text.left(at), name = what.section(QLatin1Char(':'), 0, 0);
+  auto const& kinds = NewElementKind::all();
+  auto const kind = std::find_if(kinds.begin(), kinds.end(),
+                                 [&](NewElementKind const& one) { return name == QLatin1String(one.name); });
+  QString const content = what.mid(name.size() + 1);
+  if (at < 0 || kind == kinds.end() || content.isEmpty() != (kind->content == Content::None)) return std::nullopt;
+  QVector<QPointF> points;
+  auto const numbers = numbersIn(text.mid(at + 1));
+  for (int i = 0; i + 1 < numbers.size(); i += 2) points << QPointF(numbers[i], numbers[i + 1]);
+  if (points.size() == 1) points = kind->usualPoints(points.first());
+  bool const isCounted = kind->points != Points::Vertices;
+  bool const isRight =
+      numbers.size() % 2 == 0 && (isCounted ? points.size() == kind->minPoints : points.size() >= kind->minPoints);
+  if (!isRight) return std::nullopt;
+  return NewElement{&*kind, content, points};
+}
