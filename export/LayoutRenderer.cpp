@@ -181,7 +181,8 @@ void LayoutRenderer::drawTile(QPainter& painter, QRect const& pixels, _ptr_t<Tra
   layout_->GetPage()->DrawBackground(painter, tile.transform);
   layout_->GetPage()->DrawBorder(painter, tile.transform);
   for (auto const& element : layout_->GetGraphicsContainer()->GetElements())
-    if (element->GetBoundary(tile.transform)->GetEnvelope()->Intersects(tile.extent)) drawElement(tile, element);
+    if (element->IsVisible() && element->GetBoundary(tile.transform)->GetEnvelope()->Intersects(tile.extent))
+      drawElement(tile, element);
 }
 
 void LayoutRenderer::drawElement(Tile const& tile, _ptr_t<Element> const& element) const {
@@ -245,7 +246,7 @@ void PlacedLabels::CreateAnnotationElement(IApplicationHook& hook, Maps& maps, L
   IElementContainer* elements = view ? view->GetGraphicsContainer() : nullptr;
   if (!elements) return;
   for (auto const& element : elements->GetElements()) {
-    if (element->GetType() != SysCarto::ElementType::DataFrame) continue;
+    if (element->GetType() != SysCarto::ElementType::DataFrame || !element->IsVisible()) continue;
     auto const frame = ptr_cast<MapFrameElement>(element);
     if (!frame) continue;
     maps << frame->GetMap();

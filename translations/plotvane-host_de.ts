@@ -443,7 +443,7 @@
     </message>
     <message>
         <source>Select all elements but locked data frames</source>
-        <translation>Alle Elemente außer gesperrten Datenrahmen auswählen</translation>
+        <translation type="vanished">Alle Elemente außer gesperrten Datenrahmen auswählen</translation>
     </message>
     <message>
         <source>Select nothing</source>
@@ -655,7 +655,7 @@
     </message>
     <message>
         <source>Move the selected elements to the clipboard</source>
-        <translation>Verschiebt die ausgewählten Elemente in die Zwischenablage</translation>
+        <translation>Die ausgewählten Elemente in die Zwischenablage verschieben</translation>
     </message>
     <message>
         <source>a selected element that is not locked</source>
@@ -667,7 +667,7 @@
     </message>
     <message>
         <source>Copy the selected elements to the clipboard</source>
-        <translation>Kopiert die ausgewählten Elemente in die Zwischenablage</translation>
+        <translation>Die ausgewählten Elemente in die Zwischenablage kopieren</translation>
     </message>
     <message>
         <source>Paste</source>
@@ -675,7 +675,7 @@
     </message>
     <message>
         <source>Put the elements, the text or the picture of the clipboard on the page</source>
-        <translation>Fügt die Elemente, den Text oder das Bild der Zwischenablage auf der Seite ein</translation>
+        <translation>Die Elemente, den Text oder das Bild der Zwischenablage auf der Seite einfügen</translation>
     </message>
     <message>
         <source>Paste in Place</source>
@@ -683,7 +683,7 @@
     </message>
     <message>
         <source>Put the elements of the clipboard where they were copied</source>
-        <translation>Fügt die Elemente der Zwischenablage dort ein, wo sie kopiert wurden</translation>
+        <translation>Die Elemente der Zwischenablage dort einfügen, wo sie kopiert wurden</translation>
     </message>
     <message>
         <source>Duplicate</source>
@@ -691,7 +691,7 @@
     </message>
     <message>
         <source>Put copies of the selected elements beside them</source>
-        <translation>Legt Kopien der ausgewählten Elemente neben sie</translation>
+        <translation>Kopien der ausgewählten Elemente neben sie legen</translation>
     </message>
     <message>
         <source>Group</source>
@@ -699,7 +699,7 @@
     </message>
     <message>
         <source>Make one element of the selected ones</source>
-        <translation>Macht aus den ausgewählten Elementen eines</translation>
+        <translation>Aus den ausgewählten Elementen eines machen</translation>
     </message>
     <message>
         <source>two selected elements, no data frames and no map surrounds among them</source>
@@ -711,7 +711,7 @@
     </message>
     <message>
         <source>Take the selected groups apart</source>
-        <translation>Löst die ausgewählten Gruppen auf</translation>
+        <translation>Die ausgewählten Gruppen auflösen</translation>
     </message>
     <message>
         <source>a selected group</source>
@@ -796,6 +796,18 @@
     <message>
         <source>a selected text</source>
         <translation>einen ausgewählten Text</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Show or hide the list of the changes, to go back to any of them</source>
+        <translation>Die Liste der Änderungen ein- oder ausblenden, um zu einer davon zurückzugehen</translation>
+    </message>
+    <message>
+        <source>Select all elements that are neither locked nor hidden</source>
+        <translation>Alle Elemente auswählen, die weder gesperrt noch ausgeblendet sind</translation>
     </message>
 </context>
 <context>
@@ -1345,6 +1357,41 @@
     </message>
 </context>
 <context>
+    <name>ElementModel</name>
+    <message>
+        <source>Hidden; click, or press Space, to show it</source>
+        <translation>Ausgeblendet; Klicken oder die Leertaste blendet es ein</translation>
+    </message>
+    <message>
+        <source>Click, or press Space, to hide it</source>
+        <translation>Klicken oder die Leertaste blendet es aus</translation>
+    </message>
+    <message>
+        <source>Locked; click, or press Shift+Space, to unlock it</source>
+        <translation>Gesperrt; Klicken oder Umschalt+Leertaste entsperrt es</translation>
+    </message>
+    <message>
+        <source>Click, or press Shift+Space, to lock it: the mouse then leaves it alone</source>
+        <translation>Klicken oder Umschalt+Leertaste sperrt es: Die Maus lässt es dann in Ruhe</translation>
+    </message>
+    <message>
+        <source>Elements</source>
+        <translation>Elemente</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Ausgeblendet</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Restack the selected elements</source>
+        <translation>Die Reihenfolge der ausgewählten Elemente ändern</translation>
+    </message>
+</context>
+<context>
     <name>ElementSettings</name>
     <message>
         <source>needs at least %1 points</source>
@@ -1732,7 +1779,7 @@
     </message>
     <message>
         <source>Whether the mouse leaves the data frame and its map alone.</source>
-        <translation>Ob die Maus den Datenrahmen und seine Karte in Ruhe lässt.</translation>
+        <translation type="vanished">Ob die Maus den Datenrahmen und seine Karte in Ruhe lässt.</translation>
     </message>
     <message>
         <source>Grids</source>
@@ -3322,6 +3369,18 @@
         <source>Whom the data come from; [credits] in a text of the page names them all.</source>
         <translation>Von wem die Daten stammen; [credits] in einem Text der Seite nennt sie alle.</translation>
     </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Ausgeblendet</translation>
+    </message>
+    <message>
+        <source>Whether it is drawn neither on the screen nor in an export.</source>
+        <translation>Ob es weder auf dem Bildschirm noch in einem Export gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>Whether the mouse leaves it alone, and the map of a data frame.</source>
+        <translation>Ob die Maus es in Ruhe lässt, und die Karte eines Datenrahmens.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3747,6 +3806,14 @@
     <message>
         <source>%1[*] (read-only) – Plotvane</source>
         <translation>%1[*] (schreibgeschützt) – Plotvane</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
     </message>
 </context>
 <context>

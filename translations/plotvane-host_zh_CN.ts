@@ -443,7 +443,7 @@
     </message>
     <message>
         <source>Select all elements but locked data frames</source>
-        <translation>选择除锁定数据框以外的所有元素</translation>
+        <translation type="vanished">选择除锁定数据框以外的所有元素</translation>
     </message>
     <message>
         <source>Select nothing</source>
@@ -796,6 +796,18 @@
     <message>
         <source>a selected text</source>
         <translation>一个选中的文本</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
+    </message>
+    <message>
+        <source>Show or hide the list of the changes, to go back to any of them</source>
+        <translation>显示或隐藏更改列表，可返回其中任意一步</translation>
+    </message>
+    <message>
+        <source>Select all elements that are neither locked nor hidden</source>
+        <translation>选择所有既未锁定也未隐藏的元素</translation>
     </message>
 </context>
 <context>
@@ -1345,6 +1357,41 @@
     </message>
 </context>
 <context>
+    <name>ElementModel</name>
+    <message>
+        <source>Hidden; click, or press Space, to show it</source>
+        <translation>已隐藏；点击或按空格键将其显示</translation>
+    </message>
+    <message>
+        <source>Click, or press Space, to hide it</source>
+        <translation>点击或按空格键将其隐藏</translation>
+    </message>
+    <message>
+        <source>Locked; click, or press Shift+Space, to unlock it</source>
+        <translation>已锁定；点击或按 Shift+空格键解锁</translation>
+    </message>
+    <message>
+        <source>Click, or press Shift+Space, to lock it: the mouse then leaves it alone</source>
+        <translation>点击或按 Shift+空格键锁定：鼠标便不再触动它</translation>
+    </message>
+    <message>
+        <source>Elements</source>
+        <translation>元素</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>锁定</translation>
+    </message>
+    <message>
+        <source>Restack the selected elements</source>
+        <translation>调整所选元素的叠放顺序</translation>
+    </message>
+</context>
+<context>
     <name>ElementSettings</name>
     <message>
         <source>needs at least %1 points</source>
@@ -1732,7 +1779,7 @@
     </message>
     <message>
         <source>Whether the mouse leaves the data frame and its map alone.</source>
-        <translation>是否防止用鼠标改动数据框及其地图。</translation>
+        <translation type="vanished">是否防止用鼠标改动数据框及其地图。</translation>
     </message>
     <message>
         <source>Grids</source>
@@ -3322,6 +3369,18 @@
         <source>Whom the data come from; [credits] in a text of the page names them all.</source>
         <translation>数据的提供者；页面文本中的 [credits] 会列出全部来源。</translation>
     </message>
+    <message>
+        <source>Hidden</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>Whether it is drawn neither on the screen nor in an export.</source>
+        <translation>是否既不在屏幕上也不在导出中绘制。</translation>
+    </message>
+    <message>
+        <source>Whether the mouse leaves it alone, and the map of a data frame.</source>
+        <translation>鼠标是否不触动它，以及数据框中的地图。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3747,6 +3806,14 @@
     <message>
         <source>%1[*] (read-only) – Plotvane</source>
         <translation>%1[*]（只读）– Plotvane</translation>
+    </message>
+    <message>
+        <source>Beginning</source>
+        <translation>开头</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>历史记录</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "DocumentReport.h"
 
+#include "host/SysCarto/document/ElementFields.h"
+
 #include <SysCarto/Map.h>
 #include <SysCarto/MapDocument.h>
 #include <SysCarto/PageLayout.h>
@@ -71,14 +73,14 @@ QJsonValue pageJson(SysCarto::Page const* page) {
 }
 
 QJsonObject elementJson(_ptr_t<Element> const& element, bool selected) {
-  auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element);
   return QJsonObject{{QStringLiteral("handle"), element->GetHandle()},
                      {QStringLiteral("name"), element->GetName()},
                      {QStringLiteral("type"), element->GetType()},
                      {QStringLiteral("kind"), kindName(elementKinds, element->GetType())},
                      {QStringLiteral("envelope"), rectangle(element->GetEnvelope())},
                      {QStringLiteral("selected"), selected},
-                     {QStringLiteral("locked"), frame && frame->IsLocked()}};
+                     {QStringLiteral("locked"), SysCarto::isLocked(*element)},
+                     {QStringLiteral("hidden"), !element->IsVisible()}};
 }
 
 QJsonArray elementsJson(IElementContainer const* container) {

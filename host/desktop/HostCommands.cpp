@@ -39,7 +39,7 @@ _ptr_t<SysCarto::PageLayout> shownLayout(DocumentViews const& views) {
 
 void selectAll(SysCarto::PageLayout& layout) {
   for (auto const& element : layout.GetGraphicsContainer()->GetElements())
-    if (!isLocked(*element)) layout.GetGraphicsContainer()->SelectElement(element);
+    if (isInReach(*element)) layout.GetGraphicsContainer()->SelectElement(element);
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 

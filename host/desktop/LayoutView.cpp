@@ -1,6 +1,7 @@
 #include "LayoutView.h"
 
 #include "drawing/SelectionHandles.h"
+#include "drawing/SelectionWalk.h"
 
 #include <SysCarto/Map.h>
 
@@ -38,6 +39,19 @@ void paintFocusMark(QPainter& painter, PageLayout const& layout) {
       QPointF const level(x * markLengthPx, 0), upright(0, y * markLengthPx);
       painter.drawPolyline(QPolygonF({corner - level, corner, corner - upright}));
     }
+  painter.restore();
+}
+
+// What was selected in a list and is locked has no handles.
+void paintLocked(QPainter& painter, PageLayout const& layout) {
+  painter.save();
+  painter.setPen(QPen(QColor(0x70, 0x78, 0x80), 1, Qt::DashLine));
+  for (auto const& element : layout.GetGraphicsContainer()->GetSelectedElements()) {
+    if (!isLocked(*element)) continue;
+    auto const place = element->GetEnvelope();
+    painter.drawRect(layout.GetDisplayTransformation()->ToDevice().mapRect(
+        QRectF(place->GetXMin(), place->GetYMin(), place->GetWidth(), place->GetHeight())));
+  }
   painter.restore();
 }
 
@@ -128,6 +142,7 @@ QRectF LayoutView::placeOfPicture() const {
 void LayoutView::paintOver(QPainter& painter) {
   if (!layout_) return;
   paintFocusMark(painter, *layout_);
+  paintLocked(painter, *layout_);
   SelectionHandles(*layout_).paint(painter);
 }
 
@@ -140,6 +155,14 @@ bool LayoutView::event(QEvent* event) {
     if ((isArrow && isPlain) || key == Qt::Key_Escape) event->accept();
   }
   return ViewWidget::event(event);
+}
+
+// Tab goes through the elements before it goes on.
+bool LayoutView::focusNextPrevChild(bool next) {
+  if (!layout_ || dragging_ != Qt::NoButton || !selectNeighbour(*layout_, next))
+    return ViewWidget::focusNextPrevChild(next);
+  emit viewChanged();
+  return true;
 }
 
 void LayoutView::resizeEvent(QResizeEvent*) {
@@ -225,6 +248,12 @@ void LayoutView::zoomAt(QPoint const& position, double factor) {
 
 void LayoutView::keyPressEvent(QKeyEvent* event) {
   event->ignore();
+  bool const isBack = event->key() == Qt::Key_Backtab;
+  if ((isBack || event->key() == Qt::Key_Tab) && event->modifiers() & Qt::ControlModifier) {
+    event->accept();
+    ViewWidget::focusNextPrevChild(!isBack);
+    return;
+  }
   if (!tool_ || !layout_) return;
   tool_->OnKeyDown(event);
   if (event->isAccepted()) emit viewChanged();

@@ -54,6 +54,7 @@ protected:
   void paintOver(QPainter& painter) override;
 
   bool event(QEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

@@ -1,10 +1,12 @@
 #include "MainWindow.h"
 
 #include "BoxTitles.h"
+#include "ElementList.h"
 #include "Icons.h"
 #include "NoticeBar.h"
 #include "PropertyPanel.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
 #include "host/SysUtility/ScaleText.h"
 
@@ -20,8 +22,10 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QSettings>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QUndoView>
 #include <QVBoxLayout>
 
 using SysUtility::_ptr_t;
@@ -83,6 +87,7 @@ MainWindow::MainWindow()
   buildViews();
   buildContents();
   buildProperties();
+  buildHistory();
   buildStatusBar();
   actions_ = std::make_unique<ActionTable>(bench_.commands(), *this);
   auto* const recent = new QMenu(tr("Open Recent"), this);
@@ -93,11 +98,13 @@ MainWindow::MainWindow()
 
   connect(&bench_.views(), &DocumentViews::changed, actions_.get(), &ActionTable::refreshSoon);
   connect(&bench_.session(), &DocumentSession::historyChanged, actions_.get(), &ActionTable::refreshSoon);
-  connect(contentsDock_, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
+  for (QDockWidget const* dock : {contentsDock_, historyDock_})
+    connect(dock, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
   connect(&bench_.session(), &DocumentSession::historyChanged, this, &MainWindow::listMaps);
   connect(&bench_.session(), &DocumentSession::replaced, this, &MainWindow::documentReplaced);
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
   connect(actions_.get(), &ActionTable::refreshed, properties_, &PropertyPanel::follow);
+  connect(actions_.get(), &ActionTable::refreshed, elements_, &ElementList::follow);
   connect(properties_, &PropertyPanel::editing, actions_.get(), &ActionTable::refreshSoon);
   connect(properties_, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
   connectFiles();
@@ -133,6 +140,8 @@ void MainWindow::addWindowCommands(HostCommands& host) {
                                                  if (properties_->isVisible()) properties_->widget()->setFocus();
                                                },
                                                always, [this] { return properties_->isVisible(); }});
+  host.add(QStringLiteral("Host_History"), {[this] { historyDock_->setVisible(!historyDock_->isVisible()); }, always,
+                                            [this] { return historyDock_->isVisible(); }});
   host.add(QStringLiteral("Host_Quit"), {[this] { QTimer::singleShot(0, this, &QWidget::close); }, always, always});
   host.add(QStringLiteral("Host_About"), {[this] { showAbout(); }, always, always});
 }
@@ -192,7 +201,13 @@ void MainWindow::buildContents() {
   contents_->setMinimumWidth(contentsWidthPx / 2);
   contentsDock_ = new QDockWidget(tr("Contents"), this);
   contentsDock_->setObjectName(QStringLiteral("dockWidget_Contents"));
-  contentsDock_->setWidget(contents_);
+  elements_ = new ElementList(bench_.session(), this);
+  auto* const parts = new QSplitter(Qt::Vertical, this);
+  parts->addWidget(contents_);
+  parts->addWidget(elements_);
+  parts->setChildrenCollapsible(false);
+  parts->setSizes({1, 1});
+  contentsDock_->setWidget(parts);
   addDockWidget(Qt::LeftDockWidgetArea, contentsDock_);
   resizeDocks({contentsDock_}, {contentsWidthPx}, Qt::Horizontal);
   companion_ = std::make_unique<Companion>(*contents_);
@@ -211,8 +226,25 @@ void MainWindow::buildProperties() {
     properties_->raise();
   });
   connect(contents_, &SysAdapterUI::TOCControl::RowChosen, properties_, &PropertyPanel::showRow);
-  connect(properties_, &PropertyPanel::told, notice_,
-          [this](QString const& sentence) { notice_->tell(sentence, false); });
+  connect(elements_, &ElementList::chosen, properties_, &PropertyPanel::showSelection);
+  connect(elements_, &ElementList::commandWanted, this, [this](QString const& identifier) {
+    auto const* const command = bench_.commands().find(identifier);
+    if (command) bench_.commands().click(*command);
+  });
+  auto const tell = [this](QString const& sentence) { notice_->tell(sentence, false); };
+  connect(properties_, &PropertyPanel::told, notice_, tell);
+  connect(elements_, &ElementList::told, notice_, tell);
+}
+
+void MainWindow::buildHistory() {
+  auto* const steps = new QUndoView(SysCarto::MapDocumentHost::history(bench_.session().document()), this);
+  steps->setEmptyLabel(tr("Beginning"));
+  steps->setFrameShape(QFrame::NoFrame);
+  historyDock_ = new QDockWidget(tr("History"), this);
+  historyDock_->setObjectName(QStringLiteral("dockWidget_History"));
+  historyDock_->setWidget(steps);
+  addDockWidget(Qt::RightDockWidgetArea, historyDock_);
+  historyDock_->hide();
 }
 
 void MainWindow::buildStatusBar() {

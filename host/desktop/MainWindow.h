@@ -12,6 +12,7 @@
 
 class QLabel;
 class QLineEdit;
+class ElementList;
 class NoticeBar;
 class PropertyPanel;
 class QTabBar;
@@ -44,6 +45,7 @@ private:
   void addWindowCommands(HostCommands& host);
   void buildContents();
   void buildProperties();
+  void buildHistory();
   void buildViews();
   void connectFiles();
   void buildStatusBar();
@@ -63,9 +65,11 @@ private:
   std::unique_ptr<ActionTable> actions_;
   std::unique_ptr<Companion> companion_;
   SysAdapterUI::TOCControl* contents_ = nullptr;
+  ElementList* elements_ = nullptr;
   QList<SysUtility::_ptr_t<SysCarto::Map>> listedMaps_;
   PropertyPanel* properties_ = nullptr;
   QDockWidget* contentsDock_ = nullptr;
+  QDockWidget* historyDock_ = nullptr;
   NoticeBar* notice_ = nullptr;
   QTabBar* tabs_ = nullptr;
   QLabel* position_ = nullptr;

@@ -30,7 +30,7 @@ QRectF pixelsOf(DisplayTransformation const& transformation, SysGeometry::Envelo
 QList<_ptr_t<MapFrameElement>> framesOf(PageLayout const& layout) {
   QList<_ptr_t<MapFrameElement>> frames;
   for (auto const& element : layout.GetGraphicsContainer()->GetElements())
-    if (auto const frame = ptr_cast<MapFrameElement>(element)) frames << frame;
+    if (auto const frame = ptr_cast<MapFrameElement>(element); frame && frame->IsVisible()) frames << frame;
   return frames;
 }
 

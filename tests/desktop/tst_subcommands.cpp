@@ -133,7 +133,7 @@ private slots:
     QCOMPARE(report["page"].toObject(), json("{'form':'Custom','orientation':'portrait','width':8,'height':6}"));
     QJsonObject const frame = json(
         "{'handle':1,'name':'World','type':11,'kind':'data frame','envelope':[1,1,7,5],'selected':false,"
-        "'locked':false}");
+        "'locked':false,'hidden':false}");
     QCOMPARE(report["elements"].toArray(), QJsonArray{frame});
     QCOMPARE(report["maps"].toArray().at(0)["name"].toString(), QString("Countries"));
     QCOMPARE(report["view"].toObject()["extent"].toArray().size(), 4);

@@ -114,7 +114,7 @@ QList<_ptr_t<Element>> ElementClip::read(ElementClip const& clip, _ptr_t<Map> co
   }
   for (auto const& element : qAsConst(content.elements)) {
     ElementHost::setHandle(*element, 0);
-    if (auto const frame = ptr_cast<MapFrameElement>(element)) frame->SetLocked(false);
+    setLocked(*element, false);
   }
   return content.elements;
 }

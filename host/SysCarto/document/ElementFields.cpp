@@ -20,6 +20,12 @@ constexpr ElementHandle maxHandle = 1000000000;
 struct CommonSettings {
   ElementHandle handle = 0;
   QString name;
+  bool hidden = false;
+  bool locked = false;
+
+  static CommonSettings of(Element const& element) {
+    return {element.GetHandle(), element.GetName(), !element.IsVisible(), isLocked(element)};
+  }
 
   void list(Fields& fields, ElementScope const& scope) {
     // A member of a group is known to no container and has no handle.
@@ -27,6 +33,19 @@ struct CommonSettings {
     fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"),
                  QT_TRANSLATE_NOOP("Fields", "What the element is called in lists and by the command line.")},
                 name, SysUtility::TextKind::Line, QString());
+    fields.flag({"hidden", QT_TRANSLATE_NOOP("Fields", "Hidden"),
+                 QT_TRANSLATE_NOOP("Fields", "Whether it is drawn neither on the screen nor in an export.")},
+                hidden, false);
+    fields.flag({"locked", QT_TRANSLATE_NOOP("Fields", "Locked"),
+                 QT_TRANSLATE_NOOP("Fields", "Whether the mouse leaves it alone, and the map of a data frame.")},
+                locked, false);
+  }
+
+  void applyTo(Element& element) const {
+    if (handle != 0) ElementHost::setHandle(element, handle);
+    element.SetName(name);
+    element.SetVisible(!hidden);
+    setLocked(element, locked);
   }
 
 private:
@@ -57,14 +76,13 @@ constexpr Kind kind(int number, char const* name, char const* caption) {
           [](Element const& element) { return dynamic_cast<T const*>(&element) != nullptr; },
           [](Fields& fields, _ptr_t<Element>& element, ElementScope const& scope) {
             auto const present = fields.isReading() ? nullptr : SysUtility::ptr_cast<T>(element);
-            auto common = present ? CommonSettings{element->GetHandle(), element->GetName()} : CommonSettings();
+            auto common = present ? CommonSettings::of(*element) : CommonSettings();
             auto settings = present ? Settings::of(*present, scope) : Settings();
             common.list(fields, scope);
             settings.list(fields, scope);
             if (!fields.isReading() || !fields.ok()) return;
             auto const made = SysUtility::make<T>();
-            if (common.handle != 0) ElementHost::setHandle(*made, common.handle);
-            made->SetName(common.name);
+            common.applyTo(*made);
             settings.applyTo(*made, scope);
             element = made;
           }};
@@ -110,6 +128,16 @@ QString refusal(Choice const& kind, ElementScope const& scope) {
 }
 
 }  // namespace
+
+bool isLocked(Element const& element) {
+  auto const* const frame = dynamic_cast<MapFrameElement const*>(&element);
+  return frame ? frame->IsLocked() : ElementHost::isLocked(element);
+}
+
+void setLocked(Element& element, bool locked) {
+  if (auto* const frame = dynamic_cast<MapFrameElement*>(&element)) return frame->SetLocked(locked);
+  ElementHost::setLocked(element, locked);
+}
 
 QString captionOfKind(Element const& element) {
   int const kind = kindOf(&element);

@@ -9,8 +9,12 @@ namespace SysCarto {
 SYSCARTO_EXPORT void listElement(SysUtility::Fields& fields, SysUtility::_ptr_t<Element>& element,
                                  ElementScope const& scope);
 
+/// Whether the mouse and keys leave the element alone.
+SYSCARTO_EXPORT bool isLocked(Element const& element);
+SYSCARTO_EXPORT void setLocked(Element& element, bool locked);
+
 /// What people call its kind; empty for a kind that can't be stored.
-QString captionOfKind(Element const& element);
+SYSCARTO_EXPORT QString captionOfKind(Element const& element);
 
 /// The elements of a page, of a map or of a group, in drawing order.
 void listElements(SysUtility::Fields& fields, SysUtility::Field const& field,

@@ -248,7 +248,6 @@ void GroupSettings::applyTo(GroupElement& group, ElementScope const&) const {
 
 MapFrameSettings MapFrameSettings::of(MapFrameElement const& element, ElementScope const& scope) {
   MapFrameSettings settings{mapNumber(element.GetMap(), scope.context),
-                            element.IsLocked(),
                             RectangleSettings::of(*element.GetEnvelope()),
                             FrameSettings::of(element),
                             {}};
@@ -261,9 +260,6 @@ void MapFrameSettings::list(Fields& fields, ElementScope const& scope) {
   if (fields.ok() && scope.context.framedMaps.contains(map))
     return fields.fail("map", Texts::tr("another data frame shows this map already"));
   scope.context.framedMaps << map;
-  fields.flag({"locked", QT_TRANSLATE_NOOP("Fields", "Locked"),
-               QT_TRANSLATE_NOOP("Fields", "Whether the mouse leaves the data frame and its map alone.")},
-              locked, false);
   rectangle.list(fields, onPage);
   frame.list(fields);
   fields.list(
@@ -275,7 +271,6 @@ void MapFrameSettings::applyTo(MapFrameElement& element, ElementScope const& sco
   frame.applyTo(element);
   for (_ptr_t<IMapGrid> const& grid : grids) element.AddMapGrid(grid);
   element.SetMap(scope.context.maps.value(map));
-  element.SetLocked(locked);
   element.SetGeometry(rectangle.envelope());
   for (_ptr_t<IMapGrid> const& grid : grids) {
     auto const graticule = ptr_cast<Graticule>(grid);

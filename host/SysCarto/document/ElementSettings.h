@@ -113,7 +113,6 @@ struct GroupSettings {
 
 struct MapFrameSettings {
   int map = 0;  ///< its number in the document
-  bool locked = false;
   RectangleSettings rectangle;
   FrameSettings frame;
   QList<SysUtility::_ptr_t<IMapGrid>> grids;

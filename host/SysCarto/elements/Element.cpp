@@ -6,6 +6,8 @@ namespace SysCarto {
 struct Element::Private {
   QString name;
   ElementHandle handle = 0;
+  bool visible = true;
+  bool locked = false;
   ElementContainer* container = nullptr;  // in which it lies
   bool label = false;
 };
@@ -14,6 +16,8 @@ Element::Element() : d(std::make_unique<Private>()) {}
 Element::Element(Element const& other) : CRef(other), d(std::make_unique<Private>()) {
   d->name = other.d->name;
   d->handle = other.d->handle;
+  d->visible = other.d->visible;
+  d->locked = other.d->locked;
 }
 Element::~Element() = default;
 
@@ -23,6 +27,13 @@ QString Element::GetName() const { return d->name; }
 void Element::SetName(QString const& name) {
   if (name == d->name) return;
   d->name = name;
+  changed();
+}
+
+bool Element::IsVisible() const { return d->visible; }
+void Element::SetVisible(bool visible) {
+  if (visible == d->visible) return;
+  d->visible = visible;
   changed();
 }
 
@@ -48,6 +59,9 @@ void ElementHost::setContainer(Element& element, ElementContainer* container) {
   element.d->container = container;
   if (isPlaced(element) != wasPlaced) element.containerChanged();
 }
+
+bool ElementHost::isLocked(Element const& element) { return element.d->locked; }
+void ElementHost::setLocked(Element& element, bool locked) { element.d->locked = locked; }
 
 bool ElementHost::isPlaced(Element const& element) { return element.d->container != nullptr; }
 ElementContainer const* ElementHost::container(Element const& element) { return element.d->container; }

@@ -194,6 +194,7 @@ void ElementContainer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> con
   std::optional<DrawTarget> texts;        // shared by those that follow each other, as the many labels of a map do
   for (ElementPtr const& element : elements) {
     if (cancel && cancel->IsCanced()) return;
+    if (!element->IsVisible()) continue;
     if (auto const* text = dynamic_cast<TextElement const*>(element.get())) {
       if (!texts) texts.emplace(painter, *transformation);
       text->drawOn(*texts);

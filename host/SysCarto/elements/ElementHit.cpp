@@ -63,6 +63,7 @@ constexpr Question shapes[] = {isDrawnAt<LineElement>, isDrawnAt<PolygonElement>
 }  // namespace
 
 bool isHit(Element const& element, Envelope const& place, _ptr_t<DisplayTransformation> const& transformation) {
+  if (!element.IsVisible()) return false;
   if (auto const* const group = dynamic_cast<GroupElement const*>(&element)) {
     auto const members = group->GetElements();
     return std::any_of(members.begin(), members.end(),

@@ -6,13 +6,18 @@ namespace SysCarto {
 
 class ElementContainer;
 
-/// A container tells its elements their handle, and that they lie in it or, with null, in none any more.
+/// What only the host asks and tells its elements. A container tells them their handle, and that they lie in it or,
+/// with null, in none any more.
 struct SYSCARTO_EXPORT ElementHost {
   static void setHandle(Element& element, ElementHandle handle);
   static void setContainer(Element& element, ElementContainer* container);
   static bool isPlaced(Element const& element);
   /// In which the element lies; null for none.
   static ElementContainer const* container(Element const& element);
+
+  /// Whether the mouse and keys leave the element alone. A data frame has a lock of its own.
+  static bool isLocked(Element const& element);
+  static void setLocked(Element& element, bool locked);
 
   /// A label lies in a container while it is drawn and no longer, so that its coming and going change no document. A
   /// clone is an element like others.

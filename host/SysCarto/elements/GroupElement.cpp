@@ -61,7 +61,7 @@ void GroupElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& 
                         _ptr_t<TrackerCancel> const& cancel) {
   for (_ptr_t<Element> const& member : qAsConst(members_)) {
     if (cancel && cancel->IsCanced()) return;
-    member->Draw(painter, transformation, cancel);
+    if (member->IsVisible()) member->Draw(painter, transformation, cancel);
   }
 }
 

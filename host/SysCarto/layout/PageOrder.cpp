@@ -29,7 +29,7 @@ void drawInPageOrder(PageLayout const& layout, QPainter& painter, _ptr_t<Display
   }
   auto const area = reachedBy(painter, *transformation);
   for (auto const& element : layout.GetGraphicsContainer()->GetElements())
-    if (element->GetBoundary(transformation)->GetEnvelope()->Intersects(area)) draw(element);
+    if (element->IsVisible() && element->GetBoundary(transformation)->GetEnvelope()->Intersects(area)) draw(element);
 }
 
 }  // namespace SysCarto

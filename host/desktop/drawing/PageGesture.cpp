@@ -194,6 +194,6 @@ void RubberBandGesture::commit() {
     QRectF const rectangle = rectangleOf(*element->GetEnvelope());
     bool const isInside = rectangle.left() >= area.left() && rectangle.right() <= area.right() &&
                           rectangle.top() >= area.top() && rectangle.bottom() <= area.bottom();
-    if (isInside && !isLocked(*element)) container->SelectElement(element);
+    if (isInside && isInReach(*element)) container->SelectElement(element);
   }
 }

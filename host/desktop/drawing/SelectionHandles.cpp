@@ -30,10 +30,7 @@ QRectF united(QRectF const& a, QRectF const& b) {
 
 }  // namespace
 
-bool isLocked(Element const& element) {
-  auto const* const frame = dynamic_cast<MapFrameElement const*>(&element);
-  return frame && frame->IsLocked();
-}
+bool isInReach(Element const& element) { return element.IsVisible() && !isLocked(element); }
 
 QList<_ptr_t<Element>> movableSelection(PageLayout const& layout) {
   QList<_ptr_t<Element>> movable;

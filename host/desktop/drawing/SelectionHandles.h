@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/document/ElementFields.h"
+
 #include <SysCarto/PageLayout.h>
 
 #include <QList>
@@ -7,11 +9,11 @@
 
 class QPainter;
 
-/// The selected elements that a person may move: all but locked data frames, first selected first.
+/// The selected elements that a person may move: all but locked ones, first selected first.
 QList<SysUtility::_ptr_t<SysCarto::Element>> movableSelection(SysCarto::PageLayout const& layout);
 
-/// Whether a person may not touch the element with the mouse or a key.
-bool isLocked(SysCarto::Element const& element);
+/// Whether a person can select the element on the page, with the mouse or a key: it is neither locked nor hidden.
+bool isInReach(SysCarto::Element const& element);
 
 /// A handle of the rectangle about the selection: which sides it moves, −1 the left or bottom one, 1 the right or top
 /// one, 0 none.

@@ -79,6 +79,10 @@ public:
   QString GetName() const;
   void SetName(QString const& name);
 
+  /// Whoever draws a view passes over an element that is not visible; its own `Draw` and `GetBoundary` don't ask.
+  bool IsVisible() const;
+  void SetVisible(bool visible);
+
 protected:
   /// What is stored of the element has changed where it lies: no step of the history knows of that.
   void changed();
