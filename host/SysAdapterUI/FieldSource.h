@@ -12,7 +12,7 @@ public:
   /// The fields that all things shown have in common.
   virtual QVector<SysUtility::SheetField> fields() = 0;
 
-  /// The attributes that a text of that kind may name.
+  /// What a text of the kind `TextKind::Attribute` may name.
   virtual QStringList attributes() const { return {}; }
 
   /// Gives a field of all things shown another value. Answers a problem, with nothing changed, or an empty text.

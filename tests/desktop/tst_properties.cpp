@@ -283,6 +283,14 @@ private slots:
     QModelIndex const last = model.indexOf({"renderer", "classes", QString::number(before - 1)});
     QCOMPARE(model.moveEntry(last, 1), last);
 
+    // A new entry of a legend names the topmost layer that has none.
+    for (row = 0; !model.indexOf({"surround", "onMapOnly"}).isValid(); ++row) QVERIFY(show(panel, page, row));
+    auto const layerOf = [&](QString const& entry) {
+      return model.data(model.indexOf({"surround", "entries", entry, "layer"}), Qt::DisplayRole).toString();
+    };
+    for (int i = 0; i < 2; ++i) model.addEntry(model.indexOf({"surround", "entries"}));
+    QCOMPARE(QStringList({layerOf("0"), layerOf("2"), layerOf("3")}), QStringList({"Cities", "Rivers", "Countries"}));
+
     // A key in the middle of a view's work changes which rows there are.
     QVERIFY(show(panel, page, 0));
     view.setCurrentIndex(static_cast<QSortFilterProxyModel*>(view.model())->mapFromSource(model.indexOf({"border"})));

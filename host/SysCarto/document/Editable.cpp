@@ -10,9 +10,11 @@
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/layout/MapFrameHost.h"
 #include "host/SysCarto/maps/ValueStep.h"
+#include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysDisplay/SymbolFields.h"
 
 #include <SysCarto/Editor.h>
+#include <SysCarto/MapSurroundFrame.h>
 #include <SysCarto/PageLayout.h>
 
 #include <QFileInfo>
@@ -61,6 +63,12 @@ public:
     if (!element) return QString();
     if (!element->GetName().isEmpty()) return element->GetName();
     return QStringLiteral("%1 #%2").arg(captionOfKind(*element)).arg(handle_);
+  }
+
+  QStringList attributes() const override {
+    auto const frame = SysUtility::ptr_cast<MapSurroundFrame>(find());
+    auto const legend = frame ? SysUtility::ptr_cast<Legend>(frame->GetMapSurround()) : nullptr;
+    return legend ? LegendSettings::layersFor(*legend) : QStringList();
   }
 
 protected:

@@ -25,7 +25,8 @@ public:
   /// As people are told: the name that it has, or its kind with its handle.
   virtual QString name() const = 0;
 
-  /// The names of the attributes that the features of a layer have; none of other things.
+  /// The names that a field of `TextKind::Attribute` may take: those of the attributes that the features of a layer
+  /// have, or those of the layers that a legend may list, those first that it has no entry for.
   virtual QStringList attributes() const { return {}; }
 
   /// The fields of each as they are; none where it has gone.

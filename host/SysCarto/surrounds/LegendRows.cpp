@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <optional>
+#include <vector>
 
 namespace SysCarto {
 
@@ -58,15 +60,15 @@ private:
     QVector<int> const told = toldClasses(layer, classes, entry);
     if (told.isEmpty()) return;
     QString const name = entry.text.isEmpty() ? layer.GetName() : entry.text;
+    auto const stack = stackOf(layer, entry.with);
     if (classes.size() == 1) {
       bool const isOwn = entry.text.isEmpty() && !classes[0].label.isEmpty();
-      rows_ << LegendRow{shortened(isOwn ? classes[0].label : name), symbolsOf(layer, classes[0], entry.with),
-                         LegendRow::Layer};
+      rows_ << LegendRow{shortened(isOwn ? classes[0].label : name), symbolsOf(stack, classes[0]), LegendRow::Layer};
       return;
     }
     rows_ << LegendRow{shortened(name), {}, LegendRow::Heading};
     for (int const one : told)
-      rows_ << LegendRow{shortened(textOf(classes[one])), symbolsOf(layer, classes[one], entry.with), LegendRow::Class};
+      rows_ << LegendRow{shortened(textOf(classes[one])), symbolsOf(stack, classes[one]), LegendRow::Class};
   }
 
   QVector<int> toldClasses(Layer const& layer, QList<LegendClass> const& classes, LegendEntry const& entry) const {
@@ -85,23 +87,29 @@ private:
     return told;
   }
 
-  // Of a layer that is drawn with another: its class of the same label, or the only one that it has.
-  QVector<_ptr_t<Symbol>> symbolsOf(Layer const& layer, LegendClass const& own, QStringList const& with) const {
+  // Of the layers whose symbols share a patch, the classes, the lowest layer first; none stands for the layer itself.
+  std::vector<std::optional<QList<LegendClass>>> stackOf(Layer const& layer, QStringList const& with) const {
+    std::vector<std::optional<QList<LegendClass>>> stack;
+    for (auto other = shown_.rbegin(); other != shown_.rend(); ++other)
+      if (other->get() == &layer)
+        stack.emplace_back();
+      else if (with.contains((*other)->GetName()))
+        stack.emplace_back((*other)->legendClasses());
+    return stack;
+  }
+
+  // Of another layer, its class of the same label, or the only one that it has.
+  static QVector<_ptr_t<Symbol>> symbolsOf(std::vector<std::optional<QList<LegendClass>>> const& stack,
+                                           LegendClass const& own) {
     QVector<_ptr_t<Symbol>> symbols;
-    for (auto other = shown_.rbegin(); other != shown_.rend(); ++other) {
-      if (other->get() == &layer) {
-        symbols << own.symbol;
-      } else if (with.contains((*other)->GetName())) {
-        QList<LegendClass> const classes = (*other)->legendClasses();
-        auto const alike = std::find_if(classes.begin(), classes.end(),
-                                        [&](LegendClass const& one) { return one.label == own.label; });
-        if (alike != classes.end())
-          symbols << alike->symbol;
-        else if (classes.size() == 1)
-          symbols << classes.first().symbol;
-      }
+    for (auto const& classes : stack) {
+      LegendClass const* drawn = classes ? nullptr : &own;
+      if (classes && classes->size() == 1) drawn = &classes->first();
+      if (classes)
+        for (LegendClass const& one : *classes)
+          if (one.label == own.label) drawn = &one;
+      if (drawn && drawn->symbol) symbols << drawn->symbol;
     }
-    symbols.erase(std::remove(symbols.begin(), symbols.end(), nullptr), symbols.end());
     return symbols;
   }
 

@@ -2,6 +2,10 @@
 
 #include "host/SysDisplay/SymbolFields.h"
 
+#include <SysCarto/Map.h>
+
+#include <algorithm>
+
 namespace SysCarto {
 
 using SysDisplay::listOptionalSymbol;
@@ -76,12 +80,24 @@ void listPatch(Fields& fields, PatchSettings& patch) {
 
 QString LegendSettings::usualTitle() { return QCoreApplication::translate("MapSurround", "Legend"); }
 
+QStringList LegendSettings::layersFor(Legend const& legend) {
+  LegendSettings const settings = of(legend);
+  QStringList names;
+  if (auto const map = legend.GetMap())
+    for (auto const& layer : map->GetLayers()) names.prepend(layer->GetName());
+  std::stable_partition(names.begin(), names.end(), [&](QString const& name) {
+    return std::none_of(settings.entries.begin(), settings.entries.end(),
+                        [&](LegendEntry const& entry) { return entry.layer == name || entry.with.contains(name); });
+  });
+  return names;
+}
+
 void LegendEntry::list(Fields& fields) {
-  fields.text({"layer", QT_TRANSLATE_NOOP("Fields", "Layer"),
-               QT_TRANSLATE_NOOP("Fields",
-                                 "The name of the layer. The entry stays, and shows nothing, while the map has none of "
-                                 "that name.")},
-              layer, TextKind::Line);
+  fields.filledText({"layer", QT_TRANSLATE_NOOP("Fields", "Layer"),
+                     QT_TRANSLATE_NOOP("Fields",
+                                       "The name of the layer. The entry stays, and shows nothing, while the map has "
+                                       "none of that name.")},
+                    layer, TextKind::Attribute);
   fields.text(
       {"text", QT_TRANSLATE_NOOP("Fields", "Text"),
        QT_TRANSLATE_NOOP("Fields",

@@ -49,6 +49,9 @@ struct SYSCARTO_EXPORT LegendSettings {
   double wrapPt = 0;                        ///< the width of a text; 0 for any
   PatchSettings patch;
 
+  /// The names of the layers of its map, those first that it has no entry for, each from above.
+  static QStringList layersFor(Legend const& legend);
+
   static LegendSettings of(Legend const& legend);
   void list(SysUtility::Fields& fields);
   void applyTo(Legend& legend) const;

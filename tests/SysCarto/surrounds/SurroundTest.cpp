@@ -218,6 +218,7 @@ private slots:
     row("legend of ellipses and waves",
         framed<Legend>(map, Envelope(1, 1, 5, 7), "{'patchShape':'ellipse','lineShape':'wave','columns':2,'wrap':20}"));
     row("ticks", framed<ScaleLine>(map, Envelope(1, 1, 9, 3), "{'style':'ticks','unit':'nmi'}"));
+    row("divided bar", framed<ScaleLine>(map, Envelope(1, 1, 9, 3), "{'subdivisions':4,'numbers':'below'}"));
     row("scale text", framed<ScaleText>(map, Envelope(1, 1, 9, 3)));
     row("north arrow", framed<MarkerNorthArrow>(map, Envelope(1, 1, 9, 7), "{'trueNorth':true}"));
   }
