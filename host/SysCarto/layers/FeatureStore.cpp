@@ -10,34 +10,53 @@ namespace SysCarto {
 
 namespace {
 
-struct Vertex {
-  double x, y;
-};
-
-// The vertices of a part as the algorithms of geometry want them.
-struct Vertices {
-  explicit Vertices(Part const& part) : first(reinterpret_cast<Vertex const*>(part.xy)), count(part.count) {}
-  Vertex const* begin() const { return first; }
-  Vertex const* end() const { return first + count; }
-  bool empty() const { return count == 0; }
-  Vertex const& back() const { return first[count - 1]; }
-
-  Vertex const* first;
-  int count;
-};
-
 bool isRing(Part const& part) { return part.kind == PartKind::Ring || part.kind == PartKind::FilledRing; }
 
-// Of a ring, its edges.
-bool meetsLine(Part const& part, Box const& rectangle) {
-  Vertices const vertices(part);
-  if (vertices.count == 1) return rectangle.contains(part.xy[0], part.xy[1]);
-  bool isFirst = !isRing(part);  // a line has no edge that closes it
-  return SysGeometry::anyEdge(vertices, [&](Vertex const& a, Vertex const& b) {
-    if (std::exchange(isFirst, false)) return false;
-    return !SysGeometry::clippedSegment({a.x, a.y}, {b.x, b.y}, rectangle).isEmpty();
-  });
-}
+// A rectangle in which the world, turned, is seen.
+class Sight {
+public:
+  Sight(Box const& rectangle, QTransform const& turn) : rectangle_(rectangle), turn_(turn) {}
+
+  Box world() const { return mapped(rectangle_, turn_.inverted()); }
+
+  // A rectangle that no edge crosses lies within an area where its middle does.
+  bool shows(Feature const& feature, Part const* parts) {
+    if (rectangle_.contains(mapped(feature.box, turn_))) return true;
+    double const x = (rectangle_.xmin + rectangle_.xmax) / 2, y = (rectangle_.ymin + rectangle_.ymax) / 2;
+    bool isInside = false;
+    for (Part const* part = parts; part != parts + feature.partCount; ++part) {
+      Box const box = mapped(part->box, turn_);
+      if (!box.meets(rectangle_)) continue;
+      if (rectangle_.contains(box)) return true;
+      turnVertices(*part);
+      if (anyEdgeMeets(*part)) return true;
+      if (isRing(*part) && SysGeometry::contains(vertices_, x, y)) isInside = !isInside;
+    }
+    return isInside;
+  }
+
+private:
+  static Box mapped(Box const& box, QTransform const& way) {
+    if (way.isIdentity()) return box;  // to the last bit
+    return SysGeometry::boxOf(way.mapRect(QRectF(QPointF(box.xmin, box.ymin), QPointF(box.xmax, box.ymax))));
+  }
+
+  void turnVertices(Part const& part) {
+    vertices_.clear();
+    for (int i = 0; i < part.count; ++i) vertices_.push_back(turn_.map(QPointF(part.xy[2 * i], part.xy[2 * i + 1])));
+  }
+
+  bool anyEdgeMeets(Part const& part) const {
+    bool isOmitted = !isRing(part);  // the first one, which would close a line
+    return SysGeometry::anyEdge(vertices_, [&](QPointF const& a, QPointF const& b) {
+      return !std::exchange(isOmitted, false) && !SysGeometry::clippedSegment(a, b, rectangle_).isEmpty();
+    });
+  }
+
+  Box const rectangle_;
+  QTransform const turn_;
+  std::vector<QPointF> vertices_;  // of the part that is looked at
+};
 
 }  // namespace
 
@@ -103,32 +122,19 @@ std::vector<int> FeatureStore::query(Box const& rectangle) const {
   return found;
 }
 
-std::vector<bool> FeatureStore::classesWithin(Box const& rectangle, int count) const {
+std::vector<bool> FeatureStore::classesWithin(Box const& rectangle, QTransform const& turn, int count) const {
   std::vector<bool> found(count);
   int missing = count;
   if (!index_ || rectangle.isEmpty()) return found;
-  index_->any(rectangle, [&](int number) {
+  Sight sight(rectangle, turn);
+  index_->any(sight.world(), [&](int number) {
     Feature const& feature = features[number];
     int const own = feature.symbolClass;
-    if (own < 0 || own >= count || found[own] || !meets(feature, rectangle)) return false;
+    if (own < 0 || own >= count || found[own] || !sight.shows(feature, &parts[feature.firstPart])) return false;
     found[own] = true;
     return --missing == 0;
   });
   return found;
-}
-
-// A rectangle that no edge crosses lies within an area where its middle does.
-bool FeatureStore::meets(Feature const& feature, Box const& rectangle) const {
-  if (rectangle.contains(feature.box)) return true;
-  double const x = (rectangle.xmin + rectangle.xmax) / 2, y = (rectangle.ymin + rectangle.ymax) / 2;
-  bool isInside = false;
-  for (int i = feature.firstPart; i < feature.firstPart + feature.partCount; ++i) {
-    Part const& part = parts[i];
-    if (!part.box.meets(rectangle)) continue;
-    if (rectangle.contains(part.box) || meetsLine(part, rectangle)) return true;
-    if (isRing(part) && SysGeometry::contains(Vertices(part), x, y)) isInside = !isInside;
-  }
-  return isInside;
 }
 
 }  // namespace SysCarto

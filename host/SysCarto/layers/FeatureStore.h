@@ -7,6 +7,7 @@
 #include <SysCarto/Export.h>
 
 #include <QString>
+#include <QTransform>
 
 #include <memory>
 #include <vector>
@@ -63,8 +64,8 @@ public:
   /// The numbers of the features whose boxes meet the rectangle, ascending.
   std::vector<int> query(Box const& rectangle) const;
 
-  /// For each of so many classes, whether the geometry of one of its features meets the rectangle.
-  std::vector<bool> classesWithin(Box const& rectangle, int count) const;
+  /// For each of so many classes, whether the geometry of one of its features, turned, meets the rectangle.
+  std::vector<bool> classesWithin(Box const& rectangle, QTransform const& turn, int count) const;
 
   std::vector<Part> parts;
   std::vector<Feature> features;
@@ -73,8 +74,6 @@ public:
   bool keepsLabels = false;
 
 private:
-  bool meets(Feature const& feature, Box const& rectangle) const;
-
   VertexPool vertices_;
   std::unique_ptr<BoxTree> index_;
   Box box_;

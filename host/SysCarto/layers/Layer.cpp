@@ -4,6 +4,9 @@
 
 namespace SysCarto {
 
+using SysDisplay::DisplayTransformation;
+using SysUtility::_ptr_t;
+
 struct Layer::Private {
   QString name;
   bool visible = true;
@@ -24,7 +27,7 @@ double Layer::GetMaxScale() const { return d->scales.comparedMax(); }
 bool Layer::showsAt(double scale) const { return IsVisible() && d->scales.contains(scale); }
 
 QList<LegendClass> Layer::legendClasses() const { return {}; }
-QVector<bool> Layer::classesWithin(SysGeometry::Envelope const&) const {
+QVector<bool> Layer::classesWithin(_ptr_t<DisplayTransformation> const&) const {
   return QVector<bool>(legendClasses().size(), true);
 }
 
@@ -54,8 +57,8 @@ void LayerHost::setCredits(Layer& layer, QString const& credits) { layer.d->chan
 quint64 LayerHost::lastChange(Layer const& layer) { return layer.d->change.time(); }
 quint64 LayerHost::look(Layer const& layer) { return layer.d->look; }
 
-QVector<bool> LayerHost::classesWithin(Layer const& layer, SysGeometry::Envelope const& area) {
-  return layer.classesWithin(area);
+QVector<bool> LayerHost::classesWithin(Layer const& layer, _ptr_t<DisplayTransformation> const& transformation) {
+  return layer.classesWithin(transformation);
 }
 
 void LayerHost::changeLook(Layer& layer) {

@@ -28,7 +28,8 @@ struct SYSCARTO_EXPORT LayerHost {
   static void changeLook(Layer& layer);
 
   /// As the layer's own function; always as many as it has classes.
-  static QVector<bool> classesWithin(Layer const& layer, SysGeometry::Envelope const& area);
+  static QVector<bool> classesWithin(Layer const& layer,
+                                     SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation);
 };
 
 }  // namespace SysCarto

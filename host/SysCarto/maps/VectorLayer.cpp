@@ -5,10 +5,10 @@
 #include "host/SysCarto/labels/LabelPlacer.h"
 #include "host/SysCarto/layers/FeaturePainter.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
 
 namespace SysCarto {
 
@@ -119,15 +119,16 @@ QList<LegendClass> VectorLayer::legendClasses() const {
   return classes;
 }
 
-QVector<bool> VectorLayer::classesWithin(SysGeometry::Envelope const& area) const {
+QVector<bool> VectorLayer::classesWithin(_ptr_t<DisplayTransformation> const& transformation) const {
+  auto const bounds = transformation->GetFittedBounds();
+  Box const shown{bounds->GetXMin(), bounds->GetYMin(), bounds->GetXMax(), bounds->GetYMax()};
+  QTransform const& turn = DisplayTransformationHost::turn(*transformation);
   quint64 const look = LayerHost::look(*this);
-  auto const sidesOf = [](SysGeometry::Envelope const& one) {
-    return std::make_tuple(one.GetXMin(), one.GetYMin(), one.GetXMax(), one.GetYMax());
-  };
-  if (within_.look != look || sidesOf(within_.area) != sidesOf(area)) {
-    auto const found = store_->classesWithin({area.GetXMin(), area.GetYMin(), area.GetXMax(), area.GetYMax()},
-                                             static_cast<int>(renderer_->classes().size()));
-    within_ = {look, area, QVector<bool>(found.begin(), found.end())};
+  bool const isSame =
+      within_.look == look && within_.turn == turn && within_.shown.contains(shown) && shown.contains(within_.shown);
+  if (!isSame) {
+    auto const found = store_->classesWithin(shown, turn, static_cast<int>(renderer_->classes().size()));
+    within_ = {look, shown, turn, QVector<bool>(found.begin(), found.end())};
   }
   return within_.classes;
 }

@@ -7,6 +7,8 @@
 
 #include <SysCarto/FeatureLayer.h>
 
+#include <QTransform>
+
 #include <memory>
 
 namespace SysCarto {
@@ -49,7 +51,8 @@ public:
                              SysUtility::_ptr_t<SysUI::TrackerCancel> cancel) override;
 
 private:
-  QVector<bool> classesWithin(SysGeometry::Envelope const& area) const override;
+  QVector<bool> classesWithin(
+      SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   void drawFeatures(QPainter& painter, SysDisplay::DisplayTransformation const& transformation,
                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
 
@@ -61,10 +64,11 @@ private:
   std::unique_ptr<FeatureStore> store_;
   std::unique_ptr<ThinnedFeatures> thinned_;
 
-  // Which classes were within an area when last asked, for the look of that time: a legend asks at each redraw.
+  // Which classes were in sight when last asked, for the look of that time: a legend asks at each redraw.
   struct Within {
     quint64 look = 0;
-    SysGeometry::Envelope area;
+    Box shown;
+    QTransform turn;
     QVector<bool> classes;
   };
   mutable Within within_;

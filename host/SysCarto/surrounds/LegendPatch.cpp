@@ -34,10 +34,11 @@ double breadthOf(LegendPatch::Symbols const& symbols) {
 
 }  // namespace
 
-// A zigzag's joins reach about as far beyond it as the line is wide, as long as it is no steeper than this.
+// A zigzag's joins reach about as far beyond it as the line is wide, as long as it is no steeper than this. At its ends
+// there is room for caps.
 double LegendPatch::swing(double breadth) const {
   if (settings_.line == LinePatch::Straight) return 0;
-  return std::max(0.0, std::min(settings_.heightPt - 2 * breadth, settings_.widthPt / 2));
+  return std::max(0.0, std::min(settings_.heightPt - 2 * breadth, (settings_.widthPt - breadth) / 2));
 }
 
 QSizeF LegendPatch::sizeOf(_ptr_t<Symbol> const& symbol) const {
@@ -58,7 +59,7 @@ QSizeF LegendPatch::sizeOf(Symbols const& symbols) const {
 
 // About (0, 0), from left to right.
 QVector<QPointF> LegendPatch::line(double breadth) const {
-  double const w = settings_.widthPt, h = swing(breadth);
+  double const h = swing(breadth), w = settings_.widthPt - (h > 0 ? breadth : 0);
   QVector<QPointF> points;
   if (h == 0) {
     points << QPointF(-w / 2, 0) << QPointF(w / 2, 0);

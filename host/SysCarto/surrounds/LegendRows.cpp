@@ -82,7 +82,7 @@ private:
     };
     std::stable_sort(told.begin(), told.end(), [&](int a, int b) { return place(a) < place(b); });
     if (!settings_.onMapOnly || told.isEmpty()) return told;
-    QVector<bool> const within = LayerHost::classesWithin(layer, *map_.GetExtent());
+    QVector<bool> const within = LayerHost::classesWithin(layer, map_.GetDisplayTransformation());
     told.erase(std::remove_if(told.begin(), told.end(), [&](int one) { return !within.value(one, true); }), told.end());
     return told;
   }

@@ -16,7 +16,7 @@ using SysUtility::Unit;
 
 namespace {
 
-constexpr int maxEntries = 10000, maxColumns = 12;
+constexpr int maxEntries = 1000, maxColumns = 12;
 constexpr double maxWrapPt = 5000, minPatchPt = 1, maxPatchPt = 500;
 
 // clang-format off

@@ -12,10 +12,6 @@
 
 class QPainter;
 
-namespace SysGeometry {
-class Envelope;
-}
-
 namespace SysCarto {
 
 /// One kind of things that a layer shows, as a legend lists it.
@@ -68,9 +64,10 @@ protected:
 private:
   friend struct LayerHost;
 
-  /// For each of the `legendClasses`, whether it has something in a rectangle in map units. A layer that can't tell
-  /// says that all have.
-  virtual QVector<bool> classesWithin(SysGeometry::Envelope const& area) const;
+  /// For each of the `legendClasses`, whether it has something in what the transformation shows. A layer that can't
+  /// tell says that all have.
+  virtual QVector<bool> classesWithin(
+      SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const;
 
   struct Private;
   std::unique_ptr<Private> d;

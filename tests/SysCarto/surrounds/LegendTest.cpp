@@ -162,6 +162,12 @@ private slots:
     auto const frame = framed<Legend>(map, whole, "{'title':'','onMapOnly':true}");
     QCOMPARE(textsOf(*frame),
              QStringList({"Things", "a far part and a near one", "a line across", "a point", "around"}));
+    // A turned map shows the point at (4, 3) where it comes to lie at (4.9, −0.7), and not at (0.7, 4.9).
+    MapHost::setRotation(*map, -45);
+    QVERIFY(textsOf(*frame).contains("a point"));
+    MapHost::setRotation(*map, 45);
+    QCOMPARE(textsOf(*frame), QStringList({"Things", "a far part and a near one", "a line across", "around"}));
+    MapHost::setRotation(*map, 0);
     map->SetExtent(make<Envelope>(85.0, 86.0, 95.0, 94.0));
     QCOMPARE(textsOf(*frame), QStringList({"Things", "a far part and a near one", "parts on both sides"}));
     map->SetExtent(make<Envelope>(885.0, 886.0, 895.0, 894.0));
