@@ -1429,6 +1429,10 @@
         <source>%1 is no placeholder and stands as written; there are [%2].</source>
         <translation>%1 ist kein Platzhalter und steht da, wie es geschrieben ist; es gibt [%2].</translation>
     </message>
+    <message>
+        <source>is the map of this data frame; enter the number of another one</source>
+        <translation>ist die Karte dieses Datenrahmens; geben Sie die Nummer einer anderen ein</translation>
+    </message>
 </context>
 <context>
     <name>ExportSubcommand</name>
@@ -3381,6 +3385,150 @@
         <source>Whether the mouse leaves it alone, and the map of a data frame.</source>
         <translation>Ob die Maus es in Ruhe lässt, und die Karte eines Datenrahmens.</translation>
     </message>
+    <message>
+        <source>The number of the other map whose part of the world is marked; −1 for none.</source>
+        <translation>Die Nummer der anderen Karte, deren Ausschnitt der Welt markiert wird; −1 für keine.</translation>
+    </message>
+    <message>
+        <source>How the area is drawn; without a symbol as a red line of one point.</source>
+        <translation>Wie die Fläche gezeichnet wird; ohne Symbol als rote Linie von einem Punkt.</translation>
+    </message>
+    <message>
+        <source>Overviews</source>
+        <translation>Übersichten</translation>
+    </message>
+    <message>
+        <source>What other maps show, marked on this one.</source>
+        <translation>Was andere Karten zeigen, auf dieser markiert.</translation>
+    </message>
+    <message>
+        <source>Scale is locked</source>
+        <translation>Maßstab ist fest</translation>
+    </message>
+    <message>
+        <source>Whether the map keeps its scale and shows more or less where its frame becomes larger or smaller. The extent then gives the centre alone.</source>
+        <translation>Ob die Karte ihren Maßstab behält und mehr oder weniger zeigt, wenn ihr Rahmen größer oder kleiner wird. Die Ausdehnung gibt dann nur die Mitte an.</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Maßstab</translation>
+    </message>
+    <message>
+        <source>How many times smaller the map is than the ground at its centre. It is stored where it is locked; otherwise the extent decides, and another scale changes that.</source>
+        <translation>Wievielmal kleiner die Karte ist als der Boden in ihrer Mitte. Er wird gespeichert, wo er fest ist; sonst entscheidet die Ausdehnung, und ein anderer Maßstab ändert sie.</translation>
+    </message>
+    <message>
+        <source>Longitude and latitude</source>
+        <translation>Länge und Breite</translation>
+    </message>
+    <message>
+        <source>Coordinates of the map</source>
+        <translation>Koordinaten der Karte</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>Ticks at the frame</source>
+        <translation>Striche am Rahmen</translation>
+    </message>
+    <message>
+        <source>Crosses where lines would cross</source>
+        <translation>Kreuze, wo Linien sich schneiden würden</translation>
+    </message>
+    <message>
+        <source>Minutes and seconds as needed</source>
+        <translation>Minuten und Sekunden nach Bedarf</translation>
+    </message>
+    <message>
+        <source>Decimal degrees</source>
+        <translation>Dezimalgrad</translation>
+    </message>
+    <message>
+        <source>Degrees and minutes</source>
+        <translation>Grad und Minuten</translation>
+    </message>
+    <message>
+        <source>Degrees, minutes and seconds</source>
+        <translation>Grad, Minuten und Sekunden</translation>
+    </message>
+    <message>
+        <source>Labels on the left</source>
+        <translation>Beschriftung links</translation>
+    </message>
+    <message>
+        <source>Whether lines that end there have their labels to the left of the frame.</source>
+        <translation>Ob Linien, die dort enden, links vom Rahmen beschriftet sind.</translation>
+    </message>
+    <message>
+        <source>Labels on the right</source>
+        <translation>Beschriftung rechts</translation>
+    </message>
+    <message>
+        <source>Whether lines that end there have their labels to the right of the frame.</source>
+        <translation>Ob Linien, die dort enden, rechts vom Rahmen beschriftet sind.</translation>
+    </message>
+    <message>
+        <source>Labels above</source>
+        <translation>Beschriftung oben</translation>
+    </message>
+    <message>
+        <source>Whether lines that end there have their labels above the frame.</source>
+        <translation>Ob Linien, die dort enden, über dem Rahmen beschriftet sind.</translation>
+    </message>
+    <message>
+        <source>Labels below</source>
+        <translation>Beschriftung unten</translation>
+    </message>
+    <message>
+        <source>Whether lines that end there have their labels below the frame.</source>
+        <translation>Ob Linien, die dort enden, unter dem Rahmen beschriftet sind.</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>What is constant along a line: longitude or latitude, or a coordinate of the map, as of a grid in metres.</source>
+        <translation>Was entlang einer Linie gleich bleibt: Länge oder Breite, oder eine Koordinate der Karte wie in einem Gitter in Metern.</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>The distance of two lines of a grid in coordinates of the map, in place of the interval; 0 chooses one.</source>
+        <translation>Der Abstand zweier Linien eines Gitters in Koordinaten der Karte, anstelle des Intervalls; 0 wählt einen.</translation>
+    </message>
+    <message>
+        <source>Whether all of the lines, or only a part of them is drawn.</source>
+        <translation>Ob die ganzen Linien oder nur ein Teil von ihnen gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>Size of the marks</source>
+        <translation>Größe der Zeichen</translation>
+    </message>
+    <message>
+        <source>How long ticks are, or the arms of a cross from end to end.</source>
+        <translation>Wie lang Striche sind, oder die Arme eines Kreuzes von einem Ende zum anderen.</translation>
+    </message>
+    <message>
+        <source>Format of degrees</source>
+        <translation>Format der Grade</translation>
+    </message>
+    <message>
+        <source>How longitudes and latitudes are written.</source>
+        <translation>Wie Längen und Breiten geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Signs</source>
+        <translation>Vorzeichen</translation>
+    </message>
+    <message>
+        <source>Whether west and south are told by a minus, and not by letters; coordinates of the map are then numbers alone.</source>
+        <translation>Ob West und Süd durch ein Minus bezeichnet werden und nicht durch Buchstaben; Koordinaten der Karte sind dann nur Zahlen.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3489,6 +3637,10 @@
     <message>
         <source>N</source>
         <translation>N</translation>
+    </message>
+    <message>
+        <source>the grid “%1” of the map “%2” has a spacing of %3 map units, which makes %4 lines; at most %5 are drawn, so a spacing is chosen for it; enter one of %6 map units or more</source>
+        <translation>das Gitter „%1“ der Karte „%2“ hat einen Abstand von %3 Karteneinheiten, was %4 Linien ergibt; höchstens %5 werden gezeichnet, daher wird ein Abstand dafür gewählt; geben Sie einen von %6 Karteneinheiten oder mehr ein</translation>
     </message>
 </context>
 <context>
@@ -3880,6 +4032,14 @@
     <message>
         <source>the page&apos;s height is %1 cm; set one of %2 to %3 cm in the page setup, then save again</source>
         <translation>die Seite ist %1 cm hoch; stellen Sie in der Seiteneinrichtung eine Höhe von %2 bis %3 cm ein, und speichern Sie noch einmal</translation>
+    </message>
+    <message>
+        <source>must be more than 0, as in 25000 for a map of 1:25,000</source>
+        <translation>muss größer als 0 sein, wie 25000 für eine Karte 1:25.000</translation>
+    </message>
+    <message>
+        <source>is for a map with “scaleLocked”; without it the bounds say what is shown</source>
+        <translation>ist für eine Karte mit „scaleLocked“; ohne das sagen die Grenzen, was gezeigt wird</translation>
     </message>
 </context>
 <context>

@@ -1429,6 +1429,10 @@
         <source>%1 is no placeholder and stands as written; there are [%2].</source>
         <translation>%1 不是占位符，将按原样显示；可用的有 [%2]。</translation>
     </message>
+    <message>
+        <source>is the map of this data frame; enter the number of another one</source>
+        <translation>是此数据框自己的地图；请输入另一个地图的编号</translation>
+    </message>
 </context>
 <context>
     <name>ExportSubcommand</name>
@@ -3381,6 +3385,150 @@
         <source>Whether the mouse leaves it alone, and the map of a data frame.</source>
         <translation>鼠标是否不触动它，以及数据框中的地图。</translation>
     </message>
+    <message>
+        <source>The number of the other map whose part of the world is marked; −1 for none.</source>
+        <translation>标出其所示范围的另一个地图的编号；−1 表示没有。</translation>
+    </message>
+    <message>
+        <source>How the area is drawn; without a symbol as a red line of one point.</source>
+        <translation>区域如何绘制；没有符号时为一点宽的红线。</translation>
+    </message>
+    <message>
+        <source>Overviews</source>
+        <translation>鹰眼范围</translation>
+    </message>
+    <message>
+        <source>What other maps show, marked on this one.</source>
+        <translation>在此地图上标出其他地图所显示的范围。</translation>
+    </message>
+    <message>
+        <source>Scale is locked</source>
+        <translation>锁定比例尺</translation>
+    </message>
+    <message>
+        <source>Whether the map keeps its scale and shows more or less where its frame becomes larger or smaller. The extent then gives the centre alone.</source>
+        <translation>数据框变大或变小时，地图是否保持比例尺而显示更多或更少的内容。此时范围只决定中心。</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>比例尺</translation>
+    </message>
+    <message>
+        <source>How many times smaller the map is than the ground at its centre. It is stored where it is locked; otherwise the extent decides, and another scale changes that.</source>
+        <translation>地图在其中心处比实地缩小的倍数。锁定时会存储；否则由范围决定，改变比例尺就会改变范围。</translation>
+    </message>
+    <message>
+        <source>Longitude and latitude</source>
+        <translation>经度和纬度</translation>
+    </message>
+    <message>
+        <source>Coordinates of the map</source>
+        <translation>地图坐标</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>Ticks at the frame</source>
+        <translation>边框处的短线</translation>
+    </message>
+    <message>
+        <source>Crosses where lines would cross</source>
+        <translation>线相交处的十字</translation>
+    </message>
+    <message>
+        <source>Minutes and seconds as needed</source>
+        <translation>按需要显示分和秒</translation>
+    </message>
+    <message>
+        <source>Decimal degrees</source>
+        <translation>十进制度</translation>
+    </message>
+    <message>
+        <source>Degrees and minutes</source>
+        <translation>度和分</translation>
+    </message>
+    <message>
+        <source>Degrees, minutes and seconds</source>
+        <translation>度、分和秒</translation>
+    </message>
+    <message>
+        <source>Labels on the left</source>
+        <translation>左侧标注</translation>
+    </message>
+    <message>
+        <source>Whether lines that end there have their labels to the left of the frame.</source>
+        <translation>在左边结束的线是否在边框左侧标注。</translation>
+    </message>
+    <message>
+        <source>Labels on the right</source>
+        <translation>右侧标注</translation>
+    </message>
+    <message>
+        <source>Whether lines that end there have their labels to the right of the frame.</source>
+        <translation>在右边结束的线是否在边框右侧标注。</translation>
+    </message>
+    <message>
+        <source>Labels above</source>
+        <translation>上方标注</translation>
+    </message>
+    <message>
+        <source>Whether lines that end there have their labels above the frame.</source>
+        <translation>在上边结束的线是否在边框上方标注。</translation>
+    </message>
+    <message>
+        <source>Labels below</source>
+        <translation>下方标注</translation>
+    </message>
+    <message>
+        <source>Whether lines that end there have their labels below the frame.</source>
+        <translation>在下边结束的线是否在边框下方标注。</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>格网</translation>
+    </message>
+    <message>
+        <source>What is constant along a line: longitude or latitude, or a coordinate of the map, as of a grid in metres.</source>
+        <translation>沿一条线保持不变的量：经度或纬度，或者地图的坐标，如以米为单位的格网。</translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation>间距</translation>
+    </message>
+    <message>
+        <source>The distance of two lines of a grid in coordinates of the map, in place of the interval; 0 chooses one.</source>
+        <translation>以地图坐标划分的格网中两条线的距离，代替间隔；0 表示自动选择。</translation>
+    </message>
+    <message>
+        <source>Whether all of the lines, or only a part of them is drawn.</source>
+        <translation>绘制整条线，还是只绘制其中一部分。</translation>
+    </message>
+    <message>
+        <source>Size of the marks</source>
+        <translation>标记大小</translation>
+    </message>
+    <message>
+        <source>How long ticks are, or the arms of a cross from end to end.</source>
+        <translation>短线的长度，或十字两端之间的长度。</translation>
+    </message>
+    <message>
+        <source>Format of degrees</source>
+        <translation>度数格式</translation>
+    </message>
+    <message>
+        <source>How longitudes and latitudes are written.</source>
+        <translation>经度和纬度的书写方式。</translation>
+    </message>
+    <message>
+        <source>Signs</source>
+        <translation>正负号</translation>
+    </message>
+    <message>
+        <source>Whether west and south are told by a minus, and not by letters; coordinates of the map are then numbers alone.</source>
+        <translation>西经和南纬是否用负号而不用字母表示；此时地图坐标只有数字。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3489,6 +3637,10 @@
     <message>
         <source>N</source>
         <translation>N</translation>
+    </message>
+    <message>
+        <source>the grid “%1” of the map “%2” has a spacing of %3 map units, which makes %4 lines; at most %5 are drawn, so a spacing is chosen for it; enter one of %6 map units or more</source>
+        <translation>地图“%2”的格网“%1”的间距为 %3 个地图单位，这会产生 %4 条线；最多绘制 %5 条，因此自动选择了间距；请输入 %6 个或更多地图单位的间距</translation>
     </message>
 </context>
 <context>
@@ -3880,6 +4032,14 @@
     <message>
         <source>the page&apos;s height is %1 cm; set one of %2 to %3 cm in the page setup, then save again</source>
         <translation>页面高度为 %1 厘米；请在页面设置中改为 %2 至 %3 厘米，然后再次保存</translation>
+    </message>
+    <message>
+        <source>must be more than 0, as in 25000 for a map of 1:25,000</source>
+        <translation>必须大于 0，如 1:25,000 的地图为 25000</translation>
+    </message>
+    <message>
+        <source>is for a map with “scaleLocked”; without it the bounds say what is shown</source>
+        <translation>只用于带有“scaleLocked”的地图；没有它时由范围决定显示的内容</translation>
     </message>
 </context>
 <context>
@@ -4753,7 +4913,7 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
     <message>
         <source>Grid</source>
-        <translation>网格</translation>
+        <translation>格网</translation>
     </message>
     <message>
         <source>Diagonal grid</source>

@@ -169,6 +169,16 @@ public:
     value(field, &text, rules);
   }
 
+  /// A number that may be missing where it says what other fields say. Writing leaves it out where it is that number.
+  void derivedNumber(Field const& field, double& number, Range const& range, std::optional<double> derived) {
+    ValueRules rules;
+    rules.isRequired = false;
+    if (derived) rules.byDefault = *derived;
+    rules.isDerived = true;
+    rules.range = range;
+    value(field, &number, rules);
+  }
+
   /// A list of texts; a missing list is an empty one.
   void texts(Field const& field, QStringList& texts) {
     ValueRules rules;

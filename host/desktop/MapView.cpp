@@ -81,6 +81,8 @@ bool MapView::isFree() const {
   return frame && !frame->IsLocked() && !tiles_.sizePx().isEmpty();
 }
 
+bool MapView::isFreeToZoom() const { return isFree() && MapHost::lockedScale(*map()) == 0; }
+
 double MapView::unitsPerPx() const { return map()->GetExtent()->GetWidth() / placePx().width(); }
 
 // A place that stays where it is, in device pixels.
@@ -96,7 +98,7 @@ void MapView::zoomAt(QPointF const& fixedPx, double factor) {
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {
-  if (!isFree() || grabbed_) return;
+  if (!isFreeToZoom() || grabbed_) return;
   zoomAt(event->position() * devicePixelRatioF(), zoomOf(*event));
   event->accept();
 }

@@ -38,6 +38,7 @@ private:
   QRect placePx() const;
   void paintMap();
   bool isFree() const;
+  bool isFreeToZoom() const;
   double unitsPerPx() const;
   void zoomAt(QPointF const& fixedPx, double factor);
 

@@ -38,6 +38,10 @@ QJsonObject storedWithoutNumbers(WorkbenchPage& page, SysCarto::Element const& e
   QJsonObject surround = fields["surround"].toObject();
   surround.remove("map");
   if (!surround.isEmpty()) fields["surround"] = surround;
+  QJsonArray overviews;
+  for (QJsonValue const& overview : fields["overviews"].toArray())
+    overviews << QJsonObject{{"symbol", overview["symbol"]}};
+  if (fields.contains("overviews")) fields["overviews"] = overviews;
   return fields;
 }
 

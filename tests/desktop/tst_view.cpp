@@ -3,8 +3,10 @@
 #include "desktop/WorkbenchPage.h"
 #include "export/LayoutRenderer.h"
 
-#include "host/SysCarto/maps/MapHost.h"
+#include "host/SysCarto/layout/MapOverview.h"
 #include "host/SysCarto/layout/MapPicture.h"
+#include "host/SysCarto/maps/MapHost.h"
+#include "host/SysCarto/maps/MapSteps.h"
 #include "host/desktop/PagePicture.h"
 
 using SysCarto::MapFrameElement;
@@ -149,6 +151,29 @@ private slots:
     if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
     if (what == "hide" || what == "turn") page.view().refresh(SysCarto::RefreshPhase::Everything);
     QCOMPARE(tilesAfter(page) > before, draws);
+  }
+
+  void anOverviewFollowsTheOtherMap() {
+    WorkbenchPage page;
+    QVERIFY(page.bench.session().open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/aegean.kdx")));
+    QList<_ptr_t<SysCarto::Map>> maps;
+    page.layout()->GetMaps(maps);
+    for (auto const& element : page.layout()->GetGraphicsContainer()->GetElements()) {
+      auto const frame = ptr_cast<MapFrameElement>(element);
+      if (!frame || frame->GetMap() != maps[1]) continue;
+      auto const overview = make<SysCarto::MapOverview>();
+      overview->setMap(maps[0]);
+      frame->AddMapGrid(overview);
+    }
+    page.view().refresh(SysCarto::RefreshPhase::Everything);
+    tilesAfter(page);
+    QRect const globe(page.pixel(2, 9.2), page.pixel(6.9, 4.3));
+    QImage const before = page.view().grab(globe).toImage();
+    auto const extent = maps[0]->GetExtent();
+    extent->Expand(3, 3, true);
+    SysCarto::MapSteps::zoom(*maps[0], *extent);
+    tilesAfter(page);
+    QVERIFY(page.view().grab(globe).toImage() != before);
   }
 
   void aSlowMapLetsEventsThroughAndTheNewestWins() {

@@ -295,6 +295,15 @@ private slots:
     QApplication::sendEvent(&page.shown(), &nearer);
     QVERIFY(map->GetExtent()->GetWidth() < unitsPerPx * size.width() * 0.9);
     QVERIFY(QLineF(fixed, under({100, 100})).length() < 2 * unitsPerPx);
+
+    // One with a locked scale is moved, and stays where it is under the wheel.
+    SysCarto::MapHost::lockScale(*map, 40e6);
+    auto const kept = rectOf(*map->GetExtent());
+    QApplication::sendEvent(&page.shown(), &nearer);
+    QCOMPARE(rectOf(*map->GetExtent()), kept);
+    page.drag({100, 100}, {160, 130});
+    QVERIFY(rectOf(*map->GetExtent()) != kept && scale() == 40e6);
+    SysCarto::MapHost::lockScale(*map, 0);
     layout->GetFocusMapFrameElement()->SetLocked(true);
     double const locked = scale();
     page.wheel({0, 120});

@@ -6,6 +6,7 @@
 #include "host/SysCarto/document/LayerSettings.h"
 #include "host/SysCarto/document/SurroundFields.h"
 #include "host/SysCarto/elements/ElementHost.h"
+#include "host/SysCarto/layout/MapOverview.h"
 #include "host/SysUtility/JsonFile.h"
 
 #include <algorithm>
@@ -105,16 +106,25 @@ void noteProblems(PageLayout const& layout, DocumentContext& context) {
 
 }  // namespace
 
-// A surround keeps the map that it follows, also after its data frame was deleted.
+QList<_ptr_t<Map>> mapsFollowedBy(Element const& element) {
+  QList<_ptr_t<Map>> maps;
+  auto const add = [&maps](_ptr_t<Map> const& map) {
+    if (map) maps << map;
+  };
+  if (auto const* const surroundFrame = dynamic_cast<MapSurroundFrame const*>(&element))
+    if (auto const surround = surroundFrame->GetMapSurround()) add(surround->GetMap());
+  if (auto const* const frame = dynamic_cast<MapFrameElement const*>(&element))
+    for (int i = 0; i < frame->GetMapGridCount(); ++i)
+      if (auto const overview = ptr_cast<MapOverview>(frame->GetMapGrid(i))) add(overview->map());
+  return maps;
+}
+
 QList<_ptr_t<Map>> mapsOf(PageLayout const& layout) {
   QList<_ptr_t<Map>> maps;
   layout.GetMaps(maps);
-  for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
-    auto const frame = ptr_cast<MapSurroundFrame>(element);
-    auto const surround = frame ? frame->GetMapSurround() : nullptr;
-    auto const map = surround ? surround->GetMap() : nullptr;
-    if (map && !maps.contains(map)) maps << map;
-  }
+  for (auto const& element : layout.GetGraphicsContainer()->GetElements())
+    for (auto const& map : mapsFollowedBy(*element))
+      if (!maps.contains(map)) maps << map;
   return maps;
 }
 

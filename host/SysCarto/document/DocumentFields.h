@@ -17,6 +17,10 @@ struct SYSCARTO_EXPORT DocumentContent {
   void list(SysUtility::Fields& fields, DocumentContext& context);
 };
 
+/// The maps that a surround, or an overview of a data frame, follows. They keep them when the maps' own data frames are
+/// deleted.
+QList<SysUtility::_ptr_t<Map>> mapsFollowedBy(Element const& element);
+
 /// The maps to which the elements of a layout refer: those of the data frames first, in their order.
 QList<SysUtility::_ptr_t<Map>> mapsOf(PageLayout const& layout);
 

@@ -55,15 +55,13 @@ struct Content {
   }
 };
 
-// Each once: the data frames' own, and what surrounds follow else.
+// Each once: the data frames' own, and what surrounds and overviews follow else.
 void listMapsOf(Content& content) {
   for (auto const& element : qAsConst(content.elements))
     if (auto const frame = ptr_cast<MapFrameElement>(element)) content.ownMaps << frame->GetMap();
-  for (auto const& element : qAsConst(content.elements)) {
-    auto const frame = ptr_cast<MapSurroundFrame>(element);
-    auto const map = frame && frame->GetMapSurround() ? frame->GetMapSurround()->GetMap() : nullptr;
-    if (map && !content.ownMaps.contains(map) && !content.otherMaps.contains(map)) content.otherMaps << map;
-  }
+  for (auto const& element : qAsConst(content.elements))
+    for (auto const& map : mapsFollowedBy(*element))
+      if (!content.ownMaps.contains(map) && !content.otherMaps.contains(map)) content.otherMaps << map;
 }
 
 QString tooLarge(qint64 bytes) {

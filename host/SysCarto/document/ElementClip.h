@@ -15,7 +15,7 @@ struct SYSCARTO_EXPORT ElementClip {
 
   QByteArray text;
 
-  /// The maps of the document that surrounds follow whose data frames are not among the elements.
+  /// The maps of the document that surrounds and overviews follow whose data frames are not among the elements.
   QList<SysUtility::_ptr_t<Map>> otherMaps;
 
   /// Of elements of the document's page, in the order given. Without a text, and with a sentence in `problem`, where an
@@ -27,7 +27,7 @@ struct SYSCARTO_EXPORT ElementClip {
   static bool isOne(QByteArray const& text);
 
   /// New elements without handles, unlocked, in their order; none, with a sentence in `problem`, where the text is not
-  /// as `of` makes it. A surround without a map in `otherMaps` follows `focusMap`, which may be null.
+  /// as `of` makes it. A surround or an overview without a map in `otherMaps` follows `focusMap`, which may be null.
   static QList<SysUtility::_ptr_t<Element>> read(ElementClip const& clip, SysUtility::_ptr_t<Map> const& focusMap,
                                                  QString& problem);
 };

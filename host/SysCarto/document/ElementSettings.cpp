@@ -246,22 +246,64 @@ void GroupSettings::applyTo(GroupElement& group, ElementScope const&) const {
   for (_ptr_t<Element> const& member : members) group.AddElement(member);
 }
 
+OverviewSettings OverviewSettings::of(MapOverview const& overview, DocumentContext const& context) {
+  return {mapNumber(overview.map(), context), overview.symbol()};
+}
+
+void OverviewSettings::list(Fields& fields, DocumentContext const& context) {
+  listMapNumber(
+      fields, map, context,
+      QT_TRANSLATE_NOOP("Fields", "The number of the other map whose part of the world is marked; −1 for none."),
+      false);
+  listOptionalSymbol(
+      fields,
+      {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"),
+       QT_TRANSLATE_NOOP("Fields", "How the area is drawn; without a symbol as a red line of one point.")},
+      symbol);
+}
+
+void OverviewSettings::applyTo(MapOverview& overview, DocumentContext const& context) const {
+  overview.setMap(context.maps.value(map));
+  overview.setSymbol(symbol);
+}
+
 MapFrameSettings MapFrameSettings::of(MapFrameElement const& element, ElementScope const& scope) {
   MapFrameSettings settings{mapNumber(element.GetMap(), scope.context),
                             RectangleSettings::of(*element.GetEnvelope()),
                             FrameSettings::of(element),
+                            {},
                             {}};
-  for (int i = 0; i < element.GetMapGridCount(); ++i) settings.grids << element.GetMapGrid(i);
+  for (int i = 0; i < element.GetMapGridCount(); ++i) {
+    auto const overview = ptr_cast<MapOverview>(element.GetMapGrid(i));
+    if (!overview) {
+      settings.grids << element.GetMapGrid(i);
+      continue;
+    }
+    settings.overviews << OverviewSettings::of(*overview, scope.context);
+    bool const isOwn = overview->map() == element.GetMap();  // which it may have become
+    if (isOwn) settings.overviews.last().map = OverviewSettings().map;
+  }
   return settings;
 }
 
 void MapFrameSettings::list(Fields& fields, ElementScope const& scope) {
-  listMapNumber(fields, map, scope.context, true);
+  listMapNumber(
+      fields, map, scope.context,
+      QT_TRANSLATE_NOOP("Fields",
+                        "The number of the map that it shows, which no other data frame shows; the first one is 0."),
+      true);
   if (fields.ok() && scope.context.framedMaps.contains(map))
     return fields.fail("map", Texts::tr("another data frame shows this map already"));
   scope.context.framedMaps << map;
   rectangle.list(fields, onPage);
   frame.list(fields);
+  fields.list({"overviews", QT_TRANSLATE_NOOP("Fields", "Overviews"),
+               QT_TRANSLATE_NOOP("Fields", "What other maps show, marked on this one."), "overview"},
+              overviews, maxGrids, [&](Fields& own, OverviewSettings& overview, int) {
+                overview.list(own, scope.context);
+                if (own.ok() && overview.map == map)
+                  own.fail("map", Texts::tr("is the map of this data frame; enter the number of another one"));
+              });
   fields.list(
       {"grids", QT_TRANSLATE_NOOP("Fields", "Grids"), QT_TRANSLATE_NOOP("Fields", "Grids over the map."), "grid"},
       grids, maxGrids, [](Fields& own, _ptr_t<IMapGrid>& grid, int) { listGrid(own, grid); });
@@ -269,6 +311,11 @@ void MapFrameSettings::list(Fields& fields, ElementScope const& scope) {
 
 void MapFrameSettings::applyTo(MapFrameElement& element, ElementScope const& scope) const {
   frame.applyTo(element);
+  for (OverviewSettings const& settings : overviews) {
+    auto const overview = make<MapOverview>();
+    settings.applyTo(*overview, scope.context);
+    element.AddMapGrid(overview);
+  }
   for (_ptr_t<IMapGrid> const& grid : grids) element.AddMapGrid(grid);
   element.SetMap(scope.context.maps.value(map));
   element.SetGeometry(rectangle.envelope());

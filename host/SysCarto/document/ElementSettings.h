@@ -5,6 +5,7 @@
 #include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/PictureElement.h"
 #include "host/SysCarto/elements/TextElement.h"
+#include "host/SysCarto/layout/MapOverview.h"
 
 #include <SysCarto/GroupElement.h>
 #include <SysCarto/IMapGrid.h>
@@ -111,11 +112,21 @@ struct GroupSettings {
   void applyTo(GroupElement& group, ElementScope const& scope) const;
 };
 
+struct OverviewSettings {
+  int map = -1;  ///< its number in the document; −1 for none
+  SysUtility::_ptr_t<SysDisplay::FillSymbol> symbol;
+
+  static OverviewSettings of(MapOverview const& overview, DocumentContext const& context);
+  void list(SysUtility::Fields& fields, DocumentContext const& context);
+  void applyTo(MapOverview& overview, DocumentContext const& context) const;
+};
+
 struct MapFrameSettings {
   int map = 0;  ///< its number in the document
   RectangleSettings rectangle;
   FrameSettings frame;
-  QList<SysUtility::_ptr_t<IMapGrid>> grids;
+  QVector<OverviewSettings> overviews;
+  QList<SysUtility::_ptr_t<IMapGrid>> grids;  ///< the others
 
   static MapFrameSettings of(MapFrameElement const& element, ElementScope const& scope);
   void list(SysUtility::Fields& fields, ElementScope const& scope);

@@ -7,6 +7,8 @@
 #include "host/SysCarto/projection/PointTransform.h"
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 namespace SysCarto {
 
@@ -14,6 +16,9 @@ using SysUtility::Fields;
 using SysUtility::TextKind;
 
 namespace {
+
+constexpr double maxScale = 1e15;
+constexpr double sameScale = 1e-9;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(MapDocument)
@@ -26,6 +31,8 @@ MapSettings MapSettings::of(Map const& map) {
   MapHost::storedBounds(map).QueryCoords(settings.bounds[0], settings.bounds[1], settings.bounds[2],
                                          settings.bounds[3]);
   settings.rotation = map.GetRotation();
+  settings.scale = map.GetDisplayTransformation()->GetMapScale();
+  settings.scaleLocked = MapHost::lockedScale(map) > 0;
   return settings;
 }
 
@@ -52,22 +59,52 @@ void MapSettings::list(Fields& fields) {
                                    "How far the map is turned counterclockwise about its centre. The frame stays, and "
                                    "letters, pictures and the patterns of areas stay upright.")},
                 rotation, {-360, 360, SysUtility::Unit::Degree}, 0.0);
+  listScale(fields);
   if (!fields.isReading() || !fields.ok()) return;
   if (bounds[2] - bounds[0] < minMapExtent || bounds[3] - bounds[1] < minMapExtent)
     fields.fail("bounds", Texts::tr("must be xmin, ymin, xmax, ymax, with xmin < xmax and ymin < ymax"));
 }
 
+void MapSettings::listScale(Fields& fields) {
+  bool const isOnPaper = scale > 0;
+  fields.flag(
+      {"scaleLocked", QT_TRANSLATE_NOOP("Fields", "Scale is locked"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "Whether the map keeps its scale and shows more or less where its frame becomes larger "
+                         "or smaller. The extent then gives the centre alone.")},
+      scaleLocked, false);
+  fields.derivedNumber({"scale", QT_TRANSLATE_NOOP("Fields", "Scale"),
+                        QT_TRANSLATE_NOOP("Fields",
+                                          "How many times smaller the map is than the ground at its centre. It is "
+                                          "stored where it is locked; otherwise the extent decides, and another scale "
+                                          "changes that.")},
+                       scale, {0, maxScale, SysUtility::Unit::ScaleDenominator},
+                       fields.isReading() || !scaleLocked ? std::optional<double>(scale) : std::nullopt);
+  if (!fields.isReading() || !fields.ok()) return;
+  if (scale == 0 && (scaleLocked || isOnPaper))
+    fields.fail("scale", Texts::tr("must be more than 0, as in 25000 for a map of 1:25,000"));
+  if (scale > 0 && !scaleLocked && !isOnPaper)
+    fields.fail("scale", Texts::tr("is for a map with “scaleLocked”; without it the bounds say what is shown"));
+}
+
 void MapSettings::applyTo(Map& map, QStringList& warnings) const {
   MapSettings const former = of(map);
+  bool const hasSameBounds = std::equal(bounds, bounds + 4, former.bounds);
   bool const isElsewhere = coordinateSystem.trimmed() != former.coordinateSystem;
   double shown[4];
   std::copy(bounds, bounds + 4, shown);
-  if (isElsewhere && std::equal(bounds, bounds + 4, former.bounds))
-    transformBounds(shown, former.coordinateSystem, coordinateSystem);
+  if (isElsewhere && hasSameBounds) transformBounds(shown, former.coordinateSystem, coordinateSystem);
   map.SetName(name);
   map.SetCoordinateSystem(coordinateSystem);
   MapHost::setRotation(map, rotation);
+  MapHost::lockScale(map, scaleLocked ? scale : 0);
   map.SetExtent(SysUtility::make<SysGeometry::Envelope>(shown[0], shown[1], shown[2], shown[3]));
+  double const factor = scale / map.GetDisplayTransformation()->GetMapScale();
+  if (!isElsewhere && hasSameBounds && factor > 0 && std::abs(factor - 1) > sameScale) {
+    auto const extent = map.GetExtent();
+    extent->Expand(factor, factor, true);
+    map.SetExtent(extent);
+  }
   if (!isElsewhere) return;
   for (auto const& layer : map.GetLayers()) {
     auto const vector = SysUtility::ptr_cast<VectorLayer>(layer);

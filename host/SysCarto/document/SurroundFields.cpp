@@ -62,16 +62,11 @@ int lastMap(Fields const& fields, DocumentContext const& context) {
   return (fields.isReading() ? context.maps.size() : maxMaps) - 1;
 }
 
-void listMapNumber(Fields& fields, int& number, DocumentContext const& context, bool isRequired) {
+void listMapNumber(Fields& fields, int& number, DocumentContext const& context, char const* help, bool isRequired) {
   if (number == foreignMap)
     fields.fail("map", QCoreApplication::translate("SurroundFields", "is no map of the document"));
-  fields.integer(
-      {"map", QT_TRANSLATE_NOOP("Fields", "Map"),
-       isRequired
-           ? QT_TRANSLATE_NOOP(
-                 "Fields", "The number of the map that it shows, which no other data frame shows; the first one is 0.")
-           : QT_TRANSLATE_NOOP("Fields", "The number of the map that it follows; −1 for none.")},
-      number, isRequired ? 0 : noMap, lastMap(fields, context), isRequired ? std::nullopt : std::optional<int>(noMap));
+  fields.integer({"map", QT_TRANSLATE_NOOP("Fields", "Map"), help}, number, isRequired ? 0 : noMap,
+                 lastMap(fields, context), isRequired ? std::nullopt : std::optional<int>(noMap));
 }
 
 void listSurround(Fields& fields, _ptr_t<MapSurround>& surround, DocumentContext const& context) {
@@ -80,7 +75,9 @@ void listSurround(Fields& fields, _ptr_t<MapSurround>& surround, DocumentContext
   fields.variant({"kind", QT_TRANSLATE_NOOP("Fields", "Kind"), QT_TRANSLATE_NOOP("Fields", "What explains the map.")},
                  kind, choices, [&](int chosen) {
                    int map = surround && !fields.isReading() ? mapNumber(surround->GetMap(), context) : noMap;
-                   listMapNumber(fields, map, context, false);
+                   listMapNumber(fields, map, context,
+                                 QT_TRANSLATE_NOOP("Fields", "The number of the map that it follows; −1 for none."),
+                                 false);
                    for (Kind const& known : kinds)
                      if (known.choice.value == chosen) known.list(fields, surround);
                    if (fields.isReading() && fields.ok()) surround->SetMap(context.maps.value(map));

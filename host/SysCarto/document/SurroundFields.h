@@ -12,7 +12,8 @@ namespace SysCarto {
 int mapNumber(SysUtility::_ptr_t<Map> const& map, DocumentContext const& context);
 /// The highest number that a map may have where the visitor is: of those that there are, when reading.
 int lastMap(SysUtility::Fields const& fields, DocumentContext const& context);
-void listMapNumber(SysUtility::Fields& fields, int& number, DocumentContext const& context, bool isRequired);
+void listMapNumber(SysUtility::Fields& fields, int& number, DocumentContext const& context, char const* help,
+                   bool isRequired);
 
 /// A surround in the visitor's own object, its kind in the field "kind". Reading makes a new one.
 void listSurround(SysUtility::Fields& fields, SysUtility::_ptr_t<MapSurround>& surround,

@@ -90,6 +90,17 @@ void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameEleme
   elements.Draw(painter, transformationOf(*frame.GetMap(), framePx, clipPx, transformation.GetPageScale()), 1, nullptr);
 }
 
+void drawOnFrame(QPainter& painter, MapFrameElement const& frame, DisplayTransformation const& transformation,
+                 std::function<void(DisplayTransformation const&)> const& draw) {
+  QRect const framePx = pixelsOf(frame, transformation);
+  if (framePx.isEmpty()) return;
+  painter.save();
+  painter.setClipRect(framePx, Qt::IntersectClip);
+  painter.translate(framePx.topLeft());
+  draw(*transformationOf(*frame.GetMap(), framePx, framePx, transformation.GetPageScale()));
+  painter.restore();
+}
+
 QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi) {
   auto const rectangle = frame.GetEnvelope();
   auto const pixels = [dpi](double cm) {

@@ -5,6 +5,8 @@
 
 #include <QImage>
 
+#include <functional>
+
 namespace SysCarto {
 
 /// The map of a data frame, drawn on transparent ground: the part that lies in `areaPx`.
@@ -20,6 +22,12 @@ SYSCARTO_EXPORT MapPicture drawMap(MapFrameElement const& frame,
 /// area.
 SYSCARTO_EXPORT void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameElement const& frame,
                                  SysDisplay::DisplayTransformation const& transformation);
+
+/// Lets something draw over the pixels of a data frame, with the transformation of its map. The painter's origin is
+/// then the frame's corner, and the frame clips.
+SYSCARTO_EXPORT void drawOnFrame(QPainter& painter, MapFrameElement const& frame,
+                                 SysDisplay::DisplayTransformation const& transformation,
+                                 std::function<void(SysDisplay::DisplayTransformation const&)> const& draw);
 
 /// The labels of a data frame's map, as an export at that resolution places them. No container holds them.
 SYSCARTO_EXPORT QList<SysUtility::_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi);

@@ -1,3 +1,4 @@
+#include "MapOverview.h"
 #include "PageHost.h"
 #include "PageLayoutHost.h"
 
@@ -77,6 +78,14 @@ struct PageLayout::Private {
       if (frame && frame->GetMapSurround()) surrounds << frame->GetMapSurround();
     }
     return surrounds;
+  }
+
+  QList<_ptr_t<MapOverview>> overviews() const {
+    QList<_ptr_t<MapOverview>> overviews;
+    for (auto const& frame : frames())
+      for (int i = 0; i < frame->GetMapGridCount(); ++i)
+        if (auto const overview = ptr_cast<MapOverview>(frame->GetMapGrid(i))) overviews << overview;
+    return overviews;
   }
 
   _ptr_t<Map> firstWithLayers() const {
@@ -178,6 +187,7 @@ void PageLayout::ReplaceMaps(QList<_ptr_t<Map>> const& maps) {
     return d->shows(map) ? map : nullptr;
   };
   for (auto const& surround : d->surrounds()) surround->SetMap(presentOf(surround->GetMap()));
+  for (auto const& overview : d->overviews()) overview->setMap(presentOf(overview->map()));
   _ptr_t<Map> const focus = presentOf(d->focus);
   SetFocusMap(!focus || maps.contains(focus) ? focus : d->firstWithLayers());
 }
@@ -187,6 +197,8 @@ void PageLayoutHost::succeed(PageLayout& layout, PageLayout const& former) {
   if (!d.shows(d.focus)) layout.SetFocusMap(former.GetFocusMap());
   for (auto const& surround : d.surrounds())
     if (!d.shows(surround->GetMap())) surround->SetMap(layout.GetFocusMap());
+  for (auto const& overview : d.overviews())
+    if (!d.shows(overview->map())) overview->setMap(nullptr);
 }
 
 _ptr_t<Map> PageLayout::GetFocusMap() const {

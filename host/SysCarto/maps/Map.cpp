@@ -49,6 +49,7 @@ struct Map::Private {
   QList<_ptr_t<Layer>> layers;
   Envelope bounds{0, 0, 2000, 1500};
   double rotation = 0;
+  double lockedScale = 0;
   QRect frame{0, 0, 200000, 150000};
   _ptr_t<DisplayTransformation> transformation = make<DisplayTransformation>();
   ElementContainer graphics;
@@ -61,15 +62,20 @@ struct Map::Private {
 // Centres the bounds and gives them the aspect of the frame. The transformation could fit them itself, but it would
 // leave them in the upper left corner.
 void Map::Private::fit() {
-  double const scale = std::max(bounds.GetWidth() / frame.width(), bounds.GetHeight() / frame.height());
-  double const halfWidth = frame.width() * scale / 2, halfHeight = frame.height() * scale / 2;
   double const x = bounds.GetXMin() + bounds.GetWidth() / 2, y = bounds.GetYMin() + bounds.GetHeight() / 2;
+  auto const metresPerUnit = [&](double scale) {
+    return ground->metresPerUnit(x, y, frame.width() * scale * scaleStep);
+  };
+  double scale = std::max(bounds.GetWidth() / frame.width(), bounds.GetHeight() / frame.height());
+  for (int i = 0; i < 2 && lockedScale > 0; ++i)  // what is measured depends a little on the width that is shown
+    scale = lockedScale * metresPerMicrometre / metresPerUnit(scale);
+  double const halfWidth = frame.width() * scale / 2, halfHeight = frame.height() * scale / 2;
   transformation->SetDeviceFrame(frame);
   transformation->SetVisibleBounds(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
   DisplayTransformationHost::setTurn(*transformation, rotation, {x, y});
   DisplayTransformationHost::setPatternOrigin(*transformation, x - halfWidth, y + halfHeight);
-  double const groundMetres = scale * ground->metresPerUnit(x, y, 2 * halfWidth * scaleStep);
-  DisplayTransformationHost::setMapScale(*transformation, groundMetres / metresPerMicrometre);
+  double const denominator = scale * metresPerUnit(scale) / metresPerMicrometre;
+  DisplayTransformationHost::setMapScale(*transformation, lockedScale > 0 ? lockedScale : denominator);
 }
 
 Map::Map() : d(std::make_unique<Private>()) {
@@ -121,6 +127,15 @@ void MapHost::setRotation(Map& map, double degrees) {
   double const rotation = std::isfinite(degrees) ? std::fmod(degrees, 360) : 0;
   if (rotation == map.d->rotation) return;
   map.d->change.set(map.d->rotation, rotation);
+  map.d->fit();
+}
+
+double MapHost::lockedScale(Map const& map) { return map.d->lockedScale; }
+
+void MapHost::lockScale(Map& map, double denominator) {
+  double const scale = std::isfinite(denominator) && denominator > 0 ? denominator : 0;
+  if (scale == map.d->lockedScale) return;
+  map.d->change.set(map.d->lockedScale, scale);
   map.d->fit();
 }
 

@@ -8,6 +8,11 @@ struct SYSCARTO_EXPORT MapHost {
   /// The bounds as they were set, before they are fitted to the frame; a document stores these.
   static SysGeometry::Envelope storedBounds(Map const& map);
 
+  /// The scale denominator that is kept whatever becomes of the frame: the bounds then say where the centre is and
+  /// nothing more. 0 where the bounds decide, as they do at first.
+  static double lockedScale(Map const& map);
+  static void lockScale(Map& map, double denominator);
+
   /// Within ±360 degrees, counterclockwise; an angle beyond that counts from there on.
   static void setRotation(Map& map, double degrees);
 

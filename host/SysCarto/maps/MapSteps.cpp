@@ -16,20 +16,38 @@ namespace {
 
 constexpr int apart = -1, joinsZooms = 1;  // what QUndoCommand::id says of steps that are merged
 
-void putExtent(Map& map, Envelope const& bounds) { map.SetExtent(SysUtility::make<Envelope>(bounds)); }
+// What decides on how much of the world a map shows.
+struct Portion {
+  Envelope bounds;
+  double lockedScale;
+
+  bool operator==(Portion const& other) const {
+    return haveSameCorners(bounds, other.bounds) && lockedScale == other.lockedScale;
+  }
+};
+
+Portion portionOf(Map const& map) { return {MapHost::storedBounds(map), MapHost::lockedScale(map)}; }
+void putPortion(Map& map, Portion const& portion) {
+  MapHost::lockScale(map, portion.lockedScale);
+  map.SetExtent(SysUtility::make<Envelope>(portion.bounds));
+}
 void putVisible(Layer& layer, bool const& visible) { layer.SetVisible(visible); }
 
-// What the map makes of the extent is known when it shows it.
-bool change(QString const& name, int joining, Map& map, Envelope const& extent) {
-  Envelope const before = MapHost::storedBounds(map);
+// What the map makes of it is known when it shows it.
+bool change(QString const& name, int joining, Map& map, Portion const& wanted) {
+  Portion const before = portionOf(map);
   {
     SysUtility::ChangeMark::Step const step;
-    putExtent(map, extent);
+    putPortion(map, wanted);
   }
-  Envelope const after = MapHost::storedBounds(map);
-  if (haveSameCorners(before, after)) return haveSameCorners(before, extent);
-  takeStep(std::make_unique<ValueStep<Map, Envelope>>(name, joining, map, before, after, putExtent));
+  Portion const after = portionOf(map);
+  if (before == after) return before == wanted;
+  takeStep(std::make_unique<ValueStep<Map, Portion>>(name, joining, map, before, after, putPortion));
   return true;
+}
+
+bool change(QString const& name, int joining, Map& map, Envelope const& extent) {
+  return change(name, joining, map, Portion{extent, MapHost::lockedScale(map)});
 }
 
 }  // namespace
@@ -45,9 +63,14 @@ bool MapSteps::setExtent(Map& map, Envelope const& extent) {
 bool MapSteps::setScale(Map& map, double denominator) {
   double const factor = denominator / map.GetDisplayTransformation()->GetMapScale();
   if (!std::isfinite(factor) || factor <= 0) return false;
-  auto const extent = map.GetExtent();
-  extent->Expand(factor, factor, true);
-  return change(tr("Set the map's scale"), apart, map, *extent);
+  Portion wanted = portionOf(map);
+  if (wanted.lockedScale > 0) {
+    wanted.lockedScale = denominator;
+  } else {
+    wanted.bounds = *map.GetExtent();
+    wanted.bounds.Expand(factor, factor, true);
+  }
+  return change(tr("Set the map's scale"), apart, map, wanted);
 }
 
 void MapSteps::setVisible(Layer& layer, bool visible) {

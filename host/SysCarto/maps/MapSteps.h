@@ -19,7 +19,8 @@ public:
   static bool pan(Map& map, SysGeometry::Envelope const& extent);
   static bool setExtent(Map& map, SysGeometry::Envelope const& extent);
 
-  /// About the map's centre, where the scale is true.
+  /// About the map's centre, where the scale is true. Of a map with a locked scale it is another one that is kept then;
+  /// the extents above only move such a map.
   static bool setScale(Map& map, double denominator);
 
   static void setVisible(Layer& layer, bool visible);

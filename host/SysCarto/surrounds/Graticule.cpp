@@ -2,6 +2,8 @@
 
 #include "GraticuleLabels.h"
 #include "GraticuleLines.h"
+#include "GridTexts.h"
+#include "MeasuredLines.h"
 #include "Pieces.h"
 #include "SurroundSettings.h"
 
@@ -50,6 +52,14 @@ double intervalFor(double cmPerDegree) {
   return found == std::end(intervals) ? intervals[std::size(intervals) - 1] : *found;
 }
 
+// 1, 2 or 5 times a power of ten.
+double spacingFor(double cmPerUnit) {
+  double const least = minBetweenCm / cmPerUnit, power = std::pow(10, std::floor(std::log10(least)));
+  for (double const factor : {1.0, 2.0, 5.0})
+    if (factor * power >= least * (1 - 1e-9)) return factor * power;
+  return 10 * power;
+}
+
 _ptr_t<LineSymbol> usualLine() {
   auto const symbol = make<SysDisplay::SimpleLineSymbol>();
   symbol->SetColor(QColor(0x6b, 0x7b, 0x88));
@@ -80,17 +90,25 @@ struct Graticule::Private {
   };
   mutable std::shared_ptr<Picture const> picture;
   mutable QString system;
-  mutable std::shared_ptr<GraticuleLines const> lines;  // of that system; null until they are asked for
+  mutable std::shared_ptr<GridLines const> lines;  // of that system; null until they are asked for
 
   _ptr_t<TextSymbol> labelSymbol() const { return settings.label ? settings.label : usualLabel(); }
-  GraticuleLines const& linesOf(QString const& wanted) const {
-    if (!lines || system != wanted) lines = std::make_shared<GraticuleLines>(wanted);
+  bool isMeasured() const { return settings.system == GridSystem::Projected; }
+  double interval() const { return isMeasured() ? settings.spacing : settings.interval; }
+  GridLines const& linesOf(QString const& wanted) const {
+    if (lines && system == wanted) return *lines;
+    if (isMeasured())
+      lines = std::make_shared<MeasuredLines>();
+    else
+      lines = std::make_shared<GraticuleLines>(wanted);
     system = wanted;
     return *lines;
   }
-  bool isTooFine(GraticuleLines const& lines, Envelope const& extent) const {
-    return settings.interval > 0 && lines.count(extent, settings.interval) > maxLines;
+  bool isTooFine(GridLines const& lines, Envelope const& extent) const {
+    return interval() > 0 && lines.count(extent, interval()) > maxLines;
   }
+  GridStep stepOn(GridLines const& lines, MapPlace const& place) const;
+  QString textOf(GridLine const& line, QString const& unit) const;
   QList<_ptr_t<Element>> const& elementsFor(Map const& map, Envelope const& rectangle) const;
 };
 
@@ -106,25 +124,42 @@ MapPlace placeOf(Map const& map, Envelope const& rectangle) {
 
 }  // namespace
 
+GridStep Graticule::Private::stepOn(GridLines const& lines, MapPlace const& place) const {
+  Envelope const extent = place.covered();
+  if (interval() > 0 && !isTooFine(lines, extent)) return {interval(), interval()};
+  GridStep const size = lines.unitSize(extent);
+  double const cmPerUnit = place.rectangle.GetWidth() / place.extent.GetWidth();
+  auto const choose = isMeasured() ? spacingFor : intervalFor;
+  return {choose(size.longitude * cmPerUnit), choose(size.latitude * cmPerUnit)};
+}
+
+QString Graticule::Private::textOf(GridLine const& line, QString const& unit) const {
+  if (isMeasured()) return coordinateText(line.value, line.isMeridian, unit, settings.signs);
+  return degreesText(line.value, line.isMeridian, settings.format, settings.signs);
+}
+
 QList<_ptr_t<Element>> const& Graticule::Private::elementsFor(Map const& map, Envelope const& rectangle) const {
-  GraticuleLines const& globe = linesOf(map.GetCoordinateSystem());
+  GridLines const& grid = linesOf(map.GetCoordinateSystem());
   MapPlace const place = placeOf(map, rectangle);
   if (picture && picture->system == system && isSame(picture->place, place)) return picture->elements;
   auto made = std::make_shared<Picture>(Picture{system, place, {}});
+  _ptr_t<LineSymbol> const line = settings.line ? settings.line : usualLine();
+  auto const draw = [&](QVector<QVector<QPointF>> const& parts) {
+    for (QVector<QPointF> const& part : parts) made->elements << linePiece(part, line);
+  };
   Envelope const extent = place.covered();
-  bool const isChosen = settings.interval > 0 && !isTooFine(globe, extent);
-  GraticuleStep const size = globe.degreeSize(extent);
-  double const cmPerUnit = rectangle.GetWidth() / place.extent.GetWidth();
-  GraticuleStep const step =
-      isChosen ? GraticuleStep{settings.interval, settings.interval}
-               : GraticuleStep{intervalFor(size.longitude * cmPerUnit), intervalFor(size.latitude * cmPerUnit)};
-  GraticuleLabels labels(place, labelSymbol(), labelGapPt);
-  for (GraticuleLine const& one : globe.lines(extent, step)) {
+  GridStep const step = stepOn(grid, place);
+  double const sizeCm = settings.sizePt * SysDisplay::cmPerPoint;
+  QString const unit = isMeasured() ? unitOf(system) : QString();
+  GraticuleLabels labels(place, labelSymbol(), labelGapPt, settings.labelSides);
+  for (GridLine const& one : grid.lines(extent, step)) {
     auto const parts = labels.placed(one);
-    for (QVector<QPointF> const& part : parts)
-      made->elements << linePiece(part, settings.line ? settings.line : usualLine());
-    if (settings.labelled) labels.label(one, parts);
+    if (settings.marks == GridMarks::Lines) draw(parts);
+    if (settings.marks == GridMarks::Ticks) draw(labels.ticks(parts, sizeCm));
+    if (settings.labelled) labels.label(one, parts, textOf(one, unit));
   }
+  if (settings.marks == GridMarks::Crosses)
+    for (GridCrossing const& one : grid.crossings(extent, step)) draw(labels.cross(one, sizeCm));
   made->elements += labels.elements();
   picture = made;
   return picture->elements;
@@ -161,21 +196,29 @@ GraticuleSettings GraticuleSettings::of(Graticule const& graticule) { return gra
 void GraticuleSettings::applyTo(Graticule& graticule) const {
   graticule.d->settings = *this;
   graticule.d->picture = nullptr;
+  graticule.d->lines = nullptr;
 }
 
 QString GraticuleSettings::problemOf(Graticule const& graticule, MapFrameElement const& frame) {
   Graticule::Private& d = *graticule.d;
   Map const& map = *frame.GetMap();
   Envelope const extent = placeOf(map, *frame.GetEnvelope()).covered();
-  if (d.settings.interval == 0 || !d.isTooFine(d.linesOf(map.GetCoordinateSystem()), extent)) return QString();
-  double const count = d.lines->count(extent, d.settings.interval);
-  double const least = std::ceil(count * d.settings.interval / maxLines * 1000) / 1000;
-  return QCoreApplication::translate("Graticule",
-                                     "the graticule “%1” of the map “%2” has an interval of %3 degrees, which makes %4 "
-                                     "lines; at most %5 are drawn, so an interval is chosen for it; enter one of %6 "
-                                     "degrees or more")
-      .arg(d.settings.name, map.GetName(), grouped(d.settings.interval), grouped(std::round(count)), grouped(maxLines),
-           grouped(least));
+  if (!d.isTooFine(d.linesOf(map.GetCoordinateSystem()), extent)) return QString();
+  double const count = d.lines->count(extent, d.interval());
+  double const least = std::ceil(count * d.interval() / maxLines * 1000) / 1000;
+  QString const sentence =
+      d.isMeasured()
+          ? QCoreApplication::translate(
+                "Graticule",
+                "the grid “%1” of the map “%2” has a spacing of %3 map units, which makes %4 lines; at most %5 are "
+                "drawn, so a spacing is chosen for it; enter one of %6 map units or more")
+          : QCoreApplication::translate(
+                "Graticule",
+                "the graticule “%1” of the map “%2” has an interval of %3 degrees, which makes %4 "
+                "lines; at most %5 are drawn, so an interval is chosen for it; enter one of %6 "
+                "degrees or more");
+  return sentence.arg(d.settings.name, map.GetName(), grouped(d.interval()), grouped(std::round(count)),
+                      grouped(maxLines), grouped(least));
 }
 
 }  // namespace SysCarto

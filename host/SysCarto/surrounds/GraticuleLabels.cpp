@@ -43,6 +43,17 @@ QPointF halfwayAlong(Ring const& line) {
   return line.last();
 }
 
+Ring beginningOf(Ring const& line, double length) {
+  Ring part{line.first()};
+  for (int i = 1; i < line.size(); ++i) {
+    QLineF const edge(line[i - 1], line[i]);
+    if (edge.length() >= length) return part << edge.pointAt(length / edge.length());
+    length -= edge.length();
+    part << line[i];
+  }
+  return part;
+}
+
 bool meets(QRectF const& box, QRectF const& other) {
   return other.intersects(box.adjusted(-betweenCm, -betweenCm, betweenCm, betweenCm));
 }
@@ -99,22 +110,57 @@ Envelope MapPlace::covered() const {
   return {area.left(), area.top(), area.right(), area.bottom()};
 }
 
-GraticuleLabels::GraticuleLabels(MapPlace const& place, _ptr_t<TextSymbol> const& symbol, double gapPt)
+GraticuleLabels::GraticuleLabels(MapPlace const& place, _ptr_t<TextSymbol> const& symbol, double gapPt,
+                                 Sides const& labelledSides)
     : place_(place),
       left_(place.rectangle.GetXMin()),
       bottom_(place.rectangle.GetYMin()),
       right_(place.rectangle.GetXMax()),
       top_(place.rectangle.GetYMax()),
       format_(symbol->format()),
-      gapCm_(gapPt * SysDisplay::cmPerPoint) {}
+      gapCm_(gapPt * SysDisplay::cmPerPoint),
+      labelledSides_(labelledSides) {}
 
-Rings GraticuleLabels::placed(GraticuleLine const& line) const {
+Rings GraticuleLabels::placed(GridLine const& line) const {
   Rings parts;
   for (Ring part : line.parts) {
     for (QPointF& point : part) point = place_.onPage(point);
     addClipped(thinned(part), {left_, bottom_, right_, top_}, parts);
   }
   return parts;
+}
+
+Rings GraticuleLabels::ticks(Rings const& parts, double lengthCm) const {
+  Rings ticks;
+  for (Ring part : parts)
+    for (int end = 0; end < 2; ++end) {
+      if (sideOf(part.first(), true) != None) ticks << beginningOf(part, lengthCm);
+      std::reverse(part.begin(), part.end());
+    }
+  return ticks;
+}
+
+Rings GraticuleLabels::cross(GridCrossing const& crossing, double lengthCm) const {
+  Rings arms;
+  QPointF const at = place_.onPage(crossing.at);
+  for (QPointF const& along : {crossing.alongParallel, crossing.alongMeridian}) {
+    QLineF const arm(at, place_.onPage(along));
+    if (!(arm.length() > 0)) continue;
+    QPointF const reach = (arm.p2() - at) * (lengthCm / 2 / arm.length());
+    addClipped({at - reach, at + reach}, {left_, bottom_, right_, top_}, arms);
+  }
+  return arms;
+}
+
+bool GraticuleLabels::isLabelled(Side side) const {
+  switch (side) {
+    case Left: return labelledSides_.left;
+    case Right: return labelledSides_.right;
+    case Bottom: return labelledSides_.bottom;
+    case Top: return labelledSides_.top;
+    case None: break;
+  }
+  return false;
 }
 
 // In a corner, the side on which the line is better labelled.
@@ -129,7 +175,7 @@ GraticuleLabels::Side GraticuleLabels::sideOf(QPointF const& point, bool isMerid
   return isMeridian ? above : beside;
 }
 
-void GraticuleLabels::label(GraticuleLine const& line, Rings const& parts) {
+void GraticuleLabels::label(GridLine const& line, Rings const& parts, QString const& text) {
   line_ = &line;
   Ring wanted, others;
   for (Ring const& part : parts)
@@ -145,9 +191,10 @@ void GraticuleLabels::label(GraticuleLine const& line, Rings const& parts) {
                           placed.y2() > bottom_ + onSideCm && placed.y2() < top_ - onSideCm;
     if (isInside) ends << placed;
   }
-  QString const text = degreesText(line.degrees, line.isMeridian);
-  for (QPointF const& point : wanted.isEmpty() ? others : wanted)
-    addOutside(text, point, sideOf(point, line.isMeridian));
+  for (QPointF const& point : wanted.isEmpty() ? others : wanted) {
+    Side const side = sideOf(point, line.isMeridian);
+    if (isLabelled(side)) addOutside(text, point, side);
+  }
   for (QLineF const& end : qAsConst(ends)) addBeyond(text, end);
   if (wanted.isEmpty() && others.isEmpty() && ends.isEmpty()) addOn(text, parts);
 }

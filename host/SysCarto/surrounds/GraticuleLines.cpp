@@ -7,11 +7,10 @@
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace SysCarto {
 
@@ -45,10 +44,6 @@ public:
 private:
   QVector<QVector<QPointF>>& lines_;
 };
-
-// The first and last multiple of a step in a range, in steps.
-double firstIn(double from, double step) { return std::ceil(from / step - 1e-9); }
-double lastIn(double to, double step) { return std::floor(to / step + 1e-9); }
 
 // Whether another part of the line, or its own start, begins where an end is.
 bool goesOnFrom(QVector<QLineF> const& ends, int index) {
@@ -139,9 +134,9 @@ GraticuleLines::Pole GraticuleLines::poleAt(double latitude, double longitude, E
 }
 
 // The middle alone would not do: it may be a pole, where a degree of longitude has no length.
-GraticuleStep GraticuleLines::degreeSize(Envelope const& extent) const {
+GridStep GraticuleLines::unitSize(Envelope const& extent) const {
   constexpr double measured = 1e-3;  // degrees
-  GraticuleStep sum{0, 0};
+  GridStep sum{0, 0};
   int count = 0;
   for (QPointF const& place :
        {QPointF(0.5, 0.5), QPointF(0.25, 0.25), QPointF(0.75, 0.25), QPointF(0.25, 0.75), QPointF(0.75, 0.75)}) {
@@ -156,7 +151,7 @@ GraticuleStep GraticuleLines::degreeSize(Envelope const& extent) const {
     sum = {sum.longitude + alongX / measured, sum.latitude + alongY / measured};
     ++count;
   }
-  return count > 0 ? GraticuleStep{sum.longitude / count, sum.latitude / count} : sum;
+  return count > 0 ? GridStep{sum.longitude / count, sum.latitude / count} : sum;
 }
 
 // Whether the two sides of a meridian lie at different places of the map.
@@ -167,17 +162,19 @@ bool GraticuleLines::isCutAt(double longitude) const {
   return toMap_->apply(far, farY) && std::hypot(east - west, eastY - westY) > std::hypot(far - east, farY - eastY);
 }
 
-QVector<GraticuleLine> GraticuleLines::lines(Envelope const& extent, GraticuleStep const& interval) const {
-  QVector<GraticuleLine> lines;
+QVector<GridLine> GraticuleLines::lines(Envelope const& extent, GridStep const& interval) const {
+  QVector<GridLine> lines;
   if (!projector_ || !(interval.longitude > 0 && interval.latitude > 0)) return lines;
   Range const range = rangeOf(extent);
   bool const isWhole = range.east - range.west >= 360;
-  for (double i = firstIn(range.west, interval.longitude); i <= lastIn(range.east, interval.longitude); ++i) {
+  for (double i = firstMultiple(range.west, interval.longitude); i <= lastMultiple(range.east, interval.longitude);
+       ++i) {
     double const longitude = i * interval.longitude;
     if (isWhole && longitude >= 180 - beside) continue;  // is −180, too
     addMeridian(lines, i, interval, range);
   }
-  for (double i = firstIn(range.south, interval.latitude); i <= lastIn(range.north, interval.latitude); ++i) {
+  for (double i = firstMultiple(range.south, interval.latitude); i <= lastMultiple(range.north, interval.latitude);
+       ++i) {
     double const latitude = i * interval.latitude;
     if (std::abs(latitude) > 90 - beside && (latitude > 0 ? range.northPole : range.southPole) != Pole::Line) continue;
     lines << made(false, interval.latitude, i, {range.west, latitude, range.east, latitude});
@@ -188,18 +185,18 @@ QVector<GraticuleLine> GraticuleLines::lines(Envelope const& extent, GraticuleSt
 }
 
 // Short of a pole, where meridians would run into each other, only four of them go on.
-void GraticuleLines::addMeridian(QVector<GraticuleLine>& lines, double number, GraticuleStep const& interval,
+void GraticuleLines::addMeridian(QVector<GridLine>& lines, double number, GridStep const& interval,
                                  Range const& range) const {
   double const longitude = number * interval.longitude, step = interval.latitude;
   bool const goesOn = std::abs(std::remainder(longitude, quarter)) < beside;
   bool const meetsInNorth = range.northPole == Pole::Point, meetsInSouth = range.southPole == Pole::Point;
-  double const north = meetsInNorth && !goesOn ? lastIn(90 - step / 2, step) * step : range.north;
-  double const south = meetsInSouth && !goesOn ? firstIn(step / 2 - 90, step) * step : range.south;
+  double const north = meetsInNorth && !goesOn ? lastMultiple(90 - step / 2, step) * step : range.north;
+  double const south = meetsInSouth && !goesOn ? firstMultiple(step / 2 - 90, step) * step : range.south;
   bool const isCut = isCutAt(longitude);
   for (double const side :
        isCut ? std::vector<double>{longitude - beside, longitude + beside} : std::vector<double>{longitude}) {
     double const turned = isCut ? inTurn(side) : longitude;
-    GraticuleLine line = made(true, interval.longitude, number, {turned, south, turned, north});
+    GridLine line = made(true, interval.longitude, number, {turned, south, turned, north});
     if (!line.ends.isEmpty()) {
       if (meetsInNorth) line.ends.removeLast();
       if (range.northPole == Pole::Line) line.ends.last() = upright(line.ends.last());
@@ -212,11 +209,11 @@ void GraticuleLines::addMeridian(QVector<GraticuleLine>& lines, double number, G
   }
 }
 
-GraticuleLine GraticuleLines::made(bool isMeridian, double step, double number, QLineF const& onGlobe) const {
+GridLine GraticuleLines::made(bool isMeridian, double step, double number, QLineF const& onGlobe) const {
   OGRLineString line;
   line.addPoint(onGlobe.x1(), onGlobe.y1());
   line.addPoint(onGlobe.x2(), onGlobe.y2());
-  GraticuleLine result{isMeridian, number * step, static_cast<int>(number), {}, {}};
+  GridLine result{isMeridian, number * step, static_cast<int>(number), {}, {}};
   LineParts parts(result.parts);
   projector_->add(line, parts);
   QVector<QLineF> ends;
@@ -227,23 +224,41 @@ GraticuleLine GraticuleLines::made(bool isMeridian, double step, double number, 
   return result;
 }
 
-static QString hemisphere(bool isLongitude, bool isNegative) {
-  if (isLongitude)
-    return isNegative ? QCoreApplication::translate("Graticule", "W") : QCoreApplication::translate("Graticule", "E");
-  return isNegative ? QCoreApplication::translate("Graticule", "S") : QCoreApplication::translate("Graticule", "N");
-}
+namespace {
 
-QString degreesText(double degrees, bool isLongitude) {
-  double const turned = isLongitude ? std::remainder(degrees, 360.0) : degrees;
-  double const hundredths = std::round(std::abs(turned) * 360000);
-  int const whole = static_cast<int>(hundredths / 360000), minutes = static_cast<int>(hundredths / 6000) % 60;
-  double const seconds = std::fmod(hundredths, 6000) / 100;
-  QString text = QStringLiteral("%1°").arg(whole);
-  if (minutes > 0 || seconds > 0) text += QStringLiteral("%1′").arg(minutes, 2, 10, QLatin1Char('0'));
-  if (seconds > 0) text += QLatin1String(seconds < 10 ? "0" : "") + QStringLiteral("%1″").arg(seconds, 0, 'g', 4);
-  bool const hasSide = hundredths > 0 && !(isLongitude && hundredths == 180 * 360000.0);
-  if (!hasSide) return text;
-  return text + hemisphere(isLongitude, turned < 0);
+// Takes the one place that a projection shows.
+class OnePlace final : public PartSink {
+public:
+  void startPolygon() override {}
+  void addPart(PartKind, double const* xy, int) override { place = QPointF(xy[0], xy[1]); }
+
+  std::optional<QPointF> place;
+};
+
+}  // namespace
+
+QVector<GridCrossing> GraticuleLines::crossings(Envelope const& extent, GridStep const& interval) const {
+  QVector<GridCrossing> crossings;
+  if (!projector_ || !(interval.longitude > 0 && interval.latitude > 0)) return crossings;
+  constexpr double ahead = 1e-4;  // of the interval
+  Range const range = rangeOf(extent);
+  bool const isWhole = range.east - range.west >= 360;
+  auto const add = [&](double longitude, double latitude) {
+    OnePlace found;
+    projector_->add(OGRPoint(inTurn(longitude), latitude), found);
+    double eastX = inTurn(longitude + ahead * interval.longitude), eastY = latitude;
+    double northX = inTurn(longitude), northY = latitude + ahead * interval.latitude;
+    if (found.place && toMap_->apply(eastX, eastY) && toMap_->apply(northX, northY))
+      crossings << GridCrossing{*found.place, {eastX, eastY}, {northX, northY}};
+  };
+  for (double i = firstMultiple(range.west, interval.longitude); i <= lastMultiple(range.east, interval.longitude);
+       ++i) {
+    if (isWhole && i * interval.longitude >= 180 - beside) continue;  // is −180, too
+    for (double j = firstMultiple(range.south, interval.latitude); j <= lastMultiple(range.north, interval.latitude);
+         ++j)
+      if (std::abs(j * interval.latitude) < 90 - beside) add(i * interval.longitude, j * interval.latitude);
+  }
+  return crossings;
 }
 
 }  // namespace SysCarto

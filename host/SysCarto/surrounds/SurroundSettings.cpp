@@ -26,10 +26,26 @@ constexpr Choice barNumbers[] = {
     {BarNumbers::Above, "above", QT_TRANSLATE_NOOP("Fields", "Above the bar")},
     {BarNumbers::Below, "below", QT_TRANSLATE_NOOP("Fields", "Below the bar")},
 };
+constexpr Choice gridSystems[] = {
+    {GridSystem::Geographic, "geographic", QT_TRANSLATE_NOOP("Fields", "Longitude and latitude")},
+    {GridSystem::Projected,  "projected",  QT_TRANSLATE_NOOP("Fields", "Coordinates of the map")},
+};
+constexpr Choice gridMarks[] = {
+    {GridMarks::Lines,   "lines",   QT_TRANSLATE_NOOP("Fields", "Lines")},
+    {GridMarks::Ticks,   "ticks",   QT_TRANSLATE_NOOP("Fields", "Ticks at the frame")},
+    {GridMarks::Crosses, "crosses", QT_TRANSLATE_NOOP("Fields", "Crosses where lines would cross")},
+};
+constexpr Choice degreeFormats[] = {
+    {DegreeFormat::Automatic, "automatic", QT_TRANSLATE_NOOP("Fields", "Minutes and seconds as needed")},
+    {DegreeFormat::Decimal,   "decimal",   QT_TRANSLATE_NOOP("Fields", "Decimal degrees")},
+    {DegreeFormat::Minutes,   "minutes",   QT_TRANSLATE_NOOP("Fields", "Degrees and minutes")},
+    {DegreeFormat::Seconds,   "seconds",   QT_TRANSLATE_NOOP("Fields", "Degrees, minutes and seconds")},
+};
 // clang-format on
 
 constexpr int maxDivisions = 50, maxSubdivisions = 20;
 constexpr double maxDivisionLength = 1e9;
+constexpr double maxSpacing = 1e12;
 
 QVector<Choice> unitChoices() {
   QVector<Choice> choices{{BarUnit::Automatic, "automatic", QT_TRANSLATE_NOOP("Fields", "Metres or kilometres")}};
@@ -140,18 +156,60 @@ void NorthArrowSettings::list(Fields& fields) {
       trueNorth, false);
 }
 
+void GraticuleSettings::listSides(Fields& fields) {
+  fields.flag({"labelsLeft", QT_TRANSLATE_NOOP("Fields", "Labels on the left"),
+               QT_TRANSLATE_NOOP("Fields", "Whether lines that end there have their labels to the left of the frame.")},
+              labelSides.left, true);
+  fields.flag(
+      {"labelsRight", QT_TRANSLATE_NOOP("Fields", "Labels on the right"),
+       QT_TRANSLATE_NOOP("Fields", "Whether lines that end there have their labels to the right of the frame.")},
+      labelSides.right, true);
+  fields.flag({"labelsTop", QT_TRANSLATE_NOOP("Fields", "Labels above"),
+               QT_TRANSLATE_NOOP("Fields", "Whether lines that end there have their labels above the frame.")},
+              labelSides.top, true);
+  fields.flag({"labelsBottom", QT_TRANSLATE_NOOP("Fields", "Labels below"),
+               QT_TRANSLATE_NOOP("Fields", "Whether lines that end there have their labels below the frame.")},
+              labelSides.bottom, true);
+}
+
 void GraticuleSettings::list(Fields& fields) {
   fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"), QT_TRANSLATE_NOOP("Fields", "What the grid is called.")},
               name, TextKind::Line, QString());
+  fields.choice<GridSystem>(
+      {"system", QT_TRANSLATE_NOOP("Fields", "Grid"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "What is constant along a line: longitude or latitude, or a coordinate of the map, as of a "
+                         "grid in metres.")},
+      system, gridSystems, GridSystem::Geographic);
   fields.number({"interval", QT_TRANSLATE_NOOP("Fields", "Interval"),
                  QT_TRANSLATE_NOOP("Fields",
                                    "The distance of two lines; 0, or one that would make more than 1,000 lines, "
                                    "chooses one for the map's scale.")},
                 interval, {0, 90, Unit::Degree}, 0.0);
+  fields.number({"spacing", QT_TRANSLATE_NOOP("Fields", "Spacing"),
+                 QT_TRANSLATE_NOOP("Fields",
+                                   "The distance of two lines of a grid in coordinates of the map, in place of the "
+                                   "interval; 0 chooses one.")},
+                spacing, {0, maxSpacing, Unit::MapUnit}, 0.0);
+  fields.choice<GridMarks>({"kind", QT_TRANSLATE_NOOP("Fields", "Kind"),
+                            QT_TRANSLATE_NOOP("Fields", "Whether all of the lines, or only a part of them is drawn.")},
+                           marks, gridMarks, GridMarks::Lines);
+  fields.number({"size", QT_TRANSLATE_NOOP("Fields", "Size of the marks"),
+                 QT_TRANSLATE_NOOP("Fields", "How long ticks are, or the arms of a cross from end to end.")},
+                sizePt, {0.1, 1000, Unit::Point}, GraticuleSettings().sizePt);
   fields.flag(
       {"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
        QT_TRANSLATE_NOOP("Fields", "Whether the degrees stand outside the frame, or where a parallel ends inside it.")},
       labelled, true);
+  listSides(fields);
+  fields.choice<DegreeFormat>({"format", QT_TRANSLATE_NOOP("Fields", "Format of degrees"),
+                               QT_TRANSLATE_NOOP("Fields", "How longitudes and latitudes are written.")},
+                              format, degreeFormats, DegreeFormat::Automatic);
+  fields.flag({"signs", QT_TRANSLATE_NOOP("Fields", "Signs"),
+               QT_TRANSLATE_NOOP("Fields",
+                                 "Whether west and south are told by a minus, and not by letters; coordinates of the "
+                                 "map are then numbers alone.")},
+              signs, false);
   listOptionalSymbol(
       fields,
       {"lineSymbol", QT_TRANSLATE_NOOP("Fields", "Line"),

@@ -98,10 +98,26 @@ struct SYSCARTO_EXPORT NorthArrowSettings {
   void applyTo(MarkerNorthArrow& arrow) const;
 };
 
+enum class GridSystem { Geographic, Projected };
+enum class GridMarks { Lines, Ticks, Crosses };
+enum class DegreeFormat { Automatic, Decimal, Minutes, Seconds };
+
+/// The sides of a data frame.
+struct Sides {
+  bool left = true, right = true, bottom = true, top = true;
+};
+
 struct SYSCARTO_EXPORT GraticuleSettings {
   QString name;
+  GridSystem system = GridSystem::Geographic;
   double interval = 0;  ///< degrees; 0 chooses one for the scale
+  double spacing = 0;   ///< the same of a projected grid, in map units
+  GridMarks marks = GridMarks::Lines;
+  double sizePt = 6;  ///< of ticks and crosses
   bool labelled = true;
+  Sides labelSides;
+  DegreeFormat format = DegreeFormat::Automatic;
+  bool signs = false;  ///< and no letters
   SysUtility::_ptr_t<SysDisplay::LineSymbol> line;
   SysUtility::_ptr_t<SysDisplay::TextSymbol> label;
 
@@ -112,6 +128,9 @@ struct SYSCARTO_EXPORT GraticuleSettings {
   /// A sentence where the settings of a graticule can't be followed on the map of that frame, and what is done instead;
   /// empty where they can.
   static QString problemOf(Graticule const& graticule, MapFrameElement const& frame);
+
+private:
+  void listSides(SysUtility::Fields& fields);
 };
 
 }  // namespace SysCarto

@@ -6,7 +6,8 @@
 
 namespace SysCarto {
 
-/// A grid of meridians and parallels, labelled outside the frame. A new one chooses its interval for the map's scale.
+/// A grid of meridians and parallels, or of lines along which a coordinate of the map is constant, labelled outside the
+/// frame. A new one is of the first kind and chooses its interval for the map's scale.
 class SYSCARTO_EXPORT Graticule final : public IMapGrid {
 public:
   Graticule();

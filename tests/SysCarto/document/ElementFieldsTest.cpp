@@ -38,6 +38,10 @@ private slots:
     row("corners out of order", "{'type':'rectangle','rectangle':[3,0,1,1]}", "rectangle");
     row("map that does not exist", "{'type':'dataFrame','map':2,'rectangle':[0,0,1,1]}", "map: 2");
     row("map of another frame", "{'type':'dataFrame','map':0,'rectangle':[0,0,1,1]}", "map: another data frame");
+    row("overview of a map that does not exist",
+        "{'type':'dataFrame','map':1,'rectangle':[0,0,1,1],'overviews':[{},{'map':2}]}", "overviews[1].map: 2");
+    row("overview of the same map", "{'type':'dataFrame','map':1,'rectangle':[0,0,1,1],'overviews':[{'map':1}]}",
+        "overviews[0].map: is the map of this data frame");
     row("surround of a map that does not exist",
         "{'type':'surround','rectangle':[0,0,1,1],'surround':{'kind':'legend','map':5}}", "surround.map");
     row("a frame in a group", "{'type':'group','members':[{'type':'dataFrame','map':1,'rectangle':[0,0,1,1]}]}",

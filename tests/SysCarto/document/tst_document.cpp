@@ -130,6 +130,8 @@ private slots:
     row("an unknown system", "maps.0.coordinateSystem", "EPSG:99999", "maps[0].coordinateSystem: “EPSG:99999”");
     row("bounds without a size", "maps.0.bounds", QJsonArray{5, 5, 5, 5}, "maps[0].bounds: must be");
     row("bounds turned over", "maps.0.bounds", QJsonArray{5, 5, 1, 9}, "maps[0].bounds: must be");
+    row("a locked scale that is missing", "maps.0.scaleLocked", true, "maps[0].scale: must be more than 0");
+    row("a scale that isn't locked", "maps.0.scale", 25000, "maps[0].scale: is for a map with “scaleLocked”");
     row("a focus that is no map", "layout.focusMap", 2, "layout.focusMap: 2 is not between 0 and 1");
     row("a handle used twice", "elements.1.handle", 1, "elements[1].handle");
     row("a data frame on a map", "maps.0.graphics.0", json(sample_)["elements"].toArray()[1], "maps[0].graphics[0].type: data frames");

@@ -96,6 +96,39 @@ private slots:
     QVERIFY(relativeError(map->GetDisplayTransformation()->GetMapScale(), extent->GetWidth() / widthCm * 100) < 1e-9);
   }
 
+  void aLockedScaleIsKeptByFrameAndExtent_data() {
+    Rows<QString, double, double> row;
+    row("plain coordinates", "", 3e5, 5e6);
+    row("Mercator in the north", "EPSG:3857", 1e6, mercatorY(60));
+    row("degrees", "EPSG:4326", 10, 45);
+  }
+  void aLockedScaleIsKeptByFrameAndExtent() {
+    auto const [system, x, y] = fetched<QString, double, double>();
+    auto const map = mapOf(system, x, y, 2);
+    auto const unlocked = map->GetExtent();
+    MapHost::lockScale(*map, 25000);
+    auto const groundCm = [&] {
+      // What a map without a lock makes of the same extent.
+      auto const free = mapOf(system, 0, 0, 2);
+      auto const extent = map->GetExtent();
+      MapHost::setFrameSize(*free, 20, 20 * extent->GetHeight() / extent->GetWidth());
+      free->SetExtent(extent);
+      return free->GetDisplayTransformation()->GetMapScale() * 20;
+    };
+    QVERIFY(relativeError(groundCm(), 25000.0 * 20) < 1e-6);
+    MapHost::setFrameSize(*map, 7, 31);
+    QCOMPARE(map->GetDisplayTransformation()->GetMapScale(), 25000.0);
+    QVERIFY(relativeError(groundCm(), 25000.0 * 7) < 1e-6);
+    QVERIFY(std::abs(map->GetExtent()->GetAnchorPoint()->GetX() - x) < 1e-9 * std::abs(x));
+    map->SetExtent(make<Envelope>(x - 7, y - 9, x - 1, y - 3));
+    QVERIFY(relativeError(groundCm(), 25000.0 * 7) < 1e-6);
+    QVERIFY(std::abs(map->GetExtent()->GetAnchorPoint()->GetX() - (x - 4)) < 1e-9 * std::abs(x));
+    MapHost::lockScale(*map, 0);
+    map->SetExtent(unlocked);
+    MapHost::setFrameSize(*map, 20, 10);
+    QVERIFY(relativeError(map->GetExtent()->GetWidth(), unlocked->GetWidth()) < 1e-9);
+  }
+
   void whatAMapCannotShowIsIgnored() {
     auto const map = mapOf("", 0, 0, 100);
     map->SetExtent(make<Envelope>(1e13, 0.0, 2e13, 1e13));   // farther than any map

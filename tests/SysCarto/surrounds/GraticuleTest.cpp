@@ -1,12 +1,9 @@
+#include "OnPaper.h"
 #include "SurroundFixture.h"
 
-#include "host/SysCarto/surrounds/SurroundSettings.h"
+#include "host/SysCarto/surrounds/GridTexts.h"
 
 #include <cpl_error.h>
-#include <proj.h>
-
-#include <cmath>
-#include <memory>
 
 using namespace SysCarto;
 using SysGeometry::Envelope;
@@ -20,34 +17,6 @@ constexpr QRect framePx(pxPerCm, pxPerCm, 10 * pxPerCm, 8 * pxPerCm);
 Sheet const page{Envelope(0, 0, 12, 10), QSize(12, 10) * pxPerCm, pxPerCm * 2.54 / 96};
 
 QJsonObject thinLine() { return json("{'type':'simpleLine','width':0.28}"); }
-
-// Places of the globe on the page, as PROJ has them, with a map that is turned in the frame.
-class OnPaper {
-public:
-  OnPaper(QString const& system, Envelope const& bounds, double rotation) {
-    PJ* const given = proj_create_crs_to_crs(nullptr, "OGC:CRS84", system.toUtf8().constData(), nullptr);
-    projection_.reset(proj_normalize_for_visualization(nullptr, given));
-    proj_destroy(given);
-    cmPerUnit_ = std::min(10 / bounds.GetWidth(), 8 / bounds.GetHeight());
-    auto const centre = bounds.GetAnchorPoint();
-    centre_ = {centre->GetX(), centre->GetY()};
-    angle_ = rotation * M_PI / 180;
-  }
-
-  QPointF of(double longitude, double latitude) const {
-    PJ_COORD const at = proj_trans(projection_.get(), PJ_FWD, proj_coord(longitude, latitude, 0, 0));
-    double const x = (at.xy.x - centre_.x()) * cmPerUnit_, y = (at.xy.y - centre_.y()) * cmPerUnit_;
-    return {6 + x * std::cos(angle_) - y * std::sin(angle_), 5 + x * std::sin(angle_) + y * std::cos(angle_)};
-  }
-
-private:
-  struct Destroy {
-    void operator()(PJ* projection) const { proj_destroy(projection); }
-  };
-  std::unique_ptr<PJ, Destroy> projection_;
-  QPointF centre_;
-  double cmPerUnit_, angle_;
-};
 
 // The places of which something is true.
 template <class Place, class Predicate>
@@ -104,29 +73,110 @@ private slots:
   }
   void aTurnedGridLiesWhereProjSays() {
     auto const [system, bounds, rotation] = fetched<QString, Envelope, double>();
-    constexpr double fine = 400, halfLineCm = 0.005;
     auto const frame = frameWith(system, bounds, {{"interval", 5}, {"labels", false}, {"lineSymbol", thinLine()}});
     MapHost::setRotation(*frame->GetMap(), rotation);
-    Sheet const paper{Envelope(0, 0, 12, 10), QSize(12, 10) * fine, fine * 2.54 / 96};
-    QImage const image = paper.drawn(sceneOf(frame));
-    OnPaper const place(system, bounds, rotation);
+    FinePicture const picture(sceneOf(frame));
+    OnPaper const place("OGC:CRS84", system, bounds, rotation);
     int seen = 0;
     for (double longitude = -180; longitude < 180; longitude += 15)
       for (double latitude = -75; latitude < 90; latitude += 15) {
         QPointF const crossing = place.of(longitude, latitude);
         if (!QRectF(1.5, 1.5, 9, 7).contains(crossing)) continue;
         ++seen;
-        for (QPointF const& along : {place.of(longitude + 1, latitude), place.of(longitude, latitude + 1)}) {
-          QLineF const normal = QLineF(along, crossing).normalVector().unitVector();
-          QPointF const aside = normal.p2() - normal.p1();
-          auto const isInked = [&](QPointF const& cm) {
-            return image.pixelColor(qRound(cm.x() * fine), qRound((10 - cm.y()) * fine)) != Qt::white;
-          };
-          QVERIFY(isInked(along));
-          for (double const off : {-0.01 - halfLineCm, 0.01 + halfLineCm}) QVERIFY(!isInked(along + aside * off));
-        }
+        QVERIFY(picture.isInked(crossing));
+        for (QPointF const& along : {place.of(longitude + 1, latitude), place.of(longitude, latitude + 1)})
+          QVERIFY(picture.hasLineAt(along, crossing));
       }
     QVERIFY2(seen >= 4, qPrintable(QString::number(seen)));
+  }
+
+  void onlyAPartOfTheLinesIsDrawnWhereAsked_data() {
+    // What is inked of: a crossing, the middle between two crossings, and the end of a meridian at the frame.
+    Rows<QJsonObject, QString, double, QVector<bool>> row;
+    for (double const rotation : {0.0, 12.0}) {
+      QString const turned = rotation == 0 ? QString() : QString(", turned");
+      row("lines" + turned, {}, "OGC:CRS84", rotation, {true, true, true});
+      row("ticks" + turned, {{"kind", "ticks"}, {"size", 8}}, "OGC:CRS84", rotation, {false, false, true});
+      row("crosses" + turned, {{"kind", "crosses"}, {"size", 8}}, "OGC:CRS84", rotation, {true, false, false});
+      row("lines in metres" + turned, {{"system", "projected"}}, "EPSG:3035", rotation, {true, true, true});
+      row("crosses in metres" + turned, {{"system", "projected"}, {"kind", "crosses"}}, "EPSG:3035", rotation,
+          {true, false, false});
+    }
+  }
+  void onlyAPartOfTheLinesIsDrawnWhereAsked() {
+    auto const [settings, system, rotation, inked] = fetched<QJsonObject, QString, double, QVector<bool>>();
+    Envelope const bounds(2700000, 1600000, 6100000, 4320000);
+    QJsonObject whole = settings;
+    for (auto const& [key, value] : {std::make_pair("interval", QJsonValue(5)),
+                                     {"spacing", 500000},
+                                     {"labels", false},
+                                     {"lineSymbol", thinLine()}})
+      whole.insert(key, value);
+    auto const frame = frameWith("EPSG:3035", bounds, whole);
+    MapHost::setRotation(*frame->GetMap(), rotation);
+    FinePicture const picture(sceneOf(frame));
+    OnPaper const place(system, "EPSG:3035", bounds, rotation);
+    bool const isGlobe = system == "OGC:CRS84";
+    double const x = isGlobe ? 10 : 4500000, y = isGlobe ? 45 : 3000000, step = isGlobe ? 5 : 500000;
+    QPointF const crossing = place.of(x, y), between = place.of(x, y + step / 2);
+    QVector<bool> found{picture.isInked(crossing), picture.isInked(between)};
+    QPointF end;  // a meridian's last place in the frame, a tenth of a millimetre from its side
+    for (double up = 0; QRectF(1.01, 1.01, 9.98, 7.98).contains(place.of(x, y + up * step)); up += 0.0005)
+      end = place.of(x, y + up * step);
+    found << picture.isInked(end);
+    QCOMPARE(found, inked);
+    if (found[0]) {
+      // The arms of a cross run along the lines, to half its size and no farther.
+      QPointF const ahead = place.of(x + step / 50, y) - crossing;
+      double const cm = std::hypot(ahead.x(), ahead.y());
+      QVERIFY(picture.isInked(crossing + ahead / cm * 0.09));
+    }
+  }
+
+  void labelsSayWhatTheyAreAskedTo_data() {
+    Rows<QString, QString> row;
+    auto const degrees = [&](double value, bool isLongitude, DegreeFormat format, bool signs, QString const& text) {
+      row(text, degreesText(value, isLongitude, format, signs), text);
+    };
+    degrees(-15.5, true, DegreeFormat::Automatic, false, "15°30′W");
+    degrees(15.0042, false, DegreeFormat::Automatic, false, "15°00′15.12″N");
+    degrees(200, true, DegreeFormat::Automatic, true, "−160°");
+    degrees(-7.1234, false, DegreeFormat::Decimal, false, "7.1234°S");
+    degrees(-7.25, false, DegreeFormat::Decimal, true, "−7.25°");
+    degrees(12, true, DegreeFormat::Minutes, false, "12°00′E");
+    degrees(12.9999999, true, DegreeFormat::Minutes, false, "13°00′E");
+    degrees(0.125, true, DegreeFormat::Minutes, true, "0°07.5′");
+    degrees(-0.125, true, DegreeFormat::Seconds, false, "0°07′30″W");
+    degrees(59.99999999, false, DegreeFormat::Seconds, false, "60°00′00″N");
+    degrees(0, false, DegreeFormat::Minutes, false, "0°00′");
+    degrees(180, true, DegreeFormat::Seconds, false, "180°00′00″");
+    auto const coordinate = [&](double value, bool isEasting, QString const& system, bool signs, QString const& text) {
+      row(text, coordinateText(value, isEasting, unitOf(system), signs).replace(QChar(0xa0), ' '), text);
+    };
+    coordinate(500000, true, "EPSG:3035", false, "500,000 m E");
+    coordinate(-2000.5, false, "", false, "−2,000.5 m N");
+    coordinate(650000, false, "EPSG:2264", false, "650,000 ft N");
+    coordinate(12.5, true, "EPSG:4326", false, "12.5 ° E");
+    coordinate(-1500000, true, "EPSG:3035", true, "−1,500,000");
+  }
+  void labelsSayWhatTheyAreAskedTo() {
+    auto const [found, expected] = fetched<QString, QString>();
+    QCOMPARE(found, expected);
+  }
+
+  void onlyTheSidesThatAreAskedForAreLabelled() {
+    // Without the corners.
+    constexpr int width = 8 * pxPerCm, height = 6 * pxPerCm, depth = pxPerCm - 1;
+    QVector<std::pair<char const*, QRect>> const sides{{"labelsLeft", {0, 2 * pxPerCm, depth, height}},
+                                                       {"labelsRight", {11 * pxPerCm + 1, 2 * pxPerCm, depth, height}},
+                                                       {"labelsTop", {2 * pxPerCm, 0, width, depth}},
+                                                       {"labelsBottom", {2 * pxPerCm, 9 * pxPerCm + 1, width, depth}}};
+    for (auto const& [wanted, outside] : sides) {
+      QJsonObject settings{{"interval", 10}};
+      for (auto const& side : sides) settings.insert(side.first, QLatin1String(side.first) == QLatin1String(wanted));
+      QImage const image = drawn(frameWith("EPSG:4326", Envelope(-25, -20, 25, 20), settings));
+      for (auto const& side : sides) QCOMPARE(!isBlank(image, side.second), side.first == wanted);
+    }
   }
 
   void labelsLieOutsideTheFrameAndInItsBoundary() {

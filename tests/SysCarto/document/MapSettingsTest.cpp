@@ -1,0 +1,93 @@
+#include "Elements.h"
+#include "Files.h"
+
+#include "host/SysCarto/document/Editable.h"
+#include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/elements/EditorHost.h"
+#include "host/SysCarto/layout/MapOverview.h"
+#include "host/SysCarto/maps/MapHost.h"
+
+using namespace SysCarto;
+
+// What a document says of maps and what they refer to.
+class MapSettingsTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void init() { put(path("everything.kdx"), contentOf(PLOTVANE_SOURCE_DIR "/fuzz/seeds/document/everything.kdx")); }
+
+  void anOverviewKeepsTheMapOfADeletedFrameAndDrawsItNoMore() {
+    MapDocument document;
+    QVERIFY(document.Open(path("everything.kdx")));
+    auto const frameOf = [&](int index) {
+      return ptr_cast<MapFrameElement>(document.GetPageLayout()->GetGraphicsContainer()->GetElements().value(index));
+    };
+    auto const overview = make<MapOverview>();
+    overview->setMap(frameOf(1)->GetMap());
+    frameOf(0)->AddMapGrid(overview);
+    auto* const elements = document.GetPageLayout()->GetGraphicsContainer();
+    for (auto const& element : elements->GetElements().mid(1)) elements->DeleteElement(element);
+    QVERIFY2(document.SaveAs(path("orphan.kdx"), true, false), qPrintable(document.GetErrors().join('\n')));
+    QVERIFY(document.Open(path("orphan.kdx")));
+    QVERIFY(!document.GetWarnings().join(' ').contains("maps[1]"));
+    auto const read = ptr_cast<MapOverview>(frameOf(0)->GetMapGrid(0));
+    QCOMPARE(read->map()->GetName(), QString("Plan"));
+    QVERIFY(!MapHost::isFramed(*read->map()));
+
+    overview->setMap(frameOf(0)->GetMap());  // as when a template's maps are shared out anew
+    frameOf(0)->AddMapGrid(overview);
+    QVERIFY2(document.SaveAs(path("orphan.kdx"), true, false), qPrintable(document.GetErrors().join('\n')));
+    QVERIFY2(document.Open(path("orphan.kdx")), qPrintable(document.GetErrors().join('\n')));
+  }
+
+  void aScaleIsSetThroughTheBoundsAndKeptWhereItIsLocked() {
+    MapDocument document;
+    QVERIFY(document.Open(path("everything.kdx")));
+    EditorHost::setHistory(MapDocumentHost::history(document));
+    auto const set = [&](QString const& thing, QString const& key, QJsonValue const& value) {
+      QStringList warnings;
+      auto const to = [value](QJsonValue const&) { return value; };
+      return Editable::set(document, Editable::named(document, thing), {key}, to, warnings);
+    };
+    auto const map = document.GetMap(0);
+    auto const scale = [&] { return map->GetDisplayTransformation()->GetMapScale(); };
+    auto const stored = [&](char const* key) -> QJsonValue {
+      return json(MapDocumentHost::text(document)).value("maps").toArray().at(0).toObject().value(key);
+    };
+    QString const before = QString::fromUtf8(MapDocumentHost::text(document));
+    auto const centre = map->GetExtent()->GetAnchorPoint();
+    auto const isThere = [&] {
+      auto const now = map->GetExtent()->GetAnchorPoint();
+      return std::hypot(now->GetX() - centre->GetX(), now->GetY() - centre->GetY()) < 1e-6;
+    };
+    QCOMPARE(set("map:#0", "scale", 25e6), QString());
+    QVERIFY(std::abs(scale() / 25e6 - 1) < 1e-8 && isThere());
+    QVERIFY(stored("scale").isUndefined());
+
+    QCOMPARE(set("map:#0", "scaleLocked", true), QString());
+    QCOMPARE(set("map:#0", "scale", 30e6), QString());
+    QCOMPARE(scale(), 30e6);
+    QCOMPARE(stored("scale"), QJsonValue(30e6));
+    auto const wide = map->GetExtent();
+    QCOMPARE(set("#1", "rectangle", QJsonArray{1, 9, 11, 20}), QString());
+    QCOMPARE(scale(), 30e6);
+    QVERIFY(isThere() && map->GetExtent()->GetWidth() < wide->GetWidth() * 0.6);
+    auto const shown = map->GetExtent();
+    QCOMPARE(set("map:#0", "scaleLocked", false), QString());
+    QVERIFY(std::abs(scale() / 30e6 - 1) < 1e-8);
+    QVERIFY(std::abs(map->GetExtent()->GetWidth() / shown->GetWidth() - 1) < 1e-9 && isThere());
+    QVERIFY(set("map:#0", "scale", 0).contains("must be more than 0"));
+
+    while (document.GetOperationStack()->CanUndo()) document.GetOperationStack()->Undo();
+    QCOMPARE(QString::fromUtf8(MapDocumentHost::text(document)), before);
+    EditorHost::setHistory(nullptr);
+  }
+
+private:
+  QString path(QString const& name) const { return folder_.filePath(name); }
+
+  QTemporaryDir folder_;
+};
+
+QTEST_MAIN(MapSettingsTest)
+#include "MapSettingsTest.moc"
