@@ -3,7 +3,6 @@
 #include "desktop/WorkbenchPage.h"
 #include "export/LayoutRenderer.h"
 
-#include "host/SysCarto/layout/MapOverview.h"
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
@@ -158,14 +157,6 @@ private slots:
     QVERIFY(page.bench.session().open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/aegean.kdx")));
     QList<_ptr_t<SysCarto::Map>> maps;
     page.layout()->GetMaps(maps);
-    for (auto const& element : page.layout()->GetGraphicsContainer()->GetElements()) {
-      auto const frame = ptr_cast<MapFrameElement>(element);
-      if (!frame || frame->GetMap() != maps[1]) continue;
-      auto const overview = make<SysCarto::MapOverview>();
-      overview->setMap(maps[0]);
-      frame->AddMapGrid(overview);
-    }
-    page.view().refresh(SysCarto::RefreshPhase::Everything);
     tilesAfter(page);
     QRect const globe(page.pixel(2, 9.2), page.pixel(6.9, 4.3));
     QImage const before = page.view().grab(globe).toImage();

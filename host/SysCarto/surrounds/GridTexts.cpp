@@ -82,7 +82,8 @@ QString degreesText(double degrees, bool isLongitude, DegreeFormat format, bool 
 QString coordinateText(double coordinate, bool isEasting, QString const& unit, bool signs) {
   QString const number = (coordinate < 0 ? minus() : QString()) + grouped(std::abs(coordinate));
   if (signs) return number;
-  QString const space = QStringLiteral("\u00a0"), counted = unit.isEmpty() ? number : number + space + unit;
+  QString const space = QStringLiteral("\u00a0"), degree = QStringLiteral("°");
+  QString const counted = unit.isEmpty() || unit == degree ? number + unit : number + space + unit;
   return counted + space + hemisphere(isEasting, false);
 }
 

@@ -156,7 +156,7 @@ private slots:
     coordinate(500000, true, "EPSG:3035", false, "500,000 m E");
     coordinate(-2000.5, false, "", false, "−2,000.5 m N");
     coordinate(650000, false, "EPSG:2264", false, "650,000 ft N");
-    coordinate(12.5, true, "EPSG:4326", false, "12.5 ° E");
+    coordinate(12.5, true, "EPSG:4326", false, "12.5° E");
     coordinate(-1500000, true, "EPSG:3035", true, "−1,500,000");
   }
   void labelsSayWhatTheyAreAskedTo() {
