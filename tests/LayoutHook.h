@@ -25,6 +25,7 @@ public:
                                 symbol.GetType() == SysDisplay::SymbolType::Line ? "line" : "fill", box->GetXMin(),
                                 box->GetXMax(), box->GetYMax(), transformation->GetPageScale());
   }
+  void trackerText(QString const& text, QPointF const&) override { calls_ << "text " + text; }
   void refresh(int phase) override {
     calls_ << QString("refresh %1").arg(phase);
     if (onRefresh) onRefresh();

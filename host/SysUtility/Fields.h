@@ -202,9 +202,10 @@ public:
     value(field, &coordinates, rules);
   }
 
-  /// A list of numbers. It must be there.
+  /// A list of numbers. One that may be empty may be missing.
   void numberList(Field const& field, QVector<double>& numbers, Counts const& counts, Range const& range) {
     ValueRules rules;
+    rules.isRequired = counts.min > 0;
     rules.range = range;
     rules.counts = counts;
     value(field, NumberListRef{&numbers}, rules);

@@ -310,7 +310,7 @@ void JsonWriter::write(Field const& field, QVector<double> const* values, ValueR
 
 void JsonWriter::write(Field const& field, NumberListRef values, ValueRules const& rules) {
   QVector<double> const& numbers = *values.numbers;
-  if (isAllowed(field, numbers.size(), rules.counts))
+  if ((rules.isRequired || !numbers.isEmpty()) && isAllowed(field, numbers.size(), rules.counts))
     putNumbers(field, numbers.constData(), numbers.size(), rules.range);
 }
 

@@ -6,6 +6,7 @@
 
 #include <SysUI/ITool.h>
 
+#include <QMouseEvent>
 #include <QPointer>
 
 /// The screen of a page layout. Mouse and keys go to the current tool.
@@ -32,6 +33,10 @@ public:
 
   /// Takes a text that is being written.
   void finishEditing();
+
+  /// Whether gestures are drawn to lines of the page, without Alt or with it.
+  bool snaps() const { return snaps_; }
+  void setSnaps(bool snaps) { snaps_ = snaps; }
 
   bool isComplete() const override { return picture_.isComplete(); }
   int drawnTiles() const { return picture_.drawnTiles(); }
@@ -78,6 +83,12 @@ private:
   SysUtility::_ptr_t<SysCarto::PageLayout> layout_;
   SysUtility::_ptr_t<SysUI::ITool> tool_;
   Qt::MouseButton dragging_ = Qt::NoButton;  // a tool's drag begins and ends with the same button
+  bool snaps_ = true;
   PagePicture picture_;
   QPointer<TextEditor> editor_;
 };
+
+/// The keys that are held during a gesture. Alt says that nothing is drawn to lines, whatever it means for the view.
+inline Qt::KeyboardModifiers gestureKeys(LayoutView const& view, QMouseEvent const& event) {
+  return view.snaps() ? event.modifiers() : event.modifiers() ^ Qt::AltModifier;
+}

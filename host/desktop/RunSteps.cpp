@@ -143,6 +143,7 @@ QStringList RunSteps::names() {
 RunSteps::RunSteps(bool force) : force_(force) {
   QObject::connect(&bench_.commands(), &CommandSet::failed, [this](QString const& sentence) { failure_ = sentence; });
   bench_.views().resize(viewSize);
+  bench_.views().layoutView().setSnaps(false);  // a step means what it says
   bench_.views().QWidget::show();
 }
 

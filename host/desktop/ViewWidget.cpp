@@ -9,6 +9,7 @@
 namespace {
 
 constexpr int restMs = 60;
+constexpr double textMarginPx = 4, textGapPx = 16;
 
 }  // namespace
 
@@ -30,6 +31,7 @@ ViewWidget::~ViewWidget() = default;
 
 void ViewWidget::beginTracker() {
   shapes_.clear();
+  texts_.clear();
   offset_ = {};
 }
 
@@ -41,6 +43,22 @@ void ViewWidget::trackerShape(SysDisplay::Symbol const& symbol,
                               SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry,
                               SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) {
   shapes_.push_back({symbol.Clone(), geometry->Clone(), transformation});
+}
+
+void ViewWidget::trackerText(QString const& text, QPointF const& placePx) { texts_.push_back({text, placePx}); }
+
+// Below the mouse, and on the other side of it where there is no room.
+void ViewWidget::paintText(QPainter& painter, Text const& text) const {
+  QSizeF const size = fontMetrics().boundingRect(text.words).size() + QSizeF(2 * textMarginPx, 2 * textMarginPx);
+  QPointF corner = text.placePx + QPointF(textGapPx, textGapPx);
+  if (corner.x() + size.width() > width()) corner.rx() = text.placePx.x() - textGapPx - size.width();
+  if (corner.y() + size.height() > height()) corner.ry() = text.placePx.y() - textGapPx - size.height();
+  QRectF const box(corner, size);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(palette().color(QPalette::ToolTipBase));
+  painter.drawRoundedRect(box, textMarginPx, textMarginPx);
+  painter.setPen(palette().color(QPalette::ToolTipText));
+  painter.drawText(box, Qt::AlignCenter, text.words);
 }
 
 // Several changes in one turn of the event loop are painted once.
@@ -92,6 +110,7 @@ void ViewWidget::paintEvent(QPaintEvent*) {
   if (!place.contains(rect())) painter.fillRect(rect(), palette().color(QPalette::Mid));
   painter.drawImage(place, picture());
   for (Shape const& shape : shapes_) shape.symbol->Draw(painter, shape.transformation, shape.geometry);
+  for (Text const& text : texts_) paintText(painter, text);
   if (!hasOverlay()) paintOver(painter);
 }
 

@@ -24,6 +24,7 @@ public:
   void trackerOffset(double dx, double dy) override;
   void trackerShape(SysDisplay::Symbol const& symbol, SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry,
                     SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) override;
+  void trackerText(QString const& text, QPointF const& placePx) override;
   void refresh(int phase) override;
   void clearOverlay() override;
   void setCursor(QCursor const& cursor) override;
@@ -86,7 +87,15 @@ private:
     SysUtility::_ptr_t<SysDisplay::DisplayTransformation> transformation;
   };
 
+  struct Text {
+    QString words;
+    QPointF placePx;
+  };
+
+  void paintText(QPainter& painter, Text const& text) const;
+
   std::vector<Shape> shapes_;
+  std::vector<Text> texts_;
   QPointF offset_;
   bool isStale_ = true;
   QTimer slices_;

@@ -178,6 +178,7 @@ private slots:
 
 private:
   struct Page : WorkbenchPage {
+    Page() { view().setSnaps(false); }
     QList<_ptr_t<SysCarto::Element>> elements() { return container().GetElements(); }
     QByteArray text() { return MapDocumentHost::text(bench.session().document()); }
     _ptr_t<SysUI::IOperationStack> stack() { return bench.session().document().GetOperationStack(); }

@@ -22,6 +22,7 @@ namespace {
 constexpr double maxPt = 1000;
 constexpr SysUtility::Range distances{-maxPt, maxPt, Unit::Point};
 constexpr SysUtility::Range pageSides{minPageSideCm, maxPageSideCm, Unit::Centimetre};
+constexpr int maxGuides = 1000;
 constexpr short portrait = 1, landscape = 2;
 
 constexpr Choice orientations[] = {{portrait, "portrait", QT_TRANSLATE_NOOP("Fields", "Portrait")},
@@ -62,6 +63,49 @@ void listPart(Fields& fields, Field const& field, _ptr_t<Part>& part) {
   auto const made = isThere ? SysUtility::make<Stored>() : nullptr;
   if (made) settings.applyTo(*made);
   part = made;
+}
+
+// Margins of no width are none.
+void listMargins(Fields& fields, PageAids& aids) {
+  bool const hasMargins = aids.left > 0 || aids.right > 0 || aids.top > 0 || aids.bottom > 0;
+  auto const side = [&](Fields& own, Field const& field, double& margin) {
+    own.number(field, margin, {0, maxPageSideCm, Unit::Centimetre}, 0.0);
+  };
+  bool const isThere = fields.optionalObject(
+      {"margins", QT_TRANSLATE_NOOP("Fields", "Margins"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "Lines along the edges of the page to which the mouse draws what it moves; they are "
+                         "not printed.")},
+      hasMargins, [&](Fields& own) {
+        side(own, {"left", QT_TRANSLATE_NOOP("Fields", "Left"), QT_TRANSLATE_NOOP("Fields", "From the left edge.")},
+             aids.left);
+        side(own, {"right", QT_TRANSLATE_NOOP("Fields", "Right"), QT_TRANSLATE_NOOP("Fields", "From the right edge.")},
+             aids.right);
+        side(own, {"top", QT_TRANSLATE_NOOP("Fields", "Top"), QT_TRANSLATE_NOOP("Fields", "From the upper edge.")},
+             aids.top);
+        side(own,
+             {"bottom", QT_TRANSLATE_NOOP("Fields", "Bottom"), QT_TRANSLATE_NOOP("Fields", "From the lower edge.")},
+             aids.bottom);
+      });
+  if (fields.isReading() && !isThere) aids.left = aids.right = aids.top = aids.bottom = 0;
+}
+
+void listAids(Fields& fields, PageAids& aids) {
+  listMargins(fields, aids);
+  SysUtility::Range const onPage{-maxPageSideCm, 2 * maxPageSideCm, Unit::Centimetre};
+  fields.numberList({"verticalGuides", QT_TRANSLATE_NOOP("Fields", "Vertical guides"),
+                     QT_TRANSLATE_NOOP("Fields",
+                                       "Lines from top to bottom that help to arrange, by their distance from "
+                                       "the left edge of the page; they are not printed.")},
+                    aids.verticalGuides, {0, maxGuides}, onPage);
+  fields.numberList({"horizontalGuides", QT_TRANSLATE_NOOP("Fields", "Horizontal guides"),
+                     QT_TRANSLATE_NOOP("Fields", "Lines from left to right, by their distance from the lower edge.")},
+                    aids.horizontalGuides, {0, maxGuides}, onPage);
+  fields.number({"grid", QT_TRANSLATE_NOOP("Fields", "Grid"),
+                 QT_TRANSLATE_NOOP("Fields",
+                                   "The distance of the lines of a grid to which the mouse draws what it moves; "
+                                   "0 for none.")},
+                aids.grid, {0, maxPageSideCm, Unit::Centimetre}, 0.0);
 }
 
 // The forms as choices; their texts are kept beside them.
@@ -163,6 +207,7 @@ PageSettings PageSettings::of(Page const& page) {
   page.QuerySize(settings.widthCm, settings.heightCm);
   if (settings.orientation == landscape) std::swap(settings.widthCm, settings.heightCm);
   settings.frame = FrameSettings::of(page);
+  settings.aids = PageHost::aids(page);
   return settings;
 }
 
@@ -185,6 +230,7 @@ void PageSettings::list(Fields& fields) {
        QT_TRANSLATE_NOOP("Fields", "Whether the sheet stands upright or lies, which swaps its width and height.")},
       orientation, orientations, portrait);
   frame.list(fields);
+  listAids(fields, aids);
 }
 
 void PageSettings::applyTo(Page& page) const {
@@ -194,6 +240,7 @@ void PageSettings::applyTo(Page& page) const {
     page.SetFormID(form);
   page.SetOrientation(orientation);
   frame.applyTo(page);
+  PageHost::setAids(page, aids);
 }
 
 }  // namespace SysCarto

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SysCarto/layout/PageAids.h"
 #include "host/SysUtility/Fields.h"
 
 #include <SysCarto/FrameProperties.h>
@@ -57,6 +58,7 @@ struct SYSCARTO_EXPORT PageSettings {
   double widthCm = 0, heightCm = 0;  ///< of the custom form, portrait way up
   short orientation = 1;
   FrameSettings frame;
+  PageAids aids;
 
   static PageSettings of(Page const& page);
   void list(SysUtility::Fields& fields);

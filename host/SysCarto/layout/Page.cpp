@@ -34,6 +34,7 @@ struct Page::Private {
   _ptr_t<IBorder> border;
   _ptr_t<IBackground> background = SysUtility::make<SymbolBackground>();
   _ptr_t<IShadow> shadow;
+  PageAids aids;
   SysUtility::ChangeMark change;
 
   void setForm(PageFormID id, double width, double height) {
@@ -90,6 +91,9 @@ _ptr_t<IBackground> Page::GetBackground() const { return d->background; }
 void Page::SetBackGround(_ptr_t<IBackground> const& background) { d->change.set(d->background, background); }
 _ptr_t<IShadow> Page::GetShadow() const { return d->shadow; }
 void Page::SetShadow(_ptr_t<IShadow> shadow) { d->change.set(d->shadow, shadow); }
+
+PageAids const& PageHost::aids(Page const& page) { return page.d->aids; }
+void PageHost::setAids(Page& page, PageAids const& aids) { page.d->change.set(page.d->aids, aids); }
 
 quint64 PageHost::lastChange(Page const& page) { return page.d->change.time(); }
 

@@ -4,6 +4,8 @@
 #include <SysDisplay/Symbol.h>
 
 class QCursor;
+class QPointF;
+class QString;
 
 namespace SysCarto {
 
@@ -22,6 +24,9 @@ public:
   /// `transformation` is a clone of the view's at page scale 1.
   virtual void trackerShape(SysDisplay::Symbol const& symbol, SysUtility::_ptr_t<SysGeometry::Geometry> const& geometry,
                             SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) = 0;
+
+  /// A line of text beside a place, in pixels of the view.
+  virtual void trackerText(QString const& text, QPointF const& placePx) = 0;
 
   /// Asks for a redraw of one `RefreshPhase`.
   virtual void refresh(int phase) = 0;

@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QLineF>
+#include <QLocale>
 #include <QMouseEvent>
 
 #include <cmath>
@@ -50,6 +51,20 @@ QPointF onSquare(QPointF const& from, QPointF const& to) {
 
 DrawGesture::DrawGesture(PageLayout& layout, QPointF const& press, NewElementKind const& kind)
     : PageGesture(layout, press), kind_(kind), fixed_{press} {}
+
+void DrawGesture::snapPress() {
+  auto const snap = snapped(press());
+  fixed_ = {press() + snap.by};
+}
+
+QString DrawGesture::numbers() const {
+  auto const drawn = points();
+  if (drawn.size() < 2) return QString();
+  QLineF const last(drawn[drawn.size() - 2], drawn.last());
+  if (kind_.points == NewElementKind::Points::Corners)
+    return Texts::tr("%1 × %2 cm").arg(inCm(std::abs(last.dx())), inCm(std::abs(last.dy())));
+  return Texts::tr("%1 cm, %2°").arg(inCm(last.length()), QLocale().toString(360 - last.angle(), 'f', 1));
+}
 
 void DrawGesture::addVertex() { fixed_ = points(); }
 
@@ -107,6 +122,7 @@ void InsertTool::OnMouseDown(QMouseEvent* event) {
   layout_ = layout;
   isFirstPress_ = true;
   gesture_ = std::make_unique<DrawGesture>(*layout, pagePoint(*layout, event->pos()), kind_);
+  if (!gestureKeys(view_, *event).testFlag(Qt::AltModifier)) gesture_->snapPress();
 }
 
 void InsertTool::OnMouseMove(QMouseEvent* event) { moveTo(*event); }
@@ -115,7 +131,7 @@ void InsertTool::JustMouseMove(QMouseEvent* event) { moveTo(*event); }
 // Another document may be shown since the first vertex was set.
 void InsertTool::moveTo(QMouseEvent const& event) {
   if (gesture_ && layout_ != SysFramework::activePageLayout(*hook())) giveUp();
-  if (gesture_) gesture_->moveTo(pagePoint(*layout_, event.pos()), event.modifiers());
+  if (gesture_) gesture_->moveTo(pagePoint(*layout_, event.pos()), gestureKeys(view_, event));
 }
 
 void InsertTool::OnMouseUp(QMouseEvent* event) {

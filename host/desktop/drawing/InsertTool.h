@@ -17,6 +17,9 @@ class DrawGesture final : public PageGesture {
 public:
   DrawGesture(SysCarto::PageLayout& layout, QPointF const& press, NewElementKind const& kind);
 
+  /// Begins on a line near the press, if there is one.
+  void snapPress();
+
   /// Another vertex where the mouse is.
   void addVertex();
   /// False where none is left.
@@ -28,6 +31,8 @@ public:
 protected:
   QVector<SysUtility::_ptr_t<SysGeometry::Geometry>> outlines() const override;
   void commit() override {}
+  Snapper::Result snapped(QPointF const& point) const override { return lines().ofPoint(point, snapReachCm()); }
+  QString numbers() const override;
 
 private:
   QPointF constrained() const;

@@ -1,6 +1,7 @@
 #include "PageGesture.h"
 
 #include "host/SysCarto/elements/TextElement.h"
+#include "host/SysCarto/maps/ActiveViewHost.h"
 
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
@@ -8,6 +9,7 @@
 #include <SysGeometry/Polyline.h>
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
@@ -22,6 +24,7 @@ using SysUtility::make;
 namespace {
 
 constexpr double dragPx = 3;      // a hand is not still
+constexpr double snapPx = 6;      // from what the mouse is drawn to a line
 constexpr double minCm = 0.1;     // that a drag makes of a side
 constexpr int maxOutlines = 200;  // more of them tell no more than one about them all
 
@@ -29,13 +32,16 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(PageGesture)
 };
 
-_ptr_t<SysDisplay::LineSymbol> outlineSymbol() {
+_ptr_t<SysDisplay::LineSymbol> lineIn(QColor const& color) {
   auto const line = make<SysDisplay::SimpleLineSymbol>();
   line->SetStyle(SysDisplay::SimpleLineStyle::Solid);
-  line->SetColor(QColor(0x1a, 0x73, 0xe8));
+  line->SetColor(color);
   line->SetWidth(0.75);
   return line;
 }
+
+_ptr_t<SysDisplay::LineSymbol> outlineSymbol() { return lineIn(QColor(0x1a, 0x73, 0xe8)); }
+_ptr_t<SysDisplay::LineSymbol> snapSymbol() { return lineIn(QColor(0xd8, 0x1b, 0x9c)); }
 
 _ptr_t<SysDisplay::Symbol> filledSymbol() {
   auto const fill = make<SysDisplay::SimpleFillSymbol>();
@@ -86,18 +92,42 @@ QPointF pagePoint(PageLayout const& layout, QPoint const& pixel) {
 PageGesture::PageGesture(PageLayout& layout, QPointF const& press) : layout_(layout), press_(press), point_(press) {}
 PageGesture::~PageGesture() = default;
 
+Snapper const& PageGesture::lines() const {
+  if (!snapper_) snapper_ = std::make_unique<Snapper>(layout_, dragged());
+  return *snapper_;
+}
+
+double PageGesture::snapReachCm() const { return snapPx / layout_.GetDisplayTransformation()->ToDevice().m11(); }
+Snapper::Result PageGesture::snapped(QPointF const&) const { return {}; }
+QString PageGesture::numbers() const { return QString(); }
+
 void PageGesture::moveTo(QPointF const& point, Qt::KeyboardModifiers modifiers) {
-  point_ = point;
   modifiers_ = modifiers;
   QPointF const way = (point - press_) * layout_.GetDisplayTransformation()->ToDevice().m11();
   hasMoved_ = hasMoved_ || std::max(std::abs(way.x()), std::abs(way.y())) >= dragPx;
+  point_ = point;
   if (!hasMoved_) return;
+  auto const snap = modifiers.testFlag(Qt::AltModifier) ? Snapper::Result() : snapped(point);
+  point_ += snap.by;
+  showOverlay(snap.lines);
+}
+
+void PageGesture::showOverlay(QVector<QLineF> const& snapLines) {
   layout_.BeginTrackerDraw();
   _ptr_t<SysDisplay::Symbol> const line = outlineSymbol(), area = filledSymbol();
   for (_ptr_t<SysGeometry::Geometry> shape : outlines()) {
     auto symbol = SysUtility::ptr_cast<SysGeometry::Polyline>(shape) ? line : area;
     layout_.DrawTrackerShape(symbol, shape);
   }
+  _ptr_t<SysDisplay::Symbol> snap = snapSymbol();
+  for (QLineF const& one : snapLines) {
+    _ptr_t<SysGeometry::Geometry> shape = make<SysGeometry::Polyline>(QVector<QPointF>{one.p1(), one.p2()});
+    layout_.DrawTrackerShape(snap, shape);
+  }
+  auto* const surface = SysCarto::ActiveViewHost::surface(layout_);
+  QString const text = numbers();
+  if (surface && !text.isEmpty())
+    surface->trackerText(text, layout_.GetDisplayTransformation()->ToDevice().map(point_));
   layout_.EndTrackerDraw();
 }
 
@@ -109,6 +139,27 @@ void PageGesture::finish() {
 void PageGesture::cancel() {
   layout_.BeginTrackerDraw();
   layout_.EndTrackerDraw();
+}
+
+QSet<SysCarto::ElementHandle> selectedHandles(PageLayout const& layout) {
+  QSet<SysCarto::ElementHandle> handles;
+  for (auto const& element : movableSelection(layout)) handles << element->GetHandle();
+  return handles;
+}
+
+QString inCm(double length) { return QLocale().toString(length, 'f', 2); }
+
+MoveGesture::MoveGesture(PageLayout& layout, QPointF const& press)
+    : PageGesture(layout, press), bounds_(SelectionHandles(layout).boundsCm()) {}
+
+Snapper::Result MoveGesture::snapped(QPointF const& point) const {
+  return lines().ofBox(bounds_.translated(point - press()), snapReachCm());
+}
+
+// The lower left corner, which the rectangle of the properties begins with.
+QString MoveGesture::numbers() const {
+  QPointF const corner = bounds_.topLeft() + offset();
+  return Texts::tr("x %1  y %2 cm").arg(inCm(corner.x()), inCm(corner.y()));
 }
 
 PageGesture::Outlines MoveGesture::outlines() const {
@@ -156,6 +207,18 @@ ResizeGesture::Scaling ResizeGesture::scaling() const {
                     : handle_.y < 0 ? bounds_.bottom()
                                     : bounds_.center().y()};
   return scaling;
+}
+
+// The side or corner that is pulled, from where it was.
+Snapper::Result ResizeGesture::snapped(QPointF const& point) const {
+  QPointF const side(handle_.x < 0 ? bounds_.left() : bounds_.right(),
+                     handle_.y < 0 ? bounds_.top() : bounds_.bottom());
+  return lines().ofPoint(side + point - press(), snapReachCm(), handle_.x != 0, handle_.y != 0);
+}
+
+QString ResizeGesture::numbers() const {
+  Scaling const by = scaling();
+  return Texts::tr("%1 × %2 cm").arg(inCm(bounds_.width() * by.x), inCm(bounds_.height() * by.y));
 }
 
 void ResizeGesture::Scaling::apply(Element& element) const {

@@ -1,21 +1,26 @@
 #pragma once
 
 #include "SelectionHandles.h"
+#include "Snapper.h"
 
 #include <SysCarto/PageLayout.h>
 
 #include <QPointF>
+#include <QString>
 
 #include <functional>
-
-class QString;
+#include <memory>
 
 /// The place on the page under a pixel of the view, in centimetres, with the decimals that a pixel can tell.
 QPointF pagePoint(SysCarto::PageLayout const& layout, QPoint const& pixel);
 
+/// A length in centimetres, as people read it while it changes.
+QString inCm(double length);
+
 /// What happens on a page between the press of a mouse button and its release. The gesture owns the course: it shows in
 /// an overlay what would become, and changes the document once, at its end, as one step of undo. What a drag means is
-/// for the derived classes to say. Points are page centimetres.
+/// for the derived classes to say. The mouse is drawn to lines of the page, but with Alt it is not. Points are page
+/// centimetres.
 class PageGesture {
 public:
   virtual ~PageGesture();
@@ -45,9 +50,25 @@ protected:
   virtual Outlines outlines() const = 0;
   virtual void commit() = 0;
 
+  /// Where the mouse is drawn to from a point; nowhere, if the gesture does not say.
+  virtual Snapper::Result snapped(QPointF const& point) const;
+
+  /// What is shown beside the mouse; empty for nothing.
+  virtual QString numbers() const;
+
+  /// The lines of the page as it was at the press, without those of what is dragged.
+  Snapper const& lines() const;
+  double snapReachCm() const;
+
+  /// The elements that the gesture drags along.
+  virtual QSet<SysCarto::ElementHandle> dragged() const { return {}; }
+
 private:
+  void showOverlay(QVector<QLineF> const& snapLines);
+
   SysCarto::PageLayout& layout_;
   QPointF const press_;
+  mutable std::unique_ptr<Snapper> snapper_;
   QPointF point_;
   Qt::KeyboardModifiers modifiers_;
   bool hasMoved_ = false;
@@ -58,17 +79,25 @@ private:
 void changeSelection(SysCarto::PageLayout& layout, QString const& name,
                      std::function<void(SysCarto::Element&)> const& change);
 
+/// The handles of the elements that may be moved.
+QSet<SysCarto::ElementHandle> selectedHandles(SysCarto::PageLayout const& layout);
+
 /// Moves the selection.
 class MoveGesture final : public PageGesture {
 public:
-  MoveGesture(SysCarto::PageLayout& layout, QPointF const& press) : PageGesture(layout, press) {}
+  MoveGesture(SysCarto::PageLayout& layout, QPointF const& press);
 
 protected:
   Outlines outlines() const override;
   void commit() override;
+  Snapper::Result snapped(QPointF const& point) const override;
+  QString numbers() const override;
+  QSet<SysCarto::ElementHandle> dragged() const override { return selectedHandles(layout()); }
 
 private:
   QPointF offset() const { return point() - press(); }
+
+  QRectF const bounds_;
 };
 
 /// Drags a handle of the selection, the opposite side staying where it is. Shift keeps the ratio of width and height,
@@ -80,6 +109,9 @@ public:
 protected:
   Outlines outlines() const override;
   void commit() override;
+  Snapper::Result snapped(QPointF const& point) const override;
+  QString numbers() const override;
+  QSet<SysCarto::ElementHandle> dragged() const override { return selectedHandles(layout()); }
 
 private:
   struct Scaling {

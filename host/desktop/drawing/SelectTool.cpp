@@ -118,13 +118,13 @@ void SelectTool::press(_ptr_t<PageLayout> const& layout, QMouseEvent const& even
 }
 
 void SelectTool::OnMouseMove(QMouseEvent* event) {
-  if (gesture_) gesture_->moveTo(pagePoint(*layout_, event->pos()), event->modifiers());
+  if (gesture_) gesture_->moveTo(pagePoint(*layout_, event->pos()), gestureKeys(views_.layoutView(), *event));
 }
 
 void SelectTool::OnMouseUp(QMouseEvent* event) {
   if (!gesture_) return;
   auto const gesture = std::move(gesture_);
-  gesture->moveTo(pagePoint(*layout_, event->pos()), event->modifiers());
+  gesture->moveTo(pagePoint(*layout_, event->pos()), gestureKeys(views_.layoutView(), *event));
   if (!gesture->hasMoved() && clicked_) select(*layout_, {clicked_});
   gesture->finish();
   clicked_ = nullptr;
