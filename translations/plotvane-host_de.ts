@@ -787,15 +787,15 @@
     </message>
     <message>
         <source>Edit Text</source>
-        <translation>Text bearbeiten</translation>
+        <translation type="vanished">Text bearbeiten</translation>
     </message>
     <message>
         <source>Write in the selected text where it stands</source>
-        <translation>Schreibt im ausgewählten Text, wo er steht</translation>
+        <translation type="vanished">Schreibt im ausgewählten Text, wo er steht</translation>
     </message>
     <message>
         <source>a selected text</source>
-        <translation>einen ausgewählten Text</translation>
+        <translation type="vanished">einen ausgewählten Text</translation>
     </message>
     <message>
         <source>History</source>
@@ -808,6 +808,38 @@
     <message>
         <source>Select all elements that are neither locked nor hidden</source>
         <translation>Alle Elemente auswählen, die weder gesperrt noch ausgeblendet sind</translation>
+    </message>
+    <message>
+        <source>Write in the selected text, or change the vertices of the selected line or polygon</source>
+        <translation>Schreibt im ausgewählten Text, oder ändert die Stützpunkte der ausgewählten Linie oder des Polygons</translation>
+    </message>
+    <message>
+        <source>a selected text, line or polygon</source>
+        <translation>einen ausgewählten Text, eine Linie oder ein Polygon</translation>
+    </message>
+    <message>
+        <source>Rulers</source>
+        <translation>Lineale</translation>
+    </message>
+    <message>
+        <source>Show or hide the rulers, out of which guides are pulled</source>
+        <translation>Zeigt oder verbirgt die Lineale, aus denen Hilfslinien gezogen werden</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>Hilfslinien</translation>
+    </message>
+    <message>
+        <source>Show or hide the margins, guides and grid of the page</source>
+        <translation>Zeigt oder verbirgt Ränder, Hilfslinien und Raster der Seite</translation>
+    </message>
+    <message>
+        <source>Snapping</source>
+        <translation>Einrasten</translation>
+    </message>
+    <message>
+        <source>Draw what is moved to edges, centres, guides and equal gaps, but not with Alt</source>
+        <translation>Zieht, was bewegt wird, an Kanten, Mitten, Hilfslinien und gleiche Abstände, mit Alt nicht</translation>
     </message>
 </context>
 <context>
@@ -3529,6 +3561,50 @@
         <source>Whether west and south are told by a minus, and not by letters; coordinates of the map are then numbers alone.</source>
         <translation>Ob West und Süd durch ein Minus bezeichnet werden und nicht durch Buchstaben; Koordinaten der Karte sind dann nur Zahlen.</translation>
     </message>
+    <message>
+        <source>Margins</source>
+        <translation>Ränder</translation>
+    </message>
+    <message>
+        <source>Lines along the edges of the page to which the mouse draws what it moves; they are not printed.</source>
+        <translation>Linien entlang den Kanten der Seite, an denen die Maus einrastet; sie werden nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>From the left edge.</source>
+        <translation>Von der linken Kante.</translation>
+    </message>
+    <message>
+        <source>From the right edge.</source>
+        <translation>Von der rechten Kante.</translation>
+    </message>
+    <message>
+        <source>From the upper edge.</source>
+        <translation>Von der oberen Kante.</translation>
+    </message>
+    <message>
+        <source>From the lower edge.</source>
+        <translation>Von der unteren Kante.</translation>
+    </message>
+    <message>
+        <source>Vertical guides</source>
+        <translation>Senkrechte Hilfslinien</translation>
+    </message>
+    <message>
+        <source>Lines from top to bottom that help to arrange, by their distance from the left edge of the page; they are not printed.</source>
+        <translation>Linien von oben nach unten, die beim Anordnen helfen, nach ihrem Abstand von der linken Kante der Seite; sie werden nicht gedruckt.</translation>
+    </message>
+    <message>
+        <source>Horizontal guides</source>
+        <translation>Waagrechte Hilfslinien</translation>
+    </message>
+    <message>
+        <source>Lines from left to right, by their distance from the lower edge.</source>
+        <translation>Linien von links nach rechts, nach ihrem Abstand von der unteren Kante.</translation>
+    </message>
+    <message>
+        <source>The distance of the lines of a grid to which the mouse draws what it moves; 0 for none.</source>
+        <translation>Der Abstand der Linien eines Rasters, an dem die Maus einrastet; 0 für keines.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3656,6 +3732,17 @@
     <message>
         <source>Ungroup the selected elements</source>
         <translation>Die Gruppierung der ausgewählten Elemente aufheben</translation>
+    </message>
+</context>
+<context>
+    <name>Guides</name>
+    <message>
+        <source>x %1 cm</source>
+        <translation>x %1 cm</translation>
+    </message>
+    <message>
+        <source>y %1 cm</source>
+        <translation>y %1 cm</translation>
     </message>
 </context>
 <context>
@@ -3799,6 +3886,14 @@
     <message>
         <source>Pictures (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)</source>
         <translation>Bilder (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)</translation>
+    </message>
+    <message>
+        <source>%1 × %2 cm</source>
+        <translation>%1 × %2 cm</translation>
+    </message>
+    <message>
+        <source>%1 cm, %2°</source>
+        <translation>%1 cm, %2°</translation>
     </message>
 </context>
 <context>
@@ -4244,6 +4339,14 @@
         <source>Resize the selected elements</source>
         <translation>Größe der ausgewählten Elemente ändern</translation>
     </message>
+    <message>
+        <source>x %1  y %2 cm</source>
+        <translation>x %1  y %2 cm</translation>
+    </message>
+    <message>
+        <source>%1 × %2 cm</source>
+        <translation>%1 × %2 cm</translation>
+    </message>
 </context>
 <context>
     <name>PageTexts</name>
@@ -4375,6 +4478,13 @@
     </message>
 </context>
 <context>
+    <name>Ruler</name>
+    <message>
+        <source>Centimetres on the page; pull a guide out of here</source>
+        <translation>Zentimeter auf der Seite; hier lässt sich eine Hilfslinie herausziehen</translation>
+    </message>
+</context>
+<context>
     <name>RunSteps</name>
     <message>
         <source>run: this plug-in does not build %1; plotvane commands lists what it builds.</source>
@@ -4480,6 +4590,10 @@
         <source>an element can only be added where the page layout is shown.</source>
         <translation>ein Element lässt sich nur hinzufügen, wo das Seitenlayout gezeigt wird.</translation>
     </message>
+    <message>
+        <source>nothing that can be turned is selected; texts, pictures, markers, lines, polygons and groups of these can.</source>
+        <translation>nichts, was sich drehen lässt, ist ausgewählt; Texte, Bilder, Punktsymbole, Linien, Polygone und Gruppen davon lassen sich drehen.</translation>
+    </message>
 </context>
 <context>
     <name>RunSubcommand</name>
@@ -4503,6 +4617,18 @@
     <message>
         <source>Nudge the selected elements</source>
         <translation>Ausgewählte Elemente schrittweise verschieben</translation>
+    </message>
+    <message>
+        <source>Nudge the vertex</source>
+        <translation>Stützpunkt verschieben</translation>
+    </message>
+    <message>
+        <source>Add a vertex</source>
+        <translation>Stützpunkt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Delete the vertex</source>
+        <translation>Stützpunkt löschen</translation>
     </message>
 </context>
 <context>
@@ -5194,6 +5320,32 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Text on the page</source>
         <translation>Text auf der Seite</translation>
+    </message>
+</context>
+<context>
+    <name>TurnGesture</name>
+    <message>
+        <source>Turn the selected elements</source>
+        <translation>Ausgewählte Elemente drehen</translation>
+    </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>VertexHandles</name>
+    <message>
+        <source>x %1  y %2 cm</source>
+        <translation>x %1  y %2 cm</translation>
+    </message>
+    <message>
+        <source>Add a vertex</source>
+        <translation>Stützpunkt hinzufügen</translation>
+    </message>
+    <message>
+        <source>Move the vertex</source>
+        <translation>Stützpunkt bewegen</translation>
     </message>
 </context>
 </TS>

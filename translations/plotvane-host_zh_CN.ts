@@ -787,15 +787,15 @@
     </message>
     <message>
         <source>Edit Text</source>
-        <translation>编辑文本</translation>
+        <translation type="vanished">编辑文本</translation>
     </message>
     <message>
         <source>Write in the selected text where it stands</source>
-        <translation>就地编辑选中的文本</translation>
+        <translation type="vanished">就地编辑选中的文本</translation>
     </message>
     <message>
         <source>a selected text</source>
-        <translation>一个选中的文本</translation>
+        <translation type="vanished">一个选中的文本</translation>
     </message>
     <message>
         <source>History</source>
@@ -808,6 +808,38 @@
     <message>
         <source>Select all elements that are neither locked nor hidden</source>
         <translation>选择所有既未锁定也未隐藏的元素</translation>
+    </message>
+    <message>
+        <source>Write in the selected text, or change the vertices of the selected line or polygon</source>
+        <translation>编辑选中的文本，或修改选中线或多边形的顶点</translation>
+    </message>
+    <message>
+        <source>a selected text, line or polygon</source>
+        <translation>一个选中的文本、线或多边形</translation>
+    </message>
+    <message>
+        <source>Rulers</source>
+        <translation>标尺</translation>
+    </message>
+    <message>
+        <source>Show or hide the rulers, out of which guides are pulled</source>
+        <translation>显示或隐藏标尺，可从中拖出参考线</translation>
+    </message>
+    <message>
+        <source>Guides</source>
+        <translation>参考线</translation>
+    </message>
+    <message>
+        <source>Show or hide the margins, guides and grid of the page</source>
+        <translation>显示或隐藏页面的边距、参考线和网格</translation>
+    </message>
+    <message>
+        <source>Snapping</source>
+        <translation>吸附</translation>
+    </message>
+    <message>
+        <source>Draw what is moved to edges, centres, guides and equal gaps, but not with Alt</source>
+        <translation>使移动的对象吸附到边缘、中心、参考线和等间距处；按住 Alt 时不吸附</translation>
     </message>
 </context>
 <context>
@@ -3487,7 +3519,7 @@
     </message>
     <message>
         <source>Grid</source>
-        <translation>格网</translation>
+        <translation>网格</translation>
     </message>
     <message>
         <source>What is constant along a line: longitude or latitude, or a coordinate of the map, as of a grid in metres.</source>
@@ -3528,6 +3560,50 @@
     <message>
         <source>Whether west and south are told by a minus, and not by letters; coordinates of the map are then numbers alone.</source>
         <translation>西经和南纬是否用负号而不用字母表示；此时地图坐标只有数字。</translation>
+    </message>
+    <message>
+        <source>Margins</source>
+        <translation>边距</translation>
+    </message>
+    <message>
+        <source>Lines along the edges of the page to which the mouse draws what it moves; they are not printed.</source>
+        <translation>沿页面边缘的线，鼠标移动对象时会吸附；不打印。</translation>
+    </message>
+    <message>
+        <source>From the left edge.</source>
+        <translation>距左边缘。</translation>
+    </message>
+    <message>
+        <source>From the right edge.</source>
+        <translation>距右边缘。</translation>
+    </message>
+    <message>
+        <source>From the upper edge.</source>
+        <translation>距上边缘。</translation>
+    </message>
+    <message>
+        <source>From the lower edge.</source>
+        <translation>距下边缘。</translation>
+    </message>
+    <message>
+        <source>Vertical guides</source>
+        <translation>垂直参考线</translation>
+    </message>
+    <message>
+        <source>Lines from top to bottom that help to arrange, by their distance from the left edge of the page; they are not printed.</source>
+        <translation>帮助排版的垂直线，以距页面左边缘的距离表示；不打印。</translation>
+    </message>
+    <message>
+        <source>Horizontal guides</source>
+        <translation>水平参考线</translation>
+    </message>
+    <message>
+        <source>Lines from left to right, by their distance from the lower edge.</source>
+        <translation>水平线，以距下边缘的距离表示。</translation>
+    </message>
+    <message>
+        <source>The distance of the lines of a grid to which the mouse draws what it moves; 0 for none.</source>
+        <translation>鼠标吸附网格的线间距；0 表示没有网格。</translation>
     </message>
 </context>
 <context>
@@ -3656,6 +3732,17 @@
     <message>
         <source>Ungroup the selected elements</source>
         <translation>取消组合所选元素</translation>
+    </message>
+</context>
+<context>
+    <name>Guides</name>
+    <message>
+        <source>x %1 cm</source>
+        <translation>x %1 厘米</translation>
+    </message>
+    <message>
+        <source>y %1 cm</source>
+        <translation>y %1 厘米</translation>
     </message>
 </context>
 <context>
@@ -3799,6 +3886,14 @@
     <message>
         <source>Pictures (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)</source>
         <translation>图片 (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)</translation>
+    </message>
+    <message>
+        <source>%1 × %2 cm</source>
+        <translation>%1 × %2 厘米</translation>
+    </message>
+    <message>
+        <source>%1 cm, %2°</source>
+        <translation>%1 厘米，%2°</translation>
     </message>
 </context>
 <context>
@@ -4244,6 +4339,14 @@
         <source>Resize the selected elements</source>
         <translation>调整所选元素的大小</translation>
     </message>
+    <message>
+        <source>x %1  y %2 cm</source>
+        <translation>x %1  y %2 厘米</translation>
+    </message>
+    <message>
+        <source>%1 × %2 cm</source>
+        <translation>%1 × %2 厘米</translation>
+    </message>
 </context>
 <context>
     <name>PageTexts</name>
@@ -4375,6 +4478,13 @@
     </message>
 </context>
 <context>
+    <name>Ruler</name>
+    <message>
+        <source>Centimetres on the page; pull a guide out of here</source>
+        <translation>页面上的厘米；可从此处拖出参考线</translation>
+    </message>
+</context>
+<context>
     <name>RunSteps</name>
     <message>
         <source>run: this plug-in does not build %1; plotvane commands lists what it builds.</source>
@@ -4480,6 +4590,10 @@
         <source>an element can only be added where the page layout is shown.</source>
         <translation>只有显示页面布局时才能添加元素。</translation>
     </message>
+    <message>
+        <source>nothing that can be turned is selected; texts, pictures, markers, lines, polygons and groups of these can.</source>
+        <translation>没有选中可旋转的对象；文本、图片、点标记、线、多边形及其组合可以旋转。</translation>
+    </message>
 </context>
 <context>
     <name>RunSubcommand</name>
@@ -4503,6 +4617,18 @@
     <message>
         <source>Nudge the selected elements</source>
         <translation>微移所选元素</translation>
+    </message>
+    <message>
+        <source>Nudge the vertex</source>
+        <translation>微移顶点</translation>
+    </message>
+    <message>
+        <source>Add a vertex</source>
+        <translation>添加顶点</translation>
+    </message>
+    <message>
+        <source>Delete the vertex</source>
+        <translation>删除顶点</translation>
     </message>
 </context>
 <context>
@@ -4913,7 +5039,7 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
     <message>
         <source>Grid</source>
-        <translation>格网</translation>
+        <translation>网格</translation>
     </message>
     <message>
         <source>Diagonal grid</source>
@@ -5194,6 +5320,32 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Text on the page</source>
         <translation>页面上的文本</translation>
+    </message>
+</context>
+<context>
+    <name>TurnGesture</name>
+    <message>
+        <source>Turn the selected elements</source>
+        <translation>旋转选中的元素</translation>
+    </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>VertexHandles</name>
+    <message>
+        <source>x %1  y %2 cm</source>
+        <translation>x %1  y %2 厘米</translation>
+    </message>
+    <message>
+        <source>Add a vertex</source>
+        <translation>添加顶点</translation>
+    </message>
+    <message>
+        <source>Move the vertex</source>
+        <translation>移动顶点</translation>
     </message>
 </context>
 </TS>

@@ -63,6 +63,25 @@ bool hasSelection(SysCarto::PageLayout const& layout) {
 }
 bool hasMovable(SysCarto::PageLayout const& layout) { return !movableSelection(layout).isEmpty(); }
 
+_ptr_t<SysCarto::Element> selectedAlone(DocumentViews const& views) {
+  auto const layout = shownLayout(views);
+  auto const selected = layout ? movableSelection(*layout) : QList<_ptr_t<SysCarto::Element>>();
+  return selected.size() == 1 ? selected.first() : nullptr;
+}
+
+bool canEdit(DocumentViews const& views) {
+  auto const element = selectedAlone(views);
+  return element && (element->GetType() == SysCarto::ElementType::Text || VertexHandles::hasVertices(*element));
+}
+
+// The vertices are the business of the tool that selects.
+void editSelected(DocumentViews& views) {
+  auto const element = selectedAlone(views);
+  if (element->GetType() == SysCarto::ElementType::Text) return editText(views, element->GetHandle());
+  if (!views.layoutView().editSelected()) emit views.layoutView().toolDone();
+  views.layoutView().editSelected();
+}
+
 struct LayoutAction {
   char const* identifier;
   void (*click)(SysCarto::PageLayout&);
@@ -123,8 +142,12 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : vie
                                         {},
                                         [problem] { return *problem; }});
   }
-  add(QStringLiteral("Host_EditText"),
-      {[&views] { editText(views, selectedText(views)); }, [&views] { return selectedText(views) != 0; }, {}});
+  add(QStringLiteral("Host_Edit"), {[&views] { editSelected(views); }, [&views] { return canEdit(views); }, {}});
+  auto& view = views.layoutView();
+  add(QStringLiteral("Host_Guides"),
+      {[&view] { view.setShowsAids(!view.showsAids()); }, {}, [&view] { return view.showsAids(); }});
+  add(QStringLiteral("Host_Snapping"),
+      {[&view] { view.setSnaps(!view.snaps()); }, {}, [&view] { return view.snaps(); }});
   for (auto const& [identifier, kind] : {std::make_pair("Host_LayoutView", DocumentViews::Kind::Layout),
                                          std::make_pair("Host_MapView", DocumentViews::Kind::Map)})
     add(QLatin1String(identifier),

@@ -1,5 +1,6 @@
 #include "LayoutView.h"
 
+#include "drawing/Guides.h"
 #include "drawing/SelectionHandles.h"
 #include "drawing/SelectionWalk.h"
 
@@ -143,7 +144,22 @@ void LayoutView::paintOver(QPainter& painter) {
   if (!layout_) return;
   paintFocusMark(painter, *layout_);
   paintLocked(painter, *layout_);
-  SelectionHandles(*layout_).paint(painter);
+  if (!hostTool() || !hostTool()->paintOver(painter)) SelectionHandles(*layout_).paint(painter);
+}
+
+void LayoutView::paintAids(QPainter& painter) {
+  if (layout_ && showsAids_) ::paintAids(painter, *layout_, size());
+}
+
+void LayoutView::setShowsAids(bool shows) {
+  showsAids_ = shows;
+  update();
+}
+
+bool LayoutView::editSelected() {
+  bool const edits = layout_ && hostTool() && hostTool()->editSelected();
+  if (edits) clearOverlay();
+  return edits;
 }
 
 // Undo and redo, and the tool's own keys, reach the tool before a menu takes them for a shortcut.
@@ -152,15 +168,18 @@ bool LayoutView::event(QEvent* event) {
     auto const key = static_cast<QKeyEvent*>(event)->key();
     bool const isArrow = key >= Qt::Key_Left && key <= Qt::Key_Down;
     bool const isPlain = !(static_cast<QKeyEvent*>(event)->modifiers() & (Qt::AltModifier | Qt::ControlModifier));
-    if ((isArrow && isPlain) || key == Qt::Key_Escape) event->accept();
+    bool const isWanted = hostTool() && layout_ && hostTool()->wants(*static_cast<QKeyEvent*>(event));
+    if ((isArrow && isPlain) || key == Qt::Key_Escape || isWanted) event->accept();
   }
   return ViewWidget::event(event);
 }
 
 // Tab goes through the elements before it goes on.
 bool LayoutView::focusNextPrevChild(bool next) {
-  if (!layout_ || dragging_ != Qt::NoButton || !selectNeighbour(*layout_, next))
-    return ViewWidget::focusNextPrevChild(next);
+  bool const isFree = layout_ && dragging_ == Qt::NoButton;
+  bool const isTaken = isFree && ((hostTool() && hostTool()->step(next)) || selectNeighbour(*layout_, next));
+  if (isTaken) update();
+  if (!isTaken) return ViewWidget::focusNextPrevChild(next);
   emit viewChanged();
   return true;
 }

@@ -2,6 +2,7 @@
 
 #include "PagePicture.h"
 #include "ViewWidget.h"
+#include "drawing/HostTool.h"
 #include "drawing/TextEditor.h"
 
 #include <SysUI/ITool.h>
@@ -38,6 +39,13 @@ public:
   bool snaps() const { return snaps_; }
   void setSnaps(bool snaps) { snaps_ = snaps; }
 
+  /// Whether margins, guides and the grid of the page are shown.
+  bool showsAids() const { return showsAids_; }
+  void setShowsAids(bool shows);
+
+  /// Begins to change the parts of the element that is selected alone, as the current tool does; false where it can't.
+  bool editSelected();
+
   bool isComplete() const override { return picture_.isComplete(); }
   int drawnTiles() const { return picture_.drawnTiles(); }
 
@@ -56,6 +64,7 @@ protected:
   void continuePicture() override;
   QImage const& picture() const override { return picture_.image(); }
   QRectF placeOfPicture() const override;
+  void paintAids(QPainter& painter) override;
   void paintOver(QPainter& painter) override;
 
   bool event(QEvent* event) override;
@@ -74,6 +83,7 @@ protected:
   void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+  HostTool* hostTool() const { return dynamic_cast<HostTool*>(tool_.get()); }
   void giveDragUp();
   void enterTool();
   void scrollBy(QPoint const& offset);
@@ -84,6 +94,7 @@ private:
   SysUtility::_ptr_t<SysUI::ITool> tool_;
   Qt::MouseButton dragging_ = Qt::NoButton;  // a tool's drag begins and ends with the same button
   bool snaps_ = true;
+  bool showsAids_ = true;
   PagePicture picture_;
   QPointer<TextEditor> editor_;
 };

@@ -5,6 +5,7 @@
 #include "Icons.h"
 #include "NoticeBar.h"
 #include "PropertyPanel.h"
+#include "drawing/Ruler.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
@@ -15,6 +16,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -40,6 +42,8 @@ constexpr int labelMarginPx = 8;
 constexpr int refusalMs = 8000;
 QString const geometryKey = QStringLiteral("window/geometry");
 QString const stateKey = QStringLiteral("window/state");
+QString const rulersKey = QStringLiteral("view/rulers"), guidesKey = QStringLiteral("view/guides"),
+              snappingKey = QStringLiteral("view/snapping");
 constexpr int stateVersion = 1;  // of the toolbars and docks
 
 // The one local document that is dragged; empty where something else is.
@@ -142,6 +146,11 @@ void MainWindow::addWindowCommands(HostCommands& host) {
                                                always, [this] { return properties_->isVisible(); }});
   host.add(QStringLiteral("Host_History"), {[this] { historyDock_->setVisible(!historyDock_->isVisible()); }, always,
                                             [this] { return historyDock_->isVisible(); }});
+  host.add(QStringLiteral("Host_Rulers"), {[this] {
+                                             hasRulers_ = !hasRulers_;
+                                             showRulers();
+                                           },
+                                           always, [this] { return hasRulers_; }});
   host.add(QStringLiteral("Host_Quit"), {[this] { QTimer::singleShot(0, this, &QWidget::close); }, always, always});
   host.add(QStringLiteral("Host_About"), {[this] { showAbout(); }, always, always});
 }
@@ -159,14 +168,27 @@ void MainWindow::buildViews() {
   tabs_->addTab(loadIcon(QStringLiteral("map-view")), tr("Map"));
   notice_ = new NoticeBar(centre);
   box->addWidget(notice_);
-  box->addWidget(&bench_.views(), 1);
+  auto* const grid = new QGridLayout;
+  grid->setSpacing(0);
+  rulers_ = {new Ruler(Qt::Horizontal, bench_.views(), centre), new Ruler(Qt::Vertical, bench_.views(), centre)};
+  grid->addWidget(rulers_[0], 0, 1);
+  grid->addWidget(rulers_[1], 1, 0);
+  grid->addWidget(&bench_.views(), 1, 1);
+  box->addLayout(grid, 1);
   box->addWidget(tabs_);
   setCentralWidget(centre);
   connect(tabs_, &QTabBar::currentChanged, this,
           [this](int index) { bench_.views().show(static_cast<DocumentViews::Kind>(index)); });
   connect(&bench_.views(), &QStackedWidget::currentChanged, tabs_, &QTabBar::setCurrentIndex);
+  connect(&bench_.views(), &QStackedWidget::currentChanged, this, &MainWindow::showRulers);
   connect(&bench_.views().layoutView(), &ViewWidget::pointed, this, &MainWindow::showPointer);
   connect(&bench_.views().layoutView(), &ViewWidget::left, this, [this] { position_->clear(); });
+}
+
+// A map has no place on the page to measure from.
+void MainWindow::showRulers() {
+  for (QWidget* const ruler : rulers_)
+    ruler->setVisible(hasRulers_ && bench_.views().kind() == DocumentViews::Kind::Layout);
 }
 
 void MainWindow::connectFiles() {
@@ -269,12 +291,20 @@ void MainWindow::restoreState() {
   QRect const place = within((under ? under : screen())->availableGeometry(), geometry());
   if (place != geometry() && !isMaximized() && !isFullScreen()) setGeometry(place);
   QMainWindow::restoreState(settings.value(stateKey).toByteArray(), stateVersion);
+  auto& view = bench_.views().layoutView();
+  hasRulers_ = settings.value(rulersKey, true).toBool();
+  view.setShowsAids(settings.value(guidesKey, true).toBool());
+  view.setSnaps(settings.value(snappingKey, true).toBool());
+  showRulers();
 }
 
 void MainWindow::keepState() {
   QSettings settings;
   settings.setValue(geometryKey, saveGeometry());
   settings.setValue(stateKey, saveState(stateVersion));
+  settings.setValue(rulersKey, hasRulers_);
+  settings.setValue(guidesKey, bench_.views().layoutView().showsAids());
+  settings.setValue(snappingKey, bench_.views().layoutView().snaps());
 }
 
 void MainWindow::documentReplaced() {

@@ -10,6 +10,8 @@
 
 #include <QMainWindow>
 
+#include <array>
+
 class QLabel;
 class QLineEdit;
 class ElementList;
@@ -47,6 +49,7 @@ private:
   void buildProperties();
   void buildHistory();
   void buildViews();
+  void showRulers();
   void connectFiles();
   void buildStatusBar();
   void keepState();
@@ -71,6 +74,8 @@ private:
   QDockWidget* contentsDock_ = nullptr;
   QDockWidget* historyDock_ = nullptr;
   NoticeBar* notice_ = nullptr;
+  std::array<QWidget*, 2> rulers_{};
+  bool hasRulers_ = true;
   QTabBar* tabs_ = nullptr;
   QLabel* position_ = nullptr;
   QLineEdit* scale_ = nullptr;

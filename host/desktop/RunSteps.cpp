@@ -6,6 +6,7 @@
 #include "ImageFormat.h"
 #include "NumberList.h"
 #include "drawing/NewElements.h"
+#include "drawing/TurnGesture.h"
 
 #include "host/SysCarto/maps/MapSteps.h"
 #include "host/SysUtility/JsonFile.h"
@@ -81,6 +82,7 @@ bool areTwoPoints(QString const& text) { return numbersIn(text).size() == 4; }
 bool isScale(QString const& text) { return scaleDenominatorOf(text).has_value(); }
 bool isView(QString const& text) { return text == QLatin1String("layout") || text == QLatin1String("map"); }
 bool isAnswer(QString const& text) { return text.indexOf(QLatin1Char(':')) > 0; }
+bool isNumber(QString const& text) { return numbersIn(text).size() == 1; }
 bool isAddition(QString const& text) { return NewElement::of(text).has_value(); }
 bool isAnything(QString const& text) { return !text.isEmpty(); }
 
@@ -123,6 +125,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("set"),        text("WHAT/FIELD…:VALUE"), isSetting, &RunSteps::setField, {}},
       {text("get"),        text("WHAT/FIELD…"),  isAnything,   &RunSteps::getField, {}},
       {text("add"),        text("KIND:CONTENT@X,Y,…"), isAddition, &RunSteps::add, {}},
+      {text("rotate"),     text("DEGREES"),      isNumber,     &RunSteps::rotate,  {}},
       {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
       {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
       {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
@@ -352,6 +355,15 @@ QString RunSteps::add(QString const& text) {
   if (element.kind->content == NewElementKind::Content::File)
     element.content = QFileInfo(element.content).absoluteFilePath();
   return element.kind->insert(*layout, element.points, element.content);
+}
+
+QString RunSteps::rotate(QString const& degrees) {
+  auto const layout = SysUtility::ptr_cast<SysCarto::PageLayout>(bench_.desktop().GetActiveView());
+  return layout && turnSelection(*layout, numbersIn(degrees).first())
+             ? QString()
+             : tr("nothing that can be turned is selected; texts, pictures, markers, lines, polygons and groups of "
+                  "these "
+                  "can.");
 }
 
 QString RunSteps::answer(QString const& text) {

@@ -51,6 +51,7 @@ private:
   QString getField(QString const& text);
   QString withThings(QString const& what, std::function<QString(SysCarto::Editable::List const&)> const& use);
   QString add(QString const& text);
+  QString rotate(QString const& degrees);
   QString answer(QString const& text);
   QString save(QString const& file);
   QString info(QString const&);

@@ -80,6 +80,7 @@ double ViewWidget::zoomOf(QWheelEvent const& event) {
 
 void ViewWidget::setCursor(QCursor const& cursor) { QWidget::setCursor(cursor); }
 
+void ViewWidget::paintAids(QPainter&) {}
 void ViewWidget::paintOver(QPainter&) {}
 
 QRectF ViewWidget::placeOfPicture() const { return {QPointF(), QSizeF(picture().size()) / devicePixelRatioF()}; }
@@ -109,6 +110,7 @@ void ViewWidget::paintEvent(QPaintEvent*) {
   QRectF const place = placeOfPicture().translated(offset_);
   if (!place.contains(rect())) painter.fillRect(rect(), palette().color(QPalette::Mid));
   painter.drawImage(place, picture());
+  paintAids(painter);
   for (Shape const& shape : shapes_) shape.symbol->Draw(painter, shape.transformation, shape.geometry);
   for (Text const& text : texts_) paintText(painter, text);
   if (!hasOverlay()) paintOver(painter);

@@ -70,6 +70,9 @@ protected:
   void goOn();
   bool isStale() const { return isStale_; }
 
+  /// Painted over the picture, below what tools draw.
+  virtual void paintAids(QPainter& painter);
+
   /// Painted over the picture while no tool has drawn anything.
   virtual void paintOver(QPainter& painter);
   bool hasOverlay() const { return !shapes_.empty() || !offset_.isNull(); }

@@ -1,6 +1,8 @@
 #include "desktop/WorkbenchPage.h"
 
+#include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/desktop/drawing/SelectionHandles.h"
 
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
@@ -142,6 +144,120 @@ private slots:
     QVERIFY(!page.bench.session().document().GetOperationStack()->CanUndo());
   }
 
+  // What the mouse is near, and where what it drags comes to lie; the page is 21 × 29.7 cm.
+  void aDragIsDrawnToLines_data() {
+    Rows<QPointF, QPointF, QPointF> row;
+    row("the left edge of another element", QPointF(2, 4), QPointF(9.9, 9), QPointF(10, 9));
+    row("the top of another one with its own top", QPointF(2, 4), QPointF(2.7, 4.1), QPointF(2.7, 4));
+    row("the middle of the page", QPointF(2, 4), QPointF(8.6, 9), QPointF(8.5, 9));
+    row("a margin", QPointF(2, 4), QPointF(1.6, 9), QPointF(1.5, 9));
+    row("a guide", QPointF(2, 4), QPointF(3.4, 25.05), QPointF(3.5, 25.05));
+    row("a gap as wide as the next one", QPointF(10, 4), QPointF(9.02, 4.6), QPointF(9, 4.6));
+    row("nothing that is farther away", QPointF(2, 4), QPointF(3, 8.5), QPointF(3, 8.5));
+  }
+  void aDragIsDrawnToLines() {
+    auto const [from, near, expected] = fetched<QPointF, QPointF, QPointF>();
+    Page page;
+    page.view().setSnaps(true);
+    page.container().DeleteElement(page.frame);
+    page.set("margins/left", 1.5);
+    page.set("verticalGuides", QJsonArray{3.5});
+    page.add<RectangleElement>(16, 4, 20, 7);
+    auto const element = from.x() == 2 ? page.left : page.right;
+    if (from.x() == 10) page.add<RectangleElement>(13, 25, 16, 26);  // elsewhere, so it counts for no gap
+    auto const drag = [&](Qt::KeyboardModifiers keys) {
+      page.drag(page.pixel(from.x() + 2, from.y() + 1), page.pixel(near.x() + 2, near.y() + 1), keys);
+      QPointF const place = page.place(*element).topLeft();
+      page.run("Host_Undo");
+      return place;
+    };
+    QPointF const snapped = drag(Qt::NoModifier), free = drag(Qt::AltModifier);
+    auto const isAt = [&](QPointF const& a, QPointF const& b, double slack) {
+      return std::abs(a.x() - b.x()) < slack && std::abs(a.y() - b.y()) < slack;
+    };
+    double const pixel = 1 / page.layout()->GetDisplayTransformation()->ToDevice().m11();
+    QVERIFY2(isAt(snapped, expected, 1.01 * pixel), qPrintable(QString("%1 %2").arg(snapped.x()).arg(snapped.y())));
+    if (expected.x() != near.x()) QVERIFY(std::abs(snapped.x() - expected.x()) < 1e-9);
+    QVERIFY(isAt(free, near, 1.01 * pixel));
+  }
+
+  void theSelectionIsTurnedByItsHandle() {
+    Page page;
+    auto const line = make<SysCarto::LineElement>();
+    line->setShape(make<SysGeometry::Polyline>(QVector<QPointF>{{4, 26}, {8, 26}}));
+    auto const text = make<SysCarto::TextElement>();
+    text->setText("N");
+    text->setPosition(6, 27);
+    page.container().AddElement(line);
+    page.container().AddElement(text);
+    for (auto const& element : QList<_ptr_t<SysCarto::Element>>{line, text}) page.container().SelectElement(element);
+    QRectF const box = SelectionHandles(*page.layout()).boundsCm();
+    QPoint const handle = page.pixel(box.center().x(), box.bottom()) - QPoint(0, 24);
+    QPoint const right = page.pixel(box.center().x() + 3, box.center().y() + 0.2);
+    page.drag(handle, right, Qt::ShiftModifier);  // by 90 degrees to the right, as Shift rounds it
+    auto const turned = ptr_cast<SysCarto::TextElement>(page.now(*text));
+    QCOMPARE(turned->angle(), -90.0);
+    QRectF const upright = page.place(*line);
+    QVERIFY(std::abs(upright.width()) < 1e-9 && std::abs(upright.height() - 4) < 1e-9);
+    QVERIFY(std::abs(upright.center().y() - box.center().y()) < 1e-9);
+    page.click(page.pixel(4, 5));  // a rectangle stands upright and has no such handle
+    QVERIFY(SelectionHandles(*page.layout()).at(page.pixel(4, 7) - QPoint(0, 24)).isNone());
+  }
+
+  void verticesAreMovedAddedAndDeleted() {
+    Page page;
+    auto const polygon = make<SysCarto::PolygonElement>();
+    polygon->setShape(make<SysGeometry::Polygon>(QVector<QVector<QPointF>>{{{3, 25}, {7, 25}, {7, 28}, {3, 25}}}));
+    page.container().AddElement(polygon);
+    QByteArray const before = MapDocumentHost::text(page.bench.session().document());
+    auto const ring = [&] {
+      return ptr_cast<SysCarto::PolygonElement>(page.now(*polygon))->shape()->GetRings().first();
+    };
+    page.mouse(QEvent::MouseButtonDblClick, page.pixel(6, 25.5));
+    page.mouse(QEvent::MouseButtonRelease, page.pixel(6, 25.5));
+    page.drag(page.pixel(3, 25), page.pixel(2, 26));
+    QCOMPARE(ring().size(), 3);
+    QVERIFY(std::abs(ring().first().x() - 2) < 0.06 && std::abs(ring().first().y() - 26) < 0.06);
+    page.drag(page.pixel(7, 26.5), page.pixel(9, 26));
+    QCOMPARE(ring().size(), 4);
+    page.key(Qt::Key_Tab);
+    page.key(Qt::Key_Delete);
+    page.key(Qt::Key_Delete);  // three are the fewest
+    QCOMPARE(ring().size(), 3);
+    page.key(Qt::Key_Escape);
+    QVERIFY(page.run("Host_Edit"));
+    page.key(Qt::Key_Tab);
+    page.key(Qt::Key_Insert);
+    QCOMPARE(ring().size(), 4);
+    for (int i = 0; i < 4; ++i) page.run("Host_Undo");
+    QVERIFY(MapDocumentHost::text(page.bench.session().document()) == before);
+    QCOMPARE(page.selected(), QList<int>{polygon->GetHandle()});
+  }
+
+  void guidesArePulledAndLeaveThePage() {
+    Page page;
+    page.set("verticalGuides", QJsonArray{3.5});
+    page.set("horizontalGuides", QJsonArray{9});
+    auto const guides = [&](char const* field) {
+      return QJsonDocument::fromJson(MapDocumentHost::text(page.bench.session().document()))
+          .object()
+          .value("page")
+          .toObject()
+          .value(QLatin1String(field));
+    };
+    page.drag(page.pixel(3.5, 25), page.pixel(5, 25));
+    QVERIFY(std::abs(guides("verticalGuides").toArray()[0].toDouble() - 5) < 0.06);
+    page.drag(page.pixel(18, 9), page.pixel(18, -0.5));
+    QVERIFY(guides("horizontalGuides").isUndefined());
+    page.run("Host_Guides");
+    page.drag(page.pixel(5, 25), page.pixel(7, 25));  // what is hidden is not hit
+    page.run("Host_Guides");
+    QVERIFY(std::abs(guides("verticalGuides").toArray()[0].toDouble() - 5) < 0.06);
+    page.run("Host_Undo");
+    page.run("Host_Undo");
+    QCOMPARE(guides("verticalGuides").toArray()[0].toDouble(), 3.5);
+  }
+
   void aLockedFrameResistsAll() {
     Page page;
     QByteArray const place = MapDocumentHost::text(page.bench.session().document());
@@ -171,6 +287,15 @@ private slots:
 
 private:
   struct Page : WorkbenchPage {
+    Page() { view().setSnaps(false); }
+    void set(QString const& field, QJsonValue const& value) {
+      QStringList warnings;
+      auto const& document = bench.session().document();
+      QString const problem = SysCarto::Editable::set(
+          document, {SysCarto::Editable::page(document)}, field.split('/'), [&](QJsonValue const&) { return value; },
+          warnings);
+      if (!problem.isEmpty()) qFatal("%s", qPrintable(problem));
+    }
     _ptr_t<RectangleElement> left = add<RectangleElement>(2, 4, 6, 7);
     _ptr_t<RectangleElement> right = add<RectangleElement>(10, 4, 14, 7);
     _ptr_t<MapFrameElement> frame = add<MapFrameElement>(2, 12, 14, 24);

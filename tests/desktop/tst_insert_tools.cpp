@@ -100,7 +100,7 @@ private slots:
     QCOMPARE(page.firstText()->text(), QString("Plan\nof it"));
     QCOMPARE(page.container().GetSelectedElementCount(), 1);
 
-    QVERIFY(page.run("Host_EditText"));
+    QVERIFY(page.run("Host_Edit"));
     page.editor()->setPlainText("Map");
     QVERIFY(page.run("Host_Undo"));  // a command takes what was written first, and so undoes that
     QCOMPARE(page.firstText()->text(), QString("Plan\nof it"));

@@ -122,6 +122,7 @@ void InsertTool::OnMouseDown(QMouseEvent* event) {
   layout_ = layout;
   isFirstPress_ = true;
   gesture_ = std::make_unique<DrawGesture>(*layout, pagePoint(*layout, event->pos()), kind_);
+  gesture_->setUsesAids(view_.showsAids());
   if (!gestureKeys(view_, *event).testFlag(Qt::AltModifier)) gesture_->snapPress();
 }
 

@@ -58,6 +58,8 @@ _ptr_t<SysGeometry::Geometry> outlineOf(QRectF const& box) {
   return make<Envelope>(box.left(), box.top(), box.right(), box.bottom());
 }
 
+}  // namespace
+
 QVector<QRectF> selectedRectangles(PageLayout const& layout) {
   auto const selection = movableSelection(layout);
   if (selection.size() > maxOutlines) return {SelectionHandles(layout).boundsCm()};
@@ -65,8 +67,6 @@ QVector<QRectF> selectedRectangles(PageLayout const& layout) {
   for (auto const& element : selection) rectangles << rectangleOf(*element->GetEnvelope());
   return rectangles;
 }
-
-}  // namespace
 
 void changeSelection(PageLayout& layout, QString const& name, std::function<void(Element&)> const& change) {
   auto const selection = movableSelection(layout);
@@ -93,7 +93,7 @@ PageGesture::PageGesture(PageLayout& layout, QPointF const& press) : layout_(lay
 PageGesture::~PageGesture() = default;
 
 Snapper const& PageGesture::lines() const {
-  if (!snapper_) snapper_ = std::make_unique<Snapper>(layout_, dragged());
+  if (!snapper_) snapper_ = std::make_unique<Snapper>(layout_, dragged(), usesAids_);
   return *snapper_;
 }
 

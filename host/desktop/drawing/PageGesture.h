@@ -37,6 +37,9 @@ public:
   void cancel();
   bool hasMoved() const { return hasMoved_; }
 
+  /// Whether margins, guides and the grid draw the mouse to them; asked before the first move.
+  void setUsesAids(bool uses) { usesAids_ = uses; }
+
 protected:
   PageGesture(SysCarto::PageLayout& layout, QPointF const& press);
 
@@ -72,12 +75,16 @@ private:
   QPointF point_;
   Qt::KeyboardModifiers modifiers_;
   bool hasMoved_ = false;
+  bool usesAids_ = true;
 };
 
 /// Puts clones in the place of the selected elements that may be moved, as one step of undo, and redraws. `change` is
 /// called with each clone.
 void changeSelection(SysCarto::PageLayout& layout, QString const& name,
                      std::function<void(SysCarto::Element&)> const& change);
+
+/// The rectangles of the elements that may be moved; of many, the one about all.
+QVector<QRectF> selectedRectangles(SysCarto::PageLayout const& layout);
 
 /// The handles of the elements that may be moved.
 QSet<SysCarto::ElementHandle> selectedHandles(SysCarto::PageLayout const& layout);

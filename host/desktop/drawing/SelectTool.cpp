@@ -1,6 +1,8 @@
 #include "SelectTool.h"
 
+#include "Guides.h"
 #include "TextEditing.h"
+#include "TurnGesture.h"
 
 #include "host/SysCarto/elements/ElementHit.h"
 #include "host/desktop/DocumentViews.h"
@@ -55,9 +57,28 @@ void showSelection(PageLayout& layout) {
 }
 
 Qt::CursorShape cursorFor(Handle const& handle) {
+  if (handle.turns) return Qt::PointingHandCursor;
   if (handle.y == 0) return Qt::SizeHorCursor;
   if (handle.x == 0) return Qt::SizeVerCursor;
   return handle.x == handle.y ? Qt::SizeBDiagCursor : Qt::SizeFDiagCursor;
+}
+
+// How far an arrow key goes; nothing for other keys.
+std::optional<QPointF> nudgeOf(QKeyEvent const& event) {
+  QPointF direction;
+  switch (event.key()) {
+    case Qt::Key_Left: direction = {-1, 0}; break;
+    case Qt::Key_Right: direction = {1, 0}; break;
+    case Qt::Key_Up: direction = {0, 1}; break;
+    case Qt::Key_Down: direction = {0, -1}; break;
+    default: return std::nullopt;
+  }
+  if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) return std::nullopt;
+  return direction * nudgeCm * (event.modifiers() & Qt::ShiftModifier ? farNudge : 1);
+}
+
+std::optional<Guide> shownGuideAt(DocumentViews& views, PageLayout const& layout, QPoint const& pixel) {
+  return views.layoutView().showsAids() ? guideAt(layout, pixel) : std::nullopt;
 }
 
 }  // namespace
@@ -69,6 +90,7 @@ bool SelectTool::IsEnable() { return static_cast<bool>(SysFramework::activePageL
 
 bool SelectTool::Deactivate() {
   giveUp();
+  leaveVertices();
   return BaseTool::Deactivate();
 }
 
@@ -77,8 +99,12 @@ void SelectTool::OnEnterEvent(QEvent*) { SetCurrentCursor(QCursor(Qt::ArrowCurso
 void SelectTool::JustMouseMove(QMouseEvent* event) {
   auto const layout = SysFramework::activePageLayout(*hook());
   if (!layout) return;
+  if (auto const shown = vertices())
+    return SetCurrentCursor(QCursor(shown->at(event->pos()).isNone() ? Qt::ArrowCursor : Qt::CrossCursor));
   Handle const handle = SelectionHandles(*layout).at(event->pos());
   if (!handle.isNone()) return SetCurrentCursor(QCursor(cursorFor(handle)));
+  if (auto const guide = shownGuideAt(views_, *layout, event->pos()))
+    return SetCurrentCursor(QCursor(guide->orientation == Qt::Vertical ? Qt::SplitHCursor : Qt::SplitVCursor));
   auto const element = elementAt(*layout, event->pos());
   SetCurrentCursor(QCursor(element && isSelected(*layout, *element) ? Qt::SizeAllCursor : Qt::ArrowCursor));
 }
@@ -89,7 +115,8 @@ void SelectTool::OnMouseDown(QMouseEvent* event) {
   if (!layout) return;
   layout_ = layout;
   selectionBefore_ = layout->GetGraphicsContainer()->GetSelectedElements();
-  press(layout, *event);
+  if (!pressVertex(layout, *event)) press(layout, *event);
+  if (gesture_) gesture_->setUsesAids(views_.layoutView().showsAids());
   showSelection(*layout);
 }
 
@@ -98,7 +125,14 @@ void SelectTool::press(_ptr_t<PageLayout> const& layout, QMouseEvent const& even
   bool const adds = event.modifiers() & Qt::ShiftModifier;
   Handle const handle = SelectionHandles(*layout).at(event.pos());
   if (!handle.isNone()) {
-    gesture_ = std::make_unique<ResizeGesture>(*layout, point, handle);
+    if (handle.turns)
+      gesture_ = std::make_unique<TurnGesture>(*layout, point);
+    else
+      gesture_ = std::make_unique<ResizeGesture>(*layout, point, handle);
+    return;
+  }
+  if (auto const guide = shownGuideAt(views_, *layout, event.pos())) {
+    gesture_ = std::make_unique<GuideGesture>(views_, *layout, point, *guide);
     return;
   }
   auto const element = elementAt(*layout, event.pos());
@@ -143,6 +177,12 @@ void SelectTool::OnDblClick(QMouseEvent* event) {
     return showSelection(*layout);
   }
   if (element->GetType() == SysCarto::ElementType::Text) return editText(views_, element->GetHandle());
+  if (edited_ == element->GetHandle()) return;
+  if (VertexHandles::hasVertices(*element)) {
+    select(*layout, {element});
+    editSelected();
+    return showSelection(*layout);
+  }
   emit views_.layoutView().propertiesWanted();
 }
 
@@ -163,27 +203,101 @@ void SelectTool::OnKeyDown(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     if (gesture_)
       giveUp();
+    else if (vertices())
+      leaveVertices();
     else
       select(*layout, {});
     showSelection(*layout);
+    event->accept();
+  } else if (!gesture_ && changeVertex(*layout, *event)) {
     event->accept();
   } else if (!gesture_ && nudge(*layout, *event)) {
     event->accept();
   }
 }
 
-bool SelectTool::nudge(PageLayout& layout, QKeyEvent const& event) {
-  QPointF direction;
-  switch (event.key()) {
-    case Qt::Key_Left: direction = {-1, 0}; break;
-    case Qt::Key_Right: direction = {1, 0}; break;
-    case Qt::Key_Up: direction = {0, 1}; break;
-    case Qt::Key_Down: direction = {0, -1}; break;
-    default: return false;
+// Of the element whose vertices are shown, as long as it is there and selected alone.
+std::optional<VertexHandles> SelectTool::vertices() const {
+  auto const layout = edited_ ? SysFramework::activePageLayout(*hook()) : nullptr;
+  auto const selected = layout ? layout->GetGraphicsContainer()->GetSelectedElements() : QList<_ptr_t<Element>>();
+  if (selected.size() != 1 || selected.first()->GetHandle() != edited_ || !isInReach(*selected.first()))
+    return std::nullopt;
+  return VertexHandles(*layout, selected.first());
+}
+
+bool SelectTool::editSelected() {
+  auto const layout = SysFramework::activePageLayout(*hook());
+  auto const selected = layout ? movableSelection(*layout) : QList<_ptr_t<Element>>();
+  if (selected.size() != 1 || !VertexHandles::hasVertices(*selected.first())) return false;
+  edited_ = selected.first()->GetHandle();
+  vertex_ = {};
+  return true;
+}
+
+bool SelectTool::paintOver(QPainter& painter) {
+  auto const shown = vertices();
+  if (shown) shown->paint(painter, vertex_);
+  return shown.has_value();
+}
+
+bool SelectTool::step(bool forward) {
+  auto const shown = vertices();
+  if (shown) vertex_ = shown->next(vertex_, forward);
+  return shown.has_value();
+}
+
+bool SelectTool::wants(QKeyEvent const& key) const {
+  bool const isOfVertices =
+      key.key() == Qt::Key_Delete || key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Insert;
+  return isOfVertices && key.modifiers() == Qt::NoModifier && vertices().has_value();
+}
+
+// A press beside the vertices and their element leaves them.
+bool SelectTool::pressVertex(_ptr_t<PageLayout> const& layout, QMouseEvent const& event) {
+  auto const shown = vertices();
+  if (!shown) return false;
+  Vertex const vertex = shown->at(event.pos());
+  auto const element = layout->GetGraphicsContainer()->GetSelectedElements().first();
+  if (vertex.isNone()) {
+    auto const under = elementAt(*layout, event.pos());
+    if (!under || under->GetHandle() != edited_) leaveVertices();
+    return edited_ != 0;
   }
-  if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) return false;
-  QPointF const by = direction * nudgeCm * (event.modifiers() & Qt::ShiftModifier ? farNudge : 1);
+  vertex_ = vertex;
+  gesture_ = std::make_unique<VertexGesture>(*layout, pagePoint(*layout, event.pos()), element, vertex);
+  return true;
+}
+
+// Deletes, adds or nudges the chosen one.
+bool SelectTool::changeVertex(PageLayout& layout, QKeyEvent const& event) {
+  auto const shown = vertices();
+  if (!shown || vertex_.isNone() || vertex_.isNew) return false;
+  if (vertex_.ring >= shown->rings().size() || vertex_.index >= shown->rings()[vertex_.ring].size()) return false;
+  if (auto const by = nudgeOf(event)) {
+    shown->replace(layout, QCoreApplication::translate("SelectTool", "Nudge the vertex"),
+                   shown->moved(vertex_, shown->place(vertex_) + *by));
+    return true;
+  }
+  if (!wants(event)) return false;
+  if (event.key() == Qt::Key_Insert) {
+    if (vertex_.index == 0 && !shown->isClosed()) return false;
+    Vertex added = vertex_;
+    added.isNew = true;
+    if (added.index == 0) added.index = shown->rings()[added.ring].size();
+    shown->replace(layout, QCoreApplication::translate("SelectTool", "Add a vertex"),
+                   shown->moved(added, shown->place(added)));
+    vertex_.index = added.index;
+    return true;
+  }
+  auto const rings = shown->without(vertex_);
+  if (!rings.isEmpty()) shown->replace(layout, QCoreApplication::translate("SelectTool", "Delete the vertex"), rings);
+  return true;
+}
+
+bool SelectTool::nudge(PageLayout& layout, QKeyEvent const& event) {
+  auto const by = nudgeOf(event);
+  if (!by) return false;
   changeSelection(layout, QCoreApplication::translate("SelectTool", "Nudge the selected elements"),
-                  [by](Element& element) { element.Move(by.x(), by.y()); });
+                  [&](Element& element) { element.Move(by->x(), by->y()); });
   return true;
 }

@@ -1,5 +1,7 @@
 #include "SelectionHandles.h"
 
+#include "host/SysCarto/elements/Turning.h"
+
 #include <QApplication>
 #include <QPainter>
 #include <QPalette>
@@ -13,9 +15,11 @@ namespace {
 
 constexpr double handlePx = 8;
 constexpr double reachPx = 10;  // of the mouse
+constexpr double referencePx = 2.5;
 constexpr double roomForMiddlesPx = 3 * handlePx;
 
-constexpr Handle handles[] = {{-1, -1}, {1, -1}, {-1, 1}, {1, 1}, {0, -1}, {0, 1}, {-1, 0}, {1, 0}};
+constexpr Handle handles[] = {{-1, -1}, {1, -1}, {-1, 1}, {1, 1}, {0, -1}, {0, 1}, {-1, 0}, {1, 0}, {0, 0, true}};
+constexpr double turnGapPx = 24;  // from the box to the handle that turns it
 
 QRectF rectangleOf(Element const& element) {
   auto const envelope = element.GetEnvelope();
@@ -42,6 +46,7 @@ QList<_ptr_t<Element>> movableSelection(PageLayout const& layout) {
 SelectionHandles::SelectionHandles(PageLayout const& layout) {
   QTransform const toDevice = layout.GetDisplayTransformation()->ToDevice();
   for (auto const& element : movableSelection(layout)) {
+    canTurn_ = canTurn_ && SysCarto::canTurn(*element);
     QRectF const rectangle = rectangleOf(*element);
     boundsCm_ = framesPx_.isEmpty() ? rectangle : united(boundsCm_, rectangle);
     framesPx_ << toDevice.mapRect(rectangle);
@@ -53,19 +58,24 @@ SelectionHandles::SelectionHandles(PageLayout const& layout) {
 QRectF SelectionHandles::place(Handle const& handle) const {
   QPointF const centre =
       boundsPx_.center() + QPointF(handle.x * boundsPx_.width() / 2, -handle.y * boundsPx_.height() / 2);
-  return {centre.x() - handlePx / 2, centre.y() - handlePx / 2, handlePx, handlePx};
+  double const above = handle.turns ? boundsPx_.height() / 2 + turnGapPx : 0;
+  return {centre.x() - handlePx / 2, centre.y() - above - handlePx / 2, handlePx, handlePx};
 }
 
 Handle SelectionHandles::at(QPoint const& pixel) const {
   if (framesPx_.isEmpty()) return {};
   double const slack = (reachPx - handlePx) / 2;
-  for (Handle const& handle : handles) {
-    bool const isCorner = handle.x != 0 && handle.y != 0;
-    bool const hasRoom = (handle.x != 0 || boundsPx_.width() >= roomForMiddlesPx) &&
-                         (handle.y != 0 || boundsPx_.height() >= roomForMiddlesPx);
-    if ((isCorner || hasRoom) && place(handle).adjusted(-slack, -slack, slack, slack).contains(pixel)) return handle;
-  }
+  for (Handle const& handle : handles)
+    if (isShown(handle) && place(handle).adjusted(-slack, -slack, slack, slack).contains(pixel)) return handle;
   return {};
+}
+
+// Those in the middle of a side need room beside the corners.
+bool SelectionHandles::isShown(Handle const& handle) const {
+  if (handle.turns) return canTurn_;
+  bool const isCorner = handle.x != 0 && handle.y != 0;
+  return isCorner || ((handle.x != 0 || boundsPx_.width() >= roomForMiddlesPx) &&
+                      (handle.y != 0 || boundsPx_.height() >= roomForMiddlesPx));
 }
 
 void SelectionHandles::paint(QPainter& painter) const {
@@ -76,6 +86,9 @@ void SelectionHandles::paint(QPainter& painter) const {
   painter.setBrush(Qt::NoBrush);
   painter.drawRects(framesPx_);
   if (framesPx_.size() > 1) {
+    // The first one is what the others are aligned with.
+    painter.setPen(QPen(colour, referencePx));
+    painter.drawRect(framesPx_.first());
     painter.setPen(QPen(colour, 1, Qt::DashLine));
     painter.drawRect(boundsPx_);
   }
@@ -83,9 +96,13 @@ void SelectionHandles::paint(QPainter& painter) const {
   painter.setPen(QPen(colour, 1.25));
   painter.setBrush(Qt::white);
   for (Handle const& handle : handles) {
-    if (handle.x == 0 && boundsPx_.width() < roomForMiddlesPx) continue;
-    if (handle.y == 0 && boundsPx_.height() < roomForMiddlesPx) continue;
-    painter.drawRoundedRect(place(handle), 1.5, 1.5);
+    if (!isShown(handle)) continue;
+    if (handle.turns) {
+      painter.drawLine(QPointF(boundsPx_.center().x(), boundsPx_.top()), place(handle).center());
+      painter.drawEllipse(place(handle));
+    } else {
+      painter.drawRoundedRect(place(handle), 1.5, 1.5);
+    }
   }
   painter.restore();
 }

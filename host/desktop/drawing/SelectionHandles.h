@@ -16,14 +16,16 @@ QList<SysUtility::_ptr_t<SysCarto::Element>> movableSelection(SysCarto::PageLayo
 bool isInReach(SysCarto::Element const& element);
 
 /// A handle of the rectangle about the selection: which sides it moves, −1 the left or bottom one, 1 the right or top
-/// one, 0 none.
+/// one, 0 none; or the one by which the selection is turned.
 struct Handle {
   int x = 0;
   int y = 0;
-  bool isNone() const { return x == 0 && y == 0; }
+  bool turns = false;
+  bool isNone() const { return x == 0 && y == 0 && !turns; }
 };
 
-/// The frames about the selected elements of a page, and the eight handles by which they are resized.
+/// The frames about the selected elements of a page, and the eight handles by which they are resized; above them one
+/// more where all can be turned.
 class SelectionHandles {
 public:
   explicit SelectionHandles(SysCarto::PageLayout const& layout);
@@ -37,8 +39,10 @@ public:
 
 private:
   QRectF place(Handle const& handle) const;
+  bool isShown(Handle const& handle) const;
 
   QRectF boundsCm_;
   QRectF boundsPx_;
   QVector<QRectF> framesPx_;
+  bool canTurn_ = true;
 };

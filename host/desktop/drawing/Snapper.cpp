@@ -22,9 +22,9 @@ void Snapper::Axis::addBox(Span const& along, Span const& across) {
   boxes << qMakePair(along, across);
 }
 
-Snapper::Snapper(PageLayout const& layout, QSet<SysCarto::ElementHandle> const& moving) {
+Snapper::Snapper(PageLayout const& layout, QSet<SysCarto::ElementHandle> const& moving, bool usesAids) {
   for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
-    if (moving.contains(element->GetHandle())) continue;
+    if (moving.contains(element->GetHandle()) || !element->IsVisible()) continue;
     auto const box = element->GetEnvelope();
     Span const along{box->GetXMin(), box->GetXMax()}, across{box->GetYMin(), box->GetYMax()};
     x_.addBox(along, across);
@@ -33,7 +33,7 @@ Snapper::Snapper(PageLayout const& layout, QSet<SysCarto::ElementHandle> const& 
   if (SysCarto::Page const* const page = layout.GetPage()) {
     double width, height;
     page->QuerySize(width, height);
-    PageAids const& aids = PageHost::aids(*page);
+    PageAids const aids = usesAids ? PageHost::aids(*page) : PageAids();
     Span const wide{0, width}, high{0, height};
     for (double const x : {0.0, width / 2, width, aids.left, width - aids.right}) x_.addLine(x, high);
     for (double const y : {0.0, height / 2, height, aids.bottom, height - aids.top}) y_.addLine(y, wide);

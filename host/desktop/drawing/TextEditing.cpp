@@ -32,13 +32,6 @@ void deleteText(PageLayout& layout, _ptr_t<TextElement> const& text) {
 
 }  // namespace
 
-ElementHandle selectedText(DocumentViews const& views) {
-  auto const layout = SysUtility::ptr_cast<PageLayout>(views.activeView());
-  if (!layout || layout->GetGraphicsContainer()->GetSelectedElementCount() != 1) return 0;
-  auto const element = layout->GetGraphicsContainer()->GetSelectedElements().first();
-  return element->GetType() == SysCarto::ElementType::Text ? element->GetHandle() : 0;
-}
-
 void editText(DocumentViews& views, ElementHandle handle) {
   auto const layout = views.GetPageLayout();
   auto const before = layout ? textOf(*layout, handle) : nullptr;

@@ -1,0 +1,3 @@
+#include "HostTool.h"
+
+HostTool::~HostTool() = default;
