@@ -80,6 +80,20 @@ public:
     print(name, turns);
   }
 
+  /// That many elements, one of which lies under the middle of the view.
+  void select(int count) {
+    QPoint const middle = view().rect().center();
+    auto const at = bench_.views().GetPageLayout()->GetDisplayTransformation()->ToMapPoint(middle);
+    auto const chosen = container().GetElements().mid(container().GetElements().size() - count);
+    container().UnselectAllElements();
+    for (auto const& element : chosen) container().SelectElement(element);
+    auto const first = chosen.first()->GetEnvelope()->GetAnchorPoint();
+    auto const extent = bench_.views().GetPageLayout()->GetExtent();
+    extent->Offset(first->GetX() - at->GetX(), first->GetY() - at->GetY());
+    bench_.views().GetPageLayout()->SetExtent(extent);
+    settle();
+  }
+
   void click(char const* identifier) { bench_.commands().click(*bench_.commands().find(QLatin1String(identifier))); }
 
   void drag(QString const& name) {
@@ -198,6 +212,8 @@ int main(int argc, char** argv) {
 
   Bench many(document);
   many.addElements(manyElements);
+  many.select(200);
+  many.drag(QStringLiteral("drag 200 of %1 elements, drawn to lines").arg(manyElements));
   many.click("Host_SelectAll");
   auto const align = [&](int i) { many.click(i % 2 ? "Plotvane_LeftAlignment" : "Plotvane_TopAlignment"); };
   many.row(QStringLiteral("align %1 elements").arg(manyElements), align, 20, false);

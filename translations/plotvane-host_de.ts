@@ -3895,6 +3895,10 @@
         <source>%1 cm, %2°</source>
         <translation>%1 cm, %2°</translation>
     </message>
+    <message>
+        <source>Embed the picture in the document</source>
+        <translation>Bild im Dokument einbetten</translation>
+    </message>
 </context>
 <context>
     <name>JsonFile</name>
@@ -4251,6 +4255,10 @@
     <message>
         <source>Insert a marker</source>
         <translation>Punktsymbol einfügen</translation>
+    </message>
+    <message>
+        <source>%1: the picture is too large to be embedded; link it.</source>
+        <translation>%1: Das Bild ist zu groß, um eingebettet zu werden; verknüpfen Sie es.</translation>
     </message>
 </context>
 <context>

@@ -3895,6 +3895,10 @@
         <source>%1 cm, %2°</source>
         <translation>%1 厘米，%2°</translation>
     </message>
+    <message>
+        <source>Embed the picture in the document</source>
+        <translation>将图片嵌入文档</translation>
+    </message>
 </context>
 <context>
     <name>JsonFile</name>
@@ -4251,6 +4255,10 @@
     <message>
         <source>Insert a marker</source>
         <translation>插入点标记</translation>
+    </message>
+    <message>
+        <source>%1: the picture is too large to be embedded; link it.</source>
+        <translation>%1：图片太大，无法嵌入；请改为链接。</translation>
     </message>
 </context>
 <context>

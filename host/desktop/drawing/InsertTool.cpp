@@ -8,8 +8,10 @@
 
 #include <SysFramework/HostAccess.h>
 
+#include <QCheckBox>
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLineF>
 #include <QLocale>
@@ -152,10 +154,10 @@ void InsertTool::OnDblClick(QMouseEvent*) {
 void InsertTool::finish() {
   auto const points = gesture_->points();
   auto const usual = kind_.usualPoints(points.first());
-  bool const isDrawn = points.size() >= kind_.minPoints;
+  bool const isDrawn = kind_.points != NewElementKind::Points::Place && kind_.takes(points.size());
   if (!isDrawn && points.size() > 1) return;  // two vertices are no area yet
   giveUp();
-  insert(isDrawn && kind_.minPoints > 1 ? points : usual);
+  insert(isDrawn ? points : usual);
 }
 
 void InsertTool::giveUp() {
@@ -165,25 +167,40 @@ void InsertTool::giveUp() {
 }
 
 void InsertTool::insert(QVector<QPointF> const& points) {
-  if (kind_.content == NewElementKind::Content::None) return insertWith(points, QString());
-  if (kind_.content == NewElementKind::Content::Text) {
-    auto const draft = SysUtility::ptr_cast<SysCarto::TextElement>(kind_.make(points, QString()));
-    view_.edit(*draft, [this, points](QString const& text) {
-      if (!text.isEmpty()) insertWith(points, text);
-    });
-    return;
+  switch (kind_.content) {
+    case NewElementKind::Content::None: return insertKind(kind_, points, QString());
+    case NewElementKind::Content::Text: return write(points);
+    case NewElementKind::Content::File: return choosePicture(points);
   }
-  QFileDialog dialog(&view_, Texts::tr("Insert a Picture"), QString(),
-                     Texts::tr("Pictures (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)"));
-  dialog.setObjectName(QStringLiteral("insertPicture"));
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  if (dialog.exec() == QDialog::Accepted) insertWith(points, dialog.selectedFiles().first());
 }
 
-void InsertTool::insertWith(QVector<QPointF> const& points, QString const& content) {
+void InsertTool::write(QVector<QPointF> const& points) {
+  auto const layout = SysFramework::activePageLayout(*hook());
+  QString problem;
+  auto const draft = kind_.make(points, {*layout, QString(), problem});
+  view_.edit(*SysUtility::ptr_cast<SysCarto::TextElement>(draft), [this, points](QString const& text) {
+    if (!text.isEmpty()) insertKind(kind_, points, text);
+  });
+}
+
+// A picture is linked where nobody asks for more, so that its file can still be changed.
+void InsertTool::choosePicture(QVector<QPointF> const& points) {
+  QFileDialog dialog(&view_, Texts::tr("Insert a Picture"), QString(),
+                     Texts::tr("Pictures (*.png *.jpg *.jpeg *.tif *.tiff *.webp *.svg)"));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  auto* const embeds = new QCheckBox(Texts::tr("Embed the picture in the document"), &dialog);
+  embeds->setObjectName(QStringLiteral("checkBox_Embed"));
+  if (auto* const grid = qobject_cast<QGridLayout*>(dialog.layout())) grid->addWidget(embeds, grid->rowCount(), 1);
+  if (dialog.exec() != QDialog::Accepted) return;
+  insertKind(embeds->isChecked() ? *NewElementKind::named(QStringLiteral("embedded")) : kind_, points,
+             dialog.selectedFiles().first());
+}
+
+void InsertTool::insertKind(NewElementKind const& kind, QVector<QPointF> const& points, QString const& content) {
   auto const layout = SysFramework::activePageLayout(*hook());
   if (!layout) return;
-  QString const problem = kind_.insert(*layout, points, content);
+  QString const problem = kind.insert(*layout, points, content);
   if (problem.isEmpty())
     emit view_.toolDone();
   else

@@ -62,7 +62,9 @@ private:
   void giveUp();
   void finish();
   void insert(QVector<QPointF> const& points);
-  void insertWith(QVector<QPointF> const& points, QString const& content);
+  void write(QVector<QPointF> const& points);
+  void choosePicture(QVector<QPointF> const& points);
+  void insertKind(NewElementKind const& kind, QVector<QPointF> const& points, QString const& content);
 
   NewElementKind const& kind_;
   LayoutView& view_;

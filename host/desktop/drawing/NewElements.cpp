@@ -1,16 +1,20 @@
 #include "NewElements.h"
 
-#include "host/desktop/NumberList.h"
+#include "PastedContent.h"
 
+#include "host/SysCarto/elements/EmbeddedPicture.h"
 #include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/PictureElement.h"
 #include "host/SysCarto/elements/TextElement.h"
+#include "host/SysUtility/Fields.h"
+#include "host/desktop/NumberList.h"
 
 #include <SysDisplay/SimpleFillSymbol.h>
 #include <SysDisplay/SimpleLineSymbol.h>
 #include <SysFramework/HostAccess.h>
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <algorithm>
 
@@ -52,16 +56,42 @@ _ptr_t<Box> boxed(QVector<QPointF> const& corners) {
 }
 
 template <class Box>
-_ptr_t<Element> makeBox(QVector<QPointF> const& corners, QString const&) {
+_ptr_t<Element> makeBox(QVector<QPointF> const& corners, NewContent const&) {
   auto const box = boxed<Box>(corners);
   box->setSymbol(usualFill());
   return box;
 }
 
-_ptr_t<Element> makePicture(QVector<QPointF> const& corners, QString const& path) {
-  auto const picture = boxed<SysCarto::PictureElement>(corners);
-  picture->setPath(path);
+// In its own size below and beside a point, or as large as it can be in the upper left of a box.
+_ptr_t<Element> placed(_ptr_t<SysCarto::PictureElement> const& picture, QVector<QPointF> const& points) {
+  if (!picture) return picture;
+  QRectF const box = QRectF(points.first(), points.last()).normalized();
+  auto const natural = picture->GetEnvelope();
+  QSizeF size(natural->GetWidth(), natural->GetHeight());
+  if (points.size() > 1) size.scale(box.size(), Qt::KeepAspectRatio);
+  // y runs upwards, so the bottom of the rectangle is the top of the box.
+  picture->SetGeometry(
+      make<SysGeometry::Envelope>(box.left(), box.bottom() - size.height(), box.left() + size.width(), box.bottom()));
   return picture;
+}
+
+_ptr_t<Element> makePicture(QVector<QPointF> const& points, NewContent const& content) {
+  auto const picture = pictureOfFile(content.words, content.layout, content.problem);
+  return placed(SysUtility::ptr_cast<SysCarto::PictureElement>(picture), points);
+}
+
+_ptr_t<Element> makeEmbedded(QVector<QPointF> const& points, NewContent const& content) {
+  auto const picture =
+      SysUtility::ptr_cast<SysCarto::PictureElement>(pictureOfFile(content.words, content.layout, content.problem));
+  if (!picture) return picture;
+  QFile file(content.words);
+  QString const data = file.open(QIODevice::ReadOnly) ? SysCarto::embeddedPicture(file.readAll()) : QString();
+  if (data.size() > SysUtility::maxCharacters(SysUtility::TextKind::Picture)) {
+    content.problem = Texts::tr("%1: the picture is too large to be embedded; link it.").arg(content.words);
+    return nullptr;
+  }
+  picture->setSource(picture->path(), data);
+  return placed(picture, points);
 }
 
 _ptr_t<SysCarto::LineElement> lined(QVector<QPointF> const& vertices) {
@@ -71,9 +101,9 @@ _ptr_t<SysCarto::LineElement> lined(QVector<QPointF> const& vertices) {
   return line;
 }
 
-_ptr_t<Element> makeLine(QVector<QPointF> const& vertices, QString const&) { return lined(vertices); }
+_ptr_t<Element> makeLine(QVector<QPointF> const& vertices, NewContent const&) { return lined(vertices); }
 
-_ptr_t<Element> makeArrow(QVector<QPointF> const& vertices, QString const&) {
+_ptr_t<Element> makeArrow(QVector<QPointF> const& vertices, NewContent const&) {
   auto const arrow = lined(vertices);
   SysCarto::ArrowHeads heads;
   heads.end = SysCarto::ArrowHead::Triangle;
@@ -81,26 +111,26 @@ _ptr_t<Element> makeArrow(QVector<QPointF> const& vertices, QString const&) {
   return arrow;
 }
 
-_ptr_t<Element> makePolygon(QVector<QPointF> const& vertices, QString const&) {
+_ptr_t<Element> makePolygon(QVector<QPointF> const& vertices, NewContent const&) {
   auto const polygon = make<SysCarto::PolygonElement>();
   polygon->setShape(make<SysGeometry::Polygon>(QVector<QVector<QPointF>>{vertices}));
   polygon->setSymbol(usualFill());
   return polygon;
 }
 
-_ptr_t<Element> makeMarker(QVector<QPointF> const& place, QString const&) {
+_ptr_t<Element> makeMarker(QVector<QPointF> const& place, NewContent const&) {
   auto const marker = make<SysCarto::MarkerElement>();
   marker->setShape(make<SysGeometry::Point>(place[0].x(), place[0].y(), 0.0));
   return marker;
 }
 
 // It hangs below its place, as it was drawn.
-_ptr_t<Element> makeText(QVector<QPointF> const& place, QString const& words) {
+_ptr_t<Element> makeText(QVector<QPointF> const& place, NewContent const& content) {
   auto const text = make<SysCarto::TextElement>();
   auto format = text->symbol()->format();
   format.vertical = SysDisplay::VerticalAlignment::Top;
   text->setSymbol(make<SysDisplay::TextSymbol>(format));
-  text->setText(words);
+  text->setText(content.words);
   text->setPosition(place[0].x(), place[0].y());
   return text;
 }
@@ -112,6 +142,7 @@ QVector<NewElementKind> const& NewElementKind::all() {
   static QVector<NewElementKind> const kinds = {
       {"text",      "Host_InsertText",      QT_TRANSLATE_NOOP("NewElements", "Insert a text"),      Points::Place,    Content::Text, 1, makeText},
       {"picture",   "Host_InsertPicture",   QT_TRANSLATE_NOOP("NewElements", "Insert a picture"),   Points::Corners,  Content::File, 2, makePicture},
+      {"embedded",  nullptr,                QT_TRANSLATE_NOOP("NewElements", "Insert a picture"),   Points::Corners,  Content::File, 2, makeEmbedded},
       {"line",      "Host_InsertLine",      QT_TRANSLATE_NOOP("NewElements", "Insert a line"),      Points::Vertices, Content::None, 2, makeLine},
       {"arrow",     "Host_InsertArrow",     QT_TRANSLATE_NOOP("NewElements", "Insert an arrow"),    Points::Vertices, Content::None, 2, makeArrow},
       {"polygon",   "Host_InsertPolygon",   QT_TRANSLATE_NOOP("NewElements", "Insert a polygon"),   Points::Vertices, Content::None, 3, makePolygon},
@@ -123,21 +154,28 @@ QVector<NewElementKind> const& NewElementKind::all() {
   return kinds;
 }
 
+NewElementKind const* NewElementKind::named(QString const& name) {
+  for (NewElementKind const& kind : all())
+    if (name == QLatin1String(kind.name)) return &kind;
+  return nullptr;
+}
+
+bool NewElementKind::takes(int count) const {
+  return points == Points::Vertices ? count >= minPoints : count == minPoints;
+}
+
 QVector<QPointF> NewElementKind::usualPoints(QPointF const& place) const {
   QPointF const right(usualWidthCm, 0), down(0, -usualHeightCm);
-  switch (points) {
-    case Points::Place: return {place};
-    case Points::Corners: return {place, place + right + down};
-    case Points::Vertices: break;
-  }
+  if (points == Points::Place || content == Content::File) return {place};
+  if (points == Points::Corners) return {place, place + right + down};
   return isClosed() ? QVector<QPointF>{place + right / 2, place + right + down, place + down}
                     : QVector<QPointF>{place, place + right};
 }
 
 QString NewElementKind::insert(SysCarto::PageLayout& layout, QVector<QPointF> const& at, QString const& words) const {
-  auto const element = make(at, words);
-  auto const picture = SysUtility::ptr_cast<SysCarto::PictureElement>(element);
-  if (picture && !picture->problem().isEmpty()) return picture->problem();
+  QString problem;
+  auto const element = make(at, {layout, words, problem});
+  if (!problem.isEmpty()) return problem;
   auto* const container = layout.GetGraphicsContainer();
   {
     SysFramework::EditorOperation const operation(Texts::tr(stepName));
@@ -152,18 +190,13 @@ QString NewElementKind::insert(SysCarto::PageLayout& layout, QVector<QPointF> co
 std::optional<NewElement> NewElement::of(QString const& text) {
   int const at = text.lastIndexOf(QLatin1Char('@'));
   QString const what = text.left(at), name = what.section(QLatin1Char(':'), 0, 0);
-  auto const& kinds = NewElementKind::all();
-  auto const kind = std::find_if(kinds.begin(), kinds.end(),
-                                 [&](NewElementKind const& one) { return name == QLatin1String(one.name); });
+  auto const* const kind = NewElementKind::named(name);
   QString const content = what.mid(name.size() + 1);
-  if (at < 0 || kind == kinds.end() || content.isEmpty() != (kind->content == Content::None)) return std::nullopt;
+  if (at < 0 || !kind || content.isEmpty() != (kind->content == Content::None)) return std::nullopt;
   QVector<QPointF> points;
   auto const numbers = numbersIn(text.mid(at + 1));
   for (int i = 0; i + 1 < numbers.size(); i += 2) points << QPointF(numbers[i], numbers[i + 1]);
+  if (numbers.size() % 2 != 0 || !(points.size() == 1 || kind->takes(points.size()))) return std::nullopt;
   if (points.size() == 1) points = kind->usualPoints(points.first());
-  bool const isCounted = kind->points != Points::Vertices;
-  bool const isRight =
-      numbers.size() % 2 == 0 && (isCounted ? points.size() == kind->minPoints : points.size() >= kind->minPoints);
-  if (!isRight) return std::nullopt;
-  return NewElement{&*kind, content, points};
+  return NewElement{kind, content, points};
 }
