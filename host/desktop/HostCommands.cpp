@@ -158,7 +158,8 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : vie
 _ptr_t<SysUI::ICommand> HostCommands::createCommand(QString const& identifier) const {
   if (identifier == QLatin1String("Host_Select")) return SysUtility::make<SelectTool>(views_);
   for (NewElementKind const& kind : NewElementKind::all())
-    if (kind.identifier && identifier == QLatin1String(kind.identifier)) return SysUtility::make<InsertTool>(kind, views_.layoutView());
+    if (kind.identifier && identifier == QLatin1String(kind.identifier))
+      return SysUtility::make<InsertTool>(kind, views_.layoutView());
   auto const action = actions_.constFind(identifier);
   if (action == actions_.constEnd()) return nullptr;
   return SysUtility::make<HostCommand>(*action);
