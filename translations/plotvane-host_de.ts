@@ -3147,7 +3147,7 @@
     </message>
     <message>
         <source>How many maps more the surrounds follow.</source>
-        <translation>Wie vielen weiteren Karten die Randangaben folgen.</translation>
+        <translation type="vanished">Wie vielen weiteren Karten die Randangaben folgen.</translation>
     </message>
     <message>
         <source>Those of the data frames.</source>
@@ -3604,6 +3604,10 @@
     <message>
         <source>The distance of the lines of a grid to which the mouse draws what it moves; 0 for none.</source>
         <translation>Der Abstand der Linien eines Rasters, an dem die Maus einrastet; 0 für keines.</translation>
+    </message>
+    <message>
+        <source>How many maps more surrounds and overviews follow.</source>
+        <translation>Wie vielen weiteren Karten Randangaben und Übersichten folgen.</translation>
     </message>
 </context>
 <context>
@@ -4335,6 +4339,10 @@
     <message>
         <source>The text on the clipboard is blank; copy something else.</source>
         <translation>Der Text in der Zwischenablage ist leer; kopieren Sie etwas anderes.</translation>
+    </message>
+    <message>
+        <source>Data frames and map surrounds can&apos;t lie in a group; leave the group with Escape first.</source>
+        <translation>Datenrahmen und Randangaben können nicht in einer Gruppe liegen; verlassen Sie die Gruppe zuerst mit Esc.</translation>
     </message>
 </context>
 <context>

@@ -3147,7 +3147,7 @@
     </message>
     <message>
         <source>How many maps more the surrounds follow.</source>
-        <translation>整饰要素所跟随的其他地图的数量。</translation>
+        <translation type="vanished">整饰要素所跟随的其他地图的数量。</translation>
     </message>
     <message>
         <source>Those of the data frames.</source>
@@ -3604,6 +3604,10 @@
     <message>
         <source>The distance of the lines of a grid to which the mouse draws what it moves; 0 for none.</source>
         <translation>鼠标吸附网格的线间距；0 表示没有网格。</translation>
+    </message>
+    <message>
+        <source>How many maps more surrounds and overviews follow.</source>
+        <translation>整饰要素和鹰眼范围所跟随的其他地图的数量。</translation>
     </message>
 </context>
 <context>
@@ -4335,6 +4339,10 @@
     <message>
         <source>The text on the clipboard is blank; copy something else.</source>
         <translation>剪贴板中的文本是空白；请复制别的内容。</translation>
+    </message>
+    <message>
+        <source>Data frames and map surrounds can&apos;t lie in a group; leave the group with Escape first.</source>
+        <translation>数据框和整饰要素不能位于组中；请先按 Esc 离开该组。</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "DocumentViews.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 
 #include <SysCarto/Map.h>
 
@@ -29,6 +30,7 @@ void DocumentViews::follow() {
 }
 
 void DocumentViews::redraw() {
+  if (auto const layout = document_.GetPageLayout()) SysCarto::PageLayoutHost::followGroups(*layout);
   layoutView_->refresh(SysCarto::RefreshPhase::Everything);
   mapView_->refresh(SysCarto::RefreshPhase::Everything);
 }

@@ -2,6 +2,10 @@
 
 #include "ElementModel.h"
 
+#include "host/SysCarto/layout/PageLayoutHost.h"
+
+#include <SysFramework/HostAccess.h>
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -9,15 +13,26 @@
 #include <algorithm>
 
 using SysCarto::ElementHandle;
+using SysCarto::PageLayout;
+using SysCarto::PageLayoutHost;
 
 namespace {
 
+using Elements = QList<IElementContainer::ElementPtr>;
+
 constexpr int signWidthPx = 26;
 
-QList<ElementHandle> selectedHandles(SysCarto::PageLayout const& layout) {
+QList<ElementHandle> selectedHandles(PageLayout const& layout) {
   QList<ElementHandle> handles;
-  for (auto const& element : layout.GetGraphicsContainer()->GetSelectedElements()) handles << element->GetHandle();
+  for (auto const& element : PageLayoutHost::workplace(layout).GetSelectedElements()) handles << element->GetHandle();
   return handles;
+}
+
+// The topmost is in the first row.
+QHash<ElementHandle, int> rowsOf(Elements const& elements) {
+  QHash<ElementHandle, int> rows;
+  for (int i = 0; i < elements.size(); ++i) rows.insert(elements[i]->GetHandle(), elements.size() - 1 - i);
+  return rows;
 }
 
 }  // namespace
@@ -55,44 +70,70 @@ void ElementList::follow() {
   auto const selected = layout ? selectedHandles(*layout) : QList<ElementHandle>();
   isFollowing_ = true;
   bool const isOther = model_->follow();
-  if (isOther || selected != shown_) showSelection(selected);
+  if (layout && (isOther || selected != shown_)) showSelection(*layout);
+  shown_ = selected;
   isFollowing_ = false;
   viewport()->update();  // a lock may be another one without a step
 }
 
 // Neighbours are selected together, since thousands of ranges would take long.
-void ElementList::showSelection(QList<ElementHandle> const& selected) {
-  shown_ = selected;
+void ElementList::showSelection(PageLayout const& layout) {
+  QModelIndex const group = model_->groupAt(PageLayoutHost::openPath(layout));
+  auto const known = rowsOf(PageLayoutHost::workplace(layout).GetElements());
   std::vector<int> rows;
-  for (ElementHandle const handle : selected) rows.push_back(model_->rowOf(handle));
+  for (auto const& element : PageLayoutHost::workplace(layout).GetSelectedElements())
+    rows.push_back(known.value(element->GetHandle()));
   std::sort(rows.begin(), rows.end());
   QItemSelection selection;
   for (std::size_t first = 0, next; first < rows.size(); first = next) {
     for (next = first + 1; next < rows.size() && rows[next] == rows[next - 1] + 1;) ++next;
-    selection.select(model_->index(rows[first], 0), model_->index(rows[next - 1], ElementModel::columns - 1));
+    selection.select(model_->index(rows[first], 0, group),
+                     model_->index(rows[next - 1], ElementModel::columns - 1, group));
   }
   selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
   if (rows.empty()) return;
-  selectionModel()->setCurrentIndex(model_->index(rows.front(), 0), QItemSelectionModel::NoUpdate);
-  scrollTo(model_->index(rows.front(), 0));
+  QModelIndex const current = model_->index(rows.front(), 0, group);
+  selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+  scrollTo(current);
 }
 
-// In the order in which they were selected, since some commands ask for the first or the last one.
+// What lies in one group, or in none, is selected together. It is in the order in which it was selected, since some
+// commands ask for the first or the last one.
 void ElementList::selectionChanged(QItemSelection const& selected, QItemSelection const& deselected) {
   QTreeView::selectionChanged(selected, deselected);
   auto const layout = session_.document().GetPageLayout();
   if (isFollowing_ || !layout) return;
+  QModelIndexList const rows = selectionModel()->selectedRows();
+  QModelIndex const group = selected.isEmpty() ? rows.value(0).parent() : selected.last().parent();
+  PageLayoutHost::openOnly(*layout, model_->pathOf(group));
+  auto& container = PageLayoutHost::workplace(*layout);
+  auto const elements = container.GetElements();
   QSet<ElementHandle> wanted;
-  for (QModelIndex const& index : selectionModel()->selectedRows()) wanted << model_->handleOf(index);
-  auto& container = *layout->GetGraphicsContainer();
-  for (auto const& element : container.GetSelectedElements())
-    if (!wanted.remove(element->GetHandle())) container.UnselectElement(element);
-  auto const elements = wanted.isEmpty() ? QList<IElementContainer::ElementPtr>() : container.GetElements();
-  for (auto const& element : elements)
-    if (wanted.contains(element->GetHandle())) container.SelectElement(element);
-  shown_ = selectedHandles(*layout);
+  for (QModelIndex const& row : rows)
+    if (row.parent() == group) wanted << elements.at(elements.size() - 1 - row.row())->GetHandle();
+  bool const isAll = wanted.size() == rows.size();
+  Elements picked;
+  for (auto const& element : container.GetSelectedElements() + elements)
+    if (wanted.remove(element->GetHandle())) picked << element;
+  container.UnselectAllElements();
+  for (auto const& element : qAsConst(picked)) container.SelectElement(element);
+  shown_ = isAll ? selectedHandles(*layout) : QList<ElementHandle>{0};  // the others are still to be unselected here
   layout->PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
   emit chosen();
+}
+
+void ElementList::restack(bool upwards) {
+  auto const layout = session_.document().GetPageLayout();
+  auto const selected = layout ? PageLayoutHost::workplace(*layout).GetSelectedElements() : Elements();
+  if (selected.isEmpty()) return;
+  {
+    SysFramework::EditorOperation const operation(ElementModel::tr("Restack the selected elements"));
+    if (upwards)
+      PageLayoutHost::workplace(*layout).BringForward(selected);
+    else
+      PageLayoutHost::workplace(*layout).SendBackward(selected);
+  }
+  layout->PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 // A click on a sign is no choice.
@@ -103,10 +144,8 @@ QItemSelectionModel::SelectionFlags ElementList::selectionCommand(QModelIndex co
 
 void ElementList::keyPressEvent(QKeyEvent* event) {
   bool const restacks = event->modifiers() == Qt::AltModifier;
-  if (restacks && event->key() == Qt::Key_Up)
-    return emit commandWanted(QStringLiteral("Plotvane_BringForwardElements"));
-  if (restacks && event->key() == Qt::Key_Down)
-    return emit commandWanted(QStringLiteral("Plotvane_SendBackwardElements"));
+  if (restacks && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down))
+    return restack(event->key() == Qt::Key_Up);
   if (event->key() == Qt::Key_Space && !(event->modifiers() & Qt::ControlModifier))
     return model_->toggle(currentIndex().siblingAtColumn(
         event->modifiers() & Qt::ShiftModifier ? ElementModel::LockedColumn : ElementModel::HiddenColumn));

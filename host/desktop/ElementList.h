@@ -7,7 +7,8 @@
 class ElementModel;
 
 /// The list of a page's elements, the topmost first: what is selected there is selected on the page, and the other way
-/// round; names are edited in place, a click on an eye or a lock hides, shows, locks or unlocks, and a drag restacks.
+/// round; a member of a group opens it. Names are edited in place, a click on an eye or a lock hides, shows, locks or
+/// unlocks, and a drag or Alt with an arrow restacks.
 class ElementList final : public QTreeView {
   Q_OBJECT
 
@@ -23,8 +24,6 @@ signals:
   /// A person has selected something in the list.
   void chosen();
 
-  /// A key asks for a command.
-  void commandWanted(QString const& identifier);
   void told(QString const& sentence);
 
 protected:
@@ -34,7 +33,8 @@ protected:
   void showEvent(QShowEvent* event) override;
 
 private:
-  void showSelection(QList<SysCarto::ElementHandle> const& selected);
+  void showSelection(SysCarto::PageLayout const& layout);
+  void restack(bool upwards);
 
   DocumentSession& session_;
   ElementModel* const model_;

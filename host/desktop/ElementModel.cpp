@@ -132,10 +132,13 @@ bool ElementModel::follow() {
   int const shorter = std::min(before, now.size());
   while (first < shorter && isSame(first, first)) ++first;
   while (same < shorter - first && isSame(before - 1 - same, now.size() - 1 - same)) ++same;
-  bool const isOther = first < before || first < now.size();
+  bool isOther = first < before || first < now.size();
   if (isOther) replaceRows(first, before - first - same, now.mid(first, now.size() - first - same));
-  for (int row = 0; row < now.size(); ++row)
-    if (shown[row]->element != now[row]) update(index(row, 0), *shown[row], now[row]);
+  for (int row = 0; row < now.size(); ++row) {
+    if (shown[row]->element == now[row]) continue;
+    isOther = true;
+    update(index(row, 0), *shown[row], now[row]);
+  }
   return isOther;
 }
 
@@ -189,6 +192,22 @@ void ElementModel::update(QModelIndex const& at, Node& node, _ptr_t<Element> con
 ElementHandle ElementModel::handleOf(QModelIndex const& index) const {
   return index.isValid() ? nodeOf(index)->element->GetHandle() : 0;
 }
+
+QVector<int> ElementModel::pathOf(QModelIndex const& group) const {
+  QVector<int> path;
+  for (Node const* node = nodeOf(group); node != root_.get(); node = node->parent)
+    path.prepend(node->parent == root_.get() ? node->element->GetHandle() : placeOf(*node));
+  return path;
+}
+
+QModelIndex ElementModel::groupAt(QVector<int> const& path) const {
+  QModelIndex group;
+  for (int const step : path) group = index(group.isValid() ? rowCount(group) - 1 - step : rowOf(step), 0, group);
+  return group;
+}
+
+// Among the members of its group, from below.
+int ElementModel::placeOf(Node const& node) { return static_cast<int>(node.parent->nodes.size()) - 1 - node.row; }
 
 QModelIndex ElementModel::index(int row, int column, QModelIndex const& parent) const {
   auto const& nodes = below(parent);
@@ -263,9 +282,9 @@ QVariant ElementModel::headerData(int section, Qt::Orientation orientation, int 
 
 Qt::ItemFlags ElementModel::flags(QModelIndex const& index) const {
   if (!index.isValid()) return Qt::ItemIsDropEnabled;
-  Qt::ItemFlags flags = Qt::ItemIsEnabled;
+  Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
   if (index.column() == NameColumn) flags |= Qt::ItemIsEditable;
-  if (handleOf(index) > 0) flags |= Qt::ItemIsSelectable | Qt::ItemIsDragEnabled;
+  if (handleOf(index) > 0) flags |= Qt::ItemIsDragEnabled;
   return flags;
 }
 
@@ -273,10 +292,8 @@ Qt::ItemFlags ElementModel::flags(QModelIndex const& index) const {
 bool ElementModel::set(Node const& node, char const* key, QJsonValue const& value) {
   QStringList path{QLatin1String(key)};
   Node const* outermost = &node;
-  for (; outermost->parent != root_.get(); outermost = outermost->parent) {
-    int const fromBelow = static_cast<int>(outermost->parent->nodes.size()) - 1 - outermost->row;
-    path = QStringList{QStringLiteral("members"), QString::number(fromBelow)} + path;
-  }
+  for (; outermost->parent != root_.get(); outermost = outermost->parent)
+    path = QStringList{QStringLiteral("members"), QString::number(placeOf(*outermost))} + path;
   QStringList warnings;
   QString const problem = Editable::set(
       document_, {Editable::element(document_, outermost->element->GetHandle())}, path,

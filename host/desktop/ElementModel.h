@@ -22,7 +22,7 @@ public:
   explicit ElementModel(SysCarto::MapDocument const& document, QObject* parent);
   ~ElementModel() override;
 
-  /// Answers whether rows came or went.
+  /// Answers whether anything has changed.
   bool follow();
 
   /// 0 for a member of a group, which has none.
@@ -30,6 +30,10 @@ public:
 
   /// −1 where no row shows it.
   int rowOf(SysCarto::ElementHandle handle) const { return rows_.value(handle, -1); }
+
+  // Groups in each other, as `PageLayoutHost::openPath` tells them; no row stands for none.
+  QVector<int> pathOf(QModelIndex const& group) const;
+  QModelIndex groupAt(QVector<int> const& path) const;
 
   /// Hides or shows, locks or unlocks what is in a row of these columns.
   void toggle(QModelIndex const& index);
@@ -67,6 +71,7 @@ private:
   void update(QModelIndex const& at, Node& node, SysUtility::_ptr_t<SysCarto::Element> const& element);
   void replaceRows(int first, int count, QList<SysUtility::_ptr_t<SysCarto::Element>> const& elements);
   void number();
+  static int placeOf(Node const& node);
   QString textOf(Node const& node) const;
   QVariant iconOf(Node const& node, int column) const;
   bool set(Node const& node, char const* key, QJsonValue const& value);

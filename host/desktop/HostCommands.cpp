@@ -38,13 +38,13 @@ _ptr_t<SysCarto::PageLayout> shownLayout(DocumentViews const& views) {
 }
 
 void selectAll(SysCarto::PageLayout& layout) {
-  for (auto const& element : layout.GetGraphicsContainer()->GetElements())
-    if (isInReach(*element)) layout.GetGraphicsContainer()->SelectElement(element);
+  for (auto const& element : workplace(layout).GetElements())
+    if (isInReach(*element)) workplace(layout).SelectElement(element);
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
 void unselect(SysCarto::PageLayout& layout) {
-  layout.GetGraphicsContainer()->UnselectAllElements();
+  workplace(layout).UnselectAllElements();
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
@@ -52,15 +52,13 @@ void deleteSelection(SysCarto::PageLayout& layout) {
   {
     SysFramework::EditorOperation const operation(
         QCoreApplication::translate("HostCommands", "Delete the selected elements"));
-    for (auto const& element : movableSelection(layout)) layout.GetGraphicsContainer()->DeleteElement(element);
+    for (auto const& element : movableSelection(layout)) workplace(layout).DeleteElement(element);
   }
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
 
-bool hasElements(SysCarto::PageLayout const& layout) { return !layout.GetGraphicsContainer()->GetElements().isEmpty(); }
-bool hasSelection(SysCarto::PageLayout const& layout) {
-  return layout.GetGraphicsContainer()->GetSelectedElementCount() > 0;
-}
+bool hasElements(SysCarto::PageLayout const& layout) { return !workplace(layout).GetElements().isEmpty(); }
+bool hasSelection(SysCarto::PageLayout const& layout) { return workplace(layout).GetSelectedElementCount() > 0; }
 bool hasMovable(SysCarto::PageLayout const& layout) { return !movableSelection(layout).isEmpty(); }
 
 _ptr_t<SysCarto::Element> selectedAlone(DocumentViews const& views) {

@@ -47,12 +47,23 @@ void paintFocusMark(QPainter& painter, PageLayout const& layout) {
 void paintLocked(QPainter& painter, PageLayout const& layout) {
   painter.save();
   painter.setPen(QPen(QColor(0x70, 0x78, 0x80), 1, Qt::DashLine));
-  for (auto const& element : layout.GetGraphicsContainer()->GetSelectedElements()) {
+  for (auto const& element : workplace(layout).GetSelectedElements()) {
     if (!isLocked(*element)) continue;
     auto const place = element->GetEnvelope();
     painter.drawRect(layout.GetDisplayTransformation()->ToDevice().mapRect(
         QRectF(place->GetXMin(), place->GetYMin(), place->GetWidth(), place->GetHeight())));
   }
+  painter.restore();
+}
+
+// About the group that is open.
+void paintOpenGroup(QPainter& painter, PageLayout const& layout) {
+  auto const area = SysCarto::PageLayoutHost::openGroups(layout) > 0 ? areaOf(workplace(layout)) : QRectF();
+  if (area.isNull()) return;
+  painter.save();
+  painter.setPen(QPen(QColor(0xe8, 0x71, 0x0a), 1, Qt::DashLine));
+  painter.drawRect(layout.GetDisplayTransformation()->ToDevice().mapRect(area).adjusted(-markGapPx, -markGapPx,
+                                                                                        markGapPx, markGapPx));
   painter.restore();
 }
 
@@ -143,6 +154,7 @@ QRectF LayoutView::placeOfPicture() const {
 void LayoutView::paintOver(QPainter& painter) {
   if (!layout_) return;
   paintFocusMark(painter, *layout_);
+  paintOpenGroup(painter, *layout_);
   paintLocked(painter, *layout_);
   if (!hostTool() || !hostTool()->paintOver(painter)) SelectionHandles(*layout_).paint(painter);
 }

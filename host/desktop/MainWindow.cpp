@@ -249,10 +249,6 @@ void MainWindow::buildProperties() {
   });
   connect(contents_, &SysAdapterUI::TOCControl::RowChosen, properties_, &PropertyPanel::showRow);
   connect(elements_, &ElementList::chosen, properties_, &PropertyPanel::showSelection);
-  connect(elements_, &ElementList::commandWanted, this, [this](QString const& identifier) {
-    auto const* const command = bench_.commands().find(identifier);
-    if (command) bench_.commands().click(*command);
-  });
   auto const tell = [this](QString const& sentence) { notice_->tell(sentence, false); };
   connect(properties_, &PropertyPanel::told, notice_, tell);
   connect(elements_, &ElementList::told, notice_, tell);

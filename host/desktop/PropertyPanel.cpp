@@ -2,6 +2,7 @@
 
 #include "host/SysAdapterUI/SymbolChooser.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysUtility/ChangeMark.h"
 
 #include <SysCarto/MapFrameElement.h>
@@ -40,9 +41,9 @@ PropertyPanel::~PropertyPanel() { sheet_->show(nullptr); }
 QList<SysCarto::ElementHandle> PropertyPanel::selection() const {
   QList<SysCarto::ElementHandle> handles;
   auto const layout = session_.document().GetPageLayout();
-  auto* const container = layout ? layout->GetGraphicsContainer() : nullptr;
-  if (!container) return handles;
-  for (auto const& element : container->GetSelectedElements()) handles << element->GetHandle();
+  if (!layout) return handles;
+  for (auto const& element : SysCarto::PageLayoutHost::workplace(*layout).GetSelectedElements())
+    handles << element->GetHandle();
   return handles;
 }
 

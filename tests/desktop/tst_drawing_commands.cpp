@@ -1,22 +1,13 @@
 #include "Dialogs.h"
 #include "LayerFixture.h"
-#include "desktop/WorkbenchPage.h"
+#include "desktop/DrawingPage.h"
 
-#include "export/LayoutRenderer.h"
-#include "host/SysCarto/document/Editable.h"
-#include "host/SysCarto/document/ElementFields.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/PictureElement.h"
+#include "host/SysCarto/layout/MapOverview.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysUtility/JsonFile.h"
-#include "host/desktop/ElementList.h"
-#include "host/desktop/ElementModel.h"
 #include "host/desktop/MainWindow.h"
-
-#include <QAbstractItemModelTester>
-#include <QUndoView>
-
-#include <random>
 
 using SysCarto::Editable;
 using SysCarto::GroupElement;
@@ -65,7 +56,7 @@ QMimeData* withOwn(QByteArray const& text) {
 
 }  // namespace
 
-/// The clipboard, groups, and the list of elements.
+/// The clipboard, and groups.
 class DrawingCommandsTest : public QObject {
   Q_OBJECT
 
@@ -81,7 +72,7 @@ private slots:
   void allThatAnElementHasIsPasted() {
     QVector<QJsonObject> originals;
     {
-      Page page;
+      DrawingPage page;
       QVERIFY(page.bench.session().open(path("start.kdx")));
       for (auto const& element : page.container().GetElements()) {
         originals << storedWithoutNumbers(page, *element);
@@ -96,7 +87,7 @@ private slots:
       QVERIFY(page.run("Host_Duplicate"));
       QCOMPARE(page.container().GetElements().size(), 2 * originals.size());
     }
-    Page other;
+    DrawingPage other;
     QVERIFY(other.run("Host_PasteInPlace"));
     QCOMPARE(other.problem, QString());
     compare(other, originals, 0);
@@ -105,7 +96,7 @@ private slots:
   }
 
   void aSurroundStaysWithItsMap() {
-    Page page;
+    DrawingPage page;
     auto const first = page.add<MapFrameElement>(1, 15, 10, 25), second = page.add<MapFrameElement>(11, 15, 20, 25);
     auto const legend = in(surroundOf<SysCarto::Legend>(second->GetMap()), 1, 1, 5, 5);
     page.container().AddElement(legend);
@@ -129,10 +120,21 @@ private slots:
     page.container().DeleteElement(second);
     QVERIFY(page.run("Host_Paste"));
     QCOMPARE(pasted(), first->GetMap());
+
+    auto const frame = page.add<MapFrameElement>(1, 1, 5, 5);
+    auto const overview = make<SysCarto::MapOverview>();
+    overview->setMap(first->GetMap());
+    frame->AddMapGrid(overview);
+    page.container().UnselectAllElements();
+    page.container().SelectElement(frame);
+    QVERIFY(page.run("Host_Copy") && page.run("Host_Paste"));
+    auto const copy = ptr_cast<MapFrameElement>(page.container().GetElements().last());
+    QVERIFY(copy->GetMap() != frame->GetMap());
+    QCOMPARE(ptr_cast<SysCarto::MapOverview>(copy->GetMapGrid(0))->map(), first->GetMap());
   }
 
   void eachPasteLiesALittleFurtherAndInTheView() {
-    Page page;
+    DrawingPage page;
     auto const box = page.add<RectangleElement>(2, 20, 4, 21);
     page.container().SelectElement(box);
     QVERIFY(page.run("Host_Copy"));
@@ -152,7 +154,7 @@ private slots:
   }
 
   void whatOtherProgramsCopyBecomesAnElement() {
-    Page page;
+    DrawingPage page;
     auto const pasted = [&page](QMimeData* data) {
       QApplication::clipboard()->setMimeData(data);
       if (!page.run("Host_Paste")) return _ptr_t<SysCarto::Element>();
@@ -197,7 +199,7 @@ private slots:
   }
   void whatCantBePastedIsToldAndChangesNothing() {
     auto const [data, says] = fetched<QMimeData*, QString>();
-    Page page;
+    DrawingPage page;
     page.container().SelectElement(page.add<RectangleElement>(1, 1, 2, 2));
     QByteArray const before = MapDocumentHost::text(page.bench.session().document());
     QApplication::clipboard()->setMimeData(data);
@@ -230,7 +232,7 @@ private slots:
   }
 
   void aGroupLiesWhereItsTopmostMemberLay() {
-    Page page;
+    DrawingPage page;
     auto const a = page.add<RectangleElement>(1, 1, 2, 2), between = page.add<RectangleElement>(3, 1, 4, 2),
                b = page.add<RectangleElement>(5, 1, 6, 2), top = page.add<RectangleElement>(7, 1, 8, 2);
     QByteArray const before = MapDocumentHost::text(page.bench.session().document());
@@ -257,7 +259,7 @@ private slots:
   }
 
   void aGroupHoldsNoFramesAndIsNotTooDeep() {
-    Page page;
+    DrawingPage page;
     page.add<RectangleElement>(1, 1, 2, 2);
     auto const frame = page.add<MapFrameElement>(3, 1, 4, 2);
     page.run("Host_SelectAll");
@@ -274,225 +276,78 @@ private slots:
     QVERIFY(page.bench.session().saveAs(path("deep.kdx")) && page.bench.session().open(path("deep.kdx")));
   }
 
-  void whatIsHiddenIsNeitherDrawnNorHit() {
-    Page page;
-    auto const box = page.add<RectangleElement>(2, 2, 6, 6);
+  void aDoubleClickOpensAGroup() {
+    DrawingPage page;
     auto const group = make<GroupElement>();
-    auto const member = madeIn<RectangleElement>(8, 2, 12, 6);
-    group->AddElement(member);
+    group->AddElement(madeIn<RectangleElement>(2, 2, 6, 6));
+    auto const inner = make<GroupElement>();
+    for (double x : {8, 14}) inner->AddElement(madeIn<RectangleElement>(x, 2, x + 4, 6));
+    group->AddElement(inner);
     page.container().AddElement(group);
-    auto const isDrawn = [&page](double x, double y) {
-      QSize const size(210, 297);
-      Plugin::LayoutRenderer const renderer(page.layout(), size, 25);
-      QImage const exported = renderer.tileImage(QRect(QPoint(), size), nullptr);
-      QImage const seen = page.view().grab().toImage();
-      bool const isExported = exported.pixelColor(qRound(10 * x), 297 - qRound(10 * y)) != Qt::white;
-      bool const isSeen = seen.pixelColor(page.pixel(x, y)) != Qt::white;
-      page.click(page.pixel(x, y));
-      bool const isHit = page.container().GetSelectedElementCount() > 0;
-      page.click(page.pixel(18, 28));
-      return QVector<bool>{isExported, isSeen, isHit};
+    auto& document = page.bench.session().document();
+    QByteArray const before = MapDocumentHost::text(document);
+    auto const lefts = [&] {
+      QStringList all;
+      std::function<void(SysCarto::Element const&)> const add = [&](SysCarto::Element const& element) {
+        auto const* const whole = dynamic_cast<GroupElement const*>(&element);
+        if (!whole) all << QString::number(qRound(placeOf(element).left()));
+        for (auto const& member : whole ? whole->GetElements() : QList<_ptr_t<SysCarto::Element>>()) add(*member);
+      };
+      for (auto const& element : page.container().GetElements()) add(*element);
+      return all.join(' ');
     };
-    QVector<bool> const all(3, true), none(3, false);
-    QCOMPARE(isDrawn(4, 4), all);
-    QCOMPARE(isDrawn(10, 4), all);
-    set(page, QStringLiteral("#%1").arg(box->GetHandle()), {"hidden"}, true);
-    set(page, QStringLiteral("#%1").arg(group->GetHandle()), {"members", "0", "hidden"}, true);
-    QCOMPARE(isDrawn(4, 4), none);
-    QCOMPARE(isDrawn(10, 4), none);
-    QVERIFY(page.bench.session().saveAs(path("hidden.kdx")) && page.bench.session().open(path("hidden.kdx")));
-    QCOMPARE(isDrawn(4, 4), none);
-    page.run("Host_SelectAll");
-    QCOMPARE(page.container().GetSelectedElementCount(), 1);  // the group
-  }
+    auto const doubleClick = [&page](double x, double y) {
+      page.click(page.pixel(x, y));
+      page.mouse(QEvent::MouseButtonDblClick, page.pixel(x, y));
+      page.mouse(QEvent::MouseButtonRelease, page.pixel(x, y));
+    };
+    auto const history = document.GetOperationStack();
 
-  void whatIsLockedIsLeftAlone() {
-    Page page;
-    auto const box = page.add<RectangleElement>(2, 2, 6, 6);
-    QString const name = QStringLiteral("#%1").arg(box->GetHandle());
-    set(page, name, {"locked"}, true);
-    QByteArray const before = MapDocumentHost::text(page.bench.session().document());
-    page.click(page.pixel(4, 4));
-    page.drag(page.pixel(1, 1), page.pixel(7, 7));
-    page.run("Host_SelectAll");
-    QCOMPARE(page.container().GetSelectedElementCount(), 0);
-    page.container().SelectElement(page.now(*box));  // as the list does
+    doubleClick(4, 4);
+    QVERIFY(!history->CanUndo() && MapDocumentHost::text(document) == before);
     page.drag(page.pixel(4, 4), page.pixel(5, 5));
-    page.container().SelectElement(page.now(*box));
-    page.key(Qt::Key_Left);
-    QVERIFY(!page.run("Host_Delete") && !page.run("Host_Cut"));
-    QVERIFY(MapDocumentHost::text(page.bench.session().document()) == before);
-    page.bench.session().document().GetOperationStack()->Undo();
-    page.click(page.pixel(4, 4));
-    QCOMPARE(page.container().GetSelectedElementCount(), 1);
-  }
+    QCOMPARE(lefts(), QString("3 8 14"));
+    QCOMPARE(history->GetUndoName(), QString("Move the selected elements"));
+    setField(page, "selection", {"name"}, "Roof");
+    QCOMPARE(ptr_cast<GroupElement>(page.container().GetElements().first())->GetElements().first()->GetName(),
+             QString("Roof"));
+    history->Undo();
+    history->Undo();
+    QVERIFY(!history->CanUndo() && MapDocumentHost::text(document) == before);
+    QCOMPARE(Editable::named(document, "selection").size(), 1);
+    page.drag(page.pixel(4, 4), page.pixel(6, 4));  // the group is open still
+    doubleClick(10, 4);                             // and the one in it is opened, too
+    page.drag(page.pixel(10, 4), page.pixel(9, 4));
+    QVERIFY(page.run("Host_Duplicate"));
+    QCOMPARE(lefts(), QString("4 7 14 8"));
+    QByteArray const after = MapDocumentHost::text(document);
 
-  void theListShowsTheTopmostFirstAndChangesIt() {
-    Page page;
-    auto const low = page.add<RectangleElement>(2, 2, 6, 6), high = page.add<RectangleElement>(3, 2, 7, 6);
-    auto const group = make<GroupElement>();
-    for (char const* name : {"below", "above"}) {
-      auto const member = madeIn<RectangleElement>(8, 2, 12, 6);
-      member->SetName(name);
-      group->AddElement(member);
-    }
-    page.container().AddElement(group);
-    ElementModel model(page.bench.session().document(), nullptr);
-    QAbstractItemModelTester const tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    model.follow();
-    auto const history = page.bench.session().document().GetOperationStack();
-    auto const row = [&](int number) { return model.index(number, 0); };
-    QCOMPARE(model.handleOf(row(0)), group->GetHandle());
-    QCOMPARE(model.index(0, 0, row(0)).data().toString(), QString("above"));
+    page.key(Qt::Key_Escape);
+    page.key(Qt::Key_Escape);
+    QCOMPARE(page.container().GetSelectedElements(), page.container().GetElements());
+    for (int i = 0; i < 3; ++i) history->Undo();
+    QVERIFY(MapDocumentHost::text(document) == before);
+    for (int i = 0; i < 3; ++i) history->Redo();
+    QVERIFY(MapDocumentHost::text(document) == after);
 
-    QVERIFY(model.setData(row(1), "Roof", Qt::EditRole));
-    QCOMPARE(page.now(*high)->GetName(), QString("Roof"));
-    QVERIFY(history->GetUndoName().contains("name"));
-    model.follow();
-    QVERIFY(model.setData(model.index(1, 0, row(0)), "deep", Qt::EditRole));
-    QCOMPARE(ptr_cast<GroupElement>(page.now(*group))->GetElements().first()->GetName(), QString("deep"));
-    model.follow();
-    model.toggle(model.index(0, ElementModel::HiddenColumn, row(0)));
-    QVERIFY(!ptr_cast<GroupElement>(page.now(*group))->GetElements().last()->IsVisible());
-
-    std::unique_ptr<QMimeData> const dragged(model.mimeData({row(0)}));
-    model.dropMimeData(dragged.get(), Qt::MoveAction, 2, 0, {});
-    model.follow();
-    QCOMPARE(model.handleOf(row(1)), group->GetHandle());
-    QCOMPARE(model.handleOf(row(2)), low->GetHandle());
-    for (int i = 0; i < 4; ++i) history->Undo();
-    QVERIFY(!history->CanUndo());
-    model.follow();
-    QCOMPARE(model.handleOf(row(0)), group->GetHandle());
-    QCOMPARE(model.index(1, 0, row(0)).data().toString(), QString("below"));
-  }
-
-  void theListFollowsWhateverHappens() {
-    Page page;
-    QVERIFY(page.bench.session().open(path("start.kdx")));
-    ElementModel model(page.bench.session().document(), nullptr);
-    QAbstractItemModelTester const tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    QStringList const commands = QString(
-                                     "Host_Group Host_Ungroup Host_Duplicate Host_Delete Host_Undo Host_Redo "
-                                     "Plotvane_BringToFrontElements Plotvane_SendBackwardElements Host_Undo")
-                                     .split(' ');
-    std::mt19937 random{7};
-    for (int step = 0; step < 300; ++step) {
-      page.container().UnselectAllElements();
-      for (auto const& element : page.container().GetElements())
-        if (random() % 4 == 0) page.container().SelectElement(element);
-      page.run(commands.at(random() % commands.size()));
-      model.follow();
-      auto const elements = page.container().GetElements();
-      QCOMPARE(model.rowCount(), elements.size());
-      for (int i = 0; i < elements.size(); ++i) {
-        QModelIndex const row = model.index(elements.size() - 1 - i, 0);
-        QCOMPARE(model.handleOf(row), elements[i]->GetHandle());
-        auto const group = ptr_cast<GroupElement>(elements[i]);
-        QCOMPARE(model.rowCount(row), group ? group->GetElements().size() : 0);
-      }
-    }
-  }
-
-  void theListAndThePageHaveOneSelection() {
-    MainWindow window;
-    window.show();
-    WorkbenchPage page(window.bench());
-    QList<_ptr_t<SysCarto::Element>> many;
-    for (int i = 0; i < 10000; ++i)
-      many << madeIn<RectangleElement>(i % 100 * 0.2, i / 100 * 0.2, i % 100 * 0.2 + 0.1, i / 100 * 0.2 + 0.1);
-    page.container().AddElements(many);
-    auto& list = *window.findChild<ElementList*>();
-    QElapsedTimer clock;
-    clock.start();
-    list.follow();
-    qint64 const filled = clock.restart();
+    doubleClick(6, 4);
+    page.container().AddElement(madeIn<MapFrameElement>(2, 12, 6, 18));
+    page.click(page.pixel(4, 15));  // beside the group
+    QCOMPARE(page.container().GetSelectedElements().value(0), page.container().GetElements().last());
+    page.run("Host_Copy");
+    doubleClick(6, 4);
+    QVERIFY(page.run("Host_Paste"));
+    QVERIFY2(page.problem.contains("can't lie in a group"), qPrintable(page.problem));
     page.run("Host_SelectAll");
-    clock.restart();
-    list.follow();
-    qint64 const selected = clock.restart();
-    QCOMPARE(list.selectionModel()->selectedRows().size(), 10000);
-    clock.restart();
-    list.follow();
-    qint64 const same = clock.elapsed();
-    qInfo("10,000 elements: %lld ms to fill, %lld ms to select all, %lld ms when nothing has changed", filled, selected,
-          same);
-    QVERIFY(filled + selected + same < 3000);
-
-    list.setCurrentIndex(list.model()->index(3, 0));
-    QCOMPARE(page.container().GetSelectedElements(), (QList<_ptr_t<SysCarto::Element>>{many[9996]}));
-    page.container().UnselectAllElements();
-    list.follow();
-    QVERIFY(!list.selectionModel()->hasSelection());
-    page.container().SelectElement(many[9996]);
-    list.follow();
-    QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
-    QCOMPARE(page.container().GetElements().at(9995), many[9996]);
-    list.follow();
-    QCOMPARE(list.currentIndex().row(), 4);
-  }
-
-  void tabGoesThroughTheElementsAndOn() {
-    MainWindow window;
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    WorkbenchPage page(window.bench());
-    auto const a = page.add<RectangleElement>(1, 1, 2, 2), hidden = page.add<RectangleElement>(1, 1, 2, 2),
-               locked = page.add<RectangleElement>(1, 1, 2, 2), b = page.add<RectangleElement>(5, 25, 6, 26);
-    SysCarto::setLocked(*locked, true);
-    hidden->SetVisible(false);
-    page.layout()->SetExtent(make<SysGeometry::Envelope>(0.0, 0.0, 4.0, 3.0));
-    page.view().setFocus();
-    auto const selected = [&page] { return page.container().GetSelectedElements().value(0); };
-    page.key(Qt::Key_Tab);
-    QCOMPARE(selected(), _ptr_t<SysCarto::Element>(a));
-    page.key(Qt::Key_Tab);
-    QCOMPARE(selected(), _ptr_t<SysCarto::Element>(b));
-    QVERIFY(page.layout()->GetExtent()->Contains(b->GetEnvelope()));
-    page.key(Qt::Key_Backtab, Qt::ShiftModifier);
-    QCOMPARE(selected(), _ptr_t<SysCarto::Element>(a));
-    QVERIFY(page.view().hasFocus());
-    page.key(Qt::Key_Tab, Qt::ControlModifier);
-    QVERIFY(!page.view().hasFocus());
-    page.view().setFocus();
-    page.key(Qt::Key_Tab);
-    page.key(Qt::Key_Tab);
-    QVERIFY(!page.view().hasFocus());
-    QCOMPARE(selected(), _ptr_t<SysCarto::Element>(b));
-  }
-
-  void aClickInTheHistoryGoesThere() {
-    MainWindow window;
-    window.show();
-    WorkbenchPage page(window.bench());
-    auto const box = page.add<RectangleElement>(4, 4, 8, 7);
-    page.container().SelectElement(box);
-    for (int i = 0; i < 3; ++i) page.key(Qt::Key_Right);
-    QVERIFY(page.run("Host_History"));
-    auto& steps = *window.findChild<QUndoView*>();
-    QCOMPARE(steps.model()->rowCount(), 4);
-    steps.setCurrentIndex(steps.model()->index(1, 0));
-    QVERIFY(std::abs(page.place(*box).left() - 4.1) < 1e-9);
-    steps.setCurrentIndex(steps.model()->index(3, 0));
-    QVERIFY(std::abs(page.place(*box).left() - 4.3) < 1e-9);
+    QVERIFY(page.run("Host_Delete"));
+    QCOMPARE(page.container().GetElements().size(), 1);
+    page.run("Host_SelectAll");
+    QCOMPARE(page.container().GetSelectedElements(), page.container().GetElements());
+    history->Undo();
+    QCOMPARE(page.container().GetElements().size(), 2);
   }
 
 private:
-  struct Page : WorkbenchPage {
-    Page() {
-      QObject::connect(&bench.commands(), &CommandSet::failed, [this](QString const& text) { problem = text; });
-    }
-    QString problem;
-  };
-
-  static void set(WorkbenchPage& page, QString const& what, QStringList const& field, QJsonValue const& value) {
-    auto const& document = page.bench.session().document();
-    QStringList warnings;
-    QCOMPARE(Editable::set(
-                 document, Editable::named(document, what), field, [&](QJsonValue const&) { return value; }, warnings),
-             QString());
-  }
-
   // The elements from the given one on.
   static void compare(WorkbenchPage& page, QVector<QJsonObject> const& originals, int from) {
     auto const elements = page.container().GetElements();

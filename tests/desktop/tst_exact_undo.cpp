@@ -126,6 +126,7 @@ private:
     bool alignsToMargins;
     int paper;
     short orientation;
+    _ptr_t<SysCarto::Map> focus;
     QMap<int, bool> locks;
   };
 
@@ -177,10 +178,17 @@ private:
     QRectF const place = page.place(*element);
     QPoint const grip = upTo(1) == 0 ? page.pixel(place.center().x(), place.center().y())
                                      : page.pixel(place.right(), place.bottom());  // the upper right handle
+    if (element->GetType() == SysCarto::ElementType::Group && upTo(1) == 0) return doubleClick(page, grip);
     if (upTo(1) == 0)
       page.click(grip, shift);
     else
       page.drag(grip, grip + QPoint(upTo(80) - 40, upTo(80) - 40), shift);
+  }
+
+  static void doubleClick(WorkbenchPage& page, QPoint const& at) {
+    page.click(at);
+    page.mouse(QEvent::MouseButtonDblClick, at);
+    page.mouse(QEvent::MouseButtonRelease, at);
   }
 
   void changeTheMap(WorkbenchPage& page) {
@@ -221,7 +229,11 @@ private:
 
   static Apart apart(WorkbenchPage& page) {
     auto const* const sheet = page.layout()->GetPage();
-    Apart values{page.layout()->GetAlignToMargins(), sheet->GetFormID(), sheet->GetOrientation(), {}};
+    Apart values{page.layout()->GetAlignToMargins(),
+                 sheet->GetFormID(),
+                 sheet->GetOrientation(),
+                 page.layout()->GetFocusMap(),
+                 {}};
     for (auto const& element : page.container().GetElements())
       if (auto const frame = ptr_cast<MapFrameElement>(element)) values.locks[frame->GetHandle()] = frame->IsLocked();
     return values;
@@ -231,6 +243,7 @@ private:
     page.layout()->SetAlignToMargins(values.alignsToMargins);
     page.layout()->GetPage()->SetFormID(values.paper);
     page.layout()->GetPage()->SetOrientation(values.orientation);
+    page.layout()->SetFocusMap(values.focus);
     for (auto const& element : page.container().GetElements())
       if (auto const frame = ptr_cast<MapFrameElement>(element))
         frame->SetLocked(values.locks.value(frame->GetHandle(), frame->IsLocked()));

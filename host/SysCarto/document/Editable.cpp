@@ -9,6 +9,7 @@
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/layout/MapFrameHost.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/maps/ValueStep.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysDisplay/SymbolFields.h"
@@ -51,7 +52,7 @@ DocumentContext contextOf(MapDocument const& document) {
 
 ElementContainer* elementsOf(MapDocument const& document) {
   auto const layout = document.GetPageLayout();
-  return layout ? static_cast<ElementContainer*>(layout->GetGraphicsContainer()) : nullptr;
+  return layout ? &PageLayoutHost::workplace(*layout) : nullptr;
 }
 
 class EditableElement final : public Editable {
@@ -62,7 +63,10 @@ public:
     auto const element = find();
     if (!element) return QString();
     if (!element->GetName().isEmpty()) return element->GetName();
-    return QStringLiteral("%1 #%2").arg(captionOfKind(*element)).arg(handle_);
+    int depth = 0;
+    find(&depth);
+    QString const kind = captionOfKind(*element);
+    return depth > 0 ? kind : QStringLiteral("%1 #%2").arg(kind).arg(handle_);
   }
 
   QStringList attributes() const override {
@@ -73,17 +77,20 @@ public:
 
 protected:
   void list(Fields& fields, DocumentContext& context) const override {
-    auto element = find();
+    int depth = 0;
+    auto element = find(&depth);
     context.framedMaps.clear();
-    if (element) listElement(fields, element, {context});
+    if (element) listElement(fields, element, {context, false, depth});
   }
 
   Change read(Fields& reader, DocumentContext& context) const override {
     if (auto const frame = SysUtility::ptr_cast<MapFrameElement>(find()))
       context.framedMaps.remove(context.maps.indexOf(frame->GetMap()));
     _ptr_t<Element> made;
-    listElement(reader, made, {context});
-    if (made && made->GetHandle() != handle_) reader.fail("handle", Texts::tr("can't be changed"));
+    int depth = 0;
+    find(&depth);
+    listElement(reader, made, {context, false, depth});
+    if (made && depth == 0 && made->GetHandle() != handle_) reader.fail("handle", Texts::tr("can't be changed"));
     QString const problem = made ? problemOf(*made) : QString();
     if (!problem.isEmpty()) context.warnings << problem;
     return [this, made, told = context.warnings](QString const&, QStringList& warnings) {
@@ -92,14 +99,15 @@ protected:
       auto const frame = SysUtility::ptr_cast<MapFrameElement>(made);
       // A lock is no part of the history, but for one that is set here.
       if (former && frame && former->IsLocked() == frame->IsLocked()) MapFrameHost::shareLock(*frame, *former);
-      elementsOf(document_)->ReplaceElement(handle_, made);
+      PageLayoutHost::holderOf(*document_.GetPageLayout(), handle_).ReplaceElement(handle_, made);
     };
   }
 
 private:
-  _ptr_t<Element> find() const {
-    auto const* const container = elementsOf(document_);
-    return container ? container->find(handle_) : nullptr;
+  // The depth is that of open groups in which it lies.
+  _ptr_t<Element> find(int* depth = nullptr) const {
+    auto const layout = document_.GetPageLayout();
+    return layout ? PageLayoutHost::find(*layout, handle_, depth) : nullptr;
   }
 
   MapDocument const& document_;

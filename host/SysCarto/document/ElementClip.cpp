@@ -38,7 +38,7 @@ struct Content {
     if (!fields.ok()) return;
     int others = otherMaps.size();
     fields.integer({"otherMaps", QT_TRANSLATE_NOOP("Fields", "Other maps"),
-                    QT_TRANSLATE_NOOP("Fields", "How many maps more the surrounds follow.")},
+                    QT_TRANSLATE_NOOP("Fields", "How many maps more surrounds and overviews follow.")},
                    others, 0, maxMaps, 0);
     fields.list(
         {"maps", QT_TRANSLATE_NOOP("Fields", "Maps"), QT_TRANSLATE_NOOP("Fields", "Those of the data frames."), "map"},
@@ -75,7 +75,11 @@ QString tooLarge(qint64 bytes) {
 
 ElementClip ElementClip::of(MapDocument const& document, QList<_ptr_t<Element>> const& elements, QString& problem) {
   Content content;
-  content.elements = elements;
+  for (auto const& element : elements) {
+    auto const clone = element->Clone();
+    ElementHost::setHandle(*clone, 0);  // of no use elsewhere
+    content.elements << clone;
+  }
   listMapsOf(content);
   DocumentContext context;
   context.folder = QFileInfo(document.GetPath()).absolutePath();

@@ -33,7 +33,19 @@ private:
 
 }  // namespace
 
+void Editor::Private::keepOwned(ElementContainer const& container) {
+  auto const isSame = [&](std::weak_ptr<ElementContainer*> const& one) {
+    auto const known = one.lock();
+    return known && *known == &container;
+  };
+  if (std::none_of(owned.begin(), owned.end(), isSame)) owned.push_back(container.token());
+}
+
 bool Editor::Private::records(ElementContainer const& container) {
+  if (isOpen && container.owner()) {
+    keepOwned(container);
+    return true;
+  }
   if (!isOpen || !history) return false;
   auto const isSame = [&](ChangedContainer const& change) {
     auto const changed = change.container.lock();
@@ -44,6 +56,9 @@ bool Editor::Private::records(ElementContainer const& container) {
 }
 
 void Editor::Private::close() {
+  for (std::size_t i = 0; i < owned.size(); ++i)  // an owner may have one itself
+    if (auto const container = owned[i].lock()) (*container)->owner()();
+  owned.clear();
   isOpen = false;
   std::vector<ChangedContainer> const changed = std::move(changes);
   changes.clear();

@@ -22,9 +22,11 @@ struct Editor::Private {
   bool isOpen = false;
   QString name;
   std::vector<ChangedContainer> changes;
+  std::vector<std::weak_ptr<ElementContainer*>> owned;  // that were changed and have an owner
 
   /// A container asks before each change, whose opposite is then kept; false where no operation is open.
   bool records(ElementContainer const& container);
+  void keepOwned(ElementContainer const& container);
   void close();
 };
 

@@ -119,7 +119,7 @@ void ElementContainer::DeleteElement(ElementPtr const& element) {
   changing(!ElementHost::isLabel(*element));
   ElementHandle const handle = element->GetHandle();
   ElementPtr const taken = order_.elements.take(order_.ranks.take(handle));
-  selection_.removeOne(handle);
+  if (selected_.remove(handle)) selection_.removeOne(handle);
   ElementHost::setContainer(*taken, nullptr);
 }
 
@@ -132,13 +132,18 @@ QList<ElementPtr> ElementContainer::GetSelectedElements() const {
 }
 
 void ElementContainer::SelectElement(ElementPtr const& element) {
-  if (holds(element) && !selection_.contains(element->GetHandle())) selection_ << element->GetHandle();
+  if (!holds(element) || selected_.contains(element->GetHandle())) return;
+  selection_ << element->GetHandle();
+  selected_ << element->GetHandle();
 }
 
-void ElementContainer::UnselectAllElements() { selection_.clear(); }
+void ElementContainer::UnselectAllElements() {
+  selection_.clear();
+  selected_.clear();
+}
 
 void ElementContainer::UnselectElement(ElementPtr const& element) {
-  if (element) selection_.removeOne(element->GetHandle());
+  if (element && selected_.remove(element->GetHandle())) selection_.removeOne(element->GetHandle());
 }
 
 void ElementContainer::ReplaceElement(ElementHandle handle, ElementPtr const& element) {
@@ -224,6 +229,7 @@ void ElementContainer::exchange(Order& other) {
   selection_.erase(std::remove_if(selection_.begin(), selection_.end(),
                                   [this](ElementHandle handle) { return !order_.ranks.contains(handle); }),
                    selection_.end());
+  selected_ = QSet<ElementHandle>(selection_.begin(), selection_.end());
 }
 
 }  // namespace SysCarto

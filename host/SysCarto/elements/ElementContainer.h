@@ -8,7 +8,10 @@
 #include <QHash>
 #include <QMap>
 #include <QPointer>
+#include <QSet>
 
+#include <algorithm>
+#include <functional>
 #include <memory>
 
 class QUndoStack;
@@ -54,6 +57,14 @@ public:
   /// a handle as in `AddElement`.
   void setElements(QList<ElementPtr> const& elements);
 
+  /// For the members of a group that is open: `write` is called at the end of each operation that has changed them, and
+  /// its changes are a part of the same step. The history then knows nothing of this container itself.
+  void setOwner(std::function<void()> write) { owner_ = std::move(write); }
+  std::function<void()> const& owner() const { return owner_; }
+
+  /// Handles that the container gives are higher.
+  void setLowestHandle(ElementHandle handle) { lastHandle_ = std::max(lastHandle_, handle); }
+
   // For the undo history.
 
   Order const& order() const { return order_; }
@@ -90,9 +101,11 @@ private:
 
   Order order_;
   QList<ElementHandle> selection_;
+  QSet<ElementHandle> selected_;  // the same, to be asked
   ElementHandle lastHandle_ = 0;
   SysUtility::ChangeMark change_;
   QPointer<QUndoStack> history_;
+  std::function<void()> owner_;
   std::shared_ptr<Placeholders> placeholders_;
   std::shared_ptr<ElementContainer*> token_;
 };

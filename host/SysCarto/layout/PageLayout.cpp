@@ -1,4 +1,5 @@
 #include "MapOverview.h"
+#include "OpenedGroup.h"
 #include "PageHost.h"
 #include "PageLayoutHost.h"
 
@@ -6,6 +7,7 @@
 #include "host/SysCarto/elements/Placement.h"
 #include "host/SysDisplay/DisplayTransformationHost.h"
 
+#include <SysCarto/GroupElement.h>
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurroundFrame.h>
 #include <SysDisplay/Units.h>
@@ -13,6 +15,8 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <memory>
+#include <vector>
 
 namespace SysCarto {
 
@@ -63,6 +67,7 @@ struct PageLayout::Private {
   bool alignToMargins = false;
   SysUtility::ChangeMark change;
   ElementContainer elements;
+  std::vector<std::unique_ptr<OpenedGroup>> opened;  // each in the one before
 
   QList<_ptr_t<MapFrameElement>> frames() const {
     QList<_ptr_t<MapFrameElement>> frames;
@@ -148,6 +153,73 @@ void PageLayout::SetPage(_ptr_t<Page> const& page) { d->change.set(d->page, page
 quint64 PageLayoutHost::lastChange(PageLayout const& layout) {
   PageLayout::Private const& d = *layout.d;
   return std::max({d.change.time(), d.page ? PageHost::lastChange(*d.page) : 0, d.elements.lastChange()});
+}
+
+ElementContainer& PageLayoutHost::workplace(PageLayout const& layout) {
+  return layout.d->opened.empty() ? layout.d->elements : layout.d->opened.back()->members();
+}
+
+ElementContainer& PageLayoutHost::holderOf(PageLayout const& layout, ElementHandle handle) {
+  for (auto const& opened : layout.d->opened)
+    if (opened->members().find(handle)) return opened->members();
+  return layout.d->elements;
+}
+
+_ptr_t<Element> PageLayoutHost::find(PageLayout const& layout, ElementHandle handle, int* depth) {
+  ElementContainer const& holder = holderOf(layout, handle);
+  auto const& opened = layout.d->opened;
+  auto const group =
+      std::find_if(opened.begin(), opened.end(), [&](auto const& one) { return &one->members() == &holder; });
+  if (depth) *depth = group == opened.end() ? 0 : static_cast<int>(group - opened.begin()) + 1;
+  return holder.find(handle);
+}
+
+QVector<int> PageLayoutHost::openPath(PageLayout const& layout) {
+  QVector<int> path;
+  ElementContainer const* parent = nullptr;
+  for (auto const& opened : layout.d->opened) {
+    path << (parent ? parent->GetElements().indexOf(opened->group()) : opened->handle());
+    parent = &opened->members();
+  }
+  return path;
+}
+
+void PageLayoutHost::openOnly(PageLayout& layout, QVector<int> const& path) {
+  if (path == openPath(layout)) return;
+  while (openGroups(layout) > 0) closeGroup(layout);
+  workplace(layout).UnselectAllElements();
+  for (int const step : path) {
+    auto const member = openGroups(layout) > 0 ? workplace(layout).GetElements().value(step) : nullptr;
+    openGroup(layout, openGroups(layout) == 0 ? step : member ? member->GetHandle() : 0);
+  }
+}
+
+int PageLayoutHost::openGroups(PageLayout const& layout) { return static_cast<int>(layout.d->opened.size()); }
+
+void PageLayoutHost::openGroup(PageLayout& layout, ElementHandle group) {
+  ElementContainer& parent = workplace(layout);
+  if (!ptr_cast<GroupElement>(parent.find(group))) return;
+  parent.UnselectAllElements();
+  layout.d->opened.push_back(std::make_unique<OpenedGroup>(parent, group, openGroups(layout)));
+}
+
+void PageLayoutHost::closeGroup(PageLayout& layout) {
+  if (layout.d->opened.empty()) return;
+  ElementHandle const group = layout.d->opened.back()->handle();
+  layout.d->opened.pop_back();
+  workplace(layout).UnselectAllElements();
+  workplace(layout).SelectElement(workplace(layout).find(group));
+}
+
+// A group whose members are read anew takes what is open in it along: those members have other handles now.
+void PageLayoutHost::followGroups(PageLayout& layout) {
+  auto& opened = layout.d->opened;
+  for (std::size_t i = 0; i < opened.size(); ++i) {
+    auto const former = &opened[i]->members();
+    opened[i]->follow();
+    bool const isThere = static_cast<bool>(opened[i]->group());
+    if (!isThere || &opened[i]->members() != former) opened.resize(isThere ? i + 1 : i);
+  }
 }
 
 void PageLayout::ZoomToRatio(double ratio) {

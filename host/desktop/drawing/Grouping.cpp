@@ -47,7 +47,7 @@ QSet<SysCarto::ElementHandle> handlesOf(Elements const& elements) {
 
 // One step of undo, which makes the page's elements those in this order, and these the selection.
 void rearrange(PageLayout& layout, QString const& name, Elements const& order, Elements const& selection) {
-  auto& container = static_cast<ElementContainer&>(*layout.GetGraphicsContainer());
+  auto& container = workplace(layout);
   {
     SysFramework::EditorOperation const operation(name);
     container.setElements(order);
@@ -59,17 +59,21 @@ void rearrange(PageLayout& layout, QString const& name, Elements const& order, E
 
 }  // namespace
 
+bool canLieInGroup(_ptr_t<Element> const& element) {
+  return element->GetType() != DataFrame && element->GetType() != MapSurroundFrame;
+}
+
 QString groupSelection(PageLayout& layout) {
   auto const chosen = handlesOf(movableSelection(layout));
   auto const group = SysUtility::make<GroupElement>();
   Elements order;
   int place = 0;
-  for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
+  for (auto const& element : workplace(layout).GetElements()) {
     if (!chosen.contains(element->GetHandle())) {
       order << element;
       continue;
     }
-    if (depthOf(*element) >= SysCarto::maxGroupDepth)
+    if (depthOf(*element) + SysCarto::PageLayoutHost::openGroups(layout) >= SysCarto::maxGroupDepth)
       return Texts::tr("Groups lie at most %1 deep in each other; ungroup some of them first.")
           .arg(SysCarto::maxGroupDepth);
     group->AddElement(element->Clone());
@@ -82,15 +86,13 @@ QString groupSelection(PageLayout& layout) {
 
 bool canGroup(PageLayout const& layout) {
   auto const chosen = movableSelection(layout);
-  return chosen.size() >= 2 && std::none_of(chosen.begin(), chosen.end(), [](auto const& element) {
-           return element->GetType() == DataFrame || element->GetType() == MapSurroundFrame;
-         });
+  return chosen.size() >= 2 && std::all_of(chosen.begin(), chosen.end(), canLieInGroup);
 }
 
 QString ungroupSelection(PageLayout& layout) {
   auto const chosen = handlesOf(movableSelection(layout));
   Elements order, selection;
-  for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
+  for (auto const& element : workplace(layout).GetElements()) {
     bool const isChosen = chosen.contains(element->GetHandle());
     auto const group = isChosen ? ptr_cast<GroupElement>(element) : nullptr;
     Elements parts;

@@ -4,6 +4,9 @@
 
 class QString;
 
+/// Whether an element is of a kind that may be a member of a group.
+bool canLieInGroup(SysUtility::_ptr_t<SysCarto::Element> const& element);
+
 // The selected elements of a page become one, and the other way round. Each is one step of undo, and answers an empty
 // text, or a sentence that says why nothing was done.
 

@@ -1,6 +1,7 @@
 #include "NewElements.h"
 
 #include "PastedContent.h"
+#include "SelectionHandles.h"
 
 #include "host/SysCarto/elements/EmbeddedPicture.h"
 #include "host/SysCarto/elements/GraphicElements.h"
@@ -176,7 +177,7 @@ QString NewElementKind::insert(SysCarto::PageLayout& layout, QVector<QPointF> co
   QString problem;
   auto const element = make(at, {layout, words, problem});
   if (!problem.isEmpty()) return problem;
-  auto* const container = layout.GetGraphicsContainer();
+  auto* const container = &workplace(layout);
   {
     SysFramework::EditorOperation const operation(Texts::tr(stepName));
     container->AddElement(element);

@@ -1,5 +1,6 @@
 #include "PageClipboard.h"
 
+#include "Grouping.h"
 #include "PastedContent.h"
 #include "SelectionHandles.h"
 
@@ -46,14 +47,14 @@ QList<_ptr_t<Element>> inOrder(PageLayout const& layout, QList<_ptr_t<Element>> 
   QSet<SysCarto::ElementHandle> handles;
   for (auto const& element : chosen) handles << element->GetHandle();
   QList<_ptr_t<Element>> elements;
-  for (auto const& element : layout.GetGraphicsContainer()->GetElements())
+  for (auto const& element : workplace(layout).GetElements())
     if (handles.contains(element->GetHandle())) elements << element;
   return elements;
 }
 
 // One step of undo, after which they are the selection.
 void add(PageLayout& layout, QString const& name, QList<_ptr_t<Element>> const& elements) {
-  auto& container = *layout.GetGraphicsContainer();
+  auto& container = workplace(layout);
   {
     SysFramework::EditorOperation const operation(name);
     container.AddElements(elements);
@@ -80,7 +81,7 @@ QString PageClipboard::put(Elements const& elements, int pasted) {
 }
 
 QString PageClipboard::copy(PageLayout& layout) {
-  return put(inOrder(layout, layout.GetGraphicsContainer()->GetSelectedElements()), 1);
+  return put(inOrder(layout, workplace(layout).GetSelectedElements()), 1);
 }
 
 QString PageClipboard::cut(PageLayout& layout) {
@@ -89,7 +90,7 @@ QString PageClipboard::cut(PageLayout& layout) {
   if (!problem.isEmpty()) return problem;
   {
     SysFramework::EditorOperation const operation(tr("Cut the selected elements"));
-    for (auto const& element : elements) layout.GetGraphicsContainer()->DeleteElement(element);
+    for (auto const& element : elements) workplace(layout).DeleteElement(element);
   }
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
   return {};
@@ -100,6 +101,9 @@ PageClipboard::Content PageClipboard::read(PageLayout const& layout, QString& pr
   Content const content = clipboard ? contentOf(*clipboard, layout, problem) : Content();
   if (problem.isEmpty() && content.elements.isEmpty())
     problem = tr("The clipboard holds nothing that can lie on a page; copy elements, a text or a picture.");
+  bool const isInGroup = SysCarto::PageLayoutHost::openGroups(layout) > 0;
+  if (problem.isEmpty() && isInGroup && !std::all_of(content.elements.begin(), content.elements.end(), canLieInGroup))
+    problem = tr("Data frames and map surrounds can't lie in a group; leave the group with Escape first.");
   return content;
 }
 
@@ -162,8 +166,7 @@ QString PageClipboard::pasteInPlace(PageLayout& layout) {
 
 QString PageClipboard::duplicate(PageLayout& layout) {
   QString problem;
-  auto const clip =
-      ElementClip::of(document_, inOrder(layout, layout.GetGraphicsContainer()->GetSelectedElements()), problem);
+  auto const clip = ElementClip::of(document_, inOrder(layout, workplace(layout).GetSelectedElements()), problem);
   auto const elements = problem.isEmpty() ? ElementClip::read(clip, layout.GetFocusMap(), problem) : Elements();
   if (!problem.isEmpty()) return problem;
   move(elements, stepCm, -stepCm);

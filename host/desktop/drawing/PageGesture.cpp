@@ -76,7 +76,7 @@ void changeSelection(PageLayout& layout, QString const& name, std::function<void
     for (auto const& element : selection) {
       auto const clone = element->Clone();
       change(*clone);
-      layout.GetGraphicsContainer()->ReplaceElement(element->GetHandle(), clone);
+      workplace(layout).ReplaceElement(element->GetHandle(), clone);
     }
   }
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
@@ -250,7 +250,7 @@ void ResizeGesture::commit() {
 PageGesture::Outlines RubberBandGesture::outlines() const { return {outlineOf(band())}; }
 
 void RubberBandGesture::commit() {
-  auto* const container = layout().GetGraphicsContainer();
+  auto* const container = &workplace(layout());
   if (!(modifiers() & Qt::ShiftModifier)) container->UnselectAllElements();
   QRectF const area = band();
   for (auto const& element : container->GetElements()) {

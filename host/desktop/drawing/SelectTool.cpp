@@ -30,7 +30,7 @@ constexpr double farNudge = 10;
 _ptr_t<Element> elementAt(PageLayout const& layout, QPoint const& pixel, bool mayBeLocked = false) {
   QPointF const point = pagePoint(layout, pixel);
   double const reach = reachPx / layout.GetDisplayTransformation()->ToDevice().m11();
-  auto const elements = layout.GetGraphicsContainer()->GetElements();
+  auto const elements = workplace(layout).GetElements();
   SysGeometry::Envelope const place(point.x() - reach, point.y() - reach, point.x() + reach, point.y() + reach);
   auto const hit = std::find_if(elements.crbegin(), elements.crend(), [&](_ptr_t<Element> const& element) {
     return (mayBeLocked || !isLocked(*element)) && SysCarto::isHit(*element, place, layout.GetDisplayTransformation());
@@ -39,13 +39,13 @@ _ptr_t<Element> elementAt(PageLayout const& layout, QPoint const& pixel, bool ma
 }
 
 bool isSelected(PageLayout const& layout, Element const& element) {
-  for (auto const& selected : layout.GetGraphicsContainer()->GetSelectedElements())
+  for (auto const& selected : workplace(layout).GetSelectedElements())
     if (selected->GetHandle() == element.GetHandle()) return true;
   return false;
 }
 
 void select(PageLayout const& layout, QList<_ptr_t<Element>> const& elements) {
-  auto* const container = layout.GetGraphicsContainer();
+  auto* const container = &workplace(layout);
   container->UnselectAllElements();
   for (auto const& element : elements) container->SelectElement(element);
 }
@@ -54,6 +54,16 @@ void select(PageLayout const& layout, QList<_ptr_t<Element>> const& elements) {
 void showSelection(PageLayout& layout) {
   layout.BeginTrackerDraw();
   layout.EndTrackerDraw();
+}
+
+// A click beside a group that is open closes it.
+void leaveGroupsWithout(PageLayout& layout, QPoint const& pixel) {
+  QPointF const point = pagePoint(layout, pixel);
+  while (SysCarto::PageLayoutHost::openGroups(layout) > 0 && !elementAt(layout, pixel, true) &&
+         !areaOf(workplace(layout)).contains(point)) {
+    SysCarto::PageLayoutHost::closeGroup(layout);
+    workplace(layout).UnselectAllElements();
+  }
 }
 
 Qt::CursorShape cursorFor(Handle const& handle) {
@@ -114,7 +124,7 @@ void SelectTool::OnMouseDown(QMouseEvent* event) {
   auto const layout = SysFramework::activePageLayout(*hook());
   if (!layout) return;
   layout_ = layout;
-  selectionBefore_ = layout->GetGraphicsContainer()->GetSelectedElements();
+  selectionBefore_ = workplace(*layout).GetSelectedElements();
   if (!pressVertex(layout, *event)) press(layout, *event);
   if (gesture_) gesture_->setUsesAids(views_.layoutView().showsAids());
   showSelection(*layout);
@@ -135,18 +145,19 @@ void SelectTool::press(_ptr_t<PageLayout> const& layout, QMouseEvent const& even
     gesture_ = std::make_unique<GuideGesture>(views_, *layout, point, *guide);
     return;
   }
+  leaveGroupsWithout(*layout, event.pos());
   auto const element = elementAt(*layout, event.pos());
   if (!element) {
-    if (!adds) layout->GetGraphicsContainer()->UnselectAllElements();
+    if (!adds) workplace(*layout).UnselectAllElements();
     gesture_ = std::make_unique<RubberBandGesture>(*layout, point);
     return;
   }
   if (isSelected(*layout, *element)) {
-    if (adds) return layout->GetGraphicsContainer()->UnselectElement(element);
+    if (adds) return workplace(*layout).UnselectElement(element);
     clicked_ = element;
   } else {
-    if (!adds) layout->GetGraphicsContainer()->UnselectAllElements();
-    layout->GetGraphicsContainer()->SelectElement(element);
+    if (!adds) workplace(*layout).UnselectAllElements();
+    workplace(*layout).SelectElement(element);
   }
   gesture_ = std::make_unique<MoveGesture>(*layout, point);
 }
@@ -174,6 +185,12 @@ void SelectTool::OnDblClick(QMouseEvent* event) {
   giveUp();
   if (auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element)) {
     layout->SetFocusMap(frame->GetMap());
+    return showSelection(*layout);
+  }
+  if (isLocked(*element)) return;
+  if (element->GetType() == SysCarto::ElementType::Group) {
+    SysCarto::PageLayoutHost::openGroup(*layout, element->GetHandle());
+    if (auto const member = elementAt(*layout, event->pos())) workplace(*layout).SelectElement(member);
     return showSelection(*layout);
   }
   if (element->GetType() == SysCarto::ElementType::Text) return editText(views_, element->GetHandle());
@@ -205,6 +222,8 @@ void SelectTool::OnKeyDown(QKeyEvent* event) {
       giveUp();
     else if (vertices())
       leaveVertices();
+    else if (SysCarto::PageLayoutHost::openGroups(*layout) > 0)
+      SysCarto::PageLayoutHost::closeGroup(*layout);
     else
       select(*layout, {});
     showSelection(*layout);
@@ -219,7 +238,7 @@ void SelectTool::OnKeyDown(QKeyEvent* event) {
 // Of the element whose vertices are shown, as long as it is there and selected alone.
 std::optional<VertexHandles> SelectTool::vertices() const {
   auto const layout = edited_ ? SysFramework::activePageLayout(*hook()) : nullptr;
-  auto const selected = layout ? layout->GetGraphicsContainer()->GetSelectedElements() : QList<_ptr_t<Element>>();
+  auto const selected = layout ? workplace(*layout).GetSelectedElements() : QList<_ptr_t<Element>>();
   if (selected.size() != 1 || selected.first()->GetHandle() != edited_ || !isInReach(*selected.first()))
     return std::nullopt;
   return VertexHandles(*layout, selected.first());
@@ -257,7 +276,7 @@ bool SelectTool::pressVertex(_ptr_t<PageLayout> const& layout, QMouseEvent const
   auto const shown = vertices();
   if (!shown) return false;
   Vertex const vertex = shown->at(event.pos());
-  auto const element = layout->GetGraphicsContainer()->GetSelectedElements().first();
+  auto const element = workplace(*layout).GetSelectedElements().first();
   if (vertex.isNone()) {
     auto const under = elementAt(*layout, event.pos());
     if (!under || under->GetHandle() != edited_) leaveVertices();

@@ -36,9 +36,18 @@ QRectF united(QRectF const& a, QRectF const& b) {
 
 bool isInReach(Element const& element) { return element.IsVisible() && !isLocked(element); }
 
+SysCarto::ElementContainer& workplace(PageLayout const& layout) { return SysCarto::PageLayoutHost::workplace(layout); }
+
+QRectF areaOf(IElementContainer const& elements) {
+  QRectF area;
+  for (auto const& element : elements.GetElements())
+    area = area.isNull() ? rectangleOf(*element) : united(area, rectangleOf(*element));
+  return area;
+}
+
 QList<_ptr_t<Element>> movableSelection(PageLayout const& layout) {
   QList<_ptr_t<Element>> movable;
-  for (auto const& element : layout.GetGraphicsContainer()->GetSelectedElements())
+  for (auto const& element : workplace(layout).GetSelectedElements())
     if (!isLocked(*element)) movable << element;
   return movable;
 }

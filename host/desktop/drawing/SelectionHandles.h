@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysCarto/document/ElementFields.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 
 #include <SysCarto/PageLayout.h>
 
@@ -8,6 +9,12 @@
 #include <QRectF>
 
 class QPainter;
+
+/// Where a person works: the elements of the page, or the members of the group that is open.
+SysCarto::ElementContainer& workplace(SysCarto::PageLayout const& layout);
+
+/// About all of them; null without any.
+QRectF areaOf(IElementContainer const& elements);
 
 /// The selected elements that a person may move: all but locked ones, first selected first.
 QList<SysUtility::_ptr_t<SysCarto::Element>> movableSelection(SysCarto::PageLayout const& layout);

@@ -24,7 +24,7 @@ void bringIntoView(PageLayout& layout, Element const& element) {
 }  // namespace
 
 bool selectNeighbour(PageLayout& layout, bool forward) {
-  auto& container = *layout.GetGraphicsContainer();
+  auto& container = workplace(layout);
   auto elements = container.GetElements();
   if (!forward) std::reverse(elements.begin(), elements.end());
   auto const selected = container.GetSelectedElements();

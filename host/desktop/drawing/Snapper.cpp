@@ -23,7 +23,7 @@ void Snapper::Axis::addBox(Span const& along, Span const& across) {
 }
 
 Snapper::Snapper(PageLayout const& layout, QSet<SysCarto::ElementHandle> const& moving, bool usesAids) {
-  for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
+  for (auto const& element : workplace(layout).GetElements()) {
     if (moving.contains(element->GetHandle()) || !element->IsVisible()) continue;
     auto const box = element->GetEnvelope();
     Span const along{box->GetXMin(), box->GetXMax()}, across{box->GetYMin(), box->GetYMax()};

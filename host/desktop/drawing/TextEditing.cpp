@@ -1,5 +1,7 @@
 #include "TextEditing.h"
 
+#include "SelectionHandles.h"
+
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/elements/TextElement.h"
@@ -18,14 +20,14 @@ using SysUtility::_ptr_t;
 namespace {
 
 _ptr_t<TextElement> textOf(PageLayout const& layout, ElementHandle handle) {
-  auto const& container = static_cast<SysCarto::ElementContainer const&>(*layout.GetGraphicsContainer());
+  auto const& container = workplace(layout);
   return SysUtility::ptr_cast<TextElement>(container.find(handle));
 }
 
 void deleteText(PageLayout& layout, _ptr_t<TextElement> const& text) {
   {
     SysFramework::EditorOperation const operation(QCoreApplication::translate("TextEditing", "Delete the text"));
-    layout.GetGraphicsContainer()->DeleteElement(text);
+    workplace(layout).DeleteElement(text);
   }
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }

@@ -108,7 +108,7 @@ void VertexHandles::replace(PageLayout& layout, QString const& stepName, Rings c
   if (auto const polygon = ptr_cast<PolygonElement>(clone)) polygon->setShape(make<SysGeometry::Polygon>(rings));
   {
     SysFramework::EditorOperation const operation(stepName);
-    layout.GetGraphicsContainer()->ReplaceElement(element_->GetHandle(), clone);
+    workplace(layout).ReplaceElement(element_->GetHandle(), clone);
   }
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
