@@ -2,10 +2,12 @@
 #include "LayerFixture.h"
 #include "desktop/WorkbenchPage.h"
 
+#include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/Placement.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
+#include "host/desktop/drawing/TurnGesture.h"
 
 #include <random>
 
@@ -153,7 +155,8 @@ private:
   }
 
   void doSomething(WorkbenchPage& page) {
-    switch (upTo(8)) {
+    switch (upTo(9)) {
+      case 9: return draw(page);
       case 0:
       case 1: return useTheMouse(page);
       case 4: return changeTheMap(page);
@@ -189,6 +192,35 @@ private:
     page.click(at);
     page.mouse(QEvent::MouseButtonDblClick, at);
     page.mouse(QEvent::MouseButtonRelease, at);
+  }
+
+  // A new element, vertices, a turn, or a guide.
+  void draw(WorkbenchPage& page) {
+    QPoint const from(upTo(799), upTo(599)), to(upTo(799), upTo(599));
+    switch (upTo(3)) {
+      case 0:
+        page.run("Host_InsertArrow");
+        page.drag(from, to);
+        page.run("Host_Edit");
+        for (int i = upTo(2); i >= 0; --i) page.key(Qt::Key_Tab);
+        for (Qt::Key const key : {Qt::Key_Insert, Qt::Key_Right, Qt::Key_Delete}) page.key(key);
+        return page.key(Qt::Key_Escape);
+      case 1:
+        page.run("Host_InsertEllipse");
+        return upTo(1) ? page.drag(from, to, Qt::ShiftModifier) : page.key(Qt::Key_Return);
+      case 2: turnSelection(*page.layout(), upTo(359) + 1.0 / 3); return;
+      default: break;
+    }
+    QStringList warnings;
+    auto const& document = page.bench.session().document();
+    SysCarto::Editable::set(
+        document, {SysCarto::Editable::page(document)}, {"verticalGuides"},
+        [&](QJsonValue const& value) {
+          QJsonArray guides = value.toArray();
+          guides.append(upTo(210) / 10.0);
+          return QJsonValue(guides);
+        },
+        warnings);
   }
 
   void changeTheMap(WorkbenchPage& page) {
