@@ -3609,6 +3609,10 @@
         <source>How many maps more surrounds and overviews follow.</source>
         <translation>Wie vielen weiteren Karten Randangaben und Übersichten folgen.</translation>
     </message>
+    <message>
+        <source>At which its lines are broken on paper; 0 breaks them only where the text does.</source>
+        <translation>Bei der seine Zeilen auf dem Papier umbrochen werden; 0 bricht sie nur, wo es der Text tut.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>

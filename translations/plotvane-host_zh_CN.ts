@@ -3609,6 +3609,10 @@
         <source>How many maps more surrounds and overviews follow.</source>
         <translation>整饰要素和鹰眼范围所跟随的其他地图的数量。</translation>
     </message>
+    <message>
+        <source>At which its lines are broken on paper; 0 breaks them only where the text does.</source>
+        <translation>在纸上换行的宽度；0 表示只在文本自身换行处换行。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>

@@ -114,6 +114,20 @@ private slots:
     QVERIFY(page.text() == before);
   }
 
+  void aTextDrawnAsABoxFillsIt() {
+    Page page;
+    page.run("Host_InsertText");
+    page.drag(page.at({2, 20}), page.at({6, 15}));
+    QTest::keyClicks(page.editor(), "Towns of more than 15,000 people, from Thrace to Crete");
+    page.key(*page.editor(), Qt::Key_Return, Qt::ControlModifier);
+    auto const text = page.firstText();
+    QVERIFY(!text->text().contains('\n') && text->shown().count('\n') > 1);
+    QVERIFY(isWithin(placeOf(*text), QRectF(2, 15, 4, 5), page.cmPerPx()));
+    auto const twice = ptr_cast<TextElement>(text->Clone());
+    twice->Scale(make<SysGeometry::Point>(2.0, 20.0, 0.0), 2, 2);
+    QCOMPARE(twice->shown(), text->shown());
+  }
+
   void placeholdersAreFilledIn_data() {
     Rows<QString, QString> row;
     row("the date in any order", "[date:yyyy]–[date:dd]", QDate::currentDate().toString("yyyy'–'dd"));

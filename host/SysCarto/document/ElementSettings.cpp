@@ -28,6 +28,7 @@ using SysUtility::Unit;
 namespace {
 
 constexpr Range onPage{-10000, 10000, Unit::Centimetre};
+constexpr double maxTextWidthCm = 1000;
 constexpr double maxCoordinate = 1e12;  // graphics lie on maps, too, in map units
 constexpr int maxMembers = 100000, maxRings = 100000, maxGrids = 100;
 
@@ -162,7 +163,7 @@ void FilledSettings::list(Fields& fields, ElementScope const& scope) {
 
 TextElementSettings TextElementSettings::of(TextElement const& element, ElementScope const&) {
   auto const at = ptr_cast<Point>(element.GetGeometry());
-  return {{at->GetX(), at->GetY()}, element.text(), element.angle(), element.symbol()};
+  return {{at->GetX(), at->GetY()}, element.text(), element.width(), element.angle(), element.symbol()};
 }
 
 void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
@@ -177,6 +178,11 @@ void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
   if (!unknown.isEmpty())
     fields.remark("text", Texts::tr("%1 is no placeholder and stands as written; there are [%2].")
                               .arg(unknown.first(), Placeholders::names().join(QStringLiteral("], ["))));
+  fields.number({"width", QT_TRANSLATE_NOOP("Fields", "Width"),
+                 QT_TRANSLATE_NOOP("Fields",
+                                   "At which its lines are broken on paper; 0 breaks them only where the text "
+                                   "does.")},
+                widthCm, {0, maxTextWidthCm, Unit::Centimetre}, 0.0);
   fields.number({"angle", QT_TRANSLATE_NOOP("Fields", "Angle"),
                  QT_TRANSLATE_NOOP("Fields", "How far the text is turned counterclockwise about its position.")},
                 angle, {-360, 360, Unit::Degree}, 0.0);
@@ -188,6 +194,7 @@ void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
 void TextElementSettings::applyTo(TextElement& element, ElementScope const&) const {
   element.setPosition(position[0], position[1]);
   element.setText(text);
+  element.setWidth(widthCm);
   element.setAngle(angle);
   element.setSymbol(symbol);
 }

@@ -5,6 +5,7 @@
 #include "Placement.h"
 
 #include "host/SysDisplay/DrawTarget.h"
+#include "host/SysDisplay/TextWrap.h"
 
 #include <SysDisplay/Units.h>
 
@@ -34,13 +35,25 @@ TextElement::~TextElement() = default;
 
 void TextElement::setText(QString const& text) {
   text_ = text;
+  forget();
+}
+
+void TextElement::setWidth(double cm) {
+  widthCm_ = std::isfinite(cm) ? std::max(cm, 0.0) : 0;
+  forget();
+}
+
+// What was measured is no longer so.
+void TextElement::forget() {
   boundsPt_.reset();
+  filled_.clear();
+  broken_.clear();
 }
 
 void TextElement::setSymbol(_ptr_t<TextSymbol> const& symbol) {
   if (!symbol) return;
   symbol_ = symbol;
-  boundsPt_.reset();
+  forget();
 }
 
 void TextElement::setPosition(double x, double y) {
@@ -78,7 +91,9 @@ double TextElement::maxFactor(double wanted) const {
 }
 
 void TextElement::enlarge(double factor) {
-  if (factor != 1) setSymbol(symbol_->resized(factor));
+  if (factor == 1) return;
+  setWidth(widthCm_ * factor);
+  setSymbol(symbol_->resized(factor));
 }
 
 void scaleInWhole(Element& element, _ptr_t<Point> const& origin, double sx, double sy) {
@@ -100,7 +115,13 @@ void TextElement::SetGeometry(_ptr_t<Envelope> const& rectangle) {
   Move(to->GetX() - from->GetX(), to->GetY() - from->GetY());
 }
 
-QString TextElement::shown() const { return placeholders_ ? placeholders_->filled(text_) : text_; }
+QString TextElement::shown() const {
+  QString const filled = placeholders_ ? placeholders_->filled(text_) : text_;
+  if (widthCm_ <= 0 || filled.isEmpty()) return filled;
+  if (filled_ != filled) broken_ = SysDisplay::wrapped(filled, *symbol_, widthCm_ / SysDisplay::cmPerPoint);
+  filled_ = filled;
+  return broken_;
+}
 
 void TextElement::setPlaceholders(std::shared_ptr<Placeholders> const& placeholders) { placeholders_ = placeholders; }
 

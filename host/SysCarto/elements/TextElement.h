@@ -22,7 +22,11 @@ public:
   QString text() const { return text_; }
   void setText(QString const& text);
 
-  /// What is drawn: the text with its placeholders filled in.
+  /// Centimetres on paper at which lines are broken; 0 breaks them only where the text does.
+  double width() const { return widthCm_; }
+  void setWidth(double cm);
+
+  /// What is drawn: the text with its placeholders filled in and its lines broken.
   QString shown() const;
 
   /// Null for a text that stands as written.
@@ -65,6 +69,7 @@ private:
   void containerChanged() override;
   friend void scaleInWhole(Element&, SysUtility::_ptr_t<SysGeometry::Point> const&, double, double);
   double maxFactor(double wanted) const;
+  void forget();
   void enlarge(double factor);
   QRectF const& boundsPt(QString const& shown) const;
   SysUtility::_ptr_t<SysGeometry::Envelope> rectangle(QRectF const& boundsPt, double unitsPerPoint) const;
@@ -74,6 +79,8 @@ private:
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol_;
   double x_ = 0, y_ = 0;
   double angle_ = 0;
+  double widthCm_ = 0;
+  mutable QString filled_, broken_;         // the text before and after its lines were broken
   mutable QString measured_;                // what the bounds are of
   mutable std::optional<QRectF> boundsPt_;  // turned, halo included, y downwards, about the position
 };

@@ -29,6 +29,7 @@ using Points = NewElementKind::Points;
 using Content = NewElementKind::Content;
 
 constexpr double usualWidthCm = 4, usualHeightCm = 3;
+constexpr double minTextWidthCm = 0.5;
 constexpr double usualLinePt = 0.75;
 
 struct Texts {
@@ -125,14 +126,16 @@ _ptr_t<Element> makeMarker(QVector<QPointF> const& place, NewContent const&) {
   return marker;
 }
 
-// It hangs below its place, as it was drawn.
-_ptr_t<Element> makeText(QVector<QPointF> const& place, NewContent const& content) {
+// It hangs below its place, and where a box was drawn fills its width.
+_ptr_t<Element> makeText(QVector<QPointF> const& points, NewContent const& content) {
   auto const text = make<SysCarto::TextElement>();
   auto format = text->symbol()->format();
   format.vertical = SysDisplay::VerticalAlignment::Top;
   text->setSymbol(make<SysDisplay::TextSymbol>(format));
   text->setText(content.words);
-  text->setPosition(place[0].x(), place[0].y());
+  QRectF const box = QRectF(points.first(), points.last()).normalized();
+  text->setPosition(box.left(), box.bottom());
+  if (box.width() >= minTextWidthCm) text->setWidth(box.width());
   return text;
 }
 
@@ -141,7 +144,7 @@ _ptr_t<Element> makeText(QVector<QPointF> const& place, NewContent const& conten
 QVector<NewElementKind> const& NewElementKind::all() {
   // clang-format off
   static QVector<NewElementKind> const kinds = {
-      {"text",      "Host_InsertText",      QT_TRANSLATE_NOOP("NewElements", "Insert a text"),      Points::Place,    Content::Text, 1, makeText},
+      {"text",      "Host_InsertText",      QT_TRANSLATE_NOOP("NewElements", "Insert a text"),      Points::Corners,  Content::Text, 2, makeText},
       {"picture",   "Host_InsertPicture",   QT_TRANSLATE_NOOP("NewElements", "Insert a picture"),   Points::Corners,  Content::File, 2, makePicture},
       {"embedded",  nullptr,                QT_TRANSLATE_NOOP("NewElements", "Insert a picture"),   Points::Corners,  Content::File, 2, makeEmbedded},
       {"line",      "Host_InsertLine",      QT_TRANSLATE_NOOP("NewElements", "Insert a line"),      Points::Vertices, Content::None, 2, makeLine},
@@ -167,7 +170,7 @@ bool NewElementKind::takes(int count) const {
 
 QVector<QPointF> NewElementKind::usualPoints(QPointF const& place) const {
   QPointF const right(usualWidthCm, 0), down(0, -usualHeightCm);
-  if (points == Points::Place || content == Content::File) return {place};
+  if (points == Points::Place || content != Content::None) return {place};
   if (points == Points::Corners) return {place, place + right + down};
   return isClosed() ? QVector<QPointF>{place + right / 2, place + right + down, place + down}
                     : QVector<QPointF>{place, place + right};

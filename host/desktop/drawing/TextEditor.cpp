@@ -1,5 +1,9 @@
 #include "TextEditor.h"
 
+#include "host/SysDisplay/TextWrap.h"
+
+#include <SysDisplay/Units.h>
+
 #include <QKeyEvent>
 #include <QScrollBar>
 
@@ -48,7 +52,7 @@ TextEditor::TextEditor(SysCarto::TextElement const& text, Taken const& taken, QW
   setObjectName(QStringLiteral("plainTextEdit_TextOnPage"));
   setAccessibleName(tr("Text on the page"));
   setTabChangesFocus(true);
-  setLineWrapMode(NoWrap);
+  setLineWrapMode(text.width() > 0 ? WidgetWidth : NoWrap);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFrameShape(QFrame::NoFrame);
@@ -81,10 +85,13 @@ void TextEditor::fit() {
   auto const at = SysUtility::ptr_cast<SysGeometry::Point>(text_->GetGeometry());
   QPointF const place = toDevice_.map(QPointF(at->GetX(), at->GetY()));
   TextFormat const& format = text_->symbol()->format();
-  QRectF const letters = text_->symbol()->bounds(measurable(toPlainText()));
+  double const widthPt = text_->width() / SysDisplay::cmPerPoint;
+  QString const broken = SysDisplay::wrapped(measurable(toPlainText()), *text_->symbol(), widthPt);
+  QRectF const letters = text_->symbol()->bounds(broken);
   QRectF box(place + letters.topLeft() * pixelsPerPoint_, letters.size() * pixelsPerPoint_);
   QFontMetricsF const metrics(font());
   double const widest = [&] {
+    if (widthPt > 0) return widthPt * pixelsPerPoint_;
     double width = minWidthPx;
     for (QString const& line : toPlainText().split(QLatin1Char('\n')))
       width = std::max(width, metrics.horizontalAdvance(line) + metrics.averageCharWidth());
@@ -99,7 +106,7 @@ void TextEditor::fit() {
              : format.horizontal == HorizontalAlignment::Center ? missing / 2
                                                                 : 0,
              0);
-  box.setHeight(std::max(box.height(), metrics.lineSpacing() * blockCount()));
+  box.setHeight(std::max(box.height(), metrics.lineSpacing() * (broken.count(QLatin1Char('\n')) + 1)));
   int const about = marginPx + 1;  // and the frame
   setGeometry(box.toAlignedRect().adjusted(-about, -about, about, about));
 }
