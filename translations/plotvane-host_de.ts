@@ -3613,6 +3613,14 @@
         <source>At which its lines are broken on paper; 0 breaks them only where the text does.</source>
         <translation>Bei der seine Zeilen auf dem Papier umbrochen werden; 0 bricht sie nur, wo es der Text tut.</translation>
     </message>
+    <message>
+        <source>Placeholders</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>Whether placeholders are filled in, and do not stand as written.</source>
+        <translation>Ob Platzhalter ausgefüllt werden und nicht dastehen, wie sie geschrieben sind.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -4220,7 +4228,7 @@
     </message>
     <message>
         <source>must hold %1 where the scale stands, as in “1:%1”, or a length of ground, as in “1 cm = {km/cm} km”</source>
-        <translation>muss %1 enthalten, wo der Maßstab steht, wie in „1:%1“, oder eine Strecke in der Natur, wie in „1 cm = {km/cm} km“</translation>
+        <translation>muss %1 enthalten, wo der Maßstab steht, wie in „1:%1“, oder eine Länge im Gelände, wie in „1 cm = {km/cm} km“</translation>
     </message>
 </context>
 <context>

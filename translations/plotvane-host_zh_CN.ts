@@ -3613,6 +3613,14 @@
         <source>At which its lines are broken on paper; 0 breaks them only where the text does.</source>
         <translation>在纸上换行的宽度；0 表示只在文本自身换行处换行。</translation>
     </message>
+    <message>
+        <source>Placeholders</source>
+        <translation>占位符</translation>
+    </message>
+    <message>
+        <source>Whether placeholders are filled in, and do not stand as written.</source>
+        <translation>占位符是否被填入，而不是按原样显示。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -4220,7 +4228,7 @@
     </message>
     <message>
         <source>must hold %1 where the scale stands, as in “1:%1”, or a length of ground, as in “1 cm = {km/cm} km”</source>
-        <translation>必须包含 %1 作为比例尺的位置，例如“1:%1”，或一段实地长度，例如“1 cm = {km/cm} km”</translation>
+        <translation>必须含有表示比例尺的 %1，如“1:%1”，或地面长度，如“1 cm = {km/cm} km”</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,8 @@
 #include "OutputWatch.h"
 #include "PluginLibrary.h"
 
+#include "host/SysCarto/layout/PageLayoutHost.h"
+
 using SysUI::ICommand;
 using SysUI::ITool;
 using SysUtility::_ptr_t;
@@ -15,6 +17,7 @@ CommandSet::CommandSet(HostCommands const& host, PluginLibrary const& plugin, vo
   for (CommandEntry const& entry : commandCatalogue()) add(entry, plugin.createCommand(entry.identifier), hook);
   finishTool();
   QObject::connect(&views.layoutView(), &LayoutView::toolDone, this, &CommandSet::toolDone);
+  QObject::connect(&views.layoutView(), &LayoutView::selectingWanted, this, &CommandSet::finishTool);
   QObject::connect(&views.layoutView(), &LayoutView::told, this, &CommandSet::failed);
 }
 
@@ -37,6 +40,11 @@ HostedCommand const* CommandSet::currentTool() const { return currentTool_ < 0 ?
 bool CommandSet::click(HostedCommand const& command) {
   views_.layoutView().finishEditing();
   if (!command.command->IsEnable() || (mayClick_ && !mayClick_(command.entry))) return false;
+  // The plug-in knows the page alone, and what it puts there is worked on there.
+  bool const isOfPage = command.entry.identifier.startsWith(QLatin1String("Plotvane_")) &&
+                        !command.entry.menu.startsWith(QLatin1String("View"));
+  auto const layout = views_.GetPageLayout();
+  if (isOfPage && layout) SysCarto::PageLayoutHost::openOnly(*layout, {});
   QString problem;
   if (command.tool) {
     makeCurrent(command);

@@ -76,7 +76,7 @@ bool canEdit(DocumentViews const& views) {
 void editSelected(DocumentViews& views) {
   auto const element = selectedAlone(views);
   if (element->GetType() == SysCarto::ElementType::Text) return editText(views, element->GetHandle());
-  if (!views.layoutView().editSelected()) emit views.layoutView().toolDone();
+  emit views.layoutView().selectingWanted();
   views.layoutView().editSelected();
 }
 

@@ -53,6 +53,9 @@ signals:
   /// The current tool has done what it was chosen for.
   void toolDone();
 
+  /// The tool that selects is to be the current one, whatever another was chosen for.
+  void selectingWanted();
+
   /// The properties of what is selected are to be shown.
   void propertiesWanted();
 

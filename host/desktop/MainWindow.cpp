@@ -200,6 +200,7 @@ void MainWindow::connectFiles() {
   connect(&bench_.session(), &DocumentSession::replaced, notice_, &QWidget::hide);
   connect(&bench_.session(), &DocumentSession::modifiedChanged, actions_.get(), &ActionTable::refreshSoon);
   connect(notice_, &NoticeBar::reloadWanted, this, [this] {
+    finishTyping();
     if (files_.reload()) notice_->hide();
   });
   connect(notice_, &NoticeBar::keepWanted, this, [this] {
@@ -368,8 +369,14 @@ void MainWindow::showAbout() {
                          .arg(QCoreApplication::applicationVersion()));
 }
 
-void MainWindow::closeEvent(QCloseEvent* event) {
+// What is being typed belongs to the document that is about to be left.
+void MainWindow::finishTyping() {
   properties_->finish();
+  bench_.views().layoutView().finishEditing();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  finishTyping();
   if (!files_.mayLeave()) return event->ignore();
   keepState();
   event->accept();
@@ -407,6 +414,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   QString const path = documentIn(*event->mimeData());
   if (path.isEmpty()) return;
   event->acceptProposedAction();
+  finishTyping();
   QTimer::singleShot(0, this, [this, path] { open(path); });  // the program it comes from waits for this one
 }
 

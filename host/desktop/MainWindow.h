@@ -49,6 +49,7 @@ private:
   void buildProperties();
   void buildHistory();
   void buildViews();
+  void finishTyping();
   void showRulers();
   void connectFiles();
   void buildStatusBar();

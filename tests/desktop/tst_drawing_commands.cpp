@@ -5,6 +5,7 @@
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/PictureElement.h"
 #include "host/SysCarto/layout/MapOverview.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysUtility/JsonFile.h"
 #include "host/desktop/MainWindow.h"
@@ -274,6 +275,23 @@ private slots:
     }
     QVERIFY2(page.problem.contains("16 deep"), qPrintable(page.problem));
     QVERIFY(page.bench.session().saveAs(path("deep.kdx")) && page.bench.session().open(path("deep.kdx")));
+  }
+
+  // As page settings do, that scale the elements along.
+  void anOpenGroupFollowsWhatIsChangedInPlace() {
+    DrawingPage page;
+    auto const group = make<SysCarto::GroupElement>();
+    group->AddElement(madeIn<SysCarto::RectangleElement>(2, 2, 4, 4));
+    page.container().AddElement(group);
+    SysCarto::PageLayoutHost::openGroup(*page.layout(), group->GetHandle());
+    group->Move(10, 0);
+    page.bench.views().redraw();
+    auto& members = SysCarto::PageLayoutHost::workplace(*page.layout());
+    members.SelectElement(members.GetElements().first());
+    page.key(Qt::Key_Up);
+    QRectF const place = page.place(*group);
+    QVERIFY2(isAbout(place, QRectF(12, 2.1, 2, 2), 1e-9),
+             qPrintable(QString("%1 %2").arg(place.left()).arg(place.top())));
   }
 
   void aDoubleClickOpensAGroup() {

@@ -246,6 +246,11 @@ private slots:
           .value(QLatin1String(field));
     };
     page.drag(page.pixel(3.5, 25), page.pixel(5, 25));
+    page.layout()->GetPage()->SetOrientation(2);  // no step, and no step takes it back
+    page.run("Host_Undo");
+    page.run("Host_Redo");
+    QCOMPARE(page.layout()->GetPage()->GetOrientation(), short(2));
+    page.layout()->GetPage()->SetOrientation(1);
     QVERIFY(std::abs(guides("verticalGuides").toArray()[0].toDouble() - 5) < 0.06);
     page.drag(page.pixel(18, 9), page.pixel(18, -0.5));
     QVERIFY(guides("horizontalGuides").isUndefined());

@@ -74,6 +74,24 @@ private slots:
     QVERIFY(page.text() == before && !page.stack()->CanUndo());
   }
 
+  // The press is drawn to the middle of the page, the hand has not moved.
+  void aClickNearALineIsAClick_data() {
+    Rows<QString, QSizeF> row;
+    row("a marker stands on the line", "Host_InsertMarker", QSizeF(0, 0));
+    row("a rectangle has the usual size", "Host_InsertRectangle", QSizeF(4, 3));
+  }
+  void aClickNearALineIsAClick() {
+    auto const [tool, size] = fetched<QString, QSizeF>();
+    Page page;
+    page.view().setSnaps(true);
+    page.run(tool);
+    page.click(page.at({10.5, 20}) + QPoint(4, 0));
+    QCOMPARE(page.elements().size(), 1);
+    QRectF const place = placeOf(*page.elements().first());
+    QCOMPARE(place.left(), 10.5);
+    QVERIFY(std::abs(place.width() - size.width()) < 1e-9 && std::abs(place.height() - size.height()) < 1e-9);
+  }
+
   void aToolChosenTwiceStays() {
     Page page;
     page.run("Host_InsertMarker");

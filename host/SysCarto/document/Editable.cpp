@@ -154,7 +154,6 @@ private:
   Uses const uses_;
 };
 
-using EditablePage = EditableSettings<Page, PageSettings>;
 using EditableMap = EditableSettings<Map, MapSettings>;
 using EditableLayer = EditableSettings<VectorLayer, LayerSettings>;
 
@@ -197,6 +196,19 @@ Wanted wantedOf(Fields::Describe const& list, QStringList const& path, SysUtilit
   return {whole, [other](QJsonValue const&) { return other; }};
 }
 
+template <class Settings>
+Editable::Pointer pageAs(MapDocument const& document) {
+  using EditablePage = EditableSettings<Page, Settings>;
+  auto const layout = document.GetPageLayout();
+  Page* const page = layout ? layout->GetPage() : nullptr;
+  if (!page) return nullptr;
+  return std::make_shared<EditablePage>(
+      SysUtility::retain(page),
+      typename EditablePage::Uses{
+          Texts::tr("the page"), [](Page const& one, DocumentContext const&) { return Settings::of(one); },
+          [](Page& one, Settings const& settings, DocumentContext&) { settings.applyTo(one); }, nullptr});
+}
+
 }  // namespace
 
 Editable::~Editable() = default;
@@ -213,16 +225,8 @@ QVector<QVector<SheetField>> Editable::fields(MapDocument const& document, List 
   return all;
 }
 
-Editable::Pointer Editable::page(MapDocument const& document) {
-  auto const layout = document.GetPageLayout();
-  Page* const page = layout ? layout->GetPage() : nullptr;
-  if (!page) return nullptr;
-  return std::make_shared<EditablePage>(
-      SysUtility::retain(page),
-      EditablePage::Uses{
-          Texts::tr("the page"), [](Page const& one, DocumentContext const&) { return PageSettings::of(one); },
-          [](Page& one, PageSettings const& settings, DocumentContext&) { settings.applyTo(one); }, nullptr});
-}
+Editable::Pointer Editable::page(MapDocument const& document) { return pageAs<PageSettings>(document); }
+Editable::Pointer Editable::aids(MapDocument const& document) { return pageAs<PageAidsSettings>(document); }
 
 Editable::Pointer Editable::element(MapDocument const& document, ElementHandle handle) {
   return std::make_shared<EditableElement>(document, handle);

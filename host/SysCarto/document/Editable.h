@@ -34,6 +34,8 @@ public:
 
   /// Null where the page is missing.
   static Pointer page(MapDocument const& document);
+  /// Its margins, guides and grid alone: a step of these leaves the rest of the page as it is.
+  static Pointer aids(MapDocument const& document);
   static Pointer element(MapDocument const& document, ElementHandle handle);
   static Pointer map(SysUtility::_ptr_t<Map> const& map);
   /// Null for a layer of a kind that can't be stored.

@@ -163,7 +163,8 @@ void FilledSettings::list(Fields& fields, ElementScope const& scope) {
 
 TextElementSettings TextElementSettings::of(TextElement const& element, ElementScope const&) {
   auto const at = ptr_cast<Point>(element.GetGeometry());
-  return {{at->GetX(), at->GetY()}, element.text(), element.width(), element.angle(), element.symbol()};
+  return {{at->GetX(), at->GetY()}, element.text(),  element.fillsPlaceholders(),
+          element.width(),          element.angle(), element.symbol()};
 }
 
 void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
@@ -174,10 +175,14 @@ void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
                                                "What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], "
                                                "[credits] and [page] are filled in while it is drawn.")},
               text, TextKind::Lines);
-  QStringList const unknown = scope.onMap ? QStringList() : Placeholders::unknownIn(text);
+  QStringList const unknown = scope.onMap || !fillsPlaceholders ? QStringList() : Placeholders::unknownIn(text);
   if (!unknown.isEmpty())
     fields.remark("text", Texts::tr("%1 is no placeholder and stands as written; there are [%2].")
                               .arg(unknown.first(), Placeholders::names().join(QStringLiteral("], ["))));
+  if (!scope.onMap)
+    fields.flag({"placeholders", QT_TRANSLATE_NOOP("Fields", "Placeholders"),
+                 QT_TRANSLATE_NOOP("Fields", "Whether placeholders are filled in, and do not stand as written.")},
+                fillsPlaceholders, true);
   fields.number({"width", QT_TRANSLATE_NOOP("Fields", "Width"),
                  QT_TRANSLATE_NOOP("Fields",
                                    "At which its lines are broken on paper; 0 breaks them only where the text "
@@ -194,6 +199,7 @@ void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
 void TextElementSettings::applyTo(TextElement& element, ElementScope const&) const {
   element.setPosition(position[0], position[1]);
   element.setText(text);
+  element.setFillsPlaceholders(fillsPlaceholders);
   element.setWidth(widthCm);
   element.setAngle(angle);
   element.setSymbol(symbol);

@@ -85,6 +85,7 @@ struct FilledSettings {
 struct TextElementSettings {
   double position[2] = {0, 0};
   QString text;
+  bool fillsPlaceholders = true;
   double widthCm = 0;
   double angle = 0;
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;

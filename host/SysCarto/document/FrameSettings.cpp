@@ -90,24 +90,6 @@ void listMargins(Fields& fields, PageAids& aids) {
   if (fields.isReading() && !isThere) aids.left = aids.right = aids.top = aids.bottom = 0;
 }
 
-void listAids(Fields& fields, PageAids& aids) {
-  listMargins(fields, aids);
-  SysUtility::Range const onPage{-maxPageSideCm, 2 * maxPageSideCm, Unit::Centimetre};
-  fields.numberList({"verticalGuides", QT_TRANSLATE_NOOP("Fields", "Vertical guides"),
-                     QT_TRANSLATE_NOOP("Fields",
-                                       "Lines from top to bottom that help to arrange, by their distance from "
-                                       "the left edge of the page; they are not printed.")},
-                    aids.verticalGuides, {0, maxGuides}, onPage);
-  fields.numberList({"horizontalGuides", QT_TRANSLATE_NOOP("Fields", "Horizontal guides"),
-                     QT_TRANSLATE_NOOP("Fields", "Lines from left to right, by their distance from the lower edge.")},
-                    aids.horizontalGuides, {0, maxGuides}, onPage);
-  fields.number({"grid", QT_TRANSLATE_NOOP("Fields", "Grid"),
-                 QT_TRANSLATE_NOOP("Fields",
-                                   "The distance of the lines of a grid to which the mouse draws what it moves; "
-                                   "0 for none.")},
-                aids.grid, {0, maxPageSideCm, Unit::Centimetre}, 0.0);
-}
-
 // The forms as choices; their texts are kept beside them.
 struct PaperForms {
   PaperForms() {
@@ -200,6 +182,28 @@ void FrameSettings::applyTo(IFrameProperties& frame) const {
   frame.SetShadow(shadow);
 }
 
+PageAidsSettings PageAidsSettings::of(Page const& page) { return {PageHost::aids(page)}; }
+
+void PageAidsSettings::list(Fields& fields) {
+  listMargins(fields, aids);
+  SysUtility::Range const onPage{-maxPageSideCm, 2 * maxPageSideCm, Unit::Centimetre};
+  fields.numberList({"verticalGuides", QT_TRANSLATE_NOOP("Fields", "Vertical guides"),
+                     QT_TRANSLATE_NOOP("Fields",
+                                       "Lines from top to bottom that help to arrange, by their distance from "
+                                       "the left edge of the page; they are not printed.")},
+                    aids.verticalGuides, {0, maxGuides}, onPage);
+  fields.numberList({"horizontalGuides", QT_TRANSLATE_NOOP("Fields", "Horizontal guides"),
+                     QT_TRANSLATE_NOOP("Fields", "Lines from left to right, by their distance from the lower edge.")},
+                    aids.horizontalGuides, {0, maxGuides}, onPage);
+  fields.number({"grid", QT_TRANSLATE_NOOP("Fields", "Grid"),
+                 QT_TRANSLATE_NOOP("Fields",
+                                   "The distance of the lines of a grid to which the mouse draws what it moves; "
+                                   "0 for none.")},
+                aids.grid, {0, maxPageSideCm, Unit::Centimetre}, 0.0);
+}
+
+void PageAidsSettings::applyTo(Page& page) const { PageHost::setAids(page, aids); }
+
 PageSettings PageSettings::of(Page const& page) {
   PageSettings settings;
   settings.form = page.GetFormID();
@@ -207,7 +211,7 @@ PageSettings PageSettings::of(Page const& page) {
   page.QuerySize(settings.widthCm, settings.heightCm);
   if (settings.orientation == landscape) std::swap(settings.widthCm, settings.heightCm);
   settings.frame = FrameSettings::of(page);
-  settings.aids = PageHost::aids(page);
+  settings.aids = PageAidsSettings::of(page);
   return settings;
 }
 
@@ -230,7 +234,7 @@ void PageSettings::list(Fields& fields) {
        QT_TRANSLATE_NOOP("Fields", "Whether the sheet stands upright or lies, which swaps its width and height.")},
       orientation, orientations, portrait);
   frame.list(fields);
-  listAids(fields, aids);
+  aids.list(fields);
 }
 
 void PageSettings::applyTo(Page& page) const {
@@ -240,7 +244,7 @@ void PageSettings::applyTo(Page& page) const {
     page.SetFormID(form);
   page.SetOrientation(orientation);
   frame.applyTo(page);
-  PageHost::setAids(page, aids);
+  aids.applyTo(page);
 }
 
 }  // namespace SysCarto

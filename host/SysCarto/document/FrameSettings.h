@@ -53,12 +53,21 @@ struct SYSCARTO_EXPORT FrameSettings {
   void applyTo(IFrameProperties& frame) const;
 };
 
+/// Margins, guides and grid of a page.
+struct PageAidsSettings {
+  PageAids aids;
+
+  static PageAidsSettings of(Page const& page);
+  void list(SysUtility::Fields& fields);
+  void applyTo(Page& page) const;
+};
+
 struct SYSCARTO_EXPORT PageSettings {
   int form = customPageForm;         ///< of `Paper`
   double widthCm = 0, heightCm = 0;  ///< of the custom form, portrait way up
   short orientation = 1;
   FrameSettings frame;
-  PageAids aids;
+  PageAidsSettings aids;
 
   static PageSettings of(Page const& page);
   void list(SysUtility::Fields& fields);

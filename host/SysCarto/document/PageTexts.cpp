@@ -68,6 +68,7 @@ QString dateIn(QString const& format) {
 
 std::shared_ptr<Placeholders> pageTexts(PageLayout const& layout, std::function<QString()> const& documentPath) {
   return std::make_shared<Placeholders>([&layout, documentPath](QString const& name, QString const& argument) {
+    if (!Placeholders::names().contains(name)) return std::optional<QString>();
     auto const all = mapsOf(layout);
     auto const named =
         std::find_if(all.begin(), all.end(), [&](auto const& map) { return map->GetName() == argument; });

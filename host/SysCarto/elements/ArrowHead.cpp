@@ -70,7 +70,7 @@ QPointF cutBack(QVector<QPointF>& run, double length) {
 }  // namespace
 
 ArrowShape::ArrowShape(QVector<QPointF> const& line, ArrowHeads const& heads, double worldPerPoint)
-    : length_(heads.sizePt * worldPerPoint), run_(line) {
+    : length_(heads.sizePt * worldPerPoint), whole_(line), run_(line) {
   if (run_.size() < 2) return;
   // A line that is shorter than its heads keeps its direction.
   add(heads.end, true);
@@ -81,8 +81,9 @@ void ArrowShape::add(ArrowHead kind, bool atEnd) {
   auto const form = std::find_if(forms().begin(), forms().end(), [=](Form const& one) { return one.kind == kind; });
   if (form == forms().end()) return;
   if (!atEnd) std::reverse(run_.begin(), run_.end());
-  QPointF const tip = run_.last();
-  auto back = run_;
+  QPointF const tip = atEnd ? whole_.last() : whole_.first();
+  auto back = whole_;
+  if (!atEnd) std::reverse(back.begin(), back.end());
   QLineF axis(cutBack(back, length_), tip);
   if (axis.length() > 0) axis.setLength(1);
   QPointF const along = axis.p2() - axis.p1(), across(-along.y(), along.x());

@@ -41,6 +41,7 @@ private:
   void add(ArrowHead kind, bool atEnd);
 
   double const length_;
+  QVector<QPointF> const whole_;
   QVector<QPointF> run_;
   QVector<Head> heads_;
 };

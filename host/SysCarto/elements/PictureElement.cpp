@@ -91,7 +91,7 @@ QPolygonF PictureElement::turnedRectangle() const {
 
 _ptr_t<Geometry> PictureElement::GetBoundary(_ptr_t<DisplayTransformation> const& transformation) const {
   QRectF const box = turnedRectangle().boundingRect();
-  Envelope const turned(box.left(), box.top(), box.right(), box.bottom());
+  Envelope const turned = angle_ == 0 ? Envelope(*shape()) : Envelope(box.left(), box.top(), box.right(), box.bottom());
   if (!transformation) return turned.GetEnvelope();
   return upright(*transformation, centreOf(*shape()), turned);
 }

@@ -43,6 +43,11 @@ void TextElement::setWidth(double cm) {
   forget();
 }
 
+void TextElement::setFillsPlaceholders(bool fills) {
+  fillsPlaceholders_ = fills;
+  forget();
+}
+
 // What was measured is no longer so.
 void TextElement::forget() {
   boundsPt_.reset();
@@ -116,7 +121,7 @@ void TextElement::SetGeometry(_ptr_t<Envelope> const& rectangle) {
 }
 
 QString TextElement::shown() const {
-  QString const filled = placeholders_ ? placeholders_->filled(text_) : text_;
+  QString const filled = placeholders_ && fillsPlaceholders_ ? placeholders_->filled(text_) : text_;
   if (widthCm_ <= 0 || filled.isEmpty()) return filled;
   if (filled_ != filled) broken_ = SysDisplay::wrapped(filled, *symbol_, widthCm_ / SysDisplay::cmPerPoint);
   filled_ = filled;

@@ -29,6 +29,10 @@ public:
   /// What is drawn: the text with its placeholders filled in and its lines broken.
   QString shown() const;
 
+  /// Whether placeholders are filled in at all; they are, if nobody says otherwise.
+  bool fillsPlaceholders() const { return fillsPlaceholders_; }
+  void setFillsPlaceholders(bool fills);
+
   /// Null for a text that stands as written.
   void setPlaceholders(std::shared_ptr<Placeholders> const& placeholders);
 
@@ -80,6 +84,7 @@ private:
   double x_ = 0, y_ = 0;
   double angle_ = 0;
   double widthCm_ = 0;
+  bool fillsPlaceholders_ = true;
   mutable QString filled_, broken_;         // the text before and after its lines were broken
   mutable QString measured_;                // what the bounds are of
   mutable std::optional<QRectF> boundsPt_;  // turned, halo included, y downwards, about the position

@@ -31,6 +31,7 @@ void OpenedGroup::read() {
   for (auto const& member : known_ ? known_->GetElements() : QList<_ptr_t<Element>>())
     members_->AddElement(member->Clone());
   members_->setOwner([this] { write(); });
+  knownChange_ = parent_.lastChange();
 }
 
 void OpenedGroup::write() {
@@ -44,16 +45,18 @@ void OpenedGroup::write() {
   ElementHost::setLocked(*known_, ElementHost::isLocked(*former));
   for (auto const& member : members) known_->AddElement(member->Clone());
   parent_.ReplaceElement(handle_, known_);
+  knownChange_ = parent_.lastChange();
 }
 
 // Where there are as many as before, each keeps its handle, and what is selected stays so.
 void OpenedGroup::follow() {
   auto const now = group();
-  if (!now || now == known_) return;
+  if (!now || (now == known_ && knownChange_ == parent_.lastChange())) return;
   auto const former = members_->GetElements(), members = now->GetElements();
   for (auto const& element : former) lowest_ = std::max(lowest_, element->GetHandle());
   if (members.size() != former.size()) return read();
   known_ = now;
+  knownChange_ = parent_.lastChange();
   members_->setOwner(nullptr);
   for (int i = 0; i < members.size(); ++i) members_->ReplaceElement(former[i]->GetHandle(), members[i]->Clone());
   members_->setOwner([this] { write(); });

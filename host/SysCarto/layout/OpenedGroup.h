@@ -36,6 +36,7 @@ private:
   ElementHandle const handle_;
   ElementHandle lowest_;                    // handles of the members are higher
   SysUtility::_ptr_t<GroupElement> known_;  // as its members were read or written last
+  quint64 knownChange_ = 0;                 // of the parent at that time: a group may be changed in place, too
   std::unique_ptr<ElementContainer> members_;
 };
 

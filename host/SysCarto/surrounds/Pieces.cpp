@@ -22,6 +22,7 @@ using SysUtility::ptr_cast;
 _ptr_t<Element> textPiece(QString const& text, _ptr_t<TextSymbol> const& symbol, QPointF const& position) {
   auto const element = make<TextElement>();
   element->setText(text);
+  element->setFillsPlaceholders(!text.contains(QLatin1Char('[')));  // a name on the map says what it says
   element->setSymbol(symbol);
   element->setPosition(position.x(), position.y());
   return element;

@@ -49,7 +49,7 @@ QList<_ptr_t<Element>> ScaleText::GetElements() {
   QString text = d->settings.pattern;
   QVector<GroundPlace> const places = groundPlaces(text);
   for (auto place = places.rbegin(); place != places.rend(); ++place)
-    text.replace(place->start, place->length, grouped(roundedTo(scale * place->factor, digits)));
+    if (place->factor > 0) text.replace(place->start, place->length, grouped(roundedTo(scale * place->factor, digits)));
   text.replace(QLatin1String("%1"), grouped(roundedTo(scale, digits)));
   TextFormat format = (d->settings.symbol ? d->settings.symbol : usualSymbol())->format();
   format.horizontal = SysDisplay::HorizontalAlignment::Center;

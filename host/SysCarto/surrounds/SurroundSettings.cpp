@@ -111,22 +111,28 @@ void ScaleLineSettings::list(Fields& fields) {
 namespace {
 
 QString problemOfPattern(QString const& pattern) {
-  bool isFilled = pattern.contains(QLatin1String("%1"));
-  for (GroundPlace const& place : groundPlaces(pattern)) {
-    if (!(place.factor > 0)) {
-      QStringList names;
-      for (GroundUnit const& unit : groundUnits()) names << QLatin1String(unit.name);
-      return QCoreApplication::translate("MapSurround",
-                                         "“%1” is no place-holder; write a unit of ground (%2), a slash and cm or in, "
-                                         "as in “1 cm = {km/cm} km”")
-          .arg(place.text, names.join(QStringLiteral(", ")));
-    }
-    isFilled = true;
-  }
+  auto const places = groundPlaces(pattern);
+  bool const isFilled =
+      pattern.contains(QLatin1String("%1")) ||
+      std::any_of(places.begin(), places.end(), [](GroundPlace const& place) { return place.factor > 0; });
   if (isFilled) return QString();
   return QCoreApplication::translate("MapSurround",
                                      "must hold %1 where the scale stands, as in “1:%1”, or a length of ground, as in "
                                      "“1 cm = {km/cm} km”");
+}
+
+// What looks like a length of ground and is none stands as written.
+QString remarkOnPattern(QString const& pattern) {
+  for (GroundPlace const& place : groundPlaces(pattern)) {
+    if (place.factor > 0) continue;
+    QStringList names;
+    for (GroundUnit const& unit : groundUnits()) names << QLatin1String(unit.name);
+    return QCoreApplication::translate("MapSurround",
+                                       "“%1” is no place-holder; write a unit of ground (%2), a slash and cm or in, "
+                                       "as in “1 cm = {km/cm} km”")
+        .arg(place.text, names.join(QStringLiteral(", ")));
+  }
+  return QString();
 }
 
 }  // namespace
@@ -141,6 +147,8 @@ void ScaleTextSettings::list(Fields& fields) {
       pattern, TextKind::Line, ScaleTextSettings().pattern);
   QString const problem = fields.ok() ? problemOfPattern(pattern) : QString();
   if (!problem.isEmpty()) fields.fail("pattern", problem);
+  QString const remark = remarkOnPattern(pattern);
+  if (!remark.isEmpty()) fields.remark("pattern", remark + QLatin1Char('.'));
   listText(fields, QT_TRANSLATE_NOOP("Fields", "How the letters look; without a symbol 12 points high."), symbol);
 }
 

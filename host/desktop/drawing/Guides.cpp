@@ -154,6 +154,7 @@ void GuideGesture::commit() {
   bool const isNew = guide_.index < 0;
   if (isNew && !isOnPage()) return;
   auto places = guidesOf(PageHost::aids(*layout().GetPage()), guide_.orientation);
+  if (guide_.index >= places.size()) return;  // it has gone meanwhile
   if (isNew)
     places << place();
   else if (isOnPage())
@@ -164,7 +165,7 @@ void GuideGesture::commit() {
   for (double const one : qAsConst(places)) list.append(one);
   QStringList warnings;
   QString const problem = SysCarto::Editable::set(
-      views_.document(), {SysCarto::Editable::page(views_.document())},
+      views_.document(), {SysCarto::Editable::aids(views_.document())},
       {guide_.orientation == Qt::Vertical ? QStringLiteral("verticalGuides") : QStringLiteral("horizontalGuides")},
       [&](QJsonValue const&) { return QJsonValue(list); }, warnings);
   if (!problem.isEmpty()) emit views_.layoutView().told(problem + QLatin1Char('.'));

@@ -83,7 +83,9 @@ QPointF DrawGesture::constrained() const {
                                                          : onRay(fixed_.last(), point());
 }
 
+// A hand that trembles has set one point.
 QVector<QPointF> DrawGesture::points() const {
+  if (!hasMoved()) return fixed_;
   QPointF const last = constrained();
   double const reach = sameVertexPx / layout().GetDisplayTransformation()->ToDevice().m11();
   bool const isSame = QLineF(fixed_.last(), last).length() < reach;
@@ -155,7 +157,8 @@ void InsertTool::finish() {
   auto const points = gesture_->points();
   auto const usual = kind_.usualPoints(points.first());
   bool const isDrawn = kind_.points != NewElementKind::Points::Place && kind_.takes(points.size());
-  if (!isDrawn && points.size() > 1) return;  // two vertices are no area yet
+  bool const isRun = kind_.points == NewElementKind::Points::Vertices;
+  if (isRun && !isDrawn && points.size() > 1) return;  // two vertices are no area yet
   giveUp();
   insert(isDrawn ? points : usual);
 }
@@ -178,8 +181,9 @@ void InsertTool::write(QVector<QPointF> const& points) {
   auto const layout = SysFramework::activePageLayout(*hook());
   QString problem;
   auto const draft = kind_.make(points, {*layout, QString(), problem});
-  view_.edit(*SysUtility::ptr_cast<SysCarto::TextElement>(draft), [this, points](QString const& text) {
-    if (!text.isEmpty()) insertKind(kind_, points, text);
+  auto const self = SysUtility::retain(this);
+  view_.edit(*SysUtility::ptr_cast<SysCarto::TextElement>(draft), [self, points](QString const& text) {
+    if (!text.isEmpty()) self->insertKind(self->kind_, points, text);
   });
 }
 

@@ -180,7 +180,9 @@ void SelectTool::OnMouseUp(QMouseEvent* event) {
 void SelectTool::OnDblClick(QMouseEvent* event) {
   auto const layout = SysFramework::activePageLayout(*hook());
   if (!layout || event->button() != Qt::LeftButton) return;
-  auto const element = elementAt(*layout, event->pos(), true);
+  // A locked frame takes the focus where nothing else is to be had.
+  auto const free = elementAt(*layout, event->pos());
+  auto const element = free ? free : elementAt(*layout, event->pos(), true);
   if (!element) return;
   giveUp();
   if (auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element)) {

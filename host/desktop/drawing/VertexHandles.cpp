@@ -103,6 +103,8 @@ VertexHandles::Rings VertexHandles::without(Vertex const& vertex) const {
 }
 
 void VertexHandles::replace(PageLayout& layout, QString const& stepName, Rings const& rings) const {
+  auto const selected = workplace(layout).find(element_->GetHandle());
+  if (selected != element_) return;  // it has changed or gone meanwhile
   auto const clone = element_->Clone();
   if (auto const line = ptr_cast<LineElement>(clone)) line->setShape(make<SysGeometry::Polyline>(rings.first()));
   if (auto const polygon = ptr_cast<PolygonElement>(clone)) polygon->setShape(make<SysGeometry::Polygon>(rings));

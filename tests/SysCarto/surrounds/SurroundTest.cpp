@@ -266,12 +266,9 @@ private slots:
   }
 
   void aPatternWithoutAPlaceForTheScaleIsRefused() {
-    for (auto const& [pattern, start] : std::map<QString, QString>{
-             {"1:many", "pattern: must hold %1"}, {"1:%1, {kn/cm}", "pattern: “{kn/cm}” is no place-holder"}}) {
-      ScaleTextSettings settings;
-      QString const problem = SysUtility::readJson(QJsonObject{{"pattern", pattern}}, settings);
-      QVERIFY2(problem.startsWith(start), qPrintable(problem));
-    }
+    ScaleTextSettings settings;
+    QString const problem = SysUtility::readJson(QJsonObject{{"pattern", "1:many, {kn/cm}"}}, settings);
+    QVERIFY2(problem.startsWith("pattern: must hold %1"), qPrintable(problem));
   }
 };
 
