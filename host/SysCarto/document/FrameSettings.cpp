@@ -23,6 +23,7 @@ constexpr double maxPt = 1000;
 constexpr SysUtility::Range distances{-maxPt, maxPt, Unit::Point};
 constexpr SysUtility::Range pageSides{minPageSideCm, maxPageSideCm, Unit::Centimetre};
 constexpr int maxGuides = 1000;
+constexpr double usualMarginCm = 1;
 constexpr short portrait = 1, landscape = 2;
 
 constexpr Choice orientations[] = {{portrait, "portrait", QT_TRANSLATE_NOOP("Fields", "Portrait")},
@@ -65,9 +66,9 @@ void listPart(Fields& fields, Field const& field, _ptr_t<Part>& part) {
   part = made;
 }
 
-// Margins of no width are none.
+// Margins of no width are none; those that are there without one begin with the usual width, to be seen.
 void listMargins(Fields& fields, PageAids& aids) {
-  bool const hasMargins = aids.left > 0 || aids.right > 0 || aids.top > 0 || aids.bottom > 0;
+  auto const hasMargins = [&] { return aids.left > 0 || aids.right > 0 || aids.top > 0 || aids.bottom > 0; };
   auto const side = [&](Fields& own, Field const& field, double& margin) {
     own.number(field, margin, {0, maxPageSideCm, Unit::Centimetre}, 0.0);
   };
@@ -75,8 +76,8 @@ void listMargins(Fields& fields, PageAids& aids) {
       {"margins", QT_TRANSLATE_NOOP("Fields", "Margins"),
        QT_TRANSLATE_NOOP("Fields",
                          "Lines along the edges of the page to which the mouse draws what it moves; they are "
-                         "not printed.")},
-      hasMargins, [&](Fields& own) {
+                         "not printed. Without any width they are 1 cm wide.")},
+      hasMargins(), [&](Fields& own) {
         side(own, {"left", QT_TRANSLATE_NOOP("Fields", "Left"), QT_TRANSLATE_NOOP("Fields", "From the left edge.")},
              aids.left);
         side(own, {"right", QT_TRANSLATE_NOOP("Fields", "Right"), QT_TRANSLATE_NOOP("Fields", "From the right edge.")},
@@ -87,7 +88,8 @@ void listMargins(Fields& fields, PageAids& aids) {
              {"bottom", QT_TRANSLATE_NOOP("Fields", "Bottom"), QT_TRANSLATE_NOOP("Fields", "From the lower edge.")},
              aids.bottom);
       });
-  if (fields.isReading() && !isThere) aids.left = aids.right = aids.top = aids.bottom = 0;
+  if (fields.isReading() && (!isThere || !hasMargins()))
+    aids.left = aids.right = aids.top = aids.bottom = isThere ? usualMarginCm : 0;
 }
 
 // The forms as choices; their texts are kept beside them.
