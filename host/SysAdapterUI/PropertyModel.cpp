@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QColor>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QJsonArray>
 #include <QPainter>
@@ -332,6 +333,8 @@ void PropertyModel::refreshSoon() {
 
 QStringList PropertyModel::suggestions(QModelIndex const& index) const {
   FieldInfo const& info = nodeAt(index).field.info;
+  if (info.kind == Kind::Text && QLatin1String(info.field.key) == QLatin1String("family"))
+    return QFontDatabase().families();
   bool const isAttribute = info.kind == Kind::Text && info.rules.textKind == TextKind::Attribute;
   return isAttribute && source_ ? source_->attributes() : QStringList();
 }

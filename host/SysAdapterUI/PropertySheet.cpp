@@ -75,7 +75,12 @@ PropertySheet::PropertySheet(QWidget* parent)
   connect(view_->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
           [this] { QTimer::singleShot(0, this, &PropertySheet::refresh); });
   connect(model_, &QAbstractItemModel::dataChanged, this, &PropertySheet::showCurrent);
-  connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &PropertySheet::showCurrent);
+  // Keys are about the value of a row, whichever of its two cells was reached.
+  connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](QModelIndex const& index) {
+    if (index.isValid() && index.column() != PropertyModel::ValueColumn)
+      return view_->setCurrentIndex(index.siblingAtColumn(PropertyModel::ValueColumn));
+    showCurrent();
+  });
   connect(view_, &QTreeView::clicked, this, [this](QModelIndex const& index) {
     if (index.column() == PropertyModel::ValueColumn) open(index);
   });
@@ -149,7 +154,8 @@ void PropertySheet::open(QModelIndex const& index) {
   });
 }
 
-// Keys that mean something here are not those of the window: Del is about an entry, and no element of the page.
+// Keys that mean something here are not those of the window: Del is about an entry, and no element of the page, and a
+// letter begins the value of its row.
 bool PropertySheet::eventFilter(QObject* watched, QEvent* event) {
   bool const isOverride = event->type() == QEvent::ShortcutOverride;
   if (watched != view_ || (!isOverride && event->type() != QEvent::KeyPress))
@@ -158,7 +164,10 @@ bool PropertySheet::eventFilter(QObject* watched, QEvent* event) {
   bool const isProblem = !current().data(PropertyModel::ProblemRole).toString().isEmpty();
   bool const isOwn = key->matches(QKeySequence::Delete) || key->matches(QKeySequence::SelectAll) ||
                      key->key() == Qt::Key_F2 || (key->key() == Qt::Key_Escape && isProblem);
-  if (!isOwn) return QWidget::eventFilter(watched, event);
+  bool const isTyped = !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
+                       key->text().size() == 1 && key->text()[0].isPrint();
+  if (!isOwn && !(isOverride && isTyped && current().flags() & Qt::ItemIsEditable))
+    return QWidget::eventFilter(watched, event);
   event->accept();
   if (isOverride) return true;
   if (key->key() == Qt::Key_F2) open(view_->currentIndex());

@@ -247,6 +247,7 @@ void MainWindow::buildProperties() {
   connect(&bench_.views().layoutView(), &LayoutView::propertiesWanted, properties_, [this] {
     properties_->show();
     properties_->raise();
+    properties_->widget()->setFocus();
   });
   connect(contents_, &SysAdapterUI::TOCControl::RowChosen, properties_, &PropertyPanel::showRow);
   connect(elements_, &ElementList::chosen, properties_, &PropertyPanel::showSelection);
@@ -388,6 +389,12 @@ void MainWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) files_.look();
   if (event->type() == QEvent::PaletteChange && contents_)
     bench_.views().layoutView().refresh(SysCarto::RefreshPhase::Everything);
+}
+
+// An Escape that no panel has a use for leads back to the page.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) return bench_.views().currentWidget()->setFocus();
+  QMainWindow::keyPressEvent(event);
 }
 
 void MainWindow::contextMenuEvent(QContextMenuEvent* event) {

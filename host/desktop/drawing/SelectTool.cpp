@@ -230,6 +230,9 @@ void SelectTool::OnKeyDown(QKeyEvent* event) {
       select(*layout, {});
     showSelection(*layout);
     event->accept();
+  } else if (!gesture_ && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    emit views_.layoutView().propertiesWanted();
+    event->accept();
   } else if (!gesture_ && changeVertex(*layout, *event)) {
     event->accept();
   } else if (!gesture_ && nudge(*layout, *event)) {
