@@ -124,8 +124,11 @@ void LayoutView::edit(SysCarto::TextElement const& text, TextEditor::Taken const
   connect(this, &ViewWidget::viewChanged, editor_.data(), [this, editor = editor_.data()] {
     if (layout_) editor->follow(*layout_->GetDisplayTransformation());
   });
+  connect(editor_.data(), &TextEditor::refused, this, &LayoutView::told);
+  connect(editor_.data(), &QObject::destroyed, this, QOverload<>::of(&QWidget::update));
   editor_->show();
   editor_->setFocus();
+  update();
 }
 
 void LayoutView::finishEditing() {
@@ -156,7 +159,8 @@ void LayoutView::paintOver(QPainter& painter) {
   paintFocusMark(painter, *layout_);
   paintOpenGroup(painter, *layout_);
   paintLocked(painter, *layout_);
-  if (!hostTool() || !hostTool()->paintOver(painter)) SelectionHandles(*layout_).paint(painter);
+  if (editor_ || (hostTool() && hostTool()->paintOver(painter))) return;  // no handles about what is written in
+  SelectionHandles(*layout_).paint(painter);
 }
 
 void LayoutView::paintAids(QPainter& painter) {
@@ -174,14 +178,15 @@ bool LayoutView::editSelected() {
   return edits;
 }
 
-// Undo and redo, and the tool's own keys, reach the tool before a menu takes them for a shortcut.
+// Arrows and the tool's own keys reach the tool before a menu takes them for a shortcut; in the middle of a drag all
+// do, so that no command takes away what the drag is about.
 bool LayoutView::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     auto const key = static_cast<QKeyEvent*>(event)->key();
     bool const isArrow = key >= Qt::Key_Left && key <= Qt::Key_Down;
     bool const isPlain = !(static_cast<QKeyEvent*>(event)->modifiers() & (Qt::AltModifier | Qt::ControlModifier));
     bool const isWanted = hostTool() && layout_ && hostTool()->wants(*static_cast<QKeyEvent*>(event));
-    if ((isArrow && isPlain) || key == Qt::Key_Escape || isWanted) event->accept();
+    if ((isArrow && isPlain) || key == Qt::Key_Escape || isWanted || dragging_ != Qt::NoButton) event->accept();
   }
   return ViewWidget::event(event);
 }

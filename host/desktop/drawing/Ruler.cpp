@@ -79,6 +79,8 @@ void Ruler::paintTicks(QPainter& painter, QTransform const& toDevice) const {
     painter.drawLine(isLevel ? QLineF(at, from, at, thick) : QLineF(from, at, thick, at));
     if (!isLabel) continue;
     QString const number = locale().toString(cm, 'g', 6);
+    double const end = textMarginPx + fontMetrics().horizontalAdvance(number);
+    if (isLevel ? at + end > length : at - end < 0) continue;  // not in part
     painter.save();
     painter.translate(isLevel ? QPointF(at + textMarginPx, fontMetrics().ascent())
                               : QPointF(fontMetrics().ascent(), at - textMarginPx));
@@ -129,6 +131,12 @@ void Ruler::mouseReleaseEvent(QMouseEvent* event) {
 
 void Ruler::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) endGesture(false);
+}
+
+// No command changes the page while a guide is pulled.
+bool Ruler::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && gesture_) event->accept();
+  return QWidget::event(event);
 }
 
 void Ruler::endGesture(bool isTaken) {
