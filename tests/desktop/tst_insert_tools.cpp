@@ -92,6 +92,16 @@ private slots:
     QVERIFY(std::abs(place.width() - size.width()) < 1e-9 && std::abs(place.height() - size.height()) < 1e-9);
   }
 
+  void whatIsDrawnHalfStaysInItsDocument() {
+    Page page;
+    page.run("Host_InsertPolygon");
+    for (QPointF const& vertex : {QPointF(2, 20), QPointF(8, 20), QPointF(8, 2)}) page.click(page.at(vertex));
+    page.bench.session().create();
+    page.key(Qt::Key_Return);
+    QCOMPARE(page.elements().size(), 1);
+    QVERIFY(placeOf(*page.elements().first()).width() < 5);  // one of the usual size
+  }
+
   void aToolChosenTwiceStays() {
     Page page;
     page.run("Host_InsertMarker");
@@ -114,6 +124,10 @@ private slots:
     QTest::keyClicks(page.editor(), "Plan");
     page.key(*page.editor(), Qt::Key_Return);
     QTest::keyClicks(page.editor(), "of it");
+    QApplication::clipboard()->setText(QString(17000, 'x'));
+    QSignalSpy const told(&page.view(), &LayoutView::told);
+    page.editor()->paste();
+    QCOMPARE(told.count(), 1);
     page.key(*page.editor(), Qt::Key_Return, Qt::ControlModifier);
     QCOMPARE(page.firstText()->text(), QString("Plan\nof it"));
     QCOMPARE(page.container().GetSelectedElementCount(), 1);

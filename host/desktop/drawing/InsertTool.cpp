@@ -214,6 +214,7 @@ void InsertTool::insertKind(NewElementKind const& kind, QVector<QPointF> const& 
 void InsertTool::OnKeyDown(QKeyEvent* event) {
   auto const layout = SysFramework::activePageLayout(*hook());
   if (!layout) return;
+  if (layout != layout_) giveUp();
   switch (event->key()) {
     case Qt::Key_Escape:
       if (gesture_)

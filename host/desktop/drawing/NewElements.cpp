@@ -128,6 +128,11 @@ _ptr_t<Element> makeMarker(QVector<QPointF> const& place, NewContent const&) {
 
 // It hangs below its place, and where a box was drawn fills its width.
 _ptr_t<Element> makeText(QVector<QPointF> const& points, NewContent const& content) {
+  int const max = SysUtility::maxCharacters(SysUtility::TextKind::Lines);
+  if (content.words.size() > max)
+    content.problem = Texts::tr("The text has %1 characters, and an element at most %2; insert a part of it.")
+                          .arg(content.words.size())
+                          .arg(max);
   auto const text = make<SysCarto::TextElement>();
   auto format = text->symbol()->format();
   format.vertical = SysDisplay::VerticalAlignment::Top;

@@ -1,10 +1,12 @@
 #include "TextEditor.h"
 
 #include "host/SysDisplay/TextWrap.h"
+#include "host/SysUtility/Fields.h"
 
 #include <SysDisplay/Units.h>
 
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QScrollBar>
 
 #include <cmath>
@@ -123,6 +125,18 @@ bool TextEditor::event(QEvent* event) {
     }
   }
   return QPlainTextEdit::event(event);
+}
+
+// What an element can't hold is refused while it can still be shortened elsewhere, and nothing written so far is lost.
+void TextEditor::insertFromMimeData(QMimeData const* source) {
+  int const max = SysUtility::maxCharacters(SysUtility::TextKind::Lines);
+  int const size = toPlainText().size() - textCursor().selectedText().size() + source->text().size();
+  if (size > max)
+    emit refused(tr("With what was pasted the text has %1 characters, and an element at most %2; paste a part of it.")
+                     .arg(size)
+                     .arg(max));
+  else
+    QPlainTextEdit::insertFromMimeData(source);
 }
 
 void TextEditor::keyPressEvent(QKeyEvent* event) {

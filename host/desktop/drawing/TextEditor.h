@@ -25,7 +25,12 @@ public:
   void take();
   void giveUp();
 
+signals:
+  /// What was pasted is too long; a sentence says so.
+  void refused(QString const& sentence);
+
 protected:
+  void insertFromMimeData(QMimeData const* source) override;
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
