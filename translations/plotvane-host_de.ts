@@ -3567,7 +3567,7 @@
     </message>
     <message>
         <source>Lines along the edges of the page to which the mouse draws what it moves; they are not printed.</source>
-        <translation>Linien entlang den Kanten der Seite, an denen die Maus einrastet; sie werden nicht gedruckt.</translation>
+        <translation type="vanished">Linien entlang den Kanten der Seite, an denen die Maus einrastet; sie werden nicht gedruckt.</translation>
     </message>
     <message>
         <source>From the left edge.</source>
@@ -3620,6 +3620,10 @@
     <message>
         <source>Whether placeholders are filled in, and do not stand as written.</source>
         <translation>Ob Platzhalter ausgefüllt werden und nicht dastehen, wie sie geschrieben sind.</translation>
+    </message>
+    <message>
+        <source>Lines along the edges of the page to which the mouse draws what it moves; they are not printed. Without any width they are 1 cm wide.</source>
+        <translation>Linien entlang der Ränder der Seite, an denen einrastet, was die Maus bewegt; sie werden nicht gedruckt. Ohne jede Breite sind sie 1 cm breit.</translation>
     </message>
 </context>
 <context>
@@ -4275,6 +4279,10 @@
     <message>
         <source>%1: the picture is too large to be embedded; link it.</source>
         <translation>%1: Das Bild ist zu groß, um eingebettet zu werden; verknüpfen Sie es.</translation>
+    </message>
+    <message>
+        <source>The text has %1 characters, and an element at most %2; insert a part of it.</source>
+        <translation>Der Text hat %1 Zeichen, ein Element höchstens %2; fügen Sie einen Teil davon ein.</translation>
     </message>
 </context>
 <context>
@@ -5348,6 +5356,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Text on the page</source>
         <translation>Text auf der Seite</translation>
+    </message>
+    <message>
+        <source>With what was pasted the text has %1 characters, and an element at most %2; paste a part of it.</source>
+        <translation>Mit dem Eingefügten hat der Text %1 Zeichen, ein Element höchstens %2; fügen Sie einen Teil davon ein.</translation>
     </message>
 </context>
 <context>

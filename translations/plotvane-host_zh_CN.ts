@@ -3567,7 +3567,7 @@
     </message>
     <message>
         <source>Lines along the edges of the page to which the mouse draws what it moves; they are not printed.</source>
-        <translation>沿页面边缘的线，鼠标移动对象时会吸附；不打印。</translation>
+        <translation type="vanished">沿页面边缘的线，鼠标移动对象时会吸附；不打印。</translation>
     </message>
     <message>
         <source>From the left edge.</source>
@@ -3620,6 +3620,10 @@
     <message>
         <source>Whether placeholders are filled in, and do not stand as written.</source>
         <translation>占位符是否被填入，而不是按原样显示。</translation>
+    </message>
+    <message>
+        <source>Lines along the edges of the page to which the mouse draws what it moves; they are not printed. Without any width they are 1 cm wide.</source>
+        <translation>沿页面边缘的线，鼠标移动的对象会吸附到这些线上；不会打印。未给出任何宽度时为 1 厘米。</translation>
     </message>
 </context>
 <context>
@@ -4275,6 +4279,10 @@
     <message>
         <source>%1: the picture is too large to be embedded; link it.</source>
         <translation>%1：图片太大，无法嵌入；请改为链接。</translation>
+    </message>
+    <message>
+        <source>The text has %1 characters, and an element at most %2; insert a part of it.</source>
+        <translation>文本有 %1 个字符，而一个元素最多 %2 个；请只插入其中一部分。</translation>
     </message>
 </context>
 <context>
@@ -5348,6 +5356,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Text on the page</source>
         <translation>页面上的文本</translation>
+    </message>
+    <message>
+        <source>With what was pasted the text has %1 characters, and an element at most %2; paste a part of it.</source>
+        <translation>加上粘贴的内容，文本有 %1 个字符，而一个元素最多 %2 个；请只粘贴其中一部分。</translation>
     </message>
 </context>
 <context>
