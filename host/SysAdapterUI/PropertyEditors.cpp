@@ -57,8 +57,10 @@ public:
     edit_->setText(shown(value));
     edit_->selectAll();
     edit_->setModified(false);
+    first_ = edit_->text();
   }
-  bool isChanged() const override { return edit_->isModified(); }
+  // A suggestion that was chosen does not count as typed.
+  bool isChanged() const override { return edit_->isModified() || edit_->text() != first_; }
   QString text() const override { return edit_->text(); }
 
   // A comma or a point, whatever the language.
@@ -133,6 +135,7 @@ private:
 
   FieldInfo const info_;
   QLineEdit* const edit_;
+  QString first_;
 };
 
 // Texts of many lines, and lists with a text on each line.
@@ -287,14 +290,18 @@ FieldEditor* FieldEditor::create(FieldInfo const& info, QStringList const& sugge
     return new LinesField(info, new QPlainTextEdit(parent));
   if (isText && hasButton(info.rules.textKind)) return new ButtonField(info, new QLineEdit(parent));
   auto* const line = new QLineEdit(parent);
+  auto* const field = new LineField(info, line);
   if (!suggestions.isEmpty()) {
     auto* const completer = new QCompleter(suggestions, line);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     completer->setFilterMode(Qt::MatchContains);
     line->setCompleter(completer);
     QTimer::singleShot(0, completer, [completer] { completer->complete(); });
+    // The line has the text by then.
+    connect(completer, QOverload<QString const&>::of(&QCompleter::activated), field, &FieldEditor::finished,
+            Qt::QueuedConnection);
   }
-  return new LineField(info, line);
+  return field;
 }
 
 }  // namespace SysAdapterUI
