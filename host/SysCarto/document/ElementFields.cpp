@@ -140,6 +140,8 @@ void setLocked(Element& element, bool locked) {
 }
 
 QString captionOfKind(Element const& element) {
+  auto const* const frame = dynamic_cast<MapSurroundFrame const*>(&element);
+  if (frame && frame->GetMapSurround()) return frame->GetMapSurround()->title();
   int const kind = kindOf(&element);
   return kind < 0 ? QString() : QCoreApplication::translate("Fields", kinds[kind].choice.caption);
 }
