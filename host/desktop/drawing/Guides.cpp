@@ -130,9 +130,16 @@ bool GuideGesture::isOnPage() const {
   return place() >= 0 && place() <= (guide_.orientation == Qt::Vertical ? width : height);
 }
 
+// Where no line is near, to whole millimetres.
 Snapper::Result GuideGesture::snapped(QPointF const& point) const {
   bool const isVertical = guide_.orientation == Qt::Vertical;
-  return lines().ofPoint(point, snapReachCm(), isVertical, !isVertical);
+  auto snap = lines().ofPoint(point, snapReachCm(), isVertical, !isVertical);
+  if (!snap.lines.isEmpty()) return snap;
+  QPointF const millimetre(std::round(point.x() * 10) / 10, std::round(point.y() * 10) / 10);
+  QPointF const by = millimetre - point;
+  if (std::abs(along(by, guide_.orientation)) <= snapReachCm())
+    snap.by = isVertical ? QPointF(by.x(), 0) : QPointF(0, by.y());
+  return snap;
 }
 
 QString GuideGesture::numbers() const {

@@ -54,6 +54,15 @@ QRectF rectangleOf(Envelope const& envelope) {
   return {envelope.GetXMin(), envelope.GetYMin(), envelope.GetWidth(), envelope.GetHeight()};
 }
 
+// What sums and products leave in the last digits is no place that anybody chose.
+void tidy(Element& element) {
+  auto const box = SysUtility::ptr_cast<Envelope>(element.GetGeometry());
+  if (!box) return;
+  auto const tidied = [](double cm) { return std::round(cm * 1e9) / 1e9; };
+  element.SetGeometry(
+      make<Envelope>(tidied(box->GetXMin()), tidied(box->GetYMin()), tidied(box->GetXMax()), tidied(box->GetYMax())));
+}
+
 _ptr_t<SysGeometry::Geometry> outlineOf(QRectF const& box) {
   return make<Envelope>(box.left(), box.top(), box.right(), box.bottom());
 }
@@ -76,6 +85,7 @@ void changeSelection(PageLayout& layout, QString const& name, std::function<void
     for (auto const& element : selection) {
       auto const clone = element->Clone();
       change(*clone);
+      tidy(*clone);
       workplace(layout).ReplaceElement(element->GetHandle(), clone);
     }
   }
