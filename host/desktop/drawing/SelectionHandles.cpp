@@ -48,7 +48,7 @@ QRectF areaOf(IElementContainer const& elements) {
 QList<_ptr_t<Element>> movableSelection(PageLayout const& layout) {
   QList<_ptr_t<Element>> movable;
   for (auto const& element : workplace(layout).GetSelectedElements())
-    if (!isLocked(*element)) movable << element;
+    if (isInReach(*element)) movable << element;
   return movable;
 }
 

@@ -16,7 +16,7 @@ SysCarto::ElementContainer& workplace(SysCarto::PageLayout const& layout);
 /// About all of them; null without any.
 QRectF areaOf(IElementContainer const& elements);
 
-/// The selected elements that a person may move: all but locked ones, first selected first.
+/// The selected elements that a person may move: all but locked and hidden ones, first selected first.
 QList<SysUtility::_ptr_t<SysCarto::Element>> movableSelection(SysCarto::PageLayout const& layout);
 
 /// Whether a person can select the element on the page, with the mouse or a key: it is neither locked nor hidden.
