@@ -839,7 +839,11 @@
     </message>
     <message>
         <source>Draw what is moved to edges, centres, guides and equal gaps, but not with Alt</source>
-        <translation>Zieht, was bewegt wird, an Kanten, Mitten, Hilfslinien und gleiche Abstände, mit Alt nicht</translation>
+        <translation type="vanished">Zieht, was bewegt wird, an Kanten, Mitten, Hilfslinien und gleiche Abstände, mit Alt nicht</translation>
+    </message>
+    <message>
+        <source>Snap what is moved to edges, centres, guides and equal gaps; Alt switches it off</source>
+        <translation>Lässt, was bewegt wird, an Kanten, Mitten, Hilfslinien und gleichen Abständen einrasten; Alt schaltet es aus</translation>
     </message>
 </context>
 <context>
@@ -3603,7 +3607,7 @@
     </message>
     <message>
         <source>The distance of the lines of a grid to which the mouse draws what it moves; 0 for none.</source>
-        <translation>Der Abstand der Linien eines Rasters, an dem die Maus einrastet; 0 für keines.</translation>
+        <translation type="vanished">Der Abstand der Linien eines Rasters, an dem die Maus einrastet; 0 für keines.</translation>
     </message>
     <message>
         <source>How many maps more surrounds and overviews follow.</source>
@@ -3623,7 +3627,15 @@
     </message>
     <message>
         <source>Lines along the edges of the page to which the mouse draws what it moves; they are not printed. Without any width they are 1 cm wide.</source>
-        <translation>Linien entlang der Ränder der Seite, an denen einrastet, was die Maus bewegt; sie werden nicht gedruckt. Ohne jede Breite sind sie 1 cm breit.</translation>
+        <translation type="vanished">Linien entlang der Ränder der Seite, an denen einrastet, was die Maus bewegt; sie werden nicht gedruckt. Ohne jede Breite sind sie 1 cm breit.</translation>
+    </message>
+    <message>
+        <source>Lines along the edges of the page to which what is moved snaps; they are not printed. Without any width they are 1 cm wide.</source>
+        <translation>Linien entlang den Kanten der Seite, an denen einrastet, was bewegt wird; sie werden nicht gedruckt. Ohne jede Breite sind sie 1 cm breit.</translation>
+    </message>
+    <message>
+        <source>The distance of the lines of a grid to which what is moved snaps; 0 for none.</source>
+        <translation>Der Abstand der Linien eines Rasters, an dem einrastet, was bewegt wird; 0 für keines.</translation>
     </message>
 </context>
 <context>

@@ -839,7 +839,11 @@
     </message>
     <message>
         <source>Draw what is moved to edges, centres, guides and equal gaps, but not with Alt</source>
-        <translation>使移动的对象吸附到边缘、中心、参考线和等间距处；按住 Alt 时不吸附</translation>
+        <translation type="vanished">使移动的对象吸附到边缘、中心、参考线和等间距处；按住 Alt 时不吸附</translation>
+    </message>
+    <message>
+        <source>Snap what is moved to edges, centres, guides and equal gaps; Alt switches it off</source>
+        <translation>使移动的对象吸附到边缘、中心、参考线和等间距处；按住 Alt 时关闭</translation>
     </message>
 </context>
 <context>
@@ -3603,7 +3607,7 @@
     </message>
     <message>
         <source>The distance of the lines of a grid to which the mouse draws what it moves; 0 for none.</source>
-        <translation>鼠标吸附网格的线间距；0 表示没有网格。</translation>
+        <translation type="vanished">鼠标吸附网格的线间距；0 表示没有网格。</translation>
     </message>
     <message>
         <source>How many maps more surrounds and overviews follow.</source>
@@ -3623,7 +3627,15 @@
     </message>
     <message>
         <source>Lines along the edges of the page to which the mouse draws what it moves; they are not printed. Without any width they are 1 cm wide.</source>
-        <translation>沿页面边缘的线，鼠标移动的对象会吸附到这些线上；不会打印。未给出任何宽度时为 1 厘米。</translation>
+        <translation type="vanished">沿页面边缘的线，鼠标移动的对象会吸附到这些线上；不会打印。未给出任何宽度时为 1 厘米。</translation>
+    </message>
+    <message>
+        <source>Lines along the edges of the page to which what is moved snaps; they are not printed. Without any width they are 1 cm wide.</source>
+        <translation>沿页面边缘的线，移动的对象会吸附；不打印。未给出宽度时为 1 厘米。</translation>
+    </message>
+    <message>
+        <source>The distance of the lines of a grid to which what is moved snaps; 0 for none.</source>
+        <translation>移动的对象所吸附网格的线间距；0 表示没有网格。</translation>
     </message>
 </context>
 <context>

@@ -212,7 +212,7 @@ public:
       {"Host_Guides", "guides", inView, 5, onNone, "Ctrl+;",
        QT_TR_NOOP("Guides"), QT_TR_NOOP("Show or hide the margins, guides and grid of the page"), nothing},
       {"Host_Snapping", "snapping", inView, 5, onNone, "Ctrl+Shift+;",
-       QT_TR_NOOP("Snapping"), QT_TR_NOOP("Draw what is moved to edges, centres, guides and equal gaps, but not with Alt"),
+       QT_TR_NOOP("Snapping"), QT_TR_NOOP("Snap what is moved to edges, centres, guides and equal gaps; Alt switches it off"),
        nothing},
       {"Host_Contents", "contents", inView, 4, onNone, "F9",
        QT_TR_NOOP("Contents"), QT_TR_NOOP("Show or hide the table of contents"), nothing},

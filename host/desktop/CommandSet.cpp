@@ -17,7 +17,10 @@ CommandSet::CommandSet(HostCommands const& host, PluginLibrary const& plugin, vo
   for (CommandEntry const& entry : commandCatalogue()) add(entry, plugin.createCommand(entry.identifier), hook);
   finishTool();
   QObject::connect(&views.layoutView(), &LayoutView::toolDone, this, &CommandSet::toolDone);
-  QObject::connect(&views.layoutView(), &LayoutView::selectingWanted, this, &CommandSet::finishTool);
+  QObject::connect(&views.layoutView(), &LayoutView::selectingWanted, this, [this] {
+    finishTool();
+    emit clicked();
+  });
   QObject::connect(&views.layoutView(), &LayoutView::told, this, &CommandSet::failed);
 }
 

@@ -110,7 +110,8 @@ void ElementList::selectionChanged(QItemSelection const& selected, QItemSelectio
   auto const elements = container.GetElements();
   QSet<ElementHandle> wanted;
   for (QModelIndex const& row : rows)
-    if (row.parent() == group) wanted << elements.at(elements.size() - 1 - row.row())->GetHandle();
+    if (auto const element = elements.value(elements.size() - 1 - row.row()); element && row.parent() == group)
+      wanted << element->GetHandle();
   bool const isAll = wanted.size() == rows.size();
   Elements picked;
   for (auto const& element : container.GetSelectedElements() + elements)

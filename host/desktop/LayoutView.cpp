@@ -109,7 +109,10 @@ void LayoutView::enterTool() {
 void LayoutView::giveDragUp() {
   if (std::exchange(dragging_, Qt::NoButton) == Qt::NoButton) return;
   QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-  if (tool_) tool_->OnKeyDown(&escape);
+  if (hostTool())
+    hostTool()->giveUp();
+  else if (tool_)
+    tool_->OnKeyDown(&escape);
   clearOverlay();
   enterTool();  // a cursor of the drag goes with it
 }

@@ -252,6 +252,11 @@ private slots:
     QCOMPARE(page.layout()->GetPage()->GetOrientation(), short(2));
     page.layout()->GetPage()->SetOrientation(1);
     QVERIFY(std::abs(guides("verticalGuides").toArray()[0].toDouble() - 5) < 0.06);
+    page.view().setSnaps(true);
+    page.drag(page.pixel(18, 9), page.pixel(18, 9.2));  // not drawn to where it was
+    QCOMPARE(guides("horizontalGuides").toArray()[0].toDouble(), 9.2);
+    page.run("Host_Undo");
+    page.view().setSnaps(false);
     page.drag(page.pixel(18, 9), page.pixel(18, -0.5));
     QVERIFY(guides("horizontalGuides").isUndefined());
     page.run("Host_Guides");

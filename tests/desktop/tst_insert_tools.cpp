@@ -110,6 +110,8 @@ private slots:
     page.click(page.at({4, 20}));
     page.key(Qt::Key_Return);  // in the middle of what is shown
     QCOMPARE(page.elements().size(), 3);
+    page.key(Qt::Key_Escape);
+    QCOMPARE(page.bench.commands().currentTool()->entry.identifier, QString("Host_Select"));
   }
 
   void aTextIsWrittenOnThePage() {

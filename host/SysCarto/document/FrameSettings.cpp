@@ -75,8 +75,8 @@ void listMargins(Fields& fields, PageAids& aids) {
   bool const isThere = fields.optionalObject(
       {"margins", QT_TRANSLATE_NOOP("Fields", "Margins"),
        QT_TRANSLATE_NOOP("Fields",
-                         "Lines along the edges of the page to which the mouse draws what it moves; they are "
-                         "not printed. Without any width they are 1 cm wide.")},
+                         "Lines along the edges of the page to which what is moved snaps; they are not printed. "
+                         "Without any width they are 1 cm wide.")},
       hasMargins(), [&](Fields& own) {
         side(own, {"left", QT_TRANSLATE_NOOP("Fields", "Left"), QT_TRANSLATE_NOOP("Fields", "From the left edge.")},
              aids.left);
@@ -197,11 +197,10 @@ void PageAidsSettings::list(Fields& fields) {
   fields.numberList({"horizontalGuides", QT_TRANSLATE_NOOP("Fields", "Horizontal guides"),
                      QT_TRANSLATE_NOOP("Fields", "Lines from left to right, by their distance from the lower edge.")},
                     aids.horizontalGuides, {0, maxGuides}, onPage);
-  fields.number({"grid", QT_TRANSLATE_NOOP("Fields", "Grid"),
-                 QT_TRANSLATE_NOOP("Fields",
-                                   "The distance of the lines of a grid to which the mouse draws what it moves; "
-                                   "0 for none.")},
-                aids.grid, {0, maxPageSideCm, Unit::Centimetre}, 0.0);
+  fields.number(
+      {"grid", QT_TRANSLATE_NOOP("Fields", "Grid"),
+       QT_TRANSLATE_NOOP("Fields", "The distance of the lines of a grid to which what is moved snaps; 0 for none.")},
+      aids.grid, {0, maxPageSideCm, Unit::Centimetre}, 0.0);
 }
 
 void PageAidsSettings::applyTo(Page& page) const { PageHost::setAids(page, aids); }

@@ -45,7 +45,7 @@ QSet<SysCarto::ElementHandle> handlesOf(Elements const& elements) {
   return handles;
 }
 
-// One step of undo, which makes the page's elements those in this order, and these the selection.
+// One step of undo, which gives the page, or the open group, these elements in this order, and selects some of them.
 void rearrange(PageLayout& layout, QString const& name, Elements const& order, Elements const& selection) {
   auto& container = workplace(layout);
   {
@@ -63,6 +63,17 @@ bool canLieInGroup(_ptr_t<Element> const& element) {
   return element->GetType() != DataFrame && element->GetType() != MapSurroundFrame;
 }
 
+bool areShallow(Elements const& elements, PageLayout const& layout) {
+  int const above = SysCarto::PageLayoutHost::openGroups(layout);
+  return std::all_of(elements.begin(), elements.end(),
+                     [&](auto const& element) { return depthOf(*element) + above <= SysCarto::maxGroupDepth; });
+}
+
+QString tooDeep() {
+  return Texts::tr("Groups lie at most %1 deep in each other; ungroup some of them first.")
+      .arg(SysCarto::maxGroupDepth);
+}
+
 QString groupSelection(PageLayout& layout) {
   auto const chosen = handlesOf(movableSelection(layout));
   auto const group = SysUtility::make<GroupElement>();
@@ -73,12 +84,10 @@ QString groupSelection(PageLayout& layout) {
       order << element;
       continue;
     }
-    if (depthOf(*element) + SysCarto::PageLayoutHost::openGroups(layout) >= SysCarto::maxGroupDepth)
-      return Texts::tr("Groups lie at most %1 deep in each other; ungroup some of them first.")
-          .arg(SysCarto::maxGroupDepth);
     group->AddElement(element->Clone());
     place = order.size();
   }
+  if (!areShallow({group}, layout)) return tooDeep();
   order.insert(place, group);
   rearrange(layout, Texts::tr("Group the selected elements"), order, {group});
   return {};
@@ -97,6 +106,8 @@ QString ungroupSelection(PageLayout& layout) {
     auto const group = isChosen ? ptr_cast<GroupElement>(element) : nullptr;
     Elements parts;
     for (auto const& member : group ? group->GetElements() : Elements()) parts << member->Clone();
+    for (auto const& part : qAsConst(parts))
+      if (!group->IsVisible()) part->SetVisible(false);
     if (!group) parts << element;
     order += parts;
     if (isChosen) selection += parts;

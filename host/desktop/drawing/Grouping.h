@@ -7,6 +7,11 @@ class QString;
 /// Whether an element is of a kind that may be a member of a group.
 bool canLieInGroup(SysUtility::_ptr_t<SysCarto::Element> const& element);
 
+/// Whether groups lie in each other at most as deep as a document can store it, once the elements are put where a
+/// person works now; and the sentence that says they don't.
+bool areShallow(QList<SysUtility::_ptr_t<SysCarto::Element>> const& elements, SysCarto::PageLayout const& layout);
+QString tooDeep();
+
 // The selected elements of a page become one, and the other way round. Each is one step of undo, and answers an empty
 // text, or a sentence that says why nothing was done.
 

@@ -130,6 +130,14 @@ bool GuideGesture::isOnPage() const {
   return place() >= 0 && place() <= (guide_.orientation == Qt::Vertical ? width : height);
 }
 
+// Not to the place that it leaves.
+PageAids GuideGesture::aids() const {
+  PageAids others = PageGesture::aids();
+  auto& guides = guide_.orientation == Qt::Vertical ? others.verticalGuides : others.horizontalGuides;
+  if (guide_.index >= 0 && guide_.index < guides.size()) guides.remove(guide_.index);
+  return others;
+}
+
 // Where no line is near, to whole millimetres.
 Snapper::Result GuideGesture::snapped(QPointF const& point) const {
   bool const isVertical = guide_.orientation == Qt::Vertical;

@@ -28,6 +28,7 @@ protected:
   void commit() override;
   Snapper::Result snapped(QPointF const& point) const override;
   QString numbers() const override;
+  SysCarto::PageAids aids() const override;
 
 private:
   double place() const;

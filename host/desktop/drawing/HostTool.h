@@ -17,6 +17,9 @@ public:
   /// Goes on to what is next, or back, as Tab does; false where the tool has nothing to go through.
   virtual bool step(bool) { return false; }
 
+  /// Leaves a drag without its release: everything is as it was before the press.
+  virtual void giveUp() {}
+
   /// Begins to change the parts of the element that is selected alone; false where the tool can't.
   virtual bool editSelected() { return false; }
 };

@@ -83,12 +83,16 @@ QPointF DrawGesture::constrained() const {
                                                          : onRay(fixed_.last(), point());
 }
 
-// A hand that trembles has set one point.
+// A hand that trembles has set one point, and a drag in one direction alone spans no box.
 QVector<QPointF> DrawGesture::points() const {
   if (!hasMoved()) return fixed_;
   QPointF const last = constrained();
   double const reach = sameVertexPx / layout().GetDisplayTransformation()->ToDevice().m11();
-  bool const isSame = QLineF(fixed_.last(), last).length() < reach;
+  QPointF const way = last - fixed_.last();
+  if (kind_.points == NewElementKind::Points::Place) return {last};
+  bool const isFlat =
+      kind_.points == NewElementKind::Points::Corners && std::min(std::abs(way.x()), std::abs(way.y())) < reach;
+  bool const isSame = isFlat || QLineF(fixed_.last(), last).length() < reach;
   return isSame ? fixed_ : QVector<QPointF>(fixed_) << last;
 }
 
@@ -220,7 +224,7 @@ void InsertTool::OnKeyDown(QKeyEvent* event) {
       if (gesture_)
         giveUp();
       else
-        emit view_.toolDone();
+        emit view_.selectingWanted();
       break;
     case Qt::Key_Backspace:
       if (gesture_ && !gesture_->removeVertex()) giveUp();

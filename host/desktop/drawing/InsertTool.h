@@ -1,5 +1,6 @@
 #pragma once
 
+#include "HostTool.h"
 #include "NewElements.h"
 #include "PageGesture.h"
 
@@ -10,9 +11,8 @@
 class LayoutView;
 
 /// Draws where a new element goes. Of a box, a drag spans the rectangle; of a line, it draws a straight one, while
-/// clicks set one vertex after the other, which a double click or Return ends. A click puts one of the usual size,
-/// Return puts it in the middle of what is shown. Shift keeps squares and angles of 45 degrees. Backspace takes the
-/// last vertex back, Escape gives up what is being drawn, and then the tool.
+/// clicks set one vertex after the other, which a double click or Return ends. Shift keeps squares and angles of 45
+/// degrees.
 class DrawGesture final : public PageGesture {
 public:
   DrawGesture(SysCarto::PageLayout& layout, QPointF const& press, NewElementKind const& kind);
@@ -41,7 +41,9 @@ private:
   QVector<QPointF> fixed_;
 };
 
-class InsertTool final : public SysFramework::BaseTool {
+/// Puts new elements of a kind on the page. A click puts one of the usual size, Return puts it in the middle of what is
+/// shown, Backspace takes the last vertex back, Escape gives up what is being drawn, and then the tool.
+class InsertTool final : public SysFramework::BaseTool, public HostTool {
 public:
   /// Both are borrowed and outlive the tool.
   InsertTool(NewElementKind const& kind, LayoutView& view);
@@ -56,10 +58,10 @@ public:
   void OnDblClick(QMouseEvent* event) override;
   void OnKeyDown(QKeyEvent* event) override;
   void OnEnterEvent(QEvent* event) override;
+  void giveUp() override;
 
 private:
   void moveTo(QMouseEvent const& event);
-  void giveUp();
   void finish();
   void insert(QVector<QPointF> const& points);
   void write(QVector<QPointF> const& points);

@@ -104,6 +104,7 @@ PageClipboard::Content PageClipboard::read(PageLayout const& layout, QString& pr
   bool const isInGroup = SysCarto::PageLayoutHost::openGroups(layout) > 0;
   if (problem.isEmpty() && isInGroup && !std::all_of(content.elements.begin(), content.elements.end(), canLieInGroup))
     problem = tr("Data frames and map surrounds can't lie in a group; leave the group with Escape first.");
+  if (problem.isEmpty() && !areShallow(content.elements, layout)) problem = tooDeep();
   return content;
 }
 

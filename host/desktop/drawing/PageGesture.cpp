@@ -1,6 +1,7 @@
 #include "PageGesture.h"
 
 #include "host/SysCarto/elements/TextElement.h"
+#include "host/SysCarto/layout/PageHost.h"
 #include "host/SysCarto/maps/ActiveViewHost.h"
 
 #include <SysDisplay/SimpleFillSymbol.h>
@@ -103,8 +104,12 @@ PageGesture::PageGesture(PageLayout& layout, QPointF const& press) : layout_(lay
 PageGesture::~PageGesture() = default;
 
 Snapper const& PageGesture::lines() const {
-  if (!snapper_) snapper_ = std::make_unique<Snapper>(layout_, dragged(), usesAids_);
+  if (!snapper_) snapper_ = std::make_unique<Snapper>(layout_, dragged(), usesAids_ ? aids() : SysCarto::PageAids());
   return *snapper_;
+}
+
+SysCarto::PageAids PageGesture::aids() const {
+  return layout_.GetPage() ? SysCarto::PageHost::aids(*layout_.GetPage()) : SysCarto::PageAids();
 }
 
 double PageGesture::snapReachCm() const { return snapPx / layout_.GetDisplayTransformation()->ToDevice().m11(); }

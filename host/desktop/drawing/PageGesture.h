@@ -63,6 +63,9 @@ protected:
   Snapper const& lines() const;
   double snapReachCm() const;
 
+  /// The margins, guides and grid that draw the mouse to them.
+  virtual SysCarto::PageAids aids() const;
+
   /// The elements that the gesture drags along.
   virtual QSet<SysCarto::ElementHandle> dragged() const { return {}; }
 

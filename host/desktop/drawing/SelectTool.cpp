@@ -172,6 +172,7 @@ void SelectTool::OnMouseUp(QMouseEvent* event) {
   gesture->moveTo(pagePoint(*layout_, event->pos()), gestureKeys(views_.layoutView(), *event));
   if (!gesture->hasMoved() && clicked_) select(*layout_, {clicked_});
   gesture->finish();
+  vertex_.isNew = false;  // it is one like others now, or nothing was added
   clicked_ = nullptr;
   layout_ = nullptr;
 }
@@ -235,7 +236,7 @@ void SelectTool::OnKeyDown(QKeyEvent* event) {
     event->accept();
   } else if (!gesture_ && changeVertex(*layout, *event)) {
     event->accept();
-  } else if (!gesture_ && nudge(*layout, *event)) {
+  } else if (!gesture_ && !vertices() && nudge(*layout, *event)) {
     event->accept();
   }
 }
@@ -314,7 +315,9 @@ bool SelectTool::changeVertex(PageLayout& layout, QKeyEvent const& event) {
     return true;
   }
   auto const rings = shown->without(vertex_);
-  if (!rings.isEmpty()) shown->replace(layout, QCoreApplication::translate("SelectTool", "Delete the vertex"), rings);
+  if (rings.isEmpty()) return true;
+  shown->replace(layout, QCoreApplication::translate("SelectTool", "Delete the vertex"), rings);
+  vertex_.index = std::max(0, vertex_.index - 1);
   return true;
 }
 

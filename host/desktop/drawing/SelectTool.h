@@ -38,12 +38,12 @@ public:
   bool wants(QKeyEvent const& key) const override;
   bool step(bool forward) override;
   bool editSelected() override;
+  void giveUp() override;
 
 private:
   using Selection = QList<SysUtility::_ptr_t<SysCarto::Element>>;
 
   void press(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout, QMouseEvent const& event);
-  void giveUp();
   bool pressVertex(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout, QMouseEvent const& event);
   bool changeVertex(SysCarto::PageLayout& layout, QKeyEvent const& event);
   std::optional<VertexHandles> vertices() const;

@@ -2,13 +2,10 @@
 
 #include "SelectionHandles.h"
 
-#include "host/SysCarto/layout/PageHost.h"
-
 #include <algorithm>
 #include <cmath>
 
 using SysCarto::PageAids;
-using SysCarto::PageHost;
 using SysCarto::PageLayout;
 
 namespace {
@@ -22,7 +19,7 @@ void Snapper::Axis::addBox(Span const& along, Span const& across) {
   boxes << qMakePair(along, across);
 }
 
-Snapper::Snapper(PageLayout const& layout, QSet<SysCarto::ElementHandle> const& moving, bool usesAids) {
+Snapper::Snapper(PageLayout const& layout, QSet<SysCarto::ElementHandle> const& moving, PageAids const& aids) {
   for (auto const& element : workplace(layout).GetElements()) {
     if (moving.contains(element->GetHandle()) || !element->IsVisible()) continue;
     auto const box = element->GetEnvelope();
@@ -33,7 +30,6 @@ Snapper::Snapper(PageLayout const& layout, QSet<SysCarto::ElementHandle> const& 
   if (SysCarto::Page const* const page = layout.GetPage()) {
     double width, height;
     page->QuerySize(width, height);
-    PageAids const aids = usesAids ? PageHost::aids(*page) : PageAids();
     Span const wide{0, width}, high{0, height};
     for (double const x : {0.0, width / 2, width, aids.left, width - aids.right}) x_.addLine(x, high);
     for (double const y : {0.0, height / 2, height, aids.bottom, height - aids.top}) y_.addLine(y, wide);

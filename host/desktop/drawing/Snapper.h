@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/layout/PageAids.h"
+
 #include <SysCarto/PageLayout.h>
 
 #include <QLineF>
@@ -20,9 +22,9 @@ public:
     QVector<QLineF> lines;
   };
 
-  /// Looks at the page as it is now. `moving` are elements that nothing is drawn to. Without
-  /// aids there are no margins, guides and grid.
-  Snapper(SysCarto::PageLayout const& layout, QSet<SysCarto::ElementHandle> const& moving, bool usesAids);
+  /// Looks at the page as it is now. `moving` are elements that nothing is drawn to.
+  Snapper(SysCarto::PageLayout const& layout, QSet<SysCarto::ElementHandle> const& moving,
+          SysCarto::PageAids const& aids);
 
   /// For a box of which the sides and the middle may come to lie on a line, or that leaves equal gaps.
   Result ofBox(QRectF const& box, double reachCm) const;
