@@ -25,7 +25,6 @@ using SysCarto::Element;
 using SysCarto::ElementHandle;
 using SysCarto::GroupElement;
 using SysUtility::_ptr_t;
-using SysUtility::ptr_cast;
 
 namespace {
 

@@ -14,7 +14,6 @@
 #include <algorithm>
 
 using SysCarto::Element;
-using SysCarto::ElementContainer;
 using SysCarto::GroupElement;
 using SysCarto::PageLayout;
 using SysCarto::ElementType::DataFrame;

@@ -42,9 +42,10 @@ _ptr_t<SysDisplay::LineSymbol> usualLine() {
   return line;
 }
 
-// White, so that what lies below does not disturb, and a click anywhere in it hits it.
+// Without a fill, so that what lies below is still seen; white once it gets one.
 _ptr_t<SysDisplay::FillSymbol> usualFill() {
   auto const fill = make<SysDisplay::SimpleFillSymbol>();
+  fill->SetStyle(SysDisplay::SimpleFillStyle::Null);
   fill->SetColor(Qt::white);
   fill->SetOutlineSymbol(usualLine());
   return fill;

@@ -7,7 +7,6 @@
 #include <QPalette>
 
 using SysCarto::Element;
-using SysCarto::MapFrameElement;
 using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
 
