@@ -165,7 +165,7 @@ private slots:
     page.add<RectangleElement>(16, 4, 20, 7);
     auto const element = from.x() == 2 ? page.left : page.right;
     if (from.x() == 10) page.add<RectangleElement>(13, 25, 16, 26);  // elsewhere, so it counts for no gap
-    auto const drag = [&](Qt::KeyboardModifiers keys) {
+    auto const drag = [&, from = from, near = near](Qt::KeyboardModifiers keys) {
       page.drag(page.pixel(from.x() + 2, from.y() + 1), page.pixel(near.x() + 2, near.y() + 1), keys);
       QPointF const place = page.place(*element).topLeft();
       page.run("Host_Undo");

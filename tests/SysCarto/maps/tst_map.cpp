@@ -107,7 +107,7 @@ private slots:
     auto const map = mapOf(system, x, y, 2);
     auto const unlocked = map->GetExtent();
     MapHost::lockScale(*map, 25000);
-    auto const groundCm = [&] {
+    auto const groundCm = [&, system = system] {
       // What a map without a lock makes of the same extent.
       auto const free = mapOf(system, 0, 0, 2);
       auto const extent = map->GetExtent();
