@@ -91,6 +91,8 @@ constexpr LayoutAction layoutActions[] = {
     {"Host_Unselect",  unselect,        hasSelection},
     {"Host_Delete",    deleteSelection, hasMovable},
 };
+// clang-format on
+
 // What may turn out to be impossible, which the function then says.
 struct TellingAction {
   char const* identifier;
@@ -105,6 +107,7 @@ std::vector<TellingAction> tellingActions(SysCarto::MapDocument const& document)
   auto const with = [clipboard](QString (PageClipboard::*function)(SysCarto::PageLayout&)) {
     return [clipboard, function](SysCarto::PageLayout& layout) { return ((*clipboard).*function)(layout); };
   };
+  // clang-format off
   return {
       {"Host_Cut",          with(&PageClipboard::cut),          hasMovable},
       {"Host_Copy",         with(&PageClipboard::copy),         hasSelection},
@@ -114,8 +117,8 @@ std::vector<TellingAction> tellingActions(SysCarto::MapDocument const& document)
       {"Host_Group",        groupSelection,                     canGroup},
       {"Host_Ungroup",      ungroupSelection,                   canUngroup},
   };
+  // clang-format on
 }
-// clang-format on
 
 }  // namespace
 

@@ -135,8 +135,14 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   auto const always = std::function<bool()>();
   host.add(QStringLiteral("Host_New"), {[this] { files_.create(); }, always, always});
   host.add(QStringLiteral("Host_Open"), {[this] { files_.open(); }, always, always});
-  host.add(QStringLiteral("Host_Save"), {[this] { files_.save(); }, modified, always});
-  host.add(QStringLiteral("Host_SaveAs"), {[this] { files_.saveAs(); }, always, always});
+  auto const redrawnAs = [this](bool (DocumentFiles::*save)()) {  // a text of the page may hold the file's name
+    return [this, save] {
+      QString const before = bench_.session().path();
+      if ((files_.*save)() && bench_.session().path() != before) bench_.views().redraw();
+    };
+  };
+  host.add(QStringLiteral("Host_Save"), {redrawnAs(&DocumentFiles::save), modified, always});
+  host.add(QStringLiteral("Host_SaveAs"), {redrawnAs(&DocumentFiles::saveAs), always, always});
   host.add(QStringLiteral("Host_Contents"), {[this] { contentsDock_->setVisible(!contentsDock_->isVisible()); }, always,
                                              [this] { return contentsDock_->isVisible(); }});
   host.add(QStringLiteral("Host_Properties"), {[this] {

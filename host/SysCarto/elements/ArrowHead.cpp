@@ -8,7 +8,6 @@
 #include <QLineF>
 
 #include <algorithm>
-#include <iterator>
 
 namespace SysCarto {
 
