@@ -1447,7 +1447,7 @@
     </message>
     <message>
         <source>groups are nested more than %1 deep</source>
-        <translation>Gruppen sind tiefer als %1 Ebenen verschachtelt</translation>
+        <translation>Gruppen liegen mehr als %1 tief ineinander</translation>
     </message>
     <message>
         <source>needs at least one element</source>
@@ -3637,6 +3637,18 @@
         <source>The distance of the lines of a grid to which what is moved snaps; 0 for none.</source>
         <translation>Der Abstand der Linien eines Rasters, an dem einrastet, was bewegt wird; 0 für keines.</translation>
     </message>
+    <message>
+        <source>What the group is called.</source>
+        <translation>Wie die Gruppe heißt.</translation>
+    </message>
+    <message>
+        <source>Whether the layers of the group show that are visible themselves.</source>
+        <translation>Ob die Ebenen der Gruppe zu sehen sind, die selbst sichtbar sind.</translation>
+    </message>
+    <message>
+        <source>The layers of the group, the lowest first; groups lie at most 16 deep in each other.</source>
+        <translation>Die Ebenen der Gruppe, die unterste zuerst; Gruppen liegen höchstens 16 tief ineinander.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -4015,6 +4027,10 @@
         <source>is a layer that can&apos;t be stored</source>
         <translation>ist ein Layer, der sich nicht speichern lässt</translation>
     </message>
+    <message>
+        <source>groups are nested more than %1 deep</source>
+        <translation>Gruppen liegen mehr als %1 tief ineinander</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -4198,6 +4214,14 @@
     <message>
         <source>Hide the layer “%1”</source>
         <translation>Layer „%1“ ausblenden</translation>
+    </message>
+    <message>
+        <source>Show the group “%1”</source>
+        <translation>Gruppe „%1“ zeigen</translation>
+    </message>
+    <message>
+        <source>Hide the group “%1”</source>
+        <translation>Gruppe „%1“ verbergen</translation>
     </message>
 </context>
 <context>

@@ -1447,7 +1447,7 @@
     </message>
     <message>
         <source>groups are nested more than %1 deep</source>
-        <translation>组的嵌套超过 %1 层</translation>
+        <translation>组嵌套超过 %1 层</translation>
     </message>
     <message>
         <source>needs at least one element</source>
@@ -3637,6 +3637,18 @@
         <source>The distance of the lines of a grid to which what is moved snaps; 0 for none.</source>
         <translation>移动的对象所吸附网格的线间距；0 表示没有网格。</translation>
     </message>
+    <message>
+        <source>What the group is called.</source>
+        <translation>组的名称。</translation>
+    </message>
+    <message>
+        <source>Whether the layers of the group show that are visible themselves.</source>
+        <translation>组中自身可见的图层是否显示。</translation>
+    </message>
+    <message>
+        <source>The layers of the group, the lowest first; groups lie at most 16 deep in each other.</source>
+        <translation>组中的图层，最下面的在前；组最多嵌套 16 层。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -4015,6 +4027,10 @@
         <source>is a layer that can&apos;t be stored</source>
         <translation>是无法存储的图层</translation>
     </message>
+    <message>
+        <source>groups are nested more than %1 deep</source>
+        <translation>组嵌套超过 %1 层</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -4198,6 +4214,14 @@
     <message>
         <source>Hide the layer “%1”</source>
         <translation>隐藏图层“%1”</translation>
+    </message>
+    <message>
+        <source>Show the group “%1”</source>
+        <translation>显示组“%1”</translation>
+    </message>
+    <message>
+        <source>Hide the group “%1”</source>
+        <translation>隐藏组“%1”</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "DocumentReport.h"
 
 #include "host/SysCarto/document/ElementFields.h"
+#include "host/SysCarto/layers/LayerHost.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapDocument.h>
@@ -94,9 +95,12 @@ QJsonArray elementsJson(IElementContainer const* container) {
 }
 
 QJsonObject layerJson(_ptr_t<Layer> const& layer) {
+  QJsonArray groups;
+  for (auto const& group : SysCarto::LayerHost::groups(*layer)) groups.append(group->name());
   return QJsonObject{{QStringLiteral("name"), layer->GetName()},
                      {QStringLiteral("type"), layer->GetType()},
                      {QStringLiteral("kind"), kindName(layerKinds, layer->GetType())},
+                     {QStringLiteral("groups"), groups},
                      {QStringLiteral("visible"), layer->IsVisible()}};
 }
 
@@ -184,9 +188,12 @@ QString ReportText::map(QJsonObject const& map) {
   QVector<QStringList> rows;
   for (QJsonValue const& value : map[QStringLiteral("layers")].toArray()) {
     QJsonObject const layer = value.toObject();
+    QStringList path;
+    for (QJsonValue const& group : layer[QStringLiteral("groups")].toArray()) path << group.toString();
+    path << layer[QStringLiteral("name")].toString();
     rows.append({word(layer[QStringLiteral("kind")]),
                  layer[QStringLiteral("visible")].toBool() ? tr("shown") : tr("hidden"),
-                 layer[QStringLiteral("name")].toString()});
+                 path.join(QStringLiteral(" / "))});
   }
   QString name = map[QStringLiteral("name")].toString();
   if (map[QStringLiteral("focus")].toBool()) name += tr(" (focus)");

@@ -8,7 +8,7 @@
 #include "drawing/NewElements.h"
 #include "drawing/TurnGesture.h"
 
-#include "host/SysCarto/maps/MapSteps.h"
+#include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysUtility/JsonFile.h"
 #include "host/SysUtility/ScaleText.h"
 
@@ -297,13 +297,17 @@ QString RunSteps::withFreeMap(std::function<bool(Map&)> const& change) {
   return change(*frame->GetMap()) ? QString() : tr("a map can't show that much or that little; give other numbers.");
 }
 
-// All of that name, since names need not differ.
+// All of that name, layers and groups of them, since names need not differ.
 QString RunSteps::setVisible(QString const& layerName, bool visible) {
   auto const map = bench_.session().document().GetPageLayout()->GetFocusMap();
   QStringList names;
   for (auto const& layer : map ? map->GetLayers() : QList<_ptr_t<SysCarto::Layer>>()) {
     names << layer->GetName();
     if (names.last() == layerName) MapSteps::setVisible(*layer, visible);
+  }
+  for (auto const& group : map ? SysCarto::groupsOf(*map) : SysCarto::LayerGroups()) {
+    names << group->name();
+    if (names.last() == layerName) MapSteps::setVisible(*group, visible);
   }
   if (names.isEmpty()) return tr("the page has no map with layers that could be shown or hidden.");
   return names.contains(layerName)

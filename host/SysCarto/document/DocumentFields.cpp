@@ -6,7 +6,9 @@
 #include "host/SysCarto/document/LayerSettings.h"
 #include "host/SysCarto/document/SurroundFields.h"
 #include "host/SysCarto/elements/ElementHost.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/MapOverview.h"
+#include "host/SysCarto/maps/MapHost.h"
 #include "host/SysUtility/JsonFile.h"
 
 #include <algorithm>
@@ -22,7 +24,6 @@ using SysUtility::ptr_cast;
 namespace {
 
 constexpr int documentVersion = 1;
-constexpr int maxLayers = 10000;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(MapDocument)
@@ -47,13 +48,14 @@ void listElementsOf(Fields& fields, SysUtility::Field const& field, IElementCont
   container.AddElements(elements);
 }
 
-void listLayers(Fields& fields, Map& map, DocumentContext& context) {
-  QList<_ptr_t<Layer>> layers = fields.isReading() ? QList<_ptr_t<Layer>>() : map.GetLayers();
-  fields.list({"layers", QT_TRANSLATE_NOOP("Fields", "Layers"),
-               QT_TRANSLATE_NOOP("Fields", "The layers of the map, the lowest first."), "layer"},
-              layers, maxLayers, [&](Fields& own, _ptr_t<Layer>& layer, int) { listLayer(own, layer, map, context); });
+void listLayers(Fields& fields, _ptr_t<Map> const& map, DocumentContext& context) {
+  auto entries = fields.isReading() ? std::vector<LayerEntry>() : entriesOf(*map);
+  listLayerEntries(fields, entries, *map, context);
   if (!fields.isReading() || !fields.ok()) return;
-  for (_ptr_t<Layer> const& layer : qAsConst(layers)) map.AddLayer(layer);
+  LayerList list{map, {}};
+  addEntries(list, entries);
+  MapHost::setLayers(*map, list.layers);
+  for (int i = 0; i < list.layers.size(); ++i) LayerHost::setGroups(*list.layers[i], list.groups[i]);
 }
 
 void listPage(Fields& fields, PageLayout& layout) {
@@ -134,7 +136,7 @@ void listMap(Fields& fields, _ptr_t<Map>& map, DocumentContext& context) {
   settings.list(fields);
   auto const listed = isPresent ? map : make<Map>();
   if (fields.isReading() && fields.ok()) settings.applyTo(*listed, context.warnings);
-  listLayers(fields, *listed, context);
+  listLayers(fields, listed, context);
   auto const handlesOfPage = std::exchange(context.handles, {});
   listElementsOf(fields,
                  {"graphics", QT_TRANSLATE_NOOP("Fields", "Graphics"),

@@ -156,6 +156,7 @@ private:
 
 using EditableMap = EditableSettings<Map, MapSettings>;
 using EditableLayer = EditableSettings<VectorLayer, LayerSettings>;
+using EditableLayerGroup = EditableSettings<LayerGroup, LayerGroupSettings>;
 
 // A number as in “#3”, or a name.
 template <class T>
@@ -253,6 +254,15 @@ Editable::Pointer Editable::layer(_ptr_t<Map> const& map, _ptr_t<Layer> const& l
                                   [](VectorLayer const& one) { return attributesOf(one.source()); }});
 }
 
+Editable::Pointer Editable::layerGroup(_ptr_t<LayerGroup> const& group) {
+  return std::make_shared<EditableLayerGroup>(
+      group,
+      EditableLayerGroup::Uses{
+          group->name(), [](LayerGroup const& one, DocumentContext const&) { return LayerGroupSettings::of(one); },
+          [](LayerGroup& one, LayerGroupSettings const& settings, DocumentContext&) { settings.applyTo(one); },
+          nullptr});
+}
+
 Editable::List Editable::named(MapDocument const& document, QString const& text) {
   List things;
   auto const layout = document.GetPageLayout();
@@ -260,9 +270,13 @@ Editable::List Editable::named(MapDocument const& document, QString const& text)
   QString const mapPrefix = QStringLiteral("map:"), layerPrefix = QStringLiteral("layer:");
   if (text.startsWith(layerPrefix)) {
     QString const path = text.mid(layerPrefix.size());
-    for (auto const& map : called(mapsOf(*layout), path.section(QLatin1Char('/'), 0, 0)))
-      for (auto const& layer : called(map->GetLayers(), path.section(QLatin1Char('/'), 1)))
+    QString const name = path.section(QLatin1Char('/'), 1);
+    for (auto const& map : called(mapsOf(*layout), path.section(QLatin1Char('/'), 0, 0))) {
+      for (auto const& layer : called(map->GetLayers(), name))
         if (auto const thing = Editable::layer(map, layer)) things << thing;
+      for (auto const& group : groupsOf(*map))
+        if (group->name() == name) things << layerGroup(group);
+    }
   } else if (text.startsWith(mapPrefix)) {
     for (auto const& map : called(mapsOf(*layout), text.mid(mapPrefix.size()))) things << Editable::map(map);
   } else if (text == QLatin1String("page")) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SysCarto/layers/LayerGroup.h"
 #include "host/SysUtility/FieldEdit.h"
 
 #include <SysCarto/Layer.h>
@@ -13,7 +14,8 @@ namespace SysCarto {
 
 struct DocumentContext;
 
-/// Something of a document whose fields a person looks at and changes one by one: the page, an element, a map, a layer.
+/// Something of a document whose fields a person looks at and changes one by one: the page, an element, a map, a layer,
+/// a group of layers.
 /// It stays usable for as long as the document lives; what it names may have gone meanwhile.
 class SYSCARTO_EXPORT Editable {
 public:
@@ -40,9 +42,10 @@ public:
   static Pointer map(SysUtility::_ptr_t<Map> const& map);
   /// Null for a layer of a kind that can't be stored.
   static Pointer layer(SysUtility::_ptr_t<Map> const& map, SysUtility::_ptr_t<Layer> const& layer);
+  static Pointer layerGroup(SysUtility::_ptr_t<LayerGroup> const& group);
 
   /// Those that a text names: `page`, `selection`, the NAME of elements or `#HANDLE`, `map:NAME` or `layer:MAP/LAYER`
-  /// (maps and layers by number, too: `map:#0`). Empty where there are none.
+  /// (maps and layers by number, too: `map:#0`), where LAYER may be a group of layers. Empty where there are none.
   static List named(MapDocument const& document, QString const& text);
 
   /// Gives a field of all of them another value (`changeField`), in one step of the history. Answers a problem, with

@@ -15,13 +15,15 @@ using SysUtility::TextKind;
 
 namespace {
 
-enum Kind { FeatureKind };
+constexpr int maxLayers = 10000;
+enum Kind { FeatureKind, GroupKind };
 constexpr Choice blends[] = {
     {LayerBlend::Normal, "normal", QT_TRANSLATE_NOOP("Fields", "Cover")},
     {LayerBlend::Multiply, "multiply", QT_TRANSLATE_NOOP("Fields", "Darken")},
     {LayerBlend::Screen, "screen", QT_TRANSLATE_NOOP("Fields", "Lighten")},
 };
-constexpr Choice kinds[] = {{FeatureKind, "feature", QT_TRANSLATE_NOOP("Fields", "Features")}};
+constexpr Choice kinds[] = {{FeatureKind, "feature", QT_TRANSLATE_NOOP("Fields", "Features")},
+                            {GroupKind, "group", QT_TRANSLATE_NOOP("Fields", "Group")}};
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(LayerSettings)
@@ -73,9 +75,16 @@ void open(VectorLayer& layer, SourceSettings const& source, Map const& map, Docu
 LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const& context) {
   auto const scales = LayerHost::scales(layer);
   auto const labels = AnnotationSettings::of(*layer.GetAnnotationProperties());
-  LayerSettings settings{
-      layer.source(), layer.renderer().settings(), layer.GetName(),           layer.IsVisible(),     scales.min,
-      scales.max,     LayerHost::effects(layer),   LayerHost::credits(layer), layer.labelSettings(), labels};
+  LayerSettings settings{layer.source(),
+                         layer.renderer().settings(),
+                         layer.GetName(),
+                         LayerHost::isSwitchedOn(layer),
+                         scales.min,
+                         scales.max,
+                         LayerHost::effects(layer),
+                         LayerHost::credits(layer),
+                         layer.labelSettings(),
+                         labels};
   settings.source.file = storedPath(settings.source.file, context);
   return settings;
 }
@@ -154,16 +163,59 @@ SourceSettings LayerSettings::sourceToOpen(DocumentContext const& context) const
   return opened;
 }
 
-void listLayer(Fields& fields, _ptr_t<Layer>& layer, Map const& map, DocumentContext& context) {
-  auto const present = fields.isReading() ? nullptr : SysUtility::ptr_cast<VectorLayer>(layer);
-  if (!fields.isReading() && layer && !present)
+void LayerGroupSettings::list(Fields& fields) {
+  fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"), QT_TRANSLATE_NOOP("Fields", "What the group is called.")},
+              name, TextKind::Line);
+  fields.flag({"visible", QT_TRANSLATE_NOOP("Fields", "Visible"),
+               QT_TRANSLATE_NOOP("Fields", "Whether the layers of the group show that are visible themselves.")},
+              visible, true);
+}
+
+void LayerGroupSettings::applyTo(LayerGroup& group) const {
+  group.setName(name);
+  group.setVisible(visible);
+}
+
+namespace {
+
+void listGroup(Fields& fields, LayerEntry& entry, Map const& map, DocumentContext& context, int depth) {
+  if (depth >= maxLayerGroupDepth)
+    return fields.fail(nullptr, Texts::tr("groups are nested more than %1 deep").arg(maxLayerGroupDepth));
+  auto settings = entry.group ? LayerGroupSettings::of(*entry.group) : LayerGroupSettings();
+  settings.list(fields);
+  fields.list({"layers", QT_TRANSLATE_NOOP("Fields", "Layers"),
+               QT_TRANSLATE_NOOP(
+                   "Fields", "The layers of the group, the lowest first; groups lie at most 16 deep in each other."),
+               "layer"},
+              entry.entries, {1, maxLayers},
+              [&](Fields& own, LayerEntry& member, int) { listLayerEntry(own, member, map, context, depth + 1); });
+  if (!fields.isReading() || !fields.ok()) return;
+  entry.group = SysUtility::make<LayerGroup>();
+  settings.applyTo(*entry.group);
+}
+
+}  // namespace
+
+void listLayerEntry(Fields& fields, LayerEntry& entry, Map const& map, DocumentContext& context, int depth) {
+  auto const present = fields.isReading() ? nullptr : SysUtility::ptr_cast<VectorLayer>(entry.layer);
+  if (!fields.isReading() && entry.layer && !present)
     return fields.fail(nullptr, Texts::tr("is a layer that can't be stored"));
   LayerSettings settings = present ? LayerSettings::of(*present, context) : LayerSettings();
-  int kind = FeatureKind;
+  int kind = entry.group ? GroupKind : FeatureKind;
   fields.variant(
       {"type", QT_TRANSLATE_NOOP("Fields", "Kind"), QT_TRANSLATE_NOOP("Fields", "What kind of layer it is.")}, kind,
-      kinds, [&](int) { settings.list(fields); });
-  if (fields.isReading() && fields.ok()) layer = settings.make(map, context);
+      kinds, [&](int chosen) {
+        if (chosen == GroupKind) return listGroup(fields, entry, map, context, depth);
+        settings.list(fields);
+      });
+  if (fields.isReading() && fields.ok() && kind == FeatureKind) entry.layer = settings.make(map, context);
+}
+
+void listLayerEntries(Fields& fields, std::vector<LayerEntry>& entries, Map const& map, DocumentContext& context) {
+  fields.list({"layers", QT_TRANSLATE_NOOP("Fields", "Layers"),
+               QT_TRANSLATE_NOOP("Fields", "The layers of the map, the lowest first."), "layer"},
+              entries, maxLayers,
+              [&](Fields& own, LayerEntry& entry, int) { listLayerEntry(own, entry, map, context); });
 }
 
 }  // namespace SysCarto

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/document/DocumentContext.h"
 #include "host/SysCarto/layers/LayerEffects.h"
+#include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 
 #include <SysCarto/Layer.h>
@@ -34,8 +35,22 @@ private:
   SourceSettings sourceToOpen(DocumentContext const& context) const;
 };
 
-/// A layer of `map` in the visitor's own object. Reading makes a new one.
-SYSCARTO_EXPORT void listLayer(SysUtility::Fields& fields, SysUtility::_ptr_t<Layer>& layer, Map const& map,
-                               DocumentContext& context);
+/// What a document stores of a group of layers, beside these.
+struct LayerGroupSettings {
+  QString name;
+  bool visible = true;
+
+  static LayerGroupSettings of(LayerGroup const& group) { return {group.name(), group.isVisible()}; }
+  void list(SysUtility::Fields& fields);
+  void applyTo(LayerGroup& group) const;
+};
+
+/// A layer of `map`, or a group that lies in `depth` others, in the visitor's own object. Reading makes a new one.
+SYSCARTO_EXPORT void listLayerEntry(SysUtility::Fields& fields, LayerEntry& entry, Map const& map,
+                                    DocumentContext& context, int depth = 0);
+
+/// A list of these.
+void listLayerEntries(SysUtility::Fields& fields, std::vector<LayerEntry>& entries, Map const& map,
+                      DocumentContext& context);
 
 }  // namespace SysCarto

@@ -2,6 +2,8 @@
 
 #include "host/SysUtility/ChangeMark.h"
 
+#include <algorithm>
+
 namespace SysCarto {
 
 using SysDisplay::DisplayTransformation;
@@ -13,6 +15,7 @@ struct Layer::Private {
   ScaleRange scales;
   LayerEffects effects;
   QString credits;
+  LayerGroups groups;
   SysUtility::ChangeMark change;
   quint64 look = 1;
 };
@@ -20,7 +23,10 @@ struct Layer::Private {
 Layer::Layer() : d(std::make_unique<Private>()) {}
 Layer::~Layer() = default;
 
-bool Layer::IsVisible() const { return d->visible; }
+bool Layer::IsVisible() const {
+  return d->visible &&
+         std::all_of(d->groups.begin(), d->groups.end(), [](auto const& group) { return group->isVisible(); });
+}
 double Layer::GetMinScale() const { return d->scales.comparedMin(); }
 double Layer::GetMaxScale() const { return d->scales.comparedMax(); }
 
@@ -54,16 +60,33 @@ void LayerHost::setEffects(Layer& layer, LayerEffects const& effects) {
 }
 QString LayerHost::credits(Layer const& layer) { return layer.d->credits; }
 void LayerHost::setCredits(Layer& layer, QString const& credits) { layer.d->change.set(layer.d->credits, credits); }
-quint64 LayerHost::lastChange(Layer const& layer) { return layer.d->change.time(); }
-quint64 LayerHost::look(Layer const& layer) { return layer.d->look; }
+bool LayerHost::isSwitchedOn(Layer const& layer) { return layer.d->visible; }
+LayerGroups LayerHost::groups(Layer const& layer) { return layer.d->groups; }
+void LayerHost::setGroups(Layer& layer, LayerGroups const& groups) {
+  if (groups != layer.d->groups) changeLook(layer);
+  layer.d->change.set(layer.d->groups, groups);
+}
+
+quint64 LayerHost::lastChange(Layer const& layer) {
+  quint64 last = layer.d->change.time();
+  for (auto const& group : qAsConst(layer.d->groups)) last = std::max(last, group->lastChange());
+  return last;
+}
+quint64 LayerHost::look(Layer const& layer) {
+  quint64 latest = layer.d->look;
+  for (auto const& group : qAsConst(layer.d->groups)) latest = std::max(latest, group->look());
+  return latest;
+}
 
 QVector<bool> LayerHost::classesWithin(Layer const& layer, _ptr_t<DisplayTransformation> const& transformation) {
   return layer.classesWithin(transformation);
 }
 
-void LayerHost::changeLook(Layer& layer) {
+quint64 LayerHost::nextLook() {
   static quint64 latest = 1;
-  layer.d->look = ++latest;
+  return ++latest;
 }
+
+void LayerHost::changeLook(Layer& layer) { layer.d->look = nextLook(); }
 
 }  // namespace SysCarto

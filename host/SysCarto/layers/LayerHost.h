@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysCarto/layers/LayerEffects.h"
+#include "host/SysCarto/layers/LayerGroup.h"
 #include "host/SysCarto/layers/ScaleRange.h"
 
 #include <SysCarto/FeatureLayer.h>
@@ -11,6 +12,12 @@ struct SYSCARTO_EXPORT LayerHost {
   // The limits as they were set: what a document stores.
   static ScaleRange scales(Layer const& layer);
   static ScaleRange scales(AnnotationProperties const& labels);
+
+  /// The layer's own switch. It shows where those of its groups are on, too.
+  static bool isSwitchedOn(Layer const& layer);
+
+  static LayerGroups groups(Layer const& layer);
+  static void setGroups(Layer& layer, LayerGroups const& groups);
 
   /// Effects are the business of the layer's own `Draw`.
   static LayerEffects effects(Layer const& layer);
@@ -26,6 +33,7 @@ struct SYSCARTO_EXPORT LayerHost {
   /// Differs from each number before it once the layer is drawn otherwise, for whoever keeps a picture of it.
   static quint64 look(Layer const& layer);
   static void changeLook(Layer& layer);
+  static quint64 nextLook();
 
   /// As the layer's own function; always as many as it has classes.
   static QVector<bool> classesWithin(Layer const& layer,

@@ -130,6 +130,8 @@ void MapHost::setRotation(Map& map, double degrees) {
   map.d->fit();
 }
 
+void MapHost::setLayers(Map& map, QList<_ptr_t<Layer>> const& layers) { map.d->change.set(map.d->layers, layers); }
+
 double MapHost::lockedScale(Map const& map) { return map.d->lockedScale; }
 
 void MapHost::lockScale(Map& map, double denominator) {

@@ -13,6 +13,9 @@ struct SYSCARTO_EXPORT MapHost {
   static double lockedScale(Map const& map);
   static void lockScale(Map& map, double denominator);
 
+  /// Layers in drawing order, each there once. Each must hold its data in the map's coordinate system.
+  static void setLayers(Map& map, QList<SysUtility::_ptr_t<Layer>> const& layers);
+
   /// Within ±360 degrees, counterclockwise; an angle beyond that counts from there on.
   static void setRotation(Map& map, double degrees);
 

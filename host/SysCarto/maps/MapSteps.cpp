@@ -1,8 +1,10 @@
 #include "MapSteps.h"
+#include "LayerTree.h"
 #include "MapHost.h"
 #include "ValueStep.h"
 
 #include "host/SysCarto/elements/Placement.h"
+#include "host/SysCarto/layers/LayerHost.h"
 
 #include <cmath>
 #include <memory>
@@ -31,7 +33,10 @@ void putPortion(Map& map, Portion const& portion) {
   MapHost::lockScale(map, portion.lockedScale);
   map.SetExtent(SysUtility::make<Envelope>(portion.bounds));
 }
-void putVisible(Layer& layer, bool const& visible) { layer.SetVisible(visible); }
+template <class Switched>
+void takeSwitch(Switched& switched, QString const& step, void (*put)(Switched&, bool const&), bool visible) {
+  takeStep(std::make_unique<ValueStep<Switched, bool>>(step, apart, switched, !visible, visible, put));
+}
 
 // What the map makes of it is known when it shows it.
 bool change(QString const& name, int joining, Map& map, Portion const& wanted) {
@@ -49,6 +54,25 @@ bool change(QString const& name, int joining, Map& map, Portion const& wanted) {
 bool change(QString const& name, int joining, Map& map, Envelope const& extent) {
   return change(name, joining, map, Portion{extent, MapHost::lockedScale(map)});
 }
+
+class LayersStep final : public QUndoCommand {
+public:
+  LayersStep(QString const& name, QVector<LayerList> before, QVector<LayerList> after)
+      : QUndoCommand(name), before_(std::move(before)), after_(std::move(after)) {}
+  void undo() override { put(before_); }
+  void redo() override { put(after_); }
+
+private:
+  static void put(QVector<LayerList> const& lists) {
+    SysUtility::ChangeMark::Step const step;
+    for (LayerList const& list : lists) {
+      MapHost::setLayers(*list.map, list.layers);
+      for (int i = 0; i < list.layers.size(); ++i) LayerHost::setGroups(*list.layers[i], list.groups[i]);
+    }
+  }
+
+  QVector<LayerList> const before_, after_;
+};
 
 }  // namespace
 
@@ -74,10 +98,29 @@ bool MapSteps::setScale(Map& map, double denominator) {
 }
 
 void MapSteps::setVisible(Layer& layer, bool visible) {
-  if (visible == layer.IsVisible()) return;
+  if (visible == LayerHost::isSwitchedOn(layer)) return;
   QString const name = visible ? tr("Show the layer “%1”") : tr("Hide the layer “%1”");
-  takeStep(
-      std::make_unique<ValueStep<Layer, bool>>(name.arg(layer.GetName()), apart, layer, !visible, visible, putVisible));
+  takeSwitch<Layer>(
+      layer, name.arg(layer.GetName()), [](Layer& one, bool const& on) { one.SetVisible(on); }, visible);
+}
+
+void MapSteps::setVisible(LayerGroup& group, bool visible) {
+  if (visible == group.isVisible()) return;
+  QString const name = visible ? tr("Show the group “%1”") : tr("Hide the group “%1”");
+  takeSwitch<LayerGroup>(
+      group, name.arg(group.name()), [](LayerGroup& one, bool const& on) { one.setVisible(on); }, visible);
+}
+
+void MapSteps::changeLayers(QString const& name, QVector<LayerList> const& wanted) {
+  QVector<LayerList> before, after = wanted;
+  bool isChange = false;
+  for (LayerList& list : after) {
+    before << layersOf(*list.map);
+    if (list.groups.isEmpty())
+      for (auto const& layer : qAsConst(list.layers)) list.groups << LayerHost::groups(*layer);
+    isChange = isChange || list.layers != before.last().layers || list.groups != before.last().groups;
+  }
+  if (isChange) takeStep(std::make_unique<LayersStep>(name, before, after));
 }
 
 }  // namespace SysCarto

@@ -1,10 +1,19 @@
 #pragma once
 
+#include "host/SysCarto/layers/LayerGroup.h"
+
 #include <SysCarto/Map.h>
 
 #include <QCoreApplication>
 
 namespace SysCarto {
+
+/// Which layers a map has, the lowest first.
+struct LayerList {
+  SysUtility::_ptr_t<Map> map;
+  QList<SysUtility::_ptr_t<Layer>> layers;
+  QVector<LayerGroups> groups = {};  ///< of each layer; none of any where they stay in those that they are in
+};
 
 /// What a gesture of the host changes of a map where it lies, as a named step of the history that the editor records
 /// into. What changes nothing leaves no step.
@@ -23,7 +32,13 @@ public:
   /// the extents above only move such a map.
   static bool setScale(Map& map, double denominator);
 
+  /// The layer's own switch.
   static void setVisible(Layer& layer, bool visible);
+  static void setVisible(LayerGroup& group, bool visible);
+
+  /// Gives maps other lists of layers, each map once, as one step. Layers must hold their data in the coordinate system
+  /// of the map that they come to.
+  static void changeLayers(QString const& name, QVector<LayerList> const& wanted);
 };
 
 }  // namespace SysCarto

@@ -34,7 +34,9 @@ Read read(QByteArray const& stored) {
   auto const map = make<Map>();
   map->SetCoordinateSystem("EPSG:8857");
   SysUtility::JsonReader reader(json(stored));
-  listLayer(reader, result.layer, *map, result.context);
+  LayerEntry entry;
+  listLayerEntry(reader, entry, *map, result.context);
+  result.layer = entry.layer;
   result.error = reader.error();
   return result;
 }
@@ -42,7 +44,8 @@ Read read(QByteArray const& stored) {
 QJsonObject stored(Read& read) {
   SysUtility::JsonWriter writer;
   auto const map = make<Map>();
-  listLayer(writer, read.layer, *map, read.context);
+  LayerEntry entry{read.layer, nullptr, {}};
+  listLayerEntry(writer, entry, *map, read.context);
   return writer.json();
 }
 
