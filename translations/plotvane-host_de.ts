@@ -80,6 +80,33 @@
     </message>
 </context>
 <context>
+    <name>Classify</name>
+    <message>
+        <source>The field “%1” holds no numbers; take the method “unique”, or a field of numbers.</source>
+        <translation>Das Feld „%1“ enthält keine Zahlen; nehmen Sie das Verfahren „unique“ oder ein Feld mit Zahlen.</translation>
+    </message>
+    <message>
+        <source>No feature has a value in the field “%1”.</source>
+        <translation>Kein Objekt hat einen Wert im Feld „%1“.</translation>
+    </message>
+    <message>
+        <source>The number of classes is %1; give one from 1 to %2.</source>
+        <translation>Die Zahl der Klassen ist %1; geben Sie eine von 1 bis %2 an.</translation>
+    </message>
+    <message>
+        <source>There is no colour ramp “%1”; there are: %2.</source>
+        <translation>Es gibt keine Farbreihe „%1“; es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>The layer has no symbol that could be given other colours; give it one first.</source>
+        <translation>Die Ebene hat kein Symbol, das andere Farben bekommen könnte; geben Sie ihr zuerst eines.</translation>
+    </message>
+    <message>
+        <source>Only markers and lines have sizes; take colours for the layer&apos;s areas.</source>
+        <translation>Nur Marker und Linien haben Größen; nehmen Sie für die Flächen der Ebene Farben.</translation>
+    </message>
+</context>
+<context>
     <name>Commands</name>
     <message>
         <source>&amp;Arrange</source>
@@ -1585,6 +1612,21 @@
     <message>
         <source>%1 points</source>
         <translation>%1 Punkte</translation>
+    </message>
+</context>
+<context>
+    <name>FieldValues</name>
+    <message>
+        <source>There is no field “%1”; choose one of: %2.</source>
+        <translation>Es gibt kein Feld „%1“; wählen Sie eines von: %2.</translation>
+    </message>
+    <message>
+        <source>The layer&apos;s filter “%1” is not understood: %2; correct it first.</source>
+        <translation>Der Filter „%1“ der Ebene wird nicht verstanden: %2; berichtigen Sie ihn zuerst.</translation>
+    </message>
+    <message>
+        <source>The layer&apos;s values can&apos;t be read: %1.</source>
+        <translation>Die Werte der Ebene können nicht gelesen werden: %1.</translation>
     </message>
 </context>
 <context>
@@ -4014,6 +4056,29 @@
     </message>
 </context>
 <context>
+    <name>LayerClasses</name>
+    <message>
+        <source>the method is one of %1</source>
+        <translation>das Verfahren ist eines von %1</translation>
+    </message>
+    <message>
+        <source>“%1” is no option; there are %2</source>
+        <translation>„%1“ ist keine Angabe; es gibt %2</translation>
+    </message>
+    <message>
+        <source>“%1” is written as in %2</source>
+        <translation>„%1“ wird geschrieben wie in %2</translation>
+    </message>
+    <message>
+        <source>the method “own” needs breaks, as in breaks=10;100</source>
+        <translation>das Verfahren „own“ braucht Grenzen wie in breaks=10;100</translation>
+    </message>
+    <message>
+        <source>Only a layer of features has classes; write layer:MAP/LAYER.</source>
+        <translation>Nur eine Ebene mit Objekten hat Klassen; schreiben Sie layer:KARTE/EBENE.</translation>
+    </message>
+</context>
+<context>
     <name>LayerSettings</name>
     <message>
         <source>Layer “%1”: %2</source>
@@ -5226,7 +5291,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>mixed</source>
-        <translation>verschieden</translation>
+        <translation>gemischt</translation>
     </message>
     <message>
         <source>%1 entries</source>

@@ -80,6 +80,33 @@
     </message>
 </context>
 <context>
+    <name>Classify</name>
+    <message>
+        <source>The field “%1” holds no numbers; take the method “unique”, or a field of numbers.</source>
+        <translation>字段“%1”不含数字；请使用方法“unique”，或选择数字字段。</translation>
+    </message>
+    <message>
+        <source>No feature has a value in the field “%1”.</source>
+        <translation>没有要素在字段“%1”中有值。</translation>
+    </message>
+    <message>
+        <source>The number of classes is %1; give one from 1 to %2.</source>
+        <translation>分类数为 %1；请给出 1 到 %2 之间的数。</translation>
+    </message>
+    <message>
+        <source>There is no colour ramp “%1”; there are: %2.</source>
+        <translation>没有色带“%1”；可用的有：%2。</translation>
+    </message>
+    <message>
+        <source>The layer has no symbol that could be given other colours; give it one first.</source>
+        <translation>该图层没有可以更换颜色的符号；请先为其设置一个符号。</translation>
+    </message>
+    <message>
+        <source>Only markers and lines have sizes; take colours for the layer&apos;s areas.</source>
+        <translation>只有标记和线有大小；面图层请使用颜色。</translation>
+    </message>
+</context>
+<context>
     <name>Commands</name>
     <message>
         <source>&amp;Arrange</source>
@@ -1585,6 +1612,21 @@
     <message>
         <source>%1 points</source>
         <translation>%1 个点</translation>
+    </message>
+</context>
+<context>
+    <name>FieldValues</name>
+    <message>
+        <source>There is no field “%1”; choose one of: %2.</source>
+        <translation>没有字段“%1”；请从以下字段中选择：%2。</translation>
+    </message>
+    <message>
+        <source>The layer&apos;s filter “%1” is not understood: %2; correct it first.</source>
+        <translation>无法理解图层的过滤条件“%1”：%2；请先更正。</translation>
+    </message>
+    <message>
+        <source>The layer&apos;s values can&apos;t be read: %1.</source>
+        <translation>无法读取图层的值：%1。</translation>
     </message>
 </context>
 <context>
@@ -4014,6 +4056,29 @@
     </message>
 </context>
 <context>
+    <name>LayerClasses</name>
+    <message>
+        <source>the method is one of %1</source>
+        <translation>方法应为以下之一：%1</translation>
+    </message>
+    <message>
+        <source>“%1” is no option; there are %2</source>
+        <translation>“%1”不是选项；可用的有 %2</translation>
+    </message>
+    <message>
+        <source>“%1” is written as in %2</source>
+        <translation>“%1”应写成 %2 的形式</translation>
+    </message>
+    <message>
+        <source>the method “own” needs breaks, as in breaks=10;100</source>
+        <translation>方法“own”需要分界值，例如 breaks=10;100</translation>
+    </message>
+    <message>
+        <source>Only a layer of features has classes; write layer:MAP/LAYER.</source>
+        <translation>只有要素图层才有分类；请写 layer:地图/图层。</translation>
+    </message>
+</context>
+<context>
     <name>LayerSettings</name>
     <message>
         <source>Layer “%1”: %2</source>
@@ -5226,7 +5291,7 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
     <message>
         <source>mixed</source>
-        <translation>不同</translation>
+        <translation>混合</translation>
     </message>
     <message>
         <source>%1 entries</source>

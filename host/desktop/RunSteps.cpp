@@ -7,6 +7,7 @@
 #include "NumberList.h"
 #include "drawing/NewElements.h"
 #include "drawing/TurnGesture.h"
+#include "layers/LayerClasses.h"
 
 #include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysUtility/JsonFile.h"
@@ -124,6 +125,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("hide"),       text("LAYER"),        isAnything,   &RunSteps::hideLayers, {}},
       {text("set"),        text("WHAT/FIELD…:VALUE"), isSetting, &RunSteps::setField, {}},
       {text("get"),        text("WHAT/FIELD…"),  isAnything,   &RunSteps::getField, {}},
+      {text("classify"),   text("layer:MAP/LAYER/FIELD:METHOD,…"), isSetting, &RunSteps::classify, {}},
       {text("add"),        text("KIND:CONTENT@X,Y,…"), isAddition, &RunSteps::add, {}},
       {text("rotate"),     text("DEGREES"),      isNumber,     &RunSteps::rotate,  {}},
       {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
@@ -335,6 +337,22 @@ QString RunSteps::setField(QString const& text) {
         document, things, field.path, [&](QJsonValue const&) { return value; }, warnings);
     for (QString const& warning : qAsConst(warnings)) Console::complain(warning);
     return problem.isEmpty() ? problem : problem + QLatin1Char('.');
+  });
+}
+
+QString RunSteps::classify(QString const& text) {
+  FieldText const field = FieldText::of(text);
+  SysCarto::ClassifySettings wanted;
+  wanted.field = field.path.join(QLatin1Char('/'));
+  QString const unclear = LayerClasses::read(field.value, wanted);
+  if (!unclear.isEmpty()) return unclear + QLatin1Char('.');
+  return withThings(field.what, [&](SysCarto::Editable::List const& layers) {
+    QStringList warnings;
+    QString problem;
+    for (auto const& layer : layers)
+      if (problem.isEmpty()) problem = LayerClasses::make(bench_.session().document(), layer, wanted, warnings);
+    for (QString const& warning : qAsConst(warnings)) Console::complain(warning);
+    return problem;
   });
 }
 

@@ -49,6 +49,7 @@ private:
   QString hideLayers(QString const& name) { return setVisible(name, false); }
   QString setField(QString const& text);
   QString getField(QString const& text);
+  QString classify(QString const& text);
   QString withThings(QString const& what, std::function<QString(SysCarto::Editable::List const&)> const& use);
   QString add(QString const& text);
   QString rotate(QString const& degrees);

@@ -21,6 +21,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <type_traits>
 
 namespace SysCarto {
 
@@ -129,6 +130,10 @@ public:
 
   QString name() const override { return uses_.name; }
   QStringList attributes() const override { return uses_.attributes ? uses_.attributes(*target_) : QStringList(); }
+  _ptr_t<Layer> layer() const override {
+    if constexpr (std::is_base_of_v<Layer, Target>) return target_;
+    return nullptr;
+  }
 
 protected:
   void list(Fields& fields, DocumentContext& context) const override { uses_.of(*target_, context).list(fields); }

@@ -31,6 +31,9 @@ public:
   /// have, or those of the layers that a legend may list, those first that it has no entry for.
   virtual QStringList attributes() const { return {}; }
 
+  /// The layer that it is; empty for all else.
+  virtual SysUtility::_ptr_t<Layer> layer() const { return nullptr; }
+
   /// The fields of each as they are; none where it has gone.
   static QVector<QVector<SysUtility::SheetField>> fields(MapDocument const& document, List const& things);
 

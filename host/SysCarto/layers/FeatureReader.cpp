@@ -1,5 +1,6 @@
 #include "FeatureReader.h"
 
+#include "host/SysCarto/layers/Condition.h"
 #include "host/SysCarto/layers/DataSource.h"
 #include "host/SysCarto/layers/FeatureIntake.h"
 #include "host/SysCarto/layers/Renderer.h"
@@ -55,24 +56,6 @@ private:
   bool isGiven(OGRFeature const& feature) const { return index_ >= 0 && feature.IsFieldSetAndNotNull(index_); }
 
   int const index_;
-};
-
-// The condition is evaluated by OGR itself and never handed to a database: a document must not reach the functions that
-// a database offers.
-class Condition {
-public:
-  bool compile(OGRLayer& layer, QString const& text, QString& reason) {
-    if (text.isEmpty()) return true;
-    GdalErrors const errors;
-    query_ = std::make_unique<OGRFeatureQuery>();
-    bool const ok = query_->Compile(&layer, text.toUtf8().constData()) == OGRERR_NONE;
-    reason = errors.reason();
-    return ok;
-  }
-  bool admits(OGRFeature& feature) const { return !query_ || query_->Evaluate(&feature); }
-
-private:
-  std::unique_ptr<OGRFeatureQuery> query_;
 };
 
 std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings const& source,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysDisplay/TextSymbol.h"
+#include "host/SysUtility/NumberText.h"
 
 #include <SysCarto/Element.h>
 #include <SysDisplay/FillSymbol.h>
@@ -14,6 +15,8 @@
 
 // What surrounds are made of: plain graphic elements on the page.
 namespace SysCarto {
+
+using SysUtility::grouped;
 
 // Positions in page centimetres, y upwards.
 SysUtility::_ptr_t<Element> textPiece(QString const& text, SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbol,
@@ -39,8 +42,5 @@ SysUtility::_ptr_t<SysDisplay::LineSymbol> resized(SysDisplay::LineSymbol const&
 
 /// A fill keeps its pattern.
 SysUtility::_ptr_t<SysDisplay::FillSymbol> withOutlineResized(SysDisplay::FillSymbol const& symbol, double factor);
-
-/// A number with the thousands separators of the user's language, and no more decimals than it has.
-QString grouped(double number);
 
 }  // namespace SysCarto

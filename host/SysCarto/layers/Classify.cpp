@@ -1,0 +1,166 @@
+#include "Classify.h"
+
+#include "host/SysCarto/layers/ColorRamp.h"
+#include "host/SysDisplay/SymbolVariation.h"
+#include "host/SysUtility/NumberText.h"
+
+#include <QCollator>
+
+#include <algorithm>
+#include <cmath>
+
+namespace SysCarto {
+
+using Method = ClassifySettings::Method;
+using SysDisplay::Symbol;
+using SysUtility::_ptr_t;
+using SysUtility::grouped;
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(Classify)
+};
+
+// clang-format off
+constexpr struct { Method method; char const* name; } methods[] = {
+    {Method::EqualIntervals,    "equal"},
+    {Method::Quantiles,         "quantile"},
+    {Method::NaturalBreaks,     "natural"},
+    {Method::StandardDeviation, "deviation"},
+    {Method::Pretty,            "pretty"},
+    {Method::OwnBreaks,         "own"},
+    {Method::UniqueValues,      "unique"},
+};
+// clang-format on
+
+ClassMethod methodOfNumbers(Method method) { return static_cast<ClassMethod>(method); }
+
+// What draws all features, or the most of them.
+_ptr_t<Symbol> symbolOf(RendererSettings const& renderer) {
+  for (SymbolClass const& one : renderer.classes)
+    if (one.symbol) return one.symbol;
+  return renderer.others.symbol;
+}
+
+// Around breaks of one's own, all values.
+std::vector<double> boundsAround(std::vector<double> const& sorted, std::vector<double> breaks) {
+  std::sort(breaks.begin(), breaks.end());
+  breaks.erase(std::unique(breaks.begin(), breaks.end()), breaks.end());
+  double const room = (sorted.back() - sorted.front()) / 100;
+  if (breaks.empty() || breaks.front() > sorted.front())
+    breaks.insert(breaks.begin(), roundestWithin(sorted.front() - room, sorted.front()));
+  if (breaks.size() == 1 || breaks.back() < sorted.back())
+    breaks.push_back(roundestWithin(sorted.back(), sorted.back() + room));
+  return breaks;
+}
+
+std::vector<double> boundsOf(std::vector<double> const& sorted, ClassifySettings const& wanted) {
+  if (sorted.empty()) return {};
+  if (wanted.method == Method::OwnBreaks) return boundsAround(sorted, wanted.breaks);
+  return roundedBounds(sorted, classBounds(sorted, methodOfNumbers(wanted.method), wanted.classes));
+}
+
+// The symbols of so many classes.
+std::vector<_ptr_t<Symbol>> symbolsFor(Symbol const& base, int count, ClassifySettings const& wanted) {
+  std::vector<_ptr_t<Symbol>> symbols;
+  bool const isUnique = wanted.method == Method::UniqueValues;
+  ColorRamp const* const named = ColorRamp::named(wanted.ramp);
+  ColorRamp const& ramp = named ? *named : ColorRamp::usual(isUnique ? RampKind::Qualitative : RampKind::Sequential);
+  QVector<QColor> const colors = ramp.colors(count, wanted.reversed);
+  for (int i = 0; i < count; ++i) {
+    if (wanted.sized) {
+      double const part = count > 1 ? double(i) / (count - 1) : 1;
+      symbols.push_back(base.Clone());
+      setSize(*symbols.back(), wanted.from + part * (wanted.to - wanted.from));
+    } else {
+      symbols.push_back(colored(base, colors[i]));
+    }
+  }
+  return symbols;
+}
+
+void addValues(Classes& classes, std::vector<FieldValues::Text> texts, ClassifySettings const& wanted) {
+  texts.resize(std::min(texts.size(), size_t(std::min(wanted.classes, ClassifySettings::maxValues))));
+  QCollator order;
+  order.setNumericMode(true);
+  if (wanted.inOrder)
+    std::sort(texts.begin(), texts.end(), [&](auto const& a, auto const& b) {
+      int const way = order.compare(a.text, b.text);
+      return way != 0 ? way < 0 : a.text < b.text;
+    });
+  for (FieldValues::Text const& text : texts) {
+    classes.renderer.classes.push_back({text.text, {text.text}, 0, nullptr});
+    classes.counts.push_back(text.count);
+  }
+}
+
+void addRanges(Classes& classes, std::vector<double> const& sorted, ClassifySettings const& wanted) {
+  classes.bounds = boundsOf(sorted, wanted);
+  std::vector<double> const& bounds = classes.bounds;
+  for (size_t i = 0; i + 1 < bounds.size(); ++i) {
+    QString const label = bounds[i] == bounds[i + 1]
+                              ? grouped(bounds[i])
+                              : QStringLiteral("%1 – %2").arg(grouped(bounds[i]), grouped(bounds[i + 1]));
+    classes.renderer.classes.push_back({label, {}, bounds[i], nullptr});
+  }
+  if (!bounds.empty()) classes.counts = classCounts(sorted, {bounds.begin(), bounds.end() - 1});
+}
+
+QString problemOf(FieldValues const& values, Symbol const* base, ClassifySettings const& wanted) {
+  bool const isUnique = wanted.method == Method::UniqueValues;
+  if (!values.error.isEmpty()) return values.error;
+  if (!isUnique && !values.isNumeric)
+    return Texts::tr("The field “%1” holds no numbers; take the method “unique”, or a field of numbers.")
+        .arg(wanted.field);
+  if (values.texts.empty()) return Texts::tr("No feature has a value in the field “%1”.").arg(wanted.field);
+  int const most = isUnique ? ClassifySettings::maxValues : ClassifySettings::maxClasses;
+  if (wanted.classes < 1 || wanted.classes > most)
+    return Texts::tr("The number of classes is %1; give one from 1 to %2.").arg(wanted.classes).arg(most);
+  if (!wanted.ramp.isEmpty() && !ColorRamp::named(wanted.ramp)) {
+    QStringList names;
+    for (ColorRamp const& ramp : ColorRamp::all()) names << QLatin1String(ramp.name);
+    return Texts::tr("There is no colour ramp “%1”; there are: %2.").arg(wanted.ramp, names.join(QStringLiteral(", ")));
+  }
+  if (!base) return Texts::tr("The layer has no symbol that could be given other colours; give it one first.");
+  if (wanted.sized && SysDisplay::sizeOf(*base) <= 0)
+    return Texts::tr("Only markers and lines have sizes; take colours for the layer's areas.");
+  return QString();
+}
+
+}  // namespace
+
+std::optional<Method> ClassifySettings::methodOf(QString const& name) {
+  for (auto const& one : methods)
+    if (name == QLatin1String(one.name)) return one.method;
+  return std::nullopt;
+}
+
+QString ClassifySettings::nameOf(Method method) { return QLatin1String(methods[static_cast<int>(method)].name); }
+
+QStringList ClassifySettings::methodNames() {
+  QStringList names;
+  for (auto const& one : methods) names << QLatin1String(one.name);
+  return names;
+}
+
+Classes classify(FieldValues const& values, RendererSettings const& now, ClassifySettings const& wanted) {
+  Classes classes;
+  auto const base = symbolOf(now);
+  classes.problem = problemOf(values, base.get(), wanted);
+  if (!classes.problem.isEmpty()) return classes;
+  bool const isUnique = wanted.method == Method::UniqueValues;
+  classes.renderer.kind = isUnique ? RendererSettings::Kind::UniqueValues : RendererSettings::Kind::Graduated;
+  classes.renderer.field = wanted.field;
+  classes.renderer.others = now.others;
+  classes.missing = values.missing;
+  if (isUnique)
+    addValues(classes, values.texts, wanted);
+  else
+    addRanges(classes, sortedValues(values.numbers).sorted, wanted);
+  auto const symbols = symbolsFor(*base, static_cast<int>(classes.renderer.classes.size()), wanted);
+  for (size_t i = 0; i < symbols.size(); ++i) classes.renderer.classes[i].symbol = symbols[i];
+  return classes;
+}
+
+}  // namespace SysCarto

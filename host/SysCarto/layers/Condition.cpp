@@ -1,0 +1,26 @@
+#include "Condition.h"
+
+#include "host/SysCarto/projection/GdalErrors.h"
+
+#include <ogr_feature.h>
+#include <ogrsf_frmts.h>
+
+namespace SysCarto {
+
+Condition::Condition() = default;
+Condition::Condition(Condition&&) noexcept = default;
+Condition::~Condition() = default;
+
+bool Condition::compile(OGRLayer& layer, QString const& text, QString& reason) {
+  query_.reset();
+  if (text.isEmpty()) return true;
+  GdalErrors const errors;
+  query_ = std::make_unique<OGRFeatureQuery>();
+  bool const ok = query_->Compile(&layer, text.toUtf8().constData()) == OGRERR_NONE;
+  reason = errors.reason();
+  return ok;
+}
+
+bool Condition::admits(OGRFeature& feature) const { return !query_ || query_->Evaluate(&feature); }
+
+}  // namespace SysCarto

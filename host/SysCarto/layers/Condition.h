@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class OGRFeature;
+class OGRFeatureQuery;
+class OGRLayer;
+
+namespace SysCarto {
+
+/// A condition on the attributes of features. It is evaluated by OGR itself and never handed to a database: a document
+/// must not reach the functions that a database offers.
+class Condition {
+public:
+  Condition();
+  Condition(Condition&&) noexcept;
+  ~Condition();
+
+  /// Where it is not understood it answers false, and `reason` says why. An empty text admits all.
+  bool compile(OGRLayer& layer, QString const& text, QString& reason);
+
+  bool admits(OGRFeature& feature) const;
+
+private:
+  std::unique_ptr<OGRFeatureQuery> query_;
+};
+
+}  // namespace SysCarto

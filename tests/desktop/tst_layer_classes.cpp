@@ -1,0 +1,106 @@
+#include "Test.h"
+
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysDisplay/SymbolFields.h"
+#include "host/SysDisplay/SymbolVariation.h"
+#include "host/desktop/DocumentSession.h"
+#include "host/desktop/layers/LayerClasses.h"
+
+using namespace SysCarto;
+
+class LayerClassesTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void initTestCase() { QVERIFY(session_.open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx"))); }
+
+  void classesAreMadeOfAField_data() {
+    Rows<QString, QString, QString, QString> row;
+    row("numbers in the colours of a ramp", "Capitals", "population", "quantile,classes=3,ramp=Blues",
+        "0 – 118,500|118,500 – 1,040,000|1,040,000 – 13,500,000 #deebf7 #9ecae1 #3182bd");
+    row("a ramp the other way round", "Capitals", "population", "equal,classes=2,ramp=RdBu,reversed",
+        "0 – 6,500,000|6,500,000 – 13,200,000 #67a9cf #ef8a62");
+    row("breaks of one's own", "Capitals", "population", "own,breaks=5000000;100000,ramp=Greens",
+        "0 – 100,000|100,000 – 5,000,000|5,000,000 – 13,200,000 #e5f5e0 #a1d99b #31a354");
+    row("the most frequent values", "Cities of over a million", "country", "unique,classes=2,ramp=Dark2",
+        "CN|IN #1b9e77 #d95f02");
+    row("values in order", "Cities of over a million", "country", "unique,sorted,classes=2,ramp=Set1",
+        "CN|IN #e41a1c #377eb8");
+    row("an area keeps its outline", "Countries", "name", "unique,sorted,classes=1", "Afghanistan #8dd3c7");
+  }
+  void classesAreMadeOfAField() {
+    auto const [name, field, how, expected] = fetched<QString, QString, QString, QString>();
+    auto const thing = layer(name);
+    QString const outline = outlineOf(*thing);
+    ClassifySettings wanted;
+    wanted.field = field;
+    QCOMPARE(LayerClasses::read(how, wanted), QString());
+    QStringList warnings;
+    QCOMPARE(LayerClasses::make(session_.document(), thing, wanted, warnings), QString());
+    QCOMPARE(classesOf(*thing), expected);
+    QCOMPARE(outlineOf(*thing), outline);
+    session_.document().GetOperationStack()->Undo();
+    QVERIFY(!session_.isModified());
+  }
+
+  void sizesGoFromOneToTheOther() {
+    auto const thing = layer("Capitals");
+    ClassifySettings wanted;
+    wanted.field = "population";
+    QCOMPARE(LayerClasses::read("pretty,classes=3,sizes=4-12", wanted), QString());
+    QStringList warnings;
+    QCOMPARE(LayerClasses::make(session_.document(), thing, wanted, warnings), QString());
+    QVector<double> sizes;
+    for (auto const& one : rendererOf(*thing).classes) sizes << SysDisplay::sizeOf(*one.symbol);
+    QCOMPARE(sizes, (QVector<double>{4, 8, 12}));
+    session_.document().GetOperationStack()->Undo();
+  }
+
+  void whatCanNotBeMadeIsTold_data() {
+    Rows<QString, QString, QString, QString> row;
+    row("a field of texts", "Capitals", "name", "natural", "holds no numbers");
+    row("a field that is not there", "Capitals", "people", "natural", "name, country, population, capital");
+    row("an unknown method", "Capitals", "population", "jenks", "equal, quantile, natural");
+    row("an unknown option", "Capitals", "population", "natural,colours=5", "ramp=YlGnBu");
+    row("an unknown ramp", "Capitals", "population", "natural,ramp=Blue", "Blues");
+    row("no classes", "Capitals", "population", "natural,classes=0", "1 to 100");
+    row("no number", "Capitals", "population", "natural,classes=many", "classes=7");
+    row("sizes of areas", "Countries", "name", "unique,sizes=1-5", "Only markers and lines");
+    row("breaks without numbers", "Capitals", "population", "own", "breaks=10;100");
+  }
+  void whatCanNotBeMadeIsTold() {
+    auto const [name, field, how, says] = fetched<QString, QString, QString, QString>();
+    ClassifySettings wanted;
+    wanted.field = field;
+    QStringList warnings;
+    QString problem = LayerClasses::read(how, wanted);
+    if (problem.isEmpty()) problem = LayerClasses::make(session_.document(), layer(name), wanted, warnings);
+    QVERIFY2(problem.contains(says), qPrintable(problem));
+    QVERIFY(!session_.isModified());
+  }
+
+private:
+  Editable::Pointer layer(QString const& name) {
+    return Editable::named(session_.document(), "layer:World/" + name).value(0);
+  }
+  static RendererSettings rendererOf(Editable const& thing) {
+    return ptr_cast<VectorLayer>(thing.layer())->renderer().settings();
+  }
+  static QString classesOf(Editable const& thing) {
+    QStringList labels, colors;
+    for (auto const& one : rendererOf(thing).classes) {
+      labels << one.label;
+      colors << SysDisplay::colorOf(*one.symbol).name();
+    }
+    return labels.join('|') + ' ' + colors.join(' ');
+  }
+  static QString outlineOf(Editable const& thing) {
+    auto const fill = ptr_cast<SysDisplay::FillSymbol>(rendererOf(thing).classes.front().symbol);
+    return fill ? SysDisplay::exportSymbol(*fill->GetOutlineSymbol()) : QString();
+  }
+
+  DocumentSession session_;
+};
+
+QTEST_MAIN(LayerClassesTest)
+#include "tst_layer_classes.moc"
