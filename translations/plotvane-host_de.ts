@@ -3277,7 +3277,7 @@
     </message>
     <message>
         <source>Layer</source>
-        <translation>Ebene</translation>
+        <translation>Layer</translation>
     </message>
     <message>
         <source>The name of the layer. The entry stays, and shows nothing, while the map has none of that name.</source>
