@@ -908,6 +908,45 @@
     </message>
 </context>
 <context>
+    <name>DataReport</name>
+    <message>
+        <source>no geometry</source>
+        <translation>ohne Geometrie</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>areas</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>gemischt</translation>
+    </message>
+    <message>
+        <source>%1 features</source>
+        <translation>%1 Objekte</translation>
+    </message>
+    <message>
+        <source>placed by the columns %1 and %2</source>
+        <translation>verortet durch die Spalten %1 und %2</translation>
+    </message>
+    <message>
+        <source>placed by the column %1</source>
+        <translation>verortet durch die Spalte %1</translation>
+    </message>
+    <message>
+        <source>fields: %1</source>
+        <translation>Felder: %1</translation>
+    </message>
+</context>
+<context>
     <name>DataSource</name>
     <message>
         <source>The file “%1” can&apos;t be opened: %2.</source>
@@ -947,7 +986,7 @@
     </message>
     <message>
         <source>it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file</source>
-        <translation>sie ist keine GeoPackage-, GeoJSON-, Shapefile- oder FlatGeobuf-Datei</translation>
+        <translation type="vanished">sie ist keine GeoPackage-, GeoJSON-, Shapefile- oder FlatGeobuf-Datei</translation>
     </message>
     <message>
         <source>The file “%1” has no layer “%2”; it has: %3.</source>
@@ -964,6 +1003,62 @@
     <message>
         <source>reading it is not permitted; make it readable</source>
         <translation>sie darf nicht gelesen werden; machen Sie sie lesbar</translation>
+    </message>
+    <message>
+        <source>The file “%1” holds no features.</source>
+        <translation>Die Datei „%1“ enthält keine Objekte.</translation>
+    </message>
+    <message>
+        <source>The file “%1” holds no layer.</source>
+        <translation>Die Datei „%1“ enthält keine Ebene.</translation>
+    </message>
+    <message>
+        <source>There is no field “%1” by which “%2” could be joined; the features have: %3.</source>
+        <translation>Es gibt kein Feld „%1“, über das „%2“ verknüpft werden könnte; die Objekte haben: %3.</translation>
+    </message>
+    <message>
+        <source>The table “%1” has no field “%2” to be joined by; it has: %3.</source>
+        <translation>Die Tabelle „%1“ hat kein Feld „%2“, über das sie verknüpft werden könnte; sie hat: %3.</translation>
+    </message>
+    <message>
+        <source>No feature found a row in “%1”: no value of “%2”, such as “%3”, is a value of “%4”, such as “%5”.</source>
+        <translation>Kein Objekt hat eine Zeile in „%1“ gefunden: Kein Wert von „%2“, etwa „%3“, ist ein Wert von „%4“, etwa „%5“.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 features found no row in “%3”, such as the one with “%4” in “%5”.</source>
+        <translation>%1 von %2 Objekten haben keine Zeile in „%3“ gefunden, etwa das mit „%4“ in „%5“.</translation>
+    </message>
+    <message>
+        <source>Rows of “%1” whose key an earlier row has, such as “%2”, are not used: %3 in all.</source>
+        <translation>Zeilen von „%1“, deren Schlüssel schon eine frühere hat, etwa „%2“, werden nicht verwendet: insgesamt %3.</translation>
+    </message>
+    <message>
+        <source>its text is encoded as UTF-16; save it as UTF-8</source>
+        <translation>ihr Text ist in UTF-16 kodiert; speichern Sie sie als UTF-8</translation>
+    </message>
+    <message>
+        <source>it only refers to other tables; name one of those</source>
+        <translation>sie verweist nur auf andere Tabellen; nennen Sie eine von diesen</translation>
+    </message>
+    <message>
+        <source>there is no Shapefile in this archive</source>
+        <translation>in diesem Archiv ist kein Shapefile</translation>
+    </message>
+    <message>
+        <source>its format is none of those that are known (%1)</source>
+        <translation>ihr Format ist keines der bekannten (%1)</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>sie ist leer</translation>
+    </message>
+    <message>
+        <source>Of the columns of coordinates in “%1” only one is named; give both xField and yField, or neither.</source>
+        <translation>Von den Koordinatenspalten in „%1“ ist nur eine genannt; geben Sie xField und yField an oder keine von beiden.</translation>
+    </message>
+    <message>
+        <source>The table “%1” has no column “%2”; it has: %3.</source>
+        <translation>Die Tabelle „%1“ hat keine Spalte „%2“; sie hat: %3.</translation>
     </message>
 </context>
 <context>
@@ -1597,6 +1692,10 @@
     <message>
         <source>Not all of %1 could be read: %2.</source>
         <translation>Nicht alles aus %1 konnte gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw in %1: its rows have no geometry, and no columns of coordinates are known. Name such columns in “xField” and “yField”, or one of well-known text in “geometryField”, or join it as a table to a layer; it has: %2.</source>
+        <translation>In %1 ist nichts zu zeichnen: Die Zeilen haben keine Geometrie, und Spalten mit Koordinaten sind nicht bekannt. Nennen Sie solche in „xField“ und „yField“ oder eine mit Well-known Text in „geometryField“, oder verknüpfen Sie die Tabelle mit einer Ebene; sie hat: %2.</translation>
     </message>
 </context>
 <context>
@@ -2865,7 +2964,7 @@
     </message>
     <message>
         <source>The local file of the data (GeoPackage, GeoJSON, Shapefile or FlatGeobuf), relative to the document.</source>
-        <translation>Die lokale Datei der Daten (GeoPackage, GeoJSON, Shapefile oder FlatGeobuf), relativ zum Dokument.</translation>
+        <translation type="vanished">Die lokale Datei der Daten (GeoPackage, GeoJSON, Shapefile oder FlatGeobuf), relativ zum Dokument.</translation>
     </message>
     <message>
         <source>A condition on the attributes as in SQL, “population &gt; 1000000”; empty for all features.</source>
@@ -3277,7 +3376,7 @@
     </message>
     <message>
         <source>Layer</source>
-        <translation>Layer</translation>
+        <translation>Ebene</translation>
     </message>
     <message>
         <source>The name of the layer. The entry stays, and shows nothing, while the map has none of that name.</source>
@@ -3691,6 +3790,70 @@
         <source>The layers of the group, the lowest first; groups lie at most 16 deep in each other.</source>
         <translation>Die Ebenen der Gruppe, die unterste zuerst; Gruppen liegen höchstens 16 tief ineinander.</translation>
     </message>
+    <message>
+        <source>The local file of the table (CSV or any other of data), relative to the document.</source>
+        <translation>Die lokale Datei der Tabelle (CSV oder eine andere mit Daten), relativ zum Dokument.</translation>
+    </message>
+    <message>
+        <source>Key of the features</source>
+        <translation>Schlüssel der Objekte</translation>
+    </message>
+    <message>
+        <source>The attribute that tells which row of the table a feature has.</source>
+        <translation>Das Attribut, das sagt, welche Zeile der Tabelle ein Objekt hat.</translation>
+    </message>
+    <message>
+        <source>Key of the table</source>
+        <translation>Schlüssel der Tabelle</translation>
+    </message>
+    <message>
+        <source>The field of the table that holds the same values: the same texts, or numbers of the same value. Of several rows with one key the first counts.</source>
+        <translation>Das Feld der Tabelle mit denselben Werten: denselben Texten oder Zahlen desselben Werts. Von mehreren Zeilen mit einem Schlüssel zählt die erste.</translation>
+    </message>
+    <message>
+        <source>Prefix</source>
+        <translation>Vorsatz</translation>
+    </message>
+    <message>
+        <source>Stands before the names of the table&apos;s fields. Without one, a name that is taken gets the table&apos;s name and an underscore before it.</source>
+        <translation>Steht vor den Namen der Felder der Tabelle. Ohne ihn bekommt ein Name, den es schon gibt, den Namen der Tabelle und einen Unterstrich vorangestellt.</translation>
+    </message>
+    <message>
+        <source>The local file of the data (GeoPackage, GeoJSON, Shapefile, FlatGeobuf, GPX, KML, MapInfo, DXF or CSV), relative to the document.</source>
+        <translation>Die lokale Datei der Daten (GeoPackage, GeoJSON, Shapefile, FlatGeobuf, GPX, KML, MapInfo, DXF oder CSV), relativ zum Dokument.</translation>
+    </message>
+    <message>
+        <source>Column of x</source>
+        <translation>Spalte für x</translation>
+    </message>
+    <message>
+        <source>Of a table: the column that holds eastings or longitudes. Where none is named, the names and values of the columns tell.</source>
+        <translation>Bei einer Tabelle: die Spalte mit Ostwerten oder Längen. Ist keine genannt, entscheiden Namen und Werte der Spalten.</translation>
+    </message>
+    <message>
+        <source>Column of y</source>
+        <translation>Spalte für y</translation>
+    </message>
+    <message>
+        <source>Of a table: the column that holds northings or latitudes.</source>
+        <translation>Bei einer Tabelle: die Spalte mit Nordwerten oder Breiten.</translation>
+    </message>
+    <message>
+        <source>Column of geometries</source>
+        <translation>Spalte für Geometrien</translation>
+    </message>
+    <message>
+        <source>Of a table: the column that holds geometries as well-known text.</source>
+        <translation>Bei einer Tabelle: die Spalte mit Geometrien als Well-known Text.</translation>
+    </message>
+    <message>
+        <source>Joined tables</source>
+        <translation>Verknüpfte Tabellen</translation>
+    </message>
+    <message>
+        <source>Tables whose fields become those of the features: labels, classes and the filter may use them.</source>
+        <translation>Tabellen, deren Felder zu denen der Objekte werden: Beschriftungen, Klassen und der Filter können sie verwenden.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3956,11 +4119,19 @@
     <name>InfoSubcommand</name>
     <message>
         <source>The .kdx document.</source>
-        <translation>Das .kdx-Dokument.</translation>
+        <translation type="vanished">Das .kdx-Dokument.</translation>
     </message>
     <message>
         <source>Print JSON, for programs.</source>
         <translation>JSON für Programme ausgeben.</translation>
+    </message>
+    <message>
+        <source>%1: the folder holds no file of data.</source>
+        <translation>%1: Der Ordner enthält keine Datei mit Daten.</translation>
+    </message>
+    <message>
+        <source>The .kdx document, or a file or folder of data.</source>
+        <translation>Das .kdx-Dokument oder eine Datei oder ein Ordner mit Daten.</translation>
     </message>
 </context>
 <context>
@@ -4821,7 +4992,7 @@
     </message>
     <message>
         <source>Tell what is on the page of a document</source>
-        <translation>Angeben, was auf der Seite eines Dokuments liegt</translation>
+        <translation type="vanished">Angeben, was auf der Seite eines Dokuments liegt</translation>
     </message>
     <message>
         <source>Work on a document step by step, without a window</source>
@@ -4890,6 +5061,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Print tables of all fields of documents or styles</source>
         <translation>Tabellen aller Felder von Dokumenten oder Stilen ausgeben</translation>
+    </message>
+    <message>
+        <source>Tell what is on the page of a document, or in a file of data</source>
+        <translation>Sagen, was auf der Seite eines Dokuments oder in einer Datendatei ist</translation>
     </message>
 </context>
 <context>

@@ -908,6 +908,45 @@
     </message>
 </context>
 <context>
+    <name>DataReport</name>
+    <message>
+        <source>no geometry</source>
+        <translation>无几何</translation>
+    </message>
+    <message>
+        <source>points</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>lines</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>areas</source>
+        <translation>面</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>混合</translation>
+    </message>
+    <message>
+        <source>%1 features</source>
+        <translation>%1 个要素</translation>
+    </message>
+    <message>
+        <source>placed by the columns %1 and %2</source>
+        <translation>由列 %1 和 %2 定位</translation>
+    </message>
+    <message>
+        <source>placed by the column %1</source>
+        <translation>由列 %1 定位</translation>
+    </message>
+    <message>
+        <source>fields: %1</source>
+        <translation>字段：%1</translation>
+    </message>
+</context>
+<context>
     <name>DataSource</name>
     <message>
         <source>The file “%1” can&apos;t be opened: %2.</source>
@@ -947,7 +986,7 @@
     </message>
     <message>
         <source>it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file</source>
-        <translation>它不是 GeoPackage、GeoJSON、Shapefile 或 FlatGeobuf 文件</translation>
+        <translation type="vanished">它不是 GeoPackage、GeoJSON、Shapefile 或 FlatGeobuf 文件</translation>
     </message>
     <message>
         <source>The file “%1” has no layer “%2”; it has: %3.</source>
@@ -964,6 +1003,62 @@
     <message>
         <source>reading it is not permitted; make it readable</source>
         <translation>没有读取权限；请使其可读</translation>
+    </message>
+    <message>
+        <source>The file “%1” holds no features.</source>
+        <translation>文件“%1”不含要素。</translation>
+    </message>
+    <message>
+        <source>The file “%1” holds no layer.</source>
+        <translation>文件“%1”不含图层。</translation>
+    </message>
+    <message>
+        <source>There is no field “%1” by which “%2” could be joined; the features have: %3.</source>
+        <translation>没有可用于连接“%2”的字段“%1”；要素的字段有：%3。</translation>
+    </message>
+    <message>
+        <source>The table “%1” has no field “%2” to be joined by; it has: %3.</source>
+        <translation>表“%1”没有用于连接的字段“%2”；它的字段有：%3。</translation>
+    </message>
+    <message>
+        <source>No feature found a row in “%1”: no value of “%2”, such as “%3”, is a value of “%4”, such as “%5”.</source>
+        <translation>没有要素在“%1”中找到对应行：“%2”的值（如“%3”）都不是“%4”的值（如“%5”）。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 features found no row in “%3”, such as the one with “%4” in “%5”.</source>
+        <translation>%2 个要素中有 %1 个在“%3”中没有对应行，例如“%5”为“%4”的要素。</translation>
+    </message>
+    <message>
+        <source>Rows of “%1” whose key an earlier row has, such as “%2”, are not used: %3 in all.</source>
+        <translation>“%1”中键与前面的行重复的行（如“%2”）不使用：共 %3 行。</translation>
+    </message>
+    <message>
+        <source>its text is encoded as UTF-16; save it as UTF-8</source>
+        <translation>其文本编码为 UTF-16；请另存为 UTF-8</translation>
+    </message>
+    <message>
+        <source>it only refers to other tables; name one of those</source>
+        <translation>它只引用其他表；请指定其中之一</translation>
+    </message>
+    <message>
+        <source>there is no Shapefile in this archive</source>
+        <translation>此压缩包中没有 Shapefile</translation>
+    </message>
+    <message>
+        <source>its format is none of those that are known (%1)</source>
+        <translation>其格式不是已知格式之一（%1）</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>它是空的</translation>
+    </message>
+    <message>
+        <source>Of the columns of coordinates in “%1” only one is named; give both xField and yField, or neither.</source>
+        <translation>“%1”的坐标列只指定了一个；请同时给出 xField 和 yField，或都不给。</translation>
+    </message>
+    <message>
+        <source>The table “%1” has no column “%2”; it has: %3.</source>
+        <translation>表“%1”没有列“%2”；它有：%3。</translation>
     </message>
 </context>
 <context>
@@ -1597,6 +1692,10 @@
     <message>
         <source>Not all of %1 could be read: %2.</source>
         <translation>%1未能全部读取：%2。</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw in %1: its rows have no geometry, and no columns of coordinates are known. Name such columns in “xField” and “yField”, or one of well-known text in “geometryField”, or join it as a table to a layer; it has: %2.</source>
+        <translation>%1中没有可绘制的内容：其行没有几何，也没有已知的坐标列。请在“xField”和“yField”中指定坐标列，或在“geometryField”中指定 WKT 列，或将其作为表连接到图层；它有：%2。</translation>
     </message>
 </context>
 <context>
@@ -2865,7 +2964,7 @@
     </message>
     <message>
         <source>The local file of the data (GeoPackage, GeoJSON, Shapefile or FlatGeobuf), relative to the document.</source>
-        <translation>数据的本地文件（GeoPackage、GeoJSON、Shapefile 或 FlatGeobuf），相对于文档。</translation>
+        <translation type="vanished">数据的本地文件（GeoPackage、GeoJSON、Shapefile 或 FlatGeobuf），相对于文档。</translation>
     </message>
     <message>
         <source>A condition on the attributes as in SQL, “population &gt; 1000000”; empty for all features.</source>
@@ -3691,6 +3790,70 @@
         <source>The layers of the group, the lowest first; groups lie at most 16 deep in each other.</source>
         <translation>组中的图层，最下面的在前；组最多嵌套 16 层。</translation>
     </message>
+    <message>
+        <source>The local file of the table (CSV or any other of data), relative to the document.</source>
+        <translation>表的本地文件（CSV 或其他数据文件），相对于文档。</translation>
+    </message>
+    <message>
+        <source>Key of the features</source>
+        <translation>要素的键</translation>
+    </message>
+    <message>
+        <source>The attribute that tells which row of the table a feature has.</source>
+        <translation>指明要素对应表中哪一行的属性。</translation>
+    </message>
+    <message>
+        <source>Key of the table</source>
+        <translation>表的键</translation>
+    </message>
+    <message>
+        <source>The field of the table that holds the same values: the same texts, or numbers of the same value. Of several rows with one key the first counts.</source>
+        <translation>表中含相同值的字段：相同的文本，或数值相等的数字。键相同的多行以第一行为准。</translation>
+    </message>
+    <message>
+        <source>Prefix</source>
+        <translation>前缀</translation>
+    </message>
+    <message>
+        <source>Stands before the names of the table&apos;s fields. Without one, a name that is taken gets the table&apos;s name and an underscore before it.</source>
+        <translation>置于表字段名之前。不设时，重复的名称前会加上表名和下划线。</translation>
+    </message>
+    <message>
+        <source>The local file of the data (GeoPackage, GeoJSON, Shapefile, FlatGeobuf, GPX, KML, MapInfo, DXF or CSV), relative to the document.</source>
+        <translation>数据的本地文件（GeoPackage、GeoJSON、Shapefile、FlatGeobuf、GPX、KML、MapInfo、DXF 或 CSV），相对于文档。</translation>
+    </message>
+    <message>
+        <source>Column of x</source>
+        <translation>x 列</translation>
+    </message>
+    <message>
+        <source>Of a table: the column that holds eastings or longitudes. Where none is named, the names and values of the columns tell.</source>
+        <translation>用于表：含东坐标或经度的列。未指定时由列的名称和值判断。</translation>
+    </message>
+    <message>
+        <source>Column of y</source>
+        <translation>y 列</translation>
+    </message>
+    <message>
+        <source>Of a table: the column that holds northings or latitudes.</source>
+        <translation>用于表：含北坐标或纬度的列。</translation>
+    </message>
+    <message>
+        <source>Column of geometries</source>
+        <translation>几何列</translation>
+    </message>
+    <message>
+        <source>Of a table: the column that holds geometries as well-known text.</source>
+        <translation>用于表：以 WKT 存放几何的列。</translation>
+    </message>
+    <message>
+        <source>Joined tables</source>
+        <translation>连接的表</translation>
+    </message>
+    <message>
+        <source>Tables whose fields become those of the features: labels, classes and the filter may use them.</source>
+        <translation>其字段成为要素字段的表：标注、分类和过滤条件都可使用。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -3956,11 +4119,19 @@
     <name>InfoSubcommand</name>
     <message>
         <source>The .kdx document.</source>
-        <translation>.kdx 文档。</translation>
+        <translation type="vanished">.kdx 文档。</translation>
     </message>
     <message>
         <source>Print JSON, for programs.</source>
         <translation>输出 JSON，供程序使用。</translation>
+    </message>
+    <message>
+        <source>%1: the folder holds no file of data.</source>
+        <translation>%1：该文件夹不含数据文件。</translation>
+    </message>
+    <message>
+        <source>The .kdx document, or a file or folder of data.</source>
+        <translation>.kdx 文档，或数据文件或文件夹。</translation>
     </message>
 </context>
 <context>
@@ -4821,7 +4992,7 @@
     </message>
     <message>
         <source>Tell what is on the page of a document</source>
-        <translation>列出文档页面上的内容</translation>
+        <translation type="vanished">列出文档页面上的内容</translation>
     </message>
     <message>
         <source>Work on a document step by step, without a window</source>
@@ -4890,6 +5061,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Print tables of all fields of documents or styles</source>
         <translation>输出文档或样式的全部字段表</translation>
+    </message>
+    <message>
+        <source>Tell what is on the page of a document, or in a file of data</source>
+        <translation>说明文档页面上或数据文件中有什么</translation>
     </message>
 </context>
 <context>

@@ -2,30 +2,92 @@
 #include "DocumentReport.h"
 #include "OffscreenDesktop.h"
 #include "Subcommand.h"
+#include "layers/DataReport.h"
+
+#include "host/SysCarto/layers/LocalDataset.h"
 
 #include <SysCarto/MapDocument.h>
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QJsonDocument>
+
+#include <chrono>
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(InfoSubcommand)
+};
+
+constexpr std::chrono::seconds patience(5);  // for the count and the extent of a layer whose file does not say
+
+void printJson(QJsonObject const& json) { Console::print(QString::fromUtf8(QJsonDocument(json).toJson()).trimmed()); }
+
+void measure(SysCarto::DataFile& file) {
+  for (SysCarto::LayerDescription& layer : file.layers) {
+    bool const isKnown =
+        layer.count >= 0 && (layer.count == 0 || layer.kind == SysCarto::GeometryKind::None || !layer.extent.isEmpty());
+    QString problem;
+    if (isKnown) continue;
+    auto const whole = SysCarto::describeLayer(
+        {file.path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField}, patience, problem);
+    if (!problem.isEmpty()) continue;
+    layer.count = whole.count;
+    layer.extent = whole.extent;
+  }
+}
+
+ExitStatus tellData(QString const& path, bool asJson) {
+  auto file = SysCarto::describeFile(QFileInfo(path).absoluteFilePath());
+  if (!file.error.isEmpty()) {
+    Console::complain(file.error);
+    return WorkFailed;
+  }
+  measure(file);
+  if (asJson)
+    printJson(dataJson(file));
+  else
+    Console::print(dataText(file));
+  return Done;
+}
+
+ExitStatus tellFolder(QString const& path, bool asJson) {
+  auto const files = SysCarto::dataFilesIn(path);
+  if (files.isEmpty()) {
+    Console::complain(Texts::tr("%1: the folder holds no file of data.").arg(path));
+    return WorkFailed;
+  }
+  ExitStatus status = Done;
+  for (QString const& file : files)
+    if (tellData(file, asJson) != Done) status = WorkFailed;
+  return status;
+}
+
+}  // namespace
 
 ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
   QCommandLineParser parser;
   parser.addPositionalArgument(QStringLiteral("DOCUMENT"),
-                               QCoreApplication::translate("InfoSubcommand", "The .kdx document."));
-  QCommandLineOption const json(QStringLiteral("json"),
-                                QCoreApplication::translate("InfoSubcommand", "Print JSON, for programs."));
+                               Texts::tr("The .kdx document, or a file or folder of data."));
+  QCommandLineOption const json(QStringLiteral("json"), Texts::tr("Print JSON, for programs."));
   parser.addOption(json);
   if (auto const settled = parseArguments(self, parser, arguments)) return *settled;
 
+  QString const path = parser.positionalArguments().at(0);
+  if (QFileInfo(path).isDir()) return tellFolder(path, parser.isSet(json));
+  if (SysCarto::isDataFileName(path)) return tellData(path, parser.isSet(json));
   SysCarto::MapDocument document;
-  bool const opened = document.Open(parser.positionalArguments().at(0));
+  bool const opened = document.Open(path);
   for (QString const& sentence : document.GetWarnings() + document.GetErrors()) Console::complain(sentence);
   if (!opened) return WorkFailed;
 
   auto const desktop = SysUtility::make<OffscreenDesktop>(document);
   QJsonObject const report = documentJson(document);
-  Console::print(parser.isSet(json) ? QString::fromUtf8(QJsonDocument(report).toJson()).trimmed()
-                                    : documentText(report));
+  if (parser.isSet(json))
+    printJson(report);
+  else
+    Console::print(documentText(report));
   return Done;
 }

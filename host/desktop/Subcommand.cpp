@@ -12,7 +12,7 @@ namespace {
 // clang-format off
 constexpr Subcommand subcommands[] = {
     {"export",   "DOCUMENT IMAGE", QT_TRANSLATE_NOOP("Subcommand", "Draw the page of a document into an image file"),   runExport},
-    {"info",     "DOCUMENT",       QT_TRANSLATE_NOOP("Subcommand", "Tell what is on the page of a document"),           runInfo},
+    {"info",     "DOCUMENT|DATA",  QT_TRANSLATE_NOOP("Subcommand", "Tell what is on the page of a document, or in a file of data"), runInfo},
     {"run",      "DOCUMENT STEP...", QT_TRANSLATE_NOOP("Subcommand", "Work on a document step by step, without a window"), runRun},
     {"commands", "",               QT_TRANSLATE_NOOP("Subcommand", "List the commands and whether the plug-in builds them"), runCommands},
     {"schema",   "[FORMAT]",       QT_TRANSLATE_NOOP("Subcommand", "Print the format of documents or styles as a JSON Schema"), runSchema},

@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace SysCarto {
 
 using SysUtility::_ptr_t;
@@ -19,6 +21,11 @@ namespace {
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(DocumentSources)
 };
+
+bool drawsFrom(SourceSettings const& source, QStringList const& files) {
+  return files.contains(source.file) || std::any_of(source.joins.begin(), source.joins.end(),
+                                                    [&](TableJoin const& join) { return files.contains(join.file); });
+}
 
 template <class OnPicture>
 void visitPictures(QList<_ptr_t<Element>> const& elements, OnPicture const& onPicture) {
@@ -48,6 +55,7 @@ QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
         QString const& problem = layer.problem();
         sources.append({layer.source().file,
                         problem.isEmpty() ? problem : Texts::tr("Layer “%1”: %2").arg(layer.GetName(), problem)});
+        for (TableJoin const& join : layer.source().joins) sources.append({join.file, QString()});
       },
       [&](PictureElement const& picture) {
         if (picture.data().isEmpty() && !picture.path().isEmpty()) sources.append({picture.path(), picture.problem()});
@@ -60,7 +68,7 @@ void readAgain(PageLayout const& layout, QStringList const& files) {
       layout,
       [&](Map const& map, VectorLayer& layer) {
         QStringList warnings;
-        if (files.contains(layer.source().file)) layer.open(layer.source(), map.GetCoordinateSystem(), warnings);
+        if (drawsFrom(layer.source(), files)) layer.open(layer.source(), map.GetCoordinateSystem(), warnings);
       },
       [&](PictureElement& picture) {
         if (files.contains(picture.path())) picture.readAgain();

@@ -15,6 +15,7 @@ using SysUtility::TextKind;
 
 namespace {
 
+constexpr int maxJoins = 20;
 constexpr int maxLayers = 10000;
 enum Kind { FeatureKind, GroupKind };
 constexpr Choice blends[] = {
@@ -40,12 +41,38 @@ QString pathToOpen(QString const& stored, DocumentContext const& context) {
   return QDir::cleanPath(QDir(context.folder).absoluteFilePath(stored));
 }
 
+void listJoin(Fields& fields, TableJoin& join) {
+  fields.text({"file", QT_TRANSLATE_NOOP("Fields", "File"),
+               QT_TRANSLATE_NOOP("Fields",
+                                 "The local file of the table (CSV or any other of data), relative to the "
+                                 "document.")},
+              join.file, TextKind::File);
+  fields.text({"layer", QT_TRANSLATE_NOOP("Fields", "Layer of the file"),
+               QT_TRANSLATE_NOOP("Fields", "Its name in the file; the first one where it is empty.")},
+              join.layer, TextKind::Line, QString());
+  fields.text({"key", QT_TRANSLATE_NOOP("Fields", "Key of the features"),
+               QT_TRANSLATE_NOOP("Fields", "The attribute that tells which row of the table a feature has.")},
+              join.key, TextKind::Attribute);
+  fields.text({"tableKey", QT_TRANSLATE_NOOP("Fields", "Key of the table"),
+               QT_TRANSLATE_NOOP("Fields",
+                                 "The field of the table that holds the same values: the same texts, or numbers of the "
+                                 "same value. Of several rows with one key the first counts.")},
+              join.tableKey, TextKind::Line);
+  fields.text(
+      {"prefix", QT_TRANSLATE_NOOP("Fields", "Prefix"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "Stands before the names of the table's fields. Without one, a name that is taken gets "
+                         "the table's name and an underscore before it.")},
+      join.prefix, TextKind::Line, QString());
+}
+
 void listSource(Fields& fields, SourceSettings& source) {
   fields.text(
       {"file", QT_TRANSLATE_NOOP("Fields", "File"),
        QT_TRANSLATE_NOOP(
            "Fields",
-           "The local file of the data (GeoPackage, GeoJSON, Shapefile or FlatGeobuf), relative to the document.")},
+           "The local file of the data (GeoPackage, GeoJSON, Shapefile, FlatGeobuf, GPX, KML, MapInfo, DXF or CSV), "
+           "relative to the document.")},
       source.file, TextKind::File);
   fields.text({"layer", QT_TRANSLATE_NOOP("Fields", "Layer of the file"),
                QT_TRANSLATE_NOOP("Fields", "Its name in the file; the first one where it is empty.")},
@@ -58,6 +85,24 @@ void listSource(Fields& fields, SourceSettings& source) {
   fields.text({"coordinateSystem", QT_TRANSLATE_NOOP("Fields", "Coordinate system"),
                QT_TRANSLATE_NOOP("Fields", "Stands in for that of the file where it is not empty.")},
               source.coordinateSystem, TextKind::CoordinateSystem, QString());
+  fields.text({"xField", QT_TRANSLATE_NOOP("Fields", "Column of x"),
+               QT_TRANSLATE_NOOP("Fields",
+                                 "Of a table: the column that holds eastings or longitudes. Where none is named, the "
+                                 "names and values of the columns tell.")},
+              source.xField, TextKind::Attribute, QString());
+  fields.text({"yField", QT_TRANSLATE_NOOP("Fields", "Column of y"),
+               QT_TRANSLATE_NOOP("Fields", "Of a table: the column that holds northings or latitudes.")},
+              source.yField, TextKind::Attribute, QString());
+  fields.text({"geometryField", QT_TRANSLATE_NOOP("Fields", "Column of geometries"),
+               QT_TRANSLATE_NOOP("Fields", "Of a table: the column that holds geometries as well-known text.")},
+              source.geometryField, TextKind::Attribute, QString());
+  fields.list<std::vector<TableJoin>>(
+      {"joins", QT_TRANSLATE_NOOP("Fields", "Joined tables"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "Tables whose fields become those of the features: labels, classes and the filter may use "
+                         "them."),
+       "join"},
+      source.joins, maxJoins, [](Fields& own, TableJoin& join, int) { listJoin(own, join); });
 }
 
 void open(VectorLayer& layer, SourceSettings const& source, Map const& map, DocumentContext& context) {
@@ -86,6 +131,7 @@ LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const&
                          layer.labelSettings(),
                          labels};
   settings.source.file = storedPath(settings.source.file, context);
+  for (TableJoin& join : settings.source.joins) join.file = storedPath(join.file, context);
   return settings;
 }
 
@@ -160,6 +206,7 @@ void LayerSettings::give(VectorLayer& layer) const {
 SourceSettings LayerSettings::sourceToOpen(DocumentContext const& context) const {
   SourceSettings opened = source;
   opened.file = pathToOpen(source.file, context);
+  for (TableJoin& join : opened.joins) join.file = pathToOpen(join.file, context);
   return opened;
 }
 

@@ -1,17 +1,14 @@
 #include "DataSource.h"
 
-#include "host/SysCarto/projection/GdalErrors.h"
-#include "host/SysCarto/projection/Offline.h"
+#include "JoinedLayer.h"
+#include "LocalDataset.h"
+#include "TableLayer.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QRegularExpression>
-#include <QStringList>
 
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>
-
-#include <mutex>
 
 namespace SysCarto {
 
@@ -21,39 +18,11 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(DataSource)
 };
 
-// Formats whose files hold their data themselves. VRT, CSVT, WFS, PostgreSQL and the like lead elsewhere.
-char const* const allowedDrivers[] = {"GPKG", "GeoJSON", "ESRI Shapefile", "FlatGeobuf", nullptr};
-
-void registerDrivers() {
-  static std::once_flag once;
-  std::call_once(once, [] {
-    if (!GetGDALDriverManager()->GetDriverByName(allowedDrivers[0])) GDALAllRegister();
-  });
-}
-
-bool isGeoPackage(QString const& path) { return path.endsWith(QLatin1String(".gpkg"), Qt::CaseInsensitive); }
-
-// Immutable, SQLite takes no lock and makes no journal, so a read-only folder will do. What another program has
-// written to a write-ahead log would go unseen, so where there is one the database is opened as usual.
-bool opensImmutable(QString const& path) {
-  return isGeoPackage(path) && QFileInfo(path + QLatin1String("-wal")).size() == 0;
-}
-
-GDALDataset* openDataset(QString const& path) {
-  char const* const immutable[] = {"IMMUTABLE=YES", nullptr};
-  return GDALDataset::Open(path.toUtf8().constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY, allowedDrivers,
-                           opensImmutable(path) ? immutable : nullptr, nullptr);
-}
-
 QString layerNames(GDALDataset& dataset) {
   QStringList names;
   for (int i = 0; i < dataset.GetLayerCount() && i < 20; ++i)
     names << QString::fromUtf8(dataset.GetLayer(i)->GetName());
   return names.join(QLatin1String(", "));
-}
-
-QString cannotOpen(QString const& path, QString const& reason) {
-  return Texts::tr("The file “%1” can't be opened: %2.").arg(path, reason);
 }
 
 }  // namespace
@@ -72,43 +41,59 @@ QString DataSource::refusal(QString const& path) {
   return QString();
 }
 
-std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const& layerName, QString& error) {
-  error = refusal(path);
-  if (!error.isEmpty()) return nullptr;
-  QFileInfo const file(path);
-  if (!file.exists())
-    error = cannotOpen(path, Texts::tr("it does not exist; put it there, or name another file in the layer's source"));
-  else if (!file.isFile())
-    error = cannotOpen(path, Texts::tr("it is not a file; name one in the layer's source"));
-  else if (!file.isReadable())
-    error = cannotOpen(path, Texts::tr("reading it is not permitted; make it readable"));
-  if (!error.isEmpty()) return nullptr;
+struct DataSource::Opened {
+  DatasetPointer dataset;
+  std::vector<std::unique_ptr<DerivedLayer>> derived;  // each of the one before
+};
 
-  stayOffline();
-  registerDrivers();
-  GdalErrors const errors;
-  GDALDataset* const dataset = openDataset(file.absoluteFilePath());
-  if (!dataset) {
-    QString const known = Texts::tr("it is not a GeoPackage, GeoJSON, Shapefile or FlatGeobuf file");
-    error = cannotOpen(path,
-                       errors.hasFailure() ? known + QLatin1String(" (") + errors.reason() + QLatin1Char(')') : known);
-    return nullptr;
-  }
-  OGRLayer* const layer =
-      layerName.isEmpty() ? dataset->GetLayer(0) : dataset->GetLayerByName(layerName.toUtf8().constData());
-  if (!layer) {
-    error = Texts::tr("The file “%1” has no layer “%2”; it has: %3.").arg(path, layerName, layerNames(*dataset));
-    GDALClose(dataset);
-    return nullptr;
-  }
-  return std::unique_ptr<DataSource>(new DataSource(dataset, layer));
+std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const& layerName, QString& error) {
+  return open(SourceSettings{path, layerName, {}, {}}, error);
 }
 
-DataSource::DataSource(GDALDataset* dataset, OGRLayer* layer) : dataset_(dataset), layer_(layer) {}
+std::unique_ptr<DataSource> DataSource::open(SourceSettings const& source, QString& error) {
+  error = refusal(source.file);
+  if (!error.isEmpty()) return nullptr;
+  auto opened = std::make_unique<Opened>();
+  opened->dataset = openLocalDataset(source.file, error);
+  if (!opened->dataset) return nullptr;
+  std::unique_ptr<DataSource> data(new DataSource(std::move(opened)));
+  error = data->take(source);
+  if (!error.isEmpty()) return nullptr;
+  return data;
+}
 
-DataSource::~DataSource() {
-  GdalErrors const quiet;
-  GDALClose(dataset_);
+DataSource::DataSource(std::unique_ptr<Opened> opened) : opened_(std::move(opened)), layer_(nullptr) {}
+
+DataSource::~DataSource() = default;
+
+// The layer that the source names, and what is made of it.
+QString DataSource::take(SourceSettings const& source) {
+  GDALDataset& dataset = *opened_->dataset;
+  layer_ = source.layer.isEmpty() ? dataset.GetLayer(0) : dataset.GetLayerByName(source.layer.toUtf8().constData());
+  if (!layer_ && dataset.GetLayerCount() == 0) return Texts::tr("The file “%1” holds no layer.").arg(source.file);
+  if (!layer_)
+    return Texts::tr("The file “%1” has no layer “%2”; it has: %3.")
+        .arg(source.file, source.layer, layerNames(dataset));
+  QString error;
+  if (isTextTable(dataset)) put(TableLayer::create(*layer_, source, error));
+  for (TableJoin const& join : source.joins) {
+    QString problem;
+    put(JoinedLayer::create(*layer_, join, problem));
+    if (!problem.isEmpty()) joinProblem_ = problem;
+  }
+  return error;
+}
+
+void DataSource::put(std::unique_ptr<DerivedLayer> layer) {
+  if (!layer) return;
+  opened_->derived.push_back(std::move(layer));
+  layer_ = opened_->derived.back().get();
+}
+
+QStringList DataSource::notes() const {
+  QStringList notes;
+  for (auto const& layer : opened_->derived) notes += layer->notes();
+  return notes;
 }
 
 }  // namespace SysCarto

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/layers/Condition.h"
 #include "host/SysCarto/layers/DataSource.h"
+#include "host/SysCarto/layers/DerivedLayer.h"
 #include "host/SysCarto/layers/FeatureIntake.h"
 #include "host/SysCarto/layers/Renderer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
@@ -36,7 +37,7 @@ public:
       : index_(name.isEmpty() ? -1 : layer.GetLayerDefn()->GetFieldIndex(name.toUtf8().constData())) {
     if (!name.isEmpty() && index_ < 0)
       warnings << Texts::tr("There is no field “%1” in %2; it has: %3.")
-                      .arg(name, describeSource(source), fieldNames(*layer.GetLayerDefn()));
+                      .arg(name, describeSource(source), fieldNames(layer));
   }
 
   QString text(OGRFeature const& feature) const {
@@ -47,16 +48,18 @@ public:
   }
 
 private:
-  static QString fieldNames(OGRFeatureDefn& definition) {
-    QStringList names;
-    for (int i = 0; i < definition.GetFieldCount() && i < 30; ++i)
-      names << QString::fromUtf8(definition.GetFieldDefn(i)->GetNameRef());
-    return names.join(QLatin1String(", "));
-  }
   bool isGiven(OGRFeature const& feature) const { return index_ >= 0 && feature.IsFieldSetAndNotNull(index_); }
 
   int const index_;
 };
+
+QString placeless(OGRLayer& layer, SourceSettings const& source) {
+  return Texts::tr(
+             "There is nothing to draw in %1: its rows have no geometry, and no columns of coordinates are known. Name "
+             "such columns in “xField” and “yField”, or one of well-known text in “geometryField”, or join it as a "
+             "table to a layer; it has: %2.")
+      .arg(describeSource(source), fieldNames(layer));
+}
 
 std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings const& source,
                                                  QString const& mapSystem, ReadFeatures& result) {
@@ -110,8 +113,12 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
                           LabelFields const& labels) {
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
-  auto const data = DataSource::open(source.file, source.layer, result.error);
+  auto const data = DataSource::open(source, result.error);
   if (!data) return result;
+  if (data->layer().GetGeomType() == wkbNone) {
+    result.error = placeless(data->layer(), source);
+    return result;
+  }
   auto const projector = makeProjector(data->layer(), source, mapSystem, result);
   if (!projector) return result;
   Condition condition;
@@ -123,6 +130,8 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
   }
   GdalErrors const errors;
   readAll(data->layer(), *projector, condition, renderer, source, labels, result);
+  result.error = data->joinProblem();
+  result.warnings += data->notes();
   if (errors.hasFailure())
     result.error = Texts::tr("Not all of %1 could be read: %2.").arg(describeSource(source), errors.reason());
   return result;
@@ -131,7 +140,7 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
 QStringList attributesOf(SourceSettings const& source) {
   QString error;
   QStringList names;
-  auto const data = DataSource::open(source.file, source.layer, error);
+  auto const data = DataSource::open(source, error);
   OGRFeatureDefn* const definition = data ? data->layer().GetLayerDefn() : nullptr;
   for (int i = 0; definition && i < definition->GetFieldCount(); ++i)
     names << QString::fromUtf8(definition->GetFieldDefn(i)->GetNameRef());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SourceSettings.h"
+
 #include <SysCarto/Export.h>
 
 #include <QString>
@@ -11,19 +13,6 @@ namespace SysCarto {
 
 class FeatureStore;
 class Renderer;
-
-/// Where the features of a layer come from.
-struct SourceSettings {
-  QString file;              ///< absolute
-  QString layer;             ///< empty for the first of the file
-  QString filter;            ///< a condition on the fields, as in OGR SQL ("population > 1000000"); empty for all
-  QString coordinateSystem;  ///< stands in for the file's own; empty for that
-
-  bool operator==(SourceSettings const& other) const {
-    return file == other.file && layer == other.layer && filter == other.filter &&
-           coordinateSystem == other.coordinateSystem;
-  }
-};
 
 /// The fields that labels need; empty names for none.
 struct LabelFields {

@@ -81,7 +81,7 @@ private:
 
 FieldValues readValues(SourceSettings const& source, QString const& field) {
   FieldValues values;
-  auto const data = DataSource::open(source.file, source.layer, values.error);
+  auto const data = DataSource::open(source, values.error);
   if (!data) return values;
   OGRLayer& layer = data->layer();
   int const index = layer.GetLayerDefn()->GetFieldIndex(field.toUtf8().constData());
@@ -113,7 +113,7 @@ FieldValues readValues(SourceSettings const& source, QString const& field) {
 QStringList numericAttributesOf(SourceSettings const& source) {
   QString error;
   QStringList names;
-  auto const data = DataSource::open(source.file, source.layer, error);
+  auto const data = DataSource::open(source, error);
   OGRFeatureDefn* const definition = data ? data->layer().GetLayerDefn() : nullptr;
   for (int i = 0; definition && i < definition->GetFieldCount(); ++i)
     if (isNumeric(*definition->GetFieldDefn(i))) names << QString::fromUtf8(definition->GetFieldDefn(i)->GetNameRef());

@@ -1,0 +1,253 @@
+#include "DataCatalogue.h"
+
+#include "DataSource.h"
+#include "LocalDataset.h"
+#include "TableLayer.h"
+
+#include "host/SysCarto/projection/GdalErrors.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QSet>
+
+#include <gdal_priv.h>
+#include <ogr_spatialref.h>
+#include <ogrsf_frmts.h>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <utility>
+
+namespace SysCarto {
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(DataSource)
+};
+
+constexpr int featuresForKind = 1000;
+constexpr int featuresForValues = 100000;
+constexpr int betweenLooksAtTheClock = 256;
+
+// Formats that have layers whether a file holds anything for them or not.
+bool mayHaveEmptyLayers(GDALDataset& dataset) {
+  QString const format = formatOf(dataset);
+  return format == QLatin1String("GPX") || format == QLatin1String("DXF") || format == QLatin1String("KML");
+}
+
+std::optional<GeometryKind> kindOf(OGRwkbGeometryType type) {
+  switch (wkbFlatten(type)) {
+    case wkbNone: return GeometryKind::None;
+    case wkbPoint:
+    case wkbMultiPoint: return GeometryKind::Points;
+    case wkbLineString:
+    case wkbCircularString:
+    case wkbCompoundCurve:
+    case wkbCurve:
+    case wkbMultiCurve:
+    case wkbMultiLineString: return GeometryKind::Lines;
+    case wkbPolygon:
+    case wkbCurvePolygon:
+    case wkbSurface:
+    case wkbPolyhedralSurface:
+    case wkbTIN:
+    case wkbTriangle:
+    case wkbMultiSurface:
+    case wkbMultiPolygon: return GeometryKind::Areas;
+    default: return std::nullopt;
+  }
+}
+
+FieldDescription::Kind kindOf(OGRFieldType type) {
+  switch (type) {
+    case OFTString: return FieldDescription::Kind::Text;
+    case OFTInteger:
+    case OFTInteger64: return FieldDescription::Kind::Integer;
+    case OFTReal: return FieldDescription::Kind::Real;
+    case OFTDate:
+    case OFTTime:
+    case OFTDateTime: return FieldDescription::Kind::DateTime;
+    default: return FieldDescription::Kind::Other;
+  }
+}
+
+struct ReleaseSystem {
+  void operator()(OGRSpatialReference* system) const { system->Release(); }
+};
+using System = std::unique_ptr<OGRSpatialReference, ReleaseSystem>;
+
+// The system of PROJ's database that one without a code is; formats that store parameters alone have such.
+System knownAs(OGRSpatialReference const& system) {
+  constexpr int minConfidence = 70;  // percent: all is equal but the name
+  if (system.GetAuthorityCode(nullptr)) return nullptr;
+  System match(system.FindBestMatch(minConfidence));
+  char const* const options[] = {"CRITERION=EQUIVALENT_EXCEPT_AXIS_ORDER_GEOGCRS",
+                                 "IGNORE_DATA_AXIS_TO_SRS_AXIS_MAPPING=YES", nullptr};
+  return match && match->IsSame(&system, options) ? std::move(match) : nullptr;
+}
+
+void describeSystem(OGRSpatialReference const* system, LayerDescription& layer) {
+  if (!system) return;
+  System const known = knownAs(*system);
+  if (known) system = known.get();
+  layer.coordinateSystemName = QString::fromUtf8(system->GetName());
+  char const* const authority = system->GetAuthorityName(nullptr);
+  char const* const code = system->GetAuthorityCode(nullptr);
+  if (authority && code) {
+    layer.coordinateSystem = QString::fromUtf8(authority) + QLatin1Char(':') + QString::fromUtf8(code);
+    return;
+  }
+  char* text = nullptr;
+  char const* const options[] = {"FORMAT=WKT2_2019", nullptr};
+  if (system->exportToWkt(&text, options) == OGRERR_NONE) layer.coordinateSystem = QString::fromUtf8(text);
+  CPLFree(text);
+}
+
+// What features that are looked at one by one tell of their layer.
+struct Look {
+  qint64 count = 0;
+  SysGeometry::Box extent;
+  QSet<int> kinds;
+
+  void at(OGRFeature& feature) {
+    ++count;
+    OGRGeometry const* const geometry = feature.GetGeometryRef();
+    if (!geometry || geometry->IsEmpty()) return;
+    OGREnvelope one;
+    geometry->getEnvelope(&one);
+    extent.add(one.MinX, one.MinY);
+    extent.add(one.MaxX, one.MaxY);
+    kinds << static_cast<int>(kindOf(geometry->getGeometryType()).value_or(GeometryKind::Mixed));
+  }
+  GeometryKind kind() const {
+    if (kinds.isEmpty()) return GeometryKind::None;
+    return kinds.size() == 1 ? static_cast<GeometryKind>(*kinds.begin()) : GeometryKind::Mixed;
+  }
+};
+
+// Answers whether it came to the end.
+bool lookAt(OGRLayer& layer, Look& look, std::function<bool(qint64)> const& goesOn) {
+  layer.ResetReading();
+  bool isEnd = false;
+  while (!isEnd && goesOn(look.count)) {
+    OGRFeatureUniquePtr const feature(layer.GetNextFeature());
+    isEnd = !feature;
+    if (feature) look.at(*feature);
+  }
+  layer.ResetReading();
+  return isEnd;
+}
+
+void take(Look const& look, LayerDescription& layer) {
+  layer.count = look.count;
+  layer.extent = look.extent;
+}
+
+LayerDescription describe(OGRLayer& from) {
+  LayerDescription layer;
+  layer.name = QString::fromUtf8(from.GetName());
+  OGRFeatureDefn& definition = *from.GetLayerDefn();
+  for (int i = 0; i < definition.GetFieldCount(); ++i) {
+    OGRFieldDefn* const field = definition.GetFieldDefn(i);
+    layer.fields.push_back({QString::fromUtf8(field->GetNameRef()), kindOf(field->GetType())});
+  }
+  layer.count = from.GetFeatureCount(FALSE);
+  auto const kind = kindOf(from.GetGeomType());
+  layer.kind = kind.value_or(GeometryKind::Mixed);
+  OGREnvelope extent;
+  if (layer.kind != GeometryKind::None) describeSystem(from.GetSpatialRef(), layer);
+  bool const hasExtent = layer.kind != GeometryKind::None && layer.count != 0 &&
+                         from.GetExtent(&extent, FALSE) == OGRERR_NONE && extent.IsInit();
+  if (hasExtent) layer.extent = {extent.MinX, extent.MinY, extent.MaxX, extent.MaxY};
+  bool const isKnown = layer.count >= 0 && (hasExtent || layer.kind == GeometryKind::None);
+  if (kind && isKnown) return layer;
+  Look look;
+  bool const isWhole = lookAt(from, look, [](qint64 count) { return count < featuresForKind; });
+  if (!kind) layer.kind = look.kind();
+  if (isWhole) take(look, layer);
+  return layer;
+}
+
+}  // namespace
+
+DataFile describeFile(QString const& path) {
+  DataFile file{path, {}, {}, DataSource::refusal(path)};
+  if (!file.error.isEmpty()) return file;
+  DatasetPointer const dataset = openLocalDataset(path, file.error);
+  if (!dataset) return file;
+  GdalErrors const errors;
+  file.format = formatOf(*dataset);
+  for (int i = 0; i < dataset->GetLayerCount(); ++i) {
+    OGRLayer& layer = *dataset->GetLayer(i);
+    if (!isTextTable(*dataset)) {
+      LayerDescription const described = describe(layer);
+      if (described.count != 0 || !mayHaveEmptyLayers(*dataset)) file.layers.push_back(described);
+      continue;
+    }
+    auto const table = TableLayer::create(layer, {path, {}, {}, {}}, file.error);
+    file.layers.push_back(describe(*table));
+    file.layers.back().xField = table->columns().x;
+    file.layers.back().yField = table->columns().y;
+    file.layers.back().geometryField = table->columns().geometry;
+  }
+  if (file.layers.empty()) file.error = Texts::tr("The file “%1” holds no features.").arg(path);
+  return file;
+}
+
+LayerDescription describeLayer(SourceSettings const& source, std::chrono::milliseconds limit, QString& error) {
+  auto const data = DataSource::open(source, error);
+  if (!data) return {};
+  GdalErrors const errors;
+  LayerDescription layer = describe(data->layer());
+  Look look;
+  QElapsedTimer clock;
+  clock.start();
+  bool const isWhole = lookAt(data->layer(), look, [&](qint64 count) {
+    return count % betweenLooksAtTheClock != 0 || clock.elapsed() < limit.count();
+  });
+  if (isWhole) take(look, layer);
+  if (!kindOf(data->layer().GetGeomType())) layer.kind = look.kind();
+  return layer;
+}
+
+QStringList sampleValues(SourceSettings const& source, QString const& field, int limit) {
+  QString error;
+  auto const data = DataSource::open(source, error);
+  int const index = data ? data->layer().GetLayerDefn()->GetFieldIndex(field.toUtf8().constData()) : -1;
+  if (index < 0) return {};
+  GdalErrors const errors;
+  QStringList values;
+  QSet<QString> known;
+  data->layer().ResetReading();
+  for (int i = 0; i < featuresForValues && values.size() < limit; ++i) {
+    OGRFeatureUniquePtr const feature(data->layer().GetNextFeature());
+    if (!feature) break;
+    if (!feature->IsFieldSetAndNotNull(index)) continue;
+    QString const value = QString::fromUtf8(feature->GetFieldAsString(index));
+    if (known.contains(value)) continue;
+    known << value;
+    values << value;
+  }
+  return values;
+}
+
+QVector<QString> dataFilesIn(QString const& folder) {
+  QDir const files(folder);
+  QStringList const names = files.entryList(QDir::Files, QDir::Name);
+  auto const isCompanion = [&](QString const& name) {
+    QString const whole = name.section(QLatin1Char('.'), 0, -2);
+    return name.endsWith(QLatin1String(".dbf"), Qt::CaseInsensitive) &&
+           (names.contains(whole + QLatin1String(".shp"), Qt::CaseInsensitive) ||
+            names.contains(whole + QLatin1String(".tab"), Qt::CaseInsensitive));
+  };
+  QVector<QString> found;
+  for (QString const& name : names)
+    if (isDataFileName(name) && !isCompanion(name)) found << files.absoluteFilePath(name);
+  return found;
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "SourceSettings.h"
+
+#include "host/SysGeometry/Box.h"
+
+#include <SysCarto/Export.h>
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+#include <chrono>
+#include <vector>
+
+namespace SysCarto {
+
+/// What the geometries of a layer are.
+enum class GeometryKind { None, Points, Lines, Areas, Mixed };
+
+struct FieldDescription {
+  enum class Kind { Text, Integer, Real, DateTime, Other };
+
+  QString name;
+  Kind kind;
+};
+
+struct LayerDescription {
+  QString name;
+  GeometryKind kind = GeometryKind::None;
+  qint64 count = -1;         ///< of features; −1 where it would cost a reading of all
+  QString coordinateSystem;  ///< a code where one is known, else WKT; empty where it is not known
+  QString coordinateSystemName;
+  SysGeometry::Box extent;  ///< in that system; of nothing where it is empty or would cost a reading of all
+  std::vector<FieldDescription> fields;
+  QString xField, yField, geometryField;  ///< as in `SourceSettings`: the columns that place the rows of a table
+};
+
+/// What a file holds. Layers without features of formats that always have the same layers are left out.
+struct DataFile {
+  QString path;
+  QString format;  ///< for people
+  std::vector<LayerDescription> layers;
+  QString error;  ///< a sentence that names the file, where it can't be read
+};
+
+/// Describes a local file (an absolute path) without reading all of it, as far as its format lets one.
+SYSCARTO_EXPORT DataFile describeFile(QString const& path);
+
+/// Describes one layer of a file by reading its features, until all are read or the time is over: its count and extent,
+/// where the file does not say, and the kind of its geometries. With the columns of places that the source names.
+SYSCARTO_EXPORT LayerDescription describeLayer(SourceSettings const& source, std::chrono::milliseconds limit,
+                                               QString& error);
+
+/// The first different values of a field, as texts, at most `limit`; of a very long file, of its beginning.
+SYSCARTO_EXPORT QStringList sampleValues(SourceSettings const& source, QString const& field, int limit);
+
+/// The files of a folder whose names are those of data, by name, without the companions of others; absolute.
+SYSCARTO_EXPORT QVector<QString> dataFilesIn(QString const& folder);
+
+}  // namespace SysCarto

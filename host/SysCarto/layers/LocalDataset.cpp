@@ -1,0 +1,188 @@
+#include "LocalDataset.h"
+
+#include "host/SysCarto/projection/GdalErrors.h"
+#include "host/SysCarto/projection/Offline.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cpl_conv.h>
+#include <cpl_string.h>
+#include <cpl_vsi.h>
+#include <gdal_priv.h>
+
+#include <algorithm>
+#include <mutex>
+#include <vector>
+
+namespace SysCarto {
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(DataSource)
+};
+
+constexpr int headLength = 64 * 1024;
+
+// What leads elsewhere (VRT, CSVT, WFS, PostgreSQL and the like) is not among them. Of two drivers for a format the
+// first is asked first.
+// clang-format off
+QVector<DataFormat> const formats = {
+    {"GPKG",           "GeoPackage",                     "gpkg"},
+    {"GeoJSON",        "GeoJSON",                        "geojson json"},
+    {"ESRI Shapefile", "Shapefile",                      "shp dbf shz zip"},
+    {"FlatGeobuf",     "FlatGeobuf",                     "fgb"},
+    {"GeoJSONSeq",     "GeoJSON Sequence",               "geojsonl geojsons ndjson"},
+    {"GPX",            "GPX",                            "gpx"},
+    {"LIBKML",         "KML",                            "kml kmz"},
+    {"KML",            "KML",                            "kml"},
+    {"MapInfo File",   "MapInfo",                        "tab mif"},
+    {"DXF",            "DXF",                            "dxf"},
+    {"CSV",            "CSV",                            "csv tsv"},
+    {"Parquet",        "Parquet",                        "parquet"},
+    {"Arrow",          "Arrow",                          "arrow feather"},
+};
+// clang-format on
+
+char const* const tableOptions[] = {"AUTODETECT_TYPE=YES", "KEEP_GEOM_COLUMNS=YES", nullptr};
+char const* const immutableOptions[] = {"IMMUTABLE=YES", nullptr};
+
+bool hasSuffix(QString const& path, char const* suffix) {
+  return path.endsWith(QLatin1Char('.') + QLatin1String(suffix), Qt::CaseInsensitive);
+}
+
+void registerDrivers() {
+  static std::once_flag once;
+  std::call_once(once, [] {
+    if (!GetGDALDriverManager()->GetDriverByName(formats.first().driver)) GDALAllRegister();
+    CPLSetConfigOption("LIBKML_EXTERNAL_STYLE", "NO");  // whatever the environment says: styles at an address
+    CPLSetConfigOption("LIBKML_RESOLVE_STYLE", "NO");
+  });
+}
+
+std::vector<char const*> driverNames() {
+  std::vector<char const*> names;
+  for (DataFormat const& format : formats) names.push_back(format.driver);
+  names.push_back(nullptr);
+  return names;
+}
+
+QString formatNames() {
+  QStringList names;
+  for (DataFormat const& format : formats)
+    if (GetGDALDriverManager()->GetDriverByName(format.driver)) names << QString::fromUtf8(format.name);
+  names.removeDuplicates();
+  return names.join(QLatin1String(", "));
+}
+
+QString cannotOpen(QString const& path, QString const& reason) {
+  return Texts::tr("The file “%1” can't be opened: %2.").arg(path, reason);
+}
+
+// Immutable, SQLite takes no lock and makes no journal, so a read-only folder will do. What another program has
+// written to a write-ahead log would go unseen, so where there is one the database is opened as usual.
+char const* const* optionsFor(QString const& path) {
+  if (hasSuffix(path, "gpkg") && QFileInfo(path + QLatin1String("-wal")).size() == 0) return immutableOptions;
+  return hasSuffix(path, "csv") || hasSuffix(path, "tsv") ? tableOptions : nullptr;
+}
+
+QByteArray headOf(QString const& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.read(headLength) : QByteArray();
+}
+
+// What the head of a file betrays before any driver looks at it: a file that is made of others, or texts that the
+// driver would take for bytes.
+QString refusalOfHead(QString const& path) {
+  if (!hasSuffix(path, "tab") && !hasSuffix(path, "csv") && !hasSuffix(path, "tsv")) return QString();
+  QByteArray const head = headOf(path);
+  if (head.startsWith("\xff\xfe") || head.startsWith("\xfe\xff"))
+    return Texts::tr("its text is encoded as UTF-16; save it as UTF-8");
+  QByteArray const words = head.toLower().simplified();
+  if (hasSuffix(path, "tab") && (words.contains("create view") || words.contains("\"\\isseamless\"")))
+    return Texts::tr("it only refers to other tables; name one of those");
+  return QString();
+}
+
+// The folder within an archive that holds a Shapefile; empty where none does.
+QByteArray folderWithShapes(QString const& archive) {
+  if (archive.contains(QLatin1Char('{')) || archive.contains(QLatin1Char('}'))) return QByteArray();
+  QByteArray const root = "/vsizip/{" + archive.toUtf8() + "}";
+  char** const entries = VSIReadDirRecursive(root.constData());
+  QStringList folders;
+  for (int i = 0; i < CSLCount(entries); ++i) {
+    QString const entry = QString::fromUtf8(entries[i]);
+    bool const leavesArchive = entry.startsWith(QLatin1Char('/')) || entry.contains(QLatin1String(".."));
+    if (hasSuffix(entry, "shp") && !leavesArchive) folders << entry.section(QLatin1Char('/'), 0, -2);
+  }
+  CSLDestroy(entries);
+  if (folders.isEmpty()) return QByteArray();
+  folders.sort();
+  return folders.first().isEmpty() ? root : root + '/' + folders.first().toUtf8();
+}
+
+QString missing(QString const& path) {
+  QFileInfo const file(path);
+  if (!file.exists()) return Texts::tr("it does not exist; put it there, or name another file in the layer's source");
+  if (!file.isFile()) return Texts::tr("it is not a file; name one in the layer's source");
+  if (!file.isReadable()) return Texts::tr("reading it is not permitted; make it readable");
+  return QString();
+}
+
+}  // namespace
+
+QVector<DataFormat> const& dataFormats() { return formats; }
+
+bool isDataFileName(QString const& path) {
+  return std::any_of(formats.begin(), formats.end(), [&](DataFormat const& format) {
+    QStringList const suffixes = QString::fromLatin1(format.suffixes).split(QLatin1Char(' '));
+    return suffixes.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+  });
+}
+
+void CloseDataset::operator()(GDALDataset* dataset) const {
+  GdalErrors const quiet;
+  GDALClose(dataset);
+}
+
+DatasetPointer openLocalDataset(QString const& path, QString& error) {
+  stayOffline();
+  registerDrivers();
+  QString reason = missing(path);
+  if (reason.isEmpty()) reason = refusalOfHead(path);
+  if (!reason.isEmpty()) {
+    error = cannotOpen(path, reason);
+    return nullptr;
+  }
+  GdalErrors const errors;
+  QString const absolute = QFileInfo(path).absoluteFilePath();
+  bool const isArchive = hasSuffix(path, "zip");
+  QByteArray const name = isArchive ? folderWithShapes(absolute) : absolute.toUtf8();
+  char const* const shapes[] = {"ESRI Shapefile", nullptr};
+  auto const drivers = driverNames();
+  DatasetPointer dataset;
+  if (!name.isEmpty())
+    dataset.reset(GDALDataset::Open(name.constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
+                                    isArchive ? shapes : drivers.data(), optionsFor(path), nullptr));
+  if (dataset) return dataset;
+  QString known = isArchive ? Texts::tr("there is no Shapefile in this archive")
+                            : Texts::tr("its format is none of those that are known (%1)").arg(formatNames());
+  if (QFileInfo(path).size() == 0) known = Texts::tr("it is empty");
+  if (errors.hasFailure()) known += QLatin1String(" (") + errors.reason() + QLatin1Char(')');
+  error = cannotOpen(path, known);
+  return nullptr;
+}
+
+QString formatOf(GDALDataset& dataset) {
+  QString const driver = QString::fromUtf8(dataset.GetDriverName());
+  for (DataFormat const& format : formats)
+    if (driver == QLatin1String(format.driver)) return QString::fromUtf8(format.name);
+  return driver;
+}
+
+bool isTextTable(GDALDataset& dataset) { return EQUAL(dataset.GetDriverName(), "CSV"); }
+
+}  // namespace SysCarto

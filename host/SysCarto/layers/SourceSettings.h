@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+
+#include <tuple>
+#include <vector>
+
+namespace SysCarto {
+
+/// A table whose fields become those of the features that have a row in it.
+struct TableJoin {
+  QString file;      ///< absolute
+  QString layer;     ///< of the file; empty for the first
+  QString key;       ///< the field of the features
+  QString tableKey;  ///< the field of the table that holds the same values
+  QString prefix;    ///< stands before the names of the table's fields
+
+  bool operator==(TableJoin const& other) const {
+    return std::tie(file, layer, key, tableKey, prefix) ==
+           std::tie(other.file, other.layer, other.key, other.tableKey, other.prefix);
+  }
+};
+
+/// Where the features of a layer come from.
+struct SourceSettings {
+  QString file;              ///< absolute
+  QString layer;             ///< empty for the first of the file
+  QString filter;            ///< a condition on the fields, as in OGR SQL ("population > 1000000"); empty for all
+  QString coordinateSystem;  ///< stands in for the file's own; empty for that
+
+  // Of a table: the columns that hold coordinates, or geometries as well-known text. Where none is named, the names and
+  // values of the columns tell.
+  QString xField = {};
+  QString yField = {};
+  QString geometryField = {};
+
+  std::vector<TableJoin> joins = {};
+
+  bool operator==(SourceSettings const& other) const {
+    return std::tie(file, layer, filter, coordinateSystem, xField, yField, geometryField, joins) ==
+           std::tie(other.file, other.layer, other.filter, other.coordinateSystem, other.xField, other.yField,
+                    other.geometryField, other.joins);
+  }
+};
+
+}  // namespace SysCarto

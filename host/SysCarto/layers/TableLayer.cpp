@@ -1,0 +1,229 @@
+#include "TableLayer.h"
+
+#include "host/SysCarto/projection/CoordinateSystem.h"
+#include "host/SysCarto/projection/GdalErrors.h"
+
+#include <QCoreApplication>
+#include <QTextCodec>
+
+#include <ogr_geometry.h>
+#include <ogr_spatialref.h>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <optional>
+
+namespace SysCarto {
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(DataSource)
+};
+
+constexpr int rowsToLookAt = 500;
+constexpr double enough = 0.9;  // of the values of a column, for what they are taken for
+
+// How people call the columns of coordinates, x before y, and of geometries; without case, blanks and marks.
+char const* const coordinateNames[][2] = {
+    {"x", "y"},
+    {"lon", "lat"},
+    {"long", "lat"},
+    {"lng", "lat"},
+    {"longitude", "latitude"},
+    {"easting", "northing"},
+    {"eastings", "northings"},
+    {"east", "north"},
+    {"rechtswert", "hochwert"},
+    {"ostwert", "nordwert"},
+    {"ost", "nord"},
+    {"längengrad", "breitengrad"},
+    {"laengengrad", "breitengrad"},
+    {"xcoord", "ycoord"},
+    {"coordx", "coordy"},
+    {"xkoordinate", "ykoordinate"},
+    {"pointx", "pointy"},
+    {"经度", "纬度"},
+};
+char const* const geometryNames[] = {"wkt", "geometry", "geom", "thegeom", "shape", "wktgeom", "geometrie"};
+
+QString readable(char const* bytes) {
+  static QTextCodec* const windows = QTextCodec::codecForName("Windows-1252");
+  bool const isUtf8 = CPLIsUTF8(bytes, -1) || !windows;
+  return isUtf8 ? QString::fromUtf8(bytes) : windows->toUnicode(bytes);
+}
+
+QString nameOf(OGRLayer& table, int field) { return readable(table.GetLayerDefn()->GetFieldDefn(field)->GetNameRef()); }
+
+QString plainName(QString const& name) {
+  QString plain;
+  for (QChar const letter : name.toLower())
+    if (letter.isLetterOrNumber()) plain += letter;
+  return plain;
+}
+
+int indexOf(OGRLayer& table, QString const& name) {
+  for (int i = 0; i < table.GetLayerDefn()->GetFieldCount(); ++i)
+    if (nameOf(table, i).compare(name, Qt::CaseInsensitive) == 0) return i;
+  return -1;
+}
+
+int indexOfPlain(OGRLayer& table, char const* name) {
+  for (int i = 0; i < table.GetLayerDefn()->GetFieldCount(); ++i)
+    if (plainName(nameOf(table, i)) == QString::fromUtf8(name)) return i;
+  return -1;
+}
+
+// As people write numbers: 3566123.5, 3566123,5 or 3.566.123,5.
+double numberIn(QString text) {
+  text.remove(QChar::Nbsp).remove(QLatin1Char(' '));
+  if (text.contains(QLatin1Char(','))) text.remove(QLatin1Char('.')).replace(QLatin1Char(','), QLatin1Char('.'));
+  bool ok = false;
+  double const number = text.toDouble(&ok);
+  return ok && std::isfinite(number) ? number : std::numeric_limits<double>::quiet_NaN();
+}
+
+double numberOf(OGRFeature& row, int field) {
+  if (!row.IsFieldSetAndNotNull(field)) return std::numeric_limits<double>::quiet_NaN();
+  bool const isText = row.GetFieldDefnRef(field)->GetType() == OFTString;
+  return isText ? numberIn(QString::fromUtf8(row.GetFieldAsString(field))) : row.GetFieldAsDouble(field);
+}
+
+OGRGeometry* geometryOf(OGRFeature& row, int field) {
+  GdalErrors const quiet;  // what is no geometry is a row without one
+  OGRGeometry* geometry = nullptr;
+  OGRGeometryFactory::createFromWkt(row.GetFieldAsString(field), nullptr, &geometry);
+  return geometry;
+}
+
+void lookAtRows(OGRLayer& table, std::function<void(OGRFeature&)> const& look) {
+  table.ResetReading();
+  for (int i = 0; i < rowsToLookAt; ++i) {
+    OGRFeatureUniquePtr const row(table.GetNextFeature());
+    if (!row) break;
+    look(*row);
+  }
+  table.ResetReading();
+}
+
+// Whether the values that a column has are nearly all of a kind.
+bool holds(OGRLayer& table, int field, std::function<bool(OGRFeature&)> const& isOfKind) {
+  int values = 0, right = 0;
+  lookAtRows(table, [&](OGRFeature& row) {
+    if (!row.IsFieldSetAndNotNull(field) || !*row.GetFieldAsString(field)) return;
+    ++values;
+    if (isOfKind(row)) ++right;
+  });
+  return right > 0 && right >= enough * values;
+}
+
+bool holdsNumbers(OGRLayer& table, int field) {
+  return field >= 0 && holds(table, field, [field](OGRFeature& row) { return !std::isnan(numberOf(row, field)); });
+}
+
+bool holdsGeometries(OGRLayer& table, int field) {
+  return field >= 0 && table.GetLayerDefn()->GetFieldDefn(field)->GetType() == OFTString &&
+         holds(table, field, [field](OGRFeature& row) {
+           std::unique_ptr<OGRGeometry> const geometry(geometryOf(row, field));
+           return geometry != nullptr;
+         });
+}
+
+PlaceColumns guess(OGRLayer& table) {
+  for (char const* const name : geometryNames) {
+    int const field = indexOfPlain(table, name);
+    if (holdsGeometries(table, field)) return {{}, {}, nameOf(table, field)};
+  }
+  for (auto const& names : coordinateNames) {
+    int const x = indexOfPlain(table, names[0]), y = indexOfPlain(table, names[1]);
+    if (holdsNumbers(table, x) && holdsNumbers(table, y)) return {nameOf(table, x), nameOf(table, y), {}};
+  }
+  for (int field = 0; field < table.GetLayerDefn()->GetFieldCount(); ++field)
+    if (holdsGeometries(table, field)) return {{}, {}, nameOf(table, field)};
+  return {};
+}
+
+std::optional<PlaceColumns> named(OGRLayer& table, SourceSettings const& source, QString& error) {
+  if (source.xField.isEmpty() != source.yField.isEmpty()) {
+    error =
+        Texts::tr("Of the columns of coordinates in “%1” only one is named; give both xField and yField, or neither.")
+            .arg(source.file);
+    return std::nullopt;
+  }
+  PlaceColumns columns{source.xField, source.yField, source.geometryField};
+  for (QString const& name : {columns.x, columns.y, columns.geometry})
+    if (!name.isEmpty() && indexOf(table, name) < 0) {
+      QStringList names;
+      for (int i = 0; i < table.GetLayerDefn()->GetFieldCount() && i < 30; ++i) names << nameOf(table, i);
+      error = Texts::tr("The table “%1” has no column “%2”; it has: %3.")
+                  .arg(source.file, name, names.join(QLatin1String(", ")));
+      return std::nullopt;
+    }
+  return columns;
+}
+
+}  // namespace
+
+std::unique_ptr<TableLayer> TableLayer::create(OGRLayer& table, SourceSettings const& source, QString& error) {
+  auto const columns = named(table, source, error);
+  if (!columns) return nullptr;
+  return std::unique_ptr<TableLayer>(new TableLayer(table, columns->isEmpty() ? guess(table) : *columns));
+}
+
+TableLayer::TableLayer(OGRLayer& table, PlaceColumns columns) : DerivedLayer(table), columns_(std::move(columns)) {
+  if (!columns_.x.isEmpty()) {
+    x_ = indexOf(table, columns_.x);
+    y_ = indexOf(table, columns_.y);
+  } else if (!columns_.geometry.isEmpty()) {
+    geometry_ = indexOf(table, columns_.geometry);
+  }
+  for (int i = 0; i < table.GetLayerDefn()->GetFieldCount(); ++i) {
+    OGRFieldDefn field(table.GetLayerDefn()->GetFieldDefn(i));
+    field.SetName(nameOf(table, i).toUtf8().constData());
+    definition().AddFieldDefn(&field);
+  }
+  if (columns_.isEmpty()) return;
+  definition().SetGeomType(x_ >= 0 ? wkbPoint : wkbUnknown);
+  findSystem();
+}
+
+// Numbers that can be degrees are taken for degrees, where the file has no system of its own.
+void TableLayer::findSystem() {
+  OGRSpatialReference* const own = base().GetSpatialRef();
+  if (own) return definition().GetGeomFieldDefn(0)->SetSpatialRef(own);
+  OGREnvelope extent;
+  lookAtRows(base(), [&](OGRFeature& row) {
+    std::unique_ptr<OGRGeometry> const geometry(placeOf(row));
+    OGREnvelope one;
+    if (!geometry || geometry->IsEmpty()) return;
+    geometry->getEnvelope(&one);
+    extent.Merge(one);
+  });
+  bool const areDegrees =
+      extent.IsInit() && extent.MinX >= -180 && extent.MaxX <= 180 && extent.MinY >= -90 && extent.MaxY <= 90;
+  if (!areDegrees) return;
+  OGRSpatialReference* const degrees = makeCoordinateSystem(QStringLiteral("EPSG:4326")).release();
+  definition().GetGeomFieldDefn(0)->SetSpatialRef(degrees);
+  degrees->Release();
+}
+
+OGRGeometry* TableLayer::placeOf(OGRFeature& from) const {
+  if (geometry_ >= 0) return from.IsFieldSetAndNotNull(geometry_) ? geometryOf(from, geometry_) : nullptr;
+  if (x_ < 0) return nullptr;
+  double const x = numberOf(from, x_), y = numberOf(from, y_);
+  return std::isnan(x) || std::isnan(y) ? nullptr : new OGRPoint(x, y);
+}
+
+void TableLayer::derive(OGRFeature& from, OGRFeature& to) {
+  for (int i = 0; i < from.GetFieldCount(); ++i) {
+    if (!from.IsFieldSetAndNotNull(i)) continue;
+    if (from.GetFieldDefnRef(i)->GetType() == OFTString)
+      to.SetField(i, readable(from.GetFieldAsString(i)).toUtf8().constData());
+    else
+      to.SetField(i, from.GetRawFieldRef(i));
+  }
+  if (!columns_.isEmpty()) to.SetGeometryDirectly(placeOf(from));
+}
+
+}  // namespace SysCarto
