@@ -872,6 +872,22 @@
         <source>Snap what is moved to edges, centres, guides and equal gaps; Alt switches it off</source>
         <translation>Lässt, was bewegt wird, an Kanten, Mitten, Hilfslinien und gleichen Abständen einrasten; Alt schaltet es aus</translation>
     </message>
+    <message>
+        <source>&amp;Layer</source>
+        <translation>E&amp;bene</translation>
+    </message>
+    <message>
+        <source>a data frame</source>
+        <translation>einen Datenrahmen</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Map…</source>
+        <translation>Koordinatensystem der Karte…</translation>
+    </message>
+    <message>
+        <source>Show the map in another coordinate system</source>
+        <translation>Die Karte in einem anderen Koordinatensystem zeigen</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -990,7 +1006,7 @@
     </message>
     <message>
         <source>The file “%1” has no layer “%2”; it has: %3.</source>
-        <translation>Die Datei „%1“ hat keinen Layer „%2“; sie enthält: %3.</translation>
+        <translation>Die Datei „%1“ hat keine Ebene „%2“; sie hat: %3.</translation>
     </message>
     <message>
         <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
@@ -1691,7 +1707,7 @@
     </message>
     <message>
         <source>Not all of %1 could be read: %2.</source>
-        <translation>Nicht alles aus %1 konnte gelesen werden: %2.</translation>
+        <translation>%1 konnte nicht ganz gelesen werden: %2.</translation>
     </message>
     <message>
         <source>There is nothing to draw in %1: its rows have no geometry, and no columns of coordinates are known. Name such columns in “xField” and “yField”, or one of well-known text in “geometryField”, or join it as a table to a layer; it has: %2.</source>
@@ -3544,7 +3560,7 @@
     </message>
     <message>
         <source>Credits</source>
-        <translation>Quellenangabe</translation>
+        <translation>Quellen</translation>
     </message>
     <message>
         <source>Whom the data come from; [credits] in a text of the page names them all.</source>
@@ -4468,7 +4484,7 @@
     </message>
     <message>
         <source>Other</source>
-        <translation>Sonstige</translation>
+        <translation>Andere</translation>
     </message>
     <message>
         <source>Map surround</source>
@@ -4505,6 +4521,21 @@
     <message>
         <source>must hold %1 where the scale stands, as in “1:%1”, or a length of ground, as in “1 cm = {km/cm} km”</source>
         <translation>muss %1 enthalten, wo der Maßstab steht, wie in „1:%1“, oder eine Länge im Gelände, wie in „1 cm = {km/cm} km“</translation>
+    </message>
+</context>
+<context>
+    <name>MapSystem</name>
+    <message>
+        <source>None: as the file says</source>
+        <translation>Keines: wie die Datei sagt</translation>
+    </message>
+    <message>
+        <source>None: plain coordinates in metres</source>
+        <translation>Keines: ebene Koordinaten in Metern</translation>
+    </message>
+    <message>
+        <source>The coordinate system %1.</source>
+        <translation>Das Koordinatensystem %1.</translation>
     </message>
 </context>
 <context>
@@ -5066,6 +5097,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
         <source>Tell what is on the page of a document, or in a file of data</source>
         <translation>Sagen, was auf der Seite eines Dokuments oder in einer Datendatei ist</translation>
     </message>
+    <message>
+        <source>Search for coordinate systems by name, code or area</source>
+        <translation>Koordinatensysteme nach Name, Code oder Gebiet suchen</translation>
+    </message>
 </context>
 <context>
     <name>SurroundFields</name>
@@ -5233,6 +5268,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Pictures</source>
         <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Choose a coordinate system</source>
+        <translation>Ein Koordinatensystem wählen</translation>
     </message>
 </context>
 <context>
@@ -5606,6 +5645,140 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
 </context>
 <context>
+    <name>SysAdapterUI::SystemChooser</name>
+    <message>
+        <source>the present one</source>
+        <translation>das jetzige</translation>
+    </message>
+    <message>
+        <source>in the document</source>
+        <translation>im Dokument</translation>
+    </message>
+    <message>
+        <source>chosen lately</source>
+        <translation>zuletzt gewählt</translation>
+    </message>
+    <message>
+        <source>geographic</source>
+        <translation>geografisch</translation>
+    </message>
+    <message>
+        <source>projected</source>
+        <translation>projiziert</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>Gebiet</translation>
+    </message>
+    <message>
+        <source>Coordinate System</source>
+        <translation>Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Name, code or area, as in “utm 33” or “germany”</source>
+        <translation>Name, Code oder Gebiet, etwa „utm 33“ oder „germany“</translation>
+    </message>
+    <message>
+        <source>Search for a coordinate system</source>
+        <translation>Nach einem Koordinatensystem suchen</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Alle Arten</translation>
+    </message>
+    <message>
+        <source>Projected</source>
+        <translation>Projiziert</translation>
+    </message>
+    <message>
+        <source>Geographic</source>
+        <translation>Geografisch</translation>
+    </message>
+    <message>
+        <source>Deprecated, too</source>
+        <translation>Auch veraltete</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>Koordinatensysteme</translation>
+    </message>
+    <message>
+        <source>Definition</source>
+        <translation>Definition</translation>
+    </message>
+    <message>
+        <source>A PROJ text, WKT or a code:</source>
+        <translation>Ein PROJ-Text, WKT oder ein Code:</translation>
+    </message>
+    <message>
+        <source>Definition as WKT</source>
+        <translation>Definition als WKT</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
+    <message>
+        <source>This %1.</source>
+        <translation>Das hier %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::SystemModel</name>
+    <message>
+        <source>as it is written</source>
+        <translation>wie es dasteht</translation>
+    </message>
+    <message>
+        <source>holds the map</source>
+        <translation>enthält die Karte</translation>
+    </message>
+    <message>
+        <source>%1, holds the map</source>
+        <translation>%1, enthält die Karte</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+</context>
+<context>
     <name>SysAdapterUI::TOCControl</name>
     <message>
         <source>No maps on this page</source>
@@ -5613,11 +5786,41 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>Other</source>
-        <translation>Sonstige</translation>
+        <translation>Andere</translation>
     </message>
     <message>
         <source>Click to work on this map</source>
         <translation>Klicken, um an dieser Karte zu arbeiten</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::WorldMap</name>
+    <message>
+        <source>The world, with the area of use and the map&apos;s extent</source>
+        <translation>Die Welt mit dem Verwendungsgebiet und der Ausdehnung der Karte</translation>
+    </message>
+    <message>
+        <source>Blue: where the coordinate system is meant to be used. Orange: what the map shows.</source>
+        <translation>Blau: wofür das Koordinatensystem gedacht ist. Orange: was die Karte zeigt.</translation>
+    </message>
+</context>
+<context>
+    <name>SystemsSubcommand</name>
+    <message>
+        <source>Words of the name, the code or the area, in any order.</source>
+        <translation>Wörter des Namens, des Codes oder des Gebiets in beliebiger Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>Print JSON, for programs.</source>
+        <translation>JSON für Programme ausgeben.</translation>
+    </message>
+    <message>
+        <source>Deprecated systems, too.</source>
+        <translation>Auch veraltete Systeme.</translation>
+    </message>
+    <message>
+        <source>systems: no coordinate system has all of &quot;%1&quot;; leave a word out.</source>
+        <translation>systems: kein Koordinatensystem hat alles von „%1“; lassen Sie ein Wort weg.</translation>
     </message>
 </context>
 <context>

@@ -872,6 +872,22 @@
         <source>Snap what is moved to edges, centres, guides and equal gaps; Alt switches it off</source>
         <translation>使移动的对象吸附到边缘、中心、参考线和等间距处；按住 Alt 时关闭</translation>
     </message>
+    <message>
+        <source>&amp;Layer</source>
+        <translation>图层(&amp;L)</translation>
+    </message>
+    <message>
+        <source>a data frame</source>
+        <translation>一个数据框</translation>
+    </message>
+    <message>
+        <source>Coordinate System of the Map…</source>
+        <translation>地图的坐标系…</translation>
+    </message>
+    <message>
+        <source>Show the map in another coordinate system</source>
+        <translation>以另一坐标系显示地图</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -990,7 +1006,7 @@
     </message>
     <message>
         <source>The file “%1” has no layer “%2”; it has: %3.</source>
-        <translation>文件“%1”中没有图层“%2”；其中有：%3。</translation>
+        <translation>文件“%1”没有图层“%2”；它有：%3。</translation>
     </message>
     <message>
         <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
@@ -1691,7 +1707,7 @@
     </message>
     <message>
         <source>Not all of %1 could be read: %2.</source>
-        <translation>%1未能全部读取：%2。</translation>
+        <translation>未能读取 %1 的全部内容：%2。</translation>
     </message>
     <message>
         <source>There is nothing to draw in %1: its rows have no geometry, and no columns of coordinates are known. Name such columns in “xField” and “yField”, or one of well-known text in “geometryField”, or join it as a table to a layer; it has: %2.</source>
@@ -4508,6 +4524,21 @@
     </message>
 </context>
 <context>
+    <name>MapSystem</name>
+    <message>
+        <source>None: as the file says</source>
+        <translation>无：按文件所述</translation>
+    </message>
+    <message>
+        <source>None: plain coordinates in metres</source>
+        <translation>无：以米为单位的平面坐标</translation>
+    </message>
+    <message>
+        <source>The coordinate system %1.</source>
+        <translation>坐标系%1。</translation>
+    </message>
+</context>
+<context>
     <name>MapView</name>
     <message>
         <source>The page has no data frame, so there is no map to show.</source>
@@ -5066,6 +5097,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <source>Tell what is on the page of a document, or in a file of data</source>
         <translation>说明文档页面上或数据文件中有什么</translation>
     </message>
+    <message>
+        <source>Search for coordinate systems by name, code or area</source>
+        <translation>按名称、代码或区域搜索坐标系</translation>
+    </message>
 </context>
 <context>
     <name>SurroundFields</name>
@@ -5233,6 +5268,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Pictures</source>
         <translation>图片</translation>
+    </message>
+    <message>
+        <source>Choose a coordinate system</source>
+        <translation>选择坐标系</translation>
     </message>
 </context>
 <context>
@@ -5606,6 +5645,140 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
 </context>
 <context>
+    <name>SysAdapterUI::SystemChooser</name>
+    <message>
+        <source>the present one</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>in the document</source>
+        <translation>文档中</translation>
+    </message>
+    <message>
+        <source>chosen lately</source>
+        <translation>最近选择</translation>
+    </message>
+    <message>
+        <source>geographic</source>
+        <translation>地理</translation>
+    </message>
+    <message>
+        <source>projected</source>
+        <translation>投影</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>方法</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>基准</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>区域</translation>
+    </message>
+    <message>
+        <source>Coordinate System</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>编写</translation>
+    </message>
+    <message>
+        <source>Name, code or area, as in “utm 33” or “germany”</source>
+        <translation>名称、代码或区域，如“utm 33”或“germany”</translation>
+    </message>
+    <message>
+        <source>Search for a coordinate system</source>
+        <translation>搜索坐标系</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>所有类型</translation>
+    </message>
+    <message>
+        <source>Projected</source>
+        <translation>投影</translation>
+    </message>
+    <message>
+        <source>Geographic</source>
+        <translation>地理</translation>
+    </message>
+    <message>
+        <source>Deprecated, too</source>
+        <translation>包括已弃用的</translation>
+    </message>
+    <message>
+        <source>Coordinate systems</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>Definition</source>
+        <translation>定义</translation>
+    </message>
+    <message>
+        <source>A PROJ text, WKT or a code:</source>
+        <translation>PROJ 文本、WKT 或代码：</translation>
+    </message>
+    <message>
+        <source>Definition as WKT</source>
+        <translation>WKT 定义</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>找到 %1 个</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>This %1.</source>
+        <translation>此定义%1。</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::SystemModel</name>
+    <message>
+        <source>as it is written</source>
+        <translation>按所写</translation>
+    </message>
+    <message>
+        <source>holds the map</source>
+        <translation>包含地图</translation>
+    </message>
+    <message>
+        <source>%1, holds the map</source>
+        <translation>%1，包含地图</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+</context>
+<context>
     <name>SysAdapterUI::TOCControl</name>
     <message>
         <source>No maps on this page</source>
@@ -5618,6 +5791,36 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Click to work on this map</source>
         <translation>单击以处理此地图</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::WorldMap</name>
+    <message>
+        <source>The world, with the area of use and the map&apos;s extent</source>
+        <translation>世界，带使用区域和地图范围</translation>
+    </message>
+    <message>
+        <source>Blue: where the coordinate system is meant to be used. Orange: what the map shows.</source>
+        <translation>蓝色：坐标系的适用区域。橙色：地图显示的范围。</translation>
+    </message>
+</context>
+<context>
+    <name>SystemsSubcommand</name>
+    <message>
+        <source>Words of the name, the code or the area, in any order.</source>
+        <translation>名称、代码或区域中的词，顺序任意。</translation>
+    </message>
+    <message>
+        <source>Print JSON, for programs.</source>
+        <translation>输出 JSON，供程序使用。</translation>
+    </message>
+    <message>
+        <source>Deprecated systems, too.</source>
+        <translation>包括已弃用的坐标系。</translation>
+    </message>
+    <message>
+        <source>systems: no coordinate system has all of &quot;%1&quot;; leave a word out.</source>
+        <translation>systems：没有坐标系包含“%1”的所有词；请去掉一个词。</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,10 @@
 
 #include "host/SysUtility/FieldEdit.h"
 
+#include <optional>
+
+class QWidget;
+
 namespace SysAdapterUI {
 
 /// Where a property sheet has its fields from.
@@ -14,6 +18,12 @@ public:
 
   /// What a text of the kind `TextKind::Attribute` may name.
   virtual QStringList attributes() const { return {}; }
+
+  /// Lets a person choose what a text of the kind `TextKind::CoordinateSystem` defines; empty where nothing is chosen.
+  virtual std::optional<QString> chooseSystem(QStringList const& /*path*/, QString const& /*now*/,
+                                              QWidget* /*parent*/) {
+    return std::nullopt;
+  }
 
   /// Gives a field of all things shown another value. Answers a problem, with nothing changed, or an empty text.
   /// Changes with the same `joining` that follow each other quickly may be one; an empty text is joined with none.

@@ -210,15 +210,17 @@ private:
 // A text that a button in its field helps to enter.
 class ButtonField final : public LineField {
 public:
-  ButtonField(FieldInfo const& info, QLineEdit* edit) : LineField(info, edit), kind_(info.rules.textKind), edit_(edit) {
-    bool const isColor = kind_ == TextKind::Color;
-    QString const help = isColor ? FieldEditor::tr("Choose a colour") : FieldEditor::tr("Choose a file");
+  ButtonField(FieldInfo const& info, ChooseSystem chooseSystem, QLineEdit* edit)
+      : LineField(info, edit), kind_(info.rules.textKind), chooseSystem_(std::move(chooseSystem)), edit_(edit) {
+    QString const help = kind_ == TextKind::Color              ? FieldEditor::tr("Choose a colour")
+                         : kind_ == TextKind::CoordinateSystem ? FieldEditor::tr("Choose a coordinate system")
+                                                               : FieldEditor::tr("Choose a file");
     button_ = edit->addAction(edit->style()->standardIcon(QStyle::SP_DirOpenIcon), QLineEdit::TrailingPosition);
     button_->setShortcut(Qt::ALT + Qt::Key_Down);
     button_->setToolTip(QStringLiteral("%1 (%2)").arg(help, button_->shortcut().toString(QKeySequence::NativeText)));
     button_->setShortcutContext(Qt::WidgetShortcut);
     edit->setReadOnly(holdsFile());
-    connect(button_, &QAction::triggered, this, [this, isColor] { isColor ? chooseColor() : chooseFile(); });
+    connect(button_, &QAction::triggered, this, &ButtonField::choose);
   }
 
   void show(QVariant const& value) override {
@@ -240,6 +242,13 @@ private:
     edit_->setText(text);
     isTaken_ = true;
     emit finished();
+  }
+
+  void choose() {
+    if (kind_ == TextKind::Color) return chooseColor();
+    if (kind_ != TextKind::CoordinateSystem) return chooseFile();
+    auto const chosen = chooseSystem_(edit_->text(), edit_);
+    if (chosen) take(*chosen);
   }
 
   void chooseColor() {
@@ -265,6 +274,7 @@ private:
   }
 
   TextKind const kind_;
+  ChooseSystem const chooseSystem_;
   QLineEdit* const edit_;
   QAction* button_ = nullptr;
   QString text_;
@@ -272,7 +282,8 @@ private:
 };
 
 bool hasButton(TextKind kind) {
-  return kind == TextKind::Color || kind == TextKind::File || kind == TextKind::Svg || kind == TextKind::Picture;
+  return kind == TextKind::Color || kind == TextKind::File || kind == TextKind::Svg || kind == TextKind::Picture ||
+         kind == TextKind::CoordinateSystem;
 }
 
 }  // namespace
@@ -283,12 +294,13 @@ FieldEditor* FieldEditor::of(QWidget* widget) {
   return widget->findChild<FieldEditor*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-FieldEditor* FieldEditor::create(FieldInfo const& info, QStringList const& suggestions, QWidget* parent) {
+FieldEditor* FieldEditor::create(FieldInfo const& info, QStringList const& suggestions,
+                                 ChooseSystem const& chooseSystem, QWidget* parent) {
   bool const isText = info.kind == Kind::Text;
   if (info.kind == Kind::Choice || info.kind == Kind::Variant) return new ChoiceField(info, new QComboBox(parent));
   if (info.kind == Kind::Texts || (isText && info.rules.textKind == TextKind::Lines))
     return new LinesField(info, new QPlainTextEdit(parent));
-  if (isText && hasButton(info.rules.textKind)) return new ButtonField(info, new QLineEdit(parent));
+  if (isText && hasButton(info.rules.textKind)) return new ButtonField(info, chooseSystem, new QLineEdit(parent));
   auto* const line = new QLineEdit(parent);
   auto* const field = new LineField(info, line);
   if (!suggestions.isEmpty()) {

@@ -6,6 +6,9 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <functional>
+#include <optional>
+
 namespace SysAdapterUI {
 
 /// An editor for the value of a field, by its kind. The widget owns it.
@@ -13,8 +16,12 @@ class FieldEditor : public QObject {
   Q_OBJECT
 
 public:
+  /// Lets a person choose a coordinate system; given is the one that there is.
+  using ChooseSystem = std::function<std::optional<QString>(QString const& now, QWidget* parent)>;
+
   /// `suggestions` are texts to choose from, beside any other.
-  static FieldEditor* create(SysUtility::FieldInfo const& info, QStringList const& suggestions, QWidget* parent);
+  static FieldEditor* create(SysUtility::FieldInfo const& info, QStringList const& suggestions,
+                             ChooseSystem const& chooseSystem, QWidget* parent);
 
   /// The editor to which a widget belongs; null for none.
   static FieldEditor* of(QWidget* widget);

@@ -339,6 +339,10 @@ QStringList PropertyModel::suggestions(QModelIndex const& index) const {
   return isAttribute && source_ ? source_->attributes() : QStringList();
 }
 
+std::optional<QString> PropertyModel::chooseSystem(QStringList const& path, QString const& now, QWidget* parent) const {
+  return source_ ? source_->chooseSystem(path, now, parent) : std::nullopt;
+}
+
 bool PropertyModel::take(QModelIndex const& index, QJsonValue const& value, QString const& shown) {
   Node& node = nodeAt(index);
   if (node.part == Part::Field)

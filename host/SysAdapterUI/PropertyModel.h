@@ -47,6 +47,9 @@ public:
   /// Names that a person may want to choose from for the text of a row; none for other rows.
   QStringList suggestions(QModelIndex const& index) const;
 
+  /// As the source lets a person choose.
+  std::optional<QString> chooseSystem(QStringList const& path, QString const& now, QWidget* parent) const;
+
   /// Takes a value as a document has it. False, with `ProblemRole` saying why, where it is refused; `shown` is what
   /// then stays in the row. The rows follow once the caller is done, since they may be others then.
   bool take(QModelIndex const& index, QJsonValue const& value, QString const& shown);

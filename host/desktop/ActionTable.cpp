@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr char const* menuOrder[] = {"File", "Edit", "View", "Insert", "Arrange", "Help"};
+constexpr char const* menuOrder[] = {"File", "Edit", "View", "Insert", "Arrange", "Layer", "Help"};
 
 struct Toolbar {
   char const* name;

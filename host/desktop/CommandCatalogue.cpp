@@ -31,6 +31,7 @@ public:
   static constexpr Place inView{QT_TR_NOOP("&View"), ""};
   static constexpr Place inInsert{QT_TR_NOOP("&Insert"), ""};
   static constexpr Place inArrange{QT_TR_NOOP("&Arrange"), ""};
+  static constexpr Place inLayer{QT_TR_NOOP("&Layer"), ""};
   static constexpr Place inHelp{QT_TR_NOOP("&Help"), ""};
   static constexpr Place inAlign{QT_TR_NOOP("&Arrange"), QT_TR_NOOP("Align")};
   static constexpr Place inDistribute{QT_TR_NOOP("&Arrange"), QT_TR_NOOP("Distribute")};
@@ -50,6 +51,7 @@ public:
   static constexpr char const* pageShown = QT_TR_NOOP("the page layout shown");
   static constexpr char const* document = QT_TR_NOOP("a document");
   static constexpr char const* pageLayout = QT_TR_NOOP("a page layout");
+  static constexpr char const* focusMap = QT_TR_NOOP("a data frame");
   static constexpr char const* selected = QT_TR_NOOP("a selected element");
   static constexpr char const* two = QT_TR_NOOP("two selected elements");
   static constexpr char const* twoOrMargins = QT_TR_NOOP("two selected elements, or one when aligning to margins");
@@ -218,6 +220,8 @@ public:
        QT_TR_NOOP("Contents"), QT_TR_NOOP("Show or hide the table of contents"), nothing},
       {"Host_Properties", "properties", inView, 4, onNone, "F4",
        QT_TR_NOOP("Properties"), QT_TR_NOOP("Show or hide the properties of what is selected"), nothing},
+      {"Host_CoordinateSystem", "coordinate-system", inLayer, 4, onNone, "",
+       QT_TR_NOOP("Coordinate System of the Map…"), QT_TR_NOOP("Show the map in another coordinate system"), focusMap},
       {"Host_Quit", "quit", inFile, 9, onNone, "Ctrl+Q",
        QT_TR_NOOP("Quit"), QT_TR_NOOP("Close the window"), nothing},
       {"Host_About", "about", inHelp, 1, onNone, "",

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMetaEnum>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -116,6 +117,10 @@ bool setValue(QWidget& widget, QString const& value) {
   bool isNumber = false;
   double const number = value.toDouble(&isNumber);
   if (auto* const edit = qobject_cast<QLineEdit*>(&widget)) return type(*edit, value);
+  if (auto* const edit = qobject_cast<QPlainTextEdit*>(&widget)) {
+    edit->setPlainText(value);
+    return !edit->isReadOnly();
+  }
   if (auto* const button = qobject_cast<QAbstractButton*>(&widget)) return press(*button, value);
   if (auto* const box = qobject_cast<QGroupBox*>(&widget)) return press(*box, value);
   if (auto* const box = qobject_cast<QComboBox*>(&widget)) return choose(*box, value);

@@ -8,6 +8,7 @@
 #include "drawing/SelectTool.h"
 #include "drawing/SelectionHandles.h"
 #include "drawing/TextEditing.h"
+#include "layers/MapSystem.h"
 
 #include <SysFramework/HostAccess.h>
 
@@ -143,6 +144,18 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : vie
                                         {},
                                         [problem] { return *problem; }});
   }
+  auto const focusMap = [&views] {
+    auto const layout = views.GetPageLayout();
+    return layout ? layout->GetFocusMap() : nullptr;
+  };
+  auto const problem = std::make_shared<QString>();
+  add(QStringLiteral("Host_CoordinateSystem"), {[&session, &views, focusMap, problem] {
+                                                  *problem =
+                                                      chooseMapSystem(session.document(), focusMap(), views.window());
+                                                },
+                                                [focusMap] { return static_cast<bool>(focusMap()); },
+                                                {},
+                                                [problem] { return *problem; }});
   add(QStringLiteral("Host_Edit"), {[&views] { editSelected(views); }, [&views] { return canEdit(views); }, {}});
   auto& view = views.layoutView();
   add(QStringLiteral("Host_Guides"),

@@ -1,5 +1,7 @@
 #include "PropertyPanel.h"
 
+#include "layers/MapSystem.h"
+
 #include "host/SysAdapterUI/SymbolChooser.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
@@ -140,6 +142,13 @@ QString PropertyPanel::set(QStringList const& path, SysUtility::NewValue const& 
   }
   if (!warnings.isEmpty()) emit told(warnings.join(QLatin1Char('\n')));
   return problem;
+}
+
+std::optional<QString> PropertyPanel::chooseSystem(QStringList const&, QString const& now, QWidget* parent) {
+  auto const layout = session_.document().GetPageLayout();
+  auto const map = map_ || !layout ? map_ : layout->GetFocusMap();
+  bool const isOfLayer = static_cast<bool>(layer_);
+  return SysAdapterUI::SystemChooser::choose(systemChoice(session_.document(), map.get(), now, isOfLayer), parent);
 }
 
 void PropertyPanel::chooseSymbol(QModelIndex const& index) {

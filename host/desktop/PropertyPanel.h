@@ -51,6 +51,7 @@ private:
     return things_.size() == 1 ? things_.first()->attributes() : QStringList();
   }
   QString set(QStringList const& path, SysUtility::NewValue const& value, QString const& joining) override;
+  std::optional<QString> chooseSystem(QStringList const& path, QString const& now, QWidget* parent) override;
   SysCarto::Editable::List chosen() const;
   QString titleOf(SysCarto::Editable::List const& things) const;
   QList<SysCarto::ElementHandle> selection() const;

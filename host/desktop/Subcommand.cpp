@@ -17,6 +17,7 @@ constexpr Subcommand subcommands[] = {
     {"commands", "",               QT_TRANSLATE_NOOP("Subcommand", "List the commands and whether the plug-in builds them"), runCommands},
     {"schema",   "[FORMAT]",       QT_TRANSLATE_NOOP("Subcommand", "Print the format of documents or styles as a JSON Schema"), runSchema},
     {"reference", "[FORMAT]",      QT_TRANSLATE_NOOP("Subcommand", "Print tables of all fields of documents or styles"), runReference},
+    {"systems",  "WORDS...",       QT_TRANSLATE_NOOP("Subcommand", "Search for coordinate systems by name, code or area"), runSystems},
 };
 // clang-format on
 

@@ -24,12 +24,33 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(MapDocument)
 };
 
+Box layersOf(Map const& map) {
+  Box box;
+  for (auto const& layer : map.GetLayers())
+    if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer)) box.add(vector->features().box());
+  return box;
+}
+
+bool showsLayers(Map const& map) {
+  auto const shown = map.GetExtent();
+  return layersOf(map).meets({shown->GetXMin(), shown->GetYMin(), shown->GetXMax(), shown->GetYMax()});
+}
+
+// A single point has no extent; one of no layers says nothing.
+void showLayers(Map& map) {
+  Box const box = layersOf(map);
+  if (!box.isEmpty()) map.SetExtent(box.envelope());
+}
+
 }  // namespace
 
 MapSettings MapSettings::of(Map const& map) {
-  MapSettings settings{map.GetName(), map.GetCoordinateSystem()};
+  MapSettings settings;
+  settings.name = map.GetName();
+  settings.coordinateSystem = map.GetCoordinateSystem();
   MapHost::storedBounds(map).QueryCoords(settings.bounds[0], settings.bounds[1], settings.bounds[2],
                                          settings.bounds[3]);
+  settings.boundsSystem = settings.coordinateSystem;
   settings.rotation = map.GetRotation();
   settings.scale = map.GetDisplayTransformation()->GetMapScale();
   settings.scaleLocked = MapHost::lockedScale(map) > 0;
@@ -93,7 +114,9 @@ void MapSettings::applyTo(Map& map, QStringList& warnings) const {
   bool const isElsewhere = coordinateSystem.trimmed() != former.coordinateSystem;
   double shown[4];
   std::copy(bounds, bounds + 4, shown);
-  if (isElsewhere && hasSameBounds) transformBounds(shown, former.coordinateSystem, coordinateSystem);
+  bool const keepsPlace = isElsewhere && hasSameBounds && boundsSystem != coordinateSystem.trimmed();
+  bool const isKept = !keepsPlace || transformBounds(shown, former.coordinateSystem, coordinateSystem);
+  bool const metLayers = keepsPlace && showsLayers(map);
   map.SetName(name);
   map.SetCoordinateSystem(coordinateSystem);
   MapHost::setRotation(map, rotation);
@@ -111,6 +134,7 @@ void MapSettings::applyTo(Map& map, QStringList& warnings) const {
     QString const problem = vector ? vector->open(vector->source(), coordinateSystem, warnings) : QString();
     if (!problem.isEmpty()) warnings << problem;
   }
+  if (!isKept || (metLayers && !showsLayers(map))) showLayers(map);
 }
 
 }  // namespace SysCarto

@@ -14,6 +14,7 @@ struct MapSettings {
   double rotation = 0;              ///< degrees, counterclockwise
   double scale = 0;                 ///< its denominator; 0 where nothing but the bounds is said of it
   bool scaleLocked = false;         ///< the bounds then give the centre, and the scale the rest
+  QString boundsSystem;             ///< the coordinate system in which the map had these bounds; not stored
 
   static MapSettings of(Map const& map);
   void list(SysUtility::Fields& fields);
@@ -21,8 +22,9 @@ struct MapSettings {
   /// Of a scale that isn't locked and the bounds the one counts that differs from what the map has: whoever changes the
   /// scale changes the bounds about their centre. Who unlocks it goes on showing the same.
   ///
-  /// A map that gets another coordinate system, and the bounds that it has, goes on showing what it showed, and reads
-  /// the data of its layers anew. Sentences about those that can't be read are added to `warnings`.
+  /// A map that gets another coordinate system, and the bounds that it has, goes on showing what it showed, or all of
+  /// its layers where that has no place there, and reads the data of its layers anew. Sentences about those that can't
+  /// be read are added to `warnings`.
   void applyTo(Map& map, QStringList& warnings) const;
 
 private:

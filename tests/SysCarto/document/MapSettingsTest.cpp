@@ -1,11 +1,12 @@
 #include "Elements.h"
-#include "Files.h"
+#include "LayerFixture.h"
 
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/EditorHost.h"
 #include "host/SysCarto/layout/MapOverview.h"
 #include "host/SysCarto/maps/MapHost.h"
+#include "host/SysCarto/projection/GlobeBox.h"
 
 using namespace SysCarto;
 
@@ -80,6 +81,39 @@ private slots:
 
     while (document.GetOperationStack()->CanUndo()) document.GetOperationStack()->Undo();
     QCOMPARE(QString::fromUtf8(MapDocumentHost::text(document)), before);
+    EditorHost::setHistory(nullptr);
+  }
+
+  void anotherSystemShowsTheSamePlaceOrAllLayers_data() {
+    Rows<QString, bool> row;
+    row("a system of the place", "EPSG:3034", true);
+    row("a system of all the world", "EPSG:8857", true);
+    row("a system that does not reach there", "+proj=gnom +lat_0=0 +lon_0=-90", false);
+  }
+  void anotherSystemShowsTheSamePlaceOrAllLayers() {
+    auto const [system, isKept] = fetched<QString, bool>();
+    MapDocument const document;
+    EditorHost::setHistory(MapDocumentHost::history(document));
+    auto const map = make<Map>();
+    map->SetCoordinateSystem("EPSG:4326");
+    QString const file = put(path("a.geojson"), geoJson(R"({"type":"Polygon",
+        "coordinates":[[[-60,45],[20,45],[20,55],[-60,55],[-60,45]]]})"));
+    auto const layer = opened({file, {}, {}, {}}, "EPSG:4326").layer;
+    map->AddLayer(layer);
+    map->SetExtent(make<SysGeometry::Envelope>(8.0, 48.0, 12.0, 51.0));
+    auto const bounds = [&] {
+      auto const shown = MapHost::storedBounds(*map);
+      return SysGeometry::Box{shown.GetXMin(), shown.GetYMin(), shown.GetXMax(), shown.GetYMax()};
+    };
+    QStringList warnings;
+    auto const to = [name = system](QJsonValue const&) { return name; };
+    QCOMPARE(Editable::set(document, {Editable::map(map)}, {"coordinateSystem"}, to, warnings), QString());
+    GlobeBox const now = globeBoxOf(bounds(), system);
+    QCOMPARE(now.contains({8.1, 48.1, 11.9, 50.9}) && now.width() < 8, isKept);
+    if (!isKept) QVERIFY(!layer->features().box().isEmpty() && bounds().contains(layer->features().box()));
+    while (document.GetOperationStack()->CanUndo()) document.GetOperationStack()->Undo();
+    QCOMPARE(map->GetCoordinateSystem(), QString("EPSG:4326"));
+    QVERIFY(bounds().contains({8, 48, 12, 51}) && SysGeometry::Box({8, 48, 12, 51}).contains(bounds()));
     EditorHost::setHistory(nullptr);
   }
 
