@@ -80,6 +80,13 @@
     </message>
 </context>
 <context>
+    <name>BreakHistogram</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+</context>
+<context>
     <name>Classify</name>
     <message>
         <source>The field “%1” holds no numbers; take the method “unique”, or a field of numbers.</source>
@@ -104,6 +111,109 @@
     <message>
         <source>Only markers and lines have sizes; take colours for the layer&apos;s areas.</source>
         <translation>Nur Marker und Linien haben Größen; nehmen Sie für die Flächen der Ebene Farben.</translation>
+    </message>
+</context>
+<context>
+    <name>ClassifyDialog</name>
+    <message>
+        <source>Classes of %1</source>
+        <translation>Klassen von %1</translation>
+    </message>
+    <message>
+        <source>Equal intervals</source>
+        <translation>Gleiche Abstände</translation>
+    </message>
+    <message>
+        <source>Quantiles</source>
+        <translation>Quantile</translation>
+    </message>
+    <message>
+        <source>Natural breaks</source>
+        <translation>Natürliche Grenzen</translation>
+    </message>
+    <message>
+        <source>Standard deviation</source>
+        <translation>Standardabweichung</translation>
+    </message>
+    <message>
+        <source>Round numbers</source>
+        <translation>Runde Zahlen</translation>
+    </message>
+    <message>
+        <source>Breaks of your own</source>
+        <translation>Eigene Grenzen</translation>
+    </message>
+    <message>
+        <source>A class for each value</source>
+        <translation>Eine Klasse für jeden Wert</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Sizes</source>
+        <translation>Größen</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Sorted</source>
+        <translation>Sortiert</translation>
+    </message>
+    <message>
+        <source>Values in their own order, and not the most frequent first</source>
+        <translation>Werte in ihrer eigenen Reihenfolge, nicht die häufigsten zuerst</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Ab</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>Methode</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>Klassen</translation>
+    </message>
+    <message>
+        <source>Symbols by</source>
+        <translation>Symbole nach</translation>
+    </message>
+    <message>
+        <source>Features without a value, which are in no class: %1.</source>
+        <translation>Objekte ohne Wert, die in keiner Klasse sind: %1.</translation>
+    </message>
+    <message>
+        <source>There are more than %1 values; the rarer ones are in no class.</source>
+        <translation>Es gibt mehr als %1 Werte; die selteneren sind in keiner Klasse.</translation>
     </message>
 </context>
 <context>
@@ -888,6 +998,18 @@
         <source>Show the map in another coordinate system</source>
         <translation>Die Karte in einem anderen Koordinatensystem zeigen</translation>
     </message>
+    <message>
+        <source>Classes…</source>
+        <translation>Klassen …</translation>
+    </message>
+    <message>
+        <source>Make classes of the layer by the values of a field, and give them colours or sizes</source>
+        <translation>Die Ebene nach den Werten eines Feldes in Klassen teilen und diesen Farben oder Größen geben</translation>
+    </message>
+    <message>
+        <source>a layer chosen in the contents</source>
+        <translation>eine im Inhalt gewählte Ebene</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1669,6 +1791,25 @@
     <message>
         <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
         <translation>%1: Das Dokument hat keine Seite, die gezeichnet werden könnte; geben Sie ihm eine, etwa &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureEvaluator</name>
+    <message>
+        <source>The size “%1” of %2 is not understood, so symbols keep their own: %3.</source>
+        <translation>Die Größe „%1“ für %2 wird nicht verstanden, daher behalten Symbole ihre eigene: %3.</translation>
+    </message>
+    <message>
+        <source>The colour “%1” of %2 is not understood, so symbols keep their own: %3.</source>
+        <translation>Die Farbe „%1“ für %2 wird nicht verstanden, daher behalten Symbole ihre eigene: %3.</translation>
+    </message>
+    <message>
+        <source>The angle “%1” of %2 is not understood, so symbols keep their own: %3.</source>
+        <translation>Der Winkel „%1“ für %2 wird nicht verstanden, daher behalten Symbole ihren eigenen: %3.</translation>
+    </message>
+    <message>
+        <source>The filter “%1” of rule %2 of %3 is not understood, so that the rule fits nothing: %4.</source>
+        <translation>Der Filter „%1“ von Regel %2 für %3 wird nicht verstanden, so dass die Regel auf nichts passt: %4.</translation>
     </message>
 </context>
 <context>
@@ -3028,7 +3169,7 @@
     </message>
     <message>
         <source>One symbol for all features, one for each value of an attribute, or one for each range of a numeric attribute.</source>
-        <translation>Ein Symbol für alle Objekte, eines für jeden Wert eines Attributs oder eines für jeden Bereich eines Zahlenattributs.</translation>
+        <translation type="vanished">Ein Symbol für alle Objekte, eines für jeden Wert eines Attributs oder eines für jeden Bereich eines Zahlenattributs.</translation>
     </message>
     <message>
         <source>How the letters of the title look; without a symbol bold and 12 points high.</source>
@@ -3800,11 +3941,11 @@
     </message>
     <message>
         <source>Whether the layers of the group show that are visible themselves.</source>
-        <translation>Ob die Ebenen der Gruppe zu sehen sind, die selbst sichtbar sind.</translation>
+        <translation>Ob die Layer der Gruppe zu sehen sind, die selbst sichtbar sind.</translation>
     </message>
     <message>
         <source>The layers of the group, the lowest first; groups lie at most 16 deep in each other.</source>
-        <translation>Die Ebenen der Gruppe, die unterste zuerst; Gruppen liegen höchstens 16 tief ineinander.</translation>
+        <translation>Die Layer der Gruppe, der unterste zuerst; Gruppen liegen höchstens 16 tief ineinander.</translation>
     </message>
     <message>
         <source>The local file of the table (CSV or any other of data), relative to the document.</source>
@@ -3869,6 +4010,138 @@
     <message>
         <source>Tables whose fields become those of the features: labels, classes and the filter may use them.</source>
         <translation>Tabellen, deren Felder zu denen der Objekte werden: Beschriftungen, Klassen und der Filter können sie verwenden.</translation>
+    </message>
+    <message>
+        <source>Symbols by rules</source>
+        <translation>Symbole nach Regeln</translation>
+    </message>
+    <message>
+        <source>Sizes in proportion to a number</source>
+        <translation>Größen im Verhältnis zu einer Zahl</translation>
+    </message>
+    <message>
+        <source>The first that fits</source>
+        <translation>Die erste, die passt</translation>
+    </message>
+    <message>
+        <source>All that fit</source>
+        <translation>Alle, die passen</translation>
+    </message>
+    <message>
+        <source>The area</source>
+        <translation>Die Fläche</translation>
+    </message>
+    <message>
+        <source>The area as people see it (Flannery)</source>
+        <translation>Die Fläche, wie man sie wahrnimmt (Flannery)</translation>
+    </message>
+    <message>
+        <source>The diameter</source>
+        <translation>Der Durchmesser</translation>
+    </message>
+    <message>
+        <source>One within the other</source>
+        <translation>Ineinander</translation>
+    </message>
+    <message>
+        <source>One below the other</source>
+        <translation>Untereinander</translation>
+    </message>
+    <message>
+        <source>Size by</source>
+        <translation>Größe nach</translation>
+    </message>
+    <message>
+        <source>An expression on the attributes as in SQL, “population / 100000”, for the size of the marker or the width of the line in points; where it has no value, the symbol keeps its own.</source>
+        <translation>Ein Ausdruck über die Attribute wie in SQL, „population / 100000“, für die Größe des Markers oder die Breite der Linie in Punkt; wo er keinen Wert hat, behält das Symbol seine eigene.</translation>
+    </message>
+    <message>
+        <source>Colour by</source>
+        <translation>Farbe nach</translation>
+    </message>
+    <message>
+        <source>An expression for the colour, a text like #rrggbb; where it has no value, the symbol keeps its own.</source>
+        <translation>Ein Ausdruck für die Farbe, ein Text wie #rrggbb; wo er keinen Wert hat, behält das Symbol seine eigene.</translation>
+    </message>
+    <message>
+        <source>Angle by</source>
+        <translation>Winkel nach</translation>
+    </message>
+    <message>
+        <source>An expression for the angle of the marker in degrees counterclockwise; where it has no value, the symbol keeps its own.</source>
+        <translation>Ein Ausdruck für den Winkel des Markers in Grad gegen den Uhrzeigersinn; wo er keinen Wert hat, behält das Symbol seinen eigenen.</translation>
+    </message>
+    <message>
+        <source>Rules that draw</source>
+        <translation>Regeln, die zeichnen</translation>
+    </message>
+    <message>
+        <source>Whether a feature is drawn by the first rule that fits it and draws at the map&apos;s scale, or by all such rules, the first one lowest.</source>
+        <translation>Ob ein Objekt von der ersten Regel gezeichnet wird, die auf es passt und im Maßstab der Karte zeichnet, oder von allen solchen Regeln, die erste zuunterst.</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>Which features are drawn how, and at which scales.</source>
+        <translation>Welche Objekte wie und in welchen Maßstäben gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>In legends</source>
+        <translation>In Legenden</translation>
+    </message>
+    <message>
+        <source>Whether legends list the rule.</source>
+        <translation>Ob Legenden die Regel aufführen.</translation>
+    </message>
+    <message>
+        <source>The marker, in its size for the reference.</source>
+        <translation>Der Marker in seiner Größe für die Bezugszahl.</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Bezugszahl</translation>
+    </message>
+    <message>
+        <source>The number at which the marker has the size of its symbol; 0 for the largest number of the layer.</source>
+        <translation>Die Zahl, bei der der Marker die Größe seines Symbols hat; 0 für die größte Zahl der Ebene.</translation>
+    </message>
+    <message>
+        <source>Smallest size</source>
+        <translation>Kleinste Größe</translation>
+    </message>
+    <message>
+        <source>The size that no marker goes below.</source>
+        <translation>Die Größe, die kein Marker unterschreitet.</translation>
+    </message>
+    <message>
+        <source>In proportion</source>
+        <translation>Im Verhältnis</translation>
+    </message>
+    <message>
+        <source>What of a marker grows as the number does.</source>
+        <translation>Was an einem Marker mit der Zahl wächst.</translation>
+    </message>
+    <message>
+        <source>Markers in legends</source>
+        <translation>Marker in Legenden</translation>
+    </message>
+    <message>
+        <source>How a legend shows some sizes with their numbers.</source>
+        <translation>Wie eine Legende einige Größen mit ihren Zahlen zeigt.</translation>
+    </message>
+    <message>
+        <source>Numbers in legends</source>
+        <translation>Zahlen in Legenden</translation>
+    </message>
+    <message>
+        <source>The numbers whose sizes a legend shows; none for some round ones.</source>
+        <translation>Die Zahlen, deren Größen eine Legende zeigt; keine für einige runde.</translation>
+    </message>
+    <message>
+        <source>One symbol for all features, one for each value of an attribute, one for each range of a numeric attribute, symbols by rules, or markers in sizes by a number.</source>
+        <translation>Ein Symbol für alle Objekte, eines für jeden Wert eines Attributs, eines für jeden Bereich eines Zahlenattributs, Symbole nach Regeln oder Marker in Größen nach einer Zahl.</translation>
     </message>
 </context>
 <context>
@@ -4484,7 +4757,7 @@
     </message>
     <message>
         <source>Other</source>
-        <translation>Andere</translation>
+        <translation>Sonstige</translation>
     </message>
     <message>
         <source>Map surround</source>
@@ -4814,6 +5087,10 @@
     <message>
         <source>names no field</source>
         <translation type="vanished">nennt kein Feld</translation>
+    </message>
+    <message>
+        <source>is larger than maxScale</source>
+        <translation>ist größer als maxScale</translation>
     </message>
 </context>
 <context>
@@ -5786,7 +6063,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>Other</source>
-        <translation>Andere</translation>
+        <translation>Sonstige</translation>
     </message>
     <message>
         <source>Click to work on this map</source>

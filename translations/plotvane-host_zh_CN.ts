@@ -80,6 +80,13 @@
     </message>
 </context>
 <context>
+    <name>BreakHistogram</name>
+    <message>
+        <source>Histogram</source>
+        <translation>直方图</translation>
+    </message>
+</context>
+<context>
     <name>Classify</name>
     <message>
         <source>The field “%1” holds no numbers; take the method “unique”, or a field of numbers.</source>
@@ -104,6 +111,109 @@
     <message>
         <source>Only markers and lines have sizes; take colours for the layer&apos;s areas.</source>
         <translation>只有标记和线有大小；面图层请使用颜色。</translation>
+    </message>
+</context>
+<context>
+    <name>ClassifyDialog</name>
+    <message>
+        <source>Classes of %1</source>
+        <translation>%1 的分类</translation>
+    </message>
+    <message>
+        <source>Equal intervals</source>
+        <translation>等间隔</translation>
+    </message>
+    <message>
+        <source>Quantiles</source>
+        <translation>分位数</translation>
+    </message>
+    <message>
+        <source>Natural breaks</source>
+        <translation>自然断点</translation>
+    </message>
+    <message>
+        <source>Standard deviation</source>
+        <translation>标准差</translation>
+    </message>
+    <message>
+        <source>Round numbers</source>
+        <translation>整数断点</translation>
+    </message>
+    <message>
+        <source>Breaks of your own</source>
+        <translation>自定义断点</translation>
+    </message>
+    <message>
+        <source>A class for each value</source>
+        <translation>每个值一类</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>颜色</translation>
+    </message>
+    <message>
+        <source>Sizes</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>反转</translation>
+    </message>
+    <message>
+        <source>Sorted</source>
+        <translation>排序</translation>
+    </message>
+    <message>
+        <source>Values in their own order, and not the most frequent first</source>
+        <translation>按值本身的顺序，而非最常见的在前</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> 磅</translation>
+    </message>
+    <message>
+        <source>Symbol</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>起始值</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>到</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>字段</translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation>方法</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>类</translation>
+    </message>
+    <message>
+        <source>Symbols by</source>
+        <translation>符号依据</translation>
+    </message>
+    <message>
+        <source>Features without a value, which are in no class: %1.</source>
+        <translation>没有值、不属于任何分类的要素：%1。</translation>
+    </message>
+    <message>
+        <source>There are more than %1 values; the rarer ones are in no class.</source>
+        <translation>值超过 %1 个；较少见的值不属于任何分类。</translation>
     </message>
 </context>
 <context>
@@ -888,6 +998,18 @@
         <source>Show the map in another coordinate system</source>
         <translation>以另一坐标系显示地图</translation>
     </message>
+    <message>
+        <source>Classes…</source>
+        <translation>分类…</translation>
+    </message>
+    <message>
+        <source>Make classes of the layer by the values of a field, and give them colours or sizes</source>
+        <translation>按字段的值对图层分类，并赋予颜色或大小</translation>
+    </message>
+    <message>
+        <source>a layer chosen in the contents</source>
+        <translation>在内容列表中选中的图层</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1669,6 +1791,25 @@
     <message>
         <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
         <translation>%1：文档没有可绘制的页面；请给它一个，例如 &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}。</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureEvaluator</name>
+    <message>
+        <source>The size “%1” of %2 is not understood, so symbols keep their own: %3.</source>
+        <translation>无法理解 %2 的大小表达式“%1”，符号保持自身大小：%3。</translation>
+    </message>
+    <message>
+        <source>The colour “%1” of %2 is not understood, so symbols keep their own: %3.</source>
+        <translation>无法理解 %2 的颜色表达式“%1”，符号保持自身颜色：%3。</translation>
+    </message>
+    <message>
+        <source>The angle “%1” of %2 is not understood, so symbols keep their own: %3.</source>
+        <translation>无法理解 %2 的角度表达式“%1”，符号保持自身角度：%3。</translation>
+    </message>
+    <message>
+        <source>The filter “%1” of rule %2 of %3 is not understood, so that the rule fits nothing: %4.</source>
+        <translation>无法理解 %3 的规则 %2 的过滤条件“%1”，该规则不匹配任何要素：%4。</translation>
     </message>
 </context>
 <context>
@@ -3028,7 +3169,7 @@
     </message>
     <message>
         <source>One symbol for all features, one for each value of an attribute, or one for each range of a numeric attribute.</source>
-        <translation>所有要素用一个符号、属性的每个值用一个符号，或数值属性的每个区间用一个符号。</translation>
+        <translation type="vanished">所有要素用一个符号、属性的每个值用一个符号，或数值属性的每个区间用一个符号。</translation>
     </message>
     <message>
         <source>How the letters of the title look; without a symbol bold and 12 points high.</source>
@@ -3869,6 +4010,138 @@
     <message>
         <source>Tables whose fields become those of the features: labels, classes and the filter may use them.</source>
         <translation>其字段成为要素字段的表：标注、分类和过滤条件都可使用。</translation>
+    </message>
+    <message>
+        <source>Symbols by rules</source>
+        <translation>按规则设置符号</translation>
+    </message>
+    <message>
+        <source>Sizes in proportion to a number</source>
+        <translation>大小与数值成比例</translation>
+    </message>
+    <message>
+        <source>The first that fits</source>
+        <translation>第一条匹配的规则</translation>
+    </message>
+    <message>
+        <source>All that fit</source>
+        <translation>所有匹配的规则</translation>
+    </message>
+    <message>
+        <source>The area</source>
+        <translation>面积</translation>
+    </message>
+    <message>
+        <source>The area as people see it (Flannery)</source>
+        <translation>视觉感知的面积（Flannery）</translation>
+    </message>
+    <message>
+        <source>The diameter</source>
+        <translation>直径</translation>
+    </message>
+    <message>
+        <source>One within the other</source>
+        <translation>嵌套</translation>
+    </message>
+    <message>
+        <source>One below the other</source>
+        <translation>逐行</translation>
+    </message>
+    <message>
+        <source>Size by</source>
+        <translation>大小依据</translation>
+    </message>
+    <message>
+        <source>An expression on the attributes as in SQL, “population / 100000”, for the size of the marker or the width of the line in points; where it has no value, the symbol keeps its own.</source>
+        <translation>关于属性的 SQL 表达式，如“population / 100000”，给出标记的大小或线的宽度（磅）；没有值时符号保持自身大小。</translation>
+    </message>
+    <message>
+        <source>Colour by</source>
+        <translation>颜色依据</translation>
+    </message>
+    <message>
+        <source>An expression for the colour, a text like #rrggbb; where it has no value, the symbol keeps its own.</source>
+        <translation>颜色的表达式，结果为 #rrggbb 形式的文本；没有值时符号保持自身颜色。</translation>
+    </message>
+    <message>
+        <source>Angle by</source>
+        <translation>角度依据</translation>
+    </message>
+    <message>
+        <source>An expression for the angle of the marker in degrees counterclockwise; where it has no value, the symbol keeps its own.</source>
+        <translation>标记角度的表达式（逆时针度数）；没有值时符号保持自身角度。</translation>
+    </message>
+    <message>
+        <source>Rules that draw</source>
+        <translation>绘制的规则</translation>
+    </message>
+    <message>
+        <source>Whether a feature is drawn by the first rule that fits it and draws at the map&apos;s scale, or by all such rules, the first one lowest.</source>
+        <translation>要素由第一条匹配且在地图比例尺下绘制的规则绘制，还是由所有这样的规则绘制（第一条在最下面）。</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>Which features are drawn how, and at which scales.</source>
+        <translation>哪些要素如何绘制，以及在哪些比例尺下绘制。</translation>
+    </message>
+    <message>
+        <source>In legends</source>
+        <translation>显示在图例中</translation>
+    </message>
+    <message>
+        <source>Whether legends list the rule.</source>
+        <translation>图例是否列出该规则。</translation>
+    </message>
+    <message>
+        <source>The marker, in its size for the reference.</source>
+        <translation>标记，其大小对应参考值。</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>参考值</translation>
+    </message>
+    <message>
+        <source>The number at which the marker has the size of its symbol; 0 for the largest number of the layer.</source>
+        <translation>标记取其符号大小时对应的数值；0 表示图层中的最大值。</translation>
+    </message>
+    <message>
+        <source>Smallest size</source>
+        <translation>最小大小</translation>
+    </message>
+    <message>
+        <source>The size that no marker goes below.</source>
+        <translation>任何标记都不小于此大小。</translation>
+    </message>
+    <message>
+        <source>In proportion</source>
+        <translation>成比例的量</translation>
+    </message>
+    <message>
+        <source>What of a marker grows as the number does.</source>
+        <translation>标记的哪个量随数值增长。</translation>
+    </message>
+    <message>
+        <source>Markers in legends</source>
+        <translation>图例中的标记</translation>
+    </message>
+    <message>
+        <source>How a legend shows some sizes with their numbers.</source>
+        <translation>图例如何显示若干大小及其数值。</translation>
+    </message>
+    <message>
+        <source>Numbers in legends</source>
+        <translation>图例中的数值</translation>
+    </message>
+    <message>
+        <source>The numbers whose sizes a legend shows; none for some round ones.</source>
+        <translation>图例显示其大小的数值；留空则取若干整数值。</translation>
+    </message>
+    <message>
+        <source>One symbol for all features, one for each value of an attribute, one for each range of a numeric attribute, symbols by rules, or markers in sizes by a number.</source>
+        <translation>所有要素使用一个符号、属性的每个值一个符号、数值属性的每个区间一个符号、按规则设置符号，或按数值设置标记大小。</translation>
     </message>
 </context>
 <context>
@@ -4814,6 +5087,10 @@
     <message>
         <source>names no field</source>
         <translation type="vanished">没有指定字段</translation>
+    </message>
+    <message>
+        <source>is larger than maxScale</source>
+        <translation>大于 maxScale</translation>
     </message>
 </context>
 <context>

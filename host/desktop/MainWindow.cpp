@@ -6,6 +6,7 @@
 #include "NoticeBar.h"
 #include "PropertyPanel.h"
 #include "drawing/Ruler.h"
+#include "layers/LayerClasses.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
@@ -109,6 +110,7 @@ MainWindow::MainWindow()
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
   connect(actions_.get(), &ActionTable::refreshed, properties_, &PropertyPanel::follow);
   connect(actions_.get(), &ActionTable::refreshed, elements_, &ElementList::follow);
+  connect(contents_, &SysAdapterUI::TOCControl::RowChosen, actions_.get(), &ActionTable::refreshSoon);
   connect(properties_, &PropertyPanel::editing, actions_.get(), &ActionTable::refreshSoon);
   connect(properties_, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
   connectFiles();
@@ -150,6 +152,12 @@ void MainWindow::addWindowCommands(HostCommands& host) {
                                                  if (properties_->isVisible()) properties_->widget()->setFocus();
                                                },
                                                always, [this] { return properties_->isVisible(); }});
+  host.add(QStringLiteral("Host_Classify"), {[this] {
+                                               QString const told = LayerClasses::ask(bench_.session().document(),
+                                                                                      properties_->layer(), this);
+                                               if (!told.isEmpty()) notice_->tell(told, false);
+                                             },
+                                             [this] { return properties_->layer() != nullptr; }, always});
   host.add(QStringLiteral("Host_History"), {[this] { historyDock_->setVisible(!historyDock_->isVisible()); }, always,
                                             [this] { return historyDock_->isVisible(); }});
   host.add(QStringLiteral("Host_Rulers"), {[this] {

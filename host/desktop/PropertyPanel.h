@@ -35,6 +35,9 @@ public:
   /// that.
   void showRow(SysUtility::_ptr_t<SysCarto::Map> const& map, SysUtility::_ptr_t<SysCarto::Layer> const& layer);
 
+  /// The layer whose row is current; null for none.
+  SysCarto::Editable::Pointer layer() const { return layer_ ? SysCarto::Editable::layer(map_, layer_) : nullptr; }
+
 signals:
   /// A value begins to be edited: there is something that could be saved.
   void editing();

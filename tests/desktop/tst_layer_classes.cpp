@@ -4,7 +4,13 @@
 #include "host/SysDisplay/SymbolFields.h"
 #include "host/SysDisplay/SymbolVariation.h"
 #include "host/desktop/DocumentSession.h"
+#include "host/desktop/layers/BreakHistogram.h"
+#include "host/desktop/layers/ClassifyDialog.h"
 #include "host/desktop/layers/LayerClasses.h"
+
+#include <QtWidgets>
+
+#include <cmath>
 
 using namespace SysCarto;
 
@@ -76,6 +82,52 @@ private slots:
     QString problem = LayerClasses::read(how, wanted);
     if (problem.isEmpty()) problem = LayerClasses::make(session_.document(), layer(name), wanted, warnings);
     QVERIFY2(problem.contains(says), qPrintable(problem));
+    QVERIFY(!session_.isModified());
+  }
+
+  // A person drags a bound, types another, writes a label, and takes sizes; then a class for each value.
+  void theDialogShowsWhatItMakes() {
+    ClassifyDialog dialog(ptr_cast<VectorLayer>(layer("Capitals")->layer()));
+    dialog.show();
+    auto const& made = dialog.renderer();
+    auto* const method = dialog.findChild<QComboBox*>("comboBox_Method");
+    auto* const table = dialog.findChild<QTableWidget*>("tableWidget_Classes");
+    QCOMPARE(made.field, QString("population"));
+    QCOMPARE(made.classes.size(), size_t(5));
+    auto const counted = [&] {
+      int all = 0;
+      for (int row = 0; row < table->rowCount(); ++row) all += table->item(row, 4)->text().toInt();
+      return all;
+    };
+    QCOMPARE(counted(), ptr_cast<VectorLayer>(layer("Capitals")->layer())->features().size());
+
+    auto* const histogram = dialog.findChild<BreakHistogram*>();
+    double const last = made.classes[4].minimum, before = made.classes[3].minimum;
+    double const perPx = 13076300.0 / (histogram->width() - 12);
+    auto const at = [&](double value) { return QPoint(qRound(6 + value / perPx), 20); };
+    QTest::mousePress(histogram, Qt::LeftButton, {}, at(last));
+    QMouseEvent move(QEvent::MouseMove, at(last) + QPoint(30, 0), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(histogram, &move);
+    QTest::mouseRelease(histogram, Qt::LeftButton, {}, at(last) + QPoint(30, 0));
+    QVERIFY(std::abs(made.classes[4].minimum - last - 30 * perPx) < 2 * perPx);
+    QCOMPARE(made.classes[3].minimum, before);
+    QCOMPARE(method->currentIndex(), 5);
+    QCOMPARE(counted(), 241);
+
+    table->item(0, 2)->setText("500000");
+    QCOMPARE(made.classes[1].minimum, 500000.0);
+    table->item(0, 2)->setText("many");
+    table->item(1, 2)->setText("-5");
+    QCOMPARE(made.classes[1].minimum, 500000.0);
+    table->item(1, 3)->setText("towns");
+    QCOMPARE(made.classes[1].label, QString("towns"));
+    dialog.findChild<QComboBox*>("comboBox_Look")->setCurrentIndex(1);
+    QCOMPARE(SysDisplay::sizeOf(*made.classes[4].symbol), 20.0);
+    dialog.findChild<QSpinBox*>("spinBox_Classes")->setValue(3);
+    QCOMPARE(made.classes.size(), size_t(3));
+    dialog.findChild<QComboBox*>("comboBox_Field")->setCurrentText("country");
+    QCOMPARE(made.kind, RendererSettings::Kind::UniqueValues);
+    QVERIFY(!histogram->isVisible());
     QVERIFY(!session_.isModified());
   }
 

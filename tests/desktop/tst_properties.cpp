@@ -289,7 +289,8 @@ private slots:
       return model.data(model.indexOf({"surround", "entries", entry, "layer"}), Qt::DisplayRole).toString();
     };
     for (int i = 0; i < 2; ++i) model.addEntry(model.indexOf({"surround", "entries"}));
-    QCOMPARE(QStringList({layerOf("0"), layerOf("2"), layerOf("3")}), QStringList({"Cities", "Rivers", "Countries"}));
+    QCOMPARE(QStringList({layerOf("0"), layerOf("2"), layerOf("3")}),
+             QStringList({"Cities", "Towns in proportion", "Towns by rules"}));
 
     // A key in the middle of a view's work changes which rows there are.
     QVERIFY(show(panel, page, 0));

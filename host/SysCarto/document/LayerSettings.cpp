@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/layers/DataSource.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layers/ScaleFields.h"
 #include "host/SysUtility/Fields.h"
 
 #include <QDir>

@@ -1,6 +1,5 @@
 #include "LabelPlacer.h"
 
-#include "host/SysCarto/layers/Renderer.h"
 #include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysDisplay/MarkerPainter.h"
 
@@ -59,7 +58,7 @@ Box markShape(Symbol const* symbol) {
 
 LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& settings, Renderer const& renderer,
                          DisplayTransformation const& transformation)
-    : store_(store), settings_(settings), thinned_(store) {
+    : store_(store), settings_(settings), thinned_(store), looks_(renderer, store, transformation.GetMapScale()) {
   auto const bounds = transformation.GetFittedBounds();
   double const unitsPerPoint =
       transformation.PixelsPerPoint() / DisplayTransformationHost::pixelsPerUnit(transformation);
@@ -72,7 +71,6 @@ LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& setting
   bottom_ = bounds->GetYMin();
   frame_ = {0, 0, bounds->GetWidth() / unitsPerPoint, bounds->GetHeight() / unitsPerPoint};
   thinned_.setResolution(2 * unitsPerPoint);
-  for (SymbolClass const& one : renderer.classes()) markShapes_.push_back(markShape(one.symbol.get()));
 }
 
 void LabelPlacer::addObstacle(SysGeometry::Polygon const& area) {
@@ -89,17 +87,25 @@ void LabelPlacer::addObstacle(SysGeometry::Polygon const& area) {
 std::vector<int> LabelPlacer::candidates() const {
   std::vector<int> features = store_.query({covered_.left(), covered_.top(), covered_.right(), covered_.bottom()});
   features.erase(std::remove_if(features.begin(), features.end(),
-                                [this](int feature) {
-                                  return store_.features[feature].symbolClass < 0 || store_.labels[feature].isEmpty();
-                                }),
+                                [this](int feature) { return !isDrawn(feature) || store_.labels[feature].isEmpty(); }),
                  features.end());
   std::stable_sort(features.begin(), features.end(),
                    [this](int a, int b) { return store_.priorities[a] > store_.priorities[b]; });
   return features;
 }
 
-Box LabelPlacer::markOf(int feature, QPointF const& point) const {
-  Box const& shape = markShapes_[store_.features[feature].symbolClass];
+// That of the uppermost symbol.
+Box const& LabelPlacer::markShapeOf(int feature) {
+  int const symbolClass = looks_.drawing()[store_.features[feature].symbolClass].back();
+  auto const key = std::make_pair(symbolClass, looks_.lookOf(symbolClass, feature));
+  auto known = markShapes_.find(key);
+  if (known == markShapes_.end())
+    known = markShapes_.emplace(key, markShape(looks_.symbol(symbolClass, key.second).get())).first;
+  return known->second;
+}
+
+Box LabelPlacer::markOf(int feature, QPointF const& point) {
+  Box const& shape = markShapeOf(feature);
   return {point.x() + shape.xmin, point.y() + shape.ymin, point.x() + shape.xmax, point.y() + shape.ymax};
 }
 
@@ -107,7 +113,7 @@ void LabelPlacer::collectMarks() {
   std::vector<Box> marks;
   for (int feature = 0; feature < store_.size(); ++feature) {
     Feature const& given = store_.features[feature];
-    if (given.symbolClass < 0) continue;
+    if (!isDrawn(feature)) continue;
     for (int i = given.firstPart; i < given.firstPart + given.partCount; ++i) {
       if (store_.parts[i].kind != PartKind::Point) continue;
       double const* const xy = store_.parts[i].xy;

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/labels/LabelIndex.h"
 #include "host/SysCarto/labels/LabelSettings.h"
+#include "host/SysCarto/layers/FeatureLooks.h"
 #include "host/SysCarto/layers/ThinnedFeatures.h"
 
 #include <SysDisplay/DisplayTransformation.h>
@@ -10,11 +11,10 @@
 #include <QHash>
 
 #include <functional>
+#include <map>
 #include <optional>
 
 namespace SysCarto {
-
-class Renderer;
 
 struct PlacedLabel {
   QString text;
@@ -49,13 +49,19 @@ public:
 
 private:
   std::vector<int> candidates() const;
-  Box markOf(int feature, QPointF const& point) const;
+  Box const& markShapeOf(int feature);
+  Box markOf(int feature, QPointF const& point);
   void collectMarks();
 
   void placeFeature(int feature);
   bool placeBesidePoint(int feature, LabelText& text, QPointF const& point);
   bool placeInPolygon(LabelText const& text, int feature);
   bool placeAlongLine(LabelText const& text, int feature);
+
+  bool isDrawn(int feature) const {
+    int const symbolClass = store_.features[feature].symbolClass;
+    return symbolClass >= 0 && !looks_.drawing()[symbolClass].empty();
+  }
 
   /// Where a text of that size goes beside a mark; an empty box where it finds no room.
   Box boxFor(Box const& mark, double width, double height) const;
@@ -83,7 +89,8 @@ private:
   double unitsPerPoint_ = 0;
   Box frame_;
   LabelIndex index_;
-  std::vector<Box> markShapes_;  // by symbol class, about the position
+  FeatureLooks const looks_;
+  std::map<std::pair<int, FeatureLooks::Look>, Box> markShapes_;  // by class and look, about the position
   std::unique_ptr<MarkIndex> marks_;
   QHash<SysDisplay::TextSymbol const*, SysUtility::_ptr_t<SysDisplay::TextSymbol>> centred_;
   std::vector<PlacedLabel> labels_;

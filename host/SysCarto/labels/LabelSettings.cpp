@@ -1,5 +1,6 @@
 #include "LabelSettings.h"
 
+#include "host/SysCarto/layers/ScaleFields.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysDisplay/SymbolFields.h"
 
@@ -17,7 +18,6 @@ namespace {
 constexpr int maxClasses = 100;
 constexpr double farthest = 1e300;
 constexpr int maxPriority = 1000000;
-constexpr SysUtility::Range scales{0, 1e15, Unit::ScaleDenominator};
 
 template <class Settings>
 void listSymbolOf(Fields& fields, Settings& settings) {
@@ -80,15 +80,6 @@ void AnnotationSettings::list(Fields& fields) {
 void AnnotationSettings::applyTo(AnnotationProperties& properties) const {
   properties.SetPriority(priority);
   properties.SetScaleRange(minScale, maxScale);
-}
-
-void listScaleRange(Fields& fields, double& minScale, double& maxScale) {
-  fields.number({"minScale", QT_TRANSLATE_NOOP("Fields", "From scale"),
-                 QT_TRANSLATE_NOOP("Fields", "It shows above this scale denominator; 0 is no limit.")},
-                minScale, scales, 0.0);
-  fields.number({"maxScale", QT_TRANSLATE_NOOP("Fields", "To scale"),
-                 QT_TRANSLATE_NOOP("Fields", "It shows below this scale denominator; 0 is no limit.")},
-                maxScale, scales, 0.0);
 }
 
 }  // namespace SysCarto

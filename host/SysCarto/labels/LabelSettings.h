@@ -47,7 +47,4 @@ struct AnnotationSettings {
   void applyTo(AnnotationProperties& properties) const;
 };
 
-/// The smallest and the largest scale denominator at which something shows, of a layer or of its labels.
-void listScaleRange(SysUtility::Fields& fields, double& minScale, double& maxScale);
-
 }  // namespace SysCarto

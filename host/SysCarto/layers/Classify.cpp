@@ -48,10 +48,10 @@ std::vector<double> boundsAround(std::vector<double> const& sorted, std::vector<
   std::sort(breaks.begin(), breaks.end());
   breaks.erase(std::unique(breaks.begin(), breaks.end()), breaks.end());
   double const room = (sorted.back() - sorted.front()) / 100;
-  if (breaks.empty() || breaks.front() > sorted.front())
-    breaks.insert(breaks.begin(), roundestWithin(sorted.front() - room, sorted.front()));
-  if (breaks.size() == 1 || breaks.back() < sorted.back())
-    breaks.push_back(roundestWithin(sorted.back(), sorted.back() + room));
+  double const lowest = roundestWithin(sorted.front() - room, sorted.front());
+  double const highest = roundestWithin(sorted.back(), sorted.back() + room);
+  if (breaks.empty() || breaks.front() > lowest) breaks.insert(breaks.begin(), lowest);
+  if (breaks.size() == 1 || breaks.back() < highest) breaks.push_back(highest);
   return breaks;
 }
 

@@ -60,6 +60,7 @@ std::unique_ptr<FeatureIntake::Batch> FeatureIntake::work(std::unique_ptr<Batch>
   GdalErrors const errors;  // a place that the map can't show is no damage to the file
   batch->placed = std::make_unique<FeatureStore>();
   batch->placed->keepsLabels = store_.keepsLabels;
+  batch->placed->valuesPerFeature = store_.valuesPerFeature;
   for (OGRFeatureUniquePtr& feature : batch->features) {
     place_(*feature, *batch->projector, *batch->placed);
     feature.reset();

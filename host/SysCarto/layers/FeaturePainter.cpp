@@ -13,7 +13,24 @@ using namespace SysDisplay;
 
 namespace {
 
-class PathPainter final : public FeaturePainter {
+// Draws part by part.
+class PartsPainter : public FeaturePainter {
+public:
+  void draw(ThinnedFeatures& features, int feature, Box const& area) final {
+    for (Part const& part : features.parts(feature))
+      if (part.box.meets(area)) add(part);
+    drawAdded(features.box(feature));
+  }
+
+private:
+  // Takes a part, whatever its kind.
+  virtual void add(Part const& part) = 0;
+
+  // Draws what was taken of a feature that covers this much of the map.
+  virtual void drawAdded(Box const& feature) = 0;
+};
+
+class PathPainter final : public PartsPainter {
 public:
   PathPainter(std::unique_ptr<PathDrawing> drawing, bool drawsLines)
       : drawing_(std::move(drawing)), drawsLines_(drawsLines) {}
@@ -31,13 +48,13 @@ private:
       case PartKind::Point: return;
     }
   }
-  void draw(Box const& feature) override { drawing_->draw(feature); }
+  void drawAdded(Box const& feature) override { drawing_->draw(feature); }
 
   std::unique_ptr<PathDrawing> const drawing_;
   bool const drawsLines_;
 };
 
-class PointPainter final : public FeaturePainter {
+class PointPainter final : public PartsPainter {
 public:
   PointPainter(DrawTarget& target, MarkerSymbol const& symbol) : painter_(target, symbol) {}
   bool isVisible() const { return painter_.isVisible(); }
@@ -50,7 +67,7 @@ private:
   void add(Part const& part) override {
     if (part.kind == PartKind::Point) painter_.draw(part.xy[0], part.xy[1]);
   }
-  void draw(Box const&) override {}
+  void drawAdded(Box const&) override {}
 
   MarkerPainter painter_;
 };
@@ -71,12 +88,6 @@ std::unique_ptr<FeaturePainter> made(DrawTarget& target, MarkerSymbol const& sym
 }  // namespace
 
 FeaturePainter::~FeaturePainter() = default;
-
-void FeaturePainter::draw(ThinnedFeatures& features, int feature, Box const& area) {
-  for (Part const& part : features.parts(feature))
-    if (part.box.meets(area)) add(part);
-  draw(features.box(feature));
-}
 
 std::unique_ptr<FeaturePainter> FeaturePainter::create(DrawTarget& target, Symbol const* symbol) {
   if (auto const* fill = dynamic_cast<FillSymbol const*>(symbol)) return made(target, *fill);

@@ -29,14 +29,7 @@ public:
   virtual double reachPx() const = 0;
 
   /// Draws the parts of one feature that the symbol is for and that meet `area` (map units, reach included).
-  void draw(ThinnedFeatures& features, int feature, Box const& area);
-
-private:
-  /// Takes a part, whatever its kind.
-  virtual void add(Part const& part) = 0;
-
-  /// Draws what was taken of a feature that covers `feature` in the map.
-  virtual void draw(Box const& feature) = 0;
+  virtual void draw(ThinnedFeatures& features, int feature, Box const& area) = 0;
 };
 
 }  // namespace SysCarto

@@ -3,6 +3,7 @@
 #include "host/SysCarto/layers/Condition.h"
 #include "host/SysCarto/layers/DataSource.h"
 #include "host/SysCarto/layers/DerivedLayer.h"
+#include "host/SysCarto/layers/FeatureEvaluator.h"
 #include "host/SysCarto/layers/FeatureIntake.h"
 #include "host/SysCarto/layers/Renderer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
@@ -90,12 +91,17 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   Field const labelField(layer, labels.text, source, result.warnings);
   Field const priorityField(layer, labels.priority, source, result.warnings);
   FeatureStore& store = *result.store;
+  FeatureEvaluator const evaluator(layer, renderer, describeSource(source), result.warnings);
   store.keepsLabels = !labels.text.isEmpty();
+  store.valuesPerFeature = static_cast<int>(renderer.varied().size());
   FeatureIntake intake(projector, store, [&](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
     to.beginFeature();
     own.add(*feature.GetGeometryRef(), to);
     double const priority = priorityField.number(feature);
-    to.endFeature(renderer.classOf(classField.text(feature), classField.number(feature)), labelField.text(feature),
+    int const fitting = evaluator.place(feature, to);
+    int const symbolClass =
+        evaluator.hasRules() ? fitting : renderer.classOf(classField.text(feature), classField.number(feature));
+    to.endFeature(symbolClass, labelField.text(feature),
                   std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority);
   });
   layer.ResetReading();

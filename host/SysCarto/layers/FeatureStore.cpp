@@ -4,11 +4,15 @@
 #include "host/SysGeometry/PlaneGeometry.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace SysCarto {
 
 namespace {
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 bool isRing(Part const& part) { return part.kind == PartKind::Ring || part.kind == PartKind::FilledRing; }
 
@@ -81,7 +85,7 @@ void FeatureStore::addPart(PartKind kind, double const* xy, int count) {
 
 void FeatureStore::endFeature(int symbolClass, QString const& label, double priority) {
   current_.partCount = static_cast<int>(parts.size()) - current_.firstPart;
-  if (current_.partCount == 0) return;
+  if (current_.partCount == 0) return values.resize(features.size() * valuesPerFeature);
   current_.symbolClass = symbolClass;
   box_.add(current_.box);
   features.push_back(current_);
@@ -90,20 +94,37 @@ void FeatureStore::endFeature(int symbolClass, QString const& label, double prio
   priorities.push_back(priority);
 }
 
+int FeatureStore::classSetOf(std::vector<int> const& classes) {
+  if (classes.empty()) return -1;
+  auto const known = std::find(classSets.begin(), classSets.end(), classes);
+  if (known != classSets.end()) return static_cast<int>(known - classSets.begin());
+  classSets.push_back(classes);
+  return static_cast<int>(classSets.size()) - 1;
+}
+
 void FeatureStore::append(FeatureStore& other) {
   int const before = static_cast<int>(parts.size());
   parts.insert(parts.end(), other.parts.begin(), other.parts.end());
+  std::vector<int> own;
+  for (std::vector<int> const& classes : other.classSets) own.push_back(classSetOf(classes));
   for (Feature& feature : other.features) {
     feature.firstPart += before;
+    if (!own.empty() && feature.symbolClass >= 0) feature.symbolClass = own[feature.symbolClass];
     features.push_back(feature);
   }
   labels.insert(labels.end(), other.labels.begin(), other.labels.end());
   priorities.insert(priorities.end(), other.priorities.begin(), other.priorities.end());
+  values.insert(values.end(), other.values.begin(), other.values.end());
   vertices_.takeOver(other.vertices_);
   box_.add(other.box_);
 }
 
+double FeatureStore::largestValue(int number) const { return largest_.empty() ? nan : largest_[number]; }
+
 void FeatureStore::finish() {
+  largest_.assign(valuesPerFeature, nan);
+  for (int feature = 0; feature < size(); ++feature)
+    for (int i = 0; i < valuesPerFeature; ++i) largest_[i] = std::fmax(largest_[i], value(feature, i));
   parts.shrink_to_fit();
   std::vector<Box> boxes;
   boxes.reserve(features.size());
@@ -122,16 +143,21 @@ std::vector<int> FeatureStore::query(Box const& rectangle) const {
   return found;
 }
 
-std::vector<bool> FeatureStore::classesWithin(Box const& rectangle, QTransform const& turn, int count) const {
+std::vector<bool> FeatureStore::classesWithin(Box const& rectangle, QTransform const& turn,
+                                              std::vector<std::vector<int>> const& drawing, int count) const {
   std::vector<bool> found(count);
-  int missing = count;
   if (!index_ || rectangle.isEmpty()) return found;
   Sight sight(rectangle, turn);
+  std::vector<bool> seen(drawing.size());
+  auto missing = drawing.size();
   index_->any(sight.world(), [&](int number) {
     Feature const& feature = features[number];
     int const own = feature.symbolClass;
-    if (own < 0 || own >= count || found[own] || !sight.shows(feature, &parts[feature.firstPart])) return false;
-    found[own] = true;
+    if (own < 0 || own >= static_cast<int>(drawing.size()) || seen[own] ||
+        !sight.shows(feature, &parts[feature.firstPart]))
+      return false;
+    seen[own] = true;
+    for (int const drawn : drawing[own]) found[drawn] = true;
     return --missing == 0;
   });
   return found;

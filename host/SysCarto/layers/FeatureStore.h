@@ -32,7 +32,7 @@ struct Part {
 struct Feature {
   int firstPart;
   int partCount;
-  int symbolClass;  ///< of the renderer; −1 is not drawn
+  int symbolClass;  ///< of the renderer, or the number of a set of its rules; −1 is not drawn
   Box box;
 };
 
@@ -49,7 +49,11 @@ public:
   void beginFeature();
   void startPolygon() override { polygonStarts_ = true; }
   void addPart(PartKind kind, double const* xy, int count) override;
+  void addValue(double value) { values.push_back(value); }  ///< as many for each feature
   void endFeature(int symbolClass, QString const& label, double priority);
+
+  /// The number of a set of classes that fit a feature, ascending; −1 for none of them.
+  int classSetOf(std::vector<int> const& classes);
 
   /// Takes over the features of another store that was filled and not finished.
   void append(FeatureStore& other);
@@ -64,19 +68,32 @@ public:
   /// The numbers of the features whose boxes meet the rectangle, ascending.
   std::vector<int> query(Box const& rectangle) const;
 
-  /// For each of so many classes, whether the geometry of one of its features, turned, meets the rectangle.
-  std::vector<bool> classesWithin(Box const& rectangle, QTransform const& turn, int count) const;
+  /// For each of so many classes, whether the geometry of a feature that it draws, turned, meets the rectangle.
+  /// `drawing` are the classes that draw features, by their symbol class.
+  std::vector<bool> classesWithin(Box const& rectangle, QTransform const& turn,
+                                  std::vector<std::vector<int>> const& drawing, int count) const;
 
   std::vector<Part> parts;
   std::vector<Feature> features;
   std::vector<QString> labels;     ///< by feature; empty where the layer has no labels
   std::vector<double> priorities;  ///< by feature, higher is placed first; as `labels`
   bool keepsLabels = false;
+  std::vector<double> values;  ///< `valuesPerFeature` of each feature that its symbols follow; not a number for none
+  int valuesPerFeature = 0;
+  std::vector<std::vector<int>> classSets;  ///< of rules
+
+  double value(int feature, int number) const {
+    return values[static_cast<size_t>(feature) * valuesPerFeature + number];
+  }
+
+  /// The largest of these numbers; not a number where no feature has one.
+  double largestValue(int number) const;
 
 private:
   VertexPool vertices_;
   std::unique_ptr<BoxTree> index_;
   Box box_;
+  std::vector<double> largest_;  // of the values
   Feature current_{};
   bool polygonStarts_ = false;
 };

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "host/SysCarto/layers/ScaleRange.h"
+
 #include <SysCarto/Export.h>
 #include <SysDisplay/Symbol.h>
 
 #include <QJsonObject>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 #include <vector>
@@ -16,26 +19,61 @@ class Fields;
 
 namespace SysCarto {
 
+/// What of a symbol follows the features: expressions on their attributes as in OGR SQL, empty for none. Where one has
+/// no value the symbol keeps its own.
+struct SymbolVariation {
+  QString size;   ///< of a marker, or the width of a line, in points
+  QString color;  ///< a text like #rrggbb
+  QString angle;  ///< of a marker, in degrees counterclockwise
+
+  bool operator==(SymbolVariation const& other) const {
+    return size == other.size && color == other.color && angle == other.angle;
+  }
+};
+
 /// One kind of features of a layer, as a legend lists it.
 struct SymbolClass {
   QString label;
   QStringList values;  ///< of the field, as texts: for unique values
   double minimum = 0;  ///< of the field: for graduated symbols, from here to the next class
   SysUtility::_ptr_t<SysDisplay::Symbol> symbol;
+  SymbolVariation variation = {};
+
+  // Of a rule.
+  QString filter = {};     ///< a condition as of a source; empty for all features
+  ScaleRange scales = {};  ///< at which it draws
+  bool isInLegend = true;
+};
+
+/// How large markers are by a number, and how a legend shows that.
+struct ProportionalSettings {
+  enum class Scaling { Area, Flannery, Diameter };
+  enum class Shape { Nested, Rows };
+
+  double reference = 0;   ///< the number at which a marker has its symbol's size; 0 for the largest there is
+  double smallestPt = 1;  ///< no marker is smaller
+  Scaling scaling = Scaling::Area;
+  Shape shape = Shape::Nested;
+  QVector<double> told;  ///< the numbers in a legend; empty for round ones
+
+  /// The size of a marker in points, where that of `reference` has `sizePt`.
+  double sizeOf(double number, double reference, double sizePt) const;
 };
 
 /// What a document stores of a renderer.
 struct SYSCARTO_EXPORT RendererSettings {
-  enum class Kind { Simple, UniqueValues, Graduated };
+  enum class Kind { Simple, UniqueValues, Graduated, Rules, Proportional };
 
   Kind kind = Kind::Simple;
   QString field;                     ///< that decides; empty where none does
-  std::vector<SymbolClass> classes;  ///< a simple renderer has one
+  std::vector<SymbolClass> classes;  ///< a simple and a proportional renderer have one
   SymbolClass others;                ///< for all features that are in none of the classes; drawn with a symbol alone
+  bool allMatch = false;             ///< whether all rules that fit a feature draw it, and not the first alone
+  ProportionalSettings proportional;
 
   void list(SysUtility::Fields& fields);
 
-  /// Whether every feature is in the same class by both, whatever the classes look like.
+  /// Whether what is read of every feature is the same by both, whatever the classes look like.
   bool classifiesAs(RendererSettings const& other) const;
 };
 
@@ -43,7 +81,15 @@ struct SYSCARTO_EXPORT RendererSettings {
 /// drawing those that are in no class.
 SYSCARTO_EXPORT QJsonObject rendererAs(QJsonObject const& renderer, QString const& kind);
 
-/// Which symbol a feature is drawn with, by the value of a field.
+/// One property of the symbol of a class that follows the features.
+struct VariedProperty {
+  enum class Kind { Size, Color, Angle };
+  int symbolClass;
+  Kind kind;
+  QString expression;
+};
+
+/// Which symbol a feature is drawn with, by the value of a field. Features of rules are sorted by their conditions.
 class SYSCARTO_EXPORT Renderer {
 public:
   virtual ~Renderer();
@@ -61,6 +107,9 @@ public:
   /// The class for all other features is the last one.
   std::vector<SymbolClass> const& classes() const { return classes_; }
 
+  /// What of the symbols follows the features; their values are read with these.
+  std::vector<VariedProperty> const& varied() const { return varied_; }
+
 protected:
   explicit Renderer(RendererSettings settings);
   int otherClass() const { return settings_.others.symbol ? static_cast<int>(settings_.classes.size()) : -1; }
@@ -68,6 +117,7 @@ protected:
 private:
   RendererSettings const settings_;
   std::vector<SymbolClass> classes_;
+  std::vector<VariedProperty> varied_;
 };
 
 SYSCARTO_EXPORT std::unique_ptr<Renderer> makeRenderer(RendererSettings const& settings);

@@ -3,9 +3,10 @@
 #include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/labels/LabelPlacer.h"
-#include "host/SysCarto/layers/FeaturePainter.h"
+#include "host/SysCarto/layers/FeaturePasses.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysDisplay/DisplayTransformationHost.h"
+#include "host/SysUtility/NumberText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -32,21 +33,6 @@ Box areaOf(DrawTarget const& target, double reachPx) {
   QRectF const area =
       target.toDevice().inverted().mapRect(target.area().adjusted(-reachPx, -reachPx, reachPx, reachPx));
   return {area.left(), area.top(), area.right(), area.bottom()};
-}
-
-// What draws the features of each class; null for nothing.
-using Pass = std::vector<std::unique_ptr<FeaturePainter>>;
-
-std::vector<Pass> passesOf(std::vector<SymbolClass> const& classes, DrawTarget& target) {
-  std::vector<Pass> passes;
-  for (size_t i = 0; i < classes.size(); ++i) {
-    auto const symbols = FeaturePainter::passesOf(classes[i].symbol.get());
-    for (int pass = 0; pass < symbols.size(); ++pass) {
-      if (pass == static_cast<int>(passes.size())) passes.emplace_back(classes.size());
-      passes[pass][i] = FeaturePainter::create(target, symbols[pass]);
-    }
-  }
-  return passes;
 }
 
 }  // namespace
@@ -93,16 +79,14 @@ void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& t
   double const scale = pixelsPerUnit(target.toDevice());
   if (!(scale > 0) || !std::isfinite(scale) || target.area().isEmpty()) return;
 
-  std::vector<Pass> const passes = passesOf(renderer_->classes(), target);
-  double reachPx = 0;
-  for (Pass const& pass : passes)
-    for (auto const& painter : pass)
-      if (painter) reachPx = std::max(reachPx, painter->reachPx());
-  Box const area = areaOf(target, reachPx + 1);
+  FeatureLooks const looks(*renderer_, *store_, transformation.GetMapScale());
+  FeaturePasses const passes(*renderer_, looks, target);
+  Box const area = areaOf(target, passes.reachPx() + 1);
   thinned_->setResolution(1 / scale);
-  std::vector<int> const shown = store_->query(area);
+  std::vector<int> shown = store_->query(area);
+  looks.sort(shown);
   int untilCheck = 0;
-  for (Pass const& pass : passes)
+  for (FeaturePasses::Pass const& pass : passes.passes())
     for (int const feature : shown) {
       if (untilCheck-- == 0) {
         if (isCancelled(cancel)) return;
@@ -113,9 +97,18 @@ void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& t
     }
 }
 
+// Of markers in proportion, some sizes and what has no number.
 QList<LegendClass> VectorLayer::legendClasses() const {
   QList<LegendClass> classes;
-  for (SymbolClass const& one : renderer_->classes()) classes << LegendClass{one.label, one.symbol};
+  std::vector<SymbolClass> const& all = renderer_->classes();
+  bool const isProportional = renderer_->settings().kind == RendererSettings::Kind::Proportional;
+  if (isProportional) {
+    FeatureLooks const looks(*renderer_, *store_, 0);
+    for (double const number : looks.toldNumbers())
+      classes << LegendClass{SysUtility::grouped(number), looks.markerFor(number)};
+  }
+  for (size_t i = isProportional ? 1 : 0; i < all.size(); ++i)
+    if (all[i].isInLegend) classes << LegendClass{all[i].label, all[i].symbol};
   return classes;
 }
 
@@ -124,13 +117,29 @@ QVector<bool> VectorLayer::classesWithin(_ptr_t<DisplayTransformation> const& tr
   Box const shown{bounds->GetXMin(), bounds->GetYMin(), bounds->GetXMax(), bounds->GetYMax()};
   QTransform const& turn = DisplayTransformationHost::turn(*transformation);
   quint64 const look = LayerHost::look(*this);
-  bool const isSame =
-      within_.look == look && within_.turn == turn && within_.shown.contains(shown) && shown.contains(within_.shown);
-  if (!isSame) {
-    auto const found = store_->classesWithin(shown, turn, static_cast<int>(renderer_->classes().size()));
-    within_ = {look, shown, turn, QVector<bool>(found.begin(), found.end())};
-  }
+  double const scale = transformation->GetMapScale();
+  bool const isSame = within_.look == look && within_.turn == turn && within_.scale == scale &&
+                      within_.shown.contains(shown) && shown.contains(within_.shown);
+  if (!isSame) within_ = {look, shown, turn, scale, findClassesWithin(shown, turn, scale)};
   return within_.classes;
+}
+
+int VectorLayer::proportionalClasses() const {
+  if (renderer_->settings().kind != RendererSettings::Kind::Proportional) return 0;
+  return static_cast<int>(FeatureLooks(*renderer_, *store_, 0).toldNumbers().size());
+}
+
+// As the legend lists them.
+QVector<bool> VectorLayer::findClassesWithin(Box const& shown, QTransform const& turn, double scale) const {
+  std::vector<SymbolClass> const& all = renderer_->classes();
+  FeatureLooks const looks(*renderer_, *store_, scale);
+  auto const found = store_->classesWithin(shown, turn, looks.drawing(), static_cast<int>(all.size()));
+  QVector<bool> classes;
+  bool const isProportional = renderer_->settings().kind == RendererSettings::Kind::Proportional;
+  if (isProportional) classes.fill(found[0], proportionalClasses());
+  for (size_t i = isProportional ? 1 : 0; i < all.size(); ++i)
+    if (all[i].isInLegend) classes << found[i];
+  return classes;
 }
 
 bool VectorLayer::IsAnnotationVisible() const { return labels_.visible && labels_.isUsed(); }

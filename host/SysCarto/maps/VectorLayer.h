@@ -43,6 +43,9 @@ public:
   void Draw(QPainter& painter, SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation, int phase,
             SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) override;
   QList<LegendClass> legendClasses() const override;
+
+  /// How many of these, the first ones, are markers in proportion to numbers, the largest first.
+  int proportionalClasses() const;
   bool IsAnnotationVisible() const override;
   SysUtility::_ptr_t<AnnotationProperties> GetAnnotationProperties() const override;
   void GetAnnotationElements(QMap<int, QList<SysUtility::_ptr_t<SysGeometry::Polygon>>>& obstacles,
@@ -53,6 +56,7 @@ public:
 private:
   QVector<bool> classesWithin(
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
+  QVector<bool> findClassesWithin(Box const& shown, QTransform const& turn, double scale) const;
   void drawFeatures(QPainter& painter, SysDisplay::DisplayTransformation const& transformation,
                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
 
@@ -69,6 +73,7 @@ private:
     quint64 look = 0;
     Box shown;
     QTransform turn;
+    double scale = 0;
     QVector<bool> classes;
   };
   mutable Within within_;

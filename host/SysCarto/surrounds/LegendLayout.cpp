@@ -32,7 +32,8 @@ _ptr_t<TextSymbol>& LegendLayout::symbolOf(LegendRow const& row) {
 
 // Layers that have classes stand apart from what is above and below them.
 double LegendLayout::spaceAbove(int row) const {
-  bool const followsClasses = row > 0 && rows_[row - 1].kind == LegendRow::Class;
+  bool const followsClasses =
+      row > 0 && (rows_[row - 1].kind == LegendRow::Class || rows_[row - 1].kind == LegendRow::Nested);
   bool const standsApart =
       rows_[row].kind == LegendRow::Heading || (rows_[row].kind == LegendRow::Layer && followsClasses);
   return standsApart ? layerGap : rowGap;
@@ -47,11 +48,20 @@ void LegendLayout::measure(QString const& title, QVector<LegendRow> const& rows)
   titleWidth_ = titleBounds.width();
   titleHeight_ = title.isEmpty() ? 0 : titleBounds.height() + titleGap;
   sizes_.clear();
+  nested_.clear();
   patchesWidth_ = 0;
   for (LegendRow const& row : rows)
-    if (row.kind != LegendRow::Heading) patchesWidth_ = std::max(patchesWidth_, patch_.sizeOf(row.symbols).width());
+    if (row.kind != LegendRow::Heading && row.kind != LegendRow::Nested)
+      patchesWidth_ = std::max(patchesWidth_, patch_.sizeOf(row.symbols).width());
   for (int i = 0; i < rows_.size(); ++i) {
     LegendRow& row = rows_[i];
+    if (row.kind == LegendRow::Nested) {
+      NestedMarkers const nested(row.nested, *style_.lettering.label);
+      QSizeF const size = nested.size();
+      nested_.insert({i, nested});
+      sizes_ << Measured{size.height(), size.width(), spaceAbove(i)};
+      continue;
+    }
     bool const isHeading = row.kind == LegendRow::Heading;
     auto const& symbol = symbolOf(row);
     row.text = SysDisplay::wrapped(row.text, *symbol, style_.wrapPt);
@@ -146,11 +156,13 @@ QList<_ptr_t<Element>> LegendLayout::elements(QString const& given, QVector<Lege
 void LegendLayout::addRow(int number, double x, double y) {
   LegendRow const& row = rows_[number];
   double const height = sizes_[number].height;
+  auto const toPage = [this](double left, double top) { return onPage(left, top); };
+  if (row.kind == LegendRow::Nested)
+    return nested_.at(number).add(pieces_, QPointF(x, y), factor_, style_.lettering.label, toPage);
   auto const& symbol = symbolOf(row);
   double const textHeight = symbol->bounds(row.text).height() / factor_;
   double const indent = row.kind == LegendRow::Heading ? 0 : patchesWidth_ + patchGap;
-  patch_.add(pieces_, row.symbols, QPointF(x + patchesWidth_ / 2, y + height / 2), factor_,
-             [this](double left, double top) { return onPage(left, top); });
+  patch_.add(pieces_, row.symbols, QPointF(x + patchesWidth_ / 2, y + height / 2), factor_, toPage);
   pieces_ << textPiece(row.text, symbol, onPage(x + indent, y + (height - textHeight) / 2));
 }
 

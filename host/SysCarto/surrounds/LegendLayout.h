@@ -2,8 +2,11 @@
 
 #include "host/SysCarto/surrounds/LegendPatch.h"
 #include "host/SysCarto/surrounds/LegendRows.h"
+#include "host/SysCarto/surrounds/NestedMarkers.h"
 
 #include <SysCarto/Element.h>
+
+#include <map>
 
 namespace SysCarto {
 
@@ -54,6 +57,7 @@ private:
   LegendPatch const patch_;
   QVector<LegendRow> rows_;  // with their texts broken into lines
   QVector<Measured> sizes_;
+  std::map<int, NestedMarkers> nested_;  // by row
   double titleWidth_ = 0, titleHeight_ = 0, patchesWidth_ = 0;
   double left_ = 0, top_ = 0, factor_ = 1;  // of the arrangement on the page, in centimetres
   QList<SysUtility::_ptr_t<Element>> pieces_;

@@ -1,6 +1,7 @@
 #include "LegendRows.h"
 
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/maps/VectorLayer.h"
 
 #include <QCoreApplication>
 
@@ -61,14 +62,23 @@ private:
     if (told.isEmpty()) return;
     QString const name = entry.text.isEmpty() ? layer.GetName() : entry.text;
     auto const stack = stackOf(layer, entry.with);
-    if (classes.size() == 1) {
+    auto const* const vector = dynamic_cast<VectorLayer const*>(&layer);
+    int const proportional = vector ? vector->proportionalClasses() : 0;
+    if (classes.size() == 1 && proportional == 0) {
       bool const isOwn = entry.text.isEmpty() && !classes[0].label.isEmpty();
       rows_ << LegendRow{shortened(isOwn ? classes[0].label : name), symbolsOf(stack, classes[0]), LegendRow::Layer};
       return;
     }
     rows_ << LegendRow{shortened(name), {}, LegendRow::Heading};
+    bool const isNested =
+        proportional > 0 && vector->renderer().settings().proportional.shape == ProportionalSettings::Shape::Nested;
+    QVector<LegendClass> nested;
+    for (int const one : qAsConst(told))
+      if (isNested && one < proportional) nested << LegendClass{shortened(textOf(classes[one])), classes[one].symbol};
+    if (!nested.isEmpty()) rows_ << LegendRow{{}, {}, LegendRow::Nested, nested};
     for (int const one : told)
-      rows_ << LegendRow{shortened(textOf(classes[one])), symbolsOf(stack, classes[one]), LegendRow::Class};
+      if (!isNested || one >= proportional)
+        rows_ << LegendRow{shortened(textOf(classes[one])), symbolsOf(stack, classes[one]), LegendRow::Class};
   }
 
   QVector<int> toldClasses(Layer const& layer, QList<LegendClass> const& classes, LegendEntry const& entry) const {

@@ -1,5 +1,7 @@
 #include "LayerClasses.h"
 
+#include "ClassifyDialog.h"
+
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysUtility/JsonFields.h"
 
@@ -107,4 +109,14 @@ QString LayerClasses::make(SysCarto::MapDocument const& document, Editable::Poin
   auto const classes = classify(values, layer->renderer().settings(), wanted);
   if (!classes.problem.isEmpty()) return classes.problem;
   return give(document, thing, classes.renderer, warnings);
+}
+
+QString LayerClasses::ask(SysCarto::MapDocument const& document, Editable::Pointer const& thing, QWidget* parent) {
+  auto const layer = thing ? SysUtility::ptr_cast<SysCarto::VectorLayer>(thing->layer()) : nullptr;
+  if (!layer) return QString();
+  ClassifyDialog dialog(layer, parent);
+  if (dialog.exec() != QDialog::Accepted) return QString();
+  QStringList warnings;
+  QString const problem = give(document, thing, dialog.renderer(), warnings);
+  return problem.isEmpty() ? warnings.join(QLatin1Char('\n')) : problem;
 }

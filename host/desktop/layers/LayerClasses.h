@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+class QWidget;
+
 /// Classes for a layer, made of the values of a field.
 struct LayerClasses {
   Q_DECLARE_TR_FUNCTIONS(LayerClasses)
@@ -23,4 +25,7 @@ public:
   /// it.
   static QString make(SysCarto::MapDocument const& document, SysCarto::Editable::Pointer const& layer,
                       SysCarto::ClassifySettings const& wanted, QStringList& warnings);
+
+  /// Asks the person at the window for classes, and gives them to the layer. Answers what is to be told, if anything.
+  static QString ask(SysCarto::MapDocument const& document, SysCarto::Editable::Pointer const& layer, QWidget* parent);
 };
