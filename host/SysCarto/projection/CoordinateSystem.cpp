@@ -8,11 +8,14 @@
 
 #include <ogr_spatialref.h>
 
+#include <cmath>
+
 namespace SysCarto {
 
 namespace {
 
 constexpr int maxCharacters = 16384;
+constexpr double degree = M_PI / 180, sameUnit = 1e-12;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(CoordinateSystem)
@@ -69,6 +72,17 @@ QString read(QString const& definition, SystemPtr& system) {
   return QString();
 }
 
+// The system on the same globe whose poles are the globe's own.
+OGRSpatialReference* underived(OGRSpatialReference const& system) {
+  char const* const datum = system.GetAttrValue("DATUM");
+  char const* meridian = nullptr;
+  double const longitude = system.GetPrimeMeridian(&meridian);
+  auto globe = std::make_unique<OGRSpatialReference>();
+  OGRErr const result = globe->SetGeogCS(nullptr, datum, system.GetAttrValue("ELLIPSOID"), system.GetSemiMajor(),
+                                         system.GetInvFlattening(), meridian, longitude);
+  return result == OGRERR_NONE ? globe.release() : nullptr;
+}
+
 }  // namespace
 
 QString checkCoordinateSystem(QString const& definition) {
@@ -83,8 +97,11 @@ std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definit
 }
 
 std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system) {
-  SystemPtr globe(system.CloneGeogCS());
-  if (globe) globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+  SysGeometry::QuietOgr const quiet;
+  SystemPtr globe(system.IsDerivedGeographic() ? underived(system) : system.CloneGeogCS());
+  if (!globe) return globe;
+  if (std::abs(globe->GetAngularUnits() - degree) > sameUnit) globe->SetAngularUnits(SRS_UA_DEGREE, degree);
+  globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
   return globe;
 }
 

@@ -21,7 +21,8 @@ SYSCARTO_EXPORT QString checkCoordinateSystem(QString const& definition);
 /// `checkCoordinateSystem` refuses.
 SYSCARTO_EXPORT std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definition);
 
-/// The geographic system on whose globe a system lies, longitude before latitude; null where it has none.
+/// The geographic system on whose globe a system lies: degrees from its prime meridian, longitude before latitude; null
+/// where it has none.
 std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system);
 
 }  // namespace SysCarto

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/CurveDivider.h"
+#include "host/SysCarto/projection/ProjectionProbe.h"
 #include "host/SysGeometry/PlaneGeometry.h"
 
 #include <ogr_geometry.h>
@@ -14,8 +15,9 @@ namespace SysCarto {
 
 namespace {
 
-constexpr double earthRadiusM = 6378137;
+constexpr double degree = M_PI / 180;
 constexpr double toleranceM = 10;
+constexpr double toleranceShare = 1e-6;  // of the map
 constexpr double toleranceDegrees = 1e-4;
 constexpr double maxEdgeDegrees = 5;     // longer edges are divided, whatever a look at their middle says
 constexpr double minEdgeDegrees = 0.05;  // a curve this short strays from its chord by about a metre
@@ -25,13 +27,14 @@ constexpr double nearAntimeridian = 150;  // where both ends of an edge that ste
 constexpr double noArea = 5e-8;           // square degrees
 constexpr double poleDegrees = 0.01;      // and how near to a pole their lower edge may end
 constexpr double inwards = 1e-9;          // at ±180 itself a projection may take either side
-constexpr double maxRadii = 6;            // what is projected beyond this is as good as infinite
 constexpr int maxCollectionDepth = 32;
 
 double metresPerUnit(OGRSpatialReference const& system) {
   double const unit = system.IsProjected() ? system.GetLinearUnits() : 1;
   return unit > 0 ? unit : 1;
 }
+
+double meridianOf(OGRSpatialReference const& system) { return system.GetPrimeMeridian(); }
 
 bool isOnGlobe(OGRSpatialReference const& system) { return system.IsGeographic() || system.IsProjected(); }
 
@@ -126,18 +129,21 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
 
   auto const globe = globeOf(*target);
   if (!globe) return projector;
-  projector->sourceIsGeographic_ = source->IsGeographic();
+  projector->sourceIsGeographic_ = source->IsGeographic() && !source->IsDerivedGeographic();
+  if (projector->sourceIsGeographic_) {
+    projector->sourceDegree_ = source->GetAngularUnits() / degree;
+    projector->antimeridian_ = std::remainder(180 + meridianOf(*source) - meridianOf(*globe), 360.0);
+  }
   if (!isSame(*source, *globe)) projector->toGlobe_ = PointTransform::create(*source, *globe, error);
   if (!error.isEmpty()) return nullptr;
   projector->toMap_ = PointTransform::create(*globe, *target, error);
   if (!projector->toMap_) return nullptr;
 
-  double const unit = metresPerUnit(*target), farthest = maxRadii * earthRadiusM / unit;
-  PointTransform const& toMap = *projector->toMap_;
-  projector->domain_ = makeDomain(*target, [&](double x, double y) {
-    return toMap.apply(x, y) && std::abs(x) < farthest && std::abs(y) < farthest;
-  });
+  double const unit = metresPerUnit(*target);
+  Domain const& domain = projector->domain_ = makeDomain(*target, ProjectionProbe(*projector->toMap_, *target, *globe));
   projector->mapTolerance_ = target->IsGeographic() ? toleranceDegrees : toleranceM / unit;
+  // Some projections count in globes, and not in metres.
+  if (domain.size > 0) projector->mapTolerance_ = std::min(projector->mapTolerance_, domain.size * toleranceShare);
   projector->maxSourceEdge_ = maxEdgeM / metresPerUnit(*source);
   return projector;
 }
@@ -147,6 +153,8 @@ std::unique_ptr<GeometryProjector> GeometryProjector::clone() const {
   if (toGlobe_) copy->toGlobe_ = toGlobe_->clone();
   if (toMap_) copy->toMap_ = toMap_->clone();
   copy->sourceIsGeographic_ = sourceIsGeographic_;
+  copy->sourceDegree_ = sourceDegree_;
+  copy->antimeridian_ = antimeridian_;
   copy->domain_ = domain_;
   copy->mapTolerance_ = mapTolerance_;
   copy->maxSourceEdge_ = maxSourceEdge_;
@@ -234,7 +242,10 @@ Run GeometryProjector::toGlobe(std::vector<double> xy, bool closed) const {
   if (toGlobe_) toGlobe_->apply(xy);
   size_t const count = xy.size() / 2;
   if (toGlobe_ && sourceIsGeographic_)  // another datum must not move a place to the other side of the antimeridian
-    for (size_t i = 0; i < count; ++i) xy[2 * i] = source[2 * i] + std::remainder(xy[2 * i] - source[2 * i], 360.0);
+    for (size_t i = 0; i < count; ++i) {
+      double const written = source[2 * i] * sourceDegree_ + antimeridian_ - 180;
+      xy[2 * i] = written + std::remainder(xy[2 * i] - written, 360.0);
+    }
   double start = 0;  // of the edge: its other places are as near to it in longitude as they can be
   auto const project = [&](double& x, double& y) {
     if (!toGlobe_->apply(x, y)) return false;
@@ -253,7 +264,8 @@ Run GeometryProjector::toGlobe(std::vector<double> xy, bool closed) const {
                    {source[2 * n], source[2 * n + 1], end, xy[2 * n + 1]}, add);
   }
   if (sourceIsGeographic_) {
-    closed ? joinRing(run, domain_.centralLongitude) : joinLine(run, domain_.centralLongitude);
+    double const zero = 180 + domain_.centralLongitude - antimeridian_;  // as the source counts
+    closed ? joinRing(run, zero) : joinLine(run, zero);
   } else {
     unwrap(run);
     if (closed) closeOverPole(run);
@@ -267,9 +279,9 @@ void GeometryProjector::markSeams(Run& ring) const {
   for (size_t i = 0; i < ring.size(); ++i) {
     Vertex& a = ring[i];
     Vertex const& b = ring[(i + 1) % ring.size()];
-    double const ax = a.x + domain_.centralLongitude, bx = b.x + domain_.centralLongitude;
+    double const beside = a.x + domain_.centralLongitude - antimeridian_;
     bool const onCut =
-        std::abs(std::abs(std::remainder(ax, 360.0)) - 180) < seamDegrees && std::abs(ax - bx) < 2 * seamDegrees;
+        std::abs(std::remainder(beside, 360.0)) < seamDegrees && std::abs(a.x - b.x) < 2 * seamDegrees;
     bool const onPole = std::min(std::abs(a.y), std::abs(b.y)) > 90 - poleDegrees && a.y * b.y > 0;
     if ((sourceIsGeographic_ && onCut) || onPole) a.edge |= seamEdge;
   }

@@ -1,5 +1,9 @@
 #include "ProjectionDomain.h"
 
+#include "GlobeSurvey.h"
+#include "ProjectionProbe.h"
+
+#include <QMutex>
 #include <QRegularExpression>
 #include <QString>
 
@@ -8,6 +12,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <map>
 
 namespace SysCarto {
 
@@ -23,8 +29,6 @@ struct CentredProjection {
 constexpr CentredProjection centredProjections[] = {
   {"ortho",    91}, {"nsper",    90}, {"tpers", 90}, {"geos",   90}, {"gnom", 70},
   {"stere",   140}, {"sterea",  140}, {"ups",   90}, {"laea", 179.5}, {"aeqd", 179.5}, {"airy", 90},
-  {"tmerc",    85}, {"etmerc",   85}, {"utm",   85}, {"cass",   85}, {"tcea", 85},
-  {"omerc",    80}, {"somerc",   80}, {"krovak", 80},
 };
 // clang-format on
 
@@ -50,46 +54,60 @@ double numberOf(QString const& text, char const* key, double otherwise) {
   return ok && std::isfinite(value) ? value : otherwise;
 }
 
-// The last place between a good and a bad one that is good.
-double lastGood(double good, double bad, std::function<bool(double)> const& isGood) {
-  for (int i = 0; i < 48; ++i) {
-    double const middle = (good + bad) / 2;
-    (isGood(middle) ? good : bad) = middle;
+// Asks for places along ways from a centre, all ways at once: the distances to which they are good, towards `farthest`.
+using IsShown = std::function<std::vector<char>(std::vector<double> const& distances)>;
+
+std::vector<double> reach(size_t count, double farthest, IsShown const& isShown) {
+  constexpr int steps = 18, halvings = 48;
+  std::vector<double> good(count, 0), bad(count, 0), asked(count);
+  std::vector<char> isEnded(count, 0);
+  for (int i = 1; i <= steps; ++i) {
+    for (double& distance : asked) distance = farthest * i / steps;
+    std::vector<char> const shown = isShown(asked);
+    for (size_t k = 0; k < count; ++k) {
+      if (!isEnded[k]) (shown[k] ? good : bad)[k] = asked[k];
+      if (!shown[k]) isEnded[k] = 1;
+    }
+  }
+  if (std::none_of(isEnded.begin(), isEnded.end(), [](char ended) { return ended; })) return good;
+  for (int i = 0; i < halvings; ++i) {
+    for (size_t k = 0; k < count; ++k) asked[k] = isEnded[k] ? (good[k] + bad[k]) / 2 : good[k];
+    std::vector<char> const shown = isShown(asked);
+    for (size_t k = 0; k < count; ++k)
+      if (isEnded[k]) (shown[k] ? good : bad)[k] = asked[k];
   }
   return good;
 }
 
-// How far the projection reaches from 0, where it is good, towards `farthest`.
-double reach(double farthest, std::function<bool(double)> const& isGood) {
-  constexpr int steps = 18;
-  double good = 0;
-  for (int i = 1; i <= steps; ++i) {
-    double const place = farthest * i / steps;
-    if (!isGood(place)) return lastGood(good, place, isGood);
-    good = place;
-  }
-  return farthest;
+std::vector<char> areShown(std::vector<double> xy, ProjectionProbe const& probe) {
+  probe.project(xy);
+  std::vector<char> shown(xy.size() / 2);
+  for (size_t i = 0; i < shown.size(); ++i) shown[i] = std::isfinite(xy[2 * i]);
+  return shown;
 }
 
-std::unique_ptr<ProjectionDomain> makeStrip(QString const& name, double centralLongitude,
-                                            CanProject const& canProject) {
+Domain makeStrip(QString const& name, double centralLongitude, ProjectionProbe const& probe) {
   // The poles of a cylindrical conformal map lie at infinity. 85.06 makes the world a square, as web maps have it.
   double const farthest = name == QLatin1String("webmerc") ? 85.0511287798 : name == QLatin1String("merc") ? 89 : 90;
-  auto const isGood = [&](double latitude) { return canProject(centralLongitude, latitude); };
-  return makeStripDomain(reach(-farthest, isGood), reach(farthest, isGood));
+  auto const reachTo = [&](double pole) {
+    return reach(1, pole, [&](std::vector<double> const& latitudes) {
+      return areShown({centralLongitude, latitudes[0]}, probe);
+    })[0];
+  };
+  return {centralLongitude, true, makeStripDomain(reachTo(-farthest), reachTo(farthest)), 0};
 }
 
-std::unique_ptr<ProjectionDomain> makeDisk(double longitude, double latitude, double farthest,
-                                           CanProject const& canProject) {
-  std::vector<double> limits(directions);
-  for (int i = 0; i < directions; ++i) {
-    auto const isGood = [&](double distance) {
-      Vertex const place = placeFrom(latitude, i * 360.0 / directions, distance);
-      return canProject(longitude + place.x, place.y);
-    };
-    limits[i] = reach(farthest, isGood) - margin;
-  }
-  return makeDiskDomain(latitude, std::move(limits));
+Domain makeDisk(double longitude, double latitude, double farthest, ProjectionProbe const& probe) {
+  std::vector<double> limits = reach(directions, farthest, [&](std::vector<double> const& distances) {
+    std::vector<double> xy;
+    for (int i = 0; i < directions; ++i) {
+      Vertex const place = placeFrom(latitude, i * 360.0 / directions, distances[i]);
+      xy.insert(xy.end(), {longitude + place.x, place.y});
+    }
+    return areShown(std::move(xy), probe);
+  });
+  for (double& limit : limits) limit -= margin;
+  return {longitude, false, makeDiskDomain(latitude, std::move(limits)), 0};
 }
 
 bool isWebMercator(OGRSpatialReference const& system) {
@@ -99,21 +117,62 @@ bool isWebMercator(OGRSpatialReference const& system) {
          (method && QString::fromUtf8(method).contains(QLatin1String("Auxiliary_Sphere")));
 }
 
-}  // namespace
-
-ProjectionDomain::~ProjectionDomain() = default;
-
-Domain makeDomain(OGRSpatialReference const& system, CanProject const& canProject) {
-  if (system.IsGeographic()) return {0, true, makeStripDomain(-90, 90)};
-  QString const text = projText(system);
+// What the projection suggests.
+Domain suggested(OGRSpatialReference const& system, QString const& text, ProjectionProbe const& probe) {
+  if (system.IsGeographic()) return {0, true, makeStripDomain(-90, 90), 0};
   QString name = valueOf(text, "proj");
   double longitude = numberOf(text, "lon_0", numberOf(text, "lonc", 0)), latitude = numberOf(text, "lat_0", 0);
   if (name == QLatin1String("utm")) longitude = 6 * numberOf(text, "zone", 31) - 183;
   for (CentredProjection const& centred : centredProjections)
     if (name == QLatin1String(centred.name))
-      return {longitude, false, makeDisk(longitude, latitude, centred.farthest, canProject)};
+      return makeDisk(longitude, latitude, centred.farthest, probe);
   if (isWebMercator(system) || text.contains(QLatin1String("+nadgrids=@null"))) name = QStringLiteral("webmerc");
-  return {longitude, true, makeStrip(name, longitude, canProject)};
+  return makeStrip(name, longitude, probe);
+}
+
+// The place at the false easting and northing.
+Vertex middleOf(QString const& text, double centralLongitude, ProjectionProbe const& probe) {
+  double const unit = numberOf(text, "to_meter", 1);
+  Vertex middle{numberOf(text, "x_0", 0) / unit, numberOf(text, "y_0", 0) / unit, 0};
+  if (!probe.comeBack(middle.x, middle.y)) return {0, numberOf(text, "lat_0", 0), 0};
+  middle.x = std::remainder(middle.x - centralLongitude, 360.0);
+  return middle;
+}
+
+Domain found(OGRSpatialReference const& system, ProjectionProbe const& probe) {
+  QString const text = projText(system);
+  Domain domain = suggested(system, text, probe);
+  GlobeSurvey const glance(probe, domain.centralLongitude, GlobeSurvey::Care::Glance);
+  domain.size = glance.size();
+  if (glance.suits(*domain.border)) return domain;
+  GlobeSurvey survey(probe, domain.centralLongitude, GlobeSurvey::Care::Survey);
+  domain.isStrip = true;
+  domain.border = makeRegionDomain(survey.border(middleOf(text, domain.centralLongitude, probe)));
+  return domain;
+}
+
+QString keyOf(OGRSpatialReference const& system) {
+  char* text = nullptr;
+  QString result;
+  if (system.exportToWkt(&text) == OGRERR_NONE) result = QString::fromUtf8(text);
+  CPLFree(text);
+  return result;
+}
+
+}  // namespace
+
+ProjectionDomain::~ProjectionDomain() = default;
+
+Domain makeDomain(OGRSpatialReference const& system, ProjectionProbe const& probe) {
+  constexpr size_t mostKept = 64;
+  static QMutex mutex;
+  static std::map<QString, Domain> known;
+  QMutexLocker const locker(&mutex);
+  QString const key = keyOf(system);
+  auto const place = known.find(key);
+  if (place != known.end()) return place->second;
+  if (known.size() >= mostKept) known.clear();
+  return known[key] = found(system, probe);
 }
 
 }  // namespace SysCarto

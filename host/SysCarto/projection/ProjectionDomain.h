@@ -1,12 +1,13 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <vector>
 
 class OGRSpatialReference;
 
 namespace SysCarto {
+
+class ProjectionProbe;
 
 /// What is known of the edge that leads from a vertex to the next.
 enum EdgeFlag : unsigned char {
@@ -43,20 +44,19 @@ public:
   virtual bool admit(Vertex& point) const = 0;
 };
 
-/// Answers whether a place (degrees from the projection's middle, latitude) can be projected.
-using CanProject = std::function<bool(double x, double y)>;
-
 struct Domain {
   double centralLongitude;  ///< where x is 0
   bool isStrip;             ///< x is within ±180 after clipping; otherwise it may be any turn of the globe
   std::shared_ptr<ProjectionDomain const> border;
+  double size = 0;  ///< about the longer side of what is shown, in map units
 };
 
-/// The domain of a geographic or projected coordinate system. `canProject` is asked with longitudes of the system, not
-/// from its middle.
-Domain makeDomain(OGRSpatialReference const& system, CanProject const& canProject);
+/// The domain of a geographic or projected coordinate system: the strip or the disk that its projection suggests, where
+/// the projection shows all of it without a break, and else the region that a survey of the globe finds. One that was
+/// found is kept for the next who asks.
+Domain makeDomain(OGRSpatialReference const& system, ProjectionProbe const& probe);
 
-// The two kinds.
+// The three kinds.
 
 /// A strip between two meridians, 360 degrees apart, and two parallels.
 std::unique_ptr<ProjectionDomain> makeStripDomain(double south, double north);
@@ -67,5 +67,8 @@ Vertex placeFrom(double centreLatitude, double direction, double distance);
 /// Everything within a distance of a centre that depends on the direction. `limits` are degrees, for directions evenly
 /// spaced from north over east.
 std::unique_ptr<ProjectionDomain> makeDiskDomain(double centreLatitude, std::vector<double> limits);
+
+/// What borders enclose by the even-odd rule, within ±180 and ±90 degrees.
+std::unique_ptr<ProjectionDomain> makeRegionDomain(std::vector<Run> border);
 
 }  // namespace SysCarto
