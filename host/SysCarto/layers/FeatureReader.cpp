@@ -105,11 +105,20 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
                   std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority);
   });
   layer.ResetReading();
-  while (OGRFeatureUniquePtr feature{layer.GetNextFeature()})
-    if (feature->GetGeometryRef() && condition.admits(*feature)) intake.add(std::move(feature));
+  bool isEmpty = true;
+  while (OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
+    if (!feature->GetGeometryRef() || !condition.admits(*feature)) continue;
+    isEmpty = isEmpty && feature->GetGeometryRef()->IsEmpty();
+    intake.add(std::move(feature));
+  }
   QString const unplaced = intake.finish();
   store.finish();
-  if (!unplaced.isEmpty())
+  if (!isEmpty && store.parts.empty())
+    result.warnings << Texts::tr(
+                           "Nothing of %1 lies where the map's coordinate system shows the globe, so that the layer is "
+                           "empty; give the map another coordinate system, or the source the one that it has in truth.")
+                           .arg(describeSource(source));
+  else if (!unplaced.isEmpty())
     result.warnings << Texts::tr("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
 }
 

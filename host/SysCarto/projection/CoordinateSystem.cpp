@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QRegularExpression>
 
+#include <cpl_conv.h>
 #include <ogr_spatialref.h>
 
 #include <cmath>
@@ -72,7 +73,16 @@ QString read(QString const& definition, SystemPtr& system) {
   return QString();
 }
 
-// The system on the same globe whose poles are the globe's own.
+// Whether longitudes are counted on from another one than −180.
+bool isWrapped(OGRSpatialReference const& system) {
+  char* text = nullptr;
+  bool const isWrapped =
+      system.IsGeographic() && system.exportToProj4(&text) == OGRERR_NONE && QByteArray(text).contains("+lon_wrap=");
+  CPLFree(text);
+  return isWrapped;
+}
+
+// The system on the same globe whose poles are the globe's own, with longitudes from −180 to 180.
 OGRSpatialReference* underived(OGRSpatialReference const& system) {
   char const* const datum = system.GetAttrValue("DATUM");
   char const* meridian = nullptr;
@@ -98,7 +108,8 @@ std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definit
 
 std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system) {
   SysGeometry::QuietOgr const quiet;
-  SystemPtr globe(system.IsDerivedGeographic() ? underived(system) : system.CloneGeogCS());
+  bool const isOwnGlobe = !system.IsDerivedGeographic() && !isWrapped(system);
+  SystemPtr globe(isOwnGlobe ? system.CloneGeogCS() : underived(system));
   if (!globe) return globe;
   if (std::abs(globe->GetAngularUnits() - degree) > sameUnit) globe->SetAngularUnits(SRS_UA_DEGREE, degree);
   globe->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);

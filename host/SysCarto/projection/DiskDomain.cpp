@@ -73,8 +73,9 @@ private:
   }
   Vertex crossing(Vertex inside, Vertex outside) const;
   void addArc(Run& run, double from, double by) const;
-  Run clipRing(Run const& ring) const;
-  Run clipOutside(Run const& ring) const;
+  // `turnsOver` says that the border around the disk is still to be added, and becomes false where that was done.
+  Run clipRing(Run const& ring, bool& turnsOver) const;
+  Run clipOutside(Run const& ring, bool& turnsOver) const;
   bool containsAntipode(std::vector<Run> const& rings) const;
 
   double const latitude_;  // of the centre
@@ -120,7 +121,7 @@ void DiskDomain::addArc(Run& run, double from, double by) const {
 }
 
 // A ring that never comes inside either goes around the border, and then all of the disk is within it, or it doesn't.
-Run DiskDomain::clipOutside(Run const& ring) const {
+Run DiskDomain::clipOutside(Run const& ring, bool& turnsOver) const {
   double by = 0, last = polar(ring.back()).direction;
   for (Vertex const& v : ring) {
     double const direction = polar(v).direction;
@@ -128,16 +129,18 @@ Run DiskDomain::clipOutside(Run const& ring) const {
     last = direction;
   }
   Run result;
-  if (std::abs(by) > 180) addArc(result, -arcStep, 360 + arcStep);
+  if (std::abs(by) <= 180) return result;
+  if (!turnsOver) addArc(result, -arcStep, 360 + arcStep);
+  turnsOver = false;
   return result;
 }
 
-Run DiskDomain::clipRing(Run const& given) const {
+Run DiskDomain::clipRing(Run const& given, bool& turnsOver) const {
   Run const ring = divided(given, true);
   std::vector<char> inside(ring.size());
   std::transform(ring.begin(), ring.end(), inside.begin(), [&](Vertex const& v) { return isInside(v); });
   auto const first = std::find(inside.begin(), inside.end(), 1);
-  if (first == inside.end()) return clipOutside(ring);
+  if (first == inside.end()) return clipOutside(ring, turnsOver);
   if (std::find(inside.begin(), inside.end(), 0) == inside.end()) return given;
 
   Run result;
@@ -156,6 +159,8 @@ Run DiskDomain::clipRing(Run const& given) const {
     if (!inside[i] && inside[next]) {
       Vertex entry = crossing(ring[next], ring[i]);
       by += turned(last, polar(entry).direction);
+      if (turnsOver) by -= by > 0 ? 360 : -360;  // the other way round
+      turnsOver = false;
       addArc(result, left, by);
       entry.edge = ring[i].edge;
       result.push_back(entry);
@@ -178,15 +183,17 @@ bool DiskDomain::containsAntipode(std::vector<Run> const& rings) const {
 }
 
 // Seen from the centre, an area that holds the antipode lies outside of its rings; the border as one more ring turns
-// this over.
+// this over. Where a ring follows the border already, the other way round does the same: two edges on each other would
+// show as a hairline.
 void DiskDomain::clipPolygon(std::vector<Run> const& given, std::vector<std::vector<Run>>& polygons) const {
   std::vector<Run> rings, polygon;
   std::transform(given.begin(), given.end(), std::back_inserter(rings), beforePoles);
+  bool turnsOver = containsAntipode(rings);
   for (Run const& ring : rings) {
-    Run clipped = clipRing(ring);
+    Run clipped = clipRing(ring, turnsOver);
     if (clipped.size() > 2) polygon.push_back(std::move(clipped));
   }
-  if (containsAntipode(rings)) {
+  if (turnsOver) {
     polygon.emplace_back();
     addArc(polygon.back(), -arcStep, 360 + arcStep);
   }

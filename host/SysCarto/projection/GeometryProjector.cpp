@@ -5,6 +5,8 @@
 #include "host/SysCarto/projection/ProjectionProbe.h"
 #include "host/SysGeometry/PlaneGeometry.h"
 
+#include <QCoreApplication>
+
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
 
@@ -28,6 +30,10 @@ constexpr double noArea = 5e-8;           // square degrees
 constexpr double poleDegrees = 0.01;      // and how near to a pole their lower edge may end
 constexpr double inwards = 1e-9;          // at ±180 itself a projection may take either side
 constexpr int maxCollectionDepth = 32;
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(GeometryProjector)
+};
 
 double metresPerUnit(OGRSpatialReference const& system) {
   double const unit = system.IsProjected() ? system.GetLinearUnits() : 1;
@@ -127,6 +133,10 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
   bool const hasGlobe = source && target && isOnGlobe(*target);
   if (!hasGlobe || (!target->IsGeographic() && isSame(*source, *target))) return projector;
 
+  if (source->IsGeocentric()) {
+    error = Texts::tr("they are geocentric, as X, Y and Z; convert the data to longitude and latitude");
+    return nullptr;
+  }
   auto const globe = globeOf(*target);
   if (!globe) return projector;
   projector->sourceIsGeographic_ = source->IsGeographic() && !source->IsDerivedGeographic();
@@ -141,6 +151,10 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
 
   double const unit = metresPerUnit(*target);
   Domain const& domain = projector->domain_ = makeDomain(*target, ProjectionProbe(*projector->toMap_, *target, *globe));
+  if (!domain.border) {
+    error = Texts::tr("PROJ knows no way to project into it");
+    return nullptr;
+  }
   projector->mapTolerance_ = target->IsGeographic() ? toleranceDegrees : toleranceM / unit;
   // Some projections count in globes, and not in metres.
   if (domain.size > 0) projector->mapTolerance_ = std::min(projector->mapTolerance_, domain.size * toleranceShare);
@@ -280,8 +294,7 @@ void GeometryProjector::markSeams(Run& ring) const {
     Vertex& a = ring[i];
     Vertex const& b = ring[(i + 1) % ring.size()];
     double const beside = a.x + domain_.centralLongitude - antimeridian_;
-    bool const onCut =
-        std::abs(std::remainder(beside, 360.0)) < seamDegrees && std::abs(a.x - b.x) < 2 * seamDegrees;
+    bool const onCut = std::abs(std::remainder(beside, 360.0)) < seamDegrees && std::abs(a.x - b.x) < 2 * seamDegrees;
     bool const onPole = std::min(std::abs(a.y), std::abs(b.y)) > 90 - poleDegrees && a.y * b.y > 0;
     if ((sourceIsGeographic_ && onCut) || onPole) a.edge |= seamEdge;
   }

@@ -48,8 +48,8 @@ private:
       toGlobe_;  // from a projected source, or another datum; null where there is nothing to do
   std::unique_ptr<PointTransform> toMap_;  // from longitude and latitude; null without a projection
   bool sourceIsGeographic_ = true;
-  double sourceDegree_ = 1;     // how many degrees a unit of a geographic source is
-  double antimeridian_ = 180;   // where a geographic source begins anew: a longitude of the map's globe
+  double sourceDegree_ = 1;    // how many degrees a unit of a geographic source is
+  double antimeridian_ = 180;  // where a geographic source begins anew: a longitude of the map's globe
   Domain domain_{0, true, nullptr, 0};
   double mapTolerance_ = 0;   // how far a curve may lie from its edges, in map units
   double maxSourceEdge_ = 0;  // an edge of a projected source is divided beyond this length, in its units

@@ -18,11 +18,12 @@ constexpr double widest = 180 - 1.3e-8, northmost = 90 - 1.7e-7;
 constexpr double unevenness = 0.05;  // of an edge against its neighbours, from which on it may hold a break
 constexpr double remains = 1e-3;     // of its length on the map, when a break was followed to the end
 constexpr double nearlyAll = 0.9;    // of the globe
-constexpr int halvings = 30;
-constexpr int refinements = 4;
+constexpr int halvings = 24, halvingsBeside = 18;
+constexpr int refinements = 8;
+constexpr double wideBreak = 2;     // edges of the lattice
 constexpr double nearBorder = 0.5;  // degrees
-constexpr double straight = 1e-5;   // degrees: a border this near to its chord follows it
-constexpr double leastMargin = 1e-8;
+constexpr double straight = 1e-4;   // degrees: a border this near to its chord follows it
+constexpr double leastMargin = 1e-7;
 constexpr double shortestChord = 1e-3;
 
 double distance(double ax, double ay, double bx, double by) { return std::hypot(bx - ax, by - ay); }
@@ -54,9 +55,41 @@ GlobeSurvey::GlobeSurvey(ProjectionProbe const& probe, double centralLongitude, 
     fillHoles();
     dropCrumbs();
   }
-  edges_.resize(2 * nodes_.size());
+  do findBreaks();
+  while (care == Care::Survey && hideTornCells());
+}
+
+void GlobeSurvey::findBreaks() {
+  edges_.assign(2 * nodes_.size(), {});
+  points_.clear();
+  breaks_.clear();
   addEdges(false);
   addEdges(true);
+}
+
+// Where a break as wide as many cells ends within one, a point lies there that the projection can't show, such as the
+// pole of an oblique map. Answers whether there was one.
+bool GlobeSurvey::hideTornCells() {
+  auto const isTorn = [&](int edge) {
+    Edge const& found = edges_[edge];
+    if (found.last < 0 || found.first < 0) return false;
+    Place const &a = points_[found.last].place, &b = points_[found.first].place;
+    Place const &before = nodes_[points_[found.last].node], &after = nodes_[points_[found.first].node];
+    return distance(a.x, a.y, b.x, b.y) >
+           wideBreak * (distance(before.x, before.y, a.x, a.y) + distance(b.x, b.y, after.x, after.y));
+  };
+  std::vector<int> torn;
+  for (int row = 0; row < rows_; ++row)
+    for (int column = 0; column < columns_; ++column) {
+      int const corner = node(column, row), above = corner + columns_ + 1;
+      int const count = isTorn(edge(corner, false)) + isTorn(edge(corner, true)) + isTorn(edge(corner + 1, true)) +
+                        isTorn(edge(above, false));
+      bool const isShown = nodes_[corner].isShown() && nodes_[corner + 1].isShown() && nodes_[above].isShown() &&
+                           nodes_[above + 1].isShown();
+      if (isShown && count == 1) torn.insert(torn.end(), {corner, corner + 1, above, above + 1});
+    }
+  for (int at : torn) nodes_[at].x = nodes_[at].y = NAN;
+  return !torn.empty();
 }
 
 void GlobeSurvey::fill(std::vector<Place*> const& places) const {
@@ -128,7 +161,7 @@ void GlobeSurvey::addEdges(bool isUp) {
   int const step = isUp ? columns_ + 1 : 1, count = isUp ? rows_ : columns_;
   std::vector<Trace> traces;
   auto const add = [&](int from, int to, int edge) {
-    Trace trace{nodes_[from], nodes_[to], 0, edge, to > from};
+    Trace trace{nodes_[from], nodes_[to], 0, from, to, edge};
     trace.first = trace.apart();
     traces.push_back(trace);
   };
@@ -140,7 +173,8 @@ void GlobeSurvey::addEdges(bool isUp) {
       if (both && !mayBreak(place > 0 ? a - step : -1, a, b, place + 2 <= count ? b + step : -1)) continue;
       nodes_[a].isShown() ? add(a, b, edge(a, isUp)) : add(b, a, edge(a, isUp));
     }
-  follow(traces);
+  follow(traces, halvings);
+  followAgain(traces);
   auto const addAt = [&](Place const& place, int node) { return addPoint(place, node, nodes_[node]); };
   std::vector<Trace> const found = std::move(traces);
   traces.clear();
@@ -148,8 +182,8 @@ void GlobeSurvey::addEdges(bool isUp) {
     if (!trace.isBreak()) continue;
     int const a = trace.edge / 2, b = a + step;
     Edge& edge = edges_[trace.edge];
-    (trace.isForward ? edge.last : edge.first) = addAt(trace.from, trace.isForward ? a : b);
-    if (!trace.isForward || !nodes_[b].isShown()) continue;
+    (trace.isForward() ? edge.last : edge.first) = addAt(trace.from, trace.isForward() ? a : b);
+    if (!trace.isForward() || !nodes_[b].isShown()) continue;
     if (trace.to.isShown()) {
       edge.first = addAt(trace.to, b);
       breaks_.push_back(trace);
@@ -157,13 +191,31 @@ void GlobeSurvey::addEdges(bool isUp) {
       add(b, a, trace.edge);  // a gap: its other side
     }
   }
-  follow(traces);
+  follow(traces, halvings);
+  followAgain(traces);
   for (Trace const& trace : traces)
-    if (!trace.isForward) edges_[trace.edge].first = addAt(trace.from, trace.edge / 2 + step);
+    if (!trace.isForward()) edges_[trace.edge].first = addAt(trace.from, trace.edge / 2 + step);
+}
+
+// On the way to a place that isn't shown there may have been a break before.
+void GlobeSurvey::followAgain(std::vector<Trace>& traces) const {
+  std::vector<Trace> again;
+  for (Trace const& trace : traces) {
+    if (trace.to.isShown()) continue;
+    Place const& node = nodes_[trace.start];
+    int const behind = 2 * trace.start - trace.end;
+    bool const hasBehind = behind >= 0 && behind < static_cast<int>(nodes_.size()) && nodes_[behind].isShown();
+    double const way = distance(node.x, node.y, trace.from.x, trace.from.y);
+    if (hasBehind && way < wideBreak * distance(node.x, node.y, nodes_[behind].x, nodes_[behind].y)) continue;
+    again.push_back({node, trace.from, way, trace.start, trace.end, static_cast<int>(&trace - traces.data())});
+  }
+  follow(again, halvings);
+  for (Trace const& trace : again)
+    if (trace.isBreak()) traces[trace.edge].from = trace.from;
 }
 
 // Halves edges, always keeping the half with the break: with a place that isn't shown, or else the longer one.
-void GlobeSurvey::follow(std::vector<Trace>& traces) const {
+void GlobeSurvey::follow(std::vector<Trace>& traces, int halvings) const {
   std::vector<Place> middles(traces.size());
   std::vector<Place*> places;
   for (Place& middle : middles) places.push_back(&middle);
@@ -201,7 +253,7 @@ bool GlobeSurvey::suits(ProjectionDomain const& domain) const {
       shown += place.isShown();
       admitted += place.isShown() && admits(place.at);
     }
-  return admitted > shown / 2;
+  return 2 * admitted >= shown;
 }
 
 double GlobeSurvey::size() const {
@@ -253,7 +305,8 @@ int GlobeSurvey::addPoint(Place const& place, int node, Place const& towards) {
   return static_cast<int>(points_.size()) - 1;
 }
 
-// Goes along an edge of the lattice, forwards or back: appends where a stretch of what is shown ends and where one starts.
+// Goes along an edge of the lattice, forwards or back: appends where a stretch of what is shown ends and where one
+// starts.
 void GlobeSurvey::visitEdge(int edge, bool isForward, Ends& ends) const {
   Edge const& found = edges_[edge];
   int const end = isForward ? found.last : found.first, start = isForward ? found.first : found.last;
@@ -307,7 +360,12 @@ std::vector<int> GlobeSurvey::refined(std::vector<int> const& chords) {
     Place const &a = points_[chord].place, &b = points_[points_[chord].next].place;
     double const dx = b.at.x - a.at.x, dy = b.at.y - a.at.y;
     Vertex const middle = between(a.at, b.at, 0.5);
-    traces.push_back({{{middle.x - dy / 2, middle.y + dx / 2, 0}, 0, 0}, {{middle.x + dy / 2, middle.y - dx / 2, 0}, 0, 0}, 0, chord, true});
+    traces.push_back({{{middle.x - dy / 2, middle.y + dx / 2, 0}, 0, 0},
+                      {{middle.x + dy / 2, middle.y - dx / 2, 0}, 0, 0},
+                      0,
+                      0,
+                      0,
+                      chord});
   }
   for (Trace& trace : traces) places.insert(places.end(), {&trace.from, &trace.to});
   fill(places);
@@ -315,7 +373,7 @@ std::vector<int> GlobeSurvey::refined(std::vector<int> const& chords) {
   traces.erase(std::remove_if(traces.begin(), traces.end(), [](Trace const& trace) { return !trace.from.isShown(); }),
                traces.end());
   std::vector<Trace> const whole = traces;
-  follow(traces);
+  follow(traces, halvingsBeside);
   std::vector<int> divided;
   for (size_t i = 0; i < traces.size(); ++i) {
     Trace const& trace = traces[i];
@@ -356,7 +414,8 @@ std::vector<Run> GlobeSurvey::border(Vertex const& middle) {
   for (size_t i = 0; i < points_.size(); ++i) {
     if (points_[i].next < 0 || points_[i].isRim) continue;
     double const margin = std::max(leastMargin, 1.2 * points_[i].bend);
-    for (size_t k : {i, static_cast<size_t>(points_[i].next)}) margins[k] = std::max(margins[k], std::min(margin, points_[k].room / 2));
+    for (size_t k : {i, static_cast<size_t>(points_[i].next)})
+      margins[k] = std::max(margins[k], std::min(margin, points_[k].room / 2));
   }
   std::vector<Run> rings;
   std::vector<char> isDone(points_.size());

@@ -26,8 +26,8 @@ public:
   double size() const;
 
   /// The border of what is shown, in degrees from the central longitude, with what is shown on the left. A projection
-  /// of less than the globe is of use about its middle only, which is given as a place of the globe: what else comes out
-  /// somewhere, and even back, is left out.
+  /// of less than the globe is of use about its middle only, which is given as a place of the globe: what else comes
+  /// out somewhere, and even back, is left out.
   std::vector<Run> border(Vertex const& middle);
 
 private:
@@ -40,10 +40,11 @@ private:
   // Leads from a place that is shown to one that isn't, or that may lie beyond a break.
   struct Trace {
     Place from, to;
-    double first;  // how far apart the two lay on the map at first
-    int edge;      // of the lattice, or the chord that it crosses
-    bool isForward;
+    double first;    // how far apart the two lay on the map at first
+    int start, end;  // nodes
+    int edge;        // of the lattice, or the chord that it crosses
 
+    bool isForward() const { return end > start; }
     double apart() const;
     bool isBreak() const;
   };
@@ -68,9 +69,12 @@ private:
   void fill(std::vector<Place*> const& places) const;
   void fillHoles();
   void dropCrumbs();
+  void findBreaks();
+  bool hideTornCells();
   bool mayBreak(int before, int a, int b, int after) const;
   void addEdges(bool isUp);
-  void follow(std::vector<Trace>& traces) const;
+  void follow(std::vector<Trace>& traces, int halvings) const;
+  void followAgain(std::vector<Trace>& traces) const;
   int addPoint(Place const& place, int node, Place const& towards);
   void keepPartAbout(Vertex const& middle);
   void visitEdge(int edge, bool isForward, Ends& ends) const;

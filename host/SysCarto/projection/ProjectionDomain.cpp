@@ -124,8 +124,7 @@ Domain suggested(OGRSpatialReference const& system, QString const& text, Project
   double longitude = numberOf(text, "lon_0", numberOf(text, "lonc", 0)), latitude = numberOf(text, "lat_0", 0);
   if (name == QLatin1String("utm")) longitude = 6 * numberOf(text, "zone", 31) - 183;
   for (CentredProjection const& centred : centredProjections)
-    if (name == QLatin1String(centred.name))
-      return makeDisk(longitude, latitude, centred.farthest, probe);
+    if (name == QLatin1String(centred.name)) return makeDisk(longitude, latitude, centred.farthest, probe);
   if (isWebMercator(system) || text.contains(QLatin1String("+nadgrids=@null"))) name = QStringLiteral("webmerc");
   return makeStrip(name, longitude, probe);
 }
@@ -144,6 +143,8 @@ Domain found(OGRSpatialReference const& system, ProjectionProbe const& probe) {
   Domain domain = suggested(system, text, probe);
   GlobeSurvey const glance(probe, domain.centralLongitude, GlobeSurvey::Care::Glance);
   domain.size = glance.size();
+  if (domain.size == 0 && !areShown({domain.centralLongitude, numberOf(text, "lat_0", 0)}, probe)[0])
+    return {0, true, nullptr, 0};
   if (glance.suits(*domain.border)) return domain;
   GlobeSurvey survey(probe, domain.centralLongitude, GlobeSurvey::Care::Survey);
   domain.isStrip = true;

@@ -47,8 +47,8 @@ public:
 struct Domain {
   double centralLongitude;  ///< where x is 0
   bool isStrip;             ///< x is within ±180 after clipping; otherwise it may be any turn of the globe
-  std::shared_ptr<ProjectionDomain const> border;
-  double size = 0;  ///< about the longer side of what is shown, in map units
+  std::shared_ptr<ProjectionDomain const> border;  ///< empty where nothing of the globe is shown
+  double size = 0;                                 ///< about the longer side of what is shown, in map units
 };
 
 /// The domain of a geographic or projected coordinate system: the strip or the disk that its projection suggests, where

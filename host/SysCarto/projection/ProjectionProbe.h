@@ -34,7 +34,7 @@ public:
 private:
   PointTransform const& toMap_;
   std::unique_ptr<PointTransform> toGlobe_;  // null where there is no way back
-  double radius_;  // of the globe, in map units
+  double radius_;                            // of the globe, in map units
 };
 
 }  // namespace SysCarto

@@ -85,8 +85,7 @@ RegionDomain::RegionDomain(std::vector<Run> border) : border_(std::move(border))
   for (size_t ring = 0; ring < border_.size(); ++ring)
     for (size_t i = 0; i < border_[ring].size(); ++i) {
       Segment const segment{ring, i};
-      visitCells(start(segment), end(segment),
-                 [&](int cell) { cells_[cell].segments.push_back(segments_.size()); });
+      visitCells(start(segment), end(segment), [&](int cell) { cells_[cell].segments.push_back(segments_.size()); });
       segments_.push_back(segment);
     }
   for (int row = 0; row < rows; ++row) fillRow(row);
@@ -181,15 +180,14 @@ void appendWay(std::vector<Run> const& rings, OnRing const& from, OnRing const& 
   run.insert(run.end(), way.begin(), way.end());
 }
 
-// Joins crossings that follow each other on a ring, where the way between them lies inside. `of` names the place, `other`
-// and `starts` what becomes known. False where a ring is not crossed an even number of times.
+// Joins crossings that follow each other on a ring, where the way between them lies inside. `of` names the place,
+// `other` and `starts` what becomes known. False where a ring is not crossed an even number of times.
 template <class IsInside>
 bool joinAlong(std::vector<Crossing>& crossings, OnRing Crossing::*of, size_t Crossing::*other, bool Crossing::*starts,
                std::vector<char>& isCrossed, IsInside const& isInside) {
   std::vector<size_t> order(crossings.size());
   for (size_t i = 0; i < order.size(); ++i) order[i] = i;
-  std::sort(order.begin(), order.end(),
-            [&](size_t a, size_t b) { return crossings[a].*of < crossings[b].*of; });
+  std::sort(order.begin(), order.end(), [&](size_t a, size_t b) { return crossings[a].*of < crossings[b].*of; });
   for (size_t first = 0; first < order.size();) {
     size_t const ring = (crossings[order[first]].*of).ring;
     size_t last = first;
