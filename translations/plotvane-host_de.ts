@@ -1854,6 +1854,10 @@
         <source>There is nothing to draw in %1: its rows have no geometry, and no columns of coordinates are known. Name such columns in “xField” and “yField”, or one of well-known text in “geometryField”, or join it as a table to a layer; it has: %2.</source>
         <translation>In %1 ist nichts zu zeichnen: Die Zeilen haben keine Geometrie, und Spalten mit Koordinaten sind nicht bekannt. Nennen Sie solche in „xField“ und „yField“ oder eine mit Well-known Text in „geometryField“, oder verknüpfen Sie die Tabelle mit einer Ebene; sie hat: %2.</translation>
     </message>
+    <message>
+        <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
+        <translation>Nichts von %1 liegt dort, wo das Koordinatensystem der Karte den Globus zeigt, sodass die Ebene leer ist; geben Sie der Karte ein anderes Koordinatensystem, oder der Quelle das, das sie in Wahrheit hat.</translation>
+    </message>
 </context>
 <context>
     <name>FieldText</name>
@@ -4228,6 +4232,17 @@
     <message>
         <source>“%1” is not a paper form; “A4” and “Custom” are</source>
         <translation type="vanished">„%1“ ist kein Papierformat; „A4“ und „Custom“ sind welche</translation>
+    </message>
+</context>
+<context>
+    <name>GeometryProjector</name>
+    <message>
+        <source>they are geocentric, as X, Y and Z; convert the data to longitude and latitude</source>
+        <translation>sie sind geozentrisch, als X, Y und Z; wandeln Sie die Daten in Länge und Breite um</translation>
+    </message>
+    <message>
+        <source>PROJ knows no way to project into it</source>
+        <translation>PROJ kennt keinen Weg, in es zu projizieren</translation>
     </message>
 </context>
 <context>

@@ -1854,6 +1854,10 @@
         <source>There is nothing to draw in %1: its rows have no geometry, and no columns of coordinates are known. Name such columns in “xField” and “yField”, or one of well-known text in “geometryField”, or join it as a table to a layer; it has: %2.</source>
         <translation>%1中没有可绘制的内容：其行没有几何，也没有已知的坐标列。请在“xField”和“yField”中指定坐标列，或在“geometryField”中指定 WKT 列，或将其作为表连接到图层；它有：%2。</translation>
     </message>
+    <message>
+        <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
+        <translation>%1 的内容全部位于地图坐标系所显示的地球范围之外，因此该图层为空；请为地图选择其他坐标系，或为数据源指定其真实的坐标系。</translation>
+    </message>
 </context>
 <context>
     <name>FieldText</name>
@@ -4228,6 +4232,17 @@
     <message>
         <source>“%1” is not a paper form; “A4” and “Custom” are</source>
         <translation type="vanished">“%1”不是纸张规格；“A4”和“Custom”才是</translation>
+    </message>
+</context>
+<context>
+    <name>GeometryProjector</name>
+    <message>
+        <source>they are geocentric, as X, Y and Z; convert the data to longitude and latitude</source>
+        <translation>它们是地心坐标（X、Y、Z）；请将数据转换为经纬度</translation>
+    </message>
+    <message>
+        <source>PROJ knows no way to project into it</source>
+        <translation>PROJ 没有投影到该坐标系的方法</translation>
     </message>
 </context>
 <context>
