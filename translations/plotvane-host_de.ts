@@ -3945,11 +3945,11 @@
     </message>
     <message>
         <source>Whether the layers of the group show that are visible themselves.</source>
-        <translation>Ob die Layer der Gruppe zu sehen sind, die selbst sichtbar sind.</translation>
+        <translation>Ob die Ebenen der Gruppe zu sehen sind, die selbst sichtbar sind.</translation>
     </message>
     <message>
         <source>The layers of the group, the lowest first; groups lie at most 16 deep in each other.</source>
-        <translation>Die Layer der Gruppe, der unterste zuerst; Gruppen liegen höchstens 16 tief ineinander.</translation>
+        <translation>Die Ebenen der Gruppe, die unterste zuerst; Gruppen liegen höchstens 16 tief ineinander.</translation>
     </message>
     <message>
         <source>The local file of the table (CSV or any other of data), relative to the document.</source>
