@@ -80,6 +80,64 @@
     </message>
 </context>
 <context>
+    <name>AttributeModel</name>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Sorting…</source>
+        <translation>Wird sortiert…</translation>
+    </message>
+</context>
+<context>
+    <name>AttributePanel</name>
+    <message>
+        <source>Attributes</source>
+        <translation>Attribute</translation>
+    </message>
+    <message>
+        <source>Filter, as in population &gt; 1000000 AND name LIKE &apos;A%&apos;</source>
+        <translation>Filter, etwa population &gt; 1000000 AND name LIKE &apos;A%&apos;</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Zoom to Chosen</source>
+        <translation>Auf Gewählte zoomen</translation>
+    </message>
+    <message>
+        <source>Show the chosen features on the map; a double click on a row does so, too</source>
+        <translation>Die gewählten Objekte auf der Karte zeigen; ein Doppelklick auf eine Zeile tut es auch</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Attributes of “%1”</source>
+        <translation>Attribute von „%1“</translation>
+    </message>
+    <message>
+        <source>Features: %1</source>
+        <translation>Objekte: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 chosen</source>
+        <translation>%1 von %2 gewählt</translation>
+    </message>
+    <message>
+        <source>The chosen features have no place on the map.</source>
+        <translation>Die gewählten Objekte haben keinen Platz auf der Karte.</translation>
+    </message>
+    <message>
+        <source>These are too many rows to be copied; choose no more than %1.</source>
+        <translation>Das sind zu viele Zeilen zum Kopieren; wählen Sie höchstens %1.</translation>
+    </message>
+</context>
+<context>
     <name>BreakHistogram</name>
     <message>
         <source>Histogram</source>
@@ -1010,6 +1068,26 @@
         <source>a layer chosen in the contents</source>
         <translation>eine im Inhalt gewählte Ebene</translation>
     </message>
+    <message>
+        <source>Identify</source>
+        <translation>Abfragen</translation>
+    </message>
+    <message>
+        <source>Tell what lies under the mouse: the features of a map, with their attributes</source>
+        <translation>Sagen, was unter der Maus liegt: die Objekte einer Karte mit ihren Attributen</translation>
+    </message>
+    <message>
+        <source>Attribute Table</source>
+        <translation>Attributtabelle</translation>
+    </message>
+    <message>
+        <source>Show the attributes of the chosen layer&apos;s features</source>
+        <translation>Die Attribute der Objekte der gewählten Ebene zeigen</translation>
+    </message>
+    <message>
+        <source>a chosen layer of features</source>
+        <translation>eine gewählte Ebene mit Objekten</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1857,6 +1935,13 @@
     <message>
         <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
         <translation>Nichts von %1 liegt dort, wo das Koordinatensystem der Karte den Globus zeigt, sodass die Ebene leer ist; geben Sie der Karte ein anderes Koordinatensystem, oder der Quelle das, das sie in Wahrheit hat.</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTable</name>
+    <message>
+        <source>The condition “%1” is not understood: %2.</source>
+        <translation>Die Bedingung „%1“ wird nicht verstanden: %2.</translation>
     </message>
 </context>
 <context>
@@ -4337,6 +4422,61 @@
     </message>
 </context>
 <context>
+    <name>IdentifyPanel</name>
+    <message>
+        <source>Features</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Features at a place of the map</source>
+        <translation>Objekte an einer Stelle der Karte</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>There are more features here.</source>
+        <translation>Hier sind noch mehr Objekte.</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Ort</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>No features here</source>
+        <translation>Keine Objekte hier</translation>
+    </message>
+</context>
+<context>
     <name>ImageTarget</name>
     <message>
         <source>%1: the folder %2 does not exist; make it first.</source>
@@ -5224,6 +5364,10 @@
     <message>
         <source>nothing that can be turned is selected; texts, pictures, markers, lines, polygons and groups of these can.</source>
         <translation>nichts, was sich drehen lässt, ist ausgewählt; Texte, Bilder, Punktsymbole, Linien, Polygone und Gruppen davon lassen sich drehen.</translation>
+    </message>
+    <message>
+        <source>there is no map at this place; on the page, it is given in centimetres.</source>
+        <translation>an dieser Stelle ist keine Karte; auf der Seite wird sie in Zentimetern angegeben.</translation>
     </message>
 </context>
 <context>

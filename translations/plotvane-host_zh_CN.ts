@@ -80,6 +80,64 @@
     </message>
 </context>
 <context>
+    <name>AttributeModel</name>
+    <message>
+        <source>Reading…</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>Sorting…</source>
+        <translation>正在排序…</translation>
+    </message>
+</context>
+<context>
+    <name>AttributePanel</name>
+    <message>
+        <source>Attributes</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Filter, as in population &gt; 1000000 AND name LIKE &apos;A%&apos;</source>
+        <translation>筛选，如 population &gt; 1000000 AND name LIKE &apos;A%&apos;</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选条件</translation>
+    </message>
+    <message>
+        <source>Zoom to Chosen</source>
+        <translation>缩放到所选</translation>
+    </message>
+    <message>
+        <source>Show the chosen features on the map; a double click on a row does so, too</source>
+        <translation>在地图上显示所选要素；双击一行亦可</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Attributes of “%1”</source>
+        <translation>“%1”的属性</translation>
+    </message>
+    <message>
+        <source>Features: %1</source>
+        <translation>要素：%1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 chosen</source>
+        <translation>已选 %1 / %2</translation>
+    </message>
+    <message>
+        <source>The chosen features have no place on the map.</source>
+        <translation>所选要素在地图上没有位置。</translation>
+    </message>
+    <message>
+        <source>These are too many rows to be copied; choose no more than %1.</source>
+        <translation>行数过多，无法复制；请至多选择 %1 行。</translation>
+    </message>
+</context>
+<context>
     <name>BreakHistogram</name>
     <message>
         <source>Histogram</source>
@@ -1010,6 +1068,26 @@
         <source>a layer chosen in the contents</source>
         <translation>在内容列表中选中的图层</translation>
     </message>
+    <message>
+        <source>Identify</source>
+        <translation>识别</translation>
+    </message>
+    <message>
+        <source>Tell what lies under the mouse: the features of a map, with their attributes</source>
+        <translation>告知鼠标下的内容：地图的要素及其属性</translation>
+    </message>
+    <message>
+        <source>Attribute Table</source>
+        <translation>属性表</translation>
+    </message>
+    <message>
+        <source>Show the attributes of the chosen layer&apos;s features</source>
+        <translation>显示所选图层要素的属性</translation>
+    </message>
+    <message>
+        <source>a chosen layer of features</source>
+        <translation>一个选中的要素图层</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1857,6 +1935,13 @@
     <message>
         <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
         <translation>%1 的内容全部位于地图坐标系所显示的地球范围之外，因此该图层为空；请为地图选择其他坐标系，或为数据源指定其真实的坐标系。</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureTable</name>
+    <message>
+        <source>The condition “%1” is not understood: %2.</source>
+        <translation>条件“%1”无法理解：%2。</translation>
     </message>
 </context>
 <context>
@@ -4337,6 +4422,61 @@
     </message>
 </context>
 <context>
+    <name>IdentifyPanel</name>
+    <message>
+        <source>Features</source>
+        <translation>要素</translation>
+    </message>
+    <message>
+        <source>Features at a place of the map</source>
+        <translation>地图某处的要素</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>字段</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>There are more features here.</source>
+        <translation>此处还有更多要素。</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>经度</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>纬度</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>No features here</source>
+        <translation>此处无要素</translation>
+    </message>
+</context>
+<context>
     <name>ImageTarget</name>
     <message>
         <source>%1: the folder %2 does not exist; make it first.</source>
@@ -5224,6 +5364,10 @@
     <message>
         <source>nothing that can be turned is selected; texts, pictures, markers, lines, polygons and groups of these can.</source>
         <translation>没有选中可旋转的对象；文本、图片、点标记、线、多边形及其组合可以旋转。</translation>
+    </message>
+    <message>
+        <source>there is no map at this place; on the page, it is given in centimetres.</source>
+        <translation>此处没有地图；在页面上以厘米给出。</translation>
     </message>
 </context>
 <context>

@@ -10,11 +10,18 @@ using SysCarto::PageLayout;
 using SysUtility::_ptr_t;
 
 DocumentViews::DocumentViews(SysCarto::MapDocument& document, QWidget* parent)
-    : QStackedWidget(parent), document_(document), layoutView_(new LayoutView(this)), mapView_(new MapView(this)) {
+    : QStackedWidget(parent),
+      document_(document),
+      layoutView_(new LayoutView(this)),
+      mapView_(new MapView(this)),
+      highlight_(new FeatureHighlight(this)) {
   addWidget(layoutView_);
   addWidget(mapView_);
-  for (ViewWidget* view : {static_cast<ViewWidget*>(layoutView_), static_cast<ViewWidget*>(mapView_)})
+  for (ViewWidget* view : {static_cast<ViewWidget*>(layoutView_), static_cast<ViewWidget*>(mapView_)}) {
     connect(view, &ViewWidget::viewChanged, this, &DocumentViews::changed);
+    connect(highlight_, &FeatureHighlight::changed, view, QOverload<>::of(&QWidget::update));
+    view->setHighlight(*highlight_);
+  }
   follow();
 }
 

@@ -2,6 +2,8 @@
 
 #include "LayoutView.h"
 #include "MapView.h"
+#include "layers/FeatureHighlight.h"
+#include "layers/Identify.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
 
@@ -42,6 +44,12 @@ public:
   LayoutView& layoutView() { return *layoutView_; }
   MapView& mapView() { return *mapView_; }
 
+  /// What both views mark of the features of their maps.
+  FeatureHighlight& highlight() { return *highlight_; }
+
+  /// Hands on what was found at a place of a map.
+  void tell(Identified const& found) { emit identified(found); }
+
   SysUtility::_ptr_t<SysCarto::PageLayout> GetPageLayout() const override;
   void SetPageLayout(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout) override;
   SysAdapterUI::ICompanion* GetCompanion() override { return companion_; }
@@ -52,10 +60,12 @@ public:
 signals:
   /// States that depend on the views may have changed.
   void changed();
+  void identified(Identified const& found);
 
 private:
   SysCarto::MapDocument& document_;
   LayoutView* layoutView_;
   MapView* mapView_;
+  FeatureHighlight* highlight_;
   SysAdapterUI::ICompanion* companion_ = nullptr;
 };

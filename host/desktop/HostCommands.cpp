@@ -8,6 +8,7 @@
 #include "drawing/SelectTool.h"
 #include "drawing/SelectionHandles.h"
 #include "drawing/TextEditing.h"
+#include "layers/IdentifyTool.h"
 #include "layers/MapSystem.h"
 
 #include <SysFramework/HostAccess.h>
@@ -171,6 +172,7 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : vie
 
 _ptr_t<SysUI::ICommand> HostCommands::createCommand(QString const& identifier) const {
   if (identifier == QLatin1String("Host_Select")) return SysUtility::make<SelectTool>(views_);
+  if (identifier == QLatin1String("Host_Identify")) return SysUtility::make<IdentifyTool>(views_);
   for (NewElementKind const& kind : NewElementKind::all())
     if (kind.identifier && identifier == QLatin1String(kind.identifier))
       return SysUtility::make<InsertTool>(kind, views_.layoutView());

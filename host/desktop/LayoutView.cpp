@@ -157,6 +157,20 @@ QRectF LayoutView::placeOfPicture() const {
       .mapRect(QRectF(picture_.image().rect()));
 }
 
+QVector<ViewWidget::ShownMap> LayoutView::shownMaps() const {
+  QVector<ShownMap> maps;
+  if (!layout_) return maps;
+  QTransform const toPx = layout_->GetDisplayTransformation()->ToDevice();
+  for (auto const& element : layout_->GetGraphicsContainer()->GetElements()) {
+    auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element);
+    if (!frame || !frame->IsVisible()) continue;
+    auto const place = frame->GetEnvelope();
+    maps << ShownMap{frame->GetMap(),
+                     toPx.mapRect(QRectF(place->GetXMin(), place->GetYMin(), place->GetWidth(), place->GetHeight()))};
+  }
+  return maps;
+}
+
 void LayoutView::paintOver(QPainter& painter) {
   if (!layout_) return;
   paintFocusMark(painter, *layout_);

@@ -46,6 +46,7 @@ public:
   /// Begins to change the parts of the element that is selected alone, as the current tool does; false where it can't.
   bool editSelected();
 
+  QVector<ShownMap> shownMaps() const override;
   bool isComplete() const override { return picture_.isComplete(); }
   int drawnTiles() const { return picture_.drawnTiles(); }
 

@@ -6,6 +6,8 @@
 #include "NoticeBar.h"
 #include "PropertyPanel.h"
 #include "drawing/Ruler.h"
+#include "layers/AttributePanel.h"
+#include "layers/IdentifyPanel.h"
 #include "layers/LayerClasses.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
@@ -93,6 +95,7 @@ MainWindow::MainWindow()
   buildContents();
   buildProperties();
   buildHistory();
+  buildLayerPanels();
   buildStatusBar();
   actions_ = std::make_unique<ActionTable>(bench_.commands(), *this);
   auto* const recent = new QMenu(tr("Open Recent"), this);
@@ -134,7 +137,7 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   auto const modified = [this] {
     return bench_.session().isModified() || bench_.session().path().isEmpty() || properties_->isEditing();
   };
-  auto const always = std::function<bool()>();
+  auto const always = std::function<bool()>(), never = always;
   host.add(QStringLiteral("Host_New"), {[this] { files_.create(); }, always, always});
   host.add(QStringLiteral("Host_Open"), {[this] { files_.open(); }, always, always});
   auto const redrawnAs = [this](bool (DocumentFiles::*save)()) {  // a text of the page may hold the file's name
@@ -160,6 +163,10 @@ void MainWindow::addWindowCommands(HostCommands& host) {
                                              [this] { return properties_->layer() != nullptr; }, always});
   host.add(QStringLiteral("Host_History"), {[this] { historyDock_->setVisible(!historyDock_->isVisible()); }, always,
                                             [this] { return historyDock_->isVisible(); }});
+  auto const chosenLayer = [this] { return SysUtility::ptr_cast<SysCarto::VectorLayer>(chosenLayer_); };
+  host.add(QStringLiteral("Host_AttributeTable"),
+           {[this, chosenLayer] { attributes_->showLayer(chosenMap_, chosenLayer()); },
+            [chosenLayer] { return static_cast<bool>(chosenLayer()); }, never});
   host.add(QStringLiteral("Host_Rulers"), {[this] {
                                              hasRulers_ = !hasRulers_;
                                              showRulers();
@@ -279,6 +286,29 @@ void MainWindow::buildHistory() {
   historyDock_->setWidget(steps);
   addDockWidget(Qt::RightDockWidgetArea, historyDock_);
   historyDock_->hide();
+}
+
+void MainWindow::buildLayerPanels() {
+  attributes_ = new AttributePanel(bench_.session(), bench_.views(), this);
+  addDockWidget(Qt::BottomDockWidgetArea, attributes_);
+  features_ = new IdentifyPanel(bench_.views(), this);
+  addDockWidget(Qt::RightDockWidgetArea, features_);
+  attributes_->hide();
+  features_->hide();
+  auto const choose = [this](_ptr_t<SysCarto::Map> const& map, _ptr_t<SysCarto::Layer> const& layer) {
+    chosenMap_ = map;
+    chosenLayer_ = layer;
+    actions_->refreshSoon();
+  };
+  connect(contents_, &SysAdapterUI::TOCControl::RowChosen, this, choose);
+  connect(&bench_.session(), &DocumentSession::replaced, this, [this, choose] {
+    choose(nullptr, nullptr);
+    if (features_->isVisible()) features_->clear();
+  });
+  connect(&bench_.session(), &DocumentSession::historyChanged, attributes_, &AttributePanel::follow);
+  connect(&bench_.session(), &DocumentSession::replaced, attributes_, &AttributePanel::follow);
+  connect(&bench_.views(), &DocumentViews::identified, features_, &IdentifyPanel::show);
+  connect(attributes_, &AttributePanel::told, notice_, [this](QString const& text) { notice_->tell(text, false); });
 }
 
 void MainWindow::buildStatusBar() {

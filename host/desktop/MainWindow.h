@@ -14,7 +14,9 @@
 
 class QLabel;
 class QLineEdit;
+class AttributePanel;
 class ElementList;
+class IdentifyPanel;
 class NoticeBar;
 class PropertyPanel;
 class QTabBar;
@@ -49,6 +51,7 @@ private:
   void buildContents();
   void buildProperties();
   void buildHistory();
+  void buildLayerPanels();
   void buildViews();
   void finishTyping();
   void showRulers();
@@ -73,6 +76,10 @@ private:
   ElementList* elements_ = nullptr;
   QList<SysUtility::_ptr_t<SysCarto::Map>> listedMaps_;
   PropertyPanel* properties_ = nullptr;
+  AttributePanel* attributes_ = nullptr;
+  IdentifyPanel* features_ = nullptr;
+  SysUtility::_ptr_t<SysCarto::Map> chosenMap_;      // of the current row of the contents
+  SysUtility::_ptr_t<SysCarto::Layer> chosenLayer_;  // likewise; empty for a map
   QDockWidget* contentsDock_ = nullptr;
   QDockWidget* historyDock_ = nullptr;
   NoticeBar* notice_ = nullptr;

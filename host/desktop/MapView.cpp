@@ -52,6 +52,13 @@ QRect MapView::placePx() const {
   return {QPoint((picture_.width() - size.width()) / 2, (picture_.height() - size.height()) / 2), size};
 }
 
+QVector<ViewWidget::ShownMap> MapView::shownMaps() const {
+  auto const shown = map();
+  if (!shown || tiles_.sizePx().isEmpty()) return {};
+  QRect const place = placePx();
+  return {{shown, {QPointF(place.topLeft()) / devicePixelRatioF(), QSizeF(place.size()) / devicePixelRatioF()}}};
+}
+
 void MapView::paintMap() {
   if (picture_.isNull()) return;
   picture_.fill(palette().color(QPalette::Mid));
@@ -104,6 +111,7 @@ void MapView::wheelEvent(QWheelEvent* event) {
 }
 
 void MapView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) pressed_ = event->pos();
   if (isFree() && event->button() == Qt::LeftButton) grabbed_ = event->pos();
 }
 
@@ -117,7 +125,9 @@ void MapView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !grabbed_) return;
+  if (event->button() != Qt::LeftButton) return;
+  if (pressed_ == event->pos() && map()) emit clicked(event->localPos());
+  if (!grabbed_) return;
   QPointF const offset = QPointF(event->pos() - *std::exchange(grabbed_, std::nullopt)) * devicePixelRatioF();
   clearOverlay();
   if (offset.isNull() || !isFree()) return;

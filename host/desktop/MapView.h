@@ -21,7 +21,12 @@ public:
 
   /// Empty where there is none.
   SysUtility::_ptr_t<SysCarto::Map> map() const;
+  QVector<ShownMap> shownMaps() const override;
   bool isComplete() const override { return tiles_.isComplete(); }
+
+signals:
+  /// The left button went down and up at one place of the map, in pixels.
+  void clicked(QPointF const& positionPx);
 
 protected:
   void composePicture() override;
@@ -46,5 +51,6 @@ private:
   SysUtility::_ptr_t<SysCarto::Map> shown_;
   MapTiles tiles_;
   QImage picture_;
+  QPoint pressed_;
   std::optional<QPoint> grabbed_;  // where a drag began
 };

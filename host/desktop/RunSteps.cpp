@@ -7,6 +7,7 @@
 #include "NumberList.h"
 #include "drawing/NewElements.h"
 #include "drawing/TurnGesture.h"
+#include "layers/IdentifyTool.h"
 #include "layers/LayerClasses.h"
 
 #include "host/SysCarto/maps/LayerTree.h"
@@ -128,6 +129,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("classify"),   text("layer:MAP/LAYER/FIELD:METHOD,…"), isSetting, &RunSteps::classify, {}},
       {text("add"),        text("KIND:CONTENT@X,Y,…"), isAddition, &RunSteps::add, {}},
       {text("rotate"),     text("DEGREES"),      isNumber,     &RunSteps::rotate,  {}},
+      {text("identify"),   text("X,Y"),          isPoint,      &RunSteps::identify, {}},
       {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
       {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
       {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
@@ -386,6 +388,14 @@ QString RunSteps::rotate(QString const& degrees) {
              : tr("nothing that can be turned is selected; texts, pictures, markers, lines, polygons and groups of "
                   "these "
                   "can.");
+}
+
+QString RunSteps::identify(QString const& place) {
+  auto const at = numbersIn(place);
+  auto const found = identifyAt(bench_.views(), {at[0], at[1]});
+  if (!found) return tr("there is no map at this place; on the page, it is given in centimetres.");
+  Console::print(SysUtility::jsonLine(jsonOf(*found)));
+  return QString();
 }
 
 QString RunSteps::answer(QString const& text) {

@@ -53,6 +53,7 @@ private:
   QString withThings(QString const& what, std::function<QString(SysCarto::Editable::List const&)> const& use);
   QString add(QString const& text);
   QString rotate(QString const& degrees);
+  QString identify(QString const& place);
   QString answer(QString const& text);
   QString save(QString const& file);
   QString info(QString const&);

@@ -1,5 +1,7 @@
 #include "ViewWidget.h"
 
+#include "layers/FeatureHighlight.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -110,6 +112,8 @@ void ViewWidget::paintEvent(QPaintEvent*) {
   QRectF const place = placeOfPicture().translated(offset_);
   if (!place.contains(rect())) painter.fillRect(rect(), palette().color(QPalette::Mid));
   painter.drawImage(place, picture());
+  if (highlight_)
+    for (ShownMap const& shown : shownMaps()) highlight_->paint(painter, *shown.map, shown.placePx.translated(offset_));
   paintAids(painter);
   for (Shape const& shape : shapes_) shape.symbol->Draw(painter, shape.transformation, shape.geometry);
   for (Text const& text : texts_) paintText(painter, text);

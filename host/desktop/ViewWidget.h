@@ -3,6 +3,7 @@
 #include "host/SysCarto/maps/ActiveViewHost.h"
 
 #include <SysCarto/ActiveView.h>
+#include <SysCarto/Map.h>
 
 #include <QPixmap>
 #include <QTimer>
@@ -10,6 +11,8 @@
 
 #include <functional>
 #include <vector>
+
+class FeatureHighlight;
 
 /// The screen of a view: keeps the view's picture, and shows over it what tools draw. What a picture is made of, and
 /// whether it still grows, is for the derived classes to say.
@@ -31,6 +34,16 @@ public:
 
   /// Whether the picture shows everything; maps that take long grow into it.
   virtual bool isComplete() const = 0;
+
+  /// The maps that are shown, the topmost last, and the rectangles that they fill, in the widget's pixels.
+  struct ShownMap {
+    SysUtility::_ptr_t<SysCarto::Map> map;
+    QRectF placePx;
+  };
+  virtual QVector<ShownMap> shownMaps() const = 0;
+
+  /// Whose features are marked over the maps; borrowed.
+  void setHighlight(FeatureHighlight const& highlight) { highlight_ = &highlight; }
 
   /// The time that a growing picture takes before events are handled again.
   static constexpr int sliceMs = 12;
@@ -97,6 +110,7 @@ private:
 
   void paintText(QPainter& painter, Text const& text) const;
 
+  FeatureHighlight const* highlight_ = nullptr;
   std::vector<Shape> shapes_;
   std::vector<Text> texts_;
   QPointF offset_;

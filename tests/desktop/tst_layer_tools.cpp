@@ -1,9 +1,12 @@
 #include "Dialogs.h"
-#include "Files.h"
+#include "LayerFixture.h"
 #include "WorkbenchPage.h"
 
 #include "host/SysAdapterUI/SystemChooser.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
+#include "host/desktop/layers/AttributeModel.h"
+#include "host/desktop/layers/AttributePanel.h"
 
 #include <SysCarto/Map.h>
 
@@ -92,7 +95,181 @@ private slots:
     QCOMPARE(firstRows().mid(1), QStringList({"EPSG:3035", "EPSG:27700", "EPSG:2154"}));
   }
 
+  void theTableSortsAndFiltersWithoutReadingAll() {
+    AttributeModel model(nullptr);
+    QCOMPARE(model.open(source()), QString());
+    QVERIFY(QTest::qWaitFor([&] { return !model.isBusy(); }));
+    QCOMPARE(column(model, 0), QStringList({"Zug", "ähre", "Arm", "Bach", "Ort"}));
+    auto const sorted = [&](int number, Qt::SortOrder order) {
+      model.sort(number, order);
+      return QTest::qWaitFor([&] { return !model.isBusy(); }) ? column(model, 0).join(' ') : QString("late");
+    };
+    QCOMPARE(sorted(1, Qt::AscendingOrder), QString("Bach Arm Zug ähre Ort"));
+    QCOMPARE(sorted(1, Qt::DescendingOrder), QString("Zug Arm Bach ähre Ort"));  // NULL last all the same
+    QCOMPARE(model.index(3, 1).data().toString(), QString("NULL"));
+    QCOMPARE(model.ids(0, 1).size(), size_t(2));
+    QCOMPARE(model.rowsOf(model.ids(1, 1)), std::vector<int>({1}));
+    QVERIFY(model.index(0, 1).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+
+    QVERIFY(model.setFilter("height >").contains("is not understood"));
+    QCOMPARE(model.rowCount({}), 5);
+    QCOMPARE(model.setFilter("height > 1 OR name = 'Ort'"), QString());
+    QVERIFY(QTest::qWaitFor([&] { return !model.isBusy(); }));
+    QCOMPARE(column(model, 0).join(' '), QString("Zug Arm Ort"));  // in the order that was asked for
+    QCOMPARE(sorted(-1, Qt::AscendingOrder), QString("Zug Arm Ort"));
+    QCOMPARE(model.setFilter({}), QString());
+    model.cancel();
+    QCOMPARE(model.rowCount({}), 3);
+  }
+
+  void whatLiesUnderTheMouseIsTold_data() {
+    Rows<bool> row;
+    row("on the page", true);
+    row("on the map", false);
+  }
+  void whatLiesUnderTheMouseIsTold() {
+    auto const [isOnPage] = fetched<bool>();
+    auto const [map, layer] = mapWithPlaces();
+    auto& views = page_->bench.views();
+    if (!isOnPage) views.show(DocumentViews::Kind::Map);
+    QCoreApplication::processEvents();
+    QVERIFY(page_->run("Host_Identify"));
+    QVector<Identified> told;
+    QObject::connect(&views, &DocumentViews::identified, &views, [&](Identified const& found) { told << found; });
+    QByteArray const before = SysCarto::MapDocumentHost::text(page_->bench.session().document());
+    ViewWidget const& view = isOnPage ? static_cast<ViewWidget&>(views.layoutView()) : views.mapView();
+    auto const shown = view.shownMaps();
+    QCOMPARE(shown.size(), 1);
+    QTransform const toPx = mapToView(*map, shown.first().placePx);
+    QPoint const arm = toPx.map(QPointF(2, 0)).toPoint(), nowhere = toPx.map(QPointF(2, 3)).toPoint();
+    page_->click(arm + QPoint(3, 0));
+    page_->click(arm + QPoint(6, 0));
+    page_->click(nowhere);
+    QCOMPARE(told.size(), 3);
+    QCOMPARE(told[0].features.size(), 1);
+    QCOMPARE(told[0].features[0].label, QString("Arm"));
+    QCOMPARE(told[0].features[0].fields[1], qMakePair(QString("height"), QVariant(2)));
+    QVERIFY(told[0].degrees && std::abs(told[0].degrees->x() - 2) < 0.4);
+    QVERIFY(told[1].features.isEmpty() && told[2].features.isEmpty());
+    QCOMPARE(SysCarto::MapDocumentHost::text(page_->bench.session().document()), before);
+
+    layer->SetVisible(false);
+    page_->click(arm);
+    QVERIFY(told[3].features.isEmpty());
+  }
+
+  void chosenFeaturesAreMarkedAndZoomedTo() {
+    auto const [map, layer] = mapWithPlaces();
+    auto& views = page_->bench.views();
+    auto const grabbed = [&] {
+      while (!views.layoutView().isComplete()) QCoreApplication::processEvents();
+      return views.layoutView().grab().toImage();
+    };
+    QImage const before = grabbed();
+    views.highlight().show({map, layer, {layer->features().ids.at(2)}});
+    QPoint const arm = mapToView(*map, views.layoutView().shownMaps().first().placePx).map(QPointF(2, 0)).toPoint();
+    QImage const marked = grabbed();
+    QVERIFY(marked != before);
+    QRect changed;
+    for (int y = 0; y < marked.height(); ++y)
+      for (int x = 0; x < marked.width(); ++x)
+        if (marked.pixel(x, y) != before.pixel(x, y)) changed |= QRect(x, y, 1, 1);
+    QVERIFY2(QRect(arm - QPoint(12, 12), QSize(25, 25)).contains(changed) && changed.contains(arm),
+             qPrintable(QString("%1 %2 %3").arg(changed.x()).arg(changed.y()).arg(changed.width())));
+    views.highlight().clear();
+    QCOMPARE(grabbed(), before);
+
+    auto* const stack = SysCarto::MapDocumentHost::history(page_->bench.session().document());
+    int const step = stack->index();
+    QVERIFY(zoomTo(*map, *layer, {layer->features().ids.at(2)}));
+    QCOMPARE(map->GetExtent()->GetAnchorPoint()->GetX(), 2.0);
+    QVERIFY(zoomTo(*map, *layer, layer->features().ids));
+    QVERIFY(map->GetExtent()->GetXMin() < 0 && map->GetExtent()->GetXMax() > 4);
+    QCOMPARE(stack->index(), step + 2);
+    QVERIFY(!zoomTo(*map, *layer, {987654}));
+  }
+
+  void thePanelOfAttributesFollowsItsLayer() {
+    auto const [map, layer] = mapWithPlaces();
+    AttributePanel panel(page_->bench.session(), page_->bench.views(), nullptr);
+    auto* const table = panel.findChild<QTableView*>();
+    auto const wait = [&] { QVERIFY(QTest::qWaitFor([&] { return table->model()->rowCount() == 5; })); };
+    panel.showLayer(map, layer);
+    wait();
+    table->selectRow(1);
+    table->selectionModel()->select(table->model()->index(3, 0),
+                                    QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    auto const& marked = page_->bench.views().highlight().marked();
+    QCOMPARE(marked.ids, std::vector<qint64>({layer->features().ids.at(1), layer->features().ids.at(3)}));
+    QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), QString("name\theight\nähre\t\nBach\t1"));
+    table->sortByColumn(1, Qt::AscendingOrder);
+    QVERIFY(QTest::qWaitFor([&] { return table->model()->index(0, 0).data() == "Bach"; }));
+    QTRY_COMPARE(table->selectionModel()->selectedRows().size(), 2);
+    QVERIFY(table->selectionModel()->isRowSelected(0, {}) && table->selectionModel()->isRowSelected(3, {}));
+    auto* const filter = panel.findChild<QLineEdit*>();
+    filter->setText("height > 1");
+    QTest::keyClick(filter, Qt::Key_Return);
+    QTRY_COMPARE(table->model()->rowCount(), 2);
+
+    page_->container().DeleteElement(page_->container().GetElements().first());
+    panel.follow();
+    QCOMPARE(table->model()->rowCount(), 0);
+    QVERIFY(marked.ids.empty());
+  }
+
+  void numbersAreSortedInSlices() {
+    std::vector<int> keys(20000);
+    quint32 seed = 1;
+    for (int& key : keys) key = static_cast<int>((seed = seed * 1664525 + 1013904223) >> 20);
+    SlicedSort sort(static_cast<int>(keys.size()),
+                    [&](int a, int b) { return keys[static_cast<size_t>(a)] < keys[static_cast<size_t>(b)]; });
+    double progress = 0;
+    while (sort.advance(0)) {
+      QVERIFY(sort.progress() >= progress);
+      progress = sort.progress();
+    }
+    auto const sorted = sort.take();
+    QCOMPARE(sorted.size(), keys.size());
+    for (size_t i = 1; i < sorted.size(); ++i) {
+      int const a = keys[static_cast<size_t>(sorted[i - 1])], b = keys[static_cast<size_t>(sorted[i])];
+      QVERIFY(a < b || (a == b && sorted[i - 1] < sorted[i]));
+    }
+  }
+
 private:
+  SysCarto::SourceSettings source() {
+    QByteArrayList features;
+    char const* const names[] = {"Zug", "ähre", "Arm", "Bach", "Ort"};
+    char const* const heights[] = {"9", "null", "2", "1", "null"};
+    for (int i = 0; i < 5; ++i)
+      features << QByteArray("{'type':'Feature','properties':{'name':'" + QByteArray(names[i]) +
+                             "','height':" + heights[i] + "},'geometry':{'type':'Point','coordinates':[" +
+                             QByteArray::number(i) + ",0]}}")
+                      .replace('\'', '"');
+    return {put(folder_.filePath("places.geojson"), collection(features)), {}, {}, {}};
+  }
+
+  std::pair<_ptr_t<SysCarto::Map>, _ptr_t<SysCarto::VectorLayer>> mapWithPlaces() {
+    auto const map = page_->add<MapFrameElement>(1, 1, 11, 11)->GetMap();
+    map->SetCoordinateSystem("EPSG:4326");
+    auto const layer = opened(source(), "EPSG:4326", make<SysDisplay::SimpleMarkerSymbol>()).layer;
+    map->AddLayer(layer);
+    map->SetExtent(make<SysGeometry::Envelope>(-5.0, -5.0, 9.0, 9.0));
+    page_->layout()->SetFocusMap(map);
+    page_->bench.views().follow();
+    page_->layout()->ZoomToWholePage();
+    page_->bench.views().redraw();
+    QCoreApplication::processEvents();
+    return {map, layer};
+  }
+
+  static QStringList column(QAbstractItemModel const& model, int number) {
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row) texts << model.index(row, number).data().toString();
+    return texts;
+  }
+
   QTemporaryDir folder_;
   std::optional<WorkbenchPage> page_;
   std::optional<Person> person_;

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/projection/GdalErrors.h"
 
+#include <cpl_string.h>
 #include <ogr_feature.h>
 #include <ogrsf_frmts.h>
 
@@ -19,6 +20,15 @@ bool Condition::compile(OGRLayer& layer, QString const& text, QString& reason) {
   bool const ok = query_->Compile(&layer, text.toUtf8().constData()) == OGRERR_NONE;
   reason = errors.reason();
   return ok;
+}
+
+QStringList Condition::fields() const {
+  QStringList names;
+  if (!query_) return names;
+  char** const used = query_->GetUsedFields();
+  for (int i = 0; i < CSLCount(used); ++i) names << QString::fromUtf8(used[i]);
+  CSLDestroy(used);
+  return names;
 }
 
 bool Condition::admits(OGRFeature& feature) const { return !query_ || query_->Evaluate(&feature); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -22,6 +23,9 @@ public:
   bool compile(OGRLayer& layer, QString const& text, QString& reason);
 
   bool admits(OGRFeature& feature) const;
+
+  /// The names of the fields that it asks for; of the geometry, names that begin with OGR_.
+  QStringList fields() const;
 
 private:
   std::unique_ptr<OGRFeatureQuery> query_;

@@ -95,7 +95,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   store.keepsLabels = !labels.text.isEmpty();
   store.valuesPerFeature = static_cast<int>(renderer.varied().size());
   FeatureIntake intake(projector, store, [&](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
-    to.beginFeature();
+    to.beginFeature(feature.GetFID());
     own.add(*feature.GetGeometryRef(), to);
     double const priority = priorityField.number(feature);
     int const fitting = evaluator.place(feature, to);

@@ -67,7 +67,8 @@ private:
 FeatureStore::FeatureStore() = default;
 FeatureStore::~FeatureStore() = default;
 
-void FeatureStore::beginFeature() {
+void FeatureStore::beginFeature(qint64 id) {
+  currentId_ = id;
   current_ = Feature{static_cast<int>(parts.size()), 0, -1, Box()};
   polygonStarts_ = false;
 }
@@ -89,6 +90,7 @@ void FeatureStore::endFeature(int symbolClass, QString const& label, double prio
   current_.symbolClass = symbolClass;
   box_.add(current_.box);
   features.push_back(current_);
+  ids.push_back(currentId_);
   if (!keepsLabels) return;
   labels.push_back(label);
   priorities.push_back(priority);
@@ -112,6 +114,7 @@ void FeatureStore::append(FeatureStore& other) {
     if (!own.empty() && feature.symbolClass >= 0) feature.symbolClass = own[feature.symbolClass];
     features.push_back(feature);
   }
+  ids.insert(ids.end(), other.ids.begin(), other.ids.end());
   labels.insert(labels.end(), other.labels.begin(), other.labels.end());
   priorities.insert(priorities.end(), other.priorities.begin(), other.priorities.end());
   values.insert(values.end(), other.values.begin(), other.values.end());
@@ -126,6 +129,7 @@ void FeatureStore::finish() {
   for (int feature = 0; feature < size(); ++feature)
     for (int i = 0; i < valuesPerFeature; ++i) largest_[i] = std::fmax(largest_[i], value(feature, i));
   parts.shrink_to_fit();
+  ids.shrink_to_fit();
   std::vector<Box> boxes;
   boxes.reserve(features.size());
   for (Feature const& feature : features) boxes.push_back(feature.box);

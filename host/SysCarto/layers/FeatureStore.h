@@ -46,7 +46,8 @@ public:
   FeatureStore& operator=(FeatureStore const&) = delete;
 
   // Filling. A feature begins, gets its parts and ends; one without parts is dropped. Vertices are x, y pairs.
-  void beginFeature();
+  /// `id`: its number in the source.
+  void beginFeature(qint64 id = -1);
   void startPolygon() override { polygonStarts_ = true; }
   void addPart(PartKind kind, double const* xy, int count) override;
   void addValue(double value) { values.push_back(value); }  ///< as many for each feature
@@ -75,6 +76,7 @@ public:
 
   std::vector<Part> parts;
   std::vector<Feature> features;
+  std::vector<qint64> ids;         ///< by feature: its number in the source, to ask for its attributes
   std::vector<QString> labels;     ///< by feature; empty where the layer has no labels
   std::vector<double> priorities;  ///< by feature, higher is placed first; as `labels`
   bool keepsLabels = false;
@@ -95,6 +97,7 @@ private:
   Box box_;
   std::vector<double> largest_;  // of the values
   Feature current_{};
+  qint64 currentId_ = -1;
   bool polygonStarts_ = false;
 };
 

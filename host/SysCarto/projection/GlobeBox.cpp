@@ -76,6 +76,16 @@ bool GlobeBox::contains(GlobeBox const& other) const {
   return width() == wholeTurn || eastwards(west - slack, other.west) + other.width() <= width() + 2 * slack;
 }
 
+std::optional<QPointF> degreesAt(QPointF const& place, QString const& system) {
+  auto const own = makeCoordinateSystem(system);
+  auto const globe = own ? globeOf(*own) : nullptr;
+  QString error;
+  auto const way = globe ? PointTransform::create(*own, *globe, error) : nullptr;
+  double longitude = place.x(), latitude = place.y();
+  if (!way || !way->apply(longitude, latitude)) return std::nullopt;
+  return QPointF(longitude, latitude);
+}
+
 GlobeBox globeBoxOf(SysGeometry::Box const& rectangle, QString const& system) {
   GlobeBox box;
   auto const own = makeCoordinateSystem(system);

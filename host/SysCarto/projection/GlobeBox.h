@@ -4,7 +4,10 @@
 
 #include <SysCarto/Export.h>
 
+#include <QPointF>
 #include <QString>
+
+#include <optional>
 
 namespace SysCarto {
 
@@ -24,5 +27,8 @@ struct SYSCARTO_EXPORT GlobeBox {
 /// What a rectangle in a coordinate system covers of the globe, on a grid of places; of nothing where none of them has
 /// a place there. Definitions as in `makeCoordinateSystem`; plain coordinates have no place on the globe.
 SYSCARTO_EXPORT GlobeBox globeBoxOf(SysGeometry::Box const& rectangle, QString const& system);
+
+/// Longitude and latitude of a place in a coordinate system; empty where it has none.
+SYSCARTO_EXPORT std::optional<QPointF> degreesAt(QPointF const& place, QString const& system);
 
 }  // namespace SysCarto

@@ -1,0 +1,78 @@
+#include "Identify.h"
+
+#include "host/SysCarto/layers/FeatureSearch.h"
+#include "host/SysCarto/projection/GlobeBox.h"
+
+#include <QJsonArray>
+
+using SysUtility::_ptr_t;
+
+namespace {
+
+constexpr int mostOfALayer = 50;
+
+// The label where the layer has labels, else a name, else the first text that there is.
+QString labelOf(SysCarto::VectorLayer const& layer, int number, Identified::Feature const& feature) {
+  auto const& labels = layer.features().labels;
+  if (static_cast<size_t>(number) < labels.size() && !labels[static_cast<size_t>(number)].isEmpty())
+    return labels[static_cast<size_t>(number)];
+  QString first;
+  for (auto const& field : feature.fields) {
+    QString const text = field.second.type() == QVariant::String ? field.second.toString() : QString();
+    if (!text.isEmpty() && field.first.contains(QLatin1String("name"), Qt::CaseInsensitive)) return text;
+    if (first.isEmpty()) first = text;
+  }
+  return first.isEmpty() ? QStringLiteral("#%1").arg(feature.id) : first;
+}
+
+void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place, double reach, Identified& found) {
+  auto const numbers = SysCarto::featuresAt(layer->features(), place.x(), place.y(), reach);
+  if (numbers.empty()) return;
+  QString error;
+  auto const table = SysCarto::FeatureTable::open(layer->source(), error);
+  int left = mostOfALayer;
+  for (int const number : numbers) {
+    if (--left < 0) {
+      found.isAll = false;
+      return;
+    }
+    Identified::Feature feature{layer, layer->features().ids[static_cast<size_t>(number)], {}, {}};
+    SysCarto::TableRow const row = table ? table->row(feature.id) : SysCarto::TableRow();
+    for (int i = 0; i < row.size(); ++i)
+      feature.fields << qMakePair(table->fields()[static_cast<size_t>(i)].name, row[i]);
+    feature.label = labelOf(*layer, number, feature);
+    found.features << feature;
+  }
+}
+
+}  // namespace
+
+Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, double reach) {
+  Identified found;
+  found.map = map;
+  found.place = place;
+  found.degrees = SysCarto::degreesAt(place, map->GetCoordinateSystem());
+  double const scale = map->GetDisplayTransformation()->GetMapScale();
+  for (int i = map->GetLayerCount() - 1; i >= 0; --i) {
+    auto const layer = SysUtility::ptr_cast<SysCarto::VectorLayer>(map->GetLayer(i));
+    if (layer && layer->showsAt(scale)) identifyIn(layer, place, reach, found);
+  }
+  return found;
+}
+
+QJsonObject jsonOf(Identified const& found) {
+  QJsonArray features;
+  for (Identified::Feature const& feature : found.features) {
+    QJsonObject fields;
+    for (auto const& field : feature.fields) fields[field.first] = QJsonValue::fromVariant(field.second);
+    features.append(QJsonObject{{QStringLiteral("layer"), feature.layer->GetName()},
+                                {QStringLiteral("id"), static_cast<double>(feature.id)},
+                                {QStringLiteral("label"), feature.label},
+                                {QStringLiteral("fields"), fields}});
+  }
+  QJsonObject json{{QStringLiteral("map"), found.map->GetName()},
+                   {QStringLiteral("place"), QJsonArray{found.place.x(), found.place.y()}},
+                   {QStringLiteral("features"), features}};
+  if (found.degrees) json[QStringLiteral("degrees")] = QJsonArray{found.degrees->x(), found.degrees->y()};
+  return json;
+}

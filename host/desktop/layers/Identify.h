@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/SysCarto/layers/FeatureTable.h"
+#include "host/SysCarto/maps/VectorLayer.h"
+
+#include <SysCarto/Map.h>
+
+#include <QJsonObject>
+#include <QPointF>
+#include <QVector>
+
+#include <optional>
+
+/// What lies at a place of a map: features of its visible layers, the topmost first.
+struct Identified {
+  struct Feature {
+    SysUtility::_ptr_t<SysCarto::VectorLayer> layer;
+    qint64 id;  ///< in the source
+    QString label;
+    QVector<QPair<QString, QVariant>> fields;
+  };
+
+  SysUtility::_ptr_t<SysCarto::Map> map;
+  QPointF place;                   ///< in map units
+  std::optional<QPointF> degrees;  ///< longitude and latitude, where the map has a coordinate system
+  QVector<Feature> features;
+  bool isAll = true;  ///< false where more were found than are told of
+};
+
+/// Points and lines count within `reach` map units, areas where the place is in them.
+Identified identify(SysUtility::_ptr_t<SysCarto::Map> const& map, QPointF const& place, double reach);
+
+QJsonObject jsonOf(Identified const& found);

@@ -1,0 +1,65 @@
+#include "IdentifyTool.h"
+
+#include "host/desktop/DocumentViews.h"
+
+#include <QMouseEvent>
+
+namespace {
+
+constexpr double reachPx = 4;
+
+std::optional<MapPlace> placeIn(ViewWidget const& view, QPointF const& positionPx) {
+  auto const maps = view.shownMaps();
+  for (auto shown = maps.rbegin(); shown != maps.rend(); ++shown) {  // the topmost first
+    if (!shown->placePx.contains(positionPx)) continue;
+    QTransform const toMap = mapToView(*shown->map, shown->placePx).inverted();
+    return MapPlace{shown->map, toMap.map(positionPx), std::hypot(toMap.m11(), toMap.m12())};
+  }
+  return std::nullopt;
+}
+
+Identified identified(MapPlace const& at) { return identify(at.map, at.place, reachPx * at.unitsPerPx); }
+
+}  // namespace
+
+std::optional<Identified> identifyAt(DocumentViews& views, QPointF const& place) {
+  auto const layout = views.GetPageLayout();
+  if (views.kind() == DocumentViews::Kind::Layout) {
+    auto const at =
+        layout ? placeIn(views.layoutView(), layout->GetDisplayTransformation()->ToDevice().map(place)) : std::nullopt;
+    return at ? std::make_optional(identified(*at)) : std::nullopt;
+  }
+  auto const maps = views.mapView().shownMaps();
+  if (maps.isEmpty()) return std::nullopt;
+  QTransform const toMap = mapToView(*maps.first().map, maps.first().placePx).inverted();
+  return identified({maps.first().map, place, std::hypot(toMap.m11(), toMap.m12())});
+}
+
+IdentifyTool::IdentifyTool(DocumentViews& views) : views_(views) { enabled_ = true; }
+IdentifyTool::~IdentifyTool() { QObject::disconnect(clicks_); }
+
+bool IdentifyTool::IsEnable() {
+  auto const layout = views_.GetPageLayout();
+  return layout && layout->GetFocusMap();
+}
+
+bool IdentifyTool::Activate() {
+  clicks_ = QObject::connect(&views_.mapView(), &MapView::clicked, &views_,
+                             [this](QPointF const& positionPx) { look(placeIn(views_.mapView(), positionPx)); });
+  return BaseTool::Activate();
+}
+
+bool IdentifyTool::Deactivate() {
+  QObject::disconnect(clicks_);
+  return BaseTool::Deactivate();
+}
+
+void IdentifyTool::OnEnterEvent(QEvent*) { SetCurrentCursor(QCursor(Qt::WhatsThisCursor)); }
+
+void IdentifyTool::OnMouseDown(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) look(placeIn(views_.layoutView(), event->localPos()));
+}
+
+void IdentifyTool::look(std::optional<MapPlace> const& at) {
+  if (at) views_.tell(identified(*at));
+}
