@@ -138,6 +138,13 @@
     </message>
 </context>
 <context>
+    <name>AttributeReport</name>
+    <message>
+        <source>there is no layer &quot;%1&quot;; write layer:MAP/LAYER, as plotvane info lists them.</source>
+        <translation>es gibt keine Ebene „%1“; schreiben Sie layer:KARTE/EBENE, wie plotvane info sie auflistet.</translation>
+    </message>
+</context>
+<context>
     <name>BreakHistogram</name>
     <message>
         <source>Histogram</source>

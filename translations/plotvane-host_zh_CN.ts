@@ -138,6 +138,13 @@
     </message>
 </context>
 <context>
+    <name>AttributeReport</name>
+    <message>
+        <source>there is no layer &quot;%1&quot;; write layer:MAP/LAYER, as plotvane info lists them.</source>
+        <translation>没有图层“%1”；请写 layer:MAP/LAYER，如 plotvane info 所列。</translation>
+    </message>
+</context>
+<context>
     <name>BreakHistogram</name>
     <message>
         <source>Histogram</source>

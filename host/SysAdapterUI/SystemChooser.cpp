@@ -32,7 +32,7 @@ using SysCarto::SystemQuery;
 namespace {
 
 constexpr int keptRecent = 8;
-constexpr int readingMs = 30;
+constexpr int readingMs = 30, restMs = 60;
 constexpr int codeWidthPx = 110, noteWidthPx = 150;
 QString const recentKey = QStringLiteral("systems/recent");
 
@@ -103,16 +103,20 @@ SystemChooser::SystemChooser(SystemChoice const& choice, QWidget* parent)
   connect(search_, &QLineEdit::textChanged, this, &SystemChooser::search);
   connect(kind_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &SystemChooser::search);
   connect(deprecated_, &QCheckBox::toggled, this, &SystemChooser::search);
-  connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &SystemChooser::showChosen);
+  connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &SystemChooser::takeChosen);
   connect(list_, &QTreeView::doubleClicked, this, &SystemChooser::accept);
-  connect(own_, &QPlainTextEdit::textChanged, this, &SystemChooser::showChosen);
-  connect(tabs_, &QTabWidget::currentChanged, this, &SystemChooser::showChosen);
+  connect(own_, &QPlainTextEdit::textChanged, this, &SystemChooser::takeChosen);
+  connect(tabs_, &QTabWidget::currentChanged, this, &SystemChooser::takeChosen);
   connect(&reading_, &QTimer::timeout, this, [this] {
-    if (!SystemCatalogue::readAhead()) return;
+    SystemCatalogue::readAhead();
+    if (!SystemCatalogue::isRead()) return;
     reading_.stop();
     search();
   });
-  if (!SystemCatalogue::readAhead()) reading_.start(readingMs);
+  if (!SystemCatalogue::isRead()) reading_.start(readingMs);
+  rest_.setSingleShot(true);
+  rest_.setInterval(restMs);
+  connect(&rest_, &QTimer::timeout, this, &SystemChooser::showFacts);
   search();
   search_->setFocus();
 }
@@ -204,14 +208,14 @@ void SystemChooser::search() {
   SystemQuery const query{search_->text(), static_cast<SystemQuery::Kind>(kind_->currentIndex()),
                           deprecated_->isChecked(), choice_.extent};
   model_->search(query);
-  count_->setText(SystemCatalogue::readAhead() ? tr("%1 found").arg(model_->found()) : tr("Reading…"));
+  count_->setText(SystemCatalogue::isRead() ? tr("%1 found").arg(model_->found()) : tr("Reading…"));
   bool const isUnasked = search_->text().trimmed().isEmpty();
   select(isUnasked ? std::max(0, model_->rowOf(choice_.now)) : 0);
 }
 
 void SystemChooser::select(int row) {
   list_->setCurrentIndex(model_->index(row, 0));
-  showChosen();
+  takeChosen();
 }
 
 QString SystemChooser::definition() const {
@@ -220,18 +224,20 @@ QString SystemChooser::definition() const {
   return current.isValid() ? model_->definition(current.row()) : QString();
 }
 
-void SystemChooser::showChosen() {
-  QString const chosen = definition();
-  QString const problem = SysCarto::checkCoordinateSystem(chosen);
+// Whether it can be taken is known at once; what it is follows when nobody types any more.
+void SystemChooser::takeChosen() {
+  QString const problem = SysCarto::checkCoordinateSystem(definition());
   bool const isThere = tabs_->currentIndex() == 1 || list_->currentIndex().isValid();
-  auto const told = SysCarto::describeSystem(chosen);
   problem_->setText(problem.isEmpty() ? problem : tr("This %1.").arg(problem));
-  world_->setUse(told ? told->use : SysCarto::GlobeBox());
-  facts_->setText(told                           ? factsOf(*told)
-                  : isThere && problem.isEmpty() ? choice_.none.toHtmlEscaped()
-                                                 : problem.toHtmlEscaped());
-  wkt_->setPlainText(told ? told->wkt : QString());
   ok_->setEnabled(isThere && problem.isEmpty());
+  rest_.start();
+}
+
+void SystemChooser::showFacts() {
+  auto const told = SysCarto::describeSystem(definition());
+  world_->setUse(told ? told->use : SysCarto::GlobeBox());
+  facts_->setText(told ? factsOf(*told) : ok_->isEnabled() ? choice_.none.toHtmlEscaped() : QString());
+  wkt_->setPlainText(told ? told->wkt : QString());
 }
 
 // The list goes along while one types.

@@ -56,7 +56,8 @@ private:
   QWidget* buildDefinition();
   QWidget* buildFacts();
   void search();
-  void showChosen();
+  void takeChosen();
+  void showFacts();
   void select(int row);
 
   SystemChoice const choice_;
@@ -74,6 +75,7 @@ private:
   QPlainTextEdit* wkt_;
   QPushButton* ok_ = nullptr;
   QTimer reading_;
+  QTimer rest_;  // after the last key
 };
 
 }  // namespace SysAdapterUI

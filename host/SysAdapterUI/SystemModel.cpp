@@ -56,7 +56,7 @@ void SystemModel::search(SystemQuery const& query) {
   first_.clear();
   numbers_.clear();
   bool const waits = !query.words.trimmed().isEmpty();
-  if (waits || SystemCatalogue::readAhead()) numbers_ = SystemCatalogue::instance().search(query);
+  if (waits || SystemCatalogue::isRead()) numbers_ = SystemCatalogue::instance().search(query);
   addFavourites(query);
   endResetModel();
 }

@@ -7,6 +7,7 @@
 #include "NumberList.h"
 #include "drawing/NewElements.h"
 #include "drawing/TurnGesture.h"
+#include "layers/AttributeReport.h"
 #include "layers/IdentifyTool.h"
 #include "layers/LayerClasses.h"
 
@@ -54,6 +55,8 @@ bool isCalled(SysCarto::Element const& element, QString const& name) {
   return element.GetName() == name || name == QStringLiteral("#%1").arg(element.GetHandle());
 }
 
+QString const layerPrefix = QStringLiteral("layer:");
+
 // WHAT/FIELD…:VALUE; what a layer is called has two parts, and map: and layer: come before a name.
 struct FieldText {
   QString what;
@@ -86,6 +89,7 @@ bool isView(QString const& text) { return text == QLatin1String("layout") || tex
 bool isAnswer(QString const& text) { return text.indexOf(QLatin1Char(':')) > 0; }
 bool isNumber(QString const& text) { return numbersIn(text).size() == 1; }
 bool isAddition(QString const& text) { return NewElement::of(text).has_value(); }
+bool isLayer(QString const& text) { return text.startsWith(layerPrefix); }
 bool isAnything(QString const& text) { return !text.isEmpty(); }
 
 }  // namespace
@@ -130,6 +134,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("add"),        text("KIND:CONTENT@X,Y,…"), isAddition, &RunSteps::add, {}},
       {text("rotate"),     text("DEGREES"),      isNumber,     &RunSteps::rotate,  {}},
       {text("identify"),   text("X,Y"),          isPoint,      &RunSteps::identify, {}},
+      {text("attributes"), text("layer:MAP/LAYER:CONDITION"), isLayer, &RunSteps::attributes, {}},
       {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
       {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
       {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
@@ -396,6 +401,12 @@ QString RunSteps::identify(QString const& place) {
   if (!found) return tr("there is no map at this place; on the page, it is given in centimetres.");
   Console::print(SysUtility::jsonLine(jsonOf(*found)));
   return QString();
+}
+
+QString RunSteps::attributes(QString const& text) {
+  FieldText const named = FieldText::of(text);
+  return reportAttributes(bench_.session().document(), named.what.mid(layerPrefix.size()), named.value,
+                          [](QJsonObject const& row) { Console::print(SysUtility::jsonLine(row)); });
 }
 
 QString RunSteps::answer(QString const& text) {

@@ -54,6 +54,7 @@ private:
   QString add(QString const& text);
   QString rotate(QString const& degrees);
   QString identify(QString const& place);
+  QString attributes(QString const& text);
   QString answer(QString const& text);
   QString save(QString const& file);
   QString info(QString const&);

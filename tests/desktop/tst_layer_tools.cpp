@@ -1,6 +1,6 @@
 #include "Dialogs.h"
 #include "LayerFixture.h"
-#include "WorkbenchPage.h"
+#include "WorldWindow.h"
 
 #include "host/SysAdapterUI/SystemChooser.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
@@ -72,7 +72,7 @@ private slots:
     QVERIFY(!ok->isEnabled() && problem->text().contains("names a file"));
     own->setPlainText("EPSG:3857");
     QVERIFY(ok->isEnabled() && problem->text().isEmpty());
-    QVERIFY(dialog.findChild<QLabel*>("label_Facts")->text().contains("Pseudo-Mercator"));
+    QTRY_VERIFY(dialog.findChild<QLabel*>("label_Facts")->text().contains("Pseudo-Mercator"));
     dialog.findChild<QTabWidget*>()->setCurrentIndex(0);
     dialog.findChild<QLineEdit*>("lineEdit_Search")->setText("nonsense of no system");
     QVERIFY(!ok->isEnabled());
@@ -216,6 +216,24 @@ private slots:
     panel.follow();
     QCOMPARE(table->model()->rowCount(), 0);
     QVERIFY(marked.ids.empty());
+  }
+
+  void theWindowShowsTheChosenLayer() {
+    page_.reset();
+    prepareWorld(folder_.path());
+    WorldWindow at;
+    QVERIFY(!at.isEnabled("Host_AttributeTable"));
+    auto* const contents = at.window.findChild<SysAdapterUI::TOCControl*>();
+    auto const map = at.document().GetMap(0);
+    emit contents->RowChosen(map, map->GetLayers().last());
+    QTRY_VERIFY(at.isEnabled("Host_AttributeTable"));
+    at.trigger("Host_AttributeTable");
+    auto* const panel = at.window.findChild<AttributePanel*>();
+    QVERIFY(panel->isVisible());
+    QTRY_VERIFY(panel->findChild<QTableView*>()->model()->rowCount() > 100);
+    at.trigger("Host_New");
+    QTRY_COMPARE(panel->findChild<QTableView*>()->model()->rowCount(), 0);
+    QVERIFY(!at.isEnabled("Host_AttributeTable"));
   }
 
   void numbersAreSortedInSlices() {

@@ -57,6 +57,9 @@ private slots:
         "Plotvane_PageSetting select=World,Inset Plotvane_TopAlignment undo undo",
         1, "it needs a change to take back");
     row("a name on the page in the map view", "view=map select=World", 1, "view=layout shows the page");
+    row("a place without a map", "identify=0.1,0.1", 1, "there is no map at this place");
+    row("attributes of a layer that there isn't", "attributes=layer:Countries/Towns", 1,
+        "there is no layer \"Countries/Towns\"");
     row("a command of the window", "Host_Save", 2, "save=FILE saves");
     row("a document in an image's place", "save=a.png", 1, "name a .kdx file");
     row("an extent that no map shows", "extent=0,0,1e300,1", 1, "can't show");
@@ -120,6 +123,24 @@ private slots:
     QCOMPARE(run(arguments + QStringList("--force"), folder_.path()).status, 0);
     QVERIFY(contentOf(folder_.path("two.kdx")) != before);
     put(folder_.path("two.kdx"), before);
+  }
+
+  void featuresAreToldAsJson() {
+    Outcome const outcome = run({"run", PLOTVANE_SOURCE_DIR "/samples/world.kdx", "view=map",
+                                 "identify=1000000,5800000", "attributes=layer:World/Capitals:name = 'Berlin'"},
+                                folder_.path());
+    QCOMPARE(outcome.err, QString());
+    QStringList const lines = outcome.out.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 2);
+    auto const features = json(lines[0].toUtf8()).value("features").toArray();
+    QStringList layers;
+    for (auto const& feature : features) layers << feature.toObject().value("layer").toString();
+    QCOMPARE(layers, QStringList({"Capitals", "Countries", "Shore", "Ocean"}));
+    QCOMPARE(features[1].toObject().value("label").toString(), QString("Germany"));
+    auto const berlin = json(lines[1].toUtf8());
+    QCOMPARE(features[0].toObject().value("id"), berlin.value("id"));
+    QCOMPARE(features[0].toObject().value("fields"), berlin.value("fields"));
+    QCOMPARE(berlin.value("fields").toObject().value("country").toString(), QString("DE"));
   }
 
   void theFocusGoesToAMapByName() {

@@ -28,15 +28,10 @@ QString momentOf(OGRFeature const& feature, int field, OGRFieldType type) {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0, zone = 0;
   float second = 0;
   feature.GetFieldAsDateTime(field, &year, &month, &day, &hour, &minute, &second, &zone);
-  QString const date = QStringLiteral("%1-%2-%3")
-                           .arg(year, 4, 10, QLatin1Char('0'))
-                           .arg(month, 2, 10, QLatin1Char('0'))
-                           .arg(day, 2, 10, QLatin1Char('0'));
+  QString const date = QString::asprintf("%04d-%02d-%02d", year, month, day);
   bool const isWhole = second == static_cast<float>(static_cast<int>(second));
-  QString const time = QStringLiteral("%1:%2:%3")
-                           .arg(hour, 2, 10, QLatin1Char('0'))
-                           .arg(minute, 2, 10, QLatin1Char('0'))
-                           .arg(static_cast<double>(second), isWhole ? 2 : 6, 'f', isWhole ? 0 : 3, QLatin1Char('0'));
+  QString const time =
+      QString::asprintf(isWhole ? "%02d:%02d:%02.0f" : "%02d:%02d:%06.3f", hour, minute, static_cast<double>(second));
   if (type == OFTDate) return date;
   return type == OFTTime ? time : date + QLatin1Char(' ') + time;
 }

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
+#include <atomic>
 #include <future>
 
 namespace SysCarto {
@@ -121,6 +121,8 @@ int seamOf(QString const& word) {
   return 0;
 }
 
+std::atomic<bool> isCatalogueRead{false};
+
 bool isNamed(QString const& authority) {
   static QStringList const known{QStringLiteral("EPSG"), QStringLiteral("ESRI"), QStringLiteral("IGNF"),
                                  QStringLiteral("OGC")};
@@ -159,15 +161,17 @@ SystemCatalogue const& SystemCatalogue::instance() {
 }
 
 // The thread reads a database that nobody writes, into what nobody else has yet.
-bool SystemCatalogue::readAhead() {
+void SystemCatalogue::readAhead() {
   static std::future<void> const reading = std::async(std::launch::async, [] { instance(); });
-  return reading.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
 }
+
+bool SystemCatalogue::isRead() { return isCatalogueRead; }
 
 SystemCatalogue::SystemCatalogue() {
   stayOffline();
   read();
   index();
+  isCatalogueRead = true;
 }
 
 SystemCatalogue::~SystemCatalogue() = default;

@@ -37,8 +37,11 @@ public:
   /// Waits until the database is read, which takes about a second.
   static SystemCatalogue const& instance();
 
-  /// Begins to read beside what else is done. Answers whether `instance` answers at once.
-  static bool readAhead();
+  /// Begins to read beside what else is done.
+  static void readAhead();
+
+  /// Whether `instance` answers at once.
+  static bool isRead();
 
   ~SystemCatalogue();
   SystemCatalogue(SystemCatalogue const&) = delete;

@@ -16,6 +16,13 @@ namespace {
 using Context = std::unique_ptr<PJ_CONTEXT, decltype(&proj_context_destroy)>;
 using Object = std::unique_ptr<PJ, decltype(&proj_destroy)>;
 
+// It keeps PROJ's database open.
+PJ_CONTEXT* sharedContext() {
+  static Context const context(proj_context_create(), proj_context_destroy);
+  proj_context_set_enable_network(context.get(), 0);
+  return context.get();
+}
+
 QString wktOf(OGRSpatialReference const& system) {
   static char const* const options[] = {"FORMAT=WKT2_2019", "MULTILINE=YES", nullptr};
   char* text = nullptr;
@@ -63,15 +70,14 @@ std::optional<SystemDescription> describeSystem(QString const& definition) {
   told.wkt = wktOf(*system);
   if (char const* const code = system->GetAuthorityCode(nullptr))
     told.code = QString::fromUtf8(system->GetAuthorityName(nullptr)) + QLatin1Char(':') + QString::fromUtf8(code);
-  Context const context(proj_context_create(), proj_context_destroy);
-  proj_context_set_enable_network(context.get(), 0);
-  Object const object(proj_create(context.get(), told.wkt.toUtf8().constData()), proj_destroy);
+  PJ_CONTEXT* const context = sharedContext();
+  Object const object(proj_create(context, told.wkt.toUtf8().constData()), proj_destroy);
   if (!object) return told;
-  told.method = told.isGeographic ? QString() : methodOf(context.get(), object.get());
-  told.datum = datumOf(context.get(), object.get());
+  told.method = told.isGeographic ? QString() : methodOf(context, object.get());
+  told.datum = datumOf(context, object.get());
   char const* area = nullptr;
   GlobeBox use;
-  if (proj_get_area_of_use(context.get(), object.get(), &use.west, &use.south, &use.east, &use.north, &area)) {
+  if (proj_get_area_of_use(context, object.get(), &use.west, &use.south, &use.east, &use.north, &area)) {
     if (use.south >= -90) told.use = use;  // -1000 stands for what isn't known
     told.area = QString::fromUtf8(area);
   }

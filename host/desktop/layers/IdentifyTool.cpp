@@ -46,11 +46,13 @@ bool IdentifyTool::IsEnable() {
 bool IdentifyTool::Activate() {
   clicks_ = QObject::connect(&views_.mapView(), &MapView::clicked, &views_,
                              [this](QPointF const& positionPx) { look(placeIn(views_.mapView(), positionPx)); });
+  views_.mapView().setCursor(Qt::WhatsThisCursor);
   return BaseTool::Activate();
 }
 
 bool IdentifyTool::Deactivate() {
   QObject::disconnect(clicks_);
+  views_.mapView().unsetCursor();
   return BaseTool::Deactivate();
 }
 
