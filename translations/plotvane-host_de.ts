@@ -177,6 +177,14 @@
         <source>Only markers and lines have sizes; take colours for the layer&apos;s areas.</source>
         <translation>Nur Marker und Linien haben Größen; nehmen Sie für die Flächen der Ebene Farben.</translation>
     </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+    <message>
+        <source>Only markers grow in proportion; the layer has none.</source>
+        <translation>Nur Marker wachsen im Verhältnis; die Ebene hat keine.</translation>
+    </message>
 </context>
 <context>
     <name>ClassifyDialog</name>
@@ -262,7 +270,7 @@
     </message>
     <message>
         <source>Method</source>
-        <translation>Methode</translation>
+        <translation>Verfahren</translation>
     </message>
     <message>
         <source>Classes</source>
@@ -279,6 +287,10 @@
     <message>
         <source>There are more than %1 values; the rarer ones are in no class.</source>
         <translation>Es gibt mehr als %1 Werte; die selteneren sind in keiner Klasse.</translation>
+    </message>
+    <message>
+        <source>Markers in proportion</source>
+        <translation>Marker im Verhältnis</translation>
     </message>
 </context>
 <context>
@@ -1049,7 +1061,7 @@
     </message>
     <message>
         <source>&amp;Layer</source>
-        <translation>E&amp;bene</translation>
+        <translation>Ebe&amp;ne</translation>
     </message>
     <message>
         <source>a data frame</source>
@@ -6119,7 +6131,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>Method</source>
-        <translation>Methode</translation>
+        <translation>Verfahren</translation>
     </message>
     <message>
         <source>Datum</source>

@@ -177,6 +177,14 @@
         <source>Only markers and lines have sizes; take colours for the layer&apos;s areas.</source>
         <translation>只有标记和线有大小；面图层请使用颜色。</translation>
     </message>
+    <message>
+        <source>(empty)</source>
+        <translation>（空）</translation>
+    </message>
+    <message>
+        <source>Only markers grow in proportion; the layer has none.</source>
+        <translation>只有标记可以按比例变化；该图层没有标记。</translation>
+    </message>
 </context>
 <context>
     <name>ClassifyDialog</name>
@@ -279,6 +287,10 @@
     <message>
         <source>There are more than %1 values; the rarer ones are in no class.</source>
         <translation>值超过 %1 个；较少见的值不属于任何分类。</translation>
+    </message>
+    <message>
+        <source>Markers in proportion</source>
+        <translation>比例标记</translation>
     </message>
 </context>
 <context>

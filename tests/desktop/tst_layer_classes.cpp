@@ -60,6 +60,12 @@ private slots:
     for (auto const& one : rendererOf(*thing).classes) sizes << SysDisplay::sizeOf(*one.symbol);
     QCOMPARE(sizes, (QVector<double>{4, 8, 12}));
     session_.document().GetOperationStack()->Undo();
+
+    QCOMPARE(LayerClasses::read("proportional,sizes=2-30", wanted), QString());
+    QCOMPARE(LayerClasses::make(session_.document(), thing, wanted, warnings), QString());
+    QCOMPARE(rendererOf(*thing).proportional.smallestPt, 2.0);
+    QCOMPARE(SysDisplay::sizeOf(*rendererOf(*thing).classes[0].symbol), 30.0);
+    session_.document().GetOperationStack()->Undo();
   }
 
   void whatCanNotBeMadeIsTold_data() {
@@ -71,6 +77,7 @@ private slots:
     row("an unknown ramp", "Capitals", "population", "natural,ramp=Blue", "Blues");
     row("no classes", "Capitals", "population", "natural,classes=0", "1 to 100");
     row("no number", "Capitals", "population", "natural,classes=many", "classes=7");
+    row("areas in proportion", "Countries", "name", "proportional", "holds no numbers");
     row("sizes of areas", "Countries", "name", "unique,sizes=1-5", "Only markers and lines");
     row("breaks without numbers", "Capitals", "population", "own", "breaks=10;100");
   }

@@ -31,8 +31,11 @@ constexpr struct { Method method; char const* name; } methods[] = {
     {Method::Pretty,            "pretty"},
     {Method::OwnBreaks,         "own"},
     {Method::UniqueValues,      "unique"},
+    {Method::Proportional,      "proportional"},
 };
 // clang-format on
+
+constexpr int maxLabel = 200;
 
 ClassMethod methodOfNumbers(Method method) { return static_cast<ClassMethod>(method); }
 
@@ -59,6 +62,16 @@ std::vector<double> boundsOf(std::vector<double> const& sorted, ClassifySettings
   if (sorted.empty()) return {};
   if (wanted.method == Method::OwnBreaks) return boundsAround(sorted, wanted.breaks);
   return roundedBounds(sorted, classBounds(sorted, methodOfNumbers(wanted.method), wanted.classes));
+}
+
+void makeProportional(Classes& classes, std::vector<double> const& sorted, Symbol const& base,
+                      ClassifySettings const& wanted) {
+  classes.renderer.kind = RendererSettings::Kind::Proportional;
+  classes.renderer.proportional.smallestPt = std::min(wanted.from, wanted.to);
+  auto const marker = base.Clone();
+  setSize(*marker, std::max(wanted.from, wanted.to));
+  classes.renderer.classes = {{{}, {}, 0, marker}};
+  classes.counts = {static_cast<int>(sorted.end() - std::upper_bound(sorted.begin(), sorted.end(), 0.0))};
 }
 
 // The symbols of so many classes.
@@ -90,7 +103,8 @@ void addValues(Classes& classes, std::vector<FieldValues::Text> texts, ClassifyS
       return way != 0 ? way < 0 : a.text < b.text;
     });
   for (FieldValues::Text const& text : texts) {
-    classes.renderer.classes.push_back({text.text, {text.text}, 0, nullptr});
+    QString const label = text.text.simplified().left(maxLabel);
+    classes.renderer.classes.push_back({label.isEmpty() ? Texts::tr("(empty)") : label, {text.text}, 0, nullptr});
     classes.counts.push_back(text.count);
   }
 }
@@ -123,6 +137,8 @@ QString problemOf(FieldValues const& values, Symbol const* base, ClassifySetting
     return Texts::tr("There is no colour ramp “%1”; there are: %2.").arg(wanted.ramp, names.join(QStringLiteral(", ")));
   }
   if (!base) return Texts::tr("The layer has no symbol that could be given other colours; give it one first.");
+  if (wanted.method == Method::Proportional && base->GetType() != SysDisplay::SymbolType::Marker)
+    return Texts::tr("Only markers grow in proportion; the layer has none.");
   if (wanted.sized && SysDisplay::sizeOf(*base) <= 0)
     return Texts::tr("Only markers and lines have sizes; take colours for the layer's areas.");
   return QString();
@@ -135,8 +151,6 @@ std::optional<Method> ClassifySettings::methodOf(QString const& name) {
     if (name == QLatin1String(one.name)) return one.method;
   return std::nullopt;
 }
-
-QString ClassifySettings::nameOf(Method method) { return QLatin1String(methods[static_cast<int>(method)].name); }
 
 QStringList ClassifySettings::methodNames() {
   QStringList names;
@@ -154,10 +168,15 @@ Classes classify(FieldValues const& values, RendererSettings const& now, Classif
   classes.renderer.field = wanted.field;
   classes.renderer.others = now.others;
   classes.missing = values.missing;
+  auto const sorted = sortedValues(values.numbers).sorted;
+  if (wanted.method == Method::Proportional) {
+    makeProportional(classes, sorted, *base, wanted);
+    return classes;
+  }
   if (isUnique)
     addValues(classes, values.texts, wanted);
   else
-    addRanges(classes, sortedValues(values.numbers).sorted, wanted);
+    addRanges(classes, sorted, wanted);
   auto const symbols = symbolsFor(*base, static_cast<int>(classes.renderer.classes.size()), wanted);
   for (size_t i = 0; i < symbols.size(); ++i) classes.renderer.classes[i].symbol = symbols[i];
   return classes;

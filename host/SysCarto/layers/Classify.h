@@ -12,8 +12,17 @@ namespace SysCarto {
 
 /// How the classes of a layer are made of the values of a field.
 struct SYSCARTO_EXPORT ClassifySettings {
-  /// One of `ClassMethod`, breaks of one's own, or a class for each value.
-  enum class Method { EqualIntervals, Quantiles, NaturalBreaks, StandardDeviation, Pretty, OwnBreaks, UniqueValues };
+  /// One of `ClassMethod`, breaks of one's own, a class for each value, or none: markers in proportion.
+  enum class Method {
+    EqualIntervals,
+    Quantiles,
+    NaturalBreaks,
+    StandardDeviation,
+    Pretty,
+    OwnBreaks,
+    UniqueValues,
+    Proportional
+  };
 
   QString field;
   Method method = Method::NaturalBreaks;
@@ -23,11 +32,10 @@ struct SYSCARTO_EXPORT ClassifySettings {
   bool reversed = false;
   bool inOrder = false;      ///< values sorted, and not the most frequent first
   bool sized = false;        ///< sizes of markers or widths of lines from one to the other, and not colours
-  double from = 4, to = 20;  ///< points
+  double from = 4, to = 20;  ///< points; of markers in proportion the smallest and that of the largest number
 
   static constexpr int maxClasses = 100, maxValues = 1000;
   static std::optional<Method> methodOf(QString const& name);
-  static QString nameOf(Method method);
   static QStringList methodNames();
 };
 

@@ -98,10 +98,9 @@ void FeatureStore::endFeature(int symbolClass, QString const& label, double prio
 
 int FeatureStore::classSetOf(std::vector<int> const& classes) {
   if (classes.empty()) return -1;
-  auto const known = std::find(classSets.begin(), classSets.end(), classes);
-  if (known != classSets.end()) return static_cast<int>(known - classSets.begin());
-  classSets.push_back(classes);
-  return static_cast<int>(classSets.size()) - 1;
+  auto const [known, isNew] = setNumbers_.emplace(classes, static_cast<int>(classSets.size()));
+  if (isNew) classSets.push_back(classes);
+  return known->second;
 }
 
 void FeatureStore::append(FeatureStore& other) {

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QTransform>
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -96,6 +97,7 @@ private:
   std::unique_ptr<BoxTree> index_;
   Box box_;
   std::vector<double> largest_;  // of the values
+  std::map<std::vector<int>, int> setNumbers_;
   Feature current_{};
   qint64 currentId_ = -1;
   bool polygonStarts_ = false;

@@ -21,7 +21,7 @@ using SysUtility::TextKind;
 
 namespace {
 
-constexpr int maxClasses = 10000, maxRules = 1000, maxTold = 12;
+constexpr int maxClasses = 10000, maxRules = 200, maxTold = 12;
 constexpr double maxMarkerPt = 1000;
 constexpr double farthest = 1e300;
 

@@ -65,7 +65,8 @@ int BreakHistogram::boundAt(double x) const {
 QColor BreakHistogram::colorOf(double value) const {
   auto const next = std::upper_bound(bounds_.begin(), bounds_.end(), value);
   int const own = static_cast<int>(next - bounds_.begin()) - 1;
-  return colors_.isEmpty() ? palette().color(QPalette::Mid) : colors_[qBound(0, own, colors_.size() - 1)];
+  return colors_.isEmpty() || !colors_.first().isValid() ? palette().color(QPalette::Mid)
+                                                         : colors_[qBound(0, own, colors_.size() - 1)];
 }
 
 void BreakHistogram::paintEvent(QPaintEvent*) {

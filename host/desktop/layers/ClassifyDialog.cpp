@@ -105,7 +105,8 @@ void ClassifyDialog::build() {
   field_ = named(new QComboBox(this), "comboBox_Field");
   method_ = named(new QComboBox(this), "comboBox_Method");
   method_->addItems({tr("Equal intervals"), tr("Quantiles"), tr("Natural breaks"), tr("Standard deviation"),
-                     tr("Round numbers"), tr("Breaks of your own"), tr("A class for each value")});
+                     tr("Round numbers"), tr("Breaks of your own"), tr("A class for each value"),
+                     tr("Markers in proportion")});
   count_ = named(new QSpinBox(this), "spinBox_Classes");
   count_->setRange(1, ClassifySettings::maxClasses);
   count_->setValue(usualClasses);
@@ -218,14 +219,15 @@ void ClassifyDialog::showClasses() {
   for (auto const& one : classes) colors << SysDisplay::colorOf(*one.symbol);
   histogram_->setClasses(classes_.bounds, colors);
   histogram_->setVisible(!isUnique());
-  bool const isSized = look_->currentIndex() == Sizes;
+  bool const isProportional = wanted().method == Method::Proportional;
+  bool const isSized = look_->currentIndex() == Sizes || isProportional;
+  look_->setEnabled(!isProportional);
   for (QWidget* const widget : {static_cast<QWidget*>(ramp_), static_cast<QWidget*>(reversed_)})
     widget->setEnabled(!isSized);
   for (QWidget* const widget : {from_, to_}) widget->setEnabled(isSized);
-  count_->setEnabled(!isUnique());
+  count_->setEnabled(!isUnique() && !isProportional);
   sorted_->setEnabled(isUnique());
-  table_->setColumnHidden(FromColumn, isUnique());
-  table_->setColumnHidden(ToColumn, isUnique());
+  for (int const column : {FromColumn, ToColumn}) table_->setColumnHidden(column, classes_.bounds.empty());
   table_->setRowCount(static_cast<int>(classes.size()));
   for (int row = 0; row < table_->rowCount(); ++row) showRow(row);
   for (int const column : {SymbolColumn, FromColumn, ToColumn, CountColumn}) table_->resizeColumnToContents(column);
@@ -245,7 +247,7 @@ void ClassifyDialog::showRow(int row) {
   auto* const symbol = cell(QString(), false);
   symbol->setIcon(swatchOf(*one.symbol, devicePixelRatioF()));
   table_->setItem(row, SymbolColumn, symbol);
-  if (!isUnique()) {
+  if (!classes_.bounds.empty()) {
     table_->setItem(row, FromColumn, cell(grouped(classes_.bounds[row]), false));
     table_->setItem(row, ToColumn, cell(grouped(classes_.bounds[row + 1]), row + 1 < table_->rowCount()));
   }

@@ -174,6 +174,61 @@ private slots:
     QCOMPARE(textsOf(*frame), QStringList());
   }
 
+  // Squares of 72 and 36 points for 16 and 4 people: nested on one line, or one below the other.
+  void markersInProportionAreTold_data() {
+    Rows<QByteArray, QStringList, double> row;
+    row("nested", "", {"Towns", "16", "4", "none"}, 2.54);
+    row("one below the other", ",'legendShape':'rows'", {"Towns", "16", "4", "none"}, 2.54 + 1.27 + 3 * 2.54 / 72);
+    row("numbers of one's own", ",'legendValues':[4]", {"Towns", "4", "none"}, 1.27);
+    row("round numbers below the largest", ",'legendValues':[]", {"Towns", "15", "4", "0.6", "none"}, 2.46);
+  }
+  void markersInProportionAreTold() {
+    auto const [how, texts, heightCm] = fetched<QByteArray, QStringList, double>();
+    QByteArray const numbers = how.contains("legendValues") ? "" : ",'legendValues':[4,16]";
+    RendererSettings settings;
+    QCOMPARE(SysUtility::readJson(json("{'type':'proportional','field':'n','symbol':{'type':'simpleMarker','style':"
+                                       "'square','size':72,'color':'#ff0000'},'defaultLabel':'none','defaultSymbol':"
+                                       "{'type':'simpleMarker'}" +
+                                       how + numbers + "}"),
+                                  settings),
+             QString());
+    QTemporaryDir const folder;
+    QByteArray const town =
+        R"({"type":"Feature","properties":{"n":16},"geometry":{"type":"Point","coordinates":[0,0]}})";
+    auto const layer = make<VectorLayer>(makeRenderer(settings));
+    layer->SetName("Towns");
+    QStringList warnings;
+    QCOMPARE(layer->open({written(folder, "a.geojson", collection({town})), {}, {}, {}}, QString(), warnings),
+             QString());
+    auto const map = mapOf("", 0, 0, 1);
+    map->AddLayer(layer);
+    auto const frame = framed<Legend>(map, whole, "{'title':''}");
+    QCOMPARE(textsOf(*frame), texts);
+    QRectF const squares = placesOfColors(page.drawn(sceneOf(frame)), 40)[qRgb(255, 0, 0)];
+    QVERIFY2(std::abs(squares.height() - heightCm) < 0.06, qPrintable(QString::number(squares.height())));
+  }
+
+  void rulesAreTold() {
+    RendererSettings settings;
+    QByteArray const symbol = "'symbol':{'type':'simpleMarker'}";
+    QCOMPARE(SysUtility::readJson(json("{'type':'rules','match':'all','rules':[{'label':'all'," + symbol +
+                                       "},{'label':'silent','legend':"
+                                       "false," +
+                                       symbol + "},{'label':'near','maxScale':10," + symbol + "}]}"),
+                                  settings),
+             QString());
+    QTemporaryDir const folder;
+    auto const layer = make<VectorLayer>(makeRenderer(settings));
+    layer->SetName("Towns");
+    QStringList warnings;
+    QByteArray const point = geoJson(R"({"type":"Point","coordinates":[0,0]})");
+    QCOMPARE(layer->open({written(folder, "a.geojson", point), {}, {}, {}}, QString(), warnings), QString());
+    auto const map = mapOf("", 0, 0, 1);  // at a scale of 1:100
+    map->AddLayer(layer);
+    QCOMPARE(textsOf(*framed<Legend>(map, whole, "{'title':''}")), QStringList({"Towns", "all", "near"}));
+    QCOMPARE(textsOf(*framed<Legend>(map, whole, "{'title':'','onMapOnly':true}")), QStringList({"Towns", "all"}));
+  }
+
   void linesAreNoWiderThanAsked() {
     auto const map = mapOf("", 0, 0, 1000);
     QString const text = "A layer with a long name that is broken into lines at Donaudampfschifffahrtsgesellschaft";
