@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Only markers grow in proportion; the layer has none.</source>
-        <translation>Nur Marker wachsen im Verhältnis; die Ebene hat keine.</translation>
+        <translation type="vanished">Nur Marker wachsen im Verhältnis; die Ebene hat keine.</translation>
     </message>
 </context>
 <context>
@@ -4205,7 +4205,7 @@
     </message>
     <message>
         <source>The marker, in its size for the reference.</source>
-        <translation>Der Marker in seiner Größe für die Bezugszahl.</translation>
+        <translation type="vanished">Der Marker in seiner Größe für die Bezugszahl.</translation>
     </message>
     <message>
         <source>Reference</source>
@@ -4250,6 +4250,10 @@
     <message>
         <source>One symbol for all features, one for each value of an attribute, one for each range of a numeric attribute, symbols by rules, or markers in sizes by a number.</source>
         <translation>Ein Symbol für alle Objekte, eines für jeden Wert eines Attributs, eines für jeden Bereich eines Zahlenattributs, Symbole nach Regeln oder Marker in Größen nach einer Zahl.</translation>
+    </message>
+    <message>
+        <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
+        <translation>Der Marker in seiner Größe für die Bezugszahl; er steht in Flächen und auf Linien.</translation>
     </message>
 </context>
 <context>

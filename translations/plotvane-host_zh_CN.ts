@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Only markers grow in proportion; the layer has none.</source>
-        <translation>只有标记可以按比例变化；该图层没有标记。</translation>
+        <translation type="vanished">只有标记可以按比例变化；该图层没有标记。</translation>
     </message>
 </context>
 <context>
@@ -4205,7 +4205,7 @@
     </message>
     <message>
         <source>The marker, in its size for the reference.</source>
-        <translation>标记，其大小对应参考值。</translation>
+        <translation type="vanished">标记，其大小对应参考值。</translation>
     </message>
     <message>
         <source>Reference</source>
@@ -4250,6 +4250,10 @@
     <message>
         <source>One symbol for all features, one for each value of an attribute, one for each range of a numeric attribute, symbols by rules, or markers in sizes by a number.</source>
         <translation>所有要素使用一个符号、属性的每个值一个符号、数值属性的每个区间一个符号、按规则设置符号，或按数值设置标记大小。</translation>
+    </message>
+    <message>
+        <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
+        <translation>标记，其大小对应参考值；可位于面内和线上。</translation>
     </message>
 </context>
 <context>

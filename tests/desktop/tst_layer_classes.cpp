@@ -77,7 +77,6 @@ private slots:
     row("an unknown ramp", "Capitals", "population", "natural,ramp=Blue", "Blues");
     row("no classes", "Capitals", "population", "natural,classes=0", "1 to 100");
     row("no number", "Capitals", "population", "natural,classes=many", "classes=7");
-    row("areas in proportion", "Countries", "name", "proportional", "holds no numbers");
     row("sizes of areas", "Countries", "name", "unique,sizes=1-5", "Only markers and lines");
     row("breaks without numbers", "Capitals", "population", "own", "breaks=10;100");
   }
@@ -135,6 +134,21 @@ private slots:
     dialog.findChild<QComboBox*>("comboBox_Field")->setCurrentText("country");
     QCOMPARE(made.kind, RendererSettings::Kind::UniqueValues);
     QVERIFY(!histogram->isVisible());
+    QVERIFY(!session_.isModified());
+  }
+
+  void theDialogBeginsWithTheClassesThatThereAre() {
+    auto const thing = layer("Capitals");
+    ClassifySettings wanted;
+    wanted.field = "population";
+    QCOMPARE(LayerClasses::read("own,breaks=100000;5000000,ramp=Purples,reversed", wanted), QString());
+    QStringList warnings;
+    QCOMPARE(LayerClasses::make(session_.document(), thing, wanted, warnings), QString());
+    QString const before = classesOf(*thing);
+    ClassifyDialog const dialog(ptr_cast<VectorLayer>(thing->layer()));
+    QCOMPARE(LayerClasses::give(session_.document(), thing, dialog.renderer(), warnings), QString());
+    QCOMPARE(classesOf(*thing), before);
+    session_.document().GetOperationStack()->Undo();
     QVERIFY(!session_.isModified());
   }
 

@@ -1,6 +1,7 @@
 #include "Classify.h"
 
 #include "host/SysCarto/layers/ColorRamp.h"
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SymbolVariation.h"
 #include "host/SysUtility/NumberText.h"
 
@@ -68,7 +69,9 @@ void makeProportional(Classes& classes, std::vector<double> const& sorted, Symbo
                       ClassifySettings const& wanted) {
   classes.renderer.kind = RendererSettings::Kind::Proportional;
   classes.renderer.proportional.smallestPt = std::min(wanted.from, wanted.to);
-  auto const marker = base.Clone();
+  bool const isMarker = base.GetType() == SysDisplay::SymbolType::Marker;
+  auto const marker = isMarker ? base.Clone() : _ptr_t<Symbol>(new SysDisplay::SimpleMarkerSymbol);
+  if (!isMarker) setColor(*marker, SysDisplay::colorOf(base));
   setSize(*marker, std::max(wanted.from, wanted.to));
   classes.renderer.classes = {{{}, {}, 0, marker}};
   classes.counts = {static_cast<int>(sorted.end() - std::upper_bound(sorted.begin(), sorted.end(), 0.0))};
@@ -137,8 +140,6 @@ QString problemOf(FieldValues const& values, Symbol const* base, ClassifySetting
     return Texts::tr("There is no colour ramp “%1”; there are: %2.").arg(wanted.ramp, names.join(QStringLiteral(", ")));
   }
   if (!base) return Texts::tr("The layer has no symbol that could be given other colours; give it one first.");
-  if (wanted.method == Method::Proportional && base->GetType() != SysDisplay::SymbolType::Marker)
-    return Texts::tr("Only markers grow in proportion; the layer has none.");
   if (wanted.sized && SysDisplay::sizeOf(*base) <= 0)
     return Texts::tr("Only markers and lines have sizes; take colours for the layer's areas.");
   return QString();

@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 
+#include <ogr_api.h>
 #include <ogr_feature.h>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
@@ -85,6 +86,13 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
   return projector;
 }
 
+// Where a marker of a line or an area stands; null for points, which are places themselves.
+std::unique_ptr<OGRGeometry> markedPlace(OGRGeometry const& geometry) {
+  if (geometry.getDimension() == 0) return nullptr;
+  return std::unique_ptr<OGRGeometry>(
+      OGRGeometry::FromHandle(OGR_G_PointOnSurface(OGRGeometry::ToHandle(const_cast<OGRGeometry*>(&geometry)))));
+}
+
 void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition const& condition, Renderer const& renderer,
              SourceSettings const& source, LabelFields const& labels, ReadFeatures& result) {
   Field const classField(layer, renderer.field(), source, result.warnings);
@@ -94,9 +102,11 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   FeatureEvaluator const evaluator(layer, renderer, describeSource(source), result.warnings);
   store.keepsLabels = !labels.text.isEmpty();
   store.valuesPerFeature = static_cast<int>(renderer.varied().size());
+  bool const isMarked = renderer.settings().kind == RendererSettings::Kind::Proportional;
   FeatureIntake intake(projector, store, [&](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
     to.beginFeature(feature.GetFID());
-    own.add(*feature.GetGeometryRef(), to);
+    auto const place = isMarked ? markedPlace(*feature.GetGeometryRef()) : nullptr;
+    own.add(place ? *place : *feature.GetGeometryRef(), to);
     double const priority = priorityField.number(feature);
     int const fitting = evaluator.place(feature, to);
     int const symbolClass =

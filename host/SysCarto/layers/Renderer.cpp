@@ -158,10 +158,11 @@ void listRules(Fields& fields, RendererSettings& settings) {
 void listProportional(Fields& fields, SymbolClass& one, ProportionalSettings& settings) {
   ProportionalSettings const usual;
   auto marker = SysUtility::ptr_cast<SysDisplay::MarkerSymbol>(one.symbol);
-  listSymbol(fields,
-             {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"),
-              QT_TRANSLATE_NOOP("Fields", "The marker, in its size for the reference.")},
-             marker);
+  listSymbol(
+      fields,
+      {"symbol", QT_TRANSLATE_NOOP("Fields", "Symbol"),
+       QT_TRANSLATE_NOOP("Fields", "The marker, in its size for the reference; it stands in areas and on lines.")},
+      marker);
   one.symbol = marker;
   fields.number(
       {"reference", QT_TRANSLATE_NOOP("Fields", "Reference"),

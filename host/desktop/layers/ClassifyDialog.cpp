@@ -81,6 +81,7 @@ ClassifyDialog::ClassifyDialog(SysUtility::_ptr_t<SysCarto::VectorLayer> layer, 
   method_->setCurrentIndex(static_cast<int>(wasUnique || !isNumber ? Method::UniqueValues : Method::NaturalBreaks));
   fillRamps();
   readField();
+  beginWith(now);
   connect(field_, &QComboBox::currentTextChanged, this, &ClassifyDialog::readField);
   connect(method_, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
     fillRamps();
@@ -99,6 +100,33 @@ ClassifyDialog::ClassifyDialog(SysUtility::_ptr_t<SysCarto::VectorLayer> layer, 
   });
   connect(histogram_, &BreakHistogram::moved, this, &ClassifyDialog::moveBound);
   connect(table_, &QTableWidget::itemChanged, this, &ClassifyDialog::takeCell);
+}
+
+// The bounds that there are, and the ramp or the sizes that made their symbols.
+void ClassifyDialog::beginWith(SysCarto::RendererSettings const& now) {
+  using Kind = SysCarto::RendererSettings::Kind;
+  auto const& classes = now.classes;
+  if (classes.size() < 2 || (now.kind != Kind::Graduated && now.kind != Kind::UniqueValues)) return;
+  for (size_t i = 1; i < classes.size() && now.kind == Kind::Graduated; ++i) breaks_.push_back(classes[i].minimum);
+  if (!breaks_.empty() && values_.isNumeric) method_->setCurrentIndex(static_cast<int>(Method::OwnBreaks));
+  QVector<QColor> colors;
+  for (auto const& one : classes) colors << SysDisplay::colorOf(*one.symbol);
+  for (bool const reversed : {true, false})
+    for (ColorRamp const& ramp : ColorRamp::all())
+      if (ramp.colors(colors.size(), reversed) == colors) {
+        reversed_->setChecked(reversed);
+        ramp_->setProperty("chosen", true);
+        fillRamps();
+        ramp_->setCurrentText(QLatin1String(ramp.name));
+      }
+  double const from = SysDisplay::sizeOf(*classes.front().symbol), to = SysDisplay::sizeOf(*classes.back().symbol);
+  if (from != to) {
+    look_->setCurrentIndex(Sizes);
+    from_->setValue(from);
+    to_->setValue(to);
+  }
+  count_->setValue(static_cast<int>(classes.size()));
+  remake();
 }
 
 void ClassifyDialog::build() {

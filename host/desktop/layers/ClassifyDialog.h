@@ -27,6 +27,7 @@ public:
 
 private:
   void build();
+  void beginWith(SysCarto::RendererSettings const& now);
   void fillRamps();
   void readField();
   void remake();

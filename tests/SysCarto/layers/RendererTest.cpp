@@ -127,6 +127,32 @@ private slots:
     QVERIFY(!shown.tilesDiffer);
   }
 
+  // In the larger part of an area with a hole, and on a line.
+  void areasAndLinesAreMarkedOnce() {
+    auto const thing = [](QByteArray const& n, QByteArray const& geometry) {
+      return R"({"type":"Feature","properties":{"n":)" + n + R"(},"geometry":)" + geometry + "}";
+    };
+    QByteArray const area = R"({"type":"MultiPolygon","coordinates":[[[[0,0],[1,0],[1,1],[0,1],[0,0]]],)"
+                            R"([[[10,2],[18,2],[18,8],[10,8],[10,2]],[[13,3],[15,3],[15,7],[13,7],[13,3]]]]})";
+    QByteArray const line = R"({"type":"LineString","coordinates":[[22,5],[30,5],[38,5]]})";
+    RendererSettings settings;
+    QCOMPARE(SysUtility::readJson(json("{'type':'proportional','field':'n','symbol':" + marker("#0000ff", "9") + "}"),
+                                  settings),
+             QString());
+    QTemporaryDir const folder;
+    VectorLayer layer(makeRenderer(settings));
+    QStringList warnings;
+    QByteArray const file = collection({thing("1", area), thing("1", line)});
+    QCOMPARE(layer.open({written(folder, "a.geojson", file), {}, {}, {}}, {}, warnings), QString());
+    auto const& store = layer.features();
+    QCOMPARE(store.parts.size(), size_t(2));
+    Box const inArea = store.parts[0].box, onLine = store.parts[1].box;
+    bool const isInside = inArea.xmin > 10 && inArea.xmin < 18 && inArea.ymin > 2 && inArea.ymin < 8;
+    bool const isInHole = inArea.xmin > 13 && inArea.xmin < 15 && inArea.ymin > 3 && inArea.ymin < 7;
+    QVERIFY(isInside && !isInHole);
+    QVERIFY(onLine.xmin == 30 && onLine.ymin == 5 && store.parts[1].kind == PartKind::Point);
+  }
+
   void symbolsFollowTheAttributes_data() {
     Rows<QByteArray, QString, QString> row;
     auto const by = [](QByteArray const& fields, QByteArray const& style = "square") {
