@@ -2,6 +2,8 @@
 
 #include "Pieces.h"
 
+#include "host/SysDisplay/SimpleMarkerSymbol.h"
+
 #include <SysDisplay/SimpleLineSymbol.h>
 
 #include <algorithm>
@@ -9,6 +11,7 @@
 namespace SysCarto {
 
 using SysDisplay::MarkerSymbol;
+using SysDisplay::SimpleMarkerSymbol;
 using SysDisplay::TextSymbol;
 using SysUtility::_ptr_t;
 
@@ -17,7 +20,19 @@ namespace {
 // In points.
 constexpr double leader = 8;  // how far a line reaches beyond the markers
 constexpr double textGap = 3;
-constexpr double leaderWidth = 0.3;
+constexpr double leaderWidth = 0.3, edgeWidth = 0.4;
+
+// Plain markers of one colour get an edge, or nobody would see them within each other.
+_ptr_t<MarkerSymbol> edged(_ptr_t<MarkerSymbol> const& marker) {
+  auto const* const plain = dynamic_cast<SimpleMarkerSymbol const*>(marker.get());
+  if (!plain || plain->outlineWidth() > 0) return marker;
+  auto const edged = SysUtility::make<SimpleMarkerSymbol>(*plain);
+  constexpr int lighter = 180, darker = 160;  // percent
+  QColor const color = plain->color();
+  edged->setOutlineColor(color.lightness() < 128 ? color.lighter(lighter) : color.darker(darker));
+  edged->setOutlineWidth(edgeWidth);
+  return edged;
+}
 
 }  // namespace
 
@@ -25,8 +40,8 @@ constexpr double leaderWidth = 0.3;
 NestedMarkers::NestedMarkers(QVector<LegendClass> const& classes, TextSymbol const& lettering) {
   double textsWidth = 0, height = 0;
   for (LegendClass const& one : classes) {
-    auto const marker = SysUtility::ptr_cast<MarkerSymbol>(one.symbol);
-    if (!marker) continue;
+    if (one.symbol->GetType() != SysDisplay::SymbolType::Marker) continue;
+    auto const marker = edged(SysUtility::ptr_cast<MarkerSymbol>(one.symbol));
     QRectF const unit = unitBounds(*marker), text = lettering.bounds(one.label);
     QRectF const bounds(unit.topLeft() * marker->GetSize(), unit.size() * marker->GetSize());
     rows_ << Row{one.label, marker, bounds, 0, text.height()};
