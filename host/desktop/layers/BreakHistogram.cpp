@@ -105,7 +105,7 @@ void BreakHistogram::mousePressEvent(QMouseEvent* event) {
 // A bound stays between its neighbours.
 void BreakHistogram::mouseMoveEvent(QMouseEvent* event) {
   double const x = event->localPos().x();
-  if (dragged_ < 0) return setCursor(boundAt(x) < 0 ? Qt::ArrowCursor : Qt::SplitHCursor);
+  if (dragged_ < 1) return setCursor(boundAt(x) < 0 ? Qt::ArrowCursor : Qt::SplitHCursor);
   double const value = toValue(x);
   if (value > bounds_[dragged_ - 1] && value < bounds_[dragged_ + 1] && value != bounds_[dragged_])
     emit moved(dragged_, value);
