@@ -9,7 +9,7 @@ namespace SysCarto {
 namespace {
 
 // clang-format off
-// The numbers of ColorBrewer, and every sixteenth part of viridis, magma, inferno, plasma and cividis.
+// The numbers of ColorBrewer, and every thirty-second part of viridis, magma, inferno, plasma and cividis.
 constexpr ColorRamp ramps[] = {
     {"Blues", RampKind::Sequential, 3, 9,
      "deebf79ecae13182bdeff3ffbdd7e76baed62171b5eff3ffbdd7e76baed63182bd08519ceff3ffc6dbef9ecae16baed6"
@@ -83,20 +83,25 @@ constexpr ColorRamp ramps[] = {
      "ffeda0feb24cf03b20ffffb2fecc5cfd8d3ce31a1cffffb2fecc5cfd8d3cf03b20bd0026ffffb2fed976feb24cfd8d3c"
      "f03b20bd0026ffffb2fed976feb24cfd8d3cfc4e2ae31a1cb10026ffffccffeda0fed976feb24cfd8d3cfc4e2ae31a1c"
      "b10026ffffccffeda0fed976feb24cfd8d3cfc4e2ae31a1cbd0026800026"},
-    {"Viridis", RampKind::Sequential, 17, 17,
-     "44015448186a472d7b4240863b528b33638d2c728e26828e21918c1f9f8827ad813dbc745cc86381d34daadc32d5e21a"
+    {"Viridis", RampKind::Sequential, 33, 33,
+     "440154470d6048186a482374472d7b4537814240863e49893b528b375b8d33638d2f6b8e2c728e297a8e26828e23898e"
+     "21918c1f978b1f9f8821a68527ad8131b57b3dbc744cc26c5cc8636ece5881d34d95d840aadc32c0df25d5e21aeae51a"
      "fde725"},
-    {"Magma", RampKind::Sequential, 17, 17,
-     "0000040a08221d114736106b51127c6a1c818326819c2e7fb73779cf4070e55064f4695cfb8761fea571fec287fde0a1"
+    {"Magma", RampKind::Sequential, 33, 33,
+     "0000040303120a0822130d341d114729115a36106b440f7651127c5d177f6a1c81762181832681902a819c2e7faa337d"
+     "b73779c23b75cf4070db476ae55064ee5b5ef4695cf9785dfb8761fd9668fea571feb47bfec287fed194fde0a1fceeb0"
      "fcfdbf"},
-    {"Inferno", RampKind::Sequential, 17, 17,
-     "0000040b0724210c4a3d096557106e71196e8a226aa32c61bc3754d04545e35933f1711ff98c0afcaa0ff9c932f2e865"
+    {"Inferno", RampKind::Sequential, 33, 33,
+     "0000040403120b0724150b37210c4a2f0a5b3d09654a0c6b57106e64156e71196e7d1e6d8a226a972766a32c61b0315b"
+     "bc3754c63d4dd04545da4e3ce35933eb6429f1711ff67e14f98c0afb9b06fcaa0ffbba1ff9c932f5d949f2e865f3f586"
      "fcffa4"},
-    {"Plasma", RampKind::Sequential, 17, 17,
-     "0d08873105974c02a16600a77e03a89511a1aa2395bc3587cc4778d9586ae56b5df07f4ff89441fdab33fdc328f9dd25"
+    {"Plasma", RampKind::Sequential, 33, 33,
+     "0d08872206903105973f049c4c02a15901a56600a77201a87e03a88a09a59511a1a01a9caa2395b32c8ebc3587c43e7f"
+     "cc4778d24f71d9586adf6263e56b5deb7556f07f4ff48948f89441fb9f3afdab33feb72dfdc328fcd025f9dd25f5eb27"
      "f0f921"},
-    {"Cividis", RampKind::Sequential, 17, 17,
-     "00224e002e6a1a386f32436d434e6c535a6d61656f6f70737d7c788b87789a9376aaa073bbad6dccba64ddc858efd748"
+    {"Cividis", RampKind::Sequential, 33, 33,
+     "00224e00285b002e6a0533711a386f273e6e32436d3b496c434e6c4b546c535a6d5a5f6e61656f686a716f7073767676"
+     "7d7c788381798b8778928d789a9376a29975aaa073b3a670bbad6dc3b369ccba64d4c15fddc858e6d051efd748f8df3c"
      "fee838"},
     {"BrBG", RampKind::Diverging, 3, 11,
      "d8b365f5f5f55ab4aca6611adfc27d80cdc1018571a6611adfc27df5f5f580cdc10185718c510ad8b365f6e8c3c7eae5"
