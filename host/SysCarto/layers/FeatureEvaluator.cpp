@@ -10,6 +10,8 @@ namespace SysCarto {
 
 namespace {
 
+constexpr int maxShown = 100;  // characters of an expression in a message
+
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(FeatureEvaluator)
 };
@@ -47,12 +49,12 @@ std::unique_ptr<FeatureEvaluator::Tools> FeatureEvaluator::make(OGRLayer& layer,
       tools->rules.emplace_back(i, std::move(condition));
     else
       warnings << Texts::tr("The filter “%1” of rule %2 of %3 is not understood, so that the rule fits nothing: %4.")
-                      .arg(rules[i].filter, QString::number(i + 1), source, reason);
+                      .arg(rules[i].filter.left(maxShown), QString::number(i + 1), source, reason);
   }
   for (VariedProperty const& property : renderer_.varied()) {
     tools->varied.emplace_back();
     if (!tools->varied.back().compile(layer, property.expression, reason))
-      warnings << sentenceFor(property.kind).arg(property.expression, source, reason);
+      warnings << sentenceFor(property.kind).arg(property.expression.left(maxShown), source, reason);
   }
   return tools;
 }
