@@ -9,6 +9,73 @@
     </message>
 </context>
 <context>
+    <name>AddLayersDialog</name>
+    <message>
+        <source>Add Layers</source>
+        <translation>Ebenen hinzufügen</translation>
+    </message>
+    <message>
+        <source>Layers of the files</source>
+        <translation>Ebenen der Dateien</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Ebene</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>Extent</source>
+        <translation>Ausdehnung</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Column of &amp;x</source>
+        <translation>Spalte für &amp;x</translation>
+    </message>
+    <message>
+        <source>Column of &amp;y</source>
+        <translation>Spalte für &amp;y</translation>
+    </message>
+    <message>
+        <source>or column of &amp;geometries</source>
+        <translation>oder Spalte für &amp;Geometrien</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>A table without places can be joined to a layer, in the properties of that.</source>
+        <translation>Eine Tabelle ohne Orte kann mit einer Ebene verknüpft werden, in deren Eigenschaften.</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Counting…</source>
+        <translation>Es wird gezählt …</translation>
+    </message>
+    <message>
+        <source>No layer is checked that could be drawn.</source>
+        <translation>Es ist keine Ebene angehakt, die gezeichnet werden könnte.</translation>
+    </message>
+</context>
+<context>
     <name>Archive</name>
     <message>
         <source>true or false</source>
@@ -270,7 +337,7 @@
     </message>
     <message>
         <source>Method</source>
-        <translation>Verfahren</translation>
+        <translation>Methode</translation>
     </message>
     <message>
         <source>Classes</source>
@@ -1061,7 +1128,7 @@
     </message>
     <message>
         <source>&amp;Layer</source>
-        <translation>Ebe&amp;ne</translation>
+        <translation>E&amp;bene</translation>
     </message>
     <message>
         <source>a data frame</source>
@@ -1106,6 +1173,14 @@
     <message>
         <source>a chosen layer of features</source>
         <translation>eine gewählte Ebene mit Objekten</translation>
+    </message>
+    <message>
+        <source>Add Layers…</source>
+        <translation>Ebenen hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add the data of files to the map</source>
+        <translation>Der Karte die Daten von Dateien hinzufügen</translation>
     </message>
 </context>
 <context>
@@ -1954,6 +2029,10 @@
     <message>
         <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
         <translation>Nichts von %1 liegt dort, wo das Koordinatensystem der Karte den Globus zeigt, sodass die Ebene leer ist; geben Sie der Karte ein anderes Koordinatensystem, oder der Quelle das, das sie in Wahrheit hat.</translation>
+    </message>
+    <message>
+        <source>The reading of %1 was stopped.</source>
+        <translation>Das Lesen von %1 wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -4679,6 +4758,37 @@
     </message>
 </context>
 <context>
+    <name>LayerAdding</name>
+    <message>
+        <source>All data (%1)</source>
+        <translation>Alle Daten (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>%1 features read</source>
+        <translation>%1 Objekte gelesen</translation>
+    </message>
+    <message>
+        <source>Add Layers</source>
+        <translation>Ebenen hinzufügen</translation>
+    </message>
+    <message>
+        <source>There is no file of data in “%1”.</source>
+        <translation>In „%1“ ist keine Datei mit Daten.</translation>
+    </message>
+</context>
+<context>
     <name>LayerArchive</name>
     <message>
         <source>is larger than maxScale</source>
@@ -5037,6 +5147,45 @@
     <message>
         <source>The text has %1 characters, and an element at most %2; insert a part of it.</source>
         <translation>Der Text hat %1 Zeichen, ein Element höchstens %2; fügen Sie einen Teil davon ein.</translation>
+    </message>
+</context>
+<context>
+    <name>NewLayers</name>
+    <message>
+        <source>%1 (areas)</source>
+        <translation>%1 (Flächen)</translation>
+    </message>
+    <message>
+        <source>%1 (lines)</source>
+        <translation>%1 (Linien)</translation>
+    </message>
+    <message>
+        <source>%1 (points)</source>
+        <translation>%1 (Punkte)</translation>
+    </message>
+    <message>
+        <source>The document has no page that could hold a map.</source>
+        <translation>Das Dokument hat keine Seite, auf der eine Karte liegen könnte.</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw in these data.</source>
+        <translation>In diesen Daten ist nichts zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>Add the layer “%1”</source>
+        <translation>Die Ebene „%1“ hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add %1 layers</source>
+        <translation>%1 Ebenen hinzufügen</translation>
+    </message>
+    <message>
+        <source>The file “%1” has no layer “%2”; it has: %3.</source>
+        <translation>Die Datei „%1“ hat keine Ebene „%2“; sie hat: %3.</translation>
+    </message>
+    <message>
+        <source>There is no geometry in “%1”, and no column of coordinates: join it as a table to a layer.</source>
+        <translation>In „%1“ ist keine Geometrie und keine Spalte mit Koordinaten: Verknüpfen Sie sie als Tabelle mit einer Ebene.</translation>
     </message>
 </context>
 <context>
@@ -6135,7 +6284,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>Method</source>
-        <translation>Verfahren</translation>
+        <translation>Methode</translation>
     </message>
     <message>
         <source>Datum</source>

@@ -9,6 +9,73 @@
     </message>
 </context>
 <context>
+    <name>AddLayersDialog</name>
+    <message>
+        <source>Add Layers</source>
+        <translation>添加图层</translation>
+    </message>
+    <message>
+        <source>Layers of the files</source>
+        <translation>文件中的图层</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>图层</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>要素</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>Extent</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Column of &amp;x</source>
+        <translation>&amp;x 列</translation>
+    </message>
+    <message>
+        <source>Column of &amp;y</source>
+        <translation>&amp;y 列</translation>
+    </message>
+    <message>
+        <source>or column of &amp;geometries</source>
+        <translation>或几何列(&amp;G)</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>A table without places can be joined to a layer, in the properties of that.</source>
+        <translation>没有位置的表可在图层的属性中连接到该图层。</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>正在读取 %1…</translation>
+    </message>
+    <message>
+        <source>Counting…</source>
+        <translation>正在计数…</translation>
+    </message>
+    <message>
+        <source>No layer is checked that could be drawn.</source>
+        <translation>没有勾选可绘制的图层。</translation>
+    </message>
+</context>
+<context>
     <name>Archive</name>
     <message>
         <source>true or false</source>
@@ -1107,6 +1174,14 @@
         <source>a chosen layer of features</source>
         <translation>一个选中的要素图层</translation>
     </message>
+    <message>
+        <source>Add Layers…</source>
+        <translation>添加图层…</translation>
+    </message>
+    <message>
+        <source>Add the data of files to the map</source>
+        <translation>将文件中的数据添加到地图</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1954,6 +2029,10 @@
     <message>
         <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
         <translation>%1 的内容全部位于地图坐标系所显示的地球范围之外，因此该图层为空；请为地图选择其他坐标系，或为数据源指定其真实的坐标系。</translation>
+    </message>
+    <message>
+        <source>The reading of %1 was stopped.</source>
+        <translation>%1 的读取已中止。</translation>
     </message>
 </context>
 <context>
@@ -4679,6 +4758,37 @@
     </message>
 </context>
 <context>
+    <name>LayerAdding</name>
+    <message>
+        <source>All data (%1)</source>
+        <translation>所有数据 (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>%1 features read</source>
+        <translation>已读取 %1 个要素</translation>
+    </message>
+    <message>
+        <source>Add Layers</source>
+        <translation>添加图层</translation>
+    </message>
+    <message>
+        <source>There is no file of data in “%1”.</source>
+        <translation>“%1”中没有数据文件。</translation>
+    </message>
+</context>
+<context>
     <name>LayerArchive</name>
     <message>
         <source>is larger than maxScale</source>
@@ -5037,6 +5147,45 @@
     <message>
         <source>The text has %1 characters, and an element at most %2; insert a part of it.</source>
         <translation>文本有 %1 个字符，而一个元素最多 %2 个；请只插入其中一部分。</translation>
+    </message>
+</context>
+<context>
+    <name>NewLayers</name>
+    <message>
+        <source>%1 (areas)</source>
+        <translation>%1（面）</translation>
+    </message>
+    <message>
+        <source>%1 (lines)</source>
+        <translation>%1（线）</translation>
+    </message>
+    <message>
+        <source>%1 (points)</source>
+        <translation>%1（点）</translation>
+    </message>
+    <message>
+        <source>The document has no page that could hold a map.</source>
+        <translation>文档没有可放置地图的页面。</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw in these data.</source>
+        <translation>这些数据中没有可绘制的内容。</translation>
+    </message>
+    <message>
+        <source>Add the layer “%1”</source>
+        <translation>添加图层“%1”</translation>
+    </message>
+    <message>
+        <source>Add %1 layers</source>
+        <translation>添加 %1 个图层</translation>
+    </message>
+    <message>
+        <source>The file “%1” has no layer “%2”; it has: %3.</source>
+        <translation>文件“%1”没有图层“%2”；它有：%3。</translation>
+    </message>
+    <message>
+        <source>There is no geometry in “%1”, and no column of coordinates: join it as a table to a layer.</source>
+        <translation>“%1”中没有几何，也没有坐标列：请将其作为表连接到图层。</translation>
     </message>
 </context>
 <context>

@@ -208,6 +208,8 @@ public:
       {"Host_Edit", "edit", inEdit, 4, onNone, "F2",
        QT_TR_NOOP("Edit"), QT_TR_NOOP("Write in the selected text, or change the vertices of the selected line or polygon"),
        QT_TR_NOOP("a selected text, line or polygon")},
+      {"Host_AddLayer", "add-layer", inLayer, 0, onInsert, "Ctrl+L",
+       QT_TR_NOOP("Add Layers…"), QT_TR_NOOP("Add the data of files to the map"), pageLayout},
       {"Host_Classify", "classify", inLayer, 3, onNone, "",
        QT_TR_NOOP("Classes…"), QT_TR_NOOP("Make classes of the layer by the values of a field, and give them colours or sizes"),
        QT_TR_NOOP("a layer chosen in the contents")},

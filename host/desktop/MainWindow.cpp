@@ -86,6 +86,7 @@ private:
 MainWindow::MainWindow()
     : bench_([this](HostCommands& host) { addWindowCommands(host); }),
       files_(bench_.session(), *this),
+      adding_(bench_.session(), bench_.views(), *this),
       question_(bench_.session(), *this) {
   new BoxTitles(this);
   setAcceptDrops(true);
@@ -148,6 +149,12 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   };
   host.add(QStringLiteral("Host_Save"), {redrawnAs(&DocumentFiles::save), modified, always});
   host.add(QStringLiteral("Host_SaveAs"), {redrawnAs(&DocumentFiles::saveAs), always, always});
+  host.add(QStringLiteral("Host_AddLayer"), {[this] { adding_.chooseFiles(); },
+                                             [this] {
+                                               auto const layout = bench_.views().GetPageLayout();
+                                               return layout && layout->GetPage();
+                                             },
+                                             always});
   host.add(QStringLiteral("Host_Contents"), {[this] { contentsDock_->setVisible(!contentsDock_->isVisible()); }, always,
                                              [this] { return contentsDock_->isVisible(); }});
   host.add(QStringLiteral("Host_Properties"), {[this] {
@@ -274,6 +281,9 @@ void MainWindow::buildProperties() {
   connect(elements_, &ElementList::chosen, properties_, &PropertyPanel::showSelection);
   auto const tell = [this](QString const& sentence) { notice_->tell(sentence, false); };
   connect(properties_, &PropertyPanel::told, notice_, tell);
+  connect(&adding_, &LayerAdding::told, notice_, tell);
+  connect(contents_, &SysAdapterUI::TOCControl::RowChosen, &adding_,
+          [this](auto const&, auto const& layer) { adding_.setChosen(layer); });
   connect(elements_, &ElementList::told, notice_, tell);
 }
 
@@ -458,15 +468,24 @@ void MainWindow::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (!documentIn(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+  QMimeData const& data = *event->mimeData();
+  if (!documentIn(data).isEmpty() || !LayerAdding::filesIn(data).isEmpty()) event->acceptProposedAction();
 }
 
+// The program that it comes from waits for this one.
 void MainWindow::dropEvent(QDropEvent* event) {
-  QString const path = documentIn(*event->mimeData());
-  if (path.isEmpty()) return;
+  QString const document = documentIn(*event->mimeData());
+  QStringList const data = LayerAdding::filesIn(*event->mimeData());
+  if (document.isEmpty() && data.isEmpty()) return;
   event->acceptProposedAction();
   finishTyping();
-  QTimer::singleShot(0, this, [this, path] { open(path); });  // the program it comes from waits for this one
+  QPoint const at = mapToGlobal(event->pos());
+  QTimer::singleShot(0, this, [=] {
+    if (!document.isEmpty())
+      open(document);
+    else
+      adding_.drop(data, at);
+  });
 }
 
 int runWindow(QString const& path) {

@@ -4,6 +4,7 @@
 #include "DocumentFiles.h"
 #include "HistoryQuestion.h"
 #include "Workbench.h"
+#include "layers/LayerAdding.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
 #include <SysAdapterUI/TOCControl.h>
@@ -69,6 +70,7 @@ private:
 
   Workbench bench_;
   DocumentFiles files_;
+  LayerAdding adding_;
   HistoryQuestion question_;
   std::unique_ptr<ActionTable> actions_;
   std::unique_ptr<Companion> companion_;

@@ -10,6 +10,7 @@
 #include "layers/AttributeReport.h"
 #include "layers/IdentifyTool.h"
 #include "layers/LayerClasses.h"
+#include "layers/NewLayers.h"
 
 #include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysUtility/JsonFile.h"
@@ -88,7 +89,9 @@ bool isScale(QString const& text) { return scaleDenominatorOf(text).has_value();
 bool isView(QString const& text) { return text == QLatin1String("layout") || text == QLatin1String("map"); }
 bool isAnswer(QString const& text) { return text.indexOf(QLatin1Char(':')) > 0; }
 bool isNumber(QString const& text) { return numbersIn(text).size() == 1; }
-bool isAddition(QString const& text) { return NewElement::of(text).has_value(); }
+bool isAddition(QString const& text) {
+  return (text.startsWith(layerPrefix) && text.size() > layerPrefix.size()) || NewElement::of(text).has_value();
+}
 bool isLayer(QString const& text) { return text.startsWith(layerPrefix); }
 bool isAnything(QString const& text) { return !text.isEmpty(); }
 
@@ -131,7 +134,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("set"),        text("WHAT/FIELD…:VALUE"), isSetting, &RunSteps::setField, {}},
       {text("get"),        text("WHAT/FIELD…"),  isAnything,   &RunSteps::getField, {}},
       {text("classify"),   text("layer:MAP/LAYER/FIELD:METHOD,…"), isSetting, &RunSteps::classify, {}},
-      {text("add"),        text("KIND:CONTENT@X,Y,…"), isAddition, &RunSteps::add, {}},
+      {text("add"),        text("KIND:CONTENT@X,Y,…|layer:FILE|LAYER"), isAddition, &RunSteps::add, {}},
       {text("rotate"),     text("DEGREES"),      isNumber,     &RunSteps::rotate,  {}},
       {text("identify"),   text("X,Y"),          isPoint,      &RunSteps::identify, {}},
       {text("attributes"), text("layer:MAP/LAYER:CONDITION"), isLayer, &RunSteps::attributes, {}},
@@ -378,6 +381,12 @@ QString RunSteps::getField(QString const& text) {
 
 // The file of a picture is where the program runs, as in every other step.
 QString RunSteps::add(QString const& text) {
+  if (text.startsWith(layerPrefix)) {
+    QStringList warnings;
+    QString const problem = NewLayers::addNamed(bench_.session().document(), text.mid(layerPrefix.size()), warnings);
+    for (QString const& warning : qAsConst(warnings)) Console::complain(warning);
+    return problem;
+  }
   auto const layout = SysUtility::ptr_cast<SysCarto::PageLayout>(bench_.desktop().GetActiveView());
   if (!layout || !layout->GetPage()) return tr("an element can only be added where the page layout is shown.");
   auto element = *NewElement::of(text);

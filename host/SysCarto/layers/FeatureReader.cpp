@@ -10,6 +10,7 @@
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 
 #include <ogr_api.h>
 #include <ogr_feature.h>
@@ -93,8 +94,31 @@ std::unique_ptr<OGRGeometry> markedPlace(OGRGeometry const& geometry) {
       OGRGeometry::FromHandle(OGR_G_PointOnSurface(OGRGeometry::ToHandle(const_cast<OGRGeometry*>(&geometry)))));
 }
 
+// Asks whoever waits, but not so often that it would cost time.
+class Watch {
+public:
+  Watch(OGRLayer& layer, ReadProgress const& progress)
+      : progress_(progress), count_(progress ? layer.GetFeatureCount(FALSE) : -1) {
+    clock_.start();
+  }
+
+  bool goesOn() {
+    constexpr int betweenLooks = 256, betweenQuestionsMs = 60;
+    if (!progress_ || ++read_ % betweenLooks != 0 || clock_.elapsed() < betweenQuestionsMs) return true;
+    bool const isWanted = progress_(read_, count_);
+    clock_.restart();
+    return isWanted;
+  }
+
+private:
+  ReadProgress const& progress_;
+  qint64 const count_;
+  qint64 read_ = 0;
+  QElapsedTimer clock_;
+};
+
 void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition const& condition, Renderer const& renderer,
-             SourceSettings const& source, LabelFields const& labels, ReadFeatures& result) {
+             SourceSettings const& source, LabelFields const& labels, Watch& watch, ReadFeatures& result) {
   Field const classField(layer, renderer.field(), source, result.warnings);
   Field const labelField(layer, labels.text, source, result.warnings);
   Field const priorityField(layer, labels.priority, source, result.warnings);
@@ -117,9 +141,12 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   layer.ResetReading();
   bool isEmpty = true;
   while (OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
-    if (!feature->GetGeometryRef() || !condition.admits(*feature)) continue;
-    isEmpty = isEmpty && feature->GetGeometryRef()->IsEmpty();
-    intake.add(std::move(feature));
+    if (feature->GetGeometryRef() && condition.admits(*feature)) {
+      isEmpty = isEmpty && feature->GetGeometryRef()->IsEmpty();
+      intake.add(std::move(feature));
+    }
+    result.wasStopped = !watch.goesOn();
+    if (result.wasStopped) break;
   }
   QString const unplaced = intake.finish();
   store.finish();
@@ -135,7 +162,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
 }  // namespace
 
 ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem, Renderer const& renderer,
-                          LabelFields const& labels) {
+                          LabelFields const& labels, ReadProgress const& progress) {
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
   auto const data = DataSource::open(source, result.error);
@@ -154,7 +181,12 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
     return result;
   }
   GdalErrors const errors;
-  readAll(data->layer(), *projector, condition, renderer, source, labels, result);
+  Watch watch(data->layer(), progress);
+  readAll(data->layer(), *projector, condition, renderer, source, labels, watch, result);
+  if (result.wasStopped) {
+    result.error = Texts::tr("The reading of %1 was stopped.").arg(describeSource(source));
+    return result;
+  }
   result.error = data->joinProblem();
   result.warnings += data->notes();
   if (errors.hasFailure())

@@ -45,9 +45,10 @@ VectorLayer::VectorLayer(std::unique_ptr<Renderer> renderer)
 
 VectorLayer::~VectorLayer() = default;
 
-QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings) {
+QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings,
+                          ReadProgress const& progress) {
   source_ = source;
-  ReadFeatures read = readFeatures(source, mapSystem, *renderer_, {labels_.field, labels_.priorityField});
+  ReadFeatures read = readFeatures(source, mapSystem, *renderer_, {labels_.field, labels_.priorityField}, progress);
   store_ = std::move(read.store);
   thinned_ = std::make_unique<ThinnedFeatures>(*store_);
   warnings += read.warnings;

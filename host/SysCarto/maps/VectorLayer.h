@@ -24,7 +24,8 @@ public:
 
   /// Reads the source anew. A sentence that says why it could not be read, or empty; what else is to be said of it is
   /// added to `warnings`. `mapSystem` as in `Map::GetCoordinateSystem`.
-  QString open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings);
+  QString open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings,
+               ReadProgress const& progress = {});
 
   SourceSettings const& source() const { return source_; }
 

@@ -24,7 +24,7 @@ constexpr char const* kinds[] = {
 };
 constexpr char const* fieldKinds[] = {"text", "integer", "real", "date", "other"};
 
-constexpr int significantDigits = 6;  // of the extent's sides
+constexpr int significantDigits = 5;  // of the extent's sides
 
 QJsonObject fieldJson(FieldDescription const& field) {
   return {{QStringLiteral("name"), field.name},

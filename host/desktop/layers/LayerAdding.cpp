@@ -1,0 +1,145 @@
+#include "LayerAdding.h"
+
+#include "AddLayersDialog.h"
+
+#include "host/SysCarto/layers/LocalDataset.h"
+#include "host/desktop/DocumentSession.h"
+#include "host/desktop/DocumentViews.h"
+
+#include <SysCarto/Map.h>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QProgressDialog>
+#include <QSettings>
+
+#include <algorithm>
+
+namespace {
+
+QString const folderKey = QStringLiteral("data/folder");
+constexpr int patienceMs = 400;  // before the progress is shown
+constexpr int thousandths = 1000;
+
+QString filters() {
+  QStringList all, each;
+  for (SysCarto::DataFormat const& format : SysCarto::dataFormats()) {
+    QStringList patterns;
+    for (QString const& suffix : QString::fromLatin1(format.suffixes).split(QLatin1Char(' ')))
+      patterns << QStringLiteral("*.") + suffix;
+    QString const text = patterns.join(QLatin1Char(' '));
+    for (QString const& pattern : qAsConst(patterns))
+      if (!all.contains(pattern)) all << pattern;
+    each << QStringLiteral("%1 (%2)").arg(QString::fromUtf8(format.name), text);
+  }
+  return QStringList({LayerAdding::tr("All data (%1)").arg(all.join(QLatin1Char(' '))), each.join(QStringLiteral(";;")),
+                      LayerAdding::tr("All files (*)")})
+      .join(QStringLiteral(";;"));
+}
+
+// The progress of reading, as a dialog that can be cancelled.
+class Progress {
+public:
+  explicit Progress(QWidget& parent) : dialog_(LayerAdding::tr("Reading…"), LayerAdding::tr("Cancel"), 0, 0, &parent) {
+    dialog_.setWindowModality(Qt::WindowModal);
+    dialog_.setMinimumDuration(patienceMs);
+    dialog_.setAutoReset(false);
+    dialog_.setAutoClose(false);
+  }
+
+  bool goesOn(qint64 read, qint64 count) {
+    dialog_.setMaximum(count > 0 ? thousandths : 0);
+    dialog_.setLabelText(LayerAdding::tr("%1 features read").arg(QLocale().toString(read)));
+    dialog_.setValue(count > 0 ? static_cast<int>(std::min<qint64>(thousandths - 1, thousandths * read / count)) : 0);
+    QApplication::processEvents();
+    return !dialog_.wasCanceled();
+  }
+
+private:
+  QProgressDialog dialog_;
+};
+
+}  // namespace
+
+LayerAdding::LayerAdding(DocumentSession& session, DocumentViews& views, QWidget& parent)
+    : session_(session), views_(views), parent_(parent) {
+  connect(&session, &DocumentSession::replaced, this, [this] { chosen_ = nullptr; });
+}
+
+LayerAdding::~LayerAdding() = default;
+
+QStringList LayerAdding::filesIn(QMimeData const& data) {
+  QStringList paths;
+  for (QUrl const& url : data.urls()) {
+    QString const path = url.toLocalFile();
+    if (path.isEmpty() || !(QFileInfo(path).isDir() || SysCarto::isDataFileName(path))) return {};
+    paths << path;
+  }
+  return paths;
+}
+
+void LayerAdding::chooseFiles() {
+  QSettings settings;
+  QString const document = QFileInfo(session_.path()).absolutePath();
+  QString const folder = settings.value(folderKey, session_.path().isEmpty() ? QString() : document).toString();
+  QStringList const files = QFileDialog::getOpenFileNames(&parent_, tr("Add Layers"), folder, filters());
+  if (files.isEmpty()) return;
+  settings.setValue(folderKey, QFileInfo(files.first()).absolutePath());
+  addFiles(files);
+}
+
+void LayerAdding::addFiles(QStringList const& paths) {
+  QStringList files;
+  for (QString const& path : paths)
+    if (QFileInfo(path).isDir())
+      files += SysCarto::dataFilesIn(path).toList();
+    else
+      files << QFileInfo(path).absoluteFilePath();
+  if (files.isEmpty()) return complain(tr("There is no file of data in “%1”.").arg(paths.join(QStringLiteral("”, “"))));
+  AddLayersDialog dialog(files, &parent_);
+  if (dialog.exec() == QDialog::Accepted) add(dialog.chosen());
+}
+
+void LayerAdding::drop(QStringList const& paths, QPoint const& at) {
+  auto& view = views_.layoutView();
+  auto const layout = views_.GetPageLayout();
+  if (layout && view.isVisible() && view.rect().contains(view.mapFromGlobal(at))) {
+    auto const point = layout->GetDisplayTransformation()->ToMapPoint(view.mapFromGlobal(at));
+    for (auto const& element : layout->GetGraphicsContainer()->GetElements()) {
+      auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element);
+      auto const envelope = frame ? frame->GetEnvelope() : nullptr;
+      if (!envelope || point->GetX() < envelope->GetXMin() || point->GetX() > envelope->GetXMax() ||
+          point->GetY() < envelope->GetYMin() || point->GetY() > envelope->GetYMax())
+        continue;
+      views_.focusOn(frame->GetMap());
+    }
+  }
+  addFiles(paths);
+}
+
+void LayerAdding::add(std::vector<NewLayer> const& wanted) {
+  auto const layout = views_.GetPageLayout();
+  auto const map = layout ? layout->GetFocusMap() : nullptr;
+  bool const isThere = map && map->GetLayers().contains(chosen_);
+  QStringList warnings;
+  QString problem;
+  {
+    Progress progress(parent_);
+    problem = NewLayers::add(
+        session_.document(), wanted, isThere ? chosen_ : nullptr,
+        [&](qint64 read, qint64 count) { return progress.goesOn(read, count); }, warnings);
+  }
+  views_.redraw();
+  if (!problem.isEmpty()) complain(problem);
+  if (!warnings.isEmpty()) emit told(warnings.join(QLatin1Char(' ')));
+}
+
+// Plain text: a file may be called <b>.
+void LayerAdding::complain(QString const& sentence) {
+  QMessageBox box(QMessageBox::Warning, tr("Add Layers"), sentence, QMessageBox::Ok, &parent_);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
