@@ -1175,12 +1175,192 @@
         <translation>eine gewählte Ebene mit Objekten</translation>
     </message>
     <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>a row of the contents chosen</source>
+        <translation>eine gewählte Zeile des Inhalts</translation>
+    </message>
+    <message>
+        <source>a layer or a group chosen in the contents</source>
+        <translation>eine im Inhalt gewählte Ebene oder Gruppe</translation>
+    </message>
+    <message>
         <source>Add Layers…</source>
         <translation>Ebenen hinzufügen …</translation>
     </message>
     <message>
         <source>Add the data of files to the map</source>
         <translation>Der Karte die Daten von Dateien hinzufügen</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Show or hide the chosen layers and groups</source>
+        <translation>Die gewählten Ebenen und Gruppen zeigen oder ausblenden</translation>
+    </message>
+    <message>
+        <source>100 %</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>Let the chosen layers cover what lies below</source>
+        <translation>Die gewählten Ebenen verdecken lassen, was darunter liegt</translation>
+    </message>
+    <message>
+        <source>75 %</source>
+        <translation>75 %</translation>
+    </message>
+    <message>
+        <source>Let a quarter of what lies below shine through</source>
+        <translation>Ein Viertel dessen durchscheinen lassen, was darunter liegt</translation>
+    </message>
+    <message>
+        <source>50 %</source>
+        <translation>50 %</translation>
+    </message>
+    <message>
+        <source>Let half of what lies below shine through</source>
+        <translation>Die Hälfte dessen durchscheinen lassen, was darunter liegt</translation>
+    </message>
+    <message>
+        <source>25 %</source>
+        <translation>25 %</translation>
+    </message>
+    <message>
+        <source>Let three quarters of what lies below shine through</source>
+        <translation>Drei Viertel dessen durchscheinen lassen, was darunter liegt</translation>
+    </message>
+    <message>
+        <source>Zoom to Layer</source>
+        <translation>Auf Ebene zoomen</translation>
+    </message>
+    <message>
+        <source>Show all that the chosen layers hold, or all layers of a map</source>
+        <translation>Alles zeigen, was die gewählten Ebenen enthalten, oder alle Ebenen einer Karte</translation>
+    </message>
+    <message>
+        <source>Zoom to Scale Range</source>
+        <translation>Auf Maßstabsbereich zoomen</translation>
+    </message>
+    <message>
+        <source>Give the map a scale at which the chosen layer shows</source>
+        <translation>Der Karte einen Maßstab geben, in dem die gewählte Ebene zu sehen ist</translation>
+    </message>
+    <message>
+        <source>a layer with limits of scale chosen in the contents</source>
+        <translation>eine im Inhalt gewählte Ebene mit Maßstabsgrenzen</translation>
+    </message>
+    <message>
+        <source>Work on This Map</source>
+        <translation>An dieser Karte arbeiten</translation>
+    </message>
+    <message>
+        <source>Give the chosen map the focus</source>
+        <translation>Der gewählten Karte den Fokus geben</translation>
+    </message>
+    <message>
+        <source>a map chosen in the contents</source>
+        <translation>eine im Inhalt gewählte Karte</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>Reparieren …</translation>
+    </message>
+    <message>
+        <source>Find the file of the chosen layer, and those of others beside it</source>
+        <translation>Die Datei der gewählten Ebene finden, und daneben die von anderen</translation>
+    </message>
+    <message>
+        <source>a layer chosen in the contents whose data can&apos;t be read</source>
+        <translation>eine im Inhalt gewählte Ebene, deren Daten nicht gelesen werden können</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Write another name of the chosen map, layer or group</source>
+        <translation>Der gewählten Karte, Ebene oder Gruppe einen anderen Namen geben</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers to the clipboard</source>
+        <translation>Die gewählten Ebenen in die Zwischenablage verschieben</translation>
+    </message>
+    <message>
+        <source>Copy the chosen layers to the clipboard</source>
+        <translation>Die gewählten Ebenen in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>Put the layers of the clipboard above the chosen one</source>
+        <translation>Die Ebenen der Zwischenablage über die gewählte setzen</translation>
+    </message>
+    <message>
+        <source>Put copies of the chosen layers above them</source>
+        <translation>Kopien der gewählten Ebenen über sie setzen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the chosen layers from their maps; their files stay</source>
+        <translation>Die gewählten Ebenen aus ihren Karten entfernen; ihre Dateien bleiben</translation>
+    </message>
+    <message>
+        <source>Put the chosen layers and groups into a new group</source>
+        <translation>Die gewählten Ebenen und Gruppen in eine neue Gruppe legen</translation>
+    </message>
+    <message>
+        <source>layers of one map chosen in the contents</source>
+        <translation>im Inhalt gewählte Ebenen einer einzigen Karte</translation>
+    </message>
+    <message>
+        <source>Take the chosen groups of layers apart</source>
+        <translation>Die gewählten Ebenengruppen auflösen</translation>
+    </message>
+    <message>
+        <source>a group of layers chosen in the contents</source>
+        <translation>eine im Inhalt gewählte Ebenengruppe</translation>
+    </message>
+    <message>
+        <source>Raise</source>
+        <translation>Anheben</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers up by one place</source>
+        <translation>Die gewählten Ebenen um einen Platz nach oben verschieben</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>Absenken</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers down by one place</source>
+        <translation>Die gewählten Ebenen um einen Platz nach unten verschieben</translation>
+    </message>
+    <message>
+        <source>Move into Group</source>
+        <translation>In Gruppe verschieben</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers into the group below or above them</source>
+        <translation>Die gewählten Ebenen in die Gruppe darunter oder darüber verschieben</translation>
+    </message>
+    <message>
+        <source>Move out of Group</source>
+        <translation>Aus Gruppe verschieben</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers out of their group, above it</source>
+        <translation>Die gewählten Ebenen aus ihrer Gruppe heraus über sie verschieben</translation>
+    </message>
+    <message>
+        <source>a layer of a group chosen in the contents</source>
+        <translation>eine im Inhalt gewählte Ebene einer Gruppe</translation>
     </message>
 </context>
 <context>
@@ -4334,6 +4514,10 @@
         <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
         <translation>Der Marker in seiner Größe für die Bezugszahl; er steht in Flächen und auf Linien.</translation>
     </message>
+    <message>
+        <source>Group of layers</source>
+        <translation>Ebenengruppe</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -4758,6 +4942,117 @@
     </message>
 </context>
 <context>
+    <name>LayerActions</name>
+    <message>
+        <source>Groups lie at most %1 deep in each other; ungroup some of them first.</source>
+        <translation>Gruppen liegen höchstens %1-fach ineinander; heben Sie zuerst einige Gruppierungen auf.</translation>
+    </message>
+    <message>
+        <source>Raise layers</source>
+        <translation>Ebenen anheben</translation>
+    </message>
+    <message>
+        <source>Lower layers</source>
+        <translation>Ebenen absenken</translation>
+    </message>
+    <message>
+        <source>A group can&apos;t lie in itself.</source>
+        <translation>Eine Gruppe kann nicht in sich selbst liegen.</translation>
+    </message>
+    <message>
+        <source>Move layers</source>
+        <translation>Ebenen verschieben</translation>
+    </message>
+    <message>
+        <source>Copy layers</source>
+        <translation>Ebenen kopieren</translation>
+    </message>
+    <message>
+        <source>Duplicate layers</source>
+        <translation>Ebenen verdoppeln</translation>
+    </message>
+    <message>
+        <source>Remove layers</source>
+        <translation>Ebenen entfernen</translation>
+    </message>
+    <message>
+        <source>There is no group next to it; Group makes one.</source>
+        <translation>Daneben liegt keine Gruppe; „Gruppieren“ macht eine.</translation>
+    </message>
+    <message>
+        <source>It lies in no group.</source>
+        <translation>Das liegt in keiner Gruppe.</translation>
+    </message>
+    <message>
+        <source>Layers and groups of one map can be grouped; choose some.</source>
+        <translation>Ebenen und Gruppen einer einzigen Karte lassen sich gruppieren; wählen Sie einige.</translation>
+    </message>
+    <message>
+        <source>New group</source>
+        <translation>Neue Gruppe</translation>
+    </message>
+    <message>
+        <source>Group layers</source>
+        <translation>Ebenen gruppieren</translation>
+    </message>
+    <message>
+        <source>Groups can be taken apart; choose one.</source>
+        <translation>Gruppen lassen sich auflösen; wählen Sie eine.</translation>
+    </message>
+    <message>
+        <source>Ungroup layers</source>
+        <translation>Ebenengruppe auflösen</translation>
+    </message>
+    <message>
+        <source>Cut layers</source>
+        <translation>Ebenen ausschneiden</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no layers; copy some in the contents.</source>
+        <translation>Die Zwischenablage enthält keine Ebenen; kopieren Sie einige im Inhalt.</translation>
+    </message>
+    <message>
+        <source>Paste layers</source>
+        <translation>Ebenen einfügen</translation>
+    </message>
+    <message>
+        <source>the data frame is locked; Plotvane_UnlockDataFrame unlocks it.</source>
+        <translation>der Datenrahmen ist gesperrt; Plotvane_UnlockDataFrame entsperrt ihn.</translation>
+    </message>
+    <message>
+        <source>Show layers</source>
+        <translation>Ebenen zeigen</translation>
+    </message>
+    <message>
+        <source>Hide layers</source>
+        <translation>Ebenen ausblenden</translation>
+    </message>
+    <message>
+        <source>Rename “%1”</source>
+        <translation>„%1“ umbenennen</translation>
+    </message>
+    <message>
+        <source>There is nothing in it that a map could show.</source>
+        <translation>Darin ist nichts, was eine Karte zeigen könnte.</translation>
+    </message>
+    <message>
+        <source>A map can&apos;t show that much or that little.</source>
+        <translation>So viel oder so wenig kann eine Karte nicht zeigen.</translation>
+    </message>
+    <message>
+        <source>It has no limits of scale.</source>
+        <translation>Sie hat keine Maßstabsgrenzen.</translation>
+    </message>
+    <message>
+        <source>It has no file.</source>
+        <translation>Das hat keine Datei.</translation>
+    </message>
+    <message>
+        <source>Repair the source of “%1”</source>
+        <translation>Die Quelle von „%1“ reparieren</translation>
+    </message>
+</context>
+<context>
     <name>LayerAdding</name>
     <message>
         <source>All data (%1)</source>
@@ -4827,6 +5122,36 @@
     </message>
 </context>
 <context>
+    <name>LayerClip</name>
+    <message>
+        <source>is not “%1”, so these are no layers</source>
+        <translation>ist nicht „%1“, also sind das keine Ebenen</translation>
+    </message>
+    <message>
+        <source>the layers were copied by a newer version of Plotvane, as version %1</source>
+        <translation>die Ebenen wurden von einer neueren Version von Plotvane kopiert, als Version %1</translation>
+    </message>
+    <message>
+        <source>The layers take %1 MB, and the clipboard takes %2; copy fewer of them.</source>
+        <translation>Die Ebenen brauchen %1 MB, und die Zwischenablage nimmt %2; kopieren Sie weniger davon.</translation>
+    </message>
+    <message>
+        <source>The layers can&apos;t be copied: %1.</source>
+        <translation>Die Ebenen können nicht kopiert werden: %1.</translation>
+    </message>
+    <message>
+        <source>The layers on the clipboard can&apos;t be read: %1; copy them anew.</source>
+        <translation>Die Ebenen in der Zwischenablage können nicht gelesen werden: %1; kopieren Sie sie erneut.</translation>
+    </message>
+</context>
+<context>
+    <name>LayerCommands</name>
+    <message>
+        <source>Where is the file of “%1”?</source>
+        <translation>Wo ist die Datei von „%1“?</translation>
+    </message>
+</context>
+<context>
     <name>LayerSettings</name>
     <message>
         <source>Layer “%1”: %2</source>
@@ -4843,6 +5168,13 @@
     <message>
         <source>groups are nested more than %1 deep</source>
         <translation>Gruppen liegen mehr als %1 tief ineinander</translation>
+    </message>
+</context>
+<context>
+    <name>LayerSteps</name>
+    <message>
+        <source>there is no &quot;%1&quot;; write layer:MAP/LAYER, where LAYER may be a group, or map:MAP; plotvane info lists them.</source>
+        <translation>„%1“ gibt es nicht; schreiben Sie layer:MAP/LAYER, wobei LAYER eine Gruppe sein darf, oder map:MAP; plotvane info zählt sie auf.</translation>
     </message>
 </context>
 <context>
@@ -5267,6 +5599,10 @@
         <source>Data frames and map surrounds can&apos;t lie in a group; leave the group with Escape first.</source>
         <translation>Datenrahmen und Randangaben können nicht in einer Gruppe liegen; verlassen Sie die Gruppe zuerst mit Esc.</translation>
     </message>
+    <message>
+        <source>The clipboard holds layers; paste them in the contents.</source>
+        <translation>Die Zwischenablage enthält Ebenen; fügen Sie sie im Inhalt ein.</translation>
+    </message>
 </context>
 <context>
     <name>PageGesture</name>
@@ -5399,6 +5735,14 @@
     <message>
         <source>Page</source>
         <translation>Seite</translation>
+    </message>
+    <message>
+        <source>%1 rows of the contents</source>
+        <translation>%1 Zeilen des Inhalts</translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation>Gruppe %1</translation>
     </message>
 </context>
 <context>
@@ -5845,6 +6189,72 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Choose Colour</source>
         <translation>Farbe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::ContentsModel</name>
+    <message>
+        <source>Shown at every scale</source>
+        <translation>In jedem Maßstab sichtbar</translation>
+    </message>
+    <message>
+        <source>Shown at scales larger than %1</source>
+        <translation>Sichtbar in größeren Maßstäben als %1</translation>
+    </message>
+    <message>
+        <source>Shown at scales smaller than %1</source>
+        <translation>Sichtbar in kleineren Maßstäben als %1</translation>
+    </message>
+    <message>
+        <source>Shown between %1 and %2</source>
+        <translation>Sichtbar zwischen %1 und %2</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstige</translation>
+    </message>
+    <message>
+        <source>No maps on this page</source>
+        <translation>Keine Karten auf dieser Seite</translation>
+    </message>
+    <message>
+        <source>Click to work on this map</source>
+        <translation>Klicken, um an dieser Karte zu arbeiten</translation>
+    </message>
+    <message>
+        <source>%1; the map is at %2</source>
+        <translation>%1; die Karte hat %2</translation>
+    </message>
+    <message>
+        <source>A group hides it</source>
+        <translation>Eine Gruppe blendet sie aus</translation>
+    </message>
+    <message>
+        <source>map with the focus</source>
+        <translation>Karte mit dem Fokus</translation>
+    </message>
+    <message>
+        <source>map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>shown</source>
+        <translation>sichtbar</translation>
+    </message>
+    <message>
+        <source>hidden</source>
+        <translation>ausgeblendet</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::ContentsTree</name>
+    <message>
+        <source>Maps and layers</source>
+        <translation>Karten und Ebenen</translation>
     </message>
 </context>
 <context>
@@ -6390,15 +6800,15 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <name>SysAdapterUI::TOCControl</name>
     <message>
         <source>No maps on this page</source>
-        <translation>Keine Karten auf dieser Seite</translation>
+        <translation type="vanished">Keine Karten auf dieser Seite</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation>Sonstige</translation>
+        <translation type="vanished">Sonstige</translation>
     </message>
     <message>
         <source>Click to work on this map</source>
-        <translation>Klicken, um an dieser Karte zu arbeiten</translation>
+        <translation type="vanished">Klicken, um an dieser Karte zu arbeiten</translation>
     </message>
 </context>
 <context>

@@ -1175,12 +1175,192 @@
         <translation>一个选中的要素图层</translation>
     </message>
     <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>a row of the contents chosen</source>
+        <translation>内容列表中选定的一行</translation>
+    </message>
+    <message>
+        <source>a layer or a group chosen in the contents</source>
+        <translation>内容列表中选定的图层或组</translation>
+    </message>
+    <message>
         <source>Add Layers…</source>
         <translation>添加图层…</translation>
     </message>
     <message>
         <source>Add the data of files to the map</source>
         <translation>将文件中的数据添加到地图</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Show or hide the chosen layers and groups</source>
+        <translation>显示或隐藏选定的图层和组</translation>
+    </message>
+    <message>
+        <source>100 %</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>Let the chosen layers cover what lies below</source>
+        <translation>让选定的图层遮盖下面的内容</translation>
+    </message>
+    <message>
+        <source>75 %</source>
+        <translation>75 %</translation>
+    </message>
+    <message>
+        <source>Let a quarter of what lies below shine through</source>
+        <translation>让下面的内容透出四分之一</translation>
+    </message>
+    <message>
+        <source>50 %</source>
+        <translation>50 %</translation>
+    </message>
+    <message>
+        <source>Let half of what lies below shine through</source>
+        <translation>让下面的内容透出一半</translation>
+    </message>
+    <message>
+        <source>25 %</source>
+        <translation>25 %</translation>
+    </message>
+    <message>
+        <source>Let three quarters of what lies below shine through</source>
+        <translation>让下面的内容透出四分之三</translation>
+    </message>
+    <message>
+        <source>Zoom to Layer</source>
+        <translation>缩放到图层</translation>
+    </message>
+    <message>
+        <source>Show all that the chosen layers hold, or all layers of a map</source>
+        <translation>显示选定图层的全部内容，或地图的所有图层</translation>
+    </message>
+    <message>
+        <source>Zoom to Scale Range</source>
+        <translation>缩放到比例尺范围</translation>
+    </message>
+    <message>
+        <source>Give the map a scale at which the chosen layer shows</source>
+        <translation>把地图设为选定图层可见的比例尺</translation>
+    </message>
+    <message>
+        <source>a layer with limits of scale chosen in the contents</source>
+        <translation>内容列表中选定的带比例尺限制的图层</translation>
+    </message>
+    <message>
+        <source>Work on This Map</source>
+        <translation>处理此地图</translation>
+    </message>
+    <message>
+        <source>Give the chosen map the focus</source>
+        <translation>使选定的地图成为焦点</translation>
+    </message>
+    <message>
+        <source>a map chosen in the contents</source>
+        <translation>内容列表中选定的地图</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>修复…</translation>
+    </message>
+    <message>
+        <source>Find the file of the chosen layer, and those of others beside it</source>
+        <translation>查找选定图层的文件，以及旁边其他图层的文件</translation>
+    </message>
+    <message>
+        <source>a layer chosen in the contents whose data can&apos;t be read</source>
+        <translation>内容列表中选定的、数据无法读取的图层</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Write another name of the chosen map, layer or group</source>
+        <translation>为选定的地图、图层或组输入另一个名称</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers to the clipboard</source>
+        <translation>把选定的图层移到剪贴板</translation>
+    </message>
+    <message>
+        <source>Copy the chosen layers to the clipboard</source>
+        <translation>把选定的图层复制到剪贴板</translation>
+    </message>
+    <message>
+        <source>Put the layers of the clipboard above the chosen one</source>
+        <translation>把剪贴板中的图层放到选定图层之上</translation>
+    </message>
+    <message>
+        <source>Put copies of the chosen layers above them</source>
+        <translation>把选定图层的副本放在其上</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Remove the chosen layers from their maps; their files stay</source>
+        <translation>从地图中移除选定的图层；文件保留</translation>
+    </message>
+    <message>
+        <source>Put the chosen layers and groups into a new group</source>
+        <translation>把选定的图层和组放入新组</translation>
+    </message>
+    <message>
+        <source>layers of one map chosen in the contents</source>
+        <translation>内容列表中选定的同一地图的图层</translation>
+    </message>
+    <message>
+        <source>Take the chosen groups of layers apart</source>
+        <translation>解散选定的图层组</translation>
+    </message>
+    <message>
+        <source>a group of layers chosen in the contents</source>
+        <translation>内容列表中选定的图层组</translation>
+    </message>
+    <message>
+        <source>Raise</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers up by one place</source>
+        <translation>把选定的图层上移一位</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers down by one place</source>
+        <translation>把选定的图层下移一位</translation>
+    </message>
+    <message>
+        <source>Move into Group</source>
+        <translation>移入组</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers into the group below or above them</source>
+        <translation>把选定的图层移入下方或上方的组</translation>
+    </message>
+    <message>
+        <source>Move out of Group</source>
+        <translation>移出组</translation>
+    </message>
+    <message>
+        <source>Move the chosen layers out of their group, above it</source>
+        <translation>把选定的图层移出其组，放在组之上</translation>
+    </message>
+    <message>
+        <source>a layer of a group chosen in the contents</source>
+        <translation>内容列表中选定的组内图层</translation>
     </message>
 </context>
 <context>
@@ -4334,6 +4514,10 @@
         <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
         <translation>标记，其大小对应参考值；可位于面内和线上。</translation>
     </message>
+    <message>
+        <source>Group of layers</source>
+        <translation>图层组</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -4758,6 +4942,117 @@
     </message>
 </context>
 <context>
+    <name>LayerActions</name>
+    <message>
+        <source>Groups lie at most %1 deep in each other; ungroup some of them first.</source>
+        <translation>组最多嵌套 %1 层；请先取消其中一些组合。</translation>
+    </message>
+    <message>
+        <source>Raise layers</source>
+        <translation>上移图层</translation>
+    </message>
+    <message>
+        <source>Lower layers</source>
+        <translation>下移图层</translation>
+    </message>
+    <message>
+        <source>A group can&apos;t lie in itself.</source>
+        <translation>组不能位于自身之中。</translation>
+    </message>
+    <message>
+        <source>Move layers</source>
+        <translation>移动图层</translation>
+    </message>
+    <message>
+        <source>Copy layers</source>
+        <translation>复制图层</translation>
+    </message>
+    <message>
+        <source>Duplicate layers</source>
+        <translation>创建图层副本</translation>
+    </message>
+    <message>
+        <source>Remove layers</source>
+        <translation>移除图层</translation>
+    </message>
+    <message>
+        <source>There is no group next to it; Group makes one.</source>
+        <translation>旁边没有组；用“组合”创建一个。</translation>
+    </message>
+    <message>
+        <source>It lies in no group.</source>
+        <translation>它不在任何组中。</translation>
+    </message>
+    <message>
+        <source>Layers and groups of one map can be grouped; choose some.</source>
+        <translation>同一地图的图层和组可以组合；请选择一些。</translation>
+    </message>
+    <message>
+        <source>New group</source>
+        <translation>新建组</translation>
+    </message>
+    <message>
+        <source>Group layers</source>
+        <translation>组合图层</translation>
+    </message>
+    <message>
+        <source>Groups can be taken apart; choose one.</source>
+        <translation>组可以解散；请选择一个。</translation>
+    </message>
+    <message>
+        <source>Ungroup layers</source>
+        <translation>解散图层组</translation>
+    </message>
+    <message>
+        <source>Cut layers</source>
+        <translation>剪切图层</translation>
+    </message>
+    <message>
+        <source>The clipboard holds no layers; copy some in the contents.</source>
+        <translation>剪贴板中没有图层；请在内容列表中复制一些。</translation>
+    </message>
+    <message>
+        <source>Paste layers</source>
+        <translation>粘贴图层</translation>
+    </message>
+    <message>
+        <source>the data frame is locked; Plotvane_UnlockDataFrame unlocks it.</source>
+        <translation>数据框已锁定；Plotvane_UnlockDataFrame 可将其解锁。</translation>
+    </message>
+    <message>
+        <source>Show layers</source>
+        <translation>显示图层</translation>
+    </message>
+    <message>
+        <source>Hide layers</source>
+        <translation>隐藏图层</translation>
+    </message>
+    <message>
+        <source>Rename “%1”</source>
+        <translation>重命名“%1”</translation>
+    </message>
+    <message>
+        <source>There is nothing in it that a map could show.</source>
+        <translation>其中没有地图可以显示的内容。</translation>
+    </message>
+    <message>
+        <source>A map can&apos;t show that much or that little.</source>
+        <translation>地图无法显示这么多或这么少的内容。</translation>
+    </message>
+    <message>
+        <source>It has no limits of scale.</source>
+        <translation>它没有比例尺限制。</translation>
+    </message>
+    <message>
+        <source>It has no file.</source>
+        <translation>它没有文件。</translation>
+    </message>
+    <message>
+        <source>Repair the source of “%1”</source>
+        <translation>修复“%1”的数据源</translation>
+    </message>
+</context>
+<context>
     <name>LayerAdding</name>
     <message>
         <source>All data (%1)</source>
@@ -4827,6 +5122,36 @@
     </message>
 </context>
 <context>
+    <name>LayerClip</name>
+    <message>
+        <source>is not “%1”, so these are no layers</source>
+        <translation>不是“%1”，因此这些不是图层</translation>
+    </message>
+    <message>
+        <source>the layers were copied by a newer version of Plotvane, as version %1</source>
+        <translation>这些图层由较新版本的 Plotvane 复制，版本为 %1</translation>
+    </message>
+    <message>
+        <source>The layers take %1 MB, and the clipboard takes %2; copy fewer of them.</source>
+        <translation>图层占 %1 MB，而剪贴板最多容纳 %2 MB；请少复制一些。</translation>
+    </message>
+    <message>
+        <source>The layers can&apos;t be copied: %1.</source>
+        <translation>无法复制图层：%1。</translation>
+    </message>
+    <message>
+        <source>The layers on the clipboard can&apos;t be read: %1; copy them anew.</source>
+        <translation>无法读取剪贴板中的图层：%1；请重新复制。</translation>
+    </message>
+</context>
+<context>
+    <name>LayerCommands</name>
+    <message>
+        <source>Where is the file of “%1”?</source>
+        <translation>“%1”的文件在哪里？</translation>
+    </message>
+</context>
+<context>
     <name>LayerSettings</name>
     <message>
         <source>Layer “%1”: %2</source>
@@ -4843,6 +5168,13 @@
     <message>
         <source>groups are nested more than %1 deep</source>
         <translation>组嵌套超过 %1 层</translation>
+    </message>
+</context>
+<context>
+    <name>LayerSteps</name>
+    <message>
+        <source>there is no &quot;%1&quot;; write layer:MAP/LAYER, where LAYER may be a group, or map:MAP; plotvane info lists them.</source>
+        <translation>没有“%1”；请写 layer:MAP/LAYER（LAYER 可以是组）或 map:MAP；plotvane info 会列出它们。</translation>
     </message>
 </context>
 <context>
@@ -5267,6 +5599,10 @@
         <source>Data frames and map surrounds can&apos;t lie in a group; leave the group with Escape first.</source>
         <translation>数据框和整饰要素不能位于组中；请先按 Esc 离开该组。</translation>
     </message>
+    <message>
+        <source>The clipboard holds layers; paste them in the contents.</source>
+        <translation>剪贴板中是图层；请在内容列表中粘贴。</translation>
+    </message>
 </context>
 <context>
     <name>PageGesture</name>
@@ -5399,6 +5735,14 @@
     <message>
         <source>Page</source>
         <translation>页面</translation>
+    </message>
+    <message>
+        <source>%1 rows of the contents</source>
+        <translation>内容列表的 %1 行</translation>
+    </message>
+    <message>
+        <source>Group %1</source>
+        <translation>组 %1</translation>
     </message>
 </context>
 <context>
@@ -5845,6 +6189,72 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Choose Colour</source>
         <translation>选择颜色</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::ContentsModel</name>
+    <message>
+        <source>Shown at every scale</source>
+        <translation>在所有比例尺下显示</translation>
+    </message>
+    <message>
+        <source>Shown at scales larger than %1</source>
+        <translation>在大于 %1 的比例尺下显示</translation>
+    </message>
+    <message>
+        <source>Shown at scales smaller than %1</source>
+        <translation>在小于 %1 的比例尺下显示</translation>
+    </message>
+    <message>
+        <source>Shown between %1 and %2</source>
+        <translation>在 %1 与 %2 之间显示</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>No maps on this page</source>
+        <translation>此页面上没有地图</translation>
+    </message>
+    <message>
+        <source>Click to work on this map</source>
+        <translation>单击以处理此地图</translation>
+    </message>
+    <message>
+        <source>%1; the map is at %2</source>
+        <translation>%1；地图为 %2</translation>
+    </message>
+    <message>
+        <source>A group hides it</source>
+        <translation>被组隐藏</translation>
+    </message>
+    <message>
+        <source>map with the focus</source>
+        <translation>焦点地图</translation>
+    </message>
+    <message>
+        <source>map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>shown</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>hidden</source>
+        <translation>隐藏</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::ContentsTree</name>
+    <message>
+        <source>Maps and layers</source>
+        <translation>地图和图层</translation>
     </message>
 </context>
 <context>
@@ -6390,15 +6800,15 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <name>SysAdapterUI::TOCControl</name>
     <message>
         <source>No maps on this page</source>
-        <translation>此页面上没有地图</translation>
+        <translation type="vanished">此页面上没有地图</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation>其他</translation>
+        <translation type="vanished">其他</translation>
     </message>
     <message>
         <source>Click to work on this map</source>
-        <translation>单击以处理此地图</translation>
+        <translation type="vanished">单击以处理此地图</translation>
     </message>
 </context>
 <context>

@@ -61,10 +61,18 @@ void ActionTable::addAction(HostedCommand const& command) {
   action->setObjectName(entry.identifier);
   action->setShortcut(QKeySequence::fromString(entry.shortcut, QKeySequence::PortableText));
   action->setStatusTip(entry.toolTip);
+  if (entry.isForContents) action->setShortcutContext(Qt::WidgetShortcut);
   connect(action, &QAction::triggered, this, [this, &command] {
     if (!commands_.click(command)) refresh();  // it was found disabled just now
   });
   actions_[entry.identifier] = action;
+}
+
+QList<QAction*> ActionTable::ofContents() const {
+  QList<QAction*> actions;
+  for (HostedCommand const& command : commands_.commands())
+    if (command.entry.isForContents) actions << actions_.value(command.entry.identifier);
+  return actions;
 }
 
 QMenu* ActionTable::menu(QString const& path) {

@@ -23,6 +23,9 @@ public:
   /// Null where the window has no such command.
   QAction* find(QString const& identifier) const { return actions_.value(identifier); }
 
+  /// Those whose keys belong to the contents.
+  QList<QAction*> ofContents() const;
+
   /// The menu at a path such as "Arrange/Align"; made where it is missing.
   QMenu* menu(QString const& path);
 

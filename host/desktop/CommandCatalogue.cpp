@@ -20,6 +20,7 @@ struct Row {
   char const* caption;
   char const* toolTip;
   char const* needs;
+  bool isForContents = false;  // the shortcut
 };
 
 struct Commands {
@@ -32,6 +33,7 @@ public:
   static constexpr Place inInsert{QT_TR_NOOP("&Insert"), ""};
   static constexpr Place inArrange{QT_TR_NOOP("&Arrange"), ""};
   static constexpr Place inLayer{QT_TR_NOOP("&Layer"), ""};
+  static constexpr Place inOpacity{QT_TR_NOOP("&Layer"), QT_TR_NOOP("Opacity")};
   static constexpr Place inHelp{QT_TR_NOOP("&Help"), ""};
   static constexpr Place inAlign{QT_TR_NOOP("&Arrange"), QT_TR_NOOP("Align")};
   static constexpr Place inDistribute{QT_TR_NOOP("&Arrange"), QT_TR_NOOP("Distribute")};
@@ -56,6 +58,9 @@ public:
   static constexpr char const* two = QT_TR_NOOP("two selected elements");
   static constexpr char const* twoOrMargins = QT_TR_NOOP("two selected elements, or one when aligning to margins");
   static constexpr char const* scalable = QT_TR_NOOP("selected elements, no markers and no map surrounds among them");
+  static constexpr char const* rows = QT_TR_NOOP("a row of the contents chosen");
+  static constexpr char const* layers = QT_TR_NOOP("a layer or a group chosen in the contents");
+  static constexpr bool inContents = true;
   static constexpr char const* three = QT_TR_NOOP("three selected elements");
 
   // clang-format off
@@ -233,6 +238,53 @@ public:
        QT_TR_NOOP("a chosen layer of features")},
       {"Host_CoordinateSystem", "coordinate-system", inLayer, 4, onNone, "",
        QT_TR_NOOP("Coordinate System of the Map…"), QT_TR_NOOP("Show the map in another coordinate system"), focusMap},
+      {"Host_ShowLayer", "eye", inLayer, 1, onNone, "Space",
+       QT_TR_NOOP("Show"), QT_TR_NOOP("Show or hide the chosen layers and groups"), layers, inContents},
+      {"Host_Opacity100", "opacity", inOpacity, 1, onNone, "",
+       QT_TR_NOOP("100 %"), QT_TR_NOOP("Let the chosen layers cover what lies below"), layers},
+      {"Host_Opacity75", "opacity", inOpacity, 1, onNone, "",
+       QT_TR_NOOP("75 %"), QT_TR_NOOP("Let a quarter of what lies below shine through"), layers},
+      {"Host_Opacity50", "opacity", inOpacity, 1, onNone, "",
+       QT_TR_NOOP("50 %"), QT_TR_NOOP("Let half of what lies below shine through"), layers},
+      {"Host_Opacity25", "opacity", inOpacity, 1, onNone, "",
+       QT_TR_NOOP("25 %"), QT_TR_NOOP("Let three quarters of what lies below shine through"), layers},
+      {"Host_ZoomToLayer", "zoom-in", inLayer, 2, onNone, "Ctrl+Return",
+       QT_TR_NOOP("Zoom to Layer"), QT_TR_NOOP("Show all that the chosen layers hold, or all layers of a map"), rows, inContents},
+      {"Host_ZoomToScaleRange", "zoom-to-scale", inLayer, 2, onNone, "Ctrl+Shift+Return",
+       QT_TR_NOOP("Zoom to Scale Range"), QT_TR_NOOP("Give the map a scale at which the chosen layer shows"),
+       QT_TR_NOOP("a layer with limits of scale chosen in the contents"), inContents},
+      {"Host_FocusMap", "data-frame", inLayer, 2, onNone, "",
+       QT_TR_NOOP("Work on This Map"), QT_TR_NOOP("Give the chosen map the focus"), QT_TR_NOOP("a map chosen in the contents")},
+      {"Host_RepairLayer", "repair", inLayer, 3, onNone, "",
+       QT_TR_NOOP("Repair…"), QT_TR_NOOP("Find the file of the chosen layer, and those of others beside it"),
+       QT_TR_NOOP("a layer chosen in the contents whose data can't be read")},
+      {"Host_RenameLayer", "edit", inLayer, 4, onNone, "F2",
+       QT_TR_NOOP("Rename"), QT_TR_NOOP("Write another name of the chosen map, layer or group"), rows, inContents},
+      {"Host_CutLayer", "cut", inLayer, 5, onNone, "Ctrl+X",
+       QT_TR_NOOP("Cut"), QT_TR_NOOP("Move the chosen layers to the clipboard"), layers, inContents},
+      {"Host_CopyLayer", "copy", inLayer, 5, onNone, "Ctrl+C",
+       QT_TR_NOOP("Copy"), QT_TR_NOOP("Copy the chosen layers to the clipboard"), layers, inContents},
+      {"Host_PasteLayer", "paste", inLayer, 5, onNone, "Ctrl+V",
+       QT_TR_NOOP("Paste"), QT_TR_NOOP("Put the layers of the clipboard above the chosen one"), rows, inContents},
+      {"Host_DuplicateLayer", "duplicate", inLayer, 5, onNone, "Ctrl+D",
+       QT_TR_NOOP("Duplicate"), QT_TR_NOOP("Put copies of the chosen layers above them"), layers, inContents},
+      {"Host_RemoveLayer", "delete", inLayer, 5, onNone, "Del",
+       QT_TR_NOOP("Remove"), QT_TR_NOOP("Remove the chosen layers from their maps; their files stay"), layers, inContents},
+      {"Host_GroupLayers", "group", inLayer, 6, onNone, "Ctrl+G",
+       QT_TR_NOOP("Group"), QT_TR_NOOP("Put the chosen layers and groups into a new group"),
+       QT_TR_NOOP("layers of one map chosen in the contents"), inContents},
+      {"Host_UngroupLayers", "ungroup", inLayer, 6, onNone, "Ctrl+Shift+G",
+       QT_TR_NOOP("Ungroup"), QT_TR_NOOP("Take the chosen groups of layers apart"),
+       QT_TR_NOOP("a group of layers chosen in the contents"), inContents},
+      {"Host_RaiseLayer", "bring-forward", inLayer, 7, onNone, "Alt+Up",
+       QT_TR_NOOP("Raise"), QT_TR_NOOP("Move the chosen layers up by one place"), layers, inContents},
+      {"Host_LowerLayer", "send-backward", inLayer, 7, onNone, "Alt+Down",
+       QT_TR_NOOP("Lower"), QT_TR_NOOP("Move the chosen layers down by one place"), layers, inContents},
+      {"Host_EnterGroup", "enter-group", inLayer, 7, onNone, "Alt+Right",
+       QT_TR_NOOP("Move into Group"), QT_TR_NOOP("Move the chosen layers into the group below or above them"), layers, inContents},
+      {"Host_LeaveGroup", "leave-group", inLayer, 7, onNone, "Alt+Left",
+       QT_TR_NOOP("Move out of Group"), QT_TR_NOOP("Move the chosen layers out of their group, above it"),
+       QT_TR_NOOP("a layer of a group chosen in the contents"), inContents},
       {"Host_Quit", "quit", inFile, 9, onNone, "Ctrl+Q",
        QT_TR_NOOP("Quit"), QT_TR_NOOP("Close the window"), nothing},
       {"Host_About", "about", inHelp, 1, onNone, "",
@@ -249,7 +301,7 @@ QVector<CommandEntry> entriesOf(Row const (&rows)[count]) {
     if (*row.place.submenu) menu += QLatin1Char('/') + QString::fromUtf8(row.place.submenu);
     entries.append({QString::fromUtf8(row.identifier), QString::fromUtf8(row.caption), QString::fromUtf8(row.toolTip),
                     QString::fromUtf8(row.icon), QString::fromUtf8(row.shortcut), menu, row.section,
-                    QString::fromUtf8(row.toolbar), QString::fromUtf8(row.needs)});
+                    QString::fromUtf8(row.toolbar), QString::fromUtf8(row.needs), row.isForContents});
   }
   return entries;
 }

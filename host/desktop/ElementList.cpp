@@ -1,11 +1,13 @@
 #include "ElementList.h"
 
 #include "ElementModel.h"
+#include "OwnKeys.h"
 
 #include "host/SysCarto/layout/PageLayoutHost.h"
 
 #include <SysFramework/HostAccess.h>
 
+#include <QAction>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -46,13 +48,20 @@ ElementList::ElementList(DocumentSession& session, QWidget* parent)
   setSelectionMode(ExtendedSelection);
   setDragDropMode(InternalMove);
   setDragDropOverwriteMode(false);
-  setEditTriggers(EditKeyPressed | DoubleClicked);
+  setEditTriggers(DoubleClicked);
   setExpandsOnDoubleClick(false);
   header()->setStretchLastSection(false);
   header()->setMinimumSectionSize(signWidthPx);
   header()->setSectionResizeMode(QHeaderView::Fixed);
   header()->setSectionResizeMode(ElementModel::NameColumn, QHeaderView::Stretch);
   for (int column : {ElementModel::HiddenColumn, ElementModel::LockedColumn}) setColumnWidth(column, signWidthPx);
+  auto* const rename = new QAction(this);
+  rename->setShortcut(Qt::Key_F2);
+  rename->setShortcutContext(Qt::WidgetShortcut);
+  addAction(rename);
+  connect(rename, &QAction::triggered, this,
+          [this] { edit(currentIndex().siblingAtColumn(ElementModel::NameColumn)); });
+  new OwnKeys(*this);
   connect(this, &QTreeView::clicked, model_, &ElementModel::toggle);
   connect(model_, &ElementModel::told, this, &ElementList::told);
 }

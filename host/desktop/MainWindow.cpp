@@ -10,6 +10,7 @@
 #include "layers/IdentifyPanel.h"
 #include "layers/LayerClasses.h"
 
+#include "host/SysAdapterUI/ContentsTree.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
 #include "host/SysUtility/ScaleText.h"
@@ -109,15 +110,21 @@ MainWindow::MainWindow()
   connect(&bench_.session(), &DocumentSession::historyChanged, actions_.get(), &ActionTable::refreshSoon);
   for (QDockWidget const* dock : {contentsDock_, historyDock_})
     connect(dock, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
-  connect(&bench_.session(), &DocumentSession::historyChanged, this, &MainWindow::listMaps);
+  connect(&bench_.session(), &DocumentSession::historyChanged, this, [this] { contents_->Refresh(); });
   connect(&bench_.session(), &DocumentSession::replaced, this, &MainWindow::documentReplaced);
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
   connect(actions_.get(), &ActionTable::refreshed, properties_, &PropertyPanel::follow);
   connect(actions_.get(), &ActionTable::refreshed, elements_, &ElementList::follow);
-  connect(contents_, &SysAdapterUI::TOCControl::RowChosen, actions_.get(), &ActionTable::refreshSoon);
   connect(properties_, &PropertyPanel::editing, actions_.get(), &ActionTable::refreshSoon);
   connect(properties_, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
   connectFiles();
+  auto& tree = SysAdapterUI::ContentsTree::of(*contents_);
+  layers_.setTree(tree, *actions_);
+  connect(&tree, &SysAdapterUI::ContentsTree::filesDropped, this, [this](auto const& files, auto const& place) {
+    bench_.views().focusOn(place.map);
+    adding_.setChosen(LayerActions::layerBelow(place));
+    adding_.addFiles(files);
+  });
   restoreState();
   contents_->SetBuddy(&bench_.views());
   bench_.session().create();
@@ -138,6 +145,7 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   auto const modified = [this] {
     return bench_.session().isModified() || bench_.session().path().isEmpty() || properties_->isEditing();
   };
+  layers_.addTo(host);
   auto const always = std::function<bool()>(), never = always;
   host.add(QStringLiteral("Host_New"), {[this] { files_.create(); }, always, always});
   host.add(QStringLiteral("Host_Open"), {[this] { files_.open(); }, always, always});
@@ -222,7 +230,7 @@ void MainWindow::showRulers() {
 void MainWindow::connectFiles() {
   connect(&files_, &DocumentFiles::changedOutside, notice_, &NoticeBar::tell);
   connect(&files_, &DocumentFiles::dataReplaced, this, [this] {
-    contents_->SetBuddy(&bench_.views());
+    contents_->Refresh();
     bench_.views().redraw();
   });
   connect(&bench_.session(), &DocumentSession::replaced, notice_, &QWidget::hide);
@@ -277,7 +285,8 @@ void MainWindow::buildProperties() {
     properties_->raise();
     properties_->widget()->setFocus();
   });
-  connect(contents_, &SysAdapterUI::TOCControl::RowChosen, properties_, &PropertyPanel::showRow);
+  connect(&SysAdapterUI::ContentsTree::of(*contents_), &SysAdapterUI::ContentsTree::rowsChosen, properties_,
+          &PropertyPanel::showRows);
   connect(elements_, &ElementList::chosen, properties_, &PropertyPanel::showSelection);
   auto const tell = [this](QString const& sentence) { notice_->tell(sentence, false); };
   connect(properties_, &PropertyPanel::told, notice_, tell);
@@ -285,6 +294,7 @@ void MainWindow::buildProperties() {
   connect(contents_, &SysAdapterUI::TOCControl::RowChosen, &adding_,
           [this](auto const&, auto const& layer) { adding_.setChosen(layer); });
   connect(elements_, &ElementList::told, notice_, tell);
+  connect(&layers_, &LayerCommands::told, notice_, tell);
 }
 
 void MainWindow::buildHistory() {
@@ -360,17 +370,8 @@ void MainWindow::keepState() {
 }
 
 void MainWindow::documentReplaced() {
-  listMaps();
+  contents_->Refresh();
   actions_->refreshSoon();
-}
-
-// Data frames come and go with the steps of the history, and with them their maps.
-void MainWindow::listMaps() {
-  QList<_ptr_t<SysCarto::Map>> maps;
-  bench_.session().document().GetMaps(maps);
-  if (maps == listedMaps_) return contents_->Refresh();
-  listedMaps_ = maps;
-  contents_->SetBuddy(&bench_.views());
 }
 
 void MainWindow::showState() {

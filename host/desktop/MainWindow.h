@@ -5,6 +5,7 @@
 #include "HistoryQuestion.h"
 #include "Workbench.h"
 #include "layers/LayerAdding.h"
+#include "layers/LayerCommands.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
 #include <SysAdapterUI/TOCControl.h>
@@ -62,12 +63,12 @@ private:
   void restoreState();
 
   void documentReplaced();
-  void listMaps();
   void showState();
   void showPointer(QPoint const& positionPx);
   void takeScale();
   void showAbout();
 
+  LayerCommands layers_{bench_};  // the workbench asks for them while it is made
   Workbench bench_;
   DocumentFiles files_;
   LayerAdding adding_;
@@ -76,7 +77,6 @@ private:
   std::unique_ptr<Companion> companion_;
   SysAdapterUI::TOCControl* contents_ = nullptr;
   ElementList* elements_ = nullptr;
-  QList<SysUtility::_ptr_t<SysCarto::Map>> listedMaps_;
   PropertyPanel* properties_ = nullptr;
   AttributePanel* attributes_ = nullptr;
   IdentifyPanel* features_ = nullptr;

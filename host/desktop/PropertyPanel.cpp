@@ -1,6 +1,7 @@
 #include "PropertyPanel.h"
 
 #include "layers/MapSystem.h"
+#include "layers/LayerActions.h"
 
 #include "host/SysAdapterUI/SymbolChooser.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
@@ -14,7 +15,10 @@
 
 #include <QUndoStack>
 
+#include <algorithm>
+
 using SysCarto::Editable;
+using SysCarto::LayerRow;
 using SysCarto::MapDocumentHost;
 using SysUtility::SheetField;
 
@@ -31,8 +35,7 @@ PropertyPanel::PropertyPanel(DocumentSession& session, QWidget* parent)
   connect(sheet_, &SysAdapterUI::PropertySheet::editing, this, &PropertyPanel::editing);
   connect(sheet_, &SysAdapterUI::PropertySheet::symbolWanted, this, &PropertyPanel::chooseSymbol);
   connect(&session, &DocumentSession::replaced, this, [this] {
-    map_ = nullptr;
-    layer_ = nullptr;
+    rows_.clear();
     things_.clear();
     showAnew();
   });
@@ -52,10 +55,9 @@ QList<SysCarto::ElementHandle> PropertyPanel::selection() const {
 Editable::List PropertyPanel::chosen() const {
   Editable::List things;
   auto const& document = session_.document();
-  if (layer_) {
-    if (auto const layer = Editable::layer(map_, layer_)) things << layer;
-  } else if (map_) {
-    things << Editable::map(map_);
+  if (!rows_.isEmpty()) {
+    for (LayerRow const& row : rows_)
+      if (auto const thing = LayerActions::editable(row)) things << thing;
   } else if (!selected_.isEmpty()) {
     for (SysCarto::ElementHandle const handle : selected_) things << Editable::element(document, handle);
   } else if (auto const page = Editable::page(document)) {
@@ -66,9 +68,12 @@ Editable::List PropertyPanel::chosen() const {
 
 QString PropertyPanel::titleOf(Editable::List const& things) const {
   if (things.isEmpty()) return tr("Nothing to set");
+  if (things.size() > 1 && !rows_.isEmpty()) return tr("%1 rows of the contents").arg(things.size());
   if (things.size() > 1) return tr("%1 elements").arg(things.size());
-  if (layer_) return tr("Layer %1").arg(things.first()->name());
-  if (map_) return tr("Map %1").arg(things.first()->name());
+  LayerRow const row = rows_.value(0);
+  if (row.layer) return tr("Layer %1").arg(things.first()->name());
+  if (row.group) return tr("Group %1").arg(things.first()->name());
+  if (row.map) return tr("Map %1").arg(things.first()->name());
   return selected_.isEmpty() ? tr("Page") : things.first()->name();
 }
 
@@ -76,26 +81,24 @@ void PropertyPanel::follow() {
   auto const selected = selection();
   bool const isOther = selected != selected_;
   selected_ = selected;
-  if (isOther) {
-    map_ = nullptr;
-    layer_ = nullptr;
-  }
+  if (isOther) rows_.clear();
   QList<SysUtility::_ptr_t<SysCarto::Map>> maps;
   session_.document().GetMaps(maps);
-  if (!maps.contains(map_) || (layer_ && !map_->GetLayers().contains(layer_))) {  // gone, by undo or a template
-    map_ = nullptr;
-    layer_ = nullptr;
-  }
+  auto const hasGone = [&maps](LayerRow const& row) {  // by undo or a template
+    return !maps.contains(row.map) || (row.layer && !row.map->GetLayers().contains(row.layer)) ||
+           (row.group && !groupsOf(*row.map).contains(row.group));
+  };
+  rows_.erase(std::remove_if(rows_.begin(), rows_.end(), hasGone), rows_.end());
   if (!isVisible()) return;
   things_ = chosen();
   sheet_->setTitle(titleOf(things_));
-  Shown const shown{map_.get(), layer_.get(), selected_};
+  Shown const shown{rows_, selected_};
   Moment const now{MapDocumentHost::history(session_.document())->index(), SysUtility::ChangeMark::now()};
   bool const isKnown = shown_ && *shown_ == shown, isLater = !(now == moment_);
   moment_ = now;
   // A map is zoomed within one step. To look at many elements takes a while, and the wheel comes here, too.
   if (isKnown) {
-    if (isLater || (map_ && !layer_)) sheet_->refresh();
+    if (isLater || (rows_.size() == 1 && !rows_.first().layer)) sheet_->refresh();
     return;
   }
   shown_ = shown;
@@ -103,12 +106,10 @@ void PropertyPanel::follow() {
   sheet_->show(this);
 }
 
-void PropertyPanel::showSelection() { showRow(nullptr, nullptr); }
+void PropertyPanel::showSelection() { showRows({}); }
 
-void PropertyPanel::showRow(SysUtility::_ptr_t<SysCarto::Map> const& map,
-                            SysUtility::_ptr_t<SysCarto::Layer> const& layer) {
-  map_ = map;
-  layer_ = layer;
+void PropertyPanel::showRows(QVector<LayerRow> const& rows) {
+  rows_ = rows;
   follow();
 }
 
@@ -146,8 +147,9 @@ QString PropertyPanel::set(QStringList const& path, SysUtility::NewValue const& 
 
 std::optional<QString> PropertyPanel::chooseSystem(QStringList const&, QString const& now, QWidget* parent) {
   auto const layout = session_.document().GetPageLayout();
-  auto const map = map_ || !layout ? map_ : layout->GetFocusMap();
-  bool const isOfLayer = static_cast<bool>(layer_);
+  LayerRow const row = rows_.value(0);
+  auto const map = row.map || !layout ? row.map : layout->GetFocusMap();
+  bool const isOfLayer = static_cast<bool>(row.layer);
   return SysAdapterUI::SystemChooser::choose(systemChoice(session_.document(), map.get(), now, isOfLayer), parent);
 }
 

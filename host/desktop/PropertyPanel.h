@@ -4,14 +4,15 @@
 
 #include "host/SysAdapterUI/PropertySheet.h"
 #include "host/SysCarto/document/Editable.h"
+#include "host/SysCarto/maps/LayerTree.h"
 
 #include <QDockWidget>
 #include <QElapsedTimer>
 
 #include <optional>
 
-/// The panel with the fields of what is selected: elements, the map or the layer whose row in the contents is current,
-/// or else the page.
+/// The panel with the fields of what is selected: elements, the maps, layers and groups of layers that are chosen in
+/// the contents, or else the page.
 class PropertyPanel final : public QDockWidget, private SysAdapterUI::FieldSource {
   Q_OBJECT
 
@@ -31,12 +32,14 @@ public:
   /// Ends what a row of the contents has begun.
   void showSelection();
 
-  /// A row of the contents is current: of a map, or of one of its layers. `showSelection` or another selection ends
-  /// that.
-  void showRow(SysUtility::_ptr_t<SysCarto::Map> const& map, SysUtility::_ptr_t<SysCarto::Layer> const& layer);
+  /// Rows of the contents are chosen. `showSelection` or another selection ends that.
+  void showRows(QVector<SysCarto::LayerRow> const& rows);
 
-  /// The layer whose row is current; null for none.
-  SysCarto::Editable::Pointer layer() const { return layer_ ? SysCarto::Editable::layer(map_, layer_) : nullptr; }
+  /// The layer that is chosen alone; null for none.
+  SysCarto::Editable::Pointer layer() const {
+    auto const row = rows_.size() == 1 ? rows_.first() : SysCarto::LayerRow();
+    return row.layer ? SysCarto::Editable::layer(row.map, row.layer) : nullptr;
+  }
 
 signals:
   /// A value begins to be edited: there is something that could be saved.
@@ -63,12 +66,9 @@ private:
   QColor background() const;
 
   struct Shown {
-    SysCarto::Map const* map;
-    SysCarto::Layer const* layer;
+    QVector<SysCarto::LayerRow> rows;
     QList<SysCarto::ElementHandle> selected;
-    bool operator==(Shown const& other) const {
-      return map == other.map && layer == other.layer && selected == other.selected;
-    }
+    bool operator==(Shown const& other) const { return rows == other.rows && selected == other.selected; }
   };
 
   // When something may have changed.
@@ -89,9 +89,8 @@ private:
   SysAdapterUI::PropertySheet* const sheet_;
   SysCarto::Editable::List things_;
   QList<SysCarto::ElementHandle> selected_;
-  SysUtility::_ptr_t<SysCarto::Map> map_;      // of the current row of the contents; empty where the page counts
-  SysUtility::_ptr_t<SysCarto::Layer> layer_;  // likewise, empty for the map itself
-  std::optional<Shown> shown_;                 // in the sheet
+  QVector<SysCarto::LayerRow> rows_;  // chosen in the contents; none where the page counts
+  std::optional<Shown> shown_;        // in the sheet
   Moment moment_{-1, 0};
   Last last_;
 };

@@ -11,6 +11,7 @@
 #include "layers/IdentifyTool.h"
 #include "layers/LayerClasses.h"
 #include "layers/NewLayers.h"
+#include "layers/LayerSteps.h"
 
 #include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysUtility/JsonFile.h"
@@ -103,13 +104,21 @@ struct RunSteps::Kind {
   QString value;  ///< as people are told; empty for a step without one
   bool (*isValue)(QString const&);
   QString (RunSteps::*run)(QString const& value);
-  QString fixed;  ///< what `run` is given where the step has no value
+  QString fixed;                        ///< what `run` is given where the step has no value
+  LayerStep const* ofLayers = nullptr;  ///< what is run instead
 };
+
+QVector<RunSteps::Kind> RunSteps::kindsOfLayers() {
+  QVector<Kind> kinds;
+  for (LayerStep const& step : LayerStep::all())
+    kinds.append({step.name, step.value, step.isValue, nullptr, {}, &step});
+  return kinds;
+}
 
 QVector<RunSteps::Kind> const& RunSteps::kinds() {
   auto const text = [](char const* utf8) { return QString::fromUtf8(utf8); };
   // clang-format off
-  static QVector<Kind> const kinds = {
+  static QVector<Kind> const kinds = kindsOfLayers() + QVector<Kind>{
       {text("select"),     text("NAME,NAME…"),   isAnything,   &RunSteps::select,  {}},
       {text("select-all"), {},                   nullptr,      &RunSteps::click,   text("Host_SelectAll")},
       {text("unselect"),   {},                   nullptr,      &RunSteps::click,   text("Host_Unselect")},
@@ -201,11 +210,19 @@ QString RunSteps::open(QString const& document) {
 QString RunSteps::run(QString const& step) {
   Kind const* const kind = kindOf(step);
   QString const value = kind && kind->isValue ? step.mid(kind->name.size() + 1) : kind ? kind->fixed : step;
-  QString const problem = kind ? (this->*kind->run)(value) : click(value);
+  QString const problem = !kind            ? click(value)
+                          : kind->ofLayers ? runOnLayers(*kind->ofLayers, value)
+                                           : (this->*kind->run)(value);
   QCoreApplication::processEvents();
   bool const isLong = step.size() > maxShown;
   QString const shown = isLong ? step.left(maxShown) + QChar(0x2026) : step;
   return problem.isEmpty() ? QString() : tr("run: %1: %2").arg(shown, problem);
+}
+
+QString RunSteps::runOnLayers(LayerStep const& step, QString const& value) {
+  LayerOutcome const outcome = step.run(bench_.session().document(), value);
+  for (QString const& warning : outcome.warnings) Console::complain(warning);
+  return outcome.problem;
 }
 
 QString RunSteps::unusedAnswers() {
@@ -311,6 +328,8 @@ QString RunSteps::withFreeMap(std::function<bool(Map&)> const& change) {
 
 // All of that name, layers and groups of them, since names need not differ.
 QString RunSteps::setVisible(QString const& layerName, bool visible) {
+  auto const rows = LayerActions::named(bench_.session().document(), layerName);
+  if (!rows.isEmpty()) return LayerActions::setVisible(rows, visible).problem;
   auto const map = bench_.session().document().GetPageLayout()->GetFocusMap();
   QStringList names;
   for (auto const& layer : map ? map->GetLayers() : QList<_ptr_t<SysCarto::Layer>>()) {

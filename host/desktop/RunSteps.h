@@ -9,6 +9,8 @@
 
 #include <functional>
 
+struct LayerStep;
+
 /// Work on a document without a person: steps that click commands, move the mouse and answer dialogs, on the very views
 /// and commands of the window.
 class RunSteps {
@@ -34,9 +36,11 @@ public:
 
 private:
   struct Kind;
+  static QVector<Kind> kindsOfLayers();
   static QVector<Kind> const& kinds();
   static Kind const* kindOf(QString const& step);
 
+  QString runOnLayers(LayerStep const& step, QString const& value);
   QString click(QString const& identifier);
   QString select(QString const& names);
   QString show(QString const& view);

@@ -185,6 +185,11 @@ private slots:
     QCOMPARE(page.container().GetElements().at(9995), many[9996]);
     list.follow();
     QCOMPARE(list.currentIndex().row(), 4);
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_F2);  // a name, though the page has the key, too
+    auto* const name = list.findChild<QLineEdit*>();
+    QVERIFY(name && name->isVisible());
+    QTest::keyClick(name, Qt::Key_Escape);
 
     auto const group = make<GroupElement>();
     for (double x : {1, 3, 5}) group->AddElement(madeIn<RectangleElement>(x, 1, x + 1, 2));

@@ -8,6 +8,7 @@
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
 #include "host/desktop/drawing/TurnGesture.h"
+#include "host/desktop/layers/LayerActions.h"
 
 #include <random>
 
@@ -136,9 +137,12 @@ private:
   void fill(WorkbenchPage& page) {
     auto const map = page.add<MapFrameElement>(1.13, 14.7, 11.9, 27.03)->GetMap();
     map->SetExtent(make<SysGeometry::Envelope>(1.0 / 3, 0.1, 7.7, 5.2));
-    map->AddLayer(
-        opened({written(folder_, "a.geojson", geoJson(R"({"type":"Point","coordinates":[1,2]})")), {}, {}, {}}, {})
-            .layer);
+    for (QString const name : {"A", "B", "C"}) {
+      map->AddLayer(
+          opened({written(folder_, "a.geojson", geoJson(R"({"type":"Point","coordinates":[1,2]})")), {}, {}, {}}, {})
+              .layer);
+      map->GetLayers().last()->SetName(name);
+    }
     page.add<MapFrameElement>(12.4, 15.1, 19.77, 22.6);
     page.add<SysCarto::RectangleElement>(2.1, 2.3, 6.6, 5.9);
     page.add<SysCarto::RectangleElement>(8.0 / 3, 7.0, 9.1, 11.0 / 3);
@@ -155,7 +159,9 @@ private:
   }
 
   void doSomething(WorkbenchPage& page) {
-    switch (upTo(9)) {
+    switch (upTo(11)) {
+      case 10:
+      case 11: return arrangeLayers(page);
       case 9: return draw(page);
       case 0:
       case 1: return useTheMouse(page);
@@ -243,6 +249,39 @@ private:
     page.layout()->GetMaps(maps);
     for (auto const& map : qAsConst(maps))
       for (auto const& layer : map->GetLayers()) SysCarto::MapSteps::setVisible(*layer, !layer->IsVisible());
+  }
+
+  void arrangeLayers(WorkbenchPage& page) {
+    auto const& document = page.bench.session().document();
+    QList<_ptr_t<SysCarto::Map>> maps;
+    document.GetMaps(maps);
+    LayerActions::Rows all;
+    for (auto const& map : qAsConst(maps)) {
+      all.append({map});
+      for (auto const& layer : map->GetLayers()) all.append({map, nullptr, layer});
+      for (auto const& group : groupsOf(*map)) all.append({map, group});
+    }
+    if (all.isEmpty()) return;
+    auto const any = [&] { return all[upTo(all.size() - 1)]; };
+    LayerActions::Rows rows;
+    for (int i = upTo(2); i >= 0; --i)
+      if (auto const row = any(); row.layer || row.group) rows << row;
+    if (rows.isEmpty()) return;
+    switch (upTo(12)) {
+      case 0: LayerActions::move(rows, LayerActions::inside(any())); break;
+      case 1: LayerActions::copy(rows, LayerActions::above(any())); break;
+      case 2: LayerActions::remove(rows); break;
+      case 3: LayerActions::duplicate(rows); break;
+      case 4: LayerActions::setOrder(rows.first(), 1 + upTo(3)); break;
+      case 5: LayerActions::raise(rows); break;
+      case 6: LayerActions::lower(rows); break;
+      case 7: LayerActions::enterGroup(rows); break;
+      case 8: LayerActions::leaveGroup(rows); break;
+      case 9: LayerActions::toggleVisible(rows); break;
+      case 10: LayerActions::rename(document, any(), QString::number(upTo(99))); break;
+      case 11: LayerActions::ungroup(rows); break;
+      default: LayerActions::group(rows); break;
+    }
   }
 
   void setThePageUp(WorkbenchPage& page) {

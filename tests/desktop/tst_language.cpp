@@ -56,7 +56,7 @@ private slots:
     MainWindow window;
     QStringList menus;
     for (QAction const* menu : window.menuBar()->actions()) menus << menu->text();
-    QCOMPARE(menus, QStringList({"&Datei", "&Bearbeiten", "An&sicht", "&Einfügen", "&Anordnen", "&Hilfe"}));
+    QCOMPARE(menus, QStringList({"&Datei", "&Bearbeiten", "An&sicht", "&Einfügen", "&Anordnen", "E&bene", "&Hilfe"}));
     QVERIFY(window.open(sampleIn(folder_.path(), "world.kdx")));
     window.actions().find("Host_SelectAll")->trigger();
     window.actions().find("Plotvane_LeftAlignment")->trigger();

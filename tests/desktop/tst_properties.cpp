@@ -362,6 +362,9 @@ private:
       if (row-- == 0) return QString("map:#%1").arg(map);
       if (row < maps[map]->GetLayerCount()) return QString("layer:#%1/#%2").arg(map).arg(row);
       row -= maps[map]->GetLayerCount();
+      auto const groups = groupsOf(*maps[map]);
+      if (row < groups.size()) return QString("layer:#%1/%2").arg(map).arg(groups[row]->name());
+      row -= groups.size();
     }
     return QString();
   }
@@ -388,18 +391,19 @@ private:
   bool show(PropertyPanel& panel, WorkbenchPage& page, int thing) {
     auto const elements = page.container().GetElements();
     page.container().UnselectAllElements();
-    panel.showRow(nullptr, nullptr);
-    QList<std::pair<_ptr_t<SysCarto::Map>, _ptr_t<SysCarto::Layer>>> rows;
+    panel.showSelection();
+    QVector<SysCarto::LayerRow> rows;
     QList<_ptr_t<SysCarto::Map>> maps;
     page.bench.session().document().GetMaps(maps);
     for (auto const& map : maps) {
-      rows << std::make_pair(map, _ptr_t<SysCarto::Layer>());
-      for (auto const& layer : map->GetLayers()) rows << std::make_pair(map, layer);
+      rows.append({map});
+      for (auto const& layer : map->GetLayers()) rows.append({map, nullptr, layer});
+      for (auto const& group : groupsOf(*map)) rows.append({map, group});
     }
     int const row = thing - 1 - elements.size();
     if (row >= rows.size()) return false;
     if (row >= 0)
-      panel.showRow(rows[row].first, rows[row].second);
+      panel.showRows({rows[row]});
     else if (thing > 0)
       page.container().SelectElement(elements[thing - 1]);
     panel.follow();

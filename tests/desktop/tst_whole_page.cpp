@@ -143,9 +143,10 @@ private:
   }
 
   void choose(QString const& map) {
-    auto* const tree = window_.findChild<QTreeWidget*>("treeWidget_Contents");
-    auto* const row = tree->findItems(map, Qt::MatchExactly).value(0);
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(row).center());
+    auto* const tree = window_.findChild<QTreeView*>("treeView_Contents");
+    auto const& rows = *tree->model();
+    QModelIndex const row = rows.match(rows.index(0, 0), Qt::DisplayRole, map, 1, Qt::MatchExactly).value(0);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(row).center());
   }
 
   // What is not there yet is switched on or added on the way to the field.

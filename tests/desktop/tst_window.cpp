@@ -136,27 +136,28 @@ private slots:
 
   void theContentsFollowTheDataFrames() {
     WorldWindow sample;
-    auto* const tree = sample.window.findChild<QTreeWidget*>("treeWidget_Contents");
-    auto const first = [tree] { return tree->topLevelItem(0)->text(0); };
+    auto* const tree = sample.window.findChild<QTreeView*>("treeView_Contents");
+    auto const first = [tree] { return tree->model()->index(0, 0).data().toString(); };
     QCOMPARE(first(), QString("World"));
     sample.trigger("Host_SelectAll");
     sample.trigger("Host_Delete");
     QCOMPARE(first(), QString("No maps on this page"));
     sample.trigger("Host_Undo");
     QCOMPARE(first(), QString("World"));
-    QCOMPARE(tree->topLevelItem(0)->childCount(), sample.document().GetMap(0)->GetLayerCount());
+    QCOMPARE(tree->model()->rowCount(tree->model()->index(0, 0)), sample.document().GetMap(0)->GetLayerCount());
   }
 
   void theFocusGoesToTheMapThatIsClicked() {
     WorldWindow sample;
-    auto* const tree = sample.window.findChild<QTreeWidget*>("treeWidget_Contents");
+    auto* const tree = sample.window.findChild<QTreeView*>("treeView_Contents");
     sample.trigger("Plotvane_MapFrame");  // the new map has the focus
     WorkbenchPage page(sample.window.bench());
     auto const layout = page.layout();
-    auto const isBold = [tree](int map) { return tree->topLevelItem(map)->font(0).bold(); };
-    QCOMPARE(tree->topLevelItemCount(), 2);
+    auto const row = [tree](int map) { return tree->model()->index(map, 0); };
+    auto const isBold = [&](int map) { return row(map).data(Qt::FontRole).value<QFont>().bold(); };
+    QCOMPARE(tree->model()->rowCount(), 2);
     QTRY_VERIFY(!isBold(0) && isBold(1));
-    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(tree->topLevelItem(0)).center());
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(row(0)).center());
     QVERIFY(layout->GetFocusMap() == sample.document().GetMap(0));
     QTRY_VERIFY(isBold(0) && !isBold(1));
 
@@ -171,15 +172,15 @@ private slots:
 
   void hidingALayerIsAStep() {
     WorldWindow sample;
-    auto* const tree = sample.window.findChild<QTreeWidget*>("treeWidget_Contents");
-    QTreeWidgetItem* const layer = tree->topLevelItem(0)->child(0);
-    layer->setCheckState(0, Qt::Unchecked);
+    auto* const tree = sample.window.findChild<QTreeView*>("treeView_Contents");
+    QModelIndex const layer = tree->model()->index(0, 0, tree->model()->index(0, 0));
+    tree->model()->setData(layer, Qt::Unchecked, Qt::CheckStateRole);
     auto const map = sample.document().GetMap(0);
     QVERIFY(!map->GetLayer(map->GetLayerCount() - 1)->IsVisible());
     QTRY_VERIFY(sample.window.isWindowModified());
-    QVERIFY(sample.window.actions().find("Host_Undo")->text().contains(layer->text(0)));
+    QVERIFY(sample.window.actions().find("Host_Undo")->text().contains(layer.data().toString()));
     sample.trigger("Host_Undo");
-    QCOMPARE(layer->checkState(0), Qt::Checked);
+    QCOMPARE(layer.data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
     QVERIFY(!sample.window.isWindowModified());
   }
 
@@ -321,8 +322,9 @@ private slots:
     QSet<QString> shortcuts;
     for (CommandEntry const& entry : commandCatalogue() + hostCatalogue()) {
       QVERIFY2(window.actions().find(entry.identifier), qPrintable(entry.identifier));
-      QVERIFY2(!shortcuts.contains(entry.shortcut), qPrintable(entry.shortcut));
-      if (!entry.shortcut.isEmpty()) shortcuts << entry.shortcut;
+      QString const keys = (entry.isForContents ? "contents " : "") + entry.shortcut;
+      QVERIFY2(!shortcuts.contains(keys), qPrintable(keys));
+      if (!entry.shortcut.isEmpty()) shortcuts << keys;
       QImage const picture = loadIcon(entry.icon).pixmap(48).toImage().convertToFormat(QImage::Format_ARGB32);
       int inked = 0, opaque = 0;
       for (int i = 0; i < 48 * 48; ++i) {

@@ -37,9 +37,9 @@ private slots:
     auto const elements = layout->GetGraphicsContainer()->GetElements();
     QCOMPARE(elements.size(), 3);
     QVERIFY(ptr_cast<MapSurroundFrame>(elements[2])->GetMapSurround()->GetMap() == before[0]);
-    auto* const tree = desktop_->table->findChild<QTreeWidget*>();
-    QCOMPARE(tree->topLevelItemCount(), 2);
-    QCOMPARE(tree->topLevelItem(0)->text(0), QString("Alpha"));
+    auto* const tree = desktop_->table->findChild<QTreeView*>();
+    QCOMPARE(tree->model()->rowCount(), 2);
+    QCOMPARE(tree->model()->index(0, 0).data().toString(), QString("Alpha"));
   }
 
   void cleanup() { person_.reset(); }

@@ -25,7 +25,7 @@ constexpr Choice blends[] = {
     {LayerBlend::Screen, "screen", QT_TRANSLATE_NOOP("Fields", "Lighten")},
 };
 constexpr Choice kinds[] = {{FeatureKind, "feature", QT_TRANSLATE_NOOP("Fields", "Features")},
-                            {GroupKind, "group", QT_TRANSLATE_NOOP("Fields", "Group")}};
+                            {GroupKind, "group", QT_TRANSLATE_NOOP("Fields", "Group of layers")}};
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(LayerSettings)

@@ -16,6 +16,29 @@ struct LayerEntry {
   std::vector<LayerEntry> entries;       ///< of the group
 };
 
+/// What a row of the contents stands for: a layer, a group of layers, or the map where neither is named.
+struct LayerRow {
+  SysUtility::_ptr_t<Map> map;
+  SysUtility::_ptr_t<LayerGroup> group = nullptr;
+  SysUtility::_ptr_t<Layer> layer = nullptr;
+
+  bool operator==(LayerRow const& other) const {
+    return map == other.map && group == other.group && layer == other.layer;
+  }
+  /// The object itself, to tell rows apart by.
+  void const* thing() const {
+    if (layer) return layer.get();
+    return group ? static_cast<void const*>(group.get()) : map.get();
+  }
+};
+
+/// A place among the entries of a map, or of one of its groups.
+struct LayerPlace {
+  SysUtility::_ptr_t<Map> map;
+  SysUtility::_ptr_t<LayerGroup> group;
+  int below;  ///< how many of these entries lie below
+};
+
 /// The layers of a map as they are, with their groups.
 SYSCARTO_EXPORT LayerList layersOf(Map const& map);
 

@@ -55,6 +55,20 @@ bool change(QString const& name, int joining, Map& map, Envelope const& extent) 
   return change(name, joining, map, Portion{extent, MapHost::lockedScale(map)});
 }
 
+// Of a layer that lies between two of a group; others stay in theirs.
+LayerGroups groupsBetween(LayerGroups const& below, QList<SysUtility::_ptr_t<Layer>> const& layers, int place) {
+  LayerGroups const own = LayerHost::groups(*layers[place]);
+  if (!own.isEmpty()) return own;
+  int above = place + 1;
+  while (above < layers.size() && LayerHost::groups(*layers[above]).isEmpty()) ++above;
+  LayerGroups shared;
+  for (int i = 0; above < layers.size() && i < below.size(); ++i) {
+    if (LayerHost::groups(*layers[above]).value(i) != below[i]) break;
+    shared << below[i];
+  }
+  return shared;
+}
+
 class LayersStep final : public QUndoCommand {
 public:
   LayersStep(QString const& name, QVector<LayerList> before, QVector<LayerList> after)
@@ -117,7 +131,8 @@ void MapSteps::changeLayers(QString const& name, QVector<LayerList> const& wante
   for (LayerList& list : after) {
     before << layersOf(*list.map);
     if (list.groups.isEmpty())
-      for (auto const& layer : qAsConst(list.layers)) list.groups << LayerHost::groups(*layer);
+      for (int i = 0; i < list.layers.size(); ++i)
+        list.groups << groupsBetween(list.groups.value(i - 1), list.layers, i);
     isChange = isChange || list.layers != before.last().layers || list.groups != before.last().groups;
   }
   if (isChange) takeStep(std::make_unique<LayersStep>(name, before, after));

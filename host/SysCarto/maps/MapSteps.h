@@ -12,7 +12,8 @@ namespace SysCarto {
 struct LayerList {
   SysUtility::_ptr_t<Map> map;
   QList<SysUtility::_ptr_t<Layer>> layers;
-  QVector<LayerGroups> groups = {};  ///< of each layer; none of any where they stay in those that they are in
+  /// Of each layer; none where they stay in those that they are in, and one between two of a group joins that.
+  QVector<LayerGroups> groups = {};
 };
 
 /// What a gesture of the host changes of a map where it lies, as a named step of the history that the editor records

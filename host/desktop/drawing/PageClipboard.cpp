@@ -4,6 +4,7 @@
 #include "PastedContent.h"
 #include "SelectionHandles.h"
 
+#include "host/SysCarto/document/LayerClip.h"
 #include "host/SysCarto/elements/Placement.h"
 
 #include <SysFramework/HostAccess.h>
@@ -114,6 +115,10 @@ PageClipboard::Content PageClipboard::contentOf(QMimeData const& clipboard, Page
   QByteArray own = clipboard.data(mimeType);
   if (own.isEmpty() && ElementClip::isOne(plain.toUtf8())) own = plain.toUtf8();
   if (!own.isEmpty()) return ownContent(own, layout, problem);
+  if (SysCarto::LayerClip::isOne(plain.toUtf8())) {
+    problem = tr("The clipboard holds layers; paste them in the contents.");
+    return {};
+  }
   Content content{plain.toUtf8(), {}, false};
   auto const take = [&](_ptr_t<Element> const& element) {
     if (element) content.elements << element;

@@ -8,12 +8,10 @@
 
 #include <memory>
 
-class QTreeWidgetItem;
-
 namespace SysAdapterUI {
 
-/// The table of contents: the maps of the contents that it is bound to, with their layers. The name of the focus map is
-/// bold.
+/// The table of contents: the maps of the contents that it is bound to, with their layers and groups of these. The name
+/// of the focus map is bold.
 class SYSADAPTERUI_EXPORT TOCControl : public QWidget {
   Q_OBJECT
 
@@ -24,7 +22,8 @@ public:
   /// Shows the maps of these contents, borrowed; null shows none.
   void SetBuddy(SysCarto::IKdxContents* contents);
 
-  /// Shows anew the names, symbols and visibility of maps and layers, which a step of the history may have changed.
+  /// Shows anew which layers the maps have, and their names, symbols and visibility, which a step of the history may
+  /// have changed.
   void Refresh();
 
   /// Shows which map has the focus now.
@@ -38,8 +37,6 @@ signals:
   void RowChosen(SysUtility::_ptr_t<SysCarto::Map> const& map, SysUtility::_ptr_t<SysCarto::Layer> const& layer);
 
 private:
-  void tellRow(QTreeWidgetItem* item);
-
   struct Private;
   std::unique_ptr<Private> d;
 };
