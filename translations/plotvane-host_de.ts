@@ -1175,6 +1175,7 @@
         <translation>eine gewählte Ebene mit Objekten</translation>
     </message>
     <message>
+<<<<<<< HEAD
         <source>Opacity</source>
         <translation>Deckkraft</translation>
     </message>
@@ -1187,6 +1188,8 @@
         <translation>eine im Inhalt gewählte Ebene oder Gruppe</translation>
     </message>
     <message>
+=======
+>>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
         <source>Add Layers…</source>
         <translation>Ebenen hinzufügen …</translation>
     </message>
@@ -1194,6 +1197,7 @@
         <source>Add the data of files to the map</source>
         <translation>Der Karte die Daten von Dateien hinzufügen</translation>
     </message>
+<<<<<<< HEAD
     <message>
         <source>Show</source>
         <translation>Zeigen</translation>
@@ -1362,6 +1366,8 @@
         <source>a layer of a group chosen in the contents</source>
         <translation>eine im Inhalt gewählte Ebene einer Gruppe</translation>
     </message>
+=======
+>>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -4942,6 +4948,7 @@
     </message>
 </context>
 <context>
+<<<<<<< HEAD
     <name>LayerActions</name>
     <message>
         <source>Groups lie at most %1 deep in each other; ungroup some of them first.</source>
@@ -5053,6 +5060,8 @@
     </message>
 </context>
 <context>
+=======
+>>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
     <name>LayerAdding</name>
     <message>
         <source>All data (%1)</source>

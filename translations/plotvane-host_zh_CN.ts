@@ -1175,6 +1175,7 @@
         <translation>一个选中的要素图层</translation>
     </message>
     <message>
+<<<<<<< HEAD
         <source>Opacity</source>
         <translation>不透明度</translation>
     </message>
@@ -1187,6 +1188,8 @@
         <translation>内容列表中选定的图层或组</translation>
     </message>
     <message>
+=======
+>>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
         <source>Add Layers…</source>
         <translation>添加图层…</translation>
     </message>
@@ -1194,6 +1197,7 @@
         <source>Add the data of files to the map</source>
         <translation>将文件中的数据添加到地图</translation>
     </message>
+<<<<<<< HEAD
     <message>
         <source>Show</source>
         <translation>显示</translation>
@@ -1362,6 +1366,8 @@
         <source>a layer of a group chosen in the contents</source>
         <translation>内容列表中选定的组内图层</translation>
     </message>
+=======
+>>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -4942,6 +4948,7 @@
     </message>
 </context>
 <context>
+<<<<<<< HEAD
     <name>LayerActions</name>
     <message>
         <source>Groups lie at most %1 deep in each other; ungroup some of them first.</source>
@@ -5053,6 +5060,8 @@
     </message>
 </context>
 <context>
+=======
+>>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
     <name>LayerAdding</name>
     <message>
         <source>All data (%1)</source>
