@@ -1,6 +1,7 @@
 #include "DataCatalogue.h"
 
 #include "DataSource.h"
+#include "DerivedLayer.h"
 #include "LocalDataset.h"
 #include "TableLayer.h"
 
@@ -155,13 +156,14 @@ LayerDescription describe(OGRLayer& from) {
     OGRFieldDefn* const field = definition.GetFieldDefn(i);
     layer.fields.push_back({QString::fromUtf8(field->GetNameRef()), kindOf(field->GetType())});
   }
-  layer.count = from.GetFeatureCount(FALSE);
+  layer.count = knownCount(from);
   auto const kind = kindOf(from.GetGeomType());
   layer.kind = kind.value_or(GeometryKind::Mixed);
   OGREnvelope extent;
   if (layer.kind != GeometryKind::None) describeSystem(from.GetSpatialRef(), layer);
   bool const hasExtent = layer.kind != GeometryKind::None && layer.count != 0 &&
-                         from.GetExtent(&extent, FALSE) == OGRERR_NONE && extent.IsInit();
+                         from.TestCapability(OLCFastGetExtent) && from.GetExtent(&extent, FALSE) == OGRERR_NONE &&
+                         extent.IsInit();
   if (hasExtent) layer.extent = {extent.MinX, extent.MinY, extent.MaxX, extent.MaxY};
   bool const isKnown = layer.count >= 0 && (hasExtent || layer.kind == GeometryKind::None);
   if (kind && isKnown) return layer;

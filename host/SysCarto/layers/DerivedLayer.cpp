@@ -43,6 +43,10 @@ int DerivedLayer::TestCapability(char const* capability) {
   return isKept ? base_.TestCapability(capability) : FALSE;
 }
 
+qint64 knownCount(OGRLayer& layer) {
+  return layer.TestCapability(OLCFastFeatureCount) ? layer.GetFeatureCount(FALSE) : -1;
+}
+
 int fieldIndex(OGRLayer& layer, QString const& name) {
   return layer.GetLayerDefn()->GetFieldIndex(name.toUtf8().constData());
 }

@@ -40,6 +40,10 @@ private:
   OGRFeatureDefn* const definition_;  // counted
 };
 
+/// How many features a layer has, where that is known without reading them; −1 where it is not. GDAL's own function
+/// reads some formats to their end all the same.
+qint64 knownCount(OGRLayer& layer);
+
 /// The place of a field, by its name in any case; −1 where there is none.
 int fieldIndex(OGRLayer& layer, QString const& name);
 

@@ -98,7 +98,7 @@ std::unique_ptr<OGRGeometry> markedPlace(OGRGeometry const& geometry) {
 class Watch {
 public:
   Watch(OGRLayer& layer, ReadProgress const& progress)
-      : progress_(progress), count_(progress ? layer.GetFeatureCount(FALSE) : -1) {
+      : progress_(progress), count_(progress ? knownCount(layer) : -1) {
     clock_.start();
   }
 
