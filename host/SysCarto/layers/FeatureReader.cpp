@@ -11,13 +11,16 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QThreadPool>
 
 #include <ogr_api.h>
 #include <ogr_feature.h>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
 
+#include <chrono>
 #include <cmath>
+#include <future>
 #include <limits>
 
 namespace SysCarto {
@@ -27,6 +30,8 @@ namespace {
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(FeatureReader)
 };
+
+constexpr std::chrono::milliseconds betweenQuestions(50);  // whether the reading goes on
 
 QString describeSource(SourceSettings const& source) {
   return source.layer.isEmpty() ? Texts::tr("the file “%1”").arg(source.file)
@@ -103,8 +108,8 @@ public:
   }
 
   bool goesOn() {
-    constexpr int betweenLooks = 256, betweenQuestionsMs = 60;
-    if (!progress_ || ++read_ % betweenLooks != 0 || clock_.elapsed() < betweenQuestionsMs) return true;
+    constexpr int betweenLooks = 256;
+    if (!progress_ || ++read_ % betweenLooks != 0 || clock_.elapsed() < betweenQuestions.count()) return true;
     bool const isWanted = progress_(read_, count_);
     clock_.restart();
     return isWanted;
@@ -161,11 +166,42 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
 
 }  // namespace
 
+namespace {
+
+// To open a file can mean to read all of it, so it is done on another thread where somebody waits who may have enough
+// of it. What is given up is finished there for nobody.
+std::unique_ptr<DataSource> openWatched(SourceSettings const& source, ReadProgress const& progress,
+                                        ReadFeatures& result) {
+  if (!progress) return DataSource::open(source, result.error);
+  struct Opened {
+    std::unique_ptr<DataSource> data;
+    QString error;
+  };
+  auto const promise = std::make_shared<std::promise<Opened>>();
+  auto opened = promise->get_future();
+  QThreadPool::globalInstance()->start([promise, source] {
+    Opened own;
+    own.data = DataSource::open(source, own.error);
+    promise->set_value(std::move(own));
+  });
+  while (opened.wait_for(betweenQuestions) != std::future_status::ready) {
+    result.wasStopped = !progress(0, -1);
+    if (!result.wasStopped) continue;
+    result.error = Texts::tr("The reading of %1 was stopped.").arg(describeSource(source));
+    return nullptr;
+  }
+  Opened own = opened.get();
+  result.error = own.error;
+  return std::move(own.data);
+}
+
+}  // namespace
+
 ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem, Renderer const& renderer,
                           LabelFields const& labels, ReadProgress const& progress) {
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
-  auto const data = DataSource::open(source, result.error);
+  auto const data = openWatched(source, progress, result);
   if (!data) return result;
   if (data->layer().GetGeomType() == wkbNone) {
     result.error = placeless(data->layer(), source);

@@ -52,7 +52,7 @@ public:
 
   bool goesOn(qint64 read, qint64 count) {
     dialog_.setMaximum(count > 0 ? thousandths : 0);
-    dialog_.setLabelText(LayerAdding::tr("%1 features read").arg(QLocale().toString(read)));
+    if (read > 0) dialog_.setLabelText(LayerAdding::tr("%1 features read").arg(QLocale().toString(read)));
     dialog_.setValue(count > 0 ? static_cast<int>(std::min<qint64>(thousandths - 1, thousandths * read / count)) : 0);
     QApplication::processEvents();
     return !dialog_.wasCanceled();
