@@ -1,5 +1,6 @@
 #include "FileDescriptions.h"
 
+#include <QElapsedTimer>
 #include <QThreadPool>
 
 #include <deque>
@@ -15,7 +16,7 @@ using SysCarto::SourceSettings;
 namespace {
 
 constexpr int betweenLooksMs = 40;
-constexpr std::chrono::seconds patience(3);  // for a layer
+constexpr std::chrono::milliseconds patience(3000);  // for a layer, or to open a file again
 
 bool isKnown(LayerDescription const& layer) {
   return layer.count == 0 || (layer.count > 0 && (layer.kind == GeometryKind::None || !layer.extent.isEmpty()));
@@ -46,8 +47,11 @@ struct FileDescriptions::Mailbox {
     put([=](FileDescriptions& to) { emit to.measured(source, layer, error); });
   }
   void describe(QString const& path) {
+    QElapsedTimer clock;
+    clock.start();
     DataFile const file = SysCarto::describeFile(path);
     put([=](FileDescriptions& to) { emit to.described(file); });
+    if (clock.elapsed() > patience.count()) return;  // it would have to be opened once more
     for (LayerDescription const& layer : file.layers)
       if (!isKnown(layer)) measure({path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField});
   }
