@@ -6,9 +6,8 @@
 #include "NoticeBar.h"
 #include "PropertyPanel.h"
 #include "drawing/Ruler.h"
-#include "layers/AttributePanel.h"
-#include "layers/IdentifyPanel.h"
 #include "layers/LayerClasses.h"
+#include "layers/LayerPanels.h"
 
 #include "host/SysAdapterUI/ContentsTree.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
@@ -97,7 +96,6 @@ MainWindow::MainWindow()
   buildContents();
   buildProperties();
   buildHistory();
-  buildLayerPanels();
   buildStatusBar();
   actions_ = std::make_unique<ActionTable>(bench_.commands(), *this);
   auto* const recent = new QMenu(tr("Open Recent"), this);
@@ -178,10 +176,8 @@ void MainWindow::addWindowCommands(HostCommands& host) {
                                              [this] { return properties_->layer() != nullptr; }, always});
   host.add(QStringLiteral("Host_History"), {[this] { historyDock_->setVisible(!historyDock_->isVisible()); }, always,
                                             [this] { return historyDock_->isVisible(); }});
-  auto const chosenLayer = [this] { return SysUtility::ptr_cast<SysCarto::VectorLayer>(chosenLayer_); };
   host.add(QStringLiteral("Host_AttributeTable"),
-           {[this, chosenLayer] { attributes_->showLayer(chosenMap_, chosenLayer()); },
-            [chosenLayer] { return static_cast<bool>(chosenLayer()); }, never});
+           {[this] { panels_->showTable(); }, [this] { return panels_->hasTable(); }, never});
   host.add(QStringLiteral("Host_Rulers"), {[this] {
                                              hasRulers_ = !hasRulers_;
                                              showRulers();
@@ -287,12 +283,16 @@ void MainWindow::buildProperties() {
   });
   connect(&SysAdapterUI::ContentsTree::of(*contents_), &SysAdapterUI::ContentsTree::rowsChosen, properties_,
           &PropertyPanel::showRows);
+  panels_ = new LayerPanels(bench_, *this);
+  panels_->setParent(this);
+  connect(contents_, &SysAdapterUI::TOCControl::RowChosen, panels_, &LayerPanels::choose);
   connect(elements_, &ElementList::chosen, properties_, &PropertyPanel::showSelection);
   auto const tell = [this](QString const& sentence) { notice_->tell(sentence, false); };
   connect(properties_, &PropertyPanel::told, notice_, tell);
   connect(&adding_, &LayerAdding::told, notice_, tell);
   connect(contents_, &SysAdapterUI::TOCControl::RowChosen, &adding_,
           [this](auto const&, auto const& layer) { adding_.setChosen(layer); });
+  connect(panels_, &LayerPanels::told, notice_, tell);
   connect(elements_, &ElementList::told, notice_, tell);
   connect(&layers_, &LayerCommands::told, notice_, tell);
 }
@@ -306,29 +306,6 @@ void MainWindow::buildHistory() {
   historyDock_->setWidget(steps);
   addDockWidget(Qt::RightDockWidgetArea, historyDock_);
   historyDock_->hide();
-}
-
-void MainWindow::buildLayerPanels() {
-  attributes_ = new AttributePanel(bench_.session(), bench_.views(), this);
-  addDockWidget(Qt::BottomDockWidgetArea, attributes_);
-  features_ = new IdentifyPanel(bench_.views(), this);
-  addDockWidget(Qt::RightDockWidgetArea, features_);
-  attributes_->hide();
-  features_->hide();
-  auto const choose = [this](_ptr_t<SysCarto::Map> const& map, _ptr_t<SysCarto::Layer> const& layer) {
-    chosenMap_ = map;
-    chosenLayer_ = layer;
-    actions_->refreshSoon();
-  };
-  connect(contents_, &SysAdapterUI::TOCControl::RowChosen, this, choose);
-  connect(&bench_.session(), &DocumentSession::replaced, this, [this, choose] {
-    choose(nullptr, nullptr);
-    if (features_->isVisible()) features_->clear();
-  });
-  connect(&bench_.session(), &DocumentSession::historyChanged, attributes_, &AttributePanel::follow);
-  connect(&bench_.session(), &DocumentSession::replaced, attributes_, &AttributePanel::follow);
-  connect(&bench_.views(), &DocumentViews::identified, features_, &IdentifyPanel::show);
-  connect(attributes_, &AttributePanel::told, notice_, [this](QString const& text) { notice_->tell(text, false); });
 }
 
 void MainWindow::buildStatusBar() {

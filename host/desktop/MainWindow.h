@@ -16,9 +16,8 @@
 
 class QLabel;
 class QLineEdit;
-class AttributePanel;
 class ElementList;
-class IdentifyPanel;
+class LayerPanels;
 class NoticeBar;
 class PropertyPanel;
 class QTabBar;
@@ -53,7 +52,6 @@ private:
   void buildContents();
   void buildProperties();
   void buildHistory();
-  void buildLayerPanels();
   void buildViews();
   void finishTyping();
   void showRulers();
@@ -78,10 +76,7 @@ private:
   SysAdapterUI::TOCControl* contents_ = nullptr;
   ElementList* elements_ = nullptr;
   PropertyPanel* properties_ = nullptr;
-  AttributePanel* attributes_ = nullptr;
-  IdentifyPanel* features_ = nullptr;
-  SysUtility::_ptr_t<SysCarto::Map> chosenMap_;      // of the current row of the contents
-  SysUtility::_ptr_t<SysCarto::Layer> chosenLayer_;  // likewise; empty for a map
+  LayerPanels* panels_ = nullptr;
   QDockWidget* contentsDock_ = nullptr;
   QDockWidget* historyDock_ = nullptr;
   NoticeBar* notice_ = nullptr;

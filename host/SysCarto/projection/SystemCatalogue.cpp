@@ -2,6 +2,8 @@
 
 #include "host/SysCarto/projection/Offline.h"
 
+#include <QStringList>
+
 #include <proj.h>
 
 #include <algorithm>

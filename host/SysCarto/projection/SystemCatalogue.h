@@ -3,9 +3,7 @@
 #include "host/SysCarto/projection/GlobeBox.h"
 
 #include <QString>
-#include <QStringList>
 
-#include <memory>
 #include <vector>
 
 namespace SysCarto {

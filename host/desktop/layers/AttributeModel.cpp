@@ -74,7 +74,7 @@ QString AttributeModel::startListing(QString const& condition) {
   QString problem;
   FeatureScan::Wanted wanted;
   wanted.condition = condition;
-  wanted.hasRows = allRows_ && allRows_->isEmpty();
+  wanted.hasRows = static_cast<bool>(allRows_);
   auto scan = FeatureScan::open(source_, wanted, problem);
   if (!scan) return problem;
   cancel();
@@ -124,10 +124,9 @@ void AttributeModel::goOn() {
 }
 
 void AttributeModel::list() {
-  bool const keepsRows = allRows_ && condition_.isEmpty();
   bool const isMore = scan_->advance(sliceMs, [&](qint64 id, TableRow const& values) {
     (isFirstList_ ? ids_ : listed_).push_back(id);
-    if (keepsRows && !values.isEmpty()) allRows_->insert(id, values);
+    if (allRows_) allRows_->insert(id, values);
   });
   if (isFirstList_) showListed(!isMore);
   emit progressed(tr("Reading…"), scan_->progress());

@@ -3,12 +3,11 @@
 #include "host/SysCarto/layers/FeatureSearch.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
-#include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
-#include <algorithm>
+#include <utility>
 
 using SysCarto::Box;
 using SysCarto::PartKind;
@@ -97,6 +96,7 @@ std::vector<int> const& FeatureHighlight::numbers() const {
 
 void FeatureHighlight::paint(QPainter& painter, SysCarto::Map const& map, QRectF const& placePx) const {
   if (!marked_.layer || marked_.map.get() != &map || flashes_ % 2 == 1 || placePx.isEmpty()) return;
+  if (!map.GetLayers().contains(marked_.layer)) return;  // it has gone meanwhile
   QTransform const toPx = mapToView(map, placePx);
   QRectF const shownPx = placePx & QRectF(painter.viewport());
   QRectF const world = toPx.inverted().mapRect(shownPx);

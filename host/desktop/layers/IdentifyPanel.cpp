@@ -70,7 +70,9 @@ void IdentifyPanel::show(Identified const& found) {
   if (!found_.isAll) new QTreeWidgetItem(tree_, {tr("There are more features here.")});
   QDockWidget::show();
   raise();
-  tree_->setCurrentItem(tree_->topLevelItem(found_.features.isEmpty() ? 0 : 1));
+  auto* const first = tree_->topLevelItem(found_.features.isEmpty() ? 0 : 1);
+  tree_->setCurrentItem(first);
+  tree_->scrollToItem(first, QAbstractItemView::PositionAtTop);
   mark(true);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
+#include <utility>
 #include <vector>
 
 /// Sorts the numbers from 0 on in slices, so that a window stays alive meanwhile: short runs first, which are then
