@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
 
 namespace SysCarto {
 
@@ -18,6 +19,7 @@ constexpr double widest = 180 - 1.3e-8, northmost = 90 - 1.7e-7;
 constexpr double unevenness = 0.05;  // of an edge against its neighbours, from which on it may hold a break
 constexpr double remains = 1e-3;     // of its length on the map, when a break was followed to the end
 constexpr double nearlyAll = 0.9;    // of the globe
+constexpr double largePart = 0.25;   // of the largest
 constexpr int halvings = 24, halvingsBeside = 18;
 constexpr int refinements = 8;
 constexpr double wideBreak = 2;     // edges of the lattice
@@ -263,40 +265,48 @@ double GlobeSurvey::size() const {
   return box.isEmpty() ? 0 : std::max(box.xmax - box.xmin, box.ymax - box.ymin);
 }
 
-// The nodes that hang together with the middle, or else the most that hang together.
-void GlobeSurvey::keepPartAbout(Vertex const& middle) {
-  double shown = 0, all = 0;
-  for (Place const& node : nodes_) {
-    double const area = std::cos(node.at.y * degree);
-    all += area;
-    if (node.isShown()) shown += area;
+// Numbers what hangs together, and answers for each number how many square degrees of the equator it is as large as.
+std::vector<double> GlobeSurvey::findParts(std::vector<int>& part) const {
+  std::vector<double> sizes;
+  part.assign(nodes_.size(), -1);
+  std::vector<int> reached;
+  auto const reach = [&](int at) {
+    if (part[at] >= 0 || !nodes_[at].isShown()) return;
+    part[at] = static_cast<int>(sizes.size()) - 1;
+    sizes.back() += std::cos(nodes_[at].at.y * degree);
+    reached.push_back(at);
+  };
+  auto const cross = [&](int edge, int to) {
+    if (edges_[edge].last < 0 && edges_[edge].first < 0) reach(to);
+  };
+  for (int start = 0; start < static_cast<int>(nodes_.size()); ++start) {
+    if (part[start] >= 0 || !nodes_[start].isShown()) continue;
+    sizes.push_back(0);
+    for (reach(start); !reached.empty();) {
+      int const at = reached.back(), column = at % (columns_ + 1), row = at / (columns_ + 1), above = columns_ + 1;
+      reached.pop_back();
+      if (column < columns_) cross(edge(at, false), at + 1);
+      if (column > 0) cross(edge(at - 1, false), at - 1);
+      if (row < rows_) cross(edge(at, true), at + above);
+      if (row > 0) cross(edge(at - above, true), at - above);
+    }
   }
-  if (shown > nearlyAll * all) return;
+  return sizes;
+}
+
+void GlobeSurvey::keepPartsAbout(Vertex const& middle) {
+  isKept_.assign(nodes_.size(), 1);
+  double all = 0;
+  for (Place const& node : nodes_) all += std::cos(node.at.y * degree);
+  std::vector<int> part;
+  std::vector<double> const sizes = findParts(part);
+  if (sizes.empty() || std::accumulate(sizes.begin(), sizes.end(), 0.0) > nearlyAll * all) return;
   int const column = static_cast<int>(std::lround((middle.x / widest + 1) / 2 * columns_));
   int const row = static_cast<int>(std::lround((middle.y / northmost + 1) / 2 * rows_));
-  int const centre = node(std::clamp(column, 0, columns_), std::clamp(row, 0, rows_));
-  std::vector<int> part(nodes_.size(), -1), largest;
-  for (size_t start = 0; start < nodes_.size(); ++start) {
-    if (part[start] >= 0 || !nodes_[start].isShown()) continue;
-    std::vector<int> reached{static_cast<int>(start)};
-    auto const reach = [&](int from, int to, int edge) {
-      if (part[to] >= 0 || !nodes_[to].isShown() || edges_[edge].last >= 0 || edges_[edge].first >= 0) return;
-      part[to] = part[from];
-      reached.push_back(to);
-    };
-    part[start] = static_cast<int>(start);
-    for (size_t i = 0; i < reached.size(); ++i) {
-      int const at = reached[i], atColumn = at % (columns_ + 1), atRow = at / (columns_ + 1);
-      if (atColumn < columns_) reach(at, at + 1, edge(at, false));
-      if (atColumn > 0) reach(at, at - 1, edge(at - 1, false));
-      if (atRow < rows_) reach(at, at + columns_ + 1, edge(at, true));
-      if (atRow > 0) reach(at, at - columns_ - 1, edge(at - columns_ - 1, true));
-    }
-    if (reached.size() > largest.size()) largest = std::move(reached);
-  }
-  if (largest.empty()) return;
-  int const kept = part[centre] >= 0 ? part[centre] : part[largest.front()];
-  for (size_t i = 0; i < nodes_.size(); ++i) isKept_[i] = part[i] == kept;
+  int const inMiddle = part[node(std::clamp(column, 0, columns_), std::clamp(row, 0, rows_))];
+  double const large = *std::max_element(sizes.begin(), sizes.end()) * largePart;
+  for (size_t i = 0; i < nodes_.size(); ++i)
+    isKept_[i] = part[i] >= 0 && (part[i] == inMiddle || sizes[part[i]] >= large);
 }
 
 int GlobeSurvey::addPoint(Place const& place, int node, Place const& towards) {
@@ -353,7 +363,7 @@ void GlobeSurvey::addRim() {
 }
 
 // Looks for the border beside the middle of each chord, and answers the chords that were divided there.
-std::vector<int> GlobeSurvey::refined(std::vector<int> const& chords) {
+std::vector<int> GlobeSurvey::refined(std::vector<int> const& chords, bool isFirst) {
   std::vector<Trace> traces;
   std::vector<Place*> places;
   for (int chord : chords) {
@@ -384,8 +394,9 @@ std::vector<int> GlobeSurvey::refined(std::vector<int> const& chords) {
     if (!trace.isBreak() || !isBeside) continue;
     Vertex const middle = between(a.at, b.at, 0.5);
     double const bend = distance(middle.x, middle.y, trace.from.at.x, trace.from.at.y);
+    bool const settles = isFirst || bend < 2 * points_[chord].bend;  // a frayed border has no curve to follow
     points_[chord].bend = bend;
-    if (bend < straight) continue;
+    if (bend < straight || !settles) continue;
     int const added = addPoint(trace.from, points_[chord].node, whole[i].from);
     points_[added].next = next;
     points_[added].bend = points_[chord].bend = bend / 4;
@@ -396,8 +407,7 @@ std::vector<int> GlobeSurvey::refined(std::vector<int> const& chords) {
 }
 
 std::vector<Run> GlobeSurvey::border(Vertex const& middle) {
-  isKept_.assign(nodes_.size(), 1);
-  keepPartAbout(middle);
+  keepPartsAbout(middle);
   for (int row = 0; row < rows_; ++row)
     for (int column = 0; column < columns_; ++column) addCell(column, row);
   addRim();
@@ -407,7 +417,7 @@ std::vector<Run> GlobeSurvey::border(Vertex const& middle) {
     Vertex const &a = points_[i].place.at, &b = points_[points_[i].next].place.at;
     if (distance(a.x, a.y, b.x, b.y) > shortestChord) chords.push_back(i);
   }
-  for (int i = 0; i < refinements; ++i) chords = refined(chords);
+  for (int i = 0; i < refinements; ++i) chords = refined(chords, i == 0);
 
   // Between its vertices the border may bend inwards, so that each is moved that far.
   std::vector<double> margins(points_.size(), 0);

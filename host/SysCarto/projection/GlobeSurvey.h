@@ -26,8 +26,8 @@ public:
   double size() const;
 
   /// The border of what is shown, in degrees from the central longitude, with what is shown on the left. A projection
-  /// of less than the globe is of use about its middle only, which is given as a place of the globe: what else comes
-  /// out somewhere, and even back, is left out.
+  /// of less than the globe is of use in its large parts and about its middle, which is given as a place like those of
+  /// the border: what else comes out somewhere, and even back, is left out.
   std::vector<Run> border(Vertex const& middle);
 
 private:
@@ -76,11 +76,12 @@ private:
   void follow(std::vector<Trace>& traces, int halvings) const;
   void followAgain(std::vector<Trace>& traces) const;
   int addPoint(Place const& place, int node, Place const& towards);
-  void keepPartAbout(Vertex const& middle);
+  std::vector<double> findParts(std::vector<int>& part) const;
+  void keepPartsAbout(Vertex const& middle);
   void visitEdge(int edge, bool isForward, Ends& ends) const;
   void addCell(int column, int row);
   void addRim();
-  std::vector<int> refined(std::vector<int> const& chords);
+  std::vector<int> refined(std::vector<int> const& chords, bool isFirst);
 
   ProjectionProbe const& probe_;
   double centralLongitude_;

@@ -28,7 +28,7 @@ struct CentredProjection {
 // clang-format off
 constexpr CentredProjection centredProjections[] = {
   {"ortho",    91}, {"nsper",    90}, {"tpers", 90}, {"geos",   90}, {"gnom", 70},
-  {"stere",   140}, {"sterea",  140}, {"ups",   90}, {"laea", 179.5}, {"aeqd", 179.5}, {"airy", 90},
+  {"stere",   140}, {"sterea",  140}, {"ups",   90}, {"laea", 179.5}, {"aeqd", 179.3}, {"airy", 90},
 };
 // clang-format on
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <tuple>
 
 namespace SysCarto {
@@ -230,6 +231,7 @@ bool RegionDomain::clipTurn(std::vector<Run> const& rings, std::vector<Run>& pol
     if (!isBorderCrossed[i] && contains(i)) polygon.push_back(border_[i]);
   std::vector<char> isDone(crossings.size());
   for (size_t start = 0; start < crossings.size(); ++start) {
+    if (!crossings[start].startsData) continue;  // all run the way that the data do
     Run ring;
     for (size_t i = start; !isDone[i];) {
       Crossing const& entry = crossings[i];
@@ -272,17 +274,26 @@ void visitTurns(Run const* runs, size_t count, Visit const& visit) {
   for (int i = turn(box.xmin + aside); i <= turn(box.xmax - aside); ++i) visit(-360.0 * i);
 }
 
+// What is left in several turns may meet again on the map, where the meridian between them is none of its borders: as
+// one polygon it is filled without a hairline there.
 void RegionDomain::clipPolygon(std::vector<Run> const& rings, std::vector<std::vector<Run>>& polygons) const {
   constexpr int attempts = 4;
+  SysGeometry::Box const box = boxOf(rings.data(), rings.size());
+  bool const isOnce = box.xmax - box.xmin <= 360 + aside;
+  std::vector<Run> whole;
   visitTurns(rings.data(), rings.size(), [&](double turn) {
     for (int i = 0; i < attempts; ++i) {
       std::vector<Run> moved, polygon;
       for (Run const& ring : rings) moved.push_back(shifted(ring, turn + i * aside, i * aside / 2));
       if (!clipTurn(moved, polygon)) continue;
-      if (!polygon.empty()) polygons.push_back(std::move(polygon));
-      return;
+      std::move(polygon.begin(), polygon.end(), std::back_inserter(whole));
+      break;
     }
+    if (isOnce || whole.empty()) return;
+    polygons.push_back(std::move(whole));
+    whole.clear();
   });
+  if (!whole.empty()) polygons.push_back(std::move(whole));
 }
 
 void RegionDomain::clipLine(Run const& line, std::vector<Run>& lines) const {

@@ -70,6 +70,12 @@ private slots:
     row("half the globe seen from above is a disk", globe, M_PI * 6371000.0 * 6371000.0);
     row("a square in web Mercator", "EPSG:3857", std::pow(2 * M_PI * 6378137.0, 2));
     row("degrees", "EPSG:4326", 360.0 * 180.0);
+    row("lobes", "+proj=igh +datum=WGS84 +R_A", earthArea);
+    row("a turned globe", "+proj=ob_tran +o_proj=eqearth +o_lat_p=30 +o_lon_p=-60 +lon_0=10 +R=6371000",
+        4 * M_PI * 6371000.0 * 6371000.0);
+    row("an oblique cylinder", "+proj=ocea +lat_1=30 +lon_1=-20 +lat_2=40 +lon_2=60 +R=6371000",
+        4 * M_PI * 6371000.0 * 6371000.0);
+    row("a belt with eight points", "+proj=healpix +R=6371000", 1.5 * M_PI * M_PI * 6371000.0 * 6371000.0);
   }
   void theWholeGlobeFillsItsOutline() {
     auto const [system, area] = fetched<QString, double>();
