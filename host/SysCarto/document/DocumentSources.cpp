@@ -52,6 +52,7 @@ QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
   visitSources(
       layout,
       [&](Map const&, VectorLayer const& layer) {
+        if (layer.source().data != SourceSettings::Data::File) return;
         QString const& problem = layer.problem();
         sources.append({layer.source().file,
                         problem.isEmpty() ? problem : Texts::tr("Layer “%1”: %2").arg(layer.GetName(), problem)});

@@ -24,6 +24,10 @@ constexpr Choice blends[] = {
     {LayerBlend::Multiply, "multiply", QT_TRANSLATE_NOOP("Fields", "Darken")},
     {LayerBlend::Screen, "screen", QT_TRANSLATE_NOOP("Fields", "Lighten")},
 };
+constexpr Choice dataKinds[] = {
+    {SourceSettings::Data::File, "file", QT_TRANSLATE_NOOP("Fields", "A file")},
+    {SourceSettings::Data::Globe, "globe", QT_TRANSLATE_NOOP("Fields", "The whole globe")},
+};
 constexpr Choice kinds[] = {{FeatureKind, "feature", QT_TRANSLATE_NOOP("Fields", "Features")},
                             {GroupKind, "group", QT_TRANSLATE_NOOP("Fields", "Group of layers")}};
 
@@ -33,7 +37,7 @@ struct Texts {
 
 // The path as the document has it, and the one to open. What may not be opened stays as it was written.
 QString storedPath(QString const& file, DocumentContext const& context) {
-  if (!context.relativePaths || context.folder.isEmpty() || !DataSource::refusal(file).isEmpty()) return file;
+  if (file.isEmpty() || !context.relativePaths || context.folder.isEmpty() || !DataSource::refusal(file).isEmpty()) return file;
   return QDir(context.folder).relativeFilePath(file);
 }
 
@@ -68,13 +72,21 @@ void listJoin(Fields& fields, TableJoin& join) {
 }
 
 void listSource(Fields& fields, SourceSettings& source) {
+  fields.choice<SourceSettings::Data>(
+      {"data", QT_TRANSLATE_NOOP("Fields", "Data"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "Whether the features come from a file, or the layer is one area that covers the whole globe, "
+                         "as the sea below countries; the other fields are those of a file.")},
+      source.data, dataKinds, SourceSettings::Data::File);
   fields.text(
       {"file", QT_TRANSLATE_NOOP("Fields", "File"),
        QT_TRANSLATE_NOOP(
            "Fields",
            "The local file of the data (GeoPackage, GeoJSON, Shapefile, FlatGeobuf, GPX, KML, MapInfo, DXF or CSV), "
            "relative to the document.")},
-      source.file, TextKind::File);
+      source.file, TextKind::File, QString());
+  if (fields.isReading() && source.data == SourceSettings::Data::File && source.file.isEmpty())
+    fields.fail("file", Texts::tr("is missing; name the file of the data"));
   fields.text({"layer", QT_TRANSLATE_NOOP("Fields", "Layer of the file"),
                QT_TRANSLATE_NOOP("Fields", "Its name in the file; the first one where it is empty.")},
               source.layer, TextKind::Line, QString());

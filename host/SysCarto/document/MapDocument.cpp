@@ -68,12 +68,8 @@ QString problemOfSides(Page const& page) {
   return QString();
 }
 
-QStringList unknownFieldSentences(QString const& path, QStringList const& fields) {
-  QStringList sentences;
-  for (QString const& field : fields)
-    sentences << aboutFile(path, field + Texts::tr(": this field is unknown; it has no effect and will be missing "
-                                                   "after the next save"));
-  return sentences;
+QString unknownField(QString const& field) {
+  return field + Texts::tr(": this field is unknown; it has no effect and will be missing after the next save");
 }
 
 // Of any document of the program; a command's own document is gone when the command is asked what it did.
@@ -109,6 +105,7 @@ struct MapDocument::Private {
   DocumentContext contextFor(QString const& file, bool relativePaths) const;
   std::optional<QByteArray> textFor(QString const& file, bool relativePaths, QString& problem) const;
   QString write(QString const& file, bool relativePaths, bool keepBackup) const;
+  bool read(QJsonObject const& json, QString const& newPath);
 };
 
 // The steps of another layout name elements that this one does not hold.
@@ -187,6 +184,26 @@ QString MapDocument::Private::write(QString const& file, bool relativePaths, boo
   return problem.isEmpty() ? SysUtility::FileSaver::save(file, *text) : problem;
 }
 
+// Warnings and problems begin with the path, where there is one.
+bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath) {
+  auto const about = [&newPath](QString const& sentence) {
+    return newPath.isEmpty() ? sentence : aboutFile(newPath, sentence);
+  };
+  DocumentContent read;
+  DocumentContext context;
+  if (!newPath.isEmpty()) context.folder = folderOf(newPath);
+  SysUtility::JsonReader reader(json);
+  read.list(reader, context);
+  if (!reader.ok()) return failed(about(reader.error() + Texts::tr("; correct the file or open another one")));
+
+  read.layout->ZoomToWholePage();
+  take(newPath, read);
+  for (QString const& field : reader.warnings()) warnings << about(unknownField(field));
+  for (QString const& warning : context.warnings) warnings << about(warning);
+  unreadableSources = context.unreadableSources;
+  return true;
+}
+
 MapDocument::MapDocument() : d(std::make_unique<Private>(this)) {}
 MapDocument::~MapDocument() = default;
 
@@ -202,22 +219,7 @@ bool MapDocument::New(QString const& path) {
 bool MapDocument::Open(QString const& path) {
   QString problem;
   auto const json = SysUtility::readJsonFile(path, documentKind(), problem);
-  if (!json) return d->failed(problem);
-
-  DocumentContent content;
-  DocumentContext context;
-  context.folder = folderOf(path);
-  SysUtility::JsonReader reader(*json);
-  content.list(reader, context);
-  if (!reader.ok())
-    return d->failed(aboutFile(path, reader.error() + Texts::tr("; correct the file or open another one")));
-
-  content.layout->ZoomToWholePage();
-  d->take(path, content);
-  d->warnings = unknownFieldSentences(path, reader.warnings());
-  for (QString const& warning : context.warnings) d->warnings << aboutFile(path, warning);
-  d->unreadableSources = context.unreadableSources;
-  return true;
+  return json ? d->read(*json, path) : d->failed(problem);
 }
 
 bool MapDocument::Save(bool relativePaths, bool keepBackup) { return SaveAs(d->path, relativePaths, keepBackup); }
@@ -303,6 +305,12 @@ void MapDocumentHost::setPageLayout(MapDocument& document, _ptr_t<PageLayout> co
   if (layout == former) return;
   if (layout && former) PageLayoutHost::succeed(*layout, *former);
   document.d->setLayout(layout);
+}
+
+bool MapDocumentHost::read(MapDocument& document, QJsonObject const& json) {
+  if (!document.d->read(json, QString())) return false;
+  document.d->change.raise();
+  return true;
 }
 
 QByteArray MapDocumentHost::text(MapDocument const& document) {

@@ -2,6 +2,7 @@
 
 #include <SysCarto/MapDocument.h>
 
+class QJsonObject;
 class QUndoStack;
 
 namespace SysCarto {
@@ -10,6 +11,10 @@ struct SYSCARTO_EXPORT MapDocumentHost {
   /// The document's own, borrowed; cleared whenever it gets another layout.
   static QUndoStack* history(MapDocument const& document);
   static void setPageLayout(MapDocument& document, SysUtility::_ptr_t<PageLayout> const& layout);
+
+  /// Makes it a new document without a file, of what a file would hold with absolute paths; it counts as modified.
+  /// Otherwise as `MapDocument::Open`; problems name no file.
+  static bool read(MapDocument& document, QJsonObject const& json);
 
   /// What a save to the document's file would write now; empty where there is nothing that can be saved.
   static QByteArray text(MapDocument const& document);

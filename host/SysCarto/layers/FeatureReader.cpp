@@ -164,6 +164,26 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     result.warnings << Texts::tr("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
 }
 
+// In the globe of the map's own system; plain coordinates have none, and the area is one of degrees.
+void addGlobe(QString const& mapSystem, Renderer const& renderer, ReadFeatures& result) {
+  auto const map = makeCoordinateSystem(mapSystem);
+  auto const globe = map ? globeOf(*map) : nullptr;
+  QString reason;
+  auto const projector = GeometryProjector::create(globe.get(), map.get(), reason);
+  if (!projector) {
+    result.error = Texts::tr("The globe can't be projected to the map's coordinate system: %1.").arg(reason);
+    return;
+  }
+  OGRLinearRing ring;
+  for (auto const& [x, y] : {std::pair(-180, -90), {180, -90}, {180, 90}, {-180, 90}, {-180, -90}}) ring.addPoint(x, y);
+  OGRPolygon area;
+  area.addRing(&ring);
+  result.store->beginFeature();
+  projector->add(area, *result.store);
+  result.store->endFeature(renderer.classOf(QString(), std::numeric_limits<double>::quiet_NaN()), QString(), 0);
+  result.store->finish();
+}
+
 }  // namespace
 
 namespace {
@@ -201,6 +221,10 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
                           LabelFields const& labels, ReadProgress const& progress) {
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
+  if (source.data == SourceSettings::Data::Globe) {
+    addGlobe(mapSystem, renderer, result);
+    return result;
+  }
   auto const data = openWatched(source, progress, result);
   if (!data) return result;
   if (data->layer().GetGeomType() == wkbNone) {
@@ -233,6 +257,7 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
 QStringList attributesOf(SourceSettings const& source) {
   QString error;
   QStringList names;
+  if (source.data == SourceSettings::Data::Globe) return names;
   auto const data = DataSource::open(source, error);
   OGRFeatureDefn* const definition = data ? data->layer().GetLayerDefn() : nullptr;
   for (int i = 0; definition && i < definition->GetFieldCount(); ++i)

@@ -23,6 +23,9 @@ struct TableJoin {
 
 /// Where the features of a layer come from.
 struct SourceSettings {
+  /// A file, or one area that covers the whole globe, in the map's own geographic system: the sea below countries.
+  enum class Data { File, Globe };
+
   QString file;              ///< absolute
   QString layer;             ///< empty for the first of the file
   QString filter;            ///< a condition on the fields, as in OGR SQL ("population > 1000000"); empty for all
@@ -36,10 +39,12 @@ struct SourceSettings {
 
   std::vector<TableJoin> joins = {};
 
+  Data data = Data::File;  ///< the other members are for a file
+
   bool operator==(SourceSettings const& other) const {
-    return std::tie(file, layer, filter, coordinateSystem, xField, yField, geometryField, joins) ==
+    return std::tie(file, layer, filter, coordinateSystem, xField, yField, geometryField, joins, data) ==
            std::tie(other.file, other.layer, other.filter, other.coordinateSystem, other.xField, other.yField,
-                    other.geometryField, other.joins);
+                    other.geometryField, other.joins, other.data);
   }
 };
 
