@@ -11,6 +11,7 @@ namespace {
 
 // clang-format off
 constexpr Subcommand subcommands[] = {
+    {"new",      "DOCUMENT [DATA]...", QT_TRANSLATE_NOOP("Subcommand", "Make a map of data, with a page around it"),     runNew},
     {"export",   "DOCUMENT IMAGE", QT_TRANSLATE_NOOP("Subcommand", "Draw the page of a document into an image file"),   runExport},
     {"info",     "DOCUMENT|DATA",  QT_TRANSLATE_NOOP("Subcommand", "Tell what is on the page of a document, or in a file of data"), runInfo},
     {"run",      "DOCUMENT STEP...", QT_TRANSLATE_NOOP("Subcommand", "Work on a document step by step, without a window"), runRun},

@@ -18,6 +18,7 @@ struct Subcommand {
 };
 
 // The rows' functions, each in a file of its own.
+ExitStatus runNew(Subcommand const& self, QStringList const& arguments);
 ExitStatus runExport(Subcommand const& self, QStringList const& arguments);
 ExitStatus runInfo(Subcommand const& self, QStringList const& arguments);
 ExitStatus runRun(Subcommand const& self, QStringList const& arguments);

@@ -1,0 +1,306 @@
+#include "LayerStyling.h"
+#include "FieldChoice.h"
+#include "MapColors.h"
+#include "Theme.h"
+
+#include "host/SysCarto/layers/Classify.h"
+#include "host/SysUtility/JsonFields.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonArray>
+
+#include <algorithm>
+#include <cmath>
+
+using SysCarto::GeometryKind;
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(LayerStyling)
+};
+
+constexpr int maxClasses = 8;
+constexpr int maxColoured = 600;  // areas that get a colour each, so that neighbours differ
+constexpr int maxLabelledBuildings = 300;
+constexpr int rampClasses = 5, sizeClasses = 4;
+
+struct KindRow {
+  GeometryKind kind;
+  char const* filter;  // of a layer that holds others, too
+  double room;         // what a feature takes of the page, against the others
+  int height;
+};
+constexpr KindRow kindRows[] = {
+    {GeometryKind::Areas, "OGR_GEOMETRY LIKE '%POLYGON%'", 1.2, 0},
+    {GeometryKind::Lines, "OGR_GEOMETRY LIKE '%LINESTRING%'", 1.6, 1},
+    {GeometryKind::Points, "OGR_GEOMETRY LIKE '%POINT%'", 0.7, 2},
+};
+
+KindRow const& rowOf(GeometryKind kind) {
+  for (KindRow const& row : kindRows)
+    if (row.kind == kind) return row;
+  return kindRows[0];
+}
+
+// world_cities as “World cities”.
+QString forPeople(QString text) {
+  text = text.replace(QLatin1Char('_'), QLatin1Char(' ')).simplified();
+  return text.isEmpty() ? text : text.left(1).toUpper() + text.mid(1);
+}
+
+// 1 for a few features that have room, less the more there are on a square centimetre.
+double finenessOf(int count, KindRow const& row, double pageCm2) {
+  constexpr double finest = 0.06;
+  return std::clamp(row.room / std::sqrt(std::max(count / pageCm2, 1e-6)), finest, 1.0);
+}
+
+QJsonObject simple(QJsonObject const& symbol, QString const& label = QString()) {
+  QJsonObject renderer{{"type", "simple"}, {"symbol", symbol}};
+  if (!label.isEmpty()) renderer.insert("label", label);
+  return renderer;
+}
+
+struct Symbolized {
+  QJsonObject renderer;
+  QString reason;
+  bool isLegendWorthy = true;
+};
+
+// Everything that a layer of one kind of geometry is made from.
+struct Material {
+  LayerSurvey const& survey;
+  GeometryKind kind;
+  Theme theme;
+  double fineness;
+  QString where;
+
+  QString file() const { return survey.file; }
+  SysCarto::SourceSettings source() const {
+    SysCarto::SourceSettings source{survey.file, survey.description.name, where, QString()};
+    return source;
+  }
+  QJsonObject plain(char const* color) const {
+    switch (kind) {
+      case GeometryKind::Points: return markerSymbol(color, 1.6 + 3.4 * fineness, "#ffffff", fineness > 0.3 ? 0.4 : 0);
+      case GeometryKind::Lines: return lineSymbol(color, 0.3 + 0.9 * fineness);
+      default: return fillSymbol(color, MapColors::border, fineness > 0.2 ? 0.35 * fineness : 0);
+    }
+  }
+};
+
+Symbolized roads(Material const& of, FieldSurvey const& field) {
+  char const* const names[] = {QT_TRANSLATE_NOOP("LayerStyling", "Paths"), QT_TRANSLATE_NOOP("LayerStyling", "Streets"),
+                               QT_TRANSLATE_NOOP("LayerStyling", "Secondary roads"),
+                               QT_TRANSLATE_NOOP("LayerStyling", "Main roads"),
+                               QT_TRANSLATE_NOOP("LayerStyling", "Motorways")};
+  QJsonArray values[std::size(names)], classes;
+  for (auto it = field.values.cbegin(); it != field.values.cend(); ++it)
+    if (int const weight = Theme::roadWeight(it.key())) values[weight - 1].append(it.key());
+  for (int weight = std::size(names); weight > 0; --weight)
+    if (!values[weight - 1].isEmpty())
+      classes.append(QJsonObject{{"label", Texts::tr(names[weight - 1])},
+                                 {"values", values[weight - 1]},
+                                 {"symbol", Theme::roadSymbol(weight, of.fineness)}});
+  QJsonObject const renderer{{"type", "uniqueValues"},
+                             {"field", field.name},
+                             {"classes", classes},
+                             {"defaultLabel", Texts::tr("Other")},
+                             {"defaultSymbol", Theme::roadSymbol(1, of.fineness)}};
+  return {renderer, Texts::tr("drawn by “%1”, the heavier roads wider").arg(field.name)};
+}
+
+bool areRoads(FieldSurvey const& field) {
+  int known = 0, all = 0;
+  for (auto it = field.values.cbegin(); it != field.values.cend(); ++it) {
+    all += it.value();
+    if (Theme::roadWeight(it.key()) > 0) known += it.value();
+  }
+  return known * 2 > all;
+}
+
+Symbolized byKind(Material const& of, FieldSurvey const& field) {
+  QStringList values = field.values.keys();
+  std::sort(values.begin(), values.end(), [&](QString const& one, QString const& other) {
+    int const count = field.values[one], otherCount = field.values[other];
+    return count != otherCount ? count > otherCount : one < other;
+  });
+  bool const isArea = of.kind == GeometryKind::Areas;
+  int const colours = isArea ? MapColors::areas.size() : MapColors::marks.size();
+  int const shown = values.size() <= colours ? values.size() : colours - 1;
+  QJsonArray classes;
+  for (int i = 0; i < shown; ++i)
+    classes.append(QJsonObject{{"label", forPeople(values.at(i))},
+                               {"values", QJsonArray{values.at(i)}},
+                               {"symbol", of.plain(isArea ? MapColors::areas[i] : MapColors::marks[i])}});
+  QJsonObject renderer{{"type", "uniqueValues"}, {"field", field.name}, {"classes", classes}};
+  if (shown < values.size() || field.given < of.survey.count) {
+    renderer.insert("defaultLabel", Texts::tr("Other"));
+    renderer.insert("defaultSymbol", of.plain(MapColors::others));
+  }
+  return {renderer, Texts::tr("coloured by “%1”, which has %n different value(s)", nullptr, values.size()).arg(field.name)};
+}
+
+// As classes are made by hand, of a renderer with one symbol.
+std::optional<Symbolized> classified(Material const& of, SysCarto::ClassifySettings const& wanted,
+                                     QJsonObject const& symbol, QString const& reason) {
+  SysCarto::RendererSettings now;
+  SysUtility::JsonReader reader(simple(symbol));
+  now.list(reader);
+  auto classes = SysCarto::classify(SysCarto::readValues(of.source(), wanted.field), now, wanted);
+  if (!reader.ok() || !classes.problem.isEmpty() || classes.renderer.classes.size() < 2) return std::nullopt;
+  SysUtility::JsonWriter writer;
+  classes.renderer.list(writer);
+  if (!writer.ok()) return std::nullopt;
+  return Symbolized{writer.json(), reason.arg(wanted.field)};
+}
+
+std::optional<Symbolized> bySize(Material const& of, FieldSurvey const& field) {
+  SysCarto::ClassifySettings wanted;
+  wanted.field = field.name;
+  wanted.classes = sizeClasses;
+  wanted.sized = true;
+  wanted.from = 1.5 + 1.2 * of.fineness;
+  wanted.to = wanted.from + 2 + 4 * of.fineness;
+  return classified(of, wanted, of.plain(MapColors::marks[0]),
+                    Texts::tr("marks sized by “%1”, in natural breaks (Jenks)"));
+}
+
+std::optional<Symbolized> byRate(Material const& of, FieldSurvey const& field) {
+  SysCarto::ClassifySettings wanted;
+  wanted.field = field.name;
+  wanted.classes = rampClasses;
+  return classified(of, wanted, of.plain(MapColors::land),
+                    Texts::tr("shaded by “%1”, in natural breaks (Jenks)"));
+}
+
+Symbolized byNeighbours(Material const& of, FieldSurvey const& names) {
+  QJsonArray classes;
+  auto const groups = groupsOfNeighbours(of.survey, names.name, of.where, MapColors::areas.size());
+  for (size_t i = 0; i < groups.size(); ++i) {
+    if (groups[i].isEmpty()) continue;
+    classes.append(QJsonObject{{"label", Texts::tr("Colour %1").arg(i + 1)},
+                               {"values", QJsonArray::fromStringList(groups[i])},
+                               {"symbol", of.plain(MapColors::areas[i])}});
+  }
+  QJsonObject const renderer{{"type", "uniqueValues"},
+                             {"field", names.name},
+                             {"classes", classes},
+                             {"defaultSymbol", of.plain(MapColors::others)}};
+  return {renderer, Texts::tr("coloured so that neighbours differ"), false};
+}
+
+struct Lettering {
+  double size = 7;
+  char const* family = "Lato";
+  char const* color = MapColors::ink;
+  double spacing = 0;
+  bool italic = false;
+  int priority = 20;
+};
+
+Lettering letteringOf(Material const& of) {
+  using Subject = Theme::Subject;
+  Subject const subject = of.theme.subject;
+  if (subject == Subject::Water) return {7, "EB Garamond", MapColors::waterText, 0.3, true, 15};
+  switch (of.kind) {
+    case GeometryKind::Points: return {6 + 2 * of.fineness, "Lato", MapColors::ink, 0, false, 30};
+    case GeometryKind::Lines: return {5.5 + 1.5 * of.fineness, "Lato", MapColors::softInk, 0, false, 20};
+    default: break;
+  }
+  if (subject == Subject::Land || subject == Subject::Unknown)
+    return {7 + 2.5 * of.fineness, "EB Garamond", "#5d4650", 0.6, false, 40};
+  return {6.5, "Lato", MapColors::softInk, 0, true, 10};
+}
+
+double percentile(FieldSurvey const& field, double part) {
+  std::vector<double> numbers;
+  for (auto it = field.values.cbegin(); it != field.values.cend(); ++it)
+    numbers.insert(numbers.end(), it.value(), it.key().toDouble());
+  std::sort(numbers.begin(), numbers.end());
+  return numbers.empty() ? 0 : numbers[std::min(numbers.size() - 1, size_t(part * numbers.size()))];
+}
+
+QJsonObject labelsOf(Material const& of, FieldSurvey const& names, FieldSurvey const* size) {
+  Lettering const lettering = letteringOf(of);
+  QJsonObject symbol = textSymbol(lettering.family, lettering.size, lettering.color);
+  symbol.insert("haloColor", "#c0ffffff");
+  symbol.insert("haloSize", 0.8);
+  if (lettering.spacing > 0) symbol.insert("letterSpacing", lettering.spacing);
+  if (lettering.italic) symbol.insert("italic", true);
+  QJsonObject labels{{"field", names.name}, {"priority", lettering.priority}, {"symbol", symbol}};
+  if (!size) return labels;
+  labels.insert("priorityField", size->name);
+  double const large = percentile(*size, 0.9);
+  if (!(large > size->minimum)) return labels;
+  symbol.insert("size", lettering.size * 1.25);
+  labels.insert("classes", QJsonArray{QJsonObject{{"minimum", large}, {"symbol", symbol}}});
+  return labels;
+}
+
+}  // namespace
+
+std::vector<StyledLayer> LayerStyling::style(LayerSurvey const& survey, QString const& where) {
+  std::vector<StyledLayer> layers;
+  if (survey.kind != GeometryKind::Mixed) {
+    layers.push_back(styleKind(survey, survey.kind == GeometryKind::None ? survey.description.kind : survey.kind, where));
+    return layers;
+  }
+  for (KindRow const& row : kindRows) {
+    QString const filter = QLatin1String(row.filter);
+    layers.push_back(styleKind(survey, row.kind,
+                               where.isEmpty() ? filter : QStringLiteral("(%1) AND %2").arg(where, filter)));
+  }
+  return layers;
+}
+
+StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind, QString const& where) {
+  QString const file = QFileInfo(survey.file).completeBaseName();
+  QString const name = survey.description.name.isEmpty() ? file : survey.description.name;
+  KindRow const& row = rowOf(kind);
+  Material const of{survey, kind, Theme::of(name, kind), finenessOf(survey.count, row, pageCm2_), where};
+  FieldSurvey const* const names = nameField(survey);
+  FieldSurvey const* const size = sizeField(survey);
+  FieldSurvey const* const kinds = classField(survey);
+  FieldSurvey const* const rate = kind == GeometryKind::Areas ? rateField(survey) : nullptr;
+  bool const isLand = kind == GeometryKind::Areas && of.theme.subject == Theme::Subject::Land;
+
+  std::optional<Symbolized> look;
+  if (rate) look = byRate(of, *rate);
+  if (!look && kinds && kind == GeometryKind::Lines && areRoads(*kinds)) look = roads(of, *kinds);
+  if (!look && kind == GeometryKind::Points && size) look = bySize(of, *size);
+  if (!look && isLand && names && names->distinct() > 1 && names->distinct() <= maxColoured)
+    look = byNeighbours(of, *names);
+  if (!look && kinds && of.theme.subject == Theme::Subject::Unknown && kinds->distinct() <= 3 * maxClasses)
+    look = byKind(of, *kinds);
+  if (!look) {
+    QJsonObject symbol = of.theme.symbol(kind, of.fineness);
+    bool const hasTheme = !symbol.isEmpty();
+    if (!hasTheme)
+      symbol = of.plain(kind == GeometryKind::Areas ? MapColors::areas[areaColors_++ % MapColors::areas.size()]
+                                                    : MapColors::marks[markColors_++ % MapColors::marks.size()]);
+    look = Symbolized{simple(symbol), hasTheme ? Texts::tr("drawn as its name says") : Texts::tr("in one colour"), !isLand};
+  }
+
+  StyledLayer styled;
+  styled.name = forPeople(name);
+  styled.extent = survey.extent;
+  styled.height = row.height;
+  styled.isLegendWorthy = look->isLegendWorthy;
+  styled.isLand = isLand;
+  styled.reasons << look->reason;
+  QJsonObject source{{"file", survey.file}, {"layer", survey.description.name}};
+  if (!where.isEmpty()) source.insert("filter", where);
+  styled.json = {{"type", "feature"},
+                 {"name", styled.name},
+                 {"source", source},
+                 {"renderer", look->renderer},
+                 {"credits", QFileInfo(survey.file).fileName()}};
+  bool const isCrowded = of.theme.subject == Theme::Subject::Building && survey.count > maxLabelledBuildings;
+  if (names && !isCrowded) {
+    styled.json.insert("labels", labelsOf(of, *names, size));
+    styled.reasons << Texts::tr("labelled by “%1”").arg(names->name);
+  }
+  return styled;
+}

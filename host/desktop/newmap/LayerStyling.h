@@ -1,0 +1,34 @@
+#pragma once
+
+#include "DataSurvey.h"
+
+#include <QJsonObject>
+#include <QStringList>
+
+/// What a layer of data gets on a new map.
+struct StyledLayer {
+  QString name;
+  GlobeExtent extent;
+  QJsonObject json;        ///< as a document stores it, its file absolute
+  int height;              ///< what is drawn later is higher: areas, lines, points
+  bool isLegendWorthy;     ///< whether a legend tells something that the map does not
+  bool isLand = false;     ///< areas with the sea around them
+  QStringList reasons;     ///< what was chosen and why, as sentences
+};
+
+/// Styles layers one after the other, so that each looks different from those before.
+class LayerStyling {
+public:
+  /// `areaKm2` is that of the map, and `pageCm2` that of its frame; what is crowded is drawn finer.
+  LayerStyling(double pageCm2, bool isSmallScale) : pageCm2_(pageCm2), isSmallScale_(isSmallScale) {}
+
+  /// One layer for each kind of geometry that there is; `where` is a condition as of a layer's source.
+  std::vector<StyledLayer> style(LayerSurvey const& survey, QString const& where);
+
+private:
+  StyledLayer styleKind(LayerSurvey const& survey, SysCarto::GeometryKind kind, QString const& where);
+
+  double const pageCm2_;
+  bool const isSmallScale_;
+  int areaColors_ = 0, markColors_ = 0;  // used so far
+};

@@ -1,0 +1,395 @@
+#include "NewMap.h"
+#include "LayerStyling.h"
+#include "MapColors.h"
+#include "PageComposition.h"
+#include "ProjectionChoice.h"
+#include "Theme.h"
+
+#include "host/SysCarto/document/ElementClip.h"
+#include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysCarto/projection/CoordinateSystem.h"
+#include "host/SysUtility/JsonFile.h"
+
+#include <SysCarto/MapFrameElement.h>
+#include <SysCarto/MapSurroundFrame.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include <ogr_spatialref.h>
+
+#include <algorithm>
+
+using SysCarto::MapDocument;
+using SysCarto::MapDocumentHost;
+using SysCarto::MapFrameElement;
+using SysCarto::VectorLayer;
+using SysGeometry::Box;
+using SysGeometry::Envelope;
+using SysUtility::_ptr_t;
+using SysUtility::make;
+using SysUtility::ptr_cast;
+
+namespace {
+
+constexpr double smallScale = 1500000;  // from which on a graticule helps
+constexpr double northKm = 1500;        // up to which north is up all over the map
+constexpr double margin = 0.04;         // of the extent, on each side
+constexpr double leastMetres = 2000;    // that a map shows, of a single place
+constexpr double cmPerKm = 100000;
+
+class NewMap {
+  Q_DECLARE_TR_FUNCTIONS(NewMap)
+
+public:
+  NewMap(NewMapRequest const& request, MapDocument& document) : request_(request), document_(document) {}
+  NewMapResult run();
+
+private:
+  using Step = bool (NewMap::*)();
+
+  // In this order. Each answers whether to go on; if not, there is a problem.
+  bool survey();
+  bool chooseSystem();
+  bool choosePage();
+  bool style();
+  bool open();
+  bool showAll();
+  bool compose();
+
+  bool fail(QString const& problem);
+  void explain(QString const& what, QString const& why) { result_.explanation << what + QStringLiteral(": ") + why; }
+  bool surveyFile(QString const& file, QString const& layer);
+  QString title() const;
+  bool isGlobe() const { return system_.isGlobe; }
+  bool hasSea() const;
+  QJsonObject mapJson() const;
+  QJsonObject pageJson() const;
+  bool takeTemplate(QJsonObject& json);
+  _ptr_t<MapFrameElement> frame() const;
+  bool placeFrame(QRectF const& place);
+  QJsonArray omittedFromLegend() const;
+  QSizeF legendSize(QSizeF const& within);
+  bool isFree(QRectF const& place) const;
+  QList<_ptr_t<SysCarto::Element>> elementsOf(QJsonArray const& elements);
+
+  NewMapRequest const request_;
+  MapDocument& document_;
+  NewMapResult result_;
+  std::vector<LayerSurvey> surveys_;
+  GlobeArea area_;
+  bool isPlaced_ = false;  // whether it is known where on the globe the data are
+  ProjectionChoice system_;
+  QSizeF page_;
+  std::vector<StyledLayer> layers_;
+  bool hasGraticule_ = false;
+};
+
+bool NewMap::fail(QString const& problem) {
+  result_.problem = problem;
+  return false;
+}
+
+NewMapResult NewMap::run() {
+  for (Step const step : {&NewMap::survey, &NewMap::chooseSystem, &NewMap::choosePage, &NewMap::style, &NewMap::open,
+                          &NewMap::showAll, &NewMap::compose})
+    if (!(this->*step)()) break;
+  return result_;
+}
+
+bool NewMap::survey() {
+  if (request_.data.isEmpty()) return fail(tr("No data are named; give a file of data."));
+  for (QString const& data : request_.data) {
+    QString const file = QFileInfo(data.section(QLatin1Char('|'), 0, 0)).absoluteFilePath();
+    if (!surveyFile(file, data.section(QLatin1Char('|'), 1))) return false;
+  }
+  if (surveys_.empty())
+    return fail(request_.where.isEmpty()
+                    ? tr("There is nothing to draw: no layer of the data has geometries.")
+                    : tr("There is nothing to draw: the filter “%1” suits no layer of the data.").arg(request_.where));
+  GlobeExtent extent;
+  for (LayerSurvey const& layer : surveys_)
+    if (!layer.extent.isEmpty()) extent.add(layer.extent.area());
+  isPlaced_ = !extent.isEmpty();
+  area_ = isPlaced_ ? extent.area() : GlobeArea{-180, -90, 180, 90};
+  return true;
+}
+
+// A filter on all the data suits the layers that have its fields.
+bool NewMap::surveyFile(QString const& file, QString const& layer) {
+  SysCarto::DataFile const described = SysCarto::describeFile(file);
+  if (!described.error.isEmpty()) return fail(described.error);
+  QStringList names;
+  bool isKnown = layer.isEmpty();
+  for (SysCarto::LayerDescription const& one : described.layers) {
+    names << one.name;
+    if (!layer.isEmpty() && one.name != layer) continue;
+    isKnown = true;
+    QString problem;
+    auto const survey = surveyLayer(file, one, request_.where, problem);
+    if (!survey && request_.where.isEmpty()) return fail(problem);
+    if (!survey) {
+      result_.warnings << problem;
+      continue;
+    }
+    if (survey->count == 0 && one.kind == SysCarto::GeometryKind::None) continue;
+    if (survey->count == 0)
+      result_.warnings << tr("The layer “%1” of %2 has no features to show.").arg(one.name, QFileInfo(file).fileName());
+    surveys_.push_back(*survey);
+  }
+  if (!isKnown)
+    return fail(tr("The file “%1” has no layer “%2”; it has: %3.").arg(file, layer, names.join(QStringLiteral(", "))));
+  return true;
+}
+
+bool NewMap::chooseSystem() {
+  if (!request_.coordinateSystem.isEmpty()) {
+    QString const problem = SysCarto::checkCoordinateSystem(request_.coordinateSystem);
+    if (!problem.isEmpty()) return fail(tr("The coordinate system “%1” %2.").arg(request_.coordinateSystem, problem));
+    auto const system = SysCarto::makeCoordinateSystem(request_.coordinateSystem);
+    system_ = {request_.coordinateSystem, QString::fromUtf8(system->GetName()), tr("As asked for."),
+               isPlaced_ && area_.width() > 300 && area_.height() > 100};
+  } else {
+    QStringList own;
+    for (LayerSurvey const& layer : surveys_)
+      if (!own.contains(layer.description.coordinateSystem)) own << layer.description.coordinateSystem;
+    if (own.size() == 1 && own.first().isEmpty())
+      system_ = {QString(), tr("plain coordinates"), tr("The data have no coordinate system."), false};
+    else
+      system_ = ProjectionChoice::forArea(area_, own);
+  }
+  explain(tr("Coordinate system %1 (%2)").arg(system_.definition, system_.name), system_.reason);
+  return true;
+}
+
+bool NewMap::choosePage() {
+  SysCarto::FormInfo form;
+  QString const wanted = request_.paper.isEmpty() ? QStringLiteral("A4") : request_.paper;
+  QStringList names;
+  for (SysCarto::PageFormID id = 0; SysCarto::Paper::GetFormInfo(id, form); ++id) {
+    if (form.key == QLatin1String("Custom")) continue;
+    names << form.key;
+    if (form.key.compare(wanted, Qt::CaseInsensitive) == 0) page_ = {form.width, form.height};
+  }
+  if (page_.isEmpty()) return fail(tr("“%1” is no paper; take one of: %2.").arg(wanted, names.join(QStringLiteral(", "))));
+  bool const isBroad = system_.isGlobe || !isPlaced_ || area_.widthKm() > 1.05 * area_.heightKm();
+  if (request_.isLandscape.value_or(isBroad) != page_.width() > page_.height()) page_.transpose();
+  QString const lies = page_.width() > page_.height() ? tr("landscape") : tr("portrait");
+  explain(tr("Page %1, %2").arg(wanted, lies),
+          request_.isLandscape ? tr("As asked for.") : tr("The data are broader than high, or not."));
+  return true;
+}
+
+bool NewMap::style() {
+  QRectF const place = PageComposition(page_).frame(false);
+  double const kmAcross = std::max(area_.widthKm(), 0.1);
+  hasGraticule_ = isPlaced_ && !system_.definition.isEmpty() && kmAcross * cmPerKm / place.width() > smallScale;
+  LayerStyling styling(place.width() * place.height(), hasGraticule_);
+  for (LayerSurvey const& survey : surveys_)
+    for (StyledLayer const& layer : styling.style(survey, request_.where)) layers_.push_back(layer);
+  std::stable_sort(layers_.begin(), layers_.end(),
+                   [](StyledLayer const& one, StyledLayer const& other) { return one.height < other.height; });
+  for (StyledLayer const& layer : layers_)
+    explain(tr("Layer “%1”").arg(layer.name), layer.reasons.join(QStringLiteral("; ")));
+  return true;
+}
+
+bool NewMap::hasSea() const {
+  return std::any_of(layers_.begin(), layers_.end(), [](StyledLayer const& one) { return one.isLand; });
+}
+
+QString NewMap::title() const {
+  if (!request_.title.isEmpty()) return request_.title;
+  if (layers_.size() == 1) return layers_.front().name;
+  QString name = QFileInfo(surveys_.front().file).completeBaseName().replace(QLatin1Char('_'), QLatin1Char(' '));
+  return name.left(1).toUpper() + name.mid(1);
+}
+
+QJsonObject NewMap::mapJson() const {
+  QJsonArray layers;
+  if (isGlobe())
+    layers.append(QJsonObject{{"type", "feature"},
+                              {"name", tr("Sea")},
+                              {"source", QJsonObject{{"data", "globe"}}},
+                              {"renderer", QJsonObject{{"type", "simple"},
+                                                       {"symbol", fillSymbol(hasSea() ? MapColors::sea : "#f4f4f1", "", 0)}}}});
+  for (StyledLayer const& layer : layers_) layers.append(layer.json);
+  return {{"name", title()},
+          {"coordinateSystem", system_.definition},
+          {"bounds", QJsonArray{0, 0, 1, 1}},
+          {"layers", layers}};
+}
+
+QJsonObject NewMap::pageJson() const {
+  bool const isLandscape = page_.width() > page_.height();
+  QJsonObject page{{"form", request_.paper.isEmpty() ? QStringLiteral("A4") : request_.paper},
+                   {"background", QJsonObject{{"symbol", fillSymbol(MapColors::paper, "", 0)}}}};
+  if (isLandscape) page.insert("orientation", "landscape");
+  return page;
+}
+
+// The map goes into the largest data frame, and the title to where the template has one.
+bool NewMap::takeTemplate(QJsonObject& json) {
+  QString problem;
+  auto const read = SysUtility::readJsonFile(request_.templateFile, {tr("template"), QStringLiteral(".kdx"), 256}, problem);
+  if (!read) return fail(problem);
+  json = *read;
+  QJsonArray elements = json.value("elements").toArray(), maps = json.value("maps").toArray();
+  int mapNumber = -1, titleAt = -1;
+  double largest = 0, boldest = 0;
+  for (int i = 0; i < elements.size(); ++i) {
+    QJsonObject const element = elements.at(i).toObject();
+    QJsonArray const sides = element.value("rectangle").toArray();
+    double const area = (sides.at(2).toDouble() - sides.at(0).toDouble()) * (sides.at(3).toDouble() - sides.at(1).toDouble());
+    if (element.value("type") == QLatin1String("dataFrame") && area > largest)
+      largest = area, mapNumber = element.value("map").toInt();
+    double const size = element.value("symbol").toObject().value("size").toDouble(10);
+    if (element.value("type") == QLatin1String("text") && size > boldest) boldest = size, titleAt = i;
+  }
+  if (mapNumber < 0 || mapNumber >= maps.size())
+    return fail(tr("%1: the template has no data frame for the map; give it one.").arg(request_.templateFile));
+  maps.replace(mapNumber, mapJson());
+  json.insert("maps", maps);
+  if (titleAt >= 0) {
+    QJsonObject element = elements.at(titleAt).toObject();
+    element.insert("text", title());
+    elements.replace(titleAt, element);
+  }
+  json.insert("elements", elements);
+  return true;
+}
+
+bool NewMap::open() {
+  PageComposition const page(page_);
+  QJsonObject json{{"format", "plotvane-document"},
+                   {"version", 1},
+                   {"page", pageJson()},
+                   {"maps", QJsonArray{mapJson()}},
+                   {"elements", QJsonArray{page.dataFrame(page.frame(hasGraticule_), isGlobe(),
+                                                          hasSea() ? MapColors::sea : MapColors::paper, hasGraticule_)}}};
+  if (!request_.templateFile.isEmpty() && !takeTemplate(json)) return false;
+  if (!MapDocumentHost::read(document_, json)) return fail(MapDocumentHost::takeLastFailure());
+  result_.warnings << document_.GetWarnings();
+  return true;
+}
+
+_ptr_t<MapFrameElement> NewMap::frame() const {
+  for (auto const& element : document_.GetPageLayout()->GetGraphicsContainer()->GetElements())
+    if (auto const frame = ptr_cast<MapFrameElement>(element))
+      if (frame->GetMap()->GetName() == title()) return frame;
+  return nullptr;
+}
+
+bool NewMap::showAll() {
+  auto const map = frame()->GetMap();
+  Box all;
+  for (auto const& layer : map->GetLayers())
+    if (auto const vector = ptr_cast<VectorLayer>(layer)) all.add(vector->features().box());
+  if (!(all.xmin <= all.xmax)) all = {-1, -1, 1, 1};
+  double const least = area_.widthKm() < 1 && area_.heightKm() < 1 ? leastMetres : 0;
+  double const width = std::max(all.xmax - all.xmin, least), height = std::max(all.ymax - all.ymin, least);
+  auto const extent = make<Envelope>(all.xmin, all.ymin, all.xmax, all.ymax);
+  double const around = isGlobe() ? 0.005 : margin;
+  extent->PutCoords((all.xmin + all.xmax - width) / 2 - around * width, (all.ymin + all.ymax - height) / 2 - around * height,
+                    (all.xmin + all.xmax + width) / 2 + around * width, (all.ymin + all.ymax + height) / 2 + around * height);
+  map->SetExtent(extent);
+  return true;
+}
+
+bool NewMap::placeFrame(QRectF const& place) {
+  auto const element = frame();
+  auto const clone = element->Clone();
+  clone->SetGeometry(make<Envelope>(place.left(), place.top(), place.right(), place.bottom()));
+  document_.GetPageLayout()->GetGraphicsContainer()->ReplaceElement(element->GetHandle(), clone);
+  return true;
+}
+
+QJsonArray NewMap::omittedFromLegend() const {
+  QJsonArray omitted;
+  if (isGlobe()) omitted.append(tr("Sea"));
+  for (StyledLayer const& layer : layers_)
+    if (!layer.isLegendWorthy) omitted.append(layer.name);
+  return omitted;
+}
+
+QList<_ptr_t<SysCarto::Element>> NewMap::elementsOf(QJsonArray const& elements) {
+  QJsonObject const clip{{"format", "plotvane-elements"}, {"version", 1}, {"elements", elements}, {"otherMaps", 1}};
+  return SysCarto::ElementClip::read({QJsonDocument(clip).toJson(), {frame()->GetMap()}}, frame()->GetMap(),
+                                     result_.problem);
+}
+
+// As large as it would be with as much room as that.
+QSizeF NewMap::legendSize(QSizeF const& within) {
+  PageComposition const page(page_);
+  auto const legends = elementsOf({page.legend({QPointF(0, 0), within}, omittedFromLegend(), false)});
+  auto const frame = legends.isEmpty() ? nullptr : ptr_cast<SysCarto::MapSurroundFrame>(legends.first());
+  if (!frame) return {};
+  auto const transformation = document_.GetPageLayout()->GetDisplayTransformation();
+  Box all;
+  for (auto const& piece : frame->GetMapSurround()->GetElements()) {
+    auto const boundary = piece->GetBoundary(transformation)->GetEnvelope();
+    all.add({boundary->GetXMin(), boundary->GetYMin(), boundary->GetXMax(), boundary->GetYMax()});
+  }
+  constexpr double slack = 1.02;
+  return all.xmin <= all.xmax ? QSizeF(all.xmax * slack, (within.height() - all.ymin) * slack) : QSizeF();
+}
+
+// Whether nothing of the data lies in a rectangle of the page.
+bool NewMap::isFree(QRectF const& place) const {
+  auto const element = frame();
+  auto const sides = element->GetGeometry()->GetEnvelope();
+  auto const extent = element->GetMap()->GetExtent();
+  double const unitsPerCm = extent->GetWidth() / sides->GetWidth();
+  auto const x = [&](double cm) { return extent->GetXMin() + (cm - sides->GetXMin()) * unitsPerCm; };
+  auto const y = [&](double cm) { return extent->GetYMin() + (cm - sides->GetYMin()) * unitsPerCm; };
+  Box const there{x(place.left()), y(place.top()), x(place.right()), y(place.bottom())};
+  for (auto const& layer : element->GetMap()->GetLayers()) {
+    auto const vector = ptr_cast<VectorLayer>(layer);
+    if (!vector || vector->source().data == SysCarto::SourceSettings::Data::Globe) continue;
+    auto const& classes = vector->renderer().classes();
+    auto const within = vector->features().classesWithin(there, QTransform(), static_cast<int>(classes.size()));
+    if (std::find(within.begin(), within.end(), true) != within.end()) return false;
+  }
+  return true;
+}
+
+bool NewMap::compose() {
+  if (!request_.templateFile.isEmpty()) return true;
+  PageComposition const page(page_);
+  QRectF place = page.frame(hasGraticule_);
+  bool const isLandscape = page_.width() > page_.height();
+  QSizeF const room(isLandscape ? 0.28 * page_.width() : page_.width() - 4, isLandscape ? place.height() : 0.22 * page_.height());
+  QSizeF const size = legendSize(room);
+  QJsonArray elements{page.title(title())};
+  if (!size.isEmpty()) {
+    int corner = 0;
+    while (corner < 4 && !isFree(page.corner(place, size, corner))) ++corner;
+    if (corner < 4) {
+      elements.append(page.legend(page.corner(place, size, corner), omittedFromLegend(), true));
+      explain(tr("Legend in a corner of the map"), tr("Nothing of the data lies there."));
+    } else {
+      QRectF const legend = page.beside(place, size, hasGraticule_);
+      placeFrame(place);
+      elements.append(page.legend(legend, omittedFromLegend(), false));
+      explain(tr("Legend beside the map"), tr("It would hide data."));
+    }
+  }
+  for (auto const& element : page.scale(isGlobe())) elements.append(element);
+  bool const hasArrow = isPlaced_ && !isGlobe() && std::max(area_.widthKm(), area_.heightKm()) < northKm;
+  if (hasArrow) elements.append(page.northArrow());
+  elements.append(page.credits(system_.name, hasArrow));
+  explain(hasArrow ? tr("A north arrow") : tr("No north arrow"),
+          hasArrow ? tr("North is up all over the map.") : tr("North lies in different directions."));
+  explain(hasGraticule_ ? tr("A graticule") : tr("No graticule"),
+          hasGraticule_ ? tr("The scale is small.") : tr("The scale is large."));
+  document_.GetPageLayout()->GetGraphicsContainer()->AddElements(elementsOf(elements));
+  return result_.problem.isEmpty();
+}
+
+}  // namespace
+
+NewMapResult makeNewMap(NewMapRequest const& request, MapDocument& document) {
+  return NewMap(request, document).run();
+}

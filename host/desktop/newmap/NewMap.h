@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace SysCarto {
+class MapDocument;
+}
+
+/// What a person says of the map that is to be made of data; everything but the data may be left out.
+struct NewMapRequest {
+  QStringList data;  ///< FILE for all its layers, or FILE|LAYER
+  QString title;
+  QString paper;  ///< a form, as documents name it; A4 where it is empty
+  std::optional<bool> isLandscape;  ///< the shape of the data decides where it is not said
+  QString coordinateSystem;
+  QString templateFile;  ///< a document whose page, and all that lies on it, is taken
+  QString where;         ///< a condition on the features, for the layers that have its fields
+};
+
+struct NewMapResult {
+  QString problem;          ///< a sentence, and the document is as it was; empty where the map was made
+  QStringList explanation;  ///< what was chosen, and why
+  QStringList warnings;     ///< sentences
+};
+
+/// Makes the document a page with one map that shows all of the data, and what explains it. It has no file yet.
+NewMapResult makeNewMap(NewMapRequest const& request, SysCarto::MapDocument& document);

@@ -1,0 +1,271 @@
+#include "Files.h"
+#include "Test.h"
+
+#include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/desktop/newmap/DataSurvey.h"
+#include "host/desktop/newmap/MapColors.h"
+#include "host/desktop/newmap/NewMap.h"
+#include "host/desktop/newmap/ProjectionChoice.h"
+
+#include <SysCarto/MapFrameElement.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gdal_priv.h>
+#include <ogrsf_frmts.h>
+
+#include <array>
+#include <cmath>
+
+namespace {
+
+using Triple = std::array<double, 3>;
+using Matrix = std::array<Triple, 3>;
+
+Triple operator*(Matrix const& m, Triple const& v) {
+  Triple result{};
+  for (int i = 0; i < 3; ++i) result[i] = m[i][0] * v[0] + m[i][1] * v[1] + m[i][2] * v[2];
+  return result;
+}
+
+// Of linear red, green and blue: what normal eyes, protanopes and deuteranopes see (Machado, Oliveira, Fernandes 2009).
+constexpr Matrix eyes[] = {
+    {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}},
+    {{{0.152286, 1.052583, -0.204868}, {0.114503, 0.786281, 0.099216}, {-0.003882, -0.048116, 1.051998}}},
+    {{{0.367322, 0.860646, -0.227968}, {0.280085, 0.672501, 0.047413}, {-0.011820, 0.042940, 0.968881}}}};
+
+Triple labOf(QColor const& color, Matrix const& eye) {
+  constexpr Matrix toXyz{{{0.4124564, 0.3575761, 0.1804375}, {0.2126729, 0.7151522, 0.0721750}, {0.0193339, 0.1191920, 0.9503041}}};
+  auto const linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+  Triple seen = eye * Triple{linear(color.redF()), linear(color.greenF()), linear(color.blueF())};
+  for (double& part : seen) part = std::clamp(part, 0.0, 1.0);
+  Triple const xyz = toXyz * seen, white = toXyz * Triple{1, 1, 1};
+  auto const f = [](double t) { return t > 216.0 / 24389 ? std::cbrt(t) : (24389.0 / 27 * t + 16) / 116; };
+  double const x = f(xyz[0] / white[0]), y = f(xyz[1] / white[1]), z = f(xyz[2] / white[2]);
+  return {116 * y - 16, 500 * (x - y), 200 * (y - z)};
+}
+
+// CIEDE2000, as Sharma, Wu and Dalal (2005) write it.
+double difference(Triple const& one, Triple const& other) {
+  auto const radians = [](double degrees) { return degrees * M_PI / 180; };
+  auto const seventh = [](double c) { return std::sqrt(std::pow(c, 7) / (std::pow(c, 7) + std::pow(25.0, 7))); };
+  double const g = 0.5 * (1 - seventh((std::hypot(one[1], one[2]) + std::hypot(other[1], other[2])) / 2));
+  double const a1 = (1 + g) * one[1], a2 = (1 + g) * other[1];
+  double const c1 = std::hypot(a1, one[2]), c2 = std::hypot(a2, other[2]);
+  auto const hue = [](double a, double b) { return std::fmod(std::atan2(b, a) * 180 / M_PI + 360, 360); };
+  double const h1 = hue(a1, one[2]), h2 = hue(a2, other[2]);
+  double const dh = c1 * c2 == 0 ? 0 : std::remainder(h2 - h1, 360);
+  double const dH = 2 * std::sqrt(c1 * c2) * std::sin(radians(dh / 2));
+  double const l = (one[0] + other[0]) / 2, c = (c1 + c2) / 2;
+  double const h = c1 * c2 == 0 ? h1 + h2 : std::abs(h1 - h2) <= 180 ? (h1 + h2) / 2 : std::fmod((h1 + h2) / 2 + 180, 360);
+  double const t = 1 - 0.17 * std::cos(radians(h - 30)) + 0.24 * std::cos(radians(2 * h)) +
+                   0.32 * std::cos(radians(3 * h + 6)) - 0.2 * std::cos(radians(4 * h - 63));
+  double const sl = 1 + 0.015 * (l - 50) * (l - 50) / std::sqrt(20 + (l - 50) * (l - 50));
+  double const sc = 1 + 0.045 * c, sh = 1 + 0.015 * c * t;
+  double const turn = -std::sin(radians(60 * std::exp(-std::pow((h - 275) / 25, 2)))) * 2 * seventh(c);
+  double const dl = (other[0] - one[0]) / sl, dc = (c2 - c1) / sc, dhs = dH / sh;
+  return std::sqrt(dl * dl + dc * dc + dhs * dhs + turn * dc * dhs);
+}
+
+template <class Colors>
+double leastDifference(Colors const& colors) {
+  double least = 1000;
+  for (Matrix const& eye : eyes)
+    for (char const* one : colors)
+      for (char const* other : colors)
+        if (one != other)
+          least = std::min(least, difference(labOf(QColor(one), eye), labOf(QColor(other), eye)));
+  return least;
+}
+
+struct MadeFeature {
+  char const* geometry;
+  QString name;
+  double value;
+};
+
+// A GeoPackage with one layer, `things`: fields `name` and `population`.
+QString makeData(QString const& path, std::vector<MadeFeature> const& features, int system = 4326) {
+  GDALAllRegister();
+  auto* const dataset =
+      GetGDALDriverManager()->GetDriverByName("GPKG")->Create(path.toUtf8(), 0, 0, 0, GDT_Unknown, nullptr);
+  OGRSpatialReference reference;
+  reference.importFromEPSG(system);
+  reference.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+  OGRLayer* const layer = dataset->CreateLayer("things", &reference, wkbUnknown);
+  OGRFieldDefn name("name", OFTString), population("population", OFTReal);
+  layer->CreateField(&name);
+  layer->CreateField(&population);
+  for (MadeFeature const& one : features) {
+    OGRFeatureUniquePtr feature(OGRFeature::CreateFeature(layer->GetLayerDefn()));
+    feature->SetField("name", one.name.toUtf8().constData());
+    feature->SetField("population", one.value);
+    OGRGeometry* geometry = nullptr;
+    OGRGeometryFactory::createFromWkt(one.geometry, nullptr, &geometry);
+    feature->SetGeometryDirectly(geometry);
+    if (layer->CreateFeature(feature.get()) != OGRERR_NONE) qFatal("no feature");
+  }
+  GDALClose(dataset);
+  return path;
+}
+
+LayerSurvey surveyOf(QString const& file) {
+  QString problem;
+  auto const survey = surveyLayer(file, SysCarto::describeFile(file).layers.at(0), QString(), problem);
+  return survey ? *survey : LayerSurvey();
+}
+
+}  // namespace
+
+/// A map that is made of data alone: what is chosen, and that the page holds it all.
+class NewMapTest : public QObject {
+  Q_OBJECT
+
+private slots:
+  void everybodyTellsTheColoursApart() {
+    // From the test data of Sharma, Wu and Dalal.
+    QVERIFY(std::abs(difference({50, 2.6772, -79.7751}, {50, 0, -82.7485}) - 2.0425) < 1e-4);
+    QVERIFY(std::abs(difference({22.7233, 20.0904, -46.6940}, {23.0331, 14.9730, -42.5619}) - 2.0373) < 1e-4);
+    QVERIFY2(leastDifference(MapColors::areas) > 11, qPrintable(QString::number(leastDifference(MapColors::areas))));
+    QVERIFY2(leastDifference(MapColors::marks) > 11, qPrintable(QString::number(leastDifference(MapColors::marks))));
+  }
+
+  void theProjectionSuitsTheArea_data() {
+    QTest::addColumn<QVector<double>>("area");  // west, south, east, north
+    QTest::addColumn<QString>("own");
+    QTest::addColumn<QString>("expected");
+    auto const row = [](char const* name, QVector<double> const& area, char const* own, char const* expected) {
+      QTest::newRow(name) << area << QString(own) << QString(expected);
+    };
+    row("world", {-180, -90, 180, 84}, "EPSG:4326", "EPSG:8857");
+    row("world of a web map", {-180, -85, 180, 84}, "EPSG:3857", "EPSG:8857");
+    row("round the Pacific", {100, -60, 300, 70}, "EPSG:4326", "+proj=eqearth +lon_0=-160 ");
+    row("Europe", {-10, 35, 40, 71}, "EPSG:4326", "+proj=laea +lat_0=53 +lon_0=15 ");
+    row("United States", {-125, 24, -67, 49}, "EPSG:4326", "+proj=aea +lat_1=28 +lat_2=45 +lat_0=37 +lon_0=-96 ");
+    row("Australia", {113, -44, 154, -10}, "EPSG:4326", "+proj=aea +lat_1=-38 +lat_2=-16 +lat_0=-27 +lon_0=134 ");
+    row("Africa", {-18, -35, 52, 38}, "EPSG:4326", "+proj=laea +lat_0=2 +lon_0=17 ");
+    row("Indonesia", {95, -11, 141, 6}, "EPSG:4326", "+proj=laea");
+    row("Arctic", {-180, 60, 180, 90}, "EPSG:4326", "EPSG:6931");
+    row("Antarctica", {-180, -90, 180, -63}, "EPSG:4326", "EPSG:6932");
+    row("a town", {9.8, 49.7, 10.1, 49.9}, "EPSG:4326", "EPSG:32632");
+    row("a town in the south", {151, -34, 151.4, -33.7}, "EPSG:4326", "EPSG:32756");
+    row("a town on its grid", {9.8, 49.7, 10.1, 49.9}, "EPSG:31468", "EPSG:31468");
+    row("a town of a web map", {9.8, 49.7, 10.1, 49.9}, "EPSG:3857", "EPSG:32632");
+    row("Germany on its grid", {5.9, 47.3, 15, 55}, "EPSG:25832", "EPSG:25832");
+    row("Fiji", {176.9, -20.7, 181.5, -12.5}, "EPSG:4326", "+proj=laea +lat_0=-16.5 +lon_0=179");
+  }
+  void theProjectionSuitsTheArea() {
+    QFETCH(QVector<double>, area);
+    QFETCH(QString, own);
+    QFETCH(QString, expected);
+    auto const choice = ProjectionChoice::forArea({area[0], area[1], area[2], area[3]}, {own});
+    QVERIFY2(choice.definition.startsWith(expected), qPrintable(choice.definition));
+  }
+
+  // 8 by 8 squares and what goes across the antimeridian.
+  void areasAndTheirNeighbours() {
+    std::vector<MadeFeature> squares;
+    std::vector<QByteArray> texts;
+    for (int i = 0; i < 64; ++i) {
+      int const x = i % 8, y = i / 8;
+      texts.push_back(QStringLiteral("POLYGON((%1 %2,%3 %2,%3 %4,%1 %4,%1 %2))").arg(x).arg(y).arg(x + 1).arg(y + 1).toUtf8());
+    }
+    for (int i = 0; i < 64; ++i) squares.push_back({texts[i].constData(), QStringLiteral("Square %1").arg(i), double(i)});
+    LayerSurvey const survey = surveyOf(makeData(path("squares.gpkg"), squares));
+    QCOMPARE(survey.count, 64);
+    auto const groups = groupsOfNeighbours(survey, "name", QString(), 6);
+    QHash<QString, int> groupOf;
+    for (size_t group = 0; group < groups.size(); ++group)
+      for (QString const& name : groups[group]) groupOf[name] = static_cast<int>(group);
+    QCOMPARE(groupOf.size(), 64);
+    for (int i = 0; i < 64; ++i)
+      for (int const next : {i + 1, i + 8})
+        if (next < 64 && (next != i + 1 || next % 8 != 0))
+          QVERIFY(groupOf[QStringLiteral("Square %1").arg(i)] != groupOf[QStringLiteral("Square %1").arg(next)]);
+
+    GlobeArea const fiji =
+        surveyOf(makeData(path("fiji.gpkg"), {{"LINESTRING(177 -18,179.9 -17)", "a", 1}, {"POINT(-179 -16)", "b", 2}})).extent.area();
+    QVERIFY(std::abs(fiji.west - 177) < 0.11 && std::abs(fiji.east - 181) < 0.11);
+  }
+
+  void thePageHoldsAllOfTheData_data() {
+    QTest::addColumn<QStringList>("geometries");
+    QTest::addColumn<int>("system");
+    QTest::newRow("world") << QStringList{"POLYGON((-170 -60,170 -60,170 80,-170 80,-170 -60))", "POINT(0 0)"} << 4326;
+    QTest::newRow("points in metres") << QStringList{"POINT(560000 5520000)", "POINT(580000 5530000)"} << 25832;
+    QTest::newRow("one place") << QStringList{"POINT(8.5 47.4)"} << 4326;
+    QTest::newRow("all kinds") << QStringList{"POINT(8 47)", "LINESTRING(8 47,9 48)", "POLYGON((8 47,9 47,9 48,8 47))"} << 4326;
+    QTest::newRow("nothing") << QStringList() << 4326;
+  }
+  void thePageHoldsAllOfTheData() {
+    QFETCH(QStringList, geometries);
+    QFETCH(int, system);
+    QList<QByteArray> texts;
+    std::vector<MadeFeature> features;
+    for (QString const& one : geometries) texts << one.toUtf8();
+    for (QByteArray const& one : texts) features.push_back({one.constData(), QString("Thing %1").arg(texts.indexOf(one)), 10});
+    QString const file = makeData(path(QString(QTest::currentDataTag()) + ".gpkg"), features, system);
+    SysCarto::MapDocument document;
+    NewMapRequest request;
+    request.data = QStringList{file};
+    request.title = "A title that is long enough to need the whole width of the page and then some, as titles do";
+    NewMapResult const made = makeNewMap(request, document);
+    QCOMPARE(made.problem, QString());
+    QCOMPARE(made.warnings.isEmpty(), !geometries.isEmpty());
+    auto const layout = document.GetPageLayout();
+    auto const page = layout->GetPage()->GetPageEnvelope();
+    for (auto const& element : layout->GetGraphicsContainer()->GetElements()) {
+      auto const boundary = element->GetBoundary(layout->GetDisplayTransformation())->GetEnvelope();
+      QVERIFY2(page->GetXMin() <= boundary->GetXMin() && page->GetYMin() <= boundary->GetYMin() &&
+                   boundary->GetXMax() <= page->GetXMax() && boundary->GetYMax() <= page->GetYMax(),
+               qPrintable(element->GetName()));
+    }
+    auto const map = document.GetMap(0);
+    for (auto const& layer : map->GetLayers()) {
+      auto const vector = SysUtility::ptr_cast<SysCarto::VectorLayer>(layer);
+      auto const box = vector->features().box();
+      auto const extent = map->GetExtent();
+      QVERIFY(vector->features().size() == 0 || (extent->GetXMin() < box.xmin && box.xmax < extent->GetXMax() &&
+                                                 extent->GetYMin() < box.ymin && box.ymax < extent->GetYMax()));
+    }
+    // What it is saved as is what is read again.
+    QVERIFY(document.SaveAs(path("made.kdx"), true, false));
+    SysCarto::MapDocument again;
+    QVERIFY(again.Open(path("made.kdx")));
+    QCOMPARE(SysCarto::MapDocumentHost::text(again), contentOf(path("made.kdx")));
+  }
+
+  void whatCannotBeMadeIsTold_data() {
+    QTest::addColumn<NewMapRequest>("request");
+    QTest::addColumn<QString>("told");
+    QString const file = makeData(path("some.gpkg"), {{"POINT(8 47)", "a", 1}});
+    auto const row = [](char const* name, NewMapRequest const& request, char const* told) {
+      QTest::newRow(name) << request << QString(told);
+    };
+    row("no data", {}, "No data are named");
+    row("no file", {{path("none.gpkg")}, {}, {}, {}, {}, {}, {}}, "does not exist");
+    row("no such layer", {{file + "|other"}, {}, {}, {}, {}, {}, {}}, "things");
+    row("no such paper", {{file}, {}, "B99", {}, {}, {}, {}}, "A4");
+    row("no system", {{file}, {}, {}, {}, "EPSG:1", {}, {}}, "EPSG:1");
+    row("a filter that suits nothing", {{file}, {}, {}, {}, {}, {}, "size > 3"}, "size > 3");
+    row("no template", {{file}, {}, {}, {}, {}, path("none.kdx"), {}}, "none.kdx");
+  }
+  void whatCannotBeMadeIsTold() {
+    QFETCH(NewMapRequest, request);
+    QFETCH(QString, told);
+    SysCarto::MapDocument document;
+    QString const problem = makeNewMap(request, document).problem;
+    QVERIFY2(problem.contains(told), qPrintable(problem));
+    QVERIFY(!document.GetPageLayout());
+  }
+
+private:
+  QTemporaryDir folder_;
+  QString path(QString const& name) const { return folder_.filePath(name); }
+};
+
+Q_DECLARE_METATYPE(NewMapRequest)
+
+QTEST_MAIN(NewMapTest)
+#include "tst_new_map.moc"
