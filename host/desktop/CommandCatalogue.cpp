@@ -152,6 +152,8 @@ public:
   static constexpr Row ofHost[] = {
       {"Host_New", "new", inFile, 1, onFile, "Ctrl+N",
        QT_TR_NOOP("New"), QT_TR_NOOP("Start a document with an empty page"), nothing},
+      {"Host_NewFromData", "new-from-data", inFile, 1, onFile, "Ctrl+Shift+N",
+       QT_TR_NOOP("New from Data…"), QT_TR_NOOP("Make a map of files of data, with a page around it"), nothing},
       {"Host_Open", "open", inFile, 1, onFile, "Ctrl+O",
        QT_TR_NOOP("Open…"), QT_TR_NOOP("Open a map document"), nothing},
       {"Host_Save", "save", inFile, 2, onFile, "Ctrl+S",

@@ -2,9 +2,12 @@
 
 #include "DocumentSession.h"
 
+#include "newmap/NewMapDialog.h"
+
 #include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysUtility/FileSaver.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
@@ -116,6 +119,29 @@ bool DocumentFiles::create() {
   if (!mayLeave() || !session_.create()) return false;
   lock_.reset();
   return true;
+}
+
+// The questions stay where the answers were not good enough.
+QStringList DocumentFiles::createFromData() {
+  if (!mayLeave()) return {};
+  NewMapDialog dialog({}, &parent_);
+  while (dialog.exec() == QDialog::Accepted) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    NewMapResult made;
+    session_.make([&](SysCarto::MapDocument& document) {
+      made = makeNewMap(dialog.request(), document);
+      return made.problem.isEmpty();
+    });
+    QApplication::restoreOverrideCursor();
+    if (!made.problem.isEmpty()) {
+      tell(QMessageBox::Critical, tr("The map was not made."), {made.problem});
+      continue;
+    }
+    lock_.reset();
+    if (!made.warnings.isEmpty()) tell(QMessageBox::Warning, tr("The map was made, but not of all data."), made.warnings);
+    return made.explanation;
+  }
+  return {};
 }
 
 // Both dialogs show the same files, under the same names, and begin in the same folder.

@@ -24,6 +24,8 @@ public:
 
   // Each asks first where changes would be lost, and answers false, with everything as it was, where it was not done.
   bool create();
+  /// Asks what the map is to be made of. Answers what was chosen, and why; nothing where no map was made.
+  QStringList createFromData();
   bool open();
   bool open(QString const& path);
   bool save();

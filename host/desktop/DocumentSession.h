@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 /// The document that is being worked on, its undo history, and whether it holds what its file does not. As long as the
 /// session lives, the editor records into that history.
 class DocumentSession final : public QObject {
@@ -22,6 +24,8 @@ public:
   // Each answers false, with a sentence in `takeProblem` and the document unchanged, where it can't be done.
   bool create();
   bool open(QString const& path);
+  /// Lets something else give the document its content; it answers whether it did.
+  bool make(std::function<bool(SysCarto::MapDocument&)> const& fill) { return settle(fill(document_)); }
   bool save();
   bool saveAs(QString const& path);
   /// Said once: whoever asks tells it.

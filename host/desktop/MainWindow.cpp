@@ -146,6 +146,7 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   layers_.addTo(host);
   auto const always = std::function<bool()>(), never = always;
   host.add(QStringLiteral("Host_New"), {[this] { files_.create(); }, always, always});
+  host.add(QStringLiteral("Host_NewFromData"), {[this] { makeFromData(); }, always, always});
   host.add(QStringLiteral("Host_Open"), {[this] { files_.open(); }, always, always});
   auto const redrawnAs = [this](bool (DocumentFiles::*save)()) {  // a text of the page may hold the file's name
     return [this, save] {
@@ -185,6 +186,12 @@ void MainWindow::addWindowCommands(HostCommands& host) {
                                            always, [this] { return hasRulers_; }});
   host.add(QStringLiteral("Host_Quit"), {[this] { QTimer::singleShot(0, this, &QWidget::close); }, always, always});
   host.add(QStringLiteral("Host_About"), {[this] { showAbout(); }, always, always});
+}
+
+// What was chosen is told, so that it can be chosen otherwise.
+void MainWindow::makeFromData() {
+  QStringList const reasons = files_.createFromData();
+  if (!reasons.isEmpty()) notice_->tell(reasons.join(QLatin1Char('\n')), false);
 }
 
 void MainWindow::buildViews() {

@@ -64,6 +64,7 @@ private:
   void showState();
   void showPointer(QPoint const& positionPx);
   void takeScale();
+  void makeFromData();
   void showAbout();
 
   LayerCommands layers_{bench_};  // the workbench asks for them while it is made

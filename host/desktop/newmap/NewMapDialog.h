@@ -1,0 +1,37 @@
+#pragma once
+
+#include "NewMap.h"
+
+#include <QDialog>
+
+class QComboBox;
+class QDialogButtonBox;
+class QLabel;
+class QLineEdit;
+class QTreeWidget;
+
+/// Asks for the data of a new map, and for what a person wants to say of it; what is left out is chosen.
+class NewMapDialog final : public QDialog {
+  Q_OBJECT
+
+public:
+  explicit NewMapDialog(QStringList const& files, QWidget* parent);
+  ~NewMapDialog() override;
+
+  NewMapRequest request() const;
+
+private:
+  void buildData();
+  void addFile(QString const& file);
+  void chooseFiles();
+  void chooseTemplate();
+  void showState();
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+  QTreeWidget* data_;  // files, and below each its layers
+  QLineEdit *title_, *system_, *where_, *template_;
+  QComboBox *paper_, *orientation_;
+  QLabel* problem_;
+  QDialogButtonBox* buttons_;
+};
