@@ -138,7 +138,8 @@ QStringList DocumentFiles::createFromData() {
       continue;
     }
     lock_.reset();
-    if (!made.warnings.isEmpty()) tell(QMessageBox::Warning, tr("The map was made, but not of all data."), made.warnings);
+    if (!made.warnings.isEmpty())
+      tell(QMessageBox::Warning, tr("The map was made, but not of all data."), made.warnings);
     return made.explanation;
   }
   return {};

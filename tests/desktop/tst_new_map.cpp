@@ -36,7 +36,8 @@ constexpr Matrix eyes[] = {
     {{{0.367322, 0.860646, -0.227968}, {0.280085, 0.672501, 0.047413}, {-0.011820, 0.042940, 0.968881}}}};
 
 Triple labOf(QColor const& color, Matrix const& eye) {
-  constexpr Matrix toXyz{{{0.4124564, 0.3575761, 0.1804375}, {0.2126729, 0.7151522, 0.0721750}, {0.0193339, 0.1191920, 0.9503041}}};
+  constexpr Matrix toXyz{
+      {{0.4124564, 0.3575761, 0.1804375}, {0.2126729, 0.7151522, 0.0721750}, {0.0193339, 0.1191920, 0.9503041}}};
   auto const linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
   Triple seen = eye * Triple{linear(color.redF()), linear(color.greenF()), linear(color.blueF())};
   for (double& part : seen) part = std::clamp(part, 0.0, 1.0);
@@ -58,7 +59,9 @@ double difference(Triple const& one, Triple const& other) {
   double const dh = c1 * c2 == 0 ? 0 : std::remainder(h2 - h1, 360);
   double const dH = 2 * std::sqrt(c1 * c2) * std::sin(radians(dh / 2));
   double const l = (one[0] + other[0]) / 2, c = (c1 + c2) / 2;
-  double const h = c1 * c2 == 0 ? h1 + h2 : std::abs(h1 - h2) <= 180 ? (h1 + h2) / 2 : std::fmod((h1 + h2) / 2 + 180, 360);
+  double const h = c1 * c2 == 0               ? h1 + h2
+                   : std::abs(h1 - h2) <= 180 ? (h1 + h2) / 2
+                                              : std::fmod((h1 + h2) / 2 + 180, 360);
   double const t = 1 - 0.17 * std::cos(radians(h - 30)) + 0.24 * std::cos(radians(2 * h)) +
                    0.32 * std::cos(radians(3 * h + 6)) - 0.2 * std::cos(radians(4 * h - 63));
   double const sl = 1 + 0.015 * (l - 50) * (l - 50) / std::sqrt(20 + (l - 50) * (l - 50));
@@ -74,8 +77,7 @@ double leastDifference(Colors const& colors) {
   for (Matrix const& eye : eyes)
     for (char const* one : colors)
       for (char const* other : colors)
-        if (one != other)
-          least = std::min(least, difference(labOf(QColor(one), eye), labOf(QColor(other), eye)));
+        if (one != other) least = std::min(least, difference(labOf(QColor(one), eye), labOf(QColor(other), eye)));
   return least;
 }
 
@@ -171,9 +173,11 @@ private slots:
     std::vector<QByteArray> texts;
     for (int i = 0; i < 64; ++i) {
       int const x = i % 8, y = i / 8;
-      texts.push_back(QStringLiteral("POLYGON((%1 %2,%3 %2,%3 %4,%1 %4,%1 %2))").arg(x).arg(y).arg(x + 1).arg(y + 1).toUtf8());
+      texts.push_back(
+          QStringLiteral("POLYGON((%1 %2,%3 %2,%3 %4,%1 %4,%1 %2))").arg(x).arg(y).arg(x + 1).arg(y + 1).toUtf8());
     }
-    for (int i = 0; i < 64; ++i) squares.push_back({texts[i].constData(), QStringLiteral("Square %1").arg(i), double(i)});
+    for (int i = 0; i < 64; ++i)
+      squares.push_back({texts[i].constData(), QStringLiteral("Square %1").arg(i), double(i)});
     LayerSurvey const survey = surveyOf(makeData(path("squares.gpkg"), squares));
     QCOMPARE(survey.count, 64);
     auto const groups = groupsOfNeighbours(survey, "name", QString(), 6);
@@ -187,7 +191,8 @@ private slots:
           QVERIFY(groupOf[QStringLiteral("Square %1").arg(i)] != groupOf[QStringLiteral("Square %1").arg(next)]);
 
     GlobeArea const fiji =
-        surveyOf(makeData(path("fiji.gpkg"), {{"LINESTRING(177 -18,179.9 -17)", "a", 1}, {"POINT(-179 -16)", "b", 2}})).extent.area();
+        surveyOf(makeData(path("fiji.gpkg"), {{"LINESTRING(177 -18,179.9 -17)", "a", 1}, {"POINT(-179 -16)", "b", 2}}))
+            .extent.area();
     QVERIFY(std::abs(fiji.west - 177) < 0.11 && std::abs(fiji.east - 181) < 0.11);
   }
 
@@ -197,7 +202,8 @@ private slots:
     QTest::newRow("world") << QStringList{"POLYGON((-170 -60,170 -60,170 80,-170 80,-170 -60))", "POINT(0 0)"} << 4326;
     QTest::newRow("points in metres") << QStringList{"POINT(560000 5520000)", "POINT(580000 5530000)"} << 25832;
     QTest::newRow("one place") << QStringList{"POINT(8.5 47.4)"} << 4326;
-    QTest::newRow("all kinds") << QStringList{"POINT(8 47)", "LINESTRING(8 47,9 48)", "POLYGON((8 47,9 47,9 48,8 47))"} << 4326;
+    QTest::newRow("all kinds") << QStringList{"POINT(8 47)", "LINESTRING(8 47,9 48)", "POLYGON((8 47,9 47,9 48,8 47))"}
+                               << 4326;
     QTest::newRow("nothing") << QStringList() << 4326;
   }
   void thePageHoldsAllOfTheData() {
@@ -206,7 +212,8 @@ private slots:
     QList<QByteArray> texts;
     std::vector<MadeFeature> features;
     for (QString const& one : geometries) texts << one.toUtf8();
-    for (QByteArray const& one : texts) features.push_back({one.constData(), QString("Thing %1").arg(texts.indexOf(one)), 10});
+    for (QByteArray const& one : texts)
+      features.push_back({one.constData(), QString("Thing %1").arg(texts.indexOf(one)), 10});
     QString const file = makeData(path(QString(QTest::currentDataTag()) + ".gpkg"), features, system);
     SysCarto::MapDocument document;
     NewMapRequest request;

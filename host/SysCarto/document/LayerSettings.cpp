@@ -37,7 +37,8 @@ struct Texts {
 
 // The path as the document has it, and the one to open. What may not be opened stays as it was written.
 QString storedPath(QString const& file, DocumentContext const& context) {
-  if (file.isEmpty() || !context.relativePaths || context.folder.isEmpty() || !DataSource::refusal(file).isEmpty()) return file;
+  if (file.isEmpty() || !context.relativePaths || context.folder.isEmpty() || !DataSource::refusal(file).isEmpty())
+    return file;
   return QDir(context.folder).relativeFilePath(file);
 }
 

@@ -36,18 +36,19 @@ struct LayerSurvey {
   SysCarto::LayerDescription description;
   SysCarto::GeometryKind kind;  ///< of the features that there are
   int count = 0;                ///< of features that have a geometry and that the filter admits
-  GlobeExtent extent;  ///< in degrees; empty where the coordinate system is not known
+  GlobeExtent extent;           ///< in degrees; empty where the coordinate system is not known
   std::vector<FieldSurvey> fields;
 
   FieldSurvey const* field(QString const& name) const;
 };
 
-/// Reads all features of a layer once. `where` is a condition as of a layer's source, or empty; `problem` gets a sentence
-/// where the layer can't be read or the condition is not understood.
+/// Reads all features of a layer once. `where` is a condition as of a layer's source, or empty; `problem` gets a
+/// sentence where the layer can't be read or the condition is not understood.
 std::optional<LayerSurvey> surveyLayer(QString const& file, SysCarto::LayerDescription const& layer,
                                        QString const& where, QString& problem);
 
-/// The features of an area layer by the value of a field, sorted into at most so many groups of which neighbours, as far
-/// as possible, are in different ones. Areas are neighbours where they share an edge of their outlines or come close.
+/// The features of an area layer by the value of a field, sorted into at most so many groups of which neighbours, as
+/// far as possible, are in different ones. Areas are neighbours where they share an edge of their outlines or come
+/// close.
 std::vector<QStringList> groupsOfNeighbours(LayerSurvey const& layer, QString const& field, QString const& where,
                                             int groups);

@@ -8,8 +8,8 @@ namespace {
 
 constexpr int maxClasses = 8;
 
-// The place of the first of the patterns that the name of a field matches as a whole; −1 for none. In English and in the
-// languages of data that people have.
+// The place of the first of the patterns that the name of a field matches as a whole; −1 for none. In English and in
+// the languages of data that people have.
 int placeOf(QString const& name, std::initializer_list<char const*> patterns) {
   int place = 0;
   for (char const* pattern : patterns) {
@@ -44,26 +44,27 @@ bool looksLikeNames(FieldSurvey const& field, LayerSurvey const& layer) {
 
 FieldSurvey const* nameField(LayerSurvey const& layer) {
   auto const* const named =
-      firstOf(layer, {"name", "name_en", "name_int", "name_long", "nam|nom|nombre|nome|naam|navn|namn|nazwa|nimi",
-                      "label|title|titel|titre|bezeichnung|bez", ".*name", "name.*|nam_.*|nom_.*",
-                      "city|town|village|place|ort|stadt|gemeinde|ville|commune|municipality",
-                      "street|strasse|stra..?e|road|rue|calle", "admin|state|country|county|province|region|land"},
+      firstOf(layer,
+              {"name", "name_en", "name_int", "name_long", "nam|nom|nombre|nome|naam|navn|namn|nazwa|nimi",
+               "label|title|titel|titre|bezeichnung|bez", ".*name", "name.*|nam_.*|nom_.*",
+               "city|town|village|place|ort|stadt|gemeinde|ville|commune|municipality",
+               "street|strasse|stra..?e|road|rue|calle", "admin|state|country|county|province|region|land"},
               [&](FieldSurvey const& field) { return looksLikeNames(field, layer) && field.given * 10 > layer.count; });
   if (named) return named;
   for (FieldSurvey const& field : layer.fields)
     if (looksLikeNames(field, layer) && field.distinct() * 10 > field.given * 8 && field.given * 2 > layer.count &&
-        meanLength(field) >= 4 && placeOf(field.name, {".*(id|code|iso.*|url|wiki.*|source|desc.*|cmt|link.*|time.*)"}) < 0)
+        meanLength(field) >= 4 &&
+        placeOf(field.name, {".*(id|code|iso.*|url|wiki.*|source|desc.*|cmt|link.*|time.*)"}) < 0)
       return &field;
   return nullptr;
 }
 
 FieldSurvey const* sizeField(LayerSurvey const& layer) {
-  return firstOf(layer,
-                 {"pop|population", "pop_?max|pop_?est|pop.*|population.*", "einwohner.*|ewz|habitants|inhabitants|inwoners",
-                  "mag|magnitude", "capacity|kapazit..?t|visitors|besucher|count|anzahl|total|value|wert", "area.*|fl.*che"},
-                 [](FieldSurvey const& field) {
-                   return field.isNumber() && field.minimum >= 0 && field.maximum > field.minimum;
-                 });
+  return firstOf(
+      layer,
+      {"pop|population", "pop_?max|pop_?est|pop.*|population.*", "einwohner.*|ewz|habitants|inhabitants|inwoners",
+       "mag|magnitude", "capacity|kapazit..?t|visitors|besucher|count|anzahl|total|value|wert", "area.*|fl.*che"},
+      [](FieldSurvey const& field) { return field.isNumber() && field.minimum >= 0 && field.maximum > field.minimum; });
 }
 
 FieldSurvey const* classField(LayerSurvey const& layer) {
@@ -72,10 +73,11 @@ FieldSurvey const* classField(LayerSurvey const& layer) {
     return &field != names && !field.hasMoreValues && field.distinct() >= 2 && field.given * 10 >= layer.count * 8 &&
            (field.isText() || field.kind == SysCarto::FieldDescription::Kind::Integer);
   };
-  auto const* const named =
-      firstOf(layer, {"highway|waterway|railway|landuse|natural", "fclass|class|klasse", "type|typ|kind|category|kategorie|art",
-                      ".*(type|typ|class|kind|category|status|zone|nutzung|art)", "group|gruppe|continent|subregion|use"},
-              [&](FieldSurvey const& field) { return isKind(field) && field.distinct() <= 3 * maxClasses; });
+  auto const* const named = firstOf(
+      layer,
+      {"highway|waterway|railway|landuse|natural", "fclass|class|klasse", "type|typ|kind|category|kategorie|art",
+       ".*(type|typ|class|kind|category|status|zone|nutzung|art)", "group|gruppe|continent|subregion|use"},
+      [&](FieldSurvey const& field) { return isKind(field) && field.distinct() <= 3 * maxClasses; });
   if (named) return named;
   for (FieldSurvey const& field : layer.fields)
     if (isKind(field) && field.isText() && hasLetters(field) && field.distinct() <= maxClasses &&
@@ -85,10 +87,11 @@ FieldSurvey const* classField(LayerSurvey const& layer) {
 }
 
 FieldSurvey const* rateField(LayerSurvey const& layer) {
-  return firstOf(layer,
-                 {".*densit.*|.*dichte.*", ".*(rate|share|percent|pct|prozent|anteil|quote|index|ratio|median|mean|average|avg).*",
-                  ".*_per_.*|.*_km2|.*per_?capita.*"},
-                 [&](FieldSurvey const& field) {
-                   return field.isNumber() && field.distinct() >= 5 && field.given * 2 > layer.count;
-                 });
+  return firstOf(
+      layer,
+      {".*densit.*|.*dichte.*", ".*(rate|share|percent|pct|prozent|anteil|quote|index|ratio|median|mean|average|avg).*",
+       ".*_per_.*|.*_km2|.*per_?capita.*"},
+      [&](FieldSurvey const& field) {
+        return field.isNumber() && field.distinct() >= 5 && field.given * 2 > layer.count;
+      });
 }

@@ -139,7 +139,8 @@ Symbolized byKind(Material const& of, FieldSurvey const& field) {
     renderer.insert("defaultLabel", Texts::tr("Other"));
     renderer.insert("defaultSymbol", of.plain(MapColors::others));
   }
-  return {renderer, Texts::tr("coloured by “%1”, which has %n different value(s)", nullptr, values.size()).arg(field.name)};
+  return {renderer,
+          Texts::tr("coloured by “%1”, which has %n different value(s)", nullptr, values.size()).arg(field.name)};
 }
 
 // As classes are made by hand, of a renderer with one symbol.
@@ -171,8 +172,7 @@ std::optional<Symbolized> byRate(Material const& of, FieldSurvey const& field) {
   SysCarto::ClassifySettings wanted;
   wanted.field = field.name;
   wanted.classes = rampClasses;
-  return classified(of, wanted, of.plain(MapColors::land),
-                    Texts::tr("shaded by “%1”, in natural breaks (Jenks)"));
+  return classified(of, wanted, of.plain(MapColors::land), Texts::tr("shaded by “%1”, in natural breaks (Jenks)"));
 }
 
 Symbolized byNeighbours(Material const& of, FieldSurvey const& names) {
@@ -244,13 +244,14 @@ QJsonObject labelsOf(Material const& of, FieldSurvey const& names, FieldSurvey c
 std::vector<StyledLayer> LayerStyling::style(LayerSurvey const& survey, QString const& where) {
   std::vector<StyledLayer> layers;
   if (survey.kind != GeometryKind::Mixed) {
-    layers.push_back(styleKind(survey, survey.kind == GeometryKind::None ? survey.description.kind : survey.kind, where));
+    layers.push_back(
+        styleKind(survey, survey.kind == GeometryKind::None ? survey.description.kind : survey.kind, where));
     return layers;
   }
   for (KindRow const& row : kindRows) {
     QString const filter = QLatin1String(row.filter);
-    layers.push_back(styleKind(survey, row.kind,
-                               where.isEmpty() ? filter : QStringLiteral("(%1) AND %2").arg(where, filter)));
+    layers.push_back(
+        styleKind(survey, row.kind, where.isEmpty() ? filter : QStringLiteral("(%1) AND %2").arg(where, filter)));
   }
   return layers;
 }
@@ -280,7 +281,8 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
     if (!hasTheme)
       symbol = of.plain(kind == GeometryKind::Areas ? MapColors::areas[areaColors_++ % MapColors::areas.size()]
                                                     : MapColors::marks[markColors_++ % MapColors::marks.size()]);
-    look = Symbolized{simple(symbol), hasTheme ? Texts::tr("drawn as its name says") : Texts::tr("in one colour"), !isLand};
+    look = Symbolized{simple(symbol), hasTheme ? Texts::tr("drawn as its name says") : Texts::tr("in one colour"),
+                      !isLand};
   }
 
   StyledLayer styled;

@@ -9,11 +9,11 @@
 struct StyledLayer {
   QString name;
   GlobeExtent extent;
-  QJsonObject json;        ///< as a document stores it, its file absolute
-  int height;              ///< what is drawn later is higher: areas, lines, points
-  bool isLegendWorthy;     ///< whether a legend tells something that the map does not
-  bool isLand = false;     ///< areas with the sea around them
-  QStringList reasons;     ///< what was chosen and why, as sentences
+  QJsonObject json;     ///< as a document stores it, its file absolute
+  int height;           ///< what is drawn later is higher: areas, lines, points
+  bool isLegendWorthy;  ///< whether a legend tells something that the map does not
+  bool isLand = false;  ///< areas with the sea around them
+  QStringList reasons;  ///< what was chosen and why, as sentences
 };
 
 /// Styles layers one after the other, so that each looks different from those before.

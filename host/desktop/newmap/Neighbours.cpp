@@ -92,8 +92,8 @@ std::vector<QStringList> groupsOfNeighbours(LayerSurvey const& layer, QString co
       QSet<int> taken;
       for (auto it = wishes[one].cbegin(); it != wishes[one].cend(); ++it)
         if (groupOf[it.key()] >= 0) taken << groupOf[it.key()];
-      bool const isMore = taken.size() > mostGroups ||
-                          (taken.size() == mostGroups && wishes[one].size() > wishes[next].size());
+      bool const isMore =
+          taken.size() > mostGroups || (taken.size() == mostGroups && wishes[one].size() > wishes[next].size());
       if (isMore) next = one, mostGroups = taken.size();
     }
     std::vector<double> disturbance(groups, 0);

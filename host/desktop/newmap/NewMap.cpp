@@ -173,9 +173,10 @@ bool NewMap::choosePage() {
     names << form.key;
     if (form.key.compare(wanted, Qt::CaseInsensitive) == 0) page_ = {form.width, form.height};
   }
-  if (page_.isEmpty()) return fail(tr("“%1” is no paper; take one of: %2.").arg(wanted, names.join(QStringLiteral(", "))));
+  if (page_.isEmpty())
+    return fail(tr("“%1” is no paper; take one of: %2.").arg(wanted, names.join(QStringLiteral(", "))));
   bool const isBroad = system_.isGlobe || !isPlaced_ || area_.widthKm() > 1.05 * area_.heightKm();
-  if (request_.isLandscape.value_or(isBroad) != page_.width() > page_.height()) page_.transpose();
+  if (request_.isLandscape.value_or(isBroad) != (page_.width() > page_.height())) page_.transpose();
   QString const lies = page_.width() > page_.height() ? tr("landscape") : tr("portrait");
   explain(tr("Page %1, %2").arg(wanted, lies),
           request_.isLandscape ? tr("As asked for.") : tr("The data are broader than high, or not."));
@@ -210,11 +211,12 @@ QString NewMap::title() const {
 QJsonObject NewMap::mapJson() const {
   QJsonArray layers;
   if (isGlobe())
-    layers.append(QJsonObject{{"type", "feature"},
-                              {"name", tr("Sea")},
-                              {"source", QJsonObject{{"data", "globe"}}},
-                              {"renderer", QJsonObject{{"type", "simple"},
-                                                       {"symbol", fillSymbol(hasSea() ? MapColors::sea : "#f4f4f1", "", 0)}}}});
+    layers.append(QJsonObject{
+        {"type", "feature"},
+        {"name", tr("Sea")},
+        {"source", QJsonObject{{"data", "globe"}}},
+        {"renderer",
+         QJsonObject{{"type", "simple"}, {"symbol", fillSymbol(hasSea() ? MapColors::sea : "#f4f4f1", "", 0)}}}});
   for (StyledLayer const& layer : layers_) layers.append(layer.json);
   return {{"name", title()},
           {"coordinateSystem", system_.definition},
@@ -233,7 +235,8 @@ QJsonObject NewMap::pageJson() const {
 // The map goes into the largest data frame, and the title to where the template has one.
 bool NewMap::takeTemplate(QJsonObject& json) {
   QString problem;
-  auto const read = SysUtility::readJsonFile(request_.templateFile, {tr("template"), QStringLiteral(".kdx"), 256}, problem);
+  auto const read =
+      SysUtility::readJsonFile(request_.templateFile, {tr("template"), QStringLiteral(".kdx"), 256}, problem);
   if (!read) return fail(problem);
   json = *read;
   QJsonArray elements = json.value("elements").toArray(), maps = json.value("maps").toArray();
@@ -242,7 +245,8 @@ bool NewMap::takeTemplate(QJsonObject& json) {
   for (int i = 0; i < elements.size(); ++i) {
     QJsonObject const element = elements.at(i).toObject();
     QJsonArray const sides = element.value("rectangle").toArray();
-    double const area = (sides.at(2).toDouble() - sides.at(0).toDouble()) * (sides.at(3).toDouble() - sides.at(1).toDouble());
+    double const area =
+        (sides.at(2).toDouble() - sides.at(0).toDouble()) * (sides.at(3).toDouble() - sides.at(1).toDouble());
     if (element.value("type") == QLatin1String("dataFrame") && area > largest)
       largest = area, mapNumber = element.value("map").toInt();
     double const size = element.value("symbol").toObject().value("size").toDouble(10);
@@ -263,12 +267,13 @@ bool NewMap::takeTemplate(QJsonObject& json) {
 
 bool NewMap::open() {
   PageComposition const page(page_);
-  QJsonObject json{{"format", "plotvane-document"},
-                   {"version", 1},
-                   {"page", pageJson()},
-                   {"maps", QJsonArray{mapJson()}},
-                   {"elements", QJsonArray{page.dataFrame(page.frame(hasGraticule_), isGlobe(),
-                                                          hasSea() ? MapColors::sea : MapColors::paper, hasGraticule_)}}};
+  QJsonObject json{
+      {"format", "plotvane-document"},
+      {"version", 1},
+      {"page", pageJson()},
+      {"maps", QJsonArray{mapJson()}},
+      {"elements", QJsonArray{page.dataFrame(page.frame(hasGraticule_), isGlobe(),
+                                             hasSea() ? MapColors::sea : MapColors::paper, hasGraticule_)}}};
   if (!request_.templateFile.isEmpty() && !takeTemplate(json)) return false;
   if (!MapDocumentHost::read(document_, json)) return fail(MapDocumentHost::takeLastFailure());
   result_.warnings << document_.GetWarnings();
@@ -292,8 +297,9 @@ bool NewMap::showAll() {
   double const width = std::max(all.xmax - all.xmin, least), height = std::max(all.ymax - all.ymin, least);
   auto const extent = make<Envelope>(all.xmin, all.ymin, all.xmax, all.ymax);
   double const around = isGlobe() ? 0.005 : margin;
-  extent->PutCoords((all.xmin + all.xmax - width) / 2 - around * width, (all.ymin + all.ymax - height) / 2 - around * height,
-                    (all.xmin + all.xmax + width) / 2 + around * width, (all.ymin + all.ymax + height) / 2 + around * height);
+  extent->PutCoords(
+      (all.xmin + all.xmax - width) / 2 - around * width, (all.ymin + all.ymax - height) / 2 - around * height,
+      (all.xmin + all.xmax + width) / 2 + around * width, (all.ymin + all.ymax + height) / 2 + around * height);
   map->SetExtent(extent);
   return true;
 }
@@ -360,7 +366,8 @@ bool NewMap::compose() {
   PageComposition const page(page_);
   QRectF place = page.frame(hasGraticule_);
   bool const isLandscape = page_.width() > page_.height();
-  QSizeF const room(isLandscape ? 0.28 * page_.width() : page_.width() - 4, isLandscape ? place.height() : 0.22 * page_.height());
+  QSizeF const room(isLandscape ? 0.28 * page_.width() : page_.width() - 4,
+                    isLandscape ? place.height() : 0.22 * page_.height());
   QSizeF const size = legendSize(room);
   QJsonArray elements{page.title(title())};
   if (!size.isEmpty()) {
@@ -390,6 +397,4 @@ bool NewMap::compose() {
 
 }  // namespace
 
-NewMapResult makeNewMap(NewMapRequest const& request, MapDocument& document) {
-  return NewMap(request, document).run();
-}
+NewMapResult makeNewMap(NewMapRequest const& request, MapDocument& document) { return NewMap(request, document).run(); }

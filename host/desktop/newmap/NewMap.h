@@ -13,7 +13,7 @@ class MapDocument;
 struct NewMapRequest {
   QStringList data;  ///< FILE for all its layers, or FILE|LAYER
   QString title;
-  QString paper;  ///< a form, as documents name it; A4 where it is empty
+  QString paper;                    ///< a form, as documents name it; A4 where it is empty
   std::optional<bool> isLandscape;  ///< the shape of the data decides where it is not said
   QString coordinateSystem;
   QString templateFile;  ///< a document whose page, and all that lies on it, is taken

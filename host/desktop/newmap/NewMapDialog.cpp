@@ -5,6 +5,7 @@
 
 #include <SysCarto/Paper.h>
 
+#include <QAction>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDragEnterEvent>
@@ -62,7 +63,7 @@ NewMapDialog::NewMapDialog(QStringList const& files, QWidget* parent) : QDialog(
   paper_->setObjectName(QStringLiteral("comboBox_Paper"));
   SysCarto::FormInfo info;
   for (SysCarto::PageFormID form = 0; SysCarto::Paper::GetFormInfo(form, info); ++form)
-    if (info.key != QLatin1String("Custom")) paper_->addItem(info.name, info.key);
+    if (info.key != QLatin1String("Custom")) paper_->addItem(info.displayName, info.key);
   paper_->setCurrentIndex(paper_->findData(QStringLiteral("A4")));
   form->addRow(tr("&Paper"), paper_);
   orientation_ = new QComboBox(this);
@@ -142,7 +143,8 @@ NewMapRequest NewMapDialog::request() const {
     auto const* const file = data_->topLevelItem(i);
     for (int j = 0; j < file->childCount(); ++j)
       if (file->child(j)->checkState(NameColumn) == Qt::Checked)
-        request.data << file->data(NameColumn, pathRole).toString() + QLatin1Char('|') + file->child(j)->text(NameColumn);
+        request.data << file->data(NameColumn, pathRole).toString() + QLatin1Char('|') +
+                            file->child(j)->text(NameColumn);
   }
   request.title = title_->text();
   request.paper = paper_->currentData().toString();

@@ -46,17 +46,18 @@ ExitStatus runNew(Subcommand const& self, QStringList const& arguments) {
                                  QStringLiteral("TEXT"));
   QCommandLineOption const paper(QStringLiteral("paper"), Texts::tr("The paper, such as A3; A4 if not given."),
                                  QStringLiteral("FORM"));
-  QCommandLineOption const landscape(QStringLiteral("landscape"),
-                                     Texts::tr("Let the sheet lie. The shape of the data decides if neither is given."));
+  QCommandLineOption const landscape(
+      QStringLiteral("landscape"), Texts::tr("Let the sheet lie. The shape of the data decides if neither is given."));
   QCommandLineOption const portrait(QStringLiteral("portrait"), Texts::tr("Let the sheet stand upright."));
   QCommandLineOption const crs(QStringLiteral("crs"),
                                Texts::tr("The coordinate system of the map, such as EPSG:3035; one that suits the data "
                                          "if not given."),
                                QStringLiteral("SYSTEM"));
-  QCommandLineOption const pattern(QStringLiteral("template"),
-                                   Texts::tr("A document whose page is taken, with all that lies on it; the map goes into "
-                                             "its largest data frame."),
-                                   QStringLiteral("DOCUMENT"));
+  QCommandLineOption const pattern(
+      QStringLiteral("template"),
+      Texts::tr("A document whose page is taken, with all that lies on it; the map goes into "
+                "its largest data frame."),
+      QStringLiteral("DOCUMENT"));
   QCommandLineOption const where(QStringLiteral("where"),
                                  Texts::tr("Only features of which this is true, such as \"population > 100000\"."),
                                  QStringLiteral("FILTER"));

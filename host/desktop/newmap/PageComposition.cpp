@@ -77,8 +77,7 @@ QRectF PageComposition::beside(QRectF& frame, QSizeF const& legend, bool hasGrat
 
 QJsonObject PageComposition::dataFrame(QRectF const& frame, bool isGlobe, char const* background,
                                        bool hasGraticule) const {
-  QJsonObject element{
-      {"type", "dataFrame"}, {"name", Texts::tr("Map")}, {"map", 0}, {"rectangle", sides(frame)}};
+  QJsonObject element{{"type", "dataFrame"}, {"name", Texts::tr("Map")}, {"map", 0}, {"rectangle", sides(frame)}};
   if (!isGlobe) {
     element.insert("border", QJsonObject{{"symbol", frameLine(0.7 * unit_)}});
     element.insert("background", QJsonObject{{"symbol", fillSymbol(background, "", 0)}});
@@ -86,10 +85,10 @@ QJsonObject PageComposition::dataFrame(QRectF const& frame, bool isGlobe, char c
   if (!hasGraticule) return element;
   QJsonObject line = lineSymbol(MapColors::graticule, 0.3 * unit_);
   line.insert("cap", "butt");
-  element.insert("grids", QJsonArray{QJsonObject{
-                              {"name", Texts::tr("Graticule")},
-                              {"lineSymbol", line},
-                              {"labelSymbol", textSymbol(textFamily, 6 * unit_, MapColors::softInk)}}});
+  element.insert("grids",
+                 QJsonArray{QJsonObject{{"name", Texts::tr("Graticule")},
+                                        {"lineSymbol", line},
+                                        {"labelSymbol", textSymbol(textFamily, 6 * unit_, MapColors::softInk)}}});
   return element;
 }
 

@@ -57,10 +57,9 @@ ProjectionChoice world(GlobeArea const& area) {
 ProjectionChoice polar(GlobeArea const& area) {
   bool const isNorth = area.centreLatitude() > 0;
   double const middle = area.width() > 300 ? 0 : rounded(area.centreLongitude(), area);
-  QString const definition = middle == 0 ? QLatin1String(isNorth ? "EPSG:6931" : "EPSG:6932")
-                                         : projText(QStringLiteral("laea +lat_0=%1 +lon_0=%2")
-                                                        .arg(isNorth ? 90 : -90)
-                                                        .arg(middle));
+  QString const definition =
+      middle == 0 ? QLatin1String(isNorth ? "EPSG:6931" : "EPSG:6932")
+                  : projText(QStringLiteral("laea +lat_0=%1 +lon_0=%2").arg(isNorth ? 90 : -90).arg(middle));
   return {definition, Texts::tr("Lambert azimuthal equal-area projection about the pole"),
           Texts::tr("The data lie about a pole, where an azimuthal projection shows all directions alike."), false};
 }
@@ -77,15 +76,16 @@ ProjectionChoice belt(GlobeArea const& area) {
 ProjectionChoice conic(GlobeArea const& area) {
   double const sixth = area.height() / 6;
   double const first = rounded(area.south + sixth, area), second = rounded(area.north - sixth, area);
-  return {projText(QStringLiteral("aea +lat_1=%1 +lat_2=%2 +lat_0=%3 +lon_0=%4")
-                       .arg(first)
-                       .arg(second)
-                       .arg(rounded(area.centreLatitude(), area))
-                       .arg(rounded(area.centreLongitude(), area))),
-          Texts::tr("Albers equal-area conic projection, %1 and %2").arg(latitude(first), latitude(second)),
-          Texts::tr("The data are broader than high and lie to one side of the equator: a conic projection, its standard "
-                    "parallels a sixth of the height within the edges."),
-          false};
+  return {
+      projText(QStringLiteral("aea +lat_1=%1 +lat_2=%2 +lat_0=%3 +lon_0=%4")
+                   .arg(first)
+                   .arg(second)
+                   .arg(rounded(area.centreLatitude(), area))
+                   .arg(rounded(area.centreLongitude(), area))),
+      Texts::tr("Albers equal-area conic projection, %1 and %2").arg(latitude(first), latitude(second)),
+      Texts::tr("The data are broader than high and lie to one side of the equator: a conic projection, its standard "
+                "parallels a sixth of the height within the edges."),
+      false};
 }
 
 ProjectionChoice azimuthal(GlobeArea const& area) {

@@ -19,7 +19,8 @@ struct Word {
 // The first that fits counts. In English and in the languages of data that people have.
 constexpr Word words[] = {
     {"contour|isoline|h.henlinie|courbe", Subject::Contour},
-    {"river|stream|canal|waterway|hydro|fluss|fl.sse|gew.sser|bach|lake|water|ocean|sea$|seas$|reservoir|glacier|rivi.re",
+    {"river|stream|canal|waterway|hydro|fluss|fl.sse|gew.sser|bach|lake|water|ocean|sea$|seas$|reservoir|glacier|rivi."
+     "re",
      Subject::Water},
     {"building|geb.ude|b.timent|footprint|house", Subject::Building},
     {"rail|bahn|tram|metro|subway|chemins?_de_fer", Subject::Rail},
@@ -38,20 +39,17 @@ QJsonObject layered(char const* type, QJsonArray const& layers) {
 }
 
 QJsonObject rails(double fineness) {
-  return layered("layeredLine", {lineSymbol("#6f6a72", 1.1 * fineness + 0.3),
-                                 QJsonObject{{"type", "dashLine"},
-                                             {"color", "#ffffff"},
-                                             {"width", 0.6 * fineness + 0.1},
-                                             {"cap", "butt"},
-                                             {"pattern", QJsonArray{4, 4}}}});
+  return layered("layeredLine",
+                 {lineSymbol("#6f6a72", 1.1 * fineness + 0.3), QJsonObject{{"type", "dashLine"},
+                                                                           {"color", "#ffffff"},
+                                                                           {"width", 0.6 * fineness + 0.1},
+                                                                           {"cap", "butt"},
+                                                                           {"pattern", QJsonArray{4, 4}}}});
 }
 
 QJsonObject dashed(char const* color, double width, QJsonArray const& pattern) {
-  return {{"type", "dashLine"},
-          {"color", QLatin1String(color)},
-          {"width", width},
-          {"cap", "butt"},
-          {"pattern", pattern}};
+  return {
+      {"type", "dashLine"}, {"color", QLatin1String(color)}, {"width", width}, {"cap", "butt"}, {"pattern", pattern}};
 }
 
 }  // namespace
@@ -111,7 +109,8 @@ QJsonObject Theme::symbol(GeometryKind kind, double fineness) const {
         case Subject::Land: return lineSymbol(MapColors::border, 0.3 + 0.3 * f);
         case Subject::Contour: return lineSymbol("#b98d5b", 0.2 + 0.15 * f);
         case Subject::Track:
-          return layered("layeredLine", {lineSymbol("#ffffff", 1.6 + 1.6 * f), lineSymbol(MapColors::marks[0], 0.8 + 1.2 * f)});
+          return layered("layeredLine",
+                         {lineSymbol("#ffffff", 1.6 + 1.6 * f), lineSymbol(MapColors::marks[0], 0.8 + 1.2 * f)});
         default: return {};
       }
     case GeometryKind::Points:
@@ -146,6 +145,5 @@ QJsonObject Theme::roadSymbol(int weight, double fineness) {
   constexpr double widths[] = {1.5, 2.2, 2.9, 3.4};
   int const at = std::clamp(weight - 2, 0, 3);
   double const width = 0.3 + widths[at] * fineness;
-  return layered("layeredLine",
-                 {lineSymbol("#8f8379", width + 0.3 + 0.4 * fineness), lineSymbol(fills[at], width)});
+  return layered("layeredLine", {lineSymbol("#8f8379", width + 0.3 + 0.4 * fineness), lineSymbol(fills[at], width)});
 }
