@@ -140,7 +140,7 @@ Symbolized byKind(Material const& of, FieldSurvey const& field) {
     renderer.insert("defaultSymbol", of.plain(MapColors::others));
   }
   return {renderer,
-          Texts::tr("coloured by “%1”, which has %n different value(s)", nullptr, values.size()).arg(field.name)};
+          Texts::tr("coloured by “%1”").arg(field.name)};
 }
 
 // As classes are made by hand, of a renderer with one symbol.

@@ -179,7 +179,9 @@ bool NewMap::choosePage() {
   if (request_.isLandscape.value_or(isBroad) != (page_.width() > page_.height())) page_.transpose();
   QString const lies = page_.width() > page_.height() ? tr("landscape") : tr("portrait");
   explain(tr("Page %1, %2").arg(wanted, lies),
-          request_.isLandscape ? tr("As asked for.") : tr("The data are broader than high, or not."));
+          request_.isLandscape ? tr("As asked for.")
+          : isBroad            ? tr("The data are broader than high.")
+                               : tr("The data are higher than broad."));
   return true;
 }
 
