@@ -7,6 +7,9 @@
 #include "host/desktop/newmap/NewMap.h"
 #include "host/desktop/newmap/ProjectionChoice.h"
 
+#include "host/SysCarto/maps/VectorLayer.h"
+
+#include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>
 
 #include <QJsonDocument>

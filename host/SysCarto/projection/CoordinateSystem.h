@@ -23,6 +23,6 @@ SYSCARTO_EXPORT std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QStrin
 
 /// The geographic system on whose globe a system lies: degrees from its prime meridian, longitude before latitude; null
 /// where it has none.
-std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system);
+SYSCARTO_EXPORT std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system);
 
 }  // namespace SysCarto

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SysCarto/Export.h>
+
 #include <QString>
 
 #include <memory>
@@ -7,7 +9,7 @@
 namespace SysCarto {
 
 /// How long a map unit is on the ground, in a map's coordinate system.
-class GroundScale {
+class SYSCARTO_EXPORT GroundScale {
 public:
   /// An empty definition, or one that can't be used, takes a unit for a metre.
   explicit GroundScale(QString const& definition);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SysCarto/Export.h>
+
 #include <QString>
 
 #include <memory>
@@ -11,7 +13,7 @@ class OGRSpatialReference;
 namespace SysCarto {
 
 /// Coordinates from one system into another, x before y in both. What can't be transformed comes out as NaN.
-class PointTransform {
+class SYSCARTO_EXPORT PointTransform {
 public:
   /// An empty pointer where there is no way between the systems; `error` then says why, as a clause.
   static std::unique_ptr<PointTransform> create(OGRSpatialReference const& from, OGRSpatialReference const& to,

@@ -32,24 +32,25 @@ FieldSurvey const* firstOf(LayerSurvey const& layer, std::initializer_list<char 
   return best;
 }
 
-bool hasLetters(FieldSurvey const& field) { return field.length > 0 && field.letters > 0.6 * field.length; }
+bool hasLetters(FieldSurvey const& field, double part = 0.6) { return field.letters > part * field.length; }
 double meanLength(FieldSurvey const& field) { return field.given > 0 ? double(field.length) / field.given : 0; }
 
-bool looksLikeNames(FieldSurvey const& field, LayerSurvey const& layer) {
-  return field.isText() && hasLetters(field) && meanLength(field) >= 2 && meanLength(field) <= 40 &&
+bool looksLikeNames(FieldSurvey const& field, LayerSurvey const& layer, double letters = 0.6) {
+  return field.isText() && hasLetters(field, letters) && meanLength(field) >= 2 && meanLength(field) <= 40 &&
          (field.distinct() > 1 || layer.count == 1);
 }
 
 }  // namespace
 
 FieldSurvey const* nameField(LayerSurvey const& layer) {
-  auto const* const named =
-      firstOf(layer,
-              {"name", "name_en", "name_int", "name_long", "nam|nom|nombre|nome|naam|navn|namn|nazwa|nimi",
-               "label|title|titel|titre|bezeichnung|bez", ".*name", "name.*|nam_.*|nom_.*",
-               "city|town|village|place|ort|stadt|gemeinde|ville|commune|municipality",
-               "street|strasse|stra..?e|road|rue|calle", "admin|state|country|county|province|region|land"},
-              [&](FieldSurvey const& field) { return looksLikeNames(field, layer) && field.given * 10 > layer.count; });
+  auto const* const named = firstOf(
+      layer,
+      {"name", "name_en", "name_int", "name_long", "nam|nom|nombre|nome|naam|navn|namn|nazwa|nimi",
+       "label|title|titel|titre|bezeichnung|bez", ".*name", "name.*|nam_.*|nom_.*",
+       "city|town|village|place|ort|stadt|gemeinde|ville|commune|municipality",
+       "street|strasse|stra..?e|road|rue|calle", "admin|state|country|county|province|region|land",
+       "station.*|site|standort|nr|number"},
+      [&](FieldSurvey const& field) { return looksLikeNames(field, layer, 0.15) && field.given * 10 > layer.count; });
   if (named) return named;
   for (FieldSurvey const& field : layer.fields)
     if (looksLikeNames(field, layer) && field.distinct() * 10 > field.given * 8 && field.given * 2 > layer.count &&

@@ -1,5 +1,6 @@
 #include "LayerStyling.h"
 #include "FieldChoice.h"
+#include "LandMask.h"
 #include "MapColors.h"
 #include "Theme.h"
 
@@ -50,10 +51,9 @@ QString forPeople(QString text) {
   return text.isEmpty() ? text : text.left(1).toUpper() + text.mid(1);
 }
 
-// 1 for a few features that have room, less the more there are on a square centimetre.
-double finenessOf(int count, KindRow const& row, double pageCm2) {
+double finenessOf(double density, KindRow const& row) {
   constexpr double finest = 0.06;
-  return std::clamp(row.room / std::sqrt(std::max(count / pageCm2, 1e-6)), finest, 1.0);
+  return std::clamp(row.room / std::sqrt(density), finest, 1.0);
 }
 
 QJsonObject simple(QJsonObject const& symbol, QString const& label = QString()) {
@@ -73,10 +73,11 @@ struct Material {
   LayerSurvey const& survey;
   GeometryKind kind;
   Theme theme;
-  double fineness;
+  double pageCm2;
   QString where;
+  double fineness = finenessOf(density(), rowOf(kind));  // 1 for what has room, less for what is crowded
 
-  QString file() const { return survey.file; }
+  double density() const { return std::max(survey.count / pageCm2, 1e-6); }  // features on a square centimetre
   SysCarto::SourceSettings source() const {
     SysCarto::SourceSettings source{survey.file, survey.description.name, where, QString()};
     return source;
@@ -139,8 +140,7 @@ Symbolized byKind(Material const& of, FieldSurvey const& field) {
     renderer.insert("defaultLabel", Texts::tr("Other"));
     renderer.insert("defaultSymbol", of.plain(MapColors::others));
   }
-  return {renderer,
-          Texts::tr("coloured by “%1”").arg(field.name)};
+  return {renderer, Texts::tr("coloured by “%1”").arg(field.name)};
 }
 
 // As classes are made by hand, of a renderer with one symbol.
@@ -203,6 +203,7 @@ struct Lettering {
 Lettering letteringOf(Material const& of) {
   using Subject = Theme::Subject;
   Subject const subject = of.theme.subject;
+  double const roomy = std::min(1.0, 0.3 / std::sqrt(of.density()));
   if (subject == Subject::Water) return {7, "EB Garamond", MapColors::waterText, 0.3, true, 15};
   switch (of.kind) {
     case GeometryKind::Points: return {6 + 2 * of.fineness, "Lato", MapColors::ink, 0, false, 30};
@@ -210,7 +211,7 @@ Lettering letteringOf(Material const& of) {
     default: break;
   }
   if (subject == Subject::Land || subject == Subject::Unknown)
-    return {7 + 2.5 * of.fineness, "EB Garamond", "#5d4650", 0.6, false, 40};
+    return {4.5 + 4.5 * roomy, "EB Garamond", "#5d4650", 0.6, false, 40};
   return {6.5, "Lato", MapColors::softInk, 0, true, 10};
 }
 
@@ -260,18 +261,20 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
   QString const file = QFileInfo(survey.file).completeBaseName();
   QString const name = survey.description.name.isEmpty() ? file : survey.description.name;
   KindRow const& row = rowOf(kind);
-  Material const of{survey, kind, Theme::of(name, kind), finenessOf(survey.count, row, pageCm2_), where};
+  Material of{survey, kind, Theme::of(name, kind), pageCm2_, where};
   FieldSurvey const* const names = nameField(survey);
   FieldSurvey const* const size = sizeField(survey);
   FieldSurvey const* const kinds = classField(survey);
   FieldSurvey const* const rate = kind == GeometryKind::Areas ? rateField(survey) : nullptr;
-  bool const isLand = kind == GeometryKind::Areas && of.theme.subject == Theme::Subject::Land;
+  bool const isLand = kind == GeometryKind::Areas && showsLand(survey, where, area_);
+  if (isLand) of.theme = {Theme::Subject::Land};
+  bool const isDivided = kind == GeometryKind::Areas && of.theme.subject == Theme::Subject::Land;
 
   std::optional<Symbolized> look;
   if (rate) look = byRate(of, *rate);
   if (!look && kinds && kind == GeometryKind::Lines && areRoads(*kinds)) look = roads(of, *kinds);
   if (!look && kind == GeometryKind::Points && size) look = bySize(of, *size);
-  if (!look && isLand && names && names->distinct() > 1 && names->distinct() <= maxColoured)
+  if (!look && isDivided && names && names->distinct() > 1 && names->distinct() <= maxColoured)
     look = byNeighbours(of, *names);
   if (!look && kinds && of.theme.subject == Theme::Subject::Unknown && kinds->distinct() <= 3 * maxClasses)
     look = byKind(of, *kinds);
@@ -282,7 +285,7 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
       symbol = of.plain(kind == GeometryKind::Areas ? MapColors::areas[areaColors_++ % MapColors::areas.size()]
                                                     : MapColors::marks[markColors_++ % MapColors::marks.size()]);
     look = Symbolized{simple(symbol), hasTheme ? Texts::tr("drawn as its name says") : Texts::tr("in one colour"),
-                      !isLand};
+                      !isDivided};
   }
 
   StyledLayer styled;

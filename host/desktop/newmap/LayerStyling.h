@@ -19,8 +19,9 @@ struct StyledLayer {
 /// Styles layers one after the other, so that each looks different from those before.
 class LayerStyling {
 public:
-  /// `areaKm2` is that of the map, and `pageCm2` that of its frame; what is crowded is drawn finer.
-  LayerStyling(double pageCm2, bool isSmallScale) : pageCm2_(pageCm2), isSmallScale_(isSmallScale) {}
+  /// For a map of that size on the page, on which what is crowded is drawn finer. `area` is what a map of a small scale
+  /// shows of the globe, of nothing for others.
+  LayerStyling(double pageCm2, GlobeArea const& area) : pageCm2_(pageCm2), area_(area) {}
 
   /// One layer for each kind of geometry that there is; `where` is a condition as of a layer's source.
   std::vector<StyledLayer> style(LayerSurvey const& survey, QString const& where);
@@ -29,6 +30,6 @@ private:
   StyledLayer styleKind(LayerSurvey const& survey, SysCarto::GeometryKind kind, QString const& where);
 
   double const pageCm2_;
-  bool const isSmallScale_;
+  GlobeArea const area_;
   int areaColors_ = 0, markColors_ = 0;  // used so far
 };

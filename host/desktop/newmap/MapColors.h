@@ -8,6 +8,7 @@ namespace MapColors {
 constexpr char const* ink = "#3b3a44";
 constexpr char const* softInk = "#6b6670";
 constexpr char const* paper = "#ffffff";
+constexpr char const* ground = "#faf8f3";  // of a map of which nothing is known but its data
 constexpr char const* land = "#f6eedc";
 constexpr char const* border = "#a08f88";
 constexpr char const* sea = "#cbe4f0";

@@ -9,6 +9,8 @@
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
+#include "host/SysCarto/projection/GroundScale.h"
+#include "host/SysCarto/projection/PointTransform.h"
 #include "host/SysUtility/JsonFile.h"
 
 #include <SysCarto/MapFrameElement.h>
@@ -21,6 +23,7 @@
 #include <ogr_spatialref.h>
 
 #include <algorithm>
+#include <cmath>
 
 using SysCarto::MapDocument;
 using SysCarto::MapDocumentHost;
@@ -35,10 +38,21 @@ using SysUtility::ptr_cast;
 namespace {
 
 constexpr double smallScale = 1500000;  // from which on a graticule helps
-constexpr double northKm = 1500;        // up to which north is up all over the map
 constexpr double margin = 0.04;         // of the extent, on each side
-constexpr double leastMetres = 2000;    // that a map shows, of a single place
-constexpr double cmPerKm = 100000;
+constexpr double globeMargin = 0.005;
+constexpr double leastMetres = 2000;  // that a map shows, of a single place
+constexpr double cmPerMetre = 100, metresPerDegree = 111200;
+
+// The next round denominator, no more than a tenth above.
+double roundScale(double denominator) {
+  if (!(denominator > 0)) return denominator;
+  constexpr double steps[] = {1,    1.1, 1.2, 1.25, 1.3, 1.4, 1.5, 1.6, 1.75, 1.8, 2, 2.2, 2.5, 2.75, 3,
+                              3.25, 3.5, 4,   4.5,  5,   5.5, 6,   6.5, 7,    7.5, 8, 8.5, 9,   9.5,  10};
+  double const ten = std::pow(10, std::floor(std::log10(denominator)));
+  for (double const step : steps)
+    if (step * ten >= denominator * (1 - 1e-9)) return step * ten;
+  return denominator;
+}
 
 class NewMap {
   Q_DECLARE_TR_FUNCTIONS(NewMap)
@@ -71,6 +85,7 @@ private:
   _ptr_t<MapFrameElement> frame() const;
   bool placeFrame(QRectF const& place);
   QJsonArray omittedFromLegend() const;
+  QRectF projectedArea() const;
   QSizeF legendSize(QSizeF const& within);
   bool isFree(QRectF const& place) const;
   QList<_ptr_t<SysCarto::Element>> elementsOf(QJsonArray const& elements);
@@ -175,21 +190,40 @@ bool NewMap::choosePage() {
   }
   if (page_.isEmpty())
     return fail(tr("“%1” is no paper; take one of: %2.").arg(wanted, names.join(QStringLiteral(", "))));
-  bool const isBroad = system_.isGlobe || !isPlaced_ || area_.widthKm() > 1.05 * area_.heightKm();
+  QRectF const shape = projectedArea();
+  bool const isBroad = !shape.isValid() || shape.width() > 1.05 * shape.height();
   if (request_.isLandscape.value_or(isBroad) != (page_.width() > page_.height())) page_.transpose();
   QString const lies = page_.width() > page_.height() ? tr("landscape") : tr("portrait");
-  explain(tr("Page %1, %2").arg(wanted, lies),
-          request_.isLandscape ? tr("As asked for.")
-          : isBroad            ? tr("The data are broader than high.")
-                               : tr("The data are higher than broad."));
+  explain(tr("Page %1, %2").arg(wanted, lies), request_.isLandscape ? tr("As asked for.")
+                                               : isBroad            ? tr("The data are broader than high.")
+                                                                    : tr("The data are higher than broad."));
   return true;
+}
+
+// What the area is on the map, in map units; not valid where that can't be told.
+QRectF NewMap::projectedArea() const {
+  auto const system = SysCarto::makeCoordinateSystem(system_.definition);
+  auto const globe = system && isPlaced_ && !isGlobe() ? SysCarto::globeOf(*system) : nullptr;
+  QString error;
+  auto const toMap = globe ? SysCarto::PointTransform::create(*globe, *system, error) : nullptr;
+  Box all;
+  constexpr int steps = 20;
+  for (int i = 0; toMap && i <= steps; ++i)
+    for (int j = 0; j <= steps; ++j) {
+      double x = std::remainder(area_.west + area_.width() * i / steps, 360.0),
+             y = area_.south + area_.height() * j / steps;
+      if (toMap->apply(x, y)) all.add({x, y, x, y});
+    }
+  return all.xmin <= all.xmax ? QRectF(QPointF(all.xmin, all.ymin), QPointF(all.xmax, all.ymax)) : QRectF();
 }
 
 bool NewMap::style() {
   QRectF const place = PageComposition(page_).frame(false);
-  double const kmAcross = std::max(area_.widthKm(), 0.1);
-  hasGraticule_ = isPlaced_ && !system_.definition.isEmpty() && kmAcross * cmPerKm / place.width() > smallScale;
-  LayerStyling styling(place.width() * place.height(), hasGraticule_);
+  auto const system = SysCarto::makeCoordinateSystem(system_.definition);
+  QRectF const shape = projectedArea();
+  double const metres = shape.width() * (system && system->IsProjected() ? system->GetLinearUnits() : metresPerDegree);
+  hasGraticule_ = system && (isGlobe() || metres * cmPerMetre / place.width() > smallScale);
+  LayerStyling styling(place.width() * place.height(), hasGraticule_ ? area_ : GlobeArea());
   for (LayerSurvey const& survey : surveys_)
     for (StyledLayer const& layer : styling.style(survey, request_.where)) layers_.push_back(layer);
   std::stable_sort(layers_.begin(), layers_.end(),
@@ -217,8 +251,8 @@ QJsonObject NewMap::mapJson() const {
         {"type", "feature"},
         {"name", tr("Sea")},
         {"source", QJsonObject{{"data", "globe"}}},
-        {"renderer",
-         QJsonObject{{"type", "simple"}, {"symbol", fillSymbol(hasSea() ? MapColors::sea : "#f4f4f1", "", 0)}}}});
+        {"renderer", QJsonObject{{"type", "simple"},
+                                 {"symbol", fillSymbol(hasSea() ? MapColors::sea : MapColors::ground, "", 0)}}}});
   for (StyledLayer const& layer : layers_) layers.append(layer.json);
   return {{"name", title()},
           {"coordinateSystem", system_.definition},
@@ -275,7 +309,7 @@ bool NewMap::open() {
       {"page", pageJson()},
       {"maps", QJsonArray{mapJson()}},
       {"elements", QJsonArray{page.dataFrame(page.frame(hasGraticule_), isGlobe(),
-                                             hasSea() ? MapColors::sea : MapColors::paper, hasGraticule_)}}};
+                                             hasSea() ? MapColors::sea : MapColors::ground, hasGraticule_)}}};
   if (!request_.templateFile.isEmpty() && !takeTemplate(json)) return false;
   if (!MapDocumentHost::read(document_, json)) return fail(MapDocumentHost::takeLastFailure());
   result_.warnings << document_.GetWarnings();
@@ -289,20 +323,24 @@ _ptr_t<MapFrameElement> NewMap::frame() const {
   return nullptr;
 }
 
+// All of the data, at a scale that a person would write.
 bool NewMap::showAll() {
   auto const map = frame()->GetMap();
   Box all;
   for (auto const& layer : map->GetLayers())
     if (auto const vector = ptr_cast<VectorLayer>(layer)) all.add(vector->features().box());
   if (!(all.xmin <= all.xmax)) all = {-1, -1, 1, 1};
-  double const least = area_.widthKm() < 1 && area_.heightKm() < 1 ? leastMetres : 0;
-  double const width = std::max(all.xmax - all.xmin, least), height = std::max(all.ymax - all.ymin, least);
-  auto const extent = make<Envelope>(all.xmin, all.ymin, all.xmax, all.ymax);
-  double const around = isGlobe() ? 0.005 : margin;
-  extent->PutCoords(
-      (all.xmin + all.xmax - width) / 2 - around * width, (all.ymin + all.ymax - height) / 2 - around * height,
-      (all.xmin + all.xmax + width) / 2 + around * width, (all.ymin + all.ymax + height) / 2 + around * height);
-  map->SetExtent(extent);
+  double const x = (all.xmin + all.xmax) / 2, y = (all.ymin + all.ymax) / 2;
+  double const unit = SysCarto::GroundScale(system_.definition).metresPerUnit(x, y, 1e-5 * std::max(std::abs(x), 1.0));
+  double const least = all.xmin == all.xmax && all.ymin == all.ymax ? leastMetres / unit : 0;
+  double const around = 1 + 2 * (isGlobe() ? globeMargin : margin);
+  double const halfWidth = around * std::max(all.xmax - all.xmin, least) / 2;
+  double const halfHeight = around * std::max(all.ymax - all.ymin, least) / 2;
+  map->SetExtent(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
+  double const scale = map->GetDisplayTransformation()->GetMapScale();
+  auto const rounded = map->GetExtent();
+  rounded->Expand(roundScale(scale) / scale, roundScale(scale) / scale, true);
+  map->SetExtent(rounded);
   return true;
 }
 
@@ -381,16 +419,17 @@ bool NewMap::compose() {
     } else {
       QRectF const legend = page.beside(place, size, hasGraticule_);
       placeFrame(place);
+      showAll();
       elements.append(page.legend(legend, omittedFromLegend(), false));
       explain(tr("Legend beside the map"), tr("It would hide data."));
     }
   }
   for (auto const& element : page.scale(isGlobe())) elements.append(element);
-  bool const hasArrow = isPlaced_ && !isGlobe() && std::max(area_.widthKm(), area_.heightKm()) < northKm;
+  bool const hasArrow = projectedArea().isValid() && !hasGraticule_;
   if (hasArrow) elements.append(page.northArrow());
   elements.append(page.credits(system_.name, hasArrow));
   explain(hasArrow ? tr("A north arrow") : tr("No north arrow"),
-          hasArrow ? tr("North is up all over the map.") : tr("North lies in different directions."));
+          hasArrow ? tr("North is up all over the map.") : tr("The graticule shows where north is."));
   explain(hasGraticule_ ? tr("A graticule") : tr("No graticule"),
           hasGraticule_ ? tr("The scale is small.") : tr("The scale is large."));
   document_.GetPageLayout()->GetGraphicsContainer()->AddElements(elementsOf(elements));

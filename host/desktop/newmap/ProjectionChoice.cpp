@@ -144,7 +144,7 @@ ProjectionChoice ProjectionChoice::forArea(GlobeArea const& area, QStringList co
   if (std::max(area.widthKm(), area.heightKm()) < townKm) return utm(area);
   bool const isBesideEquator = area.south > -5 || area.north < 5;
   double const middle = std::abs(area.centreLatitude());
-  bool const isWide = area.widthKm() > 1.2 * area.heightKm();
+  bool const isWide = area.widthKm() > 1.15 * area.heightKm();
   if (isWide && area.width() > 60 && middle < 12) return belt(area);
   if (isWide && isBesideEquator && middle > 15 && middle < 72 && area.width() < 150) return conic(area);
   return azimuthal(area);
