@@ -117,7 +117,8 @@ QString makeData(QString const& path, std::vector<MadeFeature> const& features, 
 
 LayerSurvey surveyOf(QString const& file) {
   QString problem;
-  auto const survey = surveyLayer(file, SysCarto::describeFile(file).layers.at(0), QString(), problem);
+  auto const layer = SysCarto::describeFile(file).layers.at(0);
+  auto const survey = surveyLayer({file, layer.name, QString(), QString()}, layer, problem);
   return survey ? *survey : LayerSurvey();
 }
 
@@ -183,7 +184,7 @@ private slots:
       squares.push_back({texts[i].constData(), QStringLiteral("Square %1").arg(i), double(i)});
     LayerSurvey const survey = surveyOf(makeData(path("squares.gpkg"), squares));
     QCOMPARE(survey.count, 64);
-    auto const groups = groupsOfNeighbours(survey, "name", QString(), 6);
+    auto const groups = groupsOfNeighbours(survey.source, "name", 5);
     QHash<QString, int> groupOf;
     for (size_t group = 0; group < groups.size(); ++group)
       for (QString const& name : groups[group]) groupOf[name] = static_cast<int>(group);

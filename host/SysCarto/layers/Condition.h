@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SysCarto/Export.h>
+
 #include <QString>
 #include <QStringList>
 
@@ -13,7 +15,7 @@ namespace SysCarto {
 
 /// A condition on the attributes of features. It is evaluated by OGR itself and never handed to a database: a document
 /// must not reach the functions that a database offers.
-class Condition {
+class SYSCARTO_EXPORT Condition {
 public:
   Condition();
   Condition(Condition&&) noexcept;

@@ -117,12 +117,11 @@ FieldSurvey const* LayerSurvey::field(QString const& name) const {
   return found == fields.end() ? nullptr : &*found;
 }
 
-std::optional<LayerSurvey> surveyLayer(QString const& file, SysCarto::LayerDescription const& layer,
-                                       QString const& where, QString& problem) {
+std::optional<LayerSurvey> surveyLayer(SysCarto::SourceSettings const& source, SysCarto::LayerDescription const& layer,
+                                       QString& problem) {
   LayerSurvey survey;
-  survey.file = file;
+  survey.source = source;
   survey.description = layer;
-  survey.kind = GeometryKind::None;
   for (FieldDescription const& field : layer.fields) {
     survey.fields.emplace_back();
     survey.fields.back().name = field.name;
@@ -130,10 +129,9 @@ std::optional<LayerSurvey> surveyLayer(QString const& file, SysCarto::LayerDescr
   }
   GlobeFinder finder(layer.coordinateSystem);
   std::vector<int> indices;
-  bool const isRead = scanFeatures(file, layer.name, where, problem, [&](OGRFeature const& feature) {
+  bool const isRead = scanFeatures(source, problem, [&](OGRFeature const& feature) {
     OGRGeometry const& geometry = *feature.GetGeometryRef();
-    GeometryKind const kind = kindOf(geometry);
-    survey.kind = survey.count == 0 || survey.kind == kind ? kind : GeometryKind::Mixed;
+    ++survey.counts[kindOf(geometry)];
     ++survey.count;
     finder.add(geometry, survey.extent);
     for (FieldSurvey const& field : survey.fields)  // once

@@ -5,6 +5,7 @@
 #include "host/SysCarto/layers/DataCatalogue.h"
 
 #include <QHash>
+#include <QMap>
 #include <QString>
 
 #include <optional>
@@ -32,23 +33,21 @@ struct FieldSurvey {
 
 /// A layer of a data file, looked at to make a map of it.
 struct LayerSurvey {
-  QString file;
+  SysCarto::SourceSettings source;
   SysCarto::LayerDescription description;
-  SysCarto::GeometryKind kind;  ///< of the features that there are
-  int count = 0;                ///< of features that have a geometry and that the filter admits
-  GlobeExtent extent;           ///< in degrees; empty where the coordinate system is not known
+  int count = 0;                             ///< of features that have a geometry and that the filter admits
+  QMap<SysCarto::GeometryKind, int> counts;  ///< the same by kind; `Mixed` for collections
+  GlobeExtent extent;                        ///< in degrees; empty where the coordinate system is not known
   std::vector<FieldSurvey> fields;
 
   FieldSurvey const* field(QString const& name) const;
 };
 
-/// Reads all features of a layer once. `where` is a condition as of a layer's source, or empty; `problem` gets a
-/// sentence where the layer can't be read or the condition is not understood.
-std::optional<LayerSurvey> surveyLayer(QString const& file, SysCarto::LayerDescription const& layer,
-                                       QString const& where, QString& problem);
+/// Reads all features of a layer once; `problem` gets a sentence where they can't be read.
+std::optional<LayerSurvey> surveyLayer(SysCarto::SourceSettings const& source, SysCarto::LayerDescription const& layer,
+                                       QString& problem);
 
 /// The features of an area layer by the value of a field, sorted into at most so many groups of which neighbours, as
 /// far as possible, are in different ones. Areas are neighbours where they share an edge of their outlines or come
 /// close.
-std::vector<QStringList> groupsOfNeighbours(LayerSurvey const& layer, QString const& field, QString const& where,
-                                            int groups);
+std::vector<QStringList> groupsOfNeighbours(SysCarto::SourceSettings const& source, QString const& field, int groups);

@@ -1,5 +1,6 @@
 #include "FeatureScan.h"
 
+#include "host/SysCarto/layers/Condition.h"
 #include "host/SysCarto/layers/DataSource.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 
@@ -16,22 +17,22 @@ struct Texts {
 
 }  // namespace
 
-// The condition is OGR's own to evaluate, never a database's.
-bool scanFeatures(QString const& file, QString const& layer, QString const& where, QString& problem,
+bool scanFeatures(SysCarto::SourceSettings const& source, QString& problem,
                   std::function<void(OGRFeature const&)> const& use) {
-  auto const source = SysCarto::DataSource::open(file, layer, problem);
-  if (!source) return false;
-  SysCarto::GdalErrors const errors;
-  OGRFeatureQuery query;
-  if (!where.isEmpty() && query.Compile(&source->layer(), where.toUtf8().constData()) != OGRERR_NONE) {
-    problem = Texts::tr("%1: the filter “%2” is not understood: %3.").arg(file, where, errors.reason());
+  auto const data = SysCarto::DataSource::open(source, problem);
+  if (!data) return false;
+  SysCarto::Condition condition;
+  QString reason;
+  if (!condition.compile(data->layer(), source.filter, reason)) {
+    problem = Texts::tr("%1: the filter “%2” is not understood: %3.").arg(source.file, source.filter, reason);
     return false;
   }
-  source->layer().ResetReading();
-  while (OGRFeatureUniquePtr const feature{source->layer().GetNextFeature()}) {
+  SysCarto::GdalErrors const errors;
+  data->layer().ResetReading();
+  while (OGRFeatureUniquePtr const feature{data->layer().GetNextFeature()}) {
     OGRGeometry const* const geometry = feature->GetGeometryRef();
-    if (geometry && !geometry->IsEmpty() && (where.isEmpty() || query.Evaluate(feature.get()))) use(*feature);
+    if (geometry && !geometry->IsEmpty() && condition.admits(*feature)) use(*feature);
   }
-  if (errors.hasFailure()) problem = Texts::tr("Not all of %1 could be read: %2.").arg(file, errors.reason());
+  if (errors.hasFailure()) problem = Texts::tr("Not all of %1 could be read: %2.").arg(source.file, errors.reason());
   return !errors.hasFailure();
 }

@@ -60,14 +60,13 @@ private:
 
 }  // namespace
 
-bool showsLand(LayerSurvey const& layer, QString const& where, GlobeArea const& area) {
+bool showsLand(SysCarto::SourceSettings const& source, LayerSurvey const& layer, GlobeArea const& area) {
   constexpr double smallest = 3;  // degrees: below that, the cells are too coarse
   if (layer.count > maxFeatures || area.width() < smallest || area.height() < smallest) return false;
   QImage const land(QStringLiteral(":/desktop/land.png"));
   PlateCarree drawn(layer.description.coordinateSystem, land.size());
   QString problem;
-  if (!scanFeatures(layer.file, layer.description.name, where, problem,
-                    [&](OGRFeature const& feature) { drawn.add(*feature.GetGeometryRef()); }))
+  if (!scanFeatures(source, problem, [&](OGRFeature const& feature) { drawn.add(*feature.GetGeometryRef()); }))
     return false;
   int cells[2][2] = {};  // by whether there is land, and whether it is drawn
   for (double latitude = area.south + 0.25; latitude < area.north; latitude += 1 / cellsPerDegree)

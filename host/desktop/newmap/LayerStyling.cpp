@@ -34,7 +34,7 @@ struct KindRow {
   int height;
 };
 constexpr KindRow kindRows[] = {
-    {GeometryKind::Areas, "OGR_GEOMETRY LIKE '%POLYGON%'", 1.2, 0},
+    {GeometryKind::Areas, "(OGR_GEOMETRY LIKE '%POLYGON%' OR OGR_GEOMETRY LIKE '%COLLECTION%')", 1.2, 0},
     {GeometryKind::Lines, "OGR_GEOMETRY LIKE '%LINESTRING%'", 1.6, 1},
     {GeometryKind::Points, "OGR_GEOMETRY LIKE '%POINT%'", 0.7, 2},
 };
@@ -74,19 +74,15 @@ struct Material {
   GeometryKind kind;
   Theme theme;
   double pageCm2;
-  QString where;
+  SysCarto::SourceSettings source;
   double fineness = finenessOf(density(), rowOf(kind));  // 1 for what has room, less for what is crowded
 
   double density() const { return std::max(survey.count / pageCm2, 1e-6); }  // features on a square centimetre
-  SysCarto::SourceSettings source() const {
-    SysCarto::SourceSettings source{survey.file, survey.description.name, where, QString()};
-    return source;
-  }
   QJsonObject plain(char const* color) const {
     switch (kind) {
       case GeometryKind::Points: return markerSymbol(color, 1.6 + 3.4 * fineness, "#ffffff", fineness > 0.3 ? 0.4 : 0);
       case GeometryKind::Lines: return lineSymbol(color, 0.3 + 0.9 * fineness);
-      default: return fillSymbol(color, MapColors::border, fineness > 0.2 ? 0.35 * fineness : 0);
+      default: return fillSymbol(color, MapColors::border, std::max(0.2, 0.35 * fineness));
     }
   }
 };
@@ -149,7 +145,7 @@ std::optional<Symbolized> classified(Material const& of, SysCarto::ClassifySetti
   SysCarto::RendererSettings now;
   SysUtility::JsonReader reader(simple(symbol));
   now.list(reader);
-  auto classes = SysCarto::classify(SysCarto::readValues(of.source(), wanted.field), now, wanted);
+  auto classes = SysCarto::classify(SysCarto::readValues(of.source, wanted.field), now, wanted);
   if (!reader.ok() || !classes.problem.isEmpty() || classes.renderer.classes.size() < 2) return std::nullopt;
   SysUtility::JsonWriter writer;
   classes.renderer.list(writer);
@@ -177,7 +173,7 @@ std::optional<Symbolized> byRate(Material const& of, FieldSurvey const& field) {
 
 Symbolized byNeighbours(Material const& of, FieldSurvey const& names) {
   QJsonArray classes;
-  auto const groups = groupsOfNeighbours(of.survey, names.name, of.where, MapColors::areas.size());
+  auto const groups = groupsOfNeighbours(of.source, names.name, MapColors::areas.size());
   for (size_t i = 0; i < groups.size(); ++i) {
     if (groups[i].isEmpty()) continue;
     classes.append(QJsonObject{{"label", Texts::tr("Colour %1").arg(i + 1)},
@@ -211,7 +207,7 @@ Lettering letteringOf(Material const& of) {
     default: break;
   }
   if (subject == Subject::Land || subject == Subject::Unknown)
-    return {4.5 + 4.5 * roomy, "EB Garamond", "#5d4650", 0.6, false, 40};
+    return {4.5 + 4.5 * roomy, "EB Garamond", "#5d4650", 0.5 * roomy, false, 40};
   return {6.5, "Lato", MapColors::softInk, 0, true, 10};
 }
 
@@ -242,31 +238,33 @@ QJsonObject labelsOf(Material const& of, FieldSurvey const& names, FieldSurvey c
 
 }  // namespace
 
-std::vector<StyledLayer> LayerStyling::style(LayerSurvey const& survey, QString const& where) {
+std::vector<StyledLayer> LayerStyling::style(LayerSurvey const& survey) {
+  auto const& counts = survey.counts;
+  bool const isPure = counts.size() == 1 && !counts.contains(GeometryKind::Mixed);
+  if (isPure || counts.isEmpty())
+    return {styleKind(survey, isPure ? counts.firstKey() : survey.description.kind, survey.source)};
   std::vector<StyledLayer> layers;
-  if (survey.kind != GeometryKind::Mixed) {
-    layers.push_back(
-        styleKind(survey, survey.kind == GeometryKind::None ? survey.description.kind : survey.kind, where));
-    return layers;
-  }
   for (KindRow const& row : kindRows) {
+    if (!counts.contains(row.kind) && !counts.contains(GeometryKind::Mixed)) continue;
+    SysCarto::SourceSettings source = survey.source;
     QString const filter = QLatin1String(row.filter);
-    layers.push_back(
-        styleKind(survey, row.kind, where.isEmpty() ? filter : QStringLiteral("(%1) AND %2").arg(where, filter)));
+    source.filter = source.filter.isEmpty() ? filter : QStringLiteral("(%1) AND %2").arg(source.filter, filter);
+    layers.push_back(styleKind(survey, row.kind, source));
   }
   return layers;
 }
 
-StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind, QString const& where) {
-  QString const file = QFileInfo(survey.file).completeBaseName();
-  QString const name = survey.description.name.isEmpty() ? file : survey.description.name;
+StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind,
+                                    SysCarto::SourceSettings const& source) {
+  QString const file = QFileInfo(source.file).completeBaseName();
+  QString const name = source.layer.isEmpty() ? file : source.layer;
   KindRow const& row = rowOf(kind);
-  Material of{survey, kind, Theme::of(name, kind), pageCm2_, where};
+  Material of{survey, kind, Theme::of(name, kind), pageCm2_, source};
   FieldSurvey const* const names = nameField(survey);
   FieldSurvey const* const size = sizeField(survey);
   FieldSurvey const* const kinds = classField(survey);
   FieldSurvey const* const rate = kind == GeometryKind::Areas ? rateField(survey) : nullptr;
-  bool const isLand = kind == GeometryKind::Areas && showsLand(survey, where, area_);
+  bool const isLand = kind == GeometryKind::Areas && showsLand(source, survey, area_);
   if (isLand) of.theme = {Theme::Subject::Land};
   bool const isDivided = kind == GeometryKind::Areas && of.theme.subject == Theme::Subject::Land;
 
@@ -291,17 +289,18 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
   StyledLayer styled;
   styled.name = forPeople(name);
   styled.extent = survey.extent;
+  styled.count = survey.count;
   styled.height = row.height;
   styled.isLegendWorthy = look->isLegendWorthy;
   styled.isLand = isLand;
   styled.reasons << look->reason;
-  QJsonObject source{{"file", survey.file}, {"layer", survey.description.name}};
-  if (!where.isEmpty()) source.insert("filter", where);
+  QJsonObject stored{{"file", source.file}, {"layer", source.layer}};
+  if (!source.filter.isEmpty()) stored.insert("filter", source.filter);
   styled.json = {{"type", "feature"},
                  {"name", styled.name},
-                 {"source", source},
+                 {"source", stored},
                  {"renderer", look->renderer},
-                 {"credits", QFileInfo(survey.file).fileName()}};
+                 {"credits", QFileInfo(source.file).fileName()}};
   bool const isCrowded = of.theme.subject == Theme::Subject::Building && survey.count > maxLabelledBuildings;
   if (names && !isCrowded) {
     styled.json.insert("labels", labelsOf(of, *names, size));

@@ -10,6 +10,7 @@ struct StyledLayer {
   QString name;
   GlobeExtent extent;
   QJsonObject json;     ///< as a document stores it, its file absolute
+  int count;            ///< of features
   int height;           ///< what is drawn later is higher: areas, lines, points
   bool isLegendWorthy;  ///< whether a legend tells something that the map does not
   bool isLand = false;  ///< areas with the sea around them
@@ -23,11 +24,11 @@ public:
   /// shows of the globe, of nothing for others.
   LayerStyling(double pageCm2, GlobeArea const& area) : pageCm2_(pageCm2), area_(area) {}
 
-  /// One layer for each kind of geometry that there is; `where` is a condition as of a layer's source.
-  std::vector<StyledLayer> style(LayerSurvey const& survey, QString const& where);
+  /// One layer for each kind of geometry that there is.
+  std::vector<StyledLayer> style(LayerSurvey const& survey);
 
 private:
-  StyledLayer styleKind(LayerSurvey const& survey, SysCarto::GeometryKind kind, QString const& where);
+  StyledLayer styleKind(LayerSurvey const& survey, SysCarto::GeometryKind kind, SysCarto::SourceSettings const& source);
 
   double const pageCm2_;
   GlobeArea const area_;

@@ -71,12 +71,11 @@ Wishes wishesOf(Outlines const& outlines) {
 
 // The most constrained first (Brélaz 1979): of what has neighbours in the most groups already, what has the most
 // neighbours. It goes where it disturbs least, and among those where there is least.
-std::vector<QStringList> groupsOfNeighbours(LayerSurvey const& layer, QString const& field, QString const& where,
-                                            int groups) {
+std::vector<QStringList> groupsOfNeighbours(SysCarto::SourceSettings const& source, QString const& field, int groups) {
   std::vector<QStringList> sorted(groups);
   QString problem;
   Outlines outlines;
-  scanFeatures(layer.file, layer.description.name, where, problem, [&](OGRFeature const& feature) {
+  scanFeatures(source, problem, [&](OGRFeature const& feature) {
     int const index = feature.GetFieldIndex(field.toUtf8().constData());
     if (index >= 0 && feature.IsFieldSetAndNotNull(index))
       outlines.add(*feature.GetGeometryRef(),

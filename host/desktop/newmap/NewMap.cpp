@@ -43,6 +43,13 @@ constexpr double globeMargin = 0.005;
 constexpr double leastMetres = 2000;  // that a map shows, of a single place
 constexpr double cmPerMetre = 100, metresPerDegree = 111200;
 
+// The points of tracks and routes, which lines show already.
+bool isPartOfTrack(QString const& layer, SysCarto::DataFile const& file) {
+  return std::any_of(file.layers.begin(), file.layers.end(), [&](SysCarto::LayerDescription const& other) {
+    return other.name.endsWith(QLatin1Char('s')) && layer == other.name.chopped(1) + QLatin1String("_points");
+  });
+}
+
 // The next round denominator, no more than a tenth above.
 double roundScale(double denominator) {
   if (!(denominator > 0)) return denominator;
@@ -86,7 +93,9 @@ private:
   bool placeFrame(QRectF const& place);
   QJsonArray omittedFromLegend() const;
   QRectF projectedArea() const;
+  Box drawnBy(QJsonObject const& surround);
   QSizeF legendSize(QSizeF const& within);
+  QJsonObject aligned(QJsonObject surround);
   bool isFree(QRectF const& place) const;
   QList<_ptr_t<SysCarto::Element>> elementsOf(QJsonArray const& elements);
 
@@ -143,13 +152,15 @@ bool NewMap::surveyFile(QString const& file, QString const& layer) {
     if (!layer.isEmpty() && one.name != layer) continue;
     isKnown = true;
     QString problem;
-    auto const survey = surveyLayer(file, one, request_.where, problem);
+    SysCarto::SourceSettings const source{file, one.name, request_.where, QString()};
+    auto const survey = surveyLayer(source, one, problem);
     if (!survey && request_.where.isEmpty()) return fail(problem);
     if (!survey) {
       result_.warnings << problem;
       continue;
     }
-    if (survey->count == 0 && one.kind == SysCarto::GeometryKind::None) continue;
+    bool const isTable = survey->count == 0 && one.kind == SysCarto::GeometryKind::None && one.count != 0;
+    if (isTable || (layer.isEmpty() && isPartOfTrack(one.name, described))) continue;
     if (survey->count == 0)
       result_.warnings << tr("The layer “%1” of %2 has no features to show.").arg(one.name, QFileInfo(file).fileName());
     surveys_.push_back(*survey);
@@ -225,9 +236,11 @@ bool NewMap::style() {
   hasGraticule_ = system && (isGlobe() || metres * cmPerMetre / place.width() > smallScale);
   LayerStyling styling(place.width() * place.height(), hasGraticule_ ? area_ : GlobeArea());
   for (LayerSurvey const& survey : surveys_)
-    for (StyledLayer const& layer : styling.style(survey, request_.where)) layers_.push_back(layer);
-  std::stable_sort(layers_.begin(), layers_.end(),
-                   [](StyledLayer const& one, StyledLayer const& other) { return one.height < other.height; });
+    for (StyledLayer const& layer : styling.style(survey)) layers_.push_back(layer);
+  std::stable_sort(layers_.begin(), layers_.end(), [](StyledLayer const& one, StyledLayer const& other) {
+    bool const areAreas = one.height == 0 && other.height == 0;  // large ones, which are few, below
+    return areAreas ? one.count < other.count : one.height < other.height;
+  });
   for (StyledLayer const& layer : layers_)
     explain(tr("Layer “%1”").arg(layer.name), layer.reasons.join(QStringLiteral("; ")));
   return true;
@@ -240,7 +253,7 @@ bool NewMap::hasSea() const {
 QString NewMap::title() const {
   if (!request_.title.isEmpty()) return request_.title;
   if (layers_.size() == 1) return layers_.front().name;
-  QString name = QFileInfo(surveys_.front().file).completeBaseName().replace(QLatin1Char('_'), QLatin1Char(' '));
+  QString name = QFileInfo(surveys_.front().source.file).completeBaseName().replace(QLatin1Char('_'), QLatin1Char(' '));
   return name.left(1).toUpper() + name.mid(1);
 }
 
@@ -366,20 +379,35 @@ QList<_ptr_t<SysCarto::Element>> NewMap::elementsOf(QJsonArray const& elements) 
                                      result_.problem);
 }
 
-// As large as it would be with as much room as that.
-QSizeF NewMap::legendSize(QSizeF const& within) {
-  PageComposition const page(page_);
-  auto const legends = elementsOf({page.legend({QPointF(0, 0), within}, omittedFromLegend(), false)});
-  auto const frame = legends.isEmpty() ? nullptr : ptr_cast<SysCarto::MapSurroundFrame>(legends.first());
-  if (!frame) return {};
-  auto const transformation = document_.GetPageLayout()->GetDisplayTransformation();
+// What a surround draws, in centimetres of the page; of nothing where it draws nothing.
+Box NewMap::drawnBy(QJsonObject const& surround) {
+  auto const made = elementsOf({surround});
+  auto const frame = made.isEmpty() ? nullptr : ptr_cast<SysCarto::MapSurroundFrame>(made.first());
   Box all;
+  if (!frame) return all;
+  auto const transformation = document_.GetPageLayout()->GetDisplayTransformation();
   for (auto const& piece : frame->GetMapSurround()->GetElements()) {
     auto const boundary = piece->GetBoundary(transformation)->GetEnvelope();
     all.add({boundary->GetXMin(), boundary->GetYMin(), boundary->GetXMax(), boundary->GetYMax()});
   }
+  return all;
+}
+
+// As large as it would be with as much room as that.
+QSizeF NewMap::legendSize(QSizeF const& within) {
+  Box const drawn = drawnBy(PageComposition(page_).legend({QPointF(0, 0), within}, omittedFromLegend(), false));
   constexpr double slack = 1.02;
-  return all.xmin <= all.xmax ? QSizeF(all.xmax * slack, (within.height() - all.ymin) * slack) : QSizeF();
+  return drawn.xmin <= drawn.xmax ? QSizeF(drawn.xmax * slack, (within.height() - drawn.ymin) * slack) : QSizeF();
+}
+
+// Surrounds are centred in their rectangles, and these two are to begin at the left: in no more room than they take.
+QJsonObject NewMap::aligned(QJsonObject surround) {
+  Box const drawn = drawnBy(surround);
+  QJsonArray sides = surround.value("rectangle").toArray();
+  constexpr double slack = 1.02;
+  if (drawn.xmin <= drawn.xmax) sides.replace(2, sides.at(0).toDouble() + slack * (drawn.xmax - drawn.xmin));
+  surround.insert("rectangle", sides);
+  return surround;
 }
 
 // Whether nothing of the data lies in a rectangle of the page.
@@ -424,7 +452,7 @@ bool NewMap::compose() {
       explain(tr("Legend beside the map"), tr("It would hide data."));
     }
   }
-  for (auto const& element : page.scale(isGlobe())) elements.append(element);
+  for (auto const& element : page.scale(isGlobe())) elements.append(aligned(element.toObject()));
   bool const hasArrow = projectedArea().isValid() && !hasGraticule_;
   if (hasArrow) elements.append(page.northArrow());
   elements.append(page.credits(system_.name, hasArrow));

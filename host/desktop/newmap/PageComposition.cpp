@@ -17,7 +17,7 @@ struct Texts {
 };
 
 constexpr double a4WidthCm = 21;
-constexpr double titlePt = 25;
+constexpr double titlePt = 28;
 constexpr char const* titleFamily = "EB Garamond";
 constexpr char const* textFamily = "Lato";
 
@@ -50,7 +50,7 @@ PageComposition::PageComposition(QSizeF const& pageCm)
       margin_(std::min(1.3 * unit_, std::min(pageCm.width(), pageCm.height()) / 10)) {}
 
 QRectF PageComposition::frame(bool hasGraticule) const {
-  double const around = hasGraticule ? 0.55 * unit_ : 0, head = 1.55 * unit_, gap = 0.35 * unit_;
+  double const around = hasGraticule ? 0.55 * unit_ : 0, head = 1.6 * unit_, gap = 0.35 * unit_;
   return {QPointF(left() + around, margin_ + footHeight() + gap + around),
           QPointF(right() - around, page_.height() - margin_ - head - around)};
 }

@@ -96,7 +96,7 @@ QJsonObject Theme::symbol(GeometryKind kind, double fineness) const {
       switch (subject) {
         case Subject::Water: return fillSymbol(MapColors::sea, MapColors::shore, 0.4 * f);
         case Subject::Land: return fillSymbol(MapColors::land, MapColors::border, 0.4 * f);
-        case Subject::Building: return fillSymbol("#c3b5a8", "#8d7f73", f > 0.5 ? 0.2 * f : 0);
+        case Subject::Building: return fillSymbol("#c3b5a8", "#8d7f73", 0.25);
         case Subject::Green: return fillSymbol("#d3e2bf", "#a9c08d", 0.25 * f);
         default: return {};
       }
