@@ -7,6 +7,7 @@
 
 #include "host/SysCarto/document/ElementClip.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GroundScale.h"
@@ -418,13 +419,15 @@ bool NewMap::isFree(QRectF const& place) const {
   double const unitsPerCm = extent->GetWidth() / sides->GetWidth();
   auto const x = [&](double cm) { return extent->GetXMin() + (cm - sides->GetXMin()) * unitsPerCm; };
   auto const y = [&](double cm) { return extent->GetYMin() + (cm - sides->GetYMin()) * unitsPerCm; };
-  Box const there{x(place.left()), y(place.top()), x(place.right()), y(place.bottom())};
+  // The map, looked at through a window that is just the place.
+  constexpr double pixelsPerCm = 1000;
+  auto const there = element->GetMap()->GetDisplayTransformation()->Clone();
+  there->SetDeviceFrame(QRectF(QPointF(), place.size() * pixelsPerCm).toRect());
+  there->SetVisibleBounds(make<Envelope>(x(place.left()), y(place.top()), x(place.right()), y(place.bottom())));
   for (auto const& layer : element->GetMap()->GetLayers()) {
     auto const vector = ptr_cast<VectorLayer>(layer);
-    if (!vector || vector->source().data == SysCarto::SourceSettings::Data::Globe) continue;
-    auto const& classes = vector->renderer().classes();
-    auto const within = vector->features().classesWithin(there, QTransform(), static_cast<int>(classes.size()));
-    if (std::find(within.begin(), within.end(), true) != within.end()) return false;
+    bool const isGlobe = vector && vector->source().data == SysCarto::SourceSettings::Data::Globe;
+    if (!isGlobe && SysCarto::LayerHost::classesWithin(*layer, there).contains(true)) return false;
   }
   return true;
 }
