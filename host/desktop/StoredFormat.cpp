@@ -43,6 +43,7 @@ constexpr char const* untoldOfDocuments[] = {
     "The minimum of a class lies above that of the class before, and a value is in one class only.",
     "Groups lie at most 16 deep in each other.",
     "The pattern of a scale text holds %1.",
+    "A source names a file, unless its data are the globe.",
 };
 constexpr char const* untoldOfStyles[] = {
     "Plotvane refuses some libraries that this schema accepts. Not told here: The file is UTF-8 and has at most 64 MB.",

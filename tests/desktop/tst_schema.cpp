@@ -26,12 +26,13 @@ Untold const untold[] = {
     {QRegularExpression("is in two classes"), "a value is in one class"},
     {QRegularExpression("groups are nested more than 16 deep"), "Groups lie at most 16"},
     {QRegularExpression("pattern: must hold %1"), "The pattern of a scale text"},
+    {QRegularExpression("is missing; name the file of the data"), "A source names a file"},
     {QRegularExpression("layers lie within layers more than 3 deep"), "in the layers of symbols at most 3"},
     {QRegularExpression("is smaller than that of the colour before"), "A stop of a gradient"},
     {QRegularExpression("svg: "), "An SVG is"},
 };
 // clang-format on
-int constexpr firstOfStyles = 11;
+int constexpr firstOfStyles = 12;
 
 QString verdictOnDocument(QJsonObject const& json) {
   SysUtility::JsonReader reader(json);
