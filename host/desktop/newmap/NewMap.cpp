@@ -436,10 +436,7 @@ bool NewMap::compose() {
   if (!request_.templateFile.isEmpty()) return true;
   PageComposition const page(page_);
   QRectF place = page.frame(hasGraticule_);
-  bool const isLandscape = page_.width() > page_.height();
-  QSizeF const room(isLandscape ? 0.28 * page_.width() : page_.width() - 4,
-                    isLandscape ? place.height() : 0.22 * page_.height());
-  QSizeF const size = legendSize(room);
+  QSizeF const size = legendSize(page.roomForLegend(isGlobe()));
   QJsonArray elements{page.title(title())};
   if (!size.isEmpty()) {
     int corner = 0;
@@ -448,7 +445,7 @@ bool NewMap::compose() {
       elements.append(page.legend(page.corner(place, size, corner), omittedFromLegend(), true));
       explain(tr("Legend in a corner of the map"), tr("Nothing of the data lies there."));
     } else {
-      QRectF const legend = page.beside(place, size, hasGraticule_);
+      QRectF const legend = page.beside(place, size, isGlobe(), hasGraticule_);
       placeFrame(place);
       showAll();
       elements.append(page.legend(legend, omittedFromLegend(), false));

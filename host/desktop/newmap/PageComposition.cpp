@@ -62,17 +62,20 @@ QRectF PageComposition::corner(QRectF const& frame, QSizeF const& legend, int wh
   return {QPointF(x, y), legend};
 }
 
-QRectF PageComposition::beside(QRectF& frame, QSizeF const& legend, bool hasGraticule) const {
+QSizeF PageComposition::roomForLegend(bool isGlobe) const {
+  if (!isLegendBelow(isGlobe)) return {0.28 * page_.width(), frame(false).height()};
+  return {right() - left(), (isGlobe ? 0.12 : 0.22) * page_.height()};
+}
+
+QRectF PageComposition::beside(QRectF& frame, QSizeF const& legend, bool isGlobe, bool hasGraticule) const {
   double const gap = (hasGraticule ? 1.1 : 0.6) * unit_;
-  if (page_.width() > page_.height()) {
-    double const width = std::min(legend.width(), 0.3 * page_.width());
-    frame.setRight(right() - width - gap);
-    return {QPointF(right() - width, frame.top()), QPointF(right(), frame.bottom())};
+  if (!isLegendBelow(isGlobe)) {
+    frame.setRight(right() - legend.width() - gap);
+    return {QPointF(right() - legend.width(), frame.top()), QPointF(right(), frame.bottom())};
   }
-  double const height = std::min(legend.height(), 0.3 * page_.height());
   double const lower = margin_ + footHeight() + 0.35 * unit_;
-  frame.setTop(lower + height + gap);
-  return {QPointF(left(), lower), QPointF(right(), lower + height)};
+  frame.setTop(lower + legend.height() + gap);
+  return {QPointF(left(), lower), QPointF(right(), lower + legend.height())};
 }
 
 QJsonObject PageComposition::dataFrame(QRectF const& frame, bool isGlobe, char const* background,

@@ -21,8 +21,15 @@ public:
   /// A legend of that size in a corner of the frame, 0 to 3, the lower left one first.
   QRectF corner(QRectF const& frame, QSizeF const& legend, int which) const;
 
-  /// Beside the frame, or below it on a page that stands upright; `frame` then is what is left of it.
-  QRectF beside(QRectF& frame, QSizeF const& legend, bool hasGraticule) const;
+  /// Whether a legend that is not over the map lies below it, on a page that stands upright and below a broad globe, or
+  /// to its right.
+  bool isLegendBelow(bool isGlobe) const { return isGlobe || page_.width() <= page_.height(); }
+
+  /// What a legend may take of the page.
+  QSizeF roomForLegend(bool isGlobe) const;
+
+  /// Below the frame or to its right; `frame` then is what is left of it.
+  QRectF beside(QRectF& frame, QSizeF const& legend, bool isGlobe, bool hasGraticule) const;
 
   QJsonObject dataFrame(QRectF const& frame, bool isGlobe, char const* background, bool hasGraticule) const;
   QJsonObject title(QString const& text) const;
