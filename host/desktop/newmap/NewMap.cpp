@@ -282,7 +282,7 @@ QJsonObject NewMap::pageJson() const {
   return page;
 }
 
-// The map goes into the largest data frame, and the title to where the template has one.
+// The map goes into the largest data frame, and the title to the largest text.
 bool NewMap::takeTemplate(QJsonObject& json) {
   QString problem;
   auto const read =
@@ -310,6 +310,13 @@ bool NewMap::takeTemplate(QJsonObject& json) {
     QJsonObject element = elements.at(titleAt).toObject();
     element.insert("text", title());
     elements.replace(titleAt, element);
+  }
+  for (int i = 0; i < elements.size(); ++i) {
+    QJsonObject element = elements.at(i).toObject(), content = element.value("surround").toObject();
+    if (content.value("kind") != QLatin1String("legend") || content.value("map").toInt(-1) != mapNumber) continue;
+    content.insert("omit", omittedFromLegend());
+    element.insert("surround", content);
+    elements.replace(i, element);
   }
   json.insert("elements", elements);
   return true;
