@@ -127,8 +127,10 @@ NewMapResult NewMap::run() {
 bool NewMap::survey() {
   if (request_.data.isEmpty()) return fail(tr("No data are named; give a file of data."));
   for (QString const& data : request_.data) {
-    QString const file = QFileInfo(data.section(QLatin1Char('|'), 0, 0)).absoluteFilePath();
-    if (!surveyFile(file, data.section(QLatin1Char('|'), 1))) return false;
+    QFileInfo const named(data.section(QLatin1Char('|'), 0, 0));
+    QString const path = named.absoluteFilePath();
+    for (QString const& file : named.isDir() ? SysCarto::dataFilesIn(path) : QVector<QString>{path})
+      if (!surveyFile(file, data.section(QLatin1Char('|'), 1))) return false;
   }
   if (surveys_.empty())
     return fail(request_.where.isEmpty()
@@ -174,7 +176,7 @@ bool NewMap::surveyFile(QString const& file, QString const& layer) {
 bool NewMap::chooseSystem() {
   if (!request_.coordinateSystem.isEmpty()) {
     QString const problem = SysCarto::checkCoordinateSystem(request_.coordinateSystem);
-    if (!problem.isEmpty()) return fail(tr("The coordinate system “%1” %2.").arg(request_.coordinateSystem, problem));
+    if (!problem.isEmpty()) return fail(tr("The coordinate system can't be taken: %1.").arg(problem));
     auto const system = SysCarto::makeCoordinateSystem(request_.coordinateSystem);
     system_ = {request_.coordinateSystem, QString::fromUtf8(system->GetName()), tr("As asked for."),
                isPlaced_ && area_.width() > 300 && area_.height() > 100};

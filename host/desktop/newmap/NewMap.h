@@ -11,7 +11,7 @@ class MapDocument;
 
 /// What a person says of the map that is to be made of data; everything but the data may be left out.
 struct NewMapRequest {
-  QStringList data;  ///< FILE for all its layers, or FILE|LAYER
+  QStringList data;  ///< FILE for all its layers, FILE|LAYER, or a folder of files
   QString title;
   QString paper;                    ///< a form, as documents name it; A4 where it is empty
   std::optional<bool> isLandscape;  ///< the shape of the data decides where it is not said

@@ -162,7 +162,7 @@ void NewMapDialog::showState() {
   if (wanted.data.isEmpty())
     problem = tr("Add files of data, or drop them here, and check what the map is to show.");
   else if (!wrong.isEmpty())
-    problem = tr("The coordinate system %1.").arg(wrong);
+    problem = tr("The coordinate system can't be taken: %1.").arg(wrong);
   problem_->setText(problem);
   buttons_->button(QDialogButtonBox::Ok)->setEnabled(problem.isEmpty());
 }
