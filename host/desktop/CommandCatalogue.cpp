@@ -231,6 +231,8 @@ public:
       {"Host_Snapping", "snapping", inView, 5, onNone, "Ctrl+Shift+;",
        QT_TR_NOOP("Snapping"), QT_TR_NOOP("Snap what is moved to edges, centres, guides and equal gaps; Alt switches it off"),
        nothing},
+      {"Host_UnplacedLabels", "unplaced-labels", inView, 5, onNone, "",
+       QT_TR_NOOP("Unplaced Labels"), QT_TR_NOOP("Show or hide, in red, the labels of the map that found no place"), document},
       {"Host_Contents", "contents", inView, 4, onNone, "F9",
        QT_TR_NOOP("Contents"), QT_TR_NOOP("Show or hide the table of contents"), nothing},
       {"Host_Properties", "properties", inView, 4, onNone, "F4",

@@ -2,9 +2,12 @@
 
 #include "host/SysCarto/document/ElementFields.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layout/MapPicture.h"
+#include "host/SysCarto/maps/VectorLayer.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapDocument.h>
+#include <SysCarto/MapFrameElement.h>
 #include <SysCarto/PageLayout.h>
 
 #include <QCoreApplication>
@@ -20,6 +23,8 @@ using SysCarto::Map;
 using SysUtility::_ptr_t;
 
 namespace {
+
+constexpr double labelsPerInch = 300;  // as an export has, if nobody says otherwise
 
 struct KindName {
   int type;
@@ -94,6 +99,22 @@ QJsonArray elementsJson(IElementContainer const* container) {
   return list;
 }
 
+// Of a layer that was labelled just now.
+QJsonValue labelsJson(Layer const& layer) {
+  auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(&layer);
+  if (!vector || !vector->IsAnnotationVisible()) return QJsonValue::Null;
+  SysCarto::LabelCount const count = vector->labelCount();
+  return QJsonObject{{QStringLiteral("wanted"), count.wanted}, {QStringLiteral("placed"), count.placed}};
+}
+
+void placeLabelsOf(Map const& map, IElementContainer const* container) {
+  if (!container) return;
+  for (auto const& element : container->GetElements()) {
+    auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element);
+    if (frame && frame->GetMap().get() == &map) SysCarto::placeLabels(*frame, labelsPerInch);
+  }
+}
+
 QJsonObject layerJson(_ptr_t<Layer> const& layer) {
   QJsonArray groups;
   for (auto const& group : SysCarto::LayerHost::groups(*layer)) groups.append(group->name());
@@ -101,6 +122,7 @@ QJsonObject layerJson(_ptr_t<Layer> const& layer) {
                      {QStringLiteral("type"), layer->GetType()},
                      {QStringLiteral("kind"), kindName(layerKinds, layer->GetType())},
                      {QStringLiteral("groups"), groups},
+                     {QStringLiteral("labels"), labelsJson(*layer)},
                      {QStringLiteral("visible"), layer->IsVisible()}};
 }
 
@@ -211,7 +233,10 @@ QJsonObject documentJson(SysCarto::MapDocument const& document) {
   document.GetMaps(maps);
   QJsonArray mapList;
   auto const layout = document.GetPageLayout();
-  for (auto const& map : maps) mapList.append(mapJson(map, map == layout->GetFocusMap()));
+  for (auto const& map : maps) {
+    placeLabelsOf(*map, layout->GetGraphicsContainer());
+    mapList.append(mapJson(map, map == layout->GetFocusMap()));
+  }
   return QJsonObject{
       {QStringLiteral("page"), layout ? pageJson(layout->GetPage()) : QJsonValue(QJsonValue::Null)},
       {QStringLiteral("elements"), elementsJson(layout ? layout->GetGraphicsContainer() : nullptr)},

@@ -11,6 +11,8 @@
 #include "layers/IdentifyTool.h"
 #include "layers/MapSystem.h"
 
+#include "host/SysCarto/maps/MapHost.h"
+
 #include <SysFramework/HostAccess.h>
 
 #include <QCoreApplication>
@@ -67,6 +69,11 @@ _ptr_t<SysCarto::Element> selectedAlone(DocumentViews const& views) {
   auto const layout = shownLayout(views);
   auto const selected = layout ? movableSelection(*layout) : QList<_ptr_t<SysCarto::Element>>();
   return selected.size() == 1 ? selected.first() : nullptr;
+}
+
+void toggleUnplaced(SysCarto::Map& map, SysCarto::ActiveView& view) {
+  SysCarto::MapHost::setShowsUnplaced(map, !SysCarto::MapHost::showsUnplaced(map));
+  view.PartialRefresh(SysCarto::RefreshPhase::Everything, nullptr);
 }
 
 bool canEdit(DocumentViews const& views) {
@@ -157,6 +164,10 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : vie
                                                 [focusMap] { return static_cast<bool>(focusMap()); },
                                                 {},
                                                 [problem] { return *problem; }});
+  add(QStringLiteral("Host_UnplacedLabels"),
+      {[&views, focusMap] { toggleUnplaced(*focusMap(), *views.activeView()); },
+       [focusMap] { return static_cast<bool>(focusMap()); },
+       [focusMap] { return focusMap() && SysCarto::MapHost::showsUnplaced(*focusMap()); }});
   add(QStringLiteral("Host_Edit"), {[&views] { editSelected(views); }, [&views] { return canEdit(views); }, {}});
   auto& view = views.layoutView();
   add(QStringLiteral("Host_Guides"),

@@ -3,6 +3,7 @@
 #include "host/SysCarto/elements/Placement.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/MapPicture.h"
+#include "host/SysCarto/maps/MapHost.h"
 
 #include <SysDisplay/Units.h>
 
@@ -31,12 +32,12 @@ int pixels(double cm, double pixelsPerCm) {
 bool MapTiles::Look::isSameAs(Look const& other) const {
   return map == other.map && std::abs(pixelsPerCm - other.pixelsPerCm) <= sameScale * pixelsPerCm &&
          sizePx == other.sizePx && SysCarto::haveSameCorners(extent, other.extent) && rotation == other.rotation &&
-         layers == other.layers && graphics == other.graphics;
+         showsUnplaced == other.showsUnplaced && layers == other.layers && graphics == other.graphics;
 }
 
 bool MapTiles::Look::hasSameLabels(Look const& other) const {
   return map == other.map && sizeCm == other.sizeCm && SysCarto::haveSameCorners(extent, other.extent) &&
-         rotation == other.rotation && layers == other.layers;
+         rotation == other.rotation && showsUnplaced == other.showsUnplaced && layers == other.layers;
 }
 
 MapTiles::Look MapTiles::lookOf(MapFrameElement const& frame, double pixelsPerCm) {
@@ -49,6 +50,7 @@ MapTiles::Look MapTiles::lookOf(MapFrameElement const& frame, double pixelsPerCm
   look.sizeCm = {rectangle->GetWidth(), rectangle->GetHeight()};
   look.extent = *look.map->GetExtent();
   look.rotation = look.map->GetRotation();
+  look.showsUnplaced = SysCarto::MapHost::showsUnplaced(*look.map);
   for (auto const& layer : look.map->GetLayers()) look.layers << SysCarto::LayerHost::look(*layer);
   if (auto const* container = look.map->GetGraphicsContainer()) look.graphics = container->GetElements();
   return look;

@@ -50,6 +50,7 @@ private:
     QSizeF sizeCm;
     SysGeometry::Envelope extent;
     double rotation = 0;
+    bool showsUnplaced = false;
     QList<quint64> layers;  // `LayerHost::look` of each
     QList<SysUtility::_ptr_t<SysCarto::Element>> graphics;
 

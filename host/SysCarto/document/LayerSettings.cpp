@@ -28,6 +28,11 @@ constexpr Choice dataKinds[] = {
     {SourceSettings::Data::File, "file", QT_TRANSLATE_NOOP("Fields", "A file")},
     {SourceSettings::Data::Globe, "globe", QT_TRANSLATE_NOOP("Fields", "The whole globe")},
 };
+constexpr Choice obstacles[] = {
+    {LabelObstacle::None, "none", QT_TRANSLATE_NOOP("Fields", "Nothing")},
+    {LabelObstacle::Marks, "marks", QT_TRANSLATE_NOOP("Fields", "Markers and lines")},
+    {LabelObstacle::Areas, "areas", QT_TRANSLATE_NOOP("Fields", "Whole areas")},
+};
 constexpr Choice kinds[] = {{FeatureKind, "feature", QT_TRANSLATE_NOOP("Fields", "Features")},
                             {GroupKind, "group", QT_TRANSLATE_NOOP("Fields", "Group of layers")}};
 
@@ -143,7 +148,8 @@ LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const&
                          LayerHost::effects(layer),
                          LayerHost::credits(layer),
                          layer.labelSettings(),
-                         labels};
+                         labels,
+                         layer.obstacle()};
   settings.source.file = storedPath(settings.source.file, context);
   for (TableJoin& join : settings.source.joins) join.file = storedPath(join.file, context);
   return settings;
@@ -177,6 +183,11 @@ void LayerSettings::list(Fields& fields) {
   fields.text({"credits", QT_TRANSLATE_NOOP("Fields", "Credits"),
                QT_TRANSLATE_NOOP("Fields", "Whom the data come from; [credits] in a text of the page names them all.")},
               credits, TextKind::Line, QString());
+  fields.choice<LabelObstacle>({"obstacle", QT_TRANSLATE_NOOP("Fields", "Kept free"),
+                                QT_TRANSLATE_NOOP("Fields",
+                                                  "What the labels of other layers keep off: nothing, markers and "
+                                                  "lines, or these and whole areas.")},
+                               obstacle, obstacles, usual.obstacle);
   bool const hasLabels =
       fields.optionalObject({"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
                              QT_TRANSLATE_NOOP("Fields", "Texts at the features; without them, none are written.")},
@@ -199,8 +210,7 @@ _ptr_t<Layer> LayerSettings::make(Map const& map, DocumentContext& context) cons
 void LayerSettings::applyTo(VectorLayer& layer, Map const& map, DocumentContext& context) const {
   SourceSettings const opened = sourceToOpen(context);
   bool const readsAlike = opened == layer.source() && renderer.classifiesAs(layer.renderer().settings()) &&
-                          labels.field == layer.labelSettings().field &&
-                          labels.priorityField == layer.labelSettings().priorityField;
+                          labels.read() == layer.labelSettings().read();
   layer.setRenderer(makeRenderer(renderer));
   give(layer);
   if (!readsAlike) open(layer, opened, map, context);
@@ -214,6 +224,7 @@ void LayerSettings::give(VectorLayer& layer) const {
   LayerHost::setEffects(layer, effects);
   LayerHost::setCredits(layer, credits);
   layer.setLabelSettings(labels);
+  layer.setObstacle(obstacle);
   annotation.applyTo(*layer.GetAnnotationProperties());
 }
 

@@ -20,6 +20,7 @@ struct LayerSettings {
   QString credits;
   LabelSettings labels;
   AnnotationSettings annotation;
+  LabelObstacle obstacle = LabelObstacle::None;
 
   static LayerSettings of(VectorLayer const& layer, DocumentContext const& context);
   void list(SysUtility::Fields& fields);

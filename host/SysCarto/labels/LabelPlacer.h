@@ -2,7 +2,8 @@
 
 #include "host/SysCarto/labels/LabelIndex.h"
 #include "host/SysCarto/labels/LabelSettings.h"
-#include "host/SysCarto/layers/FeatureLooks.h"
+#include "host/SysCarto/labels/LinePlaces.h"
+#include "host/SysCarto/labels/MarkShapes.h"
 #include "host/SysCarto/layers/ThinnedFeatures.h"
 
 #include <SysDisplay/DisplayTransformation.h>
@@ -11,17 +12,18 @@
 #include <QHash>
 
 #include <functional>
-#include <map>
 #include <optional>
 
 namespace SysCarto {
 
+/// A text of a label: all of it, or a letter of one that bends.
 struct PlacedLabel {
   QString text;
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;
   double x, y;   ///< map units; the text hangs on it by its symbol's alignment
   double angle;  ///< degrees, counterclockwise
   Ring area;     ///< map units, what the text covers
+  Ring leader;   ///< map units, from the text to what it names; empty for none
 };
 
 /// A text with the room it needs.
@@ -44,24 +46,51 @@ public:
   /// An area in map units that labels keep clear of.
   void addObstacle(SysGeometry::Polygon const& area);
 
+  /// Features of another layer that labels keep off, as drawn by its renderer.
+  void addObstacles(FeatureStore const& store, Renderer const& renderer, LabelObstacle kind);
+
   void place(std::function<bool()> const& isCancelled);
   std::vector<PlacedLabel> const& labels() const { return labels_; }
 
+  /// The features that are labelled, and what found no place, at its feature and without an area.
+  int placedCount() const { return placedCount_; }
+  std::vector<PlacedLabel> const& unplaced() const { return unplaced_; }
+
 private:
+  enum class Outcome { Placed, NoRoom, NotWanted };
+
+  // An area on the page, and its size.
+  struct PageArea {
+    Rings rings;
+    double size = 0;
+  };
+
+  // A text, or a letter of it, where it might stand.
+  struct Piece {
+    LabelText text;
+    QPointF centre;
+    double angle;
+  };
+  using Pieces = std::vector<Piece>;
+
   std::vector<int> candidates() const;
-  Box const& markShapeOf(int feature);
-  Box markOf(int feature, QPointF const& point);
   void collectMarks();
+  void addEdges(Ring const& points);
 
-  void placeFeature(int feature);
-  bool placeBesidePoint(int feature, LabelText& text, QPointF const& point);
-  bool placeInPolygon(LabelText const& text, int feature);
-  bool placeAlongLine(LabelText const& text, int feature);
+  Outcome placeFeature(int feature);
+  Outcome placeBesidePoint(int feature, LabelText& text, QPointF const& point);
+  Outcome placeAtPolygon(LabelText const& text, int feature);
+  bool placeInside(LabelText const& given, std::vector<PageArea> const& areas);
+  bool placeOutside(LabelText const& text, PageArea const& area);
+  Outcome placeAlongLines(LabelText const& text, int feature);
+  bool placeAlongLine(LabelText const& text, MeasuredLine const& line);
+  std::vector<Pieces> waysAlong(LabelText const& text, MeasuredLine const& line);
+  bool placeAlong(Pieces const& pieces);
 
-  bool isDrawn(int feature) const {
-    int const symbolClass = store_.features[feature].symbolClass;
-    return symbolClass >= 0 && !looks_.drawing()[symbolClass].empty();
-  }
+  std::vector<PageArea> areasOf(int feature);
+  std::vector<std::vector<QPointF>> linesOf(int feature);
+  bool isRepeatedTooSoon(QString const& text, QPointF const& middle) const;
+  void keepUnplaced(int feature);
 
   /// Where a text of that size goes beside a mark; an empty box where it finds no room.
   Box boxFor(Box const& mark, double width, double height) const;
@@ -70,7 +99,8 @@ private:
   std::optional<QPointF> visiblePoint(int feature) const;
 
   LabelShape shapeAt(LabelText const& text, QPointF const& centre, double angle, double gapPt) const;
-  void accept(LabelText const& text, QPointF const& centre, double angle);
+  bool isFree(LabelText const& text, QPointF const& centre, double angle) const;
+  void accept(LabelText const& text, QPointF const& centre, double angle, Ring const& leader = {});
 
   QPointF toPage(double x, double y) const {
     QPointF const turned = turn_.map(QPointF(x, y));
@@ -82,6 +112,8 @@ private:
 
   FeatureStore const& store_;
   LabelSettings const& settings_;
+  std::vector<PointPlace> const places_;
+  double const scale_;  // of the map, as a denominator
   ThinnedFeatures thinned_;
   QTransform turn_, turnBack_;    // of a map that is turned in its frame
   double left_ = 0, bottom_ = 0;  // map units, in the turned world
@@ -89,11 +121,13 @@ private:
   double unitsPerPoint_ = 0;
   Box frame_;
   LabelIndex index_;
-  FeatureLooks const looks_;
-  std::map<std::pair<int, FeatureLooks::Look>, Box> markShapes_;  // by class and look, about the position
+  MarkShapes shapes_;
   std::unique_ptr<MarkIndex> marks_;
   QHash<SysDisplay::TextSymbol const*, SysUtility::_ptr_t<SysDisplay::TextSymbol>> centred_;
+  QHash<QString, std::vector<QPointF>> along_;  // middles of the labels of lines, by their text
   std::vector<PlacedLabel> labels_;
+  int placedCount_ = 0;
+  std::vector<PlacedLabel> unplaced_;
 };
 
 /// The places for a text box inside an area, best first: near the place that is farthest from the area's border.
@@ -102,15 +136,5 @@ std::vector<QPointF> placesInside(Rings const& rings, double width, double heigh
 
 /// The same text in one, two and three lines of about equal length, as far as it has words.
 QStringList wrapped(QString const& text);
-
-/// A straight enough stretch of a line.
-struct Stretch {
-  QPointF middle;
-  double angle;  ///< degrees, within ±90, so that a text along it is upright
-  double bend;   ///< how far the line leaves the stretch to either side
-};
-
-/// The stretches of a line on which a text of that size can lie, nearest to the line's middle first.
-std::vector<Stretch> straightStretches(std::vector<QPointF> const& line, double width, double height);
 
 }  // namespace SysCarto

@@ -3,7 +3,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <cmath>
 
 namespace SysCarto {
 
@@ -14,9 +13,6 @@ namespace {
 constexpr double finePt = 0.5;
 constexpr int rows = 15;
 constexpr int maxLines = 3;
-constexpr double straightness = 0.97;  // of a stretch: its chord over its length
-constexpr double maxBend = 0.2;        // and how far the line may leave it, in text heights
-constexpr int maxStarts = 60;
 
 bool boxIsInside(Rings const& rings, QPointF const& centre, double width, double height) {
   Box const box{centre.x() - width / 2, centre.y() - height / 2, centre.x() + width / 2, centre.y() + height / 2};
@@ -93,41 +89,6 @@ QStringList wrapped(QString const& text) {
     }
   }
   return result;
-}
-
-std::vector<Stretch> straightStretches(std::vector<QPointF> const& line, double width, double height) {
-  std::vector<double> at(line.size(), 0);
-  for (size_t i = 1; i < line.size(); ++i)
-    at[i] = at[i - 1] + std::hypot(line[i].x() - line[i - 1].x(), line[i].y() - line[i - 1].y());
-  std::vector<std::pair<double, Stretch>> found;
-  double const room = at.empty() ? -1 : at.back() - width;
-  if (room < 0) return {};
-  auto const place = [&](double along) {
-    size_t const next =
-        std::clamp<size_t>(std::lower_bound(at.begin(), at.end(), along) - at.begin(), 1, at.size() - 1);
-    double const length = at[next] - at[next - 1];
-    double const t = length > 0 ? (along - at[next - 1]) / length : 0;
-    return line[next - 1] + (line[next] - line[next - 1]) * t;
-  };
-  int const starts = std::clamp(static_cast<int>(room / height), 1, maxStarts);
-  for (int i = 0; i <= starts; ++i) {
-    double const from = room * i / starts;
-    QPointF const a = place(from), b = place(from + width);
-    if (std::hypot(b.x() - a.x(), b.y() - a.y()) < straightness * width) continue;
-    double bend = 0;
-    for (size_t k = std::upper_bound(at.begin(), at.end(), from) - at.begin(); k < at.size() && at[k] < from + width;
-         ++k)
-      bend = std::max(bend, std::sqrt(SysGeometry::squaredDistanceToSegment(a, b, line[k])));
-    if (bend > maxBend * height) continue;
-    double angle = std::atan2(b.y() - a.y(), b.x() - a.x()) * 180 / M_PI;
-    if (angle > 90) angle -= 180;
-    if (angle <= -90) angle += 180;
-    found.push_back({std::abs(from - room / 2), {(a + b) / 2, angle, bend}});
-  }
-  std::stable_sort(found.begin(), found.end(), [](auto const& a, auto const& b) { return a.first < b.first; });
-  std::vector<Stretch> stretches;
-  for (auto const& one : found) stretches.push_back(one.second);
-  return stretches;
 }
 
 }  // namespace SysCarto

@@ -9,6 +9,7 @@
 namespace SysCarto {
 
 using SysUtility::_ptr_t;
+using SysUtility::Choice;
 using SysUtility::Fields;
 using SysUtility::TextKind;
 using SysUtility::Unit;
@@ -18,6 +19,91 @@ namespace {
 constexpr int maxClasses = 100;
 constexpr double farthest = 1e300;
 constexpr int maxPriority = 1000000;
+
+constexpr double maxPaperCm = 1000;
+constexpr double maxOffsetPt = 1000;
+
+// clang-format off
+constexpr Choice linePlaces[] = {
+    {LinePlace::Above, "above", QT_TRANSLATE_NOOP("Fields", "Above the line")},
+    {LinePlace::On, "on", QT_TRANSLATE_NOOP("Fields", "On the line")},
+    {LinePlace::Curved, "curved", QT_TRANSLATE_NOOP("Fields", "Curved with the line")},
+};
+constexpr Choice areaPlaces[] = {
+    {AreaPlace::Inside, "inside", QT_TRANSLATE_NOOP("Fields", "Inside")},
+    {AreaPlace::Outside, "outside", QT_TRANSLATE_NOOP("Fields", "Outside where it does not fit")},
+};
+// clang-format on
+
+QStringList knownPlaces() {
+  QStringList names;
+  for (PointPlace const& place : pointPlaces) names << QLatin1String(place.name);
+  return names;
+}
+
+void listText(Fields& fields, LabelSettings& labels) {
+  fields.filledText({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
+                     QT_TRANSLATE_NOOP("Fields", "The attribute whose value is the text.")},
+                    labels.field, TextKind::Attribute);
+  fields.text(
+      {"expression", QT_TRANSLATE_NOOP("Fields", "Text of an expression"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "An expression on the attributes as in SQL, “concat(name, ', ', country)”, for the text; "
+                         "where it has no value, the attribute's stands.")},
+      labels.expression, TextKind::Condition, QString());
+  fields.text({"language", QT_TRANSLATE_NOOP("Fields", "Language"),
+               QT_TRANSLATE_NOOP("Fields",
+                                 "A code such as de: where a feature has an attribute of that language beside the one "
+                                 "that is named (name:de or name_de beside name), it is the text.")},
+              labels.language, TextKind::Line, QString());
+  fields.flag({"groupsNumbers", QT_TRANSLATE_NOOP("Fields", "Numbers as they are read"),
+               QT_TRANSLATE_NOOP("Fields",
+                                 "Whether numbers have the decimal and thousands separators of the user's language.")},
+              labels.groupsNumbers, false);
+}
+
+void listPlaces(Fields& fields, LabelSettings& labels) {
+  LabelSettings const usual;
+  fields.number(
+      {"gap", QT_TRANSLATE_NOOP("Fields", "Gap"), QT_TRANSLATE_NOOP("Fields", "What is kept free around a label.")},
+      labels.gapPt, {0, 1000, Unit::Point}, usual.gapPt);
+  fields.number({"offset", QT_TRANSLATE_NOOP("Fields", "Distance"),
+                 QT_TRANSLATE_NOOP("Fields", "From the mark of a point, or from the line, to the label.")},
+                labels.offsetPt, {-maxOffsetPt, maxOffsetPt, Unit::Point}, usual.offsetPt);
+  fields.number(
+      {"wrap", QT_TRANSLATE_NOOP("Fields", "Broken at"),
+       QT_TRANSLATE_NOOP("Fields", "The width at which labels of points are broken into lines; 0 for never.")},
+      labels.wrapPt, {0, 10000, Unit::Point}, usual.wrapPt);
+  fields.texts(
+      {"pointPlaces", QT_TRANSLATE_NOOP("Fields", "Places beside points"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "Where a label may stand, the most wanted place first: upperRight, upperLeft, "
+                         "lowerRight, lowerLeft, right, left, above, below or centre; where none is named, all "
+                         "but the last in this order.")},
+      labels.places);
+  for (QString const& place : qAsConst(labels.places))
+    if (!knownPlaces().contains(place))
+      fields.fail("pointPlaces", QCoreApplication::translate("LabelSettings", "“%1” is no place; there are: %2")
+                                     .arg(place, knownPlaces().join(QStringLiteral(", "))));
+  fields.choice<LinePlace>({"linePlace", QT_TRANSLATE_NOOP("Fields", "Place along lines"),
+                            QT_TRANSLATE_NOOP("Fields", "How the label of a line lies on it; letters stand upright.")},
+                           labels.linePlace, linePlaces, usual.linePlace);
+  fields.number(
+      {"repeat", QT_TRANSLATE_NOOP("Fields", "Repeated after"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "How far from each other the same text stands along lines; with 0, each line has one "
+                         "label.")},
+      labels.repeatCm, {0, maxPaperCm, Unit::Centimetre}, usual.repeatCm);
+  fields.choice<AreaPlace>({"areaPlace", QT_TRANSLATE_NOOP("Fields", "Place at areas"),
+                            QT_TRANSLATE_NOOP("Fields",
+                                              "Whether a label that does not fit into its area is left out, or stands "
+                                              "beside it with a line that leads there.")},
+                           labels.areaPlace, areaPlaces, usual.areaPlace);
+  fields.number(
+      {"minSize", QT_TRANSLATE_NOOP("Fields", "Least size"),
+       QT_TRANSLATE_NOOP("Fields", "On the page: shorter lines and narrower areas have no labels. 0 for no limit.")},
+      labels.minSizeCm, {0, maxPaperCm, Unit::Centimetre}, usual.minSizeCm);
+}
 
 template <class Settings>
 void listSymbolOf(Fields& fields, Settings& settings) {
@@ -38,18 +124,14 @@ void LabelSettings::list(Fields& fields) {
   fields.flag(
       {"visible", QT_TRANSLATE_NOOP("Fields", "Visible"), QT_TRANSLATE_NOOP("Fields", "Whether there are labels.")},
       visible, true);
-  fields.filledText({"field", QT_TRANSLATE_NOOP("Fields", "Attribute"),
-                     QT_TRANSLATE_NOOP("Fields", "The attribute whose value is the text.")},
-                    field, TextKind::Attribute);
+  listText(fields, *this);
   fields.text(
       {"priorityField", QT_TRANSLATE_NOOP("Fields", "Attribute of the priority"),
        QT_TRANSLATE_NOOP(
            "Fields",
            "A numeric attribute: features with a higher number are labelled first; without one, in their own order.")},
       priorityField, TextKind::Attribute, QString());
-  fields.number(
-      {"gap", QT_TRANSLATE_NOOP("Fields", "Gap"), QT_TRANSLATE_NOOP("Fields", "What is kept free around a label.")},
-      gapPt, {0, 1000, Unit::Point}, LabelSettings().gapPt);
+  listPlaces(fields, *this);
   listSymbolOf(fields, *this);
   fields.list(
       {"classes", QT_TRANSLATE_NOOP("Fields", "Classes"),

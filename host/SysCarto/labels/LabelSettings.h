@@ -1,10 +1,12 @@
 #pragma once
 
+#include "host/SysCarto/layers/FeatureReader.h"
 #include "host/SysDisplay/TextSymbol.h"
 
 #include <SysCarto/Export.h>
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -22,17 +24,51 @@ struct LabelClass {
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;
 };
 
-/// What the labels of a layer say and how they look.
+/// How a label lies along its line.
+enum class LinePlace { Above, On, Curved };
+
+/// Where the label of an area goes.
+enum class AreaPlace { Inside, Outside };
+
+/// What labels of other layers keep off.
+enum class LabelObstacle { None, Marks, Areas };
+
+/// A place beside a mark: across, −1 to the left and 1 to the right of it, and up.
+struct PointPlace {
+  char const* name;
+  int across, up;
+};
+
+/// All of them in the order in which a label is wanted; the last one, on the mark itself, only where it is asked for.
+constexpr PointPlace pointPlaces[] = {
+    {"upperRight", 1, 1}, {"upperLeft", -1, 1}, {"lowerRight", 1, -1}, {"lowerLeft", -1, -1}, {"right", 1, 0},
+    {"left", -1, 0},      {"above", 0, 1},      {"below", 0, -1},      {"centre", 0, 0},
+};
+
+/// What the labels of a layer say, how they look and where they stand.
 struct LabelSettings {
   bool visible = false;
-  QString field;          ///< its value is the text; empty for no labels
+  QString field;       ///< its value is the text; empty for no labels
+  QString expression;  ///< what the text is made of instead, where it has a value
+  QString language;    ///< a code, as in `name:de`
+  bool groupsNumbers = false;
   QString priorityField;  ///< numeric, higher is placed first; empty for the order of the features
   double gapPt = 1.5;     ///< kept free around a label
+  double offsetPt = 1;    ///< from a mark or a line
+  double wrapPt = 0;      ///< at which labels of points are broken; 0 breaks none
+  QStringList places;     ///< names of `pointPlaces`, the most wanted first; empty for the usual ones
+  LinePlace linePlace = LinePlace::Above;
+  double repeatCm = 0;  ///< on paper, between labels of one text along lines; 0 for one label a line
+  AreaPlace areaPlace = AreaPlace::Inside;
+  double minSizeCm = 0;  ///< on paper, of lines and areas that are labelled
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;
   std::vector<LabelClass> classes;  ///< by minimum, ascending
 
   bool isUsed() const { return !field.isEmpty(); }
   SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbolFor(double priority) const;
+
+  /// What is read with the features.
+  LabelFields read() const { return {field, priorityField, expression, language, groupsNumbers}; }
 
   void list(SysUtility::Fields& fields);
 };

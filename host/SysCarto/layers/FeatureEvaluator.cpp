@@ -4,7 +4,6 @@
 #include <QCoreApplication>
 
 #include <limits>
-#include <thread>
 
 namespace SysCarto {
 
@@ -33,9 +32,8 @@ FeatureEvaluator::FeatureEvaluator(OGRLayer& layer, Renderer const& renderer, QS
                                    QStringList& warnings)
     : renderer_(renderer), isNeeded_(hasRules() || !renderer.varied().empty()) {
   if (!isNeeded_) return;
-  unsigned const threads = std::max(1U, std::thread::hardware_concurrency()) + 1;  // and the one that reads
   QStringList again;
-  for (unsigned i = 0; i < threads; ++i) idle_.push_back(make(layer, source, i == 0 ? warnings : again));
+  tools_.fill([&](unsigned i) { return make(layer, source, i == 0 ? warnings : again); });
 }
 
 std::unique_ptr<FeatureEvaluator::Tools> FeatureEvaluator::make(OGRLayer& layer, QString const& source,
@@ -67,21 +65,13 @@ double FeatureEvaluator::valueOf(VariedProperty const& property, Expression cons
 
 int FeatureEvaluator::place(OGRFeature& feature, FeatureStore& store) const {
   if (!isNeeded_) return -1;
-  std::unique_ptr<Tools> tools;
-  {
-    std::lock_guard const lock(mutex_);
-    tools = std::move(idle_.back());
-    idle_.pop_back();
-  }
   std::vector<int> fitting;
-  for (auto const& [rule, condition] : tools->rules)
-    if (condition.admits(feature)) fitting.push_back(rule);
-  for (size_t i = 0; i < tools->varied.size(); ++i)
-    store.addValue(valueOf(renderer_.varied()[i], tools->varied[i], feature));
-  {
-    std::lock_guard const lock(mutex_);
-    idle_.push_back(std::move(tools));
-  }
+  tools_.use([&](Tools const& tools) {
+    for (auto const& [rule, condition] : tools.rules)
+      if (condition.admits(feature)) fitting.push_back(rule);
+    for (size_t i = 0; i < tools.varied.size(); ++i)
+      store.addValue(valueOf(renderer_.varied()[i], tools.varied[i], feature));
+  });
   if (!hasRules()) return -1;
   if (fitting.empty() && renderer_.classes().size() > renderer_.settings().classes.size())
     fitting.push_back(static_cast<int>(renderer_.settings().classes.size()));

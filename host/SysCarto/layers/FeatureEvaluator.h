@@ -5,9 +5,9 @@
 #include "host/SysCarto/layers/FeatureReader.h"
 #include "host/SysCarto/layers/FeatureStore.h"
 #include "host/SysCarto/layers/Renderer.h"
+#include "host/SysCarto/layers/ToolPool.h"
 
 #include <memory>
-#include <mutex>
 #include <vector>
 
 namespace SysCarto {
@@ -35,8 +35,7 @@ private:
 
   Renderer const& renderer_;
   bool const isNeeded_;
-  mutable std::mutex mutex_;
-  mutable std::vector<std::unique_ptr<Tools>> idle_;
+  ToolPool<Tools> tools_;
 };
 
 }  // namespace SysCarto

@@ -5,6 +5,7 @@
 #include "host/SysCarto/layers/DerivedLayer.h"
 #include "host/SysCarto/layers/FeatureEvaluator.h"
 #include "host/SysCarto/layers/FeatureIntake.h"
+#include "host/SysCarto/layers/LabelReader.h"
 #include "host/SysCarto/layers/Renderer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GdalErrors.h"
@@ -125,7 +126,8 @@ private:
 void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition const& condition, Renderer const& renderer,
              SourceSettings const& source, LabelFields const& labels, Watch& watch, ReadFeatures& result) {
   Field const classField(layer, renderer.field(), source, result.warnings);
-  Field const labelField(layer, labels.text, source, result.warnings);
+  Field(layer, labels.text, source, result.warnings);
+  LabelReader const labelReader(layer, labels, describeSource(source), result.warnings);
   Field const priorityField(layer, labels.priority, source, result.warnings);
   FeatureStore& store = *result.store;
   FeatureEvaluator const evaluator(layer, renderer, describeSource(source), result.warnings);
@@ -140,7 +142,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     int const fitting = evaluator.place(feature, to);
     int const symbolClass =
         evaluator.hasRules() ? fitting : renderer.classOf(classField.text(feature), classField.number(feature));
-    to.endFeature(symbolClass, labelField.text(feature),
+    to.endFeature(symbolClass, labelReader.text(feature),
                   std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority);
   });
   layer.ResetReading();

@@ -15,11 +15,18 @@ namespace SysCarto {
 class FeatureStore;
 class Renderer;
 
-/// The fields that labels need; empty names for none.
+/// What labels need of the attributes; empty for none.
 struct LabelFields {
-  QString text;      ///< without it, labels need nothing
-  QString priority;  ///< numeric
+  QString text;                ///< a field; without it, labels need nothing
+  QString priority;            ///< a numeric field
+  QString expression;          ///< what the text is made of, where it has a value
+  QString language;            ///< a code: `name:de` or `name_de` come before a field `name`
+  bool groupsNumbers = false;  ///< as people of the user's language write them
 };
+inline bool operator==(LabelFields const& a, LabelFields const& b) {
+  return a.text == b.text && a.priority == b.priority && a.expression == b.expression && a.language == b.language &&
+         a.groupsNumbers == b.groupsNumbers;
+}
 
 struct ReadFeatures {
   std::unique_ptr<FeatureStore> store;  ///< never empty; without features after an error

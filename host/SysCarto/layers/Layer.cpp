@@ -16,6 +16,7 @@ struct Layer::Private {
   LayerEffects effects;
   QString credits;
   LayerGroups groups;
+  QList<Layer*> fellows;
   SysUtility::ChangeMark change;
   quint64 look = 1;
 };
@@ -66,6 +67,9 @@ void LayerHost::setGroups(Layer& layer, LayerGroups const& groups) {
   if (groups != layer.d->groups) changeLook(layer);
   layer.d->change.set(layer.d->groups, groups);
 }
+
+QList<Layer*> const& LayerHost::fellows(Layer const& layer) { return layer.d->fellows; }
+void LayerHost::setFellows(Layer& layer, QList<Layer*> const& fellows) { layer.d->fellows = fellows; }
 
 quint64 LayerHost::lastChange(Layer const& layer) {
   quint64 last = layer.d->change.time();

@@ -27,6 +27,10 @@ struct SYSCARTO_EXPORT LayerHost {
   static QString credits(Layer const& layer);
   static void setCredits(Layer& layer, QString const& credits);
 
+  /// The layers of the map that holds it, itself among them; none while no map does. Told by the map.
+  static QList<Layer*> const& fellows(Layer const& layer);
+  static void setFellows(Layer& layer, QList<Layer*> const& fellows);
+
   /// When what can be set of every layer was last changed outside the history's steps (`ChangeMark`).
   static quint64 lastChange(Layer const& layer);
 

@@ -1,6 +1,8 @@
 #include "MapPicture.h"
 
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/maps/MapHost.h"
+#include "host/SysCarto/maps/VectorLayer.h"
 
 #include <SysCarto/FeatureLayer.h>
 #include <SysCarto/Map.h>
@@ -110,9 +112,12 @@ QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi) {
   auto const transformation = transformationOf(*frame.GetMap(), framePx, framePx, dpi / SysDisplay::pixelsPerInch);
   QMap<int, QList<_ptr_t<SysGeometry::Polygon>>> obstacles;
   QList<_ptr_t<Element>> labels;
-  for (auto const& layer : labelledLayers(*frame.GetMap()))
+  QList<_ptr_t<Element>> unplaced;
+  for (auto const& layer : labelledLayers(*frame.GetMap())) {
     layer->GetAnnotationElements(obstacles, labels, transformation, nullptr);
-  return labels;
+    if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer)) unplaced << vector->unplacedLabels();
+  }
+  return MapHost::showsUnplaced(*frame.GetMap()) ? labels + unplaced : labels;
 }
 
 }  // namespace SysCarto

@@ -29,7 +29,8 @@ SYSCARTO_EXPORT void drawOnFrame(QPainter& painter, MapFrameElement const& frame
                                  SysDisplay::DisplayTransformation const& transformation,
                                  std::function<void(SysDisplay::DisplayTransformation const&)> const& draw);
 
-/// The labels of a data frame's map, as an export at that resolution places them. No container holds them.
+/// The labels of a data frame's map, as an export at that resolution places them, and where views of the map are to
+/// show them, those that found no place. No container holds them.
 SYSCARTO_EXPORT QList<SysUtility::_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi);
 
 }  // namespace SysCarto

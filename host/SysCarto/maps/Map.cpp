@@ -54,10 +54,23 @@ struct Map::Private {
   _ptr_t<DisplayTransformation> transformation = make<DisplayTransformation>();
   ElementContainer graphics;
   int frames = 0;
+  bool showsUnplaced = false;
   SysUtility::ChangeMark change;
 
   void fit();
+  void setLayers(QList<_ptr_t<Layer>> const& wanted);
 };
+
+// A layer that has gone to another map in between has its fellows there.
+void Map::Private::setLayers(QList<_ptr_t<Layer>> const& wanted) {
+  QList<Layer*> before, now;
+  for (auto const& layer : qAsConst(layers)) before << layer.get();
+  for (auto const& layer : wanted) now << layer.get();
+  for (Layer* const layer : qAsConst(before))
+    if (LayerHost::fellows(*layer) == before) LayerHost::setFellows(*layer, {});
+  for (Layer* const layer : qAsConst(now)) LayerHost::setFellows(*layer, now);
+  change.set(layers, wanted);
+}
 
 // Centres the bounds and gives them the aspect of the frame. The transformation could fit them itself, but it would
 // leave them in the upper left corner.
@@ -82,7 +95,7 @@ Map::Map() : d(std::make_unique<Private>()) {
   d->transformation->SetPageScale(micrometresPerInch / pixelsPerInch);
   d->fit();
 }
-Map::~Map() = default;
+Map::~Map() { d->setLayers({}); }
 
 _ptr_t<DisplayTransformation> Map::GetDisplayTransformation() const { return d->transformation; }
 
@@ -94,8 +107,8 @@ _ptr_t<Layer> Map::GetLayer(int index) const { return d->layers.value(index); }
 QList<_ptr_t<Layer>> const& Map::GetLayers() const { return d->layers; }
 void Map::AddLayer(_ptr_t<Layer> const& layer) {
   if (!layer) return;
-  d->layers << layer;
-  d->change.raise();
+  auto layers = d->layers;
+  d->setLayers(layers << layer);
 }
 
 _ptr_t<Envelope> Map::GetExtent() const { return d->transformation->GetVisibleBounds(); }
@@ -130,7 +143,7 @@ void MapHost::setRotation(Map& map, double degrees) {
   map.d->fit();
 }
 
-void MapHost::setLayers(Map& map, QList<_ptr_t<Layer>> const& layers) { map.d->change.set(map.d->layers, layers); }
+void MapHost::setLayers(Map& map, QList<_ptr_t<Layer>> const& layers) { map.d->setLayers(layers); }
 
 double MapHost::lockedScale(Map const& map) { return map.d->lockedScale; }
 
@@ -150,6 +163,9 @@ Envelope MapHost::turnedBack(Map const& map, Envelope const& extent) {
   turned.CenterAt(centre.x(), centre.y());
   return turned;
 }
+
+bool MapHost::showsUnplaced(Map const& map) { return map.d->showsUnplaced; }
+void MapHost::setShowsUnplaced(Map& map, bool shows) { map.d->showsUnplaced = shows; }
 
 void MapHost::setFrameSize(Map& map, double widthCm, double heightCm) {
   if (!(std::isfinite(widthCm) && std::isfinite(heightCm) && widthCm > 0 && heightCm > 0)) return;

@@ -23,6 +23,10 @@ struct SYSCARTO_EXPORT MapHost {
   /// page: the same rectangle about the place that is its centre.
   static SysGeometry::Envelope turnedBack(Map const& map, SysGeometry::Envelope const& extent);
 
+  /// Whether views of the map also show the labels that found no place. No document stores it.
+  static bool showsUnplaced(Map const& map);
+  static void setShowsUnplaced(Map& map, bool shows);
+
   // Told by the data frames that are on a page: the size on paper, and that one comes or goes.
   static void setFrameSize(Map& map, double widthCm, double heightCm);
   static void countFrame(Map& map, bool comes);

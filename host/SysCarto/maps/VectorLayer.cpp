@@ -1,12 +1,17 @@
 #include "VectorLayer.h"
 
 #include "host/SysCarto/elements/ElementHost.h"
+#include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/labels/LabelPlacer.h"
 #include "host/SysCarto/layers/FeaturePasses.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysUtility/NumberText.h"
+
+#include <SysDisplay/SimpleLineSymbol.h>
+
+#include <QHash>
 
 #include <algorithm>
 #include <cmath>
@@ -21,6 +26,7 @@ using SysUtility::make;
 
 namespace {
 
+constexpr double leaderWidthPt = 0.4;
 constexpr int featurePhase = 1;
 constexpr int betweenCancelChecks = 64;
 
@@ -33,6 +39,27 @@ Box areaOf(DrawTarget const& target, double reachPx) {
   QRectF const area =
       target.toDevice().inverted().mapRect(target.area().adjusted(-reachPx, -reachPx, reachPx, reachPx));
   return {area.left(), area.top(), area.right(), area.bottom()};
+}
+
+_ptr_t<TextElement> elementOf(PlacedLabel const& placed, _ptr_t<TextSymbol> const& symbol) {
+  auto const element = make<TextElement>();
+  ElementHost::becomeLabel(*element);
+  element->setText(placed.text);
+  element->setSymbol(symbol);
+  element->setPosition(placed.x, placed.y);
+  element->setAngle(placed.angle);
+  return element;
+}
+
+_ptr_t<LineElement> leaderOf(PlacedLabel const& placed) {
+  auto const symbol = make<SimpleLineSymbol>();
+  symbol->SetColor(placed.symbol->format().color);
+  symbol->SetWidth(leaderWidthPt);
+  auto const element = make<LineElement>();
+  ElementHost::becomeLabel(*element);
+  element->setShape(make<SysGeometry::Polyline>(placed.leader));
+  element->setSymbol(symbol);
+  return element;
 }
 
 }  // namespace
@@ -48,7 +75,7 @@ VectorLayer::~VectorLayer() = default;
 QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings,
                           ReadProgress const& progress) {
   source_ = source;
-  ReadFeatures read = readFeatures(source, mapSystem, *renderer_, {labels_.field, labels_.priorityField}, progress);
+  ReadFeatures read = readFeatures(source, mapSystem, *renderer_, labels_.read(), progress);
   store_ = std::move(read.store);
   thinned_ = std::make_unique<ThinnedFeatures>(*store_);
   warnings += read.warnings;
@@ -146,25 +173,57 @@ QVector<bool> VectorLayer::findClassesWithin(Box const& shown, QTransform const&
 bool VectorLayer::IsAnnotationVisible() const { return labels_.visible && labels_.isUsed(); }
 _ptr_t<AnnotationProperties> VectorLayer::GetAnnotationProperties() const { return properties_; }
 
+void VectorLayer::setObstacle(LabelObstacle obstacle) {
+  if (obstacle != obstacle_) LayerHost::changeLook(*this);
+  obstacle_ = obstacle;
+}
+
+LabelCount VectorLayer::labelCount() const {
+  return {placedLabels_ + static_cast<int>(unplaced_.size()), placedLabels_};
+}
+
+QList<_ptr_t<Element>> VectorLayer::unplacedLabels() const {
+  QList<_ptr_t<Element>> labels;
+  QHash<TextSymbol const*, _ptr_t<TextSymbol>> reds;
+  for (PlacedLabel const& label : unplaced_) {
+    _ptr_t<TextSymbol>& red = reds[label.symbol.get()];
+    if (!red) {
+      TextFormat format = label.symbol->format();
+      format.color = Qt::red;
+      red = make<TextSymbol>(format);
+    }
+    labels << elementOf(label, red);
+  }
+  return labels;
+}
+
 void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obstacles, QList<_ptr_t<Element>>& labels,
                                         _ptr_t<DisplayTransformation> const& transformation,
                                         _ptr_t<TrackerCancel> cancel) {
+  placedLabels_ = 0;
+  unplaced_.clear();
   if (!transformation || !store_->keepsLabels || store_->size() == 0) return;
   LabelPlacer placer(*store_, labels_, *renderer_, *transformation);
   if (!placer.isUsable()) return;
   for (auto const& list : obstacles)
     for (_ptr_t<Polygon> const& obstacle : list)
       if (obstacle) placer.addObstacle(*obstacle);
+  for (Layer const* const fellow : LayerHost::fellows(*this)) {
+    auto const* const vector = dynamic_cast<VectorLayer const*>(fellow);
+    if (vector && vector != this && vector->showsAt(transformation->GetMapScale()))
+      placer.addObstacles(*vector->store_, *vector->renderer_, vector->obstacle_);
+  }
   placer.place([&] { return isCancelled(cancel); });
+  placedLabels_ = placer.placedCount();
+  unplaced_ = placer.unplaced();
+  auto& taken = obstacles[properties_->GetPriority()];
   for (PlacedLabel const& placed : placer.labels()) {
-    auto const element = make<TextElement>();
-    ElementHost::becomeLabel(*element);
-    element->setText(placed.text);
-    element->setSymbol(placed.symbol);
-    element->setPosition(placed.x, placed.y);
-    element->setAngle(placed.angle);
-    labels << element;
-    obstacles[properties_->GetPriority()] << make<Polygon>(QVector<QVector<QPointF>>{placed.area});
+    if (!placed.leader.isEmpty()) {
+      labels << leaderOf(placed);
+      taken << make<Polygon>(QVector<QVector<QPointF>>{placed.leader + placed.leader.mid(0, 1)});
+    }
+    labels << elementOf(placed, placed.symbol);
+    taken << make<Polygon>(QVector<QVector<QPointF>>{placed.area});
   }
 }
 

@@ -14,6 +14,13 @@
 namespace SysCarto {
 
 class ThinnedFeatures;
+struct PlacedLabel;
+
+/// How many features of a layer were to have labels where it was labelled last, and how many have them.
+struct LabelCount {
+  int wanted = 0;
+  int placed = 0;
+};
 
 /// Features of a file, held in memory in the map's coordinate system. A layer whose source can't be read is empty.
 class SYSCARTO_EXPORT VectorLayer final : public FeatureLayer {
@@ -36,6 +43,15 @@ public:
   void setRenderer(std::unique_ptr<Renderer> renderer);
   Renderer const& renderer() const { return *renderer_; }
   FeatureStore const& features() const { return *store_; }
+
+  /// What labels of other layers of its map keep off.
+  void setObstacle(LabelObstacle obstacle);
+  LabelObstacle obstacle() const { return obstacle_; }
+
+  LabelCount labelCount() const;
+
+  /// What found no place then, as labels in red at their features.
+  QList<SysUtility::_ptr_t<Element>> unplacedLabels() const;
 
   /// Other fields take effect when the layer is opened: the texts are read with the features.
   void setLabelSettings(LabelSettings const& settings);
@@ -65,6 +81,9 @@ private:
   QString problem_;
   std::unique_ptr<Renderer> renderer_;
   LabelSettings labels_;
+  LabelObstacle obstacle_ = LabelObstacle::None;
+  int placedLabels_ = 0;
+  std::vector<PlacedLabel> unplaced_;
   SysUtility::_ptr_t<AnnotationProperties> properties_;
   std::unique_ptr<FeatureStore> store_;
   std::unique_ptr<ThinnedFeatures> thinned_;

@@ -7,6 +7,7 @@
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysGeometry/PlaneGeometry.h"
 
+#include <SysCarto/Map.h>
 #include <SysGeometry/Point.h>
 
 #include <cmath>
@@ -159,6 +160,138 @@ private slots:
     Placed const result = placed(*layer.layer, shown({0, 0, 100, 100}, QSize(100, 100)).transformation());
     QCOMPARE(result.texts(), QStringList{"Danube"});
     QVERIFY(std::abs(ptr_cast<TextElement>(result.labels[0])->angle() - angle) < 1e-6);
+  }
+
+  void aTextIsMadeOfWhatAFeatureHas_data() {
+    Rows<QString, QString, bool, QString, QString> row;
+    row("the attribute", "", "", false, "Rhine|Elbe", "");
+    row("in a language, where there is a name in it", "", "de", false, "Rhein|Elbe", "");
+    row("in another way of naming such attributes", "", "fr", false, "Rhin|Elbe", "");
+    row("an expression, where it has a value", "concat(name, ' ', note)", "", false, "Rhine big|Elbe ", "");
+    row("an expression that is a number", "length * 2", "", false, "2467|Elbe", "");
+    row("a number as it is read", "length * 1000", "", true, "1,233,500|Elbe", "");
+    row("an expression that is none", "name +", "", false, "Rhine|Elbe", "name +");
+  }
+  void aTextIsMadeOfWhatAFeatureHas() {
+    auto const [expression, language, groups, expected, told] = fetched<QString, QString, bool, QString, QString>();
+    QByteArray const json = collection(
+        {R"({"type":"Feature","properties":{"name":"Rhine","name:de":"Rhein","name_fr":"Rhin","note":"big","length":1233.5},
+             "geometry":{"type":"Point","coordinates":[50,25]}})",
+         R"({"type":"Feature","properties":{"name":"Elbe","name:de":null,"note":"","length":null},
+             "geometry":{"type":"Point","coordinates":[50,75]}})"});
+    auto labels = settings(8);
+    labels.expression = expression;
+    labels.language = language;
+    labels.groupsNumbers = groups;
+    auto const layer = openedJson(json, "", make<SimpleMarkerSymbol>(), labels);
+    QCOMPARE(placed(*layer.layer, shown({0, 0, 300, 100}, QSize(300, 100)).transformation()).texts().join('|'),
+             expected);
+    QVERIFY(told.isEmpty() ? layer.warnings.isEmpty() : layer.warnings.value(0).contains(told));
+  }
+
+  void aLabelStandsWhereItIsAskedTo() {
+    QByteArray const json = geoJson(R"({"type":"Point","coordinates":[100,50]})", "Long Name");
+    auto labels = settings(9);
+    QStringList names;
+    for (PointPlace const& place : pointPlaces) {
+      labels.places = QStringList{place.name};
+      labels.offsetPt = 6;  // 8 map units
+      auto const layer = openedJson(json, "", make<SimpleMarkerSymbol>(), labels);
+      Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)).transformation());
+      QCOMPARE(result.labels.size(), 1);
+      QRectF const box = result.shapes()[0].boundingRect();
+      auto const side = [](double low, double high, double at) { return low > at + 8 ? 1 : high < at - 8 ? -1 : 0; };
+      QCOMPARE(side(box.left(), box.right(), 100), place.across);
+      if (place.across == 0) QCOMPARE(side(box.top(), box.bottom(), 50), place.up);
+    }
+    labels.places = QStringList{"right"};
+    labels.wrapPt = 30;
+    auto const layer = openedJson(json, "", make<SimpleMarkerSymbol>(), labels);
+    QCOMPARE(placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)).transformation()).texts(),
+             QStringList{"Long\nName"});
+    QVERIFY(placed(*layer.layer, shown({0, 0, 120, 100}, QSize(120, 100)).transformation()).labels.isEmpty());
+    QCOMPARE(layer.layer->labelCount().wanted, 1);
+    QCOMPARE(ptr_cast<TextElement>(layer.layer->unplacedLabels().value(0))->text(), QStringLiteral("Long Name"));
+  }
+
+  void aLineIsLabelledAsItIsAskedTo_data() {
+    Rows<LinePlace, double, double, int> row;
+    row("above", LinePlace::Above, 0, 0, 1);
+    row("on the line", LinePlace::On, 0, 0, 1);
+    row("curved, letter by letter", LinePlace::Curved, 0, 0, 6);
+    row("again and again", LinePlace::Above, 3, 0, 5);
+    row("not where it is shorter than asked", LinePlace::Above, 0, 20, 0);
+  }
+  void aLineIsLabelledAsItIsAskedTo() {
+    auto const [place, repeatCm, minSizeCm, count] = fetched<LinePlace, double, double, int>();
+    // Half a circle of 200 units, 5.3 cm, from right to left; 16.6 cm are drawn.
+    QByteArray points;
+    for (int i = 0; i <= 90; ++i)
+      points += (i ? ",[" : "[") + QByteArray::number(210 + 200 * std::cos(i * M_PI / 90)) + "," +
+                QByteArray::number(10 + 200 * std::sin(i * M_PI / 90)) + "]";
+    auto labels = settings(12);
+    labels.linePlace = place;
+    labels.repeatCm = repeatCm;
+    labels.minSizeCm = minSizeCm;
+    auto const layer = openedJson(geoJson(R"({"type":"LineString","coordinates":[)" + points + "]}", "Danube"), "",
+                                  make<SimpleLineSymbol>(), labels);
+    Placed const result = placed(*layer.layer, shown({-40, 0, 460, 260}, QSize(500, 260)).transformation());
+    QCOMPARE(result.labels.size(), count);
+    QCOMPARE(layer.layer->labelCount().wanted, count > 0 ? 1 : 0);
+    QPointF before;
+    for (auto const& label : result.labels) {
+      auto const text = ptr_cast<TextElement>(label);
+      QPointF const at = QPointF(rectOf(*text->GetGeometry()->GetEnvelope()).topLeft()) - QPointF(210, 10);
+      double const across = std::hypot(at.x(), at.y());
+      QVERIFY2(place == LinePlace::On ? std::abs(across - 200) < 4 : across > 206 && across < 225,
+               qPrintable(QString::number(across)));
+      QVERIFY(std::abs(std::remainder(text->angle() - std::atan2(at.y(), at.x()) * 180 / M_PI + 90, 360)) < 2);
+      if (repeatCm > 0 && !before.isNull()) QVERIFY(std::hypot(at.x() - before.x(), at.y() - before.y()) > 113);
+      QVERIFY(place != LinePlace::Curved || before.isNull() || at.x() > before.x());
+      before = at;
+    }
+  }
+
+  void aNameThatDoesNotFitStandsBesideItsArea() {
+    QByteArray const json =
+        geoJson(R"({"type":"Polygon","coordinates":[[[90,40],[104,40],[104,54],[90,54],[90,40]]]})", "Liechtenstein");
+    auto labels = settings(9);
+    labels.areaPlace = AreaPlace::Outside;
+    auto const layer = openedJson(json, "", nullptr, labels);
+    Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)).transformation());
+    QCOMPARE(result.labels.size(), 2);
+    QCOMPARE(result.labels[0]->GetType(), int(ElementType::Line));
+    QRectF const area(90, 40, 14, 14), text = result.shapes()[1].boundingRect();
+    QRectF const leader = rectOf(*result.labels[0]->GetEnvelope());
+    QVERIFY(!text.intersects(area));
+    QVERIFY(leader.intersects(area) && text.adjusted(-1e-6, -1e-6, 1e-6, 1e-6).intersects(leader));
+    QCOMPARE(layer.layer->labelCount().placed, 1);
+  }
+
+  void labelsKeepOffOtherLayers_data() {
+    Rows<LabelObstacle, int> row;
+    row("which they cover otherwise", LabelObstacle::None, 1);
+    row("that are a wall around the point", LabelObstacle::Marks, 1);
+    row("that are an area around the point", LabelObstacle::Areas, 0);
+  }
+  void labelsKeepOffOtherLayers() {
+    auto const [obstacle, count] = fetched<LabelObstacle, int>();
+    auto labels = settings(9);
+    labels.places = QStringList{"right", "left"};
+    auto const points = openedJson(geoJson(R"({"type":"Point","coordinates":[100,50]})", "Peru"), "",
+                                   make<SimpleMarkerSymbol>(), labels);
+    auto const wall =
+        openedJson(geoJson(R"({"type":"Polygon","coordinates":[[[10,10],[120,10],[120,90],[10,90],[10,10]]]})"), "");
+    wall.layer->setObstacle(obstacle);
+    auto map = make<Map>();
+    map->AddLayer(wall.layer);
+    map->AddLayer(points.layer);
+    auto const page = shown({0, 0, 200, 100}, QSize(200, 100)).transformation();
+    Placed const result = placed(*points.layer, page);
+    QCOMPARE(result.labels.size(), count);
+    if (count > 0) QCOMPARE(result.shapes()[0].boundingRect().left() > 100, obstacle == LabelObstacle::None);
+    map = nullptr;  // what is in no map has nothing to keep off
+    QCOMPARE(placed(*points.layer, page).labels.size(), 1);
   }
 };
 
