@@ -42,6 +42,7 @@ constexpr char const* untoldOfDocuments[] = {
     "Of two scale limits that are not 0, minScale is the smaller one.",
     "The minimum of a class lies above that of the class before, and a value is in one class only.",
     "Groups lie at most 16 deep in each other.",
+    "The places beside points are upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below and centre.",
     "The pattern of a scale text holds %1.",
     "A source names a file, unless its data are the globe.",
 };

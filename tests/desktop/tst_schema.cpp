@@ -25,6 +25,7 @@ Untold const untold[] = {
     {QRegularExpression("is not above that of the class before"), "The minimum of a class"},
     {QRegularExpression("is in two classes"), "a value is in one class"},
     {QRegularExpression("groups are nested more than 16 deep"), "Groups lie at most 16"},
+    {QRegularExpression("is no place; there are:"), "The places beside points"},
     {QRegularExpression("pattern: must hold %1"), "The pattern of a scale text"},
     {QRegularExpression("is missing; name the file of the data"), "A source names a file"},
     {QRegularExpression("layers lie within layers more than 3 deep"), "in the layers of symbols at most 3"},
