@@ -9,6 +9,7 @@
 #include "drawing/SelectionHandles.h"
 #include "drawing/TextEditing.h"
 #include "layers/IdentifyTool.h"
+#include "layers/LabelHandles.h"
 #include "layers/MapSystem.h"
 
 #include "host/SysCarto/maps/MapHost.h"
@@ -78,7 +79,7 @@ void toggleUnplaced(SysCarto::Map& map, SysCarto::ActiveView& view) {
 
 bool canEdit(DocumentViews const& views) {
   auto const element = selectedAlone(views);
-  return element && (element->GetType() == SysCarto::ElementType::Text || VertexHandles::hasVertices(*element));
+  return element && (element->GetType() == SysCarto::ElementType::Text || hasParts(*element));
 }
 
 // The vertices are the business of the tool that selects.

@@ -12,6 +12,7 @@
 #include "layers/LayerClasses.h"
 #include "layers/NewLayers.h"
 #include "layers/LayerSteps.h"
+#include "layers/PinnedLabels.h"
 
 #include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysUtility/JsonFile.h"
@@ -84,6 +85,11 @@ bool isSetting(QString const& text) {
   return !field.what.isEmpty() && !field.path.isEmpty() && !field.value.isNull();
 }
 
+std::optional<PinnedLabels> pinIn(FieldText const& field) {
+  return PinnedLabels::read(field.path.join(QLatin1Char('/')), field.value);
+}
+bool isPin(QString const& text) { return isSetting(text) && pinIn(FieldText::of(text)); }
+
 bool isPoint(QString const& text) { return numbersIn(text).size() == 2; }
 bool areTwoPoints(QString const& text) { return numbersIn(text).size() == 4; }
 bool isScale(QString const& text) { return scaleDenominatorOf(text).has_value(); }
@@ -143,6 +149,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("set"),        text("WHAT/FIELD…:VALUE"), isSetting, &RunSteps::setField, {}},
       {text("get"),        text("WHAT/FIELD…"),  isAnything,   &RunSteps::getField, {}},
       {text("classify"),   text("layer:MAP/LAYER/FIELD:METHOD,…"), isSetting, &RunSteps::classify, {}},
+      {text("label"),      text("layer:MAP/LAYER/KEY:X,Y|hidden|free"), isPin, &RunSteps::pinLabel, {}},
       {text("add"),        text("KIND:CONTENT@X,Y,…|layer:FILE|LAYER"), isAddition, &RunSteps::add, {}},
       {text("rotate"),     text("DEGREES"),      isNumber,     &RunSteps::rotate,  {}},
       {text("identify"),   text("X,Y"),          isPoint,      &RunSteps::identify, {}},
@@ -380,6 +387,16 @@ QString RunSteps::classify(QString const& text) {
     QString problem;
     for (auto const& layer : layers)
       if (problem.isEmpty()) problem = LayerClasses::make(bench_.session().document(), layer, wanted, warnings);
+    for (QString const& warning : qAsConst(warnings)) Console::complain(warning);
+    return problem;
+  });
+}
+
+QString RunSteps::pinLabel(QString const& text) {
+  FieldText const field = FieldText::of(text);
+  return withThings(field.what, [&](SysCarto::Editable::List const& layers) {
+    QStringList warnings;
+    QString const problem = pinIn(field)->giveTo(bench_.session().document(), layers.first(), warnings);
     for (QString const& warning : qAsConst(warnings)) Console::complain(warning);
     return problem;
   });

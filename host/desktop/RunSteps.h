@@ -54,6 +54,7 @@ private:
   QString setField(QString const& text);
   QString getField(QString const& text);
   QString classify(QString const& text);
+  QString pinLabel(QString const& text);
   QString withThings(QString const& what, std::function<QString(SysCarto::Editable::List const&)> const& use);
   QString add(QString const& text);
   QString rotate(QString const& degrees);

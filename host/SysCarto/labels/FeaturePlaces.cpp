@@ -1,9 +1,12 @@
 #include "LabelPlacer.h"
 
+#include "host/SysDisplay/TextWrap.h"
+
 #include <SysDisplay/Units.h>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace SysCarto {
 
@@ -18,6 +21,7 @@ constexpr int directions = 16;  // around an area
 constexpr int distances = 12;   // beyond it, half a text's height each
 constexpr int maxSteps = 40;
 constexpr double finePt = 0.5;
+constexpr double farHeights = 2;  // from which a pinned label has a leader
 
 bool isRing(Part const& part) { return part.kind == PartKind::Ring || part.kind == PartKind::FilledRing; }
 
@@ -180,7 +184,45 @@ void LabelPlacer::keepUnplaced(int feature) {
   Box const& box = store_.features[feature].box;
   double const x = (std::max(box.xmin, covered_.left()) + std::min(box.xmax, covered_.right())) / 2;
   double const y = (std::max(box.ymin, covered_.top()) + std::min(box.ymax, covered_.bottom())) / 2;
-  unplaced_.push_back({text.text, text.symbol, x, y, 0, {}, {}});
+  unplaced_.push_back({text.text, text.symbol, x, y, 0, {}, {}, store_.keys[feature]});
+}
+
+// Wherever it was put, with a line that leads there from afar.
+void LabelPlacer::placePinned(int feature, PinnedLabel const& pin) {
+  QPointF const centre = toPage(pin.x, pin.y);
+  LabelText text = textOf(feature);
+  if (settings_.wrapPt > 0) text.text = SysDisplay::wrapped(text.text, *text.symbol, settings_.wrapPt);
+  measure(text);
+  if (pin.hidden || text.bounds.isEmpty() || !frame_.contains(centre.x(), centre.y())) return;
+  Box const box = shapeAt(text, centre, pin.angle, 0).box;
+  QPointF const named = nearestOf(feature, centre);
+  QPointF const end(std::clamp(named.x(), box.xmin, box.xmax), std::clamp(named.y(), box.ymin, box.ymax));
+  bool const isFar = std::hypot(named.x() - end.x(), named.y() - end.y()) > farHeights * text.bounds.height();
+  size_t const before = labels_.size();
+  accept(text, centre, pin.angle, isFar ? Ring{named, end} : Ring());
+  count(feature, Outcome::Placed, before);
+}
+
+// Of an area its middle, and the place itself where it lies inside; of a line its nearest place.
+QPointF LabelPlacer::nearestOf(int feature, QPointF const& place) {
+  auto const areas = areasOf(feature);
+  for (PageArea const& area : areas)
+    if (SysGeometry::contains(area.rings, place.x(), place.y())) return place;
+  if (!areas.empty() && !areas[0].rings.isEmpty())
+    return SysGeometry::poleOfInaccessibility(areas[0].rings, finePt).place;
+  QPointF nearest = visiblePoint(feature).value_or(place);
+  double least = std::numeric_limits<double>::infinity();
+  for (auto const& line : linesOf(feature))
+    for (size_t i = 1; i < line.size(); ++i) {
+      QPointF const way = line[i] - line[i - 1];
+      double const squared = QPointF::dotProduct(way, way);
+      double const t = squared > 0 ? std::clamp(QPointF::dotProduct(place - line[i - 1], way) / squared, 0.0, 1.0) : 0;
+      QPointF const on = line[i - 1] + way * t, rest = place - on;
+      if (QPointF::dotProduct(rest, rest) >= least) continue;
+      least = QPointF::dotProduct(rest, rest);
+      nearest = on;
+    }
+  return nearest;
 }
 
 void LabelPlacer::addObstacles(FeatureStore const& store, Renderer const& renderer, LabelObstacle kind) {

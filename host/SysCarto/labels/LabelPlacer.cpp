@@ -62,6 +62,7 @@ LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& setting
   turn_ = DisplayTransformationHost::turn(transformation);
   turnBack_ = turn_.inverted();
   covered_ = DisplayTransformationHost::coveredWorld(transformation);
+  for (PinnedLabel const& pin : settings.pinned) pins_[pin.key] = &pin;
   left_ = bounds->GetXMin();
   bottom_ = bounds->GetYMin();
   frame_ = {0, 0, bounds->GetWidth() / unitsPerPoint, bounds->GetHeight() / unitsPerPoint};
@@ -108,13 +109,22 @@ void LabelPlacer::collectMarks() {
 void LabelPlacer::place(std::function<bool()> const& isCancelled) {
   if (!isUsable()) return;
   collectMarks();
-  int count = 0;
-  for (int const feature : candidates()) {
-    if (count++ % 64 == 0 && isCancelled()) return;
-    Outcome const outcome = placeFeature(feature);
-    if (outcome == Outcome::Placed) ++placedCount_;
-    if (outcome == Outcome::NoRoom) keepUnplaced(feature);
+  std::vector<int> features = candidates();
+  auto const free =
+      std::stable_partition(features.begin(), features.end(), [this](int feature) { return pinOf(feature); });
+  for (auto feature = features.begin(); feature != free; ++feature) placePinned(*feature, *pinOf(*feature));
+  int untilCheck = 0;
+  for (auto feature = free; feature != features.end(); ++feature) {
+    if (untilCheck++ % 64 == 0 && isCancelled()) return;
+    size_t const before = labels_.size();
+    count(*feature, placeFeature(*feature), before);
   }
+}
+
+void LabelPlacer::count(int feature, Outcome outcome, size_t labelsBefore) {
+  if (outcome == Outcome::Placed) ++placedCount_;
+  if (outcome == Outcome::NoRoom) keepUnplaced(feature);
+  for (size_t i = labelsBefore; i < labels_.size(); ++i) labels_[i].key = store_.keys[feature];
 }
 
 LabelPlacer::Outcome LabelPlacer::placeFeature(int feature) {
@@ -215,7 +225,7 @@ LabelShape LabelPlacer::shapeAt(LabelText const& text, QPointF const& centre, do
 
 void LabelPlacer::accept(LabelText const& text, QPointF const& centre, double angle, Ring const& leader) {
   LabelShape shape = shapeAt(text, centre, angle, 0);
-  PlacedLabel placed{text.text, text.symbol, 0, 0, angle, {}, {}};
+  PlacedLabel placed{text.text, text.symbol, 0, 0, angle, {}, {}, {}};
   auto const outline = shape.outline();
   for (QPointF const& corner : outline[0]) placed.area << fromPage(corner);
   for (QPointF const& point : leader) placed.leader << fromPage(point);

@@ -24,6 +24,7 @@ struct PlacedLabel {
   double angle;  ///< degrees, counterclockwise
   Ring area;     ///< map units, what the text covers
   Ring leader;   ///< map units, from the text to what it names; empty for none
+  QString key;   ///< of the feature
 };
 
 /// A text with the room it needs.
@@ -77,6 +78,11 @@ private:
   void collectMarks();
   void addEdges(Ring const& points);
 
+  PinnedLabel const* pinOf(int feature) const { return pins_.value(store_.keys[feature]); }
+  void placePinned(int feature, PinnedLabel const& pin);
+  QPointF nearestOf(int feature, QPointF const& place);
+  void count(int feature, Outcome outcome, size_t labelsBefore);
+
   Outcome placeFeature(int feature);
   Outcome placeBesidePoint(int feature, LabelText& text, QPointF const& point);
   Outcome placeAtPolygon(LabelText const& text, int feature);
@@ -113,6 +119,7 @@ private:
   FeatureStore const& store_;
   LabelSettings const& settings_;
   std::vector<PointPlace> const places_;
+  QHash<QString, PinnedLabel const*> pins_;
   double const scale_;  // of the map, as a denominator
   ThinnedFeatures thinned_;
   QTransform turn_, turnBack_;    // of a map that is turned in its frame

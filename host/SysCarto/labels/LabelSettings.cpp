@@ -18,6 +18,7 @@ namespace {
 
 constexpr int maxClasses = 100;
 constexpr double farthest = 1e300;
+constexpr int maxPinned = 10000;
 constexpr int maxPriority = 1000000;
 
 constexpr double maxPaperCm = 1000;
@@ -105,6 +106,32 @@ void listPlaces(Fields& fields, LabelSettings& labels) {
       labels.minSizeCm, {0, maxPaperCm, Unit::Centimetre}, usual.minSizeCm);
 }
 
+void listPinned(Fields& fields, LabelSettings& labels) {
+  fields.text({"keyField", QT_TRANSLATE_NOOP("Fields", "Attribute of the key"),
+               QT_TRANSLATE_NOOP("Fields",
+                                 "The attribute by which pinned labels know their features; without one, the number "
+                                 "that the file gives them.")},
+              labels.keyField, TextKind::Attribute, QString());
+  fields.list(
+      {"pinned", QT_TRANSLATE_NOOP("Fields", "Pinned labels"),
+       QT_TRANSLATE_NOOP("Fields", "Labels that stay where they were put, or are hidden."), "pinnedLabel"},
+      labels.pinned, maxPinned, [](Fields& own, PinnedLabel& pin, int) {
+        own.filledText({"key", QT_TRANSLATE_NOOP("Fields", "Key"),
+                        QT_TRANSLATE_NOOP("Fields", "Which feature it is: the value of its key.")},
+                       pin.key, TextKind::Line);
+        own.flag({"hidden", QT_TRANSLATE_NOOP("Fields", "Hidden"),
+                  QT_TRANSLATE_NOOP("Fields", "Whether the feature has no label at all.")},
+                 pin.hidden, false);
+        own.number({"x", QT_TRANSLATE_NOOP("Fields", "x"), QT_TRANSLATE_NOOP("Fields", "Of the middle of the text.")},
+                   pin.x, {-farthest, farthest, Unit::MapUnit}, 0);
+        own.number({"y", QT_TRANSLATE_NOOP("Fields", "y"), QT_TRANSLATE_NOOP("Fields", "Of the middle of the text.")},
+                   pin.y, {-farthest, farthest, Unit::MapUnit}, 0);
+        own.number({"angle", QT_TRANSLATE_NOOP("Fields", "Angle"),
+                    QT_TRANSLATE_NOOP("Fields", "By which the text is turned counterclockwise on the page.")},
+                   pin.angle, {-360, 360, Unit::Degree}, 0);
+      });
+}
+
 template <class Settings>
 void listSymbolOf(Fields& fields, Settings& settings) {
   listSymbol(fields,
@@ -145,6 +172,7 @@ void LabelSettings::list(Fields& fields) {
         if (index > 0 && !(one.minimum > classes[index - 1].minimum))
           own.fail("minimum", QCoreApplication::translate("LabelSettings", "is not above that of the class before"));
       });
+  listPinned(fields, *this);
 }
 
 AnnotationSettings AnnotationSettings::of(AnnotationProperties const& properties) {

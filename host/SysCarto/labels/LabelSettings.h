@@ -45,6 +45,14 @@ constexpr PointPlace pointPlaces[] = {
     {"left", -1, 0},      {"above", 0, 1},      {"below", 0, -1},      {"centre", 0, 0},
 };
 
+/// Where a person has put the label of a feature, whatever else is there.
+struct PinnedLabel {
+  QString key;          ///< of the feature
+  double x = 0, y = 0;  ///< map units, the middle of the text
+  double angle = 0;     ///< degrees on the page, counterclockwise
+  bool hidden = false;  ///< it has none; the rest then says nothing
+};
+
 /// What the labels of a layer say, how they look and where they stand.
 struct LabelSettings {
   bool visible = false;
@@ -63,12 +71,14 @@ struct LabelSettings {
   double minSizeCm = 0;  ///< on paper, of lines and areas that are labelled
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;
   std::vector<LabelClass> classes;  ///< by minimum, ascending
+  QString keyField;                 ///< whose value tells features apart; empty for the number that the file gives them
+  std::vector<PinnedLabel> pinned;
 
   bool isUsed() const { return !field.isEmpty(); }
   SysUtility::_ptr_t<SysDisplay::TextSymbol> const& symbolFor(double priority) const;
 
   /// What is read with the features.
-  LabelFields read() const { return {field, priorityField, expression, language, groupsNumbers}; }
+  LabelFields read() const { return {field, priorityField, expression, language, groupsNumbers, keyField}; }
 
   void list(SysUtility::Fields& fields);
 };

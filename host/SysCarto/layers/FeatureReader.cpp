@@ -128,12 +128,17 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   Field const classField(layer, renderer.field(), source, result.warnings);
   Field(layer, labels.text, source, result.warnings);
   LabelReader const labelReader(layer, labels, describeSource(source), result.warnings);
+  Field const keyField(layer, labels.key, source, result.warnings);
   Field const priorityField(layer, labels.priority, source, result.warnings);
   FeatureStore& store = *result.store;
   FeatureEvaluator const evaluator(layer, renderer, describeSource(source), result.warnings);
   store.keepsLabels = !labels.text.isEmpty();
   store.valuesPerFeature = static_cast<int>(renderer.varied().size());
   bool const isMarked = renderer.settings().kind == RendererSettings::Kind::Proportional;
+  auto const keyOf = [&](OGRFeature const& feature) {
+    if (!store.keepsLabels) return QString();
+    return labels.key.isEmpty() ? QString::number(feature.GetFID()) : keyField.text(feature);
+  };
   FeatureIntake intake(projector, store, [&](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
     to.beginFeature(feature.GetFID());
     auto const place = isMarked ? markedPlace(*feature.GetGeometryRef()) : nullptr;
@@ -143,7 +148,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     int const symbolClass =
         evaluator.hasRules() ? fitting : renderer.classOf(classField.text(feature), classField.number(feature));
     to.endFeature(symbolClass, labelReader.text(feature),
-                  std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority);
+                  std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority, keyOf(feature));
   });
   layer.ResetReading();
   bool isEmpty = true;

@@ -22,10 +22,11 @@ struct LabelFields {
   QString expression;          ///< what the text is made of, where it has a value
   QString language;            ///< a code: `name:de` or `name_de` come before a field `name`
   bool groupsNumbers = false;  ///< as people of the user's language write them
+  QString key;                 ///< a field that tells features apart; empty for the number that the file gives them
 };
 inline bool operator==(LabelFields const& a, LabelFields const& b) {
   return a.text == b.text && a.priority == b.priority && a.expression == b.expression && a.language == b.language &&
-         a.groupsNumbers == b.groupsNumbers;
+         a.groupsNumbers == b.groupsNumbers && a.key == b.key;
 }
 
 struct ReadFeatures {

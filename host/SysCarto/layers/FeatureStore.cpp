@@ -84,7 +84,7 @@ void FeatureStore::addPart(PartKind kind, double const* xy, int count) {
   polygonStarts_ = false;
 }
 
-void FeatureStore::endFeature(int symbolClass, QString const& label, double priority) {
+void FeatureStore::endFeature(int symbolClass, QString const& label, double priority, QString const& key) {
   current_.partCount = static_cast<int>(parts.size()) - current_.firstPart;
   if (current_.partCount == 0) return values.resize(features.size() * valuesPerFeature);
   current_.symbolClass = symbolClass;
@@ -94,6 +94,7 @@ void FeatureStore::endFeature(int symbolClass, QString const& label, double prio
   if (!keepsLabels) return;
   labels.push_back(label);
   priorities.push_back(priority);
+  keys.push_back(key);
 }
 
 int FeatureStore::classSetOf(std::vector<int> const& classes) {
@@ -116,6 +117,7 @@ void FeatureStore::append(FeatureStore& other) {
   ids.insert(ids.end(), other.ids.begin(), other.ids.end());
   labels.insert(labels.end(), other.labels.begin(), other.labels.end());
   priorities.insert(priorities.end(), other.priorities.begin(), other.priorities.end());
+  keys.insert(keys.end(), other.keys.begin(), other.keys.end());
   values.insert(values.end(), other.values.begin(), other.values.end());
   vertices_.takeOver(other.vertices_);
   box_.add(other.box_);

@@ -52,7 +52,7 @@ public:
   void startPolygon() override { polygonStarts_ = true; }
   void addPart(PartKind kind, double const* xy, int count) override;
   void addValue(double value) { values.push_back(value); }  ///< as many for each feature
-  void endFeature(int symbolClass, QString const& label, double priority);
+  void endFeature(int symbolClass, QString const& label, double priority, QString const& key = {});
 
   /// The number of a set of classes that fit a feature, ascending; −1 for none of them.
   int classSetOf(std::vector<int> const& classes);
@@ -80,6 +80,7 @@ public:
   std::vector<qint64> ids;         ///< by feature: its number in the source, to ask for its attributes
   std::vector<QString> labels;     ///< by feature; empty where the layer has no labels
   std::vector<double> priorities;  ///< by feature, higher is placed first; as `labels`
+  std::vector<QString> keys;       ///< by feature, what its label is known by; as `labels`
   bool keepsLabels = false;
   std::vector<double> values;  ///< `valuesPerFeature` of each feature that its symbols follow; not a number for none
   int valuesPerFeature = 0;

@@ -201,6 +201,7 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
                                         _ptr_t<DisplayTransformation> const& transformation,
                                         _ptr_t<TrackerCancel> cancel) {
   placedLabels_ = 0;
+  placed_.clear();
   unplaced_.clear();
   if (!transformation || !store_->keepsLabels || store_->size() == 0) return;
   LabelPlacer placer(*store_, labels_, *renderer_, *transformation);
@@ -215,9 +216,10 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
   }
   placer.place([&] { return isCancelled(cancel); });
   placedLabels_ = placer.placedCount();
+  placed_ = placer.labels();
   unplaced_ = placer.unplaced();
   auto& taken = obstacles[properties_->GetPriority()];
-  for (PlacedLabel const& placed : placer.labels()) {
+  for (PlacedLabel const& placed : placed_) {
     if (!placed.leader.isEmpty()) {
       labels << leaderOf(placed);
       taken << make<Polygon>(QVector<QVector<QPointF>>{placed.leader + placed.leader.mid(0, 1)});

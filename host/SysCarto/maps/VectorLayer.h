@@ -50,6 +50,9 @@ public:
 
   LabelCount labelCount() const;
 
+  /// The labels as they were placed last; of one that bends, its letters.
+  std::vector<PlacedLabel> const& placedLabels() const { return placed_; }
+
   /// What found no place then, as labels in red at their features.
   QList<SysUtility::_ptr_t<Element>> unplacedLabels() const;
 
@@ -83,7 +86,7 @@ private:
   LabelSettings labels_;
   LabelObstacle obstacle_ = LabelObstacle::None;
   int placedLabels_ = 0;
-  std::vector<PlacedLabel> unplaced_;
+  std::vector<PlacedLabel> placed_, unplaced_;
   SysUtility::_ptr_t<AnnotationProperties> properties_;
   std::unique_ptr<FeatureStore> store_;
   std::unique_ptr<ThinnedFeatures> thinned_;

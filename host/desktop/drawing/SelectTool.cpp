@@ -5,6 +5,7 @@
 #include "TurnGesture.h"
 
 #include "host/SysCarto/elements/ElementHit.h"
+#include "host/SysGeometry/Box.h"
 #include "host/desktop/DocumentViews.h"
 
 #include <SysCarto/Map.h>
@@ -100,7 +101,7 @@ bool SelectTool::IsEnable() { return static_cast<bool>(SysFramework::activePageL
 
 bool SelectTool::Deactivate() {
   giveUp();
-  leaveVertices();
+  leaveParts();
   return BaseTool::Deactivate();
 }
 
@@ -125,7 +126,7 @@ void SelectTool::OnMouseDown(QMouseEvent* event) {
   if (!layout) return;
   layout_ = layout;
   selectionBefore_ = workplace(*layout).GetSelectedElements();
-  if (!pressVertex(layout, *event)) press(layout, *event);
+  if (!pressVertex(layout, *event) && !pressLabel(layout, *event)) press(layout, *event);
   if (gesture_) gesture_->setUsesAids(views_.layoutView().showsAids());
   showSelection(*layout);
 }
@@ -223,8 +224,8 @@ void SelectTool::OnKeyDown(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     if (gesture_)
       giveUp();
-    else if (vertices())
-      leaveVertices();
+    else if (vertices() || labels())
+      leaveParts();
     else if (SysCarto::PageLayoutHost::openGroups(*layout) > 0)
       SysCarto::PageLayoutHost::closeGroup(*layout);
     else
@@ -236,33 +237,49 @@ void SelectTool::OnKeyDown(QKeyEvent* event) {
     event->accept();
   } else if (!gesture_ && changeVertex(*layout, *event)) {
     event->accept();
+  } else if (!gesture_ && hideLabel(*event)) {
+    event->accept();
   } else if (!gesture_ && !vertices() && nudge(*layout, *event)) {
     event->accept();
   }
 }
 
 // Of the element whose vertices are shown, as long as it is there and selected alone.
-std::optional<VertexHandles> SelectTool::vertices() const {
+_ptr_t<Element> SelectTool::editedAlone() const {
   auto const layout = edited_ ? SysFramework::activePageLayout(*hook()) : nullptr;
   auto const selected = layout ? workplace(*layout).GetSelectedElements() : QList<_ptr_t<Element>>();
-  if (selected.size() != 1 || selected.first()->GetHandle() != edited_ || !isInReach(*selected.first()))
-    return std::nullopt;
-  return VertexHandles(*layout, selected.first());
+  bool const isThere = selected.size() == 1 && selected.first()->GetHandle() == edited_ && isInReach(*selected.first());
+  return isThere ? selected.first() : nullptr;
+}
+
+std::optional<VertexHandles> SelectTool::vertices() const {
+  auto const element = editedAlone();
+  if (!element || !VertexHandles::hasVertices(*element)) return std::nullopt;
+  return VertexHandles(*SysFramework::activePageLayout(*hook()), element);
+}
+
+std::optional<LabelHandles> SelectTool::labels() const {
+  auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(editedAlone());
+  if (!frame) return std::nullopt;
+  return LabelHandles(*SysFramework::activePageLayout(*hook()), frame);
 }
 
 bool SelectTool::editSelected() {
   auto const layout = SysFramework::activePageLayout(*hook());
   auto const selected = layout ? movableSelection(*layout) : QList<_ptr_t<Element>>();
-  if (selected.size() != 1 || !VertexHandles::hasVertices(*selected.first())) return false;
+  if (selected.size() != 1 || !hasParts(*selected.first())) return false;
   edited_ = selected.first()->GetHandle();
   vertex_ = {};
+  label_ = {};
   return true;
 }
 
 bool SelectTool::paintOver(QPainter& painter) {
   auto const shown = vertices();
   if (shown) shown->paint(painter, vertex_);
-  return shown.has_value();
+  auto const shownLabels = labels();
+  if (shownLabels) shownLabels->paint(painter, label_);
+  return shown || shownLabels;
 }
 
 bool SelectTool::step(bool forward) {
@@ -274,7 +291,30 @@ bool SelectTool::step(bool forward) {
 bool SelectTool::wants(QKeyEvent const& key) const {
   bool const isOfVertices =
       key.key() == Qt::Key_Delete || key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Insert;
-  return isOfVertices && key.modifiers() == Qt::NoModifier && vertices().has_value();
+  return isOfVertices && key.modifiers() == Qt::NoModifier && (vertices() || labels());
+}
+
+// A press beside the frame leaves its labels.
+bool SelectTool::pressLabel(_ptr_t<PageLayout> const& layout, QMouseEvent const& event) {
+  auto const shown = labels();
+  if (!shown) return false;
+  label_ = shown->at(event.pos());
+  QPointF const point = pagePoint(*layout, event.pos());
+  auto const frame = editedAlone()->GetEnvelope();
+  if (!label_.isNone())
+    gesture_ = std::make_unique<LabelGesture>(views_, *layout, point, *shown, label_);
+  else if (!SysGeometry::Box{frame->GetXMin(), frame->GetYMin(), frame->GetXMax(), frame->GetYMax()}.contains(
+               point.x(), point.y()))
+    leaveParts();
+  return edited_ != 0;
+}
+
+bool SelectTool::hideLabel(QKeyEvent const& event) {
+  auto const shown = labels();
+  if (!shown || !wants(event) || event.key() == Qt::Key_Insert) return false;
+  if (!label_.isNone()) shown->hide(views_, label_);
+  label_ = {};
+  return true;
 }
 
 // A press beside the vertices and their element leaves them.
@@ -285,7 +325,7 @@ bool SelectTool::pressVertex(_ptr_t<PageLayout> const& layout, QMouseEvent const
   auto const element = workplace(*layout).GetSelectedElements().first();
   if (vertex.isNone()) {
     auto const under = elementAt(*layout, event.pos());
-    if (!under || under->GetHandle() != edited_) leaveVertices();
+    if (!under || under->GetHandle() != edited_) leaveParts();
     return edited_ != 0;
   }
   vertex_ = vertex;

@@ -4,6 +4,8 @@
 #include "PageGesture.h"
 #include "VertexHandles.h"
 
+#include "host/desktop/layers/LabelHandles.h"
+
 #include <SysFramework/BaseTool.h>
 
 #include <memory>
@@ -17,7 +19,8 @@ class DocumentViews;
 ///
 /// A double click on a line or polygon, or `Host_Edit`, shows its vertices: a drag moves one, or adds one in the middle
 /// of a segment; Tab goes through them, Insert adds one before the chosen one, Del deletes it, arrow keys nudge it;
-/// Escape or a click elsewhere leaves them.
+/// Escape or a click elsewhere leaves them. On a data frame `Host_Edit` shows the labels of its map in the same way: a
+/// drag moves one, Del hides the chosen one.
 class SelectTool final : public SysFramework::BaseTool, public HostTool {
 public:
   /// The views are borrowed and outlive the tool.
@@ -47,14 +50,19 @@ private:
   bool pressVertex(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout, QMouseEvent const& event);
   bool changeVertex(SysCarto::PageLayout& layout, QKeyEvent const& event);
   std::optional<VertexHandles> vertices() const;
-  void leaveVertices() { edited_ = 0; }
+  bool pressLabel(SysUtility::_ptr_t<SysCarto::PageLayout> const& layout, QMouseEvent const& event);
+  bool hideLabel(QKeyEvent const& event);
+  std::optional<LabelHandles> labels() const;
+  SysUtility::_ptr_t<SysCarto::Element> editedAlone() const;
+  void leaveParts() { edited_ = 0; }
   bool nudge(SysCarto::PageLayout& layout, QKeyEvent const& event);
 
   DocumentViews& views_;
   SysUtility::_ptr_t<SysCarto::PageLayout> layout_;  // of the gesture, as long as there is one
   std::unique_ptr<PageGesture> gesture_;
   Selection selectionBefore_;
-  SysCarto::ElementHandle edited_ = 0;             // the element whose vertices are shown
-  Vertex vertex_;                                  // the chosen one of these
+  SysCarto::ElementHandle edited_ = 0;  // the element whose vertices or labels are shown
+  Vertex vertex_;                       // the chosen one of these
+  ShownLabel label_;
   SysUtility::_ptr_t<SysCarto::Element> clicked_;  // of several selected ones; a click alone leaves only this one
 };

@@ -3,6 +3,7 @@
 #include "Symbols.h"
 
 #include "host/SysCarto/elements/TextElement.h"
+#include "host/SysCarto/labels/LabelPlacer.h"
 #include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysGeometry/PlaneGeometry.h"
@@ -266,6 +267,30 @@ private slots:
     QVERIFY(!text.intersects(area));
     QVERIFY(leader.intersects(area) && text.adjusted(-1e-6, -1e-6, 1e-6, 1e-6).intersects(leader));
     QCOMPARE(layer.layer->labelCount().placed, 1);
+  }
+
+  void aPinnedLabelStandsWhereItWasPut() {
+    QByteArray const json = collection({feature(R"({"type":"Point","coordinates":[30,30]})", "Far"),
+                                        feature(R"({"type":"Point","coordinates":[100,50]})", "Near"),
+                                        feature(R"({"type":"Point","coordinates":[160,80]})", "None"),
+                                        feature(R"({"type":"Point","coordinates":[70,62]})", "Other")});
+    auto labels = settings(9);
+    labels.keyField = "name";
+    labels.pinned = {{"Near", 105, 62, 30, false}, {"None", 0, 0, 0, true}, {"Far", 30, 90, 0, false}};
+    auto const layer = openedJson(json, "", make<SimpleMarkerSymbol>(), labels);
+    Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)).transformation());
+    QCOMPARE(result.labels.size(), 4);  // a leader among them
+    QCOMPARE(result.labels[0]->GetType(), int(ElementType::Line));
+    QVERIFY(rectOf(*result.labels[0]->GetEnvelope()).adjusted(-1, 0, 1, 0).contains(QPointF(30, 50)));
+    QStringList texts;
+    for (auto const& placedLabel : layer.layer->placedLabels()) {
+      texts << placedLabel.text;
+      QPointF const middle = QPolygonF(placedLabel.area).boundingRect().center();
+      if (placedLabel.key == "Near") QVERIFY(QLineF(middle, {105, 62}).length() < 1e-6 && placedLabel.angle == 30);
+    }
+    QCOMPARE(texts, (QStringList{"Far", "Near", "Other"}));
+    auto const shapes = result.shapes();
+    QVERIFY(!overlap(shapes[2], shapes[3], 0.01));  // what is placed keeps off what is pinned
   }
 
   void labelsKeepOffOtherLayers_data() {
