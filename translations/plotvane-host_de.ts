@@ -248,10 +248,6 @@
         <source>(empty)</source>
         <translation>(leer)</translation>
     </message>
-    <message>
-        <source>Only markers grow in proportion; the layer has none.</source>
-        <translation type="vanished">Nur Marker wachsen im Verhältnis; die Ebene hat keine.</translation>
-    </message>
 </context>
 <context>
     <name>ClassifyDialog</name>
@@ -1092,11 +1088,11 @@
     </message>
     <message>
         <source>Write in the selected text, or change the vertices of the selected line or polygon</source>
-        <translation>Schreibt im ausgewählten Text, oder ändert die Stützpunkte der ausgewählten Linie oder des Polygons</translation>
+        <translation type="vanished">Schreibt im ausgewählten Text, oder ändert die Stützpunkte der ausgewählten Linie oder des Polygons</translation>
     </message>
     <message>
         <source>a selected text, line or polygon</source>
-        <translation>einen ausgewählten Text, eine Linie oder ein Polygon</translation>
+        <translation type="vanished">einen ausgewählten Text, eine Linie oder ein Polygon</translation>
     </message>
     <message>
         <source>Rulers</source>
@@ -1175,7 +1171,6 @@
         <translation>eine gewählte Ebene mit Objekten</translation>
     </message>
     <message>
-<<<<<<< HEAD
         <source>Opacity</source>
         <translation>Deckkraft</translation>
     </message>
@@ -1188,8 +1183,22 @@
         <translation>eine im Inhalt gewählte Ebene oder Gruppe</translation>
     </message>
     <message>
-=======
->>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
+        <source>New from Data…</source>
+        <translation>Neu aus Daten …</translation>
+    </message>
+    <message>
+        <source>Make a map of files of data, with a page around it</source>
+        <translation>Eine Karte aus Datendateien machen, mit einer Seite darum</translation>
+    </message>
+    <message>
+        <source>Write in the selected text, or change the vertices of the selected line or polygon, or the labels of the selected data frame</source>
+        <translation>Im ausgewählten Text schreiben, oder die Stützpunkte der ausgewählten Linie oder des Polygons oder die Beschriftungen des ausgewählten Datenrahmens ändern</translation>
+    </message>
+    <message>
+        <source>a selected text, line, polygon or data frame</source>
+        <translation>einen ausgewählten Text, eine Linie, ein Polygon oder einen Datenrahmen</translation>
+    </message>
+    <message>
         <source>Add Layers…</source>
         <translation>Ebenen hinzufügen …</translation>
     </message>
@@ -1197,7 +1206,14 @@
         <source>Add the data of files to the map</source>
         <translation>Der Karte die Daten von Dateien hinzufügen</translation>
     </message>
-<<<<<<< HEAD
+    <message>
+        <source>Unplaced Labels</source>
+        <translation>Beschriftungen ohne Platz</translation>
+    </message>
+    <message>
+        <source>Show or hide, in red, the labels of the map that found no place</source>
+        <translation>Die Beschriftungen der Karte, die keinen Platz fanden, rot ein- oder ausblenden</translation>
+    </message>
     <message>
         <source>Show</source>
         <translation>Zeigen</translation>
@@ -1366,8 +1382,6 @@
         <source>a layer of a group chosen in the contents</source>
         <translation>eine im Inhalt gewählte Ebene einer Gruppe</translation>
     </message>
-=======
->>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1725,6 +1739,14 @@
     <message>
         <source>Not all data could be read.</source>
         <translation>Nicht alle Daten konnten gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The map was not made.</source>
+        <translation>Die Karte wurde nicht gemacht.</translation>
+    </message>
+    <message>
+        <source>The map was made, but not of all data.</source>
+        <translation>Die Karte wurde gemacht, aber nicht aus allen Daten.</translation>
     </message>
 </context>
 <context>
@@ -2217,8 +2239,23 @@
         <translation>Nichts von %1 liegt dort, wo das Koordinatensystem der Karte den Globus zeigt, sodass die Ebene leer ist; geben Sie der Karte ein anderes Koordinatensystem, oder der Quelle das, das sie in Wahrheit hat.</translation>
     </message>
     <message>
+        <source>The globe can&apos;t be projected to the map&apos;s coordinate system: %1.</source>
+        <translation>Der Globus kann nicht in das Koordinatensystem der Karte projiziert werden: %1.</translation>
+    </message>
+    <message>
         <source>The reading of %1 was stopped.</source>
         <translation>Das Lesen von %1 wurde abgebrochen.</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureScan</name>
+    <message>
+        <source>%1: the filter “%2” is not understood: %3.</source>
+        <translation>%1: Der Filter „%2“ wird nicht verstanden: %3.</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read: %2.</source>
+        <translation>%1 konnte nicht ganz gelesen werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -4517,12 +4554,192 @@
         <translation>Ein Symbol für alle Objekte, eines für jeden Wert eines Attributs, eines für jeden Bereich eines Zahlenattributs, Symbole nach Regeln oder Marker in Größen nach einer Zahl.</translation>
     </message>
     <message>
-        <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
-        <translation>Der Marker in seiner Größe für die Bezugszahl; er steht in Flächen und auf Linien.</translation>
+        <source>A file</source>
+        <translation>Eine Datei</translation>
+    </message>
+    <message>
+        <source>The whole globe</source>
+        <translation>Der ganze Globus</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>Markers and lines</source>
+        <translation>Markierungen und Linien</translation>
+    </message>
+    <message>
+        <source>Whole areas</source>
+        <translation>Ganze Flächen</translation>
     </message>
     <message>
         <source>Group of layers</source>
         <translation>Ebenengruppe</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Whether the features come from a file, or the layer is one area that covers the whole globe, as the sea below countries; the other fields are those of a file.</source>
+        <translation>Ob die Objekte aus einer Datei kommen oder die Ebene eine Fläche ist, die den ganzen Globus bedeckt, wie das Meer unter Ländern; die anderen Felder sind die einer Datei.</translation>
+    </message>
+    <message>
+        <source>Kept free</source>
+        <translation>Freigehalten</translation>
+    </message>
+    <message>
+        <source>What the labels of other layers keep off: nothing, markers and lines, or these and whole areas.</source>
+        <translation>Wovon die Beschriftungen anderer Ebenen wegbleiben: nichts, Markierungen und Linien, oder diese und ganze Flächen.</translation>
+    </message>
+    <message>
+        <source>Above the line</source>
+        <translation>Über der Linie</translation>
+    </message>
+    <message>
+        <source>On the line</source>
+        <translation>Auf der Linie</translation>
+    </message>
+    <message>
+        <source>Curved with the line</source>
+        <translation>Gebogen mit der Linie</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>Innen</translation>
+    </message>
+    <message>
+        <source>Outside where it does not fit</source>
+        <translation>Außen, wo sie nicht passt</translation>
+    </message>
+    <message>
+        <source>Text of an expression</source>
+        <translation>Text eines Ausdrucks</translation>
+    </message>
+    <message>
+        <source>An expression on the attributes as in SQL, “concat(name, &apos;, &apos;, country)”, for the text; where it has no value, the attribute&apos;s stands.</source>
+        <translation>Ein Ausdruck über die Attribute wie in SQL, „concat(name, &apos;, &apos;, country)“, für den Text; wo er keinen Wert hat, steht der des Attributs.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>A code such as de: where a feature has an attribute of that language beside the one that is named (name:de or name_de beside name), it is the text.</source>
+        <translation>Ein Kürzel wie de: Hat ein Objekt neben dem genannten Attribut eines in dieser Sprache (name:de oder name_de neben name), so ist dieses der Text.</translation>
+    </message>
+    <message>
+        <source>Numbers as they are read</source>
+        <translation>Zahlen in Leseschreibweise</translation>
+    </message>
+    <message>
+        <source>Whether numbers have the decimal and thousands separators of the user&apos;s language.</source>
+        <translation>Ob Zahlen die Dezimal- und Tausendertrennzeichen der Sprache des Benutzers haben.</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>From the mark of a point, or from the line, to the label.</source>
+        <translation>Vom Zeichen eines Punktes oder von der Linie zur Beschriftung.</translation>
+    </message>
+    <message>
+        <source>Broken at</source>
+        <translation>Umbruch bei</translation>
+    </message>
+    <message>
+        <source>The width at which labels of points are broken into lines; 0 for never.</source>
+        <translation>Die Breite, bei der Beschriftungen von Punkten in Zeilen umbrochen werden; 0 für nie.</translation>
+    </message>
+    <message>
+        <source>Places beside points</source>
+        <translation>Plätze neben Punkten</translation>
+    </message>
+    <message>
+        <source>Where a label may stand, the most wanted place first: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below or centre; where none is named, all but the last in this order.</source>
+        <translation>Wo eine Beschriftung stehen darf, der liebste Platz zuerst: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below oder centre (rechts oben, links oben, rechts unten, links unten, rechts, links, darüber, darunter, darauf); wo keiner genannt ist, alle außer dem letzten in dieser Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>Place along lines</source>
+        <translation>Platz an Linien</translation>
+    </message>
+    <message>
+        <source>How the label of a line lies on it; letters stand upright.</source>
+        <translation>Wie die Beschriftung einer Linie an ihr liegt; die Buchstaben stehen aufrecht.</translation>
+    </message>
+    <message>
+        <source>Repeated after</source>
+        <translation>Wiederholt nach</translation>
+    </message>
+    <message>
+        <source>How far from each other the same text stands along lines; with 0, each line has one label.</source>
+        <translation>Wie weit voneinander entfernt derselbe Text an Linien steht; bei 0 hat jede Linie eine Beschriftung.</translation>
+    </message>
+    <message>
+        <source>Place at areas</source>
+        <translation>Platz an Flächen</translation>
+    </message>
+    <message>
+        <source>Whether a label that does not fit into its area is left out, or stands beside it with a line that leads there.</source>
+        <translation>Ob eine Beschriftung, die nicht in ihre Fläche passt, wegbleibt oder daneben steht, mit einer Linie, die hinführt.</translation>
+    </message>
+    <message>
+        <source>Least size</source>
+        <translation>Mindestgröße</translation>
+    </message>
+    <message>
+        <source>On the page: shorter lines and narrower areas have no labels. 0 for no limit.</source>
+        <translation>Auf der Seite: kürzere Linien und schmalere Flächen haben keine Beschriftung. 0 für keine Grenze.</translation>
+    </message>
+    <message>
+        <source>Attribute of the key</source>
+        <translation>Attribut des Schlüssels</translation>
+    </message>
+    <message>
+        <source>The attribute by which pinned labels know their features; without one, the number that the file gives them.</source>
+        <translation>Das Attribut, an dem festgesetzte Beschriftungen ihre Objekte erkennen; ohne eines die Nummer, die die Datei ihnen gibt.</translation>
+    </message>
+    <message>
+        <source>Pinned labels</source>
+        <translation>Festgesetzte Beschriftungen</translation>
+    </message>
+    <message>
+        <source>Labels that stay where they were put, or are hidden.</source>
+        <translation>Beschriftungen, die bleiben, wo sie hingesetzt wurden, oder verborgen sind.</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Schlüssel</translation>
+    </message>
+    <message>
+        <source>Which feature it is: the value of its key.</source>
+        <translation>Welches Objekt es ist: der Wert seines Schlüssels.</translation>
+    </message>
+    <message>
+        <source>Whether the feature has no label at all.</source>
+        <translation>Ob das Objekt gar keine Beschriftung hat.</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>Of the middle of the text.</source>
+        <translation>Der Mitte des Textes.</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+    <message>
+        <source>By which the text is turned counterclockwise on the page.</source>
+        <translation>Um den der Text auf der Seite gegen den Uhrzeigersinn gedreht ist.</translation>
+    </message>
+    <message>
+        <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
+        <translation>Der Marker in seiner Größe für die Bezugszahl; er steht in Flächen und auf Linien.</translation>
     </message>
 </context>
 <context>
@@ -4937,6 +5154,13 @@
     </message>
 </context>
 <context>
+    <name>LabelReader</name>
+    <message>
+        <source>The text “%1” of the labels of %2 is not understood, so they show the attribute: %3.</source>
+        <translation>Der Text „%1“ der Beschriftungen von %2 ist nicht verständlich, daher zeigen sie das Attribut: %3.</translation>
+    </message>
+</context>
+<context>
     <name>LabelSettings</name>
     <message>
         <source>names no field; leave out the labels</source>
@@ -4946,9 +5170,12 @@
         <source>is not above that of the class before</source>
         <translation>liegt nicht über dem der vorigen Klasse</translation>
     </message>
+    <message>
+        <source>“%1” is no place; there are: %2</source>
+        <translation>„%1“ ist kein Platz; es gibt: %2</translation>
+    </message>
 </context>
 <context>
-<<<<<<< HEAD
     <name>LayerActions</name>
     <message>
         <source>Groups lie at most %1 deep in each other; ungroup some of them first.</source>
@@ -5060,8 +5287,6 @@
     </message>
 </context>
 <context>
-=======
->>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
     <name>LayerAdding</name>
     <message>
         <source>All data (%1)</source>
@@ -5178,12 +5403,79 @@
         <source>groups are nested more than %1 deep</source>
         <translation>Gruppen liegen mehr als %1 tief ineinander</translation>
     </message>
+    <message>
+        <source>is missing; name the file of the data</source>
+        <translation>fehlt; nennen Sie die Datei der Daten</translation>
+    </message>
 </context>
 <context>
     <name>LayerSteps</name>
     <message>
         <source>there is no &quot;%1&quot;; write layer:MAP/LAYER, where LAYER may be a group, or map:MAP; plotvane info lists them.</source>
         <translation>„%1“ gibt es nicht; schreiben Sie layer:MAP/LAYER, wobei LAYER eine Gruppe sein darf, oder map:MAP; plotvane info zählt sie auf.</translation>
+    </message>
+</context>
+<context>
+    <name>LayerStyling</name>
+    <message>
+        <source>Paths</source>
+        <translation>Wege</translation>
+    </message>
+    <message>
+        <source>Streets</source>
+        <translation>Straßen</translation>
+    </message>
+    <message>
+        <source>Secondary roads</source>
+        <translation>Nebenstraßen</translation>
+    </message>
+    <message>
+        <source>Main roads</source>
+        <translation>Hauptstraßen</translation>
+    </message>
+    <message>
+        <source>Motorways</source>
+        <translation>Autobahnen</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstige</translation>
+    </message>
+    <message>
+        <source>drawn by “%1”, the heavier roads wider</source>
+        <translation>nach „%1“ gezeichnet, wichtigere Straßen breiter</translation>
+    </message>
+    <message>
+        <source>coloured by “%1”</source>
+        <translation>nach „%1“ gefärbt</translation>
+    </message>
+    <message>
+        <source>marks sized by “%1”, in natural breaks (Jenks)</source>
+        <translation>Größe der Zeichen nach „%1“, natürliche Klassen (Jenks)</translation>
+    </message>
+    <message>
+        <source>shaded by “%1”, in natural breaks (Jenks)</source>
+        <translation>nach „%1“ getönt, natürliche Klassen (Jenks)</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>Farbe %1</translation>
+    </message>
+    <message>
+        <source>coloured so that neighbours differ</source>
+        <translation>so gefärbt, dass sich Nachbarn unterscheiden</translation>
+    </message>
+    <message>
+        <source>drawn as its name says</source>
+        <translation>so gezeichnet, wie der Name sagt</translation>
+    </message>
+    <message>
+        <source>in one colour</source>
+        <translation>in einer Farbe</translation>
+    </message>
+    <message>
+        <source>labelled by “%1”</source>
+        <translation>mit „%1“ beschriftet</translation>
     </message>
 </context>
 <context>
@@ -5530,6 +5822,331 @@
     </message>
 </context>
 <context>
+    <name>NewMap</name>
+    <message>
+        <source>No data are named; give a file of data.</source>
+        <translation>Es sind keine Daten genannt; geben Sie eine Datendatei an.</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw: no layer of the data has geometries.</source>
+        <translation>Es gibt nichts zu zeichnen: Keine Ebene der Daten hat Geometrien.</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw: the filter “%1” suits no layer of the data.</source>
+        <translation>Es gibt nichts zu zeichnen: Der Filter „%1“ passt zu keiner Ebene der Daten.</translation>
+    </message>
+    <message>
+        <source>The layer “%1” of %2 has no features to show.</source>
+        <translation>Die Ebene „%1“ von %2 hat keine Objekte, die zu zeigen wären.</translation>
+    </message>
+    <message>
+        <source>The file “%1” has no layer “%2”; it has: %3.</source>
+        <translation>Die Datei „%1“ hat keine Ebene „%2“; sie hat: %3.</translation>
+    </message>
+    <message>
+        <source>The coordinate system can&apos;t be taken: %1.</source>
+        <translation>Das Koordinatensystem kann nicht genommen werden: %1.</translation>
+    </message>
+    <message>
+        <source>As asked for.</source>
+        <translation>Wie gewünscht.</translation>
+    </message>
+    <message>
+        <source>plain coordinates</source>
+        <translation>einfache Koordinaten</translation>
+    </message>
+    <message>
+        <source>The data have no coordinate system.</source>
+        <translation>Die Daten haben kein Koordinatensystem.</translation>
+    </message>
+    <message>
+        <source>Coordinate system %1 (%2)</source>
+        <translation>Koordinatensystem %1 (%2)</translation>
+    </message>
+    <message>
+        <source>“%1” is no paper; take one of: %2.</source>
+        <translation>„%1“ ist kein Papierformat; nehmen Sie eines von: %2.</translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Page %1, %2</source>
+        <translation>Seite %1, %2</translation>
+    </message>
+    <message>
+        <source>The data are broader than high.</source>
+        <translation>Die Daten sind breiter als hoch.</translation>
+    </message>
+    <message>
+        <source>The data are higher than broad.</source>
+        <translation>Die Daten sind höher als breit.</translation>
+    </message>
+    <message>
+        <source>Layer “%1”</source>
+        <translation>Ebene „%1“</translation>
+    </message>
+    <message>
+        <source>Sea</source>
+        <translation>Meer</translation>
+    </message>
+    <message>
+        <source>template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>%1: the template has no data frame for the map; give it one.</source>
+        <translation>%1: Die Vorlage hat keinen Datenrahmen für die Karte; geben Sie ihr einen.</translation>
+    </message>
+    <message>
+        <source>Legend in a corner of the map</source>
+        <translation>Legende in einer Ecke der Karte</translation>
+    </message>
+    <message>
+        <source>Nothing of the data lies there.</source>
+        <translation>Dort liegt nichts von den Daten.</translation>
+    </message>
+    <message>
+        <source>Legend beside the map</source>
+        <translation>Legende neben der Karte</translation>
+    </message>
+    <message>
+        <source>It would hide data.</source>
+        <translation>Sie würde Daten verdecken.</translation>
+    </message>
+    <message>
+        <source>A north arrow</source>
+        <translation>Ein Nordpfeil</translation>
+    </message>
+    <message>
+        <source>No north arrow</source>
+        <translation>Kein Nordpfeil</translation>
+    </message>
+    <message>
+        <source>North is up all over the map.</source>
+        <translation>Norden ist überall auf der Karte oben.</translation>
+    </message>
+    <message>
+        <source>The graticule shows where north is.</source>
+        <translation>Das Gradnetz zeigt, wo Norden ist.</translation>
+    </message>
+    <message>
+        <source>A graticule</source>
+        <translation>Ein Gradnetz</translation>
+    </message>
+    <message>
+        <source>No graticule</source>
+        <translation>Kein Gradnetz</translation>
+    </message>
+    <message>
+        <source>The scale is small.</source>
+        <translation>Der Maßstab ist klein.</translation>
+    </message>
+    <message>
+        <source>The scale is large.</source>
+        <translation>Der Maßstab ist groß.</translation>
+    </message>
+</context>
+<context>
+    <name>NewMapDialog</name>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Linien</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>Flächen</translation>
+    </message>
+    <message>
+        <source>Mixed</source>
+        <translation>Gemischt</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>New Map from Data</source>
+        <translation>Neue Karte aus Daten</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>Dateien &amp;hinzufügen …</translation>
+    </message>
+    <message>
+        <source>&amp;Title</source>
+        <translation>&amp;Titel</translation>
+    </message>
+    <message>
+        <source>the name of the data</source>
+        <translation>der Name der Daten</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papier</translation>
+    </message>
+    <message>
+        <source>As the data need</source>
+        <translation>Wie die Daten es brauchen</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation</source>
+        <translation>A&amp;usrichtung</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinate system</source>
+        <translation>&amp;Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>one that suits the data; or EPSG:3035</source>
+        <translation>eines, das zu den Daten passt; oder EPSG:3035</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filter</translation>
+    </message>
+    <message>
+        <source>all features; or population &gt; 100000</source>
+        <translation>alle Objekte; oder population &gt; 100000</translation>
+    </message>
+    <message>
+        <source>T&amp;emplate</source>
+        <translation>&amp;Vorlage</translation>
+    </message>
+    <message>
+        <source>none; or a document whose page is taken</source>
+        <translation>keine; oder ein Dokument, dessen Seite genommen wird</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>&amp;Make Map</source>
+        <translation>Karte &amp;machen</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Map documents (*.kdx)</source>
+        <translation>Kartendokumente (*.kdx)</translation>
+    </message>
+    <message>
+        <source>Add files of data, or drop them here, and check what the map is to show.</source>
+        <translation>Fügen Sie Datendateien hinzu oder legen Sie sie hier ab, und haken Sie an, was die Karte zeigen soll.</translation>
+    </message>
+    <message>
+        <source>The coordinate system can&apos;t be taken: %1.</source>
+        <translation>Das Koordinatensystem kann nicht genommen werden: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>NewSubcommand</name>
+    <message>
+        <source>new: &quot;%1&quot; is no name of a map document; name a .kdx file.</source>
+        <translation>new: „%1“ ist kein Name eines Kartendokuments; nennen Sie eine .kdx-Datei.</translation>
+    </message>
+    <message>
+        <source>%1: there is such a file; name another one, or pass --force to replace it.</source>
+        <translation>%1: Diese Datei gibt es; nennen Sie eine andere, oder ersetzen Sie sie mit --force.</translation>
+    </message>
+    <message>
+        <source>The .kdx document to make.</source>
+        <translation>Das .kdx-Dokument, das gemacht wird.</translation>
+    </message>
+    <message>
+        <source>More data, as for --data.</source>
+        <translation>Weitere Daten, wie bei --data.</translation>
+    </message>
+    <message>
+        <source>A file of data, all its layers or one of them; may be given several times.</source>
+        <translation>Eine Datendatei, alle ihre Ebenen oder eine davon; mehrmals möglich.</translation>
+    </message>
+    <message>
+        <source>The title; the name of the data if not given.</source>
+        <translation>Der Titel; ohne Angabe der Name der Daten.</translation>
+    </message>
+    <message>
+        <source>The paper, such as A3; A4 if not given.</source>
+        <translation>Das Papier, etwa A3; ohne Angabe A4.</translation>
+    </message>
+    <message>
+        <source>Let the sheet lie. The shape of the data decides if neither is given.</source>
+        <translation>Querformat. Ohne Angabe entscheidet die Form der Daten.</translation>
+    </message>
+    <message>
+        <source>Let the sheet stand upright.</source>
+        <translation>Hochformat.</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the map, such as EPSG:3035; one that suits the data if not given.</source>
+        <translation>Das Koordinatensystem der Karte, etwa EPSG:3035; ohne Angabe eines, das zu den Daten passt.</translation>
+    </message>
+    <message>
+        <source>A document whose page is taken, with all that lies on it; the map goes into its largest data frame.</source>
+        <translation>Ein Dokument, dessen Seite genommen wird, mit allem, was darauf liegt; die Karte kommt in seinen größten Datenrahmen.</translation>
+    </message>
+    <message>
+        <source>Only features of which this is true, such as &quot;population &gt; 100000&quot;.</source>
+        <translation>Nur Objekte, für die das gilt, etwa &quot;population &gt; 100000&quot;.</translation>
+    </message>
+    <message>
+        <source>Draw the page into an image, too, at 300 DPI.</source>
+        <translation>Die Seite auch in ein Bild zeichnen, mit 300 DPI.</translation>
+    </message>
+    <message>
+        <source>Print what was chosen, and why.</source>
+        <translation>Ausgeben, was gewählt wurde und warum.</translation>
+    </message>
+    <message>
+        <source>Replace a document of that name.</source>
+        <translation>Ein Dokument dieses Namens ersetzen.</translation>
+    </message>
+    <message>
+        <source>new: data are missing; name a file with --data.</source>
+        <translation>new: Es fehlen Daten; nennen Sie eine Datei mit --data.</translation>
+    </message>
+    <message>
+        <source>new: --landscape and --portrait exclude each other.</source>
+        <translation>new: --landscape und --portrait schließen einander aus.</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Reload</source>
@@ -5614,6 +6231,37 @@
     </message>
 </context>
 <context>
+    <name>PageComposition</name>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Graticule</source>
+        <translation>Gradnetz</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>1:%1 at the centre of the map</source>
+        <translation>1:%1 in der Mitte der Karte</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Quellen</translation>
+    </message>
+    <message>
+        <source>Map data: [credits]</source>
+        <translation>Kartendaten: [credits]</translation>
+    </message>
+</context>
+<context>
     <name>PageGesture</name>
     <message>
         <source>Move the selected elements</source>
@@ -5690,6 +6338,21 @@
     </message>
 </context>
 <context>
+    <name>PinnedLabels</name>
+    <message>
+        <source>Only a layer of features has labels; write layer:MAP/LAYER.</source>
+        <translation>Nur eine Ebene mit Objekten hat Beschriftungen; schreiben Sie layer:KARTE/EBENE.</translation>
+    </message>
+    <message>
+        <source>The layer “%1” has no labels; give it some first.</source>
+        <translation>Die Ebene „%1“ hat keine Beschriftungen; geben Sie ihr zuerst welche.</translation>
+    </message>
+    <message>
+        <source>No feature of the layer “%1” has the key “%2”.</source>
+        <translation>Kein Objekt der Ebene „%1“ hat den Schlüssel „%2“.</translation>
+    </message>
+</context>
+<context>
     <name>PluginLibrary</name>
     <message>
         <source>The plug-in is missing: there is no %1. Build it, or name it in PLOTVANE_PLUGIN.</source>
@@ -5717,6 +6380,57 @@
     <message>
         <source>there is no transformation between them</source>
         <translation>zwischen ihnen gibt es keine Transformation</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectionChoice</name>
+    <message>
+        <source>Equal Earth projection</source>
+        <translation>Equal-Earth-Projektion</translation>
+    </message>
+    <message>
+        <source>The data reach round the world, and the Equal Earth projection keeps its areas.</source>
+        <translation>Die Daten reichen um die Welt, und die Equal-Earth-Projektion ist flächentreu.</translation>
+    </message>
+    <message>
+        <source>Lambert azimuthal equal-area projection about the pole</source>
+        <translation>Lamberts flächentreue Azimutalprojektion um den Pol</translation>
+    </message>
+    <message>
+        <source>The data lie about a pole, where an azimuthal projection shows all directions alike.</source>
+        <translation>Die Daten liegen um einen Pol, wo eine Azimutalprojektion alle Richtungen gleich zeigt.</translation>
+    </message>
+    <message>
+        <source>cylindrical equal-area projection, true at %1</source>
+        <translation>flächentreue Zylinderprojektion, längentreu bei %1</translation>
+    </message>
+    <message>
+        <source>The data lie in a belt along the equator, which a cylindrical projection shows best.</source>
+        <translation>Die Daten liegen in einem Gürtel entlang des Äquators, den eine Zylinderprojektion am besten zeigt.</translation>
+    </message>
+    <message>
+        <source>Albers equal-area conic projection, %1 and %2</source>
+        <translation>Albers&apos; flächentreue Kegelprojektion, %1 und %2</translation>
+    </message>
+    <message>
+        <source>The data are broader than high and lie to one side of the equator: a conic projection, its standard parallels a sixth of the height within the edges.</source>
+        <translation>Die Daten sind breiter als hoch und liegen auf einer Seite des Äquators: eine Kegelprojektion mit Standardparallelen ein Sechstel der Höhe innerhalb der Ränder.</translation>
+    </message>
+    <message>
+        <source>Lambert azimuthal equal-area projection, %1, %2</source>
+        <translation>Lamberts flächentreue Azimutalprojektion, %1, %2</translation>
+    </message>
+    <message>
+        <source>The data are about as broad as high: an azimuthal projection about their middle.</source>
+        <translation>Die Daten sind etwa so breit wie hoch: eine Azimutalprojektion um ihre Mitte.</translation>
+    </message>
+    <message>
+        <source>The data cover less than %1 km, and this is their zone of UTM.</source>
+        <translation>Die Daten reichen über weniger als %1 km, und dies ist ihre UTM-Zone.</translation>
+    </message>
+    <message>
+        <source>The data&apos;s own coordinate system, %1, shows them almost without distortion.</source>
+        <translation>Das eigene Koordinatensystem der Daten, %1, zeigt sie fast ohne Verzerrung.</translation>
     </message>
 </context>
 <context>
@@ -6061,6 +6775,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Search for coordinate systems by name, code or area</source>
         <translation>Koordinatensysteme nach Name, Code oder Gebiet suchen</translation>
+    </message>
+    <message>
+        <source>Make a map of data, with a page around it</source>
+        <translation>Eine Karte aus Daten machen, mit einer Seite darum</translation>
     </message>
 </context>
 <context>
@@ -6813,11 +7531,15 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>Other</source>
-        <translation type="vanished">Sonstige</translation>
+        <translation>Sonstige</translation>
     </message>
     <message>
         <source>Click to work on this map</source>
-        <translation type="vanished">Klicken, um an dieser Karte zu arbeiten</translation>
+        <translation>Klicken, um an dieser Karte zu arbeiten</translation>
+    </message>
+    <message>
+        <source>%1 of %2 labels found no place</source>
+        <translation>%1 von %2 Beschriftungen fanden keinen Platz</translation>
     </message>
 </context>
 <context>

@@ -248,10 +248,6 @@
         <source>(empty)</source>
         <translation>（空）</translation>
     </message>
-    <message>
-        <source>Only markers grow in proportion; the layer has none.</source>
-        <translation type="vanished">只有标记可以按比例变化；该图层没有标记。</translation>
-    </message>
 </context>
 <context>
     <name>ClassifyDialog</name>
@@ -1092,11 +1088,11 @@
     </message>
     <message>
         <source>Write in the selected text, or change the vertices of the selected line or polygon</source>
-        <translation>编辑选中的文本，或修改选中线或多边形的顶点</translation>
+        <translation type="vanished">编辑选中的文本，或修改选中线或多边形的顶点</translation>
     </message>
     <message>
         <source>a selected text, line or polygon</source>
-        <translation>一个选中的文本、线或多边形</translation>
+        <translation type="vanished">一个选中的文本、线或多边形</translation>
     </message>
     <message>
         <source>Rulers</source>
@@ -1175,7 +1171,6 @@
         <translation>一个选中的要素图层</translation>
     </message>
     <message>
-<<<<<<< HEAD
         <source>Opacity</source>
         <translation>不透明度</translation>
     </message>
@@ -1188,8 +1183,22 @@
         <translation>内容列表中选定的图层或组</translation>
     </message>
     <message>
-=======
->>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
+        <source>New from Data…</source>
+        <translation>用数据新建…</translation>
+    </message>
+    <message>
+        <source>Make a map of files of data, with a page around it</source>
+        <translation>用数据文件制作地图及其页面</translation>
+    </message>
+    <message>
+        <source>Write in the selected text, or change the vertices of the selected line or polygon, or the labels of the selected data frame</source>
+        <translation>编辑所选文字，或修改所选线、多边形的顶点或所选数据框的标注</translation>
+    </message>
+    <message>
+        <source>a selected text, line, polygon or data frame</source>
+        <translation>一个选中的文字、线、多边形或数据框</translation>
+    </message>
+    <message>
         <source>Add Layers…</source>
         <translation>添加图层…</translation>
     </message>
@@ -1197,7 +1206,14 @@
         <source>Add the data of files to the map</source>
         <translation>将文件中的数据添加到地图</translation>
     </message>
-<<<<<<< HEAD
+    <message>
+        <source>Unplaced Labels</source>
+        <translation>未放置的标注</translation>
+    </message>
+    <message>
+        <source>Show or hide, in red, the labels of the map that found no place</source>
+        <translation>以红色显示或隐藏地图中没有位置的标注</translation>
+    </message>
     <message>
         <source>Show</source>
         <translation>显示</translation>
@@ -1366,8 +1382,6 @@
         <source>a layer of a group chosen in the contents</source>
         <translation>内容列表中选定的组内图层</translation>
     </message>
-=======
->>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1725,6 +1739,14 @@
     <message>
         <source>Not all data could be read.</source>
         <translation>部分数据无法读取。</translation>
+    </message>
+    <message>
+        <source>The map was not made.</source>
+        <translation>地图未制作。</translation>
+    </message>
+    <message>
+        <source>The map was made, but not of all data.</source>
+        <translation>地图已制作，但未包含所有数据。</translation>
     </message>
 </context>
 <context>
@@ -2217,8 +2239,23 @@
         <translation>%1 的内容全部位于地图坐标系所显示的地球范围之外，因此该图层为空；请为地图选择其他坐标系，或为数据源指定其真实的坐标系。</translation>
     </message>
     <message>
+        <source>The globe can&apos;t be projected to the map&apos;s coordinate system: %1.</source>
+        <translation>无法将地球投影到地图的坐标系：%1。</translation>
+    </message>
+    <message>
         <source>The reading of %1 was stopped.</source>
         <translation>%1 的读取已中止。</translation>
+    </message>
+</context>
+<context>
+    <name>FeatureScan</name>
+    <message>
+        <source>%1: the filter “%2” is not understood: %3.</source>
+        <translation>%1：无法理解筛选条件“%2”：%3。</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read: %2.</source>
+        <translation>未能读取 %1 的全部内容：%2。</translation>
     </message>
 </context>
 <context>
@@ -4517,12 +4554,192 @@
         <translation>所有要素使用一个符号、属性的每个值一个符号、数值属性的每个区间一个符号、按规则设置符号，或按数值设置标记大小。</translation>
     </message>
     <message>
-        <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
-        <translation>标记，其大小对应参考值；可位于面内和线上。</translation>
+        <source>A file</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>The whole globe</source>
+        <translation>整个地球</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Markers and lines</source>
+        <translation>标记和线</translation>
+    </message>
+    <message>
+        <source>Whole areas</source>
+        <translation>整个面</translation>
     </message>
     <message>
         <source>Group of layers</source>
         <translation>图层组</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Whether the features come from a file, or the layer is one area that covers the whole globe, as the sea below countries; the other fields are those of a file.</source>
+        <translation>要素来自文件，还是该图层为覆盖整个地球的一个面（如各国之下的海洋）；其他字段用于文件。</translation>
+    </message>
+    <message>
+        <source>Kept free</source>
+        <translation>避让</translation>
+    </message>
+    <message>
+        <source>What the labels of other layers keep off: nothing, markers and lines, or these and whole areas.</source>
+        <translation>其他图层的标注要避让什么：不避让、标记和线，或者连同整个面。</translation>
+    </message>
+    <message>
+        <source>Above the line</source>
+        <translation>在线上方</translation>
+    </message>
+    <message>
+        <source>On the line</source>
+        <translation>在线上</translation>
+    </message>
+    <message>
+        <source>Curved with the line</source>
+        <translation>沿线弯曲</translation>
+    </message>
+    <message>
+        <source>Inside</source>
+        <translation>内部</translation>
+    </message>
+    <message>
+        <source>Outside where it does not fit</source>
+        <translation>放不下时在外部</translation>
+    </message>
+    <message>
+        <source>Text of an expression</source>
+        <translation>表达式文字</translation>
+    </message>
+    <message>
+        <source>An expression on the attributes as in SQL, “concat(name, &apos;, &apos;, country)”, for the text; where it has no value, the attribute&apos;s stands.</source>
+        <translation>用于文字的属性表达式，写法同 SQL，如“concat(name, &apos;, &apos;, country)”；没有值时使用属性的值。</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>A code such as de: where a feature has an attribute of that language beside the one that is named (name:de or name_de beside name), it is the text.</source>
+        <translation>语言代码，例如 de：要素除指定属性外若有该语言的属性（name 之外的 name:de 或 name_de），则以其为文字。</translation>
+    </message>
+    <message>
+        <source>Numbers as they are read</source>
+        <translation>数字按阅读习惯书写</translation>
+    </message>
+    <message>
+        <source>Whether numbers have the decimal and thousands separators of the user&apos;s language.</source>
+        <translation>数字是否使用用户语言的小数点和千位分隔符。</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>距离</translation>
+    </message>
+    <message>
+        <source>From the mark of a point, or from the line, to the label.</source>
+        <translation>从点的标记或从线到标注。</translation>
+    </message>
+    <message>
+        <source>Broken at</source>
+        <translation>换行宽度</translation>
+    </message>
+    <message>
+        <source>The width at which labels of points are broken into lines; 0 for never.</source>
+        <translation>点的标注换行的宽度；0 表示从不换行。</translation>
+    </message>
+    <message>
+        <source>Places beside points</source>
+        <translation>点旁的位置</translation>
+    </message>
+    <message>
+        <source>Where a label may stand, the most wanted place first: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below or centre; where none is named, all but the last in this order.</source>
+        <translation>标注可以放在哪里，最希望的位置在前：upperRight（右上）、upperLeft（左上）、lowerRight（右下）、lowerLeft（左下）、right（右）、left（左）、above（上）、below（下）或 centre（正中）；不指定时按此顺序使用除最后一个以外的所有位置。</translation>
+    </message>
+    <message>
+        <source>Place along lines</source>
+        <translation>线上的位置</translation>
+    </message>
+    <message>
+        <source>How the label of a line lies on it; letters stand upright.</source>
+        <translation>线的标注如何沿线放置；字母始终正立。</translation>
+    </message>
+    <message>
+        <source>Repeated after</source>
+        <translation>重复间距</translation>
+    </message>
+    <message>
+        <source>How far from each other the same text stands along lines; with 0, each line has one label.</source>
+        <translation>同一文字沿线重复时彼此的距离；为 0 时每条线只有一个标注。</translation>
+    </message>
+    <message>
+        <source>Place at areas</source>
+        <translation>面上的位置</translation>
+    </message>
+    <message>
+        <source>Whether a label that does not fit into its area is left out, or stands beside it with a line that leads there.</source>
+        <translation>放不进面内的标注是略去，还是放在旁边并用引线相连。</translation>
+    </message>
+    <message>
+        <source>Least size</source>
+        <translation>最小尺寸</translation>
+    </message>
+    <message>
+        <source>On the page: shorter lines and narrower areas have no labels. 0 for no limit.</source>
+        <translation>页面上的尺寸：更短的线和更窄的面没有标注。0 表示不限。</translation>
+    </message>
+    <message>
+        <source>Attribute of the key</source>
+        <translation>键属性</translation>
+    </message>
+    <message>
+        <source>The attribute by which pinned labels know their features; without one, the number that the file gives them.</source>
+        <translation>固定标注用以识别要素的属性；不指定时使用文件给出的编号。</translation>
+    </message>
+    <message>
+        <source>Pinned labels</source>
+        <translation>固定标注</translation>
+    </message>
+    <message>
+        <source>Labels that stay where they were put, or are hidden.</source>
+        <translation>停留在放置处或被隐藏的标注。</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>键</translation>
+    </message>
+    <message>
+        <source>Which feature it is: the value of its key.</source>
+        <translation>是哪个要素：其键的值。</translation>
+    </message>
+    <message>
+        <source>Whether the feature has no label at all.</source>
+        <translation>该要素是否完全没有标注。</translation>
+    </message>
+    <message>
+        <source>x</source>
+        <translation>x</translation>
+    </message>
+    <message>
+        <source>Of the middle of the text.</source>
+        <translation>文字中心的坐标。</translation>
+    </message>
+    <message>
+        <source>y</source>
+        <translation>y</translation>
+    </message>
+    <message>
+        <source>By which the text is turned counterclockwise on the page.</source>
+        <translation>文字在页面上逆时针旋转的角度。</translation>
+    </message>
+    <message>
+        <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
+        <translation>标记，其大小对应参考值；可位于面内和线上。</translation>
     </message>
 </context>
 <context>
@@ -4937,6 +5154,13 @@
     </message>
 </context>
 <context>
+    <name>LabelReader</name>
+    <message>
+        <source>The text “%1” of the labels of %2 is not understood, so they show the attribute: %3.</source>
+        <translation>无法理解%2的标注文字“%1”，因此显示属性：%3。</translation>
+    </message>
+</context>
+<context>
     <name>LabelSettings</name>
     <message>
         <source>names no field; leave out the labels</source>
@@ -4946,9 +5170,12 @@
         <source>is not above that of the class before</source>
         <translation>不大于前一类的值</translation>
     </message>
+    <message>
+        <source>“%1” is no place; there are: %2</source>
+        <translation>“%1”不是位置；可用的有：%2</translation>
+    </message>
 </context>
 <context>
-<<<<<<< HEAD
     <name>LayerActions</name>
     <message>
         <source>Groups lie at most %1 deep in each other; ungroup some of them first.</source>
@@ -5060,8 +5287,6 @@
     </message>
 </context>
 <context>
-=======
->>>>>>> 76a5571 (desktop: Layers are added from files, in the window and by a step)
     <name>LayerAdding</name>
     <message>
         <source>All data (%1)</source>
@@ -5178,12 +5403,79 @@
         <source>groups are nested more than %1 deep</source>
         <translation>组嵌套超过 %1 层</translation>
     </message>
+    <message>
+        <source>is missing; name the file of the data</source>
+        <translation>缺失；请给出数据文件</translation>
+    </message>
 </context>
 <context>
     <name>LayerSteps</name>
     <message>
         <source>there is no &quot;%1&quot;; write layer:MAP/LAYER, where LAYER may be a group, or map:MAP; plotvane info lists them.</source>
         <translation>没有“%1”；请写 layer:MAP/LAYER（LAYER 可以是组）或 map:MAP；plotvane info 会列出它们。</translation>
+    </message>
+</context>
+<context>
+    <name>LayerStyling</name>
+    <message>
+        <source>Paths</source>
+        <translation>小路</translation>
+    </message>
+    <message>
+        <source>Streets</source>
+        <translation>街道</translation>
+    </message>
+    <message>
+        <source>Secondary roads</source>
+        <translation>次要道路</translation>
+    </message>
+    <message>
+        <source>Main roads</source>
+        <translation>主要道路</translation>
+    </message>
+    <message>
+        <source>Motorways</source>
+        <translation>高速公路</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>drawn by “%1”, the heavier roads wider</source>
+        <translation>按“%1”绘制，重要道路较宽</translation>
+    </message>
+    <message>
+        <source>coloured by “%1”</source>
+        <translation>按“%1”着色</translation>
+    </message>
+    <message>
+        <source>marks sized by “%1”, in natural breaks (Jenks)</source>
+        <translation>标记大小按“%1”，自然断点（Jenks）</translation>
+    </message>
+    <message>
+        <source>shaded by “%1”, in natural breaks (Jenks)</source>
+        <translation>按“%1”分级着色，自然断点（Jenks）</translation>
+    </message>
+    <message>
+        <source>Colour %1</source>
+        <translation>颜色 %1</translation>
+    </message>
+    <message>
+        <source>coloured so that neighbours differ</source>
+        <translation>着色使相邻区域不同</translation>
+    </message>
+    <message>
+        <source>drawn as its name says</source>
+        <translation>按其名称的含义绘制</translation>
+    </message>
+    <message>
+        <source>in one colour</source>
+        <translation>单一颜色</translation>
+    </message>
+    <message>
+        <source>labelled by “%1”</source>
+        <translation>用“%1”标注</translation>
     </message>
 </context>
 <context>
@@ -5530,6 +5822,331 @@
     </message>
 </context>
 <context>
+    <name>NewMap</name>
+    <message>
+        <source>No data are named; give a file of data.</source>
+        <translation>未指定数据；请给出数据文件。</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw: no layer of the data has geometries.</source>
+        <translation>没有可绘制的内容：数据中没有含几何的图层。</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw: the filter “%1” suits no layer of the data.</source>
+        <translation>没有可绘制的内容：筛选条件“%1”不适用于数据的任何图层。</translation>
+    </message>
+    <message>
+        <source>The layer “%1” of %2 has no features to show.</source>
+        <translation>%2 的图层“%1”没有可显示的要素。</translation>
+    </message>
+    <message>
+        <source>The file “%1” has no layer “%2”; it has: %3.</source>
+        <translation>文件“%1”没有图层“%2”；它有：%3。</translation>
+    </message>
+    <message>
+        <source>The coordinate system can&apos;t be taken: %1.</source>
+        <translation>无法采用该坐标系：%1。</translation>
+    </message>
+    <message>
+        <source>As asked for.</source>
+        <translation>按要求。</translation>
+    </message>
+    <message>
+        <source>plain coordinates</source>
+        <translation>平面坐标</translation>
+    </message>
+    <message>
+        <source>The data have no coordinate system.</source>
+        <translation>数据没有坐标系。</translation>
+    </message>
+    <message>
+        <source>Coordinate system %1 (%2)</source>
+        <translation>坐标系 %1（%2）</translation>
+    </message>
+    <message>
+        <source>“%1” is no paper; take one of: %2.</source>
+        <translation>“%1”不是纸张；请选用：%2。</translation>
+    </message>
+    <message>
+        <source>landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Page %1, %2</source>
+        <translation>页面 %1，%2</translation>
+    </message>
+    <message>
+        <source>The data are broader than high.</source>
+        <translation>数据的宽大于高。</translation>
+    </message>
+    <message>
+        <source>The data are higher than broad.</source>
+        <translation>数据的高大于宽。</translation>
+    </message>
+    <message>
+        <source>Layer “%1”</source>
+        <translation>图层“%1”</translation>
+    </message>
+    <message>
+        <source>Sea</source>
+        <translation>海洋</translation>
+    </message>
+    <message>
+        <source>template</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>%1: the template has no data frame for the map; give it one.</source>
+        <translation>%1：模板没有用于地图的数据框；请添加一个。</translation>
+    </message>
+    <message>
+        <source>Legend in a corner of the map</source>
+        <translation>图例在地图的角上</translation>
+    </message>
+    <message>
+        <source>Nothing of the data lies there.</source>
+        <translation>该处没有数据。</translation>
+    </message>
+    <message>
+        <source>Legend beside the map</source>
+        <translation>图例在地图旁</translation>
+    </message>
+    <message>
+        <source>It would hide data.</source>
+        <translation>否则会遮盖数据。</translation>
+    </message>
+    <message>
+        <source>A north arrow</source>
+        <translation>有指北针</translation>
+    </message>
+    <message>
+        <source>No north arrow</source>
+        <translation>无指北针</translation>
+    </message>
+    <message>
+        <source>North is up all over the map.</source>
+        <translation>整幅地图北方朝上。</translation>
+    </message>
+    <message>
+        <source>The graticule shows where north is.</source>
+        <translation>经纬网表示北方。</translation>
+    </message>
+    <message>
+        <source>A graticule</source>
+        <translation>有经纬网</translation>
+    </message>
+    <message>
+        <source>No graticule</source>
+        <translation>无经纬网</translation>
+    </message>
+    <message>
+        <source>The scale is small.</source>
+        <translation>比例尺小。</translation>
+    </message>
+    <message>
+        <source>The scale is large.</source>
+        <translation>比例尺大。</translation>
+    </message>
+</context>
+<context>
+    <name>NewMapDialog</name>
+    <message>
+        <source>Points</source>
+        <translation>点</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>Areas</source>
+        <translation>面</translation>
+    </message>
+    <message>
+        <source>Mixed</source>
+        <translation>混合</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>表</translation>
+    </message>
+    <message>
+        <source>New Map from Data</source>
+        <translation>用数据新建地图</translation>
+    </message>
+    <message>
+        <source>&amp;Add Files…</source>
+        <translation>添加文件(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Title</source>
+        <translation>标题(&amp;T)</translation>
+    </message>
+    <message>
+        <source>the name of the data</source>
+        <translation>数据的名称</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>纸张(&amp;P)</translation>
+    </message>
+    <message>
+        <source>As the data need</source>
+        <translation>按数据需要</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>纵向</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横向</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation</source>
+        <translation>方向(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Coordinate system</source>
+        <translation>坐标系(&amp;C)</translation>
+    </message>
+    <message>
+        <source>one that suits the data; or EPSG:3035</source>
+        <translation>适合数据的坐标系；或 EPSG:3035</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>筛选(&amp;F)</translation>
+    </message>
+    <message>
+        <source>all features; or population &gt; 100000</source>
+        <translation>所有要素；或 population &gt; 100000</translation>
+    </message>
+    <message>
+        <source>T&amp;emplate</source>
+        <translation>模板(&amp;E)</translation>
+    </message>
+    <message>
+        <source>none; or a document whose page is taken</source>
+        <translation>无；或采用其页面的文档</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>&amp;Make Map</source>
+        <translation>制作地图(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>要素</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>Map documents (*.kdx)</source>
+        <translation>地图文档 (*.kdx)</translation>
+    </message>
+    <message>
+        <source>Add files of data, or drop them here, and check what the map is to show.</source>
+        <translation>添加数据文件或拖放到此处，并勾选地图要显示的内容。</translation>
+    </message>
+    <message>
+        <source>The coordinate system can&apos;t be taken: %1.</source>
+        <translation>无法采用该坐标系：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>NewSubcommand</name>
+    <message>
+        <source>new: &quot;%1&quot; is no name of a map document; name a .kdx file.</source>
+        <translation>new：“%1”不是地图文档的名称；请给出 .kdx 文件。</translation>
+    </message>
+    <message>
+        <source>%1: there is such a file; name another one, or pass --force to replace it.</source>
+        <translation>%1：文件已存在；请换个名称，或用 --force 替换。</translation>
+    </message>
+    <message>
+        <source>The .kdx document to make.</source>
+        <translation>要制作的 .kdx 文档。</translation>
+    </message>
+    <message>
+        <source>More data, as for --data.</source>
+        <translation>更多数据，同 --data。</translation>
+    </message>
+    <message>
+        <source>A file of data, all its layers or one of them; may be given several times.</source>
+        <translation>数据文件，其所有图层或其中之一；可多次给出。</translation>
+    </message>
+    <message>
+        <source>The title; the name of the data if not given.</source>
+        <translation>标题；未给出时为数据的名称。</translation>
+    </message>
+    <message>
+        <source>The paper, such as A3; A4 if not given.</source>
+        <translation>纸张，如 A3；未给出时为 A4。</translation>
+    </message>
+    <message>
+        <source>Let the sheet lie. The shape of the data decides if neither is given.</source>
+        <translation>横向。两者均未给出时由数据的形状决定。</translation>
+    </message>
+    <message>
+        <source>Let the sheet stand upright.</source>
+        <translation>纵向。</translation>
+    </message>
+    <message>
+        <source>The coordinate system of the map, such as EPSG:3035; one that suits the data if not given.</source>
+        <translation>地图的坐标系，如 EPSG:3035；未给出时选用适合数据的坐标系。</translation>
+    </message>
+    <message>
+        <source>A document whose page is taken, with all that lies on it; the map goes into its largest data frame.</source>
+        <translation>采用其页面及页面上所有内容的文档；地图放入其最大的数据框。</translation>
+    </message>
+    <message>
+        <source>Only features of which this is true, such as &quot;population &gt; 100000&quot;.</source>
+        <translation>仅限满足此条件的要素，如 &quot;population &gt; 100000&quot;。</translation>
+    </message>
+    <message>
+        <source>Draw the page into an image, too, at 300 DPI.</source>
+        <translation>同时以 300 DPI 将页面绘制为图像。</translation>
+    </message>
+    <message>
+        <source>Print what was chosen, and why.</source>
+        <translation>打印所做的选择及原因。</translation>
+    </message>
+    <message>
+        <source>Replace a document of that name.</source>
+        <translation>替换同名文档。</translation>
+    </message>
+    <message>
+        <source>new: data are missing; name a file with --data.</source>
+        <translation>new：缺少数据；请用 --data 给出文件。</translation>
+    </message>
+    <message>
+        <source>new: --landscape and --portrait exclude each other.</source>
+        <translation>new：--landscape 与 --portrait 互斥。</translation>
+    </message>
+</context>
+<context>
     <name>NoticeBar</name>
     <message>
         <source>Reload</source>
@@ -5614,6 +6231,37 @@
     </message>
 </context>
 <context>
+    <name>PageComposition</name>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>Graticule</source>
+        <translation>经纬网</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>图例</translation>
+    </message>
+    <message>
+        <source>1:%1 at the centre of the map</source>
+        <translation>地图中心 1:%1</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>数据来源</translation>
+    </message>
+    <message>
+        <source>Map data: [credits]</source>
+        <translation>地图数据：[credits]</translation>
+    </message>
+</context>
+<context>
     <name>PageGesture</name>
     <message>
         <source>Move the selected elements</source>
@@ -5690,6 +6338,21 @@
     </message>
 </context>
 <context>
+    <name>PinnedLabels</name>
+    <message>
+        <source>Only a layer of features has labels; write layer:MAP/LAYER.</source>
+        <translation>只有要素图层才有标注；请写 layer:地图/图层。</translation>
+    </message>
+    <message>
+        <source>The layer “%1” has no labels; give it some first.</source>
+        <translation>图层“%1”没有标注；请先为其添加标注。</translation>
+    </message>
+    <message>
+        <source>No feature of the layer “%1” has the key “%2”.</source>
+        <translation>图层“%1”中没有键为“%2”的要素。</translation>
+    </message>
+</context>
+<context>
     <name>PluginLibrary</name>
     <message>
         <source>The plug-in is missing: there is no %1. Build it, or name it in PLOTVANE_PLUGIN.</source>
@@ -5717,6 +6380,57 @@
     <message>
         <source>there is no transformation between them</source>
         <translation>二者之间没有可用的变换</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectionChoice</name>
+    <message>
+        <source>Equal Earth projection</source>
+        <translation>Equal Earth 投影</translation>
+    </message>
+    <message>
+        <source>The data reach round the world, and the Equal Earth projection keeps its areas.</source>
+        <translation>数据遍及全球，Equal Earth 投影保持面积。</translation>
+    </message>
+    <message>
+        <source>Lambert azimuthal equal-area projection about the pole</source>
+        <translation>以极点为中心的兰伯特等积方位投影</translation>
+    </message>
+    <message>
+        <source>The data lie about a pole, where an azimuthal projection shows all directions alike.</source>
+        <translation>数据位于极点周围，方位投影对各方向一视同仁。</translation>
+    </message>
+    <message>
+        <source>cylindrical equal-area projection, true at %1</source>
+        <translation>等积圆柱投影，标准纬线 %1</translation>
+    </message>
+    <message>
+        <source>The data lie in a belt along the equator, which a cylindrical projection shows best.</source>
+        <translation>数据沿赤道呈带状分布，圆柱投影最合适。</translation>
+    </message>
+    <message>
+        <source>Albers equal-area conic projection, %1 and %2</source>
+        <translation>阿伯斯等积圆锥投影，%1 和 %2</translation>
+    </message>
+    <message>
+        <source>The data are broader than high and lie to one side of the equator: a conic projection, its standard parallels a sixth of the height within the edges.</source>
+        <translation>数据宽大于高且位于赤道一侧：圆锥投影，标准纬线距边缘为高度的六分之一。</translation>
+    </message>
+    <message>
+        <source>Lambert azimuthal equal-area projection, %1, %2</source>
+        <translation>兰伯特等积方位投影，%1，%2</translation>
+    </message>
+    <message>
+        <source>The data are about as broad as high: an azimuthal projection about their middle.</source>
+        <translation>数据宽高相近：以其中心为中心的方位投影。</translation>
+    </message>
+    <message>
+        <source>The data cover less than %1 km, and this is their zone of UTM.</source>
+        <translation>数据范围不足 %1 km，这是其 UTM 带。</translation>
+    </message>
+    <message>
+        <source>The data&apos;s own coordinate system, %1, shows them almost without distortion.</source>
+        <translation>数据自身的坐标系 %1 几乎无变形。</translation>
     </message>
 </context>
 <context>
@@ -6061,6 +6775,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Search for coordinate systems by name, code or area</source>
         <translation>按名称、代码或区域搜索坐标系</translation>
+    </message>
+    <message>
+        <source>Make a map of data, with a page around it</source>
+        <translation>用数据制作地图及其页面</translation>
     </message>
 </context>
 <context>
@@ -6813,11 +7531,15 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
     <message>
         <source>Other</source>
-        <translation type="vanished">其他</translation>
+        <translation>其他</translation>
     </message>
     <message>
         <source>Click to work on this map</source>
-        <translation type="vanished">单击以处理此地图</translation>
+        <translation>单击以处理此地图</translation>
+    </message>
+    <message>
+        <source>%1 of %2 labels found no place</source>
+        <translation>%2 个标注中有 %1 个没有位置</translation>
     </message>
 </context>
 <context>
