@@ -294,6 +294,10 @@ QString ContentsModel::toolTipOf(Node const& node) const {
   if (isOutOfScale(node))
     return tr("%1; the map is at %2").arg(rangeOf(*node.row.layer), scaleText(node.row.map->scale()));
   if (LayerHost::isSwitchedOn(*node.row.layer) && !node.row.layer->IsVisible()) return tr("A group hides it");
+  auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(node.row.layer.get());
+  auto const labels = vector && vector->IsAnnotationVisible() ? vector->labelCount() : SysCarto::LabelCount();
+  if (labels.placed != labels.wanted)
+    return tr("%1 of %2 labels found no place").arg(labels.wanted - labels.placed).arg(labels.wanted);
   auto const scales = LayerHost::scales(*node.row.layer);
   return scales.min > 0 || scales.max > 0 ? rangeOf(*node.row.layer) : QString();
 }
