@@ -33,7 +33,7 @@ Untold const untold[] = {
     {QRegularExpression("svg: "), "An SVG is"},
 };
 // clang-format on
-int constexpr firstOfStyles = 12;
+int constexpr firstOfStyles = 13;
 
 QString verdictOnDocument(QJsonObject const& json) {
   SysUtility::JsonReader reader(json);
