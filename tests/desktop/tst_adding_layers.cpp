@@ -4,12 +4,14 @@
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/layers/AddLayersDialog.h"
+#include "host/desktop/layers/LayerAdding.h"
 #include "host/desktop/layers/NewLayers.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/PageLayout.h>
 
 #include <QComboBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTreeWidget>
 
@@ -94,6 +96,22 @@ private slots:
     QVERIFY(questions > 0);
     QCOMPARE(saved(), before_);
     QVERIFY(!session_.isModified());
+  }
+
+  void filesAndFoldersOfDataCanBeDropped() {
+    auto const accepted = [&](QStringList const& names) {
+      QMimeData data;
+      QList<QUrl> urls;
+      for (QString const& name : names) urls << QUrl::fromLocalFile(path(name));
+      data.setUrls(urls);
+      return LayerAdding::filesIn(data).size();
+    };
+    put(path("letter.txt"), "Hello");
+    put(path("map.kdx"), "{}");
+    QCOMPARE(accepted({"points.csv", "mixed.geojson"}), 2);
+    QCOMPARE(accepted({""}), 1);
+    QCOMPARE(accepted({"map.kdx"}), 0);
+    QCOMPARE(accepted({"points.csv", "letter.txt"}), 0);
   }
 
   void theDialogListsWhatFilesHold() {
