@@ -72,7 +72,9 @@ QString factsOf(SysCarto::SystemDescription const& told) {
   add(SystemChooser::tr("Datum"), told.datum);
   add(SystemChooser::tr("Unit"), told.unit);
   add(SystemChooser::tr("Area"), told.area);
-  return QStringLiteral("<b>%1</b><table>%2</table>").arg(told.name.toHtmlEscaped(), rows);
+  bool const isNamed = !told.code.isEmpty() || told.name != QLatin1String("unknown");  // what PROJ calls a PROJ text
+  QString const heading = isNamed ? QStringLiteral("<b>%1</b>").arg(told.name.toHtmlEscaped()) : QString();
+  return QStringLiteral("%1<table>%2</table>").arg(heading, rows);
 }
 
 }  // namespace
