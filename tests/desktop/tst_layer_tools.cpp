@@ -226,7 +226,8 @@ private slots:
     auto* const contents = at.window.findChild<SysAdapterUI::TOCControl*>();
     auto const map = at.document().GetMap(0);
     emit contents->RowChosen(map, map->GetLayers().last());
-    QTRY_VERIFY(at.isEnabled("Host_AttributeTable"));
+    at.window.actions().refresh();
+    QVERIFY(at.isEnabled("Host_AttributeTable"));
     at.trigger("Host_AttributeTable");
     auto* const panel = at.window.findChild<AttributePanel*>();
     QVERIFY(panel->isVisible());
