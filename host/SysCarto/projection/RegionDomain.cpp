@@ -107,9 +107,10 @@ void RegionDomain::fillRow(int row) {
   }
 }
 
-// Those that the box about an edge meets; of a long edge, about each piece of it.
+// Those that the box about an edge meets; of a long edge, about each piece of it that lies on the globe.
 template <class Visit>
 void RegionDomain::visitCells(Vertex const& a, Vertex const& b, Visit const& visit) const {
+  if (std::min(a.x, b.x) > columns / 2 || std::max(a.x, b.x) < -columns / 2) return;
   if (std::max(std::abs(b.x - a.x), std::abs(b.y - a.y)) > 2) {
     Vertex const middle = between(a, b, 0.5);
     visitCells(a, middle, visit);

@@ -96,6 +96,7 @@ private slots:
   void whatHasNoPlaceIsTold_data();
   void whatHasNoPlaceIsTold();
   void noRingGoesRoundTheGlobe();
+  void farBeyondTheGlobeThereIsNothing();
 };
 
 void CoordinateSystemsTest::landIsLandAndSeaIsSea_data() {
@@ -188,6 +189,16 @@ void CoordinateSystemsTest::noRingGoesRoundTheGlobe() {
       openedJson(geoJson(R"({"type":"Polygon","coordinates":[[[-40,-40],[40,-40],[40,40],[-40,40],[-40,-40]]]})"),
                  "+proj=ortho +lat_0=0 +lon_0=180 +R=6371000");
   QVERIFY(layer.features().parts.empty());
+}
+
+// A coordinate that is none takes no time, and the polygon beside it is drawn.
+void CoordinateSystemsTest::farBeyondTheGlobeThereIsNothing() {
+  auto const layer = openedJson(
+      collection({feature(R"({"type":"Polygon","coordinates":[[[-1e300,0],[1e300,1],[7,1e300],[-1e300,0]]]})", "A"),
+                  feature(R"({"type":"Polygon","coordinates":[[[10,0],[20,0],[20,9],[10,9],[10,0]]]})", "B")}),
+      "EPSG:32633");
+  Cover const cover(layer.features());
+  QVERIFY(cover.holds(500000, 500000));
 }
 
 QTEST_MAIN(CoordinateSystemsTest)
