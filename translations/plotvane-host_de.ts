@@ -6976,6 +6976,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
         <source>hidden</source>
         <translation>ausgeblendet</translation>
     </message>
+    <message>
+        <source>%1 of %2 labels found no place</source>
+        <translation>%1 von %2 Beschriftungen fanden keinen Platz</translation>
+    </message>
 </context>
 <context>
     <name>SysAdapterUI::ContentsTree</name>
@@ -7531,15 +7535,15 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>Other</source>
-        <translation>Sonstige</translation>
+        <translation type="vanished">Sonstige</translation>
     </message>
     <message>
         <source>Click to work on this map</source>
-        <translation>Klicken, um an dieser Karte zu arbeiten</translation>
+        <translation type="vanished">Klicken, um an dieser Karte zu arbeiten</translation>
     </message>
     <message>
         <source>%1 of %2 labels found no place</source>
-        <translation>%1 von %2 Beschriftungen fanden keinen Platz</translation>
+        <translation type="vanished">%1 von %2 Beschriftungen fanden keinen Platz</translation>
     </message>
 </context>
 <context>

@@ -6976,6 +6976,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <source>hidden</source>
         <translation>隐藏</translation>
     </message>
+    <message>
+        <source>%1 of %2 labels found no place</source>
+        <translation>%2 个标注中有 %1 个没有位置</translation>
+    </message>
 </context>
 <context>
     <name>SysAdapterUI::ContentsTree</name>
@@ -7531,15 +7535,15 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
     <message>
         <source>Other</source>
-        <translation>其他</translation>
+        <translation type="vanished">其他</translation>
     </message>
     <message>
         <source>Click to work on this map</source>
-        <translation>单击以处理此地图</translation>
+        <translation type="vanished">单击以处理此地图</translation>
     </message>
     <message>
         <source>%1 of %2 labels found no place</source>
-        <translation>%2 个标注中有 %1 个没有位置</translation>
+        <translation type="vanished">%2 个标注中有 %1 个没有位置</translation>
     </message>
 </context>
 <context>
