@@ -40,6 +40,13 @@ bool DocumentSession::open(QString const& path) {
   return settle(true);
 }
 
+bool DocumentSession::make(std::function<bool(SysCarto::MapDocument&)> const& fill) {
+  auto const before = document_.GetPageLayout();
+  bool const done = fill(document_);
+  if (done || document_.GetPageLayout() != before) settle(true);
+  return done;
+}
+
 bool DocumentSession::save() { return saveAs(path()); }
 
 bool DocumentSession::saveAs(QString const& path) {

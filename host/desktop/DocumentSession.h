@@ -24,8 +24,8 @@ public:
   // Each answers false, with a sentence in `takeProblem` and the document unchanged, where it can't be done.
   bool create();
   bool open(QString const& path);
-  /// Lets something else give the document its content; it answers whether it did.
-  bool make(std::function<bool(SysCarto::MapDocument&)> const& fill) { return settle(fill(document_)); }
+  /// Lets something else give the document its content; it answers whether it did. What it has begun to is told, too.
+  bool make(std::function<bool(SysCarto::MapDocument&)> const& fill);
   bool save();
   bool saveAs(QString const& path);
   /// Said once: whoever asks tells it.

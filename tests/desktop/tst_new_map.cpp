@@ -221,7 +221,7 @@ private slots:
     QString const file = makeData(path(QString(QTest::currentDataTag()) + ".gpkg"), features, system);
     SysCarto::MapDocument document;
     NewMapRequest request;
-    request.data = QStringList{file};
+    request.data = {{file, QString()}};
     request.title = "A title that is long enough to need the whole width of the page and then some, as titles do";
     NewMapResult const made = makeNewMap(request, document);
     QCOMPARE(made.problem, QString());
@@ -257,12 +257,12 @@ private slots:
       QTest::newRow(name) << request << QString(told);
     };
     row("no data", {}, "No data are named");
-    row("no file", {{path("none.gpkg")}, {}, {}, {}, {}, {}, {}}, "does not exist");
-    row("no such layer", {{file + "|other"}, {}, {}, {}, {}, {}, {}}, "things");
-    row("no such paper", {{file}, {}, "B99", {}, {}, {}, {}}, "A4");
-    row("no system", {{file}, {}, {}, {}, "EPSG:1", {}, {}}, "EPSG:1");
-    row("a filter that suits nothing", {{file}, {}, {}, {}, {}, {}, "size > 3"}, "size > 3");
-    row("no template", {{file}, {}, {}, {}, {}, path("none.kdx"), {}}, "none.kdx");
+    row("no file", {{{path("none.gpkg"), QString()}}, {}, {}, {}, {}, {}, {}}, "does not exist");
+    row("no such layer", {{{file, "other"}}, {}, {}, {}, {}, {}, {}}, "things");
+    row("no such paper", {{{file, QString()}}, {}, "B99", {}, {}, {}, {}}, "A4");
+    row("no system", {{{file, QString()}}, {}, {}, {}, "EPSG:1", {}, {}}, "EPSG:1");
+    row("a filter that suits nothing", {{{file, QString()}}, {}, {}, {}, {}, {}, "size > 3"}, "size > 3");
+    row("no template", {{{file, QString()}}, {}, {}, {}, {}, path("none.kdx"), {}}, "none.kdx");
   }
   void whatCannotBeMadeIsTold() {
     QFETCH(NewMapRequest, request);

@@ -105,7 +105,7 @@ struct MapDocument::Private {
   DocumentContext contextFor(QString const& file, bool relativePaths) const;
   std::optional<QByteArray> textFor(QString const& file, bool relativePaths, QString& problem) const;
   QString write(QString const& file, bool relativePaths, bool keepBackup) const;
-  bool read(QJsonObject const& json, QString const& newPath);
+  bool read(QJsonObject const& json, QString const& newPath, QString const& folder);
 };
 
 // The steps of another layout name elements that this one does not hold.
@@ -185,13 +185,13 @@ QString MapDocument::Private::write(QString const& file, bool relativePaths, boo
 }
 
 // Warnings and problems begin with the path, where there is one.
-bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath) {
+bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath, QString const& folder) {
   auto const about = [&newPath](QString const& sentence) {
     return newPath.isEmpty() ? sentence : aboutFile(newPath, sentence);
   };
   DocumentContent read;
   DocumentContext context;
-  if (!newPath.isEmpty()) context.folder = folderOf(newPath);
+  context.folder = folder;
   SysUtility::JsonReader reader(json);
   read.list(reader, context);
   if (!reader.ok()) return failed(about(reader.error() + Texts::tr("; correct the file or open another one")));
@@ -219,7 +219,7 @@ bool MapDocument::New(QString const& path) {
 bool MapDocument::Open(QString const& path) {
   QString problem;
   auto const json = SysUtility::readJsonFile(path, documentKind(), problem);
-  return json ? d->read(*json, path) : d->failed(problem);
+  return json ? d->read(*json, path, folderOf(path)) : d->failed(problem);
 }
 
 bool MapDocument::Save(bool relativePaths, bool keepBackup) { return SaveAs(d->path, relativePaths, keepBackup); }
@@ -307,8 +307,8 @@ void MapDocumentHost::setPageLayout(MapDocument& document, _ptr_t<PageLayout> co
   document.d->setLayout(layout);
 }
 
-bool MapDocumentHost::read(MapDocument& document, QJsonObject const& json) {
-  if (!document.d->read(json, QString())) return false;
+bool MapDocumentHost::read(MapDocument& document, QJsonObject const& json, QString const& folder) {
+  if (!document.d->read(json, QString(), folder)) return false;
   document.d->change.raise();
   return true;
 }

@@ -12,9 +12,9 @@ struct SYSCARTO_EXPORT MapDocumentHost {
   static QUndoStack* history(MapDocument const& document);
   static void setPageLayout(MapDocument& document, SysUtility::_ptr_t<PageLayout> const& layout);
 
-  /// Makes it a new document without a file, of what a file would hold with absolute paths; it counts as modified.
-  /// Otherwise as `MapDocument::Open`; problems name no file.
-  static bool read(MapDocument& document, QJsonObject const& json);
+  /// Makes it a new document without a file, of what a file in that folder would hold; without a folder, of absolute
+  /// paths. It counts as modified. Otherwise as `MapDocument::Open`; problems name no file.
+  static bool read(MapDocument& document, QJsonObject const& json, QString const& folder = QString());
 
   /// What a save to the document's file would write now; empty where there is nothing that can be saved.
   static QByteArray text(MapDocument const& document);

@@ -25,6 +25,21 @@ QString layerNames(GDALDataset& dataset) {
   return names.join(QLatin1String(", "));
 }
 
+// One area, from pole to pole and once round, in degrees.
+DatasetPointer globe() {
+  GDALAllRegister();
+  DatasetPointer dataset(GetGDALDriverManager()->GetDriverByName("Memory")->Create("", 0, 0, 0, GDT_Unknown, nullptr));
+  OGRLayer* const layer = dataset->CreateLayer("globe", nullptr, wkbPolygon);
+  OGRLinearRing ring;
+  for (auto const& [x, y] : {std::pair(-180, -90), {180, -90}, {180, 90}, {-180, 90}, {-180, -90}}) ring.addPoint(x, y);
+  OGRPolygon area;
+  area.addRing(&ring);
+  OGRFeatureUniquePtr const feature(OGRFeature::CreateFeature(layer->GetLayerDefn()));
+  feature->SetGeometry(&area);
+  if (layer->CreateFeature(feature.get()) != OGRERR_NONE) dataset.reset();
+  return dataset;
+}
+
 }  // namespace
 
 QString DataSource::refusal(QString const& path) {
@@ -51,13 +66,14 @@ std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const&
 }
 
 std::unique_ptr<DataSource> DataSource::open(SourceSettings const& source, QString& error) {
-  error = refusal(source.file);
+  bool const isGlobe = source.data == SourceSettings::Data::Globe;
+  error = isGlobe ? QString() : refusal(source.file);
   if (!error.isEmpty()) return nullptr;
   auto opened = std::make_unique<Opened>();
-  opened->dataset = openLocalDataset(source.file, error);
+  opened->dataset = isGlobe ? globe() : openLocalDataset(source.file, error);
   if (!opened->dataset) return nullptr;
   std::unique_ptr<DataSource> data(new DataSource(std::move(opened)));
-  error = data->take(source);
+  error = data->take(isGlobe ? SourceSettings() : source);
   if (!error.isEmpty()) return nullptr;
   return data;
 }

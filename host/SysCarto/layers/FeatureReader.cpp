@@ -35,6 +35,7 @@ struct Texts {
 constexpr std::chrono::milliseconds betweenQuestions(50);  // whether the reading goes on
 
 QString describeSource(SourceSettings const& source) {
+  if (source.data == SourceSettings::Data::Globe) return Texts::tr("the globe");
   return source.layer.isEmpty() ? Texts::tr("the file “%1”").arg(source.file)
                                 : Texts::tr("layer “%2” of the file “%1”").arg(source.file, source.layer);
 }
@@ -79,7 +80,9 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
                        .arg(describeSource(source), checkCoordinateSystem(source.coordinateSystem));
     return nullptr;
   }
-  OGRSpatialReference const* const own = given ? given.get() : layer.GetSpatialRef();
+  bool const isGlobe = source.data == SourceSettings::Data::Globe;
+  auto const globe = isGlobe && target ? globeOf(*target) : nullptr;  // the globe is the map's own
+  OGRSpatialReference const* const own = isGlobe ? globe.get() : given ? given.get() : layer.GetSpatialRef();
   if (!own && target)
     result.warnings << Texts::tr(
                            "No coordinate system is known for %1; its coordinates are taken as those of the map. "
@@ -171,30 +174,6 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     result.warnings << Texts::tr("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
 }
 
-// In the globe of the map's own system; plain coordinates have none, and the area is one of degrees.
-void addGlobe(QString const& mapSystem, Renderer const& renderer, ReadFeatures& result) {
-  auto const map = makeCoordinateSystem(mapSystem);
-  auto const globe = map ? globeOf(*map) : nullptr;
-  QString reason;
-  auto const projector = GeometryProjector::create(globe.get(), map.get(), reason);
-  if (!projector) {
-    result.error = Texts::tr("The globe can't be projected to the map's coordinate system: %1.").arg(reason);
-    return;
-  }
-  OGRLinearRing ring;
-  for (auto const& [x, y] : {std::pair(-180, -90), {180, -90}, {180, 90}, {-180, 90}, {-180, -90}}) ring.addPoint(x, y);
-  OGRPolygon area;
-  area.addRing(&ring);
-  result.store->beginFeature();
-  projector->add(area, *result.store);
-  result.store->endFeature(renderer.classOf(QString(), std::numeric_limits<double>::quiet_NaN()), QString(), 0);
-  result.store->finish();
-}
-
-}  // namespace
-
-namespace {
-
 // To open a file can mean to read all of it, so it is done on another thread where somebody waits who may have enough
 // of it. What is given up is finished there for nobody.
 std::unique_ptr<DataSource> openWatched(SourceSettings const& source, ReadProgress const& progress,
@@ -228,10 +207,6 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
                           LabelFields const& labels, ReadProgress const& progress) {
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
-  if (source.data == SourceSettings::Data::Globe) {
-    addGlobe(mapSystem, renderer, result);
-    return result;
-  }
   auto const data = openWatched(source, progress, result);
   if (!data) return result;
   if (data->layer().GetGeomType() == wkbNone) {
@@ -264,7 +239,6 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
 QStringList attributesOf(SourceSettings const& source) {
   QString error;
   QStringList names;
-  if (source.data == SourceSettings::Data::Globe) return names;
   auto const data = DataSource::open(source, error);
   OGRFeatureDefn* const definition = data ? data->layer().GetLayerDefn() : nullptr;
   for (int i = 0; definition && i < definition->GetFieldCount(); ++i)

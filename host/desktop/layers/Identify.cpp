@@ -55,7 +55,8 @@ Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, doub
   double const scale = map->GetDisplayTransformation()->GetMapScale();
   for (int i = map->GetLayerCount() - 1; i >= 0; --i) {
     auto const layer = SysUtility::ptr_cast<SysCarto::VectorLayer>(map->GetLayer(i));
-    if (layer && layer->showsAt(scale)) identifyIn(layer, place, reach, found);
+    bool const isGlobe = layer && layer->source().data == SysCarto::SourceSettings::Data::Globe;  // it is everywhere
+    if (layer && !isGlobe && layer->showsAt(scale)) identifyIn(layer, place, reach, found);
   }
   return found;
 }

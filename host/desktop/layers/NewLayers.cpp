@@ -152,6 +152,12 @@ void putSystem(Map& map, QString const& system) { map.SetCoordinateSystem(system
 
 }  // namespace
 
+QString NewLayers::conditionOf(GeometryKind kind) {
+  for (Kind const& row : kindsOfMixed)
+    if (row.kind == kind) return QLatin1String(row.condition);
+  return QString();
+}
+
 std::vector<NewLayer> NewLayers::of(DataFile const& file, LayerDescription const& layer) {
   if (layer.kind == GeometryKind::None) return {};
   NewLayer one{{file.path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField},
@@ -166,7 +172,7 @@ std::vector<NewLayer> NewLayers::of(DataFile const& file, LayerDescription const
     NewLayer part = one;
     part.kind = kind.kind;
     part.name = tr(kind.name).arg(one.name);
-    part.source.filter = QLatin1String(kind.condition);
+    part.source.filter = conditionOf(kind.kind);
     parts.push_back(part);
   }
   return parts;

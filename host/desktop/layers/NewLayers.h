@@ -31,6 +31,9 @@ public:
   static std::vector<NewLayer> of(SysCarto::DataFile const& file);
   static std::vector<NewLayer> of(SysCarto::DataFile const& file, SysCarto::LayerDescription const& layer);
 
+  /// The condition that admits geometries of a kind: areas, lines or points, collections counting as areas.
+  static QString conditionOf(SysCarto::GeometryKind kind);
+
   /// Adds them to the focus map as one step of the history: above a layer of it, or where that is empty, points above
   /// lines above areas. A map without layers shows what the first of them holds, in its coordinate system where it has
   /// none itself; on a page without a map, a data frame that fills the margins comes first. Answers a sentence, with

@@ -48,6 +48,10 @@ public:
     if (isGeographic_) addDegrees(geometry, extent);
   }
 
+  SysGeometry::Box box() const {
+    return box_.IsInit() ? SysGeometry::Box{box_.MinX, box_.MinY, box_.MaxX, box_.MaxY} : SysGeometry::Box();
+  }
+
   void finish(GlobeExtent& extent) const {
     if (!toGlobe_ || !box_.IsInit()) return;
     for (int i = 0; i <= edgeSteps; ++i)
@@ -92,8 +96,8 @@ private:
 
 void note(OGRFeature const& feature, int index, FieldSurvey& field) {
   if (!feature.IsFieldSetAndNotNull(index)) return;
-  QString const text = QString::fromUtf8(const_cast<OGRFeature&>(feature).GetFieldAsString(index)).trimmed();
-  if (text.isEmpty()) return;
+  QString const text = QString::fromUtf8(const_cast<OGRFeature&>(feature).GetFieldAsString(index));
+  if (text.trimmed().isEmpty()) return;
   if (field.isNumber()) {
     double const number = feature.GetFieldAsDouble(index);
     field.minimum = field.given == 0 ? number : std::min(field.minimum, number);
@@ -115,6 +119,12 @@ FieldSurvey const* LayerSurvey::field(QString const& name) const {
   auto const found =
       std::find_if(fields.begin(), fields.end(), [&](FieldSurvey const& one) { return one.name == name; });
   return found == fields.end() ? nullptr : &*found;
+}
+
+bool isPartOfTrack(QString const& layer, SysCarto::DataFile const& file) {
+  return std::any_of(file.layers.begin(), file.layers.end(), [&](SysCarto::LayerDescription const& other) {
+    return other.name.endsWith(QLatin1Char('s')) && layer == other.name.chopped(1) + QLatin1String("_points");
+  });
 }
 
 std::optional<LayerSurvey> surveyLayer(SysCarto::SourceSettings const& source, SysCarto::LayerDescription const& layer,
@@ -141,5 +151,6 @@ std::optional<LayerSurvey> surveyLayer(SysCarto::SourceSettings const& source, S
   });
   if (!isRead) return std::nullopt;
   finder.finish(survey.extent);
+  survey.box = finder.box();
   return survey;
 }

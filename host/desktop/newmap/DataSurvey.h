@@ -38,10 +38,14 @@ struct LayerSurvey {
   int count = 0;                             ///< of features that have a geometry and that the filter admits
   QMap<SysCarto::GeometryKind, int> counts;  ///< the same by kind; `Mixed` for collections
   GlobeExtent extent;                        ///< in degrees; empty where the coordinate system is not known
+  SysGeometry::Box box;                      ///< in the source's coordinate system
   std::vector<FieldSurvey> fields;
 
   FieldSurvey const* field(QString const& name) const;
 };
+
+/// Whether a layer of a file holds the points of tracks or routes, which lines of another layer show already.
+bool isPartOfTrack(QString const& layer, SysCarto::DataFile const& file);
 
 /// Reads all features of a layer once; `problem` gets a sentence where they can't be read.
 std::optional<LayerSurvey> surveyLayer(SysCarto::SourceSettings const& source, SysCarto::LayerDescription const& layer,

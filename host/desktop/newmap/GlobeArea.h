@@ -28,9 +28,10 @@ struct GlobeArea {
 /// Finds the smallest area that holds places and lines, across the antimeridian where that is shorter.
 class GlobeExtent {
 public:
-  /// In degrees; longitudes of any turn.
+  /// In degrees; longitudes of any turn. What is no place on the globe is passed over.
   void addPlace(double longitude, double latitude) {
-    if (!std::isfinite(longitude) || !std::isfinite(latitude)) return;
+    constexpr double farthest = 1080;
+    if (!(std::abs(longitude) <= farthest && std::abs(latitude) <= 90)) return;
     taken_[bin(longitude)] = true;
     south_ = std::min(south_, latitude);
     north_ = std::max(north_, latitude);

@@ -4,6 +4,8 @@
 #include "MapColors.h"
 #include "Theme.h"
 
+#include "host/desktop/layers/NewLayers.h"
+
 #include "host/SysCarto/layers/Classify.h"
 #include "host/SysUtility/JsonFields.h"
 
@@ -29,14 +31,13 @@ constexpr int rampClasses = 5, sizeClasses = 4;
 
 struct KindRow {
   GeometryKind kind;
-  char const* filter;  // of a layer that holds others, too
-  double room;         // what a feature takes of the page, against the others
+  double room;  // what a feature takes of the page, against the others
   int height;
 };
 constexpr KindRow kindRows[] = {
-    {GeometryKind::Areas, "(OGR_GEOMETRY LIKE '%POLYGON%' OR OGR_GEOMETRY LIKE '%COLLECTION%')", 1.2, 0},
-    {GeometryKind::Lines, "OGR_GEOMETRY LIKE '%LINESTRING%'", 1.6, 1},
-    {GeometryKind::Points, "OGR_GEOMETRY LIKE '%POINT%'", 0.7, 2},
+    {GeometryKind::Areas, 1.2, 0},
+    {GeometryKind::Lines, 1.6, 1},
+    {GeometryKind::Points, 0.7, 2},
 };
 
 KindRow const& rowOf(GeometryKind kind) {
@@ -247,7 +248,7 @@ std::vector<StyledLayer> LayerStyling::style(LayerSurvey const& survey) {
   for (KindRow const& row : kindRows) {
     if (!counts.contains(row.kind) && !counts.contains(GeometryKind::Mixed)) continue;
     SysCarto::SourceSettings source = survey.source;
-    QString const filter = QLatin1String(row.filter);
+    QString const filter = NewLayers::conditionOf(row.kind);
     source.filter = source.filter.isEmpty() ? filter : QStringLiteral("(%1) AND %2").arg(source.filter, filter);
     layers.push_back(styleKind(survey, row.kind, source));
   }

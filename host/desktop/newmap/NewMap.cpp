@@ -38,18 +38,12 @@ using SysUtility::ptr_cast;
 
 namespace {
 
-constexpr double smallScale = 1500000;  // from which on a graticule helps
-constexpr double margin = 0.04;         // of the extent, on each side
+constexpr double smallScale = 1500000;                   // from which on a graticule helps
+constexpr double margin = 0.04;                          // of the extent, on each side
+QLatin1String const mark("the map that is being made");  // its name until it is found among those of a template
 constexpr double globeMargin = 0.005;
 constexpr double leastMetres = 2000;  // that a map shows, of a single place
 constexpr double cmPerMetre = 100, metresPerDegree = 111200;
-
-// The points of tracks and routes, which lines show already.
-bool isPartOfTrack(QString const& layer, SysCarto::DataFile const& file) {
-  return std::any_of(file.layers.begin(), file.layers.end(), [&](SysCarto::LayerDescription const& other) {
-    return other.name.endsWith(QLatin1Char('s')) && layer == other.name.chopped(1) + QLatin1String("_points");
-  });
-}
 
 // The next round denominator, no more than a tenth above.
 double roundScale(double denominator) {
@@ -110,6 +104,7 @@ private:
   QSizeF page_;
   std::vector<StyledLayer> layers_;
   bool hasGraticule_ = false;
+  _ptr_t<SysCarto::Map> map_;
 };
 
 bool NewMap::fail(QString const& problem) {
@@ -126,11 +121,11 @@ NewMapResult NewMap::run() {
 
 bool NewMap::survey() {
   if (request_.data.isEmpty()) return fail(tr("No data are named; give a file of data."));
-  for (QString const& data : request_.data) {
-    QFileInfo const named(data.section(QLatin1Char('|'), 0, 0));
+  for (NewMapRequest::Data const& data : request_.data) {
+    QFileInfo const named(data.file);
     QString const path = named.absoluteFilePath();
     for (QString const& file : named.isDir() ? SysCarto::dataFilesIn(path) : QVector<QString>{path})
-      if (!surveyFile(file, data.section(QLatin1Char('|'), 1))) return false;
+      if (!surveyFile(file, data.layer)) return false;
   }
   if (surveys_.empty())
     return fail(request_.where.isEmpty()
@@ -184,8 +179,10 @@ bool NewMap::chooseSystem() {
     QStringList own;
     for (LayerSurvey const& layer : surveys_)
       if (!own.contains(layer.description.coordinateSystem)) own << layer.description.coordinateSystem;
-    if (own.size() == 1 && own.first().isEmpty())
-      system_ = {QString(), tr("plain coordinates"), tr("The data have no coordinate system."), false};
+    bool const hasFeatures =
+        std::any_of(surveys_.begin(), surveys_.end(), [](LayerSurvey const& one) { return one.count > 0; });
+    if (!isPlaced_ && hasFeatures)
+      system_ = {QString(), tr("plain coordinates"), tr("Where on the globe the data are is not known."), false};
     else
       system_ = ProjectionChoice::forArea(area_, own);
   }
@@ -205,8 +202,14 @@ bool NewMap::choosePage() {
   if (page_.isEmpty())
     return fail(tr("“%1” is no paper; take one of: %2.").arg(wanted, names.join(QStringLiteral(", "))));
   QRectF const shape = projectedArea();
-  bool const isBroad = !shape.isValid() || shape.width() > 1.05 * shape.height();
+  SysGeometry::Box plain;
+  for (LayerSurvey const& layer : surveys_) plain.add(layer.box);
+  bool const isPlain = system_.definition.isEmpty() && plain.xmin <= plain.xmax;
+  bool const isBroad = isPlain           ? plain.xmax - plain.xmin > plain.ymax - plain.ymin
+                       : shape.isValid() ? shape.width() > 1.05 * shape.height()
+                                         : true;
   if (request_.isLandscape.value_or(isBroad) != (page_.width() > page_.height())) page_.transpose();
+  if (!request_.templateFile.isEmpty()) return true;
   QString const lies = page_.width() > page_.height() ? tr("landscape") : tr("portrait");
   explain(tr("Page %1, %2").arg(wanted, lies), request_.isLandscape ? tr("As asked for.")
                                                : isBroad            ? tr("The data are broader than high.")
@@ -270,10 +273,8 @@ QJsonObject NewMap::mapJson() const {
         {"renderer", QJsonObject{{"type", "simple"},
                                  {"symbol", fillSymbol(hasSea() ? MapColors::sea : MapColors::ground, "", 0)}}}});
   for (StyledLayer const& layer : layers_) layers.append(layer.json);
-  return {{"name", title()},
-          {"coordinateSystem", system_.definition},
-          {"bounds", QJsonArray{0, 0, 1, 1}},
-          {"layers", layers}};
+  return {
+      {"name", mark}, {"coordinateSystem", system_.definition}, {"bounds", QJsonArray{0, 0, 1, 1}}, {"layers", layers}};
 }
 
 QJsonObject NewMap::pageJson() const {
@@ -334,21 +335,28 @@ bool NewMap::open() {
       {"elements", QJsonArray{page.dataFrame(page.frame(hasGraticule_), isGlobe(),
                                              hasSea() ? MapColors::sea : MapColors::ground, hasGraticule_)}}};
   if (!request_.templateFile.isEmpty() && !takeTemplate(json)) return false;
-  if (!MapDocumentHost::read(document_, json)) return fail(MapDocumentHost::takeLastFailure());
+  QString const folder = request_.templateFile.isEmpty() ? QString() : QFileInfo(request_.templateFile).absolutePath();
+  if (!MapDocumentHost::read(document_, json, folder)) return fail(MapDocumentHost::takeLastFailure());
   result_.warnings << document_.GetWarnings();
+  QList<_ptr_t<SysCarto::Map>> maps;
+  document_.GetMaps(maps);
+  for (auto const& map : qAsConst(maps))
+    if (map->GetName() == mark) map_ = map;
+  if (!map_) return fail(tr("%1: the template has no data frame for the map; give it one.").arg(request_.templateFile));
+  map_->SetName(title());
   return true;
 }
 
 _ptr_t<MapFrameElement> NewMap::frame() const {
   for (auto const& element : document_.GetPageLayout()->GetGraphicsContainer()->GetElements())
     if (auto const frame = ptr_cast<MapFrameElement>(element))
-      if (frame->GetMap()->GetName() == title()) return frame;
+      if (frame->GetMap() == map_) return frame;
   return nullptr;
 }
 
 // All of the data, at a scale that a person would write.
 bool NewMap::showAll() {
-  auto const map = frame()->GetMap();
+  auto const map = map_;
   Box all;
   for (auto const& layer : map->GetLayers())
     if (auto const vector = ptr_cast<VectorLayer>(layer)) all.add(vector->features().box());
@@ -385,8 +393,7 @@ QJsonArray NewMap::omittedFromLegend() const {
 
 QList<_ptr_t<SysCarto::Element>> NewMap::elementsOf(QJsonArray const& elements) {
   QJsonObject const clip{{"format", "plotvane-elements"}, {"version", 1}, {"elements", elements}, {"otherMaps", 1}};
-  return SysCarto::ElementClip::read({QJsonDocument(clip).toJson(), {frame()->GetMap()}}, frame()->GetMap(),
-                                     result_.problem);
+  return SysCarto::ElementClip::read({QJsonDocument(clip).toJson(), {map_}}, map_, result_.problem);
 }
 
 // What a surround draws, in centimetres of the page; of nothing where it draws nothing.

@@ -11,7 +11,17 @@ class MapDocument;
 
 /// What a person says of the map that is to be made of data; everything but the data may be left out.
 struct NewMapRequest {
-  QStringList data;  ///< FILE for all its layers, FILE|LAYER, or a folder of files
+  /// A layer of a file, all layers of a file where none is named, or those of all files of a folder.
+  struct Data {
+    QString file, layer;
+
+    /// FILE or FILE|LAYER, as people write it.
+    static Data of(QString const& text) {
+      return {text.section(QLatin1Char('|'), 0, 0), text.section(QLatin1Char('|'), 1)};
+    }
+  };
+
+  QVector<Data> data;
   QString title;
   QString paper;                    ///< a form, as documents name it; A4 where it is empty
   std::optional<bool> isLandscape;  ///< the shape of the data decides where it is not said

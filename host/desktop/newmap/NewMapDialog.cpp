@@ -1,4 +1,7 @@
 #include "NewMapDialog.h"
+#include "DataSurvey.h"
+
+#include "host/desktop/layers/DataReport.h"
 
 #include "host/SysCarto/layers/DataCatalogue.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
@@ -24,16 +27,6 @@ namespace {
 enum Column { NameColumn, KindColumn, CountColumn, SystemColumn };
 constexpr int pathRole = Qt::UserRole;
 constexpr QSize usualSize(560, 520);
-
-QString nameOf(SysCarto::GeometryKind kind) {
-  switch (kind) {
-    case SysCarto::GeometryKind::Points: return NewMapDialog::tr("Points");
-    case SysCarto::GeometryKind::Lines: return NewMapDialog::tr("Lines");
-    case SysCarto::GeometryKind::Areas: return NewMapDialog::tr("Areas");
-    case SysCarto::GeometryKind::Mixed: return NewMapDialog::tr("Mixed");
-    default: return NewMapDialog::tr("Table");
-  }
-}
 
 }  // namespace
 
@@ -119,10 +112,11 @@ void NewMapDialog::addFile(QString const& file) {
   if (!described.error.isEmpty()) row->setIcon(NameColumn, style()->standardIcon(QStyle::SP_MessageBoxWarning));
   for (SysCarto::LayerDescription const& layer : described.layers) {
     auto* const child = new QTreeWidgetItem(
-        row, {layer.name, nameOf(layer.kind), layer.count < 0 ? QString() : locale().toString(layer.count),
+        row, {layer.name, kindText(layer.kind), layer.count < 0 ? QString() : locale().toString(layer.count),
               layer.coordinateSystemName});
+    bool const isShown = layer.kind != SysCarto::GeometryKind::None && !isPartOfTrack(layer.name, described);
     child->setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
-    child->setCheckState(NameColumn, layer.kind == SysCarto::GeometryKind::None ? Qt::Unchecked : Qt::Checked);
+    child->setCheckState(NameColumn, isShown ? Qt::Checked : Qt::Unchecked);
   }
   row->setExpanded(true);
   showState();
@@ -143,8 +137,7 @@ NewMapRequest NewMapDialog::request() const {
     auto const* const file = data_->topLevelItem(i);
     for (int j = 0; j < file->childCount(); ++j)
       if (file->child(j)->checkState(NameColumn) == Qt::Checked)
-        request.data << file->data(NameColumn, pathRole).toString() + QLatin1Char('|') +
-                            file->child(j)->text(NameColumn);
+        request.data.append({file->data(NameColumn, pathRole).toString(), file->child(j)->text(NameColumn)});
   }
   request.title = title_->text();
   request.paper = paper_->currentData().toString();

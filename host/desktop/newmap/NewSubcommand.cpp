@@ -70,7 +70,7 @@ ExitStatus runNew(Subcommand const& self, QStringList const& arguments) {
 
   QStringList const operands = parser.positionalArguments();
   NewMapRequest request;
-  request.data = parser.values(data) + operands.mid(1);
+  for (QString const& text : parser.values(data) + operands.mid(1)) request.data << NewMapRequest::Data::of(text);
   request.title = parser.value(title);
   request.paper = parser.value(paper);
   if (parser.isSet(landscape) || parser.isSet(portrait)) request.isLandscape = parser.isSet(landscape);
