@@ -28,6 +28,8 @@ private slots:
         "0 – 6,500,000|6,500,000 – 13,200,000 #67a9cf #ef8a62");
     row("breaks of one's own", "Capitals", "population", "own,breaks=5000000;100000,ramp=Greens",
         "0 – 100,000|100,000 – 5,000,000|5,000,000 – 13,200,000 #e5f5e0 #a1d99b #31a354");
+    row("breaks beyond the values, and small ones", "Capitals", "population", "own,breaks=-1;1e-7;20000000,ramp=Greens",
+        "-400,000 – -1|-1 – 0.0000001|0.0000001 – 20,000,000|20,000,000 – 20,400,000 #edf8e9 #bae4b3 #74c476 #238b45");
     row("the most frequent values", "Cities of over a million", "country", "unique,classes=2,ramp=Dark2",
         "CN|IN #1b9e77 #d95f02");
     row("values in order", "Cities of over a million", "country", "unique,sorted,classes=2,ramp=Set1",

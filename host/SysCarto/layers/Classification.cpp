@@ -42,10 +42,11 @@ double roundStep(double wanted) {
   return step;
 }
 
-// Round numbers about a range.
+// Round numbers about a range. Where it is so narrow that steps can't be counted from 0, equal intervals.
 Numbers pretty(double first, double last, int count) {
-  constexpr double nearly = 1e-7;
+  constexpr double nearly = 1e-7, mostSteps = 4503599627370496;  // 2^52: beyond it a step more may be none
   double const step = roundStep((last - first) / count);
+  if (std::max(std::abs(first), std::abs(last)) > mostSteps * step) return equalIntervals({first, last}, count);
   double from = std::floor(first / step + nearly), to = std::ceil(last / step - nearly);
   int const fewest = count / 3;
   for (bool below = false; to - from < fewest; below = !below) (below ? from : to) += below ? -1 : 1;

@@ -15,7 +15,6 @@ namespace SysCarto {
 using Method = ClassifySettings::Method;
 using SysDisplay::Symbol;
 using SysUtility::_ptr_t;
-using SysUtility::grouped;
 
 namespace {
 
@@ -47,15 +46,19 @@ _ptr_t<Symbol> symbolOf(RendererSettings const& renderer) {
   return renderer.others.symbol;
 }
 
-// Around breaks of one's own, all values.
+// Around breaks of one's own, all values: a class below the first and one from the last on, be there values or not.
 std::vector<double> boundsAround(std::vector<double> const& sorted, std::vector<double> breaks) {
   std::sort(breaks.begin(), breaks.end());
   breaks.erase(std::unique(breaks.begin(), breaks.end()), breaks.end());
-  double const room = (sorted.back() - sorted.front()) / 100;
-  double const lowest = roundestWithin(sorted.front() - room, sorted.front());
-  double const highest = roundestWithin(sorted.back(), sorted.back() + room);
-  if (breaks.empty() || breaks.front() > lowest) breaks.insert(breaks.begin(), lowest);
-  if (breaks.size() == 1 || breaks.back() < highest) breaks.push_back(highest);
+  double lowest = sorted.front(), highest = sorted.back(), room = (highest - lowest) / 100;
+  if (!breaks.empty()) {
+    double const span = std::max(highest, breaks.back()) - std::min(lowest, breaks.front());
+    room = (span > 0 ? span : std::max(1.0, std::abs(lowest))) / 100;
+    if (lowest >= breaks.front()) lowest = breaks.front() - room;
+    if (highest <= breaks.back()) highest = breaks.back() + room;
+  }
+  breaks.insert(breaks.begin(), roundestWithin(lowest - room, lowest));
+  breaks.push_back(roundestWithin(highest, highest + room));
   return breaks;
 }
 
@@ -117,8 +120,8 @@ void addRanges(Classes& classes, std::vector<double> const& sorted, ClassifySett
   std::vector<double> const& bounds = classes.bounds;
   for (size_t i = 0; i + 1 < bounds.size(); ++i) {
     QString const label = bounds[i] == bounds[i + 1]
-                              ? grouped(bounds[i])
-                              : QStringLiteral("%1 – %2").arg(grouped(bounds[i]), grouped(bounds[i + 1]));
+                              ? boundText(bounds[i])
+                              : QStringLiteral("%1 – %2").arg(boundText(bounds[i]), boundText(bounds[i + 1]));
     classes.renderer.classes.push_back({label, {}, bounds[i], nullptr});
   }
   if (!bounds.empty()) classes.counts = classCounts(sorted, {bounds.begin(), bounds.end() - 1});
@@ -157,6 +160,11 @@ QStringList ClassifySettings::methodNames() {
   QStringList names;
   for (auto const& one : methods) names << QLatin1String(one.name);
   return names;
+}
+
+QString boundText(double bound) {
+  constexpr int significantDigits = 6;
+  return SysUtility::grouped(bound, significantDigits);
 }
 
 Classes classify(FieldValues const& values, RendererSettings const& now, ClassifySettings const& wanted) {

@@ -48,6 +48,9 @@ struct Classes {
   QString problem;             ///< a sentence, and then there are no classes; empty where all went well
 };
 
+/// A bound as labels have it: grouped, and legible however small it is.
+SYSCARTO_EXPORT QString boundText(double bound);
+
 /// Classes of the values of a field. Symbols are the one that draws features now, in other colours or sizes; what
 /// becomes of features in no class stays as it is.
 SYSCARTO_EXPORT Classes classify(FieldValues const& values, RendererSettings const& now,

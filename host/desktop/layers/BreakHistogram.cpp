@@ -1,7 +1,7 @@
 #include "BreakHistogram.h"
 
 #include "host/SysCarto/layers/Classification.h"
-#include "host/SysUtility/NumberText.h"
+#include "host/SysCarto/layers/Classify.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -35,6 +35,7 @@ void BreakHistogram::setValues(std::vector<double> const& sorted) {
 void BreakHistogram::setClasses(std::vector<double> const& bounds, QVector<QColor> const& colors) {
   bounds_ = bounds;
   colors_ = colors;
+  if (dragged_ + 1 >= static_cast<int>(bounds_.size())) dragged_ = -1;
   update();
 }
 
@@ -92,9 +93,9 @@ void BreakHistogram::paintEvent(QPaintEvent*) {
   }
   painter.setPen(palette().color(QPalette::Text));
   QRectF const below(frame.left(), frame.bottom() + 2, frame.width(), fontMetrics().height());
-  painter.drawText(below, Qt::AlignLeft, SysUtility::grouped(first_));
-  painter.drawText(below, Qt::AlignRight, SysUtility::grouped(last_));
-  if (dragged_ > 0) painter.drawText(below, Qt::AlignHCenter, SysUtility::grouped(bounds_[dragged_]));
+  painter.drawText(below, Qt::AlignLeft, SysCarto::boundText(first_));
+  painter.drawText(below, Qt::AlignRight, SysCarto::boundText(last_));
+  if (dragged_ > 0) painter.drawText(below, Qt::AlignHCenter, SysCarto::boundText(bounds_[dragged_]));
 }
 
 void BreakHistogram::mousePressEvent(QMouseEvent* event) {

@@ -276,8 +276,8 @@ void ClassifyDialog::showRow(int row) {
   symbol->setIcon(swatchOf(*one.symbol, devicePixelRatioF()));
   table_->setItem(row, SymbolColumn, symbol);
   if (!classes_.bounds.empty()) {
-    table_->setItem(row, FromColumn, cell(grouped(classes_.bounds[row]), false));
-    table_->setItem(row, ToColumn, cell(grouped(classes_.bounds[row + 1]), row + 1 < table_->rowCount()));
+    table_->setItem(row, FromColumn, cell(SysCarto::boundText(classes_.bounds[row]), false));
+    table_->setItem(row, ToColumn, cell(SysCarto::boundText(classes_.bounds[row + 1]), row + 1 < table_->rowCount()));
   }
   table_->setItem(row, LabelColumn, cell(one.label, true));
   auto* const count = cell(grouped(classes_.counts[row]), false);

@@ -34,6 +34,7 @@ Numbers column(QString const& name) {
       numbers.insert(numbers.end(), count, value);
   if (name == QLatin1String("constant")) numbers.assign(7, 4.5);
   if (name == QLatin1String("few")) numbers = {3, 8, 8, 21};
+  if (name == QLatin1String("far")) numbers = {1e16, 1e16 + 2};
   return numbers;
 }
 
@@ -123,6 +124,7 @@ private slots:
     row("deviations", "wave", ClassMethod::StandardDeviation, "-105 -70 -34 1 36.5 72 106");
     row("few", "few", ClassMethod::NaturalBreaks, "3 5.5 14.5 21");
     row("constant", "constant", ClassMethod::Pretty, "4.5 4.5");
+    row("too far from 0 for round steps", "far", ClassMethod::Pretty, "1e+16 1e+16");
   }
   void roundedBoundsKeepTheClasses() {
     auto const [name, method, expected] = fetched<QString, ClassMethod, QString>();
