@@ -1570,6 +1570,10 @@
         <source>The table “%1” has no column “%2”; it has: %3.</source>
         <translation>Die Tabelle „%1“ hat keine Spalte „%2“; sie hat: %3.</translation>
     </message>
+    <message>
+        <source>it is longer than 1 MB, too long to describe a table; name a MapInfo table&apos;s .tab file</source>
+        <translation>sie ist länger als 1 MB und damit zu lang, um eine Tabelle zu beschreiben; nennen Sie die .tab-Datei einer MapInfo-Tabelle</translation>
+    </message>
 </context>
 <context>
     <name>DialogAnswers</name>

@@ -1570,6 +1570,10 @@
         <source>The table “%1” has no column “%2”; it has: %3.</source>
         <translation>表“%1”没有列“%2”；它有：%3。</translation>
     </message>
+    <message>
+        <source>it is longer than 1 MB, too long to describe a table; name a MapInfo table&apos;s .tab file</source>
+        <translation>文件超过 1 MB，对表的描述而言过长；请指定某个 MapInfo 表的 .tab 文件</translation>
+    </message>
 </context>
 <context>
     <name>DialogAnswers</name>

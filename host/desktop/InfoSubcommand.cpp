@@ -34,6 +34,7 @@ void measure(SysCarto::DataFile& file) {
     auto const whole = SysCarto::describeLayer(
         {file.path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField}, patience, problem);
     if (!problem.isEmpty()) continue;
+    layer.kind = whole.kind;
     layer.count = whole.count;
     layer.extent = whole.extent;
   }

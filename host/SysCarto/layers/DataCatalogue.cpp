@@ -30,7 +30,8 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(DataSource)
 };
 
-constexpr int featuresForKind = 1000;
+constexpr int featuresToCount = 1000;
+constexpr qint64 patienceForKindMs = 1000;
 constexpr int featuresForValues = 100000;
 constexpr int betweenLooksAtTheClock = 256;
 
@@ -168,9 +169,14 @@ LayerDescription describe(OGRLayer& from) {
   bool const isKnown = layer.count >= 0 && (hasExtent || layer.kind == GeometryKind::None);
   if (kind && isKnown) return layer;
   Look look;
-  bool const isWhole = lookAt(from, look, [](qint64 count) { return count < featuresForKind; });
-  if (!kind) layer.kind = look.kind();
+  QElapsedTimer clock;
+  clock.start();
+  bool const isWhole = lookAt(from, look, [&](qint64 count) {
+    bool const mayBePure = !kind && look.kinds.size() < 2;
+    return count < featuresToCount || (mayBePure && clock.elapsed() < patienceForKindMs);
+  });
   if (isWhole) take(look, layer);
+  if (isWhole && !kind) layer.kind = look.kind();
   return layer;
 }
 
@@ -212,7 +218,7 @@ LayerDescription describeLayer(SourceSettings const& source, std::chrono::millis
     return count % betweenLooksAtTheClock != 0 || clock.elapsed() < limit.count();
   });
   if (isWhole) take(look, layer);
-  if (!kindOf(data->layer().GetGeomType())) layer.kind = look.kind();
+  if (isWhole && !kindOf(data->layer().GetGeomType())) layer.kind = look.kind();
   return layer;
 }
 

@@ -44,7 +44,8 @@ struct DataFile {
   QString error;  ///< a sentence that names the file, where it can't be read
 };
 
-/// Describes a local file (an absolute path) without reading all of it, as far as its format lets one.
+/// Describes a local file (an absolute path) without reading all of it, as far as its format lets one. Where that does
+/// not say what the geometries are, features are looked at for a second; what is not known then may be mixed.
 SYSCARTO_EXPORT DataFile describeFile(QString const& path);
 
 /// Describes one layer of a file by reading its features, until all are read or the time is over: its count and extent,

@@ -26,6 +26,7 @@ struct Texts {
 };
 
 constexpr int headLength = 64 * 1024;
+constexpr int maxTableLength = 1024 * 1024;  // of a .tab, whose every line may lead elsewhere
 
 // What leads elsewhere (VRT, CSVT, WFS, PostgreSQL and the like) is not among them. Of two drivers for a format the
 // first is asked first.
@@ -83,26 +84,32 @@ QString cannotOpen(QString const& path, QString const& reason) {
 }
 
 // Immutable, SQLite takes no lock and makes no journal, so a read-only folder will do. What another program has
-// written to a write-ahead log would go unseen, so where there is one the database is opened as usual.
+// written to a write-ahead log would go unseen, and what it is about to take back from a journal would be seen, so
+// where there is one the database is opened as usual.
 char const* const* optionsFor(QString const& path) {
-  if (hasSuffix(path, "gpkg") && QFileInfo(path + QLatin1String("-wal")).size() == 0) return immutableOptions;
+  bool const isBeingWritten =
+      QFileInfo(path + QLatin1String("-wal")).size() > 0 || QFileInfo::exists(path + QLatin1String("-journal"));
+  if (hasSuffix(path, "gpkg") && !isBeingWritten) return immutableOptions;
   return hasSuffix(path, "csv") || hasSuffix(path, "tsv") ? tableOptions : nullptr;
 }
 
-QByteArray headOf(QString const& path) {
+QByteArray headOf(QString const& path, int length) {
   QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.read(headLength) : QByteArray();
+  return file.open(QIODevice::ReadOnly) ? file.read(length) : QByteArray();
 }
 
-// What the head of a file betrays before any driver looks at it: a file that is made of others, or texts that the
-// driver would take for bytes.
+// What the head of a file, or all of a .tab, betrays before any driver looks at it: a file that is made of others, or
+// texts that the driver would take for bytes.
 QString refusalOfHead(QString const& path) {
-  if (!hasSuffix(path, "tab") && !hasSuffix(path, "csv") && !hasSuffix(path, "tsv")) return QString();
-  QByteArray const head = headOf(path);
+  bool const isTab = hasSuffix(path, "tab");
+  if (!isTab && !hasSuffix(path, "csv") && !hasSuffix(path, "tsv")) return QString();
+  if (isTab && QFileInfo(path).size() > maxTableLength)
+    return Texts::tr("it is longer than 1 MB, too long to describe a table; name a MapInfo table's .tab file");
+  QByteArray const head = headOf(path, isTab ? maxTableLength : headLength);
   if (head.startsWith("\xff\xfe") || head.startsWith("\xfe\xff"))
     return Texts::tr("its text is encoded as UTF-16; save it as UTF-8");
   QByteArray const words = head.toLower().simplified();
-  if (hasSuffix(path, "tab") && (words.contains("create view") || words.contains("\"\\isseamless\"")))
+  if (isTab && (words.contains("create view") || words.contains("\"\\isseamless\"")))
     return Texts::tr("it only refers to other tables; name one of those");
   return QString();
 }

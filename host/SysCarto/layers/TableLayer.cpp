@@ -13,6 +13,7 @@
 #include <functional>
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace SysCarto {
 
@@ -75,10 +76,15 @@ int indexOfPlain(OGRLayer& table, char const* name) {
   return -1;
 }
 
-// As people write numbers: 3566123.5, 3566123,5 or 3.566.123,5.
+// As people write numbers: 3566123.5, 3566123,5, 3.566.123,5 or 3,566,123.5. Of two marks the last is that of decimals;
+// one that recurs groups thousands.
 double numberIn(QString text) {
   text.remove(QChar::Nbsp).remove(QLatin1Char(' '));
-  if (text.contains(QLatin1Char(','))) text.remove(QLatin1Char('.')).replace(QLatin1Char(','), QLatin1Char('.'));
+  QLatin1Char last('.'), other(',');
+  if (text.lastIndexOf(other) > text.lastIndexOf(last)) std::swap(last, other);
+  bool const onlyGroups = text.count(last) > 1 && !text.contains(other) && text.size() - text.lastIndexOf(last) == 4;
+  if (onlyGroups) text.remove(last);
+  text.remove(other).replace(last, QLatin1Char('.'));
   bool ok = false;
   double const number = text.toDouble(&ok);
   return ok && std::isfinite(number) ? number : std::numeric_limits<double>::quiet_NaN();
@@ -204,6 +210,7 @@ void TableLayer::findSystem() {
       extent.IsInit() && extent.MinX >= -180 && extent.MaxX <= 180 && extent.MinY >= -90 && extent.MaxY <= 90;
   if (!areDegrees) return;
   OGRSpatialReference* const degrees = makeCoordinateSystem(QStringLiteral("EPSG:4326")).release();
+  if (!degrees) return;  // PROJ finds no database
   definition().GetGeomFieldDefn(0)->SetSpatialRef(degrees);
   degrees->Release();
 }

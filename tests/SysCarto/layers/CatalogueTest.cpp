@@ -105,6 +105,7 @@ private slots:
     row("large numbers are no degrees", "x,y\n3566123.5,5644000.25\n", points, "x y ", none, {3566123.5, 5644000.25});
     row("what a German spreadsheet writes", "Ort;Rechtswert;Hochwert\nK\xf6ln;3.566.123,5;5644000,25\n", points,
         "Rechtswert Hochwert ", none, {3566123.5, 5644000.25});
+    row("thousands as in English", "x;y\n567,890.12;1,234,567\n", points, "x y ", none, {567890.12, 1234567});
     row("a byte order mark and tabs", "\xef\xbb\xbfX-Coord\tY-Coord\n2,5\t3,5\n", points, "X-Coord Y-Coord ", degrees,
         {2.5, 3.5});
     row("well-known text", "id,the_geom\n1,\"LINESTRING (1 2,3 4)\"\n", GeometryKind::Lines, "  the_geom", degrees,
