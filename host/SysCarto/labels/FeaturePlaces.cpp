@@ -141,6 +141,7 @@ bool LabelPlacer::placeAlongLine(LabelText const& text, MeasuredLine const& line
 
 std::vector<LabelPlacer::Pieces> LabelPlacer::waysAlong(LabelText const& text, MeasuredLine const& line) {
   double const width = text.bounds.width(), height = text.bounds.height();
+  if (line.length() < width) return {};  // before letters are measured, which takes long
   double const lift = height / 2 + settings_.offsetPt;
   std::vector<Pieces> ways;
   auto const letters =
