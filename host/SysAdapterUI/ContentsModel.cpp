@@ -188,9 +188,16 @@ bool ContentsModel::follow() {
   }
   for (Node* const node : qAsConst(known_))
     if (node->isLayer()) followClasses(*node);
-  if (root_->nodes.empty()) return false;
-  emit dataChanged(index(0, 0), index(rowCount() - 1, 0));
+  tellAllChanged(*root_);
   return false;
+}
+
+// A signal is about the rows of one parent.
+void ContentsModel::tellAllChanged(Node const& parent) {
+  if (parent.nodes.empty()) return;
+  Node* const last = parent.nodes.back().get();
+  emit dataChanged(createIndex(0, 0, parent.nodes.front().get()), createIndex(last->place, 0, last));
+  for (auto const& node : parent.nodes) tellAllChanged(*node);
 }
 
 void ContentsModel::followClasses(Node& layer) {

@@ -6,6 +6,7 @@
 #include <SysCarto/IKdxContents.h>
 
 #include <QAbstractItemModel>
+#include <QCoreApplication>
 #include <QHash>
 #include <QMimeData>
 
@@ -47,7 +48,10 @@ public:
   /// Whether the row is that of a class.
   bool isClass(QModelIndex const& index) const;
 
-  static QString dragType() { return QStringLiteral("application/x-plotvane-layers"); }
+  /// Rows are dragged by their addresses, which say nothing to another process.
+  static QString dragType() {
+    return QStringLiteral("application/x-plotvane-layers-%1").arg(QCoreApplication::applicationPid());
+  }
 
   QModelIndex index(int row, int column, QModelIndex const& parent = {}) const override;
   QModelIndex parent(QModelIndex const& index) const override;
@@ -83,6 +87,7 @@ private:
   Nodes& below(QModelIndex const& parent) const;
   void build();
   void followClasses(Node& layer);
+  void tellAllChanged(Node const& parent);
   void add(Node& parent, std::vector<SysCarto::LayerEntry> const& entries);
   SysCarto::LayerPlace placeAt(int row, QModelIndex const& parent) const;
   QString textOf(Node const& node) const;

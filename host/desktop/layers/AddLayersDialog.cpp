@@ -87,6 +87,7 @@ void AddLayersDialog::buildColumns() {
 
 void AddLayersDialog::addFile(DataFile const& file) {
   waiting_.removeOne(file.path);
+  QSignalBlocker quiet(rows_);  // each change of a row would look at all of them
   auto* const top = new QTreeWidgetItem(rows_, {QFileInfo(file.path).fileName(), file.format});
   top->setToolTip(NameColumn, file.path);
   if (!file.error.isEmpty()) {
@@ -99,9 +100,10 @@ void AddLayersDialog::addFile(DataFile const& file) {
     auto* const row = new QTreeWidgetItem(top, {layer.name});
     row->setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
     row->setCheckState(NameColumn, layer.kind == GeometryKind::None ? Qt::Unchecked : Qt::Checked);
-    entries_.push_back({{file.path, file.format, {}, {}}, static_cast<int>(file.layers.size()), layer, row});
+    entries_.push_back({{file.path, file.format, {}, {}}, file.layers.size() == 1, layer, row});
     show(entries_.back());
   }
+  quiet.unblock();
   top->setExpanded(true);
   if (!rows_->currentItem() && top->childCount() > 0) rows_->setCurrentItem(top->child(0));
   showState();
@@ -128,6 +130,7 @@ void AddLayersDialog::show(Entry const& entry) {
 
 void AddLayersDialog::measured(SysCarto::SourceSettings const& source, LayerDescription const& layer,
                                QString const& error) {
+  QSignalBlocker const quiet(rows_);
   for (Entry& entry : entries_) {
     if (entry.file.path != source.file || entry.layer.name != source.layer || !error.isEmpty()) continue;
     bool const hadPlaces = entry.layer.kind != GeometryKind::None;
@@ -173,8 +176,12 @@ void AddLayersDialog::takeColumns() {
   files_.measure({entry->file.path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField});
 }
 
+bool AddLayersDialog::isChecked(Entry const& entry) {
+  return entry.layer.kind != GeometryKind::None && entry.row->checkState(NameColumn) == Qt::Checked;
+}
+
 void AddLayersDialog::showState() {
-  add_->setEnabled(!chosen().empty());
+  add_->setEnabled(std::any_of(entries_.begin(), entries_.end(), isChecked));
   if (!waiting_.isEmpty())
     state_->setText(tr("Reading %1…").arg(QFileInfo(waiting_.first()).fileName()));
   else if (files_.isBusy())
@@ -186,9 +193,9 @@ void AddLayersDialog::showState() {
 std::vector<NewLayer> AddLayersDialog::chosen() const {
   std::vector<NewLayer> chosen;
   for (Entry const& entry : entries_) {
-    if (entry.row->checkState(NameColumn) != Qt::Checked) continue;
+    if (!isChecked(entry)) continue;
     DataFile file = entry.file;
-    file.layers.resize(static_cast<size_t>(entry.layersOfFile));  // a file's only layer is called like the file
+    if (entry.isOnlyLayer) file.layers.push_back(entry.layer);  // which is called like the file
     for (NewLayer const& one : NewLayers::of(file, entry.layer)) chosen.push_back(one);
   }
   return chosen;

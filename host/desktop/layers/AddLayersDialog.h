@@ -29,7 +29,7 @@ private:
   // A layer of a file, with its row.
   struct Entry {
     SysCarto::DataFile file;  // without its layers
-    int layersOfFile;
+    bool isOnlyLayer;
     SysCarto::LayerDescription layer;
     QTreeWidgetItem* row;
   };
@@ -40,6 +40,7 @@ private:
   void show(Entry const& entry);
   void showColumns();
   void takeColumns();
+  static bool isChecked(Entry const& entry);
   void showState();
   Entry* current();
 
