@@ -180,6 +180,13 @@ private slots:
     sample.choose({"G"});
     sample.key(Qt::Key_Space);
     QVERIFY(!sample.document().GetMap(0)->GetLayer(2)->IsVisible());
+    QModelIndex const group = sample.rowOf("layer:M/G");
+    QSet<QModelIndex> told;  // below what rows have others become
+    connect(sample.tree().model(), &QAbstractItemModel::dataChanged, &sample.tester,
+            [&](QModelIndex const& first) { told << first.parent(); });
+    sample.trigger("Host_Undo");
+    QVERIFY(told.contains(group) && told.contains(group.parent()));
+    sample.trigger("Host_Redo");
     sample.key(Qt::Key_X, Qt::ControlModifier);
     QCOMPARE(sample.shown(), QString("M(B) N"));
     sample.choose({"N"});
@@ -230,11 +237,14 @@ private slots:
     QByteArray const start = MapDocumentHost::text(document);
     auto const rows = LayerActions::named(document, "layer:World/Cities");
     QCOMPARE(rows.size(), 1);
-    QCOMPARE(LayerActions::rename(document, rows.first(), "Towns").problem, QString());
+    auto const outcome = LayerActions::rename(document, rows.first(), "Towns");
+    QVERIFY(outcome.problem.isEmpty() && outcome.warnings.isEmpty());
     QByteArray const text = MapDocumentHost::text(document);
     QVERIFY(text.contains(R"("layer": "Towns")") && !text.contains(R"("layer": "Cities")"));
     document.GetOperationStack()->Undo();
     QVERIFY(MapDocumentHost::text(document) == start);
+    QVERIFY(!LayerActions::rename(document, rows.first(), "").problem.isEmpty());
+    QVERIFY(!document.GetOperationStack()->CanUndo() && document.GetOperationStack()->CanRedo());
   }
 
   void theSameIsDoneByStepsOfARun() {

@@ -328,12 +328,10 @@ QString Editable::set(MapDocument const& document, List const& things, QStringLi
   if (changes.isEmpty()) return QString();
   QString const whose = things.size() == 1 ? things.first()->name() : Texts::tr("%1 elements").arg(things.size());
   QString const step = Texts::tr("Set %1 of %2").arg(what, whose);
-  QUndoStack* const history = changes.size() > 1 ? EditorHost::history() : nullptr;
-  if (history) history->beginMacro(step);
+  auto const whole = changes.size() > 1 ? std::make_unique<OneStep>(step) : nullptr;
   Editor::Instance()->StartOperation(step);
   for (Change const& change : qAsConst(changes)) change(step, warnings);
   Editor::Instance()->StopOperation();
-  if (history) history->endMacro();
   return QString();
 }
 

@@ -63,7 +63,8 @@ void Editor::Private::close() {
   std::vector<ChangedContainer> const changed = std::move(changes);
   changes.clear();
   if (!history || changed.empty()) return;
-  history->push(new ElementsCommand(name.isEmpty() ? QCoreApplication::translate("Editor", "Edit") : name, changed));
+  QString const step = name.isEmpty() ? QCoreApplication::translate("Editor", "Edit") : name;
+  EditorHost::take(std::make_unique<ElementsCommand>(step, changed));
 }
 
 Editor::Editor() : d(std::make_unique<Private>()) {}
@@ -90,5 +91,31 @@ void EditorHost::setHistory(QUndoStack* history) {
 }
 
 QUndoStack* EditorHost::history() { return Editor::Instance()->d->history; }
+
+// The history would keep a macro that stays empty, and forget what could be redone, so it begins with its first part.
+void EditorHost::take(std::unique_ptr<QUndoCommand> step) {
+  Editor::Private const& editor = *Editor::Instance()->d;
+  if (!editor.history) return step->redo();
+  if (editor.oneStep && !editor.oneStep->isBegun_) {
+    editor.history->beginMacro(editor.oneStep->name_);
+    editor.oneStep->isBegun_ = true;
+  }
+  editor.history->push(step.release());  // which redoes what it is given
+}
+
+void EditorHost::begin(OneStep& step) {
+  Editor::Private& editor = *Editor::Instance()->d;
+  if (!editor.oneStep) editor.oneStep = &step;
+}
+
+void EditorHost::end(OneStep const& step) {
+  Editor::Private& editor = *Editor::Instance()->d;
+  if (editor.oneStep != &step) return;
+  editor.oneStep = nullptr;
+  if (step.isBegun_ && editor.history) editor.history->endMacro();
+}
+
+OneStep::OneStep(QString const& name) : name_(name) { EditorHost::begin(*this); }
+OneStep::~OneStep() { EditorHost::end(*this); }
 
 }  // namespace SysCarto

@@ -17,8 +17,11 @@ struct ChangedContainer {
   ElementContainer::Order order;
 };
 
+class OneStep;
+
 struct Editor::Private {
   QPointer<QUndoStack> history;
+  OneStep* oneStep = nullptr;  // the outermost that lives
   bool isOpen = false;
   QString name;
   std::vector<ChangedContainer> changes;

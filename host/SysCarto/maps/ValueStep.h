@@ -52,11 +52,6 @@ private:
 };
 
 /// Does a step, and gives it to the history of the document that is being edited.
-inline void takeStep(std::unique_ptr<QUndoCommand> step) {
-  if (QUndoStack* const history = EditorHost::history())
-    history->push(step.release());  // which redoes what it is given
-  else
-    step->redo();
-}
+inline void takeStep(std::unique_ptr<QUndoCommand> step) { EditorHost::take(std::move(step)); }
 
 }  // namespace SysCarto

@@ -9,7 +9,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QUndoStack>
 
 #include <algorithm>
 #include <memory>
@@ -295,8 +294,7 @@ bool LayerActions::canUngroup(Rows const& rows) {
 
 LayerOutcome LayerActions::ungroup(Rows const& rows) {
   if (!canUngroup(rows)) return {tr("Groups can be taken apart; choose one."), {}, {}};
-  QUndoStack* const history = SysCarto::EditorHost::history();
-  if (history) history->beginMacro(tr("Ungroup layers"));
+  SysCarto::OneStep const step(tr("Ungroup layers"));
   Rows freed;
   for (LayerRow const& row : rows) {
     if (!row.group || row.layer) continue;
@@ -312,7 +310,6 @@ LayerOutcome LayerActions::ungroup(Rows const& rows) {
     arrangement.change(tr("Ungroup layers"));
     freed += own;
   }
-  if (history) history->endMacro();
   return {{}, freed, {}};
 }
 

@@ -15,7 +15,6 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QUndoStack>
 
 #include <algorithm>
 #include <cmath>
@@ -26,6 +25,7 @@ using SysCarto::LayerHost;
 using SysCarto::LayerRow;
 using SysCarto::Map;
 using SysCarto::MapSteps;
+using SysCarto::OneStep;
 using SysCarto::VectorLayer;
 using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
@@ -36,21 +36,6 @@ using Rows = LayerActions::Rows;
 
 constexpr double roomAround = 1.05;
 constexpr double insideLimit = 0.8;  // of a scale limit that is the only one
-
-// What is pushed until it ends is one step.
-class OneStep {
-public:
-  explicit OneStep(QString const& name) : history_(SysCarto::EditorHost::history()) {
-    if (history_) history_->beginMacro(name);
-  }
-  ~OneStep() {
-    if (history_) history_->endMacro();
-  }
-  OneStep(OneStep const&) = delete;
-
-private:
-  QUndoStack* const history_;
-};
 
 // The layers of the rows, those in groups, too; of a map those that show.
 QList<_ptr_t<Layer>> layersOf(Rows const& rows) {
@@ -239,11 +224,12 @@ LayerOutcome LayerActions::rename(SysCarto::MapDocument const& document, LayerRo
   auto const legends = isAlone ? legendsWith(document, *row.map, former) : Editable::List();
   if (!legends.isEmpty()) {
     OneStep const step(tr("Rename “%1”").arg(former));
-    outcome.problem = set(document, {row}, {QStringLiteral("name")}, name, outcome.warnings);
     auto const renamed = [&](QJsonValue const& value) { return withOtherName(value, former, name); };
-    for (auto const& legend : legends)
+    for (auto const& legend : legends)  // which take fewer names than a layer, so nothing is renamed by half
       if (outcome.problem.isEmpty())
         outcome.problem = Editable::set(document, {legend}, {QStringLiteral("surround")}, renamed, outcome.warnings);
+    if (outcome.problem.isEmpty())
+      outcome.problem = set(document, {row}, {QStringLiteral("name")}, name, outcome.warnings);
     return outcome;
   }
   outcome.problem = set(document, {row}, {QStringLiteral("name")}, name, outcome.warnings);

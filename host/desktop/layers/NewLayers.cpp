@@ -132,22 +132,6 @@ Read readAll(std::vector<NewLayer> const& wanted, QString const& system, QList<_
   return result;
 }
 
-// Several steps that are undone together.
-class Steps {
-public:
-  explicit Steps(QString const& name) {
-    if (history_) history_->beginMacro(name);
-  }
-  ~Steps() {
-    if (history_) history_->endMacro();
-  }
-  Steps(Steps const&) = delete;
-  Steps& operator=(Steps const&) = delete;
-
-private:
-  QUndoStack* const history_ = SysCarto::EditorHost::history();
-};
-
 void putSystem(Map& map, QString const& system) { map.SetCoordinateSystem(system); }
 
 }  // namespace
@@ -212,7 +196,7 @@ QString NewLayers::add(SysCarto::MapDocument const& document, std::vector<NewLay
   }
   QString const step = result.layers.size() == 1 ? tr("Add the layer “%1”").arg(result.layers.front()->GetName())
                                                  : tr("Add %1 layers").arg(result.layers.size());
-  Steps const steps(step);
+  SysCarto::OneStep const whole(step);
   if (frame) {
     SysFramework::EditorOperation const operation(step);
     layout->GetGraphicsContainer()->AddElement(frame);
