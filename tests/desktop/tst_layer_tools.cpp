@@ -7,6 +7,8 @@
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/desktop/layers/AttributeModel.h"
 #include "host/desktop/layers/AttributePanel.h"
+#include "host/desktop/layers/IdentifyPanel.h"
+#include "host/desktop/layers/LayerActions.h"
 
 #include <SysCarto/Map.h>
 
@@ -181,12 +183,17 @@ private slots:
 
     auto* const stack = SysCarto::MapDocumentHost::history(page_->bench.session().document());
     int const step = stack->index();
-    QVERIFY(zoomTo(*map, *layer, {layer->features().ids.at(2)}));
+    auto const zoomTo = [&, map = map, layer = layer](std::vector<qint64> const& ids) {
+      return LayerActions::zoomTo(*page_->layout(), *map, FeatureHighlight::boxOf(*layer, ids));
+    };
+    QCOMPARE(zoomTo({layer->features().ids.at(2)}), QString());
     QCOMPARE(map->GetExtent()->GetAnchorPoint()->GetX(), 2.0);
-    QVERIFY(zoomTo(*map, *layer, layer->features().ids));
+    QCOMPARE(zoomTo(layer->features().ids), QString());
     QVERIFY(map->GetExtent()->GetXMin() < 0 && map->GetExtent()->GetXMax() > 4);
+    QVERIFY(!zoomTo({987654}).isEmpty());
+    page_->layout()->GetFocusMapFrameElement()->SetLocked(true);
+    QVERIFY(zoomTo({layer->features().ids.at(2)}).contains("locked"));
     QCOMPARE(stack->index(), step + 2);
-    QVERIFY(!zoomTo(*map, *layer, {987654}));
   }
 
   void thePanelOfAttributesFollowsItsLayer() {
@@ -212,8 +219,14 @@ private slots:
     QTest::keyClick(filter, Qt::Key_Return);
     QTRY_COMPARE(table->model()->rowCount(), 2);
 
+    IdentifyPanel features(page_->bench.session(), page_->bench.views(), nullptr);
+    features.show(identify(map, {1, 0}, 0.1));
+    features.follow();
+    QCOMPARE(features.findChild<QTreeWidget*>()->topLevelItemCount(), 2);
     page_->container().DeleteElement(page_->container().GetElements().first());
     panel.follow();
+    features.follow();
+    QCOMPARE(features.findChild<QTreeWidget*>()->topLevelItemCount(), 0);
     QCOMPARE(table->model()->rowCount(), 0);
     QVERIFY(marked.ids.empty());
   }

@@ -11,6 +11,8 @@
 #include <ogr_feature.h>
 #include <ogrsf_frmts.h>
 
+#include <set>
+
 namespace SysCarto {
 
 namespace {
@@ -82,6 +84,25 @@ TableRow FeatureTable::row(qint64 id) const {
   GdalErrors const quiet;
   OGRFeatureUniquePtr const feature(data_->layer().GetFeature(id));
   return feature ? rowOf(*feature) : TableRow();
+}
+
+QHash<qint64, TableRow> FeatureTable::rows(std::vector<qint64> const& ids) const {
+  GdalErrors const quiet;
+  QHash<qint64, TableRow> rows;
+  OGRLayer& layer = data_->layer();
+  if (isRandom()) {
+    for (qint64 const id : ids)
+      if (OGRFeatureUniquePtr const feature{layer.GetFeature(id)}) rows[id] = rowOf(*feature);
+    return rows;
+  }
+  std::set<qint64> left(ids.begin(), ids.end());
+  layer.ResetReading();
+  while (!left.empty()) {
+    OGRFeatureUniquePtr const feature(layer.GetNextFeature());
+    if (!feature) break;
+    if (left.erase(feature->GetFID()) > 0) rows[feature->GetFID()] = rowOf(*feature);
+  }
+  return rows;
 }
 
 FeatureScan::FeatureScan() = default;

@@ -40,6 +40,10 @@ public:
   /// Of the feature that has this number in the source; empty where there is none.
   TableRow row(qint64 id) const;
 
+  /// Of several features, by their numbers in the source, in one pass where it is not random; without those that are
+  /// not there.
+  QHash<qint64, TableRow> rows(std::vector<qint64> const& ids) const;
+
 private:
   friend class FeatureScan;
   explicit FeatureTable(std::unique_ptr<DataSource> data);

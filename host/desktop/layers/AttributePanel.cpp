@@ -1,6 +1,7 @@
 #include "AttributePanel.h"
 
 #include "AttributeModel.h"
+#include "LayerActions.h"
 
 #include "host/SysAdapterUI/FieldText.h"
 #include "host/desktop/DocumentSession.h"
@@ -224,7 +225,10 @@ std::vector<qint64> AttributePanel::chosen() const {
 void AttributePanel::zoomToChosen() {
   auto const ids = chosen();
   if (!layer_ || ids.empty()) return;
-  if (!zoomTo(*map_, *layer_, ids)) emit told(tr("The chosen features have no place on the map."));
+  auto const box = FeatureHighlight::boxOf(*layer_, ids);
+  QString const problem = box.isEmpty() ? tr("The chosen features have no place on the map.")
+                                        : LayerActions::zoomTo(*session_.document().GetPageLayout(), *map_, box);
+  if (!problem.isEmpty()) emit told(problem);
 }
 
 bool AttributePanel::eventFilter(QObject* watched, QEvent* event) {

@@ -1,9 +1,9 @@
 #include "AttributeReport.h"
 
+#include "LayerActions.h"
+
 #include "host/SysCarto/layers/FeatureTable.h"
 #include "host/SysCarto/maps/VectorLayer.h"
-
-#include <SysCarto/Map.h>
 
 #include <QCoreApplication>
 
@@ -18,19 +18,10 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(AttributeReport)
 };
 
-template <class T>
-_ptr_t<T> called(QList<_ptr_t<T>> const& all, QString const& name) {
-  for (int i = 0; i < all.size(); ++i)
-    if (all.at(i)->GetName() == name || name == QStringLiteral("#%1").arg(i)) return all.at(i);
-  return nullptr;
-}
-
 _ptr_t<SysCarto::VectorLayer> layerCalled(SysCarto::MapDocument const& document, QString const& name) {
-  QList<_ptr_t<SysCarto::Map>> maps;
-  document.GetMaps(maps);
-  auto const map = called(maps, name.section(QLatin1Char('/'), 0, 0));
-  auto const layer = map ? called(map->GetLayers(), name.section(QLatin1Char('/'), 1)) : nullptr;
-  return SysUtility::ptr_cast<SysCarto::VectorLayer>(layer);
+  for (auto const& row : LayerActions::named(document, QStringLiteral("layer:") + name))
+    if (auto const layer = SysUtility::ptr_cast<SysCarto::VectorLayer>(row.layer)) return layer;
+  return nullptr;
 }
 
 }  // namespace

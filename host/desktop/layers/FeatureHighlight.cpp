@@ -2,7 +2,6 @@
 
 #include "host/SysCarto/layers/FeatureSearch.h"
 #include "host/SysCarto/layers/LayerHost.h"
-#include "host/SysCarto/maps/MapSteps.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -19,7 +18,6 @@ constexpr double nearPx = 0.7;  // vertices that are nearer to each other are se
 constexpr double pointRadiusPx = 6;
 constexpr double haloPx = 5, strokePx = 2.5;
 constexpr int mostFeatures = 20000;  // are painted; more can't be told apart
-constexpr double room = 1.2;         // of the extent about what is shown
 QColor const ink(0xff, 0x3d, 0x00), halo(0xff, 0xff, 0xff, 200), fill(0xff, 0x8a, 0x00, 80);
 
 struct Shapes {
@@ -131,17 +129,4 @@ Box FeatureHighlight::boxOf(SysCarto::VectorLayer const& layer, std::vector<qint
   for (int const number : SysCarto::featuresOf(layer.features(), ids))
     box.add(layer.features().features[static_cast<size_t>(number)].box);
   return box;
-}
-
-bool zoomTo(SysCarto::Map& map, SysCarto::VectorLayer const& layer, std::vector<qint64> const& ids) {
-  Box const box = FeatureHighlight::boxOf(layer, ids);
-  if (box.isEmpty()) return false;
-  SysGeometry::Envelope extent(*map.GetExtent());
-  if (box.xmin == box.xmax && box.ymin == box.ymax) {
-    extent.CenterAt(box.xmin, box.ymin);
-  } else {
-    extent.PutCoords(box.xmin, box.ymin, box.xmax, box.ymax);
-    extent.Expand(room, room, true);
-  }
-  return SysCarto::MapSteps::setExtent(map, extent);
 }

@@ -60,7 +60,3 @@ private:
   };
   mutable std::optional<Found> found_;
 };
-
-/// Shows some features of a map with room about them, or in its middle where they have no extent, in one step of the
-/// history. False where there is nothing to show or the map can't show it.
-bool zoomTo(SysCarto::Map& map, SysCarto::VectorLayer const& layer, std::vector<qint64> const& ids);

@@ -9,7 +9,7 @@ using SysUtility::_ptr_t;
 
 namespace {
 
-constexpr int mostOfALayer = 50;
+constexpr size_t mostOfALayer = 50;
 
 // The label where the layer has labels, else a name, else the first text that there is.
 QString labelOf(SysCarto::VectorLayer const& layer, int number, Identified::Feature const& feature) {
@@ -26,21 +26,23 @@ QString labelOf(SysCarto::VectorLayer const& layer, int number, Identified::Feat
 }
 
 void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place, double reach, Identified& found) {
-  auto const numbers = SysCarto::featuresAt(layer->features(), place.x(), place.y(), reach);
+  auto numbers = SysCarto::featuresAt(layer->features(), place.x(), place.y(), reach);
   if (numbers.empty()) return;
+  if (numbers.size() > mostOfALayer) {
+    found.isAll = false;
+    numbers.resize(mostOfALayer);
+  }
+  std::vector<qint64> ids;
+  for (int const number : numbers) ids.push_back(layer->features().ids[static_cast<size_t>(number)]);
   QString error;
   auto const table = SysCarto::FeatureTable::open(layer->source(), error);
-  int left = mostOfALayer;
-  for (int const number : numbers) {
-    if (--left < 0) {
-      found.isAll = false;
-      return;
-    }
-    Identified::Feature feature{layer, layer->features().ids[static_cast<size_t>(number)], {}, {}};
-    SysCarto::TableRow const row = table ? table->row(feature.id) : SysCarto::TableRow();
+  auto const rows = table ? table->rows(ids) : QHash<qint64, SysCarto::TableRow>();
+  for (size_t at = 0; at < ids.size(); ++at) {
+    Identified::Feature feature{layer, ids[at], {}, {}};
+    SysCarto::TableRow const row = rows.value(feature.id);
     for (int i = 0; i < row.size(); ++i)
       feature.fields << qMakePair(table->fields()[static_cast<size_t>(i)].name, row[i]);
-    feature.label = labelOf(*layer, number, feature);
+    feature.label = labelOf(*layer, numbers[at], feature);
     found.features << feature;
   }
 }

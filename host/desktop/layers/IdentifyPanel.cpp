@@ -1,7 +1,9 @@
 #include "IdentifyPanel.h"
 
 #include "FeatureHighlight.h"
+#include "LayerActions.h"
 
+#include "host/desktop/DocumentSession.h"
 #include "host/desktop/DocumentViews.h"
 
 #include <QApplication>
@@ -10,6 +12,8 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 namespace {
 
@@ -31,8 +35,8 @@ QString shown(QVariant const& value) {
 
 }  // namespace
 
-IdentifyPanel::IdentifyPanel(DocumentViews& views, QWidget* parent)
-    : QDockWidget(tr("Features"), parent), views_(views), tree_(new QTreeWidget(this)) {
+IdentifyPanel::IdentifyPanel(DocumentSession& session, DocumentViews& views, QWidget* parent)
+    : QDockWidget(tr("Features"), parent), session_(session), views_(views), tree_(new QTreeWidget(this)) {
   setObjectName(QStringLiteral("dockWidget_Identify"));
   tree_->setObjectName(QStringLiteral("treeWidget_Identify"));
   tree_->setAccessibleName(tr("Features at a place of the map"));
@@ -46,7 +50,7 @@ IdentifyPanel::IdentifyPanel(DocumentViews& views, QWidget* parent)
   connect(tree_, &QTreeWidget::currentItemChanged, this, [this] { mark(false); });
   connect(tree_, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
     auto const* const feature = featureOf(item);
-    if (feature && !item->parent()) zoomTo(*found_.map, *feature->layer, {feature->id});
+    if (feature && !item->parent()) zoomTo(*feature);
   });
   connect(this, &QDockWidget::visibilityChanged, this, [this](bool isVisible) {
     if (!isVisible && isHidden() && found_.map) clear();
@@ -59,6 +63,23 @@ void IdentifyPanel::clear() {
   found_ = {};
   tree_->clear();
   views_.highlight().clear();
+}
+
+void IdentifyPanel::follow() {
+  if (!found_.map) return;
+  QList<SysUtility::_ptr_t<SysCarto::Map>> maps;
+  session_.document().GetMaps(maps);
+  auto const layers = found_.map->GetLayers();
+  bool const isThere = maps.contains(found_.map) &&
+                       std::all_of(found_.features.begin(), found_.features.end(),
+                                   [&](Identified::Feature const& feature) { return layers.contains(feature.layer); });
+  if (!isThere) clear();
+}
+
+void IdentifyPanel::zoomTo(Identified::Feature const& feature) {
+  QString const problem = LayerActions::zoomTo(*session_.document().GetPageLayout(), *found_.map,
+                                               FeatureHighlight::boxOf(*feature.layer, {feature.id}));
+  if (!problem.isEmpty()) emit told(problem);
 }
 
 void IdentifyPanel::show(Identified const& found) {

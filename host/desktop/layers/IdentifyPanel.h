@@ -4,6 +4,7 @@
 
 #include <QDockWidget>
 
+class DocumentSession;
 class DocumentViews;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -13,22 +14,31 @@ class IdentifyPanel final : public QDockWidget {
   Q_OBJECT
 
 public:
-  /// Borrowed.
-  IdentifyPanel(DocumentViews& views, QWidget* parent);
+  /// Both are borrowed.
+  IdentifyPanel(DocumentSession& session, DocumentViews& views, QWidget* parent);
   ~IdentifyPanel() override;
 
   void show(Identified const& found);
-  void clear();
+
+  /// Shows nothing any more where the map or one of the layers has gone.
+  void follow();
+
+signals:
+  /// A sentence for the person.
+  void told(QString const& sentence);
 
 protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+  void clear();
+  void zoomTo(Identified::Feature const& feature);
   void addPlace();
   void addFeature(int number);
   Identified::Feature const* featureOf(QTreeWidgetItem const* item) const;
   void mark(bool flashes);
 
+  DocumentSession& session_;
   DocumentViews& views_;
   QTreeWidget* const tree_;
   Identified found_;

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/maps/LayerTree.h"
+#include "host/SysGeometry/Box.h"
 
 #include <SysCarto/MapDocument.h>
 #include <SysCarto/PageLayout.h>
@@ -23,6 +24,8 @@ class LayerActions {
 
 public:
   using Rows = QVector<SysCarto::LayerRow>;
+
+  static constexpr double roomAboutFeatures = 1.2;  ///< of their extent, so that one sees where they lie
 
   /// Those that a text names: `layer:MAP/LAYER`, where LAYER may be a group, or `map:MAP`; by number, too (`map:#0`).
   static Rows named(SysCarto::MapDocument const& document, QString const& text);
@@ -78,6 +81,10 @@ public:
 
   /// Shows all that the layers hold, or of a map all layers that are visible.
   static LayerOutcome zoomTo(SysCarto::PageLayout const& layout, Rows const& rows);
+  /// Shows an extent, in map units, with room about it, or what is one place in the middle of the map. Answers why it
+  /// can't.
+  static QString zoomTo(SysCarto::PageLayout const& layout, SysCarto::Map& map, SysGeometry::Box const& box,
+                        double room = roomAboutFeatures);
   /// Gives the map a scale at which the layer shows.
   static LayerOutcome zoomToScales(SysCarto::PageLayout const& layout, SysCarto::LayerRow const& row);
 

@@ -12,7 +12,7 @@ using SysUtility::_ptr_t;
 
 LayerPanels::LayerPanels(Workbench& bench, QMainWindow& window)
     : attributes_(new AttributePanel(bench.session(), bench.views(), &window)),
-      features_(new IdentifyPanel(bench.views(), &window)) {
+      features_(new IdentifyPanel(bench.session(), bench.views(), &window)) {
   window.addDockWidget(Qt::BottomDockWidgetArea, attributes_);
   window.addDockWidget(Qt::RightDockWidgetArea, features_);
   attributes_->hide();
@@ -20,11 +20,13 @@ LayerPanels::LayerPanels(Workbench& bench, QMainWindow& window)
   connect(&bench.session(), &DocumentSession::replaced, this, [this] {
     choose(nullptr, nullptr);
     attributes_->follow();
-    if (features_->isVisible()) features_->clear();
+    features_->follow();
   });
   connect(&bench.session(), &DocumentSession::historyChanged, attributes_, &AttributePanel::follow);
+  connect(&bench.session(), &DocumentSession::historyChanged, features_, &IdentifyPanel::follow);
   connect(&bench.views(), &DocumentViews::identified, features_, &IdentifyPanel::show);
   connect(attributes_, &AttributePanel::told, this, &LayerPanels::told);
+  connect(features_, &IdentifyPanel::told, this, &LayerPanels::told);
 }
 
 LayerPanels::~LayerPanels() = default;

@@ -3,7 +3,6 @@
 #include "LayerArrangement.h"
 
 #include "host/SysCarto/elements/EditorHost.h"
-#include "host/SysCarto/elements/Placement.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
@@ -27,6 +26,7 @@ using SysCarto::Map;
 using SysCarto::MapSteps;
 using SysCarto::OneStep;
 using SysCarto::VectorLayer;
+using SysGeometry::Box;
 using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
 
@@ -35,6 +35,7 @@ namespace {
 using Rows = LayerActions::Rows;
 
 constexpr double roomAround = 1.05;
+constexpr double leastSide = 0.008;  // of the longer one
 constexpr double insideLimit = 0.8;  // of a scale limit that is the only one
 
 // The layers of the rows, those in groups, too; of a map those that show.
@@ -50,15 +51,11 @@ QList<_ptr_t<Layer>> layersOf(Rows const& rows) {
   return layers;
 }
 
-Envelope extentOf(QList<_ptr_t<Layer>> const& layers) {
-  Envelope extent;
-  for (auto const& layer : layers) {
-    auto const vector = SysUtility::ptr_cast<VectorLayer>(layer);
-    if (!vector || vector->features().size() == 0) continue;
-    auto const& box = vector->features().box();
-    SysCarto::include(extent, SysUtility::make<Envelope>(box.xmin, box.ymin, box.xmax, box.ymax));
-  }
-  return extent;
+Box boxOf(QList<_ptr_t<Layer>> const& layers) {
+  Box box;
+  for (auto const& layer : layers)
+    if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer)) box.add(vector->features().box());
+  return box;
 }
 
 QString lockOf(SysCarto::PageLayout const& layout, Map const& map) {
@@ -242,23 +239,25 @@ LayerOutcome LayerActions::zoomTo(SysCarto::PageLayout const& layout, Rows const
   Rows own;
   for (LayerRow const& row : rows)
     if (row.map.get() == &map) own << row;
-  Envelope extent = extentOf(layersOf(own));
-  if (extent.IsEmpty()) return {tr("There is nothing in it that a map could show."), {}, {}};
+  QString const problem = zoomTo(layout, map, boxOf(layersOf(own)), roomAround);
+  return problem.isEmpty() ? LayerOutcome{{}, rows, {}} : LayerOutcome{problem, {}, {}};
+}
+
+QString LayerActions::zoomTo(SysCarto::PageLayout const& layout, Map& map, Box const& box, double room) {
+  if (box.isEmpty()) return tr("There is nothing in it that a map could show.");
   QString const lock = lockOf(layout, map);
-  if (!lock.isEmpty()) return {lock, {}, {}};
-  auto const shown = map.GetExtent();
-  double const side = std::max(extent.GetWidth(), extent.GetHeight());
-  auto const centre = extent.GetAnchorPoint();
+  if (!lock.isEmpty()) return lock;
+  double const x = (box.xmin + box.xmax) / 2, y = (box.ymin + box.ymax) / 2;
+  double const side = std::max(box.xmax - box.xmin, box.ymax - box.ymin);
+  Envelope extent = *map.GetExtent();
   if (side > 0) {
-    double const width = std::max(extent.GetWidth(), side * insideLimit / 100) * roomAround / 2;
-    double const height = std::max(extent.GetHeight(), side * insideLimit / 100) * roomAround / 2;
-    extent = Envelope(centre->GetX() - width, centre->GetY() - height, centre->GetX() + width, centre->GetY() + height);
+    double const width = std::max(box.xmax - box.xmin, side * leastSide) * room / 2;
+    double const height = std::max(box.ymax - box.ymin, side * leastSide) * room / 2;
+    extent = Envelope(x - width, y - height, x + width, y + height);
   } else {
-    extent = *shown;
-    extent.CenterAt(centre->GetX(), centre->GetY());
+    extent.CenterAt(x, y);
   }
-  if (!MapSteps::setExtent(map, extent)) return {tr("A map can't show that much or that little."), {}, {}};
-  return {{}, rows, {}};
+  return MapSteps::setExtent(map, extent) ? QString() : tr("A map can't show that much or that little.");
 }
 
 LayerOutcome LayerActions::zoomToScales(SysCarto::PageLayout const& layout, LayerRow const& row) {

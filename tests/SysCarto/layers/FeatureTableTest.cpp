@@ -78,6 +78,14 @@ private slots:
     QCOMPARE(row, TableRow({"C", 2.5, 3, "2021-03-04", QVariant()}));
     QVERIFY(table->row(layer.features().ids.at(0)).value(1).isNull());
     QVERIFY(table->row(123456).isEmpty());
+    auto const rows = table->rows({layer.features().ids.at(1), layer.features().ids.at(0), 123456});
+    QVERIFY(rows.size() == 2 && rows[layer.features().ids.at(1)] == row);
+    auto const lines = FeatureTable::open({written(folder_, "a.csv", "name,n\nA,1\nB,2\nC,3\n"), {}, {}, {}}, error);
+    QVERIFY2(lines && !lines->isRandom(), qPrintable(error));
+    for (int pass = 0; pass < 2; ++pass) {
+      auto const some = lines->rows({3, 1});
+      QVERIFY(some.size() == 2 && some[3].value(0) == "C" && some[1].value(0) == "A");
+    }
     QCOMPARE(featuresOf(layer.features(), {layer.features().ids.at(1), 123456}), std::vector<int>({1}));
   }
 
