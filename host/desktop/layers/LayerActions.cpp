@@ -187,8 +187,9 @@ LayerPlace LayerActions::inside(LayerRow const& row) {
 _ptr_t<SysCarto::Layer> LayerActions::layerBelow(LayerPlace const& place) {
   LayerArrangement arrangement({});
   auto const* entries = arrangement.entries(place.map, place.group.get());
+  if (!entries) return nullptr;
   int below = place.below;
-  while (entries && below > 0 && below <= static_cast<int>(entries->size())) {
+  while (below > 0 && below <= static_cast<int>(entries->size())) {
     LayerEntry const& entry = (*entries)[below - 1];
     if (entry.layer) return entry.layer;
     entries = &entry.entries;

@@ -100,7 +100,7 @@ private:
   std::vector<LayerSurvey> surveys_;
   GlobeArea area_;
   bool isPlaced_ = false;  // whether it is known where on the globe the data are
-  ProjectionChoice system_;
+  ProjectionChoice system_{};
   QSizeF page_;
   std::vector<StyledLayer> layers_;
   bool hasGraticule_ = false;
