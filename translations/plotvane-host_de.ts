@@ -2244,11 +2244,15 @@
     </message>
     <message>
         <source>The globe can&apos;t be projected to the map&apos;s coordinate system: %1.</source>
-        <translation>Der Globus kann nicht in das Koordinatensystem der Karte projiziert werden: %1.</translation>
+        <translation type="vanished">Der Globus kann nicht in das Koordinatensystem der Karte projiziert werden: %1.</translation>
     </message>
     <message>
         <source>The reading of %1 was stopped.</source>
         <translation>Das Lesen von %1 wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>the globe</source>
+        <translation>der Globus</translation>
     </message>
 </context>
 <context>
@@ -5443,7 +5447,7 @@
     </message>
     <message>
         <source>Other</source>
-        <translation>Sonstige</translation>
+        <translation>Andere</translation>
     </message>
     <message>
         <source>drawn by “%1”, the heavier roads wider</source>
@@ -5682,7 +5686,7 @@
     </message>
     <message>
         <source>Other</source>
-        <translation>Sonstige</translation>
+        <translation>Andere</translation>
     </message>
     <message>
         <source>Map surround</source>
@@ -5861,7 +5865,7 @@
     </message>
     <message>
         <source>The data have no coordinate system.</source>
-        <translation>Die Daten haben kein Koordinatensystem.</translation>
+        <translation type="vanished">Die Daten haben kein Koordinatensystem.</translation>
     </message>
     <message>
         <source>Coordinate system %1 (%2)</source>
@@ -5955,28 +5959,32 @@
         <source>The scale is large.</source>
         <translation>Der Maßstab ist groß.</translation>
     </message>
+    <message>
+        <source>Where on the globe the data are is not known.</source>
+        <translation>Wo auf dem Globus die Daten liegen, ist nicht bekannt.</translation>
+    </message>
 </context>
 <context>
     <name>NewMapDialog</name>
     <message>
         <source>Points</source>
-        <translation>Punkte</translation>
+        <translation type="vanished">Punkte</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation>Linien</translation>
+        <translation type="vanished">Linien</translation>
     </message>
     <message>
         <source>Areas</source>
-        <translation>Flächen</translation>
+        <translation type="vanished">Flächen</translation>
     </message>
     <message>
         <source>Mixed</source>
-        <translation>Gemischt</translation>
+        <translation type="vanished">Gemischt</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation>Tabelle</translation>
+        <translation type="vanished">Tabelle</translation>
     </message>
     <message>
         <source>New Map from Data</source>
@@ -6942,7 +6950,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>Other</source>
-        <translation>Sonstige</translation>
+        <translation>Andere</translation>
     </message>
     <message>
         <source>No maps on this page</source>

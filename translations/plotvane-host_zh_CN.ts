@@ -2244,11 +2244,15 @@
     </message>
     <message>
         <source>The globe can&apos;t be projected to the map&apos;s coordinate system: %1.</source>
-        <translation>无法将地球投影到地图的坐标系：%1。</translation>
+        <translation type="vanished">无法将地球投影到地图的坐标系：%1。</translation>
     </message>
     <message>
         <source>The reading of %1 was stopped.</source>
         <translation>%1 的读取已中止。</translation>
+    </message>
+    <message>
+        <source>the globe</source>
+        <translation>地球</translation>
     </message>
 </context>
 <context>
@@ -5861,7 +5865,7 @@
     </message>
     <message>
         <source>The data have no coordinate system.</source>
-        <translation>数据没有坐标系。</translation>
+        <translation type="vanished">数据没有坐标系。</translation>
     </message>
     <message>
         <source>Coordinate system %1 (%2)</source>
@@ -5955,28 +5959,32 @@
         <source>The scale is large.</source>
         <translation>比例尺大。</translation>
     </message>
+    <message>
+        <source>Where on the globe the data are is not known.</source>
+        <translation>不知道数据位于地球何处。</translation>
+    </message>
 </context>
 <context>
     <name>NewMapDialog</name>
     <message>
         <source>Points</source>
-        <translation>点</translation>
+        <translation type="vanished">点</translation>
     </message>
     <message>
         <source>Lines</source>
-        <translation>线</translation>
+        <translation type="vanished">线</translation>
     </message>
     <message>
         <source>Areas</source>
-        <translation>面</translation>
+        <translation type="vanished">面</translation>
     </message>
     <message>
         <source>Mixed</source>
-        <translation>混合</translation>
+        <translation type="vanished">混合</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation>表</translation>
+        <translation type="vanished">表</translation>
     </message>
     <message>
         <source>New Map from Data</source>
