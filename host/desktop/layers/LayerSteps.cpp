@@ -18,14 +18,14 @@ struct Texts {
 };
 
 // What is named stands between commas, a comma of a name's own after a backslash; what else there is, after the last @.
-struct Value {
+struct Named {
   QStringList names;
   QString where;
 
-  static Value of(QString const& text, bool hasWhere) {
+  static Named of(QString const& text, bool hasWhere) {
     static QRegularExpression const comma(QStringLiteral("(?<!\\\\),"));
     int const at = hasWhere ? text.lastIndexOf(QLatin1Char('@')) : -1;
-    Value value;
+    Named value;
     for (QString const& name : text.left(at).split(comma))
       value.names << QString(name).replace(QStringLiteral("\\,"), QStringLiteral(","));
     value.where = at < 0 ? QString() : text.mid(at + 1);
@@ -33,24 +33,24 @@ struct Value {
   }
 };
 
-bool areThings(Value const& value) {
+bool areThings(Named const& value) {
   return std::all_of(value.names.begin(), value.names.end(), [](QString const& name) {
     return name.startsWith(QLatin1String("map:")) ||
            (name.startsWith(QLatin1String("layer:")) && name.contains(QLatin1Char('/')));
   });
 }
-bool areLayers(QString const& text) { return areThings(Value::of(text, false)); }
+bool areLayers(QString const& text) { return areThings(Named::of(text, false)); }
 bool areLayersAndMore(QString const& text) {
-  Value const value = Value::of(text, true);
+  Named const value = Named::of(text, true);
   return areThings(value) && !value.where.isEmpty();
 }
-bool areLayersPerhapsMore(QString const& text) { return areThings(Value::of(text, true)); }
+bool areLayersPerhapsMore(QString const& text) { return areThings(Named::of(text, true)); }
 bool isLayerAndNumber(QString const& text) {
-  Value const value = Value::of(text, true);
+  Named const value = Named::of(text, true);
   return areThings(value) && value.names.size() == 1 && value.where.toInt() > 0;
 }
 bool areLayersAndPlace(QString const& text) {
-  return areLayersAndMore(text) && areThings({{Value::of(text, true).where}, {}});
+  return areLayersAndMore(text) && areThings({{Named::of(text, true).where}, {}});
 }
 
 QString nothingCalled(QString const& name) {
@@ -61,7 +61,7 @@ QString nothingCalled(QString const& name) {
 }
 
 template <class Use>
-LayerOutcome with(MapDocument const& document, Value const& value, Use const& use) {
+LayerOutcome with(MapDocument const& document, Named const& value, Use const& use) {
   Rows rows;
   for (QString const& name : value.names) {
     Rows const named = LayerActions::named(document, name);
@@ -73,13 +73,13 @@ LayerOutcome with(MapDocument const& document, Value const& value, Use const& us
 
 template <LayerOutcome (*action)(Rows const&)>
 LayerOutcome onRows(MapDocument const& document, QString const& text) {
-  return with(document, Value::of(text, false), action);
+  return with(document, Named::of(text, false), action);
 }
 
 // Above a layer, into a group or a map, on top there.
 template <LayerOutcome (*action)(Rows const&, LayerPlace const&)>
 LayerOutcome toPlace(MapDocument const& document, QString const& text) {
-  Value const value = Value::of(text, true);
+  Named const value = Named::of(text, true);
   return with(document, value, [&](Rows const& rows) {
     Rows const where = LayerActions::named(document, value.where);
     return where.isEmpty() ? LayerOutcome{nothingCalled(value.where), {}, {}}
@@ -88,24 +88,24 @@ LayerOutcome toPlace(MapDocument const& document, QString const& text) {
 }
 
 LayerOutcome order(MapDocument const& document, QString const& text) {
-  Value const value = Value::of(text, true);
+  Named const value = Named::of(text, true);
   return with(document, value,
               [&](Rows const& rows) { return LayerActions::setOrder(rows.first(), value.where.toInt()); });
 }
 
 LayerOutcome group(MapDocument const& document, QString const& text) {
-  Value const value = Value::of(text, true);
+  Named const value = Named::of(text, true);
   return with(document, value, [&](Rows const& rows) { return LayerActions::group(rows, value.where); });
 }
 
 LayerOutcome zoom(MapDocument const& document, QString const& text) {
-  return with(document, Value::of(text, false),
+  return with(document, Named::of(text, false),
               [&](Rows const& rows) { return LayerActions::zoomTo(*document.GetPageLayout(), rows); });
 }
 
 // The file is where the program runs, as in every other step.
 LayerOutcome repair(MapDocument const& document, QString const& text) {
-  Value const value = Value::of(text, true);
+  Named const value = Named::of(text, true);
   return with(document, value, [&](Rows const& rows) {
     return LayerActions::repair(document, rows.first(), QFileInfo(value.where).absoluteFilePath());
   });
