@@ -5485,6 +5485,10 @@
         <source>labelled by “%1”</source>
         <translation>mit „%1“ beschriftet</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5963,6 +5967,22 @@
         <source>Where on the globe the data are is not known.</source>
         <translation>Wo auf dem Globus die Daten liegen, ist nicht bekannt.</translation>
     </message>
+    <message>
+        <source>The layer “%1” is left out. %2</source>
+        <translation>Die Ebene „%1“ bleibt weg. %2</translation>
+    </message>
+    <message>
+        <source>There are no features that say where the map is, so it shows the world.</source>
+        <translation>Keine Objekte sagen, wo die Karte liegt, also zeigt sie die Welt.</translation>
+    </message>
+    <message>
+        <source>Sea around the land</source>
+        <translation>Meer um das Land</translation>
+    </message>
+    <message>
+        <source>The data hold all the land that the map shows.</source>
+        <translation>Die Daten enthalten alles Land, das die Karte zeigt.</translation>
+    </message>
 </context>
 <context>
     <name>NewMapDialog</name>
@@ -6107,7 +6127,7 @@
     </message>
     <message>
         <source>A file of data, all its layers or one of them; may be given several times.</source>
-        <translation>Eine Datendatei, alle ihre Ebenen oder eine davon; mehrmals möglich.</translation>
+        <translation type="vanished">Eine Datendatei, alle ihre Ebenen oder eine davon; mehrmals möglich.</translation>
     </message>
     <message>
         <source>The title; the name of the data if not given.</source>
@@ -6156,6 +6176,14 @@
     <message>
         <source>new: --landscape and --portrait exclude each other.</source>
         <translation>new: --landscape und --portrait schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>A file of data, all its layers or one of them, or a folder; may be given several times.</source>
+        <translation>Eine Datendatei, alle ihre Ebenen oder eine davon, oder ein Ordner; mehrmals möglich.</translation>
+    </message>
+    <message>
+        <source>new: the page is that of the template; leave out --paper, --landscape and --portrait.</source>
+        <translation>new: Die Seite ist die der Vorlage; lassen Sie --paper, --landscape und --portrait weg.</translation>
     </message>
 </context>
 <context>
@@ -6434,7 +6462,7 @@
     </message>
     <message>
         <source>The data are about as broad as high: an azimuthal projection about their middle.</source>
-        <translation>Die Daten sind etwa so breit wie hoch: eine Azimutalprojektion um ihre Mitte.</translation>
+        <translation type="vanished">Die Daten sind etwa so breit wie hoch: eine Azimutalprojektion um ihre Mitte.</translation>
     </message>
     <message>
         <source>The data cover less than %1 km, and this is their zone of UTM.</source>
@@ -6443,6 +6471,10 @@
     <message>
         <source>The data&apos;s own coordinate system, %1, shows them almost without distortion.</source>
         <translation>Das eigene Koordinatensystem der Daten, %1, zeigt sie fast ohne Verzerrung.</translation>
+    </message>
+    <message>
+        <source>An azimuthal projection about the middle of the data shows them best on all sides.</source>
+        <translation>Eine Azimutalprojektion um die Mitte der Daten zeigt sie nach allen Seiten am besten.</translation>
     </message>
 </context>
 <context>

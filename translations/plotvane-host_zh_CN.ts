@@ -5485,6 +5485,10 @@
         <source>labelled by “%1”</source>
         <translation>用“%1”标注</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -5963,6 +5967,22 @@
         <source>Where on the globe the data are is not known.</source>
         <translation>不知道数据位于地球何处。</translation>
     </message>
+    <message>
+        <source>The layer “%1” is left out. %2</source>
+        <translation>略去图层“%1”。%2</translation>
+    </message>
+    <message>
+        <source>There are no features that say where the map is, so it shows the world.</source>
+        <translation>没有要素说明地图位置，因此显示全世界。</translation>
+    </message>
+    <message>
+        <source>Sea around the land</source>
+        <translation>陆地周围的海洋</translation>
+    </message>
+    <message>
+        <source>The data hold all the land that the map shows.</source>
+        <translation>数据包含地图所示的全部陆地。</translation>
+    </message>
 </context>
 <context>
     <name>NewMapDialog</name>
@@ -6107,7 +6127,7 @@
     </message>
     <message>
         <source>A file of data, all its layers or one of them; may be given several times.</source>
-        <translation>数据文件，其所有图层或其中之一；可多次给出。</translation>
+        <translation type="vanished">数据文件，其所有图层或其中之一；可多次给出。</translation>
     </message>
     <message>
         <source>The title; the name of the data if not given.</source>
@@ -6156,6 +6176,14 @@
     <message>
         <source>new: --landscape and --portrait exclude each other.</source>
         <translation>new：--landscape 与 --portrait 互斥。</translation>
+    </message>
+    <message>
+        <source>A file of data, all its layers or one of them, or a folder; may be given several times.</source>
+        <translation>数据文件（其所有图层或其中之一）或文件夹；可多次给出。</translation>
+    </message>
+    <message>
+        <source>new: the page is that of the template; leave out --paper, --landscape and --portrait.</source>
+        <translation>new：页面取自模板；请去掉 --paper、--landscape 和 --portrait。</translation>
     </message>
 </context>
 <context>
@@ -6434,7 +6462,7 @@
     </message>
     <message>
         <source>The data are about as broad as high: an azimuthal projection about their middle.</source>
-        <translation>数据宽高相近：以其中心为中心的方位投影。</translation>
+        <translation type="vanished">数据宽高相近：以其中心为中心的方位投影。</translation>
     </message>
     <message>
         <source>The data cover less than %1 km, and this is their zone of UTM.</source>
@@ -6443,6 +6471,10 @@
     <message>
         <source>The data&apos;s own coordinate system, %1, shows them almost without distortion.</source>
         <translation>数据自身的坐标系 %1 几乎无变形。</translation>
+    </message>
+    <message>
+        <source>An azimuthal projection about the middle of the data shows them best on all sides.</source>
+        <translation>以数据中心为中心的方位投影在各方向上效果最好。</translation>
     </message>
 </context>
 <context>

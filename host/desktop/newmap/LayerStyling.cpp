@@ -292,6 +292,9 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
   styled.extent = survey.extent;
   styled.count = survey.count;
   styled.height = row.height;
+  QString const field = look->renderer.value("field").toString();
+  if (!field.isEmpty() && look->isLegendWorthy)
+    styled.legendText = Texts::tr("%1: %2").arg(styled.name, forPeople(field));
   styled.isLegendWorthy = look->isLegendWorthy;
   styled.isLand = isLand;
   styled.reasons << look->reason;

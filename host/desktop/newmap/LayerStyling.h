@@ -12,6 +12,7 @@ struct StyledLayer {
   QJsonObject json;     ///< as a document stores it, its file absolute
   int count;            ///< of features
   int height;           ///< what is drawn later is higher: areas, lines, points
+  QString legendText;   ///< what stands above its classes; empty for the name
   bool isLegendWorthy;  ///< whether a legend tells something that the map does not
   bool isLand = false;  ///< areas with the sea around them
   QStringList reasons;  ///< what was chosen and why, as sentences

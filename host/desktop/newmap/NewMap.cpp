@@ -56,6 +56,21 @@ double roundScale(double denominator) {
   return denominator;
 }
 
+// Calls `use` with the places of a lattice over a rectangle of one coordinate system in the other; with none where one
+// of them is missing.
+template <class Use>
+void forEachPlace(OGRSpatialReference const* from, OGRSpatialReference const* to, QRectF const& area, Use const& use) {
+  QString error;
+  auto const transform = from && to ? SysCarto::PointTransform::create(*from, *to, error) : nullptr;
+  constexpr int steps = 20;
+  for (int i = 0; transform && i <= steps; ++i)
+    for (int j = 0; j <= steps; ++j) {
+      double x = area.left() + area.width() * i / steps, y = area.top() + area.height() * j / steps;
+      if (from->IsGeographic()) x = std::remainder(x, 360.0);
+      if (transform->apply(x, y)) use(x, y);
+    }
+}
+
 class NewMap {
   Q_DECLARE_TR_FUNCTIONS(NewMap)
 
@@ -86,8 +101,9 @@ private:
   bool takeTemplate(QJsonObject& json);
   _ptr_t<MapFrameElement> frame() const;
   bool placeFrame(QRectF const& place);
-  QJsonArray omittedFromLegend() const;
+  QJsonArray legendEntries() const;
   QRectF projectedArea() const;
+  GlobeArea shownArea(QSizeF const& frame) const;
   Box drawnBy(QJsonObject const& surround);
   QSizeF legendSize(QSizeF const& within);
   QJsonObject aligned(QJsonObject surround);
@@ -154,7 +170,7 @@ bool NewMap::surveyFile(QString const& file, QString const& layer) {
     auto const survey = surveyLayer(source, one, problem);
     if (!survey && request_.where.isEmpty()) return fail(problem);
     if (!survey) {
-      result_.warnings << problem;
+      result_.warnings << tr("The layer “%1” is left out. %2").arg(one.name, problem);
       continue;
     }
     bool const isTable = survey->count == 0 && one.kind == SysCarto::GeometryKind::None && one.count != 0;
@@ -185,6 +201,7 @@ bool NewMap::chooseSystem() {
       system_ = {QString(), tr("plain coordinates"), tr("Where on the globe the data are is not known."), false};
     else
       system_ = ProjectionChoice::forArea(area_, own);
+    if (!hasFeatures) system_.reason = tr("There are no features that say where the map is, so it shows the world.");
   }
   explain(tr("Coordinate system %1 (%2)").arg(system_.definition, system_.name), system_.reason);
   return true;
@@ -209,7 +226,7 @@ bool NewMap::choosePage() {
                        : shape.isValid() ? shape.width() > 1.05 * shape.height()
                                          : true;
   if (request_.isLandscape.value_or(isBroad) != (page_.width() > page_.height())) page_.transpose();
-  if (!request_.templateFile.isEmpty()) return true;
+  if (!request_.templateFile.isEmpty() || !(isPlaced_ || isPlain)) return true;
   QString const lies = page_.width() > page_.height() ? tr("landscape") : tr("portrait");
   explain(tr("Page %1, %2").arg(wanted, lies), request_.isLandscape ? tr("As asked for.")
                                                : isBroad            ? tr("The data are broader than high.")
@@ -221,17 +238,27 @@ bool NewMap::choosePage() {
 QRectF NewMap::projectedArea() const {
   auto const system = SysCarto::makeCoordinateSystem(system_.definition);
   auto const globe = system && isPlaced_ && !isGlobe() ? SysCarto::globeOf(*system) : nullptr;
-  QString error;
-  auto const toMap = globe ? SysCarto::PointTransform::create(*globe, *system, error) : nullptr;
   Box all;
-  constexpr int steps = 20;
-  for (int i = 0; toMap && i <= steps; ++i)
-    for (int j = 0; j <= steps; ++j) {
-      double x = std::remainder(area_.west + area_.width() * i / steps, 360.0),
-             y = area_.south + area_.height() * j / steps;
-      if (toMap->apply(x, y)) all.add({x, y, x, y});
-    }
+  forEachPlace(globe.get(), system.get(), {{area_.west, area_.south}, QPointF(area_.east, area_.north)},
+               [&](double x, double y) {
+                 all.add({x, y, x, y});
+               });
   return all.xmin <= all.xmax ? QRectF(QPointF(all.xmin, all.ymin), QPointF(all.xmax, all.ymax)) : QRectF();
+}
+
+// The part of the globe that the frame shows, which is more than the area of the data.
+GlobeArea NewMap::shownArea(QSizeF const& frame) const {
+  QRectF shape = projectedArea();
+  if (!shape.isValid()) return area_;
+  double const scale = (1 + 2 * margin) * std::max(shape.width() / frame.width(), shape.height() / frame.height());
+  QPointF const centre = shape.center();
+  shape.setSize(frame * scale);
+  shape.moveCenter(centre);
+  auto const system = SysCarto::makeCoordinateSystem(system_.definition);
+  auto const globe = SysCarto::globeOf(*system);
+  GlobeExtent shown;
+  forEachPlace(system.get(), globe.get(), shape, [&](double x, double y) { shown.addPlace(x, y); });
+  return shown.isEmpty() ? area_ : shown.area();
 }
 
 bool NewMap::style() {
@@ -240,7 +267,7 @@ bool NewMap::style() {
   QRectF const shape = projectedArea();
   double const metres = shape.width() * (system && system->IsProjected() ? system->GetLinearUnits() : metresPerDegree);
   hasGraticule_ = system && (isGlobe() || metres * cmPerMetre / place.width() > smallScale);
-  LayerStyling styling(place.width() * place.height(), hasGraticule_ ? area_ : GlobeArea());
+  LayerStyling styling(place.width() * place.height(), hasGraticule_ ? shownArea(place.size()) : GlobeArea());
   for (LayerSurvey const& survey : surveys_)
     for (StyledLayer const& layer : styling.style(survey)) layers_.push_back(layer);
   std::stable_sort(layers_.begin(), layers_.end(), [](StyledLayer const& one, StyledLayer const& other) {
@@ -249,6 +276,7 @@ bool NewMap::style() {
   });
   for (StyledLayer const& layer : layers_)
     explain(tr("Layer “%1”").arg(layer.name), layer.reasons.join(QStringLiteral("; ")));
+  if (hasSea()) explain(tr("Sea around the land"), tr("The data hold all the land that the map shows."));
   return true;
 }
 
@@ -317,7 +345,8 @@ bool NewMap::takeTemplate(QJsonObject& json) {
   for (int i = 0; i < elements.size(); ++i) {
     QJsonObject element = elements.at(i).toObject(), content = element.value("surround").toObject();
     if (content.value("kind") != QLatin1String("legend") || content.value("map").toInt(-1) != mapNumber) continue;
-    content.insert("omit", omittedFromLegend());
+    content.insert("entries", legendEntries());
+    content.insert("others", "omit");
     element.insert("surround", content);
     elements.replace(i, element);
   }
@@ -337,6 +366,7 @@ bool NewMap::open() {
   if (!request_.templateFile.isEmpty() && !takeTemplate(json)) return false;
   QString const folder = request_.templateFile.isEmpty() ? QString() : QFileInfo(request_.templateFile).absolutePath();
   if (!MapDocumentHost::read(document_, json, folder)) return fail(MapDocumentHost::takeLastFailure());
+  if (MapDocumentHost::unreadableSources(document_) > 0) return fail(document_.GetWarnings().join(QLatin1Char('\n')));
   result_.warnings << document_.GetWarnings();
   QList<_ptr_t<SysCarto::Map>> maps;
   document_.GetMaps(maps);
@@ -383,12 +413,16 @@ bool NewMap::placeFrame(QRectF const& place) {
   return true;
 }
 
-QJsonArray NewMap::omittedFromLegend() const {
-  QJsonArray omitted;
-  if (isGlobe()) omitted.append(tr("Sea"));
-  for (StyledLayer const& layer : layers_)
-    if (!layer.isLegendWorthy) omitted.append(layer.name);
-  return omitted;
+// The layers that a legend lists, from above.
+QJsonArray NewMap::legendEntries() const {
+  QJsonArray entries;
+  for (auto layer = layers_.rbegin(); layer != layers_.rend(); ++layer) {
+    if (!layer->isLegendWorthy) continue;
+    QJsonObject entry{{"layer", layer->name}};
+    if (!layer->legendText.isEmpty()) entry.insert("text", layer->legendText);
+    entries.append(entry);
+  }
+  return entries;
 }
 
 QList<_ptr_t<SysCarto::Element>> NewMap::elementsOf(QJsonArray const& elements) {
@@ -412,7 +446,8 @@ Box NewMap::drawnBy(QJsonObject const& surround) {
 
 // As large as it would be with as much room as that.
 QSizeF NewMap::legendSize(QSizeF const& within) {
-  Box const drawn = drawnBy(PageComposition(page_).legend({QPointF(0, 0), within}, omittedFromLegend(), false));
+  if (legendEntries().isEmpty()) return {};
+  Box const drawn = drawnBy(PageComposition(page_).legend({QPointF(0, 0), within}, legendEntries(), false));
   constexpr double slack = 1.02;
   return drawn.xmin <= drawn.xmax ? QSizeF(drawn.xmax * slack, (within.height() - drawn.ymin) * slack) : QSizeF();
 }
@@ -458,20 +493,20 @@ bool NewMap::compose() {
     int corner = 0;
     while (corner < 4 && !isFree(page.corner(place, size, corner))) ++corner;
     if (corner < 4) {
-      elements.append(page.legend(page.corner(place, size, corner), omittedFromLegend(), true));
+      elements.append(page.legend(page.corner(place, size, corner), legendEntries(), true));
       explain(tr("Legend in a corner of the map"), tr("Nothing of the data lies there."));
     } else {
       QRectF const legend = page.beside(place, size, isGlobe(), hasGraticule_);
       placeFrame(place);
       showAll();
-      elements.append(page.legend(legend, omittedFromLegend(), false));
+      elements.append(page.legend(legend, legendEntries(), false));
       explain(tr("Legend beside the map"), tr("It would hide data."));
     }
   }
   for (auto const& element : page.scale(isGlobe())) elements.append(aligned(element.toObject()));
   bool const hasArrow = projectedArea().isValid() && !hasGraticule_;
   if (hasArrow) elements.append(page.northArrow());
-  elements.append(page.credits(system_.name, hasArrow));
+  elements.append(page.credits(hasArrow));
   explain(hasArrow ? tr("A north arrow") : tr("No north arrow"),
           hasArrow ? tr("North is up all over the map.") : tr("The graticule shows where north is."));
   explain(hasGraticule_ ? tr("A graticule") : tr("No graticule"),

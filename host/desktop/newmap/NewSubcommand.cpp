@@ -39,9 +39,10 @@ ExitStatus runNew(Subcommand const& self, QStringList const& arguments) {
   QCommandLineParser parser;
   parser.addPositionalArgument(QStringLiteral("DOCUMENT"), Texts::tr("The .kdx document to make."));
   parser.addPositionalArgument(QStringLiteral("DATA"), Texts::tr("More data, as for --data."));
-  QCommandLineOption const data(QStringLiteral("data"),
-                                Texts::tr("A file of data, all its layers or one of them; may be given several times."),
-                                QStringLiteral("FILE[|LAYER]"));
+  QCommandLineOption const data(
+      QStringLiteral("data"),
+      Texts::tr("A file of data, all its layers or one of them, or a folder; may be given several times."),
+      QStringLiteral("FILE[|LAYER]"));
   QCommandLineOption const title(QStringLiteral("title"), Texts::tr("The title; the name of the data if not given."),
                                  QStringLiteral("TEXT"));
   QCommandLineOption const paper(QStringLiteral("paper"), Texts::tr("The paper, such as A3; A4 if not given."),
@@ -81,6 +82,9 @@ ExitStatus runNew(Subcommand const& self, QStringList const& arguments) {
   if (request.data.isEmpty()) wrong = Texts::tr("new: data are missing; name a file with --data.");
   if (parser.isSet(landscape) && parser.isSet(portrait))
     wrong = Texts::tr("new: --landscape and --portrait exclude each other.");
+  bool const hasPage = parser.isSet(paper) || parser.isSet(landscape) || parser.isSet(portrait);
+  if (parser.isSet(pattern) && hasPage)
+    wrong = Texts::tr("new: the page is that of the template; leave out --paper, --landscape and --portrait.");
   if (!wrong.isEmpty()) {
     Console::complain(wrong);
     return WrongArguments;

@@ -107,7 +107,7 @@ QJsonObject PageComposition::title(QString const& text) const {
           {"symbol", textSymbol(titleFamily, size, MapColors::ink)}};
 }
 
-QJsonObject PageComposition::legend(QRectF const& place, QJsonArray const& omitted, bool isOverMap) const {
+QJsonObject PageComposition::legend(QRectF const& place, QJsonArray const& entries, bool isOverMap) const {
   QJsonObject heading = textSymbol(textFamily, 8 * unit_, MapColors::ink), title = heading;
   heading.insert("bold", true);
   title.insert("family", titleFamily);
@@ -120,8 +120,9 @@ QJsonObject PageComposition::legend(QRectF const& place, QJsonArray const& omitt
                       {"headingSymbol", heading},
                       {"labelSymbol", textSymbol(textFamily, 7.5 * unit_, MapColors::ink)},
                       {"patchWidth", 18 * unit_},
-                      {"patchHeight", 9 * unit_}};
-  if (!omitted.isEmpty()) content.insert("omit", omitted);
+                      {"patchHeight", 9 * unit_},
+                      {"entries", entries},
+                      {"others", "omit"}};
   QJsonObject element = surround("Legend", place, content);
   if (!isOverMap) return element;
   double const gap = 5 * unit_;
@@ -159,14 +160,14 @@ QJsonObject PageComposition::northArrow() const {
                    {"symbol", QJsonObject{{"type", "svgMarker"}, {"size", 40}, {"svg", svg}}}});
 }
 
-QJsonObject PageComposition::credits(QString const& projection, bool hasArrow) const {
+QJsonObject PageComposition::credits(bool hasArrow) const {
   double const end = right() - (hasArrow ? 1.4 * unit_ : 0);
   QJsonObject symbol = textSymbol(textFamily, 6.5 * unit_, MapColors::softInk);
   symbol.insert("horizontal", "right");
   symbol.insert("vertical", "bottom");
   return {{"type", "text"},
           {"name", Texts::tr("Credits")},
-          {"text", Texts::tr("Map data: [credits]") + QLatin1Char('\n') + projection},
+          {"text", Texts::tr("Map data: [credits]") + QStringLiteral("\n[crs]")},
           {"position", QJsonArray{end, margin_}},
           {"width", std::max(1.0, end - left() - 8 * unit_)},
           {"symbol", symbol}};

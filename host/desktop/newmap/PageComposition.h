@@ -33,10 +33,10 @@ public:
 
   QJsonObject dataFrame(QRectF const& frame, bool isGlobe, char const* background, bool hasGraticule) const;
   QJsonObject title(QString const& text) const;
-  QJsonObject legend(QRectF const& place, QJsonArray const& omitted, bool isOverMap) const;
+  QJsonObject legend(QRectF const& place, QJsonArray const& entries, bool isOverMap) const;
   QJsonArray scale(bool isGlobe) const;
   QJsonObject northArrow() const;
-  QJsonObject credits(QString const& projection, bool hasArrow) const;
+  QJsonObject credits(bool hasArrow) const;
 
 private:
   double left() const { return margin_; }

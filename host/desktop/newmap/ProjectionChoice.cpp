@@ -92,7 +92,7 @@ ProjectionChoice azimuthal(GlobeArea const& area) {
   double const lat = rounded(area.centreLatitude(), area), lon = rounded(area.centreLongitude(), area);
   return {projText(QStringLiteral("laea +lat_0=%1 +lon_0=%2").arg(lat).arg(lon)),
           Texts::tr("Lambert azimuthal equal-area projection, %1, %2").arg(latitude(lat), longitude(lon)),
-          Texts::tr("The data are about as broad as high: an azimuthal projection about their middle."), false};
+          Texts::tr("An azimuthal projection about the middle of the data shows them best on all sides."), false};
 }
 
 ProjectionChoice utm(GlobeArea const& area) {
