@@ -33,7 +33,6 @@
 #include <QUndoView>
 #include <QVBoxLayout>
 
-using SysUtility::_ptr_t;
 using SysUtility::scaleDenominatorOf;
 
 namespace {

@@ -6,8 +6,6 @@
 namespace SysCarto {
 
 using SysDisplay::DrawTarget;
-using SysDisplay::Symbol;
-using SysUtility::_ptr_t;
 
 namespace {
 

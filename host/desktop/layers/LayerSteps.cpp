@@ -6,7 +6,6 @@
 #include <algorithm>
 
 using SysCarto::LayerPlace;
-using SysCarto::LayerRow;
 using SysCarto::MapDocument;
 
 namespace {
