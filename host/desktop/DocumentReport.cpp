@@ -228,13 +228,13 @@ QString ReportText::map(QJsonObject const& map) {
 
 }  // namespace
 
-QJsonObject documentJson(SysCarto::MapDocument const& document) {
+QJsonObject documentJson(SysCarto::MapDocument const& document, bool countsLabels) {
   QList<_ptr_t<Map>> maps;
   document.GetMaps(maps);
   QJsonArray mapList;
   auto const layout = document.GetPageLayout();
   for (auto const& map : maps) {
-    placeLabelsOf(*map, layout->GetGraphicsContainer());
+    if (countsLabels) placeLabelsOf(*map, layout->GetGraphicsContainer());
     mapList.append(mapJson(map, map == layout->GetFocusMap()));
   }
   return QJsonObject{

@@ -85,7 +85,7 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
   if (!opened) return WorkFailed;
 
   auto const desktop = SysUtility::make<OffscreenDesktop>(document);
-  QJsonObject const report = documentJson(document);
+  QJsonObject const report = documentJson(document, parser.isSet(json));
   if (parser.isSet(json))
     printJson(report);
   else
