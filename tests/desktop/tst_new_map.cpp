@@ -124,6 +124,8 @@ LayerSurvey surveyOf(QString const& file) {
 
 }  // namespace
 
+Q_DECLARE_METATYPE(NewMapRequest)
+
 /// A map that is made of data alone: what is chosen, and that the page holds it all.
 class NewMapTest : public QObject {
   Q_OBJECT
@@ -277,8 +279,6 @@ private:
   QTemporaryDir folder_;
   QString path(QString const& name) const { return folder_.filePath(name); }
 };
-
-Q_DECLARE_METATYPE(NewMapRequest)
 
 QTEST_MAIN(NewMapTest)
 #include "tst_new_map.moc"
