@@ -2,7 +2,9 @@
 #include "LayerStyling.h"
 #include "MapColors.h"
 #include "PageComposition.h"
+#include "PlaceLattice.h"
 #include "ProjectionChoice.h"
+#include "RoundScale.h"
 #include "Theme.h"
 
 #include "host/SysCarto/document/ElementClip.h"
@@ -11,7 +13,6 @@
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GroundScale.h"
-#include "host/SysCarto/projection/PointTransform.h"
 #include "host/SysUtility/JsonFile.h"
 
 #include <SysCarto/MapFrameElement.h>
@@ -44,32 +45,6 @@ QLatin1String const mark("the map that is being made");  // its name until it is
 constexpr double globeMargin = 0.005;
 constexpr double leastMetres = 2000;  // that a map shows, of a single place
 constexpr double cmPerMetre = 100, metresPerDegree = 111200;
-
-// The next round denominator, no more than a tenth above.
-double roundScale(double denominator) {
-  if (!(denominator > 0)) return denominator;
-  constexpr double steps[] = {1,    1.1, 1.2, 1.25, 1.3, 1.4, 1.5, 1.6, 1.75, 1.8, 2, 2.2, 2.5, 2.75, 3,
-                              3.25, 3.5, 4,   4.5,  5,   5.5, 6,   6.5, 7,    7.5, 8, 8.5, 9,   9.5,  10};
-  double const ten = std::pow(10, std::floor(std::log10(denominator)));
-  for (double const step : steps)
-    if (step * ten >= denominator * (1 - 1e-9)) return step * ten;
-  return denominator;
-}
-
-// Calls `use` with the places of a lattice over a rectangle of one coordinate system in the other; with none where one
-// of them is missing.
-template <class Use>
-void forEachPlace(OGRSpatialReference const* from, OGRSpatialReference const* to, QRectF const& area, Use const& use) {
-  QString error;
-  auto const transform = from && to ? SysCarto::PointTransform::create(*from, *to, error) : nullptr;
-  constexpr int steps = 20;
-  for (int i = 0; transform && i <= steps; ++i)
-    for (int j = 0; j <= steps; ++j) {
-      double x = area.left() + area.width() * i / steps, y = area.top() + area.height() * j / steps;
-      if (from->IsGeographic()) x = std::remainder(x, 360.0);
-      if (transform->apply(x, y)) use(x, y);
-    }
-}
 
 class NewMap {
   Q_DECLARE_TR_FUNCTIONS(NewMap)
