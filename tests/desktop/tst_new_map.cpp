@@ -237,6 +237,9 @@ private slots:
                qPrintable(element->GetName()));
     }
     auto const map = document.GetMap(0);
+    QSet<QString> names;
+    for (auto const& layer : map->GetLayers()) names << layer->GetName();
+    QCOMPARE(names.size(), map->GetLayerCount());  // a legend knows layers by their names
     for (auto const& layer : map->GetLayers()) {
       auto const vector = SysUtility::ptr_cast<SysCarto::VectorLayer>(layer);
       auto const box = vector->features().box();

@@ -4,6 +4,7 @@
 #include "MapColors.h"
 #include "Theme.h"
 
+#include "host/desktop/layers/DataReport.h"
 #include "host/desktop/layers/NewLayers.h"
 
 #include "host/SysCarto/layers/Classify.h"
@@ -289,6 +290,8 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
 
   StyledLayer styled;
   styled.name = forPeople(name);
+  bool const isPart = source.filter != survey.source.filter;  // of a layer that mixes kinds
+  if (isPart) styled.name = Texts::tr("%1 (%2)").arg(styled.name, kindText(kind));
   styled.extent = survey.extent;
   styled.count = survey.count;
   styled.height = row.height;

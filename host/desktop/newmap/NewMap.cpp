@@ -75,7 +75,7 @@ private:
   QJsonObject pageJson() const;
   bool takeTemplate(QJsonObject& json);
   _ptr_t<MapFrameElement> frame() const;
-  bool placeFrame(QRectF const& place);
+  void placeFrame(QRectF const& place);
   QJsonArray legendEntries() const;
   QRectF projectedArea() const;
   GlobeArea shownArea(QSizeF const& frame) const;
@@ -361,9 +361,8 @@ _ptr_t<MapFrameElement> NewMap::frame() const {
 
 // All of the data, at a scale that a person would write.
 bool NewMap::showAll() {
-  auto const map = map_;
   Box all;
-  for (auto const& layer : map->GetLayers())
+  for (auto const& layer : map_->GetLayers())
     if (auto const vector = ptr_cast<VectorLayer>(layer)) all.add(vector->features().box());
   if (!(all.xmin <= all.xmax)) all = {-1, -1, 1, 1};
   double const x = (all.xmin + all.xmax) / 2, y = (all.ymin + all.ymax) / 2;
@@ -372,20 +371,19 @@ bool NewMap::showAll() {
   double const around = 1 + 2 * (isGlobe() ? globeMargin : margin);
   double const halfWidth = around * std::max(all.xmax - all.xmin, least) / 2;
   double const halfHeight = around * std::max(all.ymax - all.ymin, least) / 2;
-  map->SetExtent(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
-  double const scale = map->GetDisplayTransformation()->GetMapScale();
-  auto const rounded = map->GetExtent();
+  map_->SetExtent(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
+  double const scale = map_->GetDisplayTransformation()->GetMapScale();
+  auto const rounded = map_->GetExtent();
   rounded->Expand(roundScale(scale) / scale, roundScale(scale) / scale, true);
-  map->SetExtent(rounded);
+  map_->SetExtent(rounded);
   return true;
 }
 
-bool NewMap::placeFrame(QRectF const& place) {
+void NewMap::placeFrame(QRectF const& place) {
   auto const element = frame();
   auto const clone = element->Clone();
   clone->SetGeometry(make<Envelope>(place.left(), place.top(), place.right(), place.bottom()));
   document_.GetPageLayout()->GetGraphicsContainer()->ReplaceElement(element->GetHandle(), clone);
-  return true;
 }
 
 // The layers that a legend lists, from above.
@@ -482,10 +480,13 @@ bool NewMap::compose() {
   bool const hasArrow = projectedArea().isValid() && !hasGraticule_;
   if (hasArrow) elements.append(page.northArrow());
   elements.append(page.credits(hasArrow));
-  explain(hasArrow ? tr("A north arrow") : tr("No north arrow"),
-          hasArrow ? tr("North is up all over the map.") : tr("The graticule shows where north is."));
-  explain(hasGraticule_ ? tr("A graticule") : tr("No graticule"),
-          hasGraticule_ ? tr("The scale is small.") : tr("The scale is large."));
+  if (hasArrow) {
+    explain(tr("A north arrow"), tr("North is up all over the map."));
+    explain(tr("No graticule"), tr("The scale is large."));
+  } else if (hasGraticule_) {
+    explain(tr("No north arrow"), tr("The graticule shows where north is."));
+    explain(tr("A graticule"), tr("The scale is small."));
+  }
   document_.GetPageLayout()->GetGraphicsContainer()->AddElements(elementsOf(elements));
   return result_.problem.isEmpty();
 }

@@ -8,7 +8,7 @@
 /// The coordinate system for a map of some part of the globe, and why this one.
 struct ProjectionChoice {
   QString definition;  ///< as a document has it
-  QString name;        ///< what a reader of the map is told: “Albers equal-area conic projection, 40° and 60° N”
+  QString name;        ///< what a person is told: “Albers equal-area conic projection, 40° and 60° N”
   QString reason;      ///< a sentence
   bool isGlobe;        ///< whether all of the globe shows, with an outline of its own
 
