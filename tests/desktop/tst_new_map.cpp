@@ -3,7 +3,7 @@
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/desktop/newmap/DataSurvey.h"
-#include "host/desktop/newmap/MapColors.h"
+#include "host/desktop/layers/MapColors.h"
 #include "host/desktop/newmap/NewMap.h"
 #include "host/desktop/newmap/ProjectionChoice.h"
 

@@ -1,4 +1,5 @@
 #include "LayerStyle.h"
+#include "MapColors.h"
 
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
@@ -7,7 +8,6 @@
 #include <SysDisplay/SimpleLineSymbol.h>
 
 #include <algorithm>
-#include <iterator>
 
 using SysCarto::GeometryKind;
 using SysUtility::_ptr_t;
@@ -15,17 +15,7 @@ using SysUtility::make;
 
 namespace {
 
-// Clearly apart from each other, and dark enough for thin lines on white.
-constexpr QRgb colors[] = {0xff3b7dbd, 0xffd9822b, 0xff4f9d5b, 0xffb5524a,
-                           0xff8069ad, 0xff2f9494, 0xffa8863e, 0xffc2628f};
-
 constexpr double linePt = 0.8, outlinePt = 0.3, markerPt = 5;
-constexpr double fillWhite = 0.5;  // of the colour of an area
-
-QColor lightened(QColor const& color) {
-  auto const mixed = [](int part) { return static_cast<int>(part + (255 - part) * fillWhite); };
-  return {mixed(color.red()), mixed(color.green()), mixed(color.blue())};
-}
 
 QColor colorOf(SysDisplay::Symbol const* symbol) {
   if (auto const* fill = dynamic_cast<SysDisplay::FillSymbol const*>(symbol)) return fill->GetColor();
@@ -41,15 +31,18 @@ int usesOf(QColor const& color, QList<_ptr_t<SysCarto::Layer>> const& layers) {
     if (!vector) continue;
     for (auto const& one : vector->renderer().classes()) {
       QColor const own = colorOf(one.symbol.get());
-      if (own == color || own == lightened(color)) ++uses;
+      if (own == color) ++uses;
     }
   }
   return uses;
 }
 
-QColor leastUsed(QList<_ptr_t<SysCarto::Layer>> const& layers) {
-  auto const fewer = [&](QRgb a, QRgb b) { return usesOf(QColor(a), layers) < usesOf(QColor(b), layers); };
-  return QColor(*std::min_element(std::begin(colors), std::end(colors), fewer));
+template <class Colors>
+QColor leastUsed(Colors const& colors, QList<_ptr_t<SysCarto::Layer>> const& layers) {
+  auto const fewer = [&](char const* a, char const* b) {
+    return usesOf(QColor(a), layers) < usesOf(QColor(b), layers);
+  };
+  return QColor(*std::min_element(colors.begin(), colors.end(), fewer));
 }
 
 _ptr_t<SysDisplay::LineSymbol> lineOf(QColor const& color, double widthPt) {
@@ -62,7 +55,8 @@ _ptr_t<SysDisplay::LineSymbol> lineOf(QColor const& color, double widthPt) {
 }  // namespace
 
 _ptr_t<SysDisplay::Symbol> plainSymbol(GeometryKind kind, QList<_ptr_t<SysCarto::Layer>> const& present) {
-  QColor const color = leastUsed(present);
+  bool const isArea = kind != GeometryKind::Lines && kind != GeometryKind::Points;
+  QColor const color = isArea ? leastUsed(MapColors::areas, present) : leastUsed(MapColors::marks, present);
   if (kind == GeometryKind::Lines) return lineOf(color, linePt);
   if (kind == GeometryKind::Points) {
     auto const marker = make<SysDisplay::SimpleMarkerSymbol>();
@@ -73,8 +67,8 @@ _ptr_t<SysDisplay::Symbol> plainSymbol(GeometryKind kind, QList<_ptr_t<SysCarto:
     return marker;
   }
   auto const fill = make<SysDisplay::SimpleFillSymbol>();
-  fill->SetColor(lightened(color));
-  fill->SetOutlineSymbol(lineOf(color.darker(), outlinePt));
+  fill->SetColor(color);
+  fill->SetOutlineSymbol(lineOf(QColor(MapColors::border), outlinePt));
   return fill;
 }
 

@@ -1,7 +1,7 @@
 #include "LayerStyling.h"
 #include "FieldChoice.h"
 #include "LandMask.h"
-#include "MapColors.h"
+#include "host/desktop/layers/MapColors.h"
 #include "Theme.h"
 
 #include "host/desktop/layers/DataReport.h"

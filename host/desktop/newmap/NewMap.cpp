@@ -1,6 +1,6 @@
 #include "NewMap.h"
 #include "LayerStyling.h"
-#include "MapColors.h"
+#include "host/desktop/layers/MapColors.h"
 #include "PageComposition.h"
 #include "PlaceLattice.h"
 #include "ProjectionChoice.h"

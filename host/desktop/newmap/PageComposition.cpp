@@ -1,5 +1,5 @@
 #include "PageComposition.h"
-#include "MapColors.h"
+#include "host/desktop/layers/MapColors.h"
 #include "Theme.h"
 
 #include <SysDisplay/Units.h>

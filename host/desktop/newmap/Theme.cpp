@@ -1,5 +1,5 @@
 #include "Theme.h"
-#include "MapColors.h"
+#include "host/desktop/layers/MapColors.h"
 
 #include <QJsonArray>
 #include <QRegularExpression>
