@@ -1576,6 +1576,13 @@
     </message>
 </context>
 <context>
+    <name>DataSurvey</name>
+    <message>
+        <source>Some features (%1) lie far from all others, perhaps by wrong coordinates: they are drawn, but the map does not reach so far.</source>
+        <translation>Einige Objekte (%1) liegen weit entfernt von allen anderen, vielleicht wegen falscher Koordinaten: Sie werden gezeichnet, aber die Karte reicht nicht so weit.</translation>
+    </message>
+</context>
+<context>
     <name>DialogAnswers</name>
     <message>
         <source>the message box &quot;%1&quot; (&quot;%2&quot;)</source>
@@ -5749,6 +5756,17 @@
     </message>
 </context>
 <context>
+    <name>MapTemplate</name>
+    <message>
+        <source>template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>%1: the template has no data frame for the map; give it one.</source>
+        <translation>%1: Die Vorlage hat keinen Datenrahmen für die Karte; geben Sie ihr einen.</translation>
+    </message>
+</context>
+<context>
     <name>MapView</name>
     <message>
         <source>The page has no data frame, so there is no map to show.</source>
@@ -5802,15 +5820,15 @@
     <name>NewLayers</name>
     <message>
         <source>%1 (areas)</source>
-        <translation>%1 (Flächen)</translation>
+        <translation type="vanished">%1 (Flächen)</translation>
     </message>
     <message>
         <source>%1 (lines)</source>
-        <translation>%1 (Linien)</translation>
+        <translation type="vanished">%1 (Linien)</translation>
     </message>
     <message>
         <source>%1 (points)</source>
-        <translation>%1 (Punkte)</translation>
+        <translation type="vanished">%1 (Punkte)</translation>
     </message>
     <message>
         <source>The document has no page that could hold a map.</source>
@@ -5841,7 +5859,7 @@
     <name>NewMap</name>
     <message>
         <source>No data are named; give a file of data.</source>
-        <translation>Es sind keine Daten genannt; geben Sie eine Datendatei an.</translation>
+        <translation type="vanished">Es sind keine Daten genannt; geben Sie eine Datendatei an.</translation>
     </message>
     <message>
         <source>There is nothing to draw: no layer of the data has geometries.</source>
@@ -5861,7 +5879,7 @@
     </message>
     <message>
         <source>The coordinate system can&apos;t be taken: %1.</source>
-        <translation>Das Koordinatensystem kann nicht genommen werden: %1.</translation>
+        <translation type="vanished">Das Koordinatensystem kann nicht genommen werden: %1.</translation>
     </message>
     <message>
         <source>As asked for.</source>
@@ -5869,7 +5887,7 @@
     </message>
     <message>
         <source>plain coordinates</source>
-        <translation>einfache Koordinaten</translation>
+        <translation type="vanished">einfache Koordinaten</translation>
     </message>
     <message>
         <source>The data have no coordinate system.</source>
@@ -5881,7 +5899,7 @@
     </message>
     <message>
         <source>“%1” is no paper; take one of: %2.</source>
-        <translation>„%1“ ist kein Papierformat; nehmen Sie eines von: %2.</translation>
+        <translation type="vanished">„%1“ ist kein Papierformat; nehmen Sie eines von: %2.</translation>
     </message>
     <message>
         <source>landscape</source>
@@ -5913,11 +5931,11 @@
     </message>
     <message>
         <source>template</source>
-        <translation>Vorlage</translation>
+        <translation type="vanished">Vorlage</translation>
     </message>
     <message>
         <source>%1: the template has no data frame for the map; give it one.</source>
-        <translation>%1: Die Vorlage hat keinen Datenrahmen für die Karte; geben Sie ihr einen.</translation>
+        <translation type="vanished">%1: Die Vorlage hat keinen Datenrahmen für die Karte; geben Sie ihr einen.</translation>
     </message>
     <message>
         <source>Legend in a corner of the map</source>
@@ -5969,7 +5987,7 @@
     </message>
     <message>
         <source>Where on the globe the data are is not known.</source>
-        <translation>Wo auf dem Globus die Daten liegen, ist nicht bekannt.</translation>
+        <translation type="vanished">Wo auf dem Globus die Daten liegen, ist nicht bekannt.</translation>
     </message>
     <message>
         <source>The layer “%1” is left out. %2</source>
@@ -5977,7 +5995,7 @@
     </message>
     <message>
         <source>There are no features that say where the map is, so it shows the world.</source>
-        <translation>Keine Objekte sagen, wo die Karte liegt, also zeigt sie die Welt.</translation>
+        <translation type="vanished">Keine Objekte sagen, wo die Karte liegt, also zeigt sie die Welt.</translation>
     </message>
     <message>
         <source>Sea around the land</source>
@@ -5986,6 +6004,14 @@
     <message>
         <source>The data hold all the land that the map shows.</source>
         <translation>Die Daten enthalten alles Land, das die Karte zeigt.</translation>
+    </message>
+    <message>
+        <source>Extent of the bulk of the data</source>
+        <translation>Ausdehnung nach dem Großteil der Daten</translation>
+    </message>
+    <message>
+        <source>Texts of the template that stay as they are</source>
+        <translation>Texte der Vorlage, die bleiben, wie sie sind</translation>
     </message>
 </context>
 <context>
@@ -6479,6 +6505,18 @@
     <message>
         <source>An azimuthal projection about the middle of the data shows them best on all sides.</source>
         <translation>Eine Azimutalprojektion um die Mitte der Daten zeigt sie nach allen Seiten am besten.</translation>
+    </message>
+    <message>
+        <source>plain coordinates</source>
+        <translation>einfache Koordinaten</translation>
+    </message>
+    <message>
+        <source>Where on the globe the data are is not known.</source>
+        <translation>Wo auf dem Globus die Daten liegen, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>There are no features that say where the map is, so it shows the world.</source>
+        <translation>Keine Objekte sagen, wo die Karte liegt, also zeigt sie die Welt.</translation>
     </message>
 </context>
 <context>
@@ -7640,6 +7678,21 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>With what was pasted the text has %1 characters, and an element at most %2; paste a part of it.</source>
         <translation>Mit dem Eingefügten hat der Text %1 Zeichen, ein Element höchstens %2; fügen Sie einen Teil davon ein.</translation>
+    </message>
+</context>
+<context>
+    <name>Texts</name>
+    <message>
+        <source>No data are named; give a file of data.</source>
+        <translation>Es sind keine Daten genannt; geben Sie eine Datendatei an.</translation>
+    </message>
+    <message>
+        <source>The coordinate system can&apos;t be taken: %1.</source>
+        <translation>Das Koordinatensystem kann nicht genommen werden: %1.</translation>
+    </message>
+    <message>
+        <source>“%1” is no paper; take one of: %2.</source>
+        <translation>„%1“ ist kein Papierformat; nehmen Sie eines von: %2.</translation>
     </message>
 </context>
 <context>

@@ -1576,6 +1576,13 @@
     </message>
 </context>
 <context>
+    <name>DataSurvey</name>
+    <message>
+        <source>Some features (%1) lie far from all others, perhaps by wrong coordinates: they are drawn, but the map does not reach so far.</source>
+        <translation>有些要素（%1 个）远离其他所有要素，坐标可能有误：它们仍会绘制，但地图范围不延伸到那里。</translation>
+    </message>
+</context>
+<context>
     <name>DialogAnswers</name>
     <message>
         <source>the message box &quot;%1&quot; (&quot;%2&quot;)</source>
@@ -5749,6 +5756,17 @@
     </message>
 </context>
 <context>
+    <name>MapTemplate</name>
+    <message>
+        <source>template</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>%1: the template has no data frame for the map; give it one.</source>
+        <translation>%1：模板没有用于地图的数据框；请添加一个。</translation>
+    </message>
+</context>
+<context>
     <name>MapView</name>
     <message>
         <source>The page has no data frame, so there is no map to show.</source>
@@ -5802,15 +5820,15 @@
     <name>NewLayers</name>
     <message>
         <source>%1 (areas)</source>
-        <translation>%1（面）</translation>
+        <translation type="vanished">%1（面）</translation>
     </message>
     <message>
         <source>%1 (lines)</source>
-        <translation>%1（线）</translation>
+        <translation type="vanished">%1（线）</translation>
     </message>
     <message>
         <source>%1 (points)</source>
-        <translation>%1（点）</translation>
+        <translation type="vanished">%1（点）</translation>
     </message>
     <message>
         <source>The document has no page that could hold a map.</source>
@@ -5841,7 +5859,7 @@
     <name>NewMap</name>
     <message>
         <source>No data are named; give a file of data.</source>
-        <translation>未指定数据；请给出数据文件。</translation>
+        <translation type="vanished">未指定数据；请给出数据文件。</translation>
     </message>
     <message>
         <source>There is nothing to draw: no layer of the data has geometries.</source>
@@ -5861,7 +5879,7 @@
     </message>
     <message>
         <source>The coordinate system can&apos;t be taken: %1.</source>
-        <translation>无法采用该坐标系：%1。</translation>
+        <translation type="vanished">无法采用该坐标系：%1。</translation>
     </message>
     <message>
         <source>As asked for.</source>
@@ -5869,7 +5887,7 @@
     </message>
     <message>
         <source>plain coordinates</source>
-        <translation>平面坐标</translation>
+        <translation type="vanished">平面坐标</translation>
     </message>
     <message>
         <source>The data have no coordinate system.</source>
@@ -5881,7 +5899,7 @@
     </message>
     <message>
         <source>“%1” is no paper; take one of: %2.</source>
-        <translation>“%1”不是纸张；请选用：%2。</translation>
+        <translation type="vanished">“%1”不是纸张；请选用：%2。</translation>
     </message>
     <message>
         <source>landscape</source>
@@ -5913,11 +5931,11 @@
     </message>
     <message>
         <source>template</source>
-        <translation>模板</translation>
+        <translation type="vanished">模板</translation>
     </message>
     <message>
         <source>%1: the template has no data frame for the map; give it one.</source>
-        <translation>%1：模板没有用于地图的数据框；请添加一个。</translation>
+        <translation type="vanished">%1：模板没有用于地图的数据框；请添加一个。</translation>
     </message>
     <message>
         <source>Legend in a corner of the map</source>
@@ -5969,7 +5987,7 @@
     </message>
     <message>
         <source>Where on the globe the data are is not known.</source>
-        <translation>不知道数据位于地球何处。</translation>
+        <translation type="vanished">不知道数据位于地球何处。</translation>
     </message>
     <message>
         <source>The layer “%1” is left out. %2</source>
@@ -5977,7 +5995,7 @@
     </message>
     <message>
         <source>There are no features that say where the map is, so it shows the world.</source>
-        <translation>没有要素说明地图位置，因此显示全世界。</translation>
+        <translation type="vanished">没有要素说明地图位置，因此显示全世界。</translation>
     </message>
     <message>
         <source>Sea around the land</source>
@@ -5986,6 +6004,14 @@
     <message>
         <source>The data hold all the land that the map shows.</source>
         <translation>数据包含地图所示的全部陆地。</translation>
+    </message>
+    <message>
+        <source>Extent of the bulk of the data</source>
+        <translation>范围取自数据的主体部分</translation>
+    </message>
+    <message>
+        <source>Texts of the template that stay as they are</source>
+        <translation>保持不变的模板文本</translation>
     </message>
 </context>
 <context>
@@ -6479,6 +6505,18 @@
     <message>
         <source>An azimuthal projection about the middle of the data shows them best on all sides.</source>
         <translation>以数据中心为中心的方位投影在各方向上效果最好。</translation>
+    </message>
+    <message>
+        <source>plain coordinates</source>
+        <translation>平面坐标</translation>
+    </message>
+    <message>
+        <source>Where on the globe the data are is not known.</source>
+        <translation>不知道数据位于地球何处。</translation>
+    </message>
+    <message>
+        <source>There are no features that say where the map is, so it shows the world.</source>
+        <translation>没有要素说明地图位置，因此显示全世界。</translation>
     </message>
 </context>
 <context>
@@ -7640,6 +7678,21 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>With what was pasted the text has %1 characters, and an element at most %2; paste a part of it.</source>
         <translation>加上粘贴的内容，文本有 %1 个字符，而一个元素最多 %2 个；请只粘贴其中一部分。</translation>
+    </message>
+</context>
+<context>
+    <name>Texts</name>
+    <message>
+        <source>No data are named; give a file of data.</source>
+        <translation>未指定数据；请给出数据文件。</translation>
+    </message>
+    <message>
+        <source>The coordinate system can&apos;t be taken: %1.</source>
+        <translation>无法采用该坐标系：%1。</translation>
+    </message>
+    <message>
+        <source>“%1” is no paper; take one of: %2.</source>
+        <translation>“%1”不是纸张；请选用：%2。</translation>
     </message>
 </context>
 <context>

@@ -2,12 +2,12 @@
 
 #include "DocumentSession.h"
 
+#include "layers/ReadingProgress.h"
 #include "newmap/NewMapDialog.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysUtility/FileSaver.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
@@ -126,13 +126,15 @@ QStringList DocumentFiles::createFromData() {
   if (!mayLeave()) return {};
   NewMapDialog dialog({}, &parent_);
   while (dialog.exec() == QDialog::Accepted) {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
     NewMapResult made;
-    session_.make([&](SysCarto::MapDocument& document) {
-      made = makeNewMap(dialog.request(), document);
-      return made.problem.isEmpty();
-    });
-    QApplication::restoreOverrideCursor();
+    {
+      ReadingProgress progress(parent_);
+      session_.make([&](SysCarto::MapDocument& document) {
+        made = makeNewMap(dialog.request(), document, progress.watch());
+        return made.problem.isEmpty() && !made.wasStopped;
+      });
+    }
+    if (made.wasStopped) continue;
     if (!made.problem.isEmpty()) {
       tell(QMessageBox::Critical, tr("The map was not made."), {made.problem});
       continue;
@@ -172,7 +174,10 @@ bool DocumentFiles::read(QString const& path) {
       !confirm(lock->holder(),
                tr("Open %1 to read it? Changes are then saved under another name.").arg(QFileInfo(path).fileName())))
     return false;
-  if (!session_.open(path)) {
+  ReadingProgress progress(parent_);
+  bool const isOpen = session_.open(path, progress.watch());
+  if (!isOpen && progress.wasStopped()) return false;
+  if (!isOpen) {
     tell(QMessageBox::Critical, tr("The document was not opened."), {session_.takeProblem()});
     return false;
   }

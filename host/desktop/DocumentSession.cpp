@@ -33,9 +33,9 @@ bool DocumentSession::settle(bool done) {
 bool DocumentSession::create() { return settle(document_.New(QString())); }
 
 // The digest is taken first: what changes while it is read then counts as changed.
-bool DocumentSession::open(QString const& path) {
+bool DocumentSession::open(QString const& path, SysCarto::ReadProgress const& progress) {
   QByteArray const digest = contentDigest(path);
-  if (!document_.Open(path)) return false;
+  if (!SysCarto::MapDocumentHost::open(document_, path, progress)) return false;
   fileDigest_ = digest;
   return settle(true);
 }

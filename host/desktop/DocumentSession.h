@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/layers/WatchedReading.h"
+
 #include <SysCarto/MapDocument.h>
 
 #include <QObject>
@@ -23,7 +25,7 @@ public:
 
   // Each answers false, with a sentence in `takeProblem` and the document unchanged, where it can't be done.
   bool create();
-  bool open(QString const& path);
+  bool open(QString const& path, SysCarto::ReadProgress const& progress = {});  ///< no problem where that stops it
   /// Lets something else give the document its content; it answers whether it did. What it has begun to is told, too.
   bool make(std::function<bool(SysCarto::MapDocument&)> const& fill);
   bool save();

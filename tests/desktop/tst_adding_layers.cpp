@@ -40,8 +40,8 @@ private slots:
     QCOMPARE(NewLayers::addNamed(session_.document(), world() + "|countries", warnings), QString());
     auto const map = layout().GetFocusMap();
     QVERIFY(map);
-    QCOMPARE(map->GetCoordinateSystem(), QString("EPSG:4326"));
-    QVERIFY(map->GetExtent()->GetXMin() < -180 && map->GetExtent()->GetXMin() > -230);
+    QCOMPARE(map->GetCoordinateSystem(), QString("EPSG:8857"));
+    QVERIFY(map->GetExtent()->GetXMin() < -1.6e7 && map->GetExtent()->GetXMin() > -2.5e7);
     auto const frame = layout().GetFocusMapFrameElement()->GetEnvelope();
     QCOMPARE(frame->GetXMin(), 1.0);
     QCOMPARE(frame->GetYMin(), 1.0);
@@ -59,14 +59,30 @@ private slots:
     QCOMPARE(map->GetCoordinateSystem(), QString());
     QVERIFY(map->GetExtent()->GetYMin() > 4990000);
     QCOMPARE(NewLayers::addNamed(session_.document(), path("mixed.geojson"), warnings), QString());
-    QCOMPARE(namesOf(*map), QString("mixed (areas), mixed (lines), points, mixed (points)"));
+    QCOMPARE(namesOf(*map), QString("Mixed (areas), Mixed (lines), Points, Mixed (points)"));
     QVector<int> counts;
     for (auto const& layer : map->GetLayers()) counts << ptr_cast<VectorLayer>(layer)->features().size();
     QCOMPARE(counts, (QVector<int>{1, 1, 2, 1}));
     auto const below = map->GetLayer(0);
-    auto const wanted = NewLayers::of(describeFile(path("points.csv")));
+    QDir(folder_.path()).mkdir("north");
+    QFile::copy(path("points.csv"), path("north/points.csv"));
+    auto const wanted = NewLayers::of(describeFile(path("north/points.csv")));
     QCOMPARE(NewLayers::add(session_.document(), wanted, below, {}, warnings), QString());
-    QCOMPARE(namesOf(*map), QString("mixed (areas), points, mixed (lines), points, mixed (points)"));
+    QCOMPARE(namesOf(*map), QString("Mixed (areas), Points (north), Mixed (lines), Points, Mixed (points)"));
+  }
+
+  // Whatever comes first: the land under its countries, these under the cities, each in its own look and with names.
+  void layersLieAndLookAsInANewMap() {
+    QStringList warnings;
+    for (char const* name : {"|countries", "|cities", "|land"})
+      QCOMPARE(NewLayers::addNamed(session_.document(), world() + name, warnings), QString());
+    auto const map = layout().GetFocusMap();
+    QCOMPARE(namesOf(*map), QString("Land, Countries, Cities"));
+    auto const countries = ptr_cast<VectorLayer>(map->GetLayer(1)), cities = ptr_cast<VectorLayer>(map->GetLayer(2));
+    QCOMPARE(countries->renderer().classes().size(), size_t(6));
+    QCOMPARE(countries->labelSettings().field, QString("name"));
+    QCOMPARE(cities->renderer().field(), QString("population"));
+    QCOMPARE(map->GetCoordinateSystem(), QString("EPSG:8857"));
   }
 
   void whatCanNotBeAddedChangesNothing_data() {

@@ -2,10 +2,10 @@
 #include "Test.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
-#include "host/desktop/newmap/DataSurvey.h"
-#include "host/desktop/layers/MapColors.h"
 #include "host/desktop/newmap/NewMap.h"
-#include "host/desktop/newmap/ProjectionChoice.h"
+#include "host/desktop/styling/DataSurvey.h"
+#include "host/desktop/styling/MapColors.h"
+#include "host/desktop/styling/ProjectionChoice.h"
 
 #include "host/SysCarto/maps/VectorLayer.h"
 
@@ -118,7 +118,7 @@ QString makeData(QString const& path, std::vector<MadeFeature> const& features, 
 LayerSurvey surveyOf(QString const& file) {
   QString problem;
   auto const layer = SysCarto::describeFile(file).layers.at(0);
-  auto const survey = surveyLayer({file, layer.name, QString(), QString()}, layer, problem);
+  auto const survey = surveyLayer({file, layer.name, QString(), QString()}, layer, {}, problem);
   return survey ? *survey : LayerSurvey();
 }
 
@@ -186,7 +186,7 @@ private slots:
       squares.push_back({texts[i].constData(), QStringLiteral("Square %1").arg(i), double(i)});
     LayerSurvey const survey = surveyOf(makeData(path("squares.gpkg"), squares));
     QCOMPARE(survey.count, 64);
-    auto const groups = groupsOfNeighbours(survey.source, "name", 5);
+    auto const groups = groupsOfNeighbours(survey, "name", 5);
     QHash<QString, int> groupOf;
     for (size_t group = 0; group < groups.size(); ++group)
       for (QString const& name : groups[group]) groupOf[name] = static_cast<int>(group);
@@ -252,6 +252,45 @@ private slots:
     SysCarto::MapDocument again;
     QVERIFY(again.Open(path("made.kdx")));
     QCOMPARE(SysCarto::MapDocumentHost::text(again), contentOf(path("made.kdx")));
+  }
+
+  // Sixty places of a town, and one without coordinates; then eleven far ones, which are no mistake.
+  void aMistakeDoesNotDecideTheExtent() {
+    std::vector<QByteArray> texts;
+    for (int i = 0; i < 60; ++i)
+      texts.push_back(QStringLiteral("POINT(%1 %2)").arg(9.9 + i % 8 * 0.01).arg(49.8 + i / 8 * 0.01).toUtf8());
+    auto const systemOf = [&](char const* name, int far) {
+      std::vector<MadeFeature> features;
+      for (QByteArray const& text : texts) features.push_back({text.constData(), "a", 1});
+      for (int i = 0; i < far; ++i) features.push_back({"POINT(0 0)", "b", 1});
+      SysCarto::MapDocument document;
+      NewMapRequest request;
+      request.data = {{makeData(path(name), features), QString()}};
+      auto const made = makeNewMap(request, document);
+      auto const map = document.GetMap(0);
+      bool const isTown = map->GetExtent()->GetWidth() < 20000 && map->GetExtent()->GetHeight() < 20000;
+      bool const isTold = made.explanation.join(" ").contains("lie far from all others");
+      return isTown && isTold ? map->GetCoordinateSystem() : isTold || isTown ? "half" : QString();
+    };
+    QCOMPARE(systemOf("mistake.gpkg", 1), QString("EPSG:32632"));
+    QCOMPARE(systemOf("places.gpkg", 11), QString());
+  }
+
+  void readingCanBeStopped() {
+    std::vector<MadeFeature> const many(60000, {"POINT(8 47)", "a", 1});
+    QString const file = makeData(path("many.gpkg"), many);
+    int asked = 0;
+    for (int stopAt = 1; stopAt < 4; ++stopAt) {
+      SysCarto::MapDocument document;
+      NewMapRequest request;
+      request.data = {{file, QString()}};
+      asked = 0;
+      auto const made = makeNewMap(request, document, [&](qint64, qint64) { return ++asked < stopAt; });
+      QCOMPARE(made.wasStopped, asked >= stopAt);
+      QCOMPARE(made.problem, QString());
+      QCOMPARE(!document.GetPageLayout(), made.wasStopped);
+    }
+    QVERIFY(asked > 0);
   }
 
   void whatCannotBeMadeIsTold_data() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/layers/WatchedReading.h"
+
 #include <SysCarto/Map.h>
 
 #include <QList>
@@ -20,6 +22,8 @@ struct DocumentContext {
   QSet<int> framedMaps;                 ///< of the data frames so far, by number: no two show the same map
   QStringList warnings;                 ///< sentences: what could not be read and was passed over
   int unreadableSources = 0;
+  ReadProgress progress;    ///< asked while sources are read; may be empty
+  bool wasStopped = false;  ///< by it; what comes then is not read any more
 };
 
 }  // namespace SysCarto

@@ -43,13 +43,15 @@ QJsonObject written(std::vector<LayerEntry> entries, QString& problem) {
   return writer.json();
 }
 
-std::vector<LayerEntry> made(QJsonObject const& json, Map const& map, QString& error, QStringList& warnings) {
+std::vector<LayerEntry> made(QJsonObject const& json, Map const& map, QString& error, QStringList& warnings,
+                             ReadProgress const& progress = {}) {
   std::vector<LayerEntry> entries;
   DocumentContext context;
+  context.progress = progress;
   SysUtility::JsonReader reader(json);
   listClip(reader, entries, map, context);
   error = reader.error();
-  if (!reader.ok()) return {};
+  if (!reader.ok() || context.wasStopped) return {};
   warnings += context.warnings;
   return entries;
 }
@@ -80,6 +82,11 @@ std::vector<LayerEntry> LayerClip::read(QByteArray const& text, Map const& map, 
   if (!wrong.isEmpty())
     problem = Texts::tr("The layers on the clipboard can't be read: %1; copy them anew.").arg(wrong);
   return entries;
+}
+
+std::vector<LayerEntry> LayerClip::make(QJsonArray const& layers, Map const& map, QString& problem,
+                                        QStringList& warnings, ReadProgress const& progress) {
+  return made({{"format", formatName}, {"version", version}, {"layers", layers}}, map, problem, warnings, progress);
 }
 
 std::vector<LayerEntry> LayerClip::copy(std::vector<LayerEntry> const& entries, Map const& map, QString& problem,

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "host/SysCarto/layers/WatchedReading.h"
 #include "host/SysCarto/maps/LayerTree.h"
 
 #include <QByteArray>
+#include <QJsonArray>
 
 namespace SysCarto {
 
@@ -19,6 +21,11 @@ struct SYSCARTO_EXPORT LayerClip {
   /// New layers with their data read for the map, in new groups; none, with a sentence in `problem`, where the text is
   /// not as `of` makes it. What could not be read of their data is told to `warnings`.
   static std::vector<LayerEntry> read(QByteArray const& text, Map const& map, QString& problem, QStringList& warnings);
+
+  /// Layers of what a document would store of them, with absolute paths; as `read`. None, and no problem, where
+  /// `progress` wants no more.
+  static std::vector<LayerEntry> make(QJsonArray const& layers, Map const& map, QString& problem, QStringList& warnings,
+                                      ReadProgress const& progress);
 
   /// The same without a text.
   static std::vector<LayerEntry> copy(std::vector<LayerEntry> const& entries, Map const& map, QString& problem,

@@ -125,8 +125,12 @@ void listSource(Fields& fields, SourceSettings& source) {
 }
 
 void open(VectorLayer& layer, SourceSettings const& source, Map const& map, DocumentContext& context) {
+  if (context.wasStopped) return;
   QStringList warnings;
-  QString const error = layer.open(source, map.GetCoordinateSystem(), warnings);
+  ReadProgress watched;
+  if (context.progress)
+    watched = [&](qint64 read, qint64 count) { return !(context.wasStopped = !context.progress(read, count)); };
+  QString const error = layer.open(source, map.GetCoordinateSystem(), warnings, watched);
   if (!error.isEmpty()) {
     ++context.unreadableSources;
     warnings.prepend(error);

@@ -105,7 +105,8 @@ struct MapDocument::Private {
   DocumentContext contextFor(QString const& file, bool relativePaths) const;
   std::optional<QByteArray> textFor(QString const& file, bool relativePaths, QString& problem) const;
   QString write(QString const& file, bool relativePaths, bool keepBackup) const;
-  bool read(QJsonObject const& json, QString const& newPath, QString const& folder);
+  bool read(QJsonObject const& json, QString const& newPath, QString const& folder, ReadProgress const& progress);
+  bool open(QString const& newPath, ReadProgress const& progress);
 };
 
 // The steps of another layout name elements that this one does not hold.
@@ -185,15 +186,18 @@ QString MapDocument::Private::write(QString const& file, bool relativePaths, boo
 }
 
 // Warnings and problems begin with the path, where there is one.
-bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath, QString const& folder) {
+bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath, QString const& folder,
+                                ReadProgress const& progress) {
   auto const about = [&newPath](QString const& sentence) {
     return newPath.isEmpty() ? sentence : aboutFile(newPath, sentence);
   };
   DocumentContent read;
   DocumentContext context;
   context.folder = folder;
+  context.progress = progress;
   SysUtility::JsonReader reader(json);
   read.list(reader, context);
+  if (context.wasStopped) return false;
   if (!reader.ok()) return failed(about(reader.error() + Texts::tr("; correct the file or open another one")));
 
   read.layout->ZoomToWholePage();
@@ -202,6 +206,12 @@ bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath,
   for (QString const& warning : context.warnings) warnings << about(warning);
   unreadableSources = context.unreadableSources;
   return true;
+}
+
+bool MapDocument::Private::open(QString const& newPath, ReadProgress const& progress) {
+  QString problem;
+  auto const json = SysUtility::readJsonFile(newPath, documentKind(), problem);
+  return json ? read(*json, newPath, folderOf(newPath), progress) : failed(problem);
 }
 
 MapDocument::MapDocument() : d(std::make_unique<Private>(this)) {}
@@ -216,11 +226,7 @@ bool MapDocument::New(QString const& path) {
   return true;
 }
 
-bool MapDocument::Open(QString const& path) {
-  QString problem;
-  auto const json = SysUtility::readJsonFile(path, documentKind(), problem);
-  return json ? d->read(*json, path, folderOf(path)) : d->failed(problem);
-}
+bool MapDocument::Open(QString const& path) { return d->open(path, {}); }
 
 bool MapDocument::Save(bool relativePaths, bool keepBackup) { return SaveAs(d->path, relativePaths, keepBackup); }
 
@@ -307,10 +313,15 @@ void MapDocumentHost::setPageLayout(MapDocument& document, _ptr_t<PageLayout> co
   document.d->setLayout(layout);
 }
 
-bool MapDocumentHost::read(MapDocument& document, QJsonObject const& json, QString const& folder) {
-  if (!document.d->read(json, QString(), folder)) return false;
+bool MapDocumentHost::read(MapDocument& document, QJsonObject const& json, QString const& folder,
+                           ReadProgress const& progress) {
+  if (!document.d->read(json, QString(), folder, progress)) return false;
   document.d->change.raise();
   return true;
+}
+
+bool MapDocumentHost::open(MapDocument& document, QString const& path, ReadProgress const& progress) {
+  return document.d->open(path, progress);
 }
 
 QByteArray MapDocumentHost::text(MapDocument const& document) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/layers/WatchedReading.h"
+
 #include <SysCarto/MapDocument.h>
 
 class QJsonObject;
@@ -14,7 +16,12 @@ struct SYSCARTO_EXPORT MapDocumentHost {
 
   /// Makes it a new document without a file, of what a file in that folder would hold; without a folder, of absolute
   /// paths. It counts as modified. Otherwise as `MapDocument::Open`; problems name no file.
-  static bool read(MapDocument& document, QJsonObject const& json, QString const& folder = QString());
+  /// Where `progress` wants no more, the document is as it was, and there is no problem to be told.
+  static bool read(MapDocument& document, QJsonObject const& json, QString const& folder = QString(),
+                   ReadProgress const& progress = {});
+
+  /// As `MapDocument::Open`, watched in the same way.
+  static bool open(MapDocument& document, QString const& path, ReadProgress const& progress);
 
   /// What a save to the document's file would write now; empty where there is nothing that can be saved.
   static QByteArray text(MapDocument const& document);

@@ -11,17 +11,13 @@
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
-#include <QThreadPool>
 
 #include <ogr_api.h>
 #include <ogr_feature.h>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
 
-#include <chrono>
 #include <cmath>
-#include <future>
 #include <limits>
 
 namespace SysCarto {
@@ -32,12 +28,14 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(FeatureReader)
 };
 
-constexpr std::chrono::milliseconds betweenQuestions(50);  // whether the reading goes on
-
 QString describeSource(SourceSettings const& source) {
   if (source.data == SourceSettings::Data::Globe) return Texts::tr("the globe");
   return source.layer.isEmpty() ? Texts::tr("the file “%1”").arg(source.file)
                                 : Texts::tr("layer “%2” of the file “%1”").arg(source.file, source.layer);
+}
+
+QString stopped(SourceSettings const& source) {
+  return Texts::tr("The reading of %1 was stopped.").arg(describeSource(source));
 }
 
 // A field of the layer, or none.
@@ -103,31 +101,8 @@ std::unique_ptr<OGRGeometry> markedPlace(OGRGeometry const& geometry) {
       OGRGeometry::FromHandle(OGR_G_PointOnSurface(OGRGeometry::ToHandle(const_cast<OGRGeometry*>(&geometry)))));
 }
 
-// Asks whoever waits, but not so often that it would cost time.
-class Watch {
-public:
-  Watch(OGRLayer& layer, ReadProgress const& progress)
-      : progress_(progress), count_(progress ? knownCount(layer) : -1) {
-    clock_.start();
-  }
-
-  bool goesOn() {
-    constexpr int betweenLooks = 256;
-    if (!progress_ || ++read_ % betweenLooks != 0 || clock_.elapsed() < betweenQuestions.count()) return true;
-    bool const isWanted = progress_(read_, count_);
-    clock_.restart();
-    return isWanted;
-  }
-
-private:
-  ReadProgress const& progress_;
-  qint64 const count_;
-  qint64 read_ = 0;
-  QElapsedTimer clock_;
-};
-
 void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition const& condition, Renderer const& renderer,
-             SourceSettings const& source, LabelFields const& labels, Watch& watch, ReadFeatures& result) {
+             SourceSettings const& source, LabelFields const& labels, ReadWatch& watch, ReadFeatures& result) {
   Field const classField(layer, renderer.field(), source, result.warnings);
   Field(layer, labels.text, source, result.warnings);
   LabelReader const labelReader(layer, labels, describeSource(source), result.warnings);
@@ -174,40 +149,15 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     result.warnings << Texts::tr("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
 }
 
-// To open a file can mean to read all of it, so it is done on another thread where somebody waits who may have enough
-// of it. What is given up is finished there for nobody.
-std::unique_ptr<DataSource> openWatched(SourceSettings const& source, ReadProgress const& progress,
-                                        ReadFeatures& result) {
-  if (!progress) return DataSource::open(source, result.error);
-  struct Opened {
-    std::unique_ptr<DataSource> data;
-    QString error;
-  };
-  auto const promise = std::make_shared<std::promise<Opened>>();
-  auto opened = promise->get_future();
-  QThreadPool::globalInstance()->start([promise, source] {
-    Opened own;
-    own.data = DataSource::open(source, own.error);
-    promise->set_value(std::move(own));
-  });
-  while (opened.wait_for(betweenQuestions) != std::future_status::ready) {
-    result.wasStopped = !progress(0, -1);
-    if (!result.wasStopped) continue;
-    result.error = Texts::tr("The reading of %1 was stopped.").arg(describeSource(source));
-    return nullptr;
-  }
-  Opened own = opened.get();
-  result.error = own.error;
-  return std::move(own.data);
-}
-
 }  // namespace
 
 ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem, Renderer const& renderer,
                           LabelFields const& labels, ReadProgress const& progress) {
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
-  auto const data = openWatched(source, progress, result);
+  auto const data = openWatched(source, progress, result.error);
+  result.wasStopped = !data && result.error.isEmpty();
+  if (result.wasStopped) result.error = stopped(source);
   if (!data) return result;
   if (data->layer().GetGeomType() == wkbNone) {
     result.error = placeless(data->layer(), source);
@@ -223,10 +173,10 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
     return result;
   }
   GdalErrors const errors;
-  Watch watch(data->layer(), progress);
+  ReadWatch watch(data->layer(), progress);
   readAll(data->layer(), *projector, condition, renderer, source, labels, watch, result);
   if (result.wasStopped) {
-    result.error = Texts::tr("The reading of %1 was stopped.").arg(describeSource(source));
+    result.error = stopped(source);
     return result;
   }
   result.error = data->joinProblem();

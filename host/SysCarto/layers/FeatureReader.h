@@ -1,13 +1,13 @@
 #pragma once
 
 #include "SourceSettings.h"
+#include "WatchedReading.h"
 
 #include <SysCarto/Export.h>
 
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <memory>
 
 namespace SysCarto {
@@ -35,10 +35,6 @@ struct ReadFeatures {
   QStringList warnings;                 ///< sentences
   bool wasStopped = false;
 };
-
-/// Told now and then how many features were read, of how many; −1 where the file does not say. Answers whether the
-/// reading goes on.
-using ReadProgress = std::function<bool(qint64 read, qint64 count)>;
 
 /// Reads the features that the condition admits, projected to `mapSystem` (empty: not projected), with what renderer
 /// and labels need of their attributes.

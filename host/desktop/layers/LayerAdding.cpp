@@ -1,6 +1,7 @@
 #include "LayerAdding.h"
 
 #include "AddLayersDialog.h"
+#include "ReadingProgress.h"
 
 #include "host/SysCarto/layers/LocalDataset.h"
 #include "host/desktop/DocumentSession.h"
@@ -8,21 +9,15 @@
 
 #include <SysCarto/Map.h>
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QProgressDialog>
 #include <QSettings>
-
-#include <algorithm>
 
 namespace {
 
 QString const folderKey = QStringLiteral("data/folder");
-constexpr int patienceMs = 400;  // before the progress is shown
-constexpr int thousandths = 1000;
 
 QString filters() {
   QStringList all, each;
@@ -39,28 +34,6 @@ QString filters() {
                       LayerAdding::tr("All files (*)")})
       .join(QStringLiteral(";;"));
 }
-
-// The progress of reading, as a dialog that can be cancelled.
-class Progress {
-public:
-  explicit Progress(QWidget& parent) : dialog_(LayerAdding::tr("Reading…"), LayerAdding::tr("Cancel"), 0, 0, &parent) {
-    dialog_.setWindowModality(Qt::WindowModal);
-    dialog_.setMinimumDuration(patienceMs);
-    dialog_.setAutoReset(false);
-    dialog_.setAutoClose(false);
-  }
-
-  bool goesOn(qint64 read, qint64 count) {
-    dialog_.setMaximum(count > 0 ? thousandths : 0);
-    if (read > 0) dialog_.setLabelText(LayerAdding::tr("%1 features read").arg(QLocale().toString(read)));
-    dialog_.setValue(count > 0 ? static_cast<int>(std::min<qint64>(thousandths - 1, thousandths * read / count)) : 0);
-    QApplication::processEvents();
-    return !dialog_.wasCanceled();
-  }
-
-private:
-  QProgressDialog dialog_;
-};
 
 }  // namespace
 
@@ -127,10 +100,8 @@ void LayerAdding::add(std::vector<NewLayer> const& wanted) {
   QStringList warnings;
   QString problem;
   {
-    Progress progress(parent_);
-    problem = NewLayers::add(
-        session_.document(), wanted, isThere ? chosen_ : nullptr,
-        [&](qint64 read, qint64 count) { return progress.goesOn(read, count); }, warnings);
+    ReadingProgress progress(parent_);
+    problem = NewLayers::add(session_.document(), wanted, isThere ? chosen_ : nullptr, progress.watch(), warnings);
   }
   views_.redraw();
   if (!problem.isEmpty()) complain(problem);

@@ -1,13 +1,16 @@
 #include "NewLayers.h"
 
-#include "LayerStyle.h"
-
+#include "host/SysCarto/document/LayerClip.h"
 #include "host/SysCarto/elements/EditorHost.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/PageHost.h"
 #include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysCarto/maps/ValueStep.h"
 #include "host/SysCarto/maps/VectorLayer.h"
+#include "host/desktop/styling/Bulk.h"
+#include "host/desktop/styling/LayerStyling.h"
+#include "host/desktop/styling/ProjectionChoice.h"
+#include "host/desktop/styling/ShownArea.h"
 
 #include <SysCarto/MapDocument.h>
 #include <SysCarto/PageLayout.h>
@@ -26,6 +29,7 @@ using SysCarto::Map;
 using SysCarto::VectorLayer;
 using SysUtility::_ptr_t;
 using SysUtility::make;
+using SysUtility::ptr_cast;
 
 namespace {
 
@@ -33,44 +37,31 @@ constexpr double usualMarginCm = 1;
 constexpr double room = 0.03;           // of the extent, at each of its sides
 constexpr double aboutOnePlace = 1000;  // metres or degrees × 10⁵ shown of a layer that holds one place
 
-struct Kind {
-  GeometryKind kind;
-  char const* name;
-  char const* condition;  // what OGR calls such geometries
-};
-constexpr Kind kindsOfMixed[] = {
-    {GeometryKind::Areas, QT_TRANSLATE_NOOP("NewLayers", "%1 (areas)"),
-     "OGR_GEOMETRY IN ('POLYGON', 'MULTIPOLYGON', 'CURVEPOLYGON', 'MULTISURFACE', 'POLYHEDRALSURFACE', 'TIN', "
-     "'TRIANGLE', 'GEOMETRYCOLLECTION')"},
-    {GeometryKind::Lines, QT_TRANSLATE_NOOP("NewLayers", "%1 (lines)"),
-     "OGR_GEOMETRY IN ('LINESTRING', 'MULTILINESTRING', 'CIRCULARSTRING', 'COMPOUNDCURVE', 'MULTICURVE')"},
-    {GeometryKind::Points, QT_TRANSLATE_NOOP("NewLayers", "%1 (points)"), "OGR_GEOMETRY IN ('POINT', 'MULTIPOINT')"},
-};
-
-int rankOf(GeometryKind kind) { return kind == GeometryKind::Points ? 2 : kind == GeometryKind::Lines ? 1 : 0; }
-
-QString nameOf(DataFile const& file, LayerDescription const& layer) {
-  return file.layers.size() == 1 ? QFileInfo(file.path).fileName().section(QLatin1Char('.'), 0, 0) : layer.name;
-}
-
 LayerGroups commonGroups(LayerGroups const& a, LayerGroups const& b) {
   LayerGroups common;
   for (int i = 0; i < std::min(a.size(), b.size()) && a[i] == b[i]; ++i) common << a[i];
   return common;
 }
 
+struct Styled {
+  _ptr_t<VectorLayer> layer;
+  DrawingOrder order;
+  int outliers;
+};
+
 // Between members of a group it belongs to the group, and above a chosen layer to all groups of that.
-void put(SysCarto::LayerList& list, _ptr_t<Layer> const& layer, _ptr_t<Layer> const& below) {
+void put(SysCarto::LayerList& list, Styled const& styled, _ptr_t<Layer> const& below) {
   int at = list.layers.indexOf(below) + 1;
   LayerGroups groups;
   if (at > 0) {
     groups = list.groups[at - 1];
   } else {
+    QString const system = list.map->GetCoordinateSystem();
     for (int i = 0; i < list.layers.size(); ++i)
-      if (rankOf(kindDrawn(*list.layers[i])) <= rankOf(kindDrawn(*layer))) at = i + 1;
+      if (!styled.order.isBelow(DrawingOrder::of(*list.layers[i], system))) at = i + 1;
     if (at > 0 && at < list.layers.size()) groups = commonGroups(list.groups[at - 1], list.groups[at]);
   }
-  list.layers.insert(at, layer);
+  list.layers.insert(at, styled.layer);
   list.groups.insert(at, groups);
 }
 
@@ -95,71 +86,95 @@ _ptr_t<SysCarto::MapFrameElement> frameWithinMargins(SysCarto::PageLayout const&
   return frame;
 }
 
-struct Read {
-  std::vector<_ptr_t<VectorLayer>> layers;
-  QStringList problems;
-  bool wasStopped = false;
+// The layers on their way into a map that may have none yet, nor a coordinate system.
+class Adding {
+public:
+  Adding(Map const& map, QSizeF const& frameCm, SysCarto::ReadProgress const& progress) : map_(map), frameCm_(frameCm) {
+    if (progress)
+      progress_ = [this, progress](qint64 read, qint64 count) { return !(wasStopped_ = !progress(read, count)); };
+  }
+
+  bool wasStopped() const { return wasStopped_; }
+  QStringList const& problems() const { return problems_; }
+
+  void survey(std::vector<NewLayer> const& wanted) {
+    for (NewLayer const& one : wanted) {
+      QString problem;
+      auto survey = surveyLayer(one.source, one.description, progress_, problem);
+      if (wasStopped_) return;
+      if (!survey) problems_ << problem;  // of one that is read in part, the reading tells
+      if (survey && survey->count > 0) surveys_.push_back(std::move(*survey));
+    }
+    place_ = DataPlace::of(surveys_);
+  }
+
+  DataPlace const& place() const { return place_; }
+  QString suitableSystem() const { return ProjectionChoice::forData(place_).definition; }
+
+  std::vector<Styled> read(QString const& system, QStringList& warnings) {
+    std::vector<Styled> layers;
+    auto const own = make<Map>();  // stands in for one that has not the system yet
+    own->SetCoordinateSystem(system);
+    for (StyledLayer const& styled : style(system)) {
+      QString problem;
+      auto const read = SysCarto::LayerClip::make({styled.json}, *own, problem, warnings, progress_);
+      if (wasStopped_) return {};
+      if (!problem.isEmpty()) problems_ << problem;
+      if (!read.empty()) layers.push_back({ptr_cast<VectorLayer>(read.front().layer), styled.order, styled.outliers});
+    }
+    std::stable_sort(layers.begin(), layers.end(),
+                     [](Styled const& one, Styled const& other) { return one.order.isBelow(other.order); });
+    return layers;
+  }
+
+private:
+  std::vector<StyledLayer> style(QString const& system) const {
+    auto const extent = map_.GetExtent();
+    QRectF const now(extent->GetXMin(), extent->GetYMin(), extent->GetWidth(), extent->GetHeight());
+    bool const isFirst = map_.GetLayerCount() == 0;
+    QRectF const shape = isFirst && place_.isKnown ? mapAreaOf(system, place_.area) : now;
+    ShownArea const shown = ShownArea::of(system, shape, frameCm_, isFirst ? room : 0);
+    LayerStyling styling(frameCm_.width() * frameCm_.height(), shown.isSmallScale ? shown.area : GlobeArea());
+    for (auto const& layer : map_.GetLayers()) styling.notice(*layer);
+    std::vector<StyledLayer> layers;
+    for (LayerSurvey const& survey : surveys_)
+      for (StyledLayer const& layer : styling.style(survey)) layers.push_back(layer);
+    return layers;
+  }
+
+  Map const& map_;
+  QSizeF const frameCm_;
+  SysCarto::ReadProgress progress_;
+  bool wasStopped_ = false;
+  QStringList problems_;
+  std::vector<LayerSurvey> surveys_;
+  DataPlace place_;
 };
 
-_ptr_t<VectorLayer> read(NewLayer const& wanted, QString const& system, QList<_ptr_t<Layer>> const& present,
-                         SysCarto::ReadProgress const& progress, Read& result, QStringList& warnings) {
-  auto const layer = make<VectorLayer>(SysCarto::makeSimpleRenderer(plainSymbol(wanted.kind, present)));
-  layer->SetName(wanted.name);
-  QStringList own;
-  QString const problem = layer->open(wanted.source, system, own, [&](qint64 count, qint64 of) {
-    return !(result.wasStopped = progress && !progress(count, of));
-  });
-  if (!problem.isEmpty() && layer->features().size() == 0) {
-    result.problems << problem;
-    return nullptr;
-  }
-  if (!problem.isEmpty()) own.prepend(problem);
-  warnings += own;
-  return layer;
+QSizeF sizeOf(SysCarto::MapFrameElement const* frame) {
+  auto const sides = frame ? frame->GetGeometry()->GetEnvelope() : nullptr;
+  constexpr double usualCm = 20;
+  return sides ? QSizeF(sides->GetWidth(), sides->GetHeight()) : QSizeF(usualCm, usualCm);
 }
 
-Read readAll(std::vector<NewLayer> const& wanted, QString const& system, QList<_ptr_t<Layer>> present,
-             SysCarto::ReadProgress const& progress, QStringList& warnings) {
-  Read result;
-  for (NewLayer const& one : wanted) {
-    auto const layer = read(one, system, present, progress, result, warnings);
-    if (result.wasStopped) break;
-    bool const isPartOfMixed = one.source.filter.startsWith(QLatin1String("OGR_GEOMETRY"));
-    if (!layer || (isPartOfMixed && layer->features().size() == 0)) continue;
-    present << layer;
-    result.layers.push_back(layer);
-  }
-  return result;
+SysGeometry::Box boxOf(Styled const& styled) {
+  SysCarto::FeatureStore const& store = styled.layer->features();
+  if (styled.outliers == 0) return store.box();
+  BoxSample boxes;
+  for (SysCarto::Feature const& feature : store.features) boxes.add(feature.box);
+  return Bulk::of(boxes).box;
 }
 
 void putSystem(Map& map, QString const& system) { map.SetCoordinateSystem(system); }
 
 }  // namespace
 
-QString NewLayers::conditionOf(GeometryKind kind) {
-  for (Kind const& row : kindsOfMixed)
-    if (row.kind == kind) return QLatin1String(row.condition);
-  return QString();
-}
-
 std::vector<NewLayer> NewLayers::of(DataFile const& file, LayerDescription const& layer) {
   if (layer.kind == GeometryKind::None) return {};
-  NewLayer one{{file.path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField},
-               layer.kind,
-               nameOf(file, layer),
-               layer.coordinateSystem};
+  NewLayer one{{file.path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField}, layer};
   bool const isTable = !layer.xField.isEmpty() || !layer.geometryField.isEmpty();
   if (isTable) one.source.coordinateSystem = layer.coordinateSystem;
-  if (layer.kind != GeometryKind::Mixed) return {one};
-  std::vector<NewLayer> parts;
-  for (Kind const& kind : kindsOfMixed) {
-    NewLayer part = one;
-    part.kind = kind.kind;
-    part.name = tr(kind.name).arg(one.name);
-    part.source.filter = conditionOf(kind.kind);
-    parts.push_back(part);
-  }
-  return parts;
+  return {one};
 }
 
 std::vector<NewLayer> NewLayers::of(DataFile const& file) {
@@ -176,26 +191,29 @@ QString NewLayers::add(SysCarto::MapDocument const& document, std::vector<NewLay
   auto const frame = layout->GetFocusMap() ? nullptr : frameWithinMargins(*layout);
   auto const map = frame ? frame->GetMap() : layout->GetFocusMap();
   bool const isFirst = map->GetLayerCount() == 0;
-  bool const takesSystem = isFirst && map->GetCoordinateSystem().isEmpty() && !wanted.empty();
-  QString const system = takesSystem ? wanted.front().coordinateSystem : map->GetCoordinateSystem();
-
-  Read const result = readAll(wanted, system, map->GetLayers(), progress, warnings);
-  if (result.wasStopped) return QString();
-  if (result.layers.empty())
-    return result.problems.isEmpty() ? tr("There is nothing to draw in these data.")
-                                     : result.problems.join(QLatin1Char(' '));
-  warnings += result.problems;
+  Adding adding(*map, sizeOf((frame ? frame : layout->GetFocusMapFrameElement()).get()), progress);
+  adding.survey(wanted);
+  if (adding.wasStopped()) return QString();
+  bool const takesSystem = isFirst && map->GetCoordinateSystem().isEmpty() && adding.place().hasFeatures;
+  QString const system = takesSystem ? adding.suitableSystem() : map->GetCoordinateSystem();
+  std::vector<Styled> const layers = adding.read(system, warnings);
+  if (adding.wasStopped()) return QString();
+  if (layers.empty())
+    return adding.problems().isEmpty() ? tr("There is nothing to draw in these data.")
+                                       : adding.problems().join(QLatin1Char(' '));
+  warnings += adding.problems();
+  if (isFirst && adding.place().outliers > 0) warnings << adding.place().outlierText();
 
   SysCarto::LayerList list = SysCarto::layersOf(*map);
   SysGeometry::Box extent;
   _ptr_t<Layer> lower = below;
-  for (auto const& layer : result.layers) {
-    put(list, layer, lower);
-    if (below) lower = layer;
-    extent.add(layer->features().box());
+  for (Styled const& styled : layers) {
+    put(list, styled, lower);
+    if (below) lower = styled.layer;
+    extent.add(boxOf(styled));
   }
-  QString const step = result.layers.size() == 1 ? tr("Add the layer “%1”").arg(result.layers.front()->GetName())
-                                                 : tr("Add %1 layers").arg(result.layers.size());
+  QString const step = layers.size() == 1 ? tr("Add the layer “%1”").arg(layers.front().layer->GetName())
+                                          : tr("Add %1 layers").arg(layers.size());
   SysCarto::OneStep const whole(step);
   if (frame) {
     SysFramework::EditorOperation const operation(step);

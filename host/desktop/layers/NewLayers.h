@@ -13,32 +13,27 @@ namespace SysCarto {
 class MapDocument;
 }
 
-/// A layer that a map may be given.
+/// A layer of data that a map may be given.
 struct NewLayer {
   SysCarto::SourceSettings source;
-  SysCarto::GeometryKind kind;
-  QString name;
-  QString coordinateSystem;  ///< that of the source; empty where it is not known
+  SysCarto::LayerDescription description;
 };
 
-/// How a layer of data becomes one of a map.
+/// How a layer of data becomes one of a map: as in a new map that is made of data.
 struct NewLayers {
   Q_DECLARE_TR_FUNCTIONS(NewLayers)
 
 public:
-  /// One for each layer of the file that has geometries, or one for each kind of geometry of a layer that mixes them,
-  /// since a symbol draws one kind.
+  /// One for each layer of the file that has geometries.
   static std::vector<NewLayer> of(SysCarto::DataFile const& file);
   static std::vector<NewLayer> of(SysCarto::DataFile const& file, SysCarto::LayerDescription const& layer);
 
-  /// The condition that admits geometries of a kind: areas, lines or points, collections counting as areas.
-  static QString conditionOf(SysCarto::GeometryKind kind);
-
-  /// Adds them to the focus map as one step of the history: above a layer of it, or where that is empty, points above
-  /// lines above areas. A map without layers shows what the first of them holds, in its coordinate system where it has
-  /// none itself; on a page without a map, a data frame that fills the margins comes first. Answers a sentence, with
-  /// nothing changed, or an empty text, also where `progress` wanted no more; what could not be added beside others, or
-  /// else is to be said, is added to `warnings`.
+  /// Adds them to the focus map as one step of the history: above a layer of it, or where that is empty, among the
+  /// others by `DrawingOrder`. Each looks as a new map would show it, in colours that the map has not yet. A map
+  /// without layers shows all that they hold, in a coordinate system that suits it where it has none itself; on a page
+  /// without a map, a data frame that fills the margins comes first. Answers a sentence, with nothing changed, or an
+  /// empty text, also where `progress` wanted no more; what could not be added beside others, or else is to be said, is
+  /// added to `warnings`.
   static QString add(SysCarto::MapDocument const& document, std::vector<NewLayer> const& wanted,
                      SysUtility::_ptr_t<SysCarto::Layer> const& below, SysCarto::ReadProgress const& progress,
                      QStringList& warnings);

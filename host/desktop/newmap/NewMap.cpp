@@ -1,11 +1,8 @@
 #include "NewMap.h"
-#include "LayerStyling.h"
-#include "host/desktop/layers/MapColors.h"
+
+#include "MapTemplate.h"
 #include "PageComposition.h"
-#include "PlaceLattice.h"
-#include "ProjectionChoice.h"
 #include "RoundScale.h"
-#include "Theme.h"
 
 #include "host/SysCarto/document/ElementClip.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
@@ -13,7 +10,11 @@
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GroundScale.h"
-#include "host/SysUtility/JsonFile.h"
+#include "host/desktop/styling/Bulk.h"
+#include "host/desktop/styling/LayerStyling.h"
+#include "host/desktop/styling/MapColors.h"
+#include "host/desktop/styling/ProjectionChoice.h"
+#include "host/desktop/styling/ShownArea.h"
 
 #include <SysCarto/MapFrameElement.h>
 #include <SysCarto/MapSurroundFrame.h>
@@ -39,24 +40,36 @@ using SysUtility::ptr_cast;
 
 namespace {
 
-constexpr double smallScale = 1500000;                   // from which on a graticule helps
 constexpr double margin = 0.04;                          // of the extent, on each side
 QLatin1String const mark("the map that is being made");  // its name until it is found among those of a template
 constexpr double globeMargin = 0.005;
 constexpr double leastMetres = 2000;  // that a map shows, of a single place
-constexpr double cmPerMetre = 100, metresPerDegree = 111200;
+
+Box boxOf(VectorLayer const& layer, bool hasOutliers) {
+  if (!hasOutliers) return layer.features().box();
+  BoxSample boxes;
+  for (SysCarto::Feature const& feature : layer.features().features) boxes.add(feature.box);
+  return Bulk::of(boxes).box;
+}
 
 class NewMap {
   Q_DECLARE_TR_FUNCTIONS(NewMap)
 
 public:
-  NewMap(NewMapRequest const& request, MapDocument& document) : request_(request), document_(document) {}
+  NewMap(NewMapRequest const& request, MapDocument& document, SysCarto::ReadProgress const& progress)
+      : request_(request), document_(document) {
+    if (progress)
+      progress_ = [this, progress](qint64 read, qint64 count) {
+        return !(result_.wasStopped = result_.wasStopped || !progress(read, count));
+      };
+  }
   NewMapResult run();
 
 private:
   using Step = bool (NewMap::*)();
 
   // In this order. Each answers whether to go on; if not, there is a problem.
+  bool check();
   bool survey();
   bool chooseSystem();
   bool choosePage();
@@ -73,12 +86,11 @@ private:
   bool hasSea() const;
   QJsonObject mapJson() const;
   QJsonObject pageJson() const;
-  bool takeTemplate(QJsonObject& json);
+  QJsonObject documentJson();
   _ptr_t<MapFrameElement> frame() const;
   void placeFrame(QRectF const& place);
   QJsonArray legendEntries() const;
   QRectF projectedArea() const;
-  GlobeArea shownArea(QSizeF const& frame) const;
   Box drawnBy(QJsonObject const& surround);
   QSizeF legendSize(QSizeF const& within);
   QJsonObject aligned(QJsonObject surround);
@@ -88,9 +100,10 @@ private:
   NewMapRequest const request_;
   MapDocument& document_;
   NewMapResult result_;
+  SysCarto::ReadProgress progress_;
+  std::optional<MapTemplate> template_;
   std::vector<LayerSurvey> surveys_;
-  GlobeArea area_;
-  bool isPlaced_ = false;  // whether it is known where on the globe the data are
+  DataPlace place_;
   ProjectionChoice system_{};
   QSizeF page_;
   std::vector<StyledLayer> layers_;
@@ -104,14 +117,20 @@ bool NewMap::fail(QString const& problem) {
 }
 
 NewMapResult NewMap::run() {
-  for (Step const step : {&NewMap::survey, &NewMap::chooseSystem, &NewMap::choosePage, &NewMap::style, &NewMap::open,
-                          &NewMap::showAll, &NewMap::compose})
+  for (Step const step : {&NewMap::check, &NewMap::survey, &NewMap::chooseSystem, &NewMap::choosePage, &NewMap::style,
+                          &NewMap::open, &NewMap::showAll, &NewMap::compose})
     if (!(this->*step)()) break;
   return result_;
 }
 
+bool NewMap::check() {
+  QString const problem = request_.problem();
+  if (!problem.isEmpty() || request_.templateFile.isEmpty()) return problem.isEmpty() || fail(problem);
+  template_.emplace();
+  return template_->read(request_.templateFile, result_.problem);
+}
+
 bool NewMap::survey() {
-  if (request_.data.isEmpty()) return fail(tr("No data are named; give a file of data."));
   for (NewMapRequest::Data const& data : request_.data) {
     QFileInfo const named(data.file);
     QString const path = named.absoluteFilePath();
@@ -122,11 +141,7 @@ bool NewMap::survey() {
     return fail(request_.where.isEmpty()
                     ? tr("There is nothing to draw: no layer of the data has geometries.")
                     : tr("There is nothing to draw: the filter “%1” suits no layer of the data.").arg(request_.where));
-  GlobeExtent extent;
-  for (LayerSurvey const& layer : surveys_)
-    if (!layer.extent.isEmpty()) extent.add(layer.extent.area());
-  isPlaced_ = !extent.isEmpty();
-  area_ = isPlaced_ ? extent.area() : GlobeArea{-180, -90, 180, 90};
+  place_ = DataPlace::of(surveys_);
   return true;
 }
 
@@ -142,7 +157,8 @@ bool NewMap::surveyFile(QString const& file, QString const& layer) {
     isKnown = true;
     QString problem;
     SysCarto::SourceSettings const source{file, one.name, request_.where, QString()};
-    auto const survey = surveyLayer(source, one, problem);
+    auto const survey = surveyLayer(source, one, progress_, problem);
+    if (result_.wasStopped) return false;
     if (!survey && request_.where.isEmpty()) return fail(problem);
     if (!survey) {
       result_.warnings << tr("The layer “%1” is left out. %2").arg(one.name, problem);
@@ -160,39 +176,22 @@ bool NewMap::surveyFile(QString const& file, QString const& layer) {
 }
 
 bool NewMap::chooseSystem() {
-  if (!request_.coordinateSystem.isEmpty()) {
-    QString const problem = SysCarto::checkCoordinateSystem(request_.coordinateSystem);
-    if (!problem.isEmpty()) return fail(tr("The coordinate system can't be taken: %1.").arg(problem));
-    auto const system = SysCarto::makeCoordinateSystem(request_.coordinateSystem);
-    system_ = {request_.coordinateSystem, QString::fromUtf8(system->GetName()), tr("As asked for."),
-               isPlaced_ && area_.width() > 300 && area_.height() > 100};
-  } else {
-    QStringList own;
-    for (LayerSurvey const& layer : surveys_)
-      if (!own.contains(layer.description.coordinateSystem)) own << layer.description.coordinateSystem;
-    bool const hasFeatures =
-        std::any_of(surveys_.begin(), surveys_.end(), [](LayerSurvey const& one) { return one.count > 0; });
-    if (!isPlaced_ && hasFeatures)
-      system_ = {QString(), tr("plain coordinates"), tr("Where on the globe the data are is not known."), false};
-    else
-      system_ = ProjectionChoice::forArea(area_, own);
-    if (!hasFeatures) system_.reason = tr("There are no features that say where the map is, so it shows the world.");
-  }
+  QString const& wanted = request_.coordinateSystem;
+  if (!wanted.isEmpty())
+    system_ = {wanted, QString::fromUtf8(SysCarto::makeCoordinateSystem(wanted)->GetName()), tr("As asked for."),
+               place_.isKnown && place_.area.width() > 300 && place_.area.height() > 100};
+  else
+    system_ = ProjectionChoice::forData(place_);
   explain(tr("Coordinate system %1 (%2)").arg(system_.definition, system_.name), system_.reason);
+  if (place_.outliers > 0) explain(tr("Extent of the bulk of the data"), place_.outlierText());
   return true;
 }
 
 bool NewMap::choosePage() {
   SysCarto::FormInfo form;
   QString const wanted = request_.paper.isEmpty() ? QStringLiteral("A4") : request_.paper;
-  QStringList names;
-  for (SysCarto::PageFormID id = 0; SysCarto::Paper::GetFormInfo(id, form); ++id) {
-    if (form.key == QLatin1String("Custom")) continue;
-    names << form.key;
+  for (SysCarto::PageFormID id = 0; SysCarto::Paper::GetFormInfo(id, form); ++id)
     if (form.key.compare(wanted, Qt::CaseInsensitive) == 0) page_ = {form.width, form.height};
-  }
-  if (page_.isEmpty())
-    return fail(tr("“%1” is no paper; take one of: %2.").arg(wanted, names.join(QStringLiteral(", "))));
   QRectF const shape = projectedArea();
   SysGeometry::Box plain;
   for (LayerSurvey const& layer : surveys_) plain.add(layer.box);
@@ -201,7 +200,7 @@ bool NewMap::choosePage() {
                        : shape.isValid() ? shape.width() > 1.05 * shape.height()
                                          : true;
   if (request_.isLandscape.value_or(isBroad) != (page_.width() > page_.height())) page_.transpose();
-  if (!request_.templateFile.isEmpty() || !(isPlaced_ || isPlain)) return true;
+  if (template_ || !(place_.isKnown || isPlain)) return true;
   QString const lies = page_.width() > page_.height() ? tr("landscape") : tr("portrait");
   explain(tr("Page %1, %2").arg(wanted, lies), request_.isLandscape ? tr("As asked for.")
                                                : isBroad            ? tr("The data are broader than high.")
@@ -211,44 +210,20 @@ bool NewMap::choosePage() {
 
 // What the area is on the map, in map units; not valid where that can't be told.
 QRectF NewMap::projectedArea() const {
-  auto const system = SysCarto::makeCoordinateSystem(system_.definition);
-  auto const globe = system && isPlaced_ && !isGlobe() ? SysCarto::globeOf(*system) : nullptr;
-  Box all;
-  forEachPlace(globe.get(), system.get(), {{area_.west, area_.south}, QPointF(area_.east, area_.north)},
-               [&](double x, double y) {
-                 all.add({x, y, x, y});
-               });
-  return all.xmin <= all.xmax ? QRectF(QPointF(all.xmin, all.ymin), QPointF(all.xmax, all.ymax)) : QRectF();
-}
-
-// The part of the globe that the frame shows, which is more than the area of the data.
-GlobeArea NewMap::shownArea(QSizeF const& frame) const {
-  QRectF shape = projectedArea();
-  if (!shape.isValid()) return area_;
-  double const scale = (1 + 2 * margin) * std::max(shape.width() / frame.width(), shape.height() / frame.height());
-  QPointF const centre = shape.center();
-  shape.setSize(frame * scale);
-  shape.moveCenter(centre);
-  auto const system = SysCarto::makeCoordinateSystem(system_.definition);
-  auto const globe = SysCarto::globeOf(*system);
-  GlobeExtent shown;
-  forEachPlace(system.get(), globe.get(), shape, [&](double x, double y) { shown.addPlace(x, y); });
-  return shown.isEmpty() ? area_ : shown.area();
+  return place_.isKnown && !isGlobe() ? mapAreaOf(system_.definition, place_.area) : QRectF();
 }
 
 bool NewMap::style() {
-  QRectF const place = PageComposition(page_).frame(false);
-  auto const system = SysCarto::makeCoordinateSystem(system_.definition);
-  QRectF const shape = projectedArea();
-  double const metres = shape.width() * (system && system->IsProjected() ? system->GetLinearUnits() : metresPerDegree);
-  hasGraticule_ = system && (isGlobe() || metres * cmPerMetre / place.width() > smallScale);
-  LayerStyling styling(place.width() * place.height(), hasGraticule_ ? shownArea(place.size()) : GlobeArea());
+  QRectF const place = template_ ? template_->frame() : PageComposition(page_).frame(false);
+  ShownArea shown = ShownArea::of(system_.definition, projectedArea(), place.size(), margin);
+  if (isGlobe()) shown = {place_.area, true};
+  hasGraticule_ = shown.isSmallScale;
+  LayerStyling styling(place.width() * place.height(), hasGraticule_ ? shown.area : GlobeArea());
+  if (isGlobe()) styling.reserve(tr("Sea"));
   for (LayerSurvey const& survey : surveys_)
     for (StyledLayer const& layer : styling.style(survey)) layers_.push_back(layer);
-  std::stable_sort(layers_.begin(), layers_.end(), [](StyledLayer const& one, StyledLayer const& other) {
-    bool const areAreas = one.height == 0 && other.height == 0;  // large ones, which are few, below
-    return areAreas ? one.count < other.count : one.height < other.height;
-  });
+  std::stable_sort(layers_.begin(), layers_.end(),
+                   [](StyledLayer const& one, StyledLayer const& other) { return one.order.isBelow(other.order); });
   for (StyledLayer const& layer : layers_)
     explain(tr("Layer “%1”").arg(layer.name), layer.reasons.join(QStringLiteral("; ")));
   if (hasSea()) explain(tr("Sea around the land"), tr("The data hold all the land that the map shows."));
@@ -288,66 +263,34 @@ QJsonObject NewMap::pageJson() const {
   return page;
 }
 
-// The map goes into the largest data frame, and the title to the largest text.
-bool NewMap::takeTemplate(QJsonObject& json) {
-  QString problem;
-  auto const read =
-      SysUtility::readJsonFile(request_.templateFile, {tr("template"), QStringLiteral(".kdx"), 256}, problem);
-  if (!read) return fail(problem);
-  json = *read;
-  QJsonArray elements = json.value("elements").toArray(), maps = json.value("maps").toArray();
-  int mapNumber = -1, titleAt = -1;
-  double largest = 0, boldest = 0;
-  for (int i = 0; i < elements.size(); ++i) {
-    QJsonObject const element = elements.at(i).toObject();
-    QJsonArray const sides = element.value("rectangle").toArray();
-    double const area =
-        (sides.at(2).toDouble() - sides.at(0).toDouble()) * (sides.at(3).toDouble() - sides.at(1).toDouble());
-    if (element.value("type") == QLatin1String("dataFrame") && area > largest)
-      largest = area, mapNumber = element.value("map").toInt();
-    double const size = element.value("symbol").toObject().value("size").toDouble(10);
-    if (element.value("type") == QLatin1String("text") && size > boldest) boldest = size, titleAt = i;
+QJsonObject NewMap::documentJson() {
+  if (template_) {
+    QJsonObject const json = template_->filled(mapJson(), legendEntries(), title());
+    QStringList const kept = template_->keptTexts();
+    if (!kept.isEmpty())
+      explain(tr("Texts of the template that stay as they are"), kept.join(QStringLiteral("; ")).simplified());
+    return json;
   }
-  if (mapNumber < 0 || mapNumber >= maps.size())
-    return fail(tr("%1: the template has no data frame for the map; give it one.").arg(request_.templateFile));
-  maps.replace(mapNumber, mapJson());
-  json.insert("maps", maps);
-  if (titleAt >= 0) {
-    QJsonObject element = elements.at(titleAt).toObject();
-    element.insert("text", title());
-    elements.replace(titleAt, element);
-  }
-  for (int i = 0; i < elements.size(); ++i) {
-    QJsonObject element = elements.at(i).toObject(), content = element.value("surround").toObject();
-    if (content.value("kind") != QLatin1String("legend") || content.value("map").toInt(-1) != mapNumber) continue;
-    content.insert("entries", legendEntries());
-    content.insert("others", "omit");
-    element.insert("surround", content);
-    elements.replace(i, element);
-  }
-  json.insert("elements", elements);
-  return true;
+  PageComposition const page(page_);
+  return {{"format", "plotvane-document"},
+          {"version", 1},
+          {"page", pageJson()},
+          {"maps", QJsonArray{mapJson()}},
+          {"elements", QJsonArray{page.dataFrame(page.frame(hasGraticule_), isGlobe(),
+                                                 hasSea() ? MapColors::sea : MapColors::ground, hasGraticule_)}}};
 }
 
 bool NewMap::open() {
-  PageComposition const page(page_);
-  QJsonObject json{
-      {"format", "plotvane-document"},
-      {"version", 1},
-      {"page", pageJson()},
-      {"maps", QJsonArray{mapJson()}},
-      {"elements", QJsonArray{page.dataFrame(page.frame(hasGraticule_), isGlobe(),
-                                             hasSea() ? MapColors::sea : MapColors::ground, hasGraticule_)}}};
-  if (!request_.templateFile.isEmpty() && !takeTemplate(json)) return false;
-  QString const folder = request_.templateFile.isEmpty() ? QString() : QFileInfo(request_.templateFile).absolutePath();
-  if (!MapDocumentHost::read(document_, json, folder)) return fail(MapDocumentHost::takeLastFailure());
+  QJsonObject const json = documentJson();
+  QString const folder = template_ ? QFileInfo(request_.templateFile).absolutePath() : QString();
+  bool const isRead = MapDocumentHost::read(document_, json, folder, progress_);
+  if (!isRead) return !result_.wasStopped && fail(MapDocumentHost::takeLastFailure());
   if (MapDocumentHost::unreadableSources(document_) > 0) return fail(document_.GetWarnings().join(QLatin1Char('\n')));
   result_.warnings << document_.GetWarnings();
   QList<_ptr_t<SysCarto::Map>> maps;
   document_.GetMaps(maps);
   for (auto const& map : qAsConst(maps))
     if (map->GetName() == mark) map_ = map;
-  if (!map_) return fail(tr("%1: the template has no data frame for the map; give it one.").arg(request_.templateFile));
   map_->SetName(title());
   return true;
 }
@@ -362,8 +305,12 @@ _ptr_t<MapFrameElement> NewMap::frame() const {
 // All of the data, at a scale that a person would write.
 bool NewMap::showAll() {
   Box all;
-  for (auto const& layer : map_->GetLayers())
-    if (auto const vector = ptr_cast<VectorLayer>(layer)) all.add(vector->features().box());
+  for (auto const& layer : map_->GetLayers()) {
+    bool const hasOutliers = std::any_of(layers_.begin(), layers_.end(), [&](StyledLayer const& styled) {
+      return styled.name == layer->GetName() && styled.outliers > 0;
+    });
+    if (auto const vector = ptr_cast<VectorLayer>(layer)) all.add(boxOf(*vector, hasOutliers));
+  }
   if (!(all.xmin <= all.xmax)) all = {-1, -1, 1, 1};
   double const x = (all.xmin + all.xmax) / 2, y = (all.ymin + all.ymax) / 2;
   double const unit = SysCarto::GroundScale(system_.definition).metresPerUnit(x, y, 1e-5 * std::max(std::abs(x), 1.0));
@@ -457,7 +404,7 @@ bool NewMap::isFree(QRectF const& place) const {
 }
 
 bool NewMap::compose() {
-  if (!request_.templateFile.isEmpty()) return true;
+  if (template_) return true;
   PageComposition const page(page_);
   QRectF place = page.frame(hasGraticule_);
   QSizeF const size = legendSize(page.roomForLegend(isGlobe()));
@@ -493,4 +440,21 @@ bool NewMap::compose() {
 
 }  // namespace
 
-NewMapResult makeNewMap(NewMapRequest const& request, MapDocument& document) { return NewMap(request, document).run(); }
+QString NewMapRequest::problem() const {
+  struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(NewMap)
+  };
+  if (data.isEmpty()) return Texts::tr("No data are named; give a file of data.");
+  QString const wrong = SysCarto::checkCoordinateSystem(coordinateSystem);
+  if (!wrong.isEmpty()) return Texts::tr("The coordinate system can't be taken: %1.").arg(wrong);
+  SysCarto::FormInfo form;
+  QStringList names;
+  for (SysCarto::PageFormID id = 0; SysCarto::Paper::GetFormInfo(id, form); ++id)
+    if (form.key != QLatin1String("Custom")) names << form.key;
+  if (paper.isEmpty() || names.contains(paper, Qt::CaseInsensitive)) return QString();
+  return Texts::tr("“%1” is no paper; take one of: %2.").arg(paper, names.join(QStringLiteral(", ")));
+}
+
+NewMapResult makeNewMap(NewMapRequest const& request, MapDocument& document, SysCarto::ReadProgress const& progress) {
+  return NewMap(request, document, progress).run();
+}

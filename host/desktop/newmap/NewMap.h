@@ -1,7 +1,10 @@
 #pragma once
 
+#include "host/SysCarto/layers/WatchedReading.h"
+
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 #include <optional>
 
@@ -28,13 +31,18 @@ struct NewMapRequest {
   QString coordinateSystem;
   QString templateFile;  ///< a document whose page, and all that lies on it, is taken
   QString where;         ///< a condition on the features, for the layers that have its fields
+
+  /// Why nothing can be made of it, whatever the data are: a sentence, or an empty text.
+  QString problem() const;
 };
 
 struct NewMapResult {
   QString problem;          ///< a sentence, and the document is as it was; empty where the map was made
   QStringList explanation;  ///< what was chosen, and why
   QStringList warnings;     ///< sentences
+  bool wasStopped = false;  ///< by the progress; the document is as it was
 };
 
 /// Makes the document a page with one map that shows all of the data, and what explains it. It has no file yet.
-NewMapResult makeNewMap(NewMapRequest const& request, SysCarto::MapDocument& document);
+NewMapResult makeNewMap(NewMapRequest const& request, SysCarto::MapDocument& document,
+                        SysCarto::ReadProgress const& progress = {});

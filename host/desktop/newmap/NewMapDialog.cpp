@@ -1,7 +1,7 @@
 #include "NewMapDialog.h"
-#include "DataSurvey.h"
 
 #include "host/desktop/layers/DataReport.h"
+#include "host/desktop/styling/DataSurvey.h"
 
 #include "host/SysCarto/layers/DataCatalogue.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"

@@ -20,8 +20,6 @@ struct Texts {
 
 // Before minutes are spent on the data.
 QString problemOfPlace(QString const& path, bool mayReplace) {
-  if (!path.endsWith(QLatin1String(".kdx"), Qt::CaseInsensitive))
-    return Texts::tr("new: \"%1\" is no name of a map document; name a .kdx file.").arg(path);
   if (QFileInfo::exists(path) && !mayReplace)
     return Texts::tr("%1: there is such a file; name another one, or pass --force to replace it.").arg(path);
   return SysUtility::FileSaver::checkPlace(path);
@@ -78,8 +76,10 @@ ExitStatus runNew(Subcommand const& self, QStringList const& arguments) {
   request.coordinateSystem = parser.value(crs);
   request.templateFile = parser.value(pattern);
   request.where = parser.value(where);
-  QString wrong;
-  if (request.data.isEmpty()) wrong = Texts::tr("new: data are missing; name a file with --data.");
+  QString wrong =
+      request.data.isEmpty() ? Texts::tr("new: data are missing; name a file with --data.") : request.problem();
+  if (!operands.first().endsWith(QLatin1String(".kdx"), Qt::CaseInsensitive))
+    wrong = Texts::tr("new: \"%1\" is no name of a map document; name a .kdx file.").arg(operands.first());
   if (parser.isSet(landscape) && parser.isSet(portrait))
     wrong = Texts::tr("new: --landscape and --portrait exclude each other.");
   bool const hasPage = parser.isSet(paper) || parser.isSet(landscape) || parser.isSet(portrait);

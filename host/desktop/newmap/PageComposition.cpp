@@ -1,6 +1,7 @@
 #include "PageComposition.h"
-#include "host/desktop/layers/MapColors.h"
-#include "Theme.h"
+
+#include "host/desktop/styling/MapColors.h"
+#include "host/desktop/styling/Theme.h"
 
 #include <SysDisplay/Units.h>
 

@@ -1,16 +1,18 @@
 #include "LayerStyling.h"
+
 #include "FieldChoice.h"
 #include "LandMask.h"
-#include "host/desktop/layers/MapColors.h"
+#include "MapColors.h"
 #include "Theme.h"
 
-#include "host/desktop/layers/DataReport.h"
-#include "host/desktop/layers/NewLayers.h"
-
 #include "host/SysCarto/layers/Classify.h"
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysDisplay/SymbolVariation.h"
 #include "host/SysUtility/JsonFields.h"
+#include "host/desktop/layers/DataReport.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 
@@ -32,13 +34,16 @@ constexpr int rampClasses = 5, sizeClasses = 4;
 
 struct KindRow {
   GeometryKind kind;
-  double room;  // what a feature takes of the page, against the others
-  int height;
+  double room;            // what a feature takes of the page, against the others
+  char const* condition;  // what OGR calls such geometries
 };
 constexpr KindRow kindRows[] = {
-    {GeometryKind::Areas, 1.2, 0},
-    {GeometryKind::Lines, 1.6, 1},
-    {GeometryKind::Points, 0.7, 2},
+    {GeometryKind::Areas, 1.2,
+     "OGR_GEOMETRY IN ('POLYGON', 'MULTIPOLYGON', 'CURVEPOLYGON', 'MULTISURFACE', 'POLYHEDRALSURFACE', 'TIN', "
+     "'TRIANGLE', 'GEOMETRYCOLLECTION')"},
+    {GeometryKind::Lines, 1.6,
+     "OGR_GEOMETRY IN ('LINESTRING', 'MULTILINESTRING', 'CIRCULARSTRING', 'COMPOUNDCURVE', 'MULTICURVE')"},
+    {GeometryKind::Points, 0.7, "OGR_GEOMETRY IN ('POINT', 'MULTIPOINT')"},
 };
 
 KindRow const& rowOf(GeometryKind kind) {
@@ -147,7 +152,9 @@ std::optional<Symbolized> classified(Material const& of, SysCarto::ClassifySetti
   SysCarto::RendererSettings now;
   SysUtility::JsonReader reader(simple(symbol));
   now.list(reader);
-  auto classes = SysCarto::classify(SysCarto::readValues(of.source, wanted.field), now, wanted);
+  FieldSurvey const* const field = of.survey.field(wanted.field);
+  auto const known = field ? field->numbersOf(of.survey.count) : std::nullopt;
+  auto classes = classify(known ? *known : SysCarto::readValues(of.source, wanted.field), now, wanted);
   if (!reader.ok() || !classes.problem.isEmpty() || classes.renderer.classes.size() < 2) return std::nullopt;
   SysUtility::JsonWriter writer;
   classes.renderer.list(writer);
@@ -155,15 +162,14 @@ std::optional<Symbolized> classified(Material const& of, SysCarto::ClassifySetti
   return Symbolized{writer.json(), reason.arg(wanted.field)};
 }
 
-std::optional<Symbolized> bySize(Material const& of, FieldSurvey const& field) {
+std::optional<Symbolized> bySize(Material const& of, FieldSurvey const& field, char const* color) {
   SysCarto::ClassifySettings wanted;
   wanted.field = field.name;
   wanted.classes = sizeClasses;
   wanted.sized = true;
   wanted.from = 1.5 + 1.2 * of.fineness;
   wanted.to = wanted.from + 2 + 4 * of.fineness;
-  return classified(of, wanted, of.plain(MapColors::marks[0]),
-                    Texts::tr("marks sized by “%1”, in natural breaks (Jenks)"));
+  return classified(of, wanted, of.plain(color), Texts::tr("marks sized by “%1”, in natural breaks (Jenks)"));
 }
 
 std::optional<Symbolized> byRate(Material const& of, FieldSurvey const& field) {
@@ -175,7 +181,7 @@ std::optional<Symbolized> byRate(Material const& of, FieldSurvey const& field) {
 
 Symbolized byNeighbours(Material const& of, FieldSurvey const& names) {
   QJsonArray classes;
-  auto const groups = groupsOfNeighbours(of.source, names.name, MapColors::areas.size());
+  auto const groups = groupsOfNeighbours(of.survey, names.name, MapColors::areas.size());
   for (size_t i = 0; i < groups.size(); ++i) {
     if (groups[i].isEmpty()) continue;
     classes.append(QJsonObject{{"label", Texts::tr("Colour %1").arg(i + 1)},
@@ -238,7 +244,73 @@ QJsonObject labelsOf(Material const& of, FieldSurvey const& names, FieldSurvey c
   return labels;
 }
 
+QJsonObject stored(SysCarto::SourceSettings const& source) {
+  QJsonObject json{{"file", source.file}, {"layer", source.layer}};
+  for (auto const& [key, text] : {std::make_pair("filter", source.filter),
+                                  {"coordinateSystem", source.coordinateSystem},
+                                  {"xField", source.xField},
+                                  {"yField", source.yField},
+                                  {"geometryField", source.geometryField}})
+    if (!text.isEmpty()) json.insert(QLatin1String(key), text);
+  return json;
+}
+
+// Of the symbols of a renderer, one each.
+QStringList colorsIn(QJsonObject const& renderer) {
+  QStringList colors{renderer.value("symbol").toObject().value("color").toString()};
+  for (QJsonValue const& one : renderer.value("classes").toArray())
+    colors << one.toObject().value("symbol").toObject().value("color").toString();
+  return colors;
+}
+
+// What is told by the fields, if there are any that tell something; else by the name of the layer; else one colour.
+Symbolized lookOf(Material const& of, FieldSurvey const* names, FieldSurvey const* size, char const* color) {
+  using Subject = Theme::Subject;
+  FieldSurvey const* const kinds = classField(of.survey);
+  FieldSurvey const* const rate = of.kind == GeometryKind::Areas ? rateField(of.survey) : nullptr;
+  bool const isDivided = of.kind == GeometryKind::Areas && of.theme.subject == Subject::Land;
+  std::optional<Symbolized> look;
+  if (rate) look = byRate(of, *rate);
+  if (!look && kinds && of.kind == GeometryKind::Lines && areRoads(*kinds)) look = roads(of, *kinds);
+  if (!look && of.kind == GeometryKind::Points && size) look = bySize(of, *size, color);
+  if (!look && isDivided && names && names->distinct() > 1 && names->distinct() <= maxColoured)
+    look = byNeighbours(of, *names);
+  if (!look && kinds && of.theme.subject == Subject::Unknown && kinds->distinct() <= 3 * maxClasses)
+    look = byKind(of, *kinds);
+  if (look) return *look;
+  QJsonObject const symbol = of.theme.symbol(of.kind, of.fineness);
+  return symbol.isEmpty() ? Symbolized{simple(of.plain(color)), Texts::tr("in one colour"), !isDivided}
+                          : Symbolized{simple(symbol), Texts::tr("drawn as its name says"), !isDivided};
+}
+
+template <class Colors>
+char const* leastUsed(Colors const& colors, QHash<QString, int> const& uses) {
+  return *std::min_element(colors.begin(), colors.end(),
+                           [&](char const* one, char const* other) { return uses[one] < uses[other]; });
+}
+
 }  // namespace
+
+void LayerStyling::notice(SysCarto::Layer const& layer) {
+  names_ << layer.GetName();
+  auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(&layer);
+  if (!vector) return;
+  for (SysCarto::SymbolClass const& one : vector->renderer().classes())
+    if (one.symbol) ++uses_[SysDisplay::colorOf(*one.symbol).name()];
+}
+
+// A legend knows layers by their names.
+QString LayerStyling::freeName(QString const& wanted, QString const& file) {
+  QStringList names{wanted};
+  for (QString const& origin : {QFileInfo(file).completeBaseName(), QFileInfo(file).dir().dirName()})
+    if (forPeople(origin) != wanted) names << Texts::tr("%1 (%2)").arg(wanted, origin);
+  auto const isFree = [&](QString const& name) { return !names_.contains(name); };
+  auto const found = std::find_if(names.cbegin(), names.cend(), isFree);
+  QString name = found == names.cend() ? wanted : *found;
+  for (int number = 2; !isFree(name); ++number) name = QStringLiteral("%1 %2").arg(wanted).arg(number);
+  names_ << name;
+  return name;
+}
 
 std::vector<StyledLayer> LayerStyling::style(LayerSurvey const& survey) {
   auto const& counts = survey.counts;
@@ -247,9 +319,10 @@ std::vector<StyledLayer> LayerStyling::style(LayerSurvey const& survey) {
     return {styleKind(survey, isPure ? counts.firstKey() : survey.description.kind, survey.source)};
   std::vector<StyledLayer> layers;
   for (KindRow const& row : kindRows) {
-    if (!counts.contains(row.kind) && !counts.contains(GeometryKind::Mixed)) continue;
+    bool const isCollected = row.kind == GeometryKind::Areas && counts.contains(GeometryKind::Mixed);
+    if (!counts.contains(row.kind) && !isCollected) continue;
     SysCarto::SourceSettings source = survey.source;
-    QString const filter = NewLayers::conditionOf(row.kind);
+    QString const filter = QLatin1String(row.condition);
     source.filter = source.filter.isEmpty() ? filter : QStringLiteral("(%1) AND %2").arg(source.filter, filter);
     layers.push_back(styleKind(survey, row.kind, source));
   }
@@ -260,53 +333,33 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
                                     SysCarto::SourceSettings const& source) {
   QString const file = QFileInfo(source.file).completeBaseName();
   QString const name = source.layer.isEmpty() ? file : source.layer;
-  KindRow const& row = rowOf(kind);
   Material of{survey, kind, Theme::of(name, kind), pageCm2_, source};
+  bool const isArea = kind != GeometryKind::Lines && kind != GeometryKind::Points;
+  bool const isLand = isArea && showsLand(survey, area_);
+  if (isLand) of.theme = {Theme::Subject::Land};
   FieldSurvey const* const names = nameField(survey);
   FieldSurvey const* const size = sizeField(survey);
-  FieldSurvey const* const kinds = classField(survey);
-  FieldSurvey const* const rate = kind == GeometryKind::Areas ? rateField(survey) : nullptr;
-  bool const isLand = kind == GeometryKind::Areas && showsLand(source, survey, area_);
-  if (isLand) of.theme = {Theme::Subject::Land};
-  bool const isDivided = kind == GeometryKind::Areas && of.theme.subject == Theme::Subject::Land;
-
-  std::optional<Symbolized> look;
-  if (rate) look = byRate(of, *rate);
-  if (!look && kinds && kind == GeometryKind::Lines && areRoads(*kinds)) look = roads(of, *kinds);
-  if (!look && kind == GeometryKind::Points && size) look = bySize(of, *size);
-  if (!look && isDivided && names && names->distinct() > 1 && names->distinct() <= maxColoured)
-    look = byNeighbours(of, *names);
-  if (!look && kinds && of.theme.subject == Theme::Subject::Unknown && kinds->distinct() <= 3 * maxClasses)
-    look = byKind(of, *kinds);
-  if (!look) {
-    QJsonObject symbol = of.theme.symbol(kind, of.fineness);
-    bool const hasTheme = !symbol.isEmpty();
-    if (!hasTheme)
-      symbol = of.plain(kind == GeometryKind::Areas ? MapColors::areas[areaColors_++ % MapColors::areas.size()]
-                                                    : MapColors::marks[markColors_++ % MapColors::marks.size()]);
-    look = Symbolized{simple(symbol), hasTheme ? Texts::tr("drawn as its name says") : Texts::tr("in one colour"),
-                      !isDivided};
-  }
+  Symbolized const look =
+      lookOf(of, names, size, isArea ? leastUsed(MapColors::areas, uses_) : leastUsed(MapColors::marks, uses_));
 
   StyledLayer styled;
-  styled.name = forPeople(name);
   bool const isPart = source.filter != survey.source.filter;  // of a layer that mixes kinds
-  if (isPart) styled.name = Texts::tr("%1 (%2)").arg(styled.name, kindText(kind));
+  styled.name =
+      freeName(isPart ? Texts::tr("%1 (%2)").arg(forPeople(name), kindText(kind)) : forPeople(name), source.file);
   styled.extent = survey.extent;
-  styled.count = survey.count;
-  styled.height = row.height;
-  QString const field = look->renderer.value("field").toString();
-  if (!field.isEmpty() && look->isLegendWorthy)
+  styled.order = DrawingOrder::of(kind, of.theme, survey.counts.value(kind), survey.largestKm2);
+  styled.outliers = survey.outliers;
+  QString const field = look.renderer.value("field").toString();
+  if (!field.isEmpty() && look.isLegendWorthy)
     styled.legendText = Texts::tr("%1: %2").arg(styled.name, forPeople(field));
-  styled.isLegendWorthy = look->isLegendWorthy;
+  styled.isLegendWorthy = look.isLegendWorthy;
   styled.isLand = isLand;
-  styled.reasons << look->reason;
-  QJsonObject stored{{"file", source.file}, {"layer", source.layer}};
-  if (!source.filter.isEmpty()) stored.insert("filter", source.filter);
+  styled.reasons << look.reason;
+  for (QString const& color : colorsIn(look.renderer)) ++uses_[color];
   styled.json = {{"type", "feature"},
                  {"name", styled.name},
-                 {"source", stored},
-                 {"renderer", look->renderer},
+                 {"source", stored(source)},
+                 {"renderer", look.renderer},
                  {"credits", QFileInfo(source.file).fileName()}};
   bool const isCrowded = of.theme.subject == Theme::Subject::Building && survey.count > maxLabelledBuildings;
   if (names && !isCrowded) {

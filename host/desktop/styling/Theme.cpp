@@ -1,5 +1,6 @@
 #include "Theme.h"
-#include "host/desktop/layers/MapColors.h"
+
+#include "MapColors.h"
 
 #include <QJsonArray>
 #include <QRegularExpression>

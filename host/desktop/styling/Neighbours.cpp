@@ -1,11 +1,10 @@
 #include "DataSurvey.h"
-#include "FeatureScan.h"
 
 #include "host/SysCarto/layers/BoxTree.h"
 
 #include <QSet>
 
-#include <ogr_feature.h>
+#include <ogr_geometry.h>
 
 namespace {
 
@@ -71,15 +70,11 @@ Wishes wishesOf(Outlines const& outlines) {
 
 // The most constrained first (Brélaz 1979): of what has neighbours in the most groups already, what has the most
 // neighbours. It goes where it disturbs least, and among those where there is least.
-std::vector<QStringList> groupsOfNeighbours(SysCarto::SourceSettings const& source, QString const& field, int groups) {
+std::vector<QStringList> groupsOfNeighbours(LayerSurvey const& survey, QString const& field, int groups) {
   std::vector<QStringList> sorted(groups);
-  QString problem;
   Outlines outlines;
-  scanFeatures(source, problem, [&](OGRFeature const& feature) {
-    int const index = feature.GetFieldIndex(field.toUtf8().constData());
-    if (index >= 0 && feature.IsFieldSetAndNotNull(index))
-      outlines.add(*feature.GetGeometryRef(),
-                   outlines.number(QString::fromUtf8(const_cast<OGRFeature&>(feature).GetFieldAsString(index))));
+  survey.forEachFeature(field, [&](OGRGeometry const& geometry, QString const& text) {
+    if (!text.isNull()) outlines.add(geometry, outlines.number(text));
   });
 
   Wishes const wishes = wishesOf(outlines);

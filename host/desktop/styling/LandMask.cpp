@@ -1,5 +1,4 @@
 #include "LandMask.h"
-#include "FeatureScan.h"
 
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/PointTransform.h"
@@ -9,7 +8,6 @@
 #include <QPainterPath>
 
 #include <ogr_geometry.h>
-#include <ogr_feature.h>
 #include <ogr_spatialref.h>
 
 namespace {
@@ -60,14 +58,12 @@ private:
 
 }  // namespace
 
-bool showsLand(SysCarto::SourceSettings const& source, LayerSurvey const& layer, GlobeArea const& area) {
+bool showsLand(LayerSurvey const& layer, GlobeArea const& area) {
   constexpr double smallest = 3;  // degrees: below that, the cells are too coarse
   if (layer.count > maxFeatures || area.width() < smallest || area.height() < smallest) return false;
   QImage const land(QStringLiteral(":/desktop/land.png"));
   PlateCarree drawn(layer.description.coordinateSystem, land.size());
-  QString problem;
-  if (!scanFeatures(source, problem, [&](OGRFeature const& feature) { drawn.add(*feature.GetGeometryRef()); }))
-    return false;
+  layer.forEachFeature({}, [&](OGRGeometry const& geometry, QString const&) { drawn.add(geometry); });
   int cells[2][2] = {};  // by whether there is land, and whether it is drawn
   for (double latitude = area.south + 0.25; latitude < area.north; latitude += 1 / cellsPerDegree)
     for (double longitude = area.west + 0.25; longitude < area.east; longitude += 1 / cellsPerDegree) {

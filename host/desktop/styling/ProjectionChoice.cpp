@@ -149,3 +149,13 @@ ProjectionChoice ProjectionChoice::forArea(GlobeArea const& area, QStringList co
   if (isWide && isBesideEquator && middle > 15 && middle < 72 && area.width() < 150) return conic(area);
   return azimuthal(area);
 }
+
+ProjectionChoice ProjectionChoice::forData(DataPlace const& place) {
+  if (!place.isKnown && place.hasFeatures)
+    return {QString(), Texts::tr("plain coordinates"), Texts::tr("Where on the globe the data are is not known."),
+            false};
+  ProjectionChoice choice = forArea(place.area, place.systems);
+  if (!place.hasFeatures)
+    choice.reason = Texts::tr("There are no features that say where the map is, so it shows the world.");
+  return choice;
+}

@@ -1,37 +1,46 @@
 #pragma once
 
 #include "DataSurvey.h"
+#include "DrawingOrder.h"
 
 #include <QJsonObject>
 #include <QStringList>
 
-/// What a layer of data gets on a new map.
+/// What a layer of data gets on a map.
 struct StyledLayer {
-  QString name;
+  QString name;  ///< like that of no other
   GlobeExtent extent;
-  QJsonObject json;     ///< as a document stores it, its file absolute
-  int count;            ///< of features
-  int height;           ///< what is drawn later is higher: areas, lines, points
+  QJsonObject json;  ///< as a document stores it, its file absolute
+  DrawingOrder order;
   QString legendText;   ///< what stands above its classes; empty for the name
   bool isLegendWorthy;  ///< whether a legend tells something that the map does not
   bool isLand = false;  ///< areas with the sea around them
+  int outliers;         ///< as of the survey
   QStringList reasons;  ///< what was chosen and why, as sentences
 };
 
-/// Styles layers one after the other, so that each looks different from those before.
+/// Styles layers one after the other, so that each is called and looks unlike those before.
 class LayerStyling {
 public:
   /// For a map of that size on the page, on which what is crowded is drawn finer. `area` is what a map of a small scale
   /// shows of the globe, of nothing for others.
   LayerStyling(double pageCm2, GlobeArea const& area) : pageCm2_(pageCm2), area_(area) {}
 
-  /// One layer for each kind of geometry that there is.
+  /// Of a layer that is there already, its name and its colours count as used.
+  void notice(SysCarto::Layer const& layer);
+
+  /// Nothing else is called so.
+  void reserve(QString const& name) { names_ << name; }
+
+  /// One layer for each kind of geometry that there is, since a symbol draws one kind.
   std::vector<StyledLayer> style(LayerSurvey const& survey);
 
 private:
   StyledLayer styleKind(LayerSurvey const& survey, SysCarto::GeometryKind kind, SysCarto::SourceSettings const& source);
+  QString freeName(QString const& wanted, QString const& file);
 
   double const pageCm2_;
   GlobeArea const area_;
-  int areaColors_ = 0, markColors_ = 0;  // used so far
+  QHash<QString, int> uses_;  // of colours, as documents write them
+  QStringList names_;
 };

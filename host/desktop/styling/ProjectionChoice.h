@@ -1,6 +1,6 @@
 #pragma once
 
-#include "GlobeArea.h"
+#include "DataSurvey.h"
 
 #include <QString>
 #include <QStringList>
@@ -16,4 +16,7 @@ struct ProjectionChoice {
   /// conic projection where they are broad and an azimuthal one otherwise; towns, and whatever the data's own projected
   /// system shows without a distortion that could be measured on paper, keep that, or get a zone of UTM.
   static ProjectionChoice forArea(GlobeArea const& area, QStringList const& ownSystems);
+
+  /// The same; without a definition where it is not known where on the globe the data are.
+  static ProjectionChoice forData(DataPlace const& place);
 };

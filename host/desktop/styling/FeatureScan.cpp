@@ -17,9 +17,9 @@ struct Texts {
 
 }  // namespace
 
-bool scanFeatures(SysCarto::SourceSettings const& source, QString& problem,
+bool scanFeatures(SysCarto::SourceSettings const& source, SysCarto::ReadProgress const& progress, QString& problem,
                   std::function<void(OGRFeature const&)> const& use) {
-  auto const data = SysCarto::DataSource::open(source, problem);
+  auto const data = SysCarto::openWatched(source, progress, problem);
   if (!data) return false;
   SysCarto::Condition condition;
   QString reason;
@@ -28,10 +28,12 @@ bool scanFeatures(SysCarto::SourceSettings const& source, QString& problem,
     return false;
   }
   SysCarto::GdalErrors const errors;
+  SysCarto::ReadWatch watch(data->layer(), progress);
   data->layer().ResetReading();
   while (OGRFeatureUniquePtr const feature{data->layer().GetNextFeature()}) {
     OGRGeometry const* const geometry = feature->GetGeometryRef();
     if (geometry && !geometry->IsEmpty() && condition.admits(*feature)) use(*feature);
+    if (!watch.goesOn()) return false;
   }
   if (errors.hasFailure()) problem = Texts::tr("Not all of %1 could be read: %2.").arg(source.file, errors.reason());
   return !errors.hasFailure();

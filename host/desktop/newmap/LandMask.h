@@ -1,7 +1,0 @@
-#pragma once
-
-#include "DataSurvey.h"
-
-/// Whether the areas of a source are the land that there is within `area`, and leave the sea free: then what lies
-/// around them may be drawn as water. Held against a picture of the globe's land with cells of half a degree.
-bool showsLand(SysCarto::SourceSettings const& source, LayerSurvey const& layer, GlobeArea const& area);

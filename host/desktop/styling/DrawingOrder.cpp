@@ -1,0 +1,59 @@
+#include "DrawingOrder.h"
+
+#include "GlobeArea.h"
+
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysCarto/projection/CoordinateSystem.h"
+
+#include <ogr_spatialref.h>
+
+#include <algorithm>
+#include <cmath>
+
+using SysCarto::GeometryKind;
+using Subject = Theme::Subject;
+
+namespace {
+
+enum Height { Unknown, Ground, Areas, LowLines, Lines, Points };
+
+GeometryKind kindDrawn(SysCarto::Renderer const& renderer) {
+  if (renderer.classes().empty() || !renderer.classes().front().symbol) return GeometryKind::Areas;
+  switch (renderer.classes().front().symbol->GetType()) {
+    case SysDisplay::SymbolType::Marker: return GeometryKind::Points;
+    case SysDisplay::SymbolType::Line: return GeometryKind::Lines;
+    default: return GeometryKind::Areas;
+  }
+}
+
+}  // namespace
+
+// A single area of which nothing is known is a frame or a ground.
+DrawingOrder DrawingOrder::of(GeometryKind kind, Theme theme, int count, double largestKm2) {
+  if (kind == GeometryKind::Points) return {Points, 0};
+  bool const isLow = theme.subject == Subject::Water || theme.subject == Subject::Contour;
+  if (kind == GeometryKind::Lines) return {isLow ? LowLines : Lines, 0};
+  bool const isGround = theme.subject == Subject::Land || (theme.subject == Subject::Unknown && count == 1);
+  return {isGround ? Ground : Areas, largestKm2};
+}
+
+DrawingOrder DrawingOrder::of(SysCarto::Layer const& layer, QString const& mapSystem) {
+  auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(&layer);
+  if (!vector || vector->source().data == SysCarto::SourceSettings::Data::Globe) return {};
+  GeometryKind const kind = kindDrawn(vector->renderer());
+  auto const system = SysCarto::makeCoordinateSystem(mapSystem);
+  double largest = 0;
+  if (kind == GeometryKind::Areas)
+    for (SysCarto::Feature const& feature : vector->features().features)
+      largest = std::max(largest, squareKm(feature.box, system.get()));
+  return of(kind, Theme::of(layer.GetName(), kind), vector->features().size(), largest);
+}
+
+double squareKm(SysGeometry::Box const& box, OGRSpatialReference const* system) {
+  double const width = box.xmax - box.xmin, height = box.ymax - box.ymin;
+  if (system && system->IsGeographic())
+    return width * height * GlobeArea::kmPerDegree * GlobeArea::kmPerDegree *
+           std::cos((box.ymin + box.ymax) * M_PI / 360);
+  double const km = system && system->IsProjected() ? system->GetLinearUnits() / 1000 : 0.001;
+  return width * height * km * km;
+}
