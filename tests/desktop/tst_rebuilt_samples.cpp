@@ -31,7 +31,8 @@ QStringList stepsOfMap(int number, QJsonObject const& map) {
         << "set=map:" + name + "/bounds:" + textOf(map["bounds"]);
   for (int i = 0; i < layers.size(); ++i) {
     QString const layer = QString("layer:%1/#%2").arg(name).arg(i);
-    steps << QString("set=%1/labels:null").arg(layer) << settingsOf(layer, layers[i].toObject(), {"type", "source"})
+    steps << QString("set=%1/labels:null").arg(layer) << QString("set=%1/credits:").arg(layer)
+          << settingsOf(layer, layers[i].toObject(), {"type", "source"})
           << settingsOf(layer + "/source", layers[i]["source"].toObject(), {"file", "layer"});
   }
   return steps;
