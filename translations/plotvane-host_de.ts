@@ -219,6 +219,17 @@
     </message>
 </context>
 <context>
+    <name>ClassCounts</name>
+    <message>
+        <source>The condition “%1” is not understood: %2.</source>
+        <translation>Die Bedingung „%1“ wird nicht verstanden: %2.</translation>
+    </message>
+    <message>
+        <source>The expression “%1” is not understood: %2.</source>
+        <translation>Der Ausdruck „%1“ wird nicht verstanden: %2.</translation>
+    </message>
+</context>
+<context>
     <name>Classify</name>
     <message>
         <source>The field “%1” holds no numbers; take the method “unique”, or a field of numbers.</source>
@@ -1382,6 +1393,18 @@
         <source>a layer of a group chosen in the contents</source>
         <translation>eine im Inhalt gewählte Ebene einer Gruppe</translation>
     </message>
+    <message>
+        <source>Layer Properties…</source>
+        <translation>Eigenschaften der Ebene …</translation>
+    </message>
+    <message>
+        <source>Show everything about the chosen layer: source, symbols, labels, scales, file</source>
+        <translation>Zeigt alles über die gewählte Ebene: Quelle, Symbole, Beschriftung, Maßstäbe, Datei</translation>
+    </message>
+    <message>
+        <source>a layer of features chosen in the contents</source>
+        <translation>eine im Inhalt gewählte Ebene mit Objekten</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1392,6 +1415,93 @@
     <message>
         <source>Print the reference of all commands, the host&apos;s included.</source>
         <translation>Die Übersicht aller Befehle ausgeben, auch der des Hostprogramms.</translation>
+    </message>
+</context>
+<context>
+    <name>ConditionDialog</name>
+    <message>
+        <source>%1 of %2 features pass.</source>
+        <translation>%1 von %2 Objekten erfüllen die Bedingung.</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>ganze Zahl</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>date or time</source>
+        <translation>Datum oder Zeit</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>andere</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>Ausdruck</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>Count the features that pass</source>
+        <translation>Zählt die Objekte, die die Bedingung erfüllen</translation>
+    </message>
+    <message>
+        <source>Show what comes of the first features</source>
+        <translation>Zeigt, was sich für die ersten Objekte ergibt</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>population &gt; 1000000 AND name LIKE &apos;A%&apos;</source>
+        <translation>population &gt; 1000000 AND name LIKE &apos;A%&apos;</translation>
+    </message>
+    <message>
+        <source>population / 1000</source>
+        <translation>population / 1000</translation>
+    </message>
+    <message>
+        <source>&amp;Fields</source>
+        <translation>&amp;Felder</translation>
+    </message>
+    <message>
+        <source>&amp;Values of the field</source>
+        <translation>&amp;Werte des Felds</translation>
+    </message>
+    <message>
+        <source>&amp;Condition; empty for all features</source>
+        <translation>&amp;Bedingung; leer für alle Objekte</translation>
+    </message>
+    <message>
+        <source>E&amp;xpression</source>
+        <translation>&amp;Ausdruck</translation>
+    </message>
+    <message>
+        <source>It has no value for the first features.</source>
+        <translation>Für die ersten Objekte hat er keinen Wert.</translation>
+    </message>
+    <message>
+        <source>Of the first features: %1</source>
+        <translation>Für die ersten Objekte: %1</translation>
     </message>
 </context>
 <context>
@@ -4758,6 +4868,81 @@
     </message>
 </context>
 <context>
+    <name>FileFacts</name>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>None: the layer is the whole globe</source>
+        <translation>Keine: Die Ebene ist der ganze Globus</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Layer of the file</source>
+        <translation>Layer der Datei</translation>
+    </message>
+    <message>
+        <source>Geometries</source>
+        <translation>Geometrien</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>not counted yet</source>
+        <translation>noch nicht gezählt</translation>
+    </message>
+    <message>
+        <source>Extent</source>
+        <translation>Ausdehnung</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>The file names none</source>
+        <translation>Die Datei nennt keines</translation>
+    </message>
+    <message>
+        <source>Columns of places</source>
+        <translation>Spalten der Orte</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Felder</translation>
+    </message>
+</context>
+<context>
     <name>FileSaver</name>
     <message>
         <source>its folder does not exist</source>
@@ -5126,6 +5311,68 @@
     </message>
 </context>
 <context>
+    <name>JoinDialog</name>
+    <message>
+        <source>Which table is to be joined?</source>
+        <translation>Welche Tabelle soll verknüpft werden?</translation>
+    </message>
+    <message>
+        <source>Joined Table</source>
+        <translation>Verknüpfte Tabelle</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Wählen …</translation>
+    </message>
+    <message>
+        <source>Stands before the names of the table&apos;s fields</source>
+        <translation>Steht vor den Namen der Felder der Tabelle</translation>
+    </message>
+    <message>
+        <source>The first rows of the table</source>
+        <translation>Die ersten Zeilen der Tabelle</translation>
+    </message>
+    <message>
+        <source>All %1 features found a row.</source>
+        <translation>Alle %1 Objekte fanden eine Zeile.</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>Count the features that find a row</source>
+        <translation>Zählt die Objekte, die eine Zeile finden</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Layer of the file</source>
+        <translation>&amp;Layer der Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Key of the features</source>
+        <translation>&amp;Schlüssel der Objekte</translation>
+    </message>
+    <message>
+        <source>K&amp;ey of the table</source>
+        <translation>Schlüssel der &amp;Tabelle</translation>
+    </message>
+    <message>
+        <source>&amp;Prefix</source>
+        <translation>&amp;Präfix</translation>
+    </message>
+</context>
+<context>
+    <name>JoinKeys</name>
+    <message>
+        <source>No field of “%1” has the name or the values of a field of the layer; name the keys.</source>
+        <translation>Kein Feld von „%1“ hat den Namen oder die Werte eines Felds der Ebene; nennen Sie die Schlüssel.</translation>
+    </message>
+</context>
+<context>
     <name>JsonFile</name>
     <message>
         <source>no file was named; choose a %1 file</source>
@@ -5424,10 +5671,121 @@
     </message>
 </context>
 <context>
+    <name>LayerSheet</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>The file names no coordinate system.</source>
+        <translation>Die Datei nennt kein Koordinatensystem.</translation>
+    </message>
+    <message>
+        <source>The file says: %1.</source>
+        <translation>Die Datei sagt: %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Opacity</source>
+        <translation>&amp;Deckkraft</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>Count the features that pass the filter</source>
+        <translation>Zählt die Objekte, die der Filter durchlässt</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Filter…</source>
+        <translation>&amp;Filter bearbeiten …</translation>
+    </message>
+    <message>
+        <source>All %1 features found their rows.</source>
+        <translation>Alle %1 Objekte fanden ihre Zeilen.</translation>
+    </message>
+    <message>
+        <source>Count the features that find a row</source>
+        <translation>Zählt die Objekte, die eine Zeile finden</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Wählen …</translation>
+    </message>
+    <message>
+        <source>As the &amp;File Says</source>
+        <translation>Wie die &amp;Datei sagt</translation>
+    </message>
+    <message>
+        <source>Count the features that each class takes</source>
+        <translation>Zählt die Objekte jeder Klasse</translation>
+    </message>
+    <message>
+        <source>Make C&amp;lasses…</source>
+        <translation>&amp;Klassen bilden …</translation>
+    </message>
+    <message>
+        <source>Make classes of the layer by the values of a field</source>
+        <translation>Bildet Klassen der Ebene nach den Werten eines Felds</translation>
+    </message>
+    <message>
+        <source>Features: %1.</source>
+        <translation>Objekte: %1.</translation>
+    </message>
+    <message>
+        <source>In no class: %1.</source>
+        <translation>In keiner Klasse: %1.</translation>
+    </message>
+    <message>
+        <source>Layer “%1”</source>
+        <translation>Ebene „%1“</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>Ebene</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Joined Tables</source>
+        <translation>Verknüpfte Tabellen</translation>
+    </message>
+    <message>
+        <source>Coordinate System</source>
+        <translation>Koordinatensystem</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>Symbole</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>Beschriftung</translation>
+    </message>
+    <message>
+        <source>Scales</source>
+        <translation>Maßstäbe</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>Quellen</translation>
+    </message>
+</context>
+<context>
     <name>LayerSteps</name>
     <message>
         <source>there is no &quot;%1&quot;; write layer:MAP/LAYER, where LAYER may be a group, or map:MAP; plotvane info lists them.</source>
         <translation>„%1“ gibt es nicht; schreiben Sie layer:MAP/LAYER, wobei LAYER eine Gruppe sein darf, oder map:MAP; plotvane info zählt sie auf.</translation>
+    </message>
+    <message>
+        <source>only one layer of features can be counted.</source>
+        <translation>nur eine Ebene mit Objekten kann gezählt werden.</translation>
+    </message>
+    <message>
+        <source>only one layer of features can be joined to a table.</source>
+        <translation>nur eine Ebene mit Objekten kann mit einer Tabelle verknüpft werden.</translation>
     </message>
 </context>
 <context>
@@ -6225,6 +6583,17 @@
     <message>
         <source>Keep</source>
         <translation>Beibehalten</translation>
+    </message>
+</context>
+<context>
+    <name>OpacitySlider</name>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -7075,6 +7444,44 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
 </context>
 <context>
+    <name>SysAdapterUI::EntryModel</name>
+    <message>
+        <source>Features</source>
+        <translation>Objekte</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::EntryTable</name>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation>&amp;Ändern …</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Do&amp;wn</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Hinzufügen …</translation>
+    </message>
+</context>
+<context>
     <name>SysAdapterUI::FieldEditor</name>
     <message>
         <source>Choose a file</source>
@@ -7107,6 +7514,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Choose a coordinate system</source>
         <translation>Ein Koordinatensystem wählen</translation>
+    </message>
+    <message>
+        <source>Write it with the fields at hand</source>
+        <translation>Mit Hilfe der Felder schreiben</translation>
     </message>
 </context>
 <context>
@@ -7660,6 +8071,17 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>systems: no coordinate system has all of &quot;%1&quot;; leave a word out.</source>
         <translation>systems: kein Koordinatensystem hat alles von „%1“; lassen Sie ein Wort weg.</translation>
+    </message>
+</context>
+<context>
+    <name>TestBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>Stopped before all features were read.</source>
+        <translation>Angehalten, bevor alle Objekte gelesen waren.</translation>
     </message>
 </context>
 <context>

@@ -219,6 +219,17 @@
     </message>
 </context>
 <context>
+    <name>ClassCounts</name>
+    <message>
+        <source>The condition “%1” is not understood: %2.</source>
+        <translation>条件“%1”无法理解：%2。</translation>
+    </message>
+    <message>
+        <source>The expression “%1” is not understood: %2.</source>
+        <translation>表达式“%1”无法理解：%2。</translation>
+    </message>
+</context>
+<context>
     <name>Classify</name>
     <message>
         <source>The field “%1” holds no numbers; take the method “unique”, or a field of numbers.</source>
@@ -1382,6 +1393,18 @@
         <source>a layer of a group chosen in the contents</source>
         <translation>内容列表中选定的组内图层</translation>
     </message>
+    <message>
+        <source>Layer Properties…</source>
+        <translation>图层属性…</translation>
+    </message>
+    <message>
+        <source>Show everything about the chosen layer: source, symbols, labels, scales, file</source>
+        <translation>显示所选图层的全部信息：数据源、符号、标注、比例尺、文件</translation>
+    </message>
+    <message>
+        <source>a layer of features chosen in the contents</source>
+        <translation>在内容列表中选择一个要素图层</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1392,6 +1415,93 @@
     <message>
         <source>Print the reference of all commands, the host&apos;s included.</source>
         <translation>输出所有命令的参考，包括主程序的命令。</translation>
+    </message>
+</context>
+<context>
+    <name>ConditionDialog</name>
+    <message>
+        <source>%1 of %2 features pass.</source>
+        <translation>%2 个要素中有 %1 个符合条件。</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>date or time</source>
+        <translation>日期或时间</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>Condition</source>
+        <translation>条件</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>表达式</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>测试(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Count the features that pass</source>
+        <translation>统计符合条件的要素数</translation>
+    </message>
+    <message>
+        <source>Show what comes of the first features</source>
+        <translation>显示前几个要素的结果</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>字段</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>population &gt; 1000000 AND name LIKE &apos;A%&apos;</source>
+        <translation>population &gt; 1000000 AND name LIKE &apos;A%&apos;</translation>
+    </message>
+    <message>
+        <source>population / 1000</source>
+        <translation>population / 1000</translation>
+    </message>
+    <message>
+        <source>&amp;Fields</source>
+        <translation>字段(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Values of the field</source>
+        <translation>字段的值(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Condition; empty for all features</source>
+        <translation>条件(&amp;C)；留空表示所有要素</translation>
+    </message>
+    <message>
+        <source>E&amp;xpression</source>
+        <translation>表达式(&amp;X)</translation>
+    </message>
+    <message>
+        <source>It has no value for the first features.</source>
+        <translation>对前几个要素没有值。</translation>
+    </message>
+    <message>
+        <source>Of the first features: %1</source>
+        <translation>前几个要素的结果：%1</translation>
     </message>
 </context>
 <context>
@@ -4758,6 +4868,81 @@
     </message>
 </context>
 <context>
+    <name>FileFacts</name>
+    <message>
+        <source>Property</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>None: the layer is the whole globe</source>
+        <translation>无：该图层是整个地球</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>修改时间</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>Layer of the file</source>
+        <translation>文件中的图层</translation>
+    </message>
+    <message>
+        <source>Geometries</source>
+        <translation>几何</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>要素</translation>
+    </message>
+    <message>
+        <source>not counted yet</source>
+        <translation>尚未统计</translation>
+    </message>
+    <message>
+        <source>Extent</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>Coordinate system</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>The file names none</source>
+        <translation>文件没有说明</translation>
+    </message>
+    <message>
+        <source>Columns of places</source>
+        <translation>位置列</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>字段</translation>
+    </message>
+</context>
+<context>
     <name>FileSaver</name>
     <message>
         <source>its folder does not exist</source>
@@ -5126,6 +5311,68 @@
     </message>
 </context>
 <context>
+    <name>JoinDialog</name>
+    <message>
+        <source>Which table is to be joined?</source>
+        <translation>要连接哪个表？</translation>
+    </message>
+    <message>
+        <source>Joined Table</source>
+        <translation>连接的表</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>选择(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>Stands before the names of the table&apos;s fields</source>
+        <translation>放在表的字段名之前</translation>
+    </message>
+    <message>
+        <source>The first rows of the table</source>
+        <translation>表的前几行</translation>
+    </message>
+    <message>
+        <source>All %1 features found a row.</source>
+        <translation>全部 %1 个要素都找到了对应的行。</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>测试(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Count the features that find a row</source>
+        <translation>统计找到对应行的要素数</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Layer of the file</source>
+        <translation>文件中的图层(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Key of the features</source>
+        <translation>要素的键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>K&amp;ey of the table</source>
+        <translation>表的键(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Prefix</source>
+        <translation>前缀(&amp;P)</translation>
+    </message>
+</context>
+<context>
+    <name>JoinKeys</name>
+    <message>
+        <source>No field of “%1” has the name or the values of a field of the layer; name the keys.</source>
+        <translation>“%1”中没有字段与图层的字段同名或同值；请指定键。</translation>
+    </message>
+</context>
+<context>
     <name>JsonFile</name>
     <message>
         <source>no file was named; choose a %1 file</source>
@@ -5424,10 +5671,121 @@
     </message>
 </context>
 <context>
+    <name>LayerSheet</name>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>The file names no coordinate system.</source>
+        <translation>文件没有说明坐标系。</translation>
+    </message>
+    <message>
+        <source>The file says: %1.</source>
+        <translation>文件中的坐标系：%1。</translation>
+    </message>
+    <message>
+        <source>&amp;Opacity</source>
+        <translation>不透明度(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>测试(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Count the features that pass the filter</source>
+        <translation>统计通过筛选的要素数</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Filter…</source>
+        <translation>编辑筛选条件(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>All %1 features found their rows.</source>
+        <translation>全部 %1 个要素都找到了各自的行。</translation>
+    </message>
+    <message>
+        <source>Count the features that find a row</source>
+        <translation>统计找到对应行的要素数</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>选择(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>As the &amp;File Says</source>
+        <translation>以文件为准(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Count the features that each class takes</source>
+        <translation>统计每一类的要素数</translation>
+    </message>
+    <message>
+        <source>Make C&amp;lasses…</source>
+        <translation>分类(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>Make classes of the layer by the values of a field</source>
+        <translation>按字段的值对图层分类</translation>
+    </message>
+    <message>
+        <source>Features: %1.</source>
+        <translation>要素：%1。</translation>
+    </message>
+    <message>
+        <source>In no class: %1.</source>
+        <translation>不属于任何类：%1。</translation>
+    </message>
+    <message>
+        <source>Layer “%1”</source>
+        <translation>图层“%1”</translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation>图层</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>数据源</translation>
+    </message>
+    <message>
+        <source>Joined Tables</source>
+        <translation>连接的表</translation>
+    </message>
+    <message>
+        <source>Coordinate System</source>
+        <translation>坐标系</translation>
+    </message>
+    <message>
+        <source>Symbols</source>
+        <translation>符号</translation>
+    </message>
+    <message>
+        <source>Labels</source>
+        <translation>标注</translation>
+    </message>
+    <message>
+        <source>Scales</source>
+        <translation>比例尺</translation>
+    </message>
+    <message>
+        <source>Credits</source>
+        <translation>数据来源</translation>
+    </message>
+</context>
+<context>
     <name>LayerSteps</name>
     <message>
         <source>there is no &quot;%1&quot;; write layer:MAP/LAYER, where LAYER may be a group, or map:MAP; plotvane info lists them.</source>
         <translation>没有“%1”；请写 layer:MAP/LAYER（LAYER 可以是组）或 map:MAP；plotvane info 会列出它们。</translation>
+    </message>
+    <message>
+        <source>only one layer of features can be counted.</source>
+        <translation>只能统计一个要素图层。</translation>
+    </message>
+    <message>
+        <source>only one layer of features can be joined to a table.</source>
+        <translation>只能把一个要素图层与表连接。</translation>
     </message>
 </context>
 <context>
@@ -6225,6 +6583,17 @@
     <message>
         <source>Keep</source>
         <translation>保留</translation>
+    </message>
+</context>
+<context>
+    <name>OpacitySlider</name>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -7075,6 +7444,44 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
 </context>
 <context>
+    <name>SysAdapterUI::EntryModel</name>
+    <message>
+        <source>Features</source>
+        <translation>要素</translation>
+    </message>
+</context>
+<context>
+    <name>SysAdapterUI::EntryTable</name>
+    <message>
+        <source>&amp;Add</source>
+        <translation>添加(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation>更改(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>复制(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Up</source>
+        <translation>上移(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Do&amp;wn</source>
+        <translation>下移(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>添加(&amp;A)…</translation>
+    </message>
+</context>
+<context>
     <name>SysAdapterUI::FieldEditor</name>
     <message>
         <source>Choose a file</source>
@@ -7107,6 +7514,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Choose a coordinate system</source>
         <translation>选择坐标系</translation>
+    </message>
+    <message>
+        <source>Write it with the fields at hand</source>
+        <translation>借助字段列表编写</translation>
     </message>
 </context>
 <context>
@@ -7660,6 +8071,17 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>systems: no coordinate system has all of &quot;%1&quot;; leave a word out.</source>
         <translation>systems：没有坐标系包含“%1”的所有词；请去掉一个词。</translation>
+    </message>
+</context>
+<context>
+    <name>TestBar</name>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Stopped before all features were read.</source>
+        <translation>在读完所有要素之前已停止。</translation>
     </message>
 </context>
 <context>

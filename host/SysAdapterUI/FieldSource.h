@@ -19,9 +19,14 @@ public:
   /// What a text of the kind `TextKind::Attribute` may name.
   virtual QStringList attributes() const { return {}; }
 
-  /// Lets a person choose what a text of the kind `TextKind::CoordinateSystem` defines; empty where nothing is chosen.
-  virtual std::optional<QString> chooseSystem(QStringList const& /*path*/, QString const& /*now*/,
-                                              QWidget* /*parent*/) {
+  /// Where one of these fields lies in the thing shown: its key, where that is not deeper in it.
+  virtual QStringList placeOf(SysUtility::SheetField const& field) const { return {field.key()}; }
+
+  /// Whether a person can choose or write a text with more help than a line gives: a coordinate system, a condition.
+  virtual bool canChoose(SysUtility::TextKind kind) const { return kind == SysUtility::TextKind::CoordinateSystem; }
+
+  /// Lets a person do so; empty where nothing is chosen.
+  virtual std::optional<QString> choose(QStringList const& /*path*/, QString const& /*now*/, QWidget* /*parent*/) {
     return std::nullopt;
   }
 

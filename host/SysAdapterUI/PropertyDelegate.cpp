@@ -28,13 +28,9 @@ PropertyDelegate::~PropertyDelegate() = default;
 QWidget* PropertyDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const&, QModelIndex const& index) const {
   Place const place = Place::of(index);
   auto const row = place.model.row(place.index);
-  FieldEditor* const editor = FieldEditor::create(
-      row.field->info, place.model.suggestions(place.index),
-      [model = &place.model, path = row.path](QString const& now, QWidget* own) {
-        return model->chooseSystem(path, now, own);
-      },
-      parent);
-  QString const caption = index.siblingAtColumn(PropertyModel::CaptionColumn).data().toString();
+  FieldEditor* const editor = FieldEditor::create(row.field->info, place.model.suggestions(place.index),
+                                                  place.model.chooserOf(place.index), parent);
+  QString const caption = place.index.siblingAtColumn(PropertyModel::CaptionColumn).data().toString();
   editor->widget().setAccessibleName(caption);
   editor->widget().setAccessibleDescription(index.data(PropertyModel::HelpRole).toString());
   connect(editor, &FieldEditor::finished, this, [this, editor] {

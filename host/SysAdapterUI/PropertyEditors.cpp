@@ -210,10 +210,11 @@ private:
 // A text that a button in its field helps to enter.
 class ButtonField final : public LineField {
 public:
-  ButtonField(FieldInfo const& info, ChooseSystem chooseSystem, QLineEdit* edit)
-      : LineField(info, edit), kind_(info.rules.textKind), chooseSystem_(std::move(chooseSystem)), edit_(edit) {
+  ButtonField(FieldInfo const& info, Choose choose, QLineEdit* edit)
+      : LineField(info, edit), kind_(info.rules.textKind), choose_(std::move(choose)), edit_(edit) {
     QString const help = kind_ == TextKind::Color              ? FieldEditor::tr("Choose a colour")
                          : kind_ == TextKind::CoordinateSystem ? FieldEditor::tr("Choose a coordinate system")
+                         : kind_ == TextKind::Condition        ? FieldEditor::tr("Write it with the fields at hand")
                                                                : FieldEditor::tr("Choose a file");
     button_ = edit->addAction(edit->style()->standardIcon(QStyle::SP_DirOpenIcon), QLineEdit::TrailingPosition);
     button_->setShortcut(Qt::ALT + Qt::Key_Down);
@@ -246,8 +247,8 @@ private:
 
   void choose() {
     if (kind_ == TextKind::Color) return chooseColor();
-    if (kind_ != TextKind::CoordinateSystem) return chooseFile();
-    auto const chosen = chooseSystem_(edit_->text(), edit_);
+    if (kind_ != TextKind::CoordinateSystem && kind_ != TextKind::Condition) return chooseFile();
+    auto const chosen = choose_(edit_->text(), edit_);
     if (chosen) take(*chosen);
   }
 
@@ -274,16 +275,16 @@ private:
   }
 
   TextKind const kind_;
-  ChooseSystem const chooseSystem_;
+  Choose const choose_;
   QLineEdit* const edit_;
   QAction* button_ = nullptr;
   QString text_;
   bool isTaken_ = false;
 };
 
-bool hasButton(TextKind kind) {
+bool hasButton(TextKind kind, bool canBeChosen) {
   return kind == TextKind::Color || kind == TextKind::File || kind == TextKind::Svg || kind == TextKind::Picture ||
-         kind == TextKind::CoordinateSystem;
+         canBeChosen;
 }
 
 }  // namespace
@@ -294,13 +295,15 @@ FieldEditor* FieldEditor::of(QWidget* widget) {
   return widget->findChild<FieldEditor*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-FieldEditor* FieldEditor::create(FieldInfo const& info, QStringList const& suggestions,
-                                 ChooseSystem const& chooseSystem, QWidget* parent) {
+FieldEditor* FieldEditor::create(FieldInfo const& info, QStringList const& suggestions, Choose const& choose,
+                                 QWidget* parent) {
   bool const isText = info.kind == Kind::Text;
   if (info.kind == Kind::Choice || info.kind == Kind::Variant) return new ChoiceField(info, new QComboBox(parent));
   if (info.kind == Kind::Texts || (isText && info.rules.textKind == TextKind::Lines))
     return new LinesField(info, new QPlainTextEdit(parent));
-  if (isText && hasButton(info.rules.textKind)) return new ButtonField(info, chooseSystem, new QLineEdit(parent));
+  bool const canBeChosen = static_cast<bool>(choose);
+  if (isText && hasButton(info.rules.textKind, canBeChosen))
+    return new ButtonField(info, choose, new QLineEdit(parent));
   auto* const line = new QLineEdit(parent);
   auto* const field = new LineField(info, line);
   if (!suggestions.isEmpty()) {

@@ -16,12 +16,12 @@ class FieldEditor : public QObject {
   Q_OBJECT
 
 public:
-  /// Lets a person choose a coordinate system; given is the one that there is.
-  using ChooseSystem = std::function<std::optional<QString>(QString const& now, QWidget* parent)>;
+  /// Lets a person choose a text; given is the one that there is. Empty where that can't be done.
+  using Choose = std::function<std::optional<QString>(QString const& now, QWidget* parent)>;
 
   /// `suggestions` are texts to choose from, beside any other.
-  static FieldEditor* create(SysUtility::FieldInfo const& info, QStringList const& suggestions,
-                             ChooseSystem const& chooseSystem, QWidget* parent);
+  static FieldEditor* create(SysUtility::FieldInfo const& info, QStringList const& suggestions, Choose const& choose,
+                             QWidget* parent);
 
   /// The editor to which a widget belongs; null for none.
   static FieldEditor* of(QWidget* widget);

@@ -140,7 +140,8 @@ void PropertyModel::refresh() {
 void PropertyModel::build(Node& parent, QVector<SheetField> const& fields) {
   bool const isList = parent.parent && parent.field.info.kind == Kind::List;
   for (int i = 0; i < fields.size(); ++i) {
-    Node& node = parent.add(fields[i], parent.path + QStringList(isList ? QString::number(i) : fields[i].key()));
+    QStringList const inner(isList ? QString::number(i) : fields[i].key());
+    Node& node = parent.add(fields[i], parent.parent ? parent.path + inner : source_->placeOf(fields[i]));
     node.isEntry = isList;
     build(node, fields[i].fields);
     addParts(node);
@@ -339,8 +340,13 @@ QStringList PropertyModel::suggestions(QModelIndex const& index) const {
   return isAttribute && source_ ? source_->attributes() : QStringList();
 }
 
-std::optional<QString> PropertyModel::chooseSystem(QStringList const& path, QString const& now, QWidget* parent) const {
-  return source_ ? source_->chooseSystem(path, now, parent) : std::nullopt;
+std::function<std::optional<QString>(QString const&, QWidget*)> PropertyModel::chooserOf(
+    QModelIndex const& index) const {
+  Node const& node = nodeAt(index);
+  if (!source_ || node.field.info.kind != Kind::Text || !source_->canChoose(node.field.info.rules.textKind)) return {};
+  return [this, path = node.path](QString const& now, QWidget* parent) {
+    return source_ ? source_->choose(path, now, parent) : std::nullopt;
+  };
 }
 
 bool PropertyModel::take(QModelIndex const& index, QJsonValue const& value, QString const& shown) {
@@ -414,23 +420,36 @@ void PropertyModel::removeEntry(QModelIndex const& index) {
     refresh();
 }
 
+// The list as a whole with its entries otherwise; the place is where the one that is meant lies then.
+QModelIndex PropertyModel::rearrange(Node& entry, int place, std::function<void(QJsonArray&)> const& change) {
+  QStringList const path = entry.parent->path;
+  QModelIndex const former = indexOf(entry, ValueColumn);
+  auto const changed = [&](QJsonValue const& now) {
+    QJsonArray list = now.toArray();
+    change(list);
+    return QJsonValue(list);
+  };
+  entry.problem = source_ ? source_->set(path, changed, QString()) : QString();
+  if (!entry.problem.isEmpty()) {
+    emit dataChanged(former, former);
+    return former;
+  }
+  refresh();
+  return indexOf(path + QStringList(QString::number(place)));
+}
+
 QModelIndex PropertyModel::moveEntry(QModelIndex const& index, int by) {
   Node& node = nodeAt(index);
   int const from = node.place, to = from + by;
-  if (!node.isEntry || !source_ || to < 0 || to >= static_cast<int>(node.parent->children.size())) return index;
-  QStringList const path = node.parent->path;
-  auto const move = [&](QJsonValue const& now) {
-    QJsonArray list = now.toArray();
-    list.insert(to, list.takeAt(from));
-    return QJsonValue(list);
-  };
-  node.problem = source_->set(path, move, QString());
-  if (!node.problem.isEmpty()) {
-    emit dataChanged(indexOf(node, ValueColumn), indexOf(node, ValueColumn));
-    return index;
-  }
-  refresh();
-  return indexOf(path + QStringList(QString::number(to)));
+  if (!node.isEntry || to < 0 || to >= static_cast<int>(node.parent->children.size())) return index;
+  return rearrange(node, to, [=](QJsonArray& list) { list.insert(to, list.takeAt(from)); });
+}
+
+QModelIndex PropertyModel::duplicateEntry(QModelIndex const& index) {
+  Node& node = nodeAt(index);
+  int const from = node.place;
+  if (!node.isEntry) return index;
+  return rearrange(node, from + 1, [=](QJsonArray& list) { list.insert(from + 1, list.at(from)); });
 }
 
 }  // namespace SysAdapterUI

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemModel>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -47,8 +48,8 @@ public:
   /// Names that a person may want to choose from for the text of a row; none for other rows.
   QStringList suggestions(QModelIndex const& index) const;
 
-  /// As the source lets a person choose.
-  std::optional<QString> chooseSystem(QStringList const& path, QString const& now, QWidget* parent) const;
+  /// As the source lets a person choose the text of a row; empty where it does not.
+  std::function<std::optional<QString>(QString const& now, QWidget* parent)> chooserOf(QModelIndex const& index) const;
 
   /// Takes a value as a document has it. False, with `ProblemRole` saying why, where it is refused; `shown` is what
   /// then stays in the row. The rows follow once the caller is done, since they may be others then.
@@ -63,6 +64,8 @@ public:
   // Entries of lists; `index` is the list or one of its entries. A new one comes last, and is answered.
 
   QModelIndex addEntry(QModelIndex const& index);
+  /// The copy comes after it, and is answered; the entry itself where that can't be.
+  QModelIndex duplicateEntry(QModelIndex const& index);
   void removeEntry(QModelIndex const& index);
   /// Up for −1, down for 1. Answers where it is then.
   QModelIndex moveEntry(QModelIndex const& index, int by);
@@ -89,6 +92,7 @@ private:
   QVariant check(Node const& node) const;
   QJsonValue valueOf(Node const& node) const;
   bool isMixed(Node const& node) const;
+  QModelIndex rearrange(Node& entry, int place, std::function<void(QJsonArray& list)> const& change);
   bool change(Node& node, SysUtility::NewValue const& value, QString const& shown, QString const& joining);
   void refreshSoon();
 

@@ -188,6 +188,12 @@ void PropertySheet::finish() {
 void PropertySheet::show(FieldSource* source) { model_->setSource(source); }
 void PropertySheet::setTitle(QString const& title) { title_->setText(title); }
 
+void PropertySheet::makePlain() {
+  isPlain_ = true;
+  for (QWidget* const widget : {static_cast<QWidget*>(title_), static_cast<QWidget*>(search_)}) widget->hide();
+  restoreState();
+}
+
 void PropertySheet::refresh() {
   if (!isEditing()) model_->refresh();
 }
@@ -215,6 +221,7 @@ void PropertySheet::showCurrent() {
   remove_->setEnabled(row.isEntry);
   up_->setEnabled(row.isEntry && index.row() > 0);
   down_->setEnabled(row.isEntry && index.row() + 1 < model_->rowCount(index.parent()));
+  for (QToolButton* const one : {add_, remove_, up_, down_}) one->setVisible(!isPlain_ || isList || row.isEntry);
 }
 
 void PropertySheet::keepState() {
@@ -236,6 +243,8 @@ void PropertySheet::restoreState() {
     if (!currentName_.isEmpty() && nameOf(index) == currentName_)
       view_->setCurrentIndex(index.siblingAtColumn(PropertyModel::ValueColumn));
   });
+  for (int i = 0; isPlain_ && i < filter_->rowCount(); ++i)
+    view_->setRowHidden(i, {}, model_->row(filter_->mapToSource(filter_->index(i, 0))).isList());
   if (std::exchange(hadFocus_, false)) view_->setFocus();
   showCurrent();
 }

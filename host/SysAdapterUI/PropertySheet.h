@@ -26,6 +26,9 @@ public:
   void show(FieldSource* source);
   void setTitle(QString const& title);
 
+  /// Without title, search and the buttons for entries; lists that are no part of anything have a table elsewhere.
+  void makePlain();
+
   /// Shows the values as they are now, unless one is being edited.
   void refresh();
 
@@ -66,6 +69,7 @@ private:
   QSet<QString> open_;  // names of rows
   QString currentName_;
   QStringList wanted_;  // the path of the symbol that is to be chosen
+  bool isPlain_ = false;
   bool isSearching_ = false;
   bool hadFocus_ = false;  // before the rows became others
 };

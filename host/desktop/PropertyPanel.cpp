@@ -1,17 +1,16 @@
 #include "PropertyPanel.h"
 
-#include "layers/MapSystem.h"
+#include "MapGround.h"
 #include "layers/LayerActions.h"
+#include "layers/MapSystem.h"
+#include "layers/sheet/ConditionDialog.h"
 
 #include "host/SysAdapterUI/SymbolChooser.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysUtility/ChangeMark.h"
 
-#include <SysCarto/MapFrameElement.h>
 #include <SysCarto/PageLayout.h>
-#include <SysCarto/SymbolFrameParts.h>
-#include <SysDisplay/SimpleFillSymbol.h>
 
 #include <QUndoStack>
 
@@ -22,14 +21,11 @@ using SysCarto::LayerRow;
 using SysCarto::MapDocumentHost;
 using SysUtility::SheetField;
 
-namespace {
-
-constexpr qint64 quickMs = 1000;
-
-}  // namespace
-
 PropertyPanel::PropertyPanel(DocumentSession& session, QWidget* parent)
-    : QDockWidget(tr("Properties"), parent), session_(session), sheet_(new SysAdapterUI::PropertySheet(this)) {
+    : QDockWidget(tr("Properties"), parent),
+      session_(session),
+      changes_(session),
+      sheet_(new SysAdapterUI::PropertySheet(this)) {
   setObjectName(QStringLiteral("dockWidget_Properties"));
   setWidget(sheet_);
   connect(sheet_, &SysAdapterUI::PropertySheet::editing, this, &PropertyPanel::editing);
@@ -82,12 +78,7 @@ void PropertyPanel::follow() {
   bool const isOther = selected != selected_;
   selected_ = selected;
   if (isOther) rows_.clear();
-  QList<SysUtility::_ptr_t<SysCarto::Map>> maps;
-  session_.document().GetMaps(maps);
-  auto const hasGone = [&maps](LayerRow const& row) {  // by undo or a template
-    return !maps.contains(row.map) || (row.layer && !row.map->GetLayers().contains(row.layer)) ||
-           (row.group && !groupsOf(*row.map).contains(row.group));
-  };
+  auto const hasGone = [this](LayerRow const& row) { return !LayerActions::isThere(session_.document(), row); };
   rows_.erase(std::remove_if(rows_.begin(), rows_.end(), hasGone), rows_.end());
   if (!isVisible()) return;
   things_ = chosen();
@@ -102,7 +93,7 @@ void PropertyPanel::follow() {
     return;
   }
   shown_ = shown;
-  last_ = {};
+  changes_.forget();
   sheet_->show(this);
 }
 
@@ -128,40 +119,24 @@ QVector<SheetField> PropertyPanel::fields() {
 }
 
 QString PropertyPanel::set(QStringList const& path, SysUtility::NewValue const& value, QString const& joining) {
-  QUndoStack* const history = MapDocumentHost::history(session_.document());
-  bool const isQuick = !joining.isEmpty() && joining == last_.joining && history->index() == last_.step &&
-                       history->canUndo() && last_.clock.isValid() && last_.clock.elapsed() < quickMs;
-  if (isQuick) history->undo();
   QStringList warnings;
-  int const before = history->index();
-  QString const problem = Editable::set(session_.document(), things_, path, value, warnings);
-  if (isQuick && !problem.isEmpty()) history->redo();
-  if (problem.isEmpty()) {
-    last_.joining = history->index() == before ? QString() : joining;
-    last_.step = history->index();
-    last_.clock.restart();
-  }
+  QString const problem = changes_.set(things_, path, value, joining, warnings);
   if (!warnings.isEmpty()) emit told(warnings.join(QLatin1Char('\n')));
   return problem;
 }
 
-std::optional<QString> PropertyPanel::chooseSystem(QStringList const&, QString const& now, QWidget* parent) {
+bool PropertyPanel::canChoose(SysUtility::TextKind kind) const {
+  return kind == SysUtility::TextKind::CoordinateSystem || (kind == SysUtility::TextKind::Condition && layer());
+}
+
+std::optional<QString> PropertyPanel::choose(QStringList const& path, QString const& now, QWidget* parent) {
   auto const layout = session_.document().GetPageLayout();
   LayerRow const row = rows_.value(0);
+  if (row.layer) return chooseTextOf(session_.document(), row, path, now, parent);
   auto const map = row.map || !layout ? row.map : layout->GetFocusMap();
-  bool const isOfLayer = static_cast<bool>(row.layer);
-  return SysAdapterUI::SystemChooser::choose(systemChoice(session_.document(), map.get(), now, isOfLayer), parent);
+  return SysAdapterUI::SystemChooser::choose(systemChoice(session_.document(), map.get(), now, false), parent);
 }
 
 void PropertyPanel::chooseSymbol(QModelIndex const& index) {
-  SysAdapterUI::chooseSymbol(sheet_->model(), index, background(), this);
-}
-
-// Of the focus data frame.
-QColor PropertyPanel::background() const {
-  auto const layout = session_.document().GetPageLayout();
-  auto const frame = layout ? layout->GetFocusMapFrameElement() : nullptr;
-  auto const ground = frame ? SysUtility::ptr_cast<SysCarto::SymbolBackground>(frame->GetBackground()) : nullptr;
-  auto const fill = ground ? SysUtility::ptr_cast<SysDisplay::SimpleFillSymbol>(ground->GetFillSymbol()) : nullptr;
-  return fill ? fill->GetColor() : QColor(Qt::white);
+  SysAdapterUI::chooseSymbol(sheet_->model(), index, groundOfFocusMap(session_.document()), this);
 }

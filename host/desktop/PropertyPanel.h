@@ -1,13 +1,13 @@
 #pragma once
 
 #include "DocumentSession.h"
+#include "FieldChanges.h"
 
 #include "host/SysAdapterUI/PropertySheet.h"
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/maps/LayerTree.h"
 
 #include <QDockWidget>
-#include <QElapsedTimer>
 
 #include <optional>
 
@@ -57,13 +57,13 @@ private:
     return things_.size() == 1 ? things_.first()->attributes() : QStringList();
   }
   QString set(QStringList const& path, SysUtility::NewValue const& value, QString const& joining) override;
-  std::optional<QString> chooseSystem(QStringList const& path, QString const& now, QWidget* parent) override;
+  bool canChoose(SysUtility::TextKind kind) const override;
+  std::optional<QString> choose(QStringList const& path, QString const& now, QWidget* parent) override;
   SysCarto::Editable::List chosen() const;
   QString titleOf(SysCarto::Editable::List const& things) const;
   QList<SysCarto::ElementHandle> selection() const;
   void showAnew();
   void chooseSymbol(QModelIndex const& index);
-  QColor background() const;
 
   struct Shown {
     QVector<SysCarto::LayerRow> rows;
@@ -78,19 +78,12 @@ private:
     bool operator==(Moment const& other) const { return step == other.step && change == other.change; }
   };
 
-  // The change before, while one of the same field soon after is the same step.
-  struct Last {
-    QString joining;
-    int step = -1;  // of the history, after it
-    QElapsedTimer clock;
-  };
-
   DocumentSession& session_;
+  FieldChanges changes_;
   SysAdapterUI::PropertySheet* const sheet_;
   SysCarto::Editable::List things_;
   QList<SysCarto::ElementHandle> selected_;
   QVector<SysCarto::LayerRow> rows_;  // chosen in the contents; none where the page counts
   std::optional<Shown> shown_;        // in the sheet
   Moment moment_{-1, 0};
-  Last last_;
 };

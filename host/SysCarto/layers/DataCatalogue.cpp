@@ -149,14 +149,35 @@ void take(Look const& look, LayerDescription& layer) {
   layer.extent = look.extent;
 }
 
+// As far as a person reads on.
+Metadata metadataOf(GDALMajorObject& object) {
+  constexpr size_t maxItems = 100;
+  constexpr int maxCharacters = 1000;
+  Metadata metadata;
+  for (char const* const domain : {"", "SHAPEFILE"})
+    for (char** item = object.GetMetadata(domain); item && *item && metadata.size() < maxItems; ++item) {
+      QString const text = QString::fromUtf8(*item);
+      int const sign = text.indexOf(QLatin1Char('='));
+      if (sign > 0) metadata.emplace_back(text.left(sign), text.mid(sign + 1, maxCharacters));
+    }
+  return metadata;
+}
+
+std::vector<FieldDescription> fieldsOf(OGRLayer& layer) {
+  std::vector<FieldDescription> fields;
+  OGRFeatureDefn& definition = *layer.GetLayerDefn();
+  for (int i = 0; i < definition.GetFieldCount(); ++i) {
+    OGRFieldDefn* const field = definition.GetFieldDefn(i);
+    fields.push_back({QString::fromUtf8(field->GetNameRef()), kindOf(field->GetType())});
+  }
+  return fields;
+}
+
 LayerDescription describe(OGRLayer& from) {
   LayerDescription layer;
   layer.name = QString::fromUtf8(from.GetName());
-  OGRFeatureDefn& definition = *from.GetLayerDefn();
-  for (int i = 0; i < definition.GetFieldCount(); ++i) {
-    OGRFieldDefn* const field = definition.GetFieldDefn(i);
-    layer.fields.push_back({QString::fromUtf8(field->GetNameRef()), kindOf(field->GetType())});
-  }
+  layer.fields = fieldsOf(from);
+  layer.metadata = metadataOf(from);
   layer.count = knownCount(from);
   auto const kind = kindOf(from.GetGeomType());
   layer.kind = kind.value_or(GeometryKind::Mixed);
@@ -189,6 +210,7 @@ DataFile describeFile(QString const& path) {
   if (!dataset) return file;
   GdalErrors const errors;
   file.format = formatOf(*dataset);
+  file.metadata = metadataOf(*dataset);
   for (int i = 0; i < dataset->GetLayerCount(); ++i) {
     OGRLayer& layer = *dataset->GetLayer(i);
     if (!isTextTable(*dataset)) {
@@ -220,6 +242,12 @@ LayerDescription describeLayer(SourceSettings const& source, std::chrono::millis
   if (isWhole) take(look, layer);
   if (isWhole && !kindOf(data->layer().GetGeomType())) layer.kind = look.kind();
   return layer;
+}
+
+std::vector<FieldDescription> fieldsOf(SourceSettings const& source, QString& error) {
+  auto const data = DataSource::open(source, error);
+  GdalErrors const quiet;
+  return data ? fieldsOf(data->layer()) : std::vector<FieldDescription>();
 }
 
 QStringList sampleValues(SourceSettings const& source, QString const& field, int limit) {

@@ -11,6 +11,7 @@
 #include <QVector>
 
 #include <chrono>
+#include <utility>
 #include <vector>
 
 namespace SysCarto {
@@ -25,6 +26,10 @@ struct FieldDescription {
   Kind kind;
 };
 
+/// What a format says of a file or a layer beside what all have: the encoding of texts, a title. By the names that the
+/// format has for it.
+using Metadata = std::vector<std::pair<QString, QString>>;
+
 struct LayerDescription {
   QString name;
   GeometryKind kind = GeometryKind::None;
@@ -34,6 +39,7 @@ struct LayerDescription {
   SysGeometry::Box extent;  ///< in that system; of nothing where it is empty or would cost a reading of all
   std::vector<FieldDescription> fields;
   QString xField, yField, geometryField;  ///< as in `SourceSettings`: the columns that place the rows of a table
+  Metadata metadata = {};
 };
 
 /// What a file holds. Layers without features of formats that always have the same layers are left out.
@@ -42,6 +48,7 @@ struct DataFile {
   QString format;  ///< for people
   std::vector<LayerDescription> layers;
   QString error;  ///< a sentence that names the file, where it can't be read
+  Metadata metadata = {};
 };
 
 /// Describes a local file (an absolute path) without reading all of it, as far as its format lets one. Where that does
@@ -52,6 +59,10 @@ SYSCARTO_EXPORT DataFile describeFile(QString const& path);
 /// where the file does not say, and the kind of its geometries. With the columns of places that the source names.
 SYSCARTO_EXPORT LayerDescription describeLayer(SourceSettings const& source, std::chrono::milliseconds limit,
                                                QString& error);
+
+/// The fields that the features of a source have, those of joined tables, too. None, with a sentence in `error`, where
+/// it can't be read.
+SYSCARTO_EXPORT std::vector<FieldDescription> fieldsOf(SourceSettings const& source, QString& error);
 
 /// The first different values of a field, as texts, at most `limit`; of a very long file, of its beginning.
 SYSCARTO_EXPORT QStringList sampleValues(SourceSettings const& source, QString const& field, int limit);

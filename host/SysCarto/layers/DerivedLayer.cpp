@@ -1,5 +1,7 @@
 #include "DerivedLayer.h"
 
+#include <cpl_string.h>
+
 namespace SysCarto {
 
 DerivedLayer::DerivedLayer(OGRLayer& base) : base_(base), definition_(new OGRFeatureDefn(base.GetName())) {
@@ -49,6 +51,21 @@ qint64 knownCount(OGRLayer& layer) {
 
 int fieldIndex(OGRLayer& layer, QString const& name) {
   return layer.GetLayerDefn()->GetFieldIndex(name.toUtf8().constData());
+}
+
+void readOnly(OGRLayer& layer, QStringList const& names) {
+  if (!layer.TestCapability(OLCIgnoreFields)) return;
+  CPLStringList ignored;
+  if (names.filter(QLatin1String("OGR_"), Qt::CaseInsensitive).isEmpty()) {
+    ignored.AddString("OGR_GEOMETRY");
+    ignored.AddString("OGR_STYLE");
+  }
+  OGRFeatureDefn& definition = *layer.GetLayerDefn();
+  for (int i = 0; i < definition.GetFieldCount(); ++i) {
+    char const* const name = definition.GetFieldDefn(i)->GetNameRef();
+    if (!names.contains(QString::fromUtf8(name), Qt::CaseInsensitive)) ignored.AddString(name);
+  }
+  layer.SetIgnoredFields(const_cast<char const**>(ignored.List()));
 }
 
 QString fieldNames(OGRLayer& layer) {

@@ -47,6 +47,10 @@ qint64 knownCount(OGRLayer& layer);
 /// The place of a field, by its name in any case; −1 where there is none.
 int fieldIndex(OGRLayer& layer, QString const& name);
 
+/// Has a layer read the fields of these names alone, where it can, and geometries where a name begins with OGR_, as
+/// that of what a condition asks of them does.
+void readOnly(OGRLayer& layer, QStringList const& names);
+
 /// The names of a layer's fields for a message, not all of very many.
 QString fieldNames(OGRLayer& layer);
 

@@ -2,12 +2,12 @@
 
 #include "host/SysCarto/layers/Condition.h"
 #include "host/SysCarto/layers/DataSource.h"
+#include "host/SysCarto/layers/DerivedLayer.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 
-#include <cpl_string.h>
 #include <ogr_feature.h>
 #include <ogrsf_frmts.h>
 
@@ -125,26 +125,12 @@ std::unique_ptr<FeatureScan> FeatureScan::open(SourceSettings const& source, Wan
     }
   scan->wanted_ = wanted;
   scan->total_ = layer.GetFeatureCount(FALSE);
-  scan->ignoreOthers();
+  QStringList needed = scan->own_->fields() + scan->more_->fields();
+  for (size_t i = 0; i < scan->table_->fields().size(); ++i)
+    if (wanted.hasRows || wanted.field == static_cast<int>(i)) needed << scan->table_->fields()[i].name;
+  readOnly(layer, needed);
   layer.ResetReading();
   return scan;
-}
-
-// A condition may ask for the geometry: by names that begin with OGR_.
-void FeatureScan::ignoreOthers() {
-  if (!table_->data_->layer().TestCapability(OLCIgnoreFields)) return;
-  QStringList needed = own_->fields() + more_->fields();
-  auto const& fields = table_->fields();
-  if (wanted_.field >= 0) needed << fields[static_cast<size_t>(wanted_.field)].name;
-  CPLStringList ignored;
-  if (needed.filter(QLatin1String("OGR_"), Qt::CaseInsensitive).isEmpty()) {
-    ignored.AddString("OGR_GEOMETRY");
-    ignored.AddString("OGR_STYLE");
-  }
-  for (TableField const& field : fields)
-    if (!wanted_.hasRows && !needed.contains(field.name, Qt::CaseInsensitive))
-      ignored.AddString(field.name.toUtf8().constData());
-  table_->data_->layer().SetIgnoredFields(const_cast<char const**>(ignored.List()));
 }
 
 bool FeatureScan::advance(int ms, std::function<void(qint64, TableRow const&)> const& take) {

@@ -75,7 +75,6 @@ public:
 
 private:
   FeatureScan();
-  void ignoreOthers();
 
   std::unique_ptr<FeatureTable> table_;
   std::unique_ptr<Condition> own_, more_;

@@ -92,6 +92,9 @@ public:
   /// file of that name.
   static LayerOutcome repair(SysCarto::MapDocument const& document, SysCarto::LayerRow const& row, QString const& file);
 
+  /// Whether the document still has it: undo or a template may have taken it away.
+  static bool isThere(SysCarto::MapDocument const& document, SysCarto::LayerRow const& row);
+
   /// Why the layer's data could not be read; empty for one that could.
   static QString problemOf(SysCarto::LayerRow const& row);
 

@@ -1,5 +1,8 @@
 #include "LayerCommands.h"
 
+#include "sheet/LayerSheet.h"
+#include "sheet/OpacitySlider.h"
+
 #include "host/desktop/ActionTable.h"
 #include "host/desktop/HostCommands.h"
 #include "host/desktop/OwnKeys.h"
@@ -30,6 +33,9 @@ bool areAny(Rows const& rows) { return !rows.isEmpty(); }
 bool areLayers(Rows const& rows) { return std::any_of(rows.begin(), rows.end(), std::not_fn(isMap)); }
 bool isOne(Rows const& rows) { return rows.size() == 1; }
 bool isOneMap(Rows const& rows) { return isOne(rows) && isMap(rows.first()); }
+bool isOneOfFeatures(Rows const& rows) {
+  return isOne(rows) && SysUtility::ptr_cast<SysCarto::VectorLayer>(rows.first().layer);
+}
 bool isOneWithScales(Rows const& rows) {
   if (!isOne(rows) || !isLayer(rows.first())) return false;
   auto const scales = SysCarto::LayerHost::scales(*rows.first().layer);
@@ -77,6 +83,7 @@ struct LayerCommand {
     return {};
   }
   static LayerOutcome repair(LayerCommands& self, Rows const& rows) { return self.askForRepair(rows); }
+  static LayerOutcome showSheet(LayerCommands& self, Rows const& rows) { return self.showSheet(rows); }
   static LayerOutcome focus(LayerCommands& self, Rows const& rows) { return self.focus(rows); }
   static LayerOutcome zoom(LayerCommands& self, Rows const& rows) {
     return LayerActions::zoomTo(*self.bench_.session().document().GetPageLayout(), rows);
@@ -110,6 +117,7 @@ LayerCommand const LayerCommand::all[] = {
     {"Host_ZoomToLayer",      zoom,                                    areAny},
     {"Host_ZoomToScaleRange", zoomToScales,                            isOneWithScales},
     {"Host_RepairLayer",      repair,                                  isOneBroken},
+    {"Host_LayerProperties",  showSheet,                               isOneOfFeatures},
     {"Host_FocusMap",         focus,                                   isOneMap},
 };
 // clang-format on
@@ -133,6 +141,16 @@ void LayerCommands::addTo(HostCommands& host) {
 
 void LayerCommands::setTree(SysAdapterUI::ContentsTree& tree, ActionTable& actions) {
   tree_ = &tree;
+  actions_ = &actions;
+  addOpacityTo(actions);
+  // A layer is opened, and what else has rows below it unfolds.
+  tree.setExpandsOnDoubleClick(false);
+  connect(&tree, &QTreeView::doubleClicked, this, [&tree, &actions, this](QModelIndex const& index) {
+    actions.refresh();
+    QAction* const sheet = actions.find(QStringLiteral("Host_LayerProperties"));
+    if (isOneOfFeatures(chosen())) return sheet->trigger();
+    tree.setExpanded(index, !tree.isExpanded(index));
+  });
   tree.addActions(actions.ofContents());
   new OwnKeys(tree);
   connect(&tree, &SysAdapterUI::ContentsTree::rowsChosen, &actions, &ActionTable::refreshSoon);
@@ -171,6 +189,33 @@ QString LayerCommands::take(LayerOutcome const& outcome) {
 LayerOutcome LayerCommands::focus(Rows const& rows) {
   bench_.views().focusOn(rows.first().map);
   return {};
+}
+
+LayerOutcome LayerCommands::showSheet(Rows const& rows) {
+  if (!sheet_) {
+    sheet_ = new LayerSheet(bench_.session(), tree_->window());
+    // The keys of the window do not reach another one.
+    for (char const* const identifier : {"Host_Undo", "Host_Redo", "Host_Save"})
+      sheet_->addAction(actions_->find(QLatin1String(identifier)));
+  }
+  sheet_->showLayer(rows.first());
+  return {};
+}
+
+// That of the first layer; whatever is chosen becomes as it is set.
+void LayerCommands::addOpacityTo(ActionTable& actions) {
+  QMenu* const menu = actions.menu(QStringLiteral("Layer/Opacity"));
+  OpacitySlider* const slider = OpacitySlider::addTo(*menu);
+  connect(menu, &QMenu::aboutToShow, slider, [this, slider] {
+    Rows const rows = layersAmong(chosen());
+    auto const first = std::find_if(rows.begin(), rows.end(), isLayer);
+    slider->setEnabled(!rows.isEmpty());
+    slider->setPercent(first == rows.end() ? 100 : SysCarto::LayerHost::effects(*first->layer).opacityPercent);
+  });
+  connect(slider, &OpacitySlider::chosen, this, [this](double percent) {
+    QString const problem = take(LayerActions::setOpacity(bench_.session().document(), layersAmong(chosen()), percent));
+    if (!problem.isEmpty()) emit told(problem);
+  });
 }
 
 LayerOutcome LayerCommands::askForRepair(Rows const& rows) {

@@ -11,6 +11,7 @@ class ContentsTree;
 }
 class ActionTable;
 class HostCommands;
+class LayerSheet;
 class Workbench;
 
 /// The commands that work on the rows chosen in the contents, and what is dragged and renamed there.
@@ -44,7 +45,11 @@ private:
   friend struct LayerCommand;
   LayerOutcome askForRepair(Rows const& rows);
   LayerOutcome focus(Rows const& rows);
+  LayerOutcome showSheet(Rows const& rows);
+  void addOpacityTo(ActionTable& actions);
 
   Workbench& bench_;
   SysAdapterUI::ContentsTree* tree_ = nullptr;
+  ActionTable* actions_ = nullptr;
+  LayerSheet* sheet_ = nullptr;  // of the window, once it was shown
 };

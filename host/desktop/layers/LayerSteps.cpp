@@ -1,12 +1,23 @@
 #include "LayerSteps.h"
 
+#include "sheet/JoinKeys.h"
+
+#include "host/SysCarto/layers/ClassCounts.h"
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysUtility/JsonFile.h"
+#include "host/desktop/Console.h"
+
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QRegularExpression>
 
 #include <algorithm>
 
 using SysCarto::LayerPlace;
 using SysCarto::MapDocument;
+using SysCarto::VectorLayer;
+using SysUtility::_ptr_t;
 
 namespace {
 
@@ -110,6 +121,66 @@ LayerOutcome repair(MapDocument const& document, QString const& text) {
   });
 }
 
+// A layer and, after the colon behind it, a condition.
+struct Counted {
+  QString layer, condition;
+  bool hasCondition;
+
+  static Counted of(QString const& text) {
+    int const colon = text.indexOf(QLatin1Char(':'), QStringLiteral("layer:").size());
+    return {text.left(colon), colon < 0 ? QString() : text.mid(colon + 1), colon >= 0};
+  }
+};
+bool isCounted(QString const& text) { return areThings({{Counted::of(text).layer}, {}}); }
+
+_ptr_t<VectorLayer> featuresOf(Rows const& rows) {
+  return rows.size() == 1 ? SysUtility::ptr_cast<VectorLayer>(rows.first().layer) : nullptr;
+}
+
+QJsonObject jsonOf(SysCarto::ClassCounts const& counts, SysCarto::RendererSettings const& renderer) {
+  QJsonArray classes;
+  for (size_t i = 0; i < counts.counts().size(); ++i)
+    classes << QJsonObject{{QStringLiteral("label"), renderer.classes[i].label},
+                           {QStringLiteral("features"), counts.counts()[i]}};
+  return {{QStringLiteral("features"), counts.features()},
+          {QStringLiteral("classes"), classes},
+          {QStringLiteral("others"), counts.others()}};
+}
+
+// Those that meet a condition, or those of each class.
+LayerOutcome countFeatures(MapDocument const& document, QString const& text) {
+  constexpr int sliceMs = 100;
+  Counted const value = Counted::of(text);
+  return with(document, {{value.layer}, {}}, [&](Rows const& rows) {
+    auto const layer = featuresOf(rows);
+    if (!layer) return LayerOutcome{Texts::tr("only one layer of features can be counted."), {}, {}};
+    auto const& renderer = layer->renderer().settings();
+    LayerOutcome outcome;
+    auto const counts = value.hasCondition
+                            ? SysCarto::ClassCounts::open(layer->source(), value.condition, outcome.problem)
+                            : SysCarto::ClassCounts::open(layer->source(), renderer, outcome.problem);
+    if (!counts) return outcome;
+    while (counts->advance(sliceMs)) continue;
+    QJsonObject const passing{{QStringLiteral("features"), counts->features()},
+                              {QStringLiteral("passing"), counts->counts().front()}};
+    Console::print(SysUtility::jsonLine(value.hasCondition ? passing : jsonOf(*counts, renderer)));
+    return outcome;
+  });
+}
+
+// By the keys that fit best; what finds no partner is told.
+LayerOutcome joinTable(MapDocument const& document, QString const& text) {
+  Named const value = Named::of(text, true);
+  return with(document, value, [&](Rows const& rows) {
+    auto const layer = featuresOf(rows);
+    if (!layer) return LayerOutcome{Texts::tr("only one layer of features can be joined to a table."), {}, {}};
+    LayerOutcome outcome{{}, rows, {}};
+    auto const join = guessJoin(layer->source(), QFileInfo(value.where).absoluteFilePath(), QString(), outcome.problem);
+    if (outcome.problem.isEmpty()) outcome.problem = giveJoin(document, rows.first(), join, -1, outcome.warnings);
+    return outcome;
+  });
+}
+
 }  // namespace
 
 QVector<LayerStep> const& LayerStep::all() {
@@ -124,6 +195,8 @@ QVector<LayerStep> const& LayerStep::all() {
       {text("group"),        text("LAYER,LAYER…@NAME"),  areLayersPerhapsMore, group},
       {text("ungroup"),      text("LAYER,LAYER…"),       areLayers,            onRows<LayerActions::ungroup>},
       {text("zoom"),         text("LAYER,LAYER…"),       areLayers,            zoom},
+      {text("count"),        text("LAYER:CONDITION"),    isCounted,            countFeatures},
+      {text("join"),         text("LAYER@FILE"),         areLayersAndMore,     joinTable},
       {text("repair"),       text("LAYER@FILE"),         areLayersAndMore,     repair},
   };
   // clang-format on

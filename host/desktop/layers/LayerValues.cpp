@@ -180,6 +180,13 @@ Editable::Pointer LayerActions::editable(LayerRow const& row) {
   return row.map ? Editable::map(row.map) : nullptr;
 }
 
+bool LayerActions::isThere(SysCarto::MapDocument const& document, LayerRow const& row) {
+  QList<_ptr_t<Map>> maps;
+  document.GetMaps(maps);
+  return maps.contains(row.map) && (!row.layer || row.map->GetLayers().contains(row.layer)) &&
+         (!row.group || groupsOf(*row.map).contains(row.group));
+}
+
 QString LayerActions::problemOf(LayerRow const& row) {
   auto const vector = SysUtility::ptr_cast<VectorLayer>(row.layer);
   return vector ? vector->problem() : QString();

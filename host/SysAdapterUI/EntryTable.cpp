@@ -1,0 +1,149 @@
+#include "EntryTable.h"
+
+#include "FieldText.h"
+#include "PropertyDelegate.h"
+#include "PropertySheet.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace SysAdapterUI {
+
+namespace {
+
+constexpr int leastWidthPx = 70, mostWidthPx = 260, rowsForWidths = 100;
+
+}  // namespace
+
+EntryTable::EntryTable(PropertySheet& sheet, Ways const& ways, QWidget* parent)
+    : QWidget(parent),
+      sheet_(sheet),
+      ways_(ways),
+      entries_(new EntryModel(sheet.model(), this)),
+      view_(new QTableView(this)),
+      told_(new QLabel(this)),
+      buttons_(new QHBoxLayout) {
+  struct Face {
+    QString text;
+    char const* name;
+  };
+  Face const faces[] = {{tr("&Add"), "pushButton_AddEntry"},        {tr("&Change…"), "pushButton_ChangeEntry"},
+                        {tr("&Duplicate"), "pushButton_CopyEntry"}, {tr("&Remove"), "pushButton_RemoveEntry"},
+                        {tr("&Up"), "pushButton_RaiseEntry"},       {tr("Do&wn"), "pushButton_LowerEntry"}};
+  for (int i = 0; i < count; ++i) {
+    press_[i] = new QPushButton(ways.add && i == Add ? tr("&Add…") : faces[i].text, this);
+    press_[i]->setObjectName(QLatin1String(faces[i].name));
+    press_[i]->setAutoDefault(false);
+    connect(press_[i], &QPushButton::clicked, this, [this, i] { press(static_cast<Button>(i)); });
+    buttons_->addWidget(press_[i]);
+  }
+  press_[Change]->setVisible(static_cast<bool>(ways.change));
+  press_[Duplicate]->setVisible(!ways.add);
+  buttons_->addStretch(1);
+
+  view_->setObjectName(QStringLiteral("tableView_Entries"));
+  view_->setModel(entries_);
+  auto* const delegate = new PropertyDelegate(view_);
+  connect(delegate, &PropertyDelegate::editing, &sheet, &PropertySheet::editing);
+  view_->setItemDelegate(delegate);
+  view_->setSelectionMode(QAbstractItemView::SingleSelection);
+  view_->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed |
+                         QAbstractItemView::DoubleClicked);
+  view_->setTabKeyNavigation(false);
+  view_->setWordWrap(false);
+  view_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  view_->verticalHeader()->setDefaultSectionSize(QComboBox().sizeHint().height());
+  view_->horizontalHeader()->setHighlightSections(false);
+  told_->setWordWrap(true);
+  told_->setTextFormat(Qt::PlainText);
+  told_->setObjectName(QStringLiteral("label_EntryProblem"));
+  QPalette colors = told_->palette();
+  colors.setColor(QPalette::WindowText, problemColor(colors));
+  told_->setPalette(colors);
+  auto* const column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(view_, 1);
+  column->addWidget(told_);
+  column->addLayout(buttons_);
+
+  auto* const removal = new QShortcut(QKeySequence::Delete, view_);
+  removal->setContext(Qt::WidgetShortcut);
+  connect(removal, &QShortcut::activated, this, [this] { press(Remove); });
+  connect(view_, &QTableView::activated, this, [this](QModelIndex const& index) {
+    QModelIndex const field = entries_->mapToSource(index);
+    if (field.isValid() && entries_->fields().isSymbol(field)) emit sheet_.symbolWanted(field);
+  });
+  connect(view_->selectionModel(), &QItemSelectionModel::currentChanged, this, &EntryTable::showState);
+  connect(entries_, &QAbstractItemModel::dataChanged, this, &EntryTable::showState);
+  connect(entries_, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+    row_ = currentRow();
+    column_ = std::max(0, view_->currentIndex().column());
+  });
+  connect(entries_, &QAbstractItemModel::modelReset, this, &EntryTable::settle);
+  settle();
+}
+
+EntryTable::~EntryTable() = default;
+
+int EntryTable::currentRow() const { return view_->currentIndex().row(); }
+
+void EntryTable::finish() {
+  QWidget* const editor = view_->indexWidget(view_->currentIndex());
+  if (!editor) return;
+  emit view_->itemDelegate()->commitData(editor);
+  emit view_->itemDelegate()->closeEditor(editor);
+}
+
+// The row that was chosen is chosen again where there are enough.
+void EntryTable::settle() {
+  setVisible(entries_->list().isValid());
+  int const rows = entries_->rowCount();
+  if (row_ >= 0 && rows > 0) view_->setCurrentIndex(entries_->index(std::min(row_, rows - 1), column_));
+  fitColumns();
+  showState();
+}
+
+void EntryTable::fitColumns() {
+  auto* const header = view_->horizontalHeader();
+  header->setResizeContentsPrecision(rowsForWidths);
+  view_->resizeColumnsToContents();
+  for (int i = 0; i < header->count(); ++i)
+    header->resizeSection(i, std::clamp(header->sectionSize(i), leastWidthPx, mostWidthPx));
+}
+
+void EntryTable::showState() {
+  int const row = currentRow(), rows = entries_->rowCount();
+  QModelIndex const list = entries_->list(), field = entries_->mapToSource(view_->currentIndex());
+  QString problem = list.isValid() ? list.data(PropertyModel::ProblemRole).toString() : QString();
+  if (problem.isEmpty() && row >= 0) problem = entries_->entry(row).data(PropertyModel::ProblemRole).toString();
+  if (problem.isEmpty()) problem = field.data(PropertyModel::ProblemRole).toString();
+  told_->setText(problem);
+  told_->setVisible(!problem.isEmpty());
+  for (Button const button : {Change, Duplicate, Remove}) press_[button]->setEnabled(row >= 0);
+  press_[Up]->setEnabled(row > 0);
+  press_[Down]->setEnabled(row >= 0 && row + 1 < rows);
+}
+
+void EntryTable::press(Button button) {
+  PropertyModel& model = entries_->fields();
+  int const row = currentRow();
+  if (button == Add && ways_.add) return ways_.add();
+  if (button != Add && row < 0) return;
+  if (button == Change) return ways_.change(row);
+  if (button == Remove) return model.removeEntry(entries_->entry(row));
+  QModelIndex const now = button == Add         ? model.addEntry(entries_->list())
+                          : button == Duplicate ? model.duplicateEntry(entries_->entry(row))
+                                                : model.moveEntry(entries_->entry(row), button == Up ? -1 : 1);
+  if (now.parent().isValid()) view_->setCurrentIndex(entries_->index(now.row(), column_));
+  showState();
+}
+
+}  // namespace SysAdapterUI
