@@ -5772,6 +5772,10 @@
         <source>Credits</source>
         <translation>Quellen</translation>
     </message>
+    <message>
+        <source>No table is joined.</source>
+        <translation>Es ist keine Tabelle verknüpft.</translation>
+    </message>
 </context>
 <context>
     <name>LayerSteps</name>

@@ -5772,6 +5772,10 @@
         <source>Credits</source>
         <translation>数据来源</translation>
     </message>
+    <message>
+        <source>No table is joined.</source>
+        <translation>没有连接任何表。</translation>
+    </message>
 </context>
 <context>
     <name>LayerSteps</name>

@@ -28,6 +28,7 @@ public:
 
   /// By entry; empty where they are not known.
   void setCounts(QVector<qint64> const& counts);
+  bool hasCounts() const { return !counts_.isEmpty(); }  ///< in the last column
 
   QModelIndex mapToSource(QModelIndex const& index) const override;
   QModelIndex mapFromSource(QModelIndex const& index) const override;

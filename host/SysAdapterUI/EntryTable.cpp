@@ -65,9 +65,6 @@ EntryTable::EntryTable(PropertySheet& sheet, Ways const& ways, QWidget* parent)
   told_->setWordWrap(true);
   told_->setTextFormat(Qt::PlainText);
   told_->setObjectName(QStringLiteral("label_EntryProblem"));
-  QPalette colors = told_->palette();
-  colors.setColor(QPalette::WindowText, problemColor(colors));
-  told_->setPalette(colors);
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(view_, 1);
@@ -102,11 +99,11 @@ void EntryTable::finish() {
   emit view_->itemDelegate()->closeEditor(editor);
 }
 
-// The row that was chosen is chosen again where there are enough.
+// The row that was chosen is chosen again where there are enough, and the first one at the beginning.
 void EntryTable::settle() {
   setVisible(entries_->list().isValid());
   int const rows = entries_->rowCount();
-  if (row_ >= 0 && rows > 0) view_->setCurrentIndex(entries_->index(std::min(row_, rows - 1), column_));
+  if (rows > 0) view_->setCurrentIndex(entries_->index(std::clamp(row_, 0, rows - 1), column_));
   fitColumns();
   showState();
 }
@@ -115,6 +112,9 @@ void EntryTable::fitColumns() {
   auto* const header = view_->horizontalHeader();
   header->setResizeContentsPrecision(rowsForWidths);
   view_->resizeColumnsToContents();
+  for (int i = 0; i < header->count(); ++i) header->moveSection(header->visualIndex(i), i);
+  // Beside the symbol, where they are seen.
+  if (entries_->hasCounts()) header->moveSection(header->count() - 1, 1);
   for (int i = 0; i < header->count(); ++i)
     header->resizeSection(i, std::clamp(header->sectionSize(i), leastWidthPx, mostWidthPx));
 }
@@ -125,6 +125,11 @@ void EntryTable::showState() {
   QString problem = list.isValid() ? list.data(PropertyModel::ProblemRole).toString() : QString();
   if (problem.isEmpty() && row >= 0) problem = entries_->entry(row).data(PropertyModel::ProblemRole).toString();
   if (problem.isEmpty()) problem = field.data(PropertyModel::ProblemRole).toString();
+  bool const isProblem = !problem.isEmpty();
+  if (!isProblem && rows == 0) problem = list.data(PropertyModel::HelpRole).toString();
+  QPalette colors = palette();
+  if (isProblem) colors.setColor(QPalette::WindowText, problemColor(colors));
+  told_->setPalette(colors);
   told_->setText(problem);
   told_->setVisible(!problem.isEmpty());
   for (Button const button : {Change, Duplicate, Remove}) press_[button]->setEnabled(row >= 0);

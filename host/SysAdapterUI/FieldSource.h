@@ -19,6 +19,9 @@ public:
   /// What a text of the kind `TextKind::Attribute` may name.
   virtual QStringList attributes() const { return {}; }
 
+  /// What else the text at a path is likely to be.
+  virtual QStringList namesFor(QStringList const& /*path*/) const { return {}; }
+
   /// Where one of these fields lies in the thing shown: its key, where that is not deeper in it.
   virtual QStringList placeOf(SysUtility::SheetField const& field) const { return {field.key()}; }
 

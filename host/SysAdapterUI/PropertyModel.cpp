@@ -333,11 +333,11 @@ void PropertyModel::refreshSoon() {
 }
 
 QStringList PropertyModel::suggestions(QModelIndex const& index) const {
-  FieldInfo const& info = nodeAt(index).field.info;
-  if (info.kind == Kind::Text && QLatin1String(info.field.key) == QLatin1String("family"))
-    return QFontDatabase().families();
-  bool const isAttribute = info.kind == Kind::Text && info.rules.textKind == TextKind::Attribute;
-  return isAttribute && source_ ? source_->attributes() : QStringList();
+  Node const& node = nodeAt(index);
+  FieldInfo const& info = node.field.info;
+  if (info.kind != Kind::Text || !source_) return {};
+  if (QLatin1String(info.field.key) == QLatin1String("family")) return QFontDatabase().families();
+  return info.rules.textKind == TextKind::Attribute ? source_->attributes() : source_->namesFor(node.path);
 }
 
 std::function<std::optional<QString>(QString const&, QWidget*)> PropertyModel::chooserOf(

@@ -174,9 +174,10 @@ bool DocumentFiles::read(QString const& path) {
       !confirm(lock->holder(),
                tr("Open %1 to read it? Changes are then saved under another name.").arg(QFileInfo(path).fileName())))
     return false;
-  ReadingProgress progress(parent_);
-  bool const isOpen = session_.open(path, progress.watch());
-  if (!isOpen && progress.wasStopped()) return false;
+  auto progress = std::make_unique<ReadingProgress>(parent_);
+  bool const isOpen = session_.open(path, progress->watch());
+  if (!isOpen && progress->wasStopped()) return false;
+  progress.reset();  // it would show itself over what is told now
   if (!isOpen) {
     tell(QMessageBox::Critical, tr("The document was not opened."), {session_.takeProblem()});
     return false;

@@ -190,6 +190,22 @@ private slots:
     while (history->CanUndo()) history->Undo();
     QVERIFY(MapDocumentHost::text(document) == start);
 
+    // Classes become rules, and a new one begins with the symbol of the one before.
+    QStringList warnings;
+    auto const set = [&](QStringList const& path, QJsonValue const& value) {
+      return SysCarto::Editable::set(
+          document, {SysCarto::Editable::layer(towns.map, towns.layer)}, path, [&](QJsonValue const&) { return value; },
+          warnings);
+    };
+    QCOMPARE(set({"renderer", "type"}, "uniqueValues"), QString());
+    for (int i = 0; i < 2; ++i) QCOMPARE(set({"renderer", "classes", "-"}, QJsonObject()), QString());
+    QCOMPARE(set({"renderer", "type"}, "rules"), QString());
+    QCOMPARE(set({"renderer", "rules", "-"}, QJsonObject()), QString());
+    auto const& drawn = SysUtility::ptr_cast<SysCarto::VectorLayer>(towns.layer)->renderer().settings();
+    QVERIFY(SysUtility::ptr_cast<SysDisplay::SimpleMarkerSymbol>(drawn.classes.at(0).symbol));
+    while (history->CanUndo()) history->Undo();
+    QVERIFY(MapDocumentHost::text(document) == start);
+
     // What has gone is no longer shown.
     LayerActions::remove({towns});
     QTRY_VERIFY(!sheet.isVisible() && !sheet.layer().layer);
@@ -222,15 +238,19 @@ private slots:
   void aConditionIsWrittenOfFieldsAndValuesAndTested() {
     using Kind = ConditionDialog::Kind;
     ConditionDialog dialog({towns_, {}, {}, {}}, Kind::Condition, {}, nullptr);
+    dialog.show();
     auto& names = in<QTreeWidget>(dialog, "treeWidget_Fields");
     auto& values = in<QListWidget>(dialog, "listWidget_Values");
     QCOMPARE(names.topLevelItem(4)->text(1), QString("whole number"));
     names.setCurrentItem(names.topLevelItem(3));
     QTRY_COMPARE(values.count(), 5);
-    emit names.itemActivated(names.currentItem(), 0);
+    QSignalSpy const closed(&dialog, &QDialog::finished);
+    QTest::keyClick(&names, Qt::Key_Return);
     for (auto* const button : dialog.findChildren<QPushButton*>())
       if (button->text() == "=") button->click();
-    emit values.itemActivated(values.item(0));
+    values.setCurrentRow(0);
+    QTest::keyClick(&values, Qt::Key_Return);
+    QCOMPARE(closed.count(), 0);
     QCOMPARE(dialog.text(), QString("\"town name\" = 'O''Hara'"));
     QCOMPARE(tested(dialog), QString("1 of 5 features pass."));
     auto& text = in<QPlainTextEdit>(dialog, "plainTextEdit_Condition");

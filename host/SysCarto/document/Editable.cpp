@@ -184,8 +184,22 @@ struct Wanted {
 };
 
 // What has another kind keeps what it can: a symbol that becomes one of layers is the lowest of them, and the other way
-// round; the symbol of a renderer goes on drawing.
+// round; the symbol of a renderer goes on drawing. A new class begins with the symbol of the one before.
 Wanted wantedOf(Fields::Describe const& list, QStringList const& path, SysUtility::NewValue const& value) {
+  if (path.size() == 3 && path.first() == QLatin1String("renderer") && path.last() == QLatin1String("-")) {
+    FieldSheet sheet;
+    list(sheet);
+    SheetField const* const renderer = fieldAt(sheet.fields(), {path.first()});
+    QJsonValue const symbol = renderer ? symbolForNewClass(wholeValue(*renderer).toObject()) : QJsonValue();
+    return {path, [value, symbol](QJsonValue const& now) {
+              QJsonValue const made = value(now);
+              QJsonObject with = made.toObject();
+              QString const key = QStringLiteral("symbol");
+              if (!made.isObject() || with.contains(key) || !symbol.isObject()) return made;
+              with[key] = symbol;
+              return QJsonValue(with);
+            }};
+  }
   if (path.last() != QLatin1String("type")) return {path, value};
   FieldSheet sheet;
   list(sheet);

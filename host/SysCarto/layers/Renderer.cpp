@@ -342,8 +342,18 @@ QJsonObject rendererAs(QJsonObject const& renderer, QString const& kind) {
   bool const isProportional = kind == QLatin1String("proportional");
   if (drawn.isObject() && (!isProportional || isMarker))
     as.insert(kind == simple || isProportional ? symbol : others, drawn);
-  if (kind != simple && renderer.contains(field)) as.insert(field, renderer.value(field));
+  bool const hasField = kind != simple && kind != QLatin1String("rules");
+  if (hasField && renderer.contains(field)) as.insert(field, renderer.value(field));
   return as;
+}
+
+QJsonValue symbolForNewClass(QJsonObject const& renderer) {
+  for (char const* const list : {"rules", "classes"}) {
+    QJsonArray const classes = renderer.value(QLatin1String(list)).toArray();
+    if (!classes.isEmpty()) return classes.last().toObject().value(QLatin1String("symbol"));
+  }
+  QJsonValue const others = renderer.value(QLatin1String("defaultSymbol"));
+  return others.isObject() ? others : QJsonValue(QJsonValue::Undefined);
 }
 
 }  // namespace SysCarto

@@ -81,6 +81,10 @@ struct SYSCARTO_EXPORT RendererSettings {
 /// drawing those that are in no class.
 SYSCARTO_EXPORT QJsonObject rendererAs(QJsonObject const& renderer, QString const& kind);
 
+/// The JSON of the symbol with which a new class or rule of a renderer begins: that of the last one, or else that of
+/// the others. Undefined where there is none.
+SYSCARTO_EXPORT QJsonValue symbolForNewClass(QJsonObject const& renderer);
+
 /// One property of the symbol of a class that follows the features.
 struct VariedProperty {
   enum class Kind { Size, Color, Angle };

@@ -1,5 +1,6 @@
 #include "ConditionDialog.h"
 
+#include "ReturnKeeper.h"
 #include "TestBar.h"
 
 #include "host/SysAdapterUI/SystemChooser.h"
@@ -88,7 +89,7 @@ ConditionDialog::ConditionDialog(SourceSettings source, Kind kind, QString const
   connect(testResults, &QPushButton::clicked, this, &ConditionDialog::testExpression);
 
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  keepReturn(*buttons);
+  new ReturnKeeper(*this);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* const testRow = new QHBoxLayout;

@@ -68,6 +68,12 @@ void FileFacts::show(SourceSettings const& source) {
   if (source.data == SourceSettings::Data::File && !source.file.isEmpty()) descriptions_->describe({source.file});
 }
 
+QStringList FileFacts::layerNames() const {
+  QStringList names;
+  for (LayerDescription const& layer : file_.layers) names << layer.name;
+  return names;
+}
+
 void FileFacts::take(DataFile const& file) {
   file_ = file;
   auto const& layers = file.layers;

@@ -22,6 +22,9 @@ public:
   /// The coordinate system that the file says, for people; empty where it says none or is not read yet.
   QString systemText() const { return system_; }
 
+  /// Of the file, as far as it was read.
+  QStringList layerNames() const;
+
 signals:
   void found();
 

@@ -1,9 +1,11 @@
 #include "JoinDialog.h"
 
 #include "JoinKeys.h"
+#include "ReturnKeeper.h"
 #include "TestBar.h"
 
 #include "host/SysCarto/layers/DataCatalogue.h"
+#include "host/SysCarto/layers/FeatureReader.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -39,6 +41,9 @@ JoinDialog::JoinDialog(SourceSettings features, TableJoin const& join, QString c
   build();
   QString problem;
   for (auto const& field : SysCarto::fieldsOf(features_, problem)) key_->addItem(field.name);
+  SourceSettings bare = features_;
+  bare.joins.clear();
+  ownFields_ = SysCarto::attributesOf(bare);
   isSettling_ = true;
   file_->setText(QDir::toNativeSeparators(join.file));
   takeFile();
@@ -82,7 +87,9 @@ void JoinDialog::build() {
   rows_->setTabKeyNavigation(false);
   rows_->setAccessibleName(tr("The first rows of the table"));
   auto const begin = [this](QString& problem) {
+    // The tables before have their say only where they bring the key.
     SourceSettings joined = features_;
+    if (ownFields_.contains(key_->currentText())) joined.joins.clear();
     joined.joins.push_back(join());
     return SysCarto::ClassCounts::open(joined, QString(), problem);
   };
@@ -93,7 +100,7 @@ void JoinDialog::build() {
   };
   test_ = new TestBar(tr("&Test"), tr("Count the features that find a row"), begin, tell, this);
   buttons_ = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  keepReturn(*buttons_);
+  new ReturnKeeper(*this);
   connect(buttons_, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(choose, &QPushButton::clicked, this, &JoinDialog::chooseFile);
@@ -102,7 +109,9 @@ void JoinDialog::build() {
   fileRow->addWidget(file_, 1);
   fileRow->addWidget(choose);
   auto* const form = new QFormLayout;
-  form->addRow(tr("&File"), fileRow);
+  auto* const fileLabel = new QLabel(tr("&File"), this);
+  fileLabel->setBuddy(file_);
+  form->addRow(fileLabel, fileRow);
   form->addRow(tr("&Layer of the file"), layer_);
   form->addRow(tr("&Key of the features"), key_);
   form->addRow(tr("K&ey of the table"), tableKey_);

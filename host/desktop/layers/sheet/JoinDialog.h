@@ -3,6 +3,7 @@
 #include "host/SysCarto/layers/SourceSettings.h"
 
 #include <QDialog>
+#include <QStringList>
 
 #include <optional>
 
@@ -36,6 +37,7 @@ private:
 
   SysCarto::SourceSettings const features_;
   QString const folder_;
+  QStringList ownFields_;  // without those of tables
   QLineEdit* file_ = nullptr;
   QComboBox* layer_ = nullptr;
   QComboBox* key_ = nullptr;

@@ -5,6 +5,7 @@
 #include "JoinDialog.h"
 #include "JoinKeys.h"
 #include "OpacitySlider.h"
+#include "ReturnKeeper.h"
 #include "SheetTabs.h"
 #include "TestBar.h"
 
@@ -42,10 +43,11 @@ using SysUtility::SheetField;
 
 namespace {
 
-constexpr QSize firstSize(760, 620);
+constexpr QSize firstSize(900, 640);
 constexpr int captionPx = 190;
 
 QStringList const filterPath{QStringLiteral("source"), QStringLiteral("filter")};
+QStringList const layerPath{QStringLiteral("source"), QStringLiteral("layer")};
 QStringList const systemPath{QStringLiteral("source"), QStringLiteral("coordinateSystem")};
 
 QPushButton* button(QString const& text, char const* name, QWidget* parent) {
@@ -73,7 +75,7 @@ LayerSheet::LayerSheet(DocumentSession& session, QWidget* parent)
   told_->setTextFormat(Qt::PlainText);
   told_->hide();
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-  keepReturn(*buttons);
+  new ReturnKeeper(*this);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* const column = new QVBoxLayout(this);
   column->addWidget(pages_, 1);
@@ -162,7 +164,8 @@ void LayerSheet::addFilterTest(QVBoxLayout& page) {
 
 void LayerSheet::addJoinTest(QVBoxLayout& page) {
   auto const begin = [this](QString& problem) -> std::unique_ptr<ClassCounts> {
-    return vector() ? ClassCounts::open(vector()->source(), QString(), problem) : nullptr;
+    if (!vector() || vector()->source().joins.empty()) problem = tr("No table is joined.");
+    return problem.isEmpty() ? ClassCounts::open(vector()->source(), QString(), problem) : nullptr;
   };
   auto const say = [](ClassCounts const& counts) {
     QString const all = tr("All %1 features found their rows.").arg(QLocale().toString(counts.features()));
@@ -217,6 +220,17 @@ QString LayerSheet::telling(ClassCounts const& counts) {
   return features + QLatin1Char(' ') + tr("In no class: %1.").arg(locale.toString(counts.others()));
 }
 
+// The first row is chosen, and what holds fields is open, but no symbol.
+void LayerSheet::begin(PropertySheet& sheet) {
+  QAbstractItemModel const& rows = *sheet.view().model();
+  for (int i = 0; i < rows.rowCount(); ++i) {
+    QModelIndex const row = rows.index(i, PropertyModel::ValueColumn);
+    QModelIndex const field = sheet.model().indexOf(row.data(PropertyModel::PathRole).toStringList());
+    sheet.view().setExpanded(row.siblingAtColumn(0), !sheet.model().isSymbol(field));
+  }
+  sheet.view().setCurrentIndex(rows.index(0, PropertyModel::ValueColumn));
+}
+
 void LayerSheet::showLayer(SysCarto::LayerRow const& row, QString const& tab) {
   finishTyping();
   if (!(row_ == row)) {
@@ -226,8 +240,7 @@ void LayerSheet::showLayer(SysCarto::LayerRow const& row, QString const& tab) {
     tell({}, false);
     for (Tab const& one : tabs_) {
       one.sheet->show(one.fields.get());
-      one.sheet->view().expandToDepth(0);
-      one.sheet->view().setCurrentIndex(one.sheet->view().model()->index(0, PropertyModel::ValueColumn));
+      begin(*one.sheet);
     }
   }
   if (!tab.isEmpty()) pages_->setCurrentWidget(pages_->findChild<QWidget*>(tab));
@@ -248,6 +261,10 @@ QString LayerSheet::folder() const {
 QVector<SheetField> LayerSheet::fields() { return SysCarto::Editable::fields(session_.document(), things_).value(0); }
 
 QStringList LayerSheet::attributes() const { return things_.isEmpty() ? QStringList() : things_.first()->attributes(); }
+
+QStringList LayerSheet::namesFor(QStringList const& path) const {
+  return path == layerPath ? facts_->layerNames() : QStringList();
+}
 
 bool LayerSheet::canChoose(SysUtility::TextKind kind) const {
   return kind == SysUtility::TextKind::CoordinateSystem || kind == SysUtility::TextKind::Condition;

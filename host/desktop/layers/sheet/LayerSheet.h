@@ -53,11 +53,13 @@ private:
 
   QVector<SysUtility::SheetField> fields() override;
   QStringList attributes() const override;
+  QStringList namesFor(QStringList const& path) const override;
   bool canChoose(SysUtility::TextKind kind) const override;
   std::optional<QString> choose(QStringList const& path, QString const& now, QWidget* parent) override;
   QString set(QStringList const& path, SysUtility::NewValue const& value, QString const& joining) override;
 
   void addTab(int tab);
+  static void begin(SysAdapterUI::PropertySheet& sheet);
   void addOpacity(QVBoxLayout& page);
   void addFilterTest(QVBoxLayout& page);
   void addJoinTest(QVBoxLayout& page);

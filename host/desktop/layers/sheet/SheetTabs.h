@@ -26,6 +26,7 @@ public:
   QVector<SysUtility::SheetField> fields() override;
   QStringList placeOf(SysUtility::SheetField const& field) const override { return places_.value(field.key()); }
   QStringList attributes() const override { return whole_.attributes(); }
+  QStringList namesFor(QStringList const& path) const override { return whole_.namesFor(path); }
   bool canChoose(SysUtility::TextKind kind) const override { return whole_.canChoose(kind); }
   std::optional<QString> choose(QStringList const& path, QString const& now, QWidget* parent) override {
     return whole_.choose(path, now, parent);

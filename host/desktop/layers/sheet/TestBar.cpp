@@ -2,7 +2,6 @@
 
 #include "host/SysAdapterUI/FieldText.h"
 
-#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -93,12 +92,4 @@ void TestBar::say(QString const& sentence, bool isProblem) {
   if (isProblem) colors.setColor(QPalette::WindowText, SysAdapterUI::problemColor(colors));
   told_->setPalette(colors);
   told_->setText(sentence);
-}
-
-void keepReturn(QDialogButtonBox const& buttons) {
-  for (QAbstractButton* const one : buttons.buttons())
-    if (auto* const button = qobject_cast<QPushButton*>(one)) {
-      button->setAutoDefault(false);
-      button->setDefault(false);
-    }
 }

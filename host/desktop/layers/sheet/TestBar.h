@@ -8,7 +8,6 @@
 #include <functional>
 #include <memory>
 
-class QDialogButtonBox;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -52,6 +51,3 @@ private:
   QTimer slices_;
   std::unique_ptr<SysCarto::ClassCounts> counts_;
 };
-
-/// Return is about what has the focus, as the fields of a list, and presses no button of the dialog.
-void keepReturn(QDialogButtonBox const& buttons);
