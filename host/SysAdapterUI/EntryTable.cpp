@@ -92,6 +92,8 @@ EntryTable::~EntryTable() = default;
 
 int EntryTable::currentRow() const { return view_->currentIndex().row(); }
 
+bool EntryTable::isEditing() const { return view_->indexWidget(view_->currentIndex()) != nullptr; }
+
 void EntryTable::finish() {
   QWidget* const editor = view_->indexWidget(view_->currentIndex());
   if (!editor) return;

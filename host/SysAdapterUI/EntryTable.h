@@ -35,6 +35,8 @@ public:
   EntryModel& entries() { return *entries_; }
   QTableView& view() { return *view_; }
 
+  bool isEditing() const;
+
   /// Takes the value that is being edited.
   void finish();
 

@@ -140,7 +140,8 @@ MainWindow::~MainWindow() {
 
 void MainWindow::addWindowCommands(HostCommands& host) {
   auto const modified = [this] {
-    return bench_.session().isModified() || bench_.session().path().isEmpty() || properties_->isEditing();
+    return bench_.session().isModified() || bench_.session().path().isEmpty() || properties_->isEditing() ||
+           layers_.isEditing();
   };
   layers_.addTo(host);
   auto const always = std::function<bool()>(), never = always;
@@ -247,6 +248,7 @@ void MainWindow::connectFiles() {
   });
   bench_.commands().setGuard([this](CommandEntry const& entry) {
     properties_->finish();
+    layers_.finishTyping();
     if (entry.identifier == QLatin1String("Plotvane_Export")) return files_.mayExport();
     return question_.mayRun(entry.identifier);
   });
@@ -411,6 +413,7 @@ void MainWindow::showAbout() {
 // What is being typed belongs to the document that is about to be left.
 void MainWindow::finishTyping() {
   properties_->finish();
+  layers_.finishTyping();
   bench_.views().layoutView().finishEditing();
 }
 

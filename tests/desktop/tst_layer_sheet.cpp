@@ -344,6 +344,16 @@ private slots:
     auto* const sheet = window.findChild<LayerSheet*>();
     QVERIFY(sheet && sheet->isVisible());
     QVERIFY(sheet->actions().contains(window.actions().find("Host_Undo")));
+
+    // What is being typed in it is saved.
+    auto& credits = *in<QWidget>(*sheet, "Credits").findChild<PropertySheet*>();
+    sheet->showLayer(sheet->layer(), "Credits");
+    credits.view().edit(credits.view().currentIndex());
+    qobject_cast<QLineEdit*>(credits.view().indexWidget(credits.view().currentIndex()))->insert("Survey");
+    QAction* const save = window.actions().find("Host_Save");
+    QTRY_VERIFY(save->isEnabled());
+    save->trigger();
+    QVERIFY(contentOf(folder_.filePath("start.kdx")).contains("\"credits\": \"Survey\""));
     sheet->close();
     tree.setFocus();
     QTest::keyClick(&tree, Qt::Key_Return);
@@ -360,6 +370,7 @@ private slots:
     QCOMPARE(SysCarto::LayerHost::effects(*layer).opacityPercent, 70.0);
     window.bench().session().document().GetOperationStack()->Undo();
     QCOMPARE(SysCarto::LayerHost::effects(*layer).opacityPercent, 100.0);
+    window.bench().session().save();
   }
 
 private:

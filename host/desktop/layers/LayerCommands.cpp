@@ -191,9 +191,16 @@ LayerOutcome LayerCommands::focus(Rows const& rows) {
   return {};
 }
 
+bool LayerCommands::isEditing() const { return sheet_ && sheet_->isEditing(); }
+
+void LayerCommands::finishTyping() {
+  if (sheet_) sheet_->finishTyping();
+}
+
 LayerOutcome LayerCommands::showSheet(Rows const& rows) {
   if (!sheet_) {
     sheet_ = new LayerSheet(bench_.session(), tree_->window());
+    connect(sheet_, &LayerSheet::editing, actions_, &ActionTable::refreshSoon);
     // The keys of the window do not reach another one.
     for (char const* const identifier : {"Host_Undo", "Host_Redo", "Host_Save"})
       sheet_->addAction(actions_->find(QLatin1String(identifier)));

@@ -38,6 +38,10 @@ public:
   /// Takes over what was done: tells its warnings and chooses its rows. Answers its problem.
   QString take(LayerOutcome const& outcome);
 
+  // Of a value in the sheet of a layer.
+  bool isEditing() const;
+  void finishTyping();
+
 signals:
   void told(QString const& sentence);
 

@@ -27,7 +27,7 @@ using SysCarto::TableJoin;
 
 namespace {
 
-constexpr int shownRows = 20, mostColumnPx = 220;
+constexpr int shownRows = 20, mostColumnPx = 220, rowRoomPx = 6;
 
 QString askForFile(QString const& folder, QWidget* parent) {
   return QFileDialog::getOpenFileName(parent, JoinDialog::tr("Which table is to be joined?"), folder);
@@ -85,6 +85,7 @@ void JoinDialog::build() {
   rows_ = named(new QTableWidget(this), "tableWidget_Rows");
   rows_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   rows_->setTabKeyNavigation(false);
+  rows_->verticalHeader()->setDefaultSectionSize(rows_->fontMetrics().height() + rowRoomPx);
   rows_->setAccessibleName(tr("The first rows of the table"));
   auto const begin = [this](QString& problem) {
     // The tables before have their say only where they bring the key.

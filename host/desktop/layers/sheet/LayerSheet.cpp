@@ -34,6 +34,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using SysAdapterUI::EntryTable;
 using SysAdapterUI::PropertyModel;
 using SysAdapterUI::PropertySheet;
@@ -123,6 +125,7 @@ void LayerSheet::addTab(int number) {
   parts->setChildrenCollapsible(false);
   parts->setStretchFactor(1, 1);
   column->addWidget(parts, 1);
+  connect(sheet, &PropertySheet::editing, this, &LayerSheet::editing);
   connect(sheet, &PropertySheet::symbolWanted, this, [this, sheet](QModelIndex const& index) {
     SysAdapterUI::chooseSymbol(sheet->model(), index, groundOfFocusMap(session_.document()), this);
   });
@@ -310,6 +313,11 @@ void LayerSheet::refreshTab() {
   for (int i = 0; i < tab.sheet->model().rowCount(); ++i)
     hasRows = hasRows || !tab.sheet->model().row(tab.sheet->model().index(i, 0)).isList();
   tab.sheet->setVisible(hasRows);
+}
+
+bool LayerSheet::isEditing() const {
+  return std::any_of(tabs_.begin(), tabs_.end(),
+                     [](Tab const& tab) { return tab.sheet->isEditing() || tab.table->isEditing(); });
 }
 
 void LayerSheet::finishTyping() {

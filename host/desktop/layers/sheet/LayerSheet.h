@@ -42,7 +42,16 @@ public:
 
   SysCarto::LayerRow const& layer() const { return row_; }
 
+  bool isEditing() const;
+
+  /// Takes the value that is being edited.
+  void finishTyping();
+
   void done(int result) override;
+
+signals:
+  /// A value begins to be edited.
+  void editing();
 
 private:
   struct Tab {
@@ -67,7 +76,6 @@ private:
   void addClasses(QVBoxLayout& page);
   void follow();
   void refreshTab();
-  void finishTyping();
   void chooseFor(QStringList const& path, QString const& now);
   void give(QStringList const& path, QJsonValue const& value, QString const& joining);
   void classify();
