@@ -148,8 +148,9 @@ void LayerCommands::setTree(SysAdapterUI::ContentsTree& tree, ActionTable& actio
   connect(&tree, &QTreeView::doubleClicked, this, [&tree, &actions, this](QModelIndex const& index) {
     actions.refresh();
     QAction* const sheet = actions.find(QStringLiteral("Host_LayerProperties"));
-    if (isOneOfFeatures(chosen())) return sheet->trigger();
-    tree.setExpanded(index, !tree.isExpanded(index));
+    if (!isOneOfFeatures(chosen())) return tree.setExpanded(index, !tree.isExpanded(index));
+    sheet->trigger();
+    if (tree.rows().isClass(index)) sheet_->showLayer(sheet_->layer(), QStringLiteral("Symbols"));
   });
   tree.addActions(actions.ofContents());
   new OwnKeys(tree);

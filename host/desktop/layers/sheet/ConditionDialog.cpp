@@ -8,6 +8,7 @@
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/layers/MapSystem.h"
 
+#include <QCollator>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -20,6 +21,8 @@
 #include <QSet>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using SysCarto::FieldDescription;
 using SysCarto::SourceSettings;
@@ -196,7 +199,7 @@ void ConditionDialog::showValues() {
   slices_.start(0);
 }
 
-// The first different ones, as far as a person would look for them.
+// The first different ones, as far as a person would look for them, and then in order.
 void ConditionDialog::readValues() {
   QSet<QString> known;
   for (int i = 0; i < values_->count(); ++i) known << values_->item(i)->text();
@@ -211,6 +214,14 @@ void ConditionDialog::readValues() {
   if (isMore && known.size() < mostValues && ms < patienceForValuesMs) return;
   slices_.stop();
   scan_.reset();
+  QStringList sorted = known.values();
+  QCollator order;
+  order.setNumericMode(true);
+  std::sort(sorted.begin(), sorted.end(), order);
+  int const chosen = values_->currentItem() ? sorted.indexOf(values_->currentItem()->text()) : -1;
+  values_->clear();
+  values_->addItems(sorted);
+  values_->setCurrentRow(chosen);
 }
 
 QString ConditionDialog::quotedField(QString const& name) {

@@ -1,6 +1,5 @@
 #include "JoinDialog.h"
 
-#include "JoinKeys.h"
 #include "ReturnKeeper.h"
 #include "TestBar.h"
 
@@ -33,14 +32,19 @@ QString askForFile(QString const& folder, QWidget* parent) {
   return QFileDialog::getOpenFileName(parent, JoinDialog::tr("Which table is to be joined?"), folder);
 }
 
+// What can't be read has no fields, and the dialog says so when it tests.
+TableSample sampleOf(SourceSettings const& features) {
+  QString unread;
+  return TableSample::of(features, JoinKeys::rowsLookedAt, unread);
+}
+
 }  // namespace
 
 JoinDialog::JoinDialog(SourceSettings features, TableJoin const& join, QString const& folder, QWidget* parent)
-    : QDialog(parent), features_(std::move(features)), folder_(folder) {
+    : QDialog(parent), features_(std::move(features)), folder_(folder), sample_(sampleOf(features_)) {
   setWindowTitle(tr("Joined Table"));
   build();
-  QString problem;
-  for (auto const& field : SysCarto::fieldsOf(features_, problem)) key_->addItem(field.name);
+  key_->addItems(sample_.fields);
   SourceSettings bare = features_;
   bare.joins.clear();
   ownFields_ = SysCarto::attributesOf(bare);
@@ -166,8 +170,7 @@ void JoinDialog::takeLayer() {
   rows_->resizeColumnsToContents();
   for (int j = 0; j < rows_->columnCount(); ++j)
     rows_->setColumnWidth(j, std::min(rows_->columnWidth(j), mostColumnPx));
-  QString unread;
-  JoinKeys const keys = JoinKeys::guess(TableSample::of(features_, JoinKeys::rowsLookedAt, unread), table);
+  JoinKeys const keys = JoinKeys::guess(sample_, table);
   if (!keys.own.isEmpty()) {
     key_->setCurrentText(keys.own);
     tableKey_->setCurrentText(keys.table);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/SysCarto/layers/SourceSettings.h"
+#include "JoinKeys.h"
 
 #include <QDialog>
 #include <QStringList>
@@ -37,7 +37,8 @@ private:
 
   SysCarto::SourceSettings const features_;
   QString const folder_;
-  QStringList ownFields_;  // without those of tables
+  TableSample const sample_;  // of the features
+  QStringList ownFields_;     // without those of tables
   QLineEdit* file_ = nullptr;
   QComboBox* layer_ = nullptr;
   QComboBox* key_ = nullptr;

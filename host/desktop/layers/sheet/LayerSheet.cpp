@@ -201,7 +201,7 @@ void LayerSheet::addClasses(QVBoxLayout& page) {
   auto const begin = [this](QString& problem) -> std::unique_ptr<ClassCounts> {
     return vector() ? ClassCounts::open(vector()->source(), vector()->renderer().settings(), problem) : nullptr;
   };
-  auto const say = [this](ClassCounts const& counts) { return telling(counts); };
+  auto const say = [&table = *tabs_.back().table](ClassCounts const& counts) { return telling(counts, table); };
   tests_.push_back(new TestBar(tr("&Test"), tr("Count the features that each class takes"), begin, say, this));
   auto* const classes = button(tr("Make C&lasses…"), "pushButton_Classes", this);
   classes->setToolTip(tr("Make classes of the layer by the values of a field"));
@@ -213,8 +213,7 @@ void LayerSheet::addClasses(QVBoxLayout& page) {
 }
 
 // In the table, too.
-QString LayerSheet::telling(ClassCounts const& counts) {
-  EntryTable& table = *tabs_[static_cast<size_t>(pages_->currentIndex())].table;
+QString LayerSheet::telling(ClassCounts const& counts, EntryTable& table) {
   QLocale const locale;
   if (table.entries().rowCount() == static_cast<int>(counts.counts().size()))
     table.entries().setCounts(QVector<qint64>(counts.counts().begin(), counts.counts().end()));

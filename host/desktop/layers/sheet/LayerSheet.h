@@ -80,7 +80,7 @@ private:
   void give(QStringList const& path, QJsonValue const& value, QString const& joining);
   void classify();
   void join(int row);
-  QString telling(SysCarto::ClassCounts const& counts);
+  static QString telling(SysCarto::ClassCounts const& counts, SysAdapterUI::EntryTable& table);
   SysUtility::_ptr_t<SysCarto::VectorLayer> vector() const;
   QString folder() const;
   void tell(QStringList const& sentences, bool isProblem);
