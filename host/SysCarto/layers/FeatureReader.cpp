@@ -87,7 +87,7 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
                            "Give one in the source's field “coordinateSystem”.")
                            .arg(describeSource(source));
   QString reason;
-  auto projector = GeometryProjector::create(own, target.get(), reason);
+  auto projector = GeometryProjector::remembered(own, target.get(), reason);
   if (!projector)
     result.error = Texts::tr("The coordinates of %1 can't be projected to the map's coordinate system: %2.")
                        .arg(describeSource(source), reason);

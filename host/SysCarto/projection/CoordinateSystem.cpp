@@ -4,12 +4,14 @@
 #include "host/SysGeometry/QuietOgr.h"
 
 #include <QCoreApplication>
+#include <QMutex>
 #include <QRegularExpression>
 
 #include <cpl_conv.h>
 #include <ogr_spatialref.h>
 
 #include <cmath>
+#include <map>
 
 namespace SysCarto {
 
@@ -100,9 +102,21 @@ QString checkCoordinateSystem(QString const& definition) {
   return read(definition, system);
 }
 
+// A document names few systems and asks for them again and again, and PROJ looks each up in its database. What is kept
+// is only copied, and never goes: threads that made it may have gone, and PROJ itself at the end.
 std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definition) {
+  if (definition.isEmpty()) return nullptr;
+  constexpr int mostKept = 64;
+  static QMutex mutex;
+  static auto& known = *new std::map<QString, SystemPtr>;
+  QMutexLocker const locker(&mutex);
+  auto const place = known.find(definition);
+  if (place != known.end()) return SystemPtr(place->second->Clone());
   SystemPtr system;
   read(definition, system);
+  if (!system) return system;
+  if (known.size() >= mostKept) known.clear();
+  known[definition] = SystemPtr(system->Clone());
   return system;
 }
 

@@ -25,6 +25,11 @@ public:
   static std::unique_ptr<GeometryProjector> create(OGRSpatialReference const* source, OGRSpatialReference const* target,
                                                    QString& error);
 
+  /// A copy of one that was made before, where there was one between the same two: to find a transformation and the
+  /// border of what it shows takes longer than to read a small file. May be called by any thread.
+  static std::unique_ptr<GeometryProjector> remembered(OGRSpatialReference const* source,
+                                                       OGRSpatialReference const* target, QString& error);
+
   /// The same for another thread.
   std::unique_ptr<GeometryProjector> clone() const;
 
