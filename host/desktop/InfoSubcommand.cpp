@@ -81,6 +81,13 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
   if (SysCarto::isDataFileName(path)) return tellData(path, parser.isSet(json));
   SysCarto::MapDocument document;
   bool const opened = document.Open(path);
+  if (!opened && QFileInfo::exists(path) &&
+      QFileInfo(path).suffix().compare(QLatin1String("kdx"), Qt::CaseInsensitive)) {
+    Console::complain(
+        Texts::tr("%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.")
+            .arg(path));
+    return WorkFailed;
+  }
   for (QString const& sentence : document.GetWarnings() + document.GetErrors()) Console::complain(sentence);
   if (!opened) return WorkFailed;
 

@@ -90,6 +90,18 @@ std::optional<PinnedLabels> pinIn(FieldText const& field) {
 }
 bool isPin(QString const& text) { return isSetting(text) && pinIn(FieldText::of(text)); }
 
+// Why what stands in the right form has no meaning all the same, whatever the document is.
+QString unclearClasses(QString const& text) {
+  SysCarto::ClassifySettings settings;
+  return LayerClasses::read(FieldText::of(text).value, settings);
+}
+QString unclearExtent(QString const& text) {
+  auto const side = numbersIn(text);
+  return side[0] != side[2] && side[1] != side[3]
+             ? QString()
+             : RunSteps::tr("this rectangle has no area; its corners must differ in x and in y");
+}
+
 bool isPoint(QString const& text) { return numbersIn(text).size() == 2; }
 bool areTwoPoints(QString const& text) { return numbersIn(text).size() == 4; }
 bool isScale(QString const& text) { return scaleDenominatorOf(text).has_value(); }
@@ -110,8 +122,9 @@ struct RunSteps::Kind {
   QString value;  ///< as people are told; empty for a step without one
   bool (*isValue)(QString const&);
   QString (RunSteps::*run)(QString const& value);
-  QString fixed;                        ///< what `run` is given where the step has no value
-  LayerStep const* ofLayers = nullptr;  ///< what is run instead
+  QString fixed;                                 ///< what `run` is given where the step has no value
+  LayerStep const* ofLayers = nullptr;           ///< what is run instead
+  QString (*unclear)(QString const&) = nullptr;  ///< what else is wrong with a value, without a full stop
 };
 
 QVector<RunSteps::Kind> RunSteps::kindsOfLayers() {
@@ -143,12 +156,12 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("click"),      text("X,Y"),          isPoint,      &RunSteps::clickAt, {}},
       {text("drag"),       text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::drag,    {}},
       {text("scale"),      text("1:N"),          isScale,      &RunSteps::setScale, {}},
-      {text("extent"),     text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::setExtent, {}},
+      {text("extent"),     text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::setExtent, {}, nullptr, unclearExtent},
       {text("show"),       text("LAYER"),        isAnything,   &RunSteps::showLayers, {}},
       {text("hide"),       text("LAYER"),        isAnything,   &RunSteps::hideLayers, {}},
       {text("set"),        text("WHAT/FIELD…:VALUE"), isSetting, &RunSteps::setField, {}},
       {text("get"),        text("WHAT/FIELD…"),  isAnything,   &RunSteps::getField, {}},
-      {text("classify"),   text("layer:MAP/LAYER/FIELD:METHOD,…"), isSetting, &RunSteps::classify, {}},
+      {text("classify"),   text("layer:MAP/LAYER/FIELD:METHOD,…"), isSetting, &RunSteps::classify, {}, nullptr, unclearClasses},
       {text("label"),      text("layer:MAP/LAYER/KEY:X,Y|hidden|free"), isPin, &RunSteps::pinLabel, {}},
       {text("add"),        text("KIND:CONTENT@X,Y,…|layer:FILE|LAYER"), isAddition, &RunSteps::add, {}},
       {text("rotate"),     text("DEGREES"),      isNumber,     &RunSteps::rotate,  {}},
@@ -204,6 +217,8 @@ QString RunSteps::check(QStringList const& steps) const {
           .arg(step);
     if (kind && kind->isValue && !kind->isValue(step.mid(kind->name.size() + 1)))
       return tr("run: \"%1\" is written %2=%3.").arg(step, kind->name, kind->value);
+    QString const unclear = kind && kind->unclear ? kind->unclear(step.mid(kind->name.size() + 1)) : QString();
+    if (!unclear.isEmpty()) return tr("run: %1: %2.").arg(step, unclear);
   }
   return QString();
 }
@@ -319,8 +334,6 @@ QString RunSteps::setScale(QString const& scale) {
 
 QString RunSteps::setExtent(QString const& sides) {
   auto const side = numbersIn(sides);
-  if (side[0] == side[2] || side[1] == side[3])
-    return tr("this rectangle has no area; its corners must differ in x and in y.");
   return withFreeMap([&](Map& map) { return MapSteps::setExtent(map, {side[0], side[1], side[2], side[3]}); });
 }
 
@@ -380,8 +393,7 @@ QString RunSteps::classify(QString const& text) {
   FieldText const field = FieldText::of(text);
   SysCarto::ClassifySettings wanted;
   wanted.field = field.path.join(QLatin1Char('/'));
-  QString const unclear = LayerClasses::read(field.value, wanted);
-  if (!unclear.isEmpty()) return unclear + QLatin1Char('.');
+  LayerClasses::read(field.value, wanted);
   return withThings(field.what, [&](SysCarto::Editable::List const& layers) {
     QStringList warnings;
     QString problem;

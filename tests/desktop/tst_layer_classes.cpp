@@ -26,7 +26,7 @@ private slots:
         "0 – 118,500|118,500 – 1,040,000|1,040,000 – 13,500,000 #deebf7 #9ecae1 #3182bd");
     row("a ramp the other way round", "Capitals", "population", "equal,classes=2,ramp=RdBu,reversed",
         "0 – 6,500,000|6,500,000 – 13,200,000 #67a9cf #ef8a62");
-    row("breaks of one's own", "Capitals", "population", "own,breaks=5000000;100000,ramp=Greens",
+    row("breaks of one's own", "Capitals", "population", "own,breaks=100000;5000000,ramp=Greens",
         "0 – 100,000|100,000 – 5,000,000|5,000,000 – 13,200,000 #e5f5e0 #a1d99b #31a354");
     row("breaks beyond the values, and small ones", "Capitals", "population", "own,breaks=-1;1e-7;20000000,ramp=Greens",
         "-400,000 – -1|-1 – 0.0000001|0.0000001 – 20,000,000|20,000,000 – 20,400,000 #edf8e9 #bae4b3 #74c476 #238b45");
@@ -81,6 +81,7 @@ private slots:
     row("no number", "Capitals", "population", "natural,classes=many", "classes=7");
     row("sizes of areas", "Countries", "name", "unique,sizes=1-5", "Only markers and lines");
     row("breaks without numbers", "Capitals", "population", "own", "breaks=10;100");
+    row("breaks that go down", "Capitals", "population", "own,breaks=10;5", "larger than the one before");
   }
   void whatCanNotBeMadeIsTold() {
     auto const [name, field, how, says] = fetched<QString, QString, QString, QString>();
@@ -139,15 +140,23 @@ private slots:
     QVERIFY(!session_.isModified());
   }
 
+  void theDialogBeginsWithTheClassesThatThereAre_data() {
+    Rows<QString, int> row;
+    row("of one's own", "own,breaks=100000;5000000,ramp=Purples,reversed", 5);
+    row("quantiles", "quantile,classes=4,ramp=Purples", 1);
+    row("sizes in natural breaks", "natural,classes=4,sizes=2-8", 2);
+  }
   void theDialogBeginsWithTheClassesThatThereAre() {
+    auto const [how, method] = fetched<QString, int>();
     auto const thing = layer("Capitals");
     ClassifySettings wanted;
     wanted.field = "population";
-    QCOMPARE(LayerClasses::read("own,breaks=100000;5000000,ramp=Purples,reversed", wanted), QString());
+    QCOMPARE(LayerClasses::read(how, wanted), QString());
     QStringList warnings;
     QCOMPARE(LayerClasses::make(session_.document(), thing, wanted, warnings), QString());
     QString const before = classesOf(*thing);
     ClassifyDialog const dialog(ptr_cast<VectorLayer>(thing->layer()));
+    QCOMPARE(dialog.findChild<QComboBox*>("comboBox_Method")->currentIndex(), method);
     QCOMPARE(LayerClasses::give(session_.document(), thing, dialog.renderer(), warnings), QString());
     QCOMPARE(classesOf(*thing), before);
     session_.document().GetOperationStack()->Undo();

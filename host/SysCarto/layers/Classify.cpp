@@ -39,11 +39,18 @@ constexpr int maxLabel = 200;
 
 ClassMethod methodOfNumbers(Method method) { return static_cast<ClassMethod>(method); }
 
-// What draws all features, or the most of them.
+// What stands for all: the only symbol, or that of the middle class, in the mean size (geometric) where they differ.
 _ptr_t<Symbol> symbolOf(RendererSettings const& renderer) {
+  std::vector<_ptr_t<Symbol>> symbols;
   for (SymbolClass const& one : renderer.classes)
-    if (one.symbol) return one.symbol;
-  return renderer.others.symbol;
+    if (one.symbol) symbols.push_back(one.symbol);
+  if (symbols.empty()) return renderer.others.symbol;
+  auto const middle = symbols[symbols.size() / 2];
+  double const first = SysDisplay::sizeOf(*symbols.front()), last = SysDisplay::sizeOf(*symbols.back());
+  if (first == last || !(first > 0 && last > 0)) return middle;
+  auto const mean = middle->Clone();
+  setSize(*mean, std::sqrt(first * last));
+  return mean;
 }
 
 // Around breaks of one's own, all values: a class below the first and one from the last on, be there values or not.

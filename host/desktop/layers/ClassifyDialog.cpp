@@ -20,6 +20,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using SysCarto::ClassifySettings;
 using SysCarto::ColorRamp;
 using SysUtility::grouped;
@@ -102,13 +104,28 @@ ClassifyDialog::ClassifyDialog(SysUtility::_ptr_t<SysCarto::VectorLayer> layer, 
   connect(table_, &QTableWidget::itemChanged, this, &ClassifyDialog::takeCell);
 }
 
+// The one that makes the bounds that there are.
+ClassifySettings::Method ClassifyDialog::methodOf(SysCarto::RendererSettings const& now) const {
+  ClassifySettings wanted;
+  wanted.classes = static_cast<int>(now.classes.size());
+  for (Method const method :
+       {Method::NaturalBreaks, Method::Quantiles, Method::EqualIntervals, Method::Pretty, Method::StandardDeviation}) {
+    wanted.method = method;
+    auto const& made = classify(values_, now, wanted).renderer.classes;
+    bool const isSame = std::equal(made.begin(), made.end(), now.classes.begin(), now.classes.end(),
+                                   [](auto const& a, auto const& b) { return a.minimum == b.minimum; });
+    if (isSame) return method;
+  }
+  return Method::OwnBreaks;
+}
+
 // The bounds that there are, and the ramp or the sizes that made their symbols.
 void ClassifyDialog::beginWith(SysCarto::RendererSettings const& now) {
   using Kind = SysCarto::RendererSettings::Kind;
   auto const& classes = now.classes;
   if (classes.size() < 2 || (now.kind != Kind::Graduated && now.kind != Kind::UniqueValues)) return;
   for (size_t i = 1; i < classes.size() && now.kind == Kind::Graduated; ++i) breaks_.push_back(classes[i].minimum);
-  if (!breaks_.empty() && values_.isNumeric) method_->setCurrentIndex(static_cast<int>(Method::OwnBreaks));
+  if (!breaks_.empty() && values_.isNumeric) method_->setCurrentIndex(static_cast<int>(methodOf(now)));
   QVector<QColor> colors;
   for (auto const& one : classes) colors << SysDisplay::colorOf(*one.symbol);
   for (bool const reversed : {true, false})

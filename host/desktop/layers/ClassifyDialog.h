@@ -27,6 +27,7 @@ public:
 
 private:
   void build();
+  SysCarto::ClassifySettings::Method methodOf(SysCarto::RendererSettings const& now) const;
   void beginWith(SysCarto::RendererSettings const& now);
   void fillRamps();
   void readField();

@@ -236,7 +236,9 @@ LayerOutcome LayerActions::remove(Rows const& rows) {
 LayerOutcome LayerActions::setOrder(LayerRow const& row, int fromTop) {
   LayerPosition const position = positionOf(row);
   if (position.below < 0) return {};
-  int const wanted = std::max(0, position.count - fromTop);
+  if (fromTop > position.count)
+    return {tr("There are %1 places there; give one from 1 to %1.").arg(position.count), {}, {}};
+  int const wanted = position.count - fromTop;
   return move({row}, {row.map, position.group, wanted > position.below ? wanted + 1 : wanted});
 }
 

@@ -6,6 +6,7 @@
 #include "host/SysUtility/JsonFields.h"
 
 #include <algorithm>
+#include <functional>
 
 using SysCarto::ClassifySettings;
 using SysCarto::Editable;
@@ -85,6 +86,9 @@ QString LayerClasses::read(QString const& text, ClassifySettings& settings) {
   }
   if (*method == Method::OwnBreaks && settings.breaks.empty())
     return tr("the method “own” needs breaks, as in breaks=10;100");
+  if (std::adjacent_find(settings.breaks.begin(), settings.breaks.end(), std::greater_equal<>()) !=
+      settings.breaks.end())
+    return tr("each of the breaks is larger than the one before, as in breaks=10;100");
   return QString();
 }
 
