@@ -1,6 +1,8 @@
 #include "LegendLayout.h"
 #include "SurroundSettings.h"
 
+#include "host/SysGeometry/Box.h"
+
 #include <SysCarto/Map.h>
 #include <SysCarto/MapSurround.h>
 
@@ -25,10 +27,24 @@ _ptr_t<TextSymbol> usual(_ptr_t<TextSymbol> const& chosen, double sizePt, bool b
   return make<TextSymbol>(format);
 }
 
+QList<_ptr_t<Element>> copies(QList<_ptr_t<Element>> const& pieces) {
+  QList<_ptr_t<Element>> own;
+  for (auto const& piece : pieces) own << piece->Clone();
+  return own;
+}
+
 }  // namespace
 
 struct Legend::Private {
   LegendSettings settings;
+
+  // As it was laid out last: it is asked for at each redraw and for each tile, and rarely has anything changed.
+  QVector<LegendRow> rows;
+  SysGeometry::Box area;
+  QList<_ptr_t<Element>> pieces;
+
+  Private() = default;
+  Private(Private const& other) : settings(other.settings) {}
 };
 
 Legend::Legend() : MapSurround(SurroundKind::Legend), d(std::make_unique<Private>()) {}
@@ -40,18 +56,28 @@ QList<_ptr_t<Element>> Legend::GetElements() {
   LegendSettings const& settings = d->settings;
   QVector<LegendRow> const rows = legendRows(*GetMap(), settings);
   if (rows.isEmpty()) return {};
+  auto const rectangle = this->rectangle();
+  SysGeometry::Box const area{rectangle.GetXMin(), rectangle.GetYMin(), rectangle.GetXMax(), rectangle.GetYMax()};
+  bool const isSame = area.contains(d->area) && d->area.contains(area) && rows == d->rows;
+  if (isSame) return copies(d->pieces);
   LegendLayout layout({{usual(settings.titleSymbol, 12, true), usual(settings.headingSymbol, 9, true),
                         usual(settings.labelSymbol, 8, false)},
                        settings.patch,
                        settings.columns,
                        settings.wrapPt});
-  return layout.elements(settings.title, rows, rectangle());
+  d->pieces = layout.elements(settings.title, rows, rectangle);
+  d->rows = rows;
+  d->area = area;
+  return copies(d->pieces);
 }
 
 _ptr_t<MapSurround> Legend::Clone() const { return make<Legend>(*this); }
 QString Legend::title() const { return QCoreApplication::translate("MapSurround", "Legend"); }
 
 LegendSettings LegendSettings::of(Legend const& legend) { return legend.d->settings; }
-void LegendSettings::applyTo(Legend& legend) const { legend.d->settings = *this; }
+void LegendSettings::applyTo(Legend& legend) const {
+  legend.d->settings = *this;
+  legend.d->rows.clear();
+}
 
 }  // namespace SysCarto

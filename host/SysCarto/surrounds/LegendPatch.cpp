@@ -41,10 +41,15 @@ double LegendPatch::swing(double breadth) const {
   return std::max(0.0, std::min(settings_.heightPt - 2 * breadth, (settings_.widthPt - breadth) / 2));
 }
 
+QRectF LegendPatch::unitBoundsOf(MarkerSymbol const& marker) const {
+  auto const known = measured_.constFind(&marker);
+  return known != measured_.constEnd() ? *known : *measured_.insert(&marker, unitBounds(marker));
+}
+
 QSizeF LegendPatch::sizeOf(_ptr_t<Symbol> const& symbol) const {
   QSizeF const patch(settings_.widthPt, settings_.heightPt);
   if (auto const marker = ptr_cast<MarkerSymbol>(symbol))
-    return patch.expandedTo(unitBounds(*marker).size() * marker->GetSize());
+    return patch.expandedTo(unitBoundsOf(*marker).size() * marker->GetSize());
   if (auto const line = ptr_cast<LineSymbol>(symbol)) return patch.expandedTo({settings_.widthPt, breadthOf(*line)});
   auto const fill = ptr_cast<FillSymbol>(symbol);
   auto const outline = fill ? fill->GetOutlineSymbol() : nullptr;
@@ -94,7 +99,7 @@ void LegendPatch::add(QList<_ptr_t<Element>>& pieces, Symbols const& symbols, QP
   };
   for (auto const& symbol : symbols) {
     if (auto const marker = ptr_cast<MarkerSymbol>(symbol)) {
-      QPointF const offCentre = unitBounds(*marker).center() * marker->GetSize();
+      QPointF const offCentre = unitBoundsOf(*marker).center() * marker->GetSize();
       pieces << markerPiece(toPage(middle.x() - offCentre.x(), middle.y() - offCentre.y()), resized(*marker, factor));
     } else if (auto const line = ptr_cast<LineSymbol>(symbol)) {
       pieces << linePiece(moved(this->line(breadth)), resized(*line, factor));

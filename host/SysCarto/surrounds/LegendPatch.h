@@ -3,16 +3,18 @@
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 
 #include <SysCarto/Element.h>
-#include <SysDisplay/Symbol.h>
+#include <SysDisplay/MarkerSymbol.h>
 
+#include <QHash>
 #include <QPointF>
+#include <QRectF>
 #include <QSizeF>
 
 #include <functional>
 
 namespace SysCarto {
 
-/// The patches in which a legend shows symbols. Lengths in points, y downwards.
+/// The patches in which a legend shows symbols, which don't change meanwhile. Lengths in points, y downwards.
 class LegendPatch {
 public:
   using Symbols = QVector<SysUtility::_ptr_t<SysDisplay::Symbol>>;
@@ -34,7 +36,11 @@ private:
   QVector<QPointF> line(double breadth) const;
   QVector<QPointF> roundedRectangle() const;
 
+  QRectF unitBoundsOf(SysDisplay::MarkerSymbol const& marker) const;
+
   PatchSettings const settings_;
+  // To measure a marker, it is prepared for drawing. Each is asked for several times.
+  mutable QHash<SysDisplay::MarkerSymbol const*, QRectF> measured_;
 };
 
 }  // namespace SysCarto

@@ -131,6 +131,12 @@ private:
 
 }  // namespace
 
+bool LegendRow::operator==(LegendRow const& other) const {
+  return text == other.text && symbols == other.symbols && kind == other.kind &&
+         std::equal(nested.begin(), nested.end(), other.nested.begin(), other.nested.end(),
+                    [](auto const& a, auto const& b) { return a.label == b.label && a.symbol == b.symbol; });
+}
+
 QVector<LegendRow> legendRows(Map const& map, LegendSettings const& settings) { return RowMaker(map, settings).rows(); }
 
 }  // namespace SysCarto

@@ -16,6 +16,9 @@ struct LegendRow {
   QVector<SysUtility::_ptr_t<SysDisplay::Symbol>> symbols;  ///< one over the other; none for a heading
   Kind kind;
   QVector<LegendClass> nested = {};  ///< the largest first
+
+  /// Symbols are the same where they are the same object.
+  bool operator==(LegendRow const& other) const;
 };
 
 /// What a legend tells of the map as it is now, from above.
