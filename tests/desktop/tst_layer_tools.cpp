@@ -220,7 +220,8 @@ private slots:
     QTRY_COMPARE(table->model()->rowCount(), 2);
 
     IdentifyPanel features(page_->bench.session(), page_->bench.views(), nullptr);
-    features.show(identify(map, {1, 0}, 0.1));
+    OpenTables tables;
+    features.show(identify(map, {1, 0}, 0.1, tables));
     features.follow();
     QCOMPARE(features.findChild<QTreeWidget*>()->topLevelItemCount(), 2);
     page_->container().DeleteElement(page_->container().GetElements().first());

@@ -1,9 +1,12 @@
 #include "Identify.h"
 
 #include "host/SysCarto/layers/FeatureSearch.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/projection/GlobeBox.h"
 
 #include <QJsonArray>
+
+#include <algorithm>
 
 using SysUtility::_ptr_t;
 
@@ -25,7 +28,8 @@ QString labelOf(SysCarto::VectorLayer const& layer, int number, Identified::Feat
   return first.isEmpty() ? QStringLiteral("#%1").arg(feature.id) : first;
 }
 
-void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place, double reach, Identified& found) {
+void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place, double reach, OpenTables& tables,
+                Identified& found) {
   auto numbers = SysCarto::featuresAt(layer->features(), place.x(), place.y(), reach);
   if (numbers.empty()) return;
   if (numbers.size() > mostOfALayer) {
@@ -34,8 +38,7 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
   }
   std::vector<qint64> ids;
   for (int const number : numbers) ids.push_back(layer->features().ids[static_cast<size_t>(number)]);
-  QString error;
-  auto const table = SysCarto::FeatureTable::open(layer->source(), error);
+  SysCarto::FeatureTable const* const table = tables.of(*layer);
   auto const rows = table ? table->rows(ids) : QHash<qint64, SysCarto::TableRow>();
   for (size_t at = 0; at < ids.size(); ++at) {
     Identified::Feature feature{layer, ids[at], {}, {}};
@@ -49,7 +52,18 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
 
 }  // namespace
 
-Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, double reach) {
+SysCarto::FeatureTable const* OpenTables::of(SysCarto::VectorLayer const& layer) {
+  constexpr size_t mostOpen = 16;
+  quint64 const look = SysCarto::LayerHost::look(layer);
+  auto const known = std::find_if(tables_.begin(), tables_.end(), [&](Table const& one) { return one.look == look; });
+  if (known != tables_.end()) return known->table.get();
+  if (tables_.size() >= mostOpen) tables_.erase(tables_.begin());
+  QString error;
+  tables_.push_back({look, SysCarto::FeatureTable::open(layer.source(), error)});
+  return tables_.back().table.get();
+}
+
+Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, double reach, OpenTables& tables) {
   Identified found;
   found.map = map;
   found.place = place;
@@ -58,7 +72,7 @@ Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, doub
   for (int i = map->GetLayerCount() - 1; i >= 0; --i) {
     auto const layer = SysUtility::ptr_cast<SysCarto::VectorLayer>(map->GetLayer(i));
     bool const isGlobe = layer && layer->source().data == SysCarto::SourceSettings::Data::Globe;  // it is everywhere
-    if (layer && !isGlobe && layer->showsAt(scale)) identifyIn(layer, place, reach, found);
+    if (layer && !isGlobe && layer->showsAt(scale)) identifyIn(layer, place, reach, tables, found);
   }
   return found;
 }

@@ -9,7 +9,9 @@
 #include <QPointF>
 #include <QVector>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 /// What lies at a place of a map: features of its visible layers, the topmost first.
 struct Identified {
@@ -27,7 +29,24 @@ struct Identified {
   bool isAll = true;  ///< false where more were found than are told of
 };
 
+/// The tables of layers that were asked for lately, open for as long as their layers stay as they are: to open some
+/// files means to read them.
+class OpenTables {
+public:
+  /// Null where it can't be opened; good until the next call.
+  SysCarto::FeatureTable const* of(SysCarto::VectorLayer const& layer);
+  void close() { tables_.clear(); }
+
+private:
+  struct Table {
+    quint64 look;  // of a layer, when it was opened; no two are the same
+    std::unique_ptr<SysCarto::FeatureTable> table;
+  };
+  std::vector<Table> tables_;  // the oldest first
+};
+
 /// Points and lines count within `reach` map units, areas where the place is in them.
-Identified identify(SysUtility::_ptr_t<SysCarto::Map> const& map, QPointF const& place, double reach);
+Identified identify(SysUtility::_ptr_t<SysCarto::Map> const& map, QPointF const& place, double reach,
+                    OpenTables& tables);
 
 QJsonObject jsonOf(Identified const& found);

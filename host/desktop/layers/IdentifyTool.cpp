@@ -18,21 +18,24 @@ std::optional<MapPlace> placeIn(ViewWidget const& view, QPointF const& positionP
   return std::nullopt;
 }
 
-Identified identified(MapPlace const& at) { return identify(at.map, at.place, reachPx * at.unitsPerPx); }
+Identified identified(MapPlace const& at, OpenTables& tables) {
+  return identify(at.map, at.place, reachPx * at.unitsPerPx, tables);
+}
 
 }  // namespace
 
 std::optional<Identified> identifyAt(DocumentViews& views, QPointF const& place) {
+  OpenTables tables;
   auto const layout = views.GetPageLayout();
   if (views.kind() == DocumentViews::Kind::Layout) {
     auto const at =
         layout ? placeIn(views.layoutView(), layout->GetDisplayTransformation()->ToDevice().map(place)) : std::nullopt;
-    return at ? std::make_optional(identified(*at)) : std::nullopt;
+    return at ? std::make_optional(identified(*at, tables)) : std::nullopt;
   }
   auto const maps = views.mapView().shownMaps();
   if (maps.isEmpty()) return std::nullopt;
   QTransform const toMap = mapToView(*maps.first().map, maps.first().placePx).inverted();
-  return identified({maps.first().map, place, std::hypot(toMap.m11(), toMap.m12())});
+  return identified({maps.first().map, place, std::hypot(toMap.m11(), toMap.m12())}, tables);
 }
 
 IdentifyTool::IdentifyTool(DocumentViews& views) : views_(views) { enabled_ = true; }
@@ -52,6 +55,7 @@ bool IdentifyTool::Activate() {
 
 bool IdentifyTool::Deactivate() {
   QObject::disconnect(clicks_);
+  tables_.close();
   views_.mapView().unsetCursor();
   return BaseTool::Deactivate();
 }
@@ -63,5 +67,5 @@ void IdentifyTool::OnMouseDown(QMouseEvent* event) {
 }
 
 void IdentifyTool::look(std::optional<MapPlace> const& at) {
-  if (at) views_.tell(identified(*at));
+  if (at) views_.tell(identified(*at, tables_));
 }

@@ -39,4 +39,5 @@ private:
 
   DocumentViews& views_;
   QMetaObject::Connection clicks_;  // on the map
+  OpenTables tables_;
 };
