@@ -136,7 +136,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
       intake.add(std::move(feature));
     }
     result.wasStopped = !watch.goesOn();
-    if (result.wasStopped) break;
+    if (result.wasStopped) return;
   }
   QString const unplaced = intake.finish();
   store.finish();
@@ -176,6 +176,7 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
   ReadWatch watch(data->layer(), progress);
   readAll(data->layer(), *projector, condition, renderer, source, labels, watch, result);
   if (result.wasStopped) {
+    result.store = std::make_unique<FeatureStore>();
     result.error = stopped(source);
     return result;
   }

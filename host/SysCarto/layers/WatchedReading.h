@@ -4,9 +4,13 @@
 
 #include <QElapsedTimer>
 #include <QString>
+#include <QThreadPool>
 
+#include <chrono>
 #include <functional>
+#include <future>
 #include <memory>
+#include <optional>
 
 class OGRLayer;
 
@@ -19,9 +23,22 @@ struct SourceSettings;
 /// reading goes on.
 using ReadProgress = std::function<bool(qint64 read, qint64 count)>;
 
-/// As `DataSource::open`. To open a file can mean to read all of it, so it is done on another thread where somebody
-/// waits who may have enough of it. What is given up is finished there for nobody; the pointer is then empty, and
-/// `error` too.
+/// What `work` answers, which is done on another thread while `progress` is asked; nothing where that wants no more,
+/// and then the work is finished there for nobody. Without a progress it is done here.
+template <class Work>
+auto watched(Work work, ReadProgress const& progress) -> std::optional<decltype(work())> {
+  constexpr std::chrono::milliseconds betweenQuestions(50);
+  if (!progress) return work();
+  auto const promise = std::make_shared<std::promise<decltype(work())>>();
+  auto done = promise->get_future();
+  QThreadPool::globalInstance()->start([promise, work] { promise->set_value(work()); });
+  while (done.wait_for(betweenQuestions) != std::future_status::ready)
+    if (!progress(0, -1)) return std::nullopt;
+  return done.get();
+}
+
+/// As `DataSource::open`, watched, since to open a file can mean to read all of it. What is given up is no error: the
+/// pointer is then empty, and `error` too.
 SYSCARTO_EXPORT std::unique_ptr<DataSource> openWatched(SourceSettings const& source, ReadProgress const& progress,
                                                         QString& error);
 

@@ -147,7 +147,9 @@ bool NewMap::survey() {
 
 // A filter on all the data suits the layers that have its fields.
 bool NewMap::surveyFile(QString const& file, QString const& layer) {
-  SysCarto::DataFile const described = SysCarto::describeFile(file);
+  auto const known = SysCarto::watched([file] { return SysCarto::describeFile(file); }, progress_);
+  if (!known) return false;
+  SysCarto::DataFile const& described = *known;
   if (!described.error.isEmpty()) return fail(described.error);
   QStringList names;
   bool isKnown = layer.isEmpty();

@@ -30,7 +30,7 @@ constexpr QSize usualSize(560, 520);
 
 }  // namespace
 
-NewMapDialog::NewMapDialog(QStringList const& files, QWidget* parent) : QDialog(parent) {
+NewMapDialog::NewMapDialog(QStringList const& files, QWidget* parent) : QDialog(parent), files_(this) {
   setObjectName(QStringLiteral("NewMapDialog"));
   setWindowTitle(tr("New Map from Data"));
   setAcceptDrops(true);
@@ -84,6 +84,7 @@ NewMapDialog::NewMapDialog(QStringList const& files, QWidget* parent) : QDialog(
   connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
   box->addWidget(buttons_);
   resize(usualSize);
+  connect(&files_, &FileDescriptions::described, this, &NewMapDialog::showFile);
   for (QString const& file : files) addFile(file);
   showState();
 }
@@ -99,26 +100,40 @@ void NewMapDialog::buildData() {
   connect(data_, &QTreeWidget::itemChanged, this, &NewMapDialog::showState);
 }
 
-// A file that can't be read has a row all the same, which says why.
+// Files are described on another thread: some are long.
 void NewMapDialog::addFile(QString const& file) {
   QString const path = QFileInfo(file).absoluteFilePath();
   for (int i = 0; i < data_->topLevelItemCount(); ++i)
     if (data_->topLevelItem(i)->data(NameColumn, pathRole) == path) return;
-  SysCarto::DataFile const described = SysCarto::describeFile(path);
-  QSignalBlocker const quiet(data_);
-  auto* const row = new QTreeWidgetItem(data_, {QFileInfo(path).fileName(), described.format});
+  auto* const row = new QTreeWidgetItem(data_, {QFileInfo(path).fileName(), tr("Reading…")});
   row->setData(NameColumn, pathRole, path);
-  row->setToolTip(NameColumn, described.error.isEmpty() ? path : described.error);
-  if (!described.error.isEmpty()) row->setIcon(NameColumn, style()->standardIcon(QStyle::SP_MessageBoxWarning));
-  for (SysCarto::LayerDescription const& layer : described.layers) {
-    auto* const child = new QTreeWidgetItem(
-        row, {layer.name, kindText(layer.kind), layer.count < 0 ? QString() : locale().toString(layer.count),
-              layer.coordinateSystemName});
-    bool const isShown = layer.kind != SysCarto::GeometryKind::None && !isPartOfTrack(layer.name, described);
-    child->setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
-    child->setCheckState(NameColumn, isShown ? Qt::Checked : Qt::Unchecked);
+  row->setToolTip(NameColumn, path);
+  files_.describe({path});
+  showState();
+}
+
+// A file that can't be read keeps its row, which says why.
+void NewMapDialog::showFile(SysCarto::DataFile const& file) {
+  QSignalBlocker quiet(data_);
+  for (int i = 0; i < data_->topLevelItemCount(); ++i) {
+    auto* const row = data_->topLevelItem(i);
+    if (row->data(NameColumn, pathRole) != file.path || row->childCount() > 0) continue;
+    row->setText(KindColumn, file.format);
+    if (!file.error.isEmpty()) {
+      row->setToolTip(NameColumn, file.error);
+      row->setIcon(NameColumn, style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    }
+    for (SysCarto::LayerDescription const& layer : file.layers) {
+      auto* const child = new QTreeWidgetItem(
+          row, {layer.name, kindText(layer.kind), layer.count < 0 ? QString() : locale().toString(layer.count),
+                layer.coordinateSystemName});
+      bool const isShown = layer.kind != SysCarto::GeometryKind::None && !isPartOfTrack(layer.name, file);
+      child->setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
+      child->setCheckState(NameColumn, isShown ? Qt::Checked : Qt::Unchecked);
+    }
+    row->setExpanded(true);
   }
-  row->setExpanded(true);
+  quiet.unblock();
   showState();
 }
 

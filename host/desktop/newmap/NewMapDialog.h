@@ -2,6 +2,8 @@
 
 #include "NewMap.h"
 
+#include "host/desktop/layers/FileDescriptions.h"
+
 #include <QDialog>
 
 class QComboBox;
@@ -23,13 +25,15 @@ public:
 private:
   void buildData();
   void addFile(QString const& file);
+  void showFile(SysCarto::DataFile const& file);
   void chooseFiles();
   void chooseTemplate();
   void showState();
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
-  QTreeWidget* data_;  // files, and below each its layers
+  FileDescriptions files_;
+  QTreeWidget* data_;  // files, and below each its layers once they are known
   QLineEdit *title_, *system_, *where_, *template_;
   QComboBox *paper_, *orientation_;
   QLabel* problem_;
