@@ -5286,6 +5286,10 @@
         <source>The .kdx document, or a file or folder of data.</source>
         <translation>Das .kdx-Dokument oder eine Datei oder ein Ordner mit Daten.</translation>
     </message>
+    <message>
+        <source>%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.</source>
+        <translation>%1: Das ist dem Namen nach weder ein Kartendokument (.kdx) noch eine Datei mit Daten; nennen Sie eines davon.</translation>
+    </message>
 </context>
 <context>
     <name>InsertTool</name>
@@ -5547,6 +5551,10 @@
         <source>Repair the source of “%1”</source>
         <translation>Die Quelle von „%1“ reparieren</translation>
     </message>
+    <message>
+        <source>There are %1 places there; give one from 1 to %1.</source>
+        <translation>Dort gibt es %1 Plätze; geben Sie einen von 1 bis %1 an.</translation>
+    </message>
 </context>
 <context>
     <name>LayerAdding</name>
@@ -5615,6 +5623,10 @@
     <message>
         <source>Only a layer of features has classes; write layer:MAP/LAYER.</source>
         <translation>Nur eine Ebene mit Objekten hat Klassen; schreiben Sie layer:KARTE/EBENE.</translation>
+    </message>
+    <message>
+        <source>each of the breaks is larger than the one before, as in breaks=10;100</source>
+        <translation>jede der Grenzen ist größer als die vorige, wie in breaks=10;100</translation>
     </message>
 </context>
 <context>
@@ -6498,6 +6510,10 @@
         <source>The coordinate system can&apos;t be taken: %1.</source>
         <translation>Das Koordinatensystem kann nicht genommen werden: %1.</translation>
     </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
 </context>
 <context>
     <name>NewSubcommand</name>
@@ -7041,7 +7057,7 @@
     </message>
     <message>
         <source>this rectangle has no area; its corners must differ in x and in y.</source>
-        <translation>dieses Rechteck hat keine Fläche; seine Ecken müssen sich in x und in y unterscheiden.</translation>
+        <translation type="vanished">dieses Rechteck hat keine Fläche; seine Ecken müssen sich in x und in y unterscheiden.</translation>
     </message>
     <message>
         <source>a map can&apos;t show that much or that little; give other numbers.</source>
@@ -7066,6 +7082,14 @@
     <message>
         <source>there is no map at this place; on the page, it is given in centimetres.</source>
         <translation>an dieser Stelle ist keine Karte; auf der Seite wird sie in Zentimetern angegeben.</translation>
+    </message>
+    <message>
+        <source>this rectangle has no area; its corners must differ in x and in y</source>
+        <translation>dieses Rechteck hat keine Fläche; seine Ecken müssen sich in x und in y unterscheiden</translation>
+    </message>
+    <message>
+        <source>run: %1: %2.</source>
+        <translation>run: %1: %2.</translation>
     </message>
 </context>
 <context>

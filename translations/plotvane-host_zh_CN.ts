@@ -5286,6 +5286,10 @@
         <source>The .kdx document, or a file or folder of data.</source>
         <translation>.kdx 文档，或数据文件或文件夹。</translation>
     </message>
+    <message>
+        <source>%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.</source>
+        <translation>%1：从名称看，它既不是地图文档（.kdx）也不是数据文件；请指定其中之一。</translation>
+    </message>
 </context>
 <context>
     <name>InsertTool</name>
@@ -5547,6 +5551,10 @@
         <source>Repair the source of “%1”</source>
         <translation>修复“%1”的数据源</translation>
     </message>
+    <message>
+        <source>There are %1 places there; give one from 1 to %1.</source>
+        <translation>那里有 %1 个位置；请给出 1 到 %1 之间的一个。</translation>
+    </message>
 </context>
 <context>
     <name>LayerAdding</name>
@@ -5615,6 +5623,10 @@
     <message>
         <source>Only a layer of features has classes; write layer:MAP/LAYER.</source>
         <translation>只有要素图层才有分类；请写 layer:地图/图层。</translation>
+    </message>
+    <message>
+        <source>each of the breaks is larger than the one before, as in breaks=10;100</source>
+        <translation>每个断点都须大于前一个，例如 breaks=10;100</translation>
     </message>
 </context>
 <context>
@@ -6498,6 +6510,10 @@
         <source>The coordinate system can&apos;t be taken: %1.</source>
         <translation>无法采用该坐标系：%1。</translation>
     </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在读取…</translation>
+    </message>
 </context>
 <context>
     <name>NewSubcommand</name>
@@ -7041,7 +7057,7 @@
     </message>
     <message>
         <source>this rectangle has no area; its corners must differ in x and in y.</source>
-        <translation>此矩形没有面积；两个角的 x 和 y 都必须不同。</translation>
+        <translation type="vanished">此矩形没有面积；两个角的 x 和 y 都必须不同。</translation>
     </message>
     <message>
         <source>a map can&apos;t show that much or that little; give other numbers.</source>
@@ -7066,6 +7082,14 @@
     <message>
         <source>there is no map at this place; on the page, it is given in centimetres.</source>
         <translation>此处没有地图；在页面上以厘米给出。</translation>
+    </message>
+    <message>
+        <source>this rectangle has no area; its corners must differ in x and in y</source>
+        <translation>该矩形没有面积；其两角的 x 和 y 都必须不同</translation>
+    </message>
+    <message>
+        <source>run: %1: %2.</source>
+        <translation>run：%1：%2。</translation>
     </message>
 </context>
 <context>

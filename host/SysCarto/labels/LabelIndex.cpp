@@ -65,13 +65,14 @@ bool LabelIndex::isFree(LabelShape const& shape) const {
   return !tree_->any(shape.box, [&](int other) { return intersects(shape, shapes_[other]); });
 }
 
-MarkIndex::MarkIndex(std::vector<Box> const& marks) : tree_(std::make_unique<BoxTree>(marks)) {}
+MarkIndex::MarkIndex(std::vector<Box> const& marks, std::vector<int> weights)
+    : tree_(std::make_unique<BoxTree>(marks)), weights_(std::move(weights)) {}
 MarkIndex::~MarkIndex() = default;
 
 int MarkIndex::count(Box const& box, int most) const {
   int count = 0;
-  tree_->any(box, [&](int) { return ++count >= most; });
-  return count;
+  tree_->any(box, [&](int mark) { return (count += weights_[mark]) >= most; });
+  return std::min(count, most);
 }
 
 }  // namespace SysCarto

@@ -47,14 +47,15 @@ private:
 /// The marks of a layer's points, known before any label is placed.
 class MarkIndex {
 public:
-  explicit MarkIndex(std::vector<Box> const& marks);
+  MarkIndex(std::vector<Box> const& marks, std::vector<int> weights);
   ~MarkIndex();
 
-  /// How many marks meet the box, counted up to `most`.
+  /// How much the marks weigh that meet the box, counted up to `most`.
   int count(Box const& box, int most) const;
 
 private:
   std::unique_ptr<BoxTree> tree_;
+  std::vector<int> const weights_;
 };
 
 }  // namespace SysCarto

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <iterator>
 #include <limits>
 
@@ -17,6 +18,8 @@ using SysUtility::make;
 namespace {
 
 constexpr int maxMarksCounted = 8;
+constexpr int importantMark = 4;     // counts as so many
+constexpr double hiddenPart = 0.25;  // of a mark, at either side, that a text may cover which came first
 
 // The wanted places, in their order.
 std::vector<PointPlace> placesOf(LabelSettings const& settings) {
@@ -91,8 +94,22 @@ std::vector<int> LabelPlacer::candidates() const {
   return features;
 }
 
+// Of one in ten, the most important ones, the names are to stand beside their marks: no other name covers these where
+// it can stand elsewhere.
+double LabelPlacer::leastImportant() const {
+  constexpr size_t oneIn = 10;
+  std::vector<double> priorities = store_.priorities;
+  if (priorities.size() < oneIn) return std::numeric_limits<double>::infinity();
+  auto const place = priorities.begin() + static_cast<std::ptrdiff_t>(priorities.size() / oneIn);
+  std::nth_element(priorities.begin(), place, priorities.end(), std::greater<>());
+  bool const differ = *std::min_element(place, priorities.end()) < *place;
+  return differ ? *place : std::numeric_limits<double>::infinity();
+}
+
 void LabelPlacer::collectMarks() {
+  double const least = leastImportant();
   std::vector<Box> marks;
+  std::vector<int> weights;
   for (int feature = 0; feature < store_.size(); ++feature) {
     Feature const& given = store_.features[feature];
     if (!shapes_.isDrawn(feature)) continue;
@@ -100,10 +117,12 @@ void LabelPlacer::collectMarks() {
       if (store_.parts[i].kind != PartKind::Point) continue;
       double const* const xy = store_.parts[i].xy;
       Box const mark = shapes_.at(feature, toPage(xy[0], xy[1]));
-      if (mark.meets(frame_)) marks.push_back(mark);
+      if (!mark.meets(frame_)) continue;
+      marks.push_back(mark);
+      weights.push_back(store_.priorities[feature] > least ? importantMark : 1);
     }
   }
-  marks_ = std::make_unique<MarkIndex>(marks);
+  marks_ = std::make_unique<MarkIndex>(marks, weights);
 }
 
 void LabelPlacer::place(std::function<bool()> const& isCancelled) {
@@ -196,7 +215,7 @@ Box LabelPlacer::boxFor(Box const& mark, double width, double height) const {
 
 LabelPlacer::Outcome LabelPlacer::placeBesidePoint(int feature, LabelText& text, QPointF const& point) {
   Box const mark = shapes_.at(feature, point);
-  if (!index_.isFree(LabelShape::upright(mark))) return Outcome::NoRoom;
+  if (!index_.isFree(LabelShape::upright(mark.grown(-hiddenPart * (mark.xmax - mark.xmin))))) return Outcome::NoRoom;
   if (settings_.wrapPt > 0) text.text = SysDisplay::wrapped(text.text, *text.symbol, settings_.wrapPt);
   // Most places of a crowded map have no room for their name. That shows at the least size that it may have, too, and
   // laying out a text takes far longer.

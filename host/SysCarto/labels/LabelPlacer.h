@@ -75,6 +75,7 @@ private:
   using Pieces = std::vector<Piece>;
 
   std::vector<int> candidates() const;
+  double leastImportant() const;
   void collectMarks();
   void addEdges(Ring const& points);
 

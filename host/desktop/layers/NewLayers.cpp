@@ -122,8 +122,6 @@ public:
       if (!problem.isEmpty()) problems_ << problem;
       if (!read.empty()) layers.push_back({ptr_cast<VectorLayer>(read.front().layer), styled.order, styled.outliers});
     }
-    std::stable_sort(layers.begin(), layers.end(),
-                     [](Styled const& one, Styled const& other) { return one.order.isBelow(other.order); });
     return layers;
   }
 
@@ -136,10 +134,7 @@ private:
     ShownArea const shown = ShownArea::of(system, shape, frameCm_, isFirst ? room : 0);
     LayerStyling styling(frameCm_.width() * frameCm_.height(), shown.isSmallScale ? shown.area : GlobeArea());
     for (auto const& layer : map_.GetLayers()) styling.notice(*layer);
-    std::vector<StyledLayer> layers;
-    for (LayerSurvey const& survey : surveys_)
-      for (StyledLayer const& layer : styling.style(survey)) layers.push_back(layer);
-    return layers;
+    return styling.style(surveys_);
   }
 
   Map const& map_;

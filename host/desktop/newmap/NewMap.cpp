@@ -222,10 +222,7 @@ bool NewMap::style() {
   hasGraticule_ = shown.isSmallScale;
   LayerStyling styling(place.width() * place.height(), hasGraticule_ ? shown.area : GlobeArea());
   if (isGlobe()) styling.reserve(tr("Sea"));
-  for (LayerSurvey const& survey : surveys_)
-    for (StyledLayer const& layer : styling.style(survey)) layers_.push_back(layer);
-  std::stable_sort(layers_.begin(), layers_.end(),
-                   [](StyledLayer const& one, StyledLayer const& other) { return one.order.isBelow(other.order); });
+  layers_ = styling.style(surveys_);
   for (StyledLayer const& layer : layers_)
     explain(tr("Layer “%1”").arg(layer.name), layer.reasons.join(QStringLiteral("; ")));
   if (hasSea()) explain(tr("Sea around the land"), tr("The data hold all the land that the map shows."));

@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 
+#include <ogr_api.h>
 #include <ogr_feature.h>
 #include <ogr_spatialref.h>
 
@@ -72,6 +73,9 @@ public:
     Box const box{envelope.MinX, envelope.MinY, envelope.MaxX, envelope.MaxY};
     sample_.add(box);
     largestKm2_ = std::max(largestKm2_, squareKm(box, system_.get()));
+    if (geometry.getDimension() == 2)
+      coveredKm2_ += squareKm(OGR_G_Area(OGRGeometry::ToHandle(const_cast<OGRGeometry*>(&geometry))),
+                              (box.ymin + box.ymax) / 2, system_.get());
     if (isGeographic_) addDegrees(geometry, degrees_);
   }
 
@@ -97,6 +101,9 @@ public:
     } else if (system_) {
       addTransformed(survey.box, survey.extent);
     }
+    GlobeArea const area = survey.extent.isEmpty() ? GlobeArea() : survey.extent.area();
+    double const wholeKm2 = system_ ? area.widthKm() * area.heightKm() : squareKm(survey.box, nullptr);
+    if (wholeKm2 > 0) survey.covered = coveredKm2_ / wholeKm2;
   }
 
 private:
@@ -121,7 +128,7 @@ private:
   bool isGeographic_ = false;
   GlobeExtent degrees_;
   BoxSample sample_;
-  double largestKm2_ = 0;
+  double largestKm2_ = 0, coveredKm2_ = 0;
 };
 
 void note(OGRFeature const& feature, int index, FieldSurvey& field) {

@@ -50,6 +50,7 @@ struct LayerSurvey {
   GlobeExtent extent;                        ///< in degrees; empty where the coordinate system is not known
   SysGeometry::Box box;                      ///< in the source's coordinate system
   double largestKm2 = 0;                     ///< about the largest feature, as of `DrawingOrder`
+  double covered = 1;                        ///< which part of the extent areas cover, about
   std::vector<FieldSurvey> fields;
 
   FieldSurvey const* field(QString const& name) const;

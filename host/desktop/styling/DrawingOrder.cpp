@@ -49,11 +49,13 @@ DrawingOrder DrawingOrder::of(SysCarto::Layer const& layer, QString const& mapSy
   return of(kind, Theme::of(layer.GetName(), kind), vector->features().size(), largest);
 }
 
-double squareKm(SysGeometry::Box const& box, OGRSpatialReference const* system) {
-  double const width = box.xmax - box.xmin, height = box.ymax - box.ymin;
+double squareKm(double area, double y, OGRSpatialReference const* system) {
   if (system && system->IsGeographic())
-    return width * height * GlobeArea::kmPerDegree * GlobeArea::kmPerDegree *
-           std::cos((box.ymin + box.ymax) * M_PI / 360);
+    return area * GlobeArea::kmPerDegree * GlobeArea::kmPerDegree * std::cos(y * M_PI / 180);
   double const km = system && system->IsProjected() ? system->GetLinearUnits() / 1000 : 0.001;
-  return width * height * km * km;
+  return area * km * km;
+}
+
+double squareKm(SysGeometry::Box const& box, OGRSpatialReference const* system) {
+  return squareKm((box.xmax - box.xmin) * (box.ymax - box.ymin), (box.ymin + box.ymax) / 2, system);
 }

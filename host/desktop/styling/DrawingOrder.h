@@ -24,5 +24,6 @@ struct DrawingOrder {
   }
 };
 
-/// Of a box in units of a system, or of plain coordinates; about.
+/// Of an area in units of a system, or of plain coordinates, with its middle at `y`; about.
+double squareKm(double area, double y, OGRSpatialReference const* system);
 double squareKm(SysGeometry::Box const& box, OGRSpatialReference const* system);

@@ -30,6 +30,7 @@ struct Texts {
 constexpr int maxClasses = 8;
 constexpr int maxColoured = 600;  // areas that get a colour each, so that neighbours differ
 constexpr int maxLabelledBuildings = 300;
+constexpr int maxBeside = 100;  // scattered areas that have their names beside them
 constexpr int rampClasses = 5, sizeClasses = 4;
 
 struct KindRow {
@@ -210,7 +211,7 @@ Lettering letteringOf(Material const& of) {
   double const roomy = std::min(1.0, 0.3 / std::sqrt(of.density()));
   if (subject == Subject::Water) return {7, "EB Garamond", MapColors::waterText, 0.3, true, 15};
   switch (of.kind) {
-    case GeometryKind::Points: return {6 + 2 * of.fineness, "Lato", MapColors::ink, 0, false, 30};
+    case GeometryKind::Points: return {4.5 + 2.5 * of.fineness, "Lato", MapColors::ink, 0, false, 30};
     case GeometryKind::Lines: return {5.5 + 1.5 * of.fineness, "Lato", MapColors::softInk, 0, false, 20};
     default: break;
   }
@@ -235,6 +236,8 @@ QJsonObject labelsOf(Material const& of, FieldSurvey const& names, FieldSurvey c
   if (lettering.spacing > 0) symbol.insert("letterSpacing", lettering.spacing);
   if (lettering.italic) symbol.insert("italic", true);
   QJsonObject labels{{"field", names.name}, {"priority", lettering.priority}, {"symbol", symbol}};
+  bool const areIslands = of.kind == GeometryKind::Areas && of.survey.covered < 0.1 && of.survey.count <= maxBeside;
+  if (areIslands) labels.insert("areaPlace", "outside");
   if (!size) return labels;
   labels.insert("priorityField", size->name);
   double const large = percentile(*size, 0.9);
@@ -255,11 +258,15 @@ QJsonObject stored(SysCarto::SourceSettings const& source) {
   return json;
 }
 
-// Of the symbols of a renderer, one each.
+// By which the symbols of a renderer are known; that of a layered one is its topmost.
 QStringList colorsIn(QJsonObject const& renderer) {
-  QStringList colors{renderer.value("symbol").toObject().value("color").toString()};
-  for (QJsonValue const& one : renderer.value("classes").toArray())
-    colors << one.toObject().value("symbol").toObject().value("color").toString();
+  QStringList colors;
+  auto const add = [&](QJsonValue const& symbol) {
+    QJsonArray const layers = symbol["layers"].toArray();
+    colors << (layers.isEmpty() ? symbol : layers.last())["color"].toString();
+  };
+  add(renderer.value("symbol"));
+  for (QJsonValue const& one : renderer.value("classes").toArray()) add(one["symbol"]);
   return colors;
 }
 
@@ -312,7 +319,22 @@ QString LayerStyling::freeName(QString const& wanted, QString const& file) {
   return name;
 }
 
-std::vector<StyledLayer> LayerStyling::style(LayerSurvey const& survey) {
+// What has colours by its kind comes before marks, which may have any.
+std::vector<StyledLayer> LayerStyling::style(std::vector<LayerSurvey> const& surveys) {
+  std::vector<LayerSurvey const*> sorted;
+  for (LayerSurvey const& survey : surveys) sorted.push_back(&survey);
+  std::stable_sort(sorted.begin(), sorted.end(), [](LayerSurvey const* one, LayerSurvey const* other) {
+    return one->description.kind > other->description.kind;
+  });
+  std::vector<StyledLayer> layers;
+  for (LayerSurvey const* const survey : sorted)
+    for (StyledLayer const& layer : styleKinds(*survey)) layers.push_back(layer);
+  std::stable_sort(layers.begin(), layers.end(),
+                   [](StyledLayer const& one, StyledLayer const& other) { return one.order.isBelow(other.order); });
+  return layers;
+}
+
+std::vector<StyledLayer> LayerStyling::styleKinds(LayerSurvey const& survey) {
   auto const& counts = survey.counts;
   bool const isPure = counts.size() == 1 && !counts.contains(GeometryKind::Mixed);
   if (isPure || counts.isEmpty())

@@ -32,10 +32,11 @@ public:
   /// Nothing else is called so.
   void reserve(QString const& name) { names_ << name; }
 
-  /// One layer for each kind of geometry that there is, since a symbol draws one kind.
-  std::vector<StyledLayer> style(LayerSurvey const& survey);
+  /// In drawing order, the lowest first. One layer for each kind of geometry that there is, since a symbol draws one.
+  std::vector<StyledLayer> style(std::vector<LayerSurvey> const& surveys);
 
 private:
+  std::vector<StyledLayer> styleKinds(LayerSurvey const& survey);
   StyledLayer styleKind(LayerSurvey const& survey, SysCarto::GeometryKind kind, SysCarto::SourceSettings const& source);
   QString freeName(QString const& wanted, QString const& file);
 
