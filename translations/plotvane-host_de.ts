@@ -7069,7 +7069,7 @@
     </message>
     <message>
         <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export.</source>
-        <translation>das ist der Name eines Bildes, gespeichert wird aber das Dokument; nennen Sie eine .kdx-Datei oder machen Sie mit Plotvane_Export ein Bild.</translation>
+        <translation type="vanished">das ist der Name eines Bildes, gespeichert wird aber das Dokument; nennen Sie eine .kdx-Datei oder machen Sie mit Plotvane_Export ein Bild.</translation>
     </message>
     <message>
         <source>an element can only be added where the page layout is shown.</source>
@@ -7090,6 +7090,10 @@
     <message>
         <source>run: %1: %2.</source>
         <translation>run: %1: %2.</translation>
+    </message>
+    <message>
+        <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export</source>
+        <translation>das ist der Name eines Bildes, gespeichert wird aber das Dokument; nennen Sie eine .kdx-Datei oder machen Sie mit Plotvane_Export ein Bild</translation>
     </message>
 </context>
 <context>

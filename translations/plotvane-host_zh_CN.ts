@@ -7069,7 +7069,7 @@
     </message>
     <message>
         <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export.</source>
-        <translation>这是图像的名称，而保存的是文档；请指定 .kdx 文件，或用 Plotvane_Export 生成图像。</translation>
+        <translation type="vanished">这是图像的名称，而保存的是文档；请指定 .kdx 文件，或用 Plotvane_Export 生成图像。</translation>
     </message>
     <message>
         <source>an element can only be added where the page layout is shown.</source>
@@ -7090,6 +7090,10 @@
     <message>
         <source>run: %1: %2.</source>
         <translation>run：%1：%2。</translation>
+    </message>
+    <message>
+        <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export</source>
+        <translation>这是图像的名称，而保存的是文档；请指定 .kdx 文件，或用 Plotvane_Export 生成图像</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,14 @@ QString unclearExtent(QString const& text) {
              : RunSteps::tr("this rectangle has no area; its corners must differ in x and in y");
 }
 
+QString unclearDocument(QString const& file) {
+  return ImageFormat::withSuffix(QFileInfo(file).suffix())
+             ? RunSteps::tr(
+                   "this is the name of an image, and what is saved is the document; name a .kdx file, or make "
+                   "an image with Plotvane_Export")
+             : QString();
+}
+
 bool isPoint(QString const& text) { return numbersIn(text).size() == 2; }
 bool areTwoPoints(QString const& text) { return numbersIn(text).size() == 4; }
 bool isScale(QString const& text) { return scaleDenominatorOf(text).has_value(); }
@@ -170,7 +178,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
       {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
       {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
-      {text("save"),       text("FILE"),         isAnything,   &RunSteps::save,    {}},
+      {text("save"),       text("FILE"),         isAnything,   &RunSteps::save,    {}, nullptr, unclearDocument},
       {text("info"),       {},                   nullptr,      &RunSteps::info,    {}},
   };
   // clang-format on
@@ -479,10 +487,6 @@ QString RunSteps::answer(QString const& text) {
 }
 
 QString RunSteps::save(QString const& file) {
-  if (ImageFormat::withSuffix(QFileInfo(file).suffix()))
-    return tr(
-        "this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with "
-        "Plotvane_Export.");
   DocumentLock lock(file);
   if (!lock.take() && !force_) return tr("%1 Name another file, or pass --force.").arg(lock.holder());
   if (!force_ && lock.guards(bench_.session().path()) && bench_.session().isFileChanged())

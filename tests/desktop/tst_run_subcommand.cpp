@@ -61,9 +61,9 @@ private slots:
     row("attributes of a layer that there isn't", "attributes=layer:Countries/Towns", 1,
         "there is no layer \"Countries/Towns\"");
     row("a command of the window", "Host_Save", 2, "save=FILE saves");
-    row("a document in an image's place", "save=a.png", 1, "name a .kdx file");
+    row("a document in an image's place", "save=a.png", 2, "name a .kdx file");
     row("an extent that no map shows", "extent=0,0,1e300,1", 1, "can't show");
-    row("an extent without area", "extent=1,1,1,1", 1, "no area");
+    row("an extent without area", "extent=1,1,1,1", 2, "no area");
     row("the scale of a locked map", "Plotvane_LockDataFrame scale=1:5000", 1, "Plotvane_UnlockDataFrame");
     row("a map without layers", "hide=Roads", 1, "no map with layers");
     row("a template that is not there", "info answer=file:none.kdx Plotvane_ChangePageLayout", 1,
@@ -85,6 +85,7 @@ private slots:
     row("an image over data of the page", "info answer=lineEdit_OutputPath:drawn.png Plotvane_Export", 1, "drawn from");
     row("a pipe", "save=pipe.kdx", 1, "no ordinary file");
     row("a folder for an image", "answer=lineEdit_OutputPath:. Plotvane_Export", 1, "is a folder");
+    row("an unknown method", "classify=layer:Countries/Towns/name:jenks", 2, "the method is one of equal");
     row("an unknown step", "frobnicate", 2, "\"frobnicate\" is neither");
     row("a point without its second number", "click=1", 2, "click=X,Y");
   }
