@@ -5253,7 +5253,7 @@
     </message>
     <message>
         <source>%1 was not written: %2.</source>
-        <translation>%1 未写入：%2。</translation>
+        <translation>未写入 %1：%2。</translation>
     </message>
     <message>
         <source>the image file could not be created</source>
