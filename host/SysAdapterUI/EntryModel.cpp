@@ -42,11 +42,16 @@ void EntryModel::findFields() {
   });
 }
 
+// What is being edited in another column goes on.
 void EntryModel::setCounts(QVector<qint64> const& counts) {
-  if (counts == counts_) return;
-  beginResetModel();
+  int const column = places_.size();
+  bool const isNew = counts_.isEmpty() && !counts.isEmpty(), isOver = !counts_.isEmpty() && counts.isEmpty();
+  if (isNew) beginInsertColumns({}, column, column);
+  if (isOver) beginRemoveColumns({}, column, column);
   counts_ = counts;
-  endResetModel();
+  if (isNew) endInsertColumns();
+  if (isOver) endRemoveColumns();
+  if (!isNew && !isOver && hasCounts()) emit dataChanged(index(0, column), index(rowCount() - 1, column));
 }
 
 QModelIndex EntryModel::mapToSource(QModelIndex const& index) const {

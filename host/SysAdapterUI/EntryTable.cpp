@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QTableView>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -29,8 +30,7 @@ EntryTable::EntryTable(PropertySheet& sheet, Ways const& ways, QWidget* parent)
       ways_(ways),
       entries_(new EntryModel(sheet.model(), this)),
       view_(new QTableView(this)),
-      told_(new QLabel(this)),
-      buttons_(new QHBoxLayout) {
+      told_(new QLabel(this)) {
   struct Face {
     QString text;
     char const* name;
@@ -38,16 +38,17 @@ EntryTable::EntryTable(PropertySheet& sheet, Ways const& ways, QWidget* parent)
   Face const faces[] = {{tr("&Add"), "pushButton_AddEntry"},        {tr("&Change…"), "pushButton_ChangeEntry"},
                         {tr("&Duplicate"), "pushButton_CopyEntry"}, {tr("&Remove"), "pushButton_RemoveEntry"},
                         {tr("&Up"), "pushButton_RaiseEntry"},       {tr("Do&wn"), "pushButton_LowerEntry"}};
+  auto* const buttons = new QHBoxLayout;
   for (int i = 0; i < count; ++i) {
     press_[i] = new QPushButton(ways.add && i == Add ? tr("&Add…") : faces[i].text, this);
     press_[i]->setObjectName(QLatin1String(faces[i].name));
     press_[i]->setAutoDefault(false);
     connect(press_[i], &QPushButton::clicked, this, [this, i] { press(static_cast<Button>(i)); });
-    buttons_->addWidget(press_[i]);
+    buttons->addWidget(press_[i]);
   }
   press_[Change]->setVisible(static_cast<bool>(ways.change));
   press_[Duplicate]->setVisible(!ways.add);
-  buttons_->addStretch(1);
+  buttons->addStretch(1);
 
   view_->setObjectName(QStringLiteral("tableView_Entries"));
   view_->setModel(entries_);
@@ -69,7 +70,7 @@ EntryTable::EntryTable(PropertySheet& sheet, Ways const& ways, QWidget* parent)
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(view_, 1);
   column->addWidget(told_);
-  column->addLayout(buttons_);
+  column->addLayout(buttons);
 
   auto* const removal = new QShortcut(QKeySequence::Delete, view_);
   removal->setContext(Qt::WidgetShortcut);
@@ -85,6 +86,10 @@ EntryTable::EntryTable(PropertySheet& sheet, Ways const& ways, QWidget* parent)
     column_ = std::max(0, view_->currentIndex().column());
   });
   connect(entries_, &QAbstractItemModel::modelReset, this, &EntryTable::settle);
+  connect(entries_, &QAbstractItemModel::columnsInserted, this, &EntryTable::fitColumns);
+  // What was not followed while a value was being edited is followed now.
+  connect(delegate, &QAbstractItemDelegate::closeEditor, this,
+          [this] { QTimer::singleShot(0, &sheet_, &PropertySheet::refresh); });
   settle();
 }
 

@@ -7,7 +7,6 @@
 #include <array>
 #include <functional>
 
-class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QTableView;
@@ -40,9 +39,6 @@ public:
   /// Takes the value that is being edited.
   void finish();
 
-  /// More buttons have room at the end of this.
-  QBoxLayout& buttons() { return *buttons_; }
-
 private:
   enum Button { Add, Change, Duplicate, Remove, Up, Down, count };
 
@@ -57,7 +53,6 @@ private:
   EntryModel* const entries_;
   QTableView* const view_;
   QLabel* const told_;
-  QBoxLayout* const buttons_;
   std::array<QPushButton*, count> press_{};
   int row_ = -1, column_ = 0;  // before the rows became others
 };

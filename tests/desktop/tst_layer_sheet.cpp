@@ -10,6 +10,7 @@
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/desktop/MainWindow.h"
+#include "host/desktop/RunSteps.h"
 #include "host/desktop/layers/LayerActions.h"
 #include "host/desktop/layers/sheet/ConditionDialog.h"
 #include "host/desktop/layers/sheet/JoinDialog.h"
@@ -185,6 +186,15 @@ private slots:
       return features < 0 ? QString() : table.entries().index(row, features).data().toString();
     };
     QCOMPARE(count(0) + ' ' + count(1), QString("1 2"));
+    // What is being edited stays so while counts come and go.
+    QModelIndex const edited = table.entries().index(0, column("Filter"));
+    table.view().edit(edited);
+    QPointer<QWidget> const editor = table.view().indexWidget(edited);
+    table.entries().setCounts({});
+    table.entries().setCounts({1, 2});
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(editor && table.view().indexWidget(edited) == editor);
+    table.finish();
     type(table, 0, column("Filter"), "people > 25");
     QTRY_COMPARE(count(0), QString());  // no longer true
     while (history->CanUndo()) history->Undo();
@@ -323,6 +333,19 @@ private slots:
     QVERIFY(MapDocumentHost::text(document).contains("\"file\": \"areas.csv\""));
     page.bench.session().document().GetOperationStack()->Undo();
     QVERIFY(MapDocumentHost::text(document) == start);
+  }
+
+  void stepsDoTheSameWithoutAWindow() {
+    RunSteps steps(true);
+    QCOMPARE(steps.open(folder_.filePath("start.kdx")), QString());
+    QString const condition = "count=layer:M/Towns:";
+    QCOMPARE(steps.check({condition + "people > 1", "count=layer:M/Towns", "join=layer:M/Towns@" + areas_}), QString());
+    QCOMPARE(steps.run("join=layer:M/Towns@" + areas_), QString());
+    QCOMPARE(steps.run(condition + "area > 7"), QString());
+    QVERIFY(steps.run(condition + "nothing > 7").contains("is not understood"));
+    QVERIFY(steps.run("join=layer:M/Towns@" + sample("none.csv")).contains("none.csv"));
+    QCOMPARE(steps.run("save=" + folder_.filePath("joined.kdx")), QString());
+    QVERIFY(contentOf(folder_.filePath("joined.kdx")).contains("\"tableKey\": \"id\""));
   }
 
   void aLayerIsOpenedFromTheContents() {

@@ -195,7 +195,7 @@ void ConditionDialog::showValues() {
   QString problem;
   if (wanted.field >= 0) scan_ = SysCarto::FeatureScan::open(source_, wanted, problem);
   if (!scan_) return;
-  values_->setProperty("ms", 0);
+  patience_.start();
   slices_.start(0);
 }
 
@@ -209,9 +209,7 @@ void ConditionDialog::readValues() {
     known << value;
     values_->addItem(value);
   });
-  qint64 const ms = values_->property("ms").toLongLong() + sliceMs;
-  values_->setProperty("ms", ms);
-  if (isMore && known.size() < mostValues && ms < patienceForValuesMs) return;
+  if (isMore && known.size() < mostValues && !patience_.hasExpired(patienceForValuesMs)) return;
   slices_.stop();
   scan_.reset();
   QStringList sorted = known.values();

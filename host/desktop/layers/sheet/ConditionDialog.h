@@ -6,6 +6,7 @@
 #include <SysCarto/MapDocument.h>
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <memory>
@@ -57,6 +58,7 @@ private:
   QPlainTextEdit* text_ = nullptr;
   TestBar* test_ = nullptr;
   QTimer slices_;
+  QElapsedTimer patience_;
   std::unique_ptr<SysCarto::FeatureScan> scan_;  // for values
 };
 

@@ -69,8 +69,8 @@ JoinDialog::~JoinDialog() = default;
 
 TableJoin JoinDialog::join() const {
   bool const isOnly = layer_->count() < 2;
-  return {file_->property("path").toString(), isOnly ? QString() : layer_->currentText(), key_->currentText(),
-          tableKey_->currentText(), prefix_->text()};
+  return {path_, isOnly ? QString() : layer_->currentText(), key_->currentText(), tableKey_->currentText(),
+          prefix_->text()};
 }
 
 void JoinDialog::build() {
@@ -130,8 +130,7 @@ void JoinDialog::build() {
 }
 
 void JoinDialog::chooseFile() {
-  QString const now = file_->property("path").toString();
-  QString const file = askForFile(now.isEmpty() ? folder_ : QFileInfo(now).absolutePath(), this);
+  QString const file = askForFile(path_.isEmpty() ? folder_ : QFileInfo(path_).absolutePath(), this);
   if (file.isEmpty()) return;
   file_->setText(QDir::toNativeSeparators(file));
   takeFile();
@@ -141,8 +140,8 @@ void JoinDialog::chooseFile() {
 void JoinDialog::takeFile() {
   QString const typed = QDir::fromNativeSeparators(file_->text());
   QString const path = typed.isEmpty() ? QString() : QDir::cleanPath(QDir(folder_).absoluteFilePath(typed));
-  if (path == file_->property("path").toString()) return;
-  file_->setProperty("path", path);
+  if (path == path_) return;
+  path_ = path;
   auto const described = SysCarto::describeFile(path);
   QSignalBlocker const quiet(layer_);
   layer_->clear();

@@ -39,6 +39,7 @@ private:
   QString const folder_;
   TableSample const sample_;  // of the features
   QStringList ownFields_;     // without those of tables
+  QString path_;              // of the table, absolute
   QLineEdit* file_ = nullptr;
   QComboBox* layer_ = nullptr;
   QComboBox* key_ = nullptr;

@@ -307,7 +307,7 @@ void LayerSheet::follow() {
 void LayerSheet::refreshTab() {
   if (pages_->currentIndex() >= static_cast<int>(tabs_.size()) || !row_.layer) return;
   Tab const& tab = tabs_[static_cast<size_t>(pages_->currentIndex())];
-  tab.sheet->refresh();
+  if (!tab.table->isEditing()) tab.sheet->refresh();
   bool hasRows = false;
   for (int i = 0; i < tab.sheet->model().rowCount(); ++i)
     hasRows = hasRows || !tab.sheet->model().row(tab.sheet->model().index(i, 0)).isList();

@@ -30,8 +30,6 @@ public:
   /// Drops what was found, too: it is no longer true.
   void clear();
 
-  bool isBusy() const { return static_cast<bool>(counts_); }
-
   void say(QString const& sentence, bool isProblem);
 
 signals:
