@@ -276,6 +276,30 @@ private slots:
     QCOMPARE(systemOf("places.gpkg", 11), QString());
   }
 
+  // A page of an office: the largest text is its name, and one in a group names the template's map.
+  void aTemplateKeepsWhatIsItsOwn() {
+    QString const file = makeData(path("town.gpkg"), {{"POINT(8 47)", "a", 1}, {"POINT(8.1 47.1)", "b", 2}});
+    put(path("office.kdx"), R"({"format": "plotvane-document", "version": 1, "page": {"form": "A4"},
+        "maps": [{"name": "Old", "bounds": [0, 0, 1, 1], "layers": []}], "elements": [
+        {"type": "dataFrame", "map": 0, "rectangle": [1, 3, 20, 28]},
+        {"type": "text", "text": "Office", "position": [1, 1], "symbol": {"type": "text", "size": 40}},
+        {"type": "text", "name": "Title", "text": "T", "position": [1, 28], "symbol": {"type": "text", "size": 9}},
+        {"type": "group", "members": [{"type": "text", "text": "[crs:Old] [scale]", "position": [9, 1],
+                                       "symbol": {"type": "text", "size": 8}}]}]})");
+    SysCarto::MapDocument document;
+    NewMapRequest request;
+    request.data = {{file, QString()}};
+    request.title = "Towns";
+    request.templateFile = path("office.kdx");
+    NewMapResult const made = makeNewMap(request, document);
+    QCOMPARE(made.problem, QString());
+    QByteArray const text = SysCarto::MapDocumentHost::text(document);
+    for (char const* part : {"\"text\": \"Office\"", "\"text\": \"Towns\"", "[crs:Towns] [scale]"})
+      QVERIFY2(text.contains(part), part);
+    QVERIFY(!text.contains("\"T\""));
+    QVERIFY(made.explanation.join('|').contains(": Office"));
+  }
+
   void readingCanBeStopped() {
     std::vector<MadeFeature> const many(60000, {"POINT(8 47)", "a", 1});
     QString const file = makeData(path("many.gpkg"), many);
