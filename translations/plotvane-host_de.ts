@@ -2293,6 +2293,10 @@
         <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
         <translation>%1: Das Dokument hat keine Seite, die gezeichnet werden könnte; geben Sie ihm eine, etwa &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</translation>
     </message>
+    <message>
+        <source>%1 was not written: %2.</source>
+        <translation>%1 wurde nicht geschrieben: %2.</translation>
+    </message>
 </context>
 <context>
     <name>FeatureEvaluator</name>
@@ -5266,6 +5270,10 @@
     <message>
         <source>%1 is a file that the page is drawn from; name another file for the image.</source>
         <translation>Aus %1 wird die Seite gezeichnet; nennen Sie eine andere Datei für das Bild.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: its end is missing; is the disk full?</source>
+        <translation>%1 wurde nicht geschrieben: Das Ende fehlt; ist die Platte voll?</translation>
     </message>
 </context>
 <context>

@@ -2293,6 +2293,10 @@
         <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
         <translation>%1：文档没有可绘制的页面；请给它一个，例如 &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}。</translation>
     </message>
+    <message>
+        <source>%1 was not written: %2.</source>
+        <translation>未写入 %1：%2。</translation>
+    </message>
 </context>
 <context>
     <name>FeatureEvaluator</name>
@@ -5266,6 +5270,10 @@
     <message>
         <source>%1 is a file that the page is drawn from; name another file for the image.</source>
         <translation>%1 是绘制此页面所用的文件；请为图像指定其他文件。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: its end is missing; is the disk full?</source>
+        <translation>未写入 %1：缺少结尾；磁盘是否已满？</translation>
     </message>
 </context>
 <context>

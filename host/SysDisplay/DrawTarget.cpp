@@ -7,6 +7,7 @@
 namespace SysDisplay {
 
 QRectF reachableArea(QPainter const& painter) {
+  if (auto const* const canvas = VectorCanvas::of(painter)) return canvas->area();
   QRectF area = painter.combinedTransform().inverted().mapRect(QRectF(painter.viewport()));
   if (painter.hasClipping()) area &= painter.clipBoundingRect();
   return area;
@@ -18,6 +19,7 @@ DrawTarget::DrawTarget(QPainter& painter, DisplayTransformation const& transform
 
 DrawTarget::DrawTarget(QPainter& painter, QTransform const& toDevice, double pixelsPerPoint, QPointF const& anchor)
     : painter_(painter),
+      canvas_(VectorCanvas::of(painter)),
       toDevice_(toDevice),
       pixelsPerPoint_(pixelsPerPoint),
       anchor_(anchor),

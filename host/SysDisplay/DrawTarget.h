@@ -2,6 +2,7 @@
 
 #include "host/SysDisplay/DevicePath.h"
 #include "host/SysDisplay/FillQueue.h"
+#include "host/SysDisplay/VectorCanvas.h"
 
 #include <SysDisplay/DisplayTransformation.h>
 
@@ -17,7 +18,8 @@ SYSDISPLAY_EXPORT QRectF reachableArea(QPainter const& painter);
 /// A painter with the mapping of what is drawn on it. Stands for one stretch of drawing, and all that is drawn in it
 /// goes through it, since fills are drawn later than they are added. The painter's state is put back at its end.
 ///
-/// The painter may have a transformation of its own that moves by whole pixels, and clipping; both are respected.
+/// The painter may have a transformation of its own that moves by whole pixels, and clipping; both are respected. On a
+/// `VectorCanvas`, the canvas alone has them.
 class SYSDISPLAY_EXPORT DrawTarget {
 public:
   DrawTarget(QPainter& painter, DisplayTransformation const& transformation);
@@ -30,11 +32,19 @@ public:
   DrawTarget& operator=(DrawTarget const&) = delete;
 
   /// Fills the runs as rings, by and by.
-  void fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule) { fills_.add(rings, color, rule); }
+  void fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule) {
+    if (canvas_)
+      canvas_->fill(rings, color, rule);
+    else
+      fills_.add(rings, color, rule);
+  }
 
   /// The same with pixels in place of a colour.
   void fill(PointRuns const& rings, std::shared_ptr<Texture const> const& texture, Qt::FillRule rule) {
-    fills_.add(rings, texture, rule);
+    if (canvas_)
+      canvas_->fill(rings, *texture);
+    else
+      fills_.add(rings, texture, rule);
   }
   QImage::Format textureFormat() const { return fills_.textureFormat(); }
 
@@ -48,6 +58,9 @@ public:
     return painter_;
   }
 
+  /// Where the painter makes shapes in place of pixels, what takes them; else null.
+  VectorCanvas* canvas() const { return canvas_; }
+
   QTransform const& toDevice() const { return toDevice_; }
   double pixelsPerPoint() const { return pixelsPerPoint_; }
 
@@ -59,6 +72,7 @@ public:
 
 private:
   QPainter& painter_;
+  VectorCanvas* const canvas_;
   QTransform const toDevice_;
   double const pixelsPerPoint_;
   QPointF const anchor_;

@@ -92,13 +92,14 @@ public:
       : target_(target), filling_(std::move(filling)), outline_(std::move(outline)) {
     double const reach = 2 + hatchWidthPt * target.pixelsPerPoint();
     area_ = target.area().adjusted(-reach, -reach, reach, reach);
+    if (target.canvas()) thinPx_ = target.canvas()->thinPx();
   }
 
   double reachPx() const override { return outline_ ? std::max(1.0, outline_->reachPx()) : 1.0; }
 
   void addRing(WorldRun const& run, bool outlined) override {
     if (filling_) {
-      toDevicePoints(target_.toDevice(), run, area_, 0, ring_);
+      toDevicePoints(target_.toDevice(), run, area_, thinPx_, ring_);
       if (ring_.size() > 2) clipRing(ring_, area_, target_.anchor(), rings_);
     }
     if (outline_ && outlined) outline_->addRing(run);
@@ -119,6 +120,7 @@ private:
   std::unique_ptr<Filling> const filling_;
   std::unique_ptr<PathDrawing> const outline_;
   QRectF area_;
+  double thinPx_ = 0;
   std::vector<QPointF> ring_;
   PointRuns rings_;
 };

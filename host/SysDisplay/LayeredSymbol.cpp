@@ -43,7 +43,7 @@ class LayeredMarker final : public MarkerDrawing {
 public:
   explicit LayeredMarker(Drawings<MarkerDrawing> layers) : layers_(std::move(layers)) {}
 
-  void drawAt(DrawTarget& target, QPointF const& position) override {
+  void draw(DrawTarget& target, QPointF const& position) override {
     for (auto const& layer : layers_) layer->drawAt(target, position);
   }
   QRectF bounds() const override {

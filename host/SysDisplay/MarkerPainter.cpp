@@ -12,6 +12,21 @@ using SysUtility::_ptr_t;
 
 MarkerDrawing::~MarkerDrawing() = default;
 
+void MarkerDrawing::drawAt(DrawTarget& target, QPointF const& position) {
+  VectorCanvas* const canvas = target.canvas();
+  if (!canvas) return draw(target, position);
+  if (canvas != canvas_) {
+    canvas->beginSymbol(bounds().adjusted(-1, -1, 1, 1));
+    {
+      DrawTarget own(target.painter(), QTransform(), target.pixelsPerPoint());
+      draw(own, {0, 0});
+    }
+    symbol_ = canvas->endSymbol();
+    canvas_ = canvas;
+  }
+  canvas->place(symbol_, position);
+}
+
 PreparableMarker::PreparableMarker() = default;
 PreparableMarker::PreparableMarker(PreparableMarker const&) = default;
 PreparableMarker& PreparableMarker::operator=(PreparableMarker const&) = default;

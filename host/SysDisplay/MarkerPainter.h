@@ -13,11 +13,18 @@ class SYSDISPLAY_EXPORT MarkerDrawing {
 public:
   virtual ~MarkerDrawing();
 
-  /// Draws the marker about a device position.
-  virtual void drawAt(DrawTarget& target, QPointF const& position) = 0;
+  /// Draws the marker about a device position. On a canvas it is drawn once, and then placed.
+  void drawAt(DrawTarget& target, QPointF const& position);
 
   /// What the marker covers about its position, in pixels, y downwards.
   virtual QRectF bounds() const = 0;
+
+protected:
+  virtual void draw(DrawTarget& target, QPointF const& position) = 0;
+
+private:
+  VectorCanvas* canvas_ = nullptr;  // which knows the marker
+  int symbol_ = 0;                  // by this number
 };
 
 /// A marker symbol of this library: all its drawing stands on `prepare`.

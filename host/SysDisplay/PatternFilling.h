@@ -15,6 +15,9 @@ public:
   /// The pixels of a rectangle on the device, in the format ARGB32_Premultiplied. What a place shows must not depend on
   /// the rectangle, and `anchor` is all that tells where it lies on the sheet that tiles are cut from.
   virtual QImage drawn(QRect const& area, QPointF const& anchor) = 0;
+
+  /// Draws what shows in a rectangle on a canvas, which is cut to the area already. False where that is pixels.
+  virtual bool drawShapes(DrawTarget& target, QRectF const& area);
 };
 
 /// Areas filled with a pattern. Of the target, what lies beneath them is drawn once, as it is needed; so many small

@@ -44,6 +44,11 @@ public:
     return image;
   }
 
+  bool drawShapes(DrawTarget& target, QRectF const& area) override {
+    visit(area, target.anchor(), [&](QPointF const& position) { marker_->drawAt(target, position); });
+    return true;
+  }
+
   // The colour of the pattern seen from afar.
   QColor mean() {
     int const side = static_cast<int>(std::clamp(std::ceil(8 * std::max(dx_, dy_)), 64.0, 512.0));
@@ -53,6 +58,12 @@ public:
 private:
   void draw(QPainter& painter, QRectF const& area, QPointF const& anchor) {
     DrawTarget target(painter, QTransform(), pixelsPerPoint_);
+    visit(area, anchor, [&](QPointF const& position) { marker_->drawAt(target, position); });
+  }
+
+  // The places of all markers that reach into the area.
+  template <class Visit>
+  void visit(QRectF const& area, QPointF const& anchor, Visit const& visit) {
     QRectF const bounds = marker_->bounds();
     QRectF const reached =
         area.adjusted(-bounds.right() - 2, -bounds.bottom() - 2, -bounds.left() + 2, -bounds.top() + 2);
@@ -64,7 +75,7 @@ private:
       for (double column = std::floor((onGrid.left() - shift) / dx_); column <= lastColumn && column + 1 > column;
            ++column) {
         QPointF const position = anchor + toDevice_.map(QPointF(column * dx_ + shift, row * dy_));
-        if (reached.contains(position)) marker_->drawAt(target, position);
+        if (reached.contains(position)) visit(position);
       }
     }
   }

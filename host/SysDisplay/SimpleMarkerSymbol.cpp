@@ -75,7 +75,7 @@ public:
     bounds_ = area_.bounds() | outline_.bounds();
   }
 
-  void drawAt(DrawTarget& target, QPointF const& position) override {
+  void draw(DrawTarget& target, QPointF const& position) override {
     QPointF const place = snapped(position);
     draw(target, area_, place, color_, Qt::OddEvenFill);
     draw(target, outline_, place, outlineColor_, Qt::WindingFill);

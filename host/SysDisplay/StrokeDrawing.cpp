@@ -18,7 +18,7 @@ using SysUtility::_ptr_t;
 namespace {
 
 // Vertices nearer to each other than this can't be told apart in a stroke.
-constexpr double thinPx = 0.25;
+constexpr double nearestPx = 0.25;
 
 // Nothing that a page needs reaches farther, and the outline has to stay within what the rasteriser can take.
 constexpr double maxReachPx = 12000.0;
@@ -67,12 +67,14 @@ class StrokeDrawing final : public PathDrawing {
 public:
   StrokeDrawing(DrawTarget& target, LineSymbol const& symbol, Dashes dashes)
       : target_(target),
-        color_(symbol.GetColor()),
         offsetPx_(symbol.GetOffset() * target.pixelsPerPoint()),
         dashes_(std::move(dashes)),
+        stroke_({symbol.GetColor(), widthPx(target, symbol), symbol.GetCapStyle(), symbol.GetJoinStyle(),
+                 symbol.GetMiterLimit()}),
         stroker_(widthPx(target, symbol), symbol.GetCapStyle(), symbol.GetJoinStyle(), symbol.GetMiterLimit()) {
     double const reach = std::min(stroker_.reachPx(), maxReachPx);
     area_ = target.area().adjusted(-reach, -reach, reach, reach);
+    if (target.canvas()) thinPx_ = target.canvas()->thinPx();
   }
 
   double reachPx() const override { return stroker_.reachPx() + std::abs(offsetPx_) * 2; }
@@ -83,15 +85,25 @@ public:
   }
 
   void draw(Box const&) override {
-    target_.fill(outline_, color_, Qt::WindingFill);
+    if (auto* const canvas = target_.canvas()) {
+      drawOn(*canvas, rings_, true);
+      drawOn(*canvas, lines_, false);
+      return;
+    }
+    target_.fill(outline_, stroke_.color, Qt::WindingFill);
     outline_.clear();
   }
 
 private:
+  void drawOn(VectorCanvas& canvas, PointRuns& lines, bool closed) {
+    if (!lines.isEmpty()) canvas.stroke(lines, closed, stroke_);
+    lines.clear();
+  }
+
   void add(WorldRun const& run, bool closed) {
     // Where a dash begins, and how far a line moved to its side reaches, depends on what comes before.
     bool const needsAll = !dashes_.pattern.empty() || offsetPx_ != 0;
-    toDevicePoints(target_.toDevice(), needsAll ? WorldRun{run.xy, run.count} : run, area_, thinPx, line_);
+    toDevicePoints(target_.toDevice(), needsAll ? WorldRun{run.xy, run.count} : run, area_, thinPx_, line_);
     if (!line_.empty()) stroke(courseOf(line_, closed, offsetPx_, moved_), closed);
   }
 
@@ -102,6 +114,7 @@ private:
       wholeRing = splitLine(line, closed, area_, target_.anchor(), pieces_);
     else
       dashLine(line, closed, dashes_, area_, pieces_);
+    if (target_.canvas()) return (wholeRing ? rings_ : lines_).append(pieces_);
     for (int i = 0; i < pieces_.count(); ++i) {
       if (wholeRing)
         stroker_.strokeClosed(pieces_.run(i), pieces_.size(i), outline_);
@@ -111,14 +124,16 @@ private:
   }
 
   DrawTarget& target_;
-  QColor const color_;
   double const offsetPx_;
   Dashes const dashes_;
+  Stroke const stroke_;
   Stroker stroker_;
   QRectF area_;
+  double thinPx_ = nearestPx;
   std::vector<QPointF> line_, moved_;
   PointRuns pieces_;
-  PointRuns outline_;
+  PointRuns outline_;        // in pixels
+  PointRuns rings_, lines_;  // on a canvas
 };
 
 }  // namespace

@@ -32,7 +32,8 @@ public:
 
   QRectF bounds() const override { return bounds_; }
 
-  void drawAt(DrawTarget& target, QPointF const& position) override {
+  void draw(DrawTarget& target, QPointF const& position) override {
+    if (target.canvas()) return drawShapes(target.painter(), position);
     // The bias sends what lies between two phases the same way in every tile.
     auto const phased = [](double p) { return std::floor(p * phases + 0.5 + 1e-4); };
     double const x = phased(position.x()), y = phased(position.y());
@@ -48,6 +49,15 @@ public:
   }
 
 private:
+  void drawShapes(QPainter& painter, QPointF const& position) {
+    painter.save();
+    painter.setClipRect(bounds_.translated(position));
+    painter.translate(position);
+    painter.setTransform(rotation_, true);
+    picture_->render(painter, QRectF(-size_.width() / 2, -size_.height() / 2, size_.width(), size_.height()));
+    painter.restore();
+  }
+
   struct Cell {
     int phaseX, phaseY, column, row;
     bool operator<(Cell const& o) const {

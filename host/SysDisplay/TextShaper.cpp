@@ -136,7 +136,52 @@ public:
     return std::max(widest - std::max(spacingOf(format), 0.0), 0.0) * maxCloseness / referencePx;
   }
 
+  // Each letter alone is asked for its glyphs, which are found again by their places. Letters of one ligature have the
+  // same.
+  static std::vector<QString> letters(TextFormat const& format, ShapedLine const& line) {
+    std::vector<QString> letters(line.glyphs.size());
+    Layout const layout(fontOf(format), line.text);
+    for (int from = 0, to = 0; from < line.text.size(); from = to) {
+      to = layout.text.nextCursorPosition(from);
+      if (to <= from) break;
+      size_t first = letters.size();
+      for (QGlyphRun const& run : layout.text.glyphRuns(from, to - from))
+        for (int i = 0; i < run.glyphIndexes().size(); ++i)
+          first = std::min(first, indexOf(line, run.glyphIndexes()[i], layout.place(run.positions()[i])));
+      if (first < letters.size()) letters[first] += line.text.mid(from, to - from);
+    }
+    return letters;
+  }
+
 private:
+  struct Layout {
+    Layout(QFont const& font, QString const& words) : text(words, font) {
+      QTextOption option;
+      option.setUseDesignMetrics(true);
+      option.setWrapMode(QTextOption::NoWrap);
+      text.setTextOption(option);
+      text.beginLayout();
+      line = text.createLine();
+      if (line.isValid()) line.setLineWidth(1e7);
+      text.endLayout();
+    }
+
+    // Text from right to left is set against the far end of the line.
+    QPointF place(QPointF const& position) const {
+      return (position - QPointF(line.naturalTextRect().left(), line.ascent())) / referencePx;
+    }
+
+    QTextLayout text;
+    QTextLine line;
+  };
+
+  static size_t indexOf(ShapedLine const& line, quint32 glyph, QPointF const& place) {
+    auto const found = std::find_if(line.glyphs.begin(), line.glyphs.end(), [&](PlacedGlyph const& placed) {
+      return placed.glyph->index() == glyph && (placed.place - place).manhattanLength() < 0.001;
+    });
+    return static_cast<size_t>(found - line.glyphs.begin());
+  }
+
   /// What single letters advance, where a text is at least about as wide as its letters.
   struct Letters {
     std::unique_ptr<QFontMetricsF> metrics;
@@ -184,53 +229,44 @@ private:
   }
 
   ShapedLine layOutLine(QFont const& font, double spacing, QString const& text) {
-    QTextLayout layout(text, font);
-    QTextOption option;
-    option.setUseDesignMetrics(true);
-    option.setWrapMode(QTextOption::NoWrap);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    if (line.isValid()) line.setLineWidth(1e7);
-    layout.endLayout();
+    Layout const layout(font, text);
     ShapedLine shaped;
-    if (!line.isValid()) return shaped;
+    shaped.text = text;
+    if (!layout.line.isValid()) return shaped;
     // The spacing behind the last letter belongs to no gap.
-    shaped.width = (line.naturalTextWidth() - (text.isEmpty() ? 0 : spacing)) / referencePx;
-    // Text from right to left is set against the far end of the line.
-    QPointF const origin(line.naturalTextRect().left(), line.ascent());
-    for (QGlyphRun const& run : layout.glyphRuns()) addRun(run, origin, shaped);
+    shaped.width = (layout.line.naturalTextWidth() - (text.isEmpty() ? 0 : spacing)) / referencePx;
+    for (QGlyphRun const& run : layout.text.glyphRuns()) addRun(run, layout, shaped);
     return shaped;
   }
 
-  void addRun(QGlyphRun const& run, QPointF const& origin, ShapedLine& line) {
+  void addRun(QGlyphRun const& run, Layout const& layout, ShapedLine& line) {
     QVector<quint32> const glyphs = run.glyphIndexes();
     QVector<QPointF> const positions = run.positions();
-    auto& known = glyphsOf(run.rawFont());
-    for (int i = 0; i < glyphs.size(); ++i) {
+    auto& [font, known] = face(run.rawFont());
+    for (int n = 0; n < glyphs.size(); ++n) {
+      int const i = run.isRightToLeft() ? glyphs.size() - 1 - n : n;
       auto& glyph = known[glyphs[i]];
       if (!glyph) {
         double const scale = 1.0 / referencePx;
-        glyph = std::make_unique<Glyph>(QTransform::fromScale(scale, scale).map(run.rawFont().pathForGlyph(glyphs[i])));
+        glyph = std::make_unique<Glyph>(font, glyphs[i],
+                                        QTransform::fromScale(scale, scale).map(font.pathForGlyph(glyphs[i])));
       }
-      QPointF const place = (positions[i] - origin) / referencePx;
-      if (glyph->outline().isEmpty()) continue;
+      QPointF const place = layout.place(positions[i]);
       line.glyphs.push_back({glyph.get(), place});
-      line.ink |= glyph->bounds().translated(place);
+      if (!glyph->outline().isEmpty()) line.ink |= glyph->bounds().translated(place);
     }
   }
 
-  using Glyphs = std::map<quint32, std::unique_ptr<Glyph>>;
+  using Face = std::pair<QRawFont const, std::map<quint32, std::unique_ptr<Glyph>>>;
 
-  Glyphs& glyphsOf(QRawFont const& font) {
-    for (auto& known : fonts_)
-      if (known.first == font) return known.second;
-    fonts_.emplace_back(font, Glyphs());
-    return fonts_.back().second;
+  Face& face(QRawFont const& font) {
+    for (Face& known : faces_)
+      if (known.first == font) return known;
+    return faces_.emplace_back(std::piecewise_construct, std::forward_as_tuple(font), std::forward_as_tuple());
   }
 
   static Shaper* shaper_;
-  std::list<std::pair<QRawFont, Glyphs>> fonts_;
+  std::list<Face> faces_;
   std::map<QString, Letters> letters_;  // by font key
   QCache<TextKey, std::shared_ptr<ShapedText const>> texts_{maxKeptGlyphs};
 };
@@ -264,6 +300,10 @@ QString fontKeyOf(TextFormat const& format) {
 
 std::shared_ptr<ShapedText const> shapedText(TextFormat const& format, QString const& fontKey, QString const& text) {
   return Shaper::instance().shape(format, fontKey, text);
+}
+
+std::vector<QString> lettersOf(TextFormat const& format, ShapedLine const& line) {
+  return Shaper::letters(format, line);
 }
 
 double minWidth(TextFormat const& format, QString const& fontKey, QString const& text) {

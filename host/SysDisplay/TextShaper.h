@@ -4,16 +4,23 @@
 #include "host/SysDisplay/TextSymbol.h"
 
 #include <QPainterPath>
+#include <QRawFont>
 
 #include <map>
 #include <memory>
 
 namespace SysDisplay {
 
-/// A letter's outline in units of the font's size, y downwards, with its place on the baseline at (0, 0).
+/// A letter's outline in units of the font's size, y downwards, with its place on the baseline at (0, 0). The font
+/// belongs to the shaper and stays.
 class Glyph {
 public:
-  explicit Glyph(QPainterPath const& outline) : outline_(outline), bounds_(outline_.boundingRect()) {}
+  Glyph(QRawFont const& font, quint32 index, QPainterPath const& outline)
+      : font_(font), index_(index), outline_(outline), bounds_(outline_.boundingRect()) {}
+
+  /// Where it comes from. A blank has no outline.
+  QRawFont const& font() const { return font_; }
+  quint32 index() const { return index_; }
 
   QPainterPath const& outline() const { return outline_; }
   QRectF const& bounds() const { return bounds_; }
@@ -25,6 +32,8 @@ public:
   PointRuns const& halo(double size, double emPx) const;
 
 private:
+  QRawFont const& font_;
+  quint32 const index_;
   QPainterPath const outline_;
   QRectF const bounds_;
   mutable std::map<int, PointRuns> rings_;  // by fineness
@@ -37,7 +46,8 @@ struct PlacedGlyph {
 };
 
 struct ShapedLine {
-  std::vector<PlacedGlyph> glyphs;
+  QString text;
+  std::vector<PlacedGlyph> glyphs;  ///< as they stand, from the left; blanks, too
   double width = 0;
   QRectF ink;
 };
@@ -54,6 +64,10 @@ QString fontKeyOf(TextFormat const& format);
 
 /// The text laid out. Kept for the next time, within a limit, and always valid for who holds it.
 std::shared_ptr<ShapedText const> shapedText(TextFormat const& format, QString const& fontKey, QString const& text);
+
+/// What each glyph of a line that was laid out in the format stands for: its letters, which may be several, or none
+/// where the glyph before it stands for them, too. In the order of the glyphs.
+SYSDISPLAY_EXPORT std::vector<QString> lettersOf(TextFormat const& format, ShapedLine const& line);
 
 /// A width, in units of the font's size, that the text has at least. Costs a small part of what laying it out does.
 double minWidth(TextFormat const& format, QString const& fontKey, QString const& text);

@@ -38,7 +38,7 @@ public:
     QRectF all;
     for (size_t i = 0; i < text_.lines.size(); ++i) {
       ShapedLine const& line = text_.lines[i];
-      if (line.glyphs.empty()) continue;
+      if (line.ink.isNull()) continue;
       QRectF const box(0, -text_.ascent, line.width, text_.ascent + text_.descent);
       all |= (box | line.ink).translated(start(i));
     }
@@ -48,7 +48,8 @@ public:
   template <class Visit>
   void visitGlyphs(Visit const& visit) const {
     for (size_t i = 0; i < text_.lines.size(); ++i)
-      for (PlacedGlyph const& placed : text_.lines[i].glyphs) visit(*placed.glyph, start(i) + placed.place);
+      for (PlacedGlyph const& placed : text_.lines[i].glyphs)
+        if (!placed.glyph->outline().isEmpty()) visit(*placed.glyph, start(i) + placed.place);
   }
 
 private:
@@ -58,6 +59,17 @@ private:
   ShapedText const& text_;
   double firstBaseline_ = 0;
 };
+
+void drawOn(VectorCanvas& canvas, TextFormat const& format, ShapedText const& shaped, QTransform const& toPage) {
+  Block const block(format, shaped);
+  auto const startOf = [&](size_t line) {
+    QPointF const start = block.start(line);
+    return QTransform::fromTranslate(start.x(), start.y()) * toPage;
+  };
+  if (format.hasHalo())
+    for (size_t i = 0; i < shaped.lines.size(); ++i) canvas.halo(format, shaped.lines[i], startOf(i));
+  for (size_t i = 0; i < shaped.lines.size(); ++i) canvas.text(format, shaped.lines[i], startOf(i));
+}
 
 QRectF inPoints(QRectF const& box, TextFormat const& format) {
   if (box.isNull()) return QRectF();
@@ -133,6 +145,8 @@ void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angl
   if (!points.mapRect(box).translated(position).adjusted(-1, -1, 1, 1).intersects(target.area())) return;
 
   QTransform const toPixels = QTransform(turned).scale(emPx, emPx);
+  if (auto* const canvas = target.canvas())
+    return drawOn(*canvas, format_, *shaped, toPixels * QTransform::fromTranslate(position.x(), position.y()));
   QPointF const origin = snapped(position);  // by itself, so that the letters' shapes don't depend on it
   PointRuns rings;
   auto const place = [&](PointRuns const& glyph, QPointF const& at) {
@@ -141,7 +155,7 @@ void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angl
       rings.endRun();
     }
   };
-  if (format_.haloSize > 0 && format_.haloColor.alpha() > 0) {
+  if (format_.hasHalo()) {
     double const size = format_.haloSize / format_.size;
     block.visitGlyphs([&](Glyph const& glyph, QPointF const& at) { place(glyph.halo(size, emPx), at); });
     target.fill(rings, format_.haloColor, Qt::WindingFill);

@@ -29,6 +29,8 @@ struct TextFormat {
   HorizontalAlignment horizontal = HorizontalAlignment::Left;
   VerticalAlignment vertical = VerticalAlignment::Baseline;
 
+  bool hasHalo() const { return haloSize > 0 && haloColor.alpha() > 0; }
+
   bool operator==(TextFormat const& other) const;
 };
 

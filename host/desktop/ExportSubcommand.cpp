@@ -10,6 +10,7 @@
 #include "export/LayoutRenderer.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/projection/GdalErrors.h"
+#include "host/desktop/vector/VectorExport.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -59,6 +60,7 @@ private:
   QString openDocument();
   QString imageSize(QSize& size) const;
   QString draw(ImageTarget const& target, Interrupt const& interrupt);
+  QString drawShapes(ImageTarget const& target, Interrupt const& interrupt);
   bool drawWithProgress(ExportCommand& command, Interrupt const& interrupt, QString const& path) const;
 
   Request request_;
@@ -122,14 +124,14 @@ QString ExportSubcommand::run() {
   if (problem.isEmpty()) problem = imageSize(size);
   if (problem.isEmpty()) problem = target.checkSize(size);
   if (problem.isEmpty()) problem = target.prepare();
-  if (problem.isEmpty()) reserveBlockCache(size.width());
-  if (problem.isEmpty()) problem = draw(target, interrupt);
+  if (problem.isEmpty()) problem = request_.format->isVector ? drawShapes(target, interrupt) : draw(target, interrupt);
   if (problem.isEmpty()) problem = target.checkResult(size);
   if (problem.isEmpty()) problem = target.commit();
   return problem;
 }
 
 QString ExportSubcommand::checkFormat() const {
+  if (request_.format->isVector) return QString();
   for (char const* driver : {request_.format->driver, "GTiff"})
     if (!GetGDALDriverManager()->GetDriverByName(driver))
       return tr("%1: this GDAL can't write %2; choose another format, or install a GDAL that can.")
@@ -156,7 +158,16 @@ QString ExportSubcommand::imageSize(QSize& size) const {
   return QString();
 }
 
+QString ExportSubcommand::drawShapes(ImageTarget const& target, Interrupt const& interrupt) {
+  QString const problem = writePdf(document_, target.workingPath(), request_.dpi, interrupt.cancel());
+  if (interrupt.cancel()->IsCanced()) return tr("%1 was not written: interrupted.").arg(request_.image);
+  return problem.isEmpty() ? QString() : tr("%1 was not written: %2.").arg(request_.image, problem);
+}
+
 QString ExportSubcommand::draw(ImageTarget const& target, Interrupt const& interrupt) {
+  QSize size;
+  imageSize(size);
+  reserveBlockCache(size.width());
   auto const desktop = SysUtility::make<OffscreenDesktop>(document_);
   auto const command = SysUtility::make<ExportCommand>();
   command->OnCreate(desktop->hook());

@@ -7,8 +7,11 @@
 
 namespace {
 
-constexpr ImageFormat formats[] = {
-    {"png", "png", "PNG"}, {"jpeg", "jpg jpeg", "JPEG"}, {"bmp", "bmp", "BMP"}, {"tiff", "tif tiff", "GTiff"}};
+constexpr ImageFormat formats[] = {{"png", "png", "PNG"},
+                                   {"jpeg", "jpg jpeg", "JPEG"},
+                                   {"bmp", "bmp", "BMP"},
+                                   {"tiff", "tif tiff", "GTiff"},
+                                   {"pdf", "pdf", "PDF", true}};
 
 template <class Predicate>
 ImageFormat const* first(Predicate isWanted) {
@@ -34,7 +37,7 @@ ImageFormat const& ImageFormat::writtenAt(QString const& path) {
   QString const suffix = QFileInfo(path).suffix();
   ImageFormat const* const found =
       first([&](ImageFormat const& one) { return suffix.compare(one.suffixList().first(), Qt::CaseInsensitive) == 0; });
-  return found ? *found : *named(QStringLiteral("tiff"));
+  return found && !found->isVector ? *found : *named(QStringLiteral("tiff"));
 }
 
 QString ImageFormat::names() {
@@ -52,6 +55,7 @@ QString ImageFormat::allSuffixes() {
 
 QString ImageFormat::writtenSuffixes() {
   QStringList all;
-  for (ImageFormat const& one : formats) all << QLatin1Char('.') + one.suffixList().first();
+  for (ImageFormat const& one : formats)
+    if (!one.isVector) all << QLatin1Char('.') + one.suffixList().first();
   return all.join(QStringLiteral(", "));
 }

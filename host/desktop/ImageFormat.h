@@ -4,9 +4,10 @@
 
 /// A format in which a page is written as an image.
 struct ImageFormat {
-  char const* name;      ///< as a command line has it
-  char const* suffixes;  ///< separated by blanks, without dots; the first one makes the plug-in write the format
-  char const* driver;    ///< GDAL's name
+  char const* name;       ///< as a command line has it
+  char const* suffixes;   ///< separated by blanks, without dots; the first one makes the plug-in write the format
+  char const* driver;     ///< GDAL's name; of a vector format just a name
+  bool isVector = false;  ///< of shapes, written by the host
 
   QStringList suffixList() const;
 

@@ -69,6 +69,7 @@ struct Ending {
 Ending const endings[] = {
     {"JPEG", QByteArray("\xff\xd9", 2)},
     {"PNG", QByteArray("\0\0\0\0IEND\xae\x42\x60\x82", 12)},
+    {"PDF", QByteArray("%%EOF\n")},
 };
 
 bool endsWith(QString const& path, QByteArray const& bytes) {
@@ -125,6 +126,7 @@ QString ImageTarget::checkAgainst(SysCarto::MapDocument const& document) const {
 }
 
 QString ImageTarget::checkSize(QSize const& size) const {
+  if (format_.isVector) return QString();
   if (size.isEmpty()) return tr("%1: the image would have no pixels; give more DPI.").arg(name_);
   QString problem = checkFormatLimits(size);
   if (problem.isEmpty()) problem = checkFreeSpace(size);
@@ -186,6 +188,8 @@ QString ImageTarget::failure(SysCarto::GdalErrors const& errors) const {
 }
 
 QString ImageTarget::checkResult(QSize size) const {
+  if (format_.isVector)
+    return hasEnding() ? QString() : tr("%1 was not written: its end is missing; is the disk full?").arg(name_);
   SysCarto::GdalErrors const errors;
   char const* const drivers[] = {format_.driver, nullptr};
   DatasetPtr const image(static_cast<GDALDataset*>(
@@ -200,10 +204,14 @@ QString ImageTarget::checkResult(QSize size) const {
   return QString();
 }
 
+bool ImageTarget::hasEnding() const {
+  return std::any_of(std::begin(endings), std::end(endings),
+                     [&](Ending const& ending) { return is(ending.driver) && endsWith(writtenPath(), ending.bytes); });
+}
+
 // Reading the last rows of a format that is written in one go would take as long as writing them all.
 bool ImageTarget::hasItsEnd(GDALDataset& image, QSize const& size) const {
-  for (Ending const& ending : endings)
-    if (is(ending.driver)) return endsWith(writtenPath(), ending.bytes);
+  if (is("JPEG") || is("PNG")) return hasEnding();
   bool const whole = !is("BMP") || QFileInfo(writtenPath()).size() >= bmpBytes(size);
   return whole && readLastRows(image, size);
 }

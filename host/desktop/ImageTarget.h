@@ -61,6 +61,7 @@ private:
   QString checkFreeMemory(QSize const& size) const;
   bool is(char const* driver) const;
   QString writtenPath() const { return folder_ ? workingPath() : path_; }
+  bool hasEnding() const;
   bool hasItsEnd(GDALDataset& image, QSize const& size) const;
 
   QString name_;  // as the user gave it, for sentences

@@ -34,8 +34,8 @@ private slots:
     row("a DPI of 0", "export page.kdx a.png --dpi 0", "whole number from 1 to 100000, not \"0\"");
     row("a DPI beyond the most", "export page.kdx a.png --dpi 100001", "not \"100001\"");
     row("a DPI beyond int", "export page.kdx a.png --dpi 4294967396", "not \"4294967396\"");
-    row("a suffix that names no format", "export page.kdx a.pdf", ".png, .jpg, .jpeg, .bmp, .tif, .tiff");
-    row("a format that there is not", "export page.kdx a.png --format gif", "png, jpeg, bmp, tiff, not \"gif\"");
+    row("a suffix that names no format", "export page.kdx a.gif", ".png, .jpg, .jpeg, .bmp, .tif, .tiff");
+    row("a format that there is not", "export page.kdx a.png --format gif", "png, jpeg, bmp, tiff, pdf, not \"gif\"");
     row("commands with an operand", "commands page.kdx", "one argument too many");
     row("a format that there is not", "schema page.kdx", "document or style, not \"page.kdx\"");
     row("no such language", "info page.kdx --language fr", "\"fr\" is none of the languages: de, en, zh_CN.");

@@ -39,6 +39,7 @@ PictureSource::~PictureSource() = default;
 void PictureSource::forget() {
   isLoaded_ = false;
   image_ = reduced_ = QImage();
+  jpeg_.clear();
   svg_.reset();
 }
 
@@ -82,6 +83,8 @@ QString PictureSource::loadImage(QIODevice& file, QString const& name) {
   QImage const image = reader.read();
   if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(name, reader.errorString());
   image_ = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  if (reader.format() == "jpeg" && reader.transformation() == QImageIOHandler::TransformationNone && file.seek(0))
+    jpeg_ = file.readAll();
   return {};
 }
 
@@ -101,10 +104,23 @@ void PictureSource::draw(QPainter& painter, QRect const& targetPx, double angleD
   QTransform turn;
   if (std::fmod(angleDegrees, 360) != 0)  // pixels go down, so that the painter turns the other way
     turn.translate(middle.x(), middle.y()).rotate(-angleDegrees).translate(-middle.x(), -middle.y());
+  if (auto* const canvas = SysDisplay::VectorCanvas::of(painter)) return drawOn(*canvas, painter, targetPx, turn);
   if (turn.isIdentity() && reduces(targetPx.size()))
     painter.drawImage(targetPx.topLeft(), reducedTo(targetPx.size()));
   else
     drawCells(painter, targetPx, turn);
+}
+
+// In its own pixels, however large it is drawn.
+void PictureSource::drawOn(SysDisplay::VectorCanvas& canvas, QPainter& painter, QRect const& targetPx,
+                           QTransform const& turn) {
+  QTransform const toPage = turn * QTransform::fromTranslate(targetPx.x(), targetPx.y());
+  QSize const size = targetPx.size();
+  if (!svg_) return canvas.picture({image_, jpeg_}, QTransform::fromScale(size.width(), size.height()) * toPage);
+  painter.save();
+  painter.setTransform(toPage, true);
+  svg_->render(&painter, QRectF(QPointF(0, 0), size));
+  painter.restore();
 }
 
 bool PictureSource::reduces(QSize const& targetSize) const {

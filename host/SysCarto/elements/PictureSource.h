@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QString>
 
@@ -8,6 +9,9 @@
 class QIODevice;
 class QPainter;
 class QSvgRenderer;
+namespace SysDisplay {
+class VectorCanvas;
+}
 
 namespace SysCarto {
 
@@ -37,6 +41,7 @@ private:
   QString loadSvg(QIODevice& file, QString const& name);
   QString loadImage(QIODevice& file, QString const& name);
   bool reduces(QSize const& targetSize) const;
+  void drawOn(SysDisplay::VectorCanvas& canvas, QPainter& painter, QRect const& targetPx, QTransform const& turn);
   QImage const& reducedTo(QSize const& targetSize);
   void drawCells(QPainter& painter, QRect const& targetPx, QTransform const& turn);
   QImage cell(QRect const& part, QSize const& targetSize, QTransform const& turn);
@@ -46,7 +51,8 @@ private:
   bool isLoaded_ = false;
   QString problem_;
   QImage image_;
-  QImage reduced_;  // to the size last asked for
+  QByteArray jpeg_;  // the file, where it holds the picture as it is shown
+  QImage reduced_;   // to the size last asked for
   std::unique_ptr<QSvgRenderer> svg_;
 };
 

@@ -18,12 +18,26 @@ QPainter::CompositionMode modeOf(LayerBlend blend) {
   return QPainter::CompositionMode_SourceOver;
 }
 
+SysDisplay::CanvasBlend canvasBlendOf(LayerBlend blend) {
+  switch (blend) {
+    case LayerBlend::Normal: return SysDisplay::CanvasBlend::Normal;
+    case LayerBlend::Multiply: return SysDisplay::CanvasBlend::Multiply;
+    case LayerBlend::Screen: return SysDisplay::CanvasBlend::Screen;
+  }
+  return SysDisplay::CanvasBlend::Normal;
+}
+
 }  // namespace
 
 void drawWithEffects(LayerEffects const& effects, QPainter& painter, std::function<void(QPainter&)> const& draw) {
   if (effects.areNone()) return draw(painter);
   QRect const area = SysDisplay::reachableArea(painter).toAlignedRect();
   if (effects.opacityPercent <= 0 || area.isEmpty()) return;
+  if (auto* const canvas = SysDisplay::VectorCanvas::of(painter)) {
+    canvas->beginSheet(effects.opacityPercent / 100, canvasBlendOf(effects.blend));
+    draw(painter);
+    return canvas->endSheet();
+  }
   QImage sheet(area.size(), QImage::Format_RGBA8888_Premultiplied);
   sheet.fill(Qt::transparent);
   {

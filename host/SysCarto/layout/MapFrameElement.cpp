@@ -89,9 +89,13 @@ void MapFrameElement::Draw(QPainter& painter, _ptr_t<DisplayTransformation> cons
   if (!transformation) return;
   DrawShadow(painter, transformation);
   DrawBackground(painter, transformation);
-  MapPicture const picture =
-      drawMap(*this, *transformation, SysDisplay::reachableArea(painter).toAlignedRect(), cancel);
-  if (!picture.image.isNull()) painter.drawImage(picture.place, picture.image);
+  if (SysDisplay::VectorCanvas::of(painter)) {
+    drawMapShapes(painter, *this, *transformation, {}, cancel);
+  } else {
+    MapPicture const picture =
+        drawMap(*this, *transformation, SysDisplay::reachableArea(painter).toAlignedRect(), cancel);
+    if (!picture.image.isNull()) painter.drawImage(picture.place, picture.image);
+  }
   DrawBorder(painter, transformation);
   for (_ptr_t<IMapGrid> const& grid : qAsConst(d->grids))
     grid->Draw(painter, cancel, transformation, SysUtility::retain(this));

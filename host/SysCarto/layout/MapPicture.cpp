@@ -3,6 +3,7 @@
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysDisplay/VectorCanvas.h"
 
 #include <SysCarto/FeatureLayer.h>
 #include <SysCarto/Map.h>
@@ -22,6 +23,7 @@ using SysUtility::_ptr_t;
 
 namespace {
 
+constexpr int phase = 1;                  // of drawing: features and graphics
 constexpr int maxCoordinatePx = 1 << 29;  // beyond it the width of a rectangle may not be an int
 
 // The pixels of a frame, counted so that both corners belong to it.
@@ -78,10 +80,41 @@ MapPicture drawMap(MapFrameElement const& frame, DisplayTransformation const& tr
   QPainter painter(&picture.image);
   for (_ptr_t<Layer> const& layer : map->GetLayers()) {
     if (cancel && cancel->IsCanced()) break;
-    if (layer->showsAt(mapped->GetMapScale())) layer->Draw(painter, mapped, 1, cancel);
+    if (layer->showsAt(mapped->GetMapScale())) layer->Draw(painter, mapped, phase, cancel);
   }
-  if (IElementContainer* graphics = map->GetGraphicsContainer()) graphics->Draw(painter, mapped, 1, cancel);
+  if (IElementContainer* graphics = map->GetGraphicsContainer()) graphics->Draw(painter, mapped, phase, cancel);
   return picture;
+}
+
+MapPixels mapPixels(MapFrameElement const& frame, DisplayTransformation const& transformation) {
+  QRect const framePx = pixelsOf(frame, transformation);
+  if (framePx.isEmpty()) return {};
+  return {framePx, transformationOf(*frame.GetMap(), framePx, framePx, transformation.GetPageScale())};
+}
+
+void drawMapShapes(QPainter& painter, MapFrameElement const& frame, DisplayTransformation const& transformation,
+                   QList<_ptr_t<Element>> const& labels, _ptr_t<TrackerCancel> const& cancel) {
+  auto* const canvas = SysDisplay::VectorCanvas::of(painter);
+  auto const [framePx, mapped] = mapPixels(frame, transformation);
+  if (!canvas || framePx.isEmpty()) return;
+  _ptr_t<Map> const map = frame.GetMap();
+  canvas->save();
+  canvas->clip(QRectF(framePx));
+  canvas->transform(QTransform::fromTranslate(framePx.x(), framePx.y()));
+  canvas->beginLayer(map->GetName());
+  canvas->beginSheet(1, SysDisplay::CanvasBlend::Normal);
+  for (_ptr_t<Layer> const& layer : map->GetLayers()) {
+    if (cancel && cancel->IsCanced()) break;
+    if (!layer->showsAt(mapped->GetMapScale())) continue;
+    canvas->beginLayer(layer->GetName());
+    layer->Draw(painter, mapped, phase, cancel);
+    canvas->endLayer();
+  }
+  if (IElementContainer* graphics = map->GetGraphicsContainer()) graphics->Draw(painter, mapped, phase, cancel);
+  for (_ptr_t<Element> const& label : labels) label->Draw(painter, mapped, cancel);
+  canvas->endSheet();
+  canvas->endLayer();
+  canvas->restore();
 }
 
 void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameElement const& frame,
@@ -94,12 +127,19 @@ void drawOverMap(MapPicture& picture, IElementContainer& elements, MapFrameEleme
 
 void drawOnFrame(QPainter& painter, MapFrameElement const& frame, DisplayTransformation const& transformation,
                  std::function<void(DisplayTransformation const&)> const& draw) {
-  QRect const framePx = pixelsOf(frame, transformation);
+  auto const [framePx, mapped] = mapPixels(frame, transformation);
   if (framePx.isEmpty()) return;
+  if (auto* const canvas = SysDisplay::VectorCanvas::of(painter)) {
+    canvas->save();
+    canvas->clip(QRectF(framePx));
+    canvas->transform(QTransform::fromTranslate(framePx.x(), framePx.y()));
+    draw(*mapped);
+    return canvas->restore();
+  }
   painter.save();
   painter.setClipRect(framePx, Qt::IntersectClip);
   painter.translate(framePx.topLeft());
-  draw(*transformationOf(*frame.GetMap(), framePx, framePx, transformation.GetPageScale()));
+  draw(*mapped);
   painter.restore();
 }
 

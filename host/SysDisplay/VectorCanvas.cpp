@@ -1,0 +1,194 @@
+#include "VectorCanvas.h"
+
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
+#include <limits>
+
+namespace SysDisplay {
+
+namespace {
+
+constexpr double mmPerInch = 25.4;
+
+PointRuns ringsOf(QPainterPath const& path, QTransform const& toPage) {
+  PointRuns rings;
+  for (QPolygonF const& polygon : path.toSubpathPolygons(toPage)) {
+    for (QPointF const& point : polygon) rings.add(point);
+    rings.endRun();
+  }
+  return rings;
+}
+
+PointRuns ringsOf(QRectF const& rectangle) {
+  PointRuns rings;
+  for (QPointF const& corner :
+       {rectangle.topLeft(), rectangle.topRight(), rectangle.bottomRight(), rectangle.bottomLeft()})
+    rings.add(corner);
+  rings.endRun();
+  return rings;
+}
+
+// Takes what is drawn with a painter alone, as the pictures of SVG files are: shapes that one colour fills, and
+// pictures of all else.
+class VectorEngine final : public QPaintEngine {
+public:
+  explicit VectorEngine(VectorCanvas& canvas) : QPaintEngine(AllFeatures), canvas_(canvas) {}
+
+  bool begin(QPaintDevice*) override { return true; }
+  bool end() override { return true; }
+  Type type() const override { return User; }
+  void updateState(QPaintEngineState const&) override {}
+
+  void drawPath(QPainterPath const& path) override {
+    withClip([&] {
+      QPainter const& now = *painter();
+      if (now.brush().style() != Qt::NoBrush) fill(path, now.brush());
+      if (now.pen().style() == Qt::NoPen) return;
+      QPainterPathStroker stroker(now.pen());
+      if (now.pen().widthF() <= 0) stroker.setWidth(1);
+      fill(stroker.createStroke(path), now.pen().brush());
+    });
+  }
+
+  void drawPolygon(QPointF const* points, int count, PolygonDrawMode mode) override {
+    QPainterPath path;
+    path.setFillRule(mode == WindingMode ? Qt::WindingFill : Qt::OddEvenFill);
+    path.addPolygon(QPolygonF(QVector<QPointF>(points, points + count)));
+    if (mode != PolylineMode) path.closeSubpath();
+    drawPath(path);
+  }
+
+  void drawPixmap(QRectF const& target, QPixmap const& pixmap, QRectF const& source) override {
+    drawImage(target, pixmap.toImage(), source, Qt::AutoColor);
+  }
+
+  void drawImage(QRectF const& target, QImage const& image, QRectF const& source, Qt::ImageConversionFlags) override {
+    withClip([&] {
+      QTransform const square = QTransform(target.width(), 0, 0, target.height(), target.x(), target.y());
+      canvas_.picture({image.copy(source.toAlignedRect()), {}}, square * painter()->combinedTransform());
+    });
+  }
+
+private:
+  template <class Draw>
+  void withClip(Draw const& draw) {
+    bool const clips = painter()->hasClipping();
+    if (clips) {
+      canvas_.save();
+      canvas_.clip(ringsOf(painter()->clipPath(), painter()->combinedTransform()));
+    }
+    draw();
+    if (clips) canvas_.restore();
+  }
+
+  void fill(QPainterPath const& path, QBrush const& brush) {
+    QTransform const toPage = painter()->combinedTransform();
+    if (brush.style() != Qt::SolidPattern) return fillByPixels(path, brush, toPage);
+    QColor color = brush.color();
+    color.setAlphaF(color.alphaF() * painter()->opacity());
+    canvas_.fill(ringsOf(path, toPage), color, path.fillRule());
+  }
+
+  void fillByPixels(QPainterPath const& path, QBrush const& brush, QTransform const& toPage) {
+    QRect const area = (toPage.map(path).boundingRect() & canvas_.area()).toAlignedRect();
+    QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull()) return;
+    image.fill(Qt::transparent);
+    QPainter own(&image);
+    own.setRenderHint(QPainter::Antialiasing);
+    own.setOpacity(painter()->opacity());
+    own.translate(-area.topLeft());
+    own.setTransform(toPage, true);
+    own.fillPath(path, brush);
+    own.end();
+    canvas_.picture({image, {}}, QTransform(area.width(), 0, 0, area.height(), area.x(), area.y()));
+  }
+
+  VectorCanvas& canvas_;
+};
+
+}  // namespace
+
+VectorCanvas::VectorCanvas(QSize const& size, double dpi)
+    : size_(size), dpi_(dpi), areas_({QRectF(QPointF(0, 0), size)}) {}
+VectorCanvas::~VectorCanvas() = default;
+
+VectorCanvas* VectorCanvas::of(QPainter const& painter) {
+  auto* const device = dynamic_cast<VectorDevice*>(painter.device());
+  return device ? &device->canvas() : nullptr;
+}
+
+void VectorCanvas::save() {
+  areas_.push_back(areas_.back());
+  saved();
+}
+
+void VectorCanvas::restore() {
+  areas_.pop_back();
+  restored();
+}
+
+void VectorCanvas::clip(PointRuns const& rings) {
+  areas_.back() &= rings.bounds();
+  clipped(rings);
+}
+
+void VectorCanvas::clip(QRectF const& rectangle) { clip(ringsOf(rectangle)); }
+
+void VectorCanvas::transform(QTransform const& transformation) {
+  areas_.back() = transformation.inverted().mapRect(areas_.back());
+  transformed(transformation);
+}
+
+void VectorCanvas::fill(PointRuns const& rings, Texture const& texture) {
+  QRect const whole(texture.place, texture.image.size());
+  QRect const seen = (rings.bounds() & area()).toAlignedRect() & whole;
+  if (seen.isEmpty()) return;
+  save();
+  clip(rings);
+  picture({texture.image.copy(seen.translated(-texture.place)), {}},
+          QTransform(seen.width(), 0, 0, seen.height(), seen.x(), seen.y()));
+  restore();
+}
+
+void VectorCanvas::beginSymbol(QRectF const& bounds) {
+  areas_.push_back(bounds);
+  symbolBegun(bounds);
+}
+
+int VectorCanvas::endSymbol() {
+  areas_.pop_back();
+  return symbolEnded();
+}
+
+void VectorCanvas::beginText() {}
+void VectorCanvas::beginFigure(QString const&) {}
+void VectorCanvas::endPart() {}
+
+VectorDevice::VectorDevice(VectorCanvas& canvas) : canvas_(canvas), engine_(std::make_unique<VectorEngine>(canvas)) {}
+VectorDevice::~VectorDevice() = default;
+
+QPaintEngine* VectorDevice::paintEngine() const { return engine_.get(); }
+
+int VectorDevice::metric(PaintDeviceMetric metric) const {
+  switch (metric) {
+    case PdmWidth: return canvas_.size().width();
+    case PdmHeight: return canvas_.size().height();
+    case PdmWidthMM: return static_cast<int>(std::round(canvas_.size().width() / canvas_.dpi() * mmPerInch));
+    case PdmHeightMM: return static_cast<int>(std::round(canvas_.size().height() / canvas_.dpi() * mmPerInch));
+    case PdmDpiX:
+    case PdmDpiY:
+    case PdmPhysicalDpiX:
+    case PdmPhysicalDpiY: return static_cast<int>(std::round(canvas_.dpi()));
+    case PdmNumColors: return std::numeric_limits<int>::max();
+    case PdmDepth: return 32;
+    case PdmDevicePixelRatio: return 1;
+    case PdmDevicePixelRatioScaled: return static_cast<int>(devicePixelRatioFScale());
+  }
+  return 0;
+}
+
+}  // namespace SysDisplay

@@ -1,0 +1,175 @@
+#include "PdfFile.h"
+
+#include <QColorSpace>
+#include <QXmlStreamWriter>
+
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+namespace {
+
+QString const producer = QStringLiteral("Plotvane");
+
+QPDFObjectHandle name(char const* text) { return QPDFObjectHandle::newName(text); }
+
+QPDFObjectHandle numbers(std::initializer_list<double> values) {
+  QPDFObjectHandle array = QPDFObjectHandle::newArray();
+  for (double value : values) array.appendItem(QPDFObjectHandle::newReal(value, 5));
+  return array;
+}
+
+QRectF boundsIn(QPolygonF const& corners, QTransform const& toPoints) { return toPoints.map(corners).boundingRect(); }
+
+}  // namespace
+
+PdfFile::PdfFile(QString title) : title_(std::move(title)), objects_((file_.emptyPDF(), file_)) {
+  parents_ = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Nums[]>>"));
+  structure_ = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Type/StructTreeRoot>>"));
+  whole_ = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Type/StructElem/S/Document/K[]>>"));
+  whole_.replaceKey("/P", structure_);
+  structure_.replaceKey("/K", whole_);
+  structure_.replaceKey("/ParentTree", parents_);
+}
+
+void PdfFile::addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames) {
+  QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
+  page.replaceKey("/Type", name("/Page"));
+  page.replaceKey("/MediaBox", numbers({0, 0, sizePt.width(), sizePt.height()}));
+  page.replaceKey("/Resources", objects_.resources());
+  page.replaceKey("/Contents", objects_.stream(canvas.content(sizePt)));
+  page.replaceKey("/Group", QPDFObjectHandle::parse("<</Type/Group/S/Transparency/CS/DeviceRGB>>"));
+  page.replaceKey("/Tabs", name("/S"));
+  page.replaceKey("/StructParents", QPDFObjectHandle::newInteger(pages_));
+  QTransform const toPoints = canvas.toPoints(sizePt);
+  QPDFObjectHandle viewports = QPDFObjectHandle::newArray();
+  for (GeoreferencedFrame const& frame : frames) viewports.appendItem(viewport(frame, toPoints));
+  if (viewports.getArrayNItems() > 0) page.replaceKey("/VP", viewports);
+  page = file_.makeIndirectObject(page);
+  QPDFPageDocumentHelper(file_).addPage(QPDFPageObjectHelper(page), false);
+  addParts(canvas, page, pages_++);
+}
+
+// Each part of the page is an element of the structure, and the page's entry in the index lists them by their numbers.
+void PdfFile::addParts(PdfCanvas const& canvas, QPDFObjectHandle const& page, int pageNumber) {
+  QPDFObjectHandle ofPage = QPDFObjectHandle::newArray();
+  for (PdfCanvas::Part const& part : canvas.parts()) {
+    QPDFObjectHandle element = QPDFObjectHandle::newDictionary();
+    element.replaceKey("/Type", name("/StructElem"));
+    element.replaceKey("/S", name(part.isFigure ? "/Figure" : "/P"));
+    element.replaceKey("/P", whole_);
+    element.replaceKey("/Pg", page);
+    element.replaceKey("/K", QPDFObjectHandle::newInteger(ofPage.getArrayNItems()));
+    if (part.isFigure) element.replaceKey("/Alt", pdfText(part.description));
+    element = file_.makeIndirectObject(element);
+    whole_.getKey("/K").appendItem(element);
+    ofPage.appendItem(element);
+  }
+  parents_.getKey("/Nums").appendItem(QPDFObjectHandle::newInteger(pageNumber));
+  parents_.getKey("/Nums").appendItem(file_.makeIndirectObject(ofPage));
+}
+
+// As ISO 32000 has it: the corners as parts of the viewport's box and as latitudes and longitudes, and the system by
+// its text.
+QPDFObjectHandle PdfFile::viewport(GeoreferencedFrame const& frame, QTransform const& toPoints) {
+  QRectF const box = boundsIn(frame.corners, toPoints);
+  QPDFObjectHandle onPage = QPDFObjectHandle::newArray(), onGlobe = QPDFObjectHandle::newArray();
+  for (int i = 0; i < frame.corners.size(); ++i) {
+    QPointF const corner = toPoints.map(frame.corners[i]) - box.topLeft();
+    onPage.appendItem(QPDFObjectHandle::newReal(corner.x() / box.width(), 6));
+    onPage.appendItem(QPDFObjectHandle::newReal(corner.y() / box.height(), 6));
+    onGlobe.appendItem(QPDFObjectHandle::newReal(frame.places[i].y(), 12));
+    onGlobe.appendItem(QPDFObjectHandle::newReal(frame.places[i].x(), 12));
+  }
+  QPDFObjectHandle system = QPDFObjectHandle::newDictionary();
+  system.replaceKey("/Type", name(frame.isProjected ? "/PROJCS" : "/GEOGCS"));
+  system.replaceKey("/WKT", QPDFObjectHandle::newString(frame.wkt.toStdString()));
+  if (frame.epsg > 0) system.replaceKey("/EPSG", QPDFObjectHandle::newInteger(frame.epsg));
+  QPDFObjectHandle measure = QPDFObjectHandle::newDictionary();
+  measure.replaceKey("/Type", name("/Measure"));
+  measure.replaceKey("/Subtype", name("/GEO"));
+  measure.replaceKey("/GCS", file_.makeIndirectObject(system));
+  measure.replaceKey("/GPTS", onGlobe);
+  measure.replaceKey("/LPTS", onPage);
+  measure.replaceKey("/Bounds", onPage.shallowCopy());
+  QPDFObjectHandle viewport = QPDFObjectHandle::newDictionary();
+  viewport.replaceKey("/Type", name("/Viewport"));
+  viewport.replaceKey("/Name", pdfText(frame.name));
+  viewport.replaceKey("/BBox", numbers({box.left(), box.top(), box.right(), box.bottom()}));
+  viewport.replaceKey("/Measure", file_.makeIndirectObject(measure));
+  return file_.makeIndirectObject(viewport);
+}
+
+// The same properties in the two ways that readers know.
+void PdfFile::describe() {
+  QPDFObjectHandle information = QPDFObjectHandle::newDictionary();
+  information.replaceKey("/Title", pdfText(title_));
+  information.replaceKey("/Producer", pdfText(producer));
+  file_.getTrailer().replaceKey("/Info", file_.makeIndirectObject(information));
+
+  QPDFObjectHandle xml = objects_.stream(metadata());
+  xml.getDict().replaceKey("/Type", name("/Metadata"));
+  xml.getDict().replaceKey("/Subtype", name("/XML"));
+
+  QPDFObjectHandle profile = objects_.stream(QColorSpace(QColorSpace::SRgb).iccProfile());
+  profile.getDict().replaceKey("/N", QPDFObjectHandle::newInteger(3));
+  QPDFObjectHandle intent = QPDFObjectHandle::parse(
+      "<</Type/OutputIntent/S/GTS_PDFA1/OutputConditionIdentifier(sRGB IEC61966-2.1)/Info(sRGB IEC61966-2.1)>>");
+  intent.replaceKey("/DestOutputProfile", profile);
+
+  QPDFObjectHandle root = file_.getRoot();
+  root.replaceKey("/Metadata", xml);
+  root.replaceKey("/OutputIntents", QPDFObjectHandle::newArray({file_.makeIndirectObject(intent)}));
+  root.replaceKey("/StructTreeRoot", structure_);
+  root.replaceKey("/MarkInfo", QPDFObjectHandle::parse("<</Marked true>>"));
+  root.replaceKey("/ViewerPreferences", QPDFObjectHandle::parse("<</DisplayDocTitle true>>"));
+  QPDFObjectHandle layers = objects_.layerProperties();
+  if (!layers.isNull()) root.replaceKey("/OCProperties", layers);
+}
+
+QByteArray PdfFile::metadata() const {
+  QString const rdf = QStringLiteral("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
+  QString const dc = QStringLiteral("http://purl.org/dc/elements/1.1/");
+  QString const pdf = QStringLiteral("http://ns.adobe.com/pdf/1.3/");
+  QString const pdfa = QStringLiteral("http://www.aiim.org/pdfa/ns/id/");
+  QByteArray bytes;
+  QXmlStreamWriter xml(&bytes);
+  xml.writeProcessingInstruction(QStringLiteral("xpacket"),
+                                 QStringLiteral("begin=\"\xef\xbb\xbf\" id=\"W5M0MpCehiHzreSzNTczkc9d\""));
+  xml.writeNamespace(QStringLiteral("adobe:ns:meta/"), QStringLiteral("x"));
+  xml.writeStartElement(QStringLiteral("adobe:ns:meta/"), QStringLiteral("xmpmeta"));
+  xml.writeNamespace(rdf, QStringLiteral("rdf"));
+  xml.writeStartElement(rdf, QStringLiteral("RDF"));
+  xml.writeNamespace(dc, QStringLiteral("dc"));
+  xml.writeNamespace(pdf, QStringLiteral("pdf"));
+  xml.writeNamespace(pdfa, QStringLiteral("pdfaid"));
+  xml.writeStartElement(rdf, QStringLiteral("Description"));
+  xml.writeAttribute(rdf, QStringLiteral("about"), QString());
+  xml.writeTextElement(pdfa, QStringLiteral("part"), QStringLiteral("2"));
+  xml.writeTextElement(pdfa, QStringLiteral("conformance"), QStringLiteral("B"));
+  xml.writeTextElement(pdf, QStringLiteral("Producer"), producer);
+  xml.writeStartElement(dc, QStringLiteral("title"));
+  xml.writeStartElement(rdf, QStringLiteral("Alt"));
+  xml.writeStartElement(rdf, QStringLiteral("li"));
+  xml.writeAttribute(QStringLiteral("xml:lang"), QStringLiteral("x-default"));
+  xml.writeCharacters(title_);
+  for (int i = 0; i < 6; ++i) xml.writeEndElement();
+  xml.writeProcessingInstruction(QStringLiteral("xpacket"), QStringLiteral("end=\"w\""));
+  return bytes;
+}
+
+QString PdfFile::write(QString const& path) {
+  try {
+    fonts_.embed(objects_);
+    describe();
+    QPDFWriter writer(file_, path.toLocal8Bit().constData());
+    writer.setMinimumPDFVersion("1.7");
+    writer.setObjectStreamMode(qpdf_o_generate);
+    writer.setCompressStreams(true);
+    writer.setDeterministicID(true);
+    writer.write();
+  } catch (std::exception const& error) {
+    return QString::fromLocal8Bit(error.what());
+  }
+  return QString();
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "PdfCanvas.h"
+
+#include <QPolygonF>
+
+/// A data frame on a page, and where on the globe it lies.
+struct GeoreferencedFrame {
+  QString name;
+  QPolygonF corners;  ///< four on the page, in pixels of its canvas
+  QPolygonF places;   ///< their longitudes and latitudes in the degrees of the map's own datum
+  QString wkt;        ///< of the map's coordinate system, in the first version of WKT
+  int epsg = 0;       ///< its code; 0 where there is none
+  bool isProjected = true;
+};
+
+/// A PDF 1.7 that is a PDF/A-2b, too. Pages are added one by one.
+class PdfFile {
+public:
+  explicit PdfFile(QString title);
+
+  PdfObjects& objects() { return objects_; }
+  PdfFonts& fonts() { return fonts_; }
+
+  /// The canvas must be of this file's objects and fonts. The size is in points.
+  void addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames);
+
+  /// Writes the file. Empty, or what went wrong. Once.
+  QString write(QString const& path);
+
+private:
+  QPDFObjectHandle viewport(GeoreferencedFrame const& frame, QTransform const& toPoints);
+  void addParts(PdfCanvas const& canvas, QPDFObjectHandle const& page, int pageNumber);
+  void describe();
+  QByteArray metadata() const;
+
+  QString const title_;
+  QPDF file_;
+  PdfObjects objects_;
+  PdfFonts fonts_;
+  QPDFObjectHandle structure_, whole_, parents_;  // what is read to a person: the tree, its root element, its index
+  int pages_ = 0;
+};

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "host/SysDisplay/VectorCanvas.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <map>
+#include <tuple>
+#include <vector>
+
+/// A text string of PDF's: the characters as they are where they are plain, else UTF-16.
+QPDFObjectHandle pdfText(QString const& text);
+
+/// A number as PDF has it: no exponent, no more digits than are needed.
+QByteArray pdfNumber(double number);
+
+/// The objects that all contents of a file share, each made once and known by a name.
+class PdfObjects {
+public:
+  explicit PdfObjects(QPDF& file);
+
+  QPDF& file() const { return file_; }
+
+  /// The dictionary of all names, for pages and forms alike.
+  QPDFObjectHandle const& resources() const { return resources_; }
+
+  /// A form: content that is drawn as one thing. `bounds` are in its own units. With `isSheet`, what is in it is mixed
+  /// with itself before it comes to the page.
+  QByteArray form(QByteArray const& content, QRectF const& bounds, bool isSheet);
+
+  QByteArray picture(SysDisplay::PictureData const& picture);
+
+  /// How strongly and in what way things are put on what is there.
+  QByteArray state(double opacity, SysDisplay::CanvasBlend blend);
+
+  /// A group of contents that can be hidden, below the group `parent`; -1 for none.
+  int layer(QString const& name, int parent);
+  static QByteArray layerName(int layer);
+
+  /// What the catalogue says of the groups; null where there are none.
+  QPDFObjectHandle layerProperties();
+
+  /// Adds a font under a name.
+  void addFont(QByteArray const& name, QPDFObjectHandle const& font);
+
+  QPDFObjectHandle stream(QByteArray const& bytes);
+
+private:
+  struct Layer {
+    QPDFObjectHandle group;
+    std::vector<int> below;
+  };
+  QPDFObjectHandle category(char const* key);
+  QByteArray add(char const* key, char const* prefix, QPDFObjectHandle const& object);
+  QPDFObjectHandle order(std::vector<int> const& layers);
+  QPDFObjectHandle image(QByteArray const& bytes, QSize const& size, char const* colors);
+
+  QPDF& file_;
+  QPDFObjectHandle resources_;
+  QHash<QByteArray, QByteArray> forms_;  // names by content
+  QHash<qint64, QByteArray> pictures_;   // by the image's key
+  std::map<std::tuple<int, int>, QByteArray> states_;
+  std::vector<Layer> layers_;
+  std::vector<int> outermost_;
+  int count_ = 0;
+};

@@ -1,0 +1,120 @@
+#include "VectorPage.h"
+
+#include "host/SysCarto/layout/MapPicture.h"
+#include "host/SysCarto/projection/CoordinateSystem.h"
+#include "host/SysCarto/projection/PointTransform.h"
+
+#include <SysCarto/Map.h>
+#include <SysDisplay/Units.h>
+
+#include <QLineF>
+#include <QPainter>
+
+#include <ogr_spatialref.h>
+
+using SysCarto::Element;
+using SysCarto::MapFrameElement;
+using SysUtility::_ptr_t;
+using SysUtility::ptr_cast;
+
+namespace {
+
+constexpr double pointsPerInch = 72;
+
+QString wktOf(OGRSpatialReference const& system) {
+  char* text = nullptr;
+  bool const isWritten = system.exportToWkt(&text) == OGRERR_NONE;
+  QString const wkt = isWritten ? QString::fromUtf8(text) : QString();
+  CPLFree(text);
+  return wkt;
+}
+
+int epsgOf(OGRSpatialReference const& system) {
+  char const* const authority = system.GetAuthorityName(nullptr);
+  return authority && qstrcmp(authority, "EPSG") == 0 ? std::max(0, atoi(system.GetAuthorityCode(nullptr))) : 0;
+}
+
+// What a figure shows, for who can't see it.
+QString descriptionOf(Element const& element) {
+  if (auto const* const frame = dynamic_cast<MapFrameElement const*>(&element)) return frame->GetMap()->GetName();
+  return element.GetName();
+}
+
+}  // namespace
+
+VectorPage::VectorPage(_ptr_t<SysCarto::PageLayout> layout, int dpi) : layout_(std::move(layout)), dpi_(dpi) {
+  layout_->QueryOutputSize(dpi, size_.rwidth(), size_.rheight());
+  transformation_ = layout_->GetDisplayTransformation()->Clone();
+  transformation_->SetPaintDevice(nullptr);
+  transformation_->SetPageScale(dpi / SysDisplay::pixelsPerInch);
+  transformation_->SetDeviceFrame(QRect(QPoint(0, 0), size_));
+  transformation_->SetVisibleBounds(layout_->GetPage()->GetPageEnvelope());
+}
+
+QSizeF VectorPage::sizePt() const {
+  double widthCm, heightCm;
+  layout_->GetPage()->QuerySize(widthCm, heightCm);
+  return QSizeF(widthCm, heightCm) / SysDisplay::cmPerInch * pointsPerInch;
+}
+
+void VectorPage::draw(SysDisplay::VectorCanvas& canvas, _ptr_t<SysUI::TrackerCancel> const& cancel) const {
+  SysDisplay::VectorDevice device(canvas);
+  QPainter painter(&device);
+  layout_->GetPage()->DrawBackground(painter, transformation_);
+  layout_->GetPage()->DrawBorder(painter, transformation_);
+  for (_ptr_t<Element> const& element : layout_->GetGraphicsContainer()->GetElements()) {
+    if (cancel && cancel->IsCanced()) return;
+    if (!element->IsVisible()) continue;
+    if (element->GetType() == SysCarto::ElementType::Text)
+      canvas.beginText();
+    else
+      canvas.beginFigure(descriptionOf(*element));
+    drawElement(painter, element, cancel);
+    canvas.endPart();
+  }
+}
+
+void VectorPage::drawElement(QPainter& painter, _ptr_t<Element> const& element,
+                             _ptr_t<SysUI::TrackerCancel> const& cancel) const {
+  auto const frame = ptr_cast<MapFrameElement>(element);
+  if (!frame) return element->Draw(painter, transformation_, cancel);
+  frame->DrawShadow(painter, transformation_);
+  frame->DrawBackground(painter, transformation_);
+  SysCarto::drawMapShapes(painter, *frame, *transformation_, SysCarto::placeLabels(*frame, dpi_), cancel);
+  frame->DrawBorder(painter, transformation_);
+  for (int i = 0; i < frame->GetMapGridCount(); ++i)
+    frame->GetMapGrid(i)->Draw(painter, cancel, transformation_, frame);
+}
+
+std::vector<GeoreferencedFrame> VectorPage::frames() const {
+  std::vector<GeoreferencedFrame> frames;
+  for (_ptr_t<Element> const& element : layout_->GetGraphicsContainer()->GetElements()) {
+    auto const frame = ptr_cast<MapFrameElement>(element);
+    if (!frame || !frame->IsVisible()) continue;
+    auto const map = frame->GetMap();
+    auto const system = SysCarto::makeCoordinateSystem(map->GetCoordinateSystem());
+    auto const globe = system ? SysCarto::globeOf(*system) : nullptr;
+    auto const [pixels, transformation] = SysCarto::mapPixels(*frame, *transformation_);
+    QString error;
+    auto const toGlobe = globe ? SysCarto::PointTransform::create(*system, *globe, error) : nullptr;
+    auto const back = globe ? SysCarto::PointTransform::create(*globe, *system, error) : nullptr;
+    if (!toGlobe || !back || pixels.isEmpty()) continue;
+    GeoreferencedFrame found{map->GetName(), {}, {}, wktOf(*system), epsgOf(*system), bool(system->IsProjected())};
+    QTransform const toMap = transformation->ToDevice().inverted();
+    double const unitsPerPx = QLineF(toMap.map(QPointF(0, 0)), toMap.map(QPointF(1, 0))).length();
+    QSize const size = pixels.size();
+    for (QPoint const corner :
+         {QPoint(0, size.height()), QPoint(0, 0), QPoint(size.width(), 0), QPoint(size.width(), size.height())}) {
+      QPointF const onMap = toMap.map(QPointF(corner));
+      double x = onMap.x(), y = onMap.y();
+      if (!toGlobe->apply(x, y)) break;
+      QPointF const place(x, y);
+      // Beyond the edge of a world some projections answer places from which there is no way back.
+      if (!back->apply(x, y) || !(QLineF({x, y}, onMap).length() < unitsPerPx)) break;
+      found.corners << QPointF(pixels.topLeft() + corner);
+      found.places << place;
+    }
+    if (found.corners.size() == 4) frames.push_back(found);
+  }
+  return frames;
+}
