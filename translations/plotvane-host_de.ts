@@ -8063,6 +8063,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
         <source>Code</source>
         <translation>Code</translation>
     </message>
+    <message>
+        <source>Remark</source>
+        <translation>Bemerkung</translation>
+    </message>
 </context>
 <context>
     <name>SysAdapterUI::TOCControl</name>

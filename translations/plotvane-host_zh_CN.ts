@@ -8063,6 +8063,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <source>Code</source>
         <translation>代码</translation>
     </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
 </context>
 <context>
     <name>SysAdapterUI::TOCControl</name>

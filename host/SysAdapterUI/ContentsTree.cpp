@@ -201,6 +201,17 @@ void ContentsTree::currentChanged(QModelIndex const& current, QModelIndex const&
   if (previous.isValid() && model_->isClass(current)) tell();
 }
 
+// A letter begins to search for a name, and is no key of a tool.
+bool ContentsTree::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    auto const* const key = static_cast<QKeyEvent*>(event);
+    bool const isTyped = !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) &&
+                         key->text().size() == 1 && key->text()[0].isLetterOrNumber();
+    if (isTyped) event->accept();
+  }
+  return QTreeView::event(event);
+}
+
 // The current row's, where the menu is asked for by a key.
 void ContentsTree::contextMenuEvent(QContextMenuEvent* event) {
   bool const isKey = event->reason() == QContextMenuEvent::Keyboard;

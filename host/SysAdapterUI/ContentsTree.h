@@ -53,6 +53,7 @@ signals:
   void filesDropped(QStringList const& files, SysCarto::LayerPlace const& place);
 
 protected:
+  bool event(QEvent* event) override;
   void selectionChanged(QItemSelection const& selected, QItemSelection const& deselected) override;
   void currentChanged(QModelIndex const& current, QModelIndex const& previous) override;
   void contextMenuEvent(QContextMenuEvent* event) override;

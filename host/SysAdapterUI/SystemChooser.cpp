@@ -99,7 +99,7 @@ SystemChooser::SystemChooser(SystemChoice const& choice, QWidget* parent)
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(halves, 1);
   layout->addWidget(buttons);
-  resize(QSize(980, 620).boundedTo(0.9 * screen()->availableSize()));
+  resize(QSize(1240, 680).boundedTo(0.9 * screen()->availableSize()));
 
   world_->setExtent(choice.extent);
   connect(search_, &QLineEdit::textChanged, this, &SystemChooser::search);
@@ -147,6 +147,7 @@ QWidget* SystemChooser::buildSearch() {
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
   list_->setAllColumnsShowFocus(true);
+  list_->setTextElideMode(Qt::ElideMiddle);  // many names differ in their ends alone
   list_->header()->setStretchLastSection(false);
   list_->header()->setSectionResizeMode(SystemModel::NameColumn, QHeaderView::Stretch);
   list_->header()->resizeSection(SystemModel::CodeColumn, codeWidthPx);

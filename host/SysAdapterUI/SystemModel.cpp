@@ -81,7 +81,7 @@ int SystemModel::rowCount(QModelIndex const& parent) const {
 QVariant SystemModel::data(QModelIndex const& index, int role) const {
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return QVariant();
   Row const row = rowAt(index.row());
-  if (role == Qt::ToolTipRole) return row.area;
+  if (role == Qt::ToolTipRole) return row.area.isEmpty() ? row.name : row.name + QLatin1Char('\n') + row.area;
   if (index.column() == NameColumn) return row.name;
   if (index.column() == CodeColumn) return row.code;
   if (row.note.isEmpty()) return row.fits ? tr("holds the map") : QString();
@@ -90,7 +90,7 @@ QVariant SystemModel::data(QModelIndex const& index, int role) const {
 
 QVariant SystemModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (role != Qt::DisplayRole || orientation != Qt::Horizontal) return QVariant();
-  return section == NameColumn ? tr("Name") : section == CodeColumn ? tr("Code") : QString();
+  return section == NameColumn ? tr("Name") : section == CodeColumn ? tr("Code") : tr("Remark");
 }
 
 }  // namespace SysAdapterUI

@@ -4,6 +4,8 @@
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/layout/MapPicture.h"
+#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysCarto/projection/GlobeBox.h"
 #include "host/desktop/layers/PinnedLabels.h"
 
 #include <SysCarto/Map.h>
@@ -53,6 +55,22 @@ private slots:
     double const aPixel = frame->GetMap()->GetExtent()->GetWidth() / frame->GetEnvelope()->GetWidth() / 10;
     QVERIFY(std::abs(to->GetX() + 4e6) < aPixel && std::abs(to->GetY() - 45e5) < aPixel);
     QByteArray const moved = SysCarto::MapDocumentHost::text(document);
+
+    // In another system it is where it was on the ground.
+    QStringList told;
+    auto const placeOf = [&](QString const& system) {
+      auto const pins = ptr_cast<SysCarto::VectorLayer>(layer)->labelSettings().pinned;
+      return pins.size() == 1 ? SysCarto::degreesAt({pins[0].x, pins[0].y}, system) : std::nullopt;
+    };
+    auto const there = placeOf("ESRI:54042");
+    QCOMPARE(SysCarto::Editable::set(
+                 document, {SysCarto::Editable::map(frame->GetMap())}, {"coordinateSystem"},
+                 [](QJsonValue const&) { return "EPSG:3857"; }, told),
+             QString());
+    auto const now = placeOf("EPSG:3857");
+    QVERIFY(there && now && QLineF(*there, *now).length() < 1e-6);
+    document.GetOperationStack()->Undo();
+    QCOMPARE(SysCarto::MapDocumentHost::text(document), moved);
 
     page.key(Qt::Key_Delete);  // the one that was moved is the chosen one
     QVERIFY(!labelOf("London"));

@@ -43,6 +43,9 @@ private slots:
         "+proj=moll +lon_0=11");
     row("a definition in the search", {{"lineEdit_Search", "+proj=moll +lon_0=11"}}, "+proj=moll +lon_0=11");
     row("the one there is", {}, "EPSG:3035");
+    for (char const* code : {"EPSG:2056", "EPSG:2154", "EPSG:3031", "EPSG:3577", "EPSG:3857", "EPSG:27700",
+                             "EPSG:32760", "ESRI:54009", "ESRI:54030", "ESRI:102003"})
+      row(code, {{"lineEdit_Search", code}}, code);
   }
   void theSystemOfAMapIsChosenInOneStep() {
     auto const [answers, expected] = fetched<QVector<QPair<QString, QString>>, QString>();
@@ -78,6 +81,19 @@ private slots:
     dialog.findChild<QTabWidget*>()->setCurrentIndex(0);
     dialog.findChild<QLineEdit*>("lineEdit_Search")->setText("nonsense of no system");
     QVERIFY(!ok->isEnabled());
+  }
+
+  void aMapOfTheEarthIsInNoSystemOfAnotherBody() {
+    SysAdapterUI::SystemChooser dialog({{}, "None", {}, {-10, 40, 10, 50}}, nullptr);
+    auto* const model = dialog.findChild<QTreeView*>("treeView_Systems")->model();
+    auto const remarks = [&](char const* words) {
+      dialog.findChild<QLineEdit*>("lineEdit_Search")->setText(words);
+      QStringList said;
+      for (int row = 0; row < model->rowCount(); ++row) said << model->index(row, 2).data().toString();
+      return said;
+    };
+    QVERIFY(remarks("EPSG:4326").contains("holds the map"));
+    QVERIFY(!remarks("mars").isEmpty() && !remarks("mars").contains("holds the map"));
   }
 
   void whatWasChosenLatelyComesFirst() {

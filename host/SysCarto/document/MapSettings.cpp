@@ -6,6 +6,8 @@
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/PointTransform.h"
 
+#include <ogr_spatialref.h>
+
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -51,6 +53,9 @@ MapSettings MapSettings::of(Map const& map) {
   MapHost::storedBounds(map).QueryCoords(settings.bounds[0], settings.bounds[1], settings.bounds[2],
                                          settings.bounds[3]);
   settings.boundsSystem = settings.coordinateSystem;
+  for (auto const& layer : map.GetLayers())
+    if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer); vector && !vector->labelSettings().pinned.empty())
+      settings.pins.emplace_back(vector, vector->labelSettings().pinned);
   settings.rotation = map.GetRotation();
   settings.scale = map.GetDisplayTransformation()->GetMapScale();
   settings.scaleLocked = MapHost::lockedScale(map) > 0;
@@ -108,6 +113,18 @@ void MapSettings::listScale(Fields& fields) {
     fields.fail("scale", Texts::tr("is for a map with “scaleLocked”; without it the bounds say what is shown"));
 }
 
+namespace {
+
+// What a system does not have a place for is left out.
+std::vector<PinnedLabel> moved(std::vector<PinnedLabel> const& pins, PointTransform const& way) {
+  std::vector<PinnedLabel> there;
+  for (PinnedLabel pin : pins)
+    if (pin.hidden || way.apply(pin.x, pin.y)) there.push_back(pin);
+  return there;
+}
+
+}  // namespace
+
 void MapSettings::applyTo(Map& map, QStringList& warnings) const {
   MapSettings const former = of(map);
   bool const hasSameBounds = std::equal(bounds, bounds + 4, former.bounds);
@@ -129,6 +146,15 @@ void MapSettings::applyTo(Map& map, QStringList& warnings) const {
     map.SetExtent(extent);
   }
   if (!isElsewhere) return;
+  auto const from = makeCoordinateSystem(boundsSystem), to = makeCoordinateSystem(coordinateSystem);
+  bool const isOtherSystem = boundsSystem != coordinateSystem.trimmed();
+  QString unknown;
+  auto const way = isOtherSystem && from && to ? PointTransform::create(*from, *to, unknown) : nullptr;
+  for (auto const& [layer, own] : pins) {
+    LabelSettings labels = layer->labelSettings();
+    labels.pinned = way ? moved(own, *way) : own;
+    layer->setLabelSettings(labels);
+  }
   for (auto const& layer : map.GetLayers()) {
     auto const vector = SysUtility::ptr_cast<VectorLayer>(layer);
     QString const problem = vector ? vector->open(vector->source(), coordinateSystem, warnings) : QString();

@@ -2,7 +2,12 @@
 
 #include "host/SysUtility/Fields.h"
 
+#include "host/SysCarto/maps/VectorLayer.h"
+
 #include <SysCarto/Map.h>
+
+#include <utility>
+#include <vector>
 
 namespace SysCarto {
 
@@ -16,6 +21,9 @@ struct MapSettings {
   bool scaleLocked = false;         ///< the bounds then give the centre, and the scale the rest
   QString boundsSystem;             ///< the coordinate system in which the map had these bounds; not stored
 
+  /// Where labels were put in that system, by layer; not stored here.
+  std::vector<std::pair<SysUtility::_ptr_t<VectorLayer>, std::vector<PinnedLabel>>> pins;
+
   static MapSettings of(Map const& map);
   void list(SysUtility::Fields& fields);
 
@@ -23,8 +31,9 @@ struct MapSettings {
   /// scale changes the bounds about their centre. Who unlocks it goes on showing the same.
   ///
   /// A map that gets another coordinate system, and the bounds that it has, goes on showing what it showed, or all of
-  /// its layers where that has no place there, and reads the data of its layers anew. Sentences about those that can't
-  /// be read are added to `warnings`.
+  /// its layers where that has no place there, and reads the data of its layers anew. Labels that were put somewhere
+  /// stay there on the ground; those whose place it does not have are placed as others are. Sentences about those that
+  /// can't be read are added to `warnings`.
   void applyTo(Map& map, QStringList& warnings) const;
 
 private:

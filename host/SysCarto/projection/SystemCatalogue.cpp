@@ -196,7 +196,9 @@ void SystemCatalogue::read() {
     QString const authority = QString::fromUtf8(one.auth_name);
     if (!isNamed(authority)) continue;
     GlobeBox use;
-    if (one.bbox_valid) use = {one.west_lon_degree, one.south_lat_degree, one.east_lon_degree, one.north_lat_degree};
+    bool const isOfEarth = !one.celestial_body_name || qstrcmp(one.celestial_body_name, "Earth") == 0;
+    if (one.bbox_valid && isOfEarth)
+      use = {one.west_lon_degree, one.south_lat_degree, one.east_lon_degree, one.north_lat_degree};
     systems_.push_back({authority + QLatin1Char(':') + QString::fromUtf8(one.code), QString::fromUtf8(one.name),
                         QString::fromUtf8(one.area_name), use, one.type == PJ_TYPE_GEOGRAPHIC_2D_CRS,
                         one.deprecated != 0});

@@ -13,7 +13,7 @@ struct KnownSystem {
   QString code;  ///< as a document names it: "EPSG:3035"
   QString name;
   QString area;  ///< in which it is meant to be used, in words
-  GlobeBox use;  ///< the same in degrees; of nothing where it isn't known
+  GlobeBox use;  ///< the same in degrees; of nothing where it isn't known or not on the Earth
   bool isGeographic;
   bool isDeprecated;
 };

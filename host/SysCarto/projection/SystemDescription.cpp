@@ -78,7 +78,9 @@ std::optional<SystemDescription> describeSystem(QString const& definition) {
   char const* area = nullptr;
   GlobeBox use;
   if (proj_get_area_of_use(context, object.get(), &use.west, &use.south, &use.east, &use.north, &area)) {
-    if (use.south >= -90) told.use = use;  // -1000 stands for what isn't known
+    char const* const body = proj_get_celestial_body_name(context, object.get());
+    bool const isOfEarth = !body || qstrcmp(body, "Earth") == 0;
+    if (use.south >= -90 && isOfEarth) told.use = use;  // -1000 stands for what isn't known
     told.area = QString::fromUtf8(area);
   }
   return told;

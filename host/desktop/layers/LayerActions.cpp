@@ -245,7 +245,11 @@ LayerOutcome LayerActions::setOrder(LayerRow const& row, int fromTop) {
 LayerOutcome LayerActions::raise(Rows const& rows) { return step(rows, true); }
 LayerOutcome LayerActions::lower(Rows const& rows) { return step(rows, false); }
 
-LayerOutcome LayerActions::enterGroup(Rows const& rows) {
+namespace {
+
+// On top of the group below the rows or, where none is, at the bottom of the one above them; without a map where there
+// is no group beside them.
+LayerPlace placeInGroupBeside(Rows const& rows) {
   LayerRow const top = topmost(rows);
   if (!top.map) return {};
   LayerPosition const position = positionOf(top);
@@ -258,10 +262,20 @@ LayerOutcome LayerActions::enterGroup(Rows const& rows) {
   int lowest = position.below;
   while (lowest > 0 && arrangement.chosen().contains(LayerArrangement::thing(siblings[lowest - 1]))) --lowest;
   if (auto const* const below = groupAt(lowest - 1))
-    return move(rows, {top.map, below->group, static_cast<int>(below->entries.size())});
-  if (auto const* const higher = groupAt(position.below + 1)) return move(rows, {top.map, higher->group, 0});
-  return {tr("There is no group next to it; Group makes one."), {}, {}};
+    return {top.map, below->group, static_cast<int>(below->entries.size())};
+  if (auto const* const higher = groupAt(position.below + 1)) return {top.map, higher->group, 0};
+  return {};
 }
+
+}  // namespace
+
+LayerOutcome LayerActions::enterGroup(Rows const& rows) {
+  LayerPlace const place = placeInGroupBeside(rows);
+  if (!place.map) return {tr("There is no group next to it; Group makes one."), {}, {}};
+  return move(rows, place);
+}
+
+bool LayerActions::canEnterGroup(Rows const& rows) { return static_cast<bool>(placeInGroupBeside(rows).map); }
 
 LayerOutcome LayerActions::leaveGroup(Rows const& rows) {
   LayerRow const top = topmost(rows);

@@ -57,6 +57,7 @@ public:
 
   /// Into the group below it or, where none is, above it.
   static LayerOutcome enterGroup(Rows const& rows);
+  static bool canEnterGroup(Rows const& rows);
   static LayerOutcome leaveGroup(Rows const& rows);
 
   /// Layers and groups of one map become a group, where the topmost lay. An empty name gives way to one of ours.

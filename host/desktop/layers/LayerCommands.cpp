@@ -47,6 +47,8 @@ bool isInGroup(Rows const& rows) {
            return row.layer ? !SysCarto::LayerHost::groups(*row.layer).isEmpty() : static_cast<bool>(row.group);
          });
 }
+Rows layersAmong(Rows rows);
+bool canEnterGroup(Rows const& rows) { return LayerActions::canEnterGroup(layersAmong(rows)); }
 bool isAnyOn(Rows const& rows) {
   return std::any_of(rows.begin(), rows.end(), [](LayerRow const& row) {
     return row.layer ? SysCarto::LayerHost::isSwitchedOn(*row.layer) : row.group && row.group->isVisible();
@@ -107,7 +109,7 @@ LayerCommand const LayerCommand::all[] = {
     {"Host_UngroupLayers",    onLayers<LayerActions::ungroup>,         LayerActions::canUngroup},
     {"Host_RaiseLayer",       onLayers<LayerActions::raise>,           areLayers},
     {"Host_LowerLayer",       onLayers<LayerActions::lower>,           areLayers},
-    {"Host_EnterGroup",       onLayers<LayerActions::enterGroup>,      areLayers},
+    {"Host_EnterGroup",       onLayers<LayerActions::enterGroup>,      canEnterGroup},
     {"Host_LeaveGroup",       onLayers<LayerActions::leaveGroup>,      isInGroup},
     {"Host_ShowLayer",        onLayers<LayerActions::toggleVisible>,   areLayers, isAnyOn},
     {"Host_Opacity100",       opacity<100>,                            areLayers},
