@@ -121,7 +121,7 @@ QByteArray PdfObjects::picture(SysDisplay::PictureData const& picture) {
 
 QByteArray PdfObjects::state(double opacity, CanvasBlend blend) {
   int const steps = static_cast<int>(std::lround(opacity * 255));
-  QByteArray& name = states_[{steps, static_cast<int>(blend)}];
+  QByteArray& name = states_[std::make_pair(steps, static_cast<int>(blend))];
   if (!name.isEmpty()) return name;
   QByteArray const part = pdfNumber(steps / 255.0);
   auto const state =

@@ -10,7 +10,7 @@
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <map>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 /// A text string of PDF's: the characters as they are where they are plain, else UTF-16.
@@ -64,7 +64,7 @@ private:
   QPDFObjectHandle resources_;
   QHash<QByteArray, QByteArray> forms_;  // names by content
   QHash<qint64, QByteArray> pictures_;   // by the image's key
-  std::map<std::tuple<int, int>, QByteArray> states_;
+  std::map<std::pair<int, int>, QByteArray> states_;  // by opacity and blend
   std::vector<Layer> layers_;
   std::vector<int> outermost_;
   int count_ = 0;
