@@ -462,6 +462,20 @@ void TextSettings::list(Fields& fields) {
             {"haloColor", QT_TRANSLATE_NOOP("Fields", "Colour of the halo"),
              QT_TRANSLATE_NOOP("Fields", "The colour behind the letters.")},
             format.haloColor, usual.haloColor);
+  listColor(fields,
+            {"boxColor", QT_TRANSLATE_NOOP("Fields", "Colour of the box"),
+             QT_TRANSLATE_NOOP("Fields", "The colour of a box behind the text, as callouts have.")},
+            format.boxColor, usual.boxColor);
+  listColor(fields,
+            {"boxLineColor", QT_TRANSLATE_NOOP("Fields", "Colour of the box's line"),
+             QT_TRANSLATE_NOOP("Fields", "The colour of the line about the box.")},
+            format.boxLineColor, usual.boxLineColor);
+  fields.number({"boxLineWidth", QT_TRANSLATE_NOOP("Fields", "Line of the box"),
+                 QT_TRANSLATE_NOOP("Fields", "The width of the line about the box; 0 for none.")},
+                format.boxLineWidth, lengths, usual.boxLineWidth);
+  fields.number({"boxPadding", QT_TRANSLATE_NOOP("Fields", "Padding of the box"),
+                 QT_TRANSLATE_NOOP("Fields", "From the text to the edge of its box.")},
+                format.boxPadding, lengths, usual.boxPadding);
   fields.choice<HorizontalAlignment>({"horizontal", QT_TRANSLATE_NOOP("Fields", "Horizontal alignment"),
                                       QT_TRANSLATE_NOOP("Fields", "Which part of a line stands at the position.")},
                                      format.horizontal, horizontals, usual.horizontal);

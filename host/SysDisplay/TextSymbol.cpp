@@ -4,6 +4,7 @@
 #include "host/SysDisplay/DrawTarget.h"
 #include "host/SysDisplay/TextShaper.h"
 
+#include <algorithm>
 #include <cmath>
 #include <tuple>
 
@@ -60,6 +61,24 @@ private:
   double firstBaseline_ = 0;
 };
 
+// The box about a text: its area, and its line as what lies between two rectangles. `toPixels` maps from points.
+void drawBox(DrawTarget& target, TextFormat const& format, QRectF const& text, QTransform const& toPixels) {
+  PointRuns rings;
+  auto const add = [&](double reach) {
+    QRectF const box = text.adjusted(-reach, -reach, reach, reach);
+    for (QPointF const& corner : {box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft()})
+      rings.add(snapped(toPixels.map(corner)));
+    rings.endRun();
+  };
+  add(format.boxPadding);
+  if (format.boxColor.alpha() > 0) target.fill(rings, format.boxColor, Qt::OddEvenFill);
+  if (!format.hasBoxLine()) return;
+  rings.clear();
+  add(format.boxPadding + format.boxLineWidth / 2);
+  add(format.boxPadding - format.boxLineWidth / 2);
+  target.fill(rings, format.boxLineColor, Qt::OddEvenFill);
+}
+
 void drawOn(VectorCanvas& canvas, TextFormat const& format, ShapedText const& shaped, QTransform const& toPage) {
   Block const block(format, shaped);
   auto const startOf = [&](size_t line) {
@@ -73,8 +92,8 @@ void drawOn(VectorCanvas& canvas, TextFormat const& format, ShapedText const& sh
 
 QRectF inPoints(QRectF const& box, TextFormat const& format) {
   if (box.isNull()) return QRectF();
-  double const halo = format.haloSize;
-  return QRectF(box.topLeft() * format.size, box.size() * format.size).adjusted(-halo, -halo, halo, halo);
+  double const reach = format.reach();
+  return QRectF(box.topLeft() * format.size, box.size() * format.size).adjusted(-reach, -reach, reach, reach);
 }
 
 }  // namespace
@@ -82,9 +101,14 @@ QRectF inPoints(QRectF const& box, TextFormat const& format) {
 bool TextFormat::operator==(TextFormat const& o) const {
   auto const all = [](TextFormat const& f) {
     return std::make_tuple(f.family, f.size, f.bold, f.italic, f.letterSpacing, f.lineSpacing, f.color.rgba(),
-                           f.haloSize, f.haloColor.rgba(), f.horizontal, f.vertical);
+                           f.haloSize, f.haloColor.rgba(), f.boxColor.rgba(), f.boxLineColor.rgba(), f.boxLineWidth,
+                           f.boxPadding, f.horizontal, f.vertical);
   };
   return all(*this) == all(o);
+}
+
+double TextFormat::reach() const {
+  return std::max(haloSize, hasBox() ? boxPadding + (hasBoxLine() ? boxLineWidth / 2 : 0) : 0);
 }
 
 TextSymbol::TextSymbol() : TextSymbol(TextFormat()) {}
@@ -103,6 +127,8 @@ _ptr_t<TextSymbol> TextSymbol::resized(double factor) const {
   format.size *= factor;
   format.letterSpacing *= factor;
   format.haloSize *= factor;
+  format.boxLineWidth *= factor;
+  format.boxPadding *= factor;
   return SysUtility::make<TextSymbol>(std::move(format));
 }
 
@@ -144,6 +170,11 @@ void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angl
   QTransform const points = QTransform(turned).scale(target.pixelsPerPoint(), target.pixelsPerPoint());
   if (!points.mapRect(box).translated(position).adjusted(-1, -1, 1, 1).intersects(target.area())) return;
 
+  if (format_.hasBox()) {
+    double const reach = format_.reach();
+    drawBox(target, format_, box.adjusted(reach, reach, -reach, -reach),
+            points * QTransform::fromTranslate(position.x(), position.y()));
+  }
   QTransform const toPixels = QTransform(turned).scale(emPx, emPx);
   if (auto* const canvas = target.canvas())
     return drawOn(*canvas, format_, *shaped, toPixels * QTransform::fromTranslate(position.x(), position.y()));

@@ -26,10 +26,19 @@ struct TextFormat {
   QColor color = QColor(0, 0, 0);
   double haloSize = 0;  ///< how far the halo reaches beyond the letters; 0 for none
   QColor haloColor = QColor(255, 255, 255);
+  QColor boxColor = QColor(255, 255, 255, 0);  ///< of a box behind the text, as callouts have
+  QColor boxLineColor = QColor(0, 0, 0);
+  double boxLineWidth = 0;
+  double boxPadding = 2;  ///< from the text to the edge of its box
   HorizontalAlignment horizontal = HorizontalAlignment::Left;
   VerticalAlignment vertical = VerticalAlignment::Baseline;
 
   bool hasHalo() const { return haloSize > 0 && haloColor.alpha() > 0; }
+  bool hasBoxLine() const { return boxLineWidth > 0 && boxLineColor.alpha() > 0; }
+  bool hasBox() const { return boxColor.alpha() > 0 || hasBoxLine(); }
+
+  /// How far halo or box reach beyond the text.
+  SYSDISPLAY_EXPORT double reach() const;
 
   bool operator==(TextFormat const& other) const;
 };

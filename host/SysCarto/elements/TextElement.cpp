@@ -90,7 +90,8 @@ double TextElement::maxFactor(double wanted) const {
   double const factor = std::abs(wanted);
   if (!std::isfinite(factor) || factor == 0) return 1;
   TextFormat const& format = symbol_->format();
-  double const longest = std::max({format.size, std::abs(format.letterSpacing), format.haloSize});
+  double const longest =
+      std::max({format.size, std::abs(format.letterSpacing), format.haloSize, format.boxLineWidth, format.boxPadding});
   // A little less, so that rounding does not bring it over.
   return longest * factor > maxLengthPt ? maxLengthPt / longest * (1 - 1e-15) : factor;
 }
@@ -147,8 +148,8 @@ _ptr_t<Envelope> TextElement::rectangle(QRectF const& boundsPt, double unitsPerP
 }
 
 _ptr_t<Envelope> TextElement::GetEnvelope() const {
-  double const halo = symbol_->format().haloSize;
-  QRectF const letters = symbol_->bounds(shown()).adjusted(halo, halo, -halo, -halo);
+  double const reach = symbol_->format().reach();
+  QRectF const letters = symbol_->bounds(shown()).adjusted(reach, reach, -reach, -reach);
   return rectangle(QTransform().rotate(-angle_).mapRect(letters.normalized()), SysDisplay::cmPerPoint);
 }
 

@@ -96,7 +96,7 @@ std::vector<Stretch> straightStretches(MeasuredLine const& line, double width, d
 
 // The widths of beginnings say where letters lie, so that pairs keep their distance.
 std::vector<Letter> lettersOf(QString const& text, SysDisplay::TextSymbol const& symbol) {
-  if (!isParted(text)) return {};
+  if (!isParted(text) || symbol.format().hasBox()) return {};  // a box is straight
   double const halo = 2 * symbol.format().haloSize;
   auto const widthOf = [&](QString const& part) { return std::max(symbol.bounds(part).width() - halo, 0.0); };
   double const whole = widthOf(text);

@@ -62,8 +62,8 @@ private:
 
   QPDF& file_;
   QPDFObjectHandle resources_;
-  QHash<QByteArray, QByteArray> forms_;  // names by content
-  QHash<qint64, QByteArray> pictures_;   // by the image's key
+  QHash<QByteArray, QByteArray> forms_;               // names by content
+  QHash<qint64, QByteArray> pictures_;                // by the image's key
   std::map<std::pair<int, int>, QByteArray> states_;  // by opacity and blend
   std::vector<Layer> layers_;
   std::vector<int> outermost_;
