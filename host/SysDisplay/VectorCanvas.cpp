@@ -68,7 +68,9 @@ public:
   void drawImage(QRectF const& target, QImage const& image, QRectF const& source, Qt::ImageConversionFlags) override {
     withClip([&] {
       QTransform const square = QTransform(target.width(), 0, 0, target.height(), target.x(), target.y());
+      canvas_.beginSheet(painter()->opacity(), CanvasBlend::Normal);
       canvas_.picture({image.copy(source.toAlignedRect()), {}}, square * painter()->combinedTransform());
+      canvas_.endSheet();
     });
   }
 

@@ -27,6 +27,7 @@ namespace {
 
 constexpr int defaultDpi = 300;
 constexpr int maxDpi = 100000;
+constexpr int maxVectorDpi = 2400;  // of pictures in place of what can't be shapes
 
 // Where GDAL's block cache does not hold a whole row of tiles, each tile of the row makes it read and write all the
 // rows of pixels anew. The fourth part more is for its book-keeping.
@@ -101,6 +102,8 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
   if (!isNumber || request.dpi < 1 || request.dpi > maxDpi)
     problem = tr("export: --dpi takes a whole number from 1 to %1, not \"%2\".")
                   .arg(QString::number(maxDpi), parser.value(dpi));
+  else if (request.format && request.format->isVector && request.dpi > maxVectorDpi)
+    problem = tr("export: a PDF takes a --dpi of at most %1; its shapes are as fine at any.").arg(maxVectorDpi);
   else if (!request.format && parser.isSet(format))
     problem = tr("export: --format takes one of %1, not \"%2\".").arg(ImageFormat::names(), name);
   else if (!request.format)

@@ -126,8 +126,8 @@ QString ImageTarget::checkAgainst(SysCarto::MapDocument const& document) const {
 }
 
 QString ImageTarget::checkSize(QSize const& size) const {
-  if (format_.isVector) return QString();
   if (size.isEmpty()) return tr("%1: the image would have no pixels; give more DPI.").arg(name_);
+  if (format_.isVector) return QString();
   QString problem = checkFormatLimits(size);
   if (problem.isEmpty()) problem = checkFreeSpace(size);
   if (problem.isEmpty()) problem = checkFreeMemory(size);

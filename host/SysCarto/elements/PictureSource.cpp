@@ -23,6 +23,7 @@ namespace {
 constexpr int maxSidePx = 16384;
 constexpr qint64 maxPixels = 100000000;
 constexpr qint64 maxSvgBytes = 2 * 1024 * 1024;
+constexpr qint64 maxJpegBytes = 200 * 1000 * 1000;  // that are taken over into a PDF as they are
 constexpr int cellPx = 256;
 
 struct Texts {
@@ -39,7 +40,6 @@ PictureSource::~PictureSource() = default;
 void PictureSource::forget() {
   isLoaded_ = false;
   image_ = reduced_ = QImage();
-  jpeg_.clear();
   svg_.reset();
 }
 
@@ -83,8 +83,7 @@ QString PictureSource::loadImage(QIODevice& file, QString const& name) {
   QImage const image = reader.read();
   if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(name, reader.errorString());
   image_ = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-  if (reader.format() == "jpeg" && reader.transformation() == QImageIOHandler::TransformationNone && file.seek(0))
-    jpeg_ = file.readAll();
+  isPlainJpeg_ = reader.format() == "jpeg" && reader.transformation() == QImageIOHandler::TransformationNone;
   return {};
 }
 
@@ -111,12 +110,19 @@ void PictureSource::draw(QPainter& painter, QRect const& targetPx, double angleD
     drawCells(painter, targetPx, turn);
 }
 
+QByteArray PictureSource::jpeg() const {
+  if (!isPlainJpeg_) return {};
+  if (!data_.isEmpty()) return embeddedBytes(data_).value_or(QByteArray());
+  QFile file(path_);
+  return file.open(QIODevice::ReadOnly) && file.size() <= maxJpegBytes ? file.readAll() : QByteArray();
+}
+
 // In its own pixels, however large it is drawn.
 void PictureSource::drawOn(SysDisplay::VectorCanvas& canvas, QPainter& painter, QRect const& targetPx,
                            QTransform const& turn) {
   QTransform const toPage = turn * QTransform::fromTranslate(targetPx.x(), targetPx.y());
   QSize const size = targetPx.size();
-  if (!svg_) return canvas.picture({image_, jpeg_}, QTransform::fromScale(size.width(), size.height()) * toPage);
+  if (!svg_) return canvas.picture({image_, jpeg()}, QTransform::fromScale(size.width(), size.height()) * toPage);
   painter.save();
   painter.setTransform(toPage, true);
   svg_->render(&painter, QRectF(QPointF(0, 0), size));

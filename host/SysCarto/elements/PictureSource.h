@@ -42,6 +42,7 @@ private:
   QString loadImage(QIODevice& file, QString const& name);
   bool reduces(QSize const& targetSize) const;
   void drawOn(SysDisplay::VectorCanvas& canvas, QPainter& painter, QRect const& targetPx, QTransform const& turn);
+  QByteArray jpeg() const;
   QImage const& reducedTo(QSize const& targetSize);
   void drawCells(QPainter& painter, QRect const& targetPx, QTransform const& turn);
   QImage cell(QRect const& part, QSize const& targetSize, QTransform const& turn);
@@ -51,8 +52,8 @@ private:
   bool isLoaded_ = false;
   QString problem_;
   QImage image_;
-  QByteArray jpeg_;  // the file, where it holds the picture as it is shown
-  QImage reduced_;   // to the size last asked for
+  bool isPlainJpeg_ = false;  // the file holds the picture as it is shown
+  QImage reduced_;            // to the size last asked for
   std::unique_ptr<QSvgRenderer> svg_;
 };
 

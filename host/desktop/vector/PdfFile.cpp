@@ -135,7 +135,7 @@ QByteArray PdfFile::metadata() const {
   QByteArray bytes;
   QXmlStreamWriter xml(&bytes);
   xml.writeProcessingInstruction(QStringLiteral("xpacket"),
-                                 QStringLiteral("begin=\"\xef\xbb\xbf\" id=\"W5M0MpCehiHzreSzNTczkc9d\""));
+                                 QStringLiteral("begin=\"\ufeff\" id=\"W5M0MpCehiHzreSzNTczkc9d\""));
   xml.writeNamespace(QStringLiteral("adobe:ns:meta/"), QStringLiteral("x"));
   xml.writeStartElement(QStringLiteral("adobe:ns:meta/"), QStringLiteral("xmpmeta"));
   xml.writeNamespace(rdf, QStringLiteral("rdf"));

@@ -63,18 +63,18 @@ QPDFObjectHandle PdfObjects::stream(QByteArray const& bytes) {
 }
 
 QByteArray PdfObjects::form(QByteArray const& content, QRectF const& bounds, bool isSheet) {
-  QByteArray& name = forms_[isSheet ? "sheet " + content : content];
+  QByteArray box = "[";
+  for (double side :
+       {std::floor(bounds.left()), std::floor(bounds.top()), std::ceil(bounds.right()), std::ceil(bounds.bottom())})
+    box += pdfNumber(side) + ' ';
+  box += ']';
+  QByteArray& name = forms_[(isSheet ? "sheet " : "") + box + content];
   if (!name.isEmpty()) return name;
   QPDFObjectHandle form = stream(content);
   QPDFObjectHandle dictionary = form.getDict();
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
   dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
-  dictionary.replaceKey("/BBox", QPDFObjectHandle::parse(QStringLiteral("[%1 %2 %3 %4]")
-                                                             .arg(std::floor(bounds.left()), 0, 'f', 0)
-                                                             .arg(std::floor(bounds.top()), 0, 'f', 0)
-                                                             .arg(std::ceil(bounds.right()), 0, 'f', 0)
-                                                             .arg(std::ceil(bounds.bottom()), 0, 'f', 0)
-                                                             .toStdString()));
+  dictionary.replaceKey("/BBox", QPDFObjectHandle::parse(box.toStdString()));
   dictionary.replaceKey("/Resources", resources_);
   if (isSheet)
     dictionary.replaceKey("/Group", QPDFObjectHandle::parse("<</Type/Group/S/Transparency/I true/CS/DeviceRGB>>"));
