@@ -361,6 +361,28 @@ private slots:
     QVERIFY(placed.mapRect(symbol.bounds(text)).toAlignedRect().contains(canvas.covered()));
   }
 
+  // The box ends three points and half its line from the text, whose own rectangle stands in no field of the symbol.
+  void aBoxKeepsItsPaddingAboutTheText() {
+    TextFormat format = letters(20);
+    QRectF const text = TextSymbol(format).bounds("Box");
+    format.boxColor = Qt::yellow;
+    format.boxLineColor = Qt::blue;
+    format.boxLineWidth = 2;
+    format.boxPadding = 3;
+    TextSymbol const symbol(format);
+    QCOMPARE(symbol.bounds("Box"), text.adjusted(-4, -4, 4, 4));
+    Canvas canvas;
+    {
+      QPainter painter(&canvas.image());
+      symbol.drawAt(painter, QPointF(20, 100), 2, 0, "Box");
+    }
+    QRectF const box(QPointF(20, 100) + text.topLeft() * 2, text.size() * 2);
+    QCOMPARE(canvas.covered(), box.adjusted(-8, -8, 8, 8).toAlignedRect());
+    auto const at = [&](double x, double y) { return canvas.image().pixelColor(QPointF(x, y).toPoint()); };
+    QCOMPARE(at(box.center().x(), box.top() - 6), QColor(Qt::blue));
+    QCOMPARE(at(box.center().x(), box.top() - 3), QColor(Qt::yellow));
+  }
+
   void textShapeIsLinear() {
     auto const width = [](TextFormat const& format, char const* text) {
       return TextSymbol(format).bounds(text).width();

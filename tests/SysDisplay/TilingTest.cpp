@@ -193,7 +193,9 @@ private slots:
     TextFormat format = letters(13, 1.5);
     format.haloColor = QColor(255, 230, 0, 128);
     format.bold = true;
-    row("text with a halo", texts(format));
+    format.boxColor = QColor(200, 220, 255, 200);
+    format.boxLineWidth = 0.7;
+    row("text with a halo on a box", texts(format));
     format.size = 90;
     row("large text", texts(format));
   }
