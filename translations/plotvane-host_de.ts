@@ -2297,6 +2297,10 @@
         <source>%1 was not written: %2.</source>
         <translation>%1 wurde nicht geschrieben: %2.</translation>
     </message>
+    <message>
+        <source>export: a PDF takes a --dpi of at most %1; its shapes are as fine at any.</source>
+        <translation>export: Eine PDF nimmt ein --dpi von höchstens %1; ihre Formen sind bei jedem gleich fein.</translation>
+    </message>
 </context>
 <context>
     <name>FeatureEvaluator</name>
@@ -4869,6 +4873,38 @@
     <message>
         <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
         <translation>Der Marker in seiner Größe für die Bezugszahl; er steht in Flächen und auf Linien.</translation>
+    </message>
+    <message>
+        <source>Colour of the box</source>
+        <translation>Farbe des Kastens</translation>
+    </message>
+    <message>
+        <source>The colour of a box behind the text, as callouts have.</source>
+        <translation>Die Farbe eines Kastens hinter dem Text, wie ihn Sprechblasen haben.</translation>
+    </message>
+    <message>
+        <source>Colour of the box&apos;s line</source>
+        <translation>Farbe der Kastenlinie</translation>
+    </message>
+    <message>
+        <source>The colour of the line about the box.</source>
+        <translation>Die Farbe der Linie um den Kasten.</translation>
+    </message>
+    <message>
+        <source>Line of the box</source>
+        <translation>Linie des Kastens</translation>
+    </message>
+    <message>
+        <source>The width of the line about the box; 0 for none.</source>
+        <translation>Die Breite der Linie um den Kasten; 0 für keine.</translation>
+    </message>
+    <message>
+        <source>Padding of the box</source>
+        <translation>Innenabstand des Kastens</translation>
+    </message>
+    <message>
+        <source>From the text to the edge of its box.</source>
+        <translation>Vom Text zum Rand seines Kastens.</translation>
     </message>
 </context>
 <context>

@@ -2297,6 +2297,10 @@
         <source>%1 was not written: %2.</source>
         <translation>未写入 %1：%2。</translation>
     </message>
+    <message>
+        <source>export: a PDF takes a --dpi of at most %1; its shapes are as fine at any.</source>
+        <translation>export：PDF 的 --dpi 最多为 %1；无论取值多少，其图形都同样精细。</translation>
+    </message>
 </context>
 <context>
     <name>FeatureEvaluator</name>
@@ -4869,6 +4873,38 @@
     <message>
         <source>The marker, in its size for the reference; it stands in areas and on lines.</source>
         <translation>标记，其大小对应参考值；可位于面内和线上。</translation>
+    </message>
+    <message>
+        <source>Colour of the box</source>
+        <translation>框的颜色</translation>
+    </message>
+    <message>
+        <source>The colour of a box behind the text, as callouts have.</source>
+        <translation>文字后面的框的颜色，如标注框。</translation>
+    </message>
+    <message>
+        <source>Colour of the box&apos;s line</source>
+        <translation>框线颜色</translation>
+    </message>
+    <message>
+        <source>The colour of the line about the box.</source>
+        <translation>框周围线条的颜色。</translation>
+    </message>
+    <message>
+        <source>Line of the box</source>
+        <translation>框线</translation>
+    </message>
+    <message>
+        <source>The width of the line about the box; 0 for none.</source>
+        <translation>框周围线条的宽度；0 表示没有。</translation>
+    </message>
+    <message>
+        <source>Padding of the box</source>
+        <translation>框内边距</translation>
+    </message>
+    <message>
+        <source>From the text to the edge of its box.</source>
+        <translation>从文字到框边缘的距离。</translation>
     </message>
 </context>
 <context>
