@@ -132,7 +132,7 @@ std::vector<TellingAction> tellingActions(SysCarto::MapDocument const& document)
 
 }  // namespace
 
-HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : views_(views) {
+HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : session_(session), views_(views) {
   auto const stack = [&session] { return session.document().GetOperationStack(); };
   add(QStringLiteral("Host_Undo"), {[stack] { stack()->Undo(); }, [stack] { return stack()->CanUndo(); }, {}});
   add(QStringLiteral("Host_Redo"), {[stack] { stack()->Redo(); }, [stack] { return stack()->CanRedo(); }, {}});
@@ -184,7 +184,7 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : vie
 
 _ptr_t<SysUI::ICommand> HostCommands::createCommand(QString const& identifier) const {
   if (identifier == QLatin1String("Host_Select")) return SysUtility::make<SelectTool>(views_);
-  if (identifier == QLatin1String("Host_Identify")) return SysUtility::make<IdentifyTool>(views_);
+  if (identifier == QLatin1String("Host_Identify")) return SysUtility::make<IdentifyTool>(session_, views_);
   for (NewElementKind const& kind : NewElementKind::all())
     if (kind.identifier && identifier == QLatin1String(kind.identifier))
       return SysUtility::make<InsertTool>(kind, views_.layoutView());

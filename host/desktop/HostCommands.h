@@ -36,6 +36,7 @@ public:
   static QString problemOf(SysUI::ICommand const& command);
 
 private:
+  DocumentSession& session_;
   DocumentViews& views_;
   QHash<QString, Action> actions_;
 };

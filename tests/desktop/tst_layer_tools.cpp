@@ -248,6 +248,26 @@ private slots:
     QVERIFY(marked.ids.empty());
   }
 
+  // Of a group, shown again, both have changed at once.
+  void eachLayerTellsOfItsOwnFile() {
+    auto const [map, layer] = mapWithPlaces();
+    QString const spots = written(folder_, "spots.csv", "x,y,spot\n2,0,Stone\n");
+    map->AddLayer(opened({spots, {}, {}, {}}, "EPSG:4326", make<SysDisplay::SimpleMarkerSymbol>()).layer);
+    auto const grouped = LayerActions::group({{map, nullptr, layer}, {map, nullptr, map->GetLayers().last()}});
+    QCOMPARE(grouped.rows.size(), 1);
+    OpenTables tables;
+    auto const told = [&, map = map] {
+      QStringList fields;
+      for (auto const& feature : identify(map, {2, 0}, 0.1, tables).features)
+        fields << feature.fields.last().first + '=' + feature.fields.last().second.toString();
+      return fields.join(' ');
+    };
+    for (bool const isVisible : {false, true}) LayerActions::setVisible(grouped.rows, isVisible);
+    QCOMPARE(told(), QString("spot=Stone height=2"));
+    written(folder_, "spots.csv", "x,y,spot\n2,0,Big stone\n");
+    QCOMPARE(told(), QString("spot=Big stone height=2"));
+  }
+
   void theWindowShowsTheChosenLayer() {
     page_.reset();
     prepareWorld(folder_.path());

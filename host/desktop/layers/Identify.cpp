@@ -1,7 +1,6 @@
 #include "Identify.h"
 
 #include "host/SysCarto/layers/FeatureSearch.h"
-#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/projection/GlobeBox.h"
 
 #include <QJsonArray>
@@ -38,7 +37,7 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
   }
   std::vector<qint64> ids;
   for (int const number : numbers) ids.push_back(layer->features().ids[static_cast<size_t>(number)]);
-  SysCarto::FeatureTable const* const table = tables.of(*layer);
+  SysCarto::FeatureTable const* const table = tables.of(layer);
   auto const rows = table ? table->rows(ids) : QHash<qint64, SysCarto::TableRow>();
   for (size_t at = 0; at < ids.size(); ++at) {
     Identified::Feature feature{layer, ids[at], {}, {}};
@@ -52,14 +51,17 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
 
 }  // namespace
 
-SysCarto::FeatureTable const* OpenTables::of(SysCarto::VectorLayer const& layer) {
+SysCarto::FeatureTable const* OpenTables::of(_ptr_t<SysCarto::VectorLayer> const& layer) {
   constexpr size_t mostOpen = 16;
-  quint64 const look = SysCarto::LayerHost::look(layer);
-  auto const known = std::find_if(tables_.begin(), tables_.end(), [&](Table const& one) { return one.look == look; });
-  if (known != tables_.end()) return known->table.get();
-  if (tables_.size() >= mostOpen) tables_.erase(tables_.begin());
+  auto const known = std::find_if(tables_.begin(), tables_.end(), [&](Table const& one) { return one.layer == layer; });
+  FileStamp const stamp = FileStamp::of(layer->source().file);
+  if (known != tables_.end() && known->source == layer->source() && known->stamp == stamp) return known->table.get();
+  if (known != tables_.end()) tables_.erase(known);
   QString error;
-  tables_.push_back({look, SysCarto::FeatureTable::open(layer.source(), error)});
+  auto table = SysCarto::FeatureTable::open(layer->source(), error);
+  if (!table) return nullptr;
+  if (tables_.size() >= mostOpen) tables_.erase(tables_.begin());
+  tables_.push_back({layer, layer->source(), stamp, std::move(table)});
   return tables_.back().table.get();
 }
 

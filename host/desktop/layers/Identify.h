@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/layers/FeatureTable.h"
 #include "host/SysCarto/maps/VectorLayer.h"
+#include "host/desktop/FileStamp.h"
 
 #include <SysCarto/Map.h>
 
@@ -29,17 +30,19 @@ struct Identified {
   bool isAll = true;  ///< false where more were found than are told of
 };
 
-/// The tables of layers that were asked for lately, open for as long as their layers stay as they are: to open some
-/// files means to read them.
+/// The tables of layers that were asked for lately, one of each, open for as long as their sources and files stay as
+/// they are: to open some files means to read them.
 class OpenTables {
 public:
   /// Null where it can't be opened; good until the next call.
-  SysCarto::FeatureTable const* of(SysCarto::VectorLayer const& layer);
+  SysCarto::FeatureTable const* of(SysUtility::_ptr_t<SysCarto::VectorLayer> const& layer);
   void close() { tables_.clear(); }
 
 private:
   struct Table {
-    quint64 look;  // of a layer, when it was opened; no two are the same
+    SysUtility::_ptr_t<SysCarto::VectorLayer> layer;  // held: another one never has its address
+    SysCarto::SourceSettings source;                  // when it was opened, as is the stamp
+    FileStamp stamp;
     std::unique_ptr<SysCarto::FeatureTable> table;
   };
   std::vector<Table> tables_;  // the oldest first

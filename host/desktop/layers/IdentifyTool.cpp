@@ -1,5 +1,6 @@
 #include "IdentifyTool.h"
 
+#include "host/desktop/DocumentSession.h"
 #include "host/desktop/DocumentViews.h"
 
 #include <QMouseEvent>
@@ -38,8 +39,14 @@ std::optional<Identified> identifyAt(DocumentViews& views, QPointF const& place)
   return identified({maps.first().map, place, std::hypot(toMap.m11(), toMap.m12())}, tables);
 }
 
-IdentifyTool::IdentifyTool(DocumentViews& views) : views_(views) { enabled_ = true; }
-IdentifyTool::~IdentifyTool() { QObject::disconnect(clicks_); }
+IdentifyTool::IdentifyTool(DocumentSession const& session, DocumentViews& views) : session_(session), views_(views) {
+  enabled_ = true;
+}
+
+IdentifyTool::~IdentifyTool() {
+  QObject::disconnect(clicks_);
+  QObject::disconnect(ends_);
+}
 
 bool IdentifyTool::IsEnable() {
   auto const layout = views_.GetPageLayout();
@@ -49,12 +56,14 @@ bool IdentifyTool::IsEnable() {
 bool IdentifyTool::Activate() {
   clicks_ = QObject::connect(&views_.mapView(), &MapView::clicked, &views_,
                              [this](QPointF const& positionPx) { look(placeIn(views_.mapView(), positionPx)); });
+  ends_ = QObject::connect(&session_, &DocumentSession::replaced, &views_, [this] { tables_.close(); });
   views_.mapView().setCursor(Qt::WhatsThisCursor);
   return BaseTool::Activate();
 }
 
 bool IdentifyTool::Deactivate() {
   QObject::disconnect(clicks_);
+  QObject::disconnect(ends_);
   tables_.close();
   views_.mapView().unsetCursor();
   return BaseTool::Deactivate();

@@ -8,6 +8,7 @@
 
 #include <QObject>
 
+class DocumentSession;
 class DocumentViews;
 
 /// Where a view shows a map, at a place of the view.
@@ -24,8 +25,8 @@ std::optional<Identified> identifyAt(DocumentViews& views, QPointF const& place)
 /// Tells what lies under the mouse: on a data frame of the page, or on the map.
 class IdentifyTool final : public SysFramework::BaseTool, public HostTool {
 public:
-  /// Borrowed.
-  explicit IdentifyTool(DocumentViews& views);
+  /// Both are borrowed.
+  IdentifyTool(DocumentSession const& session, DocumentViews& views);
   ~IdentifyTool() override;
 
   bool IsEnable() override;
@@ -37,7 +38,9 @@ public:
 private:
   void look(std::optional<MapPlace> const& at);
 
+  DocumentSession const& session_;
   DocumentViews& views_;
   QMetaObject::Connection clicks_;  // on the map
+  QMetaObject::Connection ends_;    // of the document
   OpenTables tables_;
 };
