@@ -10,6 +10,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 
@@ -24,6 +25,15 @@ struct Texts {
 constexpr std::chrono::seconds patience(5);  // for the count and the extent of a layer whose file does not say
 
 void printJson(QJsonObject const& json) { Console::print(QString::fromUtf8(QJsonDocument(json).toJson()).trimmed()); }
+
+// Neither by its name nor by how it begins; what can't be read may be one.
+bool isNoDocument(QString const& path) {
+  constexpr int beginning = 4096;
+  QFileInfo const info(path);
+  if (!info.isFile() || info.suffix().compare(QLatin1String("kdx"), Qt::CaseInsensitive) == 0) return false;
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) && !file.read(beginning).trimmed().startsWith('{');
+}
 
 void measure(SysCarto::DataFile& file) {
   for (SysCarto::LayerDescription& layer : file.layers) {
@@ -81,8 +91,7 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
   if (SysCarto::isDataFileName(path)) return tellData(path, parser.isSet(json));
   SysCarto::MapDocument document;
   bool const opened = document.Open(path);
-  if (!opened && QFileInfo::exists(path) &&
-      QFileInfo(path).suffix().compare(QLatin1String("kdx"), Qt::CaseInsensitive)) {
+  if (!opened && isNoDocument(path)) {
     Console::complain(
         Texts::tr("%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.")
             .arg(path));

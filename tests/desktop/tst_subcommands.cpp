@@ -148,6 +148,16 @@ private slots:
     QCOMPARE(outcome.err, QString());
   }
 
+  void infoTellsWhyADocumentOfAnyNameCanNotBeOpened() {
+    auto const complaint = [this](QString const& name, QByteArray const& content) {
+      put(folder_.path(name), content);
+      return run({"info", name}, folder_.path()).err;
+    };
+    QByteArray const whole = contentOf(folder_.path("page.kdx"));
+    QVERIFY(complaint("page.bak", whole.left(whole.size() / 2)).contains("this is not JSON"));
+    QVERIFY(complaint("notes.txt", "Buy bread.\n").contains("neither a map document"));
+  }
+
   void textsAreInTheLanguageAskedFor_data() {
     Rows<QString, QString, QString> row;
     row("the option", "info page.kdx --language=zh_CN", "", "元素：1");
