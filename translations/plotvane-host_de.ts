@@ -228,6 +228,10 @@
         <source>The expression “%1” is not understood: %2.</source>
         <translation>Der Ausdruck „%1“ wird nicht verstanden: %2.</translation>
     </message>
+    <message>
+        <source>Not all of %1 could be read: %2.</source>
+        <translation>%1 konnte nicht ganz gelesen werden: %2.</translation>
+    </message>
 </context>
 <context>
     <name>Classify</name>
@@ -4981,6 +4985,26 @@
         <source>Fields</source>
         <translation>Felder</translation>
     </message>
+    <message>
+        <source>The layer has no file.</source>
+        <translation>Die Ebene hat keine Datei.</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>Die Datei wird gelesen.</translation>
+    </message>
+    <message>
+        <source>The file has no layer “%1”.</source>
+        <translation>Die Datei hat keine Ebene „%1“.</translation>
+    </message>
+    <message>
+        <source>The file names no coordinate system.</source>
+        <translation>Die Datei nennt kein Koordinatensystem.</translation>
+    </message>
+    <message>
+        <source>The file says: %1.</source>
+        <translation>Die Datei sagt: %1.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -5734,11 +5758,11 @@
     </message>
     <message>
         <source>The file names no coordinate system.</source>
-        <translation>Die Datei nennt kein Koordinatensystem.</translation>
+        <translation type="vanished">Die Datei nennt kein Koordinatensystem.</translation>
     </message>
     <message>
         <source>The file says: %1.</source>
-        <translation>Die Datei sagt: %1.</translation>
+        <translation type="vanished">Die Datei sagt: %1.</translation>
     </message>
     <message>
         <source>&amp;Opacity</source>

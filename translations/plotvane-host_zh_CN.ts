@@ -228,6 +228,10 @@
         <source>The expression “%1” is not understood: %2.</source>
         <translation>表达式“%1”无法理解：%2。</translation>
     </message>
+    <message>
+        <source>Not all of %1 could be read: %2.</source>
+        <translation>未能读取 %1 的全部内容：%2。</translation>
+    </message>
 </context>
 <context>
     <name>Classify</name>
@@ -4981,6 +4985,26 @@
         <source>Fields</source>
         <translation>字段</translation>
     </message>
+    <message>
+        <source>The layer has no file.</source>
+        <translation>该图层没有文件。</translation>
+    </message>
+    <message>
+        <source>The file is being read.</source>
+        <translation>正在读取文件。</translation>
+    </message>
+    <message>
+        <source>The file has no layer “%1”.</source>
+        <translation>文件中没有图层“%1”。</translation>
+    </message>
+    <message>
+        <source>The file names no coordinate system.</source>
+        <translation>文件没有说明坐标系。</translation>
+    </message>
+    <message>
+        <source>The file says: %1.</source>
+        <translation>文件中的坐标系：%1。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -5734,11 +5758,11 @@
     </message>
     <message>
         <source>The file names no coordinate system.</source>
-        <translation>文件没有说明坐标系。</translation>
+        <translation type="vanished">文件没有说明坐标系。</translation>
     </message>
     <message>
         <source>The file says: %1.</source>
-        <translation>文件中的坐标系：%1。</translation>
+        <translation type="vanished">文件中的坐标系：%1。</translation>
     </message>
     <message>
         <source>&amp;Opacity</source>

@@ -10,6 +10,13 @@ namespace {
 
 constexpr qint64 quickMs = 1000;
 
+// The last step, undone, is not done again: it goes.
+void dropUndone(QUndoStack& history) {
+  if (history.index() + 1 != history.count()) return;
+  const_cast<QUndoCommand*>(history.command(history.index()))->setObsolete(true);
+  history.redo();
+}
+
 }  // namespace
 
 QString FieldChanges::set(SysCarto::Editable::List const& things, QStringList const& path,
@@ -21,6 +28,8 @@ QString FieldChanges::set(SysCarto::Editable::List const& things, QStringList co
   int const before = history->index();
   QString const problem = SysCarto::Editable::set(session_.document(), things, path, value, warnings);
   if (isQuick && !problem.isEmpty()) history->redo();
+  // It is as it was before the step.
+  if (isQuick && problem.isEmpty() && history->index() == before) dropUndone(*history);
   if (problem.isEmpty()) {
     last_.joining = history->index() == before ? QString() : joining;
     last_.step = history->index();

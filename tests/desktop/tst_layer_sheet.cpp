@@ -148,6 +148,9 @@ private slots:
     QVERIFY(!history->CanUndo());
     QTRY_COMPARE(slider.value(), 100);
     QVERIFY(MapDocumentHost::text(document) == start);
+    for (int const percent : {90, 95, 100}) slider.setValue(percent);  // back before anybody looked
+    QVERIFY(!history->CanUndo() && !history->CanRedo());
+    QVERIFY(MapDocumentHost::text(document) == start);
 
     // Rules come, are copied, moved and removed in the table.
     auto& page1 = in<QWidget>(sheet, "Symbols");
@@ -216,6 +219,21 @@ private slots:
     while (history->CanUndo()) history->Undo();
     QVERIFY(MapDocumentHost::text(document) == start);
 
+    // What is closed counts no more, and has no counts.
+    auto const filter = [&] { return in<QLabel>(in<QWidget>(sheet, "Source"), "label_Test").text(); };
+    QCOMPARE(tested(in<QWidget>(sheet, "Source")), QString("5 of 5 features pass."));
+    sheet.close();
+    QCOMPARE(filter(), QString());
+    sheet.showLayer(towns);
+
+    // The file of another layer is not that of this one.
+    auto const system = [&] { return in<QLabel>(sheet, "label_FileSystem").text(); };
+    QTRY_COMPARE(system(), QString("The file says: WGS 84 (EPSG:4326)."));
+    QCOMPARE(set({"source", "file"}, "none.csv"), QString());
+    QTRY_VERIFY2(system().contains("none.csv"), qPrintable(system()));
+    QCOMPARE(set({"source", "data"}, "globe"), QString());
+    QTRY_COMPARE(system(), QString("The layer has no file."));
+
     // What has gone is no longer shown.
     LayerActions::remove({towns});
     QTRY_VERIFY(!sheet.isVisible() && !sheet.layer().layer);
@@ -282,6 +300,11 @@ private slots:
       QCOMPARE(counts->counts().front(), qint64(1));
     }
 
+    // What can't be read to its end is not counted.
+    QString const broken = written(folder_, "broken.geojsonl", feature("null", "A") + "\n{\"type\":\n");
+    ConditionDialog half({broken, {}, {}, {}}, Kind::Condition, "name = 'A'", nullptr);
+    QVERIFY2(tested(half).startsWith("Not all of " + broken), qPrintable(tested(half)));
+
     ConditionDialog expression({towns_, {}, "people > 15", {}}, Kind::Expression, "people * 2", nullptr);
     QCOMPARE(tested(expression, "pushButton_TestExpression"), QString("Of the first features: 40; 60; 80"));
   }
@@ -313,6 +336,11 @@ private slots:
     QVERIFY(dialog.join() == join);
     in<QComboBox>(dialog, "comboBox_TableKey").setCurrentText("area");
     QTRY_VERIFY2(label.text().startsWith("No feature found a row"), qPrintable(label.text()));
+
+    JoinDialog const inAnyCase(towns, {areas_, {}, "CODE", "Area", {}}, folder_.path(), nullptr);
+    QCOMPARE(inAnyCase.join().key + ' ' + inAnyCase.join().tableKey, QString("code area"));
+    JoinDialog const lost(towns, {areas_, {}, "code", "number", {}}, folder_.path(), nullptr);
+    QCOMPARE(lost.join().tableKey, QString("number"));
 
     WorkbenchPage page;
     LayerSheet sheet(page.bench.session(), nullptr);
@@ -394,6 +422,17 @@ private slots:
     QCOMPARE(SysCarto::LayerHost::effects(*layer).opacityPercent, 70.0);
     window.bench().session().document().GetOperationStack()->Undo();
     QCOMPARE(SysCarto::LayerHost::effects(*layer).opacityPercent, 100.0);
+    for (bool const isCancelled : {true, false}) {
+      menu.popup({});
+      slider.setValue(40);
+      if (isCancelled)
+        QTest::keyClick(&slider, Qt::Key_Escape);
+      else
+        menu.close();
+      QTRY_VERIFY(!menu.isVisible());
+      QCOMPARE(SysCarto::LayerHost::effects(*layer).opacityPercent, isCancelled ? 100.0 : 40.0);
+    }
+    window.bench().session().document().GetOperationStack()->Undo();
     window.bench().session().save();
   }
 

@@ -7,6 +7,7 @@
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QLocale>
 
@@ -35,7 +36,7 @@ bool covers(ScaleRange const& outer, ScaleRange const& inner) {
 
 }  // namespace
 
-ClassCounts::ClassCounts(std::unique_ptr<DataSource> data) : data_(std::move(data)) {}
+ClassCounts::ClassCounts(std::unique_ptr<DataSource> data, QString const& file) : data_(std::move(data)), file_(file) {}
 ClassCounts::~ClassCounts() = default;
 
 std::unique_ptr<ClassCounts> ClassCounts::open(SourceSettings const& source, RendererSettings const& renderer,
@@ -43,7 +44,7 @@ std::unique_ptr<ClassCounts> ClassCounts::open(SourceSettings const& source, Ren
   auto data = DataSource::open(source, error);
   if (!data) return nullptr;
   GdalErrors const quiet;
-  std::unique_ptr<ClassCounts> counts(new ClassCounts(std::move(data)));
+  std::unique_ptr<ClassCounts> counts(new ClassCounts(std::move(data), source.file));
   error = counts->compile(source, renderer);
   if (!error.isEmpty()) return nullptr;
   counts->total_ = knownCount(counts->data_->layer());
@@ -107,21 +108,24 @@ void ClassCounts::count(OGRFeature& feature) {
 }
 
 bool ClassCounts::advance(int ms) {
-  GdalErrors const quiet;
+  GdalErrors const errors;
   QElapsedTimer clock;
   clock.start();
-  for (int untilLook = betweenLooks;; --untilLook) {
-    if (untilLook == 0) {
-      if (clock.elapsed() >= ms) return true;
-      untilLook = betweenLooks;
-    }
+  bool isMore = true;
+  for (int untilLook = betweenLooks; untilLook > 0 || clock.elapsed() < ms; --untilLook) {
+    if (untilLook <= 0) untilLook = betweenLooks;
     OGRFeatureUniquePtr const feature(data_->layer().GetNextFeature());
-    if (!feature) return false;
+    isMore = static_cast<bool>(feature);
+    if (!feature) break;
     ++read_;
     if (!own_->admits(*feature)) continue;
     ++features_;
     count(*feature);
   }
+  // A format may read on behind what is broken.
+  if (errors.hasFailure() && problem_.isEmpty())
+    problem_ = Texts::tr("Not all of %1 could be read: %2.").arg(QDir::toNativeSeparators(file_), errors.reason());
+  return isMore;
 }
 
 double ClassCounts::progress() const {

@@ -27,8 +27,11 @@ public:
   static std::unique_ptr<ClassCounts> open(SourceSettings const& source, QString const& condition, QString& error);
   ~ClassCounts();
 
-  /// Goes on for so many milliseconds; false when all features have been read.
+  /// Goes on for so many milliseconds; false when all features have been read, or no more can be.
   bool advance(int ms);
+
+  /// Why not all could be read, as a sentence; else empty.
+  QString const& problem() const { return problem_; }
 
   /// How far it is, from 0 to 1; negative where that can't be told.
   double progress() const;
@@ -42,11 +45,12 @@ public:
   QStringList notes() const;
 
 private:
-  explicit ClassCounts(std::unique_ptr<DataSource> data);
+  ClassCounts(std::unique_ptr<DataSource> data, QString const& file);
   QString compile(SourceSettings const& source, RendererSettings const& renderer);
   void count(OGRFeature& feature);
 
   std::unique_ptr<DataSource> const data_;
+  QString file_, problem_;
   std::unique_ptr<Renderer> renderer_;
   std::unique_ptr<Condition> own_;
   std::vector<Condition> rules_;

@@ -161,6 +161,8 @@ LayerOutcome countFeatures(MapDocument const& document, QString const& text) {
                             : SysCarto::ClassCounts::open(layer->source(), renderer, outcome.problem);
     if (!counts) return outcome;
     while (counts->advance(sliceMs)) continue;
+    outcome.problem = counts->problem();
+    if (!outcome.problem.isEmpty()) return outcome;
     QJsonObject const passing{{QStringLiteral("features"), counts->features()},
                               {QStringLiteral("passing"), counts->counts().front()}};
     Console::print(SysUtility::jsonLine(value.hasCondition ? passing : jsonOf(*counts, renderer)));

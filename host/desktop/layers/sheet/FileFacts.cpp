@@ -47,8 +47,9 @@ FileFacts::~FileFacts() = default;
 
 void FileFacts::show(SourceSettings const& source) {
   QFileInfo const info(source.file);
-  QString const stamp = QStringLiteral("%1 %2 %3 %4")
+  QString const stamp = QStringLiteral("%1 %2 %3 %4 %5")
                             .arg(source.file, source.layer)
+                            .arg(static_cast<int>(source.data))
                             .arg(info.size())
                             .arg(info.lastModified().toMSecsSinceEpoch());
   if (stamp == stamp_) return;
@@ -66,6 +67,14 @@ void FileFacts::show(SourceSettings const& source) {
           });
   fill();
   if (source.data == SourceSettings::Data::File && !source.file.isEmpty()) descriptions_->describe({source.file});
+}
+
+QString FileFacts::systemText() const {
+  if (source_.data == SourceSettings::Data::Globe || source_.file.isEmpty()) return tr("The layer has no file.");
+  if (!file_.error.isEmpty()) return file_.error;
+  if (file_.path.isEmpty()) return tr("The file is being read.");
+  if (layer_.name.isEmpty()) return tr("The file has no layer “%1”.").arg(source_.layer);
+  return system_.isEmpty() ? tr("The file names no coordinate system.") : tr("The file says: %1.").arg(system_);
 }
 
 QStringList FileFacts::layerNames() const {
@@ -97,6 +106,7 @@ void FileFacts::fill() {
   tree_->clear();
   if (source_.data == SourceSettings::Data::Globe) {
     addRow(*tree_, tr("File"), tr("None: the layer is the whole globe"));
+    emit found();
     return;
   }
   addRow(*tree_, tr("File"), QDir::toNativeSeparators(source_.file));

@@ -19,8 +19,8 @@ public:
   /// Reads where it is another file or another state of it.
   void show(SysCarto::SourceSettings const& source);
 
-  /// The coordinate system that the file says, for people; empty where it says none or is not read yet.
-  QString systemText() const { return system_; }
+  /// What the file says of its coordinate system, or why nothing is known of it, as a sentence.
+  QString systemText() const;
 
   /// Of the file, as far as it was read.
   QStringList layerNames() const;

@@ -38,6 +38,17 @@ TableSample sampleOf(SourceSettings const& features) {
   return TableSample::of(features, JoinKeys::rowsLookedAt, unread);
 }
 
+// As joins match, in any case; a name that is not there is shown all the same.
+void choose(QComboBox& box, QString const& name) {
+  int at = box.findText(name);
+  if (at < 0) at = box.findText(name, Qt::MatchFixedString);
+  if (at < 0) {
+    at = box.count();
+    box.addItem(name);
+  }
+  box.setCurrentIndex(at);
+}
+
 }  // namespace
 
 JoinDialog::JoinDialog(SourceSettings features, TableJoin const& join, QString const& folder, QWidget* parent)
@@ -51,12 +62,13 @@ JoinDialog::JoinDialog(SourceSettings features, TableJoin const& join, QString c
   isSettling_ = true;
   file_->setText(QDir::toNativeSeparators(join.file));
   takeFile();
-  if (!join.layer.isEmpty()) layer_->setCurrentText(join.layer);
+  if (!join.layer.isEmpty()) choose(*layer_, join.layer);
+  layer_->setEnabled(layer_->count() > 1);
   takeLayer();
   prefix_->setText(join.prefix);
   if (!join.key.isEmpty()) {
-    key_->setCurrentText(join.key);
-    tableKey_->setCurrentText(join.tableKey);
+    choose(*key_, join.key);
+    choose(*tableKey_, join.tableKey);
   }
   isSettling_ = false;
   connect(file_, &QLineEdit::editingFinished, this, &JoinDialog::takeFile);
@@ -180,7 +192,7 @@ void JoinDialog::takeLayer() {
 }
 
 void JoinDialog::test() {
-  bool const isWhole = tableKey_->count() > 0 && key_->count() > 0;
+  bool const isWhole = buttons_->button(QDialogButtonBox::Ok)->isEnabled() && key_->count() > 0;
   if (!isSettling_ && isWhole) test_->start();
 }
 

@@ -85,11 +85,7 @@ LayerSheet::LayerSheet(DocumentSession& session, QWidget* parent)
   column->addWidget(buttons);
   resize(firstSize);
   connect(pages_, &QTabWidget::currentChanged, this, &LayerSheet::refreshTab);
-  connect(facts_, &FileFacts::found, this, [this] {
-    QString const system = facts_->systemText();
-    fileSystem_->setText(system.isEmpty() ? tr("The file names no coordinate system.")
-                                          : tr("The file says: %1.").arg(system));
-  });
+  connect(facts_, &FileFacts::found, this, [this] { fileSystem_->setText(facts_->systemText()); });
   // A row is in the middle of its change.
   soon_.setSingleShot(true);
   connect(&session, &DocumentSession::historyChanged, &soon_, [this] { soon_.start(0); });
@@ -239,6 +235,7 @@ void LayerSheet::showLayer(SysCarto::LayerRow const& row, QString const& tab) {
     row_ = row;
     things_ = {SysCarto::Editable::layer(row.map, row.layer)};
     changes_.forget();
+    forgetCounts();
     tell({}, false);
     for (Tab const& one : tabs_) {
       one.sheet->show(one.fields.get());
@@ -296,12 +293,14 @@ void LayerSheet::follow() {
   opacity_->setPercent(SysCarto::LayerHost::effects(*row_.layer).opacityPercent);
   facts_->show(vector()->source());
   QJsonObject const now = SysUtility::wholeObject(fields());
-  if (now != tested_) {
-    for (TestBar* const test : tests_) test->clear();
-    for (Tab const& tab : tabs_) tab.table->entries().setCounts({});
-  }
+  if (now != tested_) forgetCounts();
   tested_ = now;
   refreshTab();
+}
+
+void LayerSheet::forgetCounts() {
+  for (TestBar* const test : tests_) test->clear();
+  for (Tab const& tab : tabs_) tab.table->entries().setCounts({});
 }
 
 void LayerSheet::refreshTab() {
@@ -328,6 +327,7 @@ void LayerSheet::finishTyping() {
 
 void LayerSheet::done(int result) {
   if (row_.layer) finishTyping();
+  forgetCounts();
   QDialog::done(result);
 }
 

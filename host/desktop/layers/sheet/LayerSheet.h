@@ -75,6 +75,7 @@ private:
   void addSystem(QVBoxLayout& page);
   void addClasses(QVBoxLayout& page);
   void follow();
+  void forgetCounts();
   void refreshTab();
   void chooseFor(QStringList const& path, QString const& now);
   void give(QStringList const& path, QJsonValue const& value, QString const& joining);

@@ -1,6 +1,7 @@
 #include "OpacitySlider.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QSlider>
@@ -46,7 +47,16 @@ OpacitySlider* OpacitySlider::addTo(QMenu& menu) {
   made->setFocusPolicy(Qt::StrongFocus);
   made->isInMenu_ = true;
   connect(&menu, &QMenu::aboutToHide, made, &OpacitySlider::take);
+  menu.installEventFilter(made);
   return made;
+}
+
+// Of the menu, before it closes.
+bool OpacitySlider::eventFilter(QObject* watched, QEvent* event) {
+  bool const isCancel =
+      event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel);
+  if (isCancel && shown_ >= 0) setPercent(shown_);
+  return QWidget::eventFilter(watched, event);
 }
 
 void OpacitySlider::setPercent(double percent) {

@@ -15,7 +15,7 @@ public:
   explicit OpacitySlider(QWidget* parent);
   ~OpacitySlider() override;
 
-  /// Adds one to a menu, above what is there. It tells a key's choice when the menu is closed.
+  /// Adds one to a menu, above what is there. It tells a key's choice when the menu is closed, but not by Escape.
   static OpacitySlider* addTo(QMenu& menu);
 
   /// Shows it without telling; not while it is dragged.
@@ -23,6 +23,9 @@ public:
 
 signals:
   void chosen(double percent);
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
   void take();

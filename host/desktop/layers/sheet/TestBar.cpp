@@ -61,7 +61,8 @@ void TestBar::goOn() {
   slices_.stop();
   auto const done = std::move(counts_);
   showWork();
-  say(tell_(*done), false);
+  bool const isWhole = done->problem().isEmpty();
+  say(isWhole ? tell_(*done) : done->problem(), !isWhole);
   emit finished();
 }
 
