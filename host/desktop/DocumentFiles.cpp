@@ -141,7 +141,7 @@ QStringList DocumentFiles::createFromData() {
     }
     lock_.reset();
     if (!made.warnings.isEmpty())
-      tell(QMessageBox::Warning, tr("The map was made, but not of all data."), made.warnings);
+      tell(QMessageBox::Warning, tr("The map was made. Some of its data need a look."), made.warnings);
     return made.explanation;
   }
   return {};

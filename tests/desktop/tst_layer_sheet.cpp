@@ -285,6 +285,12 @@ private slots:
     auto& text = in<QPlainTextEdit>(dialog, "plainTextEdit_Condition");
     text.setPlainText("people >");
     QVERIFY(tested(dialog).startsWith("The condition “people >” is not understood: "));
+    dialog.accept();
+    QCOMPARE(closed.count(), 0);
+    text.setPlainText("\"town name\" IN ('Bern'");  // a list goes on
+    text.moveCursor(QTextCursor::End);
+    QTest::keyClick(&values, Qt::Key_Return);
+    QVERIFY2(dialog.text().endsWith("IN ('Bern', 'O''Hara'"), qPrintable(dialog.text()));
     text.setPlainText("nothing = 1");
     QVERIFY2(tested(dialog).contains("nothing"), qPrintable(tested(dialog)));
 

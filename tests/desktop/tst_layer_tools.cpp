@@ -281,7 +281,19 @@ private slots:
     at.trigger("Host_AttributeTable");
     auto* const panel = at.window.findChild<AttributePanel*>();
     QVERIFY(panel->isVisible());
-    QTRY_VERIFY(panel->findChild<QTableView*>()->model()->rowCount() > 100);
+    auto* const table = panel->findChild<QTableView*>();
+    QTRY_VERIFY(table->model()->rowCount() > 100);
+    // Keys that are meant for its rows do nothing to the page: all chosen, taken out, a tool.
+    IElementContainer& page = *at.document().GetPageLayout()->GetGraphicsContainer();
+    int const before = page.GetElements().size();
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_A, Qt::ControlModifier);
+    QVERIFY(page.GetSelectedElements().isEmpty());
+    page.SelectElement(page.GetElements().first());
+    QTest::keyClick(table, Qt::Key_Delete);
+    QTest::keyClick(table, Qt::Key_T);
+    QCOMPARE(page.GetElements().size(), before);
+    QVERIFY(!at.isChecked("Host_InsertText"));
     at.trigger("Host_New");
     QTRY_COMPARE(panel->findChild<QTableView*>()->model()->rowCount(), 0);
     QVERIFY(!at.isEnabled("Host_AttributeTable"));

@@ -6,6 +6,7 @@
 #include "host/SysAdapterUI/FieldText.h"
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/DocumentViews.h"
+#include "host/desktop/OwnKeys.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -232,12 +233,13 @@ void AttributePanel::zoomToChosen() {
 }
 
 bool AttributePanel::eventFilter(QObject* watched, QEvent* event) {
-  bool const isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-  if (!isKey || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+  if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
     return QDockWidget::eventFilter(watched, event);
-  event->accept();  // the page has the same key
-  if (event->type() == QEvent::KeyPress) copy();
-  return true;
+  auto const& key = *static_cast<QKeyEvent*>(event);
+  bool const isOverride = event->type() == QEvent::ShortcutOverride, copies = key.matches(QKeySequence::Copy);
+  if (isOverride && isForRows(key)) event->accept();
+  if (!isOverride && copies) copy();
+  return isOverride || copies || QDockWidget::eventFilter(watched, event);
 }
 
 // Tabs between values, and a line for each row, as spreadsheets take them.

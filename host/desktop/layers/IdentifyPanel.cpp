@@ -5,6 +5,7 @@
 
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/DocumentViews.h"
+#include "host/desktop/OwnKeys.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -141,10 +142,11 @@ void IdentifyPanel::mark(bool flashes) {
 }
 
 bool IdentifyPanel::eventFilter(QObject* watched, QEvent* event) {
-  bool const isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-  if (!isKey || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy) || !tree_->currentItem())
+  if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
     return QDockWidget::eventFilter(watched, event);
-  event->accept();  // the page has the same key
-  if (event->type() == QEvent::KeyPress) QApplication::clipboard()->setText(tree_->currentItem()->text(1));
-  return true;
+  auto const& key = *static_cast<QKeyEvent*>(event);
+  bool const isOverride = event->type() == QEvent::ShortcutOverride, copies = key.matches(QKeySequence::Copy);
+  if (isOverride && isForRows(key)) event->accept();
+  if (!isOverride && copies && tree_->currentItem()) QApplication::clipboard()->setText(tree_->currentItem()->text(1));
+  return isOverride || copies || QDockWidget::eventFilter(watched, event);
 }

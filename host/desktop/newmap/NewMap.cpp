@@ -80,7 +80,7 @@ private:
 
   bool fail(QString const& problem);
   void explain(QString const& what, QString const& why) { result_.explanation << what + QStringLiteral(": ") + why; }
-  bool surveyFile(QString const& file, QString const& layer);
+  bool surveyFile(QString const& file, QString const& layer, bool isOfFolder);
   QString title() const;
   bool isGlobe() const { return system_.isGlobe; }
   bool hasSea() const;
@@ -135,7 +135,7 @@ bool NewMap::survey() {
     QFileInfo const named(data.file);
     QString const path = named.absoluteFilePath();
     for (QString const& file : named.isDir() ? SysCarto::dataFilesIn(path) : QVector<QString>{path})
-      if (!surveyFile(file, data.layer)) return false;
+      if (!surveyFile(file, data.layer, named.isDir())) return false;
   }
   if (surveys_.empty())
     return fail(request_.where.isEmpty()
@@ -145,12 +145,16 @@ bool NewMap::survey() {
   return true;
 }
 
-// A filter on all the data suits the layers that have its fields.
-bool NewMap::surveyFile(QString const& file, QString const& layer) {
+// A filter on all the data suits the layers that have its fields. What can't be read in a folder is left out, and told.
+bool NewMap::surveyFile(QString const& file, QString const& layer, bool isOfFolder) {
   auto const known = SysCarto::watched([file] { return SysCarto::describeFile(file); }, progress_);
   if (!known) return false;
   SysCarto::DataFile const& described = *known;
-  if (!described.error.isEmpty()) return fail(described.error);
+  if (!described.error.isEmpty()) {
+    if (!isOfFolder) return fail(described.error);
+    result_.warnings << described.error;
+    return true;
+  }
   QStringList names;
   bool isKnown = layer.isEmpty();
   for (SysCarto::LayerDescription const& one : described.layers) {
@@ -161,7 +165,7 @@ bool NewMap::surveyFile(QString const& file, QString const& layer) {
     SysCarto::SourceSettings const source{file, one.name, request_.where, QString()};
     auto const survey = surveyLayer(source, one, progress_, problem);
     if (result_.wasStopped) return false;
-    if (!survey && request_.where.isEmpty()) return fail(problem);
+    if (!survey && request_.where.isEmpty() && !isOfFolder) return fail(problem);
     if (!survey) {
       result_.warnings << tr("The layer “%1” is left out. %2").arg(one.name, problem);
       continue;

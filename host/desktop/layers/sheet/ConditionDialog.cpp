@@ -37,7 +37,7 @@ constexpr int linesOfText = 5, buttonsInARow = 8, shownResults = 4, charactersOf
 // With the blanks about them that are wanted, and a mark where the cursor is to be.
 constexpr char const* operators[] = {
     " = ",   " <> ", " < ",   " <= ", " > ", " >= ", " LIKE '%#%'", " IN (#)", " IS NULL",
-    " AND ", " OR ", " NOT ", "(#)",  " + ", " - ",  " * ",         " / ",     " || "};
+    " AND ", " OR ", " NOT ", "(#)",  " + ", " - ",  " * ",         " / ",     "CONCAT(#)"};
 constexpr QLatin1Char cursorMark('#');
 
 // Words of the language, which a field may be called, too.
@@ -93,7 +93,7 @@ ConditionDialog::ConditionDialog(SourceSettings source, Kind kind, QString const
 
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   new ReturnKeeper(*this);
-  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::accepted, this, &ConditionDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* const testRow = new QHBoxLayout;
   testRow->addWidget(testResults);
@@ -154,7 +154,9 @@ QWidget* ConditionDialog::build() {
           [this](QTreeWidgetItem* item) { insert(quotedField(item->text(0))); });
   connect(values_, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
     int const field = names_->indexOfTopLevelItem(names_->currentItem());
-    if (field >= 0) insert(quotedValue(item->text(), fields_[static_cast<size_t>(field)].kind));
+    if (field < 0) return;
+    QString const value = quotedValue(item->text(), fields_[static_cast<size_t>(field)].kind);
+    insert(followsAnother() ? QLatin1String(", ") + value : value);
   });
   return content;
 }
@@ -213,9 +215,13 @@ void ConditionDialog::readValues() {
   slices_.stop();
   scan_.reset();
   QStringList sorted = known.values();
-  QCollator order;
-  order.setNumericMode(true);
-  std::sort(sorted.begin(), sorted.end(), order);
+  std::sort(sorted.begin(), sorted.end(), QCollator());
+  // Numbers stay before texts, in their own order.
+  std::stable_sort(sorted.begin(), sorted.end(), [](QString const& a, QString const& b) {
+    bool aIsNumber, bIsNumber;
+    double const first = a.toDouble(&aIsNumber), second = b.toDouble(&bIsNumber);
+    return aIsNumber && bIsNumber ? first < second : aIsNumber && !bIsNumber;
+  });
   int const chosen = values_->currentItem() ? sorted.indexOf(values_->currentItem()->text()) : -1;
   values_->clear();
   values_->addItems(sorted);
@@ -232,6 +238,24 @@ QString ConditionDialog::quotedValue(QString const& value, FieldDescription::Kin
   bool const isNumber = kind == FieldDescription::Kind::Integer || kind == FieldDescription::Kind::Real;
   if (isNumber) return value;
   return QLatin1Char('\'') + QString(value).replace(QLatin1Char('\''), QLatin1String("''")) + QLatin1Char('\'');
+}
+
+// Whether a value of a list in brackets stands before the cursor.
+bool ConditionDialog::followsAnother() const {
+  static QRegularExpression const openList(
+      QStringLiteral("\\(\\s*('[^']*'|-?[0-9.]+)(\\s*,\\s*('[^']*'|-?[0-9.]+))*\\s*$"));
+  return openList.match(text_->toPlainText().left(text_->textCursor().selectionStart())).hasMatch();
+}
+
+// What is not understood would leave the layer without features.
+void ConditionDialog::accept() {
+  QString problem;
+  bool const isCondition = kind_ == Kind::Condition;
+  if (!text().isEmpty() && !fields_.empty() && isCondition) SysCarto::ClassCounts::open(source_, text(), problem);
+  if (!text().isEmpty() && !fields_.empty() && !isCondition) SysCarto::sampleResults(source_, text(), 1, problem);
+  if (problem.isEmpty()) return QDialog::accept();
+  test_->say(problem, true);
+  text_->setFocus();
 }
 
 // Blanks that there are already are not doubled.

@@ -41,7 +41,11 @@ public:
   static QString quotedField(QString const& name);
   static QString quotedValue(QString const& value, SysCarto::FieldDescription::Kind kind);
 
+  /// Keeps open, and says why, where what is written is not understood.
+  void accept() override;
+
 private:
+  bool followsAnother() const;
   QWidget* build();
   QWidget* buildOperators();
   void fillFields();
