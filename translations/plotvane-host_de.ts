@@ -1871,7 +1871,11 @@
     </message>
     <message>
         <source>The map was made, but not of all data.</source>
-        <translation>Die Karte wurde gemacht, aber nicht aus allen Daten.</translation>
+        <translation type="vanished">Die Karte wurde gemacht, aber nicht aus allen Daten.</translation>
+    </message>
+    <message>
+        <source>The map was made. Some of its data need a look.</source>
+        <translation>Die Karte wurde gemacht. Manche ihrer Daten brauchen einen Blick.</translation>
     </message>
 </context>
 <context>

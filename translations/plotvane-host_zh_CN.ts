@@ -1871,7 +1871,11 @@
     </message>
     <message>
         <source>The map was made, but not of all data.</source>
-        <translation>地图已制作，但未包含所有数据。</translation>
+        <translation type="vanished">地图已制作，但未包含所有数据。</translation>
+    </message>
+    <message>
+        <source>The map was made. Some of its data need a look.</source>
+        <translation>地图已生成。其中部分数据需要查看。</translation>
     </message>
 </context>
 <context>
