@@ -6586,6 +6586,10 @@
         <source>Reading…</source>
         <translation>Wird gelesen…</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen …</translation>
+    </message>
 </context>
 <context>
     <name>NewSubcommand</name>

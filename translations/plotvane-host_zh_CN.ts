@@ -6586,6 +6586,10 @@
         <source>Reading…</source>
         <translation>正在读取…</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>正在读取 %1…</translation>
+    </message>
 </context>
 <context>
     <name>NewSubcommand</name>

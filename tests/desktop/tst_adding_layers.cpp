@@ -1,19 +1,26 @@
 #include "Files.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/layers/WatchedReading.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/layers/AddLayersDialog.h"
 #include "host/desktop/layers/LayerAdding.h"
 #include "host/desktop/layers/NewLayers.h"
+#include "host/desktop/newmap/NewMapDialog.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/PageLayout.h>
 
+#include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDragEnterEvent>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTreeWidget>
+
+#include <future>
 
 using namespace SysCarto;
 
@@ -112,6 +119,40 @@ private slots:
     QVERIFY(questions > 0);
     QCOMPARE(saved(), before_);
     QVERIFY(!session_.isModified());
+  }
+
+  // As files of a server that does not answer.
+  void whatIsGivenUpKeepsNothingElseWaiting() {
+    std::promise<void> answer;
+    std::shared_future<void> const answered = answer.get_future().share();
+    int questions = 0;
+    auto const never = [answered] {
+      answered.wait();
+      return true;
+    };
+    for (int i = 0; i < 4; ++i) QVERIFY(!watched(never, [&](qint64, qint64) { return ++questions % 2 != 0; }));
+    QCOMPARE(questions, 8);  // once before it begins, and once meanwhile
+    AddLayersDialog dialog({world()}, nullptr);
+    QCOMPARE(watched([] { return 7; }, [&](qint64, qint64) { return ++questions < 100; }).value_or(0), 7);
+    QTRY_COMPARE(dialog.chosen().size(), size_t(3));
+    QVERIFY(isReading());
+    answer.set_value();
+    QTRY_VERIFY(!isReading());
+  }
+
+  void aNewMapWaitsForAllItsFiles() {
+    NewMapDialog dialog({world()}, nullptr);
+    auto const* const make = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+    QTRY_VERIFY(make->isEnabled());
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path("points.csv")), QUrl::fromLocalFile(path("broken.gpkg"))});
+    QDragEnterEvent enter(QPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&dialog, &enter);
+    QDropEvent drop(QPointF(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&dialog, &drop);
+    QVERIFY(!make->isEnabled());
+    QTRY_VERIFY(make->isEnabled());
+    QCOMPARE(dialog.request().data.size(), 4);
   }
 
   void filesAndFoldersOfDataCanBeDropped() {

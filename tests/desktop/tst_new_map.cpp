@@ -300,6 +300,28 @@ private slots:
     QVERIFY(made.explanation.join('|').contains(": Office"));
   }
 
+  // The areas of the same layer are far larger than its points.
+  void pointsAreSizedByTheirOwnNumbers() {
+    std::vector<QByteArray> texts;
+    for (int i = 0; i < 40; ++i)
+      texts.push_back(QStringLiteral("POINT(%1 %2)").arg(8 + i % 8).arg(47 + i / 8).toUtf8());
+    std::vector<MadeFeature> features;
+    for (QByteArray const& text : texts) features.push_back({text.constData(), text, features.size() + 1.0});
+    for (int i = 0; i < 40; ++i) features.push_back({"POLYGON((8 47,16 47,16 52,8 47))", "area", 1e6 + 1000 * i});
+    SysCarto::MapDocument document;
+    NewMapRequest request;
+    request.data = {{makeData(path("mixed.gpkg"), features), QString()}};
+    QCOMPARE(makeNewMap(request, document).problem, QString());
+    for (auto const& layer : document.GetMap(0)->GetLayers()) {
+      if (!layer->GetName().contains("points")) continue;
+      auto const& classes = SysUtility::ptr_cast<SysCarto::VectorLayer>(layer)->renderer().classes();
+      QCOMPARE(classes.size(), size_t(4));
+      QVERIFY(classes.back().minimum > 1 && classes.back().minimum <= 40);
+      return;
+    }
+    QFAIL("no points");
+  }
+
   void readingCanBeStopped() {
     std::vector<MadeFeature> const many(60000, {"POINT(8 47)", "a", 1});
     QString const file = makeData(path("many.gpkg"), many);

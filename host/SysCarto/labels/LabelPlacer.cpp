@@ -215,7 +215,9 @@ Box LabelPlacer::boxFor(Box const& mark, double width, double height) const {
 
 LabelPlacer::Outcome LabelPlacer::placeBesidePoint(int feature, LabelText& text, QPointF const& point) {
   Box const mark = shapes_.at(feature, point);
-  if (!index_.isFree(LabelShape::upright(mark.grown(-hiddenPart * (mark.xmax - mark.xmin))))) return Outcome::NoRoom;
+  double const hiddenX = hiddenPart * (mark.xmax - mark.xmin), hiddenY = hiddenPart * (mark.ymax - mark.ymin);
+  Box const core{mark.xmin + hiddenX, mark.ymin + hiddenY, mark.xmax - hiddenX, mark.ymax - hiddenY};
+  if (!index_.isFree(LabelShape::upright(core))) return Outcome::NoRoom;
   if (settings_.wrapPt > 0) text.text = SysDisplay::wrapped(text.text, *text.symbol, settings_.wrapPt);
   // Most places of a crowded map have no room for their name. That shows at the least size that it may have, too, and
   // laying out a text takes far longer.

@@ -4,13 +4,40 @@
 #include "host/SysCarto/layers/DerivedLayer.h"
 #include "host/SysCarto/layers/SourceSettings.h"
 
+#include <QCoreApplication>
+#include <QThreadPool>
+
+#include <limits>
+#include <utility>
+
 namespace SysCarto {
 
 namespace {
 
 constexpr int betweenQuestionsMs = 50;  // whether the reading goes on
+constexpr int patienceAtEndMs = 500;
+
+QThreadPool& readingThreads();
+
+void waitAtEnd() { readingThreads().waitForDone(patienceAtEndMs); }
+
+// Never taken down, since that would wait for its threads. There is one for each work at a time: what was given up may
+// last for ever.
+QThreadPool& readingThreads() {
+  static QThreadPool* const pool = [] {
+    auto* const made = new QThreadPool;
+    made->setMaxThreadCount(std::numeric_limits<int>::max());
+    qAddPostRoutine(waitAtEnd);
+    return made;
+  }();
+  return *pool;
+}
 
 }  // namespace
+
+void startReading(std::function<void()> work) { readingThreads().start(std::move(work)); }
+
+bool isReading() { return readingThreads().activeThreadCount() > 0; }
 
 std::unique_ptr<DataSource> openWatched(SourceSettings const& source, ReadProgress const& progress, QString& error) {
   struct Opened {

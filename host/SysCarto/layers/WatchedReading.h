@@ -4,7 +4,6 @@
 
 #include <QElapsedTimer>
 #include <QString>
-#include <QThreadPool>
 
 #include <chrono>
 #include <functional>
@@ -23,15 +22,23 @@ struct SourceSettings;
 /// reading goes on.
 using ReadProgress = std::function<bool(qint64 read, qint64 count)>;
 
-/// What `work` answers, which is done on another thread while `progress` is asked; nothing where that wants no more,
-/// and then the work is finished there for nobody. Without a progress it is done here.
+/// Does work that may be given up, on a thread that no other such work waits for, however long it takes.
+SYSCARTO_EXPORT void startReading(std::function<void()> work);
+
+/// Whether such work is under way. The end of the application waits for it only for a moment; where it lasts longer,
+/// the process has to end without taking down what the work uses.
+SYSCARTO_EXPORT bool isReading();
+
+/// What `work` answers, which is done on another thread while `progress` is asked, before and meanwhile; nothing where
+/// that wants no more, and then the work is finished there for nobody. Without a progress it is done here.
 template <class Work>
 auto watched(Work work, ReadProgress const& progress) -> std::optional<decltype(work())> {
   constexpr std::chrono::milliseconds betweenQuestions(50);
   if (!progress) return work();
+  if (!progress(0, -1)) return std::nullopt;
   auto const promise = std::make_shared<std::promise<decltype(work())>>();
   auto done = promise->get_future();
-  QThreadPool::globalInstance()->start([promise, work] { promise->set_value(work()); });
+  startReading([promise, work] { promise->set_value(work()); });
   while (done.wait_for(betweenQuestions) != std::future_status::ready)
     if (!progress(0, -1)) return std::nullopt;
   return done.get();

@@ -1,7 +1,8 @@
 #include "FileDescriptions.h"
 
+#include "host/SysCarto/layers/WatchedReading.h"
+
 #include <QElapsedTimer>
-#include <QThreadPool>
 
 #include <deque>
 #include <functional>
@@ -72,7 +73,7 @@ struct FileDescriptions::Mailbox {
     std::lock_guard<std::mutex> const lock(box->mutex);
     box->tasks.push_back(std::move(task));
     if (std::exchange(box->isWorking, true)) return;
-    QThreadPool::globalInstance()->start([box] { work(box); });
+    SysCarto::startReading([box] { work(box); });
   }
 };
 

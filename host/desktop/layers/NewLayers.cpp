@@ -49,20 +49,33 @@ struct Styled {
   int outliers;
 };
 
-// Between members of a group it belongs to the group, and above a chosen layer to all groups of that.
-void put(SysCarto::LayerList& list, Styled const& styled, _ptr_t<Layer> const& below) {
-  int at = list.layers.indexOf(below) + 1;
-  LayerGroups groups;
-  if (at > 0) {
-    groups = list.groups[at - 1];
-  } else {
-    QString const system = list.map->GetCoordinateSystem();
-    for (int i = 0; i < list.layers.size(); ++i)
-      if (!styled.order.isBelow(DrawingOrder::of(*list.layers[i], system))) at = i + 1;
-    if (at > 0 && at < list.layers.size()) groups = commonGroups(list.groups[at - 1], list.groups[at]);
-  }
-  list.layers.insert(at, styled.layer);
+void insert(SysCarto::LayerList& list, int at, _ptr_t<Layer> const& layer, LayerGroups const& groups) {
+  list.layers.insert(at, layer);
   list.groups.insert(at, groups);
+}
+
+// Each above the one before it, the first above a chosen layer, and all in the groups of that.
+void putAbove(SysCarto::LayerList& list, std::vector<Styled> const& layers, _ptr_t<Layer> const& chosen) {
+  int at = list.layers.indexOf(chosen);
+  for (Styled const& styled : layers) {
+    insert(list, at + 1, styled.layer, LayerGroups(list.groups[at]));
+    ++at;
+  }
+}
+
+// Between members of a group a layer belongs to the group.
+void putInOrder(SysCarto::LayerList& list, std::vector<Styled> const& layers) {
+  QString const system = list.map->GetCoordinateSystem();
+  std::vector<DrawingOrder> orders;  // of all that are in the list, each found out once
+  for (auto const& layer : list.layers) orders.push_back(DrawingOrder::of(*layer, system));
+  for (Styled const& styled : layers) {
+    int at = 0;
+    for (int i = 0; i < list.layers.size(); ++i)
+      if (!styled.order.isBelow(orders[i])) at = i + 1;
+    bool const isBetween = at > 0 && at < list.layers.size();
+    insert(list, at, styled.layer, isBetween ? commonGroups(list.groups[at - 1], list.groups[at]) : LayerGroups());
+    orders.insert(orders.begin() + at, DrawingOrder::of(*styled.layer, system));
+  }
 }
 
 SysGeometry::Envelope shown(SysGeometry::Box const& box, QString const& system) {
@@ -201,12 +214,11 @@ QString NewLayers::add(SysCarto::MapDocument const& document, std::vector<NewLay
 
   SysCarto::LayerList list = SysCarto::layersOf(*map);
   SysGeometry::Box extent;
-  _ptr_t<Layer> lower = below;
-  for (Styled const& styled : layers) {
-    put(list, styled, lower);
-    if (below) lower = styled.layer;
-    extent.add(boxOf(styled));
-  }
+  for (Styled const& styled : layers) extent.add(boxOf(styled));
+  if (list.layers.contains(below))
+    putAbove(list, layers, below);
+  else
+    putInOrder(list, layers);
   QString const step = layers.size() == 1 ? tr("Add the layer “%1”").arg(layers.front().layer->GetName())
                                           : tr("Add %1 layers").arg(layers.size());
   SysCarto::OneStep const whole(step);

@@ -108,12 +108,14 @@ void NewMapDialog::addFile(QString const& file) {
   auto* const row = new QTreeWidgetItem(data_, {QFileInfo(path).fileName(), tr("Reading…")});
   row->setData(NameColumn, pathRole, path);
   row->setToolTip(NameColumn, path);
+  waiting_ << path;
   files_.describe({path});
   showState();
 }
 
 // A file that can't be read keeps its row, which says why.
 void NewMapDialog::showFile(SysCarto::DataFile const& file) {
+  waiting_.removeAll(file.path);
   QSignalBlocker quiet(data_);
   for (int i = 0; i < data_->topLevelItemCount(); ++i) {
     auto* const row = data_->topLevelItem(i);
@@ -167,7 +169,9 @@ void NewMapDialog::showState() {
   NewMapRequest const wanted = request();
   QString const wrong = SysCarto::checkCoordinateSystem(wanted.coordinateSystem);
   QString problem;
-  if (wanted.data.isEmpty())
+  if (!waiting_.isEmpty())
+    problem = tr("Reading %1…").arg(QFileInfo(waiting_.first()).fileName());
+  else if (wanted.data.isEmpty())
     problem = tr("Add files of data, or drop them here, and check what the map is to show.");
   else if (!wrong.isEmpty())
     problem = tr("The coordinate system can't be taken: %1.").arg(wrong);

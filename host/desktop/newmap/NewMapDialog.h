@@ -5,6 +5,7 @@
 #include "host/desktop/layers/FileDescriptions.h"
 
 #include <QDialog>
+#include <QStringList>
 
 class QComboBox;
 class QDialogButtonBox;
@@ -33,7 +34,8 @@ private:
   void dropEvent(QDropEvent* event) override;
 
   FileDescriptions files_;
-  QTreeWidget* data_;  // files, and below each its layers once they are known
+  QStringList waiting_;  // paths of files that are not described yet
+  QTreeWidget* data_;    // files, and below each its layers once they are known
   QLineEdit *title_, *system_, *where_, *template_;
   QComboBox *paper_, *orientation_;
   QLabel* problem_;

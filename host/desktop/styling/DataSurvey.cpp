@@ -175,10 +175,13 @@ struct LayerSurvey::Kept {
   void add(OGRFeature const& feature, std::vector<int> const& fields) {
     constexpr size_t mostAreas = 20000, mostBytes = size_t{64} << 20;
     OGRGeometry const& geometry = *feature.GetGeometryRef();
+    isWhole = isWhole && geometry.getDimension() == 2 && areas.size() < mostAreas;
+    QStringList const texts = isWhole ? textsOf(feature, fields) : QStringList();
     bytes += isWhole ? geometry.WkbSize() : 0;
-    isWhole = isWhole && geometry.getDimension() == 2 && areas.size() < mostAreas && bytes < mostBytes;
+    for (QString const& text : texts) bytes += text.size() * sizeof(QChar);
+    isWhole = isWhole && bytes < mostBytes;
     if (isWhole)
-      areas.push_back({std::unique_ptr<OGRGeometry>(geometry.clone()), textsOf(feature, fields)});
+      areas.push_back({std::unique_ptr<OGRGeometry>(geometry.clone()), texts});
     else
       areas.clear();
   }

@@ -153,7 +153,9 @@ std::optional<Symbolized> classified(Material const& of, SysCarto::ClassifySetti
   SysCarto::RendererSettings now;
   SysUtility::JsonReader reader(simple(symbol));
   now.list(reader);
-  FieldSurvey const* const field = of.survey.field(wanted.field);
+  // Of a layer that mixes kinds, the survey counts those of all of them.
+  bool const isSurveyed = of.source.filter == of.survey.source.filter;
+  FieldSurvey const* const field = isSurveyed ? of.survey.field(wanted.field) : nullptr;
   auto const known = field ? field->numbersOf(of.survey.count) : std::nullopt;
   auto classes = classify(known ? *known : SysCarto::readValues(of.source, wanted.field), now, wanted);
   if (!reader.ok() || !classes.problem.isEmpty() || classes.renderer.classes.size() < 2) return std::nullopt;
