@@ -60,7 +60,7 @@ private:
   QString checkFormat() const;
   QString openDocument();
   QString imageSize(QSize& size) const;
-  QString draw(ImageTarget const& target, Interrupt const& interrupt);
+  QString draw(ImageTarget const& target, QSize const& size, Interrupt const& interrupt);
   QString drawShapes(ImageTarget const& target, Interrupt const& interrupt);
   bool drawWithProgress(ExportCommand& command, Interrupt const& interrupt, QString const& path) const;
 
@@ -127,7 +127,8 @@ QString ExportSubcommand::run() {
   if (problem.isEmpty()) problem = imageSize(size);
   if (problem.isEmpty()) problem = target.checkSize(size);
   if (problem.isEmpty()) problem = target.prepare();
-  if (problem.isEmpty()) problem = request_.format->isVector ? drawShapes(target, interrupt) : draw(target, interrupt);
+  if (problem.isEmpty())
+    problem = request_.format->isVector ? drawShapes(target, interrupt) : draw(target, size, interrupt);
   if (problem.isEmpty()) problem = target.checkResult(size);
   if (problem.isEmpty()) problem = target.commit();
   return problem;
@@ -167,9 +168,7 @@ QString ExportSubcommand::drawShapes(ImageTarget const& target, Interrupt const&
   return problem.isEmpty() ? QString() : tr("%1 was not written: %2.").arg(request_.image, problem);
 }
 
-QString ExportSubcommand::draw(ImageTarget const& target, Interrupt const& interrupt) {
-  QSize size;
-  imageSize(size);
+QString ExportSubcommand::draw(ImageTarget const& target, QSize const& size, Interrupt const& interrupt) {
   reserveBlockCache(size.width());
   auto const desktop = SysUtility::make<OffscreenDesktop>(document_);
   auto const command = SysUtility::make<ExportCommand>();

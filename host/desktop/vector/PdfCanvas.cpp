@@ -29,12 +29,6 @@ QByteArray colorOf(QColor const& color, char const* verb) {
   return pdfNumber(color.redF()) + ' ' + pdfNumber(color.greenF()) + ' ' + pdfNumber(color.blueF()) + verb;
 }
 
-QByteArray wide(QString const& text) {
-  QByteArray digits = "<feff";
-  for (QChar const unit : text) digits += QByteArray::number(unit.unicode() | 0x10000, 16).mid(1);
-  return digits + '>';
-}
-
 QColor opaque(QColor color) {
   color.setAlpha(255);
   return color;
@@ -131,7 +125,8 @@ void PdfCanvas::text(TextFormat const& format, ShapedLine const& line, QTransfor
     SysDisplay::Glyph const& glyph = *line.glyphs[i].glyph;
     isPlain = PdfFonts::use(fonts_.font(glyph.font()), glyph.index(), letters[i]) && isPlain;
   }
-  if (!isPlain) out().operators += "/Span<</ActualText" + wide(line.text) + ">>BDC\n";
+  if (!isPlain)
+    out().operators += "/Span<</ActualText" + QByteArray::fromStdString(pdfText(line.text).unparse()) + ">>BDC\n";
   for (size_t first = 0, last; first < line.glyphs.size(); first = last) {
     auto& font = fonts_.font(line.glyphs[first].glyph->font());
     for (last = first + 1; last < line.glyphs.size(); ++last)
@@ -139,14 +134,7 @@ void PdfCanvas::text(TextFormat const& format, ShapedLine const& line, QTransfor
     if (font.isEmbeddable)
       glyphs(font, line, first, last, toPage);
     else
-      for (size_t i = first; i < last; ++i) {
-        out().operators += "q ";
-        QPointF const place = line.glyphs[i].place;
-        matrix(QTransform::fromScale(1.0 * unitsPerPx / outlineUnits, 1.0 * unitsPerPx / outlineUnits) *
-                   QTransform::fromTranslate(place.x(), place.y()) * toPage,
-               " cm ");
-        out().operators += outline(line, i, true) + " Do Q\n";
-      }
+      for (size_t i = first; i < last; ++i) placeOutline(line.glyphs[i], true, toPage);
   }
   if (!isPlain) out().operators += "EMC\n";
 }
@@ -178,9 +166,18 @@ void PdfCanvas::glyphs(PdfFonts::Font& font, ShapedLine const& line, size_t firs
   ops += "ET\n";
 }
 
+void PdfCanvas::placeOutline(SysDisplay::PlacedGlyph const& placed, bool isFilled, QTransform const& toPage) {
+  if (placed.glyph->outline().isEmpty()) return;
+  constexpr double scale = 1.0 * unitsPerPx / outlineUnits;
+  out().operators += "q ";
+  matrix(QTransform::fromScale(scale, scale) * QTransform::fromTranslate(placed.place.x(), placed.place.y()) * toPage,
+         " cm ");
+  out().operators += outline(*placed.glyph, isFilled) + " Do Q\n";
+}
+
 // A letter as a form, filled, or stroked by the line that its halo is.
-QByteArray PdfCanvas::outline(ShapedLine const& line, size_t glyph, bool isFilled) {
-  QPainterPath const path = QTransform::fromScale(outlineUnits, outlineUnits).map(line.glyphs[glyph].glyph->outline());
+QByteArray PdfCanvas::outline(SysDisplay::Glyph const& glyph, bool isFilled) {
+  QPainterPath const path = QTransform::fromScale(outlineUnits, outlineUnits).map(glyph.outline());
   QByteArray content;
   auto const add = [&](int i, char const* verb) {
     auto const element = path.elementAt(i);
@@ -207,15 +204,7 @@ void PdfCanvas::halo(TextFormat const& format, ShapedLine const& line, QTransfor
   // Twice the reach, in the units of outlines; the forms are drawn in these.
   double const width = 2 * format.haloSize / format.size * outlineUnits;
   setStroke(opaque(format.haloColor), {{}, width / unitsPerPx, LineCapStyle::Round, LineJoinStyle::Round, 0});
-  for (size_t i = 0; i < line.glyphs.size(); ++i) {
-    if (line.glyphs[i].glyph->outline().isEmpty()) continue;
-    QPointF const place = line.glyphs[i].place;
-    out().operators += "q ";
-    matrix(QTransform::fromScale(1.0 * unitsPerPx / outlineUnits, 1.0 * unitsPerPx / outlineUnits) *
-               QTransform::fromTranslate(place.x(), place.y()) * toPage,
-           " cm ");
-    out().operators += outline(line, i, false) + " Do Q\n";
-  }
+  for (SysDisplay::PlacedGlyph const& placed : line.glyphs) placeOutline(placed, false, toPage);
   if (!isOpaque) endSheet();
 }
 

@@ -3,6 +3,11 @@
 #include "PdfFonts.h"
 #include "PdfObjects.h"
 
+namespace SysDisplay {
+class Glyph;
+struct PlacedGlyph;
+}  // namespace SysDisplay
+
 /// Writes what is drawn as the content of a PDF page.
 class PdfCanvas final : public SysDisplay::VectorCanvas {
 public:
@@ -74,7 +79,8 @@ private:
   void matrix(QTransform const& transformation, char const* verb);
   void glyphs(PdfFonts::Font& font, SysDisplay::ShapedLine const& line, size_t first, size_t last,
               QTransform const& toPage);
-  QByteArray outline(SysDisplay::ShapedLine const& line, size_t glyph, bool isFilled);
+  void placeOutline(SysDisplay::PlacedGlyph const& placed, bool isFilled, QTransform const& toPage);
+  QByteArray outline(SysDisplay::Glyph const& glyph, bool isFilled);
 
   PdfObjects& objects_;
   PdfFonts& fonts_;
