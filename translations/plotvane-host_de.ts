@@ -2263,7 +2263,7 @@
     </message>
     <message>
         <source>%1: this GDAL can&apos;t write %2; choose another format, or install a GDAL that can.</source>
-        <translation>%1: Dieses GDAL kann %2 nicht schreiben; wählen Sie ein anderes Format, oder installieren Sie ein GDAL, das es kann.</translation>
+        <translation type="vanished">%1: Dieses GDAL kann %2 nicht schreiben; wählen Sie ein anderes Format, oder installieren Sie ein GDAL, das es kann.</translation>
     </message>
     <message>
         <source>%1: data sources could not be read, so the page would not be whole; mend them, or pass --allow-missing.</source>
@@ -2275,7 +2275,7 @@
     </message>
     <message>
         <source>%1 was not written: interrupted.</source>
-        <translation>%1 wurde nicht geschrieben: unterbrochen.</translation>
+        <translation type="vanished">%1 wurde nicht geschrieben: unterbrochen.</translation>
     </message>
     <message>
         <source>The file to write; its suffix names the format: %1. Without one it is a TIFF.</source>
@@ -2299,11 +2299,11 @@
     </message>
     <message>
         <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
-        <translation>%1: Das Dokument hat keine Seite, die gezeichnet werden könnte; geben Sie ihm eine, etwa &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</translation>
+        <translation type="vanished">%1: Das Dokument hat keine Seite, die gezeichnet werden könnte; geben Sie ihm eine, etwa &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</translation>
     </message>
     <message>
         <source>%1 was not written: %2.</source>
-        <translation>%1 wurde nicht geschrieben: %2.</translation>
+        <translation type="vanished">%1 wurde nicht geschrieben: %2.</translation>
     </message>
     <message>
         <source>export: a PDF takes a --dpi of at most %1; its shapes are as fine at any.</source>
@@ -6700,7 +6700,7 @@
     </message>
     <message>
         <source>%1 was not written: interrupted.</source>
-        <translation>%1 wurde nicht geschrieben: unterbrochen.</translation>
+        <translation>%1 wurde nicht geschrieben: abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -6794,6 +6794,25 @@
     <message>
         <source>Map data: [credits]</source>
         <translation>Kartendaten: [credits]</translation>
+    </message>
+</context>
+<context>
+    <name>PageExport</name>
+    <message>
+        <source>%1: this GDAL can&apos;t write %2; choose another format, or install a GDAL that can.</source>
+        <translation>%1: Diese GDAL-Version kann kein %2 schreiben; wählen Sie ein anderes Format, oder installieren Sie eine GDAL-Version, die es kann.</translation>
+    </message>
+    <message>
+        <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
+        <translation>%1: Das Dokument hat keine Seite, die gezeichnet werden könnte; geben Sie ihm eine, etwa &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: interrupted.</source>
+        <translation>%1 wurde nicht geschrieben: abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2.</source>
+        <translation>%1 wurde nicht geschrieben: %2.</translation>
     </message>
 </context>
 <context>

@@ -2263,7 +2263,7 @@
     </message>
     <message>
         <source>%1: this GDAL can&apos;t write %2; choose another format, or install a GDAL that can.</source>
-        <translation>%1：此 GDAL 无法写入 %2；请选择其他格式，或安装支持该格式的 GDAL。</translation>
+        <translation type="vanished">%1：此 GDAL 无法写入 %2；请选择其他格式，或安装支持该格式的 GDAL。</translation>
     </message>
     <message>
         <source>%1: data sources could not be read, so the page would not be whole; mend them, or pass --allow-missing.</source>
@@ -2275,7 +2275,7 @@
     </message>
     <message>
         <source>%1 was not written: interrupted.</source>
-        <translation>%1 未写入：已中断。</translation>
+        <translation type="vanished">%1 未写入：已中断。</translation>
     </message>
     <message>
         <source>The file to write; its suffix names the format: %1. Without one it is a TIFF.</source>
@@ -2299,11 +2299,11 @@
     </message>
     <message>
         <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
-        <translation>%1：文档没有可绘制的页面；请给它一个，例如 &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}。</translation>
+        <translation type="vanished">%1：文档没有可绘制的页面；请给它一个，例如 &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}。</translation>
     </message>
     <message>
         <source>%1 was not written: %2.</source>
-        <translation>未写入 %1：%2。</translation>
+        <translation type="vanished">未写入 %1：%2。</translation>
     </message>
     <message>
         <source>export: a PDF takes a --dpi of at most %1; its shapes are as fine at any.</source>
@@ -6700,7 +6700,7 @@
     </message>
     <message>
         <source>%1 was not written: interrupted.</source>
-        <translation>%1 未写入：已中断。</translation>
+        <translation>%1 未写出：已中断。</translation>
     </message>
 </context>
 <context>
@@ -6794,6 +6794,25 @@
     <message>
         <source>Map data: [credits]</source>
         <translation>地图数据：[credits]</translation>
+    </message>
+</context>
+<context>
+    <name>PageExport</name>
+    <message>
+        <source>%1: this GDAL can&apos;t write %2; choose another format, or install a GDAL that can.</source>
+        <translation>%1：此 GDAL 无法写出 %2；请选择其他格式，或安装支持该格式的 GDAL。</translation>
+    </message>
+    <message>
+        <source>%1: the document has no page to draw; give it one, such as &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}.</source>
+        <translation>%1：文档没有可绘制的页面；请为其添加页面，例如 &quot;page&quot;: {&quot;form&quot;: &quot;A4&quot;}。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: interrupted.</source>
+        <translation>%1 未写出：已中断。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: %2.</source>
+        <translation>未写入 %1：%2。</translation>
     </message>
 </context>
 <context>

@@ -1,9 +1,10 @@
 #include "OutputWatch.h"
 
 #include "Console.h"
-#include "ImageFormat.h"
-#include "ImageTarget.h"
 #include "Subcommand.h"
+
+#include "output/ImageFormat.h"
+#include "output/ImageTarget.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 

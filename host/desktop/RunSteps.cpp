@@ -3,7 +3,6 @@
 #include "Console.h"
 #include "DocumentLock.h"
 #include "DocumentReport.h"
-#include "ImageFormat.h"
 #include "NumberList.h"
 #include "drawing/NewElements.h"
 #include "drawing/TurnGesture.h"
@@ -13,6 +12,7 @@
 #include "layers/NewLayers.h"
 #include "layers/LayerSteps.h"
 #include "layers/PinnedLabels.h"
+#include "output/ImageFormat.h"
 
 #include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysUtility/JsonFile.h"

@@ -1,11 +1,11 @@
 #include "ImageTarget.h"
 
-#include "FileStamp.h"
 #include "ImageFormat.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysUtility/FileSaver.h"
+#include "host/desktop/FileStamp.h"
 
 #include <SysCarto/MapDocument.h>
 

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ImageTarget.h"
+
+#include <SysUI/TrackerCancel.h>
+
+#include <QCoreApplication>
+
+#include <functional>
+
+struct ImageFormat;
+
+/// What a person chooses for a page that becomes a file.
+struct ExportOptions {
+  static constexpr int defaultDpi = 300;
+  static constexpr int maxDpi = 100000;
+  static constexpr int maxVectorDpi = 2400;  ///< of pictures in place of what can't be shapes
+
+  int dpi = defaultDpi;  ///< pixels per inch of paper
+};
+
+/// The page of a document, as it is now, on its way to a file: pixels, which the plug-in's export draws, or shapes.
+///
+/// Every step answers a sentence for people with what is wrong and what to do, or an empty text.
+class PageExport {
+  Q_DECLARE_TR_FUNCTIONS(PageExport)
+
+public:
+  /// Told what is being done, and how far it is, in percent.
+  using Progress = std::function<void(QString const& what, int percent)>;
+
+  PageExport(QString const& path, ImageFormat const& format, ExportOptions const& options);
+
+  /// Whether the format can be written at all, and a file be put there. The document need not be open for it.
+  QString checkPlace() const;
+
+  /// Draws and moves the file into its place. What was there before stays where this fails or is cancelled, which is
+  /// told, too. The document is borrowed; only its cursor and its screen are those of a page without a window.
+  QString write(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
+                Progress const& progress = {});
+
+private:
+  QString drawPixels(SysCarto::MapDocument& document, QSize const& size,
+                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel, Progress const& progress) const;
+  QString drawShapes(SysCarto::MapDocument const& document,
+                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
+
+  QString path_;
+  ImageFormat const& format_;
+  ExportOptions options_;
+  ImageTarget target_;
+};
