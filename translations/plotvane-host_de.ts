@@ -1409,6 +1409,14 @@
         <source>a layer of features chosen in the contents</source>
         <translation>eine im Inhalt gewählte Ebene mit Objekten</translation>
     </message>
+    <message>
+        <source>Document Properties…</source>
+        <translation>Dokumenteigenschaften …</translation>
+    </message>
+    <message>
+        <source>Set what the document says about itself: title, author, keywords</source>
+        <translation>Festlegen, was das Dokument über sich sagt: Titel, Autor, Stichwörter</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -2024,6 +2032,13 @@
     </message>
 </context>
 <context>
+    <name>DocumentSettings</name>
+    <message>
+        <source>is no tag of a language; write one as in “en” or “de-CH”</source>
+        <translation>ist kein Sprachkürzel; schreiben Sie eines wie „en“ oder „de-CH“</translation>
+    </message>
+</context>
+<context>
     <name>DocumentSources</name>
     <message>
         <source>Layer “%1”: %2</source>
@@ -2051,6 +2066,10 @@
     <message>
         <source>Set %1 of %2</source>
         <translation>%1 von %2 ändern</translation>
+    </message>
+    <message>
+        <source>the document</source>
+        <translation>das Dokument</translation>
     </message>
 </context>
 <context>
@@ -4248,7 +4267,7 @@
     </message>
     <message>
         <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits] and [page] are filled in while it is drawn.</source>
-        <translation>Was er sagt. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits] und [page] werden beim Zeichnen ausgefüllt.</translation>
+        <translation type="vanished">Was er sagt. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits] und [page] werden beim Zeichnen ausgefüllt.</translation>
     </message>
     <message>
         <source>Credits</source>
@@ -4913,6 +4932,50 @@
     <message>
         <source>From the text to the edge of its box.</source>
         <translation>Vom Text zum Rand seines Kastens.</translation>
+    </message>
+    <message>
+        <source>What the document is called: [title] in a text of the page, and the title of files made of it. Without one it is the name of its file.</source>
+        <translation>Wie das Dokument heißt: [title] in einem Text der Seite und der Titel von Dateien, die daraus entstehen. Ohne Angabe ist es der Name seiner Datei.</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>Autor</translation>
+    </message>
+    <message>
+        <source>Who made it: [author] in a text of the page.</source>
+        <translation>Wer es gemacht hat: [author] in einem Text der Seite.</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>Thema</translation>
+    </message>
+    <message>
+        <source>What it is about.</source>
+        <translation>Wovon es handelt.</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Words by which it is to be found.</source>
+        <translation>Wörter, unter denen es zu finden sein soll.</translation>
+    </message>
+    <message>
+        <source>The language of its texts, as in “en”, “de-CH” or “zh-Hans”; programs that read a page aloud go by it.</source>
+        <translation>Die Sprache seiner Texte, wie „en“, „de-CH“ oder „zh-Hans“; Programme, die eine Seite vorlesen, richten sich danach.</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Angaben</translation>
+    </message>
+    <message>
+        <source>What the document says about itself, and files made of it say, too.</source>
+        <translation>Was das Dokument über sich sagt und auch Dateien sagen, die daraus entstehen.</translation>
+    </message>
+    <message>
+        <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author] and [page] are filled in while it is drawn.</source>
+        <translation>Was er sagt. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author] und [page] werden beim Zeichnen ausgefüllt.</translation>
     </message>
 </context>
 <context>
@@ -6693,6 +6756,13 @@
     </message>
 </context>
 <context>
+    <name>OutputCommands</name>
+    <message>
+        <source>Document Properties</source>
+        <translation>Dokumenteigenschaften</translation>
+    </message>
+</context>
+<context>
     <name>OutputWatch</name>
     <message>
         <source>%1 holds a TIFF: this export writes no &quot;.%2&quot;; rename it to .tif, or name an image that ends in %3.</source>
@@ -7132,7 +7202,7 @@
     </message>
     <message>
         <source>there is no &quot;%1&quot;; write page, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
-        <translation>„%1“ gibt es nicht; page, selection, der Name eines Elements oder #HANDLE, map:NAME oder layer:KARTE/LAYER gehen; plotvane info zählt sie auf.</translation>
+        <translation type="vanished">„%1“ gibt es nicht; page, selection, der Name eines Elements oder #HANDLE, map:NAME oder layer:KARTE/LAYER gehen; plotvane info zählt sie auf.</translation>
     </message>
     <message>
         <source>there is no such field; get=%1 prints all that there are.</source>
@@ -7189,6 +7259,10 @@
     <message>
         <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export</source>
         <translation>das ist der Name eines Bildes, gespeichert wird aber das Dokument; nennen Sie eine .kdx-Datei oder machen Sie mit Plotvane_Export ein Bild</translation>
+    </message>
+    <message>
+        <source>there is no &quot;%1&quot;; write document, page, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
+        <translation>es gibt kein &quot;%1&quot;; schreiben Sie document, page, selection, den Namen eines Elements oder #HANDLE, map:NAME oder layer:MAP/LAYER; plotvane info führt sie auf.</translation>
     </message>
 </context>
 <context>

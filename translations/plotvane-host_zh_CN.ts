@@ -1409,6 +1409,14 @@
         <source>a layer of features chosen in the contents</source>
         <translation>在内容列表中选择一个要素图层</translation>
     </message>
+    <message>
+        <source>Document Properties…</source>
+        <translation>文档属性…</translation>
+    </message>
+    <message>
+        <source>Set what the document says about itself: title, author, keywords</source>
+        <translation>设置文档对自身的说明：标题、作者、关键词</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -2024,6 +2032,13 @@
     </message>
 </context>
 <context>
+    <name>DocumentSettings</name>
+    <message>
+        <source>is no tag of a language; write one as in “en” or “de-CH”</source>
+        <translation>不是语言标签；请写成 “en” 或 “de-CH” 这样的形式</translation>
+    </message>
+</context>
+<context>
     <name>DocumentSources</name>
     <message>
         <source>Layer “%1”: %2</source>
@@ -2051,6 +2066,10 @@
     <message>
         <source>Set %1 of %2</source>
         <translation>设置 %2 的 %1</translation>
+    </message>
+    <message>
+        <source>the document</source>
+        <translation>文档</translation>
     </message>
 </context>
 <context>
@@ -4248,7 +4267,7 @@
     </message>
     <message>
         <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits] and [page] are filled in while it is drawn.</source>
-        <translation>文本内容。[scale]、[date:yyyy-MM-dd]、[document]、[map]、[crs]、[credits] 和 [page] 在绘制时填入。</translation>
+        <translation type="vanished">文本内容。[scale]、[date:yyyy-MM-dd]、[document]、[map]、[crs]、[credits] 和 [page] 在绘制时填入。</translation>
     </message>
     <message>
         <source>Credits</source>
@@ -4913,6 +4932,50 @@
     <message>
         <source>From the text to the edge of its box.</source>
         <translation>从文字到框边缘的距离。</translation>
+    </message>
+    <message>
+        <source>What the document is called: [title] in a text of the page, and the title of files made of it. Without one it is the name of its file.</source>
+        <translation>文档的名称：页面文本中的 [title]，以及由它生成的文件的标题。未填写时用文件名。</translation>
+    </message>
+    <message>
+        <source>Author</source>
+        <translation>作者</translation>
+    </message>
+    <message>
+        <source>Who made it: [author] in a text of the page.</source>
+        <translation>制作者：页面文本中的 [author]。</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>主题</translation>
+    </message>
+    <message>
+        <source>What it is about.</source>
+        <translation>它的内容是什么。</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>关键词</translation>
+    </message>
+    <message>
+        <source>Words by which it is to be found.</source>
+        <translation>用于查找它的词。</translation>
+    </message>
+    <message>
+        <source>The language of its texts, as in “en”, “de-CH” or “zh-Hans”; programs that read a page aloud go by it.</source>
+        <translation>其文本的语言，如 “en”、“de-CH” 或 “zh-Hans”；朗读页面的程序以此为准。</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>What the document says about itself, and files made of it say, too.</source>
+        <translation>文档对自身的说明，由它生成的文件也会带上。</translation>
+    </message>
+    <message>
+        <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author] and [page] are filled in while it is drawn.</source>
+        <translation>文本内容。[scale]、[date:yyyy-MM-dd]、[document]、[map]、[crs]、[credits]、[title]、[author] 和 [page] 在绘制时填入。</translation>
     </message>
 </context>
 <context>
@@ -6693,6 +6756,13 @@
     </message>
 </context>
 <context>
+    <name>OutputCommands</name>
+    <message>
+        <source>Document Properties</source>
+        <translation>文档属性</translation>
+    </message>
+</context>
+<context>
     <name>OutputWatch</name>
     <message>
         <source>%1 holds a TIFF: this export writes no &quot;.%2&quot;; rename it to .tif, or name an image that ends in %3.</source>
@@ -7132,7 +7202,7 @@
     </message>
     <message>
         <source>there is no &quot;%1&quot;; write page, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
-        <translation>没有“%1”；请写 page、selection、元素的名称或 #HANDLE、map:名称或 layer:地图/图层；plotvane info 会列出它们。</translation>
+        <translation type="vanished">没有“%1”；请写 page、selection、元素的名称或 #HANDLE、map:名称或 layer:地图/图层；plotvane info 会列出它们。</translation>
     </message>
     <message>
         <source>there is no such field; get=%1 prints all that there are.</source>
@@ -7189,6 +7259,10 @@
     <message>
         <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export</source>
         <translation>这是图像的名称，而保存的是文档；请指定 .kdx 文件，或用 Plotvane_Export 生成图像</translation>
+    </message>
+    <message>
+        <source>there is no &quot;%1&quot;; write document, page, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
+        <translation>没有“%1”；请写 document、page、selection、元素名称或 #HANDLE、map:NAME 或 layer:MAP/LAYER；plotvane info 会列出它们。</translation>
     </message>
 </context>
 <context>

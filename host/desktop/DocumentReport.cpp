@@ -1,9 +1,11 @@
 #include "DocumentReport.h"
 
+#include "host/SysCarto/document/DocumentSettings.h"
 #include "host/SysCarto/document/ElementFields.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysUtility/JsonFields.h"
 
 #include <SysCarto/Map.h>
 #include <SysCarto/MapDocument.h>
@@ -76,6 +78,12 @@ QJsonValue pageJson(SysCarto::Page const* page) {
                      {QStringLiteral("orientation"), QLatin1String(orientations[page->GetOrientation() == 2 ? 1 : 0])},
                      {QStringLiteral("width"), width},
                      {QStringLiteral("height"), height}};
+}
+
+QJsonObject informationJson(SysCarto::PageLayout const& layout) {
+  SysUtility::JsonWriter writer;
+  SysCarto::DocumentSettings::of(layout).information.list(writer);
+  return writer.json();
 }
 
 QJsonObject elementJson(_ptr_t<Element> const& element, bool selected) {
@@ -238,6 +246,7 @@ QJsonObject documentJson(SysCarto::MapDocument const& document, bool countsLabel
     mapList.append(mapJson(map, map == layout->GetFocusMap()));
   }
   return QJsonObject{
+      {QStringLiteral("information"), layout ? informationJson(*layout) : QJsonObject()},
       {QStringLiteral("page"), layout ? pageJson(layout->GetPage()) : QJsonValue(QJsonValue::Null)},
       {QStringLiteral("elements"), elementsJson(layout ? layout->GetGraphicsContainer() : nullptr)},
       {QStringLiteral("maps"), mapList},
@@ -247,7 +256,9 @@ QJsonObject documentJson(SysCarto::MapDocument const& document, bool countsLabel
 }
 
 QString documentText(QJsonObject const& report) {
-  QString text = ReportText::page(report[QStringLiteral("page")].toObject()) +
+  QString const title = report[QStringLiteral("information")].toObject()[QStringLiteral("title")].toString();
+  QString text = (title.isEmpty() ? title : title + QLatin1Char('\n')) +
+                 ReportText::page(report[QStringLiteral("page")].toObject()) +
                  ReportText::elements(report[QStringLiteral("elements")].toArray());
   for (QJsonValue const& map : report[QStringLiteral("maps")].toArray()) text += ReportText::map(map.toObject());
   return text.trimmed();

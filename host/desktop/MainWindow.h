@@ -6,6 +6,7 @@
 #include "Workbench.h"
 #include "layers/LayerAdding.h"
 #include "layers/LayerCommands.h"
+#include "output/OutputCommands.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
 #include <SysAdapterUI/TOCControl.h>
@@ -67,7 +68,8 @@ private:
   void makeFromData();
   void showAbout();
 
-  LayerCommands layers_{bench_};  // the workbench asks for them while it is made
+  LayerCommands layers_{bench_};  // the workbench asks for both while it is made
+  OutputCommands output_{bench_, *this};
   Workbench bench_;
   DocumentFiles files_;
   LayerAdding adding_;

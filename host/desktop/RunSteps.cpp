@@ -377,8 +377,8 @@ QString RunSteps::setVisible(QString const& layerName, bool visible) {
 QString RunSteps::withThings(QString const& what, std::function<QString(SysCarto::Editable::List const&)> const& use) {
   auto const things = SysCarto::Editable::named(bench_.session().document(), what);
   if (!things.isEmpty()) return use(things);
-  return tr("there is no \"%1\"; write page, selection, an element's name or #HANDLE, map:NAME, or layer:MAP/LAYER; "
-            "plotvane info lists them.")
+  return tr("there is no \"%1\"; write document, page, selection, an element's name or #HANDLE, map:NAME, or "
+            "layer:MAP/LAYER; plotvane info lists them.")
       .arg(what);
 }
 

@@ -44,6 +44,7 @@ constexpr char const* untoldOfDocuments[] = {
     "Groups lie at most 16 deep in each other.",
     "The places beside points are upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below and centre.",
     "The pattern of a scale text holds %1.",
+    "The language of a document is a tag of BCP 47.",
     "A source names a file, unless its data are the globe.",
 };
 constexpr char const* untoldOfStyles[] = {

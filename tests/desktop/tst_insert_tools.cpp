@@ -169,6 +169,7 @@ private slots:
     row("that of another by its name", "[crs:Rhodes] [crs:Naxos]", "WGS 84 / UTM zone 35N [crs:Naxos]");
     row("each credit once", "[credits]", "Natural Earth");
     row("the document without a file", "[document], p. [page]", "Untitled, p. 1");
+    row("the title, for want of one the name, and no author", "[title], [author].", "Untitled, .");
     row("what is none stands as written", "[km] [scales] [] [date", "[km] [scales] [] [date");
   }
   void placeholdersAreFilledIn() {

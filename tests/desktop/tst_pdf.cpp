@@ -3,6 +3,8 @@
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/layout/MapPicture.h"
 
+#include <QXmlStreamReader>
+
 #include <gdal_priv.h>
 
 #include <memory>
@@ -117,6 +119,27 @@ private slots:
                       printed("pdftotext", {folder_.path("text.pdf"), "-"}).simplified()};
     found.replaceInStrings(QRegularExpression("[\u202a-\u202e]"), QString());
     QVERIFY2(found.contains(text), qPrintable(found.join('\n')));
+  }
+
+  // In the two ways that readers know, which archives want to be the same.
+  void itSaysWhatTheDocumentSaysOfItself() {
+    folder_.writeVariant("told.kdx", {{"information", json("{'title':'Die <Welt> & mehr','author':'Ö. Maker','subject':"
+                                                           "'About it','keywords':['a','b c'],'language':'de-CH'}")}});
+    for (QString const name : {"told", "page"})
+      QCOMPARE(run({"export", name + ".kdx", name + ".pdf"}, folder_.path()).err, QString());
+    QString const told = printed("pdfinfo", {folder_.path("told.pdf")});
+    for (QString const line :
+         {"Title: Die <Welt> & mehr ", "Author: Ö. Maker ", "Subject: About it ", "Keywords: a, b c "})
+      QVERIFY2(told.simplified().contains(line), qPrintable(told));
+    QXmlStreamReader xml(printed("pdfinfo", {"-meta", folder_.path("told.pdf")}));
+    QStringList texts;
+    while (!xml.atEnd())
+      if (xml.readNext() == QXmlStreamReader::Characters) texts << xml.text().toString().trimmed();
+    QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
+    texts.removeAll(QString());
+    QCOMPARE(texts, QStringList({"2", "B", "Plotvane", "a, b c", "Die <Welt> & mehr", "Ö. Maker", "About it", "a",
+                                 "b c", "de-CH"}));
+    QVERIFY(printed("pdfinfo", {folder_.path("page.pdf")}).simplified().contains("Title: page Producer:"));
   }
 
   // A mark at a known place of a map of 1:25,000, found again by GDAL's reader in the picture that it makes.

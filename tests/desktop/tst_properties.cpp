@@ -118,6 +118,28 @@ private slots:
     QVERIFY2(set > 250, qPrintable(QString::number(set)));
   }
 
+  void whatTheDocumentStoresOfItselfIsSetAndUndone() {
+    WorkbenchPage page;
+    auto& document = page.bench.session().document();
+    QVERIFY(page.bench.session().open(path("start.kdx")));
+    QByteArray const before = MapDocumentHost::text(document);
+    for (QStringList const& keys : leaves(Editable::fields(document, {Editable::document(document)}).first())) {
+      auto const value = valueAt(document, "document", keys);
+      QString const other = value.isBool()     ? value.toBool() ? "false" : "true"
+                            : value.isDouble() ? QString::number(value.toDouble() / 2 + 1)
+                            : value.isArray()  ? "['three']"
+                                               : "fr";
+      QCOMPARE(setByPath(document, "document", keys, QString(other).replace('\'', '"')), QString());
+      QVERIFY2(MapDocumentHost::text(document) != before, qPrintable(keys.join('/')));
+      QVERIFY(comesBack(MapDocumentHost::text(document)));
+      document.GetOperationStack()->Undo();
+      QCOMPARE(MapDocumentHost::text(document), before);
+    }
+    QVERIFY(setByPath(document, "document", {"information", "language"}, "de CH").contains("de-CH"));
+    QCOMPARE(setByPath(document, "document", {"information"}, "null"), QString());
+    QVERIFY(!MapDocumentHost::text(document).contains("information"));
+  }
+
   // From things that say nothing of themselves, row by row.
   void aWholeMapIsMadeInTheSheetAlone() {
     WorkbenchPage page;
@@ -373,6 +395,15 @@ private:
     auto const sheet = Editable::fields(document, Editable::named(document, address)).value(0);
     auto const* const field = SysUtility::fieldAt(sheet, keys);
     return field ? SysUtility::wholeValue(*field) : QJsonValue(QJsonValue::Undefined);
+  }
+
+  static QList<QStringList> leaves(QVector<SysUtility::SheetField> const& fields) {
+    QList<QStringList> paths;
+    for (auto const& field : fields) {
+      if (field.info.kind != Kind::Object) paths << QStringList(field.key());
+      for (QStringList const& inner : leaves(field.fields)) paths << QStringList(field.key()) + inner;
+    }
+    return paths;
   }
 
   static QString setByPath(SysCarto::MapDocument const& document, QString const& address, QStringList const& keys,

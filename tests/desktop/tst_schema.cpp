@@ -27,13 +27,14 @@ Untold const untold[] = {
     {QRegularExpression("groups are nested more than 16 deep"), "Groups lie at most 16"},
     {QRegularExpression("is no place; there are:"), "The places beside points"},
     {QRegularExpression("pattern: must hold %1"), "The pattern of a scale text"},
+    {QRegularExpression("is no tag of a language"), "The language of a document is"},
     {QRegularExpression("is missing; name the file of the data"), "A source names a file"},
     {QRegularExpression("layers lie within layers more than 3 deep"), "in the layers of symbols at most 3"},
     {QRegularExpression("is smaller than that of the colour before"), "A stop of a gradient"},
     {QRegularExpression("svg: "), "An SVG is"},
 };
 // clang-format on
-int constexpr firstOfStyles = 13;
+int constexpr firstOfStyles = 14;
 
 QString verdictOnDocument(QJsonObject const& json) {
   SysUtility::JsonReader reader(json);

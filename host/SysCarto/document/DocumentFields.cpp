@@ -1,5 +1,6 @@
 #include "DocumentFields.h"
 
+#include "DocumentSettings.h"
 #include "ElementFields.h"
 #include "MapSettings.h"
 
@@ -56,6 +57,12 @@ void listLayers(Fields& fields, _ptr_t<Map> const& map, DocumentContext& context
   addEntries(list, entries);
   MapHost::setLayers(*map, list.layers);
   for (int i = 0; i < list.layers.size(); ++i) LayerHost::setGroups(*list.layers[i], list.groups[i]);
+}
+
+void listSettings(Fields& fields, PageLayout& layout) {
+  auto settings = DocumentSettings::of(layout);
+  settings.list(fields);
+  if (fields.isReading() && fields.ok()) settings.applyTo(layout);
 }
 
 void listPage(Fields& fields, PageLayout& layout) {
@@ -157,6 +164,7 @@ void DocumentContent::list(Fields& fields, DocumentContext& context) {
   fields.flag({"relativePaths", QT_TRANSLATE_NOOP("Fields", "Relative paths"),
                QT_TRANSLATE_NOOP("Fields", "Whether files are named relative to the document.")},
               relativePaths, true);
+  listSettings(fields, *layout);
   fields.list(
       {"maps", QT_TRANSLATE_NOOP("Fields", "Maps"),
        QT_TRANSLATE_NOOP("Fields", "The maps, which data frames and surrounds name by their number here, from 0."),

@@ -1,6 +1,7 @@
 #include "Editable.h"
 
 #include "DocumentFields.h"
+#include "DocumentSettings.h"
 #include "ElementFields.h"
 #include "FrameSettings.h"
 #include "LayerSettings.h"
@@ -245,6 +246,18 @@ QVector<QVector<SheetField>> Editable::fields(MapDocument const& document, List 
   return all;
 }
 
+Editable::Pointer Editable::document(MapDocument const& document) {
+  using EditableDocument = EditableSettings<PageLayout, DocumentSettings>;
+  auto const layout = document.GetPageLayout();
+  if (!layout) return nullptr;
+  return std::make_shared<EditableDocument>(
+      layout,
+      EditableDocument::Uses{
+          Texts::tr("the document"),
+          [](PageLayout const& one, DocumentContext const&) { return DocumentSettings::of(one); },
+          [](PageLayout& one, DocumentSettings const& settings, DocumentContext&) { settings.applyTo(one); }, nullptr});
+}
+
 Editable::Pointer Editable::page(MapDocument const& document) { return pageAs<PageSettings>(document); }
 Editable::Pointer Editable::aids(MapDocument const& document) { return pageAs<PageAidsSettings>(document); }
 
@@ -298,6 +311,8 @@ Editable::List Editable::named(MapDocument const& document, QString const& text)
     }
   } else if (text.startsWith(mapPrefix)) {
     for (auto const& map : called(mapsOf(*layout), text.mid(mapPrefix.size()))) things << Editable::map(map);
+  } else if (text == QLatin1String("document")) {
+    things << Editable::document(document);
   } else if (text == QLatin1String("page")) {
     if (auto const thing = page(document)) things << thing;
   } else {

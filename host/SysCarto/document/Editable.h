@@ -14,8 +14,8 @@ namespace SysCarto {
 
 struct DocumentContext;
 
-/// Something of a document whose fields a person looks at and changes one by one: the page, an element, a map, a layer,
-/// a group of layers.
+/// Something of a document whose fields a person looks at and changes one by one: the document itself, the page, an
+/// element, a map, a layer, a group of layers.
 /// It stays usable for as long as the document lives; what it names may have gone meanwhile.
 class SYSCARTO_EXPORT Editable {
 public:
@@ -37,6 +37,8 @@ public:
   /// The fields of each as they are; none where it has gone.
   static QVector<QVector<SysUtility::SheetField>> fields(MapDocument const& document, List const& things);
 
+  /// What the document says of itself.
+  static Pointer document(MapDocument const& document);
   /// Null where the page is missing.
   static Pointer page(MapDocument const& document);
   /// Its margins, guides and grid alone: a step of these leaves the rest of the page as it is.
@@ -47,8 +49,9 @@ public:
   static Pointer layer(SysUtility::_ptr_t<Map> const& map, SysUtility::_ptr_t<Layer> const& layer);
   static Pointer layerGroup(SysUtility::_ptr_t<LayerGroup> const& group);
 
-  /// Those that a text names: `page`, `selection`, the NAME of elements or `#HANDLE`, `map:NAME` or `layer:MAP/LAYER`
-  /// (maps and layers by number, too: `map:#0`), where LAYER may be a group of layers. Empty where there are none.
+  /// Those that a text names: `document`, `page`, `selection`, the NAME of elements or `#HANDLE`, `map:NAME` or
+  /// `layer:MAP/LAYER` (maps and layers by number, too: `map:#0`), where LAYER may be a group of layers. Empty where
+  /// there are none.
   static List named(MapDocument const& document, QString const& text);
 
   /// Gives a field of all of them another value (`changeField`), in one step of the history. Answers a problem, with

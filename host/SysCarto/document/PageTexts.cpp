@@ -1,6 +1,7 @@
 #include "PageTexts.h"
 
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/surrounds/Pieces.h"
 
@@ -64,6 +65,10 @@ QString dateIn(QString const& format) {
   return format.isEmpty() ? today.toString(Qt::ISODate) : QLocale().toString(today, format);
 }
 
+QString nameOf(QString const& documentPath) {
+  return documentPath.isEmpty() ? Texts::tr("Untitled") : QFileInfo(documentPath).completeBaseName();
+}
+
 }  // namespace
 
 std::shared_ptr<Placeholders> pageTexts(PageLayout const& layout, std::function<QString()> const& documentPath) {
@@ -77,8 +82,12 @@ std::shared_ptr<Placeholders> pageTexts(PageLayout const& layout, std::function<
     if (name == QLatin1String("date")) {
       text = dateIn(argument);
     } else if (name == QLatin1String("document") && argument.isEmpty()) {
-      QString const path = documentPath();
-      text = path.isEmpty() ? Texts::tr("Untitled") : QFileInfo(path).completeBaseName();
+      text = nameOf(documentPath());
+    } else if (name == QLatin1String("title") && argument.isEmpty()) {
+      QString const& title = PageLayoutHost::information(layout).title;
+      text = title.isEmpty() ? nameOf(documentPath()) : title;
+    } else if (name == QLatin1String("author") && argument.isEmpty()) {
+      text = PageLayoutHost::information(layout).author;
     } else if (name == QLatin1String("page") && argument.isEmpty()) {
       text = QStringLiteral("1");
     } else if (name == QLatin1String("credits") && (map || argument.isEmpty())) {
@@ -92,6 +101,13 @@ std::shared_ptr<Placeholders> pageTexts(PageLayout const& layout, std::function<
     }
     return text;
   });
+}
+
+FileInformation FileInformation::of(MapDocument const& document) {
+  PageLayout const& layout = *document.GetPageLayout();
+  FileInformation information{PageLayoutHost::information(layout), creditsOf(mapsOf(layout))};
+  if (information.title.isEmpty()) information.title = nameOf(document.GetPath());
+  return information;
 }
 
 }  // namespace SysCarto

@@ -18,8 +18,9 @@ QRegularExpression const& pattern() {
 }  // namespace
 
 QStringList Placeholders::names() {
-  return {QStringLiteral("scale"), QStringLiteral("date"),    QStringLiteral("document"), QStringLiteral("map"),
-          QStringLiteral("crs"),   QStringLiteral("credits"), QStringLiteral("page")};
+  return {QStringLiteral("scale"), QStringLiteral("date"),  QStringLiteral("document"),
+          QStringLiteral("map"),   QStringLiteral("crs"),   QStringLiteral("credits"),
+          QStringLiteral("page"),  QStringLiteral("title"), QStringLiteral("author")};
 }
 
 QString Placeholders::filled(QString const& text) const {

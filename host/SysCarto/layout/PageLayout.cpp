@@ -65,6 +65,7 @@ struct PageLayout::Private {
   _ptr_t<Page> page;
   _ptr_t<Map> focus;
   bool alignToMargins = false;
+  DocumentInformation information;
   SysUtility::ChangeMark change;
   ElementContainer elements;
   std::vector<std::unique_ptr<OpenedGroup>> opened;  // each in the one before
@@ -149,6 +150,11 @@ void PageLayout::QueryOutputSize(int dpi, int& width, int& height) const {
 
 Page* PageLayout::GetPage() const { return d->page.get(); }
 void PageLayout::SetPage(_ptr_t<Page> const& page) { d->change.set(d->page, page); }
+
+DocumentInformation const& PageLayoutHost::information(PageLayout const& layout) { return layout.d->information; }
+void PageLayoutHost::setInformation(PageLayout& layout, DocumentInformation const& information) {
+  layout.d->change.set(layout.d->information, information);
+}
 
 quint64 PageLayoutHost::lastChange(PageLayout const& layout) {
   PageLayout::Private const& d = *layout.d;
@@ -266,6 +272,7 @@ void PageLayout::ReplaceMaps(QList<_ptr_t<Map>> const& maps) {
 
 void PageLayoutHost::succeed(PageLayout& layout, PageLayout const& former) {
   PageLayout::Private const& d = *layout.d;
+  layout.d->information = former.d->information;
   if (!d.shows(d.focus)) layout.SetFocusMap(former.GetFocusMap());
   for (auto const& surround : d.surrounds())
     if (!d.shows(surround->GetMap())) surround->SetMap(layout.GetFocusMap());

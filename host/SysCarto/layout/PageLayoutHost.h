@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/layout/DocumentInformation.h"
 
 #include <SysCarto/PageLayout.h>
 
@@ -10,8 +11,11 @@ namespace SysCarto {
 
 struct SYSCARTO_EXPORT PageLayoutHost {
   /// Takes the place of a layout whose maps it was given: where the focus is open, it stays where it was there, and
-  /// surrounds whose map no data frame shows follow the focus map.
+  /// surrounds whose map no data frame shows follow the focus map. What the document says about itself stays.
   static void succeed(PageLayout& layout, PageLayout const& former);
+
+  static DocumentInformation const& information(PageLayout const& layout);
+  static void setInformation(PageLayout& layout, DocumentInformation const& information);
 
   // The groups in which a person works, each in the one before. The page is what it is without them.
 

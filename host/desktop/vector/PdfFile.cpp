@@ -19,11 +19,37 @@ QPDFObjectHandle numbers(std::initializer_list<double> values) {
   return array;
 }
 
+// One string in the one way of telling it, words in the other.
+QString keywordsIn(SysCarto::DocumentInformation const& information) {
+  return information.keywords.join(QStringLiteral(", "));
+}
+
+QString const rdf = QStringLiteral("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
+QString const dc = QStringLiteral("http://purl.org/dc/elements/1.1/");
+
+// A property of Dublin Core as a list of that kind; nothing where there is nothing to be told.
+void writeProperty(QXmlStreamWriter& xml, char const* property, char const* list, QStringList values) {
+  values.removeAll(QString());
+  if (values.isEmpty()) return;
+  bool const isOfLanguages = qstrcmp(list, "Alt") == 0;
+  xml.writeStartElement(dc, QLatin1String(property));
+  xml.writeStartElement(rdf, QLatin1String(list));
+  for (QString const& value : qAsConst(values)) {
+    xml.writeStartElement(rdf, QStringLiteral("li"));
+    if (isOfLanguages) xml.writeAttribute(QStringLiteral("xml:lang"), QStringLiteral("x-default"));
+    xml.writeCharacters(value);
+    xml.writeEndElement();
+  }
+  xml.writeEndElement();
+  xml.writeEndElement();
+}
+
 QRectF boundsIn(QPolygonF const& corners, QTransform const& toPoints) { return toPoints.map(corners).boundingRect(); }
 
 }  // namespace
 
-PdfFile::PdfFile(QString title) : title_(std::move(title)), objects_((file_.emptyPDF(), file_)) {
+PdfFile::PdfFile(SysCarto::FileInformation information)
+    : information_(std::move(information)), objects_((file_.emptyPDF(), file_)) {
   parents_ = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Nums[]>>"));
   structure_ = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Type/StructTreeRoot>>"));
   whole_ = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Type/StructElem/S/Document/K[]>>"));
@@ -103,8 +129,12 @@ QPDFObjectHandle PdfFile::viewport(GeoreferencedFrame const& frame, QTransform c
 // The same properties in the two ways that readers know.
 void PdfFile::describe() {
   QPDFObjectHandle information = QPDFObjectHandle::newDictionary();
-  information.replaceKey("/Title", pdfText(title_));
-  information.replaceKey("/Producer", pdfText(producer));
+  for (auto const& [key, text] : {std::make_pair("/Title", information_.title),
+                                  {"/Author", information_.author},
+                                  {"/Subject", information_.subject},
+                                  {"/Keywords", keywordsIn(information_)},
+                                  {"/Producer", producer}})
+    if (!text.isEmpty()) information.replaceKey(key, pdfText(text));
   file_.getTrailer().replaceKey("/Info", file_.makeIndirectObject(information));
 
   QPDFObjectHandle xml = objects_.stream(metadata());
@@ -122,14 +152,13 @@ void PdfFile::describe() {
   root.replaceKey("/OutputIntents", QPDFObjectHandle::newArray({file_.makeIndirectObject(intent)}));
   root.replaceKey("/StructTreeRoot", structure_);
   root.replaceKey("/MarkInfo", QPDFObjectHandle::parse("<</Marked true>>"));
+  if (!information_.language.isEmpty()) root.replaceKey("/Lang", pdfText(information_.language));
   root.replaceKey("/ViewerPreferences", QPDFObjectHandle::parse("<</DisplayDocTitle true>>"));
   QPDFObjectHandle layers = objects_.layerProperties();
   if (!layers.isNull()) root.replaceKey("/OCProperties", layers);
 }
 
 QByteArray PdfFile::metadata() const {
-  QString const rdf = QStringLiteral("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
-  QString const dc = QStringLiteral("http://purl.org/dc/elements/1.1/");
   QString const pdf = QStringLiteral("http://ns.adobe.com/pdf/1.3/");
   QString const pdfa = QStringLiteral("http://www.aiim.org/pdfa/ns/id/");
   QByteArray bytes;
@@ -148,12 +177,15 @@ QByteArray PdfFile::metadata() const {
   xml.writeTextElement(pdfa, QStringLiteral("part"), QStringLiteral("2"));
   xml.writeTextElement(pdfa, QStringLiteral("conformance"), QStringLiteral("B"));
   xml.writeTextElement(pdf, QStringLiteral("Producer"), producer);
-  xml.writeStartElement(dc, QStringLiteral("title"));
-  xml.writeStartElement(rdf, QStringLiteral("Alt"));
-  xml.writeStartElement(rdf, QStringLiteral("li"));
-  xml.writeAttribute(QStringLiteral("xml:lang"), QStringLiteral("x-default"));
-  xml.writeCharacters(title_);
-  for (int i = 0; i < 6; ++i) xml.writeEndElement();
+  QString const keywords = keywordsIn(information_);
+  if (!keywords.isEmpty()) xml.writeTextElement(pdf, QStringLiteral("Keywords"), keywords);
+  writeProperty(xml, "title", "Alt", {information_.title});
+  writeProperty(xml, "creator", "Seq", {information_.author});
+  writeProperty(xml, "description", "Alt", {information_.subject});
+  writeProperty(xml, "subject", "Bag", information_.keywords);
+  writeProperty(xml, "language", "Bag", {information_.language});
+  writeProperty(xml, "rights", "Alt", {information_.credits});
+  for (int i = 0; i < 3; ++i) xml.writeEndElement();
   xml.writeProcessingInstruction(QStringLiteral("xpacket"), QStringLiteral("end=\"w\""));
   return bytes;
 }

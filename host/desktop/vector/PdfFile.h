@@ -2,6 +2,8 @@
 
 #include "PdfCanvas.h"
 
+#include "host/SysCarto/document/PageTexts.h"
+
 #include <QPolygonF>
 
 /// A data frame on a page, and where on the globe it lies.
@@ -17,7 +19,7 @@ struct GeoreferencedFrame {
 /// A PDF 1.7 that is a PDF/A-2b, too. Pages are added one by one.
 class PdfFile {
 public:
-  explicit PdfFile(QString title);
+  explicit PdfFile(SysCarto::FileInformation information);
 
   PdfObjects& objects() { return objects_; }
   PdfFonts& fonts() { return fonts_; }
@@ -34,7 +36,7 @@ private:
   void describe();
   QByteArray metadata() const;
 
-  QString const title_;
+  SysCarto::FileInformation const information_;
   QPDF file_;
   PdfObjects objects_;
   PdfFonts fonts_;

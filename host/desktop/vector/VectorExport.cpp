@@ -2,12 +2,10 @@
 
 #include "VectorPage.h"
 
-#include <QFileInfo>
-
 QString writePdf(SysCarto::MapDocument const& document, QString const& path, int dpi,
                  SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) {
   VectorPage const page(document.GetPageLayout(), dpi);
-  PdfFile file(QFileInfo(document.GetPath()).completeBaseName());
+  PdfFile file(SysCarto::FileInformation::of(document));
   PdfCanvas canvas(file.objects(), file.fonts(), page.size(), dpi);
   page.draw(canvas, cancel);
   if (cancel && cancel->IsCanced()) return QString();

@@ -6,6 +6,7 @@
 #include "host/SysCarto/elements/EditorHost.h"
 #include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/layout/PageHost.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysUtility/FieldTree.h"
 
@@ -366,6 +367,9 @@ private slots:
         [](PageLayout& page) { page.GetGraphicsContainer()->DeleteElement(elementsOf(page).last()); });
     row("a map's name", true, [](PageLayout& page) { mapsOn(page)[0]->SetName("Other"); });
     row("a map's extent", true, [](PageLayout& page) { mapsOn(page)[0]->SetExtent(make<Envelope>(0, 0, 7, 5)); });
+    row("what it says about itself", true, [](PageLayout& page) {
+      PageLayoutHost::setInformation(page, {"Title", "", "", {}, ""});
+    });
     row("a layer shown", true, [](PageLayout& page) { mapsOn(page)[0]->GetLayer(0)->SetVisible(false); });
     row("a layer's scales", true, [](PageLayout& page) { mapsOn(page)[0]->GetLayer(0)->SetScaleRange(0, 5e6); });
 
