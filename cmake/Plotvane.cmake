@@ -1,5 +1,5 @@
 # What a test calls is optimised; the test itself is not worth the time.
-set(plotvane_test_options $<$<CONFIG:Release>:-O1>)
+set(plotvane_test_options -O0)
 
 # plotvane_precompiled_headers()
 # Two targets that hold a precompiled header each: what most sources include, and that with Qt Test. No header of ours is
