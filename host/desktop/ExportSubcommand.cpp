@@ -2,13 +2,13 @@
 #include "Interrupt.h"
 #include "Subcommand.h"
 
+#include "output/ExportArguments.h"
 #include "output/ImageFormat.h"
 #include "output/PageExport.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 
 #include <optional>
 
@@ -50,44 +50,20 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
   parser.addPositionalArgument(QStringLiteral("IMAGE"),
                                tr("The file to write; its suffix names the format: %1. Without one it is a TIFF.")
                                    .arg(ImageFormat::allSuffixes()));
-  QCommandLineOption const format(QStringLiteral("format"),
-                                  tr("The format, whatever the suffix: %1.").arg(ImageFormat::names()),
-                                  QStringLiteral("FORMAT"));
-  QCommandLineOption const dpi(QStringLiteral("dpi"),
-                               tr("Pixels per inch of paper, 1 to %1; %2 if not given.")
-                                   .arg(ExportOptions::maxDpi)
-                                   .arg(ExportOptions::defaultDpi),
-                               QStringLiteral("N"), QString::number(ExportOptions::defaultDpi));
+  ExportArguments page;
+  parser.addOptions(page.options());
   QCommandLineOption const quiet(QStringLiteral("quiet"), tr("Print neither the path nor the progress."));
   QCommandLineOption const missing(
       QStringLiteral("allow-missing"),
       tr("Draw the page also where a data source or a picture can't be read, or not to its end."));
-  parser.addOptions({format, dpi, quiet, missing});
+  parser.addOptions({quiet, missing});
   if (auto const settled = parseArguments(self, parser, arguments)) return settled;
-
-  bool isNumber = false;
-  QString const image = parser.positionalArguments().at(1);
-  QString const name = parser.value(format), suffix = QFileInfo(image).suffix();
-  request = {parser.positionalArguments().at(0),
-             image,
-             !parser.isSet(format) ? suffix.isEmpty() ? &ImageFormat::writtenAt(image) : ImageFormat::withSuffix(suffix)
-                                   : ImageFormat::named(name),
-             {parser.value(dpi).toInt(&isNumber)},
-             parser.isSet(quiet),
-             parser.isSet(missing)};
-  QString problem;
-  if (!isNumber || request.options.dpi < 1 || request.options.dpi > ExportOptions::maxDpi)
-    problem = tr("export: --dpi takes a whole number from 1 to %1, not \"%2\".")
-                  .arg(QString::number(ExportOptions::maxDpi), parser.value(dpi));
-  else if (request.format && request.format->isVector && request.options.dpi > ExportOptions::maxVectorDpi)
-    problem = tr("export: a PDF takes a --dpi of at most %1; its shapes are as fine at any.")
-                  .arg(ExportOptions::maxVectorDpi);
-  else if (!request.format && parser.isSet(format))
-    problem = tr("export: --format takes one of %1, not \"%2\".").arg(ImageFormat::names(), name);
-  else if (!request.format)
-    problem = tr("export: %1: \".%2\" names no image format; use one of %3, or pass --format tiff or another.")
-                  .arg(image, suffix, ImageFormat::allSuffixes());
-  if (problem.isEmpty()) return std::nullopt;
+  QString const document = parser.positionalArguments().at(0), image = parser.positionalArguments().at(1);
+  QString const problem = page.read(parser, image);
+  if (problem.isEmpty()) {
+    request = {document, image, &page.format(), page.chosen(), parser.isSet(quiet), parser.isSet(missing)};
+    return std::nullopt;
+  }
   Console::complain(problem);
   return WrongArguments;
 }

@@ -3,15 +3,30 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 namespace {
 
-constexpr ImageFormat formats[] = {{"png", "png", "PNG"},
-                                   {"jpeg", "jpg jpeg", "JPEG"},
-                                   {"bmp", "bmp", "BMP"},
-                                   {"tiff", "tif tiff", "GTiff"},
-                                   {"pdf", "pdf", "PDF", true}};
+// clang-format off
+constexpr ImageFormat formats[] = {
+    // name  suffixes    driver   plug-in vector alpha  quality
+    {"png",  "png",      "PNG",   true,   false, true,  false},
+    {"jpeg", "jpg jpeg", "JPEG",  true,   false, false, true},
+    {"bmp",  "bmp",      "BMP",   true,   false, false, false},
+    {"tiff", "tif tiff", "GTiff", true,   false, true,  false},
+    {"webp", "webp",     "WEBP",  false,  false, true,  true},
+    {"pdf",  "pdf",      "PDF",   false,  true,  false, false},
+};
+
+constexpr ImageFormat::Compression ways[] = {
+    {"none",     "GTiff", ""},
+    {"lzw",      "GTiff", "COMPRESS=LZW PREDICTOR=2"},
+    {"deflate",  "GTiff", "COMPRESS=DEFLATE PREDICTOR=2"},
+    {"zstd",     "GTiff", "COMPRESS=ZSTD PREDICTOR=2"},
+    {"lossless", "WEBP",  "LOSSLESS=YES"},
+};
+// clang-format on
 
 template <class Predicate>
 ImageFormat const* first(Predicate isWanted) {
@@ -37,7 +52,29 @@ ImageFormat const& ImageFormat::writtenAt(QString const& path) {
   QString const suffix = QFileInfo(path).suffix();
   ImageFormat const* const found =
       first([&](ImageFormat const& one) { return suffix.compare(one.suffixList().first(), Qt::CaseInsensitive) == 0; });
-  return found && !found->isVector ? *found : *named(QStringLiteral("tiff"));
+  return found && found->isOfPlugin ? *found : *named(QStringLiteral("tiff"));
+}
+
+ImageFormat::Compression const* ImageFormat::compression(QString const& wanted) const {
+  auto const* const found = std::find_if(std::begin(ways), std::end(ways), [&](Compression const& way) {
+    return std::strcmp(way.driver, driver) == 0 && wanted.compare(QLatin1String(way.name), Qt::CaseInsensitive) == 0;
+  });
+  return found == std::end(ways) ? nullptr : found;
+}
+
+QString ImageFormat::compressions() const {
+  QStringList all;
+  for (Compression const& way : ways)
+    if (std::strcmp(way.driver, driver) == 0) all << QLatin1String(way.name);
+  return all.join(QStringLiteral(", "));
+}
+
+QString ImageFormat::allCompressions() {
+  QStringList all;
+  for (ImageFormat const& one : formats)
+    if (QString const own = one.compressions(); !own.isEmpty())
+      all << QStringLiteral("%1 (%2)").arg(own, QLatin1String(one.name));
+  return all.join(QStringLiteral("; "));
 }
 
 QString ImageFormat::names() {
@@ -56,6 +93,6 @@ QString ImageFormat::allSuffixes() {
 QString ImageFormat::writtenSuffixes() {
   QStringList all;
   for (ImageFormat const& one : formats)
-    if (!one.isVector) all << QLatin1Char('.') + one.suffixList().first();
+    if (one.isOfPlugin) all << QLatin1Char('.') + one.suffixList().first();
   return all.join(QStringLiteral(", "));
 }

@@ -6,8 +6,18 @@
 struct ImageFormat {
   char const* name;       ///< as a command line has it
   char const* suffixes;   ///< separated by blanks, without dots; the first one makes the plug-in write the format
-  char const* driver;     ///< GDAL's name; of a vector format just a name
-  bool isVector = false;  ///< of shapes, written by the host
+  char const* driver;       ///< GDAL's name; of a vector format just a name
+  bool isOfPlugin = true;   ///< known to the plug-in's export command, too
+  bool isVector = false;    ///< of shapes
+  bool hasAlpha = false;    ///< can be transparent
+  bool hasQuality = false;  ///< gives up some likeness for size
+
+  /// A way in which the pixels of some format are packed.
+  struct Compression {
+    char const* name;    ///< as a command line has it
+    char const* driver;  ///< of the format
+    char const* options;  ///< GDAL's creation options, separated by blanks
+  };
 
   QStringList suffixList() const;
 
@@ -17,6 +27,11 @@ struct ImageFormat {
 
   /// What the plug-in writes at a path: a TIFF where it does not know the suffix.
   static ImageFormat const& writtenAt(QString const& path);
+
+  /// Null where the format has no such way.
+  Compression const* compression(QString const& name) const;
+  QString compressions() const;      ///< their names, "none, lzw, …"
+  static QString allCompressions();  ///< "none, lzw (tiff), lossless (webp)"
 
   static QString names();        ///< "png, jpeg, …"
   static QString allSuffixes();  ///< ".png, .jpg, …"

@@ -16,6 +16,7 @@
 #include <QStorageInfo>
 #include <QTemporaryDir>
 #include <QVector>
+#include <QtEndian>
 
 #include <gdal_priv.h>
 
@@ -31,7 +32,6 @@
 
 namespace {
 
-constexpr int bandCount = 3;
 constexpr qint64 bmpHeaderBytes = 54;
 
 struct SideLimit {
@@ -39,7 +39,7 @@ struct SideLimit {
   int pixels;
 };
 // What the libraries behind the formats take, below what the formats could hold.
-constexpr SideLimit sideLimits[] = {{"JPEG", 65500}, {"PNG", 1000000}};
+constexpr SideLimit sideLimits[] = {{"JPEG", 65500}, {"PNG", 1000000}, {"WEBP", 16383}};
 
 QString systemReason(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
 
@@ -52,7 +52,7 @@ QString resolved(QString const& path) {
 }
 
 qint64 bmpBytes(QSize const& size) {
-  qint64 const rowBytes = (qint64{size.width()} * bandCount + 3) / 4 * 4;
+  qint64 const rowBytes = (qint64{size.width()} * 3 + 3) / 4 * 4;
   return bmpHeaderBytes + rowBytes * size.height();
 }
 
@@ -77,7 +77,14 @@ bool endsWith(QString const& path, QByteArray const& bytes) {
   return file.open(QIODevice::ReadOnly) && file.seek(file.size() - bytes.size()) && file.readAll() == bytes;
 }
 
-bool readLastRows(GDALDataset& dataset, QSize const& size) {
+// Such a file says its length at its start.
+bool isWholeRiff(QString const& path) {
+  QFile file(path);
+  QByteArray const head = file.open(QIODevice::ReadOnly) ? file.read(8) : QByteArray();
+  return head.size() == 8 && file.size() == qint64{qFromLittleEndian<quint32>(head.constData() + 4)} + 8;
+}
+
+bool readLastRows(GDALDataset& dataset, QSize const& size, int bandCount) {
   constexpr int maxPixels = 1 << 22;
   int const rows = std::min(std::clamp(maxPixels / size.width(), 1, 64), size.height());
   QVector<uchar> bytes(size.width() * rows * bandCount);
@@ -125,12 +132,12 @@ QString ImageTarget::checkAgainst(SysCarto::MapDocument const& document) const {
   return QString();
 }
 
-QString ImageTarget::checkSize(QSize const& size) const {
+QString ImageTarget::checkSize(QSize const& size, int bands) const {
   if (size.isEmpty()) return tr("%1: the image would have no pixels; give more DPI.").arg(name_);
   if (format_.isVector) return QString();
   QString problem = checkFormatLimits(size);
-  if (problem.isEmpty()) problem = checkFreeSpace(size);
-  if (problem.isEmpty()) problem = checkFreeMemory(size);
+  if (problem.isEmpty()) problem = checkFreeSpace(size, bands);
+  if (problem.isEmpty()) problem = checkFreeMemory(size, bands);
   return problem;
 }
 
@@ -147,11 +154,11 @@ QString ImageTarget::checkFormatLimits(QSize const& size) const {
   return QString();
 }
 
-QString ImageTarget::checkFreeSpace(QSize const& size) const {
+QString ImageTarget::checkFreeSpace(QSize const& size, int bands) const {
   QStorageInfo const storage(QFileInfo(path_).absolutePath());
   if (storage.bytesTotal() <= 0) return QString();  // not told
   qint64 const free = storage.bytesAvailable();
-  double const needed = double{bandCount} * size.width() * size.height();
+  double const needed = double(bands) * size.width() * size.height();
   if (needed <= static_cast<double>(free)) return QString();
   return tr("%1: drawing %2 × %3 pixels takes %4 GB on the disk, and %5 GB are free; give less DPI, or make room.")
       .arg(name_, QString::number(size.width()), QString::number(size.height()), gigabytes(needed, 3),
@@ -159,16 +166,16 @@ QString ImageTarget::checkFreeSpace(QSize const& size) const {
 }
 
 // GDAL's JPEG driver chooses its code when it has seen the whole image, and so keeps it in memory: 16 bits for each of
-// the 1.5 values to which it reduces a pixel.
-QString ImageTarget::checkFreeMemory(QSize const& size) const {
-  constexpr double bytesPerPixel = 3;
-  double const needed = is("JPEG") ? bytesPerPixel * size.width() * size.height() : 0;
+// the 1.5 values to which it reduces a pixel. That of WebP reads the whole image, and its encoder makes a copy.
+QString ImageTarget::checkFreeMemory(QSize const& size, int bands) const {
+  double const bytesPerPixel = is("JPEG") ? 3 : is("WEBP") ? bands + 4 : 0;
+  double const needed = bytesPerPixel * size.width() * size.height();
   double const memory = static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGESIZE));
   if (needed <= memory) return QString();
-  return tr("%1: a JPEG of %2 × %3 pixels takes %4 GB of memory, and this machine has %5 GB; give less DPI, or write a "
+  return tr("%1: a %2 of %3 × %4 pixels takes %5 GB of memory, and this machine has %6 GB; give less DPI, or write a "
             "PNG or TIFF.")
-      .arg(name_, QString::number(size.width()), QString::number(size.height()), gigabytes(needed, 1),
-           gigabytes(memory, 1));
+      .arg(name_, QLatin1String(format_.driver), QString::number(size.width()), QString::number(size.height()),
+           gigabytes(needed, 1), gigabytes(memory, 1));
 }
 
 QString ImageTarget::prepare() {
@@ -182,12 +189,14 @@ QString ImageTarget::workingPath() const {
   return folder_->filePath(QStringLiteral("image.") + format_.suffixList().first());
 }
 
+QString ImageTarget::besidePath(QString const& name) const { return folder_->filePath(name); }
+
 QString ImageTarget::failure(SysCarto::GdalErrors const& errors) const {
   QString const reason = errors.hasFailure() ? errors.reason() : tr("the image file could not be created");
   return tr("%1 was not written: %2. Is the disk full?").arg(name_, reason);
 }
 
-QString ImageTarget::checkResult(QSize size) const {
+QString ImageTarget::checkResult(QSize size, int bands) const {
   if (format_.isVector)
     return hasEnding() ? QString() : tr("%1 was not written: its end is missing; is the disk full?").arg(name_);
   SysCarto::GdalErrors const errors;
@@ -197,9 +206,9 @@ QString ImageTarget::checkResult(QSize size) const {
   if (!image) return tr("%1 was not written: the image can't be read again.").arg(name_);
   if (size.isEmpty()) size = {image->GetRasterXSize(), image->GetRasterYSize()};
   if (image->GetRasterXSize() != size.width() || image->GetRasterYSize() != size.height() ||
-      image->GetRasterCount() != bandCount)
+      image->GetRasterCount() != bands)
     return tr("%1 was not written: the image has not the size that it should have.").arg(name_);
-  if (!hasItsEnd(*image, size) || errors.hasFailure())
+  if (!hasItsEnd(*image, size, bands) || errors.hasFailure())
     return tr("%1 was not written: the end of the image is missing; is the disk full?").arg(name_);
   return QString();
 }
@@ -210,10 +219,11 @@ bool ImageTarget::hasEnding() const {
 }
 
 // Reading the last rows of a format that is written in one go would take as long as writing them all.
-bool ImageTarget::hasItsEnd(GDALDataset& image, QSize const& size) const {
+bool ImageTarget::hasItsEnd(GDALDataset& image, QSize const& size, int bands) const {
   if (is("JPEG") || is("PNG")) return hasEnding();
+  if (is("WEBP")) return isWholeRiff(writtenPath());
   bool const whole = !is("BMP") || QFileInfo(writtenPath()).size() >= bmpBytes(size);
-  return whole && readLastRows(image, size);
+  return whole && readLastRows(image, size, bands);
 }
 
 QString ImageTarget::commit() {

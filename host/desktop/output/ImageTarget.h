@@ -30,14 +30,17 @@ public:
   ImageTarget(ImageTarget const&) = delete;
   ImageTarget& operator=(ImageTarget const&) = delete;
 
+  QString const& name() const { return name_; }  ///< as the user gave it
+  QString const& path() const { return path_; }  ///< absolute, links followed
+
   /// Whether a file can be put there at all.
   QString checkPlace() const;
 
   /// Whether it would replace the document, or a file that its page is drawn from.
   QString checkAgainst(SysCarto::MapDocument const& document) const;
 
-  /// Whether the format, the disk and the memory can hold an image of that size.
-  QString checkSize(QSize const& size) const;
+  /// Whether the format, the disk and the memory can hold an image of that size, of 3 bands or 4.
+  QString checkSize(QSize const& size, int bands = 3) const;
 
   /// Makes the working folder.
   QString prepare();
@@ -45,9 +48,12 @@ public:
   /// Where to write the image: in the working folder, with a suffix that names the format. After `prepare`.
   QString workingPath() const;
 
+  /// A file of that name in the working folder, which goes with it. After `prepare`.
+  QString besidePath(QString const& name) const;
+
   /// Opens what was written, in the working folder or without one in its place, and looks at its end. A size that is
   /// empty is not known.
-  QString checkResult(QSize size) const;
+  QString checkResult(QSize size, int bands = 3) const;
 
   /// That it was not written, with GDAL's reason.
   QString failure(SysCarto::GdalErrors const& errors) const;
@@ -57,12 +63,12 @@ public:
 
 private:
   QString checkFormatLimits(QSize const& size) const;
-  QString checkFreeSpace(QSize const& size) const;
-  QString checkFreeMemory(QSize const& size) const;
+  QString checkFreeSpace(QSize const& size, int bands) const;
+  QString checkFreeMemory(QSize const& size, int bands) const;
   bool is(char const* driver) const;
   QString writtenPath() const { return folder_ ? workingPath() : path_; }
   bool hasEnding() const;
-  bool hasItsEnd(GDALDataset& image, QSize const& size) const;
+  bool hasItsEnd(GDALDataset& image, QSize const& size, int bands) const;
 
   QString name_;  // as the user gave it, for sentences
   QString path_;  // absolute, links followed

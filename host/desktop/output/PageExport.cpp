@@ -1,34 +1,17 @@
 #include "PageExport.h"
 
 #include "ImageFormat.h"
+#include "PageImage.h"
 
-#include "export/ExportCommand.h"
-#include "export/LayoutRenderer.h"
-#include "host/SysCarto/projection/GdalErrors.h"
-#include "host/desktop/OffscreenDesktop.h"
+#include "host/SysUtility/FileSaver.h"
 #include "host/desktop/vector/VectorExport.h"
 
-#include <QProgressBar>
-#include <QProgressDialog>
+#include <QFileInfo>
 
 #include <gdal_priv.h>
 
-#include <algorithm>
-
-using Plugin::ExportCommand;
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
-
-namespace {
-
-// Where GDAL's block cache does not hold a whole row of tiles, each tile of the row makes it read and write all the
-// rows of pixels anew. The fourth part more is for its book-keeping.
-void reserveBlockCache(int imageWidthPx) {
-  constexpr GIntBig bytesPerColumn = GIntBig{3} * Plugin::LayoutRenderer::tileSize;
-  GDALSetCacheMax64(std::max(GDALGetCacheMax64(), bytesPerColumn * imageWidthPx * 5 / 4));
-}
-
-}  // namespace
 
 PageExport::PageExport(QString const& path, ImageFormat const& format, ExportOptions const& options)
     : path_(path), format_(format), options_(options), target_(path, format) {}
@@ -48,41 +31,42 @@ QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel>
   if (!layout || !layout->GetPage())
     return tr("%1: the document has no page to draw; give it one, such as \"page\": {\"form\": \"A4\"}.")
         .arg(document.GetPath());
-  QSize size;
-  layout->QueryOutputSize(options_.dpi, size.rwidth(), size.rheight());
   QString problem = target_.checkAgainst(document);
-  if (problem.isEmpty()) problem = target_.checkSize(size);
-  if (problem.isEmpty()) problem = target_.prepare();
   if (problem.isEmpty())
-    problem = format_.isVector ? drawShapes(document, cancel) : drawPixels(document, size, cancel, progress);
-  if (problem.isEmpty()) problem = target_.checkResult(size);
+    problem = format_.isVector ? writeShapes(document, cancel) : writePixels(document, cancel, progress);
   if (problem.isEmpty()) problem = target_.commit();
   return problem;
 }
 
-QString PageExport::drawShapes(SysCarto::MapDocument const& document, _ptr_t<TrackerCancel> const& cancel) const {
-  QString const problem = writePdf(document, target_.workingPath(), options_.dpi, cancel);
+QString PageExport::writeShapes(SysCarto::MapDocument const& document, _ptr_t<TrackerCancel> const& cancel) {
+  QSize size;
+  document.GetPageLayout()->QueryOutputSize(options_.dpi, size.rwidth(), size.rheight());
+  QString problem = target_.checkSize(size);
+  if (problem.isEmpty()) problem = target_.prepare();
+  if (!problem.isEmpty()) return problem;
+  problem = writePdf(document, target_.workingPath(), options_.dpi, cancel);
   if (cancel->IsCanced()) return tr("%1 was not written: interrupted.").arg(path_);
-  return problem.isEmpty() ? QString() : tr("%1 was not written: %2.").arg(path_, problem);
+  return problem.isEmpty() ? target_.checkResult(size) : tr("%1 was not written: %2.").arg(path_, problem);
 }
 
-QString PageExport::drawPixels(SysCarto::MapDocument& document, QSize const& size, _ptr_t<TrackerCancel> const& cancel,
-                               Progress const& progress) const {
-  reserveBlockCache(size.width());
-  auto const desktop = SysUtility::make<OffscreenDesktop>(document);
-  auto const command = SysUtility::make<ExportCommand>();
-  command->OnCreate(desktop->hook());
-
-  QProgressDialog& dialog = *command->GetProgressBar();
-  dialog.setRange(0, 100);
-  auto* const bar = dialog.findChild<QProgressBar*>();
-  if (progress && bar)
-    QObject::connect(bar, &QProgressBar::valueChanged, &dialog, [&](int percent) {
-      if (percent >= 0) progress(dialog.labelText(), percent);
-    });
-  SysCarto::GdalErrors const errors;
-  bool const reached = command->OutputOtherPicture(target_.workingPath(), options_.dpi, cancel,
-                                                   ExportCommand::DrawProgressCallback, command.get());
+QString PageExport::writePixels(SysCarto::MapDocument& document, _ptr_t<TrackerCancel> const& cancel,
+                                Progress const& progress) {
+  PageImage image(document, target_, format_, options_);
+  QString problem = image.plan();
+  if (problem.isEmpty()) problem = target_.checkSize(image.size(), image.bands());
+  if (problem.isEmpty()) problem = target_.prepare();
+  if (problem.isEmpty()) problem = image.write(cancel, progress);
   if (cancel->IsCanced()) return tr("%1 was not written: interrupted.").arg(path_);
-  return reached && !errors.hasFailure() ? QString() : target_.failure(errors);
+  if (problem.isEmpty()) problem = target_.checkResult(image.size(), image.bands());
+  return problem.isEmpty() ? putWorldFile(image.worldFile()) : problem;
+}
+
+// Before the image itself, so that no image lies without it; by the first and the last letter of the suffix.
+QString PageExport::putWorldFile(QByteArray const& content) const {
+  if (content.isEmpty()) return QString();
+  QFileInfo const image(target_.path());
+  QString const suffix = image.suffix().isEmpty() ? format_.suffixList().first() : image.suffix();
+  return SysUtility::FileSaver::save(image.path() + QLatin1Char('/') + image.completeBaseName() + QLatin1Char('.') +
+                                         suffix.front() + suffix.back() + QLatin1Char('w'),
+                                     content);
 }

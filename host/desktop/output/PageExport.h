@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ExportOptions.h"
 #include "ImageTarget.h"
 
 #include <SysUI/TrackerCancel.h>
@@ -9,15 +10,6 @@
 #include <functional>
 
 struct ImageFormat;
-
-/// What a person chooses for a page that becomes a file.
-struct ExportOptions {
-  static constexpr int defaultDpi = 300;
-  static constexpr int maxDpi = 100000;
-  static constexpr int maxVectorDpi = 2400;  ///< of pictures in place of what can't be shapes
-
-  int dpi = defaultDpi;  ///< pixels per inch of paper
-};
 
 /// The page of a document, as it is now, on its way to a file: pixels, which the plug-in's export draws, or shapes.
 ///
@@ -40,10 +32,10 @@ public:
                 Progress const& progress = {});
 
 private:
-  QString drawPixels(SysCarto::MapDocument& document, QSize const& size,
-                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel, Progress const& progress) const;
-  QString drawShapes(SysCarto::MapDocument const& document,
-                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
+  QString writePixels(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
+                      Progress const& progress);
+  QString writeShapes(SysCarto::MapDocument const& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
+  QString putWorldFile(QByteArray const& content) const;
 
   QString path_;
   ImageFormat const& format_;
