@@ -2259,6 +2259,81 @@
     </message>
 </context>
 <context>
+    <name>ExportArguments</name>
+    <message>
+        <source>The format, whatever the suffix: %1.</source>
+        <translation>Das Format, gleich welche Endung: %1.</translation>
+    </message>
+    <message>
+        <source>Pixels per inch of paper, 1 to %1; %2 if not given.</source>
+        <translation>Pixel je Zoll Papier, 1 bis %1; ohne Angabe %2.</translation>
+    </message>
+    <message>
+        <source>The image&apos;s width in pixels, in place of --dpi.</source>
+        <translation>Die Breite des Bildes in Pixeln, anstelle von --dpi.</translation>
+    </message>
+    <message>
+        <source>How the pixels are packed: %1.</source>
+        <translation>Wie die Pixel gepackt werden: %1.</translation>
+    </message>
+    <message>
+        <source>Of a JPEG or WebP, 1 to 100; %1 if not given.</source>
+        <translation>Die eines JPEG oder WebP, 1 bis 100; ohne Angabe %1.</translation>
+    </message>
+    <message>
+        <source>Leave out the page&apos;s background, in a PNG, TIFF or WebP.</source>
+        <translation>Den Hintergrund der Seite weglassen, in einem PNG, TIFF oder WebP.</translation>
+    </message>
+    <message>
+        <source>Cut the image to the elements of the page.</source>
+        <translation>Das Bild auf die Elemente der Seite zuschneiden.</translation>
+    </message>
+    <message>
+        <source>Tell where on the Earth the data frame of that name lies: in a TIFF itself, else by a world file beside the image.</source>
+        <translation>Angeben, wo auf der Erde der Kartenrahmen dieses Namens liegt: in einem TIFF selbst, sonst durch eine World-Datei neben dem Bild.</translation>
+    </message>
+    <message>
+        <source>export: --format takes one of %1, not &quot;%2&quot;.</source>
+        <translation>export: --format nimmt eines von %1, nicht &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>export: %1: &quot;.%2&quot; names no image format; use one of %3, or pass --format tiff or another.</source>
+        <translation>export: %1: &quot;.%2&quot; nennt kein Bildformat; verwenden Sie eines von %3, oder geben Sie --format tiff oder ein anderes an.</translation>
+    </message>
+    <message>
+        <source>export: --%1 takes a whole number from 1 to %2, not &quot;%3&quot;.</source>
+        <translation>export: --%1 nimmt eine ganze Zahl von 1 bis %2, nicht &quot;%3&quot;.</translation>
+    </message>
+    <message>
+        <source>export: give either --dpi or --width.</source>
+        <translation>export: Geben Sie entweder --dpi oder --width an.</translation>
+    </message>
+    <message>
+        <source>export: a %1 takes a --dpi of at most %2; its shapes are as fine at any.</source>
+        <translation>export: Ein %1 nimmt ein --dpi von höchstens %2; seine Formen sind bei jedem Wert gleich fein.</translation>
+    </message>
+    <message>
+        <source>export: --%1 is for images; a %2 has none of it.</source>
+        <translation>export: --%1 ist für Bilder; bei %2 hat es keine Bedeutung.</translation>
+    </message>
+    <message>
+        <source>export: --transparent needs a PNG, TIFF or WebP; a %1 can&apos;t be transparent.</source>
+        <translation>export: --transparent braucht ein PNG, TIFF oder WebP; ein %1 kann nicht durchsichtig sein.</translation>
+    </message>
+    <message>
+        <source>export: --quality is for a JPEG or a WebP that is not lossless.</source>
+        <translation>export: --quality ist für ein JPEG oder ein WebP, das nicht verlustfrei ist.</translation>
+    </message>
+    <message>
+        <source>export: a %1 is packed in one way only; leave out --compress.</source>
+        <translation>export: Ein %1 wird nur auf eine Art gepackt; lassen Sie --compress weg.</translation>
+    </message>
+    <message>
+        <source>export: of a %1, --compress takes one of %2, not &quot;%3&quot;.</source>
+        <translation>export: Bei %1 nimmt --compress eines von %2, nicht &quot;%3&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>ExportSubcommand</name>
     <message>
         <source>The .kdx document.</source>
@@ -2266,7 +2341,7 @@
     </message>
     <message>
         <source>Pixels per inch of paper, 1 to %1; %2 if not given.</source>
-        <translation>Pixel je Zoll Papier, 1 bis %1; %2, wenn nicht angegeben.</translation>
+        <translation type="vanished">Pixel je Zoll Papier, 1 bis %1; %2, wenn nicht angegeben.</translation>
     </message>
     <message>
         <source>Print neither the path nor the progress.</source>
@@ -2278,7 +2353,7 @@
     </message>
     <message>
         <source>export: --dpi takes a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation>export: --dpi erwartet eine ganze Zahl von 1 bis %1, nicht „%2“.</translation>
+        <translation type="vanished">export: --dpi erwartet eine ganze Zahl von 1 bis %1, nicht „%2“.</translation>
     </message>
     <message>
         <source>%1: this GDAL can&apos;t write %2; choose another format, or install a GDAL that can.</source>
@@ -2302,15 +2377,15 @@
     </message>
     <message>
         <source>The format, whatever the suffix: %1.</source>
-        <translation>Das Format, gleich welche Endung: %1.</translation>
+        <translation type="vanished">Das Format, gleich welche Endung: %1.</translation>
     </message>
     <message>
         <source>export: --format takes one of %1, not &quot;%2&quot;.</source>
-        <translation>export: --format nimmt eines von %1, nicht „%2“.</translation>
+        <translation type="vanished">export: --format nimmt eines von %1, nicht „%2“.</translation>
     </message>
     <message>
         <source>export: %1: &quot;.%2&quot; names no image format; use one of %3, or pass --format tiff or another.</source>
-        <translation>export: %1: „.%2“ nennt kein Bildformat; nehmen Sie eine der Endungen %3, oder geben Sie --format tiff oder ein anderes an.</translation>
+        <translation type="vanished">export: %1: „.%2“ nennt kein Bildformat; nehmen Sie eine der Endungen %3, oder geben Sie --format tiff oder ein anderes an.</translation>
     </message>
     <message>
         <source>Draw the page also where a data source or a picture can&apos;t be read, or not to its end.</source>
@@ -2326,7 +2401,7 @@
     </message>
     <message>
         <source>export: a PDF takes a --dpi of at most %1; its shapes are as fine at any.</source>
-        <translation>export: Eine PDF nimmt ein --dpi von höchstens %1; ihre Formen sind bei jedem gleich fein.</translation>
+        <translation type="vanished">export: Eine PDF nimmt ein --dpi von höchstens %1; ihre Formen sind bei jedem gleich fein.</translation>
     </message>
 </context>
 <context>
@@ -5364,7 +5439,7 @@
     </message>
     <message>
         <source>%1: a JPEG of %2 × %3 pixels takes %4 GB of memory, and this machine has %5 GB; give less DPI, or write a PNG or TIFF.</source>
-        <translation>%1: Ein JPEG von %2 × %3 Pixeln braucht %4 GB Arbeitsspeicher, dieser Rechner hat %5 GB; geben Sie weniger DPI an, oder schreiben Sie ein PNG oder TIFF.</translation>
+        <translation type="vanished">%1: Ein JPEG von %2 × %3 Pixeln braucht %4 GB Arbeitsspeicher, dieser Rechner hat %5 GB; geben Sie weniger DPI an, oder schreiben Sie ein PNG oder TIFF.</translation>
     </message>
     <message>
         <source>%1: no working folder can be made in %2: %3.</source>
@@ -5401,6 +5476,10 @@
     <message>
         <source>%1 was not written: its end is missing; is the disk full?</source>
         <translation>%1 wurde nicht geschrieben: Das Ende fehlt; ist die Platte voll?</translation>
+    </message>
+    <message>
+        <source>%1: a %2 of %3 × %4 pixels takes %5 GB of memory, and this machine has %6 GB; give less DPI, or write a PNG or TIFF.</source>
+        <translation>%1: Ein %2 von %3 × %4 Pixeln braucht %5 GB Arbeitsspeicher, und dieser Rechner hat %6 GB; wählen Sie weniger DPI, oder schreiben Sie ein PNG oder TIFF.</translation>
     </message>
 </context>
 <context>
@@ -6905,6 +6984,33 @@
     </message>
 </context>
 <context>
+    <name>PageImage</name>
+    <message>
+        <source>%1 was not written: there are no elements on the page to crop it to.</source>
+        <translation>%1 wurde nicht geschrieben: Auf der Seite sind keine Elemente, auf die es zugeschnitten werden könnte.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: the map of &quot;%2&quot; has no coordinate system that is known; give it one.</source>
+        <translation>%1 wurde nicht geschrieben: Die Karte von &quot;%2&quot; hat kein bekanntes Koordinatensystem; geben Sie ihr eines.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: no data frame is called &quot;%2&quot;; the page has %3.</source>
+        <translation>%1 wurde nicht geschrieben: Kein Kartenrahmen heißt &quot;%2&quot;; auf der Seite sind %3.</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>Zeichnen</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>Schreiben</translation>
+    </message>
+</context>
+<context>
     <name>PageTexts</name>
     <message>
         <source>Untitled</source>
@@ -7960,7 +8066,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>none</source>
-        <translation>nicht vorhanden</translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>Entry %1</source>

@@ -2259,6 +2259,81 @@
     </message>
 </context>
 <context>
+    <name>ExportArguments</name>
+    <message>
+        <source>The format, whatever the suffix: %1.</source>
+        <translation>输出格式，不论后缀：%1。</translation>
+    </message>
+    <message>
+        <source>Pixels per inch of paper, 1 to %1; %2 if not given.</source>
+        <translation>每英寸纸张的像素数，1 到 %1；默认为 %2。</translation>
+    </message>
+    <message>
+        <source>The image&apos;s width in pixels, in place of --dpi.</source>
+        <translation>图像宽度（像素），代替 --dpi。</translation>
+    </message>
+    <message>
+        <source>How the pixels are packed: %1.</source>
+        <translation>像素的压缩方式：%1。</translation>
+    </message>
+    <message>
+        <source>Of a JPEG or WebP, 1 to 100; %1 if not given.</source>
+        <translation>JPEG 或 WebP 的质量，1 到 100；默认为 %1。</translation>
+    </message>
+    <message>
+        <source>Leave out the page&apos;s background, in a PNG, TIFF or WebP.</source>
+        <translation>省略页面背景（PNG、TIFF 或 WebP）。</translation>
+    </message>
+    <message>
+        <source>Cut the image to the elements of the page.</source>
+        <translation>将图像裁剪到页面元素的范围。</translation>
+    </message>
+    <message>
+        <source>Tell where on the Earth the data frame of that name lies: in a TIFF itself, else by a world file beside the image.</source>
+        <translation>写明该名称的数据框在地球上的位置：TIFF 写在文件内，其他格式写入图像旁的坐标文件。</translation>
+    </message>
+    <message>
+        <source>export: --format takes one of %1, not &quot;%2&quot;.</source>
+        <translation>export：--format 只接受 %1 之一，而不是 &quot;%2&quot;。</translation>
+    </message>
+    <message>
+        <source>export: %1: &quot;.%2&quot; names no image format; use one of %3, or pass --format tiff or another.</source>
+        <translation>export：%1：&quot;.%2&quot; 不是图像格式；请使用 %3 之一，或指定 --format tiff 等。</translation>
+    </message>
+    <message>
+        <source>export: --%1 takes a whole number from 1 to %2, not &quot;%3&quot;.</source>
+        <translation>export：--%1 只接受 1 到 %2 的整数，而不是 &quot;%3&quot;。</translation>
+    </message>
+    <message>
+        <source>export: give either --dpi or --width.</source>
+        <translation>export：--dpi 和 --width 只能指定其一。</translation>
+    </message>
+    <message>
+        <source>export: a %1 takes a --dpi of at most %2; its shapes are as fine at any.</source>
+        <translation>export：%1 的 --dpi 最大为 %2；其图形在任何值下都同样精细。</translation>
+    </message>
+    <message>
+        <source>export: --%1 is for images; a %2 has none of it.</source>
+        <translation>export：--%1 只用于图像，不适用于 %2。</translation>
+    </message>
+    <message>
+        <source>export: --transparent needs a PNG, TIFF or WebP; a %1 can&apos;t be transparent.</source>
+        <translation>export：--transparent 需要 PNG、TIFF 或 WebP；%1 不支持透明。</translation>
+    </message>
+    <message>
+        <source>export: --quality is for a JPEG or a WebP that is not lossless.</source>
+        <translation>export：--quality 只用于 JPEG 或有损的 WebP。</translation>
+    </message>
+    <message>
+        <source>export: a %1 is packed in one way only; leave out --compress.</source>
+        <translation>export：%1 只有一种压缩方式；请去掉 --compress。</translation>
+    </message>
+    <message>
+        <source>export: of a %1, --compress takes one of %2, not &quot;%3&quot;.</source>
+        <translation>export：对于 %1，--compress 只接受 %2 之一，而不是 &quot;%3&quot;。</translation>
+    </message>
+</context>
+<context>
     <name>ExportSubcommand</name>
     <message>
         <source>The .kdx document.</source>
@@ -2266,7 +2341,7 @@
     </message>
     <message>
         <source>Pixels per inch of paper, 1 to %1; %2 if not given.</source>
-        <translation>纸面每英寸的像素数，1 到 %1；不给出时为 %2。</translation>
+        <translation type="vanished">纸面每英寸的像素数，1 到 %1；不给出时为 %2。</translation>
     </message>
     <message>
         <source>Print neither the path nor the progress.</source>
@@ -2278,7 +2353,7 @@
     </message>
     <message>
         <source>export: --dpi takes a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation>export: --dpi 须为 1 到 %1 的整数，而不是“%2”。</translation>
+        <translation type="vanished">export: --dpi 须为 1 到 %1 的整数，而不是“%2”。</translation>
     </message>
     <message>
         <source>%1: this GDAL can&apos;t write %2; choose another format, or install a GDAL that can.</source>
@@ -2302,15 +2377,15 @@
     </message>
     <message>
         <source>The format, whatever the suffix: %1.</source>
-        <translation>格式，不论扩展名：%1。</translation>
+        <translation type="vanished">格式，不论扩展名：%1。</translation>
     </message>
     <message>
         <source>export: --format takes one of %1, not &quot;%2&quot;.</source>
-        <translation>export：--format 可取 %1，而不是“%2”。</translation>
+        <translation type="vanished">export：--format 可取 %1，而不是“%2”。</translation>
     </message>
     <message>
         <source>export: %1: &quot;.%2&quot; names no image format; use one of %3, or pass --format tiff or another.</source>
-        <translation>export：%1：“.%2”不是图像格式的扩展名；请使用 %3 之一，或加上 --format tiff 等选项。</translation>
+        <translation type="vanished">export：%1：“.%2”不是图像格式的扩展名；请使用 %3 之一，或加上 --format tiff 等选项。</translation>
     </message>
     <message>
         <source>Draw the page also where a data source or a picture can&apos;t be read, or not to its end.</source>
@@ -2326,7 +2401,7 @@
     </message>
     <message>
         <source>export: a PDF takes a --dpi of at most %1; its shapes are as fine at any.</source>
-        <translation>export：PDF 的 --dpi 最多为 %1；无论取值多少，其图形都同样精细。</translation>
+        <translation type="vanished">export：PDF 的 --dpi 最多为 %1；无论取值多少，其图形都同样精细。</translation>
     </message>
 </context>
 <context>
@@ -5364,7 +5439,7 @@
     </message>
     <message>
         <source>%1: a JPEG of %2 × %3 pixels takes %4 GB of memory, and this machine has %5 GB; give less DPI, or write a PNG or TIFF.</source>
-        <translation>%1：%2 × %3 像素的 JPEG 需要 %4 GB 内存，本机有 %5 GB；请降低 DPI，或写为 PNG 或 TIFF。</translation>
+        <translation type="vanished">%1：%2 × %3 像素的 JPEG 需要 %4 GB 内存，本机有 %5 GB；请降低 DPI，或写为 PNG 或 TIFF。</translation>
     </message>
     <message>
         <source>%1: no working folder can be made in %2: %3.</source>
@@ -5401,6 +5476,10 @@
     <message>
         <source>%1 was not written: its end is missing; is the disk full?</source>
         <translation>未写入 %1：缺少结尾；磁盘是否已满？</translation>
+    </message>
+    <message>
+        <source>%1: a %2 of %3 × %4 pixels takes %5 GB of memory, and this machine has %6 GB; give less DPI, or write a PNG or TIFF.</source>
+        <translation>%1：%3 × %4 像素的 %2 需要 %5 GB 内存，而本机只有 %6 GB；请降低 DPI，或写成 PNG 或 TIFF。</translation>
     </message>
 </context>
 <context>
@@ -6902,6 +6981,33 @@
     <message>
         <source>%1 × %2 cm</source>
         <translation>%1 × %2 厘米</translation>
+    </message>
+</context>
+<context>
+    <name>PageImage</name>
+    <message>
+        <source>%1 was not written: there are no elements on the page to crop it to.</source>
+        <translation>%1 未写出：页面上没有可供裁剪的元素。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: the map of &quot;%2&quot; has no coordinate system that is known; give it one.</source>
+        <translation>%1 未写出：&quot;%2&quot; 的地图没有已知的坐标系；请为其指定。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: no data frame is called &quot;%2&quot;; the page has %3.</source>
+        <translation>%1 未写出：没有名为 &quot;%2&quot; 的数据框；页面上有 %3。</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Drawing</source>
+        <translation>正在绘制</translation>
+    </message>
+    <message>
+        <source>Writing</source>
+        <translation>正在写出</translation>
     </message>
 </context>
 <context>

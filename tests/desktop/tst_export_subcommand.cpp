@@ -1,6 +1,7 @@
 #include "desktop/Executable.h"
 
 #include <gdal_priv.h>
+#include <ogr_spatialref.h>
 
 #include <sys/types.h>
 #include <unistd.h>
@@ -46,6 +47,9 @@ private slots:
     row("jpg and jpeg are one", {"a.jpeg", "--format", "jpg"}, "JPEG");
     row("no suffix is a TIFF", {"a"}, "GTiff");
     row("a format against a suffix that names none", {"a.pdf", "--format", "PNG"}, "PNG");
+    row("bmp", {"a.bmp"}, "BMP");
+    row("webp", {"a.webp"}, "WEBP");
+    row("webp that loses nothing", {"a.webp", "--compress", "lossless"}, "WEBP");
   }
   void writesTheFormatOfTheSuffix() {
     auto const [arguments, driver] = fetched<QStringList, QString>();
@@ -61,8 +65,63 @@ private slots:
     QVERIFY(image);
     QCOMPARE(QString(image->GetDriverName()), driver);
     QCOMPARE(QSize(image->GetRasterXSize(), image->GetRasterYSize()), QSize(width, height));
+
+    // What it says of itself, as another reader finds it.
+    QImage const read(folder_.path(name));
+    QCOMPARE(read.size(), QSize(width, height));
+    bool const isBmp = driver == "BMP", isWebp = driver == "WEBP";
+    if (!isWebp) QVERIFY2(qAbs(read.dotsPerMeterX() - 11811) <= 1, qPrintable(QString::number(read.dotsPerMeterX())));
+    if (!isBmp) QCOMPARE(read.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    QCOMPARE(contentOf(folder_.path(name)).contains("<rdf:li xml:lang=\"x-default\">page</rdf:li>"), !isBmp);
     QVERIFY(QFile::remove(folder_.path(name)));
     QVERIFY(contents(folder_.path()) == before);
+  }
+
+  void cropsAndLeavesOutTheBackground() {
+    auto const drawn = [this](QStringList const& options) {
+      QStringList const arguments{"export", "page.kdx", "a.png", "--width"};
+      Outcome const outcome = run(arguments + options, folder_.path());
+      QImage const image(folder_.path("a.png"));
+      return outcome.err.isEmpty() && QFile::remove(folder_.path("a.png")) ? image : QImage();
+    };
+    QImage const cropped = drawn({"600", "--crop"});
+    QVERIFY2(cropped.width() == 600 && qAbs(cropped.height() - 400) <= 4,
+             qPrintable(QString::number(cropped.height())));
+    QImage const page = drawn({"800"}), clear = drawn({"800", "--transparent"});
+    QCOMPARE(page.size(), QSize(800, 600));
+    QCOMPARE(page.pixelColor(10, 10), QColor(Qt::white));
+    QCOMPARE(clear.pixelColor(10, 10).alpha(), 0);
+    QCOMPARE(clear.pixelColor(400, 300), page.pixelColor(400, 300));
+  }
+
+  // A map of 600 × 400 km in a frame of 6 × 4 cm, a centimetre from the page's left and upper edges.
+  void tellsWhereItsMapLies() {
+    folder_.writeVariant("utm.kdx", json("{'maps':[{'name':'M','coordinateSystem':'EPSG:32633','bounds':"
+                                         "[200000,5000000,800000,5400000]}]}"));
+    auto const arguments = [](QString const& image, QString const& frame) {
+      return QStringList{"export", "utm.kdx", image, "--width", "800", "--georeference", frame};
+    };
+    QCOMPARE(run(arguments("a.png", "M"), folder_.path()).err, QString());
+    QCOMPARE(run(arguments("a.tif", "World"), folder_.path()).err, QString());
+    QVector<double> file;
+    for (QByteArray const& line : contentOf(folder_.path("a.pgw")).trimmed().split('\n')) file << line.toDouble();
+    QCOMPARE(file.size(), 6);
+    double const pixel = 600000.0 / 600;
+    QVERIFY(qAbs(file[0] - pixel) < pixel / 100 && qAbs(file[3] + pixel) < pixel / 100);
+    QVERIFY2(qAbs(file[4] - 100500) < 2 * pixel && qAbs(file[5] - 5499500) < 2 * pixel,
+             qPrintable(QString("%1 %2").arg(file[4], 0, 'f').arg(file[5], 0, 'f')));
+
+    std::unique_ptr<GDALDataset> const image(
+        static_cast<GDALDataset*>(GDALOpen(qPrintable(folder_.path("a.tif")), GA_ReadOnly)));
+    double of[6];
+    QCOMPARE(image->GetGeoTransform(of), CE_None);
+    QVERIFY(qAbs(of[0] + of[1] / 2 - file[4]) < 1e-3 && qAbs(of[3] + of[5] / 2 - file[5]) < 1e-3);
+    QCOMPARE(QString(image->GetSpatialRef()->GetAuthorityCode(nullptr)), QString("32633"));
+
+    Outcome const refused = run(arguments("b.png", "N"), folder_.path());
+    QCOMPARE(refused.status, 1);
+    QVERIFY2(refused.err.contains("no data frame is called \"N\"; the page has \"M\""), qPrintable(refused.err));
+    for (QString const name : {"a.png", "a.pgw", "a.tif"}) QVERIFY(QFile::remove(folder_.path(name)));
   }
 
   void quietPrintsNothing() {

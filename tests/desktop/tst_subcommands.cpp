@@ -35,8 +35,13 @@ private slots:
     row("a DPI beyond the most", "export page.kdx a.png --dpi 100001", "not \"100001\"");
     row("a DPI beyond int", "export page.kdx a.png --dpi 4294967396", "not \"4294967396\"");
     row("a suffix that names no format", "export page.kdx a.gif", ".png, .jpg, .jpeg, .bmp, .tif, .tiff");
+    row("two sizes", "export page.kdx a.png --dpi 30 --width 30", "either --dpi or --width");
+    row("a JPEG without ground", "export page.kdx a.jpg --transparent", "can't be transparent");
+    row("no way of packing", "export page.kdx a.tif --compress zip", "none, lzw, deflate, zstd");
+    row("pixels of a PDF", "export page.kdx a.pdf --width 30", "--width is for images");
     row("too fine a PDF", "export page.kdx a.pdf --dpi 2401", "2400");
-    row("a format that there is not", "export page.kdx a.png --format gif", "png, jpeg, bmp, tiff, pdf, not \"gif\"");
+    row("a format that there is not", "export page.kdx a.png --format gif",
+        "png, jpeg, bmp, tiff, webp, pdf, not \"gif\"");
     row("commands with an operand", "commands page.kdx", "one argument too many");
     row("a format that there is not", "schema page.kdx", "document or style, not \"page.kdx\"");
     row("no such language", "info page.kdx --language fr", "\"fr\" is none of the languages: de, en, zh_CN.");

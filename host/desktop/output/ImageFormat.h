@@ -4,8 +4,8 @@
 
 /// A format in which a page is written as an image.
 struct ImageFormat {
-  char const* name;       ///< as a command line has it
-  char const* suffixes;   ///< separated by blanks, without dots; the first one makes the plug-in write the format
+  char const* name;         ///< as a command line has it
+  char const* suffixes;     ///< separated by blanks, without dots; the first one makes the plug-in write the format
   char const* driver;       ///< GDAL's name; of a vector format just a name
   bool isOfPlugin = true;   ///< known to the plug-in's export command, too
   bool isVector = false;    ///< of shapes
@@ -14,8 +14,8 @@ struct ImageFormat {
 
   /// A way in which the pixels of some format are packed.
   struct Compression {
-    char const* name;    ///< as a command line has it
-    char const* driver;  ///< of the format
+    char const* name;     ///< as a command line has it
+    char const* driver;   ///< of the format
     char const* options;  ///< GDAL's creation options, separated by blanks
   };
 

@@ -1,7 +1,8 @@
 #include "PdfFile.h"
 
+#include "host/desktop/output/XmpPacket.h"
+
 #include <QColorSpace>
-#include <QXmlStreamWriter>
 
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
@@ -22,26 +23,6 @@ QPDFObjectHandle numbers(std::initializer_list<double> values) {
 // One string in the one way of telling it, words in the other.
 QString keywordsIn(SysCarto::DocumentInformation const& information) {
   return information.keywords.join(QStringLiteral(", "));
-}
-
-QString const rdf = QStringLiteral("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
-QString const dc = QStringLiteral("http://purl.org/dc/elements/1.1/");
-
-// A property of Dublin Core as a list of that kind; nothing where there is nothing to be told.
-void writeProperty(QXmlStreamWriter& xml, char const* property, char const* list, QStringList values) {
-  values.removeAll(QString());
-  if (values.isEmpty()) return;
-  bool const isOfLanguages = qstrcmp(list, "Alt") == 0;
-  xml.writeStartElement(dc, QLatin1String(property));
-  xml.writeStartElement(rdf, QLatin1String(list));
-  for (QString const& value : qAsConst(values)) {
-    xml.writeStartElement(rdf, QStringLiteral("li"));
-    if (isOfLanguages) xml.writeAttribute(QStringLiteral("xml:lang"), QStringLiteral("x-default"));
-    xml.writeCharacters(value);
-    xml.writeEndElement();
-  }
-  xml.writeEndElement();
-  xml.writeEndElement();
 }
 
 QRectF boundsIn(QPolygonF const& corners, QTransform const& toPoints) { return toPoints.map(corners).boundingRect(); }
@@ -159,35 +140,12 @@ void PdfFile::describe() {
 }
 
 QByteArray PdfFile::metadata() const {
-  QString const pdf = QStringLiteral("http://ns.adobe.com/pdf/1.3/");
-  QString const pdfa = QStringLiteral("http://www.aiim.org/pdfa/ns/id/");
-  QByteArray bytes;
-  QXmlStreamWriter xml(&bytes);
-  xml.writeProcessingInstruction(QStringLiteral("xpacket"),
-                                 QStringLiteral("begin=\"\ufeff\" id=\"W5M0MpCehiHzreSzNTczkc9d\""));
-  xml.writeNamespace(QStringLiteral("adobe:ns:meta/"), QStringLiteral("x"));
-  xml.writeStartElement(QStringLiteral("adobe:ns:meta/"), QStringLiteral("xmpmeta"));
-  xml.writeNamespace(rdf, QStringLiteral("rdf"));
-  xml.writeStartElement(rdf, QStringLiteral("RDF"));
-  xml.writeNamespace(dc, QStringLiteral("dc"));
-  xml.writeNamespace(pdf, QStringLiteral("pdf"));
-  xml.writeNamespace(pdfa, QStringLiteral("pdfaid"));
-  xml.writeStartElement(rdf, QStringLiteral("Description"));
-  xml.writeAttribute(rdf, QStringLiteral("about"), QString());
-  xml.writeTextElement(pdfa, QStringLiteral("part"), QStringLiteral("2"));
-  xml.writeTextElement(pdfa, QStringLiteral("conformance"), QStringLiteral("B"));
-  xml.writeTextElement(pdf, QStringLiteral("Producer"), producer);
-  QString const keywords = keywordsIn(information_);
-  if (!keywords.isEmpty()) xml.writeTextElement(pdf, QStringLiteral("Keywords"), keywords);
-  writeProperty(xml, "title", "Alt", {information_.title});
-  writeProperty(xml, "creator", "Seq", {information_.author});
-  writeProperty(xml, "description", "Alt", {information_.subject});
-  writeProperty(xml, "subject", "Bag", information_.keywords);
-  writeProperty(xml, "language", "Bag", {information_.language});
-  writeProperty(xml, "rights", "Alt", {information_.credits});
-  for (int i = 0; i < 3; ++i) xml.writeEndElement();
-  xml.writeProcessingInstruction(QStringLiteral("xpacket"), QStringLiteral("end=\"w\""));
-  return bytes;
+  QString const pdf = QStringLiteral("http://ns.adobe.com/pdf/1.3/"), pdfPrefix = QStringLiteral("pdf");
+  QString const archive = QStringLiteral("http://www.aiim.org/pdfa/ns/id/"), archivePrefix = QStringLiteral("pdfaid");
+  return xmpPacket(information_, {{archive, archivePrefix, QStringLiteral("part"), QStringLiteral("2")},
+                                  {archive, archivePrefix, QStringLiteral("conformance"), QStringLiteral("B")},
+                                  {pdf, pdfPrefix, QStringLiteral("Producer"), producer},
+                                  {pdf, pdfPrefix, QStringLiteral("Keywords"), keywordsIn(information_)}});
 }
 
 QString PdfFile::write(QString const& path) {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+/// What a person chooses for a page that becomes a file.
+struct ExportOptions {
+  static constexpr int defaultDpi = 300;
+  static constexpr int maxDpi = 100000;
+  static constexpr int maxVectorDpi = 2400;  ///< of pictures in place of what can't be shapes
+  static constexpr int maxWidthPx = 10000000;
+  static constexpr int defaultQuality = 75;  ///< as GDAL has it
+
+  int dpi = defaultDpi;  ///< pixels per inch of paper
+
+  // Of images alone.
+  int widthPx = 0;               ///< in place of a resolution; 0 for none
+  QString compression;           ///< one of `ImageFormat::compression`; empty for what the format usually has
+  int quality = defaultQuality;  ///< 1 to 100, of formats that have one
+  bool transparent = false;      ///< without the page's background
+  bool crop = false;             ///< to the elements
+  QString georeference;          ///< the data frame, by its own or its map's name, whose place on the Earth it tells
+};

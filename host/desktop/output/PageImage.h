@@ -1,0 +1,67 @@
+#pragma once
+
+#include "ExportOptions.h"
+#include "ImageTarget.h"
+
+#include <SysUI/TrackerCancel.h>
+
+#include <QRect>
+#include <QSizeF>
+
+#include <array>
+#include <functional>
+#include <optional>
+
+class GDALDataset;
+struct ImageTags;
+
+/// The pixels of a page, drawn by the plug-in's renderer, tile by tile, into a file of GDAL's. What is in memory at a
+/// time is one row of tiles, whatever the size of the image; but JPEG and WebP take the whole of it.
+///
+/// What answers a text answers an empty one, or a sentence for people that names the file.
+class PageImage {
+  Q_DECLARE_TR_FUNCTIONS(PageImage)
+
+public:
+  /// Told what is being done, and how far it is, in percent.
+  using Progress = std::function<void(QString const& what, int percent)>;
+
+  /// The document has a page; it is borrowed, and so is the target.
+  PageImage(SysCarto::MapDocument& document, ImageTarget const& target, ImageFormat const& format,
+            ExportOptions const& options);
+
+  /// Works out what the image will be.
+  QString plan();
+
+  QSize size() const { return part_.size(); }
+  int bands() const { return options_.transparent ? 4 : 3; }
+
+  /// Draws and writes, into the target's working path. Where that is cancelled, the answer has no meaning.
+  QString write(SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel, Progress const& progress) const;
+
+  /// Empty where there is none. After `plan`.
+  QByteArray worldFile() const;
+
+private:
+  // Where a map lies on the image: GDAL's six numbers, and the system as a WKT.
+  struct Georeference {
+    std::array<double, 6> transform;
+    QString system;
+  };
+
+  QRectF elementsCm(QSizeF const& pageCm) const;
+  QString planGeoreference();
+  bool drawTiles(GDALDataset& dataset, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
+                 Progress const& progress) const;
+  bool convert(GDALDataset& pixels, ImageTags const& tags, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
+               Progress const& progress) const;
+
+  SysCarto::MapDocument& document_;
+  ImageTarget const& target_;
+  ImageFormat const& format_;
+  ExportOptions const options_;
+  QSize whole_;  // the page in pixels
+  QRect part_;   // of it, that becomes the image
+  double pxPerInch_ = 0;
+  std::optional<Georeference> georeference_;
+};
