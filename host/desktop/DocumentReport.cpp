@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/document/DocumentSettings.h"
 #include "host/SysCarto/document/ElementFields.h"
+#include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/SysCarto/maps/VectorLayer.h"
@@ -94,7 +95,7 @@ QJsonObject elementJson(_ptr_t<Element> const& element, bool selected) {
                      {QStringLiteral("envelope"), rectangle(element->GetEnvelope())},
                      {QStringLiteral("selected"), selected},
                      {QStringLiteral("locked"), SysCarto::isLocked(*element)},
-                     {QStringLiteral("hidden"), !element->IsVisible()}};
+                     {QStringLiteral("hidden"), !SysCarto::ElementHost::isSwitchedOn(*element)}};
 }
 
 QJsonArray elementsJson(IElementContainer const* container) {

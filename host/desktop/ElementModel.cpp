@@ -5,6 +5,7 @@
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/document/ElementFields.h"
 #include "host/SysCarto/elements/ElementContainer.h"
+#include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/elements/TextElement.h"
 
 #include <SysCarto/GroupElement.h>
@@ -240,7 +241,7 @@ QString ElementModel::textOf(Node const& node) const {
 }
 
 QVariant ElementModel::iconOf(Node const& node, int column) const {
-  QString const name = column == HiddenColumn   ? (node.element->IsVisible() ? "eye" : "eye-off")
+  QString const name = column == HiddenColumn ? (SysCarto::ElementHost::isSwitchedOn(*node.element) ? "eye" : "eye-off")
                        : column == LockedColumn ? (SysCarto::isLocked(*node.element) ? "lock" : "")
                                                 : kindIconOf(*node.element);
   if (name.isEmpty()) return {};
@@ -252,7 +253,7 @@ QVariant ElementModel::data(QModelIndex const& index, int role) const {
   if (!index.isValid()) return {};
   Node const& node = *nodeOf(index);
   bool const isName = index.column() == NameColumn;
-  bool const isHidden = !node.element->IsVisible();
+  bool const isHidden = !SysCarto::ElementHost::isSwitchedOn(*node.element);
   switch (role) {
     case Qt::DisplayRole: return isName ? textOf(node) : QVariant();
     case Qt::EditRole: return isName ? node.element->GetName() : QVariant();
@@ -310,7 +311,7 @@ bool ElementModel::setData(QModelIndex const& index, QVariant const& value, int 
 void ElementModel::toggle(QModelIndex const& index) {
   if (!index.isValid()) return;
   Node const& node = *nodeOf(index);
-  if (index.column() == HiddenColumn) set(node, "hidden", node.element->IsVisible());
+  if (index.column() == HiddenColumn) set(node, "hidden", SysCarto::ElementHost::isSwitchedOn(*node.element));
   if (index.column() == LockedColumn) set(node, "locked", !SysCarto::isLocked(*node.element));
 }
 

@@ -163,6 +163,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("focus"),      text("NAME"),         isAnything,   &RunSteps::focus,   {}},
       {text("click"),      text("X,Y"),          isPoint,      &RunSteps::clickAt, {}},
       {text("drag"),       text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::drag,    {}},
+      {text("page"),       text("N|NAME|none"),  isAnything,   &RunSteps::showPage, {}},
       {text("scale"),      text("1:N"),          isScale,      &RunSteps::setScale, {}},
       {text("extent"),     text("X1,Y1,X2,Y2"),  areTwoPoints, &RunSteps::setExtent, {}, nullptr, unclearExtent},
       {text("show"),       text("LAYER"),        isAnything,   &RunSteps::showLayers, {}},
@@ -377,7 +378,7 @@ QString RunSteps::setVisible(QString const& layerName, bool visible) {
 QString RunSteps::withThings(QString const& what, std::function<QString(SysCarto::Editable::List const&)> const& use) {
   auto const things = SysCarto::Editable::named(bench_.session().document(), what);
   if (!things.isEmpty()) return use(things);
-  return tr("there is no \"%1\"; write document, page, selection, an element's name or #HANDLE, map:NAME, or "
+  return tr("there is no \"%1\"; write document, page, series, selection, an element's name or #HANDLE, map:NAME, or "
             "layer:MAP/LAYER; plotvane info lists them.")
       .arg(what);
 }
@@ -456,8 +457,7 @@ QString RunSteps::rotate(QString const& degrees) {
   return layout && turnSelection(*layout, numbersIn(degrees).first())
              ? QString()
              : tr("nothing that can be turned is selected; texts, pictures, markers, lines, polygons and groups of "
-                  "these "
-                  "can.");
+                  "these can.");
 }
 
 QString RunSteps::identify(QString const& place) {

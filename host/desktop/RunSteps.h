@@ -45,6 +45,7 @@ private:
   QString select(QString const& names);
   QString show(QString const& view);
   QString focus(QString const& name);
+  QString showPage(QString const& page) { return bench_.series().show(page); }
   QString clickAt(QString const& point);
   QString drag(QString const& points);
   QString setScale(QString const& scale);

@@ -21,6 +21,7 @@ Workbench::Workbench(std::function<void(HostCommands&)> const& addCommands)
   if (addCommands) addCommands(host);
   commands_ = std::make_unique<CommandSet>(host, plugin_, desktop_->hook(), *views_);
   QObject::connect(&session_, &DocumentSession::replaced, views_.get(), &DocumentViews::follow);
+  series_ = std::make_unique<SeriesView>(session_, *views_);
   QObject::connect(&session_, &DocumentSession::historyChanged, views_.get(), &DocumentViews::redraw);
 }
 

@@ -6,6 +6,7 @@
 #include "DocumentViews.h"
 #include "HostCommands.h"
 #include "PluginLibrary.h"
+#include "series/SeriesView.h"
 
 #include <functional>
 #include <memory>
@@ -40,6 +41,7 @@ public:
 
   DocumentSession& session() { return session_; }
   DocumentViews& views() { return *views_; }
+  SeriesView& series() { return *series_; }
   ViewDesktop& desktop() { return *desktop_; }
   PluginLibrary const& plugin() const { return plugin_; }
   CommandSet& commands() { return *commands_; }
@@ -49,6 +51,7 @@ private:
   DocumentSession session_;
   SysUtility::_ptr_t<DocumentViews> views_;  // without a Qt parent for long: the workbench owns it
   SysUtility::_ptr_t<ViewDesktop> desktop_;
+  std::unique_ptr<SeriesView> series_;
   PluginLibrary plugin_;
   std::unique_ptr<CommandSet> commands_;
 };

@@ -3,6 +3,7 @@
 #include "DocumentSettings.h"
 #include "ElementFields.h"
 #include "MapSettings.h"
+#include "SeriesSettings.h"
 
 #include "host/SysCarto/document/LayerSettings.h"
 #include "host/SysCarto/document/SurroundFields.h"
@@ -96,6 +97,16 @@ void listLayout(Fields& fields, PageLayout& layout, DocumentContext const& conte
   if (!context.maps.isEmpty()) layout.SetFocusMap(context.maps.at(focus));
 }
 
+void listSeries(Fields& fields, PageLayout& layout, DocumentContext const& context) {
+  SeriesSettings settings = fields.isReading() ? SeriesSettings() : SeriesSettings::of(layout, context);
+  settings.lastMap = lastMap(fields, context);
+  bool const isThere = fields.optionalObject(
+      {"series", QT_TRANSLATE_NOOP("Fields", "Series"),
+       QT_TRANSLATE_NOOP("Fields", "A page for each feature of a layer, or for each row of a table.")},
+      settings.series.isUsed(), [&](Fields& own) { settings.list(own); });
+  if (fields.isReading() && fields.ok() && isThere) settings.applyTo(layout, context);
+}
+
 void noteUnusedMaps(PageLayout const& layout, DocumentContext& context) {
   auto const used = mapsOf(layout);
   for (int i = 0; i < context.maps.size(); ++i)
@@ -175,6 +186,7 @@ void DocumentContent::list(Fields& fields, DocumentContext& context) {
                  {"elements", QT_TRANSLATE_NOOP("Fields", "Elements"),
                   QT_TRANSLATE_NOOP("Fields", "What lies on the page, the lowest first."), "element"},
                  *layout->GetGraphicsContainer(), {context});
+  if (fields.ok()) listSeries(fields, *layout, context);
   if (fields.ok()) listLayout(fields, *layout, context);
   if (!fields.isReading() || !fields.ok()) return;
   noteUnusedMaps(*layout, context);

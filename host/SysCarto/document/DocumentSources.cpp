@@ -3,6 +3,7 @@
 #include "DocumentFields.h"
 
 #include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/elements/PictureElement.h"
 
 #include <SysCarto/GroupElement.h>
@@ -49,6 +50,9 @@ void visitSources(PageLayout const& layout, OnLayer const& onLayer, OnPicture co
 
 QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
   QVector<DocumentSource> sources;
+  SourceSettings const& ofSeries = PageLayoutHost::series(layout).source;
+  if (!ofSeries.file.isEmpty()) sources.append({ofSeries.file, QString()});
+  for (TableJoin const& join : ofSeries.joins) sources.append({join.file, QString()});
   visitSources(
       layout,
       [&](Map const&, VectorLayer const& layer) {

@@ -6,6 +6,7 @@
 #include "FrameSettings.h"
 #include "LayerSettings.h"
 #include "MapSettings.h"
+#include "SeriesSettings.h"
 #include "SurroundFields.h"
 
 #include "host/SysCarto/elements/ElementContainer.h"
@@ -261,6 +262,18 @@ Editable::Pointer Editable::document(MapDocument const& document) {
 Editable::Pointer Editable::page(MapDocument const& document) { return pageAs<PageSettings>(document); }
 Editable::Pointer Editable::aids(MapDocument const& document) { return pageAs<PageAidsSettings>(document); }
 
+Editable::Pointer Editable::series(MapDocument const& document) {
+  using EditableSeries = EditableSettings<PageLayout, SeriesSettings>;
+  auto const layout = document.GetPageLayout();
+  if (!layout) return nullptr;
+  return std::make_shared<EditableSeries>(
+      layout, EditableSeries::Uses{Texts::tr("the series"), &SeriesSettings::of,
+                                   [](PageLayout& one, SeriesSettings const& settings, DocumentContext& context) {
+                                     settings.applyTo(one, context);
+                                   },
+                                   [](PageLayout const& one) { return attributesOf(coverageOf(one)); }});
+}
+
 Editable::Pointer Editable::element(MapDocument const& document, ElementHandle handle) {
   return std::make_shared<EditableElement>(document, handle);
 }
@@ -315,6 +328,8 @@ Editable::List Editable::named(MapDocument const& document, QString const& text)
     things << Editable::document(document);
   } else if (text == QLatin1String("page")) {
     if (auto const thing = page(document)) things << thing;
+  } else if (text == QLatin1String("series")) {
+    if (auto const thing = series(document)) things << thing;
   } else {
     auto const* const container = elementsOf(document);
     auto const elements =

@@ -43,13 +43,15 @@ public:
   static Pointer page(MapDocument const& document);
   /// Its margins, guides and grid alone: a step of these leaves the rest of the page as it is.
   static Pointer aids(MapDocument const& document);
+  /// What the layout says of a series of pages, whether there is one or not; null without a layout.
+  static Pointer series(MapDocument const& document);
   static Pointer element(MapDocument const& document, ElementHandle handle);
   static Pointer map(SysUtility::_ptr_t<Map> const& map);
   /// Null for a layer of a kind that can't be stored.
   static Pointer layer(SysUtility::_ptr_t<Map> const& map, SysUtility::_ptr_t<Layer> const& layer);
   static Pointer layerGroup(SysUtility::_ptr_t<LayerGroup> const& group);
 
-  /// Those that a text names: `document`, `page`, `selection`, the NAME of elements or `#HANDLE`, `map:NAME` or
+  /// Those that a text names: `document`, `page`, `series`, `selection`, the NAME of elements or `#HANDLE`, `map:NAME` or
   /// `layer:MAP/LAYER` (maps and layers by number, too: `map:#0`), where LAYER may be a group of layers. Empty where
   /// there are none.
   static List named(MapDocument const& document, QString const& text);

@@ -22,9 +22,11 @@ struct CommonSettings {
   QString name;
   bool hidden = false;
   bool locked = false;
+  QString pages;
 
   static CommonSettings of(Element const& element) {
-    return {element.GetHandle(), element.GetName(), !element.IsVisible(), isLocked(element)};
+    return {element.GetHandle(), element.GetName(), !ElementHost::isSwitchedOn(element), isLocked(element),
+            ElementHost::pages(element)};
   }
 
   void list(Fields& fields, ElementScope const& scope) {
@@ -39,6 +41,12 @@ struct CommonSettings {
     fields.flag({"locked", QT_TRANSLATE_NOOP("Fields", "Locked"),
                  QT_TRANSLATE_NOOP("Fields", "Whether the mouse leaves it alone, and the map of a data frame.")},
                 locked, false);
+    if (scope.depth > 0 || scope.onMap) return;
+    fields.text({"pages", QT_TRANSLATE_NOOP("Fields", "Pages"),
+                 QT_TRANSLATE_NOOP("Fields",
+                                   "On which pages of a series it stands: first, last, odd, even, numbers as in "
+                                   "“1-3,7”, or a condition on the attributes of the page's feature; empty for all.")},
+                pages, SysUtility::TextKind::Line, QString());
   }
 
   void applyTo(Element& element) const {
@@ -46,6 +54,7 @@ struct CommonSettings {
     element.SetName(name);
     element.SetVisible(!hidden);
     setLocked(element, locked);
+    ElementHost::setPages(element, pages);
   }
 
 private:

@@ -169,13 +169,13 @@ TextElementSettings TextElementSettings::of(TextElement const& element, ElementS
 
 void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
   listPosition(fields, position, scope);
-  fields.text(
-      {"text", QT_TRANSLATE_NOOP("Fields", "Text"),
-       scope.onMap ? QT_TRANSLATE_NOOP("Fields", "What it says.")
-                   : QT_TRANSLATE_NOOP("Fields",
-                                       "What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], "
-                                       "[credits], [title], [author] and [page] are filled in while it is drawn.")},
-      text, TextKind::Lines);
+  fields.text({"text", QT_TRANSLATE_NOOP("Fields", "Text"),
+               scope.onMap ? QT_TRANSLATE_NOOP("Fields", "What it says.")
+                           : QT_TRANSLATE_NOOP("Fields",
+                                               "What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], "
+                                               "[credits], [title], [author], [page], [pages], [field:NAME] and "
+                                               "[neighbour:north] are filled in while it is drawn.")},
+              text, TextKind::Lines);
   QStringList const unknown = scope.onMap || !fillsPlaceholders ? QStringList() : Placeholders::unknownIn(text);
   if (!unknown.isEmpty())
     fields.remark("text", Texts::tr("%1 is no placeholder and stands as written; there are [%2].")

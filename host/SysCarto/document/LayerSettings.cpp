@@ -40,18 +40,6 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(LayerSettings)
 };
 
-// The path as the document has it, and the one to open. What may not be opened stays as it was written.
-QString storedPath(QString const& file, DocumentContext const& context) {
-  if (file.isEmpty() || !context.relativePaths || context.folder.isEmpty() || !DataSource::refusal(file).isEmpty())
-    return file;
-  return QDir(context.folder).relativeFilePath(file);
-}
-
-QString pathToOpen(QString const& stored, DocumentContext const& context) {
-  if (!DataSource::refusal(stored).isEmpty()) return stored;
-  return QDir::cleanPath(QDir(context.folder).absoluteFilePath(stored));
-}
-
 void listJoin(Fields& fields, TableJoin& join) {
   fields.text({"file", QT_TRANSLATE_NOOP("Fields", "File"),
                QT_TRANSLATE_NOOP("Fields",
@@ -76,6 +64,34 @@ void listJoin(Fields& fields, TableJoin& join) {
                          "the table's name and an underscore before it.")},
       join.prefix, TextKind::Line, QString());
 }
+
+void open(VectorLayer& layer, SourceSettings const& source, Map const& map, DocumentContext& context) {
+  if (context.wasStopped) return;
+  QStringList warnings;
+  ReadProgress watched;
+  if (context.progress)
+    watched = [&](qint64 read, qint64 count) { return !(context.wasStopped = !context.progress(read, count)); };
+  QString const error = layer.open(source, map.GetCoordinateSystem(), warnings, watched);
+  if (!error.isEmpty()) {
+    ++context.unreadableSources;
+    warnings.prepend(error);
+  }
+  for (QString const& warning : warnings) context.warnings << Texts::tr("Layer “%1”: %2").arg(layer.GetName(), warning);
+}
+
+// The path as the document has it, and the one to open. What may not be opened stays as it was written.
+QString storedPath(QString const& file, DocumentContext const& context) {
+  if (file.isEmpty() || !context.relativePaths || context.folder.isEmpty() || !DataSource::refusal(file).isEmpty())
+    return file;
+  return QDir(context.folder).relativeFilePath(file);
+}
+
+QString pathToOpen(QString const& stored, DocumentContext const& context) {
+  if (!DataSource::refusal(stored).isEmpty()) return stored;
+  return QDir::cleanPath(QDir(context.folder).absoluteFilePath(stored));
+}
+
+}  // namespace
 
 void listSource(Fields& fields, SourceSettings& source) {
   fields.choice<SourceSettings::Data>(
@@ -124,26 +140,22 @@ void listSource(Fields& fields, SourceSettings& source) {
       source.joins, maxJoins, [](Fields& own, TableJoin& join, int) { listJoin(own, join); });
 }
 
-void open(VectorLayer& layer, SourceSettings const& source, Map const& map, DocumentContext& context) {
-  if (context.wasStopped) return;
-  QStringList warnings;
-  ReadProgress watched;
-  if (context.progress)
-    watched = [&](qint64 read, qint64 count) { return !(context.wasStopped = !context.progress(read, count)); };
-  QString const error = layer.open(source, map.GetCoordinateSystem(), warnings, watched);
-  if (!error.isEmpty()) {
-    ++context.unreadableSources;
-    warnings.prepend(error);
-  }
-  for (QString const& warning : warnings) context.warnings << Texts::tr("Layer “%1”: %2").arg(layer.GetName(), warning);
+SourceSettings storedSource(SourceSettings source, DocumentContext const& context) {
+  source.file = storedPath(source.file, context);
+  for (TableJoin& join : source.joins) join.file = storedPath(join.file, context);
+  return source;
 }
 
-}  // namespace
+SourceSettings sourceToOpen(SourceSettings source, DocumentContext const& context) {
+  source.file = pathToOpen(source.file, context);
+  for (TableJoin& join : source.joins) join.file = pathToOpen(join.file, context);
+  return source;
+}
 
 LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const& context) {
   auto const scales = LayerHost::scales(layer);
   auto const labels = AnnotationSettings::of(*layer.GetAnnotationProperties());
-  LayerSettings settings{layer.source(),
+  LayerSettings settings{storedSource(layer.source(), context),
                          layer.renderer().settings(),
                          layer.GetName(),
                          LayerHost::isSwitchedOn(layer),
@@ -154,8 +166,6 @@ LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const&
                          layer.labelSettings(),
                          labels,
                          layer.obstacle()};
-  settings.source.file = storedPath(settings.source.file, context);
-  for (TableJoin& join : settings.source.joins) join.file = storedPath(join.file, context);
   return settings;
 }
 
@@ -207,12 +217,12 @@ void LayerSettings::list(Fields& fields) {
 _ptr_t<Layer> LayerSettings::make(Map const& map, DocumentContext& context) const {
   auto const layer = SysUtility::make<VectorLayer>(makeRenderer(renderer));
   give(*layer);
-  open(*layer, sourceToOpen(context), map, context);
+  open(*layer, sourceToOpen(source, context), map, context);
   return layer;
 }
 
 void LayerSettings::applyTo(VectorLayer& layer, Map const& map, DocumentContext& context) const {
-  SourceSettings const opened = sourceToOpen(context);
+  SourceSettings const opened = sourceToOpen(source, context);
   bool const readsAlike = opened == layer.source() && renderer.classifiesAs(layer.renderer().settings()) &&
                           labels.read() == layer.labelSettings().read();
   layer.setRenderer(makeRenderer(renderer));
@@ -230,13 +240,6 @@ void LayerSettings::give(VectorLayer& layer) const {
   layer.setLabelSettings(labels);
   layer.setObstacle(obstacle);
   annotation.applyTo(*layer.GetAnnotationProperties());
-}
-
-SourceSettings LayerSettings::sourceToOpen(DocumentContext const& context) const {
-  SourceSettings opened = source;
-  opened.file = pathToOpen(source.file, context);
-  for (TableJoin& join : opened.joins) join.file = pathToOpen(join.file, context);
-  return opened;
 }
 
 void LayerGroupSettings::list(Fields& fields) {

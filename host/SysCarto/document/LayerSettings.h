@@ -9,6 +9,13 @@
 
 namespace SysCarto {
 
+void listSource(SysUtility::Fields& fields, SourceSettings& source);
+
+// A source with the paths that the document has, and with those to open. What may not be opened stays as it was
+// written.
+SourceSettings storedSource(SourceSettings source, DocumentContext const& context);
+SourceSettings sourceToOpen(SourceSettings source, DocumentContext const& context);
+
 /// What a document stores of a layer. Its data are not: they are read when the layer is made.
 struct LayerSettings {
   SourceSettings source;  ///< the file as it is stored: relative to the document where it keeps relative paths
@@ -33,7 +40,6 @@ struct LayerSettings {
 
 private:
   void give(VectorLayer& layer) const;
-  SourceSettings sourceToOpen(DocumentContext const& context) const;
 };
 
 /// What a document stores of a group of layers, beside these.

@@ -56,9 +56,9 @@ MapSettings MapSettings::of(Map const& map) {
   for (auto const& layer : map.GetLayers())
     if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer); vector && !vector->labelSettings().pinned.empty())
       settings.pins.emplace_back(vector, vector->labelSettings().pinned);
-  settings.rotation = map.GetRotation();
-  settings.scale = map.GetDisplayTransformation()->GetMapScale();
+  settings.rotation = MapHost::storedRotation(map);
   settings.scaleLocked = MapHost::lockedScale(map) > 0;
+  settings.scale = settings.scaleLocked ? MapHost::lockedScale(map) : map.GetDisplayTransformation()->GetMapScale();
   return settings;
 }
 

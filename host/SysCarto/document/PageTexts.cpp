@@ -74,6 +74,8 @@ QString nameOf(QString const& documentPath) {
 std::shared_ptr<Placeholders> pageTexts(PageLayout const& layout, std::function<QString()> const& documentPath) {
   return std::make_shared<Placeholders>([&layout, documentPath](QString const& name, QString const& argument) {
     if (!Placeholders::names().contains(name)) return std::optional<QString>();
+    if (auto const page = PageLayoutHost::shownPage(layout))
+      if (auto const ofPage = page->text(name, argument)) return ofPage;
     auto const all = mapsOf(layout);
     auto const named =
         std::find_if(all.begin(), all.end(), [&](auto const& map) { return map->GetName() == argument; });
@@ -88,7 +90,7 @@ std::shared_ptr<Placeholders> pageTexts(PageLayout const& layout, std::function<
       text = title.isEmpty() ? nameOf(documentPath()) : title;
     } else if (name == QLatin1String("author") && argument.isEmpty()) {
       text = PageLayoutHost::information(layout).author;
-    } else if (name == QLatin1String("page") && argument.isEmpty()) {
+    } else if ((name == QLatin1String("page") || name == QLatin1String("pages")) && argument.isEmpty()) {
       text = QStringLiteral("1");
     } else if (name == QLatin1String("credits") && (map || argument.isEmpty())) {
       text = creditsOf(argument.isEmpty() ? all : QList<_ptr_t<Map>>{map});

@@ -10,6 +10,7 @@ struct Element::Private {
   bool locked = false;
   ElementContainer* container = nullptr;  // in which it lies
   bool label = false;
+  QString pages;
 };
 
 Element::Element() : d(std::make_unique<Private>()) {}
@@ -18,6 +19,7 @@ Element::Element(Element const& other) : CRef(other), d(std::make_unique<Private
   d->handle = other.d->handle;
   d->visible = other.d->visible;
   d->locked = other.d->locked;
+  d->pages = other.d->pages;
 }
 Element::~Element() = default;
 
@@ -30,7 +32,7 @@ void Element::SetName(QString const& name) {
   changed();
 }
 
-bool Element::IsVisible() const { return d->visible; }
+bool Element::IsVisible() const { return d->visible && (!d->container || d->container->isOnPage(d->pages)); }
 void Element::SetVisible(bool visible) {
   if (visible == d->visible) return;
   d->visible = visible;
@@ -62,6 +64,10 @@ void ElementHost::setContainer(Element& element, ElementContainer* container) {
 
 bool ElementHost::isLocked(Element const& element) { return element.d->locked; }
 void ElementHost::setLocked(Element& element, bool locked) { element.d->locked = locked; }
+
+bool ElementHost::isSwitchedOn(Element const& element) { return element.d->visible; }
+QString const& ElementHost::pages(Element const& element) { return element.d->pages; }
+void ElementHost::setPages(Element& element, QString const& pages) { element.d->pages = pages; }
 
 bool ElementHost::isPlaced(Element const& element) { return element.d->container != nullptr; }
 ElementContainer const* ElementHost::container(Element const& element) { return element.d->container; }

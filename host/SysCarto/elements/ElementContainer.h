@@ -84,6 +84,10 @@ public:
   std::shared_ptr<Placeholders> const& placeholders() const { return placeholders_; }
   void setPlaceholders(std::shared_ptr<Placeholders> const& placeholders);
 
+  /// Tells whether elements with these pages stand on the page of a series that is shown; null while none is.
+  void setPageFilter(std::function<bool(QString const& pages)> filter) { pageFilter_ = std::move(filter); }
+  bool isOnPage(QString const& pages) const { return pages.isEmpty() || !pageFilter_ || pageFilter_(pages); }
+
   /// When an element came, went or changed outside an operation; but labels come and go with a drawing.
   quint64 lastChange() const { return change_.time(); }
 
@@ -107,6 +111,7 @@ private:
   QPointer<QUndoStack> history_;
   std::function<void()> owner_;
   std::shared_ptr<Placeholders> placeholders_;
+  std::function<bool(QString const&)> pageFilter_;
   std::shared_ptr<ElementContainer*> token_;
 };
 

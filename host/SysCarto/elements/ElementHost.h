@@ -19,6 +19,13 @@ struct SYSCARTO_EXPORT ElementHost {
   static bool isLocked(Element const& element);
   static void setLocked(Element& element, bool locked);
 
+  /// The element's own switch. It is visible where the page of a series that is shown is one of its pages, too.
+  static bool isSwitchedOn(Element const& element);
+
+  /// On which pages of a series it stands, as people write it; empty for all. Members of a group go with the group.
+  static QString const& pages(Element const& element);
+  static void setPages(Element& element, QString const& pages);
+
   /// A label lies in a container while it is drawn and no longer, so that its coming and going change no document. A
   /// clone is an element like others.
   static bool isLabel(Element const& element);

@@ -18,9 +18,11 @@ QRegularExpression const& pattern() {
 }  // namespace
 
 QStringList Placeholders::names() {
-  return {QStringLiteral("scale"), QStringLiteral("date"),  QStringLiteral("document"),
-          QStringLiteral("map"),   QStringLiteral("crs"),   QStringLiteral("credits"),
-          QStringLiteral("page"),  QStringLiteral("title"), QStringLiteral("author")};
+  return {QStringLiteral("scale"),     QStringLiteral("date"),          QStringLiteral("document"),
+          QStringLiteral("map"),       QStringLiteral("crs"),           QStringLiteral("credits"),
+          QStringLiteral("page"),      QStringLiteral("pages"),         QStringLiteral("field"),
+          QStringLiteral("neighbour"), QStringLiteral("neighbourpage"), QStringLiteral("title"),
+          QStringLiteral("author")};
 }
 
 QString Placeholders::filled(QString const& text) const {

@@ -85,10 +85,11 @@ void LabelPlacer::addObstacle(SysGeometry::Polygon const& area) {
 
 std::vector<int> LabelPlacer::candidates() const {
   std::vector<int> features = store_.query({covered_.left(), covered_.top(), covered_.right(), covered_.bottom()});
-  features.erase(
-      std::remove_if(features.begin(), features.end(),
-                     [this](int feature) { return !shapes_.isDrawn(feature) || store_.labels[feature].isEmpty(); }),
-      features.end());
+  auto const isLeftOut = [this](int feature) {
+    return !shapes_.isDrawn(feature) || store_.labels[feature].isEmpty() ||
+           (only_ && store_.ids[static_cast<size_t>(feature)] != *only_);
+  };
+  features.erase(std::remove_if(features.begin(), features.end(), isLeftOut), features.end());
   std::stable_sort(features.begin(), features.end(),
                    [this](int a, int b) { return store_.priorities[a] > store_.priorities[b]; });
   return features;

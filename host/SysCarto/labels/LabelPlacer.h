@@ -50,6 +50,9 @@ public:
   /// Features of another layer that labels keep off, as drawn by its renderer.
   void addObstacles(FeatureStore const& store, Renderer const& renderer, LabelObstacle kind);
 
+  /// Labels no other feature than the one of that number in the source.
+  void keepOnly(qint64 id) { only_ = id; }
+
   void place(std::function<bool()> const& isCancelled);
   std::vector<PlacedLabel> const& labels() const { return labels_; }
 
@@ -131,6 +134,7 @@ private:
   LabelIndex index_;
   MarkShapes shapes_;
   std::unique_ptr<MarkIndex> marks_;
+  std::optional<qint64> only_;
   QHash<SysDisplay::TextSymbol const*, SysUtility::_ptr_t<SysDisplay::TextSymbol>> centred_;
   QHash<QString, std::vector<QPointF>> along_;  // middles of the labels of lines, by their text
   std::vector<PlacedLabel> labels_;

@@ -41,7 +41,8 @@ void OpenedGroup::write() {
   if (members.isEmpty()) return parent_.DeleteElement(former);
   known_ = SysUtility::make<GroupElement>();
   known_->SetName(former->GetName());
-  known_->SetVisible(former->IsVisible());
+  known_->SetVisible(ElementHost::isSwitchedOn(*former));
+  ElementHost::setPages(*known_, ElementHost::pages(*former));
   ElementHost::setLocked(*known_, ElementHost::isLocked(*former));
   for (auto const& member : members) known_->AddElement(member->Clone());
   parent_.ReplaceElement(handle_, known_);

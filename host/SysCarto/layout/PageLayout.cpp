@@ -66,6 +66,9 @@ struct PageLayout::Private {
   _ptr_t<Map> focus;
   bool alignToMargins = false;
   DocumentInformation information;
+  Series series;
+  quint64 seriesVersion = 0;
+  std::shared_ptr<ShownPage const> shownPage;
   SysUtility::ChangeMark change;
   ElementContainer elements;
   std::vector<std::unique_ptr<OpenedGroup>> opened;  // each in the one before
@@ -159,6 +162,26 @@ void PageLayoutHost::setInformation(PageLayout& layout, DocumentInformation cons
 quint64 PageLayoutHost::lastChange(PageLayout const& layout) {
   PageLayout::Private const& d = *layout.d;
   return std::max({d.change.time(), d.page ? PageHost::lastChange(*d.page) : 0, d.elements.lastChange()});
+}
+
+Series const& PageLayoutHost::series(PageLayout const& layout) { return layout.d->series; }
+
+void PageLayoutHost::setSeries(PageLayout& layout, Series const& series) {
+  static quint64 last = 0;
+  layout.d->series = series;
+  layout.d->seriesVersion = ++last;
+  layout.d->change.raise();
+}
+
+quint64 PageLayoutHost::seriesVersion(PageLayout const& layout) { return layout.d->seriesVersion; }
+
+std::shared_ptr<ShownPage const> const& PageLayoutHost::shownPage(PageLayout const& layout) {
+  return layout.d->shownPage;
+}
+
+void PageLayoutHost::setShownPage(PageLayout& layout, std::shared_ptr<ShownPage const> const& page) {
+  layout.d->shownPage = page;
+  layout.d->elements.setPageFilter(page ? page->isAmong : nullptr);
 }
 
 ElementContainer& PageLayoutHost::workplace(PageLayout const& layout) {

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/layout/DocumentInformation.h"
+#include "host/SysCarto/layout/Series.h"
 
 #include <SysCarto/PageLayout.h>
 
@@ -16,6 +17,16 @@ struct SYSCARTO_EXPORT PageLayoutHost {
 
   static DocumentInformation const& information(PageLayout const& layout);
   static void setInformation(PageLayout& layout, DocumentInformation const& information);
+
+  static Series const& series(PageLayout const& layout);
+  static void setSeries(PageLayout& layout, Series const& series);
+
+  /// Differs for each series that was set, of any layout.
+  static quint64 seriesVersion(PageLayout const& layout);
+
+  /// The page of the series that is shown, which no document stores; null while the layout lies as it is stored.
+  static std::shared_ptr<ShownPage const> const& shownPage(PageLayout const& layout);
+  static void setShownPage(PageLayout& layout, std::shared_ptr<ShownPage const> const& page);
 
   // The groups in which a person works, each in the one before. The page is what it is without them.
 

@@ -55,8 +55,10 @@ struct Map::Private {
   ElementContainer graphics;
   int frames = 0;
   bool showsUnplaced = false;
+  std::optional<MapHost::Portion> instead;
   SysUtility::ChangeMark change;
 
+  MapHost::Portion shown() const { return instead ? *instead : MapHost::Portion{bounds, rotation, lockedScale}; }
   void fit();
   void setLayers(QList<_ptr_t<Layer>> const& wanted);
 };
@@ -75,20 +77,22 @@ void Map::Private::setLayers(QList<_ptr_t<Layer>> const& wanted) {
 // Centres the bounds and gives them the aspect of the frame. The transformation could fit them itself, but it would
 // leave them in the upper left corner.
 void Map::Private::fit() {
-  double const x = bounds.GetXMin() + bounds.GetWidth() / 2, y = bounds.GetYMin() + bounds.GetHeight() / 2;
+  MapHost::Portion const part = shown();
+  double const x = part.bounds.GetXMin() + part.bounds.GetWidth() / 2;
+  double const y = part.bounds.GetYMin() + part.bounds.GetHeight() / 2;
   auto const metresPerUnit = [&](double scale) {
     return ground->metresPerUnit(x, y, frame.width() * scale * scaleStep);
   };
-  double scale = std::max(bounds.GetWidth() / frame.width(), bounds.GetHeight() / frame.height());
-  for (int i = 0; i < 2 && lockedScale > 0; ++i)  // what is measured depends a little on the width that is shown
-    scale = lockedScale * metresPerMicrometre / metresPerUnit(scale);
+  double scale = std::max(part.bounds.GetWidth() / frame.width(), part.bounds.GetHeight() / frame.height());
+  for (int i = 0; i < 2 && part.lockedScale > 0; ++i)  // what is measured depends a little on the width that is shown
+    scale = part.lockedScale * metresPerMicrometre / metresPerUnit(scale);
   double const halfWidth = frame.width() * scale / 2, halfHeight = frame.height() * scale / 2;
   transformation->SetDeviceFrame(frame);
   transformation->SetVisibleBounds(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
-  DisplayTransformationHost::setTurn(*transformation, rotation, {x, y});
+  DisplayTransformationHost::setTurn(*transformation, part.rotation, {x, y});
   DisplayTransformationHost::setPatternOrigin(*transformation, x - halfWidth, y + halfHeight);
   double const denominator = scale * metresPerUnit(scale) / metresPerMicrometre;
-  DisplayTransformationHost::setMapScale(*transformation, lockedScale > 0 ? lockedScale : denominator);
+  DisplayTransformationHost::setMapScale(*transformation, part.lockedScale > 0 ? part.lockedScale : denominator);
 }
 
 Map::Map() : d(std::make_unique<Private>()) {
@@ -129,12 +133,19 @@ double Map::scale() const { return d->layers.isEmpty() ? 0 : d->transformation->
 
 double Map::GetNorthAngle() const {
   auto const centre = GetExtent()->GetAnchorPoint();
-  return d->ground->northAngle(centre->GetX(), centre->GetY()) + d->rotation;
+  return d->ground->northAngle(centre->GetX(), centre->GetY()) + d->shown().rotation;
 }
 
-double Map::GetRotation() const { return d->rotation; }
+double Map::GetRotation() const { return d->shown().rotation; }
 
 Envelope MapHost::storedBounds(Map const& map) { return map.d->bounds; }
+
+void MapHost::showInstead(Map& map, std::optional<Portion> const& portion) {
+  map.d->instead = portion && isShowable(portion->bounds) ? portion : std::nullopt;
+  map.d->fit();
+}
+
+double MapHost::storedRotation(Map const& map) { return map.d->rotation; }
 
 void MapHost::setRotation(Map& map, double degrees) {
   double const rotation = std::isfinite(degrees) ? std::fmod(degrees, 360) : 0;
@@ -155,7 +166,7 @@ void MapHost::lockScale(Map& map, double denominator) {
 }
 
 Envelope MapHost::turnedBack(Map const& map, Envelope const& extent) {
-  if (map.d->rotation == 0) return extent;
+  if (map.GetRotation() == 0) return extent;
   auto const at = extent.GetAnchorPoint();
   QPointF const centre =
       DisplayTransformationHost::turn(*map.d->transformation).inverted().map(QPointF(at->GetX(), at->GetY()));
@@ -183,6 +194,7 @@ void Map::applyExtent(Envelope const& extent) {
   if (!isShowable(*bounds)) return;
   if (!haveSameCorners(*bounds, d->bounds)) d->change.raise();
   d->bounds = *bounds;
+  d->instead.reset();
   d->fit();
 }
 

@@ -2,6 +2,8 @@
 
 #include <SysCarto/Map.h>
 
+#include <optional>
+
 namespace SysCarto {
 
 struct SYSCARTO_EXPORT MapHost {
@@ -12,6 +14,21 @@ struct SYSCARTO_EXPORT MapHost {
   /// nothing more. 0 where the bounds decide, as they do at first.
   static double lockedScale(Map const& map);
   static void lockScale(Map& map, double denominator);
+
+  /// What a map shows: its bounds, about whose centre it is turned counterclockwise, in degrees, and a scale
+  /// denominator that is kept or 0.
+  struct Portion {
+    SysGeometry::Envelope bounds;
+    double rotation;
+    double lockedScale;
+  };
+
+  /// What is shown in place of the map's own portion, of which a document stores no trace. Null ends it, and so does
+  /// whoever gives the map another extent.
+  static void showInstead(Map& map, std::optional<Portion> const& portion);
+
+  /// The map's own rotation.
+  static double storedRotation(Map const& map);
 
   /// Layers in drawing order, each there once. Each must hold its data in the map's coordinate system.
   static void setLayers(Map& map, QList<SysUtility::_ptr_t<Layer>> const& layers);

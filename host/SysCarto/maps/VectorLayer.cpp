@@ -5,8 +5,10 @@
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/labels/LabelPlacer.h"
 #include "host/SysCarto/layers/FeaturePasses.h"
+#include "host/SysCarto/layers/FeatureSearch.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysDisplay/DisplayTransformationHost.h"
+#include "host/SysDisplay/PathDrawing.h"
 #include "host/SysUtility/NumberText.h"
 
 #include <SysDisplay/SimpleLineSymbol.h>
@@ -112,6 +114,8 @@ void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& t
   Box const area = areaOf(target, passes.reachPx() + 1);
   thinned_->setResolution(1 / scale);
   std::vector<int> shown = store_->query(area);
+  shown.erase(std::remove_if(shown.begin(), shown.end(), [this](int feature) { return isHidden(feature); }),
+              shown.end());
   looks.sort(shown);
   int untilCheck = 0;
   for (FeaturePasses::Pass const& pass : passes.passes())
@@ -123,6 +127,38 @@ void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& t
       int const symbolClass = store_->features[feature].symbolClass;
       if (symbolClass >= 0 && pass[symbolClass]) pass[symbolClass]->draw(*thinned_, feature, area);
     }
+  if (!spotlight_) return;
+  for (int const feature : featuresOf(*store_, {spotlight_->feature})) drawSpotlight(target, feature);
+}
+
+void VectorLayer::setSpotlight(std::optional<Spotlight> const& spotlight) {
+  if (!spotlight && !spotlight_) return;
+  spotlight_ = spotlight;
+  LayerHost::changeLook(*this);
+}
+
+bool VectorLayer::isHidden(int feature) const {
+  return spotlight_ && spotlight_->hidesOthers && store_->ids[static_cast<size_t>(feature)] != spotlight_->feature;
+}
+
+// All that is reached is an area with the feature for a hole.
+void VectorLayer::drawSpotlight(DrawTarget& target, int feature) {
+  auto const cover = spotlight_->outside ? prepared(target, *spotlight_->outside) : nullptr;
+  if (cover) {
+    Box const reached = areaOf(target, cover->reachPx() + 1);
+    double const edge[] = {reached.xmin, reached.ymin, reached.xmax, reached.ymin, reached.xmax,
+                           reached.ymax, reached.xmin, reached.ymax, reached.xmin, reached.ymin};
+    cover->addRing({edge, 5}, false);
+    for (Part const& part : thinned_->parts(feature)) {
+      if (part.kind == PartKind::Outline) cover->addLine(part.run());
+      if (part.kind == PartKind::Ring || part.kind == PartKind::FilledRing)
+        cover->addRing(part.run(), part.kind == PartKind::Ring);
+    }
+    cover->draw(reached);
+  }
+  for (Symbol const* const pass : FeaturePainter::passesOf(spotlight_->symbol.get()))
+    if (auto const painter = FeaturePainter::create(target, pass))
+      painter->draw(*thinned_, feature, areaOf(target, painter->reachPx() + 1));
 }
 
 // Of markers in proportion, some sizes and what has no number.
@@ -206,6 +242,7 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
   if (!transformation || !store_->keepsLabels || store_->size() == 0) return;
   LabelPlacer placer(*store_, labels_, *renderer_, *transformation);
   if (!placer.isUsable()) return;
+  if (spotlight_ && spotlight_->hidesOthers) placer.keepOnly(spotlight_->feature);
   for (auto const& list : obstacles)
     for (_ptr_t<Polygon> const& obstacle : list)
       if (obstacle) placer.addObstacle(*obstacle);

@@ -6,10 +6,16 @@
 #include "host/SysCarto/layers/Renderer.h"
 
 #include <SysCarto/FeatureLayer.h>
+#include <SysDisplay/FillSymbol.h>
 
 #include <QTransform>
 
 #include <memory>
+#include <optional>
+
+namespace SysDisplay {
+class DrawTarget;
+}
 
 namespace SysCarto {
 
@@ -20,6 +26,14 @@ struct PlacedLabel;
 struct LabelCount {
   int wanted = 0;
   int placed = 0;
+};
+
+/// What is made of one feature of a layer while a view puts it in the foreground; no document stores it.
+struct Spotlight {
+  qint64 feature = -1;  ///< its number in the source
+  bool hidesOthers = false;
+  SysUtility::_ptr_t<SysDisplay::Symbol> symbol;       ///< drawn over the layer; may be missing
+  SysUtility::_ptr_t<SysDisplay::FillSymbol> outside;  ///< covers all but the feature; may be missing
 };
 
 /// Features of a file, held in memory in the map's coordinate system. A layer whose source can't be read is empty.
@@ -43,6 +57,8 @@ public:
   void setRenderer(std::unique_ptr<Renderer> renderer);
   Renderer const& renderer() const { return *renderer_; }
   FeatureStore const& features() const { return *store_; }
+
+  void setSpotlight(std::optional<Spotlight> const& spotlight);
 
   /// What labels of other layers of its map keep off.
   void setObstacle(LabelObstacle obstacle);
@@ -77,6 +93,8 @@ private:
   QVector<bool> classesWithin(
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   QVector<bool> findClassesWithin(Box const& shown, QTransform const& turn, double scale) const;
+  void drawSpotlight(SysDisplay::DrawTarget& target, int feature);
+  bool isHidden(int feature) const;
   void drawFeatures(QPainter& painter, SysDisplay::DisplayTransformation const& transformation,
                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
 
@@ -85,6 +103,7 @@ private:
   std::unique_ptr<Renderer> renderer_;
   LabelSettings labels_;
   LabelObstacle obstacle_ = LabelObstacle::None;
+  std::optional<Spotlight> spotlight_;
   int placedLabels_ = 0;
   std::vector<PlacedLabel> placed_, unplaced_;
   SysUtility::_ptr_t<AnnotationProperties> properties_;

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "SeriesPages.h"
+
+#include <QObject>
+
+class DocumentSession;
+class DocumentViews;
+
+/// Which page of its series the views of a document show. Follows the document: when it, its series or the data of the
+/// series become others, the pages are read anew, and the page of the same number is shown.
+class SeriesView final : public QObject {
+  Q_OBJECT
+
+public:
+  /// Both are borrowed and outlive it.
+  SeriesView(DocumentSession& session, DocumentViews& views);
+  ~SeriesView() override;
+
+  /// Null where the document has no series, or it can't be read, which `problem` says.
+  SeriesPages const* pages();
+  QString const& problem() const { return problem_; }
+
+  /// Shows a page, from 1, or with 0 what the document stores. Answers a sentence on what could not be shown.
+  QString show(int page);
+
+  /// The same for a number, a name, “first”, “last”, “next”, “previous” or “none”.
+  QString show(QString const& page);
+
+signals:
+  /// There are other pages, or another one is shown.
+  void changed();
+
+private:
+  void follow();
+  void read();
+  quint64 version() const;
+
+  DocumentSession& session_;
+  DocumentViews& views_;
+  std::unique_ptr<SeriesPages> pages_;
+  QString problem_;
+  bool isRead_ = false;
+  quint64 version_ = 0;
+  SysCarto::SourceSettings source_;
+};
