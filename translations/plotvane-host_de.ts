@@ -1540,6 +1540,29 @@
     </message>
 </context>
 <context>
+    <name>Coverage</name>
+    <message>
+        <source>The document has no series of pages; name its layer in “series/layer”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The series names no map that is on the page; give its number in “series/map”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map “%1” has no layer “%2” whose features could have pages; name one of these in “series/layer”: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The series has no pages: no feature of its layer meets its filters; change “series/filter”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The features of the series have no field “%1”; they have: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DataReport</name>
     <message>
         <source>no geometry</source>
@@ -2070,6 +2093,10 @@
     <message>
         <source>the document</source>
         <translation>das Dokument</translation>
+    </message>
+    <message>
+        <source>the series</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5050,7 +5077,143 @@
     </message>
     <message>
         <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author] and [page] are filled in while it is drawn.</source>
-        <translation>Was er sagt. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author] und [page] werden beim Zeichnen ausgefüllt.</translation>
+        <translation type="vanished">Was er sagt. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author] und [page] werden beim Zeichnen ausgefüllt.</translation>
+    </message>
+    <message>
+        <source>Series</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A page for each feature of a layer, or for each row of a table.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On which pages of a series it stands: first, last, odd, even, numbers as in “1-3,7”, or a condition on the attributes of the page&apos;s feature; empty for all.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author], [page], [pages], [field:NAME] and [neighbour:north] are filled in while it is drawn.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name of a layer of the map: each of its features has a page. Empty where a source of its own has the features.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Data of which no map has a layer: each feature or row of a table has a page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A condition on the attributes as in SQL: only features that meet it have a page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sorted by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The attribute by which pages are in order; empty for the order of the data. What has no value comes last.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Descending</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the highest value comes first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What a page is called in lists and bookmarks, as in “[field:name]”. Empty for the value by which pages are sorted, or their number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other maps that follow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maps of further data frames that follow the features, each in its own way.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Highlight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With what the feature of the page is drawn over its layer; without it, it is not.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the other features of the layer are left out, with their labels.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With what all that lies outside the feature&apos;s area is covered, as far as it lies below the layer; without it, nothing is.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number of the map that follows the features; −1 for none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Margin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is left free at each side, in parts of the feature&apos;s size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The scale of the map on all pages; 0 for one that the feature fits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scales to choose from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map gets the largest of these that shows the whole feature. Where none does, or none is given, it is fitted freely.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Main part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the map shows the largest part of the feature with what lies near, and lets far islands go.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the map is turned so that a line leads from left to right.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The attribute that holds by how many degrees the map is turned counterclockwise; empty for none.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5146,6 +5309,13 @@
     <message>
         <source>The file says: %1.</source>
         <translation>Die Datei sagt: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>FileNames</name>
+    <message>
+        <source>Pages %1 and %2 would both be written to %3, so nothing was written; tell them apart, as with “[page]” in the name.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -7368,7 +7538,11 @@
     </message>
     <message>
         <source>there is no &quot;%1&quot;; write document, page, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
-        <translation>es gibt kein &quot;%1&quot;; schreiben Sie document, page, selection, den Namen eines Elements oder #HANDLE, map:NAME oder layer:MAP/LAYER; plotvane info führt sie auf.</translation>
+        <translation type="vanished">es gibt kein &quot;%1&quot;; schreiben Sie document, page, selection, den Namen eines Elements oder #HANDLE, map:NAME oder layer:MAP/LAYER; plotvane info führt sie auf.</translation>
+    </message>
+    <message>
+        <source>there is no &quot;%1&quot;; write document, page, series, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -7405,6 +7579,121 @@
     <message>
         <source>Delete the vertex</source>
         <translation>Stützpunkt löschen</translation>
+    </message>
+</context>
+<context>
+    <name>SeriesExport</name>
+    <message>
+        <source>export: --resume passes over files of single pages; give the path a placeholder such as “[page]”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 has a placeholder, which stands for something else on each page of a series, and the document has no series; name one file, or give the document a series.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>export: --pages, --part, --jobs and --resume are for a series of pages, and the document has none; leave them out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such page; the series has %1 pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>export: --jobs draws pages into files of their own; give the path a placeholder such as “[page]”, or leave --jobs out for one file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 would be the file of %2 pages; give the path a placeholder such as “[page]” or “[field:name]”, or choose one page with --pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 pages were whole already and were passed over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not all pages of %1 were written; the sentences before say which, and why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 of %2 %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not all pages were written: interrupted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages were not written: %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SeriesOptions</name>
+    <message>
+        <source>Of a series, these pages: &quot;1-20,45&quot;, &quot;odd&quot;, &quot;last&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the pages, every Nth from the Kth on: each page is in one of the N parts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw pages in N processes at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pass over pages whose files are whole and newer than the document and its data.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>export: --pages takes numbers and ranges such as 1-20,45, or first, last, odd, even, not &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>export: --part takes K/N with K from 1 to N, as in 3/10, not &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>export: --jobs takes a whole number from 1 to %1, not &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SeriesPages</name>
+    <message>
+        <source>There is no document whose pages could be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The element “%1” stands on all pages: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page %1 “%2”: its feature has no place that the map could show; leave it out by “series/filter”, or mend its geometry.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SeriesSettings</name>
+    <message>
+        <source>is missing; name the layer, or a “source”, whose features are to have a page each</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SeriesView</name>
+    <message>
+        <source>The document has no series of pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no page %1; the series has %2 pages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No page has the number or the name “%1”; there are %2, from “%3” to “%4”.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,8 @@
 #include "output/ExportArguments.h"
 #include "output/ImageFormat.h"
 #include "output/PageExport.h"
+#include "series/FileNames.h"
+#include "series/SeriesExport.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 
@@ -23,6 +25,8 @@ struct Request {
   ExportOptions options;
   bool quiet = false;
   bool allowMissing = false;
+  SeriesOptions series;
+  QStringList arguments;  // as they were given
 };
 
 class ExportSubcommand {
@@ -57,11 +61,15 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
       QStringLiteral("allow-missing"),
       tr("Draw the page also where a data source or a picture can't be read, or not to its end."));
   parser.addOptions({quiet, missing});
+  parser.addOptions(SeriesOptions::all());
   if (auto const settled = parseArguments(self, parser, arguments)) return settled;
   QString const document = parser.positionalArguments().at(0), image = parser.positionalArguments().at(1);
-  QString const problem = page.read(parser, image);
+  SeriesOptions series;
+  QString problem = page.read(parser, image);
+  if (problem.isEmpty()) problem = series.read(parser);
   if (problem.isEmpty()) {
-    request = {document, image, &page.format(), page.chosen(), parser.isSet(quiet), parser.isSet(missing)};
+    request = {document, image,    &page.format(), page.chosen(), parser.isSet(quiet), parser.isSet(missing),
+               series,   arguments};
     return std::nullopt;
   }
   Console::complain(problem);
@@ -71,9 +79,12 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
 QString ExportSubcommand::run() {
   Interrupt const interrupt;  // before the working folder is made, and until it has gone
   PageExport page(request_.image, *request_.format, request_.options);
-  QString problem = page.checkPlace();
+  QString problem = FileNames::isPattern(request_.image) ? QString() : page.checkPlace();
   if (problem.isEmpty()) problem = openDocument();
   if (!problem.isEmpty()) return problem;
+  SeriesExport::Request const series{request_.document, request_.image,     *request_.format, request_.options,
+                                     request_.series,   request_.arguments, request_.quiet};
+  if (SeriesExport::isWanted(series, document_)) return SeriesExport(series, document_, interrupt.cancel()).run();
   PageExport::Progress progress;
   if (!request_.quiet && Console::hasTerminal())
     progress = [](QString const& what, int percent) {
@@ -81,6 +92,7 @@ QString ExportSubcommand::run() {
     };
   problem = page.write(document_, interrupt.cancel(), progress);
   if (progress) Console::showStatus(QString());
+  if (problem.isEmpty() && !request_.quiet) Console::print(request_.image);
   return problem;
 }
 
@@ -104,6 +116,5 @@ ExitStatus runExport(Subcommand const& self, QStringList const& arguments) {
     Console::complain(problem);
     return WorkFailed;
   }
-  if (!request.quiet) Console::print(request.image);
   return Done;
 }

@@ -118,22 +118,40 @@ private slots:
     QVERIFY2(set > 250, qPrintable(QString::number(set)));
   }
 
+  void whatTheDocumentStoresOfItselfIsSetAndUndone_data() {
+    QTest::addColumn<QString>("thing");
+    for (char const* const thing : {"document", "series"}) QTest::newRow(thing) << thing;
+  }
+
   void whatTheDocumentStoresOfItselfIsSetAndUndone() {
+    QFETCH(QString, thing);
     WorkbenchPage page;
     auto& document = page.bench.session().document();
     QVERIFY(page.bench.session().open(path("start.kdx")));
     QByteArray const before = MapDocumentHost::text(document);
-    for (QStringList const& keys : leaves(Editable::fields(document, {Editable::document(document)}).first())) {
-      auto const value = valueAt(document, "document", keys);
-      QString const other = value.isBool()     ? value.toBool() ? "false" : "true"
-                            : value.isDouble() ? QString::number(value.toDouble() / 2 + 1)
-                            : value.isArray()  ? "['three']"
-                                               : "fr";
-      QCOMPARE(setByPath(document, "document", keys, QString(other).replace('\'', '"')), QString());
+    for (QStringList const& keys : leaves(Editable::fields(document, Editable::named(document, thing)).first())) {
+      auto const value = valueAt(document, thing, keys);
+      bool const isOfSymbol = keys.first() == "highlight" || keys.first() == "outside";
+      if (isOfSymbol || keys.last() == "data" || value == QJsonArray()) continue;  // tested where they belong
+      QJsonValue const first = value.toArray().first();
+      QString const other = value.isBool()         ? value.toBool() ? "false" : "true"
+                            : keys.last() == "map" ? QString::number(1 - value.toInt())
+                            : value.isDouble()     ? QString::number(value.toDouble() / 2 + 1)
+                            : first.isDouble()     ? "[3]"
+                            : first.isObject()     ? "[{}]"
+                            : value.isArray()      ? "['three']"
+                                                   : "fr";
+      QCOMPARE(setByPath(document, thing, keys, QString(other).replace('\'', '"')), QString());
       QVERIFY2(MapDocumentHost::text(document) != before, qPrintable(keys.join('/')));
       QVERIFY(comesBack(MapDocumentHost::text(document)));
       document.GetOperationStack()->Undo();
       QCOMPARE(MapDocumentHost::text(document), before);
+    }
+    if (thing == "series") {
+      QCOMPARE(setByPath(document, thing, {"layer"}, ""), QString());
+      QCOMPARE(setByPath(document, thing, {"source"}, "null"), QString());
+      QVERIFY(!MapDocumentHost::text(document).contains("series"));
+      return QVERIFY(setByPath(document, thing, {"margin"}, "3").contains("name the layer"));
     }
     QVERIFY(setByPath(document, "document", {"information", "language"}, "de CH").contains("de-CH"));
     QCOMPARE(setByPath(document, "document", {"information"}, "null"), QString());

@@ -28,13 +28,14 @@ Untold const untold[] = {
     {QRegularExpression("is no place; there are:"), "The places beside points"},
     {QRegularExpression("pattern: must hold %1"), "The pattern of a scale text"},
     {QRegularExpression("is no tag of a language"), "The language of a document is"},
+    {QRegularExpression("is missing; name the layer, or a"), "A series names a layer"},
     {QRegularExpression("is missing; name the file of the data"), "A source names a file"},
     {QRegularExpression("layers lie within layers more than 3 deep"), "in the layers of symbols at most 3"},
     {QRegularExpression("is smaller than that of the colour before"), "A stop of a gradient"},
     {QRegularExpression("svg: "), "An SVG is"},
 };
 // clang-format on
-int constexpr firstOfStyles = 14;
+int constexpr firstOfStyles = 15;
 
 QString verdictOnDocument(QJsonObject const& json) {
   SysUtility::JsonReader reader(json);

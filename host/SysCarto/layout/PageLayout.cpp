@@ -296,6 +296,7 @@ void PageLayout::ReplaceMaps(QList<_ptr_t<Map>> const& maps) {
 void PageLayoutHost::succeed(PageLayout& layout, PageLayout const& former) {
   PageLayout::Private const& d = *layout.d;
   layout.d->information = former.d->information;
+  if (!layout.d->series.isUsed()) setSeries(layout, former.d->series);
   if (!d.shows(d.focus)) layout.SetFocusMap(former.GetFocusMap());
   for (auto const& surround : d.surrounds())
     if (!d.shows(surround->GetMap())) surround->SetMap(layout.GetFocusMap());

@@ -12,7 +12,8 @@ namespace SysCarto {
 
 struct SYSCARTO_EXPORT PageLayoutHost {
   /// Takes the place of a layout whose maps it was given: where the focus is open, it stays where it was there, and
-  /// surrounds whose map no data frame shows follow the focus map. What the document says about itself stays.
+  /// surrounds whose map no data frame shows follow the focus map. What the document says about itself stays,
+  /// and its series where the layout has none.
   static void succeed(PageLayout& layout, PageLayout const& former);
 
   static DocumentInformation const& information(PageLayout const& layout);

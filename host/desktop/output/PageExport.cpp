@@ -25,6 +25,14 @@ QString PageExport::checkPlace() const {
   return target_.checkPlace();
 }
 
+bool PageExport::isWhole(SysCarto::MapDocument& document) const {
+  if (!format_.isVector) {
+    PageImage image(document, target_, format_, options_);
+    return image.plan().isEmpty() && target_.checkResult(image.size(), image.bands()).isEmpty();
+  }
+  return target_.checkResult(QSize()).isEmpty();
+}
+
 QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel> const& cancel,
                           Progress const& progress) {
   auto const layout = document.GetPageLayout();
@@ -44,7 +52,7 @@ QString PageExport::writeShapes(SysCarto::MapDocument const& document, _ptr_t<Tr
   QString problem = target_.checkSize(size);
   if (problem.isEmpty()) problem = target_.prepare();
   if (!problem.isEmpty()) return problem;
-  problem = writePdf(document, target_.workingPath(), options_.dpi, cancel);
+  problem = writePdf(document, target_.workingPath(), options_.dpi, cancel, next_);
   if (cancel->IsCanced()) return tr("%1 was not written: interrupted.").arg(path_);
   return problem.isEmpty() ? target_.checkResult(size) : tr("%1 was not written: %2.").arg(path_, problem);
 }

@@ -3,6 +3,8 @@
 #include "ExportOptions.h"
 #include "ImageTarget.h"
 
+#include "host/desktop/vector/VectorExport.h"
+
 #include <SysUI/TrackerCancel.h>
 
 #include <QCoreApplication>
@@ -26,6 +28,12 @@ public:
   /// Whether the format can be written at all, and a file be put there. The document need not be open for it.
   QString checkPlace() const;
 
+  /// Whether a whole file of the page's size is in its place.
+  bool isWhole(SysCarto::MapDocument& document) const;
+
+  /// Makes it a file of several pages, of a format that can have them: a PDF.
+  void setPages(NextPage next) { next_ = std::move(next); }
+
   /// Draws and moves the file into its place. What was there before stays where this fails or is cancelled, which is
   /// told, too. The document is borrowed; only its cursor and its screen are those of a page without a window.
   QString write(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
@@ -41,4 +49,5 @@ private:
   ImageFormat const& format_;
   ExportOptions options_;
   ImageTarget target_;
+  NextPage next_;
 };

@@ -18,8 +18,9 @@ using Shape = std::vector<std::vector<QPointF>>;
 
 namespace {
 
-constexpr double nearlyRound = 345;  // degrees: what reaches so far round the globe was cut at its edge
-constexpr double nearby = 0.5;       // of the size of the largest part
+constexpr double farRound = 270;  // degrees: what reaches so far round the globe, with a gap in it
+constexpr double wideGap = 0.33;  // as wide as that, in parts of its width, was cut at the edge of the world
+constexpr double nearby = 0.5;    // of the size of the largest part
 
 Box boxOf(std::vector<QPointF> const& points) {
   Box box;
@@ -41,7 +42,7 @@ Shape kept(Shape const& shape, Keep const& keep) {
 }
 
 // Whether the way from the shape's left end over its middle to its right end leads round the globe.
-bool isCutInTwo(Shape const& shape, QString const& mapSystem) {
+bool reachesFarRound(Shape const& shape, QString const& mapSystem) {
   auto const system = SysCarto::makeCoordinateSystem(mapSystem);
   auto const globe = system ? SysCarto::globeOf(*system) : nullptr;
   QString error;
@@ -62,7 +63,7 @@ bool isCutInTwo(Shape const& shape, QString const& mapSystem) {
   }
   auto const eastward = [](double from, double to) { return std::fmod(to - from + 720, 360); };
   double const reach = eastward(longitudes[0], longitudes[1]) + eastward(longitudes[1], longitudes[2]);
-  return reach > nearlyRound && reach <= 360;
+  return reach > farRound && reach <= 360;
 }
 
 // The side of the widest gap between its parts that weighs more.
@@ -78,7 +79,7 @@ Shape largerSide(Shape const& shape) {
     }
     reached = std::max(reached, box.xmax);
   }
-  if (widest == 0) return shape;
+  if (widest < wideGap * (reached - boxes.front().xmin)) return shape;
   double left = 0, right = 0;
   for (Box const& box : boxes) (box.xmax < cut ? left : right) += weightOf(box);
   return kept(shape, [&](Box const& box) { return (box.xmax < cut) == (left > right); });
@@ -156,7 +157,7 @@ Shape shapeOf(SysCarto::FeatureStore const& store, qint64 feature, QString const
 
 std::optional<MapHost::Portion> portionFor(SysCarto::SeriesFrame const& frame, Shape const& shape, double degrees) {
   if (shape.empty() || !frame.map) return std::nullopt;
-  Shape shown = isCutInTwo(shape, frame.map->GetCoordinateSystem()) ? largerSide(shape) : shape;
+  Shape shown = reachesFarRound(shape, frame.map->GetCoordinateSystem()) ? largerSide(shape) : shape;
   if (frame.mainPart) shown = mainPart(shown);
   double const rotation = std::fmod(frame.alongLines ? degreesAlong(shown) + degrees : degrees, 360);
   QTransform turn;

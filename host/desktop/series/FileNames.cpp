@@ -54,9 +54,10 @@ QStringList FileNames::of(Coverage const& coverage, QString const& pattern, std:
     QString const& path = paths.at(page - 1);
     int& first = known[path.normalized(QString::NormalizationForm_C).toCaseFolded()];
     if (first > 0)
-      problem = tr("Pages %1 and %2 would both be written to %3, so nothing was written; tell them apart, as with “[page]” "
-                   "in the name.")
-                    .arg(QString::number(first), QString::number(page), path);
+      problem =
+          tr("Pages %1 and %2 would both be written to %3, so nothing was written; tell them apart, as with “[page]” "
+             "in the name.")
+              .arg(QString::number(first), QString::number(page), path);
     first = page;
   }
   return paths;

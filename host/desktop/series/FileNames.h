@@ -10,8 +10,8 @@ public:
   /// Whether a path has placeholders that stand for something else on each page: `[page]`, `[field:name]`.
   static bool isPattern(QString const& path);
 
-  /// A path for each page of the coverage. What a field holds is one part of a path and no more, whatever it is. Where a
-  /// field is unknown, or two of the chosen pages would have one file, `problem` is a sentence.
+  /// A path for each page of the coverage. What a field holds is one part of a path and no more, whatever it is. Where
+  /// a field is unknown, or two of the chosen pages would have one file, `problem` is a sentence.
   static QStringList of(Coverage const& coverage, QString const& pattern, std::vector<int> const& chosen,
                         QString& problem);
 

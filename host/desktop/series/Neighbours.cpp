@@ -1,6 +1,7 @@
 #include "Neighbours.h"
 
 #include "host/SysCarto/layers/FeatureSearch.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <QTransform>
 
@@ -8,59 +9,98 @@
 #include <cmath>
 #include <iterator>
 
+using SysCarto::Feature;
 using SysGeometry::Box;
 
 namespace {
 
+constexpr double beyond = 1.01;  // of half the map's size: what only touches the edge lies on both sides of it
+constexpr double alongEdge[] = {0, 0.25, -0.25, 0.5, -0.5, 0.75, -0.75};
+constexpr double cornersReach = 30, sidesReach = 44;  // degrees
+
 struct Direction {
   char const* name;
-  double degrees;  // counterclockwise from the east
-  double reach;    // to either side; a neighbour at a corner is no neighbour at a side
+  int east, north;
 };
 constexpr Direction directions[] = {
-    {"east", 0, 44},   {"northeast", 45, 30},  {"north", 90, 44},  {"northwest", 135, 30},
-    {"west", 180, 44}, {"southwest", 225, 30}, {"south", 270, 44}, {"southeast", 315, 30},
+    {"east", 1, 0},  {"northeast", 1, 1},   {"north", 0, 1},  {"northwest", -1, 1},
+    {"west", -1, 0}, {"southwest", -1, -1}, {"south", 0, -1}, {"southeast", 1, -1},
 };
 
-double gapBetween(Box const& a, Box const& b) {
-  double const x = std::max({0.0, a.xmin - b.xmax, b.xmin - a.xmax});
-  double const y = std::max({0.0, a.ymin - b.ymax, b.ymin - a.ymax});
-  return std::hypot(x, y);
-}
+bool isCorner(Direction const& direction) { return direction.east != 0 && direction.north != 0; }
 
 QPointF centreOf(Box const& box) { return {(box.xmin + box.xmax) / 2, (box.ymin + box.ymax) / 2}; }
 
+struct Search {
+  Coverage const& coverage;
+  int page;
+  Direction direction;
+  QTransform turn;  // of the map
+  QPointF centre;   // of what it shows, in the turned world
+  double width, height;
+
+  // Another page's feature at a place of the turned world.
+  int pageAt(QPointF const& turned) const {
+    QPointF const place = turn.inverted().map(turned);
+    for (int const number : SysCarto::featuresAt(coverage.store(), place.x(), place.y(), 0))
+      if (int const other = coverage.pageOf(coverage.store().ids[static_cast<size_t>(number)]); other && other != page)
+        return other;
+    return 0;
+  }
+
+  int atEdge() const {
+    QPointF const out(direction.east * width / 2, direction.north * height / 2);
+    QPointF const along(direction.north * width / 2, direction.east * height / 2);
+    for (double const part : alongEdge) {
+      int const other = pageAt(centre + out * beyond + (isCorner(direction) ? QPointF() : along * part));
+      if (other > 0) return other;
+    }
+    return 0;
+  }
+
+  int nearest(QPointF const& from) const {
+    int found = 0;
+    double least = 0;
+    double const wanted = std::atan2(direction.north, direction.east) * 180 / M_PI;
+    auto const& store = coverage.store();
+    for (int number = 0; number < store.size(); ++number) {
+      int const other = coverage.pageOf(store.ids[static_cast<size_t>(number)]);
+      if (other == 0 || other == page) continue;
+      QPointF const way = turn.map(centreOf(store.features[static_cast<size_t>(number)].box)) - turn.map(from);
+      double const distance = std::hypot(way.x(), way.y());
+      double const off = std::abs(std::remainder(std::atan2(way.y(), way.x()) * 180 / M_PI - wanted, 360));
+      if (distance == 0 || off > (isCorner(direction) ? cornersReach : sidesReach)) continue;
+      if (found > 0 && distance >= least) continue;
+      found = other;
+      least = distance;
+    }
+    return found;
+  }
+};
+
+bool isArea(SysCarto::FeatureStore const& store, Feature const& feature) {
+  SysCarto::PartKind const kind = store.parts[static_cast<size_t>(feature.firstPart)].kind;
+  return kind != SysCarto::PartKind::Point && kind != SysCarto::PartKind::Line;
+}
+
 }  // namespace
 
-std::optional<int> neighbourOf(Coverage const& coverage, int page, QString const& direction, Box const& shown,
-                               double degreesTurned) {
+std::optional<int> neighbourOf(Coverage const& coverage, int page, QString const& direction, SysCarto::Map const& map) {
   auto const wanted = std::find_if(std::begin(directions), std::end(directions),
                                    [&](Direction const& one) { return direction == QLatin1String(one.name); });
   if (wanted == std::end(directions)) return std::nullopt;
   auto const& store = coverage.store();
   auto const own = SysCarto::featuresOf(store, {coverage.feature(page)});
   if (own.empty()) return 0;
-  Box const box = store.features[static_cast<size_t>(own.front())].box;
-  double const width = std::max(box.xmax - box.xmin, 1e-3 * (shown.xmax - shown.xmin));
-  double const height = std::max(box.ymax - box.ymin, 1e-3 * (shown.ymax - shown.ymin));
-  QTransform turn;
-  turn.rotate(degreesTurned);
-  int nearest = 0;
-  std::pair<double, double> best;
-  for (int const number : store.query(shown)) {
-    int const candidate = coverage.pageOf(store.ids[static_cast<size_t>(number)]);
-    if (candidate == 0 || candidate == page) continue;
-    Box const& other = store.features[static_cast<size_t>(number)].box;
-    // In widths and heights of the feature: the neighbours of a sheet that is not square lie at its corners, too.
-    QPointF const way = centreOf(other) - centreOf(box);
-    QPointF const turned = turn.map(QPointF(way.x() / width, way.y() / height));
-    double const angle = std::atan2(turned.y(), turned.x()) * 180 / M_PI;
-    if (turned.isNull() || std::abs(std::remainder(angle - wanted->degrees, 360)) > wanted->reach) continue;
-    std::pair<double, double> const distance{gapBetween(box, other), std::hypot(turned.x(), turned.y())};
-    if (nearest == 0 || distance < best) {
-      nearest = candidate;
-      best = distance;
-    }
-  }
-  return nearest;
+  auto const shown = map.GetExtent();
+  auto const centre = shown->GetAnchorPoint();
+  Search const search{coverage,
+                      page,
+                      *wanted,
+                      SysDisplay::DisplayTransformationHost::turn(*map.GetDisplayTransformation()),
+                      {centre->GetX(), centre->GetY()},
+                      shown->GetWidth(),
+                      shown->GetHeight()};
+  Feature const& feature = store.features[static_cast<size_t>(own.front())];
+  return isArea(store, feature) ? search.atEdge() : search.nearest(centreOf(feature.box));
 }

@@ -38,9 +38,8 @@ bool PageJobs::run(QList<QStringList> const& arguments) {
     };
     auto const readAll = [this, lines] {
       lines(QProcess::StandardOutput, onWritten);
-      lines(QProcess::StandardError, [this](QString const& line) {
-        onProblem(line.startsWith(prefix) ? line.mid(prefix.size()) : line);
-      });
+      lines(QProcess::StandardError,
+            [this](QString const& line) { onProblem(line.startsWith(prefix) ? line.mid(prefix.size()) : line); });
     };
     QObject::connect(&process, &QProcess::readyReadStandardOutput, readAll);
     QObject::connect(&process, &QProcess::readyReadStandardError, readAll);

@@ -99,11 +99,12 @@ QString SeriesExport::run() {
 QString SeriesExport::check() {
   bool const isPattern = FileNames::isPattern(request_.path);
   if (!SeriesPages::areIn(document_))
-    return isPattern ? tr("%1 has a placeholder, which stands for something else on each page of a series, and the "
-                          "document has no series; name one file, or give the document a series.")
-                           .arg(request_.path)
-                     : tr("export: --pages, --part, --jobs and --resume are for a series of pages, and the document has "
-                          "none; leave them out.");
+    return isPattern
+               ? tr("%1 has a placeholder, which stands for something else on each page of a series, and the "
+                    "document has no series; name one file, or give the document a series.")
+                     .arg(request_.path)
+               : tr("export: --pages, --part, --jobs and --resume are for a series of pages, and the document has "
+                    "none; leave them out.");
   QString problem;
   QStringList warnings;
   pages_ = SeriesPages::read(document_, problem, warnings);
@@ -111,16 +112,16 @@ QString SeriesExport::check() {
   if (!pages_) return problem;
   chosen_ = request_.series.chosenOf(pages_->count());
   if (chosen_.empty())
-    return request_.series.parts > 1
-               ? QString()
-               : tr("There is no such page; the series has %1 pages.").arg(pages_->count());
+    return request_.series.parts > 1 ? QString()
+                                     : tr("There is no such page; the series has %1 pages.").arg(pages_->count());
   if (!isPattern) {
     bool const isBook = request_.format.isVector && request_.series.jobs == 1;
     if (chosen_.size() == 1 || isBook) return QString();
     return request_.format.isVector
                ? tr("export: --jobs draws pages into files of their own; give the path a placeholder such as “[page]”, "
                     "or leave --jobs out for one file.")
-               : tr("%1 would be the file of %2 pages; give the path a placeholder such as “[page]” or “[field:name]”, or "
+               : tr("%1 would be the file of %2 pages; give the path a placeholder such as “[page]” or “[field:name]”, "
+                    "or "
                     "choose one page with --pages.")
                      .arg(request_.path, QString::number(chosen_.size()));
   }
@@ -204,8 +205,9 @@ QString SeriesExport::writeInJobs() {
   SeriesOptions const& own = request_.series;
   QList<QStringList> all;
   for (int job = 0; job < jobs; ++job)
-    all << request_.arguments + QStringList{QStringLiteral("--part"),
-                                            QStringLiteral("%1/%2").arg(own.part + job * own.parts).arg(own.parts * jobs)};
+    all << QStringList(QStringLiteral("export")) + request_.arguments +
+               QStringList{QStringLiteral("--jobs"), QStringLiteral("1"), QStringLiteral("--part"),
+                           QStringLiteral("%1/%2").arg(own.part + job * own.parts).arg(own.parts * jobs)};
   int done = 0;
   PageJobs processes(cancel_);
   processes.onWritten = [&](QString const& path) {

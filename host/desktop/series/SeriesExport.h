@@ -32,8 +32,8 @@ public:
   std::vector<int> chosenOf(int count) const;
 };
 
-/// The pages of a document's series on their way to files: each to one of its own, whose path has placeholders, or all to
-/// one PDF. A page that fails is told, and the others go on.
+/// The pages of a document's series on their way to files: each to one of its own, whose path has placeholders, or all
+/// to one PDF. A page that fails is told, and the others go on.
 class SeriesExport {
   Q_DECLARE_TR_FUNCTIONS(SeriesExport)
 

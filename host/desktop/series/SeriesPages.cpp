@@ -6,7 +6,6 @@
 
 #include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
-#include "host/SysDisplay/DisplayTransformationHost.h"
 
 using SysCarto::MapHost;
 using SysCarto::PageLayoutHost;
@@ -78,9 +77,7 @@ std::optional<QString> SeriesPages::text(QString const& name, QString const& arg
   bool const asksForPage = name == QLatin1String("neighbourpage");
   auto const& map = PageLayoutHost::series(*layout_).frame.map;
   if (!map || (name != QLatin1String("neighbour") && !asksForPage)) return std::nullopt;
-  QRectF const area = SysDisplay::DisplayTransformationHost::coveredWorld(*map->GetDisplayTransformation());
-  auto const neighbour = neighbourOf(*coverage_, shown_, argument,
-                                     {area.left(), area.top(), area.right(), area.bottom()}, map->GetRotation());
+  auto const neighbour = neighbourOf(*coverage_, shown_, argument, *map);
   if (!neighbour) return std::nullopt;
   if (*neighbour == 0) return QString();
   return asksForPage ? QString::number(*neighbour) : this->name(*neighbour);

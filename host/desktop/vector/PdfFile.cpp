@@ -44,7 +44,7 @@ void PdfFile::addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector
   page.replaceKey("/Type", name("/Page"));
   page.replaceKey("/MediaBox", numbers({0, 0, sizePt.width(), sizePt.height()}));
   page.replaceKey("/Resources", objects_.resources());
-  page.replaceKey("/Contents", objects_.stream(canvas.content(sizePt)));
+  page.replaceKey("/Contents", objects_.packed(canvas.content(sizePt)));
   page.replaceKey("/Group", QPDFObjectHandle::parse("<</Type/Group/S/Transparency/CS/DeviceRGB>>"));
   page.replaceKey("/Tabs", name("/S"));
   page.replaceKey("/StructParents", QPDFObjectHandle::newInteger(pages_));
@@ -55,6 +55,30 @@ void PdfFile::addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector
   page = file_.makeIndirectObject(page);
   QPDFPageDocumentHelper(file_).addPage(QPDFPageObjectHelper(page), false);
   addParts(canvas, page, pages_++);
+  lastPage_ = page;
+}
+
+void PdfFile::addBookmark(QString const& name) {
+  QPDFObjectHandle bookmark = QPDFObjectHandle::newDictionary();
+  bookmark.replaceKey("/Title", pdfText(name));
+  bookmark.replaceKey("/Dest", QPDFObjectHandle::newArray({lastPage_, ::name("/Fit")}));
+  bookmarks_.push_back(file_.makeIndirectObject(bookmark));
+}
+
+// A list in which each entry knows the next one and the one before.
+void PdfFile::addOutline() {
+  if (bookmarks_.empty()) return;
+  QPDFObjectHandle outline = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Type/Outlines>>"));
+  outline.replaceKey("/First", bookmarks_.front());
+  outline.replaceKey("/Last", bookmarks_.back());
+  outline.replaceKey("/Count", QPDFObjectHandle::newInteger(static_cast<long long>(bookmarks_.size())));
+  for (size_t i = 0; i < bookmarks_.size(); ++i) {
+    bookmarks_[i].replaceKey("/Parent", outline);
+    if (i > 0) bookmarks_[i].replaceKey("/Prev", bookmarks_[i - 1]);
+    if (i + 1 < bookmarks_.size()) bookmarks_[i].replaceKey("/Next", bookmarks_[i + 1]);
+  }
+  file_.getRoot().replaceKey("/Outlines", outline);
+  file_.getRoot().replaceKey("/PageMode", name("/UseOutlines"));
 }
 
 // Each part of the page is an element of the structure, and the page's entry in the index lists them by their numbers.
@@ -152,6 +176,7 @@ QString PdfFile::write(QString const& path) {
   try {
     fonts_.embed(objects_);
     describe();
+    addOutline();
     QPDFWriter writer(file_, path.toLocal8Bit().constData());
     writer.setMinimumPDFVersion("1.7");
     writer.setObjectStreamMode(qpdf_o_generate);

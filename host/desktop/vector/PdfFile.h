@@ -27,12 +27,16 @@ public:
   /// The canvas must be of this file's objects and fonts. The size is in points.
   void addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames);
 
+  /// A bookmark that leads to the page that was added last.
+  void addBookmark(QString const& name);
+
   /// Writes the file. Empty, or what went wrong. Once.
   QString write(QString const& path);
 
 private:
   QPDFObjectHandle viewport(GeoreferencedFrame const& frame, QTransform const& toPoints);
   void addParts(PdfCanvas const& canvas, QPDFObjectHandle const& page, int pageNumber);
+  void addOutline();
   void describe();
   QByteArray metadata() const;
 
@@ -41,5 +45,7 @@ private:
   PdfObjects objects_;
   PdfFonts fonts_;
   QPDFObjectHandle structure_, whole_, parents_;  // what is read to a person: the tree, its root element, its index
+  QPDFObjectHandle lastPage_;
+  std::vector<QPDFObjectHandle> bookmarks_;
   int pages_ = 0;
 };

@@ -62,6 +62,13 @@ QPDFObjectHandle PdfObjects::stream(QByteArray const& bytes) {
   return QPDFObjectHandle::newStream(&file_, bytes.toStdString());
 }
 
+QPDFObjectHandle PdfObjects::packed(QByteArray const& bytes) {
+  constexpr int lengthBytes = 4;  // that qCompress puts before the stream
+  QPDFObjectHandle stream = this->stream(qCompress(bytes).mid(lengthBytes));
+  stream.getDict().replaceKey("/Filter", QPDFObjectHandle::newName("/FlateDecode"));
+  return stream;
+}
+
 QByteArray PdfObjects::form(QByteArray const& content, QRectF const& bounds, bool isSheet) {
   QByteArray box = "[";
   for (double side :

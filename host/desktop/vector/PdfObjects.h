@@ -50,6 +50,9 @@ public:
 
   QPDFObjectHandle stream(QByteArray const& bytes);
 
+  /// The same, compressed at once: a file of many pages is kept in memory until it is written.
+  QPDFObjectHandle packed(QByteArray const& bytes);
+
 private:
   struct Layer {
     QPDFObjectHandle group;

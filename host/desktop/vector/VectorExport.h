@@ -5,7 +5,15 @@
 
 #include <QString>
 
+#include <functional>
+#include <optional>
+
+/// Shows the next of several pages in the document and answers its name, or nothing after the last.
+using NextPage = std::function<std::optional<QString>()>;
+
 /// Writes the page of a document, which has one, as a PDF. Empty, or why it was not written, as a clause; nothing is
 /// said of what was cancelled. What is half written stays where it is.
+///
+/// With `next`, the file has all pages that it shows, each with a bookmark.
 QString writePdf(SysCarto::MapDocument const& document, QString const& path, int dpi,
-                 SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
+                 SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel, NextPage const& next = {});
