@@ -1543,23 +1543,23 @@
     <name>Coverage</name>
     <message>
         <source>The document has no series of pages; name its layer in “series/layer”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument hat keine Serie von Seiten; nennen Sie ihren Layer in „series/layer“.</translation>
     </message>
     <message>
         <source>The series names no map that is on the page; give its number in “series/map”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Serie nennt keine Karte, die auf der Seite ist; geben Sie deren Nummer in „series/map“ an.</translation>
     </message>
     <message>
         <source>The map “%1” has no layer “%2” whose features could have pages; name one of these in “series/layer”: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte „%1“ hat keinen Layer „%2“, dessen Objekte Seiten haben könnten; nennen Sie in „series/layer“ einen von diesen: %3.</translation>
     </message>
     <message>
         <source>The series has no pages: no feature of its layer meets its filters; change “series/filter”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Serie hat keine Seiten: kein Objekt ihres Layers erfüllt ihre Filter; ändern Sie „series/filter“.</translation>
     </message>
     <message>
         <source>The features of the series have no field “%1”; they have: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Objekte der Serie haben kein Feld „%1“; sie haben: %2.</translation>
     </message>
 </context>
 <context>
@@ -2096,7 +2096,7 @@
     </message>
     <message>
         <source>the series</source>
-        <translation type="unfinished"></translation>
+        <translation>der Serie</translation>
     </message>
 </context>
 <context>
@@ -5081,139 +5081,139 @@
     </message>
     <message>
         <source>Series</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie</translation>
     </message>
     <message>
         <source>A page for each feature of a layer, or for each row of a table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Seite für jedes Objekt eines Layers oder für jede Zeile einer Tabelle.</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten</translation>
     </message>
     <message>
         <source>On which pages of a series it stands: first, last, odd, even, numbers as in “1-3,7”, or a condition on the attributes of the page&apos;s feature; empty for all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf welchen Seiten einer Serie es steht: first, last, odd, even, Nummern wie „1-3,7“ oder eine Bedingung an die Attribute des Objekts der Seite; leer für alle.</translation>
     </message>
     <message>
         <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author], [page], [pages], [field:NAME] and [neighbour:north] are filled in while it is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was er sagt. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author], [page], [pages], [field:NAME] und [neighbour:north] werden beim Zeichnen ausgefüllt.</translation>
     </message>
     <message>
         <source>The name of a layer of the map: each of its features has a page. Empty where a source of its own has the features.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name eines Layers der Karte: jedes seiner Objekte hat eine Seite. Leer, wo eine eigene Quelle die Objekte hat.</translation>
     </message>
     <message>
         <source>Data of which no map has a layer: each feature or row of a table has a page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten, von denen keine Karte einen Layer hat: jedes Objekt und jede Zeile einer Tabelle hat eine Seite.</translation>
     </message>
     <message>
         <source>A condition on the attributes as in SQL: only features that meet it have a page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Bedingung an die Attribute wie in SQL: nur Objekte, die sie erfüllen, haben eine Seite.</translation>
     </message>
     <message>
         <source>Sorted by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortiert nach</translation>
     </message>
     <message>
         <source>The attribute by which pages are in order; empty for the order of the data. What has no value comes last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Attribut, nach dem die Seiten geordnet sind; leer für die Reihenfolge der Daten. Was keinen Wert hat, kommt zuletzt.</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>Absteigend</translation>
     </message>
     <message>
         <source>Whether the highest value comes first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der höchste Wert zuerst kommt.</translation>
     </message>
     <message>
         <source>Name of a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Name einer Seite</translation>
     </message>
     <message>
         <source>What a page is called in lists and bookmarks, as in “[field:name]”. Empty for the value by which pages are sorted, or their number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie eine Seite in Listen und Lesezeichen heißt, wie „[field:name]“. Leer für den Wert, nach dem sortiert ist, oder ihre Nummer.</translation>
     </message>
     <message>
         <source>Other maps that follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Karten, die folgen</translation>
     </message>
     <message>
         <source>Maps of further data frames that follow the features, each in its own way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Karten weiterer Datenrahmen, die den Objekten folgen, jede auf ihre Weise.</translation>
     </message>
     <message>
         <source>Highlight</source>
-        <translation type="unfinished"></translation>
+        <translation>Hervorhebung</translation>
     </message>
     <message>
         <source>With what the feature of the page is drawn over its layer; without it, it is not.</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit das Objekt der Seite über seinem Layer gezeichnet wird; ohne sie wird es nicht hervorgehoben.</translation>
     </message>
     <message>
         <source>Hide others</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere ausblenden</translation>
     </message>
     <message>
         <source>Whether the other features of the layer are left out, with their labels.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die anderen Objekte des Layers mit ihren Beschriftungen weggelassen werden.</translation>
     </message>
     <message>
         <source>Outside</source>
-        <translation type="unfinished"></translation>
+        <translation>Außerhalb</translation>
     </message>
     <message>
         <source>With what all that lies outside the feature&apos;s area is covered, as far as it lies below the layer; without it, nothing is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit alles bedeckt wird, was außerhalb der Fläche des Objekts und unter dem Layer liegt; ohne es wird nichts bedeckt.</translation>
     </message>
     <message>
         <source>The number of the map that follows the features; −1 for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Nummer der Karte, die den Objekten folgt; −1 für keine.</translation>
     </message>
     <message>
         <source>Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>Rand</translation>
     </message>
     <message>
         <source>What is left free at each side, in parts of the feature&apos;s size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was an jeder Seite frei bleibt, in Teilen der Größe des Objekts.</translation>
     </message>
     <message>
         <source>The scale of the map on all pages; 0 for one that the feature fits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Maßstab der Karte auf allen Seiten; 0 für einen, in den das Objekt passt.</translation>
     </message>
     <message>
         <source>Scales to choose from</source>
-        <translation type="unfinished"></translation>
+        <translation>Maßstäbe zur Auswahl</translation>
     </message>
     <message>
         <source>The map gets the largest of these that shows the whole feature. Where none does, or none is given, it is fitted freely.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte bekommt den größten von diesen, der das ganze Objekt zeigt. Wo es keiner tut oder keiner angegeben ist, wird sie frei eingepasst.</translation>
     </message>
     <message>
         <source>Main part</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauptteil</translation>
     </message>
     <message>
         <source>Whether the map shows the largest part of the feature with what lies near, and lets far islands go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Karte den größten Teil des Objekts mit dem zeigt, was nahe liegt, und ferne Inseln weglässt.</translation>
     </message>
     <message>
         <source>Along lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Entlang von Linien</translation>
     </message>
     <message>
         <source>Whether the map is turned so that a line leads from left to right.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Karte so gedreht wird, dass eine Linie von links nach rechts führt.</translation>
     </message>
     <message>
         <source>Rotation by</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehung nach</translation>
     </message>
     <message>
         <source>The attribute that holds by how many degrees the map is turned counterclockwise; empty for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Attribut, das angibt, um wie viele Grad die Karte gegen den Uhrzeigersinn gedreht wird; leer für keines.</translation>
     </message>
 </context>
 <context>
@@ -5315,7 +5315,7 @@
     <name>FileNames</name>
     <message>
         <source>Pages %1 and %2 would both be written to %3, so nothing was written; tell them apart, as with “[page]” in the name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seiten %1 und %2 würden beide nach %3 geschrieben, daher wurde nichts geschrieben; unterscheiden Sie sie, etwa mit „[page]“ im Namen.</translation>
     </message>
 </context>
 <context>
@@ -7542,7 +7542,7 @@
     </message>
     <message>
         <source>there is no &quot;%1&quot;; write document, page, series, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
-        <translation type="unfinished"></translation>
+        <translation>es gibt kein &quot;%1&quot;; schreiben Sie document, page, series, selection, den Namen eines Elements oder #HANDLE, map:NAME oder layer:MAP/LAYER; plotvane info zählt sie auf.</translation>
     </message>
 </context>
 <context>
@@ -7585,115 +7585,115 @@
     <name>SeriesExport</name>
     <message>
         <source>export: --resume passes over files of single pages; give the path a placeholder such as “[page]”.</source>
-        <translation type="unfinished"></translation>
+        <translation>export: --resume übergeht Dateien einzelner Seiten; geben Sie dem Pfad einen Platzhalter wie „[page]“.</translation>
     </message>
     <message>
         <source>%1 has a placeholder, which stands for something else on each page of a series, and the document has no series; name one file, or give the document a series.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat einen Platzhalter, der auf jeder Seite einer Serie für etwas anderes steht, und das Dokument hat keine Serie; nennen Sie eine Datei, oder geben Sie dem Dokument eine Serie.</translation>
     </message>
     <message>
         <source>export: --pages, --part, --jobs and --resume are for a series of pages, and the document has none; leave them out.</source>
-        <translation type="unfinished"></translation>
+        <translation>export: --pages, --part, --jobs und --resume sind für eine Serie von Seiten, und das Dokument hat keine; lassen Sie sie weg.</translation>
     </message>
     <message>
         <source>There is no such page; the series has %1 pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine solche Seite; die Serie hat %1 Seiten.</translation>
     </message>
     <message>
         <source>export: --jobs draws pages into files of their own; give the path a placeholder such as “[page]”, or leave --jobs out for one file.</source>
-        <translation type="unfinished"></translation>
+        <translation>export: --jobs zeichnet Seiten in eigene Dateien; geben Sie dem Pfad einen Platzhalter wie „[page]“, oder lassen Sie --jobs für eine einzige Datei weg.</translation>
     </message>
     <message>
         <source>%1 would be the file of %2 pages; give the path a placeholder such as “[page]” or “[field:name]”, or choose one page with --pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wäre die Datei von %2 Seiten; geben Sie dem Pfad einen Platzhalter wie „[page]“ oder „[field:name]“, oder wählen Sie mit --pages eine Seite.</translation>
     </message>
     <message>
         <source>%1 pages were whole already and were passed over.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Seiten waren schon vollständig und wurden übergangen.</translation>
     </message>
     <message>
         <source>Not all pages of %1 were written; the sentences before say which, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alle Seiten von %1 wurden geschrieben; die Sätze davor sagen, welche und warum.</translation>
     </message>
     <message>
         <source>Page %1 of %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 von %2 %3</translation>
     </message>
     <message>
         <source>Not all pages were written: interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alle Seiten wurden geschrieben: unterbrochen.</translation>
     </message>
     <message>
         <source>%1 of %2 pages were not written: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Seiten wurden nicht geschrieben: %3.</translation>
     </message>
 </context>
 <context>
     <name>SeriesOptions</name>
     <message>
         <source>Of a series, these pages: &quot;1-20,45&quot;, &quot;odd&quot;, &quot;last&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von einer Serie diese Seiten: &quot;1-20,45&quot;, &quot;odd&quot;, &quot;last&quot;.</translation>
     </message>
     <message>
         <source>Of the pages, every Nth from the Kth on: each page is in one of the N parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von den Seiten jede N-te von der K-ten an: jede Seite ist in einem der N Teile.</translation>
     </message>
     <message>
         <source>Draw pages in N processes at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten in N Prozessen zugleich zeichnen.</translation>
     </message>
     <message>
         <source>Pass over pages whose files are whole and newer than the document and its data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seiten übergehen, deren Dateien vollständig und neuer als das Dokument und seine Daten sind.</translation>
     </message>
     <message>
         <source>export: --pages takes numbers and ranges such as 1-20,45, or first, last, odd, even, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>export: --pages nimmt Nummern und Bereiche wie 1-20,45 oder first, last, odd, even, nicht &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>export: --part takes K/N with K from 1 to N, as in 3/10, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>export: --part nimmt K/N mit K von 1 bis N, wie 3/10, nicht &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>export: --jobs takes a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>export: --jobs nimmt eine ganze Zahl von 1 bis %1, nicht &quot;%2&quot;.</translation>
     </message>
 </context>
 <context>
     <name>SeriesPages</name>
     <message>
         <source>There is no document whose pages could be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Dokument, dessen Seiten gezeigt werden könnten.</translation>
     </message>
     <message>
         <source>The element “%1” stands on all pages: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Element „%1“ steht auf allen Seiten: %2</translation>
     </message>
     <message>
         <source>Page %1 “%2”: its feature has no place that the map could show; leave it out by “series/filter”, or mend its geometry.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 „%2“: ihr Objekt hat keinen Ort, den die Karte zeigen könnte; lassen Sie es mit „series/filter“ weg, oder berichtigen Sie seine Geometrie.</translation>
     </message>
 </context>
 <context>
     <name>SeriesSettings</name>
     <message>
         <source>is missing; name the layer, or a “source”, whose features are to have a page each</source>
-        <translation type="unfinished"></translation>
+        <translation>fehlt; nennen Sie den Layer oder eine „source“, deren Objekte je eine Seite haben sollen</translation>
     </message>
 </context>
 <context>
     <name>SeriesView</name>
     <message>
         <source>The document has no series of pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Dokument hat keine Serie von Seiten.</translation>
     </message>
     <message>
         <source>There is no page %1; the series has %2 pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine Seite %1; die Serie hat %2 Seiten.</translation>
     </message>
     <message>
         <source>No page has the number or the name “%1”; there are %2, from “%3” to “%4”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Seite hat die Nummer oder den Namen „%1“; es gibt %2, von „%3“ bis „%4“.</translation>
     </message>
 </context>
 <context>

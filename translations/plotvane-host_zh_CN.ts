@@ -1543,23 +1543,23 @@
     <name>Coverage</name>
     <message>
         <source>The document has no series of pages; name its layer in “series/layer”.</source>
-        <translation type="unfinished"></translation>
+        <translation>文档没有页面系列；请在“series/layer”中指定其图层。</translation>
     </message>
     <message>
         <source>The series names no map that is on the page; give its number in “series/map”.</source>
-        <translation type="unfinished"></translation>
+        <translation>系列没有指定页面上的地图；请在“series/map”中给出其编号。</translation>
     </message>
     <message>
         <source>The map “%1” has no layer “%2” whose features could have pages; name one of these in “series/layer”: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>地图“%1”没有图层“%2”，其要素无法成页；请在“series/layer”中指定其中之一：%3。</translation>
     </message>
     <message>
         <source>The series has no pages: no feature of its layer meets its filters; change “series/filter”.</source>
-        <translation type="unfinished"></translation>
+        <translation>系列没有页面：其图层没有要素满足过滤条件；请修改“series/filter”。</translation>
     </message>
     <message>
         <source>The features of the series have no field “%1”; they have: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>系列的要素没有字段“%1”；它们有：%2。</translation>
     </message>
 </context>
 <context>
@@ -2096,7 +2096,7 @@
     </message>
     <message>
         <source>the series</source>
-        <translation type="unfinished"></translation>
+        <translation>系列</translation>
     </message>
 </context>
 <context>
@@ -5081,139 +5081,139 @@
     </message>
     <message>
         <source>Series</source>
-        <translation type="unfinished"></translation>
+        <translation>系列</translation>
     </message>
     <message>
         <source>A page for each feature of a layer, or for each row of a table.</source>
-        <translation type="unfinished"></translation>
+        <translation>图层的每个要素或表格的每一行各有一页。</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>页</translation>
     </message>
     <message>
         <source>On which pages of a series it stands: first, last, odd, even, numbers as in “1-3,7”, or a condition on the attributes of the page&apos;s feature; empty for all.</source>
-        <translation type="unfinished"></translation>
+        <translation>它出现在系列的哪些页上：first、last、odd、even，如“1-3,7”的页码，或关于该页要素属性的条件；空表示所有页。</translation>
     </message>
     <message>
         <source>What it says. [scale], [date:yyyy-MM-dd], [document], [map], [crs], [credits], [title], [author], [page], [pages], [field:NAME] and [neighbour:north] are filled in while it is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>其内容。[scale]、[date:yyyy-MM-dd]、[document]、[map]、[crs]、[credits]、[title]、[author]、[page]、[pages]、[field:NAME] 和 [neighbour:north] 在绘制时填入。</translation>
     </message>
     <message>
         <source>The name of a layer of the map: each of its features has a page. Empty where a source of its own has the features.</source>
-        <translation type="unfinished"></translation>
+        <translation>地图中某图层的名称：其每个要素有一页。若要素来自单独的数据源则为空。</translation>
     </message>
     <message>
         <source>Data of which no map has a layer: each feature or row of a table has a page.</source>
-        <translation type="unfinished"></translation>
+        <translation>任何地图都没有其图层的数据：每个要素或表格的每一行有一页。</translation>
     </message>
     <message>
         <source>A condition on the attributes as in SQL: only features that meet it have a page.</source>
-        <translation type="unfinished"></translation>
+        <translation>关于属性的 SQL 条件：只有满足它的要素才有页面。</translation>
     </message>
     <message>
         <source>Sorted by</source>
-        <translation type="unfinished"></translation>
+        <translation>排序依据</translation>
     </message>
     <message>
         <source>The attribute by which pages are in order; empty for the order of the data. What has no value comes last.</source>
-        <translation type="unfinished"></translation>
+        <translation>页面排序所依据的属性；空表示数据的顺序。没有值的排在最后。</translation>
     </message>
     <message>
         <source>Descending</source>
-        <translation type="unfinished"></translation>
+        <translation>降序</translation>
     </message>
     <message>
         <source>Whether the highest value comes first.</source>
-        <translation type="unfinished"></translation>
+        <translation>是否最大值在前。</translation>
     </message>
     <message>
         <source>Name of a page</source>
-        <translation type="unfinished"></translation>
+        <translation>页面名称</translation>
     </message>
     <message>
         <source>What a page is called in lists and bookmarks, as in “[field:name]”. Empty for the value by which pages are sorted, or their number.</source>
-        <translation type="unfinished"></translation>
+        <translation>页面在列表和书签中的名称，如“[field:name]”。空表示排序所用的值或页码。</translation>
     </message>
     <message>
         <source>Other maps that follow</source>
-        <translation type="unfinished"></translation>
+        <translation>其他跟随的地图</translation>
     </message>
     <message>
         <source>Maps of further data frames that follow the features, each in its own way.</source>
-        <translation type="unfinished"></translation>
+        <translation>其他数据框的地图，各以自己的方式跟随要素。</translation>
     </message>
     <message>
         <source>Highlight</source>
-        <translation type="unfinished"></translation>
+        <translation>突出显示</translation>
     </message>
     <message>
         <source>With what the feature of the page is drawn over its layer; without it, it is not.</source>
-        <translation type="unfinished"></translation>
+        <translation>该页的要素用什么绘制在其图层之上；没有则不绘制。</translation>
     </message>
     <message>
         <source>Hide others</source>
-        <translation type="unfinished"></translation>
+        <translation>隐藏其他</translation>
     </message>
     <message>
         <source>Whether the other features of the layer are left out, with their labels.</source>
-        <translation type="unfinished"></translation>
+        <translation>是否省略该图层的其他要素及其标注。</translation>
     </message>
     <message>
         <source>Outside</source>
-        <translation type="unfinished"></translation>
+        <translation>外部</translation>
     </message>
     <message>
         <source>With what all that lies outside the feature&apos;s area is covered, as far as it lies below the layer; without it, nothing is.</source>
-        <translation type="unfinished"></translation>
+        <translation>要素区域之外且位于该图层之下的一切用什么遮盖；没有则不遮盖。</translation>
     </message>
     <message>
         <source>The number of the map that follows the features; −1 for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>跟随要素的地图的编号；−1 表示没有。</translation>
     </message>
     <message>
         <source>Margin</source>
-        <translation type="unfinished"></translation>
+        <translation>边距</translation>
     </message>
     <message>
         <source>What is left free at each side, in parts of the feature&apos;s size.</source>
-        <translation type="unfinished"></translation>
+        <translation>每边留出的空白，占要素大小的比例。</translation>
     </message>
     <message>
         <source>The scale of the map on all pages; 0 for one that the feature fits.</source>
-        <translation type="unfinished"></translation>
+        <translation>地图在所有页上的比例尺；0 表示适合要素的比例尺。</translation>
     </message>
     <message>
         <source>Scales to choose from</source>
-        <translation type="unfinished"></translation>
+        <translation>可选比例尺</translation>
     </message>
     <message>
         <source>The map gets the largest of these that shows the whole feature. Where none does, or none is given, it is fitted freely.</source>
-        <translation type="unfinished"></translation>
+        <translation>地图采用其中能显示整个要素的最大比例尺。若都不能或未给出，则自由适配。</translation>
     </message>
     <message>
         <source>Main part</source>
-        <translation type="unfinished"></translation>
+        <translation>主体部分</translation>
     </message>
     <message>
         <source>Whether the map shows the largest part of the feature with what lies near, and lets far islands go.</source>
-        <translation type="unfinished"></translation>
+        <translation>地图是否显示要素的最大部分及其附近，而舍去远处的岛屿。</translation>
     </message>
     <message>
         <source>Along lines</source>
-        <translation type="unfinished"></translation>
+        <translation>沿线</translation>
     </message>
     <message>
         <source>Whether the map is turned so that a line leads from left to right.</source>
-        <translation type="unfinished"></translation>
+        <translation>是否旋转地图使线从左到右延伸。</translation>
     </message>
     <message>
         <source>Rotation by</source>
-        <translation type="unfinished"></translation>
+        <translation>旋转依据</translation>
     </message>
     <message>
         <source>The attribute that holds by how many degrees the map is turned counterclockwise; empty for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存地图逆时针旋转度数的属性；空表示没有。</translation>
     </message>
 </context>
 <context>
@@ -5315,7 +5315,7 @@
     <name>FileNames</name>
     <message>
         <source>Pages %1 and %2 would both be written to %3, so nothing was written; tell them apart, as with “[page]” in the name.</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1 页和第 %2 页都会写入 %3，因此什么也没有写；请加以区分，例如在名称中使用“[page]”。</translation>
     </message>
 </context>
 <context>
@@ -7542,7 +7542,7 @@
     </message>
     <message>
         <source>there is no &quot;%1&quot;; write document, page, series, selection, an element&apos;s name or #HANDLE, map:NAME, or layer:MAP/LAYER; plotvane info lists them.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有“%1”；请写 document、page、series、selection、元素的名称或 #HANDLE、map:NAME 或 layer:MAP/LAYER；plotvane info 会列出它们。</translation>
     </message>
 </context>
 <context>
@@ -7585,115 +7585,115 @@
     <name>SeriesExport</name>
     <message>
         <source>export: --resume passes over files of single pages; give the path a placeholder such as “[page]”.</source>
-        <translation type="unfinished"></translation>
+        <translation>export：--resume 跳过单页文件；请在路径中使用如“[page]”的占位符。</translation>
     </message>
     <message>
         <source>%1 has a placeholder, which stands for something else on each page of a series, and the document has no series; name one file, or give the document a series.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 含有占位符，它在系列的每一页上代表不同内容，而文档没有系列；请指定一个文件，或给文档一个系列。</translation>
     </message>
     <message>
         <source>export: --pages, --part, --jobs and --resume are for a series of pages, and the document has none; leave them out.</source>
-        <translation type="unfinished"></translation>
+        <translation>export：--pages、--part、--jobs 和 --resume 用于页面系列，而文档没有系列；请去掉它们。</translation>
     </message>
     <message>
         <source>There is no such page; the series has %1 pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有这样的页；系列有 %1 页。</translation>
     </message>
     <message>
         <source>export: --jobs draws pages into files of their own; give the path a placeholder such as “[page]”, or leave --jobs out for one file.</source>
-        <translation type="unfinished"></translation>
+        <translation>export：--jobs 将各页绘入各自的文件；请在路径中使用如“[page]”的占位符，或为单个文件去掉 --jobs。</translation>
     </message>
     <message>
         <source>%1 would be the file of %2 pages; give the path a placeholder such as “[page]” or “[field:name]”, or choose one page with --pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 将成为 %2 页的文件；请在路径中使用如“[page]”或“[field:name]”的占位符，或用 --pages 选择一页。</translation>
     </message>
     <message>
         <source>%1 pages were whole already and were passed over.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 页已经完整，已跳过。</translation>
     </message>
     <message>
         <source>Not all pages of %1 were written; the sentences before say which, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 的页面未全部写出；前面的句子说明了是哪些以及原因。</translation>
     </message>
     <message>
         <source>Page %1 of %2 %3</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1 页，共 %2 页 %3</translation>
     </message>
     <message>
         <source>Not all pages were written: interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>页面未全部写出：已中断。</translation>
     </message>
     <message>
         <source>%1 of %2 pages were not written: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 页中有 %1 页没有写出：%3。</translation>
     </message>
 </context>
 <context>
     <name>SeriesOptions</name>
     <message>
         <source>Of a series, these pages: &quot;1-20,45&quot;, &quot;odd&quot;, &quot;last&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>系列中的这些页：&quot;1-20,45&quot;、&quot;odd&quot;、&quot;last&quot;。</translation>
     </message>
     <message>
         <source>Of the pages, every Nth from the Kth on: each page is in one of the N parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>从第 K 页起每隔 N 页取一页：每页都在 N 个部分中的一个。</translation>
     </message>
     <message>
         <source>Draw pages in N processes at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>同时用 N 个进程绘制页面。</translation>
     </message>
     <message>
         <source>Pass over pages whose files are whole and newer than the document and its data.</source>
-        <translation type="unfinished"></translation>
+        <translation>跳过文件完整且比文档及其数据更新的页面。</translation>
     </message>
     <message>
         <source>export: --pages takes numbers and ranges such as 1-20,45, or first, last, odd, even, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>export：--pages 接受如 1-20,45 的页码和范围，或 first、last、odd、even，而不是 &quot;%1&quot;。</translation>
     </message>
     <message>
         <source>export: --part takes K/N with K from 1 to N, as in 3/10, not &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>export：--part 接受 K/N，K 为 1 到 N，如 3/10，而不是 &quot;%1&quot;。</translation>
     </message>
     <message>
         <source>export: --jobs takes a whole number from 1 to %1, not &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>export：--jobs 接受 1 到 %1 的整数，而不是 &quot;%2&quot;。</translation>
     </message>
 </context>
 <context>
     <name>SeriesPages</name>
     <message>
         <source>There is no document whose pages could be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有可以显示页面的文档。</translation>
     </message>
     <message>
         <source>The element “%1” stands on all pages: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>元素“%1”出现在所有页上：%2</translation>
     </message>
     <message>
         <source>Page %1 “%2”: its feature has no place that the map could show; leave it out by “series/filter”, or mend its geometry.</source>
-        <translation type="unfinished"></translation>
+        <translation>第 %1 页“%2”：其要素没有地图能显示的位置；请用“series/filter”去掉它，或修正其几何。</translation>
     </message>
 </context>
 <context>
     <name>SeriesSettings</name>
     <message>
         <source>is missing; name the layer, or a “source”, whose features are to have a page each</source>
-        <translation type="unfinished"></translation>
+        <translation>缺失；请指定其要素各有一页的图层或“source”</translation>
     </message>
 </context>
 <context>
     <name>SeriesView</name>
     <message>
         <source>The document has no series of pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>文档没有页面系列。</translation>
     </message>
     <message>
         <source>There is no page %1; the series has %2 pages.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有第 %1 页；系列有 %2 页。</translation>
     </message>
     <message>
         <source>No page has the number or the name “%1”; there are %2, from “%3” to “%4”.</source>
-        <translation type="unfinished"></translation>
+        <translation>没有页码或名称为“%1”的页；共有 %2 页，从“%3”到“%4”。</translation>
     </message>
 </context>
 <context>

@@ -45,6 +45,7 @@ constexpr char const* untoldOfDocuments[] = {
     "The places beside points are upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below and centre.",
     "The pattern of a scale text holds %1.",
     "The language of a document is a tag of BCP 47.",
+    "A series names a layer, or has a source.",
     "A source names a file, unless its data are the globe.",
 };
 constexpr char const* untoldOfStyles[] = {

@@ -51,8 +51,8 @@ public:
   static Pointer layer(SysUtility::_ptr_t<Map> const& map, SysUtility::_ptr_t<Layer> const& layer);
   static Pointer layerGroup(SysUtility::_ptr_t<LayerGroup> const& group);
 
-  /// Those that a text names: `document`, `page`, `series`, `selection`, the NAME of elements or `#HANDLE`, `map:NAME` or
-  /// `layer:MAP/LAYER` (maps and layers by number, too: `map:#0`), where LAYER may be a group of layers. Empty where
+  /// Those that a text names: `document`, `page`, `series`, `selection`, the NAME of elements or `#HANDLE`, `map:NAME`
+  /// or `layer:MAP/LAYER` (maps and layers by number, too: `map:#0`), where LAYER may be a group of layers. Empty where
   /// there are none.
   static List named(MapDocument const& document, QString const& text);
 

@@ -159,12 +159,12 @@ QString SeriesExport::writeFiles() {
 
 QString SeriesExport::writePage(int page, QString const& path) {
   PageExport file(path, request_.format, request_.options);
-  if (request_.series.resumes && isDone(file, path)) {
+  QString problem = file.checkPlace();
+  if (problem.isEmpty()) problem = pages_->show(page);
+  if (problem.isEmpty() && request_.series.resumes && isDone(file, path)) {
     ++passed_;
     return QString();
   }
-  QString problem = file.checkPlace();
-  if (problem.isEmpty()) problem = pages_->show(page);
   if (problem.isEmpty()) problem = file.write(document_, cancel_);
   if (problem.isEmpty()) tell(path);
   return problem;
