@@ -5392,6 +5392,10 @@
         <source>choose another name, or unlock it</source>
         <translation>wählen Sie einen anderen Namen oder heben Sie den Schutz auf</translation>
     </message>
+    <message>
+        <source>choose another place</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FrameSettings</name>
@@ -7382,6 +7386,50 @@
     <message>
         <source>Group %1</source>
         <translation>Gruppe %1</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryDialog</name>
+    <message>
+        <source>Recover Documents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plotvane ended with changes that were not saved. A recovered document is as it was then, and counts as not saved; its file stays as it is until you save.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep for Later</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation type="unfinished">Unbenannt</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plotvane</source>
+        <translation type="unfinished">Plotvane</translation>
+    </message>
+    <message>
+        <source>%1
+The copy is kept in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard the changes of %1?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -7,9 +7,12 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace SysUtility {
@@ -24,35 +27,116 @@ QString problem(QString const& path, QString const& cause, QString const& fix) {
   return aboutFile(path, cause + QStringLiteral("; ") + fix);
 }
 
+QString realPath(QString const& path) {
+  QString const real = QFileInfo(path).canonicalFilePath();
+  return real.isEmpty() ? path : real;
+}
+
+bool takesNewFiles(QString const& folder) { return access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0; }
+
+QString closedFolder(QString const& path, QString const& folder) {
+  return problem(
+      path,
+      Texts::tr("the folder %1 can't be written (%2)").arg(QDir::toNativeSeparators(folder), qt_error_string(errno)),
+      Texts::tr("choose another"));
+}
+
+// Some file systems can't synchronise, and say so with EINVAL.
+bool syncToDisk(int file) { return fsync(file) == 0 || errno == EINVAL; }
+
+// The new name of a file is in its folder.
+void syncFolder(QString const& folder) {
+  int const handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (handle < 0) return;
+  syncToDisk(handle);
+  close(handle);
+}
+
+// What belongs to a file and is not its content. What the system keeps to itself, or another owner's, is left.
+void takeAttributes(QString const& from, int to) {
+  QByteArray const path = QFile::encodeName(from);
+  struct stat status = {};
+  if (stat(path.constData(), &status) != 0) return;
+  [[maybe_unused]] bool const isGiven =
+      fchown(to, status.st_uid, status.st_gid) == 0 || fchown(to, static_cast<uid_t>(-1), status.st_gid) == 0;
+  fchmod(to, status.st_mode & 07777);
+  ssize_t const bytes = listxattr(path.constData(), nullptr, 0);
+  QByteArray names(std::max<int>(0, static_cast<int>(bytes)), '\0');
+  names.resize(
+      std::max<int>(0, static_cast<int>(listxattr(path.constData(), names.data(), static_cast<size_t>(names.size())))));
+  for (QByteArray const& name : names.split('\0')) {
+    ssize_t const size = name.isEmpty() ? -1 : getxattr(path.constData(), name.constData(), nullptr, 0);
+    QByteArray value(std::max<int>(0, static_cast<int>(size)), '\0');
+    if (size >= 0 && getxattr(path.constData(), name.constData(), value.data(), static_cast<size_t>(size)) == size)
+      fsetxattr(to, name.constData(), value.constData(), static_cast<size_t>(size), 0);
+  }
+}
+
+// On a full disk a large write comes back short, without an error, so the bytes are counted.
+bool putWhole(QFileDevice& file, QByteArray const& content) {
+  return file.write(content) == content.size() && file.flush() && file.error() == QFileDevice::NoError;
+}
+
+QString noRoom(QString const& path, QFileDevice const& file) {
+  QString const cause =
+      file.error() == QFileDevice::NoError ? Texts::tr("there is no room for it") : file.errorString();
+  return problem(path, cause, Texts::tr("free some space or choose another place"));
+}
+
+QString notSynced(QString const& path) {
+  return problem(path, qt_error_string(errno), Texts::tr("check the disk or choose another place"));
+}
+
+// What was there is put back where the new content does not fit.
+QString overwrite(QString const& path, QByteArray const& content) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadWrite))
+    return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
+  QByteArray const before = file.readAll();
+  bool const isKnown = before.size() == file.size() && file.error() == QFileDevice::NoError;
+  QString trouble = isKnown ? QString() : problem(path, file.errorString(), Texts::tr("choose another place"));
+  if (!trouble.isEmpty()) return trouble;
+  file.seek(0);
+  if (!putWhole(file, content))
+    trouble = noRoom(path, file);
+  else if (!file.resize(content.size()) || !syncToDisk(file.handle()))
+    trouble = notSynced(path);
+  if (trouble.isEmpty()) return trouble;
+  file.unsetError();
+  file.seek(0);
+  if (putWhole(file, before) && file.resize(before.size())) syncToDisk(file.handle());
+  return trouble;
+}
+
 }  // namespace
 
-// On a full disk a large write comes back short, without an error, and QSaveFile would commit the truncated file. So
-// the bytes are counted, and the system is asked to store them before the old file gives way.
+// The system is asked to store the bytes before the old file gives way: QSaveFile would commit a truncated file.
 QString FileSaver::save(QString const& path, QByteArray const& content) {
   QString const obstacle = checkPlace(path);
   if (!obstacle.isEmpty()) return obstacle;
-  QSaveFile file(path);
+  QString const real = realPath(path), folder = QFileInfo(real).absolutePath();
+  if (!takesNewFiles(folder)) return overwrite(real, content);
+  QSaveFile file(real);
   if (!file.open(QIODevice::WriteOnly))
     return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
-
-  bool const whole = file.write(content) == content.size() && file.flush() && file.error() == QFileDevice::NoError;
-  if (!whole) {
-    QString const cause =
-        file.error() == QFileDevice::NoError ? Texts::tr("there is no room for it") : file.errorString();
-    return problem(path, cause, Texts::tr("free some space or choose another place"));
-  }
-  // Some file systems can't synchronise, and say so with EINVAL.
-  if (fsync(file.handle()) != 0 && errno != EINVAL)
-    return problem(path, qt_error_string(errno), Texts::tr("check the disk or choose another place"));
+  if (!putWhole(file, content)) return noRoom(path, file);
+  takeAttributes(real, file.handle());
+  if (!syncToDisk(file.handle())) return notSynced(path);
   if (!file.commit()) return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
+  syncFolder(folder);
   return QString();
 }
 
-// Of a link, what it leads to. A file is replaced by another one beside it, so that the folder must be writable, too.
+QString FileSaver::checkFolder(QString const& path) {
+  QString const obstacle = checkPlace(path);
+  QString const folder = QFileInfo(realPath(path)).absolutePath();
+  return !obstacle.isEmpty() || takesNewFiles(folder) ? obstacle : closedFolder(path, folder);
+}
+
+// Of a link, what it leads to.
 QString FileSaver::checkPlace(QString const& path) {
   if (path.isEmpty()) return Texts::tr("No file was named; give it a name.");
-  QString const real = QFileInfo(path).canonicalFilePath();
-  QFileInfo const file(real.isEmpty() ? path : real);
+  QFileInfo const file(realPath(path));
   QString const folder = file.absolutePath();
   if (!QFileInfo(folder).isDir())
     return problem(path, Texts::tr("the folder %1 does not exist").arg(QDir::toNativeSeparators(folder)),
@@ -63,11 +147,7 @@ QString FileSaver::checkPlace(QString const& path) {
   if (!isThere && errno != ENOENT) return problem(path, qt_error_string(errno), Texts::tr("choose another name"));
   if (isThere && !S_ISREG(status.st_mode))
     return problem(path, Texts::tr("this is no ordinary file"), Texts::tr("choose another name"));
-  if (access(QFile::encodeName(folder).constData(), W_OK | X_OK) != 0)
-    return problem(
-        path,
-        Texts::tr("the folder %1 can't be written (%2)").arg(QDir::toNativeSeparators(folder), qt_error_string(errno)),
-        Texts::tr("choose another"));
+  if (!isThere && !takesNewFiles(folder)) return closedFolder(path, folder);
   if (isThere && !file.isWritable())
     return problem(path, Texts::tr("this file is write-protected"), Texts::tr("choose another name, or unlock it"));
   return QString();

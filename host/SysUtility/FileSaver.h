@@ -12,11 +12,18 @@ class SYSUTILITY_EXPORT FileSaver {
 public:
   /// Replaces the file at `path`, or makes it. On failure nothing at `path` has changed, and the answer is a translated
   /// sentence with the file, the cause and what to do; an empty text means that the file is safely on the disk.
+  ///
+  /// A link stays a link, and what it leads to is replaced. A file that is replaced gives its owner, its permissions
+  /// and its extended attributes to the new one, as far as the system lets us. Where its folder takes no new file, it
+  /// is written over in its place: then alone a power cut may leave a half.
   static QString save(QString const& path, QByteArray const& content);
 
   /// Whether a file can be put there: a sentence as `save` answers one where the folder is missing or can't be written,
   /// or where something lies there that must not give way: a folder, a device, a pipe, a write-protected file.
   static QString checkPlace(QString const& path);
+
+  /// The same where the file is written beside its place first, so that its folder must take new files.
+  static QString checkFolder(QString const& path);
 };
 
 }  // namespace SysUtility

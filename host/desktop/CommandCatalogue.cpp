@@ -160,6 +160,8 @@ public:
        QT_TR_NOOP("Save"), QT_TR_NOOP("Save the document"), QT_TR_NOOP("changes that are not saved")},
       {"Host_SaveAs", "save-as", inFile, 2, onNone, "Ctrl+Shift+S",
        QT_TR_NOOP("Save As…"), QT_TR_NOOP("Save the document under another name"), document},
+      {"Host_KeepEarlier", "keep-earlier", inFile, 2, onNone, "",
+       QT_TR_NOOP("Keep Earlier Version"), QT_TR_NOOP("Let a save keep what the file held before, as a file with “~” behind its name"), nothing},
       {"Host_DocumentProperties", "document-properties", inFile, 4, onNone, "",
        QT_TR_NOOP("Document Properties…"), QT_TR_NOOP("Set what the document says about itself: title, author, keywords"), document},
       {"Host_Undo", "undo", inEdit, 1, onEdit, "Ctrl+Z",

@@ -47,10 +47,17 @@ bool DocumentSession::make(std::function<bool(SysCarto::MapDocument&)> const& fi
   return done;
 }
 
+bool DocumentSession::recover(QString const& copy, QString const& file, bool relativePaths,
+                              QByteArray const& fileDigest) {
+  if (!SysCarto::MapDocumentHost::recover(document_, copy, file, relativePaths)) return false;
+  fileDigest_ = fileDigest;
+  return settle(true);
+}
+
 bool DocumentSession::save() { return saveAs(path()); }
 
 bool DocumentSession::saveAs(QString const& path) {
-  if (!document_.SaveAs(path, document_.IsUsesRelativePaths(), false)) return false;
+  if (!document_.SaveAs(path, document_.IsUsesRelativePaths(), keepsEarlier_)) return false;
   fileDigest_ = contentDigest(path);
   return settle(true);
 }

@@ -28,10 +28,20 @@ public:
   bool open(QString const& path, SysCarto::ReadProgress const& progress = {});  ///< no problem where that stops it
   /// Lets something else give the document its content; it answers whether it did. What it has begun to is told, too.
   bool make(std::function<bool(SysCarto::MapDocument&)> const& fill);
+  /// Takes over a copy (`MapDocumentHost::recover`) of a document whose file had that digest when it was last read or
+  /// written.
+  bool recover(QString const& copy, QString const& file, bool relativePaths, QByteArray const& fileDigest);
   bool save();
   bool saveAs(QString const& path);
+  /// Whether a save keeps what the file held before as a file with "~" behind its name; it does not at first.
+  void setKeepsEarlier(bool keeps) { keepsEarlier_ = keeps; }
+  bool keepsEarlier() const { return keepsEarlier_; }
+
   /// Said once: whoever asks tells it.
   static QString takeProblem();
+
+  /// Of the file, as it was last read or written here.
+  QByteArray const& fileDigest() const { return fileDigest_; }
 
   /// Whether the file holds something else than what was read from it or written to it here; false where it has gone.
   bool isFileChanged() const;
@@ -62,4 +72,5 @@ private:
   SysCarto::MapDocument document_;
   QByteArray fileDigest_;  // of the file, as it is known here
   bool isFileGivenUp_ = false;
+  bool keepsEarlier_ = false;
 };

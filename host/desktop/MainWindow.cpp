@@ -8,6 +8,7 @@
 #include "drawing/Ruler.h"
 #include "layers/LayerClasses.h"
 #include "layers/LayerPanels.h"
+#include "recovery/RecoveryDialog.h"
 
 #include "host/SysAdapterUI/ContentsTree.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
@@ -45,7 +46,7 @@ constexpr int refusalMs = 8000;
 QString const geometryKey = QStringLiteral("window/geometry");
 QString const stateKey = QStringLiteral("window/state");
 QString const rulersKey = QStringLiteral("view/rulers"), guidesKey = QStringLiteral("view/guides"),
-              snappingKey = QStringLiteral("view/snapping");
+              snappingKey = QStringLiteral("view/snapping"), earlierKey = QStringLiteral("files/keepsEarlier");
 constexpr int stateVersion = 1;  // of the toolbars and docks
 
 // The one local document that is dragged; empty where something else is.
@@ -86,7 +87,8 @@ MainWindow::MainWindow()
     : bench_([this](HostCommands& host) { addWindowCommands(host); }),
       files_(bench_.session(), *this),
       adding_(bench_.session(), bench_.views(), *this),
-      question_(bench_.session(), *this) {
+      question_(bench_.session(), *this),
+      recovery_(bench_.session(), [this] { return bench_.views().currentWidget()->grab().toImage(); }) {
   new BoxTitles(this);
   setAcceptDrops(true);
   setWindowIcon(loadIcon(QStringLiteral("layout-view")));
@@ -157,6 +159,9 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   };
   host.add(QStringLiteral("Host_Save"), {redrawnAs(&DocumentFiles::save), modified, always});
   host.add(QStringLiteral("Host_SaveAs"), {redrawnAs(&DocumentFiles::saveAs), always, always});
+  host.add(QStringLiteral("Host_KeepEarlier"),
+           {[this] { bench_.session().setKeepsEarlier(!bench_.session().keepsEarlier()); }, always,
+            [this] { return bench_.session().keepsEarlier(); }});
   host.add(QStringLiteral("Host_AddLayer"), {[this] { adding_.chooseFiles(); },
                                              [this] {
                                                auto const layout = bench_.views().GetPageLayout();
@@ -250,6 +255,7 @@ void MainWindow::connectFiles() {
   bench_.commands().setGuard([this](CommandEntry const& entry) {
     properties_->finish();
     layers_.finishTyping();
+    if (entry.identifier.contains(QLatin1String("Export"))) recovery_.update();
     if (entry.identifier == QLatin1String("Plotvane_Export")) return files_.mayExport();
     return question_.mayRun(entry.identifier);
   });
@@ -343,6 +349,7 @@ void MainWindow::restoreState() {
   hasRulers_ = settings.value(rulersKey, true).toBool();
   view.setShowsAids(settings.value(guidesKey, true).toBool());
   view.setSnaps(settings.value(snappingKey, true).toBool());
+  bench_.session().setKeepsEarlier(settings.value(earlierKey, true).toBool());
   showRulers();
 }
 
@@ -353,6 +360,7 @@ void MainWindow::keepState() {
   settings.setValue(rulersKey, hasRulers_);
   settings.setValue(guidesKey, bench_.views().layoutView().showsAids());
   settings.setValue(snappingKey, bench_.views().layoutView().snaps());
+  settings.setValue(earlierKey, bench_.session().keepsEarlier());
 }
 
 void MainWindow::documentReplaced() {
@@ -476,9 +484,13 @@ void MainWindow::dropEvent(QDropEvent* event) {
   });
 }
 
+bool MainWindow::recover() { return offerLostDocuments(bench_.session(), recovery_, this); }
+
 int runWindow(QString const& path) {
   MainWindow window;
   window.show();
-  if (!path.isEmpty()) QTimer::singleShot(0, &window, [&window, path] { window.open(path); });
+  QTimer::singleShot(0, &window, [&window, path] {
+    if (!window.recover() && !path.isEmpty()) window.open(path);
+  });
   return QApplication::exec();
 }

@@ -7,6 +7,7 @@
 #include "layers/LayerAdding.h"
 #include "layers/LayerCommands.h"
 #include "output/OutputCommands.h"
+#include "recovery/RecoveryCopy.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
 #include <SysAdapterUI/TOCControl.h>
@@ -33,6 +34,9 @@ public:
 
   /// Opens a document; a message box says why where it can't.
   bool open(QString const& path) { return files_.open(path); }
+
+  /// Offers what was not saved when the program last ended; false where there is nothing, or it is left.
+  bool recover();
 
   Workbench& bench() { return bench_; }
   ActionTable& actions() { return *actions_; }
@@ -74,6 +78,7 @@ private:
   DocumentFiles files_;
   LayerAdding adding_;
   HistoryQuestion question_;
+  RecoveryCopy recovery_;
   std::unique_ptr<ActionTable> actions_;
   std::unique_ptr<Companion> companion_;
   SysAdapterUI::TOCControl* contents_ = nullptr;

@@ -7,6 +7,9 @@
 #include <SysUtility/MathUtil.h>
 #include <SysUtility/Ptr.h>
 
+#include <sys/xattr.h>
+#include <unistd.h>
+
 #include <cmath>
 #include <functional>
 
@@ -232,6 +235,36 @@ private slots:
     QCOMPARE(FileSaver::save(path, "second"), QString());
     QCOMPARE(contentOf(path), QByteArray("second"));
     QCOMPARE(contents(folder.path()).size(), 1);
+
+    // What belongs to it stays: the link to it, its permissions, what somebody noted about it.
+    QVERIFY(QFile::link(path, folder.filePath("link.kdx")));
+    QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+    auto const permissions = QFile::permissions(path);
+    bool const takesNotes = setxattr(qPrintable(path), "user.note", "of mine", 7, 0) == 0;
+    QCOMPARE(FileSaver::save(folder.filePath("link.kdx"), "third"), QString());
+    QVERIFY(QFileInfo(folder.filePath("link.kdx")).isSymLink());
+    QCOMPARE(contentOf(path), QByteArray("third"));
+    QCOMPARE(QFile::permissions(path), permissions);
+    QByteArray note(7, ' ');
+    if (takesNotes) QCOMPARE(getxattr(qPrintable(path), "user.note", note.data(), 7), ssize_t(7));
+    if (takesNotes) QCOMPARE(note, QByteArray("of mine"));
+  }
+
+  void inAFolderThatTakesNoNewFileItIsWrittenOver() {
+    if (geteuid() == 0) QSKIP("root may write anywhere");
+    QTemporaryDir const folder;
+    QString const path = folder.filePath("page.kdx");
+    QCOMPARE(FileSaver::save(path, "a longer first text"), QString());
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner);
+    QString const problem = FileSaver::save(path, "second");
+    {
+      FileSizeLimit const limit(4096);
+      QVERIFY(!FileSaver::save(path, QByteArray(1000000, 'x')).isEmpty());
+    }
+    QVERIFY(!FileSaver::save(folder.filePath("new.kdx"), "x").isEmpty());
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(problem, QString());
+    QCOMPARE(contentOf(path), QByteArray("second"));
   }
 
   void aFileWithoutRoomKeepsItsOldContent() {

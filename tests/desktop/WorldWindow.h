@@ -12,6 +12,7 @@ inline void prepareWorld(QString const& folder) {
   prepareApplication();
   QSettings::setDefaultFormat(QSettings::IniFormat);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+  qputenv("XDG_DATA_HOME", QFile::encodeName(folder + "/own"));
   world = sampleIn(folder, "world.kdx");
 }
 

@@ -330,6 +330,20 @@ QByteArray MapDocumentHost::text(MapDocument const& document) {
   return d.content.layout ? d.textFor(d.path, d.content.relativePaths, problem).value_or(QByteArray()) : QByteArray();
 }
 
+QByteArray MapDocumentHost::textForAnywhere(MapDocument const& document) {
+  QString problem;
+  return document.d->content.layout ? document.d->textFor(document.d->path, false, problem).value_or(QByteArray())
+                                    : QByteArray();
+}
+
+bool MapDocumentHost::recover(MapDocument& document, QString const& copy, QString const& file, bool relativePaths) {
+  if (!document.d->open(copy, {})) return false;
+  document.d->path = file;
+  document.d->content.relativePaths = relativePaths;
+  document.d->change.raise();
+  return true;
+}
+
 QString MapDocumentHost::takeLastFailure() { return std::exchange(lastFailure, QString()); }
 
 int MapDocumentHost::unreadableSources(MapDocument const& document) { return document.d->unreadableSources; }

@@ -26,6 +26,13 @@ struct SYSCARTO_EXPORT MapDocumentHost {
   /// What a save to the document's file would write now; empty where there is nothing that can be saved.
   static QByteArray text(MapDocument const& document);
 
+  /// The same with absolute paths, to be read from anywhere.
+  static QByteArray textForAnywhere(MapDocument const& document);
+
+  /// Reads what `textForAnywhere` gave of a document of that file, or of none. It counts as modified. Otherwise as
+  /// `MapDocument::Open` of the copy.
+  static bool recover(MapDocument& document, QString const& copy, QString const& file, bool relativePaths);
+
   /// How many data sources the last `Open` could not read.
   static int unreadableSources(MapDocument const& document);
 

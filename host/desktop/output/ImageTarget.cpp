@@ -118,7 +118,7 @@ ImageTarget::~ImageTarget() = default;
 
 bool ImageTarget::is(char const* driver) const { return std::strcmp(format_.driver, driver) == 0; }
 
-QString ImageTarget::checkPlace() const { return SysUtility::FileSaver::checkPlace(name_); }
+QString ImageTarget::checkPlace() const { return SysUtility::FileSaver::checkFolder(name_); }
 
 QString ImageTarget::checkAgainst(SysCarto::MapDocument const& document) const {
   FileStamp const there = FileStamp::of(path_);

@@ -235,12 +235,8 @@ bool PageImage::convert(GDALDataset& pixels, ImageTags const& tags, _ptr_t<Track
     if (progress) progress(tr("Writing"), percent);
     return !cancel->IsCanced();
   };
-  CPLSetThreadLocalConfigOption("GDAL_PAM_ENABLED", "NO");  // it would write a file beside
-  DatasetPtr result(
+  DatasetPtr const result(
       driver(format_.driver)
           ->CreateCopy(target_.workingPath().toUtf8().constData(), &pixels, TRUE, list.data(), tellProgress, &told));
-  bool const isWritten = result != nullptr;
-  result.reset();
-  CPLSetThreadLocalConfigOption("GDAL_PAM_ENABLED", nullptr);
-  return isWritten;
+  return result != nullptr;
 }
