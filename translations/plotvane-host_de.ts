@@ -1417,6 +1417,14 @@
         <source>Set what the document says about itself: title, author, keywords</source>
         <translation>Festlegen, was das Dokument über sich sagt: Titel, Autor, Stichwörter</translation>
     </message>
+    <message>
+        <source>Keep Earlier Version</source>
+        <translation>Frühere Fassung behalten</translation>
+    </message>
+    <message>
+        <source>Let a save keep what the file held before, as a file with “~” behind its name</source>
+        <translation>Beim Speichern den bisherigen Inhalt der Datei behalten, als Datei mit „~“ hinter dem Namen</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -5394,7 +5402,7 @@
     </message>
     <message>
         <source>choose another place</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen anderen Ort</translation>
     </message>
 </context>
 <context>
@@ -7392,44 +7400,45 @@
     <name>RecoveryDialog</name>
     <message>
         <source>Recover Documents</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumente wiederherstellen</translation>
     </message>
     <message>
         <source>Plotvane ended with changes that were not saved. A recovered document is as it was then, and counts as not saved; its file stays as it is until you save.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plotvane endete mit Änderungen, die nicht gespeichert waren. Ein wiederhergestelltes Dokument ist, wie es zuletzt war, und gilt als nicht gespeichert; seine Datei bleibt unverändert, bis Sie speichern.</translation>
     </message>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerfen</translation>
     </message>
     <message>
         <source>Keep for Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Für später behalten</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished">Unbenannt</translation>
+        <translation>Unbenannt</translation>
     </message>
     <message>
         <source>never saved</source>
-        <translation type="unfinished"></translation>
+        <translation>nie gespeichert</translation>
     </message>
     <message>
         <source>Plotvane</source>
-        <translation type="unfinished">Plotvane</translation>
+        <translation>Plotvane</translation>
     </message>
     <message>
         <source>%1
 The copy is kept in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Die Kopie bleibt in %2.</translation>
     </message>
     <message>
         <source>Discard the changes of %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen von %1 verwerfen?</translation>
     </message>
 </context>
 <context>

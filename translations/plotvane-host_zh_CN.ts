@@ -1417,6 +1417,14 @@
         <source>Set what the document says about itself: title, author, keywords</source>
         <translation>设置文档对自身的说明：标题、作者、关键词</translation>
     </message>
+    <message>
+        <source>Keep Earlier Version</source>
+        <translation>保留先前版本</translation>
+    </message>
+    <message>
+        <source>Let a save keep what the file held before, as a file with “~” behind its name</source>
+        <translation>保存时将文件原有内容保留为名称后带“~”的文件</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -5394,7 +5402,7 @@
     </message>
     <message>
         <source>choose another place</source>
-        <translation type="unfinished"></translation>
+        <translation>请选择其他位置</translation>
     </message>
 </context>
 <context>
@@ -7392,44 +7400,45 @@
     <name>RecoveryDialog</name>
     <message>
         <source>Recover Documents</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复文档</translation>
     </message>
     <message>
         <source>Plotvane ended with changes that were not saved. A recovered document is as it was then, and counts as not saved; its file stays as it is until you save.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plotvane 结束时有未保存的更改。恢复的文档保持当时的状态，视为未保存；在您保存之前，其文件不变。</translation>
     </message>
     <message>
         <source>Recover</source>
-        <translation type="unfinished"></translation>
+        <translation>恢复</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>丢弃</translation>
     </message>
     <message>
         <source>Keep for Later</source>
-        <translation type="unfinished"></translation>
+        <translation>留待以后</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished">未命名</translation>
+        <translation>未命名</translation>
     </message>
     <message>
         <source>never saved</source>
-        <translation type="unfinished"></translation>
+        <translation>从未保存</translation>
     </message>
     <message>
         <source>Plotvane</source>
-        <translation type="unfinished">Plotvane</translation>
+        <translation>Plotvane</translation>
     </message>
     <message>
         <source>%1
 The copy is kept in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+副本保留在 %2。</translation>
     </message>
     <message>
         <source>Discard the changes of %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>丢弃 %1 的更改？</translation>
     </message>
 </context>
 <context>
