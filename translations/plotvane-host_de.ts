@@ -2367,6 +2367,18 @@
         <source>export: of a %1, --compress takes one of %2, not &quot;%3&quot;.</source>
         <translation>export: Bei %1 nimmt --compress eines von %2, nicht &quot;%3&quot;.</translation>
     </message>
+    <message>
+        <source>What texts are in a PDF or SVG: &quot;text&quot;, or &quot;shapes&quot;, the outlines of letters that need no fonts; &quot;text&quot; if not given.</source>
+        <translation>Was Texte in PDF und SVG sind: &quot;text&quot; oder &quot;shapes&quot;, Umrisse der Buchstaben, die keine Schriften brauchen; ohne Angabe &quot;text&quot;.</translation>
+    </message>
+    <message>
+        <source>export: --text takes &quot;text&quot; or &quot;shapes&quot;, not &quot;%1&quot;.</source>
+        <translation>export: --text nimmt &quot;text&quot; oder &quot;shapes&quot;, nicht &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>export: --text is for a PDF or SVG.</source>
+        <translation>export: --text ist für PDF und SVG.</translation>
+    </message>
 </context>
 <context>
     <name>ExportSubcommand</name>

@@ -2367,6 +2367,18 @@
         <source>export: of a %1, --compress takes one of %2, not &quot;%3&quot;.</source>
         <translation>export：对于 %1，--compress 只接受 %2 之一，而不是 &quot;%3&quot;。</translation>
     </message>
+    <message>
+        <source>What texts are in a PDF or SVG: &quot;text&quot;, or &quot;shapes&quot;, the outlines of letters that need no fonts; &quot;text&quot; if not given.</source>
+        <translation>PDF 或 SVG 中的文字形式：&quot;text&quot;，或 &quot;shapes&quot;（无需字体的字母轮廓）；未指定时为 &quot;text&quot;。</translation>
+    </message>
+    <message>
+        <source>export: --text takes &quot;text&quot; or &quot;shapes&quot;, not &quot;%1&quot;.</source>
+        <translation>export：--text 只接受 &quot;text&quot; 或 &quot;shapes&quot;，而不是 &quot;%1&quot;。</translation>
+    </message>
+    <message>
+        <source>export: --text is for a PDF or SVG.</source>
+        <translation>export：--text 用于 PDF 或 SVG。</translation>
+    </message>
 </context>
 <context>
     <name>ExportSubcommand</name>

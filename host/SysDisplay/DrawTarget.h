@@ -39,12 +39,9 @@ public:
       fills_.add(rings, color, rule);
   }
 
-  /// The same with pixels in place of a colour.
+  /// The same with pixels in place of a colour; not on a canvas.
   void fill(PointRuns const& rings, std::shared_ptr<Texture const> const& texture, Qt::FillRule rule) {
-    if (canvas_)
-      canvas_->fill(rings, *texture);
-    else
-      fills_.add(rings, texture, rule);
+    fills_.add(rings, texture, rule);
   }
   QImage::Format textureFormat() const { return fills_.textureFormat(); }
 

@@ -56,6 +56,14 @@ public:
                         : std::abs(size.width() * direction_.x()) + std::abs(size.height() * direction_.y());
   }
 
+  QGradient gradient(QGradientStops const& stops) const {
+    QPointF const half = direction_ * length_ / 2;
+    QGradient result = isRadial_ ? QGradient(QRadialGradient(centre_, length_))
+                                 : QGradient(QLinearGradient(centre_ - half, centre_ + half));
+    result.setStops(stops);
+    return result;
+  }
+
   int shadeAt(double x, double y) const {
     double const dx = x - centre_.x(), dy = y - centre_.y();
     if (!(length_ > 0)) return 0;
@@ -77,9 +85,15 @@ public:
       : gradient_(gradient), shades_(shadesOf(gradient.stops)) {}
 
   void fill(DrawTarget& target, PointRuns const& rings, QRectF const&, Box const& shape) override {
+    if (shape.isEmpty()) return;
+    if (auto* const canvas = target.canvas()) {
+      QRectF const place = onDevice(target.toDevice(), shape);
+      return canvas->fill(rings, Course(gradient_, place.size()).gradient(stops()),
+                          QTransform::fromTranslate(place.x(), place.y()), Qt::OddEvenFill);
+    }
     QRect const area = target.area().toAlignedRect();
     QRect const seen = rings.bounds().intersected(QRectF(area)).toAlignedRect() & area;
-    if (seen.isEmpty() || shape.isEmpty()) return;
+    if (seen.isEmpty()) return;
     QImage const image = drawn(seen, onDevice(target.toDevice(), shape));
     if (image.isNull()) return;
     target.fill(rings,
@@ -99,6 +113,18 @@ private:
                              std::clamp(place.y(), -maxCoordinatePx, maxCoordinatePx)));
     };
     return QRectF(corner(shape.xmin, shape.ymin), corner(shape.xmax, shape.ymax)).normalized();
+  }
+
+  // Where two stops share a place, the colours change at once; Qt holds one stop at a place.
+  QGradientStops stops() const {
+    constexpr double nearest = 1e-6;
+    QGradientStops stops;
+    for (GradientStop const& stop : gradient_.stops) {
+      double const place = stop.percent / 100;
+      stops << QGradientStop(stops.isEmpty() ? place : std::max(place, stops.last().first + nearest), stop.color);
+      if (stops.last().first > 1) stops.last().first = 1;
+    }
+    return stops;
   }
 
   QImage drawn(QRect const& area, QRectF const& shape) const {

@@ -132,9 +132,24 @@ void cutToRows(QPointF const* corners, int count, double top, double bottom, Poi
   out.endRun();
 }
 
+// The quadrangles as the strokes that they are.
+void strokeHatch(VectorCanvas& canvas, PointRuns const& lines, QColor const& color) {
+  if (lines.isEmpty()) return;
+  PointRuns axes;
+  for (int i = 0; i < lines.count(); ++i) {
+    QPointF const* const corners = lines.run(i);
+    axes.add((corners[0] + corners[3]) / 2);
+    axes.add((corners[1] + corners[2]) / 2);
+    axes.endRun();
+  }
+  QPointF const across = lines.run(0)[3] - lines.run(0)[0];
+  canvas.stroke(axes, false, {color, std::hypot(across.x(), across.y())});
+}
+
 }  // namespace
 
 void fillHatch(DrawTarget& target, PointRuns const& lines, QColor const& color, QRectF const& area) {
+  if (auto* const canvas = target.canvas()) return strokeHatch(*canvas, lines, color);
   PointRuns band;
   for (double top = std::floor(area.top()); top < area.bottom(); top += bandPx) {
     double const bottom = top + bandPx;

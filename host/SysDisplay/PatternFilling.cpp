@@ -21,7 +21,7 @@ public:
 
   void fill(DrawTarget& target, PointRuns const& rings, QRectF const&, Box const&) override {
     if (!std::isfinite(target.anchor().x()) || !std::isfinite(target.anchor().y())) return;
-    if (target.canvas() && drawOn(*target.canvas(), target, rings)) return;
+    if (auto* const canvas = target.canvas()) return pattern_->drawShapes(target, *canvas, rings);
     if (!sheet_) unfold(target);
     QRect const seen = rings.bounds().intersected(QRectF(area_)).toAlignedRect() & area_;
     if (seen.isEmpty() || !pixels_) return;
@@ -33,14 +33,6 @@ public:
   }
 
 private:
-  bool drawOn(VectorCanvas& canvas, DrawTarget& target, PointRuns const& rings) {
-    canvas.save();
-    canvas.clip(rings);
-    bool const isDrawn = canvas.area().isEmpty() || pattern_->drawShapes(target, canvas.area());
-    canvas.restore();
-    return isDrawn;
-  }
-
   // Room for all that can be reached. The queue reads the pixels while others are written, so that they are written
   // where they are, and not through the image, which would make a copy.
   void unfold(DrawTarget& target) {
@@ -77,7 +69,6 @@ private:
 }  // namespace
 
 Pattern::~Pattern() = default;
-bool Pattern::drawShapes(DrawTarget&, QRectF const&) { return false; }
 
 std::unique_ptr<Filling> patternFilling(std::unique_ptr<Pattern> pattern) {
   return std::make_unique<PatternFilling>(std::move(pattern));

@@ -16,8 +16,8 @@ public:
   /// the rectangle, and `anchor` is all that tells where it lies on the sheet that tiles are cut from.
   virtual QImage drawn(QRect const& area, QPointF const& anchor) = 0;
 
-  /// Draws what shows in a rectangle on a canvas, which is cut to the area already. False where that is pixels.
-  virtual bool drawShapes(DrawTarget& target, QRectF const& area);
+  /// Fills rings on a target's canvas with it.
+  virtual void drawShapes(DrawTarget& target, VectorCanvas& canvas, PointRuns const& rings) = 0;
 };
 
 /// Areas filled with a pattern. Of the target, what lies beneath them is drawn once, as it is needed; so many small

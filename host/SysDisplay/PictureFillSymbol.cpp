@@ -63,13 +63,14 @@ private:
 class PicturePattern final : public Pattern {
 public:
   PicturePattern(std::shared_ptr<SvgPicture> const& picture, QSizeF const& sizePx, double degrees)
-      : tile_(drawnTile(*picture, sizePx)), sizePx_(sizePx) {
+      : picture_(picture), sizePx_(sizePx), degrees_(degrees) {
     QTransform const rotation = QTransform().rotate(degrees);
     cosine_ = rotation.m11();
     sine_ = rotation.m12();
   }
 
   QImage drawn(QRect const& area, QPointF const& anchor) override {
+    if (tile_.isNull()) tile_ = drawnTile(*picture_, sizePx_);
     QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
     Sampler const sampler(tile_);
     for (int row = 0; row < area.height(); ++row) {
@@ -84,15 +85,34 @@ public:
     return image;
   }
 
+  void drawShapes(DrawTarget& target, VectorCanvas& canvas, PointRuns const& rings) override {
+    if (&canvas != canvas_) {
+      canvas.beginSymbol(QRectF(QPointF(0, 0), sizePx_));
+      {
+        DrawTarget own(target.painter(), QTransform(), target.pixelsPerPoint());
+        picture_->render(own.painter(), QRectF(QPointF(0, 0), sizePx_));
+      }
+      symbol_ = canvas.endSymbol();
+      canvas_ = &canvas;
+    }
+    QTransform const turned = QTransform().rotate(-degrees_);
+    canvas.fill(rings,
+                {symbol_, sizePx_, turned * QTransform::fromTranslate(target.anchor().x(), target.anchor().y())});
+  }
+
 private:
   static double texel(double px, double sidePx, int texels) {
     double const tiles = px / sidePx;
     return (tiles - std::floor(tiles)) * texels;
   }
 
-  QImage const tile_;
+  std::shared_ptr<SvgPicture> const picture_;
   QSizeF const sizePx_;
+  double const degrees_;
+  QImage tile_;  // once it is looked at
   double cosine_, sine_;
+  VectorCanvas* canvas_ = nullptr;  // which knows the tile
+  int symbol_ = 0;                  // by this number
 };
 
 }  // namespace

@@ -44,9 +44,12 @@ public:
     return image;
   }
 
-  bool drawShapes(DrawTarget& target, QRectF const& area) override {
-    visit(area, target.anchor(), [&](QPointF const& position) { marker_->drawAt(target, position); });
-    return true;
+  void drawShapes(DrawTarget& target, VectorCanvas& canvas, PointRuns const& rings) override {
+    canvas.save();
+    canvas.clip(rings);
+    if (!canvas.area().isEmpty())
+      visit(canvas.area(), target.anchor(), [&](QPointF const& position) { marker_->drawAt(target, position); });
+    canvas.restore();
   }
 
   // The colour of the pattern seen from afar.

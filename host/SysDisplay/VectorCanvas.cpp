@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -88,10 +89,34 @@ private:
 
   void fill(QPainterPath const& path, QBrush const& brush) {
     QTransform const toPage = painter()->combinedTransform();
+    if (QGradient const* const gradient = brush.gradient(); gradient && isPlain(*gradient))
+      return canvas_.fill(ringsOf(path, toPage), faded(*gradient, painter()->opacity()), ownSpace(path, brush) * toPage,
+                          path.fillRule());
     if (brush.style() != Qt::SolidPattern) return fillByPixels(path, brush, toPage);
     QColor color = brush.color();
     color.setAlphaF(color.alphaF() * painter()->opacity());
     canvas_.fill(ringsOf(path, toPage), color, path.fillRule());
+  }
+
+  static bool isPlain(QGradient const& gradient) {
+    return gradient.spread() == QGradient::PadSpread &&
+           (gradient.type() == QGradient::LinearGradient || gradient.type() == QGradient::RadialGradient);
+  }
+
+  static QGradient faded(QGradient gradient, double opacity) {
+    QGradientStops stops = gradient.stops();
+    for (QGradientStop& stop : stops) stop.second.setAlphaF(stop.second.alphaF() * opacity);
+    gradient.setStops(stops);
+    return gradient;
+  }
+
+  // Where the coordinates of a brush's gradient lie: in the shape's own, or from 0 to 1 across what bounds it.
+  static QTransform ownSpace(QPainterPath const& path, QBrush const& brush) {
+    QGradient::CoordinateMode const mode = brush.gradient()->coordinateMode();
+    if (mode == QGradient::LogicalMode) return brush.transform();
+    QRectF const box = path.boundingRect();
+    QTransform const unit(box.width(), 0, 0, box.height(), box.x(), box.y());
+    return mode == QGradient::ObjectMode ? brush.transform() * unit : unit * brush.transform();
   }
 
   void fillByPixels(QPainterPath const& path, QBrush const& brush, QTransform const& toPage) {
@@ -113,6 +138,31 @@ private:
 };
 
 }  // namespace
+
+QGradientStops straightStops(QGradient const& gradient) {
+  QGradientStops const stops = gradient.stops();
+  if (gradient.interpolationMode() == QGradient::ComponentInterpolation) return stops;
+  QGradientStops result;
+  constexpr int pieces = 16;
+  for (int i = 0; i < stops.size(); ++i) {
+    double const to = stops[i].second.alphaF();
+    double const from = i > 0 ? stops[i - 1].second.alphaF() : to;
+    for (int piece = from == to ? pieces : 1; piece <= pieces; ++piece) {
+      double const part = double(piece) / pieces, alpha = from + (to - from) * part;
+      if (piece == pieces || alpha <= 0) {
+        result << stops[i];
+        break;
+      }
+      QColor const &a = stops[i - 1].second, &b = stops[i].second;
+      double const share = to * part / alpha;  // of the later colour: colours count as much as they cover
+      auto const mixed = [share](double x, double y) { return std::clamp(x + (y - x) * share, 0.0, 1.0); };
+      result << QGradientStop(stops[i - 1].first + (stops[i].first - stops[i - 1].first) * part,
+                              QColor::fromRgbF(mixed(a.redF(), b.redF()), mixed(a.greenF(), b.greenF()),
+                                               mixed(a.blueF(), b.blueF()), alpha));
+    }
+  }
+  return result;
+}
 
 VectorCanvas::VectorCanvas(QSize const& size, double dpi)
     : size_(size), dpi_(dpi), areas_({QRectF(QPointF(0, 0), size)}) {}
@@ -145,17 +195,6 @@ void VectorCanvas::transform(QTransform const& transformation) {
   transformed(transformation);
 }
 
-void VectorCanvas::fill(PointRuns const& rings, Texture const& texture) {
-  QRect const whole(texture.place, texture.image.size());
-  QRect const seen = (rings.bounds() & area()).toAlignedRect() & whole;
-  if (seen.isEmpty()) return;
-  save();
-  clip(rings);
-  picture({texture.image.copy(seen.translated(-texture.place)), {}},
-          QTransform(seen.width(), 0, 0, seen.height(), seen.x(), seen.y()));
-  restore();
-}
-
 void VectorCanvas::beginSymbol(QRectF const& bounds) {
   areas_.push_back(bounds);
   symbolBegun(bounds);
@@ -166,7 +205,7 @@ int VectorCanvas::endSymbol() {
   return symbolEnded();
 }
 
-void VectorCanvas::beginText() {}
+void VectorCanvas::beginText(QString const&) {}
 void VectorCanvas::beginFigure(QString const&) {}
 void VectorCanvas::endPart() {}
 

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "host/SysDisplay/FillQueue.h"
 #include "host/SysDisplay/PointRuns.h"
 #include "host/SysDisplay/TextSymbol.h"
 
 #include <SysDisplay/LineSymbol.h>
 
+#include <QBrush>
 #include <QImage>
 #include <QPaintDevice>
 #include <QSize>
+#include <QSizeF>
 #include <QTransform>
 
 #include <memory>
@@ -35,6 +36,16 @@ struct PictureData {
 };
 
 enum class CanvasBlend { Normal, Multiply, Screen };
+
+/// A symbol over and over, side by side.
+struct Tiling {
+  int symbol = 0;
+  QSizeF size;        ///< of one tile, whose upper left corner lies at the symbol's origin
+  QTransform toPage;  ///< of the tile that begins at (0, 0)
+};
+
+/// The stops of a gradient, so many that colours and opacity can be mixed apart between two of them, as files have it.
+SYSDISPLAY_EXPORT QGradientStops straightStops(QGradient const& gradient);
 
 /// A page made of shapes and texts in place of pixels: what the vector formats are written from.
 ///
@@ -74,6 +85,12 @@ public:
 
   virtual void fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule) = 0;
 
+  /// Fills by a linear or radial gradient in logical coordinates, which `toPage` maps; it pads.
+  virtual void fill(PointRuns const& rings, QGradient const& gradient, QTransform const& toPage, Qt::FillRule rule) = 0;
+
+  /// Fills, even-odd, by tiles.
+  virtual void fill(PointRuns const& rings, Tiling const& tiling) = 0;
+
   /// Strokes lines, or rings, by one colour: where they cross, nothing is darker than elsewhere.
   virtual void stroke(PointRuns const& lines, bool closed, Stroke const& stroke) = 0;
 
@@ -84,9 +101,6 @@ public:
 
   /// A picture, its corners (0, 0) and (1, 1) mapped by `toPage`.
   virtual void picture(PictureData const& picture, QTransform const& toPage) = 0;
-
-  /// Pixels cut to rings, even-odd.
-  void fill(PointRuns const& rings, Texture const& texture);
 
   /// What is drawn between the two is kept under a number, and nowhere shown; `bounds` is what it may cover about the
   /// origin.
@@ -99,8 +113,8 @@ public:
   virtual void endSheet() = 0;
 
   /// What is drawn between the two is one thing to who has the page read to him: a text, or a figure described by
-  /// words.
-  virtual void beginText();
+  /// words. A text is told by its beginning.
+  virtual void beginText(QString const& beginning);
   virtual void beginFigure(QString const& description);
   virtual void endPart();
 

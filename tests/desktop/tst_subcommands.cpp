@@ -41,7 +41,8 @@ private slots:
     row("pixels of a PDF", "export page.kdx a.pdf --width 30", "--width is for images");
     row("too fine a PDF", "export page.kdx a.pdf --dpi 2401", "2400");
     row("a format that there is not", "export page.kdx a.png --format gif",
-        "png, jpeg, bmp, tiff, webp, pdf, not \"gif\"");
+        "png, jpeg, bmp, tiff, webp, pdf, svg, not \"gif\"");
+    row("texts of a kind that there is not", "export page.kdx a.svg --text curves", "not \"curves\"");
     row("commands with an operand", "commands page.kdx", "one argument too many");
     row("a format that there is not", "schema page.kdx", "document or style, not \"page.kdx\"");
     row("no such language", "info page.kdx --language fr", "\"fr\" is none of the languages: de, en, zh_CN.");

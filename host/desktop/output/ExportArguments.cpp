@@ -19,6 +19,10 @@ ExportArguments::ExportArguments()
                .arg(ExportOptions::maxDpi)
                .arg(ExportOptions::defaultDpi),
            number),
+      text_(QStringLiteral("text"),
+            tr("What texts are in a PDF or SVG: \"text\", or \"shapes\", the outlines of letters that need no fonts; "
+               "\"text\" if not given."),
+            QStringLiteral("KIND"), QStringLiteral("text")),
       width_(QStringLiteral("width"), tr("The image's width in pixels, in place of --dpi."), number),
       compress_(QStringLiteral("compress"), tr("How the pixels are packed: %1.").arg(ImageFormat::allCompressions()),
                 QStringLiteral("METHOD")),
@@ -32,7 +36,7 @@ ExportArguments::ExportArguments()
                     QStringLiteral("FRAME")) {}
 
 QList<QCommandLineOption> ExportArguments::options() const {
-  return {formatName_, dpi_, width_, compress_, quality_, transparent_, crop_, georeference_};
+  return {formatName_, dpi_, text_, width_, compress_, quality_, transparent_, crop_, georeference_};
 }
 
 QString ExportArguments::read(QCommandLineParser const& parser, QString const& file) {
@@ -45,6 +49,10 @@ QString ExportArguments::read(QCommandLineParser const& parser, QString const& f
   if (problem.isEmpty()) problem = readNumber(parser, width_, ExportOptions::maxWidthPx, chosen_.widthPx);
   if (problem.isEmpty()) problem = readNumber(parser, quality_, 100, chosen_.quality);
   if (!problem.isEmpty()) return problem;
+  QString const text = parser.value(text_);
+  if (text != QLatin1String("text") && text != QLatin1String("shapes"))
+    return tr("export: --text takes \"text\" or \"shapes\", not \"%1\".").arg(text);
+  chosen_.textAsShapes = text == QLatin1String("shapes");
   chosen_.compression = parser.value(compress_);
   chosen_.transparent = parser.isSet(transparent_);
   chosen_.crop = parser.isSet(crop_);
@@ -77,6 +85,7 @@ QString ExportArguments::checkForFormat(QCommandLineParser const& parser) const 
   for (auto const* option : {&width_, &crop_, &georeference_})
     if (format_->isVector && parser.isSet(*option))
       return tr("export: --%1 is for images; a %2 has none of it.").arg(option->names().first(), format.toUpper());
+  if (!format_->isVector && parser.isSet(text_)) return tr("export: --text is for a PDF or SVG.");
   if (chosen_.transparent && !format_->hasAlpha)
     return tr("export: --transparent needs a PNG, TIFF or WebP; a %1 can't be transparent.").arg(format.toUpper());
   if (parser.isSet(quality_) && (!format_->hasQuality || !chosen_.compression.isEmpty()))

@@ -12,6 +12,9 @@ struct ExportOptions {
 
   int dpi = defaultDpi;  ///< pixels per inch of paper
 
+  // Of vector formats alone.
+  bool textAsShapes = false;  ///< letters are outlines
+
   // Of images alone.
   int widthPx = 0;               ///< in place of a resolution; 0 for none
   QString compression;           ///< one of `ImageFormat::compression`; empty for what the format usually has

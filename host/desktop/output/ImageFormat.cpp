@@ -10,13 +10,14 @@ namespace {
 
 // clang-format off
 constexpr ImageFormat formats[] = {
-    // name  suffixes    driver   plug-in vector alpha  quality
-    {"png",  "png",      "PNG",   true,   false, true,  false},
-    {"jpeg", "jpg jpeg", "JPEG",  true,   false, false, true},
-    {"bmp",  "bmp",      "BMP",   true,   false, false, false},
-    {"tiff", "tif tiff", "GTiff", true,   false, true,  false},
-    {"webp", "webp",     "WEBP",  false,  false, true,  true},
-    {"pdf",  "pdf",      "PDF",   false,  true,  false, false},
+    // name  suffixes    driver   plug-in vector alpha  pages  quality
+    {"png",  "png",      "PNG",   true,   false, true,  false, false},
+    {"jpeg", "jpg jpeg", "JPEG",  true,   false, false, false, true},
+    {"bmp",  "bmp",      "BMP",   true,   false, false, false, false},
+    {"tiff", "tif tiff", "GTiff", true,   false, true,  false, false},
+    {"webp", "webp",     "WEBP",  false,  false, true,  false, true},
+    {"pdf",  "pdf",      "PDF",   false,  true,  false, true,  false},
+    {"svg",  "svg",      "SVG",   false,  true,  false, false, false},
 };
 
 constexpr ImageFormat::Compression ways[] = {

@@ -10,6 +10,7 @@ struct ImageFormat {
   bool isOfPlugin = true;   ///< known to the plug-in's export command, too
   bool isVector = false;    ///< of shapes
   bool hasAlpha = false;    ///< can be transparent
+  bool hasPages = false;    ///< several in one file
   bool hasQuality = false;  ///< gives up some likeness for size
 
   /// A way in which the pixels of some format are packed.

@@ -70,6 +70,7 @@ Ending const endings[] = {
     {"JPEG", QByteArray("\xff\xd9", 2)},
     {"PNG", QByteArray("\0\0\0\0IEND\xae\x42\x60\x82", 12)},
     {"PDF", QByteArray("%%EOF\n")},
+    {"SVG", QByteArray("</svg>\n")},
 };
 
 bool endsWith(QString const& path, QByteArray const& bytes) {

@@ -3,6 +3,7 @@
 #include "ImageFormat.h"
 #include "PageImage.h"
 
+#include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysUtility/FileSaver.h"
 #include "host/desktop/vector/VectorExport.h"
 
@@ -52,8 +53,12 @@ QString PageExport::writeShapes(SysCarto::MapDocument const& document, _ptr_t<Tr
   QString problem = target_.checkSize(size);
   if (problem.isEmpty()) problem = target_.prepare();
   if (!problem.isEmpty()) return problem;
-  problem = writePdf(document, target_.workingPath(), options_.dpi, cancel, next_);
+  VectorOptions const options{options_.dpi, options_.textAsShapes};
+  SysCarto::GdalErrors const errors;
+  problem = qstrcmp(format_.driver, "SVG") == 0 ? writeSvg(document, target_.workingPath(), options, cancel)
+                                                : writePdf(document, target_.workingPath(), options, cancel, next_);
   if (cancel->IsCanced()) return tr("%1 was not written: interrupted.").arg(path_);
+  if (errors.hasFailure()) return target_.failure(errors);
   return problem.isEmpty() ? target_.checkResult(size) : tr("%1 was not written: %2.").arg(path_, problem);
 }
 

@@ -77,7 +77,7 @@ std::vector<int> SeriesOptions::chosenOf(int count) const {
 
 bool SeriesExport::isWanted(Request const& request, SysCarto::MapDocument const& document) {
   return FileNames::isPattern(request.path) || request.series.isAny() ||
-         (request.format.isVector && SeriesPages::areIn(document));
+         (request.format.hasPages && SeriesPages::areIn(document));
 }
 
 SeriesExport::SeriesExport(Request const& request, SysCarto::MapDocument& document,
@@ -115,9 +115,9 @@ QString SeriesExport::check() {
     return request_.series.parts > 1 ? QString()
                                      : tr("There is no such page; the series has %1 pages.").arg(pages_->count());
   if (!isPattern) {
-    bool const isBook = request_.format.isVector && request_.series.jobs == 1;
+    bool const isBook = request_.format.hasPages && request_.series.jobs == 1;
     if (chosen_.size() == 1 || isBook) return QString();
-    return request_.format.isVector
+    return request_.format.hasPages
                ? tr("export: --jobs draws pages into files of their own; give the path a placeholder such as “[page]”, "
                     "or leave --jobs out for one file.")
                : tr("%1 would be the file of %2 pages; give the path a placeholder such as “[page]” or “[field:name]”, "

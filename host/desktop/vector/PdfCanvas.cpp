@@ -11,6 +11,7 @@ using SysDisplay::PointRuns;
 using SysDisplay::ShapedLine;
 using SysDisplay::Stroke;
 using SysDisplay::TextFormat;
+using SysDisplay::Tiling;
 
 namespace {
 
@@ -29,6 +30,9 @@ QByteArray colorOf(QColor const& color, char const* verb) {
   return pdfNumber(color.redF()) + ' ' + pdfNumber(color.greenF()) + ' ' + pdfNumber(color.blueF()) + verb;
 }
 
+// From pixels to pixels as from pixels to units.
+QTransform inUnits(QTransform const& toPage) { return toPage * QTransform::fromScale(unitsPerPx, unitsPerPx); }
+
 QColor opaque(QColor color) {
   color.setAlpha(255);
   return color;
@@ -36,8 +40,12 @@ QColor opaque(QColor color) {
 
 }  // namespace
 
-PdfCanvas::PdfCanvas(PdfObjects& objects, PdfFonts& fonts, QSize const& size, double dpi)
-    : VectorCanvas(size, dpi), objects_(objects), fonts_(fonts), contents_({Content{{}, {State()}, false}}) {}
+PdfCanvas::PdfCanvas(PdfObjects& objects, PdfFonts& fonts, QSize const& size, double dpi, bool textAsShapes)
+    : VectorCanvas(size, dpi),
+      objects_(objects),
+      fonts_(fonts),
+      textAsShapes_(textAsShapes),
+      contents_({Content{{}, {State()}, false}}) {}
 
 QTransform PdfCanvas::toPoints(QSizeF const& pagePt) const {
   double const scale = pagePt.width() / size().width();
@@ -71,9 +79,7 @@ void PdfCanvas::path(PointRuns const& runs, bool closed) {
 }
 
 void PdfCanvas::matrix(QTransform const& t, char const* verb) {
-  out().operators += pdfNumber(t.m11()) + ' ' + pdfNumber(t.m12()) + ' ' + pdfNumber(t.m21()) + ' ' +
-                     pdfNumber(t.m22()) + ' ' + pdfNumber(t.dx() * unitsPerPx) + ' ' + pdfNumber(t.dy() * unitsPerPx) +
-                     verb;
+  out().operators += pdfMatrix({t.m11(), t.m12(), t.m21(), t.m22(), t.dx() * unitsPerPx, t.dy() * unitsPerPx}) + verb;
 }
 
 void PdfCanvas::setOpacity(int opacity) {
@@ -110,6 +116,34 @@ void PdfCanvas::fill(PointRuns const& rings, QColor const& color, Qt::FillRule r
   out().operators += rule == Qt::OddEvenFill ? "f*\n" : "f\n";
 }
 
+void PdfCanvas::fill(PointRuns const& rings, QGradient const& gradient, QTransform const& toPage, Qt::FillRule rule) {
+  if (rings.isEmpty() || gradient.stops().isEmpty() || !toPage.isInvertible()) return;
+  setOpacity(255);
+  auto const names = objects_.shading(gradient, toPage.inverted().mapRect(rings.bounds()));
+  out().operators += "q\n";
+  path(rings, true);
+  out().operators += (rule == Qt::OddEvenFill ? "W* n " : "W n ") + pdfMatrix(inUnits(toPage)) + " cm " +
+                     (names.second.isEmpty() ? QByteArray() : names.second + " gs ") + names.first + " sh Q\n";
+}
+
+// In a form of its own, since a pattern hangs on the coordinates that its content begins with.
+void PdfCanvas::fill(PointRuns const& rings, Tiling const& tiling) {
+  QByteArray const& form = symbols_[static_cast<size_t>(tiling.symbol)];
+  if (rings.isEmpty() || form.isEmpty()) return;
+  setOpacity(255);
+  QByteArray const tiles =
+      objects_.tiles(form, tiling.size * unitsPerPx,
+                     QTransform(tiling.toPage.m11(), tiling.toPage.m12(), tiling.toPage.m21(), tiling.toPage.m22(),
+                                tiling.toPage.dx() * unitsPerPx, tiling.toPage.dy() * unitsPerPx));
+  contents_.push_back({"/Pattern cs " + tiles + " scn\n", {State()}, false});
+  path(rings, false);
+  out().operators += "f*\n";
+  QRectF const bounds = rings.bounds();
+  QRectF const box(bounds.topLeft() * unitsPerPx, bounds.bottomRight() * unitsPerPx);
+  QByteArray const filled = objects_.form(take().operators, box);
+  out().operators += filled + " Do\n";
+}
+
 void PdfCanvas::stroke(PointRuns const& lines, bool closed, Stroke const& stroke) {
   setStroke(stroke.color, stroke);
   path(lines, closed);
@@ -120,8 +154,8 @@ void PdfCanvas::text(TextFormat const& format, ShapedLine const& line, QTransfor
   if (line.ink.isNull() || format.color.alpha() == 0) return;
   setFill(format.color);
   std::vector<QString> const letters = SysDisplay::lettersOf(format, line);
-  bool isPlain = true;
-  for (size_t i = 0; i < line.glyphs.size(); ++i) {
+  bool isPlain = !textAsShapes_;
+  for (size_t i = 0; !textAsShapes_ && i < line.glyphs.size(); ++i) {
     SysDisplay::Glyph const& glyph = *line.glyphs[i].glyph;
     isPlain = PdfFonts::use(fonts_.font(glyph.font()), glyph.index(), letters[i]) && isPlain;
   }
@@ -131,7 +165,7 @@ void PdfCanvas::text(TextFormat const& format, ShapedLine const& line, QTransfor
     auto& font = fonts_.font(line.glyphs[first].glyph->font());
     for (last = first + 1; last < line.glyphs.size(); ++last)
       if (&fonts_.font(line.glyphs[last].glyph->font()) != &font) break;
-    if (font.isEmbeddable)
+    if (font.isEmbeddable && !textAsShapes_)
       glyphs(font, line, first, last, toPage);
     else
       for (size_t i = first; i < last; ++i) placeOutline(line.glyphs[i], true, toPage);
@@ -195,7 +229,7 @@ QByteArray PdfCanvas::outline(SysDisplay::Glyph const& glyph, bool isFilled) {
   }
   content += isFilled ? "f\n" : "h S\n";
   double const reach = outlineUnits;  // more than any halo
-  return objects_.form(content, path.boundingRect().adjusted(-reach, -reach, reach, reach), false);
+  return objects_.form(content, path.boundingRect().adjusted(-reach, -reach, reach, reach));
 }
 
 void PdfCanvas::halo(TextFormat const& format, ShapedLine const& line, QTransform const& toPage) {
@@ -232,7 +266,7 @@ int PdfCanvas::symbolEnded() {
   symbolBounds_.pop_back();
   Content const content = take();
   QRectF const inUnits(bounds.topLeft() * unitsPerPx, bounds.bottomRight() * unitsPerPx);
-  symbols_.push_back(content.operators.isEmpty() ? QByteArray() : objects_.form(content.operators, inUnits, false));
+  symbols_.push_back(content.operators.isEmpty() ? QByteArray() : objects_.form(content.operators, inUnits));
   return static_cast<int>(symbols_.size()) - 1;
 }
 
@@ -265,10 +299,10 @@ void PdfCanvas::endSheet() {
   }
   QRectF const inUnits(area().topLeft() * unitsPerPx, area().bottomRight() * unitsPerPx);
   out().operators += "q " + objects_.state(sheet.opacity, sheet.blend) + " gs " +
-                     objects_.form("0 g 0 G\n" + content.operators, inUnits, true) + " Do Q\n";
+                     objects_.form("0 g 0 G\n" + content.operators, inUnits, PdfObjects::Sheet::Colors) + " Do Q\n";
 }
 
-void PdfCanvas::beginText() {
+void PdfCanvas::beginText(QString const&) {
   out().operators += "/P<</MCID " + QByteArray::number(static_cast<int>(parts_.size())) + ">>BDC\n";
   parts_.push_back({false, {}});
 }

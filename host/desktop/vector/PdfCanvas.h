@@ -17,8 +17,8 @@ public:
     QString description;
   };
 
-  /// Both are borrowed.
-  PdfCanvas(PdfObjects& objects, PdfFonts& fonts, QSize const& size, double dpi);
+  /// Both are borrowed. With `textAsShapes`, letters are outlines.
+  PdfCanvas(PdfObjects& objects, PdfFonts& fonts, QSize const& size, double dpi, bool textAsShapes = false);
 
   /// The content, for a page of that size in points, whose width the canvas fills from the top.
   QByteArray content(QSizeF const& pagePt) const;
@@ -27,8 +27,10 @@ public:
   QTransform toPoints(QSizeF const& pagePt) const;
   std::vector<Part> const& parts() const { return parts_; }
 
-  using VectorCanvas::fill;
   void fill(SysDisplay::PointRuns const& rings, QColor const& color, Qt::FillRule rule) override;
+  void fill(SysDisplay::PointRuns const& rings, QGradient const& gradient, QTransform const& toPage,
+            Qt::FillRule rule) override;
+  void fill(SysDisplay::PointRuns const& rings, SysDisplay::Tiling const& tiling) override;
   void stroke(SysDisplay::PointRuns const& lines, bool closed, SysDisplay::Stroke const& stroke) override;
   void text(SysDisplay::TextFormat const& format, SysDisplay::ShapedLine const& line,
             QTransform const& toPage) override;
@@ -38,7 +40,7 @@ public:
   void place(int symbol, QPointF const& origin) override;
   void beginSheet(double opacity, SysDisplay::CanvasBlend blend) override;
   void endSheet() override;
-  void beginText() override;
+  void beginText(QString const& beginning) override;
   void beginFigure(QString const& description) override;
   void endPart() override;
   void beginLayer(QString const& name) override;
@@ -84,6 +86,7 @@ private:
 
   PdfObjects& objects_;
   PdfFonts& fonts_;
+  bool const textAsShapes_;
   std::vector<Content> contents_;
   std::vector<Sheet> sheets_;
   std::vector<QRectF> symbolBounds_;

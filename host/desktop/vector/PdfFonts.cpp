@@ -1,9 +1,10 @@
 #include "PdfFonts.h"
 
+#include "FontFile.h"
+
 #include <QCryptographicHash>
 
 #include <hb-subset.h>
-#include <hb.h>
 
 #include <cmath>
 #include <memory>
@@ -13,29 +14,8 @@ namespace {
 constexpr int unitsPerEm = 1000;  // of PDF's widths
 constexpr hb_tag_t cffTag = HB_TAG('C', 'F', 'F', ' ');
 
-template <auto destroy>
-struct Destroyer {
-  template <class Object>
-  void operator()(Object* object) const {
-    destroy(object);
-  }
-};
-using Face = std::unique_ptr<hb_face_t, Destroyer<hb_face_destroy>>;
 using Blob = std::unique_ptr<hb_blob_t, Destroyer<hb_blob_destroy>>;
 using Input = std::unique_ptr<hb_subset_input_t, Destroyer<hb_subset_input_destroy>>;
-
-hb_blob_t* tableOf(hb_face_t*, hb_tag_t tag, void* font) {
-  char name[5] = {};
-  hb_tag_to_string(tag, name);
-  QByteArray const table = static_cast<QRawFont*>(font)->fontTable(name);
-  return hb_blob_create(table.constData(), static_cast<unsigned>(table.size()), HB_MEMORY_MODE_DUPLICATE, nullptr,
-                        nullptr);
-}
-
-// The font must outlive the face.
-Face faceOf(QRawFont const& font) {
-  return Face(hb_face_create_for_tables(tableOf, const_cast<QRawFont*>(&font), nullptr));
-}
 
 // A font's makers may forbid that it is put into documents: bit 1 of fsType in the table OS/2.
 bool allowsEmbedding(QRawFont const& font) {
@@ -44,31 +24,15 @@ bool allowsEmbedding(QRawFont const& font) {
   return table.size() < 10 || (table[9] & 0xf) != restricted;
 }
 
-// Where a family has no bold or slanted letters, Qt makes them of the others; the file's letters would be those.
-bool drawsAsTheFileDoes(QRawFont const& font) {
-  Face const face = faceOf(font);
-  std::unique_ptr<hb_font_t, Destroyer<hb_font_destroy>> const own(hb_font_create(face.get()));
-  double const scale = font.pixelSize() / hb_face_get_upem(face.get());
-  for (quint32 glyph : font.glyphIndexesForString(QStringLiteral("HOlx"))) {
-    hb_glyph_extents_t extents;
-    QRectF const drawn = font.pathForGlyph(glyph).boundingRect();
-    if (drawn.isEmpty() || !hb_font_get_glyph_extents(own.get(), glyph, &extents)) continue;
-    double const off = font.pixelSize() / 200;
-    return std::abs(drawn.left() - extents.x_bearing * scale) < off &&
-           std::abs(drawn.width() - extents.width * scale) < off;
-  }
-  return true;
-}
-
 QByteArray subset(QRawFont const& font, std::map<quint32, QString> const& glyphs) {
-  Face const face = faceOf(font);
+  FontFace const face = faceOf(font);
   Input const input(hb_subset_input_create_or_fail());
   if (!input) return {};
   for (auto const& glyph : glyphs) hb_set_add(hb_subset_input_glyph_set(input.get()), glyph.first);
   hb_subset_input_set_flags(input.get(), HB_SUBSET_FLAGS_RETAIN_GIDS | HB_SUBSET_FLAGS_NOTDEF_OUTLINE);
   for (char const* table : {"GSUB", "GPOS", "GDEF", "kern", "name", "post", "OS/2", "DSIG"})
     hb_set_add(hb_subset_input_set(input.get(), HB_SUBSET_SETS_DROP_TABLE_TAG), hb_tag_from_string(table, -1));
-  Face const cut(hb_subset_or_fail(face.get(), input.get()));
+  FontFace const cut(hb_subset_or_fail(face.get(), input.get()));
   if (!cut) return {};
   Blob const blob(font.fontTable("CFF ").isEmpty() ? hb_face_reference_blob(cut.get())
                                                    : hb_face_reference_table(cut.get(), cffTag));

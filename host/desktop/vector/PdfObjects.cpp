@@ -2,6 +2,7 @@
 
 #include <QImage>
 
+#include <algorithm>
 #include <cmath>
 
 using SysDisplay::CanvasBlend;
@@ -15,7 +16,45 @@ QByteArray pdfNumber(double number) {
   return text == "-0" ? QByteArray("0") : text;
 }
 
+QByteArray pdfMatrix(QTransform const& t) {
+  QByteArray numbers;
+  for (double number : {t.m11(), t.m12(), t.m21(), t.m22(), t.dx(), t.dy()}) numbers += pdfNumber(number) + ' ';
+  numbers.chop(1);
+  return numbers;
+}
+
 namespace {
+
+// The function from 0 to 1 that a gradient's stops are, of colours or of opacity.
+QByteArray functionOf(QGradientStops stops, bool isOpacity) {
+  if (stops.first().first > 0) stops.prepend({0, stops.first().second});
+  if (stops.last().first < 1) stops.append({1, stops.last().second});
+  auto const color = [&](int i) {
+    QColor const& stop = stops[i].second;
+    if (isOpacity) return '[' + pdfNumber(stop.alphaF()) + ']';
+    return '[' + pdfNumber(stop.redF()) + ' ' + pdfNumber(stop.greenF()) + ' ' + pdfNumber(stop.blueF()) + ']';
+  };
+  QByteArray pieces, bounds, encoded;
+  for (int i = 1; i < stops.size(); ++i) {
+    pieces += "<</FunctionType 2/Domain[0 1]/N 1/C0" + color(i - 1) + "/C1" + color(i) + ">>";
+    if (i > 1) bounds += pdfNumber(stops[i - 1].first) + ' ';
+    encoded += "0 1 ";
+  }
+  return "<</FunctionType 3/Domain[0 1]/Functions[" + pieces + "]/Bounds[" + bounds + "]/Encode[" + encoded + "]>>";
+}
+
+// A line from one point to another, or two circles.
+QByteArray courseOf(QGradient const& gradient) {
+  if (gradient.type() == QGradient::LinearGradient) {
+    auto const& linear = static_cast<QLinearGradient const&>(gradient);
+    return "/ShadingType 2/Coords[" + pdfNumber(linear.start().x()) + ' ' + pdfNumber(linear.start().y()) + ' ' +
+           pdfNumber(linear.finalStop().x()) + ' ' + pdfNumber(linear.finalStop().y()) + ']';
+  }
+  auto const& radial = static_cast<QRadialGradient const&>(gradient);
+  return "/ShadingType 3/Coords[" + pdfNumber(radial.focalPoint().x()) + ' ' + pdfNumber(radial.focalPoint().y()) +
+         ' ' + pdfNumber(radial.focalRadius()) + ' ' + pdfNumber(radial.center().x()) + ' ' +
+         pdfNumber(radial.center().y()) + ' ' + pdfNumber(radial.centerRadius()) + ']';
+}
 
 // The colours of a JPEG file as PDF calls them; null where a reader might take them for others.
 char const* jpegColors(QByteArray const& file) {
@@ -69,13 +108,13 @@ QPDFObjectHandle PdfObjects::packed(QByteArray const& bytes) {
   return stream;
 }
 
-QByteArray PdfObjects::form(QByteArray const& content, QRectF const& bounds, bool isSheet) {
+QByteArray PdfObjects::form(QByteArray const& content, QRectF const& bounds, Sheet sheet) {
   QByteArray box = "[";
   for (double side :
        {std::floor(bounds.left()), std::floor(bounds.top()), std::ceil(bounds.right()), std::ceil(bounds.bottom())})
     box += pdfNumber(side) + ' ';
   box += ']';
-  QByteArray& name = forms_[(isSheet ? "sheet " : "") + box + content];
+  QByteArray& name = forms_[QByteArray::number(static_cast<int>(sheet)) + box + content];
   if (!name.isEmpty()) return name;
   QPDFObjectHandle form = stream(content);
   QPDFObjectHandle dictionary = form.getDict();
@@ -83,8 +122,10 @@ QByteArray PdfObjects::form(QByteArray const& content, QRectF const& bounds, boo
   dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
   dictionary.replaceKey("/BBox", QPDFObjectHandle::parse(box.toStdString()));
   dictionary.replaceKey("/Resources", resources_);
-  if (isSheet)
-    dictionary.replaceKey("/Group", QPDFObjectHandle::parse("<</Type/Group/S/Transparency/I true/CS/DeviceRGB>>"));
+  if (sheet != Sheet::None)
+    dictionary.replaceKey("/Group",
+                          QPDFObjectHandle::parse(std::string("<</Type/Group/S/Transparency/I true/CS/") +
+                                                  (sheet == Sheet::Gray ? "DeviceGray" : "DeviceRGB") + ">>"));
   return name = add("/XObject", "X", form);
 }
 
@@ -124,6 +165,48 @@ QByteArray PdfObjects::picture(SysDisplay::PictureData const& picture) {
   QPDFObjectHandle made = image(colors, size, "/DeviceRGB");
   if (!isOpaque) made.getDict().replaceKey("/SMask", image(opacity, size, "/DeviceGray"));
   return name = add("/XObject", "P", made);
+}
+
+QByteArray PdfObjects::addOnce(char const* key, char const* prefix, QByteArray const& text) {
+  QByteArray& name = others_[key + text];
+  if (name.isEmpty()) name = add(key, prefix, file_.makeIndirectObject(QPDFObjectHandle::parse(text.toStdString())));
+  return name;
+}
+
+QByteArray PdfObjects::addShading(QGradient const& gradient, bool isOpacity) {
+  return addOnce("/Shading", "H",
+                 "<<" + courseOf(gradient) + "/ColorSpace/" + (isOpacity ? "DeviceGray" : "DeviceRGB") +
+                     "/Extend[true true]/Function" + functionOf(SysDisplay::straightStops(gradient), isOpacity) + ">>");
+}
+
+std::pair<QByteArray, QByteArray> PdfObjects::shading(QGradient const& gradient, QRectF const& bounds) {
+  QByteArray const colors = addShading(gradient, false);
+  QGradientStops const stops = gradient.stops();
+  bool const isOpaque =
+      std::all_of(stops.begin(), stops.end(), [](QGradientStop const& stop) { return stop.second.alpha() == 255; });
+  if (isOpaque) return {colors, {}};
+  QByteArray const opacity = addShading(gradient, true);
+  QByteArray const mask = form(opacity + " sh\n", bounds, Sheet::Gray);
+  QByteArray& name = others_["mask " + mask];
+  if (!name.isEmpty()) return {colors, name};
+  QPDFObjectHandle state = QPDFObjectHandle::parse("<</ca 1/CA 1/SMask<</S/Luminosity>>>>");
+  state.getKey("/SMask").replaceKey("/G", category("/XObject").getKey(mask.toStdString()));
+  name = add("/ExtGState", "S", state);
+  return {colors, name};
+}
+
+QByteArray PdfObjects::tiles(QByteArray const& form, QSizeF const& size, QTransform const& placed) {
+  QByteArray const text = "<</PatternType 1/PaintType 1/TilingType 2/BBox[0 0 " + pdfNumber(size.width()) + ' ' +
+                          pdfNumber(size.height()) + "]/XStep " + pdfNumber(size.width()) + "/YStep " +
+                          pdfNumber(size.height()) + "/Matrix[" + pdfMatrix(placed) + "]>>";
+  QByteArray& name = others_[form + text];
+  if (!name.isEmpty()) return name;
+  QPDFObjectHandle pattern = stream(form + " Do\n");
+  QPDFObjectHandle dictionary = pattern.getDict();
+  QPDFObjectHandle keys = QPDFObjectHandle::parse(text.toStdString());
+  for (std::string const& key : keys.getKeys()) dictionary.replaceKey(key, keys.getKey(key));
+  dictionary.replaceKey("/Resources", resources_);
+  return name = add("/Pattern", "T", pattern);
 }
 
 QByteArray PdfObjects::state(double opacity, CanvasBlend blend) {

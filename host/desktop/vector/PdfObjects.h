@@ -19,6 +19,9 @@ QPDFObjectHandle pdfText(QString const& text);
 /// A number as PDF has it: no exponent, no more digits than are needed.
 QByteArray pdfNumber(double number);
 
+/// The six numbers of a mapping.
+QByteArray pdfMatrix(QTransform const& transformation);
+
 /// The objects that all contents of a file share, each made once and known by a name.
 class PdfObjects {
 public:
@@ -29,11 +32,20 @@ public:
   /// The dictionary of all names, for pages and forms alike.
   QPDFObjectHandle const& resources() const { return resources_; }
 
-  /// A form: content that is drawn as one thing. `bounds` are in its own units. With `isSheet`, what is in it is mixed
-  /// with itself before it comes to the page.
-  QByteArray form(QByteArray const& content, QRectF const& bounds, bool isSheet);
+  enum class Sheet { None, Colors, Gray };
+
+  /// A form: content that is drawn as one thing. `bounds` are in its own units. As a sheet, what is in it is mixed with
+  /// itself before it comes to the page.
+  QByteArray form(QByteArray const& content, QRectF const& bounds, Sheet sheet = Sheet::None);
 
   QByteArray picture(SysDisplay::PictureData const& picture);
+
+  /// Colours along a gradient, in its own coordinates, and how far they cover what lies below. The bounds are what is
+  /// filled. The second is empty where they cover it all.
+  std::pair<QByteArray, QByteArray> shading(QGradient const& gradient, QRectF const& bounds);
+
+  /// A pattern of a form over and over, in steps of that size; from its units to those of where it is used.
+  QByteArray tiles(QByteArray const& form, QSizeF const& size, QTransform const& placed);
 
   /// How strongly and in what way things are put on what is there.
   QByteArray state(double opacity, SysDisplay::CanvasBlend blend);
@@ -59,6 +71,8 @@ private:
     std::vector<int> below;
   };
   QPDFObjectHandle category(char const* key);
+  QByteArray addOnce(char const* key, char const* prefix, QByteArray const& text);
+  QByteArray addShading(QGradient const& gradient, bool isOpacity);
   QByteArray add(char const* key, char const* prefix, QPDFObjectHandle const& object);
   QPDFObjectHandle order(std::vector<int> const& layers);
   QPDFObjectHandle image(QByteArray const& bytes, QSize const& size, char const* colors);
@@ -66,6 +80,7 @@ private:
   QPDF& file_;
   QPDFObjectHandle resources_;
   QHash<QByteArray, QByteArray> forms_;               // names by content
+  QHash<QByteArray, QByteArray> others_;              // names by what they are, as text
   QHash<qint64, QByteArray> pictures_;                // by the image's key
   std::map<std::pair<int, int>, QByteArray> states_;  // by opacity and blend
   std::vector<Layer> layers_;

@@ -1,5 +1,6 @@
 #include "VectorPage.h"
 
+#include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/PointTransform.h"
@@ -42,6 +43,12 @@ QString descriptionOf(Element const& element) {
 
 }  // namespace
 
+QString beginningOf(SysCarto::TextElement const& text) {
+  constexpr int enough = 40;
+  QString const words = text.text().simplified();
+  return words.size() <= enough ? words : words.left(enough - 1) + QChar(0x2026);
+}
+
 VectorPage::VectorPage(_ptr_t<SysCarto::PageLayout> layout, int dpi) : layout_(std::move(layout)), dpi_(dpi) {
   layout_->QueryOutputSize(dpi, size_.rwidth(), size_.rheight());
   transformation_ = layout_->GetDisplayTransformation()->Clone();
@@ -65,8 +72,8 @@ void VectorPage::draw(SysDisplay::VectorCanvas& canvas, _ptr_t<SysUI::TrackerCan
   for (_ptr_t<Element> const& element : layout_->GetGraphicsContainer()->GetElements()) {
     if (cancel && cancel->IsCanced()) return;
     if (!element->IsVisible()) continue;
-    if (element->GetType() == SysCarto::ElementType::Text)
-      canvas.beginText();
+    if (auto const text = ptr_cast<SysCarto::TextElement>(element))
+      canvas.beginText(beginningOf(*text));
     else
       canvas.beginFigure(descriptionOf(*element));
     drawElement(painter, element, cancel);

@@ -11,13 +11,24 @@
 
 namespace {
 
-// A program of poppler's, which knows nothing of ours: what it prints.
+// A program of poppler's or librsvg's, which know nothing of ours: what it prints.
 QString printed(QString const& program, QStringList const& arguments) {
   QProcess process;
   process.start(program, arguments);
   if (!process.waitForFinished(60000) || process.exitCode() != 0) return QStringLiteral("%1 failed").arg(program);
   if (QByteArray const complaint = process.readAllStandardError(); !complaint.isEmpty()) return complaint;
   return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+// The texts of an SVG, as XML has them.
+QStringList textsOf(QString const& svg) {
+  QStringList texts;
+  QXmlStreamReader xml(contentOf(svg));
+  while (!xml.atEnd())
+    if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("text"))
+      texts << xml.readElementText(QXmlStreamReader::IncludeChildElements);
+  if (xml.hasError()) texts = QStringList{xml.errorString()};
+  return texts;
 }
 
 QString textOf(QString const& pdf) { return printed("pdftotext", {"-raw", pdf, "-"}).simplified(); }
@@ -27,7 +38,12 @@ QString textOf(QString const& pdf) { return printed("pdftotext", {"-raw", pdf, "
 struct Difference {
   double mean = 0, squares = 0;
 
-  Difference(QImage const& a, QImage const& b) {
+  Difference(QImage const& first, QImage const& second)
+      : Difference(first.convertToFormat(QImage::Format_RGB32), second.convertToFormat(QImage::Format_RGB32), {}) {}
+
+private:
+  Difference(QImage const& a, QImage const& b, std::nullptr_t) {
+    auto const row = [](QImage const& image, int y) { return reinterpret_cast<QRgb const*>(image.constScanLine(y)); };
     QSize const size = a.size().boundedTo(b.size());
     int different = 0, count = 0;
     for (int top = 0; top + 8 <= size.height(); top += 8)
@@ -35,7 +51,7 @@ struct Difference {
         int sums[3] = {};
         for (int y = top; y < top + 8; ++y)
           for (int x = left; x < left + 8; ++x) {
-            QRgb const p = a.pixel(x, y), q = b.pixel(x, y);
+            QRgb const p = row(a, y)[x], q = row(b, y)[x];
             int const off[] = {qRed(p) - qRed(q), qGreen(p) - qGreen(q), qBlue(p) - qBlue(q)};
             for (int i = 0; i < 3; ++i) sums[i] += off[i];
             mean += std::max({std::abs(off[0]), std::abs(off[1]), std::abs(off[2])});
@@ -47,38 +63,128 @@ struct Difference {
   }
 };
 
+// What is hard to draw: fills that go on, gradients, nested markers, pictures at an angle, halos and boxes that shine
+// through, layers that are mixed with each other on a turned map.
+QJsonObject difficultPage() {
+  QByteArray const flag = QByteArray(
+      "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 10 14'><rect width='10' "
+      "height='14' fill='#ffe8c0'/><path d='M5 1 9 12 1 12Z' fill='#345' "
+      "fill-opacity='.7'/></svg>");
+  auto const withFlag = [&](QByteArray text) { return text.replace("FLAG", QByteArray(flag).replace("'", "\\'")); };
+  QByteArray const fills[] = {
+      "'type':'gradientFill','angle':30,'stops':[{'position':10,'color':'#ff0000'},{'position':60,'color':'#0088ff'}]",
+      "'type':'gradientFill','shape':'radial','stops':[{'position':0,'color':'#ffff00'},{'position':100,'color':"
+      "'#20400080'}]",
+      "'type':'gradientFill','angle':0,'stops':[{'position':0,'color':'#00f00000'},{'position':100,'color':'#0000ff'}]",
+      "'type':'pictureFill','width':7,'angle':-20,'svg':'FLAG'",
+      "'type':'pointPatternFill','dx':6,'dy':5,'staggered':true,'marker':{'type':'layeredMarker','layers':[{'type':"
+      "'simpleMarker','size':4},{'type':'svgMarker','size':3,'svg':'FLAG'}]}",
+      "'type':'simpleFill','style':'diagonalCross','color':'#a0227722'",
+      "'type':'simpleFill','style':'vertical','color':'#aa2222'"};
+  QJsonArray elements;
+  double left = 0.2;
+  for (QByteArray const& fill : fills) {
+    elements << json(withFlag("{'type':'ellipse','rectangle':[" + QByteArray::number(left) + ",4.6," +
+                              QByteArray::number(left + 1) + ",5.8],'symbol':{" + fill +
+                              ",'outline':{'type':'simpleLine','color':'#102030','width':0.6}}}"));
+    left += 1.1;
+  }
+  QString const embedded = "data:image/svg+xml;base64," + flag.toBase64();
+  for (double angle : {0.0, 25.0})
+    elements << QJsonObject{{"type", "picture"},
+                            {"data", embedded},
+                            {"angle", angle},
+                            {"rectangle", QJsonArray{6 + angle / 25, 2.8, 6.8 + angle / 25, 4.2}}};
+  elements << json(
+      "{'type':'text','text':'Two words\\nand more','position':[5,1.6],'angle':10,'symbol':{'type':'text',"
+      "'family':'EB Garamond','size':16,'italic':true,'color':'#b0402000','haloSize':1.5,'haloColor':"
+      "'#c0ffdd88','boxColor':'#80eeeeff','boxLineWidth':1,'letterSpacing':2}}");
+  elements << json(
+      "{'type':'text','text':'Łódź أهلا','position':[5,0.4],'symbol':{'type':'text','family':"
+      "'DejaVu Sans','size':12,'bold':true}}");
+  elements << json(
+      "{'type':'dataFrame','map':0,'name':'Mixed','rectangle':[0.3,0.3,4.6,4.3],'shadow':{'offset':"
+      "[3,-3],'symbol':{'type':'simpleFill','color':'#80000000'}}}");
+  QByteArray layers;
+  for (QByteArray const look : {"'opacity':60", "'blend':'multiply'", "'blend':'screen','opacity':80"})
+    layers += QByteArray(layers.isEmpty() ? "" : ",") +
+              "{'type':'feature','name':'Squares','source':{'file':'squares.geojson'},'renderer':{'type':'simple',"
+              "'symbol':{'type':'simpleFill','color':'#dd8844','outline':{'type':'dashLine','pattern':[4,2],'width':" +
+              QByteArray::number(layers.count("feature") + 1) + "}}}," + look + "}";
+  return {{"elements", elements},
+          {"maps", QJsonArray{json("{'name':'Mixed','coordinateSystem':'EPSG:32633','rotation':20,'bounds':[500000,"
+                                   "5300000,501000,5301000],'layers':[" +
+                                   layers + "]}")}}};
+}
+
+QByteArray squares() {
+  QByteArray features;
+  for (int i = 0; i < 12; ++i) {
+    double const x = 15 + i % 4 * 0.003, y = 47.852 + i / 4 * 0.003;
+    QByteArray corners;
+    for (auto const& [dx, dy] : {std::pair(0, 0), {4, 0}, {4, 4}, {0, 4}, {0, 0}})
+      corners += (corners.isEmpty() ? "[" : ",[") + QByteArray::number(x + dx * 0.001, 'f', 4) + ',' +
+                 QByteArray::number(y + dy * 0.001, 'f', 4) + ']';
+    features += (i ? "," : "") +
+                QByteArray(
+                    "{\"type\":\"Feature\",\"properties\":{},\"geometry\":{\"type\":\"Polygon\","
+                    "\"coordinates\":[[") +
+                corners + "]]}}";
+  }
+  return "{\"type\":\"FeatureCollection\",\"features\":[" + features + "]}";
+}
+
 QJsonArray at(double x, double y) { return {x, y}; }
 
 }  // namespace
 
-class PdfTest : public QObject {
+class VectorFilesTest : public QObject {
   Q_OBJECT
 
 private slots:
   void initTestCase() { GDALAllRegister(); }
 
-  void showsWhatTheImageShows_data() {
-    Rows<QString> row;
-    row("fills, lines, halos, markers, an overview", "aegean.kdx");
-    row("a graticule and a legend", "world.kdx");
+  void showWhatTheImageShows_data() {
+    Rows<QString, QStringList> row;
+    row("fills, lines, halos, markers, an overview", "aegean.kdx", {});
+    row("a graticule and a legend", "world.kdx", {});
+    row("what is hard to draw", "difficult.kdx", {});
+    row("letters as shapes", "difficult.kdx", {"--text", "shapes"});
   }
-  void showsWhatTheImageShows() {
-    auto const [sample] = fetched<QString>();
-    QString const document = QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/") + sample;
-    for (QString const suffix : {"png", "pdf"})
-      QCOMPARE(run({"export", document, "page." + suffix, "--quiet"}, folder_.path()).err, QString());
+  void showWhatTheImageShows() {
+    auto const [name, more] = fetched<QString, QStringList>();
+    put(folder_.path("squares.geojson"), squares());
+    folder_.writeVariant("difficult.kdx", difficultPage());
+    QString const sample = QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/") + name;
+    QString const document = QFileInfo::exists(sample) ? sample : folder_.path(name);
+    for (QString const suffix : {"png", "pdf", "svg"})
+      QCOMPARE(
+          run(QStringList{"export", document, "page." + suffix, "--quiet"} + (suffix == "png" ? QStringList() : more),
+              folder_.path())
+              .err,
+          QString());
     QImage const image(folder_.path("page.png"));
     double const widthPt = printed("pdfinfo", {folder_.path("page.pdf")})
                                .section("Page size:", 1)
                                .simplified()
                                .section(' ', 0, 0)
                                .toDouble();
-    QString const dpi = QString::number(image.width() / widthPt * 72, 'f', 4);
-    printed("pdftocairo", {"-r", dpi, "-png", "-singlefile", folder_.path("page.pdf"), folder_.path("drawn")});
-    Difference const difference(image, QImage(folder_.path("drawn.png")));
-    QVERIFY2(difference.mean < 1, qPrintable(QString::number(difference.mean)));
-    QVERIFY2(difference.squares < 0.002, qPrintable(QString::number(difference.squares)));
-    QCOMPARE(printed("pdfimages", {"-list", folder_.path("page.pdf")}).count('\n'), 2);  // none: a head of two lines
+    QString const dpi = QString::number(image.width() / widthPt * 72, 'f', 4), width = QString::number(image.width());
+    printed("pdftocairo", {"-r", dpi, "-png", "-singlefile", folder_.path("page.pdf"), folder_.path("pdf")});
+    printed("rsvg-convert", {"-w", width, folder_.path("page.svg"), "-o", folder_.path("svg.png")});
+    for (QString const drawn : {"pdf.png", "svg.png"}) {
+      Difference const difference(image, QImage(folder_.path(drawn)));
+      auto const told = [&](double number) { return drawn + ": " + QString::number(number); };
+      QVERIFY2(difference.mean < 1, qPrintable(told(difference.mean)));
+      QVERIFY2(difference.squares < 0.002, qPrintable(told(difference.squares)));
+    }
+    // Nothing became pixels, and texts are what was asked for.
+    QByteArray const svg = contentOf(folder_.path("page.svg"));
+    bool const hasText = !more.contains("shapes");
+    QCOMPARE(printed("pdfimages", {"-list", folder_.path("page.pdf")}).count('\n'), 2);  // a head of two lines
+    QVERIFY(!svg.contains("<image"));
+    QCOMPARE(printed("pdffonts", {folder_.path("page.pdf")}).count('\n') > 2, hasText);
+    QCOMPARE(svg.contains("<text"), hasText);
   }
 
   void everyLabelIsFound() {
@@ -91,9 +197,13 @@ private slots:
         for (auto const& label : SysCarto::placeLabels(*frame, 300))
           if (auto const text = SysUtility::ptr_cast<SysCarto::TextElement>(label)) labels << text->text();
     QVERIFY(labels.size() > 100);
-    QCOMPARE(run({"export", path, "labels.pdf"}, folder_.path()).err, QString());
-    QString const found = textOf(folder_.path("labels.pdf"));
-    for (QString const& label : labels) QVERIFY2(found.contains(label.simplified()), qPrintable(label));
+    for (QString const suffix : {"pdf", "svg"})
+      QCOMPARE(run({"export", path, "labels." + suffix}, folder_.path()).err, QString());
+    QString const found = textOf(folder_.path("labels.pdf")), inSvg = textsOf(folder_.path("labels.svg")).join('\n');
+    for (QString const& label : labels) {
+      QVERIFY2(found.contains(label.simplified()), qPrintable(label));
+      QVERIFY2(inSvg.contains(label), qPrintable(label));
+    }
   }
 
   void textsAreReadAsTheyWereWritten_data() {
@@ -113,7 +223,9 @@ private slots:
                                       {"position", at(1, 3)},
                                       {"symbol", QJsonObject{{"type", "text"}, {"family", family}, {"size", 20}}}}}},
                      {"maps", QJsonArray()}});
-    QCOMPARE(run({"export", "text.kdx", "text.pdf"}, folder_.path()).err, QString());
+    for (QString const file : {"text.pdf", "text.svg"})
+      QCOMPARE(run({"export", "text.kdx", file}, folder_.path()).err, QString());
+    QCOMPARE(textsOf(folder_.path("text.svg")), QStringList{text});
     // Poppler marks what runs from right to left. It sorts words, or leaves them in the order of the page, as is asked.
     QStringList found{textOf(folder_.path("text.pdf")),
                       printed("pdftotext", {folder_.path("text.pdf"), "-"}).simplified()};
@@ -125,8 +237,12 @@ private slots:
   void itSaysWhatTheDocumentSaysOfItself() {
     folder_.writeVariant("told.kdx", {{"information", json("{'title':'Die <Welt> & mehr','author':'Ö. Maker','subject':"
                                                            "'About it','keywords':['a','b c'],'language':'de-CH'}")}});
-    for (QString const name : {"told", "page"})
-      QCOMPARE(run({"export", name + ".kdx", name + ".pdf"}, folder_.path()).err, QString());
+    for (QString const file : {"told.pdf", "told.svg", "page.pdf"})
+      QCOMPARE(run({"export", file.left(4) + ".kdx", file}, folder_.path()).err, QString());
+    QByteArray const svg = contentOf(folder_.path("told.svg"));
+    for (QByteArray const part :
+         {" xml:lang=\"de-CH\"", "<title>Die &lt;Welt&gt; &amp; mehr</title>\n<desc>About it</desc>"})
+      QVERIFY2(svg.contains(part), svg.left(1000));
     QString const told = printed("pdfinfo", {folder_.path("told.pdf")});
     for (QString const line :
          {"Title: Die <Welt> & mehr ", "Author: Ö. Maker ", "Subject: About it ", "Keywords: a, b c "})
@@ -198,5 +314,5 @@ private:
   DocumentFolder folder_;
 };
 
-QTEST_MAIN(PdfTest)
-#include "tst_pdf.moc"
+QTEST_MAIN(VectorFilesTest)
+#include "tst_vector_files.moc"

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QRawFont>
+
+#include <hb.h>
+
+#include <memory>
+
+/// Ends an object of HarfBuzz's by its own function.
+template <auto destroy>
+struct Destroyer {
+  template <class Object>
+  void operator()(Object* object) const {
+    destroy(object);
+  }
+};
+using FontFace = std::unique_ptr<hb_face_t, Destroyer<hb_face_destroy>>;
+
+/// A font's tables as HarfBuzz reads them. The font must outlive the face.
+FontFace faceOf(QRawFont const& font);
+
+/// The name by which a font is found where a family has more than one of its weight and slant, as those cut for
+/// different sizes; empty where the font has none.
+QString ownFamily(QRawFont const& font);
+
+/// What kind of letters a font has, as style sheets call it, for readers that don't have the font.
+QString genericFamily(QRawFont const& font);
+
+/// False where Qt makes bold or slanted letters of others, since the family has none; the file's letters are those.
+bool drawsAsTheFileDoes(QRawFont const& font);
+
+/// Whether the file's own letters are bold.
+bool isBoldInFile(QRawFont const& font);
