@@ -1425,6 +1425,22 @@
         <source>Let a save keep what the file held before, as a file with “~” behind its name</source>
         <translation>Beim Speichern den bisherigen Inhalt der Datei behalten, als Datei mit „~“ hinter dem Namen</translation>
     </message>
+    <message>
+        <source>Export as PDF…</source>
+        <translation>Als PDF exportieren …</translation>
+    </message>
+    <message>
+        <source>Write the page as a PDF of shapes and texts</source>
+        <translation>Die Seite als PDF aus Formen und Texten schreiben</translation>
+    </message>
+    <message>
+        <source>Export as SVG…</source>
+        <translation>Als SVG exportieren …</translation>
+    </message>
+    <message>
+        <source>Write the page as an SVG of shapes and texts</source>
+        <translation>Die Seite als SVG aus Formen und Texten schreiben</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -2077,6 +2093,13 @@
     </message>
 </context>
 <context>
+    <name>DrawingProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>Editable</name>
     <message>
         <source>can&apos;t be changed</source>
@@ -2378,6 +2401,61 @@
     <message>
         <source>export: --text is for a PDF or SVG.</source>
         <translation>export: --text ist für PDF und SVG.</translation>
+    </message>
+    <message>
+        <source>Of a PDF: draw what lies over the page&apos;s edges so many millimetres beyond them.</source>
+        <translation>Bei PDF: was über die Ränder der Seite reicht, so viele Millimeter darüber hinaus zeichnen.</translation>
+    </message>
+    <message>
+        <source>Of a PDF: mark where the paper is to be cut.</source>
+        <translation>Bei PDF: bezeichnen, wo das Papier zu schneiden ist.</translation>
+    </message>
+    <message>
+        <source>Of a PDF: the ICC profile of the device that it is meant for, in place of sRGB.</source>
+        <translation>Bei PDF: das ICC-Profil des Geräts, für das es bestimmt ist, statt sRGB.</translation>
+    </message>
+    <message>
+        <source>export: --bleed takes millimetres from 0 to %1, not &quot;%2&quot;.</source>
+        <translation>export: --bleed nimmt Millimeter von 0 bis %1, nicht „%2“.</translation>
+    </message>
+    <message>
+        <source>export: --%1 is for a PDF alone; leave it out, or write a .pdf.</source>
+        <translation>export: --%1 gibt es nur bei PDF; lassen Sie es weg oder schreiben Sie ein .pdf.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export as %1</source>
+        <translation>Als %1 exportieren</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Name the file to write.</source>
+        <translation>Nennen Sie die Datei, die geschrieben werden soll.</translation>
+    </message>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 existiert bereits.</translation>
+    </message>
+    <message>
+        <source>Replace it?</source>
+        <translation>Ersetzen?</translation>
+    </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
     </message>
 </context>
 <context>
@@ -5235,6 +5313,122 @@
         <source>The attribute that holds by how many degrees the map is turned counterclockwise; empty for none.</source>
         <translation>Das Attribut, das angibt, um wie viele Grad die Karte gegen den Uhrzeigersinn gedreht wird; leer für keines.</translation>
     </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>What was chosen for files made of the page, and for paper.</source>
+        <translation>Was für Dateien aus der Seite und für Papier gewählt wurde.</translation>
+    </message>
+    <message>
+        <source>As the page</source>
+        <translation>Wie die Seite</translation>
+    </message>
+    <message>
+        <source>Real size, on several sheets if need be</source>
+        <translation>Wirkliche Größe, wenn nötig auf mehreren Blättern</translation>
+    </message>
+    <message>
+        <source>Fitted to one sheet</source>
+        <translation>Auf ein Blatt eingepasst</translation>
+    </message>
+    <message>
+        <source>Resolution (DPI)</source>
+        <translation>Auflösung (DPI)</translation>
+    </message>
+    <message>
+        <source>Pixels per inch of paper: of images, and of pictures in a file of shapes.</source>
+        <translation>Pixel je Zoll Papier: von Bildern und von Bildern in einer Datei aus Formen.</translation>
+    </message>
+    <message>
+        <source>Texts as shapes</source>
+        <translation>Texte als Formen</translation>
+    </message>
+    <message>
+        <source>Whether letters are drawn as outlines. They look the same everywhere, and can&apos;t be searched or copied.</source>
+        <translation>Ob Buchstaben als Umrisse gezeichnet werden. Sie sehen dann überall gleich aus und lassen sich nicht suchen oder kopieren.</translation>
+    </message>
+    <message>
+        <source>Bleed</source>
+        <translation>Beschnittzugabe</translation>
+    </message>
+    <message>
+        <source>How far the background and what lies over the page&apos;s edges is drawn beyond them in a PDF, so that nothing is left white where paper is cut.</source>
+        <translation>Wie weit der Hintergrund und was über die Ränder der Seite reicht in einem PDF darüber hinaus gezeichnet wird, damit beim Schneiden nichts weiß bleibt.</translation>
+    </message>
+    <message>
+        <source>Crop marks</source>
+        <translation>Schnittmarken</translation>
+    </message>
+    <message>
+        <source>Whether a PDF has marks where the paper is to be cut.</source>
+        <translation>Ob ein PDF Marken hat, wo das Papier zu schneiden ist.</translation>
+    </message>
+    <message>
+        <source>Layers can be hidden</source>
+        <translation>Layer ausblendbar</translation>
+    </message>
+    <message>
+        <source>Whether who reads the file can hide and show the maps&apos; layers.</source>
+        <translation>Ob, wer die Datei liest, die Layer der Karten aus- und einblenden kann.</translation>
+    </message>
+    <message>
+        <source>Open afterwards</source>
+        <translation>Danach öffnen</translation>
+    </message>
+    <message>
+        <source>Whether the window opens the file once it is written.</source>
+        <translation>Ob das Fenster die Datei öffnet, sobald sie geschrieben ist.</translation>
+    </message>
+    <message>
+        <source>The paper of the printer: that of the page, or another one.</source>
+        <translation>Das Papier des Druckers: das der Seite oder ein anderes.</translation>
+    </message>
+    <message>
+        <source>Whether the page is printed as large as it is, on several sheets to be glued where it is larger than the paper, or made to fit on one.</source>
+        <translation>Ob die Seite so groß gedruckt wird, wie sie ist, auf mehrere Blätter zum Kleben, wo sie größer ist als das Papier, oder passend auf eines.</translation>
+    </message>
+    <message>
+        <source>Overlap</source>
+        <translation>Überlappung</translation>
+    </message>
+    <message>
+        <source>How far neighbouring sheets show the same, to be glued there.</source>
+        <translation>Wie weit benachbarte Blätter dasselbe zeigen, um dort geklebt zu werden.</translation>
+    </message>
+    <message>
+        <source>Marks to cut and glue</source>
+        <translation>Marken zum Schneiden und Kleben</translation>
+    </message>
+    <message>
+        <source>Whether several sheets have marks at which they are cut, and lines to which the next one is glued.</source>
+        <translation>Ob mehrere Blätter Marken haben, an denen sie geschnitten werden, und Linien, an die das nächste geklebt wird.</translation>
+    </message>
+    <message>
+        <source>Numbers of sheets</source>
+        <translation>Nummern der Blätter</translation>
+    </message>
+    <message>
+        <source>Whether several sheets say in which row and column they belong.</source>
+        <translation>Ob mehrere Blätter sagen, in welche Zeile und Spalte sie gehören.</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>What was chosen for files made of the page.</source>
+        <translation>Was für Dateien aus der Seite gewählt wurde.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>What was chosen for the page on paper.</source>
+        <translation>Was für die Seite auf Papier gewählt wurde.</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -7033,6 +7227,49 @@
     <message>
         <source>Document Properties</source>
         <translation>Dokumenteigenschaften</translation>
+    </message>
+    <message>
+        <source>Exporting the page…</source>
+        <translation>Die Seite wird exportiert …</translation>
+    </message>
+    <message>
+        <source>Cancelled; no file was written.</source>
+        <translation>Abgebrochen; es wurde keine Datei geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1 was written.</source>
+        <translation>%1 wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1 was written, but no program is known that opens it.</source>
+        <translation>%1 wurde geschrieben, aber es ist kein Programm bekannt, das die Datei öffnet.</translation>
+    </message>
+    <message>
+        <source>the suffix of %1 names no format; use one of %2.</source>
+        <translation>die Endung von %1 nennt kein Format; nehmen Sie eine von %2.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputIntent</name>
+    <message>
+        <source>the profile %1 can&apos;t be read: %2</source>
+        <translation>das Profil %1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is no ICC profile, or not a whole one; name another file</source>
+        <translation>%1 ist kein ICC-Profil oder kein ganzes; nennen Sie eine andere Datei</translation>
+    </message>
+    <message>
+        <source>%1 is not the profile of a screen or a printer; name one that is</source>
+        <translation>%1 ist nicht das Profil eines Bildschirms oder Druckers; nennen Sie ein solches</translation>
+    </message>
+    <message>
+        <source>%1 is a profile of %2 colours, and those of the page are RGB; name one for RGB</source>
+        <translation>%1 ist ein Profil für %2-Farben, und die der Seite sind RGB; nennen Sie eines für RGB</translation>
+    </message>
+    <message>
+        <source>%1 is a profile of a version that PDF files can&apos;t hold; name one of version 2 or 4</source>
+        <translation>%1 ist ein Profil in einer Version, die PDF-Dateien nicht aufnehmen; nennen Sie eines in Version 2 oder 4</translation>
     </message>
 </context>
 <context>

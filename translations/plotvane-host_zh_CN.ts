@@ -1425,6 +1425,22 @@
         <source>Let a save keep what the file held before, as a file with “~” behind its name</source>
         <translation>保存时将文件原有内容保留为名称后带“~”的文件</translation>
     </message>
+    <message>
+        <source>Export as PDF…</source>
+        <translation>导出为 PDF…</translation>
+    </message>
+    <message>
+        <source>Write the page as a PDF of shapes and texts</source>
+        <translation>将页面写成由图形和文本组成的 PDF</translation>
+    </message>
+    <message>
+        <source>Export as SVG…</source>
+        <translation>导出为 SVG…</translation>
+    </message>
+    <message>
+        <source>Write the page as an SVG of shapes and texts</source>
+        <translation>将页面写成由图形和文本组成的 SVG</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -2077,6 +2093,13 @@
     </message>
 </context>
 <context>
+    <name>DrawingProgress</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>Editable</name>
     <message>
         <source>can&apos;t be changed</source>
@@ -2378,6 +2401,61 @@
     <message>
         <source>export: --text is for a PDF or SVG.</source>
         <translation>export：--text 用于 PDF 或 SVG。</translation>
+    </message>
+    <message>
+        <source>Of a PDF: draw what lies over the page&apos;s edges so many millimetres beyond them.</source>
+        <translation>用于 PDF：将超出页面边缘的内容向外多画这么多毫米。</translation>
+    </message>
+    <message>
+        <source>Of a PDF: mark where the paper is to be cut.</source>
+        <translation>用于 PDF：标出纸张的裁切位置。</translation>
+    </message>
+    <message>
+        <source>Of a PDF: the ICC profile of the device that it is meant for, in place of sRGB.</source>
+        <translation>用于 PDF：目标设备的 ICC 配置文件，代替 sRGB。</translation>
+    </message>
+    <message>
+        <source>export: --bleed takes millimetres from 0 to %1, not &quot;%2&quot;.</source>
+        <translation>export：--bleed 取 0 到 %1 的毫米数，而不是“%2”。</translation>
+    </message>
+    <message>
+        <source>export: --%1 is for a PDF alone; leave it out, or write a .pdf.</source>
+        <translation>export：--%1 仅用于 PDF；请去掉它，或写入 .pdf。</translation>
+    </message>
+</context>
+<context>
+    <name>ExportDialog</name>
+    <message>
+        <source>Export as %1</source>
+        <translation>导出为 %1</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
+        <source>Name the file to write.</source>
+        <translation>请指定要写入的文件。</translation>
+    </message>
+    <message>
+        <source>%1 exists already.</source>
+        <translation>%1 已存在。</translation>
+    </message>
+    <message>
+        <source>Replace it?</source>
+        <translation>要替换吗？</translation>
+    </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
     </message>
 </context>
 <context>
@@ -5235,6 +5313,122 @@
         <source>The attribute that holds by how many degrees the map is turned counterclockwise; empty for none.</source>
         <translation>保存地图逆时针旋转度数的属性；空表示没有。</translation>
     </message>
+    <message>
+        <source>Output</source>
+        <translation>输出</translation>
+    </message>
+    <message>
+        <source>What was chosen for files made of the page, and for paper.</source>
+        <translation>为由页面生成的文件以及打印所做的选择。</translation>
+    </message>
+    <message>
+        <source>As the page</source>
+        <translation>与页面相同</translation>
+    </message>
+    <message>
+        <source>Real size, on several sheets if need be</source>
+        <translation>实际大小，必要时分多张</translation>
+    </message>
+    <message>
+        <source>Fitted to one sheet</source>
+        <translation>缩放到一张纸</translation>
+    </message>
+    <message>
+        <source>Resolution (DPI)</source>
+        <translation>分辨率 (DPI)</translation>
+    </message>
+    <message>
+        <source>Pixels per inch of paper: of images, and of pictures in a file of shapes.</source>
+        <translation>每英寸纸张的像素数：用于图像，以及矢量文件中的图片。</translation>
+    </message>
+    <message>
+        <source>Texts as shapes</source>
+        <translation>文本转为轮廓</translation>
+    </message>
+    <message>
+        <source>Whether letters are drawn as outlines. They look the same everywhere, and can&apos;t be searched or copied.</source>
+        <translation>字母是否绘制成轮廓。这样在任何地方看起来都一样，但不能搜索或复制。</translation>
+    </message>
+    <message>
+        <source>Bleed</source>
+        <translation>出血</translation>
+    </message>
+    <message>
+        <source>How far the background and what lies over the page&apos;s edges is drawn beyond them in a PDF, so that nothing is left white where paper is cut.</source>
+        <translation>在 PDF 中，背景和超出页面边缘的内容向外多画多少，以免裁切处留白。</translation>
+    </message>
+    <message>
+        <source>Crop marks</source>
+        <translation>裁切标记</translation>
+    </message>
+    <message>
+        <source>Whether a PDF has marks where the paper is to be cut.</source>
+        <translation>PDF 是否带有纸张裁切位置的标记。</translation>
+    </message>
+    <message>
+        <source>Layers can be hidden</source>
+        <translation>图层可隐藏</translation>
+    </message>
+    <message>
+        <source>Whether who reads the file can hide and show the maps&apos; layers.</source>
+        <translation>阅读文件的人能否隐藏和显示地图的图层。</translation>
+    </message>
+    <message>
+        <source>Open afterwards</source>
+        <translation>完成后打开</translation>
+    </message>
+    <message>
+        <source>Whether the window opens the file once it is written.</source>
+        <translation>文件写好后窗口是否打开它。</translation>
+    </message>
+    <message>
+        <source>The paper of the printer: that of the page, or another one.</source>
+        <translation>打印机的纸张：与页面相同，或另一种。</translation>
+    </message>
+    <message>
+        <source>Whether the page is printed as large as it is, on several sheets to be glued where it is larger than the paper, or made to fit on one.</source>
+        <translation>页面按实际大小打印（大于纸张时分成多张再粘贴），还是缩放到一张纸上。</translation>
+    </message>
+    <message>
+        <source>Overlap</source>
+        <translation>重叠</translation>
+    </message>
+    <message>
+        <source>How far neighbouring sheets show the same, to be glued there.</source>
+        <translation>相邻纸张重复显示的宽度，用于粘贴。</translation>
+    </message>
+    <message>
+        <source>Marks to cut and glue</source>
+        <translation>裁切和粘贴标记</translation>
+    </message>
+    <message>
+        <source>Whether several sheets have marks at which they are cut, and lines to which the next one is glued.</source>
+        <translation>多张纸是否带有裁切标记，以及粘贴下一张的线。</translation>
+    </message>
+    <message>
+        <source>Numbers of sheets</source>
+        <translation>纸张编号</translation>
+    </message>
+    <message>
+        <source>Whether several sheets say in which row and column they belong.</source>
+        <translation>多张纸是否注明所在的行和列。</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>导出</translation>
+    </message>
+    <message>
+        <source>What was chosen for files made of the page.</source>
+        <translation>为由页面生成的文件所做的选择。</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>What was chosen for the page on paper.</source>
+        <translation>为页面打印所做的选择。</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -7033,6 +7227,49 @@
     <message>
         <source>Document Properties</source>
         <translation>文档属性</translation>
+    </message>
+    <message>
+        <source>Exporting the page…</source>
+        <translation>正在导出页面…</translation>
+    </message>
+    <message>
+        <source>Cancelled; no file was written.</source>
+        <translation>已取消；没有写入文件。</translation>
+    </message>
+    <message>
+        <source>%1 was written.</source>
+        <translation>已写入 %1。</translation>
+    </message>
+    <message>
+        <source>%1 was written, but no program is known that opens it.</source>
+        <translation>已写入 %1，但没有可打开它的程序。</translation>
+    </message>
+    <message>
+        <source>the suffix of %1 names no format; use one of %2.</source>
+        <translation>%1 的后缀不是任何格式；请用以下之一：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>OutputIntent</name>
+    <message>
+        <source>the profile %1 can&apos;t be read: %2</source>
+        <translation>无法读取配置文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is no ICC profile, or not a whole one; name another file</source>
+        <translation>%1 不是 ICC 配置文件，或不完整；请指定其他文件</translation>
+    </message>
+    <message>
+        <source>%1 is not the profile of a screen or a printer; name one that is</source>
+        <translation>%1 不是屏幕或打印机的配置文件；请指定这样的文件</translation>
+    </message>
+    <message>
+        <source>%1 is a profile of %2 colours, and those of the page are RGB; name one for RGB</source>
+        <translation>%1 是 %2 颜色的配置文件，而页面的颜色是 RGB；请指定 RGB 的配置文件</translation>
+    </message>
+    <message>
+        <source>%1 is a profile of a version that PDF files can&apos;t hold; name one of version 2 or 4</source>
+        <translation>%1 的版本不能放入 PDF 文件；请指定版本 2 或 4 的配置文件</translation>
     </message>
 </context>
 <context>

@@ -43,6 +43,11 @@ void DocumentViews::redraw() {
 }
 
 // The focus may have gone to another map since the view was last shown.
+void DocumentViews::setPaused(bool isPaused) {
+  layoutView_->setPaused(isPaused);
+  mapView_->setPaused(isPaused);
+}
+
 void DocumentViews::show(Kind kind) {
   if (kind == Kind::Map) mapView_->setLayout(document_.GetPageLayout());
   setCurrentIndex(static_cast<int>(kind));

@@ -32,6 +32,9 @@ public:
   /// Shows anew what a step of the history may have changed.
   void redraw();
 
+  /// While they are paused, no map is drawn.
+  void setPaused(bool isPaused);
+
   Kind kind() const { return static_cast<Kind>(currentIndex()); }
   void show(Kind kind);
 

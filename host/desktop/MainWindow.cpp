@@ -256,7 +256,7 @@ void MainWindow::connectFiles() {
     properties_->finish();
     layers_.finishTyping();
     if (entry.identifier.contains(QLatin1String("Export"))) recovery_.update();
-    if (entry.identifier == QLatin1String("Plotvane_Export")) return files_.mayExport();
+    if (OutputCommands::draws(entry.identifier)) return files_.mayExport();
     return question_.mayRun(entry.identifier);
   });
   connect(&bench_.commands(), &CommandSet::failed, this, [this](QString const& sentence) {

@@ -179,6 +179,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("answer"),     text("WIDGET:VALUE"), isAnswer,     &RunSteps::answer,  {}},
       {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
       {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
+      {text("export"),     text("FILE"),         isAnything,   &RunSteps::exportTo, {}},
       {text("save"),       text("FILE"),         isAnything,   &RunSteps::save,    {}, nullptr, unclearDocument},
       {text("info"),       {},                   nullptr,      &RunSteps::info,    {}},
   };
@@ -245,8 +246,7 @@ QString RunSteps::run(QString const& step) {
                           : kind->ofLayers ? runOnLayers(*kind->ofLayers, value)
                                            : (this->*kind->run)(value);
   QCoreApplication::processEvents();
-  bool const isLong = step.size() > maxShown;
-  QString const shown = isLong ? step.left(maxShown) + QChar(0x2026) : step;
+  QString const shown = step.size() > maxShown ? step.left(maxShown) + QChar(0x2026) : step;
   return problem.isEmpty() ? QString() : tr("run: %1: %2").arg(shown, problem);
 }
 

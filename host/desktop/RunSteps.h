@@ -2,6 +2,7 @@
 
 #include "DialogAnswers.h"
 #include "Workbench.h"
+#include "output/OutputCommands.h"
 
 #include "host/SysCarto/document/Editable.h"
 
@@ -62,6 +63,7 @@ private:
   QString identify(QString const& place);
   QString attributes(QString const& text);
   QString answer(QString const& text);
+  QString exportTo(QString const& file) { return exportPage(bench_, file); }
   QString save(QString const& file);
   QString info(QString const&);
   QString withMouse(QVector<QPointF> const& pathCm);

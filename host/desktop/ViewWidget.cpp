@@ -102,8 +102,14 @@ void ViewWidget::compose() {
 }
 
 void ViewWidget::goOn() {
-  if (!isComplete()) slices_.start(0);
+  if (!isComplete() && !isPaused_) slices_.start(0);
   update();
+}
+
+void ViewWidget::setPaused(bool isPaused) {
+  isPaused_ = isPaused;
+  slices_.stop();
+  if (!isPaused) goOn();
 }
 
 void ViewWidget::paintEvent(QPaintEvent*) {

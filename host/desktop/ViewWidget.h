@@ -45,6 +45,9 @@ public:
   /// Whose features are marked over the maps; borrowed.
   void setHighlight(FeatureHighlight const& highlight) { highlight_ = &highlight; }
 
+  /// While it is paused, maps don't grow into the picture.
+  void setPaused(bool isPaused);
+
   /// The time that a growing picture takes before events are handled again.
   static constexpr int sliceMs = 12;
 
@@ -115,6 +118,7 @@ private:
   std::vector<Text> texts_;
   QPointF offset_;
   bool isStale_ = true;
+  bool isPaused_ = false;
   QTimer slices_;
   QTimer rest_;
 };

@@ -134,12 +134,15 @@ private slots:
       bool const isOfOther = QStringList{"highlight", "outside", "followers"}.contains(keys.first());
       if (isOfOther || keys.last() == "data" || value == QJsonArray()) continue;  // tested where they belong
       QJsonValue const first = value.toArray().first();
-      QString const other = value.isBool()         ? value.toBool() ? "false" : "true"
-                            : keys.last() == "map" ? QString::number(1 - value.toInt())
-                            : value.isDouble()     ? QString::number(value.toDouble() / 2 + 1)
-                            : first.isDouble()     ? "[3]"
-                            : value.isArray()      ? "['three']"
-                                                   : "fr";
+      QString const other = value.isBool()             ? value.toBool() ? "false" : "true"
+                            : keys.last() == "map"     ? QString::number(1 - value.toInt())
+                            : keys.last() == "overlap" ? "5"
+                            : value.isDouble()         ? QString::number(value.toDouble() / 2 + 1)
+                            : first.isDouble()         ? "[3]"
+                            : value.isArray()          ? "['three']"
+                            : keys.last() == "paper"   ? "A5"
+                            : keys.last() == "size"    ? "real"
+                                                       : "fr";
       QCOMPARE(setByPath(document, thing, keys, QString(other).replace('\'', '"')), QString());
       QVERIFY2(MapDocumentHost::text(document) != before, qPrintable(keys.join('/')));
       QVERIFY(comesBack(MapDocumentHost::text(document)));

@@ -3,6 +3,7 @@
 #include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/layout/MapPicture.h"
 
+#include <QColorSpace>
 #include <QXmlStreamReader>
 
 #include <gdal_priv.h>
@@ -256,6 +257,53 @@ private slots:
     QCOMPARE(texts, QStringList({"2", "B", "Plotvane", "a, b c", "Die <Welt> & mehr", "Ö. Maker", "About it", "a",
                                  "b c", "de-CH"}));
     QVERIFY(printed("pdfinfo", {folder_.path("page.pdf")}).simplified().contains("Title: page Producer:"));
+  }
+
+  // Looked at 100 pixels to a centimetre: the page has its corner at 1.1 cm, half a centimetre of bleed about it.
+  void aPressGetsBleedAndMarks() {
+    auto const fill = [](char const* color) { return QJsonObject{{"type", "simpleFill"}, {"color", color}}; };
+    auto const rectangle = [&](QJsonArray const& sides) {
+      return QJsonObject{{"type", "rectangle"}, {"rectangle", sides}, {"symbol", fill("#0000ff")}};
+    };
+    folder_.writeVariant("press.kdx", {{"page", QJsonObject{{"form", "Custom"},
+                                                            {"width", 4},
+                                                            {"height", 3},
+                                                            {"background", QJsonObject{{"symbol", fill("#ffff00")}}}}},
+                                       {"elements", QJsonArray{rectangle({-2, 1, 1, 2}), rectangle({3, 2.5, 9, 9})}},
+                                       {"maps", QJsonArray()}});
+    for (QStringList const& more : {QStringList{"page.pdf"}, {"press.pdf", "--bleed", "5", "--crop-marks"}}) {
+      QCOMPARE(run(QStringList{"export", "press.kdx"} + more, folder_.path()).err, QString());
+      QString const name = folder_.path(more.first());
+      printed("pdftocairo", {"-r", "254", "-png", "-singlefile", name, name.chopped(4)});
+    }
+    QImage const page(folder_.path("page.png")), press(folder_.path("press.png"));
+    QString const boxes = printed("pdfinfo", {"-box", folder_.path("press.pdf")}).simplified();
+    for (QString const box : {"MediaBox: 0.00 0.00 175.75 147.40", "BleedBox: 17.01 17.01 158.74 130.39",
+                              "TrimBox: 31.18 31.18 144.57 116.22"})
+      QVERIFY2(boxes.contains(box), qPrintable(boxes));
+    Difference const inside(page, press.copy(110, 110, 400, 300));
+    QVERIFY2(inside.mean < 1, qPrintable(QString::number(inside.mean)));
+    auto const color = [&](int x, int y) { return press.pixelColor(x, y).name(); };
+    QCOMPARE(color(70, 260), QString("#0000ff"));  // over the left edge
+    QCOMPARE(color(540, 80), QString("#0000ff"));  // over the corner
+    QCOMPARE(color(70, 380), QString("#ffff00"));  // the background
+    QCOMPARE(color(30, 260), QString("#ffffff"));  // beyond the bleed
+    QVERIFY(press.pixelColor(25, 110).lightness() < 200 && press.pixelColor(510, 595).lightness() < 200);  // marks
+  }
+
+  void theProfileOfADeviceIsOneOfItsKind_data() {
+    Rows<int, QByteArray, QString> row;
+    row("another one of RGB", 0, "", "");
+    row("something else", 36, "none", "is no ICC profile");
+    row("of inks", 16, "CMYK", "is a profile of CMYK colours");
+    row("of a link between devices", 12, "link", "is not the profile of a screen or a printer");
+  }
+  void theProfileOfADeviceIsOneOfItsKind() {
+    auto const [place, bytes, problem] = fetched<int, QByteArray, QString>();
+    QByteArray const profile = QColorSpace(QColorSpace::AdobeRgb).iccProfile();
+    put(folder_.path("device.icc"), QByteArray(profile).replace(place, bytes.size(), bytes));
+    QString const err = run({"export", "page.kdx", "device.pdf", "--output-intent", "device.icc"}, folder_.path()).err;
+    QVERIFY2(problem.isEmpty() ? err.isEmpty() : err.contains(problem), qPrintable(err));
   }
 
   // A mark at a known place of a map of 1:25,000, found again by GDAL's reader in the picture that it makes.

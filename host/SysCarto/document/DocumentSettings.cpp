@@ -48,7 +48,9 @@ void InformationSettings::list(Fields& fields) {
     fields.fail("language", Texts::tr("is no tag of a language; write one as in “en” or “de-CH”"));
 }
 
-DocumentSettings DocumentSettings::of(PageLayout const& layout) { return {{PageLayoutHost::information(layout)}}; }
+DocumentSettings DocumentSettings::of(PageLayout const& layout) {
+  return {{PageLayoutHost::information(layout)}, {PageLayoutHost::output(layout)}};
+}
 
 void DocumentSettings::list(Fields& fields) {
   bool const isThere = fields.optionalObject(
@@ -56,10 +58,16 @@ void DocumentSettings::list(Fields& fields) {
        QT_TRANSLATE_NOOP("Fields", "What the document says about itself, and files made of it say, too.")},
       information.information != DocumentInformation(), [&](Fields& own) { information.list(own); });
   if (fields.isReading() && !isThere) information = {};
+  bool const hasOutput =
+      fields.optionalObject({"output", QT_TRANSLATE_NOOP("Fields", "Output"),
+                             QT_TRANSLATE_NOOP("Fields", "What was chosen for files made of the page, and for paper.")},
+                            !(output.choices == OutputChoices()), [&](Fields& own) { output.list(own); });
+  if (fields.isReading() && !hasOutput) output = {};
 }
 
 void DocumentSettings::applyTo(PageLayout& layout) const {
   PageLayoutHost::setInformation(layout, information.information);
+  PageLayoutHost::setOutput(layout, output.choices);
 }
 
 }  // namespace SysCarto

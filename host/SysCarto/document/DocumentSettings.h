@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SysCarto/document/OutputSettings.h"
 #include "host/SysCarto/layout/DocumentInformation.h"
 #include "host/SysUtility/Fields.h"
 
@@ -16,6 +17,7 @@ struct SYSCARTO_EXPORT InformationSettings {
 /// What a document stores of itself, beside its page and its maps.
 struct SYSCARTO_EXPORT DocumentSettings {
   InformationSettings information;
+  OutputSettings output;
 
   static DocumentSettings of(PageLayout const& layout);
   void list(SysUtility::Fields& fields);

@@ -95,12 +95,14 @@ MapPixels mapPixels(MapFrameElement const& frame, DisplayTransformation const& t
 void drawMapShapes(QPainter& painter, MapFrameElement const& frame, DisplayTransformation const& transformation,
                    QList<_ptr_t<Element>> const& labels, _ptr_t<TrackerCancel> const& cancel) {
   auto* const canvas = SysDisplay::VectorCanvas::of(painter);
-  auto const [framePx, mapped] = mapPixels(frame, transformation);
-  if (!canvas || framePx.isEmpty()) return;
+  if (!canvas) return;
+  QRect const framePx = pixelsOf(frame, transformation), clipPx = framePx & canvas->area().toAlignedRect();
+  if (clipPx.isEmpty()) return;
   _ptr_t<Map> const map = frame.GetMap();
+  auto const mapped = transformationOf(*map, framePx, clipPx, transformation.GetPageScale());
   canvas->save();
-  canvas->clip(QRectF(framePx));
-  canvas->transform(QTransform::fromTranslate(framePx.x(), framePx.y()));
+  canvas->clip(QRectF(clipPx));
+  canvas->transform(QTransform::fromTranslate(clipPx.x(), clipPx.y()));
   canvas->beginLayer(map->GetName());
   canvas->beginSheet(1, SysDisplay::CanvasBlend::Normal);
   for (_ptr_t<Layer> const& layer : map->GetLayers()) {
@@ -143,7 +145,7 @@ void drawOnFrame(QPainter& painter, MapFrameElement const& frame, DisplayTransfo
   painter.restore();
 }
 
-QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi) {
+QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi, _ptr_t<TrackerCancel> const& cancel) {
   auto const rectangle = frame.GetEnvelope();
   auto const pixels = [dpi](double cm) {
     return static_cast<int>(std::clamp(std::round(cm / SysDisplay::cmPerInch * dpi), 1.0, double(maxCoordinatePx)));
@@ -154,7 +156,7 @@ QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi) {
   QList<_ptr_t<Element>> labels;
   QList<_ptr_t<Element>> unplaced;
   for (auto const& layer : labelledLayers(*frame.GetMap())) {
-    layer->GetAnnotationElements(obstacles, labels, transformation, nullptr);
+    layer->GetAnnotationElements(obstacles, labels, transformation, cancel);
     if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer)) unplaced << vector->unplacedLabels();
   }
   return MapHost::showsUnplaced(*frame.GetMap()) ? labels + unplaced : labels;

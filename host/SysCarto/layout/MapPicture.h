@@ -46,6 +46,7 @@ SYSCARTO_EXPORT void drawOnFrame(QPainter& painter, MapFrameElement const& frame
 
 /// The labels of a data frame's map, as an export at that resolution places them, and where views of the map are to
 /// show them, those that found no place. No container holds them.
-SYSCARTO_EXPORT QList<SysUtility::_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi);
+SYSCARTO_EXPORT QList<SysUtility::_ptr_t<Element>> placeLabels(
+    MapFrameElement const& frame, double dpi, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel = nullptr);
 
 }  // namespace SysCarto

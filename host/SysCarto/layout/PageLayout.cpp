@@ -69,6 +69,7 @@ struct PageLayout::Private {
   Series series;
   quint64 seriesVersion = 0;
   std::shared_ptr<ShownPage const> shownPage;
+  OutputChoices output;
   SysUtility::ChangeMark change;
   ElementContainer elements;
   std::vector<std::unique_ptr<OpenedGroup>> opened;  // each in the one before
@@ -157,6 +158,11 @@ void PageLayout::SetPage(_ptr_t<Page> const& page) { d->change.set(d->page, page
 DocumentInformation const& PageLayoutHost::information(PageLayout const& layout) { return layout.d->information; }
 void PageLayoutHost::setInformation(PageLayout& layout, DocumentInformation const& information) {
   layout.d->change.set(layout.d->information, information);
+}
+
+OutputChoices const& PageLayoutHost::output(PageLayout const& layout) { return layout.d->output; }
+void PageLayoutHost::setOutput(PageLayout& layout, OutputChoices const& choices) {
+  layout.d->change.set(layout.d->output, choices);
 }
 
 quint64 PageLayoutHost::lastChange(PageLayout const& layout) {
@@ -297,6 +303,7 @@ void PageLayoutHost::succeed(PageLayout& layout, PageLayout const& former) {
   PageLayout::Private const& d = *layout.d;
   layout.d->information = former.d->information;
   if (!layout.d->series.isUsed()) setSeries(layout, former.d->series);
+  layout.d->output = former.d->output;
   if (!d.shows(d.focus)) layout.SetFocusMap(former.GetFocusMap());
   for (auto const& surround : d.surrounds())
     if (!d.shows(surround->GetMap())) surround->SetMap(layout.GetFocusMap());

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/layout/DocumentInformation.h"
+#include "host/SysCarto/layout/OutputChoices.h"
 #include "host/SysCarto/layout/Series.h"
 
 #include <SysCarto/PageLayout.h>
@@ -18,6 +19,8 @@ struct SYSCARTO_EXPORT PageLayoutHost {
 
   static DocumentInformation const& information(PageLayout const& layout);
   static void setInformation(PageLayout& layout, DocumentInformation const& information);
+  static OutputChoices const& output(PageLayout const& layout);
+  static void setOutput(PageLayout& layout, OutputChoices const& choices);
 
   static Series const& series(PageLayout const& layout);
   static void setSeries(PageLayout& layout, Series const& series);

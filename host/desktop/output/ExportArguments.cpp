@@ -8,6 +8,7 @@
 namespace {
 
 QString const number = QStringLiteral("N");
+constexpr double mmPerCm = 10;
 
 }  // namespace
 
@@ -23,6 +24,13 @@ ExportArguments::ExportArguments()
             tr("What texts are in a PDF or SVG: \"text\", or \"shapes\", the outlines of letters that need no fonts; "
                "\"text\" if not given."),
             QStringLiteral("KIND"), QStringLiteral("text")),
+      bleed_(QStringLiteral("bleed"),
+             tr("Of a PDF: draw what lies over the page's edges so many millimetres beyond them."),
+             QStringLiteral("MM")),
+      cropMarks_(QStringLiteral("crop-marks"), tr("Of a PDF: mark where the paper is to be cut.")),
+      outputIntent_(QStringLiteral("output-intent"),
+                    tr("Of a PDF: the ICC profile of the device that it is meant for, in place of sRGB."),
+                    QStringLiteral("FILE.icc")),
       width_(QStringLiteral("width"), tr("The image's width in pixels, in place of --dpi."), number),
       compress_(QStringLiteral("compress"), tr("How the pixels are packed: %1.").arg(ImageFormat::allCompressions()),
                 QStringLiteral("METHOD")),
@@ -36,7 +44,8 @@ ExportArguments::ExportArguments()
                     QStringLiteral("FRAME")) {}
 
 QList<QCommandLineOption> ExportArguments::options() const {
-  return {formatName_, dpi_, text_, width_, compress_, quality_, transparent_, crop_, georeference_};
+  return {formatName_, dpi_,      text_,    bleed_,       cropMarks_, outputIntent_,
+          width_,      compress_, quality_, transparent_, crop_,      georeference_};
 }
 
 QString ExportArguments::read(QCommandLineParser const& parser, QString const& file) {
@@ -53,6 +62,15 @@ QString ExportArguments::read(QCommandLineParser const& parser, QString const& f
   if (text != QLatin1String("text") && text != QLatin1String("shapes"))
     return tr("export: --text takes \"text\" or \"shapes\", not \"%1\".").arg(text);
   chosen_.textAsShapes = text == QLatin1String("shapes");
+  if (parser.isSet(bleed_)) {
+    bool isNumber = false;
+    chosen_.bleedCm = parser.value(bleed_).toDouble(&isNumber) / mmPerCm;
+    if (!isNumber || !(chosen_.bleedCm >= 0 && chosen_.bleedCm <= SysCarto::ExportChoices::maxBleedCm))
+      return tr("export: --bleed takes millimetres from 0 to %1, not \"%2\".")
+          .arg(QString::number(SysCarto::ExportChoices::maxBleedCm * mmPerCm), parser.value(bleed_));
+  }
+  chosen_.cropMarks = parser.isSet(cropMarks_);
+  chosen_.outputIntent = parser.value(outputIntent_);
   chosen_.compression = parser.value(compress_);
   chosen_.transparent = parser.isSet(transparent_);
   chosen_.crop = parser.isSet(crop_);
@@ -82,6 +100,9 @@ QString ExportArguments::checkForFormat(QCommandLineParser const& parser) const 
   if (format_->isVector && chosen_.dpi > ExportOptions::maxVectorDpi)
     return tr("export: a %1 takes a --dpi of at most %2; its shapes are as fine at any.")
         .arg(format.toUpper(), QString::number(ExportOptions::maxVectorDpi));
+  for (auto const* option : {&bleed_, &cropMarks_, &outputIntent_})
+    if (parser.isSet(*option) && qstrcmp(format_->driver, "PDF") != 0)
+      return tr("export: --%1 is for a PDF alone; leave it out, or write a .pdf.").arg(option->names().first());
   for (auto const* option : {&width_, &crop_, &georeference_})
     if (format_->isVector && parser.isSet(*option))
       return tr("export: --%1 is for images; a %2 has none of it.").arg(option->names().first(), format.toUpper());

@@ -27,7 +27,8 @@ private:
   QString readNumber(QCommandLineParser const& parser, QCommandLineOption const& option, int most, int& number) const;
   QString checkForFormat(QCommandLineParser const& parser) const;
 
-  QCommandLineOption formatName_, dpi_, text_, width_, compress_, quality_, transparent_, crop_, georeference_;
+  QCommandLineOption formatName_, dpi_, text_, bleed_, cropMarks_, outputIntent_, width_, compress_, quality_,
+      transparent_, crop_, georeference_;
   ImageFormat const* format_ = nullptr;
   ExportOptions chosen_;
 };

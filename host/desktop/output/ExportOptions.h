@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/layout/OutputChoices.h"
+
 #include <QString>
 
 /// What a person chooses for a page that becomes a file.
@@ -15,6 +17,12 @@ struct ExportOptions {
   // Of vector formats alone.
   bool textAsShapes = false;  ///< letters are outlines
 
+  // Of a PDF alone.
+  bool layers = true;  ///< can be hidden
+  double bleedCm = 0;  ///< how far what lies over the page's edges is drawn beyond them
+  bool cropMarks = false;
+  QString outputIntent{};  ///< the file of an ICC profile; sRGB where it is empty
+
   // Of images alone.
   int widthPx = 0;               ///< in place of a resolution; 0 for none
   QString compression;           ///< one of `ImageFormat::compression`; empty for what the format usually has
@@ -22,4 +30,6 @@ struct ExportOptions {
   bool transparent = false;      ///< without the page's background
   bool crop = false;             ///< to the elements
   QString georeference;          ///< the data frame, by its own or its map's name, whose place on the Earth it tells
+
+  static ExportOptions of(SysCarto::ExportChoices const& choices);
 };

@@ -1,35 +1,134 @@
 #include "OutputCommands.h"
 
+#include "DrawingProgress.h"
+#include "ExportDialog.h"
+#include "ImageFormat.h"
+#include "PageExport.h"
+
 #include "host/SysCarto/document/DocumentSettings.h"
 #include "host/SysCarto/document/Editable.h"
+#include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/elements/EditorHost.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/desktop/HostCommands.h"
-#include "host/desktop/SettingsDialog.h"
 #include "host/desktop/SettingsSource.h"
 #include "host/desktop/Workbench.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QStandardPaths>
+#include <QStatusBar>
+#include <QUrl>
 
 #include <memory>
 
 using SysCarto::DocumentSettings;
 using SysCarto::Editable;
+using SysCarto::PageLayoutHost;
+
+namespace {
+
+constexpr int toldMs = 8000;
+
+struct ExportCommand {
+  char const* identifier;
+  char const* format;
+};
+constexpr ExportCommand exportCommands[] = {{"Host_ExportPdf", "pdf"}, {"Host_ExportSvg", "svg"}};
+
+}  // namespace
 
 void OutputCommands::addTo(HostCommands& host) {
-  auto const hasLayout = [this] { return static_cast<bool>(bench_.views().GetPageLayout()); };
-  auto const add = [&](char const* identifier, QString (OutputCommands::*run)()) {
+  auto const hasPage = [this] {
+    auto const layout = bench_.views().GetPageLayout();
+    return layout && layout->GetPage();
+  };
+  auto const add = [&](char const* identifier, std::function<QString()> const& run) {
     auto const problem = std::make_shared<QString>();
     host.add(QLatin1String(identifier),
-             {[this, run, problem] { *problem = (this->*run)(); }, hasLayout, {}, [problem] { return *problem; }});
+             {[run, problem] { *problem = run(); }, hasPage, {}, [problem] { return *problem; }});
   };
-  add("Host_DocumentProperties", &OutputCommands::showProperties);
+  add("Host_DocumentProperties", [this] { return showProperties(); });
+  for (ExportCommand const& command : exportCommands)
+    if (ImageFormat const* const format = ImageFormat::named(QLatin1String(command.format)))
+      add(command.identifier, [this, format] { return exportAs(*format); });
+}
+
+bool OutputCommands::draws(QString const& identifier) {
+  for (ExportCommand const& command : exportCommands)
+    if (identifier == QLatin1String(command.identifier)) return true;
+  return identifier == QLatin1String("Plotvane_Export");
+}
+
+void OutputCommands::tell(QString const& sentence) { window_.statusBar()->showMessage(sentence, toldMs); }
+
+// One step of the history, and none where nothing is other than it was.
+QString OutputCommands::keep(QStringList const& path, QJsonObject const& settings) {
+  auto const& document = bench_.session().document();
+  auto const now = Editable::fields(document, {Editable::document(document)}).first();
+  auto const* const field = SysUtility::fieldAt(now, path);
+  auto const kept = field && field->isPresent ? SysUtility::wholeValue(*field).toObject() : QJsonObject();
+  if (settings.isEmpty() && kept.isEmpty()) return QString();
+  QStringList warnings;
+  return Editable::set(
+      document, {Editable::document(document)}, path,
+      [&](QJsonValue const&) { return settings.isEmpty() ? QJsonValue() : QJsonValue(settings); }, warnings);
 }
 
 QString OutputCommands::showProperties() {
-  auto const& document = bench_.session().document();
-  SettingsSource source(DocumentSettings::of(*document.GetPageLayout()).information);
+  SettingsSource source(DocumentSettings::of(*bench_.views().GetPageLayout()).information);
   if (SettingsDialog(tr("Document Properties"), source, {}, &window_).exec() != QDialog::Accepted) return QString();
-  QStringList warnings;
-  QString const problem = Editable::set(
-      document, {Editable::document(document)}, {QStringLiteral("information")},
-      [&](QJsonValue const&) { return QJsonValue(source.json()); }, warnings);
+  QString const problem = keep({QStringLiteral("information")}, source.json());
   bench_.views().redraw();  // a text of the page may hold the title
+  return problem;
+}
+
+QString OutputCommands::proposedPath(ImageFormat const& format) const {
+  QString const document = bench_.session().path();
+  QString const last = lastPaths_.value(document + QLatin1String(format.name));
+  if (!last.isEmpty()) return last;
+  QString const folder = document.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                            : QFileInfo(document).absolutePath();
+  return QStringLiteral("%1/%2.%3")
+      .arg(folder, document.isEmpty() ? bench_.session().title() : QFileInfo(document).completeBaseName(),
+           format.suffixList().first());
+}
+
+QString OutputCommands::exportAs(ImageFormat const& format) {
+  auto& session = bench_.session();
+  SettingsSource source(SysCarto::ExportSettings{PageLayoutHost::output(*bench_.views().GetPageLayout()).file});
+  ExportDialog dialog(format, proposedPath(format), source, &window_);
+  if (dialog.exec() != QDialog::Accepted) return QString();
+  QString const path = QFileInfo(dialog.path()).absoluteFilePath();
+  QString problem = keep({QStringLiteral("output"), QStringLiteral("export")}, source.json());
+  auto const& choices = source.settings().choices;
+  PageExport page(path, format, ExportOptions::of(choices));
+  if (problem.isEmpty()) problem = page.checkPlace();
+  if (!problem.isEmpty()) return problem;
+  {
+    auto const progress = SysUtility::make<DrawingProgress>(tr("Exporting the page…"), bench_.views(), window_);
+    problem = page.write(session.document(), progress);
+    if (progress->wasStopped()) return tell(tr("Cancelled; no file was written.")), QString();
+  }
+  if (!problem.isEmpty()) return problem;
+  lastPaths_[session.path() + QLatin1String(format.name)] = path;
+  tell(tr("%1 was written.").arg(QDir::toNativeSeparators(path)));
+  if (choices.isOpened && !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+    return tr("%1 was written, but no program is known that opens it.").arg(QDir::toNativeSeparators(path));
+  return QString();
+}
+
+QString exportPage(Workbench& bench, QString const& path) {
+  auto& document = bench.session().document();
+  ImageFormat const* const format = ImageFormat::withSuffix(QFileInfo(path).suffix());
+  if (!format)
+    return OutputCommands::tr("the suffix of %1 names no format; use one of %2.").arg(path, ImageFormat::allSuffixes());
+  auto const layout = document.GetPageLayout();
+  PageExport page(path, *format, ExportOptions::of(PageLayoutHost::output(*layout).file));
+  QString problem = page.checkPlace();
+  if (problem.isEmpty()) problem = page.write(document, SysUtility::make<SysUI::TrackerCancel>());
+  SysCarto::EditorHost::setHistory(SysCarto::MapDocumentHost::history(document));  // an image's drawing lets go of it
   return problem;
 }

@@ -1,24 +1,39 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QHash>
+#include <QJsonObject>
 
 class HostCommands;
-class QWidget;
+class QMainWindow;
 class Workbench;
+struct ImageFormat;
 
-/// What the window's File menu does with the document as a whole: what it says of itself.
+/// What the window's File menu does with the document as a whole: what it says of itself, and its page as a file.
 class OutputCommands {
   Q_DECLARE_TR_FUNCTIONS(OutputCommands)
 
 public:
   /// Both are borrowed; the bench need not be ready before the first command is clicked.
-  OutputCommands(Workbench& bench, QWidget& window) : bench_(bench), window_(window) {}
+  OutputCommands(Workbench& bench, QMainWindow& window) : bench_(bench), window_(window) {}
 
   void addTo(HostCommands& host);
 
+  /// Whether the command of that name draws the page for elsewhere, so that what is missing there is to be told first.
+  static bool draws(QString const& identifier);
+
 private:
   QString showProperties();
+  QString exportAs(ImageFormat const& format);
+  QString proposedPath(ImageFormat const& format) const;
+  QString keep(QStringList const& path, QJsonObject const& settings);
+  void tell(QString const& sentence);
 
   Workbench& bench_;
-  QWidget& window_;
+  QMainWindow& window_;
+  QHash<QString, QString> lastPaths_;  // of files that were written, by document and format
 };
+
+/// Makes the page of a bench's document a file in the format that its suffix names, by the document's choices. Empty,
+/// or a sentence that says why not.
+QString exportPage(Workbench& bench, QString const& path);

@@ -14,6 +14,16 @@
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
 
+ExportOptions ExportOptions::of(SysCarto::ExportChoices const& choices) {
+  ExportOptions options;
+  options.dpi = choices.dpi;
+  options.textAsShapes = choices.textAsShapes;
+  options.layers = choices.layers;
+  options.bleedCm = choices.bleedCm;
+  options.cropMarks = choices.cropMarks;
+  return options;
+}
+
 PageExport::PageExport(QString const& path, ImageFormat const& format, ExportOptions const& options)
     : path_(path), format_(format), options_(options), target_(path, format) {}
 
@@ -53,7 +63,8 @@ QString PageExport::writeShapes(SysCarto::MapDocument const& document, _ptr_t<Tr
   QString problem = target_.checkSize(size);
   if (problem.isEmpty()) problem = target_.prepare();
   if (!problem.isEmpty()) return problem;
-  VectorOptions const options{options_.dpi, options_.textAsShapes};
+  VectorOptions const options{options_.dpi,     options_.textAsShapes, options_.layers,
+                              options_.bleedCm, options_.cropMarks,    options_.outputIntent};
   SysCarto::GdalErrors const errors;
   problem = qstrcmp(format_.driver, "SVG") == 0 ? writeSvg(document, target_.workingPath(), options, cancel)
                                                 : writePdf(document, target_.workingPath(), options, cancel, next_);

@@ -40,11 +40,13 @@ QColor opaque(QColor color) {
 
 }  // namespace
 
-PdfCanvas::PdfCanvas(PdfObjects& objects, PdfFonts& fonts, QSize const& size, double dpi, bool textAsShapes)
+PdfCanvas::PdfCanvas(PdfObjects& objects, PdfFonts& fonts, QSize const& size, double dpi, bool textAsShapes,
+                     bool hasLayers)
     : VectorCanvas(size, dpi),
       objects_(objects),
       fonts_(fonts),
       textAsShapes_(textAsShapes),
+      hasLayers_(hasLayers),
       contents_({Content{{}, {State()}, false}}) {}
 
 QTransform PdfCanvas::toPoints(QSizeF const& pagePt) const {
@@ -315,11 +317,13 @@ void PdfCanvas::beginFigure(QString const& description) {
 void PdfCanvas::endPart() { out().operators += "EMC\n"; }
 
 void PdfCanvas::beginLayer(QString const& name) {
+  if (!hasLayers_) return;
   layers_.push_back(objects_.layer(name, layers_.empty() ? -1 : layers_.back()));
   out().operators += "/OC" + PdfObjects::layerName(layers_.back()) + " BDC\n";
 }
 
 void PdfCanvas::endLayer() {
+  if (!hasLayers_) return;
   layers_.pop_back();
   out().operators += "EMC\n";
 }

@@ -17,8 +17,8 @@ public:
     QString description;
   };
 
-  /// Both are borrowed. With `textAsShapes`, letters are outlines.
-  PdfCanvas(PdfObjects& objects, PdfFonts& fonts, QSize const& size, double dpi, bool textAsShapes = false);
+  /// Both are borrowed. With `textAsShapes`, letters are outlines; without layers, none can be hidden.
+  PdfCanvas(PdfObjects& objects, PdfFonts& fonts, QSize const& size, double dpi, bool textAsShapes, bool hasLayers);
 
   /// The content, for a page of that size in points, whose width the canvas fills from the top.
   QByteArray content(QSizeF const& pagePt) const;
@@ -86,7 +86,7 @@ private:
 
   PdfObjects& objects_;
   PdfFonts& fonts_;
-  bool const textAsShapes_;
+  bool const textAsShapes_, hasLayers_;
   std::vector<Content> contents_;
   std::vector<Sheet> sheets_;
   std::vector<QRectF> symbolBounds_;

@@ -2,8 +2,6 @@
 
 #include "host/desktop/output/XmpPacket.h"
 
-#include <QColorSpace>
-
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -25,12 +23,18 @@ QString keywordsIn(SysCarto::DocumentInformation const& information) {
   return information.keywords.join(QStringLiteral(", "));
 }
 
+QPDFObjectHandle boxIn(QRectF const& mediaCm, QRectF const& boxCm, QSizeF const& mediaPt) {
+  double const scale = mediaPt.width() / mediaCm.width();
+  return numbers({(boxCm.left() - mediaCm.left()) * scale, (mediaCm.bottom() - boxCm.bottom()) * scale,
+                  (boxCm.right() - mediaCm.left()) * scale, (mediaCm.bottom() - boxCm.top()) * scale});
+}
+
 QRectF boundsIn(QPolygonF const& corners, QTransform const& toPoints) { return toPoints.map(corners).boundingRect(); }
 
 }  // namespace
 
-PdfFile::PdfFile(SysCarto::FileInformation information)
-    : information_(std::move(information)), objects_((file_.emptyPDF(), file_)) {
+PdfFile::PdfFile(SysCarto::FileInformation information, OutputIntent intent)
+    : information_(std::move(information)), intent_(std::move(intent)), objects_((file_.emptyPDF(), file_)) {
   parents_ = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Nums[]>>"));
   structure_ = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Type/StructTreeRoot>>"));
   whole_ = file_.makeIndirectObject(QPDFObjectHandle::parse("<</Type/StructElem/S/Document/K[]>>"));
@@ -39,10 +43,13 @@ PdfFile::PdfFile(SysCarto::FileInformation information)
   structure_.replaceKey("/ParentTree", parents_);
 }
 
-void PdfFile::addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames) {
+void PdfFile::addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames,
+                      PageBoxes const& boxes) {
   QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
   page.replaceKey("/Type", name("/Page"));
   page.replaceKey("/MediaBox", numbers({0, 0, sizePt.width(), sizePt.height()}));
+  for (auto const& [key, box] : {std::make_pair("/BleedBox", boxes.bleed), {"/TrimBox", boxes.trim}})
+    if (!boxes.arePlain()) page.replaceKey(key, boxIn(boxes.media, box, sizePt));
   page.replaceKey("/Resources", objects_.resources());
   page.replaceKey("/Contents", objects_.packed(canvas.content(sizePt)));
   page.replaceKey("/Group", QPDFObjectHandle::parse("<</Type/Group/S/Transparency/CS/DeviceRGB>>"));
@@ -146,10 +153,10 @@ void PdfFile::describe() {
   xml.getDict().replaceKey("/Type", name("/Metadata"));
   xml.getDict().replaceKey("/Subtype", name("/XML"));
 
-  QPDFObjectHandle profile = objects_.stream(QColorSpace(QColorSpace::SRgb).iccProfile());
+  QPDFObjectHandle profile = objects_.stream(intent_.profile);
   profile.getDict().replaceKey("/N", QPDFObjectHandle::newInteger(3));
-  QPDFObjectHandle intent = QPDFObjectHandle::parse(
-      "<</Type/OutputIntent/S/GTS_PDFA1/OutputConditionIdentifier(sRGB IEC61966-2.1)/Info(sRGB IEC61966-2.1)>>");
+  QPDFObjectHandle intent = QPDFObjectHandle::parse("<</Type/OutputIntent/S/GTS_PDFA1>>");
+  for (char const* key : {"/OutputConditionIdentifier", "/Info"}) intent.replaceKey(key, pdfText(intent_.name));
   intent.replaceKey("/DestOutputProfile", profile);
 
   QPDFObjectHandle root = file_.getRoot();

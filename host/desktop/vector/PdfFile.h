@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OutputIntent.h"
+#include "PageBoxes.h"
 #include "PdfCanvas.h"
 
 #include "host/SysCarto/document/PageTexts.h"
@@ -19,13 +21,14 @@ struct GeoreferencedFrame {
 /// A PDF 1.7 that is a PDF/A-2b, too. Pages are added one by one.
 class PdfFile {
 public:
-  explicit PdfFile(SysCarto::FileInformation information);
+  PdfFile(SysCarto::FileInformation information, OutputIntent intent);
 
   PdfObjects& objects() { return objects_; }
   PdfFonts& fonts() { return fonts_; }
 
-  /// The canvas must be of this file's objects and fonts. The size is in points.
-  void addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames);
+  /// The canvas must be of this file's objects and fonts, and be the media box of `boxes`, of that size in points.
+  void addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames,
+               PageBoxes const& boxes);
 
   /// A bookmark that leads to the page that was added last.
   void addBookmark(QString const& name);
@@ -41,6 +44,7 @@ private:
   QByteArray metadata() const;
 
   SysCarto::FileInformation const information_;
+  OutputIntent const intent_;
   QPDF file_;
   PdfObjects objects_;
   PdfFonts fonts_;

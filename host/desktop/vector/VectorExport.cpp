@@ -9,19 +9,42 @@ using SysUtility::_ptr_t;
 
 namespace {
 
+PageBoxes boxesOf(SysCarto::Page const& page, VectorOptions const& options) {
+  double widthCm, heightCm;
+  page.QuerySize(widthCm, heightCm);
+  return PageBoxes::of({widthCm, heightCm}, options.bleedCm, options.cropMarks);
+}
+
+// The page with what lies about it.
+void draw(VectorPage const& page, PageBoxes const& boxes, SysDisplay::VectorCanvas& canvas,
+          _ptr_t<TrackerCancel> const& cancel) {
+  if (boxes.arePlain()) return page.draw(canvas, cancel);
+  double const pxPerCm = canvas.size().width() / boxes.media.width();
+  canvas.save();
+  canvas.clip(QRectF((boxes.bleed.topLeft() - boxes.media.topLeft()) * pxPerCm, boxes.bleed.size() * pxPerCm));
+  page.draw(canvas, cancel);
+  canvas.restore();
+  if (boxes.bleed != boxes.media) boxes.drawMarks(canvas);
+}
+
 void addPage(PdfFile& file, SysCarto::MapDocument const& document, VectorOptions const& options,
              _ptr_t<TrackerCancel> const& cancel) {
-  VectorPage const page(document.GetPageLayout(), options.dpi);
-  PdfCanvas canvas(file.objects(), file.fonts(), page.size(), options.dpi, options.textAsShapes);
-  page.draw(canvas, cancel);
-  if (!cancel || !cancel->IsCanced()) file.addPage(canvas, page.sizePt(), page.frames());
+  auto const layout = document.GetPageLayout();
+  PageBoxes const boxes = boxesOf(*layout->GetPage(), options);
+  VectorPage const page(layout, options.dpi, boxes.arePlain() ? QRectF() : boxes.media);
+  PdfCanvas canvas(file.objects(), file.fonts(), page.size(), options.dpi, options.textAsShapes, options.layers);
+  draw(page, boxes, canvas, cancel);
+  if (!cancel || !cancel->IsCanced()) file.addPage(canvas, page.sizePt(), page.frames(), boxes);
 }
 
 }  // namespace
 
 QString writePdf(SysCarto::MapDocument const& document, QString const& path, VectorOptions const& options,
                  _ptr_t<TrackerCancel> const& cancel, NextPage const& next) {
-  PdfFile file(FileInformation::of(document));
+  OutputIntent intent = OutputIntent::sRgb();
+  QString const problem = options.outputIntent.isEmpty() ? QString() : OutputIntent::read(options.outputIntent, intent);
+  if (!problem.isEmpty()) return problem;
+  PdfFile file(FileInformation::of(document), intent);
   auto const isCancelled = [&] { return cancel && cancel->IsCanced(); };
   if (!next) addPage(file, document, options, cancel);
   while (next && !isCancelled()) {

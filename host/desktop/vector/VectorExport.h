@@ -12,6 +12,12 @@
 struct VectorOptions {
   int dpi;                    ///< of the image whose pixels the page's shapes lie on, and of what has to be pixels
   bool textAsShapes = false;  ///< letters are outlines in place of text
+
+  // Of a PDF alone.
+  bool layers = true;  ///< can be hidden by who reads it
+  double bleedCm = 0;  ///< how far what lies over the page's edges is drawn beyond them
+  bool cropMarks = false;
+  QString outputIntent{};  ///< the file of an ICC profile; sRGB where it is empty
 };
 
 /// Shows the next of several pages in the document and answers its name, or nothing after the last.

@@ -35,6 +35,11 @@ int epsgOf(OGRSpatialReference const& system) {
   return authority && qstrcmp(authority, "EPSG") == 0 ? std::max(0, atoi(system.GetAuthorityCode(nullptr))) : 0;
 }
 
+_ptr_t<SysGeometry::Envelope> envelopeOf(QRectF const& areaCm, double pageHeightCm) {
+  return SysUtility::make<SysGeometry::Envelope>(areaCm.left(), pageHeightCm - areaCm.bottom(), areaCm.right(),
+                                                 pageHeightCm - areaCm.top());
+}
+
 // What a figure shows, for who can't see it.
 QString descriptionOf(Element const& element) {
   if (auto const* const frame = dynamic_cast<MapFrameElement const*>(&element)) return frame->GetMap()->GetName();
@@ -49,25 +54,31 @@ QString beginningOf(SysCarto::TextElement const& text) {
   return words.size() <= enough ? words : words.left(enough - 1) + QChar(0x2026);
 }
 
-VectorPage::VectorPage(_ptr_t<SysCarto::PageLayout> layout, int dpi) : layout_(std::move(layout)), dpi_(dpi) {
-  layout_->QueryOutputSize(dpi, size_.rwidth(), size_.rheight());
+VectorPage::VectorPage(_ptr_t<SysCarto::PageLayout> layout, int dpi, QRectF const& areaCm)
+    : layout_(std::move(layout)), dpi_(dpi), areaCm_(areaCm) {
+  auto const page = layout_->GetPage()->GetPageEnvelope();
+  if (areaCm.isEmpty()) {
+    areaCm_ = QRectF(0, 0, page->GetWidth(), page->GetHeight());
+    layout_->QueryOutputSize(dpi, size_.rwidth(), size_.rheight());
+  } else {
+    size_ = (areaCm.size() / SysDisplay::cmPerInch * dpi).toSize().expandedTo({1, 1});
+  }
   transformation_ = layout_->GetDisplayTransformation()->Clone();
   transformation_->SetPaintDevice(nullptr);
   transformation_->SetPageScale(dpi / SysDisplay::pixelsPerInch);
   transformation_->SetDeviceFrame(QRect(QPoint(0, 0), size_));
-  transformation_->SetVisibleBounds(layout_->GetPage()->GetPageEnvelope());
+  transformation_->SetVisibleBounds(envelopeOf(areaCm_, page->GetHeight()));
 }
 
-QSizeF VectorPage::sizePt() const {
-  double widthCm, heightCm;
-  layout_->GetPage()->QuerySize(widthCm, heightCm);
-  return QSizeF(widthCm, heightCm) / SysDisplay::cmPerInch * pointsPerInch;
-}
+QSizeF VectorPage::sizePt() const { return areaCm_.size() / SysDisplay::cmPerInch * pointsPerInch; }
 
 void VectorPage::draw(SysDisplay::VectorCanvas& canvas, _ptr_t<SysUI::TrackerCancel> const& cancel) const {
   SysDisplay::VectorDevice device(canvas);
   QPainter painter(&device);
-  layout_->GetPage()->DrawBackground(painter, transformation_);
+  auto const page = layout_->GetPage()->GetPageEnvelope();
+  QRectF const ground = areaCm_ | QRectF(0, 0, page->GetWidth(), page->GetHeight());
+  if (auto const background = layout_->GetPage()->GetBackground())
+    background->Draw(painter, transformation_, envelopeOf(ground, page->GetHeight()));
   layout_->GetPage()->DrawBorder(painter, transformation_);
   for (_ptr_t<Element> const& element : layout_->GetGraphicsContainer()->GetElements()) {
     if (cancel && cancel->IsCanced()) return;
@@ -87,7 +98,7 @@ void VectorPage::drawElement(QPainter& painter, _ptr_t<Element> const& element,
   if (!frame) return element->Draw(painter, transformation_, cancel);
   frame->DrawShadow(painter, transformation_);
   frame->DrawBackground(painter, transformation_);
-  SysCarto::drawMapShapes(painter, *frame, *transformation_, SysCarto::placeLabels(*frame, dpi_), cancel);
+  SysCarto::drawMapShapes(painter, *frame, *transformation_, SysCarto::placeLabels(*frame, dpi_, cancel), cancel);
   frame->DrawBorder(painter, transformation_);
   for (int i = 0; i < frame->GetMapGridCount(); ++i)
     frame->GetMapGrid(i)->Draw(painter, cancel, transformation_, frame);
