@@ -1441,6 +1441,58 @@
         <source>Write the page as an SVG of shapes and texts</source>
         <translation>Die Seite als SVG aus Formen und Texten schreiben</translation>
     </message>
+    <message>
+        <source>a series of pages</source>
+        <translation>eine Serie von Seiten</translation>
+    </message>
+    <message>
+        <source>Series of Pages…</source>
+        <translation>Serie von Seiten…</translation>
+    </message>
+    <message>
+        <source>Make a page for each feature of a layer</source>
+        <translation>Für jedes Objekt eines Layers eine Seite anlegen</translation>
+    </message>
+    <message>
+        <source>First Page</source>
+        <translation>Erste Seite</translation>
+    </message>
+    <message>
+        <source>Show the first page of the series</source>
+        <translation>Die erste Seite der Serie zeigen</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Show the page before in the series</source>
+        <translation>Die Seite davor in der Serie zeigen</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Show the next page of the series</source>
+        <translation>Die nächste Seite der Serie zeigen</translation>
+    </message>
+    <message>
+        <source>Last Page</source>
+        <translation>Letzte Seite</translation>
+    </message>
+    <message>
+        <source>Show the last page of the series</source>
+        <translation>Die letzte Seite der Serie zeigen</translation>
+    </message>
+    <message>
+        <source>No Page of the Series</source>
+        <translation>Keine Seite der Serie</translation>
+    </message>
+    <message>
+        <source>Show the document as it is stored</source>
+        <translation>Das Dokument zeigen, wie es gespeichert ist</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -7291,6 +7343,37 @@
     </message>
 </context>
 <context>
+    <name>PageChooser</name>
+    <message>
+        <source>First page</source>
+        <translation>Erste Seite</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>Letzte Seite</translation>
+    </message>
+    <message>
+        <source>The page that is shown; type a number, or a part of a name</source>
+        <translation>Die gezeigte Seite; tippen Sie eine Nummer oder einen Teil eines Namens</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>von %1</translation>
+    </message>
+</context>
+<context>
     <name>PageClipboard</name>
     <message>
         <source>Cut the selected elements</source>
@@ -7439,6 +7522,13 @@
     <message>
         <source>Writing</source>
         <translation>Schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>PageList</name>
+    <message>
+        <source>The document as it is stored</source>
+        <translation>Das Dokument, wie es gespeichert ist</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7975,25 @@ Die Kopie bleibt in %2.</translation>
     <message>
         <source>Delete the vertex</source>
         <translation>Stützpunkt löschen</translation>
+    </message>
+</context>
+<context>
+    <name>SeriesDialog</name>
+    <message>
+        <source>Series of Pages</source>
+        <translation>Serie von Seiten</translation>
+    </message>
+    <message>
+        <source>A page for each feature</source>
+        <translation>Eine Seite für jedes Objekt</translation>
+    </message>
+    <message>
+        <source>%1 pages:</source>
+        <translation>%1 Seiten:</translation>
+    </message>
+    <message>
+        <source>Name a layer, and each of its features has a page.</source>
+        <translation>Nennen Sie einen Layer, und jedes seiner Objekte hat eine Seite.</translation>
     </message>
 </context>
 <context>

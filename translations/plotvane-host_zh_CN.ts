@@ -1441,6 +1441,58 @@
         <source>Write the page as an SVG of shapes and texts</source>
         <translation>将页面写成由图形和文本组成的 SVG</translation>
     </message>
+    <message>
+        <source>a series of pages</source>
+        <translation>页面系列</translation>
+    </message>
+    <message>
+        <source>Series of Pages…</source>
+        <translation>页面系列…</translation>
+    </message>
+    <message>
+        <source>Make a page for each feature of a layer</source>
+        <translation>为图层的每个要素制作一页</translation>
+    </message>
+    <message>
+        <source>First Page</source>
+        <translation>首页</translation>
+    </message>
+    <message>
+        <source>Show the first page of the series</source>
+        <translation>显示系列的第一页</translation>
+    </message>
+    <message>
+        <source>Previous Page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Show the page before in the series</source>
+        <translation>显示系列中的前一页</translation>
+    </message>
+    <message>
+        <source>Next Page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Show the next page of the series</source>
+        <translation>显示系列的下一页</translation>
+    </message>
+    <message>
+        <source>Last Page</source>
+        <translation>末页</translation>
+    </message>
+    <message>
+        <source>Show the last page of the series</source>
+        <translation>显示系列的最后一页</translation>
+    </message>
+    <message>
+        <source>No Page of the Series</source>
+        <translation>不显示系列页面</translation>
+    </message>
+    <message>
+        <source>Show the document as it is stored</source>
+        <translation>按存储的样子显示文档</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -7291,6 +7343,37 @@
     </message>
 </context>
 <context>
+    <name>PageChooser</name>
+    <message>
+        <source>First page</source>
+        <translation>首页</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message>
+        <source>Last page</source>
+        <translation>末页</translation>
+    </message>
+    <message>
+        <source>The page that is shown; type a number, or a part of a name</source>
+        <translation>显示的页面；输入页码或名称的一部分</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>共 %1</translation>
+    </message>
+</context>
+<context>
     <name>PageClipboard</name>
     <message>
         <source>Cut the selected elements</source>
@@ -7439,6 +7522,13 @@
     <message>
         <source>Writing</source>
         <translation>正在写出</translation>
+    </message>
+</context>
+<context>
+    <name>PageList</name>
+    <message>
+        <source>The document as it is stored</source>
+        <translation>按存储的文档</translation>
     </message>
 </context>
 <context>
@@ -7885,6 +7975,25 @@ The copy is kept in %2.</source>
     <message>
         <source>Delete the vertex</source>
         <translation>删除顶点</translation>
+    </message>
+</context>
+<context>
+    <name>SeriesDialog</name>
+    <message>
+        <source>Series of Pages</source>
+        <translation>页面系列</translation>
+    </message>
+    <message>
+        <source>A page for each feature</source>
+        <translation>每个要素一页</translation>
+    </message>
+    <message>
+        <source>%1 pages:</source>
+        <translation>%1 页：</translation>
+    </message>
+    <message>
+        <source>Name a layer, and each of its features has a page.</source>
+        <translation>指定一个图层，其每个要素就有一页。</translation>
     </message>
 </context>
 <context>

@@ -61,6 +61,7 @@ public:
   static constexpr char const* rows = QT_TR_NOOP("a row of the contents chosen");
   static constexpr char const* layers = QT_TR_NOOP("a layer or a group chosen in the contents");
   static constexpr bool inContents = true;
+  static constexpr char const* series = QT_TR_NOOP("a series of pages");
   static constexpr char const* three = QT_TR_NOOP("three selected elements");
 
   // clang-format off
@@ -168,6 +169,8 @@ public:
        QT_TR_NOOP("Export as SVG…"), QT_TR_NOOP("Write the page as an SVG of shapes and texts"), pageLayout},
       {"Host_DocumentProperties", "document-properties", inFile, 4, onNone, "",
        QT_TR_NOOP("Document Properties…"), QT_TR_NOOP("Set what the document says about itself: title, author, keywords"), document},
+      {"Host_Series", "series", inFile, 4, onNone, "",
+       QT_TR_NOOP("Series of Pages…"), QT_TR_NOOP("Make a page for each feature of a layer"), document},
       {"Host_Undo", "undo", inEdit, 1, onEdit, "Ctrl+Z",
        QT_TR_NOOP("Undo"), QT_TR_NOOP("Take the last change back"), QT_TR_NOOP("a change to take back")},
       {"Host_Redo", "redo", inEdit, 1, onEdit, "Ctrl+Shift+Z",
@@ -232,6 +235,16 @@ public:
        QT_TR_NOOP("Page Layout"), QT_TR_NOOP("Show the page"), document},
       {"Host_MapView", "map-view", inView, 3, onNone, "F6",
        QT_TR_NOOP("Map"), QT_TR_NOOP("Show the map of the data frame alone"), document},
+      {"Host_FirstPage", "first-page", inView, 4, onNone, "Alt+Home",
+       QT_TR_NOOP("First Page"), QT_TR_NOOP("Show the first page of the series"), series},
+      {"Host_PreviousPage", "previous-page", inView, 4, onNone, "Alt+PgUp",
+       QT_TR_NOOP("Previous Page"), QT_TR_NOOP("Show the page before in the series"), series},
+      {"Host_NextPage", "next-page", inView, 4, onNone, "Alt+PgDown",
+       QT_TR_NOOP("Next Page"), QT_TR_NOOP("Show the next page of the series"), series},
+      {"Host_LastPage", "last-page", inView, 4, onNone, "Alt+End",
+       QT_TR_NOOP("Last Page"), QT_TR_NOOP("Show the last page of the series"), series},
+      {"Host_NoPage", "no-page", inView, 4, onNone, "Alt+0",
+       QT_TR_NOOP("No Page of the Series"), QT_TR_NOOP("Show the document as it is stored"), series},
       {"Host_Rulers", "rulers", inView, 5, onNone, "Ctrl+R",
        QT_TR_NOOP("Rulers"), QT_TR_NOOP("Show or hide the rulers, out of which guides are pulled"), nothing},
       {"Host_Guides", "guides", inView, 5, onNone, "Ctrl+;",

@@ -9,6 +9,7 @@
 #include "layers/LayerClasses.h"
 #include "layers/LayerPanels.h"
 #include "recovery/RecoveryDialog.h"
+#include "series/PageChooser.h"
 
 #include "host/SysAdapterUI/ContentsTree.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
@@ -220,6 +221,7 @@ void MainWindow::buildViews() {
   grid->addWidget(rulers_[1], 1, 0);
   grid->addWidget(&bench_.views(), 1, 1);
   box->addLayout(grid, 1);
+  box->addWidget(new PageChooser(bench_.series(), *notice_, centre));
   box->addWidget(tabs_);
   setCentralWidget(centre);
   connect(tabs_, &QTabBar::currentChanged, this,

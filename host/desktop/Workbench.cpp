@@ -1,5 +1,7 @@
 #include "Workbench.h"
 
+#include "series/SeriesCommands.h"
+
 #include "host/SysFramework/Translations.h"
 
 using SysUtility::_ptr_t;
@@ -18,10 +20,11 @@ Workbench::Workbench(std::function<void(HostCommands&)> const& addCommands)
   plugin_.load();
   SysFramework::installLaterTranslations();
   HostCommands host(session_, *views_);
+  series_ = std::make_unique<SeriesView>(session_, *views_);
+  addPageCommands(host, *series_);
   if (addCommands) addCommands(host);
   commands_ = std::make_unique<CommandSet>(host, plugin_, desktop_->hook(), *views_);
   QObject::connect(&session_, &DocumentSession::replaced, views_.get(), &DocumentViews::follow);
-  series_ = std::make_unique<SeriesView>(session_, *views_);
   QObject::connect(&session_, &DocumentSession::historyChanged, views_.get(), &DocumentViews::redraw);
 }
 

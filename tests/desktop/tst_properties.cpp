@@ -1,6 +1,7 @@
 #include "Dialogs.h"
 #include "Files.h"
 #include "Pictures.h"
+#include "desktop/FieldsByPath.h"
 #include "desktop/WorkbenchPage.h"
 
 #include "host/SysAdapterUI/PropertyEditors.h"
@@ -393,50 +394,6 @@ private:
         model.refresh();
         if (info.kind == Kind::Object && value.isObject()) make(model, own, value.toObject());
       }
-  }
-
-  // As the command line names them.
-  static QString addressOf(WorkbenchPage& page, int thing) {
-    auto const elements = page.container().GetElements();
-    if (thing == 0) return "page";
-    if (thing <= elements.size()) return QString("#%1").arg(elements[thing - 1]->GetHandle());
-    int row = thing - 1 - elements.size();
-    QList<_ptr_t<SysCarto::Map>> maps;
-    page.bench.session().document().GetMaps(maps);
-    for (int map = 0; map < maps.size(); ++map) {
-      if (row-- == 0) return QString("map:#%1").arg(map);
-      if (row < maps[map]->GetLayerCount()) return QString("layer:#%1/#%2").arg(map).arg(row);
-      row -= maps[map]->GetLayerCount();
-      auto const groups = groupsOf(*maps[map]);
-      if (row < groups.size()) return QString("layer:#%1/%2").arg(map).arg(groups[row]->name());
-      row -= groups.size();
-    }
-    return QString();
-  }
-
-  static QJsonValue valueAt(SysCarto::MapDocument const& document, QString const& address, QStringList const& keys) {
-    auto const sheet = Editable::fields(document, Editable::named(document, address)).value(0);
-    auto const* const field = SysUtility::fieldAt(sheet, keys);
-    return field ? SysUtility::wholeValue(*field) : QJsonValue(QJsonValue::Undefined);
-  }
-
-  static QList<QStringList> leaves(QVector<SysUtility::SheetField> const& fields) {
-    QList<QStringList> paths;
-    for (auto const& field : fields) {
-      if (field.info.kind != Kind::Object) paths << QStringList(field.key());
-      for (QStringList const& inner : leaves(field.fields)) paths << QStringList(field.key()) + inner;
-    }
-    return paths;
-  }
-
-  static QString setByPath(SysCarto::MapDocument const& document, QString const& address, QStringList const& keys,
-                           QString const& typed) {
-    auto const things = Editable::named(document, address);
-    auto const sheet = Editable::fields(document, things).value(0);
-    QJsonValue const value = SysUtility::valueOf(typed, SysUtility::fieldAt(sheet, keys));
-    QStringList warnings;
-    return Editable::set(
-        document, things, keys, [&](QJsonValue const&) { return value; }, warnings);
   }
 
   QString path(QString const& name) const { return folder_.filePath(name); }

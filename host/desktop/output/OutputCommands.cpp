@@ -13,6 +13,7 @@
 #include "host/desktop/HostCommands.h"
 #include "host/desktop/SettingsSource.h"
 #include "host/desktop/Workbench.h"
+#include "host/desktop/series/SeriesCommands.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -50,6 +51,7 @@ void OutputCommands::addTo(HostCommands& host) {
     host.add(QLatin1String(identifier),
              {[run, problem] { *problem = run(); }, hasPage, {}, [problem] { return *problem; }});
   };
+  addSeriesDialog(host, bench_, window_);
   add("Host_DocumentProperties", [this] { return showProperties(); });
   for (ExportCommand const& command : exportCommands)
     if (ImageFormat const* const format = ImageFormat::named(QLatin1String(command.format)))

@@ -140,7 +140,6 @@ QString SeriesExport::check() {
 }
 
 QString SeriesExport::writeFiles() {
-  QList<int> failed;
   int done = 0;
   for (int const page : chosen_) {
     if (cancel_->IsCanced()) return interrupted();
@@ -150,11 +149,11 @@ QString SeriesExport::writeFiles() {
     if (problem.isEmpty()) continue;
     if (cancel_->IsCanced()) return problem;
     Console::complain(problem);
-    failed << page;
+    failed_ << page;
   }
   if (passed_ > 0 && !request_.isQuiet)
     Console::complain(tr("%1 pages were whole already and were passed over.").arg(passed_));
-  return summary(failed);
+  return summary();
 }
 
 QString SeriesExport::writePage(int page, QString const& path) {
@@ -179,25 +178,26 @@ QString SeriesExport::writeBook() {
   PageExport file(request_.path, request_.format, request_.options);
   QString problem = file.checkPlace();
   if (!problem.isEmpty()) return problem;
-  QList<int> failed;
-  size_t next = 0;
-  file.setPages([&]() -> std::optional<QString> {
-    while (next < chosen_.size()) {
-      int const page = chosen_[next++];
-      showProgress(static_cast<int>(next) - 1, pages_->name(page));
-      QString const unplaced = pages_->show(page);
-      if (unplaced.isEmpty()) return pages_->name(page);
-      showProgress(-1, {});
-      Console::complain(unplaced);
-      failed << page;
-    }
-    return std::nullopt;
-  });
+  file.setPages([this] { return nextOfBook(); });
   problem = file.write(document_, cancel_);
   showProgress(-1, {});
   if (!problem.isEmpty()) return problem;
   tell(request_.path);
-  return summary(failed);
+  return summary();
+}
+
+// A page that can't be shown is told, and left out.
+std::optional<QString> SeriesExport::nextOfBook() {
+  while (next_ < chosen_.size()) {
+    int const page = chosen_[next_++];
+    showProgress(static_cast<int>(next_) - 1, pages_->name(page));
+    QString const unplaced = pages_->show(page);
+    if (unplaced.isEmpty()) return pages_->name(page);
+    showProgress(-1, {});
+    Console::complain(unplaced);
+    failed_ << page;
+  }
+  return std::nullopt;
 }
 
 QString SeriesExport::writeInJobs() {
@@ -239,11 +239,11 @@ void SeriesExport::showProgress(int done, QString const& name) const {
 
 QString SeriesExport::interrupted() const { return tr("Not all pages were written: interrupted."); }
 
-QString SeriesExport::summary(QList<int> const& failed) const {
-  if (failed.isEmpty()) return QString();
+QString SeriesExport::summary() const {
+  if (failed_.isEmpty()) return QString();
   QStringList numbers;
-  for (int const page : failed.mid(0, maxNamed)) numbers << QString::number(page);
-  if (failed.size() > maxNamed) numbers << QStringLiteral("…");
+  for (int const page : failed_.mid(0, maxNamed)) numbers << QString::number(page);
+  if (failed_.size() > maxNamed) numbers << QStringLiteral("…");
   return tr("%1 of %2 pages were not written: %3.")
-      .arg(QString::number(failed.size()), QString::number(chosen_.size()), numbers.join(QStringLiteral(", ")));
+      .arg(QString::number(failed_.size()), QString::number(chosen_.size()), numbers.join(QStringLiteral(", ")));
 }

@@ -65,7 +65,8 @@ private:
   QString writeBook();
   QString writeInJobs();
   QString writePage(int page, QString const& path);
-  QString summary(QList<int> const& failed) const;
+  QString summary() const;
+  std::optional<QString> nextOfBook();
   QString interrupted() const;
   bool isDone(PageExport const& page, QString const& path) const;
   void tell(QString const& path);
@@ -78,4 +79,6 @@ private:
   std::vector<int> chosen_;
   QStringList paths_;
   int passed_ = 0;  // that were there
+  QList<int> failed_;
+  size_t next_ = 0;  // of a book, among the chosen ones
 };

@@ -40,7 +40,7 @@ void SeriesView::follow() {
   pages_.reset();
   isRead_ = false;
   if (isSameDocument && pages()) show(std::min(shown, pages_->count()));
-  emit changed();
+  emit replaced();
 }
 
 SeriesPages const* SeriesView::pages() {
@@ -58,7 +58,7 @@ QString SeriesView::show(int page) {
   else
     problem = pages_->show(page);
   views_.redraw();
-  emit changed();
+  emit shownChanged();
   return problem;
 }
 

@@ -28,8 +28,11 @@ public:
   QString show(QString const& page);
 
 signals:
-  /// There are other pages, or another one is shown.
-  void changed();
+  /// There are other pages, or none any more.
+  void replaced();
+
+  /// Another page is shown.
+  void shownChanged();
 
 private:
   void follow();

@@ -63,6 +63,7 @@ void PdfFile::addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector
   QPDFPageDocumentHelper(file_).addPage(QPDFPageObjectHelper(page), false);
   addParts(canvas, page, pages_++);
   lastPage_ = page;
+  objects_.endPage();
 }
 
 void PdfFile::addBookmark(QString const& name) {

@@ -220,6 +220,9 @@ QByteArray PdfObjects::state(double opacity, CanvasBlend blend) {
 }
 
 int PdfObjects::layer(QString const& name, int parent) {
+  int const before = onPage_[{parent, name}]++;
+  auto const known = sameLayers_.emplace(std::make_tuple(parent, name, before), static_cast<int>(layers_.size()));
+  if (!known.second) return known.first->second;
   QPDFObjectHandle group = QPDFObjectHandle::newDictionary();
   group.replaceKey("/Type", QPDFObjectHandle::newName("/OCG"));
   group.replaceKey("/Name", pdfText(name));

@@ -10,6 +10,7 @@
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <map>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -50,9 +51,13 @@ public:
   /// How strongly and in what way things are put on what is there.
   QByteArray state(double opacity, SysDisplay::CanvasBlend blend);
 
-  /// A group of contents that can be hidden, below the group `parent`; -1 for none.
+  /// A group of contents that can be hidden, below the group `parent`; -1 for none. Those that are called alike on
+  /// several pages are one, and those on one page are not.
   int layer(QString const& name, int parent);
   static QByteArray layerName(int layer);
+
+  /// What comes is on another page.
+  void endPage() { onPage_.clear(); }
 
   /// What the catalogue says of the groups; null where there are none.
   QPDFObjectHandle layerProperties();
@@ -84,6 +89,8 @@ private:
   QHash<qint64, QByteArray> pictures_;                // by the image's key
   std::map<std::pair<int, int>, QByteArray> states_;  // by opacity and blend
   std::vector<Layer> layers_;
+  std::map<std::pair<int, QString>, int> onPage_;            // how many by parent and name
+  std::map<std::tuple<int, QString, int>, int> sameLayers_;  // with how many of the page were before
   std::vector<int> outermost_;
   int count_ = 0;
 };
