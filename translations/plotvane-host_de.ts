@@ -2122,6 +2122,10 @@
         <source>Map: %1, no layers</source>
         <translation>Karte: %1, ohne Layer</translation>
     </message>
+    <message>
+        <source>Series: %1 pages</source>
+        <translation>Serie: %1 Seiten</translation>
+    </message>
 </context>
 <context>
     <name>DocumentSession</name>

@@ -2122,6 +2122,10 @@
         <source>Map: %1, no layers</source>
         <translation>地图：%1，无图层</translation>
     </message>
+    <message>
+        <source>Series: %1 pages</source>
+        <translation>系列：%1 页</translation>
+    </message>
 </context>
 <context>
     <name>DocumentSession</name>

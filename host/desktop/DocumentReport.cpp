@@ -1,5 +1,7 @@
 #include "DocumentReport.h"
 
+#include "series/SeriesPages.h"
+
 #include "host/SysCarto/document/DocumentSettings.h"
 #include "host/SysCarto/document/ElementFields.h"
 #include "host/SysCarto/elements/ElementHost.h"
@@ -108,6 +110,17 @@ QJsonArray elementsJson(IElementContainer const* container) {
   return list;
 }
 
+QJsonValue seriesJson(SysCarto::MapDocument const& document) {
+  if (!SeriesPages::areIn(document)) return QJsonValue::Null;
+  QString problem;
+  QStringList warnings;
+  auto const pages = SeriesPages::read(document, problem, warnings);
+  QJsonObject series{{QStringLiteral("pages"), pages ? pages->count() : 0}};
+  if (!problem.isEmpty()) warnings.prepend(problem);
+  if (!warnings.isEmpty()) series[QStringLiteral("problems")] = QJsonArray::fromStringList(warnings);
+  return series;
+}
+
 // Of a layer that was labelled just now.
 QJsonValue labelsJson(Layer const& layer) {
   auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(&layer);
@@ -177,6 +190,7 @@ public:
   static QString page(QJsonObject const& page);
   static QString elements(QJsonArray const& elements);
   static QString map(QJsonObject const& map);
+  static QString series(QJsonObject const& series);
 
 private:
   static QString formatted(QJsonValue const& rectangle, int decimals);
@@ -215,6 +229,13 @@ QString ReportText::elements(QJsonArray const& elements) {
   return tr("Elements: %1").arg(elements.size()) + QLatin1Char('\n') + table(rows);
 }
 
+QString ReportText::series(QJsonObject const& series) {
+  QString text = tr("Series: %1 pages").arg(series[QStringLiteral("pages")].toInt()) + QLatin1Char('\n');
+  for (QJsonValue const& problem : series[QStringLiteral("problems")].toArray())
+    text += QStringLiteral("  ") + problem.toString() + QLatin1Char('\n');
+  return text;
+}
+
 QString ReportText::map(QJsonObject const& map) {
   QVector<QStringList> rows;
   for (QJsonValue const& value : map[QStringLiteral("layers")].toArray()) {
@@ -251,6 +272,7 @@ QJsonObject documentJson(SysCarto::MapDocument const& document, bool countsLabel
       {QStringLiteral("page"), layout ? pageJson(layout->GetPage()) : QJsonValue(QJsonValue::Null)},
       {QStringLiteral("elements"), elementsJson(layout ? layout->GetGraphicsContainer() : nullptr)},
       {QStringLiteral("maps"), mapList},
+      {QStringLiteral("series"), seriesJson(document)},
       {QStringLiteral("view"),
        QJsonObject{{QStringLiteral("extent"), layout ? rectangle(layout->GetExtent()) : QJsonValue(QJsonValue::Null)}}},
   };
@@ -261,6 +283,8 @@ QString documentText(QJsonObject const& report) {
   QString text = (title.isEmpty() ? title : title + QLatin1Char('\n')) +
                  ReportText::page(report[QStringLiteral("page")].toObject()) +
                  ReportText::elements(report[QStringLiteral("elements")].toArray());
+  QJsonValue const series = report[QStringLiteral("series")];
+  if (series.isObject()) text += ReportText::series(series.toObject());
   for (QJsonValue const& map : report[QStringLiteral("maps")].toArray()) text += ReportText::map(map.toObject());
   return text.trimmed();
 }

@@ -114,6 +114,29 @@ private slots:
     QCOMPARE(series.pages()->count(), 10);
   }
 
+  // Those that the edge of the world cuts in two are not shown from one to the other.
+  void everyCountryOfTheSampleHasAPage() {
+    QTemporaryDir folder;
+    QString const atlas = sampleIn(folder.path(), "atlas.kdx");
+    WorkbenchPage page;
+    QVERIFY(page.bench.session().open(atlas));
+    auto& document = page.bench.session().document();
+    QCOMPARE(document.GetWarnings(), QStringList());
+    QCOMPARE(MapDocumentHost::text(document), contentOf(atlas));
+    auto const map = document.GetMap(0);
+    auto& series = page.bench.series();
+    QCOMPARE(series.pages()->count(), 240);
+    constexpr double round = 2 * M_PI * 6378137;
+    for (int number = 1; number <= series.pages()->count(); ++number) {
+      QCOMPARE(series.show(number), QString());
+      QRectF const area = shown(*map);
+      QString const name = series.pages()->name(number);
+      bool const isWide = QStringList{"Russia", "Canada", "United States of America", "Greenland"}.contains(name);
+      QVERIFY2(area.width() < round * (isWide ? 0.9 : 0.4), qPrintable(name));
+      QVERIFY2(std::abs(area.center().x()) < round / 2, qPrintable(name));
+    }
+  }
+
   void rangesAreReadAsTheyAreWritten_data() {
     Rows<QString, QString> row;
     row("numbers and ranges", "1-3, 7", "1 2 3 7");

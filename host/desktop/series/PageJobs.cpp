@@ -1,5 +1,7 @@
 #include "PageJobs.h"
 
+#include "host/desktop/Language.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QProcess>
@@ -25,6 +27,10 @@ bool PageJobs::run(QList<QStringList> const& arguments) {
   QEventLoop loop;
   int running = 0;
   bool areWhole = true;
+  // The language was taken out of the arguments of the subcommand.
+  QStringList given = QCoreApplication::arguments();
+  auto const language = takeLanguage(given);
+  QStringList const before = language ? QStringList{QStringLiteral("--language"), *language} : QStringList();
   auto const ended = [&](bool isWhole) {
     areWhole = areWhole && isWhole;
     if (--running == 0) loop.quit();
@@ -54,7 +60,7 @@ bool PageJobs::run(QList<QStringList> const& arguments) {
       if (error == QProcess::FailedToStart) ended(false);
     });
     ++running;
-    process.start(QCoreApplication::applicationFilePath(), own, QIODevice::ReadOnly);
+    process.start(QCoreApplication::applicationFilePath(), before + own, QIODevice::ReadOnly);
   }
   QTimer looks;
   QObject::connect(&looks, &QTimer::timeout, [&] {
