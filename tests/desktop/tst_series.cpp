@@ -248,6 +248,12 @@ private slots:
     QStringList const pages = QString::fromUtf8(poppler.readAllStandardOutput()).split('\f', Qt::SkipEmptyParts);
     QCOMPARE(pages.size(), 3);
     QVERIFY2(pages[1].contains("2/10 b3"), qPrintable(pages[1]));
+    QCOMPARE(run({"run", path("book.kdx"), "export=all.pdf", "page=2", "export=one.pdf"}, folder.path()).status, 0);
+    for (auto const& [name, count] : {std::make_pair("all.pdf", 9), std::make_pair("one.pdf", 1)}) {
+      poppler.start("pdfinfo", {folder.path() + '/' + name});
+      QVERIFY(poppler.waitForFinished());
+      QVERIFY(poppler.readAllStandardOutput().simplified().contains("Pages: " + QByteArray::number(count) + ' '));
+    }
     poppler.start("pdftohtml", {"-xml", "-i", "-stdout", folder.path() + "/book.pdf"});
     QVERIFY(poppler.waitForFinished());
     QVERIFY(poppler.readAllStandardOutput().contains("<item page=\"2\">b3</item>"));

@@ -37,6 +37,16 @@ struct ExportCommand {
   char const* identifier;
   char const* format;
 };
+// A PDF has all pages of a series, unless one of them is shown.
+QString writeWithPages(Workbench& bench, PageExport& file, ImageFormat const& format,
+                       SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) {
+  NextPage const pages = PageExport::canHavePages(format) ? bench.series().allPages() : nullptr;
+  file.setPages(pages);
+  QString const problem = file.write(bench.session().document(), cancel);
+  if (pages) bench.series().show(0);
+  return problem;
+}
+
 constexpr ExportCommand exportCommands[] = {{"Host_ExportPdf", "pdf"}, {"Host_ExportSvg", "svg"}};
 
 }  // namespace
@@ -111,7 +121,7 @@ QString OutputCommands::exportAs(ImageFormat const& format) {
   if (!problem.isEmpty()) return problem;
   {
     auto const progress = SysUtility::make<DrawingProgress>(tr("Exporting the page…"), bench_.views(), window_);
-    problem = page.write(session.document(), progress);
+    problem = writeWithPages(bench_, page, format, progress);
     if (progress->wasStopped()) return tell(tr("Cancelled; no file was written.")), QString();
   }
   if (!problem.isEmpty()) return problem;
@@ -130,7 +140,7 @@ QString exportPage(Workbench& bench, QString const& path) {
   auto const layout = document.GetPageLayout();
   PageExport page(path, *format, ExportOptions::of(PageLayoutHost::output(*layout).file));
   QString problem = page.checkPlace();
-  if (problem.isEmpty()) problem = page.write(document, SysUtility::make<SysUI::TrackerCancel>());
+  if (problem.isEmpty()) problem = writeWithPages(bench, page, *format, SysUtility::make<SysUI::TrackerCancel>());
   SysCarto::EditorHost::setHistory(SysCarto::MapDocumentHost::history(document));  // an image's drawing lets go of it
   return problem;
 }

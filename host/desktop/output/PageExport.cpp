@@ -36,6 +36,8 @@ QString PageExport::checkPlace() const {
   return target_.checkPlace();
 }
 
+bool PageExport::canHavePages(ImageFormat const& format) { return qstrcmp(format.driver, "PDF") == 0; }
+
 bool PageExport::isWhole(SysCarto::MapDocument& document) const {
   if (!format_.isVector) {
     PageImage image(document, target_, format_, options_);

@@ -31,7 +31,10 @@ public:
   /// Whether a whole file of the page's size is in its place.
   bool isWhole(SysCarto::MapDocument& document) const;
 
-  /// Makes it a file of several pages, of a format that can have them: a PDF.
+  /// Whether a file of that format can have several pages: a PDF.
+  static bool canHavePages(ImageFormat const& format);
+
+  /// Makes it a file of these.
   void setPages(NextPage next) { next_ = std::move(next); }
 
   /// Draws and moves the file into its place. What was there before stays where this fails or is cancelled, which is

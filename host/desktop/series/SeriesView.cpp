@@ -62,6 +62,15 @@ QString SeriesView::show(int page) {
   return problem;
 }
 
+NextPage SeriesView::allPages() {
+  if (!pages() || pages_->shown() > 0) return nullptr;
+  return [this, last = 0]() mutable -> std::optional<QString> {
+    while (last < pages_->count())
+      if (pages_->show(++last).isEmpty()) return pages_->name(last);
+    return std::nullopt;
+  };
+}
+
 QString SeriesView::show(QString const& page) {
   if (!pages()) return show(0);
   int const shown = pages_->shown(), count = pages_->count();
