@@ -1493,6 +1493,22 @@
         <source>Show the document as it is stored</source>
         <translation>Das Dokument zeigen, wie es gespeichert ist</translation>
     </message>
+    <message>
+        <source>Print Preview…</source>
+        <translation>Druckvorschau …</translation>
+    </message>
+    <message>
+        <source>Show the sheets of paper as they would be printed</source>
+        <translation>Die Blätter zeigen, wie sie gedruckt würden</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>Drucken …</translation>
+    </message>
+    <message>
+        <source>Print the page, on several sheets where it is larger than the paper</source>
+        <translation>Die Seite drucken, auf mehrere Blätter, wo sie größer ist als das Papier</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -7536,6 +7552,29 @@
     </message>
 </context>
 <context>
+    <name>PagePrinter</name>
+    <message>
+        <source>The page was not printed: the file could not be written; is the disk full?</source>
+        <translation>Die Seite wurde nicht gedruckt: Die Datei konnte nicht geschrieben werden; ist der Datenträger voll?</translation>
+    </message>
+    <message>
+        <source>The printer %1 does not take the page; look whether it is switched on and ready, or choose another one.</source>
+        <translation>Der Drucker %1 nimmt die Seite nicht an; sehen Sie nach, ob er eingeschaltet und bereit ist, oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>Row %1 of %2, column %3 of %4</source>
+        <translation>Zeile %1 von %2, Spalte %3 von %4</translation>
+    </message>
+    <message>
+        <source>There is no printer; name a .pdf file to print into, or set up a printer.</source>
+        <translation>Es gibt keinen Drucker; nennen Sie eine .pdf-Datei, in die gedruckt werden soll, oder richten Sie einen Drucker ein.</translation>
+    </message>
+    <message>
+        <source>There is no printer %1; there are: %2. A .pdf file can be named, too.</source>
+        <translation>Einen Drucker %1 gibt es nicht; es gibt: %2. Auch eine .pdf-Datei kann genannt werden.</translation>
+    </message>
+</context>
+<context>
     <name>PageTexts</name>
     <message>
         <source>Untitled</source>
@@ -7635,6 +7674,52 @@
     <message>
         <source>there is no transformation between them</source>
         <translation>zwischen ihnen gibt es keine Transformation</translation>
+    </message>
+</context>
+<context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Print</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Printing the page…</source>
+        <translation>Die Seite wird gedruckt …</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was printed.</source>
+        <translation>Abgebrochen; es wurde nichts gedruckt.</translation>
+    </message>
+    <message>
+        <source>%1 was written.</source>
+        <translation>%1 wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>The page was sent to %1.</source>
+        <translation>Die Seite wurde an %1 geschickt.</translation>
+    </message>
+    <message>
+        <source>Print Preview</source>
+        <translation>Druckvorschau</translation>
+    </message>
+    <message>
+        <source>Drawing the page…</source>
+        <translation>Die Seite wird gezeichnet …</translation>
+    </message>
+</context>
+<context>
+    <name>PrintOptions</name>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>One sheet of %1, the page at %2 %</source>
+        <translation>Ein Blatt von %1, die Seite zu %2 %</translation>
+    </message>
+    <message>
+        <source>%1 sheets of %2, in %3 rows and %4 columns</source>
+        <translation>%1 Blätter von %2, in %3 Zeilen und %4 Spalten</translation>
     </message>
 </context>
 <context>

@@ -1493,6 +1493,22 @@
         <source>Show the document as it is stored</source>
         <translation>按存储的样子显示文档</translation>
     </message>
+    <message>
+        <source>Print Preview…</source>
+        <translation>打印预览…</translation>
+    </message>
+    <message>
+        <source>Show the sheets of paper as they would be printed</source>
+        <translation>显示将要打印的纸张</translation>
+    </message>
+    <message>
+        <source>Print…</source>
+        <translation>打印…</translation>
+    </message>
+    <message>
+        <source>Print the page, on several sheets where it is larger than the paper</source>
+        <translation>打印页面；大于纸张时分成多张</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -7536,6 +7552,29 @@
     </message>
 </context>
 <context>
+    <name>PagePrinter</name>
+    <message>
+        <source>The page was not printed: the file could not be written; is the disk full?</source>
+        <translation>页面没有打印：无法写入文件；磁盘满了吗？</translation>
+    </message>
+    <message>
+        <source>The printer %1 does not take the page; look whether it is switched on and ready, or choose another one.</source>
+        <translation>打印机 %1 不接受此页面；请查看它是否已开启并就绪，或选择另一台。</translation>
+    </message>
+    <message>
+        <source>Row %1 of %2, column %3 of %4</source>
+        <translation>第 %1/%2 行，第 %3/%4 列</translation>
+    </message>
+    <message>
+        <source>There is no printer; name a .pdf file to print into, or set up a printer.</source>
+        <translation>没有打印机；请指定要打印到的 .pdf 文件，或设置打印机。</translation>
+    </message>
+    <message>
+        <source>There is no printer %1; there are: %2. A .pdf file can be named, too.</source>
+        <translation>没有打印机 %1；现有：%2。也可以指定 .pdf 文件。</translation>
+    </message>
+</context>
+<context>
     <name>PageTexts</name>
     <message>
         <source>Untitled</source>
@@ -7635,6 +7674,52 @@
     <message>
         <source>there is no transformation between them</source>
         <translation>二者之间没有可用的变换</translation>
+    </message>
+</context>
+<context>
+    <name>PrintCommands</name>
+    <message>
+        <source>Print</source>
+        <translation>打印</translation>
+    </message>
+    <message>
+        <source>Printing the page…</source>
+        <translation>正在打印页面…</translation>
+    </message>
+    <message>
+        <source>Cancelled; nothing was printed.</source>
+        <translation>已取消；没有打印任何内容。</translation>
+    </message>
+    <message>
+        <source>%1 was written.</source>
+        <translation>已写入 %1。</translation>
+    </message>
+    <message>
+        <source>The page was sent to %1.</source>
+        <translation>页面已发送到 %1。</translation>
+    </message>
+    <message>
+        <source>Print Preview</source>
+        <translation>打印预览</translation>
+    </message>
+    <message>
+        <source>Drawing the page…</source>
+        <translation>正在绘制页面…</translation>
+    </message>
+</context>
+<context>
+    <name>PrintOptions</name>
+    <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>One sheet of %1, the page at %2 %</source>
+        <translation>一张 %1 的纸，页面为 %2 %</translation>
+    </message>
+    <message>
+        <source>%1 sheets of %2, in %3 rows and %4 columns</source>
+        <translation>%1 张 %2 的纸，%3 行 %4 列</translation>
     </message>
 </context>
 <context>

@@ -148,6 +148,7 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   };
   layers_.addTo(host);
   output_.addTo(host);
+  print_.addTo(host);
   auto const always = std::function<bool()>(), never = always;
   host.add(QStringLiteral("Host_New"), {[this] { files_.create(); }, always, always});
   host.add(QStringLiteral("Host_NewFromData"), {[this] { makeFromData(); }, always, always});

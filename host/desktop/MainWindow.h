@@ -7,6 +7,7 @@
 #include "layers/LayerAdding.h"
 #include "layers/LayerCommands.h"
 #include "output/OutputCommands.h"
+#include "print/PrintCommands.h"
 #include "recovery/RecoveryCopy.h"
 
 #include <SysAdapterUI/PageLayoutControl.h>
@@ -72,8 +73,9 @@ private:
   void makeFromData();
   void showAbout();
 
-  LayerCommands layers_{bench_};  // the workbench asks for both while it is made
+  LayerCommands layers_{bench_};  // the workbench asks for them while it is made
   OutputCommands output_{bench_, *this};
+  PrintCommands print_{bench_, *this};
   Workbench bench_;
   DocumentFiles files_;
   LayerAdding adding_;

@@ -180,6 +180,7 @@ QVector<RunSteps::Kind> const& RunSteps::kinds() {
       {text("accept"),     {},                   nullptr,      &RunSteps::answer,  text("accept")},
       {text("cancel"),     {},                   nullptr,      &RunSteps::answer,  text("cancel")},
       {text("export"),     text("FILE"),         isAnything,   &RunSteps::exportTo, {}},
+      {text("print"),      text("PRINTER|FILE.pdf"), isAnything, &RunSteps::print, {}},
       {text("save"),       text("FILE"),         isAnything,   &RunSteps::save,    {}, nullptr, unclearDocument},
       {text("info"),       {},                   nullptr,      &RunSteps::info,    {}},
   };
@@ -246,8 +247,8 @@ QString RunSteps::run(QString const& step) {
                           : kind->ofLayers ? runOnLayers(*kind->ofLayers, value)
                                            : (this->*kind->run)(value);
   QCoreApplication::processEvents();
-  QString const shown = step.size() > maxShown ? step.left(maxShown) + QChar(0x2026) : step;
-  return problem.isEmpty() ? QString() : tr("run: %1: %2").arg(shown, problem);
+  if (problem.isEmpty()) return problem;
+  return tr("run: %1: %2").arg(step.size() > maxShown ? step.left(maxShown) + QChar(0x2026) : step, problem);
 }
 
 QString RunSteps::runOnLayers(LayerStep const& step, QString const& value) {
@@ -306,10 +307,7 @@ QString RunSteps::focus(QString const& name) {
       .arg(name);
 }
 
-QString RunSteps::clickAt(QString const& point) {
-  auto const at = numbersIn(point);
-  return withMouse({{at[0], at[1]}});
-}
+QString RunSteps::clickAt(QString const& point) { return withMouse({{numbersIn(point)[0], numbersIn(point)[1]}}); }
 
 QString RunSteps::drag(QString const& points) {
   auto const at = numbersIn(points);

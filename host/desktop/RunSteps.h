@@ -3,6 +3,7 @@
 #include "DialogAnswers.h"
 #include "Workbench.h"
 #include "output/OutputCommands.h"
+#include "print/PrintCommands.h"
 
 #include "host/SysCarto/document/Editable.h"
 
@@ -64,6 +65,7 @@ private:
   QString attributes(QString const& text);
   QString answer(QString const& text);
   QString exportTo(QString const& file) { return exportPage(bench_, file); }
+  QString print(QString const& target) { return printPage(bench_, target); }
   QString save(QString const& file);
   QString info(QString const&);
   QString withMouse(QVector<QPointF> const& pathCm);

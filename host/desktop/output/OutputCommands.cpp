@@ -71,14 +71,14 @@ void OutputCommands::addTo(HostCommands& host) {
 bool OutputCommands::draws(QString const& identifier) {
   for (ExportCommand const& command : exportCommands)
     if (identifier == QLatin1String(command.identifier)) return true;
-  return identifier == QLatin1String("Plotvane_Export");
+  return identifier == QLatin1String("Plotvane_Export") || identifier.startsWith(QLatin1String("Host_Print"));
 }
 
 void OutputCommands::tell(QString const& sentence) { window_.statusBar()->showMessage(sentence, toldMs); }
 
 // One step of the history, and none where nothing is other than it was.
-QString OutputCommands::keep(QStringList const& path, QJsonObject const& settings) {
-  auto const& document = bench_.session().document();
+QString OutputCommands::keep(SysCarto::MapDocument const& document, QStringList const& path,
+                             QJsonObject const& settings) {
   auto const now = Editable::fields(document, {Editable::document(document)}).first();
   auto const* const field = SysUtility::fieldAt(now, path);
   auto const kept = field && field->isPresent ? SysUtility::wholeValue(*field).toObject() : QJsonObject();
@@ -92,7 +92,7 @@ QString OutputCommands::keep(QStringList const& path, QJsonObject const& setting
 QString OutputCommands::showProperties() {
   SettingsSource source(DocumentSettings::of(*bench_.views().GetPageLayout()).information);
   if (SettingsDialog(tr("Document Properties"), source, {}, &window_).exec() != QDialog::Accepted) return QString();
-  QString const problem = keep({QStringLiteral("information")}, source.json());
+  QString const problem = keep(bench_.session().document(), {QStringLiteral("information")}, source.json());
   bench_.views().redraw();  // a text of the page may hold the title
   return problem;
 }
@@ -114,7 +114,7 @@ QString OutputCommands::exportAs(ImageFormat const& format) {
   ExportDialog dialog(format, proposedPath(format), source, &window_);
   if (dialog.exec() != QDialog::Accepted) return QString();
   QString const path = QFileInfo(dialog.path()).absoluteFilePath();
-  QString problem = keep({QStringLiteral("output"), QStringLiteral("export")}, source.json());
+  QString problem = keep(session.document(), {QStringLiteral("output"), QStringLiteral("export")}, source.json());
   auto const& choices = source.settings().choices;
   PageExport page(path, format, ExportOptions::of(choices));
   if (problem.isEmpty()) problem = page.checkPlace();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SysCarto/MapDocument.h>
+
 #include <QCoreApplication>
 #include <QHash>
 #include <QJsonObject>
@@ -22,11 +24,14 @@ public:
   /// Whether the command of that name draws the page for elsewhere, so that what is missing there is to be told first.
   static bool draws(QString const& identifier);
 
+  /// Gives the document settings at a path, in one step of the history, or none where they are as they were. Empty, or
+  /// a sentence that says why not.
+  static QString keep(SysCarto::MapDocument const& document, QStringList const& path, QJsonObject const& settings);
+
 private:
   QString showProperties();
   QString exportAs(ImageFormat const& format);
   QString proposedPath(ImageFormat const& format) const;
-  QString keep(QStringList const& path, QJsonObject const& settings);
   void tell(QString const& sentence);
 
   Workbench& bench_;
