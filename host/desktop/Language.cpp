@@ -1,6 +1,7 @@
 #include "Language.h"
 
 #include "Console.h"
+#include "GlobalOption.h"
 
 #include "host/SysFramework/Translations.h"
 
@@ -18,23 +19,7 @@ std::optional<QLocale> localeOf(QString const& language) {
 
 }  // namespace
 
-std::optional<QString> takeLanguage(QStringList& arguments) {
-  QString const option = QStringLiteral("--") + QLatin1String(languageOption);
-  std::optional<QString> language;
-  for (int i = 0; i < arguments.size() && arguments.at(i) != QLatin1String("--");) {
-    bool const isAlone = arguments.at(i) == option;
-    if (!isAlone && !arguments.at(i).startsWith(option + QLatin1Char('='))) {
-      ++i;
-      continue;
-    }
-    QString const argument = arguments.takeAt(i);
-    if (!isAlone)
-      language = argument.mid(option.size() + 1);
-    else
-      language = i < arguments.size() ? arguments.takeAt(i) : QString();
-  }
-  return language;
-}
+std::optional<QString> takeLanguage(QStringList& arguments) { return takeOption(arguments, languageOption); }
 
 bool isLanguage(QString const& language) {
   if (localeOf(language)) return true;

@@ -1,45 +1,99 @@
+#include "Console.h"
 #include "Language.h"
 #include "MainWindow.h"
 #include "Session.h"
 #include "Subcommand.h"
+#include "Supervision.h"
 
 #include "host/SysCarto/layers/WatchedReading.h"
 
 #include <QApplication>
 #include <QFile>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <new>
 
 namespace {
 
-int run(int argc, char** argv) {
-  QStringList arguments;
-  for (int i = 1; i < argc; ++i) arguments << QFile::decodeName(argv[i]);
-  auto const language = takeLanguage(arguments);
-  if (language && !isLanguage(*language)) return WrongArguments;
-  bool const opensWindow = asksForWindow(arguments);
-  if (opensWindow)
-    prepareWindowEnvironment();
-  else
-    prepareEnvironment();
+// A file whose reading was given up may keep its thread for long; that goes with the process.
+int finished(int code) {
+  if (!SysCarto::isReading()) return code;
+  std::fflush(nullptr);
+  std::_Exit(code);
+}
+
+QString memoryRanOut() {
+  return QCoreApplication::translate(
+      "main", "there is not enough memory for it; take less DPI or fewer layers, or give it more.");
+}
+
+// Without the options that every line may have, and those of Qt's own, which the application has taken out.
+QStringList ownArguments() {
+  QStringList arguments = QCoreApplication::arguments().mid(1);
+  takeLanguage(arguments);
+  ResourceLimits().take(arguments);
+  return arguments;
+}
+
+int runSubcommand(int argc, char** argv, std::optional<QString> const& language) {
   QApplication application(argc, argv);
   prepareApplication();
-  // The application has taken its own options out.
-  arguments = QCoreApplication::arguments().mid(1);
-  takeLanguage(arguments);
   installLanguage(language);
-  return opensWindow ? runWindow(arguments.value(0)) : runCommandLine(arguments);
+  QStringList const arguments = ownArguments();
+  try {
+    return finished(runCommandLine(arguments));
+  } catch (std::bad_alloc const&) {
+    Console::complain(arguments.value(0) + QStringLiteral(": ") + memoryRanOut());
+    return WorkFailed;
+  }
+}
+
+int runWindow(int argc, char** argv, std::optional<QString> const& language) {
+  QApplication application(argc, argv);
+  prepareApplication();
+  installLanguage(language);
+  return finished(runWindow(ownArguments().value(0)));
+}
+
+// What the other process can't tell any more.
+int tellEnding(int argc, char** argv, ProcessEnding const& ending, ResourceLimits const& limits,
+               std::optional<QString> const& language) {
+  QCoreApplication const application(argc, argv);
+  installLanguage(language);
+  QString const subcommand = ownArguments().value(0);
+  using Reason = ProcessEnding::Reason;
+  QString const what = ending.unfinished.isEmpty()
+                           ? subcommand + QStringLiteral(": ")
+                           : QCoreApplication::translate("main", "%1 was not written: ").arg(ending.unfinished);
+  QString why;
+  if (ending.reason == Reason::Time)
+    why = QCoreApplication::translate("main", "it took more than the %1 s of --max-seconds.").arg(limits.seconds);
+  else if (ending.reason == Reason::Memory)
+    why = QCoreApplication::translate("main", "it took more than the %1 MB of --max-memory.").arg(limits.megabytes);
+  else
+    why = QCoreApplication::translate("main", "the program ended by a fault of its own (signal %1). Please report it.")
+              .arg(ending.signal);
+  Console::complain(what + why);
+  return WorkFailed;
 }
 
 }  // namespace
 
-// A file whose reading was given up may keep its thread for long; that goes with the process.
 int main(int argc, char** argv) {
-  int const code = run(argc, argv);
-  if (SysCarto::isReading()) {
-    std::fflush(nullptr);
-    std::_Exit(code);
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QFile::decodeName(argv[i]);
+  auto const language = takeLanguage(arguments);
+  if (language && !isLanguage(*language)) return WrongArguments;
+  ResourceLimits limits;
+  if (!limits.take(arguments)) return WrongArguments;
+  if (asksForWindow(arguments)) {
+    prepareWindowEnvironment();
+    return runWindow(argc, argv, language);
   }
-  return code;
+  prepareEnvironment();
+  ProcessEnding const ending = supervised(limits, [&] { return runSubcommand(argc, argv, language); });
+  return ending.reason == ProcessEnding::Reason::Itself ? ending.status
+                                                        : tellEnding(argc, argv, ending, limits, language);
 }

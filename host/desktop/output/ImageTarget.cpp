@@ -1,6 +1,7 @@
 #include "ImageTarget.h"
 
 #include "ImageFormat.h"
+#include "WorkFolder.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/projection/GdalErrors.h"
@@ -14,7 +15,6 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QStorageInfo>
-#include <QTemporaryDir>
 #include <QVector>
 #include <QtEndian>
 
@@ -180,10 +180,10 @@ QString ImageTarget::checkFreeMemory(QSize const& size, int bands) const {
 }
 
 QString ImageTarget::prepare() {
-  QString const folder = QFileInfo(path_).absolutePath();
-  folder_ = std::make_unique<QTemporaryDir>(folder + QStringLiteral("/.plotvane-XXXXXX"));
-  if (folder_->isValid()) return QString();
-  return tr("%1: no working folder can be made in %2: %3.").arg(name_, folder, folder_->errorString());
+  folder_ = std::make_unique<WorkFolder>(path_, name_);
+  if (folder_->problem().isEmpty()) return QString();
+  return tr("%1: no working folder can be made in %2: %3.")
+      .arg(name_, QFileInfo(path_).absolutePath(), folder_->problem());
 }
 
 QString ImageTarget::workingPath() const {

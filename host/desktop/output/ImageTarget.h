@@ -7,7 +7,7 @@
 #include <memory>
 
 class GDALDataset;
-class QTemporaryDir;
+class WorkFolder;
 
 namespace SysCarto {
 class GdalErrors;
@@ -73,5 +73,5 @@ private:
   QString name_;  // as the user gave it, for sentences
   QString path_;  // absolute, links followed
   ImageFormat const& format_;
-  std::unique_ptr<QTemporaryDir> folder_;
+  std::unique_ptr<WorkFolder> folder_;
 };

@@ -83,6 +83,21 @@ QImage clearTile(LayoutRenderer const& renderer, QRect const& part, _ptr_t<Track
   return std::move(tile).convertToFormat(QImage::Format_RGBA8888);
 }
 
+bool haveSameRows(GDALDataset& one, GDALDataset& other) {
+  int const width = one.GetRasterXSize(), height = one.GetRasterYSize(), bands = one.GetRasterCount();
+  constexpr int rowsAtOnce = 64;
+  std::vector<uchar> first(std::size_t(width) * rowsAtOnce * std::size_t(bands)), second(first.size());
+  auto const read = [&](GDALDataset& dataset, int y, int rows, std::vector<uchar>& bytes) {
+    return dataset.RasterIO(GF_Read, 0, y, width, rows, bytes.data(), width, rows, GDT_Byte, bands, nullptr, 0, 0, 0,
+                            nullptr) == CE_None;
+  };
+  for (int y = 0; y < height; y += rowsAtOnce) {
+    int const rows = std::min(rowsAtOnce, height - y);
+    if (!read(one, y, rows, first) || !read(other, y, rows, second) || first != second) return false;
+  }
+  return true;
+}
+
 // GDAL's progress function; `data` is one that is told per cent, and answers whether to go on.
 int tellProgress(double fraction, char const*, void* data) {
   auto const& told = *static_cast<std::function<bool(int)> const*>(data);
@@ -235,8 +250,12 @@ bool PageImage::convert(GDALDataset& pixels, ImageTags const& tags, _ptr_t<Track
     if (progress) progress(tr("Writing"), percent);
     return !cancel->IsCanced();
   };
-  DatasetPtr const result(
-      driver(format_.driver)
-          ->CreateCopy(target_.workingPath().toUtf8().constData(), &pixels, TRUE, list.data(), tellProgress, &told));
-  return result != nullptr;
+  QByteArray const path = target_.workingPath().toUtf8();
+  DatasetPtr result(
+      driver(format_.driver)->CreateCopy(path.constData(), &pixels, TRUE, list.data(), tellProgress, &told));
+  if (!result || qstrcmp(format_.driver, "BMP") != 0) return result != nullptr;
+  // To write a band, that driver reads what the file has of the others, and takes what it can't read for black.
+  result.reset();
+  result.reset(static_cast<GDALDataset*>(GDALOpen(path.constData(), GA_ReadOnly)));
+  return result && haveSameRows(pixels, *result);
 }

@@ -16,7 +16,7 @@ struct Destroyer {
 };
 using FontFace = std::unique_ptr<hb_face_t, Destroyer<hb_face_destroy>>;
 
-/// A font's tables as HarfBuzz reads them. The font must outlive the face.
+/// A font's tables as HarfBuzz reads them.
 FontFace faceOf(QRawFont const& font);
 
 /// The name by which a font is found where a family has more than one of its weight and slant, as those cut for

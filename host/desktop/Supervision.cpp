@@ -1,0 +1,136 @@
+#include "Supervision.h"
+
+#include "Console.h"
+#include "GlobalOption.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+constexpr int graceSeconds = 2;      // to clean up, before it is killed
+constexpr int maxLeftovers = 64;     // at a time
+constexpr int leftoverBytes = 8192;  // two paths of the longest kind
+
+// Memory that both processes see: for each leftover two texts, one after the other; empty where there is none.
+char* shared = nullptr;
+
+char* slot(int i) { return shared + i * leftoverBytes; }
+
+bool takeNumber(QStringList& arguments, char const* option, int& number) {
+  auto const text = takeOption(arguments, option);
+  if (!text) return true;
+  bool isNumber = false;
+  number = text->toInt(&isNumber);
+  if (isNumber && number > 0) return true;
+  // In English: nothing is translated yet.
+  Console::complain(
+      QStringLiteral("--%1 takes a whole number of at least 1, not \"%2\".").arg(QLatin1String(option), *text));
+  return false;
+}
+
+sigset_t handledSignals() {
+  sigset_t set;
+  sigemptyset(&set);
+  for (int const signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGALRM}) sigaddset(&set, signal);
+  return set;
+}
+
+QString clearLeftovers() {
+  QString target;
+  for (int i = 0; i < maxLeftovers; ++i) {
+    if (*slot(i) == '\0') continue;
+    QDir(QFile::decodeName(slot(i))).removeRecursively();
+    if (target.isEmpty()) target = QFile::decodeName(slot(i) + std::strlen(slot(i)) + 1);
+  }
+  return target;
+}
+
+// What the process shares with nobody, in bytes; 0 where that is not told.
+qint64 memoryOf(pid_t process) {
+  QFile file(QStringLiteral("/proc/%1/statm").arg(process));
+  if (!file.open(QIODevice::ReadOnly)) return 0;
+  auto const pages = file.readAll().split(' ');
+  return (pages.value(1).toLongLong() - pages.value(2).toLongLong()) * sysconf(_SC_PAGESIZE);
+}
+
+ProcessEnding waitFor(pid_t process, ResourceLimits const& limits, sigset_t const& handled) {
+  using Reason = ProcessEnding::Reason;
+  constexpr timespec lookAgain = {0, 50'000'000};
+  ProcessEnding ending;
+  if (limits.seconds > 0) alarm(static_cast<unsigned>(limits.seconds));
+  for (;;) {
+    int const signal =
+        limits.megabytes > 0 ? sigtimedwait(&handled, nullptr, &lookAgain) : sigwaitinfo(&handled, nullptr);
+    if (signal == SIGALRM) {
+      kill(process, ending.reason == Reason::Itself ? SIGTERM : SIGKILL);
+      ending.reason = Reason::Time;
+      alarm(graceSeconds);
+    } else if (signal == SIGCHLD) {
+      int status = 0;
+      if (waitpid(process, &status, WNOHANG) != process) continue;
+      if (WIFEXITED(status)) ending.status = WEXITSTATUS(status);
+      if (WIFSIGNALED(status)) ending.signal = WTERMSIG(status);
+      if (ending.signal != 0 && ending.reason == Reason::Itself) ending.reason = Reason::Signal;
+      return ending;
+    } else if (signal > 0) {
+      kill(process, signal);
+    } else if (limits.megabytes > 0 && memoryOf(process) >> 20 >= limits.megabytes) {
+      ending.reason = Reason::Memory;
+      kill(process, SIGKILL);
+    }
+  }
+}
+
+}  // namespace
+
+bool ResourceLimits::take(QStringList& arguments) {
+  return takeNumber(arguments, secondsOption, seconds) && takeNumber(arguments, memoryOption, megabytes);
+}
+
+ProcessEnding supervised(ResourceLimits const& limits, std::function<int()> const& work) {
+  void* const memory = mmap(nullptr, std::size_t{maxLeftovers} * leftoverBytes, PROT_READ | PROT_WRITE,
+                            MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  shared = memory == MAP_FAILED ? nullptr : static_cast<char*>(memory);
+  sigset_t const handled = handledSignals();
+  sigset_t before;
+  sigprocmask(SIG_BLOCK, &handled, &before);
+  pid_t const own = getpid(), process = shared ? fork() : -1;
+  if (process <= 0) sigprocmask(SIG_SETMASK, &before, nullptr);
+  if (process < 0) return {ProcessEnding::Reason::Itself, work(), 0, QString()};  // no room for two
+  if (process > 0) {
+    ProcessEnding ending = waitFor(process, limits, handled);
+    QString const unfinished = clearLeftovers();
+    if (ending.reason != ProcessEnding::Reason::Itself) ending.unfinished = unfinished;
+    sigprocmask(SIG_SETMASK, &before, nullptr);
+    return ending;
+  }
+  // A terminal's signals come once, from the other process.
+  setpgid(0, 0);
+  prctl(PR_SET_PDEATHSIG, SIGTERM);
+  if (getppid() != own) raise(SIGTERM);
+  std::exit(work());
+}
+
+Leftover::Leftover(QString const& folder, QString const& target) {
+  QByteArray const first = QFile::encodeName(folder), second = QFile::encodeName(target);
+  if (!shared || first.size() + second.size() + 2 > leftoverBytes) return;
+  for (int i = 0; i < maxLeftovers && !place_; ++i)
+    if (*slot(i) == '\0') place_ = slot(i);
+  if (!place_) return;
+  std::memcpy(place_ + first.size() + 1, second.constData(), static_cast<std::size_t>(second.size()) + 1);
+  std::memcpy(place_, first.constData(), static_cast<std::size_t>(first.size()) + 1);
+}
+
+Leftover::~Leftover() {
+  if (place_ && !QFile::exists(QFile::decodeName(place_))) *place_ = '\0';
+}

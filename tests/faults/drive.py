@@ -1,0 +1,119 @@
+#!/usr/bin/env python3
+"""Makes one system call after the other fail, and looks at what is left.
+
+drive.py BUILD [--every N] [--jobs N] [WORK…]: for each piece of work and each kind of call that it makes, the first,
+the Nth and so on fail, in several ways. Each run has to end with status 0 and the right file, or with status 1, a
+sentence, the old file and nothing beside it. What does not is printed with the line that repeats it.
+"""
+import argparse
+import concurrent.futures
+import errno
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+
+# A kind of call, and how it fails.
+WAYS = [
+    ("open", errno.EMFILE, ""), ("open", errno.EACCES, ""), ("read", errno.EIO, ""), ("read", errno.EIO, "on"),
+    ("write", errno.ENOSPC, ""), ("write", errno.ENOSPC, "on"), ("write", errno.EIO, ""), ("write", 0, "short"),
+    ("fsync", errno.EIO, ""), ("rename", errno.EACCES, ""), ("mkdir", errno.ENOSPC, ""), ("unlink", errno.EACCES, ""),
+    ("close", errno.EIO, ""), ("truncate", errno.EIO, ""), ("mmap", errno.ENOMEM, ""), ("allocate", errno.ENOMEM, ""),
+]
+
+EXPORTS = {f"export-{suffix}": ("page." + suffix, ["export", "small.kdx", "page." + suffix, "--dpi", "60"])
+           for suffix in ("png", "jpg", "tif", "bmp", "webp", "pdf", "svg")}
+WORKS = {**EXPORTS, "save": ("saved.kdx", ["run", "small.kdx", "select=Title", "Host_Delete", "save=saved.kdx", "--force"])}
+
+
+class Bench:
+    """A folder with a small document, in which one piece of work is done again and again."""
+
+    def __init__(self, build, work):
+        self.build, self.work = build, work
+        self.result, self.arguments = WORKS[work]
+        self.expected = None
+
+    def run(self, fault=None, counts=None):
+        """Status, what was said, what the result holds, and what lies beside it."""
+        with tempfile.TemporaryDirectory(prefix="faults-") as name:
+            folder = Path(name)
+            for file in ("small.kdx", "picture.png", "aegean.gpkg"):
+                shutil.copy(self.build / "faults" / file, folder)
+            (folder / self.result).write_text("old")
+            before = set(os.listdir(folder))
+            environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", HOME=name + "-home", TMPDIR="/tmp",
+                               LD_PRELOAD=str(self.build / "lib/libplotvane_faults.so"),
+                               PLOTVANE_FAULT_FROM="small.kdx")
+            if fault:
+                environment["PLOTVANE_FAULT"] = fault
+            if counts:
+                environment["PLOTVANE_FAULT_COUNTS"] = str(counts)
+            try:
+                done = subprocess.run([self.build / "bin/plotvane", *self.arguments], cwd=folder, env=environment,
+                                      capture_output=True, timeout=120)
+                status, said = done.returncode, done.stderr.decode(errors="replace")
+            except subprocess.TimeoutExpired:
+                status, said = "no end", ""
+            # A lock that could not be removed belongs to a process that has gone, and is taken over.
+            beside = sorted((set(os.listdir(folder)) ^ before) - {".saved.kdx.lock"})
+            return status, said, (folder / self.result).read_bytes(), beside
+
+    def judge(self, fault):
+        """Empty, or what is wrong."""
+        status, said, content, beside = self.run(fault)
+        if beside:
+            return f"left behind: {beside}, status {status}"
+        if status == 0:
+            return "" if content == self.expected else "status 0 over a wrong file"
+        if status != 1:
+            return f"status {status}"
+        if content != b"old":
+            return "status 1, and the old file has gone"
+        return "" if said.startswith("plotvane: ") or "\nplotvane: " in said else f"status 1 without a sentence: {said!r}"
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("build", type=Path)
+    parser.add_argument("--every", type=int, default=1)
+    parser.add_argument("--jobs", type=int, default=os.cpu_count())
+    parser.add_argument("works", nargs="*", metavar="WORK", help=", ".join(WORKS))
+    chosen = parser.parse_intermixed_args()
+    chosen.build = chosen.build.resolve()
+    prepare(chosen.build / "faults")
+    tried, wrong = 0, []
+    for work in chosen.works or WORKS:
+        bench = Bench(chosen.build, work)
+        with tempfile.NamedTemporaryFile() as counts:
+            status, said, bench.expected, _ = bench.run(counts=counts.name)
+            if status != 0:
+                sys.exit(f"{work} fails without a fault: {said}")
+            made = dict((kind, int(count)) for kind, count in (line.split() for line in open(counts.name)))
+        faults = [f"{kind} {number} {error} {mode}".strip()
+                  for kind, error, mode in WAYS for number in range(1, made[kind] + 1, chosen.every)]
+        with concurrent.futures.ThreadPoolExecutor(chosen.jobs) as pool:
+            for fault, problem in zip(faults, pool.map(bench.judge, faults)):
+                tried += 1
+                if problem:
+                    wrong.append((work, fault, problem))
+                    print(f"{work}: PLOTVANE_FAULT='{fault}': {problem}", flush=True)
+        print(f"{work}: {len(faults)} faults; calls: {made}", flush=True)
+    print(f"{tried} runs, {len(wrong)} wrong")
+    sys.exit(1 if wrong else 0)
+
+
+def prepare(folder):
+    """A page of a few centimetres with a layer, labels, a picture and a text."""
+    folder.mkdir(exist_ok=True)
+    shutil.copy(ROOT / "samples/data/aegean.gpkg", folder)
+    shutil.copy(ROOT / "tests/faults/small.kdx", folder)
+    shutil.copy(ROOT / "docs/world.png", folder / "picture.png")
+
+
+if __name__ == "__main__":
+    main()
