@@ -9247,4 +9247,27 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
         <translation>Stützpunkt bewegen</translation>
     </message>
 </context>
+<context>
+    <name>main</name>
+    <message>
+        <source>there is not enough memory for it; take less DPI or fewer layers, or give it more.</source>
+        <translation>Dafür reicht der Arbeitsspeicher nicht; nehmen Sie weniger DPI oder weniger Ebenen, oder geben Sie mehr Speicher.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: </source>
+        <translation>%1 wurde nicht geschrieben: </translation>
+    </message>
+    <message>
+        <source>it took more than the %1 s of --max-seconds.</source>
+        <translation>Es dauerte länger als die %1 s von --max-seconds.</translation>
+    </message>
+    <message>
+        <source>it took more than the %1 MB of --max-memory.</source>
+        <translation>Es brauchte mehr als die %1 MB von --max-memory.</translation>
+    </message>
+    <message>
+        <source>the program ended by a fault of its own (signal %1). Please report it.</source>
+        <translation>Das Programm endete durch einen eigenen Fehler (Signal %1). Bitte melden Sie ihn.</translation>
+    </message>
+</context>
 </TS>

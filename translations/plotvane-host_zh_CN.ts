@@ -9247,4 +9247,27 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <translation>移动顶点</translation>
     </message>
 </context>
+<context>
+    <name>main</name>
+    <message>
+        <source>there is not enough memory for it; take less DPI or fewer layers, or give it more.</source>
+        <translation>内存不足；请降低 DPI、减少图层，或增加内存。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: </source>
+        <translation>%1 未写出：</translation>
+    </message>
+    <message>
+        <source>it took more than the %1 s of --max-seconds.</source>
+        <translation>用时超过 --max-seconds 的 %1 秒。</translation>
+    </message>
+    <message>
+        <source>it took more than the %1 MB of --max-memory.</source>
+        <translation>占用内存超过 --max-memory 的 %1 MB。</translation>
+    </message>
+    <message>
+        <source>the program ended by a fault of its own (signal %1). Please report it.</source>
+        <translation>程序因自身错误而结束（信号 %1）。请报告此问题。</translation>
+    </message>
+</context>
 </TS>
