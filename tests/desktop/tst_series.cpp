@@ -4,6 +4,7 @@
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
+#include "host/SysCarto/maps/MapSteps.h"
 #include "host/desktop/series/FileNames.h"
 #include "host/desktop/series/PageRanges.h"
 #include "host/desktop/series/SeriesExport.h"
@@ -104,12 +105,22 @@ private slots:
     QCOMPARE(shown(*map).width(), 6e4);
     QCOMPARE(set({"rotation"}, "turn"), QString());
     QCOMPARE(map->GetRotation(), 30.0);
+    // A map keeps the page when it is called otherwise, and leaves it when a person moves it.
+    QRectF const turned = shown(*map);
+    QStringList warnings;
+    auto const rename = [](QJsonValue const&) { return QJsonValue("Other"); };
+    QCOMPARE(SysCarto::Editable::set(document, {SysCarto::Editable::map(map)}, {"name"}, rename, warnings), QString());
+    QCOMPARE(shown(*map), turned);
+    QVERIFY(SysCarto::MapSteps::setExtent(*map, {0, 0, 600, 400}));
+    QCOMPARE(shown(*map), QRectF(0, 0, 600, 400));
+    QCOMPARE(map->GetRotation(), 0.0);
+    QCOMPARE(series.show(5), QString());
     QCOMPARE(set({"filter"}, "number > 4"), QString());
     QCOMPARE(series.pages()->count(), 6);
     QCOMPARE(set({"filter"}, "number > "), QString());
     QVERIFY(!series.pages());
     QVERIFY(series.problem().contains("number > "));
-    for (int step = 0; step < 6; ++step) document.GetOperationStack()->Undo();
+    for (int step = 0; step < 8; ++step) document.GetOperationStack()->Undo();
     QCOMPARE(MapDocumentHost::text(document), before);
     QCOMPARE(series.pages()->count(), 10);
   }

@@ -58,7 +58,7 @@ MapSettings MapSettings::of(Map const& map) {
       settings.pins.emplace_back(vector, vector->labelSettings().pinned);
   settings.rotation = MapHost::storedRotation(map);
   settings.scaleLocked = MapHost::lockedScale(map) > 0;
-  settings.scale = settings.scaleLocked ? MapHost::lockedScale(map) : map.GetDisplayTransformation()->GetMapScale();
+  settings.scale = MapHost::storedScale(map);
   return settings;
 }
 
@@ -139,8 +139,9 @@ void MapSettings::applyTo(Map& map, QStringList& warnings) const {
   MapHost::setRotation(map, rotation);
   MapHost::lockScale(map, scaleLocked ? scale : 0);
   map.SetExtent(SysUtility::make<SysGeometry::Envelope>(shown[0], shown[1], shown[2], shown[3]));
-  double const factor = scale / map.GetDisplayTransformation()->GetMapScale();
+  double const factor = scale / MapHost::storedScale(map);
   if (!isElsewhere && hasSameBounds && factor > 0 && std::abs(factor - 1) > sameScale) {
+    MapHost::showInstead(map, std::nullopt);
     auto const extent = map.GetExtent();
     extent->Expand(factor, factor, true);
     map.SetExtent(extent);

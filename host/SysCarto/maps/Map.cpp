@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace SysCarto {
 
@@ -145,12 +146,22 @@ void MapHost::showInstead(Map& map, std::optional<Portion> const& portion) {
   map.d->fit();
 }
 
+double MapHost::storedScale(Map const& map) {
+  auto const shown = std::exchange(map.d->instead, std::nullopt);
+  if (shown) map.d->fit();
+  double const scale = map.d->transformation->GetMapScale();
+  map.d->instead = shown;
+  if (shown) map.d->fit();
+  return scale;
+}
+
 double MapHost::storedRotation(Map const& map) { return map.d->rotation; }
 
 void MapHost::setRotation(Map& map, double degrees) {
   double const rotation = std::isfinite(degrees) ? std::fmod(degrees, 360) : 0;
   if (rotation == map.d->rotation) return;
   map.d->change.set(map.d->rotation, rotation);
+  map.d->instead.reset();
   map.d->fit();
 }
 
@@ -162,6 +173,7 @@ void MapHost::lockScale(Map& map, double denominator) {
   double const scale = std::isfinite(denominator) && denominator > 0 ? denominator : 0;
   if (scale == map.d->lockedScale) return;
   map.d->change.set(map.d->lockedScale, scale);
+  map.d->instead.reset();
   map.d->fit();
 }
 
@@ -192,9 +204,10 @@ bool MapHost::isFramed(Map const& map) { return map.d->frames > 0; }
 void Map::applyExtent(Envelope const& extent) {
   auto const bounds = extent.GetEnvelope();
   if (!isShowable(*bounds)) return;
-  if (!haveSameCorners(*bounds, d->bounds)) d->change.raise();
+  bool const isOther = !haveSameCorners(*bounds, d->bounds);
+  if (isOther) d->change.raise();
   d->bounds = *bounds;
-  d->instead.reset();
+  if (isOther) d->instead.reset();
   d->fit();
 }
 

@@ -24,11 +24,12 @@ struct SYSCARTO_EXPORT MapHost {
   };
 
   /// What is shown in place of the map's own portion, of which a document stores no trace. Null ends it, and so does
-  /// whoever gives the map another extent.
+  /// whoever gives the map another portion of its own.
   static void showInstead(Map& map, std::optional<Portion> const& portion);
 
-  /// The map's own rotation.
+  // The map's own, whatever is shown in their place.
   static double storedRotation(Map const& map);
+  static double storedScale(Map const& map);
 
   /// Layers in drawing order, each there once. Each must hold its data in the map's coordinate system.
   static void setLayers(Map& map, QList<SysUtility::_ptr_t<Layer>> const& layers);
