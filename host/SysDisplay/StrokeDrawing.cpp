@@ -69,8 +69,12 @@ public:
       : target_(target),
         offsetPx_(symbol.GetOffset() * target.pixelsPerPoint()),
         dashes_(std::move(dashes)),
-        stroke_({symbol.GetColor(), widthPx(target, symbol), symbol.GetCapStyle(), symbol.GetJoinStyle(),
-                 symbol.GetMiterLimit()}),
+        stroke_({symbol.GetColor(),
+                 widthPx(target, symbol),
+                 symbol.GetCapStyle(),
+                 symbol.GetJoinStyle(),
+                 symbol.GetMiterLimit(),
+                 {}}),
         stroker_(widthPx(target, symbol), symbol.GetCapStyle(), symbol.GetJoinStyle(), symbol.GetMiterLimit()) {
     double const reach = std::min(stroker_.reachPx(), maxReachPx);
     area_ = target.area().adjusted(-reach, -reach, reach, reach);
@@ -86,8 +90,9 @@ public:
 
   void draw(Box const&) override {
     if (auto* const canvas = target_.canvas()) {
-      drawOn(*canvas, rings_, true);
-      drawOn(*canvas, lines_, false);
+      drawOn(*canvas, rings_, true, {});
+      drawOn(*canvas, lines_, false, {});
+      drawOn(*canvas, dashed_, false, dashes_);
       return;
     }
     target_.fill(outline_, stroke_.color, Qt::WindingFill);
@@ -95,8 +100,10 @@ public:
   }
 
 private:
-  void drawOn(VectorCanvas& canvas, PointRuns& lines, bool closed) {
-    if (!lines.isEmpty()) canvas.stroke(lines, closed, stroke_);
+  void drawOn(VectorCanvas& canvas, PointRuns& lines, bool closed, Dashes const& dashes) {
+    Stroke stroke = stroke_;
+    stroke.dashes = dashes;
+    if (!lines.isEmpty()) canvas.stroke(lines, closed, stroke);
     lines.clear();
   }
 
@@ -112,6 +119,8 @@ private:
     bool wholeRing = false;
     if (dashes_.pattern.empty() || line.size() < 2)
       wholeRing = splitLine(line, closed, area_, target_.anchor(), pieces_);
+    else if (target_.canvas() && lies(line))
+      return addDashed(line, closed);
     else
       dashLine(line, closed, dashes_, area_, pieces_);
     if (target_.canvas()) return (wholeRing ? rings_ : lines_).append(pieces_);
@@ -121,6 +130,17 @@ private:
       else
         stroker_.strokeOpen(pieces_.run(i), pieces_.size(i), outline_);
     }
+  }
+
+  // Whether nothing of a line is beyond what can be seen.
+  bool lies(std::vector<QPointF> const& line) const {
+    return std::all_of(line.begin(), line.end(), [&](QPointF const& point) { return area_.contains(point); });
+  }
+
+  void addDashed(std::vector<QPointF> const& line, bool closed) {
+    for (QPointF const& point : line) dashed_.add(point);
+    if (closed) dashed_.add(line.front());
+    dashed_.endRun();
   }
 
   DrawTarget& target_;
@@ -134,6 +154,7 @@ private:
   PointRuns pieces_;
   PointRuns outline_;        // in pixels
   PointRuns rings_, lines_;  // on a canvas
+  PointRuns dashed_;         // on a canvas that dashes them itself
 };
 
 }  // namespace

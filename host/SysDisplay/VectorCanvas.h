@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/SysDisplay/DashLine.h"
 #include "host/SysDisplay/PointRuns.h"
 #include "host/SysDisplay/TextSymbol.h"
 
@@ -27,6 +28,7 @@ struct Stroke {
   LineCapStyle cap = LineCapStyle::Butt;
   LineJoinStyle join = LineJoinStyle::Miter;
   double miterLimit = 0;  ///< in widths, as a symbol has it: twice the tip's distance from the vertex
+  Dashes dashes = {};     ///< each run begins anew with them
 };
 
 /// A picture as a file holds it.

@@ -33,6 +33,12 @@ QByteArray colorOf(QColor const& color, char const* verb) {
 // From pixels to pixels as from pixels to units.
 QTransform inUnits(QTransform const& toPage) { return toPage * QTransform::fromScale(unitsPerPx, unitsPerPx); }
 
+QByteArray dashesOf(SysDisplay::Dashes const& dashes) {
+  QByteArray lengths;
+  for (double const length : dashes.pattern) lengths += pdfNumber(length * unitsPerPx) + ' ';
+  return " [" + lengths.trimmed() + "] " + pdfNumber(dashes.start * unitsPerPx) + " d";
+}
+
 QColor opaque(QColor color) {
   color.setAlpha(255);
   return color;
@@ -105,7 +111,7 @@ void PdfCanvas::setStroke(QColor const& color, Stroke const& stroke) {
   QByteArray const line = pdfNumber(stroke.width * unitsPerPx) + " w " +
                           QByteArray::number(static_cast<int>(stroke.cap)) + " J " +
                           QByteArray::number(static_cast<int>(stroke.join)) + " j " +
-                          pdfNumber(std::max(1.0, 2 * stroke.miterLimit)) + " M\n";
+                          pdfNumber(std::max(1.0, 2 * stroke.miterLimit)) + " M" + dashesOf(stroke.dashes) + '\n';
   if (line == state().line) return;
   state().line = line;
   out().operators += line;

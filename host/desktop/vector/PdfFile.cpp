@@ -29,8 +29,6 @@ QPDFObjectHandle boxIn(QRectF const& mediaCm, QRectF const& boxCm, QSizeF const&
                   (boxCm.right() - mediaCm.left()) * scale, (mediaCm.bottom() - boxCm.top()) * scale});
 }
 
-QRectF boundsIn(QPolygonF const& corners, QTransform const& toPoints) { return toPoints.map(corners).boundingRect(); }
-
 }  // namespace
 
 PdfFile::PdfFile(SysCarto::FileInformation information, OutputIntent intent)
@@ -111,7 +109,7 @@ void PdfFile::addParts(PdfCanvas const& canvas, QPDFObjectHandle const& page, in
 // As ISO 32000 has it: the corners as parts of the viewport's box and as latitudes and longitudes, and the system by
 // its text.
 QPDFObjectHandle PdfFile::viewport(GeoreferencedFrame const& frame, QTransform const& toPoints) {
-  QRectF const box = boundsIn(frame.corners, toPoints);
+  QRectF const box = toPoints.mapRect(frame.frame);
   QPDFObjectHandle onPage = QPDFObjectHandle::newArray(), onGlobe = QPDFObjectHandle::newArray();
   for (int i = 0; i < frame.corners.size(); ++i) {
     QPointF const corner = toPoints.map(frame.corners[i]) - box.topLeft();
@@ -130,7 +128,7 @@ QPDFObjectHandle PdfFile::viewport(GeoreferencedFrame const& frame, QTransform c
   measure.replaceKey("/GCS", file_.makeIndirectObject(system));
   measure.replaceKey("/GPTS", onGlobe);
   measure.replaceKey("/LPTS", onPage);
-  measure.replaceKey("/Bounds", onPage.shallowCopy());
+  measure.replaceKey("/Bounds", numbers({0, 0, 0, 1, 1, 1, 1, 0}));
   QPDFObjectHandle viewport = QPDFObjectHandle::newDictionary();
   viewport.replaceKey("/Type", name("/Viewport"));
   viewport.replaceKey("/Name", pdfText(frame.name));

@@ -11,7 +11,8 @@
 /// A data frame on a page, and where on the globe it lies.
 struct GeoreferencedFrame {
   QString name;
-  QPolygonF corners;  ///< four on the page, in pixels of its canvas
+  QRectF frame;       ///< in pixels of its page's canvas
+  QPolygonF corners;  ///< of a rectangle in it that lies on the globe, four
   QPolygonF places;   ///< their longitudes and latitudes in the degrees of the map's own datum
   QString wkt;        ///< of the map's coordinate system, in the first version of WKT
   int epsg = 0;       ///< its code; 0 where there is none

@@ -108,6 +108,24 @@ QPDFObjectHandle PdfObjects::packed(QByteArray const& bytes) {
   return stream;
 }
 
+// Readers look through all that a pattern may use, and all that this may use; with one dictionary of all names some
+// come to no end. Fonts get their names at the end.
+QPDFObjectHandle PdfObjects::usedBy(QByteArray const& content) {
+  QPDFObjectHandle used = QPDFObjectHandle::newDictionary();
+  for (int at = content.indexOf('/'); at >= 0; at = content.indexOf('/', at + 1)) {
+    int end = at + 2;
+    while (end < content.size() && content[end] >= '0' && content[end] <= '9') ++end;
+    std::string const name = content.mid(at, end - at).toStdString();
+    if (name.size() > 2 && name[1] == 'F') return resources_;
+    for (char const* key : {"/Properties", "/XObject", "/Pattern", "/Shading", "/ExtGState"}) {
+      if (!resources_.hasKey(key) || !resources_.getKey(key).hasKey(name)) continue;
+      if (!used.hasKey(key)) used.replaceKey(key, QPDFObjectHandle::newDictionary());
+      used.getKey(key).replaceKey(name, resources_.getKey(key).getKey(name));
+    }
+  }
+  return used;
+}
+
 QByteArray PdfObjects::form(QByteArray const& content, QRectF const& bounds, Sheet sheet) {
   QByteArray box = "[";
   for (double side :
@@ -121,7 +139,7 @@ QByteArray PdfObjects::form(QByteArray const& content, QRectF const& bounds, She
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
   dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Form"));
   dictionary.replaceKey("/BBox", QPDFObjectHandle::parse(box.toStdString()));
-  dictionary.replaceKey("/Resources", resources_);
+  dictionary.replaceKey("/Resources", usedBy(content));
   if (sheet != Sheet::None)
     dictionary.replaceKey("/Group",
                           QPDFObjectHandle::parse(std::string("<</Type/Group/S/Transparency/I true/CS/") +
@@ -205,7 +223,7 @@ QByteArray PdfObjects::tiles(QByteArray const& form, QSizeF const& size, QTransf
   QPDFObjectHandle dictionary = pattern.getDict();
   QPDFObjectHandle keys = QPDFObjectHandle::parse(text.toStdString());
   for (std::string const& key : keys.getKeys()) dictionary.replaceKey(key, keys.getKey(key));
-  dictionary.replaceKey("/Resources", resources_);
+  dictionary.replaceKey("/Resources", usedBy(form));
   return name = add("/Pattern", "T", pattern);
 }
 

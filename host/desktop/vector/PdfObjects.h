@@ -76,6 +76,7 @@ private:
     std::vector<int> below;
   };
   QPDFObjectHandle category(char const* key);
+  QPDFObjectHandle usedBy(QByteArray const& content);
   QByteArray addOnce(char const* key, char const* prefix, QByteArray const& text);
   QByteArray addShading(QGradient const& gradient, bool isOpacity);
   QByteArray add(char const* key, char const* prefix, QPDFObjectHandle const& object);

@@ -177,6 +177,12 @@ void SvgCanvas::stroke(PointRuns const& lines, bool closed, Stroke const& stroke
     attributes += " stroke-linejoin=\"" + QByteArray(joins[static_cast<int>(stroke.join)]) + '"';
   else
     attributes += numbered("stroke-miterlimit", std::max(1.0, 2 * stroke.miterLimit));
+  QByteArray lengths;
+  for (double const length : stroke.dashes.pattern) lengths += svgNumber(length * scaleOf(toUnits()), 2) + ' ';
+  if (!lengths.isEmpty()) {
+    attributes += " stroke-dasharray=\"" + lengths.trimmed() + '"';
+    if (stroke.dashes.start > 0) attributes += numbered("stroke-dashoffset", stroke.dashes.start * scaleOf(toUnits()));
+  }
   writer_.write("<path" + attributes + path(lines, closed) + "/>\n");
 }
 

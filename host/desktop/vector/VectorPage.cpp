@@ -13,6 +13,8 @@
 
 #include <ogr_spatialref.h>
 
+#include <optional>
+
 using SysCarto::Element;
 using SysCarto::MapFrameElement;
 using SysUtility::_ptr_t;
@@ -21,6 +23,11 @@ using SysUtility::ptr_cast;
 namespace {
 
 constexpr double pointsPerInch = 72;
+
+// Of a data frame, as parts of its sides: the rectangle about its middle whose corners are looked for on the globe gets
+// smaller by these steps, down to the least.
+constexpr double partStep = 0.05;
+constexpr double leastPart = 0.2;
 
 QString wktOf(OGRSpatialReference const& system) {
   char* text = nullptr;
@@ -46,13 +53,13 @@ QString descriptionOf(Element const& element) {
   return element.GetName();
 }
 
-}  // namespace
-
 QString beginningOf(SysCarto::TextElement const& text) {
   constexpr int enough = 40;
   QString const words = text.text().simplified();
   return words.size() <= enough ? words : words.left(enough - 1) + QChar(0x2026);
 }
+
+}  // namespace
 
 VectorPage::VectorPage(_ptr_t<SysCarto::PageLayout> layout, int dpi, QRectF const& areaCm)
     : layout_(std::move(layout)), dpi_(dpi), areaCm_(areaCm) {
@@ -117,20 +124,30 @@ std::vector<GeoreferencedFrame> VectorPage::frames() const {
     auto const toGlobe = globe ? SysCarto::PointTransform::create(*system, *globe, error) : nullptr;
     auto const back = globe ? SysCarto::PointTransform::create(*globe, *system, error) : nullptr;
     if (!toGlobe || !back || pixels.isEmpty()) continue;
-    GeoreferencedFrame found{map->GetName(), {}, {}, wktOf(*system), epsgOf(*system), bool(system->IsProjected())};
+    GeoreferencedFrame found{map->GetName(), {}, {}, {}, wktOf(*system), epsgOf(*system), bool(system->IsProjected())};
     QTransform const toMap = transformation->ToDevice().inverted();
     double const unitsPerPx = QLineF(toMap.map(QPointF(0, 0)), toMap.map(QPointF(1, 0))).length();
-    QSize const size = pixels.size();
-    for (QPoint const corner :
-         {QPoint(0, size.height()), QPoint(0, 0), QPoint(size.width(), 0), QPoint(size.width(), size.height())}) {
-      QPointF const onMap = toMap.map(QPointF(corner));
+    // Beyond the edge of a world some projections answer places from which there is no way back.
+    auto const placeOf = [&](QPointF const& pixel) -> std::optional<QPointF> {
+      QPointF const onMap = toMap.map(pixel);
       double x = onMap.x(), y = onMap.y();
-      if (!toGlobe->apply(x, y)) break;
+      if (!toGlobe->apply(x, y)) return std::nullopt;
       QPointF const place(x, y);
-      // Beyond the edge of a world some projections answer places from which there is no way back.
-      if (!back->apply(x, y) || !(QLineF({x, y}, onMap).length() < unitsPerPx)) break;
-      found.corners << QPointF(pixels.topLeft() + corner);
-      found.places << place;
+      bool const isOnGlobe = back->apply(x, y) && QLineF({x, y}, onMap).length() < unitsPerPx;
+      return isOnGlobe ? std::optional(place) : std::nullopt;
+    };
+    QRectF const whole(QPointF(0, 0), pixels.size());
+    found.frame = whole.translated(pixels.topLeft());
+    for (double part = 1; part >= leastPart && found.corners.size() < 4; part -= partStep) {
+      QRectF const inner(whole.center() - whole.bottomRight() * part / 2, whole.size() * part);
+      found.corners.clear();
+      found.places.clear();
+      for (QPointF const& corner : {inner.bottomLeft(), inner.topLeft(), inner.topRight(), inner.bottomRight()}) {
+        auto const place = placeOf(corner);
+        if (!place) break;
+        found.corners << corner + pixels.topLeft();
+        found.places << *place;
+      }
     }
     if (found.corners.size() == 4) frames.push_back(found);
   }

@@ -21,7 +21,7 @@ public:
   /// those of an image at that resolution.
   void draw(SysDisplay::VectorCanvas& canvas, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
 
-  /// The data frames whose maps have a coordinate system that is known, and lie on the globe with all corners.
+  /// The data frames whose maps have a coordinate system that is known, and have their middle on the globe.
   std::vector<GeoreferencedFrame> frames() const;
 
 private:
