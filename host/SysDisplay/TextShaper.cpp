@@ -235,7 +235,8 @@ private:
     if (!layout.line.isValid()) return shaped;
     // The spacing behind the last letter belongs to no gap.
     shaped.width = (layout.line.naturalTextWidth() - (text.isEmpty() ? 0 : spacing)) / referencePx;
-    for (QGlyphRun const& run : layout.text.glyphRuns()) addRun(run, layout, shaped);
+    // Those of the line stand in order. The text's are gathered by their fonts, in an order that changes.
+    for (QGlyphRun const& run : layout.line.glyphRuns()) addRun(run, layout, shaped);
     return shaped;
   }
 

@@ -179,6 +179,12 @@ private slots:
       QVERIFY2(difference.mean < 1, qPrintable(told(difference.mean)));
       QVERIFY2(difference.squares < 0.002, qPrintable(told(difference.squares)));
     }
+    // The same page is the same file.
+    for (QString const suffix : {"pdf", "svg"})
+      if (document != sample) {
+        run(QStringList{"export", document, "again." + suffix} + more, folder_.path());
+        QVERIFY(contentOf(folder_.path("again." + suffix)) == contentOf(folder_.path("page." + suffix)));
+      }
     // Nothing became pixels, and texts are what was asked for.
     QByteArray const svg = contentOf(folder_.path("page.svg"));
     bool const hasText = !more.contains("shapes");

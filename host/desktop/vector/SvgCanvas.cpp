@@ -113,7 +113,7 @@ QByteArray SvgCanvas::path(PointRuns const& runs, bool closed) const {
     x = firstX;
     y = firstY;
   }
-  return " d=\"" + d + '"';
+  return d;
 }
 
 // From units of something on the page, given by pixels, to those of the file.
@@ -122,8 +122,7 @@ QByteArray SvgCanvas::matrix(char const* name, QTransform const& toPage) const {
 }
 
 void SvgCanvas::fillBy(QByteArray const& paint, PointRuns const& rings, Qt::FillRule rule) {
-  writer_.write("<path" + paint + (rule == Qt::WindingFill ? " fill-rule=\"nonzero\"" : "") + path(rings, false) +
-                "/>\n");
+  writer_.writePath(paint + (rule == Qt::WindingFill ? " fill-rule=\"nonzero\"" : ""), {}, path(rings, true));
 }
 
 void SvgCanvas::fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule) {
@@ -169,8 +168,7 @@ void SvgCanvas::fill(PointRuns const& rings, Tiling const& tiling) {
 
 void SvgCanvas::stroke(PointRuns const& lines, bool closed, Stroke const& stroke) {
   if (lines.isEmpty()) return;
-  QByteArray attributes =
-      " fill=\"none\"" + colorOf("stroke", stroke.color) + numbered("stroke-width", stroke.width * scaleOf(toUnits()));
+  QByteArray attributes = colorOf("stroke", stroke.color) + numbered("stroke-width", stroke.width * scaleOf(toUnits()));
   if (stroke.cap != SysDisplay::LineCapStyle::Butt)
     attributes += " stroke-linecap=\"" + QByteArray(caps[static_cast<int>(stroke.cap)]) + '"';
   if (stroke.join != SysDisplay::LineJoinStyle::Miter)
@@ -183,7 +181,7 @@ void SvgCanvas::stroke(PointRuns const& lines, bool closed, Stroke const& stroke
     attributes += " stroke-dasharray=\"" + lengths.trimmed() + '"';
     if (stroke.dashes.start > 0) attributes += numbered("stroke-dashoffset", stroke.dashes.start * scaleOf(toUnits()));
   }
-  writer_.write("<path" + attributes + path(lines, closed) + "/>\n");
+  writer_.writePath({}, attributes, path(lines, closed));
 }
 
 QByteArray SvgCanvas::glyph(SysDisplay::Glyph const& glyph) {
@@ -341,7 +339,7 @@ void SvgCanvas::restored() {
 }
 
 void SvgCanvas::clipped(PointRuns const& rings) {
-  QByteArray const clip = writer_.define("clipPath", {}, "<path" + path(rings, false) + "/>");
+  QByteArray const clip = writer_.define("clipPath", {}, "<path d=\"" + path(rings, false) + "\"/>");
   writer_.beginGroup(" clip-path=\"url(#" + clip + ")\"");
   ++states_.back().clips;
 }

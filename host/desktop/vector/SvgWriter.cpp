@@ -1,5 +1,7 @@
 #include "SvgWriter.h"
 
+#include <utility>
+
 namespace {
 
 constexpr int blockBytes = 1 << 20;
@@ -40,21 +42,59 @@ void SvgWriter::store(QByteArray const& markup) {
   if (waiting_.size() >= blockBytes) flush();
 }
 
-void SvgWriter::write(QByteArray const& markup) {
+void SvgWriter::openGroups() {
   for (Group& group : parts_.back().groups) {
     if (group.isWritten) continue;
     group.isWritten = true;
     store("<g" + group.attributes + ">\n");
     if (!group.title.isEmpty()) store("<title>" + group.title.toHtmlEscaped().toUtf8() + "</title>\n");
   }
+}
+
+void SvgWriter::writePath(QByteArray const& fill, QByteArray const& stroke, QByteArray const& d) {
+  Path& waiting = parts_.back().waiting;
+  if (fill.isEmpty() && waiting.stroke.isEmpty() && waiting.d == d && !d.isEmpty()) {
+    waiting.stroke = stroke;
+    return;
+  }
+  writeWaiting();
+  waiting = {fill, stroke, d};
+}
+
+void SvgWriter::writeWaiting() {
+  Part& part = parts_.back();
+  if (part.waiting.d.isEmpty()) return;
+  Path const path = std::exchange(part.waiting, {});
+  openGroups();
+  QByteArray const attributes = (path.fill.isEmpty() ? " fill=\"none\"" : path.fill) + path.stroke;
+  bool const isAlike = part.attributes == attributes;
+  if (part.isRunOpen != isAlike) store(isAlike ? "<g" + attributes + ">\n" : "</g>\n");
+  part.isRunOpen = isAlike;
+  part.attributes = attributes;
+  store("<path" + (isAlike ? QByteArray() : attributes) + " d=\"" + path.d + "\"/>\n");
+}
+
+void SvgWriter::endRun() {
+  writeWaiting();
+  Part& part = parts_.back();
+  if (part.isRunOpen) store("</g>\n");
+  part.isRunOpen = false;
+  part.attributes.clear();
+}
+
+void SvgWriter::write(QByteArray const& markup) {
+  endRun();
+  openGroups();
   store(markup);
 }
 
 void SvgWriter::beginGroup(QByteArray const& attributes, QString const& title) {
+  endRun();
   parts_.back().groups.push_back({attributes, title, false});
 }
 
 void SvgWriter::endGroup() {
+  endRun();
   bool const isWritten = parts_.back().groups.back().isWritten;
   parts_.back().groups.pop_back();
   if (isWritten) store("</g>\n");
@@ -66,6 +106,11 @@ QByteArray SvgWriter::define(char const* tag, QByteArray const& attributes, QByt
   if (QByteArray const known = definitions_.value(key); !key.isEmpty() && !known.isEmpty()) return known;
   QByteArray const id = 'd' + QByteArray::number(++definitionCount_);
   if (!key.isEmpty()) definitions_.insert(key, id);
+  // What is defined in a run of paths would take over what they have.
+  Part& file = parts_.front();
+  if (file.isRunOpen) waiting_ += "</g>\n";
+  file.isRunOpen = false;
+  file.attributes.clear();
   waiting_ += "<defs><" + QByteArray(tag) + " id=\"" + id + '"' + body + "</defs>\n";
   return id;
 }
@@ -73,6 +118,7 @@ QByteArray SvgWriter::define(char const* tag, QByteArray const& attributes, QByt
 void SvgWriter::beginPart() { parts_.emplace_back(); }
 
 QByteArray SvgWriter::endPart() {
+  endRun();
   QByteArray const markup = parts_.back().markup;
   parts_.pop_back();
   return markup;
@@ -80,6 +126,5 @@ QByteArray SvgWriter::endPart() {
 
 QString SvgWriter::finish() {
   flush();
-  isBroken_ = isBroken_ || !file_.flush();
-  return isBroken_ ? file_.errorString() : QString();
+  return file_.error() == QFile::NoError ? QString() : file_.errorString();
 }

@@ -20,6 +20,10 @@ public:
 
   void write(QByteArray const& markup);
 
+  /// Writes a path, which may be filled or stroked by these attributes; either may be empty. A stroke of what was
+  /// filled last is one with it, and what is alike in succession says so once.
+  void writePath(QByteArray const& fill, QByteArray const& stroke, QByteArray const& d);
+
   /// What is written between the two is a group with these attributes, and a title where that is not empty.
   void beginGroup(QByteArray const& attributes, QString const& title = {});
   void endGroup();
@@ -32,7 +36,8 @@ public:
   void beginPart();
   QByteArray endPart();
 
-  /// Ends the file. Empty, or what went wrong.
+  /// Ends the file. Empty, or what went wrong. Where there was no room for all of it, nothing is told, and the end is
+  /// missing.
   QString finish();
 
 private:
@@ -41,15 +46,22 @@ private:
     QString title;
     bool isWritten = false;
   };
+  struct Path {
+    QByteArray fill, stroke, d;
+  };
   struct Part {
     QByteArray markup;
     std::vector<Group> groups;
+    Path waiting;            // which a stroke may join
+    QByteArray attributes;   // of the path that was written last; empty where another thing was
+    bool isRunOpen = false;  // a group of paths with these attributes
   };
 
+  void openGroups();
+  void writeWaiting();
+  void endRun();
   void store(QByteArray const& markup);
   void flush();
-  QString problem() const;
-
   QFile file_;
   QByteArray waiting_;  // for the file
   bool isBroken_ = false;
