@@ -1447,11 +1447,11 @@
     </message>
     <message>
         <source>Series of Pages…</source>
-        <translation>Serie von Seiten…</translation>
+        <translation>Serie von Seiten …</translation>
     </message>
     <message>
         <source>Make a page for each feature of a layer</source>
-        <translation>Für jedes Objekt eines Layers eine Seite anlegen</translation>
+        <translation>Für jedes Objekt einer Ebene eine Seite anlegen</translation>
     </message>
     <message>
         <source>First Page</source>
@@ -1635,7 +1635,7 @@
     <name>Coverage</name>
     <message>
         <source>The document has no series of pages; name its layer in “series/layer”.</source>
-        <translation>Das Dokument hat keine Serie von Seiten; nennen Sie ihren Layer in „series/layer“.</translation>
+        <translation>Das Dokument hat keine Serie von Seiten; nennen Sie ihre Ebene in „series/layer“.</translation>
     </message>
     <message>
         <source>The series names no map that is on the page; give its number in “series/map”.</source>
@@ -1643,11 +1643,11 @@
     </message>
     <message>
         <source>The map “%1” has no layer “%2” whose features could have pages; name one of these in “series/layer”: %3.</source>
-        <translation>Die Karte „%1“ hat keinen Layer „%2“, dessen Objekte Seiten haben könnten; nennen Sie in „series/layer“ einen von diesen: %3.</translation>
+        <translation>Die Karte „%1“ hat keine Ebene „%2“, deren Objekte Seiten haben könnten; nennen Sie in „series/layer“ eine von diesen: %3.</translation>
     </message>
     <message>
         <source>The series has no pages: no feature of its layer meets its filters; change “series/filter”.</source>
-        <translation>Die Serie hat keine Seiten: kein Objekt ihres Layers erfüllt ihre Filter; ändern Sie „series/filter“.</translation>
+        <translation>Die Serie hat keine Seiten: kein Objekt ihrer Ebene erfüllt ihre Filter; ändern Sie „series/filter“.</translation>
     </message>
     <message>
         <source>The features of the series have no field “%1”; they have: %2.</source>
@@ -5255,7 +5255,7 @@
     </message>
     <message>
         <source>A page for each feature of a layer, or for each row of a table.</source>
-        <translation>Eine Seite für jedes Objekt eines Layers oder für jede Zeile einer Tabelle.</translation>
+        <translation>Eine Seite für jedes Objekt einer Ebene oder für jede Zeile einer Tabelle.</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -5271,11 +5271,11 @@
     </message>
     <message>
         <source>The name of a layer of the map: each of its features has a page. Empty where a source of its own has the features.</source>
-        <translation>Der Name eines Layers der Karte: jedes seiner Objekte hat eine Seite. Leer, wo eine eigene Quelle die Objekte hat.</translation>
+        <translation>Der Name einer Ebene der Karte: jedes ihrer Objekte hat eine Seite. Leer, wo eine eigene Quelle die Objekte hat.</translation>
     </message>
     <message>
         <source>Data of which no map has a layer: each feature or row of a table has a page.</source>
-        <translation>Daten, von denen keine Karte einen Layer hat: jedes Objekt und jede Zeile einer Tabelle hat eine Seite.</translation>
+        <translation>Daten, von denen keine Karte eine Ebene hat: jedes Objekt und jede Zeile einer Tabelle hat eine Seite.</translation>
     </message>
     <message>
         <source>A condition on the attributes as in SQL: only features that meet it have a page.</source>
@@ -5319,7 +5319,7 @@
     </message>
     <message>
         <source>With what the feature of the page is drawn over its layer; without it, it is not.</source>
-        <translation>Womit das Objekt der Seite über seinem Layer gezeichnet wird; ohne sie wird es nicht hervorgehoben.</translation>
+        <translation>Womit das Objekt der Seite über seiner Ebene gezeichnet wird; ohne sie wird es nicht hervorgehoben.</translation>
     </message>
     <message>
         <source>Hide others</source>
@@ -5327,7 +5327,7 @@
     </message>
     <message>
         <source>Whether the other features of the layer are left out, with their labels.</source>
-        <translation>Ob die anderen Objekte des Layers mit ihren Beschriftungen weggelassen werden.</translation>
+        <translation>Ob die anderen Objekte der Ebene mit ihren Beschriftungen weggelassen werden.</translation>
     </message>
     <message>
         <source>Outside</source>
@@ -5335,7 +5335,7 @@
     </message>
     <message>
         <source>With what all that lies outside the feature&apos;s area is covered, as far as it lies below the layer; without it, nothing is.</source>
-        <translation>Womit alles bedeckt wird, was außerhalb der Fläche des Objekts und unter dem Layer liegt; ohne es wird nichts bedeckt.</translation>
+        <translation>Womit alles bedeckt wird, was außerhalb der Fläche des Objekts und unter der Ebene liegt; ohne es wird nichts bedeckt.</translation>
     </message>
     <message>
         <source>The number of the map that follows the features; −1 for none.</source>
@@ -8082,7 +8082,7 @@ Die Kopie bleibt in %2.</translation>
     </message>
     <message>
         <source>Name a layer, and each of its features has a page.</source>
-        <translation>Nennen Sie einen Layer, und jedes seiner Objekte hat eine Seite.</translation>
+        <translation>Nennen Sie eine Ebene, und jedes ihrer Objekte hat eine Seite.</translation>
     </message>
 </context>
 <context>
@@ -8182,7 +8182,7 @@ Die Kopie bleibt in %2.</translation>
     <name>SeriesSettings</name>
     <message>
         <source>is missing; name the layer, or a “source”, whose features are to have a page each</source>
-        <translation>fehlt; nennen Sie den Layer oder eine „source“, deren Objekte je eine Seite haben sollen</translation>
+        <translation>fehlt; nennen Sie die Ebene oder eine „source“, deren Objekte je eine Seite haben sollen</translation>
     </message>
 </context>
 <context>

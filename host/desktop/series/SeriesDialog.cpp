@@ -15,6 +15,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QListView>
+#include <QPushButton>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -42,6 +43,7 @@ SeriesDialog::SeriesDialog(DocumentSession& session, SeriesView& series, QWidget
   auto* const row = new QHBoxLayout;
   auto* const preview = new QVBoxLayout;
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+  buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);  // Return takes a value
   column->addLayout(row, 1);
   column->addWidget(buttons);
   row->addWidget(sheet_, 3);
