@@ -75,34 +75,38 @@ __attribute__((destructor)) void end() {
   }
 }
 
+// The argument that only a call which may make a file has.
 mode_t modeIn(int flags, va_list arguments) {
   return (flags & (O_CREAT | __O_TMPFILE)) ? static_cast<mode_t>(va_arg(arguments, int)) : 0;
 }
 
 }  // namespace
 
-#define WITH_MODE(flags)                        \
-  va_list arguments;                            \
-  va_start(arguments, flags);                   \
-  mode_t const mode = modeIn(flags, arguments); \
-  va_end(arguments)
-
 extern "C" {
 
 int open(char const* path, int flags, ...) {
-  WITH_MODE(flags);
+  va_list arguments;
+  va_start(arguments, flags);
+  mode_t const mode = modeIn(flags, arguments);
+  va_end(arguments);
   static auto const next = real<int (*)(char const*, int, mode_t)>("open");
   startAt(path);
   return fails(Open) ? -1 : next(path, flags, mode);
 }
 int open64(char const* path, int flags, ...) {
-  WITH_MODE(flags);
+  va_list arguments;
+  va_start(arguments, flags);
+  mode_t const mode = modeIn(flags, arguments);
+  va_end(arguments);
   static auto const next = real<int (*)(char const*, int, mode_t)>("open64");
   startAt(path);
   return fails(Open) ? -1 : next(path, flags, mode);
 }
 int openat(int folder, char const* path, int flags, ...) {
-  WITH_MODE(flags);
+  va_list arguments;
+  va_start(arguments, flags);
+  mode_t const mode = modeIn(flags, arguments);
+  va_end(arguments);
   static auto const next = real<int (*)(int, char const*, int, mode_t)>("openat");
   startAt(path);
   return fails(Open) ? -1 : next(folder, path, flags, mode);
