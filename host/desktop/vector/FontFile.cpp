@@ -1,5 +1,7 @@
 #include "FontFile.h"
 
+#include <QPainterPath>
+
 #include <hb-ot.h>
 
 #include <array>
