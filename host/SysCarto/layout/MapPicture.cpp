@@ -113,7 +113,10 @@ void drawMapShapes(QPainter& painter, MapFrameElement const& frame, DisplayTrans
     canvas->endLayer();
   }
   if (IElementContainer* graphics = map->GetGraphicsContainer()) graphics->Draw(painter, mapped, phase, cancel);
-  for (_ptr_t<Element> const& label : labels) label->Draw(painter, mapped, cancel);
+  for (_ptr_t<Element> const& label : labels) {
+    if (cancel && cancel->IsCanced()) break;
+    label->Draw(painter, mapped, cancel);
+  }
   canvas->endSheet();
   canvas->endLayer();
   canvas->restore();

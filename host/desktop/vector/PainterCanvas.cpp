@@ -21,13 +21,16 @@ namespace {
 constexpr double mostPictureArea = 64e6;  // pixels; 256 MB
 constexpr size_t betweenLooks = 64;
 
+// A tenth of a pixel is finer than paper, and a file of such numbers half as long as one of exact ones.
+QPointF rounded(QPointF const& point) { return {std::round(point.x() * 10) / 10, std::round(point.y() * 10) / 10}; }
+
 QPainterPath pathOf(PointRuns const& runs, bool closed, Qt::FillRule rule = Qt::OddEvenFill) {
   QPainterPath path;
   path.setFillRule(rule);
   for (int i = 0; i < runs.count(); ++i) {
-    path.moveTo(runs.run(i)[0]);
-    for (int j = 1; j < runs.size(i); ++j) path.lineTo(runs.run(i)[j]);
-    if (runs.size(i) == 1) path.lineTo(runs.run(i)[0]);  // a dot, by its caps
+    path.moveTo(rounded(runs.run(i)[0]));
+    for (int j = 1; j < runs.size(i); ++j) path.lineTo(rounded(runs.run(i)[j]));
+    if (runs.size(i) == 1) path.lineTo(rounded(runs.run(i)[0]));  // a dot, by its caps
     if (closed) path.closeSubpath();
   }
   return path;
@@ -198,15 +201,17 @@ void PainterCanvas::text(TextFormat const& format, ShapedLine const& line, QTran
 }
 
 void PainterCanvas::halo(TextFormat const& format, ShapedLine const& line, QTransform const& toPage) {
-  // As one shape, which a color that can be seen through darkens once.
-  double const emPx = std::sqrt(std::abs(toPage.determinant()));
-  QPainterPathStroker stroker;
-  stroker.setWidth(2 * format.haloSize / format.size * emPx);
-  stroker.setCapStyle(Qt::RoundCap);
-  stroker.setJoinStyle(Qt::RoundJoin);
-  QPainterPath path = stroker.createStroke(toPage.map(outlineOf(line)));
-  path.setFillRule(Qt::WindingFill);
-  fillPath(path, format.haloColor);
+  // The letters of a line as one path, which a color that can be seen through darkens once.
+  double const width = 2 * format.haloSize / format.size;
+  QPen const pen(format.haloColor, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  QPainterPath const outline = outlineOf(line);
+  QRectF const bounds = toPage.mapRect(outline.controlPointRect().adjusted(-width, -width, width, width));
+  draw(bounds, [outline, pen, toPage](QPainter& painter) {
+    painter.save();
+    painter.setTransform(toPage, true);
+    painter.strokePath(outline, pen);
+    painter.restore();
+  });
 }
 
 void PainterCanvas::picture(SysDisplay::PictureData const& picture, QTransform const& toPage) {

@@ -6,6 +6,9 @@
 #include <qpdf/QPDFPageObjectHelper.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include <algorithm>
+#include <stdexcept>
+
 namespace {
 
 QString const producer = QStringLiteral("Plotvane");
@@ -29,6 +32,8 @@ QPDFObjectHandle boxIn(QRectF const& mediaCm, QRectF const& boxCm, QSizeF const&
                   (boxCm.right() - mediaCm.left()) * scale, (mediaCm.bottom() - boxCm.top()) * scale});
 }
 
+bool isCancelled(PdfFile::Cancel const& cancel) { return cancel && cancel->IsCanced(); }
+
 }  // namespace
 
 PdfFile::PdfFile(SysCarto::FileInformation information, OutputIntent intent)
@@ -41,15 +46,27 @@ PdfFile::PdfFile(SysCarto::FileInformation information, OutputIntent intent)
   structure_.replaceKey("/ParentTree", parents_);
 }
 
+// Readers put the pieces together, which are cut between operators. A whole one of a large page takes seconds to pack.
+QPDFObjectHandle PdfFile::contents(QByteArray const& operators, Cancel const& cancel) {
+  constexpr int pieceBytes = 1 << 20;
+  QPDFObjectHandle pieces = QPDFObjectHandle::newArray();
+  for (int from = 0, to; from < operators.size() && !isCancelled(cancel); from = to) {
+    int const end = operators.indexOf('\n', std::min(from + pieceBytes, operators.size()) - 1);
+    to = end < 0 ? operators.size() : end + 1;
+    pieces.appendItem(objects_.packed(operators.mid(from, to - from)));
+  }
+  return pieces.getArrayNItems() == 1 ? pieces.getArrayItem(0) : pieces;
+}
+
 void PdfFile::addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames,
-                      PageBoxes const& boxes) {
+                      PageBoxes const& boxes, Cancel const& cancel) {
   QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
   page.replaceKey("/Type", name("/Page"));
   page.replaceKey("/MediaBox", numbers({0, 0, sizePt.width(), sizePt.height()}));
   for (auto const& [key, box] : {std::make_pair("/BleedBox", boxes.bleed), {"/TrimBox", boxes.trim}})
     if (!boxes.arePlain()) page.replaceKey(key, boxIn(boxes.media, box, sizePt));
   page.replaceKey("/Resources", objects_.resources());
-  page.replaceKey("/Contents", objects_.packed(canvas.content(sizePt)));
+  page.replaceKey("/Contents", contents(canvas.content(sizePt), cancel));
   page.replaceKey("/Group", QPDFObjectHandle::parse("<</Type/Group/S/Transparency/CS/DeviceRGB>>"));
   page.replaceKey("/Tabs", name("/S"));
   page.replaceKey("/StructParents", QPDFObjectHandle::newInteger(pages_));
@@ -178,7 +195,7 @@ QByteArray PdfFile::metadata() const {
                                   {pdf, pdfPrefix, QStringLiteral("Keywords"), keywordsIn(information_)}});
 }
 
-QString PdfFile::write(QString const& path) {
+QString PdfFile::write(QString const& path, Cancel const& cancel) {
   try {
     fonts_.embed(objects_);
     describe();
@@ -188,6 +205,9 @@ QString PdfFile::write(QString const& path) {
     writer.setObjectStreamMode(qpdf_o_generate);
     writer.setCompressStreams(true);
     writer.setDeterministicID(true);
+    writer.registerProgressReporter(std::make_shared<QPDFWriter::FunctionProgressReporter>([&](int) {
+      if (isCancelled(cancel)) throw std::runtime_error("cancelled");  // qpdf stops by a throw alone
+    }));
     writer.write();
   } catch (std::exception const& error) {
     return QString::fromLocal8Bit(error.what());

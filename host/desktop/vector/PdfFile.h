@@ -6,6 +6,8 @@
 
 #include "host/SysCarto/document/PageTexts.h"
 
+#include <SysUI/TrackerCancel.h>
+
 #include <QPolygonF>
 
 /// A data frame on a page, and where on the globe it lies.
@@ -22,22 +24,27 @@ struct GeoreferencedFrame {
 /// A PDF 1.7 that is a PDF/A-2b, too. Pages are added one by one.
 class PdfFile {
 public:
+  /// Asked from time to time whether to go on; may be null.
+  using Cancel = SysUtility::_ptr_t<SysUI::TrackerCancel>;
+
   PdfFile(SysCarto::FileInformation information, OutputIntent intent);
 
   PdfObjects& objects() { return objects_; }
   PdfFonts& fonts() { return fonts_; }
 
   /// The canvas must be of this file's objects and fonts, and be the media box of `boxes`, of that size in points.
+  /// A page that is cancelled is not whole.
   void addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames,
-               PageBoxes const& boxes);
+               PageBoxes const& boxes, Cancel const& cancel);
 
   /// A bookmark that leads to the page that was added last.
   void addBookmark(QString const& name);
 
   /// Writes the file. Empty, or what went wrong. Once.
-  QString write(QString const& path);
+  QString write(QString const& path, Cancel const& cancel);
 
 private:
+  QPDFObjectHandle contents(QByteArray const& operators, Cancel const& cancel);
   QPDFObjectHandle viewport(GeoreferencedFrame const& frame, QTransform const& toPoints);
   void addParts(PdfCanvas const& canvas, QPDFObjectHandle const& page, int pageNumber);
   void addOutline();

@@ -34,7 +34,7 @@ void addPage(PdfFile& file, SysCarto::MapDocument const& document, VectorOptions
   VectorPage const page(layout, options.dpi, boxes.arePlain() ? QRectF() : boxes.media);
   PdfCanvas canvas(file.objects(), file.fonts(), page.size(), options.dpi, options.textAsShapes, options.layers);
   draw(page, boxes, canvas, cancel);
-  if (!cancel || !cancel->IsCanced()) file.addPage(canvas, page.sizePt(), page.frames(), boxes);
+  if (!cancel || !cancel->IsCanced()) file.addPage(canvas, page.sizePt(), page.frames(), boxes, cancel);
 }
 
 }  // namespace
@@ -53,7 +53,7 @@ QString writePdf(SysCarto::MapDocument const& document, QString const& path, Vec
     addPage(file, document, options, cancel);
     if (!isCancelled()) file.addBookmark(*name);
   }
-  return isCancelled() ? QString() : file.write(path);
+  return isCancelled() ? QString() : file.write(path, cancel);
 }
 
 QString writeSvg(SysCarto::MapDocument const& document, QString const& path, VectorOptions const& options,
