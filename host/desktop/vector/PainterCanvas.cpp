@@ -175,6 +175,12 @@ void PainterCanvas::fill(PointRuns const& rings, Tiling const& tiling) {
 void PainterCanvas::stroke(PointRuns const& lines, bool closed, Stroke const& stroke) {
   QPen pen(stroke.color, stroke.width, Qt::SolidLine, capOf(stroke.cap), joinOf(stroke.join));
   pen.setMiterLimit(stroke.miterLimit);
+  if (!stroke.dashes.pattern.empty() && stroke.width > 0) {
+    QVector<qreal> inWidths;
+    for (double const length : stroke.dashes.pattern) inWidths << length / stroke.width;
+    pen.setDashPattern(inWidths);
+    pen.setDashOffset(stroke.dashes.start / stroke.width);
+  }
   double const reach = stroke.width * std::max(1.0, stroke.miterLimit);
   QRectF const bounds = lines.bounds().adjusted(-reach, -reach, reach, reach);
   draw(bounds, [path = pathOf(lines, closed), pen](QPainter& painter) { painter.strokePath(path, pen); });
