@@ -55,35 +55,49 @@ QString clearLeftovers() {
   return target;
 }
 
-// What the process shares with nobody, in bytes; 0 where that is not told.
-qint64 memoryOf(pid_t process) {
-  QFile file(QStringLiteral("/proc/%1/statm").arg(process));
-  if (!file.open(QIODevice::ReadOnly)) return 0;
-  auto const pages = file.readAll().split(' ');
-  return (pages.value(1).toLongLong() - pages.value(2).toLongLong()) * sysconf(_SC_PAGESIZE);
+QByteArray procFile(QString const& path) {
+  QFile file(QStringLiteral("/proc/") + path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// What a process and those that it has begun share with nobody, in bytes.
+qint64 memoryOf(qint64 process) {
+  auto const pages = procFile(QStringLiteral("%1/statm").arg(process)).split(' ');
+  qint64 bytes = (pages.value(1).toLongLong() - pages.value(2).toLongLong()) * sysconf(_SC_PAGESIZE);
+  for (QByteArray const& child : procFile(QStringLiteral("%1/task/%1/children").arg(process)).split(' '))
+    if (!child.isEmpty()) bytes += memoryOf(child.toLongLong());
+  return bytes;
+}
+
+// What a terminal sends reaches both processes by itself, and a second one ends the other at once.
+bool isToBeHandedOn(siginfo_t const& signal, sigset_t& handedOn) {
+  if (signal.si_code > 0 || sigismember(&handedOn, signal.si_signo) == 1) return false;
+  sigaddset(&handedOn, signal.si_signo);
+  return true;
 }
 
 ProcessEnding waitFor(pid_t process, ResourceLimits const& limits, sigset_t const& handled) {
   using Reason = ProcessEnding::Reason;
   constexpr timespec lookAgain = {0, 50'000'000};
   ProcessEnding ending;
+  sigset_t handedOn;
+  sigemptyset(&handedOn);
   if (limits.seconds > 0) alarm(static_cast<unsigned>(limits.seconds));
   for (;;) {
-    int const signal =
-        limits.megabytes > 0 ? sigtimedwait(&handled, nullptr, &lookAgain) : sigwaitinfo(&handled, nullptr);
+    siginfo_t told = {};
+    int const signal = limits.megabytes > 0 ? sigtimedwait(&handled, &told, &lookAgain) : sigwaitinfo(&handled, &told);
+    int status = 0;
     if (signal == SIGALRM) {
       kill(process, ending.reason == Reason::Itself ? SIGTERM : SIGKILL);
       ending.reason = Reason::Time;
       alarm(graceSeconds);
-    } else if (signal == SIGCHLD) {
-      int status = 0;
-      if (waitpid(process, &status, WNOHANG) != process) continue;
+    } else if (signal == SIGCHLD && waitpid(process, &status, WNOHANG) == process) {
       if (WIFEXITED(status)) ending.status = WEXITSTATUS(status);
       if (WIFSIGNALED(status)) ending.signal = WTERMSIG(status);
       if (ending.signal != 0 && ending.reason == Reason::Itself) ending.reason = Reason::Signal;
       return ending;
-    } else if (signal > 0) {
-      kill(process, signal);
+    } else if (signal > 0 && signal != SIGCHLD) {
+      if (isToBeHandedOn(told, handedOn)) kill(process, signal);
     } else if (limits.megabytes > 0 && memoryOf(process) >> 20 >= limits.megabytes) {
       ending.reason = Reason::Memory;
       kill(process, SIGKILL);
@@ -104,6 +118,7 @@ ProcessEnding supervised(ResourceLimits const& limits, std::function<int()> cons
   sigset_t const handled = handledSignals();
   sigset_t before;
   sigprocmask(SIG_BLOCK, &handled, &before);
+  std::signal(SIGCHLD, SIG_DFL);  // who ignores it is never told of an end
   pid_t const own = getpid(), process = shared ? fork() : -1;
   if (process <= 0) sigprocmask(SIG_SETMASK, &before, nullptr);
   if (process < 0) return {ProcessEnding::Reason::Itself, work(), 0, QString()};  // no room for two
@@ -114,8 +129,6 @@ ProcessEnding supervised(ResourceLimits const& limits, std::function<int()> cons
     sigprocmask(SIG_SETMASK, &before, nullptr);
     return ending;
   }
-  // A terminal's signals come once, from the other process.
-  setpgid(0, 0);
   prctl(PR_SET_PDEATHSIG, SIGTERM);
   if (getppid() != own) raise(SIGTERM);
   std::exit(work());

@@ -27,9 +27,9 @@ struct ProcessEnding {
   QString unfinished;              ///< what it was about to write, where it left that behind; all of it is gone now
 };
 
-/// Runs the work in a process of its own, whose exit status it answers. Signals that ask this process to end are handed
-/// on, and if it is killed the other one is asked to end. To be called before there are threads or an application; only
-/// the other process has one.
+/// Runs the work in a process of its own, in the same group. Signals that ask this one to end are handed on, and if it
+/// is killed the other one is asked to end. To be called before there are threads or an application; only the other
+/// process has one.
 ProcessEnding supervised(ResourceLimits const& limits, std::function<int()> const& work);
 
 /// A folder of this process's own that has to go with it, however it ends.

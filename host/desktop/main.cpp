@@ -57,6 +57,9 @@ int runWindow(int argc, char** argv, std::optional<QString> const& language) {
   return finished(runWindow(ownArguments().value(0)));
 }
 
+// Of these a process dies because somebody wants it so; whoever waits for us is to see the same.
+bool isWanted(int signal) { return signal == SIGINT || signal == SIGTERM || signal == SIGHUP || signal == SIGPIPE; }
+
 // What the other process can't tell any more.
 int tellEnding(int argc, char** argv, ProcessEnding const& ending, ResourceLimits const& limits,
                std::optional<QString> const& language) {
@@ -68,7 +71,9 @@ int tellEnding(int argc, char** argv, ProcessEnding const& ending, ResourceLimit
                            ? subcommand + QStringLiteral(": ")
                            : QCoreApplication::translate("main", "%1 was not written: ").arg(ending.unfinished);
   QString why;
-  if (ending.reason == Reason::Time)
+  if (ending.reason == Reason::Signal && isWanted(ending.signal))
+    why = QCoreApplication::translate("main", "interrupted.");
+  else if (ending.reason == Reason::Time)
     why = QCoreApplication::translate("main", "it took more than the %1 s of --max-seconds.").arg(limits.seconds);
   else if (ending.reason == Reason::Memory)
     why = QCoreApplication::translate("main", "it took more than the %1 MB of --max-memory.").arg(limits.megabytes);
@@ -94,6 +99,13 @@ int main(int argc, char** argv) {
   }
   prepareEnvironment();
   ProcessEnding const ending = supervised(limits, [&] { return runSubcommand(argc, argv, language); });
-  return ending.reason == ProcessEnding::Reason::Itself ? ending.status
-                                                        : tellEnding(argc, argv, ending, limits, language);
+  if (ending.reason == ProcessEnding::Reason::Itself) return ending.status;
+  bool const isQuiet = isWanted(ending.signal) && ending.reason == ProcessEnding::Reason::Signal;
+  int const status =
+      isQuiet && ending.unfinished.isEmpty() ? WorkFailed : tellEnding(argc, argv, ending, limits, language);
+  if (isQuiet) {
+    std::signal(ending.signal, SIG_DFL);
+    std::raise(ending.signal);
+  }
+  return status;
 }

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include <sys/file.h>
+#include <unistd.h>
 
 namespace {
 
@@ -12,12 +13,15 @@ QString const lockName = QStringLiteral("lock");
 
 bool isLocked(QFile& file) { return flock(file.handle(), LOCK_EX | LOCK_NB) == 0; }
 
-// Whose lock can be had belongs to nobody any more; one without a lock has just been made, or is not ours.
+// Whose lock can be had belongs to nobody any more; one without a lock has just been made, or is not ours. Links lead
+// to what others have put there, and are not followed.
 void sweep(QDir const& place) {
-  for (QString const& name : place.entryList({prefix + QLatin1Char('*')}, QDir::Dirs | QDir::Hidden)) {
-    QFile lock(place.filePath(name + QLatin1Char('/') + lockName));
-    if (lock.exists() && lock.open(QIODevice::ReadWrite) && isLocked(lock))
-      QDir(place.filePath(name)).removeRecursively();
+  auto const filter = QDir::Dirs | QDir::Hidden | QDir::NoSymLinks;
+  for (QFileInfo const& folder : place.entryInfoList({prefix + QLatin1Char('*')}, filter)) {
+    if (folder.ownerId() != getuid()) continue;
+    QFile lock(folder.filePath() + QLatin1Char('/') + lockName);
+    if (!QFileInfo(lock).isSymLink() && lock.exists() && lock.open(QIODevice::ReadWrite) && isLocked(lock))
+      QDir(folder.filePath()).removeRecursively();
   }
 }
 

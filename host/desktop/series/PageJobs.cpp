@@ -7,6 +7,9 @@
 #include <QProcess>
 #include <QTimer>
 
+#include <sys/prctl.h>
+
+#include <csignal>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -18,12 +21,18 @@ constexpr int patienceMs = 10000;  // of an interrupted process that cleans up b
 
 QString const prefix = QStringLiteral("plotvane: ");
 
+// Asked to end where this process is killed.
+class Job final : public QProcess {
+protected:
+  void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGTERM); }
+};
+
 }  // namespace
 
 PageJobs::PageJobs(SysUtility::_ptr_t<SysUI::TrackerCancel> cancel) : cancel_(std::move(cancel)) {}
 
 bool PageJobs::run(QList<QStringList> const& arguments) {
-  std::vector<std::unique_ptr<QProcess>> processes;
+  std::vector<std::unique_ptr<Job>> processes;
   QEventLoop loop;
   int running = 0;
   bool areWhole = true;
@@ -36,7 +45,7 @@ bool PageJobs::run(QList<QStringList> const& arguments) {
     if (--running == 0) loop.quit();
   };
   for (QStringList const& own : arguments) {
-    processes.push_back(std::make_unique<QProcess>());
+    processes.push_back(std::make_unique<Job>());
     QProcess& process = *processes.back();
     auto const lines = [&process](QProcess::ProcessChannel channel, std::function<void(QString const&)> const& take) {
       process.setReadChannel(channel);
