@@ -9269,5 +9269,9 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
         <source>the program ended by a fault of its own (signal %1). Please report it.</source>
         <translation>Das Programm endete durch einen eigenen Fehler (Signal %1). Bitte melden Sie ihn.</translation>
     </message>
+    <message>
+        <source>interrupted.</source>
+        <translation>abgebrochen.</translation>
+    </message>
 </context>
 </TS>

@@ -9269,5 +9269,9 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <source>the program ended by a fault of its own (signal %1). Please report it.</source>
         <translation>程序因自身错误而结束（信号 %1）。请报告此问题。</translation>
     </message>
+    <message>
+        <source>interrupted.</source>
+        <translation>已中断。</translation>
+    </message>
 </context>
 </TS>
