@@ -2201,6 +2201,10 @@
         <source>the series</source>
         <translation>der Serie</translation>
     </message>
+    <message>
+        <source>“%1” is a thing of its own, written without “document/”: %2</source>
+        <translation>„%1“ ist ein Ding für sich und wird ohne „document/“ geschrieben: %2</translation>
+    </message>
 </context>
 <context>
     <name>Editor</name>
@@ -7282,6 +7286,10 @@
         <source>Keep</source>
         <translation>Beibehalten</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>OpacitySlider</name>
@@ -8083,6 +8091,14 @@ Die Kopie bleibt in %2.</translation>
     <message>
         <source>Name a layer, and each of its features has a page.</source>
         <translation>Nennen Sie eine Ebene, und jedes ihrer Objekte hat eine Seite.</translation>
+    </message>
+    <message>
+        <source>Set the features of the series</source>
+        <translation>Objekte der Serie setzen</translation>
+    </message>
+    <message>
+        <source>Data of the Series</source>
+        <translation>Daten der Serie</translation>
     </message>
 </context>
 <context>

@@ -2201,6 +2201,10 @@
         <source>the series</source>
         <translation>系列</translation>
     </message>
+    <message>
+        <source>“%1” is a thing of its own, written without “document/”: %2</source>
+        <translation>“%1”是独立的对象，书写时不带“document/”：%2</translation>
+    </message>
 </context>
 <context>
     <name>Editor</name>
@@ -7282,6 +7286,10 @@
         <source>Keep</source>
         <translation>保留</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 <context>
     <name>OpacitySlider</name>
@@ -8083,6 +8091,14 @@ The copy is kept in %2.</source>
     <message>
         <source>Name a layer, and each of its features has a page.</source>
         <translation>指定一个图层，其每个要素就有一页。</translation>
+    </message>
+    <message>
+        <source>Set the features of the series</source>
+        <translation>设置系列的要素</translation>
+    </message>
+    <message>
+        <source>Data of the Series</source>
+        <translation>系列的数据</translation>
     </message>
 </context>
 <context>

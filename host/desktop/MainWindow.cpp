@@ -222,7 +222,7 @@ void MainWindow::buildViews() {
   grid->addWidget(rulers_[1], 1, 0);
   grid->addWidget(&bench_.views(), 1, 1);
   box->addLayout(grid, 1);
-  box->addWidget(new PageChooser(bench_.series(), *notice_, centre));
+  box->addWidget(new PageChooser(bench_.series(), centre));
   box->addWidget(tabs_);
   setCentralWidget(centre);
   connect(tabs_, &QTabBar::currentChanged, this,

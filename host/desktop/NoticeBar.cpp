@@ -4,7 +4,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), text_(new QLabel(this)), reload_(new QPushButton(this)) {
+NoticeBar::NoticeBar(QWidget* parent)
+    : QFrame(parent), text_(new QLabel(this)), reload_(new QPushButton(this)), keep_(new QPushButton(this)) {
   setBackgroundRole(QPalette::ToolTipBase);
   setForegroundRole(QPalette::ToolTipText);
   setAutoFillBackground(true);
@@ -14,14 +15,13 @@ NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), text_(new QLabel(this)),
   text_->setForegroundRole(QPalette::ToolTipText);
   reload_->setObjectName(QStringLiteral("pushButton_Reload"));
   reload_->setText(tr("Reload"));
-  auto* const keep = new QPushButton(tr("Keep"), this);
-  keep->setObjectName(QStringLiteral("pushButton_Keep"));
+  keep_->setObjectName(QStringLiteral("pushButton_Keep"));
   auto* const row = new QHBoxLayout(this);
   row->addWidget(text_, 1);
   row->addWidget(reload_);
-  row->addWidget(keep);
+  row->addWidget(keep_);
   connect(reload_, &QPushButton::clicked, this, &NoticeBar::reloadWanted);
-  connect(keep, &QPushButton::clicked, this, &NoticeBar::keepWanted);
+  connect(keep_, &QPushButton::clicked, this, &NoticeBar::keepWanted);
   hide();
 }
 
@@ -30,5 +30,6 @@ NoticeBar::~NoticeBar() = default;
 void NoticeBar::tell(QString const& text, bool canReload) {
   text_->setText(text);
   reload_->setVisible(canReload);
+  keep_->setText(canReload ? tr("Keep") : tr("Close"));  // where nothing was changed outside there is nothing to keep
   show();
 }

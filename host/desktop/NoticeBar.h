@@ -23,4 +23,5 @@ signals:
 private:
   QLabel* text_;
   QPushButton* reload_;
+  QPushButton* keep_;
 };

@@ -6,6 +6,7 @@
 #include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
 #include "host/desktop/series/FileNames.h"
+#include "host/desktop/series/NameOrder.h"
 #include "host/desktop/series/PageRanges.h"
 #include "host/desktop/series/SeriesExport.h"
 
@@ -114,15 +115,44 @@ private slots:
     QVERIFY(SysCarto::MapSteps::setExtent(*map, {0, 0, 600, 400}));
     QCOMPARE(shown(*map), QRectF(0, 0, 600, 400));
     QCOMPARE(map->GetRotation(), 0.0);
+    QCOMPARE(series.pages()->shown(), 0);
     QCOMPARE(series.show(5), QString());
+    QCOMPARE(set({"rotation"}, ""), QString());
+    auto const turn = [](QJsonValue const&) { return QJsonValue(40); };
+    QCOMPARE(SysCarto::Editable::set(document, {SysCarto::Editable::map(map)}, {"rotation"}, turn, warnings),
+             QString());
+    QCOMPARE(shown(*map).center(), turned.center());
+    QCOMPARE(map->GetRotation(), 40.0);
+    document.GetOperationStack()->Undo();
+    QCOMPARE(shown(*map).center(), turned.center());
+    QCOMPARE(map->GetRotation(), 0.0);
+    QCOMPARE(series.pages()->shown(), 5);
     QCOMPARE(set({"filter"}, "number > 4"), QString());
     QCOMPARE(series.pages()->count(), 6);
     QCOMPARE(set({"filter"}, "number > "), QString());
     QVERIFY(!series.pages());
     QVERIFY(series.problem().contains("number > "));
-    for (int step = 0; step < 8; ++step) document.GetOperationStack()->Undo();
+    while (MapDocumentHost::history(document)->canUndo()) document.GetOperationStack()->Undo();
     QCOMPARE(MapDocumentHost::text(document), before);
     QCOMPARE(series.pages()->count(), 10);
+  }
+
+  void whatIsStoredDoesNotDependOnThePage() {
+    auto const text = [&](QString const& page, QString const& field, QJsonValue const& value) {
+      WorkbenchPage bench;
+      bench.bench.session().open(path("book.kdx"));
+      auto& document = bench.bench.session().document();
+      bench.bench.series().show(page);
+      QStringList warnings;
+      SysCarto::Editable::set(
+          document, {SysCarto::Editable::map(document.GetMap(0))}, {field}, [&](QJsonValue const&) { return value; },
+          warnings);
+      return MapDocumentHost::text(document);
+    };
+    for (auto const& [field, value] :
+         {std::make_pair("name", QJsonValue("Other")), std::make_pair("rotation", QJsonValue(20)),
+          std::make_pair("scale", QJsonValue(3e6))})
+      QCOMPARE(text("b2", field, value), text("none", field, value));
   }
 
   // Those that the edge of the world cuts in two are not shown from one to the other.
@@ -146,6 +176,15 @@ private slots:
       QVERIFY2(area.width() < round * (isWide ? 0.9 : 0.4), qPrintable(name));
       QVERIFY2(std::abs(area.center().x()) < round / 2, qPrintable(name));
     }
+  }
+
+  void namesComeInOneOrderEverywhere() {
+    QStringList const inOrder{"Åland", "Aland B", "ban", "Bäst 2", "bast 10", "Östad", "Zeta", "Ægir"};
+    QStringList names = inOrder;
+    std::reverse(names.begin(), names.end());
+    std::sort(names.begin(), names.end(), [](QString const& a, QString const& b) { return compareNames(a, b) < 0; });
+    QCOMPARE(names, inOrder);
+    QVERIFY(compareNames("a", "å") < 0 && compareNames("01", "1") != 0);
   }
 
   void rangesAreReadAsTheyAreWritten_data() {
@@ -209,6 +248,7 @@ private slots:
     row("no such layer", "{'layer': 'Roads'}", {"[page].png"}, "has no layer “Roads”");
     row("no such order", "{'sort': 'rank'}", {"[page].png"}, "have no field “rank”");
     row("one file for all", "{}", {"one.png", "--pages", "1-2"}, "would be the file of 2 pages");
+    row("one file for parts", "{}", {"one.png", "--pages", "1-2", "--part", "1/2"}, "would be the file of 2 pages");
     row("no such page", "{}", {"[page].png", "--pages", "44"}, "There is no such page");
     row("a folder that is not there", "{}", {"none/[page].png"}, "does not exist");
     row("a PDF in several processes", "{}", {"one.pdf", "--jobs", "2"}, "--jobs draws pages into files of their own");
@@ -229,7 +269,8 @@ private slots:
   // A page that fails is told; what is whole is passed over, and what is not is written again, the same bytes.
   void pagesAreWrittenInPartsAndGoOnWhereTheyStopped() {
     QTemporaryDir whole, parts;
-    Outcome const outcome = exported(whole, {"--jobs", "2"});
+    Outcome const outcome =
+        run({"export", "--jobs", "2", "--dpi", "20", "--", path("book.kdx"), "[page]-[field:name].png"}, whole.path());
     QCOMPARE(outcome.status, 1);
     QVERIFY2(outcome.err.contains("Page 10 “nowhere”: its feature has no place"), qPrintable(outcome.err));
     QCOMPARE(contents(whole.path()).size(), 9);
@@ -246,6 +287,15 @@ private slots:
     QCOMPARE(contents(parts.path()).size(), 9);
     put(path("book.kdx"), contentOf(path("book.kdx")));  // it counts as changed
     QVERIFY(!exported(parts, {"--resume", "--pages", "1"}).err.contains("whole already"));
+  }
+
+  void whereNoMapFollowsNoPlaceIsNeeded() {
+    QTemporaryDir folder;
+    write("cards.kdx", json("{'layer': '', 'source': {'file': 'sheets.geojson'}, 'map': -1}"));
+    Outcome const outcome =
+        run({"export", path("cards.kdx"), "[page].png", "--dpi", "10", "--pages", "9-10"}, folder.path());
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(contents(folder.path()).size(), 2);
   }
 
   void aBookHasAPageAndABookmarkForEach() {

@@ -218,6 +218,13 @@ Wanted wantedOf(Fields::Describe const& list, QStringList const& path, SysUtilit
   return {whole, [other](QJsonValue const&) { return other; }};
 }
 
+// Whether a person looks within something for what stands beside it.
+bool isOwnThing(Fields::Describe const& list, QString const& key) {
+  FieldSheet sheet;
+  list(sheet);
+  return (key == QLatin1String("series") || key == QLatin1String("page")) && !fieldAt(sheet.fields(), {key});
+}
+
 template <class Settings>
 Editable::Pointer pageAs(MapDocument const& document) {
   using EditablePage = EditableSettings<Page, Settings>;
@@ -364,6 +371,8 @@ QString Editable::set(MapDocument const& document, List const& things, QStringLi
           framedMaps = own.framedMaps;
         },
         wanted.path, wanted.value, [&] { return thing->attributes(); });
+    if (!change.problem.isEmpty() && isOwnThing(list, path.first()))
+      return Texts::tr("“%1” is a thing of its own, written without “document/”: %2").arg(path.first(), what);
     if (!change.problem.isEmpty()) return change.problem;
     if (change.isChange) changes << read;
     context.framedMaps = framedMaps;  // one map is in one frame, among those that are changed here, too

@@ -12,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QSet>
 
+#include <cpl_string.h>
 #include <gdal_priv.h>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
@@ -284,6 +285,17 @@ QVector<QString> dataFilesIn(QString const& folder) {
   for (QString const& name : names)
     if (isDataFileName(name) && !isCompanion(name)) found << files.absoluteFilePath(name);
   return found;
+}
+
+QStringList filesOf(QString const& path) {
+  QStringList files{path, path + QStringLiteral("-wal")};
+  QString problem;
+  bool const mayOpen = isDataFileName(path) && DataSource::refusal(path).isEmpty();
+  auto const dataset = mayOpen ? openLocalDataset(path, problem) : nullptr;
+  char** const list = dataset ? dataset->GetFileList() : nullptr;
+  for (char** one = list; one && *one; ++one) files << QString::fromUtf8(*one);
+  CSLDestroy(list);
+  return files;
 }
 
 }  // namespace SysCarto

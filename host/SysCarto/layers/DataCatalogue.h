@@ -67,6 +67,10 @@ SYSCARTO_EXPORT std::vector<FieldDescription> fieldsOf(SourceSettings const& sou
 /// The first different values of a field, as texts, at most `limit`; of a very long file, of its beginning.
 SYSCARTO_EXPORT QStringList sampleValues(SourceSettings const& source, QString const& field, int limit);
 
+/// A local file (an absolute path) and those that belong to it, whether they are there or not: attributes and the index
+/// of a Shapefile, the log of a database.
+SYSCARTO_EXPORT QStringList filesOf(QString const& path);
+
 /// The files of a folder whose names are those of data, by name, without the companions of others; absolute.
 SYSCARTO_EXPORT QVector<QString> dataFilesIn(QString const& folder);
 

@@ -17,6 +17,7 @@
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace SysCarto {
@@ -32,6 +33,7 @@ namespace {
 
 // A side bends as a whole, and what a projector takes for straight may be a millimetre on a poster.
 constexpr int piecesOfSide = 64;
+constexpr double leastUm = 1500;  // on paper, of the longer side of an area; a smaller one would hardly be seen
 
 _ptr_t<FillSymbol> usualSymbol() {
   auto const outline = make<SysDisplay::SimpleLineSymbol>();
@@ -79,9 +81,30 @@ public:
     for (int i = 0; i < count; ++i) covered.add(xy[2 * i], xy[2 * i + 1]);
   }
 
+  // As large at least, about the centre.
+  Pieces grownTo(double size) const {
+    double const width = covered.xmax - covered.xmin, height = covered.ymax - covered.ymin;
+    double const longer = std::max(width, height);
+    if (covered.isEmpty() || !(longer > 0) || longer >= size) return *this;
+    double const centre[] = {covered.xmin + width / 2, covered.ymin + height / 2};
+    Pieces grown;
+    for (Piece piece : pieces) {
+      for (size_t i = 0; i < piece.xy.size(); ++i)
+        piece.xy[i] = centre[i % 2] + (piece.xy[i] - centre[i % 2]) * size / longer;
+      grown.addPart(piece.kind, piece.xy.data(), static_cast<int>(piece.xy.size() / 2));
+    }
+    return grown;
+  }
+
   QVector<Piece> pieces;
   SysGeometry::Box covered;
 };
+
+// The transformation of a map has its paper in micrometres.
+double unitsPerUm(Map const& map) {
+  auto const onPaper = map.GetDisplayTransformation();
+  return onPaper->GetVisibleBounds()->GetWidth() / onPaper->GetDeviceFrame().width();
+}
 
 }  // namespace
 
@@ -133,7 +156,8 @@ void MapOverview::Draw(QPainter& painter, _ptr_t<SysUI::TrackerCancel> const&,
                        _ptr_t<DisplayTransformation> const& transformation, _ptr_t<MapFrameElement> const& frame) {
   if (!frame || !transformation || !d->map || d->map == frame->GetMap() || !MapHost::isFramed(*d->map)) return;
   drawOnFrame(painter, *frame, *transformation, [&](DisplayTransformation const& onMap) {
-    Pieces const& area = d->areaOn(*frame->GetMap());
+    Map const& shown = *frame->GetMap();
+    Pieces const area = d->areaOn(shown).grownTo(leastUm * unitsPerUm(shown));
     SysDisplay::DrawTarget target(painter, onMap);
     auto const drawing = SysDisplay::prepared(target, *(d->symbol ? d->symbol : usualSymbol()));
     if (!drawing) return;

@@ -146,6 +146,8 @@ void MapHost::showInstead(Map& map, std::optional<Portion> const& portion) {
   map.d->fit();
 }
 
+bool MapHost::isShownInstead(Map const& map) { return map.d->instead.has_value(); }
+
 double MapHost::storedScale(Map const& map) {
   auto const shown = std::exchange(map.d->instead, std::nullopt);
   if (shown) map.d->fit();

@@ -26,6 +26,7 @@ struct SYSCARTO_EXPORT MapHost {
   /// What is shown in place of the map's own portion, of which a document stores no trace. Null ends it, and so does
   /// whoever gives the map another portion of its own.
   static void showInstead(Map& map, std::optional<Portion> const& portion);
+  static bool isShownInstead(Map const& map);
 
   // The map's own, whatever is shown in their place.
   static double storedRotation(Map const& map);

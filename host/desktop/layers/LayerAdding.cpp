@@ -35,6 +35,13 @@ QString filters() {
       .join(QStringLiteral(";;"));
 }
 
+QString startFolder(DocumentSession const& session) {
+  QString const document = session.path().isEmpty() ? QString() : QFileInfo(session.path()).absolutePath();
+  return QSettings().value(folderKey, document).toString();
+}
+
+void keepFolder(QString const& file) { QSettings().setValue(folderKey, QFileInfo(file).absolutePath()); }
+
 }  // namespace
 
 LayerAdding::LayerAdding(DocumentSession& session, DocumentViews& views, QWidget& parent)
@@ -54,13 +61,16 @@ QStringList LayerAdding::filesIn(QMimeData const& data) {
   return paths;
 }
 
+QString LayerAdding::askForFile(DocumentSession const& session, QString const& title, QWidget* parent) {
+  QString const file = QFileDialog::getOpenFileName(parent, title, startFolder(session), filters());
+  if (!file.isEmpty()) keepFolder(file);
+  return file;
+}
+
 void LayerAdding::chooseFiles() {
-  QSettings settings;
-  QString const document = QFileInfo(session_.path()).absolutePath();
-  QString const folder = settings.value(folderKey, session_.path().isEmpty() ? QString() : document).toString();
-  QStringList const files = QFileDialog::getOpenFileNames(&parent_, tr("Add Layers"), folder, filters());
+  QStringList const files = QFileDialog::getOpenFileNames(&parent_, tr("Add Layers"), startFolder(session_), filters());
   if (files.isEmpty()) return;
-  settings.setValue(folderKey, QFileInfo(files.first()).absolutePath());
+  keepFolder(files.first());
   addFiles(files);
 }
 

@@ -26,6 +26,9 @@ public:
   /// The local files and folders that are dragged; empty where one of them has not the name of data.
   static QStringList filesIn(QMimeData const& data);
 
+  /// Asks for one file of data; empty where none is chosen.
+  static QString askForFile(DocumentSession const& session, QString const& title, QWidget* parent);
+
   /// Asks for files, and adds what a person chooses of them.
   void chooseFiles();
 

@@ -1,9 +1,9 @@
 #include "Coverage.h"
 
+#include "NameOrder.h"
+
 #include "host/SysCarto/document/SeriesSettings.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
-
-#include <QCollator>
 
 #include <algorithm>
 #include <cmath>
@@ -28,10 +28,10 @@ QString layersOf(SysCarto::Map const& map) {
 }
 
 // What has no value comes last either way; equal ones stay in the order of the source.
-bool isBefore(QVariant const& a, QVariant const& b, bool areNumbers, bool isDescending, QCollator const& collator) {
+bool isBefore(QVariant const& a, QVariant const& b, bool areNumbers, bool isDescending) {
   if (a.isNull() || b.isNull()) return !a.isNull() && b.isNull();
   if (!areNumbers) {
-    int const way = collator.compare(a.toString(), b.toString());
+    int const way = compareNames(a.toString(), b.toString());
     return isDescending ? way > 0 : way < 0;
   }
   double const x = a.toDouble(), y = b.toDouble();
@@ -102,12 +102,9 @@ QString Coverage::sort(Series const& series) {
   std::vector<size_t> order(found.size());
   std::iota(order.begin(), order.end(), size_t{0});
   if (sortField >= 0) {
-    QCollator collator;
-    collator.setCaseSensitivity(Qt::CaseInsensitive);
-    collator.setNumericMode(true);
     bool const areNumbers = fields()[static_cast<size_t>(sortField)].isNumber;
     std::stable_sort(order.begin(), order.end(), [&](size_t a, size_t b) {
-      return isBefore(values[a], values[b], areNumbers, series.isDescending, collator);
+      return isBefore(values[a], values[b], areNumbers, series.isDescending);
     });
   }
   for (size_t const place : order) {

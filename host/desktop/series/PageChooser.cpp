@@ -3,7 +3,6 @@
 #include "PageList.h"
 
 #include "host/desktop/Icons.h"
-#include "host/desktop/NoticeBar.h"
 
 #include <QComboBox>
 #include <QCompleter>
@@ -20,8 +19,8 @@ constexpr int marginPx = 4;
 
 }  // namespace
 
-PageChooser::PageChooser(SeriesView& series, NoticeBar& notice, QWidget* parent)
-    : QWidget(parent), series_(series), notice_(notice), pages_(new QComboBox(this)), count_(new QLabel(this)) {
+PageChooser::PageChooser(SeriesView& series, QWidget* parent)
+    : QWidget(parent), series_(series), pages_(new QComboBox(this)), count_(new QLabel(this)), note_(new QLabel(this)) {
   setObjectName(QStringLiteral("pageChooser"));
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(marginPx, 0, marginPx, 0);
@@ -41,7 +40,11 @@ PageChooser::PageChooser(SeriesView& series, NoticeBar& notice, QWidget* parent)
   row->addWidget(count_);
   addButton("next-page", tr("Next page"), "next");
   addButton("last-page", tr("Last page"), "last");
+  row->addWidget(note_, 1);
   row->addStretch();
+  note_->setObjectName(QStringLiteral("label_PageNote"));
+  note_->setTextFormat(Qt::PlainText);
+  note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long sentence widens no window
 
   pages_->setEditable(true);
   pages_->setInsertPolicy(QComboBox::NoInsert);
@@ -66,15 +69,29 @@ PageChooser::PageChooser(SeriesView& series, NoticeBar& notice, QWidget* parent)
 void PageChooser::follow() {
   SeriesPages const* const pages = series_.pages();
   setVisible(pages || !series_.problem().isEmpty());
-  pages_->setEnabled(pages);
-  count_->setText(pages ? tr("of %1").arg(pages->count()) : series_.problem());
+  pages_->setVisible(pages);
+  count_->setText(pages ? tr("of %1").arg(pages->count()) : QString());
   if (pages) pages_->setCurrentIndex(pages->shown());
+  say(pages ? QString() : series_.problem());
+}
+
+void PageChooser::say(QString const& sentence) {
+  note_->setToolTip(sentence);
+  note_->setAccessibleName(sentence);
+  note_->setVisible(!sentence.isEmpty());
+  layout()->activate();
+  note_->setText(note_->fontMetrics().elidedText(sentence, Qt::ElideRight, note_->width()));
+}
+
+void PageChooser::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  say(note_->toolTip());
 }
 
 void PageChooser::go(QString const& page) {
   QString const problem = page == QLatin1String("0") ? series_.show(0) : series_.show(page);
-  if (!problem.isEmpty()) notice_.tell(problem, false);
   follow();
+  if (!problem.isEmpty()) say(problem);
 }
 
 // A number or a whole name; else the first name that holds the text.

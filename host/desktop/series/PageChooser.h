@@ -6,24 +6,27 @@
 
 class QComboBox;
 class QLabel;
-class NoticeBar;
 
 /// Below the page: which page of a series is shown, and others to go to, by their numbers, their names or a part of
-/// these. Hidden where the document has no series.
+/// these, and what could not be shown. Hidden where the document has no series.
 class PageChooser final : public QWidget {
   Q_OBJECT
 
 public:
-  /// `series` is borrowed, and so is `notice`, which says what could not be shown.
-  PageChooser(SeriesView& series, NoticeBar& notice, QWidget* parent);
+  /// `series` is borrowed.
+  PageChooser(SeriesView& series, QWidget* parent);
+
+protected:
+  void resizeEvent(QResizeEvent* event) override;
 
 private:
   void follow();
+  void say(QString const& sentence);
   void go(QString const& page);
   void goToTyped();
 
   SeriesView& series_;
-  NoticeBar& notice_;
   QComboBox* const pages_;
   QLabel* const count_;
+  QLabel* const note_;
 };

@@ -2,10 +2,17 @@
 
 #include "PageList.h"
 
+#include "host/SysCarto/document/SeriesSettings.h"
+#include "host/SysCarto/elements/EditorHost.h"
+#include "host/SysCarto/layers/DataCatalogue.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysAdapterUI/PropertySheet.h"
 #include "host/SysAdapterUI/SymbolChooser.h"
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/MapGround.h"
+#include "host/desktop/layers/LayerAdding.h"
+#include "host/desktop/layers/ReadingProgress.h"
+#include "host/desktop/styling/FieldChoice.h"
 
 #include <SysCarto/Layer.h>
 #include <SysCarto/Map.h>
@@ -16,6 +23,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -26,6 +34,31 @@ namespace {
 
 constexpr QSize firstSize(820, 560);
 constexpr int captionPx = 200;
+
+QStringList const layerPath(QStringLiteral("layer")), sourcePath(QStringLiteral("source"));
+
+SysUtility::NewValue always(QJsonValue const& value) {
+  return [value](QJsonValue const&) { return value; };
+}
+
+bool isNewSource(SysUtility::NewValue const& value) {
+  QJsonValue const made = value(QJsonValue::Undefined);
+  return made.isObject() && !made.toObject().contains(QStringLiteral("file"));
+}
+
+// The field with the names of features, as it is found for labels of a new map; empty for none.
+QString nameFieldOf(SysCarto::SourceSettings const& source, QWidget& parent) {
+  SysCarto::DataFile const file = SysCarto::describeFile(source.file);
+  for (SysCarto::LayerDescription const& layer : file.layers) {
+    if (!source.layer.isEmpty() && layer.name != source.layer) continue;
+    QString problem;
+    ReadingProgress progress(parent);
+    auto const survey = surveyLayer(source, layer, progress.watch(), problem);
+    FieldSurvey const* const field = survey ? nameField(*survey) : nullptr;
+    return field ? field->name : QString();
+  }
+  return QString();
+}
 
 }  // namespace
 
@@ -100,7 +133,7 @@ QStringList SeriesDialog::attributes() const {
 
 QStringList SeriesDialog::namesFor(QStringList const& path) const {
   QStringList names;
-  if (path != QStringList(QStringLiteral("layer"))) return names;
+  if (path != layerPath) return names;
   QList<SysUtility::_ptr_t<SysCarto::Map>> maps;
   session_.document().GetMaps(maps);
   for (auto const& map : qAsConst(maps))
@@ -113,7 +146,42 @@ QString SeriesDialog::set(QStringList const& path, SysUtility::NewValue const& v
   QStringList warnings;
   auto const thing = Editable::series(session_.document());
   if (!thing) return QString();
-  QString const problem = changes_.set({thing}, path, value, joining, warnings);
+  if (path == sourcePath && isNewSource(value)) {
+    QTimer::singleShot(0, this, &SeriesDialog::askForSource);  // out of the click on the row
+    return QString();
+  }
+  QString const problem =
+      path == layerPath ? setFeatures(path, value, warnings) : changes_.set({thing}, path, value, joining, warnings);
   if (!warnings.isEmpty()) note_->setText(warnings.join(QLatin1Char('\n')));
   return problem;
+}
+
+// A layer or a source, and with it what its features are called.
+QString SeriesDialog::setFeatures(QStringList const& path, SysUtility::NewValue const& value, QStringList& warnings) {
+  auto const& document = session_.document();
+  auto const thing = Editable::series(document);
+  SysCarto::OneStep const step(tr("Set the features of the series"));
+  QString const problem = changes_.set({thing}, path, value, QString(), warnings);
+  auto const layout = document.GetPageLayout();
+  SysCarto::Series const& series = SysCarto::PageLayoutHost::series(*layout);
+  if (!problem.isEmpty() || !series.isUsed()) return problem;
+  if (path == sourcePath && !series.layer.isEmpty())
+    changes_.set({thing}, layerPath, always(QString()), QString(), warnings);  // it would come before the source
+  if (!series.name.isEmpty() || !series.sortField.isEmpty()) return QString();
+  auto const source = SysCarto::coverageOf(*layout);
+  QString const field = source.file.isEmpty() ? QString() : nameFieldOf(source, *this);
+  if (!field.isEmpty())
+    changes_.set({thing}, {QStringLiteral("name")}, always(QStringLiteral("[field:%1]").arg(field)), QString(),
+                 warnings);
+  return QString();
+}
+
+void SeriesDialog::askForSource() {
+  QString const file = LayerAdding::askForFile(session_, tr("Data of the Series"), this);
+  if (file.isEmpty()) return;
+  QStringList warnings;
+  QString const problem = setFeatures(sourcePath, always(QJsonObject{{QStringLiteral("file"), file}}), warnings);
+  sheet_->refresh();
+  if (!problem.isEmpty()) warnings.prepend(problem);
+  if (!warnings.isEmpty()) note_->setText(warnings.join(QLatin1Char('\n')));
 }

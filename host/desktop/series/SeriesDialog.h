@@ -15,7 +15,7 @@ class PropertySheet;
 }
 
 /// The settings of a series, and what pages they make. Each change is one step of the history; a page that is clicked
-/// in the list is shown behind.
+/// in the list is shown behind. Whose features have pages is chosen with a name for these, where there is none yet.
 class SeriesDialog final : public QDialog, private SysAdapterUI::FieldSource {
   Q_OBJECT
 
@@ -33,6 +33,8 @@ private:
   QStringList namesFor(QStringList const& path) const override;
   bool canChoose(SysUtility::TextKind) const override { return false; }
   QString set(QStringList const& path, SysUtility::NewValue const& value, QString const& joining) override;
+  QString setFeatures(QStringList const& path, SysUtility::NewValue const& value, QStringList& warnings);
+  void askForSource();
   void follow();
 
   DocumentSession& session_;

@@ -4,6 +4,7 @@
 #include "PageJobs.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
+#include "host/SysCarto/layers/DataCatalogue.h"
 #include "host/desktop/Console.h"
 #include "host/desktop/output/ImageFormat.h"
 
@@ -21,20 +22,29 @@ namespace {
 constexpr int maxNamed = 20;  // pages in a sentence
 
 QString const pagesOption = QStringLiteral("pages"), partOption = QStringLiteral("part"),
-              jobsOption = QStringLiteral("jobs"), resumeOption = QStringLiteral("resume");
+              jobsOption = QStringLiteral("jobs"), resumeOption = QStringLiteral("resume"),
+              jobOption = QStringLiteral("job");  // of a process of several: its part, whatever else is said
 
 // When the last of the files was written that a page is drawn from.
 QDateTime lastChange(SysCarto::MapDocument const& document) {
   QDateTime last = QFileInfo(document.GetPath()).lastModified();
-  for (auto const& source : SysCarto::sourcesOf(*document.GetPageLayout()))
-    last = std::max(last, QFileInfo(source.file).lastModified());
+  QSet<QString> seen;
+  for (auto const& source : SysCarto::sourcesOf(*document.GetPageLayout())) {
+    if (seen.contains(source.file)) continue;
+    seen << source.file;
+    for (QString const& file : SysCarto::filesOf(source.file))
+      if (QFileInfo const there(file); there.exists()) last = std::max(last, there.lastModified());
+  }
   return last;
 }
 
 }  // namespace
 
 QList<QCommandLineOption> SeriesOptions::all() {
-  return {{pagesOption, tr("Of a series, these pages: \"1-20,45\", \"odd\", \"last\"."), QStringLiteral("PAGES")},
+  QCommandLineOption job(jobOption, QString(), QStringLiteral("K/N"));
+  job.setFlags(QCommandLineOption::HiddenFromHelp);
+  return {job,
+          {pagesOption, tr("Of a series, these pages: \"1-20,45\", \"odd\", \"last\"."), QStringLiteral("PAGES")},
           {partOption, tr("Of the pages, every Nth from the Kth on: each page is in one of the N parts."),
            QStringLiteral("K/N")},
           {jobsOption, tr("Draw pages in N processes at once."), QStringLiteral("N"), QStringLiteral("1")},
@@ -48,13 +58,15 @@ QString SeriesOptions::read(QCommandLineParser const& parser) {
       return tr("export: --pages takes numbers and ranges such as 1-20,45, or first, last, odd, even, not \"%1\".")
           .arg(parser.value(pagesOption));
   }
-  if (parser.isSet(partOption)) {
+  bool const isJob = parser.isSet(jobOption);
+  if (isJob || parser.isSet(partOption)) {
+    QString const text = parser.value(isJob ? jobOption : partOption);
     static QRegularExpression const form(QStringLiteral("^([0-9]{1,7})/([0-9]{1,7})$"));
-    auto const match = form.match(parser.value(partOption));
+    auto const match = form.match(text);
     part = match.captured(1).toInt();
     parts = match.captured(2).toInt();
     if (!match.hasMatch() || part < 1 || part > parts || parts > maxParts)
-      return tr("export: --part takes K/N with K from 1 to N, as in 3/10, not \"%1\".").arg(parser.value(partOption));
+      return tr("export: --part takes K/N with K from 1 to N, as in 3/10, not \"%1\".").arg(text);
   }
   bool isNumber = false;
   jobs = parser.value(jobsOption).toInt(&isNumber);
@@ -62,6 +74,7 @@ QString SeriesOptions::read(QCommandLineParser const& parser) {
   if (!isNumber || jobs < 1 || jobs > maxJobs)
     return tr("export: --jobs takes a whole number from 1 to %1, not \"%2\".")
         .arg(QString::number(maxJobs), parser.value(jobsOption));
+  if (isJob) jobs = 1;
   return QString();
 }
 
@@ -88,11 +101,12 @@ SeriesExport::~SeriesExport() = default;
 QString SeriesExport::run() {
   QString const problem = check();
   if (!problem.isEmpty()) return problem;
+  if (request_.series.resumes) lastChange_ = lastChange(document_);
   bool const isBook = paths_.isEmpty() && chosen_.size() > 1;
   if (isBook && request_.series.resumes)
     return tr("export: --resume passes over files of single pages; give the path a placeholder such as “[page]”.");
   if (isBook) return writeBook();
-  return request_.series.jobs > 1 ? writeInJobs() : writeFiles();
+  return request_.series.jobs > 1 && chosen_.size() > 1 ? writeInJobs() : writeFiles();
 }
 
 // Before anything is drawn.
@@ -114,20 +128,21 @@ QString SeriesExport::check() {
   if (chosen_.empty())
     return request_.series.parts > 1 ? QString()
                                      : tr("There is no such page; the series has %1 pages.").arg(pages_->count());
+  SeriesOptions whole = request_.series;
+  whole.part = whole.parts = 1;  // other parts must not write to the same files either
+  auto const ofAllParts = whole.chosenOf(pages_->count());
   if (!isPattern) {
     bool const isBook = request_.format.hasPages && request_.series.jobs == 1;
-    if (chosen_.size() == 1 || isBook) return QString();
+    if (ofAllParts.size() == 1 || isBook) return QString();
     return request_.format.hasPages
                ? tr("export: --jobs draws pages into files of their own; give the path a placeholder such as “[page]”, "
                     "or leave --jobs out for one file.")
                : tr("%1 would be the file of %2 pages; give the path a placeholder such as “[page]” or “[field:name]”, "
                     "or "
                     "choose one page with --pages.")
-                     .arg(request_.path, QString::number(chosen_.size()));
+                     .arg(request_.path, QString::number(ofAllParts.size()));
   }
-  SeriesOptions whole = request_.series;
-  whole.part = whole.parts = 1;  // other parts must not write to the same files either
-  paths_ = FileNames::of(pages_->coverage(), request_.path, whole.chosenOf(pages_->count()), problem);
+  paths_ = FileNames::of(pages_->coverage(), request_.path, ofAllParts, problem);
   QSet<QString> folders;
   for (int const page : chosen_) {
     if (!problem.isEmpty()) break;
@@ -171,7 +186,7 @@ QString SeriesExport::writePage(int page, QString const& path) {
 
 bool SeriesExport::isDone(PageExport const& page, QString const& path) const {
   QFileInfo const there(path);
-  return there.exists() && there.lastModified() > lastChange(document_) && page.isWhole(document_);
+  return there.exists() && there.lastModified() > lastChange_ && page.isWhole(document_);
 }
 
 QString SeriesExport::writeBook() {
@@ -205,9 +220,9 @@ QString SeriesExport::writeInJobs() {
   SeriesOptions const& own = request_.series;
   QList<QStringList> all;
   for (int job = 0; job < jobs; ++job)
-    all << QStringList(QStringLiteral("export")) + request_.arguments +
-               QStringList{QStringLiteral("--jobs"), QStringLiteral("1"), QStringLiteral("--part"),
-                           QStringLiteral("%1/%2").arg(own.part + job * own.parts).arg(own.parts * jobs)};
+    all << QStringList{QStringLiteral("export"), QStringLiteral("--job"),
+                       QStringLiteral("%1/%2").arg(own.part + job * own.parts).arg(own.parts * jobs)} +
+               request_.arguments;
   int done = 0;
   PageJobs processes(cancel_);
   processes.onWritten = [&](QString const& path) {

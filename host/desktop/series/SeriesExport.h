@@ -5,6 +5,8 @@
 
 #include "host/desktop/output/PageExport.h"
 
+#include <QDateTime>
+
 class QCommandLineOption;
 class QCommandLineParser;
 
@@ -44,7 +46,7 @@ public:
     ImageFormat const& format;
     ExportOptions options;
     SeriesOptions series;
-    QStringList arguments;  ///< those that other processes are given, too
+    QStringList arguments;  ///< those that other processes are given behind theirs
     bool isQuiet = false;
   };
 
@@ -78,7 +80,8 @@ private:
   std::unique_ptr<SeriesPages> pages_;
   std::vector<int> chosen_;
   QStringList paths_;
-  int passed_ = 0;  // that were there
+  int passed_ = 0;        // that were there
+  QDateTime lastChange_;  // of what pages are drawn from
   QList<int> failed_;
   size_t next_ = 0;  // of a book, among the chosen ones
 };

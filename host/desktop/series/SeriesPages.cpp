@@ -83,14 +83,17 @@ std::optional<QString> SeriesPages::text(QString const& name, QString const& arg
   return asksForPage ? QString::number(*neighbour) : this->name(*neighbour);
 }
 
-// Where the coverage has no geometries at all, maps stay where they are.
+// Where the coverage has no geometries at all, maps stay where they are; where none follows, none needs a place.
 QString SeriesPages::show(int page) {
   leave();
   shown_ = page;
   row_ = coverage_->row(page);
   Series const& series = PageLayoutHost::series(*layout_);
-  bool isPlaced = place(series.frame);
-  for (SysCarto::SeriesFrame const& follower : series.followers) isPlaced = place(follower) || isPlaced;
+  bool isPlaced = place(series.frame), follows = bool(series.frame.map);
+  for (SysCarto::SeriesFrame const& follower : series.followers) {
+    isPlaced = place(follower) || isPlaced;
+    follows = follower.map || follows;
+  }
   if (auto const& layer = coverage_->layer())
     layer->setSpotlight(
         SysCarto::Spotlight{coverage_->feature(page), series.hidesOthers, series.highlight, series.outside});
@@ -98,7 +101,7 @@ QString SeriesPages::show(int page) {
   shownPage->text = [this](QString const& name, QString const& argument) { return text(name, argument); };
   shownPage->isAmong = [this](QString const& pages) { return isAmong(pages); };
   PageLayoutHost::setShownPage(*layout_, shownPage);
-  if (isPlaced || coverage_->store().size() == 0) return QString();
+  if (isPlaced || !follows || coverage_->store().size() == 0) return QString();
   return tr("Page %1 “%2”: its feature has no place that the map could show; leave it out by “series/filter”, or mend "
             "its geometry.")
       .arg(QString::number(page), name(page));
@@ -115,15 +118,29 @@ bool SeriesPages::place(SysCarto::SeriesFrame const& frame) {
   auto const portion = portionFor(frame, shape, frame.alongLines && field < 0 ? 0 : degrees);
   if (!portion) return false;
   MapHost::showInstead(*frame.map, portion);
-  moved_ << frame.map;
+  placed_.push_back({frame.map, frame.map->GetCoordinateSystem(), MapHost::storedRotation(*frame.map),
+                     MapHost::lockedScale(*frame.map)});
   return true;
 }
 
 void SeriesPages::leave() {
   if (shown_ == 0) return;
   shown_ = 0;
-  for (auto const& map : qAsConst(moved_)) MapHost::showInstead(*map, std::nullopt);
-  moved_.clear();
+  for (Placed const& one : placed_) MapHost::showInstead(*one.map, std::nullopt);
+  placed_.clear();
   if (auto const& layer = coverage_->layer()) layer->setSpotlight(std::nullopt);
   PageLayoutHost::setShownPage(*layout_, nullptr);
+}
+
+SeriesPages::State SeriesPages::state() const {
+  State state = State::Shown;
+  for (Placed const& one : placed_) {
+    if (MapHost::isShownInstead(*one.map)) continue;
+    bool const isMoved = one.coordinateSystem == one.map->GetCoordinateSystem() &&
+                         one.rotation == MapHost::storedRotation(*one.map) &&
+                         one.lockedScale == MapHost::lockedScale(*one.map);
+    if (!isMoved) return State::Changed;
+    state = State::Moved;
+  }
+  return state;
 }

@@ -45,6 +45,11 @@ public:
   /// 0 for none.
   int shown() const { return shown_; }
 
+  /// Whether a map that showed the page shows its own portion again, as it does when that is changed. `Moved` where
+  /// only its bounds are others, as when a person moves it.
+  enum class State { Shown, Moved, Changed };
+  State state() const;
+
 private:
   explicit SeriesPages(SysUtility::_ptr_t<SysCarto::PageLayout> layout);
   void check(QStringList& warnings);
@@ -56,7 +61,13 @@ private:
   SysUtility::_ptr_t<SysCarto::PageLayout> const layout_;
   std::unique_ptr<Coverage> coverage_;
   QHash<QString, std::optional<QSet<int>>> conditions_;  // of elements, by their text; none for what is no condition
-  QList<SysUtility::_ptr_t<SysCarto::Map>> moved_;
+  // A map that shows the page, with what else it had then.
+  struct Placed {
+    SysUtility::_ptr_t<SysCarto::Map> map;
+    QString coordinateSystem;
+    double rotation, lockedScale;
+  };
+  std::vector<Placed> placed_;
   SysCarto::TableRow row_;  // of the page that is shown
   int shown_ = 0;
 };

@@ -20,12 +20,19 @@ quint64 SeriesView::version() const {
   return layout ? SysCarto::PageLayoutHost::seriesVersion(*layout) : 0;
 }
 
+QString SeriesView::coordinateSystem() const {
+  auto const layout = session_.document().GetPageLayout();
+  auto const map = layout ? SysCarto::PageLayoutHost::series(*layout).frame.map : nullptr;
+  return map ? map->GetCoordinateSystem() : QString();
+}
+
 void SeriesView::read() {
   auto const layout = session_.document().GetPageLayout();
   problem_.clear();
   pages_.reset();
   isRead_ = true;
   version_ = version();
+  coordinateSystem_ = coordinateSystem();
   source_ = layout ? SysCarto::coverageOf(*layout) : SysCarto::SourceSettings();
   QStringList warnings;
   if (SeriesPages::areIn(session_.document())) pages_ = SeriesPages::read(session_.document(), problem_, warnings);
@@ -33,14 +40,21 @@ void SeriesView::read() {
 
 void SeriesView::follow() {
   auto const layout = session_.document().GetPageLayout();
-  bool const isSame = isRead_ && version_ == version() && layout && source_ == SysCarto::coverageOf(*layout);
-  if (isSame) return;
+  bool const isSame = isRead_ && version_ == version() && layout && source_ == SysCarto::coverageOf(*layout) &&
+                      coordinateSystem_ == coordinateSystem();
+  if (isSame) return followMaps();
   int const shown = pages_ ? pages_->shown() : 0;
   bool const isSameDocument = shown > 0 && pages_->isOf(layout.get());
   pages_.reset();
   isRead_ = false;
   if (isSameDocument && pages()) show(std::min(shown, pages_->count()));
   emit replaced();
+}
+
+void SeriesView::followMaps() {
+  auto const state = pages_ ? pages_->state() : SeriesPages::State::Shown;
+  if (state == SeriesPages::State::Changed) show(pages_->shown());
+  if (state == SeriesPages::State::Moved) show(0);
 }
 
 SeriesPages const* SeriesView::pages() {

@@ -10,7 +10,8 @@ class DocumentSession;
 class DocumentViews;
 
 /// Which page of its series the views of a document show. Follows the document: when it, its series or the data of the
-/// series become others, the pages are read anew, and the page of the same number is shown.
+/// series become others, the pages are read anew, and the page of the same number is shown. It is shown anew when its
+/// map is turned, locked or projected otherwise, and left when somebody moves the map.
 class SeriesView final : public QObject {
   Q_OBJECT
 
@@ -42,8 +43,10 @@ signals:
 
 private:
   void follow();
+  void followMaps();
   void read();
   quint64 version() const;
+  QString coordinateSystem() const;
 
   DocumentSession& session_;
   DocumentViews& views_;
@@ -52,4 +55,5 @@ private:
   bool isRead_ = false;
   quint64 version_ = 0;
   SysCarto::SourceSettings source_;
+  QString coordinateSystem_;  // of the map, in which places of the features are
 };
