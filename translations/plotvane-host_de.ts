@@ -2444,15 +2444,15 @@
     </message>
     <message>
         <source>export: a %1 takes a --dpi of at most %2; its shapes are as fine at any.</source>
-        <translation>export: Ein %1 nimmt ein --dpi von höchstens %2; seine Formen sind bei jedem Wert gleich fein.</translation>
+        <translation type="vanished">export: Ein %1 nimmt ein --dpi von höchstens %2; seine Formen sind bei jedem Wert gleich fein.</translation>
     </message>
     <message>
         <source>export: --%1 is for images; a %2 has none of it.</source>
-        <translation>export: --%1 ist für Bilder; bei %2 hat es keine Bedeutung.</translation>
+        <translation type="vanished">export: --%1 ist für Bilder; bei %2 hat es keine Bedeutung.</translation>
     </message>
     <message>
         <source>export: --transparent needs a PNG, TIFF or WebP; a %1 can&apos;t be transparent.</source>
-        <translation>export: --transparent braucht ein PNG, TIFF oder WebP; ein %1 kann nicht durchsichtig sein.</translation>
+        <translation type="vanished">export: --transparent braucht ein PNG, TIFF oder WebP; ein %1 kann nicht durchsichtig sein.</translation>
     </message>
     <message>
         <source>export: --quality is for a JPEG or a WebP that is not lossless.</source>
@@ -2460,11 +2460,11 @@
     </message>
     <message>
         <source>export: a %1 is packed in one way only; leave out --compress.</source>
-        <translation>export: Ein %1 wird nur auf eine Art gepackt; lassen Sie --compress weg.</translation>
+        <translation type="vanished">export: Ein %1 wird nur auf eine Art gepackt; lassen Sie --compress weg.</translation>
     </message>
     <message>
         <source>export: of a %1, --compress takes one of %2, not &quot;%3&quot;.</source>
-        <translation>export: Bei %1 nimmt --compress eines von %2, nicht &quot;%3&quot;.</translation>
+        <translation type="vanished">export: Bei %1 nimmt --compress eines von %2, nicht &quot;%3&quot;.</translation>
     </message>
     <message>
         <source>What texts are in a PDF or SVG: &quot;text&quot;, or &quot;shapes&quot;, the outlines of letters that need no fonts; &quot;text&quot; if not given.</source>
@@ -2497,6 +2497,26 @@
     <message>
         <source>export: --%1 is for a PDF alone; leave it out, or write a .pdf.</source>
         <translation>export: --%1 gibt es nur bei PDF; lassen Sie es weg oder schreiben Sie ein .pdf.</translation>
+    </message>
+    <message>
+        <source>export: %1 takes a --dpi of at most %2; its shapes are as fine at any.</source>
+        <translation>export: %1 nimmt ein --dpi von höchstens %2; die Formen sind bei jedem Wert gleich fein.</translation>
+    </message>
+    <message>
+        <source>export: --%1 is for images; it means nothing to %2.</source>
+        <translation>export: --%1 ist für Bilder; bei %2 hat es keine Bedeutung.</translation>
+    </message>
+    <message>
+        <source>export: --transparent needs a PNG, TIFF or WebP; %1 can&apos;t be transparent.</source>
+        <translation>export: --transparent braucht ein PNG, TIFF oder WebP; %1 kann nicht durchsichtig sein.</translation>
+    </message>
+    <message>
+        <source>export: %1 is packed in one way only; leave out --compress.</source>
+        <translation>export: %1 wird nur auf eine Art gepackt; lassen Sie --compress weg.</translation>
+    </message>
+    <message>
+        <source>export: of %1, --compress takes one of %2, not &quot;%3&quot;.</source>
+        <translation>export: Bei %1 nimmt --compress eines von %2, nicht &quot;%3&quot;.</translation>
     </message>
 </context>
 <context>
@@ -5607,6 +5627,10 @@
         <source>Pages %1 and %2 would both be written to %3, so nothing was written; tell them apart, as with “[page]” in the name.</source>
         <translation>Die Seiten %1 und %2 würden beide nach %3 geschrieben, daher wurde nichts geschrieben; unterscheiden Sie sie, etwa mit „[page]“ im Namen.</translation>
     </message>
+    <message>
+        <source>%1: “[%2]” stands for nothing in the name of a file; use “[page]”, “[page:name]”, “[pages]” or “[field:name]”.</source>
+        <translation>%1: „[%2]“ steht im Namen einer Datei für nichts; nehmen Sie „[page]“, „[page:name]“, „[pages]“ oder „[field:name]“.</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -5944,6 +5968,10 @@
     <message>
         <source>%1: a %2 of %3 × %4 pixels takes %5 GB of memory, and this machine has %6 GB; give less DPI, or write a PNG or TIFF.</source>
         <translation>%1: Ein %2 von %3 × %4 Pixeln braucht %5 GB Arbeitsspeicher, und dieser Rechner hat %6 GB; wählen Sie weniger DPI, oder schreiben Sie ein PNG oder TIFF.</translation>
+    </message>
+    <message>
+        <source>%1 was written, but not %2, which says where it lies: %3.</source>
+        <translation>%1 wurde geschrieben, aber nicht %2, das sagt, wo es liegt: %3.</translation>
     </message>
 </context>
 <context>
@@ -9246,6 +9274,13 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>%1°</source>
         <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>VectorExport</name>
+    <message>
+        <source>no page of the series can be shown</source>
+        <translation>keine Seite der Serie lässt sich zeigen</translation>
     </message>
 </context>
 <context>

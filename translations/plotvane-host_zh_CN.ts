@@ -2444,15 +2444,15 @@
     </message>
     <message>
         <source>export: a %1 takes a --dpi of at most %2; its shapes are as fine at any.</source>
-        <translation>export：%1 的 --dpi 最大为 %2；其图形在任何值下都同样精细。</translation>
+        <translation type="vanished">export：%1 的 --dpi 最大为 %2；其图形在任何值下都同样精细。</translation>
     </message>
     <message>
         <source>export: --%1 is for images; a %2 has none of it.</source>
-        <translation>export：--%1 只用于图像，不适用于 %2。</translation>
+        <translation type="vanished">export：--%1 只用于图像，不适用于 %2。</translation>
     </message>
     <message>
         <source>export: --transparent needs a PNG, TIFF or WebP; a %1 can&apos;t be transparent.</source>
-        <translation>export：--transparent 需要 PNG、TIFF 或 WebP；%1 不支持透明。</translation>
+        <translation type="vanished">export：--transparent 需要 PNG、TIFF 或 WebP；%1 不支持透明。</translation>
     </message>
     <message>
         <source>export: --quality is for a JPEG or a WebP that is not lossless.</source>
@@ -2460,11 +2460,11 @@
     </message>
     <message>
         <source>export: a %1 is packed in one way only; leave out --compress.</source>
-        <translation>export：%1 只有一种压缩方式；请去掉 --compress。</translation>
+        <translation type="vanished">export：%1 只有一种压缩方式；请去掉 --compress。</translation>
     </message>
     <message>
         <source>export: of a %1, --compress takes one of %2, not &quot;%3&quot;.</source>
-        <translation>export：对于 %1，--compress 只接受 %2 之一，而不是 &quot;%3&quot;。</translation>
+        <translation type="vanished">export：对于 %1，--compress 只接受 %2 之一，而不是 &quot;%3&quot;。</translation>
     </message>
     <message>
         <source>What texts are in a PDF or SVG: &quot;text&quot;, or &quot;shapes&quot;, the outlines of letters that need no fonts; &quot;text&quot; if not given.</source>
@@ -2497,6 +2497,26 @@
     <message>
         <source>export: --%1 is for a PDF alone; leave it out, or write a .pdf.</source>
         <translation>export：--%1 仅用于 PDF；请去掉它，或写入 .pdf。</translation>
+    </message>
+    <message>
+        <source>export: %1 takes a --dpi of at most %2; its shapes are as fine at any.</source>
+        <translation>export：%1 的 --dpi 最大为 %2；其图形在任何值下都同样精细。</translation>
+    </message>
+    <message>
+        <source>export: --%1 is for images; it means nothing to %2.</source>
+        <translation>export：--%1 只用于图像，不适用于 %2。</translation>
+    </message>
+    <message>
+        <source>export: --transparent needs a PNG, TIFF or WebP; %1 can&apos;t be transparent.</source>
+        <translation>export：--transparent 需要 PNG、TIFF 或 WebP；%1 不支持透明。</translation>
+    </message>
+    <message>
+        <source>export: %1 is packed in one way only; leave out --compress.</source>
+        <translation>export：%1 只有一种压缩方式；请去掉 --compress。</translation>
+    </message>
+    <message>
+        <source>export: of %1, --compress takes one of %2, not &quot;%3&quot;.</source>
+        <translation>export：对于 %1，--compress 只接受 %2 之一，而不是 &quot;%3&quot;。</translation>
     </message>
 </context>
 <context>
@@ -5607,6 +5627,10 @@
         <source>Pages %1 and %2 would both be written to %3, so nothing was written; tell them apart, as with “[page]” in the name.</source>
         <translation>第 %1 页和第 %2 页都会写入 %3，因此什么也没有写；请加以区分，例如在名称中使用“[page]”。</translation>
     </message>
+    <message>
+        <source>%1: “[%2]” stands for nothing in the name of a file; use “[page]”, “[page:name]”, “[pages]” or “[field:name]”.</source>
+        <translation>%1：“[%2]”在文件名中没有意义；请使用“[page]”、“[page:name]”、“[pages]”或“[field:name]”。</translation>
+    </message>
 </context>
 <context>
     <name>FileSaver</name>
@@ -5944,6 +5968,10 @@
     <message>
         <source>%1: a %2 of %3 × %4 pixels takes %5 GB of memory, and this machine has %6 GB; give less DPI, or write a PNG or TIFF.</source>
         <translation>%1：%3 × %4 像素的 %2 需要 %5 GB 内存，而本机只有 %6 GB；请降低 DPI，或写成 PNG 或 TIFF。</translation>
+    </message>
+    <message>
+        <source>%1 was written, but not %2, which says where it lies: %3.</source>
+        <translation>%1 已写入，但说明其位置的 %2 未写入：%3。</translation>
     </message>
 </context>
 <context>
@@ -9246,6 +9274,13 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>%1°</source>
         <translation>%1°</translation>
+    </message>
+</context>
+<context>
+    <name>VectorExport</name>
+    <message>
+        <source>no page of the series can be shown</source>
+        <translation>系列中没有可以显示的页面</translation>
     </message>
 </context>
 <context>

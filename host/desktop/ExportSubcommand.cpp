@@ -85,7 +85,7 @@ QString ExportSubcommand::run() {
   SeriesExport::Request const series{request_.document, request_.image,     *request_.format, request_.options,
                                      request_.series,   request_.arguments, request_.quiet};
   if (SeriesExport::isWanted(series, document_)) return SeriesExport(series, document_, interrupt.cancel()).run();
-  PageExport::Progress progress;
+  ExportProgress progress;
   if (!request_.quiet && Console::hasTerminal())
     progress = [](QString const& what, int percent) {
       Console::showStatus(QStringLiteral("%1 %2 %").arg(what).arg(percent, 3));

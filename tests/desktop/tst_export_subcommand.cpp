@@ -118,10 +118,20 @@ private slots:
     QVERIFY(qAbs(of[0] + of[1] / 2 - file[4]) < 1e-3 && qAbs(of[3] + of[5] / 2 - file[5]) < 1e-3);
     QCOMPARE(QString(image->GetSpatialRef()->GetAuthorityCode(nullptr)), QString("32633"));
 
+    // Equal Earth, for which a TIFF has no room.
+    folder_.writeVariant("utm.kdx", json("{'maps':[{'name':'M','coordinateSystem':'EPSG:8857','bounds':"
+                                         "[0,0,6000000,4000000]}]}"));
+    QCOMPARE(run(arguments("a.tif", "M"), folder_.path()).err, QString());
+    std::unique_ptr<GDALDataset> const equal(
+        static_cast<GDALDataset*>(GDALOpen(qPrintable(folder_.path("a.tif")), GA_ReadOnly)));
+    QVERIFY(equal->GetSpatialRef());
+    QCOMPARE(QString(equal->GetSpatialRef()->GetAuthorityCode(nullptr)), QString("8857"));
+
     Outcome const refused = run(arguments("b.png", "N"), folder_.path());
     QCOMPARE(refused.status, 1);
     QVERIFY2(refused.err.contains("no data frame is called \"N\"; the page has \"M\""), qPrintable(refused.err));
-    for (QString const name : {"a.png", "a.pgw", "a.tif"}) QVERIFY(QFile::remove(folder_.path(name)));
+    for (QString const name : {"a.png", "a.pgw", "a.png.aux.xml", "a.tif", "a.tif.aux.xml"})
+      QVERIFY(QFile::remove(folder_.path(name)));
   }
 
   void quietPrintsNothing() {

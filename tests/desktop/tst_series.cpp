@@ -249,6 +249,8 @@ private slots:
     row("no such order", "{'sort': 'rank'}", {"[page].png"}, "have no field “rank”");
     row("one file for all", "{}", {"one.png", "--pages", "1-2"}, "would be the file of 2 pages");
     row("one file for parts", "{}", {"one.png", "--pages", "1-2", "--part", "1/2"}, "would be the file of 2 pages");
+    row("the page without its feature", "{}", {"one.svg"}, "would be the file of 10 pages");
+    row("what texts alone know", "{}", {"[page]-[date].png"}, "“[date]” stands for nothing in the name of a file");
     row("no such page", "{}", {"[page].png", "--pages", "44"}, "There is no such page");
     row("a folder that is not there", "{}", {"none/[page].png"}, "does not exist");
     row("a PDF in several processes", "{}", {"one.pdf", "--jobs", "2"}, "--jobs draws pages into files of their own");
@@ -309,7 +311,11 @@ private slots:
     QStringList const pages = QString::fromUtf8(poppler.readAllStandardOutput()).split('\f', Qt::SkipEmptyParts);
     QCOMPARE(pages.size(), 3);
     QVERIFY2(pages[1].contains("2/10 b3"), qPrintable(pages[1]));
-    QCOMPARE(run({"run", path("book.kdx"), "export=all.pdf", "page=2", "export=one.pdf"}, folder.path()).status, 0);
+    Outcome const all = run({"run", path("book.kdx"), "export=all.pdf"}, folder.path());
+    QVERIFY2(all.status == 1 && all.err.contains("Page 10 “nowhere”"), qPrintable(all.err));
+    QCOMPARE(run({"run", path("book.kdx"), "page=2", "export=one.pdf"}, folder.path()).status, 0);
+    Outcome const none = run({"export", path("book.kdx"), "none.pdf", "--pages", "10,10"}, folder.path());
+    QVERIFY2(none.status == 1 && !QFile::exists(folder.path() + "/none.pdf"), qPrintable(none.err));
     for (auto const& [name, count] : {std::make_pair("all.pdf", 9), std::make_pair("one.pdf", 1)}) {
       poppler.start("pdfinfo", {folder.path() + '/' + name});
       QVERIFY(poppler.waitForFinished());

@@ -130,4 +130,15 @@ std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system) 
   return globe;
 }
 
+QString wktOf(OGRSpatialReference const& system, char const* notation) {
+  SysGeometry::QuietOgr const quiet;
+  QByteArray const format = QByteArray("FORMAT=") + notation;
+  char const* const options[] = {format.constData(), nullptr};
+  char* text = nullptr;
+  bool const isWritten = system.exportToWkt(&text, options) == OGRERR_NONE;
+  QString const wkt = isWritten ? QString::fromUtf8(text) : QString();
+  CPLFree(text);
+  return wkt;
+}
+
 }  // namespace SysCarto

@@ -25,4 +25,8 @@ SYSCARTO_EXPORT std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QStrin
 /// where it has none.
 SYSCARTO_EXPORT std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system);
 
+/// A system in a notation of WKT as GDAL calls it, "WKT1_GDAL" or "WKT2_2019"; empty where that lacks what the system
+/// is.
+SYSCARTO_EXPORT QString wktOf(OGRSpatialReference const& system, char const* notation);
+
 }  // namespace SysCarto

@@ -95,27 +95,27 @@ QString ExportArguments::readNumber(QCommandLineParser const& parser, QCommandLi
 
 // What was given must mean something to the format.
 QString ExportArguments::checkForFormat(QCommandLineParser const& parser) const {
-  QString const format = QLatin1String(format_->name);
+  QString const format = format_->shownName();
   if (parser.isSet(dpi_) && parser.isSet(width_)) return tr("export: give either --dpi or --width.");
   if (format_->isVector && chosen_.dpi > ExportOptions::maxVectorDpi)
-    return tr("export: a %1 takes a --dpi of at most %2; its shapes are as fine at any.")
-        .arg(format.toUpper(), QString::number(ExportOptions::maxVectorDpi));
+    return tr("export: %1 takes a --dpi of at most %2; its shapes are as fine at any.")
+        .arg(format, QString::number(ExportOptions::maxVectorDpi));
   for (auto const* option : {&bleed_, &cropMarks_, &outputIntent_})
     if (parser.isSet(*option) && qstrcmp(format_->driver, "PDF") != 0)
       return tr("export: --%1 is for a PDF alone; leave it out, or write a .pdf.").arg(option->names().first());
   for (auto const* option : {&width_, &crop_, &georeference_})
     if (format_->isVector && parser.isSet(*option))
-      return tr("export: --%1 is for images; a %2 has none of it.").arg(option->names().first(), format.toUpper());
+      return tr("export: --%1 is for images; it means nothing to %2.").arg(option->names().first(), format);
   if (!format_->isVector && parser.isSet(text_)) return tr("export: --text is for a PDF or SVG.");
   if (chosen_.transparent && !format_->hasAlpha)
-    return tr("export: --transparent needs a PNG, TIFF or WebP; a %1 can't be transparent.").arg(format.toUpper());
+    return tr("export: --transparent needs a PNG, TIFF or WebP; %1 can't be transparent.").arg(format);
   if (parser.isSet(quality_) && (!format_->hasQuality || !chosen_.compression.isEmpty()))
     return tr("export: --quality is for a JPEG or a WebP that is not lossless.");
   if (parser.isSet(compress_) && !format_->compression(chosen_.compression)) {
     QString const ways = format_->compressions();
-    return ways.isEmpty() ? tr("export: a %1 is packed in one way only; leave out --compress.").arg(format.toUpper())
-                          : tr("export: of a %1, --compress takes one of %2, not \"%3\".")
-                                .arg(format.toUpper(), ways, chosen_.compression);
+    return ways.isEmpty()
+               ? tr("export: %1 is packed in one way only; leave out --compress.").arg(format)
+               : tr("export: of %1, --compress takes one of %2, not \"%3\".").arg(format, ways, chosen_.compression);
   }
   return QString();
 }

@@ -16,7 +16,7 @@
 
 ExportDialog::ExportDialog(ImageFormat const& format, QString const& proposed, SysAdapterUI::FieldSource& source,
                            QWidget* parent)
-    : SettingsDialog(tr("Export as %1").arg(QString::fromLatin1(format.name).toUpper()), source, tr("Export"), parent),
+    : SettingsDialog(tr("Export as %1").arg(format.shownName()), source, tr("Export"), parent),
       format_(format),
       file_(new QLineEdit(QDir::toNativeSeparators(proposed), this)) {
   file_->setObjectName(QStringLiteral("lineEdit_File"));
@@ -40,7 +40,7 @@ QString ExportDialog::path() const {
 }
 
 void ExportDialog::chooseFile() {
-  QString const name = QString::fromLatin1(format_.name).toUpper();
+  QString const name = format_.shownName();
   QStringList patterns;
   for (QString const& suffix : format_.suffixList()) patterns << QStringLiteral("*.") + suffix;
   QFileDialog dialog(this, windowTitle(), QFileInfo(path()).absolutePath(),

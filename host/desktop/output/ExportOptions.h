@@ -4,6 +4,11 @@
 
 #include <QString>
 
+#include <functional>
+
+/// Told what is being done, and how far it is, in percent.
+using ExportProgress = std::function<void(QString const& what, int percent)>;
+
 /// What a person chooses for a page that becomes a file.
 struct ExportOptions {
   static constexpr int defaultDpi = 300;

@@ -39,6 +39,11 @@ ImageFormat const* first(Predicate isWanted) {
 
 QStringList ImageFormat::suffixList() const { return QString::fromLatin1(suffixes).split(QLatin1Char(' ')); }
 
+QString ImageFormat::shownName() const {
+  QString const upper = QString::fromLatin1(name).toUpper();
+  return upper == QLatin1String("WEBP") ? QStringLiteral("WebP") : upper;
+}
+
 ImageFormat const* ImageFormat::named(QString const& name) {
   auto const* const found =
       first([&](ImageFormat const& one) { return name.compare(QLatin1String(one.name), Qt::CaseInsensitive) == 0; });

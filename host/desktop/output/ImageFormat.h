@@ -21,6 +21,7 @@ struct ImageFormat {
   };
 
   QStringList suffixList() const;
+  QString shownName() const;  ///< to people: PNG, WebP
 
   // Without regard to case; null where there is no such format. A suffix is a name, too.
   static ImageFormat const* named(QString const& name);

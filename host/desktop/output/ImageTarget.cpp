@@ -1,5 +1,6 @@
 #include "ImageTarget.h"
 
+#include "Dataset.h"
 #include "ImageFormat.h"
 #include "WorkFolder.h"
 
@@ -17,8 +18,6 @@
 #include <QStorageInfo>
 #include <QVector>
 #include <QtEndian>
-
-#include <gdal_priv.h>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -41,6 +40,8 @@ struct SideLimit {
 // What the libraries behind the formats take, below what the formats could hold.
 constexpr SideLimit sideLimits[] = {{"JPEG", 65500}, {"PNG", 1000000}, {"WEBP", 16383}};
 
+QString const sidePrefix = QStringLiteral("beside-");
+
 QString systemReason(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
 
 QString gigabytes(double bytes, int decimals) { return QString::number(bytes / 1e9, 'f', decimals); }
@@ -55,11 +56,6 @@ qint64 bmpBytes(QSize const& size) {
   qint64 const rowBytes = (qint64{size.width()} * 3 + 3) / 4 * 4;
   return bmpHeaderBytes + rowBytes * size.height();
 }
-
-struct DatasetCloser {
-  void operator()(GDALDataset* dataset) const { GDALClose(dataset); }
-};
-using DatasetPtr = std::unique_ptr<GDALDataset, DatasetCloser>;
 
 // How a whole file of a format that is written from the first byte to the last ends.
 struct Ending {
@@ -102,6 +98,11 @@ bool tellsLate(QString const& path) {
                       [&](char const* prompt) { return type == prompt; });
 }
 
+// 0, or the system's error.
+int moved(QString const& from, QString const& to) {
+  return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0 ? 0 : errno;
+}
+
 int syncToDisk(QString const& path) {
   int const file = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
   if (file < 0) return errno;
@@ -121,15 +122,18 @@ bool ImageTarget::is(char const* driver) const { return std::strcmp(format_.driv
 
 QString ImageTarget::checkPlace() const { return SysUtility::FileSaver::checkFolder(name_); }
 
-QString ImageTarget::checkAgainst(SysCarto::MapDocument const& document) const {
-  FileStamp const there = FileStamp::of(path_);
+QString ImageTarget::checkAgainst(SysCarto::MapDocument const& document) const { return checkAgainst(path_, document); }
+
+QString ImageTarget::checkAgainst(QString const& path, SysCarto::MapDocument const& document) const {
+  FileStamp const there = FileStamp::of(path);
   if (!there.exists()) return QString();
+  QString const name = path == path_ ? name_ : QDir::toNativeSeparators(path);
   if (there == FileStamp::of(document.GetPath()))
-    return tr("%1 is the document itself; name another file for the image.").arg(name_);
+    return tr("%1 is the document itself; name another file for the image.").arg(name);
   auto const layout = document.GetPageLayout();
   for (auto const& source : layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>())
     if (there == FileStamp::of(source.file))
-      return tr("%1 is a file that the page is drawn from; name another file for the image.").arg(name_);
+      return tr("%1 is a file that the page is drawn from; name another file for the image.").arg(name);
   return QString();
 }
 
@@ -147,7 +151,7 @@ QString ImageTarget::checkFormatLimits(QSize const& size) const {
     if (is(limit.driver) && std::max(size.width(), size.height()) > limit.pixels)
       return tr("%1: the image would be %2 × %3 pixels, and a %4 has at most %5 on a side; give less DPI, or write a "
                 "TIFF.")
-          .arg(name_, QString::number(size.width()), QString::number(size.height()), QLatin1String(format_.driver),
+          .arg(name_, QString::number(size.width()), QString::number(size.height()), format_.shownName(),
                QString::number(limit.pixels));
   if (is("BMP") && bmpBytes(size) > std::numeric_limits<quint32>::max())
     return tr("%1: the image would be %2 × %3 pixels, and a BMP holds at most 4 GB; give less DPI, or write a TIFF.")
@@ -175,7 +179,7 @@ QString ImageTarget::checkFreeMemory(QSize const& size, int bands) const {
   if (needed <= memory) return QString();
   return tr("%1: a %2 of %3 × %4 pixels takes %5 GB of memory, and this machine has %6 GB; give less DPI, or write a "
             "PNG or TIFF.")
-      .arg(name_, QLatin1String(format_.driver), QString::number(size.width()), QString::number(size.height()),
+      .arg(name_, format_.shownName(), QString::number(size.width()), QString::number(size.height()),
            gigabytes(needed, 1), gigabytes(memory, 1));
 }
 
@@ -191,6 +195,15 @@ QString ImageTarget::workingPath() const {
 }
 
 QString ImageTarget::besidePath(QString const& name) const { return folder_->filePath(name); }
+
+QString ImageTarget::putBeside(QString const& name, QByteArray const& content, SysCarto::MapDocument const& document) {
+  if (content.isEmpty()) return QString();
+  beside_ << name;
+  QString const problem = checkAgainst(besideImage(name), document);
+  return problem.isEmpty() ? SysUtility::FileSaver::save(besidePath(sidePrefix + name), content) : problem;
+}
+
+QString ImageTarget::besideImage(QString const& name) const { return QFileInfo(path_).dir().filePath(name); }
 
 QString ImageTarget::failure(SysCarto::GdalErrors const& errors) const {
   QString const reason = errors.hasFailure() ? errors.reason() : tr("the image file could not be created");
@@ -229,8 +242,10 @@ bool ImageTarget::hasItsEnd(GDALDataset& image, QSize const& size, int bands) co
 
 QString ImageTarget::commit() {
   int error = tellsLate(workingPath()) ? syncToDisk(workingPath()) : 0;
-  if (error == 0 &&
-      std::rename(QFile::encodeName(workingPath()).constData(), QFile::encodeName(path_).constData()) != 0)
-    error = errno;
-  return error == 0 ? QString() : tr("%1 was not written: %2.").arg(name_, systemReason(error));
+  if (error == 0) error = moved(workingPath(), path_);
+  if (error != 0) return tr("%1 was not written: %2.").arg(name_, systemReason(error));
+  for (QString const& name : beside_)
+    if (error == 0 && (error = moved(besidePath(sidePrefix + name), besideImage(name))) != 0)
+      return tr("%1 was written, but not %2, which says where it lies: %3.").arg(name_, name, systemReason(error));
+  return QString();
 }

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 #include <QSize>
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -51,6 +51,10 @@ public:
   /// A file of that name in the working folder, which goes with it. After `prepare`.
   QString besidePath(QString const& name) const;
 
+  /// Has a small file of that name put beside the image, after it; none without content. Checked as the image is. After
+  /// `prepare`.
+  QString putBeside(QString const& name, QByteArray const& content, SysCarto::MapDocument const& document);
+
   /// Opens what was written, in the working folder or without one in its place, and looks at its end. A size that is
   /// empty is not known.
   QString checkResult(QSize size, int bands = 3) const;
@@ -58,20 +62,23 @@ public:
   /// That it was not written, with GDAL's reason.
   QString failure(SysCarto::GdalErrors const& errors) const;
 
-  /// Moves the image into its place.
+  /// Moves the image into its place, and then what lies beside it.
   QString commit();
 
 private:
+  QString checkAgainst(QString const& path, SysCarto::MapDocument const& document) const;
   QString checkFormatLimits(QSize const& size) const;
   QString checkFreeSpace(QSize const& size, int bands) const;
   QString checkFreeMemory(QSize const& size, int bands) const;
+  QString besideImage(QString const& name) const;
   bool is(char const* driver) const;
   QString writtenPath() const { return folder_ ? workingPath() : path_; }
   bool hasEnding() const;
   bool hasItsEnd(GDALDataset& image, QSize const& size, int bands) const;
 
-  QString name_;  // as the user gave it, for sentences
-  QString path_;  // absolute, links followed
+  QString name_;        // as the user gave it, for sentences
+  QString path_;        // absolute, links followed
+  QStringList beside_;  // names of files that go with it
   ImageFormat const& format_;
   std::unique_ptr<WorkFolder> folder_;
 };

@@ -37,17 +37,23 @@ struct ExportCommand {
   char const* identifier;
   char const* format;
 };
-// A PDF has all pages of a series, unless one of them is shown.
+constexpr ExportCommand exportCommands[] = {{"Host_ExportPdf", "pdf"}, {"Host_ExportSvg", "svg"}};
+
+// A PDF has all pages of a series, unless one of them is shown. What could not be on it is told although it is written.
 QString writeWithPages(Workbench& bench, PageExport& file, ImageFormat const& format,
                        SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) {
-  NextPage const pages = PageExport::canHavePages(format) ? bench.series().allPages() : nullptr;
+  if (format.hasPages && !bench.series().pages() && !bench.series().problem().isEmpty())
+    return bench.series().problem();
+  QStringList problems;
+  NextPage const pages = format.hasPages ? bench.series().allPages(problems) : nullptr;
   file.setPages(pages);
   QString const problem = file.write(bench.session().document(), cancel);
   if (pages) bench.series().show(0);
-  return problem;
+  constexpr int maxTold = 20;
+  if (problems.size() > maxTold) problems = problems.mid(0, maxTold) << QStringLiteral("…");
+  if (!problem.isEmpty()) problems << problem;
+  return problems.join(QLatin1Char('\n'));
 }
-
-constexpr ExportCommand exportCommands[] = {{"Host_ExportPdf", "pdf"}, {"Host_ExportSvg", "svg"}};
 
 }  // namespace
 

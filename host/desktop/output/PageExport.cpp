@@ -4,7 +4,6 @@
 #include "PageImage.h"
 
 #include "host/SysCarto/projection/GdalErrors.h"
-#include "host/SysUtility/FileSaver.h"
 #include "host/desktop/vector/VectorExport.h"
 
 #include <QFileInfo>
@@ -36,8 +35,6 @@ QString PageExport::checkPlace() const {
   return target_.checkPlace();
 }
 
-bool PageExport::canHavePages(ImageFormat const& format) { return qstrcmp(format.driver, "PDF") == 0; }
-
 bool PageExport::isWhole(SysCarto::MapDocument& document) const {
   if (!format_.isVector) {
     PageImage image(document, target_, format_, options_);
@@ -47,7 +44,7 @@ bool PageExport::isWhole(SysCarto::MapDocument& document) const {
 }
 
 QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel> const& cancel,
-                          Progress const& progress) {
+                          ExportProgress const& progress) {
   auto const layout = document.GetPageLayout();
   if (!layout || !layout->GetPage())
     return tr("%1: the document has no page to draw; give it one, such as \"page\": {\"form\": \"A4\"}.")
@@ -76,23 +73,25 @@ QString PageExport::writeShapes(SysCarto::MapDocument const& document, _ptr_t<Tr
 }
 
 QString PageExport::writePixels(SysCarto::MapDocument& document, _ptr_t<TrackerCancel> const& cancel,
-                                Progress const& progress) {
+                                ExportProgress const& progress) {
   PageImage image(document, target_, format_, options_);
   QString problem = image.plan();
   if (problem.isEmpty()) problem = target_.checkSize(image.size(), image.bands());
   if (problem.isEmpty()) problem = target_.prepare();
+  if (problem.isEmpty()) problem = putBeside(image, document);
   if (problem.isEmpty()) problem = image.write(cancel, progress);
   if (cancel->IsCanced()) return tr("%1 was not written: interrupted.").arg(path_);
-  if (problem.isEmpty()) problem = target_.checkResult(image.size(), image.bands());
-  return problem.isEmpty() ? putWorldFile(image.worldFile()) : problem;
+  return problem.isEmpty() ? target_.checkResult(image.size(), image.bands()) : problem;
 }
 
-// Before the image itself, so that no image lies without it; by the first and the last letter of the suffix.
-QString PageExport::putWorldFile(QByteArray const& content) const {
-  if (content.isEmpty()) return QString();
-  QFileInfo const image(target_.path());
-  QString const suffix = image.suffix().isEmpty() ? format_.suffixList().first() : image.suffix();
-  return SysUtility::FileSaver::save(image.path() + QLatin1Char('/') + image.completeBaseName() + QLatin1Char('.') +
-                                         suffix.front() + suffix.back() + QLatin1Char('w'),
-                                     content);
+// World files are known by the first and the last letter of the image's suffix.
+QString PageExport::putBeside(PageImage const& image, SysCarto::MapDocument const& document) {
+  QFileInfo const file(target_.path());
+  QString suffix = file.suffix();
+  if (suffix.isEmpty()) suffix = format_.suffixList().first();
+  QString const world = file.completeBaseName() + QLatin1Char('.') + suffix.front() + suffix.back() + QLatin1Char('w');
+  QString const problem = target_.putBeside(world, image.worldFile(), document);
+  return problem.isEmpty()
+             ? target_.putBeside(file.fileName() + QStringLiteral(".aux.xml"), image.systemFile(), document)
+             : problem;
 }

@@ -9,8 +9,7 @@
 
 #include <QCoreApplication>
 
-#include <functional>
-
+class PageImage;
 struct ImageFormat;
 
 /// The page of a document, as it is now, on its way to a file: pixels, which the plug-in's export draws, or shapes.
@@ -20,9 +19,6 @@ class PageExport {
   Q_DECLARE_TR_FUNCTIONS(PageExport)
 
 public:
-  /// Told what is being done, and how far it is, in percent.
-  using Progress = std::function<void(QString const& what, int percent)>;
-
   PageExport(QString const& path, ImageFormat const& format, ExportOptions const& options);
 
   /// Whether the format can be written at all, and a file be put there. The document need not be open for it.
@@ -31,22 +27,19 @@ public:
   /// Whether a whole file of the page's size is in its place.
   bool isWhole(SysCarto::MapDocument& document) const;
 
-  /// Whether a file of that format can have several pages: a PDF.
-  static bool canHavePages(ImageFormat const& format);
-
   /// Makes it a file of these.
   void setPages(NextPage next) { next_ = std::move(next); }
 
   /// Draws and moves the file into its place. What was there before stays where this fails or is cancelled, which is
   /// told, too. The document is borrowed; only its cursor and its screen are those of a page without a window.
   QString write(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
-                Progress const& progress = {});
+                ExportProgress const& progress = {});
 
 private:
   QString writePixels(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
-                      Progress const& progress);
+                      ExportProgress const& progress);
   QString writeShapes(SysCarto::MapDocument const& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
-  QString putWorldFile(QByteArray const& content) const;
+  QString putBeside(PageImage const& image, SysCarto::MapDocument const& document);
 
   QString path_;
   ImageFormat const& format_;

@@ -1,7 +1,9 @@
 #include "PageImage.h"
 
+#include "Dataset.h"
 #include "ImageFormat.h"
 #include "ImageTags.h"
+#include "XmlText.h"
 
 #include "export/LayoutRenderer.h"
 #include "host/SysCarto/layout/MapPicture.h"
@@ -15,7 +17,6 @@
 #include <QFile>
 #include <QPainter>
 
-#include <gdal_priv.h>
 #include <ogr_spatialref.h>
 
 #include <algorithm>
@@ -30,11 +31,6 @@ using SysUtility::_ptr_t;
 using SysUtility::ptr_cast;
 
 namespace {
-
-struct DatasetCloser {
-  void operator()(GDALDataset* dataset) const { GDALClose(dataset); }
-};
-using DatasetPtr = std::unique_ptr<GDALDataset, DatasetCloser>;
 
 GDALDriver* driver(char const* name) { return GetGDALDriverManager()->GetDriverByName(name); }
 
@@ -160,18 +156,15 @@ QString PageImage::planGeoreference() {
     QString const map = frame->GetMap()->GetName();
     names << QLatin1Char('"') + map + QLatin1Char('"');
     if (options_.georeference != map && options_.georeference != frame->GetName()) continue;
-    auto const system = SysCarto::makeCoordinateSystem(frame->GetMap()->GetCoordinateSystem());
+    auto system = SysCarto::makeCoordinateSystem(frame->GetMap()->GetCoordinateSystem());
     auto const [pixels, transformation] = SysCarto::mapPixels(*frame, *renderer.pageTransform());
     if (!system || pixels.isEmpty())
       return tr("%1 was not written: the map of \"%2\" has no coordinate system that is known; give it one.")
           .arg(target_.name(), options_.georeference);
     QPoint const shift = part_.topLeft() - pixels.topLeft();
     QTransform const toMap = QTransform::fromTranslate(shift.x(), shift.y()) * transformation->ToDevice().inverted();
-    char* wkt = nullptr;
-    system->exportToWkt(&wkt);
     georeference_ = Georeference{{toMap.dx(), toMap.m11(), toMap.m21(), toMap.dy(), toMap.m12(), toMap.m22()},
-                                 QString::fromUtf8(wkt)};
-    CPLFree(wkt);
+                                 std::shared_ptr<OGRSpatialReference const>(std::move(system))};
     return QString();
   }
   return tr("%1 was not written: no data frame is called \"%2\"; the page has %3.")
@@ -188,7 +181,21 @@ QByteArray PageImage::worldFile() const {
   return lines;
 }
 
-QString PageImage::write(_ptr_t<TrackerCancel> const& cancel, Progress const& progress) const {
+// As GDAL itself notes what a file has no room for: a TIFF has none for systems that the first version of WKT lacks.
+QByteArray PageImage::systemFile() const {
+  if (!georeference_) return QByteArray();
+  OGRSpatialReference const& system = *georeference_->system;
+  QString wkt = SysCarto::wktOf(system, "WKT1_GDAL");
+  if (wkt.contains(QLatin1String("custom_proj4"))) wkt.clear();
+  if (qstrcmp(format_.driver, "GTiff") == 0 && !wkt.isEmpty()) return QByteArray();
+  if (wkt.isEmpty()) wkt = SysCarto::wktOf(system, "WKT2_2019");
+  QStringList axes;
+  for (int const axis : system.GetDataAxisToSRSAxisMapping()) axes << QString::number(axis);
+  return "<PAMDataset>\n  <SRS dataAxisToSRSAxisMapping=\"" + axes.join(QLatin1Char(',')).toLatin1() + "\">" +
+         escapedXml(wkt) + "</SRS>\n</PAMDataset>\n";
+}
+
+QString PageImage::write(_ptr_t<TrackerCancel> const& cancel, ExportProgress const& progress) const {
   reserveBlockCache(part_.width(), bands());
   SysCarto::GdalErrors const errors;
   QByteArray const path = target_.besidePath(QStringLiteral("pixels.tif")).toUtf8();
@@ -204,10 +211,12 @@ QString PageImage::write(_ptr_t<TrackerCancel> const& cancel, Progress const& pr
       QString::fromUtf8(path));  // the disk may have room for one more copy of the image, and not for this, too
   if (isWritten && !cancel->IsCanced())
     isWritten = tags.addTo(target_.workingPath(), format_, part_.size(), options_.transparent);
-  return isWritten && !errors.hasFailure() ? QString() : target_.failure(errors);
+  if (!isWritten || errors.hasFailure()) return target_.failure(errors);
+  return QString();
 }
 
-bool PageImage::drawTiles(GDALDataset& dataset, _ptr_t<TrackerCancel> const& cancel, Progress const& progress) const {
+bool PageImage::drawTiles(GDALDataset& dataset, _ptr_t<TrackerCancel> const& cancel,
+                          ExportProgress const& progress) const {
   auto const desktop = SysUtility::make<OffscreenDesktop>(document_);
   LayoutRenderer const renderer(document_.GetPageLayout(), whole_, std::max(1, qRound(pxPerInch_)));
   Plugin::PlacedLabels const labels(*static_cast<IApplicationHook*>(desktop->hook()), renderer.pageTransform());
@@ -227,13 +236,13 @@ bool PageImage::drawTiles(GDALDataset& dataset, _ptr_t<TrackerCancel> const& can
 }
 
 bool PageImage::convert(GDALDataset& pixels, ImageTags const& tags, _ptr_t<TrackerCancel> const& cancel,
-                        Progress const& progress) const {
+                        ExportProgress const& progress) const {
   if (qstrcmp(format_.driver, "GTiff") == 0) {
     tags.describe(pixels);
     if (georeference_) {
       auto transform = georeference_->transform;
       pixels.SetGeoTransform(transform.data());
-      pixels.SetProjection(georeference_->system.toUtf8().constData());
+      pixels.SetSpatialRef(georeference_->system.get());
     }
   }
   QList<QByteArray> options{ImageTags::colorOption(format_)};

@@ -9,10 +9,11 @@
 #include <QSizeF>
 
 #include <array>
-#include <functional>
+#include <memory>
 #include <optional>
 
 class GDALDataset;
+class OGRSpatialReference;
 struct ImageTags;
 
 /// The pixels of a page, drawn by the plug-in's renderer, tile by tile, into a file of GDAL's. What is in memory at a
@@ -23,9 +24,6 @@ class PageImage {
   Q_DECLARE_TR_FUNCTIONS(PageImage)
 
 public:
-  /// Told what is being done, and how far it is, in percent.
-  using Progress = std::function<void(QString const& what, int percent)>;
-
   /// The document has a page; it is borrowed, and so is the target.
   PageImage(SysCarto::MapDocument& document, ImageTarget const& target, ImageFormat const& format,
             ExportOptions const& options);
@@ -37,24 +35,25 @@ public:
   int bands() const { return options_.transparent ? 4 : 3; }
 
   /// Draws and writes, into the target's working path. Where that is cancelled, the answer has no meaning.
-  QString write(SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel, Progress const& progress) const;
+  QString write(SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel, ExportProgress const& progress) const;
 
   /// Empty where there is none. After `plan`.
   QByteArray worldFile() const;
+  QByteArray systemFile() const;  ///< of GDAL's `.aux.xml`
 
 private:
-  // Where a map lies on the image: GDAL's six numbers, and the system as a WKT.
+  // Where a map lies on the image: GDAL's six numbers, and in which system.
   struct Georeference {
     std::array<double, 6> transform;
-    QString system;
+    std::shared_ptr<OGRSpatialReference const> system;
   };
 
   QRectF elementsCm(QSizeF const& pageCm) const;
   QString planGeoreference();
   bool drawTiles(GDALDataset& dataset, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
-                 Progress const& progress) const;
+                 ExportProgress const& progress) const;
   bool convert(GDALDataset& pixels, ImageTags const& tags, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
-               Progress const& progress) const;
+               ExportProgress const& progress) const;
 
   SysCarto::MapDocument& document_;
   ImageTarget const& target_;

@@ -1,5 +1,7 @@
 #include "XmpPacket.h"
 
+#include "XmlText.h"
+
 #include <QXmlStreamWriter>
 
 namespace {
@@ -17,7 +19,7 @@ void writeList(QXmlStreamWriter& xml, char const* property, char const* list, QS
   for (QString const& value : qAsConst(values)) {
     xml.writeStartElement(rdf, QStringLiteral("li"));
     if (isOfLanguages) xml.writeAttribute(QStringLiteral("xml:lang"), QStringLiteral("x-default"));
-    xml.writeCharacters(value);
+    xml.writeCharacters(xmlText(value));
     xml.writeEndElement();
   }
   xml.writeEndElement();
@@ -45,7 +47,7 @@ QByteArray xmpPacket(SysCarto::FileInformation const& information, QVector<XmpPr
   xml.writeStartElement(rdf, QStringLiteral("Description"));
   xml.writeAttribute(rdf, QStringLiteral("about"), QString());
   for (XmpProperty const& property : ofItsKind)
-    if (!property.value.isEmpty()) xml.writeTextElement(property.space, property.name, property.value);
+    if (!property.value.isEmpty()) xml.writeTextElement(property.space, property.name, xmlText(property.value));
   writeList(xml, "title", "Alt", {information.title});
   writeList(xml, "creator", "Seq", {information.author});
   writeList(xml, "description", "Alt", {information.subject});

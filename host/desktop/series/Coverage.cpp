@@ -175,7 +175,10 @@ QStringList Coverage::filled(QString const& pattern, std::function<QString(QVari
     if (page == 0) return;
     texts[static_cast<size_t>(page - 1)] =
         Placeholders([&](QString const& name, QString const& argument) -> std::optional<QString> {
-          if (name == QLatin1String("page")) return QStringLiteral("%1").arg(page, digits, 10, QLatin1Char('0'));
+          if (name == QLatin1String("page") && argument == QLatin1String("name") && !names_.empty())
+            return write(this->name(page));
+          if (name == QLatin1String("page") && argument.isEmpty())
+            return QStringLiteral("%1").arg(page, digits, 10, QLatin1Char('0'));
           if (name == QLatin1String("pages")) return QString::number(count());
           if (name == fieldName) return write(row.value(fieldOf(argument)));
           return std::nullopt;

@@ -21,13 +21,28 @@ QString shortened(QString const& name) {
   return suffix.isEmpty() ? base : base + QLatin1Char('.') + suffix;
 }
 
+bool isKnown(QString const& name, QString const& argument) {
+  if (name == QLatin1String("page")) return argument.isEmpty() || argument == QLatin1String("name");
+  return name == QLatin1String("pages") ? argument.isEmpty() : name == QLatin1String("field") && !argument.isEmpty();
+}
+
+// In the name of the file: folders may be called what they like.
+QString unknownIn(QString const& pattern) {
+  QString unknown;
+  SysCarto::Placeholders([&](QString const& name, QString const& argument) {
+    if (!isKnown(name, argument) && unknown.isEmpty())
+      unknown = argument.isEmpty() ? name : name + QLatin1Char(':') + argument;
+    return std::optional<QString>();
+  }).filled(pattern.mid(pattern.lastIndexOf(QLatin1Char('/')) + 1));
+  return unknown;
+}
+
 }  // namespace
 
 bool FileNames::isPattern(QString const& path) {
   bool isFound = false;
   SysCarto::Placeholders([&](QString const& name, QString const& argument) {
-    isFound = isFound || (name == QLatin1String("page") && argument.isEmpty()) ||
-              (name == QLatin1String("field") && !argument.isEmpty());
+    isFound = isFound || (isKnown(name, argument) && name != QLatin1String("pages"));
     return std::optional<QString>();
   }).filled(path);
   return isFound;
@@ -42,6 +57,12 @@ QString FileNames::safe(QString const& text) {
 
 QStringList FileNames::of(Coverage const& coverage, QString const& pattern, std::vector<int> const& chosen,
                           QString& problem) {
+  if (QString const unknown = unknownIn(pattern); !unknown.isEmpty()) {
+    problem = tr("%1: “[%2]” stands for nothing in the name of a file; use “[page]”, “[page:name]”, “[pages]” or "
+                 "“[field:name]”.")
+                  .arg(pattern, unknown);
+    return {};
+  }
   QStringList paths = coverage.filled(
       pattern, [](QVariant const& value) { return safe(textOf(value, QLocale::c())); }, problem);
   for (QString& path : paths) {

@@ -89,8 +89,7 @@ std::vector<int> SeriesOptions::chosenOf(int count) const {
 }
 
 bool SeriesExport::isWanted(Request const& request, SysCarto::MapDocument const& document) {
-  return FileNames::isPattern(request.path) || request.series.isAny() ||
-         (request.format.hasPages && SeriesPages::areIn(document));
+  return FileNames::isPattern(request.path) || request.series.isAny() || SeriesPages::areIn(document);
 }
 
 SeriesExport::SeriesExport(Request const& request, SysCarto::MapDocument& document,
@@ -138,8 +137,7 @@ QString SeriesExport::check() {
                ? tr("export: --jobs draws pages into files of their own; give the path a placeholder such as “[page]”, "
                     "or leave --jobs out for one file.")
                : tr("%1 would be the file of %2 pages; give the path a placeholder such as “[page]” or “[field:name]”, "
-                    "or "
-                    "choose one page with --pages.")
+                    "or choose one page with --pages.")
                      .arg(request_.path, QString::number(ofAllParts.size()));
   }
   paths_ = FileNames::of(pages_->coverage(), request_.path, ofAllParts, problem);

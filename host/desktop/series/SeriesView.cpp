@@ -76,11 +76,14 @@ QString SeriesView::show(int page) {
   return problem;
 }
 
-NextPage SeriesView::allPages() {
+NextPage SeriesView::allPages(QStringList& problems) {
   if (!pages() || pages_->shown() > 0) return nullptr;
-  return [this, last = 0]() mutable -> std::optional<QString> {
-    while (last < pages_->count())
-      if (pages_->show(++last).isEmpty()) return pages_->name(last);
+  return [this, &problems, last = 0]() mutable -> std::optional<QString> {
+    while (last < pages_->count()) {
+      QString const problem = pages_->show(++last);
+      if (problem.isEmpty()) return pages_->name(last);
+      problems << problem;
+    }
     return std::nullopt;
   };
 }

@@ -30,9 +30,10 @@ public:
   /// The same for a number, a name, “first”, “last”, “next”, “previous” or “none”.
   QString show(QString const& page);
 
-  /// Shows all pages of which the maps have a place one after the other, for a file of them. Whoever is done shows a
-  /// page again, or none. Null where a page is shown, which then is what a file has, or there are none.
-  NextPage allPages();
+  /// Shows all pages of which the maps have a place one after the other, for a file of them; sentences on the others
+  /// are added to `problems`, which is borrowed. Whoever is done shows a page again, or none. Null where a page is
+  /// shown, which then is what a file has, or there are none.
+  NextPage allPages(QStringList& problems);
 
 signals:
   /// There are other pages, or none any more.

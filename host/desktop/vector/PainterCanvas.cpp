@@ -153,7 +153,7 @@ void PainterCanvas::fill(PointRuns const& rings, QGradient const& gradient, QTra
 }
 
 void PainterCanvas::fill(PointRuns const& rings, Tiling const& tiling) {
-  auto const symbol = symbols_[static_cast<size_t>(tiling.symbol)];
+  auto const symbol = symbols_[static_cast<size_t>(tiling.symbol)].actions;
   QRectF const seen = rings.bounds() & area();
   if (symbol->empty() || seen.isEmpty() || tiling.size.isEmpty() || !tiling.toPage.isInvertible()) return;
   draw(seen, [path = pathOf(rings, true), symbol, tiling, seen](QPainter& painter) {
@@ -233,22 +233,23 @@ void PainterCanvas::picture(SysDisplay::PictureData const& picture, QTransform c
 
 void PainterCanvas::symbolBegun(QRectF const& bounds) {
   sheets_.emplace_back();
-  symbolBounds_.push_back(bounds);
+  begun_.push_back(bounds);
 }
 
 int PainterCanvas::symbolEnded() {
-  symbols_.push_back(std::make_shared<std::vector<Action> const>(std::move(sheets_.back().actions)));
+  symbols_.push_back({std::make_shared<std::vector<Action> const>(std::move(sheets_.back().actions)), begun_.back()});
   sheets_.pop_back();
+  begun_.pop_back();
   return static_cast<int>(symbols_.size()) - 1;
 }
 
 void PainterCanvas::place(int symbol, QPointF const& origin) {
-  auto const placed = symbols_[static_cast<size_t>(symbol)];
-  if (placed->empty()) return;
-  draw(symbolBounds_[static_cast<size_t>(symbol)].translated(origin), [placed, origin](QPainter& painter) {
+  Symbol const& placed = symbols_[static_cast<size_t>(symbol)];
+  if (placed.actions->empty()) return;
+  draw(placed.bounds.translated(origin), [actions = placed.actions, origin](QPainter& painter) {
     painter.save();
     painter.translate(origin);
-    run(*placed, painter);
+    run(*actions, painter);
     painter.restore();
   });
 }

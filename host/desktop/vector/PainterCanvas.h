@@ -43,6 +43,10 @@ private:
     bool isBlended = false;  // something in it is mixed with what lies below
     QRectF bounds;           // of what is in it, in pixels of the canvas
   };
+  struct Symbol {
+    std::shared_ptr<std::vector<Action> const> actions;
+    QRectF bounds;
+  };
 
   void saved() override;
   void restored() override;
@@ -59,6 +63,6 @@ private:
 
   std::vector<Sheet> sheets_ = std::vector<Sheet>(1);
   std::vector<QTransform> toCanvas_ = std::vector<QTransform>(1);
-  std::vector<QRectF> symbolBounds_;
-  std::vector<std::shared_ptr<std::vector<Action> const>> symbols_;
+  std::vector<QRectF> begun_;  // bounds of the symbols that are being drawn, one in the other
+  std::vector<Symbol> symbols_;
 };

@@ -165,7 +165,8 @@ void PdfCanvas::text(TextFormat const& format, ShapedLine const& line, QTransfor
   bool isPlain = !textAsShapes_;
   for (size_t i = 0; !textAsShapes_ && i < line.glyphs.size(); ++i) {
     SysDisplay::Glyph const& glyph = *line.glyphs[i].glyph;
-    isPlain = PdfFonts::use(fonts_.font(glyph.font()), glyph.index(), letters[i]) && isPlain;
+    PdfFonts::Font& font = fonts_.font(glyph.font());
+    isPlain = font.isEmbeddable && PdfFonts::use(font, glyph.index(), letters[i]) && isPlain;
   }
   if (!isPlain)
     out().operators += "/Span<</ActualText" + QByteArray::fromStdString(pdfText(line.text).unparse()) + ">>BDC\n";
@@ -176,7 +177,7 @@ void PdfCanvas::text(TextFormat const& format, ShapedLine const& line, QTransfor
     if (font.isEmbeddable && !textAsShapes_)
       glyphs(font, line, first, last, toPage);
     else
-      for (size_t i = first; i < last; ++i) placeOutline(line.glyphs[i], true, toPage);
+      for (size_t i = first; i < last; ++i) placeOutline(line.glyphs[i], 0, toPage);
   }
   if (!isPlain) out().operators += "EMC\n";
 }
@@ -208,17 +209,17 @@ void PdfCanvas::glyphs(PdfFonts::Font& font, ShapedLine const& line, size_t firs
   ops += "ET\n";
 }
 
-void PdfCanvas::placeOutline(SysDisplay::PlacedGlyph const& placed, bool isFilled, QTransform const& toPage) {
+void PdfCanvas::placeOutline(SysDisplay::PlacedGlyph const& placed, double haloWidth, QTransform const& toPage) {
   if (placed.glyph->outline().isEmpty()) return;
   constexpr double scale = 1.0 * unitsPerPx / outlineUnits;
   out().operators += "q ";
   matrix(QTransform::fromScale(scale, scale) * QTransform::fromTranslate(placed.place.x(), placed.place.y()) * toPage,
          " cm ");
-  out().operators += outline(*placed.glyph, isFilled) + " Do Q\n";
+  out().operators += outline(*placed.glyph, haloWidth) + " Do Q\n";
 }
 
 // A letter as a form, filled, or stroked by the line that its halo is.
-QByteArray PdfCanvas::outline(SysDisplay::Glyph const& glyph, bool isFilled) {
+QByteArray PdfCanvas::outline(SysDisplay::Glyph const& glyph, double haloWidth) {
   QPainterPath const path = QTransform::fromScale(outlineUnits, outlineUnits).map(glyph.outline());
   QByteArray content;
   auto const add = [&](int i, char const* verb) {
@@ -235,8 +236,9 @@ QByteArray PdfCanvas::outline(SysDisplay::Glyph const& glyph, bool isFilled) {
       add(i, type == QPainterPath::MoveToElement ? " m\n" : " l\n");
     }
   }
-  content += isFilled ? "f\n" : "h S\n";
-  double const reach = outlineUnits;  // more than any halo
+  content += haloWidth > 0 ? "h S\n" : "f\n";
+  // Halos of up to a font's size share their forms.
+  double const reach = std::max(haloWidth / 2, double(outlineUnits));
   return objects_.form(content, path.boundingRect().adjusted(-reach, -reach, reach, reach));
 }
 
@@ -246,7 +248,7 @@ void PdfCanvas::halo(TextFormat const& format, ShapedLine const& line, QTransfor
   // Twice the reach, in the units of outlines; the forms are drawn in these.
   double const width = 2 * format.haloSize / format.size * outlineUnits;
   setStroke(opaque(format.haloColor), {{}, width / unitsPerPx, LineCapStyle::Round, LineJoinStyle::Round, 0});
-  for (SysDisplay::PlacedGlyph const& placed : line.glyphs) placeOutline(placed, false, toPage);
+  for (SysDisplay::PlacedGlyph const& placed : line.glyphs) placeOutline(placed, width, toPage);
   if (!isOpaque) endSheet();
 }
 

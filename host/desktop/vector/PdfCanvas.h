@@ -81,8 +81,9 @@ private:
   void matrix(QTransform const& transformation, char const* verb);
   void glyphs(PdfFonts::Font& font, SysDisplay::ShapedLine const& line, size_t first, size_t last,
               QTransform const& toPage);
-  void placeOutline(SysDisplay::PlacedGlyph const& placed, bool isFilled, QTransform const& toPage);
-  QByteArray outline(SysDisplay::Glyph const& glyph, bool isFilled);
+  // Filled where there is no halo, whose stroke has that width in units of outlines.
+  void placeOutline(SysDisplay::PlacedGlyph const& placed, double haloWidth, QTransform const& toPage);
+  QByteArray outline(SysDisplay::Glyph const& glyph, double haloWidth);
 
   PdfObjects& objects_;
   PdfFonts& fonts_;

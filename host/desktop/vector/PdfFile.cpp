@@ -1,5 +1,6 @@
 #include "PdfFile.h"
 
+#include "host/desktop/output/XmlText.h"
 #include "host/desktop/output/XmpPacket.h"
 
 #include <qpdf/QPDFPageDocumentHelper.hh>
@@ -162,7 +163,7 @@ void PdfFile::describe() {
                                   {"/Subject", information_.subject},
                                   {"/Keywords", keywordsIn(information_)},
                                   {"/Producer", producer}})
-    if (!text.isEmpty()) information.replaceKey(key, pdfText(text));
+    if (!text.isEmpty()) information.replaceKey(key, pdfText(xmlText(text)));
   file_.getTrailer().replaceKey("/Info", file_.makeIndirectObject(information));
 
   QPDFObjectHandle xml = objects_.stream(metadata());
@@ -195,22 +196,17 @@ QByteArray PdfFile::metadata() const {
                                   {pdf, pdfPrefix, QStringLiteral("Keywords"), keywordsIn(information_)}});
 }
 
-QString PdfFile::write(QString const& path, Cancel const& cancel) {
-  try {
-    fonts_.embed(objects_);
-    describe();
-    addOutline();
-    QPDFWriter writer(file_, path.toLocal8Bit().constData());
-    writer.setMinimumPDFVersion("1.7");
-    writer.setObjectStreamMode(qpdf_o_generate);
-    writer.setCompressStreams(true);
-    writer.setDeterministicID(true);
-    writer.registerProgressReporter(std::make_shared<QPDFWriter::FunctionProgressReporter>([&](int) {
-      if (isCancelled(cancel)) throw std::runtime_error("cancelled");  // qpdf stops by a throw alone
-    }));
-    writer.write();
-  } catch (std::exception const& error) {
-    return QString::fromLocal8Bit(error.what());
-  }
-  return QString();
+void PdfFile::write(QString const& path, Cancel const& cancel) {
+  fonts_.embed(objects_);
+  describe();
+  addOutline();
+  QPDFWriter writer(file_, path.toLocal8Bit().constData());
+  writer.setMinimumPDFVersion("1.7");
+  writer.setObjectStreamMode(qpdf_o_generate);
+  writer.setCompressStreams(true);
+  writer.setDeterministicID(true);
+  writer.registerProgressReporter(std::make_shared<QPDFWriter::FunctionProgressReporter>([&](int) {
+    if (isCancelled(cancel)) throw std::runtime_error("cancelled");  // qpdf stops by a throw alone
+  }));
+  writer.write();
 }

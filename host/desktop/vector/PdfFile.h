@@ -40,8 +40,8 @@ public:
   /// A bookmark that leads to the page that was added last.
   void addBookmark(QString const& name);
 
-  /// Writes the file. Empty, or what went wrong. Once.
-  QString write(QString const& path, Cancel const& cancel);
+  /// Writes the file. Throws what qpdf throws, as adding does, and where that is cancelled. Once.
+  void write(QString const& path, Cancel const& cancel);
 
 private:
   QPDFObjectHandle contents(QByteArray const& operators, Cancel const& cancel);

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <memory>
+#include <stdexcept>
 
 namespace {
 
@@ -106,6 +107,7 @@ QPDFObjectHandle descriptor(PdfObjects& objects, PdfFonts::Font const& font, QBy
       pdfNumber(std::ceil(box.right() * scale)) + ' ' + pdfNumber(std::ceil(-box.top() * scale)) + "]>>";
   QPDFObjectHandle result = QPDFObjectHandle::parse(text.toStdString());
   QByteArray const bytes = subset(raw, font.glyphs);
+  if (bytes.isEmpty()) throw std::runtime_error("the font " + raw.familyName().toStdString() + " can't be cut down");
   QPDFObjectHandle file = objects.stream(bytes);
   if (isCff)
     file.getDict().replaceKey("/Subtype", QPDFObjectHandle::newName("/CIDFontType0C"));
@@ -123,7 +125,7 @@ PdfFonts::Font& PdfFonts::font(QRawFont const& font) {
   Font& added = fonts_.emplace_back();
   added.font = font;
   added.name = "/F" + QByteArray::number(static_cast<int>(fonts_.size()));
-  added.isEmbeddable = allowsEmbedding(font) && drawsAsTheFileDoes(font);
+  added.isEmbeddable = allowsEmbedding(font) && drawsAsTheFileDoes(font) && !subset(font, {{0, {}}}).isEmpty();
   return added;
 }
 
@@ -139,7 +141,7 @@ double PdfFonts::advance(Font const& font, quint32 glyph) {
 
 void PdfFonts::embed(PdfObjects& objects) {
   for (Font const& font : fonts_) {
-    if (font.glyphs.empty()) continue;
+    if (font.glyphs.empty() || !font.isEmbeddable) continue;
     QByteArray const name = baseName(font);
     bool const isCff = !font.font.fontTable("CFF ").isEmpty();
     QPDFObjectHandle glyphs = QPDFObjectHandle::parse(

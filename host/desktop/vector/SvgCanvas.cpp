@@ -1,5 +1,6 @@
 #include "SvgCanvas.h"
 
+#include "host/desktop/output/XmlText.h"
 #include "host/desktop/output/XmpPacket.h"
 
 #include <QBuffer>
@@ -53,7 +54,7 @@ QByteArray numbered(char const* name, double value, int decimals = 2) {
 
 QByteArray element(char const* tag, QString const& text) {
   if (text.isEmpty()) return {};
-  return '<' + QByteArray(tag) + '>' + text.toHtmlEscaped().toUtf8() + "</" + tag + ">\n";
+  return '<' + QByteArray(tag) + '>' + escapedXml(text) + "</" + tag + ">\n";
 }
 
 double scaleOf(QTransform const& t) { return std::sqrt(std::abs(t.determinant())); }

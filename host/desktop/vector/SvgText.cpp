@@ -3,6 +3,8 @@
 #include "FontFile.h"
 #include "SvgWriter.h"
 
+#include "host/desktop/output/XmlText.h"
+
 #include <QStringList>
 
 using SysDisplay::PlacedGlyph;
@@ -75,12 +77,12 @@ QByteArray svgText(SvgFonts& fonts, TextFormat const& format, ShapedLine const& 
   QByteArray const y = " y=\"" + svgNumber(start.y(), 1) + '"';
   if (words.size() < 2)
     return (isBackwards ? at(line.width) + y + " direction=\"rtl\"" : at(0) + y) + attributes +
-           length(line.width * em) + '>' + line.text.toHtmlEscaped().toUtf8();
+           length(line.width * em) + '>' + escapedXml(line.text);
   QByteArray spans;
   for (size_t i = 0; i < words.size(); ++i) {
     double const to = i + 1 < words.size() ? words[i + 1].from : line.width;
-    spans += "<tspan" + at(words[i].from) + length((to - words[i].from) * em) + '>' +
-             words[i].letters.toHtmlEscaped().toUtf8() + "</tspan>";
+    spans += "<tspan" + at(words[i].from) + length((to - words[i].from) * em) + '>' + escapedXml(words[i].letters) +
+             "</tspan>";
   }
   return y + attributes + '>' + spans;
 }

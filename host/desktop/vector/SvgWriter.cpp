@@ -1,5 +1,7 @@
 #include "SvgWriter.h"
 
+#include "host/desktop/output/XmlText.h"
+
 #include <utility>
 
 namespace {
@@ -12,7 +14,7 @@ constexpr int maxSharedBytes = 1 << 16;
 }  // namespace
 
 QByteArray svgAttribute(char const* name, QString const& value) {
-  return ' ' + QByteArray(name) + "=\"" + value.toHtmlEscaped().toUtf8() + '"';
+  return ' ' + QByteArray(name) + "=\"" + escapedXml(value) + '"';
 }
 
 QByteArray svgNumber(double number, int decimals) {
@@ -47,7 +49,7 @@ void SvgWriter::openGroups() {
     if (group.isWritten) continue;
     group.isWritten = true;
     store("<g" + group.attributes + ">\n");
-    if (!group.title.isEmpty()) store("<title>" + group.title.toHtmlEscaped().toUtf8() + "</title>\n");
+    if (!group.title.isEmpty()) store("<title>" + escapedXml(group.title) + "</title>\n");
   }
 }
 

@@ -3,11 +3,19 @@
 #include "SvgCanvas.h"
 #include "VectorPage.h"
 
+#include <QCoreApplication>
+
+#include <exception>
+
 using SysCarto::FileInformation;
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
 
 namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(VectorExport)
+};
 
 PageBoxes boxesOf(SysCarto::Page const& page, VectorOptions const& options) {
   double widthCm, heightCm;
@@ -37,23 +45,38 @@ void addPage(PdfFile& file, SysCarto::MapDocument const& document, VectorOptions
   if (!cancel || !cancel->IsCanced()) file.addPage(canvas, page.sizePt(), page.frames(), boxes, cancel);
 }
 
-}  // namespace
-
-QString writePdf(SysCarto::MapDocument const& document, QString const& path, VectorOptions const& options,
-                 _ptr_t<TrackerCancel> const& cancel, NextPage const& next) {
+// Empty, or why there is no file, as a clause. Throws what qpdf throws.
+QString writePages(SysCarto::MapDocument const& document, QString const& path, VectorOptions const& options,
+                   _ptr_t<TrackerCancel> const& cancel, NextPage const& next) {
   OutputIntent intent = OutputIntent::sRgb();
   QString const problem = options.outputIntent.isEmpty() ? QString() : OutputIntent::read(options.outputIntent, intent);
   if (!problem.isEmpty()) return problem;
   PdfFile file(FileInformation::of(document), intent);
   auto const isCancelled = [&] { return cancel && cancel->IsCanced(); };
   if (!next) addPage(file, document, options, cancel);
+  bool hasPages = !next;
   while (next && !isCancelled()) {
     auto const name = next();
     if (!name) break;
     addPage(file, document, options, cancel);
     if (!isCancelled()) file.addBookmark(*name);
+    hasPages = true;
   }
-  return isCancelled() ? QString() : file.write(path, cancel);
+  if (isCancelled()) return QString();
+  if (!hasPages) return Texts::tr("no page of the series can be shown");
+  file.write(path, cancel);
+  return QString();
+}
+
+}  // namespace
+
+QString writePdf(SysCarto::MapDocument const& document, QString const& path, VectorOptions const& options,
+                 _ptr_t<TrackerCancel> const& cancel, NextPage const& next) {
+  try {
+    return writePages(document, path, options, cancel, next);
+  } catch (std::exception const& error) {
+    return cancel && cancel->IsCanced() ? QString() : QString::fromLocal8Bit(error.what());
+  }
 }
 
 QString writeSvg(SysCarto::MapDocument const& document, QString const& path, VectorOptions const& options,

@@ -29,12 +29,10 @@ constexpr double pointsPerInch = 72;
 constexpr double partStep = 0.05;
 constexpr double leastPart = 0.2;
 
-QString wktOf(OGRSpatialReference const& system) {
-  char* text = nullptr;
-  bool const isWritten = system.exportToWkt(&text) == OGRERR_NONE;
-  QString const wkt = isWritten ? QString::fromUtf8(text) : QString();
-  CPLFree(text);
-  return wkt;
+// As more readers know it, or else as it can be written at all.
+QString textOf(OGRSpatialReference const& system) {
+  QString const wkt = SysCarto::wktOf(system, "WKT1_GDAL");
+  return wkt.isEmpty() ? SysCarto::wktOf(system, "WKT2_2019") : wkt;
 }
 
 int epsgOf(OGRSpatialReference const& system) {
@@ -124,7 +122,7 @@ std::vector<GeoreferencedFrame> VectorPage::frames() const {
     auto const toGlobe = globe ? SysCarto::PointTransform::create(*system, *globe, error) : nullptr;
     auto const back = globe ? SysCarto::PointTransform::create(*globe, *system, error) : nullptr;
     if (!toGlobe || !back || pixels.isEmpty()) continue;
-    GeoreferencedFrame found{map->GetName(), {}, {}, {}, wktOf(*system), epsgOf(*system), bool(system->IsProjected())};
+    GeoreferencedFrame found{map->GetName(), {}, {}, {}, textOf(*system), epsgOf(*system), bool(system->IsProjected())};
     QTransform const toMap = transformation->ToDevice().inverted();
     double const unitsPerPx = QLineF(toMap.map(QPointF(0, 0)), toMap.map(QPointF(1, 0))).length();
     // Beyond the edge of a world some projections answer places from which there is no way back.
