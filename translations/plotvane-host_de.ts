@@ -1741,11 +1741,11 @@
     </message>
     <message>
         <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
-        <translation>sie existiert nicht; legen Sie sie dorthin oder nennen Sie in der Quelle des Layers eine andere</translation>
+        <translation>sie existiert nicht; legen Sie sie dorthin oder nennen Sie in der Quelle der Ebene eine andere</translation>
     </message>
     <message>
         <source>it is not a file; name one in the layer&apos;s source</source>
-        <translation>das ist keine Datei; nennen Sie in der Quelle des Layers eine</translation>
+        <translation>das ist keine Datei; nennen Sie in der Quelle der Ebene eine</translation>
     </message>
     <message>
         <source>reading it is not permitted; make it readable</source>
@@ -2136,7 +2136,7 @@
     </message>
     <message>
         <source>Map: %1, no layers</source>
-        <translation>Karte: %1, ohne Layer</translation>
+        <translation>Karte: %1, ohne Ebenen</translation>
     </message>
     <message>
         <source>Series: %1 pages</source>
@@ -2161,7 +2161,7 @@
     <name>DocumentSources</name>
     <message>
         <source>Layer “%1”: %2</source>
-        <translation>Layer „%1“: %2</translation>
+        <translation>Ebene „%1“: %2</translation>
     </message>
 </context>
 <context>
@@ -2652,7 +2652,7 @@
     </message>
     <message>
         <source>layer “%2” of the file “%1”</source>
-        <translation>Layer „%2“ der Datei „%1“</translation>
+        <translation>Ebene „%2“ der Datei „%1“</translation>
     </message>
     <message>
         <source>There is no field “%1” in %2; it has: %3.</source>
@@ -2779,11 +2779,11 @@
     </message>
     <message>
         <source>Layers</source>
-        <translation>Layer</translation>
+        <translation>Ebenen</translation>
     </message>
     <message>
         <source>The layers of the map, the lowest first.</source>
-        <translation>Die Layer der Karte, der unterste zuerst.</translation>
+        <translation>Die Ebenen der Karte, die unterste zuerst.</translation>
     </message>
     <message>
         <source>Page</source>
@@ -3107,11 +3107,11 @@
     </message>
     <message>
         <source>Layer of the file</source>
-        <translation>Layer der Datei</translation>
+        <translation>Ebene der Datei</translation>
     </message>
     <message>
         <source>Its name in the file; the first one where it is empty.</source>
-        <translation>Sein Name in der Datei; ist er leer, der erste Layer.</translation>
+        <translation>Ihr Name in der Datei; ist er leer, die erste Ebene.</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -3143,7 +3143,7 @@
     </message>
     <message>
         <source>What the layer is called.</source>
-        <translation>Wie der Layer heißt.</translation>
+        <translation>Wie die Ebene heißt.</translation>
     </message>
     <message>
         <source>Visible</source>
@@ -3151,7 +3151,7 @@
     </message>
     <message>
         <source>Whether the layer shows.</source>
-        <translation>Ob der Layer gezeigt wird.</translation>
+        <translation>Ob die Ebene gezeigt wird.</translation>
     </message>
     <message>
         <source>Labels</source>
@@ -3163,7 +3163,7 @@
     </message>
     <message>
         <source>What kind of layer it is.</source>
-        <translation>Welche Art von Layer es ist.</translation>
+        <translation>Welche Art von Ebene es ist.</translation>
     </message>
     <message>
         <source>Legend</source>
@@ -3239,7 +3239,7 @@
     </message>
     <message>
         <source>Labels of layers with a higher one are placed first.</source>
-        <translation>Beschriftungen von Layern mit höherer Priorität werden zuerst platziert.</translation>
+        <translation>Beschriftungen von Ebenen mit höherer Priorität werden zuerst platziert.</translation>
     </message>
     <message>
         <source>From scale</source>
@@ -3395,7 +3395,7 @@
     </message>
     <message>
         <source>The names of layers that the legend does not list.</source>
-        <translation>Die Namen der Layer, die die Legende nicht aufführt.</translation>
+        <translation>Die Namen der Ebenen, die die Legende nicht aufführt.</translation>
     </message>
     <message>
         <source>Style</source>
@@ -4043,7 +4043,7 @@
     </message>
     <message>
         <source>How the name of a layer with several classes looks; without a symbol bold and 9 points high.</source>
-        <translation>Wie der Name eines Layers mit mehreren Klassen aussieht; ohne Symbol fett und 9 Punkt hoch.</translation>
+        <translation>Wie der Name einer Ebene mit mehreren Klassen aussieht; ohne Symbol fett und 9 Punkt hoch.</translation>
     </message>
     <message>
         <source>How the letters of the entries look; without a symbol 8 points high.</source>
@@ -4123,7 +4123,7 @@
     </message>
     <message>
         <source>How much of the layer is seen; features of it do not show through each other.</source>
-        <translation>Wie viel vom Layer zu sehen ist; seine Objekte scheinen nicht durcheinander durch.</translation>
+        <translation>Wie viel von der Ebene zu sehen ist; ihre Objekte scheinen nicht durcheinander durch.</translation>
     </message>
     <message>
         <source>Blending</source>
@@ -4131,7 +4131,7 @@
     </message>
     <message>
         <source>Whether the layer covers the layers below, or darkens or lightens them.</source>
-        <translation>Ob der Layer die Layer darunter überdeckt, abdunkelt oder aufhellt.</translation>
+        <translation>Ob die Ebene die Ebenen darunter überdeckt, abdunkelt oder aufhellt.</translation>
     </message>
     <message>
         <source>Line of dashes</source>
@@ -5463,11 +5463,11 @@
     </message>
     <message>
         <source>Layers can be hidden</source>
-        <translation>Layer ausblendbar</translation>
+        <translation>Ebenen ausblendbar</translation>
     </message>
     <message>
         <source>Whether who reads the file can hide and show the maps&apos; layers.</source>
-        <translation>Ob, wer die Datei liest, die Layer der Karten aus- und einblenden kann.</translation>
+        <translation>Ob, wer die Datei liest, die Ebenen der Karten aus- und einblenden kann.</translation>
     </message>
     <message>
         <source>Open afterwards</source>
@@ -5566,7 +5566,7 @@
     </message>
     <message>
         <source>Layer of the file</source>
-        <translation>Layer der Datei</translation>
+        <translation>Ebene der Datei</translation>
     </message>
     <message>
         <source>Geometries</source>
@@ -6060,7 +6060,7 @@
     </message>
     <message>
         <source>&amp;Layer of the file</source>
-        <translation>&amp;Layer der Datei</translation>
+        <translation>&amp;Ebene der Datei</translation>
     </message>
     <message>
         <source>&amp;Key of the features</source>
@@ -6369,7 +6369,7 @@
     <name>LayerSettings</name>
     <message>
         <source>Layer “%1”: %2</source>
-        <translation>Layer „%1“: %2</translation>
+        <translation>Ebene „%1“: %2</translation>
     </message>
     <message>
         <source>is larger than maxScale</source>
@@ -6377,7 +6377,7 @@
     </message>
     <message>
         <source>is a layer that can&apos;t be stored</source>
-        <translation>ist ein Layer, der sich nicht speichern lässt</translation>
+        <translation>ist eine Ebene, die sich nicht speichern lässt</translation>
     </message>
     <message>
         <source>groups are nested more than %1 deep</source>
@@ -6758,11 +6758,11 @@
     </message>
     <message>
         <source>Show the layer “%1”</source>
-        <translation>Layer „%1“ einblenden</translation>
+        <translation>Ebene „%1“ einblenden</translation>
     </message>
     <message>
         <source>Hide the layer “%1”</source>
-        <translation>Layer „%1“ ausblenden</translation>
+        <translation>Ebene „%1“ ausblenden</translation>
     </message>
     <message>
         <source>Show the group “%1”</source>
@@ -7841,7 +7841,7 @@
     </message>
     <message>
         <source>Layer %1</source>
-        <translation>Layer %1</translation>
+        <translation>Ebene %1</translation>
     </message>
     <message>
         <source>Map %1</source>
@@ -7991,7 +7991,7 @@ Die Kopie bleibt in %2.</translation>
     </message>
     <message>
         <source>the focus map has no layer &quot;%1&quot;; it has: %2.</source>
-        <translation>die Karte im aktiven Datenrahmen hat keinen Layer „%1“; sie hat: %2.</translation>
+        <translation>die Karte im aktiven Datenrahmen hat keine Ebene „%1“; sie hat: %2.</translation>
     </message>
     <message>
         <source>no map is named &quot;%1&quot;; plotvane info lists maps and handles, and #12 is the map of the data frame with handle 12.</source>
@@ -8027,7 +8027,7 @@ Die Kopie bleibt in %2.</translation>
     </message>
     <message>
         <source>the page has no map with layers that could be shown or hidden.</source>
-        <translation>die Seite hat keine Karte mit Layern, die sich zeigen oder verbergen ließen.</translation>
+        <translation>die Seite hat keine Karte mit Ebenen, die sich zeigen oder verbergen ließen.</translation>
     </message>
     <message>
         <source>this is the name of an image, and what is saved is the document; name a .kdx file, or make an image with Plotvane_Export.</source>
