@@ -1,6 +1,7 @@
 #include "desktop/Executable.h"
 #include "desktop/WorkbenchPage.h"
 
+#include "host/SysAdapterUI/PropertySheet.h"
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
@@ -8,6 +9,7 @@
 #include "host/desktop/series/FileNames.h"
 #include "host/desktop/series/NameOrder.h"
 #include "host/desktop/series/PageRanges.h"
+#include "host/desktop/series/SeriesDialog.h"
 #include "host/desktop/series/SeriesExport.h"
 
 #include <QUndoStack>
@@ -153,6 +155,20 @@ private slots:
          {std::make_pair("name", QJsonValue("Other")), std::make_pair("rotation", QJsonValue(20)),
           std::make_pair("scale", QJsonValue(3e6))})
       QCOMPARE(text("b2", field, value), text("none", field, value));
+  }
+
+  void aLayerThatIsChosenNamesItsPages() {
+    WorkbenchPage page;
+    write("plain.kdx", QJsonObject{{"none", true}});
+    QVERIFY(page.bench.session().open(path("plain.kdx")));
+    SeriesDialog dialog(page.bench.session(), page.bench.series(), nullptr);
+    auto& model = dialog.findChild<SysAdapterUI::PropertySheet*>()->model();
+    QVERIFY(model.take(model.indexOf({"layer"}), "Sheets", "Sheets"));
+    QCOMPARE(page.bench.series().pages()->name(1), QString("a1"));
+    auto* const history = MapDocumentHost::history(page.bench.session().document());
+    QCOMPARE(history->count(), 1);
+    history->undo();
+    QVERIFY(!page.bench.series().pages());
   }
 
   // Those that the edge of the world cuts in two are not shown from one to the other.
