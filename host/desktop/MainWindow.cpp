@@ -487,13 +487,13 @@ void MainWindow::dropEvent(QDropEvent* event) {
   });
 }
 
-bool MainWindow::recover() { return offerLostDocuments(bench_.session(), recovery_, this); }
+bool MainWindow::recover(QString const& path) { return offerRecovery(bench_.session(), recovery_, path, *notice_); }
 
 int runWindow(QString const& path) {
   MainWindow window;
   window.show();
   QTimer::singleShot(0, &window, [&window, path] {
-    if (!window.recover() && !path.isEmpty()) window.open(path);
+    if (!window.recover(path) && !path.isEmpty()) window.open(path);
   });
   return QApplication::exec();
 }

@@ -36,8 +36,9 @@ public:
   /// Opens a document; a message box says why where it can't.
   bool open(QString const& path) { return files_.open(path); }
 
-  /// Offers what was not saved when the program last ended; false where there is nothing, or it is left.
-  bool recover();
+  /// Offers what was not saved when the program last ended; false where there is nothing, or it is left. A `path` that
+  /// was to be opened is not then, which is told.
+  bool recover(QString const& path = {});
 
   Workbench& bench() { return bench_; }
   ActionTable& actions() { return *actions_; }

@@ -34,7 +34,7 @@ private slots:
       changed = MapDocumentHost::text(sample.document());
       RecoveryCopy copy(sample.window.bench().session(), [] { return QImage(4, 3, QImage::Format_RGB32); });
       copy.update();
-      copy.finish();
+      QVERIFY(copy.finish());
       QVERIFY(LostDocument::all().empty());  // its process lives
       for (QFileInfo const& file : copies.entryInfoList({"*.kdx", "*.png", "*.json"}, QDir::Files))
         QVERIFY(QFile::copy(file.filePath(), copies.filePath("of-the-dead." + file.suffix())));
@@ -44,7 +44,8 @@ private slots:
     MainWindow window;
     Person person;
     person.accepts();
-    QVERIFY(window.recover());
+    QVERIFY(window.recover("/other.kdx"));
+    QVERIFY(window.findChild<QLabel*>("label_Notice")->text().contains("/other.kdx"));
     auto& session = window.bench().session();
     QCOMPARE(session.path(), world);
     QCOMPARE(MapDocumentHost::text(session.document()), changed);

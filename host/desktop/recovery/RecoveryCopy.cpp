@@ -63,42 +63,47 @@ RecoveryCopy::~RecoveryCopy() {
 
 QString RecoveryCopy::path(char const* suffix) const { return base_ + QLatin1String(suffix); }
 
-void RecoveryCopy::finish() { writer_.waitForDone(); }
+bool RecoveryCopy::finish() {
+  writer_.waitForDone();
+  return !begun_.isEmpty() && !hasFailed_;
+}
 
 // What is written is text of the document as it is now; that takes time where it is large, and so is done only where
 // something has changed. The files themselves are another thread's business.
 void RecoveryCopy::update() {
   if (!session_.isModified()) {
-    if (!written_.isEmpty()) writer_.start([base = base_] { removeCopy(base); });
-    written_.clear();
+    if (!begun_.isEmpty()) writer_.start([base = base_] { removeCopy(base); });
+    begun_.clear();
     return;
   }
   auto const& document = session_.document();
   quint64 const now = SysUtility::ChangeMark::now();
   int const step = SysCarto::MapDocumentHost::history(document)->index();
-  if (!written_.isEmpty() && now == lookedAt_ && step == step_) return;
+  if (!begun_.isEmpty() && !hasFailed_ && now == lookedAt_ && step == step_) return;
   lookedAt_ = now;
   step_ = step;
   QByteArray const text = SysCarto::MapDocumentHost::textForAnywhere(document);
-  if (text.isEmpty() || text == written_) return;
+  if (text.isEmpty()) hasFailed_ = true;
+  if (text.isEmpty() || (text == begun_ && !hasFailed_)) return;
   if (!lock_) {
     QDir().mkpath(recoveryFolder());
     lock_ = lockOf(base_);
     if (!lock_->tryLock()) lock_.reset();
     if (!lock_) return;  // beside such settings nothing can be kept
   }
-  written_ = text;
+  begun_ = text;
+  hasFailed_ = false;
   QByteArray const known =
       QJsonDocument(QJsonObject{{QStringLiteral("file"), document.GetPath()},
                                 {QStringLiteral("relativePaths"), document.IsUsesRelativePaths()},
                                 {QStringLiteral("digest"), QString::fromLatin1(session_.fileDigest().toHex())}})
           .toJson();
-  // The description comes last: without it there is no copy.
-  writer_.start([base = base_, text, known, picture = picture_()] {
-    auto const put = [&base](char const* suffix, QByteArray const& content) {
-      return SysUtility::FileSaver::save(base + QLatin1String(suffix), content).isEmpty();
+  // The description comes last: without it there is no copy. What fails is tried again the next time.
+  writer_.start([this, text, known, picture = picture_()] {
+    auto const put = [this](char const* suffix, QByteArray const& content) {
+      return SysUtility::FileSaver::save(path(suffix), content).isEmpty();
     };
-    if (put(".kdx", text) && put(".png", pngOf(picture))) put(".json", known);
+    hasFailed_ = !(put(".kdx", text) && put(".png", pngOf(picture)) && put(".json", known));
   });
 }
 

@@ -7,6 +7,7 @@
 #include <QThreadPool>
 #include <QTimer>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -31,8 +32,8 @@ public:
   /// Writes the copy, or removes it, where that has not been done since the last change.
   void update();
 
-  /// Waits until what `update` began is on the disk.
-  void finish();
+  /// Waits for what `update` began. Answers whether the document as it was then lies on the disk.
+  bool finish();
 
 private:
   QString path(char const* suffix) const;
@@ -41,7 +42,8 @@ private:
   std::function<QImage()> const picture_;
   QString const base_;  // of the files' names
   std::unique_ptr<QLockFile> lock_;
-  QByteArray written_;  // of the document; empty for no copy
+  QByteArray begun_;                    // to be written, of the document; empty for no copy
+  std::atomic<bool> hasFailed_{false};  // what was begun last
   quint64 lookedAt_ = 0;
   int step_ = -1;  // of the history, when it was last looked at
   QTimer timer_;

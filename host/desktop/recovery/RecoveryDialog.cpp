@@ -3,6 +3,7 @@
 #include "RecoveryCopy.h"
 
 #include "host/desktop/DocumentSession.h"
+#include "host/desktop/NoticeBar.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -33,6 +34,7 @@ public:
 private:
   void addRow(LostDocument const& document);
   void discard();
+  QMessageBox::StandardButton ask(QMessageBox::Icon icon, QString const& text, QMessageBox::StandardButtons buttons);
 
   DocumentSession& session_;
   RecoveryCopy& own_;
@@ -48,8 +50,8 @@ RecoveryDialog::RecoveryDialog(DocumentSession& session, RecoveryCopy& own, std:
   resize(dialogSize);
   auto* const box = new QVBoxLayout(this);
   auto* const text = new QLabel(
-      tr("Plotvane ended with changes that were not saved. A recovered document is as it was then, and counts as not "
-         "saved; its file stays as it is until you save."),
+      tr("Plotvane ended before these changes were saved. Recover opens the document with them; its file stays as it "
+         "is until you save."),
       this);
   text->setWordWrap(true);
   box->addWidget(text);
@@ -87,25 +89,34 @@ void RecoveryDialog::accept() {
   if (row < 0) return;
   auto const& document = lost_[static_cast<std::size_t>(row)];
   if (!document.recover(session_)) {
-    QMessageBox::warning(this, tr("Plotvane"),
-                         tr("%1\nThe copy is kept in %2.")
-                             .arg(DocumentSession::takeProblem(), QDir::toNativeSeparators(document.copy())));
+    ask(QMessageBox::Warning,
+        tr("%1\nThe copy is kept in %2.")
+            .arg(DocumentSession::takeProblem(), QDir::toNativeSeparators(document.copy())),
+        QMessageBox::Ok);
     return;
   }
   own_.update();
-  own_.finish();
-  document.discard();
+  if (own_.finish()) document.discard();
   QDialog::accept();
+}
+
+// Plain text: a file may be called <b>.
+QMessageBox::StandardButton RecoveryDialog::ask(QMessageBox::Icon icon, QString const& text,
+                                                QMessageBox::StandardButtons buttons) {
+  QMessageBox box(icon, tr("Plotvane"), text, buttons, this);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(buttons & QMessageBox::Cancel ? QMessageBox::Cancel : QMessageBox::Ok);
+  return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
 // What is discarded here has no other copy.
 void RecoveryDialog::discard() {
   int const row = rows_->currentRow();
   if (row < 0) return;
-  auto const answer = QMessageBox::question(
-      this, tr("Plotvane"),
-      tr("Discard the changes of %1?").arg(rows_->item(row)->text().section(QLatin1Char('\n'), 0, 0)),
-      QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel);
+  auto const answer =
+      ask(QMessageBox::Question,
+          tr("Discard the changes of %1?").arg(rows_->item(row)->text().section(QLatin1Char('\n'), 0, 0)),
+          QMessageBox::Discard | QMessageBox::Cancel);
   if (answer != QMessageBox::Discard) return;
   lost_[static_cast<std::size_t>(row)].discard();
   lost_.erase(lost_.begin() + row);
@@ -115,9 +126,14 @@ void RecoveryDialog::discard() {
 
 }  // namespace
 
-bool offerLostDocuments(DocumentSession& session, RecoveryCopy& own, QWidget* parent) {
+bool offerRecovery(DocumentSession& session, RecoveryCopy& own, QString const& wanted, NoticeBar& notice) {
   auto lost = LostDocument::all();
   if (lost.empty()) return false;
-  RecoveryDialog dialog(session, own, std::move(lost), parent);
-  return dialog.exec() == QDialog::Accepted;
+  RecoveryDialog dialog(session, own, std::move(lost), notice.window());
+  if (dialog.exec() != QDialog::Accepted) return false;
+  if (!wanted.isEmpty() && QFileInfo(wanted) != QFileInfo(session.path()))
+    notice.tell(RecoveryDialog::tr("%1 was not opened, since a document was recovered. Save that, then open it.")
+                    .arg(QDir::toNativeSeparators(wanted)),
+                false);
+  return true;
 }
