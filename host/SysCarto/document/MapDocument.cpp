@@ -44,14 +44,18 @@ SysUtility::JsonFileKind documentKind() { return {Texts::tr("map document"), QSt
 
 QString folderOf(QString const& path) { return QFileInfo(path).absolutePath(); }
 
-// Written like every file of ours, so that a full disk does not leave half a backup in the place of a whole one.
+// Written like every file of ours, so that a full disk does not leave half a backup in the place of a whole one. Where
+// the folder takes no new files, the document is saved all the same, without one.
 QString keepOldFile(QString const& path) {
   QFile file(path);
-  if (!file.exists()) return QString();
-  if (!file.open(QIODevice::ReadOnly))
-    return aboutFile(path, Texts::tr("the old file can't be read to keep it as a backup (%1); save without a backup")
-                               .arg(file.errorString()));
-  return SysUtility::FileSaver::save(path + QLatin1Char('~'), file.readAll());
+  QString const backup = path + QLatin1Char('~');
+  bool const hasRoom = QFile::exists(backup) || SysUtility::FileSaver::checkPlace(backup).isEmpty();
+  if (!file.exists() || !hasRoom) return QString();
+  bool const isOpen = file.open(QIODevice::ReadOnly);
+  QByteArray const old = isOpen ? file.readAll() : QByteArray();
+  if (isOpen && file.error() == QFileDevice::NoError) return SysUtility::FileSaver::save(backup, old);
+  return aboutFile(path, Texts::tr("the old file can't be read to keep it as a backup (%1); save without a backup")
+                             .arg(file.errorString()));
 }
 
 // Told as the page lies, which is how its sides are typed; the file has them as they are when it stands upright.
