@@ -7,6 +7,7 @@
 #include "host/SysCarto/document/ElementClip.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GroundScale.h"
@@ -290,6 +291,9 @@ bool NewMap::open() {
   if (!isRead) return !result_.wasStopped && fail(MapDocumentHost::takeLastFailure());
   if (MapDocumentHost::unreadableSources(document_) > 0) return fail(document_.GetWarnings().join(QLatin1Char('\n')));
   result_.warnings << document_.GetWarnings();
+  auto information = SysCarto::PageLayoutHost::information(*document_.GetPageLayout());
+  information.title = title();
+  SysCarto::PageLayoutHost::setInformation(*document_.GetPageLayout(), information);
   QList<_ptr_t<SysCarto::Map>> maps;
   document_.GetMaps(maps);
   for (auto const& map : qAsConst(maps))
