@@ -3,6 +3,7 @@
 #include "host/SysAdapterUI/FieldSource.h"
 #include "host/SysUtility/JsonFields.h"
 
+#include <algorithm>
 #include <utility>
 
 /// Settings that a dialog shows in a sheet and changes one by one, before anything of a document is: a copy, which the
@@ -10,7 +11,9 @@
 template <class Settings>
 class SettingsSource final : public SysAdapterUI::FieldSource {
 public:
-  explicit SettingsSource(Settings settings) : settings_(std::move(settings)) {}
+  /// Fields of these keys are left out of the sheet.
+  explicit SettingsSource(Settings settings, QStringList hidden = {})
+      : settings_(std::move(settings)), hidden_(std::move(hidden)) {}
 
   Settings const& settings() const { return settings_; }
 
@@ -24,7 +27,11 @@ public:
   QVector<SysUtility::SheetField> fields() override {
     SysUtility::FieldSheet sheet;
     settings_.list(sheet);
-    return sheet.fields();
+    auto fields = sheet.fields();
+    fields.erase(std::remove_if(fields.begin(), fields.end(),
+                                [this](auto const& field) { return hidden_.contains(field.key()); }),
+                 fields.end());
+    return fields;
   }
 
   QString set(QStringList const& path, SysUtility::NewValue const& value, QString const&) override {
@@ -41,4 +48,5 @@ public:
 
 private:
   Settings settings_;
+  QStringList const hidden_;
 };

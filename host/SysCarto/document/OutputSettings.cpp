@@ -39,6 +39,10 @@ void listPart(Fields& fields, Field const& field, Choices& choices) {
 
 }  // namespace
 
+QStringList ExportSettings::ofPdf() {
+  return {QStringLiteral("bleed"), QStringLiteral("cropMarks"), QStringLiteral("layers")};
+}
+
 void ExportSettings::list(Fields& fields) {
   ExportChoices const usual;
   fields.integer(
@@ -50,11 +54,11 @@ void ExportSettings::list(Fields& fields) {
                                  "Whether letters are drawn as outlines. They look the same everywhere, and "
                                  "can't be searched or copied.")},
               choices.textAsShapes, usual.textAsShapes);
-  fields.number({"bleed", QT_TRANSLATE_NOOP("Fields", "Bleed"),
+  fields.number({"bleed", QT_TRANSLATE_NOOP("Fields", "Bleed (mm)"),
                  QT_TRANSLATE_NOOP("Fields",
-                                   "How far the background and what lies over the page's edges is drawn beyond "
-                                   "them in a PDF, so that nothing is left white where paper is cut.")},
-                choices.bleedCm, {0, ExportChoices::maxBleedCm, Unit::Centimetre}, usual.bleedCm);
+                                   "How many millimetres the background and what lies over the page's edges is "
+                                   "drawn beyond them in a PDF, so that nothing is left white where paper is cut.")},
+                choices.bleedMm, {0, ExportChoices::maxBleedMm}, usual.bleedMm);
   fields.flag({"cropMarks", QT_TRANSLATE_NOOP("Fields", "Crop marks"),
                QT_TRANSLATE_NOOP("Fields", "Whether a PDF has marks where the paper is to be cut.")},
               choices.cropMarks, usual.cropMarks);

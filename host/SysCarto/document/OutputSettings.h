@@ -5,12 +5,18 @@
 
 #include <SysCarto/Export.h>
 
+#include <QStringList>
+
 namespace SysCarto {
 
 // What a document stores of how its page becomes a file or comes to paper.
 
 struct SYSCARTO_EXPORT ExportSettings {
   ExportChoices choices;
+
+  /// The keys of what other files have nothing of.
+  static QStringList ofPdf();
+
   void list(SysUtility::Fields& fields);
 };
 

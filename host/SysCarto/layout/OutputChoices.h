@@ -7,18 +7,18 @@ namespace SysCarto {
 /// How the page of a document becomes a file.
 struct ExportChoices {
   static constexpr int maxDpi = 2400;
-  static constexpr double maxBleedCm = 10;
+  static constexpr double maxBleedMm = 100;
 
   int dpi = 300;              ///< of images, and of pictures in place of what can't be shapes
   bool textAsShapes = false;  ///< letters are outlines
-  double bleedCm = 0;         ///< how far what lies over the page's edges is drawn beyond them
+  double bleedMm = 0;         ///< how far what lies over the page's edges is drawn beyond them
   bool cropMarks = false;
   bool layers = true;     ///< can be hidden by who reads the file
   bool isOpened = false;  ///< once it is written
 
   bool operator==(ExportChoices const& o) const {
-    return std::tie(dpi, textAsShapes, bleedCm, cropMarks, layers, isOpened) ==
-           std::tie(o.dpi, o.textAsShapes, o.bleedCm, o.cropMarks, o.layers, o.isOpened);
+    return std::tie(dpi, textAsShapes, bleedMm, cropMarks, layers, isOpened) ==
+           std::tie(o.dpi, o.textAsShapes, o.bleedMm, o.cropMarks, o.layers, o.isOpened);
   }
 };
 

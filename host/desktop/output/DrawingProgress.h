@@ -17,6 +17,9 @@ public:
 
   bool IsCanced() const override;
 
+  /// What is being drawn.
+  void tell(QString const& what) { dialog_.setLabelText(what); }
+
   /// Whether a person had enough of it.
   bool wasStopped() const { return dialog_.wasCanceled(); }
 

@@ -64,10 +64,11 @@ QString ExportArguments::read(QCommandLineParser const& parser, QString const& f
   chosen_.textAsShapes = text == QLatin1String("shapes");
   if (parser.isSet(bleed_)) {
     bool isNumber = false;
-    chosen_.bleedCm = parser.value(bleed_).toDouble(&isNumber) / mmPerCm;
-    if (!isNumber || !(chosen_.bleedCm >= 0 && chosen_.bleedCm <= SysCarto::ExportChoices::maxBleedCm))
+    double const bleedMm = parser.value(bleed_).toDouble(&isNumber);
+    chosen_.bleedCm = bleedMm / mmPerCm;
+    if (!isNumber || !(bleedMm >= 0 && bleedMm <= SysCarto::ExportChoices::maxBleedMm))
       return tr("export: --bleed takes millimetres from 0 to %1, not \"%2\".")
-          .arg(QString::number(SysCarto::ExportChoices::maxBleedCm * mmPerCm), parser.value(bleed_));
+          .arg(QString::number(SysCarto::ExportChoices::maxBleedMm), parser.value(bleed_));
   }
   chosen_.cropMarks = parser.isSet(cropMarks_);
   chosen_.outputIntent = parser.value(outputIntent_);

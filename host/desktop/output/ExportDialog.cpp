@@ -16,7 +16,7 @@
 
 ExportDialog::ExportDialog(ImageFormat const& format, QString const& proposed, SysAdapterUI::FieldSource& source,
                            QWidget* parent)
-    : SettingsDialog(tr("Export as %1").arg(format.shownName()), source, tr("Export"), parent),
+    : SettingsDialog(tr("Export as %1").arg(format.shownName()), source, tr("E&xport"), parent),
       format_(format),
       file_(new QLineEdit(QDir::toNativeSeparators(proposed), this)) {
   file_->setObjectName(QStringLiteral("lineEdit_File"));
@@ -31,6 +31,13 @@ ExportDialog::ExportDialog(ImageFormat const& format, QString const& proposed, S
   column().insertLayout(0, row);
   connect(choose, &QPushButton::clicked, this, &ExportDialog::chooseFile);
   file_->setFocus();
+}
+
+void ExportDialog::tell(QString const& sentence) {
+  auto* const label = new QLabel(sentence, this);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  column().insertWidget(0, label);
 }
 
 QString ExportDialog::path() const {
@@ -56,7 +63,7 @@ void ExportDialog::chooseFile() {
 // Plain text: a file may be called <b>.
 bool ExportDialog::mayWrite(QString const& path) {
   QString const problem = path.isEmpty() ? tr("Name the file to write.")
-                                         : SysUtility::FileSaver::checkPlace(QFileInfo(path).absoluteFilePath());
+                                         : SysUtility::FileSaver::checkFolder(QFileInfo(path).absoluteFilePath());
   bool const replaces = problem.isEmpty() && QFileInfo::exists(path) && path != confirmed_;
   if (problem.isEmpty() && !replaces) return true;
   QString const question =

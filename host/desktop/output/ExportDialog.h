@@ -12,6 +12,9 @@ class ExportDialog final : public SettingsDialog {
 public:
   ExportDialog(ImageFormat const& format, QString const& proposed, SysAdapterUI::FieldSource& source, QWidget* parent);
 
+  /// Says above the rest what the file will hold.
+  void tell(QString const& sentence);
+
   /// With the format's suffix.
   QString path() const;
 

@@ -128,12 +128,11 @@ QString ImageTarget::checkAgainst(QString const& path, SysCarto::MapDocument con
   FileStamp const there = FileStamp::of(path);
   if (!there.exists()) return QString();
   QString const name = path == path_ ? name_ : QDir::toNativeSeparators(path);
-  if (there == FileStamp::of(document.GetPath()))
-    return tr("%1 is the document itself; name another file for the image.").arg(name);
+  if (there == FileStamp::of(document.GetPath())) return tr("%1 is the document itself; name another file.").arg(name);
   auto const layout = document.GetPageLayout();
   for (auto const& source : layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>())
     if (there == FileStamp::of(source.file))
-      return tr("%1 is a file that the page is drawn from; name another file for the image.").arg(name);
+      return tr("%1 is a file that the page is drawn from; name another file.").arg(name);
   return QString();
 }
 

@@ -4,8 +4,10 @@
 #include "ExportDialog.h"
 #include "ImageFormat.h"
 #include "PageExport.h"
+#include "SeriesRun.h"
 
 #include "host/SysCarto/document/DocumentSettings.h"
+#include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/EditorHost.h"
@@ -39,20 +41,21 @@ struct ExportCommand {
 };
 constexpr ExportCommand exportCommands[] = {{"Host_ExportPdf", "pdf"}, {"Host_ExportSvg", "svg"}};
 
-// A PDF has all pages of a series, unless one of them is shown. What could not be on it is told although it is written.
+// A PDF has all pages of a series, unless one of them is shown.
+int pagesOf(Workbench& bench, ImageFormat const& format) {
+  auto const* const pages = format.hasPages ? bench.series().pages() : nullptr;
+  return pages && pages->shown() == 0 ? pages->count() : 1;
+}
+
+// What could not be on it is told although it is written.
 QString writeWithPages(Workbench& bench, PageExport& file, ImageFormat const& format,
-                       SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) {
+                       SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel, SeriesRun::Tell const& tell) {
   if (format.hasPages && !bench.series().pages() && !bench.series().problem().isEmpty())
     return bench.series().problem();
-  QStringList problems;
-  NextPage const pages = format.hasPages ? bench.series().allPages(problems) : nullptr;
-  file.setPages(pages);
-  QString const problem = file.write(bench.session().document(), cancel);
-  if (pages) bench.series().show(0);
-  constexpr int maxTold = 20;
-  if (problems.size() > maxTold) problems = problems.mid(0, maxTold) << QStringLiteral("…");
-  if (!problem.isEmpty()) problems << problem;
-  return problems.join(QLatin1Char('\n'));
+  if (pagesOf(bench, format) == 1) return file.write(bench.session().document(), cancel);
+  SeriesRun run(bench.series(), tell);
+  file.setPages(run.next());
+  return run.withProblems(file.write(bench.session().document(), cancel));
 }
 
 }  // namespace
@@ -78,6 +81,15 @@ bool OutputCommands::draws(QString const& identifier) {
   for (ExportCommand const& command : exportCommands)
     if (identifier == QLatin1String(command.identifier)) return true;
   return identifier == QLatin1String("Plotvane_Export") || identifier.startsWith(QLatin1String("Host_Print"));
+}
+
+QString OutputCommands::checkWhole(SysCarto::MapDocument const& document) {
+  QString const problem = PageExport::checkPage(document);
+  if (!problem.isEmpty()) return problem;
+  for (auto const& source : SysCarto::sourcesOf(*document.GetPageLayout()))
+    if (!source.problem.isEmpty())
+      return tr("the page would not be whole; mend the data source or remove what draws it. %1").arg(source.problem);
+  return QString();
 }
 
 void OutputCommands::tell(QString const& sentence) { window_.statusBar()->showMessage(sentence, toldMs); }
@@ -116,8 +128,14 @@ QString OutputCommands::proposedPath(ImageFormat const& format) const {
 
 QString OutputCommands::exportAs(ImageFormat const& format) {
   auto& session = bench_.session();
-  SettingsSource source(SysCarto::ExportSettings{PageLayoutHost::output(*bench_.views().GetPageLayout()).file});
+  SettingsSource source(SysCarto::ExportSettings{PageLayoutHost::output(*bench_.views().GetPageLayout()).file},
+                        format.hasPages ? QStringList() : SysCarto::ExportSettings::ofPdf());
   ExportDialog dialog(format, proposedPath(format), source, &window_);
+  if (auto const* const pages = bench_.series().pages())
+    dialog.tell(pages->shown() > 0 ? tr("The page that is shown: %1").arg(pages->name(pages->shown()))
+                : pagesOf(bench_, format) > 1
+                    ? tr("All %1 pages of the series").arg(pages->count())
+                    : tr("The page without its series; show one of the series' pages first to export that."));
   if (dialog.exec() != QDialog::Accepted) return QString();
   QString const path = QFileInfo(dialog.path()).absoluteFilePath();
   QString problem = keep(session.document(), {QStringLiteral("output"), QStringLiteral("export")}, source.json());
@@ -127,7 +145,7 @@ QString OutputCommands::exportAs(ImageFormat const& format) {
   if (!problem.isEmpty()) return problem;
   {
     auto const progress = SysUtility::make<DrawingProgress>(tr("Exporting the page…"), bench_.views(), window_);
-    problem = writeWithPages(bench_, page, format, progress);
+    problem = writeWithPages(bench_, page, format, progress, [&](QString const& what) { progress->tell(what); });
     if (progress->wasStopped()) return tell(tr("Cancelled; no file was written.")), QString();
   }
   if (!problem.isEmpty()) return problem;
@@ -140,13 +158,16 @@ QString OutputCommands::exportAs(ImageFormat const& format) {
 
 QString exportPage(Workbench& bench, QString const& path) {
   auto& document = bench.session().document();
-  ImageFormat const* const format = ImageFormat::withSuffix(QFileInfo(path).suffix());
+  QString problem = OutputCommands::checkWhole(document);
+  if (!problem.isEmpty()) return problem;
+  QString const suffix = QFileInfo(path).suffix();
+  ImageFormat const* const format = suffix.isEmpty() ? &ImageFormat::writtenAt(path) : ImageFormat::withSuffix(suffix);
   if (!format)
     return OutputCommands::tr("the suffix of %1 names no format; use one of %2.").arg(path, ImageFormat::allSuffixes());
   auto const layout = document.GetPageLayout();
   PageExport page(path, *format, ExportOptions::of(PageLayoutHost::output(*layout).file));
-  QString problem = page.checkPlace();
-  if (problem.isEmpty()) problem = writeWithPages(bench, page, *format, SysUtility::make<SysUI::TrackerCancel>());
+  problem = page.checkPlace();
+  if (problem.isEmpty()) problem = writeWithPages(bench, page, *format, SysUtility::make<SysUI::TrackerCancel>(), {});
   SysCarto::EditorHost::setHistory(SysCarto::MapDocumentHost::history(document));  // an image's drawing lets go of it
   return problem;
 }

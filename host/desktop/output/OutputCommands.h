@@ -24,6 +24,10 @@ public:
   /// Whether the command of that name draws the page for elsewhere, so that what is missing there is to be told first.
   static bool draws(QString const& identifier);
 
+  /// Whether the document has a page, and all that it draws could be read. Empty, or a sentence that says what is
+  /// missing.
+  static QString checkWhole(SysCarto::MapDocument const& document);
+
   /// Gives the document settings at a path, in one step of the history, or none where they are as they were. Empty, or
   /// a sentence that says why not.
   static QString keep(SysCarto::MapDocument const& document, QStringList const& path, QJsonObject const& settings);

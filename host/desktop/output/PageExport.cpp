@@ -13,12 +13,18 @@
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
 
+namespace {
+
+constexpr double mmPerCm = 10;
+
+}  // namespace
+
 ExportOptions ExportOptions::of(SysCarto::ExportChoices const& choices) {
   ExportOptions options;
   options.dpi = choices.dpi;
   options.textAsShapes = choices.textAsShapes;
   options.layers = choices.layers;
-  options.bleedCm = choices.bleedCm;
+  options.bleedCm = choices.bleedMm / mmPerCm;
   options.cropMarks = choices.cropMarks;
   return options;
 }
@@ -35,6 +41,13 @@ QString PageExport::checkPlace() const {
   return target_.checkPlace();
 }
 
+QString PageExport::checkPage(SysCarto::MapDocument const& document) {
+  auto const layout = document.GetPageLayout();
+  if (layout && layout->GetPage()) return QString();
+  return tr("%1: the document has no page to draw; give it one, such as \"page\": {\"form\": \"A4\"}.")
+      .arg(document.GetPath());
+}
+
 bool PageExport::isWhole(SysCarto::MapDocument& document) const {
   if (!format_.isVector) {
     PageImage image(document, target_, format_, options_);
@@ -45,11 +58,8 @@ bool PageExport::isWhole(SysCarto::MapDocument& document) const {
 
 QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel> const& cancel,
                           ExportProgress const& progress) {
-  auto const layout = document.GetPageLayout();
-  if (!layout || !layout->GetPage())
-    return tr("%1: the document has no page to draw; give it one, such as \"page\": {\"form\": \"A4\"}.")
-        .arg(document.GetPath());
-  QString problem = target_.checkAgainst(document);
+  QString problem = checkPage(document);
+  if (problem.isEmpty()) problem = target_.checkAgainst(document);
   if (problem.isEmpty())
     problem = format_.isVector ? writeShapes(document, cancel) : writePixels(document, cancel, progress);
   if (problem.isEmpty()) problem = target_.commit();

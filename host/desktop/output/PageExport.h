@@ -24,6 +24,9 @@ public:
   /// Whether the format can be written at all, and a file be put there. The document need not be open for it.
   QString checkPlace() const;
 
+  /// Whether the document has a page to draw.
+  static QString checkPage(SysCarto::MapDocument const& document);
+
   /// Whether a whole file of the page's size is in its place.
   bool isWhole(SysCarto::MapDocument& document) const;
 

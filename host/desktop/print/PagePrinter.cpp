@@ -16,6 +16,7 @@
 #include <QPrinterInfo>
 
 #include <algorithm>
+#include <climits>
 
 using SysCarto::PageLayoutHost;
 using SysCarto::PrintChoices;
@@ -93,14 +94,20 @@ QString PagePrinter::print(QPrinter& printer, _ptr_t<TrackerCancel> const& cance
   QPainter painter;
   if (!printer.isValid() || !painter.begin(&printer)) return refused;
   bool const isRange = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
-  int const first = isRange ? std::min(printer.fromPage(), plan.sheets()) - 1 : 0;
-  int const end = isRange ? std::clamp(printer.toPage(), first + 1, plan.sheets()) : plan.sheets();
-  for (int sheet = first; sheet < end; ++sheet) {
-    if (sheet > first && !printer.newPage()) return refused;
-    drawSheet(painter, plan, sheet / plan.columns, sheet % plan.columns, pxPerCm, cancel);
-    if (!cancel || !cancel->IsCanced()) continue;
+  int const first = isRange ? printer.fromPage() : 1, last = isRange ? printer.toPage() : INT_MAX;
+  int number = 0, printed = 0;
+  for (bool isThere = !next_ || next_(); isThere && number < last; isThere = next_ && next_())
+    for (int sheet = 0; sheet < plan.sheets(); ++sheet) {
+      if (++number < first || number > last) continue;
+      if (printed++ > 0 && !printer.newPage()) return refused;
+      drawSheet(painter, plan, sheet / plan.columns, sheet % plan.columns, pxPerCm, cancel);
+      if (!cancel || !cancel->IsCanced()) continue;
+      printer.abort();
+      return QString();
+    }
+  if (printed == 0) {
     printer.abort();
-    return QString();
+    return tr("Nothing was printed: sheet %1 was asked for, and there are %2.").arg(first).arg(number);
   }
   bool const isWhole = painter.end() && printer.printerState() != QPrinter::Error;
   return isWhole ? QString() : refused;

@@ -2,6 +2,8 @@
 
 #include "PosterPlan.h"
 
+#include "host/desktop/vector/VectorExport.h"
+
 #include <SysCarto/MapDocument.h>
 #include <SysUI/TrackerCancel.h>
 
@@ -16,6 +18,9 @@ class PagePrinter {
 
 public:
   explicit PagePrinter(SysCarto::MapDocument& document);
+
+  /// Prints these, and counts sheets through all of them, in place of the page as it is. They are asked for once.
+  void setPages(NextPage next) { next_ = std::move(next); }
 
   /// Gives a printer the paper and the name of what is printed; of papers that lie upright or across, that on which
   /// fewer sheets are needed.
@@ -49,4 +54,5 @@ private:
   void drawNumber(QPainter& painter, PosterPlan const& plan, int row, int column, double pxPerCm) const;
 
   SysCarto::MapDocument& document_;
+  NextPage next_;
 };

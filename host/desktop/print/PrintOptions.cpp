@@ -16,8 +16,8 @@ using SysAdapterUI::PropertyModel;
 
 namespace {
 
-constexpr QSize previewSize(360, 240);
-constexpr int marginPx = 8, captionPx = 200, sheetHeightPx = 240;
+constexpr QSize previewSize(560, 240);
+constexpr int marginPx = 8, captionPx = 240, sheetHeightPx = 240;
 
 }  // namespace
 
