@@ -16,7 +16,7 @@ using SysAdapterUI::PropertyModel;
 
 namespace {
 
-constexpr QSize previewSize(560, 240);
+constexpr QSize previewSize(640, 240);
 constexpr int marginPx = 8, captionPx = 240, sheetHeightPx = 240;
 
 }  // namespace
