@@ -82,7 +82,7 @@ PosterPlan PagePrinter::planFor(QPrinter const& printer) const {
   return PosterPlan::of(pageCm(), paper, marginsOf(printer), choices());
 }
 
-QString PagePrinter::print(QPrinter& printer, _ptr_t<TrackerCancel> const& cancel) const {
+QString PagePrinter::print(QPrinter& printer, _ptr_t<TrackerCancel> const& cancel, Cancelled cancelled) const {
   QString const refused =
       printer.outputFormat() == QPrinter::PdfFormat
           ? tr("The page was not printed: the file could not be written; is the disk full?")
@@ -102,7 +102,7 @@ QString PagePrinter::print(QPrinter& printer, _ptr_t<TrackerCancel> const& cance
       if (printed++ > 0 && !printer.newPage()) return refused;
       drawSheet(painter, plan, sheet / plan.columns, sheet % plan.columns, pxPerCm, cancel);
       if (!cancel || !cancel->IsCanced()) continue;
-      printer.abort();
+      if (cancelled == Cancelled::Forgotten) printer.abort();
       return QString();
     }
   if (printed == 0) {

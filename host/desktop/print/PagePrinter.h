@@ -29,8 +29,12 @@ public:
   /// How the page lies on the paper that the printer has.
   PosterPlan planFor(QPrinter const& printer) const;
 
+  /// Of what is cancelled, a printer forgets all, and a preview shows what there is.
+  enum class Cancelled { Forgotten, Kept };
+
   /// Empty, or a sentence that says why nothing or not all was printed; nothing is said of what was cancelled.
-  QString print(QPrinter& printer, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
+  QString print(QPrinter& printer, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
+                Cancelled cancelled = Cancelled::Forgotten) const;
 
   /// As a file, which is moved into place when it is whole.
   QString printToFile(QPrinter& printer, QString const& path,

@@ -142,7 +142,7 @@ QString PrintCommands::preview() {
     {
       auto const progress = SysUtility::make<DrawingProgress>(tr("Drawing the page…"), bench_.views(), dialog);
       problem = printShown(
-          bench_, page, [&] { return page.print(*shown, progress); },
+          bench_, page, [&] { return page.print(*shown, progress, PagePrinter::Cancelled::Kept); },
           [&](QString const& what) { progress->tell(what); });
     }
     dialog.setEnabled(true);
