@@ -2527,7 +2527,7 @@
     </message>
     <message>
         <source>Export</source>
-        <translation>Export</translation>
+        <translation type="vanished">Export</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -2552,6 +2552,10 @@
     <message>
         <source>Plotvane</source>
         <translation>Plotvane</translation>
+    </message>
+    <message>
+        <source>E&amp;xport</source>
+        <translation>E&amp;xportieren</translation>
     </message>
 </context>
 <context>
@@ -5447,11 +5451,11 @@
     </message>
     <message>
         <source>Bleed</source>
-        <translation>Beschnittzugabe</translation>
+        <translation type="vanished">Beschnittzugabe</translation>
     </message>
     <message>
         <source>How far the background and what lies over the page&apos;s edges is drawn beyond them in a PDF, so that nothing is left white where paper is cut.</source>
-        <translation>Wie weit der Hintergrund und was über die Ränder der Seite reicht in einem PDF darüber hinaus gezeichnet wird, damit beim Schneiden nichts weiß bleibt.</translation>
+        <translation type="vanished">Wie weit der Hintergrund und was über die Ränder der Seite reicht in einem PDF darüber hinaus gezeichnet wird, damit beim Schneiden nichts weiß bleibt.</translation>
     </message>
     <message>
         <source>Crop marks</source>
@@ -5524,6 +5528,14 @@
     <message>
         <source>What was chosen for the page on paper.</source>
         <translation>Was für die Seite auf Papier gewählt wurde.</translation>
+    </message>
+    <message>
+        <source>Bleed (mm)</source>
+        <translation>Beschnitt (mm)</translation>
+    </message>
+    <message>
+        <source>How many millimetres the background and what lies over the page&apos;s edges is drawn beyond them in a PDF, so that nothing is left white where paper is cut.</source>
+        <translation>Wie viele Millimeter der Hintergrund und was über die Ränder der Seite reicht in einem PDF darüber hinaus gezeichnet wird, damit beim Schneiden des Papiers nichts weiß bleibt.</translation>
     </message>
 </context>
 <context>
@@ -5895,7 +5907,7 @@
     </message>
     <message>
         <source>%1 is the document itself; name another file for the image.</source>
-        <translation>%1 ist das Dokument selbst; nennen Sie eine andere Datei für das Bild.</translation>
+        <translation type="vanished">%1 ist das Dokument selbst; nennen Sie eine andere Datei für das Bild.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written: %2.</source>
@@ -5959,7 +5971,7 @@
     </message>
     <message>
         <source>%1 is a file that the page is drawn from; name another file for the image.</source>
-        <translation>Aus %1 wird die Seite gezeichnet; nennen Sie eine andere Datei für das Bild.</translation>
+        <translation type="vanished">Aus %1 wird die Seite gezeichnet; nennen Sie eine andere Datei für das Bild.</translation>
     </message>
     <message>
         <source>%1 was not written: its end is missing; is the disk full?</source>
@@ -5972,6 +5984,14 @@
     <message>
         <source>%1 was written, but not %2, which says where it lies: %3.</source>
         <translation>%1 wurde geschrieben, aber nicht %2, das sagt, wo es liegt: %3.</translation>
+    </message>
+    <message>
+        <source>%1 is the document itself; name another file.</source>
+        <translation>%1 ist das Dokument selbst; nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>%1 is a file that the page is drawn from; name another file.</source>
+        <translation>%1 ist eine Datei, aus der die Seite gezeichnet wird; nennen Sie eine andere Datei.</translation>
     </message>
 </context>
 <context>
@@ -7356,6 +7376,22 @@
         <source>the suffix of %1 names no format; use one of %2.</source>
         <translation>die Endung von %1 nennt kein Format; nehmen Sie eine von %2.</translation>
     </message>
+    <message>
+        <source>the page would not be whole; mend the data source or remove what draws it. %1</source>
+        <translation>die Seite wäre nicht vollständig; reparieren Sie die Datenquelle oder entfernen Sie, was sie zeichnet. %1</translation>
+    </message>
+    <message>
+        <source>The page that is shown: %1</source>
+        <translation>Die angezeigte Seite: %1</translation>
+    </message>
+    <message>
+        <source>All %1 pages of the series</source>
+        <translation>Alle %1 Seiten der Serie</translation>
+    </message>
+    <message>
+        <source>The page without its series; show one of the series&apos; pages first to export that.</source>
+        <translation>Die Seite ohne ihre Serie; zeigen Sie zuerst eine Seite der Serie an, um diese zu exportieren.</translation>
+    </message>
 </context>
 <context>
     <name>OutputIntent</name>
@@ -7609,6 +7645,10 @@
         <source>There is no printer %1; there are: %2. A .pdf file can be named, too.</source>
         <translation>Einen Drucker %1 gibt es nicht; es gibt: %2. Auch eine .pdf-Datei kann genannt werden.</translation>
     </message>
+    <message>
+        <source>Nothing was printed: sheet %1 was asked for, and there are %2.</source>
+        <translation>Nichts wurde gedruckt: Verlangt war ab Blatt %1, es gibt %2.</translation>
+    </message>
 </context>
 <context>
     <name>PageTexts</name>
@@ -7742,6 +7782,10 @@
         <source>Drawing the page…</source>
         <translation>Die Seite wird gezeichnet …</translation>
     </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
+    </message>
 </context>
 <context>
     <name>PrintOptions</name>
@@ -7868,7 +7912,7 @@
     </message>
     <message>
         <source>Plotvane ended with changes that were not saved. A recovered document is as it was then, and counts as not saved; its file stays as it is until you save.</source>
-        <translation>Plotvane endete mit Änderungen, die nicht gespeichert waren. Ein wiederhergestelltes Dokument ist, wie es zuletzt war, und gilt als nicht gespeichert; seine Datei bleibt unverändert, bis Sie speichern.</translation>
+        <translation type="vanished">Plotvane endete mit Änderungen, die nicht gespeichert waren. Ein wiederhergestelltes Dokument ist, wie es zuletzt war, und gilt als nicht gespeichert; seine Datei bleibt unverändert, bis Sie speichern.</translation>
     </message>
     <message>
         <source>Recover</source>
@@ -7903,6 +7947,14 @@ Die Kopie bleibt in %2.</translation>
     <message>
         <source>Discard the changes of %1?</source>
         <translation>Die Änderungen von %1 verwerfen?</translation>
+    </message>
+    <message>
+        <source>Plotvane ended before these changes were saved. Recover opens the document with them; its file stays as it is until you save.</source>
+        <translation>Plotvane endete, bevor diese Änderungen gespeichert waren. „Wiederherstellen“ öffnet das Dokument mit ihnen; seine Datei bleibt, wie sie ist, bis Sie speichern.</translation>
+    </message>
+    <message>
+        <source>%1 was not opened, since a document was recovered. Save that, then open it.</source>
+        <translation>%1 wurde nicht geöffnet, weil ein Dokument wiederhergestellt wurde. Speichern Sie dieses und öffnen Sie dann jenes.</translation>
     </message>
 </context>
 <context>
@@ -8220,6 +8272,13 @@ Die Kopie bleibt in %2.</translation>
     <message>
         <source>Page %1 “%2”: its feature has no place that the map could show; leave it out by “series/filter”, or mend its geometry.</source>
         <translation>Seite %1 „%2“: ihr Objekt hat keinen Ort, den die Karte zeigen könnte; lassen Sie es mit „series/filter“ weg, oder berichtigen Sie seine Geometrie.</translation>
+    </message>
+</context>
+<context>
+    <name>SeriesRun</name>
+    <message>
+        <source>Page %1 of %2: %3</source>
+        <translation>Seite %1 von %2: %3</translation>
     </message>
 </context>
 <context>

@@ -2527,7 +2527,7 @@
     </message>
     <message>
         <source>Export</source>
-        <translation>导出</translation>
+        <translation type="vanished">导出</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -2552,6 +2552,10 @@
     <message>
         <source>Plotvane</source>
         <translation>Plotvane</translation>
+    </message>
+    <message>
+        <source>E&amp;xport</source>
+        <translation>导出(&amp;X)</translation>
     </message>
 </context>
 <context>
@@ -5447,11 +5451,11 @@
     </message>
     <message>
         <source>Bleed</source>
-        <translation>出血</translation>
+        <translation type="vanished">出血</translation>
     </message>
     <message>
         <source>How far the background and what lies over the page&apos;s edges is drawn beyond them in a PDF, so that nothing is left white where paper is cut.</source>
-        <translation>在 PDF 中，背景和超出页面边缘的内容向外多画多少，以免裁切处留白。</translation>
+        <translation type="vanished">在 PDF 中，背景和超出页面边缘的内容向外多画多少，以免裁切处留白。</translation>
     </message>
     <message>
         <source>Crop marks</source>
@@ -5524,6 +5528,14 @@
     <message>
         <source>What was chosen for the page on paper.</source>
         <translation>为页面打印所做的选择。</translation>
+    </message>
+    <message>
+        <source>Bleed (mm)</source>
+        <translation>出血（毫米）</translation>
+    </message>
+    <message>
+        <source>How many millimetres the background and what lies over the page&apos;s edges is drawn beyond them in a PDF, so that nothing is left white where paper is cut.</source>
+        <translation>在 PDF 中，背景和超出页面边缘的内容向外绘制多少毫米，以免裁切纸张时留下白边。</translation>
     </message>
 </context>
 <context>
@@ -5895,7 +5907,7 @@
     </message>
     <message>
         <source>%1 is the document itself; name another file for the image.</source>
-        <translation>%1 就是文档本身；请为图像指定其他文件。</translation>
+        <translation type="vanished">%1 就是文档本身；请为图像指定其他文件。</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written: %2.</source>
@@ -5959,7 +5971,7 @@
     </message>
     <message>
         <source>%1 is a file that the page is drawn from; name another file for the image.</source>
-        <translation>%1 是绘制此页面所用的文件；请为图像指定其他文件。</translation>
+        <translation type="vanished">%1 是绘制此页面所用的文件；请为图像指定其他文件。</translation>
     </message>
     <message>
         <source>%1 was not written: its end is missing; is the disk full?</source>
@@ -5972,6 +5984,14 @@
     <message>
         <source>%1 was written, but not %2, which says where it lies: %3.</source>
         <translation>%1 已写入，但说明其位置的 %2 未写入：%3。</translation>
+    </message>
+    <message>
+        <source>%1 is the document itself; name another file.</source>
+        <translation>%1 就是文档本身；请指定另一个文件。</translation>
+    </message>
+    <message>
+        <source>%1 is a file that the page is drawn from; name another file.</source>
+        <translation>%1 是绘制页面所用的文件；请指定另一个文件。</translation>
     </message>
 </context>
 <context>
@@ -7356,6 +7376,22 @@
         <source>the suffix of %1 names no format; use one of %2.</source>
         <translation>%1 的后缀不是任何格式；请用以下之一：%2。</translation>
     </message>
+    <message>
+        <source>the page would not be whole; mend the data source or remove what draws it. %1</source>
+        <translation>页面将不完整；请修复数据源，或删除使用它的内容。%1</translation>
+    </message>
+    <message>
+        <source>The page that is shown: %1</source>
+        <translation>当前显示的页面：%1</translation>
+    </message>
+    <message>
+        <source>All %1 pages of the series</source>
+        <translation>系列的全部 %1 页</translation>
+    </message>
+    <message>
+        <source>The page without its series; show one of the series&apos; pages first to export that.</source>
+        <translation>不含系列的页面；要导出系列中的某一页，请先显示它。</translation>
+    </message>
 </context>
 <context>
     <name>OutputIntent</name>
@@ -7609,6 +7645,10 @@
         <source>There is no printer %1; there are: %2. A .pdf file can be named, too.</source>
         <translation>没有打印机 %1；现有：%2。也可以指定 .pdf 文件。</translation>
     </message>
+    <message>
+        <source>Nothing was printed: sheet %1 was asked for, and there are %2.</source>
+        <translation>没有打印任何内容：要求从第 %1 张开始，而共有 %2 张。</translation>
+    </message>
 </context>
 <context>
     <name>PageTexts</name>
@@ -7742,6 +7782,10 @@
         <source>Drawing the page…</source>
         <translation>正在绘制页面…</translation>
     </message>
+    <message>
+        <source>Plotvane</source>
+        <translation>Plotvane</translation>
+    </message>
 </context>
 <context>
     <name>PrintOptions</name>
@@ -7868,7 +7912,7 @@
     </message>
     <message>
         <source>Plotvane ended with changes that were not saved. A recovered document is as it was then, and counts as not saved; its file stays as it is until you save.</source>
-        <translation>Plotvane 结束时有未保存的更改。恢复的文档保持当时的状态，视为未保存；在您保存之前，其文件不变。</translation>
+        <translation type="vanished">Plotvane 结束时有未保存的更改。恢复的文档保持当时的状态，视为未保存；在您保存之前，其文件不变。</translation>
     </message>
     <message>
         <source>Recover</source>
@@ -7903,6 +7947,14 @@ The copy is kept in %2.</source>
     <message>
         <source>Discard the changes of %1?</source>
         <translation>丢弃 %1 的更改？</translation>
+    </message>
+    <message>
+        <source>Plotvane ended before these changes were saved. Recover opens the document with them; its file stays as it is until you save.</source>
+        <translation>Plotvane 在这些更改保存之前结束了。“恢复”会打开包含这些更改的文档；在您保存之前，文件保持原样。</translation>
+    </message>
+    <message>
+        <source>%1 was not opened, since a document was recovered. Save that, then open it.</source>
+        <translation>由于恢复了一个文档，%1 没有打开。请先保存恢复的文档，再打开它。</translation>
     </message>
 </context>
 <context>
@@ -8220,6 +8272,13 @@ The copy is kept in %2.</source>
     <message>
         <source>Page %1 “%2”: its feature has no place that the map could show; leave it out by “series/filter”, or mend its geometry.</source>
         <translation>第 %1 页“%2”：其要素没有地图能显示的位置；请用“series/filter”去掉它，或修正其几何。</translation>
+    </message>
+</context>
+<context>
+    <name>SeriesRun</name>
+    <message>
+        <source>Page %1 of %2: %3</source>
+        <translation>第 %1 页，共 %2 页：%3</translation>
     </message>
 </context>
 <context>
