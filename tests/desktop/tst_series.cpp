@@ -35,7 +35,7 @@ QByteArray sheets() {
            {QPointF(x, y), QPointF(x + 2e5, y), QPointF(x + 2e5, y + 1e5), QPointF(x, y + 1e5), QPointF(x, y)})
         ring << QJsonArray{corner.x(), corner.y()};
       add(QString(QChar('a' + column)) + QString::number(row + 1), (2 - row) * 3 + column + 1,
-          QJsonObject{{"type", "Polygon"}, {"coordinates", QJsonArray{ring}}});
+          QJsonObject{{"type", "Polygon"}, {"coordinates", QJsonArray{QJsonValue(ring)}}});
     }
   add("nowhere", 10, QJsonValue());
   return QJsonDocument(QJsonObject{{"type", "FeatureCollection"}, {"features", features}}).toJson();
