@@ -107,7 +107,8 @@ QPDFObjectHandle descriptor(PdfObjects& objects, PdfFonts::Font const& font, QBy
       pdfNumber(std::ceil(box.right() * scale)) + ' ' + pdfNumber(std::ceil(-box.top() * scale)) + "]>>";
   QPDFObjectHandle result = QPDFObjectHandle::parse(text.toStdString());
   QByteArray const bytes = subset(raw, font.glyphs);
-  if (bytes.isEmpty()) throw std::runtime_error("the font " + raw.familyName().toStdString() + " can't be cut down");
+  std::string const family = raw.familyName().toStdString();
+  if (bytes.isEmpty()) throw std::runtime_error("the font " + family + " can't be cut down");  // as qpdf, in a throw
   QPDFObjectHandle file = objects.stream(bytes);
   if (isCff)
     file.getDict().replaceKey("/Subtype", QPDFObjectHandle::newName("/CIDFontType0C"));
