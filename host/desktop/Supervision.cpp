@@ -95,6 +95,7 @@ ProcessEnding waitFor(pid_t process, ResourceLimits const& limits, sigset_t cons
       if (WIFEXITED(status)) ending.status = WEXITSTATUS(status);
       if (WIFSIGNALED(status)) ending.signal = WTERMSIG(status);
       if (ending.signal != 0 && ending.reason == Reason::Itself) ending.reason = Reason::Signal;
+      if (WIFEXITED(status) && ending.status == 0) ending.reason = Reason::Itself;  // done after all
       return ending;
     } else if (signal > 0 && signal != SIGCHLD) {
       if (isToBeHandedOn(told, handedOn)) kill(process, signal);

@@ -207,8 +207,8 @@ QString PageImage::write(_ptr_t<TrackerCancel> const& cancel, ExportProgress con
   bool isWritten = pixels && drawTiles(*pixels, cancel, progress);
   if (isWritten && !cancel->IsCanced()) isWritten = convert(*pixels, tags, cancel, progress);
   pixels.reset();
-  QFile::remove(
-      QString::fromUtf8(path));  // the disk may have room for one more copy of the image, and not for this, too
+  // The disk may have room for one more copy of the image, and not for this, too.
+  QFile::remove(QString::fromUtf8(path));
   if (isWritten && !cancel->IsCanced())
     isWritten = tags.addTo(target_.workingPath(), format_, part_.size(), options_.transparent);
   if (!isWritten || errors.hasFailure()) return target_.failure(errors);
