@@ -1509,6 +1509,14 @@
         <source>Print the page, on several sheets where it is larger than the paper</source>
         <translation>Die Seite drucken, auf mehrere Blätter, wo sie größer ist als das Papier</translation>
     </message>
+    <message>
+        <source>Allowed Folders…</source>
+        <translation>Erlaubte Ordner …</translation>
+    </message>
+    <message>
+        <source>Name folders of which documents may use files without that being told</source>
+        <translation>Ordner nennen, deren Dateien Dokumente verwenden dürfen, ohne dass darauf hingewiesen wird</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -2142,6 +2150,26 @@
         <source>Series: %1 pages</source>
         <translation>Serie: %1 Seiten</translation>
     </message>
+    <message>
+        <source>layer</source>
+        <translation>Ebene</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>series</source>
+        <translation>Serie</translation>
+    </message>
+    <message>
+        <source>outside</source>
+        <translation>außerhalb</translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation>Dateien: %1</translation>
+    </message>
 </context>
 <context>
     <name>DocumentSession</name>
@@ -2705,6 +2733,10 @@
     <message>
         <source>the globe</source>
         <translation>der Globus</translation>
+    </message>
+    <message>
+        <source>The coordinate system of %1 names a file by its path, which is not opened; give another one in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Das Koordinatensystem von %1 nennt eine Datei mit ihrem Pfad, die nicht geöffnet wird; geben Sie im Feld „coordinateSystem“ der Quelle ein anderes an.</translation>
     </message>
 </context>
 <context>
@@ -5537,6 +5569,14 @@
         <source>How many millimetres the background and what lies over the page&apos;s edges is drawn beyond them in a PDF, so that nothing is left white where paper is cut.</source>
         <translation>Wie viele Millimeter der Hintergrund und was über die Ränder der Seite reicht in einem PDF darüber hinaus gezeichnet wird, damit beim Schneiden des Papiers nichts weiß bleibt.</translation>
     </message>
+    <message>
+        <source>Allowed folders</source>
+        <translation>Erlaubte Ordner</translation>
+    </message>
+    <message>
+        <source>Folders of which documents may use files, also of folders in them, without being told of; one a line.</source>
+        <translation>Ordner, deren Dateien Dokumente verwenden dürfen, auch solche aus Ordnern darin, ohne dass darauf hingewiesen wird; einer je Zeile.</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -5642,6 +5682,17 @@
     <message>
         <source>%1: “[%2]” stands for nothing in the name of a file; use “[page]”, “[page:name]”, “[pages]” or “[field:name]”.</source>
         <translation>%1: „[%2]“ steht im Namen einer Datei für nichts; nehmen Sie „[page]“, „[page:name]“, „[pages]“ oder „[field:name]“.</translation>
+    </message>
+</context>
+<context>
+    <name>FileReach</name>
+    <message>
+        <source>it lies outside the document&apos;s folder; move it there, or pass --allow %1</source>
+        <translation>sie liegt außerhalb des Ordners des Dokuments; legen Sie sie dorthin oder geben Sie --allow %1 an</translation>
+    </message>
+    <message>
+        <source>it leads to %1, outside the document&apos;s folder; put a copy there, or pass --allow %2</source>
+        <translation>sie führt zu %1, außerhalb des Ordners des Dokuments; legen Sie eine Kopie dorthin oder geben Sie --allow %2 an</translation>
     </message>
 </context>
 <context>
@@ -7428,6 +7479,29 @@
     </message>
 </context>
 <context>
+    <name>OutsideFiles</name>
+    <message>
+        <source>“%1” is no whole path; write one that begins with “/”</source>
+        <translation>„%1“ ist kein vollständiger Pfad; schreiben Sie einen, der mit „/“ beginnt</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>The document uses files of other folders: %1.</source>
+        <translation>Das Dokument verwendet Dateien anderer Ordner: %1.</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>Erlauben</translation>
+    </message>
+    <message>
+        <source>Allowed Folders</source>
+        <translation>Erlaubte Ordner</translation>
+    </message>
+</context>
+<context>
     <name>OwnLibrary</name>
     <message>
         <source>My symbols</source>
@@ -7705,6 +7779,10 @@
     <message>
         <source>%1: the picture is neither PNG nor JPEG, TIFF, WebP or SVG; save it as one of these.</source>
         <translation>%1: Das Bild ist weder PNG noch JPEG, TIFF, WebP oder SVG; speichern Sie es als eines davon.</translation>
+    </message>
+    <message>
+        <source>%1: the picture can&apos;t be opened: %2.</source>
+        <translation>%1: Das Bild kann nicht geöffnet werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -8437,6 +8515,14 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>Make a map of data, with a page around it</source>
         <translation>Eine Karte aus Daten machen, mit einer Seite darum</translation>
+    </message>
+    <message>
+        <source>Open for the document only files in its folder, below it, and in folders that --allow names.</source>
+        <translation>Für das Dokument nur Dateien in seinem Ordner, darunter und in Ordnern öffnen, die --allow nennt.</translation>
+    </message>
+    <message>
+        <source>A folder for --confine; may be given several times.</source>
+        <translation>Ein Ordner für --confine; mehrfach möglich.</translation>
     </message>
 </context>
 <context>

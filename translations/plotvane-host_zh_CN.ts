@@ -1509,6 +1509,14 @@
         <source>Print the page, on several sheets where it is larger than the paper</source>
         <translation>打印页面；大于纸张时分成多张</translation>
     </message>
+    <message>
+        <source>Allowed Folders…</source>
+        <translation>允许的文件夹…</translation>
+    </message>
+    <message>
+        <source>Name folders of which documents may use files without that being told</source>
+        <translation>指定文件夹，文档使用其中的文件时不再提示</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -2142,6 +2150,26 @@
         <source>Series: %1 pages</source>
         <translation>系列：%1 页</translation>
     </message>
+    <message>
+        <source>layer</source>
+        <translation>图层</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>表</translation>
+    </message>
+    <message>
+        <source>series</source>
+        <translation>系列</translation>
+    </message>
+    <message>
+        <source>outside</source>
+        <translation>外部</translation>
+    </message>
+    <message>
+        <source>Files: %1</source>
+        <translation>文件：%1</translation>
+    </message>
 </context>
 <context>
     <name>DocumentSession</name>
@@ -2705,6 +2733,10 @@
     <message>
         <source>the globe</source>
         <translation>地球</translation>
+    </message>
+    <message>
+        <source>The coordinate system of %1 names a file by its path, which is not opened; give another one in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1 的坐标系按路径引用了一个文件，该文件不会被打开；请在数据源的字段“coordinateSystem”中指定另一个坐标系。</translation>
     </message>
 </context>
 <context>
@@ -5537,6 +5569,14 @@
         <source>How many millimetres the background and what lies over the page&apos;s edges is drawn beyond them in a PDF, so that nothing is left white where paper is cut.</source>
         <translation>在 PDF 中，背景和超出页面边缘的内容向外绘制多少毫米，以免裁切纸张时留下白边。</translation>
     </message>
+    <message>
+        <source>Allowed folders</source>
+        <translation>允许的文件夹</translation>
+    </message>
+    <message>
+        <source>Folders of which documents may use files, also of folders in them, without being told of; one a line.</source>
+        <translation>文档可以使用这些文件夹及其子文件夹中的文件而不再提示；每行一个。</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -5642,6 +5682,17 @@
     <message>
         <source>%1: “[%2]” stands for nothing in the name of a file; use “[page]”, “[page:name]”, “[pages]” or “[field:name]”.</source>
         <translation>%1：“[%2]”在文件名中没有意义；请使用“[page]”、“[page:name]”、“[pages]”或“[field:name]”。</translation>
+    </message>
+</context>
+<context>
+    <name>FileReach</name>
+    <message>
+        <source>it lies outside the document&apos;s folder; move it there, or pass --allow %1</source>
+        <translation>它位于文档所在文件夹之外；请将其移到该文件夹中，或指定 --allow %1</translation>
+    </message>
+    <message>
+        <source>it leads to %1, outside the document&apos;s folder; put a copy there, or pass --allow %2</source>
+        <translation>它指向 %1，位于文档所在文件夹之外；请在该文件夹中放一份副本，或指定 --allow %2</translation>
     </message>
 </context>
 <context>
@@ -7428,6 +7479,29 @@
     </message>
 </context>
 <context>
+    <name>OutsideFiles</name>
+    <message>
+        <source>“%1” is no whole path; write one that begins with “/”</source>
+        <translation>“%1”不是完整路径；请填写以“/”开头的路径</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>另有 %1 个</translation>
+    </message>
+    <message>
+        <source>The document uses files of other folders: %1.</source>
+        <translation>该文档使用了其他文件夹中的文件：%1。</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <translation>允许</translation>
+    </message>
+    <message>
+        <source>Allowed Folders</source>
+        <translation>允许的文件夹</translation>
+    </message>
+</context>
+<context>
     <name>OwnLibrary</name>
     <message>
         <source>My symbols</source>
@@ -7705,6 +7779,10 @@
     <message>
         <source>%1: the picture is neither PNG nor JPEG, TIFF, WebP or SVG; save it as one of these.</source>
         <translation>%1：图片既不是 PNG，也不是 JPEG、TIFF、WebP 或 SVG；请另存为其中一种。</translation>
+    </message>
+    <message>
+        <source>%1: the picture can&apos;t be opened: %2.</source>
+        <translation>%1：无法打开图片：%2。</translation>
     </message>
 </context>
 <context>
@@ -8437,6 +8515,14 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>Make a map of data, with a page around it</source>
         <translation>用数据制作地图及其页面</translation>
+    </message>
+    <message>
+        <source>Open for the document only files in its folder, below it, and in folders that --allow names.</source>
+        <translation>只为文档打开其所在文件夹、其子文件夹以及 --allow 指定的文件夹中的文件。</translation>
+    </message>
+    <message>
+        <source>A folder for --confine; may be given several times.</source>
+        <translation>用于 --confine 的文件夹；可多次指定。</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,7 @@ bool DocumentFiles::read(QString const& path) {
   }
   lock_ = lock;
   remember(path);
+  emit opened();
   QStringList const warnings = session_.document().GetWarnings();
   if (!warnings.isEmpty())
     tell(QMessageBox::Warning, tr("The document was opened, but not all of it was read."), warnings);

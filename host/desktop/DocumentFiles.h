@@ -55,6 +55,9 @@ public:
   void fillWithRecent(QMenu& menu);
 
 signals:
+  /// A person has opened a document, or read it anew.
+  void opened();
+
   /// Somebody else has changed or removed the document or files that it draws from.
   void changedOutside(QString const& sentence, bool canReload);
 

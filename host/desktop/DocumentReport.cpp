@@ -3,11 +3,13 @@
 #include "series/SeriesPages.h"
 
 #include "host/SysCarto/document/DocumentSettings.h"
+#include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/document/ElementFields.h"
 #include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysUtility/FileReach.h"
 #include "host/SysUtility/JsonFields.h"
 
 #include <SysCarto/Map.h>
@@ -51,6 +53,12 @@ constexpr KindName elementKinds[] = {
 constexpr KindName layerKinds[] = {
     { 2, QT_TRANSLATE_NOOP("DocumentReport", "features")},
     { 3, QT_TRANSLATE_NOOP("DocumentReport", "raster")},
+};
+constexpr char const* uses[] = {  // as SysCarto::DocumentSource::Use counts
+    QT_TRANSLATE_NOOP("DocumentReport", "layer"),
+    QT_TRANSLATE_NOOP("DocumentReport", "table"),
+    QT_TRANSLATE_NOOP("DocumentReport", "picture"),
+    QT_TRANSLATE_NOOP("DocumentReport", "series"),
 };
 constexpr char const* orientations[] = {
     QT_TRANSLATE_NOOP("DocumentReport", "portrait"),
@@ -119,6 +127,18 @@ QJsonValue seriesJson(SysCarto::MapDocument const& document) {
   if (!problem.isEmpty()) warnings.prepend(problem);
   if (!warnings.isEmpty()) series[QStringLiteral("problems")] = QJsonArray::fromStringList(warnings);
   return series;
+}
+
+QJsonArray filesJson(SysCarto::MapDocument const& document) {
+  QJsonArray files;
+  auto const layout = document.GetPageLayout();
+  auto const reach = SysUtility::FileReach::ofDocument(document.GetPath());
+  for (auto const& source : layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>())
+    files.append(QJsonObject{{QStringLiteral("file"), source.file},
+                             {QStringLiteral("use"), QLatin1String(uses[static_cast<int>(source.use)])},
+                             {QStringLiteral("name"), source.user},
+                             {QStringLiteral("outside"), !source.outside(reach).isEmpty()}});
+  return files;
 }
 
 // Of a layer that was labelled just now.
@@ -191,6 +211,7 @@ public:
   static QString elements(QJsonArray const& elements);
   static QString map(QJsonObject const& map);
   static QString series(QJsonObject const& series);
+  static QString files(QJsonArray const& files);
 
 private:
   static QString formatted(QJsonValue const& rectangle, int decimals);
@@ -236,6 +257,17 @@ QString ReportText::series(QJsonObject const& series) {
   return text;
 }
 
+QString ReportText::files(QJsonArray const& files) {
+  QVector<QStringList> rows;
+  for (QJsonValue const& value : files) {
+    QJsonObject const file = value.toObject();
+    QString const place = file[QStringLiteral("outside")].toBool() ? tr("outside") : QString();
+    rows.append({word(file[QStringLiteral("use")]), place, file[QStringLiteral("file")].toString(),
+                 file[QStringLiteral("name")].toString()});
+  }
+  return files.isEmpty() ? QString() : tr("Files: %1").arg(files.size()) + QLatin1Char('\n') + table(rows);
+}
+
 QString ReportText::map(QJsonObject const& map) {
   QVector<QStringList> rows;
   for (QJsonValue const& value : map[QStringLiteral("layers")].toArray()) {
@@ -273,6 +305,7 @@ QJsonObject documentJson(SysCarto::MapDocument const& document, bool countsLabel
       {QStringLiteral("elements"), elementsJson(layout ? layout->GetGraphicsContainer() : nullptr)},
       {QStringLiteral("maps"), mapList},
       {QStringLiteral("series"), seriesJson(document)},
+      {QStringLiteral("files"), filesJson(document)},
       {QStringLiteral("view"),
        QJsonObject{{QStringLiteral("extent"), layout ? rectangle(layout->GetExtent()) : QJsonValue(QJsonValue::Null)}}},
   };
@@ -286,5 +319,6 @@ QString documentText(QJsonObject const& report) {
   QJsonValue const series = report[QStringLiteral("series")];
   if (series.isObject()) text += ReportText::series(series.toObject());
   for (QJsonValue const& map : report[QStringLiteral("maps")].toArray()) text += ReportText::map(map.toObject());
+  text += ReportText::files(report[QStringLiteral("files")].toArray());
   return text.trimmed();
 }

@@ -4,6 +4,7 @@
 #include "ElementList.h"
 #include "Icons.h"
 #include "NoticeBar.h"
+#include "OutsideFiles.h"
 #include "PropertyPanel.h"
 #include "drawing/Ruler.h"
 #include "layers/LayerClasses.h"
@@ -149,6 +150,7 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   layers_.addTo(host);
   output_.addTo(host);
   print_.addTo(host);
+  OutsideFiles::addTo(host, *this);
   auto const always = std::function<bool()>(), never = always;
   host.add(QStringLiteral("Host_New"), {[this] { files_.create(); }, always, always});
   host.add(QStringLiteral("Host_NewFromData"), {[this] { makeFromData(); }, always, always});
@@ -246,15 +248,13 @@ void MainWindow::connectFiles() {
     bench_.views().redraw();
   });
   connect(&bench_.session(), &DocumentSession::replaced, notice_, &QWidget::hide);
+  new OutsideFiles(files_, bench_.session(), *notice_);
   connect(&bench_.session(), &DocumentSession::modifiedChanged, actions_.get(), &ActionTable::refreshSoon);
   connect(notice_, &NoticeBar::reloadWanted, this, [this] {
     finishTyping();
     if (files_.reload()) notice_->hide();
   });
-  connect(notice_, &NoticeBar::keepWanted, this, [this] {
-    notice_->hide();
-    files_.keep();
-  });
+  connect(notice_, &NoticeBar::keepWanted, &files_, &DocumentFiles::keep);
   bench_.commands().setGuard([this](CommandEntry const& entry) {
     properties_->finish();
     layers_.finishTyping();

@@ -2,6 +2,8 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class QLabel;
 class QPushButton;
 
@@ -16,6 +18,9 @@ public:
 
   void tell(QString const& text, bool canReload);
 
+  /// With a button that does what is offered, and closes the line.
+  void offer(QString const& text, QString const& button, std::function<void()> const& accept);
+
 signals:
   void reloadWanted();
   void keepWanted();
@@ -23,5 +28,7 @@ signals:
 private:
   QLabel* text_;
   QPushButton* reload_;
+  QPushButton* offer_;
   QPushButton* keep_;
+  std::function<void()> offered_;
 };

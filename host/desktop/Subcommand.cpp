@@ -1,7 +1,10 @@
 #include "Subcommand.h"
 
+#include "Confinement.h"
 #include "Console.h"
 #include "Language.h"
+
+#include "host/SysUtility/FileReach.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -98,10 +101,18 @@ int runCommandLine(QStringList const& arguments) {
 std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLineParser& parser,
                                          QStringList const& arguments) {
   QCommandLineOption const help({QStringLiteral("h"), QStringLiteral("help")}, Texts::tr("Show this help."));
-  // Its value was taken out of the arguments before; here it is for the help.
+  // These were taken out of the arguments before; here they are for the help.
   QCommandLineOption const language(QLatin1String(languageOption),
                                     Texts::tr("The language of the texts, such as de; the user's own if not given."),
                                     QStringLiteral("LANG"));
+  QCommandLineOption const confine(
+      QLatin1String(Confinement::option),
+      Texts::tr("Open for the document only files in its folder, below it, and in folders that --allow names."));
+  QCommandLineOption const allow(QLatin1String(Confinement::folderOption),
+                                 Texts::tr("A folder for --confine; may be given several times."),
+                                 QStringLiteral("FOLDER"));
+  bool const opensFiles = QLatin1String(self.operands).startsWith(QLatin1String("DOCUMENT"));
+  if (opensFiles) parser.addOptions({confine, allow});
   parser.addOptions({language, help});
   parser.setApplicationDescription(Texts::tr("%1.").arg(Texts::tr(self.help)));
   bool const understood = parser.parse(QStringList(QStringLiteral("plotvane")) + arguments);
@@ -118,7 +129,11 @@ std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLinePar
   bool const takesMore = !operands.isEmpty() && operands.last().endsWith(QLatin1String("..."));
   if (problem.isEmpty() && given > operands.size() && !takesMore)
     problem = Texts::tr("\"%1\" is one argument too many.").arg(parser.positionalArguments().at(operands.size()));
-  if (problem.isEmpty()) return std::nullopt;
+  if (problem.isEmpty()) {
+    QFileInfo const named(parser.positionalArguments().value(0));
+    if (opensFiles) SysUtility::FileReach::allow(named.isDir() ? named.filePath() : named.path());
+    return std::nullopt;
+  }
   Console::complain(QStringLiteral("%1: %2 ").arg(QLatin1String(self.name), problem) +
                     Texts::tr("plotvane %1 --help tells how.").arg(QLatin1String(self.name)));
   return WrongArguments;

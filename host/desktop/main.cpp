@@ -1,3 +1,4 @@
+#include "Confinement.h"
 #include "Console.h"
 #include "Language.h"
 #include "MainWindow.h"
@@ -34,13 +35,15 @@ QStringList ownArguments() {
   QStringList arguments = QCoreApplication::arguments().mid(1);
   takeLanguage(arguments);
   ResourceLimits().take(arguments);
+  Confinement().take(arguments);
   return arguments;
 }
 
-int runSubcommand(int argc, char** argv, std::optional<QString> const& language) {
+int runSubcommand(int argc, char** argv, std::optional<QString> const& language, Confinement const& confinement) {
   QApplication application(argc, argv);
   prepareApplication();
   installLanguage(language);
+  confinement.begin();
   QStringList const arguments = ownArguments();
   try {
     return finished(runCommandLine(arguments));
@@ -48,6 +51,13 @@ int runSubcommand(int argc, char** argv, std::optional<QString> const& language)
     Console::complain(arguments.value(0) + QStringLiteral(": ") + memoryRanOut());
     return WorkFailed;
   }
+}
+
+// In English: nothing is translated yet.
+int tellWindowIsFree() {
+  Console::complain(QStringLiteral(
+      "--confine is for subcommands; leave it out, since the window tells which folders a document reaches."));
+  return WrongArguments;
 }
 
 int runWindow(int argc, char** argv, std::optional<QString> const& language) {
@@ -93,12 +103,15 @@ int main(int argc, char** argv) {
   if (language && !isLanguage(*language)) return WrongArguments;
   ResourceLimits limits;
   if (!limits.take(arguments)) return WrongArguments;
+  Confinement confinement;
+  if (!confinement.take(arguments)) return WrongArguments;
   if (asksForWindow(arguments)) {
+    if (confinement.isConfined) return tellWindowIsFree();
     prepareWindowEnvironment();
     return runWindow(argc, argv, language);
   }
   prepareEnvironment();
-  ProcessEnding const ending = supervised(limits, [&] { return runSubcommand(argc, argv, language); });
+  ProcessEnding const ending = supervised(limits, [&] { return runSubcommand(argc, argv, language, confinement); });
   if (ending.reason == ProcessEnding::Reason::Itself) return ending.status;
   bool const isQuiet = isWanted(ending.signal) && ending.reason == ProcessEnding::Reason::Signal;
   int const status =

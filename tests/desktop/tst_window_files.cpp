@@ -142,6 +142,41 @@ private slots:
     QTRY_VERIFY(notice->findChild<QPushButton*>("pushButton_Reload")->isVisible());
   }
 
+  void otherFoldersAreToldOnceUntilTheyAreAllowed() {
+    QString const path = folder_.filePath("elsewhere/moved.kdx");
+    QVERIFY(QDir(folder_.path()).mkpath("elsewhere"));
+    {
+      WorldWindow sample;
+      QVERIFY(sample.window.bench().session().saveAs(path));
+      QVERIFY(!sample.window.findChild<NoticeBar*>()->isVisible());
+    }
+    auto const tells = [&](MainWindow& window) {
+      bool const isOpen = window.open(path);
+      return isOpen && window.findChild<NoticeBar*>()->isVisibleTo(&window) &&
+             window.findChild<QLabel*>("label_Notice")->text().contains(folder_.filePath("data"));
+    };
+    {
+      MainWindow window;
+      QVERIFY(tells(window));
+      QVERIFY(!tells(window));  // again: it is known
+    }
+    {
+      MainWindow window;
+      QVERIFY(tells(window));
+      window.findChild<QPushButton*>("pushButton_Offer")->click();
+      QVERIFY(!window.findChild<NoticeBar*>()->isVisibleTo(&window));
+    }
+    {
+      MainWindow window;
+      QVERIFY(!tells(window));
+      Person person;
+      person.accepts();
+      window.actions().find("Host_AllowedFolders")->trigger();
+    }
+    QCOMPARE(QSettings().value("files/allowedFolders").toString(), folder_.filePath("data"));
+    QSettings().remove("files/allowedFolders");
+  }
+
   void theSecondWindowOnlyReads() {
     WorldWindow first;
     MainWindow second;

@@ -5,6 +5,7 @@
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/elements/PictureElement.h"
+#include "host/SysUtility/FileReach.h"
 
 #include <SysCarto/GroupElement.h>
 
@@ -48,22 +49,32 @@ void visitSources(PageLayout const& layout, OnLayer const& onLayer, OnPicture co
 
 }  // namespace
 
+QString DocumentSource::outside(SysUtility::FileReach const& reach) const {
+  using With = SysUtility::FileReach::With;
+  return reach.outside(file, use == Use::Picture ? With::Nothing : With::Companions);
+}
+
 QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
+  using Use = DocumentSource::Use;
   QVector<DocumentSource> sources;
+  auto const addTables = [&](SourceSettings const& source, QString const& user) {
+    for (TableJoin const& join : source.joins) sources.append({join.file, Use::Table, user, QString()});
+  };
   SourceSettings const& ofSeries = PageLayoutHost::series(layout).source;
-  if (!ofSeries.file.isEmpty()) sources.append({ofSeries.file, QString()});
-  for (TableJoin const& join : ofSeries.joins) sources.append({join.file, QString()});
+  if (!ofSeries.file.isEmpty()) sources.append({ofSeries.file, Use::Series, QString(), QString()});
+  addTables(ofSeries, QString());
   visitSources(
       layout,
       [&](Map const&, VectorLayer const& layer) {
         if (layer.source().data != SourceSettings::Data::File) return;
         QString const& problem = layer.problem();
-        sources.append({layer.source().file,
+        sources.append({layer.source().file, Use::Layer, layer.GetName(),
                         problem.isEmpty() ? problem : Texts::tr("Layer “%1”: %2").arg(layer.GetName(), problem)});
-        for (TableJoin const& join : layer.source().joins) sources.append({join.file, QString()});
+        addTables(layer.source(), layer.GetName());
       },
       [&](PictureElement const& picture) {
-        if (picture.data().isEmpty() && !picture.path().isEmpty()) sources.append({picture.path(), picture.problem()});
+        if (picture.data().isEmpty() && !picture.path().isEmpty())
+          sources.append({picture.path(), Use::Picture, picture.GetName(), picture.problem()});
       });
   return sources;
 }

@@ -6,17 +6,28 @@
 #include <QStringList>
 #include <QVector>
 
+namespace SysUtility {
+class FileReach;
+}
+
 namespace SysCarto {
 
 class PageLayout;
 
-/// A file that a layout draws from: the data of a layer, or a picture.
-struct DocumentSource {
-  QString file;     ///< absolute
+/// A file that a layout draws from.
+struct SYSCARTO_EXPORT DocumentSource {
+  enum class Use { Layer, Table, Picture, Series };  ///< a table is joined to a layer or to the series
+
+  QString file;  ///< absolute, or what may not be opened, as it was written
+  Use use;
+  QString user;     ///< the name of the layer or the picture's element; may be empty
   QString problem;  ///< why it could not be read, as a sentence that names who draws it; empty where it was
+
+  /// Where it leads outside of what the reach holds; empty where it does not.
+  QString outside(SysUtility::FileReach const& reach) const;
 };
 
-/// One for each layer and each picture, in no particular order.
+/// One for each use, in no particular order. Pictures and symbols that lie in the document itself have no file.
 SYSCARTO_EXPORT QVector<DocumentSource> sourcesOf(PageLayout const& layout);
 
 /// Reads these files anew, for all that draw them.

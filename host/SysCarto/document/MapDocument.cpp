@@ -10,6 +10,7 @@
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysUtility/ChangeMark.h"
+#include "host/SysUtility/FileReach.h"
 #include "host/SysUtility/FileSaver.h"
 #include "host/SysUtility/JsonFields.h"
 #include "host/SysUtility/JsonFile.h"
@@ -213,7 +214,8 @@ bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath,
 }
 
 bool MapDocument::Private::open(QString const& newPath, ReadProgress const& progress) {
-  QString problem;
+  QString problem = SysUtility::FileReach::refusal(newPath);
+  if (!problem.isEmpty()) return failed(aboutFile(newPath, problem));
   auto const json = SysUtility::readJsonFile(newPath, documentKind(), problem);
   return json ? read(*json, newPath, folderOf(newPath), progress) : failed(problem);
 }

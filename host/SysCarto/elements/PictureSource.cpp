@@ -4,6 +4,7 @@
 
 #include "host/SysDisplay/DrawTarget.h"
 #include "host/SysDisplay/SvgCheck.h"
+#include "host/SysUtility/FileReach.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -57,6 +58,8 @@ QString PictureSource::load() {
     return load(bytes, Texts::tr("The embedded picture"));
   }
   if (path_.isEmpty()) return Texts::tr("The picture has no file; choose one.");
+  QString const refused = SysUtility::FileReach::refusal(path_);
+  if (!refused.isEmpty()) return Texts::tr("%1: the picture can't be opened: %2.").arg(path_, refused);
   if (!QFileInfo(path_).isFile()) return Texts::tr("%1: there is no such picture file; put it there.").arg(path_);
   QFile file(path_);
   if (!file.open(QIODevice::ReadOnly)) return Texts::tr("%1: the picture can't be opened.").arg(path_);

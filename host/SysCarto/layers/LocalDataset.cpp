@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysCarto/projection/Offline.h"
+#include "host/SysUtility/FileReach.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -158,7 +159,8 @@ void CloseDataset::operator()(GDALDataset* dataset) const {
 DatasetPointer openLocalDataset(QString const& path, QString& error) {
   stayOffline();
   registerDrivers();
-  QString reason = missing(path);
+  QString reason = SysUtility::FileReach::refusal(path, SysUtility::FileReach::With::Companions);
+  if (reason.isEmpty()) reason = missing(path);
   if (reason.isEmpty()) reason = refusalOfHead(path);
   if (!reason.isEmpty()) {
     error = cannotOpen(path, reason);

@@ -70,9 +70,10 @@ QByteArray bytesIn(QMimeData const& content, QString& problem) {
 _ptr_t<Element> pictureOfFile(QString const& path, PageLayout const& layout, QString& problem) {
   auto const picture = make<PictureElement>();
   picture->setPath(path);
+  if (!checked(picture, problem)) return nullptr;
   QFile file(path);
   if (file.open(QIODevice::ReadOnly)) picture->setShape(rectangleFor(file, layout));
-  return checked(picture, problem);
+  return picture;
 }
 
 _ptr_t<Element> pictureOf(QMimeData const& content, PageLayout const& layout, QString& problem) {

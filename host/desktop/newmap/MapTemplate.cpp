@@ -1,6 +1,7 @@
 #include "MapTemplate.h"
 
 #include "host/SysCarto/elements/Placeholders.h"
+#include "host/SysUtility/FileReach.h"
 #include "host/SysUtility/JsonFile.h"
 
 #include <functional>
@@ -54,6 +55,11 @@ int titleAmong(QJsonArray const& elements, QString const& mapName) {
 }  // namespace
 
 bool MapTemplate::read(QString const& file, QString& problem) {
+  problem = SysUtility::FileReach::refusal(file);
+  if (!problem.isEmpty()) {
+    problem = SysUtility::aboutFile(file, problem);
+    return false;
+  }
   auto const read = SysUtility::readJsonFile(file, {tr("template"), QStringLiteral(".kdx"), 256}, problem);
   if (!read) return false;
   json_ = *read;

@@ -1,5 +1,6 @@
 #include "PageJobs.h"
 
+#include "host/desktop/Confinement.h"
 #include "host/desktop/Language.h"
 
 #include <QCoreApplication>
@@ -36,10 +37,13 @@ bool PageJobs::run(QList<QStringList> const& arguments) {
   QEventLoop loop;
   int running = 0;
   bool areWhole = true;
-  // The language was taken out of the arguments of the subcommand.
+  // What every line may have was taken out of the arguments of the subcommand.
   QStringList given = QCoreApplication::arguments();
   auto const language = takeLanguage(given);
-  QStringList const before = language ? QStringList{QStringLiteral("--language"), *language} : QStringList();
+  QStringList before = language ? QStringList{QStringLiteral("--language"), *language} : QStringList();
+  Confinement confinement;
+  confinement.take(given);
+  before += confinement.arguments();
   auto const ended = [&](bool isWhole) {
     areWhole = areWhole && isWhole;
     if (--running == 0) loop.quit();

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/SysUtility/Fields.h"
+
+#include <QObject>
+#include <QSet>
+#include <QStringList>
+
+class DocumentFiles;
+class DocumentSession;
+class HostCommands;
+class NoticeBar;
+
+/// The folders, besides its own, of which a document may use files without that being told. Kept with the program's
+/// settings.
+struct AllowedFolders {
+  QString folders;  ///< one a line
+
+  static AllowedFolders kept();
+  void keep() const;
+  QStringList list() const;
+  void list(SysUtility::Fields& fields);
+};
+
+/// Tells of the folders that a document which was opened reaches into besides its own, each once as long as the program
+/// runs, and offers to allow them for good.
+class OutsideFiles final : public QObject {
+  Q_OBJECT
+
+public:
+  /// All are borrowed; the bar becomes its parent.
+  OutsideFiles(DocumentFiles& files, DocumentSession& session, NoticeBar& notice);
+  ~OutsideFiles() override;
+
+  /// The dialog in which allowed folders are seen and changed.
+  static void addTo(HostCommands& host, QWidget& window);
+
+private:
+  void look();
+
+  DocumentSession& session_;
+  NoticeBar& notice_;
+  QSet<QString> told_;
+};
