@@ -1819,6 +1819,10 @@
         <source>it is longer than 1 MB, too long to describe a table; name a MapInfo table&apos;s .tab file</source>
         <translation>sie ist länger als 1 MB und damit zu lang, um eine Tabelle zu beschreiben; nennen Sie die .tab-Datei einer MapInfo-Tabelle</translation>
     </message>
+    <message>
+        <source>its blocks repeat themselves or each other without end; explode them</source>
+        <translation>ihre Blöcke wiederholen sich selbst oder einander ohne Ende; lösen Sie sie auf</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -5786,6 +5790,25 @@
     </message>
 </context>
 <context>
+    <name>GdalErrors</name>
+    <message>
+        <source>it is a view that calls itself, reads another file or can&apos;t be understood; store its rows as a table</source>
+        <translation>es ist eine Sicht, die sich selbst aufruft, eine andere Datei liest oder nicht verstanden wird; speichern Sie ihre Zeilen als Tabelle</translation>
+    </message>
+    <message>
+        <source>it holds a view that calls itself or reads another file; store its rows as a table</source>
+        <translation>sie enthält eine Sicht, die sich selbst aufruft oder eine andere Datei liest; speichern Sie ihre Zeilen als Tabelle</translation>
+    </message>
+    <message>
+        <source>its view takes longer than a file of its size explains; store its rows as a table</source>
+        <translation>ihre Sicht braucht länger, als die Größe der Datei erklärt; speichern Sie ihre Zeilen als Tabelle</translation>
+    </message>
+    <message>
+        <source>it holds a value that is longer than the file</source>
+        <translation>sie enthält einen Wert, der länger ist als die Datei</translation>
+    </message>
+</context>
+<context>
     <name>GeometryProjector</name>
     <message>
         <source>they are geocentric, as X, Y and Z; convert the data to longitude and latitude</source>
@@ -7739,6 +7762,13 @@
     </message>
 </context>
 <context>
+    <name>PatternBounds</name>
+    <message>
+        <source>a pattern of LIKE could be met in too many ways by its long texts; use fewer % in it</source>
+        <translation>ein Muster von LIKE kann von ihren langen Texten auf zu viele Arten erfüllt werden; verwenden Sie darin weniger %</translation>
+    </message>
+</context>
+<context>
     <name>PictureElement</name>
     <message>
         <source>The picture has no file; choose one.</source>
@@ -8386,6 +8416,17 @@ Die Kopie bleibt in %2.</translation>
     <message>
         <source>There is no display for the window. To make an image of a page without one: plotvane export DOCUMENT IMAGE; plotvane --help tells what else works.</source>
         <translation>Es gibt keine Anzeige für das Fenster. So entsteht ohne eine ein Bild der Seite: plotvane export DOCUMENT IMAGE; plotvane --help nennt, was sonst noch geht.</translation>
+    </message>
+</context>
+<context>
+    <name>SourceBounds</name>
+    <message>
+        <source>it gives longer values than a file of its size can hold</source>
+        <translation>sie gibt längere Werte her, als eine Datei ihrer Größe enthalten kann</translation>
+    </message>
+    <message>
+        <source>it gives more features than a file of its size can hold</source>
+        <translation>sie gibt mehr Objekte her, als eine Datei ihrer Größe enthalten kann</translation>
     </message>
 </context>
 <context>

@@ -1819,6 +1819,10 @@
         <source>it is longer than 1 MB, too long to describe a table; name a MapInfo table&apos;s .tab file</source>
         <translation>文件超过 1 MB，对表的描述而言过长；请指定某个 MapInfo 表的 .tab 文件</translation>
     </message>
+    <message>
+        <source>its blocks repeat themselves or each other without end; explode them</source>
+        <translation>其图块无休止地重复自身或彼此；请将其分解</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -5786,6 +5790,25 @@
     </message>
 </context>
 <context>
+    <name>GdalErrors</name>
+    <message>
+        <source>it is a view that calls itself, reads another file or can&apos;t be understood; store its rows as a table</source>
+        <translation>它是一个调用自身、读取其他文件或无法理解的视图；请将其行存储为表</translation>
+    </message>
+    <message>
+        <source>it holds a view that calls itself or reads another file; store its rows as a table</source>
+        <translation>它含有调用自身或读取其他文件的视图；请将其行存储为表</translation>
+    </message>
+    <message>
+        <source>its view takes longer than a file of its size explains; store its rows as a table</source>
+        <translation>其视图耗时超出文件大小所能解释的范围；请将其行存储为表</translation>
+    </message>
+    <message>
+        <source>it holds a value that is longer than the file</source>
+        <translation>它含有比文件还长的值</translation>
+    </message>
+</context>
+<context>
     <name>GeometryProjector</name>
     <message>
         <source>they are geocentric, as X, Y and Z; convert the data to longitude and latitude</source>
@@ -7739,6 +7762,13 @@
     </message>
 </context>
 <context>
+    <name>PatternBounds</name>
+    <message>
+        <source>a pattern of LIKE could be met in too many ways by its long texts; use fewer % in it</source>
+        <translation>LIKE 的模式可被其长文本以过多方式匹配；请在其中少用 %</translation>
+    </message>
+</context>
+<context>
     <name>PictureElement</name>
     <message>
         <source>The picture has no file; choose one.</source>
@@ -8386,6 +8416,17 @@ The copy is kept in %2.</source>
     <message>
         <source>There is no display for the window. To make an image of a page without one: plotvane export DOCUMENT IMAGE; plotvane --help tells what else works.</source>
         <translation>没有可供窗口使用的显示。无需显示即可生成页面图像：plotvane export DOCUMENT IMAGE；plotvane --help 列出其他可用功能。</translation>
+    </message>
+</context>
+<context>
+    <name>SourceBounds</name>
+    <message>
+        <source>it gives longer values than a file of its size can hold</source>
+        <translation>它给出的值比这样大小的文件所能容纳的更长</translation>
+    </message>
+    <message>
+        <source>it gives more features than a file of its size can hold</source>
+        <translation>它给出的要素比这样大小的文件所能容纳的更多</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@ it failed, or leaves something beside its result, is a fault.
 """
 import argparse
 import os
+import resource
 import signal
 import subprocess
 import sys
@@ -16,7 +17,7 @@ from pathlib import Path
 
 import make
 
-PATIENCE = 6  # times the seconds of a limit, by the clock, until a process is killed
+PATIENCE = 3  # times the seconds of a limit, until a process is killed; by the clock, five times that
 
 WORKS = {
     "png": lambda document: ["export", document, "page.png", "--dpi", "300"],
@@ -26,17 +27,21 @@ WORKS = {
 }
 
 
+def limit(seconds):
+    resource.setrlimit(resource.RLIMIT_CPU, (int(seconds), int(seconds) + 1))
+
+
 class Run:
     """One process: what it took, how it ended and what it left."""
 
-    def __init__(self, program, document, work, seconds, megabytes):
+    def __init__(self, program, document, work, seconds, megabytes, says):
         with tempfile.TemporaryDirectory(prefix="hostile-") as name:
             environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", HOME=name + "/home", LC_ALL="C.UTF-8")
             command = [program, *WORKS[work](document), "--max-memory", str(10 * megabytes)]
             with open(os.path.join(name, "said"), "w+b") as said:
                 process = subprocess.Popen(command, cwd=name, env=environment, stdout=subprocess.DEVNULL, stderr=said,
-                                           start_new_session=True)
-                self.took_too_long = not self.ends(process, PATIENCE * seconds)
+                                           start_new_session=True, preexec_fn=lambda: limit(PATIENCE * seconds))
+                self.took_too_long = not self.ends(process, 5 * PATIENCE * seconds)
                 if self.took_too_long:
                     os.killpg(process.pid, signal.SIGKILL)
                 _, status, usage = os.wait4(process.pid, 0)
@@ -47,6 +52,8 @@ class Run:
         self.seconds = usage.ru_utime + usage.ru_stime
         self.megabytes = usage.ru_maxrss / 1024
         self.faults = self.judge(seconds, megabytes)
+        if says not in self.said:
+            self.faults.append(f"not told: {says}")
 
     @staticmethod
     def ends(process, seconds):
@@ -97,7 +104,7 @@ def main():
         subprocess.run([sys.executable, make.__file__, options.keep or folder, *options.names], check=True)
         for name in options.names or make.CASES:
             path = Path(options.keep or folder, name, name + ".kdx").resolve()
-            runs = [Run(program, path, work, options.seconds, options.megabytes) for work in works]
+            runs = [Run(program, path, work, options.seconds, options.megabytes, make.CASES[name][2]) for work in works]
             found += sum(bool(run.faults) for run in runs)
             if options.markdown:
                 cells = [f"{run.seconds:.1f}, {run.megabytes:.0f}" for run in runs]

@@ -19,11 +19,11 @@ CASES = {}
 HUGE = 1e12  # the farthest that a coordinate may be
 
 
-def case(text):
-    """Registers a function that fills the folder of one document and answers the document."""
+def case(text, says=""):
+    """Registers a function that fills the folder of one document and answers the document; `says` is what is told of it."""
 
     def register(make):
-        CASES[make.__name__.replace("_", "-")] = (text, make)
+        CASES[make.__name__.replace("_", "-")] = (text, make, says)
         return make
 
     return register
@@ -455,7 +455,7 @@ def deepest_condition(folder):
     return one_map(*[layer(file, marker(), f"L{i}", {"filter": each}) for i, each in enumerate(filters)])
 
 
-@case("conditions whose pattern can be met in more ways than can be counted")
+@case("conditions whose pattern can be met in more ways than can be counted", "too many ways")
 def slowest_patterns(folder):
     file = points(folder, 20, lambda i: {"name": "a" * 2000})
     return one_map(layer(file, marker(), source={"filter": "name LIKE '" + "%a" * 40 + "%b'"}),
@@ -531,53 +531,53 @@ def heaviest_drawing(folder):
 # ---- sources
 
 
-@case("a GeoPackage whose layer is a view that calls itself ten million times")
+@case("a GeoPackage whose layer is a view that calls itself ten million times", "calls itself")
 def recursive_view(folder):
     blob = point_blob(50, 70)
     sql = f"CREATE VIEW points AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 10000000) SELECT i AS fid, {blob} AS geom FROM n;"
     return one_map(layer(geopackage(folder, sql), marker()))
 
 
-@case("a GeoPackage whose layer is a view without an end")
+@case("a GeoPackage whose layer is a view without an end", "calls itself")
 def endless_view(folder):
     blob = point_blob(50, 70)
     sql = f"CREATE VIEW points AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i AS fid, {blob} AS geom FROM n WHERE i < 0;"
     return one_map(layer(geopackage(folder, sql), marker()))
 
 
-@case("a GeoPackage whose layer is a view that joins a table with itself four times")
+@case("a GeoPackage whose layer is a view that joins a table with itself four times", "more features than")
 def joined_view(folder):
     sql = stored_points(200, "p") + "CREATE VIEW points AS SELECT a.fid AS fid, a.geom AS geom, b.name AS name FROM p a, p b, p c, p d;"
     return one_map(layer(geopackage(folder, sql), marker()))
 
 
-@case("a GeoPackage whose view joins without a row to show for it")
+@case("a GeoPackage whose view joins without a row to show for it", "its view takes longer")
 def barren_view(folder):
     sql = stored_points(200, "p") + "CREATE VIEW points AS SELECT a.fid AS fid, a.geom AS geom FROM p a, p b, p c, p d, p e WHERE a.fid + b.fid + c.fid + d.fid + e.fid < 0;"
     return one_map(layer(geopackage(folder, sql), marker()))
 
 
-@case("a GeoPackage whose view makes values of a gigabyte")
+@case("a GeoPackage whose view makes values of a gigabyte", "a value that is longer")
 def swollen_view(folder):
     sql = stored_points(20, "p") + "CREATE VIEW points AS SELECT fid, geom, hex(zeroblob(400000000)) AS name FROM p;"
     return one_map(layer(geopackage(folder, sql), marker(), labels={"field": "name", "symbol": {"type": "text"}}))
 
 
-@case("a GeoPackage whose table computes values of a gigabyte")
+@case("a GeoPackage whose table computes values of a gigabyte", "a value that is longer")
 def swollen_table(folder):
     rows = ",".join(f"({i}, {point_blob(*place)})" for i, place in enumerate(scattered(20), 1))
     sql = f"CREATE TABLE points (fid INTEGER PRIMARY KEY, geom POINT, name TEXT GENERATED ALWAYS AS (hex(zeroblob(400000000))) VIRTUAL); INSERT INTO points VALUES {rows};"
     return one_map(layer(geopackage(folder, sql), marker(), labels={"field": "name", "symbol": {"type": "text"}}))
 
 
-@case("a GeoPackage whose catalogue of contents is a view without an end")
+@case("a GeoPackage whose catalogue of contents is a view without an end", "calls itself")
 def endless_catalogue(folder):
     sql = stored_points(20) + ("ALTER TABLE gpkg_contents RENAME TO c; CREATE VIEW gpkg_contents AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
                                "SELECT c.* FROM n, c;")
     return one_map(layer(geopackage(folder, sql), marker()))
 
 
-@case("a compressed Shapefile whose index names one area a million times")
+@case("a compressed Shapefile whose index names one area a million times", "more features than")
 def repeated_shapes(folder):
     ring = b"".join(struct.pack("<dd", *place) for place in ((0, 0), (0, 100), (100, 100), (100, 0), (0, 0)))
     body = struct.pack("<i4d2ii", 5, 0, 0, 100, 100, 1, 5, 0) + ring
@@ -628,7 +628,7 @@ def finest_curves(folder):
     return one_map(layer("data.csv", line(), source={"geometryField": "WKT"}))
 
 
-@case("a drawing whose blocks repeat each other until nobody can count them")
+@case("a drawing whose blocks repeat each other until nobody can count them", "its blocks repeat")
 def nested_blocks(folder):
     def block(name, inner):
         return f"0\nBLOCK\n2\n{name}\n10\n0\n20\n0\n" + inner + "0\nENDBLK\n"
@@ -672,7 +672,7 @@ def write(folder, names=None):
 
 if __name__ == "__main__":
     if sys.argv[1:2] == ["--list"]:
-        for name, (text_of, _) in CASES.items():
+        for name, (text_of, *_) in CASES.items():
             print(f"{name:28} {text_of}")
     elif len(sys.argv) > 1 and not set(sys.argv[2:]) - set(CASES):
         write(sys.argv[1], sys.argv[2:])

@@ -4,6 +4,7 @@
 
 #include <cpl_string.h>
 #include <ogr_feature.h>
+#include <ogr_swq.h>
 #include <ogrsf_frmts.h>
 
 namespace SysCarto {
@@ -14,11 +15,13 @@ Condition::~Condition() = default;
 
 bool Condition::compile(OGRLayer& layer, QString const& text, QString& reason) {
   query_.reset();
+  patterns_ = {};
   if (text.isEmpty()) return true;
   GdalErrors const errors;
   query_ = std::make_unique<OGRFeatureQuery>();
   bool const ok = query_->Compile(&layer, text.toUtf8().constData()) == OGRERR_NONE;
   reason = errors.reason();
+  if (ok) patterns_ = PatternBounds(*static_cast<swq_expr_node*>(query_->GetSWQExpr()));
   return ok;
 }
 
@@ -31,6 +34,8 @@ QStringList Condition::fields() const {
   return names;
 }
 
-bool Condition::admits(OGRFeature& feature) const { return !query_ || query_->Evaluate(&feature); }
+bool Condition::admits(OGRFeature& feature) const {
+  return !query_ || (patterns_.admit(feature) && query_->Evaluate(&feature));
+}
 
 }  // namespace SysCarto

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/layers/PatternBounds.h"
+
 #include <SysCarto/Export.h>
 
 #include <QString>
@@ -31,6 +33,7 @@ public:
 
 private:
   std::unique_ptr<OGRFeatureQuery> query_;
+  mutable PatternBounds patterns_;
 };
 
 }  // namespace SysCarto

@@ -57,11 +57,13 @@ bool Expression::compile(OGRLayer& layer, QString const& text, QString& reason) 
   bool const ok = swq_expr_compile(text.toUtf8().constData(), static_cast<int>(names.size()), names.data(),
                                    types.data(), 1, nullptr, &root) == CE_None;
   root_.reset(ok ? root : nullptr);
+  patterns_ = root_ ? PatternBounds(*root_) : PatternBounds();
   if (!ok) reason = errors.reason();
   return ok;
 }
 
 std::unique_ptr<swq_expr_node> Expression::value(OGRFeature& feature) const {
+  if (!patterns_.admit(feature)) return nullptr;
   GdalErrors const quiet;  // a division by zero
   std::unique_ptr<swq_expr_node> value(root_ ? root_->Evaluate(fetch, &feature) : nullptr);
   return value && !value->is_null ? std::move(value) : nullptr;

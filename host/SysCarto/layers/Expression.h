@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/layers/PatternBounds.h"
+
 #include <QString>
 
 #include <memory>
@@ -31,6 +33,7 @@ private:
   std::unique_ptr<swq_expr_node> value(OGRFeature& feature) const;
 
   std::unique_ptr<swq_expr_node> root_;
+  mutable PatternBounds patterns_;
 };
 
 }  // namespace SysCarto

@@ -1,8 +1,8 @@
 #include "FeatureIntake.h"
 
-#include "host/SysCarto/projection/GdalErrors.h"
+#include "SourceBounds.h"
 
-#include <ogr_geometry.h>
+#include "host/SysCarto/projection/GdalErrors.h"
 
 #include <algorithm>
 #include <thread>
@@ -12,7 +12,7 @@ namespace SysCarto {
 namespace {
 
 // Small enough for the cores to end together, and large enough for a thread to be worth its start.
-constexpr size_t batchBytes = 1 << 19;  // of coordinates
+constexpr size_t batchBytes = 1 << 19;  // of coordinates and texts
 constexpr size_t batchFeatures = 4096;
 
 size_t cores() {
@@ -26,7 +26,7 @@ FeatureIntake::FeatureIntake(GeometryProjector const& projector, FeatureStore& s
     : projector_(projector), store_(store), place_(std::move(place)) {}
 
 void FeatureIntake::add(OGRFeatureUniquePtr feature) {
-  waitingBytes_ += feature->GetGeometryRef()->WkbSize();
+  waitingBytes_ += bytesOf(*feature);
   waiting_.push_back(std::move(feature));
   if (waitingBytes_ >= batchBytes || waiting_.size() >= batchFeatures) start(std::launch::async);
 }

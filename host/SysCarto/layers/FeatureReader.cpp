@@ -7,6 +7,7 @@
 #include "host/SysCarto/layers/FeatureIntake.h"
 #include "host/SysCarto/layers/LabelReader.h"
 #include "host/SysCarto/layers/Renderer.h"
+#include "host/SysCarto/layers/SourceBounds.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 
@@ -136,8 +137,10 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
                   std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority, keyOf(feature));
   });
   layer.ResetReading();
+  SourceBounds bounds(source.file);
   bool isEmpty = true;
   while (OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
+    if (!bounds.admits(*feature)) break;
     if (feature->GetGeometryRef() && condition.admits(*feature)) {
       isEmpty = isEmpty && feature->GetGeometryRef()->IsEmpty();
       intake.add(std::move(feature));

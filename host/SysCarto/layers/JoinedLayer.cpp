@@ -1,6 +1,7 @@
 #include "JoinedLayer.h"
 
 #include "DataSource.h"
+#include "SourceBounds.h"
 
 #include <QCoreApplication>
 
@@ -73,7 +74,9 @@ void JoinedLayer::addFields(OGRLayer& table) {
 void JoinedLayer::readTable(OGRLayer& table) {
   int const field = fieldIndex(table, join_.tableKey);
   table.ResetReading();
+  SourceBounds bounds(join_.file);
   while (OGRFeatureUniquePtr row{table.GetNextFeature()}) {
+    if (!bounds.admits(*row)) break;
     QString const key = keyIn(*row, field);
     if (key.isEmpty()) continue;
     if (byText_.contains(key)) {

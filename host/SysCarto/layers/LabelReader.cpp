@@ -18,6 +18,7 @@ struct Texts {
 };
 
 constexpr int digits = 15;  // that a number is sure to have
+constexpr int maxLength = 16384;
 
 bool isNumeric(OGRFeature const& feature, int field) {
   OGRFieldType const type = feature.GetFieldDefnRef(field)->GetType();
@@ -49,7 +50,9 @@ LabelReader::LabelReader(OGRLayer& layer, LabelFields const& labels, QString con
   });
 }
 
-QString LabelReader::text(OGRFeature& feature) const {
+QString LabelReader::text(OGRFeature& feature) const { return wholeText(feature).left(maxLength); }
+
+QString LabelReader::wholeText(OGRFeature& feature) const {
   if (expressions_.isFilled()) {
     QString const made = expressions_.use([&](Expression const& expression) {
       QString const text = expression.text(feature);

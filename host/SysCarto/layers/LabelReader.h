@@ -18,6 +18,7 @@ public:
   QString text(OGRFeature& feature) const;
 
 private:
+  QString wholeText(OGRFeature& feature) const;
   QString fieldText(OGRFeature& feature, int field) const;
   QString numberText(double number) const;
 

@@ -1,5 +1,9 @@
 #include "LocalDataset.h"
 
+#include "DatabaseBounds.h"
+#include "DrawingBlocks.h"
+#include "SourceBounds.h"
+
 #include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysCarto/projection/Offline.h"
 #include "host/SysUtility/FileReach.h"
@@ -60,7 +64,8 @@ void registerDrivers() {
   static std::once_flag once;
   std::call_once(once, [] {
     if (!GetGDALDriverManager()->GetDriverByName(formats.first().driver)) GDALAllRegister();
-    CPLSetConfigOption("LIBKML_EXTERNAL_STYLE", "NO");  // whatever the environment says: styles at an address
+    CPLSetConfigOption("OGR_SQLITE_STATIC_VIRTUAL_OGR", "NO");  // a table of a database that is another file
+    CPLSetConfigOption("LIBKML_EXTERNAL_STYLE", "NO");          // whatever the environment says: styles at an address
     CPLSetConfigOption("LIBKML_RESOLVE_STYLE", "NO");
   });
 }
@@ -102,6 +107,8 @@ QByteArray headOf(QString const& path, int length) {
 // What the head of a file, or all of a .tab, betrays before any driver looks at it: a file that is made of others, or
 // texts that the driver would take for bytes.
 QString refusalOfHead(QString const& path) {
+  if (hasSuffix(path, "dxf") && !SourceBounds::allows(entitiesOf(path), QFileInfo(path).size()))
+    return Texts::tr("its blocks repeat themselves or each other without end; explode them");
   bool const isTab = hasSuffix(path, "tab");
   if (!isTab && !hasSuffix(path, "csv") && !hasSuffix(path, "tsv")) return QString();
   if (isTab && QFileInfo(path).size() > maxTableLength)
@@ -167,6 +174,7 @@ DatasetPointer openLocalDataset(QString const& path, QString& error) {
     return nullptr;
   }
   GdalErrors const errors;
+  DatabaseBounds const bounds(path);
   QString const absolute = QFileInfo(path).absoluteFilePath();
   bool const isArchive = hasSuffix(path, "zip");
   QByteArray const name = isArchive ? folderWithShapes(absolute) : absolute.toUtf8();

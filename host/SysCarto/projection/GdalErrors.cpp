@@ -1,6 +1,28 @@
 #include "GdalErrors.h"
 
+#include <QCoreApplication>
+
 namespace SysCarto {
+
+namespace {
+
+// What SQLite says where a database is kept within bounds, and what that means.
+// clang-format off
+constexpr struct { char const *said, *meant; } plainly[] = {
+    {"failed to prepare SQL",  QT_TRANSLATE_NOOP("GdalErrors", "it is a view that calls itself, reads another file or can't be understood; store its rows as a table")},
+    {"not authorized",         QT_TRANSLATE_NOOP("GdalErrors", "it holds a view that calls itself or reads another file; store its rows as a table")},
+    {"interrupted",            QT_TRANSLATE_NOOP("GdalErrors", "its view takes longer than a file of its size explains; store its rows as a table")},
+    {"string or blob too big", QT_TRANSLATE_NOOP("GdalErrors", "it holds a value that is longer than the file")},
+};
+// clang-format on
+
+QString plain(QString const& message) {
+  for (auto const& phrase : plainly)
+    if (message.contains(QLatin1String(phrase.said))) return QCoreApplication::translate("GdalErrors", phrase.meant);
+  return message.simplified();
+}
+
+}  // namespace
 
 GdalErrors::GdalErrors() { CPLPushErrorHandlerEx(&GdalErrors::collect, this); }
 GdalErrors::~GdalErrors() { CPLPopErrorHandler(); }
@@ -13,7 +35,7 @@ void CPL_STDCALL GdalErrors::collect(CPLErr kind, CPLErrorNum, char const* text)
 }
 
 void GdalErrors::add(CPLErr kind, QString const& message) {
-  QString line = message.simplified();
+  QString line = plain(message);
   while (line.endsWith(QLatin1Char('.'))) line.chop(1);
   if (line.isEmpty()) return;
   (kind == CE_Warning ? warning_ : failure_) = line;

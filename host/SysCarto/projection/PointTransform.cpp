@@ -17,6 +17,7 @@ namespace SysCarto {
 namespace {
 
 constexpr int pointsOnASide = 21;
+constexpr double farthest[] = {1e9, 1e5};  // from 0, in units of a plane or in degrees; nothing on a globe lies there
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
@@ -30,18 +31,19 @@ std::unique_ptr<PointTransform> PointTransform::create(OGRSpatialReference const
   OGRCoordinateTransformation* const made = OGRCreateCoordinateTransformation(&source, &target);
   if (made) {
     made->SetEmitErrors(false);
-    return std::unique_ptr<PointTransform>(new PointTransform(made));
+    return std::unique_ptr<PointTransform>(new PointTransform(made, farthest[source.IsGeographic()]));
   }
   error = errors.reason();
   if (error.isEmpty()) error = QCoreApplication::translate("PointTransform", "there is no transformation between them");
   return nullptr;
 }
 
-PointTransform::PointTransform(OGRCoordinateTransformation* transformation) : transformation_(transformation) {}
+PointTransform::PointTransform(OGRCoordinateTransformation* transformation, double farthest)
+    : transformation_(transformation), farthest_(farthest) {}
 PointTransform::~PointTransform() = default;
 
 std::unique_ptr<PointTransform> PointTransform::clone() const {
-  return std::unique_ptr<PointTransform>(new PointTransform(transformation_->Clone()));
+  return std::unique_ptr<PointTransform>(new PointTransform(transformation_->Clone(), farthest_));
 }
 
 // A place without an image is no fault, but PROJ itself reports some of them as one.
@@ -52,8 +54,9 @@ void PointTransform::apply(std::vector<double>& xy) const {
   y_.resize(count);
   ok_.assign(count, 0);
   for (size_t i = 0; i < count; ++i) {
-    x_[i] = xy[2 * i];
-    y_[i] = xy[2 * i + 1];
+    bool const isFar = !isNear(xy[2 * i], xy[2 * i + 1]);
+    x_[i] = isFar ? HUGE_VAL : xy[2 * i];
+    y_[i] = isFar ? HUGE_VAL : xy[2 * i + 1];
   }
   if (count > 0)
     transformation_->Transform(static_cast<int>(count), x_.data(), y_.data(), nullptr, nullptr, ok_.data());
@@ -65,6 +68,7 @@ void PointTransform::apply(std::vector<double>& xy) const {
 }
 
 bool PointTransform::apply(double& x, double& y) const {
+  if (!isNear(x, y)) return false;
   SysGeometry::QuietOgr const quiet;
   int ok = 0;
   transformation_->Transform(1, &x, &y, nullptr, nullptr, &ok);

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <cmath>
 #include <memory>
 #include <vector>
 
@@ -28,9 +29,13 @@ public:
   bool apply(double& x, double& y) const;
 
 private:
-  explicit PointTransform(OGRCoordinateTransformation* transformation);
+  PointTransform(OGRCoordinateTransformation* transformation, double farthest);
+
+  // GDAL turns longitudes back round by round, so that what is too far from 0 would take for ever.
+  bool isNear(double x, double y) const { return std::abs(x) <= farthest_ && std::abs(y) <= farthest_; }
 
   std::unique_ptr<OGRCoordinateTransformation> transformation_;
+  double const farthest_;
   mutable std::vector<double> x_, y_;
   mutable std::vector<int> ok_;
 };

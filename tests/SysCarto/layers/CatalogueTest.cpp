@@ -159,6 +159,11 @@ private slots:
     row("an archive that is none", "a.zip", "Hello", "no Shapefile");
     row("text in UTF-16", "a.csv", QByteArray("\xff\xfex\0,\0y\0", 8), "UTF-16");
     row("nothing", "a.csv", "", "is empty");
+    QByteArray const inserts = "0\nINSERT\n2\nB\n70\n1000\n71\n1000\n";
+    QByteArray const blocks = "0\nSECTION\n2\nHEADER\n0\nENDSEC\n0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n2\nB\n";
+    QByteArray const entities = "0\nENDBLK\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" + inserts + "0\nENDSEC\n0\nEOF\n";
+    row("a block that is inserted a million times", "a.dxf", blocks + "0\nPOINT\n10\n1\n20\n1\n" + entities, "repeat");
+    row("a block that holds itself", "a.dxf", blocks + "0\nINSERT\n2\nB\n" + entities, "repeat");
     row("a network link alone", "a.kml",
         "<kml xmlns=\"http://www.opengis.net/kml/2.2\"><Document><NetworkLink><Link><href>other.kml</href></Link>"
         "</NetworkLink></Document></kml>",

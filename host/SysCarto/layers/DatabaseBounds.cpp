@@ -1,0 +1,87 @@
+#include "DatabaseBounds.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <mutex>
+
+namespace SysCarto {
+
+namespace {
+
+// A row of a table takes some tens of bytes and as many steps of SQLite's machine. Joins want more of them.
+constexpr std::int64_t freeSteps = 20000000;  // about half a second
+constexpr std::int64_t stepsPerByte = 50;
+constexpr int stepsBetweenLooks = 10000;
+constexpr std::int64_t freeLength = 16000000;  // of a value, in bytes
+
+thread_local DatabaseBounds* current = nullptr;
+
+// What is left of the statement that was begun last; lives as long as the connection.
+struct Steps {
+  std::int64_t const allowed;
+  std::int64_t left = allowed;
+};
+
+int look(void* data) {
+  auto& steps = *static_cast<Steps*>(data);
+  steps.left -= stepsBetweenLooks;
+  return steps.left < 0;
+}
+
+int beginStatement(unsigned, void* data, void*, void*) {
+  auto& steps = *static_cast<Steps*>(data);
+  steps.left = steps.allowed;
+  return 0;
+}
+
+int authorize(void*, int action, char const*, char const*, char const*, char const*) {
+  return action == SQLITE_RECURSIVE || action == SQLITE_ATTACH ? SQLITE_DENY : SQLITE_OK;
+}
+
+void forget(void* data) { delete static_cast<Steps*>(data); }
+void ignore(sqlite3_context*, int, sqlite3_value**) {}
+
+void bind(sqlite3* database, std::int64_t fileSize) {
+  auto steps = std::make_unique<Steps>(Steps{freeSteps + stepsPerByte * fileSize});
+  // A function that nobody calls, since SQLite tells its owner when the connection is closed.
+  Steps* const own = steps.release();
+  if (sqlite3_create_function_v2(database, "plotvane_bounds", 0, SQLITE_UTF8 | SQLITE_DIRECTONLY, own, ignore, nullptr,
+                                 nullptr, forget) != SQLITE_OK)
+    return;
+  sqlite3_progress_handler(database, stepsBetweenLooks, look, own);
+  sqlite3_trace_v2(database, SQLITE_TRACE_STMT, beginStatement, own);
+  sqlite3_set_authorizer(database, authorize, nullptr);
+  sqlite3_db_config(database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+  sqlite3_limit(database, SQLITE_LIMIT_LENGTH,
+                static_cast<int>(std::min<std::int64_t>(freeLength + fileSize, std::numeric_limits<int>::max())));
+}
+
+}  // namespace
+
+// SQLite calls it for each database that the process opens, PROJ's own among them.
+struct DatabaseWatch {
+  static int opened(sqlite3* database, char const**, sqlite3_api_routines const*) {
+    char const* const name = sqlite3_db_filename(database, "main");
+    QByteArray const path = QFile::decodeName(name ? name : "").toUtf8();
+    if (current && path == current->path_) bind(database, QFileInfo(QString::fromUtf8(path)).size());
+    return SQLITE_OK;
+  }
+};
+
+DatabaseBounds::DatabaseBounds(QString const& path)
+    : path_(QFileInfo(path).absoluteFilePath().toUtf8()), before_(current) {
+  static std::once_flag once;
+  std::call_once(once, [] { sqlite3_auto_extension(reinterpret_cast<void (*)()>(&DatabaseWatch::opened)); });
+  current = this;
+}
+
+DatabaseBounds::~DatabaseBounds() { current = before_; }
+
+}  // namespace SysCarto

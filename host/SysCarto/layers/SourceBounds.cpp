@@ -1,0 +1,60 @@
+#include "SourceBounds.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <cpl_error.h>
+#include <ogr_feature.h>
+#include <ogr_geometry.h>
+
+#include <cstring>
+
+namespace SysCarto {
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(SourceBounds)
+};
+
+// No format has features of less than a byte, not even a compressed one; what is honest is far from both.
+constexpr std::size_t freeFeatures = 200000;
+constexpr std::size_t freeBytes = 64000000;
+constexpr std::size_t bytesPerByte = 32;
+
+}  // namespace
+
+std::size_t bytesOf(OGRFeature const& feature) {
+  OGRGeometry const* const geometry = feature.GetGeometryRef();
+  std::size_t bytes = geometry ? geometry->WkbSize() : 0;
+  for (int i = 0; i < feature.GetFieldCount(); ++i)
+    if (feature.GetFieldDefnRef(i)->GetType() == OFTString && feature.IsFieldSetAndNotNull(i))
+      bytes += std::strlen(feature.GetRawFieldRef(i)->String);
+  return bytes;
+}
+
+bool SourceBounds::allows(double features, qint64 fileSize) {
+  return features <= static_cast<double>(freeFeatures) + static_cast<double>(fileSize);
+}
+
+SourceBounds::SourceBounds(QString const& file) {
+  auto const size = static_cast<std::size_t>(QFileInfo(file).size());
+  featuresLeft_ = freeFeatures + size;
+  bytesLeft_ = freeBytes + bytesPerByte * size;
+}
+
+bool SourceBounds::admits(OGRFeature const& feature) {
+  std::size_t const bytes = bytesOf(feature);
+  bool const isFew = featuresLeft_ > 0;
+  if (isFew && bytes <= bytesLeft_) {
+    --featuresLeft_;
+    bytesLeft_ -= bytes;
+    return true;
+  }
+  QString const reason = isFew ? Texts::tr("it gives longer values than a file of its size can hold")
+                               : Texts::tr("it gives more features than a file of its size can hold");
+  CPLError(CE_Failure, CPLE_AppDefined, "%s", reason.toUtf8().constData());
+  return false;
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <cstddef>
+
+class OGRFeature;
+
+namespace SysCarto {
+
+/// About how much of memory a feature takes: its geometry and its texts.
+std::size_t bytesOf(OGRFeature const& feature);
+
+/// Holds what is read of a file against the file's size: a view of a database, an index that names one record a million
+/// times, or blocks of a drawing can give without end what takes a few bytes.
+class SourceBounds {
+public:
+  /// Whether a file of so many bytes may give so many features.
+  static bool allows(double features, qint64 fileSize);
+
+  /// No file, no size.
+  explicit SourceBounds(QString const& file);
+
+  /// False once it is too much; the error handler of GDAL is then told why.
+  bool admits(OGRFeature const& feature);
+
+private:
+  std::size_t featuresLeft_, bytesLeft_;
+};
+
+}  // namespace SysCarto
