@@ -1749,11 +1749,11 @@
     </message>
     <message>
         <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
-        <translation>sie existiert nicht; legen Sie sie dorthin oder nennen Sie in der Quelle der Ebene eine andere</translation>
+        <translation>es gibt sie nicht; legen Sie sie dort ab, oder nennen Sie in der Quelle der Ebene eine andere Datei</translation>
     </message>
     <message>
         <source>it is not a file; name one in the layer&apos;s source</source>
-        <translation>das ist keine Datei; nennen Sie in der Quelle der Ebene eine</translation>
+        <translation>es ist keine Datei; nennen Sie eine in der Quelle der Ebene</translation>
     </message>
     <message>
         <source>reading it is not permitted; make it readable</source>
@@ -1801,7 +1801,7 @@
     </message>
     <message>
         <source>its format is none of those that are known (%1)</source>
-        <translation>ihr Format ist keines der bekannten (%1)</translation>
+        <translation>sein Format ist keines der bekannten (%1)</translation>
     </message>
     <message>
         <source>it is empty</source>

@@ -1749,11 +1749,11 @@
     </message>
     <message>
         <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
-        <translation>它不存在；请将其放到那里，或在图层的数据源中指定其他文件</translation>
+        <translation>文件不存在;请放到该处,或在图层的数据源中指定其他文件</translation>
     </message>
     <message>
         <source>it is not a file; name one in the layer&apos;s source</source>
-        <translation>这不是文件；请在图层的数据源中指定一个文件</translation>
+        <translation>不是文件;请在图层的数据源中指定一个文件</translation>
     </message>
     <message>
         <source>reading it is not permitted; make it readable</source>
@@ -1801,11 +1801,11 @@
     </message>
     <message>
         <source>its format is none of those that are known (%1)</source>
-        <translation>其格式不是已知格式之一（%1）</translation>
+        <translation>其格式不在已知格式之列(%1)</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation>它是空的</translation>
+        <translation>文件为空</translation>
     </message>
     <message>
         <source>Of the columns of coordinates in “%1” only one is named; give both xField and yField, or neither.</source>
