@@ -18,6 +18,7 @@
 namespace {
 
 constexpr int graceSeconds = 2;      // to clean up, before it is killed
+constexpr int patienceUs = 800'000;  // with what was interrupted, which may wait for a disk or for a library
 constexpr int maxLeftovers = 64;     // at a time
 constexpr int leftoverBytes = 8192;  // two paths of the longest kind
 
@@ -41,7 +42,13 @@ bool takeNumber(QStringList& arguments, char const* option, int& number) {
 sigset_t handledSignals() {
   sigset_t set;
   sigemptyset(&set);
-  for (int const signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGALRM}) sigaddset(&set, signal);
+  for (int const signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP, SIGALRM}) {
+    struct sigaction action = {};
+    sigaction(signal, nullptr, &action);
+    // What nohup ignores would reach one that waits for it all the same.
+    bool const isIgnored = action.sa_handler == SIG_IGN && signal != SIGCHLD && signal != SIGALRM;
+    if (!isIgnored) sigaddset(&set, signal);
+  }
   return set;
 }
 
@@ -82,23 +89,28 @@ ProcessEnding waitFor(pid_t process, ResourceLimits const& limits, sigset_t cons
   ProcessEnding ending;
   sigset_t handedOn;
   sigemptyset(&handedOn);
+  int asked = 0;  // the first signal that asked for an end
   if (limits.seconds > 0) alarm(static_cast<unsigned>(limits.seconds));
   for (;;) {
     siginfo_t told = {};
     int const signal = limits.megabytes > 0 ? sigtimedwait(&handled, &told, &lookAgain) : sigwaitinfo(&handled, &told);
     int status = 0;
-    if (signal == SIGALRM) {
+    if (signal == SIGALRM && asked != 0) {
+      kill(process, SIGKILL);
+    } else if (signal == SIGALRM) {
       kill(process, ending.reason == Reason::Itself ? SIGTERM : SIGKILL);
       ending.reason = Reason::Time;
       alarm(graceSeconds);
     } else if (signal == SIGCHLD && waitpid(process, &status, WNOHANG) == process) {
       if (WIFEXITED(status)) ending.status = WEXITSTATUS(status);
-      if (WIFSIGNALED(status)) ending.signal = WTERMSIG(status);
+      if (WIFSIGNALED(status)) ending.signal = asked != 0 && WTERMSIG(status) == SIGKILL ? asked : WTERMSIG(status);
       if (ending.signal != 0 && ending.reason == Reason::Itself) ending.reason = Reason::Signal;
       if (WIFEXITED(status) && ending.status == 0) ending.reason = Reason::Itself;  // done after all
       return ending;
     } else if (signal > 0 && signal != SIGCHLD) {
       if (isToBeHandedOn(told, handedOn)) kill(process, signal);
+      if (asked == 0) ualarm(patienceUs, 0);
+      if (asked == 0) asked = signal;
     } else if (limits.megabytes > 0 && memoryOf(process) >> 20 >= limits.megabytes) {
       ending.reason = Reason::Memory;
       kill(process, SIGKILL);
