@@ -3,6 +3,7 @@
 #include "Test.h"
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <csignal>
 
@@ -39,6 +40,21 @@ inline QMap<QString, QByteArray> contents(QString const& folder) {
   }
   return all;
 }
+
+/// While it lives, root is nobody, who may not write anywhere.
+class WithoutPrivileges {
+public:
+  WithoutPrivileges() {
+    constexpr uid_t nobody = 65534;
+    if (isRoot_ && setresuid(nobody, nobody, 0) != 0) qFatal("can't become nobody");
+  }
+  ~WithoutPrivileges() {
+    if (isRoot_ && setresuid(0, 0, 0) != 0) qFatal("can't become root again");
+  }
+
+private:
+  bool const isRoot_ = geteuid() == 0;
+};
 
 /// While it lives, no file of this process can grow beyond a size. A write then comes back short, as on a full disk.
 class FileSizeLimit {

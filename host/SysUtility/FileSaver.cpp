@@ -14,6 +14,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <optional>
 
 namespace SysUtility {
 
@@ -108,23 +110,73 @@ QString overwrite(QString const& path, QByteArray const& content) {
   return trouble;
 }
 
+// The content, with all that belongs to the file, lies safely in one that has not got its place yet. The system is
+// asked to store the bytes before the old file gives way: QSaveFile would commit a truncated file.
+QString fill(QFileDevice& file, QString const& path, QString const& real, QByteArray const& content) {
+  if (!putWhole(file, content)) return noRoom(path, file);
+  takeAttributes(real, file.handle());
+  return syncToDisk(file.handle()) ? QString() : notSynced(path);
+}
+
+// Puts a file without a name in the place of another. It has a name of its own between two calls of the system; what a
+// process left there that died just then gives way.
+enum class Placed { Yes, No, Unknown };
+Placed placeUnnamed(int handle, QString const& real) {
+  QFileInfo const file(real);
+  QByteArray const from = "/proc/self/fd/" + QByteArray::number(handle);
+  QByteArray const beside = QFile::encodeName(file.absolutePath() + QStringLiteral("/.%1.new").arg(file.fileName()));
+  auto const link = [&] {
+    return linkat(AT_FDCWD, from.constData(), AT_FDCWD, beside.constData(), AT_SYMLINK_FOLLOW) == 0;
+  };
+  if (!link() && (errno != EEXIST || unlink(beside.constData()) != 0 || !link())) return Placed::Unknown;
+  if (rename(beside.constData(), QFile::encodeName(real).constData()) == 0) return Placed::Yes;
+  int const error = errno;
+  unlink(beside.constData());
+  errno = error;
+  return Placed::No;
+}
+
+// A file without a name goes with its process, however that ends. Not every file system has them: then nothing is
+// answered.
+std::optional<QString> saveUnnamed(QString const& path, QString const& real, QByteArray const& content) {
+  QByteArray const folder = QFile::encodeName(QFileInfo(real).absolutePath());
+  constexpr mode_t asUsual = 0666;
+  int const handle = open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, asUsual);
+  if (handle < 0) return std::nullopt;
+  QFile file;
+  if (!file.open(handle, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
+    close(handle);
+    return std::nullopt;
+  }
+  QString const trouble = fill(file, path, real, content);
+  if (!trouble.isEmpty()) return trouble;
+  switch (placeUnnamed(handle, real)) {
+    case Placed::Yes: return QString();
+    case Placed::No: return problem(path, qt_error_string(errno), Texts::tr("choose a place where you may write"));
+    default: return std::nullopt;
+  }
+}
+
+QString saveNamed(QString const& path, QString const& real, QByteArray const& content) {
+  QSaveFile file(real);
+  if (!file.open(QIODevice::WriteOnly))
+    return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
+  QString const trouble = fill(file, path, real, content);
+  if (!trouble.isEmpty() || file.commit()) return trouble;
+  return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
+}
+
 }  // namespace
 
-// The system is asked to store the bytes before the old file gives way: QSaveFile would commit a truncated file.
 QString FileSaver::save(QString const& path, QByteArray const& content) {
   QString const obstacle = checkPlace(path);
   if (!obstacle.isEmpty()) return obstacle;
   QString const real = realPath(path), folder = QFileInfo(real).absolutePath();
   if (!takesNewFiles(folder)) return overwrite(real, content);
-  QSaveFile file(real);
-  if (!file.open(QIODevice::WriteOnly))
-    return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
-  if (!putWhole(file, content)) return noRoom(path, file);
-  takeAttributes(real, file.handle());
-  if (!syncToDisk(file.handle())) return notSynced(path);
-  if (!file.commit()) return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
-  syncFolder(folder);
-  return QString();
+  auto const unnamed = saveUnnamed(path, real, content);
+  QString const trouble = unnamed ? *unnamed : saveNamed(path, real, content);
+  if (trouble.isEmpty()) syncFolder(folder);
+  return trouble;
 }
 
 QString FileSaver::checkFolder(QString const& path) {

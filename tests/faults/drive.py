@@ -21,7 +21,7 @@ ROOT = Path(__file__).resolve().parents[2]
 WAYS = [
     ("open", errno.EMFILE, ""), ("open", errno.EACCES, ""), ("read", errno.EIO, ""), ("read", errno.EIO, "on"),
     ("write", errno.ENOSPC, ""), ("write", errno.ENOSPC, "on"), ("write", errno.EIO, ""), ("write", 0, "short"),
-    ("fsync", errno.EIO, ""), ("rename", errno.EACCES, ""), ("mkdir", errno.ENOSPC, ""), ("unlink", errno.EACCES, ""),
+    ("fsync", errno.EIO, ""), ("link", errno.EACCES, ""), ("rename", errno.EACCES, ""), ("mkdir", errno.ENOSPC, ""), ("unlink", errno.EACCES, ""),
     ("close", errno.EIO, ""), ("truncate", errno.EIO, ""), ("mmap", errno.ENOMEM, ""), ("allocate", errno.ENOMEM, ""),
 ]
 

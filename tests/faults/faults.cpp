@@ -19,9 +19,9 @@
 
 namespace {
 
-enum Kind { Open, Read, Write, Sync, Rename, MakeFolder, Remove, Close, Truncate, Map, Allocate, KindCount };
-constexpr char const* names[] = {"open",   "read",  "write",    "fsync", "rename",  "mkdir",
-                                 "unlink", "close", "truncate", "mmap",  "allocate"};
+enum Kind { Open, Read, Write, Sync, Link, Rename, MakeFolder, Remove, Close, Truncate, Map, Allocate, KindCount };
+constexpr char const* names[] = {"open",  "read",   "write", "fsync",    "link", "rename",
+                                 "mkdir", "unlink", "close", "truncate", "mmap", "allocate"};
 constexpr std::size_t largeBytes = 1 << 20;
 
 struct Plan {
@@ -166,6 +166,10 @@ int mkdir(char const* path, mode_t mode) {
 char* mkdtemp(char* path) {
   static auto const next = real<char* (*)(char*)>("mkdtemp");
   return fails(MakeFolder) ? nullptr : next(path);
+}
+int linkat(int in, char const* from, int to, char const* name, int flags) {
+  static auto const next = real<int (*)(int, char const*, int, char const*, int)>("linkat");
+  return fails(Link) ? -1 : next(in, from, to, name, flags);
 }
 int unlink(char const* path) {
   static auto const next = real<int (*)(char const*)>("unlink");
