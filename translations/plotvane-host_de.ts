@@ -5581,6 +5581,10 @@
         <source>Folders of which documents may use files, also of folders in them, without being told of; one a line.</source>
         <translation>Ordner, deren Dateien Dokumente verwenden dürfen, auch solche aus Ordnern darin, ohne dass darauf hingewiesen wird; einer je Zeile.</translation>
     </message>
+    <message>
+        <source>was not written to its end</source>
+        <translation>wurde nicht zu Ende geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>

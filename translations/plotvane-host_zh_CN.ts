@@ -5581,6 +5581,10 @@
         <source>Folders of which documents may use files, also of folders in them, without being told of; one a line.</source>
         <translation>文档可以使用这些文件夹及其子文件夹中的文件而不再提示；每行一个。</translation>
     </message>
+    <message>
+        <source>was not written to its end</source>
+        <translation>没有写完</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>

@@ -346,8 +346,10 @@ void JsonWriter::objects(Field const& field, int count, Counts const& counts,
                          std::function<void(Fields&, int)> const& describe) {
   if (!isAllowed(field, count, counts)) return;
   QJsonArray written;
-  for (int i = 0; i < count && ok(); ++i)
+  for (int i = 0; i < count && ok(); ++i) {
+    if (shared().goesOn && !shared().goesOn()) return fail(field.key, Fields::tr("was not written to its end"));
     written.append(describeChild(pathOf(field, i), [&](Fields& child) { describe(child, i); }));
+  }
   if (count) put(field, written);
 }
 

@@ -22,7 +22,8 @@ protected:
   struct Shared {
     QString error;
     QStringList warnings;
-    bool completes = false;  // reading makes up what must be there and is not
+    bool completes = false;        // reading makes up what must be there and is not
+    std::function<bool()> goesOn;  // writing does, asked between the objects of a list
     std::function<QStringList()> attributes;
   };
   JsonFields(QString path, std::shared_ptr<Shared> shared);
@@ -101,6 +102,10 @@ class SYSUTILITY_EXPORT JsonWriter final : public JsonFields {
 public:
   JsonWriter();
   ~JsonWriter() override;
+
+  /// Asked before each object of a list from now on, since many take long. Where it answers false, the writer is not
+  /// ok, and looks at nothing more.
+  void askWhether(std::function<bool()> const& goesOn) { shared().goesOn = goesOn; }
 
   /// What has been written so far.
   QJsonObject json() const { return object_; }

@@ -258,8 +258,10 @@ void MainWindow::connectFiles() {
   bench_.commands().setGuard([this](CommandEntry const& entry) {
     properties_->finish();
     layers_.finishTyping();
-    if (entry.identifier.contains(QLatin1String("Export"))) recovery_.update();
-    if (OutputCommands::draws(entry.identifier)) return files_.mayExport();
+    if (OutputCommands::draws(entry.identifier)) {
+      recovery_.keep();
+      return files_.mayExport();
+    }
     return question_.mayRun(entry.identifier);
   });
   connect(&bench_.commands(), &CommandSet::failed, this, [this](QString const& sentence) {

@@ -4,7 +4,6 @@
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/NoticeBar.h"
-#include "host/desktop/recovery/RecoveryCopy.h"
 
 using SysCarto::MapDocumentHost;
 
@@ -22,36 +21,6 @@ private slots:
     QVERIFY(!sample.window.open(file));
     QVERIFY(person.problem().contains("broken.kdx"));
     QCOMPARE(sample.window.bench().session().path(), world);
-  }
-
-  void whatWasNotSavedWhenAProcessDiedIsRecovered() {
-    QDir const copies(recoveryFolder());
-    QByteArray changed;
-    {
-      WorldWindow sample;
-      sample.trigger("Host_SelectAll");
-      sample.trigger("Host_Delete");
-      changed = MapDocumentHost::text(sample.document());
-      RecoveryCopy copy(sample.window.bench().session(), [] { return QImage(4, 3, QImage::Format_RGB32); });
-      copy.update();
-      QVERIFY(copy.finish());
-      QVERIFY(LostDocument::all().empty());  // its process lives
-      for (QFileInfo const& file : copies.entryInfoList({"*.kdx", "*.png", "*.json"}, QDir::Files))
-        QVERIFY(QFile::copy(file.filePath(), copies.filePath("of-the-dead." + file.suffix())));
-    }
-    QCOMPARE(copies.entryList(QDir::Files).size(), 3);  // the others went with their session
-
-    MainWindow window;
-    Person person;
-    person.accepts();
-    QVERIFY(window.recover("/other.kdx"));
-    QVERIFY(window.findChild<QLabel*>("label_Notice")->text().contains("/other.kdx"));
-    auto& session = window.bench().session();
-    QCOMPARE(session.path(), world);
-    QCOMPARE(MapDocumentHost::text(session.document()), changed);
-    QVERIFY(session.isModified() && !session.isFileChanged());
-    QVERIFY(LostDocument::all().empty());
-    QVERIFY(session.open(world));  // given up
   }
 
   void aSavedNameGetsItsSuffix() {

@@ -108,6 +108,8 @@ struct MapDocument::Private {
   void take(QString const& newPath, DocumentContent const& newContent);
   bool failed(QString const& sentence);
   DocumentContext contextFor(QString const& file, bool relativePaths) const;
+  std::optional<QJsonObject> jsonFor(QString const& file, bool relativePaths, QString& problem,
+                                     std::function<bool()> const& goesOn = {}) const;
   std::optional<QByteArray> textFor(QString const& file, bool relativePaths, QString& problem) const;
   QString write(QString const& file, bool relativePaths, bool keepBackup) const;
   bool read(QJsonObject const& json, QString const& newPath, QString const& folder, ReadProgress const& progress);
@@ -167,15 +169,22 @@ DocumentContext MapDocument::Private::contextFor(QString const& file, bool relat
   return context;
 }
 
-std::optional<QByteArray> MapDocument::Private::textFor(QString const& file, bool relativePaths,
-                                                        QString& problem) const {
+std::optional<QJsonObject> MapDocument::Private::jsonFor(QString const& file, bool relativePaths, QString& problem,
+                                                         std::function<bool()> const& goesOn) const {
   auto context = contextFor(file, relativePaths);
   DocumentContent written{content.layout, relativePaths};
   SysUtility::JsonWriter writer;
+  writer.askWhether(goesOn);
   written.list(writer, context);
-  if (writer.ok()) return SysUtility::jsonText(writer.json());
+  if (writer.ok()) return writer.json();
   problem = aboutFile(file, writer.error() + Texts::tr("; change this value, then save again"));
   return std::nullopt;
+}
+
+std::optional<QByteArray> MapDocument::Private::textFor(QString const& file, bool relativePaths,
+                                                        QString& problem) const {
+  auto const json = jsonFor(file, relativePaths, problem);
+  return json ? std::optional(SysUtility::jsonText(*json)) : std::nullopt;
 }
 
 // Everything that can go wrong does so before the old file gives way.
@@ -336,10 +345,14 @@ QByteArray MapDocumentHost::text(MapDocument const& document) {
   return d.content.layout ? d.textFor(d.path, d.content.relativePaths, problem).value_or(QByteArray()) : QByteArray();
 }
 
-QByteArray MapDocumentHost::textForAnywhere(MapDocument const& document) {
+std::optional<QJsonObject> MapDocumentHost::jsonForAnywhere(MapDocument const& document,
+                                                            std::function<bool()> const& goesOn) {
   QString problem;
-  return document.d->content.layout ? document.d->textFor(document.d->path, false, problem).value_or(QByteArray())
-                                    : QByteArray();
+  return document.d->content.layout ? document.d->jsonFor(document.d->path, false, problem, goesOn) : std::nullopt;
+}
+
+quint64 MapDocumentHost::lastChange(MapDocument const& document) {
+  return document.d->content.layout ? document.d->lastChange() : document.d->change.time();
 }
 
 bool MapDocumentHost::recover(MapDocument& document, QString const& copy, QString const& file, bool relativePaths) {

@@ -4,7 +4,11 @@
 
 #include <SysCarto/MapDocument.h>
 
-class QJsonObject;
+#include <QJsonObject>
+
+#include <functional>
+#include <optional>
+
 class QUndoStack;
 
 namespace SysCarto {
@@ -26,11 +30,16 @@ struct SYSCARTO_EXPORT MapDocumentHost {
   /// What a save to the document's file would write now; empty where there is nothing that can be saved.
   static QByteArray text(MapDocument const& document);
 
-  /// The same with absolute paths, to be read from anywhere.
-  static QByteArray textForAnywhere(MapDocument const& document);
+  /// The same with absolute paths, to be read from anywhere, and not yet as text. Between its parts `goesOn` is asked;
+  /// where that answers false, there is nothing, and the document is not looked at any more.
+  static std::optional<QJsonObject> jsonForAnywhere(MapDocument const& document,
+                                                    std::function<bool()> const& goesOn = {});
 
-  /// Reads what `textForAnywhere` gave of a document of that file, or of none. It counts as modified. Otherwise as
-  /// `MapDocument::Open` of the copy.
+  /// When it was last changed outside the steps of its history (`ChangeMark`).
+  static quint64 lastChange(MapDocument const& document);
+
+  /// Reads the text of what `jsonForAnywhere` gave of a document of that file, or of none. It counts as modified.
+  /// Otherwise as `MapDocument::Open` of the copy.
   static bool recover(MapDocument& document, QString const& copy, QString const& file, bool relativePaths);
 
   /// How many data sources the last `Open` could not read.

@@ -3,15 +3,16 @@
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysUtility/ChangeMark.h"
 #include "host/SysUtility/FileSaver.h"
+#include "host/SysUtility/JsonFile.h"
 #include "host/desktop/DocumentSession.h"
 
 #include <QBuffer>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QStandardPaths>
-#include <QUndoStack>
 #include <QUuid>
 
 #include <algorithm>
@@ -19,6 +20,17 @@
 namespace {
 
 constexpr char const* suffixes[] = {".json", ".kdx", ".png"};
+
+// A map that is drawn takes as much again of the same turn of the event loop.
+constexpr auto sliceTime = std::chrono::milliseconds(8);
+constexpr int pauseMs = 8;
+constexpr auto longestTime = std::chrono::hours(1);
+constexpr int maxOvertaken = 8;
+
+QList<RecoveryCopy*>& copies() {
+  static QList<RecoveryCopy*> all;
+  return all;
+}
 
 QByteArray pngOf(QImage const& image) {
   constexpr int widthPx = 320;
@@ -51,60 +63,127 @@ RecoveryCopy::RecoveryCopy(DocumentSession& session, std::function<QImage()> pic
       picture_(std::move(picture)),
       base_(recoveryFolder() + QLatin1Char('/') + QUuid::createUuid().toString(QUuid::WithoutBraces)) {
   writer_.setMaxThreadCount(1);
+  copies() << this;
   connect(&timer_, &QTimer::timeout, this, &RecoveryCopy::update);
+  connect(&slices_, &QTimer::timeout, this, &RecoveryCopy::proceed);
   connect(&session, &DocumentSession::replaced, this, &RecoveryCopy::update);
+  connect(&session, &DocumentSession::historyChanged, this, [this] { ++moves_; });
   timer_.start(intervalMs);
 }
 
 RecoveryCopy::~RecoveryCopy() {
-  finish();
+  copies().removeAll(this);
+  drop();
+  writer_.waitForDone();
   if (lock_) removeCopy(base_);
 }
 
 QString RecoveryCopy::path(char const* suffix) const { return base_ + QLatin1String(suffix); }
 
-bool RecoveryCopy::finish() {
-  writer_.waitForDone();
-  return !begun_.isEmpty() && !hasFailed_;
+RecoveryCopy::Moment RecoveryCopy::now() const {
+  return {moves_, SysCarto::MapDocumentHost::lastChange(session_.document()), SysUtility::ChangeMark::now()};
 }
 
-// What is written is text of the document as it is now; that takes time where it is large, and so is done only where
-// something has changed. The files themselves are another thread's business.
+// To ask a document for its last change takes time where it is large.
+bool RecoveryCopy::isOvertaken() {
+  if (moves_ != begun_->move) return true;
+  if (SysUtility::ChangeMark::now() == begun_->look) return false;
+  Moment const latest = now();
+  if (latest.change != begun_->change) return true;
+  begun_->look = latest.look;
+  return false;
+}
+
+void RecoveryCopy::drop() {
+  slices_.stop();
+  work_.reset();
+  json_.reset();
+  begun_.reset();
+}
+
 void RecoveryCopy::update() {
   if (!session_.isModified()) {
-    if (!begun_.isEmpty()) writer_.start([base = base_] { removeCopy(base); });
-    begun_.clear();
+    bool const hasCopy = begun_.has_value();
+    drop();
+    if (!hasCopy) return;
+    writer_.start([this] {
+      removeCopy(base_);
+      written_.clear();
+    });
     return;
   }
-  auto const& document = session_.document();
-  quint64 const now = SysUtility::ChangeMark::now();
-  int const step = SysCarto::MapDocumentHost::history(document)->index();
-  if (!begun_.isEmpty() && !hasFailed_ && now == lookedAt_ && step == step_) return;
-  lookedAt_ = now;
-  step_ = step;
-  QByteArray const text = SysCarto::MapDocumentHost::textForAnywhere(document);
-  if (text.isEmpty()) hasFailed_ = true;
-  if (text.isEmpty() || (text == begun_ && !hasFailed_)) return;
+  if (begun_ && !isOvertaken() && !hasFailed_) return;
+  overtaken_ = 0;
+  begin();
+}
+
+void RecoveryCopy::begin() {
+  drop();
+  begun_ = now();
+  hasFailed_ = false;
+  work_ = std::make_unique<SlicedWork>([this](SlicedWork::MayGoOn const& mayGoOn) {
+    json_ = SysCarto::MapDocumentHost::jsonForAnywhere(session_.document(), mayGoOn);
+  });
+  slices_.start(pauseMs);
+}
+
+// What was read before a change may not fit to what is read after it. Somebody who changes things all the time does not
+// go without a copy: in the end it is made in one go.
+void RecoveryCopy::proceed() {
+  if (isOvertaken()) {
+    ++overtaken_;
+    begin();
+  }
+  if (!work_->proceed(overtaken_ < maxOvertaken ? sliceTime : longestTime)) return;
+  slices_.stop();
+  work_.reset();
+  if (!json_ || !write(*std::exchange(json_, std::nullopt))) hasFailed_ = true;
+}
+
+bool RecoveryCopy::keep() {
+  update();
+  if (!begun_) return false;
+  overtaken_ = maxOvertaken;
+  if (work_) proceed();
+  writer_.waitForDone();
+  return !hasFailed_;
+}
+
+void RecoveryCopy::keepAll() {
+  for (RecoveryCopy* const copy : qAsConst(copies())) copy->keep();
+}
+
+// The files are another thread's business, and the text that they hold. Beside some settings nothing can be kept.
+bool RecoveryCopy::write(QJsonObject json) {
   if (!lock_) {
     QDir().mkpath(recoveryFolder());
     lock_ = lockOf(base_);
     if (!lock_->tryLock()) lock_.reset();
-    if (!lock_) return;  // beside such settings nothing can be kept
+    if (!lock_) return false;
   }
-  begun_ = text;
-  hasFailed_ = false;
+  auto const& document = session_.document();
   QByteArray const known =
       QJsonDocument(QJsonObject{{QStringLiteral("file"), document.GetPath()},
                                 {QStringLiteral("relativePaths"), document.IsUsesRelativePaths()},
                                 {QStringLiteral("digest"), QString::fromLatin1(session_.fileDigest().toHex())}})
           .toJson();
-  // The description comes last: without it there is no copy. What fails is tried again the next time.
-  writer_.start([this, text, known, picture = picture_()] {
-    auto const put = [this](char const* suffix, QByteArray const& content) {
-      return SysUtility::FileSaver::save(path(suffix), content).isEmpty();
-    };
-    hasFailed_ = !(put(".kdx", text) && put(".png", pngOf(picture)) && put(".json", known));
-  });
+  writer_.start(
+      [this, json = std::move(json), known, picture = picture_()] { put(SysUtility::jsonText(json), known, picture); });
+  return true;
+}
+
+// The description comes last: without it there is no copy. What fails is tried again the next time.
+void RecoveryCopy::put(QByteArray const& text, QByteArray const& known, QImage const& picture) {
+  QByteArray const digest = QCryptographicHash::hash(text + known, QCryptographicHash::Sha1);
+  if (digest == written_) return;
+  auto const save = [this](char const* suffix, QByteArray const& content) {
+    return SysUtility::FileSaver::save(path(suffix), content).isEmpty();
+  };
+  written_.clear();
+  if (save(".kdx", text) && save(".png", pngOf(picture)) && save(".json", known))
+    written_ = digest;
+  else
+    hasFailed_ = true;
 }
 
 std::vector<LostDocument> LostDocument::all() {

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "SlicedWork.h"
+
 #include <QDateTime>
 #include <QImage>
+#include <QJsonObject>
 #include <QLockFile>
 #include <QObject>
 #include <QThreadPool>
@@ -10,6 +13,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class DocumentSession;
@@ -29,24 +33,46 @@ public:
   RecoveryCopy(DocumentSession& session, std::function<QImage()> picture);
   ~RecoveryCopy() override;
 
-  /// Writes the copy, or removes it, where that has not been done since the last change.
+  /// Begins to write the copy, or removes it, where that has not been done since the last change. The document is read
+  /// between events, so that a large one holds nobody up; what is changed meanwhile comes into the copy.
   void update();
 
-  /// Waits for what `update` began. Answers whether the document as it was then lies on the disk.
-  bool finish();
+  /// Writes the copy at once where that is still to be done, and waits for it. Answers whether the document as it is
+  /// now lies on the disk.
+  bool keep();
+
+  /// For all copies of the process: what is about to be done may end it. Sessions that can't be kept are passed over.
+  static void keepAll();
 
 private:
+  // What a copy is of.
+  struct Moment {
+    int move;        // in the history
+    quint64 change;  // outside it, of the document
+    quint64 look;    // of anything, which is quick to ask
+  };
+
+  Moment now() const;
+  bool isOvertaken();
+  void begin();
+  void proceed();
+  void drop();
+  bool write(QJsonObject json);
+  void put(QByteArray const& text, QByteArray const& known, QImage const& picture);
   QString path(char const* suffix) const;
 
   DocumentSession& session_;
   std::function<QImage()> const picture_;
   QString const base_;  // of the files' names
   std::unique_ptr<QLockFile> lock_;
-  QByteArray begun_;                    // to be written, of the document; empty for no copy
+  int moves_ = 0;                       // in the history so far
+  std::optional<Moment> begun_;         // none for no copy
+  int overtaken_ = 0;                   // how often, since one was whole
+  std::optional<QJsonObject> json_;     // of the document, while that is being read
+  std::unique_ptr<SlicedWork> work_;    // that reads it
   std::atomic<bool> hasFailed_{false};  // what was begun last
-  quint64 lookedAt_ = 0;
-  int step_ = -1;  // of the history, when it was last looked at
-  QTimer timer_;
+  QByteArray written_;                  // digest of the text; the writer's
+  QTimer timer_, slices_;
   QThreadPool writer_;  // one thread, so that one thing comes after the other
 };
 

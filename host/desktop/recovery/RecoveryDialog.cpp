@@ -95,8 +95,7 @@ void RecoveryDialog::accept() {
         QMessageBox::Ok);
     return;
   }
-  own_.update();
-  if (own_.finish()) document.discard();
+  if (own_.keep()) document.discard();
   QDialog::accept();
 }
 
