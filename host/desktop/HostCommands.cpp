@@ -136,6 +136,9 @@ HostCommands::HostCommands(DocumentSession& session, DocumentViews& views) : ses
   auto const stack = [&session] { return session.document().GetOperationStack(); };
   add(QStringLiteral("Host_Undo"), {[stack] { stack()->Undo(); }, [stack] { return stack()->CanUndo(); }, {}});
   add(QStringLiteral("Host_Redo"), {[stack] { stack()->Redo(); }, [stack] { return stack()->CanRedo(); }, {}});
+  add(QStringLiteral("Host_KeepEarlier"), {[&session] { session.setKeepsEarlier(!session.keepsEarlier()); },
+                                           {},
+                                           [&session] { return session.keepsEarlier(); }});
   for (LayoutAction const& row : layoutActions)
     add(QLatin1String(row.identifier), {[&views, &row] { row.click(*shownLayout(views)); },
                                         [&views, &row] {

@@ -163,9 +163,6 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   };
   host.add(QStringLiteral("Host_Save"), {redrawnAs(&DocumentFiles::save), modified, always});
   host.add(QStringLiteral("Host_SaveAs"), {redrawnAs(&DocumentFiles::saveAs), always, always});
-  host.add(QStringLiteral("Host_KeepEarlier"),
-           {[this] { bench_.session().setKeepsEarlier(!bench_.session().keepsEarlier()); }, always,
-            [this] { return bench_.session().keepsEarlier(); }});
   host.add(QStringLiteral("Host_AddLayer"), {[this] { adding_.chooseFiles(); },
                                              [this] {
                                                auto const layout = bench_.views().GetPageLayout();

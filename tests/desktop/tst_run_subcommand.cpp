@@ -45,6 +45,19 @@ private slots:
     QVERIFY2(qAbs(xmin - xminOfInset) < onePixelCm, qPrintable(QString::number(xmin)));
   }
 
+  void aSaveKeepsTheEarlierVersionWhereItIsToldTo() {
+    QByteArray const before = contentOf(folder_.path("two.kdx"));
+    put(folder_.path("own.kdx"), before);
+    auto const saved = [&](QStringList const& steps) {
+      return run(QStringList{"run", "own.kdx"} + steps + QStringList{"save=own.kdx"}, folder_.path()).status;
+    };
+    QCOMPARE(saved({"select=Inset", "Host_Delete"}), 0);
+    QVERIFY(contentOf(folder_.path("own.kdx")) != before && !QFile::exists(folder_.path("own.kdx~")));
+    put(folder_.path("own.kdx"), before);
+    QCOMPARE(saved({"Host_KeepEarlier", "select=Inset", "Host_Delete"}), 0);
+    QCOMPARE(contentOf(folder_.path("own.kdx~")), before);
+  }
+
   void aStepThatCanNotBeDoneStopsTheRun_data() {
     Rows<QString, int, QString> row;
     row("a disabled command says what it needs", "select=World Plotvane_LeftAlignment", 1,
