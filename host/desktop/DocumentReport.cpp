@@ -157,20 +157,20 @@ void placeLabelsOf(Map const& map, IElementContainer const* container) {
   }
 }
 
-QJsonObject layerJson(_ptr_t<Layer> const& layer) {
+QJsonObject layerJson(_ptr_t<Layer> const& layer, bool countsLabels) {
   QJsonArray groups;
   for (auto const& group : SysCarto::LayerHost::groups(*layer)) groups.append(group->name());
   return QJsonObject{{QStringLiteral("name"), layer->GetName()},
                      {QStringLiteral("type"), layer->GetType()},
                      {QStringLiteral("kind"), kindName(layerKinds, layer->GetType())},
                      {QStringLiteral("groups"), groups},
-                     {QStringLiteral("labels"), labelsJson(*layer)},
+                     {QStringLiteral("labels"), countsLabels ? labelsJson(*layer) : QJsonValue(QJsonValue::Null)},
                      {QStringLiteral("visible"), layer->IsVisible()}};
 }
 
-QJsonObject mapJson(_ptr_t<Map> const& map, bool hasFocus) {
+QJsonObject mapJson(_ptr_t<Map> const& map, bool hasFocus, bool countsLabels) {
   QJsonArray layers;
-  for (auto const& layer : map->GetLayers()) layers.append(layerJson(layer));
+  for (auto const& layer : map->GetLayers()) layers.append(layerJson(layer, countsLabels));
   return QJsonObject{
       {QStringLiteral("name"), map->GetName()},         {QStringLiteral("focus"), hasFocus},
       {QStringLiteral("scale"), map->scale()},          {QStringLiteral("extent"), rectangle(map->GetExtent())},
@@ -297,7 +297,7 @@ QJsonObject documentJson(SysCarto::MapDocument const& document, bool countsLabel
   auto const layout = document.GetPageLayout();
   for (auto const& map : maps) {
     if (countsLabels) placeLabelsOf(*map, layout->GetGraphicsContainer());
-    mapList.append(mapJson(map, map == layout->GetFocusMap()));
+    mapList.append(mapJson(map, map == layout->GetFocusMap(), countsLabels));
   }
   return QJsonObject{
       {QStringLiteral("information"), layout ? informationJson(*layout) : QJsonObject()},

@@ -4,6 +4,7 @@
 #include "Subcommand.h"
 #include "layers/DataReport.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layers/LocalDataset.h"
 
 #include <SysCarto/MapDocument.h>
@@ -84,13 +85,17 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
                                Texts::tr("The .kdx document, or a file or folder of data."));
   QCommandLineOption const json(QStringLiteral("json"), Texts::tr("Print JSON, for programs."));
   parser.addOption(json);
+  QCommandLineOption const labels(
+      QStringLiteral("labels"),
+      Texts::tr("With --json, tell of each layer how many of its labels find a place. It reads all features."));
+  parser.addOption(labels);
   if (auto const settled = parseArguments(self, parser, arguments)) return *settled;
 
   QString const path = parser.positionalArguments().at(0);
   if (QFileInfo(path).isDir()) return tellFolder(path, parser.isSet(json));
   if (SysCarto::isDataFileName(path)) return tellData(path, parser.isSet(json));
   SysCarto::MapDocument document;
-  bool const opened = document.Open(path);
+  bool const opened = SysCarto::MapDocumentHost::open(document, path, {}, SysCarto::ReadDepth::Schema);
   if (!opened && isNoDocument(path)) {
     Console::complain(
         Texts::tr("%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.")
@@ -101,7 +106,7 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
   if (!opened) return WorkFailed;
 
   auto const desktop = SysUtility::make<OffscreenDesktop>(document);
-  QJsonObject const report = documentJson(document, parser.isSet(json));
+  QJsonObject const report = documentJson(document, parser.isSet(labels));
   if (parser.isSet(json))
     printJson(report);
   else

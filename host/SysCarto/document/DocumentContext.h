@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/SysCarto/layers/WatchedReading.h"
+#include "host/SysCarto/layers/FeatureReader.h"
 
 #include <SysCarto/Map.h>
 
@@ -22,8 +22,9 @@ struct DocumentContext {
   QSet<int> framedMaps;                 ///< of the data frames so far, by number: no two show the same map
   QStringList warnings;                 ///< sentences: what could not be read and was passed over
   int unreadableSources = 0;
-  ReadProgress progress;    ///< asked while sources are read; may be empty
-  bool wasStopped = false;  ///< by it; what comes then is not read any more
+  ReadProgress progress;                  ///< asked while sources are read; may be empty
+  ReadDepth depth = ReadDepth::Features;  ///< how far sources are read before something asks for more
+  bool wasStopped = false;                ///< by it; what comes then is not read any more
 };
 
 }  // namespace SysCarto

@@ -71,7 +71,7 @@ void open(VectorLayer& layer, SourceSettings const& source, Map const& map, Docu
   ReadProgress watched;
   if (context.progress)
     watched = [&](qint64 read, qint64 count) { return !(context.wasStopped = !context.progress(read, count)); };
-  QString const error = layer.open(source, map.GetCoordinateSystem(), warnings, watched);
+  QString const error = layer.open(source, map.GetCoordinateSystem(), warnings, watched, context.depth);
   if (!error.isEmpty()) {
     ++context.unreadableSources;
     warnings.prepend(error);

@@ -112,8 +112,9 @@ struct MapDocument::Private {
                                      std::function<bool()> const& goesOn = {}) const;
   std::optional<QByteArray> textFor(QString const& file, bool relativePaths, QString& problem) const;
   QString write(QString const& file, bool relativePaths, bool keepBackup) const;
-  bool read(QJsonObject const& json, QString const& newPath, QString const& folder, ReadProgress const& progress);
-  bool open(QString const& newPath, ReadProgress const& progress);
+  bool read(QJsonObject const& json, QString const& newPath, QString const& folder, ReadProgress const& progress,
+            ReadDepth depth = ReadDepth::Features);
+  bool open(QString const& newPath, ReadProgress const& progress, ReadDepth depth = ReadDepth::Features);
 };
 
 // The steps of another layout name elements that this one does not hold.
@@ -201,7 +202,7 @@ QString MapDocument::Private::write(QString const& file, bool relativePaths, boo
 
 // Warnings and problems begin with the path, where there is one.
 bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath, QString const& folder,
-                                ReadProgress const& progress) {
+                                ReadProgress const& progress, ReadDepth depth) {
   auto const about = [&newPath](QString const& sentence) {
     return newPath.isEmpty() ? sentence : aboutFile(newPath, sentence);
   };
@@ -209,6 +210,7 @@ bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath,
   DocumentContext context;
   context.folder = folder;
   context.progress = progress;
+  context.depth = depth;
   SysUtility::JsonReader reader(json);
   read.list(reader, context);
   if (context.wasStopped) return false;
@@ -222,11 +224,11 @@ bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath,
   return true;
 }
 
-bool MapDocument::Private::open(QString const& newPath, ReadProgress const& progress) {
+bool MapDocument::Private::open(QString const& newPath, ReadProgress const& progress, ReadDepth depth) {
   QString problem = SysUtility::FileReach::refusal(newPath);
   if (!problem.isEmpty()) return failed(aboutFile(newPath, problem));
   auto const json = SysUtility::readJsonFile(newPath, documentKind(), problem);
-  return json ? read(*json, newPath, folderOf(newPath), progress) : failed(problem);
+  return json ? read(*json, newPath, folderOf(newPath), progress, depth) : failed(problem);
 }
 
 MapDocument::MapDocument() : d(std::make_unique<Private>(this)) {}
@@ -335,8 +337,8 @@ bool MapDocumentHost::read(MapDocument& document, QJsonObject const& json, QStri
   return true;
 }
 
-bool MapDocumentHost::open(MapDocument& document, QString const& path, ReadProgress const& progress) {
-  return document.d->open(path, progress);
+bool MapDocumentHost::open(MapDocument& document, QString const& path, ReadProgress const& progress, ReadDepth depth) {
+  return document.d->open(path, progress, depth);
 }
 
 QByteArray MapDocumentHost::text(MapDocument const& document) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/SysCarto/layers/WatchedReading.h"
+#include "host/SysCarto/layers/FeatureReader.h"
 
 #include <SysCarto/MapDocument.h>
 
@@ -24,8 +24,10 @@ struct SYSCARTO_EXPORT MapDocumentHost {
   static bool read(MapDocument& document, QJsonObject const& json, QString const& folder = QString(),
                    ReadProgress const& progress = {});
 
-  /// As `MapDocument::Open`, watched in the same way.
-  static bool open(MapDocument& document, QString const& path, ReadProgress const& progress);
+  /// As `MapDocument::Open`, watched in the same way. Of the schema alone, each layer reads its features once something
+  /// asks for them; what is wrong with these is then told by the layer.
+  static bool open(MapDocument& document, QString const& path, ReadProgress const& progress,
+                   ReadDepth depth = ReadDepth::Features);
 
   /// What a save to the document's file would write now; empty where there is nothing that can be saved.
   static QByteArray text(MapDocument const& document);

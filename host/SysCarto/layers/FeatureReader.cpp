@@ -110,7 +110,8 @@ std::unique_ptr<OGRGeometry> markedPlace(OGRGeometry const& geometry) {
 }
 
 void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition const& condition, Renderer const& renderer,
-             SourceSettings const& source, LabelFields const& labels, ReadWatch& watch, ReadFeatures& result) {
+             SourceSettings const& source, LabelFields const& labels, ReadWatch& watch, ReadDepth depth,
+             ReadFeatures& result) {
   Field const classField(layer, renderer.field(), source, result.warnings);
   Field(layer, labels.text, source, result.warnings);
   LabelReader const labelReader(layer, labels, describeSource(source), result.warnings);
@@ -136,6 +137,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     to.endFeature(symbolClass, labelReader.text(feature),
                   std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority, keyOf(feature));
   });
+  if (depth == ReadDepth::Schema) return;
   layer.ResetReading();
   SourceBounds bounds(source.file);
   bool isEmpty = true;
@@ -162,7 +164,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
 }  // namespace
 
 ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem, Renderer const& renderer,
-                          LabelFields const& labels, ReadProgress const& progress) {
+                          LabelFields const& labels, ReadProgress const& progress, ReadDepth depth) {
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
   auto const data = openWatched(source, progress, result.error);
@@ -184,7 +186,7 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
   }
   GdalErrors const errors;
   ReadWatch watch(data->layer(), progress);
-  readAll(data->layer(), *projector, condition, renderer, source, labels, watch, result);
+  readAll(data->layer(), *projector, condition, renderer, source, labels, watch, depth, result);
   if (result.wasStopped) {
     result.store = std::make_unique<FeatureStore>();
     result.error = stopped(source);

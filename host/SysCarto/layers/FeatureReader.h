@@ -36,11 +36,14 @@ struct ReadFeatures {
   bool wasStopped = false;
 };
 
+/// What is read of a source: the names and kinds of what it has, or its features, too.
+enum class ReadDepth { Schema, Features };
+
 /// Reads the features that the condition admits, projected to `mapSystem` (empty: not projected), with what renderer
-/// and labels need of their attributes.
+/// and labels need of their attributes. Of the schema alone: no feature, and what can be said of the source without.
 SYSCARTO_EXPORT ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem,
                                           Renderer const& renderer, LabelFields const& labels,
-                                          ReadProgress const& progress = {});
+                                          ReadProgress const& progress = {}, ReadDepth depth = ReadDepth::Features);
 
 /// The names of the attributes that the features of a source have; none where it can't be read.
 SYSCARTO_EXPORT QStringList attributesOf(SourceSettings const& source);

@@ -75,15 +75,32 @@ VectorLayer::VectorLayer(std::unique_ptr<Renderer> renderer)
 VectorLayer::~VectorLayer() = default;
 
 QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings,
-                          ReadProgress const& progress) {
+                          ReadProgress const& progress, ReadDepth depth) {
   source_ = source;
-  ReadFeatures read = readFeatures(source, mapSystem, *renderer_, labels_.read(), progress);
+  mapSystem_ = mapSystem;
+  problem_ = read(warnings, progress, depth);
+  LayerHost::changeLook(*this);
+  return problem_;
+}
+
+QString VectorLayer::read(QStringList& warnings, ReadProgress const& progress, ReadDepth depth) const {
+  ReadFeatures read = readFeatures(source_, mapSystem_, *renderer_, labels_.read(), progress, depth);
   store_ = std::move(read.store);
   thinned_ = std::make_unique<ThinnedFeatures>(*store_);
   warnings += read.warnings;
-  problem_ = read.error;
-  LayerHost::changeLook(*this);
-  return problem_;
+  isUnread_ = depth == ReadDepth::Schema && read.error.isEmpty();
+  return read.error;
+}
+
+FeatureStore const& VectorLayer::features() const {
+  QStringList warnings;
+  if (isUnread_) problem_ = read(warnings, {}, ReadDepth::Features);
+  return *store_;
+}
+
+ThinnedFeatures& VectorLayer::thinned() const {
+  features();
+  return *thinned_;
 }
 
 void VectorLayer::setRenderer(std::unique_ptr<Renderer> renderer) {
@@ -98,7 +115,7 @@ void VectorLayer::setLabelSettings(LabelSettings const& settings) {
 
 void VectorLayer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, int phase,
                        _ptr_t<TrackerCancel> const& cancel) {
-  if (phase != featurePhase || !transformation || store_->size() == 0) return;
+  if (phase != featurePhase || !transformation || features().size() == 0) return;
   drawWithEffects(LayerHost::effects(*this), painter,
                   [&](QPainter& own) { drawFeatures(own, *transformation, cancel); });
 }
@@ -109,11 +126,12 @@ void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& t
   double const scale = pixelsPerUnit(target.toDevice());
   if (!(scale > 0) || !std::isfinite(scale) || target.area().isEmpty()) return;
 
-  FeatureLooks const looks(*renderer_, *store_, transformation.GetMapScale());
+  FeatureStore const& store = features();
+  FeatureLooks const looks(*renderer_, store, transformation.GetMapScale());
   FeaturePasses const passes(*renderer_, looks, target);
   Box const area = areaOf(target, passes.reachPx() + 1);
-  thinned_->setResolution(1 / scale);
-  std::vector<int> shown = store_->query(area);
+  thinned().setResolution(1 / scale);
+  std::vector<int> shown = store.query(area);
   shown.erase(std::remove_if(shown.begin(), shown.end(), [this](int feature) { return isHidden(feature); }),
               shown.end());
   looks.sort(shown);
@@ -124,11 +142,11 @@ void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& t
         if (isCancelled(cancel)) return;
         untilCheck = betweenCancelChecks;
       }
-      int const symbolClass = store_->features[feature].symbolClass;
+      int const symbolClass = store.features[feature].symbolClass;
       if (symbolClass >= 0 && pass[symbolClass]) pass[symbolClass]->draw(*thinned_, feature, area);
     }
   if (!spotlight_) return;
-  for (int const feature : featuresOf(*store_, {spotlight_->feature})) drawSpotlight(target, feature);
+  for (int const feature : featuresOf(store, {spotlight_->feature})) drawSpotlight(target, feature);
 }
 
 void VectorLayer::setSpotlight(std::optional<Spotlight> const& spotlight) {
@@ -138,7 +156,7 @@ void VectorLayer::setSpotlight(std::optional<Spotlight> const& spotlight) {
 }
 
 bool VectorLayer::isHidden(int feature) const {
-  return spotlight_ && spotlight_->hidesOthers && store_->ids[static_cast<size_t>(feature)] != spotlight_->feature;
+  return spotlight_ && spotlight_->hidesOthers && features().ids[static_cast<size_t>(feature)] != spotlight_->feature;
 }
 
 // All that is reached is an area with the feature for a hole.
@@ -149,7 +167,7 @@ void VectorLayer::drawSpotlight(DrawTarget& target, int feature) {
     double const edge[] = {reached.xmin, reached.ymin, reached.xmax, reached.ymin, reached.xmax,
                            reached.ymax, reached.xmin, reached.ymax, reached.xmin, reached.ymin};
     cover->addRing({edge, 5}, false);
-    for (Part const& part : thinned_->parts(feature)) {
+    for (Part const& part : thinned().parts(feature)) {
       if (part.kind == PartKind::Outline) cover->addLine(part.run());
       if (part.kind == PartKind::Ring || part.kind == PartKind::FilledRing)
         cover->addRing(part.run(), part.kind == PartKind::Ring);
@@ -158,7 +176,7 @@ void VectorLayer::drawSpotlight(DrawTarget& target, int feature) {
   }
   for (Symbol const* const pass : FeaturePainter::passesOf(spotlight_->symbol.get()))
     if (auto const painter = FeaturePainter::create(target, pass))
-      painter->draw(*thinned_, feature, areaOf(target, painter->reachPx() + 1));
+      painter->draw(thinned(), feature, areaOf(target, painter->reachPx() + 1));
 }
 
 // Of markers in proportion, some sizes and what has no number.
@@ -167,7 +185,7 @@ QList<LegendClass> VectorLayer::legendClasses() const {
   std::vector<SymbolClass> const& all = renderer_->classes();
   bool const isProportional = renderer_->settings().kind == RendererSettings::Kind::Proportional;
   if (isProportional) {
-    FeatureLooks const looks(*renderer_, *store_, 0);
+    FeatureLooks const looks(*renderer_, features(), 0);
     for (double const number : looks.toldNumbers())
       classes << LegendClass{SysUtility::grouped(number), looks.markerFor(number)};
   }
@@ -190,14 +208,14 @@ QVector<bool> VectorLayer::classesWithin(_ptr_t<DisplayTransformation> const& tr
 
 int VectorLayer::proportionalClasses() const {
   if (renderer_->settings().kind != RendererSettings::Kind::Proportional) return 0;
-  return static_cast<int>(FeatureLooks(*renderer_, *store_, 0).toldNumbers().size());
+  return static_cast<int>(FeatureLooks(*renderer_, features(), 0).toldNumbers().size());
 }
 
 // As the legend lists them.
 QVector<bool> VectorLayer::findClassesWithin(Box const& shown, QTransform const& turn, double scale) const {
   std::vector<SymbolClass> const& all = renderer_->classes();
-  FeatureLooks const looks(*renderer_, *store_, scale);
-  auto const found = store_->classesWithin(shown, turn, looks.drawing(), static_cast<int>(all.size()));
+  FeatureLooks const looks(*renderer_, features(), scale);
+  auto const found = features().classesWithin(shown, turn, looks.drawing(), static_cast<int>(all.size()));
   QVector<bool> classes;
   bool const isProportional = renderer_->settings().kind == RendererSettings::Kind::Proportional;
   if (isProportional) classes.fill(found[0], proportionalClasses());
@@ -239,8 +257,8 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
   placedLabels_ = 0;
   placed_.clear();
   unplaced_.clear();
-  if (!transformation || !store_->keepsLabels || store_->size() == 0) return;
-  LabelPlacer placer(*store_, labels_, *renderer_, *transformation);
+  if (!transformation || !features().keepsLabels || features().size() == 0) return;
+  LabelPlacer placer(features(), labels_, *renderer_, *transformation);
   if (!placer.isUsable()) return;
   if (spotlight_ && spotlight_->hidesOthers) placer.keepOnly(spotlight_->feature);
   for (auto const& list : obstacles)
@@ -249,7 +267,7 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
   for (Layer const* const fellow : LayerHost::fellows(*this)) {
     auto const* const vector = dynamic_cast<VectorLayer const*>(fellow);
     if (vector && vector != this && vector->showsAt(transformation->GetMapScale()))
-      placer.addObstacles(*vector->store_, *vector->renderer_, vector->obstacle_);
+      placer.addObstacles(vector->features(), *vector->renderer_, vector->obstacle_);
   }
   placer.place([&] { return isCancelled(cancel); });
   placedLabels_ = placer.placedCount();

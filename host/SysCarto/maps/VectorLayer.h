@@ -44,9 +44,10 @@ public:
   ~VectorLayer() override;
 
   /// Reads the source anew. A sentence that says why it could not be read, or empty; what else is to be said of it is
-  /// added to `warnings`. `mapSystem` as in `Map::GetCoordinateSystem`.
+  /// added to `warnings`. Of the schema alone, the features are read once something asks for them: then `problem`
+  /// tells what is wrong with these, and warnings are lost. `mapSystem` as in `Map::GetCoordinateSystem`.
   QString open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings,
-               ReadProgress const& progress = {});
+               ReadProgress const& progress = {}, ReadDepth depth = ReadDepth::Features);
 
   SourceSettings const& source() const { return source_; }
 
@@ -56,7 +57,7 @@ public:
   /// Not null. A renderer that puts features into other classes takes effect when the layer is opened.
   void setRenderer(std::unique_ptr<Renderer> renderer);
   Renderer const& renderer() const { return *renderer_; }
-  FeatureStore const& features() const { return *store_; }
+  FeatureStore const& features() const;
 
   void setSpotlight(std::optional<Spotlight> const& spotlight);
 
@@ -90,6 +91,8 @@ public:
                              SysUtility::_ptr_t<SysUI::TrackerCancel> cancel) override;
 
 private:
+  QString read(QStringList& warnings, ReadProgress const& progress, ReadDepth depth) const;
+  ThinnedFeatures& thinned() const;
   QVector<bool> classesWithin(
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   QVector<bool> findClassesWithin(Box const& shown, QTransform const& turn, double scale) const;
@@ -99,7 +102,8 @@ private:
                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
 
   SourceSettings source_;
-  QString problem_;
+  QString mapSystem_;
+  mutable QString problem_;
   std::unique_ptr<Renderer> renderer_;
   LabelSettings labels_;
   LabelObstacle obstacle_ = LabelObstacle::None;
@@ -107,8 +111,11 @@ private:
   int placedLabels_ = 0;
   std::vector<PlacedLabel> placed_, unplaced_;
   SysUtility::_ptr_t<AnnotationProperties> properties_;
-  std::unique_ptr<FeatureStore> store_;
-  std::unique_ptr<ThinnedFeatures> thinned_;
+
+  // Only by these functions: features(), thinned().
+  mutable std::unique_ptr<FeatureStore> store_;
+  mutable std::unique_ptr<ThinnedFeatures> thinned_;
+  mutable bool isUnread_ = false;  // by the schema alone
 
   // Which classes were in sight when last asked, for the look of that time: a legend asks at each redraw.
   struct Within {

@@ -70,6 +70,23 @@ private slots:
     QVERIFY(isRight || (result.error.contains(filter) && result.error.contains("cities")));
     QVERIFY2(result.features().size() >= fewest && result.features().size() <= most,
              qPrintable(QString::number(result.features().size())));
+
+    SysCarto::VectorLayer later(SysCarto::makeSimpleRenderer(make<SysDisplay::SimpleFillSymbol>()));
+    QStringList warnings;
+    QCOMPARE(later.open(result.layer->source(), "EPSG:8857", warnings, {}, SysCarto::ReadDepth::Schema), result.error);
+    QCOMPARE(later.features().size(), result.features().size());
+  }
+
+  void ofTheSchemaAloneNothingIsReadBeforeItIsAskedFor() {
+    QTemporaryDir const folder;
+    QString const file = written(folder, "a.geojson", geoJson(R"({"type":"Point","coordinates":[1,2]})"));
+    SysCarto::VectorLayer layer(SysCarto::makeSimpleRenderer(make<SysDisplay::SimpleFillSymbol>()));
+    QStringList warnings;
+    QCOMPARE(layer.open({file, {}, {}, {}}, "EPSG:4326", warnings, {}, SysCarto::ReadDepth::Schema), QString());
+    QVERIFY(QFile::remove(file));
+    QCOMPARE(layer.problem(), QString());
+    QCOMPARE(layer.features().size(), 0);
+    QVERIFY2(layer.problem().contains("a.geojson"), qPrintable(layer.problem()));
   }
 
   void geometriesThatAreNoneArePassedOver_data() {
