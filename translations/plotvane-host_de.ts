@@ -6094,6 +6094,10 @@
         <source>%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.</source>
         <translation>%1: Das ist dem Namen nach weder ein Kartendokument (.kdx) noch eine Datei mit Daten; nennen Sie eines davon.</translation>
     </message>
+    <message>
+        <source>With --json, tell of each layer how many of its labels find a place. It reads all features.</source>
+        <translation>Mit --json zu jeder Ebene angeben, wie viele ihrer Beschriftungen einen Platz finden. Dafür werden alle Objekte gelesen.</translation>
+    </message>
 </context>
 <context>
     <name>InsertTool</name>

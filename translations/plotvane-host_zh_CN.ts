@@ -6094,6 +6094,10 @@
         <source>%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.</source>
         <translation>%1：从名称看，它既不是地图文档（.kdx）也不是数据文件；请指定其中之一。</translation>
     </message>
+    <message>
+        <source>With --json, tell of each layer how many of its labels find a place. It reads all features.</source>
+        <translation>与 --json 一起使用：说明每个图层有多少注记找到了位置。这会读取所有要素。</translation>
+    </message>
 </context>
 <context>
     <name>InsertTool</name>
