@@ -1700,6 +1700,14 @@
         <source>fields: %1</source>
         <translation>Felder: %1</translation>
     </message>
+    <message>
+        <source>raster</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>bands: %1</source>
+        <translation>Kanäle: %1</translation>
+    </message>
 </context>
 <context>
     <name>DataSource</name>
@@ -1822,6 +1830,14 @@
     <message>
         <source>its blocks repeat themselves or each other without end; explode them</source>
         <translation>ihre Blöcke wiederholen sich selbst oder einander ohne Ende; lösen Sie sie auf</translation>
+    </message>
+    <message>
+        <source>Band %1</source>
+        <translation>Kanal %1</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>Pixel</translation>
     </message>
 </context>
 <context>
@@ -5585,6 +5601,270 @@
         <source>was not written to its end</source>
         <translation>wurde nicht zu Ende geschrieben</translation>
     </message>
+    <message>
+        <source>Raster</source>
+        <translation>Raster</translation>
+    </message>
+    <message>
+        <source>The nearest pixel</source>
+        <translation>Das nächste Pixel</translation>
+    </message>
+    <message>
+        <source>Bilinear</source>
+        <translation>Bilinear</translation>
+    </message>
+    <message>
+        <source>Cubic</source>
+        <translation>Kubisch</translation>
+    </message>
+    <message>
+        <source>Mean of what a pixel covers</source>
+        <translation>Mittel dessen, was ein Pixel bedeckt</translation>
+    </message>
+    <message>
+        <source>The local file of the pixels (GeoTIFF, JPEG 2000, GeoPackage or MBTiles, PNG or JPEG with a world file), relative to the document.</source>
+        <translation>Die lokale Datei mit den Pixeln (GeoTIFF, JPEG 2000, GeoPackage oder MBTiles, PNG oder JPEG mit einer World-Datei), relativ zum Dokument.</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>Keine Daten</translation>
+    </message>
+    <message>
+        <source>Values that mean that there is none, beside what the file says.</source>
+        <translation>Werte, die bedeuten, dass es keinen gibt, neben dem, was die Datei sagt.</translation>
+    </message>
+    <message>
+        <source>How the raster is drawn.</source>
+        <translation>Wie das Raster gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>Resampling</source>
+        <translation>Umrechnung</translation>
+    </message>
+    <message>
+        <source>How values are found between the pixels of the raster. A palette always takes the nearest one.</source>
+        <translation>Wie Werte zwischen den Pixeln des Rasters gefunden werden. Eine Palette nimmt immer das nächste.</translation>
+    </message>
+    <message>
+        <source>Colours of bands</source>
+        <translation>Farben aus Kanälen</translation>
+    </message>
+    <message>
+        <source>A colour for each value</source>
+        <translation>Eine Farbe für jeden Wert</translation>
+    </message>
+    <message>
+        <source>Colours by a number</source>
+        <translation>Farben nach einer Zahl</translation>
+    </message>
+    <message>
+        <source>Hillshade</source>
+        <translation>Schummerung</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>Hangneigung</translation>
+    </message>
+    <message>
+        <source>Between two numbers</source>
+        <translation>Zwischen zwei Zahlen</translation>
+    </message>
+    <message>
+        <source>From the least to the greatest</source>
+        <translation>Vom kleinsten zum größten</translation>
+    </message>
+    <message>
+        <source>By standard deviations</source>
+        <translation>Nach Standardabweichungen</translation>
+    </message>
+    <message>
+        <source>By percentiles</source>
+        <translation>Nach Perzentilen</translation>
+    </message>
+    <message>
+        <source>Mixed between the values</source>
+        <translation>Zwischen den Werten gemischt</translation>
+    </message>
+    <message>
+        <source>One for each class</source>
+        <translation>Eine für jede Klasse</translation>
+    </message>
+    <message>
+        <source>The number of the band, counted from 1.</source>
+        <translation>Die Nummer des Kanals, gezählt von 1.</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Streckung</translation>
+    </message>
+    <message>
+        <source>Which values get the ends of the colours: 0 and 255 without one, two numbers, or what is found in an overview of the raster.</source>
+        <translation>Welche Werte die Enden der Farben bekommen: 0 und 255 ohne Streckung, zwei Zahlen, oder was in einer Übersicht des Rasters gefunden wird.</translation>
+    </message>
+    <message>
+        <source>Least value</source>
+        <translation>Kleinster Wert</translation>
+    </message>
+    <message>
+        <source>Where the colours begin, of a stretch between two numbers.</source>
+        <translation>Wo die Farben beginnen, bei einer Streckung zwischen zwei Zahlen.</translation>
+    </message>
+    <message>
+        <source>Greatest value</source>
+        <translation>Größter Wert</translation>
+    </message>
+    <message>
+        <source>Where the colours end, of a stretch between two numbers.</source>
+        <translation>Wo die Farben enden, bei einer Streckung zwischen zwei Zahlen.</translation>
+    </message>
+    <message>
+        <source>Standard deviations</source>
+        <translation>Standardabweichungen</translation>
+    </message>
+    <message>
+        <source>To either side of the mean, of a stretch by standard deviations.</source>
+        <translation>Nach beiden Seiten des Mittels, bei einer Streckung nach Standardabweichungen.</translation>
+    </message>
+    <message>
+        <source>Cut off</source>
+        <translation>Abgeschnitten</translation>
+    </message>
+    <message>
+        <source>Of the values at either end, of a stretch by percentiles.</source>
+        <translation>Von den Werten an beiden Enden, bei einer Streckung nach Perzentilen.</translation>
+    </message>
+    <message>
+        <source>Colour ramp</source>
+        <translation>Farbreihe</translation>
+    </message>
+    <message>
+        <source>The row of colours, as it is known by its name.</source>
+        <translation>Die Reihe von Farben, wie sie unter ihrem Namen bekannt ist.</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>Umgekehrt</translation>
+    </message>
+    <message>
+        <source>Whether the ramp begins with its last colour.</source>
+        <translation>Ob die Reihe mit ihrer letzten Farbe beginnt.</translation>
+    </message>
+    <message>
+        <source>Values with their colours, in any order; without any, those of the file or the ramp count.</source>
+        <translation>Werte mit ihren Farben, in beliebiger Reihenfolge; ohne sie gelten die der Datei oder der Farbreihe.</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>The value, or the first of those that belong to the class.</source>
+        <translation>Der Wert, oder der erste von denen, die zur Klasse gehören.</translation>
+    </message>
+    <message>
+        <source>What it is drawn in.</source>
+        <translation>Worin er gezeichnet wird.</translation>
+    </message>
+    <message>
+        <source>What a legend calls it; the value where it is empty.</source>
+        <translation>Wie eine Legende ihn nennt; der Wert, wo es leer ist.</translation>
+    </message>
+    <message>
+        <source>Vertical factor</source>
+        <translation>Höhenfaktor</translation>
+    </message>
+    <message>
+        <source>Heights times this are metres: 0.3048 for feet, or more than 1 to show the ground steeper than it is.</source>
+        <translation>Höhen mal diesem Faktor sind Meter: 0,3048 für Fuß, oder mehr als 1, um das Gelände steiler zu zeigen, als es ist.</translation>
+    </message>
+    <message>
+        <source>How colours are made of the raster&apos;s values.</source>
+        <translation>Wie aus den Werten des Rasters Farben werden.</translation>
+    </message>
+    <message>
+        <source>Red band</source>
+        <translation>Kanal für Rot</translation>
+    </message>
+    <message>
+        <source>Green band</source>
+        <translation>Kanal für Grün</translation>
+    </message>
+    <message>
+        <source>Blue band</source>
+        <translation>Kanal für Blau</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>More than 1 brightens the middle, less darkens it.</source>
+        <translation>Mehr als 1 hellt die Mitte auf, weniger dunkelt sie ab.</translation>
+    </message>
+    <message>
+        <source>Whether colours are mixed between the values of classes, or each holds up to the next.</source>
+        <translation>Ob Farben zwischen den Werten der Klassen gemischt werden, oder jede bis zur nächsten gilt.</translation>
+    </message>
+    <message>
+        <source>Azimuth</source>
+        <translation>Azimut</translation>
+    </message>
+    <message>
+        <source>Where the light comes from, clockwise from the top of the page.</source>
+        <translation>Woher das Licht kommt, im Uhrzeigersinn vom oberen Rand der Seite.</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Höhenwinkel</translation>
+    </message>
+    <message>
+        <source>How high the light stands above the horizon.</source>
+        <translation>Wie hoch das Licht über dem Horizont steht.</translation>
+    </message>
+    <message>
+        <source>From several directions</source>
+        <translation>Aus mehreren Richtungen</translation>
+    </message>
+    <message>
+        <source>Whether light comes from west and north and between, most from the side that shows a slope best; the azimuth does not count then.</source>
+        <translation>Ob Licht von Westen, Norden und dazwischen kommt, am meisten von der Seite, die einen Hang am besten zeigt; der Azimut zählt dann nicht.</translation>
+    </message>
+    <message>
+        <source>Steepest</source>
+        <translation>Steilste Neigung</translation>
+    </message>
+    <message>
+        <source>The slope that gets the last colour of the ramp.</source>
+        <translation>Die Neigung, die die letzte Farbe der Reihe bekommt.</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>More than 0 lightens all colours of the layer, less darkens them.</source>
+        <translation>Mehr als 0 hellt alle Farben der Ebene auf, weniger dunkelt sie ab.</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>More than 0 sets colours apart from a middle grey, less brings them to it.</source>
+        <translation>Mehr als 0 entfernt Farben von einem mittleren Grau, weniger bringt sie ihm näher.</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>−100 leaves nothing but greys; more than 0 makes colours stronger.</source>
+        <translation>−100 lässt nur Grautöne übrig; mehr als 0 macht Farben kräftiger.</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -5912,6 +6192,13 @@
     <message>
         <source>Delete the selected elements</source>
         <translation>Ausgewählte Elemente löschen</translation>
+    </message>
+</context>
+<context>
+    <name>Identify</name>
+    <message>
+        <source>Band %1</source>
+        <translation>Kanal %1</translation>
     </message>
 </context>
 <context>
@@ -6489,6 +6776,10 @@
         <source>is missing; name the file of the data</source>
         <translation>fehlt; nennen Sie die Datei der Daten</translation>
     </message>
+    <message>
+        <source>Layer “%1”: no coordinate system is known for the raster; its coordinates are taken as those of the map. Give one in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Ebene „%1“: Für das Raster ist kein Koordinatensystem bekannt; seine Koordinaten gelten als die der Karte. Geben Sie im Feld „coordinateSystem“ der Quelle eines an.</translation>
+    </message>
 </context>
 <context>
     <name>LayerSheet</name>
@@ -6681,6 +6972,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1, hillshade</source>
+        <translation>%1, Schummerung</translation>
     </message>
 </context>
 <context>
@@ -7674,6 +7969,10 @@
         <source>%1 was not written: %2.</source>
         <translation>%1 wurde nicht geschrieben: %2.</translation>
     </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>%1 wurde nicht geschrieben: %2</translation>
+    </message>
 </context>
 <context>
     <name>PageGesture</name>
@@ -8018,6 +8317,99 @@
     <message>
         <source>Group %1</source>
         <translation>Gruppe %1</translation>
+    </message>
+</context>
+<context>
+    <name>RasterLayer</name>
+    <message>
+        <source>The raster “%1” can&apos;t be taken into the map&apos;s coordinate system: %2.</source>
+        <translation>Das Raster „%1“ kann nicht in das Koordinatensystem der Karte gebracht werden: %2.</translation>
+    </message>
+    <message>
+        <source>The raster “%1” has %2 bands and no band %3; choose another band.</source>
+        <translation>Das Raster „%1“ hat %2 Kanäle und keinen Kanal %3; wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The raster “%1” can&apos;t be read to its end: %2.</source>
+        <translation>Das Raster „%1“ kann nicht zu Ende gelesen werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>RasterSource</name>
+    <message>
+        <source>The raster “%1” can&apos;t be opened: %2.</source>
+        <translation>Das Raster „%1“ kann nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
+        <translation>es gibt sie nicht; legen Sie sie dort ab, oder nennen Sie in der Quelle der Ebene eine andere Datei</translation>
+    </message>
+    <message>
+        <source>it is not a file; name one in the layer&apos;s source</source>
+        <translation>es ist keine Datei; nennen Sie eine in der Quelle der Ebene</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>sie ist leer</translation>
+    </message>
+    <message>
+        <source>it only refers to other files; make one file of it, as by gdal_translate</source>
+        <translation>es verweist nur auf andere Dateien; machen Sie eine Datei daraus, etwa mit gdal_translate</translation>
+    </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>ein Teil davon fehlt</translation>
+    </message>
+    <message>
+        <source>its format is none of those that are known (%1)</source>
+        <translation>sein Format ist keines der bekannten (%1)</translation>
+    </message>
+    <message>
+        <source>it holds several rasters; name one of them: %1</source>
+        <translation type="vanished">es enthält mehrere Raster; nennen Sie eines davon: %1</translation>
+    </message>
+    <message>
+        <source>it holds no pixels</source>
+        <translation>es enthält keine Pixel</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels in %3 bands; no more than %4 a side in %5 bands are drawn</source>
+        <translation>es hat %1 × %2 Pixel in %3 Kanälen; gezeichnet werden höchstens %4 je Seite in %5 Kanälen</translation>
+    </message>
+    <message>
+        <source>it does not say where it lies; give it coordinates, as by a world file beside it</source>
+        <translation>es sagt nicht, wo es liegt; geben Sie ihm Koordinaten, etwa durch eine World-Datei daneben</translation>
+    </message>
+    <message>
+        <source>its coordinates make no sense; give it others, as by gdal_edit</source>
+        <translation>seine Koordinaten ergeben keinen Sinn; geben Sie ihm andere, etwa mit gdal_edit</translation>
+    </message>
+    <message>
+        <source>its coordinate system names a file by its path, which is not opened; give another one in the source&apos;s field “coordinateSystem”</source>
+        <translation>sein Koordinatensystem nennt eine Datei mit ihrem Pfad, die nicht geöffnet wird; geben Sie im Feld „coordinateSystem“ der Quelle ein anderes an</translation>
+    </message>
+    <message>
+        <source>it is stored in pieces of %1 MB; save it in tiles, as by gdal_translate -co TILED=YES</source>
+        <translation>es ist in Stücken von %1 MB gespeichert; speichern Sie es in Kacheln, etwa mit gdal_translate -co TILED=YES</translation>
+    </message>
+</context>
+<context>
+    <name>RasterStyling</name>
+    <message>
+        <source>taken for heights, which are tinted</source>
+        <translation>als Höhen aufgefasst, die in Stufen gefärbt werden</translation>
+    </message>
+    <message>
+        <source>light from the upper left over the heights</source>
+        <translation>Licht von links oben über den Höhen</translation>
+    </message>
+    <message>
+        <source>in the colours of its bands</source>
+        <translation>in den Farben seiner Kanäle</translation>
+    </message>
+    <message>
+        <source>in the colours of its palette</source>
+        <translation>in den Farben seiner Palette</translation>
     </message>
 </context>
 <context>

@@ -1700,6 +1700,14 @@
         <source>fields: %1</source>
         <translation>字段：%1</translation>
     </message>
+    <message>
+        <source>raster</source>
+        <translation>栅格</translation>
+    </message>
+    <message>
+        <source>bands: %1</source>
+        <translation>波段:%1</translation>
+    </message>
 </context>
 <context>
     <name>DataSource</name>
@@ -1822,6 +1830,14 @@
     <message>
         <source>its blocks repeat themselves or each other without end; explode them</source>
         <translation>其图块无休止地重复自身或彼此；请将其分解</translation>
+    </message>
+    <message>
+        <source>Band %1</source>
+        <translation>波段 %1</translation>
+    </message>
+    <message>
+        <source>Pixels</source>
+        <translation>像素</translation>
     </message>
 </context>
 <context>
@@ -5585,6 +5601,270 @@
         <source>was not written to its end</source>
         <translation>没有写完</translation>
     </message>
+    <message>
+        <source>Raster</source>
+        <translation>栅格</translation>
+    </message>
+    <message>
+        <source>The nearest pixel</source>
+        <translation>最近的像素</translation>
+    </message>
+    <message>
+        <source>Bilinear</source>
+        <translation>双线性</translation>
+    </message>
+    <message>
+        <source>Cubic</source>
+        <translation>三次卷积</translation>
+    </message>
+    <message>
+        <source>Mean of what a pixel covers</source>
+        <translation>像素覆盖范围的平均值</translation>
+    </message>
+    <message>
+        <source>The local file of the pixels (GeoTIFF, JPEG 2000, GeoPackage or MBTiles, PNG or JPEG with a world file), relative to the document.</source>
+        <translation>像素所在的本地文件(GeoTIFF、JPEG 2000、GeoPackage 或 MBTiles,或带坐标文件的 PNG 或 JPEG),相对于文档。</translation>
+    </message>
+    <message>
+        <source>No data</source>
+        <translation>无数据</translation>
+    </message>
+    <message>
+        <source>Values that mean that there is none, beside what the file says.</source>
+        <translation>除文件所述之外表示无数据的值。</translation>
+    </message>
+    <message>
+        <source>How the raster is drawn.</source>
+        <translation>栅格如何绘制。</translation>
+    </message>
+    <message>
+        <source>Resampling</source>
+        <translation>重采样</translation>
+    </message>
+    <message>
+        <source>How values are found between the pixels of the raster. A palette always takes the nearest one.</source>
+        <translation>如何求栅格像素之间的值。调色板总是取最近的像素。</translation>
+    </message>
+    <message>
+        <source>Colours of bands</source>
+        <translation>波段颜色</translation>
+    </message>
+    <message>
+        <source>A colour for each value</source>
+        <translation>每个值一种颜色</translation>
+    </message>
+    <message>
+        <source>Colours by a number</source>
+        <translation>按数值着色</translation>
+    </message>
+    <message>
+        <source>Hillshade</source>
+        <translation>山体阴影</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>坡度</translation>
+    </message>
+    <message>
+        <source>Between two numbers</source>
+        <translation>两个数之间</translation>
+    </message>
+    <message>
+        <source>From the least to the greatest</source>
+        <translation>从最小到最大</translation>
+    </message>
+    <message>
+        <source>By standard deviations</source>
+        <translation>按标准差</translation>
+    </message>
+    <message>
+        <source>By percentiles</source>
+        <translation>按百分位数</translation>
+    </message>
+    <message>
+        <source>Mixed between the values</source>
+        <translation>在各值之间混合</translation>
+    </message>
+    <message>
+        <source>One for each class</source>
+        <translation>每类一种</translation>
+    </message>
+    <message>
+        <source>The number of the band, counted from 1.</source>
+        <translation>波段的编号,从 1 开始。</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>波段</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>拉伸</translation>
+    </message>
+    <message>
+        <source>Which values get the ends of the colours: 0 and 255 without one, two numbers, or what is found in an overview of the raster.</source>
+        <translation>哪些值取颜色的两端:不拉伸时为 0 和 255,或两个数,或从栅格概览中求得的值。</translation>
+    </message>
+    <message>
+        <source>Least value</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>Where the colours begin, of a stretch between two numbers.</source>
+        <translation>在两个数之间拉伸时颜色的起点。</translation>
+    </message>
+    <message>
+        <source>Greatest value</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Where the colours end, of a stretch between two numbers.</source>
+        <translation>在两个数之间拉伸时颜色的终点。</translation>
+    </message>
+    <message>
+        <source>Standard deviations</source>
+        <translation>标准差</translation>
+    </message>
+    <message>
+        <source>To either side of the mean, of a stretch by standard deviations.</source>
+        <translation>按标准差拉伸时平均值两侧的范围。</translation>
+    </message>
+    <message>
+        <source>Cut off</source>
+        <translation>截去</translation>
+    </message>
+    <message>
+        <source>Of the values at either end, of a stretch by percentiles.</source>
+        <translation>按百分位数拉伸时两端截去的值所占的比例。</translation>
+    </message>
+    <message>
+        <source>Colour ramp</source>
+        <translation>色带</translation>
+    </message>
+    <message>
+        <source>The row of colours, as it is known by its name.</source>
+        <translation>以其名称为人所知的一列颜色。</translation>
+    </message>
+    <message>
+        <source>Reversed</source>
+        <translation>反转</translation>
+    </message>
+    <message>
+        <source>Whether the ramp begins with its last colour.</source>
+        <translation>色带是否从最后一种颜色开始。</translation>
+    </message>
+    <message>
+        <source>Values with their colours, in any order; without any, those of the file or the ramp count.</source>
+        <translation>值及其颜色,顺序不限;没有时以文件或色带的颜色为准。</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>The value, or the first of those that belong to the class.</source>
+        <translation>该值,或属于该类的第一个值。</translation>
+    </message>
+    <message>
+        <source>What it is drawn in.</source>
+        <translation>绘制所用的颜色。</translation>
+    </message>
+    <message>
+        <source>What a legend calls it; the value where it is empty.</source>
+        <translation>图例中的名称;为空时用该值。</translation>
+    </message>
+    <message>
+        <source>Vertical factor</source>
+        <translation>垂直系数</translation>
+    </message>
+    <message>
+        <source>Heights times this are metres: 0.3048 for feet, or more than 1 to show the ground steeper than it is.</source>
+        <translation>高程乘以此系数为米:英尺用 0.3048;大于 1 时地形显得比实际陡。</translation>
+    </message>
+    <message>
+        <source>How colours are made of the raster&apos;s values.</source>
+        <translation>栅格的值如何变成颜色。</translation>
+    </message>
+    <message>
+        <source>Red band</source>
+        <translation>红色波段</translation>
+    </message>
+    <message>
+        <source>Green band</source>
+        <translation>绿色波段</translation>
+    </message>
+    <message>
+        <source>Blue band</source>
+        <translation>蓝色波段</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>伽马</translation>
+    </message>
+    <message>
+        <source>More than 1 brightens the middle, less darkens it.</source>
+        <translation>大于 1 使中间调变亮,小于 1 使其变暗。</translation>
+    </message>
+    <message>
+        <source>Whether colours are mixed between the values of classes, or each holds up to the next.</source>
+        <translation>颜色是在各类的值之间混合,还是各自保持到下一个值。</translation>
+    </message>
+    <message>
+        <source>Azimuth</source>
+        <translation>方位角</translation>
+    </message>
+    <message>
+        <source>Where the light comes from, clockwise from the top of the page.</source>
+        <translation>光的来向,从页面上方起顺时针。</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>高度角</translation>
+    </message>
+    <message>
+        <source>How high the light stands above the horizon.</source>
+        <translation>光源在地平线以上的高度。</translation>
+    </message>
+    <message>
+        <source>From several directions</source>
+        <translation>多方向</translation>
+    </message>
+    <message>
+        <source>Whether light comes from west and north and between, most from the side that shows a slope best; the azimuth does not count then.</source>
+        <translation>光是否来自西、北及其间各方向,以最能显示坡面的一侧为主;此时方位角不起作用。</translation>
+    </message>
+    <message>
+        <source>Steepest</source>
+        <translation>最陡坡度</translation>
+    </message>
+    <message>
+        <source>The slope that gets the last colour of the ramp.</source>
+        <translation>取色带最后一种颜色的坡度。</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>亮度</translation>
+    </message>
+    <message>
+        <source>More than 0 lightens all colours of the layer, less darkens them.</source>
+        <translation>大于 0 使图层的所有颜色变亮,小于 0 使其变暗。</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>对比度</translation>
+    </message>
+    <message>
+        <source>More than 0 sets colours apart from a middle grey, less brings them to it.</source>
+        <translation>大于 0 使颜色远离中灰,小于 0 使其接近中灰。</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>饱和度</translation>
+    </message>
+    <message>
+        <source>−100 leaves nothing but greys; more than 0 makes colours stronger.</source>
+        <translation>−100 只剩灰色;大于 0 使颜色更鲜明。</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -5912,6 +6192,13 @@
     <message>
         <source>Delete the selected elements</source>
         <translation>删除所选元素</translation>
+    </message>
+</context>
+<context>
+    <name>Identify</name>
+    <message>
+        <source>Band %1</source>
+        <translation>波段 %1</translation>
     </message>
 </context>
 <context>
@@ -6489,6 +6776,10 @@
         <source>is missing; name the file of the data</source>
         <translation>缺失；请给出数据文件</translation>
     </message>
+    <message>
+        <source>Layer “%1”: no coordinate system is known for the raster; its coordinates are taken as those of the map. Give one in the source&apos;s field “coordinateSystem”.</source>
+        <translation>图层“%1”:栅格的坐标系未知;其坐标按地图的坐标处理。请在数据源的“coordinateSystem”字段中指定坐标系。</translation>
+    </message>
 </context>
 <context>
     <name>LayerSheet</name>
@@ -6681,6 +6972,10 @@
     <message>
         <source>%1 (%2)</source>
         <translation>%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1, hillshade</source>
+        <translation>%1,山体阴影</translation>
     </message>
 </context>
 <context>
@@ -7674,6 +7969,10 @@
         <source>%1 was not written: %2.</source>
         <translation>未写入 %1：%2。</translation>
     </message>
+    <message>
+        <source>%1 was not written: %2</source>
+        <translation>未写入 %1:%2</translation>
+    </message>
 </context>
 <context>
     <name>PageGesture</name>
@@ -8018,6 +8317,99 @@
     <message>
         <source>Group %1</source>
         <translation>组 %1</translation>
+    </message>
+</context>
+<context>
+    <name>RasterLayer</name>
+    <message>
+        <source>The raster “%1” can&apos;t be taken into the map&apos;s coordinate system: %2.</source>
+        <translation>无法将栅格“%1”转换到地图的坐标系:%2。</translation>
+    </message>
+    <message>
+        <source>The raster “%1” has %2 bands and no band %3; choose another band.</source>
+        <translation>栅格“%1”有 %2 个波段,没有波段 %3;请选择其他波段。</translation>
+    </message>
+    <message>
+        <source>The raster “%1” can&apos;t be read to its end: %2.</source>
+        <translation>无法读完栅格“%1”:%2。</translation>
+    </message>
+</context>
+<context>
+    <name>RasterSource</name>
+    <message>
+        <source>The raster “%1” can&apos;t be opened: %2.</source>
+        <translation>无法打开栅格“%1”:%2。</translation>
+    </message>
+    <message>
+        <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
+        <translation>文件不存在;请放到该处,或在图层的数据源中指定其他文件</translation>
+    </message>
+    <message>
+        <source>it is not a file; name one in the layer&apos;s source</source>
+        <translation>不是文件;请在图层的数据源中指定一个文件</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>it only refers to other files; make one file of it, as by gdal_translate</source>
+        <translation>它只引用其他文件;请将其做成一个文件,例如用 gdal_translate</translation>
+    </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>缺少一部分</translation>
+    </message>
+    <message>
+        <source>its format is none of those that are known (%1)</source>
+        <translation>其格式不在已知格式之列(%1)</translation>
+    </message>
+    <message>
+        <source>it holds several rasters; name one of them: %1</source>
+        <translation type="vanished">其中有多个栅格;请指定其一:%1</translation>
+    </message>
+    <message>
+        <source>it holds no pixels</source>
+        <translation>其中没有像素</translation>
+    </message>
+    <message>
+        <source>it has %1 × %2 pixels in %3 bands; no more than %4 a side in %5 bands are drawn</source>
+        <translation>有 %1 × %2 个像素,%3 个波段;最多绘制每边 %4 个像素、%5 个波段</translation>
+    </message>
+    <message>
+        <source>it does not say where it lies; give it coordinates, as by a world file beside it</source>
+        <translation>未说明其位置;请为其提供坐标,例如在旁边放一个坐标文件</translation>
+    </message>
+    <message>
+        <source>its coordinates make no sense; give it others, as by gdal_edit</source>
+        <translation>其坐标没有意义;请更换坐标,例如用 gdal_edit</translation>
+    </message>
+    <message>
+        <source>its coordinate system names a file by its path, which is not opened; give another one in the source&apos;s field “coordinateSystem”</source>
+        <translation>其坐标系按路径指定了一个文件,该文件不会被打开;请在数据源的“coordinateSystem”字段中指定其他坐标系</translation>
+    </message>
+    <message>
+        <source>it is stored in pieces of %1 MB; save it in tiles, as by gdal_translate -co TILED=YES</source>
+        <translation>以每块 %1 MB 存储;请以瓦片方式保存,例如用 gdal_translate -co TILED=YES</translation>
+    </message>
+</context>
+<context>
+    <name>RasterStyling</name>
+    <message>
+        <source>taken for heights, which are tinted</source>
+        <translation>视为高程,分层设色</translation>
+    </message>
+    <message>
+        <source>light from the upper left over the heights</source>
+        <translation>光从左上方照在高程上</translation>
+    </message>
+    <message>
+        <source>in the colours of its bands</source>
+        <translation>按其波段的颜色</translation>
+    </message>
+    <message>
+        <source>in the colours of its palette</source>
+        <translation>按其调色板的颜色</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "Swatch.h"
 
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/maps/LayerData.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 
 #include <SysCarto/PageLayout.h>
@@ -21,16 +22,12 @@ using SysCarto::LayerHost;
 using SysCarto::LayerPlace;
 using SysCarto::LayerRow;
 using SysCarto::Map;
+using SysCarto::problemOf;
 using SysUtility::_ptr_t;
 
 namespace SysAdapterUI {
 
 namespace {
-
-QString problemOf(SysCarto::Layer const& layer) {
-  auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(&layer);
-  return vector ? vector->problem() : QString();
-}
 
 QList<_ptr_t<Map>> mapsOf(SysCarto::IKdxContents const* contents) {
   QList<_ptr_t<Map>> maps;

@@ -68,8 +68,9 @@ std::optional<ExitStatus> ExportSubcommand::parse(Subcommand const& self, QStrin
   QString problem = page.read(parser, image);
   if (problem.isEmpty()) problem = series.read(parser);
   if (problem.isEmpty()) {
-    request = {document, image,    &page.format(), page.chosen(), parser.isSet(quiet), parser.isSet(missing),
-               series,   arguments};
+    ExportOptions options = page.chosen();
+    options.allowMissing = parser.isSet(missing);
+    request = {document, image, &page.format(), options, parser.isSet(quiet), parser.isSet(missing), series, arguments};
     return std::nullopt;
   }
   Console::complain(problem);

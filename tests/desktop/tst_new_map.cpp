@@ -12,6 +12,7 @@
 #include <SysCarto/Map.h>
 #include <SysCarto/MapFrameElement.h>
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -111,6 +112,25 @@ QString makeData(QString const& path, std::vector<MadeFeature> const& features, 
     feature->SetGeometryDirectly(geometry);
     if (layer->CreateFeature(feature.get()) != OGRERR_NONE) qFatal("no feature");
   }
+  GDALClose(dataset);
+  return path;
+}
+
+// A raster of 40 × 40 pixels of 100 m whose values rise from one corner.
+QString makeRaster(QString const& path, GDALDataType type, int bands, double from) {
+  GDALAllRegister();
+  auto* const dataset =
+      GetGDALDriverManager()->GetDriverByName("GTiff")->Create(path.toUtf8(), 40, 40, bands, type, {});
+  double place[] = {560000, 100, 0, 5530000, 0, -100};
+  dataset->SetGeoTransform(place);
+  OGRSpatialReference system;
+  system.importFromEPSG(25832);
+  dataset->SetSpatialRef(&system);
+  std::vector<float> values(1600);
+  for (size_t i = 0; i < values.size(); ++i) values[i] = float(from + double(i) / 10);
+  for (int band = 1; band <= bands; ++band)
+    if (dataset->GetRasterBand(band)->RasterIO(GF_Write, 0, 0, 40, 40, values.data(), 40, 40, GDT_Float32, 0, 0))
+      qFatal("can't write a raster");
   GDALClose(dataset);
   return path;
 }
@@ -252,6 +272,34 @@ private slots:
     SysCarto::MapDocument again;
     QVERIFY(again.Open(path("made.kdx")));
     QCOMPARE(SysCarto::MapDocumentHost::text(again), contentOf(path("made.kdx")));
+  }
+
+  void aRasterLooksAsItsBandsSay_data() {
+    Rows<GDALDataType, int, double, QStringList, QStringList> row;
+    row("heights", GDT_Float32, 1, 0.0, {"ramp normal", "hillshade multiply"}, {"200", "150", "100", "50", "0"});
+    row("a sea, too", GDT_Int16, 1, -80.0, {"ramp normal", "hillshade multiply"}, {"80", "< 0", "-50", "-100"});
+    row("a picture", GDT_Byte, 3, 0.0, {"color normal"}, {});
+    row("greys", GDT_Byte, 1, 0.0, {"color normal"}, {});
+  }
+  void aRasterLooksAsItsBandsSay() {
+    auto const [type, bands, from, looks, told] = fetched<GDALDataType, int, double, QStringList, QStringList>();
+    QString const file = makeRaster(path("heights.tif"), type, bands, from);
+    SysCarto::MapDocument document;
+    NewMapRequest request;
+    request.data = {{makeData(path("place.gpkg"), {{"POINT(562000 5528000)", "a", 1}}, 25832), {}}, {file, {}}};
+    QCOMPARE(makeNewMap(request, document).problem, QString());
+    QJsonArray const layers =
+        QJsonDocument::fromJson(SysCarto::MapDocumentHost::text(document))["maps"][0]["layers"].toArray();
+    QStringList found;
+    for (QJsonValue const& layer : layers)
+      if (layer["type"] == "raster")
+        found << layer["renderer"]["type"].toString() + ' ' + layer["blend"].toString("normal");
+    QCOMPARE(found, looks);
+    QCOMPARE(layers.last()["type"].toString(), QString("feature"));
+    QStringList labels;
+    for (auto const& one : document.GetMap(0)->GetLayer(0)->legendClasses()) labels << one.label;
+    for (QString const& label : told) QVERIFY2(labels.contains(label), qPrintable(labels.join(' ')));
+    QVERIFY(document.GetMap(0)->GetExtent()->GetWidth() > 4000);
   }
 
   // Sixty places of a town, and one without coordinates; then eleven far ones, which are no mistake.

@@ -2,7 +2,8 @@
 
 #include "DocumentFields.h"
 
-#include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysCarto/layers/SourceSettings.h"
+#include "host/SysCarto/maps/LayerData.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/elements/PictureElement.h"
 #include "host/SysUtility/FileReach.h"
@@ -12,6 +13,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace SysCarto {
 
@@ -24,9 +26,9 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(DocumentSources)
 };
 
-bool drawsFrom(SourceSettings const& source, QStringList const& files) {
-  return files.contains(source.file) || std::any_of(source.joins.begin(), source.joins.end(),
-                                                    [&](TableJoin const& join) { return files.contains(join.file); });
+bool drawsFrom(Layer const& layer, QStringList const& files) {
+  QStringList const own = filesOf(layer);
+  return std::any_of(own.begin(), own.end(), [&](QString const& file) { return files.contains(file); });
 }
 
 template <class OnPicture>
@@ -42,8 +44,7 @@ void visitSources(PageLayout const& layout, OnLayer const& onLayer, OnPicture co
   visitPictures(layout.GetGraphicsContainer()->GetElements(), onPicture);
   for (auto const& map : mapsOf(layout)) {
     visitPictures(map->GetGraphicsContainer()->GetElements(), onPicture);
-    for (auto const& layer : map->GetLayers())
-      if (auto const vector = ptr_cast<VectorLayer>(layer)) onLayer(*map, *vector);
+    for (auto const& layer : map->GetLayers()) onLayer(*map, *layer);
   }
 }
 
@@ -65,12 +66,12 @@ QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
   addTables(ofSeries, QString());
   visitSources(
       layout,
-      [&](Map const&, VectorLayer const& layer) {
-        if (layer.source().data != SourceSettings::Data::File) return;
-        QString const& problem = layer.problem();
-        sources.append({layer.source().file, Use::Layer, layer.GetName(),
-                        problem.isEmpty() ? problem : Texts::tr("Layer “%1”: %2").arg(layer.GetName(), problem)});
-        addTables(layer.source(), layer.GetName());
+      [&](Map const&, Layer const& layer) {
+        QString problem = problemOf(layer);
+        if (!problem.isEmpty()) problem = Texts::tr("Layer “%1”: %2").arg(layer.GetName(), problem);
+        Use use = Use::Layer;
+        for (QString const& file : filesOf(layer))
+          sources.append({file, std::exchange(use, Use::Table), layer.GetName(), std::exchange(problem, QString())});
       },
       [&](PictureElement const& picture) {
         if (picture.data().isEmpty() && !picture.path().isEmpty())
@@ -82,9 +83,9 @@ QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
 void readAgain(PageLayout const& layout, QStringList const& files) {
   visitSources(
       layout,
-      [&](Map const& map, VectorLayer& layer) {
+      [&](Map const& map, Layer& layer) {
         QStringList warnings;
-        if (drawsFrom(layer.source(), files)) layer.open(layer.source(), map.GetCoordinateSystem(), warnings);
+        if (drawsFrom(layer, files)) readAgain(layer, map.GetCoordinateSystem(), warnings);
       },
       [&](PictureElement& picture) {
         if (files.contains(picture.path())) picture.readAgain();

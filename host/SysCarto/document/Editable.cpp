@@ -6,6 +6,7 @@
 #include "FrameSettings.h"
 #include "LayerSettings.h"
 #include "MapSettings.h"
+#include "RasterLayerSettings.h"
 #include "SeriesSettings.h"
 #include "SurroundFields.h"
 
@@ -163,6 +164,7 @@ private:
 
 using EditableMap = EditableSettings<Map, MapSettings>;
 using EditableLayer = EditableSettings<VectorLayer, LayerSettings>;
+using EditableRaster = EditableSettings<RasterLayer, RasterLayerSettings>;
 using EditableLayerGroup = EditableSettings<LayerGroup, LayerGroupSettings>;
 
 // A number as in “#3”, or a name.
@@ -214,6 +216,8 @@ Wanted wantedOf(Fields::Describe const& list, QStringList const& path, SysUtilit
   if (kind == now.value(path.last()).toString()) return {path, value};
   if (SysDisplay::isSymbol(parent->info.field)) other = SysDisplay::layeredOrNot(now, kind);
   if (parent->key() == QLatin1String("renderer")) other = rendererAs(now, kind);
+  if (parent->key() == QLatin1String("renderer") && now.contains(QStringLiteral("band")))
+    other.insert(QStringLiteral("band"), now.value(QStringLiteral("band")));
   if (other.isEmpty()) return {path, value};
   return {whole, [other](QJsonValue const&) { return other; }};
 }
@@ -296,6 +300,12 @@ Editable::Pointer Editable::map(_ptr_t<Map> const& map) {
 }
 
 Editable::Pointer Editable::layer(_ptr_t<Map> const& map, _ptr_t<Layer> const& layer) {
+  if (auto const raster = SysUtility::ptr_cast<RasterLayer>(layer))
+    return std::make_shared<EditableRaster>(
+        raster, EditableRaster::Uses{layer->GetName(), &RasterLayerSettings::of,
+                                     [map](RasterLayer& one, RasterLayerSettings const& settings,
+                                           DocumentContext& context) { settings.applyTo(one, *map, context); },
+                                     nullptr});
   auto const vector = SysUtility::ptr_cast<VectorLayer>(layer);
   if (!vector) return nullptr;
   return std::make_shared<EditableLayer>(

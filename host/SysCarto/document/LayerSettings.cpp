@@ -1,5 +1,7 @@
 #include "LayerSettings.h"
 
+#include "RasterLayerSettings.h"
+
 #include "host/SysCarto/layers/DataSource.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layers/ScaleFields.h"
@@ -18,7 +20,7 @@ namespace {
 
 constexpr int maxJoins = 20;
 constexpr int maxLayers = 10000;
-enum Kind { FeatureKind, GroupKind };
+enum Kind { FeatureKind, RasterKind, GroupKind };
 constexpr Choice blends[] = {
     {LayerBlend::Normal, "normal", QT_TRANSLATE_NOOP("Fields", "Cover")},
     {LayerBlend::Multiply, "multiply", QT_TRANSLATE_NOOP("Fields", "Darken")},
@@ -34,6 +36,7 @@ constexpr Choice obstacles[] = {
     {LabelObstacle::Areas, "areas", QT_TRANSLATE_NOOP("Fields", "Whole areas")},
 };
 constexpr Choice kinds[] = {{FeatureKind, "feature", QT_TRANSLATE_NOOP("Fields", "Features")},
+                            {RasterKind, "raster", QT_TRANSLATE_NOOP("Fields", "Raster")},
                             {GroupKind, "group", QT_TRANSLATE_NOOP("Fields", "Group of layers")}};
 
 struct Texts {
@@ -79,7 +82,9 @@ void open(VectorLayer& layer, SourceSettings const& source, Map const& map, Docu
   for (QString const& warning : warnings) context.warnings << Texts::tr("Layer “%1”: %2").arg(layer.GetName(), warning);
 }
 
-// The path as the document has it, and the one to open. What may not be opened stays as it was written.
+}  // namespace
+
+// What may not be opened stays as it was written.
 QString storedPath(QString const& file, DocumentContext const& context) {
   if (file.isEmpty() || !context.relativePaths || context.folder.isEmpty() || !DataSource::refusal(file).isEmpty())
     return file;
@@ -90,8 +95,6 @@ QString pathToOpen(QString const& stored, DocumentContext const& context) {
   if (!DataSource::refusal(stored).isEmpty()) return stored;
   return QDir::cleanPath(QDir(context.folder).absoluteFilePath(stored));
 }
-
-}  // namespace
 
 void listSource(Fields& fields, SourceSettings& source) {
   fields.choice<SourceSettings::Data>(
@@ -152,31 +155,14 @@ SourceSettings sourceToOpen(SourceSettings source, DocumentContext const& contex
   return source;
 }
 
-LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const& context) {
+CommonLayerSettings CommonLayerSettings::of(Layer const& layer) {
   auto const scales = LayerHost::scales(layer);
-  auto const labels = AnnotationSettings::of(*layer.GetAnnotationProperties());
-  LayerSettings settings{storedSource(layer.source(), context),
-                         layer.renderer().settings(),
-                         layer.GetName(),
-                         LayerHost::isSwitchedOn(layer),
-                         scales.min,
-                         scales.max,
-                         LayerHost::effects(layer),
-                         LayerHost::credits(layer),
-                         layer.labelSettings(),
-                         labels,
-                         layer.obstacle()};
-  return settings;
+  return {layer.GetName(), LayerHost::isSwitchedOn(layer), scales.min,
+          scales.max,      LayerHost::effects(layer),      LayerHost::credits(layer)};
 }
 
-void LayerSettings::list(Fields& fields) {
-  LayerSettings const usual;
-  fields.object(
-      {"source", QT_TRANSLATE_NOOP("Fields", "Source"), QT_TRANSLATE_NOOP("Fields", "Where the data come from.")},
-      [this](Fields& own) { listSource(own, source); });
-  fields.object(
-      {"renderer", QT_TRANSLATE_NOOP("Fields", "Symbols"), QT_TRANSLATE_NOOP("Fields", "How features are drawn.")},
-      [this](Fields& own) { renderer.list(own); });
+void CommonLayerSettings::list(Fields& fields) {
+  CommonLayerSettings const usual;
   fields.text({"name", QT_TRANSLATE_NOOP("Fields", "Name"), QT_TRANSLATE_NOOP("Fields", "What the layer is called.")},
               name, TextKind::Line);
   fields.flag(
@@ -197,6 +183,34 @@ void LayerSettings::list(Fields& fields) {
   fields.text({"credits", QT_TRANSLATE_NOOP("Fields", "Credits"),
                QT_TRANSLATE_NOOP("Fields", "Whom the data come from; [credits] in a text of the page names them all.")},
               credits, TextKind::Line, QString());
+}
+
+void CommonLayerSettings::applyTo(Layer& layer) const {
+  layer.SetName(name);
+  layer.SetVisible(visible);
+  layer.SetScaleRange(minScale, maxScale);
+  LayerHost::setEffects(layer, effects);
+  LayerHost::setCredits(layer, credits);
+}
+
+LayerSettings LayerSettings::of(VectorLayer const& layer, DocumentContext const& context) {
+  return {storedSource(layer.source(), context),
+          layer.renderer().settings(),
+          CommonLayerSettings::of(layer),
+          layer.labelSettings(),
+          AnnotationSettings::of(*layer.GetAnnotationProperties()),
+          layer.obstacle()};
+}
+
+void LayerSettings::list(Fields& fields) {
+  LayerSettings const usual;
+  fields.object(
+      {"source", QT_TRANSLATE_NOOP("Fields", "Source"), QT_TRANSLATE_NOOP("Fields", "Where the data come from.")},
+      [this](Fields& own) { listSource(own, source); });
+  fields.object(
+      {"renderer", QT_TRANSLATE_NOOP("Fields", "Symbols"), QT_TRANSLATE_NOOP("Fields", "How features are drawn.")},
+      [this](Fields& own) { renderer.list(own); });
+  common.list(fields);
   fields.choice<LabelObstacle>({"obstacle", QT_TRANSLATE_NOOP("Fields", "Kept free"),
                                 QT_TRANSLATE_NOOP("Fields",
                                                   "What the labels of other layers keep off: nothing, markers and "
@@ -232,11 +246,7 @@ void LayerSettings::applyTo(VectorLayer& layer, Map const& map, DocumentContext&
 
 // All but the renderer and the data.
 void LayerSettings::give(VectorLayer& layer) const {
-  layer.SetName(name);
-  layer.SetVisible(visible);
-  layer.SetScaleRange(minScale, maxScale);
-  LayerHost::setEffects(layer, effects);
-  LayerHost::setCredits(layer, credits);
+  common.applyTo(layer);
   layer.setLabelSettings(labels);
   layer.setObstacle(obstacle);
   annotation.applyTo(*layer.GetAnnotationProperties());
@@ -276,18 +286,23 @@ void listGroup(Fields& fields, LayerEntry& entry, Map const& map, DocumentContex
 }  // namespace
 
 void listLayerEntry(Fields& fields, LayerEntry& entry, Map const& map, DocumentContext& context, int depth) {
-  auto const present = fields.isReading() ? nullptr : SysUtility::ptr_cast<VectorLayer>(entry.layer);
-  if (!fields.isReading() && entry.layer && !present)
-    return fields.fail(nullptr, Texts::tr("is a layer that can't be stored"));
-  LayerSettings settings = present ? LayerSettings::of(*present, context) : LayerSettings();
-  int kind = entry.group ? GroupKind : FeatureKind;
+  auto const present = fields.isReading() ? nullptr : entry.layer;
+  auto const features = SysUtility::ptr_cast<VectorLayer>(present);
+  auto const raster = SysUtility::ptr_cast<RasterLayer>(present);
+  if (present && !features && !raster) return fields.fail(nullptr, Texts::tr("is a layer that can't be stored"));
+  LayerSettings settings = features ? LayerSettings::of(*features, context) : LayerSettings();
+  RasterLayerSettings pixels = raster ? RasterLayerSettings::of(*raster, context) : RasterLayerSettings();
+  int kind = entry.group ? GroupKind : raster ? RasterKind : FeatureKind;
   fields.variant(
       {"type", QT_TRANSLATE_NOOP("Fields", "Kind"), QT_TRANSLATE_NOOP("Fields", "What kind of layer it is.")}, kind,
       kinds, [&](int chosen) {
         if (chosen == GroupKind) return listGroup(fields, entry, map, context, depth);
+        if (chosen == RasterKind) return pixels.list(fields);
         settings.list(fields);
       });
-  if (fields.isReading() && fields.ok() && kind == FeatureKind) entry.layer = settings.make(map, context);
+  if (!fields.isReading() || !fields.ok()) return;
+  if (kind == FeatureKind) entry.layer = settings.make(map, context);
+  if (kind == RasterKind) entry.layer = pixels.make(map, context);
 }
 
 void listLayerEntries(Fields& fields, std::vector<LayerEntry>& entries, Map const& map, DocumentContext& context) {

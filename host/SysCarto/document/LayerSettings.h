@@ -16,15 +16,28 @@ void listSource(SysUtility::Fields& fields, SourceSettings& source);
 SourceSettings storedSource(SourceSettings source, DocumentContext const& context);
 SourceSettings sourceToOpen(SourceSettings source, DocumentContext const& context);
 
-/// What a document stores of a layer. Its data are not: they are read when the layer is made.
-struct LayerSettings {
-  SourceSettings source;  ///< the file as it is stored: relative to the document where it keeps relative paths
-  RendererSettings renderer;
+// The path of a file as the document has it, and the one to open.
+QString storedPath(QString const& file, DocumentContext const& context);
+QString pathToOpen(QString const& stored, DocumentContext const& context);
+
+/// What layers of all kinds have.
+struct CommonLayerSettings {
   QString name;
   bool visible = true;
   double minScale = 0, maxScale = 0;  ///< scale denominators; 0 is no limit
   LayerEffects effects;
   QString credits;
+
+  static CommonLayerSettings of(Layer const& layer);
+  void list(SysUtility::Fields& fields);
+  void applyTo(Layer& layer) const;
+};
+
+/// What a document stores of a layer of features. Its data are not: they are read when the layer is made.
+struct LayerSettings {
+  SourceSettings source;  ///< the file as it is stored: relative to the document where it keeps relative paths
+  RendererSettings renderer;
+  CommonLayerSettings common;
   LabelSettings labels;
   AnnotationSettings annotation;
   LabelObstacle obstacle = LabelObstacle::None;

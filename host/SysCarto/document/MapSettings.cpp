@@ -1,5 +1,6 @@
 #include "MapSettings.h"
 
+#include "host/SysCarto/maps/LayerData.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/MapLimits.h"
 #include "host/SysCarto/maps/VectorLayer.h"
@@ -28,8 +29,7 @@ struct Texts {
 
 Box layersOf(Map const& map) {
   Box box;
-  for (auto const& layer : map.GetLayers())
-    if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer)) box.add(vector->features().box());
+  for (auto const& layer : map.GetLayers()) box.add(boxOf(*layer));
   return box;
 }
 
@@ -157,8 +157,7 @@ void MapSettings::applyTo(Map& map, QStringList& warnings) const {
     layer->setLabelSettings(labels);
   }
   for (auto const& layer : map.GetLayers()) {
-    auto const vector = SysUtility::ptr_cast<VectorLayer>(layer);
-    QString const problem = vector ? vector->open(vector->source(), coordinateSystem, warnings) : QString();
+    QString const problem = readAgain(*layer, coordinateSystem, warnings);
     if (!problem.isEmpty()) warnings << problem;
   }
   if (!isKept || (metLayers && !showsLayers(map))) showLayers(map);

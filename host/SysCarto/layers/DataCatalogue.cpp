@@ -3,6 +3,7 @@
 #include "DataSource.h"
 #include "DerivedLayer.h"
 #include "LocalDataset.h"
+#include "raster/RasterSource.h"
 #include "TableLayer.h"
 
 #include "host/SysCarto/projection/GdalErrors.h"
@@ -202,13 +203,18 @@ LayerDescription describe(OGRLayer& from) {
   return layer;
 }
 
-}  // namespace
+// By the name of a file.
+bool mayHoldRasters(QString const& path) {
+  QString const suffix = QFileInfo(path).suffix().toLower();
+  return isRasterFileName(path) || QStringList{"png", "jpg", "jpeg", "vrt"}.contains(suffix);
+}
+bool mayHoldFeatures(QString const& path) {
+  return !mayHoldRasters(path) || path.endsWith(QLatin1String(".gpkg"), Qt::CaseInsensitive);
+}
 
-DataFile describeFile(QString const& path) {
-  DataFile file{path, {}, {}, DataSource::refusal(path)};
-  if (!file.error.isEmpty()) return file;
-  DatasetPointer const dataset = openLocalDataset(path, file.error);
-  if (!dataset) return file;
+void describeFeatures(DataFile& file) {
+  DatasetPointer const dataset = openLocalDataset(file.path, file.error);
+  if (!dataset) return;
   GdalErrors const errors;
   file.format = formatOf(*dataset);
   file.metadata = metadataOf(*dataset);
@@ -219,13 +225,51 @@ DataFile describeFile(QString const& path) {
       if (described.count != 0 || !mayHaveEmptyLayers(*dataset)) file.layers.push_back(described);
       continue;
     }
-    auto const table = TableLayer::create(layer, {path, {}, {}, {}}, file.error);
+    auto const table = TableLayer::create(layer, {file.path, {}, {}, {}}, file.error);
     file.layers.push_back(describe(*table));
     file.layers.back().xField = table->columns().x;
     file.layers.back().yField = table->columns().y;
     file.layers.back().geometryField = table->columns().geometry;
   }
-  if (file.layers.empty()) file.error = Texts::tr("The file “%1” holds no features.").arg(path);
+  if (file.layers.empty()) file.error = Texts::tr("The file “%1” holds no features.").arg(file.path);
+}
+
+// The rasters that a file holds, of which a GeoPackage may have several.
+void addRasters(DataFile& file) {
+  if (!mayHoldRasters(file.path)) return;
+  QStringList tables = RasterSource::tablesOf(file.path);
+  bool const isDatabase = file.path.endsWith(QLatin1String(".gpkg"), Qt::CaseInsensitive);
+  if (tables.isEmpty() && !isDatabase) tables << QString();
+  for (QString const& table : qAsConst(tables)) {
+    QString problem;
+    auto const raster = RasterSource::open({file.path, table, {}, {}}, problem);
+    if (!raster) {
+      file.error = problem;
+      continue;
+    }
+    file.error.clear();
+    if (file.format.isEmpty()) file.format = raster->format();
+    LayerDescription layer;
+    layer.name = table.isEmpty() ? QFileInfo(file.path).completeBaseName() : table;
+    layer.kind = GeometryKind::Raster;
+    layer.count = 1;
+    describeSystem(raster->system(), layer);
+    layer.extent = raster->extent();
+    for (size_t i = 1; i <= raster->bands().size(); ++i)
+      layer.fields.push_back({Texts::tr("Band %1").arg(i), FieldDescription::Kind::Real});
+    layer.metadata = {
+        {Texts::tr("Pixels"), QStringLiteral("%1 × %2").arg(raster->size().width()).arg(raster->size().height())}};
+    file.layers.push_back(layer);
+  }
+}
+
+}  // namespace
+
+DataFile describeFile(QString const& path) {
+  DataFile file{path, {}, {}, DataSource::refusal(path)};
+  if (!file.error.isEmpty()) return file;
+  if (mayHoldFeatures(path)) describeFeatures(file);
+  addRasters(file);
   return file;
 }
 
@@ -290,7 +334,8 @@ QVector<QString> dataFilesIn(QString const& folder) {
 QStringList filesOf(QString const& path) {
   QStringList files{path, path + QStringLiteral("-wal")};
   QString problem;
-  bool const mayOpen = isDataFileName(path) && DataSource::refusal(path).isEmpty();
+  if (isRasterFileName(path)) files << RasterSource::companionsOf(path);
+  bool const mayOpen = mayHoldFeatures(path) && isDataFileName(path) && DataSource::refusal(path).isEmpty();
   auto const dataset = mayOpen ? openLocalDataset(path, problem) : nullptr;
   char** const list = dataset ? dataset->GetFileList() : nullptr;
   for (char** one = list; one && *one; ++one) files << QString::fromUtf8(*one);

@@ -16,8 +16,8 @@
 
 namespace SysCarto {
 
-/// What the geometries of a layer are.
-enum class GeometryKind { None, Points, Lines, Areas, Mixed };
+/// What the geometries of a layer are; a raster is one by itself.
+enum class GeometryKind { None, Points, Lines, Areas, Mixed, Raster };
 
 struct FieldDescription {
   enum class Kind { Text, Integer, Real, DateTime, Other };
@@ -37,7 +37,7 @@ struct LayerDescription {
   QString coordinateSystem;  ///< a code where one is known, else WKT; empty where it is not known
   QString coordinateSystemName;
   SysGeometry::Box extent;  ///< in that system; of nothing where it is empty or would cost a reading of all
-  std::vector<FieldDescription> fields;
+  std::vector<FieldDescription> fields;   ///< of a raster, its bands
   QString xField, yField, geometryField;  ///< as in `SourceSettings`: the columns that place the rows of a table
   Metadata metadata = {};
 };

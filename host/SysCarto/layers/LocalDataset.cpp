@@ -3,6 +3,7 @@
 #include "DatabaseBounds.h"
 #include "DrawingBlocks.h"
 #include "SourceBounds.h"
+#include "raster/RasterSource.h"
 
 #include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysCarto/projection/Offline.h"
@@ -152,10 +153,10 @@ QString missing(QString const& path) {
 QVector<DataFormat> const& dataFormats() { return formats; }
 
 bool isDataFileName(QString const& path) {
-  return std::any_of(formats.begin(), formats.end(), [&](DataFormat const& format) {
-    QStringList const suffixes = QString::fromLatin1(format.suffixes).split(QLatin1Char(' '));
-    return suffixes.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
-  });
+  return isRasterFileName(path) || std::any_of(formats.begin(), formats.end(), [&](DataFormat const& format) {
+           QStringList const suffixes = QString::fromLatin1(format.suffixes).split(QLatin1Char(' '));
+           return suffixes.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+         });
 }
 
 void CloseDataset::operator()(GDALDataset* dataset) const {

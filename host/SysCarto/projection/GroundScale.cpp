@@ -41,7 +41,7 @@ struct GroundScale::Private {
   geod_geodesic ellipsoid;
   double degreesPerUnit = 1;  // of the geographic system
 
-  double measured(double x, double y, double step) const;
+  double measured(QPointF const& from, QPointF const& to) const;
   double nominal() const;
 };
 
@@ -67,9 +67,9 @@ double GroundScale::Private::nominal() const {
   return metres > 0 ? metres : 1;
 }
 
-// A projected system is measured half a step to either side, so that the result belongs to the place itself.
-double GroundScale::Private::measured(double x, double y, double step) const {
-  double xs[] = {x - step / 2, x + step / 2}, ys[] = {y, y};
+// 0 where that can't be told.
+double GroundScale::Private::measured(QPointF const& from, QPointF const& to) const {
+  double xs[] = {from.x(), to.x()}, ys[] = {from.y(), to.y()};
   if (toGlobe) {
     if (!toGlobe->apply(xs[0], ys[0]) || !toGlobe->apply(xs[1], ys[1])) return 0;
   } else if (!system->IsGeographic()) {
@@ -78,12 +78,18 @@ double GroundScale::Private::measured(double x, double y, double step) const {
   for (double& longitude : xs) longitude *= degreesPerUnit;
   double const limit = toGlobe ? 90.0 : maxLatitude;
   for (double& latitude : ys) latitude = std::clamp(latitude * degreesPerUnit, -limit, limit);
-  return length(ellipsoid, xs, ys) / step;
+  return length(ellipsoid, xs, ys);
 }
 
+// Half a step to either side, so that the result belongs to the place itself.
 double GroundScale::metresPerUnit(double x, double y, double step) const {
-  if (!d->system) return 1;
-  double const metres = d->measured(x, y, step), nominal = d->nominal();
+  return metresBetween({x - step / 2, y}, {x + step / 2, y}) / step;
+}
+
+double GroundScale::metresBetween(QPointF const& from, QPointF const& to) const {
+  double const units = std::hypot(to.x() - from.x(), to.y() - from.y());
+  if (!d->system) return units;
+  double const metres = d->measured(from, to), nominal = d->nominal() * units;
   bool const isGround = d->toGlobe ? metres > nominal / maxStretch && metres < nominal * maxStretch : metres > 0;
   return isGround ? metres : nominal;
 }

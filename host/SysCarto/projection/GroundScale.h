@@ -2,6 +2,7 @@
 
 #include <SysCarto/Export.h>
 
+#include <QPointF>
 #include <QString>
 
 #include <memory>
@@ -20,6 +21,9 @@ public:
   /// Metres of ground on a unit along x at a place in map units. `step` is a small length in map units over which it is
   /// measured. Always positive: where the projection has no ground (beyond its edge), its nominal unit counts.
   double metresPerUnit(double x, double y, double step) const;
+
+  /// Metres of ground from one place to another near it, both in map units. Always positive where they differ.
+  double metresBetween(QPointF const& from, QPointF const& to) const;
 
   /// Degrees, counterclockwise from up, to true north at a place in map units. 0 where there is no north: in plain
   /// coordinates, at a pole, and beyond the projection's edge.

@@ -20,7 +20,7 @@ struct Texts {
 constexpr char const* kinds[] = {
     QT_TRANSLATE_NOOP("DataReport", "no geometry"), QT_TRANSLATE_NOOP("DataReport", "points"),
     QT_TRANSLATE_NOOP("DataReport", "lines"),       QT_TRANSLATE_NOOP("DataReport", "areas"),
-    QT_TRANSLATE_NOOP("DataReport", "mixed"),
+    QT_TRANSLATE_NOOP("DataReport", "mixed"),       QT_TRANSLATE_NOOP("DataReport", "raster"),
 };
 constexpr char const* fieldKinds[] = {"text", "integer", "real", "date", "other"};
 
@@ -51,7 +51,10 @@ QJsonObject layerJson(LayerDescription const& layer) {
 
 QString layerText(LayerDescription const& layer) {
   QStringList parts{kindText(layer.kind)};
-  if (layer.count >= 0) parts << Texts::tr("%1 features").arg(QLocale().toString(layer.count));
+  bool const isRaster = layer.kind == SysCarto::GeometryKind::Raster;
+  for (auto const& one : layer.metadata)
+    if (isRaster) parts << QStringLiteral("%1: %2").arg(one.first, one.second);
+  if (layer.count >= 0 && !isRaster) parts << Texts::tr("%1 features").arg(QLocale().toString(layer.count));
   if (!layer.coordinateSystemName.isEmpty()) parts << layer.coordinateSystemName;
   if (layer.coordinateSystem.size() < 30 && !layer.coordinateSystem.isEmpty()) parts << layer.coordinateSystem;
   if (!layer.extent.isEmpty()) parts << extentText(layer.extent);
@@ -61,7 +64,8 @@ QString layerText(LayerDescription const& layer) {
   for (FieldDescription const& field : layer.fields) fields << field.name;
   QString text = QStringLiteral("  %1: %2").arg(layer.name, parts.join(QStringLiteral("; ")));
   if (!fields.isEmpty())
-    text += QLatin1String("\n    ") + Texts::tr("fields: %1").arg(fields.join(QStringLiteral(", ")));
+    text += QLatin1String("\n    ") +
+            (isRaster ? Texts::tr("bands: %1") : Texts::tr("fields: %1")).arg(fields.join(QStringLiteral(", ")));
   return text;
 }
 

@@ -1,9 +1,12 @@
 #include "Identify.h"
 
 #include "host/SysCarto/layers/FeatureSearch.h"
+#include "host/SysCarto/layers/raster/RasterLayer.h"
 #include "host/SysCarto/projection/GlobeBox.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
+#include <QLocale>
 
 #include <algorithm>
 
@@ -12,6 +15,7 @@ using SysUtility::_ptr_t;
 namespace {
 
 constexpr size_t mostOfALayer = 50;
+constexpr int significantDigits = 7;
 
 // The label where the layer has labels, else a name, else the first text that there is.
 QString labelOf(SysCarto::VectorLayer const& layer, int number, Identified::Feature const& feature) {
@@ -49,6 +53,19 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
   }
 }
 
+void identifyIn(_ptr_t<SysCarto::RasterLayer> const& layer, QPointF const& place, Identified& found) {
+  std::vector<double> const values = layer->valuesAt(place);
+  if (values.empty()) return;
+  Identified::Feature feature{layer, -1, {}, {}};
+  QStringList texts;
+  for (double const value : values) {
+    texts << QLocale().toString(value, 'g', significantDigits);
+    feature.fields << qMakePair(QCoreApplication::translate("Identify", "Band %1").arg(texts.size()), QVariant(value));
+  }
+  feature.label = texts.join(QStringLiteral("; "));
+  found.features << feature;
+}
+
 }  // namespace
 
 SysCarto::FeatureTable const* OpenTables::of(_ptr_t<SysCarto::VectorLayer> const& layer) {
@@ -75,6 +92,8 @@ Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, doub
     auto const layer = SysUtility::ptr_cast<SysCarto::VectorLayer>(map->GetLayer(i));
     bool const isGlobe = layer && layer->source().data == SysCarto::SourceSettings::Data::Globe;  // it is everywhere
     if (layer && !isGlobe && layer->showsAt(scale)) identifyIn(layer, place, reach, tables, found);
+    auto const raster = SysUtility::ptr_cast<SysCarto::RasterLayer>(map->GetLayer(i));
+    if (raster && raster->showsAt(scale)) identifyIn(raster, place, found);
   }
   return found;
 }

@@ -14,11 +14,11 @@
 #include <optional>
 #include <vector>
 
-/// What lies at a place of a map: features of its visible layers, the topmost first.
+/// What lies at a place of a map: features of its visible layers, and values of rasters, the topmost first.
 struct Identified {
   struct Feature {
-    SysUtility::_ptr_t<SysCarto::VectorLayer> layer;
-    qint64 id;  ///< in the source
+    SysUtility::_ptr_t<SysCarto::Layer> layer;
+    qint64 id;  ///< in the source; −1 of a raster, whose bands are the fields
     QString label;
     QVector<QPair<QString, QVariant>> fields;
   };

@@ -3,6 +3,8 @@
 #include "FeatureHighlight.h"
 #include "LayerActions.h"
 
+#include "host/SysCarto/maps/LayerData.h"
+
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/DocumentViews.h"
 #include "host/desktop/OwnKeys.h"
@@ -78,8 +80,9 @@ void IdentifyPanel::follow() {
 }
 
 void IdentifyPanel::zoomTo(Identified::Feature const& feature) {
-  QString const problem = LayerActions::zoomTo(*session_.document().GetPageLayout(), *found_.map,
-                                               FeatureHighlight::boxOf(*feature.layer, {feature.id}));
+  auto const vector = SysUtility::ptr_cast<SysCarto::VectorLayer>(feature.layer);
+  auto const box = vector ? FeatureHighlight::boxOf(*vector, {feature.id}) : SysCarto::boxOf(*feature.layer);
+  QString const problem = LayerActions::zoomTo(*session_.document().GetPageLayout(), *found_.map, box);
   if (!problem.isEmpty()) emit told(problem);
 }
 
@@ -135,8 +138,9 @@ Identified::Feature const* IdentifyPanel::featureOf(QTreeWidgetItem const* item)
 
 void IdentifyPanel::mark(bool flashes) {
   auto const* const feature = featureOf(tree_->currentItem());
-  if (feature)
-    views_.highlight().show({found_.map, feature->layer, {feature->id}}, flashes);
+  auto const vector = feature ? SysUtility::ptr_cast<SysCarto::VectorLayer>(feature->layer) : nullptr;
+  if (vector)
+    views_.highlight().show({found_.map, vector, {feature->id}}, flashes);
   else
     views_.highlight().clear();
 }

@@ -3,7 +3,7 @@
 #include "AddLayersDialog.h"
 #include "ReadingProgress.h"
 
-#include "host/SysCarto/layers/LocalDataset.h"
+#include "host/SysCarto/layers/raster/RasterSource.h"
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/DocumentViews.h"
 
@@ -21,7 +21,8 @@ QString const folderKey = QStringLiteral("data/folder");
 
 QString filters() {
   QStringList all, each;
-  for (SysCarto::DataFormat const& format : SysCarto::dataFormats()) {
+  QVector<SysCarto::DataFormat> const formats = SysCarto::dataFormats() + SysCarto::rasterFormats();
+  for (SysCarto::DataFormat const& format : formats) {
     QStringList patterns;
     for (QString const& suffix : QString::fromLatin1(format.suffixes).split(QLatin1Char(' ')))
       patterns << QStringLiteral("*.") + suffix;

@@ -10,6 +10,7 @@
 
 #include "host/SysAdapterUI/ContentsTree.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/maps/LayerData.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 
 #include <QDir>
@@ -229,9 +230,10 @@ void LayerCommands::addOpacityTo(ActionTable& actions) {
 }
 
 LayerOutcome LayerCommands::askForRepair(Rows const& rows) {
-  auto const layer = SysUtility::ptr_cast<SysCarto::VectorLayer>(rows.first().layer);
-  if (!layer) return {};
-  QDir folder = QFileInfo(layer->source().file).absoluteDir();
+  auto const layer = rows.first().layer;
+  QStringList const files = layer ? SysCarto::filesOf(*layer) : QStringList();
+  if (files.isEmpty()) return {};
+  QDir folder = QFileInfo(files.first()).absoluteDir();
   if (!folder.exists()) folder = QFileInfo(bench_.session().path()).absoluteDir();
   QString const file = QFileDialog::getOpenFileName(tree_, tr("Where is the file of “%1”?").arg(layer->GetName()),
                                                     folder.absolutePath());

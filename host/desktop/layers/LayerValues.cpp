@@ -4,6 +4,7 @@
 
 #include "host/SysCarto/elements/EditorHost.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/maps/LayerData.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 
@@ -53,8 +54,7 @@ QList<_ptr_t<Layer>> layersOf(Rows const& rows) {
 
 Box boxOf(QList<_ptr_t<Layer>> const& layers) {
   Box box;
-  for (auto const& layer : layers)
-    if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer)) box.add(vector->features().box());
+  for (auto const& layer : layers) box.add(SysCarto::boxOf(*layer));
   return box;
 }
 
@@ -134,16 +134,16 @@ std::vector<std::pair<LayerRow, QString>> foundWith(SysCarto::MapDocument const&
                                                     QString const& file) {
   std::vector<std::pair<LayerRow, QString>> found{{row, file}};
   QDir const folder = QFileInfo(file).absoluteDir();
-  QString const former = SysUtility::ptr_cast<VectorLayer>(row.layer)->source().file;
+  QString const former = SysCarto::filesOf(*row.layer).first();
   QList<_ptr_t<Map>> maps;
   document.GetMaps(maps);
   for (auto const& map : qAsConst(maps))
     for (auto const& layer : map->GetLayers()) {
-      auto const vector = SysUtility::ptr_cast<VectorLayer>(layer);
-      if (!vector || layer == row.layer || vector->problem().isEmpty()) continue;
-      if (QFileInfo::exists(vector->source().file)) continue;
-      QString const beside = folder.filePath(QFileInfo(vector->source().file).fileName());
-      QString const wanted = vector->source().file == former ? file : beside;
+      QString const own = SysCarto::filesOf(*layer).value(0);
+      if (own.isEmpty() || layer == row.layer || SysCarto::problemOf(*layer).isEmpty()) continue;
+      if (QFileInfo::exists(own)) continue;
+      QString const beside = folder.filePath(QFileInfo(own).fileName());
+      QString const wanted = own == former ? file : beside;
       if (QFileInfo::exists(wanted)) found.push_back({{map, nullptr, layer}, wanted});
     }
   return found;
@@ -187,10 +187,7 @@ bool LayerActions::isThere(SysCarto::MapDocument const& document, LayerRow const
          (!row.group || groupsOf(*row.map).contains(row.group));
 }
 
-QString LayerActions::problemOf(LayerRow const& row) {
-  auto const vector = SysUtility::ptr_cast<VectorLayer>(row.layer);
-  return vector ? vector->problem() : QString();
-}
+QString LayerActions::problemOf(LayerRow const& row) { return row.layer ? SysCarto::problemOf(*row.layer) : QString(); }
 
 LayerOutcome LayerActions::setVisible(Rows const& rows, bool visible) {
   Rows changed;
@@ -281,7 +278,7 @@ LayerOutcome LayerActions::zoomToScales(SysCarto::PageLayout const& layout, Laye
 }
 
 LayerOutcome LayerActions::repair(SysCarto::MapDocument const& document, LayerRow const& row, QString const& file) {
-  if (!SysUtility::ptr_cast<VectorLayer>(row.layer)) return {tr("It has no file."), {}, {}};
+  if (!row.layer || SysCarto::filesOf(*row.layer).isEmpty()) return {tr("It has no file."), {}, {}};
   auto const found = foundWith(document, row, QFileInfo(file).absoluteFilePath());
   LayerOutcome outcome{{}, {row}, {}};
   OneStep const step(tr("Repair the source of “%1”").arg(row.layer->GetName()));

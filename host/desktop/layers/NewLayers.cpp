@@ -4,6 +4,7 @@
 #include "host/SysCarto/elements/EditorHost.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/PageHost.h"
+#include "host/SysCarto/maps/LayerData.h"
 #include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysCarto/maps/ValueStep.h"
 #include "host/SysCarto/maps/VectorLayer.h"
@@ -44,7 +45,7 @@ LayerGroups commonGroups(LayerGroups const& a, LayerGroups const& b) {
 }
 
 struct Styled {
-  _ptr_t<VectorLayer> layer;
+  _ptr_t<Layer> layer;
   DrawingOrder order;
   int outliers;
 };
@@ -133,7 +134,7 @@ public:
       auto const read = SysCarto::LayerClip::make({styled.json}, *own, problem, warnings, progress_);
       if (wasStopped_) return {};
       if (!problem.isEmpty()) problems_ << problem;
-      if (!read.empty()) layers.push_back({ptr_cast<VectorLayer>(read.front().layer), styled.order, styled.outliers});
+      if (!read.empty()) layers.push_back({read.front().layer, styled.order, styled.outliers});
     }
     return layers;
   }
@@ -166,10 +167,10 @@ QSizeF sizeOf(SysCarto::MapFrameElement const* frame) {
 }
 
 SysGeometry::Box boxOf(Styled const& styled) {
-  SysCarto::FeatureStore const& store = styled.layer->features();
-  if (styled.outliers == 0) return store.box();
+  auto const vector = ptr_cast<VectorLayer>(styled.layer);
+  if (!vector || styled.outliers == 0) return SysCarto::boxOf(*styled.layer);
   BoxSample boxes;
-  for (SysCarto::Feature const& feature : store.features) boxes.add(feature.box);
+  for (SysCarto::Feature const& feature : vector->features().features) boxes.add(feature.box);
   return Bulk::of(boxes).box;
 }
 

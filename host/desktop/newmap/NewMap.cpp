@@ -8,6 +8,7 @@
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
+#include "host/SysCarto/maps/LayerData.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GroundScale.h"
@@ -316,7 +317,8 @@ bool NewMap::showAll() {
     bool const hasOutliers = std::any_of(layers_.begin(), layers_.end(), [&](StyledLayer const& styled) {
       return styled.name == layer->GetName() && styled.outliers > 0;
     });
-    if (auto const vector = ptr_cast<VectorLayer>(layer)) all.add(boxOf(*vector, hasOutliers));
+    auto const vector = ptr_cast<VectorLayer>(layer);
+    all.add(vector ? boxOf(*vector, hasOutliers) : SysCarto::boxOf(*layer));
   }
   if (!(all.xmin <= all.xmax)) all = {-1, -1, 1, 1};
   double const x = (all.xmin + all.xmax) / 2, y = (all.ymin + all.ymax) / 2;
@@ -402,8 +404,10 @@ bool NewMap::isFree(QRectF const& place) const {
   auto const there = element->GetMap()->GetDisplayTransformation()->Clone();
   there->SetDeviceFrame(QRectF(QPointF(), place.size() * pixelsPerCm).toRect());
   there->SetVisibleBounds(make<Envelope>(x(place.left()), y(place.top()), x(place.right()), y(place.bottom())));
+  Box const window{x(place.left()), y(place.top()), x(place.right()), y(place.bottom())};
   for (auto const& layer : element->GetMap()->GetLayers()) {
     auto const vector = ptr_cast<VectorLayer>(layer);
+    if (!vector && SysCarto::boxOf(*layer).meets(window)) return false;
     bool const isGlobe = vector && vector->source().data == SysCarto::SourceSettings::Data::Globe;
     if (!isGlobe && SysCarto::LayerHost::classesWithin(*layer, there).contains(true)) return false;
   }

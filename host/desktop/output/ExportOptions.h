@@ -19,6 +19,8 @@ struct ExportOptions {
 
   int dpi = defaultDpi;  ///< pixels per inch of paper
 
+  bool allowMissing = false;  ///< goes on where data can't be read to their end
+
   // Of vector formats alone.
   bool textAsShapes = false;  ///< letters are outlines
 

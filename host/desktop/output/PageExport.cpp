@@ -3,6 +3,7 @@
 #include "ImageFormat.h"
 #include "PageImage.h"
 
+#include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 #include "host/desktop/vector/VectorExport.h"
 
@@ -60,10 +61,27 @@ QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel>
                           ExportProgress const& progress) {
   QString problem = checkPage(document);
   if (problem.isEmpty()) problem = target_.checkAgainst(document);
+  QStringList const known = problemsOf(document);
   if (problem.isEmpty())
     problem = format_.isVector ? writeShapes(document, cancel) : writePixels(document, cancel, progress);
+  if (problem.isEmpty() && !options_.allowMissing) problem = newProblem(document, known);
   if (problem.isEmpty()) problem = target_.commit();
   return problem;
+}
+
+QStringList PageExport::problemsOf(SysCarto::MapDocument const& document) {
+  QStringList problems;
+  auto const layout = document.GetPageLayout();
+  for (auto const& source : layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>())
+    if (!source.problem.isEmpty()) problems << source.problem;
+  return problems;
+}
+
+// What is read only where it is drawn may turn out to be damaged there.
+QString PageExport::newProblem(SysCarto::MapDocument const& document, QStringList const& known) const {
+  for (QString const& problem : problemsOf(document))
+    if (!known.contains(problem)) return tr("%1 was not written: %2").arg(path_, problem);
+  return QString();
 }
 
 QString PageExport::writeShapes(SysCarto::MapDocument const& document, _ptr_t<TrackerCancel> const& cancel) {

@@ -41,6 +41,8 @@ public:
 private:
   QString writePixels(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
                       ExportProgress const& progress);
+  static QStringList problemsOf(SysCarto::MapDocument const& document);
+  QString newProblem(SysCarto::MapDocument const& document, QStringList const& known) const;
   QString writeShapes(SysCarto::MapDocument const& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
   QString putBeside(PageImage const& image, SysCarto::MapDocument const& document);
 

@@ -246,11 +246,35 @@ bool isPartOfTrack(QString const& layer, SysCarto::DataFile const& file) {
   });
 }
 
+namespace {
+
+// As an area that it covers.
+LayerSurvey surveyedRaster(LayerSurvey survey) {
+  SysGeometry::Box const& box = survey.description.extent;
+  OGRLinearRing ring;
+  for (auto const& [x, y] : {std::make_pair(box.xmin, box.ymin),
+                             {box.xmax, box.ymin},
+                             {box.xmax, box.ymax},
+                             {box.xmin, box.ymax},
+                             {box.xmin, box.ymin}})
+    ring.addPoint(x, y);
+  OGRPolygon area;
+  area.addRing(&ring);
+  Finder finder(survey.description.coordinateSystem);
+  finder.add(area);
+  survey.count = 1;
+  finder.finish(survey);
+  return survey;
+}
+
+}  // namespace
+
 std::optional<LayerSurvey> surveyLayer(SysCarto::SourceSettings const& source, SysCarto::LayerDescription const& layer,
                                        SysCarto::ReadProgress const& progress, QString& problem) {
   LayerSurvey survey;
   survey.source = source;
   survey.description = layer;
+  if (layer.kind == SysCarto::GeometryKind::Raster) return surveyedRaster(survey);
   for (FieldDescription const& field : layer.fields) {
     survey.fields.emplace_back();
     survey.fields.back().name = field.name;

@@ -2,6 +2,7 @@
 
 #include "GlobeArea.h"
 
+#include "host/SysCarto/layers/raster/RasterLayer.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 
@@ -15,7 +16,7 @@ using Subject = Theme::Subject;
 
 namespace {
 
-enum Height { Unknown, Ground, Areas, LowLines, Lines, Points };
+enum Height { Unknown, Ground, Tints, Relief, Areas, LowLines, Lines, Points };
 
 GeometryKind kindDrawn(SysCarto::Renderer const& renderer) {
   if (renderer.classes().empty() || !renderer.classes().front().symbol) return GeometryKind::Areas;
@@ -37,7 +38,11 @@ DrawingOrder DrawingOrder::of(GeometryKind kind, Theme theme, int count, double 
   return {isGround ? Ground : Areas, largestKm2};
 }
 
+DrawingOrder DrawingOrder::ofRaster(bool isRelief) { return {isRelief ? Relief : Tints, 0}; }
+
 DrawingOrder DrawingOrder::of(SysCarto::Layer const& layer, QString const& mapSystem) {
+  if (auto const* const raster = dynamic_cast<SysCarto::RasterLayer const*>(&layer))
+    return ofRaster(raster->look().renderer.isRelief());
   auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(&layer);
   if (!vector || vector->source().data == SysCarto::SourceSettings::Data::Globe) return {};
   GeometryKind const kind = kindDrawn(vector->renderer());

@@ -16,6 +16,9 @@ struct DrawingOrder {
 
   static DrawingOrder of(SysCarto::GeometryKind kind, Theme theme, int count, double largestKm2);
 
+  /// Rasters are above the land and below all other areas; a relief shades what lies below it.
+  static DrawingOrder ofRaster(bool isRelief);
+
   /// Of a layer of a map with such a coordinate system; what is no layer of features is lowest.
   static DrawingOrder of(SysCarto::Layer const& layer, QString const& mapSystem);
 

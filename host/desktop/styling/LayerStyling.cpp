@@ -1,11 +1,14 @@
 #include "LayerStyling.h"
 
+#include "RasterStyling.h"
+
 #include "FieldChoice.h"
 #include "LandMask.h"
 #include "MapColors.h"
 #include "Theme.h"
 
 #include "host/SysCarto/layers/Classify.h"
+#include "host/SysCarto/layers/raster/RasterSource.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysDisplay/SymbolVariation.h"
 #include "host/SysUtility/JsonFields.h"
@@ -22,6 +25,8 @@
 using SysCarto::GeometryKind;
 
 namespace {
+
+constexpr int flatIsLight = 22;  // percent: a hillshade then darkens slopes, and plains hardly
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(LayerStyling)
@@ -336,7 +341,42 @@ std::vector<StyledLayer> LayerStyling::style(std::vector<LayerSurvey> const& sur
   return layers;
 }
 
+// Heights are tinted, with a hillshade over them.
+std::vector<StyledLayer> LayerStyling::styleRaster(LayerSurvey const& survey) {
+  SysCarto::SourceSettings const& source = survey.source;
+  QString problem;
+  QString const table = SysCarto::RasterSource::tablesOf(source.file).contains(source.layer) ? source.layer : QString();
+  auto const raster = SysCarto::RasterSource::open({source.file, table, source.coordinateSystem, {}}, problem);
+  std::vector<StyledLayer> layers;
+  if (!raster) return layers;
+  QJsonObject stored{{"file", source.file}};
+  if (!table.isEmpty()) stored.insert("layer", table);
+  if (!source.coordinateSystem.isEmpty()) stored.insert("coordinateSystem", source.coordinateSystem);
+  for (RasterLook const& look : RasterStyling::looksOf(*raster)) {
+    StyledLayer styled;
+    QString const name = forPeople(source.layer);
+    styled.name = freeName(look.isRelief ? Texts::tr("%1, hillshade").arg(name) : name, source.file);
+    styled.extent = survey.extent;
+    styled.order = DrawingOrder::ofRaster(look.isRelief);
+    styled.isLegendWorthy = look.isLegendWorthy;
+    styled.outliers = 0;
+    styled.reasons << look.reason;
+    styled.json = {{"type", "raster"},
+                   {"name", styled.name},
+                   {"source", stored},
+                   {"renderer", look.renderer},
+                   {"credits", QFileInfo(source.file).fileName()}};
+    if (look.isRelief) {
+      styled.json.insert("blend", "multiply");
+      styled.json.insert("brightness", flatIsLight);
+    }
+    layers.push_back(styled);
+  }
+  return layers;
+}
+
 std::vector<StyledLayer> LayerStyling::styleKinds(LayerSurvey const& survey) {
+  if (survey.description.kind == GeometryKind::Raster) return styleRaster(survey);
   auto const& counts = survey.counts;
   bool const isPure = counts.size() == 1 && !counts.contains(GeometryKind::Mixed);
   if (isPure || counts.isEmpty())

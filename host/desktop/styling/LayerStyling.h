@@ -37,6 +37,7 @@ public:
 
 private:
   std::vector<StyledLayer> styleKinds(LayerSurvey const& survey);
+  std::vector<StyledLayer> styleRaster(LayerSurvey const& survey);
   StyledLayer styleKind(LayerSurvey const& survey, SysCarto::GeometryKind kind, SysCarto::SourceSettings const& source);
   QString freeName(QString const& wanted, QString const& file);
 

@@ -14,6 +14,7 @@
 #include "host/SysAdapterUI/PropertySheet.h"
 #include "host/SysAdapterUI/SymbolChooser.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layers/raster/RasterLayer.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/MapGround.h"
@@ -153,6 +154,7 @@ void LayerSheet::addFilterTest(QVBoxLayout& page) {
   tests_.push_back(new TestBar(tr("&Test"), tr("Count the features that pass the filter"), begin, say, this));
   auto* const edit = button(tr("Edit &Filter…"), "pushButton_EditFilter", this);
   auto* const row = new QHBoxLayout;
+  ofFeatures_.push_back(edit);
   row->addWidget(edit);
   row->addWidget(tests_.back(), 1);
   page.addLayout(row);
@@ -188,7 +190,7 @@ void LayerSheet::addSystem(QVBoxLayout& page) {
   page.addWidget(fileSystem_);
   page.addLayout(row);
   connect(other, &QPushButton::clicked, this, [this] {
-    if (vector()) chooseFor(systemPath, vector()->source().coordinateSystem);
+    if (row_.layer) chooseFor(systemPath, source().coordinateSystem);
   });
   connect(own, &QPushButton::clicked, this, [this] { give(systemPath, QString(), QString()); });
 }
@@ -202,6 +204,7 @@ void LayerSheet::addClasses(QVBoxLayout& page) {
   auto* const classes = button(tr("Make C&lasses…"), "pushButton_Classes", this);
   classes->setToolTip(tr("Make classes of the layer by the values of a field"));
   auto* const row = new QHBoxLayout;
+  ofFeatures_.push_back(classes);
   row->addWidget(classes);
   row->addWidget(tests_.back(), 1);
   page.addLayout(row);
@@ -253,8 +256,16 @@ SysUtility::_ptr_t<SysCarto::VectorLayer> LayerSheet::vector() const {
   return SysUtility::ptr_cast<SysCarto::VectorLayer>(row_.layer);
 }
 
+// What a raster has of it, too.
+SysCarto::SourceSettings LayerSheet::source() const {
+  if (auto const features = vector()) return features->source();
+  auto const raster = SysUtility::ptr_cast<SysCarto::RasterLayer>(row_.layer);
+  auto const own = raster ? raster->source() : SysCarto::RasterSourceSettings();
+  return {own.file, own.layer, {}, own.coordinateSystem};
+}
+
 QString LayerSheet::folder() const {
-  return QFileInfo(session_.path().isEmpty() ? vector()->source().file : session_.path()).absolutePath();
+  return QFileInfo(session_.path().isEmpty() ? source().file : session_.path()).absolutePath();
 }
 
 QVector<SheetField> LayerSheet::fields() { return SysCarto::Editable::fields(session_.document(), things_).value(0); }
@@ -280,6 +291,15 @@ QString LayerSheet::set(QStringList const& path, SysUtility::NewValue const& val
   return problem;
 }
 
+// A raster has no tables and labels, and nothing to count.
+void LayerSheet::showFitting() {
+  bool const areFeatures = static_cast<bool>(vector());
+  for (size_t i = 0; i < tabs_.size(); ++i)
+    pages_->setTabVisible(static_cast<int>(i), areFeatures || tabs_[i].sheet->model().rowCount() > 0);
+  for (QWidget* const widget : ofFeatures_) widget->setVisible(areFeatures);
+  for (TestBar* const test : tests_) test->setVisible(areFeatures);
+}
+
 // The layer may have gone, and then there is nothing to show.
 void LayerSheet::follow() {
   if (!row_.layer) return;
@@ -291,7 +311,8 @@ void LayerSheet::follow() {
   }
   setWindowTitle(tr("Layer “%1”").arg(row_.layer->GetName()));
   opacity_->setPercent(SysCarto::LayerHost::effects(*row_.layer).opacityPercent);
-  facts_->show(vector()->source());
+  facts_->show(source());
+  showFitting();
   QJsonObject const now = SysUtility::wholeObject(fields());
   if (now != tested_) forgetCounts();
   tested_ = now;

@@ -16,6 +16,7 @@ class PropertySheet;
 }  // namespace SysAdapterUI
 namespace SysCarto {
 class ClassCounts;
+struct SourceSettings;
 class VectorLayer;
 }  // namespace SysCarto
 class DocumentSession;
@@ -83,6 +84,8 @@ private:
   void join(int row);
   static QString telling(SysCarto::ClassCounts const& counts, SysAdapterUI::EntryTable& table);
   SysUtility::_ptr_t<SysCarto::VectorLayer> vector() const;
+  SysCarto::SourceSettings source() const;
+  void showFitting();
   QString folder() const;
   void tell(QStringList const& sentences, bool isProblem);
 
@@ -96,7 +99,8 @@ private:
   OpacitySlider* opacity_ = nullptr;
   QLabel* fileSystem_ = nullptr;
   std::vector<TestBar*> tests_;
-  QJsonObject tested_;  // the layer as it was when something was counted
+  std::vector<QWidget*> ofFeatures_;  // hidden for other layers, as are the tests
+  QJsonObject tested_;                // the layer as it was when something was counted
   QLabel* const told_;
   QTimer soon_;
 };

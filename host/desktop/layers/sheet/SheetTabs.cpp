@@ -14,9 +14,11 @@ struct Place {
   Tab tab;
 };
 constexpr Place places[] = {
-    {"source", Source},    {"source/joins", Tables}, {"source/coordinateSystem", System},
-    {"renderer", Symbols}, {"labels", Labels},       {"obstacle", Labels},
-    {"minScale", Scales},  {"maxScale", Scales},     {"credits", Credits},
+    {"source", Source},      {"source/joins", Tables}, {"source/coordinateSystem", System},
+    {"renderer", Symbols},   {"labels", Labels},       {"obstacle", Labels},
+    {"minScale", Scales},    {"maxScale", Scales},     {"credits", Credits},
+    {"resampling", Symbols}, {"brightness", Symbols},  {"contrast", Symbols},
+    {"saturation", Symbols},
 };
 
 // The longest path of the table in which a field lies.

@@ -1,0 +1,408 @@
+#include "RasterSource.h"
+
+#include "host/SysCarto/layers/DataSource.h"
+#include "host/SysCarto/layers/DatabaseBounds.h"
+#include "host/SysCarto/projection/CoordinateSystem.h"
+#include "host/SysCarto/projection/GdalErrors.h"
+#include "host/SysCarto/projection/Offline.h"
+#include "host/SysUtility/FileReach.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cpl_conv.h>
+#include <cpl_string.h>
+#include <gdal_priv.h>
+#include <ogr_spatialref.h>
+
+#include <algorithm>
+#include <cmath>
+#include <mutex>
+
+namespace SysCarto {
+
+namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(RasterSource)
+};
+
+constexpr int maxSide = 20000000, maxBands = 10000;
+constexpr qint64 maxBlockBytes = 256 * 1024 * 1024;  // what a file is stored in, which is read as a whole
+constexpr qint64 cacheBytes = 64 * 1024 * 1024;
+constexpr double enough = 1.2;  // an overview may be coarser than a picture by this
+constexpr int sampleSide = 512, sampleWindows = 16, sampleWindowSide = 32;
+constexpr qint64 smallRaster = 4000000;  // pixels, all of which are looked at
+constexpr double farthest = 1e15;
+
+// clang-format off
+QVector<DataFormat> const formats = {
+    {"GTiff",       "GeoTIFF",    "tif tiff"},
+    {"JP2OpenJPEG", "JPEG 2000",  "jp2 j2k"},
+    {"PNG",         "PNG",        "png"},
+    {"JPEG",        "JPEG",       "jpg jpeg"},
+    {"GPKG",        "GeoPackage", "gpkg"},
+    {"MBTiles",     "MBTiles",    "mbtiles"},
+};
+// clang-format on
+
+// What GDAL would look for beside a file is switched off but for world files, and overviews and masks that are TIFFs:
+// a description of another kind (.aux.xml) names files of its own.
+class OwnFilesOnly {
+public:
+  OwnFilesOnly() { set("NO"); }
+  ~OwnFilesOnly() { set(nullptr); }
+  OwnFilesOnly(OwnFilesOnly const&) = delete;
+  OwnFilesOnly& operator=(OwnFilesOnly const&) = delete;
+
+private:
+  static void set(char const* value) { CPLSetThreadLocalConfigOption("GDAL_PAM_ENABLED", value); }
+};
+
+void prepareGdal() {
+  stayOffline();
+  static std::once_flag once;
+  std::call_once(once, [] {
+    if (!GetGDALDriverManager()->GetDriverByName("GTiff")) GDALAllRegister();
+    GDALSetCacheMax64(cacheBytes);
+    CPLSetConfigOption("OGR_SQLITE_STATIC_VIRTUAL_OGR", "NO");  // a table of a database that is another file
+  });
+}
+
+bool hasSuffix(QString const& path, QStringList const& suffixes) {
+  return suffixes.contains(QFileInfo(path).suffix(), Qt::CaseInsensitive);
+}
+
+bool isTiff(QString const& path) {
+  QFile file(path);
+  QByteArray const head = file.open(QIODevice::ReadOnly) ? file.read(4) : QByteArray();
+  return head.startsWith("II*") || head.startsWith("II+") || head.startsWith(QByteArray("MM\0*", 4)) ||
+         head.startsWith(QByteArray("MM\0+", 4));
+}
+
+// The names of the file itself and of those beside it that may be opened with it.
+QStringList ownNamesOf(QString const& path) {
+  QFileInfo const file(path);
+  QString const name = file.fileName(), suffix = file.suffix();
+  QStringList const worlds{suffix.left(1) + suffix.right(1) + QLatin1Char('w'), suffix + QLatin1Char('w'),
+                           QStringLiteral("wld")};
+  QStringList allowed{name};
+  for (QString const& other : file.dir().entryList(QDir::Files)) {
+    bool const isWorld = other.startsWith(file.completeBaseName() + QLatin1Char('.')) && hasSuffix(other, worlds) &&
+                         other.size() == file.completeBaseName().size() + 1 + QFileInfo(other).suffix().size();
+    bool const isPart = other == name + QLatin1String(".ovr") || other == name + QLatin1String(".msk");
+    bool const isOwn = isPart && isTiff(file.dir().filePath(other)) &&
+                       file.dir().entryList({other + QLatin1String(".*")}, QDir::Files).isEmpty();
+    if (isWorld || isOwn) allowed << other;
+  }
+  return allowed;
+}
+
+QString refusalOf(QString const& path) {
+  if (!DataSource::refusal(path).isEmpty()) return DataSource::refusal(path);
+  QFileInfo const file(path);
+  QString reason = SysUtility::FileReach::refusal(path, SysUtility::FileReach::With::Companions);
+  if (!reason.isEmpty()) return Texts::tr("The raster “%1” can't be opened: %2.").arg(path, reason);
+  if (!file.exists())
+    reason = Texts::tr("it does not exist; put it there, or name another file in the layer's source");
+  else if (!file.isFile())
+    reason = Texts::tr("it is not a file; name one in the layer's source");
+  else if (file.size() == 0)
+    reason = Texts::tr("it is empty");
+  else if (hasSuffix(path, {QStringLiteral("vrt")}))
+    reason = Texts::tr("it only refers to other files; make one file of it, as by gdal_translate");
+  return reason.isEmpty() ? reason : Texts::tr("The raster “%1” can't be opened: %2.").arg(path, reason);
+}
+
+QString formatNames() {
+  QStringList names;
+  for (DataFormat const& format : formats)
+    if (GetGDALDriverManager()->GetDriverByName(format.driver)) names << QString::fromUtf8(format.name);
+  return names.join(QLatin1String(", "));
+}
+
+DatasetPointer openDataset(QString const& path, QString const& table) {
+  std::vector<char const*> drivers;
+  for (DataFormat const& format : formats) drivers.push_back(format.driver);
+  drivers.push_back(nullptr);
+  CPLStringList siblings, options;
+  for (QString const& name : ownNamesOf(path)) siblings.AddString(name.toUtf8().constData());
+  if (hasSuffix(path, {QStringLiteral("tif"), QStringLiteral("tiff")}))
+    options.SetNameValue("GEOREF_SOURCES", "INTERNAL,WORLDFILE");
+  if (!table.isEmpty()) options.SetNameValue("TABLE", table.toUtf8().constData());
+  QByteArray const name = QFileInfo(path).absoluteFilePath().toUtf8();
+  DatabaseBounds const bounds(path);
+  return DatasetPointer(GDALDataset::Open(name.constData(), GDAL_OF_RASTER | GDAL_OF_READONLY, drivers.data(),
+                                          options.List(), siblings.List()));
+}
+
+RasterBand describe(GDALRasterBand& band) {
+  RasterBand result;
+  switch (band.GetColorInterpretation()) {
+    case GCI_RedBand: result.meaning = RasterBand::Meaning::Red; break;
+    case GCI_GreenBand: result.meaning = RasterBand::Meaning::Green; break;
+    case GCI_BlueBand: result.meaning = RasterBand::Meaning::Blue; break;
+    case GCI_AlphaBand: result.meaning = RasterBand::Meaning::Alpha; break;
+    case GCI_PaletteIndex: result.meaning = RasterBand::Meaning::Palette; break;
+    default: break;
+  }
+  result.isByte = band.GetRasterDataType() == GDT_Byte;
+  int isGiven = 0;
+  double const factor = band.GetScale(&isGiven);
+  if (isGiven && std::isfinite(factor) && factor != 0) result.factor = factor;
+  double const offset = band.GetOffset(&isGiven);
+  if (isGiven && std::isfinite(offset)) result.offset = offset;
+  return result;
+}
+
+QString readBlock(GDALRasterBand& band) {
+  int width, height;
+  band.GetBlockSize(&width, &height);
+  GdalErrors const errors;
+  std::vector<char> block(size_t(width) * size_t(height) * size_t(GDALGetDataTypeSizeBytes(band.GetRasterDataType())));
+  int const column = (band.GetXSize() - 1) / width, row = (band.GetYSize() - 1) / height;
+  if (band.ReadBlock(column, row, block.data()) == CE_None && !errors.hasFailure()) return {};
+  return errors.reason().isEmpty() ? Texts::tr("a part of it is missing") : errors.reason();
+}
+
+}  // namespace
+
+QVector<DataFormat> const& rasterFormats() { return formats; }
+
+bool isRasterFileName(QString const& path) {
+  bool const isPicture = hasSuffix(path, {QStringLiteral("png"), QStringLiteral("jpg"), QStringLiteral("jpeg")});
+  if (isPicture) return ownNamesOf(path).size() > 1;
+  return std::any_of(formats.begin(), formats.end(), [&](DataFormat const& format) {
+    return hasSuffix(path, QString::fromLatin1(format.suffixes).split(QLatin1Char(' ')));
+  });
+}
+
+QStringList RasterSource::companionsOf(QString const& path) {
+  QStringList files;
+  for (QString const& name : ownNamesOf(path).mid(1)) files << QFileInfo(path).dir().absoluteFilePath(name);
+  return files;
+}
+
+SysGeometry::Box RasterSource::extent() const {
+  QRectF const whole = toWorld_.mapRect(QRectF(QPointF(0, 0), QSizeF(size_)));
+  return {whole.left(), whole.top(), whole.right(), whole.bottom()};
+}
+
+RasterSource::RasterSource(DatasetPointer dataset) : dataset_(std::move(dataset)) {}
+RasterSource::~RasterSource() = default;
+
+std::unique_ptr<RasterSource> RasterSource::open(RasterSourceSettings const& settings, QString& error) {
+  prepareGdal();
+  error = refusalOf(settings.file);
+  if (!error.isEmpty()) return nullptr;
+  OwnFilesOnly const own;
+  GdalErrors const errors;
+  std::unique_ptr<RasterSource> source(new RasterSource(openDataset(settings.file, settings.layer)));
+  bool const isOneOfSeveral = source->dataset_ && source->dataset_->GetRasterCount() == 0 && settings.layer.isEmpty();
+  if (QStringList const tables = isOneOfSeveral ? tablesOf(settings.file) : QStringList(); !tables.isEmpty())
+    source->dataset_ = openDataset(settings.file, tables.first());
+  QString reason;
+  if (!source->dataset_) {
+    reason = Texts::tr("its format is none of those that are known (%1)").arg(formatNames());
+    if (errors.hasFailure()) reason += QLatin1String(" (") + errors.reason() + QLatin1Char(')');
+  } else {
+    reason = source->take(settings);
+  }
+  if (reason.isEmpty()) return source;
+  error = Texts::tr("The raster “%1” can't be opened: %2.").arg(settings.file, reason);
+  return nullptr;
+}
+
+QString RasterSource::take(RasterSourceSettings const& settings) {
+  GDALDataset& dataset = *dataset_;
+  size_ = {dataset.GetRasterXSize(), dataset.GetRasterYSize()};
+  int const count = dataset.GetRasterCount();
+  if (count == 0 || size_.isEmpty()) return Texts::tr("it holds no pixels");
+  if (std::max(size_.width(), size_.height()) > maxSide || count > maxBands)
+    return Texts::tr("it has %1 × %2 pixels in %3 bands; no more than %4 a side in %5 bands are drawn")
+        .arg(size_.width())
+        .arg(size_.height())
+        .arg(count)
+        .arg(maxSide)
+        .arg(maxBands);
+  double world[6];
+  constexpr double nowhere[] = {0, 1, 0, 0, 0, 1};
+  if (dataset.GetGeoTransform(world) != CE_None || std::equal(world, world + 6, nowhere))
+    return Texts::tr("it does not say where it lies; give it coordinates, as by a world file beside it");
+  QTransform const toWorld(world[1], world[4], world[2], world[5], world[0], world[3]);
+  QPointF const corner = toWorld.map(QPointF(size_.width(), size_.height()));
+  bool const isPlaced = toWorld.isInvertible() && std::abs(world[0]) < farthest && std::abs(world[3]) < farthest &&
+                        std::abs(corner.x()) < farthest && std::abs(corner.y()) < farthest;
+  if (!isPlaced) return Texts::tr("its coordinates make no sense; give it others, as by gdal_edit");
+  toWorld_ = toWorld;
+  OGRSpatialReference const* const own = dataset.GetSpatialRef();
+  if (!settings.coordinateSystem.isEmpty())
+    system_ = makeCoordinateSystem(settings.coordinateSystem);
+  else if (own && (own->IsGeographic() || own->IsProjected()))
+    system_.reset(own->Clone());
+  if (system_ && namesPath(*system_))
+    return Texts::tr(
+        "its coordinate system names a file by its path, which is not opened; give another one in the source's field "
+        "“coordinateSystem”");
+  if (system_) system_->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+  for (int i = 1; i <= count; ++i) bands_.push_back(describe(*dataset.GetRasterBand(i)));
+  noData_ = settings.noData;
+  return checkEnds();
+}
+
+// A file that was cut off lacks what was written last: the end of the pixels or of an overview. Of formats that are
+// read from their beginning this would be all of it.
+QString RasterSource::checkEnds() const {
+  GDALRasterBand& band = *dataset_->GetRasterBand(1);
+  int width, height;
+  band.GetBlockSize(&width, &height);
+  qint64 const bytes = qint64(width) * height * GDALGetDataTypeSizeBytes(band.GetRasterDataType());
+  if (bytes > maxBlockBytes)
+    return Texts::tr("it is stored in pieces of %1 MB; save it in tiles, as by gdal_translate -co TILED=YES")
+        .arg(bytes / 1024 / 1024);
+  if (!EQUAL(dataset_->GetDriverName(), "GTiff")) return {};
+  QString problem = readBlock(band);
+  for (int i = 0; i < band.GetOverviewCount() && problem.isEmpty(); ++i)
+    problem = band.GetOverview(i) ? readBlock(*band.GetOverview(i)) : Texts::tr("a part of it is missing");
+  return problem;
+}
+
+QString RasterSource::format() const {
+  for (DataFormat const& format : formats)
+    if (EQUAL(dataset_->GetDriverName(), format.driver)) return QString::fromUtf8(format.name);
+  return QString::fromUtf8(dataset_->GetDriverName());
+}
+
+QVector<QColor> RasterSource::palette(int band) const {
+  QVector<QColor> colors;
+  if (band < 1 || band > dataset_->GetRasterCount()) return colors;
+  GDALColorTable const* const table = dataset_->GetRasterBand(band)->GetColorTable();
+  for (int i = 0; table && i < table->GetColorEntryCount(); ++i) {
+    GDALColorEntry entry;
+    table->GetColorEntryAsRGB(i, &entry);
+    colors << QColor(entry.c1 & 255, entry.c2 & 255, entry.c3 & 255, entry.c4 & 255);
+  }
+  return colors;
+}
+
+QStringList RasterSource::tablesOf(QString const& path) {
+  QStringList tables;
+  prepareGdal();
+  if (!hasSuffix(path, {QStringLiteral("gpkg")}) || !refusalOf(path).isEmpty()) return tables;
+  OwnFilesOnly const own;
+  GdalErrors const errors;
+  DatasetPointer const dataset = openDataset(path, QString());
+  if (!dataset) return tables;
+  char** const found = dataset->GetMetadata("SUBDATASETS");
+  for (int i = 1; char const* name = CSLFetchNameValue(found, CPLSPrintf("SUBDATASET_%d_NAME", i)); ++i)
+    tables << QString::fromUtf8(name).section(QLatin1Char(':'), -1);
+  if (tables.isEmpty() && dataset->GetRasterCount() > 0) tables << QString();
+  return tables;
+}
+
+namespace {
+
+RasterLevel levelOf(QSize const& whole, GDALRasterBand* overview, int number, int reduction) {
+  RasterLevel level;
+  level.overview = number;
+  level.reduction = reduction;
+  QSize const own = overview ? QSize(overview->GetXSize(), overview->GetYSize()) : whole;
+  level.size = {std::max(1, own.width() / reduction), std::max(1, own.height() / reduction)};
+  level.columns = double(whole.width()) / own.width() * reduction;
+  level.rows = double(whole.height()) / own.height() * reduction;
+  return level;
+}
+
+}  // namespace
+
+RasterLevel RasterSource::levelFor(double pixels) const {
+  GDALRasterBand& band = *dataset_->GetRasterBand(1);
+  RasterLevel best = levelOf(size_, nullptr, -1, 1);
+  for (int i = 0; i < band.GetOverviewCount(); ++i) {
+    RasterLevel const level = levelOf(size_, band.GetOverview(i), i, 1);
+    if (level.columns <= pixels * enough && level.columns > best.columns) best = level;
+  }
+  while (best.columns * 2 <= pixels * enough && std::min(best.size.width(), best.size.height()) > 1)
+    best = levelOf(size_, best.overview < 0 ? nullptr : band.GetOverview(best.overview), best.overview,
+                   best.reduction * 2);
+  return best;
+}
+
+RasterLevel RasterSource::coarser(RasterLevel const& level) const { return levelFor(level.columns * 2); }
+
+GDALRasterBand* RasterSource::bandOf(RasterLevel const& level, int band) const {
+  GDALRasterBand* const own = dataset_->GetRasterBand(band);
+  return level.overview < 0 ? own : own->GetOverview(level.overview);
+}
+
+QString RasterSource::read(RasterLevel const& level, QRect const& window, std::vector<int> const& bands, bool takesMean,
+                           RasterPixels& pixels) const {
+  OwnFilesOnly const own;
+  GdalErrors const errors;
+  size_t const count = size_t(window.width()) * size_t(window.height());
+  int const step = level.reduction;
+  GDALRasterIOExtraArg how;
+  INIT_RASTERIO_EXTRA_ARG(how);
+  how.eResampleAlg = takesMean && step > 1 ? GRIORA_Average : GRIORA_NearestNeighbour;
+  auto const fill = [&](GDALRasterBand* band, void* values, GDALDataType type) {
+    return band &&
+           band->RasterIO(GF_Read, window.x() * step, window.y() * step, window.width() * step, window.height() * step,
+                          values, window.width(), window.height(), type, 0, 0, &how) == CE_None;
+  };
+  pixels.window = window;
+  pixels.bands.assign(bands.size(), std::vector<float>(count));
+  pixels.cover.assign(count, 255);
+  std::vector<unsigned char> mask(count);
+  bool isRead = true;
+  for (size_t i = 0; i < bands.size() && isRead; ++i) {
+    GDALRasterBand* const band = bandOf(level, bands[i]);
+    std::vector<float>& values = pixels.bands[i];
+    isRead = fill(band, values.data(), GDT_Float32);
+    bool const hasMask = isRead && (band->GetMaskFlags() & GMF_ALL_VALID) == 0;
+    if (hasMask) isRead = fill(band->GetMaskBand(), mask.data(), GDT_Byte);
+    RasterBand const& meaning = bands_[size_t(bands[i]) - 1];
+    bool const isPlain = meaning.factor == 1 && meaning.offset == 0 && noData_.isEmpty();
+    for (size_t k = 0; k < count; ++k) {
+      if (isPlain && !hasMask && std::isfinite(values[k])) continue;
+      if (hasMask) pixels.cover[k] = std::min(pixels.cover[k], mask[k]);
+      bool const isMissing = !std::isfinite(values[k]) ||
+                             std::any_of(noData_.begin(), noData_.end(),
+                                         [&](double value) { return values[k] == static_cast<float>(value); });
+      if (isMissing) pixels.cover[k] = 0;
+      values[k] = isMissing ? 0 : static_cast<float>(values[k] * meaning.factor + meaning.offset);
+    }
+  }
+  if (isRead && !errors.hasFailure()) return {};
+  return errors.reason().isEmpty() ? Texts::tr("a part of it is missing") : errors.reason();
+}
+
+// A coarse overview where there is one; else small windows here and there, since all of a large file takes minutes.
+std::vector<float> RasterSource::sample(int band) const {
+  std::vector<float> values;
+  auto const add = [&](RasterLevel const& level, QRect const& window) {
+    RasterPixels pixels;
+    if (!read(level, window, {band}, false, pixels).isEmpty()) return;
+    for (size_t i = 0; i < pixels.cover.size(); ++i)
+      if (pixels.cover[i] > 0) values.push_back(pixels.bands[0][i]);
+  };
+  bool const isSmall = qint64(size_.width()) * size_.height() <= smallRaster;
+  RasterLevel level = levelFor(isSmall ? 0 : double(std::max(size_.width(), size_.height())) / sampleSide);
+  if (level.reduction == 1) {
+    add(level, QRect(QPoint(0, 0), level.size));
+    return values;
+  }
+  level = levelFor(0);
+  for (int row = 0; row < sampleWindows; ++row)
+    for (int column = 0; column < sampleWindows; ++column) {
+      auto const place = [](int side, int i) {
+        return static_cast<int>(std::max<qint64>(0, qint64(side - sampleWindowSide) * i / (sampleWindows - 1)));
+      };
+      QRect const window(place(size_.width(), column), place(size_.height(), row), sampleWindowSide, sampleWindowSide);
+      add(level, window & QRect(QPoint(0, 0), size_));
+    }
+  return values;
+}
+
+}  // namespace SysCarto
