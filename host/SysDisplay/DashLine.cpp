@@ -1,6 +1,7 @@
 #include "DashLine.h"
 
 #include "host/SysDisplay/DevicePath.h"
+#include "host/SysDisplay/DrawingBudget.h"
 
 #include <algorithm>
 #include <cmath>
@@ -97,7 +98,11 @@ private:
 void dashLine(std::vector<QPointF> const& line, bool closed, Dashes const& dashes, QRectF const& area, PointRuns& out) {
   if (line.size() < 2 || dashes.pattern.empty()) return;
   Dasher dasher(dashes, area, out);
-  for (size_t i = 1; i < line.size(); ++i) dasher.segment(line[i - 1], line[i]);
+  for (size_t i = 1; i < line.size() && !DrawingBudget::isSpent(); ++i) {
+    size_t const before = out.points.size();
+    dasher.segment(line[i - 1], line[i]);
+    DrawingBudget::spendOnVertices(static_cast<double>(out.points.size() - before));
+  }
   if (closed) dasher.segment(line.back(), line.front());
   dasher.finish();
 }

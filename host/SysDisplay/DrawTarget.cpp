@@ -1,6 +1,7 @@
 #include "DrawTarget.h"
 
 #include "DisplayTransformationHost.h"
+#include "DrawingBudget.h"
 
 #include <QPainter>
 
@@ -31,6 +32,22 @@ DrawTarget::DrawTarget(QPainter& painter, QTransform const& toDevice, double pix
 DrawTarget::~DrawTarget() {
   fills_.finish();
   painter_.restore();
+}
+
+void DrawTarget::fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule) {
+  if (DrawingBudget::isSpent()) return;
+  if (canvas_) {
+    DrawingBudget::spendOnVertices(static_cast<double>(rings.points.size()));
+    return canvas_->fill(rings, color, rule);
+  }
+  DrawingBudget::spendOnFill(rings, area_);
+  fills_.add(rings, color, rule);
+}
+
+void DrawTarget::fill(PointRuns const& rings, std::shared_ptr<Texture const> const& texture, Qt::FillRule rule) {
+  if (DrawingBudget::isSpent()) return;
+  DrawingBudget::spendOnFill(rings, area_);
+  fills_.add(rings, texture, rule);
 }
 
 }  // namespace SysDisplay

@@ -32,17 +32,10 @@ public:
   DrawTarget& operator=(DrawTarget const&) = delete;
 
   /// Fills the runs as rings, by and by.
-  void fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule) {
-    if (canvas_)
-      canvas_->fill(rings, color, rule);
-    else
-      fills_.add(rings, color, rule);
-  }
+  void fill(PointRuns const& rings, QColor const& color, Qt::FillRule rule);
 
   /// The same with pixels in place of a colour; not on a canvas.
-  void fill(PointRuns const& rings, std::shared_ptr<Texture const> const& texture, Qt::FillRule rule) {
-    fills_.add(rings, texture, rule);
-  }
+  void fill(PointRuns const& rings, std::shared_ptr<Texture const> const& texture, Qt::FillRule rule);
   QImage::Format textureFormat() const { return fills_.textureFormat(); }
 
   /// When it returns, all fills so far are drawn.

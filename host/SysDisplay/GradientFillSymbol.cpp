@@ -1,6 +1,7 @@
 #include "GradientFillSymbol.h"
 
 #include "host/SysDisplay/DevicePath.h"
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysDisplay/FillDrawing.h"
 
 #include <QImage>
@@ -16,6 +17,8 @@ using SysGeometry::Box;
 using SysUtility::_ptr_t;
 
 namespace {
+
+constexpr double pixelCost = 5;
 
 constexpr int shades = 1024;
 constexpr qint64 maxWaitingPixels = 4 * 1024 * 1024;
@@ -93,7 +96,8 @@ public:
     }
     QRect const area = target.area().toAlignedRect();
     QRect const seen = rings.bounds().intersected(QRectF(area)).toAlignedRect() & area;
-    if (seen.isEmpty()) return;
+    if (seen.isEmpty() || DrawingBudget::isSpent()) return;
+    DrawingBudget::spend(pixelCost * seen.width() * seen.height());
     QImage const image = drawn(seen, onDevice(target.toDevice(), shape));
     if (image.isNull()) return;
     target.fill(rings,

@@ -1,6 +1,7 @@
 #include "Hatch.h"
 
 #include "host/SysDisplay/DrawTarget.h"
+#include "host/SysDisplay/DrawingBudget.h"
 
 #include <algorithm>
 #include <cmath>
@@ -166,9 +167,11 @@ void fillHatch(DrawTarget& target, PointRuns const& lines, QColor const& color, 
 
 void hatchRings(PointRuns const& rings, HatchDirection direction, double spacingPx, double widthPx, QRectF const& area,
                 QPointF const& anchor, PointRuns& out) {
+  if (DrawingBudget::isSpent()) return;
   Hatcher hatcher(frames[static_cast<int>(direction)], spacingPx, widthPx, area, anchor);
   hatcher.cross(rings);
   hatcher.collect(out);
+  DrawingBudget::spendOnVertices(static_cast<double>(out.points.size()));
 }
 
 }  // namespace SysDisplay

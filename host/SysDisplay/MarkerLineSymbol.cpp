@@ -1,5 +1,6 @@
 #include "MarkerLineSymbol.h"
 
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysDisplay/GeometryParts.h"
 #include "host/SysDisplay/MarkerPainter.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
@@ -22,6 +23,7 @@ using SysUtility::ptr_cast;
 namespace {
 
 constexpr double nearestMarkersPx = 1;
+constexpr double verticesOfAMarker = 4;  // at least
 constexpr double degreesPerRadian = 180 / 3.14159265358979323846;
 
 // Markers of one line are turned in steps of a degree, and so many pixels of them are kept drawn at most.
@@ -121,7 +123,8 @@ public:
   }
 
   void draw(Box const&) override {
-    for (Place const& place : places_) drawingAt(place.degrees).drawAt(target_, place.position);
+    for (Place const& place : places_)
+      if (!DrawingBudget::isSpent()) drawingAt(place.degrees).drawAt(target_, place.position);
     places_.clear();
   }
 
@@ -149,7 +152,8 @@ private:
       double const end = isEnd ? range.to + rounding : std::min(range.to, course.to(i) - rounding);
       double number = std::max(0.0, std::ceil((range.from - rounding - firstPx_) / intervalPx_));
       // Beyond what is counted one by one there are no markers.
-      for (; firstPx_ + number * intervalPx_ <= end && number + 1 > number; ++number) {
+      for (; firstPx_ + number * intervalPx_ <= end && number + 1 > number && !DrawingBudget::isSpent(); ++number) {
+        DrawingBudget::spendOnVertices(verticesOfAMarker);
         double const length = std::max(firstPx_ + number * intervalPx_, course.from(i));
         places_.push_back({course.at(length, i), degreesAt(course, length, i)});
       }

@@ -1,5 +1,6 @@
 #include "MarkerPainter.h"
 
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysDisplay/GeometryParts.h"
 
 #include <cmath>
@@ -13,8 +14,10 @@ using SysUtility::_ptr_t;
 MarkerDrawing::~MarkerDrawing() = default;
 
 void MarkerDrawing::drawAt(DrawTarget& target, QPointF const& position) {
+  if (DrawingBudget::isSpent()) return;
   VectorCanvas* const canvas = target.canvas();
   if (!canvas) return draw(target, position);
+  DrawingBudget::spendOnVertices(1);
   if (canvas != canvas_) {
     canvas->beginSymbol(bounds().adjusted(-1, -1, 1, 1));
     {

@@ -1,5 +1,7 @@
 #include "PatternFilling.h"
 
+#include "host/SysDisplay/DrawingBudget.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -14,6 +16,7 @@ using SysGeometry::Box;
 namespace {
 
 constexpr int cellPx = 128;
+constexpr double pixelCost = 20;
 
 class PatternFilling final : public Filling {
 public:
@@ -49,6 +52,8 @@ private:
     std::vector<bool>::reference isDrawn = isDrawn_[static_cast<size_t>(row) * columns_ + column];
     if (isDrawn) return;
     isDrawn = true;
+    if (DrawingBudget::isSpent()) return;
+    DrawingBudget::spend(pixelCost * cellPx * cellPx);
     QRect const cell =
         QRect(area_.left() + column * cellPx, area_.top() + row * cellPx, cellPx, cellPx).intersected(area_);
     QImage const drawn = pattern_->drawn(cell, target.anchor()).convertToFormat(target.textureFormat());

@@ -1,6 +1,7 @@
 #include "StrokeDrawing.h"
 
 #include "host/SysDisplay/DevicePath.h"
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysDisplay/GeometryParts.h"
 
 #include <SysDisplay/SimpleLineSymbol.h>
@@ -109,6 +110,7 @@ private:
 
   void add(WorldRun const& run, bool closed) {
     // Where a dash begins, and how far a line moved to its side reaches, depends on what comes before.
+    if (DrawingBudget::isSpent()) return;
     bool const needsAll = !dashes_.pattern.empty() || offsetPx_ != 0;
     toDevicePoints(target_.toDevice(), needsAll ? WorldRun{run.xy, run.count} : run, area_, thinPx_, line_);
     if (!line_.empty()) stroke(courseOf(line_, closed, offsetPx_, moved_), closed);
@@ -123,12 +125,15 @@ private:
       return addDashed(line, closed);
     else
       dashLine(line, closed, dashes_, area_, pieces_);
+    DrawingBudget::spendOnVertices(static_cast<double>(pieces_.points.size()));
     if (target_.canvas()) return (wholeRing ? rings_ : lines_).append(pieces_);
-    for (int i = 0; i < pieces_.count(); ++i) {
+    for (int i = 0; i < pieces_.count() && !DrawingBudget::isSpent(); ++i) {
+      size_t const before = outline_.points.size();
       if (wholeRing)
         stroker_.strokeClosed(pieces_.run(i), pieces_.size(i), outline_);
       else
         stroker_.strokeOpen(pieces_.run(i), pieces_.size(i), outline_);
+      DrawingBudget::spendOnVertices(static_cast<double>(outline_.points.size() - before));
     }
   }
 

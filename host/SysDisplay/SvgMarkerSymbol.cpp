@@ -1,5 +1,7 @@
 #include "SvgMarkerSymbol.h"
 
+#include "host/SysDisplay/DrawingBudget.h"
+
 #include <QImage>
 #include <QMap>
 #include <QPainter>
@@ -43,6 +45,7 @@ public:
     QPoint const place(static_cast<int>(wholeX), static_cast<int>(wholeY));
     QRect const seen = covered() & target.area().toAlignedRect().translated(-place);
     if (seen.isEmpty()) return;
+    DrawingBudget::spend(double(seen.width()) * seen.height());
     for (cell.row = cellOf(seen.top()); cell.row <= cellOf(seen.bottom()); ++cell.row)
       for (cell.column = cellOf(seen.left()); cell.column <= cellOf(seen.right()); ++cell.column)
         target.painter().drawImage(place + area(cell).topLeft(), image(cell));

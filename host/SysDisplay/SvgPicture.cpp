@@ -1,5 +1,7 @@
 #include "SvgPicture.h"
 
+#include "host/SysDisplay/DrawTarget.h"
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysDisplay/SvgCheck.h"
 
 #include <QCoreApplication>
@@ -29,7 +31,17 @@ std::shared_ptr<SvgPicture> SvgPicture::of(QByteArray const& svg, QString& probl
 
 QByteArray const& SvgPicture::svg() const { return d->svg; }
 QRectF SvgPicture::viewBox() const { return d->renderer.viewBoxF(); }
-void SvgPicture::render(QPainter& painter, QRectF const& rectangle) { d->renderer.render(&painter, rectangle); }
+void SvgPicture::render(QPainter& painter, QRectF const& rectangle) {
+  spendOnSvg(d->svg.size(), painter);
+  if (!DrawingBudget::isSpent()) d->renderer.render(&painter, rectangle);
+}
+
+void spendOnSvg(int bytes, QPainter const& painter) {
+  constexpr double bytesOfAPart = 50, partsAtLeast = 5;
+  QRectF const area = reachableArea(painter);
+  DrawingBudget::spend((partsAtLeast + bytes / bytesOfAPart) * area.width() * area.height());
+  if (VectorCanvas::of(painter)) DrawingBudget::spendOnVertices(bytes / bytesOfAPart);
+}
 
 QImage const& SvgPicture::drawn(QSize const& size) {
   if (d->drawn.size() == size) return d->drawn;
@@ -38,7 +50,8 @@ QImage const& SvgPicture::drawn(QSize const& size) {
   QPainter painter(&d->drawn);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  render(painter, QRectF(d->drawn.rect()));
+  spendOnSvg(d->svg.size(), painter);
+  d->renderer.render(&painter, QRectF(d->drawn.rect()));  // whatever is left to spend: it is kept
   return d->drawn;
 }
 

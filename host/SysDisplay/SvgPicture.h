@@ -13,6 +13,9 @@ class QPainter;
 
 namespace SysDisplay {
 
+/// Counts what it costs to draw an SVG of that length once on all that a painter reaches.
+SYSDISPLAY_EXPORT void spendOnSvg(int bytes, QPainter const& painter);
+
 /// An SVG that can be drawn. It never changes, so that symbols share it. Belongs to one thread.
 class SYSDISPLAY_EXPORT SvgPicture {
 public:

@@ -2,6 +2,7 @@
 
 #include "host/SysDisplay/DevicePath.h"
 #include "host/SysDisplay/DrawTarget.h"
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysDisplay/TextShaper.h"
 
 #include <algorithm>
@@ -161,7 +162,7 @@ double TextSymbol::minWidth(QString const& text) const {
 
 void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angleDegrees, QString const& text) const {
   double const emPx = format_.size * target.pixelsPerPoint();
-  if (emPx <= 0 || !std::isfinite(position.x()) || !std::isfinite(position.y())) return;
+  if (DrawingBudget::isSpent() || emPx <= 0 || !std::isfinite(position.x()) || !std::isfinite(position.y())) return;
   auto const shaped = shapedText(format_, fontKey_, text);
   Block const block(format_, *shaped);
   QRectF const box = inPoints(block.bounds(), format_);
@@ -176,6 +177,7 @@ void TextSymbol::drawAt(DrawTarget& target, QPointF const& position, double angl
             points * QTransform::fromTranslate(position.x(), position.y()));
   }
   QTransform const toPixels = QTransform(turned).scale(emPx, emPx);
+  DrawingBudget::spendOnVertices(text.size());
   if (auto* const canvas = target.canvas())
     return drawOn(*canvas, format_, *shaped, toPixels * QTransform::fromTranslate(position.x(), position.y()));
   QPointF const origin = snapped(position);  // by itself, so that the letters' shapes don't depend on it

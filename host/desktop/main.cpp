@@ -14,6 +14,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <new>
 
 namespace {
@@ -24,6 +25,8 @@ int finished(int code) {
   std::fflush(nullptr);
   std::_Exit(code);
 }
+
+QByteArray lastWords;  // made while there is memory
 
 QString memoryRanOut() {
   return QCoreApplication::translate(
@@ -39,12 +42,26 @@ QStringList ownArguments() {
   return arguments;
 }
 
+// Where no code is left that could catch it: in Qt, or on a thread. What was begun is removed by the other process.
+[[noreturn]] void endWithoutMemory() {
+  try {
+    if (std::current_exception()) std::rethrow_exception(std::current_exception());
+  } catch (std::bad_alloc const&) {
+    std::fputs(lastWords.constData(), stderr);
+    std::_Exit(WorkFailed);
+  } catch (...) {
+  }
+  std::abort();
+}
+
 int runSubcommand(int argc, char** argv, std::optional<QString> const& language, Confinement const& confinement) {
   QApplication application(argc, argv);
   prepareApplication();
   installLanguage(language);
   confinement.begin();
   QStringList const arguments = ownArguments();
+  lastWords = ("plotvane: " + arguments.value(0) + ": " + memoryRanOut() + '\n').toLocal8Bit();
+  std::set_terminate(endWithoutMemory);
   try {
     return finished(runCommandLine(arguments));
   } catch (std::bad_alloc const&) {

@@ -1,10 +1,12 @@
 #include "Pictures.h"
 #include "StoredSymbols.h"
 
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysDisplay/LayeredSymbol.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
 
+#include <SysGeometry/Polygon.h>
 #include <SysGeometry/Polyline.h>
 
 #include <cmath>
@@ -208,6 +210,26 @@ private slots:
         symbolOf(stored)->Draw(painter, canvas.transformation(), make<Envelope>(-1e300, -1e300, 1e300, 1e300));
         symbolOf(stored)->Draw(painter, far, make<Envelope>(place * 0.9, place * 0.9, place * 1.1, place * 1.1));
       }
+  }
+
+  void whatABudgetDoesNotPayForIsNotDrawn_data() {
+    Rows<_ptr_t<Symbol>> row;
+    for (Stored const& stored : storedLines) row(stored.name, symbolOf(stored));
+    for (Stored const& stored : storedFills) row(stored.name, symbolOf(stored));
+  }
+  void whatABudgetDoesNotPayForIsNotDrawn() {
+    auto const [symbol] = fetched<_ptr_t<Symbol>>();
+    bool const isFill = symbol->GetType() == SymbolType::Fill;
+    QVector<QPointF> const corners{{20, 20}, {180, 20}, {180, 180}};
+    _ptr_t<Geometry> geometry = polyline(corners);
+    if (isFill) geometry = make<Polygon>(QVector<QVector<QPointF>>{corners});
+    QImage const unbounded = Canvas().draw(*symbol, geometry).image();
+    DrawingBudget ample(1e12);
+    QCOMPARE(difference(Canvas().draw(*symbol, geometry).image(), unbounded).pixels, 0);
+    QVERIFY(!ample.isExceeded());
+    DrawingBudget none(-1);
+    QCOMPARE(ink(Canvas().draw(*symbol, geometry).image()).pixels, 0);
+    QVERIFY(none.isExceeded());
   }
 
   void cloneIsIndependent() {

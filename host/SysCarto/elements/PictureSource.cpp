@@ -3,19 +3,25 @@
 #include "EmbeddedPicture.h"
 
 #include "host/SysDisplay/DrawTarget.h"
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysDisplay/SvgCheck.h"
+#include "host/SysDisplay/SvgPicture.h"
 #include "host/SysUtility/FileReach.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace SysCarto {
 
@@ -27,11 +33,41 @@ constexpr qint64 maxSvgBytes = 2 * 1024 * 1024;
 constexpr qint64 maxJpegBytes = 200 * 1000 * 1000;  // that are taken over into a PDF as they are
 constexpr int cellPx = 256;
 
+// Larger pictures stay in the format of their files, which may take a thirtieth of the room, and are let go of where
+// they take more than that once they were reduced.
+constexpr qint64 largePixels = 25000000;
+constexpr qint64 keptBytes = 64000000;
+constexpr double pixelCost = 20;  // of one that is made larger or turned
+
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(PictureElement)
 };
 
 qint64 areaOf(QSize const& size) { return qint64(size.width()) * size.height(); }
+
+QImage drawable(QImage const& image) { return image.convertToFormat(QImage::Format_ARGB32_Premultiplied); }
+
+// Each pixel the mean of four, made in strips, so that the whole is never there in the format that is drawn.
+QImage halved(QImage const& image) {
+  constexpr int stripRows = 128;
+  QImage half(image.width() / 2, image.height() / 2, QImage::Format_ARGB32_Premultiplied);
+  for (int y = 0; y < half.height(); y += stripRows) {
+    int const rows = std::min(stripRows, half.height() - y);
+    QImage const strip = drawable(drawable(image.copy(0, 2 * y, 2 * half.width(), 2 * rows))
+                                      .scaled(half.width(), rows, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    for (int row = 0; row < rows; ++row)
+      std::memcpy(half.scanLine(y + row), strip.constScanLine(row), static_cast<size_t>(half.width()) * 4);
+  }
+  return half;
+}
+
+// Pictures that are used several times are read once.
+std::weak_ptr<QImage const>& known(QString const& key) {
+  static QHash<QString, std::weak_ptr<QImage const>> images;
+  for (auto image = images.begin(); image != images.end();)
+    image = image->expired() ? images.erase(image) : std::next(image);
+  return images[key];
+}
 
 }  // namespace
 
@@ -40,7 +76,8 @@ PictureSource::~PictureSource() = default;
 
 void PictureSource::forget() {
   isLoaded_ = false;
-  image_ = reduced_ = QImage();
+  image_.reset();
+  reduced_ = QImage();
   svg_.reset();
 }
 
@@ -73,6 +110,14 @@ QString PictureSource::load(QIODevice& file, QString const& name) {
   return Texts::tr("%1: the picture is neither PNG nor JPEG, TIFF, WebP or SVG; save it as one of these.").arg(name);
 }
 
+// What tells the picture's content from others.
+QString PictureSource::key() const {
+  if (!data_.isEmpty())
+    return QString::fromLatin1(QCryptographicHash::hash(data_.toLatin1(), QCryptographicHash::Sha256).toHex());
+  QFileInfo const file(path_);
+  return QStringLiteral("%1 %2 %3").arg(path_).arg(file.size()).arg(file.lastModified().toMSecsSinceEpoch());
+}
+
 QString PictureSource::loadImage(QIODevice& file, QString const& name) {
   QImageReader reader(&file);
   reader.setDecideFormatFromContent(true);
@@ -83,10 +128,16 @@ QString PictureSource::loadImage(QIODevice& file, QString const& name) {
         .arg(name, QString::number(size.width()), QString::number(size.height()), QString::number(maxSidePx),
              QString::number(maxPixels));
   reader.setAutoTransform(true);
-  QImage const image = reader.read();
-  if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(name, reader.errorString());
-  image_ = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
   isPlainJpeg_ = reader.format() == "jpeg" && reader.transformation() == QImageIOHandler::TransformationNone;
+  QString const own = key();
+  image_ = known(own).lock();
+  if (!image_) {
+    QImage const image = reader.read();
+    if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(name, reader.errorString());
+    image_ = std::make_shared<QImage const>(areaOf(size) > largePixels ? image : drawable(image));
+    known(own) = image_;
+  }
+  size_ = image_->size();
   return {};
 }
 
@@ -95,6 +146,7 @@ QString PictureSource::loadSvg(QIODevice& file, QString const& name) {
   QString const refused = SysDisplay::svgProblem(content);
   if (!refused.isEmpty()) return QStringLiteral("%1: %2.").arg(name, refused);
   svg_ = std::make_unique<QSvgRenderer>(content);
+  svgBytes_ = content.size();
   if (svg_->isValid() && !svg_->viewBoxF().isEmpty()) return {};
   svg_.reset();
   return Texts::tr("%1: the SVG can't be drawn; save it with a size.").arg(name);
@@ -125,22 +177,45 @@ void PictureSource::drawOn(SysDisplay::VectorCanvas& canvas, QPainter& painter, 
                            QTransform const& turn) {
   QTransform const toPage = turn * QTransform::fromTranslate(targetPx.x(), targetPx.y());
   QSize const size = targetPx.size();
-  if (!svg_) return canvas.picture({image_, jpeg()}, QTransform::fromScale(size.width(), size.height()) * toPage);
+  if (SysDisplay::DrawingBudget::isSpent()) return;
+  if (!svg_) return canvas.picture({image(), jpeg()}, QTransform::fromScale(size.width(), size.height()) * toPage);
+  SysDisplay::spendOnSvg(svgBytes_, painter);
   painter.save();
   painter.setTransform(toPage, true);
   svg_->render(&painter, QRectF(QPointF(0, 0), size));
   painter.restore();
 }
 
-bool PictureSource::reduces(QSize const& targetSize) const {
-  return !svg_ && areaOf(targetSize) <= areaOf(image_.size());
-}
+bool PictureSource::reduces(QSize const& targetSize) const { return !svg_ && areaOf(targetSize) <= areaOf(size_); }
 
 QImage const& PictureSource::reducedTo(QSize const& targetSize) {
-  if (reduced_.size() != targetSize)
-    reduced_ = image_.scaled(targetSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                   .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  if (reduced_.size() == targetSize) return reduced_;
+  QImage image = this->image();
+  while (areaOf(image.size()) > largePixels && image.width() / 2 >= targetSize.width() &&
+         image.height() / 2 >= targetSize.height())
+    image = halved(image);
+  reduced_ = drawable(image.scaled(targetSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  if (image_->sizeInBytes() > keptBytes) image_.reset();
   return reduced_;
+}
+
+// The picture itself, which is read again where it was let go of.
+QImage PictureSource::image() {
+  if (!image_) load();
+  return image_ ? *image_ : QImage();
+}
+
+// Of a large picture, only what the part shows is made drawable.
+void PictureSource::drawPart(QPainter& painter, QRectF const& part, QSize const& targetSize) {
+  if (reduces(targetSize)) return painter.drawImage(QRectF(QPointF(0, 0), targetSize), reducedTo(targetSize));
+  QImage const whole = image();
+  if (areaOf(size_) <= largePixels) return painter.drawImage(QRectF(QPointF(0, 0), targetSize), whole);
+  double const x = double(targetSize.width()) / size_.width(), y = double(targetSize.height()) / size_.height();
+  QRectF const shown(part.x() / x, part.y() / y, part.width() / x, part.height() / y);
+  QRect const pixels = shown.toAlignedRect().adjusted(-2, -2, 2, 2) & whole.rect();
+  if (pixels.isEmpty()) return;
+  painter.drawImage(QRectF(pixels.x() * x, pixels.y() * y, pixels.width() * x, pixels.height() * y),
+                    drawable(whole.copy(pixels)));
 }
 
 // A picture that is larger than its source could be of any size. It is made in cells that hang on its corner, and no
@@ -148,7 +223,8 @@ QImage const& PictureSource::reducedTo(QSize const& targetSize) {
 void PictureSource::drawCells(QPainter& painter, QRect const& targetPx, QTransform const& turn) {
   QRect const whole = turn.mapRect(QRectF(QPointF(0, 0), targetPx.size())).toAlignedRect();
   QRect const seen = whole & SysDisplay::reachableArea(painter).toAlignedRect().translated(-targetPx.topLeft());
-  if (seen.isEmpty()) return;
+  if (seen.isEmpty() || SysDisplay::DrawingBudget::isSpent()) return;
+  SysDisplay::DrawingBudget::spend(pixelCost * seen.width() * seen.height());
   auto const firstCell = [](int from, int origin) { return from - (from - origin) % cellPx; };
   for (int y = firstCell(seen.top(), whole.top()); y <= seen.bottom(); y += cellPx)
     for (int x = firstCell(seen.left(), whole.left()); x <= seen.right(); x += cellPx) {
@@ -165,10 +241,12 @@ QImage PictureSource::cell(QRect const& part, QSize const& targetSize, QTransfor
   painter.setTransform(turn, true);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  if (svg_)
-    svg_->render(&painter, QRectF(QPointF(0, 0), targetSize));
-  else
-    painter.drawImage(QRectF(QPointF(0, 0), targetSize), reduces(targetSize) ? reducedTo(targetSize) : image_);
+  if (!svg_) {
+    drawPart(painter, turn.inverted().mapRect(QRectF(part)), targetSize);
+    return image;
+  }
+  SysDisplay::spendOnSvg(svgBytes_, painter);
+  if (!SysDisplay::DrawingBudget::isSpent()) svg_->render(&painter, QRectF(QPointF(0, 0), targetSize));
   return image;
 }
 

@@ -40,6 +40,9 @@ private:
   QString load(QIODevice& file, QString const& name);
   QString loadSvg(QIODevice& file, QString const& name);
   QString loadImage(QIODevice& file, QString const& name);
+  QString key() const;
+  QImage image();
+  void drawPart(QPainter& painter, QRectF const& part, QSize const& targetSize);
   bool reduces(QSize const& targetSize) const;
   void drawOn(SysDisplay::VectorCanvas& canvas, QPainter& painter, QRect const& targetPx, QTransform const& turn);
   QByteArray jpeg() const;
@@ -51,10 +54,12 @@ private:
   QString const data_;
   bool isLoaded_ = false;
   QString problem_;
-  QImage image_;
+  std::shared_ptr<QImage const> image_;
+  QSize size_;                // of the image, which may have been let go of
   bool isPlainJpeg_ = false;  // the file holds the picture as it is shown
   QImage reduced_;            // to the size last asked for
   std::unique_ptr<QSvgRenderer> svg_;
+  int svgBytes_ = 0;
 };
 
 }  // namespace SysCarto

@@ -26,14 +26,27 @@ public:
     auto const look = looks_.lookOf(symbolClass_, feature);
     auto known = painters_.find(look);
     if (known == painters_.end()) {
-      if (painters_.size() >= maxPainters) painters_.clear();
+      if (keptPx_ >= maxKeptPx) forget();
       known = painters_.emplace(look, make(look)).first;
+      keptPx_ += known->second ? pixelsOf(*known->second) : 0;
     }
     if (known->second) known->second->draw(features, feature, area);
   }
 
 private:
-  static constexpr size_t maxPainters = 1000;
+  static constexpr double maxKeptPx = 16e6;
+
+  // What a painter may keep drawn, and something for itself.
+  static double pixelsOf(FeaturePainter const& painter) {
+    constexpr double own = 16000, most = 4e6, phases = 16;
+    double const side = 2 * painter.reachPx();
+    return std::min(own + phases * side * side, most);
+  }
+
+  void forget() {
+    painters_.clear();
+    keptPx_ = 0;
+  }
 
   std::unique_ptr<FeaturePainter> make(FeatureLooks::Look const& look) const {
     auto const symbol = looks_.symbol(symbolClass_, look);
@@ -45,6 +58,7 @@ private:
   FeatureLooks const& looks_;
   int const symbolClass_, pass_;
   std::map<FeatureLooks::Look, std::unique_ptr<FeaturePainter>> painters_;
+  double keptPx_ = 0;
 };
 
 }  // namespace

@@ -32,10 +32,11 @@ public:
   void clear() { *this = VertexPool(); }
 
 private:
-  static constexpr std::size_t blockDoubles = 1 << 16;
+  // Blocks grow: there may be thousands of small layers.
+  static constexpr std::size_t firstBlock = 1 << 11, mostDoublings = 5;
 
   void addBlock(std::size_t doubles) {
-    std::size_t const size = std::max(doubles, blockDoubles);
+    std::size_t const size = std::max(doubles, firstBlock << std::min(blocks_.size(), mostDoublings));
     blocks_.emplace_back(new double[size]);  // not filled: what is not used costs no memory
     next_ = blocks_.back().get();
     end_ = next_ + size;

@@ -22,6 +22,8 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(MapSurround)
 };
 
+constexpr int maxRows = 10000;  // in as many columns as there may be, none of more could be read
+
 class RowMaker {
 public:
   RowMaker(Map const& map, LegendSettings const& settings) : map_(map), settings_(settings) {
@@ -59,7 +61,7 @@ private:
   void addRows(Layer const& layer, LegendEntry const& entry) {
     QList<LegendClass> const classes = layer.legendClasses();
     QVector<int> const told = toldClasses(layer, classes, entry);
-    if (told.isEmpty()) return;
+    if (told.isEmpty() || rows_.size() >= maxRows) return;
     QString const name = entry.text.isEmpty() ? layer.GetName() : entry.text;
     auto const stack = stackOf(layer, entry.with);
     auto const* const vector = dynamic_cast<VectorLayer const*>(&layer);
@@ -77,7 +79,7 @@ private:
       if (isNested && one < proportional) nested << LegendClass{shortened(textOf(classes[one])), classes[one].symbol};
     if (!nested.isEmpty()) rows_ << LegendRow{{}, {}, LegendRow::Nested, nested};
     for (int const one : told)
-      if (!isNested || one >= proportional)
+      if (rows_.size() < maxRows && (!isNested || one >= proportional))
         rows_ << LegendRow{shortened(textOf(classes[one])), symbolsOf(stack, classes[one]), LegendRow::Class};
   }
 

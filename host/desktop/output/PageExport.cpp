@@ -5,6 +5,7 @@
 
 #include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/projection/GdalErrors.h"
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/desktop/vector/VectorExport.h"
 
 #include <QFileInfo>
@@ -17,6 +18,18 @@ using SysUtility::_ptr_t;
 namespace {
 
 constexpr double mmPerCm = 10;
+
+// What a page is worth: some seconds, and about one more for each hundred kilobytes of its document and its data.
+constexpr double freePixels = 5e9;
+constexpr double timesThePage = 400;
+constexpr double pixelsPerByte = 1e4;
+
+double worthOf(SysCarto::MapDocument const& document, QSize const& size) {
+  double bytes = static_cast<double>(QFileInfo(document.GetPath()).size());
+  for (auto const& source : SysCarto::sourcesOf(*document.GetPageLayout()))
+    bytes += static_cast<double>(QFileInfo(source.file).size());
+  return freePixels + timesThePage * size.width() * size.height() + pixelsPerByte * bytes;
+}
 
 }  // namespace
 
@@ -93,9 +106,18 @@ QString PageExport::writeShapes(SysCarto::MapDocument const& document, _ptr_t<Tr
   VectorOptions const options{options_.dpi,     options_.textAsShapes, options_.layers,
                               options_.bleedCm, options_.cropMarks,    options_.outputIntent};
   SysCarto::GdalErrors const errors;
+  SysDisplay::DrawingBudget budget(worthOf(document, size));
+  NextPage next;
+  if (next_)
+    next = [&] {
+      if (budget.isExceeded()) return decltype(next_())();
+      budget.renew();
+      return next_();
+    };
   problem = qstrcmp(format_.driver, "SVG") == 0 ? writeSvg(document, target_.workingPath(), options, cancel)
-                                                : writePdf(document, target_.workingPath(), options, cancel, next_);
+                                                : writePdf(document, target_.workingPath(), options, cancel, next);
   if (cancel->IsCanced()) return tr("%1 was not written: interrupted.").arg(path_);
+  if (budget.isExceeded()) return tooMuch();
   if (errors.hasFailure()) return target_.failure(errors);
   return problem.isEmpty() ? target_.checkResult(size) : tr("%1 was not written: %2.").arg(path_, problem);
 }
@@ -107,9 +129,17 @@ QString PageExport::writePixels(SysCarto::MapDocument& document, _ptr_t<TrackerC
   if (problem.isEmpty()) problem = target_.checkSize(image.size(), image.bands());
   if (problem.isEmpty()) problem = target_.prepare();
   if (problem.isEmpty()) problem = putBeside(image, document);
+  SysDisplay::DrawingBudget const budget(worthOf(document, image.size()));
   if (problem.isEmpty()) problem = image.write(cancel, progress);
   if (cancel->IsCanced()) return tr("%1 was not written: interrupted.").arg(path_);
+  if (budget.isExceeded()) return tooMuch();
   return problem.isEmpty() ? target_.checkResult(image.size(), image.bands()) : problem;
+}
+
+QString PageExport::tooMuch() const {
+  return tr("%1 was not written: its symbols draw over each other many hundred times; make them smaller, fewer or less "
+            "dense, or give less DPI.")
+      .arg(path_);
 }
 
 // World files are known by the first and the last letter of the image's suffix.

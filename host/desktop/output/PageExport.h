@@ -44,6 +44,7 @@ private:
   static QStringList problemsOf(SysCarto::MapDocument const& document);
   QString newProblem(SysCarto::MapDocument const& document, QStringList const& known) const;
   QString writeShapes(SysCarto::MapDocument const& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
+  QString tooMuch() const;
   QString putBeside(PageImage const& image, SysCarto::MapDocument const& document);
 
   QString path_;

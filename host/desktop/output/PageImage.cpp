@@ -9,6 +9,7 @@
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GdalErrors.h"
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysUtility/ChangeMark.h"
 #include "host/desktop/OffscreenDesktop.h"
 
@@ -205,11 +206,12 @@ QString PageImage::write(_ptr_t<TrackerCancel> const& cancel, ExportProgress con
                                             const_cast<char**>(layout)));
   ImageTags const tags{SysCarto::FileInformation::of(document_), pxPerInch_};
   bool isWritten = pixels && drawTiles(*pixels, cancel, progress);
-  if (isWritten && !cancel->IsCanced()) isWritten = convert(*pixels, tags, cancel, progress);
+  bool const isWhole = !cancel->IsCanced() && !SysDisplay::DrawingBudget::isSpent();
+  if (isWritten && isWhole) isWritten = convert(*pixels, tags, cancel, progress);
   pixels.reset();
   // The disk may have room for one more copy of the image, and not for this, too.
   QFile::remove(QString::fromUtf8(path));
-  if (isWritten && !cancel->IsCanced())
+  if (isWritten && isWhole && !cancel->IsCanced())
     isWritten = tags.addTo(target_.workingPath(), format_, part_.size(), options_.transparent);
   if (!isWritten || errors.hasFailure()) return target_.failure(errors);
   return QString();
@@ -224,7 +226,7 @@ bool PageImage::drawTiles(GDALDataset& dataset, _ptr_t<TrackerCancel> const& can
   constexpr int side = LayoutRenderer::tileSize;
   for (int y = 0; y < part_.height(); y += side)
     for (int x = 0; x < part_.width(); x += side) {
-      if (cancel->IsCanced()) return true;
+      if (cancel->IsCanced() || SysDisplay::DrawingBudget::isSpent()) return true;
       QRect const tile = QRect(part_.topLeft() + QPoint(x, y), QSize(side, side)) & part_;
       QImage const image = options_.transparent ? clearTile(renderer, tile, cancel) : renderer.tileImage(tile, cancel);
       if (!writeTile(dataset, image, {x, y}, bands())) return false;
