@@ -10,7 +10,7 @@ namespace SysDisplay {
 namespace {
 
 // In pixels of one colour: measured, and rounded.
-constexpr double vertexCost = 1000;
+constexpr double vertexCost = 2500;
 constexpr double edgeCost = 20;  // of each row or column that it crosses
 
 thread_local DrawingBudget* current = nullptr;

@@ -20,6 +20,7 @@ constexpr int maxElements = 20000;
 constexpr int deepest = 64;
 constexpr int maxUseDepth = 256;  // a chain of so many, each drawn on its own too, comes to more than `maxElements`
 constexpr int maxImagePx = 4096;
+constexpr int pixelsOfAPart = 5000;  // so many of an embedded image take about as long to draw as an element
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(SvgCheck)
@@ -121,7 +122,11 @@ private:
       return refuse(Texts::tr("the SVG embeds an image that is neither PNG nor JPEG"));
     QSize const size = image.size();
     if (!size.isValid() || size.width() > maxImagePx || size.height() > maxImagePx)
-      refuse(Texts::tr("the SVG embeds an image larger than %1 × %1 pixels").arg(maxImagePx));
+      return refuse(Texts::tr("the SVG embeds an image larger than %1 × %1 pixels").arg(maxImagePx));
+    int const parts = size.width() * size.height() / pixelsOfAPart;
+    imageParts_ += parts;
+    for (QString const& id : qAsConst(openIds_))
+      if (!id.isEmpty()) content_[id].elements += parts;
   }
 
   // In a style sheet a backslash can hide the letters of a word.
@@ -136,7 +141,7 @@ private:
 
   // What `use` elements repeat, repeated in turn, must come to an end, and soon.
   void checkUses() {
-    double drawn = elements_;
+    double drawn = elements_ + imageParts_;
     for (QString const& id : qAsConst(total_)) drawn += expanded(id, 0);
     if (drawn > maxElements)
       refuse(Texts::tr("the SVG repeats its parts in a circle or more than %1 times").arg(maxElements));
@@ -161,6 +166,7 @@ private:
   QXmlStreamReader reader_;
   QString problem_;
   int elements_ = 0;
+  double imageParts_ = 0;
   bool inStyle_ = false;
   QStringList openIds_;
   QStringList total_;
