@@ -191,6 +191,11 @@ bool DocumentFiles::read(QString const& path) {
   return true;
 }
 
+void DocumentFiles::takeOver() {
+  lock_ = session_.path().isEmpty() ? nullptr : lockFor(session_.path());
+  if (lock_) lock_->take();
+}
+
 bool DocumentFiles::isReadOnly() const {
   return (lock_ && lock_->isForeign()) ||
          (!session_.path().isEmpty() && !SysUtility::FileSaver::checkPlace(session_.path()).isEmpty());

@@ -24,6 +24,8 @@ public:
 
   // Each asks first where changes would be lost, and answers false, with everything as it was, where it was not done.
   bool create();
+  /// The session has recovered a document: from now on its file is this window's, where nobody else has it open.
+  void takeOver();
   /// Asks what the map is to be made of. Answers what was chosen, and why; nothing where no map was made.
   QStringList createFromData();
   bool open();

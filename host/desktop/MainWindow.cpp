@@ -255,11 +255,9 @@ void MainWindow::connectFiles() {
   bench_.commands().setGuard([this](CommandEntry const& entry) {
     properties_->finish();
     layers_.finishTyping();
-    if (OutputCommands::draws(entry.identifier)) {
-      recovery_.keep();
-      return files_.mayExport();
-    }
-    return question_.mayRun(entry.identifier);
+    if (!OutputCommands::draws(entry.identifier)) return question_.mayRun(entry.identifier);
+    recovery_.keep();
+    return files_.mayExport();
   });
   connect(&bench_.commands(), &CommandSet::failed, this, [this](QString const& sentence) {
     QMessageBox box(QMessageBox::Critical, tr("Plotvane"), sentence, QMessageBox::Ok, this);
@@ -486,7 +484,11 @@ void MainWindow::dropEvent(QDropEvent* event) {
   });
 }
 
-bool MainWindow::recover(QString const& path) { return offerRecovery(bench_.session(), recovery_, path, *notice_); }
+bool MainWindow::recover(QString const& path) {
+  bool const isRecovered = offerRecovery(bench_.session(), recovery_, path, *notice_);
+  if (isRecovered) files_.takeOver();
+  return isRecovered;
+}
 
 int runWindow(QString const& path) {
   MainWindow window;

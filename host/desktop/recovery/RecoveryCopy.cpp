@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 #include <QStandardPaths>
 #include <QUuid>
 
@@ -41,8 +42,13 @@ QByteArray pngOf(QImage const& image) {
   return bytes;
 }
 
+// Each file may have been about to get its name (`FileSaver`).
 void removeCopy(QString const& base) {
-  for (char const* suffix : suffixes) QFile::remove(base + QLatin1String(suffix));
+  QFileInfo const files(base);
+  for (char const* suffix : suffixes) {
+    QFile::remove(base + QLatin1String(suffix));
+    QFile::remove(files.path() + QStringLiteral("/.%1%2.new").arg(files.fileName(), QLatin1String(suffix)));
+  }
 }
 
 // No age makes a lock stale: only that its process has gone.
@@ -50,6 +56,19 @@ std::unique_ptr<QLockFile> lockOf(QString const& base) {
   auto lock = std::make_unique<QLockFile>(base + QStringLiteral(".lock"));
   lock->setStaleLockTime(0);
   return lock;
+}
+
+// What a process has left that died before its copy was whole, or while it was removed.
+void sweep(QDir const& folder) {
+  QSet<QString> bases;
+  for (QString const& file : folder.entryList(QDir::Files | QDir::Hidden))
+    bases << file.mid(file.startsWith(QLatin1Char('.'))).section(QLatin1Char('.'), 0, 0);
+  for (QString const& name : qAsConst(bases)) {
+    QString const base = folder.filePath(name);
+    bool const isWhole = QFile::exists(base + QStringLiteral(".json")) && QFile::exists(base + QStringLiteral(".kdx"));
+    auto const lock = lockOf(base);
+    if (!isWhole && lock->tryLock()) removeCopy(base);
+  }
 }
 
 }  // namespace
@@ -189,6 +208,7 @@ void RecoveryCopy::put(QByteArray const& text, QByteArray const& known, QImage c
 std::vector<LostDocument> LostDocument::all() {
   std::vector<LostDocument> lost;
   QDir const folder(recoveryFolder());
+  if (folder.exists()) sweep(folder);
   for (QFileInfo const& file : folder.entryInfoList({QStringLiteral("*.json")}, QDir::Files, QDir::Time)) {
     LostDocument one;
     one.base_ = file.path() + QLatin1Char('/') + file.completeBaseName();

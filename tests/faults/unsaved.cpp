@@ -1,0 +1,76 @@
+#include "desktop/WorkbenchPage.h"
+
+#include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/desktop/DialogAnswers.h"
+#include "host/desktop/MainWindow.h"
+
+#include <cstdio>
+
+// What scripts/kills kills, and what starts after it:
+//
+//     plotvane_unsaved work DOCUMENT       draws in the window; copies are written, and every fourth step is saved
+//     plotvane_unsaved recover DOCUMENT    recovers what was lost, saves it, and tells the number of its last step
+namespace {
+
+void tell(char const* what, int step) {
+  std::printf("%s %d\n", what, step);
+  std::fflush(stdout);
+}
+
+int lastStep(MainWindow& window) {
+  int last = 0;
+  QString const text = QString::fromUtf8(SysCarto::MapDocumentHost::text(window.bench().session().document()));
+  for (auto it = QRegularExpression("step (\\d+)").globalMatch(text); it.hasNext();)
+    last = qMax(last, it.next().captured(1).toInt());
+  return last;
+}
+
+int work(MainWindow& window, QString const& document) {
+  if (!window.open(document)) return 1;
+  WorkbenchPage page(window.bench());
+  tell("ready", 0);
+  for (int step = 1; step < 1000; ++step) {
+    tell("begun", step);
+    auto const text = make<SysCarto::TextElement>();
+    text->setText(QString("step %1").arg(step));
+    page.container().AddElement(text);
+    if (step % 4 == 0) {
+      if (!window.bench().session().save()) return 1;
+      tell("saved", step);
+    } else {
+      RecoveryCopy::keepAll();
+      tell("kept", step);
+    }
+    QCoreApplication::processEvents();
+  }
+  return 1;  // nobody killed it
+}
+
+int statusOfSaved(MainWindow& window) { return !window.bench().session().isModified() && window.close() ? 0 : 1; }
+
+int recover(MainWindow& window, QString const& document) {
+  DialogAnswers answers;
+  answers.add({DialogAnswers::Answer::Kind::Accept, {}, {}});
+  bool const isRecovered = window.recover(document);
+  if (!isRecovered && !window.open(document)) return 1;
+  tell(isRecovered ? "recovered" : "opened", lastStep(window));
+  window.actions().refresh();
+  window.actions().find("Host_Save")->trigger();
+  if (!window.bench().session().isFileChanged()) return statusOfSaved(window);
+  tell("asked", lastStep(window));  // a save had just been done when the window was killed; that one is kept
+  answers.takeProblem();
+  answers.add({DialogAnswers::Answer::Kind::Widget, "button", "Discard"});
+  return window.close() ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  prepareApplication();
+  QStringList const arguments = QCoreApplication::arguments();
+  if (arguments.size() != 3) return 2;
+  MainWindow window;
+  window.show();
+  return arguments[1] == "work" ? work(window, arguments[2]) : recover(window, arguments[2]);
+}
