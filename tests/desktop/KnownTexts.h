@@ -23,8 +23,9 @@ public:
 
   void leaveOut(QString const& key) { leftOut_ << key; }
 
-  /// After something that was done, which may clear the history or not. Answers what is wrong, or nothing.
-  QString look(bool clears) {
+  /// After something that was done, which may clear the history or not. Operations of the plug-in's commands are steps
+  /// also where they change nothing. Answers what is wrong, or nothing.
+  QString look(bool clears, bool mayChangeNothing) {
     QByteArray const text = now();
     bool const hasSameSteps = steps() == steps_, isSamePlace = hasSameSteps && history_.index() == index_;
     if (text.isEmpty() && document_.GetPageLayout()) return "the document can't be saved any more";
@@ -32,6 +33,11 @@ public:
       startAnew();
       return QString();
     }
+    for (int i = 0; i < history_.count(); ++i)
+      if (history_.text(i).isEmpty()) return QString("step %1 of the history has no name").arg(i);
+    bool const isOneStep = history_.count() == history_.index() && history_.index() == index_ + 1;
+    if (!mayChangeNothing && isOneStep && !hasSameSteps && text == before_)
+      return QString("“%1” is a step that changes nothing").arg(history_.text(index_));
     if (hasSameSteps) return compare(text, isSamePlace ? "a change that is no step" : "moving in the history");
     int same = 0;
     for (auto const now = steps(); same < qMin(now.size(), steps_.size()) && now[same] == steps_[same];) ++same;
@@ -61,6 +67,7 @@ public:
 
 private:
   void note(QByteArray const& text) {
+    before_ = text;
     index_ = history_.index();
     steps_ = steps();
     texts_[index_] = text;
@@ -123,6 +130,7 @@ private:
   SysCarto::MapDocument const& document_;
   QUndoStack& history_;
   QMap<int, QByteArray> texts_;
+  QByteArray before_;
   QStringList leftOut_{"focusMap"};  // comes and goes with the maps
   QVector<QUndoCommand const*> steps_;
   int index_ = 0;
