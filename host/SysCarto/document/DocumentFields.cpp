@@ -128,6 +128,8 @@ void noteProblems(PageLayout const& layout, DocumentContext& context) {
 
 QList<_ptr_t<Map>> mapsFollowedBy(Element const& element) {
   QList<_ptr_t<Map>> maps;
+  int const type = element.GetType();  // most are neither, and a page may have tens of thousands
+  if (type != ElementType::DataFrame && type != ElementType::MapSurroundFrame) return maps;
   auto const add = [&maps](_ptr_t<Map> const& map) {
     if (map) maps << map;
   };
