@@ -7,6 +7,7 @@
 
 #include "host/SysCarto/document/LayerSettings.h"
 #include "host/SysCarto/document/SurroundFields.h"
+#include "host/SysCarto/elements/ElementContainer.h"
 #include "host/SysCarto/elements/ElementHost.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/MapOverview.h"
@@ -144,7 +145,7 @@ QList<_ptr_t<Map>> mapsFollowedBy(Element const& element) {
 QList<_ptr_t<Map>> mapsOf(PageLayout const& layout) {
   QList<_ptr_t<Map>> maps;
   layout.GetMaps(maps);
-  for (auto const& element : layout.GetGraphicsContainer()->GetElements())
+  for (auto const& element : static_cast<ElementContainer*>(layout.GetGraphicsContainer())->order().elements)
     for (auto const& map : mapsFollowedBy(*element))
       if (!maps.contains(map)) maps << map;
   return maps;

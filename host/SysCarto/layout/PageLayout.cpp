@@ -74,10 +74,12 @@ struct PageLayout::Private {
   ElementContainer elements;
   std::vector<std::unique_ptr<OpenedGroup>> opened;  // each in the one before
 
+  // Of tens of thousands of elements few are one: to list and to cast all of them takes long.
   QList<_ptr_t<MapFrameElement>> frames() const {
     QList<_ptr_t<MapFrameElement>> frames;
-    for (auto const& element : elements.GetElements())
-      if (auto const frame = ptr_cast<MapFrameElement>(element)) frames << frame;
+    for (auto const& element : elements.order().elements)
+      if (element->GetType() == ElementType::DataFrame)
+        if (auto const frame = ptr_cast<MapFrameElement>(element)) frames << frame;
     return frames;
   }
 
