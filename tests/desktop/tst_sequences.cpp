@@ -58,7 +58,7 @@ private slots:
     if (qEnvironmentVariableIsSet("PLOTVANE_SEQUENCE"))
       return judge(Sequence::read(QString::fromUtf8(qgetenv("PLOTVANE_SEQUENCE"))), true);
     static QStringList const documents{"world.kdx", "aegean.kdx", "world.kdx", "aegean.kdx", "atlas.kdx"};
-    int const seed = numberFrom("PLOTVANE_SEED", 1), count = numberFrom("PLOTVANE_SEQUENCES", 6);
+    int const seed = numberFrom("PLOTVANE_SEED", 1), count = numberFrom("PLOTVANE_SEQUENCES", 3);
     for (int i = seed; i < seed + count; ++i) {
       QString const document = documents[i % documents.size()];
       judge(Sequence::rolled(document, static_cast<quint32>(i), numberFrom("PLOTVANE_STEPS", 40)), false);
