@@ -70,14 +70,16 @@ FileReach FileReach::ofDocument(QString const& path, QStringList const& allowed)
   return reach;
 }
 
+// The folder of a file that lies outside is not looked into.
 QString FileReach::outside(QString const& file, With with) const {
-  QStringList const companions = with == With::Companions ? companionsOf(file) : QStringList();
-  for (QString const& one : QStringList{file} + companions) {
-    QString const place = placeOf(one);
-    if (std::none_of(folders_.begin(), folders_.end(),
-                     [&](QString const& folder) { return (place + slash).startsWith(folder); }))
-      return place;
-  }
+  auto const isHeld = [this](QString const& place) {
+    return std::any_of(folders_.begin(), folders_.end(),
+                       [&](QString const& folder) { return (place + slash).startsWith(folder); });
+  };
+  QString const own = placeOf(file);
+  if (!isHeld(own)) return own;
+  for (QString const& companion : with == With::Companions ? companionsOf(file) : QStringList())
+    if (QString const place = placeOf(companion); !isHeld(place)) return place;
   return QString();
 }
 

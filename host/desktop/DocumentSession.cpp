@@ -4,6 +4,7 @@
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/EditorHost.h"
+#include "host/SysUtility/FileReach.h"
 
 #include <QFileInfo>
 #include <QUndoStack>
@@ -34,7 +35,7 @@ bool DocumentSession::create() { return settle(document_.New(QString())); }
 
 // The digest is taken first: what changes while it is read then counts as changed.
 bool DocumentSession::open(QString const& path, SysCarto::ReadProgress const& progress) {
-  QByteArray const digest = contentDigest(path);
+  QByteArray const digest = SysUtility::FileReach::refusal(path).isEmpty() ? contentDigest(path) : QByteArray();
   if (!SysCarto::MapDocumentHost::open(document_, path, progress)) return false;
   fileDigest_ = digest;
   return settle(true);

@@ -87,13 +87,6 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
                            "No coordinate system is known for %1; its coordinates are taken as those of the map. "
                            "Give one in the source's field “coordinateSystem”.")
                            .arg(describeSource(source));
-  if (own && !isGlobe && !given && namesPath(*own)) {
-    result.error = Texts::tr(
-                       "The coordinate system of %1 names a file by its path, which is not opened; give another one in "
-                       "the source's field “coordinateSystem”.")
-                       .arg(describeSource(source));
-    return nullptr;
-  }
   QString reason;
   auto projector = GeometryProjector::remembered(own, target.get(), reason);
   if (!projector)

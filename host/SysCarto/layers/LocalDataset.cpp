@@ -1,9 +1,11 @@
 #include "LocalDataset.h"
 
 #include "DatabaseBounds.h"
+#include "DatabaseReach.h"
 #include "DrawingBlocks.h"
 #include "SourceBounds.h"
 #include "raster/RasterSource.h"
+#include "SystemTexts.h"
 
 #include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysCarto/projection/Offline.h"
@@ -68,6 +70,7 @@ void registerDrivers() {
     CPLSetConfigOption("OGR_SQLITE_STATIC_VIRTUAL_OGR", "NO");  // a table of a database that is another file
     CPLSetConfigOption("LIBKML_EXTERNAL_STYLE", "NO");          // whatever the environment says: styles at an address
     CPLSetConfigOption("LIBKML_RESOLVE_STYLE", "NO");
+    CPLSetConfigOption("OGR_SQLITE_ALLOW_EXTERNAL_ACCESS", "NO");  // functions of a view that open rasters
   });
 }
 
@@ -179,6 +182,17 @@ DatasetPointer openLocalDataset(QString const& path, QString& error) {
   QString const absolute = QFileInfo(path).absoluteFilePath();
   bool const isArchive = hasSuffix(path, "zip");
   QByteArray const name = isArchive ? folderWithShapes(absolute) : absolute.toUtf8();
+  if (!name.isEmpty() && isPlacedByPath(absolute, name)) {
+    error = cannotOpen(path, Texts::tr("its coordinate system names a file by a path, which is not opened; give it "
+                                       "another coordinate system"));
+    return nullptr;
+  }
+  if (headOf(path, 6) == "SQLite" && leadsElsewhere(absolute)) {
+    error =
+        cannotOpen(path, Texts::tr("it holds a table or a coordinate system that leads to another file, which is not "
+                                   "opened; remove it"));
+    return nullptr;
+  }
   char const* const shapes[] = {"ESRI Shapefile", nullptr};
   auto const drivers = driverNames();
   DatasetPointer dataset;

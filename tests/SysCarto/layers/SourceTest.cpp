@@ -25,6 +25,10 @@ private slots:
     row("a format that names further files", "a.vrt", vrt, "", "GeoPackage, GeoJSON");
     row("whatever the file's ending", "a.gpkg", vrt, "", "GeoPackage, GeoJSON");
     row("an empty file", "a.geojson", "\n", "", "GeoPackage, GeoJSON");
+    row("a grid by a path, however it is written", "a.geojson",
+        R"({"crs":{"type":"name","properties":{"name":"+proj=longlat +nadgr\u0069ds\u003d@null,\/tmp/a"}},)"
+        R"("type":"Point","coordinates":[0,0]})",
+        "", "by a path");
     row("a layer that the file does not have", "a.geojson", geoJson(R"({"type":"Point","coordinates":[0,0]})"),
         "rivers", "no layer “rivers”");
   }

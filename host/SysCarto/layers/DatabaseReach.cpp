@@ -1,0 +1,69 @@
+#include "DatabaseReach.h"
+
+#include "SystemTexts.h"
+
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QUrl>
+
+#include <sqlite3.h>
+
+#include <functional>
+#include <memory>
+
+namespace SysCarto {
+
+namespace {
+
+// Calls for each row of an answer with its first column, until that is true. What can't be asked has no rows.
+bool anyRow(sqlite3* database, char const* query, std::function<bool(QByteArray const&)> const& isFound) {
+  sqlite3_stmt* prepared = nullptr;
+  if (sqlite3_prepare_v2(database, query, -1, &prepared, nullptr) != SQLITE_OK) return false;
+  std::unique_ptr<sqlite3_stmt, int (*)(sqlite3_stmt*)> const statement(prepared, sqlite3_finalize);
+  bool found = false;
+  while (!found && sqlite3_step(prepared) == SQLITE_ROW) {
+    auto const* const text = reinterpret_cast<char const*>(sqlite3_column_text(prepared, 0));
+    found = text && isFound(text);
+  }
+  return found;
+}
+
+// Indexes in space and of words are kept in tables of the same file.
+bool isForeignTable(QByteArray const& statement) {
+  static QString const space = QStringLiteral("(?:\\s|\\x{FEFF}|/\\*.*?\\*/|--[^\\n]*\\n)+");
+  static QRegularExpression const isVirtual(
+      QStringLiteral("^create") + space + QStringLiteral("virtual\\b"),
+      QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+  static QRegularExpression const isOwn(
+      QStringLiteral("^create virtual table (\"[^\"]*\"|\\[[^\\]]*\\]|`[^`]*`|'[^']*'|\\w+) using "
+                     "(rtree|rtree_i32|fts[345])\\s*\\("),
+      QRegularExpression::CaseInsensitiveOption);
+  QString const text = QString::fromUtf8(statement);
+  return isVirtual.match(text).hasMatch() && !isOwn.match(text.simplified()).hasMatch();
+}
+
+}  // namespace
+
+bool leadsElsewhere(sqlite3* database) {
+  // Systems that are made up by a query could be others when they are asked for again.
+  return anyRow(database, "SELECT sql FROM sqlite_master", isForeignTable) ||
+         anyRow(database, "SELECT name FROM sqlite_master WHERE type = 'view' AND lower(name) = 'gpkg_spatial_ref_sys'",
+                [](QByteArray const&) { return true; }) ||
+         anyRow(database, "SELECT definition FROM gpkg_spatial_ref_sys", namesGridByPath) ||
+         anyRow(database, "SELECT definition_12_063 FROM gpkg_spatial_ref_sys", namesGridByPath);
+}
+
+}  // namespace
+
+// Immutable, so that nothing is written beside it; what another program has yet to write into it comes with its log.
+bool leadsElsewhere(QString const& path) {
+  bool const isBeingWritten = QFileInfo(path + QLatin1String("-wal")).size() > 0;
+  QByteArray const address = "file:" + QUrl::toPercentEncoding(path, "/") +
+                             (isBeingWritten ? QByteArray() : QByteArrayLiteral("?immutable=1"));
+  sqlite3* opened = nullptr;
+  int const result = sqlite3_open_v2(address.constData(), &opened, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
+  std::unique_ptr<sqlite3, int (*)(sqlite3*)> const database(opened, sqlite3_close);
+  return result == SQLITE_OK && leadsElsewhere(opened);
+}
+
+}  // namespace SysCarto
