@@ -42,9 +42,7 @@ bool isForeignTable(QByteArray const& statement) {
   return isVirtual.match(text).hasMatch() && !isOwn.match(text.simplified()).hasMatch();
 }
 
-}  // namespace
-
-bool leadsElsewhere(sqlite3* database) {
+bool holdsWayOut(sqlite3* database) {
   // Systems that are made up by a query could be others when they are asked for again.
   return anyRow(database, "SELECT sql FROM sqlite_master", isForeignTable) ||
          anyRow(database, "SELECT name FROM sqlite_master WHERE type = 'view' AND lower(name) = 'gpkg_spatial_ref_sys'",
@@ -63,7 +61,7 @@ bool leadsElsewhere(QString const& path) {
   sqlite3* opened = nullptr;
   int const result = sqlite3_open_v2(address.constData(), &opened, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
   std::unique_ptr<sqlite3, int (*)(sqlite3*)> const database(opened, sqlite3_close);
-  return result == SQLITE_OK && leadsElsewhere(opened);
+  return result == SQLITE_OK && holdsWayOut(opened);
 }
 
 }  // namespace SysCarto

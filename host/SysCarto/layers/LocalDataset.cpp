@@ -126,6 +126,19 @@ QString refusalOfHead(QString const& path) {
   return QString();
 }
 
+// What would have other files opened as soon as a driver looks at it. `name` is empty where there is nothing to open.
+QString refusalOfContent(QString const& path, QByteArray const& name) {
+  if (!name.isEmpty() && isPlacedByPath(path, name))
+    return Texts::tr(
+        "its coordinate system names a file by a path, which is not opened; give it another coordinate "
+        "system");
+  if (headOf(path, 6) == "SQLite" && leadsElsewhere(path))
+    return Texts::tr(
+        "it holds a table or a coordinate system that leads to another file, which is not opened; remove "
+        "it");
+  return QString();
+}
+
 // The folder within an archive that holds a Shapefile; empty where none does.
 QByteArray folderWithShapes(QString const& archive) {
   if (archive.contains(QLatin1Char('{')) || archive.contains(QLatin1Char('}'))) return QByteArray();
@@ -182,15 +195,9 @@ DatasetPointer openLocalDataset(QString const& path, QString& error) {
   QString const absolute = QFileInfo(path).absoluteFilePath();
   bool const isArchive = hasSuffix(path, "zip");
   QByteArray const name = isArchive ? folderWithShapes(absolute) : absolute.toUtf8();
-  if (!name.isEmpty() && isPlacedByPath(absolute, name)) {
-    error = cannotOpen(path, Texts::tr("its coordinate system names a file by a path, which is not opened; give it "
-                                       "another coordinate system"));
-    return nullptr;
-  }
-  if (headOf(path, 6) == "SQLite" && leadsElsewhere(absolute)) {
-    error =
-        cannotOpen(path, Texts::tr("it holds a table or a coordinate system that leads to another file, which is not "
-                                   "opened; remove it"));
+  reason = refusalOfContent(absolute, name);
+  if (!reason.isEmpty()) {
+    error = cannotOpen(path, reason);
     return nullptr;
   }
   char const* const shapes[] = {"ESRI Shapefile", nullptr};
