@@ -1,7 +1,10 @@
 #include "DatabaseReach.h"
 
+#include "DatabaseBounds.h"
 #include "SystemTexts.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QUrl>
@@ -54,14 +57,20 @@ bool holdsWayOut(sqlite3* database) {
 }  // namespace
 
 // Immutable, so that nothing is written beside it; what another program has yet to write into it comes with its log.
-bool leadsElsewhere(QString const& path) {
+QString problemOfDatabase(QString const& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly) || file.read(6) != "SQLite") return QString();
   bool const isBeingWritten = QFileInfo(path + QLatin1String("-wal")).size() > 0;
-  QByteArray const address = "file:" + QUrl::toPercentEncoding(path, "/") +
+  QByteArray const address = "file:" + QUrl::toPercentEncoding(QFileInfo(path).absoluteFilePath(), "/") +
                              (isBeingWritten ? QByteArray() : QByteArrayLiteral("?immutable=1"));
+  DatabaseBounds const bounds(path);
   sqlite3* opened = nullptr;
   int const result = sqlite3_open_v2(address.constData(), &opened, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
   std::unique_ptr<sqlite3, int (*)(sqlite3*)> const database(opened, sqlite3_close);
-  return result == SQLITE_OK && holdsWayOut(opened);
+  if (result != SQLITE_OK || !holdsWayOut(opened)) return QString();
+  return QCoreApplication::translate("DataSource",
+                                     "it holds a table or a coordinate system that leads to another file, which is not "
+                                     "opened; remove it");
 }
 
 }  // namespace SysCarto

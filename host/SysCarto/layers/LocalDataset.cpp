@@ -128,15 +128,8 @@ QString refusalOfHead(QString const& path) {
 
 // What would have other files opened as soon as a driver looks at it. `name` is empty where there is nothing to open.
 QString refusalOfContent(QString const& path, QByteArray const& name) {
-  if (!name.isEmpty() && isPlacedByPath(path, name))
-    return Texts::tr(
-        "its coordinate system names a file by a path, which is not opened; give it another coordinate "
-        "system");
-  if (headOf(path, 6) == "SQLite" && leadsElsewhere(path))
-    return Texts::tr(
-        "it holds a table or a coordinate system that leads to another file, which is not opened; remove "
-        "it");
-  return QString();
+  QString const problem = name.isEmpty() ? QString() : problemOfSystem(path, name);
+  return problem.isEmpty() ? problemOfDatabase(path) : problem;
 }
 
 // The folder within an archive that holds a Shapefile; empty where none does.

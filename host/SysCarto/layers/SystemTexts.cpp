@@ -1,5 +1,6 @@
 #include "SystemTexts.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -8,7 +9,6 @@
 #include <cpl_vsi.h>
 
 #include <algorithm>
-#include <cstring>
 
 namespace SysCarto {
 
@@ -36,8 +36,9 @@ bool mayBeName(QByteArray const& text, int sign) {
   int end = sign;
   while (end > 0 && (text[end - 1] == ' ' || text[end - 1] == '\t')) --end;
   QByteArray const last = QByteArray::fromRawData(text.constData() + std::max(0, end - 4), std::min(4, end)).toLower();
-  return last == "rids" || last == "init" || last == "file" || last == "odel" ||
-         std::memchr(text.constData() + std::max(0, end - before), '\\', static_cast<size_t>(std::min(before, end)));
+  bool const isEscaped =
+      QByteArray::fromRawData(text.constData() + std::max(0, end - before), std::min(before, end)).contains("\\u");
+  return isEscaped || last == "rids" || last == "init" || last == "file" || last == "odel";
 }
 
 bool isPathAt(QByteArray const& text, int sign, int length) {
@@ -71,18 +72,7 @@ bool companionNamesPath(QByteArray const& name) {
   return isFound;
 }
 
-}  // namespace
-
-bool namesGridByPath(QByteArray const& text) {
-  static QByteArray const escaped = QByteArrayLiteral("\\u003d"), upper = QByteArrayLiteral("\\u003D");
-  for (QByteArray const& sign : {QByteArray("="), escaped, upper})
-    for (int at = text.indexOf(sign); at >= 0; at = text.indexOf(sign, at + 1))
-      if (isPathAt(text, at, sign.size())) return true;
-  return false;
-}
-
-bool isPlacedByPath(QString const& path, QByteArray const& name) {
-  if (companionNamesPath(name)) return true;
+bool fileNamesPath(QString const& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return false;
   auto const holds = [&file](qint64 from, qint64 size) {
@@ -97,12 +87,30 @@ bool isPlacedByPath(QString const& path, QByteArray const& name) {
   for (char const* const without : {"PK", "SQLite", "\x03", "\x83"})
     if (head.startsWith(without)) return false;
   if (head.startsWith(QByteArray("\0\0\x27\x0a", 4))) return false;
-  bool const isEndOnly = head.startsWith("fgb") || head.startsWith("PAR1") || head.startsWith("ARROW1");
+  bool const isEndOnly = head.startsWith("fgb") || head.startsWith("PAR1") || head.startsWith("ARROW1") ||
+                         head.startsWith("II") || head.startsWith("MM");
   if (isEndOnly && file.size() > 2 * headBytes) return holds(0, headBytes) || holds(file.size() - headBytes, headBytes);
   constexpr qint64 portion = 1024 * 1024 * 1024;
   for (qint64 from = 0; from < file.size(); from += portion - pageBytes)
     if (holds(from, std::min(portion, file.size() - from))) return true;
   return false;
+}
+
+}  // namespace
+
+bool namesGridByPath(QByteArray const& text) {
+  static QByteArray const escaped = QByteArrayLiteral("\\u003d"), upper = QByteArrayLiteral("\\u003D");
+  for (QByteArray const& sign : {QByteArray("="), escaped, upper})
+    for (int at = text.indexOf(sign); at >= 0; at = text.indexOf(sign, at + 1))
+      if (isPathAt(text, at, sign.size())) return true;
+  return false;
+}
+
+QString problemOfSystem(QString const& path, QByteArray const& name) {
+  if (!companionNamesPath(name) && !fileNamesPath(path)) return QString();
+  return QCoreApplication::translate("DataSource",
+                                     "its coordinate system names a file by a path, which is not opened; give it "
+                                     "another coordinate system");
 }
 
 }  // namespace SysCarto

@@ -10,8 +10,9 @@ namespace SysCarto {
 /// data of strangers has to look first.
 bool namesGridByPath(QByteArray const& text);
 
-/// The same of what tells the coordinate system of a local file of data, or of a folder of GDAL's in an archive
-/// (`name`, as GDAL opens it). A database is not looked into.
-bool isPlacedByPath(QString const& path, QByteArray const& name);
+/// Why a file of data is not opened, to go on after "it can't be opened: ", where its coordinate system does that, or
+/// one that lies beside it or in a folder of an archive (`name`, as GDAL opens it). Empty for any other, and for a
+/// database. Of a large raster only the ends are looked at.
+QString problemOfSystem(QString const& path, QByteArray const& name);
 
 }  // namespace SysCarto

@@ -102,6 +102,17 @@ QString checkCoordinateSystem(QString const& definition) {
   return read(definition, system);
 }
 
+bool namesPath(OGRSpatialReference const& system) {
+  SysGeometry::QuietOgr const quiet;
+  char *wkt = nullptr, *projText = nullptr;
+  system.exportToWkt(&wkt);
+  system.exportToProj4(&projText);
+  QString const text = QString::fromUtf8(wkt) + QLatin1Char('\n') + QString::fromUtf8(projText);
+  CPLFree(wkt);
+  CPLFree(projText);
+  return matches(text, R"((grids|\binit|\bfile)\s*=[^\s"+]*/)") || matches(text, R"(PARAMETERFILE\s*\[[^\]]*/)");
+}
+
 // A document names few systems and asks for them again and again, and PROJ looks each up in its database. What is kept
 // is only copied, and never goes: threads that made it may have gone, and PROJ itself at the end.
 std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definition) {

@@ -17,6 +17,10 @@ namespace SysCarto {
 /// documents come from strangers.
 SYSCARTO_EXPORT QString checkCoordinateSystem(QString const& definition);
 
+/// Whether a system that data have names a grid or a file by a path of its own, which PROJ would open wherever it
+/// leads. One by its bare name lies among PROJ's own.
+SYSCARTO_EXPORT bool namesPath(OGRSpatialReference const& system);
+
 /// The coordinate system of a definition, with x (easting, longitude) before y; null for plain coordinates and for what
 /// `checkCoordinateSystem` refuses.
 SYSCARTO_EXPORT std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definition);
