@@ -7,7 +7,6 @@
 #include "host/desktop/RunSteps.h"
 #include "host/desktop/Session.h"
 
-#include <QDir>
 #include <QTemporaryDir>
 
 namespace {
@@ -26,7 +25,6 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   static QTemporaryDir const home;
   for (char const* const variable : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
     qputenv(variable, home.path().toUtf8());
-  QDir::setCurrent(home.path());
   fuzz::start(*argc, *argv);
   prepareApplication();
   SysUtility::FileReach::confine({home.path(), QStringLiteral(PLOTVANE_FUZZ_SEEDS "/document")});
