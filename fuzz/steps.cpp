@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     qputenv(variable, home.path().toUtf8());
   fuzz::start(*argc, *argv);
   prepareApplication();
-  SysUtility::FileReach::confine({home.path(), QStringLiteral(PLOTVANE_FUZZ_SEEDS "/document")});
+  SysUtility::FileReach::confine({home.path(), QStringLiteral(PLOTVANE_FUZZ_FOLDER)});
   return 0;
 }
 
@@ -39,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* bytes, std::size_t siz
   if (steps.size() > mostSteps) return 0;
   RunSteps run(false);
   if (steps.isEmpty() || !run.check(steps).isEmpty()) return 0;
-  fuzz::require(run.open(QStringLiteral(PLOTVANE_FUZZ_SEEDS "/document/everything.kdx")).isEmpty());
+  fuzz::require(run.open(QStringLiteral(PLOTVANE_FUZZ_FOLDER "/steps.kdx")).isEmpty());
   for (QString const& step : qAsConst(steps))
     if (!run.run(step).isEmpty()) break;
   return 0;
