@@ -1,6 +1,8 @@
 #include "RasterSource.h"
 
 #include "host/SysCarto/layers/DataSource.h"
+#include "host/SysCarto/layers/DatabaseReach.h"
+#include "host/SysCarto/layers/SystemTexts.h"
 #include "host/SysCarto/layers/DatabaseBounds.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GdalErrors.h"
@@ -113,6 +115,9 @@ QString refusalOf(QString const& path) {
     reason = Texts::tr("it is empty");
   else if (hasSuffix(path, {QStringLiteral("vrt")}))
     reason = Texts::tr("it only refers to other files; make one file of it, as by gdal_translate");
+  else
+    reason = problemOfDatabase(path);
+  if (reason.isEmpty()) reason = problemOfSystem(path, path.toUtf8());
   return reason.isEmpty() ? reason : Texts::tr("The raster “%1” can't be opened: %2.").arg(path, reason);
 }
 
