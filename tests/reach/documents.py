@@ -2,6 +2,7 @@
 import json
 import shutil
 import sqlite3
+import struct
 import sys
 import zipfile
 from pathlib import Path
@@ -177,6 +178,40 @@ def formats_that_name_files(folder, outside):
         archive.writestr(f"{outside}/data.shp", b"x")
     names = sorted(path.name for path in folder.iterdir())
     return one_map(*[points(name) for name in names])
+
+
+def tiff(system):
+    """Four grey pixels, with a citation of a coordinate system as a GeoTIFF has it."""
+    text = f"ESRI PE String = {system}|".encode()
+    keys = struct.pack("<16H", 1, 1, 0, 3, 1024, 0, 1, 2, 2048, 0, 1, 32767, 2049, 34737, len(text), 0)
+    scale, tie = struct.pack("<3d", 1, 1, 0), struct.pack("<6d", 0, 0, 0, 10, 50, 0)
+    at = 8 + 2 + 14 * 12 + 4
+    places = [at, at + len(keys), at + len(keys) + len(scale), at + len(keys) + len(scale) + len(tie)]
+    entries = [(256, 3, 1, 2), (257, 3, 1, 2), (258, 3, 1, 8), (259, 3, 1, 1), (262, 3, 1, 1), (273, 4, 1, places[3] + len(text)),
+               (277, 3, 1, 1), (278, 3, 1, 2), (279, 4, 1, 4), (33550, 12, 3, places[1]), (33922, 12, 6, places[2]),
+               (34735, 3, 16, places[0]), (34737, 2, len(text), places[3]), (339, 3, 1, 1)]
+    directory = struct.pack("<H", len(entries)) + b"".join(struct.pack("<HHII", *entry) for entry in sorted(entries))
+    return struct.pack("<2sHI", b"II", 42, 8) + directory + struct.pack("<I", 0) + keys + scale + tie + text + bytes([0, 80, 160, 240])
+
+
+@case
+def rasters(folder, outside):
+    wkt = ('GEOGCS["x",DATUM["d",SPHEROID["s",6378137,298.25]],PRIMEM["g",0],UNIT["degree",0.0174532925199433],'
+           f'EXTENSION["PROJ4","+proj=longlat +ellps=WGS84 +nadgrids={outside}/secret"]]')
+    (folder / "system.tif").write_bytes(tiff(wkt))
+    for name in ("plain.tif", "overview.tif", "mask.tif", "world.tif", "told.tif"):
+        (folder / name).write_bytes(tiff(wkt.split(",EXTENSION")[0] + "]"))
+    (folder / "overview.tif.ovr").symlink_to(outside / "secret")
+    (folder / "mask.tif.msk").write_text(f'<VRTDataset rasterXSize="2" rasterYSize="2"><VRTRasterBand dataType="Byte" band="1"><SimpleSource><SourceFilename>{outside}/picture.svg</SourceFilename></SimpleSource></VRTRasterBand></VRTDataset>')
+    (folder / "world.tfw").symlink_to(outside / "secret")
+    (folder / "told.tif.aux.xml").write_text(f'<PAMDataset><Metadata domain="OVERVIEWS"><MDI key="OVERVIEW_FILE">{outside}/secret</MDI></Metadata><SRS>{wkt.replace(chr(34), "&quot;")}</SRS></PAMDataset>')
+    for name in ("source.vrt", "source.tif", "source.png", "source.jp2", "source.mbtiles"):
+        shutil.copy(folder / "mask.tif.msk", folder / name)
+    (folder / "link.tif").symlink_to(outside / "secret")
+    names = [*sorted(path.name for path in folder.iterdir()), f"{outside}/secret", f"/vsicurl/{ADDRESS}.tif", f"GTIFF_DIR:1:{outside}/secret", f"WMS:{ADDRESS}"]
+    layers = [{"type": "raster", "name": name, "source": {"file": name}, "renderer": {"type": kind}}
+              for name in names for kind in ("color", "slope")]
+    return one_map(*layers, coordinateSystem="EPSG:4326")
 
 
 @case
