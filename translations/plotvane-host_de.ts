@@ -1839,6 +1839,14 @@
         <source>Pixels</source>
         <translation>Pixel</translation>
     </message>
+    <message>
+        <source>it holds a table or a coordinate system that leads to another file, which is not opened; remove it</source>
+        <translation>sie enthält eine Tabelle oder ein Koordinatensystem, das zu einer anderen Datei führt, die nicht geöffnet wird; entfernen Sie es</translation>
+    </message>
+    <message>
+        <source>its coordinate system names a file by a path, which is not opened; give it another coordinate system</source>
+        <translation>ihr Koordinatensystem nennt eine Datei mit ihrem Pfad, die nicht geöffnet wird; geben Sie ihr ein anderes Koordinatensystem</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -2756,7 +2764,7 @@
     </message>
     <message>
         <source>The coordinate system of %1 names a file by its path, which is not opened; give another one in the source&apos;s field “coordinateSystem”.</source>
-        <translation>Das Koordinatensystem von %1 nennt eine Datei mit ihrem Pfad, die nicht geöffnet wird; geben Sie im Feld „coordinateSystem“ der Quelle ein anderes an.</translation>
+        <translation type="vanished">Das Koordinatensystem von %1 nennt eine Datei mit ihrem Pfad, die nicht geöffnet wird; geben Sie im Feld „coordinateSystem“ der Quelle ein anderes an.</translation>
     </message>
 </context>
 <context>

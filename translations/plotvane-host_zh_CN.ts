@@ -1839,6 +1839,14 @@
         <source>Pixels</source>
         <translation>像素</translation>
     </message>
+    <message>
+        <source>it holds a table or a coordinate system that leads to another file, which is not opened; remove it</source>
+        <translation>其中有表或坐标系指向另一个文件，该文件不会被打开；请将其移除</translation>
+    </message>
+    <message>
+        <source>its coordinate system names a file by a path, which is not opened; give it another coordinate system</source>
+        <translation>其坐标系按路径引用了一个文件，该文件不会被打开；请为其指定另一个坐标系</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -2756,7 +2764,7 @@
     </message>
     <message>
         <source>The coordinate system of %1 names a file by its path, which is not opened; give another one in the source&apos;s field “coordinateSystem”.</source>
-        <translation>%1 的坐标系按路径引用了一个文件，该文件不会被打开；请在数据源的字段“coordinateSystem”中指定另一个坐标系。</translation>
+        <translation type="vanished">%1 的坐标系按路径引用了一个文件，该文件不会被打开；请在数据源的字段“coordinateSystem”中指定另一个坐标系。</translation>
     </message>
 </context>
 <context>

@@ -12,7 +12,7 @@ bool namesGridByPath(QByteArray const& text);
 
 /// Why a file of data is not opened, to go on after "it can't be opened: ", where its coordinate system does that, or
 /// one that lies beside it or in a folder of an archive (`name`, as GDAL opens it). Empty for any other, and for a
-/// database.
+/// database. Of a large raster only the ends are looked at.
 QString problemOfSystem(QString const& path, QByteArray const& name);
 
 }  // namespace SysCarto
