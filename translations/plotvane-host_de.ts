@@ -7981,6 +7981,10 @@
         <source>%1 was not written: %2</source>
         <translation>%1 wurde nicht geschrieben: %2</translation>
     </message>
+    <message>
+        <source>%1 was not written: its symbols draw over each other many hundred times; make them smaller, fewer or less dense, or give less DPI.</source>
+        <translation>%1 wurde nicht geschrieben: Seine Symbole liegen viele hundert Mal übereinander; machen Sie sie kleiner, weniger zahlreich oder weniger dicht, oder geben Sie weniger DPI an.</translation>
+    </message>
 </context>
 <context>
     <name>PageGesture</name>
