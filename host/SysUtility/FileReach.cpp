@@ -1,5 +1,7 @@
 #include "FileReach.h"
 
+#include "FileSaver.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
@@ -65,7 +67,7 @@ FileReach::FileReach(QStringList const& folders) {
 }
 
 FileReach FileReach::ofDocument(QString const& path, QStringList const& allowed) {
-  FileReach reach(QStringList{QFileInfo(path).absolutePath()} + allowed);
+  FileReach reach(QStringList{QFileInfo(FileSaver::realPath(path)).absolutePath()} + allowed);
   if (ofProcess()) reach.folders_ += ofProcess()->folders_;
   return reach;
 }

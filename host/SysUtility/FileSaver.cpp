@@ -3,6 +3,7 @@
 #include "JsonFile.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -27,11 +28,6 @@ struct Texts {
 
 QString problem(QString const& path, QString const& cause, QString const& fix) {
   return aboutFile(path, cause + QStringLiteral("; ") + fix);
-}
-
-QString realPath(QString const& path) {
-  QString const real = QFileInfo(path).canonicalFilePath();
-  return real.isEmpty() ? path : real;
 }
 
 bool takesNewFiles(QString const& folder) { return access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0; }
@@ -122,9 +118,8 @@ QString fill(QFileDevice& file, QString const& path, QString const& real, QByteA
 // process left there that died just then gives way.
 enum class Placed { Yes, No, Unknown };
 Placed placeUnnamed(int handle, QString const& real) {
-  QFileInfo const file(real);
   QByteArray const from = "/proc/self/fd/" + QByteArray::number(handle);
-  QByteArray const beside = QFile::encodeName(file.absolutePath() + QStringLiteral("/.%1.new").arg(file.fileName()));
+  QByteArray const beside = QFile::encodeName(FileSaver::besideOf(real));
   auto const link = [&] {
     return linkat(AT_FDCWD, from.constData(), AT_FDCWD, beside.constData(), AT_SYMLINK_FOLLOW) == 0;
   };
@@ -167,6 +162,22 @@ QString saveNamed(QString const& path, QString const& real, QByteArray const& co
 }
 
 }  // namespace
+
+// A name is as long as names may be, so that this one can't be longer.
+QString FileSaver::besideOf(QString const& path) {
+  QFileInfo const file(path);
+  QByteArray const digest =
+      QCryptographicHash::hash(file.fileName().toUtf8(), QCryptographicHash::Sha1).toHex().left(16);
+  return file.absolutePath() + QLatin1Char('/') + QLatin1String(besidePrefix) + QString::fromLatin1(digest);
+}
+
+QString FileSaver::realPath(QString const& path) {
+  constexpr int maxLinks = 40;  // as many as the system follows
+  QString real = path;
+  for (int i = 0; i < maxLinks && QFileInfo(real).isSymLink(); ++i) real = QFileInfo(real).symLinkTarget();
+  QString const found = QFileInfo(real).canonicalFilePath();
+  return found.isEmpty() ? real : found;
+}
 
 QString FileSaver::save(QString const& path, QByteArray const& content) {
   QString const obstacle = checkPlace(path);

@@ -18,6 +18,15 @@ public:
   /// is written over in its place: then alone a power cut may leave a half.
   static QString save(QString const& path, QByteArray const& content);
 
+  static constexpr char besidePrefix[] = ".plotvane-new-";
+
+  /// The name that a file which is being saved has for a moment beside its place. A process that is killed just then
+  /// leaves it; the next save takes it away.
+  static QString besideOf(QString const& path);
+
+  /// What a save there replaces: the path itself, or what it leads to as a link.
+  static QString realPath(QString const& path);
+
   /// Whether a file can be put there: a sentence as `save` answers one where the folder is missing or can't be written,
   /// or where something lies there that must not give way: a folder, a device, a pipe, a write-protected file.
   static QString checkPlace(QString const& path);

@@ -3,6 +3,7 @@
 #include "Confinement.h"
 #include "Console.h"
 #include "Language.h"
+#include "Supervision.h"
 
 #include "host/SysUtility/FileReach.h"
 
@@ -111,9 +112,13 @@ std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLinePar
   QCommandLineOption const allow(QLatin1String(Confinement::folderOption),
                                  Texts::tr("A folder for --confine; may be given several times."),
                                  QStringLiteral("FOLDER"));
+  QCommandLineOption const seconds(QLatin1String(ResourceLimits::secondsOption),
+                                   Texts::tr("End it, cleaned up, after so many seconds."), QStringLiteral("N"));
+  QCommandLineOption const memory(QLatin1String(ResourceLimits::memoryOption),
+                                  Texts::tr("End it where it takes more than so many megabytes."), QStringLiteral("N"));
   bool const opensFiles = QLatin1String(self.operands).startsWith(QLatin1String("DOCUMENT"));
   if (opensFiles) parser.addOptions({confine, allow});
-  parser.addOptions({language, help});
+  parser.addOptions({seconds, memory, language, help});
   parser.setApplicationDescription(Texts::tr("%1.").arg(Texts::tr(self.help)));
   bool const understood = parser.parse(QStringList(QStringLiteral("plotvane")) + arguments);
   if (parser.isSet(help)) {

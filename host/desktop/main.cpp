@@ -71,9 +71,13 @@ int runSubcommand(int argc, char** argv, std::optional<QString> const& language,
 }
 
 // In English: nothing is translated yet.
-int tellWindowIsFree() {
-  Console::complain(QStringLiteral(
-      "--confine is for subcommands; leave it out, since the window tells which folders a document reaches."));
+// In English: nothing is translated yet.
+int tellWindowIsFree(bool isConfined) {
+  Console::complain(
+      isConfined ? QStringLiteral(
+                       "--confine is for subcommands; leave it out, since the window tells which folders a document "
+                       "reaches.")
+                 : QStringLiteral("--max-seconds and --max-memory are for subcommands; leave them out."));
   return WrongArguments;
 }
 
@@ -123,7 +127,8 @@ int main(int argc, char** argv) {
   Confinement confinement;
   if (!confinement.take(arguments)) return WrongArguments;
   if (asksForWindow(arguments)) {
-    if (confinement.isConfined) return tellWindowIsFree();
+    bool const isLimited = limits.seconds > 0 || limits.megabytes > 0;
+    if (confinement.isConfined || isLimited) return tellWindowIsFree(confinement.isConfined);
     prepareWindowEnvironment();
     return runWindow(argc, argv, language);
   }

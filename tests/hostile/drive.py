@@ -52,7 +52,7 @@ class Run:
         self.seconds = usage.ru_utime + usage.ru_stime
         self.megabytes = usage.ru_maxrss / 1024
         self.faults = self.judge(seconds, megabytes)
-        if says not in self.said:
+        if says not in self.said and work != "info":  # which reads no feature
             self.faults.append(f"not told: {says}")
 
     @staticmethod

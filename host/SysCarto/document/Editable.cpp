@@ -16,6 +16,7 @@
 #include "host/SysCarto/maps/ValueStep.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysDisplay/SymbolFields.h"
+#include "host/SysUtility/FileSaver.h"
 
 #include <SysCarto/Editor.h>
 #include <SysCarto/MapSurroundFrame.h>
@@ -43,7 +44,7 @@ struct Texts {
 // With the maps of all data frames.
 DocumentContext contextOf(MapDocument const& document) {
   DocumentContext context;
-  context.folder = QFileInfo(document.GetPath()).absolutePath();
+  context.folder = QFileInfo(SysUtility::FileSaver::realPath(document.GetPath())).absolutePath();
   context.relativePaths = document.IsUsesRelativePaths() && !document.GetPath().isEmpty();
   auto const layout = document.GetPageLayout();
   if (!layout) return context;

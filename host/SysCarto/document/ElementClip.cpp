@@ -4,6 +4,7 @@
 #include "ElementFields.h"
 
 #include "host/SysCarto/elements/ElementHost.h"
+#include "host/SysUtility/FileSaver.h"
 #include "host/SysUtility/JsonFields.h"
 #include "host/SysUtility/JsonFile.h"
 
@@ -82,7 +83,7 @@ ElementClip ElementClip::of(MapDocument const& document, QList<_ptr_t<Element>> 
   }
   listMapsOf(content);
   DocumentContext context;
-  context.folder = QFileInfo(document.GetPath()).absolutePath();
+  context.folder = QFileInfo(SysUtility::FileSaver::realPath(document.GetPath())).absolutePath();
   context.relativePaths = false;
   SysUtility::JsonWriter writer;
   content.list(writer, context);

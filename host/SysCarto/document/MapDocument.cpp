@@ -43,13 +43,14 @@ struct Texts {
 
 SysUtility::JsonFileKind documentKind() { return {Texts::tr("map document"), QStringLiteral(".kdx"), 256}; }
 
-QString folderOf(QString const& path) { return QFileInfo(path).absolutePath(); }
+// Where its relative paths begin: a document that is a link is the file that it leads to.
+QString folderOf(QString const& path) { return QFileInfo(SysUtility::FileSaver::realPath(path)).absolutePath(); }
 
 // Written like every file of ours, so that a full disk does not leave half a backup in the place of a whole one. Where
 // the folder takes no new files, the document is saved all the same, without one.
 QString keepOldFile(QString const& path) {
   QFile file(path);
-  QString const backup = path + QLatin1Char('~');
+  QString const backup = SysUtility::FileSaver::realPath(path) + QLatin1Char('~');
   bool const hasRoom = QFile::exists(backup) || SysUtility::FileSaver::checkPlace(backup).isEmpty();
   if (!file.exists() || !hasRoom) return QString();
   bool const isOpen = file.open(QIODevice::ReadOnly);

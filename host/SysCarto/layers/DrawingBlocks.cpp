@@ -35,9 +35,16 @@ public:
 private:
   bool next() {
     if (!file_.isOpen() || file_.atEnd()) return false;
-    code_ = file_.readLine(longestLine).trimmed().toInt();
-    value_ = file_.readLine(longestLine).trimmed();
+    code_ = line().toInt();
+    value_ = line();
     return true;
+  }
+
+  // What goes on beyond the longest is passed over, and does not count as a line of its own.
+  QByteArray line() {
+    QByteArray const beginning = file_.readLine(longestLine);
+    for (QByteArray rest = beginning; !rest.isEmpty() && !rest.endsWith('\n');) rest = file_.readLine(longestLine);
+    return beginning.trimmed();
   }
 
   void take() {

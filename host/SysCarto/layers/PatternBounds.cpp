@@ -33,10 +33,11 @@ int powerOf(swq_expr_node const& pattern) {
   return power;
 }
 
-std::size_t longestText(OGRFeature const& feature) {
+std::size_t longestText(OGRFeature const& feature, std::vector<int> const& fields) {
   std::size_t longest = 0;
   for (int i = 0; i < feature.GetFieldCount(); ++i)
-    if (feature.GetFieldDefnRef(i)->GetType() == OFTString && feature.IsFieldSetAndNotNull(i))
+    if ((fields.empty() || std::find(fields.begin(), fields.end(), i) != fields.end()) &&
+        feature.GetFieldDefnRef(i)->GetType() == OFTString && feature.IsFieldSetAndNotNull(i))
       longest = std::max(longest, std::strlen(feature.GetRawFieldRef(i)->String));
   return longest;
 }
@@ -49,6 +50,9 @@ void PatternBounds::look(swq_expr_node const& node) {
   if ((node.nOperation == SWQ_LIKE || node.nOperation == SWQ_ILIKE) && node.nSubExprCount > 1) {
     ++patterns_;
     power_ = std::max(power_, powerOf(*node.papoSubExpr[1]));
+    swq_expr_node const& text = *node.papoSubExpr[0];
+    fields_.push_back(text.field_index);
+    areKnown_ = areKnown_ && text.eNodeType == SNT_COLUMN && text.field_index >= 0;
   }
   for (int i = 0; i < node.nSubExprCount; ++i) look(*node.papoSubExpr[i]);
 }
@@ -56,7 +60,8 @@ void PatternBounds::look(swq_expr_node const& node) {
 bool PatternBounds::admit(OGRFeature const& feature) {
   if (power_ < 2) return true;  // with one %, each place is tried once
   if (charged_ > mostLetters) return false;
-  auto const length = static_cast<double>(longestText(feature)) * std::max(columns_, 1);
+  auto const length = areKnown_ ? static_cast<double>(longestText(feature, fields_))
+                                : static_cast<double>(longestText(feature, {})) * std::max(columns_, 1);
   double const letters = patterns_ * std::pow(length, power_);
   if (letters > freeLetters) charged_ += letters;
   if (charged_ <= mostLetters) return true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 class OGRFeature;
 class swq_expr_node;
 
@@ -20,8 +22,10 @@ private:
   void look(swq_expr_node const& node);
 
   int patterns_ = 0, columns_ = 0;
-  int power_ = 0;       // the most % in one of them that something follows
-  double charged_ = 0;  // in letters that are compared
+  std::vector<int> fields_;  // that are held against a pattern; empty for any of them
+  bool areKnown_ = true;     // unless something is put together of them first
+  int power_ = 0;            // the most % in one of them that something follows
+  double charged_ = 0;       // in letters that are compared
 };
 
 }  // namespace SysCarto

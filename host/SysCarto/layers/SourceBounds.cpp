@@ -1,6 +1,7 @@
 #include "SourceBounds.h"
 
 #include <QCoreApplication>
+#include <QDirIterator>
 #include <QFileInfo>
 
 #include <cpl_error.h>
@@ -33,12 +34,23 @@ std::size_t bytesOf(OGRFeature const& feature) {
   return bytes;
 }
 
+qint64 dataSizeOf(QString const& file) {
+  QFileInfo const own(file);
+  qint64 bytes = 0;
+  QDirIterator files(own.absolutePath(), {own.completeBaseName() + QStringLiteral(".*")}, QDir::Files);
+  while (files.hasNext()) {
+    files.next();
+    if (files.fileInfo().completeBaseName() == own.completeBaseName()) bytes += files.fileInfo().size();
+  }
+  return bytes;
+}
+
 bool SourceBounds::allows(double features, qint64 fileSize) {
   return features <= static_cast<double>(freeFeatures) + static_cast<double>(fileSize);
 }
 
 SourceBounds::SourceBounds(QString const& file) {
-  auto const size = static_cast<std::size_t>(QFileInfo(file).size());
+  auto const size = static_cast<std::size_t>(file.isEmpty() ? 0 : dataSizeOf(file));
   featuresLeft_ = freeFeatures + size;
   bytesLeft_ = freeBytes + bytesPerByte * size;
 }

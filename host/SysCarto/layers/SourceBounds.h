@@ -1,5 +1,7 @@
 #pragma once
 
+#include <SysCarto/Export.h>
+
 #include <QString>
 #include <QtGlobal>
 
@@ -11,6 +13,9 @@ namespace SysCarto {
 
 /// About how much of memory a feature takes: its geometry and its texts.
 std::size_t bytesOf(OGRFeature const& feature);
+
+/// How large a file of data is with those of its name beside it, in which some formats have their features.
+SYSCARTO_EXPORT qint64 dataSizeOf(QString const& file);
 
 /// Holds what is read of a file against the file's size: a view of a database, an index that names one record a million
 /// times, or blocks of a drawing can give without end what takes a few bytes.

@@ -43,6 +43,7 @@ struct GroundScale::Private {
 
   double measured(QPointF const& from, QPointF const& to) const;
   double nominal() const;
+  double ground(QPointF const& from, QPointF const& to, double units) const;
 };
 
 GroundScale::GroundScale(QString const& definition) : d(std::make_unique<Private>()) {
@@ -83,15 +84,19 @@ double GroundScale::Private::measured(QPointF const& from, QPointF const& to) co
 
 // Half a step to either side, so that the result belongs to the place itself.
 double GroundScale::metresPerUnit(double x, double y, double step) const {
-  return metresBetween({x - step / 2, y}, {x + step / 2, y}) / step;
+  return d->ground({x - step / 2, y}, {x + step / 2, y}, step) / step;
 }
 
 double GroundScale::metresBetween(QPointF const& from, QPointF const& to) const {
-  double const units = std::hypot(to.x() - from.x(), to.y() - from.y());
-  if (!d->system) return units;
-  double const metres = d->measured(from, to), nominal = d->nominal() * units;
-  bool const isGround = d->toGlobe ? metres > nominal / maxStretch && metres < nominal * maxStretch : metres > 0;
-  return isGround ? metres : nominal;
+  return d->ground(from, to, std::hypot(to.x() - from.x(), to.y() - from.y()));
+}
+
+// So many map units apart.
+double GroundScale::Private::ground(QPointF const& from, QPointF const& to, double units) const {
+  if (!system) return units;
+  double const metres = measured(from, to), byName = nominal() * units;
+  bool const isGround = toGlobe ? metres > byName / maxStretch && metres < byName * maxStretch : metres > 0;
+  return isGround ? metres : byName;
 }
 
 double GroundScale::northAngle(double x, double y) const {

@@ -89,15 +89,6 @@ bool readLastRows(GDALDataset& dataset, QSize const& size, int bandCount) {
                           GDT_Byte, bandCount, nullptr, 0, 0, 0, nullptr) == CE_None;
 }
 
-// Local file systems that find room for what is written at once. Others tell only at a sync that the disk is full.
-constexpr char const* promptFileSystems[] = {"ext2", "ext3", "ext4", "xfs", "tmpfs"};
-
-bool tellsLate(QString const& path) {
-  QByteArray const type = QStorageInfo(QFileInfo(path).absolutePath()).fileSystemType();
-  return std::none_of(std::begin(promptFileSystems), std::end(promptFileSystems),
-                      [&](char const* prompt) { return type == prompt; });
-}
-
 // 0, or the system's error.
 int moved(QString const& from, QString const& to) {
   return std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0 ? 0 : errno;
@@ -106,7 +97,7 @@ int moved(QString const& from, QString const& to) {
 int syncToDisk(QString const& path) {
   int const file = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
   if (file < 0) return errno;
-  int const error = fsync(file) == 0 ? 0 : errno;
+  int const error = fsync(file) == 0 || errno == EINVAL ? 0 : errno;  // which says that there is nothing to do
   close(file);
   return error;
 }
@@ -240,7 +231,7 @@ bool ImageTarget::hasItsEnd(GDALDataset& image, QSize const& size, int bands) co
 }
 
 QString ImageTarget::commit() {
-  int error = tellsLate(workingPath()) ? syncToDisk(workingPath()) : 0;
+  int error = syncToDisk(workingPath());
   if (error == 0) error = moved(workingPath(), path_);
   if (error != 0) return tr("%1 was not written: %2.").arg(name_, systemReason(error));
   for (QString const& name : beside_)

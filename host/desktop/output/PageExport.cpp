@@ -4,6 +4,7 @@
 #include "PageImage.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
+#include "host/SysCarto/layers/SourceBounds.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysDisplay/DrawingBudget.h"
 #include "host/desktop/vector/VectorExport.h"
@@ -27,7 +28,7 @@ constexpr double pixelsPerByte = 1e4;
 double worthOf(SysCarto::MapDocument const& document, QSize const& size) {
   double bytes = static_cast<double>(QFileInfo(document.GetPath()).size());
   for (auto const& source : SysCarto::sourcesOf(*document.GetPageLayout()))
-    bytes += static_cast<double>(QFileInfo(source.file).size());
+    bytes += static_cast<double>(SysCarto::dataSizeOf(source.file));
   return freePixels + timesThePage * size.width() * size.height() + pixelsPerByte * bytes;
 }
 

@@ -42,12 +42,10 @@ QByteArray pngOf(QImage const& image) {
   return bytes;
 }
 
-// Each file may have been about to get its name (`FileSaver`).
 void removeCopy(QString const& base) {
-  QFileInfo const files(base);
   for (char const* suffix : suffixes) {
     QFile::remove(base + QLatin1String(suffix));
-    QFile::remove(files.path() + QStringLiteral("/.%1%2.new").arg(files.fileName(), QLatin1String(suffix)));
+    QFile::remove(SysUtility::FileSaver::besideOf(base + QLatin1String(suffix)));
   }
 }
 
@@ -60,9 +58,14 @@ std::unique_ptr<QLockFile> lockOf(QString const& base) {
 
 // What a process has left that died before its copy was whole, or while it was removed.
 void sweep(QDir const& folder) {
+  constexpr int dead = 3600;  // seconds; a file that is being saved has such a name for a moment
   QSet<QString> bases;
-  for (QString const& file : folder.entryList(QDir::Files | QDir::Hidden))
-    bases << file.mid(file.startsWith(QLatin1Char('.'))).section(QLatin1Char('.'), 0, 0);
+  for (QFileInfo const& file : folder.entryInfoList(QDir::Files | QDir::Hidden)) {
+    if (!file.fileName().startsWith(QLatin1String(SysUtility::FileSaver::besidePrefix)))
+      bases << file.fileName().section(QLatin1Char('.'), 0, 0);
+    else if (file.lastModified().secsTo(QDateTime::currentDateTime()) > dead)
+      QFile::remove(file.filePath());
+  }
   for (QString const& name : qAsConst(bases)) {
     QString const base = folder.filePath(name);
     bool const isWhole = QFile::exists(base + QStringLiteral(".json")) && QFile::exists(base + QStringLiteral(".kdx"));
