@@ -5,17 +5,21 @@
 #include "Session.h"
 #include "Subcommand.h"
 #include "Supervision.h"
+#include "recovery/RecoveryCopy.h"
 
 #include "host/SysCarto/layers/WatchedReading.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QThread>
 
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <memory>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -26,7 +30,8 @@ int finished(int code) {
   std::_Exit(code);
 }
 
-QByteArray lastWords;  // made while there is memory
+QByteArray lastWords;             // made while there is memory
+std::unique_ptr<char[]> reserve;  // of the window, to save in what was not saved
 
 QString memoryRanOut() {
   return QCoreApplication::translate(
@@ -47,6 +52,8 @@ QStringList ownArguments() {
   try {
     if (std::current_exception()) std::rethrow_exception(std::current_exception());
   } catch (std::bad_alloc const&) {
+    bool const isOwnThread = QThread::currentThread() == qApp->thread();
+    if (std::exchange(reserve, nullptr) && isOwnThread) RecoveryCopy::keepAll();
     std::fputs(lastWords.constData(), stderr);
     std::_Exit(WorkFailed);
   } catch (...) {
@@ -71,7 +78,6 @@ int runSubcommand(int argc, char** argv, std::optional<QString> const& language,
 }
 
 // In English: nothing is translated yet.
-// In English: nothing is translated yet.
 int tellWindowIsFree(bool isConfined) {
   Console::complain(
       isConfined ? QStringLiteral(
@@ -82,9 +88,18 @@ int tellWindowIsFree(bool isConfined) {
 }
 
 int runWindow(int argc, char** argv, std::optional<QString> const& language) {
+  constexpr std::size_t reserveBytes = 64 * 1024 * 1024;
   QApplication application(argc, argv);
   prepareApplication();
   installLanguage(language);
+  reserve.reset(new char[reserveBytes]);  // addresses alone, until somebody writes there
+  lastWords = ("plotvane: " +
+               QCoreApplication::translate("main",
+                                           "there is no memory left to go on; what was not saved is offered "
+                                           "at the next start.") +
+               '\n')
+                  .toLocal8Bit();
+  std::set_terminate(endWithoutMemory);
   return finished(runWindow(ownArguments().value(0)));
 }
 
