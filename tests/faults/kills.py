@@ -176,7 +176,7 @@ def main():
             wrong += 1
             print(f"{work}: {problem}", flush=True)
     print(f"{chosen.count} kills, {over} of them too late, {wrong} wrong")
-    sys.exit(1 if wrong else 0)
+    sys.exit(1 if wrong or over == chosen.count else 0)  # what never struck says nothing
 
 
 if __name__ == "__main__":
