@@ -8417,11 +8417,11 @@
     </message>
     <message>
         <source>in the colours of its bands</source>
-        <translation>in den Farben seiner Kanäle</translation>
+        <translation>in den Farben ihrer Kanäle</translation>
     </message>
     <message>
         <source>in the colours of its palette</source>
-        <translation>in den Farben seiner Palette</translation>
+        <translation>in den Farben ihrer Palette</translation>
     </message>
 </context>
 <context>
@@ -8976,6 +8976,14 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>A folder for --confine; may be given several times.</source>
         <translation>Ein Ordner für --confine; mehrfach möglich.</translation>
+    </message>
+    <message>
+        <source>End it, cleaned up, after so many seconds.</source>
+        <translation>Nach so vielen Sekunden beenden und aufräumen.</translation>
+    </message>
+    <message>
+        <source>End it where it takes more than so many megabytes.</source>
+        <translation>Beenden, sobald es mehr als so viele Megabyte braucht.</translation>
     </message>
 </context>
 <context>
@@ -9921,6 +9929,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>interrupted.</source>
         <translation>abgebrochen.</translation>
+    </message>
+    <message>
+        <source>there is no memory left to go on; what was not saved is offered at the next start.</source>
+        <translation>der Arbeitsspeicher reicht nicht, um fortzufahren; was nicht gespeichert war, wird beim nächsten Start angeboten.</translation>
     </message>
 </context>
 </TS>

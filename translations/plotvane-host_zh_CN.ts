@@ -8977,6 +8977,14 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <source>A folder for --confine; may be given several times.</source>
         <translation>用于 --confine 的文件夹；可多次指定。</translation>
     </message>
+    <message>
+        <source>End it, cleaned up, after so many seconds.</source>
+        <translation>在这么多秒后结束并清理。</translation>
+    </message>
+    <message>
+        <source>End it where it takes more than so many megabytes.</source>
+        <translation>占用超过这么多兆字节时结束。</translation>
+    </message>
 </context>
 <context>
     <name>SurroundFields</name>
@@ -9921,6 +9929,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>interrupted.</source>
         <translation>已中断。</translation>
+    </message>
+    <message>
+        <source>there is no memory left to go on; what was not saved is offered at the next start.</source>
+        <translation>没有剩余内存，无法继续；未保存的内容将在下次启动时提供恢复。</translation>
     </message>
 </context>
 </TS>
