@@ -78,7 +78,7 @@ public:
 
   void add(size_t i, Taps const& across, Taps const& down) {
     QRect const& window = pixels_.window;
-    size_t columns[maxTaps];
+    size_t columns[maxTaps] = {};
     for (int column = 0; column < across.count; ++column)
       columns[column] = size_t(std::clamp(across.first + column - window.left(), 0, window.width() - 1));
     size_t const bands = std::min<size_t>(pixels_.bands.size(), maxBandsAtOnce);
