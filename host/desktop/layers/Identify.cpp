@@ -53,6 +53,15 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
   }
 }
 
+// A hillshade over the heights that it is made of tells nothing more.
+bool isToldBelow(SysCarto::Map& map, int i, SysCarto::RasterLayer const& layer, double scale) {
+  while (layer.look().renderer.isRelief() && --i >= 0) {
+    auto const below = SysUtility::ptr_cast<SysCarto::RasterLayer>(map.GetLayer(i));
+    if (below && below->showsAt(scale) && below->source() == layer.source()) return true;
+  }
+  return false;
+}
+
 void identifyIn(_ptr_t<SysCarto::RasterLayer> const& layer, QPointF const& place, Identified& found) {
   std::vector<double> const values = layer->valuesAt(place);
   if (values.empty()) return;
@@ -60,7 +69,8 @@ void identifyIn(_ptr_t<SysCarto::RasterLayer> const& layer, QPointF const& place
   QStringList texts;
   for (double const value : values) {
     texts << QLocale().toString(value, 'g', significantDigits);
-    feature.fields << qMakePair(QCoreApplication::translate("Identify", "Band %1").arg(texts.size()), QVariant(value));
+    double const told = QString::number(value, 'g', significantDigits).toDouble();
+    feature.fields << qMakePair(QCoreApplication::translate("Identify", "Band %1").arg(texts.size()), QVariant(told));
   }
   feature.label = texts.join(QStringLiteral("; "));
   found.features << feature;
@@ -93,7 +103,7 @@ Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, doub
     bool const isGlobe = layer && layer->source().data == SysCarto::SourceSettings::Data::Globe;  // it is everywhere
     if (layer && !isGlobe && layer->showsAt(scale)) identifyIn(layer, place, reach, tables, found);
     auto const raster = SysUtility::ptr_cast<SysCarto::RasterLayer>(map->GetLayer(i));
-    if (raster && raster->showsAt(scale)) identifyIn(raster, place, found);
+    if (raster && raster->showsAt(scale) && !isToldBelow(*map, i, *raster, scale)) identifyIn(raster, place, found);
   }
   return found;
 }
