@@ -40,6 +40,10 @@ void addTints(QJsonArray& classes, char const* const* tints, int count, double f
 QJsonArray tintsFor(double low, double high) {
   constexpr int land = std::size(landTints), sea = std::size(seaTints);
   QJsonArray classes;
+  if (!(high > low)) {
+    addTints(classes, landTints, 1, low, 0);
+    return classes;
+  }
   bool const hasSea = low < deepest && high > 0;
   if (hasSea) {
     double const step = roundStep(-low / (sea - 1));
@@ -53,14 +57,15 @@ QJsonArray tintsFor(double low, double high) {
 
 // Without the few that lie far from all others.
 std::pair<double, double> rangeOf(std::vector<float> values) {
-  if (values.empty()) return {0, 1};
   std::sort(values.begin(), values.end());
   size_t const last = values.size() - 1, cut = last / 2000;
   return {double(values[cut]), double(values[last - cut])};
 }
 
 std::vector<RasterLook> heights(SysCarto::RasterSource const& raster) {
-  auto const [low, high] = rangeOf(raster.sample(1));
+  std::vector<float> const values = raster.sample(1);
+  if (values.empty()) return {{{{"type", "ramp"}}, false, false, Texts::tr("holds no values, so nothing is drawn")}};
+  auto const [low, high] = rangeOf(values);
   RasterLook const tints{{{"type", "ramp"}, {"classes", tintsFor(low, high)}},
                          false,
                          true,
