@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numeric>
 
 namespace SysCarto {
@@ -16,7 +17,7 @@ namespace {
 using Kind = RasterRendererSettings::Kind;
 
 constexpr int rampColors = 256;
-constexpr int fewestTold = 4;
+constexpr int fewestTold = 4, mostTold = 12;
 constexpr double noRange = 1e-9;
 constexpr char const* slopeRamp = "Greys";
 
@@ -38,6 +39,11 @@ QRgb mixed(QColor const& a, QColor const& b, double part) {
   return qRgba(mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue()), mix(a.alpha(), b.alpha()));
 }
 
+// Of great numbers, the next one is farther than 1.
+double someAbove(double number) {
+  return std::max(number + 1, std::nextafter(number, std::numeric_limits<double>::infinity()));
+}
+
 // Multiples of 1, 2 or 5 times a power of ten, at least a few of them.
 std::vector<double> toldNumbers(ValueRange const& range) {
   std::vector<double> numbers;
@@ -48,8 +54,9 @@ std::vector<double> toldNumbers(ValueRange const& range) {
     if (width / step >= fewestTold) break;
     step *= factor;
   }
-  for (double number = std::ceil(low / step) * step; number <= high + step * noRange; number += step)
-    numbers.push_back(number);
+  double const first = std::ceil(low / step) * step;
+  for (int i = 0; i < mostTold && first + i * step <= high + step * noRange; ++i)
+    if (double const number = first + i * step; numbers.empty() || number > numbers.back()) numbers.push_back(number);
   return numbers;
 }
 
@@ -60,7 +67,7 @@ ValueRange ValueRange::of(StretchSettings const& stretch, std::vector<float> val
   ValueRange range;
   if (stretch.kind == Stretch::None) return range;
   if (stretch.kind == Stretch::Range)
-    return {stretch.minimum, stretch.maximum == stretch.minimum ? stretch.minimum + 1 : stretch.maximum};
+    return {stretch.minimum, stretch.maximum == stretch.minimum ? someAbove(stretch.minimum) : stretch.maximum};
   if (values.empty()) return range;
   if (stretch.kind == Stretch::Deviations) {
     double const count = double(values.size());
@@ -74,7 +81,7 @@ ValueRange ValueRange::of(StretchSettings const& stretch, std::vector<float> val
     double const cut = stretch.kind == Stretch::Percentiles ? stretch.percent / 100 : 0;
     range = {valueAt(values, cut), valueAt(values, 1 - cut)};
   }
-  if (!(range.high > range.low)) range.high = range.low + 1;
+  if (!(range.high > range.low)) range.high = someAbove(range.low);
   return range;
 }
 

@@ -9,6 +9,7 @@
 #include <QImage>
 
 #include <array>
+#include <cmath>
 #include <vector>
 
 namespace SysCarto {
@@ -17,7 +18,11 @@ namespace SysCarto {
 struct ValueRange {
   double low = 0, high = 255;
 
-  double part(double value) const { return (value - low) / (high - low); }
+  /// 0 at `low`, 1 at `high`; 0 also where numbers are too great to tell.
+  double part(double value) const {
+    double const part = (value - low) / (high - low);
+    return std::isnan(part) ? 0 : part;
+  }
 
   static ValueRange of(StretchSettings const& stretch, std::vector<float> values);
 };
