@@ -89,8 +89,11 @@ private slots:
     Rows<QString, QString> row;
     row("no place", "place", "where it lies");
     row("a place that is none", "nonsense", "make no sense");
-    row("cut off", "cut", "can't be opened");
+    row("cut off", "cut", "not whole");
     row("a band that it lacks", "band", "no band 3");
+    row("another file's overviews", "overviews", "names another file for its overviews");
+    row("the same of its mask", "mask", "names another file for its overviews");
+    row("large pieces of many bands", "pieces", "pieces of 128 MB");
   }
   void aRasterThatCannotBePlacedOrReadSaysSo() {
     auto const [what, says] = fetched<QString, QString>();
@@ -99,6 +102,19 @@ private slots:
     if (what == "nonsense") wanted.place = {1e300, 1, 0, 0, 0, -1};
     if (what == "place") wanted.place = {0, 1, 0, 0, 0, 1};
     QString const path = made(folder.filePath("a.tif"), wanted, [](int x, int) { return x; });
+    auto const names = [](QString const& file) {
+      std::unique_ptr<GDALDataset> const dataset(GDALDataset::Open(file.toUtf8(), GDAL_OF_UPDATE));
+      dataset->SetMetadataItem("OVERVIEW_FILE", "/nowhere/a.vrt", "OVERVIEWS");
+    };
+    if (what == "overviews") names(path);
+    if (what == "mask") names(made(path + ".msk", wanted, [](int, int) { return 1; }));
+    if (what == "pieces") {
+      char const* const options[] = {"TILED=YES",        "BLOCKXSIZE=4096", "BLOCKYSIZE=4096",
+                                     "INTERLEAVE=PIXEL", "SPARSE_OK=TRUE",  nullptr};
+      std::unique_ptr<GDALDataset> const dataset(
+          GetGDALDriverManager()->GetDriverByName("GTiff")->Create(path.toUtf8(), 8192, 8192, 8, GDT_Byte, options));
+      dataset->SetGeoTransform(wanted.place.data());
+    }
     if (what == "cut") QVERIFY(QFile::resize(path, QFileInfo(path).size() - 9000));
     RasterLayer layer;
     RasterLook look;
@@ -228,6 +244,28 @@ private slots:
     QCOMPARE(grey(image, 75, 75), 20);
   }
 
+  void valuesWithoutMeasureAreNotDrawn_data() {
+    Rows<double, bool> row;
+    row("the lowest float", -3.4028234663852886e38, true);
+    row("too great to tell apart", 1e17, false);
+  }
+  void valuesWithoutMeasureAreNotDrawn() {
+    auto const [value, isNothing] = fetched<double, bool>();
+    QTemporaryDir const folder;
+    QString const path = made(folder.filePath("a.tif"), Made(), [one = value](int, int) { return one; });
+    for (Kind const kind : {Kind::Ramp, Kind::Color}) {
+      auto const layer = make<RasterLayer>();
+      RasterLook look;
+      look.renderer = greys(0, 255);
+      look.renderer.kind = kind;
+      look.renderer.stretch.kind = Stretch::MinMax;
+      layer->setLook(look);
+      QCOMPARE(layer->open({path, {}, {}, {}}, "EPSG:3035"), QString());
+      QImage const image = shown(layer->box(), {40, 40}).drawn(drawing(layer));
+      QCOMPARE(isBlank(image, {0, 0, 40, 40}), isNothing);
+    }
+  }
+
   void aLegendTellsRoundNumbersAndClasses() {
     QTemporaryDir const folder;
     QString const path = made(folder.filePath("a.tif"), Made(), [](int x, int) { return x; });
@@ -243,6 +281,9 @@ private slots:
       return all.join(' ');
     };
     QCOMPARE(labels(), QString("800 600 400 200"));
+    look.renderer.stretch = greys(1e17, 1e17 + 16).stretch;
+    layer.setLook(look);
+    QCOMPARE(layer.legendClasses().size(), 2);
     look.renderer.classes = {{200, Qt::red, "high"}, {0, Qt::blue, {}}};
     layer.setLook(look);
     QCOMPARE(labels(), QString("high 0"));

@@ -32,12 +32,14 @@ struct Texts {
 };
 
 constexpr int maxSide = 20000000, maxBands = 10000;
-constexpr qint64 maxBlockBytes = 256 * 1024 * 1024;  // what a file is stored in, which is read as a whole
+constexpr qint64 maxBlockBytes = 96 * 1024 * 1024;  // what a file is stored in, which is read as a whole
 constexpr qint64 cacheBytes = 64 * 1024 * 1024;
 constexpr double enough = 1.2;  // an overview may be coarser than a picture by this
 constexpr int sampleSide = 512, sampleWindows = 16, sampleWindowSide = 32;
 constexpr qint64 smallRaster = 4000000;  // pixels, all of which are looked at
 constexpr double farthest = 1e15;
+constexpr float greatest = 1e30f;      // what is greater stands for nothing, like the lowest float
+constexpr qint64 jpegTrailer = 16384;  // bytes, that programs add behind a JPEG's end
 
 // clang-format off
 QVector<DataFormat> const formats = {
@@ -54,13 +56,16 @@ QVector<DataFormat> const formats = {
 // a description of another kind (.aux.xml) names files of its own.
 class OwnFilesOnly {
 public:
-  OwnFilesOnly() { set("NO"); }
-  ~OwnFilesOnly() { set(nullptr); }
+  OwnFilesOnly() : before_(CPLGetThreadLocalConfigOption(option, nullptr)) { set("NO"); }
+  ~OwnFilesOnly() { set(before_.isNull() ? nullptr : before_.constData()); }
   OwnFilesOnly(OwnFilesOnly const&) = delete;
   OwnFilesOnly& operator=(OwnFilesOnly const&) = delete;
 
 private:
-  static void set(char const* value) { CPLSetThreadLocalConfigOption("GDAL_PAM_ENABLED", value); }
+  static constexpr char const* option = "GDAL_PAM_ENABLED";
+  static void set(char const* value) { CPLSetThreadLocalConfigOption(option, value); }
+
+  QByteArray const before_;
 };
 
 void prepareGdal() {
@@ -162,14 +167,61 @@ RasterBand describe(GDALRasterBand& band) {
   return result;
 }
 
+// GDAL opens the file that such an entry names, with all its drivers, as soon as it is asked for overviews.
+bool namesOverviews(GDALDataset& dataset) {
+  auto const names = [](GDALMajorObject& object) { return CSLCount(object.GetMetadata("OVERVIEWS")) > 0; };
+  bool does = names(dataset);
+  for (int i = 1; i <= dataset.GetRasterCount() && !does; ++i) does = names(*dataset.GetRasterBand(i));
+  return does;
+}
+
+// Overviews and masks beside a file have overviews of their own.
+bool companionNamesOverviews(QString const& path) {
+  for (QString const& file : RasterSource::companionsOf(path)) {
+    if (!isTiff(file)) continue;
+    char const *const drivers[] = {"GTiff", nullptr}, *const alone[] = {"", nullptr};
+    DatasetPointer const dataset(
+        GDALDataset::Open(file.toUtf8(), GDAL_OF_RASTER | GDAL_OF_READONLY, drivers, nullptr, alone));
+    if (dataset && namesOverviews(*dataset)) return true;
+  }
+  return false;
+}
+
+bool endsAsJpeg(QString const& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  file.seek(std::max<qint64>(0, file.size() - jpegTrailer));
+  return file.readAll().contains("\xff\xd9");
+}
+
+// Of pixels whose bands lie side by side, all are decoded at once.
+qint64 blockBytes(GDALRasterBand& band) {
+  int width, height;
+  band.GetBlockSize(&width, &height);
+  GDALDataset* const dataset = band.GetDataset();
+  char const* const order = dataset ? dataset->GetMetadataItem("INTERLEAVE", "IMAGE_STRUCTURE") : nullptr;
+  int const together = order && EQUAL(order, "PIXEL") ? dataset->GetRasterCount() : 1;
+  return qint64(width) * height * GDALGetDataTypeSizeBytes(band.GetRasterDataType()) * together;
+}
+
+QString problemOfSize(GDALRasterBand& band) {
+  qint64 const bytes = blockBytes(band);
+  if (bytes <= maxBlockBytes) return {};
+  return Texts::tr("it is stored in pieces of %1 MB; save it in tiles, as by gdal_translate -co TILED=YES")
+      .arg(bytes / 1024 / 1024);
+}
+
+// The last block, where the file holds it.
 QString readBlock(GDALRasterBand& band) {
+  if (QString const problem = problemOfSize(band); !problem.isEmpty()) return problem;
   int width, height;
   band.GetBlockSize(&width, &height);
   GdalErrors const errors;
-  std::vector<char> block(size_t(width) * size_t(height) * size_t(GDALGetDataTypeSizeBytes(band.GetRasterDataType())));
   int const column = (band.GetXSize() - 1) / width, row = (band.GetYSize() - 1) / height;
+  if (!band.GetMetadataItem(CPLSPrintf("BLOCK_OFFSET_%d_%d", column, row), "TIFF")) return {};
+  std::vector<char> block(size_t(width) * size_t(height) * size_t(GDALGetDataTypeSizeBytes(band.GetRasterDataType())));
   if (band.ReadBlock(column, row, block.data()) == CE_None && !errors.hasFailure()) return {};
-  return errors.reason().isEmpty() ? Texts::tr("a part of it is missing") : errors.reason();
+  return Texts::tr("it is not whole, or damaged; fetch it again");
 }
 
 }  // namespace
@@ -222,6 +274,10 @@ std::unique_ptr<RasterSource> RasterSource::open(RasterSourceSettings const& set
 
 QString RasterSource::take(RasterSourceSettings const& settings) {
   GDALDataset& dataset = *dataset_;
+  if (namesOverviews(dataset) || companionNamesOverviews(settings.file))
+    return Texts::tr("it names another file for its overviews, which is not opened; save it without that entry");
+  if (EQUAL(dataset.GetDriverName(), "JPEG") && !endsAsJpeg(settings.file))
+    return Texts::tr("it is not whole, or damaged; fetch it again");
   size_ = {dataset.GetRasterXSize(), dataset.GetRasterYSize()};
   int const count = dataset.GetRasterCount();
   if (count == 0 || size_.isEmpty()) return Texts::tr("it holds no pixels");
@@ -261,13 +317,7 @@ QString RasterSource::take(RasterSourceSettings const& settings) {
 // read from their beginning this would be all of it.
 QString RasterSource::checkEnds() const {
   GDALRasterBand& band = *dataset_->GetRasterBand(1);
-  int width, height;
-  band.GetBlockSize(&width, &height);
-  qint64 const bytes = qint64(width) * height * GDALGetDataTypeSizeBytes(band.GetRasterDataType());
-  if (bytes > maxBlockBytes)
-    return Texts::tr("it is stored in pieces of %1 MB; save it in tiles, as by gdal_translate -co TILED=YES")
-        .arg(bytes / 1024 / 1024);
-  if (!EQUAL(dataset_->GetDriverName(), "GTiff")) return {};
+  if (!EQUAL(dataset_->GetDriverName(), "GTiff")) return problemOfSize(band);
   QString problem = readBlock(band);
   for (int i = 0; i < band.GetOverviewCount() && problem.isEmpty(); ++i)
     problem = band.GetOverview(i) ? readBlock(*band.GetOverview(i)) : Texts::tr("a part of it is missing");
@@ -283,6 +333,7 @@ QString RasterSource::format() const {
 QVector<QColor> RasterSource::palette(int band) const {
   QVector<QColor> colors;
   if (band < 1 || band > dataset_->GetRasterCount()) return colors;
+  OwnFilesOnly const own;
   GDALColorTable const* const table = dataset_->GetRasterBand(band)->GetColorTable();
   for (int i = 0; table && i < table->GetColorEntryCount(); ++i) {
     GDALColorEntry entry;
@@ -323,6 +374,7 @@ RasterLevel levelOf(QSize const& whole, GDALRasterBand* overview, int number, in
 }  // namespace
 
 RasterLevel RasterSource::levelFor(double pixels) const {
+  OwnFilesOnly const own;
   GDALRasterBand& band = *dataset_->GetRasterBand(1);
   RasterLevel best = levelOf(size_, nullptr, -1, 1);
   for (int i = 0; i < band.GetOverviewCount(); ++i) {
@@ -370,13 +422,14 @@ QString RasterSource::read(RasterLevel const& level, QRect const& window, std::v
     RasterBand const& meaning = bands_[size_t(bands[i]) - 1];
     bool const isPlain = meaning.factor == 1 && meaning.offset == 0 && noData_.isEmpty();
     for (size_t k = 0; k < count; ++k) {
-      if (isPlain && !hasMask && std::isfinite(values[k])) continue;
+      if (isPlain && !hasMask && std::abs(values[k]) <= greatest) continue;
       if (hasMask) pixels.cover[k] = std::min(pixels.cover[k], mask[k]);
-      bool const isMissing = !std::isfinite(values[k]) ||
+      auto const value = static_cast<float>(values[k] * meaning.factor + meaning.offset);
+      bool const isMissing = !(std::abs(values[k]) <= greatest && std::abs(value) <= greatest) ||
                              std::any_of(noData_.begin(), noData_.end(),
-                                         [&](double value) { return values[k] == static_cast<float>(value); });
+                                         [&](double none) { return values[k] == static_cast<float>(none); });
       if (isMissing) pixels.cover[k] = 0;
-      values[k] = isMissing ? 0 : static_cast<float>(values[k] * meaning.factor + meaning.offset);
+      values[k] = isMissing ? 0 : value;
     }
   }
   if (isRead && !errors.hasFailure()) return {};
