@@ -6,11 +6,13 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <iterator>
 #include <limits>
 #include <memory>
 #include <mutex>
+#include <utility>
 
 namespace SysCarto {
 
@@ -20,6 +22,8 @@ namespace {
 constexpr std::int64_t freeSteps = 20000000;  // about half a second
 constexpr std::int64_t stepsPerByte = 50;
 constexpr int stepsBetweenLooks = 10000;
+constexpr std::chrono::milliseconds freeTime(4000);
+constexpr std::int64_t bytesPerMillisecond = 20000;
 constexpr std::int64_t freeLength = 65536;  // of a value, in bytes, beside what a file of its size could hold
 
 // A single call of these can take longer than anybody waits, and nothing interrupts it; no honest view needs them.
@@ -28,21 +32,32 @@ constexpr char const* costlyFunctions[] = {"char",   "format", "glob",       "gr
 
 thread_local DatabaseBounds* current = nullptr;
 
-// What is left of the statement that was begun last; lives as long as the connection.
+using Clock = std::chrono::steady_clock;
+
+// What is left of the statement that was begun last, and to all where they share; lives as long as the connection. A
+// sort of long values takes few steps and much time.
 struct Steps {
   std::int64_t const allowed;
+  bool const areShared;
   std::int64_t left = allowed;
+  Clock::duration timeLeft{};
+  Clock::time_point since{};
 };
 
 int look(void* data) {
   auto& steps = *static_cast<Steps*>(data);
   steps.left -= stepsBetweenLooks;
-  return steps.left < 0;
+  if (!steps.areShared) return steps.left < 0;
+  Clock::time_point const now = Clock::now();
+  steps.timeLeft -= now - std::exchange(steps.since, now);
+  if (steps.left < 0) steps.timeLeft = {};
+  return steps.timeLeft <= Clock::duration();
 }
 
 int beginStatement(unsigned, void* data, void*, void*) {
   auto& steps = *static_cast<Steps*>(data);
   steps.left = steps.allowed;
+  steps.since = Clock::now();
   return 0;
 }
 
@@ -59,8 +74,9 @@ int authorize(void*, int action, char const*, char const* second, char const*, c
 void forget(void* data) { delete static_cast<Steps*>(data); }
 void ignore(sqlite3_context*, int, sqlite3_value**) {}
 
-void bind(sqlite3* database, std::int64_t fileSize) {
-  auto steps = std::make_unique<Steps>(Steps{freeSteps + stepsPerByte * fileSize});
+void bind(sqlite3* database, std::int64_t fileSize, bool areShared) {
+  auto steps = std::make_unique<Steps>(Steps{freeSteps + stepsPerByte * fileSize, areShared});
+  steps->timeLeft = freeTime + std::chrono::milliseconds(fileSize / bytesPerMillisecond);
   // A function that nobody calls, since SQLite tells its owner when the connection is closed.
   Steps* const own = steps.release();
   if (sqlite3_create_function_v2(database, "plotvane_bounds", 0, SQLITE_UTF8 | SQLITE_DIRECTONLY, own, ignore, nullptr,
@@ -82,13 +98,13 @@ struct DatabaseWatch {
     char const* const name = sqlite3_db_filename(database, "main");
     QByteArray const path = QFile::decodeName(name ? name : "").toUtf8();
     if (current && QFileInfo(QString::fromUtf8(path)).canonicalFilePath().toUtf8() == current->path_)
-      bind(database, QFileInfo(QString::fromUtf8(path)).size());
+      bind(database, QFileInfo(QString::fromUtf8(path)).size(), current->budget_ == DatabaseBounds::Budget::OfAll);
     return SQLITE_OK;
   }
 };
 
-DatabaseBounds::DatabaseBounds(QString const& path)
-    : path_(QFileInfo(path).canonicalFilePath().toUtf8()), before_(current) {
+DatabaseBounds::DatabaseBounds(QString const& path, Budget budget)
+    : path_(QFileInfo(path).canonicalFilePath().toUtf8()), budget_(budget), before_(current) {
   static std::once_flag once;
   std::call_once(once, [] { sqlite3_auto_extension(reinterpret_cast<void (*)()>(&DatabaseWatch::opened)); });
   current = this;

@@ -10,13 +10,18 @@ namespace SysCarto {
 /// of the file explains, and no value is much longer than the file. What is too much ends as a failure of GDAL.
 class DatabaseBounds {
 public:
-  explicit DatabaseBounds(QString const& path);
+  /// Whether each statement may work as long as the size of the file explains, or all of them together have some
+  /// seconds too, after which, as after the first that is ended, none is answered: for files that are read in pieces.
+  enum class Budget { OfEachStatement, OfAll };
+
+  explicit DatabaseBounds(QString const& path, Budget budget = Budget::OfEachStatement);
   ~DatabaseBounds();
   DatabaseBounds(DatabaseBounds const&) = delete;
   DatabaseBounds& operator=(DatabaseBounds const&) = delete;
 
 private:
   QByteArray const path_;
+  Budget const budget_;
   DatabaseBounds* const before_;
 
   friend struct DatabaseWatch;

@@ -143,7 +143,7 @@ DatasetPointer openDataset(QString const& path, QString const& table) {
     options.SetNameValue("GEOREF_SOURCES", "INTERNAL,WORLDFILE");
   if (!table.isEmpty()) options.SetNameValue("TABLE", table.toUtf8().constData());
   QByteArray const name = QFileInfo(path).absoluteFilePath().toUtf8();
-  DatabaseBounds const bounds(path);
+  DatabaseBounds const bounds(path, DatabaseBounds::Budget::OfAll);
   return DatasetPointer(GDALDataset::Open(name.constData(), GDAL_OF_RASTER | GDAL_OF_READONLY, drivers.data(),
                                           options.List(), siblings.List()));
 }
@@ -165,6 +165,10 @@ RasterBand describe(GDALRasterBand& band) {
   double const offset = band.GetOffset(&isGiven);
   if (isGiven && std::isfinite(offset)) result.offset = offset;
   return result;
+}
+
+bool isDatabase(GDALDataset& dataset) {
+  return EQUAL(dataset.GetDriverName(), "MBTiles") || EQUAL(dataset.GetDriverName(), "GPKG");
 }
 
 // GDAL opens the file that such an entry names, with all its drivers, as soon as it is asked for overviews.
@@ -264,6 +268,8 @@ std::unique_ptr<RasterSource> RasterSource::open(RasterSourceSettings const& set
   if (!source->dataset_) {
     reason = Texts::tr("its format is none of those that are known (%1)").arg(formatNames());
     if (errors.hasFailure()) reason += QLatin1String(" (") + errors.reason() + QLatin1Char(')');
+  } else if (errors.hasFailure() && isDatabase(*source->dataset_)) {
+    reason = errors.reason();  // what could not be asked is guessed, without a word
   } else {
     reason = source->take(settings);
   }
