@@ -266,6 +266,38 @@ private slots:
     }
   }
 
+  void whatIsMissingHasNoPartInAMean() {
+    QTemporaryDir const folder;
+    QString const path = made(folder.filePath("a.tif"), Made(), [](int x, int y) {
+      return x < 100 ? (x + y) % 5 == 0 ? -9999 : 100 : x < 103 ? std::nan("") : 100;
+    });
+    auto const layer = make<RasterLayer>();
+    layer->setLook({greys(0, 255), Resampling::Bilinear, {}});
+    QCOMPARE(layer->open({path, {}, {}, {-9999}}, "EPSG:3035"), QString());
+    QImage const image = shown({4300000, 3180000, 4320000, 3200000}, {50, 50}).drawn(drawing(layer));
+    for (int x = 0; x < 50; ++x) QVERIFY2(grey(image, x, 20) >= 100, qPrintable(QString::number(x)));
+    QVERIFY(grey(image, 10, 20) < 150 && grey(image, 40, 20) == 100);  // a fifth of it shows the paper
+  }
+
+  // 0 stands for no data, and in pure red for no green and no blue.
+  void aPureColorIsNotMissing() {
+    QTemporaryDir const folder;
+    Made wanted;
+    wanted.bands = 3;
+    wanted.type = GDT_Byte;
+    wanted.noData = 0;
+    QString const path = made(folder.filePath("a.tif"), wanted, [](int x, int) { return x < 100 ? 0 : 200; });
+    GDALDataset* const dataset = GDALDataset::Open(path.toUtf8(), GDAL_OF_UPDATE);
+    for (int band = 2; band <= 3; ++band) QCOMPARE(dataset->GetRasterBand(band)->Fill(0), CE_None);
+    GDALClose(dataset);
+    auto const layer = make<RasterLayer>();
+    layer->setLook({RasterRendererSettings(), Resampling::Bilinear, {}});
+    QCOMPARE(layer->open({path, {}, {}, {}}, "EPSG:3035"), QString());
+    QImage const image = shown({4300000, 3180000, 4320000, 3200000}, {100, 100}).drawn(drawing(layer));
+    QVERIFY(isBlank(image, {0, 0, 49, 100}));
+    QCOMPARE(QColor(image.pixel(75, 50)), QColor(200, 0, 0));
+  }
+
   void aLegendTellsRoundNumbersAndClasses() {
     QTemporaryDir const folder;
     QString const path = made(folder.filePath("a.tif"), Made(), [](int x, int) { return x; });

@@ -37,6 +37,8 @@ constexpr qint64 cacheBytes = 64 * 1024 * 1024;
 constexpr double enough = 1.2;  // an overview may be coarser than a picture by this
 constexpr int sampleSide = 512, sampleWindows = 16, sampleWindowSide = 32;
 constexpr qint64 smallRaster = 4000000;  // pixels, all of which are looked at
+constexpr int mostSamples = 32;          // of the pixels that become one, each way
+constexpr qint64 samplesAtOnce = 1024 * 1024;
 constexpr double farthest = 1e15;
 constexpr float greatest = 1e30f;      // what is greater stands for nothing, like the lowest float
 constexpr qint64 jpegTrailer = 16384;  // bytes, that programs add behind a JPEG's end
@@ -159,6 +161,8 @@ RasterBand describe(GDALRasterBand& band) {
     default: break;
   }
   result.isByte = band.GetRasterDataType() == GDT_Byte;
+  if (char const* const bits = band.GetMetadataItem("NBITS", "IMAGE_STRUCTURE"))
+    result.bits = std::clamp(QByteArray(bits).toInt(), 1, 8);
   int isGiven = 0;
   double const factor = band.GetScale(&isGiven);
   if (isGiven && std::isfinite(factor) && factor != 0) result.factor = factor;
@@ -400,42 +404,105 @@ GDALRasterBand* RasterSource::bandOf(RasterLevel const& level, int band) const {
   return level.overview < 0 ? own : own->GetOverview(level.overview);
 }
 
+// What is read of a level at once.
+struct RasterSource::Samples {
+  QRect area;  // of what is stored
+  QSize size;
+
+  bool fill(GDALRasterBand* band, void* values, GDALDataType type) const {
+    return band && band->RasterIO(GF_Read, area.x(), area.y(), area.width(), area.height(), values, size.width(),
+                                  size.height(), type, 0, 0, nullptr) == CE_None;
+  }
+};
+
+namespace {
+
+// Values by which a band says that there is none; an overview may be older than the file's own word.
+std::vector<float> missingValues(GDALRasterBand& own, GDALRasterBand& read, QVector<double> const& others) {
+  std::vector<float> values;
+  for (double const value : others) values.push_back(static_cast<float>(value));
+  int isGiven = 0;
+  double const value = own.GetNoDataValue(&isGiven);
+  bool const isUnsaid = isGiven && (read.GetMaskFlags() & GMF_ALL_VALID) != 0;
+  if (isUnsaid) values.push_back(static_cast<float>(value));
+  return values;
+}
+
+}  // namespace
+
+// Of several bands that tell by a value what is missing, all must: a pure colour has a 0 in two of three.
+bool RasterSource::readSamples(Samples const& samples, RasterLevel const& level, std::vector<int> const& bands,
+                               RasterPixels& pixels) const {
+  size_t const count = size_t(samples.size.width()) * size_t(samples.size.height());
+  pixels.bands.assign(bands.size(), std::vector<float>(count));
+  pixels.cover.assign(count, 255);
+  std::vector<unsigned char> mask(count), isThere(count, 0);
+  bool canMiss = false;
+  for (size_t i = 0; i < bands.size(); ++i) {
+    GDALRasterBand* const band = bandOf(level, bands[i]);
+    std::vector<float>& values = pixels.bands[i];
+    if (!samples.fill(band, values.data(), GDT_Float32)) return false;
+    int const flags = band->GetMaskFlags();
+    bool const hasMask = (flags & GMF_ALL_VALID) == 0;
+    bool const isByValue = (flags & GMF_NODATA) != 0 && (flags & GMF_PER_DATASET) == 0;
+    if (hasMask && !samples.fill(band->GetMaskBand(), mask.data(), GDT_Byte)) return false;
+    std::vector<float> const missing = missingValues(*dataset_->GetRasterBand(bands[i]), *band, noData_);
+    bool const tells = isByValue || !missing.empty();
+    canMiss = canMiss || tells;
+    RasterBand const& meaning = bands_[size_t(bands[i]) - 1];
+    bool const isPlain = meaning.factor == 1 && meaning.offset == 0 && !tells;
+    for (size_t k = 0; k < count; ++k) {
+      float& value = values[k];
+      if (isPlain && !hasMask && std::abs(value) <= greatest) continue;
+      if (hasMask && !isByValue) pixels.cover[k] = std::min(pixels.cover[k], mask[k]);
+      bool const isMissing =
+          (isByValue && mask[k] == 0) || std::find(missing.begin(), missing.end(), value) != missing.end();
+      if (tells && !isMissing) isThere[k] = 1;
+      auto const result = static_cast<float>(value * meaning.factor + meaning.offset);
+      bool const isNumber = std::abs(value) <= greatest && std::abs(result) <= greatest;
+      if (!isNumber && !isMissing) pixels.cover[k] = 0;
+      value = isNumber ? result : 0;
+    }
+  }
+  for (size_t k = 0; k < count && canMiss; ++k)
+    if (isThere[k] == 0) pixels.cover[k] = 0;
+  return true;
+}
+
+// The mean is taken here, over what is not missing: GDAL knows nothing of the layer's own values for that.
 QString RasterSource::read(RasterLevel const& level, QRect const& window, std::vector<int> const& bands, bool takesMean,
                            RasterPixels& pixels) const {
   OwnFilesOnly const own;
   GdalErrors const errors;
-  size_t const count = size_t(window.width()) * size_t(window.height());
-  int const step = level.reduction;
-  GDALRasterIOExtraArg how;
-  INIT_RASTERIO_EXTRA_ARG(how);
-  how.eResampleAlg = takesMean && step > 1 ? GRIORA_Average : GRIORA_NearestNeighbour;
-  auto const fill = [&](GDALRasterBand* band, void* values, GDALDataType type) {
-    return band &&
-           band->RasterIO(GF_Read, window.x() * step, window.y() * step, window.width() * step, window.height() * step,
-                          values, window.width(), window.height(), type, 0, 0, &how) == CE_None;
-  };
+  int const step = level.reduction, side = takesMean ? std::min(step, mostSamples) : 1;
+  size_t const width = size_t(window.width()), count = width * size_t(window.height());
+  qint64 const inRow = qint64(window.width()) * side * side;
+  int const rowsAtOnce = static_cast<int>(std::clamp<qint64>(samplesAtOnce / inRow, 1, window.height()));
   pixels.window = window;
   pixels.bands.assign(bands.size(), std::vector<float>(count));
-  pixels.cover.assign(count, 255);
-  std::vector<unsigned char> mask(count);
+  pixels.cover.assign(count, 0);
   bool isRead = true;
-  for (size_t i = 0; i < bands.size() && isRead; ++i) {
-    GDALRasterBand* const band = bandOf(level, bands[i]);
-    std::vector<float>& values = pixels.bands[i];
-    isRead = fill(band, values.data(), GDT_Float32);
-    bool const hasMask = isRead && (band->GetMaskFlags() & GMF_ALL_VALID) == 0;
-    if (hasMask) isRead = fill(band->GetMaskBand(), mask.data(), GDT_Byte);
-    RasterBand const& meaning = bands_[size_t(bands[i]) - 1];
-    bool const isPlain = meaning.factor == 1 && meaning.offset == 0 && noData_.isEmpty();
-    for (size_t k = 0; k < count; ++k) {
-      if (isPlain && !hasMask && std::abs(values[k]) <= greatest) continue;
-      if (hasMask) pixels.cover[k] = std::min(pixels.cover[k], mask[k]);
-      auto const value = static_cast<float>(values[k] * meaning.factor + meaning.offset);
-      bool const isMissing = !(std::abs(values[k]) <= greatest && std::abs(value) <= greatest) ||
-                             std::any_of(noData_.begin(), noData_.end(),
-                                         [&](double none) { return values[k] == static_cast<float>(none); });
-      if (isMissing) pixels.cover[k] = 0;
-      values[k] = isMissing ? 0 : value;
+  RasterPixels strip;
+  for (int top = 0; top < window.height() && isRead; top += rowsAtOnce) {
+    int const rows = std::min(rowsAtOnce, window.height() - top);
+    Samples const samples{{window.x() * step, (window.y() + top) * step, window.width() * step, rows * step},
+                          {window.width() * side, rows * side}};
+    isRead = readSamples(samples, level, bands, strip);
+    for (size_t k = 0; isRead && k < width * size_t(rows); ++k) {
+      size_t const to = size_t(top) * width + k, length = width * size_t(side);
+      size_t const first = k / width * size_t(side) * length + k % width * size_t(side);
+      auto const each = [&](auto const& take) {
+        for (size_t y = 0; y < size_t(side); ++y)
+          for (size_t x = 0; x < size_t(side); ++x) take(first + y * length + x);
+      };
+      int covered = 0;
+      each([&](size_t i) { covered += strip.cover[i]; });
+      pixels.cover[to] = static_cast<unsigned char>((covered + side * side / 2) / (side * side));
+      for (size_t band = 0; band < bands.size() && covered > 0; ++band) {
+        double sum = 0;
+        each([&](size_t i) { sum += double(strip.cover[i]) * double(strip.bands[band][i]); });
+        pixels.bands[band][to] = static_cast<float>(sum / covered);
+      }
     }
   }
   if (isRead && !errors.hasFailure()) return {};

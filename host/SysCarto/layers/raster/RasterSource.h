@@ -44,6 +44,7 @@ struct RasterBand {
   enum class Meaning { Value, Red, Green, Blue, Alpha, Palette };
   Meaning meaning = Meaning::Value;
   bool isByte = false;
+  int bits = 8;                   ///< of a byte that are used
   double factor = 1, offset = 0;  ///< a value is what is stored × factor + offset
 };
 
@@ -113,6 +114,9 @@ private:
   explicit RasterSource(DatasetPointer dataset);
   QString take(RasterSourceSettings const& settings);
   QString checkEnds() const;
+  struct Samples;
+  bool readSamples(Samples const& samples, RasterLevel const& level, std::vector<int> const& bands,
+                   RasterPixels& pixels) const;
   GDALRasterBand* bandOf(RasterLevel const& level, int band) const;
 
   DatasetPointer dataset_;
