@@ -43,6 +43,7 @@ struct GroundScale::Private {
 
   double measured(QPointF const& from, QPointF const& to) const;
   double nominal() const;
+  double measuredGround(QPointF const& from, QPointF const& to, double units) const;
   double ground(QPointF const& from, QPointF const& to, double units) const;
 };
 
@@ -91,12 +92,23 @@ double GroundScale::metresBetween(QPointF const& from, QPointF const& to) const 
   return d->ground(from, to, std::hypot(to.x() - from.x(), to.y() - from.y()));
 }
 
+double GroundScale::measuredBetween(QPointF const& from, QPointF const& to) const {
+  return d->measuredGround(from, to, std::hypot(to.x() - from.x(), to.y() - from.y()));
+}
+
+double GroundScale::nominalUnit() const { return d->system ? d->nominal() : 1; }
+
 // So many map units apart.
-double GroundScale::Private::ground(QPointF const& from, QPointF const& to, double units) const {
-  if (!system) return units;
+double GroundScale::Private::measuredGround(QPointF const& from, QPointF const& to, double units) const {
+  if (!system) return 0;
   double const metres = measured(from, to), byName = nominal() * units;
   bool const isGround = toGlobe ? metres > byName / maxStretch && metres < byName * maxStretch : metres > 0;
-  return isGround ? metres : byName;
+  return isGround ? metres : 0;
+}
+
+double GroundScale::Private::ground(QPointF const& from, QPointF const& to, double units) const {
+  double const metres = measuredGround(from, to, units);
+  return metres > 0 ? metres : units * (system ? nominal() : 1);
 }
 
 double GroundScale::northAngle(double x, double y) const {

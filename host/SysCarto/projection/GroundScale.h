@@ -25,6 +25,12 @@ public:
   /// Metres of ground from one place to another near it, both in map units. Always positive where they differ.
   double metresBetween(QPointF const& from, QPointF const& to) const;
 
+  /// The same, but 0 where the projection has no ground.
+  double measuredBetween(QPointF const& from, QPointF const& to) const;
+
+  /// Metres on a unit where it can't be measured.
+  double nominalUnit() const;
+
   /// Degrees, counterclockwise from up, to true north at a place in map units. 0 where there is no north: in plain
   /// coordinates, at a pole, and beyond the projection's edge.
   double northAngle(double x, double y) const;

@@ -108,12 +108,14 @@ RasterColors::RasterColors(RasterRendererSettings const& settings, ToneSettings 
     gamma_[size_t(i)] = static_cast<unsigned char>(std::lround(255 * std::pow(i / 255.0, 1 / settings.gamma)));
 }
 
-// Of a value that belongs to no class, none.
+// Of a value that belongs to no class, none. Pixels are read as floats, which hold no 0.1: so classes are compared.
 QRgb RasterColors::stepOf(double value) const {
-  auto const above = std::upper_bound(classes_.begin(), classes_.end(), value,
-                                      [](double one, RasterClass const& other) { return one < other.value; });
+  auto const read = static_cast<float>(value);
+  auto const above = std::upper_bound(classes_.begin(), classes_.end(), read, [](float one, RasterClass const& other) {
+    return one < static_cast<float>(other.value);
+  });
   if (settings_.kind == Kind::Palette) {
-    if (above == classes_.begin() || std::prev(above)->value != value) return 0;
+    if (above == classes_.begin() || static_cast<float>(std::prev(above)->value) != read) return 0;
     return std::prev(above)->color.rgba();
   }
   bool const mixes = settings_.interpolates;
@@ -161,7 +163,7 @@ void RasterColors::paint(SampledPixels const& sampled, std::vector<GroundPixel> 
       QRgb color = 0;
       if (sampled.cover[i] > 0) {
         if (settings_.isRelief())
-          color = reliefAt(sampled, place, ground[size_t(y)]);
+          color = reliefAt(sampled, place, ground[size_t(y) * size_t(image.width()) + size_t(x)]);
         else if (settings_.kind == Kind::Color)
           color = qRgb(channel(0, i), channel(1, i), channel(2, i));
         else

@@ -27,7 +27,7 @@ struct ValueRange {
   static ValueRange of(StretchSettings const& stretch, std::vector<float> values);
 };
 
-/// Metres of ground on a pixel, for a row of a picture.
+/// Metres of ground on a pixel.
 struct GroundPixel {
   double across = 1, down = 1;
 };
@@ -38,7 +38,7 @@ public:
   RasterColors(RasterRendererSettings const& settings, ToneSettings const& tone, RasterSource const& source);
 
   /// Paints an image, whose upper left pixel is `origin`. For a relief, `sampled` reaches a pixel farther, and `ground`
-  /// has an entry for each row.
+  /// has an entry for each pixel of the image.
   void paint(SampledPixels const& sampled, std::vector<GroundPixel> const& ground, QPoint const& origin,
              QImage& image) const;
 

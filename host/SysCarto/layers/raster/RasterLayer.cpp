@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <list>
 
 namespace SysCarto {
@@ -25,14 +26,12 @@ namespace {
 constexpr int featurePhase = 1;
 constexpr int cellPx = 256;
 constexpr size_t mostCells = 96;
-constexpr int betweenGroundRows = 16;
+constexpr int groundStep = 16;                  // pixels between places at which the ground is measured
 constexpr int maxPicturePx = 64 * 1024 * 1024;  // of one picture in a file of shapes
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(RasterLayer)
 };
-
-int floorDivided(int number, int by) { return number >= 0 ? number / by : -((-number + by - 1) / by); }
 
 // Cells that were drawn last, since tiles of a page share some of them.
 class CellCache {
@@ -135,15 +134,18 @@ std::vector<double> RasterLayer::valuesAt(QPointF const& place) const {
   PixelGrid grid;
   grid.toMap = QTransform(1e-9, 0, 0, -1e-9, place.x(), place.y());
   grid.pixelUnits = 1;
-  std::vector<int> bands;
-  for (size_t i = 1; i <= raster_->bands().size() && i <= 16; ++i) bands.push_back(static_cast<int>(i));
-  SampledPixels sampled;
   PixelPlaces const places = places_->find(grid, {0, 0, 1, 1});
-  bool const isRead = sampleRaster(*raster_, places, bands, Resampling::Nearest, sampled).isEmpty();
   std::vector<double> values;
-  if (!isRead || sampled.cover[0] <= 0) return values;
-  for (auto const& band : sampled.bands) values.push_back(double(band[0]));
-  return values;
+  bool isAny = false;
+  for (size_t i = 1; i <= raster_->bands().size() && !places.isEmpty; ++i) {
+    SampledPixels sampled;
+    bool const isThere =
+        sampleRaster(*raster_, places, {static_cast<int>(i)}, Resampling::Nearest, sampled).isEmpty() &&
+        sampled.cover[0] > 0;
+    values.push_back(isThere ? double(sampled.bands[0][0]) : std::numeric_limits<double>::quiet_NaN());
+    isAny = isAny || isThere;
+  }
+  return isAny ? values : std::vector<double>();
 }
 
 void RasterLayer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, int phase,
@@ -222,25 +224,42 @@ QImage RasterLayer::cell(PixelGrid const& grid, QPoint const& number) {
   return image;
 }
 
-// Along the middle of a cell, a few rows measured and the others between them.
+// Measured on a lattice whose outer nodes neighbouring cells share, and found between them: so cells meet. A node
+// beyond the edge of the globe does not count.
 std::vector<GroundPixel> RasterLayer::groundOf(PixelGrid const& grid, QRect const& area) const {
-  double const x = area.left() + area.width() / 2.0;
-  auto const measured = [&](double y) {
-    auto const metres = [&](double dx, double dy) {
-      return ground_->metresBetween(grid.toMap.map(QPointF(x - dx, y - dy)), grid.toMap.map(QPointF(x + dx, y + dy)));
-    };
-    return GroundPixel{metres(0.5, 0), metres(0, 0.5)};
-  };
-  std::vector<GroundPixel> rows;
-  for (int from = 0; from < area.height(); from += betweenGroundRows) {
-    GroundPixel const above = measured(area.top() + from), below = measured(area.top() + from + betweenGroundRows);
-    for (int i = 0; i < betweenGroundRows && from + i < area.height(); ++i) {
-      double const part = (i + 0.5) / betweenGroundRows;
-      rows.push_back(
-          {above.across + part * (below.across - above.across), above.down + part * (below.down - above.down)});
+  constexpr int nodes = cellPx / groundStep + 1;
+  std::vector<GroundPixel> lattice, pixels;
+  for (int row = 0; row < nodes; ++row)
+    for (int column = 0; column < nodes; ++column) {
+      QPointF const node = area.topLeft() + QPoint(column, row) * groundStep;
+      auto const metres = [&](QPointF const& half) {
+        return ground_->measuredBetween(grid.toMap.map(node - half), grid.toMap.map(node + half));
+      };
+      lattice.push_back({metres({0.5, 0}), metres({0, 0.5})});
     }
-  }
-  return rows;
+  pixels.reserve(size_t(area.width()) * size_t(area.height()));
+  for (int y = 0; y < area.height(); ++y)
+    for (int x = 0; x < area.width(); ++x) {
+      double const right = (x % groundStep + 0.5) / groundStep, low = (y % groundStep + 0.5) / groundStep;
+      size_t const first = size_t(y / groundStep * nodes + x / groundStep);
+      double weights = 0;
+      GroundPixel pixel{0, 0};
+      auto const add = [&](size_t node, double weight) {
+        GroundPixel const& one = lattice[node];
+        if (one.across <= 0 || one.down <= 0) return;
+        weights += weight;
+        pixel.across += weight * one.across;
+        pixel.down += weight * one.down;
+      };
+      add(first, (1 - right) * (1 - low));
+      add(first + 1, right * (1 - low));
+      add(first + nodes, (1 - right) * low);
+      add(first + nodes + 1, right * low);
+      double const nominal = grid.pixelUnits * ground_->nominalUnit();
+      pixels.push_back(weights > 0 ? GroundPixel{pixel.across / weights, pixel.down / weights}
+                                   : GroundPixel{nominal, nominal});
+    }
+  return pixels;
 }
 
 }  // namespace SysCarto

@@ -54,7 +54,7 @@ public:
   /// What it covers, in map units.
   SysGeometry::Box box() const;
 
-  /// The values of all bands at a place in map units; none where the raster has none there.
+  /// The values of all bands at a place in map units, NaN for a band without one; none where no band has any.
   std::vector<double> valuesAt(QPointF const& place) const;
 
   int GetType() const override;

@@ -31,9 +31,6 @@ bool isSame(OGRSpatialReference const& a, OGRSpatialReference const& b) {
   return a.IsSame(&b, options);
 }
 
-// Towards lower numbers for negative ones, too.
-int floorDivided(int number, int by) { return number >= 0 ? number / by : -((-number + by - 1) / by); }
-
 double rounded(double number, double unit) { return std::round(number / unit) * unit; }
 
 // The lattice about a rectangle, whose nodes neighbours share, and the middles of its cells.

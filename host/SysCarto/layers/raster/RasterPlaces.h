@@ -14,6 +14,9 @@ class OGRSpatialReference;
 
 namespace SysCarto {
 
+/// Towards lower numbers for negative ones, too.
+inline int floorDivided(int number, int by) { return number >= 0 ? number / by : -((-number + by - 1) / by); }
+
 class RasterSource;
 
 /// The pixels of a picture of a map, wherever it is cut into tiles: they are counted from a place that all tiles share.
