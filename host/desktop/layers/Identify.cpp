@@ -9,12 +9,14 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <cmath>
 
 using SysUtility::_ptr_t;
 
 namespace {
 
 constexpr size_t mostOfALayer = 50;
+constexpr int mostInLabel = 16;  // bands
 constexpr int significantDigits = 7;
 
 // The label where the layer has labels, else a name, else the first text that there is.
@@ -68,11 +70,15 @@ void identifyIn(_ptr_t<SysCarto::RasterLayer> const& layer, QPointF const& place
   Identified::Feature feature{layer, -1, {}, {}};
   QStringList texts;
   for (double const value : values) {
-    texts << QLocale().toString(value, 'g', significantDigits);
-    double const told = QString::number(value, 'g', significantDigits).toDouble();
-    feature.fields << qMakePair(QCoreApplication::translate("Identify", "Band %1").arg(texts.size()), QVariant(told));
+    bool const isThere = !std::isnan(value);
+    texts << (isThere ? QLocale().toString(value, 'g', significantDigits)
+                      : QCoreApplication::translate("Identify", "no data"));
+    feature.fields << qMakePair(
+        QCoreApplication::translate("Identify", "Band %1").arg(texts.size()),
+        isThere ? QVariant(QString::number(value, 'g', significantDigits).toDouble()) : QVariant(texts.last()));
   }
-  feature.label = texts.join(QStringLiteral("; "));
+  feature.label = texts.mid(0, mostInLabel).join(QStringLiteral("; "));
+  if (texts.size() > mostInLabel) feature.label += QStringLiteral("; …");
   found.features << feature;
 }
 
