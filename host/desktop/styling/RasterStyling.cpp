@@ -78,7 +78,13 @@ std::vector<RasterLook> heights(SysCarto::RasterSource const& raster) {
 RasterLook picture(SysCarto::RasterSource const& raster, std::array<int, 3> const& bands) {
   bool const isByte = raster.bands().front().isByte;
   QJsonObject renderer{{"type", "color"}, {"red", bands[0]}, {"green", bands[1]}, {"blue", bands[2]}};
-  if (!isByte) renderer.insert("stretch", "percentiles");
+  int const bits = raster.bands().front().bits;
+  if (!isByte) {
+    renderer.insert("stretch", "percentiles");
+  } else if (bits < 8) {
+    renderer.insert("stretch", "range");
+    renderer.insert("maximum", (1 << bits) - 1);
+  }
   return {renderer, false, false, Texts::tr("in the colours of its bands")};
 }
 
