@@ -279,6 +279,26 @@ private slots:
     QVERIFY(grey(image, 10, 20) < 150 && grey(image, 40, 20) == 100);  // a fifth of it shows the paper
   }
 
+  // The file learns what is missing when it has an overview already.
+  void anOverviewFollowsItsFile() {
+    QTemporaryDir const folder;
+    QString const path = made(folder.filePath("a.tif"), Made(), [](int x, int) { return x < 100 ? -9999 : 100; });
+    GDALDataset* dataset = GDALDataset::Open(path.toUtf8(), GDAL_OF_UPDATE);
+    int const factors[] = {4};
+    QCOMPARE(GDALBuildOverviews(dataset, "NEAREST", 1, const_cast<int*>(factors), 0, nullptr, nullptr, nullptr),
+             CE_None);
+    GDALClose(dataset);
+    dataset = GDALDataset::Open(path.toUtf8(), GDAL_OF_UPDATE);
+    dataset->GetRasterBand(1)->SetNoDataValue(-9999);
+    GDALClose(dataset);
+    auto const layer = make<RasterLayer>();
+    layer->setLook({greys(0, 255), Resampling::Nearest, {}});
+    QCOMPARE(layer->open({path, {}, {}, {}}, "EPSG:3035"), QString());
+    QImage const image = shown({4300000, 3180000, 4320000, 3200000}, {50, 50}).drawn(drawing(layer));
+    QVERIFY(isBlank(image, {0, 0, 24, 50}));
+    QCOMPARE(grey(image, 40, 20), 100);
+  }
+
   // 0 stands for no data, and in pure red for no green and no blue.
   void aPureColorIsNotMissing() {
     QTemporaryDir const folder;

@@ -421,10 +421,10 @@ namespace {
 std::vector<float> missingValues(GDALRasterBand& own, GDALRasterBand& read, QVector<double> const& others) {
   std::vector<float> values;
   for (double const value : others) values.push_back(static_cast<float>(value));
-  int isGiven = 0;
+  int isGiven = 0, isKnown = 0;
   double const value = own.GetNoDataValue(&isGiven);
-  bool const isUnsaid = isGiven && (read.GetMaskFlags() & GMF_ALL_VALID) != 0;
-  if (isUnsaid) values.push_back(static_cast<float>(value));
+  read.GetNoDataValue(&isKnown);
+  if (isGiven != 0 && isKnown == 0) values.push_back(static_cast<float>(value));
   return values;
 }
 
