@@ -6208,6 +6208,10 @@
         <source>Band %1</source>
         <translation>Kanal %1</translation>
     </message>
+    <message>
+        <source>no data</source>
+        <translation>keine Daten</translation>
+    </message>
 </context>
 <context>
     <name>IdentifyPanel</name>
@@ -8404,6 +8408,14 @@
         <source>it is stored in pieces of %1 MB; save it in tiles, as by gdal_translate -co TILED=YES</source>
         <translation>es ist in Stücken von %1 MB gespeichert; speichern Sie es in Kacheln, etwa mit gdal_translate -co TILED=YES</translation>
     </message>
+    <message>
+        <source>it is not whole, or damaged; fetch it again</source>
+        <translation>sie ist unvollständig oder beschädigt; noch einmal holen</translation>
+    </message>
+    <message>
+        <source>it names another file for its overviews, which is not opened; save it without that entry</source>
+        <translation>sie nennt für ihre Übersichten eine andere Datei, die nicht geöffnet wird; ohne diesen Eintrag speichern</translation>
+    </message>
 </context>
 <context>
     <name>RasterStyling</name>
@@ -8422,6 +8434,10 @@
     <message>
         <source>in the colours of its palette</source>
         <translation>in den Farben ihrer Palette</translation>
+    </message>
+    <message>
+        <source>holds no values, so nothing is drawn</source>
+        <translation>enthält keine Werte, daher wird nichts gezeichnet</translation>
     </message>
 </context>
 <context>

@@ -6208,6 +6208,10 @@
         <source>Band %1</source>
         <translation>波段 %1</translation>
     </message>
+    <message>
+        <source>no data</source>
+        <translation>无数据</translation>
+    </message>
 </context>
 <context>
     <name>IdentifyPanel</name>
@@ -8404,6 +8408,14 @@
         <source>it is stored in pieces of %1 MB; save it in tiles, as by gdal_translate -co TILED=YES</source>
         <translation>以每块 %1 MB 存储;请以瓦片方式保存,例如用 gdal_translate -co TILED=YES</translation>
     </message>
+    <message>
+        <source>it is not whole, or damaged; fetch it again</source>
+        <translation>它不完整或已损坏；请重新获取</translation>
+    </message>
+    <message>
+        <source>it names another file for its overviews, which is not opened; save it without that entry</source>
+        <translation>它为其概览指定了另一个文件，该文件不会被打开；请去掉该条目后另存</translation>
+    </message>
 </context>
 <context>
     <name>RasterStyling</name>
@@ -8422,6 +8434,10 @@
     <message>
         <source>in the colours of its palette</source>
         <translation>按其调色板的颜色</translation>
+    </message>
+    <message>
+        <source>holds no values, so nothing is drawn</source>
+        <translation>不含任何数值，因此不绘制任何内容</translation>
     </message>
 </context>
 <context>
