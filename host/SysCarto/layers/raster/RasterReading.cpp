@@ -65,10 +65,14 @@ GDALRasterBand* RasterSource::bandOf(RasterLevel const& level, int band) const {
 struct RasterSource::Samples {
   QRect area;  // of what is stored
   QSize size;
+  bool isMean = false;
 
   bool fill(GDALRasterBand* band, void* values, GDALDataType type) const {
+    GDALRasterIOExtraArg how;
+    INIT_RASTERIO_EXTRA_ARG(how);
+    how.eResampleAlg = isMean ? GRIORA_Average : GRIORA_NearestNeighbour;
     return band && band->RasterIO(GF_Read, area.x(), area.y(), area.width(), area.height(), values, size.width(),
-                                  size.height(), type, 0, 0, nullptr) == CE_None;
+                                  size.height(), type, 0, 0, &how) == CE_None;
   }
 };
 
@@ -126,12 +130,18 @@ bool RasterSource::readSamples(Samples const& samples, RasterLevel const& level,
   return true;
 }
 
-// The mean is taken here, over what is not missing: GDAL knows nothing of the layer's own values for that.
+// Where values can be missing, the mean is taken here, over the others: GDAL knows nothing of the layer's own values.
 QString RasterSource::read(RasterLevel const& level, QRect const& window, std::vector<int> const& bands, bool takesMean,
                            RasterPixels& pixels) const {
   OwnFilesOnly const own;
   GdalErrors const errors;
-  int const step = level.reduction, side = takesMean ? std::min(step, mostSamples) : 1;
+  bool const canMiss = !noData_.isEmpty() || std::any_of(bands.begin(), bands.end(), [&](int number) {
+    GDALRasterBand& band = *dataset_->GetRasterBand(number);
+    int isGiven = 0;
+    band.GetNoDataValue(&isGiven);
+    return isGiven != 0 || GDALDataTypeIsFloating(band.GetRasterDataType());
+  });
+  int const step = level.reduction, side = takesMean && canMiss ? std::min(step, mostSamples) : 1;
   size_t const width = size_t(window.width()), count = width * size_t(window.height());
   qint64 const inRow = qint64(window.width()) * side * side;
   int const rowsAtOnce = static_cast<int>(std::clamp<qint64>(samplesAtOnce / inRow, 1, window.height()));
@@ -143,7 +153,8 @@ QString RasterSource::read(RasterLevel const& level, QRect const& window, std::v
   for (int top = 0; top < window.height() && isRead; top += rowsAtOnce) {
     int const rows = std::min(rowsAtOnce, window.height() - top);
     Samples const samples{{window.x() * step, (window.y() + top) * step, window.width() * step, rows * step},
-                          {window.width() * side, rows * side}};
+                          {window.width() * side, rows * side},
+                          takesMean && !canMiss && step > 1};
     isRead = readSamples(samples, level, bands, strip);
     for (size_t k = 0; isRead && k < width * size_t(rows); ++k) {
       size_t const to = size_t(top) * width + k, length = width * size_t(side);
