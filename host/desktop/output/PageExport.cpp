@@ -28,7 +28,7 @@ constexpr double pixelsPerByte = 1e4;
 double worthOf(SysCarto::MapDocument const& document, QSize const& size) {
   double bytes = static_cast<double>(QFileInfo(document.GetPath()).size());
   for (auto const& source : SysCarto::sourcesOf(*document.GetPageLayout()))
-    bytes += static_cast<double>(SysCarto::dataSizeOf(source.file));
+    if (source.problem.isEmpty()) bytes += static_cast<double>(SysCarto::dataSizeOf(source.file));
   return freePixels + timesThePage * size.width() * size.height() + pixelsPerByte * bytes;
 }
 
