@@ -26,7 +26,6 @@ using SysCarto::LayerRow;
 using SysCarto::Map;
 using SysCarto::MapSteps;
 using SysCarto::OneStep;
-using SysCarto::VectorLayer;
 using SysGeometry::Box;
 using SysGeometry::Envelope;
 using SysUtility::_ptr_t;
