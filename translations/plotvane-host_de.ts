@@ -6085,7 +6085,7 @@
     <name>GdalErrors</name>
     <message>
         <source>it is a view that calls itself, reads another file or can&apos;t be understood; store its rows as a table</source>
-        <translation>es ist eine Sicht, die sich selbst aufruft, eine andere Datei liest oder nicht verstanden wird; speichern Sie ihre Zeilen als Tabelle</translation>
+        <translation type="vanished">es ist eine Sicht, die sich selbst aufruft, eine andere Datei liest oder nicht verstanden wird; speichern Sie ihre Zeilen als Tabelle</translation>
     </message>
     <message>
         <source>it holds a view that calls itself or reads another file; store its rows as a table</source>
@@ -6098,6 +6098,10 @@
     <message>
         <source>it holds a value that is longer than the file</source>
         <translation>sie enthält einen Wert, der länger ist als die Datei</translation>
+    </message>
+    <message>
+        <source>it is a view that calls itself, reads another file, uses a function that could take for ever, or can&apos;t be understood; store its rows as a table</source>
+        <translation>es ist eine Sicht, die sich selbst aufruft, eine andere Datei liest, eine Funktion nutzt, die endlos dauern könnte, oder nicht verstanden wird; speichern Sie ihre Zeilen als Tabelle</translation>
     </message>
 </context>
 <context>

@@ -6085,7 +6085,7 @@
     <name>GdalErrors</name>
     <message>
         <source>it is a view that calls itself, reads another file or can&apos;t be understood; store its rows as a table</source>
-        <translation>它是一个调用自身、读取其他文件或无法理解的视图；请将其行存储为表</translation>
+        <translation type="vanished">它是一个调用自身、读取其他文件或无法理解的视图；请将其行存储为表</translation>
     </message>
     <message>
         <source>it holds a view that calls itself or reads another file; store its rows as a table</source>
@@ -6098,6 +6098,10 @@
     <message>
         <source>it holds a value that is longer than the file</source>
         <translation>它含有比文件还长的值</translation>
+    </message>
+    <message>
+        <source>it is a view that calls itself, reads another file, uses a function that could take for ever, or can&apos;t be understood; store its rows as a table</source>
+        <translation>这是一个调用自身、读取其他文件、使用可能永不结束的函数或无法理解的视图；请将其行存储为表</translation>
     </message>
 </context>
 <context>

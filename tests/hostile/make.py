@@ -557,7 +557,7 @@ def barren_view(folder):
     return one_map(layer(geopackage(folder, sql), marker()))
 
 
-@case("a GeoPackage whose view makes values of a gigabyte", "a value that is longer")
+@case("a GeoPackage whose view makes values of a gigabyte", "could take for ever")
 def swollen_view(folder):
     sql = stored_points(20, "p") + "CREATE VIEW points AS SELECT fid, geom, hex(zeroblob(400000000)) AS name FROM p;"
     return one_map(layer(geopackage(folder, sql), marker(), labels={"field": "name", "symbol": {"type": "text"}}))
