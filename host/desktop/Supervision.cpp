@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int graceSeconds = 2;      // to clean up, before it is killed
-constexpr int patienceUs = 800000;  // with what was interrupted, which may wait for a disk or for a library
+constexpr int patienceUs = 800000;   // with what was interrupted, which may wait for a disk or for a library
 constexpr int maxLeftovers = 64;     // at a time
 constexpr int leftoverBytes = 8192;  // two paths of the longest kind
 
