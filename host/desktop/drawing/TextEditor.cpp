@@ -18,6 +18,7 @@ namespace {
 
 constexpr int marginPx = 4;  // about the letters
 constexpr int minWidthPx = 24;
+constexpr double farthestPx = 1e6;
 constexpr double minFontPx = 5, maxFontPx = 1000;
 constexpr double lightGround = 0.6;  // of a colour that is read on a dark ground
 
@@ -110,6 +111,9 @@ void TextEditor::fit() {
              0);
   box.setHeight(std::max(box.height(), metrics.lineSpacing() * (broken.count(QLatin1Char('\n')) + 1)));
   int const about = marginPx + 1;  // and the frame
+  // Farther away it is out of sight all the same, and widgets are counted in whole numbers.
+  box.moveTo(std::clamp(box.left(), -farthestPx, farthestPx), std::clamp(box.top(), -farthestPx, farthestPx));
+  box.setSize(box.size().boundedTo({farthestPx, farthestPx}));
   setGeometry(box.toAlignedRect().adjusted(-about, -about, about, about));
 }
 
