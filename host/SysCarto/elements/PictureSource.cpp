@@ -20,6 +20,7 @@
 #include <QSvgRenderer>
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <cstring>
 
@@ -67,6 +68,10 @@ std::weak_ptr<QImage const>& known(QString const& key) {
   for (auto image = images.begin(); image != images.end();)
     image = image->expired() ? images.erase(image) : std::next(image);
   return images[key];
+}
+
+QString noMemoryFor(QString const& name) {
+  return Texts::tr("%1: the picture can't be read: %2.").arg(name, qt_error_string(ENOMEM));
 }
 
 }  // namespace
@@ -134,7 +139,9 @@ QString PictureSource::loadImage(QIODevice& file, QString const& name) {
   if (!image_) {
     QImage const image = reader.read();
     if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(name, reader.errorString());
-    image_ = std::make_shared<QImage const>(areaOf(size) > largePixels ? image : drawable(image));
+    QImage const kept = areaOf(size) > largePixels ? image : drawable(image);
+    if (kept.isNull()) return noMemoryFor(name);
+    image_ = std::make_shared<QImage const>(kept);
     known(own) = image_;
   }
   size_ = image_->size();
@@ -195,6 +202,7 @@ QImage const& PictureSource::reducedTo(QSize const& targetSize) {
          image.height() / 2 >= targetSize.height())
     image = halved(image);
   reduced_ = drawable(image.scaled(targetSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  if (reduced_.isNull()) problem_ = noMemoryFor(path_);
   if (image_->sizeInBytes() > keptBytes) image_.reset();
   return reduced_;
 }
