@@ -56,6 +56,7 @@ QImage halved(QImage const& image) {
     int const rows = std::min(stripRows, half.height() - y);
     QImage const strip = drawable(drawable(image.copy(0, 2 * y, 2 * half.width(), 2 * rows))
                                       .scaled(half.width(), rows, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    if (strip.isNull() || half.isNull()) return {};
     for (int row = 0; row < rows; ++row)
       std::memcpy(half.scanLine(y + row), strip.constScanLine(row), static_cast<size_t>(half.width()) * 4);
   }
@@ -203,7 +204,7 @@ QImage const& PictureSource::reducedTo(QSize const& targetSize) {
     image = halved(image);
   reduced_ = drawable(image.scaled(targetSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   if (reduced_.isNull()) problem_ = noMemoryFor(path_);
-  if (image_->sizeInBytes() > keptBytes) image_.reset();
+  if (image_ && image_->sizeInBytes() > keptBytes) image_.reset();
   return reduced_;
 }
 
