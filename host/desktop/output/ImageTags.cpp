@@ -92,11 +92,17 @@ bool addToJpeg(QString const& path, double dpi, QByteArray const& xmp) {
   return rewrite(path, head + "\xff\xe1" + bigEndian(static_cast<quint16>(segment.size() + 2)) + segment, headBytes);
 }
 
-bool addToBmp(QString const& path, double dpi) {
-  constexpr int place = 38;
-  QByteArray const perMetre = littleEndian(dotsPerMetre(dpi));
+// The headers of 24 bits a pixel: GDAL writes them without a look at whether the disk took them.
+bool addToBmp(QString const& path, QSize const& size, double dpi) {
+  constexpr quint32 fileHeadBytes = 14, infoBytes = 40, headBytes = fileHeadBytes + infoBytes;
+  quint32 const rowBytes = (quint32(size.width()) * 3 + 3) / 4 * 4, pixelBytes = rowBytes * quint32(size.height());
+  QByteArray const perMetre = littleEndian(dotsPerMetre(dpi)), none(8, '\0');
+  QByteArray const head = "BM" + littleEndian(headBytes + pixelBytes) + littleEndian(quint32(0)) +
+                          littleEndian(headBytes) + littleEndian(infoBytes) + littleEndian(quint32(size.width())) +
+                          littleEndian(quint32(size.height())) + littleEndian(quint16(1)) + littleEndian(quint16(24)) +
+                          littleEndian(quint32(0)) + littleEndian(pixelBytes) + perMetre + perMetre + none;
   QFile file(path);
-  return file.open(QIODevice::ReadWrite) && file.seek(place) && file.write(perMetre + perMetre) == 8 && file.flush();
+  return file.open(QIODevice::ReadWrite) && file.write(head) == head.size() && file.flush();
 }
 
 QByteArray riffChunk(char const* type, QByteArray const& data) {
@@ -149,7 +155,7 @@ bool ImageTags::addTo(QString const& path, ImageFormat const& format, QSize cons
   auto const is = [&](char const* driver) { return std::strcmp(format.driver, driver) == 0; };
   if (is("PNG")) return addToPng(path, dpi, xmp);
   if (is("JPEG")) return addToJpeg(path, dpi, xmp);
-  if (is("BMP")) return addToBmp(path, dpi);
+  if (is("BMP")) return addToBmp(path, size, dpi);
   if (is("WEBP")) return addToWebp(path, size, hasAlpha, xmp);
   return true;
 }
