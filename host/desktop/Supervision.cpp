@@ -2,30 +2,23 @@
 
 #include "Console.h"
 #include "GlobalOption.h"
+#include "Leftover.h"
 
-#include <QDir>
 #include <QFile>
 
-#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <cstring>
+#include <ctime>
 
 namespace {
 
-constexpr int graceSeconds = 2;      // to clean up, before it is killed
-constexpr int patienceUs = 800000;   // with what was interrupted, which may wait for a disk or for a library
-constexpr int maxLeftovers = 64;     // at a time
-constexpr int leftoverBytes = 8192;  // two paths of the longest kind
-
-// Memory that both processes see: for each leftover two texts, one after the other; empty where there is none.
-char* shared = nullptr;
-
-char* slot(int i) { return shared + i * leftoverBytes; }
+constexpr int graceSeconds = 2;     // to clean up, before it is killed
+constexpr int patienceUs = 800000;  // with what was interrupted, which may wait for a disk or for a library
 
 bool takeNumber(QStringList& arguments, char const* option, int& number) {
   auto const text = takeOption(arguments, option);
@@ -52,16 +45,6 @@ sigset_t handledSignals() {
   return set;
 }
 
-QString clearLeftovers() {
-  QString target;
-  for (int i = 0; i < maxLeftovers; ++i) {
-    if (*slot(i) == '\0') continue;
-    QDir(QFile::decodeName(slot(i))).removeRecursively();
-    if (target.isEmpty()) target = QFile::decodeName(slot(i) + std::strlen(slot(i)) + 1);
-  }
-  return target;
-}
-
 QByteArray procFile(QString const& path) {
   QFile file(QStringLiteral("/proc/") + path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -74,6 +57,22 @@ qint64 memoryOf(qint64 process) {
   for (QByteArray const& child : procFile(QStringLiteral("%1/task/%1/children").arg(process)).split(' '))
     if (!child.isEmpty()) bytes += memoryOf(child.toLongLong());
   return bytes;
+}
+
+// Jobs of an export end when the process that began them has gone, and may want to clean up. Without it they are this
+// one's.
+void waitForOthers() {
+  constexpr timespec pause = {0, 5'000'000};
+  constexpr int pauses = 200;
+  QString const own = QStringLiteral("%1/task/%1/children").arg(getpid());
+  for (int i = 0;; ++i) {
+    pid_t const ended = waitpid(-1, nullptr, WNOHANG);
+    if (ended < 0 && errno == ECHILD) return;
+    if (ended == 0 && i > pauses)
+      for (QByteArray const& child : procFile(own).split(' '))
+        if (!child.isEmpty()) kill(child.toInt(), SIGKILL);
+    if (ended == 0) nanosleep(&pause, nullptr);
+  }
 }
 
 // What a terminal sends reaches both processes by itself, and a second one ends the other at once.
@@ -125,38 +124,25 @@ bool ResourceLimits::take(QStringList& arguments) {
 }
 
 ProcessEnding supervised(ResourceLimits const& limits, std::function<int()> const& work) {
-  void* const memory = mmap(nullptr, std::size_t{maxLeftovers} * leftoverBytes, PROT_READ | PROT_WRITE,
-                            MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-  shared = memory == MAP_FAILED ? nullptr : static_cast<char*>(memory);
+  bool const isShared = Leftover::share();
   sigset_t const handled = handledSignals();
   sigset_t before;
   sigprocmask(SIG_BLOCK, &handled, &before);
+  prctl(PR_SET_CHILD_SUBREAPER, 1);
   std::signal(SIGCHLD, SIG_DFL);  // who ignores it is never told of an end
-  pid_t const own = getpid(), process = shared ? fork() : -1;
+  pid_t const own = getpid(), process = isShared ? fork() : -1;
   if (process <= 0) sigprocmask(SIG_SETMASK, &before, nullptr);
   if (process < 0) return {ProcessEnding::Reason::Itself, work(), 0, QString()};  // no room for two
   if (process > 0) {
+    Leftover::sweep();  // meanwhile
     ProcessEnding ending = waitFor(process, limits, handled);
-    QString const unfinished = clearLeftovers();
+    waitForOthers();
+    QString const unfinished = Leftover::clear();
+    if (ending.reason != ProcessEnding::Reason::Itself) Leftover::sweep();  // of jobs that had to be killed
     if (ending.reason != ProcessEnding::Reason::Itself) ending.unfinished = unfinished;
-    sigprocmask(SIG_SETMASK, &before, nullptr);
-    return ending;
+    return ending;  // no signal ends this one before it has told that
   }
   prctl(PR_SET_PDEATHSIG, SIGTERM);
   if (getppid() != own) raise(SIGTERM);
   std::exit(work());
-}
-
-Leftover::Leftover(QString const& folder, QString const& target) {
-  QByteArray const first = QFile::encodeName(folder), second = QFile::encodeName(target);
-  if (!shared || first.size() + second.size() + 2 > leftoverBytes) return;
-  for (int i = 0; i < maxLeftovers && !place_; ++i)
-    if (*slot(i) == '\0') place_ = slot(i);
-  if (!place_) return;
-  std::memcpy(place_ + first.size() + 1, second.constData(), static_cast<std::size_t>(second.size()) + 1);
-  std::memcpy(place_, first.constData(), static_cast<std::size_t>(first.size()) + 1);
-}
-
-Leftover::~Leftover() {
-  if (place_ && !QFile::exists(QFile::decodeName(place_))) *place_ = '\0';
 }

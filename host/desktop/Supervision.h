@@ -29,18 +29,5 @@ struct ProcessEnding {
 
 /// Runs the work in a process of its own, in the same group. Signals that ask this one to end are handed on, and if it
 /// is killed the other one is asked to end. To be called before there are threads or an application; only the other
-/// process has one.
+/// process has one. Processes that it has begun have ended, too, when this comes back.
 ProcessEnding supervised(ResourceLimits const& limits, std::function<int()> const& work);
-
-/// A folder of this process's own that has to go with it, however it ends.
-class Leftover {
-public:
-  /// `target` is what is being written there, as people know it. Outside supervised work nothing is noted.
-  Leftover(QString const& folder, QString const& target);
-  ~Leftover();
-  Leftover(Leftover const&) = delete;
-  Leftover& operator=(Leftover const&) = delete;
-
-private:
-  char* place_ = nullptr;  // in memory that both processes share
-};

@@ -1,6 +1,7 @@
 #include "Confinement.h"
 #include "Console.h"
 #include "Language.h"
+#include "Leftover.h"
 #include "MainWindow.h"
 #include "Session.h"
 #include "Subcommand.h"
@@ -92,6 +93,7 @@ int runWindow(int argc, char** argv, std::optional<QString> const& language) {
   QApplication application(argc, argv);
   prepareApplication();
   installLanguage(language);
+  Leftover::sweep();
   reserve.reset(new char[reserveBytes]);  // addresses alone, until somebody writes there
   lastWords = ("plotvane: " +
                QCoreApplication::translate("main",
@@ -103,8 +105,8 @@ int runWindow(int argc, char** argv, std::optional<QString> const& language) {
   return finished(runWindow(ownArguments().value(0)));
 }
 
-// Of these a process dies because somebody wants it so; whoever waits for us is to see the same.
-bool isWanted(int signal) { return signal == SIGINT || signal == SIGTERM || signal == SIGHUP || signal == SIGPIPE; }
+// Of these a process dies because somebody wants it so.
+bool isWanted(int signal) { return signal == SIGINT || signal == SIGTERM || signal == SIGHUP; }
 
 // What the other process can't tell any more.
 int tellEnding(int argc, char** argv, ProcessEnding const& ending, ResourceLimits const& limits,
@@ -150,12 +152,9 @@ int main(int argc, char** argv) {
   prepareEnvironment();
   ProcessEnding const ending = supervised(limits, [&] { return runSubcommand(argc, argv, language, confinement); });
   if (ending.reason == ProcessEnding::Reason::Itself) return ending.status;
-  bool const isQuiet = isWanted(ending.signal) && ending.reason == ProcessEnding::Reason::Signal;
-  int const status =
-      isQuiet && ending.unfinished.isEmpty() ? WorkFailed : tellEnding(argc, argv, ending, limits, language);
-  if (isQuiet) {
-    std::signal(ending.signal, SIG_DFL);
-    std::raise(ending.signal);
+  if (ending.signal == SIGPIPE) {
+    std::signal(SIGPIPE, SIG_DFL);
+    std::raise(SIGPIPE);
   }
-  return status;
+  return tellEnding(argc, argv, ending, limits, language);
 }

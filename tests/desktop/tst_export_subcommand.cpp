@@ -267,9 +267,31 @@ private slots:
     if (!answers) QCOMPARE(kill(worker.readAll().trimmed().toInt(), SIGSTOP), 0);
     kill(supervisor, SIGTERM);
     QVERIFY(process.waitForFinished(5000));  // a second, where the machine does nothing else
-    QCOMPARE(process.exitCode(), answers ? 1 : SIGTERM);
+    QCOMPARE(process.exitCode(), 1);
     QVERIFY(process.readAllStandardError().contains("interrupted"));
     QVERIFY(contents(folder_.path()) == before);
+  }
+
+  void theNextStartSweepsOutWhatWasKilled() {
+    QTemporaryDir const home;
+    Variables const own{{"HOME", home.path()}, {"XDG_CACHE_HOME", {}}};
+    auto const before = contents(folder_.path());
+    QDir const folder(folder_.path());
+    auto const work = [&] { return folder.entryList({".plotvane-*"}, QDir::Dirs | QDir::Hidden); };
+    QProcess process;
+    prepare(process, {"export", "page.kdx", "late.tif", "--dpi", "1500"}, folder_.path(), own);
+    process.start();
+    QTRY_VERIFY(!work().isEmpty());
+    QVERIFY(run({"--version"}, home.path(), own).status == 0 && !work().isEmpty());  // of a living process
+    QFile worker(QStringLiteral("/proc/%1/task/%1/children").arg(process.processId()));
+    QVERIFY(worker.open(QIODevice::ReadOnly));
+    auto const both = {static_cast<pid_t>(process.processId()), static_cast<pid_t>(worker.readAll().trimmed().toInt())};
+    for (int const signal : {SIGSTOP, SIGKILL})
+      for (pid_t const one : both) QCOMPARE(kill(one, signal), 0);
+    QVERIFY(process.waitForFinished(5000) && !work().isEmpty());
+    QCOMPARE(run({"--version"}, home.path(), own).status, 0);
+    QVERIFY(contents(folder_.path()) == before);
+    QVERIFY(QDir(home.filePath(".cache/plotvane/work")).isEmpty());
   }
 
 private:

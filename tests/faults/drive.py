@@ -43,12 +43,13 @@ class Bench:
     def run(self, fault=None, counts=None):
         """Status, what was said, what the result holds, and what lies beside it."""
         with tempfile.TemporaryDirectory(prefix="faults-") as name:
-            folder = Path(name)
+            folder = Path(name, "work")
+            folder.mkdir()
             for file in ("small.kdx", "picture.png", "aegean.gpkg"):
                 shutil.copy(self.build / "faults" / file, folder)
             (folder / self.result).write_text("old")
             before = set(os.listdir(folder))
-            environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", HOME=name + "-home", TMPDIR="/tmp",
+            environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", HOME=name + "/home", TMPDIR="/tmp",
                                LD_PRELOAD=str(self.build / "lib/libplotvane_faults.so"),
                                PLOTVANE_FAULT_FROM="small.kdx")
             if fault:

@@ -2,13 +2,16 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QUuid>
 
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
 
 namespace {
 
-QString const prefix = QStringLiteral(".plotvane-");
 QString const lockName = QStringLiteral("lock");
 
 bool isLocked(QFile& file) { return flock(file.handle(), LOCK_EX | LOCK_NB) == 0; }
@@ -17,7 +20,7 @@ bool isLocked(QFile& file) { return flock(file.handle(), LOCK_EX | LOCK_NB) == 0
 // to what others have put there, and are not followed.
 void sweep(QDir const& place) {
   auto const filter = QDir::Dirs | QDir::Hidden | QDir::NoSymLinks;
-  for (QFileInfo const& folder : place.entryInfoList({prefix + QLatin1Char('*')}, filter)) {
+  for (QFileInfo const& folder : place.entryInfoList({QLatin1String(Leftover::prefix) + QLatin1Char('*')}, filter)) {
     if (folder.ownerId() != getuid()) continue;
     QFile lock(folder.filePath() + QLatin1Char('/') + lockName);
     if (!QFileInfo(lock).isSymLink() && lock.exists() && lock.open(QIODevice::ReadWrite) && isLocked(lock))
@@ -29,14 +32,20 @@ void sweep(QDir const& place) {
 
 // The lock gets its name when it is held, so that no sweep takes the folder of somebody who is about to take it.
 WorkFolder::WorkFolder(QString const& path, QString const& name) {
+  constexpr mode_t ownOnly = 0700;
+  constexpr int letters = 12;
   QDir const place(QFileInfo(path).absolutePath());
   sweep(place);
-  folder_ = std::make_unique<QTemporaryDir>(place.filePath(prefix + QStringLiteral("XXXXXX")));
-  if (!folder_->isValid()) {
-    problem_ = folder_->errorString();
+  path_ = place.filePath(QLatin1String(Leftover::prefix) + QUuid::createUuid().toString(QUuid::Id128).left(letters));
+  leftover_ = std::make_unique<Leftover>(path_, name);
+  if (mkdir(QFile::encodeName(path_).constData(), ownOnly) != 0) {
+    problem_ = qt_error_string(errno);
     return;
   }
-  leftover_ = std::make_unique<Leftover>(folder_->path(), name);
-  lock_.setFileName(folder_->filePath(lockName + QStringLiteral(".new")));
-  if (lock_.open(QIODevice::ReadWrite) && isLocked(lock_)) QFile::rename(lock_.fileName(), folder_->filePath(lockName));
+  lock_.setFileName(filePath(lockName + QStringLiteral(".new")));
+  if (lock_.open(QIODevice::ReadWrite) && isLocked(lock_)) QFile::rename(lock_.fileName(), filePath(lockName));
+}
+
+WorkFolder::~WorkFolder() {
+  if (problem_.isEmpty()) QDir(path_).removeRecursively();
 }
