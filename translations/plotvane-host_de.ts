@@ -76,6 +76,29 @@
     </message>
 </context>
 <context>
+    <name>AllowedFoldersDialog</name>
+    <message>
+        <source>Allowed Folders</source>
+        <translation>Erlaubte Ordner</translation>
+    </message>
+    <message>
+        <source>Documents may use files of these folders, and of folders in them, without that being told. Of all others it is told when a document is opened.</source>
+        <translation>Dokumente dürfen Dateien dieser Ordner und ihrer Unterordner benutzen, ohne dass es gemeldet wird. Bei allen anderen wird es beim Öffnen eines Dokuments gemeldet.</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Allow a Folder</source>
+        <translation>Ordner erlauben</translation>
+    </message>
+</context>
+<context>
     <name>Archive</name>
     <message>
         <source>true or false</source>
@@ -5599,11 +5622,11 @@
     </message>
     <message>
         <source>Allowed folders</source>
-        <translation>Erlaubte Ordner</translation>
+        <translation type="vanished">Erlaubte Ordner</translation>
     </message>
     <message>
         <source>Folders of which documents may use files, also of folders in them, without being told of; one a line.</source>
-        <translation>Ordner, deren Dateien Dokumente verwenden dürfen, auch solche aus Ordnern darin, ohne dass darauf hingewiesen wird; einer je Zeile.</translation>
+        <translation type="vanished">Ordner, deren Dateien Dokumente verwenden dürfen, auch solche aus Ordnern darin, ohne dass darauf hingewiesen wird; einer je Zeile.</translation>
     </message>
     <message>
         <source>was not written to its end</source>
@@ -6068,6 +6091,38 @@
     <message>
         <source>choose another place</source>
         <translation>Wählen Sie einen anderen Ort</translation>
+    </message>
+    <message>
+        <source>owner</source>
+        <translation>Eigentümer</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>permissions</source>
+        <translation>Zugriffsrechte</translation>
+    </message>
+    <message>
+        <source>access control list</source>
+        <translation>Zugriffssteuerungsliste</translation>
+    </message>
+    <message>
+        <source>its folder could not be written to the disk (%1), so that a power cut may bring back what was there before</source>
+        <translation>sein Ordner konnte nicht auf den Datenträger geschrieben werden (%1), sodass ein Stromausfall den früheren Stand zurückbringen kann</translation>
+    </message>
+    <message>
+        <source>the system did not let it keep these of the file before: %1</source>
+        <translation>das System ließ nicht zu, dies von der früheren Datei zu übernehmen: %1</translation>
+    </message>
+    <message>
+        <source>%1 was saved, but %2.</source>
+        <translation>%1 wurde gespeichert, aber %2.</translation>
+    </message>
+    <message>
+        <source>; and </source>
+        <translation>; und </translation>
     </message>
 </context>
 <context>
@@ -7716,6 +7771,10 @@
         <source>new: the page is that of the template; leave out --paper, --landscape and --portrait.</source>
         <translation>new: Die Seite ist die der Vorlage; lassen Sie --paper, --landscape und --portrait weg.</translation>
     </message>
+    <message>
+        <source>%1 was made all the same.</source>
+        <translation>%1 wurde dennoch angelegt.</translation>
+    </message>
 </context>
 <context>
     <name>NoticeBar</name>
@@ -7824,7 +7883,7 @@
     <name>OutsideFiles</name>
     <message>
         <source>“%1” is no whole path; write one that begins with “/”</source>
-        <translation>„%1“ ist kein vollständiger Pfad; schreiben Sie einen, der mit „/“ beginnt</translation>
+        <translation type="vanished">„%1“ ist kein vollständiger Pfad; schreiben Sie einen, der mit „/“ beginnt</translation>
     </message>
     <message>
         <source>%1 more</source>
@@ -7832,7 +7891,7 @@
     </message>
     <message>
         <source>The document uses files of other folders: %1.</source>
-        <translation>Das Dokument verwendet Dateien anderer Ordner: %1.</translation>
+        <translation type="vanished">Das Dokument verwendet Dateien anderer Ordner: %1.</translation>
     </message>
     <message>
         <source>Allow</source>
@@ -7840,7 +7899,11 @@
     </message>
     <message>
         <source>Allowed Folders</source>
-        <translation>Erlaubte Ordner</translation>
+        <translation type="vanished">Erlaubte Ordner</translation>
+    </message>
+    <message>
+        <source>The document uses files of other folders than its own: %1. “Allow” lets every document use files there from now on without this message; File › Allowed Folders… takes that back.</source>
+        <translation>Das Dokument benutzt Dateien anderer Ordner als seines eigenen: %1. „Erlauben“ lässt von nun an jedes Dokument Dateien dort ohne diese Meldung benutzen; Datei › Erlaubte Ordner … nimmt das zurück.</translation>
     </message>
 </context>
 <context>
@@ -8442,6 +8505,13 @@
     <message>
         <source>holds no values, so nothing is drawn</source>
         <translation>enthält keine Werte, daher wird nichts gezeichnet</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryCopy</name>
+    <message>
+        <source>What is not saved would be lost in a crash, since no copy of it can be kept. %1</source>
+        <translation>Nicht Gespeichertes ginge bei einem Absturz verloren, da keine Kopie davon angelegt werden kann. %1</translation>
     </message>
 </context>
 <context>

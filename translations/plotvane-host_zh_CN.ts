@@ -76,6 +76,29 @@
     </message>
 </context>
 <context>
+    <name>AllowedFoldersDialog</name>
+    <message>
+        <source>Allowed Folders</source>
+        <translation>允许的文件夹</translation>
+    </message>
+    <message>
+        <source>Documents may use files of these folders, and of folders in them, without that being told. Of all others it is told when a document is opened.</source>
+        <translation>文档可以使用这些文件夹及其子文件夹中的文件而不另行提示。使用其他文件夹中的文件时，会在打开文档时提示。</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>添加…</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Allow a Folder</source>
+        <translation>允许文件夹</translation>
+    </message>
+</context>
+<context>
     <name>Archive</name>
     <message>
         <source>true or false</source>
@@ -5599,11 +5622,11 @@
     </message>
     <message>
         <source>Allowed folders</source>
-        <translation>允许的文件夹</translation>
+        <translation type="vanished">允许的文件夹</translation>
     </message>
     <message>
         <source>Folders of which documents may use files, also of folders in them, without being told of; one a line.</source>
-        <translation>文档可以使用这些文件夹及其子文件夹中的文件而不再提示；每行一个。</translation>
+        <translation type="vanished">文档可以使用这些文件夹及其子文件夹中的文件而不再提示；每行一个。</translation>
     </message>
     <message>
         <source>was not written to its end</source>
@@ -6068,6 +6091,38 @@
     <message>
         <source>choose another place</source>
         <translation>请选择其他位置</translation>
+    </message>
+    <message>
+        <source>owner</source>
+        <translation>所有者</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>组</translation>
+    </message>
+    <message>
+        <source>permissions</source>
+        <translation>权限</translation>
+    </message>
+    <message>
+        <source>access control list</source>
+        <translation>访问控制列表</translation>
+    </message>
+    <message>
+        <source>its folder could not be written to the disk (%1), so that a power cut may bring back what was there before</source>
+        <translation>其所在文件夹无法写入磁盘（%1），断电后可能恢复为先前的内容</translation>
+    </message>
+    <message>
+        <source>the system did not let it keep these of the file before: %1</source>
+        <translation>系统不允许保留原文件的以下属性：%1</translation>
+    </message>
+    <message>
+        <source>%1 was saved, but %2.</source>
+        <translation>%1 已保存，但%2。</translation>
+    </message>
+    <message>
+        <source>; and </source>
+        <translation>；并且</translation>
     </message>
 </context>
 <context>
@@ -7716,6 +7771,10 @@
         <source>new: the page is that of the template; leave out --paper, --landscape and --portrait.</source>
         <translation>new：页面取自模板；请去掉 --paper、--landscape 和 --portrait。</translation>
     </message>
+    <message>
+        <source>%1 was made all the same.</source>
+        <translation>%1 仍已创建。</translation>
+    </message>
 </context>
 <context>
     <name>NoticeBar</name>
@@ -7824,7 +7883,7 @@
     <name>OutsideFiles</name>
     <message>
         <source>“%1” is no whole path; write one that begins with “/”</source>
-        <translation>“%1”不是完整路径；请填写以“/”开头的路径</translation>
+        <translation type="vanished">“%1”不是完整路径；请填写以“/”开头的路径</translation>
     </message>
     <message>
         <source>%1 more</source>
@@ -7832,7 +7891,7 @@
     </message>
     <message>
         <source>The document uses files of other folders: %1.</source>
-        <translation>该文档使用了其他文件夹中的文件：%1。</translation>
+        <translation type="vanished">该文档使用了其他文件夹中的文件：%1。</translation>
     </message>
     <message>
         <source>Allow</source>
@@ -7840,7 +7899,11 @@
     </message>
     <message>
         <source>Allowed Folders</source>
-        <translation>允许的文件夹</translation>
+        <translation type="vanished">允许的文件夹</translation>
+    </message>
+    <message>
+        <source>The document uses files of other folders than its own: %1. “Allow” lets every document use files there from now on without this message; File › Allowed Folders… takes that back.</source>
+        <translation>文档使用了其自身文件夹以外的文件夹中的文件：%1。“允许”使所有文档今后使用那里的文件时不再显示此消息；可在“文件 › 允许的文件夹…”中撤销。</translation>
     </message>
 </context>
 <context>
@@ -8442,6 +8505,13 @@
     <message>
         <source>holds no values, so nothing is drawn</source>
         <translation>不含任何数值，因此不绘制任何内容</translation>
+    </message>
+</context>
+<context>
+    <name>RecoveryCopy</name>
+    <message>
+        <source>What is not saved would be lost in a crash, since no copy of it can be kept. %1</source>
+        <translation>由于无法保留副本，未保存的内容在程序崩溃时会丢失。%1</translation>
     </message>
 </context>
 <context>

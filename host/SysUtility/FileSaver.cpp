@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStringList>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -43,31 +44,50 @@ QString closedFolder(QString const& path, QString const& folder) {
 bool syncToDisk(int file) { return fsync(file) == 0 || errno == EINVAL; }
 
 // The new name of a file is in its folder.
-void syncFolder(QString const& folder) {
+bool syncFolder(QString const& folder) {
   int const handle = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (handle < 0) return;
-  syncToDisk(handle);
+  if (handle < 0) return errno == EACCES;  // who may write there need not be allowed to read
+  bool const isDone = syncToDisk(handle);
+  int const error = errno;
   close(handle);
+  errno = error;
+  return isDone;
 }
 
-// What belongs to a file and is not its content. What the system keeps to itself, or another owner's, is left.
-void takeAttributes(QString const& from, int to) {
-  QByteArray const path = QFile::encodeName(from);
-  struct stat status = {};
-  if (stat(path.constData(), &status) != 0) return;
-  [[maybe_unused]] bool const isGiven =
-      fchown(to, status.st_uid, status.st_gid) == 0 || fchown(to, static_cast<uid_t>(-1), status.st_gid) == 0;
-  fchmod(to, status.st_mode & 07777);
+QByteArray attributeNames(QByteArray const& path) {
   ssize_t const bytes = listxattr(path.constData(), nullptr, 0);
   QByteArray names(std::max<int>(0, static_cast<int>(bytes)), '\0');
   names.resize(
       std::max<int>(0, static_cast<int>(listxattr(path.constData(), names.data(), static_cast<size_t>(names.size())))));
-  for (QByteArray const& name : names.split('\0')) {
-    ssize_t const size = name.isEmpty() ? -1 : getxattr(path.constData(), name.constData(), nullptr, 0);
-    QByteArray value(std::max<int>(0, static_cast<int>(size)), '\0');
-    if (size >= 0 && getxattr(path.constData(), name.constData(), value.data(), static_cast<size_t>(size)) == size)
-      fsetxattr(to, name.constData(), value.constData(), static_cast<size_t>(size), 0);
+  return names;
+}
+
+bool takeAttribute(QByteArray const& path, QByteArray const& name, int to) {
+  ssize_t const size = getxattr(path.constData(), name.constData(), nullptr, 0);
+  QByteArray value(std::max<int>(0, static_cast<int>(size)), '\0');
+  return size >= 0 && getxattr(path.constData(), name.constData(), value.data(), static_cast<size_t>(size)) == size &&
+         fsetxattr(to, name.constData(), value.constData(), static_cast<size_t>(size), 0) == 0;
+}
+
+// What belongs to a file and is not its content. Answers what the system keeps to itself, or to another owner.
+QStringList takeAttributes(QString const& from, int to) {
+  QByteArray const path = QFile::encodeName(from);
+  struct stat status = {}, own = {};
+  if (stat(path.constData(), &status) != 0) return {};
+  [[maybe_unused]] bool const isGiven =
+      fchown(to, status.st_uid, status.st_gid) == 0 || fchown(to, static_cast<uid_t>(-1), status.st_gid) == 0;
+  constexpr mode_t permissions = 07777;
+  fchmod(to, status.st_mode & permissions);
+  QStringList lost;
+  fstat(to, &own);
+  if (own.st_uid != status.st_uid) lost << Texts::tr("owner");
+  if (own.st_gid != status.st_gid) lost << Texts::tr("group");
+  if ((own.st_mode & permissions) != (status.st_mode & permissions)) lost << Texts::tr("permissions");
+  for (QByteArray const& name : attributeNames(path).split('\0')) {
+    if (name.isEmpty() || takeAttribute(path, name, to) || name.startsWith("security.")) continue;
+    lost << (name.startsWith("system.posix_acl") ? Texts::tr("access control list") : QString::fromLocal8Bit(name));
   }
+  return lost;
 }
 
 // On a full disk a large write comes back short, without an error, so the bytes are counted.
@@ -108,9 +128,10 @@ QString overwrite(QString const& path, QByteArray const& content) {
 
 // The content, with all that belongs to the file, lies safely in one that has not got its place yet. The system is
 // asked to store the bytes before the old file gives way: QSaveFile would commit a truncated file.
-QString fill(QFileDevice& file, QString const& path, QString const& real, QByteArray const& content) {
+QString fill(QFileDevice& file, QString const& path, QString const& real, QByteArray const& content,
+             QStringList& lost) {
   if (!putWhole(file, content)) return noRoom(path, file);
-  takeAttributes(real, file.handle());
+  lost = takeAttributes(real, file.handle());
   return syncToDisk(file.handle()) ? QString() : notSynced(path);
 }
 
@@ -133,7 +154,8 @@ Placed placeUnnamed(int handle, QString const& real) {
 
 // A file without a name goes with its process, however that ends. Not every file system has them: then nothing is
 // answered.
-std::optional<QString> saveUnnamed(QString const& path, QString const& real, QByteArray const& content) {
+std::optional<QString> saveUnnamed(QString const& path, QString const& real, QByteArray const& content,
+                                   QStringList& lost) {
   QByteArray const folder = QFile::encodeName(QFileInfo(real).absolutePath());
   constexpr mode_t asUsual = 0666;
   int const handle = open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, asUsual);
@@ -143,7 +165,7 @@ std::optional<QString> saveUnnamed(QString const& path, QString const& real, QBy
     close(handle);
     return std::nullopt;
   }
-  QString const trouble = fill(file, path, real, content);
+  QString const trouble = fill(file, path, real, content, lost);
   if (!trouble.isEmpty()) return trouble;
   switch (placeUnnamed(handle, real)) {
     case Placed::Yes: return QString();
@@ -152,11 +174,11 @@ std::optional<QString> saveUnnamed(QString const& path, QString const& real, QBy
   }
 }
 
-QString saveNamed(QString const& path, QString const& real, QByteArray const& content) {
+QString saveNamed(QString const& path, QString const& real, QByteArray const& content, QStringList& lost) {
   QSaveFile file(real);
   if (!file.open(QIODevice::WriteOnly))
     return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
-  QString const trouble = fill(file, path, real, content);
+  QString const trouble = fill(file, path, real, content, lost);
   if (!trouble.isEmpty() || file.commit()) return trouble;
   return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
 }
@@ -179,15 +201,27 @@ QString FileSaver::realPath(QString const& path) {
   return found.isEmpty() ? real : found;
 }
 
-QString FileSaver::save(QString const& path, QByteArray const& content) {
+QString FileSaver::save(QString const& path, QByteArray const& content, QString* remark) {
   QString const obstacle = checkPlace(path);
   if (!obstacle.isEmpty()) return obstacle;
   QString const real = realPath(path), folder = QFileInfo(real).absolutePath();
   if (!takesNewFiles(folder)) return overwrite(real, content);
-  auto const unnamed = saveUnnamed(path, real, content);
-  QString const trouble = unnamed ? *unnamed : saveNamed(path, real, content);
-  if (trouble.isEmpty()) syncFolder(folder);
-  return trouble;
+  QStringList lost;
+  auto const unnamed = saveUnnamed(path, real, content, lost);
+  QString const trouble = unnamed ? *unnamed : saveNamed(path, real, content, lost);
+  if (!trouble.isEmpty()) return trouble;
+  QStringList remarks;
+  if (!syncFolder(folder))
+    remarks << Texts::tr(
+                   "its folder could not be written to the disk (%1), so that a power cut may bring back what was "
+                   "there before")
+                   .arg(qt_error_string(errno));
+  if (!lost.isEmpty())
+    remarks << Texts::tr("the system did not let it keep these of the file before: %1")
+                   .arg(lost.join(QStringLiteral(", ")));
+  if (remark && !remarks.isEmpty())
+    *remark = Texts::tr("%1 was saved, but %2.").arg(QDir::toNativeSeparators(path), remarks.join(Texts::tr("; and ")));
+  return QString();
 }
 
 QString FileSaver::checkFolder(QString const& path) {

@@ -16,7 +16,11 @@ public:
   /// A link stays a link, and what it leads to is replaced. A file that is replaced gives its owner, its permissions
   /// and its extended attributes to the new one, as far as the system lets us. Where its folder takes no new file, it
   /// is written over in its place: then alone a power cut may leave a half.
-  static QString save(QString const& path, QByteArray const& content);
+  ///
+  /// `remark` gets a sentence where the file is whole and something about it is not as it should be: what belonged to
+  /// the old one could not be kept, or its folder not be written to the disk. Labels that the system gives by rules of
+  /// its own ("security.…") are not told.
+  static QString save(QString const& path, QByteArray const& content, QString* remark = nullptr);
 
   static constexpr char besidePrefix[] = ".plotvane-new-";
 

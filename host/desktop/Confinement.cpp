@@ -12,9 +12,12 @@ bool Confinement::take(QStringList& arguments) {
   while (auto const folder = takeOption(arguments, folderOption, OptionValue::First)) folders << *folder;
   QString problem;
   for (QString const& folder : qAsConst(folders))
-    if (!QFileInfo(folder).isDir())
+    if (folder.isEmpty())
+      problem = QStringLiteral("--allow lacks its folder; write --allow FOLDER.");
+    else if (!QFileInfo(folder).isDir())
       problem = QStringLiteral("--allow takes a folder that is there, not \"%1\".").arg(folder);
-  if (!folders.isEmpty() && !isConfined) problem = QStringLiteral("--allow goes with --confine; give both.");
+  if (problem.isEmpty() && !folders.isEmpty() && !isConfined)
+    problem = QStringLiteral("--allow goes with --confine; give both.");
   if (problem.isEmpty()) return true;
   Console::complain(problem);  // in English: nothing is translated yet
   return false;

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <atomic>
 #include <cstdio>
 
 namespace Console {
@@ -9,6 +10,7 @@ namespace Console {
 namespace {
 
 bool failed = false;
+std::atomic<bool> isSilent{false};
 
 }  // namespace
 
@@ -19,9 +21,12 @@ void print(QString const& text) {
 }
 
 void complain(QString const& sentence) {
+  if (isSilent) return;
   QByteArray const bytes = QByteArrayLiteral("plotvane: ") + sentence.toLocal8Bit() + '\n';
   std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
 }
+
+void silence() { isSilent = true; }
 
 bool finish() { return std::fflush(stdout) == 0 && !failed; }
 

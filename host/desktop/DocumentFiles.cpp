@@ -194,6 +194,7 @@ bool DocumentFiles::read(QString const& path) {
 void DocumentFiles::takeOver() {
   lock_ = session_.path().isEmpty() ? nullptr : lockFor(session_.path());
   if (lock_) lock_->take();
+  emit opened();
 }
 
 bool DocumentFiles::isReadOnly() const {
@@ -243,6 +244,8 @@ bool DocumentFiles::write(QString const& path) {
   }
   lock_ = lock;
   remember(path);
+  QString const remark = session_.takeRemark();
+  if (!remark.isEmpty()) emit told(remark, false);
   return true;
 }
 
@@ -270,7 +273,7 @@ void DocumentFiles::noteChanges(QStringList const& paths) {
     session_.setFileGivenUp(false);
   if (!changed.isEmpty()) sentences << tr("Changed by another program: %1.").arg(namesOf(changed));
   if (!missing.isEmpty()) sentences << tr("Removed by another program: %1.").arg(namesOf(missing));
-  if (!sentences.isEmpty()) emit changedOutside(sentences.join(QLatin1Char(' ')), !changed_.isEmpty());
+  if (!sentences.isEmpty()) emit told(sentences.join(QLatin1Char(' ')), !changed_.isEmpty());
 }
 
 bool DocumentFiles::reload() {

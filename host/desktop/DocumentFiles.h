@@ -46,10 +46,10 @@ public:
   /// Looks for changes that were not told of.
   void look() { watch_.look(); }
 
-  /// Reads anew what `changedOutside` last told of; false where that is still to be done.
+  /// Reads anew the changed files that `told` was last about; false where that is still to be done.
   bool reload();
 
-  /// Lets be what `changedOutside` last told of. A document that another program has changed counts as modified from
+  /// Lets them be. A document that another program has changed counts as modified from
   /// now on.
   void keep();
 
@@ -57,11 +57,12 @@ public:
   void fillWithRecent(QMenu& menu);
 
 signals:
-  /// A person has opened a document, or read it anew.
+  /// A person has opened a document, read it anew, or had it recovered.
   void opened();
 
-  /// Somebody else has changed or removed the document or files that it draws from.
-  void changedOutside(QString const& sentence, bool canReload);
+  /// Somebody else has changed or removed the document or files that it draws from, or a save has left something to
+  /// say.
+  void told(QString const& sentence, bool canReload);
 
   /// Data have been read anew: everything that shows them is to be drawn again.
   void dataReplaced();

@@ -23,6 +23,7 @@ DocumentSession::~DocumentSession() {
 QString DocumentSession::title() const { return path().isEmpty() ? tr("Untitled") : QFileInfo(path()).fileName(); }
 
 QString DocumentSession::takeProblem() { return SysCarto::MapDocumentHost::takeLastFailure(); }
+QString DocumentSession::takeRemark() { return SysCarto::MapDocumentHost::takeLastRemark(); }
 
 bool DocumentSession::settle(bool done) {
   if (!done) return false;

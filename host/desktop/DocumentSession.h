@@ -40,6 +40,9 @@ public:
   /// Said once: whoever asks tells it.
   static QString takeProblem();
 
+  /// The same about a save that was done, and is not all that it should be.
+  static QString takeRemark();
+
   /// Of the file, as it was last read or written here.
   QByteArray const& fileDigest() const { return fileDigest_; }
 

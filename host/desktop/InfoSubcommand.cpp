@@ -4,6 +4,7 @@
 #include "Subcommand.h"
 #include "layers/DataReport.h"
 
+#include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layers/LocalDataset.h"
 
@@ -15,6 +16,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <chrono>
 
 namespace {
@@ -65,6 +67,12 @@ ExitStatus tellData(QString const& path, bool asJson) {
   return Done;
 }
 
+bool isWhole(SysCarto::MapDocument const& document) {
+  auto const layout = document.GetPageLayout();
+  auto const sources = layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>();
+  return std::all_of(sources.begin(), sources.end(), [](auto const& source) { return source.problem.isEmpty(); });
+}
+
 ExitStatus tellFolder(QString const& path, bool asJson) {
   auto const files = SysCarto::dataFilesIn(path);
   if (files.isEmpty()) {
@@ -111,5 +119,5 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
     printJson(report);
   else
     Console::print(documentText(report));
-  return Done;
+  return isWhole(document) ? Done : WorkFailed;
 }

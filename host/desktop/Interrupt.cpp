@@ -1,17 +1,20 @@
 #include "Interrupt.h"
 
+#include "Console.h"
+
 #include <atomic>
 #include <csignal>
 
 namespace {
 
-constexpr int endSignals[] = {SIGINT, SIGTERM, SIGHUP};
+constexpr int endSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGALRM};
 
 std::atomic<SysUI::TrackerCancel*> current{nullptr};
 static_assert(std::atomic<SysUI::TrackerCancel*>::is_always_lock_free, "used in a signal handler");
 
-// Only atomic loads and stores: nothing else is allowed here.
-void ask(int) {
+// Only atomic loads and stores: nothing else is allowed here. Whoever sends the alarm tells why.
+void ask(int signal) {
+  if (signal == SIGALRM) Console::silence();
   if (SysUI::TrackerCancel* const cancel = current) cancel->Cancel();
 }
 

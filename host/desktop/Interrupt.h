@@ -2,8 +2,8 @@
 
 #include <SysUI/TrackerCancel.h>
 
-/// While it lives, an interrupt or a termination signal asks the work to stop, so that it can clean up behind itself.
-/// A second one ends the process at once. One object at a time.
+/// While it lives, an interrupt, a termination signal or the alarm of a supervisor asks the work to stop, so that it
+/// can clean up behind itself. A second one ends the process at once. One object at a time.
 class Interrupt {
 public:
   Interrupt();

@@ -108,11 +108,12 @@ MainWindow::MainWindow()
   fileMenu->insertMenu(fileMenu->actions().value(afterOpen), recent);
 
   connect(&bench_.views(), &DocumentViews::changed, actions_.get(), &ActionTable::refreshSoon);
-  connect(&bench_.session(), &DocumentSession::historyChanged, actions_.get(), &ActionTable::refreshSoon);
   for (QDockWidget const* dock : {contentsDock_, historyDock_})
     connect(dock, &QDockWidget::visibilityChanged, actions_.get(), &ActionTable::refreshSoon);
-  connect(&bench_.session(), &DocumentSession::historyChanged, this, [this] { contents_->Refresh(); });
-  connect(&bench_.session(), &DocumentSession::replaced, this, &MainWindow::documentReplaced);
+  for (auto const changed : {&DocumentSession::historyChanged, &DocumentSession::replaced}) {
+    connect(&bench_.session(), changed, this, [this] { contents_->Refresh(); });
+    connect(&bench_.session(), changed, actions_.get(), &ActionTable::refreshSoon);
+  }
   connect(actions_.get(), &ActionTable::refreshed, this, &MainWindow::showState);
   connect(actions_.get(), &ActionTable::refreshed, properties_, &PropertyPanel::follow);
   connect(actions_.get(), &ActionTable::refreshed, elements_, &ElementList::follow);
@@ -239,7 +240,7 @@ void MainWindow::showRulers() {
 }
 
 void MainWindow::connectFiles() {
-  connect(&files_, &DocumentFiles::changedOutside, notice_, &NoticeBar::tell);
+  connect(&files_, &DocumentFiles::told, notice_, &NoticeBar::tell);
   connect(&files_, &DocumentFiles::dataReplaced, this, [this] {
     contents_->Refresh();
     bench_.views().redraw();
@@ -304,6 +305,7 @@ void MainWindow::buildProperties() {
   connect(elements_, &ElementList::chosen, properties_, &PropertyPanel::showSelection);
   auto const tell = [this](QString const& sentence) { notice_->tell(sentence, false); };
   connect(properties_, &PropertyPanel::told, notice_, tell);
+  connect(&recovery_, &RecoveryCopy::told, notice_, tell);
   connect(&adding_, &LayerAdding::told, notice_, tell);
   connect(contents_, &SysAdapterUI::TOCControl::RowChosen, &adding_,
           [this](auto const&, auto const& layer) { adding_.setChosen(layer); });
@@ -361,11 +363,6 @@ void MainWindow::keepState() {
   settings.setValue(guidesKey, bench_.views().layoutView().showsAids());
   settings.setValue(snappingKey, bench_.views().layoutView().snaps());
   settings.setValue(earlierKey, bench_.session().keepsEarlier());
-}
-
-void MainWindow::documentReplaced() {
-  contents_->Refresh();
-  actions_->refreshSoon();
 }
 
 void MainWindow::showState() {

@@ -67,7 +67,6 @@ private:
   void keepState();
   void restoreState();
 
-  void documentReplaced();
   void showState();
   void showPointer(QPoint const& positionPx);
   void takeScale();

@@ -47,7 +47,7 @@ void NoticeBar::tell(QString const& text, bool canReload) {
 }
 
 void NoticeBar::offer(QString const& text, QString const& button, std::function<void()> const& accept) {
-  tell(text, false);
+  tell(isHidden() ? text : text_->text() + QLatin1Char('\n') + text, false);
   offered_ = accept;
   offer_->setText(button);
   offer_->show();

@@ -18,7 +18,7 @@ public:
 
   void tell(QString const& text, bool canReload);
 
-  /// With a button that does what is offered, and closes the line.
+  /// Below what is told already. With a button that does what is offered, and closes the line.
   void offer(QString const& text, QString const& button, std::function<void()> const& accept);
 
 signals:

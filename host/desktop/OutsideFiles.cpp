@@ -4,15 +4,21 @@
 #include "DocumentSession.h"
 #include "HostCommands.h"
 #include "NoticeBar.h"
-#include "SettingsDialog.h"
-#include "SettingsSource.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysUtility/FileReach.h"
 
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
 #include <QSettings>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -25,7 +31,7 @@ QString const foldersKey = QStringLiteral("files/allowedFolders");
 // stays.
 QStringList foldersOutside(SysCarto::MapDocument const& document) {
   auto const layout = document.GetPageLayout();
-  auto const reach = SysUtility::FileReach::ofDocument(document.GetPath(), AllowedFolders::kept().list());
+  auto const reach = SysUtility::FileReach::ofDocument(document.GetPath(), AllowedFolders::kept());
   QStringList folders;
   for (auto const& source : layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>()) {
     QString const outside = source.outside(reach);
@@ -36,30 +42,80 @@ QStringList foldersOutside(SysCarto::MapDocument const& document) {
   return folders;
 }
 
-}  // namespace
+class AllowedFoldersDialog final : public QDialog {
+  Q_DECLARE_TR_FUNCTIONS(AllowedFoldersDialog)
 
-AllowedFolders AllowedFolders::kept() { return {QSettings().value(foldersKey).toString()}; }
-void AllowedFolders::keep() const { QSettings().setValue(foldersKey, list().join(QLatin1Char('\n'))); }
+public:
+  explicit AllowedFoldersDialog(QWidget* parent);
 
-QStringList AllowedFolders::list() const {
-  QStringList paths;
-  for (QString const& line : folders.split(QLatin1Char('\n')))
-    if (!line.trimmed().isEmpty()) paths << line.trimmed();
-  paths.removeDuplicates();
-  return paths;
+  void accept() override;
+
+private:
+  void choose();
+  void add(QStringList const& folders);
+
+  QListWidget* const rows_;
+};
+
+AllowedFoldersDialog::AllowedFoldersDialog(QWidget* parent) : QDialog(parent), rows_(new QListWidget(this)) {
+  constexpr QSize firstSize(560, 360);
+  setWindowTitle(tr("Allowed Folders"));
+  resize(firstSize);
+  auto* const text =
+      new QLabel(tr("Documents may use files of these folders, and of folders in them, without that being "
+                    "told. Of all others it is told when a document is opened."),
+                 this);
+  text->setWordWrap(true);
+  rows_->setObjectName(QStringLiteral("listWidget_AllowedFolders"));
+  rows_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+  auto* const addition = buttons->addButton(tr("Add…"), QDialogButtonBox::ActionRole);
+  auto* const removal = buttons->addButton(tr("Remove"), QDialogButtonBox::ActionRole);
+  for (QPushButton* const button : {addition, removal}) button->setAutoDefault(false);
+  removal->setEnabled(false);
+  auto* const box = new QVBoxLayout(this);
+  box->addWidget(text);
+  box->addWidget(rows_, 1);
+  box->addWidget(buttons);
+  add(AllowedFolders::kept());
+  connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  connect(addition, &QPushButton::clicked, this, [this] { choose(); });
+  connect(removal, &QPushButton::clicked, this, [this] { qDeleteAll(rows_->selectedItems()); });
+  connect(rows_, &QListWidget::itemSelectionChanged, removal,
+          [this, removal] { removal->setEnabled(!rows_->selectedItems().isEmpty()); });
 }
 
-void AllowedFolders::list(SysUtility::Fields& fields) {
-  fields.text(
-      {"folders", QT_TRANSLATE_NOOP("Fields", "Allowed folders"),
-       QT_TRANSLATE_NOOP("Fields",
-                         "Folders of which documents may use files, also of folders in them, without being told "
-                         "of; one a line.")},
-      folders, SysUtility::TextKind::Lines, QString());
-  if (!fields.isReading() || !fields.ok()) return;
-  for (QString const& path : list())
-    if (!QDir::isAbsolutePath(path))
-      fields.fail("folders", OutsideFiles::tr("“%1” is no whole path; write one that begins with “/”").arg(path));
+void AllowedFoldersDialog::add(QStringList const& folders) {
+  for (QString const& folder : folders) {
+    auto* const row = new QListWidgetItem(QDir::toNativeSeparators(folder), rows_);
+    row->setData(Qt::UserRole, folder);
+  }
+}
+
+void AllowedFoldersDialog::choose() {
+  QFileDialog dialog(this, tr("Allow a Folder"));
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  if (dialog.exec() == QDialog::Accepted) add(dialog.selectedFiles());
+}
+
+void AllowedFoldersDialog::accept() {
+  QStringList folders;
+  for (int row = 0; row < rows_->count(); ++row) folders << rows_->item(row)->data(Qt::UserRole).toString();
+  AllowedFolders::keep(folders);
+  QDialog::accept();
+}
+
+}  // namespace
+
+QStringList AllowedFolders::kept() {
+  return QSettings().value(foldersKey).toString().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+void AllowedFolders::keep(QStringList folders) {
+  folders.removeDuplicates();
+  QSettings().setValue(foldersKey, folders.join(QLatin1Char('\n')));
 }
 
 OutsideFiles::OutsideFiles(DocumentFiles& files, DocumentSession& session, NoticeBar& notice)
@@ -78,20 +134,12 @@ void OutsideFiles::look() {
   QStringList shown;
   for (QString const& folder : folders.mid(0, maxShown)) shown << QDir::toNativeSeparators(folder);
   if (folders.size() > maxShown) shown << tr("%1 more").arg(folders.size() - maxShown);
-  notice_.offer(tr("The document uses files of other folders: %1.").arg(shown.join(QStringLiteral(", "))), tr("Allow"),
-                [folders] {
-                  AllowedFolders allowed = AllowedFolders::kept();
-                  allowed.folders += QLatin1Char('\n') + folders.join(QLatin1Char('\n'));
-                  allowed.keep();
-                });
+  notice_.offer(tr("The document uses files of other folders than its own: %1. “Allow” lets every document use files "
+                   "there from now on without this message; File › Allowed Folders… takes that back.")
+                    .arg(shown.join(QStringLiteral(", "))),
+                tr("Allow"), [folders] { AllowedFolders::keep(AllowedFolders::kept() + folders); });
 }
 
 void OutsideFiles::addTo(HostCommands& host, QWidget& window) {
-  host.add(QStringLiteral("Host_AllowedFolders"), {[&window] {
-                                                     SettingsSource source(AllowedFolders::kept());
-                                                     SettingsDialog dialog(tr("Allowed Folders"), source, {}, &window);
-                                                     if (dialog.exec() == QDialog::Accepted) source.settings().keep();
-                                                   },
-                                                   {},
-                                                   {}});
+  host.add(QStringLiteral("Host_AllowedFolders"), {[&window] { AllowedFoldersDialog(&window).exec(); }, {}, {}});
 }

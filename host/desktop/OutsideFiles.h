@@ -1,7 +1,5 @@
 #pragma once
 
-#include "host/SysUtility/Fields.h"
-
 #include <QObject>
 #include <QSet>
 #include <QStringList>
@@ -13,17 +11,13 @@ class NoticeBar;
 
 /// The folders, besides its own, of which a document may use files without that being told. Kept with the program's
 /// settings.
-struct AllowedFolders {
-  QString folders;  ///< one a line
+namespace AllowedFolders {
+QStringList kept();
+void keep(QStringList folders);
+}  // namespace AllowedFolders
 
-  static AllowedFolders kept();
-  void keep() const;
-  QStringList list() const;
-  void list(SysUtility::Fields& fields);
-};
-
-/// Tells of the folders that a document which was opened reaches into besides its own, each once as long as the program
-/// runs, and offers to allow them for good.
+/// Tells of the folders that a document which was opened or recovered reaches into besides its own, each once as long
+/// as the program runs, and offers to allow them for good.
 class OutsideFiles final : public QObject {
   Q_OBJECT
 

@@ -473,14 +473,12 @@ QString RunSteps::attributes(QString const& text) {
 }
 
 QString RunSteps::answer(QString const& text) {
+  using How = DialogAnswers::Answer::Kind;
   int const colon = text.indexOf(QLatin1Char(':'));
   if (colon > 0)
-    answers_.add({DialogAnswers::Answer::Kind::Widget, text.left(colon), text.mid(colon + 1)});
+    answers_.add({How::Widget, text.left(colon), text.mid(colon + 1)});
   else
-    answers_.add(
-        {text == QLatin1String("accept") ? DialogAnswers::Answer::Kind::Accept : DialogAnswers::Answer::Kind::Cancel,
-         {},
-         {}});
+    answers_.add({text == QLatin1String("accept") ? How::Accept : How::Cancel, {}, {}});
   return QString();
 }
 
@@ -489,7 +487,10 @@ QString RunSteps::save(QString const& file) {
   if (!lock.take() && !force_) return tr("%1 Name another file, or pass --force.").arg(lock.holder());
   if (!force_ && lock.guards(bench_.session().path()) && bench_.session().isFileChanged())
     return tr("%1 was changed by another program since it was read; name another file, or pass --force.").arg(file);
-  return bench_.session().saveAs(file) ? QString() : bench_.session().takeProblem();
+  if (!bench_.session().saveAs(file)) return bench_.session().takeProblem();
+  QString const remark = bench_.session().takeRemark();
+  if (!remark.isEmpty()) Console::complain(remark);
+  return QString();
 }
 
 QString RunSteps::info(QString const&) {

@@ -28,7 +28,9 @@ bool takeNumber(QStringList& arguments, char const* option, int& number) {
   if (isNumber && number > 0) return true;
   // In English: nothing is translated yet.
   Console::complain(
-      QStringLiteral("--%1 takes a whole number of at least 1, not \"%2\".").arg(QLatin1String(option), *text));
+      text->isEmpty()
+          ? QStringLiteral("--%1 lacks its number; write --%1 N.").arg(QLatin1String(option))
+          : QStringLiteral("--%1 takes a whole number of at least 1, not \"%2\".").arg(QLatin1String(option), *text));
   return false;
 }
 
@@ -97,7 +99,7 @@ ProcessEnding waitFor(pid_t process, ResourceLimits const& limits, sigset_t cons
     if (signal == SIGALRM && asked != 0) {
       kill(process, SIGKILL);
     } else if (signal == SIGALRM) {
-      kill(process, ending.reason == Reason::Itself ? SIGTERM : SIGKILL);
+      kill(process, ending.reason == Reason::Itself ? SIGALRM : SIGKILL);
       ending.reason = Reason::Time;
       alarm(graceSeconds);
     } else if (signal == SIGCHLD && waitpid(process, &status, WNOHANG) == process) {

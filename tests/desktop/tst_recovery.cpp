@@ -88,6 +88,46 @@ private slots:
     QTRY_VERIFY(copied().isEmpty());
   }
 
+  void whatASaveHasIsNotOffered() {
+    WorldWindow sample;
+    auto& session = sample.window.bench().session();
+    QString const file = folder_.filePath("mine.kdx");
+    QVERIFY(session.saveAs(file));
+    WorkbenchPage(sample.window.bench()).add<SysCarto::RectangleElement>(1, 1, 3, 3);
+    RecoveryCopy copy(session, picture_);
+    QVERIFY(copy.keep());
+    leaveBehind();  // as if it were killed before it removes its copy
+    QCOMPARE(LostDocument::all().size(), 1U);
+    QVERIFY(session.saveAs(folder_.filePath("other-name.kdx")));
+    QCOMPARE(LostDocument::all().size(), 1U);
+    QVERIFY(session.saveAs(file));
+    QVERIFY(LostDocument::all().empty());
+    QVERIFY(!QFile::exists(QDir(recoveryFolder()).filePath("of-the-dead.kdx")));
+  }
+
+  void whatCanNotBeKeptIsToldOnce() {
+    WorkbenchPage page;
+    RecoveryCopy copy(page.bench.session(), picture_);
+    QSignalSpy const told(&copy, &RecoveryCopy::told);
+    auto const keeps = [&] {
+      page.add<SysCarto::RectangleElement>(1, 1, 3, 3);
+      return copy.keep();
+    };
+    QDir folder(recoveryFolder());
+    QVERIFY(folder.removeRecursively());
+    put(folder.path(), "");  // a file, in which no file can be made
+    QVERIFY(!keeps() && !keeps());
+    QCOMPARE(told.size(), 1);
+    QVERIFY2(told[0][0].toString().contains(folder.path()), qPrintable(told[0][0].toString()));
+    QVERIFY(QFile::remove(folder.path()));
+    QVERIFY(keeps());
+    QVERIFY(folder.removeRecursively());
+    put(folder.path(), "");
+    QVERIFY(!keeps() && !keeps());
+    QCOMPARE(told.size(), 2);
+    QVERIFY(QFile::remove(folder.path()));
+  }
+
   // PLOTVANE_PARTS says how many, where the times are to be measured.
   void aLargeDocumentIsReadBetweenEvents_data() {
     Rows<QString> row;

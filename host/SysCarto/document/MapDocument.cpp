@@ -79,7 +79,7 @@ QString unknownField(QString const& field) {
 }
 
 // Of any document of the program; a command's own document is gone when the command is asked what it did.
-QString lastFailure;
+QString lastFailure, lastRemark;
 
 }  // namespace
 
@@ -198,7 +198,8 @@ QString MapDocument::Private::write(QString const& file, bool relativePaths, boo
   if (!problem.isEmpty()) return aboutFile(file, problem);
   auto const text = textFor(file, relativePaths, problem);
   if (text && keepBackup) problem = keepOldFile(file);
-  return problem.isEmpty() ? SysUtility::FileSaver::save(file, *text) : problem;
+  lastRemark.clear();
+  return problem.isEmpty() ? SysUtility::FileSaver::save(file, *text, &lastRemark) : problem;
 }
 
 // Warnings and problems begin with the path, where there is one.
@@ -367,6 +368,8 @@ bool MapDocumentHost::recover(MapDocument& document, QString const& copy, QStrin
 }
 
 QString MapDocumentHost::takeLastFailure() { return std::exchange(lastFailure, QString()); }
+
+QString MapDocumentHost::takeLastRemark() { return std::exchange(lastRemark, QString()); }
 
 int MapDocumentHost::unreadableSources(MapDocument const& document) { return document.d->unreadableSources; }
 

@@ -50,6 +50,10 @@ struct SYSCARTO_EXPORT MapDocumentHost {
   /// Why the latest `Open` or `Save` of any document failed, empty where none has since the last call: a command tells
   /// no more than that it did.
   static QString takeLastFailure();
+
+  /// What is to be told of the latest `Save` of any document that went well, as `FileSaver::save` remarks it; empty
+  /// where that is nothing, or where it was told.
+  static QString takeLastRemark();
 };
 
 }  // namespace SysCarto

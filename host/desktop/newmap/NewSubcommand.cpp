@@ -28,7 +28,10 @@ QString problemOfPlace(QString const& path, bool mayReplace) {
 QString write(SysCarto::MapDocument& document, QString const& path) {
   DocumentLock lock(path);
   if (!lock.take()) return lock.holder();
-  return document.SaveAs(path, true, false) ? QString() : SysCarto::MapDocumentHost::takeLastFailure();
+  if (!document.SaveAs(path, true, false)) return SysCarto::MapDocumentHost::takeLastFailure();
+  QString const remark = SysCarto::MapDocumentHost::takeLastRemark();
+  if (!remark.isEmpty()) Console::complain(remark);
+  return QString();
 }
 
 }  // namespace
@@ -105,5 +108,7 @@ ExitStatus runNew(Subcommand const& self, QStringList const& arguments) {
     return WorkFailed;
   }
   if (!parser.isSet(image)) return Done;
-  return runExport(self, {operands.first(), parser.value(image), QStringLiteral("--quiet")});
+  ExitStatus const status = runExport(self, {operands.first(), parser.value(image), QStringLiteral("--quiet")});
+  if (status != Done) Console::complain(Texts::tr("%1 was made all the same.").arg(operands.first()));
+  return status;
 }

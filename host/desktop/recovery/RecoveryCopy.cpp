@@ -10,6 +10,8 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
@@ -180,8 +182,12 @@ bool RecoveryCopy::write(QJsonObject json) {
   if (!lock_) {
     QDir().mkpath(recoveryFolder());
     lock_ = lockOf(base_);
-    if (!lock_->tryLock()) lock_.reset();
-    if (!lock_) return false;
+    if (!lock_->tryLock()) {
+      lock_.reset();
+      QString const problem = SysUtility::FileSaver::checkPlace(path(".kdx"));
+      noteOutcome(problem.isEmpty() ? path(".lock") : problem);
+      return false;
+    }
   }
   auto const& document = session_.document();
   QByteArray const known =
@@ -189,23 +195,71 @@ bool RecoveryCopy::write(QJsonObject json) {
                                 {QStringLiteral("relativePaths"), document.IsUsesRelativePaths()},
                                 {QStringLiteral("digest"), QString::fromLatin1(session_.fileDigest().toHex())}})
           .toJson();
-  writer_.start(
-      [this, json = std::move(json), known, picture = picture_()] { put(SysUtility::jsonText(json), known, picture); });
+  writer_.start([this, json = std::move(json), known, picture = picture_()] {
+    noteOutcome(put(SysUtility::jsonText(json), known, picture));
+  });
   return true;
 }
 
 // The description comes last: without it there is no copy. What fails is tried again the next time.
-void RecoveryCopy::put(QByteArray const& text, QByteArray const& known, QImage const& picture) {
+QString RecoveryCopy::put(QByteArray const& text, QByteArray const& known, QImage const& picture) {
   QByteArray const digest = QCryptographicHash::hash(text + known, QCryptographicHash::Sha1);
-  if (digest == written_) return;
-  auto const save = [this](char const* suffix, QByteArray const& content) {
-    return SysUtility::FileSaver::save(path(suffix), content).isEmpty();
+  if (digest == written_) return QString();
+  QString problem;
+  auto const save = [&](char const* suffix, QByteArray const& content) {
+    problem = SysUtility::FileSaver::save(path(suffix), content);
+    return problem.isEmpty();
   };
   written_.clear();
-  if (save(".kdx", text) && save(".png", pngOf(picture)) && save(".json", known))
-    written_ = digest;
-  else
-    hasFailed_ = true;
+  if (save(".kdx", text) && save(".png", pngOf(picture)) && save(".json", known)) written_ = digest;
+  return problem;
+}
+
+// Of the files' names a person knows nothing: what counts is their folder.
+void RecoveryCopy::noteOutcome(QString const& problem) {
+  if (!problem.isEmpty()) hasFailed_ = true;
+  if (isTold_.exchange(!problem.isEmpty()) || problem.isEmpty()) return;
+  QString why = problem;
+  for (char const* suffix : suffixes)
+    why.replace(QDir::toNativeSeparators(path(suffix)), QDir::toNativeSeparators(recoveryFolder()));
+  emit told(tr("What is not saved would be lost in a crash, since no copy of it can be kept. %1").arg(why));
+}
+
+namespace {
+
+// A path of the file is relative to its folder, where that of the copy is not; and each says which it has.
+bool isSame(QJsonValue const& copy, QJsonValue const& file, QDir const& folder) {
+  if (copy == file) return true;
+  if (copy.isString() && file.isString())
+    return QDir::cleanPath(folder.absoluteFilePath(file.toString())) == QDir::cleanPath(copy.toString());
+  if (copy.isArray() && file.isArray()) {
+    QJsonArray const one = copy.toArray(), other = file.toArray();
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [&](QJsonValue const& a, QJsonValue const& b) { return isSame(a, b, folder); });
+  }
+  if (!copy.isObject() || !file.isObject()) return false;
+  QJsonObject const one = copy.toObject(), other = file.toObject();
+  if (one.keys() != other.keys()) return false;
+  for (QString const& key : one.keys())
+    if (!isSame(one[key], other[key], folder)) return false;
+  return true;
+}
+
+QJsonObject objectIn(QString const& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+}
+
+}  // namespace
+
+// The process may have been killed just after a save, before it removed its copy.
+bool LostDocument::isSaved() const {
+  QString const setting = QStringLiteral("relativePaths");
+  QJsonObject known = objectIn(copy()), saved = file_.isEmpty() ? QJsonObject() : objectIn(file_);
+  if (saved.isEmpty() || relativePaths_ != saved[setting].toBool(true)) return false;
+  known.remove(setting);
+  saved.remove(setting);
+  return isSame(known, saved, QFileInfo(file_).absoluteDir());
 }
 
 std::vector<LostDocument> LostDocument::all() {
@@ -217,13 +271,16 @@ std::vector<LostDocument> LostDocument::all() {
     one.base_ = file.path() + QLatin1Char('/') + file.completeBaseName();
     one.lock_ = lockOf(one.base_);
     if (!one.lock_->tryLock() || !QFile::exists(one.copy())) continue;
-    QFile description(file.filePath());
-    if (!description.open(QIODevice::ReadOnly)) continue;
-    QJsonObject const known = QJsonDocument::fromJson(description.readAll()).object();
+    QJsonObject const known = objectIn(file.filePath());
+    if (known.isEmpty()) continue;
     one.file_ = known[QStringLiteral("file")].toString();
     one.relativePaths_ = known[QStringLiteral("relativePaths")].toBool(true);
     one.digest_ = QByteArray::fromHex(known[QStringLiteral("digest")].toString().toLatin1());
     one.time_ = file.lastModified();
+    if (one.isSaved()) {
+      one.discard();
+      continue;
+    }
     lost.push_back(std::move(one));
   }
   return lost;

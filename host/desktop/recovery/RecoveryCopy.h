@@ -44,6 +44,10 @@ public:
   /// For all copies of the process: what is about to be done may end it. Sessions that can't be kept are passed over.
   static void keepAll();
 
+signals:
+  /// A copy could not be written: said once, and again only after one could.
+  void told(QString const& sentence);
+
 private:
   // What a copy is of.
   struct Moment {
@@ -58,7 +62,8 @@ private:
   void proceed();
   void drop();
   bool write(QJsonObject json);
-  void put(QByteArray const& text, QByteArray const& known, QImage const& picture);
+  void noteOutcome(QString const& problem);
+  QString put(QByteArray const& text, QByteArray const& known, QImage const& picture);
   QString path(char const* suffix) const;
 
   DocumentSession& session_;
@@ -71,6 +76,7 @@ private:
   std::optional<QJsonObject> json_;     // of the document, while that is being read
   std::unique_ptr<SlicedWork> work_;    // that reads it
   std::atomic<bool> hasFailed_{false};  // what was begun last
+  std::atomic<bool> isTold_{false};     // that it has
   QByteArray written_;                  // digest of the text; the writer's
   QTimer timer_, slices_;
   QThreadPool writer_;  // one thread, so that one thing comes after the other
@@ -96,6 +102,8 @@ public:
   void discard() const;
 
 private:
+  bool isSaved() const;
+
   QString base_, file_;
   QDateTime time_;
   bool relativePaths_ = true;
