@@ -37,6 +37,7 @@ struct DisplayTransformation::Private {
   bool fillsWidth = false;
   QTransform turn;
   QPointF patternOrigin;
+  QRectF whole;  // with y upwards
   QPaintDevice* device = nullptr;
 
   double frameWidth() const { return std::max(1, frame.width()); }
@@ -162,6 +163,17 @@ QRectF DisplayTransformationHost::coveredWorld(DisplayTransformation const& tran
   auto const bounds = transformation.GetFittedBounds();
   return transformation.d->turn.inverted().mapRect(
       QRectF(QPointF(bounds->GetXMin(), bounds->GetYMin()), QPointF(bounds->GetXMax(), bounds->GetYMax())));
+}
+
+void DisplayTransformationHost::setWhole(DisplayTransformation& transformation, QRectF const& whole) {
+  transformation.d->whole = whole;
+}
+
+// A tile may lie a little beyond, since it is made of whole pixels.
+QRectF DisplayTransformationHost::wholeWorld(DisplayTransformation const& transformation) {
+  QRectF const covered = coveredWorld(transformation);
+  QRectF const whole = transformation.d->turn.inverted().mapRect(transformation.d->whole);
+  return whole.isEmpty() || !whole.intersects(covered) ? covered : whole;
 }
 
 double DisplayTransformationHost::pixelsPerUnit(DisplayTransformation const& transformation) {

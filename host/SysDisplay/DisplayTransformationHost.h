@@ -27,6 +27,14 @@ struct SYSDISPLAY_EXPORT DisplayTransformationHost {
   /// The smallest rectangle of the world, with y upwards, that holds all of what the device frame shows.
   static QRectF coveredWorld(DisplayTransformation const& transformation);
 
+  /// All that a map shows, as a rectangle of the turned world: told by the map, and kept by clones that show a part of
+  /// it, a tile of a picture.
+  static void setWhole(DisplayTransformation& transformation, QRectF const& whole);
+
+  /// The smallest rectangle of the world that holds all of the map where the device frame shows some of it, else that
+  /// of `coveredWorld`.
+  static QRectF wholeWorld(DisplayTransformation const& transformation);
+
   static double pixelsPerUnit(DisplayTransformation const& transformation);
 
   /// The place of the turned world that hatches hang on, (0, 0) at first. All tiles of a picture share it: the nearer

@@ -22,8 +22,8 @@ size_t cores() {
 
 }  // namespace
 
-FeatureIntake::FeatureIntake(GeometryProjector const& projector, FeatureStore& store, Place place)
-    : projector_(projector), store_(store), place_(std::move(place)) {}
+FeatureIntake::FeatureIntake(GeometryProjector const& projector, FeatureStore const& form, Place place, Take take)
+    : projector_(projector), form_(form), place_(std::move(place)), take_(std::move(take)) {}
 
 void FeatureIntake::add(OGRFeatureUniquePtr feature) {
   waitingBytes_ += bytesOf(*feature);
@@ -51,7 +51,7 @@ void FeatureIntake::start(std::launch when) {
 void FeatureIntake::takeOldest() {
   std::unique_ptr<Batch> batch = running_.front().get();
   running_.pop_front();
-  store_.append(*batch->placed);
+  take_(*batch->placed);
   if (!batch->problem.isEmpty()) problem_ = batch->problem;
   idle_.push_back(std::move(batch->projector));
 }
@@ -59,8 +59,8 @@ void FeatureIntake::takeOldest() {
 std::unique_ptr<FeatureIntake::Batch> FeatureIntake::work(std::unique_ptr<Batch> batch) const {
   GdalErrors const errors;  // a place that the map can't show is no damage to the file
   batch->placed = std::make_unique<FeatureStore>();
-  batch->placed->keepsLabels = store_.keepsLabels;
-  batch->placed->valuesPerFeature = store_.valuesPerFeature;
+  batch->placed->keepsLabels = form_.keepsLabels;
+  batch->placed->valuesPerFeature = form_.valuesPerFeature;
   for (OGRFeatureUniquePtr& feature : batch->features) {
     place_(*feature, *batch->projector, *batch->placed);
     feature.reset();

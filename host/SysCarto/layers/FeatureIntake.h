@@ -11,15 +11,18 @@
 
 namespace SysCarto {
 
-/// Fills a store with features in the order in which they are read. While the next ones are read, those before are
+/// Places features in the order in which they are read. While the next ones are read, those before are
 /// projected in batches on the machine's other cores; nothing else of the host runs there.
 class FeatureIntake {
 public:
   /// Adds one feature to a store. Called on several threads at once, with a projector that is the thread's own.
   using Place = std::function<void(OGRFeature& feature, GeometryProjector const& projector, FeatureStore& store)>;
 
-  /// Projector and store must outlive it.
-  FeatureIntake(GeometryProjector const& projector, FeatureStore& store, Place place);
+  /// Takes the features that were added to a store, one batch after the other.
+  using Take = std::function<void(FeatureStore& placed)>;
+
+  /// Projector and form must outlive it. The stores of the batches have the form.
+  FeatureIntake(GeometryProjector const& projector, FeatureStore const& form, Place place, Take take);
 
   /// Takes a feature that has a geometry.
   void add(OGRFeatureUniquePtr feature);
@@ -40,8 +43,9 @@ private:
   std::unique_ptr<Batch> work(std::unique_ptr<Batch> batch) const;
 
   GeometryProjector const& projector_;
-  FeatureStore& store_;
+  FeatureStore const& form_;
   Place place_;
+  Take take_;
   QString problem_;
   std::vector<std::unique_ptr<GeometryProjector>> idle_;
   std::vector<OGRFeatureUniquePtr> waiting_;

@@ -5,9 +5,12 @@
 #include "host/SysCarto/layers/DerivedLayer.h"
 #include "host/SysCarto/layers/FeatureEvaluator.h"
 #include "host/SysCarto/layers/FeatureIntake.h"
+#include "host/SysCarto/layers/FeaturePack.h"
 #include "host/SysCarto/layers/LabelReader.h"
 #include "host/SysCarto/layers/Renderer.h"
 #include "host/SysCarto/layers/SourceBounds.h"
+#include "host/SysCarto/layers/SourceWindow.h"
+#include "host/SysCarto/layers/ThinningGrid.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 
@@ -18,8 +21,12 @@
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
 
+#include <algorithm>
 #include <cmath>
+#include <deque>
 #include <limits>
+#include <set>
+#include <utility>
 
 namespace SysCarto {
 
@@ -102,9 +109,131 @@ std::unique_ptr<OGRGeometry> markedPlace(OGRGeometry const& geometry) {
       OGRGeometry::FromHandle(OGR_G_PointOnSurface(OGRGeometry::ToHandle(const_cast<OGRGeometry*>(&geometry)))));
 }
 
-void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition const& condition, Renderer const& renderer,
-             SourceSettings const& source, LabelFields const& labels, ReadWatch& watch, ReadDepth depth,
-             ReadFeatures& result) {
+WindowThreshold& threshold() {
+  static WindowThreshold own;
+  return own;
+}
+
+// Whether windows are worth it. Only tables of an index of their own have one.
+bool isLarge(OGRLayer& layer, SourceSettings const& source) {
+  if (source.data == SourceSettings::Data::Globe || !layer.TestCapability(OLCFastSpatialFilter)) return false;
+  return knownCount(layer) >= threshold().features || dataSizeOf(source.file) >= threshold().bytes;
+}
+
+// A large renderer asks all features for the largest of their numbers.
+bool needsAll(Renderer const& renderer) {
+  auto const& varied = renderer.varied();
+  return std::any_of(varied.begin(), varied.end(),
+                     [](VariedProperty const& one) { return one.kind == VariedProperty::Kind::Size; });
+}
+
+// Hands on the parts of features that can be seen.
+class ThinningSink final : public PartSink {
+public:
+  ThinningSink(ThinningGrid const& grid, bool keepsSmall, FeatureStore& store)
+      : grid_(grid), keepsSmall_(keepsSmall), store_(store) {}
+
+  void startPolygon() override { store_.startPolygon(); }
+  void addPart(PartKind kind, double const* xy, int count) override {
+    kept_.resize(2 * static_cast<size_t>(count));
+    int const left = grid_.thin(kind, xy, count, kept_.data());
+    if (left >= (keepsSmall_ ? 1 : ThinningGrid::minVertices(kind))) store_.addPart(kind, kept_.data(), left);
+  }
+
+private:
+  ThinningGrid const& grid_;
+  bool const keepsSmall_;
+  FeatureStore& store_;
+  std::vector<double> kept_;
+};
+
+// The features of a layer in turn, each once.
+class Selection {
+public:
+  Selection(OGRLayer& layer, WindowQuery const* query, GeometryProjector const& projector) : layer_(layer) {
+    bool const isByNumber = query && !query->ids.empty();
+    if (isByNumber) ids_.assign(query->ids.begin(), query->ids.end());
+    if (isByNumber) return;
+    auto const extent = query ? toldExtent(layer, projector) : std::nullopt;
+    if (extent) rectangles_ = sourceWindow(*extent, query->area, projector);
+    isAll_ = !extent || isMost(*extent);
+    begin();
+  }
+
+  // An empty pointer behind the last one.
+  OGRFeatureUniquePtr next() {
+    for (; !ids_.empty(); ids_.pop_front())
+      if (OGRFeatureUniquePtr feature{layer_.GetFeature(ids_.front())}) return ids_.pop_front(), std::move(feature);
+    for (; isAll_ || now_ < rectangles_.size(); ++now_, begin()) {
+      while (OGRFeatureUniquePtr feature{layer_.GetNextFeature()})
+        if (isNew(*feature)) return feature;
+      if (isAll_) return nullptr;
+    }
+    return nullptr;
+  }
+
+private:
+  // To follow an index to many features takes longer than to read all.
+  bool isMost(Box const& extent) const {
+    constexpr double much = 0.25;
+    double share = 0;
+    for (Box const& one : rectangles_) {
+      double const width = std::min(one.xmax, extent.xmax) - std::max(one.xmin, extent.xmin);
+      double const height = std::min(one.ymax, extent.ymax) - std::max(one.ymin, extent.ymin);
+      double const whole = std::max(extent.xmax - extent.xmin, 1e-12) * std::max(extent.ymax - extent.ymin, 1e-12);
+      if (width > 0 && height > 0) share += width * height / whole;
+    }
+    return share > much;
+  }
+
+  void begin() {
+    if (!isAll_ && now_ < rectangles_.size()) {
+      Box const& own = rectangles_[now_];
+      layer_.SetSpatialFilterRect(own.xmin, own.ymin, own.xmax, own.ymax);
+    }
+    if (isAll_ || now_ < rectangles_.size()) layer_.ResetReading();
+  }
+
+  // What several rectangles meet is given for each.
+  bool isNew(OGRFeature& feature) {
+    if (isAll_ || rectangles_.size() < 2 || !feature.GetGeometryRef()) return true;
+    OGREnvelope told;
+    feature.GetGeometryRef()->getEnvelope(&told);
+    Box const box{told.MinX, told.MinY, told.MaxX, told.MaxY};
+    auto const meeting =
+        std::count_if(rectangles_.begin(), rectangles_.end(), [&](Box const& one) { return one.meets(box); });
+    return meeting < 2 || seen_.insert(feature.GetFID()).second;
+  }
+
+  OGRLayer& layer_;
+  std::deque<GIntBig> ids_;
+  std::vector<Box> rectangles_;
+  std::set<GIntBig> seen_;
+  size_t now_ = 0;
+  bool isAll_ = false;
+};
+
+// What only costs time to be read, of a layer that can leave it out, is left out. Expressions may name any field.
+void leaveOut(OGRLayer& layer, Condition const& condition, Renderer const& renderer, LabelFields const& labels) {
+  bool const hasRules = renderer.settings().kind == RendererSettings::Kind::Rules;
+  if (hasRules || !renderer.varied().empty() || !labels.expression.isEmpty()) return;
+  QStringList needed = condition.fields() + QStringList{renderer.field(), labels.text, labels.priority, labels.key};
+  for (QString const& separator : {QStringLiteral(":"), QStringLiteral("_")})
+    needed << labels.text + separator + labels.language;
+  readOnly(layer, needed << QStringLiteral("OGR_GEOMETRY"));
+}
+
+struct ReadTask {
+  SourceSettings const& source;
+  Renderer const& renderer;
+  LabelFields const& labels;
+  ReadDepth depth;
+  WindowQuery const* query;  // or null
+};
+
+void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition const& condition, ReadTask const& task,
+             ReadWatch& watch, ReadFeatures& result) {
+  auto const& [source, renderer, labels, depth, query] = task;
   Field const classField(layer, renderer.field(), source, result.warnings);
   Field(layer, labels.text, source, result.warnings);
   LabelReader const labelReader(layer, labels, describeSource(source), result.warnings);
@@ -115,37 +244,62 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   store.keepsLabels = !labels.text.isEmpty();
   store.valuesPerFeature = static_cast<int>(renderer.varied().size());
   bool const isMarked = renderer.settings().kind == RendererSettings::Kind::Proportional;
-  auto const keyOf = [&](OGRFeature const& feature) {
+  ThinningGrid const grid(query ? query->cell : 0);
+  if (query && query->cell > 0) {
+    result.pack = std::make_unique<FeaturePack>(query->area, query->cell);
+    result.pack->form().takeForm(store);
+  }
+  auto const keyOf = [&, &keyName = labels.key](OGRFeature const& feature) {
     if (!store.keepsLabels) return QString();
-    return labels.key.isEmpty() ? QString::number(feature.GetFID()) : keyField.text(feature);
+    return keyName.isEmpty() ? QString::number(feature.GetFID()) : keyField.text(feature);
   };
-  FeatureIntake intake(projector, store, [&](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
+  auto const addGeometry = [&](OGRGeometry const& geometry, GeometryProjector const& own, FeatureStore& to) {
+    if (!result.pack) return own.add(geometry, to);
+    ThinningSink sink(grid, store.keepsLabels, to);
+    own.add(geometry, sink);
+  };
+  auto const place = [&, &rendering = renderer](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
     to.beginFeature(feature.GetFID());
-    auto const place = isMarked ? markedPlace(*feature.GetGeometryRef()) : nullptr;
-    own.add(place ? *place : *feature.GetGeometryRef(), to);
+    auto const mark = isMarked ? markedPlace(*feature.GetGeometryRef()) : nullptr;
+    addGeometry(mark ? *mark : *feature.GetGeometryRef(), own, to);
     double const priority = priorityField.number(feature);
     int const fitting = evaluator.place(feature, to);
     int const symbolClass =
-        evaluator.hasRules() ? fitting : renderer.classOf(classField.text(feature), classField.number(feature));
+        evaluator.hasRules() ? fitting : rendering.classOf(classField.text(feature), classField.number(feature));
     to.endFeature(symbolClass, labelReader.text(feature),
                   std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority, keyOf(feature));
-  });
-  if (depth == ReadDepth::Schema) return;
-  layer.ResetReading();
-  SourceBounds bounds(source.file);
-  bool isEmpty = true;
-  while (OGRFeatureUniquePtr feature{layer.GetNextFeature()}) {
-    if (!bounds.admits(*feature)) break;
-    if (feature->GetGeometryRef() && condition.admits(*feature)) {
-      isEmpty = isEmpty && feature->GetGeometryRef()->IsEmpty();
-      intake.add(std::move(feature));
-    }
-    result.wasStopped = !watch.goesOn();
-    if (result.wasStopped) return;
+  };
+  FeatureIntake intake(projector, store, place,
+                       [&](FeatureStore& placed) { result.pack ? result.pack->add(placed) : store.append(placed); });
+  if (!query && isLarge(layer, source) && !needsAll(renderer)) {
+    auto const extent = toldExtent(layer, projector);
+    result.hasWindows = extent.has_value();
+    if (extent) result.extent = coveredMap(*extent, projector);
   }
-  QString const unplaced = intake.finish();
-  store.finish();
-  if (!isEmpty && store.parts.empty())
+  if (depth == ReadDepth::Schema) return;
+  bool isEmpty = true, isNowhere = false;
+  QString unplaced;
+  if (result.hasWindows && depth == ReadDepth::Features) {
+    isNowhere = result.extent.isEmpty();
+  } else {
+    leaveOut(layer, condition, renderer, labels);
+    Selection selection(layer, query, projector);
+    SourceBounds bounds(source.file);
+    while (OGRFeatureUniquePtr feature = selection.next()) {
+      if (!bounds.admits(*feature)) break;
+      if (feature->GetGeometryRef() && condition.admits(*feature)) {
+        isEmpty = isEmpty && feature->GetGeometryRef()->IsEmpty();
+        intake.add(std::move(feature));
+      }
+      result.wasStopped = !watch.goesOn();
+      if (result.wasStopped) return;
+    }
+    unplaced = intake.finish();
+    store.finish();
+    if (result.pack) result.pack->finish();
+    isNowhere = !query && !isEmpty && store.parts.empty();
+  }
+  if (isNowhere)
     result.warnings << Texts::tr(
                            "Nothing of %1 lies where the map's coordinate system shows the globe, so that the layer is "
                            "empty; give the map another coordinate system, or the source the one that it has in truth.")
@@ -154,10 +308,8 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     result.warnings << Texts::tr("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
 }
 
-}  // namespace
-
-ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem, Renderer const& renderer,
-                          LabelFields const& labels, ReadProgress const& progress, ReadDepth depth) {
+ReadFeatures readTask(ReadTask const& task, QString const& mapSystem, ReadProgress const& progress) {
+  SourceSettings const& source = task.source;
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
   auto const data = openWatched(source, progress, result.error);
@@ -179,9 +331,10 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
   }
   GdalErrors const errors;
   ReadWatch watch(data->layer(), progress);
-  readAll(data->layer(), *projector, condition, renderer, source, labels, watch, depth, result);
+  readAll(data->layer(), *projector, condition, task, watch, result);
   if (result.wasStopped) {
     result.store = std::make_unique<FeatureStore>();
+    result.pack.reset();
     result.error = stopped(source);
     return result;
   }
@@ -190,6 +343,20 @@ ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem
   if (errors.hasFailure())
     result.error = Texts::tr("Not all of %1 could be read: %2.").arg(describeSource(source), errors.reason());
   return result;
+}
+
+}  // namespace
+
+WindowThreshold setWindowThreshold(WindowThreshold const& wanted) { return std::exchange(threshold(), wanted); }
+
+ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem, Renderer const& renderer,
+                          LabelFields const& labels, ReadProgress const& progress, ReadDepth depth) {
+  return readTask({source, renderer, labels, depth, nullptr}, mapSystem, progress);
+}
+
+ReadFeatures readWindow(SourceSettings const& source, QString const& mapSystem, Renderer const& renderer,
+                        LabelFields const& labels, WindowQuery const& query, ReadProgress const& progress) {
+  return readTask({source, renderer, labels, ReadDepth::All, &query}, mapSystem, progress);
 }
 
 QStringList attributesOf(SourceSettings const& source) {

@@ -3,17 +3,22 @@
 #include "SourceSettings.h"
 #include "WatchedReading.h"
 
+#include "host/SysGeometry/Box.h"
+
 #include <SysCarto/Export.h>
 
 #include <QString>
 #include <QStringList>
 
 #include <memory>
+#include <vector>
 
 namespace SysCarto {
 
+class FeaturePack;
 class FeatureStore;
 class Renderer;
+using SysGeometry::Box;
 
 /// What labels need of the attributes; empty for none.
 struct LabelFields {
@@ -31,19 +36,44 @@ inline bool operator==(LabelFields const& a, LabelFields const& b) {
 
 struct ReadFeatures {
   std::unique_ptr<FeatureStore> store;  ///< never empty; without features after an error
+  std::unique_ptr<FeaturePack> pack;    ///< of a window that was thinned
   QString error;                        ///< a sentence that names file and layer; empty where all went well
   QStringList warnings;                 ///< sentences
   bool wasStopped = false;
+
+  // Where the source has so many features that they are better read by windows, and can be.
+  bool hasWindows = false;
+  Box extent;  ///< that they may cover of the map
 };
 
-/// What is read of a source: the names and kinds of what it has, or its features, too.
-enum class ReadDepth { Schema, Features };
+/// What is read of a source: the names and kinds of what it has; its features, too, but for those of a large source
+/// that has windows; all of them in any case.
+enum class ReadDepth { Schema, Features, All };
 
 /// Reads the features that the condition admits, projected to `mapSystem` (empty: not projected), with what renderer
 /// and labels need of their attributes. Of the schema alone: no feature, and what can be said of the source without.
 SYSCARTO_EXPORT ReadFeatures readFeatures(SourceSettings const& source, QString const& mapSystem,
                                           Renderer const& renderer, LabelFields const& labels,
                                           ReadProgress const& progress = {}, ReadDepth depth = ReadDepth::Features);
+
+/// Features of a source that has windows.
+struct WindowQuery {
+  Box area;                 ///< of the map: those that meet it
+  double cell = 0;          ///< to which they are thinned, in map units; 0 to have them as they are
+  std::vector<qint64> ids;  ///< instead of an area, those with these numbers in the source
+};
+
+/// Reads these alone, else as `readFeatures`; `pack` has them where they are thinned, and the store where not.
+SYSCARTO_EXPORT ReadFeatures readWindow(SourceSettings const& source, QString const& mapSystem,
+                                        Renderer const& renderer, LabelFields const& labels, WindowQuery const& query,
+                                        ReadProgress const& progress = {});
+
+/// How large a source has to be to be read by windows, in bytes of its file and in features; for tests. Answers the
+/// former bounds.
+struct WindowThreshold {
+  qint64 bytes = 32000000, features = 50000;
+};
+SYSCARTO_EXPORT WindowThreshold setWindowThreshold(WindowThreshold const& threshold);
 
 /// The names of the attributes that the features of a source have; none where it can't be read.
 SYSCARTO_EXPORT QStringList attributesOf(SourceSettings const& source);

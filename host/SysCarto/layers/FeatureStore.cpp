@@ -104,6 +104,23 @@ int FeatureStore::classSetOf(std::vector<int> const& classes) {
   return known->second;
 }
 
+void FeatureStore::takeForm(FeatureStore const& other) {
+  vertices_.clear();
+  index_.reset();
+  box_ = Box();
+  parts.clear();
+  features.clear();
+  ids.clear();
+  labels.clear();
+  priorities.clear();
+  keys.clear();
+  values.clear();
+  keepsLabels = other.keepsLabels;
+  valuesPerFeature = other.valuesPerFeature;
+  largest_.assign(static_cast<size_t>(valuesPerFeature), nan);
+  if (classSets != other.classSets) classSets = other.classSets;
+}
+
 void FeatureStore::append(FeatureStore& other) {
   int const before = static_cast<int>(parts.size());
   parts.insert(parts.end(), other.parts.begin(), other.parts.end());

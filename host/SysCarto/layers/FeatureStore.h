@@ -57,6 +57,9 @@ public:
   /// The number of a set of classes that fit a feature, ascending; −1 for none of them.
   int classSetOf(std::vector<int> const& classes);
 
+  /// Takes no features of another store, but what those have besides their geometries, and forgets its own.
+  void takeForm(FeatureStore const& other);
+
   /// Takes over the features of another store that was filled and not finished.
   void append(FeatureStore& other);
 

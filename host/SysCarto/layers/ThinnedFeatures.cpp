@@ -1,40 +1,21 @@
 #include "ThinnedFeatures.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace SysCarto {
 
 namespace {
 
-constexpr double cellPx = 1.0 / 4;
 constexpr double sameResolution = 1e-6;
-
-// Cells come in steps of a quarter octave, the steps at places where no round resolution lies.
-double cellFor(double unitsPerPixel) {
-  constexpr double place = 0.37;
-  return std::exp2((std::floor(std::log2(unitsPerPixel * cellPx) * 4 + place) - place) / 4);
-}
-
-int minVertices(PartKind kind) {
-  switch (kind) {
-    case PartKind::Ring:
-    case PartKind::FilledRing: return 3;
-    case PartKind::Outline:
-    case PartKind::Line: return 2;
-    case PartKind::Point: return 1;
-  }
-  return 1;
-}
 
 }  // namespace
 
 void ThinnedFeatures::setResolution(double unitsPerPixel) {
   if (!places_.empty() && std::abs(unitsPerPixel - resolution_) <= sameResolution * resolution_) return;
-  double const cell = unitsPerPixel > 0 && std::isfinite(unitsPerPixel) ? cellFor(unitsPerPixel) : 0;
+  auto const grid = ThinningGrid::forPixels(unitsPerPixel);
   resolution_ = unitsPerPixel;
-  if (!places_.empty() && cell == cell_) return;
-  cell_ = cell;
+  if (!places_.empty() && grid.cell() == grid_.cell()) return;
+  grid_ = grid;
   places_.assign(store_.features.size(), Place());
   parts_.clear();
   vertices_.clear();
@@ -56,8 +37,8 @@ void ThinnedFeatures::thin(int feature) {
     Part part = store_.parts[i];
     startsPolygon = startsPolygon || part.startsPolygon;
     double* const room = vertices_.room(part.count);
-    part.count = thinInto(room, part);
-    if (part.count < minVertices(part.kind)) continue;
+    part.count = grid_.thin(part.kind, part.xy, part.count, room);
+    if (part.count < ThinningGrid::minVertices(part.kind)) continue;
     vertices_.keep(part.count);
     part.xy = room;
     std::vector<Box> stretches = SysDisplay::stretchesOf(part.run());
@@ -70,41 +51,6 @@ void ThinnedFeatures::thin(int feature) {
     parts_.push_back(part);
   }
   place.partCount = static_cast<int>(parts_.size()) - place.firstPart;
-}
-
-// Of the vertices of one cell that follow each other the smallest one stays, whatever the direction of the line. The
-// ends of an open line stay, too. The answer is how many were kept.
-int ThinnedFeatures::thinInto(double* kept, Part const& part) const {
-  bool const closed = part.kind == PartKind::Ring || part.kind == PartKind::FilledRing;
-  auto const cellOf = [this](double value) { return cell_ > 0 ? std::floor(value / cell_) : value; };
-  auto const isEnd = [&](int i) { return !closed && (i == 0 || i + 1 == part.count); };
-  double cellX = 0, cellY = 0, x = 0, y = 0;
-  bool holds = false;
-  double* next = kept;
-  auto const keep = [&](double keptX, double keptY) {
-    *next++ = keptX;
-    *next++ = keptY;
-  };
-  for (int i = 0; i < part.count; ++i) {
-    double const vx = part.xy[2 * i], vy = part.xy[2 * i + 1];
-    double const cx = cellOf(vx), cy = cellOf(vy);
-    if (!holds || cx != cellX || cy != cellY || isEnd(i)) {
-      if (holds) keep(x, y);
-      x = vx;
-      y = vy;
-    } else if (vx < x || (vx == x && vy < y)) {
-      x = vx;
-      y = vy;
-    }
-    cellX = cx;
-    cellY = cy;
-    holds = !isEnd(i);
-    if (!holds) keep(vx, vy);
-  }
-  if (holds) keep(x, y);
-  int const count = static_cast<int>(next - kept) / 2;
-  bool const tiny = count == 2 && !closed && kept[0] == kept[2] && kept[1] == kept[3];
-  return tiny ? 0 : count;
 }
 
 }  // namespace SysCarto

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysCarto/layers/FeatureStore.h"
+#include "host/SysCarto/layers/ThinningGrid.h"
 
 #include <deque>
 #include <vector>
@@ -8,11 +9,7 @@
 namespace SysCarto {
 
 /// The features of a store with no more vertices than a resolution can show. A feature is thinned when it is first
-/// asked for, and kept until the resolution changes.
-///
-/// Vertices that fall into one cell of a grid are replaced by one of them. The grid hangs on the coordinates, not on
-/// where a line begins or on the rectangle that is drawn, so that neighbours keep their common border, and all tiles of
-/// a page get the same lines.
+/// asked for, and kept until the resolution changes. All tiles of a page get the same lines.
 class SYSCARTO_EXPORT ThinnedFeatures {
 public:
   explicit ThinnedFeatures(FeatureStore const& store) : store_(store) {}
@@ -38,10 +35,9 @@ private:
     int partCount = 0;
   };
   void thin(int feature);
-  int thinInto(double* kept, Part const& part) const;
 
   FeatureStore const& store_;
-  double cell_ = 0;
+  ThinningGrid grid_;
   double resolution_ = 0;
   std::vector<Place> places_;
   std::vector<Part> parts_;

@@ -7,7 +7,7 @@
 namespace SysCarto {
 
 SysGeometry::Box boxOf(Layer const& layer) {
-  if (auto const* const vector = dynamic_cast<VectorLayer const*>(&layer)) return vector->features().box();
+  if (auto const* const vector = dynamic_cast<VectorLayer const*>(&layer)) return vector->extent();
   auto const* const raster = dynamic_cast<RasterLayer const*>(&layer);
   return raster ? raster->box() : SysGeometry::Box();
 }

@@ -90,6 +90,8 @@ void Map::Private::fit() {
   double const halfWidth = frame.width() * scale / 2, halfHeight = frame.height() * scale / 2;
   transformation->SetDeviceFrame(frame);
   transformation->SetVisibleBounds(make<Envelope>(x - halfWidth, y - halfHeight, x + halfWidth, y + halfHeight));
+  DisplayTransformationHost::setWhole(
+      *transformation, QRectF(QPointF(x - halfWidth, y - halfHeight), QPointF(x + halfWidth, y + halfHeight)));
   DisplayTransformationHost::setTurn(*transformation, part.rotation, {x, y});
   DisplayTransformationHost::setPatternOrigin(*transformation, x - halfWidth, y + halfHeight);
   double const denominator = scale * metresPerUnit(scale) / metresPerMicrometre;

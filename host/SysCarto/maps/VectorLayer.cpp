@@ -87,14 +87,18 @@ QString VectorLayer::read(QStringList& warnings, ReadProgress const& progress, R
   ReadFeatures read = readFeatures(source_, mapSystem_, *renderer_, labels_.read(), progress, depth);
   store_ = std::move(read.store);
   thinned_ = std::make_unique<ThinnedFeatures>(*store_);
+  windows_.clear();
   warnings += read.warnings;
-  isUnread_ = depth == ReadDepth::Schema && read.error.isEmpty();
+  hasWindows_ = read.hasWindows;
+  extent_ = read.extent;
+  bool const isLeft = depth == ReadDepth::Schema || (depth == ReadDepth::Features && hasWindows_);
+  isUnread_ = isLeft && read.error.isEmpty();
   return read.error;
 }
 
 FeatureStore const& VectorLayer::features() const {
   QStringList warnings;
-  if (isUnread_) problem_ = read(warnings, {}, ReadDepth::Features);
+  if (isUnread_) problem_ = read(warnings, {}, ReadDepth::All);
   return *store_;
 }
 
@@ -115,7 +119,7 @@ void VectorLayer::setLabelSettings(LabelSettings const& settings) {
 
 void VectorLayer::Draw(QPainter& painter, _ptr_t<DisplayTransformation> const& transformation, int phase,
                        _ptr_t<TrackerCancel> const& cancel) {
-  if (phase != featurePhase || !transformation || features().size() == 0) return;
+  if (phase != featurePhase || !transformation || (!hasWindows() && features().size() == 0)) return;
   drawWithEffects(LayerHost::effects(*this), painter,
                   [&](QPainter& own) { drawFeatures(own, *transformation, cancel); });
 }
@@ -126,14 +130,18 @@ void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& t
   double const scale = pixelsPerUnit(target.toDevice());
   if (!(scale > 0) || !std::isfinite(scale) || target.area().isEmpty()) return;
 
+  if (hasWindows()) {
+    drawWindow(target, transformation, 1 / scale, cancel);
+    return drawSpotlight(target, 1 / scale);
+  }
   FeatureStore const& store = features();
   FeatureLooks const looks(*renderer_, store, transformation.GetMapScale());
   FeaturePasses const passes(*renderer_, looks, target);
   Box const area = areaOf(target, passes.reachPx() + 1);
   thinned().setResolution(1 / scale);
   std::vector<int> shown = store.query(area);
-  shown.erase(std::remove_if(shown.begin(), shown.end(), [this](int feature) { return isHidden(feature); }),
-              shown.end());
+  auto const isLeftOut = [&](int feature) { return isHidden(store.ids[static_cast<size_t>(feature)]); };
+  shown.erase(std::remove_if(shown.begin(), shown.end(), isLeftOut), shown.end());
   looks.sort(shown);
   int untilCheck = 0;
   for (FeaturePasses::Pass const& pass : passes.passes())
@@ -145,8 +153,7 @@ void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& t
       int const symbolClass = store.features[feature].symbolClass;
       if (symbolClass >= 0 && pass[symbolClass]) pass[symbolClass]->draw(*thinned_, feature, area);
     }
-  if (!spotlight_) return;
-  for (int const feature : featuresOf(store, {spotlight_->feature})) drawSpotlight(target, feature);
+  drawSpotlight(target, 1 / scale);
 }
 
 void VectorLayer::setSpotlight(std::optional<Spotlight> const& spotlight) {
@@ -155,28 +162,37 @@ void VectorLayer::setSpotlight(std::optional<Spotlight> const& spotlight) {
   LayerHost::changeLook(*this);
 }
 
-bool VectorLayer::isHidden(int feature) const {
-  return spotlight_ && spotlight_->hidesOthers && features().ids[static_cast<size_t>(feature)] != spotlight_->feature;
+bool VectorLayer::isHidden(qint64 id) const {
+  return spotlight_ && spotlight_->hidesOthers && id != spotlight_->feature;
+}
+
+void VectorLayer::drawSpotlight(DrawTarget& target, double unitsPerPixel) {
+  if (!spotlight_) return;
+  auto const store = featuresNumbered({spotlight_->feature});
+  ThinnedFeatures features(*store);
+  features.setResolution(unitsPerPixel);
+  for (int const feature : featuresOf(*store, {spotlight_->feature})) {
+    drawOutside(target, features, feature);
+    for (Symbol const* const pass : FeaturePainter::passesOf(spotlight_->symbol.get()))
+      if (auto const painter = FeaturePainter::create(target, pass))
+        painter->draw(features, feature, areaOf(target, painter->reachPx() + 1));
+  }
 }
 
 // All that is reached is an area with the feature for a hole.
-void VectorLayer::drawSpotlight(DrawTarget& target, int feature) {
+void VectorLayer::drawOutside(DrawTarget& target, ThinnedFeatures& features, int feature) {
   auto const cover = spotlight_->outside ? prepared(target, *spotlight_->outside) : nullptr;
-  if (cover) {
-    Box const reached = areaOf(target, cover->reachPx() + 1);
-    double const edge[] = {reached.xmin, reached.ymin, reached.xmax, reached.ymin, reached.xmax,
-                           reached.ymax, reached.xmin, reached.ymax, reached.xmin, reached.ymin};
-    cover->addRing({edge, 5}, false);
-    for (Part const& part : thinned().parts(feature)) {
-      if (part.kind == PartKind::Outline) cover->addLine(part.run());
-      if (part.kind == PartKind::Ring || part.kind == PartKind::FilledRing)
-        cover->addRing(part.run(), part.kind == PartKind::Ring);
-    }
-    cover->draw(reached);
+  if (!cover) return;
+  Box const reached = areaOf(target, cover->reachPx() + 1);
+  double const edge[] = {reached.xmin, reached.ymin, reached.xmax, reached.ymin, reached.xmax,
+                         reached.ymax, reached.xmin, reached.ymax, reached.xmin, reached.ymin};
+  cover->addRing({edge, 5}, false);
+  for (Part const& part : features.parts(feature)) {
+    if (part.kind == PartKind::Outline) cover->addLine(part.run());
+    if (part.kind == PartKind::Ring || part.kind == PartKind::FilledRing)
+      cover->addRing(part.run(), part.kind == PartKind::Ring);
   }
-  for (Symbol const* const pass : FeaturePainter::passesOf(spotlight_->symbol.get()))
-    if (auto const painter = FeaturePainter::create(target, pass))
-      painter->draw(thinned(), feature, areaOf(target, painter->reachPx() + 1));
+  cover->draw(reached);
 }
 
 // Of markers in proportion, some sizes and what has no number.
@@ -202,7 +218,7 @@ QVector<bool> VectorLayer::classesWithin(_ptr_t<DisplayTransformation> const& tr
   double const scale = transformation->GetMapScale();
   bool const isSame = within_.look == look && within_.turn == turn && within_.scale == scale &&
                       within_.shown.contains(shown) && shown.contains(within_.shown);
-  if (!isSame) within_ = {look, shown, turn, scale, findClassesWithin(shown, turn, scale)};
+  if (!isSame) within_ = {look, shown, turn, scale, findClassesWithin(*transformation, shown)};
   return within_.classes;
 }
 
@@ -212,10 +228,8 @@ int VectorLayer::proportionalClasses() const {
 }
 
 // As the legend lists them.
-QVector<bool> VectorLayer::findClassesWithin(Box const& shown, QTransform const& turn, double scale) const {
+QVector<bool> VectorLayer::classesOf(std::vector<bool> const& found) const {
   std::vector<SymbolClass> const& all = renderer_->classes();
-  FeatureLooks const looks(*renderer_, features(), scale);
-  auto const found = features().classesWithin(shown, turn, looks.drawing(), static_cast<int>(all.size()));
   QVector<bool> classes;
   bool const isProportional = renderer_->settings().kind == RendererSettings::Kind::Proportional;
   if (isProportional) classes.fill(found[0], proportionalClasses());
@@ -257,8 +271,9 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
   placedLabels_ = 0;
   placed_.clear();
   unplaced_.clear();
-  if (!transformation || !features().keepsLabels || features().size() == 0) return;
-  LabelPlacer placer(features(), labels_, *renderer_, *transformation);
+  auto const store = transformation ? shownBy(*transformation, cancel) : nullptr;
+  if (!store || !store->keepsLabels || store->size() == 0) return;
+  LabelPlacer placer(*store, labels_, *renderer_, *transformation);
   if (!placer.isUsable()) return;
   if (spotlight_ && spotlight_->hidesOthers) placer.keepOnly(spotlight_->feature);
   for (auto const& list : obstacles)
@@ -266,8 +281,11 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
       if (obstacle) placer.addObstacle(*obstacle);
   for (Layer const* const fellow : LayerHost::fellows(*this)) {
     auto const* const vector = dynamic_cast<VectorLayer const*>(fellow);
-    if (vector && vector != this && vector->showsAt(transformation->GetMapScale()))
-      placer.addObstacles(vector->features(), *vector->renderer_, vector->obstacle_);
+    if (!vector || vector == this || vector->obstacle_ == LabelObstacle::None ||
+        !vector->showsAt(transformation->GetMapScale()))
+      continue;
+    if (auto const other = vector->shownBy(*transformation, cancel))
+      placer.addObstacles(*other, *vector->renderer_, vector->obstacle_);
   }
   placer.place([&] { return isCancelled(cancel); });
   placedLabels_ = placer.placedCount();

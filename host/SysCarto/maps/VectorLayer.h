@@ -3,6 +3,7 @@
 #include "host/SysCarto/labels/LabelSettings.h"
 #include "host/SysCarto/layers/FeatureReader.h"
 #include "host/SysCarto/layers/FeatureStore.h"
+#include "host/SysCarto/layers/FeatureWindows.h"
 #include "host/SysCarto/layers/Renderer.h"
 
 #include <SysCarto/FeatureLayer.h>
@@ -36,7 +37,8 @@ struct Spotlight {
   SysUtility::_ptr_t<SysDisplay::FillSymbol> outside;  ///< covers all but the feature; may be missing
 };
 
-/// Features of a file, held in memory in the map's coordinate system. A layer whose source can't be read is empty.
+/// Features of a file, held in memory in the map's coordinate system: all of them, or of a large file with an index
+/// those that the map was asked to show. A layer whose source can't be read is empty.
 class SYSCARTO_EXPORT VectorLayer final : public FeatureLayer {
 public:
   /// Empty, and drawn with `renderer` once it is opened; it must not be null.
@@ -57,7 +59,23 @@ public:
   /// Not null. A renderer that puts features into other classes takes effect when the layer is opened.
   void setRenderer(std::unique_ptr<Renderer> renderer);
   Renderer const& renderer() const { return *renderer_; }
+
+  /// All features. Of a layer that has windows these are read once something asks for them.
   FeatureStore const& features() const;
+
+  /// Whether features are read by windows.
+  bool hasWindows() const { return isUnread_ && hasWindows_; }
+
+  /// What the features cover of the map; of a layer that has windows a little more, as its file tells.
+  Box extent() const;
+
+  // Some of the features, without reading others where the layer has windows. Shared with the layer, or not.
+
+  /// Those that meet an area of the map, and maybe others.
+  std::shared_ptr<FeatureStore const> featuresIn(Box const& area) const;
+
+  /// Those with these numbers in the source, and maybe others.
+  std::shared_ptr<FeatureStore const> featuresNumbered(std::vector<qint64> const& ids) const;
 
   void setSpotlight(std::optional<Spotlight> const& spotlight);
 
@@ -93,13 +111,24 @@ public:
 private:
   QString read(QStringList& warnings, ReadProgress const& progress, ReadDepth depth) const;
   ThinnedFeatures& thinned() const;
+  std::shared_ptr<FeatureStore const> shared() const;
+  std::shared_ptr<FeatureStore const> readOnly(WindowQuery const& query) const;
+  std::shared_ptr<FeaturePack const> window(SysDisplay::DisplayTransformation const& transformation,
+                                            double unitsPerPixel, Box const& reached, double reach,
+                                            SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
+  std::shared_ptr<FeatureStore const> shownBy(SysDisplay::DisplayTransformation const& transformation,
+                                              SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
   QVector<bool> classesWithin(
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
-  QVector<bool> findClassesWithin(Box const& shown, QTransform const& turn, double scale) const;
-  void drawSpotlight(SysDisplay::DrawTarget& target, int feature);
-  bool isHidden(int feature) const;
+  QVector<bool> findClassesWithin(SysDisplay::DisplayTransformation const& transformation, Box const& shown) const;
+  QVector<bool> classesOf(std::vector<bool> const& found) const;
+  void drawSpotlight(SysDisplay::DrawTarget& target, double unitsPerPixel);
+  void drawOutside(SysDisplay::DrawTarget& target, ThinnedFeatures& features, int feature);
+  bool isHidden(qint64 id) const;
   void drawFeatures(QPainter& painter, SysDisplay::DisplayTransformation const& transformation,
                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
+  void drawWindow(SysDisplay::DrawTarget& target, SysDisplay::DisplayTransformation const& transformation,
+                  double unitsPerPixel, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
 
   SourceSettings source_;
   QString mapSystem_;
@@ -116,6 +145,9 @@ private:
   mutable std::unique_ptr<FeatureStore> store_;
   mutable std::unique_ptr<ThinnedFeatures> thinned_;
   mutable bool isUnread_ = false;  // by the schema alone
+  mutable bool hasWindows_ = false;
+  mutable Box extent_;  // where it has windows
+  mutable FeatureWindows windows_;
 
   // Which classes were in sight when last asked, for the look of that time: a legend asks at each redraw.
   struct Within {

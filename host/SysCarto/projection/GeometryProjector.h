@@ -33,6 +33,12 @@ public:
   /// The same for another thread.
   std::unique_ptr<GeometryProjector> clone() const;
 
+  /// Whether coordinates become others.
+  bool isProjecting() const { return toMap_ != nullptr; }
+
+  /// Whether those of the source are longitudes and latitudes, which become others.
+  bool isFromDegrees() const { return isProjecting() && sourceIsGeographic_; }
+
   /// Hands the parts of a geometry to the sink.
   void add(OGRGeometry const& geometry, PartSink& sink) const;
 

@@ -63,6 +63,46 @@ private slots:
     }
   }
 
+  void aWindowShowsWhatTheWholeLayerDoes_data() {
+    Rows<QString, QString, QPointF, double, double> row;
+    row("turned", "countries", "+proj=laea +lat_0=47 +lon_0=8", {1e6, 3e5}, 1.2e6, 33);
+    row("not projected", "countries", "", {8, 47}, 20, 12);
+    row("in degrees on both sides of the antimeridian", "countries", "+proj=longlat +lon_0=180", {179, 66}, 30, 0);
+    row("across the antimeridian", "countries", "+proj=laea +lat_0=-17 +lon_0=179", {0, 0}, 2e6, 0);
+    row("at the antimeridian where the map is cut", "countries", "EPSG:3857", {-1.99e7, 9.8e6}, 2e6, 0);
+    row("at the cut of another map", "countries", "+proj=eqearth +lon_0=150", {-1.6e7, 0}, 4e6, 0);
+    row("around the North Pole", "countries", "+proj=stere +lat_0=90", {0, 0}, 3e6, 10);
+    row("at the South Pole", "countries", "+proj=stere +lat_0=-90", {1e5, 2e5}, 1e5, 0);
+    row("at the limb of a globe", "countries", "+proj=ortho +lat_0=40 +lon_0=10", {6.2e6, 1e6}, 2e6, 0);
+    row("beyond what a map shows", "countries", "+proj=ortho +lat_0=40 +lon_0=10", {2e7, 0}, 2e6, 0);
+    row("all", "countries", "EPSG:8857", {0, 0}, 3.6e7, 0);
+    row("markers that reach into it", "cities", "+proj=laea +lat_0=47 +lon_0=8", {0, 0}, 1.5e6, 20);
+  }
+  void aWindowShowsWhatTheWholeLayerDoes() {
+    auto const [name, system, centre, width, degrees] = fetched<QString, QString, QPointF, double, double>();
+    _ptr_t<Symbol> symbol = marker();
+    if (name != "cities") symbol = fill(QColor(60, 120, 60, 180), SimpleFillStyle::Solid, pen(0.6));
+    Sheet const sheet =
+        shown({centre.x() - width / 2, centre.y() - width / 2, centre.x() + width / 2, centre.y() + width / 2},
+              QSize(300, 300), 2);
+    auto const drawn = [&, about = centre, angle = degrees](OpenedLayer const& opened) {
+      return sheet.drawnInTiles(
+          [&](QPainter& painter, Transformation const& transformation) {
+            DisplayTransformationHost::setTurn(*transformation, angle, about);
+            opened.layer->Draw(painter, transformation, 1, nullptr);
+          },
+          150);
+    };
+    QImage const whole = drawn(opened({sample("world.gpkg"), name, {}, {}}, system, symbol));
+    auto const former = setWindowThreshold({0, 0});
+    auto const large = opened({sample("world.gpkg"), name, {}, {}}, system, symbol);
+    setWindowThreshold(former);
+    QVERIFY(large.layer->hasWindows());
+    Difference const found = difference(whole, drawn(large));
+    QVERIFY(large.layer->hasWindows());
+    QVERIFY2(found.levels <= 90 && found.pixels <= 900, qUtf8Printable(found.text()));
+  }
+
   void featuresAreDrawnInPhaseOneUntilCancelled() {
     auto const cities = opened({sample("world.gpkg"), "cities", {}, {}}, "EPSG:8857", marker());
     auto const going = make<TrackerCancel>(), cancelled = make<TrackerCancel>();

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "host/SysCarto/layers/FeatureStore.h"
+#include "host/SysCarto/layers/ThinningGrid.h"
+
+#include <SysCarto/Export.h>
+
+#include <array>
+#include <map>
+#include <vector>
+
+namespace SysCarto {
+
+/// The features of a part of a map as a resolution can show them, in few bytes: coordinates are whole numbers of a
+/// small fraction of a thinning cell, and differences of these. What draws or labels unpacks some at a time into a
+/// `FeatureStore`.
+class SYSCARTO_EXPORT FeaturePack {
+public:
+  /// For features that meet `area` (map units). The side of a cell must be positive.
+  FeaturePack(Box const& area, double cell);
+
+  Box const& area() const { return area_; }
+  double cell() const { return cell_; }
+
+  /// What its features have besides their geometries: a store without any.
+  FeatureStore& form() { return form_; }
+  FeatureStore const& form() const { return form_; }
+
+  /// Adds features, thinned before to the cell, without those that the area does not meet.
+  void add(FeatureStore const& features);
+
+  /// Gives back what room was too much. Nothing is added afterwards.
+  void finish();
+
+  /// About what it takes in memory.
+  std::size_t bytes() const { return bytes_; }
+  int size() const { return size_; }
+
+  struct Place {
+    qint64 id;
+    unsigned char const* record;
+    std::array<qint64, 2> const* origin;
+  };
+
+  /// Where the features lie whose boxes meet the rectangle, by their numbers in the source, which is its order.
+  std::vector<Place> query(Box const& rectangle) const;
+
+  /// Puts features into a store that has the form.
+  void unpack(Place const* begin, Place const* end, FeatureStore& to) const;
+
+private:
+  struct Bucket {
+    Box box;
+    std::array<qint64, 2> origin;
+    std::vector<unsigned char> records;
+  };
+  using Vertex = std::array<qint64, 2>;
+
+  Bucket& bucketFor(Box const& box);
+  Vertex quantised(double x, double y) const;
+  double coordinate(qint64 quantum) const { return (static_cast<double>(quantum) + 0.5) * quantum_; }
+  void write(FeatureStore const& from, int feature, int symbolClass, Bucket& bucket);
+
+  Box const area_;
+  double const cell_, quantum_;
+  FeatureStore form_;
+  std::map<std::array<qint64, 3>, Bucket> buckets_;  // by size, column, row
+  std::vector<unsigned char> record_;                // that is written
+  std::size_t bytes_ = 0;
+  int size_ = 0;
+};
+
+}  // namespace SysCarto

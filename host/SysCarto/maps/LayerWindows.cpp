@@ -1,0 +1,149 @@
+#include "VectorLayer.h"
+
+#include "host/SysCarto/layers/FeatureLooks.h"
+#include "host/SysCarto/layers/FeaturePasses.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace SysCarto {
+
+using namespace SysDisplay;
+using SysUI::TrackerCancel;
+using SysUtility::_ptr_t;
+
+// What a layer reads by windows, and draws and tells of these.
+
+namespace {
+
+constexpr std::ptrdiff_t unpackedAtOnce = 2048;  // features
+constexpr double legendDpi = 300;
+constexpr double pointsPerInch = 72;
+
+Box boxFrom(QRectF const& rectangle) {
+  return {rectangle.left(), rectangle.top(), rectangle.right(), rectangle.bottom()};
+}
+
+// Hands on the features of a window in stores of not too many, until `visit` answers false.
+template <class Visit>
+void inPortions(FeaturePack const& pack, std::vector<FeaturePack::Place> const& places, FeatureStore& store,
+                Visit const& visit) {
+  auto const* const end = places.data() + places.size();
+  for (auto const* begin = places.data(); begin != end;) {
+    auto const* const next = begin + std::min<std::ptrdiff_t>(unpackedAtOnce, end - begin);
+    store.takeForm(pack.form());
+    pack.unpack(begin, next, store);
+    if (!visit()) return;
+    begin = next;
+  }
+}
+
+}  // namespace
+
+Box VectorLayer::extent() const { return hasWindows() ? extent_ : features().box(); }
+
+std::shared_ptr<FeatureStore const> VectorLayer::shared() const { return {std::shared_ptr<void>(), &features()}; }
+
+std::shared_ptr<FeatureStore const> VectorLayer::readOnly(WindowQuery const& query) const {
+  ReadFeatures read = readWindow(source_, mapSystem_, *renderer_, labels_.read(), query);
+  if (!read.error.isEmpty()) problem_ = read.error;
+  return std::move(read.store);
+}
+
+std::shared_ptr<FeatureStore const> VectorLayer::featuresIn(Box const& area) const {
+  return hasWindows() ? readOnly({area, 0, {}}) : shared();
+}
+
+std::shared_ptr<FeatureStore const> VectorLayer::featuresNumbered(std::vector<qint64> const& ids) const {
+  if (!hasWindows()) return shared();
+  return ids.empty() ? std::make_shared<FeatureStore>() : readOnly({Box(), 0, ids});
+}
+
+std::shared_ptr<FeaturePack const> VectorLayer::window(DisplayTransformation const& transformation,
+                                                       double unitsPerPixel, Box const& reached, double reach,
+                                                       _ptr_t<TrackerCancel> const& cancel) const {
+  Box area = boxFrom(DisplayTransformationHost::wholeWorld(transformation));
+  area = area.grown(reach);
+  area.add(reached);
+  ReadProgress progress;
+  if (cancel) progress = [&](qint64, qint64) { return !cancel->IsCanced(); };
+  return windows_.window(area, unitsPerPixel, [&](Box const& wanted, double cell) {
+    ReadFeatures read = readWindow(source_, mapSystem_, *renderer_, labels_.read(), {wanted, cell, {}}, progress);
+    if (!read.error.isEmpty() && !read.wasStopped) problem_ = read.error;
+    return std::move(read.pack);
+  });
+}
+
+std::shared_ptr<FeatureStore const> VectorLayer::shownBy(DisplayTransformation const& transformation,
+                                                         _ptr_t<TrackerCancel> const& cancel) const {
+  if (!hasWindows()) return shared();
+  Box const shown = boxFrom(DisplayTransformationHost::coveredWorld(transformation));
+  auto const pack =
+      window(transformation, 1 / DisplayTransformationHost::pixelsPerUnit(transformation), shown, 0, cancel);
+  if (!pack) return nullptr;
+  auto const places = pack->query(shown);
+  auto store = std::make_shared<FeatureStore>();
+  store->takeForm(pack->form());
+  pack->unpack(places.data(), places.data() + places.size(), *store);
+  store->finish();
+  return store;
+}
+
+// How far symbols reach is the same whatever is read: those whose size follows features have no windows.
+void VectorLayer::drawWindow(DrawTarget& target, DisplayTransformation const& transformation, double unitsPerPixel,
+                             _ptr_t<TrackerCancel> const& cancel) {
+  double const scale = transformation.GetMapScale();
+  FeatureStore store;
+  double const reachPx = FeaturePasses(*renderer_, FeatureLooks(*renderer_, store, scale), target).reachPx() + 1;
+  Box const area =
+      boxFrom(target.toDevice().inverted().mapRect(target.area().adjusted(-reachPx, -reachPx, reachPx, reachPx)));
+  auto const pack = window(transformation, unitsPerPixel, area, reachPx * unitsPerPixel, cancel);
+  if (!pack) return;
+  store.takeForm(pack->form());
+  FeatureLooks const looks(*renderer_, store, scale);
+  FeaturePasses const passes(*renderer_, looks, target);
+  std::vector<FeaturePack::Place> places = pack->query(area);
+  auto const isLeftOut = [&](FeaturePack::Place const& place) { return isHidden(place.id); };
+  places.erase(std::remove_if(places.begin(), places.end(), isLeftOut), places.end());
+  for (FeaturePasses::Pass const& pass : passes.passes())
+    inPortions(*pack, places, store, [&] {
+      ThinnedFeatures thinned(store);
+      thinned.setResolution(unitsPerPixel);
+      for (int feature = 0; feature < store.size(); ++feature) {
+        int const symbolClass = store.features[static_cast<size_t>(feature)].symbolClass;
+        if (symbolClass < 0 || !pass[static_cast<size_t>(symbolClass)]) continue;
+        pass[static_cast<size_t>(symbolClass)]->draw(thinned, feature, area);
+      }
+      return !cancel || !cancel->IsCanced();
+    });
+}
+
+QVector<bool> VectorLayer::findClassesWithin(DisplayTransformation const& transformation, Box const& shown) const {
+  double const scale = transformation.GetMapScale();
+  QTransform const& turn = DisplayTransformationHost::turn(transformation);
+  int const count = static_cast<int>(renderer_->classes().size());
+  if (!hasWindows()) {
+    FeatureLooks const looks(*renderer_, features(), scale);
+    return classesOf(features().classesWithin(shown, turn, looks.drawing(), count));
+  }
+  std::vector<bool> found(static_cast<size_t>(count));
+  double const unitsPerPoint =
+      transformation.PixelsPerPoint() / DisplayTransformationHost::pixelsPerUnit(transformation);
+  Box const covered = boxFrom(DisplayTransformationHost::coveredWorld(transformation));
+  auto const pack = window(transformation, unitsPerPoint * pointsPerInch / legendDpi, covered, 0, nullptr);
+  if (!pack) return classesOf(found);
+  FeatureStore store;
+  store.takeForm(pack->form());
+  FeatureLooks const looks(*renderer_, store, scale);
+  auto const places = pack->query(covered);
+  inPortions(*pack, places, store, [&] {
+    store.finish();
+    auto const here = store.classesWithin(shown, turn, looks.drawing(), count);
+    std::transform(found.begin(), found.end(), here.begin(), found.begin(), std::logical_or<>());
+    return std::find(found.begin(), found.end(), false) != found.end();
+  });
+  return classesOf(found);
+}
+
+}  // namespace SysCarto
