@@ -1588,7 +1588,7 @@
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation>&amp;Prüfen</translation>
+        <translation>&amp;Testen</translation>
     </message>
     <message>
         <source>Count the features that pass</source>
@@ -6508,7 +6508,7 @@
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation>&amp;Prüfen</translation>
+        <translation>&amp;Testen</translation>
     </message>
     <message>
         <source>Count the features that find a row</source>
@@ -6872,7 +6872,7 @@
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation>&amp;Prüfen</translation>
+        <translation>&amp;Testen</translation>
     </message>
     <message>
         <source>Count the features that pass the filter</source>
@@ -9298,7 +9298,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>&amp;Change…</source>
-        <translation>&amp;Ändern …</translation>
+        <translation>Ä&amp;ndern…</translation>
     </message>
     <message>
         <source>&amp;Duplicate</source>
@@ -9318,7 +9318,7 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation>&amp;Hinzufügen …</translation>
+        <translation>&amp;Hinzufügen…</translation>
     </message>
 </context>
 <context>

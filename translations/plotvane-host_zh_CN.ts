@@ -1545,7 +1545,7 @@
     <name>CommandsSubcommand</name>
     <message>
         <source>Print JSON, for programs.</source>
-        <translation>输出 JSON，供程序使用。</translation>
+        <translation>输出 JSON,供程序使用。</translation>
     </message>
     <message>
         <source>Print the reference of all commands, the host&apos;s included.</source>
@@ -6438,7 +6438,7 @@
     </message>
     <message>
         <source>Print JSON, for programs.</source>
-        <translation>输出 JSON，供程序使用。</translation>
+        <translation>输出 JSON,供程序使用。</translation>
     </message>
     <message>
         <source>%1: the folder holds no file of data.</source>
@@ -9906,7 +9906,7 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     </message>
     <message>
         <source>Print JSON, for programs.</source>
-        <translation>输出 JSON，供程序使用。</translation>
+        <translation>输出 JSON,供程序使用。</translation>
     </message>
     <message>
         <source>Deprecated systems, too.</source>
