@@ -127,6 +127,18 @@ private slots:
         shown.sort();
         QCOMPARE(shown, wanted);
         ++layers;
+
+        // Ctrl+Tab comes to each tab that there is, and to no other.
+        auto& pages = in<QTabWidget>(sheet, "tabWidget_Layer");
+        int there = 0, come = 0;
+        for (int i = 0; i < pages.count(); ++i) there += pages.isTabVisible(i) ? 1 : 0;
+        pages.setCurrentIndex(0);
+        do {
+          QVERIFY(pages.isTabVisible(pages.currentIndex()));
+          QTest::keyClick(&pages, Qt::Key_Tab, Qt::ControlModifier);
+          ++come;
+        } while (pages.currentIndex() != 0 && come < pages.count());
+        QCOMPARE(come, there);
       }
     QVERIFY(layers > 4);
   }

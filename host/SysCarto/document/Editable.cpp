@@ -145,6 +145,8 @@ protected:
   Change read(Fields& reader, DocumentContext& context) const override {
     Settings settings = uses_.of(*target_, context);  // a size of one's own begins with the sheet's
     settings.list(reader);
+    // Another way to say the same, such as a whole turn, is no change.
+    if (reader.ok() && valuesOf(settings) == valuesOf(uses_.of(*target_, context))) return nullptr;
     return [this, settings, context](QString const& step, QStringList& warnings) {
       auto const told = std::make_shared<QStringList>();
       auto const put = [apply = uses_.apply, context, told](Target& target, Settings const& value) {
@@ -159,6 +161,12 @@ protected:
   }
 
 private:
+  static QJsonObject valuesOf(Settings settings) {
+    FieldSheet sheet;
+    settings.list(sheet);
+    return SysUtility::wholeObject(sheet.fields());
+  }
+
   _ptr_t<Target> const target_;
   Uses const uses_;
 };
@@ -385,7 +393,7 @@ QString Editable::set(MapDocument const& document, List const& things, QStringLi
     if (!change.problem.isEmpty() && isOwnThing(list, path.first()))
       return Texts::tr("“%1” is a thing of its own, written without “document/”: %2").arg(path.first(), what);
     if (!change.problem.isEmpty()) return change.problem;
-    if (change.isChange) changes << read;
+    if (change.isChange && read) changes << read;
     context.framedMaps = framedMaps;  // one map is in one frame, among those that are changed here, too
     if (change.caption) what = inSentence(change.caption);
   }

@@ -85,6 +85,7 @@ void MapSettings::list(Fields& fields) {
                                    "How far the map is turned counterclockwise about its centre. The frame stays, and "
                                    "letters, pictures and the patterns of areas stay upright.")},
                 rotation, {-360, 360, SysUtility::Unit::Degree}, 0.0);
+  if (fields.isReading()) rotation = std::fmod(rotation, 360);
   listScale(fields);
   if (!fields.isReading() || !fields.ok()) return;
   if (bounds[2] - bounds[0] < minMapExtent || bounds[3] - bounds[1] < minMapExtent)

@@ -11,7 +11,6 @@
 #include "host/SysAdapterUI/ContentsTree.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/maps/LayerData.h"
-#include "host/SysCarto/maps/VectorLayer.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -34,11 +33,9 @@ bool areAny(Rows const& rows) { return !rows.isEmpty(); }
 bool areLayers(Rows const& rows) { return std::any_of(rows.begin(), rows.end(), std::not_fn(isMap)); }
 bool isOne(Rows const& rows) { return rows.size() == 1; }
 bool isOneMap(Rows const& rows) { return isOne(rows) && isMap(rows.first()); }
-bool isOneOfFeatures(Rows const& rows) {
-  return isOne(rows) && SysUtility::ptr_cast<SysCarto::VectorLayer>(rows.first().layer);
-}
+bool isOneLayer(Rows const& rows) { return isOne(rows) && isLayer(rows.first()); }
 bool isOneWithScales(Rows const& rows) {
-  if (!isOne(rows) || !isLayer(rows.first())) return false;
+  if (!isOneLayer(rows)) return false;
   auto const scales = SysCarto::LayerHost::scales(*rows.first().layer);
   return scales.min > 0 || scales.max > 0;
 }
@@ -120,7 +117,7 @@ LayerCommand const LayerCommand::all[] = {
     {"Host_ZoomToLayer",      zoom,                                    areAny},
     {"Host_ZoomToScaleRange", zoomToScales,                            isOneWithScales},
     {"Host_RepairLayer",      repair,                                  isOneBroken},
-    {"Host_LayerProperties",  showSheet,                               isOneOfFeatures},
+    {"Host_LayerProperties",  showSheet,                               isOneLayer},
     {"Host_FocusMap",         focus,                                   isOneMap},
 };
 // clang-format on
@@ -151,7 +148,7 @@ void LayerCommands::setTree(SysAdapterUI::ContentsTree& tree, ActionTable& actio
   connect(&tree, &QTreeView::doubleClicked, this, [&tree, &actions, this](QModelIndex const& index) {
     actions.refresh();
     QAction* const sheet = actions.find(QStringLiteral("Host_LayerProperties"));
-    if (!isOneOfFeatures(chosen())) return tree.setExpanded(index, !tree.isExpanded(index));
+    if (!isOneLayer(chosen())) return tree.setExpanded(index, !tree.isExpanded(index));
     sheet->trigger();
     if (tree.rows().isClass(index)) sheet_->showLayer(sheet_->layer(), QStringLiteral("Symbols"));
   });

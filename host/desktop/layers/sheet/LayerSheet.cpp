@@ -291,11 +291,14 @@ QString LayerSheet::set(QStringList const& path, SysUtility::NewValue const& val
   return problem;
 }
 
-// A raster has no tables and labels, and nothing to count.
+// A raster has no tables and labels, and nothing to count. Ctrl+Tab would also come to what is only hidden.
 void LayerSheet::showFitting() {
   bool const areFeatures = static_cast<bool>(vector());
-  for (size_t i = 0; i < tabs_.size(); ++i)
-    pages_->setTabVisible(static_cast<int>(i), areFeatures || tabs_[i].sheet->model().rowCount() > 0);
+  for (size_t i = 0; i < tabs_.size(); ++i) {
+    bool const fits = areFeatures || tabs_[i].sheet->model().rowCount() > 0;
+    pages_->setTabVisible(static_cast<int>(i), fits);
+    pages_->setTabEnabled(static_cast<int>(i), fits);
+  }
   for (QWidget* const widget : ofFeatures_) widget->setVisible(areFeatures);
   for (TestBar* const test : tests_) test->setVisible(areFeatures);
 }

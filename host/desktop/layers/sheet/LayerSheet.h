@@ -38,7 +38,7 @@ public:
   LayerSheet(DocumentSession& session, QWidget* parent);
   ~LayerSheet() override;
 
-  /// Of a layer of features. An empty name leaves the tab that is shown.
+  /// An empty name leaves the tab that is shown.
   void showLayer(SysCarto::LayerRow const& row, QString const& tab = QString());
 
   SysCarto::LayerRow const& layer() const { return row_; }
