@@ -28,7 +28,6 @@ using SysUtility::Unit;
 namespace {
 
 constexpr Range onPage{-10000, 10000, Unit::Centimetre};
-constexpr double maxTextWidthCm = 1000;
 constexpr double maxCoordinate = 1e12;  // graphics lie on maps, too, in map units
 constexpr int maxMembers = 100000, maxRings = 100000, maxGrids = 100;
 
@@ -188,7 +187,7 @@ void TextElementSettings::list(Fields& fields, ElementScope const& scope) {
                  QT_TRANSLATE_NOOP("Fields",
                                    "At which its lines are broken on paper; 0 breaks them only where the text "
                                    "does.")},
-                widthCm, {0, maxTextWidthCm, Unit::Centimetre}, 0.0);
+                widthCm, {0, TextElement::maxWidthCm, Unit::Centimetre}, 0.0);
   fields.number({"angle", QT_TRANSLATE_NOOP("Fields", "Angle"),
                  QT_TRANSLATE_NOOP("Fields", "How far the text is turned counterclockwise about its position.")},
                 angle, {-360, 360, Unit::Degree}, 0.0);

@@ -39,7 +39,7 @@ void TextElement::setText(QString const& text) {
 }
 
 void TextElement::setWidth(double cm) {
-  widthCm_ = std::isfinite(cm) ? std::max(cm, 0.0) : 0;
+  widthCm_ = std::isfinite(cm) ? std::clamp(cm, 0.0, maxWidthCm) : 0;
   forget();
 }
 

@@ -22,7 +22,8 @@ public:
   QString text() const { return text_; }
   void setText(QString const& text);
 
-  /// Centimetres on paper at which lines are broken; 0 breaks them only where the text does.
+  /// Centimetres on paper at which lines are broken, at most `maxWidthCm`; 0 breaks them only where the text does.
+  static constexpr double maxWidthCm = 1000;
   double width() const { return widthCm_; }
   void setWidth(double cm);
 
