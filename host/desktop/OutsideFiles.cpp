@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -69,13 +70,18 @@ AllowedFoldersDialog::AllowedFoldersDialog(QWidget* parent) : QDialog(parent), r
   rows_->setObjectName(QStringLiteral("listWidget_AllowedFolders"));
   rows_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  auto* const addition = buttons->addButton(tr("Add…"), QDialogButtonBox::ActionRole);
-  auto* const removal = buttons->addButton(tr("Remove"), QDialogButtonBox::ActionRole);
+  auto* const addition = new QPushButton(tr("Add…"), this);
+  auto* const removal = new QPushButton(tr("Remove"), this);
   for (QPushButton* const button : {addition, removal}) button->setAutoDefault(false);
   removal->setEnabled(false);
+  auto* const changes = new QHBoxLayout;
+  changes->addWidget(addition);
+  changes->addWidget(removal);
+  changes->addStretch();
   auto* const box = new QVBoxLayout(this);
   box->addWidget(text);
   box->addWidget(rows_, 1);
+  box->addLayout(changes);
   box->addWidget(buttons);
   add(AllowedFolders::kept());
   connect(buttons, &QDialogButtonBox::accepted, this, [this] { accept(); });

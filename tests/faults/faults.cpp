@@ -1,8 +1,8 @@
 // A library to be loaded before all others: it counts calls of the system by kind, and makes chosen ones fail. Where
 //   PLOTVANE_FAULT="KIND N ERRNO [on|short]"
 // is set, the Nth call of that kind fails with that number of an error, and with "on" each one after it, too; "short"
-// lets a write take half of what it was given, and nothing more. PLOTVANE_FAULT_COUNTS names a file for the counts of
-// all kinds. Calls count from the first one for a file under PLOTVANE_FAULT_FROM.
+// lets a write take half of what it was given, and nothing more. PLOTVANE_FAULT_COUNTS names a file to which each
+// process adds the counts of all kinds. Calls count from the first one for a file under PLOTVANE_FAULT_FROM.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -69,7 +69,7 @@ __attribute__((destructor)) void end() {
   char const* const path = std::getenv("PLOTVANE_FAULT_COUNTS");
   if (!path || !isCounting) return;
   isCounting = false;
-  if (FILE* const file = std::fopen(path, "w")) {
+  if (FILE* const file = std::fopen(path, "a")) {
     for (int i = 0; i < KindCount; ++i) std::fprintf(file, "%s %ld\n", names[i], counts[i].load());
     std::fclose(file);
   }

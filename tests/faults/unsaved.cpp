@@ -5,10 +5,13 @@
 #include "host/desktop/MainWindow.h"
 
 #include <cstdio>
+#include <cstdlib>
 
 // What scripts/kills kills, and what starts after it:
 //
-//     plotvane_unsaved work DOCUMENT       draws in the window; copies are written, and every fourth step is saved
+//     plotvane_unsaved work DOCUMENT       draws in the window; copies are written, and every fourth step is saved;
+//                                          with PLOTVANE_PARTS elements before that, a copy is read between events, too
+//     plotvane_unsaved keep DOCUMENT       draws once and ends as if killed, when a copy was written, or that was told
 //     plotvane_unsaved recover DOCUMENT    recovers what was lost, saves it, and tells the number of its last step
 namespace {
 
@@ -25,19 +28,54 @@ int lastStep(MainWindow& window) {
   return last;
 }
 
-int work(MainWindow& window, QString const& document) {
+void addText(WorkbenchPage& page, int step) {
+  auto const text = make<SysCarto::TextElement>();
+  text->setText(QString("step %1").arg(step));
+  page.container().AddElement(text);
+}
+
+bool addParts(MainWindow& window, int parts) {
+  WorkbenchPage page(window.bench());
+  for (int i = 0; i < parts; ++i) page.container().AddElement(make<SysCarto::TextElement>());
+  return parts == 0 || window.bench().session().save();
+}
+
+// As the timer would have it.
+void readBetweenEvents(MainWindow& window) {
+  constexpr int longEnoughMs = 400;
+  emit window.bench().session().replaced();
+  QTest::qWait(longEnoughMs);
+}
+
+int keep(MainWindow& window, QString const& document) {
   if (!window.open(document)) return 1;
+  WorkbenchPage page(window.bench());
+  addText(page, 1);
+  RecoveryCopy::keepAll();
+  QCoreApplication::processEvents();
+  auto const* const notice = window.findChild<QLabel*>("label_Notice");
+  bool const isTold = notice->isVisible();
+  if (isTold) std::fprintf(stderr, "plotvane: %s\n", qPrintable(notice->text()));
+  std::fflush(nullptr);
+  std::_Exit(isTold ? 1 : 0);
+}
+
+int work(MainWindow& window, QString const& document) {
+  int const parts = qEnvironmentVariableIntValue("PLOTVANE_PARTS");
+  if (!window.open(document) || !addParts(window, parts)) return 1;
   WorkbenchPage page(window.bench());
   tell("ready", 0);
   for (int step = 1; step < 1000; ++step) {
     tell("begun", step);
-    auto const text = make<SysCarto::TextElement>();
-    text->setText(QString("step %1").arg(step));
-    page.container().AddElement(text);
+    addText(page, step);
     if (step % 4 == 0) {
       if (!window.bench().session().save()) return 1;
       tell("saved", step);
     } else {
+      if (parts > 0) {
+        tell("reading", step);
+        readBetweenEvents(window);
+      }
       RecoveryCopy::keepAll();
       tell("kept", step);
     }
@@ -72,5 +110,6 @@ int main(int argc, char** argv) {
   if (arguments.size() != 3) return 2;
   MainWindow window;
   window.show();
-  return arguments[1] == "work" ? work(window, arguments[2]) : recover(window, arguments[2]);
+  if (arguments[1] == "work") return work(window, arguments[2]);
+  return arguments[1] == "keep" ? keep(window, arguments[2]) : recover(window, arguments[2]);
 }
