@@ -69,11 +69,13 @@ class Subcommand:
         self.build, (self.result, self.arguments) = build, WORKS[work]
         with tempfile.TemporaryDirectory(prefix="kills-") as name:
             folder = self.prepare(Path(name))
-            began = time.monotonic()
             self.contents = [b"old"]
-            if subprocess.run(self.command(), cwd=folder, env=environment(folder / "home")).returncode:
-                sys.exit(f"{work} fails without a kill")
-            self.seconds = time.monotonic() - began
+            for _ in range(2):  # the first has to fetch it all from the disk
+                began = time.monotonic()
+                if subprocess.run(self.command(), cwd=folder, env=environment(folder / "home"),
+                                  stdout=subprocess.DEVNULL).returncode:
+                    sys.exit(f"{work} fails without a kill")
+                self.seconds = time.monotonic() - began
             self.contents.append((folder / self.result).read_bytes())
             if work == "two saves":
                 first = self.arguments[:3] + ["--force"]

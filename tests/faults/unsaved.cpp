@@ -56,8 +56,7 @@ int keep(MainWindow& window, QString const& document) {
   auto const* const notice = window.findChild<QLabel*>("label_Notice");
   bool const isTold = notice->isVisible();
   if (isTold) std::fprintf(stderr, "plotvane: %s\n", qPrintable(notice->text()));
-  std::fflush(nullptr);
-  std::_Exit(isTold ? 1 : 0);
+  std::exit(isTold ? 1 : 0);  // the window does not come to its end
 }
 
 int work(MainWindow& window, QString const& document) {
