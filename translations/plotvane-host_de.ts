@@ -1870,6 +1870,18 @@
         <source>its coordinate system names a file by a path, which is not opened; give it another coordinate system</source>
         <translation>ihr Koordinatensystem nennt eine Datei mit ihrem Pfad, die nicht geöffnet wird; geben Sie ihr ein anderes Koordinatensystem</translation>
     </message>
+    <message>
+        <source>%1 beside it is no file of its own; remove that</source>
+        <translation>%1 daneben ist keine eigene Datei; entfernen Sie das</translation>
+    </message>
+    <message>
+        <source>a change of it was not brought to its end, and lies beside it in %1; open it once in the program that changed it, and close it there</source>
+        <translation>eine Änderung daran wurde nicht zu Ende gebracht und liegt daneben in %1; öffnen Sie die Datei einmal in dem Programm, das sie geändert hat, und schließen Sie sie dort</translation>
+    </message>
+    <message>
+        <source>it holds far more than an archive of its size should; unpack it, and name the file in it</source>
+        <translation>es enthält weit mehr, als ein Archiv seiner Größe sollte; entpacken Sie es und nennen Sie die Datei darin</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>

@@ -1870,6 +1870,18 @@
         <source>its coordinate system names a file by a path, which is not opened; give it another coordinate system</source>
         <translation>其坐标系按路径引用了一个文件，该文件不会被打开；请为其指定另一个坐标系</translation>
     </message>
+    <message>
+        <source>%1 beside it is no file of its own; remove that</source>
+        <translation>旁边的 %1 不是独立的文件；请将其移除</translation>
+    </message>
+    <message>
+        <source>a change of it was not brought to its end, and lies beside it in %1; open it once in the program that changed it, and close it there</source>
+        <translation>对它的一次更改没有完成，留在旁边的 %1 中；请在更改它的程序中打开一次，再将其关闭</translation>
+    </message>
+    <message>
+        <source>it holds far more than an archive of its size should; unpack it, and name the file in it</source>
+        <translation>它包含的内容远多于这种大小的压缩包所应有的；请解压并指定其中的文件</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>

@@ -41,13 +41,13 @@ void DrawTarget::fill(PointRuns const& rings, QColor const& color, Qt::FillRule 
     return canvas_->fill(rings, color, rule);
   }
   DrawingBudget::spendOnFill(rings, area_);
-  fills_.add(rings, color, rule);
+  if (!DrawingBudget::isSpent()) fills_.add(rings, color, rule);
 }
 
 void DrawTarget::fill(PointRuns const& rings, std::shared_ptr<Texture const> const& texture, Qt::FillRule rule) {
   if (DrawingBudget::isSpent()) return;
   DrawingBudget::spendOnFill(rings, area_);
-  fills_.add(rings, texture, rule);
+  if (!DrawingBudget::isSpent()) fills_.add(rings, texture, rule);
 }
 
 }  // namespace SysDisplay

@@ -11,6 +11,9 @@ struct PointRuns;
 /// How much drawing a page is worth, counted and not timed, so that the same page comes out the same on every machine.
 /// While it lives, all that is drawn on its thread is counted; once it is spent, nothing is drawn any more, and whoever
 /// made it says so in place of the picture. Without one there is no end.
+///
+/// Work that other threads do is not counted there, and need not be: the fills of a `FillQueue` were counted when they
+/// were added, and how many features are projected beside the reading is bounded by the size of their file.
 class SYSDISPLAY_EXPORT DrawingBudget {
 public:
   /// What it costs to write one pixel is 1.

@@ -142,9 +142,17 @@ private:
     if (fits && !(reachesBeyond && isLong)) return draw(rings, fill.firstRun, fill.lastRun, fill.rule);
     part_.clear();
     QRectF const rows(-maxCoordinatePx, top_, 2 * maxCoordinatePx, bottom_ - top_);
-    for (int i = fill.firstRun; i <= fill.lastRun; ++i) dropBeyond(rings.run(i), rings.size(i), rows, part_);
+    for (int i = fill.firstRun; i <= fill.lastRun; ++i)
+      if (meets(rings.run(i), rings.size(i))) dropBeyond(rings.run(i), rings.size(i), rows, part_);
     if (!fits) cutToBox(part_, boxOf(box_));
     if (!part_.isEmpty()) draw(part_, 0, part_.count() - 1, fill.rule);
+  }
+
+  // Of thousands of dashes, each band has few.
+  bool meets(QPointF const* points, int count) const {
+    auto const [high, low] =
+        std::minmax_element(points, points + count, [](QPointF const& a, QPointF const& b) { return a.y() < b.y(); });
+    return low->y() > top_ && high->y() < bottom_;
   }
 
   void draw(PointRuns const& rings, int first, int last, Qt::FillRule rule) {

@@ -651,6 +651,32 @@ def multiplied_entities(folder):
     return one_map(layer("data.kml", marker()), layer("data.gpx", marker()))
 
 
+def packed_places(folder):
+    """A KMZ that is a three hundredth of the text in it."""
+    head, end = '<kml xmlns="http://www.opengis.net/kml/2.2"><Document>', "</Document></kml>"
+    places = "<Placemark><name>" + "a" * 1000 + "</name><Point><coordinates>1,1</coordinates></Point></Placemark>"
+    with zipfile.ZipFile(folder / "data.kmz", "w", zipfile.ZIP_DEFLATED, compresslevel=9) as archive:
+        archive.writestr("doc.kml", head + places * 55000 + end)
+    return layer("data.kmz", marker())
+
+
+@case("places and areas in archives that are a thousandth of what they hold", "far more than an archive")
+def swollen_archives(folder):
+    with zipfile.ZipFile(folder / "data.zip", "w", zipfile.ZIP_DEFLATED, compresslevel=9) as archive:
+        archive.writestr("data.shp", bytes(200000000))
+    return one_map(packed_places(folder), layer("data.zip", fill()))
+
+
+@case("an archive whose directory says that nearly nothing is in it", "can't be opened")
+def understated_archive(folder):
+    places = packed_places(folder)
+    packed = bytearray((folder / "data.kmz").read_bytes())
+    directory = packed.rindex(b"PK\x01\x02")
+    packed[directory + 24:directory + 28] = struct.pack("<I", 1000)
+    (folder / "data.kmz").write_bytes(packed)
+    return one_map(places)
+
+
 @case("a table of thousands of columns")
 def widest_table(folder):
     (folder / "data.csv").write_text("x,y," + ",".join(f"c{i}" for i in range(8000)) + "\n" + "1,1\n" * 2000)

@@ -10,6 +10,7 @@
 #include <QUrl>
 
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 #include <functional>
 #include <memory>
@@ -17,6 +18,12 @@
 namespace SysCarto {
 
 namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(DataSource)
+};
+
+QLatin1String const logSuffix("-wal"), indexSuffix("-shm");
 
 // Calls for each row of an answer with its first column, until that is true. What can't be asked has no rows.
 bool anyRow(sqlite3* database, char const* query, std::function<bool(QByteArray const&)> const& isFound) {
@@ -54,23 +61,56 @@ bool holdsWayOut(sqlite3* database) {
          anyRow(database, "SELECT definition_12_063 FROM gpkg_spatial_ref_sys", namesGridByPath);
 }
 
+// Whether a program holds a lock on the index of a log, as each does that has the database open. To open the file and
+// ask would not do: closing it again ends the locks that this process has on it.
+bool isInUse(QString const& index) {
+  struct stat status;
+  QFile locks(QStringLiteral("/proc/locks"));
+  if (::stat(QFile::encodeName(index).constData(), &status) != 0) return false;
+  if (!locks.open(QIODevice::ReadOnly)) return true;
+  QByteArray const inode = ':' + QByteArray::number(static_cast<qulonglong>(status.st_ino)) + ' ';
+  return locks.readAll().contains(inode);
+}
+
+// Whoever opens a database with a log or a journal that nobody has in use any more has it written into the database, or
+// taken back from it: what a stranger has laid beside a file would change it, and a journal may name a further file
+// that is then removed. A journal that is done with begins with a zero.
+QString problemOfJournals(QString const& path) {
+  QString const journal = path + QLatin1String("-journal");
+  for (QString const& name : {journal, path + logSuffix, path + indexSuffix}) {
+    QFileInfo const beside(name);
+    if (beside.isSymLink() || (beside.exists() && !beside.isFile()))
+      return Texts::tr("%1 beside it is no file of its own; remove that").arg(beside.fileName());
+  }
+  QFile begun(journal);
+  char first = 0;
+  bool const isBegun = begun.open(QIODevice::ReadOnly) && begun.read(&first, 1) == 1 && first != 0;
+  if (isBegun || (hasLog(path) && !isInUse(path + indexSuffix)))
+    return Texts::tr(
+               "a change of it was not brought to its end, and lies beside it in %1; open it once in the program "
+               "that changed it, and close it there")
+        .arg(QFileInfo(isBegun ? journal : path + logSuffix).fileName());
+  return QString();
+}
+
 }  // namespace
 
 // Immutable, so that nothing is written beside it; what another program has yet to write into it comes with its log.
 QString problemOfDatabase(QString const& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly) || file.read(6) != "SQLite") return QString();
-  bool const isBeingWritten = QFileInfo(path + QLatin1String("-wal")).size() > 0;
+  if (QString const problem = problemOfJournals(path); !problem.isEmpty()) return problem;
   QByteArray const address = "file:" + QUrl::toPercentEncoding(QFileInfo(path).absoluteFilePath(), "/") +
-                             (isBeingWritten ? QByteArray() : QByteArrayLiteral("?immutable=1"));
+                             (hasLog(path) ? QByteArrayLiteral("?readonly_shm=1") : QByteArrayLiteral("?immutable=1"));
   DatabaseBounds const bounds(path);
   sqlite3* opened = nullptr;
   int const result = sqlite3_open_v2(address.constData(), &opened, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
   std::unique_ptr<sqlite3, int (*)(sqlite3*)> const database(opened, sqlite3_close);
   if (result != SQLITE_OK || !holdsWayOut(opened)) return QString();
-  return QCoreApplication::translate("DataSource",
-                                     "it holds a table or a coordinate system that leads to another file, which is not "
-                                     "opened; remove it");
+  return Texts::tr(
+      "it holds a table or a coordinate system that leads to another file, which is not opened; remove it");
 }
+
+bool hasLog(QString const& path) { return QFileInfo(path + logSuffix).size() > 0; }
 
 }  // namespace SysCarto

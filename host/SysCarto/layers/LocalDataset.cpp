@@ -93,13 +93,10 @@ QString cannotOpen(QString const& path, QString const& reason) {
   return Texts::tr("The file “%1” can't be opened: %2.").arg(path, reason);
 }
 
-// Immutable, SQLite takes no lock and makes no journal, so a read-only folder will do. What another program has
-// written to a write-ahead log would go unseen, and what it is about to take back from a journal would be seen, so
-// where there is one the database is opened as usual.
+// Immutable, SQLite takes no lock and makes no journal, so a read-only folder will do. What another program has written
+// to a log would go unseen, so where there is one the database is opened as usual.
 char const* const* optionsFor(QString const& path) {
-  bool const isBeingWritten =
-      QFileInfo(path + QLatin1String("-wal")).size() > 0 || QFileInfo::exists(path + QLatin1String("-journal"));
-  if (hasSuffix(path, "gpkg") && !isBeingWritten) return immutableOptions;
+  if (hasSuffix(path, "gpkg") && !hasLog(path)) return immutableOptions;
   return hasSuffix(path, "csv") || hasSuffix(path, "tsv") ? tableOptions : nullptr;
 }
 
@@ -124,6 +121,24 @@ QString refusalOfHead(QString const& path) {
   if (isTab && (words.contains("create view") || words.contains("\"\\isseamless\"")))
     return Texts::tr("it only refers to other tables; name one of those");
   return QString();
+}
+
+// Entries may share their bytes, and each says in the archive's directory how long it is: the drivers read no more.
+double unpackedSizeOf(QString const& archive) {
+  std::unique_ptr<VSIDIR, decltype(&VSICloseDir)> const entries(
+      VSIOpenDir(("/vsizip/{" + archive.toUtf8() + "}").constData(), -1, nullptr), VSICloseDir);
+  double bytes = 0;
+  while (VSIDIREntry const* const entry = entries ? VSIGetNextDirEntry(entries.get()) : nullptr)
+    bytes += static_cast<double>(entry->nSize);
+  return bytes;
+}
+
+QString refusalOfArchive(QString const& path) {
+  bool const isWhole = hasSuffix(path, "kmz");
+  if (!isWhole && !hasSuffix(path, "zip") && !hasSuffix(path, "shz")) return QString();
+  auto const reading = isWhole ? SourceBounds::Reading::Whole : SourceBounds::Reading::ByFeature;
+  if (SourceBounds::allowsUnpacked(unpackedSizeOf(path), QFileInfo(path).size(), reading)) return QString();
+  return Texts::tr("it holds far more than an archive of its size should; unpack it, and name the file in it");
 }
 
 // What would have other files opened as soon as a driver looks at it. `name` is empty where there is nothing to open.
@@ -188,7 +203,8 @@ DatasetPointer openLocalDataset(QString const& path, QString& error) {
   QString const absolute = QFileInfo(path).absoluteFilePath();
   bool const isArchive = hasSuffix(path, "zip");
   QByteArray const name = isArchive ? folderWithShapes(absolute) : absolute.toUtf8();
-  reason = refusalOfContent(absolute, name);
+  reason = refusalOfArchive(absolute);
+  if (reason.isEmpty()) reason = refusalOfContent(absolute, name);
   if (!reason.isEmpty()) {
     error = cannotOpen(path, reason);
     return nullptr;

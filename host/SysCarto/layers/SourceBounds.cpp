@@ -22,6 +22,25 @@ struct Texts {
 constexpr std::size_t freeFeatures = 200000;
 constexpr std::size_t freeBytes = 64000000;
 constexpr std::size_t bytesPerByte = 32;
+constexpr double freeBytesParsed = 8e6;  // of what a driver takes many times as much memory for
+
+// What a value takes beyond the room that each field of a feature has.
+std::size_t bytesOf(OGRField const& value, OGRFieldType type) {
+  auto const of = [](auto const& list) { return static_cast<std::size_t>(list.nCount) * sizeof(*list.paList); };
+  switch (type) {
+    case OFTString: return std::strlen(value.String);
+    case OFTBinary: return static_cast<std::size_t>(value.Binary.nCount);
+    case OFTIntegerList: return of(value.IntegerList);
+    case OFTInteger64List: return of(value.Integer64List);
+    case OFTRealList: return of(value.RealList);
+    case OFTStringList: {
+      std::size_t bytes = of(value.StringList);
+      for (int i = 0; i < value.StringList.nCount; ++i) bytes += std::strlen(value.StringList.paList[i]);
+      return bytes;
+    }
+    default: return 0;  // numbers and times; no driver makes wide strings any more
+  }
+}
 
 }  // namespace
 
@@ -29,8 +48,8 @@ std::size_t bytesOf(OGRFeature const& feature) {
   OGRGeometry const* const geometry = feature.GetGeometryRef();
   std::size_t bytes = geometry ? geometry->WkbSize() : 0;
   for (int i = 0; i < feature.GetFieldCount(); ++i)
-    if (feature.GetFieldDefnRef(i)->GetType() == OFTString && feature.IsFieldSetAndNotNull(i))
-      bytes += std::strlen(feature.GetRawFieldRef(i)->String);
+    if (feature.IsFieldSetAndNotNull(i))
+      bytes += bytesOf(*feature.GetRawFieldRef(i), feature.GetFieldDefnRef(i)->GetType());
   return bytes;
 }
 
@@ -47,6 +66,11 @@ qint64 dataSizeOf(QString const& file) {
 
 bool SourceBounds::allows(double features, qint64 fileSize) {
   return features <= static_cast<double>(freeFeatures) + static_cast<double>(fileSize);
+}
+
+bool SourceBounds::allowsUnpacked(double bytes, qint64 fileSize, Reading reading) {
+  double const free = reading == Reading::Whole ? freeBytesParsed : static_cast<double>(freeBytes);
+  return bytes <= free + static_cast<double>(bytesPerByte) * static_cast<double>(fileSize);
 }
 
 SourceBounds::SourceBounds(QString const& file) {

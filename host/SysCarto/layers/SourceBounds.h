@@ -11,7 +11,7 @@ class OGRFeature;
 
 namespace SysCarto {
 
-/// About how much of memory a feature takes: its geometry and its texts.
+/// About how much of memory a feature takes: its geometry and its values.
 std::size_t bytesOf(OGRFeature const& feature);
 
 /// How large a file of data is with those of its name beside it, in which some formats have their features.
@@ -23,6 +23,11 @@ class SourceBounds {
 public:
   /// Whether a file of so many bytes may give so many features.
   static bool allows(double features, qint64 fileSize);
+
+  /// Whether an archive of so many bytes may hold so many, of which a driver reads one feature after the other or has
+  /// all of them in memory at once.
+  enum class Reading { ByFeature, Whole };
+  static bool allowsUnpacked(double bytes, qint64 fileSize, Reading reading);
 
   /// No file, no size.
   explicit SourceBounds(QString const& file);

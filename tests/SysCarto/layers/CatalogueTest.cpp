@@ -36,6 +36,17 @@ void writePlaces(QString const& path, char const* driverName, char const* layerN
   GDALClose(dataset);
 }
 
+// An archive that is a thousandth of what it holds.
+QByteArray packedZeros(char const* entry, int count) {
+  QTemporaryDir const folder;
+  QString const path = folder.filePath("a.zip");
+  VSILFILE* const file = VSIFOpenL(("/vsizip/" + path.toUtf8() + '/' + entry).constData(), "wb");
+  QByteArray const zeros(count, '\0');
+  VSIFWriteL(zeros.constData(), 1, static_cast<size_t>(zeros.size()), file);
+  VSIFCloseL(file);
+  return contentOf(path);
+}
+
 // Of the first vertex of each feature.
 QVector<QPointF> vertices(FeatureStore const& store) {
   QVector<QPointF> vertices;
@@ -157,6 +168,8 @@ private slots:
     row("an archive without a Shapefile", "a.zip", QByteArray::fromHex("504b0506") + QByteArray(18, '\0'),
         "no Shapefile");
     row("an archive that is none", "a.zip", "Hello", "no Shapefile");
+    row("places that are packed too well", "a.kmz", packedZeros("doc.kml", 20000000), "far more than an archive");
+    row("areas that are packed too well", "a.zip", packedZeros("a.shp", 80000000), "far more than an archive");
     row("text in UTF-16", "a.csv", QByteArray("\xff\xfex\0,\0y\0", 8), "UTF-16");
     row("nothing", "a.csv", "", "is empty");
     QByteArray const inserts = "0\nINSERT\n2\nB\n70\n1000\n71\n1000\n";
@@ -176,6 +189,30 @@ private slots:
     DataFile const file = describeFile(written(folder, name, content));
     QVERIFY2(file.error.contains(says) && file.error.contains(name), qPrintable(file.error));
     QVERIFY(file.layers.empty());
+  }
+
+  // SQLite would work what lies beside a database into it, or wait for ever for a pipe to say something.
+  void whatLiesBesideADatabaseIsLeftThere_data() {
+    Rows<QString, QByteArray, QString> row;
+    row("a journal of a change that was interrupted", "a.gpkg-journal", "x", "a.gpkg-journal; open it once");
+    row("a journal that is done with", "a.gpkg-journal", QByteArray(512, '\0'), "");
+    row("a log of which no program knows", "a.gpkg-wal", "x", "a.gpkg-wal; open it once");
+    row("a journal that is a link", "a.gpkg-journal", "link", "no file of its own");
+  }
+  void whatLiesBesideADatabaseIsLeftThere() {
+    auto const [name, content, says] = fetched<QString, QByteArray, QString>();
+    QTemporaryDir const folder;
+    QString const path = folder.filePath("a.gpkg");
+    writePlaces(path, "GPKG", "a");
+    if (content == "link")
+      QVERIFY(QFile::link(written(folder, "other", "x"), folder.filePath(name)));
+    else
+      written(folder, name, content);
+    QByteArray const before = contentOf(path);
+    QString const error = describeFile(path).error;
+    QVERIFY2(says.isEmpty() ? error.isEmpty() : error.contains(says), qPrintable(error));
+    QCOMPARE(contentOf(path), before);
+    if (content != "link") QCOMPARE(contentOf(folder.filePath(name)), content);
   }
 
   void tablesAreJoined() {

@@ -123,6 +123,7 @@ DatasetPointer openDataset(QString const& path, QString const& table) {
   for (QString const& name : ownNamesOf(path)) siblings.AddString(name.toUtf8().constData());
   if (hasSuffix(path, {QStringLiteral("tif"), QStringLiteral("tiff")}))
     options.SetNameValue("GEOREF_SOURCES", "INTERNAL,WORLDFILE");
+  if (hasSuffix(path, {QStringLiteral("gpkg")}) && !hasLog(path)) options.SetNameValue("IMMUTABLE", "YES");
   if (!table.isEmpty()) options.SetNameValue("TABLE", table.toUtf8().constData());
   QByteArray const name = QFileInfo(path).absoluteFilePath().toUtf8();
   DatabaseBounds const bounds(path, DatabaseBounds::Budget::OfAll);
