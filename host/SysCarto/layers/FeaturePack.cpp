@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <limits>
 
 namespace SysCarto {
 
@@ -12,6 +13,8 @@ constexpr double quantaPerCell = 1024;  // strokes with short edges turn with le
 constexpr double bucketCells = 1024;
 constexpr double sizeStep = 4;  // features of similar size share buckets, so that their boxes stay small
 constexpr double maxQuantum = 1e18;
+constexpr int freeLabels = 20000;  // more than any page can show
+constexpr double none = -std::numeric_limits<double>::infinity();
 
 using Bytes = std::vector<unsigned char>;
 
@@ -94,7 +97,8 @@ bool isPoint(FeatureStore const& store, Feature const& feature) {
 
 }  // namespace
 
-FeaturePack::FeaturePack(Box const& area, double cell) : area_(area), cell_(cell), quantum_(cell / quantaPerCell) {}
+FeaturePack::FeaturePack(Box const& area, double cell, LabelChoice const& choice)
+    : area_(area), cell_(cell), quantum_(cell / quantaPerCell), choice_(choice) {}
 
 // The middle of a quantum lies in the same cell as all that is rounded to it.
 FeaturePack::Vertex FeaturePack::quantised(double x, double y) const {
@@ -156,7 +160,8 @@ void FeaturePack::write(FeatureStore const& from, int number, int symbolClass, B
     }
   }
   for (int i = 0; i < from.valuesPerFeature; ++i) putDouble(record_, from.value(number, i));
-  if (from.keepsLabels) {
+  if (from.keepsLabels) putNumber(record_, keepsLabel(from, index) ? 1 : 0);
+  if (from.keepsLabels && record_.back() == 1) {
     putText(record_, from.labels[index]);
     putText(record_, from.keys[index]);
     putDouble(record_, from.priorities[index]);
@@ -166,7 +171,29 @@ void FeaturePack::write(FeatureStore const& from, int number, int symbolClass, B
   bucket.records.insert(bucket.records.end(), record_.begin(), record_.end());
 }
 
+bool FeaturePack::keepsLabel(FeatureStore const& from, size_t feature) {
+  if (choice_.side <= 0 || choice_.always.contains(from.keys[feature])) return true;
+  bool const isFree = labels_ < freeLabels;
+  if (from.labels[feature].isEmpty()) return isFree;
+  Box const& box = from.features[feature].box;
+  auto const square = [this](double low, double high) {
+    return static_cast<quint32>(
+        static_cast<qint64>(std::clamp(std::floor((low + high) / 2 / choice_.side), -maxQuantum, maxQuantum)));
+  };
+  quint64 const key = (quint64(square(box.xmin, box.xmax)) << 32) | square(box.ymin, box.ymax);
+  auto known = named_.find(key);
+  if (known == named_.end()) known = named_.insert(key, {none, none});
+  auto& [least, most] = *known;
+  double const priority = std::max(from.priorities[feature], std::numeric_limits<double>::lowest());
+  bool const isChosen = priority > least;
+  if (isChosen) least = priority;
+  if (least > most) std::swap(least, most);
+  labels_ += isChosen || isFree;
+  return isChosen || isFree;
+}
+
 void FeaturePack::finish() {
+  named_ = {};
   bytes_ = sizeof *this;
   for (auto& [key, bucket] : buckets_) {
     bucket.records.shrink_to_fit();
@@ -174,9 +201,8 @@ void FeaturePack::finish() {
   }
 }
 
-std::vector<FeaturePack::Place> FeaturePack::query(Box const& rectangle) const {
-  std::vector<Place> found;
-  if (rectangle.isEmpty()) return found;
+void FeaturePack::visit(Box const& rectangle, std::function<void(Place const&)> const& take) const {
+  if (rectangle.isEmpty()) return;
   Box const sought = rectangle.grown(quantum_);
   for (auto const& [key, bucket] : buckets_) {
     if (!bucket.box.meets(sought)) continue;
@@ -197,9 +223,14 @@ std::vector<FeaturePack::Place> FeaturePack::query(Box const& rectangle) const {
         Vertex const high = isSinglePoint ? low : vertexAfter(look, low);
         isFound = sought.meets({coordinate(low[0]), coordinate(low[1]), coordinate(high[0]), coordinate(high[1])});
       }
-      if (isFound) found.push_back({id, record.at(), &bucket.origin});
+      if (isFound) take({id, record.at(), &bucket.origin});
     }
   }
+}
+
+std::vector<FeaturePack::Place> FeaturePack::query(Box const& rectangle) const {
+  std::vector<Place> found;
+  visit(rectangle, [&](Place const& place) { found.push_back(place); });
   std::sort(found.begin(), found.end(), [](Place const& a, Place const& b) { return a.id < b.id; });
   return found;
 }
@@ -233,8 +264,8 @@ void FeaturePack::unpack(Place const* begin, Place const* end, FeatureStore& to)
     }
     for (int i = 0; i < form_.valuesPerFeature; ++i) to.addValue(cursor.real());
     QString label, key;
-    double priority = 0;
-    if (form_.keepsLabels) {
+    double priority = none;
+    if (form_.keepsLabels && cursor.number() == 1) {
       label = cursor.text();
       key = cursor.text();
       priority = cursor.real();

@@ -5,11 +5,22 @@
 
 #include <SysCarto/Export.h>
 
+#include <QHash>
+#include <QSet>
+
 #include <array>
+#include <functional>
 #include <map>
 #include <vector>
 
 namespace SysCarto {
+
+/// Which features keep their labels where these are many more than a page can name: of those in one square of a grid
+/// the most important ones.
+struct LabelChoice {
+  double side = 0;       ///< of a square, in map units; 0 to keep all labels
+  QSet<QString> always;  ///< keys of features that keep theirs in any case
+};
 
 /// The features of a part of a map as a resolution can show them, in few bytes: coordinates are whole numbers of a
 /// small fraction of a thinning cell, and differences of these. What draws or labels unpacks some at a time into a
@@ -17,7 +28,7 @@ namespace SysCarto {
 class SYSCARTO_EXPORT FeaturePack {
 public:
   /// For features that meet `area` (map units). The side of a cell must be positive.
-  FeaturePack(Box const& area, double cell);
+  FeaturePack(Box const& area, double cell, LabelChoice const& choice = {});
 
   Box const& area() const { return area_; }
   double cell() const { return cell_; }
@@ -42,6 +53,9 @@ public:
     std::array<qint64, 2> const* origin;
   };
 
+  /// Calls `take` with where each feature lies whose box meets the rectangle, in no order.
+  void visit(Box const& rectangle, std::function<void(Place const&)> const& take) const;
+
   /// Where the features lie whose boxes meet the rectangle, by their numbers in the source, which is its order.
   std::vector<Place> query(Box const& rectangle) const;
 
@@ -59,6 +73,7 @@ private:
   Bucket& bucketFor(Box const& box);
   Vertex quantised(double x, double y) const;
   double coordinate(qint64 quantum) const { return (static_cast<double>(quantum) + 0.5) * quantum_; }
+  bool keepsLabel(FeatureStore const& from, size_t feature);
   void write(FeatureStore const& from, int feature, int symbolClass, Bucket& bucket);
 
   Box const area_;
@@ -68,6 +83,10 @@ private:
   std::vector<unsigned char> record_;                // that is written
   std::size_t bytes_ = 0;
   int size_ = 0;
+
+  LabelChoice const choice_;
+  QHash<quint64, std::array<double, 2>> named_;  // the highest priorities in each square
+  int labels_ = 0;
 };
 
 }  // namespace SysCarto

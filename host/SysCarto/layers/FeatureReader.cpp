@@ -5,7 +5,6 @@
 #include "host/SysCarto/layers/DerivedLayer.h"
 #include "host/SysCarto/layers/FeatureEvaluator.h"
 #include "host/SysCarto/layers/FeatureIntake.h"
-#include "host/SysCarto/layers/FeaturePack.h"
 #include "host/SysCarto/layers/LabelReader.h"
 #include "host/SysCarto/layers/Renderer.h"
 #include "host/SysCarto/layers/SourceBounds.h"
@@ -246,7 +245,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   bool const isMarked = renderer.settings().kind == RendererSettings::Kind::Proportional;
   ThinningGrid const grid(query ? query->cell : 0);
   if (query && query->cell > 0) {
-    result.pack = std::make_unique<FeaturePack>(query->area, query->cell);
+    result.pack = std::make_unique<FeaturePack>(query->area, query->cell, query->labels);
     result.pack->form().takeForm(store);
   }
   auto const keyOf = [&, &keyName = labels.key](OGRFeature const& feature) {
@@ -275,6 +274,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     auto const extent = toldExtent(layer, projector);
     result.hasWindows = extent.has_value();
     if (extent) result.extent = coveredMap(*extent, projector);
+    result.count = knownCount(layer);
   }
   if (depth == ReadDepth::Schema) return;
   bool isEmpty = true, isNowhere = false;

@@ -3,6 +3,7 @@
 #include "SourceSettings.h"
 #include "WatchedReading.h"
 
+#include "host/SysCarto/layers/FeaturePack.h"
 #include "host/SysGeometry/Box.h"
 
 #include <SysCarto/Export.h>
@@ -15,7 +16,6 @@
 
 namespace SysCarto {
 
-class FeaturePack;
 class FeatureStore;
 class Renderer;
 using SysGeometry::Box;
@@ -44,6 +44,7 @@ struct ReadFeatures {
   // Where the source has so many features that they are better read by windows, and can be.
   bool hasWindows = false;
   Box extent;  ///< that they may cover of the map
+  qint64 count = -1;
 };
 
 /// What is read of a source: the names and kinds of what it has; its features, too, but for those of a large source
@@ -61,6 +62,7 @@ struct WindowQuery {
   Box area;                 ///< of the map: those that meet it
   double cell = 0;          ///< to which they are thinned, in map units; 0 to have them as they are
   std::vector<qint64> ids;  ///< instead of an area, those with these numbers in the source
+  LabelChoice labels;       ///< of those that are thinned
 };
 
 /// Reads these alone, else as `readFeatures`; `pack` has them where they are thinned, and the store where not.

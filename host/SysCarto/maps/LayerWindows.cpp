@@ -5,7 +5,10 @@
 #include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
+#include <set>
+#include <tuple>
 
 namespace SysCarto {
 
@@ -18,6 +21,8 @@ using SysUtility::_ptr_t;
 namespace {
 
 constexpr std::ptrdiff_t unpackedAtOnce = 2048;  // features
+constexpr int mostMarks = 20000;                 // that labels keep off one by one
+constexpr double labelSquarePt = 4, markSquarePt = 2;
 constexpr double legendDpi = 300;
 constexpr double pointsPerInch = 72;
 
@@ -25,21 +30,71 @@ Box boxFrom(QRectF const& rectangle) {
   return {rectangle.left(), rectangle.top(), rectangle.right(), rectangle.bottom()};
 }
 
-// Hands on the features of a window in stores of not too many, until `visit` answers false.
+using Place = FeaturePack::Place;
+
+// Hands on features of a window in stores of not too many, until `visit` answers false.
 template <class Visit>
-void inPortions(FeaturePack const& pack, std::vector<FeaturePack::Place> const& places, FeatureStore& store,
-                Visit const& visit) {
+void inPortions(FeaturePack const& pack, std::vector<Place> const& places, FeatureStore& store, Visit const& visit) {
   auto const* const end = places.data() + places.size();
   for (auto const* begin = places.data(); begin != end;) {
     auto const* const next = begin + std::min<std::ptrdiff_t>(unpackedAtOnce, end - begin);
     store.takeForm(pack.form());
     pack.unpack(begin, next, store);
-    if (!visit()) return;
+    if (!visit(begin)) return;
     begin = next;
   }
 }
 
+// As above, in no order.
+template <class Visit>
+void inPortions(FeaturePack const& pack, Box const& area, FeatureStore& store, Visit const& visit) {
+  std::vector<Place> places;
+  bool goesOn = true;
+  auto const handOn = [&] {
+    inPortions(pack, places, store, [&](Place const* first) { return goesOn = goesOn && visit(first); });
+    places.clear();
+  };
+  pack.visit(area, [&](Place const& place) {
+    places.push_back(place);
+    if (places.size() == static_cast<size_t>(unpackedAtOnce)) handOn();
+  });
+  handOn();
+}
+
+// What labels are placed by: all that have one, and of very many others one on each square, since names keep off marks
+// that lie on one another as off one.
+std::vector<Place> placesForLabels(FeaturePack const& pack, Box const& area, double side) {
+  int count = 0;
+  pack.visit(area, [&](Place const&) { ++count; });
+  if (count <= mostMarks) return pack.query(area);
+  std::vector<Place> chosen;
+  std::set<std::tuple<int, double, double>> taken;
+  FeatureStore store;
+  inPortions(pack, area, store, [&](Place const* place) {
+    for (int i = 0; i < store.size(); ++i, ++place) {
+      auto const& feature = store.features[static_cast<size_t>(i)];
+      double const x = (feature.box.xmin + feature.box.xmax) / 2, y = (feature.box.ymin + feature.box.ymax) / 2;
+      bool const isNamed = store.keepsLabels && !store.labels[static_cast<size_t>(i)].isEmpty();
+      bool const isLarge =
+          std::max(feature.box.xmax - feature.box.xmin, feature.box.ymax - feature.box.ymin) > 4 * side;
+      if (isNamed || isLarge || taken.emplace(feature.symbolClass, std::floor(x / side), std::floor(y / side)).second)
+        chosen.push_back(*place);
+    }
+    return true;
+  });
+  std::sort(chosen.begin(), chosen.end(), [](Place const& a, Place const& b) { return a.id < b.id; });
+  return chosen;
+}
+
 }  // namespace
+
+qint64 VectorLayer::count() const { return hasWindows() ? count_ : features().size(); }
+
+LabelChoice VectorLayer::labelChoice(double unitsPerPoint) const {
+  LabelChoice choice{labelSquarePt * unitsPerPoint, {}};
+  for (PinnedLabel const& pin : labels_.pinned) choice.always << pin.key;
+  return choice;
+}
 
 Box VectorLayer::extent() const { return hasWindows() ? extent_ : features().box(); }
 
@@ -52,12 +107,12 @@ std::shared_ptr<FeatureStore const> VectorLayer::readOnly(WindowQuery const& que
 }
 
 std::shared_ptr<FeatureStore const> VectorLayer::featuresIn(Box const& area) const {
-  return hasWindows() ? readOnly({area, 0, {}}) : shared();
+  return hasWindows() ? readOnly({area, 0, {}, {}}) : shared();
 }
 
 std::shared_ptr<FeatureStore const> VectorLayer::featuresNumbered(std::vector<qint64> const& ids) const {
   if (!hasWindows()) return shared();
-  return ids.empty() ? std::make_shared<FeatureStore>() : readOnly({Box(), 0, ids});
+  return ids.empty() ? std::make_shared<FeatureStore>() : readOnly({Box(), 0, ids, {}});
 }
 
 std::shared_ptr<FeaturePack const> VectorLayer::window(DisplayTransformation const& transformation,
@@ -69,7 +124,8 @@ std::shared_ptr<FeaturePack const> VectorLayer::window(DisplayTransformation con
   ReadProgress progress;
   if (cancel) progress = [&](qint64, qint64) { return !cancel->IsCanced(); };
   return windows_.window(area, unitsPerPixel, [&](Box const& wanted, double cell) {
-    ReadFeatures read = readWindow(source_, mapSystem_, *renderer_, labels_.read(), {wanted, cell, {}}, progress);
+    WindowQuery const query{wanted, cell, {}, labelChoice(transformation.PixelsPerPoint() * unitsPerPixel)};
+    ReadFeatures read = readWindow(source_, mapSystem_, *renderer_, labels_.read(), query, progress);
     if (!read.error.isEmpty() && !read.wasStopped) problem_ = read.error;
     return std::move(read.pack);
   });
@@ -79,10 +135,10 @@ std::shared_ptr<FeatureStore const> VectorLayer::shownBy(DisplayTransformation c
                                                          _ptr_t<TrackerCancel> const& cancel) const {
   if (!hasWindows()) return shared();
   Box const shown = boxFrom(DisplayTransformationHost::coveredWorld(transformation));
-  auto const pack =
-      window(transformation, 1 / DisplayTransformationHost::pixelsPerUnit(transformation), shown, 0, cancel);
+  double const unitsPerPixel = 1 / DisplayTransformationHost::pixelsPerUnit(transformation);
+  auto const pack = window(transformation, unitsPerPixel, shown, 0, cancel);
   if (!pack) return nullptr;
-  auto const places = pack->query(shown);
+  auto const places = placesForLabels(*pack, shown, markSquarePt * transformation.PixelsPerPoint() * unitsPerPixel);
   auto store = std::make_shared<FeatureStore>();
   store->takeForm(pack->form());
   pack->unpack(places.data(), places.data() + places.size(), *store);
@@ -103,11 +159,11 @@ void VectorLayer::drawWindow(DrawTarget& target, DisplayTransformation const& tr
   store.takeForm(pack->form());
   FeatureLooks const looks(*renderer_, store, scale);
   FeaturePasses const passes(*renderer_, looks, target);
-  std::vector<FeaturePack::Place> places = pack->query(area);
-  auto const isLeftOut = [&](FeaturePack::Place const& place) { return isHidden(place.id); };
+  std::vector<Place> places = pack->query(area);
+  auto const isLeftOut = [&](Place const& place) { return isHidden(place.id); };
   places.erase(std::remove_if(places.begin(), places.end(), isLeftOut), places.end());
   for (FeaturePasses::Pass const& pass : passes.passes())
-    inPortions(*pack, places, store, [&] {
+    inPortions(*pack, places, store, [&](Place const*) {
       ThinnedFeatures thinned(store);
       thinned.setResolution(unitsPerPixel);
       for (int feature = 0; feature < store.size(); ++feature) {
@@ -136,8 +192,7 @@ QVector<bool> VectorLayer::findClassesWithin(DisplayTransformation const& transf
   FeatureStore store;
   store.takeForm(pack->form());
   FeatureLooks const looks(*renderer_, store, scale);
-  auto const places = pack->query(covered);
-  inPortions(*pack, places, store, [&] {
+  inPortions(*pack, covered, store, [&](Place const*) {
     store.finish();
     auto const here = store.classesWithin(shown, turn, looks.drawing(), count);
     std::transform(found.begin(), found.end(), here.begin(), found.begin(), std::logical_or<>());

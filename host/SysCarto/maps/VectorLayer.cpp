@@ -91,6 +91,7 @@ QString VectorLayer::read(QStringList& warnings, ReadProgress const& progress, R
   warnings += read.warnings;
   hasWindows_ = read.hasWindows;
   extent_ = read.extent;
+  count_ = read.count;
   bool const isLeft = depth == ReadDepth::Schema || (depth == ReadDepth::Features && hasWindows_);
   isUnread_ = isLeft && read.error.isEmpty();
   return read.error;
@@ -112,7 +113,11 @@ void VectorLayer::setRenderer(std::unique_ptr<Renderer> renderer) {
   LayerHost::changeLook(*this);
 }
 
+// A label that is put somewhere is read whatever others there are.
 void VectorLayer::setLabelSettings(LabelSettings const& settings) {
+  auto const isSame = [](PinnedLabel const& a, PinnedLabel const& b) { return a.key == b.key; };
+  if (!std::equal(settings.pinned.begin(), settings.pinned.end(), labels_.pinned.begin(), labels_.pinned.end(), isSame))
+    windows_.clear();
   labels_ = settings;
   LayerHost::changeLook(*this);
 }

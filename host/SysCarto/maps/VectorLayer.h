@@ -66,6 +66,9 @@ public:
   /// Whether features are read by windows.
   bool hasWindows() const { return isUnread_ && hasWindows_; }
 
+  /// How many features there are; of a layer that has windows those before its filter.
+  qint64 count() const;
+
   /// What the features cover of the map; of a layer that has windows a little more, as its file tells.
   Box extent() const;
 
@@ -111,6 +114,7 @@ public:
 private:
   QString read(QStringList& warnings, ReadProgress const& progress, ReadDepth depth) const;
   ThinnedFeatures& thinned() const;
+  LabelChoice labelChoice(double unitsPerPoint) const;
   std::shared_ptr<FeatureStore const> shared() const;
   std::shared_ptr<FeatureStore const> readOnly(WindowQuery const& query) const;
   std::shared_ptr<FeaturePack const> window(SysDisplay::DisplayTransformation const& transformation,
@@ -146,7 +150,8 @@ private:
   mutable std::unique_ptr<ThinnedFeatures> thinned_;
   mutable bool isUnread_ = false;  // by the schema alone
   mutable bool hasWindows_ = false;
-  mutable Box extent_;  // where it has windows
+  mutable Box extent_;  // and the count: where it has windows
+  mutable qint64 count_ = 0;
   mutable FeatureWindows windows_;
 
   // Which classes were in sight when last asked, for the look of that time: a legend asks at each redraw.

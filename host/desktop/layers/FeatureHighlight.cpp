@@ -86,10 +86,12 @@ void FeatureHighlight::clear() {
 }
 
 // A layer that was read anew has its features in other places.
-std::vector<int> const& FeatureHighlight::numbers() const {
+FeatureHighlight::Found const& FeatureHighlight::found() const {
   quint64 const look = SysCarto::LayerHost::look(*marked_.layer);
-  if (!found_ || found_->look != look) found_ = {look, SysCarto::featuresOf(marked_.layer->features(), marked_.ids)};
-  return found_->numbers;
+  if (found_ && found_->look == look) return *found_;
+  auto const store = marked_.layer->featuresNumbered(marked_.ids);
+  found_ = {look, store, SysCarto::featuresOf(*store, marked_.ids)};
+  return *found_;
 }
 
 void FeatureHighlight::paint(QPainter& painter, SysCarto::Map const& map, QRectF const& placePx) const {
@@ -99,12 +101,12 @@ void FeatureHighlight::paint(QPainter& painter, SysCarto::Map const& map, QRectF
   QRectF const shownPx = placePx & QRectF(painter.viewport());
   QRectF const world = toPx.inverted().mapRect(shownPx);
   Box const shown{world.left(), world.top(), world.right(), world.bottom()};
-  SysCarto::FeatureStore const& store = marked_.layer->features();
+  SysCarto::FeatureStore const& store = *found().store;
   Shapes shapes;
   shapes.areas.setFillRule(Qt::OddEvenFill);
   shapes.points.setFillRule(Qt::WindingFill);
   int left = mostFeatures;
-  for (int const number : numbers()) {
+  for (int const number : found().numbers) {
     SysCarto::Feature const& feature = store.features[static_cast<size_t>(number)];
     if (!feature.box.meets(shown)) continue;
     if (--left < 0) break;
@@ -126,7 +128,7 @@ void FeatureHighlight::paint(QPainter& painter, SysCarto::Map const& map, QRectF
 
 Box FeatureHighlight::boxOf(SysCarto::VectorLayer const& layer, std::vector<qint64> const& ids) {
   Box box;
-  for (int const number : SysCarto::featuresOf(layer.features(), ids))
-    box.add(layer.features().features[static_cast<size_t>(number)].box);
+  auto const store = layer.featuresNumbered(ids);
+  for (int const number : SysCarto::featuresOf(*store, ids)) box.add(store->features[static_cast<size_t>(number)].box);
   return box;
 }

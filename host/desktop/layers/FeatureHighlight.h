@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -47,16 +48,16 @@ signals:
   void changed();
 
 private:
-  std::vector<int> const& numbers() const;
-
   Marked marked_;
   int flashes_ = 0;  // that are still to come
   QTimer flashing_;
 
-  // In the store of the layer as it looked then.
+  // Of the layer as it looked then.
   struct Found {
     quint64 look;
+    std::shared_ptr<SysCarto::FeatureStore const> store;
     std::vector<int> numbers;
   };
+  Found const& found() const;
   mutable std::optional<Found> found_;
 };

@@ -20,8 +20,8 @@ constexpr int mostInLabel = 16;  // bands
 constexpr int significantDigits = 7;
 
 // The label where the layer has labels, else a name, else the first text that there is.
-QString labelOf(SysCarto::VectorLayer const& layer, int number, Identified::Feature const& feature) {
-  auto const& labels = layer.features().labels;
+QString labelOf(SysCarto::FeatureStore const& store, int number, Identified::Feature const& feature) {
+  auto const& labels = store.labels;
   if (static_cast<size_t>(number) < labels.size() && !labels[static_cast<size_t>(number)].isEmpty())
     return labels[static_cast<size_t>(number)];
   QString first;
@@ -35,14 +35,15 @@ QString labelOf(SysCarto::VectorLayer const& layer, int number, Identified::Feat
 
 void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place, double reach, OpenTables& tables,
                 Identified& found) {
-  auto numbers = SysCarto::featuresAt(layer->features(), place.x(), place.y(), reach);
+  auto const store = layer->featuresIn(SysCarto::Box{place.x(), place.y(), place.x(), place.y()}.grown(reach));
+  auto numbers = SysCarto::featuresAt(*store, place.x(), place.y(), reach);
   if (numbers.empty()) return;
   if (numbers.size() > mostOfALayer) {
     found.isAll = false;
     numbers.resize(mostOfALayer);
   }
   std::vector<qint64> ids;
-  for (int const number : numbers) ids.push_back(layer->features().ids[static_cast<size_t>(number)]);
+  for (int const number : numbers) ids.push_back(store->ids[static_cast<size_t>(number)]);
   SysCarto::FeatureTable const* const table = tables.of(layer);
   auto const rows = table ? table->rows(ids) : QHash<qint64, SysCarto::TableRow>();
   for (size_t at = 0; at < ids.size(); ++at) {
@@ -50,7 +51,7 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
     SysCarto::TableRow const row = rows.value(feature.id);
     for (int i = 0; i < row.size(); ++i)
       feature.fields << qMakePair(table->fields()[static_cast<size_t>(i)].name, row[i]);
-    feature.label = labelOf(*layer, numbers[at], feature);
+    feature.label = labelOf(*store, numbers[at], feature);
     found.features << feature;
   }
 }

@@ -48,7 +48,7 @@ constexpr double globeMargin = 0.005;
 constexpr double leastMetres = 2000;  // that a map shows, of a single place
 
 Box boxOf(VectorLayer const& layer, bool hasOutliers) {
-  if (!hasOutliers) return layer.features().box();
+  if (!hasOutliers) return layer.extent();
   BoxSample boxes;
   for (SysCarto::Feature const& feature : layer.features().features) boxes.add(feature.box);
   return Bulk::of(boxes).box;

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 using SysCarto::GeometryKind;
 using Subject = Theme::Subject;
@@ -48,10 +49,13 @@ DrawingOrder DrawingOrder::of(SysCarto::Layer const& layer, QString const& mapSy
   GeometryKind const kind = kindDrawn(vector->renderer());
   auto const system = SysCarto::makeCoordinateSystem(mapSystem);
   double largest = 0;
-  if (kind == GeometryKind::Areas)
+  if (vector->hasWindows())  // of very many none is larger than its share by much
+    largest = squareKm(vector->extent(), system.get()) / static_cast<double>(std::max<qint64>(1, vector->count()));
+  else if (kind == GeometryKind::Areas)
     for (SysCarto::Feature const& feature : vector->features().features)
       largest = std::max(largest, squareKm(feature.box, system.get()));
-  return of(kind, Theme::of(layer.GetName(), kind), vector->features().size(), largest);
+  return of(kind, Theme::of(layer.GetName(), kind),
+            static_cast<int>(std::min<qint64>(vector->count(), std::numeric_limits<int>::max())), largest);
 }
 
 double squareKm(double area, double y, OGRSpatialReference const* system) {

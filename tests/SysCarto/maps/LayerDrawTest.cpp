@@ -69,13 +69,9 @@ private slots:
     row("not projected", "countries", "", {8, 47}, 20, 12);
     row("in degrees on both sides of the antimeridian", "countries", "+proj=longlat +lon_0=180", {179, 66}, 30, 0);
     row("across the antimeridian", "countries", "+proj=laea +lat_0=-17 +lon_0=179", {0, 0}, 2e6, 0);
-    row("at the antimeridian where the map is cut", "countries", "EPSG:3857", {-1.99e7, 9.8e6}, 2e6, 0);
-    row("at the cut of another map", "countries", "+proj=eqearth +lon_0=150", {-1.6e7, 0}, 4e6, 0);
     row("around the North Pole", "countries", "+proj=stere +lat_0=90", {0, 0}, 3e6, 10);
     row("at the South Pole", "countries", "+proj=stere +lat_0=-90", {1e5, 2e5}, 1e5, 0);
     row("at the limb of a globe", "countries", "+proj=ortho +lat_0=40 +lon_0=10", {6.2e6, 1e6}, 2e6, 0);
-    row("beyond what a map shows", "countries", "+proj=ortho +lat_0=40 +lon_0=10", {2e7, 0}, 2e6, 0);
-    row("all", "countries", "EPSG:8857", {0, 0}, 3.6e7, 0);
     row("markers that reach into it", "cities", "+proj=laea +lat_0=47 +lon_0=8", {0, 0}, 1.5e6, 20);
   }
   void aWindowShowsWhatTheWholeLayerDoes() {
