@@ -11,7 +11,9 @@ namespace {
 
 constexpr double quantaPerCell = 1024;  // strokes with short edges turn with less
 constexpr double bucketCells = 1024;
-constexpr double sizeStep = 4;  // features of similar size share buckets, so that their boxes stay small
+constexpr int cellsPerPixel = 4, bucketPixels = 256;
+constexpr int freeRepetitions = 16384;  // of small features in a bucket, before any is left out
+constexpr double sizeStep = 4;          // features of similar size share buckets, so that their boxes stay small
 constexpr double maxQuantum = 1e18;
 constexpr int freeLabels = 20000;  // more than any page can show
 constexpr double none = -std::numeric_limits<double>::infinity();
@@ -130,14 +132,38 @@ void FeaturePack::add(FeatureStore const& features) {
     Feature const& feature = features.features[static_cast<size_t>(i)];
     if (!feature.box.meets(area_)) continue;
     int const given = feature.symbolClass;
+    int const symbolClass = own.empty() || given < 0 ? given : own[static_cast<size_t>(given)];
     Bucket& bucket = bucketFor(feature.box);
+    bool const isNamed = features.keepsLabels && keepsLabel(features, static_cast<size_t>(i));
+    bool const hasName = isNamed && !features.labels[static_cast<size_t>(i)].isEmpty();
+    if (!hasName && isRepeated(features, static_cast<size_t>(i), symbolClass, bucket)) continue;
     bucket.box.add(feature.box);
-    write(features, i, own.empty() || given < 0 ? given : own[static_cast<size_t>(given)], bucket);
+    write(features, i, symbolClass, isNamed, bucket);
     ++size_;
   }
 }
 
-void FeaturePack::write(FeatureStore const& from, int number, int symbolClass, Bucket& bucket) {
+bool FeaturePack::isRepeated(FeatureStore const& from, size_t feature, int symbolClass, Bucket& bucket) const {
+  Box const& box = from.features[feature].box;
+  double const pixel = cell_ * cellsPerPixel;
+  bool const isSmall = box.xmax - box.xmin <= pixel && box.ymax - box.ymin <= pixel;
+  if (!isSmall || from.valuesPerFeature > 0) return false;
+  if (++bucket.small <= freeRepetitions) return false;
+  auto const place = [&](double low, double high, qint64 origin) {
+    double const pixels = std::floor(((low + high) / 2 - coordinate(origin)) / pixel);
+    return static_cast<size_t>(std::clamp(pixels, 0.0, bucketPixels - 1.0));
+  };
+  std::vector<bool>& taken = bucket.taken[symbolClass];
+  taken.resize(bucketPixels * bucketPixels);
+  auto const here =
+      taken.begin() + static_cast<std::ptrdiff_t>(place(box.ymin, box.ymax, bucket.origin[1]) * bucketPixels +
+                                                  place(box.xmin, box.xmax, bucket.origin[0]));
+  bool const isTaken = *here;
+  *here = true;
+  return isTaken;
+}
+
+void FeaturePack::write(FeatureStore const& from, int number, int symbolClass, bool isNamed, Bucket& bucket) {
   auto const index = static_cast<size_t>(number);
   Feature const& feature = from.features[index];
   record_.clear();
@@ -160,8 +186,8 @@ void FeaturePack::write(FeatureStore const& from, int number, int symbolClass, B
     }
   }
   for (int i = 0; i < from.valuesPerFeature; ++i) putDouble(record_, from.value(number, i));
-  if (from.keepsLabels) putNumber(record_, keepsLabel(from, index) ? 1 : 0);
-  if (from.keepsLabels && record_.back() == 1) {
+  if (from.keepsLabels) putNumber(record_, isNamed ? 1 : 0);
+  if (isNamed) {
     putText(record_, from.labels[index]);
     putText(record_, from.keys[index]);
     putDouble(record_, from.priorities[index]);
@@ -197,6 +223,7 @@ void FeaturePack::finish() {
   bytes_ = sizeof *this;
   for (auto& [key, bucket] : buckets_) {
     bucket.records.shrink_to_fit();
+    bucket.taken.clear();
     bytes_ += bucket.records.capacity() + sizeof bucket + sizeof key;
   }
 }

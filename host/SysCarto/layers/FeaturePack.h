@@ -37,7 +37,8 @@ public:
   FeatureStore& form() { return form_; }
   FeatureStore const& form() const { return form_; }
 
-  /// Adds features, thinned before to the cell, without those that the area does not meet.
+  /// Adds features, thinned before to the cell, without those that the area does not meet. Where they lie closer than
+  /// there are pixels, one stays of those that look the same on one pixel and have no label.
   void add(FeatureStore const& features);
 
   /// Gives back what room was too much. Nothing is added afterwards.
@@ -67,14 +68,17 @@ private:
     Box box;
     std::array<qint64, 2> origin;
     std::vector<unsigned char> records;
+    int small = 0;                           // features of a pixel or less
+    std::map<int, std::vector<bool>> taken;  // by symbol class: the pixels that have one of them
   };
   using Vertex = std::array<qint64, 2>;
 
+  bool isRepeated(FeatureStore const& from, size_t feature, int symbolClass, Bucket& bucket) const;
   Bucket& bucketFor(Box const& box);
   Vertex quantised(double x, double y) const;
   double coordinate(qint64 quantum) const { return (static_cast<double>(quantum) + 0.5) * quantum_; }
   bool keepsLabel(FeatureStore const& from, size_t feature);
-  void write(FeatureStore const& from, int feature, int symbolClass, Bucket& bucket);
+  void write(FeatureStore const& from, int feature, int symbolClass, bool isNamed, Bucket& bucket);
 
   Box const area_;
   double const cell_, quantum_;
