@@ -1540,6 +1540,22 @@
         <source>Name folders of which documents may use files without that being told</source>
         <translation>Ordner nennen, deren Dateien Dokumente verwenden dürfen, ohne dass darauf hingewiesen wird</translation>
     </message>
+    <message>
+        <source>Connections…</source>
+        <translation>Verbindungen…</translation>
+    </message>
+    <message>
+        <source>Name databases that layers may come from, and try them</source>
+        <translation>Datenbanken benennen, aus denen Ebenen kommen können, und sie probieren</translation>
+    </message>
+    <message>
+        <source>Add Layers from Database…</source>
+        <translation>Ebenen aus Datenbank hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add tables of a PostGIS database to the map</source>
+        <translation>Tabellen einer PostGIS-Datenbank zur Karte hinzufügen</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1637,6 +1653,210 @@
     <message>
         <source>Of the first features: %1</source>
         <translation>Für die ersten Objekte: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionAccess</name>
+    <message>
+        <source>your user</source>
+        <translation>Ihrem Benutzer</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Password of %1 for the connection “%2”; it is kept until the program ends:</source>
+        <translation>Passwort von %1 für die Verbindung „%2“; es bleibt, bis das Programm endet:</translation>
+    </message>
+</context>
+<context>
+    <name>Connections</name>
+    <message>
+        <source>holds a quote, a backslash, an equals sign or a control character; leave it out</source>
+        <translation>enthält ein Anführungszeichen, einen Rückstrich, ein Gleichheitszeichen oder ein Steuerzeichen; lassen Sie es weg</translation>
+    </message>
+    <message>
+        <source>takes up to 60 letters, digits, “-”, “_” and “.”, not “%1”</source>
+        <translation>nimmt bis zu 60 Buchstaben, Ziffern, „-“, „_“ und „.“, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>The connection “%1” is not known on this computer; add it in Edit › Connections…, or with plotvane connections add %1.</source>
+        <translation>Die Verbindung „%1“ ist auf diesem Rechner nicht bekannt; fügen Sie sie in Bearbeiten › Verbindungen… hinzu oder mit plotvane connections add %1.</translation>
+    </message>
+    <message>
+        <source>The connection “%1” is not open to documents; allow it when the window asks or in Edit › Connections…, or pass --allow-connection %1.</source>
+        <translation>Die Verbindung „%1“ ist für Dokumente nicht offen; erlauben Sie sie, wenn das Fenster fragt oder in Bearbeiten › Verbindungen…, oder geben Sie --allow-connection %1 an.</translation>
+    </message>
+    <message>
+        <source>the server has not answered for %1 s</source>
+        <translation>der Server hat seit %1 s nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>The connection “%1” can&apos;t be opened: %2. Try it with plotvane connections test %1.</source>
+        <translation>Die Verbindung „%1“ kann nicht geöffnet werden: %2. Probieren Sie sie mit plotvane connections test %1.</translation>
+    </message>
+    <message>
+        <source>this GDAL reads no PostgreSQL</source>
+        <translation>dieses GDAL liest kein PostgreSQL</translation>
+    </message>
+    <message>
+        <source>%1; write it into ~/.pgpass, or pass it in PGPASSWORD</source>
+        <translation>%1; schreiben Sie es in ~/.pgpass oder geben Sie es in PGPASSWORD an</translation>
+    </message>
+    <message>
+        <source>The connection “%1” has no table with geometries that its user may read.</source>
+        <translation>Die Verbindung „%1“ hat keine Tabelle mit Geometrien, die ihr Benutzer lesen darf.</translation>
+    </message>
+    <message>
+        <source>The connection “%1” has no table “%2” with geometries; it has: %3.</source>
+        <translation>Die Verbindung „%1“ hat keine Tabelle „%2“ mit Geometrien; sie hat: %3.</translation>
+    </message>
+    <message>
+        <source>The table “%1” of the connection “%2” can&apos;t be read: %3.</source>
+        <translation>Die Tabelle „%1“ der Verbindung „%2“ kann nicht gelesen werden: %3.</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionsDialog</name>
+    <message>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <source>Connections to databases</source>
+        <translation>Verbindungen zu Datenbanken</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>&amp;Hinzufügen…</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation>Ä&amp;ndern…</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>&amp;Testen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>this computer</source>
+        <translation>dieser Rechner</translation>
+    </message>
+    <message>
+        <source>%1: %2 at %3</source>
+        <translation>%1: %2 auf %3</translation>
+    </message>
+    <message>
+        <source> (open to documents)</source>
+        <translation> (für Dokumente offen)</translation>
+    </message>
+    <message>
+        <source>database</source>
+        <translation>Datenbank</translation>
+    </message>
+    <message>
+        <source>Connection “%1”</source>
+        <translation>Verbindung „%1“</translation>
+    </message>
+    <message>
+        <source>New Connection</source>
+        <translation>Neue Verbindung</translation>
+    </message>
+    <message>
+        <source>There is a connection “%1” already; take another name.</source>
+        <translation>Es gibt schon eine Verbindung „%1“; nehmen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>%1 weitere</translation>
+    </message>
+    <message>
+        <source>The connection “%1” leads to these tables: %2.</source>
+        <translation>Die Verbindung „%1“ führt zu diesen Tabellen: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionsSubcommand</name>
+    <message>
+        <source>The computer of the server, or the folder of its socket.</source>
+        <translation>Der Rechner des Servers oder der Ordner seines Sockets.</translation>
+    </message>
+    <message>
+        <source>Its port; 5432 if not given.</source>
+        <translation>Sein Port; 5432, wenn nicht angegeben.</translation>
+    </message>
+    <message>
+        <source>The database.</source>
+        <translation>Die Datenbank.</translation>
+    </message>
+    <message>
+        <source>The user, best one that may only read.</source>
+        <translation>Der Benutzer, am besten einer, der nur lesen darf.</translation>
+    </message>
+    <message>
+        <source>prefer, disable, require, verify-ca or verify-full.</source>
+        <translation>prefer, disable, require, verify-ca oder verify-full.</translation>
+    </message>
+    <message>
+        <source>How many seconds it may take for an answer; 30 if not given.</source>
+        <translation>Wie viele Sekunden er für eine Antwort brauchen darf; 30, wenn nicht angegeben.</translation>
+    </message>
+    <message>
+        <source>connections: there is no connection &quot;%1&quot;; plotvane connections list tells which there are.</source>
+        <translation>connections: es gibt keine Verbindung &quot;%1&quot;; plotvane connections list sagt, welche es gibt.</translation>
+    </message>
+    <message>
+        <source>this computer</source>
+        <translation>dieser Rechner</translation>
+    </message>
+    <message>
+        <source>open to documents</source>
+        <translation>für Dokumente offen</translation>
+    </message>
+    <message>
+        <source>There are no connections; plotvane connections add NAME makes one.</source>
+        <translation>Es gibt keine Verbindungen; plotvane connections add NAME legt eine an.</translation>
+    </message>
+    <message>
+        <source>connections: there is a connection &quot;%1&quot; already; remove it first, or take another name.</source>
+        <translation>connections: es gibt schon eine Verbindung &quot;%1&quot;; entfernen Sie sie zuerst, oder nehmen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>%1 answers, and has these tables: %2.</source>
+        <translation>%1 antwortet und hat diese Tabellen: %2.</translation>
+    </message>
+    <message>
+        <source>list, add, remove or test.</source>
+        <translation>list, add, remove oder test.</translation>
+    </message>
+    <message>
+        <source>What documents call the connection.</source>
+        <translation>Wie Dokumente die Verbindung nennen.</translation>
+    </message>
+    <message>
+        <source>Documents that are opened in the window may use it unasked.</source>
+        <translation>Dokumente, die im Fenster geöffnet werden, dürfen sie ungefragt benutzen.</translation>
+    </message>
+    <message>
+        <source>Print JSON, for programs.</source>
+        <translation>JSON für Programme ausgeben.</translation>
+    </message>
+    <message>
+        <source>connections: &quot;%1&quot; is none of list, add, remove and test.</source>
+        <translation>connections: &quot;%1&quot; ist nicht list, add, remove oder test.</translation>
+    </message>
+    <message>
+        <source>connections: the name of the connection is missing.</source>
+        <translation>connections: der Name der Verbindung fehlt.</translation>
+    </message>
+    <message>
+        <source>connections: list takes no name, such as &quot;%1&quot;.</source>
+        <translation>connections: list nimmt keinen Namen, wie &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
@@ -1881,6 +2101,10 @@
     <message>
         <source>it holds far more than an archive of its size should; unpack it, and name the file in it</source>
         <translation>es enthält weit mehr, als ein Archiv seiner Größe sollte; entpacken Sie es und nennen Sie die Datei darin</translation>
+    </message>
+    <message>
+        <source>The connection “%1” has no table with geometries that its user may read.</source>
+        <translation>Die Verbindung „%1“ hat keine Tabelle mit Geometrien, die ihr Benutzer lesen darf.</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2456,10 @@
     <message>
         <source>Files: %1</source>
         <translation>Dateien: %1</translation>
+    </message>
+    <message>
+        <source>connection %1, table %2</source>
+        <translation>Verbindung %1, Tabelle %2</translation>
     </message>
 </context>
 <context>
@@ -2800,6 +3028,10 @@
     <message>
         <source>The coordinate system of %1 names a file by its path, which is not opened; give another one in the source&apos;s field “coordinateSystem”.</source>
         <translation type="vanished">Das Koordinatensystem von %1 nennt eine Datei mit ihrem Pfad, die nicht geöffnet wird; geben Sie im Feld „coordinateSystem“ der Quelle ein anderes an.</translation>
+    </message>
+    <message>
+        <source>the table “%1” of the connection “%2”</source>
+        <translation>die Tabelle „%1“ der Verbindung „%2“</translation>
     </message>
 </context>
 <context>
@@ -5908,6 +6140,106 @@
         <source>−100 leaves nothing but greys; more than 0 makes colours stronger.</source>
         <translation>−100 lässt nur Grautöne übrig; mehr als 0 macht Farben kräftiger.</translation>
     </message>
+    <message>
+        <source>Connections</source>
+        <translation>Verbindungen</translation>
+    </message>
+    <message>
+        <source>Databases by the names that documents have for them.</source>
+        <translation>Datenbanken unter den Namen, die Dokumente für sie haben.</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>Stands in for the file where it is not empty: the name of a connection to a PostGIS database, as it is called on the computer that opens the document.</source>
+        <translation>Steht anstelle der Datei, wo er nicht leer ist: der Name einer Verbindung zu einer PostGIS-Datenbank, wie sie auf dem Rechner heißt, der das Dokument öffnet.</translation>
+    </message>
+    <message>
+        <source>Its name in the file; the first one where it is empty. Of a connection, the table with its schema, as in “public.roads”.</source>
+        <translation>Ihr Name in der Datei; die erste, wo er leer ist. Bei einer Verbindung die Tabelle mit ihrem Schema, wie in „public.roads“.</translation>
+    </message>
+    <message>
+        <source>Where the server can</source>
+        <translation>Wo der Server es kann</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>Always, by a known authority</source>
+        <translation>Immer, mit bekannter Zertifizierungsstelle</translation>
+    </message>
+    <message>
+        <source>Always, by a known authority and for this host</source>
+        <translation>Immer, mit bekannter Zertifizierungsstelle und für diesen Rechner</translation>
+    </message>
+    <message>
+        <source>What documents call it: letters, digits, “-”, “_” and “.”.</source>
+        <translation>Wie Dokumente sie nennen: Buchstaben, Ziffern, „-“, „_“ und „.“.</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>Rechner</translation>
+    </message>
+    <message>
+        <source>The computer that the server runs on, or the folder of its socket; empty for this computer&apos;s own.</source>
+        <translation>Der Rechner, auf dem der Server läuft, oder der Ordner seines Sockets; leer für den dieses Rechners.</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>At which the server listens.</source>
+        <translation>An dem der Server lauscht.</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>Datenbank</translation>
+    </message>
+    <message>
+        <source>Its name on the server; that of the user where it is empty.</source>
+        <translation>Ihr Name auf dem Server; der des Benutzers, wo er leer ist.</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>The server&apos;s user, best one that may only read; your own name where it is empty. The password is asked for, or stands in the file .pgpass.</source>
+        <translation>Der Benutzer des Servers, am besten einer, der nur lesen darf; Ihr eigener Name, wo er leer ist. Nach dem Passwort wird gefragt, oder es steht in der Datei .pgpass.</translation>
+    </message>
+    <message>
+        <source>Encrypted</source>
+        <translation>Verschlüsselt</translation>
+    </message>
+    <message>
+        <source>Whether what is read is encrypted on its way, and whether the server must prove who it is.</source>
+        <translation>Ob das Gelesene unterwegs verschlüsselt ist und ob der Server sich ausweisen muss.</translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Zeitgrenze</translation>
+    </message>
+    <message>
+        <source>So many seconds the server may take for an answer.</source>
+        <translation>So viele Sekunden darf der Server für eine Antwort brauchen.</translation>
+    </message>
+    <message>
+        <source>Open to documents</source>
+        <translation>Für Dokumente offen</translation>
+    </message>
+    <message>
+        <source>Whether documents that are opened in the window may read from it without that being asked, whoever made them.</source>
+        <translation>Ob Dokumente, die im Fenster geöffnet werden, daraus lesen dürfen, ohne dass gefragt wird, von wem sie auch sind.</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -6002,6 +6334,10 @@
     <message>
         <source>The file says: %1.</source>
         <translation>Die Datei sagt: %1.</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
     </message>
 </context>
 <context>
@@ -6458,7 +6794,7 @@
     </message>
     <message>
         <source>The .kdx document, or a file or folder of data.</source>
-        <translation>Das .kdx-Dokument oder eine Datei oder ein Ordner mit Daten.</translation>
+        <translation type="vanished">Das .kdx-Dokument oder eine Datei oder ein Ordner mit Daten.</translation>
     </message>
     <message>
         <source>%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.</source>
@@ -6467,6 +6803,10 @@
     <message>
         <source>With --json, tell of each layer how many of its labels find a place. It reads all features.</source>
         <translation>Mit --json zu jeder Ebene angeben, wie viele ihrer Beschriftungen einen Platz finden. Dafür werden alle Objekte gelesen.</translation>
+    </message>
+    <message>
+        <source>The .kdx document, a file or folder of data, or connection:NAME.</source>
+        <translation>Das .kdx-Dokument, eine Datei oder ein Ordner mit Daten oder connection:NAME.</translation>
     </message>
 </context>
 <context>
@@ -6595,6 +6935,13 @@
     <message>
         <source>the file holds a list where a %1 holds an object; choose another one</source>
         <translation>die Datei enthält eine Liste statt eines Objekts (erwartet: %1); wählen Sie eine andere</translation>
+    </message>
+</context>
+<context>
+    <name>KeptConnections</name>
+    <message>
+        <source>The settings could not be written; make %1 writable.</source>
+        <translation>Die Einstellungen konnten nicht geschrieben werden; machen Sie %1 beschreibbar.</translation>
     </message>
 </context>
 <context>
@@ -6763,6 +7110,18 @@
     <message>
         <source>There is no file of data in “%1”.</source>
         <translation>In „%1“ ist keine Datei mit Daten.</translation>
+    </message>
+    <message>
+        <source>No connection to a database is known; add one in Edit › Connections….</source>
+        <translation>Es ist keine Verbindung zu einer Datenbank bekannt; fügen Sie eine in Bearbeiten › Verbindungen… hinzu.</translation>
+    </message>
+    <message>
+        <source>Add Layers from Database</source>
+        <translation>Ebenen aus Datenbank hinzufügen</translation>
+    </message>
+    <message>
+        <source>Connection:</source>
+        <translation>Verbindung:</translation>
     </message>
 </context>
 <context>
@@ -7917,6 +8276,18 @@
         <source>The document uses files of other folders than its own: %1. “Allow” lets every document use files there from now on without this message; File › Allowed Folders… takes that back.</source>
         <translation>Das Dokument benutzt Dateien anderer Ordner als seines eigenen: %1. „Erlauben“ lässt von nun an jedes Dokument Dateien dort ohne diese Meldung benutzen; Datei › Erlaubte Ordner … nimmt das zurück.</translation>
     </message>
+    <message>
+        <source>The document wants to read from your databases: %1. “Allow” lets every document do so from now on and reads it anew; Edit › Connections… takes that back.</source>
+        <translation>Das Dokument möchte aus Ihren Datenbanken lesen: %1. „Erlauben“ lässt das von nun an jedes Dokument tun und liest sie neu; Bearbeiten › Verbindungen… nimmt das zurück.</translation>
+    </message>
+    <message>
+        <source>The connection “%1” wants a password.</source>
+        <translation>Die Verbindung „%1“ verlangt ein Passwort.</translation>
+    </message>
+    <message>
+        <source>Password…</source>
+        <translation>Passwort…</translation>
+    </message>
 </context>
 <context>
     <name>OwnLibrary</name>
@@ -8942,6 +9313,10 @@ Die Kopie bleibt in %2.</translation>
         <source>it gives more features than a file of its size can hold</source>
         <translation>sie gibt mehr Objekte her, als eine Datei ihrer Größe enthalten kann</translation>
     </message>
+    <message>
+        <source>it gives more than 5 million features or 2 GB; let the layer show a view of it that has fewer</source>
+        <translation>sie ergibt mehr als 5 Millionen Objekte oder 2 GB; lassen Sie die Ebene eine Sicht mit weniger zeigen</translation>
+    </message>
 </context>
 <context>
     <name>StoredFormat</name>
@@ -9086,6 +9461,14 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>End it where it takes more than so many megabytes.</source>
         <translation>Beenden, sobald es mehr als so viele Megabyte braucht.</translation>
+    </message>
+    <message>
+        <source>List, add, remove or test connections to PostGIS databases</source>
+        <translation>Verbindungen zu PostGIS-Datenbanken auflisten, hinzufügen, entfernen oder testen</translation>
+    </message>
+    <message>
+        <source>A connection for --confine, by its name; may be given several times.</source>
+        <translation>Eine Verbindung für --confine, mit ihrem Namen; mehrmals möglich.</translation>
     </message>
 </context>
 <context>

@@ -1540,6 +1540,22 @@
         <source>Name folders of which documents may use files without that being told</source>
         <translation>指定文件夹，文档使用其中的文件时不再提示</translation>
     </message>
+    <message>
+        <source>Connections…</source>
+        <translation>连接…</translation>
+    </message>
+    <message>
+        <source>Name databases that layers may come from, and try them</source>
+        <translation>为图层可用的数据库命名并测试</translation>
+    </message>
+    <message>
+        <source>Add Layers from Database…</source>
+        <translation>从数据库添加图层…</translation>
+    </message>
+    <message>
+        <source>Add tables of a PostGIS database to the map</source>
+        <translation>将 PostGIS 数据库的表添加到地图</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1637,6 +1653,210 @@
     <message>
         <source>Of the first features: %1</source>
         <translation>前几个要素的结果：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionAccess</name>
+    <message>
+        <source>your user</source>
+        <translation>您的用户</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>Password of %1 for the connection “%2”; it is kept until the program ends:</source>
+        <translation>%1 用于连接“%2”的密码;保留到程序结束:</translation>
+    </message>
+</context>
+<context>
+    <name>Connections</name>
+    <message>
+        <source>holds a quote, a backslash, an equals sign or a control character; leave it out</source>
+        <translation>含有引号、反斜杠、等号或控制字符;请去掉</translation>
+    </message>
+    <message>
+        <source>takes up to 60 letters, digits, “-”, “_” and “.”, not “%1”</source>
+        <translation>最多 60 个字母、数字、“-”、“_”和“.”,而不是“%1”</translation>
+    </message>
+    <message>
+        <source>The connection “%1” is not known on this computer; add it in Edit › Connections…, or with plotvane connections add %1.</source>
+        <translation>此计算机上不存在连接“%1”;请在“编辑 › 连接…”中添加,或使用 plotvane connections add %1。</translation>
+    </message>
+    <message>
+        <source>The connection “%1” is not open to documents; allow it when the window asks or in Edit › Connections…, or pass --allow-connection %1.</source>
+        <translation>连接“%1”未对文档开放;请在窗口询问时或在“编辑 › 连接…”中允许,或给出 --allow-connection %1。</translation>
+    </message>
+    <message>
+        <source>the server has not answered for %1 s</source>
+        <translation>服务器已有 %1 秒没有应答</translation>
+    </message>
+    <message>
+        <source>The connection “%1” can&apos;t be opened: %2. Try it with plotvane connections test %1.</source>
+        <translation>无法打开连接“%1”:%2。可用 plotvane connections test %1 测试。</translation>
+    </message>
+    <message>
+        <source>this GDAL reads no PostgreSQL</source>
+        <translation>此 GDAL 不能读取 PostgreSQL</translation>
+    </message>
+    <message>
+        <source>%1; write it into ~/.pgpass, or pass it in PGPASSWORD</source>
+        <translation>%1;请写入 ~/.pgpass,或通过 PGPASSWORD 给出</translation>
+    </message>
+    <message>
+        <source>The connection “%1” has no table with geometries that its user may read.</source>
+        <translation>连接“%1”中没有其用户可读取的几何表。</translation>
+    </message>
+    <message>
+        <source>The connection “%1” has no table “%2” with geometries; it has: %3.</source>
+        <translation>连接“%1”中没有几何表“%2”;现有:%3。</translation>
+    </message>
+    <message>
+        <source>The table “%1” of the connection “%2” can&apos;t be read: %3.</source>
+        <translation>无法读取连接“%2”的表“%1”:%3。</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionsDialog</name>
+    <message>
+        <source>Connections</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Connections to databases</source>
+        <translation>数据库连接</translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation>添加(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Change…</source>
+        <translation>更改(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>&amp;Test</source>
+        <translation>测试(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>this computer</source>
+        <translation>本机</translation>
+    </message>
+    <message>
+        <source>%1: %2 at %3</source>
+        <translation>%1:%3 上的 %2</translation>
+    </message>
+    <message>
+        <source> (open to documents)</source>
+        <translation>(对文档开放)</translation>
+    </message>
+    <message>
+        <source>database</source>
+        <translation>数据库</translation>
+    </message>
+    <message>
+        <source>Connection “%1”</source>
+        <translation>连接“%1”</translation>
+    </message>
+    <message>
+        <source>New Connection</source>
+        <translation>新连接</translation>
+    </message>
+    <message>
+        <source>There is a connection “%1” already; take another name.</source>
+        <translation>已有连接“%1”;请换一个名称。</translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation>另有 %1 个</translation>
+    </message>
+    <message>
+        <source>The connection “%1” leads to these tables: %2.</source>
+        <translation>连接“%1”含有这些表:%2。</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionsSubcommand</name>
+    <message>
+        <source>The computer of the server, or the folder of its socket.</source>
+        <translation>服务器的计算机,或其套接字所在的文件夹。</translation>
+    </message>
+    <message>
+        <source>Its port; 5432 if not given.</source>
+        <translation>端口;未给出时为 5432。</translation>
+    </message>
+    <message>
+        <source>The database.</source>
+        <translation>数据库。</translation>
+    </message>
+    <message>
+        <source>The user, best one that may only read.</source>
+        <translation>用户,最好只有读取权限。</translation>
+    </message>
+    <message>
+        <source>prefer, disable, require, verify-ca or verify-full.</source>
+        <translation>prefer、disable、require、verify-ca 或 verify-full。</translation>
+    </message>
+    <message>
+        <source>How many seconds it may take for an answer; 30 if not given.</source>
+        <translation>应答允许的秒数;未给出时为 30。</translation>
+    </message>
+    <message>
+        <source>connections: there is no connection &quot;%1&quot;; plotvane connections list tells which there are.</source>
+        <translation>connections:没有连接 &quot;%1&quot;;plotvane connections list 会列出现有的连接。</translation>
+    </message>
+    <message>
+        <source>this computer</source>
+        <translation>本机</translation>
+    </message>
+    <message>
+        <source>open to documents</source>
+        <translation>对文档开放</translation>
+    </message>
+    <message>
+        <source>There are no connections; plotvane connections add NAME makes one.</source>
+        <translation>没有连接;plotvane connections add NAME 可创建一个。</translation>
+    </message>
+    <message>
+        <source>connections: there is a connection &quot;%1&quot; already; remove it first, or take another name.</source>
+        <translation>connections:已有连接 &quot;%1&quot;;请先移除它,或换一个名称。</translation>
+    </message>
+    <message>
+        <source>%1 answers, and has these tables: %2.</source>
+        <translation>%1 有应答,含有这些表:%2。</translation>
+    </message>
+    <message>
+        <source>list, add, remove or test.</source>
+        <translation>list、add、remove 或 test。</translation>
+    </message>
+    <message>
+        <source>What documents call the connection.</source>
+        <translation>文档中使用的连接名称。</translation>
+    </message>
+    <message>
+        <source>Documents that are opened in the window may use it unasked.</source>
+        <translation>在窗口中打开的文档可不经询问使用它。</translation>
+    </message>
+    <message>
+        <source>Print JSON, for programs.</source>
+        <translation>输出 JSON,供程序使用。</translation>
+    </message>
+    <message>
+        <source>connections: &quot;%1&quot; is none of list, add, remove and test.</source>
+        <translation>connections:&quot;%1&quot; 不是 list、add、remove 或 test。</translation>
+    </message>
+    <message>
+        <source>connections: the name of the connection is missing.</source>
+        <translation>connections:缺少连接名称。</translation>
+    </message>
+    <message>
+        <source>connections: list takes no name, such as &quot;%1&quot;.</source>
+        <translation>connections:list 不接受名称,如 &quot;%1&quot;。</translation>
     </message>
 </context>
 <context>
@@ -1881,6 +2101,10 @@
     <message>
         <source>it holds far more than an archive of its size should; unpack it, and name the file in it</source>
         <translation>它包含的内容远多于这种大小的压缩包所应有的；请解压并指定其中的文件</translation>
+    </message>
+    <message>
+        <source>The connection “%1” has no table with geometries that its user may read.</source>
+        <translation>连接“%1”中没有其用户可读取的几何表。</translation>
     </message>
 </context>
 <context>
@@ -2232,6 +2456,10 @@
     <message>
         <source>Files: %1</source>
         <translation>文件：%1</translation>
+    </message>
+    <message>
+        <source>connection %1, table %2</source>
+        <translation>连接 %1,表 %2</translation>
     </message>
 </context>
 <context>
@@ -2800,6 +3028,10 @@
     <message>
         <source>The coordinate system of %1 names a file by its path, which is not opened; give another one in the source&apos;s field “coordinateSystem”.</source>
         <translation type="vanished">%1 的坐标系按路径引用了一个文件，该文件不会被打开；请在数据源的字段“coordinateSystem”中指定另一个坐标系。</translation>
+    </message>
+    <message>
+        <source>the table “%1” of the connection “%2”</source>
+        <translation>连接“%2”的表“%1”</translation>
     </message>
 </context>
 <context>
@@ -5908,6 +6140,106 @@
         <source>−100 leaves nothing but greys; more than 0 makes colours stronger.</source>
         <translation>−100 只剩灰色;大于 0 使颜色更鲜明。</translation>
     </message>
+    <message>
+        <source>Connections</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Databases by the names that documents have for them.</source>
+        <translation>数据库及文档对其使用的名称。</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>Stands in for the file where it is not empty: the name of a connection to a PostGIS database, as it is called on the computer that opens the document.</source>
+        <translation>非空时代替文件:PostGIS 数据库连接的名称,即在打开文档的计算机上的名称。</translation>
+    </message>
+    <message>
+        <source>Its name in the file; the first one where it is empty. Of a connection, the table with its schema, as in “public.roads”.</source>
+        <translation>在文件中的名称;留空则取第一个。对于连接,为带模式的表名,如“public.roads”。</translation>
+    </message>
+    <message>
+        <source>Where the server can</source>
+        <translation>服务器支持时</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>从不</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>始终</translation>
+    </message>
+    <message>
+        <source>Always, by a known authority</source>
+        <translation>始终,且须为已知机构签发</translation>
+    </message>
+    <message>
+        <source>Always, by a known authority and for this host</source>
+        <translation>始终,且须为已知机构签发给该主机</translation>
+    </message>
+    <message>
+        <source>What documents call it: letters, digits, “-”, “_” and “.”.</source>
+        <translation>文档中使用的名称:字母、数字、“-”、“_”和“.”。</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>主机</translation>
+    </message>
+    <message>
+        <source>The computer that the server runs on, or the folder of its socket; empty for this computer&apos;s own.</source>
+        <translation>运行服务器的计算机,或其套接字所在的文件夹;留空表示本机。</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>端口</translation>
+    </message>
+    <message>
+        <source>At which the server listens.</source>
+        <translation>服务器监听的端口。</translation>
+    </message>
+    <message>
+        <source>Database</source>
+        <translation>数据库</translation>
+    </message>
+    <message>
+        <source>Its name on the server; that of the user where it is empty.</source>
+        <translation>在服务器上的名称;留空则与用户同名。</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>The server&apos;s user, best one that may only read; your own name where it is empty. The password is asked for, or stands in the file .pgpass.</source>
+        <translation>服务器的用户,最好只有读取权限;留空则用您自己的名称。密码会询问,或写在 .pgpass 文件中。</translation>
+    </message>
+    <message>
+        <source>Encrypted</source>
+        <translation>加密</translation>
+    </message>
+    <message>
+        <source>Whether what is read is encrypted on its way, and whether the server must prove who it is.</source>
+        <translation>读取的内容在传输中是否加密,以及服务器是否必须证明身份。</translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>超时</translation>
+    </message>
+    <message>
+        <source>So many seconds the server may take for an answer.</source>
+        <translation>服务器应答允许的秒数。</translation>
+    </message>
+    <message>
+        <source>Open to documents</source>
+        <translation>对文档开放</translation>
+    </message>
+    <message>
+        <source>Whether documents that are opened in the window may read from it without that being asked, whoever made them.</source>
+        <translation>在窗口中打开的文档(无论出自何人)是否可以不经询问从中读取。</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -6002,6 +6334,10 @@
     <message>
         <source>The file says: %1.</source>
         <translation>文件中的坐标系：%1。</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>连接</translation>
     </message>
 </context>
 <context>
@@ -6458,7 +6794,7 @@
     </message>
     <message>
         <source>The .kdx document, or a file or folder of data.</source>
-        <translation>.kdx 文档，或数据文件或文件夹。</translation>
+        <translation type="vanished">.kdx 文档，或数据文件或文件夹。</translation>
     </message>
     <message>
         <source>%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.</source>
@@ -6467,6 +6803,10 @@
     <message>
         <source>With --json, tell of each layer how many of its labels find a place. It reads all features.</source>
         <translation>与 --json 一起使用：说明每个图层有多少注记找到了位置。这会读取所有要素。</translation>
+    </message>
+    <message>
+        <source>The .kdx document, a file or folder of data, or connection:NAME.</source>
+        <translation>.kdx 文档、数据文件或文件夹,或 connection:NAME。</translation>
     </message>
 </context>
 <context>
@@ -6595,6 +6935,13 @@
     <message>
         <source>the file holds a list where a %1 holds an object; choose another one</source>
         <translation>文件中是列表，而%1应为对象；请选择其他文件</translation>
+    </message>
+</context>
+<context>
+    <name>KeptConnections</name>
+    <message>
+        <source>The settings could not be written; make %1 writable.</source>
+        <translation>无法写入设置;请使 %1 可写。</translation>
     </message>
 </context>
 <context>
@@ -6763,6 +7110,18 @@
     <message>
         <source>There is no file of data in “%1”.</source>
         <translation>“%1”中没有数据文件。</translation>
+    </message>
+    <message>
+        <source>No connection to a database is known; add one in Edit › Connections….</source>
+        <translation>没有已知的数据库连接;请在“编辑 › 连接…”中添加。</translation>
+    </message>
+    <message>
+        <source>Add Layers from Database</source>
+        <translation>从数据库添加图层</translation>
+    </message>
+    <message>
+        <source>Connection:</source>
+        <translation>连接:</translation>
     </message>
 </context>
 <context>
@@ -7917,6 +8276,18 @@
         <source>The document uses files of other folders than its own: %1. “Allow” lets every document use files there from now on without this message; File › Allowed Folders… takes that back.</source>
         <translation>文档使用了其自身文件夹以外的文件夹中的文件：%1。“允许”使所有文档今后使用那里的文件时不再显示此消息；可在“文件 › 允许的文件夹…”中撤销。</translation>
     </message>
+    <message>
+        <source>The document wants to read from your databases: %1. “Allow” lets every document do so from now on and reads it anew; Edit › Connections… takes that back.</source>
+        <translation>该文档要读取您的数据库:%1。“允许”会让今后的所有文档都能这样做,并重新读取;可在“编辑 › 连接…”中撤回。</translation>
+    </message>
+    <message>
+        <source>The connection “%1” wants a password.</source>
+        <translation>连接“%1”需要密码。</translation>
+    </message>
+    <message>
+        <source>Password…</source>
+        <translation>密码…</translation>
+    </message>
 </context>
 <context>
     <name>OwnLibrary</name>
@@ -8942,6 +9313,10 @@ The copy is kept in %2.</source>
         <source>it gives more features than a file of its size can hold</source>
         <translation>它给出的要素比这样大小的文件所能容纳的更多</translation>
     </message>
+    <message>
+        <source>it gives more than 5 million features or 2 GB; let the layer show a view of it that has fewer</source>
+        <translation>它给出超过 500 万个要素或 2 GB;请让图层显示要素较少的视图</translation>
+    </message>
 </context>
 <context>
     <name>StoredFormat</name>
@@ -9086,6 +9461,14 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>End it where it takes more than so many megabytes.</source>
         <translation>占用超过这么多兆字节时结束。</translation>
+    </message>
+    <message>
+        <source>List, add, remove or test connections to PostGIS databases</source>
+        <translation>列出、添加、移除或测试 PostGIS 数据库连接</translation>
+    </message>
+    <message>
+        <source>A connection for --confine, by its name; may be given several times.</source>
+        <translation>用于 --confine 的连接名称;可多次给出。</translation>
     </message>
 </context>
 <context>

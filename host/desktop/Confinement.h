@@ -4,13 +4,13 @@
 
 /// What a subcommand may open for a document, for those who serve strangers.
 struct Confinement {
-  static constexpr char option[] = "confine", folderOption[] = "allow";
+  static constexpr char option[] = "confine", folderOption[] = "allow", connectionOption[] = "allow-connection";
 
   bool isConfined = false;  ///< to the document's folder and these
-  QStringList folders;
+  QStringList folders, connections;
 
-  /// Takes `--confine` and each `--allow FOLDER` out of the arguments, wherever they stand. False where they make no
-  /// sense, which is then told; needs no application.
+  /// Takes `--confine`, each `--allow FOLDER` and each `--allow-connection NAME` out of the arguments, wherever they
+  /// stand. False where they make no sense, which is then told; needs no application.
   bool take(QStringList& arguments);
 
   /// As another process takes them.

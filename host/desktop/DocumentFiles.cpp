@@ -14,6 +14,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <utility>
+
 namespace {
 
 constexpr int maxRecent = 8;
@@ -252,7 +254,8 @@ bool DocumentFiles::write(QString const& path) {
 void DocumentFiles::followFiles() {
   QStringList files;
   if (!session_.path().isEmpty()) files << session_.path();
-  for (auto const& source : sourcesOf(session_)) files << source.file;
+  for (auto const& source : sourcesOf(session_))
+    if (!source.file.isEmpty()) files << source.file;
   watch_.follow(files);
 }
 
@@ -285,13 +288,16 @@ bool DocumentFiles::reload() {
     if (!isRead) session_.setFileGivenUp(true);
     return isRead;
   }
+  readAgain(std::exchange(changed_, {}));
+  return true;
+}
+
+void DocumentFiles::readAgain(QStringList const& origins) {
   auto const layout = session_.document().GetPageLayout();
-  if (layout) SysCarto::readAgain(*layout, changed_);
-  changed_.clear();
+  if (layout) SysCarto::readAgain(*layout, origins);
   emit dataReplaced();
   QStringList const problems = problemsOf(session_);
   if (!problems.isEmpty()) tell(QMessageBox::Warning, tr("Not all data could be read."), problems);
-  return true;
 }
 
 void DocumentFiles::keep() {

@@ -49,6 +49,9 @@ public:
   /// Reads anew the changed files that `told` was last about; false where that is still to be done.
   bool reload();
 
+  /// Reads these files and connections anew, and tells what is then not whole.
+  void readAgain(QStringList const& origins);
+
   /// Lets them be. A document that another program has changed counts as modified from
   /// now on.
   void keep();

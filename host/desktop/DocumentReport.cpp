@@ -129,15 +129,26 @@ QJsonValue seriesJson(SysCarto::MapDocument const& document) {
   return series;
 }
 
+QJsonObject fileJson(SysCarto::DocumentSource const& source, SysUtility::FileReach const& reach) {
+  return {{QStringLiteral("file"), source.file},
+          {QStringLiteral("use"), QLatin1String(uses[static_cast<int>(source.use)])},
+          {QStringLiteral("name"), source.user},
+          {QStringLiteral("outside"), !source.outside(reach).isEmpty()}};
+}
+
+QJsonObject connectionJson(SysCarto::DocumentSource const& source) {
+  return {{QStringLiteral("connection"), source.connection},
+          {QStringLiteral("table"), source.table},
+          {QStringLiteral("use"), QLatin1String(uses[static_cast<int>(source.use)])},
+          {QStringLiteral("name"), source.user}};
+}
+
 QJsonArray filesJson(SysCarto::MapDocument const& document) {
   QJsonArray files;
   auto const layout = document.GetPageLayout();
   auto const reach = SysUtility::FileReach::ofDocument(document.GetPath());
   for (auto const& source : layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>())
-    files.append(QJsonObject{{QStringLiteral("file"), source.file},
-                             {QStringLiteral("use"), QLatin1String(uses[static_cast<int>(source.use)])},
-                             {QStringLiteral("name"), source.user},
-                             {QStringLiteral("outside"), !source.outside(reach).isEmpty()}});
+    files.append(source.connection.isEmpty() ? fileJson(source, reach) : connectionJson(source));
   return files;
 }
 
@@ -262,8 +273,11 @@ QString ReportText::files(QJsonArray const& files) {
   for (QJsonValue const& value : files) {
     QJsonObject const file = value.toObject();
     QString const place = file[QStringLiteral("outside")].toBool() ? tr("outside") : QString();
-    rows.append({word(file[QStringLiteral("use")]), place, file[QStringLiteral("file")].toString(),
-                 file[QStringLiteral("name")].toString()});
+    QString const connection = file[QStringLiteral("connection")].toString();
+    QString const where = connection.isEmpty()
+                              ? file[QStringLiteral("file")].toString()
+                              : tr("connection %1, table %2").arg(connection, file[QStringLiteral("table")].toString());
+    rows.append({word(file[QStringLiteral("use")]), place, where, file[QStringLiteral("name")].toString()});
   }
   return files.isEmpty() ? QString() : tr("Files: %1").arg(files.size()) + QLatin1Char('\n') + table(rows);
 }

@@ -44,8 +44,7 @@ void measure(SysCarto::DataFile& file) {
         layer.count >= 0 && (layer.count == 0 || layer.kind == SysCarto::GeometryKind::None || !layer.extent.isEmpty());
     QString problem;
     if (isKnown) continue;
-    auto const whole = SysCarto::describeLayer(
-        {file.path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField}, patience, problem);
+    auto const whole = SysCarto::describeLayer(SysCarto::sourceOf(file, layer), patience, problem);
     if (!problem.isEmpty()) continue;
     layer.kind = whole.kind;
     layer.count = whole.count;
@@ -54,7 +53,7 @@ void measure(SysCarto::DataFile& file) {
 }
 
 ExitStatus tellData(QString const& path, bool asJson) {
-  auto file = SysCarto::describeFile(QFileInfo(path).absoluteFilePath());
+  auto file = SysCarto::describeFile(SysCarto::absoluteOrigin(path));
   if (!file.error.isEmpty()) {
     Console::complain(file.error);
     return WorkFailed;
@@ -90,7 +89,7 @@ ExitStatus tellFolder(QString const& path, bool asJson) {
 ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
   QCommandLineParser parser;
   parser.addPositionalArgument(QStringLiteral("DOCUMENT"),
-                               Texts::tr("The .kdx document, or a file or folder of data."));
+                               Texts::tr("The .kdx document, a file or folder of data, or connection:NAME."));
   QCommandLineOption const json(QStringLiteral("json"), Texts::tr("Print JSON, for programs."));
   parser.addOption(json);
   QCommandLineOption const labels(
@@ -101,7 +100,8 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
 
   QString const path = parser.positionalArguments().at(0);
   if (QFileInfo(path).isDir()) return tellFolder(path, parser.isSet(json));
-  if (SysCarto::isDataFileName(path)) return tellData(path, parser.isSet(json));
+  if (SysCarto::isDataFileName(path) || !SysCarto::connectionIn(path).isEmpty())
+    return tellData(path, parser.isSet(json));
   SysCarto::MapDocument document;
   bool const opened = SysCarto::MapDocumentHost::open(document, path, {}, SysCarto::ReadDepth::Schema);
   if (!opened && isNoDocument(path)) {

@@ -164,12 +164,7 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   };
   host.add(QStringLiteral("Host_Save"), {redrawnAs(&DocumentFiles::save), modified, always});
   host.add(QStringLiteral("Host_SaveAs"), {redrawnAs(&DocumentFiles::saveAs), always, always});
-  host.add(QStringLiteral("Host_AddLayer"), {[this] { adding_.chooseFiles(); },
-                                             [this] {
-                                               auto const layout = bench_.views().GetPageLayout();
-                                               return layout && layout->GetPage();
-                                             },
-                                             always});
+  adding_.addTo(host);
   host.add(QStringLiteral("Host_Contents"), {[this] { contentsDock_->setVisible(!contentsDock_->isVisible()); }, always,
                                              [this] { return contentsDock_->isVisible(); }});
   host.add(QStringLiteral("Host_Properties"), {[this] {

@@ -4,8 +4,11 @@
 #include "DocumentSession.h"
 #include "HostCommands.h"
 #include "NoticeBar.h"
+#include "connections/ConnectionAccess.h"
+#include "connections/ConnectionsDialog.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
+#include "host/SysCarto/layers/Connections.h"
 #include "host/SysUtility/FileReach.h"
 
 #include <QCoreApplication>
@@ -41,6 +44,24 @@ QStringList foldersOutside(SysCarto::MapDocument const& document) {
   folders.removeDuplicates();
   folders.sort();
   return folders;
+}
+
+QStringList closedConnections(SysCarto::MapDocument const& document) {
+  auto const layout = document.GetPageLayout();
+  QStringList names;
+  for (auto const& source : layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>())
+    if (SysCarto::Connections::find(source.connection) && !SysCarto::Connections::isAllowed(source.connection))
+      names << source.connection;
+  names.removeDuplicates();
+  names.sort();
+  return names;
+}
+
+QString shown(QStringList const& names) {
+  QStringList shown;
+  for (QString const& name : names.mid(0, maxShown)) shown << QDir::toNativeSeparators(name);
+  if (names.size() > maxShown) shown << OutsideFiles::tr("%1 more").arg(names.size() - maxShown);
+  return shown.join(QStringLiteral(", "));
 }
 
 class AllowedFoldersDialog final : public QDialog {
@@ -125,27 +146,60 @@ void AllowedFolders::keep(QStringList folders) {
 }
 
 OutsideFiles::OutsideFiles(DocumentFiles& files, DocumentSession& session, NoticeBar& notice)
-    : QObject(&notice), session_(session), notice_(notice) {
+    : QObject(&notice), files_(files), session_(session), notice_(notice) {
+  KeptConnections::confine();
   connect(&files, &DocumentFiles::opened, this, &OutsideFiles::look);
 }
 
 OutsideFiles::~OutsideFiles() = default;
 
 void OutsideFiles::look() {
-  QStringList folders = foldersOutside(session_.document());
-  folders.erase(std::remove_if(folders.begin(), folders.end(), [this](auto const& one) { return told_.contains(one); }),
-                folders.end());
-  if (folders.isEmpty()) return;
-  for (QString const& folder : qAsConst(folders)) told_ << folder;
-  QStringList shown;
-  for (QString const& folder : folders.mid(0, maxShown)) shown << QDir::toNativeSeparators(folder);
-  if (folders.size() > maxShown) shown << tr("%1 more").arg(folders.size() - maxShown);
-  notice_.offer(tr("The document uses files of other folders than its own: %1. “Allow” lets every document use files "
-                   "there from now on without this message; File › Allowed Folders… takes that back.")
-                    .arg(shown.join(QStringLiteral(", "))),
-                tr("Allow"), [folders] { AllowedFolders::keep(AllowedFolders::kept() + folders); });
+  auto const untold = [this](QStringList names) {
+    names.erase(std::remove_if(names.begin(), names.end(), [this](auto const& one) { return told_.contains(one); }),
+                names.end());
+    for (QString const& name : qAsConst(names)) told_ << name;
+    return names;
+  };
+  QStringList const folders = untold(foldersOutside(session_.document()));
+  QStringList const connections = untold(closedConnections(session_.document()));
+  if (folders.isEmpty() && connections.isEmpty()) return offerPassword();
+  QStringList sentences;
+  if (!folders.isEmpty())
+    sentences << tr("The document uses files of other folders than its own: %1. “Allow” lets every document use files "
+                    "there from now on without this message; File › Allowed Folders… takes that back.")
+                     .arg(shown(folders));
+  if (!connections.isEmpty())
+    sentences << tr("The document wants to read from your databases: %1. “Allow” lets every document do so from now on "
+                    "and reads it anew; Edit › Connections… takes that back.")
+                     .arg(shown(connections));
+  notice_.offer(sentences.join(QLatin1Char(' ')), tr("Allow"), [=] { allow(folders, connections); });
+}
+
+void OutsideFiles::allow(QStringList const& folders, QStringList const& connections) {
+  if (!folders.isEmpty()) AllowedFolders::keep(AllowedFolders::kept() + folders);
+  QStringList origins;
+  for (QString const& name : connections) {
+    KeptConnections::openToDocuments(name);
+    origins << SysCarto::originOf(name);
+  }
+  if (!origins.isEmpty()) files_.readAgain(origins);
+  offerPassword();
+}
+
+// One at a time: what is read anew then tells whether another one wants one, too.
+void OutsideFiles::offerPassword() {
+  auto const layout = session_.document().GetPageLayout();
+  for (auto const& source : layout ? SysCarto::sourcesOf(*layout) : QVector<SysCarto::DocumentSource>()) {
+    QString const name = source.connection;
+    if (name.isEmpty() || source.problem.isEmpty() || !SysCarto::Connections::wantsPassword(name)) continue;
+    return notice_.offer(tr("The connection “%1” wants a password.").arg(name), tr("Password…"), [this, name] {
+      if (ConnectionAccess::askForPassword(name, *notice_.window())) files_.readAgain({SysCarto::originOf(name)});
+      offerPassword();
+    });
+  }
 }
 
 void OutsideFiles::addTo(HostCommands& host, QWidget& window) {
   host.add(QStringLiteral("Host_AllowedFolders"), {[&window] { AllowedFoldersDialog(&window).exec(); }, {}, {}});
+  host.add(QStringLiteral("Host_Connections"), {[&window] { ConnectionsDialog(&window).exec(); }, {}, {}});
 }

@@ -16,8 +16,9 @@ QStringList kept();
 void keep(QStringList folders);
 }  // namespace AllowedFolders
 
-/// Tells of the folders that a document which was opened or recovered reaches into besides its own, each once as long
-/// as the program runs, and offers to allow them for good.
+/// Tells of the folders that a document which was opened or recovered reaches into besides its own, and of the
+/// connections that it names and that are not open to documents, each once as long as the program runs, and offers to
+/// allow them for good. Where a connection wants a password, it offers to ask for it.
 class OutsideFiles final : public QObject {
   Q_OBJECT
 
@@ -31,7 +32,10 @@ public:
 
 private:
   void look();
+  void allow(QStringList const& folders, QStringList const& connections);
+  void offerPassword();
 
+  DocumentFiles& files_;
   DocumentSession& session_;
   NoticeBar& notice_;
   QSet<QString> told_;

@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include "Console.h"
+#include "connections/KeptConnections.h"
 
 #include <QApplication>
 #include <QDir>
@@ -126,4 +127,5 @@ void prepareApplication() {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   setlocale(LC_NUMERIC, "C");  // the application object took the user's
   prepareGdal();
+  KeptConnections::begin();
 }

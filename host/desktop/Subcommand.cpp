@@ -23,6 +23,7 @@ constexpr Subcommand subcommands[] = {
     {"schema",   "[FORMAT]",       QT_TRANSLATE_NOOP("Subcommand", "Print the format of documents or styles as a JSON Schema"), runSchema},
     {"reference", "[FORMAT]",      QT_TRANSLATE_NOOP("Subcommand", "Print tables of all fields of documents or styles"), runReference},
     {"systems",  "WORDS...",       QT_TRANSLATE_NOOP("Subcommand", "Search for coordinate systems by name, code or area"), runSystems},
+    {"connections", "ACTION [NAME]", QT_TRANSLATE_NOOP("Subcommand", "List, add, remove or test connections to PostGIS databases"), runConnections},
 };
 // clang-format on
 
@@ -36,7 +37,7 @@ void printHelp() {
                      "SUBCOMMAND [options]   works without one") +
                  QStringLiteral("\n\n");
   for (Subcommand const& subcommand : subcommands)
-    text += QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -9).arg(Texts::tr(subcommand.help));
+    text += QStringLiteral("  %1 %2\n").arg(QLatin1String(subcommand.name), -11).arg(Texts::tr(subcommand.help));
   text += Texts::tr(
       "\nplotvane SUBCOMMAND --help tells about one of them; plotvane "
       "--version tells the version. --language LANG, on any of these lines, names the "
@@ -112,12 +113,15 @@ std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLinePar
   QCommandLineOption const allow(QLatin1String(Confinement::folderOption),
                                  Texts::tr("A folder for --confine; may be given several times."),
                                  QStringLiteral("FOLDER"));
+  QCommandLineOption const connection(QLatin1String(Confinement::connectionOption),
+                                      Texts::tr("A connection for --confine, by its name; may be given several times."),
+                                      QStringLiteral("NAME"));
   QCommandLineOption const seconds(QLatin1String(ResourceLimits::secondsOption),
                                    Texts::tr("End it, cleaned up, after so many seconds."), QStringLiteral("N"));
   QCommandLineOption const memory(QLatin1String(ResourceLimits::memoryOption),
                                   Texts::tr("End it where it takes more than so many megabytes."), QStringLiteral("N"));
   bool const opensFiles = QLatin1String(self.operands).startsWith(QLatin1String("DOCUMENT"));
-  if (opensFiles) parser.addOptions({confine, allow});
+  if (opensFiles) parser.addOptions({confine, allow, connection});
   parser.addOptions({seconds, memory, language, help});
   parser.setApplicationDescription(Texts::tr("%1.").arg(Texts::tr(self.help)));
   bool const understood = parser.parse(QStringList(QStringLiteral("plotvane")) + arguments);

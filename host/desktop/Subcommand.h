@@ -25,6 +25,7 @@ ExitStatus runRun(Subcommand const& self, QStringList const& arguments);
 ExitStatus runCommands(Subcommand const& self, QStringList const& arguments);
 ExitStatus runSchema(Subcommand const& self, QStringList const& arguments);
 ExitStatus runReference(Subcommand const& self, QStringList const& arguments);
+ExitStatus runConnections(Subcommand const& self, QStringList const& arguments);
 ExitStatus runSystems(Subcommand const& self, QStringList const& arguments);
 
 /// Whether the arguments (without the program's name) ask for the window: none, or a document.

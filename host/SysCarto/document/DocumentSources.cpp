@@ -4,6 +4,7 @@
 
 #include "host/SysCarto/layers/SourceSettings.h"
 #include "host/SysCarto/maps/LayerData.h"
+#include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/elements/PictureElement.h"
 #include "host/SysUtility/FileReach.h"
@@ -27,7 +28,8 @@ struct Texts {
 };
 
 bool drawsFrom(Layer const& layer, QStringList const& files) {
-  QStringList const own = filesOf(layer);
+  auto const* const vector = dynamic_cast<VectorLayer const*>(&layer);
+  QStringList const own = filesOf(layer) + QStringList(vector ? vector->source().origin() : QString());
   return std::any_of(own.begin(), own.end(), [&](QString const& file) { return files.contains(file); });
 }
 
@@ -52,7 +54,7 @@ void visitSources(PageLayout const& layout, OnLayer const& onLayer, OnPicture co
 
 QString DocumentSource::outside(SysUtility::FileReach const& reach) const {
   using With = SysUtility::FileReach::With;
-  return reach.outside(file, use == Use::Picture ? With::Nothing : With::Companions);
+  return file.isEmpty() ? QString() : reach.outside(file, use == Use::Picture ? With::Nothing : With::Companions);
 }
 
 QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
@@ -62,7 +64,9 @@ QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
     for (TableJoin const& join : source.joins) sources.append({join.file, Use::Table, user, QString()});
   };
   SourceSettings const& ofSeries = PageLayoutHost::series(layout).source;
-  if (!ofSeries.file.isEmpty()) sources.append({ofSeries.file, Use::Series, QString(), QString()});
+  if (ofSeries.isGiven())
+    sources.append({ofSeries.connection.isEmpty() ? ofSeries.file : QString(), Use::Series, QString(), QString(),
+                    ofSeries.connection, ofSeries.layer});
   addTables(ofSeries, QString());
   visitSources(
       layout,
@@ -70,6 +74,10 @@ QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
         QString problem = problemOf(layer);
         if (!problem.isEmpty()) problem = Texts::tr("Layer “%1”: %2").arg(layer.GetName(), problem);
         Use use = Use::Layer;
+        auto const* const vector = dynamic_cast<VectorLayer const*>(&layer);
+        if (vector && !vector->source().connection.isEmpty())
+          sources.append({QString(), std::exchange(use, Use::Table), layer.GetName(), std::exchange(problem, QString()),
+                          vector->source().connection, vector->source().layer});
         for (QString const& file : filesOf(layer))
           sources.append({file, std::exchange(use, Use::Table), layer.GetName(), std::exchange(problem, QString())});
       },

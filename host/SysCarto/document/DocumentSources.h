@@ -18,10 +18,12 @@ class PageLayout;
 struct SYSCARTO_EXPORT DocumentSource {
   enum class Use { Layer, Table, Picture, Series };  ///< a table is joined to a layer or to the series
 
-  QString file;  ///< absolute, or what may not be opened, as it was written
+  QString file;  ///< absolute, or what may not be opened, as it was written; empty for a connection
   Use use;
-  QString user;     ///< the name of the layer or the picture's element; may be empty
-  QString problem;  ///< why it could not be read, as a sentence that names who draws it; empty where it was
+  QString user;             ///< the name of the layer or the picture's element; may be empty
+  QString problem;          ///< why it could not be read, as a sentence that names who draws it; empty where it was
+  QString connection = {};  ///< stands in for the file
+  QString table = {};       ///< of the connection
 
   /// Where it leads outside of what the reach holds; empty where it does not.
   QString outside(SysUtility::FileReach const& reach) const;
@@ -30,7 +32,7 @@ struct SYSCARTO_EXPORT DocumentSource {
 /// One for each use, in no particular order. Pictures and symbols that lie in the document itself have no file.
 SYSCARTO_EXPORT QVector<DocumentSource> sourcesOf(PageLayout const& layout);
 
-/// Reads these files anew, for all that draw them.
+/// Reads these files and connections (as `SourceSettings::origin`) anew, for all that draw them.
 SYSCARTO_EXPORT void readAgain(PageLayout const& layout, QStringList const& files);
 
 }  // namespace SysCarto

@@ -110,10 +110,17 @@ void listSource(Fields& fields, SourceSettings& source) {
            "The local file of the data (GeoPackage, GeoJSON, Shapefile, FlatGeobuf, GPX, KML, MapInfo, DXF or CSV), "
            "relative to the document.")},
       source.file, TextKind::File, QString());
-  if (fields.isReading() && source.data == SourceSettings::Data::File && source.file.isEmpty())
+  fields.text({"connection", QT_TRANSLATE_NOOP("Fields", "Connection"),
+               QT_TRANSLATE_NOOP("Fields",
+                                 "Stands in for the file where it is not empty: the name of a connection to a PostGIS "
+                                 "database, as it is called on the computer that opens the document.")},
+              source.connection, TextKind::Line, QString());
+  if (fields.isReading() && source.data == SourceSettings::Data::File && !source.isGiven())
     fields.fail("file", Texts::tr("is missing; name the file of the data"));
   fields.text({"layer", QT_TRANSLATE_NOOP("Fields", "Layer of the file"),
-               QT_TRANSLATE_NOOP("Fields", "Its name in the file; the first one where it is empty.")},
+               QT_TRANSLATE_NOOP("Fields",
+                                 "Its name in the file; the first one where it is empty. Of a connection, the table "
+                                 "with its schema, as in “public.roads”.")},
               source.layer, TextKind::Line, QString());
   fields.text(
       {"filter", QT_TRANSLATE_NOOP("Fields", "Filter"),

@@ -56,7 +56,7 @@ void SeriesSettings::list(Fields& fields) {
   bool const hasSource = fields.optionalObject(
       {"source", QT_TRANSLATE_NOOP("Fields", "Source"),
        QT_TRANSLATE_NOOP("Fields", "Data of which no map has a layer: each feature or row of a table has a page.")},
-      !series.source.file.isEmpty(), [this](Fields& own) { listSource(own, series.source); });
+      series.source.isGiven(), [this](Fields& own) { listSource(own, series.source); });
   if (fields.isReading() && !hasSource) series.source = {};
   fields.text(
       {"filter", QT_TRANSLATE_NOOP("Fields", "Filter"),

@@ -44,7 +44,7 @@ std::unique_ptr<ClassCounts> ClassCounts::open(SourceSettings const& source, Ren
   auto data = DataSource::open(source, error);
   if (!data) return nullptr;
   GdalErrors const quiet;
-  std::unique_ptr<ClassCounts> counts(new ClassCounts(std::move(data), source.file));
+  std::unique_ptr<ClassCounts> counts(new ClassCounts(std::move(data), source.origin()));
   error = counts->compile(source, renderer);
   if (!error.isEmpty()) return nullptr;
   counts->total_ = knownCount(counts->data_->layer());

@@ -4,6 +4,7 @@
 #include "DerivedLayer.h"
 #include "LocalDataset.h"
 #include "raster/RasterSource.h"
+#include "ServerLayer.h"
 #include "TableLayer.h"
 
 #include "host/SysCarto/projection/GdalErrors.h"
@@ -175,7 +176,8 @@ std::vector<FieldDescription> fieldsOf(OGRLayer& layer) {
   return fields;
 }
 
-LayerDescription describe(OGRLayer& from) {
+// What is known without a look at any feature.
+LayerDescription describeSchema(OGRLayer& from) {
   LayerDescription layer;
   layer.name = QString::fromUtf8(from.GetName());
   layer.fields = fieldsOf(from);
@@ -183,8 +185,14 @@ LayerDescription describe(OGRLayer& from) {
   layer.count = knownCount(from);
   auto const kind = kindOf(from.GetGeomType());
   layer.kind = kind.value_or(GeometryKind::Mixed);
-  OGREnvelope extent;
   if (layer.kind != GeometryKind::None) describeSystem(from.GetSpatialRef(), layer);
+  return layer;
+}
+
+LayerDescription describe(OGRLayer& from) {
+  LayerDescription layer = describeSchema(from);
+  auto const kind = kindOf(from.GetGeomType());
+  OGREnvelope extent;
   bool const hasExtent = layer.kind != GeometryKind::None && layer.count != 0 &&
                          from.TestCapability(OLCFastGetExtent) && from.GetExtent(&extent, FALSE) == OGRERR_NONE &&
                          extent.IsInit();
@@ -263,9 +271,40 @@ void addRasters(DataFile& file) {
   }
 }
 
+// Each table costs the server some small questions, so that none of its features are looked at.
+void describeTables(DataFile& file) {
+  constexpr int maxTables = 1000;
+  auto const database = ServerDatabase::open(connectionIn(file.path), ServerDatabase::Use::Tables, file.error);
+  if (!database) return;
+  GdalErrors const quiet;
+  file.format = QStringLiteral("PostGIS");
+  for (QString const& table : database->tables().mid(0, maxTables)) {
+    auto const layer = database->layer(table, file.error);
+    if (!layer) return;
+    file.layers.push_back(describeSchema(*layer));
+    file.layers.back().name = table;
+  }
+  if (file.layers.empty())
+    file.error = Texts::tr("The connection “%1” has no table with geometries that its user may read.")
+                     .arg(connectionIn(file.path));
+}
+
 }  // namespace
 
+SourceSettings sourceOf(DataFile const& file, LayerDescription const& layer) {
+  SourceSettings source = SourceSettings::of(file.path, layer.name);
+  source.xField = layer.xField;
+  source.yField = layer.yField;
+  source.geometryField = layer.geometryField;
+  return source;
+}
+
 DataFile describeFile(QString const& path) {
+  if (!connectionIn(path).isEmpty()) {
+    DataFile tables{path, {}, {}, {}};
+    describeTables(tables);
+    return tables;
+  }
   DataFile file{path, {}, {}, DataSource::refusal(path)};
   if (!file.error.isEmpty()) return file;
   if (mayHoldFeatures(path)) describeFeatures(file);

@@ -42,17 +42,21 @@ struct LayerDescription {
   Metadata metadata = {};
 };
 
-/// What a file holds. Layers without features of formats that always have the same layers are left out.
+/// What a file or a connection holds. Layers without features of formats that always have the same layers are left out.
 struct DataFile {
-  QString path;
+  QString path;    ///< of a connection, as `SourceSettings::origin`
   QString format;  ///< for people
   std::vector<LayerDescription> layers;
   QString error;  ///< a sentence that names the file, where it can't be read
   Metadata metadata = {};
 };
 
-/// Describes a local file (an absolute path) without reading all of it, as far as its format lets one. Where that does
-/// not say what the geometries are, features are looked at for a second; what is not known then may be mixed.
+/// A layer of it, with the columns that place the rows of a table.
+SYSCARTO_EXPORT SourceSettings sourceOf(DataFile const& file, LayerDescription const& layer);
+
+/// Describes a local file (an absolute path), or the tables of a connection, without reading all of it, as far as its
+/// format lets one. Where that does not say what the geometries are, features are looked at for a second; what is not
+/// known then may be mixed.
 SYSCARTO_EXPORT DataFile describeFile(QString const& path);
 
 /// Describes one layer of a file by reading its features, until all are read or the time is over: its count and extent,

@@ -2,6 +2,7 @@
 
 #include "JoinedLayer.h"
 #include "LocalDataset.h"
+#include "ServerLayer.h"
 #include "TableLayer.h"
 
 #include <QCoreApplication>
@@ -57,7 +58,8 @@ QString DataSource::refusal(QString const& path) {
 }
 
 struct DataSource::Opened {
-  DatasetPointer dataset;
+  DatasetPointer dataset;                              // of a file
+  std::unique_ptr<OGRLayer> table;                     // of a connection
   std::vector<std::unique_ptr<DerivedLayer>> derived;  // each of the one before
 };
 
@@ -67,11 +69,17 @@ std::unique_ptr<DataSource> DataSource::open(QString const& path, QString const&
 
 std::unique_ptr<DataSource> DataSource::open(SourceSettings const& source, QString& error) {
   bool const isGlobe = source.data == SourceSettings::Data::Globe;
-  error = isGlobe ? QString() : refusal(source.file);
+  bool const isTable = !isGlobe && !source.connection.isEmpty();
+  error = isGlobe || isTable ? QString() : refusal(source.file);
   if (!error.isEmpty()) return nullptr;
   auto opened = std::make_unique<Opened>();
-  opened->dataset = isGlobe ? globe() : openLocalDataset(source.file, error);
-  if (!opened->dataset) return nullptr;
+  if (isTable) {
+    auto const database = ServerDatabase::open(source.connection, ServerDatabase::Use::Layers, error);
+    if (database) opened->table = database->layer(source.layer, error);
+  } else {
+    opened->dataset = isGlobe ? globe() : openLocalDataset(source.file, error);
+  }
+  if (!opened->dataset && !opened->table) return nullptr;
   std::unique_ptr<DataSource> data(new DataSource(std::move(opened)));
   error = data->take(isGlobe ? SourceSettings() : source);
   if (!error.isEmpty()) return nullptr;
@@ -84,7 +92,19 @@ DataSource::~DataSource() = default;
 
 // The layer that the source names, and what is made of it.
 QString DataSource::take(SourceSettings const& source) {
-  GDALDataset& dataset = *opened_->dataset;
+  QString error;
+  layer_ = opened_->table.get();
+  if (!layer_) error = takeOfFile(*opened_->dataset, source);
+  if (!layer_) return error;
+  for (TableJoin const& join : source.joins) {
+    QString problem;
+    put(JoinedLayer::create(*layer_, join, problem));
+    if (!problem.isEmpty()) joinProblem_ = problem;
+  }
+  return error;
+}
+
+QString DataSource::takeOfFile(GDALDataset& dataset, SourceSettings const& source) {
   layer_ = source.layer.isEmpty() ? dataset.GetLayer(0) : dataset.GetLayerByName(source.layer.toUtf8().constData());
   if (!layer_ && dataset.GetLayerCount() == 0) return Texts::tr("The file “%1” holds no layer.").arg(source.file);
   if (!layer_)
@@ -92,11 +112,6 @@ QString DataSource::take(SourceSettings const& source) {
         .arg(source.file, source.layer, layerNames(dataset));
   QString error;
   if (isTextTable(dataset)) put(TableLayer::create(*layer_, source, error));
-  for (TableJoin const& join : source.joins) {
-    QString problem;
-    put(JoinedLayer::create(*layer_, join, problem));
-    if (!problem.isEmpty()) joinProblem_ = problem;
-  }
   return error;
 }
 

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+class GDALDataset;
 class OGRLayer;
 
 namespace SysCarto {
@@ -15,7 +16,7 @@ namespace SysCarto {
 class DerivedLayer;
 struct SourceSettings;
 
-/// A vector layer in a local file, open for reading.
+/// A vector layer in a local file, or a table that a connection leads to, open for reading.
 ///
 /// Documents come from strangers, so a source is a plain file and nothing else: no network, no virtual file system, no
 /// directory, and only formats that can't name further files, but for the companions of theirs. Opening leaves nothing
@@ -46,6 +47,7 @@ private:
   explicit DataSource(std::unique_ptr<Opened> opened);
 
   QString take(SourceSettings const& source);
+  QString takeOfFile(GDALDataset& dataset, SourceSettings const& source);
   void put(std::unique_ptr<DerivedLayer> layer);
 
   std::unique_ptr<Opened> opened_;

@@ -37,6 +37,8 @@ struct Texts {
 
 QString describeSource(SourceSettings const& source) {
   if (source.data == SourceSettings::Data::Globe) return Texts::tr("the globe");
+  if (!source.connection.isEmpty())
+    return Texts::tr("the table “%1” of the connection “%2”").arg(source.layer, source.connection);
   return source.layer.isEmpty() ? Texts::tr("the file “%1”").arg(source.file)
                                 : Texts::tr("layer “%2” of the file “%1”").arg(source.file, source.layer);
 }
@@ -115,7 +117,8 @@ WindowThreshold& threshold() {
 
 // Whether windows are worth it. Only tables of an index of their own have one.
 bool isLarge(OGRLayer& layer, SourceSettings const& source) {
-  if (source.data == SourceSettings::Data::Globe || !layer.TestCapability(OLCFastSpatialFilter)) return false;
+  bool const isFile = source.data == SourceSettings::Data::File && source.connection.isEmpty();
+  if (!isFile || !layer.TestCapability(OLCFastSpatialFilter)) return false;
   return knownCount(layer) >= threshold().features || dataSizeOf(source.file) >= threshold().bytes;
 }
 
@@ -284,7 +287,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   } else {
     leaveOut(layer, condition, renderer, labels);
     Selection selection(layer, query, projector);
-    SourceBounds bounds(source.file);
+    SourceBounds bounds = source.connection.isEmpty() ? SourceBounds(source.file) : SourceBounds::ofServer();
     while (OGRFeatureUniquePtr feature = selection.next()) {
       if (!bounds.admits(*feature)) break;
       if (feature->GetGeometryRef() && condition.admits(*feature)) {
@@ -294,6 +297,8 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
       result.wasStopped = !watch.goesOn();
       if (result.wasStopped) return;
     }
+    result.wasStopped = watch.wasStopped();
+    if (result.wasStopped) return;
     unplaced = intake.finish();
     store.finish();
     if (result.pack) result.pack->finish();

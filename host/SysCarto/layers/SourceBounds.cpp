@@ -42,6 +42,9 @@ std::size_t bytesOf(OGRField const& value, OGRFieldType type) {
   }
 }
 
+constexpr std::size_t featuresOfServer = 5000000;
+constexpr std::size_t bytesOfServer = 2000000000;
+
 }  // namespace
 
 std::size_t bytesOf(OGRFeature const& feature) {
@@ -79,6 +82,8 @@ SourceBounds::SourceBounds(QString const& file) {
   bytesLeft_ = freeBytes + bytesPerByte * size;
 }
 
+SourceBounds SourceBounds::ofServer() { return {featuresOfServer, bytesOfServer}; }
+
 bool SourceBounds::admits(OGRFeature const& feature) {
   std::size_t const bytes = bytesOf(feature);
   bool const isFew = featuresLeft_ > 0;
@@ -87,8 +92,11 @@ bool SourceBounds::admits(OGRFeature const& feature) {
     bytesLeft_ -= bytes;
     return true;
   }
-  QString const reason = isFew ? Texts::tr("it gives longer values than a file of its size can hold")
-                               : Texts::tr("it gives more features than a file of its size can hold");
+  QString const ofServer =
+      Texts::tr("it gives more than 5 million features or 2 GB; let the layer show a view of it that has fewer");
+  QString const reason = !isOfFile_ ? ofServer
+                         : isFew    ? Texts::tr("it gives longer values than a file of its size can hold")
+                                    : Texts::tr("it gives more features than a file of its size can hold");
   CPLError(CE_Failure, CPLE_AppDefined, "%s", reason.toUtf8().constData());
   return false;
 }

@@ -32,11 +32,19 @@ public:
   /// No file, no size.
   explicit SourceBounds(QString const& file);
 
+  /// Of a server, which has no size that could be asked for: a person of trust has named it, and what bounds it is the
+  /// memory of this computer.
+  static SourceBounds ofServer();
+
   /// False once it is too much; the error handler of GDAL is then told why.
   bool admits(OGRFeature const& feature);
 
 private:
+  SourceBounds(std::size_t features, std::size_t bytes)
+      : featuresLeft_(features), bytesLeft_(bytes), isOfFile_(false) {}
+
   std::size_t featuresLeft_, bytesLeft_;
+  bool isOfFile_ = true;
 };
 
 }  // namespace SysCarto

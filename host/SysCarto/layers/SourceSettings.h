@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Connections.h"
+
 #include <QString>
 
 #include <tuple>
@@ -41,10 +43,25 @@ struct SourceSettings {
 
   Data data = Data::File;  ///< the other members are for a file
 
+  /// Stands in for the file: the name of a connection to a database, of which the layer is a table.
+  QString connection = {};
+
+  /// Whether it names a file or what stands in for it.
+  bool isGiven() const { return !file.isEmpty() || !connection.isEmpty(); }
+
+  /// The file, or what stands in for it as a command line has it.
+  QString origin() const { return connection.isEmpty() ? file : originOf(connection); }
+  static SourceSettings of(QString const& origin, QString const& layer) {
+    SourceSettings source{origin, layer, {}, {}};
+    source.connection = connectionIn(origin);
+    if (!source.connection.isEmpty()) source.file.clear();
+    return source;
+  }
+
   bool operator==(SourceSettings const& other) const {
-    return std::tie(file, layer, filter, coordinateSystem, xField, yField, geometryField, joins, data) ==
+    return std::tie(file, layer, filter, coordinateSystem, xField, yField, geometryField, joins, data, connection) ==
            std::tie(other.file, other.layer, other.filter, other.coordinateSystem, other.xField, other.yField,
-                    other.geometryField, other.joins, other.data);
+                    other.geometryField, other.joins, other.data, other.connection);
   }
 };
 

@@ -17,6 +17,8 @@ namespace {
 constexpr int betweenQuestionsMs = 50;  // whether the reading goes on
 constexpr int patienceAtEndMs = 500;
 
+thread_local ReadWatch* watchOfThread = nullptr;
+
 QThreadPool& readingThreads();
 
 void waitAtEnd() { readingThreads().waitForDone(patienceAtEndMs); }
@@ -56,15 +58,19 @@ std::unique_ptr<DataSource> openWatched(SourceSettings const& source, ReadProgre
 }
 
 ReadWatch::ReadWatch(OGRLayer& layer, ReadProgress const& progress)
-    : progress_(progress), count_(progress ? knownCount(layer) : -1) {
+    : progress_(progress), count_(progress ? knownCount(layer) : -1), around_(std::exchange(watchOfThread, this)) {
   clock_.start();
 }
 
+ReadWatch::~ReadWatch() { watchOfThread = around_; }
+
+bool isStillWanted() { return !watchOfThread || !watchOfThread->progress_ || watchOfThread->ask(); }
+
 bool ReadWatch::ask() {
-  if (clock_.elapsed() < betweenQuestionsMs) return true;
-  bool const isWanted = progress_(read_, count_);
+  if (clock_.elapsed() < betweenQuestionsMs) return !wasStopped_;
+  wasStopped_ = wasStopped_ || !progress_(read_, count_);
   clock_.restart();
-  return isWanted;
+  return !wasStopped_;
 }
 
 }  // namespace SysCarto

@@ -49,24 +49,36 @@ auto watched(Work work, ReadProgress const& progress) -> std::optional<decltype(
 SYSCARTO_EXPORT std::unique_ptr<DataSource> openWatched(SourceSettings const& source, ReadProgress const& progress,
                                                         QString& error);
 
+/// Whether whoever waits for features that are read on this thread still does; true where nobody could be asked.
+bool isStillWanted();
+
 /// Asks whoever waits while features are read, but not so often that it would cost time.
 class SYSCARTO_EXPORT ReadWatch {
 public:
   /// The progress may be empty; it is borrowed.
   ReadWatch(OGRLayer& layer, ReadProgress const& progress);
+  ~ReadWatch();
+  ReadWatch(ReadWatch const&) = delete;
+  ReadWatch& operator=(ReadWatch const&) = delete;
 
   /// To be called for each feature.
   bool goesOn() {
     constexpr int betweenLooks = 256;
-    return !progress_ || ++read_ % betweenLooks != 0 || ask();
+    return !progress_ || (!wasStopped_ && (++read_ % betweenLooks != 0 || ask()));
   }
 
+  /// Also by a layer that had to wait for its features, and ended them then.
+  bool wasStopped() const { return wasStopped_; }
+
 private:
+  friend bool isStillWanted();
   bool ask();
 
   ReadProgress const& progress_;
   qint64 const count_;
   qint64 read_ = 0;
+  bool wasStopped_ = false;
+  ReadWatch* const around_;  // of this thread
   QElapsedTimer clock_;
 };
 

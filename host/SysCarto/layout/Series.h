@@ -41,7 +41,7 @@ struct Series {
   bool hidesOthers = false;
   SysUtility::_ptr_t<SysDisplay::FillSymbol> outside;
 
-  bool isUsed() const { return !layer.isEmpty() || !source.file.isEmpty(); }
+  bool isUsed() const { return !layer.isEmpty() || source.isGiven(); }
 };
 
 /// What the layout knows of the page that is shown of a series.

@@ -22,7 +22,7 @@ QStringList filesOf(Layer const& layer) {
   QStringList files;
   if (auto const* const vector = dynamic_cast<VectorLayer const*>(&layer)) {
     if (vector->source().data != SourceSettings::Data::File) return files;
-    files << vector->source().file;
+    if (vector->source().connection.isEmpty()) files << vector->source().file;
     for (TableJoin const& join : vector->source().joins) files << join.file;
   }
   if (auto const* const raster = dynamic_cast<RasterLayer const*>(&layer)) files << raster->source().file;

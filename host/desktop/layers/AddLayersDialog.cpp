@@ -4,7 +4,6 @@
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFileInfo>
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -88,7 +87,7 @@ void AddLayersDialog::buildColumns() {
 void AddLayersDialog::addFile(DataFile const& file) {
   waiting_.removeOne(file.path);
   QSignalBlocker quiet(rows_);  // each change of a row would look at all of them
-  auto* const top = new QTreeWidgetItem(rows_, {QFileInfo(file.path).fileName(), file.format});
+  auto* const top = new QTreeWidgetItem(rows_, {SysCarto::titleOf(file.path), file.format});
   top->setToolTip(NameColumn, file.path);
   if (!file.error.isEmpty()) {
     auto* const problem = new QTreeWidgetItem(top, {file.error});
@@ -99,7 +98,8 @@ void AddLayersDialog::addFile(DataFile const& file) {
   for (LayerDescription const& layer : file.layers) {
     auto* const row = new QTreeWidgetItem(top, {layer.name});
     row->setTextAlignment(CountColumn, Qt::AlignRight | Qt::AlignVCenter);
-    row->setCheckState(NameColumn, layer.kind == GeometryKind::None ? Qt::Unchecked : Qt::Checked);
+    bool const isOneOfMany = !SysCarto::connectionIn(file.path).isEmpty();  // of which nobody wants all
+    row->setCheckState(NameColumn, layer.kind == GeometryKind::None || isOneOfMany ? Qt::Unchecked : Qt::Checked);
     entries_.push_back({{file.path, file.format, {}, {}}, file.layers.size() == 1, layer, row});
     show(entries_.back());
   }
@@ -132,7 +132,7 @@ void AddLayersDialog::measured(SysCarto::SourceSettings const& source, LayerDesc
                                QString const& error) {
   QSignalBlocker const quiet(rows_);
   for (Entry& entry : entries_) {
-    if (entry.file.path != source.file || entry.layer.name != source.layer || !error.isEmpty()) continue;
+    if (entry.file.path != source.origin() || entry.layer.name != source.layer || !error.isEmpty()) continue;
     bool const hadPlaces = entry.layer.kind != GeometryKind::None;
     entry.layer = layer;
     show(entry);
@@ -183,7 +183,7 @@ bool AddLayersDialog::isChecked(Entry const& entry) {
 void AddLayersDialog::showState() {
   add_->setEnabled(std::any_of(entries_.begin(), entries_.end(), isChecked));
   if (!waiting_.isEmpty())
-    state_->setText(tr("Reading %1…").arg(QFileInfo(waiting_.first()).fileName()));
+    state_->setText(tr("Reading %1…").arg(SysCarto::titleOf(waiting_.first())));
   else if (files_.isBusy())
     state_->setText(tr("Counting…"));
   else

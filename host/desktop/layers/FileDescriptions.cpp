@@ -54,7 +54,7 @@ struct FileDescriptions::Mailbox {
     put([=](FileDescriptions& to) { emit to.described(file); });
     if (clock.elapsed() > patience.count()) return;  // it would have to be opened once more
     for (LayerDescription const& layer : file.layers)
-      if (!isKnown(layer)) measure({path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField});
+      if (!isKnown(layer)) measure(SysCarto::sourceOf(file, layer));
   }
   static void work(std::shared_ptr<Mailbox> const& box) {
     while (true) {

@@ -3,14 +3,18 @@
 #include "AddLayersDialog.h"
 #include "ReadingProgress.h"
 
+#include "host/SysCarto/layers/Connections.h"
 #include "host/SysCarto/layers/raster/RasterSource.h"
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/DocumentViews.h"
+#include "host/desktop/HostCommands.h"
+#include "host/desktop/connections/ConnectionAccess.h"
 
 #include <SysCarto/Map.h>
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
@@ -73,6 +77,31 @@ void LayerAdding::chooseFiles() {
   if (files.isEmpty()) return;
   keepFolder(files.first());
   addFiles(files);
+}
+
+void LayerAdding::addTo(HostCommands& host) {
+  auto const hasPage = [this] {
+    auto const layout = views_.GetPageLayout();
+    return layout && layout->GetPage();
+  };
+  host.add(QStringLiteral("Host_AddLayer"), {[this] { chooseFiles(); }, hasPage, {}});
+  host.add(QStringLiteral("Host_AddTables"), {[this] { chooseTables(); }, hasPage, {}});
+}
+
+void LayerAdding::chooseTables() {
+  QStringList const names = SysCarto::Connections::names();
+  if (names.isEmpty()) return complain(tr("No connection to a database is known; add one in Edit › Connections…."));
+  bool isChosen = true;
+  QString const name = names.size() == 1 ? names.first()
+                                         : QInputDialog::getItem(&parent_, tr("Add Layers from Database"),
+                                                                 tr("Connection:"), names, 0, false, &isChosen);
+  auto const file = isChosen ? ConnectionAccess::describe(name, parent_) : std::nullopt;
+  if (!file) return;
+  if (!file->error.isEmpty()) return complain(file->error);
+  AddLayersDialog dialog({file->path}, &parent_);
+  if (dialog.exec() != QDialog::Accepted) return;
+  SysCarto::Connections::choose(name);
+  add(dialog.chosen());
 }
 
 void LayerAdding::addFiles(QStringList const& paths) {

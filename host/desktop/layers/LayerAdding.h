@@ -9,6 +9,7 @@
 
 class DocumentSession;
 class DocumentViews;
+class HostCommands;
 class QMimeData;
 class QPoint;
 class QWidget;
@@ -29,8 +30,14 @@ public:
   /// Asks for one file of data; empty where none is chosen.
   static QString askForFile(DocumentSession const& session, QString const& title, QWidget* parent);
 
+  /// The commands that add layers.
+  void addTo(HostCommands& host);
+
   /// Asks for files, and adds what a person chooses of them.
   void chooseFiles();
+
+  /// Asks for a connection where there are several, and adds what a person chooses of its tables.
+  void chooseTables();
 
   /// Adds what a person chooses of files and of the files in folders.
   void addFiles(QStringList const& paths);

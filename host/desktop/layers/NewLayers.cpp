@@ -17,8 +17,6 @@
 #include <SysCarto/PageLayout.h>
 #include <SysFramework/HostAccess.h>
 
-#include <QFileInfo>
-
 #include <algorithm>
 
 using SysCarto::DataFile;
@@ -180,7 +178,7 @@ void putSystem(Map& map, QString const& system) { map.SetCoordinateSystem(system
 
 std::vector<NewLayer> NewLayers::of(DataFile const& file, LayerDescription const& layer) {
   if (layer.kind == GeometryKind::None) return {};
-  NewLayer one{{file.path, layer.name, {}, {}, layer.xField, layer.yField, layer.geometryField}, layer};
+  NewLayer one{SysCarto::sourceOf(file, layer), layer};
   bool const isTable = !layer.xField.isEmpty() || !layer.geometryField.isEmpty();
   if (isTable) one.source.coordinateSystem = layer.coordinateSystem;
   return {one};
@@ -237,7 +235,7 @@ QString NewLayers::add(SysCarto::MapDocument const& document, std::vector<NewLay
 }
 
 QString NewLayers::addNamed(SysCarto::MapDocument const& document, QString const& text, QStringList& warnings) {
-  QString const path = QFileInfo(text.section(QLatin1Char('|'), 0, 0)).absoluteFilePath();
+  QString const path = SysCarto::absoluteOrigin(text.section(QLatin1Char('|'), 0, 0));
   QString const name = text.section(QLatin1Char('|'), 1);
   DataFile const file = SysCarto::describeFile(path);
   if (!file.error.isEmpty()) return file.error;

@@ -38,6 +38,6 @@ public:
                      SysUtility::_ptr_t<SysCarto::Layer> const& below, SysCarto::ReadProgress const& progress,
                      QStringList& warnings);
 
-  /// Adds what a text names: a file with all of its layers, or FILE|LAYER.
+  /// Adds what a text names: a file with all of its layers, or FILE|LAYER; connection:NAME in place of a file.
   static QString addNamed(SysCarto::MapDocument const& document, QString const& text, QStringList& warnings);
 };

@@ -135,7 +135,7 @@ bool NewMap::check() {
 bool NewMap::survey() {
   for (NewMapRequest::Data const& data : request_.data) {
     QFileInfo const named(data.file);
-    QString const path = named.absoluteFilePath();
+    QString const path = SysCarto::absoluteOrigin(data.file);
     for (QString const& file : named.isDir() ? SysCarto::dataFilesIn(path) : QVector<QString>{path})
       if (!surveyFile(file, data.layer, named.isDir())) return false;
   }
@@ -164,7 +164,8 @@ bool NewMap::surveyFile(QString const& file, QString const& layer, bool isOfFold
     if (!layer.isEmpty() && one.name != layer) continue;
     isKnown = true;
     QString problem;
-    SysCarto::SourceSettings const source{file, one.name, request_.where, QString()};
+    auto source = SysCarto::SourceSettings::of(file, one.name);
+    source.filter = request_.where;
     auto const survey = surveyLayer(source, one, progress_, problem);
     if (result_.wasStopped) return false;
     if (!survey && request_.where.isEmpty() && !isOfFolder) return fail(problem);
@@ -175,7 +176,7 @@ bool NewMap::surveyFile(QString const& file, QString const& layer, bool isOfFold
     bool const isTable = survey->count == 0 && one.kind == SysCarto::GeometryKind::None && one.count != 0;
     if (isTable || (layer.isEmpty() && isPartOfTrack(one.name, described))) continue;
     if (survey->count == 0)
-      result_.warnings << tr("The layer “%1” of %2 has no features to show.").arg(one.name, QFileInfo(file).fileName());
+      result_.warnings << tr("The layer “%1” of %2 has no features to show.").arg(one.name, SysCarto::titleOf(file));
     surveys_.push_back(*survey);
   }
   if (!isKnown)
@@ -242,7 +243,9 @@ bool NewMap::hasSea() const {
 QString NewMap::title() const {
   if (!request_.title.isEmpty()) return request_.title;
   if (layers_.size() == 1) return layers_.front().name;
-  QString name = QFileInfo(surveys_.front().source.file).completeBaseName().replace(QLatin1Char('_'), QLatin1Char(' '));
+  QString name = QFileInfo(SysCarto::titleOf(surveys_.front().source.origin()))
+                     .completeBaseName()
+                     .replace(QLatin1Char('_'), QLatin1Char(' '));
   return name.left(1).toUpper() + name.mid(1);
 }
 

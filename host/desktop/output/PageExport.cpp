@@ -24,11 +24,13 @@ constexpr double mmPerCm = 10;
 constexpr double freePixels = 5e9;
 constexpr double timesThePage = 400;
 constexpr double pixelsPerByte = 1e4;
+constexpr double bytesOfTable = 5e7;  // of a connection, whose server has no size that could be asked for
 
 double worthOf(SysCarto::MapDocument const& document, QSize const& size) {
   double bytes = static_cast<double>(QFileInfo(document.GetPath()).size());
   for (auto const& source : SysCarto::sourcesOf(*document.GetPageLayout()))
-    if (source.problem.isEmpty()) bytes += static_cast<double>(SysCarto::dataSizeOf(source.file));
+    if (source.problem.isEmpty())
+      bytes += source.file.isEmpty() ? bytesOfTable : static_cast<double>(SysCarto::dataSizeOf(source.file));
   return freePixels + timesThePage * size.width() * size.height() + pixelsPerByte * bytes;
 }
 

@@ -30,7 +30,7 @@ QDateTime lastChange(SysCarto::MapDocument const& document) {
   QDateTime last = QFileInfo(document.GetPath()).lastModified();
   QSet<QString> seen;
   for (auto const& source : SysCarto::sourcesOf(*document.GetPageLayout())) {
-    if (seen.contains(source.file)) continue;
+    if (source.file.isEmpty() || seen.contains(source.file)) continue;
     seen << source.file;
     for (QString const& file : SysCarto::filesOf(source.file))
       if (QFileInfo const there(file); there.exists()) last = std::max(last, there.lastModified());

@@ -24,7 +24,7 @@ bool scanFeatures(SysCarto::SourceSettings const& source, SysCarto::ReadProgress
   SysCarto::Condition condition;
   QString reason;
   if (!condition.compile(data->layer(), source.filter, reason)) {
-    problem = Texts::tr("%1: the filter “%2” is not understood: %3.").arg(source.file, source.filter, reason);
+    problem = Texts::tr("%1: the filter “%2” is not understood: %3.").arg(source.origin(), source.filter, reason);
     return false;
   }
   SysCarto::GdalErrors const errors;
@@ -35,6 +35,8 @@ bool scanFeatures(SysCarto::SourceSettings const& source, SysCarto::ReadProgress
     if (geometry && !geometry->IsEmpty() && condition.admits(*feature)) use(*feature);
     if (!watch.goesOn()) return false;
   }
-  if (errors.hasFailure()) problem = Texts::tr("Not all of %1 could be read: %2.").arg(source.file, errors.reason());
+  if (watch.wasStopped()) return false;
+  if (errors.hasFailure())
+    problem = Texts::tr("Not all of %1 could be read: %2.").arg(source.origin(), errors.reason());
   return !errors.hasFailure();
 }

@@ -255,8 +255,10 @@ QJsonObject labelsOf(Material const& of, FieldSurvey const& names, FieldSurvey c
 }
 
 QJsonObject stored(SysCarto::SourceSettings const& source) {
-  QJsonObject json{{"file", source.file}, {"layer", source.layer}};
-  for (auto const& [key, text] : {std::make_pair("filter", source.filter),
+  QJsonObject json{{"layer", source.layer}};
+  for (auto const& [key, text] : {std::make_pair("file", source.file),
+                                  {"connection", source.connection},
+                                  {"filter", source.filter},
                                   {"coordinateSystem", source.coordinateSystem},
                                   {"xField", source.xField},
                                   {"yField", source.yField},
@@ -396,7 +398,10 @@ std::vector<StyledLayer> LayerStyling::styleKinds(LayerSurvey const& survey) {
 StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind,
                                     SysCarto::SourceSettings const& source) {
   QString const file = QFileInfo(source.file).completeBaseName();
-  QString const name = source.layer.isEmpty() ? file : source.layer;
+  bool const isTable = !source.connection.isEmpty();  // which is told with its schema
+  QString const name = isTable                  ? source.layer.section(QLatin1Char('.'), 1)
+                       : source.layer.isEmpty() ? file
+                                                : source.layer;
   Material of{survey, kind, Theme::of(name, kind), pageCm2_, source};
   bool const isArea = kind != GeometryKind::Lines && kind != GeometryKind::Points;
   bool const isLand = isArea && showsLand(survey, area_);
@@ -409,7 +414,7 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
   StyledLayer styled;
   bool const isPart = source.filter != survey.source.filter;  // of a layer that mixes kinds
   styled.name =
-      freeName(isPart ? Texts::tr("%1 (%2)").arg(forPeople(name), kindText(kind)) : forPeople(name), source.file);
+      freeName(isPart ? Texts::tr("%1 (%2)").arg(forPeople(name), kindText(kind)) : forPeople(name), source.origin());
   styled.extent = survey.extent;
   styled.order = DrawingOrder::of(kind, of.theme, survey.counts.value(kind), survey.largestKm2);
   styled.outliers = survey.outliers;
@@ -424,7 +429,7 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
                  {"name", styled.name},
                  {"source", stored(source)},
                  {"renderer", look.renderer},
-                 {"credits", QFileInfo(source.file).fileName()}};
+                 {"credits", SysCarto::titleOf(source.origin())}};
   bool const isCrowded = of.theme.subject == Theme::Subject::Building && survey.count > maxLabelledBuildings;
   if (names && !isCrowded) {
     styled.json.insert("labels", labelsOf(of, *names, size));

@@ -2,6 +2,7 @@
 
 #include "ConditionDialog.h"
 
+#include "host/SysCarto/layers/DataSource.h"
 #include "host/desktop/layers/DataReport.h"
 #include "host/desktop/layers/FileDescriptions.h"
 
@@ -48,7 +49,7 @@ FileFacts::~FileFacts() = default;
 void FileFacts::show(SourceSettings const& source) {
   QFileInfo const info(source.file);
   QString const stamp = QStringLiteral("%1 %2 %3 %4 %5")
-                            .arg(source.file, source.layer)
+                            .arg(source.origin(), source.layer)
                             .arg(static_cast<int>(source.data))
                             .arg(info.size())
                             .arg(info.lastModified().toMSecsSinceEpoch());
@@ -66,11 +67,13 @@ void FileFacts::show(SourceSettings const& source) {
             if (of.layer == layer_.name) takeMeasure(layer);
           });
   fill();
-  if (source.data == SourceSettings::Data::File && !source.file.isEmpty()) descriptions_->describe({source.file});
+  bool const isOpen = source.connection.isEmpty() ? SysCarto::DataSource::refusal(source.file).isEmpty()
+                                                  : SysCarto::Connections::isAllowed(source.connection);
+  if (source.data == SourceSettings::Data::File && isOpen) descriptions_->describe({source.origin()});
 }
 
 QString FileFacts::systemText() const {
-  if (source_.data == SourceSettings::Data::Globe || source_.file.isEmpty()) return tr("The layer has no file.");
+  if (source_.data == SourceSettings::Data::Globe || !source_.isGiven()) return tr("The layer has no file.");
   if (!file_.error.isEmpty()) return file_.error;
   if (file_.path.isEmpty()) return tr("The file is being read.");
   if (layer_.name.isEmpty()) return tr("The file has no layer “%1”.").arg(source_.layer);
@@ -110,6 +113,7 @@ void FileFacts::fill() {
     return;
   }
   addRow(*tree_, tr("File"), QDir::toNativeSeparators(source_.file));
+  addRow(*tree_, tr("Connection"), source_.connection);
   addRow(*tree_, tr("Problem"), file_.error);
   addRow(*tree_, tr("Format"), file_.format);
   if (info.exists()) addRow(*tree_, tr("Size"), locale.formattedDataSize(info.size()));

@@ -1,0 +1,135 @@
+#include "ConnectionsDialog.h"
+
+#include "ConnectionAccess.h"
+
+#include "host/desktop/SettingsDialog.h"
+#include "host/desktop/SettingsSource.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using SysCarto::Connection;
+
+namespace {
+
+constexpr QSize firstSize(520, 320);
+
+}  // namespace
+
+ConnectionsDialog::ConnectionsDialog(QWidget* parent)
+    : QDialog(parent), kept_(KeptConnections::kept()), list_(new QListWidget(this)) {
+  setWindowTitle(tr("Connections"));
+  resize(firstSize);
+  list_->setObjectName(QStringLiteral("listWidget_Connections"));
+  list_->setAccessibleName(tr("Connections to databases"));
+  auto* const side = new QVBoxLayout;
+  auto const button = [&](QString const& text, char const* name) {
+    auto* const made = new QPushButton(text, this);
+    made->setObjectName(QLatin1String(name));
+    made->setAutoDefault(false);
+    side->addWidget(made);
+    return made;
+  };
+  auto* const add = button(tr("&Add…"), "pushButton_Add");
+  edit_ = button(tr("&Change…"), "pushButton_Change");
+  test_ = button(tr("&Test"), "pushButton_Test");
+  remove_ = button(tr("&Remove"), "pushButton_Remove");
+  side->addStretch(1);
+  auto* const row = new QHBoxLayout;
+  row->addWidget(list_, 1);
+  row->addLayout(side);
+  auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+  auto* const column = new QVBoxLayout(this);
+  column->addLayout(row, 1);
+  column->addWidget(buttons);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  connect(add, &QPushButton::clicked, this, [this] { edit(true); });
+  connect(edit_, &QPushButton::clicked, this, [this] { edit(false); });
+  connect(remove_, &QPushButton::clicked, this, &ConnectionsDialog::remove);
+  connect(test_, &QPushButton::clicked, this, &ConnectionsDialog::test);
+  connect(list_, &QListWidget::itemDoubleClicked, this, [this] { edit(false); });
+  connect(list_, &QListWidget::currentRowChanged, this, &ConnectionsDialog::showState);
+  fill(QString());
+}
+
+ConnectionsDialog::~ConnectionsDialog() = default;
+
+QString ConnectionsDialog::current() const {
+  int const row = list_->currentRow();
+  return row < 0 ? QString() : kept_.connections[static_cast<size_t>(row)].name;
+}
+
+void ConnectionsDialog::fill(QString const& chosen) {
+  list_->clear();
+  for (Connection const& one : kept_.connections) {
+    QString const host = one.host.isEmpty() ? tr("this computer") : one.host;
+    QString text = tr("%1: %2 at %3").arg(one.name, one.database.isEmpty() ? one.user : one.database, host);
+    if (one.forDocuments) text += tr(" (open to documents)");
+    list_->addItem(text);
+    if (one.name == chosen || list_->currentRow() < 0) list_->setCurrentRow(list_->count() - 1);
+  }
+  showState();
+}
+
+void ConnectionsDialog::showState() {
+  for (QPushButton* const button : {edit_, remove_, test_}) button->setEnabled(list_->currentRow() >= 0);
+}
+
+void ConnectionsDialog::edit(bool isNew) {
+  Connection* const now = isNew ? nullptr : kept_.find(current());
+  if (!isNew && !now) return;
+  QString const before = current();
+  Connection fresh;
+  fresh.name = tr("database");
+  SettingsSource source(now ? *now : fresh);
+  SettingsDialog dialog(now ? tr("Connection “%1”").arg(before) : tr("New Connection"), source, {}, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  Connection const made = source.settings();
+  Connection const* const same = kept_.find(made.name);
+  if (same && same != now)
+    return tell(true, tr("There is a connection “%1” already; take another name.").arg(made.name));
+  if (now)
+    *now = made;
+  else
+    kept_.connections.push_back(made);
+  keep(made.name);
+}
+
+void ConnectionsDialog::remove() {
+  QString const name = current();
+  auto& all = kept_.connections;
+  all.erase(std::remove_if(all.begin(), all.end(), [&](Connection const& one) { return one.name == name; }), all.end());
+  keep(QString());
+}
+
+void ConnectionsDialog::keep(QString const& chosen) {
+  QString const problem = kept_.keep();
+  KeptConnections::confine();
+  if (!problem.isEmpty()) tell(true, problem);
+  fill(chosen);
+}
+
+void ConnectionsDialog::test() {
+  QString const name = current();
+  auto const file = ConnectionAccess::describe(name, *this);
+  if (!file) return;
+  if (!file->error.isEmpty()) return tell(true, file->error);
+  constexpr size_t maxNames = 20;
+  QStringList names;
+  for (size_t i = 0; i < file->layers.size() && i < maxNames; ++i) names << file->layers[i].name;
+  if (file->layers.size() > maxNames) names << tr("%1 more").arg(file->layers.size() - maxNames);
+  tell(false, tr("The connection “%1” leads to these tables: %2.").arg(name, names.join(QStringLiteral(", "))));
+}
+
+void ConnectionsDialog::tell(bool isProblem, QString const& sentence) {
+  QMessageBox box(isProblem ? QMessageBox::Warning : QMessageBox::Information, tr("Connections"), sentence,
+                  QMessageBox::Ok, this);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}

@@ -1,0 +1,266 @@
+#!/usr/bin/env python3
+"""Layers of a PostGIS database, read from a server of its own that lives in a temporary folder as long as this runs.
+
+    drive.py EXECUTABLE
+
+Ends with 77 where no server is installed.
+"""
+import concurrent.futures
+import glob
+import json
+import os
+import pwd
+import shutil
+import signal
+import socket
+import struct
+import subprocess
+import sys
+import tempfile
+import time
+import zlib
+
+EXECUTABLE = os.path.abspath(sys.argv[1])
+SKIPPED = 77
+PLACES = 2500  # more than come in one batch
+TIMEOUT_S = 2
+problems = []
+
+
+def check(condition, claim, seen=""):
+    if not condition:
+        problems.append(f"{claim}: {seen}")
+
+
+class Server:
+    """It listens at a socket alone, and logs each statement."""
+
+    def __init__(self, folder, programs):
+        self.folder, self.programs = folder, programs
+        self.data, self.log = os.path.join(folder, "data"), os.path.join(folder, "log")
+        owner = "postgres" if os.getuid() == 0 else None  # a server does not run as root
+        self.how = {"user": owner} if owner else {}
+        if owner:
+            os.chown(folder, pwd.getpwnam(owner).pw_uid, -1)
+        self.run("initdb", "-D", self.data, "-U", "owner", "-A", "trust", "-E", "UTF8", "--no-sync", "--no-locale")
+        with open(os.path.join(self.data, "pg_hba.conf"), "w") as rules:
+            rules.write("local all reader scram-sha-256\nlocal all all trust\n")
+        options = f"-k {folder} -c listen_addresses='' -c fsync=off -c log_connections=on -c log_statement=all"
+        self.run("pg_ctl", "-D", self.data, "-l", self.log, "-o", options, "-w", "start")
+
+    def run(self, program, *arguments):
+        subprocess.run([os.path.join(self.programs, program), *arguments], check=True, cwd=self.folder,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, **self.how)
+
+    def sql(self, text, database="city"):
+        done = subprocess.run(["psql", "-XqAt", "-v", "ON_ERROR_STOP=1", "-h", self.folder, "-U", "owner", database],
+                              input=text, capture_output=True, text=True)
+        if done.returncode != 0:
+            raise RuntimeError(done.stderr)
+        return done.stdout.strip()
+
+    def logged(self):
+        with open(self.log, encoding="utf-8") as log:
+            return log.read()
+
+    def stop(self):
+        subprocess.run([os.path.join(self.programs, "pg_ctl"), "-D", self.data, "-m", "immediate", "stop"],
+                       cwd=self.folder, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **self.how)
+
+
+def places():
+    for i in range(PLACES):
+        yield i + 1, f"place {i % 7}", (i % 50) * 0.1 - 2.5, (i // 50) * 0.08 + 45
+
+
+def write_data(server, folder):
+    features = [{"type": "Feature", "properties": {"id": i, "name": name},
+                 "geometry": {"type": "Point", "coordinates": [x, y]}} for i, name, x, y in places()]
+    with open(os.path.join(folder, "places.geojson"), "w") as file:
+        json.dump({"type": "FeatureCollection", "features": features}, file)
+    rows = "".join(f"{i}\t{name}\tSRID=4326;POINT({x!r} {y!r})\n" for i, name, x, y in places())
+    server.sql("CREATE DATABASE city", "postgres")
+    server.sql("CREATE EXTENSION postgis;"
+               "CREATE TABLE places (id integer PRIMARY KEY, name text, geom geometry(Point, 4326));"
+               "CREATE TABLE secrets (id integer PRIMARY KEY, geom geometry(Point, 4326));"
+               "CREATE VIEW slowly AS SELECT id, name, geom, pg_sleep(0.001)::text AS pause FROM places;"
+               "CREATE USER reader PASSWORD 'right'; GRANT SELECT ON places TO reader;"
+               f"COPY places FROM STDIN;\n{rows}\\.\n")
+
+
+class Program:
+    def __init__(self, folder):
+        self.folder = folder
+        self.environment = {**os.environ, "XDG_CONFIG_HOME": os.path.join(folder, "config"), "HOME": folder,
+                            "LC_ALL": "C.UTF-8"}
+        for name in list(self.environment):
+            if name.startswith("PG"):
+                del self.environment[name]
+
+    def __call__(self, *arguments, **environment):
+        begun = time.monotonic()
+        done = subprocess.run([EXECUTABLE, *arguments], cwd=self.folder, capture_output=True, text=True,
+                              env={**self.environment, **environment}, timeout=60)
+        self.seconds = time.monotonic() - begun
+        return done
+
+    def begin(self, *arguments):
+        return subprocess.Popen([EXECUTABLE, *arguments], cwd=self.folder, env=self.environment, text=True,
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+
+    def document(self, name, source):
+        with open(os.path.join(self.folder, "file.kdx")) as file:
+            document = json.load(file)
+        for layer in document["maps"][0]["layers"]:
+            if "file" in layer["source"]:
+                layer["source"] = source
+        with open(os.path.join(self.folder, name), "w") as file:
+            json.dump(document, file)
+        return name
+
+
+def pixels(path):
+    """The image data of a PNG, without what it says about itself."""
+    with open(path, "rb") as file:
+        content = file.read()
+    at, data = 8, b""
+    while at < len(content):
+        length, kind = struct.unpack(">I4s", content[at:at + 8])
+        data += content[at + 8:at + 8 + length] if kind == b"IDAT" else b""
+        at += 12 + length
+    return zlib.decompress(data)
+
+
+def fails(program, claim, words, *arguments, **environment):
+    done = program(*arguments, **environment)
+    check(done.returncode == 1 and all(word in done.stderr for word in words), claim,
+          f"{done.returncode} {done.stderr.strip()}")
+
+
+def draws_as_a_file(program, server):
+    table = program.document("city.kdx", {"connection": "city", "layer": "public.places"})
+    before = len(server.logged())
+    done = program("export", table, "city.png", "--dpi", "60")
+    check(done.returncode == 0, "a table is drawn", done.stderr)
+    check("secrets" not in server.logged()[before:], "no other table is touched")
+    program("export", "file.kdx", "file.png", "--dpi", "60")
+    if done.returncode == 0:
+        same = pixels(os.path.join(program.folder, "city.png")) == pixels(os.path.join(program.folder, "file.png"))
+        check(same, "a table looks as a file with the same features")
+    made = program("new", "new.kdx", "connection:city|public.places")
+    check(made.returncode == 0, "a map is made of a table", made.stderr)
+    told = program("info", "new.kdx").stdout
+    check("connection city, table public.places" in told, "info tells connection and table", told)
+    step = program("run", "new.kdx", "add-layer=connection:city|public.places", "save-as=more.kdx")
+    check(step.returncode == 0, "a step adds a table", step.stderr)
+
+
+def what_is_not_known_contacts_nothing(program, server):
+    before = server.logged().count("connection received")
+    unknown = program.document("town.kdx", {"connection": "town", "layer": "public.places"})
+    fails(program, "an unknown name is told", ["town", "is not known"], "export", unknown, "x.png")
+    fails(program, "confined, a connection is refused", ["city", "--allow-connection"], "export", "city.kdx", "x.png",
+          "--confine")
+    check(server.logged().count("connection received") == before, "neither contacts the server")
+    done = program("export", "city.kdx", "x.png", "--confine", "--allow-connection", "city")
+    check(done.returncode == 0, "confined, an allowed connection is used", done.stderr)
+
+
+def tells_what_is_wrong(program, server):
+    gone = program.document("gone.kdx", {"connection": "city", "layer": "public.gone"})
+    fails(program, "a table that is not there is told", ["public.gone", "public.places"], "export", gone, "x.png")
+    secured = program.document("secured.kdx", {"connection": "secured", "layer": "public.places"})
+    fails(program, "a wrong password is told", ["secured", ".pgpass"], "export", secured, "x.png", PGPASSWORD="wrong")
+    done = program("export", secured, "x.png", PGPASSWORD="right")
+    check(done.returncode == 0, "a password of the environment is used", done.stderr)
+
+
+def reading_of(server, name):
+    """The process of the server that reads the view, once it does; each reader has a name of its own by its process."""
+    for _ in range(200):
+        found = server.sql("SELECT pid FROM pg_stat_activity WHERE query LIKE 'FETCH%' AND application_name = 'plotvane'"
+                           " AND state = 'active' ORDER BY backend_start LIMIT 1")
+        if found:
+            return int(found)
+        time.sleep(0.02)
+    raise RuntimeError(f"{name}: nobody reads")
+
+
+def is_told_in_time(program, server, claim, disturb, words):
+    document = program.document(f"{disturb.__name__}.kdx", {"connection": "city", "layer": "public.slowly"})
+    process = program.begin("export", document, f"{disturb.__name__}.png")
+    reader = reading_of(server, claim)
+    begun = time.monotonic()
+    disturb(server, reader)
+    _, told = process.communicate(timeout=30)
+    seconds = time.monotonic() - begun
+    check(process.returncode == 1 and all(word in told for word in words), claim, told.strip())
+    check(seconds < TIMEOUT_S + 4, f"{claim} in time", f"{seconds:.1f} s")
+    return reader
+
+
+def freeze(_, reader):
+    os.kill(reader, signal.SIGSTOP)
+
+
+def kill(server, reader):
+    server.sql(f"SELECT pg_terminate_backend({reader})")
+
+
+def a_deaf_server_is_told(program, folder):
+    with socket.socket(socket.AF_UNIX) as deaf:
+        deaf.bind(os.path.join(folder, ".s.PGSQL.5499"))
+        os.chmod(os.path.join(folder, ".s.PGSQL.5499"), 0o777)
+        deaf.listen()
+        document = program.document("deaf.kdx", {"connection": "deaf", "layer": "public.places"})
+        begun = time.monotonic()
+        fails(program, "a server that never answers is told", ["deaf"], "export", document, "deaf.png")
+        check(time.monotonic() - begun < TIMEOUT_S + 4, "a server that never answers is told in time")
+
+
+def add_connections(program, server):
+    common = ["--host", server.folder, "--database", "city", "--timeout", str(TIMEOUT_S)]
+    for name, more in (("city", ["--user", "owner"]), ("secured", ["--user", "reader"]),
+                       ("deaf", ["--user", "owner", "--port", "5499"])):
+        done = program("connections", "add", name, *common, *more)
+        check(done.returncode == 0, f"the connection {name} is added", done.stderr)
+    check("public.places" in program("connections", "test", "city").stdout, "a connection is tested")
+
+
+def main():
+    found = sorted(glob.glob("/usr/lib/postgresql/*/bin/initdb"))
+    has_postgis = glob.glob("/usr/share/postgresql/*/extension/postgis.control")
+    if not found or not has_postgis or not shutil.which("psql"):
+        print("no PostgreSQL server with PostGIS is installed")
+        return SKIPPED
+    with tempfile.TemporaryDirectory() as own, tempfile.TemporaryDirectory() as folder:
+        os.chmod(folder, 0o755)
+        server = Server(folder, os.path.dirname(found[-1]))
+        try:
+            program = Program(own)
+            write_data(server, own)
+            made = program("new", "file.kdx", "places.geojson")
+            check(made.returncode == 0, "a map is made of the file", made.stderr)
+            add_connections(program, server)
+            with concurrent.futures.ThreadPoolExecutor() as pool:
+                slow = pool.submit(a_deaf_server_is_told, Program(own), folder)
+                draws_as_a_file(program, server)
+                what_is_not_known_contacts_nothing(program, server)
+                tells_what_is_wrong(program, server)
+                is_told_in_time(program, server, "a connection that ends is told", kill, ["slowly", "city"])
+                frozen = is_told_in_time(program, server, "a server that stops answering is told", freeze,
+                                         ["slowly", "city", "has not answered"])
+                os.kill(frozen, signal.SIGCONT)
+                slow.result()
+            server.stop()
+            fails(program, "a server that is down is told", ["city", "plotvane connections test"], "export",
+                  "city.kdx", "x.png")
+        finally:
+            server.stop()
+    for problem in problems:
+        print(problem)
+    return 1 if problems else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
