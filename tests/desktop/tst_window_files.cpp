@@ -4,6 +4,17 @@
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/NoticeBar.h"
+#include "host/desktop/connections/KeptConnections.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <cstring>
 
 using SysCarto::MapDocumentHost;
 
@@ -144,6 +155,43 @@ private slots:
     }
     QCOMPARE(QSettings().value("files/allowedFolders").toString(), folder_.filePath("data"));
     QSettings().remove("files/allowedFolders");
+  }
+
+  void aDatabaseIsNotContactedUntilItIsAllowed() {
+    int const deaf = socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::strcpy(address.sun_path, qPrintable(folder_.filePath(".s.PGSQL.5432")));
+    QVERIFY(bind(deaf, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0 && listen(deaf, 1) == 0);
+    SysCarto::Connection city;
+    city.name = "city";
+    city.host = folder_.path();
+    city.seconds = 1;
+    QCOMPARE(KeptConnections{{city}}.keep(), QString());
+    QJsonObject document = QJsonDocument::fromJson(contentOf(world)).object();
+    QJsonObject const source{{"connection", "city"}, {"layer", "public.parcels"}};
+    QJsonObject const layer{
+        {"type", "feature"},
+        {"name", "Parcels"},
+        {"source", source},
+        {"renderer", QJsonObject{{"type", "simple"}, {"symbol", QJsonObject{{"type", "simpleFill"}}}}}};
+    QJsonArray maps = document["maps"].toArray();
+    QJsonObject map = maps.first().toObject();
+    map["layers"] = QJsonArray{layer};
+    maps[0] = map;
+    document["maps"] = maps;
+    MainWindow window;
+    Person person;
+    person.presses("OK");  // that not all could be read
+    QVERIFY(window.open(put(folder_.filePath("city.kdx"), QJsonDocument(document).toJson())));
+    QVERIFY(window.findChild<QLabel*>("label_Notice")->text().contains("city"));
+    QVERIFY(accept(deaf, nullptr, nullptr) < 0);
+    person.presses("OK");
+    window.findChild<QPushButton*>("pushButton_Offer")->click();
+    QVERIFY(accept(deaf, nullptr, nullptr) >= 0);
+    QVERIFY(KeptConnections::kept().find("city")->forDocuments);
+    KeptConnections().keep();
+    close(deaf);
   }
 
   void theSecondWindowOnlyReads() {

@@ -151,7 +151,7 @@ def draws_as_a_file(program, server):
     check(made.returncode == 0, "a map is made of a table", made.stderr)
     told = program("info", "new.kdx").stdout
     check("connection city, table public.places" in told, "info tells connection and table", told)
-    step = program("run", "new.kdx", "add-layer=connection:city|public.places", "save-as=more.kdx")
+    step = program("run", "new.kdx", "add=layer:connection:city|public.places", "save=more.kdx")
     check(step.returncode == 0, "a step adds a table", step.stderr)
 
 
