@@ -171,6 +171,9 @@ def tells_what_is_wrong(program, server):
     fails(program, "a table that is not there is told", ["public.gone", "public.places"], "export", gone, "x.png")
     secured = program.document("secured.kdx", {"connection": "secured", "layer": "public.places"})
     fails(program, "a wrong password is told", ["secured", ".pgpass"], "export", secured, "x.png", PGPASSWORD="wrong")
+    denied = program.document("denied.kdx", {"connection": "secured", "layer": "public.secrets"})
+    fails(program, "a table that may not be read is told", ["public.secrets", "permission denied"], "export", denied,
+          "x.png", PGPASSWORD="right")
     done = program("export", secured, "x.png", PGPASSWORD="right")
     check(done.returncode == 0, "a password of the environment is used", done.stderr)
 

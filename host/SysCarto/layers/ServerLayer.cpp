@@ -4,7 +4,6 @@
 #include "SourceBounds.h"
 #include "WatchedReading.h"
 
-#include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysCarto/projection/Offline.h"
 
 #include <QCoreApplication>
@@ -13,7 +12,6 @@
 #include <cpl_string.h>
 #include <gdal_priv.h>
 
-#include <algorithm>
 #include <chrono>
 #include <future>
 #include <optional>
@@ -47,6 +45,27 @@ struct ServerDatabase::Session {
 namespace {
 
 using Session = ServerDatabase::Session;
+
+// Of several failures the first says what happened: the driver goes on, and then misses what it could not make.
+class FirstFailure {
+public:
+  FirstFailure() { CPLPushErrorHandlerEx(&FirstFailure::note, this); }
+  ~FirstFailure() { CPLPopErrorHandler(); }
+  FirstFailure(FirstFailure const&) = delete;
+  FirstFailure& operator=(FirstFailure const&) = delete;
+
+  QString const& text() const { return text_; }
+
+private:
+  static void CPL_STDCALL note(CPLErr kind, CPLErrorNum, char const* text) {
+    auto* const self = static_cast<FirstFailure*>(CPLGetErrorHandlerUserData());
+    bool const isFirst = kind >= CE_Failure && self->text_.isEmpty();
+    if (isFirst) self->text_ = QString::fromUtf8(text).simplified();
+    if (isFirst && self->text_.endsWith(QLatin1Char('.'))) self->text_.chop(1);
+  }
+
+  QString text_;
+};
 
 // What the work answers on another thread; nothing where it takes too long, or nobody waits for it any more. What it
 // needs must belong to it.
@@ -102,7 +121,7 @@ QString currentSchema(GDALDataset& dataset) {
 }
 
 Tables openedTables(Session& session) {
-  GdalErrors const errors;
+  FirstFailure const failure;
   Tables tables;
   stayOffline();
   GDALAllRegister();
@@ -122,7 +141,8 @@ Tables openedTables(Session& session) {
       tables.names << (table.contains(QLatin1Char('.')) ? table : schema + QLatin1Char('.') + table);
     }
   }
-  if (!session.dataset || errors.hasFailure()) tables.problem = errors.reason();
+  tables.problem = failure.text();
+  if (!session.dataset && tables.problem.isEmpty()) tables.problem = Texts::tr("this GDAL reads no PostgreSQL");
   return tables;
 }
 
@@ -170,11 +190,11 @@ std::unique_ptr<OGRLayer> ServerDatabase::layer(QString const& table, QString& e
     QString problem;
   };
   auto const described = asked(session_, session_->patience(), [number](Session& session) {
-    GdalErrors const errors;
+    FirstFailure const failure;
     Described own;
     own.layer = session.dataset->GetLayer(number);
     own.definition = own.layer->GetLayerDefn()->Clone();
-    if (errors.hasFailure()) own.problem = errors.reason();
+    own.problem = failure.text();
     return own;
   });
   if (!described && !isStillWanted()) return nullptr;
@@ -231,7 +251,7 @@ bool ServerLayer::fetch() {
   if (isAtEnd_) return false;
   std::shared_ptr<OGRGeometry> const window(m_poFilterGeom ? m_poFilterGeom->clone() : nullptr);
   auto work = [layer = &inner_, begins = std::exchange(begins_, false), window, ignored = ignored_](Session&) {
-    GdalErrors const errors;
+    FirstFailure const failure;
     auto batch = std::make_shared<Batch>();
     if (begins) {
       CPLStringList names;
@@ -248,7 +268,7 @@ bool ServerLayer::fetch() {
       bytes += bytesOf(*feature);
       batch->features.push_back(std::move(feature));
     }
-    if (errors.hasFailure()) batch->problem = errors.reason();
+    batch->problem = failure.text();
     return batch;
   };
   auto const batch = asked(session_, session_->patience(), std::move(work));
@@ -261,7 +281,7 @@ bool ServerLayer::fetch() {
 
 OGRFeature* ServerLayer::GetFeature(GIntBig number) {
   auto const found = asked(session_, session_->patience(), [layer = &inner_, number](Session&) {
-    GdalErrors const errors;
+    FirstFailure const quiet;
     return std::shared_ptr<OGRFeature>(layer->GetFeature(number));
   });
   return found && *found ? (*found)->Clone() : nullptr;
