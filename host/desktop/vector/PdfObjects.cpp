@@ -1,5 +1,8 @@
 #include "PdfObjects.h"
 
+#include <qpdf/Pl_Buffer.hh>
+#include <qpdf/Pl_Flate.hh>
+
 #include <QImage>
 
 #include <algorithm>
@@ -71,6 +74,24 @@ char const* jpegColors(QByteArray const& file) {
   }
   return nullptr;
 }
+
+// Bytes that are packed as they come: of a large picture, the whole is never there unpacked.
+class Packing {
+public:
+  void add(QByteArray const& bytes) {
+    deflate_.write(reinterpret_cast<uchar const*>(bytes.constData()), static_cast<size_t>(bytes.size()));
+  }
+  QPDFObjectHandle stream(QPDF& file) {
+    deflate_.finish();
+    QPDFObjectHandle made = QPDFObjectHandle::newStream(&file, kept_.getBufferSharedPointer());
+    made.getDict().replaceKey("/Filter", QPDFObjectHandle::newName("/FlateDecode"));
+    return made;
+  }
+
+private:
+  Pl_Buffer kept_{"kept"};
+  Pl_Flate deflate_{"deflate", &kept_, Pl_Flate::a_deflate};
+};
 
 char const* nameOf(CanvasBlend blend) {
   switch (blend) {
@@ -147,41 +168,48 @@ QByteArray PdfObjects::form(QByteArray const& content, QRectF const& bounds, She
   return name = add("/XObject", "X", form);
 }
 
-QPDFObjectHandle PdfObjects::image(QByteArray const& bytes, QSize const& size, char const* colors) {
-  QPDFObjectHandle image = stream(bytes);
-  QPDFObjectHandle dictionary = image.getDict();
+QPDFObjectHandle PdfObjects::image(QPDFObjectHandle stream, QSize const& size, char const* colors) {
+  QPDFObjectHandle dictionary = stream.getDict();
   dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
   dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Image"));
   dictionary.replaceKey("/Width", QPDFObjectHandle::newInteger(size.width()));
   dictionary.replaceKey("/Height", QPDFObjectHandle::newInteger(size.height()));
   dictionary.replaceKey("/ColorSpace", QPDFObjectHandle::newName(colors));
   dictionary.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(8));
-  return image;
+  return stream;
 }
 
 QByteArray PdfObjects::picture(SysDisplay::PictureData const& picture) {
+  constexpr int stripRows = 64;
   QByteArray& name = pictures_[picture.image.cacheKey()];
   if (!name.isEmpty()) return name;
   QSize const size = picture.image.size();
   if (char const* const colors = jpegColors(picture.jpeg)) {
-    QPDFObjectHandle kept = image(picture.jpeg, size, colors);
+    QPDFObjectHandle kept = image(stream(picture.jpeg), size, colors);
     kept.getDict().replaceKey("/Filter", QPDFObjectHandle::newName("/DCTDecode"));
     return name = add("/XObject", "P", kept);
   }
-  QImage const straight = picture.image.convertToFormat(QImage::Format_RGBA8888);
-  QByteArray colors, opacity;
-  colors.reserve(size.width() * size.height() * 3);
+  Packing colors, opacities;
   bool isOpaque = true;
-  for (int y = 0; y < size.height(); ++y) {
-    uchar const* pixel = straight.constScanLine(y);
-    for (int x = 0; x < size.width(); ++x, pixel += 4) {
-      colors.append(reinterpret_cast<char const*>(pixel), 3);
-      opacity.append(static_cast<char>(pixel[3]));
-      isOpaque = isOpaque && pixel[3] == 255;
+  for (int y = 0; y < size.height(); y += stripRows) {
+    int const rows = std::min(stripRows, size.height() - y);
+    QImage const strip = picture.image.copy(0, y, size.width(), rows).convertToFormat(QImage::Format_RGBA8888);
+    if (strip.isNull()) qBadAlloc();
+    QByteArray color(size.width() * rows * 3, Qt::Uninitialized), opacity(size.width() * rows, Qt::Uninitialized);
+    char *toColor = color.data(), *toOpacity = opacity.data();
+    for (int row = 0; row < rows; ++row) {
+      uchar const* pixel = strip.constScanLine(row);
+      for (int x = 0; x < size.width(); ++x, pixel += 4) {
+        toColor = std::copy_n(reinterpret_cast<char const*>(pixel), 3, toColor);
+        *toOpacity++ = static_cast<char>(pixel[3]);
+        isOpaque = isOpaque && pixel[3] == 255;
+      }
     }
+    colors.add(color);
+    opacities.add(opacity);
   }
-  QPDFObjectHandle made = image(colors, size, "/DeviceRGB");
-  if (!isOpaque) made.getDict().replaceKey("/SMask", image(opacity, size, "/DeviceGray"));
+  QPDFObjectHandle made = image(colors.stream(file_), size, "/DeviceRGB");
+  if (!isOpaque) made.getDict().replaceKey("/SMask", image(opacities.stream(file_), size, "/DeviceGray"));
   return name = add("/XObject", "P", made);
 }
 

@@ -81,7 +81,7 @@ private:
   QByteArray addShading(QGradient const& gradient, bool isOpacity);
   QByteArray add(char const* key, char const* prefix, QPDFObjectHandle const& object);
   QPDFObjectHandle order(std::vector<int> const& layers);
-  QPDFObjectHandle image(QByteArray const& bytes, QSize const& size, char const* colors);
+  static QPDFObjectHandle image(QPDFObjectHandle stream, QSize const& size, char const* colors);
 
   QPDF& file_;
   QPDFObjectHandle resources_;
