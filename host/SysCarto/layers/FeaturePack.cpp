@@ -12,7 +12,7 @@ namespace {
 constexpr double quantaPerCell = 1024;  // strokes with short edges turn with less
 constexpr double bucketCells = 1024;
 constexpr int cellsPerPixel = 4, bucketPixels = 256;
-constexpr int freeRepetitions = 16384;  // of small features in a bucket, before any is left out
+constexpr int freeRepetitions = 16384;  // of points in a bucket, before any is left out
 constexpr double sizeStep = 4;          // features of similar size share buckets, so that their boxes stay small
 constexpr double maxQuantum = 1e18;
 constexpr int freeLabels = 20000;  // more than any page can show
@@ -146,9 +146,10 @@ void FeaturePack::add(FeatureStore const& features) {
 bool FeaturePack::isRepeated(FeatureStore const& from, size_t feature, int symbolClass, Bucket& bucket) const {
   Box const& box = from.features[feature].box;
   double const pixel = cell_ * cellsPerPixel;
-  bool const isSmall = box.xmax - box.xmin <= pixel && box.ymax - box.ymin <= pixel;
-  if (!isSmall || from.valuesPerFeature > 0) return false;
-  if (++bucket.small <= freeRepetitions) return false;
+  // Areas and lines, however small, add to what a pixel shows.
+  bool const isPoint = box.xmin == box.xmax && box.ymin == box.ymax;
+  if (!isPoint || from.valuesPerFeature > 0) return false;
+  if (++bucket.points <= freeRepetitions) return false;
   auto const place = [&](double low, double high, qint64 origin) {
     double const pixels = std::floor(((low + high) / 2 - coordinate(origin)) / pixel);
     return static_cast<size_t>(std::clamp(pixels, 0.0, bucketPixels - 1.0));

@@ -37,7 +37,7 @@ public:
   FeatureStore& form() { return form_; }
   FeatureStore const& form() const { return form_; }
 
-  /// Adds features, thinned before to the cell, without those that the area does not meet. Where they lie closer than
+  /// Adds features, thinned before to the cell, without those that the area does not meet. Where points lie closer than
   /// there are pixels, one stays of those that look the same on one pixel and have no label.
   void add(FeatureStore const& features);
 
@@ -68,7 +68,7 @@ private:
     Box box;
     std::array<qint64, 2> origin;
     std::vector<unsigned char> records;
-    int small = 0;                           // features of a pixel or less
+    int points = 0;
     std::map<int, std::vector<bool>> taken;  // by symbol class: the pixels that have one of them
   };
   using Vertex = std::array<qint64, 2>;

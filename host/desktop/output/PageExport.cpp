@@ -77,7 +77,7 @@ QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel>
                           ExportProgress const& progress) {
   QString problem = checkPage(document);
   if (problem.isEmpty()) problem = target_.checkAgainst(document);
-  QStringList const known = problemsOf(document);
+  QStringList const known = known_ ? *known_ : problemsOf(document);
   if (problem.isEmpty())
     problem = format_.isVector ? writeShapes(document, cancel) : writePixels(document, cancel, progress);
   if (problem.isEmpty() && !options_.allowMissing) problem = newProblem(document, known);

@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 
+#include <optional>
+
 class PageImage;
 struct ImageFormat;
 
@@ -33,6 +35,12 @@ public:
   /// Makes it a file of these.
   void setPages(NextPage next) { next_ = std::move(next); }
 
+  /// The problems of a document's data, as far as they have shown.
+  static QStringList problemsOf(SysCarto::MapDocument const& document);
+
+  /// Which of them a file may have: without this, those that had shown before it is written. Others refuse it.
+  void setKnown(QStringList const& problems) { known_ = problems; }
+
   /// Draws and moves the file into its place. What was there before stays where this fails or is cancelled, which is
   /// told, too. The document is borrowed; only its cursor and its screen are those of a page without a window.
   QString write(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
@@ -41,7 +49,6 @@ public:
 private:
   QString writePixels(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
                       ExportProgress const& progress);
-  static QStringList problemsOf(SysCarto::MapDocument const& document);
   QString newProblem(SysCarto::MapDocument const& document, QStringList const& known) const;
   QString writeShapes(SysCarto::MapDocument const& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
   QString tooMuch() const;
@@ -52,4 +59,5 @@ private:
   ExportOptions options_;
   ImageTarget target_;
   NextPage next_;
+  std::optional<QStringList> known_;
 };

@@ -190,8 +190,10 @@ bool RecoveryCopy::write(QJsonObject json) {
     }
   }
   auto const& document = session_.document();
+  QString const file = document.GetPath();  // it may be told from a folder that is another one at the next start
+  QString const place = file.isEmpty() ? file : QFileInfo(file).absoluteFilePath();
   QByteArray const known =
-      QJsonDocument(QJsonObject{{QStringLiteral("file"), document.GetPath()},
+      QJsonDocument(QJsonObject{{QStringLiteral("file"), place},
                                 {QStringLiteral("relativePaths"), document.IsUsesRelativePaths()},
                                 {QStringLiteral("digest"), QString::fromLatin1(session_.fileDigest().toHex())}})
           .toJson();

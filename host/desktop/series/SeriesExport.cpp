@@ -153,6 +153,7 @@ QString SeriesExport::check() {
 }
 
 QString SeriesExport::writeFiles() {
+  known_ = PageExport::problemsOf(document_);  // what shows on one page is missing on the next, too
   int done = 0;
   for (int const page : chosen_) {
     if (cancel_->IsCanced()) return interrupted();
@@ -177,6 +178,7 @@ QString SeriesExport::writePage(int page, QString const& path) {
     ++passed_;
     return QString();
   }
+  file.setKnown(known_);
   if (problem.isEmpty()) problem = file.write(document_, cancel_);
   if (problem.isEmpty()) tell(path);
   return problem;

@@ -80,6 +80,7 @@ private:
   std::unique_ptr<SeriesPages> pages_;
   std::vector<int> chosen_;
   QStringList paths_;
+  QStringList known_;     // problems of the data, before the first page
   int passed_ = 0;        // that were there
   QDateTime lastChange_;  // of what pages are drawn from
   QList<int> failed_;
