@@ -8439,6 +8439,10 @@
         <source>%1 was not written: its symbols draw over each other many hundred times; make them smaller, fewer or less dense, or give less DPI.</source>
         <translation>%1 wurde nicht geschrieben: Seine Symbole liegen viele hundert Mal übereinander; machen Sie sie kleiner, weniger zahlreich oder weniger dicht, oder geben Sie weniger DPI an.</translation>
     </message>
+    <message>
+        <source>%1 was not written: the font %2 can&apos;t be opened at the moment; start the program again.</source>
+        <translation>%1 wurde nicht geschrieben: Die Schrift %2 lässt sich im Augenblick nicht öffnen; starten Sie das Programm neu.</translation>
+    </message>
 </context>
 <context>
     <name>PageGesture</name>

@@ -8439,6 +8439,10 @@
         <source>%1 was not written: its symbols draw over each other many hundred times; make them smaller, fewer or less dense, or give less DPI.</source>
         <translation>%1 未写入：其符号相互叠绘了数百次；请将它们改小、减少或改稀疏，或降低 DPI。</translation>
     </message>
+    <message>
+        <source>%1 was not written: the font %2 can&apos;t be opened at the moment; start the program again.</source>
+        <translation>未写入 %1：目前无法打开字体 %2；请重新启动程序。</translation>
+    </message>
 </context>
 <context>
     <name>PageGesture</name>

@@ -9,6 +9,7 @@
 #include <QGlyphRun>
 #include <QHash>
 #include <QRawFont>
+#include <QSet>
 #include <QTextLayout>
 
 #include <ogr_geometry.h>
@@ -16,6 +17,7 @@
 #include <algorithm>
 #include <cmath>
 #include <list>
+#include <utility>
 
 namespace SysDisplay {
 
@@ -116,6 +118,7 @@ public:
 
   std::shared_ptr<ShapedText const> shape(TextFormat const& format, QString const& fontKey, QString const& text) {
     TextKey const key{fontKey, text};
+    checkLetters(format, letters_[fontKey], text);
     if (auto const* known = texts_.object(key)) return *known;
     auto const shaped = std::make_shared<ShapedText const>(layOut(format, text));
     texts_.insert(key, new std::shared_ptr<ShapedText const>(shaped), text.size() + 16);
@@ -153,6 +156,8 @@ public:
     return letters;
   }
 
+  QStringList takeUnopened() { return std::exchange(unopened_, {}); }
+
 private:
   struct Layout {
     Layout(QFont const& font, QString const& words) : text(words, font) {
@@ -186,6 +191,8 @@ private:
   struct Letters {
     std::unique_ptr<QFontMetricsF> metrics;
     QHash<QChar, double> widths;
+    QSet<QChar> checked;
+    bool isUnopened = false;
 
     double width(QChar letter) {
       auto known = widths.find(letter);
@@ -205,9 +212,35 @@ private:
     return format.size > 0 ? format.letterSpacing / format.size * referencePx : 0;
   }
 
-  static QFont fontOf(TextFormat const& format) {
+  // Qt takes another font in silence where the file of one can't be opened, and stays with it. At another size it tries
+  // anew. So letters that were not met before are set twice, and have to come from the same fonts.
+  void checkLetters(TextFormat const& format, Letters& letters, QString const& text) {
+    QString unmet;
+    for (QChar const letter : text)
+      if (!letters.checked.contains(letter)) unmet += letter;
+    if (!unmet.isEmpty()) {
+      for (QChar const letter : unmet) letters.checked.insert(letter);
+      if (fontsOf(fontOf(format), text) != fontsOf(fontOf(format, referencePx - 1), text)) letters.isUnopened = true;
+    }
+    if (letters.isUnopened && !unopened_.contains(format.family)) unopened_ << format.family;
+  }
+
+  // By glyphs, in the order of the text.
+  static QStringList fontsOf(QFont const& font, QString const& text) {
+    QStringList fonts;
+    for (QString const& words : text.split(QLatin1Char('\n'))) {
+      Layout const layout(font, words);
+      if (!layout.line.isValid()) continue;
+      for (QGlyphRun const& run : layout.line.glyphRuns())
+        for (quint32 const glyph : run.glyphIndexes())
+          fonts << QStringLiteral("%1|%2|%3").arg(run.rawFont().familyName(), run.rawFont().styleName()).arg(glyph);
+    }
+    return fonts;
+  }
+
+  static QFont fontOf(TextFormat const& format, int sizePx = referencePx) {
     QFont font(format.family);
-    font.setPixelSize(referencePx);
+    font.setPixelSize(sizePx);
     font.setBold(format.bold);
     font.setItalic(format.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -269,6 +302,7 @@ private:
   static Shaper* shaper_;
   std::list<Face> faces_;
   std::map<QString, Letters> letters_;  // by font key
+  QStringList unopened_;
   QCache<TextKey, std::shared_ptr<ShapedText const>> texts_{maxKeptGlyphs};
 };
 
@@ -310,5 +344,7 @@ std::vector<QString> lettersOf(TextFormat const& format, ShapedLine const& line)
 double minWidth(TextFormat const& format, QString const& fontKey, QString const& text) {
   return Shaper::instance().minWidth(format, fontKey, text);
 }
+
+QStringList takeUnopenedFonts() { return Shaper::instance().takeUnopened(); }
 
 }  // namespace SysDisplay

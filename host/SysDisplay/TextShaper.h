@@ -5,6 +5,7 @@
 
 #include <QPainterPath>
 #include <QRawFont>
+#include <QStringList>
 
 #include <map>
 #include <memory>
@@ -71,5 +72,9 @@ SYSDISPLAY_EXPORT std::vector<QString> lettersOf(TextFormat const& format, Shape
 
 /// A width, in units of the font's size, that the text has at least. Costs a small part of what laying it out does.
 double minWidth(TextFormat const& format, QString const& fontKey, QString const& text);
+
+/// The families of the texts asked for since it was last called whose fonts are there but could not be opened, so that
+/// other letters stand in for theirs. That lasts as long as the program runs.
+SYSDISPLAY_EXPORT QStringList takeUnopenedFonts();
 
 }  // namespace SysDisplay

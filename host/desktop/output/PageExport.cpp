@@ -7,6 +7,7 @@
 #include "host/SysCarto/layers/SourceBounds.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysDisplay/DrawingBudget.h"
+#include "host/SysDisplay/TextShaper.h"
 #include "host/desktop/vector/VectorExport.h"
 
 #include <QFileInfo>
@@ -78,9 +79,14 @@ QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel>
   QString problem = checkPage(document);
   if (problem.isEmpty()) problem = target_.checkAgainst(document);
   QStringList const known = known_ ? *known_ : problemsOf(document);
+  SysDisplay::takeUnopenedFonts();
   if (problem.isEmpty())
     problem = format_.isVector ? writeShapes(document, cancel) : writePixels(document, cancel, progress);
   if (problem.isEmpty() && !options_.allowMissing) problem = newProblem(document, known);
+  QStringList const fonts = SysDisplay::takeUnopenedFonts();
+  if (problem.isEmpty() && !fonts.isEmpty())
+    problem = tr("%1 was not written: the font %2 can't be opened at the moment; start the program again.")
+                  .arg(path_, fonts.first());
   if (problem.isEmpty()) problem = target_.commit();
   return problem;
 }
