@@ -48,7 +48,11 @@ void readBetweenEvents(MainWindow& window) {
 }
 
 int keep(MainWindow& window, QString const& document) {
-  if (!window.open(document)) return 1;
+  DialogAnswers answers;
+  if (!window.open(document)) {
+    std::fprintf(stderr, "plotvane: %s\n", qPrintable(answers.takeProblem()));
+    return 1;
+  }
   WorkbenchPage page(window.bench());
   addText(page, 1);
   RecoveryCopy::keepAll();
