@@ -23,6 +23,8 @@
 #include <cerrno>
 #include <cmath>
 #include <cstring>
+#include <list>
+#include <utility>
 
 namespace SysCarto {
 
@@ -38,7 +40,8 @@ constexpr int cellPx = 256;
 // they take more than that once they were reduced.
 constexpr qint64 largePixels = 25000000;
 constexpr qint64 keptBytes = 64000000;
-constexpr double pixelCost = 20;  // of one that is made larger or turned
+constexpr qint64 reducedBytes = 128000000;  // of all reduced pictures together
+constexpr double pixelCost = 20;            // of one that is made larger or turned
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(PictureElement)
@@ -71,6 +74,39 @@ std::weak_ptr<QImage const>& known(QString const& key) {
   return images[key];
 }
 
+// Pictures reduced to the sizes in which they are drawn, for the next tile and for other elements that show the same.
+// The last one stays whatever its size.
+class ReducedPictures {
+public:
+  static ReducedPictures& instance() {
+    static ReducedPictures pictures;
+    return pictures;
+  }
+
+  // Null where it is not there.
+  QImage find(QString const& key, QSize const& size) {
+    auto const found = std::find_if(pictures_.begin(), pictures_.end(), [&](auto const& picture) {
+      return picture.second.size() == size && picture.first == key;
+    });
+    if (found == pictures_.end()) return {};
+    pictures_.splice(pictures_.begin(), pictures_, found);
+    return found->second;
+  }
+
+  void add(QString const& key, QImage const& image) {
+    pictures_.emplace_front(key, image);
+    bytes_ += image.sizeInBytes();
+    while (bytes_ > reducedBytes && pictures_.size() > 1) {
+      bytes_ -= pictures_.back().second.sizeInBytes();
+      pictures_.pop_back();
+    }
+  }
+
+private:
+  std::list<std::pair<QString, QImage>> pictures_;  // by key; those used last come first
+  qint64 bytes_ = 0;
+};
+
 QString noMemoryFor(QString const& name) {
   return Texts::tr("%1: the picture can't be read: %2.").arg(name, qt_error_string(ENOMEM));
 }
@@ -83,7 +119,6 @@ PictureSource::~PictureSource() = default;
 void PictureSource::forget() {
   isLoaded_ = false;
   image_.reset();
-  reduced_ = QImage();
   svg_.reset();
 }
 
@@ -135,15 +170,15 @@ QString PictureSource::loadImage(QIODevice& file, QString const& name) {
              QString::number(maxPixels));
   reader.setAutoTransform(true);
   isPlainJpeg_ = reader.format() == "jpeg" && reader.transformation() == QImageIOHandler::TransformationNone;
-  QString const own = key();
-  image_ = known(own).lock();
+  key_ = key();
+  image_ = known(key_).lock();
   if (!image_) {
     QImage const image = reader.read();
     if (image.isNull()) return Texts::tr("%1: the picture can't be read: %2.").arg(name, reader.errorString());
     QImage const kept = areaOf(size) > largePixels ? image : drawable(image);
     if (kept.isNull()) return noMemoryFor(name);
     image_ = std::make_shared<QImage const>(kept);
-    known(own) = image_;
+    known(key_) = image_;
   }
   size_ = image_->size();
   return {};
@@ -167,10 +202,9 @@ void PictureSource::draw(QPainter& painter, QRect const& targetPx, double angleD
   if (std::fmod(angleDegrees, 360) != 0)  // pixels go down, so that the painter turns the other way
     turn.translate(middle.x(), middle.y()).rotate(-angleDegrees).translate(-middle.x(), -middle.y());
   if (auto* const canvas = SysDisplay::VectorCanvas::of(painter)) return drawOn(*canvas, painter, targetPx, turn);
-  if (turn.isIdentity() && reduces(targetPx.size()))
+  if (!turn.isIdentity() || !reduces(targetPx.size())) return drawCells(painter, targetPx, turn);
+  if (SysDisplay::reachableArea(painter).intersects(targetPx))
     painter.drawImage(targetPx.topLeft(), reducedTo(targetPx.size()));
-  else
-    drawCells(painter, targetPx, turn);
 }
 
 QByteArray PictureSource::jpeg() const {
@@ -196,16 +230,20 @@ void PictureSource::drawOn(SysDisplay::VectorCanvas& canvas, QPainter& painter, 
 
 bool PictureSource::reduces(QSize const& targetSize) const { return !svg_ && areaOf(targetSize) <= areaOf(size_); }
 
-QImage const& PictureSource::reducedTo(QSize const& targetSize) {
-  if (reduced_.size() == targetSize) return reduced_;
+QImage PictureSource::reducedTo(QSize const& targetSize) {
+  QImage const known = ReducedPictures::instance().find(key_, targetSize);
+  if (!known.isNull()) return known;
   QImage image = this->image();
   while (areaOf(image.size()) > largePixels && image.width() / 2 >= targetSize.width() &&
          image.height() / 2 >= targetSize.height())
     image = halved(image);
-  reduced_ = drawable(image.scaled(targetSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-  if (reduced_.isNull()) problem_ = noMemoryFor(path_);
+  image = drawable(image.scaled(targetSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  if (image.isNull())
+    problem_ = noMemoryFor(path_);
+  else
+    ReducedPictures::instance().add(key_, image);
   if (image_ && image_->sizeInBytes() > keptBytes) image_.reset();
-  return reduced_;
+  return image;
 }
 
 // The picture itself, which is read again where it was let go of.

@@ -46,7 +46,7 @@ private:
   bool reduces(QSize const& targetSize) const;
   void drawOn(SysDisplay::VectorCanvas& canvas, QPainter& painter, QRect const& targetPx, QTransform const& turn);
   QByteArray jpeg() const;
-  QImage const& reducedTo(QSize const& targetSize);
+  QImage reducedTo(QSize const& targetSize);
   void drawCells(QPainter& painter, QRect const& targetPx, QTransform const& turn);
   QImage cell(QRect const& part, QSize const& targetSize, QTransform const& turn);
 
@@ -54,10 +54,10 @@ private:
   QString const data_;
   bool isLoaded_ = false;
   QString problem_;
+  QString key_;  // of the image
   std::shared_ptr<QImage const> image_;
   QSize size_;                // of the image, which may have been let go of
   bool isPlainJpeg_ = false;  // the file holds the picture as it is shown
-  QImage reduced_;            // to the size last asked for
   std::unique_ptr<QSvgRenderer> svg_;
   int svgBytes_ = 0;
 };
