@@ -41,12 +41,18 @@ public:
     area_ = area.adjusted(-longest, -longest, longest, longest);
   }
 
+  // About as many as the segment adds.
+  double pointsOf(QPointF const& a, QPointF const& b) const {
+    QPointF const d = b - a;
+    Stretch const stretch = stretchOf(a, d);
+    if (stretch.from > stretch.to) return 0;
+    return (stretch.to - stretch.from) * std::hypot(d.x(), d.y()) / period_ * static_cast<double>(pattern_.size()) + 2;
+  }
+
   void segment(QPointF const& a, QPointF const& b) {
     QPointF const d = b - a;
     double const length = std::hypot(d.x(), d.y());
-    Stretch stretch;
-    stretch.cut(a.x(), d.x(), area_.left(), area_.right());
-    stretch.cut(a.y(), d.y(), area_.top(), area_.bottom());
+    Stretch const stretch = stretchOf(a, d);
     bool goesOn = false;
     if (stretch.from <= stretch.to) goesOn = dashes(a, b, length, stretch);
     if (!goesOn) out_.endRun();
@@ -57,6 +63,13 @@ public:
   void finish() { out_.endRun(); }
 
 private:
+  Stretch stretchOf(QPointF const& a, QPointF const& d) const {
+    Stretch stretch;
+    stretch.cut(a.x(), d.x(), area_.left(), area_.right());
+    stretch.cut(a.y(), d.y(), area_.top(), area_.bottom());
+    return stretch;
+  }
+
   // Draws the dashes that touch the stretch; answers whether the last goes on in the next segment.
   bool dashes(QPointF const& a, QPointF const& b, double length, Stretch const& stretch) {
     auto const at = [&](double s) { return a + (b - a) * (s / length); };
@@ -98,11 +111,12 @@ private:
 void dashLine(std::vector<QPointF> const& line, bool closed, Dashes const& dashes, QRectF const& area, PointRuns& out) {
   if (line.size() < 2 || dashes.pattern.empty()) return;
   Dasher dasher(dashes, area, out);
-  for (size_t i = 1; i < line.size() && !DrawingBudget::isSpent(); ++i) {
-    size_t const before = out.points.size();
-    dasher.segment(line[i - 1], line[i]);
-    DrawingBudget::spendOnVertices(static_cast<double>(out.points.size() - before));
-  }
+  // Counted before the first is made: together they could take all the memory that there is.
+  double points = closed ? dasher.pointsOf(line.back(), line.front()) : 0;
+  for (size_t i = 1; i < line.size(); ++i) points += dasher.pointsOf(line[i - 1], line[i]);
+  DrawingBudget::spendOnVertices(points);
+  if (DrawingBudget::isSpent()) return;
+  for (size_t i = 1; i < line.size(); ++i) dasher.segment(line[i - 1], line[i]);
   if (closed) dasher.segment(line.back(), line.front());
   dasher.finish();
 }
