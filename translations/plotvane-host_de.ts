@@ -8437,11 +8437,15 @@
     </message>
     <message>
         <source>%1 was not written: its symbols draw over each other many hundred times; make them smaller, fewer or less dense, or give less DPI.</source>
-        <translation>%1 wurde nicht geschrieben: Seine Symbole liegen viele hundert Mal übereinander; machen Sie sie kleiner, weniger zahlreich oder weniger dicht, oder geben Sie weniger DPI an.</translation>
+        <translation type="vanished">%1 wurde nicht geschrieben: Seine Symbole liegen viele hundert Mal übereinander; machen Sie sie kleiner, weniger zahlreich oder weniger dicht, oder geben Sie weniger DPI an.</translation>
     </message>
     <message>
         <source>%1 was not written: the font %2 can&apos;t be opened at the moment; start the program again.</source>
         <translation>%1 wurde nicht geschrieben: Die Schrift %2 lässt sich im Augenblick nicht öffnen; starten Sie das Programm neu.</translation>
+    </message>
+    <message>
+        <source>%1 was not written: drawing its page takes far more than its size and its data are worth; simplify lines and areas with many vertices or crossings, make symbols smaller, fewer or less dense, or give less DPI.</source>
+        <translation>%1 wurde nicht geschrieben: Die Seite zu zeichnen kostet weit mehr, als ihre Größe und ihre Daten wert sind; vereinfachen Sie Linien und Flächen mit vielen Stützpunkten oder Kreuzungen, machen Sie Symbole kleiner, setzen Sie weniger oder weniger dichte, oder geben Sie weniger DPI an.</translation>
     </message>
 </context>
 <context>

@@ -8437,11 +8437,15 @@
     </message>
     <message>
         <source>%1 was not written: its symbols draw over each other many hundred times; make them smaller, fewer or less dense, or give less DPI.</source>
-        <translation>%1 未写入：其符号相互叠绘了数百次；请将它们改小、减少或改稀疏，或降低 DPI。</translation>
+        <translation type="vanished">%1 未写入：其符号相互叠绘了数百次；请将它们改小、减少或改稀疏，或降低 DPI。</translation>
     </message>
     <message>
         <source>%1 was not written: the font %2 can&apos;t be opened at the moment; start the program again.</source>
         <translation>未写入 %1：目前无法打开字体 %2；请重新启动程序。</translation>
+    </message>
+    <message>
+        <source>%1 was not written: drawing its page takes far more than its size and its data are worth; simplify lines and areas with many vertices or crossings, make symbols smaller, fewer or less dense, or give less DPI.</source>
+        <translation>未写入 %1：绘制此页面的开销远超其尺寸和数据所应有的程度；请简化顶点或交叉过多的线和面，将符号改小、减少或放疏，或降低 DPI。</translation>
     </message>
 </context>
 <context>

@@ -146,8 +146,9 @@ QString PageExport::writePixels(SysCarto::MapDocument& document, _ptr_t<TrackerC
 }
 
 QString PageExport::tooMuch() const {
-  return tr("%1 was not written: its symbols draw over each other many hundred times; make them smaller, fewer or less "
-            "dense, or give less DPI.")
+  return tr("%1 was not written: drawing its page takes far more than its size and its data are worth; simplify lines "
+            "and "
+            "areas with many vertices or crossings, make symbols smaller, fewer or less dense, or give less DPI.")
       .arg(path_);
 }
 
