@@ -17,13 +17,16 @@
 
 namespace {
 
-constexpr int maxLeftovers = 64;     // at a time
-constexpr int leftoverBytes = 8192;  // two paths of the longest kind
+constexpr int maxLeftovers = 64;  // at a time
+constexpr int pathBytes = 4096;
+constexpr int leftoverBytes = 2 * pathBytes;
 
-// Memory that both processes see: for each leftover two texts, one after the other; empty where there is none.
+// Memory that both processes see: for each leftover its folder, empty where it is gone, and its target, empty where
+// that is written.
 char* shared = nullptr;
 
 char* slot(int i) { return shared + i * leftoverBytes; }
+char* targetIn(char* slot) { return slot + pathBytes; }
 
 QDir entries() {
   return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
@@ -53,11 +56,11 @@ void removeFolder(QString const& path) {
 
 Leftover::Leftover(QString const& folder, QString const& target) : folder_(folder) {
   QByteArray const first = QFile::encodeName(folder), second = QFile::encodeName(target);
-  bool const fits = first.size() + second.size() + 2 <= leftoverBytes;
+  bool const fits = std::max(first.size(), second.size()) < pathBytes;
   for (int i = 0; shared && fits && i < maxLeftovers && !place_; ++i)
     if (*slot(i) == '\0') place_ = slot(i);
   if (place_) {
-    std::memcpy(place_ + first.size() + 1, second.constData(), static_cast<std::size_t>(second.size()) + 1);
+    std::memcpy(targetIn(place_), second.constData(), static_cast<std::size_t>(second.size()) + 1);
     std::memcpy(place_, first.constData(), static_cast<std::size_t>(first.size()) + 1);
   }
   if (isOnNetwork(QFileInfo(folder).path())) return;
@@ -74,6 +77,10 @@ Leftover::~Leftover() {
   if (entry_.isOpen()) entry_.remove();
 }
 
+void Leftover::setWritten() {
+  if (place_) *targetIn(place_) = '\0';
+}
+
 bool Leftover::share() {
   void* const memory = mmap(nullptr, std::size_t{maxLeftovers} * leftoverBytes, PROT_READ | PROT_WRITE,
                             MAP_SHARED | MAP_ANONYMOUS, -1, 0);
@@ -84,9 +91,8 @@ bool Leftover::share() {
 QString Leftover::clear() {
   QString target;
   for (int i = 0; i < maxLeftovers; ++i) {
-    if (*slot(i) == '\0') continue;
-    QDir(QFile::decodeName(slot(i))).removeRecursively();
-    if (target.isEmpty()) target = QFile::decodeName(slot(i) + std::strlen(slot(i)) + 1);
+    if (*slot(i) != '\0') QDir(QFile::decodeName(slot(i))).removeRecursively();
+    if (target.isEmpty()) target = QFile::decodeName(targetIn(slot(i)));
   }
   return target;
 }

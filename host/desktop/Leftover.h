@@ -18,10 +18,14 @@ public:
   Leftover(Leftover const&) = delete;
   Leftover& operator=(Leftover const&) = delete;
 
+  /// The target is in its place: if the process ends from now on, it is not that which is missing.
+  void setWritten();
+
   /// Has a worker that is forked afterwards share with this process what it notes. False where there is no memory.
   static bool share();
 
-  /// Removes what the worker, which has gone, has left. Answers the first target.
+  /// Removes what the worker, which has gone, has left. Answers the first target that was not written, even where the
+  /// worker has cleaned up itself.
   static QString clear();
 
   /// Removes what processes have left that have gone, wherever that lies. Tells nothing.

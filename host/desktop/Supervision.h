@@ -24,7 +24,7 @@ struct ProcessEnding {
   Reason reason = Reason::Itself;  ///< for the last two it was ended by us
   int status = 0;                  ///< that of the process, where it ended by itself
   int signal = 0;                  ///< of which it died; else 0
-  QString unfinished;              ///< what it was about to write, where it left that behind; all of it is gone now
+  QString unfinished;              ///< what it was about to write and did not; nothing of that is left
 };
 
 /// Runs the work in a process of its own, in the same group. Signals that ask this one to end are handed on, and if it

@@ -272,6 +272,15 @@ private slots:
     QVERIFY(contents(folder_.path()) == before);
   }
 
+  void aLimitOfTimeNamesWhatIsMissing() {
+    auto const before = contents(folder_.path());
+    Outcome const outcome =
+        run({"export", "page.kdx", "late.tif", "--dpi", "1500", "--max-seconds", "1"}, folder_.path());
+    QCOMPARE(outcome.status, 1);
+    QVERIFY2(outcome.err.contains("late.tif was not written: it took more than the 1 s"), qPrintable(outcome.err));
+    QVERIFY(contents(folder_.path()) == before);
+  }
+
   void theNextStartSweepsOutWhatWasKilled() {
     QTemporaryDir const home;
     Variables const own{{"HOME", home.path()}, {"XDG_CACHE_HOME", {}}};

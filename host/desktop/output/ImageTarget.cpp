@@ -234,6 +234,7 @@ QString ImageTarget::commit() {
   int error = syncToDisk(workingPath());
   if (error == 0) error = moved(workingPath(), path_);
   if (error != 0) return tr("%1 was not written: %2.").arg(name_, systemReason(error));
+  folder_->setWritten();
   for (QString const& name : beside_)
     if (error == 0 && (error = moved(besidePath(sidePrefix + name), besideImage(name))) != 0)
       return tr("%1 was written, but not %2, which says where it lies: %3.").arg(name_, name, systemReason(error));

@@ -22,6 +22,9 @@ public:
 
   QString filePath(QString const& name) const { return path_ + QLatin1Char('/') + name; }
 
+  /// What was made in it is in its place.
+  void setWritten() { leftover_->setWritten(); }
+
 private:
   QString path_;
   std::unique_ptr<Leftover> leftover_;
