@@ -205,9 +205,10 @@ QString PageImage::write(_ptr_t<TrackerCancel> const& cancel, ExportProgress con
   DatasetPtr pixels(driver("GTiff")->Create(path.constData(), part_.width(), part_.height(), bands(), GDT_Byte,
                                             const_cast<char**>(layout)));
   ImageTags const tags{SysCarto::FileInformation::of(document_), pxPerInch_};
+  if (pixels && qstrcmp(format_.driver, "GTiff") == 0) describe(*pixels, tags);
   bool isWritten = pixels && drawTiles(*pixels, cancel, progress);
   bool const isWhole = !cancel->IsCanced() && !SysDisplay::DrawingBudget::isSpent();
-  if (isWritten && isWhole) isWritten = convert(*pixels, tags, cancel, progress);
+  if (isWritten && isWhole) isWritten = convert(*pixels, cancel, progress);
   pixels.reset();
   // The disk may have room for one more copy of the image, and not for this, too.
   QFile::remove(QString::fromUtf8(path));
@@ -237,16 +238,18 @@ bool PageImage::drawTiles(GDALDataset& dataset, _ptr_t<TrackerCancel> const& can
   return true;
 }
 
-bool PageImage::convert(GDALDataset& pixels, ImageTags const& tags, _ptr_t<TrackerCancel> const& cancel,
+// A TIFF takes over what the pixels' file says, which has to be said before there are pixels: a large file is written
+// meanwhile, and refuses it then.
+void PageImage::describe(GDALDataset& pixels, ImageTags const& tags) const {
+  tags.describe(pixels);
+  if (!georeference_) return;
+  auto transform = georeference_->transform;
+  pixels.SetGeoTransform(transform.data());
+  pixels.SetSpatialRef(georeference_->system.get());
+}
+
+bool PageImage::convert(GDALDataset& pixels, _ptr_t<TrackerCancel> const& cancel,
                         ExportProgress const& progress) const {
-  if (qstrcmp(format_.driver, "GTiff") == 0) {
-    tags.describe(pixels);
-    if (georeference_) {
-      auto transform = georeference_->transform;
-      pixels.SetGeoTransform(transform.data());
-      pixels.SetSpatialRef(georeference_->system.get());
-    }
-  }
   QList<QByteArray> options{ImageTags::colorOption(format_)};
   auto const* const way = format_.compression(options_.compression);
   if (way) options << QByteArray(way->options).split(' ');

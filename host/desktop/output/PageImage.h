@@ -52,7 +52,8 @@ private:
   QString planGeoreference();
   bool drawTiles(GDALDataset& dataset, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
                  ExportProgress const& progress) const;
-  bool convert(GDALDataset& pixels, ImageTags const& tags, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
+  void describe(GDALDataset& pixels, ImageTags const& tags) const;
+  bool convert(GDALDataset& pixels, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
                ExportProgress const& progress) const;
 
   SysCarto::MapDocument& document_;
