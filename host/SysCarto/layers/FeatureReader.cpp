@@ -89,7 +89,17 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
   }
   bool const isGlobe = source.data == SourceSettings::Data::Globe;
   auto const globe = isGlobe && target ? globeOf(*target) : nullptr;  // the globe is the map's own
+  GdalErrors const errors;
   OGRSpatialReference const* const own = isGlobe ? globe.get() : given ? given.get() : layer.GetSpatialRef();
+  // A database names the column of its keys; it knows a system that it fails to tell. What a file beside the data says
+  // may be nonsense.
+  if (!own && errors.hasFailure() && *layer.GetFIDColumn() != '\0') {
+    result.error = Texts::tr(
+                       "The coordinate system of %1 can't be read: %2. Mend the file, or give the system in the "
+                       "source's field “coordinateSystem”.")
+                       .arg(describeSource(source), errors.reason());
+    return nullptr;
+  }
   if (!own && target)
     result.warnings << Texts::tr(
                            "No coordinate system is known for %1; its coordinates are taken as those of the map. "
