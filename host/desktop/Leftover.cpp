@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <iterator>
 
@@ -32,6 +33,10 @@ QDir entries() {
   return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
               QStringLiteral("/plotvane/work"));
 }
+
+// Of an entry that has yet to be locked, and to get its line. It bears its own name from then on, so that no sweep
+// takes the entry of somebody who is about to make it.
+QString const unready = QStringLiteral(".new");
 
 bool isLocked(QFile& file) { return flock(file.handle(), LOCK_EX | LOCK_NB) == 0; }
 
@@ -59,22 +64,27 @@ Leftover::Leftover(QString const& folder, QString const& target) : folder_(folde
   bool const fits = std::max(first.size(), second.size()) < pathBytes;
   for (int i = 0; shared && fits && i < maxLeftovers && !place_; ++i)
     if (*slot(i) == '\0') place_ = slot(i);
-  if (place_) {
+  if (place_) {  // the first byte last, since this process can be killed at any moment
     std::memcpy(targetIn(place_), second.constData(), static_cast<std::size_t>(second.size()) + 1);
-    std::memcpy(place_, first.constData(), static_cast<std::size_t>(first.size()) + 1);
+    std::memcpy(place_ + 1, first.constData() + 1, static_cast<std::size_t>(first.size()));
+    std::atomic_signal_fence(std::memory_order_release);
+    *place_ = first.at(0);
   }
   if (isOnNetwork(QFileInfo(folder).path())) return;
   QDir const place = entries();
   place.mkpath(QStringLiteral("."));
-  entry_.setFileName(place.filePath(QUuid::createUuid().toString(QUuid::WithoutBraces)));
-  if (entry_.open(QIODevice::WriteOnly) && isLocked(entry_)) entry_.write(first + '\n');
-  if (entry_.isOpen()) entry_.flush();
+  QString const name = place.filePath(QUuid::createUuid().toString(QUuid::WithoutBraces));
+  entry_.setFileName(name + unready);
+  if (entry_.open(QIODevice::WriteOnly) && isLocked(entry_) && entry_.write(first + '\n') > 0 && entry_.flush())
+    QFile::rename(entry_.fileName(), name);
 }
 
 Leftover::~Leftover() {
   if (QFileInfo::exists(folder_)) return;
   if (place_) *place_ = '\0';
-  if (entry_.isOpen()) entry_.remove();
+  if (!entry_.isOpen()) return;
+  QFile::remove(entry_.fileName().chopped(unready.size()));
+  entry_.remove();  // where it did not come to its own name
 }
 
 void Leftover::setWritten() {
@@ -91,24 +101,23 @@ bool Leftover::share() {
 QString Leftover::clear() {
   QString target;
   for (int i = 0; i < maxLeftovers; ++i) {
-    if (*slot(i) != '\0') QDir(QFile::decodeName(slot(i))).removeRecursively();
+    if (*slot(i) != '\0') removeFolder(QFile::decodeName(slot(i)));
     if (target.isEmpty()) target = QFile::decodeName(targetIn(slot(i)));
   }
   return target;
 }
 
-// One that has no whole line yet may be about to get it.
 void Leftover::sweep() {
   constexpr int soon = 60;  // seconds
   QDir const place = entries();
   for (QFileInfo const& file : place.entryInfoList(QDir::Files | QDir::Hidden)) {
+    bool const isOld = file.lastModified().secsTo(QDateTime::currentDateTime()) > soon;
+    if (file.fileName().endsWith(unready) && !isOld) continue;
     QFile entry(file.filePath());
-    if (!entry.open(QIODevice::ReadWrite) || !isLocked(entry)) continue;
+    if (!entry.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) || !isLocked(entry)) continue;
     QByteArray const line = entry.readAll();
     bool const isWhole = line.endsWith('\n');
     if (isWhole) removeFolder(QFile::decodeName(line.chopped(1)));
-    if (isWhole ? !QFileInfo::exists(QFile::decodeName(line.chopped(1)))
-                : file.lastModified().secsTo(QDateTime::currentDateTime()) > soon)
-      entry.remove();
+    if (isWhole ? !QFileInfo::exists(QFile::decodeName(line.chopped(1))) : isOld) entry.remove();
   }
 }
