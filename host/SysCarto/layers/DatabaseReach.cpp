@@ -12,6 +12,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -61,35 +62,45 @@ bool holdsWayOut(sqlite3* database) {
          anyRow(database, "SELECT definition_12_063 FROM gpkg_spatial_ref_sys", namesGridByPath);
 }
 
-// Whether a program holds a lock on the index of a log, as each does that has the database open. To open the file and
-// ask would not do: closing it again ends the locks that this process has on it.
-bool isInUse(QString const& index) {
+// Whether a program holds a lock of this kind ("READ", "WRITE", or any for "") on a file. To open the file and ask
+// would not do: closing it again ends the locks that this process has on it.
+bool isLocked(QString const& path, QByteArray const& kind) {
   struct stat status;
   QFile locks(QStringLiteral("/proc/locks"));
-  if (::stat(QFile::encodeName(index).constData(), &status) != 0) return false;
+  if (::stat(QFile::encodeName(path).constData(), &status) != 0) return false;
   if (!locks.open(QIODevice::ReadOnly)) return true;
   QByteArray const inode = ':' + QByteArray::number(static_cast<qulonglong>(status.st_ino)) + ' ';
-  return locks.readAll().contains(inode);
+  QList<QByteArray> const lines = locks.readAll().split('\n');
+  return std::any_of(lines.cbegin(), lines.cend(),
+                     [&](QByteArray const& line) { return line.contains(inode) && line.contains(kind); });
+}
+
+// A journal that is done with begins with a zero.
+bool isBegun(QString const& journal) {
+  QFile file(journal);
+  char first = 0;
+  return file.open(QIODevice::ReadOnly) && file.read(&first, 1) == 1 && first != 0;
 }
 
 // Whoever opens a database with a log or a journal that nobody has in use any more has it written into the database, or
 // taken back from it: what a stranger has laid beside a file would change it, and a journal may name a further file
-// that is then removed. A journal that is done with begins with a zero.
+// that is then removed. Each that has the database open holds a lock on the index of its log; where there is none, who
+// writes holds one on the database, which may be in between two states then.
 QString problemOfJournals(QString const& path) {
-  QString const journal = path + QLatin1String("-journal");
-  for (QString const& name : {journal, path + logSuffix, path + indexSuffix}) {
+  QString const journal = path + QLatin1String("-journal"), log = path + logSuffix, index = path + indexSuffix;
+  for (QString const& name : {journal, log, index}) {
     QFileInfo const beside(name);
     if (beside.isSymLink() || (beside.exists() && !beside.isFile()))
       return Texts::tr("%1 beside it is no file of its own; remove that").arg(beside.fileName());
   }
-  QFile begun(journal);
-  char first = 0;
-  bool const isBegun = begun.open(QIODevice::ReadOnly) && begun.read(&first, 1) == 1 && first != 0;
-  if (isBegun || (hasLog(path) && !isInUse(path + indexSuffix)))
+  if (isBegun(journal) && isLocked(path, " WRITE "))
+    return Texts::tr("another program is just writing it; try again when that is done");
+  bool const hasJournal = isBegun(journal);  // again, since it may have come to its end by now
+  if (hasJournal || (hasLog(path) && !isLocked(index, QByteArray())))
     return Texts::tr(
                "a change of it was not brought to its end, and lies beside it in %1; open it once in the program "
                "that changed it, and close it there")
-        .arg(QFileInfo(isBegun ? journal : path + logSuffix).fileName());
+        .arg(QFileInfo(hasJournal ? journal : log).fileName());
   return QString();
 }
 

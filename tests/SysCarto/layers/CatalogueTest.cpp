@@ -2,8 +2,10 @@
 
 #include "host/SysCarto/layers/DataCatalogue.h"
 
+#include <fcntl.h>
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>
+#include <unistd.h>
 
 using namespace SysCarto;
 using SysGeometry::Box;
@@ -195,6 +197,7 @@ private slots:
   void whatLiesBesideADatabaseIsLeftThere_data() {
     Rows<QString, QByteArray, QString> row;
     row("a journal of a change that was interrupted", "a.gpkg-journal", "x", "a.gpkg-journal; open it once");
+    row("a journal of a change that is being made", "a.gpkg-journal", "y", "just writing it; try again");
     row("a journal that is done with", "a.gpkg-journal", QByteArray(512, '\0'), "");
     row("a log of which no program knows", "a.gpkg-wal", "x", "a.gpkg-wal; open it once");
     row("a journal that is a link", "a.gpkg-journal", "link", "no file of its own");
@@ -209,6 +212,9 @@ private slots:
     else
       written(folder, name, content);
     QByteArray const before = contentOf(path);
+    QFile writer(path);  // as SQLite has it, but kept when others of this process close the file
+    flock lock = {F_WRLCK, SEEK_SET, 0x40000001, 1, 0};
+    if (content == "y") QVERIFY(writer.open(QIODevice::ReadWrite) && fcntl(writer.handle(), F_OFD_SETLK, &lock) == 0);
     QString const error = describeFile(path).error;
     QVERIFY2(says.isEmpty() ? error.isEmpty() : error.contains(says), qPrintable(error));
     QCOMPARE(contentOf(path), before);
