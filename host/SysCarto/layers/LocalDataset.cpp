@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QtEndian>
 
 #include <cpl_conv.h>
 #include <cpl_string.h>
@@ -123,21 +124,45 @@ QString refusalOfHead(QString const& path) {
   return QString();
 }
 
-// Entries may share their bytes, and each says in the archive's directory how long it is: the drivers read no more.
-double unpackedSizeOf(QString const& archive) {
-  std::unique_ptr<VSIDIR, decltype(&VSICloseDir)> const entries(
-      VSIOpenDir(("/vsizip/{" + archive.toUtf8() + "}").constData(), -1, nullptr), VSICloseDir);
-  double bytes = 0;
-  while (VSIDIREntry const* const entry = entries ? VSIGetNextDirEntry(entries.get()) : nullptr)
-    bytes += static_cast<double>(entry->nSize);
-  return bytes;
+// Whether a table of a Shapefile is as long as its head says.
+bool isTableOfSize(QByteArray const& path, double size) {
+  constexpr double maxPadding = 512;  // bytes
+  constexpr int headSize = 12;
+  uchar head[headSize] = {};
+  VSILFILE* const file = VSIFOpenL(path.constData(), "rb");
+  bool const isRead = file && VSIFReadL(head, headSize, 1, file) == 1;
+  if (file) VSIFCloseL(file);
+  double const records = qFromLittleEndian<quint32>(head + 4);
+  double const said = qFromLittleEndian<quint16>(head + 8) + records * qFromLittleEndian<quint16>(head + 10);
+  return isRead && size >= said && size <= said + maxPadding;
 }
 
-QString refusalOfArchive(QString const& path) {
-  bool const isWhole = hasSuffix(path, "kmz");
-  if (!isWhole && !hasSuffix(path, "zip") && !hasSuffix(path, "shz")) return QString();
+// Entries may share their bytes, and each says in the archive's directory how long it is: the drivers read no more. Of
+// a folder with Shapefiles they read only what belongs to these. The records of a table are read one at a time and are
+// mostly blanks, so that it may be long.
+double unpackedSizeOf(QByteArray const& folder, bool isWhole) {
+  static QStringList const suffixes = QStringLiteral("shp shx dbf prj cpg qix sbn sbx idm ind").split(QLatin1Char(' '));
+  constexpr double maxTables = 1e9;  // bytes
+  std::unique_ptr<VSIDIR, decltype(&VSICloseDir)> const entries(
+      VSIOpenDir(folder.constData(), isWhole ? -1 : 0, nullptr), VSICloseDir);
+  double bytes = 0, tables = 0;
+  while (VSIDIREntry const* const entry = entries ? VSIGetNextDirEntry(entries.get()) : nullptr) {
+    auto const size = static_cast<double>(entry->nSize);
+    QByteArray const name = entry->pszName;
+    QString const suffix = QFileInfo(QString::fromUtf8(name)).suffix().toLower();
+    bool const isTable = !isWhole && suffix == QLatin1String("dbf") && isTableOfSize(folder + '/' + name, size);
+    if (isWhole || suffixes.contains(suffix)) (isTable ? tables : bytes) += size;
+  }
+  return tables <= maxTables ? bytes : bytes + tables;
+}
+
+// `name` is what is to be opened, and empty where there is nothing.
+QString refusalOfArchive(QString const& path, QByteArray const& name) {
+  bool const isWhole = hasSuffix(path, "kmz"), isFolder = hasSuffix(path, "zip");
+  if (name.isEmpty() || (!isWhole && !isFolder && !hasSuffix(path, "shz"))) return QString();
   auto const reading = isWhole ? SourceBounds::Reading::Whole : SourceBounds::Reading::ByFeature;
-  if (SourceBounds::allowsUnpacked(unpackedSizeOf(path), QFileInfo(path).size(), reading)) return QString();
+  double const unpacked = unpackedSizeOf(isFolder ? name : "/vsizip/{" + name + "}", isWhole);
+  if (SourceBounds::allowsUnpacked(unpacked, QFileInfo(path).size(), reading)) return QString();
   return Texts::tr("it holds far more than an archive of its size should; unpack it, and name the file in it");
 }
 
@@ -203,7 +228,7 @@ DatasetPointer openLocalDataset(QString const& path, QString& error) {
   QString const absolute = QFileInfo(path).absoluteFilePath();
   bool const isArchive = hasSuffix(path, "zip");
   QByteArray const name = isArchive ? folderWithShapes(absolute) : absolute.toUtf8();
-  reason = refusalOfArchive(absolute);
+  reason = refusalOfArchive(absolute, name);
   if (reason.isEmpty()) reason = refusalOfContent(absolute, name);
   if (!reason.isEmpty()) {
     error = cannotOpen(path, reason);

@@ -39,14 +39,26 @@ void writePlaces(QString const& path, char const* driverName, char const* layerN
 }
 
 // An archive that is a thousandth of what it holds.
-QByteArray packedZeros(char const* entry, int count) {
+QByteArray packed(QVector<QPair<QByteArray, QByteArray>> const& entries) {
   QTemporaryDir const folder;
-  QString const path = folder.filePath("a.zip");
-  VSILFILE* const file = VSIFOpenL(("/vsizip/" + path.toUtf8() + '/' + entry).constData(), "wb");
-  QByteArray const zeros(count, '\0');
-  VSIFWriteL(zeros.constData(), 1, static_cast<size_t>(zeros.size()), file);
-  VSIFCloseL(file);
-  return contentOf(path);
+  QByteArray const path = "/vsizip/" + folder.filePath("a.zip").toUtf8();
+  VSILFILE* const archive = VSIFOpenL(path.constData(), "wb");
+  for (auto const& entry : entries) {
+    VSILFILE* const file = VSIFOpenL((path + '/' + entry.first).constData(), "wb");
+    VSIFWriteL(entry.second.constData(), 1, static_cast<size_t>(entry.second.size()), file);
+    VSIFCloseL(file);
+  }
+  VSIFCloseL(archive);
+  return contentOf(folder.filePath("a.zip"));
+}
+
+QByteArray zeros(int count) { return QByteArray(count, '\0'); }
+
+// Of 80 MB, in records of a single field of 250 letters.
+QByteArray table(QByteArray const& countOfRecords) {
+  QByteArray const head = "\x03" + zeros(3) + QByteArray::fromHex(countOfRecords + "4100fb00") + zeros(20);
+  QByteArray const field = "n" + zeros(10) + 'C' + zeros(4) + '\xfa' + zeros(15) + '\r';
+  return head + field + QByteArray(320000 * 251, ' ');
 }
 
 // Of the first vertex of each feature.
@@ -170,8 +182,12 @@ private slots:
     row("an archive without a Shapefile", "a.zip", QByteArray::fromHex("504b0506") + QByteArray(18, '\0'),
         "no Shapefile");
     row("an archive that is none", "a.zip", "Hello", "no Shapefile");
-    row("places that are packed too well", "a.kmz", packedZeros("doc.kml", 20000000), "far more than an archive");
-    row("areas that are packed too well", "a.zip", packedZeros("a.shp", 80000000), "far more than an archive");
+    row("places that are packed too well", "a.kmz", packed({{"doc.kml", zeros(20000000)}}), "far more than an archive");
+    row("areas that are packed too well", "a.zip", packed({{"a.shp", zeros(80000000)}}), "far more than an archive");
+    row("a table that is longer than it says", "a.zip", packed({{"a.shp", ""}, {"a.dbf", table("01000000")}}),
+        "far more");
+    row("a long table, beside what is never read, of a Shapefile without shapes", "a.zip",
+        packed({{"a.shp", ""}, {"a.dbf", table("00e20400")}, {"a.tif", zeros(80000000)}}), "no features");
     row("text in UTF-16", "a.csv", QByteArray("\xff\xfex\0,\0y\0", 8), "UTF-16");
     row("nothing", "a.csv", "", "is empty");
     QByteArray const inserts = "0\nINSERT\n2\nB\n70\n1000\n71\n1000\n";
