@@ -243,6 +243,8 @@ DatasetPointer openLocalDataset(QString const& path, QString& error) {
   if (dataset) return dataset;
   QString known = isArchive ? Texts::tr("there is no Shapefile in this archive")
                             : Texts::tr("its format is none of those that are known (%1)").arg(formatNames());
+  if (hasSuffix(path, "kmz"))
+    known = Texts::tr("there is no KML in this archive that can be read; unpack it, and name the file in it");
   if (QFileInfo(path).size() == 0) known = Texts::tr("it is empty");
   if (errors.hasFailure()) known += QLatin1String(" (") + errors.reason() + QLatin1Char(')');
   error = cannotOpen(path, known);
