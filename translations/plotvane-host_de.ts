@@ -2106,6 +2106,14 @@
         <source>The connection “%1” has no table with geometries that its user may read.</source>
         <translation>Die Verbindung „%1“ hat keine Tabelle mit Geometrien, die ihr Benutzer lesen darf.</translation>
     </message>
+    <message>
+        <source>another program is just writing it; try again when that is done</source>
+        <translation>ein anderes Programm schreibt sie gerade; versuchen Sie es danach noch einmal</translation>
+    </message>
+    <message>
+        <source>there is no KML in this archive that can be read; unpack it, and name the file in it</source>
+        <translation>in diesem Archiv ist keine KML-Datei, die gelesen werden kann; entpacken Sie es, und nennen Sie die Datei darin</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -3032,6 +3040,10 @@
     <message>
         <source>the table “%1” of the connection “%2”</source>
         <translation>die Tabelle „%1“ der Verbindung „%2“</translation>
+    </message>
+    <message>
+        <source>The coordinate system of %1 can&apos;t be read: %2. Mend the file, or give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Das Koordinatensystem von %1 lässt sich nicht lesen: %2. Reparieren Sie die Datei, oder geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
 </context>
 <context>

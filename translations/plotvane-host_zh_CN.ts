@@ -2106,6 +2106,14 @@
         <source>The connection “%1” has no table with geometries that its user may read.</source>
         <translation>连接“%1”中没有其用户可读取的几何表。</translation>
     </message>
+    <message>
+        <source>another program is just writing it; try again when that is done</source>
+        <translation>另一个程序正在写入该文件；请等它写完后再试</translation>
+    </message>
+    <message>
+        <source>there is no KML in this archive that can be read; unpack it, and name the file in it</source>
+        <translation>此压缩包中没有可读取的 KML 文件；请将其解压，然后指定其中的文件</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -3032,6 +3040,10 @@
     <message>
         <source>the table “%1” of the connection “%2”</source>
         <translation>连接“%2”的表“%1”</translation>
+    </message>
+    <message>
+        <source>The coordinate system of %1 can&apos;t be read: %2. Mend the file, or give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>无法读取%1的坐标系：%2。请修复文件，或在数据源的“coordinateSystem”字段中给出坐标系。</translation>
     </message>
 </context>
 <context>
