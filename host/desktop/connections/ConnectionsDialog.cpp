@@ -7,12 +7,11 @@
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 using SysCarto::Connection;
 
@@ -47,6 +46,12 @@ ConnectionsDialog::ConnectionsDialog(QWidget* parent)
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
   auto* const column = new QVBoxLayout(this);
   column->addLayout(row, 1);
+  if (!kept_.problems.isEmpty()) {
+    auto* const problems = new QLabel(kept_.problems.join(QLatin1Char('\n')), this);
+    problems->setTextFormat(Qt::PlainText);
+    problems->setWordWrap(true);
+    column->addWidget(problems);
+  }
   column->addWidget(buttons);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(add, &QPushButton::clicked, this, [this] { edit(true); });
@@ -91,8 +96,7 @@ void ConnectionsDialog::edit(bool isNew) {
   SettingsDialog dialog(now ? tr("Connection “%1”").arg(before) : tr("New Connection"), source, {}, this);
   if (dialog.exec() != QDialog::Accepted) return;
   Connection const made = source.settings();
-  Connection const* const same = kept_.find(made.name);
-  if (same && same != now)
+  if (kept_.has(made.name) && !(now && now->name == made.name))
     return tell(true, tr("There is a connection “%1” already; take another name.").arg(made.name));
   if (now)
     *now = made;
@@ -103,8 +107,7 @@ void ConnectionsDialog::edit(bool isNew) {
 
 void ConnectionsDialog::remove() {
   QString const name = current();
-  auto& all = kept_.connections;
-  all.erase(std::remove_if(all.begin(), all.end(), [&](Connection const& one) { return one.name == name; }), all.end());
+  kept_.remove(name);
   keep(QString());
 }
 

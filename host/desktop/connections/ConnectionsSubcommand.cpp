@@ -10,8 +10,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <algorithm>
-
 using SysCarto::Connection;
 
 namespace {
@@ -52,8 +50,8 @@ QString jsonOf(Connection connection, QJsonObject& json) {
 
 QString tellAll(bool asJson) {
   QJsonArray list;
-  auto const all = KeptConnections::kept().connections;
-  for (Connection const& one : all) {
+  KeptConnections const kept = KeptConnections::kept();
+  for (Connection const& one : kept.connections) {
     QJsonObject json;
     jsonOf(one, json);
     list << json;
@@ -68,14 +66,16 @@ QString tellAll(bool asJson) {
                          .trimmed());
   }
   if (asJson) Console::print(QString::fromUtf8(QJsonDocument(list).toJson()).trimmed());
-  if (!asJson && all.empty())
+  if (!asJson && kept.connections.empty() && kept.problems.isEmpty())
     Console::print(Texts::tr("There are no connections; plotvane connections add NAME makes one."));
   return QString();
 }
 
-QString add(QString const& name, QCommandLineParser const& parser) {
+// Whether the arguments are to blame is told, too.
+QString add(QString const& name, QCommandLineParser const& parser, bool& isWrong) {
   KeptConnections all = KeptConnections::kept();
-  if (all.find(name))
+  isWrong = true;
+  if (all.has(name))
     return Texts::tr("connections: there is a connection \"%1\" already; remove it first, or take another name.")
         .arg(name);
   QJsonObject json{{QStringLiteral("name"), name}, {documentsOption, parser.isSet(documentsOption)}};
@@ -90,16 +90,15 @@ QString add(QString const& name, QCommandLineParser const& parser) {
   Connection made;
   QString const problem = SysUtility::readJson(json, made);
   if (!problem.isEmpty()) return QStringLiteral("connections: %1").arg(problem);
+  isWrong = false;
   all.connections.push_back(made);
   return all.keep();
 }
 
 QString remove(QString const& name) {
   KeptConnections all = KeptConnections::kept();
-  auto& list = all.connections;
-  if (!all.find(name)) return notKnown(name);
-  list.erase(std::remove_if(list.begin(), list.end(), [&](Connection const& one) { return one.name == name; }),
-             list.end());
+  if (!all.has(name)) return notKnown(name);
+  all.remove(name);
   return all.keep();
 }
 
@@ -136,11 +135,14 @@ ExitStatus runConnections(Subcommand const& self, QStringList const& arguments) 
     Console::complain(wrong);
     return WrongArguments;
   }
+  bool isWrong = false;
   QString const problem = isList                            ? tellAll(parser.isSet(QStringLiteral("json")))
-                          : action == QLatin1String("add")  ? add(name, parser)
+                          : action == QLatin1String("add")  ? add(name, parser, isWrong)
                           : action == QLatin1String("test") ? test(name)
                                                             : remove(name);
+  for (QString const& left : KeptConnections::kept().problems)
+    if (left != problem) Console::complain(left);
   if (problem.isEmpty()) return Done;
   Console::complain(problem);
-  return WorkFailed;
+  return isWrong ? WrongArguments : WorkFailed;
 }

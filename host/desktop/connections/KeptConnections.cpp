@@ -1,10 +1,10 @@
 #include "KeptConnections.h"
 
-#include "host/SysUtility/Fields.h"
 #include "host/SysUtility/JsonFields.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QSettings>
 
 #include <algorithm>
@@ -14,41 +14,75 @@ using SysCarto::Connections;
 
 namespace {
 
-constexpr int maxConnections = 1000;
 QString const key = QStringLiteral("connections");
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(KeptConnections)
 };
 
+QString nameOf(QJsonValue const& entry) { return entry.toObject().value(QLatin1String("name")).toString(); }
+
 }  // namespace
 
-// What cannot be read is not known: a setting that was written by hand may be anything.
+// A setting that was written by hand may be anything.
 KeptConnections KeptConnections::kept() {
   KeptConnections read;
-  QByteArray const text = QSettings().value(key).toByteArray();
-  if (!text.isEmpty() && !SysUtility::readJson(QJsonDocument::fromJson(text).object(), read).isEmpty())
-    read.connections.clear();
+  QSettings const settings;
+  QByteArray const text = settings.value(key).toByteArray();
+  if (text.trimmed().isEmpty()) return read;
+  QJsonValue const all = QJsonDocument::fromJson(text).object().value(key);
+  if (!all.isArray()) {
+    read.isReadable = false;
+    read.problems << Texts::tr(
+                         "The connections in %1 could not be read; correct its entry “connections”, or remove it.")
+                         .arg(settings.fileName());
+  }
+  for (QJsonValue const& entry : all.toArray()) {
+    Connection one;
+    QString const problem =
+        entry.isObject() ? SysUtility::readJson(entry.toObject(), one) : Texts::tr("it is no object");
+    if (problem.isEmpty()) {
+      read.connections.push_back(one);
+      continue;
+    }
+    read.notUnderstood << entry;
+    read.problems << Texts::tr(
+                         "The connection “%1” in %2 is left out: %3. Correct it there, or remove it with plotvane "
+                         "connections remove %1.")
+                         .arg(nameOf(entry), settings.fileName(), problem);
+  }
   return read;
 }
 
-void KeptConnections::list(SysUtility::Fields& fields) {
-  fields.list<std::vector<Connection>>(
-      {"connections", QT_TRANSLATE_NOOP("Fields", "Connections"),
-       QT_TRANSLATE_NOOP("Fields", "Databases by the names that documents have for them."), "connection"},
-      connections, maxConnections, [](SysUtility::Fields& own, Connection& one, int) { one.list(own); });
-}
-
 QString KeptConnections::keep() {
-  SysUtility::JsonWriter writer;
-  list(writer);
+  if (!isReadable) return problems.first();
+  QJsonArray all;
+  for (Connection& one : connections) {
+    SysUtility::JsonWriter writer;
+    one.list(writer);
+    all << writer.json();
+  }
+  for (QJsonValue const& one : qAsConst(notUnderstood)) all << one;
   QSettings settings;
-  settings.setValue(key, QJsonDocument(writer.json()).toJson(QJsonDocument::Compact));
+  settings.setValue(key, QJsonDocument(QJsonObject{{key, all}}).toJson(QJsonDocument::Compact));
   settings.sync();
   if (settings.status() != QSettings::NoError)
     return Texts::tr("The settings could not be written; make %1 writable.").arg(settings.fileName());
   Connections::know(connections);
   return QString();
+}
+
+bool KeptConnections::has(QString const& name) {
+  return find(name) || std::any_of(notUnderstood.constBegin(), notUnderstood.constEnd(),
+                                   [&](QJsonValue const& one) { return nameOf(one) == name; });
+}
+
+void KeptConnections::remove(QString const& name) {
+  connections.erase(
+      std::remove_if(connections.begin(), connections.end(), [&](Connection const& one) { return one.name == name; }),
+      connections.end());
+  for (int i = notUnderstood.size(); i-- > 0;)
+    if (nameOf(notUnderstood.at(i)) == name) notUnderstood.removeAt(i);
 }
 
 Connection* KeptConnections::find(QString const& name) {
