@@ -52,8 +52,25 @@ void measure(SysCarto::DataFile& file) {
   }
 }
 
+// Leaves one table of a connection.
+void keepTable(SysCarto::DataFile& file, QString const& table) {
+  auto const all = std::move(file.layers);
+  file.layers.clear();
+  QStringList names;
+  for (auto const& layer : all) {
+    names << layer.name;
+    if (layer.name == table) file.layers.push_back(layer);
+  }
+  if (file.error.isEmpty() && file.layers.empty())
+    file.error = Texts::tr("%1 has no table \"%2\" that its user may read; it has: %3.")
+                     .arg(file.path, table, names.join(QStringLiteral(", ")));
+}
+
 ExitStatus tellData(QString const& path, bool asJson) {
-  auto file = SysCarto::describeFile(SysCarto::absoluteOrigin(path));
+  QString const table = SysCarto::connectionIn(path).section(QLatin1Char('|'), 1);
+  auto file = SysCarto::describeFile(
+      SysCarto::absoluteOrigin(table.isEmpty() ? path : path.left(path.indexOf(QLatin1Char('|')))));
+  if (!table.isEmpty()) keepTable(file, table);
   if (!file.error.isEmpty()) {
     Console::complain(file.error);
     return WorkFailed;

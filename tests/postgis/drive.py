@@ -82,7 +82,7 @@ def write_data(server, folder):
     server.sql("CREATE DATABASE city", "postgres")
     server.sql("CREATE EXTENSION postgis;"
                "CREATE TABLE places (id integer PRIMARY KEY, name text, geom geometry(Point, 4326));"
-               "CREATE TABLE secrets (id integer PRIMARY KEY, geom geometry(Point, 4326));"
+               "CREATE TABLE secrets (id integer PRIMARY KEY, geom geometry);"
                "CREATE VIEW slowly AS SELECT * FROM places WHERE pg_sleep(0.001)::text IS NOT NULL;"
                "CREATE USER reader PASSWORD 'right'; GRANT SELECT ON places TO reader;"
                f"COPY places FROM STDIN;\n{rows}\\.\n")
@@ -172,8 +172,13 @@ def tells_what_is_wrong(program, server):
     secured = program.document("secured.kdx", {"connection": "secured", "layer": "public.places"})
     fails(program, "a wrong password is told", ["secured", ".pgpass"], "export", secured, "x.png", PGPASSWORD="wrong")
     denied = program.document("denied.kdx", {"connection": "secured", "layer": "public.secrets"})
-    fails(program, "a table that may not be read is told", ["public.secrets", "permission denied"], "export", denied,
+    fails(program, "a table that may not be read is told", ["public.secrets", "no permission"], "export", denied,
           "x.png", PGPASSWORD="right")
+    done = program("info", "connection:secured", PGPASSWORD="right")
+    check(done.returncode == 0 and "secrets" not in done.stdout, "tables that may be read are told alone", done.stderr)
+    one = program("info", "connection:city|public.slowly")
+    check(one.returncode == 0 and "slowly" in one.stdout and "secrets" not in one.stdout, "one table is told",
+          one.stdout + one.stderr)
     done = program("export", secured, "x.png", PGPASSWORD="right")
     check(done.returncode == 0, "a password of the environment is used", done.stderr)
 
@@ -227,6 +232,8 @@ def add_connections(program, server):
                        ("deaf", ["--user", "owner", "--port", "5499"])):
         done = program("connections", "add", name, *common, *more)
         check(done.returncode == 0, f"the connection {name} is added", done.stderr)
+    wrong = program("connections", "add", "wrong", "--port", "0")
+    check(wrong.returncode == 2 and "port" in wrong.stderr, "a wrong port is told", f"{wrong.returncode} {wrong.stderr}")
     check("public.places" in program("connections", "test", "city").stdout, "a connection is tested")
 
 

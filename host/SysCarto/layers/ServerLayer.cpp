@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QSet>
 
 #include <cpl_string.h>
 #include <gdal_priv.h>
@@ -107,7 +108,7 @@ bool isAboutPassword(QString const& reason) {
 }
 
 struct Tables {
-  QStringList names;
+  QStringList all, readable;  // the driver knows them by their numbers among all
   QString problem;
 };
 
@@ -118,6 +119,23 @@ QString currentSchema(GDALDataset& dataset) {
   QString const schema = row ? QString::fromUtf8(row->GetFieldAsString(0)) : QString();
   if (answer) dataset.ReleaseResultSet(answer);
   return schema;
+}
+
+// The driver lists tables that the user may not read, too.
+QSet<QString> closedTables(GDALDataset& dataset) {
+  OGRLayer* const answer = dataset.ExecuteSQL(
+      "SELECT n.nspname || '.' || c.relname FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace "
+      "WHERE c.relkind IN ('r', 'v', 'm', 'f', 'p') AND NOT (has_schema_privilege(n.oid, 'USAGE') AND "
+      "has_table_privilege(c.oid, 'SELECT'))",
+      nullptr, nullptr);
+  QSet<QString> tables;
+  while (answer) {
+    OGRFeatureUniquePtr const row(answer->GetNextFeature());
+    if (!row) break;
+    tables << QString::fromUtf8(row->GetFieldAsString(0));
+  }
+  if (answer) dataset.ReleaseResultSet(answer);
+  return tables;
 }
 
 Tables openedTables(Session& session) {
@@ -136,9 +154,11 @@ Tables openedTables(Session& session) {
       GDALDataset::Open(name.constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY, drivers, options, nullptr));
   if (session.dataset) {
     QString const schema = currentSchema(*session.dataset);
+    QSet<QString> const closed = closedTables(*session.dataset);
     for (int i = 0; i < session.dataset->GetLayerCount(); ++i) {
       QString const table = QString::fromUtf8(session.dataset->GetLayer(i)->GetName());
-      tables.names << (table.contains(QLatin1Char('.')) ? table : schema + QLatin1Char('.') + table);
+      tables.all << (table.contains(QLatin1Char('.')) ? table : schema + QLatin1Char('.') + table);
+      if (!closed.contains(tables.all.last())) tables.readable << tables.all.last();
     }
   }
   tables.problem = failure.text();
@@ -169,13 +189,21 @@ std::unique_ptr<ServerDatabase> ServerDatabase::open(QString const& connection, 
     error = cannotOpen(*known, problem);
     return nullptr;
   }
-  database->tables_ = tables->names;
+  database->all_ = tables->all;
+  database->tables_ = tables->readable;
   return database;
 }
 
 std::unique_ptr<OGRLayer> ServerDatabase::layer(QString const& table, QString& error) const {
   QString const& name = session_->connection.name;
-  int const number = tables_.indexOf(table);
+  int const number = all_.indexOf(table);
+  if (number >= 0 && !tables_.contains(table)) {
+    error = Texts::tr(
+                "The user of the connection “%1” has no permission to read the table “%2”; have its owner grant "
+                "that user SELECT.")
+                .arg(name, table);
+    return nullptr;
+  }
   if (number < 0) {
     constexpr int maxNames = 30;
     error = tables_.isEmpty()

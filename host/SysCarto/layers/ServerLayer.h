@@ -26,7 +26,7 @@ public:
   static std::unique_ptr<ServerDatabase> open(QString const& connection, Use use, QString& error);
   ~ServerDatabase();
 
-  /// The tables with geometries, each as "schema.table".
+  /// The tables with geometries that the user may read, each as "schema.table".
   QStringList const& tables() const { return tables_; }
 
   /// A table of these, by its name; it may outlive the database. Empty, with a sentence in `error`, where there is no
@@ -37,7 +37,7 @@ private:
   explicit ServerDatabase(std::shared_ptr<Session> session);
 
   std::shared_ptr<Session> session_;
-  QStringList tables_;
+  QStringList all_, tables_;
 };
 
 /// A table of it. Features come in batches; where the server does not answer any more, that is told to GDAL's error
