@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <mutex>
+#include <tuple>
+#include <utility>
 
 namespace SysCarto {
 
@@ -56,6 +58,9 @@ std::optional<Connection> found(Known const& in, QString const& name) {
   auto const at = std::find_if(in.all.begin(), in.all.end(), [&](Connection const& one) { return one.name == name; });
   return at == in.all.end() ? std::nullopt : std::optional<Connection>(*at);
 }
+
+// What a password belongs to.
+auto leadsTo(Connection const& one) { return std::tie(one.host, one.port, one.database, one.user); }
 
 // An equals sign could begin a setting of the driver's own.
 void checkText(Fields& fields, char const* key, QString const& text) {
@@ -138,7 +143,13 @@ QByteArray Connection::forDriver(QString const& password) const {
 
 void Connections::know(std::vector<Connection> connections) {
   std::lock_guard<std::mutex> const lock(known().mutex);
-  known().all = std::move(connections);
+  auto const before = std::exchange(known().all, std::move(connections));
+  for (Connection const& one : before) {
+    auto const now = found(known(), one.name);
+    if (now && leadsTo(*now) == leadsTo(one)) continue;
+    known().passwords.remove(one.name);
+    known().wanting.remove(one.name);
+  }
 }
 
 QStringList Connections::names() {

@@ -36,7 +36,7 @@ struct SYSCARTO_EXPORT Connection {
 /// Those that this process knows. They may be asked on any thread.
 class SYSCARTO_EXPORT Connections {
 public:
-  /// Instead of those known before.
+  /// Instead of those known before. A password is forgotten where its connection is gone or leads elsewhere.
   static void know(std::vector<Connection> connections);
   static QStringList names();
   static std::optional<Connection> find(QString const& name);

@@ -33,8 +33,10 @@ bool ConnectionAccess::askForPassword(QString const& connection, QWidget& parent
   QString const user = known && !known->user.isEmpty() ? known->user : Texts::tr("your user");
   QInputDialog dialog(&parent);
   dialog.setWindowTitle(Texts::tr("Password"));
-  dialog.setLabelText(
-      Texts::tr("Password of %1 for the connection “%2”; it is kept until the program ends:").arg(user, connection));
+  QString const question =
+      Texts::tr("Password of %1 for the connection “%2”; it is kept until the program ends:").arg(user, connection);
+  bool const wasWrong = Connections::wantsPassword(connection) && !Connections::password(connection).isEmpty();
+  dialog.setLabelText(wasWrong ? Texts::tr("The password was not right.") + QLatin1Char('\n') + question : question);
   dialog.setTextEchoMode(QLineEdit::Password);
   if (dialog.exec() != QDialog::Accepted) return false;
   Connections::keepPassword(connection, dialog.textValue());
