@@ -6,6 +6,7 @@
 #include "newmap/NewMapDialog.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
+#include "host/SysCarto/layers/Connections.h"
 #include "host/SysUtility/FileSaver.h"
 
 #include <QDir>
@@ -14,6 +15,7 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -37,6 +39,19 @@ QStringList problemsOf(DocumentSession& session) {
   for (auto const& source : sourcesOf(session))
     if (!source.problem.isEmpty()) problems << source.problem;
   return problems;
+}
+
+// Of connections that are not open to documents the window's notice tells, which has the way to allow them.
+QStringList besidesClosedConnections(DocumentSession& session, QStringList sentences) {
+  using SysCarto::Connections;
+  for (auto const& source : sourcesOf(session)) {
+    if (!Connections::find(source.connection) || Connections::isAllowed(source.connection)) continue;
+    QString const told = Connections::refusal(source.connection);
+    sentences.erase(std::remove_if(sentences.begin(), sentences.end(),
+                                   [&](QString const& sentence) { return sentence.contains(told); }),
+                    sentences.end());
+  }
+  return sentences;
 }
 
 QString paragraphs(QStringList texts) {
@@ -187,7 +202,7 @@ bool DocumentFiles::read(QString const& path) {
   lock_ = lock;
   remember(path);
   emit opened();
-  QStringList const warnings = session_.document().GetWarnings();
+  QStringList const warnings = besidesClosedConnections(session_, session_.document().GetWarnings());
   if (!warnings.isEmpty())
     tell(QMessageBox::Warning, tr("The document was opened, but not all of it was read."), warnings);
   return true;
@@ -296,7 +311,7 @@ void DocumentFiles::readAgain(QStringList const& origins) {
   auto const layout = session_.document().GetPageLayout();
   if (layout) SysCarto::readAgain(*layout, origins);
   emit dataReplaced();
-  QStringList const problems = problemsOf(session_);
+  QStringList const problems = besidesClosedConnections(session_, problemsOf(session_));
   if (!problems.isEmpty()) tell(QMessageBox::Warning, tr("Not all data could be read."), problems);
 }
 

@@ -161,7 +161,7 @@ void OutsideFiles::look() {
     return names;
   };
   QStringList const folders = untold(foldersOutside(session_.document()));
-  QStringList const connections = untold(closedConnections(session_.document()));
+  QStringList const connections = closedConnections(session_.document());
   if (folders.isEmpty() && connections.isEmpty()) return offerPassword();
   QStringList sentences;
   if (!folders.isEmpty())

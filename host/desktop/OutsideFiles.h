@@ -16,9 +16,9 @@ QStringList kept();
 void keep(QStringList folders);
 }  // namespace AllowedFolders
 
-/// Tells of the folders that a document which was opened or recovered reaches into besides its own, and of the
-/// connections that it names and that are not open to documents, each once as long as the program runs, and offers to
-/// allow them for good. Where a connection wants a password, it offers to ask for it.
+/// Tells of the folders that a document which was opened or recovered reaches into besides its own, each once as long
+/// as the program runs, and each time of the connections that it names and that are not open to documents, and offers
+/// to allow them for good. Where a connection wants a password, it offers to ask for it.
 class OutsideFiles final : public QObject {
   Q_OBJECT
 
