@@ -237,12 +237,33 @@ def add_connections(program, server):
     check("public.places" in program("connections", "test", "city").stdout, "a connection is tested")
 
 
+def a_bad_entry_costs_no_other(program):
+    for name, port in (("good", "5432"), ("bad", "6000")):
+        program("connections", "add", name, "--port", port)
+    settings, = glob.glob(os.path.join(program.folder, "config", "*", "*.conf"))
+    with open(settings) as file:
+        text = file.read()
+    with open(settings, "w") as file:
+        file.write(text.replace("6000", "0"))
+    program("connections", "add", "more")
+    done = program("connections", "list")
+    check("good" in done.stdout and "more" in done.stdout and "bad" in done.stderr, "a bad entry is told, others stay",
+          done.stdout + done.stderr)
+    program("connections", "remove", "bad")
+    check(not program("connections", "list").stderr, "a bad entry is removed")
+    with open(settings, "w") as file:
+        file.write("[General]\nconnections=oops\n")
+    check(program("connections", "add", "good").returncode == 1, "what is not understood is not written over")
+
+
 def main():
     found = sorted(glob.glob("/usr/lib/postgresql/*/bin/initdb"))
     has_postgis = glob.glob("/usr/share/postgresql/*/extension/postgis.control")
     if not found or not has_postgis or not shutil.which("psql"):
         print("no PostgreSQL server with PostGIS is installed")
         return SKIPPED
+    with tempfile.TemporaryDirectory() as own:
+        a_bad_entry_costs_no_other(Program(own))
     with tempfile.TemporaryDirectory() as own, tempfile.TemporaryDirectory() as folder:
         os.chmod(folder, 0o755)
         server = Server(folder, os.path.dirname(found[-1]))
