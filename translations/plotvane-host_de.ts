@@ -1669,6 +1669,10 @@
         <source>Password of %1 for the connection “%2”; it is kept until the program ends:</source>
         <translation>Passwort von %1 für die Verbindung „%2“; es bleibt, bis das Programm endet:</translation>
     </message>
+    <message>
+        <source>The password was not right.</source>
+        <translation>Das Passwort war nicht richtig.</translation>
+    </message>
 </context>
 <context>
     <name>Connections</name>
@@ -1715,6 +1719,10 @@
     <message>
         <source>The table “%1” of the connection “%2” can&apos;t be read: %3.</source>
         <translation>Die Tabelle „%1“ der Verbindung „%2“ kann nicht gelesen werden: %3.</translation>
+    </message>
+    <message>
+        <source>The user of the connection “%1” has no permission to read the table “%2”; have its owner grant that user SELECT.</source>
+        <translation>Der Benutzer der Verbindung „%1“ hat kein Recht, die Tabelle „%2“ zu lesen; ihr Besitzer muss ihm SELECT gewähren.</translation>
     </message>
 </context>
 <context>
@@ -6154,11 +6162,11 @@
     </message>
     <message>
         <source>Connections</source>
-        <translation>Verbindungen</translation>
+        <translation type="vanished">Verbindungen</translation>
     </message>
     <message>
         <source>Databases by the names that documents have for them.</source>
-        <translation>Datenbanken unter den Namen, die Dokumente für sie haben.</translation>
+        <translation type="vanished">Datenbanken unter den Namen, die Dokumente für sie haben.</translation>
     </message>
     <message>
         <source>Connection</source>
@@ -6820,6 +6828,10 @@
         <source>The .kdx document, a file or folder of data, or connection:NAME.</source>
         <translation>Das .kdx-Dokument, eine Datei oder ein Ordner mit Daten oder connection:NAME.</translation>
     </message>
+    <message>
+        <source>%1 has no table &quot;%2&quot; that its user may read; it has: %3.</source>
+        <translation>%1 hat keine Tabelle &quot;%2&quot;, die ihr Benutzer lesen darf; es gibt: %3.</translation>
+    </message>
 </context>
 <context>
     <name>InsertTool</name>
@@ -6954,6 +6966,18 @@
     <message>
         <source>The settings could not be written; make %1 writable.</source>
         <translation>Die Einstellungen konnten nicht geschrieben werden; machen Sie %1 beschreibbar.</translation>
+    </message>
+    <message>
+        <source>The connections in %1 could not be read; correct its entry “connections”, or remove it.</source>
+        <translation>Die Verbindungen in %1 konnten nicht gelesen werden; berichtigen Sie dort den Eintrag „connections“, oder entfernen Sie ihn.</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>sie ist kein Objekt</translation>
+    </message>
+    <message>
+        <source>The connection “%1” in %2 is left out: %3. Correct it there, or remove it with plotvane connections remove %1.</source>
+        <translation>Die Verbindung „%1“ in %2 wird ausgelassen: %3. Berichtigen Sie sie dort, oder entfernen Sie sie mit plotvane connections remove %1.</translation>
     </message>
 </context>
 <context>

@@ -1669,6 +1669,10 @@
         <source>Password of %1 for the connection “%2”; it is kept until the program ends:</source>
         <translation>%1 用于连接“%2”的密码;保留到程序结束:</translation>
     </message>
+    <message>
+        <source>The password was not right.</source>
+        <translation>密码不正确。</translation>
+    </message>
 </context>
 <context>
     <name>Connections</name>
@@ -1715,6 +1719,10 @@
     <message>
         <source>The table “%1” of the connection “%2” can&apos;t be read: %3.</source>
         <translation>无法读取连接“%2”的表“%1”:%3。</translation>
+    </message>
+    <message>
+        <source>The user of the connection “%1” has no permission to read the table “%2”; have its owner grant that user SELECT.</source>
+        <translation>连接“%1”的用户无权读取表“%2”;请让该表的所有者授予该用户 SELECT 权限。</translation>
     </message>
 </context>
 <context>
@@ -6154,11 +6162,11 @@
     </message>
     <message>
         <source>Connections</source>
-        <translation>连接</translation>
+        <translation type="vanished">连接</translation>
     </message>
     <message>
         <source>Databases by the names that documents have for them.</source>
-        <translation>数据库及文档对其使用的名称。</translation>
+        <translation type="vanished">数据库及文档对其使用的名称。</translation>
     </message>
     <message>
         <source>Connection</source>
@@ -6820,6 +6828,10 @@
         <source>The .kdx document, a file or folder of data, or connection:NAME.</source>
         <translation>.kdx 文档、数据文件或文件夹,或 connection:NAME。</translation>
     </message>
+    <message>
+        <source>%1 has no table &quot;%2&quot; that its user may read; it has: %3.</source>
+        <translation>%1 没有其用户可以读取的表“%2”;现有:%3。</translation>
+    </message>
 </context>
 <context>
     <name>InsertTool</name>
@@ -6954,6 +6966,18 @@
     <message>
         <source>The settings could not be written; make %1 writable.</source>
         <translation>无法写入设置;请使 %1 可写。</translation>
+    </message>
+    <message>
+        <source>The connections in %1 could not be read; correct its entry “connections”, or remove it.</source>
+        <translation>无法读取 %1 中的连接;请更正其中的“connections”条目,或将其删除。</translation>
+    </message>
+    <message>
+        <source>it is no object</source>
+        <translation>它不是对象</translation>
+    </message>
+    <message>
+        <source>The connection “%1” in %2 is left out: %3. Correct it there, or remove it with plotvane connections remove %1.</source>
+        <translation>%2 中的连接“%1”已略过:%3。请在该处更正,或用 plotvane connections remove %1 将其删除。</translation>
     </message>
 </context>
 <context>
