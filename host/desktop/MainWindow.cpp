@@ -164,7 +164,7 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   };
   host.add(QStringLiteral("Host_Save"), {redrawnAs(&DocumentFiles::save), modified, always});
   host.add(QStringLiteral("Host_SaveAs"), {redrawnAs(&DocumentFiles::saveAs), always, always});
-  adding_.addTo(host);
+  LayerAdding::addTo(host, adding_);
   host.add(QStringLiteral("Host_Contents"), {[this] { contentsDock_->setVisible(!contentsDock_->isVisible()); }, always,
                                              [this] { return contentsDock_->isVisible(); }});
   host.add(QStringLiteral("Host_Properties"), {[this] {

@@ -79,13 +79,13 @@ void LayerAdding::chooseFiles() {
   addFiles(files);
 }
 
-void LayerAdding::addTo(HostCommands& host) {
-  auto const hasPage = [this] {
-    auto const layout = views_.GetPageLayout();
+void LayerAdding::addTo(HostCommands& host, LayerAdding& self) {
+  auto const hasPage = [&self] {
+    auto const layout = self.views_.GetPageLayout();
     return layout && layout->GetPage();
   };
-  host.add(QStringLiteral("Host_AddLayer"), {[this] { chooseFiles(); }, hasPage, {}});
-  host.add(QStringLiteral("Host_AddTables"), {[this] { chooseTables(); }, hasPage, {}});
+  host.add(QStringLiteral("Host_AddLayer"), {[&self] { self.chooseFiles(); }, hasPage, {}});
+  host.add(QStringLiteral("Host_AddTables"), {[&self] { self.chooseTables(); }, hasPage, {}});
 }
 
 void LayerAdding::chooseTables() {

@@ -30,8 +30,8 @@ public:
   /// Asks for one file of data; empty where none is chosen.
   static QString askForFile(DocumentSession const& session, QString const& title, QWidget* parent);
 
-  /// The commands that add layers.
-  void addTo(HostCommands& host);
+  /// The commands that add layers by `self`, which may be made after them.
+  static void addTo(HostCommands& host, LayerAdding& self);
 
   /// Asks for files, and adds what a person chooses of them.
   void chooseFiles();
