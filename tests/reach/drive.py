@@ -36,6 +36,7 @@ READABLE = [
     (r"/etc/(ld\.so\.\w+|fonts|gdal|localtime|locale\.alias|nsswitch\.conf|passwd|xdg|machine-id)(/|$)", "what libraries are set to"),
     (r"/proc/(self|\d+)/", "what a process asks of itself, and its supervisor of it"),
     (r"/proc/(sys|meminfo|cpuinfo|mounts|filesystems)", "how much the machine has"),
+    (r"/proc/locks$", "whether another program is writing a database"),
     (r"/sys/(devices/system/(cpu|node)|fs/cgroup)", "how much the machine has"),
     (r"/dev/(null|u?random|tty)$", "nothing, chance and the terminal"),
     (r"/dev/disk/by-label(/|$)", "the names of disks, where room is looked for"),
