@@ -10,8 +10,8 @@ namespace SysCarto {
 namespace {
 
 constexpr double quantaPerCell = 1024;  // strokes with short edges turn with less
-constexpr double bucketCells = 1024;
 constexpr int cellsPerPixel = 4, bucketPixels = 256;
+constexpr double bucketCells = cellsPerPixel * bucketPixels;
 constexpr int freeRepetitions = 16384;  // of points in a bucket, before any is left out
 constexpr double sizeStep = 4;          // features of similar size share buckets, so that their boxes stay small
 constexpr double maxQuantum = 1e18;
@@ -147,18 +147,16 @@ bool FeaturePack::isRepeated(FeatureStore const& from, size_t feature, int symbo
   Box const& box = from.features[feature].box;
   double const pixel = cell_ * cellsPerPixel;
   // Areas and lines, however small, add to what a pixel shows.
-  bool const isPoint = box.xmin == box.xmax && box.ymin == box.ymax;
-  if (!isPoint || from.valuesPerFeature > 0) return false;
+  if (!isPoint(from, from.features[feature]) || from.valuesPerFeature > 0) return false;
   if (++bucket.points <= freeRepetitions) return false;
-  auto const place = [&](double low, double high, qint64 origin) {
-    double const pixels = std::floor(((low + high) / 2 - coordinate(origin)) / pixel);
+  auto const place = [&](double at, qint64 origin) {
+    double const pixels = std::floor((at - coordinate(origin)) / pixel);
     return static_cast<size_t>(std::clamp(pixels, 0.0, bucketPixels - 1.0));
   };
   std::vector<bool>& taken = bucket.taken[symbolClass];
   taken.resize(bucketPixels * bucketPixels);
-  auto const here =
-      taken.begin() + static_cast<std::ptrdiff_t>(place(box.ymin, box.ymax, bucket.origin[1]) * bucketPixels +
-                                                  place(box.xmin, box.xmax, bucket.origin[0]));
+  auto const here = taken.begin() + static_cast<std::ptrdiff_t>(place(box.ymin, bucket.origin[1]) * bucketPixels +
+                                                                place(box.xmin, bucket.origin[0]));
   bool const isTaken = *here;
   *here = true;
   return isTaken;
