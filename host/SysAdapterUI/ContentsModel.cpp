@@ -53,6 +53,14 @@ QString shortRangeOf(SysCarto::Layer const& layer) {
   return QStringLiteral("%1–%2").arg(shortText(scales.min), shortText(scales.max));
 }
 
+QString percent(double share) { return QStringLiteral("%1 %").arg(static_cast<int>(share * 100)); }
+
+QString asideOf(SysCarto::Layer const& layer) {
+  auto const share = SysCarto::readShareOf(layer);
+  if (!share) return shortRangeOf(layer);
+  return *share > 0 ? percent(*share) : QStringLiteral("…");
+}
+
 // The larger scale first, as people write it.
 QString rangeOf(SysCarto::Layer const& layer) {
   auto const scales = LayerHost::scales(layer);
@@ -295,6 +303,7 @@ QString ContentsModel::toolTipOf(Node const& node) const {
   if (!node.isLayer()) return {};
   QString const problem = problemOf(*node.row.layer);
   if (!problem.isEmpty()) return problem;
+  if (auto const share = SysCarto::readShareOf(*node.row.layer)) return tr("%1 of it were read").arg(percent(*share));
   if (isOutOfScale(node))
     return tr("%1; the map is at %2").arg(rangeOf(*node.row.layer), scaleText(node.row.map->scale()));
   if (LayerHost::isSwitchedOn(*node.row.layer) && !node.row.layer->IsVisible()) return tr("A group hides it");
@@ -317,13 +326,19 @@ QString ContentsModel::spokenOf(Node const& node) const {
   return parts.join(QStringLiteral(", "));
 }
 
+bool ContentsModel::isReading() const {
+  return std::any_of(known_.begin(), known_.end(), [](Node const* node) {
+    return node->isLayer() && SysCarto::readShareOf(*node->row.layer);
+  });
+}
+
 QVariant ContentsModel::data(QModelIndex const& index, int role) const {
   if (!index.isValid()) return {};
   Node& node = *nodeOf(index);
   switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole: return textOf(node);
-    case ScalesRole: return node.isLayer() ? shortRangeOf(*node.row.layer) : QString();
+    case AsideRole: return node.isLayer() ? asideOf(*node.row.layer) : QString();
     case Qt::DecorationRole: return iconOf(node);
     case Qt::CheckStateRole:
       if (!node.hasSwitch()) return {};

@@ -22,8 +22,9 @@ class SYSADAPTERUI_EXPORT ContentsModel final : public QAbstractItemModel {
   Q_OBJECT
 
 public:
-  /// The range of scales at which a layer shows, in short; empty for one that always does.
-  enum Role { ScalesRole = Qt::UserRole };
+  /// What stands beside the name of a layer: how much of it was read while it is, or the range of scales at which it
+  /// shows, in short; empty for one that always does.
+  enum Role { AsideRole = Qt::UserRole };
 
   explicit ContentsModel(QObject* parent);
   ~ContentsModel() override;
@@ -41,6 +42,9 @@ public:
 
   /// What a row stands for, a class for its layer; without a map where there are none.
   SysCarto::LayerRow rowAt(QModelIndex const& index) const;
+
+  /// Whether features of a layer are being read.
+  bool isReading() const;
 
   /// Invalid where there is no such row.
   QModelIndex indexOf(SysCarto::LayerRow const& row) const;

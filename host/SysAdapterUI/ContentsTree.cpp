@@ -22,6 +22,8 @@ namespace SysAdapterUI {
 
 namespace {
 
+constexpr int betweenSharesMs = 150;
+
 using Rows = QVector<LayerRow>;
 
 // What the window opens as a whole is not for the tree.
@@ -30,25 +32,25 @@ bool isDocument(QMimeData const& data) {
   return urls.size() == 1 && urls.first().path().endsWith(QLatin1String(".kdx"), Qt::CaseInsensitive);
 }
 
-// The range of scales stands at the right of a row that has one; the name gives way to it.
+// What stands aside lies at the right of a row; the name gives way to it.
 class ContentsDelegate final : public QStyledItemDelegate {
 public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
   void paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const override {
-    QString const scales = index.data(ContentsModel::ScalesRole).toString();
-    if (scales.isEmpty()) return QStyledItemDelegate::paint(painter, option, index);
+    QString const aside = index.data(ContentsModel::AsideRole).toString();
+    if (aside.isEmpty()) return QStyledItemDelegate::paint(painter, option, index);
     QStyleOptionViewItem whole(option);
     initStyleOption(&whole, index);
     option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &whole, painter, option.widget);
     QRect const room = option.rect.adjusted(0, 0, -marginPx, 0);
     QStyleOptionViewItem name(option);
-    name.rect.setRight(room.right() - option.fontMetrics.horizontalAdvance(scales) - 2 * marginPx);
+    name.rect.setRight(room.right() - option.fontMetrics.horizontalAdvance(aside) - 2 * marginPx);
     QStyledItemDelegate::paint(painter, name, index);
     bool const isSelected = option.state & QStyle::State_Selected;
     painter->setPen(isSelected ? option.palette.color(QPalette::HighlightedText)
                                : option.palette.color(QPalette::Disabled, QPalette::Text));
-    painter->drawText(room, Qt::AlignRight | Qt::AlignVCenter, scales);
+    painter->drawText(room, Qt::AlignRight | Qt::AlignVCenter, aside);
   }
 
 private:
@@ -68,7 +70,8 @@ void forEachParent(QAbstractItemModel const& model, QTreeView const& view, Use c
 
 }  // namespace
 
-ContentsTree::ContentsTree(QWidget* parent) : QTreeView(parent), model_(new ContentsModel(this)) {
+ContentsTree::ContentsTree(QWidget* parent)
+    : QTreeView(parent), model_(new ContentsModel(this)), shares_(new QTimer(this)), listener_([this] { followReading(); }) {
   setObjectName(QStringLiteral("treeView_Contents"));
   setAccessibleName(tr("Maps and layers"));
   setModel(model_);
@@ -83,6 +86,8 @@ ContentsTree::ContentsTree(QWidget* parent) : QTreeView(parent), model_(new Cont
   setEditTriggers(NoEditTriggers);  // a double click opens and closes, and F2 is a command
   setItemDelegate(new ContentsDelegate(this));
   model_->setDevicePixelRatio(devicePixelRatioF());
+  shares_->setSingleShot(true);
+  connect(shares_, &QTimer::timeout, this, &ContentsTree::followReading);
   // The rows may not change while the view is in the middle of an edit or a drop.
   connect(model_, &ContentsModel::renameWanted, this, [this](LayerRow const& row, QString const& name) {
     QTimer::singleShot(0, this, [this, row, name] { emit renameWanted(row, name); });
@@ -102,6 +107,11 @@ ContentsTree::ContentsTree(QWidget* parent) : QTreeView(parent), model_(new Cont
 }
 
 ContentsTree::~ContentsTree() = default;
+
+void ContentsTree::followReading() {
+  follow();
+  if (model_->isReading()) shares_->start(betweenSharesMs);
+}
 
 ContentsTree& ContentsTree::of(TOCControl const& control) { return *control.findChild<ContentsTree*>(); }
 

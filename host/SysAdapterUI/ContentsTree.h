@@ -1,8 +1,11 @@
 #pragma once
 
 #include "host/SysAdapterUI/ContentsModel.h"
+#include "host/SysCarto/layers/WithoutWaiting.h"
 
 #include <QTreeView>
+
+class QTimer;
 
 namespace SysAdapterUI {
 
@@ -64,8 +67,11 @@ private:
   template <class Change>
   void keeping(Change const& change);
   void tell();
+  void followReading();
 
   ContentsModel* const model_;
+  QTimer* const shares_;  // while features are read
+  SysCarto::ReadingListener const listener_;
   bool isFollowing_ = false;
   bool isChoosing_ = false;
 };

@@ -14,7 +14,11 @@ DocumentViews::DocumentViews(SysCarto::MapDocument& document, QWidget* parent)
       document_(document),
       layoutView_(new LayoutView(this)),
       mapView_(new MapView(this)),
-      highlight_(new FeatureHighlight(this)) {
+      highlight_(new FeatureHighlight(this)),
+      listener_([this] {
+        layoutView_->catchUp();
+        mapView_->catchUp();
+      }) {
   addWidget(layoutView_);
   addWidget(mapView_);
   for (ViewWidget* view : {static_cast<ViewWidget*>(layoutView_), static_cast<ViewWidget*>(mapView_)}) {

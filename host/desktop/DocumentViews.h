@@ -5,6 +5,8 @@
 #include "layers/FeatureHighlight.h"
 #include "layers/Identify.h"
 
+#include "host/SysCarto/layers/WithoutWaiting.h"
+
 #include <SysAdapterUI/PageLayoutControl.h>
 
 #include <QStackedWidget>
@@ -70,5 +72,6 @@ private:
   LayoutView* layoutView_;
   MapView* mapView_;
   FeatureHighlight* highlight_;
+  SysCarto::ReadingListener const listener_;
   SysAdapterUI::ICompanion* companion_ = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/elements/Placement.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layers/WithoutWaiting.h"
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/SysCarto/maps/MapHost.h"
 
@@ -63,6 +64,7 @@ void MapTiles::follow(MapFrameElement const& frame, double pixelsPerCm) {
   if (!look_.hasSameLabels(look)) labels_ = nullptr;
   look_ = look;
   tiles_.clear();
+  waits_ = false;
 }
 
 // Zooming by steps comes here before a tile was drawn; then the older picture goes on standing in.
@@ -85,10 +87,10 @@ void MapTiles::setShown(QRect const& shownPx) {
     tile = areaOf(tile->first).intersects(near) ? std::next(tile) : tiles_.erase(tile);
 }
 
-// First all that is missing, then the labels, unless there turned out to be none.
+// First all that is missing, then the labels, unless there turned out to be none. Labels wait for all features.
 std::optional<MapTiles::TileNumber> MapTiles::next() const {
   auto const missing = firstShown([](Tile const& tile) { return tile.image.isNull(); });
-  if (missing || (labels_ && labels_->order().elements.isEmpty())) return missing;
+  if (missing || waits_ || (labels_ && labels_->order().elements.isEmpty())) return missing;
   return firstShown([](Tile const& tile) { return !tile.isLabelled; });
 }
 
@@ -103,7 +105,7 @@ std::optional<MapTiles::TileNumber> MapTiles::firstShown(bool (*isWanted)(Tile c
 }
 
 QRect MapTiles::drawNext(MapFrameElement const& frame) {
-  if (isComplete()) return {};
+  if (!canGoOn()) return {};
   follow(frame, look_.pixelsPerCm);
   auto number = next();
   if (number && tiles_.count(*number) && !labels_) {
@@ -130,15 +132,31 @@ SysUtility::_ptr_t<DisplayTransformation> MapTiles::pageOf(MapFrameElement const
 }
 
 void MapTiles::placeLabels(MapFrameElement const& frame) {
+  QList<SysUtility::_ptr_t<SysCarto::Element>> placed;
+  withoutWaiting(frame, [&] { placed = SysCarto::placeLabels(frame, labelsPerInch); });
+  if (waits_) return;
   labels_ = std::make_shared<SysCarto::ElementContainer>();
-  labels_->AddElements(SysCarto::placeLabels(frame, labelsPerInch));
+  labels_->AddElements(placed);
 }
 
-void MapTiles::draw(Tile& tile, QRect const& area, MapFrameElement const& frame) const {
+// Who looks at a part of the frame needs the features of that.
+void MapTiles::withoutWaiting(MapFrameElement const& frame, std::function<void()> const& work) {
+  SysCarto::WithoutWaiting meanwhile;
+  auto const whole = SysCarto::mapPixels(frame, *pageOf(frame, look_.pixelsPerCm, look_.sizePx)).transformation;
+  if (whole && shownPx_.size() != look_.sizePx) {
+    QRectF const seen = whole->ToDevice().inverted().mapRect(QRectF(shownPx_));
+    meanwhile.seen = SysGeometry::Box{seen.left(), seen.top(), seen.right(), seen.bottom()};
+  }
+  work();
+  waits_ = waits_ || meanwhile.isIncomplete;
+}
+
+void MapTiles::draw(Tile& tile, QRect const& area, MapFrameElement const& frame) {
   auto const page = pageOf(frame, look_.pixelsPerCm, look_.sizePx);
   if (tile.image.isNull()) {
     // A temporary would be converted in place, and keep a paint engine that takes red for blue (Qt 5.15).
-    QImage const drawn = SysCarto::drawMap(frame, *page, area, nullptr).image;
+    QImage drawn;
+    withoutWaiting(frame, [&] { drawn = SysCarto::drawMap(frame, *page, area, nullptr).image; });
     tile.image = drawn.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     return;
   }

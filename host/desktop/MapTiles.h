@@ -7,6 +7,7 @@
 
 #include <QImage>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -32,7 +33,11 @@ public:
   /// Draws or labels one tile that is shown and not complete, and answers its pixels; a null rectangle where there is
   /// none. A map that has changed meanwhile is followed first.
   QRect drawNext(SysCarto::MapFrameElement const& frame);
-  bool isComplete() const { return !next(); }
+  bool isComplete() const { return !next() && !waits_; }
+
+  /// Whether there is something to draw now. Nothing is while features are read that are missing in what there is; a
+  /// layer that has got them looks otherwise.
+  bool canGoOn() const { return next().has_value(); }
 
   /// Paints what there is with the frame's corner at `corner`.
   void paint(QPainter& painter, QPoint const& corner) const;
@@ -76,12 +81,14 @@ private:
   std::optional<TileNumber> next() const;
   std::optional<TileNumber> firstShown(bool (*isWanted)(Tile const&)) const;
   void placeLabels(SysCarto::MapFrameElement const& frame);
-  void draw(Tile& tile, QRect const& area, SysCarto::MapFrameElement const& frame) const;
+  void draw(Tile& tile, QRect const& area, SysCarto::MapFrameElement const& frame);
+  void withoutWaiting(SysCarto::MapFrameElement const& frame, std::function<void()> const& work);
   void keepStandIn();
 
   Look look_;
   QRect shownPx_;
   std::map<TileNumber, Tile> tiles_;
   std::shared_ptr<SysCarto::ElementContainer> labels_;  // null until they are placed
+  bool waits_ = false;                                  // for features of layers
   StandIn standIn_;
 };

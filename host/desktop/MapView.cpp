@@ -46,6 +46,11 @@ void MapView::composePicture() {
   paintMap();
 }
 
+void MapView::catchUp() {
+  auto const frame = layout_ ? layout_->GetFocusMapFrameElement() : nullptr;
+  if (frame && !tiles_.sizePx().isEmpty() && !tiles_.isOf(*frame)) refresh(SysCarto::RefreshPhase::Everything);
+}
+
 // Of the map in the picture.
 QRect MapView::placePx() const {
   QSize const size = tiles_.sizePx();
@@ -74,7 +79,7 @@ void MapView::paintMap() {
 
 void MapView::continuePicture() {
   auto const frame = layout_ ? layout_->GetFocusMapFrameElement() : nullptr;
-  if (!frame || tiles_.isComplete()) return;
+  if (!frame || !tiles_.canGoOn()) return;
   QElapsedTimer clock;
   clock.start();
   while (!tiles_.drawNext(*frame).isNull() && clock.elapsed() < sliceMs) continue;

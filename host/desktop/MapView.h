@@ -23,6 +23,7 @@ public:
   SysUtility::_ptr_t<SysCarto::Map> map() const;
   QVector<ShownMap> shownMaps() const override;
   bool isComplete() const override { return tiles_.isComplete(); }
+  void catchUp() override;
 
 signals:
   /// The left button went down and up at one place of the map, in pixels.
@@ -31,6 +32,7 @@ signals:
 protected:
   void composePicture() override;
   void continuePicture() override;
+  bool canGoOn() const override { return tiles_.canGoOn(); }
   QImage const& picture() const override { return picture_; }
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;

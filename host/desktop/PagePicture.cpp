@@ -1,5 +1,6 @@
 #include "PagePicture.h"
 
+#include "host/SysCarto/layers/WithoutWaiting.h"
 #include "host/SysCarto/layout/PageOrder.h"
 
 #include <SysCarto/MapSurround.h>
@@ -9,6 +10,8 @@
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QPalette>
+
+#include <algorithm>
 
 using SysCarto::Element;
 using SysCarto::MapFrameElement;
@@ -116,9 +119,11 @@ bool PagePicture::isCurrent(PageLayout const& layout) const {
 }
 
 bool PagePicture::isComplete() const {
-  for (MapTiles const& tiles : tiles_)
-    if (!tiles.isComplete()) return false;
-  return true;
+  return std::all_of(tiles_.begin(), tiles_.end(), [](MapTiles const& one) { return one.isComplete(); });
+}
+
+bool PagePicture::canGoOn() const {
+  return std::any_of(tiles_.begin(), tiles_.end(), [](MapTiles const& one) { return one.canGoOn(); });
 }
 
 void PagePicture::paint(PageLayout const& layout, QRegion const& area) {
@@ -126,6 +131,7 @@ void PagePicture::paint(PageLayout const& layout, QRegion const& area) {
   painter.setClipRegion(area);
   painter.fillRect(image_.rect(), QApplication::palette().color(QPalette::Mid));
   if (SysCarto::Page* const page = layout.GetPage()) paintSheet(painter, *page);
+  SysCarto::WithoutWaiting const meanwhile;  // legends ask what is in sight
   SysCarto::drawInPageOrder(layout, painter, transformation_,
                             [&](auto const& element) { paintElement(painter, element); });
 }

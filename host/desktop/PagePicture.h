@@ -29,6 +29,10 @@ public:
 
   /// Whether all maps are drawn.
   bool isComplete() const;
+
+  /// Whether a slice would draw something now (`MapTiles::canGoOn`).
+  bool canGoOn() const;
+
   /// In device pixels; null before something was composed.
   QImage const& image() const { return image_; }
 

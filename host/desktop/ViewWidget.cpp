@@ -21,7 +21,7 @@ ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   connect(&slices_, &QTimer::timeout, this, [this] {
     continuePicture();
-    if (isComplete()) slices_.stop();
+    if (!canGoOn()) slices_.stop();
     update();
   });
   rest_.setSingleShot(true);
@@ -102,7 +102,7 @@ void ViewWidget::compose() {
 }
 
 void ViewWidget::goOn() {
-  if (!isComplete() && !isPaused_) slices_.start(0);
+  if (canGoOn() && !isPaused_) slices_.start(0);
   update();
 }
 

@@ -35,6 +35,10 @@ public:
   /// Whether the picture shows everything; maps that take long grow into it.
   virtual bool isComplete() const = 0;
 
+  /// Redraws where a map has come to look otherwise and nobody has asked for it: commands put labels into maps and take
+  /// them out again while events are handled, and layers get features that were read meanwhile.
+  virtual void catchUp() = 0;
+
   /// The maps that are shown, the topmost last, and the rectangles that they fill, in the widget's pixels.
   struct ShownMap {
     SysUtility::_ptr_t<SysCarto::Map> map;
@@ -70,6 +74,9 @@ protected:
 
   /// Goes on with a picture that was not complete.
   virtual void continuePicture() = 0;
+
+  /// Whether it can go on now; what waits for features does so once these are there.
+  virtual bool canGoOn() const = 0;
   virtual QImage const& picture() const = 0;
 
   /// Where the picture belongs in the widget, which may have moved on since it was composed.

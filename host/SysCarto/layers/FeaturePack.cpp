@@ -227,6 +227,16 @@ void FeaturePack::finish() {
   }
 }
 
+std::shared_ptr<FeaturePack const> FeaturePack::soFar() const {
+  auto copy = std::make_shared<FeaturePack>(area_, cell_);
+  copy->form_.takeForm(form_);
+  copy->size_ = size_;
+  for (auto const& [key, bucket] : buckets_)
+    copy->buckets_.emplace(key, Bucket{bucket.box, bucket.origin, bucket.records});
+  copy->finish();
+  return copy;
+}
+
 void FeaturePack::visit(Box const& rectangle, std::function<void(Place const&)> const& take) const {
   if (rectangle.isEmpty()) return;
   Box const sought = rectangle.grown(quantum_);

@@ -11,6 +11,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <memory>
 #include <vector>
 
 namespace SysCarto {
@@ -44,6 +45,9 @@ public:
   /// Gives back what room was too much. Nothing is added afterwards.
   void finish();
 
+  /// A finished pack of what was added so far.
+  std::shared_ptr<FeaturePack const> soFar() const;
+
   /// About what it takes in memory.
   std::size_t bytes() const { return bytes_; }
   int size() const { return size_; }
@@ -69,7 +73,7 @@ private:
     std::array<qint64, 2> origin;
     std::vector<unsigned char> records;
     int points = 0;
-    std::map<int, std::vector<bool>> taken;  // by symbol class: the pixels that have one of them
+    std::map<int, std::vector<bool>> taken = {};  // by symbol class: the pixels that have one of them
   };
   using Vertex = std::array<qint64, 2>;
 

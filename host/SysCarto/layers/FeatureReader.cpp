@@ -281,8 +281,11 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     to.endFeature(symbolClass, labelReader.text(feature),
                   std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority, keyOf(feature));
   };
-  FeatureIntake intake(projector, store, place,
-                       [&](FeatureStore& placed) { result.pack ? result.pack->add(placed) : store.append(placed); });
+  FeatureIntake intake(projector, store, place, [&, wanted = query](FeatureStore& placed) {
+    if (!result.pack) return store.append(placed);
+    result.pack->add(placed);
+    if (wanted->growing) wanted->growing(*result.pack);
+  });
   if (!query && isLarge(layer, source) && !needsAll(renderer)) {
     auto const extent = toldExtent(layer, projector);
     result.hasWindows = extent.has_value();

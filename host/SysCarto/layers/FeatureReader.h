@@ -11,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -63,6 +64,9 @@ struct WindowQuery {
   double cell = 0;          ///< to which they are thinned, in map units; 0 to have them as they are
   std::vector<qint64> ids;  ///< instead of an area, those with these numbers in the source
   LabelChoice labels;       ///< of those that are thinned
+
+  /// Called now and then with what was read of those that are thinned; may be empty.
+  std::function<void(FeaturePack const&)> growing = {};
 };
 
 /// Reads these alone, else as `readFeatures`; `pack` has them where they are thinned, and the store where not.

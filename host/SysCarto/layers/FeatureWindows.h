@@ -1,26 +1,70 @@
 #pragma once
 
-#include "host/SysCarto/layers/FeaturePack.h"
+#include "host/SysCarto/layers/WindowReading.h"
 
+#include <array>
+#include <cstddef>
 #include <functional>
 #include <list>
 #include <memory>
+#include <optional>
 
 namespace SysCarto {
 
-/// The windows of a layer that were read last. What lies within one of them, and is no finer, needs no reading.
+/// A part of a map that is drawn, labelled or asked.
+struct WindowWish {
+  Box needed;                ///< what has to be there
+  Box wanted;                ///< what is read, if that has to be; contains what is needed
+  double unitsPerPixel = 0;  ///< of the map
+  bool isPart = false;       ///< of what its frame shows
+  LabelChoice labels;
+};
+
+/// The windows of a layer that were read last, and those that are being read. What lies within one of them, and is no
+/// finer, needs no reading.
 class FeatureWindows {
 public:
-  /// Reads what meets an area of the map, thinned to a cell; an empty pointer where that was given up.
-  using Read = std::function<std::unique_ptr<FeaturePack>(Box const& area, double cell)>;
+  /// `changed` is called when somebody who did not wait would get more now.
+  explicit FeatureWindows(std::function<void()> changed);
+  ~FeatureWindows();
 
-  /// The features in an area, or around it, as pixels of so many map units show them.
-  std::shared_ptr<FeaturePack const> window(Box const& area, double unitsPerPixel, Read const& read);
+  /// The features in an area, or around it. Waits for them while `progress`, which may be empty, wants it, and answers
+  /// an empty pointer where it does not. `WithoutWaiting` there may be fewer or coarser ones, or none.
+  std::shared_ptr<FeaturePack const> window(WindowWish const& wish, WindowReading::Read const& read,
+                                            ReadProgress const& progress);
 
-  void clear() { kept_.clear(); }
+  /// Why the window that was read last is not whole; empty where it is.
+  QString const& problem() const;
+
+  /// How much was read of what is being read; nothing where nothing is.
+  std::optional<double> share() const;
+
+  /// Forgets all, and gives up what is being read.
+  void clear();
 
 private:
-  std::list<std::shared_ptr<FeaturePack const>> kept_;  // the one that was asked for last first
+  using Pack = std::shared_ptr<FeaturePack const>;
+  using Reading = std::shared_ptr<WindowReading>;
+
+  // Shared with what calls back.
+  struct State {
+    std::function<void()> changed;
+    std::list<Pack> kept;             // the one that was asked for last first
+    std::array<Reading, 2> underWay;  // of what the frame shows, and of a part of it
+    QString problem;
+    bool owesMore = false;  // somebody who did not wait got less
+
+    Pack find(Box const& needed, double cell);
+    Pack standIn(Box const& needed, WindowReading const& reading) const;
+    void take(Reading& reading);
+    void takeAll();
+    void tell();
+    void makeRoom();
+  };
+  Reading const& reading(WindowWish const& wish, double cell, WindowReading::Read const& read);
+  std::nullptr_t giveUp(Reading const& reading);
+
+  std::shared_ptr<State> state_;
 };
 
 }  // namespace SysCarto

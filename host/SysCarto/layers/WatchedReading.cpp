@@ -5,6 +5,7 @@
 #include "host/SysCarto/layers/SourceSettings.h"
 
 #include <QCoreApplication>
+#include <QThread>
 #include <QThreadPool>
 
 #include <limits>
@@ -19,27 +20,38 @@ constexpr int patienceAtEndMs = 500;
 
 thread_local ReadWatch* watchOfThread = nullptr;
 
-QThreadPool& readingThreads();
+void waitAtEnd();
 
-void waitAtEnd() { readingThreads().waitForDone(patienceAtEndMs); }
+// Never taken down, since that would wait for its threads: what was given up may last for ever.
+QThreadPool* makePool(int threads) {
+  auto* const made = new QThreadPool;
+  made->setMaxThreadCount(threads);
+  qAddPostRoutine(waitAtEnd);
+  return made;
+}
 
-// Never taken down, since that would wait for its threads. There is one for each work at a time: what was given up may
-// last for ever.
+// There is a thread for each work at a time.
 QThreadPool& readingThreads() {
-  static QThreadPool* const pool = [] {
-    auto* const made = new QThreadPool;
-    made->setMaxThreadCount(std::numeric_limits<int>::max());
-    qAddPostRoutine(waitAtEnd);
-    return made;
-  }();
+  static QThreadPool* const pool = makePool(std::numeric_limits<int>::max());
   return *pool;
+}
+
+QThreadPool& queueThreads() {
+  static QThreadPool* const pool = makePool(QThread::idealThreadCount());
+  return *pool;
+}
+
+void waitAtEnd() {
+  for (QThreadPool* const pool : {&readingThreads(), &queueThreads()}) pool->waitForDone(patienceAtEndMs);
 }
 
 }  // namespace
 
 void startReading(std::function<void()> work) { readingThreads().start(std::move(work)); }
 
-bool isReading() { return readingThreads().activeThreadCount() > 0; }
+void queueReading(std::function<void()> work) { queueThreads().start(std::move(work)); }
+
+bool isReading() { return readingThreads().activeThreadCount() > 0 || queueThreads().activeThreadCount() > 0; }
 
 std::unique_ptr<DataSource> openWatched(SourceSettings const& source, ReadProgress const& progress, QString& error) {
   struct Opened {

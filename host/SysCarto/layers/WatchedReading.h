@@ -25,6 +25,9 @@ using ReadProgress = std::function<bool(qint64 read, qint64 count)>;
 /// Does work that may be given up, on a thread that no other such work waits for, however long it takes.
 SYSCARTO_EXPORT void startReading(std::function<void()> work);
 
+/// As above, but no more such work at a time than the machine has cores; what comes later waits.
+SYSCARTO_EXPORT void queueReading(std::function<void()> work);
+
 /// Whether such work is under way. The end of the application waits for it only for a moment; where it lasts longer,
 /// the process has to end without taking down what the work uses.
 SYSCARTO_EXPORT bool isReading();

@@ -18,6 +18,11 @@ QString problemOf(Layer const& layer) {
   return raster ? raster->problem() : QString();
 }
 
+std::optional<double> readShareOf(Layer const& layer) {
+  auto const* const vector = dynamic_cast<VectorLayer const*>(&layer);
+  return vector ? vector->readShare() : std::nullopt;
+}
+
 QStringList filesOf(Layer const& layer) {
   QStringList files;
   if (auto const* const vector = dynamic_cast<VectorLayer const*>(&layer)) {

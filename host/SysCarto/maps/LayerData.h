@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
+#include <optional>
+
 namespace SysCarto {
 
 // What is asked of a layer of whatever kind about its data.
@@ -15,6 +17,9 @@ SYSCARTO_EXPORT SysGeometry::Box boxOf(Layer const& layer);
 
 /// Why they could not be read, as a sentence; empty where they could.
 SYSCARTO_EXPORT QString problemOf(Layer const& layer);
+
+/// How much was read of what views wait for, from 0 to 1; nothing where they wait for nothing.
+SYSCARTO_EXPORT std::optional<double> readShareOf(Layer const& layer);
 
 /// The files that they come from, absolute: the layer's own first, where it has one.
 SYSCARTO_EXPORT QStringList filesOf(Layer const& layer);

@@ -2,11 +2,13 @@
 
 #include "host/SysCarto/layers/FeatureLooks.h"
 #include "host/SysCarto/layers/FeaturePasses.h"
+#include "host/SysCarto/layers/WithoutWaiting.h"
 #include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <set>
 #include <tuple>
 
@@ -23,11 +25,21 @@ namespace {
 constexpr std::ptrdiff_t unpackedAtOnce = 2048;  // features
 constexpr int mostMarks = 20000;                 // that labels keep off one by one
 constexpr double labelSquarePt = 4, markSquarePt = 2;
-constexpr double legendDpi = 300;
+constexpr double printedDpi = 300;
+constexpr double enlarged = 1.1;  // beyond the resolution of print
 constexpr double pointsPerInch = 72;
 
 Box boxFrom(QRectF const& rectangle) {
   return {rectangle.left(), rectangle.top(), rectangle.right(), rectangle.bottom()};
+}
+
+double largerSide(Box const& box) { return std::max(box.xmax - box.xmin, box.ymax - box.ymin); }
+
+// What two boxes have in common; the first where that is nothing.
+Box within(Box const& whole, Box const& part) {
+  Box const both{std::max(whole.xmin, part.xmin), std::max(whole.ymin, part.ymin), std::min(whole.xmax, part.xmax),
+                 std::min(whole.ymax, part.ymax)};
+  return both.isEmpty() ? whole : both;
 }
 
 using Place = FeaturePack::Place;
@@ -115,20 +127,30 @@ std::shared_ptr<FeatureStore const> VectorLayer::featuresNumbered(std::vector<qi
   return ids.empty() ? std::make_shared<FeatureStore>() : readOnly({Box(), 0, ids, {}});
 }
 
+// At least what a page in print shows is read, so that a view, its labels, its legends and an export have one window. Of
+// a page that is enlarged beyond that, what is on the screen, and as much around it.
 std::shared_ptr<FeaturePack const> VectorLayer::window(DisplayTransformation const& transformation,
                                                        double unitsPerPixel, Box const& reached, double reach,
                                                        _ptr_t<TrackerCancel> const& cancel) const {
-  Box area = boxFrom(DisplayTransformationHost::wholeWorld(transformation));
-  area = area.grown(reach);
-  area.add(reached);
+  double const unitsPerPoint = transformation.PixelsPerPoint() / DisplayTransformationHost::pixelsPerUnit(transformation);
+  double const printed = unitsPerPoint * pointsPerInch / printedDpi;
+  auto const* const meanwhile = WithoutWaiting::current();
+  WindowWish wish;
+  wish.unitsPerPixel = std::min(unitsPerPixel, printed);
+  wish.labels = labelChoice(unitsPerPoint);
+  wish.wanted = boxFrom(DisplayTransformationHost::wholeWorld(transformation));
+  wish.isPart = meanwhile && meanwhile->seen && unitsPerPixel < printed / enlarged;
+  if (wish.isPart) wish.wanted = within(wish.wanted, meanwhile->seen->grown(largerSide(*meanwhile->seen) / 2));
+  wish.wanted = wish.wanted.grown(reach);
+  wish.wanted.add(reached);
+  wish.needed = wish.isPart ? reached : wish.wanted;
   ReadProgress progress;
   if (cancel) progress = [&](qint64, qint64) { return !cancel->IsCanced(); };
-  return windows_.window(area, unitsPerPixel, [&](Box const& wanted, double cell) {
-    WindowQuery const query{wanted, cell, {}, labelChoice(transformation.PixelsPerPoint() * unitsPerPixel)};
-    ReadFeatures read = readWindow(source_, mapSystem_, *renderer_, labels_.read(), query, progress);
-    if (!read.error.isEmpty() && !read.wasStopped) problem_ = read.error;
-    return std::move(read.pack);
-  });
+  auto const read = [source = source_, system = mapSystem_, renderer = renderer_, fields = labels_.read()](
+                        WindowQuery const& query, ReadProgress const& wanted) {
+    return readWindow(source, system, *renderer, fields, query, wanted);
+  };
+  return windows_.window(wish, read, progress);
 }
 
 std::shared_ptr<FeatureStore const> VectorLayer::shownBy(DisplayTransformation const& transformation,
@@ -184,10 +206,9 @@ QVector<bool> VectorLayer::findClassesWithin(DisplayTransformation const& transf
     return classesOf(features().classesWithin(shown, turn, looks.drawing(), count));
   }
   std::vector<bool> found(static_cast<size_t>(count));
-  double const unitsPerPoint =
-      transformation.PixelsPerPoint() / DisplayTransformationHost::pixelsPerUnit(transformation);
   Box const covered = boxFrom(DisplayTransformationHost::coveredWorld(transformation));
-  auto const pack = window(transformation, unitsPerPoint * pointsPerInch / legendDpi, covered, 0, nullptr);
+  double const coarsest = std::numeric_limits<double>::max();
+  auto const pack = window(transformation, coarsest, covered, 0, nullptr);
   if (!pack) return classesOf(found);
   FeatureStore store;
   store.takeForm(pack->form());

@@ -70,7 +70,8 @@ VectorLayer::VectorLayer(std::unique_ptr<Renderer> renderer)
     : renderer_(std::move(renderer)),
       properties_(make<AnnotationProperties>()),
       store_(std::make_unique<FeatureStore>()),
-      thinned_(std::make_unique<ThinnedFeatures>(*store_)) {}
+      thinned_(std::make_unique<ThinnedFeatures>(*store_)),
+      windows_([this] { LayerHost::changeLook(*this); }) {}
 
 VectorLayer::~VectorLayer() = default;
 

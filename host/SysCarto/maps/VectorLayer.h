@@ -53,8 +53,11 @@ public:
 
   SourceSettings const& source() const { return source_; }
 
-  /// Why the source could not be read, as `open` answered it.
-  QString const& problem() const { return problem_; }
+  /// Why the source could not be read, as `open` answered it, or the window that was read last.
+  QString const& problem() const { return problem_.isEmpty() ? windows_.problem() : problem_; }
+
+  /// How much was read of what is being read for views, from 0 to 1; nothing where nothing is.
+  std::optional<double> readShare() const { return windows_.share(); }
 
   /// Not null. A renderer that puts features into other classes takes effect when the layer is opened.
   void setRenderer(std::unique_ptr<Renderer> renderer);
@@ -137,7 +140,7 @@ private:
   SourceSettings source_;
   QString mapSystem_;
   mutable QString problem_;
-  std::unique_ptr<Renderer> renderer_;
+  std::shared_ptr<Renderer const> renderer_;  // also of readings on other threads
   LabelSettings labels_;
   LabelObstacle obstacle_ = LabelObstacle::None;
   std::optional<Spotlight> spotlight_;

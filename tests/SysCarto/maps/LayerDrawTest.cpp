@@ -99,6 +99,34 @@ private slots:
     QVERIFY2(found.levels <= 90 && found.pixels <= 900, qUtf8Printable(found.text()));
   }
 
+  // What a view draws at once lacks what is still read, and it is told when there is more.
+  void whoDoesNotWaitIsToldOfTheRest() {
+    auto const former = setWindowThreshold({0, 0});
+    auto const large = opened({sample("world.gpkg"), "countries", {}, {}}, "EPSG:8857", marker());
+    setWindowThreshold(former);
+    Sheet const sheet = shown(large.layer->extent(), QSize(300, 200), 2);
+    auto const drawnAtOnce = [&](bool& isIncomplete) {
+      WithoutWaiting const meanwhile;
+      QImage const image = sheet.drawn(sceneOf(large));
+      isIncomplete = meanwhile.isIncomplete;
+      return image;
+    };
+    int told = 0;
+    quint64 const look = LayerHost::look(*large.layer);
+    ReadingListener const listener([&] { told += LayerHost::look(*large.layer) != look; });
+    bool isIncomplete = false;
+    QImage const before = drawnAtOnce(isIncomplete);
+    QVERIFY(isIncomplete);
+    QCOMPARE(ink(before).pixels, 0);
+    QVERIFY(large.layer->readShare());
+    QTRY_VERIFY(told > 0);
+    QVERIFY(!large.layer->readShare());
+    QImage const after = drawnAtOnce(isIncomplete);
+    QVERIFY(!isIncomplete);
+    QVERIFY(ink(after).pixels > 0);
+    QCOMPARE(after, sheet.drawn(sceneOf(large)));
+  }
+
   void featuresAreDrawnInPhaseOneUntilCancelled() {
     auto const cities = opened({sample("world.gpkg"), "cities", {}, {}}, "EPSG:8857", marker());
     auto const going = make<TrackerCancel>(), cancelled = make<TrackerCancel>();

@@ -1,0 +1,37 @@
+#include "WithoutWaiting.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace SysCarto {
+
+namespace {
+
+thread_local WithoutWaiting* ofThread = nullptr;
+
+std::vector<ReadingListener const*>& listeners() {
+  static std::vector<ReadingListener const*> all;
+  return all;
+}
+
+}  // namespace
+
+WithoutWaiting::WithoutWaiting() : around_(std::exchange(ofThread, this)) {}
+WithoutWaiting::~WithoutWaiting() { ofThread = around_; }
+WithoutWaiting* WithoutWaiting::current() { return ofThread; }
+
+ReadingListener::ReadingListener(std::function<void()> told) : told_(std::move(told)) { listeners().push_back(this); }
+
+ReadingListener::~ReadingListener() {
+  listeners().erase(std::remove(listeners().begin(), listeners().end(), this), listeners().end());
+}
+
+// One may end while it is told.
+void ReadingListener::tell() {
+  std::vector<ReadingListener const*> const now = listeners();
+  for (auto const* const one : now)
+    if (std::find(listeners().begin(), listeners().end(), one) != listeners().end()) one->told_();
+}
+
+}  // namespace SysCarto

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "host/SysGeometry/Box.h"
+
+#include <SysCarto/Export.h>
+
+#include <functional>
+#include <optional>
+
+namespace SysCarto {
+
+/// While one lives, layers that are drawn, labelled or asked on this thread don't wait for features that have to be read
+/// first. Other threads read these, what is there is drawn, and `ReadingListener` tells of more: for pictures that are
+/// drawn again then.
+class SYSCARTO_EXPORT WithoutWaiting {
+public:
+  WithoutWaiting();
+  ~WithoutWaiting();
+  WithoutWaiting(WithoutWaiting const&) = delete;
+  WithoutWaiting& operator=(WithoutWaiting const&) = delete;
+
+  /// The one of this thread; null where who asks waits.
+  static WithoutWaiting* current();
+
+  /// What of a map somebody looks at, in its units, where that is less than its frame. Without it: all.
+  std::optional<SysGeometry::Box> seen;
+
+  /// Whether something was missing.
+  bool isIncomplete = false;
+
+private:
+  WithoutWaiting* const around_;
+};
+
+/// Calls a function, on the thread of the user interface, when layers that were drawn without waiting have more to show.
+class SYSCARTO_EXPORT ReadingListener {
+public:
+  explicit ReadingListener(std::function<void()> told);
+  ~ReadingListener();
+  ReadingListener(ReadingListener const&) = delete;
+  ReadingListener& operator=(ReadingListener const&) = delete;
+
+  /// Calls them all.
+  static void tell();
+
+private:
+  std::function<void()> const told_;
+};
+
+}  // namespace SysCarto
