@@ -100,6 +100,8 @@ std::vector<Place> placesForLabels(FeaturePack const& pack, Box const& area, dou
 
 }  // namespace
 
+QString const& VectorLayer::problem() const { return problem_.isEmpty() ? windows_.problem() : problem_; }
+std::optional<double> VectorLayer::readShare() const { return windows_.share(); }
 qint64 VectorLayer::count() const { return hasWindows() ? count_ : features().size(); }
 
 LabelChoice VectorLayer::labelChoice(double unitsPerPoint) const {

@@ -54,10 +54,10 @@ public:
   SourceSettings const& source() const { return source_; }
 
   /// Why the source could not be read, as `open` answered it, or the window that was read last.
-  QString const& problem() const { return problem_.isEmpty() ? windows_.problem() : problem_; }
+  QString const& problem() const;
 
   /// How much was read of what is being read for views, from 0 to 1; nothing where nothing is.
-  std::optional<double> readShare() const { return windows_.share(); }
+  std::optional<double> readShare() const;
 
   /// Not null. A renderer that puts features into other classes takes effect when the layer is opened.
   void setRenderer(std::unique_ptr<Renderer> renderer);

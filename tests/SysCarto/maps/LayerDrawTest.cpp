@@ -1,6 +1,8 @@
 #include "LayerFixture.h"
 #include "Symbols.h"
 
+#include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layers/WithoutWaiting.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 
 using namespace SysCarto;
@@ -119,8 +121,7 @@ private slots:
     QVERIFY(isIncomplete);
     QCOMPARE(ink(before).pixels, 0);
     QVERIFY(large.layer->readShare());
-    QTRY_VERIFY(told > 0);
-    QVERIFY(!large.layer->readShare());
+    QTRY_VERIFY(told > 0 && !large.layer->readShare());
     QImage const after = drawnAtOnce(isIncomplete);
     QVERIFY(!isIncomplete);
     QVERIFY(ink(after).pixels > 0);
