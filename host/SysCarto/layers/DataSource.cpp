@@ -5,6 +5,8 @@
 #include "ServerLayer.h"
 #include "TableLayer.h"
 
+#include "host/SysCarto/projection/RectangleArea.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -31,10 +33,7 @@ DatasetPointer globe() {
   GDALAllRegister();
   DatasetPointer dataset(GetGDALDriverManager()->GetDriverByName("Memory")->Create("", 0, 0, 0, GDT_Unknown, nullptr));
   OGRLayer* const layer = dataset->CreateLayer("globe", nullptr, wkbPolygon);
-  OGRLinearRing ring;
-  for (auto const& [x, y] : {std::pair(-180, -90), {180, -90}, {180, 90}, {-180, 90}, {-180, -90}}) ring.addPoint(x, y);
-  OGRPolygon area;
-  area.addRing(&ring);
+  OGRPolygon area = areaOf({-180, -90, 180, 90});
   OGRFeatureUniquePtr const feature(OGRFeature::CreateFeature(layer->GetLayerDefn()));
   feature->SetGeometry(&area);
   if (layer->CreateFeature(feature.get()) != OGRERR_NONE) dataset.reset();

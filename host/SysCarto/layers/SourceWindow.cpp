@@ -1,6 +1,7 @@
 #include "SourceWindow.h"
 
 #include "host/SysCarto/projection/GeometryProjector.h"
+#include "host/SysCarto/projection/RectangleArea.h"
 
 #include <ogr_geometry.h>
 #include <ogrsf_frmts.h>
@@ -34,16 +35,7 @@ double sizeOf(Box const& box) { return std::max(widthOf(box), heightOf(box)); }
 // By the way of all features, so that it is cut where they are and its edges bend as theirs do.
 Box projected(Box const& cell, GeometryProjector const& projector) {
   BoxSink sink;
-  OGRLinearRing ring;
-  for (auto const& [x, y] : {std::pair(cell.xmin, cell.ymin),
-                             {cell.xmax, cell.ymin},
-                             {cell.xmax, cell.ymax},
-                             {cell.xmin, cell.ymax},
-                             {cell.xmin, cell.ymin}})
-    ring.addPoint(x, y);
-  OGRPolygon polygon;
-  polygon.addRing(&ring);
-  projector.add(polygon, sink);
+  projector.add(areaOf(cell), sink);
   for (double const x : {cell.xmin, (cell.xmin + cell.xmax) / 2, cell.xmax})
     for (double const y : {cell.ymin, (cell.ymin + cell.ymax) / 2, cell.ymax}) projector.add(OGRPoint(x, y), sink);
   return sink.box;

@@ -6,6 +6,7 @@
 
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/PointTransform.h"
+#include "host/SysCarto/projection/RectangleArea.h"
 
 #include <QCoreApplication>
 
@@ -250,18 +251,8 @@ namespace {
 
 // As an area that it covers.
 LayerSurvey surveyedRaster(LayerSurvey survey) {
-  SysGeometry::Box const& box = survey.description.extent;
-  OGRLinearRing ring;
-  for (auto const& [x, y] : {std::make_pair(box.xmin, box.ymin),
-                             {box.xmax, box.ymin},
-                             {box.xmax, box.ymax},
-                             {box.xmin, box.ymax},
-                             {box.xmin, box.ymin}})
-    ring.addPoint(x, y);
-  OGRPolygon area;
-  area.addRing(&ring);
   Finder finder(survey.description.coordinateSystem);
-  finder.add(area);
+  finder.add(SysCarto::areaOf(survey.description.extent));
   survey.count = 1;
   finder.finish(survey);
   return survey;
