@@ -13,6 +13,7 @@ constexpr double quantaPerCell = 1024;  // strokes with short edges turn with le
 constexpr int cellsPerPixel = 4, bucketPixels = 256;
 constexpr double bucketCells = cellsPerPixel * bucketPixels;
 constexpr int freeRepetitions = 16384;  // of points in a bucket, before any is left out
+constexpr int freeOfClass = 1024;       // whose records take more than it does to know the pixels that have one of them
 constexpr double sizeStep = 4;          // features of similar size share buckets, so that their boxes stay small
 constexpr double maxQuantum = 1e18;
 constexpr int freeLabels = 20000;  // more than any page can show
@@ -153,10 +154,11 @@ bool FeaturePack::isRepeated(FeatureStore const& from, size_t feature, int symbo
     double const pixels = std::floor((at - coordinate(origin)) / pixel);
     return static_cast<size_t>(std::clamp(pixels, 0.0, bucketPixels - 1.0));
   };
-  std::vector<bool>& taken = bucket.taken[symbolClass];
-  taken.resize(bucketPixels * bucketPixels);
-  auto const here = taken.begin() + static_cast<std::ptrdiff_t>(place(box.ymin, bucket.origin[1]) * bucketPixels +
-                                                                place(box.xmin, bucket.origin[0]));
+  auto& [points, pixels] = bucket.taken[symbolClass];
+  if (++points <= freeOfClass) return false;
+  pixels.resize(bucketPixels * bucketPixels);
+  auto const here = pixels.begin() + static_cast<std::ptrdiff_t>(place(box.ymin, bucket.origin[1]) * bucketPixels +
+                                                                 place(box.xmin, bucket.origin[0]));
   bool const isTaken = *here;
   *here = true;
   return isTaken;

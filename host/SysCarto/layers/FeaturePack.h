@@ -73,7 +73,11 @@ private:
     std::array<qint64, 2> origin;
     std::vector<unsigned char> records;
     int points = 0;
-    std::map<int, std::vector<bool>> taken = {};  // by symbol class: the pixels that have one of them
+    struct Taken {
+      int points = 0;
+      std::vector<bool> pixels;  // that have one of them
+    };
+    std::map<int, Taken> taken = {};  // by symbol class
   };
   using Vertex = std::array<qint64, 2>;
 

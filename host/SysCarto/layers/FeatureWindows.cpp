@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <list>
+#include <set>
 #include <utility>
 
 namespace SysCarto {
@@ -15,8 +17,7 @@ namespace {
 
 constexpr double marginShare = 1.0 / 32;  // what is read around, for symbols that reach farther and small steps
 constexpr double margin = 1.05;           // by which finer cells are read, so that who asks for a little finer has them
-constexpr std::size_t maxWindows = 3;
-constexpr std::size_t maxOlderBytes = 32 << 20;
+constexpr std::size_t maxOlderBytes = 64 << 20;  // of all layers together
 constexpr double sameCell = 1 + 1e-9;
 constexpr int betweenQuestionsMs = 20;
 
@@ -24,6 +25,65 @@ template <class Window>
 bool serves(Window const& window, Box const& needed, double cell) {
   return window.cell() <= cell * sameCell && window.area().contains(needed);
 }
+
+using Pack = std::shared_ptr<FeaturePack const>;
+
+struct Kept {
+  void const* layer;
+  Pack pack;
+};
+
+// Those of all layers, the one that was asked for last first.
+class KeptWindows {
+public:
+  static KeptWindows& ofProcess() {
+    static auto* const own = new KeptWindows;  // layers may outlive whatever is taken down at the end
+    return *own;
+  }
+
+  Pack find(void const* layer, Box const& needed, double cell) {
+    auto const known = std::find_if(all_.begin(), all_.end(), [&](Kept const& one) {
+      return one.layer == layer && serves(*one.pack, needed, cell);
+    });
+    if (known == all_.end()) return nullptr;
+    all_.splice(all_.begin(), all_, known);
+    return known->pack;
+  }
+
+  // What is coarser but whole is better than what is not.
+  Pack standIn(void const* layer, Box const& needed, WindowReading const& reading) const {
+    Pack partly = reading.soFar();
+    for (Kept const& one : all_) {
+      if (one.layer != layer) continue;
+      if (one.pack->area().contains(needed)) return one.pack;
+      if (!partly && one.pack->area().meets(needed)) partly = one.pack;
+    }
+    return partly;
+  }
+
+  void add(void const* layer, Pack pack) {
+    makeRoom(layer);
+    all_.push_front({layer, std::move(pack)});
+  }
+
+  void forget(void const* layer) {
+    all_.remove_if([layer](Kept const& one) { return one.layer == layer; });
+  }
+
+private:
+  // For the next one of a layer.
+  void makeRoom(void const* layer) {
+    std::size_t older = 0;
+    std::set<void const*> seen{layer};
+    for (auto one = all_.begin(); one != all_.end();) {
+      bool const isOlder = !seen.insert(one->layer).second;
+      if (isOlder) older += one->pack->bytes();
+      one = isOlder && older > maxOlderBytes ? all_.erase(one) : std::next(one);
+    }
+  }
+
+  std::list<Kept> all_;
+};
 
 }  // namespace
 
@@ -36,7 +96,7 @@ FeatureWindows::~FeatureWindows() { clear(); }
 void FeatureWindows::clear() {
   for (Reading& reading : state_->underWay)
     if (auto const given = std::exchange(reading, nullptr)) given->giveUp();
-  state_->kept.clear();
+  KeptWindows::ofProcess().forget(state_.get());
   state_->problem.clear();
 }
 
@@ -54,16 +114,17 @@ std::shared_ptr<FeaturePack const> FeatureWindows::window(WindowWish const& wish
   double const cell = ThinningGrid::forPixels(wish.unitsPerPixel).cell();
   if (!(cell > 0) || wish.needed.isEmpty()) return nullptr;
   state_->takeAll();
-  if (Pack known = state_->find(wish.needed, cell)) return known;
+  auto& kept = KeptWindows::ofProcess();
+  if (Pack known = kept.find(state_.get(), wish.needed, cell)) return known;
   Reading const own = reading(wish, cell, read);
   if (auto* const meanwhile = WithoutWaiting::current()) {
     state_->owesMore = meanwhile->isIncomplete = true;
-    return state_->standIn(wish.needed, *own);
+    return kept.standIn(state_.get(), wish.needed, *own);
   }
   while (!own->wait(betweenQuestionsMs))
     if (progress && !progress(0, -1)) return giveUp(own);
   state_->takeAll();
-  return state_->find(wish.needed, cell);
+  return kept.find(state_.get(), wish.needed, cell);
 }
 
 std::nullptr_t FeatureWindows::giveUp(Reading const& reading) {
@@ -92,46 +153,19 @@ FeatureWindows::Reading const& FeatureWindows::reading(WindowWish const& wish, d
   return own;
 }
 
-std::shared_ptr<FeaturePack const> FeatureWindows::State::find(Box const& needed, double cell) {
-  auto const known = std::find_if(kept.begin(), kept.end(), [&](Pack const& one) { return serves(*one, needed, cell); });
-  if (known == kept.end()) return nullptr;
-  kept.splice(kept.begin(), kept, known);
-  return kept.front();
-}
-
-// What is coarser but whole is better than what is not.
-std::shared_ptr<FeaturePack const> FeatureWindows::State::standIn(Box const& needed,
-                                                                  WindowReading const& reading) const {
-  for (Pack const& one : kept)
-    if (one->area().contains(needed)) return one;
-  if (auto const growing = reading.soFar()) return growing;
-  for (Pack const& one : kept)
-    if (one->area().meets(needed)) return one;
-  return nullptr;
-}
-
 // What could not be read is kept as well, without features, so that it is not tried again and again.
 void FeatureWindows::State::take(Reading& reading) {
   auto const ended = std::exchange(reading, nullptr);
   ReadFeatures read = ended->take();
   if (read.wasStopped) return;
-  makeRoom();
   if (!read.pack) read.pack = std::make_unique<FeaturePack>(ended->area(), ended->cell());
-  kept.push_front(std::move(read.pack));
+  KeptWindows::ofProcess().add(this, std::move(read.pack));
   problem = read.error;
 }
 
 void FeatureWindows::State::takeAll() {
   for (Reading& reading : underWay)
     if (reading && reading->isDone()) take(reading);
-}
-
-void FeatureWindows::State::makeRoom() {
-  std::size_t older = 0, count = 1;
-  for (auto one = kept.begin(); one != kept.end();) {
-    older += (*one)->bytes();
-    one = ++count > maxWindows || older > maxOlderBytes ? kept.erase(one) : std::next(one);
-  }
 }
 
 void FeatureWindows::State::tell() {

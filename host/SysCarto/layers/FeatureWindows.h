@@ -5,7 +5,6 @@
 #include <array>
 #include <cstddef>
 #include <functional>
-#include <list>
 #include <memory>
 #include <optional>
 
@@ -21,7 +20,8 @@ struct WindowWish {
 };
 
 /// The windows of a layer that were read last, and those that are being read. What lies within one of them, and is no
-/// finer, needs no reading.
+/// finer, needs no reading. The last one of each layer stays; those before it have some memory together, whatever layers
+/// they are of.
 class FeatureWindows {
 public:
   /// `changed` is called when somebody who did not wait would get more now.
@@ -43,23 +43,18 @@ public:
   void clear();
 
 private:
-  using Pack = std::shared_ptr<FeaturePack const>;
   using Reading = std::shared_ptr<WindowReading>;
 
   // Shared with what calls back.
   struct State {
     std::function<void()> changed;
-    std::list<Pack> kept;             // the one that was asked for last first
     std::array<Reading, 2> underWay;  // of what the frame shows, and of a part of it
     QString problem;
     bool owesMore = false;  // somebody who did not wait got less
 
-    Pack find(Box const& needed, double cell);
-    Pack standIn(Box const& needed, WindowReading const& reading) const;
     void take(Reading& reading);
     void takeAll();
     void tell();
-    void makeRoom();
   };
   Reading const& reading(WindowWish const& wish, double cell, WindowReading::Read const& read);
   std::nullptr_t giveUp(Reading const& reading);
