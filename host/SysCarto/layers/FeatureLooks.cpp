@@ -102,13 +102,16 @@ _ptr_t<Symbol> FeatureLooks::symbol(int symbolClass, Look const& look) const {
   return symbol;
 }
 
+bool FeatureLooks::isSorted() const { return isProportional(renderer_); }
+
+double FeatureLooks::rankOf(int feature) const {
+  double const value = store_.value(feature, 0);
+  return std::isnan(value) ? none : value;
+}
+
 void FeatureLooks::sort(std::vector<int>& features) const {
-  if (!isProportional(renderer_)) return;
-  auto const key = [this](int feature) {
-    double const value = store_.value(feature, 0);
-    return std::isnan(value) ? none : value;
-  };
-  std::stable_sort(features.begin(), features.end(), [&](int a, int b) { return key(a) > key(b); });
+  if (!isSorted()) return;
+  std::stable_sort(features.begin(), features.end(), [this](int a, int b) { return rankOf(a) > rankOf(b); });
 }
 
 _ptr_t<Symbol> FeatureLooks::markerFor(double number) const {

@@ -31,6 +31,10 @@ public:
   /// Puts features into the order in which they are drawn: large markers in proportion first.
   void sort(std::vector<int>& features) const;
 
+  /// Whether that is another order than that of the source, and by which number a feature comes sooner.
+  bool isSorted() const;
+  double rankOf(int feature) const;
+
   /// The marker in proportion to a number.
   SysUtility::_ptr_t<SysDisplay::Symbol> markerFor(double number) const;
 

@@ -6,6 +6,7 @@
 #include "host/SysCarto/layers/FeatureEvaluator.h"
 #include "host/SysCarto/layers/FeatureIntake.h"
 #include "host/SysCarto/layers/LabelReader.h"
+#include "host/SysCarto/layers/LargestNumbers.h"
 #include "host/SysCarto/layers/Renderer.h"
 #include "host/SysCarto/layers/SourceBounds.h"
 #include "host/SysCarto/layers/SourceWindow.h"
@@ -132,13 +133,6 @@ bool isLarge(OGRLayer& layer, SourceSettings const& source) {
   return knownCount(layer) >= threshold().features || dataSizeOf(source.file) >= threshold().bytes;
 }
 
-// A large renderer asks all features for the largest of their numbers.
-bool needsAll(Renderer const& renderer) {
-  auto const& varied = renderer.varied();
-  return std::any_of(varied.begin(), varied.end(),
-                     [](VariedProperty const& one) { return one.kind == VariedProperty::Kind::Size; });
-}
-
 // Hands on the parts of features that can be seen.
 class ThinningSink final : public PartSink {
 public:
@@ -256,6 +250,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   store.keepsLabels = !labels.text.isEmpty();
   store.valuesPerFeature = static_cast<int>(renderer.varied().size());
   bool const isMarked = renderer.settings().kind == RendererSettings::Kind::Proportional;
+  if (query) store.knowLargest(query->largest);
   ThinningGrid const grid(query ? query->cell : 0);
   if (query && query->cell > 0) {
     result.pack = std::make_unique<FeaturePack>(query->area, query->cell, query->labels);
@@ -286,7 +281,8 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     result.pack->add(placed);
     if (wanted->growing) wanted->growing(*result.pack);
   });
-  if (!query && isLarge(layer, source) && !needsAll(renderer)) {
+  bool const isReadNow = depth == ReadDepth::Features;
+  if (!query && isLarge(layer, source) && (isReadNow || !followsLargest(renderer))) {
     auto const extent = toldExtent(layer, projector);
     result.hasWindows = extent.has_value();
     if (extent) result.extent = coveredMap(*extent, projector);
@@ -294,13 +290,16 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   }
   if (depth == ReadDepth::Schema) return;
   bool isEmpty = true, isNowhere = false;
+  SourceBounds bounds = source.connection.isEmpty() ? SourceBounds(source.file) : SourceBounds::ofServer();
   QString unplaced;
-  if (result.hasWindows && depth == ReadDepth::Features) {
+  if (result.hasWindows && isReadNow) {
+    if (followsLargest(renderer))
+      store.knowLargest(largestNumbers(layer, condition, renderer, evaluator, bounds, watch));
+    result.wasStopped = watch.wasStopped();
     isNowhere = result.extent.isEmpty();
   } else {
     leaveOut(layer, condition, renderer, labels);
     Selection selection(layer, query, projector);
-    SourceBounds bounds = source.connection.isEmpty() ? SourceBounds(source.file) : SourceBounds::ofServer();
     while (OGRFeatureUniquePtr feature = selection.next()) {
       if (!bounds.admits(*feature)) break;
       if (feature->GetGeometryRef() && condition.admits(*feature)) {

@@ -60,10 +60,11 @@ SYSCARTO_EXPORT ReadFeatures readFeatures(SourceSettings const& source, QString 
 
 /// Features of a source that has windows.
 struct WindowQuery {
-  Box area;                 ///< of the map: those that meet it
-  double cell = 0;          ///< to which they are thinned, in map units; 0 to have them as they are
-  std::vector<qint64> ids;  ///< instead of an area, those with these numbers in the source
-  LabelChoice labels;       ///< of those that are thinned
+  Box area;                          ///< of the map: those that meet it
+  double cell = 0;                   ///< to which they are thinned, in map units; 0 to have them as they are
+  std::vector<qint64> ids;           ///< instead of an area, those with these numbers in the source
+  LabelChoice labels;                ///< of those that are thinned
+  std::vector<double> largest = {};  ///< of all features, as `FeatureStore::knownLargest`
 
   /// Called now and then with what was read of those that are thinned; may be empty.
   std::function<void(FeaturePack const&)> growing = {};

@@ -117,7 +117,7 @@ void FeatureStore::takeForm(FeatureStore const& other) {
   values.clear();
   keepsLabels = other.keepsLabels;
   valuesPerFeature = other.valuesPerFeature;
-  largest_.assign(static_cast<size_t>(valuesPerFeature), nan);
+  knowLargest(other.known_);
   if (classSets != other.classSets) classSets = other.classSets;
 }
 
@@ -140,10 +140,16 @@ void FeatureStore::append(FeatureStore& other) {
   box_.add(other.box_);
 }
 
+void FeatureStore::knowLargest(std::vector<double> numbers) {
+  known_ = std::move(numbers);
+  largest_ = known_;
+  largest_.resize(static_cast<size_t>(valuesPerFeature), nan);
+}
+
 double FeatureStore::largestValue(int number) const { return largest_.empty() ? nan : largest_[number]; }
 
 void FeatureStore::finish() {
-  largest_.assign(valuesPerFeature, nan);
+  knowLargest(std::move(known_));
   for (int feature = 0; feature < size(); ++feature)
     for (int i = 0; i < valuesPerFeature; ++i) largest_[i] = std::fmax(largest_[i], value(feature, i));
   parts.shrink_to_fit();

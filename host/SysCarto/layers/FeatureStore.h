@@ -93,6 +93,10 @@ public:
     return values[static_cast<size_t>(feature) * valuesPerFeature + number];
   }
 
+  /// Of features that are some of many: the largest numbers of all of these, which are part of the form.
+  void knowLargest(std::vector<double> numbers);
+  std::vector<double> const& knownLargest() const { return known_; }
+
   /// The largest of these numbers; not a number where no feature has one.
   double largestValue(int number) const;
 
@@ -100,7 +104,7 @@ private:
   VertexPool vertices_;
   std::unique_ptr<BoxTree> index_;
   Box box_;
-  std::vector<double> largest_;  // of the values
+  std::vector<double> known_, largest_;  // of the values
   std::map<std::vector<int>, int> setNumbers_;
   Feature current_{};
   qint64 currentId_ = -1;

@@ -74,6 +74,19 @@ void inPortions(FeaturePack const& pack, Box const& area, FeatureStore& store, V
 }
 
 // What labels are placed by: all that have one, and of very many others one on each square, since names keep off marks
+// As `FeatureLooks::sort` has them; the looks are those of the store.
+void sortForDrawing(FeaturePack const& pack, FeatureLooks const& looks, FeatureStore& store,
+                    std::vector<Place>& places) {
+  std::vector<std::pair<double, Place>> ranked;
+  ranked.reserve(places.size());
+  inPortions(pack, places, store, [&](Place const* place) {
+    for (int i = 0; i < store.size(); ++i) ranked.emplace_back(looks.rankOf(i), place[i]);
+    return true;
+  });
+  std::stable_sort(ranked.begin(), ranked.end(), [](auto const& a, auto const& b) { return a.first > b.first; });
+  std::transform(ranked.begin(), ranked.end(), places.begin(), [](auto const& one) { return one.second; });
+}
+
 // that lie on one another as off one.
 std::vector<Place> placesForLabels(FeaturePack const& pack, Box const& area, double side) {
   int count = 0;
@@ -148,8 +161,9 @@ std::shared_ptr<FeaturePack const> VectorLayer::window(DisplayTransformation con
   wish.needed = wish.isPart ? reached : wish.wanted;
   ReadProgress progress;
   if (cancel) progress = [&](qint64, qint64) { return !cancel->IsCanced(); };
-  auto const read = [source = source_, system = mapSystem_, renderer = renderer_, fields = labels_.read()](
-                        WindowQuery const& query, ReadProgress const& wanted) {
+  auto const read = [source = source_, system = mapSystem_, renderer = renderer_, fields = labels_.read(),
+                     largest = store_->knownLargest()](WindowQuery query, ReadProgress const& wanted) {
+    query.largest = largest;
     return readWindow(source, system, *renderer, fields, query, wanted);
   };
   return windows_.window(wish, read, progress);
@@ -170,7 +184,7 @@ std::shared_ptr<FeatureStore const> VectorLayer::shownBy(DisplayTransformation c
   return store;
 }
 
-// How far symbols reach is the same whatever is read: those whose size follows features have no windows.
+// How far symbols reach is the same whatever is read: where their sizes follow features, the largest is known.
 void VectorLayer::drawWindow(DrawTarget& target, DisplayTransformation const& transformation, double unitsPerPixel,
                              _ptr_t<TrackerCancel> const& cancel) {
   double const scale = transformation.GetMapScale();
@@ -189,6 +203,7 @@ void VectorLayer::drawWindow(DrawTarget& target, DisplayTransformation const& tr
   for (FeaturePasses::Pass const& pass : passes.passes())
     inPortions(*pack, places, store, [&](Place const*) {
       ThinnedFeatures thinned(store);
+  store.takeForm(*store_);
       thinned.setResolution(unitsPerPixel);
       for (int feature = 0; feature < store.size(); ++feature) {
         int const symbolClass = store.features[static_cast<size_t>(feature)].symbolClass;
@@ -200,6 +215,7 @@ void VectorLayer::drawWindow(DrawTarget& target, DisplayTransformation const& tr
 }
 
 QVector<bool> VectorLayer::findClassesWithin(DisplayTransformation const& transformation, Box const& shown) const {
+  if (looks.isSorted()) sortForDrawing(*pack, looks, store, places);
   double const scale = transformation.GetMapScale();
   QTransform const& turn = DisplayTransformationHost::turn(transformation);
   int const count = static_cast<int>(renderer_->classes().size());

@@ -207,7 +207,7 @@ QList<LegendClass> VectorLayer::legendClasses() const {
   std::vector<SymbolClass> const& all = renderer_->classes();
   bool const isProportional = renderer_->settings().kind == RendererSettings::Kind::Proportional;
   if (isProportional) {
-    FeatureLooks const looks(*renderer_, features(), 0);
+    FeatureLooks const looks(*renderer_, form(), 0);
     for (double const number : looks.toldNumbers())
       classes << LegendClass{SysUtility::grouped(number), looks.markerFor(number)};
   }
@@ -230,7 +230,7 @@ QVector<bool> VectorLayer::classesWithin(_ptr_t<DisplayTransformation> const& tr
 
 int VectorLayer::proportionalClasses() const {
   if (renderer_->settings().kind != RendererSettings::Kind::Proportional) return 0;
-  return static_cast<int>(FeatureLooks(*renderer_, features(), 0).toldNumbers().size());
+  return static_cast<int>(FeatureLooks(*renderer_, form(), 0).toldNumbers().size());
 }
 
 // As the legend lists them.

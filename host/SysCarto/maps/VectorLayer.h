@@ -116,6 +116,7 @@ public:
 
 private:
   QString read(QStringList& warnings, ReadProgress const& progress, ReadDepth depth) const;
+  FeatureStore const& form() const { return hasWindows() ? *store_ : features(); }
   ThinnedFeatures& thinned() const;
   LabelChoice labelChoice(double unitsPerPoint) const;
   std::shared_ptr<FeatureStore const> shared() const;

@@ -18,6 +18,18 @@ _ptr_t<Symbol> marker() {
   return symbol;
 }
 
+// With markers by the population, the largest of which decides on the others.
+OpenedLayer openedBySize(SourceSettings const& source, QString const& system) {
+  RendererSettings settings;
+  settings.kind = RendererSettings::Kind::Proportional;
+  settings.field = "population";
+  settings.classes.emplace_back();
+  settings.classes.back().symbol = marker();
+  OpenedLayer result{make<VectorLayer>(makeRenderer(settings)), {}, {}};
+  result.error = result.layer->open(source, system, result.warnings);
+  return result;
+}
+
 Scene sceneOf(OpenedLayer const& opened) {
   return [layer = opened.layer](QPainter& painter, Transformation const& transformation) {
     layer->Draw(painter, transformation, 1, nullptr);
@@ -75,6 +87,7 @@ private slots:
     row("at the South Pole", "countries", "+proj=stere +lat_0=-90", {1e5, 2e5}, 1e5, 0);
     row("at the limb of a globe", "countries", "+proj=ortho +lat_0=40 +lon_0=10", {6.2e6, 1e6}, 2e6, 0);
     row("markers that reach into it", "cities", "+proj=laea +lat_0=47 +lon_0=8", {0, 0}, 1.5e6, 20);
+    row("markers by the largest number of all", "cities", "+proj=laea +lat_0=10 +lon_0=20", {0, 0}, 5e6, 0);
   }
   void aWindowShowsWhatTheWholeLayerDoes() {
     auto const [name, system, centre, width, degrees] = fetched<QString, QString, QPointF, double, double>();
@@ -91,11 +104,18 @@ private slots:
           },
           150);
     };
-    QImage const whole = drawn(opened({sample("world.gpkg"), name, {}, {}}, system, symbol));
+    bool const isBySize = QByteArray(QTest::currentDataTag()).contains("largest");
+    auto const layer = [&, about = name, to = system] {
+      SourceSettings const source{sample("world.gpkg"), about, {}, {}};
+      return isBySize ? openedBySize(source, to) : opened(source, to, symbol);
+    };
+    QImage const whole = drawn(layer());
     auto const former = setWindowThreshold({0, 0});
-    auto const large = opened({sample("world.gpkg"), name, {}, {}}, system, symbol);
+    auto const large = layer();
     setWindowThreshold(former);
     QVERIFY(large.layer->hasWindows());
+    QVERIFY(ink(whole).pixels > 100);
+    QCOMPARE(large.layer->legendClasses().size(), isBySize ? 3 : 1);
     Difference const found = difference(whole, drawn(large));
     QVERIFY(large.layer->hasWindows());
     QVERIFY2(found.levels <= 90 && found.pixels <= 900, qUtf8Printable(found.text()));
