@@ -311,6 +311,8 @@ QString ContentsModel::toolTipOf(Node const& node) const {
   auto const labels = vector && vector->IsAnnotationVisible() ? vector->labelCount() : SysCarto::LabelCount();
   if (labels.placed != labels.wanted)
     return tr("%1 of %2 labels found no place").arg(labels.wanted - labels.placed).arg(labels.wanted);
+  QStringList const warnings = SysCarto::warningsOf(*node.row.layer);
+  if (!warnings.isEmpty()) return warnings.first();
   auto const scales = LayerHost::scales(*node.row.layer);
   return scales.min > 0 || scales.max > 0 ? rangeOf(*node.row.layer) : QString();
 }

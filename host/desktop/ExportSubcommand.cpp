@@ -8,6 +8,7 @@
 #include "series/FileNames.h"
 #include "series/SeriesExport.h"
 
+#include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 
 #include <QCommandLineParser>
@@ -93,6 +94,7 @@ QString ExportSubcommand::run() {
     };
   problem = page.write(document_, interrupt.cancel(), progress);
   if (progress) Console::showStatus(QString());
+  for (QString const& warning : SysCarto::laterWarnings(document_)) Console::complain(warning);
   if (problem.isEmpty() && !request_.quiet) Console::print(request_.image);
   return problem;
 }

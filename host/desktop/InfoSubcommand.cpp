@@ -132,6 +132,7 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
 
   auto const desktop = SysUtility::make<OffscreenDesktop>(document);
   QJsonObject const report = documentJson(document, parser.isSet(labels));
+  for (QString const& sentence : SysCarto::laterWarnings(document)) Console::complain(sentence);
   if (parser.isSet(json))
     printJson(report);
   else

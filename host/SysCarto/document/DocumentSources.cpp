@@ -10,6 +10,7 @@
 #include "host/SysUtility/FileReach.h"
 
 #include <SysCarto/GroupElement.h>
+#include <SysCarto/MapDocument.h>
 
 #include <QCoreApplication>
 
@@ -50,6 +51,10 @@ void visitSources(PageLayout const& layout, OnLayer const& onLayer, OnPicture co
   }
 }
 
+QString sentenceOf(Layer const& layer, QString const& said) {
+  return Texts::tr("Layer “%1”: %2").arg(layer.GetName(), said);
+}
+
 }  // namespace
 
 QString DocumentSource::outside(SysUtility::FileReach const& reach) const {
@@ -71,8 +76,8 @@ QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
   visitSources(
       layout,
       [&](Map const&, Layer const& layer) {
-        QString problem = problemOf(layer);
-        if (!problem.isEmpty()) problem = Texts::tr("Layer “%1”: %2").arg(layer.GetName(), problem);
+        QString problem = failureOf(layer);
+        if (!problem.isEmpty()) problem = sentenceOf(layer, problem);
         Use use = Use::Layer;
         auto const* const vector = dynamic_cast<VectorLayer const*>(&layer);
         if (vector && !vector->source().connection.isEmpty())
@@ -86,6 +91,21 @@ QVector<DocumentSource> sourcesOf(PageLayout const& layout) {
           sources.append({picture.path(), Use::Picture, picture.GetName(), picture.problem()});
       });
   return sources;
+}
+
+QStringList laterWarnings(MapDocument const& document) {
+  QStringList warnings;
+  auto const layout = document.GetPageLayout();
+  if (!layout) return warnings;
+  QStringList const told = document.GetWarnings();
+  visitSources(
+      *layout,
+      [&](Map const&, Layer const& layer) {
+        for (QString const& warning : warningsOf(layer))
+          if (told.filter(warning).isEmpty()) warnings << sentenceOf(layer, warning);
+      },
+      [](PictureElement const&) {});
+  return warnings;
 }
 
 void readAgain(PageLayout const& layout, QStringList const& files) {

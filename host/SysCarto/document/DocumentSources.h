@@ -12,6 +12,7 @@ class FileReach;
 
 namespace SysCarto {
 
+class MapDocument;
 class PageLayout;
 
 /// A file that a layout draws from.
@@ -31,6 +32,10 @@ struct SYSCARTO_EXPORT DocumentSource {
 
 /// One for each use, in no particular order. Pictures and symbols that lie in the document itself have no file.
 SYSCARTO_EXPORT QVector<DocumentSource> sourcesOf(PageLayout const& layout);
+
+/// What is to be said of data that were read after the document was opened, since they are read where they are drawn:
+/// sentences that name the layer.
+SYSCARTO_EXPORT QStringList laterWarnings(MapDocument const& document);
 
 /// Reads these files and connections (as `SourceSettings::origin`) anew, for all that draw them.
 SYSCARTO_EXPORT void readAgain(PageLayout const& layout, QStringList const& files);

@@ -87,8 +87,9 @@ private:
 
 }  // namespace
 
-FeatureWindows::FeatureWindows(std::function<void()> changed) : state_(std::make_shared<State>()) {
+FeatureWindows::FeatureWindows(std::function<void()> changed, Taken taken) : state_(std::make_shared<State>()) {
   state_->changed = std::move(changed);
+  state_->taken = std::move(taken);
 }
 
 FeatureWindows::~FeatureWindows() { clear(); }
@@ -97,10 +98,7 @@ void FeatureWindows::clear() {
   for (Reading& reading : state_->underWay)
     if (auto const given = std::exchange(reading, nullptr)) given->giveUp();
   KeptWindows::ofProcess().forget(state_.get());
-  state_->problem.clear();
 }
-
-QString const& FeatureWindows::problem() const { return state_->problem; }
 
 std::optional<double> FeatureWindows::share() const {
   std::optional<double> least;
@@ -158,9 +156,9 @@ void FeatureWindows::State::take(Reading& reading) {
   auto const ended = std::exchange(reading, nullptr);
   ReadFeatures read = ended->take();
   if (read.wasStopped) return;
+  taken(read);
   if (!read.pack) read.pack = std::make_unique<FeaturePack>(ended->area(), ended->cell());
   KeptWindows::ofProcess().add(this, std::move(read.pack));
-  problem = read.error;
 }
 
 void FeatureWindows::State::takeAll() {

@@ -24,17 +24,16 @@ struct WindowWish {
 /// they are of.
 class FeatureWindows {
 public:
-  /// `changed` is called when somebody who did not wait would get more now.
-  explicit FeatureWindows(std::function<void()> changed);
+  using Taken = std::function<void(ReadFeatures const& window)>;
+
+  /// `changed` is called when somebody who did not wait would get more now, and `taken` with each window that was read.
+  FeatureWindows(std::function<void()> changed, Taken taken);
   ~FeatureWindows();
 
   /// The features in an area, or around it. Waits for them while `progress`, which may be empty, wants it, and answers
   /// an empty pointer where it does not. `WithoutWaiting` there may be fewer or coarser ones, or none.
   std::shared_ptr<FeaturePack const> window(WindowWish const& wish, WindowReading::Read const& read,
                                             ReadProgress const& progress);
-
-  /// Why the window that was read last is not whole; empty where it is.
-  QString const& problem() const;
 
   /// How much was read of what is being read; nothing where nothing is.
   std::optional<double> share() const;
@@ -48,8 +47,8 @@ private:
   // Shared with what calls back.
   struct State {
     std::function<void()> changed;
+    Taken taken;
     std::array<Reading, 2> underWay;  // of what the frame shows, and of a part of it
-    QString problem;
     bool owesMore = false;  // somebody who did not wait got less
 
     void take(Reading& reading);

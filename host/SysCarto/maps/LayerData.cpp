@@ -23,6 +23,16 @@ std::optional<double> readShareOf(Layer const& layer) {
   return vector ? vector->readShare() : std::nullopt;
 }
 
+QString failureOf(Layer const& layer) {
+  auto const* const vector = dynamic_cast<VectorLayer const*>(&layer);
+  return vector ? vector->failure() : problemOf(layer);
+}
+
+QStringList warningsOf(Layer const& layer) {
+  auto const* const vector = dynamic_cast<VectorLayer const*>(&layer);
+  return vector ? vector->warnings() : QStringList();
+}
+
 QStringList filesOf(Layer const& layer) {
   QStringList files;
   if (auto const* const vector = dynamic_cast<VectorLayer const*>(&layer)) {

@@ -21,6 +21,12 @@ SYSCARTO_EXPORT QString problemOf(Layer const& layer);
 /// How much was read of what views wait for, from 0 to 1; nothing where they wait for nothing.
 SYSCARTO_EXPORT std::optional<double> readShareOf(Layer const& layer);
 
+/// As `problemOf`, for all that was read since they were opened: what a page was drawn of.
+SYSCARTO_EXPORT QString failureOf(Layer const& layer);
+
+/// What else is to be said of those that were read, as sentences.
+SYSCARTO_EXPORT QStringList warningsOf(Layer const& layer);
+
 /// The files that they come from, absolute: the layer's own first, where it has one.
 SYSCARTO_EXPORT QStringList filesOf(Layer const& layer);
 

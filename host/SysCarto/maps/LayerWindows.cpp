@@ -28,6 +28,7 @@ constexpr double labelSquarePt = 4, markSquarePt = 2;
 constexpr double printedDpi = 300;
 constexpr double enlarged = 1.1;  // beyond the resolution of print
 constexpr double pointsPerInch = 72;
+constexpr int mostWarnings = 20;
 
 Box boxFrom(QRectF const& rectangle) {
   return {rectangle.left(), rectangle.top(), rectangle.right(), rectangle.bottom()};
@@ -73,7 +74,6 @@ void inPortions(FeaturePack const& pack, Box const& area, FeatureStore& store, V
   handOn();
 }
 
-// What labels are placed by: all that have one, and of very many others one on each square, since names keep off marks
 // As `FeatureLooks::sort` has them; the looks are those of the store.
 void sortForDrawing(FeaturePack const& pack, FeatureLooks const& looks, FeatureStore& store,
                     std::vector<Place>& places) {
@@ -87,6 +87,7 @@ void sortForDrawing(FeaturePack const& pack, FeatureLooks const& looks, FeatureS
   std::transform(ranked.begin(), ranked.end(), places.begin(), [](auto const& one) { return one.second; });
 }
 
+// What labels are placed by: all that have one, and of very many others one on each square, since names keep off marks
 // that lie on one another as off one.
 std::vector<Place> placesForLabels(FeaturePack const& pack, Box const& area, double side) {
   int count = 0;
@@ -113,7 +114,6 @@ std::vector<Place> placesForLabels(FeaturePack const& pack, Box const& area, dou
 
 }  // namespace
 
-QString const& VectorLayer::problem() const { return problem_.isEmpty() ? windows_.problem() : problem_; }
 std::optional<double> VectorLayer::readShare() const { return windows_.share(); }
 qint64 VectorLayer::count() const { return hasWindows() ? count_ : features().size(); }
 
@@ -127,9 +127,22 @@ Box VectorLayer::extent() const { return hasWindows() ? extent_ : features().box
 
 std::shared_ptr<FeatureStore const> VectorLayer::shared() const { return {std::shared_ptr<void>(), &features()}; }
 
+// The same is said of many windows.
+void VectorLayer::keepWarnings(ReadFeatures const& read) const {
+  for (QString const& warning : read.warnings)
+    if (!warnings_.contains(warning) && warnings_.size() < mostWarnings) warnings_ << warning;
+}
+
+void VectorLayer::takeWindow(ReadFeatures const& read) const {
+  keepWarnings(read);
+  if (read.wasStopped) return;
+  windowProblem_ = read.error;
+  if (failure_.isEmpty()) failure_ = read.error;
+}
+
 std::shared_ptr<FeatureStore const> VectorLayer::readOnly(WindowQuery const& query) const {
   ReadFeatures read = readWindow(source_, mapSystem_, *renderer_, labels_.read(), query);
-  if (!read.error.isEmpty()) problem_ = read.error;
+  takeWindow(read);
   return std::move(read.store);
 }
 
@@ -189,6 +202,7 @@ void VectorLayer::drawWindow(DrawTarget& target, DisplayTransformation const& tr
                              _ptr_t<TrackerCancel> const& cancel) {
   double const scale = transformation.GetMapScale();
   FeatureStore store;
+  store.takeForm(*store_);
   double const reachPx = FeaturePasses(*renderer_, FeatureLooks(*renderer_, store, scale), target).reachPx() + 1;
   Box const area =
       boxFrom(target.toDevice().inverted().mapRect(target.area().adjusted(-reachPx, -reachPx, reachPx, reachPx)));
@@ -200,10 +214,10 @@ void VectorLayer::drawWindow(DrawTarget& target, DisplayTransformation const& tr
   std::vector<Place> places = pack->query(area);
   auto const isLeftOut = [&](Place const& place) { return isHidden(place.id); };
   places.erase(std::remove_if(places.begin(), places.end(), isLeftOut), places.end());
+  if (looks.isSorted()) sortForDrawing(*pack, looks, store, places);
   for (FeaturePasses::Pass const& pass : passes.passes())
     inPortions(*pack, places, store, [&](Place const*) {
       ThinnedFeatures thinned(store);
-  store.takeForm(*store_);
       thinned.setResolution(unitsPerPixel);
       for (int feature = 0; feature < store.size(); ++feature) {
         int const symbolClass = store.features[static_cast<size_t>(feature)].symbolClass;
@@ -215,7 +229,6 @@ void VectorLayer::drawWindow(DrawTarget& target, DisplayTransformation const& tr
 }
 
 QVector<bool> VectorLayer::findClassesWithin(DisplayTransformation const& transformation, Box const& shown) const {
-  if (looks.isSorted()) sortForDrawing(*pack, looks, store, places);
   double const scale = transformation.GetMapScale();
   QTransform const& turn = DisplayTransformationHost::turn(transformation);
   int const count = static_cast<int>(renderer_->classes().size());

@@ -71,7 +71,7 @@ VectorLayer::VectorLayer(std::unique_ptr<Renderer> renderer)
       properties_(make<AnnotationProperties>()),
       store_(std::make_unique<FeatureStore>()),
       thinned_(std::make_unique<ThinnedFeatures>(*store_)),
-      windows_([this] { LayerHost::changeLook(*this); }) {}
+      windows_([this] { LayerHost::changeLook(*this); }, [this](ReadFeatures const& read) { takeWindow(read); }) {}
 
 VectorLayer::~VectorLayer() = default;
 
@@ -79,17 +79,21 @@ QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem
                           ReadProgress const& progress, ReadDepth depth) {
   source_ = source;
   mapSystem_ = mapSystem;
-  problem_ = read(warnings, progress, depth);
+  warnings_.clear();
+  windowProblem_.clear();
+  failure_.clear();
+  problem_ = read(progress, depth);
+  warnings += warnings_;
   LayerHost::changeLook(*this);
   return problem_;
 }
 
-QString VectorLayer::read(QStringList& warnings, ReadProgress const& progress, ReadDepth depth) const {
+QString VectorLayer::read(ReadProgress const& progress, ReadDepth depth) const {
   ReadFeatures read = readFeatures(source_, mapSystem_, *renderer_, labels_.read(), progress, depth);
   store_ = std::move(read.store);
   thinned_ = std::make_unique<ThinnedFeatures>(*store_);
   windows_.clear();
-  warnings += read.warnings;
+  keepWarnings(read);
   hasWindows_ = read.hasWindows;
   extent_ = read.extent;
   count_ = read.count;
@@ -99,8 +103,7 @@ QString VectorLayer::read(QStringList& warnings, ReadProgress const& progress, R
 }
 
 FeatureStore const& VectorLayer::features() const {
-  QStringList warnings;
-  if (isUnread_) problem_ = read(warnings, {}, ReadDepth::All);
+  if (isUnread_) problem_ = read({}, ReadDepth::All);
   return *store_;
 }
 

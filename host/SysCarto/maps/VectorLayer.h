@@ -47,14 +47,21 @@ public:
 
   /// Reads the source anew. A sentence that says why it could not be read, or empty; what else is to be said of it is
   /// added to `warnings`. Of the schema alone, the features are read once something asks for them: then `problem`
-  /// tells what is wrong with these, and warnings are lost. `mapSystem` as in `Map::GetCoordinateSystem`.
+  /// tells what is wrong with these, and `warnings` what else is to be said. `mapSystem` as in
+  /// `Map::GetCoordinateSystem`.
   QString open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings,
                ReadProgress const& progress = {}, ReadDepth depth = ReadDepth::Features);
 
   SourceSettings const& source() const { return source_; }
 
-  /// Why the source could not be read, as `open` answered it, or the window that was read last.
-  QString const& problem() const;
+  /// Why the source could not be read, as `open` answered it, or what is shown now.
+  QString const& problem() const { return problem_.isEmpty() ? windowProblem_ : problem_; }
+
+  /// As above, of all that was read since it was opened.
+  QString const& failure() const { return problem_.isEmpty() ? failure_ : problem_; }
+
+  /// What else is to be said of the features that were read so far, as sentences.
+  QStringList const& warnings() const { return warnings_; }
 
   /// How much was read of what is being read for views, from 0 to 1; nothing where nothing is.
   std::optional<double> readShare() const;
@@ -115,7 +122,9 @@ public:
                              SysUtility::_ptr_t<SysUI::TrackerCancel> cancel) override;
 
 private:
-  QString read(QStringList& warnings, ReadProgress const& progress, ReadDepth depth) const;
+  QString read(ReadProgress const& progress, ReadDepth depth) const;
+  void keepWarnings(ReadFeatures const& read) const;
+  void takeWindow(ReadFeatures const& read) const;
   FeatureStore const& form() const { return hasWindows() ? *store_ : features(); }
   ThinnedFeatures& thinned() const;
   LabelChoice labelChoice(double unitsPerPoint) const;
@@ -140,7 +149,8 @@ private:
 
   SourceSettings source_;
   QString mapSystem_;
-  mutable QString problem_;
+  mutable QString problem_, windowProblem_, failure_;
+  mutable QStringList warnings_;
   std::shared_ptr<Renderer const> renderer_;  // also of readings on other threads
   LabelSettings labels_;
   LabelObstacle obstacle_ = LabelObstacle::None;
