@@ -7,6 +7,21 @@
 #include <QVector>
 
 #include <algorithm>
+#include <memory>
+
+namespace {
+
+using SysCarto::FeatureStore;
+
+// Has the feature of that key, where there is one. One that is known by its number is found without reading others.
+std::shared_ptr<FeatureStore const> searched(SysCarto::VectorLayer const& layer, QString const& key) {
+  bool isNumber = false;
+  qint64 const number = key.toLongLong(&isNumber);
+  if (isNumber && layer.labelSettings().keyField.isEmpty()) return layer.featuresNumbered({number});
+  return {std::shared_ptr<void>(), &layer.features()};
+}
+
+}  // namespace
 
 std::optional<PinnedLabels> PinnedLabels::read(QString const& key, QString const& text) {
   PinnedLabels read;
@@ -31,8 +46,9 @@ QString PinnedLabels::giveTo(SysCarto::MapDocument const& document, SysCarto::Ed
                              QStringList& warnings) const {
   auto const layer = SysUtility::ptr_cast<SysCarto::VectorLayer>(thing->layer());
   if (!layer) return tr("Only a layer of features has labels; write layer:MAP/LAYER.");
-  auto const& keys = layer->features().keys;
-  if (keys.empty()) return tr("The layer “%1” has no labels; give it some first.").arg(layer->GetName());
+  auto const store = searched(*layer, label.key);
+  auto const& keys = store->keys;
+  if (!store->keepsLabels) return tr("The layer “%1” has no labels; give it some first.").arg(layer->GetName());
   if (!isFree && std::find(keys.begin(), keys.end(), label.key) == keys.end())
     return tr("No feature of the layer “%1” has the key “%2”.").arg(layer->GetName(), label.key);
   QString const problem = SysCarto::Editable::set(

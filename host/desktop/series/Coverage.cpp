@@ -47,7 +47,7 @@ QString textOf(QVariant const& value, QLocale locale) {
   return locale.toString(value.toDouble(), 'g', QLocale::FloatingPointShortest);
 }
 
-Coverage::Coverage() : own_(std::make_unique<SysCarto::FeatureStore>()) {}
+Coverage::Coverage() = default;
 Coverage::~Coverage() = default;
 
 std::unique_ptr<Coverage> Coverage::read(SysCarto::PageLayout const& layout, QString& problem) {
@@ -76,11 +76,18 @@ QString Coverage::open(SysCarto::PageLayout const& layout) {
   filter_ = series.filter;
   QString problem;
   table_ = SysCarto::FeatureTable::open(source_, problem);
+  shapes_ = layer_;
   if (!table_ || layer_) return problem;
-  auto const renderer = SysCarto::makeRenderer(SysCarto::RendererSettings());
-  auto read = SysCarto::readFeatures(source_, map ? map->GetCoordinateSystem() : QString(), *renderer, {});
-  if (read.error.isEmpty()) own_ = std::move(read.store);  // of a table without places nothing can be read
+  shapes_ = SysUtility::make<SysCarto::VectorLayer>(SysCarto::makeRenderer(SysCarto::RendererSettings()));
+  QStringList warnings;
+  shapes_->open(source_, map ? map->GetCoordinateSystem() : QString(), warnings);  // fails for a table without places
   return QString();
+}
+
+SysCarto::FeatureStore const& Coverage::store() const {
+  if (!shapes_->hasWindows()) return shapes_->features();
+  if (!ofPages_) ofPages_ = shapes_->featuresNumbered(features_);
+  return *ofPages_;
 }
 
 QString Coverage::sort(Series const& series) {

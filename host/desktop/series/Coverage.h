@@ -51,8 +51,16 @@ public:
   QStringList filled(QString const& pattern, std::function<QString(QVariant const&)> const& write,
                      QString& problem) const;
 
-  /// Where the features lie, in the units of the series' map; empty for rows of a table.
-  SysCarto::FeatureStore const& store() const { return layer_ ? layer_->features() : *own_; }
+  /// Whether features have places at all, unlike rows of a table.
+  bool hasPlaces() const { return shapes_->hasWindows() || shapes_->features().size() > 0; }
+
+  /// Where the feature of a page lies, in the units of the series' map, and maybe others.
+  std::shared_ptr<SysCarto::FeatureStore const> shapeOf(int page) const {
+    return shapes_->featuresNumbered({feature(page)});
+  }
+
+  /// Where all features that have pages lie, and maybe others.
+  SysCarto::FeatureStore const& store() const;
 
   /// Null where no map has a layer of these.
   SysUtility::_ptr_t<SysCarto::VectorLayer> const& layer() const { return layer_; }
@@ -67,7 +75,8 @@ private:
   SysCarto::SourceSettings source_;
   QString filter_;
   SysUtility::_ptr_t<SysCarto::VectorLayer> layer_;
-  std::unique_ptr<SysCarto::FeatureStore> own_;
+  SysUtility::_ptr_t<SysCarto::VectorLayer> shapes_;  // that layer, or one that no map has
+  mutable std::shared_ptr<SysCarto::FeatureStore const> ofPages_;
   std::unique_ptr<SysCarto::FeatureTable> table_;
   std::vector<qint64> features_;
   std::vector<QString> names_;

@@ -101,7 +101,7 @@ QString SeriesPages::show(int page) {
   shownPage->text = [this](QString const& name, QString const& argument) { return text(name, argument); };
   shownPage->isAmong = [this](QString const& pages) { return isAmong(pages); };
   PageLayoutHost::setShownPage(*layout_, shownPage);
-  if (isPlaced || !follows || coverage_->store().size() == 0) return QString();
+  if (isPlaced || !follows || !coverage_->hasPlaces()) return QString();
   return tr("Page %1 “%2”: its feature has no place that the map could show; leave it out by “series/filter”, or mend "
             "its geometry.")
       .arg(QString::number(page), name(page));
@@ -112,7 +112,7 @@ bool SeriesPages::place(SysCarto::SeriesFrame const& frame) {
   if (!frame.map) return false;
   QString const storeSystem = series.frame.map ? series.frame.map->GetCoordinateSystem() : QString();
   auto const shape =
-      shapeOf(coverage_->store(), coverage_->feature(shown_), storeSystem, frame.map->GetCoordinateSystem());
+      shapeOf(*coverage_->shapeOf(shown_), coverage_->feature(shown_), storeSystem, frame.map->GetCoordinateSystem());
   int const field = frame.rotationField.isEmpty() ? -1 : coverage_->fieldOf(frame.rotationField);
   double const degrees = field < 0 ? MapHost::storedRotation(*frame.map) : row_.value(field).toDouble();
   auto const portion = portionFor(frame, shape, frame.alongLines && field < 0 ? 0 : degrees);
