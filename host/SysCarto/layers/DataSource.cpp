@@ -4,6 +4,7 @@
 #include "LocalDataset.h"
 #include "ServerLayer.h"
 #include "TableLayer.h"
+#include "indexed/SourceIndexes.h"
 
 #include "host/SysCarto/projection/RectangleArea.h"
 
@@ -58,7 +59,7 @@ QString DataSource::refusal(QString const& path) {
 
 struct DataSource::Opened {
   DatasetPointer dataset;                              // of a file
-  std::unique_ptr<OGRLayer> table;                     // of a connection
+  std::unique_ptr<OGRLayer> table;                     // of a connection, or a file's index
   std::vector<std::unique_ptr<DerivedLayer>> derived;  // each of the one before
 };
 
@@ -75,9 +76,10 @@ std::unique_ptr<DataSource> DataSource::open(SourceSettings const& source, QStri
   if (isTable) {
     auto const database = ServerDatabase::open(source.connection, ServerDatabase::Use::Layers, error);
     if (database) opened->table = database->layer(source.layer, error);
-  } else {
-    opened->dataset = isGlobe ? globe() : openLocalDataset(source.file, error);
+  } else if (!isGlobe) {
+    opened->table = SourceIndexes::find(source);
   }
+  if (!isTable && !opened->table) opened->dataset = isGlobe ? globe() : openLocalDataset(source.file, error);
   if (!opened->dataset && !opened->table) return nullptr;
   std::unique_ptr<DataSource> data(new DataSource(std::move(opened)));
   error = data->take(isGlobe ? SourceSettings() : source);

@@ -11,6 +11,7 @@
 #include "host/SysCarto/layers/SourceBounds.h"
 #include "host/SysCarto/layers/SourceWindow.h"
 #include "host/SysCarto/layers/ThinningGrid.h"
+#include "host/SysCarto/layers/indexed/SourceIndexes.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 
@@ -249,8 +250,8 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   FeatureEvaluator const evaluator(layer, renderer, describeSource(source), result.warnings);
   store.keepsLabels = !labels.text.isEmpty();
   store.valuesPerFeature = static_cast<int>(renderer.varied().size());
-  bool const isMarked = renderer.settings().kind == RendererSettings::Kind::Proportional;
   if (query) store.knowLargest(query->largest);
+  bool const isMarked = renderer.settings().kind == RendererSettings::Kind::Proportional;
   ThinningGrid const grid(query ? query->cell : 0);
   if (query && query->cell > 0) {
     result.pack = std::make_unique<FeaturePack>(query->area, query->cell, query->labels);
@@ -289,8 +290,8 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     result.count = knownCount(layer);
   }
   if (depth == ReadDepth::Schema) return;
-  bool isEmpty = true, isNowhere = false;
   SourceBounds bounds = source.connection.isEmpty() ? SourceBounds(source.file) : SourceBounds::ofServer();
+  bool isEmpty = true, isNowhere = false;
   QString unplaced;
   if (result.hasWindows && isReadNow) {
     if (followsLargest(renderer))
@@ -299,6 +300,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     isNowhere = result.extent.isEmpty();
   } else {
     leaveOut(layer, condition, renderer, labels);
+    if (query) readInAnyOrder(layer);  // those of a window are sorted when they are drawn
     Selection selection(layer, query, projector);
     while (OGRFeatureUniquePtr feature = selection.next()) {
       if (!bounds.admits(*feature)) break;
@@ -325,11 +327,34 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     result.warnings << Texts::tr("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
 }
 
+// A large source without an index gets one. What can't have one is read as it is.
+std::unique_ptr<DataSource> withIndex(std::unique_ptr<DataSource> data, ReadTask const& task,
+                                      ReadProgress const& progress, ReadFeatures& result) {
+  SourceSettings const& source = task.source;
+  OGRLayer& layer = data->layer();
+  bool const isMany = knownCount(layer) >= threshold().features || dataSizeOf(source.file) >= threshold().bytes;
+  if (task.depth != ReadDepth::Features || !isMany || !SourceIndexes::isMissing(layer, source)) return data;
+  auto const made = SourceIndexes::make(layer, source, progress);
+  result.wasStopped = made.wasStopped;
+  if (made.wasStopped) return nullptr;
+  if (made.isThere)
+    result.warnings << Texts::tr(
+                           "To read of %1 only what a map shows, it was indexed in “%2”; that is done once, and again "
+                           "where the file changes.")
+                           .arg(describeSource(source), made.folder);
+  else if (!made.problem.isEmpty())
+    result.warnings << Texts::tr("%1 is read whole, since it can't be indexed in “%2”: %3.")
+                           .arg(describeSource(source), made.folder, made.problem);
+  data.reset();
+  return openWatched(source, progress, result.error);
+}
+
 ReadFeatures readTask(ReadTask const& task, QString const& mapSystem, ReadProgress const& progress) {
   SourceSettings const& source = task.source;
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
-  auto const data = openWatched(source, progress, result.error);
+  auto data = openWatched(source, progress, result.error);
+  if (data) data = withIndex(std::move(data), task, progress, result);
   result.wasStopped = !data && result.error.isEmpty();
   if (result.wasStopped) result.error = stopped(source);
   if (!data) return result;

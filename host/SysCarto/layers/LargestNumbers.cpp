@@ -7,6 +7,7 @@
 #include "Renderer.h"
 #include "SourceBounds.h"
 #include "WatchedReading.h"
+#include "indexed/SourceIndexes.h"
 
 #include <ogrsf_frmts.h>
 
@@ -75,6 +76,7 @@ bool followsLargest(Renderer const& renderer) {
 std::vector<double> largestNumbers(OGRLayer& layer, Condition const& condition, Renderer const& renderer,
                                    FeatureEvaluator const& evaluator, SourceBounds const& bounds, ReadWatch& watch) {
   bool const isPlain = !asksForGeometry(condition, renderer);
+  readInAnyOrder(layer);
   ignoreGeometries(layer, isPlain);
   std::vector<Largest> largest = pass(layer, condition, evaluator, isPlain, bounds, watch);
   ignoreGeometries(layer, false);
