@@ -9,7 +9,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "hostile"))
 import make
-from make import document, frame, layer, map_of, marker, one_map
+from parts import document, frame, layer, map_of, marker, one_map
 
 SAMPLES = Path(__file__).resolve().parent.parent.parent / "samples/data"
 CASES = {}
