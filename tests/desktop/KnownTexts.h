@@ -21,6 +21,7 @@ public:
     note(now());
   }
 
+  /// Everywhere, or as in “page/form” in objects of that name alone.
   void leaveOut(QString const& key) { leftOut_ << key; }
 
   /// After something that was done, which may clear the history or not. Operations of the plug-in's commands are steps
@@ -94,19 +95,20 @@ private:
     return QString();
   }
 
-  QJsonValue without(QJsonValue const& value) const {
+  QJsonValue without(QJsonValue const& value, QString const& parent = {}) const {
     if (value.isArray()) {
       QJsonArray kept;
-      for (QJsonValue const& one : value.toArray()) kept.append(without(one));
+      for (QJsonValue const& one : value.toArray()) kept.append(without(one, parent));
       return kept;
     }
     if (!value.isObject()) return value;
     QJsonObject kept;
     QJsonObject const whole = value.toObject();
     for (auto it = whole.begin(); it != whole.end(); ++it) {
-      QJsonValue const one = without(it.value());
+      QJsonValue const one = without(it.value(), it.key());
       bool const isEmpty = one.isObject() && one.toObject().isEmpty();
-      if (!leftOut_.contains(it.key()) && !isEmpty) kept[it.key()] = one;
+      bool const isLeftOut = leftOut_.contains(it.key()) || leftOut_.contains(parent + '/' + it.key());
+      if (!isLeftOut && !isEmpty) kept[it.key()] = one;
     }
     return kept;
   }

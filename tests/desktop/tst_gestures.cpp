@@ -246,9 +246,9 @@ private slots:
           .value(QLatin1String(field));
     };
     page.drag(page.pixel(3.5, 25), page.pixel(5, 25));
+    page.set("grid", 0.5);
     page.layout()->GetPage()->SetOrientation(2);  // no step, and no step takes it back
-    page.run("Host_Undo");
-    page.run("Host_Redo");
+    for (char const* const way : {"Host_Undo", "Host_Undo", "Host_Redo"}) page.run(way);
     QCOMPARE(page.layout()->GetPage()->GetOrientation(), short(2));
     page.layout()->GetPage()->SetOrientation(1);
     QVERIFY(std::abs(guides("verticalGuides").toArray()[0].toDouble() - 5) < 0.06);

@@ -118,7 +118,9 @@ private:
     for (QString const& command : hand.commands()) {
       if (command == "Plotvane_LockDataFrame" || command == "Plotvane_UnlockDataFrame") texts.leaveOut("locked");
       if (command == "Plotvane_AlignToMargins") texts.leaveOut("alignToMargins");
-      if (command == "Plotvane_PageSetting") texts.leaveOut("page");
+      if (command == "Plotvane_PageSetting")
+        for (char const* const size : {"form", "width", "height", "orientation"})
+          texts.leaveOut(QString("page/%1").arg(size));
       clears |=
           QStringList{"Plotvane_PageSetting", "Plotvane_ChangePageLayout", "Host_New", "Host_NewFromData", "Host_Open"}
               .contains(command);

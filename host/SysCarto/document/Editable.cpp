@@ -17,6 +17,7 @@
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysDisplay/SymbolFields.h"
 #include "host/SysUtility/FileSaver.h"
+#include "host/SysUtility/JsonFields.h"
 
 #include <SysCarto/Editor.h>
 #include <SysCarto/MapSurroundFrame.h>
@@ -119,6 +120,30 @@ private:
   ElementHandle const handle_;
 };
 
+template <class Settings>
+QJsonObject valuesOf(Settings settings) {
+  FieldSheet sheet;
+  settings.list(sheet);
+  return SysUtility::wholeObject(sheet.fields());
+}
+
+// What differs between two settings is taken from the second one, all else from what there is now: a command that keeps
+// out of the history may have changed that meanwhile.
+template <class Settings>
+Settings mergedChange(Settings const& from, Settings const& to, Settings const& now) {
+  QJsonObject const before = valuesOf(from), after = valuesOf(to);
+  QJsonObject merged = valuesOf(now);
+  if (merged == before) return to;
+  for (QString const& key : before.keys() + after.keys()) {
+    if (before.value(key) == after.value(key)) continue;
+    merged.remove(key);
+    if (after.contains(key)) merged.insert(key, after.value(key));
+  }
+  Settings settings = to;
+  QString const problem = SysUtility::readJson(SysUtility::withoutNulls(merged).toObject(), settings);
+  return problem.isEmpty() ? settings : to;
+}
+
 // Something that stays where it is.
 template <class Target, class Settings>
 class EditableSettings final : public Editable {
@@ -149,23 +174,22 @@ protected:
     if (reader.ok() && valuesOf(settings) == valuesOf(uses_.of(*target_, context))) return nullptr;
     return [this, settings, context](QString const& step, QStringList& warnings) {
       auto const told = std::make_shared<QStringList>();
-      auto const put = [apply = uses_.apply, context, told](Target& target, Settings const& value) {
+      auto const put = [uses = uses_, context, told](Target& target, Turn const& turn) {
         DocumentContext own = context;
-        apply(target, value, own);
+        uses.apply(target, mergedChange(turn.from, turn.to, uses.of(target, context)), own);
         *told = own.warnings;
       };
-      takeStep(std::make_unique<ValueStep<Target, Settings>>(step, -1, *target_, uses_.of(*target_, context), settings,
-                                                             put));
+      Settings const former = uses_.of(*target_, context);
+      takeStep(std::make_unique<ValueStep<Target, Turn>>(step, -1, *target_, Turn{settings, former},
+                                                         Turn{former, settings}, put));
       warnings += *told;
     };
   }
 
 private:
-  static QJsonObject valuesOf(Settings settings) {
-    FieldSheet sheet;
-    settings.list(sheet);
-    return SysUtility::wholeObject(sheet.fields());
-  }
+  struct Turn {
+    Settings from, to;
+  };
 
   _ptr_t<Target> const target_;
   Uses const uses_;
@@ -238,19 +262,6 @@ bool isOwnThing(Fields::Describe const& list, QString const& key) {
   return (key == QLatin1String("series") || key == QLatin1String("page")) && !fieldAt(sheet.fields(), {key});
 }
 
-template <class Settings>
-Editable::Pointer pageAs(MapDocument const& document) {
-  using EditablePage = EditableSettings<Page, Settings>;
-  auto const layout = document.GetPageLayout();
-  Page* const page = layout ? layout->GetPage() : nullptr;
-  if (!page) return nullptr;
-  return std::make_shared<EditablePage>(
-      SysUtility::retain(page),
-      typename EditablePage::Uses{
-          Texts::tr("the page"), [](Page const& one, DocumentContext const&) { return Settings::of(one); },
-          [](Page& one, Settings const& settings, DocumentContext&) { settings.applyTo(one); }, nullptr});
-}
-
 }  // namespace
 
 Editable::~Editable() = default;
@@ -279,8 +290,17 @@ Editable::Pointer Editable::document(MapDocument const& document) {
           [](PageLayout& one, DocumentSettings const& settings, DocumentContext&) { settings.applyTo(one); }, nullptr});
 }
 
-Editable::Pointer Editable::page(MapDocument const& document) { return pageAs<PageSettings>(document); }
-Editable::Pointer Editable::aids(MapDocument const& document) { return pageAs<PageAidsSettings>(document); }
+Editable::Pointer Editable::page(MapDocument const& document) {
+  using EditablePage = EditableSettings<Page, PageSettings>;
+  auto const layout = document.GetPageLayout();
+  Page* const page = layout ? layout->GetPage() : nullptr;
+  if (!page) return nullptr;
+  return std::make_shared<EditablePage>(
+      SysUtility::retain(page),
+      EditablePage::Uses{
+          Texts::tr("the page"), [](Page const& one, DocumentContext const&) { return PageSettings::of(one); },
+          [](Page& one, PageSettings const& settings, DocumentContext&) { settings.applyTo(one); }, nullptr});
+}
 
 Editable::Pointer Editable::series(MapDocument const& document) {
   using EditableSeries = EditableSettings<PageLayout, SeriesSettings>;

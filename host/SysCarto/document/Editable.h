@@ -41,8 +41,6 @@ public:
   static Pointer document(MapDocument const& document);
   /// Null where the page is missing.
   static Pointer page(MapDocument const& document);
-  /// Its margins, guides and grid alone: a step of these leaves the rest of the page as it is.
-  static Pointer aids(MapDocument const& document);
   /// What the layout says of a series of pages, whether there is one or not; null without a layout.
   static Pointer series(MapDocument const& document);
   static Pointer element(MapDocument const& document, ElementHandle handle);

@@ -180,7 +180,7 @@ void GuideGesture::commit() {
   for (double const one : qAsConst(places)) list.append(one);
   QStringList warnings;
   QString const problem = SysCarto::Editable::set(
-      views_.document(), {SysCarto::Editable::aids(views_.document())},
+      views_.document(), {SysCarto::Editable::page(views_.document())},
       {guide_.orientation == Qt::Vertical ? QStringLiteral("verticalGuides") : QStringLiteral("horizontalGuides")},
       [&](QJsonValue const&) { return QJsonValue(list); }, warnings);
   if (!problem.isEmpty()) emit views_.layoutView().told(problem + QLatin1Char('.'));
