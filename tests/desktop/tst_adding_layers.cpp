@@ -38,6 +38,7 @@ private slots:
     put(path("mixed.geojson"), R"({"type":"FeatureCollection","features":[)" + features + "]}");
     put(path("table.csv"), "id;value\n1;2\n");
     put(path("broken.gpkg"), "nothing");
+    put(path("half.gpkg"), contentOf(world()).left(200000));
     QVERIFY(session_.create());
     before_ = saved();
   }
@@ -96,6 +97,7 @@ private slots:
     Rows<QString, QString> row;
     row("no file", "missing.gpkg", "does not exist");
     row("no data", "broken.gpkg", "none of those that are known");
+    row("half of a file", "half.gpkg", "the format GeoPackage does, and is not whole");
     row("no places", "table.csv", "join it as a table");
     row("no such layer", "points.csv|rivers", "has no layer “rivers”; it has: points");
   }

@@ -197,6 +197,26 @@ QString missing(QString const& path) {
   return QString();
 }
 
+QString nameOf(QString const& driver) {
+  for (DataFormat const& format : formats)
+    if (driver == QLatin1String(format.driver)) return QString::fromUtf8(format.name);
+  return driver;
+}
+
+// Of a file that no driver opens; `name` is what they were given.
+QString whyUnread(QString const& path, QByteArray const& name) {
+  if (QFileInfo(path).size() == 0) return Texts::tr("it is empty");
+  if (hasSuffix(path, "kmz"))
+    return Texts::tr("there is no KML in this archive that can be read; unpack it, and name the file in it");
+  GDALDriverH const driver =
+      name.isEmpty() ? nullptr : GDALIdentifyDriverEx(name.constData(), GDAL_OF_VECTOR, driverNames().data(), nullptr);
+  if (driver)
+    return Texts::tr("it begins as a file of the format %1 does, and is not whole, or damaged; fetch it again")
+        .arg(nameOf(QString::fromUtf8(GDALGetDriverShortName(driver))));
+  if (hasSuffix(path, "zip")) return Texts::tr("there is no Shapefile in this archive");
+  return Texts::tr("its format is none of those that are known (%1)").arg(formatNames());
+}
+
 }  // namespace
 
 QVector<DataFormat> const& dataFormats() { return formats; }
@@ -241,22 +261,13 @@ DatasetPointer openLocalDataset(QString const& path, QString& error) {
     dataset.reset(GDALDataset::Open(name.constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
                                     isArchive ? shapes : drivers.data(), optionsFor(path), nullptr));
   if (dataset) return dataset;
-  QString known = isArchive ? Texts::tr("there is no Shapefile in this archive")
-                            : Texts::tr("its format is none of those that are known (%1)").arg(formatNames());
-  if (hasSuffix(path, "kmz"))
-    known = Texts::tr("there is no KML in this archive that can be read; unpack it, and name the file in it");
-  if (QFileInfo(path).size() == 0) known = Texts::tr("it is empty");
-  if (errors.hasFailure()) known += QLatin1String(" (") + errors.reason() + QLatin1Char(')');
-  error = cannotOpen(path, known);
+  if (errors.hasFailure()) reason = QLatin1String(" (") + errors.reason() + QLatin1Char(')');
+  reason.prepend(whyUnread(path, name));
+  error = cannotOpen(path, reason);
   return nullptr;
 }
 
-QString formatOf(GDALDataset& dataset) {
-  QString const driver = QString::fromUtf8(dataset.GetDriverName());
-  for (DataFormat const& format : formats)
-    if (driver == QLatin1String(format.driver)) return QString::fromUtf8(format.name);
-  return driver;
-}
+QString formatOf(GDALDataset& dataset) { return nameOf(QString::fromUtf8(dataset.GetDriverName())); }
 
 bool isTextTable(GDALDataset& dataset) { return EQUAL(dataset.GetDriverName(), "CSV"); }
 
