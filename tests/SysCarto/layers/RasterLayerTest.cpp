@@ -339,6 +339,10 @@ private slots:
     look.renderer.classes = {{200, Qt::red, "high"}, {0, Qt::blue, {}}};
     layer.setLook(look);
     QCOMPARE(labels(), QString("high 0"));
+    look.renderer.classes = {{0, Qt::blue, {}}, {500, Qt::red, {}}, {200, Qt::green, "middle"}};
+    look.renderer.interpolates = false;
+    layer.setLook(look);
+    QCOMPARE(labels(), QString("≥ 500 middle 0 – 200"));
   }
 };
 

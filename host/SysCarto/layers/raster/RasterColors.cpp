@@ -180,6 +180,15 @@ void RasterColors::paint(SampledPixels const& sampled, std::vector<GroundPixel> 
   }
 }
 
+// The values of a class, for people: of one that holds up to the next, from where to where.
+QString RasterColors::rangeOf(size_t number) const {
+  QString const from = SysUtility::grouped(classes_[number].value);
+  if (settings_.kind == Kind::Palette || settings_.interpolates) return from;
+  return number + 1 == classes_.size()
+             ? QStringLiteral("≥ %1").arg(from)
+             : QStringLiteral("%1 – %2").arg(from, SysUtility::grouped(classes_[number + 1].value));
+}
+
 QList<LegendClass> RasterColors::legend() const {
   QList<LegendClass> classes;
   auto const add = [&](QString const& label, QRgb color) {
@@ -190,8 +199,8 @@ QList<LegendClass> RasterColors::legend() const {
   if (settings_.kind == Kind::Color || settings_.kind == Kind::Hillshade) return classes;
   QString const unit = settings_.kind == Kind::Slope ? QStringLiteral("°") : QString();
   if (!settings_.classes.empty()) {
-    for (RasterClass const& one : classes_)
-      add(one.label.isEmpty() ? SysUtility::grouped(one.value) : one.label, one.color.rgba());
+    for (size_t i = 0; i < classes_.size(); ++i)
+      add(classes_[i].label.isEmpty() ? rangeOf(i) : classes_[i].label, classes_[i].color.rgba());
   } else if (settings_.kind != Kind::Palette) {
     for (double const number : toldNumbers(ranges_[0])) add(SysUtility::grouped(number) + unit, colorOf(number));
   }

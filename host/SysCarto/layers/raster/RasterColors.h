@@ -47,6 +47,7 @@ public:
 
 private:
   QRgb colorOf(double value) const;
+  QString rangeOf(size_t number) const;
   QRgb stepOf(double value) const;
   QRgb reliefAt(SampledPixels const& sampled, QPoint const& place, GroundPixel const& ground) const;
 

@@ -17,6 +17,10 @@ using SysUtility::Unit;
 
 namespace {
 
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(RasterRenderer)
+};
+
 using Kind = RasterRendererSettings::Kind;
 using Stretch = StretchSettings::Kind;
 
@@ -117,7 +121,9 @@ void listClasses(Fields& fields, std::vector<RasterClass>& classes) {
             own, {"color", QT_TRANSLATE_NOOP("Fields", "Colour"), QT_TRANSLATE_NOOP("Fields", "What it is drawn in.")},
             one.color, usualColor);
         own.text({"label", QT_TRANSLATE_NOOP("Fields", "Label"),
-                  QT_TRANSLATE_NOOP("Fields", "What a legend calls it; the value where it is empty.")},
+                  QT_TRANSLATE_NOOP("Fields",
+                                    "What a legend calls it; where it is empty, its value, or from where to where "
+                                    "it reaches.")},
                  one.label, TextKind::Line, QString());
       });
 }
@@ -171,6 +177,9 @@ void RasterRendererSettings::list(Fields& fields) {
                                                                "classes, or each holds up to the next.")},
                                             way, steps, Linear);
                        interpolates = way == Linear;
+                       if (!fields.isReading() && !classes.empty())
+                         for (char const* const key : {"ramp", "stretch"})
+                           fields.remark(key, Texts::tr("The classes stand in for it, so that it does not count."));
                        break;
                      }
                      case Kind::Hillshade:
