@@ -245,7 +245,7 @@ void MainWindow::connectFiles() {
   connect(&bench_.session(), &DocumentSession::modifiedChanged, actions_.get(), &ActionTable::refreshSoon);
   connect(notice_, &NoticeBar::reloadWanted, this, [this] {
     finishTyping();
-    if (files_.reload()) notice_->hide();
+    if (files_.reload()) notice_->tell({}, false);
   });
   connect(notice_, &NoticeBar::keepWanted, &files_, &DocumentFiles::keep);
   bench_.commands().setGuard([this](CommandEntry const& entry) {

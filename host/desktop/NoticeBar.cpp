@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <utility>
+
 NoticeBar::NoticeBar(QWidget* parent)
     : QFrame(parent),
       text_(new QLabel(this)),
@@ -27,10 +29,7 @@ NoticeBar::NoticeBar(QWidget* parent)
   row->addWidget(offer_);
   row->addWidget(keep_);
   connect(reload_, &QPushButton::clicked, this, &NoticeBar::reloadWanted);
-  connect(offer_, &QPushButton::clicked, this, [this] {
-    hide();
-    offered_();
-  });
+  connect(offer_, &QPushButton::clicked, this, &NoticeBar::takeOffer);
   connect(keep_, &QPushButton::clicked, this, &NoticeBar::hide);
   connect(keep_, &QPushButton::clicked, this, &NoticeBar::keepWanted);
   hide();
@@ -39,16 +38,30 @@ NoticeBar::NoticeBar(QWidget* parent)
 NoticeBar::~NoticeBar() = default;
 
 void NoticeBar::tell(QString const& text, bool canReload) {
-  text_->setText(text);
-  reload_->setVisible(canReload);
-  offer_->hide();
-  keep_->setText(canReload ? tr("Keep") : tr("Close"));  // where nothing was changed outside there is nothing to keep
-  show();
+  if (isHidden()) offered_ = {};
+  told_ = text;
+  canReload_ = canReload;
+  showAll();
 }
 
 void NoticeBar::offer(QString const& text, QString const& button, std::function<void()> const& accept) {
-  tell(isHidden() ? text : text_->text() + QLatin1Char('\n') + text, false);
-  offered_ = accept;
-  offer_->setText(button);
-  offer_->show();
+  if (isHidden()) told_.clear();
+  offered_ = {text, button, accept};
+  showAll();
+}
+
+void NoticeBar::showAll() {
+  bool const isTold = !told_.isEmpty(), isOffered = static_cast<bool>(offered_.accept);
+  text_->setText(told_ + (isTold && isOffered ? QStringLiteral("\n") : QString()) + offered_.text);
+  reload_->setVisible(isTold && canReload_);
+  offer_->setText(offered_.button);
+  offer_->setVisible(isOffered);
+  keep_->setText(reload_->isHidden() ? tr("Close") : tr("Keep"));  // where nothing was changed there is nothing to keep
+  setVisible(isTold || isOffered);
+}
+
+void NoticeBar::takeOffer() {
+  Offer const offer = std::exchange(offered_, {});
+  showAll();
+  offer.accept();
 }

@@ -16,9 +16,10 @@ public:
   explicit NoticeBar(QWidget* parent);
   ~NoticeBar() override;
 
+  /// In place of what was told before, above what is offered.
   void tell(QString const& text, bool canReload);
 
-  /// Below what is told already. With a button that does what is offered, and closes the line.
+  /// In place of what was offered before, below what is told. With a button that does it.
   void offer(QString const& text, QString const& button, std::function<void()> const& accept);
 
 signals:
@@ -26,9 +27,21 @@ signals:
   void keepWanted();
 
 private:
+  struct Offer {
+    QString text, button;
+    std::function<void()> accept;
+  };
+
+  void showAll();
+  void takeOffer();
+
+  // What the line shows; worth nothing while it is hidden.
+  QString told_;
+  bool canReload_ = false;
+  Offer offered_;
+
   QLabel* text_;
   QPushButton* reload_;
   QPushButton* offer_;
   QPushButton* keep_;
-  std::function<void()> offered_;
 };

@@ -143,8 +143,15 @@ private slots:
     {
       MainWindow window;
       QVERIFY(tells(window));
+      auto* const notice = window.findChild<NoticeBar*>();
+      notice->tell("Something else.", true);
+      notice->tell("Something more.", false);
+      QString const text = window.findChild<QLabel*>("label_Notice")->text();
+      QVERIFY(text.startsWith("Something more.\n") && text.contains(folder_.filePath("data")));
       window.findChild<QPushButton*>("pushButton_Offer")->click();
-      QVERIFY(!window.findChild<NoticeBar*>()->isVisibleTo(&window));
+      QCOMPARE(window.findChild<QLabel*>("label_Notice")->text(), QString("Something more."));
+      window.findChild<QPushButton*>("pushButton_Keep")->click();
+      QVERIFY(!notice->isVisibleTo(&window));
     }
     {
       MainWindow window;
