@@ -115,8 +115,9 @@ QString unknownField(QVector<SheetField> const& fields, QStringList const& path)
   QStringList known;
   for (SheetField const& field : parent && parent->info.kind == FieldInfo::Kind::Object ? parent->fields : fields)
     known << field.key();
-  return Fields::tr("there is no field “%1”; there are %2")
-      .arg(path.join(QLatin1Char('/')), known.join(QStringLiteral(", ")));
+  QString const name = path.join(QLatin1Char('/'));
+  if (known.isEmpty()) return Fields::tr("there is no field “%1”").arg(name);
+  return Fields::tr("there is no field “%1”; there are %2").arg(name, known.join(QStringLiteral(", ")));
 }
 
 }  // namespace

@@ -33,11 +33,9 @@ QString problem(QString const& path, QString const& cause, QString const& fix) {
 
 bool takesNewFiles(QString const& folder) { return access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0; }
 
-QString closedFolder(QString const& path, QString const& folder) {
-  return problem(
-      path,
-      Texts::tr("the folder %1 can't be written (%2)").arg(QDir::toNativeSeparators(folder), qt_error_string(errno)),
-      Texts::tr("choose another"));
+QString closedFolder(QString const& path, QString const& folder, QString const& reason) {
+  return problem(path, Texts::tr("the folder %1 can't be written (%2)").arg(QDir::toNativeSeparators(folder), reason),
+                 Texts::tr("choose another"));
 }
 
 // Some file systems can't synchronise, and say so with EINVAL.
@@ -176,8 +174,7 @@ std::optional<QString> saveUnnamed(QString const& path, QString const& real, QBy
 
 QString saveNamed(QString const& path, QString const& real, QByteArray const& content, QStringList& lost) {
   QSaveFile file(real);
-  if (!file.open(QIODevice::WriteOnly))
-    return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
+  if (!file.open(QIODevice::WriteOnly)) return closedFolder(path, QFileInfo(real).absolutePath(), file.errorString());
   QString const trouble = fill(file, path, real, content, lost);
   if (!trouble.isEmpty() || file.commit()) return trouble;
   return problem(path, file.errorString(), Texts::tr("choose a place where you may write"));
@@ -227,7 +224,7 @@ QString FileSaver::save(QString const& path, QByteArray const& content, QString*
 QString FileSaver::checkFolder(QString const& path) {
   QString const obstacle = checkPlace(path);
   QString const folder = QFileInfo(realPath(path)).absolutePath();
-  return !obstacle.isEmpty() || takesNewFiles(folder) ? obstacle : closedFolder(path, folder);
+  return !obstacle.isEmpty() || takesNewFiles(folder) ? obstacle : closedFolder(path, folder, qt_error_string(errno));
 }
 
 // Of a link, what it leads to.
@@ -244,7 +241,7 @@ QString FileSaver::checkPlace(QString const& path) {
   if (!isThere && errno != ENOENT) return problem(path, qt_error_string(errno), Texts::tr("choose another name"));
   if (isThere && !S_ISREG(status.st_mode))
     return problem(path, Texts::tr("this is no ordinary file"), Texts::tr("choose another name"));
-  if (!isThere && !takesNewFiles(folder)) return closedFolder(path, folder);
+  if (!isThere && !takesNewFiles(folder)) return closedFolder(path, folder, qt_error_string(errno));
   if (isThere && !file.isWritable())
     return problem(path, Texts::tr("this file is write-protected"), Texts::tr("choose another name, or unlock it"));
   return QString();
