@@ -3,7 +3,7 @@
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/desktop/newmap/NewMap.h"
-#include "host/desktop/styling/DataSurvey.h"
+#include "host/desktop/styling/LayerStyling.h"
 #include "host/desktop/styling/MapColors.h"
 #include "host/desktop/styling/ProjectionChoice.h"
 
@@ -116,6 +116,19 @@ QString makeData(QString const& path, std::vector<MadeFeature> const& features, 
   return path;
 }
 
+// Eight rows of eight squares at whole degrees.
+QString makeSquares(QString const& path, double side) {
+  std::vector<QByteArray> texts;
+  for (int i = 0; i < 64; ++i) {
+    int const x = i % 8, y = i / 8;
+    texts.push_back(
+        QStringLiteral("POLYGON((%1 %2,%3 %2,%3 %4,%1 %4,%1 %2))").arg(x).arg(y).arg(x + side).arg(y + side).toUtf8());
+  }
+  std::vector<MadeFeature> squares;
+  for (int i = 0; i < 64; ++i) squares.push_back({texts[i].constData(), QStringLiteral("Square %1").arg(i), double(i)});
+  return makeData(path, squares);
+}
+
 // A raster of 40 × 40 pixels of 100 m whose values rise from one corner.
 QString makeRaster(QString const& path, GDALDataType type, int bands, double from) {
   GDALAllRegister();
@@ -195,16 +208,7 @@ private slots:
 
   // 8 by 8 squares and what goes across the antimeridian.
   void areasAndTheirNeighbours() {
-    std::vector<MadeFeature> squares;
-    std::vector<QByteArray> texts;
-    for (int i = 0; i < 64; ++i) {
-      int const x = i % 8, y = i / 8;
-      texts.push_back(
-          QStringLiteral("POLYGON((%1 %2,%3 %2,%3 %4,%1 %4,%1 %2))").arg(x).arg(y).arg(x + 1).arg(y + 1).toUtf8());
-    }
-    for (int i = 0; i < 64; ++i)
-      squares.push_back({texts[i].constData(), QStringLiteral("Square %1").arg(i), double(i)});
-    LayerSurvey const survey = surveyOf(makeData(path("squares.gpkg"), squares));
+    LayerSurvey const survey = surveyOf(makeSquares(path("squares.gpkg"), 1));
     QCOMPARE(survey.count, 64);
     auto const groups = groupsOfNeighbours(survey, "name", 5);
     QHash<QString, int> groupOf;
@@ -349,6 +353,20 @@ private slots:
   }
 
   // The areas of the same layer are far larger than its points.
+  void outlinesLeaveSmallAreasTheirColour() {
+    auto const widthFor = [&](double side) {
+      LayerStyling styling(400, GlobeArea());
+      QString const file = makeSquares(path(QStringLiteral("squares-%1.gpkg").arg(side)), side);
+      QJsonObject const renderer = styling.style({surveyOf(file)}).at(0).json["renderer"].toObject();
+      QJsonValue const first = renderer.contains("classes") ? renderer["classes"][0] : QJsonValue(renderer);
+      return first["symbol"]["outline"]["width"].toDouble();
+    };
+    QVERIFY(widthFor(1) > 0.3);
+    double const fine = widthFor(0.02);  // which are 0.5 mm wide on the page
+    QVERIFY2(fine > 0.1 && fine < 0.2, qPrintable(QString::number(fine)));
+    QCOMPARE(widthFor(0.01), 0.0);
+  }
+
   void pointsAreSizedByTheirOwnNumbers() {
     std::vector<QByteArray> texts;
     for (int i = 0; i < 40; ++i)

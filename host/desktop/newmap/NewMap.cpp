@@ -45,6 +45,7 @@ namespace {
 constexpr double margin = 0.04;                          // of the extent, on each side
 QLatin1String const mark("the map that is being made");  // its name until it is found among those of a template
 constexpr double globeMargin = 0.005;
+constexpr double square = 1.05;       // the ratio of the sides up to which an area counts as one
 constexpr double leastMetres = 2000;  // that a map shows, of a single place
 
 Box boxOf(VectorLayer const& layer, bool hasOutliers) {
@@ -205,15 +206,16 @@ bool NewMap::choosePage() {
   SysGeometry::Box plain;
   for (LayerSurvey const& layer : surveys_) plain.add(layer.box);
   bool const isPlain = system_.definition.isEmpty() && plain.xmin <= plain.xmax;
-  bool const isBroad = isPlain           ? plain.xmax - plain.xmin > plain.ymax - plain.ymin
-                       : shape.isValid() ? shape.width() > 1.05 * shape.height()
-                                         : true;
+  QSizeF const size = isPlain ? QSizeF(plain.xmax - plain.xmin, plain.ymax - plain.ymin) : shape.size();
+  bool const isBroad = isPlain || shape.isValid() ? size.width() > square * size.height() : true;
+  bool const isHigh = !isBroad && size.height() > square * size.width();
   if (request_.isLandscape.value_or(isBroad) != (page_.width() > page_.height())) page_.transpose();
   if (template_ || !(place_.isKnown || isPlain)) return true;
   QString const lies = page_.width() > page_.height() ? tr("landscape") : tr("portrait");
   explain(tr("Page %1, %2").arg(wanted, lies), request_.isLandscape ? tr("As asked for.")
                                                : isBroad            ? tr("The data are broader than high.")
-                                                                    : tr("The data are higher than broad."));
+                                               : isHigh             ? tr("The data are higher than broad.")
+                                                                    : tr("The data are about as broad as high."));
   return true;
 }
 

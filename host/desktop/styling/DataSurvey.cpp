@@ -105,10 +105,21 @@ public:
     GlobeArea const area = survey.extent.isEmpty() ? GlobeArea() : survey.extent.area();
     double const wholeKm2 = system_ ? area.widthKm() * area.heightKm() : squareKm(survey.box, nullptr);
     if (wholeKm2 > 0) survey.covered = coveredKm2_ / wholeKm2;
+    survey.typical = typicalShare(survey.box);
   }
 
 private:
   using Box = SysGeometry::Box;
+
+  double typicalShare(Box const& whole) const {
+    std::vector<double> sizes;
+    for (Box const& box : sample_.boxes())
+      if (double const size = (box.xmax - box.xmin) * (box.ymax - box.ymin); size > 0) sizes.push_back(size);
+    if (sizes.empty()) return 1;
+    auto const middle = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() / 2);
+    std::nth_element(sizes.begin(), middle, sizes.end());
+    return std::min(1.0, *middle / ((whole.xmax - whole.xmin) * (whole.ymax - whole.ymin)));
+  }
 
   void addTransformed(Box const& box, GlobeExtent& extent) const {
     auto const globe = SysCarto::globeOf(*system_);

@@ -51,6 +51,7 @@ struct LayerSurvey {
   SysGeometry::Box box;                      ///< in the source's coordinate system
   double largestKm2 = 0;                     ///< about the largest feature, as of `DrawingOrder`
   double covered = 1;                        ///< which part of the extent areas cover, about
+  double typical = 1;                        ///< which part of the box that about a feature in the middle of all takes
   std::vector<FieldSurvey> fields;
 
   FieldSurvey const* field(QString const& name) const;

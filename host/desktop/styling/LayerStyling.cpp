@@ -35,7 +35,8 @@ struct Texts {
 constexpr int maxClasses = 8;
 constexpr int maxColoured = 600;  // areas that get a colour each, so that neighbours differ
 constexpr int maxLabelledBuildings = 300;
-constexpr int maxBeside = 100;  // scattered areas that have their names beside them
+constexpr int maxBeside = 100;        // scattered areas that have their names beside them
+constexpr double leastOutline = 0.1;  // points: a finer line is not printed
 constexpr int rampClasses = 5, sizeClasses = 4;
 
 struct KindRow {
@@ -91,11 +92,25 @@ struct Material {
   double fineness = finenessOf(density(), rowOf(kind));  // 1 for what has room, less for what is crowded
 
   double density() const { return std::max(survey.count / pageCm2, 1e-6); }  // features on a square centimetre
+
+  // Half of an outline lies in the area, and a broad one leaves little of a small area's colour.
+  double mostOutline() const {
+    constexpr double pointsPerCm = 72 / 2.54, partOfSide = 0.1;
+    return partOfSide * std::sqrt(survey.typical * pageCm2) * pointsPerCm;
+  }
+  bool hasRoomForOutlines() const { return mostOutline() >= leastOutline; }
+  QJsonObject fitted(QJsonObject symbol) const {
+    QJsonObject outline = symbol.take("outline").toObject();
+    if (outline.isEmpty() || !hasRoomForOutlines()) return symbol;
+    outline["width"] = std::clamp(outline.value("width").toDouble(), leastOutline, mostOutline());
+    symbol["outline"] = outline;
+    return symbol;
+  }
   QJsonObject plain(char const* color) const {
     switch (kind) {
       case GeometryKind::Points: return markerSymbol(color, 1.6 + 3.4 * fineness, "#ffffff", fineness > 0.3 ? 0.4 : 0);
       case GeometryKind::Lines: return lineSymbol(color, 0.3 + 0.9 * fineness);
-      default: return fillSymbol(color, MapColors::border, std::max(0.2, 0.35 * fineness));
+      default: return fitted(fillSymbol(color, MapColors::border, std::max(0.2, 0.35 * fineness)));
     }
   }
 };
@@ -294,7 +309,7 @@ Symbolized lookOf(Material const& of, FieldSurvey const* names, FieldSurvey cons
   if (!look && kinds && of.theme.subject == Subject::Unknown && kinds->distinct() <= 3 * maxClasses)
     look = byKind(of, *kinds);
   if (look) return *look;
-  QJsonObject const symbol = of.theme.symbol(of.kind, of.fineness);
+  QJsonObject const symbol = of.fitted(of.theme.symbol(of.kind, of.fineness));
   return symbol.isEmpty() ? Symbolized{simple(of.plain(color)), Texts::tr("in one colour"), !isDivided}
                           : Symbolized{simple(symbol), Texts::tr("drawn as its name says"), !isDivided};
 }
@@ -354,6 +369,7 @@ std::vector<StyledLayer> LayerStyling::styleRaster(LayerSurvey const& survey) {
   QJsonObject stored{{"file", source.file}};
   if (!table.isEmpty()) stored.insert("layer", table);
   if (!source.coordinateSystem.isEmpty()) stored.insert("coordinateSystem", source.coordinateSystem);
+  bool const isSlow = RasterStyling::isSlow(*raster);
   for (RasterLook const& look : RasterStyling::looksOf(*raster)) {
     StyledLayer styled;
     QString const name = forPeople(source.layer);
@@ -363,6 +379,9 @@ std::vector<StyledLayer> LayerStyling::styleRaster(LayerSurvey const& survey) {
     styled.isLegendWorthy = look.isLegendWorthy;
     styled.outliers = 0;
     styled.reasons << look.reason;
+    if (isSlow)
+      styled.reasons << Texts::tr(
+          "has no overviews, so that a picture of all of it takes long; make them, as by gdaladdo");
     styled.json = {{"type", "raster"},
                    {"name", styled.name},
                    {"source", stored},
@@ -424,6 +443,8 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
   styled.isLegendWorthy = look.isLegendWorthy;
   styled.isLand = isLand;
   styled.reasons << look.reason;
+  if (isArea && !of.hasRoomForOutlines())
+    styled.reasons << Texts::tr("without outlines, for which most of its areas are too small");
   for (QString const& color : colorsIn(look.renderer)) ++uses_[color];
   styled.json = {{"type", "feature"},
                  {"name", styled.name},

@@ -103,3 +103,9 @@ std::vector<RasterLook> RasterStyling::looksOf(SysCarto::RasterSource const& ras
     return {picture(raster, {numberOf(Meaning::Red, 1), numberOf(Meaning::Green, 2), numberOf(Meaning::Blue, 3)})};
   return bands.front().isByte ? std::vector<RasterLook>{picture(raster, {1, 1, 1})} : heights(raster);
 }
+
+bool RasterStyling::isSlow(SysCarto::RasterSource const& raster) {
+  constexpr double many = 5e7;
+  QSizeF const size = raster.size();
+  return size.width() * size.height() > many && raster.levelFor(std::max(size.width(), size.height())).overview < 0;
+}

@@ -23,4 +23,7 @@ namespace RasterStyling {
 /// others are taken for heights.
 std::vector<RasterLook> looksOf(SysCarto::RasterSource const& raster);
 
+/// Whether the file is so large, and without overviews, that a person should know.
+bool isSlow(SysCarto::RasterSource const& raster);
+
 }  // namespace RasterStyling
