@@ -226,6 +226,7 @@ public:
 
 private:
   static QString formatted(QJsonValue const& rectangle, int decimals);
+  static QString labels(QJsonObject const& count);
 
   // The JSON is for programs and has the word in English.
   static QString word(QJsonValue const& english) { return tr(english.toString().toLatin1().constData()); }
@@ -282,6 +283,13 @@ QString ReportText::files(QJsonArray const& files) {
   return files.isEmpty() ? QString() : tr("Files: %1").arg(files.size()) + QLatin1Char('\n') + table(rows);
 }
 
+QString ReportText::labels(QJsonObject const& count) {
+  return count.isEmpty() ? QString()
+                         : tr("%1 of %2 labels placed")
+                               .arg(count[QStringLiteral("placed")].toInt())
+                               .arg(count[QStringLiteral("wanted")].toInt());
+}
+
 QString ReportText::map(QJsonObject const& map) {
   QVector<QStringList> rows;
   for (QJsonValue const& value : map[QStringLiteral("layers")].toArray()) {
@@ -291,7 +299,7 @@ QString ReportText::map(QJsonObject const& map) {
     path << layer[QStringLiteral("name")].toString();
     rows.append({word(layer[QStringLiteral("kind")]),
                  layer[QStringLiteral("visible")].toBool() ? tr("shown") : tr("hidden"),
-                 path.join(QStringLiteral(" / "))});
+                 path.join(QStringLiteral(" / ")), labels(layer[QStringLiteral("labels")].toObject())});
   }
   QString name = map[QStringLiteral("name")].toString();
   if (map[QStringLiteral("focus")].toBool()) name += tr(" (focus)");

@@ -111,7 +111,7 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
   parser.addOption(json);
   QCommandLineOption const labels(
       QStringLiteral("labels"),
-      Texts::tr("With --json, tell of each layer how many of its labels find a place. It reads all features."));
+      Texts::tr("Tell of each layer how many of its labels find a place. It reads all features."));
   parser.addOption(labels);
   if (auto const settled = parseArguments(self, parser, arguments)) return *settled;
 

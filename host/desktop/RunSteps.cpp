@@ -4,6 +4,7 @@
 #include "DocumentLock.h"
 #include "DocumentReport.h"
 #include "NumberList.h"
+#include "StepField.h"
 #include "drawing/NewElements.h"
 #include "drawing/TurnGesture.h"
 #include "layers/AttributeReport.h"
@@ -60,40 +61,20 @@ bool isCalled(SysCarto::Element const& element, QString const& name) {
 
 QString const layerPrefix = QStringLiteral("layer:");
 
-// WHAT/FIELD…:VALUE; what a layer is called has two parts, and map: and layer: come before a name.
-struct FieldText {
-  QString what;
-  QStringList path;
-  QString value;  // null without a colon
-
-  static FieldText of(QString const& text) {
-    static QStringList const prefixes{QStringLiteral("map:"), QStringLiteral("layer:")};
-    QString prefix;
-    for (QString const& known : prefixes)
-      if (text.startsWith(known)) prefix = known;
-    int const colon = text.indexOf(QLatin1Char(':'), prefix.size());
-    QString const address = colon < 0 ? text : text.left(colon);
-    int const parts = prefix == prefixes.last() ? 2 : 1;
-    return {address.section(QLatin1Char('/'), 0, parts - 1),
-            address.section(QLatin1Char('/'), parts).split(QLatin1Char('/'), Qt::SkipEmptyParts),
-            colon < 0 ? QString() : text.mid(colon + 1).append(QLatin1String(""))};
-  }
-};
-
 bool isSetting(QString const& text) {
-  FieldText const field = FieldText::of(text);
+  StepField const field = StepField::of(text);
   return !field.what.isEmpty() && !field.path.isEmpty() && !field.value.isNull();
 }
 
-std::optional<PinnedLabels> pinIn(FieldText const& field) {
+std::optional<PinnedLabels> pinIn(StepField const& field) {
   return PinnedLabels::read(field.path.join(QLatin1Char('/')), field.value);
 }
-bool isPin(QString const& text) { return isSetting(text) && pinIn(FieldText::of(text)); }
+bool isPin(QString const& text) { return isSetting(text) && pinIn(StepField::of(text)); }
 
 // Why what stands in the right form has no meaning all the same, whatever the document is.
 QString unclearClasses(QString const& text) {
   SysCarto::ClassifySettings settings;
-  return LayerClasses::read(FieldText::of(text).value, settings);
+  return LayerClasses::read(StepField::of(text).value, settings);
 }
 QString unclearExtent(QString const& text) {
   auto const side = numbersIn(text);
@@ -382,22 +363,17 @@ QString RunSteps::withThings(QString const& what, std::function<QString(SysCarto
 }
 
 QString RunSteps::setField(QString const& text) {
-  FieldText const field = FieldText::of(text);
+  StepField const field = StepField::of(text);
   return withThings(field.what, [&](SysCarto::Editable::List const& things) {
-    auto const& document = bench_.session().document();
-    auto const sheet = SysCarto::Editable::fields(document, {things.first()});
-    SheetField const* const known = SysUtility::fieldAt(sheet.first(), field.path);
-    QJsonValue const value = SysUtility::valueOf(field.value, known);
     QStringList warnings;
-    QString const problem = SysCarto::Editable::set(
-        document, things, field.path, [&](QJsonValue const&) { return value; }, warnings);
+    QString const problem = field.giveTo(bench_.session().document(), things, warnings);
     for (QString const& warning : qAsConst(warnings)) Console::complain(warning);
-    return problem.isEmpty() ? problem : problem + QLatin1Char('.');
+    return problem;
   });
 }
 
 QString RunSteps::classify(QString const& text) {
-  FieldText const field = FieldText::of(text);
+  StepField const field = StepField::of(text);
   SysCarto::ClassifySettings wanted;
   wanted.field = field.path.join(QLatin1Char('/'));
   LayerClasses::read(field.value, wanted);
@@ -412,7 +388,7 @@ QString RunSteps::classify(QString const& text) {
 }
 
 QString RunSteps::pinLabel(QString const& text) {
-  FieldText const field = FieldText::of(text);
+  StepField const field = StepField::of(text);
   return withThings(field.what, [&](SysCarto::Editable::List const& layers) {
     QStringList warnings;
     QString const problem = pinIn(field)->giveTo(bench_.session().document(), layers.first(), warnings);
@@ -422,7 +398,7 @@ QString RunSteps::pinLabel(QString const& text) {
 }
 
 QString RunSteps::getField(QString const& text) {
-  FieldText const field = FieldText::of(text);
+  StepField const field = StepField::of(text);
   return withThings(field.what, [&](SysCarto::Editable::List const& things) {
     for (auto const& sheet : SysCarto::Editable::fields(bench_.session().document(), things)) {
       SheetField const* const found = SysUtility::fieldAt(sheet, field.path);
@@ -467,7 +443,7 @@ QString RunSteps::identify(QString const& place) {
 }
 
 QString RunSteps::attributes(QString const& text) {
-  FieldText const named = FieldText::of(text);
+  StepField const named = StepField::of(text);
   return reportAttributes(bench_.session().document(), named.what.mid(layerPrefix.size()), named.value,
                           [](QJsonObject const& row) { Console::print(SysUtility::jsonLine(row)); });
 }

@@ -96,6 +96,10 @@ private slots:
     row("an image in the document's place", "info answer=lineEdit_OutputPath:two.kdx Plotvane_Export", 1,
         "is the document itself");
     row("an image over data of the page", "info answer=lineEdit_OutputPath:drawn.png Plotvane_Export", 1, "drawn from");
+    row("a folder that takes no files", "save=/proc/out.kdx", 1, "the folder /proc can't be written");
+    row("a filter that is not understood",
+        "add=layer:" PLOTVANE_SOURCE_DIR "/samples/data/world.gpkg|cities set=layer:#0/#0/source/filter:name=", 1,
+        "not understood");
     row("a pipe", "save=pipe.kdx", 1, "no ordinary file");
     row("a folder for an image", "answer=lineEdit_OutputPath:. Plotvane_Export", 1, "is a folder");
     row("an unknown method", "classify=layer:Countries/Towns/name:jenks", 2, "the method is one of equal");
