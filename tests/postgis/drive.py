@@ -10,20 +10,20 @@ import glob
 import json
 import os
 import pwd
+import re
 import shutil
 import signal
 import socket
-import struct
 import subprocess
 import sys
 import tempfile
 import time
-import zlib
 
 EXECUTABLE = os.path.abspath(sys.argv[1])
 SKIPPED = 77
 PLACES = 2500  # more than come in one batch
-TIMEOUT_S = 2
+ELSEWHERE = 60000  # so that a table is large
+TIMEOUT_S = 1
 problems = []
 
 
@@ -33,7 +33,7 @@ def check(condition, claim, seen=""):
 
 
 class Server:
-    """It listens at a socket alone, and logs each statement."""
+    """It listens at a socket and at a port of this computer alone, and logs each statement."""
 
     def __init__(self, folder, programs):
         self.folder, self.programs = folder, programs
@@ -42,10 +42,14 @@ class Server:
         self.how = {"user": owner} if owner else {}
         if owner:
             os.chown(folder, pwd.getpwnam(owner).pw_uid, -1)
+        with socket.socket() as free:
+            free.bind(("127.0.0.1", 0))
+            self.port = str(free.getsockname()[1])
         self.run("initdb", "-D", self.data, "-U", "owner", "-A", "trust", "-E", "UTF8", "--no-sync", "--no-locale")
         with open(os.path.join(self.data, "pg_hba.conf"), "w") as rules:
-            rules.write("local all reader scram-sha-256\nlocal all all trust\n")
-        options = f"-k {folder} -c listen_addresses='' -c fsync=off -c log_connections=on -c log_statement=all"
+            rules.write("local all all trust\nhost all reader 127.0.0.1/32 scram-sha-256\n")
+        options = (f"-k {folder} -c listen_addresses=127.0.0.1 -p {self.port} -c fsync=off -c log_connections=on "
+                   "-c log_statement=all")
         self.run("pg_ctl", "-D", self.data, "-l", self.log, "-o", options, "-w", "start")
 
     def run(self, program, *arguments):
@@ -53,7 +57,8 @@ class Server:
                        stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, **self.how)
 
     def sql(self, text, database="city"):
-        done = subprocess.run(["psql", "-XqAt", "-v", "ON_ERROR_STOP=1", "-h", self.folder, "-U", "owner", database],
+        done = subprocess.run(["psql", "-XqAt", "-v", "ON_ERROR_STOP=1", "-h", self.folder, "-p", self.port, "-U",
+                               "owner", database],
                               input=text, capture_output=True, text=True)
         if done.returncode != 0:
             raise RuntimeError(done.stderr)
@@ -73,19 +78,61 @@ def places():
         yield i + 1, f"place {i % 7}", (i % 50) * 0.1 - 2.5, (i // 50) * 0.08 + 45
 
 
+COLUMNS = {"small": "smallint", "large": "bigint", "short": "real", "long": "double precision", "exact": "numeric",
+           "flag": "boolean", "name": "text", "kind": "varchar(20)"}
+VALUES = [(1, 9007199254740993, 0.1, 0.1, 12.5, True, "Zürich", "12:00:00+00"),
+          (-5, -3, 16777216.0, 1e300, 1e-30, False, "zürich", "it's"),
+          (None, None, None, None, None, None, None, None),
+          (7, 2, -0.5, 2.5, 7, True, "ZÜRICH", "a\\b"),
+          (32767, 0, 3.3, -0.0, 0.1, False, "", "A B")]
+CONDITIONS = ["small = 1", "small < 2", "2 > small", "small >= 7.0", "small BETWEEN -5 AND 1", "small IN (7, 32767)",
+              "small IS NULL", "NOT (small IS NULL)", "NOT (small = 1)", "small <> 1", "large = 9007199254740993",
+              "large = 9007199254740992.0", "large < 1e20", "short = 0.1", "short > 3.2", "short <= 3.3", "long = 0.1",
+              "long = 1e300", "long >= 0", "exact = 0.1", "exact = 1e-30", "exact < 12.5", "exact > 12.4999999",
+              "flag = 1", "flag = 0", "name = 'zürich'", "name = 'ZÜRICH'", "name IN ('ZüRICH', '')", "name = ''",
+              "name < 'a'", "name LIKE 'z%'", "kind = '12:00:00'", "kind = 'IT''S'", "kind = 'a\\b'",
+              "kind IN ('a b', 'x')", "small = 1 OR name = 'ZÜRICH'", "small = 1 OR name LIKE 'z%'",
+              "small > 0 AND name LIKE 'z%'", "(small > 0 OR small IS NULL) AND NOT (exact = 7)", "small = large - 10",
+              "name IS NULL AND small IS NULL", "kind = name", "FID = 2"]
+
+
+def kinds_of_values():
+    def written(value):
+        return "NULL" if value is None else "'" + str(value).replace("'", "''") + "'"
+    columns = ", ".join(f"{name} {kind}" for name, kind in COLUMNS.items())
+    rows = ", ".join(f"({i}, {', '.join(map(written, row))}, 'SRID=4326;POINT({i} 46)')"
+                     for i, row in enumerate(VALUES))
+    return (f"CREATE TABLE kinds (id integer PRIMARY KEY, {columns}, geom geometry(Point, 4326));"
+            f"INSERT INTO kinds VALUES {rows};")
+
+
 def write_data(server, folder):
+    values = [{"type": "Feature", "id": i, "properties": dict(zip(COLUMNS, row)),
+               "geometry": {"type": "Point", "coordinates": [i, 46]}} for i, row in enumerate(VALUES)]
+    with open(os.path.join(folder, "kinds.geojson"), "w") as file:
+        json.dump({"type": "FeatureCollection", "features": values}, file)
     features = [{"type": "Feature", "properties": {"id": i, "name": name},
                  "geometry": {"type": "Point", "coordinates": [x, y]}} for i, name, x, y in places()]
     with open(os.path.join(folder, "places.geojson"), "w") as file:
         json.dump({"type": "FeatureCollection", "features": features}, file)
     rows = "".join(f"{i}\t{name}\tSRID=4326;POINT({x!r} {y!r})\n" for i, name, x, y in places())
     server.sql("CREATE DATABASE city", "postgres")
-    server.sql("CREATE EXTENSION postgis;"
+    # PostGIS lies where only the owner of the tables looks for it.
+    server.sql("CREATE SCHEMA gis; CREATE EXTENSION postgis SCHEMA gis; SET search_path = public, gis;"
                "CREATE TABLE places (id integer PRIMARY KEY, name text, geom geometry(Point, 4326));"
                "CREATE TABLE secrets (id integer PRIMARY KEY, geom geometry);"
+               "CREATE TABLE \"a.b\" (id integer PRIMARY KEY, geom geometry(Point, 4326));"
+               "CREATE SCHEMA a; CREATE TABLE a.b (id integer PRIMARY KEY, geom geometry(Point, 4326));"
                "CREATE VIEW slowly AS SELECT * FROM places WHERE pg_sleep(0.001)::text IS NOT NULL;"
-               "CREATE USER reader PASSWORD 'right'; GRANT SELECT ON places TO reader;"
-               f"COPY places FROM STDIN;\n{rows}\\.\n")
+               "CREATE VIEW broken AS SELECT id, 1 / (id - 2000) AS part, geom FROM places;"
+               "CREATE USER reader PASSWORD 'right'; GRANT USAGE ON SCHEMA gis TO reader;"
+               f"COPY places FROM STDIN;\n{rows}\\.\n"
+               "CREATE TABLE everywhere (LIKE places INCLUDING INDEXES, note text);"
+               "INSERT INTO everywhere SELECT * FROM places;"
+               f"INSERT INTO everywhere SELECT {PLACES} + i, 'elsewhere', ST_SetSRID(ST_MakePoint(100 + i % 300 * 0.1,"
+               f"  -40 + i / 300 * 0.1), 4326) FROM generate_series(1, {ELSEWHERE}) i;"
+               "CREATE INDEX ON everywhere USING gist (geom);"
+               "GRANT SELECT ON places, slowly, everywhere TO reader;" + kinds_of_values())
 
 
 class Program:
@@ -108,27 +155,26 @@ class Program:
         return subprocess.Popen([EXECUTABLE, *arguments], cwd=self.folder, env=self.environment, text=True,
                                 stdout=subprocess.PIPE, stderr=subprocess.PIPE)
 
-    def document(self, name, source):
-        with open(os.path.join(self.folder, "file.kdx")) as file:
+    def document(self, name, source, model="file.kdx"):
+        with open(os.path.join(self.folder, model)) as file:
             document = json.load(file)
         for layer in document["maps"][0]["layers"]:
             if "file" in layer["source"]:
-                layer["source"] = source
+                layer["source"] = source if "layer" in source else {**layer["source"], **source}
         with open(os.path.join(self.folder, name), "w") as file:
             json.dump(document, file)
         return name
 
 
-def pixels(path):
-    """The image data of a PNG, without what it says about itself."""
-    with open(path, "rb") as file:
-        content = file.read()
-    at, data = 8, b""
-    while at < len(content):
-        length, kind = struct.unpack(">I4s", content[at:at + 8])
-        data += content[at + 8:at + 8 + length] if kind == b"IDAT" else b""
-        at += 12 + length
-    return zlib.decompress(data)
+def difference(folder, one, other):
+    """Of two uncompressed pictures: by how much their bytes differ at most."""
+    pictures = []
+    for name in (one, other):
+        with open(os.path.join(folder, name), "rb") as file:
+            pictures.append(file.read())
+    if len(pictures[0]) != len(pictures[1]):
+        return 255
+    return max(abs(a - b) for a, b in zip(*pictures))
 
 
 def fails(program, claim, words, *arguments, **environment):
@@ -140,19 +186,55 @@ def fails(program, claim, words, *arguments, **environment):
 def draws_as_a_file(program, server):
     table = program.document("city.kdx", {"connection": "city", "layer": "public.places"})
     before = len(server.logged())
-    done = program("export", table, "city.png", "--dpi", "60")
+    done = program("export", table, "city.bmp", "--dpi", "60")
     check(done.returncode == 0, "a table is drawn", done.stderr)
     check("secrets" not in server.logged()[before:], "no other table is touched")
-    program("export", "file.kdx", "file.png", "--dpi", "60")
-    if done.returncode == 0:
-        same = pixels(os.path.join(program.folder, "city.png")) == pixels(os.path.join(program.folder, "file.png"))
-        check(same, "a table looks as a file with the same features")
+    program("export", "file.kdx", "file.bmp", "--dpi", "60")
+    check(difference(program.folder, "city.bmp", "file.bmp") == 0, "a table looks as a file with the same features")
     made = program("new", "new.kdx", "connection:city|public.places")
     check(made.returncode == 0, "a map is made of a table", made.stderr)
     told = program("info", "new.kdx").stdout
     check("connection city, table public.places" in told, "info tells connection and table", told)
     step = program("run", "new.kdx", "add=layer:connection:city|public.places", "save=more.kdx")
     check(step.returncode == 0, "a step adds a table", step.stderr)
+
+
+def a_large_table_is_asked_for_what_shows(program, server):
+    program.document("everywhere.kdx", {"connection": "city", "layer": "public.everywhere"})
+    before = len(server.logged())
+    done = program("export", "everywhere.kdx", "everywhere.bmp", "--dpi", "60")
+    asked = [line for line in server.logged()[before:].splitlines() if "DECLARE" in line and ".everywhere" in line]
+    check(done.returncode == 0, "a large table is drawn", done.stderr)
+    check(asked and all("&& ST_SetSRID('BOX3D(" in line and "note" not in line for line in asked),
+          "a large table is asked for the part and the columns that show", asked)
+    check(difference(program.folder, "everywhere.bmp", "file.bmp") < 8,  # levels; places are rounded
+          "a part of a large table looks as a table that has no more")
+    told = program("info", "connection:city|public.everywhere")
+    check(told.returncode == 0, "a large table is told of", told.stderr)
+
+
+def conditions_mean_the_same(program, server):
+    made = program("new", "kinds.kdx", "kinds.geojson")
+    check(made.returncode == 0, "a map is made of kinds of values", made.stderr)
+    program.document("values.kdx", {"connection": "city", "layer": "public.kinds"}, "kinds.kdx")
+    with open(os.path.join(program.folder, "kinds.kdx")) as file:
+        shown = json.load(file)["maps"][0]
+    layer = next(one["name"] for one in shown["layers"] if "file" in one["source"])
+    map_name = shown["name"]
+    before = len(server.logged())
+    steps = [step for one in CONDITIONS
+             for step in (f"attributes=layer:{map_name}/{layer}:{one}", "get=page/form")]
+    found = []
+    for document in ("kinds.kdx", "values.kdx"):
+        done = program("run", document, *steps)
+        check(done.returncode == 0, "conditions are understood", done.stderr)
+        groups = done.stdout.split('"A4"')
+        found.append([re.findall(r'"id":(\d+)', group) for group in groups])
+    for condition, file, table in zip(CONDITIONS, *found):
+        check(file == table, f"{condition} means the same", f"{file} {table}")
+    check(len(found[1]) > len(CONDITIONS), "all conditions were asked", len(found[1]))
+    asked = {line for line in server.logged()[before:].splitlines() if "DECLARE" in line and "public.kinds WHERE" in line}
+    check(len(asked) > len(CONDITIONS), "the server leaves out rows of most conditions", len(asked))
 
 
 def what_is_not_known_contacts_nothing(program, server):
@@ -227,10 +309,12 @@ def a_deaf_server_is_told(program, folder):
 
 
 def add_connections(program, server):
-    common = ["--host", server.folder, "--database", "city", "--timeout", str(TIMEOUT_S)]
-    for name, more in (("city", ["--user", "owner"]), ("secured", ["--user", "reader"]),
-                       ("deaf", ["--user", "owner", "--port", "5499"])):
-        done = program("connections", "add", name, *common, *more)
+    common = ["--database", "city", "--timeout", str(TIMEOUT_S)]
+    for name, host, port, more in (("city", server.folder, server.port, ["--user", "owner"]),
+                                   ("secured", "127.0.0.1", server.port, ["--user", "reader"]),
+                                   ("absent", server.folder, server.port, ["--database", "passwords"]),
+                                   ("deaf", server.folder, "5499", ["--user", "owner"])):
+        done = program("connections", "add", name, *common, "--host", host, "--port", port, *more)
         check(done.returncode == 0, f"the connection {name} is added", done.stderr)
     wrong = program("connections", "add", "wrong", "--port", "0")
     check(wrong.returncode == 2 and "port" in wrong.stderr, "a wrong port is told", f"{wrong.returncode} {wrong.stderr}")
@@ -276,6 +360,8 @@ def main():
             with concurrent.futures.ThreadPoolExecutor() as pool:
                 slow = pool.submit(a_deaf_server_is_told, Program(own), folder)
                 draws_as_a_file(program, server)
+                a_large_table_is_asked_for_what_shows(program, server)
+                conditions_mean_the_same(program, server)
                 what_is_not_known_contacts_nothing(program, server)
                 tells_what_is_wrong(program, server)
                 is_told_in_time(program, server, "a connection that ends is told", kill, ["slowly", "city"])

@@ -1,5 +1,6 @@
 #include "Condition.h"
 
+#include "host/SysCarto/layers/ConditionSql.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <cpl_string.h>
@@ -32,6 +33,13 @@ QStringList Condition::fields() const {
   for (int i = 0; i < CSLCount(used); ++i) names << QString::fromUtf8(used[i]);
   CSLDestroy(used);
   return names;
+}
+
+void Condition::narrow(OGRLayer& layer) const {
+  auto* const source = dynamic_cast<Narrowing*>(&layer);
+  if (!query_ || !source) return;
+  QByteArray const sql = impliedSql(*static_cast<swq_expr_node*>(query_->GetSWQExpr()), *source);
+  if (!sql.isEmpty()) source->narrow(sql);
 }
 
 bool Condition::admits(OGRFeature& feature) const {

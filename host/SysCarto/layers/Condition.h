@@ -15,8 +15,8 @@ class OGRLayer;
 
 namespace SysCarto {
 
-/// A condition on the attributes of features. It is evaluated by OGR itself and never handed to a database: a document
-/// must not reach the functions that a database offers.
+/// A condition on the attributes of features. It is evaluated by OGR itself. A database is only asked for what it
+/// implies, in words of our own: a document must not reach the functions that a database offers.
 class SYSCARTO_EXPORT Condition {
 public:
   Condition();
@@ -27,6 +27,9 @@ public:
   bool compile(OGRLayer& layer, QString const& text, QString& reason);
 
   bool admits(OGRFeature& feature) const;
+
+  /// Has the layer that it was compiled for leave out features that it does not admit, where it can; not all of them.
+  void narrow(OGRLayer& layer) const;
 
   /// The names of the fields that it asks for; of the geometry, names that begin with OGR_.
   QStringList fields() const;

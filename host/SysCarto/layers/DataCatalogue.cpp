@@ -4,7 +4,7 @@
 #include "DerivedLayer.h"
 #include "LocalDataset.h"
 #include "raster/RasterSource.h"
-#include "ServerLayer.h"
+#include "ServerDatabase.h"
 #include "TableLayer.h"
 
 #include "host/SysCarto/projection/GdalErrors.h"
@@ -325,6 +325,9 @@ LayerDescription describeLayer(SourceSettings const& source, std::chrono::millis
   });
   if (isWhole) take(look, layer);
   if (isWhole && !kindOf(data->layer().GetGeomType())) layer.kind = look.kind();
+  if (!source.connection.isEmpty() && errors.hasFailure())
+    error = Texts::tr("The table “%1” of the connection “%2” can't be read: %3.")
+                .arg(source.layer, source.connection, errors.reason());
   return layer;
 }
 

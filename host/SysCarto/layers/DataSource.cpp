@@ -2,7 +2,7 @@
 
 #include "JoinedLayer.h"
 #include "LocalDataset.h"
-#include "ServerLayer.h"
+#include "ServerDatabase.h"
 #include "TableLayer.h"
 #include "indexed/SourceIndexes.h"
 

@@ -8,6 +8,7 @@
 #include "host/SysCarto/layers/LabelReader.h"
 #include "host/SysCarto/layers/LargestNumbers.h"
 #include "host/SysCarto/layers/Renderer.h"
+#include "host/SysCarto/layers/ServerLayer.h"
 #include "host/SysCarto/layers/SourceBounds.h"
 #include "host/SysCarto/layers/SourceWindow.h"
 #include "host/SysCarto/layers/ThinningGrid.h"
@@ -127,11 +128,17 @@ WindowThreshold& threshold() {
   return own;
 }
 
+// As the source says itself, which of a server is an estimate.
+WindowThreshold toldSize(OGRLayer& layer, SourceSettings const& source) {
+  if (auto const* const table = dynamic_cast<ServerLayer*>(&layer)) return {table->toldBytes(), table->toldCount()};
+  return {dataSizeOf(source.file), knownCount(layer)};
+}
+
 // Whether windows are worth it. Only tables of an index of their own have one.
 bool isLarge(OGRLayer& layer, SourceSettings const& source) {
-  bool const isFile = source.data == SourceSettings::Data::File && source.connection.isEmpty();
-  if (!isFile || !layer.TestCapability(OLCFastSpatialFilter)) return false;
-  return knownCount(layer) >= threshold().features || dataSizeOf(source.file) >= threshold().bytes;
+  if (source.data == SourceSettings::Data::Globe || !layer.TestCapability(OLCFastSpatialFilter)) return false;
+  WindowThreshold const size = toldSize(layer, source);
+  return size.features >= threshold().features || size.bytes >= threshold().bytes;
 }
 
 // Hands on the parts of features that can be seen.
@@ -287,7 +294,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     auto const extent = toldExtent(layer, projector);
     result.hasWindows = extent.has_value();
     if (extent) result.extent = coveredMap(*extent, projector);
-    result.count = knownCount(layer);
+    result.count = toldSize(layer, source).features;
   }
   if (depth == ReadDepth::Schema) return;
   SourceBounds bounds = source.connection.isEmpty() ? SourceBounds(source.file) : SourceBounds::ofServer();
@@ -302,8 +309,10 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     leaveOut(layer, condition, renderer, labels);
     if (query) readInAnyOrder(layer);  // those of a window are sorted when they are drawn
     Selection selection(layer, query, projector);
+    condition.narrow(layer);
+    bool const isBounded = source.connection.isEmpty() || !result.pack;
     while (OGRFeatureUniquePtr feature = selection.next()) {
-      if (!bounds.admits(*feature)) break;
+      if (isBounded && !bounds.admits(*feature)) break;
       if (feature->GetGeometryRef() && condition.admits(*feature)) {
         isEmpty = isEmpty && feature->GetGeometryRef()->IsEmpty();
         intake.add(std::move(feature));

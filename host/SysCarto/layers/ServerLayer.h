@@ -1,69 +1,67 @@
 #pragma once
 
-#include "LocalDataset.h"
+#include "ServerDatabase.h"
 
-#include <QString>
-#include <QStringList>
+#include "host/SysCarto/layers/ConditionSql.h"
 
 #include <ogrsf_frmts.h>
 
 #include <deque>
 #include <memory>
-#include <vector>
 
 namespace SysCarto {
 
-/// A database that a connection leads to. Whatever is asked of its server is asked on another thread and is waited for
-/// no longer than the connection says; after that nothing more is asked, and the thread keeps what it uses.
-class ServerDatabase {
+/// A table of a database of PostGIS. Columns that are not ignored, the filter's box, and what a condition implies are
+/// part of what the server is asked; features come in batches. Where it does not answer any more, that is told to
+/// GDAL's error handler, and they end.
+class ServerLayer final : public OGRLayer, public Narrowing {
 public:
-  struct Session;
-
-  /// Whether it is asked for layers, or what there is, which a person alone asks for.
-  enum class Use { Layers, Tables };
-
-  /// Empty, with a sentence in `error`, where the connection is not known, is not allowed, or leads nowhere.
-  static std::unique_ptr<ServerDatabase> open(QString const& connection, Use use, QString& error);
-  ~ServerDatabase();
-
-  /// The tables with geometries that the user may read, each as "schema.table".
-  QStringList const& tables() const { return tables_; }
-
-  /// A table of these, by its name; it may outlive the database. Empty, with a sentence in `error`, where there is no
-  /// such one.
-  std::unique_ptr<OGRLayer> layer(QString const& table, QString& error) const;
-
-private:
-  explicit ServerDatabase(std::shared_ptr<Session> session);
-
-  std::shared_ptr<Session> session_;
-  QStringList all_, tables_;
-};
-
-/// A table of it. Features come in batches; where the server does not answer any more, that is told to GDAL's error
-/// handler, and they end.
-class ServerLayer final : public OGRLayer {
-public:
-  /// `inner` is of the session's dataset, `definition` a copy of its own.
-  ServerLayer(std::shared_ptr<ServerDatabase::Session> session, OGRLayer& inner, OGRFeatureDefn* definition);
+  /// `inner` is of the session's dataset, `definition` a copy of its own, `key` the column of its numbers or empty.
+  ServerLayer(std::shared_ptr<ServerSession> session, ServerTable table, OGRLayer& inner, OGRFeatureDefn* definition,
+              QByteArray key);
   ~ServerLayer() override;
 
   void ResetReading() override;
   OGRFeature* GetNextFeature() override;
   OGRFeature* GetFeature(GIntBig number) override;
-  OGRFeatureDefn* GetLayerDefn() override { return definition_; }
+  OGRFeatureDefn* GetLayerDefn() override { return definition_.get(); }
+  char const* GetFIDColumn() override { return key_.constData(); }
   OGRErr SetIgnoredFields(char const** names) override;
+  using OGRLayer::GetExtent;
+  OGRErr GetExtent(OGREnvelope* extent, int isForced) override;
+  GIntBig GetFeatureCount(int isForced) override;
   int TestCapability(char const* capability) override;
 
-private:
-  bool fetch();
+  /// As the server keeps them for its own plans, for nothing; −1 where it has not looked yet.
+  qint64 toldCount() const;
+  qint64 toldBytes() const;
 
-  std::shared_ptr<ServerDatabase::Session> session_;
+  SqlColumn column(int field) const override;
+  QByteArray quoted(QByteArray const& text) const override;
+  void narrow(QByteArray const& sql) override;
+
+private:
+  struct Facts;
+  struct Reading;
+
+  Facts const& facts() const;
+  bool hasGeometry() const;
+  QByteArray geometryColumn() const;
+  QByteArray box() const;
+  std::shared_ptr<Reading> reading() const;
+  bool fetch();
+  void tell(bool isAnswered, QString const& problem) const;
+
+  std::shared_ptr<ServerSession> session_;
+  ServerTable const table_;
   OGRLayer& inner_;
-  OGRFeatureDefn* const definition_;  // counted
-  std::vector<QByteArray> ignored_;
+  std::shared_ptr<OGRFeatureDefn> const definition_;
+  QByteArray const key_;
+  QByteArray narrowing_;
+  mutable std::unique_ptr<Facts> facts_;
   std::deque<OGRFeatureUniquePtr> batch_;
-  bool begins_ = true, isAtEnd_ = false;
+  std::shared_ptr<Reading> reading_;  // that has begun
+  bool isAtEnd_ = false;
 };
 
 }  // namespace SysCarto
