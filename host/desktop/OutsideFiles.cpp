@@ -177,11 +177,16 @@ void OutsideFiles::look() {
 
 void OutsideFiles::allow(QStringList const& folders, QStringList const& connections) {
   if (!folders.isEmpty()) AllowedFolders::keep(AllowedFolders::kept() + folders);
-  QStringList origins;
+  QStringList origins, problems;
   for (QString const& name : connections) {
-    KeptConnections::openToDocuments(name);
-    origins << SysCarto::originOf(name);
+    QString const problem = KeptConnections::openToDocuments(name);
+    if (problem.isEmpty())
+      origins << SysCarto::originOf(name);
+    else
+      problems << problem;
   }
+  problems.removeDuplicates();
+  if (!problems.isEmpty()) notice_.tell(problems.join(QLatin1Char(' ')), false);
   if (!origins.isEmpty()) files_.readAgain(origins);
   offerPassword();
 }

@@ -6,6 +6,7 @@
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 
 #include <ogr_feature.h>
@@ -62,10 +63,11 @@ TableRow rowOf(OGRFeature const& feature) {
 
 std::unique_ptr<FeatureTable> FeatureTable::open(SourceSettings const& source, QString& error) {
   auto data = DataSource::open(source, error);
-  return data ? std::unique_ptr<FeatureTable>(new FeatureTable(std::move(data))) : nullptr;
+  return data ? std::unique_ptr<FeatureTable>(new FeatureTable(std::move(data), source.origin())) : nullptr;
 }
 
-FeatureTable::FeatureTable(std::unique_ptr<DataSource> data) : data_(std::move(data)) {
+FeatureTable::FeatureTable(std::unique_ptr<DataSource> data, QString const& origin)
+    : data_(std::move(data)), origin_(origin) {
   GdalErrors const quiet;
   OGRFeatureDefn& definition = *data_->layer().GetLayerDefn();
   for (int i = 0; i < definition.GetFieldCount(); ++i) {
@@ -78,23 +80,29 @@ FeatureTable::FeatureTable(std::unique_ptr<DataSource> data) : data_(std::move(d
 
 FeatureTable::~FeatureTable() = default;
 
+void FeatureTable::note(GdalErrors const& errors) const {
+  if (errors.hasFailure() && problem_.isEmpty())
+    problem_ = Texts::tr("Not all of %1 could be read: %2.").arg(QDir::toNativeSeparators(origin_), errors.reason());
+}
+
 bool FeatureTable::isRandom() const { return data_->layer().TestCapability(OLCRandomRead); }
 
 TableRow FeatureTable::row(qint64 id) const {
-  GdalErrors const quiet;
+  GdalErrors const errors;
   OGRFeatureUniquePtr const feature(data_->layer().GetFeature(id));
+  note(errors);
   return feature ? rowOf(*feature) : TableRow();
 }
 
 QHash<qint64, TableRow> FeatureTable::rows(std::vector<qint64> const& ids) const {
-  GdalErrors const quiet;
   QHash<qint64, TableRow> rows;
-  OGRLayer& layer = data_->layer();
   if (isRandom()) {
     for (qint64 const id : ids)
-      if (OGRFeatureUniquePtr const feature{layer.GetFeature(id)}) rows[id] = rowOf(*feature);
+      if (TableRow const found = row(id); !found.isEmpty()) rows[id] = found;
     return rows;
   }
+  GdalErrors const errors;
+  OGRLayer& layer = data_->layer();
   std::set<qint64> left(ids.begin(), ids.end());
   layer.ResetReading();
   while (!left.empty()) {
@@ -102,6 +110,7 @@ QHash<qint64, TableRow> FeatureTable::rows(std::vector<qint64> const& ids) const
     if (!feature) break;
     if (left.erase(feature->GetFID()) > 0) rows[feature->GetFID()] = rowOf(*feature);
   }
+  note(errors);
   return rows;
 }
 
@@ -128,13 +137,14 @@ std::unique_ptr<FeatureScan> FeatureScan::open(SourceSettings const& source, Wan
   QStringList needed = scan->own_->fields() + scan->more_->fields();
   for (size_t i = 0; i < scan->table_->fields().size(); ++i)
     if (wanted.hasRows || wanted.field == static_cast<int>(i)) needed << scan->table_->fields()[i].name;
+  for (Condition const* const condition : {scan->own_.get(), scan->more_.get()}) condition->narrow(layer);
   readOnly(layer, needed);
   layer.ResetReading();
   return scan;
 }
 
 bool FeatureScan::advance(int ms, std::function<void(qint64, TableRow const&)> const& take) {
-  GdalErrors const quiet;
+  GdalErrors const errors;
   QElapsedTimer clock;
   clock.start();
   OGRLayer& layer = table_->data_->layer();
@@ -145,7 +155,10 @@ bool FeatureScan::advance(int ms, std::function<void(qint64, TableRow const&)> c
       untilLook = betweenLooks;
     }
     OGRFeatureUniquePtr const feature(layer.GetNextFeature());
-    if (!feature) return false;
+    if (!feature) {
+      table_->note(errors);
+      return false;
+    }
     ++read_;
     if (!own_->admits(*feature) || !more_->admits(*feature)) continue;
     values.clear();

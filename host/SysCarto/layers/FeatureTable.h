@@ -15,6 +15,7 @@ namespace SysCarto {
 
 class DataSource;
 class Condition;
+class GdalErrors;
 
 /// A field of the features of a source.
 struct TableField {
@@ -44,12 +45,18 @@ public:
   /// not there.
   QHash<qint64, TableRow> rows(std::vector<qint64> const& ids) const;
 
+  /// Why not all could be read that was asked for so far, as a sentence; empty where all could.
+  QString const& problem() const { return problem_; }
+
 private:
   friend class FeatureScan;
-  explicit FeatureTable(std::unique_ptr<DataSource> data);
+  FeatureTable(std::unique_ptr<DataSource> data, QString const& origin);
+  void note(GdalErrors const& errors) const;
 
   std::unique_ptr<DataSource> const data_;
+  QString const origin_;
   std::vector<TableField> fields_;
+  mutable QString problem_;
 };
 
 /// A pass over the features of a source in their order, a portion at a time, so that a window stays alive meanwhile.
@@ -72,6 +79,9 @@ public:
 
   /// How far it is, from 0 to 1; negative where that can't be told.
   double progress() const;
+
+  /// As that of a table.
+  QString const& problem() const { return table_->problem(); }
 
 private:
   FeatureScan();

@@ -131,6 +131,7 @@ void AttributeModel::list() {
   if (isFirstList_) showListed(!isMore);
   emit progressed(tr("Reading…"), scan_->progress());
   if (isMore) return;
+  tellOf(scan_->problem());
   if (!isFirstList_) {
     beginResetModel();
     ids_.swap(listed_);
@@ -167,6 +168,7 @@ void AttributeModel::collect() {
   });
   emit progressed(tr("Sorting…"), scan_->progress() < 0 ? -1 : scan_->progress() / 2);
   if (isMore) return;
+  tellOf(scan_->problem());
   scan_.reset();
   if (keys_->isNull.size() != ids_.size()) {  // the file has changed meanwhile
     end();
@@ -207,6 +209,10 @@ void AttributeModel::showOrder(std::vector<int> order) {
   beginResetModel();
   order_ = std::move(order);
   endResetModel();
+}
+
+void AttributeModel::tellOf(QString const& problem) const {
+  if (!problem.isEmpty()) emit failed(problem);
 }
 
 void AttributeModel::end() {
@@ -258,6 +264,7 @@ TableRow const& AttributeModel::rowAt(int row) const {
   TableRow* kept = rows_.object(id);
   if (!kept) {
     kept = new TableRow(table_->row(id));
+    if (kept->isEmpty()) tellOf(table_->problem());
     rows_.insert(id, kept);
   }
   return *kept;

@@ -53,6 +53,9 @@ signals:
   /// From 0 to 1, negative where nobody knows; `what` is done is told for people.
   void progressed(QString const& what, double progress);
 
+  /// Not all could be read; a sentence. It may come while a view paints.
+  void failed(QString const& problem) const;
+
   /// Nothing is being done any more.
   void finished();
 
@@ -76,6 +79,7 @@ private:
   void collect();
   void order();
   void end();
+  void tellOf(QString const& problem) const;
   void showListed(bool all);
   void showOrder(std::vector<int> order);
   size_t placeOf(int row) const;

@@ -37,6 +37,7 @@ AttributePanel::AttributePanel(DocumentSession& session, DocumentViews& views, Q
   setWidget(build());
   connect(model_, &AttributeModel::progressed, this, &AttributePanel::showProgress);
   connect(model_, &AttributeModel::finished, this, &AttributePanel::settle);
+  connect(model_, &AttributeModel::failed, this, &AttributePanel::showProblem, Qt::QueuedConnection);
   connect(model_, &QAbstractItemModel::modelAboutToBeReset, this, &AttributePanel::keepChosen);
   connect(model_, &QAbstractItemModel::rowsInserted, this, &AttributePanel::showState);
   connect(this, &QDockWidget::visibilityChanged, this, [this](bool isVisible) {
@@ -143,8 +144,7 @@ void AttributePanel::open() {
     model_->close();
   setWindowTitle(layer_ ? tr("Attributes of “%1”").arg(layer_->GetName()) : tr("Attributes"));
   isSettling_ = false;
-  problem_->setText(problem);
-  problem_->setVisible(!problem.isEmpty());
+  showProblem(problem);
   table_->horizontalHeader()->setProperty("sized", false);
   widget()->setEnabled(static_cast<bool>(layer_));
   showState();
@@ -168,6 +168,10 @@ void AttributePanel::follow() {
 
 void AttributePanel::takeFilter() {
   QString const problem = model_->setFilter(filter_->text());
+  showProblem(problem);
+}
+
+void AttributePanel::showProblem(QString const& problem) {
   problem_->setText(problem);
   problem_->setVisible(!problem.isEmpty());
 }

@@ -39,6 +39,7 @@ private:
   void open();
   void takeFilter();
   void showState();
+  void showProblem(QString const& problem);
   void showProgress(QString const& what, double progress);
   void settle();
   void keepChosen();

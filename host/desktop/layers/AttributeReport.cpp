@@ -45,5 +45,5 @@ QString reportAttributes(SysCarto::MapDocument const& document, QString const& n
     take({{QStringLiteral("id"), static_cast<double>(id)}, {QStringLiteral("fields"), fields}});
   };
   while (scan->advance(sliceMs, print)) continue;
-  return QString();
+  return scan->problem();
 }

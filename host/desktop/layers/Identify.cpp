@@ -36,6 +36,7 @@ QString labelOf(SysCarto::FeatureStore const& store, int number, Identified::Fea
 void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place, double reach, OpenTables& tables,
                 Identified& found) {
   auto const store = layer->featuresIn(SysCarto::Box{place.x(), place.y(), place.x(), place.y()}.grown(reach));
+  if (!layer->problem().isEmpty()) found.problems << layer->problem();
   auto numbers = SysCarto::featuresAt(*store, place.x(), place.y(), reach);
   if (numbers.empty()) return;
   if (numbers.size() > mostOfALayer) {
@@ -44,8 +45,11 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
   }
   std::vector<qint64> ids;
   for (int const number : numbers) ids.push_back(store->ids[static_cast<size_t>(number)]);
-  SysCarto::FeatureTable const* const table = tables.of(layer);
+  QString problem;
+  SysCarto::FeatureTable const* const table = tables.of(layer, problem);
   auto const rows = table ? table->rows(ids) : QHash<qint64, SysCarto::TableRow>();
+  if (table) problem = table->problem();
+  if (!problem.isEmpty()) found.problems << problem;
   for (size_t at = 0; at < ids.size(); ++at) {
     Identified::Feature feature{layer, ids[at], {}, {}};
     SysCarto::TableRow const row = rows.value(feature.id);
@@ -85,14 +89,15 @@ void identifyIn(_ptr_t<SysCarto::RasterLayer> const& layer, QPointF const& place
 
 }  // namespace
 
-SysCarto::FeatureTable const* OpenTables::of(_ptr_t<SysCarto::VectorLayer> const& layer) {
+SysCarto::FeatureTable const* OpenTables::of(_ptr_t<SysCarto::VectorLayer> const& layer, QString& problem) {
   constexpr size_t mostOpen = 16;
   auto const known = std::find_if(tables_.begin(), tables_.end(), [&](Table const& one) { return one.layer == layer; });
   FileStamp const stamp = FileStamp::of(layer->source().file);
-  if (known != tables_.end() && known->source == layer->source() && known->stamp == stamp) return known->table.get();
+  bool const isGood = known != tables_.end() && known->source == layer->source() && known->stamp == stamp &&
+                      known->table->problem().isEmpty();
+  if (isGood) return known->table.get();
   if (known != tables_.end()) tables_.erase(known);
-  QString error;
-  auto table = SysCarto::FeatureTable::open(layer->source(), error);
+  auto table = SysCarto::FeatureTable::open(layer->source(), problem);
   if (!table) return nullptr;
   if (tables_.size() >= mostOpen) tables_.erase(tables_.begin());
   tables_.push_back({layer, layer->source(), stamp, std::move(table)});
@@ -128,6 +133,7 @@ QJsonObject jsonOf(Identified const& found) {
   QJsonObject json{{QStringLiteral("map"), found.map->GetName()},
                    {QStringLiteral("place"), QJsonArray{found.place.x(), found.place.y()}},
                    {QStringLiteral("features"), features}};
+  if (!found.problems.isEmpty()) json[QStringLiteral("problems")] = QJsonArray::fromStringList(found.problems);
   if (found.degrees) json[QStringLiteral("degrees")] = QJsonArray{found.degrees->x(), found.degrees->y()};
   return json;
 }

@@ -27,15 +27,17 @@ struct Identified {
   QPointF place;                   ///< in map units
   std::optional<QPointF> degrees;  ///< longitude and latitude, where the map has a coordinate system
   QVector<Feature> features;
-  bool isAll = true;  ///< false where more were found than are told of
+  bool isAll = true;     ///< false where more were found than are told of
+  QStringList problems;  ///< sentences: what of that could not be read
 };
 
 /// The tables of layers that were asked for lately, one of each, open for as long as their sources and files stay as
 /// they are: to open some files means to read them.
 class OpenTables {
 public:
-  /// Null where it can't be opened; good until the next call.
-  SysCarto::FeatureTable const* of(SysUtility::_ptr_t<SysCarto::VectorLayer> const& layer);
+  /// Null where it can't be opened, with a sentence in `problem`; good until the next call. One that could not be read
+  /// is opened anew.
+  SysCarto::FeatureTable const* of(SysUtility::_ptr_t<SysCarto::VectorLayer> const& layer, QString& problem);
   void close() { tables_.clear(); }
 
 private:

@@ -91,11 +91,17 @@ void IdentifyPanel::show(Identified const& found) {
   tree_->clear();
   found_ = found;
   addPlace();
+  for (QString const& problem : qAsConst(found_.problems)) {
+    auto* const row = new QTreeWidgetItem(tree_, {problem});
+    row->setFirstColumnSpanned(true);
+    row->setToolTip(0, problem);
+    emit told(problem);
+  }
   for (int i = 0; i < found_.features.size(); ++i) addFeature(i);
   if (!found_.isAll) new QTreeWidgetItem(tree_, {tr("There are more features here.")});
   QDockWidget::show();
   raise();
-  auto* const first = tree_->topLevelItem(found_.features.isEmpty() ? 0 : 1);
+  auto* const first = tree_->topLevelItem(found_.features.isEmpty() ? 0 : 1 + found_.problems.size());
   tree_->setCurrentItem(first);
   tree_->scrollToItem(first, QAbstractItemView::PositionAtTop);
   mark(true);
@@ -111,7 +117,7 @@ void IdentifyPanel::addPlace() {
     new QTreeWidgetItem(place, {tr("Latitude"), degreesText(found_.degrees->y(), QT_TR_NOOP("N"), QT_TR_NOOP("S"))});
   }
   place->setExpanded(true);
-  if (found_.features.isEmpty()) new QTreeWidgetItem(tree_, {tr("No features here")});
+  if (found_.features.isEmpty() && found_.problems.isEmpty()) new QTreeWidgetItem(tree_, {tr("No features here")});
 }
 
 void IdentifyPanel::addFeature(int number) {
