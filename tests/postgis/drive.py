@@ -244,7 +244,7 @@ def what_is_not_known_contacts_nothing(program, server):
     fails(program, "confined, a connection is refused", ["city", "--allow-connection"], "export", "city.kdx", "x.png",
           "--confine")
     check(server.logged().count("connection received") == before, "neither contacts the server")
-    done = program("export", "city.kdx", "x.png", "--confine", "--allow-connection", "city")
+    done = program("info", "city.kdx", "--confine", "--allow-connection", "city")
     check(done.returncode == 0, "confined, an allowed connection is used", done.stderr)
 
 
@@ -256,12 +256,18 @@ def tells_what_is_wrong(program, server):
     denied = program.document("denied.kdx", {"connection": "secured", "layer": "public.secrets"})
     fails(program, "a table that may not be read is told", ["public.secrets", "no permission"], "export", denied,
           "x.png", PGPASSWORD="right")
+    done = program("info", "connection:absent")
+    check("passwords" in done.stderr and ".pgpass" not in done.stderr, "a name is not taken for a password", done.stderr)
+    broken = program.document("broken.kdx", {"connection": "city", "layer": "public.broken"})
+    done = program("run", broken, "attributes=layer:#0/#0")
+    check(done.returncode == 1 and "division by zero" in done.stderr.splitlines()[-1], "a reading that breaks is told",
+          done.stderr)
     done = program("info", "connection:secured", PGPASSWORD="right")
     check(done.returncode == 0 and "secrets" not in done.stdout, "tables that may be read are told alone", done.stderr)
     one = program("info", "connection:city|public.slowly")
     check(one.returncode == 0 and "slowly" in one.stdout and "secrets" not in one.stdout, "one table is told",
           one.stdout + one.stderr)
-    done = program("export", secured, "x.png", PGPASSWORD="right")
+    done = program("info", secured, PGPASSWORD="right")
     check(done.returncode == 0, "a password of the environment is used", done.stderr)
 
 
@@ -312,13 +318,14 @@ def add_connections(program, server):
     common = ["--database", "city", "--timeout", str(TIMEOUT_S)]
     for name, host, port, more in (("city", server.folder, server.port, ["--user", "owner"]),
                                    ("secured", "127.0.0.1", server.port, ["--user", "reader"]),
-                                   ("absent", server.folder, server.port, ["--database", "passwords"]),
+                                   ("absent", server.folder, server.port, ["--user", "owner", "--database", "passwords"]),
                                    ("deaf", server.folder, "5499", ["--user", "owner"])):
         done = program("connections", "add", name, *common, "--host", host, "--port", port, *more)
         check(done.returncode == 0, f"the connection {name} is added", done.stderr)
     wrong = program("connections", "add", "wrong", "--port", "0")
     check(wrong.returncode == 2 and "port" in wrong.stderr, "a wrong port is told", f"{wrong.returncode} {wrong.stderr}")
-    check("public.places" in program("connections", "test", "city").stdout, "a connection is tested")
+    told = program("connections", "test", "city").stdout
+    check("public.places" in told and " a.b," in told and "public.a.b" in told, "tables are told apart", told)
 
 
 def a_bad_entry_costs_no_other(program):
@@ -346,9 +353,8 @@ def main():
     if not found or not has_postgis or not shutil.which("psql"):
         print("no PostgreSQL server with PostGIS is installed")
         return SKIPPED
-    with tempfile.TemporaryDirectory() as own:
-        a_bad_entry_costs_no_other(Program(own))
-    with tempfile.TemporaryDirectory() as own, tempfile.TemporaryDirectory() as folder:
+    with tempfile.TemporaryDirectory() as own, tempfile.TemporaryDirectory() as other, \
+            tempfile.TemporaryDirectory() as folder:
         os.chmod(folder, 0o755)
         server = Server(folder, os.path.dirname(found[-1]))
         try:
@@ -358,17 +364,21 @@ def main():
             check(made.returncode == 0, "a map is made of the file", made.stderr)
             add_connections(program, server)
             with concurrent.futures.ThreadPoolExecutor() as pool:
-                slow = pool.submit(a_deaf_server_is_told, Program(own), folder)
+                besides = [pool.submit(a_bad_entry_costs_no_other, Program(other)),
+                           pool.submit(a_deaf_server_is_told, Program(own), folder),
+                           pool.submit(conditions_mean_the_same, program, server)]
                 draws_as_a_file(program, server)
                 a_large_table_is_asked_for_what_shows(program, server)
-                conditions_mean_the_same(program, server)
+                for beside in besides:
+                    beside.result()
                 what_is_not_known_contacts_nothing(program, server)
                 tells_what_is_wrong(program, server)
                 is_told_in_time(program, server, "a connection that ends is told", kill, ["slowly", "city"])
                 frozen = is_told_in_time(program, server, "a server that stops answering is told", freeze,
                                          ["slowly", "city", "has not answered"])
                 os.kill(frozen, signal.SIGCONT)
-                slow.result()
+                check(f"pg_cancel_backend(pid) FROM pg_stat_activity WHERE application_name = 'plotvane' AND pid = {frozen}"
+                      in server.logged(), "what is given up is ended on the server, too")
             server.stop()
             fails(program, "a server that is down is told", ["city", "plotvane connections test"], "export",
                   "city.kdx", "x.png")
