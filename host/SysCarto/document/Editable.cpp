@@ -27,6 +27,7 @@
 
 #include <algorithm>
 #include <type_traits>
+#include <utility>
 
 namespace SysCarto {
 
@@ -144,6 +145,46 @@ Settings mergedChange(Settings const& from, Settings const& to, Settings const& 
   return problem.isEmpty() ? settings : to;
 }
 
+// Something that stays where it is has other settings, whose fields change with each other: what was wanted of a map's
+// system, say, leads to other bounds, too. So the step knows what it has led to.
+template <class Target, class Uses, class Settings>
+class SettingsStep final : public QUndoCommand {
+public:
+  /// `told` gets what is to be said of the settings that were put last.
+  SettingsStep(QString const& name, _ptr_t<Target> target, Uses uses, DocumentContext context, Settings wanted,
+               std::shared_ptr<QStringList> told)
+      : QUndoCommand(name),
+        target_(std::move(target)),
+        uses_(std::move(uses)),
+        context_(std::move(context)),
+        told_(std::move(told)),
+        before_(now()),
+        after_(std::move(wanted)) {}
+
+  void undo() override { put(mergedChange(after_, before_, now())); }
+  void redo() override {
+    put(mergedChange(before_, after_, now()));
+    if (!std::exchange(isReached_, true)) after_ = now();
+  }
+
+private:
+  Settings now() const { return uses_.of(*target_, context_); }
+  void put(Settings const& settings) {
+    SysUtility::ChangeMark::Step const step;
+    DocumentContext own = context_;
+    uses_.apply(*target_, settings, own);
+    *told_ = own.warnings;
+  }
+
+  _ptr_t<Target> const target_;
+  Uses const uses_;
+  DocumentContext const context_;
+  std::shared_ptr<QStringList> const told_;
+  Settings const before_;
+  Settings after_;
+  bool isReached_ = false;
+};
+
 // Something that stays where it is.
 template <class Target, class Settings>
 class EditableSettings final : public Editable {
@@ -174,23 +215,12 @@ protected:
     if (reader.ok() && valuesOf(settings) == valuesOf(uses_.of(*target_, context))) return nullptr;
     return [this, settings, context](QString const& step, QStringList& warnings) {
       auto const told = std::make_shared<QStringList>();
-      auto const put = [uses = uses_, context, told](Target& target, Turn const& turn) {
-        DocumentContext own = context;
-        uses.apply(target, mergedChange(turn.from, turn.to, uses.of(target, context)), own);
-        *told = own.warnings;
-      };
-      Settings const former = uses_.of(*target_, context);
-      takeStep(std::make_unique<ValueStep<Target, Turn>>(step, -1, *target_, Turn{settings, former},
-                                                         Turn{former, settings}, put));
+      takeStep(std::make_unique<SettingsStep<Target, Uses, Settings>>(step, target_, uses_, context, settings, told));
       warnings += *told;
     };
   }
 
 private:
-  struct Turn {
-    Settings from, to;
-  };
-
   _ptr_t<Target> const target_;
   Uses const uses_;
 };

@@ -379,7 +379,7 @@ std::vector<StyledLayer> LayerStyling::styleRaster(LayerSurvey const& survey) {
     styled.isLegendWorthy = look.isLegendWorthy;
     styled.outliers = 0;
     styled.reasons << look.reason;
-    if (isSlow)
+    if (isSlow && !look.isRelief)
       styled.reasons << Texts::tr(
           "has no overviews, so that a picture of all of it takes long; make them, as by gdaladdo");
     styled.json = {{"type", "raster"},
