@@ -1,5 +1,7 @@
 #include "AttributeModel.h"
 
+#include "TableOpening.h"
+
 #include <QBrush>
 #include <QGuiApplication>
 #include <QLocale>
@@ -54,28 +56,29 @@ void AttributeModel::close() {
   endResetModel();
 }
 
-QString AttributeModel::open(SysCarto::SourceSettings const& source) {
+QString AttributeModel::open(SysCarto::SourceSettings const& source, SysCarto::ReadProgress const& progress) {
   close();
   QString problem;
   source_ = source;
+  auto table = openTable(source, progress, problem);
   beginResetModel();
-  table_ = FeatureTable::open(source, problem);
+  table_ = std::move(table);
   if (table_ && !table_->isRandom()) allRows_ = std::make_unique<QHash<qint64, TableRow>>();
   endResetModel();
-  return table_ ? startListing(QString()) : problem;
+  return table_ ? startListing(QString(), progress) : problem;
 }
 
 QString AttributeModel::setFilter(QString const& condition) {
   if (!table_ || condition.trimmed() == condition_) return QString();
-  return startListing(condition.trimmed());
+  return startListing(condition.trimmed(), {});
 }
 
-QString AttributeModel::startListing(QString const& condition) {
+QString AttributeModel::startListing(QString const& condition, SysCarto::ReadProgress const& progress) {
   QString problem;
   FeatureScan::Wanted wanted;
   wanted.condition = condition;
   wanted.hasRows = static_cast<bool>(allRows_);
-  auto scan = FeatureScan::open(source_, wanted, problem);
+  auto scan = openScan(source_, wanted, progress, problem);
   if (!scan) return problem;
   cancel();
   scan_ = std::move(scan);

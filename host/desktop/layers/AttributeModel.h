@@ -3,6 +3,7 @@
 #include "SlicedSort.h"
 
 #include "host/SysCarto/layers/FeatureTable.h"
+#include "host/SysCarto/layers/WatchedReading.h"
 
 #include <QAbstractTableModel>
 #include <QCache>
@@ -22,8 +23,9 @@ public:
   explicit AttributeModel(QObject* parent);
   ~AttributeModel() override;
 
-  /// Shows the features of a source. Answers a sentence where it can't be read; the table is empty then.
-  QString open(SysCarto::SourceSettings const& source);
+  /// Shows the features of a source. Answers a sentence where it can't be read; the table is empty then, as it is where
+  /// `progress` wanted no more.
+  QString open(SysCarto::SourceSettings const& source, SysCarto::ReadProgress const& progress = {});
   void close();
 
   /// Shows the features that meet a condition, as in the filter of a source; an empty one shows all. Answers a
@@ -72,7 +74,7 @@ private:
     bool isBefore(int a, int b, Qt::SortOrder order, QCollator const& collator) const;
   };
 
-  QString startListing(QString const& condition);
+  QString startListing(QString const& condition, SysCarto::ReadProgress const& progress);
   void startKeys();
   void goOn();
   void list();

@@ -2,6 +2,7 @@
 
 #include "AttributeModel.h"
 #include "LayerActions.h"
+#include "ReadingProgress.h"
 
 #include "host/SysAdapterUI/FieldText.h"
 #include "host/desktop/DocumentSession.h"
@@ -138,10 +139,12 @@ void AttributePanel::open() {
   table_->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   source_ = layer_ ? layer_->source() : SysCarto::SourceSettings();
   QString problem;
-  if (layer_)
-    problem = model_->open(source_);
-  else
-    model_->close();
+  if (layer_) {
+    ReadingProgress progress(*window());
+    problem = model_->open(source_, progress.watch());
+    if (progress.wasStopped()) layer_ = nullptr;
+  }
+  if (!layer_) model_->close();
   setWindowTitle(layer_ ? tr("Attributes of “%1”").arg(layer_->GetName()) : tr("Attributes"));
   isSettling_ = false;
   showProblem(problem);

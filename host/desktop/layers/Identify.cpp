@@ -1,5 +1,7 @@
 #include "Identify.h"
 
+#include "TableOpening.h"
+
 #include "host/SysCarto/layers/FeatureSearch.h"
 #include "host/SysCarto/layers/raster/RasterLayer.h"
 #include "host/SysCarto/projection/GlobeBox.h"
@@ -34,7 +36,7 @@ QString labelOf(SysCarto::FeatureStore const& store, int number, Identified::Fea
 }
 
 void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place, double reach, OpenTables& tables,
-                Identified& found) {
+                SysCarto::ReadProgress const& progress, Identified& found) {
   auto const store = layer->featuresIn(SysCarto::Box{place.x(), place.y(), place.x(), place.y()}.grown(reach));
   if (!layer->problem().isEmpty()) found.problems << layer->problem();
   auto numbers = SysCarto::featuresAt(*store, place.x(), place.y(), reach);
@@ -46,7 +48,7 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
   std::vector<qint64> ids;
   for (int const number : numbers) ids.push_back(store->ids[static_cast<size_t>(number)]);
   QString problem;
-  SysCarto::FeatureTable const* const table = tables.of(layer, problem);
+  SysCarto::FeatureTable const* const table = tables.of(layer, progress, problem);
   auto const rows = table ? table->rows(ids) : QHash<qint64, SysCarto::TableRow>();
   if (table) problem = table->problem();
   if (!problem.isEmpty()) found.problems << problem;
@@ -89,7 +91,8 @@ void identifyIn(_ptr_t<SysCarto::RasterLayer> const& layer, QPointF const& place
 
 }  // namespace
 
-SysCarto::FeatureTable const* OpenTables::of(_ptr_t<SysCarto::VectorLayer> const& layer, QString& problem) {
+SysCarto::FeatureTable const* OpenTables::of(_ptr_t<SysCarto::VectorLayer> const& layer,
+                                             SysCarto::ReadProgress const& progress, QString& problem) {
   constexpr size_t mostOpen = 16;
   auto const known = std::find_if(tables_.begin(), tables_.end(), [&](Table const& one) { return one.layer == layer; });
   FileStamp const stamp = FileStamp::of(layer->source().file);
@@ -97,14 +100,15 @@ SysCarto::FeatureTable const* OpenTables::of(_ptr_t<SysCarto::VectorLayer> const
                       known->table->problem().isEmpty();
   if (isGood) return known->table.get();
   if (known != tables_.end()) tables_.erase(known);
-  auto table = SysCarto::FeatureTable::open(layer->source(), problem);
+  auto table = openTable(layer->source(), progress, problem);
   if (!table) return nullptr;
   if (tables_.size() >= mostOpen) tables_.erase(tables_.begin());
   tables_.push_back({layer, layer->source(), stamp, std::move(table)});
   return tables_.back().table.get();
 }
 
-Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, double reach, OpenTables& tables) {
+Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, double reach, OpenTables& tables,
+                    SysCarto::ReadProgress const& progress) {
   Identified found;
   found.map = map;
   found.place = place;
@@ -113,7 +117,7 @@ Identified identify(_ptr_t<SysCarto::Map> const& map, QPointF const& place, doub
   for (int i = map->GetLayerCount() - 1; i >= 0; --i) {
     auto const layer = SysUtility::ptr_cast<SysCarto::VectorLayer>(map->GetLayer(i));
     bool const isGlobe = layer && layer->source().data == SysCarto::SourceSettings::Data::Globe;  // it is everywhere
-    if (layer && !isGlobe && layer->showsAt(scale)) identifyIn(layer, place, reach, tables, found);
+    if (layer && !isGlobe && layer->showsAt(scale)) identifyIn(layer, place, reach, tables, progress, found);
     auto const raster = SysUtility::ptr_cast<SysCarto::RasterLayer>(map->GetLayer(i));
     if (raster && raster->showsAt(scale) && !isToldBelow(*map, i, *raster, scale)) identifyIn(raster, place, found);
   }

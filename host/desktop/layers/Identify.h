@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/SysCarto/layers/FeatureTable.h"
+#include "host/SysCarto/layers/WatchedReading.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/FileStamp.h"
 
@@ -35,9 +36,10 @@ struct Identified {
 /// they are: to open some files means to read them.
 class OpenTables {
 public:
-  /// Null where it can't be opened, with a sentence in `problem`; good until the next call. One that could not be read
-  /// is opened anew.
-  SysCarto::FeatureTable const* of(SysUtility::_ptr_t<SysCarto::VectorLayer> const& layer, QString& problem);
+  /// Null where it can't be opened, with a sentence in `problem`, or where `progress` wanted no more; good until the next
+  /// call. One that could not be read is opened anew.
+  SysCarto::FeatureTable const* of(SysUtility::_ptr_t<SysCarto::VectorLayer> const& layer,
+                                   SysCarto::ReadProgress const& progress, QString& problem);
   void close() { tables_.clear(); }
 
 private:
@@ -50,8 +52,9 @@ private:
   std::vector<Table> tables_;  // the oldest first
 };
 
-/// Points and lines count within `reach` map units, areas where the place is in them.
+/// Points and lines count within `reach` map units, areas where the place is in them. Where `progress` wants no more
+/// while a table is opened, the features of that layer have no fields.
 Identified identify(SysUtility::_ptr_t<SysCarto::Map> const& map, QPointF const& place, double reach,
-                    OpenTables& tables);
+                    OpenTables& tables, SysCarto::ReadProgress const& progress = {});
 
 QJsonObject jsonOf(Identified const& found);

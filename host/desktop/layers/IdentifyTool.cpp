@@ -1,5 +1,7 @@
 #include "IdentifyTool.h"
 
+#include "ReadingProgress.h"
+
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/DocumentViews.h"
 
@@ -19,8 +21,8 @@ std::optional<MapPlace> placeIn(ViewWidget const& view, QPointF const& positionP
   return std::nullopt;
 }
 
-Identified identified(MapPlace const& at, OpenTables& tables) {
-  return identify(at.map, at.place, reachPx * at.unitsPerPx, tables);
+Identified identified(MapPlace const& at, OpenTables& tables, SysCarto::ReadProgress const& progress) {
+  return identify(at.map, at.place, reachPx * at.unitsPerPx, tables, progress);
 }
 
 }  // namespace
@@ -31,12 +33,12 @@ std::optional<Identified> identifyAt(DocumentViews& views, QPointF const& place)
   if (views.kind() == DocumentViews::Kind::Layout) {
     auto const at =
         layout ? placeIn(views.layoutView(), layout->GetDisplayTransformation()->ToDevice().map(place)) : std::nullopt;
-    return at ? std::make_optional(identified(*at, tables)) : std::nullopt;
+    return at ? std::make_optional(identified(*at, tables, {})) : std::nullopt;
   }
   auto const maps = views.mapView().shownMaps();
   if (maps.isEmpty()) return std::nullopt;
   QTransform const toMap = mapToView(*maps.first().map, maps.first().placePx).inverted();
-  return identified({maps.first().map, place, std::hypot(toMap.m11(), toMap.m12())}, tables);
+  return identified({maps.first().map, place, std::hypot(toMap.m11(), toMap.m12())}, tables, {});
 }
 
 IdentifyTool::IdentifyTool(DocumentSession const& session, DocumentViews& views) : session_(session), views_(views) {
@@ -76,5 +78,7 @@ void IdentifyTool::OnMouseDown(QMouseEvent* event) {
 }
 
 void IdentifyTool::look(std::optional<MapPlace> const& at) {
-  if (at) views_.tell(identified(*at, tables_));
+  if (!at) return;
+  ReadingProgress progress(*views_.mapView().window());
+  views_.tell(identified(*at, tables_, progress.watch()));
 }
