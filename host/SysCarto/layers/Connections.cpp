@@ -111,7 +111,7 @@ void Connection::list(Fields& fields) {
                          "Whether what is read is encrypted on its way, and whether the server must prove "
                          "who it is.")},
       encryption, encryptions, usual.encryption);
-  fields.integer({"timeout", QT_TRANSLATE_NOOP("Fields", "Timeout"),
+  fields.integer({"timeout", QT_TRANSLATE_NOOP("Fields", "Timeout in seconds"),
                   QT_TRANSLATE_NOOP("Fields", "So many seconds the server may take for an answer.")},
                  seconds, 1, maxSeconds, usual.seconds);
   fields.flag({"documents", QT_TRANSLATE_NOOP("Fields", "Open to documents"),

@@ -74,7 +74,9 @@ void ConnectionsDialog::fill(QString const& chosen) {
   list_->clear();
   for (Connection const& one : kept_.connections) {
     QString const host = one.host.isEmpty() ? tr("this computer") : one.host;
-    QString text = tr("%1: %2 at %3").arg(one.name, one.database.isEmpty() ? one.user : one.database, host);
+    QString const database = one.database.isEmpty() ? one.user : one.database;
+    QString text = database.isEmpty() ? QStringLiteral("%1: %2").arg(one.name, host)
+                                      : tr("%1: %2 at %3").arg(one.name, database, host);
     if (one.forDocuments) text += tr(" (open to documents)");
     list_->addItem(text);
     if (one.name == chosen || list_->currentRow() < 0) list_->setCurrentRow(list_->count() - 1);
@@ -91,13 +93,16 @@ void ConnectionsDialog::edit(bool isNew) {
   if (!isNew && !now) return;
   QString const before = current();
   Connection fresh;
-  fresh.name = tr("database");
+  fresh.name = freeName();
   SettingsSource source(now ? *now : fresh);
-  SettingsDialog dialog(now ? tr("Connection “%1”").arg(before) : tr("New Connection"), source, {}, this);
-  if (dialog.exec() != QDialog::Accepted) return;
+  auto const isTaken = [&](QString const& name) { return kept_.has(name) && !(now && now->name == name); };
+  do {  // with all that was entered
+    if (isTaken(source.settings().name))
+      tell(true, tr("There is a connection “%1” already; take another name.").arg(source.settings().name));
+    SettingsDialog dialog(now ? tr("Connection “%1”").arg(before) : tr("New Connection"), source, {}, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+  } while (isTaken(source.settings().name));
   Connection const made = source.settings();
-  if (kept_.has(made.name) && !(now && now->name == made.name))
-    return tell(true, tr("There is a connection “%1” already; take another name.").arg(made.name));
   if (now)
     *now = made;
   else
@@ -105,8 +110,23 @@ void ConnectionsDialog::edit(bool isNew) {
   keep(made.name);
 }
 
+QString ConnectionsDialog::freeName() {
+  QString const first = tr("database");
+  QString name = first;
+  for (int i = 2; kept_.has(name); ++i) name = QStringLiteral("%1-%2").arg(first).arg(i);
+  return name;
+}
+
+// There is no undo.
 void ConnectionsDialog::remove() {
   QString const name = current();
+  QMessageBox box(QMessageBox::Question, tr("Connections"),
+                  tr("Remove the connection “%1”? Layers that are read from it can't be read then.").arg(name),
+                  QMessageBox::Cancel, this);
+  box.setTextFormat(Qt::PlainText);
+  auto const* const removal = box.addButton(tr("Remove"), QMessageBox::AcceptRole);
+  box.exec();
+  if (box.clickedButton() != removal) return;
   kept_.remove(name);
   keep(QString());
 }

@@ -20,6 +20,7 @@ private:
   QString current() const;
   void fill(QString const& chosen);
   void showState();
+  QString freeName();
   void edit(bool isNew);
   void remove();
   void test();
