@@ -1,6 +1,7 @@
 #include "ServerSession.h"
 
 #include <QCoreApplication>
+#include <QThreadPool>
 
 #include <gdal_priv.h>
 #include <ogrsf_frmts.h>
@@ -15,6 +16,12 @@ constexpr int graceMs = 1000;  // for the server to say by itself that it takes 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(Connections)
 };
+
+// Never taken down, since that would wait for its threads.
+QThreadPool& cancellations() {
+  static auto* const pool = new QThreadPool;
+  return *pool;
+}
 
 // The driver passes over its list of tables where it is told one, and leaves out the schema of those in the active one,
 // so that a dot could be of either.
@@ -81,7 +88,7 @@ void giveUp(ServerSession& session) {
   session.isLost = true;
   int const process = session.process;
   if (process == 0) return;
-  startReading([process, connection = session.connection] {
+  cancellations().start([process, connection = session.connection] {
     FirstFailure const quiet;
     ServerSession other;
     other.connection = connection;
@@ -90,6 +97,11 @@ void giveUp(ServerSession& session) {
       other.rows("SELECT pg_cancel_backend(pid) FROM pg_stat_activity WHERE application_name = 'plotvane' AND pid = " +
                  QByteArray::number(process));
   });
+}
+
+void finishGivingUp() {
+  constexpr int patienceMs = 2000;
+  cancellations().waitForDone(patienceMs);
 }
 
 void leave(std::shared_ptr<ServerSession>& session) {

@@ -69,6 +69,9 @@ private:
 /// No answer is waited for any more.
 void giveUp(ServerSession& session);
 
+/// Waits a moment until servers that are given up know it, before the process ends.
+void finishGivingUp();
+
 /// What the work answers on another thread; nothing where it takes longer than the connection says, or nobody waits for
 /// it any more. What it needs must belong to it.
 template <class Work>

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/layers/DataSource.h"
 #include "host/SysCarto/layers/DerivedLayer.h"
+#include "host/SysCarto/layers/ServerSession.h"
 #include "host/SysCarto/layers/SourceSettings.h"
 
 #include <QCoreApplication>
@@ -51,7 +52,10 @@ void startReading(std::function<void()> work) { readingThreads().start(std::move
 
 void queueReading(std::function<void()> work) { queueThreads().start(std::move(work)); }
 
-bool isReading() { return readingThreads().activeThreadCount() > 0 || queueThreads().activeThreadCount() > 0; }
+bool isReading() {
+  finishGivingUp();
+  return readingThreads().activeThreadCount() > 0 || queueThreads().activeThreadCount() > 0;
+}
 
 std::unique_ptr<DataSource> openWatched(SourceSettings const& source, ReadProgress const& progress, QString& error) {
   struct Opened {
