@@ -4,6 +4,8 @@
 #include "host/SysAdapterUI/PropertySheet.h"
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
+#include "host/SysCarto/layers/FeatureReader.h"
+#include "host/SysCarto/layers/indexed/SourceIndexes.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
 #include "host/desktop/series/FileNames.h"
@@ -305,6 +307,27 @@ private slots:
     QCOMPARE(contents(parts.path()).size(), 9);
     put(path("book.kdx"), contentOf(path("book.kdx")));  // it counts as changed
     QVERIFY(!exported(parts, {"--resume", "--pages", "1"}).err.contains("whole already"));
+  }
+
+  void aLargeCoverageIsReadByPages_data() {
+    Rows<QString> row;
+    row("that a map has as a layer", "{}");
+    row("that no map has", "{'layer': '', 'source': {'file': 'sheets.geojson', 'coordinateSystem': 'EPSG:3857'}}");
+  }
+  void aLargeCoverageIsReadByPages() {
+    auto const [series] = fetched<QString>();
+    write("large.kdx", json(series.toUtf8()));
+    SysCarto::SourceIndexes::use(path("indexes"));
+    auto const former = SysCarto::setWindowThreshold({0, 0});
+    WorkbenchPage page;
+    bool const isOpen = page.bench.session().open(path("large.kdx"));
+    QString const problem = page.bench.series().show(QString("b2"));
+    SysCarto::SourceIndexes::use({});
+    SysCarto::setWindowThreshold(former);
+    QVERIFY(isOpen);
+    QCOMPARE(problem, QString());
+    QCOMPARE(shown(*page.bench.session().document().GetMap(0)), QRectF(1.8e5, 0.7e5, 2.4e5, 1.6e5));
+    QCOMPARE(text(page), QString("5/10 b2 number 5 b3 2 c2 [neighbour:up] [field:none]"));
   }
 
   void whereNoMapFollowsNoPlaceIsNeeded() {
