@@ -165,6 +165,8 @@ public:
        QT_TR_NOOP("Keep Earlier Version"), QT_TR_NOOP("Let a save keep what the file held before, as a file with “~” behind its name"), nothing},
       {"Host_AllowedFolders", "allowed-folders", inFile, 2, onNone, "",
        QT_TR_NOOP("Allowed Folders…"), QT_TR_NOOP("Name folders of which documents may use files without that being told"), nothing},
+      {"Host_IndexLargeFiles", "index-large-files", inFile, 2, onNone, "",
+       QT_TR_NOOP("Index Large Files"), QT_TR_NOOP("Keep indexes of large files that have none in the user's cache, so that only what a map shows is read"), nothing},
       {"Host_ExportPdf", "export-pdf", inFile, 3, onNone, "Ctrl+Shift+E",
        QT_TR_NOOP("Export as PDF…"), QT_TR_NOOP("Write the page as a PDF of shapes and texts"), pageLayout},
       {"Host_ExportSvg", "export-svg", inFile, 3, onNone, "",

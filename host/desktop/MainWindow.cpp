@@ -3,6 +3,7 @@
 #include "BoxTitles.h"
 #include "ElementList.h"
 #include "Icons.h"
+#include "IndexCache.h"
 #include "NoticeBar.h"
 #include "OutsideFiles.h"
 #include "PropertyPanel.h"
@@ -152,6 +153,7 @@ void MainWindow::addWindowCommands(HostCommands& host) {
   output_.addTo(host);
   print_.addTo(host);
   OutsideFiles::addTo(host, *this);
+  IndexCache::addTo(host);
   auto const always = std::function<bool()>(), never = always;
   host.add(QStringLiteral("Host_New"), {[this] { files_.create(); }, always, always});
   host.add(QStringLiteral("Host_NewFromData"), {[this] { makeFromData(); }, always, always});

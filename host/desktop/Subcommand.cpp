@@ -2,6 +2,7 @@
 
 #include "Confinement.h"
 #include "Console.h"
+#include "IndexCache.h"
 #include "Language.h"
 #include "Supervision.h"
 
@@ -120,8 +121,10 @@ std::optional<ExitStatus> parseArguments(Subcommand const& self, QCommandLinePar
                                    Texts::tr("End it, cleaned up, after so many seconds."), QStringLiteral("N"));
   QCommandLineOption const memory(QLatin1String(ResourceLimits::memoryOption),
                                   Texts::tr("End it where it takes more than so many megabytes."), QStringLiteral("N"));
+  QCommandLineOption const cache(QLatin1String(IndexCache::option),
+                                 Texts::tr("Make and use no indexes of large files in the user's cache."));
   bool const opensFiles = QLatin1String(self.operands).startsWith(QLatin1String("DOCUMENT"));
-  if (opensFiles) parser.addOptions({confine, allow, connection});
+  if (opensFiles) parser.addOptions({confine, allow, connection, cache});
   parser.addOptions({seconds, memory, language, help});
   parser.setApplicationDescription(Texts::tr("%1.").arg(Texts::tr(self.help)));
   bool const understood = parser.parse(QStringList(QStringLiteral("plotvane")) + arguments);

@@ -1,5 +1,6 @@
 #include "Confinement.h"
 #include "Console.h"
+#include "IndexCache.h"
 #include "Language.h"
 #include "Leftover.h"
 #include "MainWindow.h"
@@ -45,6 +46,7 @@ QStringList ownArguments() {
   takeLanguage(arguments);
   ResourceLimits().take(arguments);
   Confinement().take(arguments);
+  IndexCache::take(arguments);
   return arguments;
 }
 
@@ -67,6 +69,7 @@ int runSubcommand(int argc, char** argv, std::optional<QString> const& language,
   prepareApplication();
   installLanguage(language);
   confinement.begin();
+  if (!confinement.isConfined) IndexCache::begin();  // else nothing is written but what the line names
   QStringList const arguments = ownArguments();
   lastWords = ("plotvane: " + arguments.value(0) + ": " + memoryRanOut() + '\n').toLocal8Bit();
   std::set_terminate(endWithoutMemory);
@@ -93,6 +96,7 @@ int runWindow(int argc, char** argv, std::optional<QString> const& language) {
   QApplication application(argc, argv);
   prepareApplication();
   installLanguage(language);
+  IndexCache::begin();
   Leftover::sweep();
   reserve.reset(new char[reserveBytes]);  // addresses alone, until somebody writes there
   lastWords = ("plotvane: " +
@@ -143,6 +147,7 @@ int main(int argc, char** argv) {
   if (!limits.take(arguments)) return WrongArguments;
   Confinement confinement;
   if (!confinement.take(arguments)) return WrongArguments;
+  IndexCache::take(arguments);
   if (asksForWindow(arguments)) {
     bool const isLimited = limits.seconds > 0 || limits.megabytes > 0;
     if (confinement.isConfined || isLimited) return tellWindowIsFree(confinement.isConfined);

