@@ -108,9 +108,11 @@ ContentsTree::ContentsTree(QWidget* parent)
 
 ContentsTree::~ContentsTree() = default;
 
+// A name that is being written stays as it is.
 void ContentsTree::followReading() {
-  follow();
-  if (model_->isReading()) shares_->start(betweenSharesMs);
+  viewport()->update();
+  if (model_->isReading()) return shares_->start(betweenSharesMs);
+  if (state() != EditingState) follow();
 }
 
 ContentsTree& ContentsTree::of(TOCControl const& control) { return *control.findChild<ContentsTree*>(); }

@@ -16,8 +16,8 @@ DocumentViews::DocumentViews(SysCarto::MapDocument& document, QWidget* parent)
       mapView_(new MapView(this)),
       highlight_(new FeatureHighlight(this)),
       listener_([this] {
-        layoutView_->catchUp();
-        mapView_->catchUp();
+        layoutView_->takeNews();
+        mapView_->takeNews();
       }) {
   addWidget(layoutView_);
   addWidget(mapView_);

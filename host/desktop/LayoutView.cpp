@@ -151,6 +151,8 @@ void LayoutView::catchUp() {
   if (layout_ && !picture_.isCurrent(*layout_)) refresh(SysCarto::RefreshPhase::Everything);
 }
 
+void LayoutView::takeNews() { picture_.takeNews() ? refresh(SysCarto::RefreshPhase::Everything) : goOn(); }
+
 QRectF LayoutView::placeOfPicture() const {
   if (!layout_ || !picture_.transformation()) return ViewWidget::placeOfPicture();
   return (picture_.transformation()->ToDevice().inverted() * layout_->GetDisplayTransformation()->ToDevice())

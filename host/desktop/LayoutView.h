@@ -25,6 +25,10 @@ public:
   /// The tool that receives events from now on; may be empty.
   void setTool(SysUtility::_ptr_t<SysUI::ITool> const& tool);
 
+  /// Redraws where a map has come to look otherwise and nobody has asked for it: commands put labels into maps and take
+  /// them out again while events are handled.
+  void catchUp();
+
   /// Lets a person write a text of the page where it stands. What another text is written in is taken first.
   void edit(SysCarto::TextElement const& text, TextEditor::Taken const& taken);
 
@@ -44,7 +48,7 @@ public:
 
   QVector<ShownMap> shownMaps() const override;
   bool isComplete() const override { return picture_.isComplete(); }
-  void catchUp() override;
+  void takeNews() override;
   int drawnTiles() const { return picture_.drawnTiles(); }
 
 signals:

@@ -64,7 +64,16 @@ void MapTiles::follow(MapFrameElement const& frame, double pixelsPerCm) {
   if (!look_.hasSameLabels(look)) labels_ = nullptr;
   look_ = look;
   tiles_.clear();
-  waits_ = false;
+  labelsWait_ = false;
+}
+
+void MapTiles::takeNews() {
+  labelsWait_ = false;
+  for (auto& [number, tile] : tiles_) tile.isStale = tile.lacksFeatures;
+}
+
+bool MapTiles::waits() const {
+  return labelsWait_ || firstShown([](Tile const& tile) { return tile.lacksFeatures; });
 }
 
 // Zooming by steps comes here before a tile was drawn; then the older picture goes on standing in.
@@ -89,8 +98,8 @@ void MapTiles::setShown(QRect const& shownPx) {
 
 // First all that is missing, then the labels, unless there turned out to be none. Labels wait for all features.
 std::optional<MapTiles::TileNumber> MapTiles::next() const {
-  auto const missing = firstShown([](Tile const& tile) { return tile.image.isNull(); });
-  if (missing || waits_ || (labels_ && labels_->order().elements.isEmpty())) return missing;
+  auto const missing = firstShown([](Tile const& tile) { return tile.isToBeDrawn(); });
+  if (missing || waits() || (labels_ && labels_->order().elements.isEmpty())) return missing;
   return firstShown([](Tile const& tile) { return !tile.isLabelled; });
 }
 
@@ -108,7 +117,7 @@ QRect MapTiles::drawNext(MapFrameElement const& frame) {
   if (!canGoOn()) return {};
   follow(frame, look_.pixelsPerCm);
   auto number = next();
-  if (number && tiles_.count(*number) && !labels_) {
+  if (number && !labels_ && !tiles_[*number].isToBeDrawn()) {
     placeLabels(frame);
     number = next();
   }
@@ -133,31 +142,33 @@ SysUtility::_ptr_t<DisplayTransformation> MapTiles::pageOf(MapFrameElement const
 
 void MapTiles::placeLabels(MapFrameElement const& frame) {
   QList<SysUtility::_ptr_t<SysCarto::Element>> placed;
-  withoutWaiting(frame, [&] { placed = SysCarto::placeLabels(frame, labelsPerInch); });
-  if (waits_) return;
+  labelsWait_ = !drawnWithoutWaiting(frame, [&] { placed = SysCarto::placeLabels(frame, labelsPerInch); });
+  if (labelsWait_) return;
   labels_ = std::make_shared<SysCarto::ElementContainer>();
   labels_->AddElements(placed);
 }
 
-// Who looks at a part of the frame needs the features of that.
-void MapTiles::withoutWaiting(MapFrameElement const& frame, std::function<void()> const& work) {
+// Whether nothing was missing. Who looks at a part of the frame needs the features of the tiles there.
+bool MapTiles::drawnWithoutWaiting(MapFrameElement const& frame, std::function<void()> const& draw) const {
   SysCarto::WithoutWaiting meanwhile;
   auto const whole = SysCarto::mapPixels(frame, *pageOf(frame, look_.pixelsPerCm, look_.sizePx)).transformation;
   if (whole && shownPx_.size() != look_.sizePx) {
-    QRectF const seen = whole->ToDevice().inverted().mapRect(QRectF(shownPx_));
+    QRectF const tiles = QRectF(shownPx_).adjusted(-tilePx, -tilePx, tilePx, tilePx);
+    QRectF const seen = whole->ToDevice().inverted().mapRect(tiles);
     meanwhile.seen = SysGeometry::Box{seen.left(), seen.top(), seen.right(), seen.bottom()};
   }
-  work();
-  waits_ = waits_ || meanwhile.isIncomplete;
+  draw();
+  return !meanwhile.isIncomplete;
 }
 
-void MapTiles::draw(Tile& tile, QRect const& area, MapFrameElement const& frame) {
+void MapTiles::draw(Tile& tile, QRect const& area, MapFrameElement const& frame) const {
   auto const page = pageOf(frame, look_.pixelsPerCm, look_.sizePx);
-  if (tile.image.isNull()) {
+  if (tile.isToBeDrawn()) {
     // A temporary would be converted in place, and keep a paint engine that takes red for blue (Qt 5.15).
     QImage drawn;
-    withoutWaiting(frame, [&] { drawn = SysCarto::drawMap(frame, *page, area, nullptr).image; });
-    tile.image = drawn.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    bool const isWhole =
+        drawnWithoutWaiting(frame, [&] { drawn = SysCarto::drawMap(frame, *page, area, nullptr).image; });
+    tile = {drawn.convertToFormat(QImage::Format_ARGB32_Premultiplied), false, !isWhole};
     return;
   }
   SysCarto::MapPicture picture{std::exchange(tile.image, QImage()), area.topLeft()};

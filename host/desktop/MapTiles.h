@@ -33,11 +33,13 @@ public:
   /// Draws or labels one tile that is shown and not complete, and answers its pixels; a null rectangle where there is
   /// none. A map that has changed meanwhile is followed first.
   QRect drawNext(SysCarto::MapFrameElement const& frame);
-  bool isComplete() const { return !next() && !waits_; }
+  bool isComplete() const { return !next() && !waits(); }
 
-  /// Whether there is something to draw now. Nothing is while features are read that are missing in what there is; a
-  /// layer that has got them looks otherwise.
+  /// Whether there is something to draw now. Nothing is while features are read that are missing in what there is.
   bool canGoOn() const { return next().has_value(); }
+
+  /// There are more features than when tiles were drawn without them.
+  void takeNews();
 
   /// Paints what there is with the frame's corner at `corner`.
   void paint(QPainter& painter, QPoint const& corner) const;
@@ -66,6 +68,10 @@ private:
   struct Tile {
     QImage image;
     bool isLabelled = false;
+    bool lacksFeatures = false;
+    bool isStale = false;  // there are more now
+
+    bool isToBeDrawn() const { return image.isNull() || isStale; }
   };
 
   // What was shown before, placed in centimetres of the frame.
@@ -79,16 +85,17 @@ private:
   static SysUtility::_ptr_t<SysDisplay::DisplayTransformation> pageOf(SysCarto::MapFrameElement const& frame,
                                                                       double pixelsPerCm, QSize const& sizePx);
   std::optional<TileNumber> next() const;
+  bool waits() const;
   std::optional<TileNumber> firstShown(bool (*isWanted)(Tile const&)) const;
   void placeLabels(SysCarto::MapFrameElement const& frame);
-  void draw(Tile& tile, QRect const& area, SysCarto::MapFrameElement const& frame);
-  void withoutWaiting(SysCarto::MapFrameElement const& frame, std::function<void()> const& work);
+  void draw(Tile& tile, QRect const& area, SysCarto::MapFrameElement const& frame) const;
+  bool drawnWithoutWaiting(SysCarto::MapFrameElement const& frame, std::function<void()> const& draw) const;
   void keepStandIn();
 
   Look look_;
   QRect shownPx_;
   std::map<TileNumber, Tile> tiles_;
   std::shared_ptr<SysCarto::ElementContainer> labels_;  // null until they are placed
-  bool waits_ = false;                                  // for features of layers
+  bool labelsWait_ = false;                             // for features of layers
   StandIn standIn_;
 };

@@ -46,9 +46,9 @@ void MapView::composePicture() {
   paintMap();
 }
 
-void MapView::catchUp() {
-  auto const frame = layout_ ? layout_->GetFocusMapFrameElement() : nullptr;
-  if (frame && !tiles_.sizePx().isEmpty() && !tiles_.isOf(*frame)) refresh(SysCarto::RefreshPhase::Everything);
+void MapView::takeNews() {
+  tiles_.takeNews();
+  goOn();
 }
 
 // Of the map in the picture.

@@ -23,7 +23,7 @@ public:
   SysUtility::_ptr_t<SysCarto::Map> map() const;
   QVector<ShownMap> shownMaps() const override;
   bool isComplete() const override { return tiles_.isComplete(); }
-  void catchUp() override;
+  void takeNews() override;
 
 signals:
   /// The left button went down and up at one place of the map, in pixels.

@@ -56,6 +56,7 @@ void PagePicture::compose(PageLayout const& layout, double devicePixelRatio) {
   devicePixelRatio_ = devicePixelRatio;
   followView(layout);
   followMaps(layout);
+  lacksFeatures_ = false;
   paint(layout, image_.rect());
 }
 
@@ -118,8 +119,13 @@ bool PagePicture::isCurrent(PageLayout const& layout) const {
   return true;
 }
 
+bool PagePicture::takeNews() {
+  for (MapTiles& tiles : tiles_) tiles.takeNews();
+  return lacksFeatures_;
+}
+
 bool PagePicture::isComplete() const {
-  return std::all_of(tiles_.begin(), tiles_.end(), [](MapTiles const& one) { return one.isComplete(); });
+  return !lacksFeatures_ && std::all_of(tiles_.begin(), tiles_.end(), [](MapTiles const& one) { return one.isComplete(); });
 }
 
 bool PagePicture::canGoOn() const {
@@ -134,6 +140,7 @@ void PagePicture::paint(PageLayout const& layout, QRegion const& area) {
   SysCarto::WithoutWaiting const meanwhile;  // legends ask what is in sight
   SysCarto::drawInPageOrder(layout, painter, transformation_,
                             [&](auto const& element) { paintElement(painter, element); });
+  lacksFeatures_ = lacksFeatures_ || meanwhile.isIncomplete;
 }
 
 // What an export doesn't have: the sheet of paper on the desk.

@@ -30,6 +30,10 @@ public:
   /// Whether all maps are drawn.
   bool isComplete() const;
 
+  /// There are more features than when something was drawn without them. Answers whether elements, and not maps alone,
+  /// are to be painted anew.
+  bool takeNews();
+
   /// Whether a slice would draw something now (`MapTiles::canGoOn`).
   bool canGoOn() const;
 
@@ -56,4 +60,5 @@ private:
   SysUtility::_ptr_t<SysDisplay::DisplayTransformation> transformation_;
   QHash<SysCarto::ElementHandle, MapTiles> tiles_;
   int drawnTiles_ = 0;
+  bool lacksFeatures_ = false;  // in what elements tell of maps
 };

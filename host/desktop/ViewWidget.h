@@ -35,9 +35,8 @@ public:
   /// Whether the picture shows everything; maps that take long grow into it.
   virtual bool isComplete() const = 0;
 
-  /// Redraws where a map has come to look otherwise and nobody has asked for it: commands put labels into maps and take
-  /// them out again while events are handled, and layers get features that were read meanwhile.
-  virtual void catchUp() = 0;
+  /// There are more features than when something was drawn without them.
+  virtual void takeNews() = 0;
 
   /// The maps that are shown, the topmost last, and the rectangles that they fill, in the widget's pixels.
   struct ShownMap {

@@ -174,6 +174,8 @@ public:
     begin();
   }
 
+  bool isAll() const { return isAll_; }
+
   // An empty pointer behind the last one.
   OGRFeatureUniquePtr next() {
     for (; !ids_.empty(); ids_.pop_front())
@@ -309,6 +311,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     leaveOut(layer, condition, renderer, labels);
     if (query) readInAnyOrder(layer);  // those of a window are sorted when they are drawn
     Selection selection(layer, query, projector);
+    if (!selection.isAll()) watch.countNone();
     condition.narrow(layer);
     bool const isBounded = source.connection.isEmpty() || !result.pack;
     while (OGRFeatureUniquePtr feature = selection.next()) {

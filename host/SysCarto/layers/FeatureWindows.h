@@ -3,7 +3,6 @@
 #include "host/SysCarto/layers/WindowReading.h"
 
 #include <array>
-#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -20,13 +19,13 @@ struct WindowWish {
 };
 
 /// The windows of a layer that were read last, and those that are being read. What lies within one of them, and is no
-/// finer, needs no reading. The last one of each layer stays; those before it have some memory together, whatever layers
-/// they are of.
+/// finer, needs no reading. The last one of each layer stays, and that of a part; those before have some memory together,
+/// whatever layers they are of.
 class FeatureWindows {
 public:
   using Taken = std::function<void(ReadFeatures const& window)>;
 
-  /// `changed` is called when somebody who did not wait would get more now, and `taken` with each window that was read.
+  /// `changed` is called when `problem` has become another, and `taken` with each window that was read.
   FeatureWindows(std::function<void()> changed, Taken taken);
   ~FeatureWindows();
 
@@ -35,8 +34,17 @@ public:
   std::shared_ptr<FeaturePack const> window(WindowWish const& wish, WindowReading::Read const& read,
                                             ReadProgress const& progress);
 
-  /// How much was read of what is being read; nothing where nothing is.
+  /// Why a window that was read is not whole, until one was read again; empty where all are.
+  QString problem() const;
+
+  /// The same for what a page would be drawn of now: what failed some time ago would be read again.
+  QString failure() const;
+
+  /// How much was read of what is being read, 0 where nobody knows; nothing where nothing is.
   std::optional<double> share() const;
+
+  /// Another number when there is more of what was missing without waiting.
+  int news() const;
 
   /// Forgets all, and gives up what is being read.
   void clear();
@@ -49,14 +57,15 @@ private:
     std::function<void()> changed;
     Taken taken;
     std::array<Reading, 2> underWay;  // of what the frame shows, and of a part of it
-    bool owesMore = false;  // somebody who did not wait got less
+    bool owesMore = false;            // somebody who did not wait got less
+    int news = 0;
 
-    void take(Reading& reading);
+    void take(Reading& reading, bool isPart);
     void takeAll();
     void tell();
   };
-  Reading const& reading(WindowWish const& wish, double cell, WindowReading::Read const& read);
-  std::nullptr_t giveUp(Reading const& reading);
+  Reading reading(WindowWish const& wish, double cell, WindowReading::Read const& read);
+  void giveUp(Reading const& reading);
 
   std::shared_ptr<State> state_;
 };

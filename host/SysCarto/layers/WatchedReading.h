@@ -64,6 +64,9 @@ public:
   ReadWatch(ReadWatch const&) = delete;
   ReadWatch& operator=(ReadWatch const&) = delete;
 
+  /// Of all that there are, only some are read, and nobody knows how many.
+  void countNone() { count_ = -1; }
+
   /// To be called for each feature.
   bool goesOn() {
     constexpr int betweenLooks = 256;
@@ -78,7 +81,7 @@ private:
   bool ask();
 
   ReadProgress const& progress_;
-  qint64 const count_;
+  qint64 count_;
   qint64 read_ = 0;
   bool wasStopped_ = false;
   ReadWatch* const around_;  // of this thread

@@ -41,7 +41,7 @@ void WindowReading::work() {
     isDone_ = true;
   }
   ended_.notify_all();
-  tell();
+  tell(std::move(read_));
 }
 
 void WindowReading::show(FeaturePack const& pack) {
@@ -52,15 +52,15 @@ void WindowReading::show(FeaturePack const& pack) {
     soFar_ = std::move(shown);
   }
   nextMs_ = clock_.elapsed() * pauseGrowth;
-  tell();
+  tell({});
 }
 
-// What is read with, symbols among it, is let go on the thread that it belongs to: the event keeps the reading.
-void WindowReading::tell() {
+// In the end, what is read with, symbols among it, goes with the event, and is let go on the thread that it belongs to.
+void WindowReading::tell(Read with) {
   if (QCoreApplication* const application = QCoreApplication::instance())
     QMetaObject::invokeMethod(
         application,
-        [self = shared_from_this()] {
+        [self = shared_from_this(), with = std::move(with)] {
           if (self->isWanted_) self->news_();
         },
         Qt::QueuedConnection);

@@ -48,7 +48,7 @@ private:
   WindowReading(Read read, WindowQuery query, std::function<void()> news);
   void work();
   void show(FeaturePack const& pack);
-  void tell();
+  void tell(Read with);
 
   Read read_;
   WindowQuery query_;

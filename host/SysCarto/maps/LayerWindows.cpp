@@ -133,26 +133,29 @@ void VectorLayer::keepWarnings(ReadFeatures const& read) const {
     if (!warnings_.contains(warning) && warnings_.size() < mostWarnings) warnings_ << warning;
 }
 
-void VectorLayer::takeWindow(ReadFeatures const& read) const {
-  keepWarnings(read);
-  if (read.wasStopped) return;
-  windowProblem_ = read.error;
-  if (failure_.isEmpty()) failure_ = read.error;
+QString VectorLayer::problem() const { return problem_.isEmpty() ? windows_.problem() : problem_; }
+
+QString VectorLayer::failure() const {
+  if (!problem_.isEmpty()) return problem_;
+  QString const failure = windows_.failure();
+  return failure.isEmpty() ? spotlightProblem_ : failure;
 }
 
-std::shared_ptr<FeatureStore const> VectorLayer::readOnly(WindowQuery const& query) const {
+std::shared_ptr<FeatureStore const> VectorLayer::readOnly(WindowQuery const& query, QString* problem) const {
   ReadFeatures read = readWindow(source_, mapSystem_, *renderer_, labels_.read(), query);
-  takeWindow(read);
+  keepWarnings(read);
+  if (problem) *problem = read.error;
   return std::move(read.store);
 }
 
-std::shared_ptr<FeatureStore const> VectorLayer::featuresIn(Box const& area) const {
-  return hasWindows() ? readOnly({area, 0, {}, {}}) : shared();
+std::shared_ptr<FeatureStore const> VectorLayer::featuresIn(Box const& area, QString* problem) const {
+  return hasWindows() ? readOnly({area, 0, {}, {}}, problem) : shared();
 }
 
-std::shared_ptr<FeatureStore const> VectorLayer::featuresNumbered(std::vector<qint64> const& ids) const {
+std::shared_ptr<FeatureStore const> VectorLayer::featuresNumbered(std::vector<qint64> const& ids,
+                                                                  QString* problem) const {
   if (!hasWindows()) return shared();
-  return ids.empty() ? std::make_shared<FeatureStore>() : readOnly({Box(), 0, ids, {}});
+  return ids.empty() ? std::make_shared<FeatureStore>() : readOnly({Box(), 0, ids, {}}, problem);
 }
 
 // At least what a page in print shows is read, so that a view, its labels, its legends and an export have one window. Of
@@ -169,7 +172,7 @@ std::shared_ptr<FeaturePack const> VectorLayer::window(DisplayTransformation con
   wish.wanted = boxFrom(DisplayTransformationHost::wholeWorld(transformation));
   wish.isPart = meanwhile && meanwhile->seen && unitsPerPixel < printed / enlarged;
   if (wish.isPart) wish.wanted = within(wish.wanted, meanwhile->seen->grown(largerSide(*meanwhile->seen) / 2));
-  wish.wanted = wish.wanted.grown(reach);
+  wish.wanted = wish.wanted.grown(reach * std::sqrt(2));  // a tile of a map that is turned stands on a corner
   wish.wanted.add(reached);
   wish.needed = wish.isPart ? reached : wish.wanted;
   ReadProgress progress;

@@ -7,6 +7,7 @@
 #include "host/SysCarto/layers/FeaturePasses.h"
 #include "host/SysCarto/layers/FeatureSearch.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layers/WithoutWaiting.h"
 #include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysDisplay/PathDrawing.h"
 #include "host/SysUtility/NumberText.h"
@@ -31,6 +32,12 @@ namespace {
 constexpr double leaderWidthPt = 0.4;
 constexpr int featurePhase = 1;
 constexpr int betweenCancelChecks = 64;
+
+// What is drawn or placed now will be anew.
+bool lacksFeatures() {
+  auto const* const meanwhile = WithoutWaiting::current();
+  return meanwhile && meanwhile->isIncomplete;
+}
 
 bool isCancelled(_ptr_t<TrackerCancel> const& cancel) { return cancel && cancel->IsCanced(); }
 
@@ -71,7 +78,7 @@ VectorLayer::VectorLayer(std::unique_ptr<Renderer> renderer)
       properties_(make<AnnotationProperties>()),
       store_(std::make_unique<FeatureStore>()),
       thinned_(std::make_unique<ThinnedFeatures>(*store_)),
-      windows_([this] { LayerHost::changeLook(*this); }, [this](ReadFeatures const& read) { takeWindow(read); }) {}
+      windows_([this] { LayerHost::changeLook(*this); }, [this](ReadFeatures const& read) { keepWarnings(read); }) {}
 
 VectorLayer::~VectorLayer() = default;
 
@@ -80,8 +87,7 @@ QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem
   source_ = source;
   mapSystem_ = mapSystem;
   warnings_.clear();
-  windowProblem_.clear();
-  failure_.clear();
+  spotlightProblem_.clear();
   problem_ = read(progress, depth);
   warnings += warnings_;
   LayerHost::changeLook(*this);
@@ -177,7 +183,7 @@ bool VectorLayer::isHidden(qint64 id) const {
 
 void VectorLayer::drawSpotlight(DrawTarget& target, double unitsPerPixel) {
   if (!spotlight_) return;
-  auto const store = featuresNumbered({spotlight_->feature});
+  auto const store = featuresNumbered({spotlight_->feature}, &spotlightProblem_);
   ThinnedFeatures features(*store);
   features.setResolution(unitsPerPixel);
   for (int const feature : featuresOf(*store, {spotlight_->feature})) {
@@ -225,9 +231,17 @@ QVector<bool> VectorLayer::classesWithin(_ptr_t<DisplayTransformation> const& tr
   QTransform const& turn = DisplayTransformationHost::turn(*transformation);
   quint64 const look = LayerHost::look(*this);
   double const scale = transformation->GetMapScale();
+  auto* const meanwhile = WithoutWaiting::current();
   bool const isSame = within_.look == look && within_.turn == turn && within_.scale == scale &&
                       within_.shown.contains(shown) && shown.contains(within_.shown);
-  if (!isSame) within_ = {look, shown, turn, scale, findClassesWithin(*transformation, shown)};
+  bool const isGood = within_.isWhole || (meanwhile && within_.news == windows_.news());
+  if (!isSame || !isGood) {
+    bool const lackedBefore = meanwhile && std::exchange(meanwhile->isIncomplete, false);
+    auto const classes = findClassesWithin(*transformation, shown);
+    within_ = {look, shown, turn, scale, classes, !lacksFeatures(), windows_.news()};
+    if (meanwhile) meanwhile->isIncomplete |= lackedBefore;
+  }
+  if (meanwhile && !within_.isWhole) meanwhile->isIncomplete = true;
   return within_.classes;
 }
 
@@ -274,13 +288,28 @@ QList<_ptr_t<Element>> VectorLayer::unplacedLabels() const {
   return labels;
 }
 
+VectorLayer::Others VectorLayer::obstaclesIn(DisplayTransformation const& transformation,
+                                             _ptr_t<TrackerCancel> const& cancel) const {
+  Others others;
+  for (Layer const* const fellow : LayerHost::fellows(*this)) {
+    auto const* const layer = dynamic_cast<VectorLayer const*>(fellow);
+    bool const isNoObstacle = !layer || layer == this || layer->obstacle_ == LabelObstacle::None ||
+                              !layer->showsAt(transformation.GetMapScale());
+    if (isNoObstacle) continue;
+    if (auto features = layer->shownBy(transformation, cancel)) others.emplace_back(layer, std::move(features));
+  }
+  return others;
+}
+
 void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obstacles, QList<_ptr_t<Element>>& labels,
                                         _ptr_t<DisplayTransformation> const& transformation,
                                         _ptr_t<TrackerCancel> cancel) {
+  auto const store = transformation ? shownBy(*transformation, cancel) : nullptr;
+  auto const others = store ? obstaclesIn(*transformation, cancel) : Others();
+  if (lacksFeatures()) return;
   placedLabels_ = 0;
   placed_.clear();
   unplaced_.clear();
-  auto const store = transformation ? shownBy(*transformation, cancel) : nullptr;
   if (!store || !store->keepsLabels || store->size() == 0) return;
   LabelPlacer placer(*store, labels_, *renderer_, *transformation);
   if (!placer.isUsable()) return;
@@ -288,14 +317,7 @@ void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obsta
   for (auto const& list : obstacles)
     for (_ptr_t<Polygon> const& obstacle : list)
       if (obstacle) placer.addObstacle(*obstacle);
-  for (Layer const* const fellow : LayerHost::fellows(*this)) {
-    auto const* const vector = dynamic_cast<VectorLayer const*>(fellow);
-    if (!vector || vector == this || vector->obstacle_ == LabelObstacle::None ||
-        !vector->showsAt(transformation->GetMapScale()))
-      continue;
-    if (auto const other = vector->shownBy(*transformation, cancel))
-      placer.addObstacles(*other, *vector->renderer_, vector->obstacle_);
-  }
+  for (auto const& [layer, features] : others) placer.addObstacles(*features, *layer->renderer_, layer->obstacle_);
   placer.place([&] { return isCancelled(cancel); });
   placedLabels_ = placer.placedCount();
   placed_ = placer.labels();

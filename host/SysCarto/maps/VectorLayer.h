@@ -13,6 +13,8 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace SysDisplay {
 class DrawTarget;
@@ -55,10 +57,10 @@ public:
   SourceSettings const& source() const { return source_; }
 
   /// Why the source could not be read, as `open` answered it, or what is shown now.
-  QString const& problem() const { return problem_.isEmpty() ? windowProblem_ : problem_; }
+  QString problem() const;
 
-  /// As above, of all that was read since it was opened.
-  QString const& failure() const { return problem_.isEmpty() ? failure_ : problem_; }
+  /// The same for what a page would be drawn of now: what failed some time ago would be read again.
+  QString failure() const;
 
   /// What else is to be said of the features that were read so far, as sentences.
   QStringList const& warnings() const { return warnings_; }
@@ -84,11 +86,14 @@ public:
 
   // Some of the features, without reading others where the layer has windows. Shared with the layer, or not.
 
+  // `problem` becomes the sentence that says why not all could be read, or empty; it may be null.
+
   /// Those that meet an area of the map, and maybe others.
-  std::shared_ptr<FeatureStore const> featuresIn(Box const& area) const;
+  std::shared_ptr<FeatureStore const> featuresIn(Box const& area, QString* problem = nullptr) const;
 
   /// Those with these numbers in the source, and maybe others.
-  std::shared_ptr<FeatureStore const> featuresNumbered(std::vector<qint64> const& ids) const;
+  std::shared_ptr<FeatureStore const> featuresNumbered(std::vector<qint64> const& ids,
+                                                       QString* problem = nullptr) const;
 
   void setSpotlight(std::optional<Spotlight> const& spotlight);
 
@@ -124,17 +129,19 @@ public:
 private:
   QString read(ReadProgress const& progress, ReadDepth depth) const;
   void keepWarnings(ReadFeatures const& read) const;
-  void takeWindow(ReadFeatures const& read) const;
   FeatureStore const& form() const { return hasWindows() ? *store_ : features(); }
   ThinnedFeatures& thinned() const;
   LabelChoice labelChoice(double unitsPerPoint) const;
   std::shared_ptr<FeatureStore const> shared() const;
-  std::shared_ptr<FeatureStore const> readOnly(WindowQuery const& query) const;
+  std::shared_ptr<FeatureStore const> readOnly(WindowQuery const& query, QString* problem) const;
   std::shared_ptr<FeaturePack const> window(SysDisplay::DisplayTransformation const& transformation,
                                             double unitsPerPixel, Box const& reached, double reach,
                                             SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
   std::shared_ptr<FeatureStore const> shownBy(SysDisplay::DisplayTransformation const& transformation,
                                               SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
+  using Others = std::vector<std::pair<VectorLayer const*, std::shared_ptr<FeatureStore const>>>;
+  Others obstaclesIn(SysDisplay::DisplayTransformation const& transformation,
+                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
   QVector<bool> classesWithin(
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   QVector<bool> findClassesWithin(SysDisplay::DisplayTransformation const& transformation, Box const& shown) const;
@@ -149,7 +156,8 @@ private:
 
   SourceSettings source_;
   QString mapSystem_;
-  mutable QString problem_, windowProblem_, failure_;
+  mutable QString problem_;
+  QString spotlightProblem_;
   mutable QStringList warnings_;
   std::shared_ptr<Renderer const> renderer_;  // also of readings on other threads
   LabelSettings labels_;
@@ -175,6 +183,8 @@ private:
     QTransform turn;
     double scale = 0;
     QVector<bool> classes;
+    bool isWhole = true;
+    int news = 0;  // of windows, where it is not
   };
   mutable Within within_;
 };

@@ -37,8 +37,10 @@ QString labelOf(SysCarto::FeatureStore const& store, int number, Identified::Fea
 
 void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place, double reach, OpenTables& tables,
                 SysCarto::ReadProgress const& progress, Identified& found) {
-  auto const store = layer->featuresIn(SysCarto::Box{place.x(), place.y(), place.x(), place.y()}.grown(reach));
-  if (!layer->problem().isEmpty()) found.problems << layer->problem();
+  QString problem = layer->problem();
+  auto const store =
+      layer->featuresIn(SysCarto::Box{place.x(), place.y(), place.x(), place.y()}.grown(reach), &problem);
+  if (!problem.isEmpty()) found.problems << problem;
   auto numbers = SysCarto::featuresAt(*store, place.x(), place.y(), reach);
   if (numbers.empty()) return;
   if (numbers.size() > mostOfALayer) {
@@ -47,7 +49,7 @@ void identifyIn(_ptr_t<SysCarto::VectorLayer> const& layer, QPointF const& place
   }
   std::vector<qint64> ids;
   for (int const number : numbers) ids.push_back(store->ids[static_cast<size_t>(number)]);
-  QString problem;
+  problem.clear();
   SysCarto::FeatureTable const* const table = tables.of(layer, progress, problem);
   auto const rows = table ? table->rows(ids) : QHash<qint64, SysCarto::TableRow>();
   if (table) problem = table->problem();
