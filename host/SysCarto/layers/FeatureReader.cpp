@@ -350,13 +350,13 @@ std::unique_ptr<DataSource> withIndex(std::unique_ptr<DataSource> data, ReadTask
   result.wasStopped = made.wasStopped;
   if (made.wasStopped) return nullptr;
   if (made.isThere)
-    result.warnings << Texts::tr(
-                           "To read of %1 only what a map shows, it was indexed in “%2”; that is done once, and again "
-                           "where the file changes.")
-                           .arg(describeSource(source), made.folder);
+    result.notes << Texts::tr(
+                        "To read of %1 only what a map shows, it was indexed in “%2”; that is done once, and again "
+                        "where the file changes.")
+                        .arg(describeSource(source), made.folder);
   else if (!made.problem.isEmpty())
-    result.warnings << Texts::tr("%1 is read whole, since it can't be indexed in “%2”: %3.")
-                           .arg(describeSource(source), made.folder, made.problem);
+    result.notes << Texts::tr("%1 is read whole, since it can't be indexed in “%2”: %3.")
+                        .arg(describeSource(source), made.folder, made.problem);
   data.reset();
   return openWatched(source, progress, result.error);
 }

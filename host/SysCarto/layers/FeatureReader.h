@@ -40,6 +40,7 @@ struct ReadFeatures {
   std::unique_ptr<FeaturePack> pack;    ///< of a window that was thinned
   QString error;                        ///< a sentence that names file and layer; empty where all went well
   QStringList warnings;                 ///< sentences
+  QStringList notes;                    ///< sentences on how it was read, where nothing is wrong
   bool wasStopped = false;
 
   // Where the source has so many features that they are better read by windows, and can be.

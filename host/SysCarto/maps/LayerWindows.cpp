@@ -129,6 +129,7 @@ std::shared_ptr<FeatureStore const> VectorLayer::shared() const { return {std::s
 
 // The same is said of many windows.
 void VectorLayer::keepWarnings(ReadFeatures const& read) const {
+  notes_ += read.notes;
   for (QString const& warning : read.warnings)
     if (!warnings_.contains(warning) && warnings_.size() < mostWarnings) warnings_ << warning;
 }

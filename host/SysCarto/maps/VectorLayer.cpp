@@ -87,6 +87,7 @@ QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem
   source_ = source;
   mapSystem_ = mapSystem;
   warnings_.clear();
+  notes_.clear();
   spotlightProblem_.clear();
   problem_ = read(progress, depth);
   warnings += warnings_;

@@ -63,7 +63,7 @@ public:
   QString failure() const;
 
   /// What else is to be said of the features that were read so far, as sentences.
-  QStringList const& warnings() const { return warnings_; }
+  QStringList warnings() const { return warnings_ + notes_; }
 
   /// How much was read of what is being read for views, from 0 to 1; nothing where nothing is.
   std::optional<double> readShare() const;
@@ -158,7 +158,7 @@ private:
   QString mapSystem_;
   mutable QString problem_;
   QString spotlightProblem_;
-  mutable QStringList warnings_;
+  mutable QStringList warnings_, notes_;
   std::shared_ptr<Renderer const> renderer_;  // also of readings on other threads
   LabelSettings labels_;
   LabelObstacle obstacle_ = LabelObstacle::None;
