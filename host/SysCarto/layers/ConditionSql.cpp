@@ -41,7 +41,7 @@ QByteArray between(SqlColumn const& column, swq_expr_node const& low, swq_expr_n
 }
 
 // OGR takes texts for equal in another way where they end as times do.
-bool mayBeTime(QByteArray const& text) { return text.contains(':'); }
+bool mayBeTime(QByteArray const& text) { return text.contains(':') || text.endsWith("+00"); }
 
 QByteArray folded(QByteArray text) {
   for (char& letter : text)

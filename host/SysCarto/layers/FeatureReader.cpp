@@ -134,11 +134,14 @@ WindowThreshold toldSize(OGRLayer& layer, SourceSettings const& source) {
   return {dataSizeOf(source.file), knownCount(layer)};
 }
 
+bool isMuch(WindowThreshold const& size) {
+  return size.features >= threshold().features || size.bytes >= threshold().bytes;
+}
+
 // Whether windows are worth it. Only tables of an index of their own have one.
 bool isLarge(OGRLayer& layer, SourceSettings const& source) {
   if (source.data == SourceSettings::Data::Globe || !layer.TestCapability(OLCFastSpatialFilter)) return false;
-  WindowThreshold const size = toldSize(layer, source);
-  return size.features >= threshold().features || size.bytes >= threshold().bytes;
+  return isMuch(toldSize(layer, source));
 }
 
 // Hands on the parts of features that can be seen.
@@ -299,12 +302,14 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     result.count = toldSize(layer, source).features;
   }
   if (depth == ReadDepth::Schema) return;
-  SourceBounds bounds = source.connection.isEmpty() ? SourceBounds(source.file) : SourceBounds::ofServer();
+  bool const isOfServer = !source.connection.isEmpty();
+  SourceBounds bounds = isOfServer ? SourceBounds::ofServer() : SourceBounds(source.file);
   bool isEmpty = true, isNowhere = false;
   QString unplaced;
   if (result.hasWindows && isReadNow) {
+    condition.narrow(layer);
     if (followsLargest(renderer))
-      store.knowLargest(largestNumbers(layer, condition, renderer, evaluator, bounds, watch));
+      store.knowLargest(largestNumbers(layer, condition, renderer, evaluator, isOfServer ? nullptr : &bounds, watch));
     result.wasStopped = watch.wasStopped();
     isNowhere = result.extent.isEmpty();
   } else {
@@ -313,7 +318,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     Selection selection(layer, query, projector);
     if (!selection.isAll()) watch.countNone();
     condition.narrow(layer);
-    bool const isBounded = source.connection.isEmpty() || !result.pack;
+    bool const isBounded = !isOfServer || !result.pack;
     while (OGRFeatureUniquePtr feature = selection.next()) {
       if (isBounded && !bounds.admits(*feature)) break;
       if (feature->GetGeometryRef() && condition.admits(*feature)) {
@@ -340,13 +345,12 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
 }
 
 // A large source without an index gets one. What can't have one is read as it is.
-std::unique_ptr<DataSource> withIndex(std::unique_ptr<DataSource> data, ReadTask const& task,
+std::unique_ptr<DataSource> withIndex(std::unique_ptr<DataSource> data, QString const& state, ReadTask const& task,
                                       ReadProgress const& progress, ReadFeatures& result) {
   SourceSettings const& source = task.source;
   OGRLayer& layer = data->layer();
-  bool const isMany = knownCount(layer) >= threshold().features || dataSizeOf(source.file) >= threshold().bytes;
-  if (task.depth != ReadDepth::Features || !isMany || !SourceIndexes::isMissing(layer, source)) return data;
-  auto const made = SourceIndexes::make(layer, source, progress);
+  if (task.depth != ReadDepth::Features || !isMuch(toldSize(layer, source)) || !SourceIndexes::isMissing(layer, source)) return data;
+  auto const made = SourceIndexes::make(layer, source, state, progress);
   result.wasStopped = made.wasStopped;
   if (made.wasStopped) return nullptr;
   if (made.isThere)
@@ -365,8 +369,9 @@ ReadFeatures readTask(ReadTask const& task, QString const& mapSystem, ReadProgre
   SourceSettings const& source = task.source;
   ReadFeatures result;
   result.store = std::make_unique<FeatureStore>();
+  QString const state = SourceIndexes::stateOf(source);
   auto data = openWatched(source, progress, result.error);
-  if (data) data = withIndex(std::move(data), task, progress, result);
+  if (data) data = withIndex(std::move(data), state, task, progress, result);
   result.wasStopped = !data && result.error.isEmpty();
   if (result.wasStopped) result.error = stopped(source);
   if (!data) return result;

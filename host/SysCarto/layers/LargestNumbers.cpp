@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace SysCarto {
 
@@ -45,13 +46,15 @@ void ignoreGeometries(OGRLayer& layer, bool isIgnored) {
 
 // The largest with the feature that has it; of all features, or of those with a place.
 std::vector<Largest> pass(OGRLayer& layer, Condition const& condition, FeatureEvaluator const& evaluator, bool ofAll,
-                          SourceBounds bounds, ReadWatch& watch) {
+                          SourceBounds const* admitted, ReadWatch& watch) {
+  std::optional<SourceBounds> bounds;
+  if (admitted) bounds = *admitted;
   std::vector<Largest> largest;
   FeatureStore store;
   layer.ResetReading();
   while (OGRFeatureUniquePtr const feature{layer.GetNextFeature()}) {
     if (!watch.goesOn()) return {};
-    if (!bounds.admits(*feature)) break;
+    if (bounds && !bounds->admits(*feature)) break;
     if ((!ofAll && !hasPlace(*feature)) || !condition.admits(*feature)) continue;
     store.values.clear();
     evaluator.place(*feature, store);
@@ -74,7 +77,7 @@ bool followsLargest(Renderer const& renderer) {
 // A row without a place, such as one of sums, is not drawn. Where one has a largest number, geometries are read after
 // all.
 std::vector<double> largestNumbers(OGRLayer& layer, Condition const& condition, Renderer const& renderer,
-                                   FeatureEvaluator const& evaluator, SourceBounds const& bounds, ReadWatch& watch) {
+                                   FeatureEvaluator const& evaluator, SourceBounds const* bounds, ReadWatch& watch) {
   bool const isPlain = !asksForGeometry(condition, renderer);
   readInAnyOrder(layer);
   ignoreGeometries(layer, isPlain);

@@ -304,7 +304,7 @@ void ServerLayer::narrow(QByteArray const& sql) {
 }
 
 QByteArray ServerLayer::quoted(QByteArray const& text) const {
-  bool const isPlain = std::all_of(text.begin(), text.end(), [](char letter) { return letter > 0; });
+  bool const isPlain = std::all_of(text.begin(), text.end(), [](char letter) { return letter > 0 && letter < 127; });
   return isPlain || facts().hasAllLetters ? constant(text) : QByteArray();
 }
 

@@ -115,7 +115,10 @@ OGRFeatureUniquePtr IndexedLayer::nextStored() {
       if (!reading_) return nullptr;
       reading_->GetLayer(0)->SetSpatialFilter(m_poFilterGeom);
     }
-    while (OGRFeatureUniquePtr stored{reading_->GetLayer(0)->GetNextFeature()}) {
+    for (;;) {
+      CPLErrorReset();  // what others of this thread have failed in
+      OGRFeatureUniquePtr const stored{reading_->GetLayer(0)->GetNextFeature()};
+      if (!stored) break;
       OGRFeatureUniquePtr feature = form_.take(*stored);
       bool const hasPlace = feature->GetGeometryRef() && !feature->GetGeometryRef()->IsEmpty();
       if (!m_poFilterGeom || hasPlace) return feature;

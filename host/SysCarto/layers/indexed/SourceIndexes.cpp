@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QMutex>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStorageInfo>
 #include <QUuid>
@@ -108,7 +109,6 @@ struct IndexName {
                    stampsOf(source.file))};
   }
   QString path() const { return QDir(folderOfIndexes()).filePath(place + QLatin1Char('-') + state); }
-  bool operator==(IndexName const& other) const { return place == other.place && state == other.state; }
 };
 
 QString aboutIn(QString const& folder) { return QDir(folder).filePath(QLatin1String(IndexFiles::about)); }
@@ -134,7 +134,14 @@ qint64 sizeOf(QString const& folder) {
   return bytes;
 }
 
-QFileInfoList indexes() { return QDir(folderOfIndexes()).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot); }
+// Nothing else that may lie there.
+QFileInfoList indexes() {
+  static QRegularExpression const name(QStringLiteral("^[0-9a-f]{20}-[0-9a-f]{20}$"));
+  auto all = QDir(folderOfIndexes()).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
+  auto const isOther = [](QFileInfo const& one) { return !name.match(one.fileName()).hasMatch(); };
+  all.erase(std::remove_if(all.begin(), all.end(), isOther), all.end());
+  return all;
+}
 
 bool remove(QString const& folder) {
   auto const lock = lockedAbout(folder, LOCK_EX);
@@ -252,7 +259,7 @@ SourceIndexes::Made filled(UnfinishedIndex& unfinished, IndexName const& name, O
   IndexWriter writer(unfinished.path(), *form, allowed);
   Writing writing = writeAll(layer, source, writer, progress);
   made.wasStopped = writing == Writing::Stopped;
-  bool const isSame = name == IndexName::of(source);
+  bool const isSame = name.state == IndexName::of(source).state;
   if (made.wasStopped || !isSame) return made;
   if (writing == Writing::Done && !errors.hasFailure()) {
     made.isThere = unfinished.becomes(name.path());
@@ -282,6 +289,7 @@ std::unique_ptr<OGRLayer> SourceIndexes::find(SourceSettings const& source) {
   QJsonObject const about = readAbout(*use);
   auto layer = IndexedLayer::open(folder, about, std::move(use));
   if (layer) markUsed(folder);
+  if (!layer && !about.contains(unfitKey)) remove(folder);  // damaged: it is made anew
   return layer;
 }
 
@@ -293,10 +301,16 @@ bool SourceIndexes::isMissing(OGRLayer& layer, SourceSettings const& source) {
   return !isGivenUp(index) && !QFileInfo::exists(aboutIn(index));
 }
 
-SourceIndexes::Made SourceIndexes::make(OGRLayer& layer, SourceSettings const& source, ReadProgress const& progress) {
+QString SourceIndexes::stateOf(SourceSettings const& source) {
+  return mayHaveIndex(source) ? IndexName::of(source).state : QString();
+}
+
+SourceIndexes::Made SourceIndexes::make(OGRLayer& layer, SourceSettings const& source, QString const& state,
+                                        ReadProgress const& progress) {
   IndexName const name = IndexName::of(source);
-  UnfinishedIndex unfinished;
   Made made;
+  if (name.state != state) return made;
+  UnfinishedIndex unfinished;
   if (unfinished.isThere())
     made = filled(unfinished, name, layer, source, progress);
   else

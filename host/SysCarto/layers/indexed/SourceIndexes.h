@@ -34,8 +34,11 @@ public:
     QString problem;  ///< to go on after "it can't be indexed: "; empty, too, where only this source does not fit
   };
 
-  /// Reads all of a source, whose layer this is, for an index.
-  static Made make(OGRLayer& layer, SourceSettings const& source, ReadProgress const& progress);
+  /// What a source is like now, for `make`; to be asked before it is opened.
+  static QString stateOf(SourceSettings const& source);
+
+  /// Reads all of a source, whose layer this is, for an index. What has changed since it was opened gets none.
+  static Made make(OGRLayer& layer, SourceSettings const& source, QString const& state, ReadProgress const& progress);
 };
 
 /// Has a layer give its features in the order that costs least.
