@@ -1556,6 +1556,14 @@
         <source>Add tables of a PostGIS database to the map</source>
         <translation>Tabellen einer PostGIS-Datenbank zur Karte hinzufügen</translation>
     </message>
+    <message>
+        <source>Index Large Files</source>
+        <translation>Große Dateien indizieren</translation>
+    </message>
+    <message>
+        <source>Keep indexes of large files that have none in the user&apos;s cache, so that only what a map shows is read</source>
+        <translation>Für große Dateien ohne Index einen im Cache des Benutzers behalten, damit nur gelesen wird, was eine Karte zeigt</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1724,6 +1732,10 @@
         <source>The user of the connection “%1” has no permission to read the table “%2”; have its owner grant that user SELECT.</source>
         <translation>Der Benutzer der Verbindung „%1“ hat kein Recht, die Tabelle „%2“ zu lesen; ihr Besitzer muss ihm SELECT gewähren.</translation>
     </message>
+    <message>
+        <source>GDAL does not say why</source>
+        <translation>GDAL sagt nicht, warum</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionsDialog</name>
@@ -1786,6 +1798,14 @@
     <message>
         <source>The connection “%1” leads to these tables: %2.</source>
         <translation>Die Verbindung „%1“ führt zu diesen Tabellen: %2.</translation>
+    </message>
+    <message>
+        <source>Remove the connection “%1”? Layers that are read from it can&apos;t be read then.</source>
+        <translation>Die Verbindung „%1“ entfernen? Ebenen, die daraus gelesen werden, lassen sich dann nicht mehr lesen.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -2008,7 +2028,7 @@
     </message>
     <message>
         <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
-        <translation>es gibt sie nicht; legen Sie sie dort ab, oder nennen Sie in der Quelle der Ebene eine andere Datei</translation>
+        <translation>die Datei gibt es nicht; legen Sie sie dort ab, oder nennen Sie in der Quelle der Ebene eine andere</translation>
     </message>
     <message>
         <source>it is not a file; name one in the layer&apos;s source</source>
@@ -2064,7 +2084,7 @@
     </message>
     <message>
         <source>it is empty</source>
-        <translation>sie ist leer</translation>
+        <translation>die Datei ist leer</translation>
     </message>
     <message>
         <source>Of the columns of coordinates in “%1” only one is named; give both xField and yField, or neither.</source>
@@ -2121,6 +2141,14 @@
     <message>
         <source>there is no KML in this archive that can be read; unpack it, and name the file in it</source>
         <translation>in diesem Archiv ist keine KML-Datei, die gelesen werden kann; entpacken Sie es, und nennen Sie die Datei darin</translation>
+    </message>
+    <message>
+        <source>The table “%1” of the connection “%2” can&apos;t be read: %3.</source>
+        <translation>Die Tabelle „%1“ der Verbindung „%2“ kann nicht gelesen werden: %3.</translation>
+    </message>
+    <message>
+        <source>it begins as a file of the format %1 does, and is not whole, or damaged; fetch it again</source>
+        <translation>sie beginnt wie eine Datei im Format %1, ist aber unvollständig oder beschädigt; holen Sie sie noch einmal</translation>
     </message>
 </context>
 <context>
@@ -2476,6 +2504,10 @@
     <message>
         <source>connection %1, table %2</source>
         <translation>Verbindung %1, Tabelle %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 labels placed</source>
+        <translation>%1 von %2 Beschriftungen platziert</translation>
     </message>
 </context>
 <context>
@@ -3053,6 +3085,14 @@
         <source>The coordinate system of %1 can&apos;t be read: %2. Mend the file, or give the system in the source&apos;s field “coordinateSystem”.</source>
         <translation>Das Koordinatensystem von %1 lässt sich nicht lesen: %2. Reparieren Sie die Datei, oder geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
+    <message>
+        <source>To read of %1 only what a map shows, it was indexed in “%2”; that is done once, and again where the file changes.</source>
+        <translation>Um von %1 nur das zu lesen, was eine Karte zeigt, wurde dafür in „%2“ ein Index angelegt; das geschieht einmal, und wieder, wenn sich die Datei ändert.</translation>
+    </message>
+    <message>
+        <source>%1 is read whole, since it can&apos;t be indexed in “%2”: %3.</source>
+        <translation>%1 wird ganz gelesen, da in „%2“ kein Index dafür angelegt werden kann: %3.</translation>
+    </message>
 </context>
 <context>
     <name>FeatureScan</name>
@@ -3070,6 +3110,10 @@
     <message>
         <source>The condition “%1” is not understood: %2.</source>
         <translation>Die Bedingung „%1“ wird nicht verstanden: %2.</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read: %2.</source>
+        <translation>%1 konnte nicht ganz gelesen werden: %2.</translation>
     </message>
 </context>
 <context>
@@ -4918,7 +4962,7 @@
     </message>
     <message>
         <source>Credits</source>
-        <translation>Quellen</translation>
+        <translation>Quellennachweis</translation>
     </message>
     <message>
         <source>Whom the data come from; [credits] in a text of the page names them all.</source>
@@ -6066,7 +6110,7 @@
     </message>
     <message>
         <source>What a legend calls it; the value where it is empty.</source>
-        <translation>Wie eine Legende ihn nennt; der Wert, wo es leer ist.</translation>
+        <translation type="vanished">Wie eine Legende ihn nennt; der Wert, wo es leer ist.</translation>
     </message>
     <message>
         <source>Vertical factor</source>
@@ -6246,7 +6290,7 @@
     </message>
     <message>
         <source>Timeout</source>
-        <translation>Zeitgrenze</translation>
+        <translation type="vanished">Zeitgrenze</translation>
     </message>
     <message>
         <source>So many seconds the server may take for an answer.</source>
@@ -6259,6 +6303,18 @@
     <message>
         <source>Whether documents that are opened in the window may read from it without that being asked, whoever made them.</source>
         <translation>Ob Dokumente, die im Fenster geöffnet werden, daraus lesen dürfen, ohne dass gefragt wird, von wem sie auch sind.</translation>
+    </message>
+    <message>
+        <source>Timeout in seconds</source>
+        <translation>Zeitgrenze in Sekunden</translation>
+    </message>
+    <message>
+        <source>What a legend calls it; where it is empty, its value, or from where to where it reaches.</source>
+        <translation>Wie eine Legende sie nennt; wenn leer, ihr Wert oder von wo bis wo sie reicht.</translation>
+    </message>
+    <message>
+        <source>there is no field “%1”</source>
+        <translation>es gibt kein Feld „%1“</translation>
     </message>
 </context>
 <context>
@@ -6799,6 +6855,13 @@
     </message>
 </context>
 <context>
+    <name>IndexedLayer</name>
+    <message>
+        <source>the index in “%1” is damaged; remove that folder, or give --no-cache</source>
+        <translation>der Index in „%1“ ist beschädigt; löschen Sie diesen Ordner, oder geben Sie --no-cache an</translation>
+    </message>
+</context>
+<context>
     <name>InfoSubcommand</name>
     <message>
         <source>The .kdx document.</source>
@@ -6822,7 +6885,7 @@
     </message>
     <message>
         <source>With --json, tell of each layer how many of its labels find a place. It reads all features.</source>
-        <translation>Mit --json zu jeder Ebene angeben, wie viele ihrer Beschriftungen einen Platz finden. Dafür werden alle Objekte gelesen.</translation>
+        <translation type="vanished">Mit --json zu jeder Ebene angeben, wie viele ihrer Beschriftungen einen Platz finden. Dafür werden alle Objekte gelesen.</translation>
     </message>
     <message>
         <source>The .kdx document, a file or folder of data, or connection:NAME.</source>
@@ -6831,6 +6894,10 @@
     <message>
         <source>%1 has no table &quot;%2&quot; that its user may read; it has: %3.</source>
         <translation>%1 hat keine Tabelle &quot;%2&quot;, die ihr Benutzer lesen darf; es gibt: %3.</translation>
+    </message>
+    <message>
+        <source>Tell of each layer how many of its labels find a place. It reads all features.</source>
+        <translation>Zu jeder Ebene sagen, wie viele ihrer Beschriftungen Platz finden. Dabei werden alle Objekte gelesen.</translation>
     </message>
 </context>
 <context>
@@ -7359,7 +7426,7 @@
     </message>
     <message>
         <source>Credits</source>
-        <translation>Quellen</translation>
+        <translation>Quellennachweis</translation>
     </message>
     <message>
         <source>No table is joined.</source>
@@ -7454,6 +7521,14 @@
     <message>
         <source>%1, hillshade</source>
         <translation>%1, Schummerung</translation>
+    </message>
+    <message>
+        <source>has no overviews, so that a picture of all of it takes long; make them, as by gdaladdo</source>
+        <translation>hat keine Übersichten, sodass ein Bild vom Ganzen lange dauert; legen Sie welche an, etwa mit gdaladdo</translation>
+    </message>
+    <message>
+        <source>without outlines, for which most of its areas are too small</source>
+        <translation>ohne Umrisse, für die die meisten ihrer Flächen zu klein sind</translation>
     </message>
 </context>
 <context>
@@ -7968,6 +8043,10 @@
         <source>Texts of the template that stay as they are</source>
         <translation>Texte der Vorlage, die bleiben, wie sie sind</translation>
     </message>
+    <message>
+        <source>The data are about as broad as high.</source>
+        <translation>Die Daten sind etwa so breit wie hoch.</translation>
+    </message>
 </context>
 <context>
     <name>NewMapDialog</name>
@@ -8442,7 +8521,7 @@
     </message>
     <message>
         <source>Credits</source>
-        <translation>Quellen</translation>
+        <translation>Quellennachweis</translation>
     </message>
     <message>
         <source>Map data: [credits]</source>
@@ -8845,6 +8924,13 @@
     </message>
 </context>
 <context>
+    <name>RasterRenderer</name>
+    <message>
+        <source>The classes stand in for it, so that it does not count.</source>
+        <translation>An seiner Stelle gelten die Klassen, sodass es nicht zählt.</translation>
+    </message>
+</context>
+<context>
     <name>RasterSource</name>
     <message>
         <source>The raster “%1” can&apos;t be opened: %2.</source>
@@ -8852,7 +8938,7 @@
     </message>
     <message>
         <source>it does not exist; put it there, or name another file in the layer&apos;s source</source>
-        <translation>es gibt sie nicht; legen Sie sie dort ab, oder nennen Sie in der Quelle der Ebene eine andere Datei</translation>
+        <translation>die Datei gibt es nicht; legen Sie sie dort ab, oder nennen Sie in der Quelle der Ebene eine andere</translation>
     </message>
     <message>
         <source>it is not a file; name one in the layer&apos;s source</source>
@@ -8860,7 +8946,7 @@
     </message>
     <message>
         <source>it is empty</source>
-        <translation>sie ist leer</translation>
+        <translation>die Datei ist leer</translation>
     </message>
     <message>
         <source>it only refers to other files; make one file of it, as by gdal_translate</source>
@@ -8904,11 +8990,11 @@
     </message>
     <message>
         <source>it is not whole, or damaged; fetch it again</source>
-        <translation>sie ist unvollständig oder beschädigt; noch einmal holen</translation>
+        <translation>die Datei ist unvollständig oder beschädigt; holen Sie sie noch einmal</translation>
     </message>
     <message>
         <source>it names another file for its overviews, which is not opened; save it without that entry</source>
-        <translation>sie nennt für ihre Übersichten eine andere Datei, die nicht geöffnet wird; ohne diesen Eintrag speichern</translation>
+        <translation>die Datei nennt für ihre Übersichten eine andere, die nicht geöffnet wird; speichern Sie sie ohne diesen Eintrag</translation>
     </message>
 </context>
 <context>
@@ -9363,6 +9449,21 @@ Die Kopie bleibt in %2.</translation>
     </message>
 </context>
 <context>
+    <name>SourceIndexes</name>
+    <message>
+        <source>it would take more than a tenth of the room that is free there</source>
+        <translation>er nähme mehr als ein Zehntel des Platzes ein, der dort frei ist</translation>
+    </message>
+    <message>
+        <source>it could not be written</source>
+        <translation>er konnte nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>nothing can be written there</source>
+        <translation>dort kann nichts geschrieben werden</translation>
+    </message>
+</context>
+<context>
     <name>StoredFormat</name>
     <message>
         <source>document for .kdx files, which is meant without it, or style for .style files.</source>
@@ -9513,6 +9614,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>A connection for --confine, by its name; may be given several times.</source>
         <translation>Eine Verbindung für --confine, mit ihrem Namen; mehrmals möglich.</translation>
+    </message>
+    <message>
+        <source>Make and use no indexes of large files in the user&apos;s cache.</source>
+        <translation>Keine Indizes großer Dateien im Cache des Benutzers anlegen oder verwenden.</translation>
     </message>
 </context>
 <context>
@@ -9713,6 +9818,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>%1 of %2 labels found no place</source>
         <translation>%1 von %2 Beschriftungen fanden keinen Platz</translation>
+    </message>
+    <message>
+        <source>%1 of it were read</source>
+        <translation>%1 davon gelesen</translation>
     </message>
 </context>
 <context>

@@ -1556,6 +1556,14 @@
         <source>Add tables of a PostGIS database to the map</source>
         <translation>将 PostGIS 数据库的表添加到地图</translation>
     </message>
+    <message>
+        <source>Index Large Files</source>
+        <translation>为大文件建立索引</translation>
+    </message>
+    <message>
+        <source>Keep indexes of large files that have none in the user&apos;s cache, so that only what a map shows is read</source>
+        <translation>在用户缓存中为没有索引的大文件保留索引，以便只读取地图所显示的部分</translation>
+    </message>
 </context>
 <context>
     <name>CommandsSubcommand</name>
@@ -1718,11 +1726,15 @@
     </message>
     <message>
         <source>The table “%1” of the connection “%2” can&apos;t be read: %3.</source>
-        <translation>无法读取连接“%2”的表“%1”:%3。</translation>
+        <translation>无法读取连接“%2”的表“%1”：%3。</translation>
     </message>
     <message>
         <source>The user of the connection “%1” has no permission to read the table “%2”; have its owner grant that user SELECT.</source>
         <translation>连接“%1”的用户无权读取表“%2”;请让该表的所有者授予该用户 SELECT 权限。</translation>
+    </message>
+    <message>
+        <source>GDAL does not say why</source>
+        <translation>GDAL 没有说明原因</translation>
     </message>
 </context>
 <context>
@@ -1786,6 +1798,14 @@
     <message>
         <source>The connection “%1” leads to these tables: %2.</source>
         <translation>连接“%1”含有这些表:%2。</translation>
+    </message>
+    <message>
+        <source>Remove the connection “%1”? Layers that are read from it can&apos;t be read then.</source>
+        <translation>移除连接“%1”？之后将无法读取来自它的图层。</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
     </message>
 </context>
 <context>
@@ -2121,6 +2141,14 @@
     <message>
         <source>there is no KML in this archive that can be read; unpack it, and name the file in it</source>
         <translation>此压缩包中没有可读取的 KML 文件；请将其解压，然后指定其中的文件</translation>
+    </message>
+    <message>
+        <source>The table “%1” of the connection “%2” can&apos;t be read: %3.</source>
+        <translation>无法读取连接“%2”的表“%1”：%3。</translation>
+    </message>
+    <message>
+        <source>it begins as a file of the format %1 does, and is not whole, or damaged; fetch it again</source>
+        <translation>其开头像 %1 格式的文件，但不完整或已损坏；请重新获取</translation>
     </message>
 </context>
 <context>
@@ -2476,6 +2504,10 @@
     <message>
         <source>connection %1, table %2</source>
         <translation>连接 %1,表 %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 labels placed</source>
+        <translation>已放置注记 %1，共 %2</translation>
     </message>
 </context>
 <context>
@@ -3053,6 +3085,14 @@
         <source>The coordinate system of %1 can&apos;t be read: %2. Mend the file, or give the system in the source&apos;s field “coordinateSystem”.</source>
         <translation>无法读取%1的坐标系：%2。请修复文件，或在数据源的“coordinateSystem”字段中给出坐标系。</translation>
     </message>
+    <message>
+        <source>To read of %1 only what a map shows, it was indexed in “%2”; that is done once, and again where the file changes.</source>
+        <translation>为了只读取地图所显示的部分，已在“%2”中为%1建立索引；只需一次，文件改变后会重新建立。</translation>
+    </message>
+    <message>
+        <source>%1 is read whole, since it can&apos;t be indexed in “%2”: %3.</source>
+        <translation>将完整读取%1，因为无法在“%2”中为其建立索引：%3。</translation>
+    </message>
 </context>
 <context>
     <name>FeatureScan</name>
@@ -3070,6 +3110,10 @@
     <message>
         <source>The condition “%1” is not understood: %2.</source>
         <translation>条件“%1”无法理解：%2。</translation>
+    </message>
+    <message>
+        <source>Not all of %1 could be read: %2.</source>
+        <translation>未能读取 %1 的全部内容：%2。</translation>
     </message>
 </context>
 <context>
@@ -6066,7 +6110,7 @@
     </message>
     <message>
         <source>What a legend calls it; the value where it is empty.</source>
-        <translation>图例中的名称;为空时用该值。</translation>
+        <translation type="vanished">图例中的名称;为空时用该值。</translation>
     </message>
     <message>
         <source>Vertical factor</source>
@@ -6246,7 +6290,7 @@
     </message>
     <message>
         <source>Timeout</source>
-        <translation>超时</translation>
+        <translation type="vanished">超时</translation>
     </message>
     <message>
         <source>So many seconds the server may take for an answer.</source>
@@ -6259,6 +6303,18 @@
     <message>
         <source>Whether documents that are opened in the window may read from it without that being asked, whoever made them.</source>
         <translation>在窗口中打开的文档(无论出自何人)是否可以不经询问从中读取。</translation>
+    </message>
+    <message>
+        <source>Timeout in seconds</source>
+        <translation>超时（秒）</translation>
+    </message>
+    <message>
+        <source>What a legend calls it; where it is empty, its value, or from where to where it reaches.</source>
+        <translation>图例中的名称；为空时是其值，或其起止范围。</translation>
+    </message>
+    <message>
+        <source>there is no field “%1”</source>
+        <translation>没有字段“%1”</translation>
     </message>
 </context>
 <context>
@@ -6799,6 +6855,13 @@
     </message>
 </context>
 <context>
+    <name>IndexedLayer</name>
+    <message>
+        <source>the index in “%1” is damaged; remove that folder, or give --no-cache</source>
+        <translation>“%1”中的索引已损坏；请删除该文件夹，或使用 --no-cache</translation>
+    </message>
+</context>
+<context>
     <name>InfoSubcommand</name>
     <message>
         <source>The .kdx document.</source>
@@ -6822,7 +6885,7 @@
     </message>
     <message>
         <source>With --json, tell of each layer how many of its labels find a place. It reads all features.</source>
-        <translation>与 --json 一起使用：说明每个图层有多少注记找到了位置。这会读取所有要素。</translation>
+        <translation type="vanished">与 --json 一起使用：说明每个图层有多少注记找到了位置。这会读取所有要素。</translation>
     </message>
     <message>
         <source>The .kdx document, a file or folder of data, or connection:NAME.</source>
@@ -6831,6 +6894,10 @@
     <message>
         <source>%1 has no table &quot;%2&quot; that its user may read; it has: %3.</source>
         <translation>%1 没有其用户可以读取的表“%2”;现有:%3。</translation>
+    </message>
+    <message>
+        <source>Tell of each layer how many of its labels find a place. It reads all features.</source>
+        <translation>说明每个图层有多少注记找到了位置。为此会读取所有要素。</translation>
     </message>
 </context>
 <context>
@@ -7455,6 +7522,14 @@
         <source>%1, hillshade</source>
         <translation>%1,山体阴影</translation>
     </message>
+    <message>
+        <source>has no overviews, so that a picture of all of it takes long; make them, as by gdaladdo</source>
+        <translation>没有金字塔概览，因此绘制全图需要很久；请建立概览，例如用 gdaladdo</translation>
+    </message>
+    <message>
+        <source>without outlines, for which most of its areas are too small</source>
+        <translation>不画轮廓线，因为多数面太小</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -7967,6 +8042,10 @@
     <message>
         <source>Texts of the template that stay as they are</source>
         <translation>保持不变的模板文本</translation>
+    </message>
+    <message>
+        <source>The data are about as broad as high.</source>
+        <translation>数据的宽与高大致相等。</translation>
     </message>
 </context>
 <context>
@@ -8845,6 +8924,13 @@
     </message>
 </context>
 <context>
+    <name>RasterRenderer</name>
+    <message>
+        <source>The classes stand in for it, so that it does not count.</source>
+        <translation>由各类代替，因此它不起作用。</translation>
+    </message>
+</context>
+<context>
     <name>RasterSource</name>
     <message>
         <source>The raster “%1” can&apos;t be opened: %2.</source>
@@ -9363,6 +9449,21 @@ The copy is kept in %2.</source>
     </message>
 </context>
 <context>
+    <name>SourceIndexes</name>
+    <message>
+        <source>it would take more than a tenth of the room that is free there</source>
+        <translation>它将占用那里可用空间的十分之一以上</translation>
+    </message>
+    <message>
+        <source>it could not be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>nothing can be written there</source>
+        <translation>无法在那里写入</translation>
+    </message>
+</context>
+<context>
     <name>StoredFormat</name>
     <message>
         <source>document for .kdx files, which is meant without it, or style for .style files.</source>
@@ -9513,6 +9614,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>A connection for --confine, by its name; may be given several times.</source>
         <translation>用于 --confine 的连接名称;可多次给出。</translation>
+    </message>
+    <message>
+        <source>Make and use no indexes of large files in the user&apos;s cache.</source>
+        <translation>不在用户缓存中建立或使用大文件的索引。</translation>
     </message>
 </context>
 <context>
@@ -9713,6 +9818,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>%1 of %2 labels found no place</source>
         <translation>%2 个标注中有 %1 个没有位置</translation>
+    </message>
+    <message>
+        <source>%1 of it were read</source>
+        <translation>已读取 %1</translation>
     </message>
 </context>
 <context>
