@@ -123,7 +123,7 @@ private slots:
   // What a view draws at once lacks what is still read, and it is told when there is more.
   void whoDoesNotWaitIsToldOfTheRest() {
     auto const former = setWindowThreshold({0, 0});
-    auto const large = opened({sample("world.gpkg"), "countries", {}, {}}, "EPSG:8857", marker());
+    auto const large = opened({sample("world.gpkg"), "cities", {}, {}}, "EPSG:8857", marker());
     setWindowThreshold(former);
     Sheet const sheet = shown(large.layer->extent(), QSize(300, 200), 2);
     auto const drawnAtOnce = [&](bool& isIncomplete) {
