@@ -54,8 +54,7 @@ public:
       if (firstMs < 0) firstMs = clock.elapsed();
       if (turn < idleTurnMs) QThread::msleep(1);
     } while (!opened.view().isComplete());
-    QTextStream(stdout)
-        << QStringLiteral("%1 %2 %3\n").arg(firstMs).arg(clock.elapsed()).arg(longest, 0, 'f', 1);
+    QTextStream(stdout) << QStringLiteral("%1 %2 %3\n").arg(firstMs).arg(clock.elapsed()).arg(longest, 0, 'f', 1);
   }
 
   void addElements(int count) {

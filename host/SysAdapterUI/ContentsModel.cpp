@@ -329,9 +329,8 @@ QString ContentsModel::spokenOf(Node const& node) const {
 }
 
 bool ContentsModel::isReading() const {
-  return std::any_of(known_.begin(), known_.end(), [](Node const* node) {
-    return node->isLayer() && SysCarto::readShareOf(*node->row.layer);
-  });
+  return std::any_of(known_.begin(), known_.end(),
+                     [](Node const* node) { return node->isLayer() && SysCarto::readShareOf(*node->row.layer); });
 }
 
 QVariant ContentsModel::data(QModelIndex const& index, int role) const {

@@ -71,7 +71,10 @@ void forEachParent(QAbstractItemModel const& model, QTreeView const& view, Use c
 }  // namespace
 
 ContentsTree::ContentsTree(QWidget* parent)
-    : QTreeView(parent), model_(new ContentsModel(this)), shares_(new QTimer(this)), listener_([this] { followReading(); }) {
+    : QTreeView(parent),
+      model_(new ContentsModel(this)),
+      shares_(new QTimer(this)),
+      listener_([this] { followReading(); }) {
   setObjectName(QStringLiteral("treeView_Contents"));
   setAccessibleName(tr("Maps and layers"));
   setModel(model_);

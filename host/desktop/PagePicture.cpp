@@ -125,7 +125,8 @@ bool PagePicture::takeNews() {
 }
 
 bool PagePicture::isComplete() const {
-  return !lacksFeatures_ && std::all_of(tiles_.begin(), tiles_.end(), [](MapTiles const& one) { return one.isComplete(); });
+  return !lacksFeatures_ &&
+         std::all_of(tiles_.begin(), tiles_.end(), [](MapTiles const& one) { return one.isComplete(); });
 }
 
 bool PagePicture::canGoOn() const {

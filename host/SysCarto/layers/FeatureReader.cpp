@@ -349,7 +349,8 @@ std::unique_ptr<DataSource> withIndex(std::unique_ptr<DataSource> data, QString 
                                       ReadProgress const& progress, ReadFeatures& result) {
   SourceSettings const& source = task.source;
   OGRLayer& layer = data->layer();
-  if (task.depth != ReadDepth::Features || !isMuch(toldSize(layer, source)) || !SourceIndexes::isMissing(layer, source)) return data;
+  if (task.depth != ReadDepth::Features || !isMuch(toldSize(layer, source)) || !SourceIndexes::isMissing(layer, source))
+    return data;
   auto const made = SourceIndexes::make(layer, source, state, progress);
   result.wasStopped = made.wasStopped;
   if (made.wasStopped) return nullptr;

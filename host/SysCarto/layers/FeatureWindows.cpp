@@ -33,9 +33,7 @@ struct Cells {
     return {ThinningGrid::forPixels(wish.unitsPerPixel / margin).cell(),
             ThinningGrid::forPixels(wish.unitsPerPixel).cell()};
   }
-  bool has(double cell, bool isExact) const {
-    return cell <= most * sameCell && (!isExact || cell * sameCell >= read);
-  }
+  bool has(double cell, bool isExact) const { return cell <= most * sameCell && (!isExact || cell * sameCell >= read); }
 };
 
 struct Kept {

@@ -19,8 +19,8 @@ struct WindowWish {
 };
 
 /// The windows of a layer that were read last, and those that are being read. What lies within one of them, and is no
-/// finer, needs no reading. The last one of each layer stays, and that of a part; those before have some memory together,
-/// whatever layers they are of.
+/// finer, needs no reading. The last one of each layer stays, and that of a part; those before have some memory
+/// together, whatever layers they are of.
 class FeatureWindows {
 public:
   using Taken = std::function<void(ReadFeatures const& window)>;

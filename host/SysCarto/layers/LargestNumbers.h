@@ -16,8 +16,8 @@ class SourceBounds;
 bool followsLargest(Renderer const& renderer);
 
 /// The largest of each number that symbols follow, of all features of a layer that have a place and that the condition
-/// admits, found without their geometries; nothing where the watch ended it. What goes beyond the bounds, where there are any,
-/// is left out.
+/// admits, found without their geometries; nothing where the watch ended it. What goes beyond the bounds, where there
+/// are any, is left out.
 std::vector<double> largestNumbers(OGRLayer& layer, Condition const& condition, Renderer const& renderer,
                                    FeatureEvaluator const& evaluator, SourceBounds const* bounds, ReadWatch& watch);
 

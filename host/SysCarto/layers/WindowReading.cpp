@@ -17,8 +17,7 @@ constexpr int pauseGrowth = 2;  // so that to show what there is costs no more t
 }  // namespace
 
 std::shared_ptr<WindowReading> WindowReading::begin(Read read, WindowQuery query, std::function<void()> news) {
-  std::shared_ptr<WindowReading> const reading(
-      new WindowReading(std::move(read), std::move(query), std::move(news)));
+  std::shared_ptr<WindowReading> const reading(new WindowReading(std::move(read), std::move(query), std::move(news)));
   queueReading([reading] { reading->work(); });
   return reading;
 }

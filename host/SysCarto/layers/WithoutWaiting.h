@@ -9,9 +9,9 @@
 
 namespace SysCarto {
 
-/// While one lives, layers that are drawn, labelled or asked on this thread don't wait for features that have to be read
-/// first. Other threads read these, what is there is drawn, and `ReadingListener` tells of more: for pictures that are
-/// drawn again then.
+/// While one lives, layers that are drawn, labelled or asked on this thread don't wait for features that have to be
+/// read first. Other threads read these, what is there is drawn, and `ReadingListener` tells of more: for pictures that
+/// are drawn again then.
 class SYSCARTO_EXPORT WithoutWaiting {
 public:
   WithoutWaiting();
@@ -32,7 +32,8 @@ private:
   WithoutWaiting* const around_;
 };
 
-/// Calls a function, on the thread of the user interface, when layers that were drawn without waiting have more to show.
+/// Calls a function, on the thread of the user interface, when layers that were drawn without waiting have more to
+/// show.
 class SYSCARTO_EXPORT ReadingListener {
 public:
   explicit ReadingListener(std::function<void()> told);

@@ -159,12 +159,13 @@ std::shared_ptr<FeatureStore const> VectorLayer::featuresNumbered(std::vector<qi
   return ids.empty() ? std::make_shared<FeatureStore>() : readOnly({Box(), 0, ids, {}}, problem);
 }
 
-// At least what a page in print shows is read, so that a view, its labels, its legends and an export have one window. Of
-// a page that is enlarged beyond that, what is on the screen, and as much around it.
+// At least what a page in print shows is read, so that a view, its labels, its legends and an export have one window.
+// Of a page that is enlarged beyond that, what is on the screen, and as much around it.
 std::shared_ptr<FeaturePack const> VectorLayer::window(DisplayTransformation const& transformation,
                                                        double unitsPerPixel, Box const& reached, double reach,
                                                        _ptr_t<TrackerCancel> const& cancel) const {
-  double const unitsPerPoint = transformation.PixelsPerPoint() / DisplayTransformationHost::pixelsPerUnit(transformation);
+  double const unitsPerPoint =
+      transformation.PixelsPerPoint() / DisplayTransformationHost::pixelsPerUnit(transformation);
   double const printed = unitsPerPoint * pointsPerInch / printedDpi;
   auto const* const meanwhile = WithoutWaiting::current();
   WindowWish wish;

@@ -36,8 +36,8 @@ struct Identified {
 /// they are: to open some files means to read them.
 class OpenTables {
 public:
-  /// Null where it can't be opened, with a sentence in `problem`, or where `progress` wanted no more; good until the next
-  /// call. One that could not be read is opened anew.
+  /// Null where it can't be opened, with a sentence in `problem`, or where `progress` wanted no more; good until the
+  /// next call. One that could not be read is opened anew.
   SysCarto::FeatureTable const* of(SysUtility::_ptr_t<SysCarto::VectorLayer> const& layer,
                                    SysCarto::ReadProgress const& progress, QString& problem);
   void close() { tables_.clear(); }
