@@ -74,7 +74,7 @@ ContentsTree::ContentsTree(QWidget* parent)
     : QTreeView(parent),
       model_(new ContentsModel(this)),
       shares_(new QTimer(this)),
-      listener_([this] { followReading(); }) {
+      listener_([this](bool) { followReading(); }) {
   setObjectName(QStringLiteral("treeView_Contents"));
   setAccessibleName(tr("Maps and layers"));
   setModel(model_);

@@ -15,7 +15,8 @@ DocumentViews::DocumentViews(SysCarto::MapDocument& document, QWidget* parent)
       layoutView_(new LayoutView(this)),
       mapView_(new MapView(this)),
       highlight_(new FeatureHighlight(this)),
-      listener_([this] {
+      listener_([this](bool hasMore) {
+        if (!hasMore) return;
         layoutView_->takeNews();
         mapView_->takeNews();
       }) {

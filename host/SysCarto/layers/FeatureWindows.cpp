@@ -186,7 +186,8 @@ FeatureWindows::Reading FeatureWindows::reading(WindowWish const& wish, double c
   };
   own = WindowReading::begin(read, {wanted.grown(around), Cells::of(wish).read, {}, wish.labels}, news);
   if (WithoutWaiting::current())
-    QMetaObject::invokeMethod(QCoreApplication::instance(), &ReadingListener::tell, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [] { ReadingListener::tell(false); }, Qt::QueuedConnection);
   return own;
 }
 
@@ -214,7 +215,7 @@ void FeatureWindows::State::tell() {
   if (!owesMore) return;
   owesMore = std::any_of(underWay.begin(), underWay.end(), [](Reading const& one) { return bool(one); });
   ++news;
-  ReadingListener::tell();
+  ReadingListener::tell(true);
 }
 
 }  // namespace SysCarto

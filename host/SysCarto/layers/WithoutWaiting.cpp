@@ -21,17 +21,17 @@ WithoutWaiting::WithoutWaiting() : around_(std::exchange(ofThread, this)) {}
 WithoutWaiting::~WithoutWaiting() { ofThread = around_; }
 WithoutWaiting* WithoutWaiting::current() { return ofThread; }
 
-ReadingListener::ReadingListener(std::function<void()> told) : told_(std::move(told)) { listeners().push_back(this); }
+ReadingListener::ReadingListener(std::function<void(bool)> told) : told_(std::move(told)) { listeners().push_back(this); }
 
 ReadingListener::~ReadingListener() {
   listeners().erase(std::remove(listeners().begin(), listeners().end(), this), listeners().end());
 }
 
 // One may end while it is told.
-void ReadingListener::tell() {
+void ReadingListener::tell(bool hasMore) {
   std::vector<ReadingListener const*> const now = listeners();
   for (auto const* const one : now)
-    if (std::find(listeners().begin(), listeners().end(), one) != listeners().end()) one->told_();
+    if (std::find(listeners().begin(), listeners().end(), one) != listeners().end()) one->told_(hasMore);
 }
 
 }  // namespace SysCarto

@@ -32,20 +32,20 @@ private:
   WithoutWaiting* const around_;
 };
 
-/// Calls a function, on the thread of the user interface, when layers that were drawn without waiting have more to
-/// show.
+/// Calls a function, on the thread of the user interface, when features begin to be read for layers that were drawn
+/// without waiting, and when there are more of them to show.
 class SYSCARTO_EXPORT ReadingListener {
 public:
-  explicit ReadingListener(std::function<void()> told);
+  explicit ReadingListener(std::function<void(bool hasMore)> told);
   ~ReadingListener();
   ReadingListener(ReadingListener const&) = delete;
   ReadingListener& operator=(ReadingListener const&) = delete;
 
   /// Calls them all.
-  static void tell();
+  static void tell(bool hasMore);
 
 private:
-  std::function<void()> const told_;
+  std::function<void(bool)> const told_;
 };
 
 }  // namespace SysCarto

@@ -133,13 +133,13 @@ private slots:
       return image;
     };
     int told = 0;
-    ReadingListener const listener([&] { ++told; });
+    ReadingListener const listener([&](bool hasMore) { told += hasMore; });
     bool isIncomplete = false;
     QImage const before = drawnAtOnce(isIncomplete);
     QVERIFY(isIncomplete);
     QCOMPARE(ink(before).pixels, 0);
     QVERIFY(large.layer->readShare());
-    QTRY_VERIFY(told > 1 && !large.layer->readShare());  // that it began, and that it ended
+    QTRY_VERIFY(told > 0 && !large.layer->readShare());
     QImage const after = drawnAtOnce(isIncomplete);
     QVERIFY(!isIncomplete);
     QVERIFY(ink(after).pixels > 0);
