@@ -60,7 +60,10 @@ MapTiles::Look MapTiles::lookOf(MapFrameElement const& frame, double pixelsPerCm
 void MapTiles::follow(MapFrameElement const& frame, double pixelsPerCm) {
   Look const look = lookOf(frame, pixelsPerCm);
   if (look_.map && look_.isSameAs(look)) return;
-  if (look_.map == look.map) keepStandIn();
+  if (look_.map == look.map) {
+    keepStandIn();
+    standIn_.follow(look_, look);
+  }
   if (!look_.hasSameLabels(look)) labels_ = nullptr;
   look_ = look;
   tiles_.clear();
@@ -76,8 +79,11 @@ bool MapTiles::waits() const {
   return labelsWait_ || firstShown([](Tile const& tile) { return tile.lacksFeatures; });
 }
 
-// Zooming by steps comes here before a tile was drawn; then the older picture goes on standing in.
+// Zooming by steps comes here before a tile was drawn; then the older picture goes on standing in, and so does one that
+// was whole.
 void MapTiles::keepStandIn() {
+  bool const isWhole = isComplete();
+  if (standIn_.isWhole && !isWhole) return;
   QRect area;
   for (auto const& tile : tiles_) area |= areaOf(tile.first) & shownPx_;
   if (area.isEmpty()) return;
@@ -86,7 +92,25 @@ void MapTiles::keepStandIn() {
   QPainter painter(&image);
   paint(painter, -area.topLeft());
   double const scale = look_.pixelsPerCm;
-  standIn_ = {image, {area.x() / scale, area.y() / scale, area.width() / scale, area.height() / scale}};
+  standIn_ = {image, {area.x() / scale, area.y() / scale, area.width() / scale, area.height() / scale}, isWhole};
+}
+
+// Goes where the map shows now what it shows. A map that is turned, or of another size, has no such place.
+void MapTiles::StandIn::follow(Look const& before, Look const& now) {
+  bool const isSame = SysCarto::haveSameCorners(before.extent, now.extent) && before.rotation == now.rotation;
+  if (image.isNull() || (isSame && before.sizeCm == now.sizeCm)) return;
+  isWhole = isWhole && before.rotation == 0 && now.rotation == 0 && before.sizeCm == now.sizeCm;
+  if (!isWhole) return;
+  constexpr double largest = 1000;
+  double const larger = before.extent.GetWidth() / now.extent.GetWidth();
+  if (!(larger < largest && larger > 1 / largest)) {
+    *this = {};
+    return;
+  }
+  double const cmPerUnit = now.sizeCm.width() / now.extent.GetWidth();
+  QPointF const corner((before.extent.GetXMin() - now.extent.GetXMin()) * cmPerUnit,
+                       (now.extent.GetYMax() - before.extent.GetYMax()) * cmPerUnit);
+  placeCm = {corner + placeCm.topLeft() * larger, placeCm.size() * larger};
 }
 
 void MapTiles::setShown(QRect const& shownPx) {
@@ -176,21 +200,26 @@ void MapTiles::draw(Tile& tile, QRect const& area, MapFrameElement const& frame)
   tile = {picture.image, true};
 }
 
+// What stood there before and is whole shows where tiles lack features.
 void MapTiles::paint(QPainter& painter, QPoint const& corner) const {
   painter.save();
   painter.translate(corner);
-  painter.setClipRect(QRect(QPoint(0, 0), look_.sizePx), Qt::IntersectClip);
-  if (!standIn_.image.isNull()) {
-    QRegion missing(QRect(QPoint(0, 0), look_.sizePx));
-    for (auto const& tile : tiles_) missing -= areaOf(tile.first);
-    QRectF const place = standIn_.placeCm;
-    double const scale = look_.pixelsPerCm;
-    painter.save();
-    painter.setClipRegion(missing, Qt::IntersectClip);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(place.topLeft() * scale, place.size() * scale), standIn_.image);
-    painter.restore();
-  }
-  for (auto const& tile : tiles_) painter.drawImage(areaOf(tile.first).topLeft(), tile.second.image);
+  QRegion const frame(QRect(QPoint(0, 0), look_.sizePx));
+  QRegion lacking, whole;
+  for (auto const& [number, tile] : tiles_) (tile.lacksFeatures ? lacking : whole) += areaOf(number);
+  QRegion const before = frame & standIn_.place(look_.pixelsPerCm).toRect();
+  QRegion const standingIn = frame - whole - (standIn_.isWhole ? QRegion() : lacking);
+  painter.setClipRegion(frame - (standIn_.isWhole ? before - whole : QRegion()), Qt::IntersectClip);
+  for (auto const& [number, tile] : tiles_) painter.drawImage(areaOf(number).topLeft(), tile.image);
+  painter.restore();
+  if (!standIn_.image.isNull()) paintStandIn(painter, corner, standingIn & before);
+}
+
+void MapTiles::paintStandIn(QPainter& painter, QPoint const& corner, QRegion const& area) const {
+  painter.save();
+  painter.translate(corner);
+  painter.setClipRegion(area, Qt::IntersectClip);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(standIn_.place(look_.pixelsPerCm), standIn_.image);
   painter.restore();
 }

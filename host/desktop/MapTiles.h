@@ -6,6 +6,7 @@
 #include <SysCarto/MapFrameElement.h>
 
 #include <QImage>
+#include <QRegion>
 
 #include <functional>
 #include <map>
@@ -74,10 +75,14 @@ private:
     bool isToBeDrawn() const { return image.isNull() || isStale; }
   };
 
-  // What was shown before, placed in centimetres of the frame.
+  // What was shown before, placed in centimetres of the frame. What is not whole stands in for nothing that is drawn.
   struct StandIn {
     QImage image;
     QRectF placeCm;
+    bool isWhole = false;
+
+    void follow(Look const& before, Look const& now);
+    QRectF place(double pixelsPerCm) const { return {placeCm.topLeft() * pixelsPerCm, placeCm.size() * pixelsPerCm}; }
   };
 
   static Look lookOf(SysCarto::MapFrameElement const& frame, double pixelsPerCm);
@@ -91,6 +96,7 @@ private:
   void draw(Tile& tile, QRect const& area, SysCarto::MapFrameElement const& frame) const;
   bool drawnWithoutWaiting(SysCarto::MapFrameElement const& frame, std::function<void()> const& draw) const;
   void keepStandIn();
+  void paintStandIn(QPainter& painter, QPoint const& corner, QRegion const& area) const;
 
   Look look_;
   QRect shownPx_;

@@ -15,6 +15,7 @@
 #include "layers/PinnedLabels.h"
 #include "output/ImageFormat.h"
 
+#include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysUtility/JsonFile.h"
 #include "host/SysUtility/ScaleText.h"
@@ -215,9 +216,10 @@ QString RunSteps::check(QStringList const& steps) const {
   return QString();
 }
 
-QString RunSteps::open(QString const& document) {
-  bool const opened = bench_.session().open(document);
-  for (QString const& warning : bench_.session().document().GetWarnings()) Console::complain(warning);
+QString RunSteps::open(QString const& file) {
+  bool const opened = bench_.session().open(file);
+  auto const& document = bench_.session().document();
+  for (QString const& warning : document.GetWarnings() + SysCarto::laterWarnings(document)) Console::complain(warning);
   return opened ? QString() : bench_.session().takeProblem();
 }
 

@@ -23,7 +23,10 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(Connections)
 };
 
-QString cannotOpen(Connection const& connection, QString const& reason) {
+// The driver's own words and marks have no place in a sentence.
+QString cannotOpen(Connection const& connection, QString reason) {
+  reason = reason.remove(QLatin1String("PQconnectdb failed.")).simplified();
+  while (reason.endsWith(QLatin1Char('?')) || reason.endsWith(QLatin1Char('.'))) reason.chop(1);
   return Texts::tr("The connection “%1” can't be opened: %2. Try it with plotvane connections test %1.")
       .arg(connection.name, reason);
 }

@@ -12,7 +12,6 @@
 #include <limits>
 
 using SysCarto::FeatureScan;
-using SysCarto::FeatureTable;
 using SysCarto::TableRow;
 
 namespace {

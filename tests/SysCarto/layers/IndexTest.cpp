@@ -132,8 +132,8 @@ private slots:
     QTemporaryDir const folder;
     QByteArray table = "name,lon,lat\n";
     for (int i = 0; i < 66000; ++i)
-      table += QByteArray::number(i) + ',' + QByteArray::number((i * 7919) % 360 - 180) + ',' +
-               QByteArray::number((i * 104729) % 160 - 80) + '\n';
+      table += QByteArray::number(i) + ',' + QByteArray::number((i * 7919LL) % 360 - 180) + ',' +
+               QByteArray::number((i * 104729LL) % 160 - 80) + '\n';
     SourceSettings const source{written(folder, "a.csv", table), {}, {}, {}};
     SourceIndexes::use({});
     Told const whole = told(source, "name");
