@@ -21,7 +21,9 @@ WithoutWaiting::WithoutWaiting() : around_(std::exchange(ofThread, this)) {}
 WithoutWaiting::~WithoutWaiting() { ofThread = around_; }
 WithoutWaiting* WithoutWaiting::current() { return ofThread; }
 
-ReadingListener::ReadingListener(std::function<void(bool)> told) : told_(std::move(told)) { listeners().push_back(this); }
+ReadingListener::ReadingListener(std::function<void(bool)> told) : told_(std::move(told)) {
+  listeners().push_back(this);
+}
 
 ReadingListener::~ReadingListener() {
   listeners().erase(std::remove(listeners().begin(), listeners().end(), this), listeners().end());
