@@ -84,8 +84,7 @@ bool MapTiles::waits() const {
 void MapTiles::keepStandIn() {
   bool const isWhole = isComplete();
   if (standIn_.isWhole && !isWhole) return;
-  QRect area;
-  for (auto const& tile : tiles_) area |= areaOf(tile.first) & shownPx_;
+  QRect const area = tiles_.empty() ? QRect() : shownPx_;
   if (area.isEmpty()) return;
   QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::transparent);
@@ -99,8 +98,10 @@ void MapTiles::keepStandIn() {
 void MapTiles::StandIn::follow(Look const& before, Look const& now) {
   bool const isSame = SysCarto::haveSameCorners(before.extent, now.extent) && before.rotation == now.rotation;
   if (image.isNull() || (isSame && before.sizeCm == now.sizeCm)) return;
-  isWhole = isWhole && before.rotation == 0 && now.rotation == 0 && before.sizeCm == now.sizeCm;
-  if (!isWhole) return;
+  if (before.rotation != 0 || now.rotation != 0 || before.sizeCm != now.sizeCm) {
+    isWhole = false;
+    return;
+  }
   constexpr double largest = 1000;
   double const larger = before.extent.GetWidth() / now.extent.GetWidth();
   if (!(larger < largest && larger > 1 / largest)) {
