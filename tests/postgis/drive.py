@@ -374,9 +374,9 @@ def main():
                     beside.result()
                 what_is_not_known_contacts_nothing(program, server)
                 tells_what_is_wrong(program, server)
-                is_told_in_time(program, server, "a connection that ends is told", kill, ["slowly", "city"])
+                is_told_in_time(program, server, "a connection that ends is told", kill, ["slowly", "brief"])
                 frozen = is_told_in_time(program, server, "a server that stops answering is told", freeze,
-                                         ["slowly", "city", "has not answered"])
+                                         ["slowly", "brief", "has not answered"])
                 os.kill(frozen, signal.SIGCONT)
                 check(f"pg_cancel_backend(pid) FROM pg_stat_activity WHERE application_name = 'plotvane' AND pid = {frozen}"
                       in server.logged(), "what is given up is ended on the server, too")
