@@ -21,7 +21,7 @@ SYSCARTO_EXPORT QString problemOf(Layer const& layer);
 /// How much was read of what views wait for, from 0 to 1; nothing where they wait for nothing.
 SYSCARTO_EXPORT std::optional<double> readShareOf(Layer const& layer);
 
-/// As `problemOf`, for all that was read since they were opened: what a page was drawn of.
+/// As `problemOf`, for what a page would be drawn of now: what failed some time ago would be read again.
 SYSCARTO_EXPORT QString failureOf(Layer const& layer);
 
 /// What else is to be said of those that were read, as sentences.
