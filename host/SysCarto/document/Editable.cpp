@@ -57,6 +57,12 @@ DocumentContext contextOf(MapDocument const& document) {
   return context;
 }
 
+QJsonObject valuesIn(Fields::Describe const& list) {
+  FieldSheet sheet;
+  list(sheet);
+  return SysUtility::wholeObject(sheet.fields());
+}
+
 ElementContainer* elementsOf(MapDocument const& document) {
   auto const layout = document.GetPageLayout();
   return layout ? &PageLayoutHost::workplace(*layout) : nullptr;
@@ -85,9 +91,8 @@ public:
 protected:
   void list(Fields& fields, DocumentContext& context) const override {
     int depth = 0;
-    auto element = find(&depth);
-    context.framedMaps.clear();
-    if (element) listElement(fields, element, {context, false, depth});
+    auto const element = find(&depth);
+    listOne(fields, element, depth, context);
   }
 
   Change read(Fields& reader, DocumentContext& context) const override {
@@ -98,6 +103,7 @@ protected:
     find(&depth);
     listElement(reader, made, {context, false, depth});
     if (made && depth == 0 && made->GetHandle() != handle_) reader.fail("handle", Texts::tr("can't be changed"));
+    if (made && reader.ok() && isSame(made, depth, context)) return nullptr;
     QString const problem = made ? problemOf(*made) : QString();
     if (!problem.isEmpty()) context.warnings << problem;
     return [this, made, told = context.warnings](QString const&, QStringList& warnings) {
@@ -111,6 +117,20 @@ protected:
   }
 
 private:
+  static void listOne(Fields& fields, _ptr_t<Element> element, int depth, DocumentContext& context) {
+    context.framedMaps.clear();
+    if (element) listElement(fields, element, {context, false, depth});
+  }
+
+  // Another way to say the same, such as a whole turn, is no change.
+  bool isSame(_ptr_t<Element> const& made, int depth, DocumentContext const& context) const {
+    auto const valuesOf = [&](_ptr_t<Element> const& one) {
+      DocumentContext own = context;
+      return valuesIn([&](Fields& fields) { listOne(fields, one, depth, own); });
+    };
+    return valuesOf(made) == valuesOf(find());
+  }
+
   // The depth is that of open groups in which it lies.
   _ptr_t<Element> find(int* depth = nullptr) const {
     auto const layout = document_.GetPageLayout();
@@ -123,9 +143,7 @@ private:
 
 template <class Settings>
 QJsonObject valuesOf(Settings settings) {
-  FieldSheet sheet;
-  settings.list(sheet);
-  return SysUtility::wholeObject(sheet.fields());
+  return valuesIn([&](Fields& fields) { settings.list(fields); });
 }
 
 // What differs between two settings is taken from the second one, all else from what there is now: a command that keeps
@@ -211,7 +229,6 @@ protected:
   Change read(Fields& reader, DocumentContext& context) const override {
     Settings settings = uses_.of(*target_, context);  // a size of one's own begins with the sheet's
     settings.list(reader);
-    // Another way to say the same, such as a whole turn, is no change.
     if (reader.ok() && valuesOf(settings) == valuesOf(uses_.of(*target_, context))) return nullptr;
     return [this, settings, context](QString const& step, QStringList& warnings) {
       auto const told = std::make_shared<QStringList>();
