@@ -53,10 +53,11 @@ function(plotvane_test name)
   target_link_libraries(${name} PRIVATE ${arg_LINKS} plotvane_test_support Qt5::Network Qt5::Test)
   target_compile_options(${name} PRIVATE ${plotvane_test_options})
   target_precompile_headers(${name} REUSE_FROM plotvane_precompiled_test)
-  set_target_properties(${name} PROPERTIES AUTOMOC ON)
-  # Empty: a test includes its own meta-objects.
-  set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp PROPERTIES
-    SKIP_PRECOMPILE_HEADERS ON)
+  # A test includes its own meta-objects, and those alone: AUTOMOC would make, and compile, an empty source for each.
+  set(moc ${CMAKE_CURRENT_BINARY_DIR}/${name}.moc)
+  qt5_generate_moc(${name}.cpp ${moc})
+  target_sources(${name} PRIVATE ${moc})
+  target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;TZ=UTC;QT_SCALE_FACTOR=1;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 600)
