@@ -134,14 +134,15 @@ void ElementList::selectionChanged(QItemSelection const& selected, QItemSelectio
 
 void ElementList::restack(bool upwards) {
   auto const layout = session_.document().GetPageLayout();
-  auto const selected = layout ? PageLayoutHost::workplace(*layout).GetSelectedElements() : Elements();
-  if (selected.isEmpty()) return;
+  if (!layout) return;
+  auto& container = PageLayoutHost::workplace(*layout);
+  auto const selected = container.GetSelectedElements(), all = container.GetElements();
+  auto const outermost = upwards ? all.mid(all.size() - selected.size()) : all.mid(0, selected.size());
+  auto const isSelected = [&](auto const& element) { return selected.contains(element); };
+  if (std::all_of(outermost.begin(), outermost.end(), isSelected)) return;  // none goes any farther
   {
     SysFramework::EditorOperation const operation(ElementModel::tr("Restack the selected elements"));
-    if (upwards)
-      PageLayoutHost::workplace(*layout).BringForward(selected);
-    else
-      PageLayoutHost::workplace(*layout).SendBackward(selected);
+    upwards ? container.BringForward(selected) : container.SendBackward(selected);
   }
   layout->PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
 }
