@@ -31,7 +31,7 @@ public:
 
   bool isMixed() const { return isMixed_; }
   QString said() const { return (said_ + person_.said()).join(", "); }
-  QStringList const& commands() const { return commands_; }
+  QStringList commands() const { return commands_ + person_.chosen(); }
 
 private:
   void roll() {

@@ -33,6 +33,9 @@ public:
   /// What was done, for who wants to do it again by hand.
   QStringList const& said() const { return said_; }
 
+  /// The identifiers of the commands that were chosen in menus, and the names of other things there.
+  QStringList const& chosen() const { return chosen_; }
+
   QString text() {
     static QStringList const texts{"",          "x",        "A longer text, with commas",
                                    "7",         "-3.5",     "1e9",
@@ -75,6 +78,7 @@ private:
     if (!actions.isEmpty() && dice_.upTo(2) > 0 && ++dialogs_ <= maxDialogs) {
       QAction* const chosen = dice_.of(actions);
       said_ << "menu: " + chosen->text();
+      chosen_ << chosen->objectName();
       chosen->trigger();
     }
     if (shown) shown->close();
@@ -215,6 +219,6 @@ private:
 
   Dice& dice_;
   QString const folder_;
-  QStringList said_;
+  QStringList said_, chosen_;
   int dialogs_ = 0;
 };
