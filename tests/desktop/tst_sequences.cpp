@@ -119,8 +119,8 @@ private:
       if (command == "Plotvane_LockDataFrame" || command == "Plotvane_UnlockDataFrame") texts.leaveOut("locked");
       if (command == "Plotvane_AlignToMargins") texts.leaveOut("alignToMargins");
       if (command == "Plotvane_PageSetting")
-        for (char const* const size : {"form", "width", "height", "orientation"})
-          texts.leaveOut(QString("page/%1").arg(size));
+        for (char const* const set : {"form", "width", "height", "orientation", "border", "background", "shadow"})
+          texts.leaveOut(QString("page/%1").arg(set));
       clears |=
           QStringList{"Plotvane_PageSetting", "Plotvane_ChangePageLayout", "Host_New", "Host_NewFromData", "Host_Open"}
               .contains(command);
