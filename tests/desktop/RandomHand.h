@@ -91,7 +91,9 @@ private:
       return anywhere();
     QRectF const box = placeOf(*dice_.of(elements));
     QPointF const at = dice_.oneIn(2) ? box.center() : QPointF(dice_.oneIn(2) ? box.left() : box.right(), box.bottom());
-    return page_.pixel(at.x(), at.y());
+    QPoint const pixel = page_.pixel(at.x(), at.y());
+    constexpr int far = 10000;  // no mouse gets beyond that
+    return {qBound(-far, pixel.x(), far), qBound(-far, pixel.y(), far)};
   }
 
   void mouse() {

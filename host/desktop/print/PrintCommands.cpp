@@ -138,13 +138,15 @@ QString PrintCommands::preview() {
   dialog.resize(window_.size() * 9 / 10);
   QString problem;
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* shown) {
-    dialog.setEnabled(false);  // it could ask for another drawing meanwhile
+    dialog.setEnabled(false);         // it could ask for another drawing meanwhile
+    dialog.setUpdatesEnabled(false);  // and what it shows, the pages from before, is gone already
     {
       auto const progress = SysUtility::make<DrawingProgress>(tr("Drawing the page…"), bench_.views(), dialog);
       problem = printShown(
           bench_, page, [&] { return page.print(*shown, progress, PagePrinter::Cancelled::Kept); },
           [&](QString const& what) { progress->tell(what); });
     }
+    dialog.setUpdatesEnabled(true);
     dialog.setEnabled(true);
   });
   dialog.exec();
