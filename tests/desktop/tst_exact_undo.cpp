@@ -114,6 +114,10 @@ private slots:
     page.drag({400, 300}, {420, 330});
     QCOMPARE(lastStep(), QString("Move the map in its frame"));
     history->Undo();
+    auto const zoomed = MapHost::storedBounds(*map);
+    page.wheel({0, 120});  // a step of its own after one that was gone back to
+    history->Undo();
+    QVERIFY(SysCarto::haveSameCorners(MapHost::storedBounds(*map), zoomed));
     history->Undo();
     QCOMPARE(lastStep(), QString("Delete the selected elements"));
     QVERIFY(SysCarto::haveSameCorners(MapHost::storedBounds(*map), composed));
