@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace SysCarto {
 
@@ -20,6 +21,9 @@ constexpr int maxLines = 5;
 constexpr int directions = 16;  // around an area
 constexpr int distances = 12;   // beyond it, half a text's height each
 constexpr int maxSteps = 40;
+constexpr size_t maxOutside = 32, maxAlong = 24;
+constexpr int maxPlaces = 8;  // in an area
+constexpr double otherAreaCost = 2, outsideCost = 10;
 constexpr double finePt = 0.5;
 constexpr double farHeights = 2;  // from which a pinned label has a leader
 
@@ -48,52 +52,59 @@ std::vector<LabelPlacer::PageArea> LabelPlacer::areasOf(int feature) {
   return areas;
 }
 
-LabelPlacer::Outcome LabelPlacer::placeAtPolygon(LabelText const& text, int feature) {
-  std::vector<PageArea> areas = areasOf(feature);
+void LabelPlacer::addAtPolygon(WantedLabel label, std::vector<WantedLabel>& wanted) {
+  std::vector<PageArea> areas = areasOf(label.feature);
   areas.erase(std::remove_if(areas.begin(), areas.end(), [](PageArea const& area) { return area.rings.isEmpty(); }),
               areas.end());
-  if (areas.empty() || widthOf(SysGeometry::boxOf(areas[0].rings)) * cmPerPoint < settings_.minSizeCm)
-    return Outcome::NotWanted;
-  if (placeInside(text, areas)) return Outcome::Placed;
-  bool const isBeside = settings_.areaPlace == AreaPlace::Outside && placeOutside(text, areas[0]);
-  return isBeside ? Outcome::Placed : Outcome::NoRoom;
+  if (areas.empty() || widthOf(SysGeometry::boxOf(areas[0].rings)) * cmPerPoint < settings_.minSizeCm) return;
+  addInside(label, areas);
+  if (settings_.areaPlace == AreaPlace::Outside) addOutside(label, areas[0]);
+  wanted.push_back(std::move(label));
 }
 
-bool LabelPlacer::placeInside(LabelText const& given, std::vector<PageArea> const& areas) {
-  for (QString const& lines : wrapped(given.text)) {
-    LabelText text = given;
-    text.text = lines;
+// In one line rather than in several, in the largest area rather than in another, in its middle rather than beside that.
+void LabelPlacer::addInside(WantedLabel& label, std::vector<PageArea> const& areas) const {
+  LabelText const whole = label.texts[0];
+  label.texts.clear();
+  for (QString const& lines : wrapped(whole.text)) {
+    int const number = static_cast<int>(label.texts.size());
+    LabelText& text = label.texts.emplace_back(LabelText{lines, whole.symbol, {}});
     measure(text);
-    for (PageArea const& area : areas)
-      for (QPointF const& centre :
-           placesInside(area.rings, text.bounds.width() + 2 * fromBorderPt, text.bounds.height() + 2 * fromBorderPt))
-        if (isFree(text, centre, 0)) {
-          accept(text, centre, 0);
-          return true;
-        }
+    double const width = text.bounds.width() + 2 * fromBorderPt, height = text.bounds.height() + 2 * fromBorderPt;
+    double cost = number;
+    for (PageArea const& area : areas) {
+      auto const places = placesInside(area.rings, width, height);
+      int count = 0;
+      for (QPointF const& centre : places) {
+        if (!isFree(text, centre, 0)) continue;
+        double const off = std::hypot(centre.x() - places[0].x(), centre.y() - places[0].y());
+        label.ways.push_back({{{number, centre, 0}}, cost + std::min(off / (width + height), 1.0)});
+        if (++count == maxPlaces) break;
+      }
+      cost += otherAreaCost;
+    }
   }
-  return false;
 }
 
 // Around the middle of the area, as near as it goes without touching the area itself.
-bool LabelPlacer::placeOutside(LabelText const& text, PageArea const& area) {
+void LabelPlacer::addOutside(WantedLabel& label, PageArea const& area) const {
+  LabelText const& text = label.texts[0];
   LabelShape const named = LabelShape::area(area.rings);
   QPointF const middle = SysGeometry::poleOfInaccessibility(area.rings, finePt).place;
   double const halfWidth = text.bounds.width() / 2, halfHeight = text.bounds.height() / 2;
   double const farthest = std::hypot(widthOf(named.box), named.box.ymax - named.box.ymin) / 2 + distances * halfHeight;
   double const step = std::max(halfHeight, farthest / maxSteps);
-  for (double distance = step; distance <= farthest; distance += step)
+  size_t const most = label.ways.size() + maxOutside;
+  for (double distance = step; distance <= farthest && label.ways.size() < most; distance += step)
     for (int i = 0; i < directions; ++i) {
       double const angle = M_PI / 4 - i * 2 * M_PI / directions, x = std::cos(angle), y = std::sin(angle);
       QPointF const edge = middle + QPointF(x, y) * distance;
       QPointF const centre = edge + QPointF(x * halfWidth, y * halfHeight) / std::max(std::abs(x), std::abs(y));
       Ring const leader{middle, edge};
-      if (!isFree(text, centre, 0) || intersects(shapeAt(text, centre, 0, fromBorderPt), named)) continue;
+      if (!isFree(text, centre, 0) || intersects(shapeOf(text, centre, 0, fromBorderPt), named)) continue;
       if (!index_.isFree(LabelShape::area({leader}))) continue;
-      accept(text, centre, 0, leader);
-      return true;
+      label.ways.push_back({{{0, centre, 0}}, outsideCost + distance / farthest + 0.01 * i, leader});
     }
-  return false;
 }
 
 std::vector<std::vector<QPointF>> LabelPlacer::linesOf(int feature) {
@@ -107,8 +118,8 @@ std::vector<std::vector<QPointF>> LabelPlacer::linesOf(int feature) {
   return lines;
 }
 
-LabelPlacer::Outcome LabelPlacer::placeAlongLines(LabelText const& text, int feature) {
-  auto lines = linesOf(feature);
+void LabelPlacer::addAlongLines(WantedLabel label, std::vector<WantedLabel>& wanted) {
+  auto lines = linesOf(label.feature);
   std::stable_sort(lines.begin(), lines.end(), [](auto const& a, auto const& b) { return a.size() > b.size(); });
   std::vector<MeasuredLine> measured;
   double length = 0;
@@ -116,76 +127,74 @@ LabelPlacer::Outcome LabelPlacer::placeAlongLines(LabelText const& text, int fea
     measured.emplace_back(std::move(line));
     length += measured.back().length();
   }
-  if (length * cmPerPoint < settings_.minSizeCm) return Outcome::NotWanted;
+  if (length * cmPerPoint < settings_.minSizeCm) return;
   if (measured.size() > maxLines) measured.erase(measured.begin() + maxLines, measured.end());
-  bool isPlaced = !along_.value(text.text).empty();  // where the text repeats on lines, it stands on another one
-  for (MeasuredLine const& line : measured) {
-    if (!placeAlongLine(text, line)) continue;
-    isPlaced = true;
-    if (settings_.repeatCm == 0) break;
-  }
-  return isPlaced ? Outcome::Placed : Outcome::NoRoom;
+  double cost = 0;
+  for (MeasuredLine const& line : measured) addAlongLine(label, line, cost++);
+  if (settings_.repeatCm > 0) return addRepeated(std::move(label), wanted);
+  if (label.ways.size() > maxAlong) label.ways.resize(maxAlong);
+  wanted.push_back(std::move(label));
 }
 
-bool LabelPlacer::placeAlongLine(LabelText const& text, MeasuredLine const& line) {
-  bool isPlaced = false;
-  for (Pieces const& pieces : waysAlong(text, line)) {
-    QPointF const middle = pieces[pieces.size() / 2].centre;
-    if (isRepeatedTooSoon(text.text, middle) || !placeAlong(pieces)) continue;
-    if (settings_.repeatCm == 0) return true;
-    along_[text.text].push_back(middle);
-    isPlaced = true;
-  }
-  return isPlaced;
-}
-
-std::vector<LabelPlacer::Pieces> LabelPlacer::waysAlong(LabelText const& text, MeasuredLine const& line) {
+// The nearer to the middle the better.
+void LabelPlacer::addAlongLine(WantedLabel& label, MeasuredLine const& line, double cost) const {
+  LabelText const text = label.texts[0];
   double const width = text.bounds.width(), height = text.bounds.height();
-  if (line.length() < width) return {};  // before letters are measured, which takes long
+  if (line.length() < width) return;  // before letters are measured, which takes long
   double const lift = height / 2 + settings_.offsetPt;
-  std::vector<Pieces> ways;
+  auto const add = [&](std::vector<LabelPiece> pieces) {
+    LabelWay way{std::move(pieces), cost};
+    cost += 1.0 / maxAlong;
+    if (isFree(label, way)) label.ways.push_back(std::move(way));
+  };
   auto const letters =
       settings_.linePlace == LinePlace::Curved ? lettersOf(text.text, *text.symbol) : std::vector<Letter>();
   if (!letters.empty()) {
-    std::vector<LabelText> texts;
-    for (Letter const& letter : letters) measure(texts.emplace_back(LabelText{letter.text, text.symbol, {}}));
+    if (label.texts.size() == 1)
+      for (Letter const& letter : letters) measure(label.texts.emplace_back(LabelText{letter.text, text.symbol, {}}));
     for (auto const& placed : curvedPlaces(line, letters, width, height, lift)) {
-      ways.emplace_back();
-      for (size_t i = 0; i < placed.size(); ++i) ways.back().push_back({texts[i], placed[i].centre, placed[i].angle});
+      std::vector<LabelPiece> pieces;
+      for (PlacedLetter const& one : placed)
+        pieces.push_back({static_cast<int>(pieces.size()) + 1, one.centre, one.angle});
+      add(std::move(pieces));
     }
-    return ways;
+    return;
   }
   for (Stretch const& stretch : straightStretches(line, width, height)) {
     double const above = settings_.linePlace == LinePlace::On ? 0 : lift + stretch.bend;
     double const angle = stretch.angle * M_PI / 180;
-    ways.push_back({{text, stretch.middle + QPointF(-std::sin(angle), std::cos(angle)) * above, stretch.angle}});
+    add({{0, stretch.middle + QPointF(-std::sin(angle), std::cos(angle)) * above, stretch.angle}});
   }
-  return ways;
 }
 
-bool LabelPlacer::placeAlong(Pieces const& pieces) {
-  auto const hasRoom = [this](Piece const& piece) { return isFree(piece.text, piece.centre, piece.angle); };
-  if (!std::all_of(pieces.begin(), pieces.end(), hasRoom)) return false;
-  for (Piece const& piece : pieces) accept(piece.text, piece.centre, piece.angle);
-  return true;
-}
+double LabelPlacer::repeatPt() const { return settings_.repeatCm / cmPerPoint; }
 
-bool LabelPlacer::isRepeatedTooSoon(QString const& text, QPointF const& middle) const {
-  if (settings_.repeatCm == 0) return false;
-  double const apart = settings_.repeatCm / cmPerPoint;
-  auto const placed = along_.find(text);
-  return placed != along_.end() && std::any_of(placed->begin(), placed->end(), [&](QPointF const& other) {
-           return std::hypot(other.x() - middle.x(), other.y() - middle.y()) < apart;
-         });
-}
-
-// Points of a feature as they are; of what extends, the middle of what is in sight.
-void LabelPlacer::keepUnplaced(int feature) {
-  LabelText const text = textOf(feature);
-  Box const& box = store_.features[feature].box;
-  double const x = (std::max(box.xmin, covered_.left()) + std::min(box.xmax, covered_.right())) / 2;
-  double const y = (std::max(box.ymin, covered_.top()) + std::min(box.ymax, covered_.bottom())) / 2;
-  unplaced_.push_back({text.text, text.symbol, x, y, 0, {}, {}, store_.keys[feature]});
+// A label for each stretch of the lines of about that length, which has the ways there.
+void LabelPlacer::addRepeated(WantedLabel label, std::vector<WantedLabel>& wanted) const {
+  auto ways = std::exchange(label.ways, {});
+  label.repeats = label.texts[0].text;
+  size_t const first = wanted.size();
+  std::vector<QPointF> middles;
+  for (LabelWay& way : ways) {
+    QPointF const middle = way.middle();
+    auto const distanceTo = [&](QPointF const& other) {
+      return std::hypot(other.x() - middle.x(), other.y() - middle.y());
+    };
+    auto const nearest = std::min_element(middles.begin(), middles.end(), [&](QPointF const& a, QPointF const& b) {
+      return distanceTo(a) < distanceTo(b);
+    });
+    size_t const number = static_cast<size_t>(nearest - middles.begin());
+    bool const isFar = nearest == middles.end() || distanceTo(*nearest) >= repeatPt();
+    if (isFar) {
+      middles.push_back(middle);
+      wanted.push_back(label);
+      way.cost = 0;
+    }
+    auto& own = isFar ? wanted.back().ways : wanted[first + number].ways;
+    if (!isFar) way.cost = std::min(distanceTo(*nearest) / repeatPt(), 1.0);
+    if (own.size() < maxAlong) own.push_back(std::move(way));
+  }
+  if (middles.empty()) wanted.push_back(std::move(label));
 }
 
 // Wherever it was put, with a line that leads there from afar.
@@ -195,13 +204,11 @@ void LabelPlacer::placePinned(int feature, PinnedLabel const& pin) {
   if (settings_.wrapPt > 0) text.text = SysDisplay::wrapped(text.text, *text.symbol, settings_.wrapPt);
   measure(text);
   if (pin.hidden || text.bounds.isEmpty() || !frame_.contains(centre.x(), centre.y())) return;
-  Box const box = shapeAt(text, centre, pin.angle, 0).box;
+  Box const box = shapeOf(text, centre, pin.angle, 0).box;
   QPointF const named = nearestOf(feature, centre);
   QPointF const end(std::clamp(named.x(), box.xmin, box.xmax), std::clamp(named.y(), box.ymin, box.ymax));
   bool const isFar = std::hypot(named.x() - end.x(), named.y() - end.y()) > farHeights * text.bounds.height();
-  size_t const before = labels_.size();
-  accept(text, centre, pin.angle, isFar ? Ring{named, end} : Ring());
-  count(feature, Outcome::Placed, before);
+  put(text, centre, pin.angle, feature, isFar ? Ring{named, end} : Ring());
 }
 
 // Of an area its middle, and the place itself where it lies inside; of a line its nearest place.

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <iterator>
 #include <limits>
+#include <utility>
 
 namespace SysCarto {
 
@@ -17,33 +17,11 @@ using SysUtility::make;
 
 namespace {
 
-constexpr int maxMarksCounted = 8;
+constexpr int maxMarksCovered = 8;
 constexpr int importantMark = 4;     // counts as so many
-constexpr double hiddenPart = 0.25;  // of a mark, at either side, that a text may cover which came first
-
-// The wanted places, in their order.
-std::vector<PointPlace> placesOf(LabelSettings const& settings) {
-  if (settings.places.isEmpty()) return {std::begin(pointPlaces), std::prev(std::end(pointPlaces))};
-  std::vector<PointPlace> places;
-  for (QString const& name : settings.places)
-    for (PointPlace const& place : pointPlaces)
-      if (name == QLatin1String(place.name)) places.push_back(place);
-  return places;
-}
-
-// The box of a text beside a mark. On a slant the text stands a little above or below the mark's middle, so that eye
-// and mark meet at its height; straight above and below it keeps clear of the mark.
-Box boxBeside(Box const& mark, PointPlace const& direction, double width, double height, double offset) {
-  double const x = (mark.xmin + mark.xmax) / 2, y = (mark.ymin + mark.ymax) / 2;
-  double left = x - width / 2, bottom = y - height / 2;
-  if (direction.across > 0) left = mark.xmax + offset;
-  if (direction.across < 0) left = mark.xmin - offset - width;
-  if (direction.across != 0 && direction.up > 0) bottom = y - height * 0.15;
-  if (direction.across != 0 && direction.up < 0) bottom = y - height * 0.85;
-  if (direction.across == 0 && direction.up > 0) bottom = mark.ymax + offset;
-  if (direction.across == 0 && direction.up < 0) bottom = mark.ymin - offset - height;
-  return {left, bottom, left + width, bottom + height};
-}
+constexpr double hiddenPart = 0.25;  // of a mark, at either side, that what labels keep clear of may cover
+constexpr double coveredMarkCost = 2;
+constexpr int mostInCell = 16;  // labels of points that begin in so much room as one of them takes
 
 QPointF centreOf(Box const& box) { return {(box.xmin + box.xmax) / 2, (box.ymin + box.ymax) / 2}; }
 
@@ -53,7 +31,7 @@ LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& setting
                          DisplayTransformation const& transformation)
     : store_(store),
       settings_(settings),
-      places_(placesOf(settings)),
+      sides_(sidesOf(settings)),
       scale_(transformation.GetMapScale()),
       thinned_(store),
       shapes_(store, renderer, scale_) {
@@ -126,28 +104,29 @@ void LabelPlacer::collectMarks() {
   marks_ = std::make_unique<MarkIndex>(marks, weights);
 }
 
-void LabelPlacer::place(std::function<bool()> const& isCancelled) {
-  if (!isUsable()) return;
-  collectMarks();
-  std::vector<int> features = candidates();
-  auto const free =
-      std::stable_partition(features.begin(), features.end(), [this](int feature) { return pinOf(feature); });
-  for (auto feature = features.begin(); feature != free; ++feature) placePinned(*feature, *pinOf(*feature));
-  int untilCheck = 0;
-  for (auto feature = free; feature != features.end(); ++feature) {
-    if (untilCheck++ % 64 == 0 && isCancelled()) return;
-    size_t const before = labels_.size();
-    count(*feature, placeFeature(*feature), before);
+std::vector<LabelShape> LabelPlacer::placePinned() {
+  for (int const feature : candidates())
+    if (auto const* const pin = pinOf(feature)) placePinned(feature, *pin);
+  std::vector<LabelShape> taken;
+  for (PlacedLabel const& label : labels_) {
+    taken.push_back(LabelShape::area({toPage(label.area)}));
+    if (!label.leader.isEmpty()) taken.push_back(LabelShape::area({toPage(label.leader)}));
   }
+  return taken;
 }
 
-void LabelPlacer::count(int feature, Outcome outcome, size_t labelsBefore) {
-  if (outcome == Outcome::Placed) ++placedCount_;
-  if (outcome == Outcome::NoRoom) keepUnplaced(feature);
-  for (size_t i = labelsBefore; i < labels_.size(); ++i) labels_[i].key = store_.keys[feature];
+std::vector<WantedLabel> LabelPlacer::wanted(std::function<bool()> const& isCancelled) {
+  std::vector<WantedLabel> wanted;
+  collectMarks();
+  int untilCheck = 0;
+  for (int const feature : candidates()) {
+    if (untilCheck++ % 64 == 0 && isCancelled()) break;
+    if (!pinOf(feature)) addWanted(feature, wanted);
+  }
+  return wanted;
 }
 
-LabelPlacer::Outcome LabelPlacer::placeFeature(int feature) {
+void LabelPlacer::addWanted(int feature, std::vector<WantedLabel>& wanted) {
   Feature const& given = store_.features[feature];
   bool hasArea = false, hasLine = false;
   for (int i = given.firstPart; i < given.firstPart + given.partCount; ++i) {
@@ -155,19 +134,22 @@ LabelPlacer::Outcome LabelPlacer::placeFeature(int feature) {
     hasArea = hasArea || kind == PartKind::Ring || kind == PartKind::FilledRing;
     hasLine = hasLine || kind == PartKind::Line;
   }
-  LabelText text = textOf(feature);
+  WantedLabel label{feature};
+  label.texts.push_back(textOf(feature));
+  LabelText& text = label.texts[0];
   if (hasArea || hasLine) {
     // What is lower than its letters holds no text; looking at that first saves laying out the text.
     double const size = std::max(given.box.xmax - given.box.xmin, given.box.ymax - given.box.ymin) / unitsPerPoint_;
     bool const mayStandOutside = hasArea && settings_.areaPlace == AreaPlace::Outside;
-    if (size < text.symbol->format().size && !mayStandOutside)
-      return settings_.minSizeCm > 0 ? Outcome::NotWanted : Outcome::NoRoom;
+    if (size < text.symbol->format().size && !mayStandOutside) {
+      if (settings_.minSizeCm == 0) wanted.push_back(std::move(label));
+      return;
+    }
     measure(text);
-    if (text.bounds.isEmpty()) return Outcome::NotWanted;
-    return hasArea ? placeAtPolygon(text, feature) : placeAlongLines(text, feature);
+    if (text.bounds.isEmpty()) return;
+    return hasArea ? addAtPolygon(std::move(label), wanted) : addAlongLines(std::move(label), wanted);
   }
-  auto const point = visiblePoint(feature);
-  return point ? placeBesidePoint(feature, text, *point) : Outcome::NotWanted;
+  if (auto const point = visiblePoint(feature)) addBesidePoint(std::move(label), *point, wanted);
 }
 
 std::optional<QPointF> LabelPlacer::visiblePoint(int feature) const {
@@ -194,61 +176,75 @@ LabelText LabelPlacer::textOf(int feature) {
 
 void LabelPlacer::measure(LabelText& text) { text.bounds = text.symbol->bounds(text.text); }
 
-// The first of the wanted places that covers the fewest marks of others, or an empty box.
-Box LabelPlacer::boxFor(Box const& mark, double width, double height) const {
-  Box best;
-  // Labels come in the order of importance, so the first one around names the most important place there: it is shown
-  // whatever marks it covers.
-  bool const isFirstAround = index_.isFree(LabelShape::upright(mark.grown(height)));
-  int fewest = isFirstAround ? std::numeric_limits<int>::max() : maxMarksCounted + 1;
-  for (PointPlace const& place : places_) {
-    Box const box = boxBeside(mark, place, width, height, settings_.offsetPt);
-    if (!frame_.contains(box) || !index_.isFree(LabelShape::upright(box.grown(settings_.gapPt)))) continue;
-    int const covered = marks_->count(box, fewest);
-    if (covered < fewest) {
-      fewest = covered;
-      best = box;
-    }
-    if (fewest == 0) break;
-  }
-  return best;
+// Of places that lie closer than their texts are large, only a few can have one.
+bool LabelPlacer::isCrowdedOut(LabelText const& text, QPointF const& point) {
+  double const size = std::max(text.symbol->format().size, 1.0);
+  auto const cell = [](double value, double side) { return static_cast<int>(std::floor(value / side)); };
+  return ++begunIn_[{cell(point.x(), 4 * size), cell(point.y(), size)}] > mostInCell;
 }
 
-LabelPlacer::Outcome LabelPlacer::placeBesidePoint(int feature, LabelText& text, QPointF const& point) {
-  Box const mark = shapes_.at(feature, point);
+void LabelPlacer::addBesidePoint(WantedLabel label, QPointF const& point, std::vector<WantedLabel>& wanted) {
+  Box const mark = shapes_.at(label.feature, point);
   double const hiddenX = hiddenPart * (mark.xmax - mark.xmin), hiddenY = hiddenPart * (mark.ymax - mark.ymin);
   Box const core{mark.xmin + hiddenX, mark.ymin + hiddenY, mark.xmax - hiddenX, mark.ymax - hiddenY};
-  if (!index_.isFree(LabelShape::upright(core))) return Outcome::NoRoom;
-  if (settings_.wrapPt > 0) text.text = SysDisplay::wrapped(text.text, *text.symbol, settings_.wrapPt);
-  // Most places of a crowded map have no room for their name. That shows at the least size that it may have, too, and
-  // laying out a text takes far longer.
-  double const minHeight = text.symbol->bounds(QStringLiteral("i")).height();
-  if (boxFor(mark, text.symbol->minWidth(text.text), minHeight).isEmpty()) return Outcome::NoRoom;
-  measure(text);
-  if (text.bounds.isEmpty()) return Outcome::NotWanted;
-  Box const box = boxFor(mark, text.bounds.width(), text.bounds.height());
-  if (box.isEmpty()) return Outcome::NoRoom;
-  accept(text, centreOf(box), 0);
-  index_.add(LabelShape::upright(mark));
-  return Outcome::Placed;
+  if (mark.xmax > mark.xmin) {
+    label.mark = label.kept = mark;
+    label.core = core;
+  }
+  LabelText& text = label.texts[0];
+  if (!isCrowdedOut(text, point) && index_.isFree(LabelShape::upright(core))) {
+    if (settings_.wrapPt > 0) text.text = SysDisplay::wrapped(text.text, *text.symbol, settings_.wrapPt);
+    measure(text);
+    if (text.bounds.isEmpty()) return;
+    addBeside(label, mark);
+  }
+  wanted.push_back(std::move(label));
+}
+
+// Where marks lie so close that a text covers many of them wherever it stands, names keep their distance.
+void LabelPlacer::addBeside(WantedLabel& label, Box const& mark) const {
+  LabelText const& text = label.texts[0];
+  double const height = text.bounds.height();
+  std::vector<LabelWay> crowded;
+  for (MarkSide const& side : sides_) {
+    Box const box = boxAt(mark, side, text.bounds.width(), height, settings_.offsetPt);
+    if (!isFree(text, centreOf(box), 0)) continue;
+    int const covered = marks_->count(box, 2 * maxMarksCovered);
+    auto& ways = covered > maxMarksCovered ? crowded : label.ways;
+    ways.push_back({{{0, centreOf(box), 0}}, side.cost + coveredMarkCost * covered});
+  }
+  if (!label.ways.empty()) return;
+  label.ways = std::move(crowded);
+  label.kept = mark.grown(height);
 }
 
 bool LabelPlacer::isFree(LabelText const& text, QPointF const& centre, double angle) const {
-  return frame_.contains(shapeAt(text, centre, angle, 0).box) &&
-         index_.isFree(shapeAt(text, centre, angle, settings_.gapPt));
+  return frame_.contains(shapeOf(text, centre, angle, 0).box) &&
+         index_.isFree(shapeOf(text, centre, angle, settings_.gapPt));
 }
 
-LabelShape LabelPlacer::shapeAt(LabelText const& text, QPointF const& centre, double angle, double gapPt) const {
+bool LabelPlacer::isFree(WantedLabel const& label, LabelWay const& way) const {
+  return std::all_of(way.pieces.begin(), way.pieces.end(), [&](LabelPiece const& piece) {
+    return isFree(label.texts[static_cast<size_t>(piece.text)], piece.centre, piece.angle);
+  });
+}
+
+LabelShape LabelPlacer::shapeOf(LabelText const& text, QPointF const& centre, double angle, double gapPt) {
   double const width = text.bounds.width() + 2 * gapPt, height = text.bounds.height() + 2 * gapPt;
   if (angle != 0) return LabelShape::turned(centre, width, height, angle);
   return LabelShape::upright(
       {centre.x() - width / 2, centre.y() - height / 2, centre.x() + width / 2, centre.y() + height / 2});
 }
 
-void LabelPlacer::accept(LabelText const& text, QPointF const& centre, double angle, Ring const& leader) {
-  LabelShape shape = shapeAt(text, centre, angle, 0);
-  PlacedLabel placed{text.text, text.symbol, 0, 0, angle, {}, {}, {}};
-  auto const outline = shape.outline();
+void LabelPlacer::accept(WantedLabel const& label, LabelWay const& way) {
+  if (!label.repeats.isEmpty()) repeated_.insert(label.repeats);
+  for (LabelPiece const& piece : way.pieces)
+    put(label.texts[static_cast<size_t>(piece.text)], piece.centre, piece.angle, label.feature, way.leader);
+}
+
+void LabelPlacer::put(LabelText const& text, QPointF const& centre, double angle, int feature, Ring const& leader) {
+  PlacedLabel placed{text.text, text.symbol, 0, 0, angle, {}, {}, store_.keys[static_cast<size_t>(feature)]};
+  auto const outline = shapeOf(text, centre, angle, 0).outline();
   for (QPointF const& corner : outline[0]) placed.area << fromPage(corner);
   for (QPointF const& point : leader) placed.leader << fromPage(point);
   // The bounds need not lie about the position evenly.
@@ -258,9 +254,21 @@ void LabelPlacer::accept(LabelText const& text, QPointF const& centre, double an
                                                      off.x() * std::sin(turn) + off.y() * std::cos(turn)));
   placed.x = position.x();
   placed.y = position.y();
-  index_.add(std::move(shape));
-  if (!leader.isEmpty()) index_.add(LabelShape::area({leader}));
   labels_.push_back(std::move(placed));
+  placedFeatures_.insert(feature);
+}
+
+// Points of a feature as they are; of what extends, the middle of what is in sight.
+void LabelPlacer::leaveOut(WantedLabel const& label) {
+  int const feature = label.feature;
+  if (repeated_.contains(label.repeats)) placedFeatures_.insert(feature);
+  if (placedFeatures_.contains(feature) || leftOut_.contains(feature)) return;
+  leftOut_.insert(feature);
+  LabelText const text = textOf(feature);
+  Box const& box = store_.features[feature].box;
+  double const x = (std::max(box.xmin, covered_.left()) + std::min(box.xmax, covered_.right())) / 2;
+  double const y = (std::max(box.ymin, covered_.top()) + std::min(box.ymax, covered_.bottom())) / 2;
+  unplaced_.push_back({text.text, text.symbol, x, y, 0, {}, {}, store_.keys[feature]});
 }
 
 }  // namespace SysCarto

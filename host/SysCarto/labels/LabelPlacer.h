@@ -4,14 +4,17 @@
 #include "host/SysCarto/labels/LabelSettings.h"
 #include "host/SysCarto/labels/LinePlaces.h"
 #include "host/SysCarto/labels/MarkShapes.h"
+#include "host/SysCarto/labels/MarkSides.h"
 #include "host/SysCarto/layers/ThinnedFeatures.h"
 
 #include <SysDisplay/DisplayTransformation.h>
 #include <SysGeometry/Polygon.h>
 
 #include <QHash>
+#include <QSet>
 
 #include <functional>
+#include <map>
 #include <optional>
 
 namespace SysCarto {
@@ -34,8 +37,35 @@ struct LabelText {
   QRectF bounds;                                      ///< points, y downwards, about the position
 };
 
-/// Places the labels of one layer on one page. Works in points of the page, counted from the lower left corner of what
-/// the transformation shows, so that a label is upright, and follows its line, however the map is turned.
+/// A text of a label, or a letter of it, where it might stand. In points of the page.
+struct LabelPiece {
+  int text;  ///< of the texts of its label
+  QPointF centre;
+  double angle;
+};
+
+/// One of the ways to label a feature.
+struct LabelWay {
+  std::vector<LabelPiece> pieces;
+  double cost;  ///< the less, the better
+  Ring leader = {};
+
+  QPointF const& middle() const { return pieces[pieces.size() / 2].centre; }
+};
+
+/// A label that is to be placed, in one of its ways, or not at all.
+struct WantedLabel {
+  int feature;
+  std::vector<LabelText> texts = {};
+  std::vector<LabelWay> ways = {};
+  Box mark = {}, core = {};  ///< of a point whose mark has a size, and what of it has to be seen
+  Box kept = {};             ///< what no other text covers once it is placed; empty for nothing
+  QString repeats = {}; ///< the text of labels along lines that stand apart; empty for others
+};
+
+/// Finds where the labels of one layer may stand on one page; `LabelPlan` chooses. Works in points of the page, counted
+/// from the lower left corner of what the transformation shows, so that a label is upright, and follows its line, however
+/// the map is turned.
 class LabelPlacer {
 public:
   LabelPlacer(FeatureStore const& store, LabelSettings const& settings, Renderer const& renderer,
@@ -53,29 +83,43 @@ public:
   /// Labels no other feature than the one of that number in the source.
   void keepOnly(qint64 id) { only_ = id; }
 
-  void place(std::function<bool()> const& isCancelled);
+  // In this order.
+
+  /// Places what a person has put somewhere. Answers what these take.
+  std::vector<LabelShape> placePinned();
+
+  /// What labels keep clear of, as `placePinned` of another layer answered it.
+  void addTaken(LabelShape shape) { index_.add(std::move(shape)); }
+
+  /// Labels with the ways that are free of obstacles, the most important ones first; one without a way finds no room.
+  std::vector<WantedLabel> wanted(std::function<bool()> const& isCancelled);
+
+  void accept(WantedLabel const& label, LabelWay const& way);
+
+  /// After all that are accepted: this one is not. Its feature, or the text that it repeats, may stand elsewhere.
+  void leaveOut(WantedLabel const& label);
+
+  // What came of it.
+
   std::vector<PlacedLabel> const& labels() const { return labels_; }
 
   /// The features that are labelled, and what found no place, at its feature and without an area.
-  int placedCount() const { return placedCount_; }
+  int placedCount() const { return static_cast<int>(placedFeatures_.size()); }
   std::vector<PlacedLabel> const& unplaced() const { return unplaced_; }
 
-private:
-  enum class Outcome { Placed, NoRoom, NotWanted };
+  double gapPt() const { return settings_.gapPt; }
+  double repeatPt() const;
+  double priority(int feature) const { return store_.priorities[static_cast<size_t>(feature)]; }
 
+  /// What a piece takes, and so much around it.
+  static LabelShape shapeOf(LabelText const& text, QPointF const& centre, double angle, double gapPt);
+
+private:
   // An area on the page, and its size.
   struct PageArea {
     Rings rings;
     double size = 0;
   };
-
-  // A text, or a letter of it, where it might stand.
-  struct Piece {
-    LabelText text;
-    QPointF centre;
-    double angle;
-  };
-  using Pieces = std::vector<Piece>;
 
   std::vector<int> candidates() const;
   double leastImportant() const;
@@ -85,36 +129,36 @@ private:
   PinnedLabel const* pinOf(int feature) const { return pins_.value(store_.keys[feature]); }
   void placePinned(int feature, PinnedLabel const& pin);
   QPointF nearestOf(int feature, QPointF const& place);
-  void count(int feature, Outcome outcome, size_t labelsBefore);
 
-  Outcome placeFeature(int feature);
-  Outcome placeBesidePoint(int feature, LabelText& text, QPointF const& point);
-  Outcome placeAtPolygon(LabelText const& text, int feature);
-  bool placeInside(LabelText const& given, std::vector<PageArea> const& areas);
-  bool placeOutside(LabelText const& text, PageArea const& area);
-  Outcome placeAlongLines(LabelText const& text, int feature);
-  bool placeAlongLine(LabelText const& text, MeasuredLine const& line);
-  std::vector<Pieces> waysAlong(LabelText const& text, MeasuredLine const& line);
-  bool placeAlong(Pieces const& pieces);
+  void addWanted(int feature, std::vector<WantedLabel>& wanted);
+  void addBesidePoint(WantedLabel label, QPointF const& point, std::vector<WantedLabel>& wanted);
+  bool isCrowdedOut(LabelText const& text, QPointF const& point);
+  void addBeside(WantedLabel& label, Box const& mark) const;
+  void addAtPolygon(WantedLabel label, std::vector<WantedLabel>& wanted);
+  void addInside(WantedLabel& label, std::vector<PageArea> const& areas) const;
+  void addOutside(WantedLabel& label, PageArea const& area) const;
+  void addAlongLines(WantedLabel label, std::vector<WantedLabel>& wanted);
+  void addAlongLine(WantedLabel& label, MeasuredLine const& line, double cost) const;
+  void addRepeated(WantedLabel label, std::vector<WantedLabel>& wanted) const;
 
   std::vector<PageArea> areasOf(int feature);
   std::vector<std::vector<QPointF>> linesOf(int feature);
-  bool isRepeatedTooSoon(QString const& text, QPointF const& middle) const;
-  void keepUnplaced(int feature);
 
-  /// Where a text of that size goes beside a mark; an empty box where it finds no room.
-  Box boxFor(Box const& mark, double width, double height) const;
   LabelText textOf(int feature);
   static void measure(LabelText& text);
   std::optional<QPointF> visiblePoint(int feature) const;
 
-  LabelShape shapeAt(LabelText const& text, QPointF const& centre, double angle, double gapPt) const;
   bool isFree(LabelText const& text, QPointF const& centre, double angle) const;
-  void accept(LabelText const& text, QPointF const& centre, double angle, Ring const& leader = {});
+  bool isFree(WantedLabel const& label, LabelWay const& way) const;
+  void put(LabelText const& text, QPointF const& centre, double angle, int feature, Ring const& leader);
 
   QPointF toPage(double x, double y) const {
     QPointF const turned = turn_.map(QPointF(x, y));
     return {(turned.x() - left_) / unitsPerPoint_, (turned.y() - bottom_) / unitsPerPoint_};
+  }
+  Ring toPage(Ring ring) const {
+    for (QPointF& point : ring) point = toPage(point.x(), point.y());
+    return ring;
   }
   QPointF fromPage(QPointF const& point) const {
     return turnBack_.map(QPointF(left_ + point.x() * unitsPerPoint_, bottom_ + point.y() * unitsPerPoint_));
@@ -122,7 +166,7 @@ private:
 
   FeatureStore const& store_;
   LabelSettings const& settings_;
-  std::vector<PointPlace> const places_;
+  std::vector<MarkSide> const sides_;
   QHash<QString, PinnedLabel const*> pins_;
   double const scale_;  // of the map, as a denominator
   ThinnedFeatures thinned_;
@@ -131,14 +175,15 @@ private:
   QRectF covered_;                // map units
   double unitsPerPoint_ = 0;
   Box frame_;
-  LabelIndex index_;
+  LabelIndex index_;  // of what labels keep clear of
   MarkShapes shapes_;
   std::unique_ptr<MarkIndex> marks_;
   std::optional<qint64> only_;
   QHash<SysDisplay::TextSymbol const*, SysUtility::_ptr_t<SysDisplay::TextSymbol>> centred_;
-  QHash<QString, std::vector<QPointF>> along_;  // middles of the labels of lines, by their text
+  std::map<std::pair<int, int>, int> begunIn_;  // cells of the page
   std::vector<PlacedLabel> labels_;
-  int placedCount_ = 0;
+  QSet<int> placedFeatures_, leftOut_;
+  QSet<QString> repeated_;
   std::vector<PlacedLabel> unplaced_;
 };
 

@@ -1,6 +1,6 @@
 #include "MapPicture.h"
 
-#include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/maps/LabelOrder.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysDisplay/VectorCanvas.h"
@@ -55,16 +55,9 @@ _ptr_t<DisplayTransformation> transformationOf(Map const& map, QRect const& fram
 // Those first whose labels are placed first.
 QList<_ptr_t<FeatureLayer>> labelledLayers(Map const& map) {
   QList<_ptr_t<FeatureLayer>> layers;
-  double const scale = map.GetDisplayTransformation()->GetMapScale();
-  for (auto const& layer : map.GetLayers()) {
-    auto const features = SysUtility::ptr_cast<FeatureLayer>(layer);
-    if (!features || !features->IsVisible() || !features->IsAnnotationVisible()) continue;
-    if (LayerHost::scales(*features->GetAnnotationProperties()).contains(scale)) layers << features;
-  }
-  std::stable_sort(layers.begin(), layers.end(), [](auto const& a, auto const& b) {
-    return a->GetAnnotationProperties()->GetPriority() > b->GetAnnotationProperties()->GetPriority();
-  });
-  return layers;
+  for (auto const& layer : map.GetLayers())
+    if (auto const features = SysUtility::ptr_cast<FeatureLayer>(layer)) layers << features;
+  return inLabelOrder(layers, map.GetDisplayTransformation()->GetMapScale());
 }
 
 }  // namespace

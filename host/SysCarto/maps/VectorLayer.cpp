@@ -1,8 +1,5 @@
 #include "VectorLayer.h"
 
-#include "host/SysCarto/elements/ElementHost.h"
-#include "host/SysCarto/elements/GraphicElements.h"
-#include "host/SysCarto/elements/TextElement.h"
 #include "host/SysCarto/labels/LabelPlacer.h"
 #include "host/SysCarto/layers/FeaturePasses.h"
 #include "host/SysCarto/layers/FeatureSearch.h"
@@ -12,9 +9,6 @@
 #include "host/SysDisplay/PathDrawing.h"
 #include "host/SysUtility/NumberText.h"
 
-#include <SysDisplay/SimpleLineSymbol.h>
-
-#include <QHash>
 
 #include <algorithm>
 #include <cmath>
@@ -22,14 +16,12 @@
 namespace SysCarto {
 
 using namespace SysDisplay;
-using SysGeometry::Polygon;
 using SysUI::TrackerCancel;
 using SysUtility::_ptr_t;
 using SysUtility::make;
 
 namespace {
 
-constexpr double leaderWidthPt = 0.4;
 constexpr int featurePhase = 1;
 constexpr int betweenCancelChecks = 64;
 
@@ -48,27 +40,6 @@ Box areaOf(DrawTarget const& target, double reachPx) {
   QRectF const area =
       target.toDevice().inverted().mapRect(target.area().adjusted(-reachPx, -reachPx, reachPx, reachPx));
   return {area.left(), area.top(), area.right(), area.bottom()};
-}
-
-_ptr_t<TextElement> elementOf(PlacedLabel const& placed, _ptr_t<TextSymbol> const& symbol) {
-  auto const element = make<TextElement>();
-  ElementHost::becomeLabel(*element);
-  element->setText(placed.text);
-  element->setSymbol(symbol);
-  element->setPosition(placed.x, placed.y);
-  element->setAngle(placed.angle);
-  return element;
-}
-
-_ptr_t<LineElement> leaderOf(PlacedLabel const& placed) {
-  auto const symbol = make<SimpleLineSymbol>();
-  symbol->SetColor(placed.symbol->format().color);
-  symbol->SetWidth(leaderWidthPt);
-  auto const element = make<LineElement>();
-  ElementHost::becomeLabel(*element);
-  element->setShape(make<SysGeometry::Polyline>(placed.leader));
-  element->setSymbol(symbol);
-  return element;
 }
 
 }  // namespace
@@ -268,70 +239,6 @@ _ptr_t<AnnotationProperties> VectorLayer::GetAnnotationProperties() const { retu
 void VectorLayer::setObstacle(LabelObstacle obstacle) {
   if (obstacle != obstacle_) LayerHost::changeLook(*this);
   obstacle_ = obstacle;
-}
-
-LabelCount VectorLayer::labelCount() const {
-  return {placedLabels_ + static_cast<int>(unplaced_.size()), placedLabels_};
-}
-
-QList<_ptr_t<Element>> VectorLayer::unplacedLabels() const {
-  QList<_ptr_t<Element>> labels;
-  QHash<TextSymbol const*, _ptr_t<TextSymbol>> reds;
-  for (PlacedLabel const& label : unplaced_) {
-    _ptr_t<TextSymbol>& red = reds[label.symbol.get()];
-    if (!red) {
-      TextFormat format = label.symbol->format();
-      format.color = Qt::red;
-      red = make<TextSymbol>(format);
-    }
-    labels << elementOf(label, red);
-  }
-  return labels;
-}
-
-VectorLayer::Others VectorLayer::obstaclesIn(DisplayTransformation const& transformation,
-                                             _ptr_t<TrackerCancel> const& cancel) const {
-  Others others;
-  for (Layer const* const fellow : LayerHost::fellows(*this)) {
-    auto const* const layer = dynamic_cast<VectorLayer const*>(fellow);
-    bool const isNoObstacle = !layer || layer == this || layer->obstacle_ == LabelObstacle::None ||
-                              !layer->showsAt(transformation.GetMapScale());
-    if (isNoObstacle) continue;
-    if (auto features = layer->shownBy(transformation, cancel)) others.emplace_back(layer, std::move(features));
-  }
-  return others;
-}
-
-void VectorLayer::GetAnnotationElements(QMap<int, QList<_ptr_t<Polygon>>>& obstacles, QList<_ptr_t<Element>>& labels,
-                                        _ptr_t<DisplayTransformation> const& transformation,
-                                        _ptr_t<TrackerCancel> cancel) {
-  auto const store = transformation ? shownBy(*transformation, cancel) : nullptr;
-  auto const others = store ? obstaclesIn(*transformation, cancel) : Others();
-  if (lacksFeatures()) return;
-  placedLabels_ = 0;
-  placed_.clear();
-  unplaced_.clear();
-  if (!store || !store->keepsLabels || store->size() == 0) return;
-  LabelPlacer placer(*store, labels_, *renderer_, *transformation);
-  if (!placer.isUsable()) return;
-  if (spotlight_ && spotlight_->hidesOthers) placer.keepOnly(spotlight_->feature);
-  for (auto const& list : obstacles)
-    for (_ptr_t<Polygon> const& obstacle : list)
-      if (obstacle) placer.addObstacle(*obstacle);
-  for (auto const& [layer, features] : others) placer.addObstacles(*features, *layer->renderer_, layer->obstacle_);
-  placer.place([&] { return isCancelled(cancel); });
-  placedLabels_ = placer.placedCount();
-  placed_ = placer.labels();
-  unplaced_ = placer.unplaced();
-  auto& taken = obstacles[properties_->GetPriority()];
-  for (PlacedLabel const& placed : placed_) {
-    if (!placed.leader.isEmpty()) {
-      labels << leaderOf(placed);
-      taken << make<Polygon>(QVector<QVector<QPointF>>{placed.leader + placed.leader.mid(0, 1)});
-    }
-    labels << elementOf(placed, placed.symbol);
-    taken << make<Polygon>(QVector<QVector<QPointF>>{placed.area});
-  }
 }
 
 }  // namespace SysCarto

@@ -142,6 +142,12 @@ private:
   using Others = std::vector<std::pair<VectorLayer const*, std::shared_ptr<FeatureStore const>>>;
   Others obstaclesIn(SysDisplay::DisplayTransformation const& transformation,
                      SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
+  struct Placement;
+  struct PlannedLabels;
+  std::vector<VectorLayer*> labelledFrom(double mapScale);
+  void planLabels(QMap<int, QList<SysUtility::_ptr_t<SysGeometry::Polygon>>> const& obstacles,
+                  SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+                  SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
   QVector<bool> classesWithin(
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   QVector<bool> findClassesWithin(SysDisplay::DisplayTransformation const& transformation, Box const& shown) const;
@@ -165,6 +171,7 @@ private:
   std::optional<Spotlight> spotlight_;
   int placedLabels_ = 0;
   std::vector<PlacedLabel> placed_, unplaced_;
+  std::shared_ptr<PlannedLabels> planned_;  // with other layers, until its turn comes
   SysUtility::_ptr_t<AnnotationProperties> properties_;
 
   // Only by these functions: features(), thinned().

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <SysCarto/Export.h>
+
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace SysCarto {
+
+/// Chooses one of its candidates for each of many labels, or none, so that no two that are chosen are in each other's way.
+///
+/// More important labels come first, whatever it costs others: no label is given up for any number of less important
+/// ones. Among equally important ones as many as possible are placed; where that is the same, the cheapest candidates
+/// are taken. The same input has the same result everywhere.
+class SYSCARTO_EXPORT LabelSearch {
+public:
+  /// In the order of importance. `rank` is the same for equally important ones, and grows.
+  void addLabel(int rank);
+
+  /// Of the label that was added last. Candidates have numbers from 0, in the order in which they were added.
+  void addCandidate(double cost);
+
+  /// Two candidates of different labels that can't both be chosen.
+  void addConflict(int a, int b) { conflicts_.emplace_back(a, b); }
+
+  /// Nothing is added afterwards. Takes in turn for each label the cheapest candidate that is free.
+  void begin();
+
+  /// Looks for better in so many steps. Answers whether there may be more to find.
+  bool improve(int steps);
+
+  /// Takes cheaper candidates where they are free.
+  void settle();
+
+  /// The candidate of a label, or −1.
+  int chosen(int label) const { return labels_[static_cast<size_t>(label)].chosen; }
+  int labelOf(int candidate) const { return candidates_[static_cast<size_t>(candidate)].label; }
+  int labelCount() const { return static_cast<int>(labels_.size()); }
+  int candidateCount() const { return static_cast<int>(candidates_.size()); }
+
+private:
+  struct Label {
+    int rank;
+    int first, last;  // candidates
+    int chosen = -1;
+    int place = -1;  // in `waiting_`
+    int chain = 0;   // the last one that it was moved in
+  };
+  struct Candidate {
+    int label;
+    double cost;
+    int first = 0, last = 0;     // in `neighbours_`
+    int hits = 0, hitters = 0;   // chosen candidates in its way, and the sum of their labels
+    int isBannedUntil = 0;
+  };
+  enum class Move { Free, DropsLess, Swaps, Pushes, DropsMany, None };
+  struct Choice {
+    Move move = Move::None;
+    int candidate = -1;
+  };
+
+  int below(int count) { return static_cast<int>(chance_() % static_cast<unsigned>(count)); }
+  void link();
+  void findActive();
+  void choose(int label, int candidate);
+  void set(int label, int candidate);
+  void goBack(size_t to);
+  Choice choiceOf(int label, int root);
+  Move moveOf(int candidate, int root) const;
+  bool dropsOnlyLess(int candidate, int rank) const;
+  void pushOut(int candidate);
+  void insert(int root);
+  void takeFreed();
+  void stir();
+  bool makeCheaper(int label);
+  bool swapForCheaper(int label, int candidate);
+
+  std::vector<Label> labels_;
+  std::vector<Candidate> candidates_;
+  std::vector<std::pair<int, int>> conflicts_;
+  std::vector<int> neighbours_;
+  std::vector<int> waiting_;  // labels that are not placed
+  std::vector<int> active_;   // labels that may make room for these
+  std::vector<int> freed_;    // candidates
+  std::vector<std::pair<int, int>> done_;  // labels and what they had before, to go back
+  std::minstd_rand chance_;
+  int step_ = 0;
+};
+
+}  // namespace SysCarto
