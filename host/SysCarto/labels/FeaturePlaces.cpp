@@ -22,7 +22,7 @@ constexpr int directions = 16;  // around an area
 constexpr int distances = 12;   // beyond it, half a text's height each
 constexpr int maxSteps = 40;
 constexpr size_t maxOutside = 32, maxAlong = 24;
-constexpr int maxPlaces = 8;  // in an area
+constexpr size_t maxPlaces = 8;  // in an area
 constexpr double otherAreaCost = 2, outsideCost = 10;
 constexpr double finePt = 0.5;
 constexpr double farHeights = 2;  // from which a pinned label has a leader
@@ -74,12 +74,11 @@ void LabelPlacer::addInside(WantedLabel& label, std::vector<PageArea> const& are
     double cost = number;
     for (PageArea const& area : areas) {
       auto const places = placesInside(area.rings, width, height);
-      int count = 0;
+      size_t const most = label.ways.size() + maxPlaces;
       for (QPointF const& centre : places) {
-        if (!isFree(text, centre, 0)) continue;
         double const off = std::hypot(centre.x() - places[0].x(), centre.y() - places[0].y());
-        label.ways.push_back({{{number, centre, 0}}, cost + std::min(off / (width + height), 1.0)});
-        if (++count == maxPlaces) break;
+        addIfFree(label, {{{number, centre, 0}}, cost + std::min(off / (width + height), 1.0)});
+        if (label.ways.size() == most) break;
       }
       cost += otherAreaCost;
     }
@@ -101,9 +100,9 @@ void LabelPlacer::addOutside(WantedLabel& label, PageArea const& area) const {
       QPointF const edge = middle + QPointF(x, y) * distance;
       QPointF const centre = edge + QPointF(x * halfWidth, y * halfHeight) / std::max(std::abs(x), std::abs(y));
       Ring const leader{middle, edge};
-      if (!isFree(text, centre, 0) || intersects(shapeOf(text, centre, 0, fromBorderPt), named)) continue;
-      if (!index_.isFree(LabelShape::area({leader}))) continue;
-      label.ways.push_back({{{0, centre, 0}}, outsideCost + distance / farthest + 0.01 * i, leader});
+      if (intersects(shapeOf(text, centre, 0, fromBorderPt), named) || !index_.isFree(LabelShape::area({leader})))
+        continue;
+      addIfFree(label, {{{0, centre, 0}}, outsideCost + distance / farthest + 0.01 * i, leader});
     }
 }
 
@@ -143,9 +142,8 @@ void LabelPlacer::addAlongLine(WantedLabel& label, MeasuredLine const& line, dou
   if (line.length() < width) return;  // before letters are measured, which takes long
   double const lift = height / 2 + settings_.offsetPt;
   auto const add = [&](std::vector<LabelPiece> pieces) {
-    LabelWay way{std::move(pieces), cost};
+    addIfFree(label, {std::move(pieces), cost});
     cost += 1.0 / maxAlong;
-    if (isFree(label, way)) label.ways.push_back(std::move(way));
   };
   auto const letters =
       settings_.linePlace == LinePlace::Curved ? lettersOf(text.text, *text.symbol) : std::vector<Letter>();

@@ -65,8 +65,8 @@ bool LabelIndex::isFree(LabelShape const& shape) const {
   return !tree_->any(shape.box, [&](int other) { return intersects(shape, shapes_[other]); });
 }
 
-MarkIndex::MarkIndex(std::vector<Box> const& marks, std::vector<int> weights)
-    : tree_(std::make_unique<BoxTree>(marks)), weights_(std::move(weights)) {}
+MarkIndex::MarkIndex(Marks marks)
+    : tree_(std::make_unique<BoxTree>(marks.boxes)), weights_(std::move(marks.weights)) {}
 MarkIndex::~MarkIndex() = default;
 
 int MarkIndex::count(Box const& box, int most) const {

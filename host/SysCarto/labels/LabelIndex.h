@@ -44,10 +44,19 @@ private:
   std::vector<LabelShape> shapes_;
 };
 
-/// The marks of a layer's points, known before any label is placed.
+/// The marks of points, known before any label is placed.
 class MarkIndex {
 public:
-  MarkIndex(std::vector<Box> const& marks, std::vector<int> weights);
+  struct Marks {
+    std::vector<Box> boxes;
+    std::vector<int> weights;
+
+    void add(Box const& box, int weight) {
+      boxes.push_back(box);
+      weights.push_back(weight);
+    }
+  };
+  explicit MarkIndex(Marks marks);
   ~MarkIndex();
 
   /// How much the marks weigh that meet the box, counted up to `most`.

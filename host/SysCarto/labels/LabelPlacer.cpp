@@ -17,7 +17,7 @@ using SysUtility::make;
 
 namespace {
 
-constexpr int maxMarksCovered = 8;
+constexpr int maxMarksCovered = 8, maxMarksCounted = 100;
 constexpr int importantMark = 4;     // counts as so many
 constexpr double hiddenPart = 0.25;  // of a mark, at either side, that what labels keep clear of may cover
 constexpr double coveredMarkCost = 2;
@@ -85,10 +85,8 @@ double LabelPlacer::leastImportant() const {
   return differ ? *place : std::numeric_limits<double>::infinity();
 }
 
-void LabelPlacer::collectMarks() {
+void LabelPlacer::addMarks(MarkIndex::Marks& marks) {
   double const least = leastImportant();
-  std::vector<Box> marks;
-  std::vector<int> weights;
   for (int feature = 0; feature < store_.size(); ++feature) {
     Feature const& given = store_.features[feature];
     if (!shapes_.isDrawn(feature)) continue;
@@ -96,12 +94,9 @@ void LabelPlacer::collectMarks() {
       if (store_.parts[i].kind != PartKind::Point) continue;
       double const* const xy = store_.parts[i].xy;
       Box const mark = shapes_.at(feature, toPage(xy[0], xy[1]));
-      if (!mark.meets(frame_)) continue;
-      marks.push_back(mark);
-      weights.push_back(store_.priorities[feature] > least ? importantMark : 1);
+      if (mark.meets(frame_)) marks.add(mark, store_.priorities[feature] > least ? importantMark : 1);
     }
   }
-  marks_ = std::make_unique<MarkIndex>(marks, weights);
 }
 
 std::vector<LabelShape> LabelPlacer::placePinned() {
@@ -115,9 +110,9 @@ std::vector<LabelShape> LabelPlacer::placePinned() {
   return taken;
 }
 
-std::vector<WantedLabel> LabelPlacer::wanted(std::function<bool()> const& isCancelled) {
+std::vector<WantedLabel> LabelPlacer::wanted(MarkIndex const& marks, std::function<bool()> const& isCancelled) {
   std::vector<WantedLabel> wanted;
-  collectMarks();
+  marks_ = &marks;
   int untilCheck = 0;
   for (int const feature : candidates()) {
     if (untilCheck++ % 64 == 0 && isCancelled()) break;
@@ -188,7 +183,7 @@ void LabelPlacer::addBesidePoint(WantedLabel label, QPointF const& point, std::v
   double const hiddenX = hiddenPart * (mark.xmax - mark.xmin), hiddenY = hiddenPart * (mark.ymax - mark.ymin);
   Box const core{mark.xmin + hiddenX, mark.ymin + hiddenY, mark.xmax - hiddenX, mark.ymax - hiddenY};
   if (mark.xmax > mark.xmin) {
-    label.mark = label.kept = mark;
+    label.mark = mark;
     label.core = core;
   }
   LabelText& text = label.texts[0];
@@ -209,13 +204,13 @@ void LabelPlacer::addBeside(WantedLabel& label, Box const& mark) const {
   for (MarkSide const& side : sides_) {
     Box const box = boxAt(mark, side, text.bounds.width(), height, settings_.offsetPt);
     if (!isFree(text, centreOf(box), 0)) continue;
-    int const covered = marks_->count(box, 2 * maxMarksCovered);
+    int const covered = marks_->count(box, maxMarksCounted);
     auto& ways = covered > maxMarksCovered ? crowded : label.ways;
     ways.push_back({{{0, centreOf(box), 0}}, side.cost + coveredMarkCost * covered});
   }
   if (!label.ways.empty()) return;
   label.ways = std::move(crowded);
-  label.kept = mark.grown(height);
+  label.around = mark.grown(height);
 }
 
 bool LabelPlacer::isFree(LabelText const& text, QPointF const& centre, double angle) const {
@@ -223,10 +218,13 @@ bool LabelPlacer::isFree(LabelText const& text, QPointF const& centre, double an
          index_.isFree(shapeOf(text, centre, angle, settings_.gapPt));
 }
 
-bool LabelPlacer::isFree(WantedLabel const& label, LabelWay const& way) const {
-  return std::all_of(way.pieces.begin(), way.pieces.end(), [&](LabelPiece const& piece) {
-    return isFree(label.texts[static_cast<size_t>(piece.text)], piece.centre, piece.angle);
-  });
+void LabelPlacer::addIfFree(WantedLabel& label, LabelWay way) const {
+  for (LabelPiece const& piece : way.pieces) {
+    LabelText const& text = label.texts[static_cast<size_t>(piece.text)];
+    if (!isFree(text, piece.centre, piece.angle)) return;
+    way.cost += coveredMarkCost * marks_->count(shapeOf(text, piece.centre, piece.angle, 0).box, maxMarksCounted);
+  }
+  label.ways.push_back(std::move(way));
 }
 
 LabelShape LabelPlacer::shapeOf(LabelText const& text, QPointF const& centre, double angle, double gapPt) {

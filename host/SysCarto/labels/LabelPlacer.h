@@ -59,7 +59,7 @@ struct WantedLabel {
   std::vector<LabelText> texts = {};
   std::vector<LabelWay> ways = {};
   Box mark = {}, core = {};  ///< of a point whose mark has a size, and what of it has to be seen
-  Box kept = {};             ///< what no other text covers once it is placed; empty for nothing
+  Box around = {};           ///< where no text of a more important label may lie; empty for nothing
   QString repeats = {}; ///< the text of labels along lines that stand apart; empty for others
 };
 
@@ -91,8 +91,11 @@ public:
   /// What labels keep clear of, as `placePinned` of another layer answered it.
   void addTaken(LabelShape shape) { index_.add(std::move(shape)); }
 
+  /// The marks of points that are in sight; no label covers more of them than it must.
+  void addMarks(MarkIndex::Marks& marks);
+
   /// Labels with the ways that are free of obstacles, the most important ones first; one without a way finds no room.
-  std::vector<WantedLabel> wanted(std::function<bool()> const& isCancelled);
+  std::vector<WantedLabel> wanted(MarkIndex const& marks, std::function<bool()> const& isCancelled);
 
   void accept(WantedLabel const& label, LabelWay const& way);
 
@@ -123,7 +126,6 @@ private:
 
   std::vector<int> candidates() const;
   double leastImportant() const;
-  void collectMarks();
   void addEdges(Ring const& points);
 
   PinnedLabel const* pinOf(int feature) const { return pins_.value(store_.keys[feature]); }
@@ -149,7 +151,7 @@ private:
   std::optional<QPointF> visiblePoint(int feature) const;
 
   bool isFree(LabelText const& text, QPointF const& centre, double angle) const;
-  bool isFree(WantedLabel const& label, LabelWay const& way) const;
+  void addIfFree(WantedLabel& label, LabelWay way) const;
   void put(LabelText const& text, QPointF const& centre, double angle, int feature, Ring const& leader);
 
   QPointF toPage(double x, double y) const {
@@ -177,7 +179,7 @@ private:
   Box frame_;
   LabelIndex index_;  // of what labels keep clear of
   MarkShapes shapes_;
-  std::unique_ptr<MarkIndex> marks_;
+  MarkIndex const* marks_ = nullptr;  // of all layers
   std::optional<qint64> only_;
   QHash<SysDisplay::TextSymbol const*, SysUtility::_ptr_t<SysDisplay::TextSymbol>> centred_;
   std::map<std::pair<int, int>, int> begunIn_;  // cells of the page

@@ -11,7 +11,7 @@ namespace SysCarto {
 namespace {
 
 constexpr int mostLabels = 20000;  // that are placed against each other
-constexpr int stepsALabel = 100;
+constexpr int stepsALabel = 300;
 constexpr int stepsAtOnce = 2000;
 
 }  // namespace
@@ -24,8 +24,10 @@ void LabelPlan::add(WantedLabel label, int rank, Room const& room) {
 
 void LabelPlan::addWays(Label& label) {
   WantedLabel const& wanted = label.wanted;
+  label.box.add(wanted.mark);
+  label.box.add(wanted.around);
   for (LabelWay const& way : wanted.ways) {
-    Way own{count() - 1, &way, {}, {}, wanted.kept};
+    Way own{count() - 1, &way, {}, {}, {}};
     for (LabelPiece const& piece : way.pieces) {
       LabelText const& text = wanted.texts[static_cast<size_t>(piece.text)];
       own.shapes.push_back(LabelPlacer::shapeOf(text, piece.centre, piece.angle, 0));
@@ -55,39 +57,38 @@ void LabelPlan::place(std::function<bool()> const& isCancelled) {
   search_.settle();
 }
 
-// Of labels whose ways lie near each other, each way against each.
+// Of labels that lie near each other, each way against each.
 void LabelPlan::findConflicts() {
   BoxTree tree;
   for (int number = 0; number < count(); ++number) {
     Label const& label = labels_[static_cast<size_t>(number)];
-    if (label.box.isEmpty()) continue;
+    if (label.wanted.ways.empty() || label.box.isEmpty()) continue;
     tree.any(label.box, [&](int other) {
-      findConflicts(label, labels_[static_cast<size_t>(other)]);
+      findConflicts(labels_[static_cast<size_t>(other)], label);
       return false;
     });
     tree.insert(label.box, number);
   }
 }
 
-void LabelPlan::findConflicts(Label const& label, Label const& other) {
-  bool const mayRepeat = !label.wanted.repeats.isEmpty() && !other.wanted.repeats.isEmpty();
-  double const apart = mayRepeat ? label.room.apart : 0;
+void LabelPlan::findConflicts(Label const& upper, Label const& lower) {
   auto const lastOf = [](Label const& one) { return one.first + static_cast<int>(one.wanted.ways.size()); };
-  for (int a = label.first; a < lastOf(label); ++a) {
-    Way const& way = ways_[static_cast<size_t>(a)];
-    Box const near = way.box.grown(apart);
-    for (int b = other.first; b < lastOf(other); ++b)
-      if (near.meets(ways_[static_cast<size_t>(b)].box) && conflict(way, ways_[static_cast<size_t>(b)]))
+  bool const isEither = hide(upper.wanted, lower.wanted);
+  for (int a = upper.first; a < lastOf(upper); ++a)
+    for (int b = lower.first; b < lastOf(lower); ++b)
+      if (isEither || conflict(ways_[static_cast<size_t>(a)], ways_[static_cast<size_t>(b)]))
         search_.addConflict(a, b);
-  }
 }
 
-bool LabelPlan::conflict(Way const& a, Way const& b) const {
-  Label const &first = labels_[static_cast<size_t>(a.label)], &second = labels_[static_cast<size_t>(b.label)];
+bool LabelPlan::conflict(Way const& upper, Way const& lower) const {
+  Label const& first = labels_[static_cast<size_t>(upper.label)];
+  Label const& second = labels_[static_cast<size_t>(lower.label)];
+  if (covers(upper, second.wanted.mark) || covers(upper, second.wanted.around) || covers(lower, first.wanted.mark) ||
+      repeats(upper, lower))
+    return true;
+  if (!upper.box.meets(lower.box)) return false;
   bool const isWider = first.room.gap >= second.room.gap;
-  return meet(isWider ? a.spaced : a.shapes, isWider ? b.shapes : b.spaced) || covers(a, second.wanted.kept) ||
-         covers(b, first.wanted.kept) || hides(first.wanted, second.wanted) || hides(second.wanted, first.wanted) ||
-         repeats(a, b);
+  return meet(isWider ? upper.spaced : upper.shapes, isWider ? lower.shapes : lower.spaced);
 }
 
 bool LabelPlan::meet(std::vector<LabelShape> const& a, std::vector<LabelShape> const& b) {
@@ -96,15 +97,18 @@ bool LabelPlan::meet(std::vector<LabelShape> const& a, std::vector<LabelShape> c
   });
 }
 
-bool LabelPlan::covers(Way const& way, Box const& kept) {
-  return !kept.isEmpty() && std::any_of(way.shapes.begin(), way.shapes.end(), [&](LabelShape const& shape) {
-    return intersects(shape, LabelShape::upright(kept));
-  });
+bool LabelPlan::covers(Way const& way, Box const& box) {
+  return !box.isEmpty() && box.meets(way.box) &&
+         std::any_of(way.shapes.begin(), way.shapes.end(),
+                     [&](LabelShape const& shape) { return intersects(shape, LabelShape::upright(box)); });
 }
 
 // A name beside a mark that is not seen would be read as that of another.
-bool LabelPlan::hides(WantedLabel const& upper, WantedLabel const& lower) {
-  return !upper.mark.isEmpty() && !lower.core.isEmpty() && upper.mark.meets(lower.core);
+bool LabelPlan::hide(WantedLabel const& a, WantedLabel const& b) {
+  auto const isHidden = [](Box const& core, Box const& mark) {
+    return !core.isEmpty() && !mark.isEmpty() && core.meets(mark);
+  };
+  return isHidden(a.core, b.mark) || isHidden(b.core, a.mark);
 }
 
 // Labels of one text along lines that stand closer than they are to.
@@ -121,6 +125,9 @@ void placeLabels(std::vector<LabelPlacer*> const& layers, std::function<bool()> 
   for (LabelPlacer* const layer : layers)
     for (LabelShape const& shape : layer->placePinned())
       for (LabelPlacer* const other : layers) other->addTaken(shape);
+  MarkIndex::Marks given;
+  for (LabelPlacer* const layer : layers) layer->addMarks(given);
+  MarkIndex const marks(std::move(given));
   LabelPlan plan;
   std::vector<LabelPlacer*> owners;
   int rank = 0;
@@ -128,7 +135,7 @@ void placeLabels(std::vector<LabelPlacer*> const& layers, std::function<bool()> 
     ++rank;
     LabelPlan::Room const room{layer->gapPt(), layer->repeatPt(), rank};
     std::optional<double> before;
-    for (WantedLabel& wanted : layer->wanted(isCancelled)) {
+    for (WantedLabel& wanted : layer->wanted(marks, isCancelled)) {
       double const priority = layer->priority(wanted.feature);
       rank += before && priority < *before;
       before = priority;

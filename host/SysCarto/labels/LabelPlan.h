@@ -37,22 +37,22 @@ private:
     WantedLabel wanted;
     Room room;
     int first;  // of its ways
-    Box box;    // around them, and how far away others matter
+    Box box;    // of all that matters to others
   };
   struct Way {
     int label;
     LabelWay const* given;
     std::vector<LabelShape> shapes, spaced;  // of its pieces and its leader, and with the gap around them
-    Box box;                                 // around them and what the label keeps
+    Box box;                                 // around them
   };
 
   void addWays(Label& label);
   void findConflicts();
   void findConflicts(Label const& label, Label const& other);
-  bool conflict(Way const& a, Way const& b) const;
+  bool conflict(Way const& upper, Way const& lower) const;
   static bool meet(std::vector<LabelShape> const& a, std::vector<LabelShape> const& b);
-  static bool covers(Way const& way, Box const& kept);
-  static bool hides(WantedLabel const& upper, WantedLabel const& lower);
+  static bool covers(Way const& way, Box const& box);
+  static bool hide(WantedLabel const& a, WantedLabel const& b);
   bool repeats(Way const& a, Way const& b) const;
 
   std::deque<Label> labels_;
