@@ -23,11 +23,23 @@ constexpr int distances = 12;   // beyond it, half a text's height each
 constexpr int maxSteps = 40;
 constexpr size_t maxOutside = 32, maxAlong = 24;
 constexpr size_t maxPlaces = 8;  // in an area
-constexpr double otherAreaCost = 2, outsideCost = 10;
+constexpr double otherAreaCost = 2, acrossCost = 4, outsideCost = 10;
+constexpr double leastWithin = 0.3;  // of a text that reaches beyond its area
 constexpr double finePt = 0.5;
 constexpr double farHeights = 2;  // from which a pinned label has a leader
 
 bool isRing(Part const& part) { return part.kind == PartKind::Ring || part.kind == PartKind::FilledRing; }
+
+// How much of a box lies within an area, by samples.
+double shareWithin(Rings const& rings, QPointF const& centre, double width, double height) {
+  constexpr int columns = 9, rows = 3;
+  int within = 0;
+  for (int column = 0; column < columns; ++column)
+    for (int row = 0; row < rows; ++row)
+      within += SysGeometry::contains(rings, centre.x() + width * ((column + 0.5) / columns - 0.5),
+                                      centre.y() + height * ((row + 0.5) / rows - 0.5));
+  return static_cast<double>(within) / (columns * rows);
+}
 
 double widthOf(Box const& box) { return box.isEmpty() ? 0 : box.xmax - box.xmin; }
 
@@ -58,7 +70,8 @@ void LabelPlacer::addAtPolygon(WantedLabel label, std::vector<WantedLabel>& want
               areas.end());
   if (areas.empty() || widthOf(SysGeometry::boxOf(areas[0].rings)) * cmPerPoint < settings_.minSizeCm) return;
   addInside(label, areas);
-  if (settings_.areaPlace == AreaPlace::Outside) addOutside(label, areas[0]);
+  if (settings_.areaPlace == AreaPlace::Across) addAcross(label, areas[0]);
+  if (settings_.areaPlace == AreaPlace::Outside && label.ways.empty()) addOutside(label, areas[0]);
   wanted.push_back(std::move(label));
 }
 
@@ -81,6 +94,21 @@ void LabelPlacer::addInside(WantedLabel& label, std::vector<PageArea> const& are
         if (label.ways.size() == most) break;
       }
       cost += otherAreaCost;
+    }
+  }
+}
+
+// About the middle of the area, as far as enough of the text lies within.
+void LabelPlacer::addAcross(WantedLabel& label, PageArea const& area) const {
+  QPointF const middle = SysGeometry::poleOfInaccessibility(area.rings, finePt).place;
+  for (size_t number = 0; number < label.texts.size(); ++number) {
+    double const width = label.texts[number].bounds.width(), height = label.texts[number].bounds.height();
+    for (QPointF const& off : {QPointF(), QPointF(0, 0.5), QPointF(0, -0.5), QPointF(0.25, 0), QPointF(-0.25, 0)}) {
+      QPointF const centre = middle + QPointF(off.x() * width, off.y() * height);
+      double const within = shareWithin(area.rings, centre, width, height);
+      if (within < leastWithin) continue;
+      double const cost = acrossCost * (2 - within) + static_cast<double>(number);
+      addIfFree(label, {{{static_cast<int>(number), centre, 0}}, cost});
     }
   }
 }

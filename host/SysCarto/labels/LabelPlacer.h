@@ -138,6 +138,7 @@ private:
   void addBeside(WantedLabel& label, Box const& mark) const;
   void addAtPolygon(WantedLabel label, std::vector<WantedLabel>& wanted);
   void addInside(WantedLabel& label, std::vector<PageArea> const& areas) const;
+  void addAcross(WantedLabel& label, PageArea const& area) const;
   void addOutside(WantedLabel& label, PageArea const& area) const;
   void addAlongLines(WantedLabel label, std::vector<WantedLabel>& wanted);
   void addAlongLine(WantedLabel& label, MeasuredLine const& line, double cost) const;

@@ -11,8 +11,7 @@ namespace SysCarto {
 namespace {
 
 constexpr int mostLabels = 20000;  // that are placed against each other
-constexpr int stepsALabel = 300;
-constexpr int stepsAtOnce = 2000;
+constexpr int stepsALabel = 150, stepsAtOnce = 20;
 
 }  // namespace
 
@@ -52,8 +51,8 @@ LabelWay const* LabelPlan::chosen(int number) const {
 void LabelPlan::place(std::function<bool()> const& isCancelled) {
   findConflicts();
   search_.begin();
-  for (int steps = count() * stepsALabel; steps > 0 && !isCancelled(); steps -= stepsAtOnce)
-    if (!search_.improve(std::min(steps, stepsAtOnce))) break;
+  for (int steps = stepsALabel; steps > 0 && !isCancelled(); steps -= stepsAtOnce)
+    if (!search_.improve(stepsAtOnce)) break;
   search_.settle();
 }
 

@@ -8,8 +8,10 @@ namespace SysCarto {
 namespace {
 
 constexpr int longestChain = 8;
-constexpr int bannedSteps = 5, bannedAtRandom = 10;  // until a label may go back to where it was
+constexpr int bannedSteps = 5, bannedAtRandom = 10;  // until what was placed may be pushed out again
+constexpr int oneIn = 4;                             // of candidates that several have to leave is looked at
 constexpr int sweeps = 8;
+constexpr int patience = 20;  // steps for each label that may make room, without a gain
 
 // Sets of labels that can't be told apart by going from conflict to conflict.
 class Sets {
@@ -117,25 +119,26 @@ void LabelSearch::goBack(size_t to) {
   for (; done_.size() > to; done_.pop_back()) choose(done_.back().first, done_.back().second);
 }
 
-bool LabelSearch::dropsOnlyLess(int candidate, int rank) const {
-  Candidate const& own = candidates_[candidate];
-  return std::all_of(neighbours_.begin() + own.first, neighbours_.begin() + own.last, [&](int other) {
-    Label const& label = labels_[labelOf(other)];
-    return label.chosen != other || label.rank > rank;
-  });
-}
-
-// What it means for the label that is to be placed in the end.
+// What it means for the label that is to be placed in the end: whether what has to go may go without another place.
 LabelSearch::Move LabelSearch::moveOf(int candidate, int root) const {
   Candidate const& own = candidates_[candidate];
   int const rank = labels_[root].rank;
   if (own.hits == 0) return Move::Free;
-  if (own.hits > 1) return dropsOnlyLess(candidate, rank) ? Move::DropsMany : Move::None;
-  Label const& hitter = labels_[own.hitters];
-  if (own.hitters == root) return Move::None;
-  if (hitter.rank > rank) return Move::DropsLess;
-  if (hitter.rank == rank) return own.isBannedUntil > step_ ? Move::None : Move::Swaps;
-  return hitter.chain == step_ ? Move::None : Move::Pushes;
+  int pushed = 0;
+  auto const push = [&](Label const& label) {
+    if (label.rank > rank) return true;
+    bool const mayMove = label.chain != step_ && candidates_[label.chosen].isBannedUntil <= step_;
+    return mayMove && ++pushed <= 2;
+  };
+  bool isPossible = true;
+  if (own.hits == 1) {
+    isPossible = push(labels_[own.hitters]);
+  } else {
+    for (int i = own.first; i < own.last && isPossible; ++i)
+      if (Label const& label = labels_[labelOf(neighbours_[i])]; label.chosen == neighbours_[i]) isPossible = push(label);
+  }
+  if (!isPossible) return Move::None;
+  return pushed == 0 ? Move::Drops : pushed == 1 ? Move::Pushes : Move::PushesTwo;
 }
 
 // By chance one of those that are equally good.
@@ -143,7 +146,9 @@ LabelSearch::Choice LabelSearch::choiceOf(int label, int root) {
   Choice best;
   int equal = 0;
   for (int one = labels_[label].first; one < labels_[label].last; ++one) {
-    Move const move = moveOf(one, root);
+    bool const isWorthALook = candidates_[one].hits < 2 || best.move == Move::None || best.move > Move::Pushes ||
+                              below(oneIn) == 0;
+    Move const move = isWorthALook ? moveOf(one, root) : Move::None;
     if (move == Move::None || move > best.move) continue;
     equal = move < best.move ? 1 : equal + 1;
     if (equal == 1 || below(equal) == 0) best = {move, one};
@@ -151,35 +156,41 @@ LabelSearch::Choice LabelSearch::choiceOf(int label, int root) {
   return best;
 }
 
-void LabelSearch::pushOut(int candidate) {
+void LabelSearch::pushOut(int candidate, int rank) {
   Candidate const& own = candidates_[candidate];
   for (int i = own.first; i < own.last && own.hits > 0; ++i) {
     int const other = neighbours_[i], label = labelOf(other);
     if (labels_[label].chosen != other) continue;
-    candidates_[other].isBannedUntil = step_ + bannedSteps + below(bannedAtRandom);
     labels_[label].chain = step_;
+    if (labels_[label].rank <= rank) pushed_.push_back(label);
     set(label, -1);
   }
 }
 
-// Places a label where one has to go that is no more important, or after others have made room in turn.
+// Places a label where less important ones have to go, or others make room in turn. Where one is left over that is equally
+// important, it waits in its stead.
 void LabelSearch::insert(int root) {
   done_.clear();
-  int label = root;
+  pushed_.assign(1, root);
   labels_[root].chain = step_;
-  for (int length = 0; length < longestChain; ++length) {
+  int const rank = labels_[root].rank;
+  bool drops = false;
+  for (int length = 0; length < longestChain && !pushed_.empty(); ++length) {
+    int const label = pushed_.back();
     auto const [move, candidate] = choiceOf(label, root);
     if (move == Move::None) break;
-    int const pushed = move == Move::Free ? -1 : candidates_[candidate].hitters;
-    pushOut(candidate);
+    pushed_.pop_back();
+    drops = drops || move == Move::Drops;
+    pushOut(candidate, rank);
     set(label, candidate);
-    if (move == Move::Free || move == Move::DropsMany) return;
-    label = pushed;
-    if (move == Move::Pushes) continue;
-    Choice const rest = choiceOf(label, label);
-    if (rest.move == Move::Free) set(label, rest.candidate);
+    candidates_[candidate].isBannedUntil = step_ + bannedSteps + below(bannedAtRandom);
+  }
+  if (pushed_.empty()) {
+    if (drops) lastGain_ = step_;
     return;
   }
+  bool const isSwap = !drops && pushed_.size() == 1 && pushed_[0] != root && labels_[pushed_[0]].rank == rank;
+  if (isSwap) return;
   goBack(0);
   freed_.clear();
 }
@@ -200,16 +211,19 @@ void LabelSearch::stir() {
   if (own.chosen >= 0 && candidate != own.chosen && candidates_[candidate].hits == 0) choose(label, candidate);
 }
 
-bool LabelSearch::improve(int steps) {
-  for (int i = 0; i < steps && !waiting_.empty() && !active_.empty(); ++i) {
-    ++step_;
+bool LabelSearch::improve(int stepsALabel) {
+  int const active = static_cast<int>(active_.size());
+  for (int i = 0; i < stepsALabel * active && !waiting_.empty(); ++i) {
+    if (++step_ - lastGain_ > patience * active) return false;
+    size_t const waited = waiting_.size();
     if (step_ % 2 == 0)
       stir();
     else
-      insert(waiting_[below(static_cast<int>(waiting_.size()))]);
+      insert(waiting_[below(static_cast<int>(waited))]);
     takeFreed();
+    if (waiting_.size() < waited) lastGain_ = step_;
   }
-  return !waiting_.empty() && !active_.empty();
+  return !waiting_.empty() && active > 0;
 }
 
 void LabelSearch::settle() {

@@ -27,8 +27,9 @@ public:
   /// Nothing is added afterwards. Takes in turn for each label the cheapest candidate that is free.
   void begin();
 
-  /// Looks for better in so many steps. Answers whether there may be more to find.
-  bool improve(int steps);
+  /// Looks for better, in so many steps for each label that may make room for another. Answers whether it is worth to go
+  /// on.
+  bool improve(int stepsALabel);
 
   /// Takes cheaper candidates where they are free.
   void settle();
@@ -54,7 +55,8 @@ private:
     int hits = 0, hitters = 0;   // chosen candidates in its way, and the sum of their labels
     int isBannedUntil = 0;
   };
-  enum class Move { Free, DropsLess, Swaps, Pushes, DropsMany, None };
+  // The better, the lower.
+  enum class Move { Free, Drops, Pushes, PushesTwo, None };
   struct Choice {
     Move move = Move::None;
     int candidate = -1;
@@ -68,8 +70,7 @@ private:
   void goBack(size_t to);
   Choice choiceOf(int label, int root);
   Move moveOf(int candidate, int root) const;
-  bool dropsOnlyLess(int candidate, int rank) const;
-  void pushOut(int candidate);
+  void pushOut(int candidate, int rank);
   void insert(int root);
   void takeFreed();
   void stir();
@@ -83,9 +84,10 @@ private:
   std::vector<int> waiting_;  // labels that are not placed
   std::vector<int> active_;   // labels that may make room for these
   std::vector<int> freed_;    // candidates
+  std::vector<int> pushed_;   // labels that need another place
   std::vector<std::pair<int, int>> done_;  // labels and what they had before, to go back
   std::minstd_rand chance_;
-  int step_ = 0;
+  int step_ = 0, lastGain_ = 0;
 };
 
 }  // namespace SysCarto

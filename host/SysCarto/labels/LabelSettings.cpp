@@ -32,6 +32,7 @@ constexpr Choice linePlaces[] = {
 };
 constexpr Choice areaPlaces[] = {
     {AreaPlace::Inside, "inside", QT_TRANSLATE_NOOP("Fields", "Inside")},
+    {AreaPlace::Across, "across", QT_TRANSLATE_NOOP("Fields", "Across the border where it does not fit")},
     {AreaPlace::Outside, "outside", QT_TRANSLATE_NOOP("Fields", "Outside where it does not fit")},
 };
 // clang-format on
@@ -97,8 +98,8 @@ void listPlaces(Fields& fields, LabelSettings& labels) {
       labels.repeatCm, {0, maxPaperCm, Unit::Centimetre}, usual.repeatCm);
   fields.choice<AreaPlace>({"areaPlace", QT_TRANSLATE_NOOP("Fields", "Place at areas"),
                             QT_TRANSLATE_NOOP("Fields",
-                                              "Whether a label that does not fit into its area is left out, or stands "
-                                              "beside it with a line that leads there.")},
+                                              "Whether a label that does not fit into its area is left out, reaches "
+                                              "beyond it, or stands beside it with a line that leads there.")},
                            labels.areaPlace, areaPlaces, usual.areaPlace);
   fields.number(
       {"minSize", QT_TRANSLATE_NOOP("Fields", "Least size"),

@@ -28,7 +28,7 @@ struct LabelClass {
 enum class LinePlace { Above, On, Curved };
 
 /// Where the label of an area goes.
-enum class AreaPlace { Inside, Outside };
+enum class AreaPlace { Inside, Across, Outside };
 
 /// What labels of other layers keep off.
 enum class LabelObstacle { None, Marks, Areas };

@@ -259,7 +259,7 @@ QJsonObject labelsOf(Material const& of, FieldSurvey const& names, FieldSurvey c
   if (lettering.italic) symbol.insert("italic", true);
   QJsonObject labels{{"field", names.name}, {"priority", lettering.priority}, {"symbol", symbol}};
   bool const areIslands = of.kind == GeometryKind::Areas && of.survey.covered < 0.1 && of.survey.count <= maxBeside;
-  if (areIslands) labels.insert("areaPlace", "outside");
+  if (of.kind == GeometryKind::Areas) labels.insert("areaPlace", areIslands ? "outside" : "across");
   if (!size) return labels;
   labels.insert("priorityField", size->name);
   double const large = percentile(*size, 0.9);
