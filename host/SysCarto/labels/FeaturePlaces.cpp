@@ -75,7 +75,8 @@ void LabelPlacer::addAtPolygon(WantedLabel label, std::vector<WantedLabel>& want
   wanted.push_back(std::move(label));
 }
 
-// In one line rather than in several, in the largest area rather than in another, in its middle rather than beside that.
+// In one line rather than in several, in the largest area rather than in another, in its middle rather than beside
+// that.
 void LabelPlacer::addInside(WantedLabel& label, std::vector<PageArea> const& areas) const {
   LabelText const whole = label.texts[0];
   label.texts.clear();

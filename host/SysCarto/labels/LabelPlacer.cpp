@@ -21,7 +21,15 @@ constexpr int maxMarksCovered = 8, maxMarksCounted = 100;
 constexpr int importantMark = 4;     // counts as so many
 constexpr double hiddenPart = 0.25;  // of a mark, at either side, that what labels keep clear of may cover
 constexpr double coveredMarkCost = 2;
-constexpr int mostInCell = 16;  // labels of points that begin in so much room as one of them takes
+constexpr double cellWidth = 6, cellHeight = 1.5;  // in sizes of the letters
+constexpr int mostInCell = 6;
+
+// How many places are looked at, where so many labels begin in a cell.
+struct Crowd {
+  int labels;
+  size_t sides;
+};
+constexpr Crowd crowds[] = {{4, 24}, {12, 12}, {std::numeric_limits<int>::max(), 8}};
 
 QPointF centreOf(Box const& box) { return {(box.xmin + box.xmax) / 2, (box.ymin + box.ymax) / 2}; }
 
@@ -113,8 +121,10 @@ std::vector<LabelShape> LabelPlacer::placePinned() {
 std::vector<WantedLabel> LabelPlacer::wanted(MarkIndex const& marks, std::function<bool()> const& isCancelled) {
   std::vector<WantedLabel> wanted;
   marks_ = &marks;
+  std::vector<int> const features = candidates();
+  countCells(features);
   int untilCheck = 0;
-  for (int const feature : candidates()) {
+  for (int const feature : features) {
     if (untilCheck++ % 64 == 0 && isCancelled()) break;
     if (!pinOf(feature)) addWanted(feature, wanted);
   }
@@ -171,11 +181,16 @@ LabelText LabelPlacer::textOf(int feature) {
 
 void LabelPlacer::measure(LabelText& text) { text.bounds = text.symbol->bounds(text.text); }
 
-// Of places that lie closer than their texts are large, only a few can have one.
-bool LabelPlacer::isCrowdedOut(LabelText const& text, QPointF const& point) {
+// About as large as a name; labels that begin in one cell are in each other's way.
+std::pair<int, int> LabelPlacer::cellOf(LabelText const& text, QPointF const& point) {
   double const size = std::max(text.symbol->format().size, 1.0);
-  auto const cell = [](double value, double side) { return static_cast<int>(std::floor(value / side)); };
-  return ++begunIn_[{cell(point.x(), 4 * size), cell(point.y(), size)}] > mostInCell;
+  return {static_cast<int>(std::floor(point.x() / (cellWidth * size))),
+          static_cast<int>(std::floor(point.y() / (cellHeight * size)))};
+}
+
+void LabelPlacer::countCells(std::vector<int> const& features) {
+  for (int const feature : features)
+    if (auto const point = visiblePoint(feature)) ++cells_[cellOf(textOf(feature), *point)].all;
 }
 
 void LabelPlacer::addBesidePoint(WantedLabel label, QPointF const& point, std::vector<WantedLabel>& wanted) {
@@ -187,28 +202,34 @@ void LabelPlacer::addBesidePoint(WantedLabel label, QPointF const& point, std::v
     label.core = core;
   }
   LabelText& text = label.texts[0];
-  if (!isCrowdedOut(text, point) && index_.isFree(LabelShape::upright(core))) {
+  Cell& cell = cells_[cellOf(text, point)];
+  if (cell.tried < mostInCell && index_.isFree(LabelShape::upright(core))) {
     if (settings_.wrapPt > 0) text.text = SysDisplay::wrapped(text.text, *text.symbol, settings_.wrapPt);
     measure(text);
     if (text.bounds.isEmpty()) return;
-    addBeside(label, mark);
+    addBeside(label, mark, cell);
+    cell.tried += !label.ways.empty();
   }
   wanted.push_back(std::move(label));
 }
 
-// Where marks lie so close that a text covers many of them wherever it stands, names keep their distance.
-void LabelPlacer::addBeside(WantedLabel& label, Box const& mark) const {
+// The more names there are, the fewer places are looked at for each. Where marks lie so close that a text covers many
+// of them wherever it stands, names keep their distance.
+void LabelPlacer::addBeside(WantedLabel& label, Box const& mark, Cell const& cell) const {
   LabelText const& text = label.texts[0];
   double const height = text.bounds.height();
   std::vector<LabelWay> crowded;
-  for (MarkSide const& side : sides_) {
+  auto const few =
+      std::find_if(std::begin(crowds), std::end(crowds), [&](Crowd const& one) { return cell.all <= one.labels; });
+  for (size_t i = 0; i < std::min(sides_.size(), few->sides); ++i) {
+    MarkSide const& side = sides_[i];
     Box const box = boxAt(mark, side, text.bounds.width(), height, settings_.offsetPt);
     if (!isFree(text, centreOf(box), 0)) continue;
     int const covered = marks_->count(box, maxMarksCounted);
     auto& ways = covered > maxMarksCovered ? crowded : label.ways;
     ways.push_back({{{0, centreOf(box), 0}}, side.cost + coveredMarkCost * covered});
   }
-  if (!label.ways.empty()) return;
+  if (!label.ways.empty() || cell.tried > 0) return;
   label.ways = std::move(crowded);
   label.around = mark.grown(height);
 }

@@ -60,12 +60,12 @@ struct WantedLabel {
   std::vector<LabelWay> ways = {};
   Box mark = {}, core = {};  ///< of a point whose mark has a size, and what of it has to be seen
   Box around = {};           ///< where no text of a more important label may lie; empty for nothing
-  QString repeats = {}; ///< the text of labels along lines that stand apart; empty for others
+  QString repeats = {};      ///< the text of labels along lines that stand apart; empty for others
 };
 
 /// Finds where the labels of one layer may stand on one page; `LabelPlan` chooses. Works in points of the page, counted
-/// from the lower left corner of what the transformation shows, so that a label is upright, and follows its line, however
-/// the map is turned.
+/// from the lower left corner of what the transformation shows, so that a label is upright, and follows its line,
+/// however the map is turned.
 class LabelPlacer {
 public:
   LabelPlacer(FeatureStore const& store, LabelSettings const& settings, Renderer const& renderer,
@@ -124,6 +124,12 @@ private:
     double size = 0;
   };
 
+  // Labels of points that begin in a part of the page.
+  struct Cell {
+    int all = 0;
+    int tried = 0;  // so far
+  };
+
   std::vector<int> candidates() const;
   double leastImportant() const;
   void addEdges(Ring const& points);
@@ -134,8 +140,9 @@ private:
 
   void addWanted(int feature, std::vector<WantedLabel>& wanted);
   void addBesidePoint(WantedLabel label, QPointF const& point, std::vector<WantedLabel>& wanted);
-  bool isCrowdedOut(LabelText const& text, QPointF const& point);
-  void addBeside(WantedLabel& label, Box const& mark) const;
+  static std::pair<int, int> cellOf(LabelText const& text, QPointF const& point);
+  void countCells(std::vector<int> const& features);
+  void addBeside(WantedLabel& label, Box const& mark, Cell const& cell) const;
   void addAtPolygon(WantedLabel label, std::vector<WantedLabel>& wanted);
   void addInside(WantedLabel& label, std::vector<PageArea> const& areas) const;
   void addAcross(WantedLabel& label, PageArea const& area) const;
@@ -183,7 +190,7 @@ private:
   MarkIndex const* marks_ = nullptr;  // of all layers
   std::optional<qint64> only_;
   QHash<SysDisplay::TextSymbol const*, SysUtility::_ptr_t<SysDisplay::TextSymbol>> centred_;
-  std::map<std::pair<int, int>, int> begunIn_;  // cells of the page
+  std::map<std::pair<int, int>, Cell> cells_;
   std::vector<PlacedLabel> labels_;
   QSet<int> placedFeatures_, leftOut_;
   QSet<QString> repeated_;

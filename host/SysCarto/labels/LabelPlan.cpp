@@ -75,8 +75,7 @@ void LabelPlan::findConflicts(Label const& upper, Label const& lower) {
   bool const isEither = hide(upper.wanted, lower.wanted);
   for (int a = upper.first; a < lastOf(upper); ++a)
     for (int b = lower.first; b < lastOf(lower); ++b)
-      if (isEither || conflict(ways_[static_cast<size_t>(a)], ways_[static_cast<size_t>(b)]))
-        search_.addConflict(a, b);
+      if (isEither || conflict(ways_[static_cast<size_t>(a)], ways_[static_cast<size_t>(b)])) search_.addConflict(a, b);
 }
 
 bool LabelPlan::conflict(Way const& upper, Way const& lower) const {
@@ -113,8 +112,8 @@ bool LabelPlan::hide(WantedLabel const& a, WantedLabel const& b) {
 // Labels of one text along lines that stand closer than they are to.
 bool LabelPlan::repeats(Way const& a, Way const& b) const {
   Label const &first = labels_[static_cast<size_t>(a.label)], &second = labels_[static_cast<size_t>(b.label)];
-  bool const isSame = first.room.group == second.room.group && first.wanted.repeats == second.wanted.repeats;
-  if (!isSame || first.wanted.repeats.isEmpty()) return false;
+  if (first.wanted.repeats.isEmpty() || first.room.group != second.room.group) return false;
+  if (first.wanted.repeats != second.wanted.repeats) return false;
   QPointF const way = a.given->middle() - b.given->middle();
   return std::hypot(way.x(), way.y()) < first.room.apart;
 }

@@ -14,7 +14,8 @@ namespace SysCarto {
 /// Labels that are placed against each other, all at once.
 class SYSCARTO_EXPORT LabelPlan {
 public:
-  /// In points of the page: what is kept free around a label, and how far labels are apart that repeat a text of a group.
+  /// In points of the page: what is kept free around a label, and how far labels are apart that repeat a text of a
+  /// group.
   struct Room {
     double gap = 0, apart = 0;
     int group = 0;
@@ -60,8 +61,8 @@ private:
   LabelSearch search_;
 };
 
-/// Places the labels of the layers of a map. Those of a layer that comes before are more important than all of the next, and
-/// in a layer those of a higher priority. They work on one page; what was placed is in them.
+/// Places the labels of the layers of a map. Those of a layer that comes before are more important than all of the
+/// next, and in a layer those of a higher priority. They work on one page; what was placed is in them.
 void placeLabels(std::vector<LabelPlacer*> const& layers, std::function<bool()> const& isCancelled);
 
 }  // namespace SysCarto

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace SysCarto {
 
@@ -11,7 +12,8 @@ constexpr int longestChain = 8;
 constexpr int bannedSteps = 5, bannedAtRandom = 10;  // until what was placed may be pushed out again
 constexpr int oneIn = 4;                             // of candidates that several have to leave is looked at
 constexpr int sweeps = 8;
-constexpr int patience = 20;  // steps for each label that may make room, without a gain
+constexpr int patience = 20;                 // steps for each label that may make room, without a gain
+constexpr std::int64_t mostWork = 50000000;  // of looks at what is in the way of something; a fraction of a second
 
 // Sets of labels that can't be told apart by going from conflict to conflict.
 class Sets {
@@ -32,9 +34,7 @@ private:
 
 }  // namespace
 
-void LabelSearch::addLabel(int rank) {
-  labels_.push_back({rank, candidateCount(), candidateCount()});
-}
+void LabelSearch::addLabel(int rank) { labels_.push_back({rank, candidateCount(), candidateCount()}); }
 
 void LabelSearch::addCandidate(double cost) {
   candidates_.push_back({labelCount() - 1, cost});
@@ -84,6 +84,8 @@ void LabelSearch::findActive() {
 
 void LabelSearch::choose(int label, int candidate) {
   Label& own = labels_[label];
+  for (int const one : {own.chosen, candidate})
+    if (one >= 0) work_ += candidates_[one].last - candidates_[one].first;
   if (own.chosen >= 0) {
     Candidate const& left = candidates_[own.chosen];
     for (int i = left.first; i < left.last; ++i) {
@@ -120,7 +122,7 @@ void LabelSearch::goBack(size_t to) {
 }
 
 // What it means for the label that is to be placed in the end: whether what has to go may go without another place.
-LabelSearch::Move LabelSearch::moveOf(int candidate, int root) const {
+LabelSearch::Move LabelSearch::moveOf(int candidate, int root) {
   Candidate const& own = candidates_[candidate];
   int const rank = labels_[root].rank;
   if (own.hits == 0) return Move::Free;
@@ -134,8 +136,10 @@ LabelSearch::Move LabelSearch::moveOf(int candidate, int root) const {
   if (own.hits == 1) {
     isPossible = push(labels_[own.hitters]);
   } else {
+    work_ += own.last - own.first;
     for (int i = own.first; i < own.last && isPossible; ++i)
-      if (Label const& label = labels_[labelOf(neighbours_[i])]; label.chosen == neighbours_[i]) isPossible = push(label);
+      if (Label const& label = labels_[labelOf(neighbours_[i])]; label.chosen == neighbours_[i])
+        isPossible = push(label);
   }
   if (!isPossible) return Move::None;
   return pushed == 0 ? Move::Drops : pushed == 1 ? Move::Pushes : Move::PushesTwo;
@@ -146,8 +150,8 @@ LabelSearch::Choice LabelSearch::choiceOf(int label, int root) {
   Choice best;
   int equal = 0;
   for (int one = labels_[label].first; one < labels_[label].last; ++one) {
-    bool const isWorthALook = candidates_[one].hits < 2 || best.move == Move::None || best.move > Move::Pushes ||
-                              below(oneIn) == 0;
+    bool const isWorthALook =
+        candidates_[one].hits < 2 || best.move == Move::None || best.move > Move::Pushes || below(oneIn) == 0;
     Move const move = isWorthALook ? moveOf(one, root) : Move::None;
     if (move == Move::None || move > best.move) continue;
     equal = move < best.move ? 1 : equal + 1;
@@ -167,8 +171,8 @@ void LabelSearch::pushOut(int candidate, int rank) {
   }
 }
 
-// Places a label where less important ones have to go, or others make room in turn. Where one is left over that is equally
-// important, it waits in its stead.
+// Places a label where less important ones have to go, or others make room in turn. Where one is left over that is
+// equally important, it waits in its stead.
 void LabelSearch::insert(int root) {
   done_.clear();
   pushed_.assign(1, root);
@@ -214,7 +218,7 @@ void LabelSearch::stir() {
 bool LabelSearch::improve(int stepsALabel) {
   int const active = static_cast<int>(active_.size());
   for (int i = 0; i < stepsALabel * active && !waiting_.empty(); ++i) {
-    if (++step_ - lastGain_ > patience * active) return false;
+    if (++step_ - lastGain_ > patience * active || work_ > mostWork) return false;
     size_t const waited = waiting_.size();
     if (step_ % 2 == 0)
       stir();
@@ -250,7 +254,8 @@ bool LabelSearch::makeCheaper(int label) {
   bool const isBetter = best != own.chosen;
   if (isBetter) choose(label, best);
   for (int one = own.first; one < own.last; ++one)
-    if (candidates_[one].hits == 1 && candidates_[one].cost < candidates_[own.chosen].cost && swapForCheaper(label, one))
+    if (candidates_[one].hits == 1 && candidates_[one].cost < candidates_[own.chosen].cost &&
+        swapForCheaper(label, one))
       return true;
   return isBetter;
 }

@@ -2,13 +2,15 @@
 
 #include <SysCarto/Export.h>
 
+#include <cstdint>
 #include <random>
 #include <utility>
 #include <vector>
 
 namespace SysCarto {
 
-/// Chooses one of its candidates for each of many labels, or none, so that no two that are chosen are in each other's way.
+/// Chooses one of its candidates for each of many labels, or none, so that no two that are chosen are in each other's
+/// way.
 ///
 /// More important labels come first, whatever it costs others: no label is given up for any number of less important
 /// ones. Among equally important ones as many as possible are placed; where that is the same, the cheapest candidates
@@ -27,8 +29,8 @@ public:
   /// Nothing is added afterwards. Takes in turn for each label the cheapest candidate that is free.
   void begin();
 
-  /// Looks for better, in so many steps for each label that may make room for another. Answers whether it is worth to go
-  /// on.
+  /// Looks for better, in so many steps for each label that may make room for another. Answers whether it is worth to
+  /// go on.
   bool improve(int stepsALabel);
 
   /// Takes cheaper candidates where they are free.
@@ -51,8 +53,8 @@ private:
   struct Candidate {
     int label;
     double cost;
-    int first = 0, last = 0;     // in `neighbours_`
-    int hits = 0, hitters = 0;   // chosen candidates in its way, and the sum of their labels
+    int first = 0, last = 0;    // in `neighbours_`
+    int hits = 0, hitters = 0;  // chosen candidates in its way, and the sum of their labels
     int isBannedUntil = 0;
   };
   // The better, the lower.
@@ -69,7 +71,7 @@ private:
   void set(int label, int candidate);
   void goBack(size_t to);
   Choice choiceOf(int label, int root);
-  Move moveOf(int candidate, int root) const;
+  Move moveOf(int candidate, int root);
   void pushOut(int candidate, int rank);
   void insert(int root);
   void takeFreed();
@@ -81,13 +83,14 @@ private:
   std::vector<Candidate> candidates_;
   std::vector<std::pair<int, int>> conflicts_;
   std::vector<int> neighbours_;
-  std::vector<int> waiting_;  // labels that are not placed
-  std::vector<int> active_;   // labels that may make room for these
-  std::vector<int> freed_;    // candidates
-  std::vector<int> pushed_;   // labels that need another place
+  std::vector<int> waiting_;               // labels that are not placed
+  std::vector<int> active_;                // labels that may make room for these
+  std::vector<int> freed_;                 // candidates
+  std::vector<int> pushed_;                // labels that need another place
   std::vector<std::pair<int, int>> done_;  // labels and what they had before, to go back
   std::minstd_rand chance_;
   int step_ = 0, lastGain_ = 0;
+  std::int64_t work_ = 0;
 };
 
 }  // namespace SysCarto

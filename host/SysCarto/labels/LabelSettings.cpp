@@ -81,7 +81,7 @@ void listPlaces(Fields& fields, LabelSettings& labels) {
        QT_TRANSLATE_NOOP("Fields",
                          "Where a label may stand, the most wanted place first: upperRight, upperLeft, "
                          "lowerRight, lowerLeft, right, left, above, below or centre; where none is named, all "
-                         "but the last in this order.")},
+                         "but the last in this order, and some between them.")},
       labels.places);
   for (QString const& place : qAsConst(labels.places))
     if (!knownPlaces().contains(place))
@@ -157,7 +157,8 @@ void LabelSettings::list(Fields& fields) {
       {"priorityField", QT_TRANSLATE_NOOP("Fields", "Attribute of the priority"),
        QT_TRANSLATE_NOOP(
            "Fields",
-           "A numeric attribute: features with a higher number are labelled first; without one, in their own order.")},
+           "A numeric attribute: no label of a feature with a higher number is given up for others; without one, all "
+           "count alike.")},
       priorityField, TextKind::Attribute, QString());
   listPlaces(fields, *this);
   listSymbolOf(fields, *this);

@@ -27,7 +27,7 @@ struct LabelClass {
 /// How a label lies along its line.
 enum class LinePlace { Above, On, Curved };
 
-/// Where the label of an area goes.
+/// Where the label of an area goes that does not fit into it: nowhere, beyond its border, or beside it.
 enum class AreaPlace { Inside, Across, Outside };
 
 /// What labels of other layers keep off.
@@ -60,7 +60,7 @@ struct LabelSettings {
   QString expression;  ///< what the text is made of instead, where it has a value
   QString language;    ///< a code, as in `name:de`
   bool groupsNumbers = false;
-  QString priorityField;  ///< numeric, higher is placed first; empty for the order of the features
+  QString priorityField;  ///< numeric, higher is more important; empty where all are equally important
   double gapPt = 1.5;     ///< kept free around a label
   double offsetPt = 1;    ///< from a mark or a line
   double wrapPt = 0;      ///< at which labels of points are broken; 0 breaks none

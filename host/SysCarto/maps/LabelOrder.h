@@ -8,7 +8,8 @@
 
 namespace SysCarto {
 
-/// Of feature layers, by any kind of pointer, those whose labels show at a scale, in the order in which they are placed.
+/// Of feature layers, by any kind of pointer, those whose labels show at a scale, in the order in which they are
+/// placed.
 template <class Layers>
 Layers inLabelOrder(Layers layers, double mapScale) {
   auto const isLeftOut = [mapScale](auto const& layer) {

@@ -60,7 +60,8 @@ struct VectorLayer::Placement {
   std::vector<PlacedLabel> labels, unplaced;
 };
 
-// Labels of layers that are asked for theirs in turn: each finds of the obstacles that it is given whether it is its turn.
+// Labels of layers that are asked for theirs in turn: each finds of the obstacles that it is given whether it is its
+// turn.
 struct VectorLayer::PlannedLabels {
   _ptr_t<DisplayTransformation> transformation;
   Obstacles next;

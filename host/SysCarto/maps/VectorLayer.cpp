@@ -9,7 +9,6 @@
 #include "host/SysDisplay/PathDrawing.h"
 #include "host/SysUtility/NumberText.h"
 
-
 #include <algorithm>
 #include <cmath>
 
