@@ -320,7 +320,8 @@ void ClassifyDialog::takeCell(QTableWidgetItem* item) {
   }
   bool ok = false;
   double const value = locale().toDouble(item->text(), &ok);
-  auto const& bounds = classes_.bounds;
-  if (ok && value > bounds[row] && value < bounds[row + 2]) return moveBound(row + 1, value);
+  auto const& bounds = classes_.bounds;  // none where each value has a class
+  bool const isBound = item->column() == ToColumn && static_cast<size_t>(row) + 2 < bounds.size();
+  if (ok && isBound && value > bounds[row] && value < bounds[row + 2]) return moveBound(row + 1, value);
   showClasses();
 }
