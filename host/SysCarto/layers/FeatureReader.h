@@ -50,8 +50,8 @@ struct ReadFeatures {
 };
 
 /// What is read of a source: the names and kinds of what it has; its features, too, but for those of a large source
-/// that has windows; all of them in any case.
-enum class ReadDepth { Schema, Features, All };
+/// that has windows; all of them in any case. A layer may do as for its features later, on another thread.
+enum class ReadDepth { Schema, Features, All, Later };
 
 /// Reads the features that the condition admits, projected to `mapSystem` (empty: not projected), with what renderer
 /// and labels need of their attributes. Of the schema alone: no feature, and what can be said of the source without.

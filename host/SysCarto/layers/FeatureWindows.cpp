@@ -2,9 +2,7 @@
 
 #include "host/SysCarto/layers/WithoutWaiting.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QMetaObject>
 
 #include <algorithm>
 #include <iterator>
@@ -185,9 +183,7 @@ FeatureWindows::Reading FeatureWindows::reading(WindowWish const& wish, double c
     if (auto const known = state.lock()) known->tell();
   };
   own = WindowReading::begin(read, {wanted.grown(around), Cells::of(wish).read, {}, wish.labels}, news);
-  if (WithoutWaiting::current())
-    QMetaObject::invokeMethod(
-        QCoreApplication::instance(), [] { ReadingListener::tell(false); }, Qt::QueuedConnection);
+  if (WithoutWaiting::current()) ReadingListener::tellSoon();
   return own;
 }
 

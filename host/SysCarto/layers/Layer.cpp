@@ -91,6 +91,6 @@ quint64 LayerHost::nextLook() {
   return ++latest;
 }
 
-void LayerHost::changeLook(Layer& layer) { layer.d->look = nextLook(); }
+void LayerHost::changeLook(Layer const& layer) { layer.d->look = nextLook(); }
 
 }  // namespace SysCarto

@@ -36,7 +36,7 @@ struct SYSCARTO_EXPORT LayerHost {
 
   /// Differs from each number before it once the layer is drawn otherwise, for whoever keeps a picture of it.
   static quint64 look(Layer const& layer);
-  static void changeLook(Layer& layer);
+  static void changeLook(Layer const& layer);
   static quint64 nextLook();
 
   /// As the layer's own function; always as many as it has classes.

@@ -13,11 +13,11 @@
 
 namespace SysCarto {
 
-/// A window of a source that is read on another thread, and what of it is there meanwhile. Belongs to one thread, that
-/// of whoever wants it.
+/// A source, or a window of it, that is read on another thread, and what of a window is there meanwhile. Belongs to one
+/// thread, that of whoever wants it.
 class WindowReading : public std::enable_shared_from_this<WindowReading> {
 public:
-  /// Reads a window, on the other thread.
+  /// Reads what the query says, or all, on the other thread.
   using Read = std::function<ReadFeatures(WindowQuery const& query, ReadProgress const& progress)>;
 
   /// Begins. `news` is called on the thread of the user interface, where there is one, when more is there, at growing

@@ -1,5 +1,8 @@
 #include "WithoutWaiting.h"
 
+#include <QCoreApplication>
+#include <QMetaObject>
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -34,6 +37,20 @@ void ReadingListener::tell(bool hasMore) {
   std::vector<ReadingListener const*> const now = listeners();
   for (auto const* const one : now)
     if (std::find(listeners().begin(), listeners().end(), one) != listeners().end()) one->told_(hasMore);
+}
+
+// Of many at a time once.
+void ReadingListener::tellSoon() {
+  static bool isComing = false;
+  QCoreApplication* const application = QCoreApplication::instance();
+  if (!application || std::exchange(isComing, true)) return;
+  QMetaObject::invokeMethod(
+      application,
+      [] {
+        isComing = false;
+        tell(false);
+      },
+      Qt::QueuedConnection);
 }
 
 }  // namespace SysCarto

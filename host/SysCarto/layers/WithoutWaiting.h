@@ -32,8 +32,8 @@ private:
   WithoutWaiting* const around_;
 };
 
-/// Calls a function, on the thread of the user interface, when features begin to be read for layers that were drawn
-/// without waiting, and when there are more of them to show.
+/// Calls a function, on the thread of the user interface, when features begin to be read that nobody waits for, and
+/// when there are more of them to show.
 class SYSCARTO_EXPORT ReadingListener {
 public:
   explicit ReadingListener(std::function<void(bool hasMore)> told);
@@ -43,6 +43,9 @@ public:
 
   /// Calls them all.
   static void tell(bool hasMore);
+
+  /// Calls them all in a turn of its own, since something begins to be read or is given up.
+  static void tellSoon();
 
 private:
   std::function<void(bool)> const told_;

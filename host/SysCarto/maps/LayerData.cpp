@@ -57,8 +57,9 @@ QString failureOf(Layer const& layer) {
 }
 
 QStringList warningsOf(Layer const& layer) {
-  return ofData(layer, EachKind{[](VectorLayer const& vector) { return QStringList(vector.warnings()); },
-                                [](RasterLayer const&) { return QStringList(); }});
+  return ofData(layer,
+                EachKind{[](VectorLayer const& vector) { return QStringList(vector.warnings() + vector.notes()); },
+                         [](RasterLayer const&) { return QStringList(); }});
 }
 
 QStringList filesOf(Layer const& layer) {

@@ -28,7 +28,6 @@ constexpr double labelSquarePt = 4, markSquarePt = 2;
 constexpr double printedDpi = 300;
 constexpr double enlarged = 1.1;  // beyond the resolution of print
 constexpr double pointsPerInch = 72;
-constexpr int mostWarnings = 20;
 
 Box boxFrom(QRectF const& rectangle) {
   return {rectangle.left(), rectangle.top(), rectangle.right(), rectangle.bottom()};
@@ -114,7 +113,6 @@ std::vector<Place> placesForLabels(FeaturePack const& pack, Box const& area, dou
 
 }  // namespace
 
-std::optional<double> VectorLayer::readShare() const { return windows_.share(); }
 qint64 VectorLayer::count() const { return hasWindows() ? count_ : features().size(); }
 
 LabelChoice VectorLayer::labelChoice(double unitsPerPoint) const {
@@ -126,21 +124,6 @@ LabelChoice VectorLayer::labelChoice(double unitsPerPoint) const {
 Box VectorLayer::extent() const { return hasWindows() ? extent_ : features().box(); }
 
 std::shared_ptr<FeatureStore const> VectorLayer::shared() const { return {std::shared_ptr<void>(), &features()}; }
-
-// The same is said of many windows.
-void VectorLayer::keepWarnings(ReadFeatures const& read) const {
-  notes_ += read.notes;
-  for (QString const& warning : read.warnings)
-    if (!warnings_.contains(warning) && warnings_.size() < mostWarnings) warnings_ << warning;
-}
-
-QString VectorLayer::problem() const { return problem_.isEmpty() ? windows_.problem() : problem_; }
-
-QString VectorLayer::failure() const {
-  if (!problem_.isEmpty()) return problem_;
-  QString const failure = windows_.failure();
-  return failure.isEmpty() ? spotlightProblem_ : failure;
-}
 
 std::shared_ptr<FeatureStore const> VectorLayer::readOnly(WindowQuery const& query, QString* problem) const {
   ReadFeatures read = readWindow(source_, mapSystem_, *renderer_, labels_.read(), query);

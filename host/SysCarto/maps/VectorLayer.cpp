@@ -50,44 +50,7 @@ VectorLayer::VectorLayer(std::unique_ptr<Renderer> renderer)
       thinned_(std::make_unique<ThinnedFeatures>(*store_)),
       windows_([this] { LayerHost::changeLook(*this); }, [this](ReadFeatures const& read) { keepWarnings(read); }) {}
 
-VectorLayer::~VectorLayer() = default;
-
-QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings,
-                          ReadProgress const& progress, ReadDepth depth) {
-  source_ = source;
-  mapSystem_ = mapSystem;
-  warnings_.clear();
-  notes_.clear();
-  spotlightProblem_.clear();
-  problem_ = read(progress, depth);
-  warnings += warnings_;
-  LayerHost::changeLook(*this);
-  return problem_;
-}
-
-QString VectorLayer::read(ReadProgress const& progress, ReadDepth depth) const {
-  ReadFeatures read = readFeatures(source_, mapSystem_, *renderer_, labels_.read(), progress, depth);
-  store_ = std::move(read.store);
-  thinned_ = std::make_unique<ThinnedFeatures>(*store_);
-  windows_.clear();
-  keepWarnings(read);
-  hasWindows_ = read.hasWindows;
-  extent_ = read.extent;
-  count_ = read.count;
-  bool const isLeft = depth == ReadDepth::Schema || (depth == ReadDepth::Features && hasWindows_);
-  isUnread_ = isLeft && read.error.isEmpty();
-  return read.error;
-}
-
-FeatureStore const& VectorLayer::features() const {
-  if (isUnread_) problem_ = read({}, ReadDepth::All);
-  return *store_;
-}
-
-ThinnedFeatures& VectorLayer::thinned() const {
-  features();
-  return *thinned_;
-}
+VectorLayer::~VectorLayer() { giveUpReading(); }
 
 void VectorLayer::setRenderer(std::unique_ptr<Renderer> renderer) {
   renderer_ = std::move(renderer);

@@ -49,8 +49,9 @@ public:
 
   /// Reads the source anew. A sentence that says why it could not be read, or empty; what else is to be said of it is
   /// added to `warnings`. Of the schema alone, the features are read once something asks for them: then `problem`
-  /// tells what is wrong with these, and `warnings` what else is to be said. `mapSystem` as in
-  /// `Map::GetCoordinateSystem`.
+  /// tells what is wrong with these, and `warnings` what else is to be said. Later, no file is touched before this
+  /// returns: another thread reads the source then. Who asks for features waits for that, or is without any
+  /// (`WithoutWaiting`). `mapSystem` as in `Map::GetCoordinateSystem`.
   QString open(SourceSettings const& source, QString const& mapSystem, QStringList& warnings,
                ReadProgress const& progress = {}, ReadDepth depth = ReadDepth::Features);
 
@@ -62,11 +63,19 @@ public:
   /// The same for what a page would be drawn of now: what failed some time ago would be read again.
   QString failure() const;
 
-  /// What else is to be said of the features that were read so far, as sentences.
-  QStringList warnings() const { return warnings_ + notes_; }
+  /// What else is to be said of the features that were read so far, as sentences: what is not as it should be, and how
+  /// they are read.
+  QStringList const& warnings() const { return warnings_; }
+  QStringList const& notes() const { return notes_; }
 
   /// How much was read of what is being read for views, from 0 to 1; nothing where nothing is.
   std::optional<double> readShare() const;
+
+  /// Whether it was opened to be read later, and that has not ended.
+  bool isBeingRead() const { return static_cast<bool>(reading_); }
+
+  /// Waits until that has ended, or `progress`, which may be empty, wants no more. Answers whether it has ended.
+  bool wait(ReadProgress const& progress) const;
 
   /// Not null. A renderer that puts features into other classes takes effect when the layer is opened.
   void setRenderer(std::unique_ptr<Renderer> renderer);
@@ -76,7 +85,7 @@ public:
   FeatureStore const& features() const;
 
   /// Whether features are read by windows.
-  bool hasWindows() const { return isUnread_ && hasWindows_; }
+  bool hasWindows() const;
 
   /// How many features there are; of a layer that has windows those before its filter.
   qint64 count() const;
@@ -127,7 +136,12 @@ public:
                              SysUtility::_ptr_t<SysUI::TrackerCancel> cancel) override;
 
 private:
+  void beginReading();
+  void endReading() const;
+  void giveUpReading();
+  void need() const;
   QString read(ReadProgress const& progress, ReadDepth depth) const;
+  QString keep(ReadFeatures read, ReadDepth depth) const;
   void keepWarnings(ReadFeatures const& read) const;
   FeatureStore const& form() const { return hasWindows() ? *store_ : features(); }
   ThinnedFeatures& thinned() const;
@@ -182,6 +196,10 @@ private:
   mutable Box extent_;  // and the count: where it has windows
   mutable qint64 count_ = 0;
   mutable FeatureWindows windows_;
+
+  // Of what was opened to be read later, until that has ended.
+  mutable std::shared_ptr<WindowReading> reading_;
+  mutable bool owesFeatures_ = false;  // somebody who did not wait was without
 
   // Which classes were in sight when last asked, for the look of that time: a legend asks at each redraw.
   struct Within {
