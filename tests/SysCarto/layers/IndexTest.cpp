@@ -40,7 +40,7 @@ Told told(SourceSettings const& source, QString const& labelField) {
   labels.field = labelField;
   auto const layer = opened(source, "EPSG:3857", {}, labels);
   result.error = layer.error;
-  result.warnings = layer.layer->warnings();
+  result.warnings = layer.layer->warnings() + layer.layer->notes();
   auto const store = layer.layer->featuresIn(Box{-1e9, -1e9, 1e9, 1e9});
   for (size_t i = 0; i < store->ids.size(); ++i) result.places << textOf(*store, i);
   result.places.sort();
@@ -127,7 +127,7 @@ private slots:
     QVERIFY(first.rows.size() > 2);
   }
 
-  // Parts, and the order that they have together.
+  // Parts, and the order that they have together. Layers of one file that are read side by side make one index.
   void manyFeaturesStayInTheirOrder() {
     QTemporaryDir const folder;
     QByteArray table = "name,lon,lat\n";
@@ -138,7 +138,14 @@ private slots:
     SourceIndexes::use({});
     Told const whole = told(source, "name");
     SourceIndexes::use(indexes());
-    told(source, "name");
+    std::vector<OpenedLayer> layers;
+    for (int i = 0; i < 3; ++i) layers.push_back(opened(source, "EPSG:3857", {}, {}, ReadDepth::Later));
+    QStringList notes;
+    for (OpenedLayer const& one : layers) {
+      QVERIFY(one.layer->isBeingRead() && one.layer->hasWindows());
+      notes += one.layer->notes();
+    }
+    QCOMPARE(notes.size(), 1);
     Told const indexed = told(source, "name");
     QVERIFY(indexed.rows == whole.rows);
     QVERIFY(indexed.places == whole.places);
@@ -175,7 +182,7 @@ private slots:
     QVERIFY(!layer.layer->hasWindows());
     QCOMPARE(layer.features().size(), 2000);
     QCOMPARE(layer.warnings, QStringList());
-    QString const told = layer.layer->warnings().join(' ');
+    QString const told = layer.layer->notes().join(' ');
     QVERIFY2(told.contains("a.csv") && told.contains(indexes()), qPrintable(told));
     if (isFull) QCOMPARE(contents(indexes()).size(), 0);
   }

@@ -20,6 +20,7 @@
 #include <QSet>
 #include <QStorageInfo>
 #include <QUuid>
+#include <QWaitCondition>
 
 #include <gdal_priv.h>
 
@@ -28,6 +29,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace SysCarto {
 
@@ -67,6 +69,48 @@ bool isGivenUp(QString const& index, bool isFromNow = false) {
   if (isFromNow) known << index;
   return known.contains(index);
 }
+
+// While one lives, no other thread of this process makes that index: several layers of one file begin to be read
+// together.
+class OnlyMaker {
+public:
+  OnlyMaker(QString index, ReadProgress const& progress) : index_(std::move(index)) {
+    while (isWanted_ && !begins()) isWanted_ = !progress || progress(0, -1);
+  }
+  ~OnlyMaker() {
+    QMutexLocker const locker(&makers().mutex);
+    if (isWanted_) makers().indexes.remove(index_);
+    makers().ended.wakeAll();
+  }
+  OnlyMaker(OnlyMaker const&) = delete;
+  OnlyMaker& operator=(OnlyMaker const&) = delete;
+
+  bool isWanted() const { return isWanted_; }
+
+private:
+  struct Makers {
+    QMutex mutex;
+    QWaitCondition ended;
+    QSet<QString> indexes;
+  };
+  static Makers& makers() {
+    static auto& own = *new Makers;  // threads may outlive whatever is taken down at the end
+    return own;
+  }
+
+  bool begins() {
+    constexpr unsigned long betweenQuestionsMs = 50;
+    auto& [mutex, ended, indexes] = makers();
+    QMutexLocker const locker(&mutex);
+    if (indexes.contains(index_)) ended.wait(&mutex, betweenQuestionsMs);
+    bool const isFirst = !indexes.contains(index_);
+    indexes << index_;
+    return isFirst;
+  }
+
+  QString const index_;
+  bool isWanted_ = true;
+};
 
 // What features of a file may be in: the file and those of its name that drivers look at.
 QStringList filesOf(QString const& file) {
@@ -112,6 +156,8 @@ struct IndexName {
 };
 
 QString aboutIn(QString const& folder) { return QDir(folder).filePath(QLatin1String(IndexFiles::about)); }
+
+bool hasIndex(QString const& index) { return QFileInfo::exists(aboutIn(index)); }
 
 // A file that is locked while its index is in use; an empty pointer where it is not there, or to be removed.
 std::unique_ptr<QFile> lockedAbout(QString const& folder, int kind) {
@@ -196,7 +242,7 @@ public:
       if (!written.open(QIODevice::ReadWrite) || fsync(written.handle()) != 0) return false;
     }
     lock_.remove();
-    return QDir().rename(path_, path) || QFileInfo::exists(aboutIn(path));
+    return QDir().rename(path_, path) || hasIndex(path);
   }
 
 private:
@@ -298,7 +344,7 @@ bool SourceIndexes::isMissing(OGRLayer& layer, SourceSettings const& source) {
                         layer.GetLayerDefn()->GetGeomFieldCount() > 0;
   if (!isWanted || !StoredForm::of(layer)) return false;
   QString const index = IndexName::of(source).path();
-  return !isGivenUp(index) && !QFileInfo::exists(aboutIn(index));
+  return !isGivenUp(index) && !hasIndex(index);
 }
 
 QString SourceIndexes::stateOf(SourceSettings const& source) {
@@ -310,6 +356,9 @@ SourceIndexes::Made SourceIndexes::make(OGRLayer& layer, SourceSettings const& s
   IndexName const name = IndexName::of(source);
   Made made;
   if (name.state != state) return made;
+  OnlyMaker const maker(name.path(), progress);
+  made.wasStopped = !maker.isWanted();
+  if (made.wasStopped || hasIndex(name.path()) || isGivenUp(name.path())) return made;
   UnfinishedIndex unfinished;
   if (unfinished.isThere())
     made = filled(unfinished, name, layer, source, progress);
