@@ -29,10 +29,13 @@ constexpr int manyElements = 1000;
 constexpr double idleTurnMs = 0.1;
 constexpr double millisecond = 1e6;
 
+using SysCarto::ReadDepth;
+
 class Bench {
 public:
-  explicit Bench(QString const& document) : own_(std::make_unique<Workbench>()), bench_(*own_) {
-    if (!bench_.session().open(document)) qFatal("%s", qPrintable(DocumentSession::takeProblem()));
+  explicit Bench(QString const& document, ReadDepth depth = ReadDepth::Features)
+      : own_(std::make_unique<Workbench>()), bench_(*own_) {
+    if (!bench_.session().open(document, depth)) qFatal("%s", qPrintable(DocumentSession::takeProblem()));
     bench_.views().resize(viewSize);
     bench_.views().QWidget::show();
   }
@@ -45,7 +48,7 @@ public:
   static void printOpening(QString const& document) {
     QElapsedTimer clock;
     clock.start();
-    Bench opened(document);
+    Bench opened(document, ReadDepth::Later);
     qint64 firstMs = -1;
     double longest = static_cast<double>(clock.elapsed());
     do {

@@ -24,3 +24,17 @@ private:
   using Kind = DialogAnswers::Answer::Kind;
   DialogAnswers answers_;
 };
+
+/// What message boxes say.
+class ToldTexts : public QObject {
+public:
+  ToldTexts() { qApp->installEventFilter(this); }
+  QStringList texts;
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto const* const box = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(watched) : nullptr;
+    if (box) texts << box->text();
+    return false;
+  }
+};

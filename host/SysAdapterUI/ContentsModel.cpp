@@ -3,6 +3,7 @@
 #include "Swatch.h"
 
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layers/WithoutWaiting.h"
 #include "host/SysCarto/maps/LayerData.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 
@@ -111,6 +112,7 @@ struct ContentsModel::Node {
     icon = {};
     classes.clear();
     if (!problemOf(*row.layer).isEmpty()) return true;
+    SysCarto::WithoutWaiting const meanwhile;  // it looks otherwise once it is read
     for (auto const& one : row.layer->legendClasses())
       if (one.symbol) classes << one;
     return true;

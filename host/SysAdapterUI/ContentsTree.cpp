@@ -114,8 +114,8 @@ ContentsTree::~ContentsTree() = default;
 // A name that is being written stays as it is.
 void ContentsTree::followReading() {
   viewport()->update();
-  if (model_->isReading()) return shares_->start(betweenSharesMs);
   if (state() != EditingState) follow();
+  if (model_->isReading()) shares_->start(betweenSharesMs);
 }
 
 ContentsTree& ContentsTree::of(TOCControl const& control) { return *control.findChild<ContentsTree*>(); }

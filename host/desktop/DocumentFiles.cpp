@@ -9,9 +9,12 @@
 #include "host/SysCarto/layers/Connections.h"
 #include "host/SysUtility/FileSaver.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -22,6 +25,7 @@ namespace {
 
 constexpr int maxRecent = 8;
 constexpr int maxReasons = 6;
+constexpr int untilNextTryMs = 200;
 QString const recentKey = QStringLiteral("recentFiles");
 QString const suffix = QStringLiteral(".kdx");
 
@@ -67,9 +71,22 @@ QString namesOf(QStringList const& paths) {
   return names.join(QStringLiteral(", "));
 }
 
+// A box would come in between.
+bool isPersonBusy() {
+  QWidget const* const focus = QApplication::focusWidget();
+  bool const isTyping = qobject_cast<QLineEdit const*>(focus) || qobject_cast<QPlainTextEdit const*>(focus);
+  return isTyping || QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
+         QApplication::mouseButtons() != Qt::NoButton;
+}
+
 }  // namespace
 
-DocumentFiles::DocumentFiles(DocumentSession& session, QWidget& parent) : session_(session), parent_(parent) {
+DocumentFiles::DocumentFiles(DocumentSession& session, QWidget& parent)
+    : session_(session), parent_(parent), listener_([this](bool) {
+        if (owesTelling_) telling_.start(0);
+      }) {
+  telling_.setSingleShot(true);
+  connect(&telling_, &QTimer::timeout, this, &DocumentFiles::tellOfData);
   connect(&session_, &DocumentSession::replaced, this, [this] {
     changed_.clear();
     followFiles();
@@ -126,7 +143,15 @@ bool DocumentFiles::mayLeave() {
   }
 }
 
+bool DocumentFiles::waitForData() {
+  auto const layout = session_.document().GetPageLayout();
+  if (!layout || !SysCarto::isBeingRead(*layout)) return true;
+  ReadingProgress progress(parent_);
+  return SysCarto::waitForData(*layout, progress.watch());
+}
+
 bool DocumentFiles::mayExport() {
+  if (!waitForData()) return false;
   QStringList const missing = problemsOf(session_);
   return missing.isEmpty() || confirm(tr("The page will not be whole.") + QStringLiteral("\n\n") + paragraphs(missing),
                                       tr("Export it all the same?"));
@@ -134,7 +159,7 @@ bool DocumentFiles::mayExport() {
 
 bool DocumentFiles::create() {
   if (!mayLeave() || !session_.create()) return false;
-  lock_.reset();
+  hold(nullptr, false);
   return true;
 }
 
@@ -156,7 +181,7 @@ QStringList DocumentFiles::createFromData() {
       tell(QMessageBox::Critical, tr("The map was not made."), {made.problem});
       continue;
     }
-    lock_.reset();
+    hold(nullptr, false);
     if (!made.warnings.isEmpty())
       tell(QMessageBox::Warning, tr("The map was made. Some of its data need a look."), made.warnings);
     return made.explanation;
@@ -191,27 +216,42 @@ bool DocumentFiles::read(QString const& path) {
       !confirm(lock->holder(),
                tr("Open %1 to read it? Changes are then saved under another name.").arg(QFileInfo(path).fileName())))
     return false;
-  auto progress = std::make_unique<ReadingProgress>(parent_);
-  bool const isOpen = session_.open(path, progress->watch());
-  if (!isOpen && progress->wasStopped()) return false;
-  progress.reset();  // it would show itself over what is told now
-  if (!isOpen) {
+  if (!session_.open(path, SysCarto::ReadDepth::Later)) {
     tell(QMessageBox::Critical, tr("The document was not opened."), {session_.takeProblem()});
     return false;
   }
-  lock_ = lock;
   remember(path);
-  emit opened();
-  QStringList const warnings = besidesClosedConnections(session_, session_.document().GetWarnings());
-  if (!warnings.isEmpty())
-    tell(QMessageBox::Warning, tr("The document was opened, but not all of it was read."), warnings);
+  hold(lock, true);
   return true;
 }
 
 void DocumentFiles::takeOver() {
-  lock_ = session_.path().isEmpty() ? nullptr : lockFor(session_.path());
-  if (lock_) lock_->take();
+  auto const lock = session_.path().isEmpty() ? nullptr : lockFor(session_.path());
+  if (lock) lock->take();
+  hold(lock, true);
+}
+
+// The session has another document.
+void DocumentFiles::hold(std::shared_ptr<DocumentLock> const& lock, bool isOpened) {
+  lock_ = lock;
+  owesTelling_ = isOpened;
+  if (!isOpened) return;
   emit opened();
+  tellOfData();
+}
+
+// Once, of all data together, and only where nobody is in the middle of something.
+void DocumentFiles::tellOfData() {
+  auto const layout = session_.document().GetPageLayout();
+  if (!owesTelling_ || (layout && SysCarto::isBeingRead(*layout))) return;
+  if (isPersonBusy()) return telling_.start(untilNextTryMs);
+  owesTelling_ = false;
+  emit dataRead();
+  auto const& document = session_.document();
+  QStringList const warnings =
+      besidesClosedConnections(session_, document.GetWarnings() + SysCarto::readingWarnings(document));
+  if (!warnings.isEmpty())
+    tell(QMessageBox::Warning, tr("The document was opened, but not all of it was read."), warnings);
 }
 
 bool DocumentFiles::isReadOnly() const {
@@ -311,6 +351,7 @@ void DocumentFiles::readAgain(QStringList const& origins) {
   auto const layout = session_.document().GetPageLayout();
   if (layout) SysCarto::readAgain(*layout, origins);
   emit dataReplaced();
+  if (owesTelling_ && !(layout && SysCarto::isBeingRead(*layout))) return tellOfData();
   QStringList const problems = besidesClosedConnections(session_, problemsOf(session_));
   if (!problems.isEmpty()) tell(QMessageBox::Warning, tr("Not all data could be read."), problems);
 }

@@ -3,8 +3,11 @@
 #include "DocumentLock.h"
 #include "FileWatch.h"
 
+#include "host/SysCarto/layers/WithoutWaiting.h"
+
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QTimer>
 
 #include <memory>
 
@@ -36,7 +39,7 @@ public:
   /// Whether the document may be given up: it holds no changes, or a person has saved or dropped them.
   bool mayLeave();
 
-  /// Whether the page may be drawn: it is whole, or a person does not mind.
+  /// Whether the page may be drawn: its data have been read, and it is whole, or a person does not mind.
   bool mayExport();
 
   /// Whether the document can only be saved under another name: somebody else had it open first, or its file can't be
@@ -63,6 +66,9 @@ signals:
   /// A person has opened a document, read it anew, or had it recovered.
   void opened();
 
+  /// All data of the document that was opened have been read, as far as they can be.
+  void dataRead();
+
   /// Somebody else has changed or removed the document or files that it draws from, or a save has left something to
   /// say.
   void told(QString const& sentence, bool canReload);
@@ -81,6 +87,9 @@ private:
   bool read(QString const& path);
   bool write(QString const& path);
   void remember(QString const& path);
+  void hold(std::shared_ptr<DocumentLock> const& lock, bool isOpened);
+  void tellOfData();
+  bool waitForData();
   void followFiles();
   void noteChanges(QStringList const& paths);
   QString folder() const;
@@ -89,5 +98,8 @@ private:
   QWidget& parent_;
   std::shared_ptr<DocumentLock> lock_;  // null for a document without a file
   FileWatch watch_;
-  QStringList changed_;  // since it was last read
+  QStringList changed_;       // since it was last read
+  bool owesTelling_ = false;  // what could not be read of the document
+  QTimer telling_;
+  SysCarto::ReadingListener const listener_;
 };

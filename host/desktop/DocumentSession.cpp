@@ -35,9 +35,9 @@ bool DocumentSession::settle(bool done) {
 bool DocumentSession::create() { return settle(document_.New(QString())); }
 
 // The digest is taken first: what changes while it is read then counts as changed.
-bool DocumentSession::open(QString const& path, SysCarto::ReadProgress const& progress) {
+bool DocumentSession::open(QString const& path, SysCarto::ReadDepth depth) {
   QByteArray const digest = SysUtility::FileReach::refusal(path).isEmpty() ? contentDigest(path) : QByteArray();
-  if (!SysCarto::MapDocumentHost::open(document_, path, progress)) return false;
+  if (!SysCarto::MapDocumentHost::open(document_, path, depth)) return false;
   fileDigest_ = digest;
   return settle(true);
 }

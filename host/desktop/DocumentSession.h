@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/SysCarto/layers/WatchedReading.h"
+#include "host/SysCarto/layers/FeatureReader.h"
 
 #include <SysCarto/MapDocument.h>
 
@@ -25,7 +25,7 @@ public:
 
   // Each answers false, with a sentence in `takeProblem` and the document unchanged, where it can't be done.
   bool create();
-  bool open(QString const& path, SysCarto::ReadProgress const& progress = {});  ///< no problem where that stops it
+  bool open(QString const& path, SysCarto::ReadDepth depth = SysCarto::ReadDepth::Features);
   /// Lets something else give the document its content; it answers whether it did. What it has begun to is told, too.
   bool make(std::function<bool(SysCarto::MapDocument&)> const& fill);
   /// Takes over a copy (`MapDocumentHost::recover`) of a document whose file had that digest when it was last read or

@@ -120,7 +120,7 @@ ExitStatus runInfo(Subcommand const& self, QStringList const& arguments) {
   if (SysCarto::isDataFileName(path) || !SysCarto::connectionIn(path).isEmpty())
     return tellData(path, parser.isSet(json));
   SysCarto::MapDocument document;
-  bool const opened = SysCarto::MapDocumentHost::open(document, path, {}, SysCarto::ReadDepth::Schema);
+  bool const opened = SysCarto::MapDocumentHost::open(document, path, SysCarto::ReadDepth::Schema);
   if (!opened && isNoDocument(path)) {
     Console::complain(
         Texts::tr("%1: this is neither a map document (.kdx) nor a file of data by its name; name one of these.")

@@ -22,6 +22,8 @@ public:
   /// In place of what was offered before, below what is told. With a button that does it.
   void offer(QString const& text, QString const& button, std::function<void()> const& accept);
 
+  bool isOffering() const { return !isHidden() && offered_.accept; }
+
 signals:
   void reloadWanted();
   void keepWanted();

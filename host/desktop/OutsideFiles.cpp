@@ -149,6 +149,9 @@ OutsideFiles::OutsideFiles(DocumentFiles& files, DocumentSession& session, Notic
     : QObject(&notice), files_(files), session_(session), notice_(notice) {
   KeptConnections::confine();
   connect(&files, &DocumentFiles::opened, this, &OutsideFiles::look);
+  connect(&files, &DocumentFiles::dataRead, this, [this] {
+    if (!notice_.isOffering()) offerPassword();
+  });
 }
 
 OutsideFiles::~OutsideFiles() = default;
@@ -162,7 +165,7 @@ void OutsideFiles::look() {
   };
   QStringList const folders = untold(foldersOutside(session_.document()));
   QStringList const connections = closedConnections(session_.document());
-  if (folders.isEmpty() && connections.isEmpty()) return offerPassword();
+  if (folders.isEmpty() && connections.isEmpty()) return;
   QStringList sentences;
   if (!folders.isEmpty())
     sentences << tr("The document uses files of other folders than its own: %1. “Allow” lets every document use files "

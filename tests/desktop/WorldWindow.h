@@ -3,6 +3,7 @@
 #include "Files.h"
 #include "desktop/WorkbenchPage.h"
 
+#include "host/SysCarto/document/DocumentSources.h"
 #include "host/desktop/MainWindow.h"
 
 inline QString world;  ///< a copy of the sample, with its data
@@ -16,11 +17,20 @@ inline void prepareWorld(QString const& folder) {
   world = sampleIn(folder, "world.kdx");
 }
 
-/// The window with the sample open.
+constexpr int patienceMs = 60000;
+
+inline bool isBeingRead(MainWindow& window) {
+  auto const layout = window.bench().session().document().GetPageLayout();
+  return layout && SysCarto::isBeingRead(*layout);
+}
+
+/// The window with the sample open, and its data read, however busy the machine is.
 struct WorldWindow {
   WorldWindow() {
     window.show();
     if (!window.open(world)) qFatal("can't open %s", qPrintable(world));
+    if (!QTest::qWaitFor([this] { return !isBeingRead(window); }, patienceMs))
+      qFatal("can't read %s", qPrintable(world));
     QCoreApplication::processEvents();
   }
   void trigger(char const* identifier) { window.actions().find(identifier)->trigger(); }

@@ -294,9 +294,11 @@ private slots:
     put(path("typed.kdx"), contentOf(path("start.kdx")));
     Person person;
     person.accepts();  // the document has sources that are not there
+    ToldTexts const told;
     MainWindow window;
     window.show();
     QVERIFY(window.open(path("typed.kdx")));
+    QTRY_COMPARE(told.texts.size(), 1);
     auto& sheet = *window.findChild<PropertySheet*>();
     QAction* const save = window.actions().find("Host_Save");
     QModelIndex const width = static_cast<QSortFilterProxyModel*>(sheet.view().model())

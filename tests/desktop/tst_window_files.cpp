@@ -1,4 +1,5 @@
 #include "Dialogs.h"
+#include "Pictures.h"
 #include "desktop/WorldWindow.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
@@ -15,8 +16,27 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <future>
+#include <utility>
 
 using SysCarto::MapDocumentHost;
+
+// While they are held, nothing is read that nobody waits for.
+class HeldReadings {
+public:
+  HeldReadings() {
+    std::shared_future<void> const ended = ended_.get_future().share();
+    for (int i = 0; i < QThread::idealThreadCount(); ++i) SysCarto::queueReading([ended] { ended.wait(); });
+  }
+  ~HeldReadings() { end(); }
+  void end() {
+    if (!std::exchange(hasEnded_, true)) ended_.set_value();
+  }
+
+private:
+  std::promise<void> ended_;
+  bool hasEnded_ = false;
+};
 
 /// The window among files: what it opens and saves, and what others do to them meanwhile.
 class WindowFilesTest : public QObject {
@@ -235,6 +255,58 @@ private slots:
     sample.trigger("Plotvane_Export");
     sample.trigger("Plotvane_Export");
     QVERIFY(person.problem().contains("sphere.geojson"));
+  }
+
+  // The page, its contents and what is done to it are there before the data are.
+  void aPageIsThereBeforeItsData() {
+    QString const missing = folder_.filePath("data/sphere.geojson"), other = folder_.filePath("meanwhile.kdx");
+    WorldWindow sample;
+    WorkbenchPage page(sample.window.bench());
+    auto const isComplete = [&] { return page.view().isComplete(); };
+    QTRY_VERIFY_WITH_TIMEOUT(isComplete(), patienceMs);
+    QImage const whole = page.view().grab().toImage();
+    Person person;
+    ToldTexts told;
+    {
+      HeldReadings const held;
+      QVERIFY(sample.window.open(world));
+      QTest::qWait(300);
+      QVERIFY(isBeingRead(sample.window) && !isComplete());
+      QVERIFY(ink(page.view().grab().toImage()).pixels > 0);
+      auto& rows = *sample.window.findChild<QTreeView*>("treeView_Contents")->model();
+      QCOMPARE(rows.rowCount(rows.index(0, 0)), 5);
+      sample.trigger("Host_SelectAll");
+      sample.trigger("Host_Delete");
+      sample.trigger("Host_Undo");
+      QVERIFY(sample.window.bench().session().saveAs(other));
+      QVERIFY(isBeingRead(sample.window));
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(!isBeingRead(sample.window) && isComplete(), patienceMs);
+    sample.trigger("Host_Unselect");
+    QTRY_COMPARE_WITH_TIMEOUT(page.view().grab().toImage(), whole, patienceMs);
+    SysCarto::MapDocument saved;
+    QVERIFY(saved.Open(other));
+    QCOMPARE(MapDocumentHost::text(saved), MapDocumentHost::text(sample.document()));
+
+    QByteArray const before = contentOf(missing);
+    QVERIFY(QFile::remove(missing));
+    {
+      HeldReadings held;
+      QVERIFY(sample.window.open(other));
+      QVERIFY(sample.window.open(world));  // what was not read of the former one is told nobody
+      QTimer::singleShot(200, [&] { held.end(); });
+      person.presses("No");
+      person.accepts();
+      sample.trigger("Plotvane_Export");
+      QVERIFY(!isBeingRead(sample.window));
+    }
+    QTRY_COMPARE(told.texts.size(), 2);
+    QTest::qWait(300);
+    QCOMPARE(told.texts.filter("sphere.geojson").size(), 2);  // before the export, and once of what was opened
+    put(missing, before);
+    HeldReadings const held;
+    MainWindow closed;
+    QVERIFY(closed.open(other));
   }
 
   void changesAreNotLostWithoutAQuestion_data() {

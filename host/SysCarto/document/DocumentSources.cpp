@@ -8,6 +8,7 @@
 #include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/elements/PictureElement.h"
 #include "host/SysUtility/FileReach.h"
+#include "host/SysUtility/JsonFile.h"
 
 #include <SysCarto/GroupElement.h>
 #include <SysCarto/MapDocument.h>
@@ -49,6 +50,16 @@ void visitSources(PageLayout const& layout, OnLayer const& onLayer, OnPicture co
     visitPictures(map->GetGraphicsContainer()->GetElements(), onPicture);
     for (auto const& layer : map->GetLayers()) onLayer(*map, *layer);
   }
+}
+
+template <class OnLayer>
+void visitVectors(PageLayout const& layout, OnLayer const& onLayer) {
+  visitSources(
+      layout,
+      [&](Map const&, Layer const& layer) {
+        if (auto const* const vector = dynamic_cast<VectorLayer const*>(&layer)) onLayer(*vector);
+      },
+      [](PictureElement const&) {});
 }
 
 QString sentenceOf(Layer const& layer, QString const& said) {
@@ -106,6 +117,32 @@ QStringList laterWarnings(MapDocument const& document) {
       },
       [](PictureElement const&) {});
   return warnings;
+}
+
+QStringList readingWarnings(MapDocument const& document) {
+  QStringList warnings;
+  auto const layout = document.GetPageLayout();
+  if (!layout) return warnings;
+  QString const path = document.GetPath();
+  visitVectors(*layout, [&](VectorLayer const& layer) {
+    for (QString const& said : QStringList(layer.problem()) + layer.warnings()) {
+      QString const sentence = sentenceOf(layer, said);
+      if (!said.isEmpty()) warnings << (path.isEmpty() ? sentence : SysUtility::aboutFile(path, sentence));
+    }
+  });
+  return warnings;
+}
+
+bool isBeingRead(PageLayout const& layout) {
+  bool isAny = false;
+  visitVectors(layout, [&](VectorLayer const& layer) { isAny = isAny || layer.isBeingRead(); });
+  return isAny;
+}
+
+bool waitForData(PageLayout const& layout, ReadProgress const& progress) {
+  bool goesOn = true;
+  visitVectors(layout, [&](VectorLayer const& layer) { goesOn = goesOn && layer.wait(progress); });
+  return goesOn;
 }
 
 void readAgain(PageLayout const& layout, QStringList const& files) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/layers/WatchedReading.h"
+
 #include <SysCarto/Export.h>
 
 #include <QString>
@@ -36,6 +38,16 @@ SYSCARTO_EXPORT QVector<DocumentSource> sourcesOf(PageLayout const& layout);
 /// What is to be said of data that were read after the document was opened, since they are read where they are drawn:
 /// sentences that name the layer.
 SYSCARTO_EXPORT QStringList laterWarnings(MapDocument const& document);
+
+/// The same of layers that were opened to be read later (`ReadDepth::Later`) and have been: what else
+/// `MapDocument::Open` would have added to the document's warnings.
+SYSCARTO_EXPORT QStringList readingWarnings(MapDocument const& document);
+
+/// Whether layers that were opened to be read later have not been yet.
+SYSCARTO_EXPORT bool isBeingRead(PageLayout const& layout);
+
+/// Waits until they have been, or `progress` wants no more. Answers whether they have.
+SYSCARTO_EXPORT bool waitForData(PageLayout const& layout, ReadProgress const& progress);
 
 /// Reads these files and connections (as `SourceSettings::origin`) anew, for all that draw them.
 SYSCARTO_EXPORT void readAgain(PageLayout const& layout, QStringList const& files);

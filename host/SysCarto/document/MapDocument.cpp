@@ -115,7 +115,7 @@ struct MapDocument::Private {
   QString write(QString const& file, bool relativePaths, bool keepBackup) const;
   bool read(QJsonObject const& json, QString const& newPath, QString const& folder, ReadProgress const& progress,
             ReadDepth depth = ReadDepth::Features);
-  bool open(QString const& newPath, ReadProgress const& progress, ReadDepth depth = ReadDepth::Features);
+  bool open(QString const& newPath, ReadDepth depth = ReadDepth::Features);
 };
 
 // The steps of another layout name elements that this one does not hold.
@@ -226,11 +226,11 @@ bool MapDocument::Private::read(QJsonObject const& json, QString const& newPath,
   return true;
 }
 
-bool MapDocument::Private::open(QString const& newPath, ReadProgress const& progress, ReadDepth depth) {
+bool MapDocument::Private::open(QString const& newPath, ReadDepth depth) {
   QString problem = SysUtility::FileReach::refusal(newPath);
   if (!problem.isEmpty()) return failed(aboutFile(newPath, problem));
   auto const json = SysUtility::readJsonFile(newPath, documentKind(), problem);
-  return json ? read(*json, newPath, folderOf(newPath), progress, depth) : failed(problem);
+  return json ? read(*json, newPath, folderOf(newPath), {}, depth) : failed(problem);
 }
 
 MapDocument::MapDocument() : d(std::make_unique<Private>(this)) {}
@@ -245,7 +245,7 @@ bool MapDocument::New(QString const& path) {
   return true;
 }
 
-bool MapDocument::Open(QString const& path) { return d->open(path, {}); }
+bool MapDocument::Open(QString const& path) { return d->open(path); }
 
 bool MapDocument::Save(bool relativePaths, bool keepBackup) { return SaveAs(d->path, relativePaths, keepBackup); }
 
@@ -339,8 +339,8 @@ bool MapDocumentHost::read(MapDocument& document, QJsonObject const& json, QStri
   return true;
 }
 
-bool MapDocumentHost::open(MapDocument& document, QString const& path, ReadProgress const& progress, ReadDepth depth) {
-  return document.d->open(path, progress, depth);
+bool MapDocumentHost::open(MapDocument& document, QString const& path, ReadDepth depth) {
+  return document.d->open(path, depth);
 }
 
 QByteArray MapDocumentHost::text(MapDocument const& document) {
@@ -360,7 +360,7 @@ quint64 MapDocumentHost::lastChange(MapDocument const& document) {
 }
 
 bool MapDocumentHost::recover(MapDocument& document, QString const& copy, QString const& file, bool relativePaths) {
-  if (!document.d->open(copy, {})) return false;
+  if (!document.d->open(copy, ReadDepth::Later)) return false;
   document.d->path = file;
   document.d->content.relativePaths = relativePaths;
   document.d->change.raise();

@@ -24,10 +24,9 @@ struct SYSCARTO_EXPORT MapDocumentHost {
   static bool read(MapDocument& document, QJsonObject const& json, QString const& folder = QString(),
                    ReadProgress const& progress = {});
 
-  /// As `MapDocument::Open`, watched in the same way. Of the schema alone, each layer reads its features once something
-  /// asks for them; what is wrong with these is then told by the layer.
-  static bool open(MapDocument& document, QString const& path, ReadProgress const& progress,
-                   ReadDepth depth = ReadDepth::Features);
+  /// As `MapDocument::Open`. Of the schema alone, each layer reads its features once something asks for them; what is
+  /// wrong with these is then told by the layer. Later, too; `readingWarnings` tells it of all of them.
+  static bool open(MapDocument& document, QString const& path, ReadDepth depth);
 
   /// What a save to the document's file would write now; empty where there is nothing that can be saved.
   static QByteArray text(MapDocument const& document);
@@ -41,7 +40,7 @@ struct SYSCARTO_EXPORT MapDocumentHost {
   static quint64 lastChange(MapDocument const& document);
 
   /// Reads the text of what `jsonForAnywhere` gave of a document of that file, or of none. It counts as modified.
-  /// Otherwise as `MapDocument::Open` of the copy.
+  /// Otherwise as `open` of the copy, with its data later.
   static bool recover(MapDocument& document, QString const& copy, QString const& file, bool relativePaths);
 
   /// How many data sources the last `Open` could not read.
