@@ -294,13 +294,15 @@ private slots:
       HeldReadings held;
       QVERIFY(sample.window.open(other));
       QVERIFY(sample.window.open(world));  // what was not read of the former one is told nobody
-      QTimer::singleShot(200, [&] { held.end(); });
+      QTimer soon;
+      connect(&soon, &QTimer::timeout, [&] { held.end(); });
+      soon.start(200);
       person.presses("No");
       person.accepts();
       sample.trigger("Plotvane_Export");
       QVERIFY(!isBeingRead(sample.window));
     }
-    QTRY_COMPARE(told.texts.size(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(told.texts.size(), 2, patienceMs);
     QTest::qWait(300);
     QCOMPARE(told.texts.filter("sphere.geojson").size(), 2);  // before the export, and once of what was opened
     put(missing, before);

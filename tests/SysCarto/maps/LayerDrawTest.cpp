@@ -152,7 +152,7 @@ private slots:
       after = drawnAtOnce(isIncomplete);
       return told > 0 && !isIncomplete;
     };
-    QTRY_VERIFY(isWhole());
+    QTRY_VERIFY_WITH_TIMEOUT(isWhole(), 60000);
     setWindowThreshold(former);
     QVERIFY(!large.layer->readShare());
     QCOMPARE(large.layer->hasWindows(), threshold == 0);
