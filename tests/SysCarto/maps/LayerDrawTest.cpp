@@ -124,7 +124,7 @@ private slots:
   void whoDoesNotWaitIsToldOfTheRest_data() {
     Rows<qint64, ReadDepth> row;
     row("a window", 0, ReadDepth::Features);
-    row("a layer that is read later", 1000000, ReadDepth::Later);
+    row("a layer that is read later", 1000000000, ReadDepth::Later);
     row("a window of a layer that is read later", 0, ReadDepth::Later);
   }
   void whoDoesNotWaitIsToldOfTheRest() {
