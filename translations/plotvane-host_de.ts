@@ -4402,7 +4402,7 @@
     </message>
     <message>
         <source>A numeric attribute: features with a higher number are labelled first; without one, in their own order.</source>
-        <translation>Ein Zahlenattribut: Objekte mit einer höheren Zahl werden zuerst beschriftet; ohne es in ihrer eigenen Reihenfolge.</translation>
+        <translation type="vanished">Ein Zahlenattribut: Objekte mit einer höheren Zahl werden zuerst beschriftet; ohne es in ihrer eigenen Reihenfolge.</translation>
     </message>
     <message>
         <source>The lowest priority of the class, above that of the class before.</source>
@@ -5510,7 +5510,7 @@
     </message>
     <message>
         <source>Where a label may stand, the most wanted place first: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below or centre; where none is named, all but the last in this order.</source>
-        <translation>Wo eine Beschriftung stehen darf, der liebste Platz zuerst: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below oder centre (rechts oben, links oben, rechts unten, links unten, rechts, links, darüber, darunter, darauf); wo keiner genannt ist, alle außer dem letzten in dieser Reihenfolge.</translation>
+        <translation type="vanished">Wo eine Beschriftung stehen darf, der liebste Platz zuerst: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below oder centre (rechts oben, links oben, rechts unten, links unten, rechts, links, darüber, darunter, darauf); wo keiner genannt ist, alle außer dem letzten in dieser Reihenfolge.</translation>
     </message>
     <message>
         <source>Place along lines</source>
@@ -5534,7 +5534,7 @@
     </message>
     <message>
         <source>Whether a label that does not fit into its area is left out, or stands beside it with a line that leads there.</source>
-        <translation>Ob eine Beschriftung, die nicht in ihre Fläche passt, wegbleibt oder daneben steht, mit einer Linie, die hinführt.</translation>
+        <translation type="vanished">Ob eine Beschriftung, die nicht in ihre Fläche passt, wegbleibt oder daneben steht, mit einer Linie, die hinführt.</translation>
     </message>
     <message>
         <source>Least size</source>
@@ -6315,6 +6315,22 @@
     <message>
         <source>there is no field “%1”</source>
         <translation>es gibt kein Feld „%1“</translation>
+    </message>
+    <message>
+        <source>Across the border where it does not fit</source>
+        <translation>Über die Grenze hinaus, wo sie nicht passt</translation>
+    </message>
+    <message>
+        <source>Where a label may stand, the most wanted place first: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below or centre; where none is named, all but the last in this order, and some between them.</source>
+        <translation>Wo eine Beschriftung stehen darf, der liebste Platz zuerst: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below oder centre (rechts oben, links oben, rechts unten, links unten, rechts, links, darüber, darunter, darauf); wo keiner genannt ist, alle außer dem letzten in dieser Reihenfolge, und einige dazwischen.</translation>
+    </message>
+    <message>
+        <source>Whether a label that does not fit into its area is left out, reaches beyond it, or stands beside it with a line that leads there.</source>
+        <translation>Ob eine Beschriftung, die nicht in ihre Fläche passt, wegbleibt, über sie hinausreicht oder daneben steht, mit einer Linie, die hinführt.</translation>
+    </message>
+    <message>
+        <source>A numeric attribute: no label of a feature with a higher number is given up for others; without one, all count alike.</source>
+        <translation>Ein Zahlenattribut: Keine Beschriftung eines Objekts mit einer höheren Zahl wird für andere aufgegeben; ohne es zählen alle gleich.</translation>
     </message>
 </context>
 <context>

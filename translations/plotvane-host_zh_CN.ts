@@ -4402,7 +4402,7 @@
     </message>
     <message>
         <source>A numeric attribute: features with a higher number are labelled first; without one, in their own order.</source>
-        <translation>数值属性：数值较大的要素先标注；没有时按要素自身的顺序。</translation>
+        <translation type="vanished">数值属性：数值较大的要素先标注；没有时按要素自身的顺序。</translation>
     </message>
     <message>
         <source>The lowest priority of the class, above that of the class before.</source>
@@ -5510,7 +5510,7 @@
     </message>
     <message>
         <source>Where a label may stand, the most wanted place first: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below or centre; where none is named, all but the last in this order.</source>
-        <translation>标注可以放在哪里，最希望的位置在前：upperRight（右上）、upperLeft（左上）、lowerRight（右下）、lowerLeft（左下）、right（右）、left（左）、above（上）、below（下）或 centre（正中）；不指定时按此顺序使用除最后一个以外的所有位置。</translation>
+        <translation type="vanished">标注可以放在哪里，最希望的位置在前：upperRight（右上）、upperLeft（左上）、lowerRight（右下）、lowerLeft（左下）、right（右）、left（左）、above（上）、below（下）或 centre（正中）；不指定时按此顺序使用除最后一个以外的所有位置。</translation>
     </message>
     <message>
         <source>Place along lines</source>
@@ -5534,7 +5534,7 @@
     </message>
     <message>
         <source>Whether a label that does not fit into its area is left out, or stands beside it with a line that leads there.</source>
-        <translation>放不进面内的标注是略去，还是放在旁边并用引线相连。</translation>
+        <translation type="vanished">放不进面内的标注是略去，还是放在旁边并用引线相连。</translation>
     </message>
     <message>
         <source>Least size</source>
@@ -6315,6 +6315,22 @@
     <message>
         <source>there is no field “%1”</source>
         <translation>没有字段“%1”</translation>
+    </message>
+    <message>
+        <source>Across the border where it does not fit</source>
+        <translation>放不下时越过边界</translation>
+    </message>
+    <message>
+        <source>Where a label may stand, the most wanted place first: upperRight, upperLeft, lowerRight, lowerLeft, right, left, above, below or centre; where none is named, all but the last in this order, and some between them.</source>
+        <translation>标注可以放在哪里，最希望的位置在前：upperRight（右上）、upperLeft（左上）、lowerRight（右下）、lowerLeft（左下）、right（右）、left（左）、above（上）、below（下）或 centre（正中）；不指定时按此顺序使用除最后一个以外的所有位置，以及其间的一些位置。</translation>
+    </message>
+    <message>
+        <source>Whether a label that does not fit into its area is left out, reaches beyond it, or stands beside it with a line that leads there.</source>
+        <translation>放不进面内的标注是略去、越出面外，还是放在旁边并用引线相连。</translation>
+    </message>
+    <message>
+        <source>A numeric attribute: no label of a feature with a higher number is given up for others; without one, all count alike.</source>
+        <translation>数值属性：数值较大的要素的标注不会为其他标注让出；没有时所有标注同等重要。</translation>
     </message>
 </context>
 <context>
