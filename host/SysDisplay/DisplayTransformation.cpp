@@ -38,6 +38,7 @@ struct DisplayTransformation::Private {
   QTransform turn;
   QPointF patternOrigin;
   QRectF whole;  // with y upwards
+  double wholePerPoint = 0;
   QPaintDevice* device = nullptr;
 
   double frameWidth() const { return std::max(1, frame.width()); }
@@ -167,6 +168,7 @@ QRectF DisplayTransformationHost::coveredWorld(DisplayTransformation const& tran
 
 void DisplayTransformationHost::setWhole(DisplayTransformation& transformation, QRectF const& whole) {
   transformation.d->whole = whole;
+  transformation.d->wholePerPoint = transformation.PixelsPerPoint() / transformation.d->scale();
 }
 
 // A tile may lie a little beyond, since it is made of whole pixels.
@@ -174,6 +176,19 @@ QRectF DisplayTransformationHost::wholeWorld(DisplayTransformation const& transf
   QRectF const covered = coveredWorld(transformation);
   QRectF const whole = transformation.d->turn.inverted().mapRect(transformation.d->whole);
   return whole.isEmpty() || !whole.intersects(covered) ? covered : whole;
+}
+
+DisplayTransformationHost::OnPage DisplayTransformationHost::onPage(DisplayTransformation const& transformation) {
+  constexpr double mostPx = 2, mostPart = 0.03;  // by which whole pixels may be off
+  auto const& d = *transformation.d;
+  auto const fitted = transformation.GetFittedBounds();
+  QRectF const shown(QPointF(fitted->GetXMin(), fitted->GetYMin()), QPointF(fitted->GetXMax(), fitted->GetYMax()));
+  double const perPoint = transformation.PixelsPerPoint() / d.scale(), most = mostPx / d.scale();
+  auto const isAbout = [most](double a, double b) { return std::abs(a - b) <= most; };
+  bool const isWhole = isAbout(shown.left(), d.whole.left()) && isAbout(shown.right(), d.whole.right()) &&
+                       isAbout(shown.top(), d.whole.top()) && isAbout(shown.bottom(), d.whole.bottom()) &&
+                       std::abs(perPoint / d.wholePerPoint - 1) < mostPart;
+  return isWhole ? OnPage{d.whole, d.wholePerPoint} : OnPage{shown, perPoint};
 }
 
 double DisplayTransformationHost::pixelsPerUnit(DisplayTransformation const& transformation) {

@@ -3,6 +3,7 @@
 #include <SysDisplay/DisplayTransformation.h>
 
 #include <QPointF>
+#include <QRectF>
 
 namespace SysDisplay {
 
@@ -27,13 +28,22 @@ struct SYSDISPLAY_EXPORT DisplayTransformationHost {
   /// The smallest rectangle of the world, with y upwards, that holds all of what the device frame shows.
   static QRectF coveredWorld(DisplayTransformation const& transformation);
 
-  /// All that a map shows, as a rectangle of the turned world: told by the map, and kept by clones that show a part of
-  /// it, a tile of a picture.
+  /// All that a map shows, as a rectangle of the turned world: told by the map when its transformation shows that, and
+  /// kept by clones that show a part of it, a tile of a picture.
   static void setWhole(DisplayTransformation& transformation, QRectF const& whole);
 
   /// The smallest rectangle of the world that holds all of the map where the device frame shows some of it, else that
   /// of `coveredWorld`.
   static QRectF wholeWorld(DisplayTransformation const& transformation);
+
+  /// What a map shows of the turned world, and how much of that a point of its page is.
+  struct OnPage {
+    QRectF bounds;  ///< with y upwards
+    double unitsPerPoint;
+  };
+
+  /// As the map told it where all of it is shown, whatever whole pixels that is made of; else as the pixels say.
+  static OnPage onPage(DisplayTransformation const& transformation);
 
   static double pixelsPerUnit(DisplayTransformation const& transformation);
 

@@ -24,14 +24,18 @@ inline bool isBeingRead(MainWindow& window) {
   return layout && SysCarto::isBeingRead(*layout);
 }
 
-/// The window with the sample open, and its data read, however busy the machine is.
+/// However busy the machine is; what is to be told of the data has been told then.
+inline void waitForData(MainWindow& window) {
+  if (!QTest::qWaitFor([&window] { return !isBeingRead(window); }, patienceMs)) qFatal("the data can't be read");
+  QCoreApplication::processEvents();
+}
+
+/// The window with the sample open, and its data read.
 struct WorldWindow {
   WorldWindow() {
     window.show();
     if (!window.open(world)) qFatal("can't open %s", qPrintable(world));
-    if (!QTest::qWaitFor([this] { return !isBeingRead(window); }, patienceMs))
-      qFatal("can't read %s", qPrintable(world));
-    QCoreApplication::processEvents();
+    waitForData(window);
   }
   void trigger(char const* identifier) { window.actions().find(identifier)->trigger(); }
   bool isEnabled(char const* identifier) { return window.actions().find(identifier)->isEnabled(); }

@@ -1,6 +1,7 @@
 #include "Dialogs.h"
 #include "LayerFixture.h"
 #include "desktop/WorkbenchPage.h"
+#include "desktop/WorldWindow.h"
 
 #include "host/SysAdapterUI/ContentsTree.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
@@ -44,6 +45,7 @@ struct LayersWindow {
   explicit LayersWindow(QString const& file) {
     window.show();
     window.open(file);
+    waitForData(window);
     window.activateWindow();
     tree().setFocus();
     new QAbstractItemModelTester(tree().model(), QAbstractItemModelTester::FailureReportingMode::QtTest, &tester);

@@ -160,6 +160,8 @@ void LabelPlacer::addAlongLines(WantedLabel label, std::vector<WantedLabel>& wan
   double cost = 0;
   for (MeasuredLine const& line : measured) addAlongLine(label, line, cost++);
   if (settings_.repeatCm > 0) return addRepeated(std::move(label), wanted);
+  std::stable_sort(label.ways.begin(), label.ways.end(),
+                   [](LabelWay const& a, LabelWay const& b) { return a.cost < b.cost; });
   if (label.ways.size() > maxAlong) label.ways.resize(maxAlong);
   wanted.push_back(std::move(label));
 }
@@ -201,6 +203,7 @@ void LabelPlacer::addRepeated(WantedLabel label, std::vector<WantedLabel>& wante
   auto ways = std::exchange(label.ways, {});
   label.repeats = label.texts[0].text;
   size_t const first = wanted.size();
+  double const apart = std::max(repeatPt(), label.texts[0].bounds.width());
   std::vector<QPointF> middles;
   for (LabelWay& way : ways) {
     QPointF const middle = way.middle();
@@ -211,14 +214,14 @@ void LabelPlacer::addRepeated(WantedLabel label, std::vector<WantedLabel>& wante
       return distanceTo(a) < distanceTo(b);
     });
     size_t const number = static_cast<size_t>(nearest - middles.begin());
-    bool const isFar = nearest == middles.end() || distanceTo(*nearest) >= repeatPt();
+    bool const isFar = nearest == middles.end() || distanceTo(*nearest) >= apart;
     if (isFar) {
       middles.push_back(middle);
       wanted.push_back(label);
       way.cost = 0;
     }
     auto& own = isFar ? wanted.back().ways : wanted[first + number].ways;
-    if (!isFar) way.cost = std::min(distanceTo(*nearest) / repeatPt(), 1.0);
+    if (!isFar) way.cost = std::min(distanceTo(*nearest) / apart, 1.0);
     if (own.size() < maxAlong) own.push_back(std::move(way));
   }
   if (middles.empty()) wanted.push_back(std::move(label));

@@ -43,18 +43,16 @@ LabelPlacer::LabelPlacer(FeatureStore const& store, LabelSettings const& setting
       scale_(transformation.GetMapScale()),
       thinned_(store),
       shapes_(store, renderer, scale_) {
-  auto const bounds = transformation.GetFittedBounds();
-  double const unitsPerPoint =
-      transformation.PixelsPerPoint() / DisplayTransformationHost::pixelsPerUnit(transformation);
-  if (!bounds || bounds->IsEmpty() || !(unitsPerPoint > 0) || !std::isfinite(unitsPerPoint) || !settings.symbol) return;
+  auto const [bounds, unitsPerPoint] = DisplayTransformationHost::onPage(transformation);
+  if (bounds.isEmpty() || !(unitsPerPoint > 0) || !std::isfinite(unitsPerPoint) || !settings.symbol) return;
   unitsPerPoint_ = unitsPerPoint;
   turn_ = DisplayTransformationHost::turn(transformation);
   turnBack_ = turn_.inverted();
-  covered_ = DisplayTransformationHost::coveredWorld(transformation);
+  covered_ = turnBack_.mapRect(bounds);
   for (PinnedLabel const& pin : settings.pinned) pins_[pin.key] = &pin;
-  left_ = bounds->GetXMin();
-  bottom_ = bounds->GetYMin();
-  frame_ = {0, 0, bounds->GetWidth() / unitsPerPoint, bounds->GetHeight() / unitsPerPoint};
+  left_ = bounds.left();
+  bottom_ = bounds.top();
+  frame_ = {0, 0, bounds.width() / unitsPerPoint, bounds.height() / unitsPerPoint};
   thinned_.setResolution(2 * unitsPerPoint);
 }
 
@@ -182,15 +180,18 @@ LabelText LabelPlacer::textOf(int feature) {
 void LabelPlacer::measure(LabelText& text) { text.bounds = text.symbol->bounds(text.text); }
 
 // About as large as a name; labels that begin in one cell are in each other's way.
-std::pair<int, int> LabelPlacer::cellOf(LabelText const& text, QPointF const& point) {
-  double const size = std::max(text.symbol->format().size, 1.0);
+std::pair<int, int> LabelPlacer::cellOf(QPointF const& point) const {
+  double const size = std::max(settings_.symbol->format().size, 1.0);
   return {static_cast<int>(std::floor(point.x() / (cellWidth * size))),
           static_cast<int>(std::floor(point.y() / (cellHeight * size)))};
 }
 
 void LabelPlacer::countCells(std::vector<int> const& features) {
-  for (int const feature : features)
-    if (auto const point = visiblePoint(feature)) ++cells_[cellOf(textOf(feature), *point)].all;
+  for (int const feature : features) {
+    bool const isPoint = store_.parts[store_.features[feature].firstPart].kind == PartKind::Point;
+    auto const point = isPoint && !pinOf(feature) ? visiblePoint(feature) : std::nullopt;
+    if (point) ++cells_[cellOf(*point)].all;
+  }
 }
 
 void LabelPlacer::addBesidePoint(WantedLabel label, QPointF const& point, std::vector<WantedLabel>& wanted) {
@@ -202,7 +203,7 @@ void LabelPlacer::addBesidePoint(WantedLabel label, QPointF const& point, std::v
     label.core = core;
   }
   LabelText& text = label.texts[0];
-  Cell& cell = cells_[cellOf(text, point)];
+  Cell& cell = cells_[cellOf(point)];
   if (cell.tried < mostInCell && index_.isFree(LabelShape::upright(core))) {
     if (settings_.wrapPt > 0) text.text = SysDisplay::wrapped(text.text, *text.symbol, settings_.wrapPt);
     measure(text);

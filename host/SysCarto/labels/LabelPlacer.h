@@ -140,7 +140,7 @@ private:
 
   void addWanted(int feature, std::vector<WantedLabel>& wanted);
   void addBesidePoint(WantedLabel label, QPointF const& point, std::vector<WantedLabel>& wanted);
-  static std::pair<int, int> cellOf(LabelText const& text, QPointF const& point);
+  std::pair<int, int> cellOf(QPointF const& point) const;
   void countCells(std::vector<int> const& features);
   void addBeside(WantedLabel& label, Box const& mark, Cell const& cell) const;
   void addAtPolygon(WantedLabel label, std::vector<WantedLabel>& wanted);

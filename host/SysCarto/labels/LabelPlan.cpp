@@ -10,7 +10,11 @@ namespace SysCarto {
 
 namespace {
 
-constexpr int mostLabels = 20000;  // that are placed against each other
+// What is placed against each other; less important labels find no place then.
+constexpr int mostLabels = 20000;
+constexpr std::int64_t mostLooks = 100000000;
+constexpr std::size_t mostConflicts = 12000000;
+
 constexpr int stepsALabel = 150, stepsAtOnce = 20;
 
 }  // namespace
@@ -18,7 +22,11 @@ constexpr int stepsALabel = 150, stepsAtOnce = 20;
 void LabelPlan::add(WantedLabel label, int rank, Room const& room) {
   labels_.push_back({std::move(label), room, search_.candidateCount(), {}});
   search_.addLabel(rank);
-  if (count() <= mostLabels) addWays(labels_.back());
+  if (labels_.back().wanted.ways.empty()) return;
+  if (++withWays_ <= mostLabels)
+    addWays(labels_.back());
+  else
+    labels_.back().wanted.ways.clear();
 }
 
 void LabelPlan::addWays(Label& label) {
@@ -49,7 +57,8 @@ LabelWay const* LabelPlan::chosen(int number) const {
 }
 
 void LabelPlan::place(std::function<bool()> const& isCancelled) {
-  findConflicts();
+  findConflicts(isCancelled);
+  if (isCancelled()) return;
   search_.begin();
   for (int steps = stepsALabel; steps > 0 && !isCancelled(); steps -= stepsAtOnce)
     if (!search_.improve(stepsAtOnce)) break;
@@ -57,22 +66,27 @@ void LabelPlan::place(std::function<bool()> const& isCancelled) {
 }
 
 // Of labels that lie near each other, each way against each.
-void LabelPlan::findConflicts() {
+void LabelPlan::findConflicts(std::function<bool()> const& isCancelled) {
   BoxTree tree;
   for (int number = 0; number < count(); ++number) {
     Label const& label = labels_[static_cast<size_t>(number)];
-    if (label.wanted.ways.empty() || label.box.isEmpty()) continue;
-    tree.any(label.box, [&](int other) {
+    if (label.wanted.ways.empty()) continue;
+    if (number % 64 == 0 && isCancelled()) return;
+    bool const isTooMuch = tree.any(label.box, [&](int other) {
       findConflicts(labels_[static_cast<size_t>(other)], label);
-      return false;
+      return looks_ > mostLooks || search_.conflictCount() > mostConflicts;
     });
-    tree.insert(label.box, number);
+    if (isTooMuch)
+      search_.giveUp(number);
+    else
+      tree.insert(label.box, number);
   }
 }
 
 void LabelPlan::findConflicts(Label const& upper, Label const& lower) {
   auto const lastOf = [](Label const& one) { return one.first + static_cast<int>(one.wanted.ways.size()); };
-  bool const isEither = hide(upper.wanted, lower.wanted);
+  bool const isEither = upper.room.group == lower.room.group && hide(upper.wanted, lower.wanted);
+  looks_ += static_cast<std::int64_t>(upper.wanted.ways.size()) * static_cast<std::int64_t>(lower.wanted.ways.size());
   for (int a = upper.first; a < lastOf(upper); ++a)
     for (int b = lower.first; b < lastOf(lower); ++b)
       if (isEither || conflict(ways_[static_cast<size_t>(a)], ways_[static_cast<size_t>(b)])) search_.addConflict(a, b);
@@ -81,8 +95,9 @@ void LabelPlan::findConflicts(Label const& upper, Label const& lower) {
 bool LabelPlan::conflict(Way const& upper, Way const& lower) const {
   Label const& first = labels_[static_cast<size_t>(upper.label)];
   Label const& second = labels_[static_cast<size_t>(lower.label)];
-  if (covers(upper, second.wanted.mark) || covers(upper, second.wanted.around) || covers(lower, first.wanted.mark) ||
-      repeats(upper, lower))
+  bool const isOneLayer = first.room.group == second.room.group;  // marks of others cost, and forbid nothing
+  if (isOneLayer && (covers(upper, second.wanted.mark) || covers(upper, second.wanted.around) ||
+                     covers(lower, first.wanted.mark) || repeats(upper, lower)))
     return true;
   if (!upper.box.meets(lower.box)) return false;
   bool const isWider = first.room.gap >= second.room.gap;
@@ -112,10 +127,9 @@ bool LabelPlan::hide(WantedLabel const& a, WantedLabel const& b) {
 // Labels of one text along lines that stand closer than they are to.
 bool LabelPlan::repeats(Way const& a, Way const& b) const {
   Label const &first = labels_[static_cast<size_t>(a.label)], &second = labels_[static_cast<size_t>(b.label)];
-  if (first.wanted.repeats.isEmpty() || first.room.group != second.room.group) return false;
-  if (first.wanted.repeats != second.wanted.repeats) return false;
-  QPointF const way = a.given->middle() - b.given->middle();
-  return std::hypot(way.x(), way.y()) < first.room.apart;
+  if (first.wanted.repeats.isEmpty() || first.wanted.repeats != second.wanted.repeats) return false;
+  QPointF const between = a.given->middle() - b.given->middle();
+  return std::hypot(between.x(), between.y()) < first.room.apart;
 }
 
 void placeLabels(std::vector<LabelPlacer*> const& layers, std::function<bool()> const& isCancelled) {
@@ -141,6 +155,7 @@ void placeLabels(std::vector<LabelPlacer*> const& layers, std::function<bool()> 
       owners.push_back(layer);
     }
   }
+  if (isCancelled()) return;
   plan.place(isCancelled);
   for (int i = 0; i < plan.count(); ++i)
     if (auto const* const way = plan.chosen(i)) owners[static_cast<size_t>(i)]->accept(plan.label(i), *way);

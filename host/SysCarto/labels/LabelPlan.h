@@ -5,6 +5,7 @@
 
 #include <SysCarto/Export.h>
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <vector>
@@ -48,8 +49,8 @@ private:
   };
 
   void addWays(Label& label);
-  void findConflicts();
-  void findConflicts(Label const& label, Label const& other);
+  void findConflicts(std::function<bool()> const& isCancelled);
+  void findConflicts(Label const& upper, Label const& lower);
   bool conflict(Way const& upper, Way const& lower) const;
   static bool meet(std::vector<LabelShape> const& a, std::vector<LabelShape> const& b);
   static bool covers(Way const& way, Box const& box);
@@ -59,6 +60,8 @@ private:
   std::deque<Label> labels_;
   std::vector<Way> ways_;
   LabelSearch search_;
+  int withWays_ = 0;
+  std::int64_t looks_ = 0;
 };
 
 /// Places the labels of the layers of a map. Those of a layer that comes before are more important than all of the

@@ -45,6 +45,7 @@ void LabelSearch::begin() {
   link();
   for (int label = 0; label < labelCount(); ++label) {
     Label& own = labels_[static_cast<size_t>(label)];
+    if (own.first == own.last) continue;
     own.place = static_cast<int>(waiting_.size());
     waiting_.push_back(label);
     int best = -1;
@@ -160,15 +161,21 @@ LabelSearch::Choice LabelSearch::choiceOf(int label, int root) {
   return best;
 }
 
-void LabelSearch::pushOut(int candidate, int rank) {
+// Answers whether a less important one had to go.
+bool LabelSearch::pushOut(int candidate, int rank) {
   Candidate const& own = candidates_[candidate];
+  bool drops = false;
   for (int i = own.first; i < own.last && own.hits > 0; ++i) {
     int const other = neighbours_[i], label = labelOf(other);
     if (labels_[label].chosen != other) continue;
     labels_[label].chain = step_;
-    if (labels_[label].rank <= rank) pushed_.push_back(label);
+    if (labels_[label].rank <= rank)
+      pushed_.push_back(label);
+    else
+      drops = true;
     set(label, -1);
   }
+  return drops;
 }
 
 // Places a label where less important ones have to go, or others make room in turn. Where one is left over that is
@@ -184,8 +191,7 @@ void LabelSearch::insert(int root) {
     auto const [move, candidate] = choiceOf(label, root);
     if (move == Move::None) break;
     pushed_.pop_back();
-    drops = drops || move == Move::Drops;
-    pushOut(candidate, rank);
+    drops |= pushOut(candidate, rank);
     set(label, candidate);
     candidates_[candidate].isBannedUntil = step_ + bannedSteps + below(bannedAtRandom);
   }
@@ -199,9 +205,14 @@ void LabelSearch::insert(int root) {
   freed_.clear();
 }
 
+// The more important ones first.
 void LabelSearch::takeFreed() {
   while (!freed_.empty()) {
-    int const candidate = freed_.back(), label = labelOf(candidate);
+    auto const first = std::min_element(freed_.begin(), freed_.end(), [this](int a, int b) {
+      return std::make_pair(labelOf(a), candidates_[a].cost) < std::make_pair(labelOf(b), candidates_[b].cost);
+    });
+    int const candidate = *first, label = labelOf(candidate);
+    *first = freed_.back();
     freed_.pop_back();
     if (candidates_[candidate].hits == 0 && labels_[label].chosen < 0) choose(label, candidate);
   }
@@ -230,20 +241,33 @@ bool LabelSearch::improve(int stepsALabel) {
   return !waiting_.empty() && active > 0;
 }
 
-void LabelSearch::settle() {
-  std::vector<int> left = waiting_;
-  std::sort(left.begin(), left.end());
-  for (int const label : left) {
-    ++step_;
-    insert(label);
-    takeFreed();
+// Until no label waits for whose sake only less important ones would have to go.
+void LabelSearch::insertAll() {
+  for (int sweep = 0; sweep < sweeps; ++sweep) {
+    std::vector<int> left = waiting_;
+    std::sort(left.begin(), left.end());
+    int const before = lastGain_;
+    size_t const waited = waiting_.size();
+    for (int const label : left) {
+      if (labels_[label].chosen >= 0) continue;
+      ++step_;
+      insert(label);
+      takeFreed();
+    }
+    if (lastGain_ == before && waiting_.size() == waited) return;
   }
+}
+
+void LabelSearch::settle() {
+  insertAll();
   for (int sweep = 0; sweep < sweeps; ++sweep) {
     bool isBetter = false;
     for (int label = 0; label < labelCount(); ++label)
       if (labels_[label].chosen >= 0) isBetter |= makeCheaper(label);
-    if (!isBetter) return;
+    takeFreed();
+    if (!isBetter) break;
   }
+  insertAll();
 }
 
 bool LabelSearch::makeCheaper(int label) {

@@ -2,6 +2,7 @@
 
 #include <SysCarto/Export.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <random>
 #include <utility>
@@ -25,6 +26,11 @@ public:
 
   /// Two candidates of different labels that can't both be chosen.
   void addConflict(int a, int b) { conflicts_.emplace_back(a, b); }
+
+  std::size_t conflictCount() const { return conflicts_.size(); }
+
+  /// A label that finds no place.
+  void giveUp(int label) { labels_[static_cast<size_t>(label)].last = labels_[static_cast<size_t>(label)].first; }
 
   /// Nothing is added afterwards. Takes in turn for each label the cheapest candidate that is free.
   void begin();
@@ -72,8 +78,9 @@ private:
   void goBack(size_t to);
   Choice choiceOf(int label, int root);
   Move moveOf(int candidate, int root);
-  void pushOut(int candidate, int rank);
+  bool pushOut(int candidate, int rank);
   void insert(int root);
+  void insertAll();
   void takeFreed();
   void stir();
   bool makeCheaper(int label);

@@ -53,11 +53,11 @@ _ptr_t<DisplayTransformation> transformationOf(Map const& map, QRect const& fram
 }
 
 // Those first whose labels are placed first.
-QList<_ptr_t<FeatureLayer>> labelledLayers(Map const& map) {
+QList<_ptr_t<FeatureLayer>> labelledLayers(Map const& map, double mapScale) {
   QList<_ptr_t<FeatureLayer>> layers;
   for (auto const& layer : map.GetLayers())
     if (auto const features = SysUtility::ptr_cast<FeatureLayer>(layer)) layers << features;
-  return inLabelOrder(layers, map.GetDisplayTransformation()->GetMapScale());
+  return inLabelOrder(layers, mapScale);
 }
 
 }  // namespace
@@ -151,7 +151,7 @@ QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi, _pt
   QMap<int, QList<_ptr_t<SysGeometry::Polygon>>> obstacles;
   QList<_ptr_t<Element>> labels;
   QList<_ptr_t<Element>> unplaced;
-  for (auto const& layer : labelledLayers(*frame.GetMap())) {
+  for (auto const& layer : labelledLayers(*frame.GetMap(), transformation->GetMapScale())) {
     layer->GetAnnotationElements(obstacles, labels, transformation, cancel);
     if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer)) unplaced << vector->unplacedLabels();
   }

@@ -119,14 +119,14 @@ void VectorLayer::planLabels(Obstacles const& obstacles, _ptr_t<DisplayTransform
     std::shared_ptr<FeatureStore const> store;
     Others others;
   };
+  auto const* const meanwhile = WithoutWaiting::current();
   std::vector<Given> all;
   for (VectorLayer* const layer : labelledFrom(transformation->GetMapScale())) {
     auto store = layer->shownBy(*transformation, cancel);
     auto others = store ? layer->obstaclesIn(*transformation, cancel) : Others();
+    if (meanwhile && meanwhile->isIncomplete) return;
     all.push_back({layer, std::move(store), std::move(others)});
   }
-  auto const* const meanwhile = WithoutWaiting::current();
-  if (meanwhile && meanwhile->isIncomplete) return;
 
   std::deque<LabelPlacer> placers;
   std::vector<std::pair<VectorLayer*, LabelPlacer*>> placed;
@@ -138,7 +138,10 @@ void VectorLayer::planLabels(Obstacles const& obstacles, _ptr_t<DisplayTransform
     planned->parts[layer];
     if (!store || !store->keepsLabels || store->size() == 0) continue;
     LabelPlacer& placer = placers.emplace_back(*store, layer->labels_, *layer->renderer_, *transformation);
-    if (!placer.isUsable()) return;
+    if (!placer.isUsable()) {
+      placers.pop_back();
+      continue;
+    }
     if (layer->spotlight_ && layer->spotlight_->hidesOthers) placer.keepOnly(layer->spotlight_->feature);
     for (auto const& list : obstacles)
       for (_ptr_t<Polygon> const& obstacle : list)

@@ -19,6 +19,7 @@ QString VectorLayer::open(SourceSettings const& source, QString const& mapSystem
                           ReadProgress const& progress, ReadDepth depth) {
   if (isBeingRead()) ReadingListener::tellSoon();
   giveUpReading();
+  planned_ = nullptr;
   source_ = source;
   mapSystem_ = mapSystem;
   warnings_.clear();

@@ -53,6 +53,7 @@ VectorLayer::VectorLayer(std::unique_ptr<Renderer> renderer)
 VectorLayer::~VectorLayer() { giveUpReading(); }
 
 void VectorLayer::setRenderer(std::unique_ptr<Renderer> renderer) {
+  planned_ = nullptr;
   renderer_ = std::move(renderer);
   LayerHost::changeLook(*this);
 }
@@ -62,6 +63,7 @@ void VectorLayer::setLabelSettings(LabelSettings const& settings) {
   auto const isSame = [](PinnedLabel const& a, PinnedLabel const& b) { return a.key == b.key; };
   if (!std::equal(settings.pinned.begin(), settings.pinned.end(), labels_.pinned.begin(), labels_.pinned.end(), isSame))
     windows_.clear();
+  planned_ = nullptr;
   labels_ = settings;
   LayerHost::changeLook(*this);
 }
@@ -107,6 +109,7 @@ void VectorLayer::drawFeatures(QPainter& painter, DisplayTransformation const& t
 
 void VectorLayer::setSpotlight(std::optional<Spotlight> const& spotlight) {
   if (!spotlight && !spotlight_) return;
+  planned_ = nullptr;
   spotlight_ = spotlight;
   LayerHost::changeLook(*this);
 }

@@ -235,6 +235,49 @@ private slots:
     QVERIFY(std::abs(ptr_cast<TextElement>(result.labels[0])->angle() - angle) < 1e-6);
   }
 
+  void aNameMayReachAcrossTheBorderOfItsArea_data() {
+    Rows<QByteArray, QString> row;
+    row("where much of it lies within", "[30,0],[60,0],[60,90],[30,90],[30,0]", "Bolivia");
+    row("not where most of it would lie outside", "[40,0],[48,0],[48,90],[40,90],[40,0]", "");
+  }
+  void aNameMayReachAcrossTheBorderOfItsArea() {
+    auto const [ring, expected] = fetched<QByteArray, QString>();
+    QByteArray const polygonJson = R"({"type":"Polygon","coordinates":[[)" + ring + "]]}";
+    auto labels = settings(9);
+    labels.areaPlace = AreaPlace::Across;
+    auto const layer = openedJson(geoJson(polygonJson, "Bolivia"), "", nullptr, labels);
+    auto const page = shown({-5, -5, 95, 95}, QSize(100, 100)).transformation();
+    QCOMPARE(placed(*layer.layer, page).texts().join('|'), expected);
+    layer.layer->setLabelSettings(settings(9));
+    QCOMPARE(placed(*layer.layer, page).texts(), QStringList());
+  }
+
+  void aLessImportantLabelMakesRoom() {
+    auto labels = settings(9);
+    labels.places = QStringList{"left"};
+    auto const upper = openedJson(geoJson(R"({"type":"Point","coordinates":[150,50]})", "Upper"), "",
+                                  make<SimpleMarkerSymbol>(), labels);
+    labels.places = QStringList{"right", "left"};
+    auto const lower = openedJson(geoJson(R"({"type":"Point","coordinates":[100,50]})", "Lower"), "",
+                                  make<SimpleMarkerSymbol>(), labels);
+    auto const map = make<Map>();
+    map->AddLayer(upper.layer);
+    map->AddLayer(lower.layer);
+    auto const page = shown({0, 0, 200, 100}, QSize(200, 100)).transformation();
+    auto const isRight = [&](Placed const& result) { return result.shapes().last().boundingRect().left() > 100; };
+    Placed const first = placed(*upper.layer, page);
+    Placed const both = placed(*lower.layer, page, first.areas);
+    QCOMPARE(first.texts() + both.texts(), (QStringList{"Upper", "Lower"}));
+    QVERIFY(!isRight(both) && !overlap(both.shapes()[0], both.shapes()[1], 0.01));
+
+    placed(*upper.layer, page);
+    QVERIFY(isRight(placed(*lower.layer, page)));  // asked alone, with nothing in its way
+    placed(*upper.layer, page);
+    labels.places = QStringList{"right"};
+    lower.layer->setLabelSettings(labels);
+    QVERIFY(placed(*lower.layer, page, first.areas).labels.isEmpty());  // what was planned before is not so any more
+  }
+
   void aTextIsMadeOfWhatAFeatureHas_data() {
     Rows<QString, QString, bool, QString, QString> row;
     row("the attribute", "", "", false, "Rhine|Elbe", "");
