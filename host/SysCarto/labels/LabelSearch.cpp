@@ -205,17 +205,18 @@ void LabelSearch::insert(int root) {
   freed_.clear();
 }
 
-// The more important ones first.
+// The more important ones first. To place what was not placed frees nothing.
 void LabelSearch::takeFreed() {
-  while (!freed_.empty()) {
-    auto const first = std::min_element(freed_.begin(), freed_.end(), [this](int a, int b) {
-      return std::make_pair(labelOf(a), candidates_[a].cost) < std::make_pair(labelOf(b), candidates_[b].cost);
-    });
-    int const candidate = *first, label = labelOf(candidate);
-    *first = freed_.back();
-    freed_.pop_back();
-    if (candidates_[candidate].hits == 0 && labels_[label].chosen < 0) choose(label, candidate);
-  }
+  auto const isOfNoUse = [this](int candidate) {
+    return candidates_[candidate].hits > 0 || labels_[labelOf(candidate)].chosen >= 0;
+  };
+  freed_.erase(std::remove_if(freed_.begin(), freed_.end(), isOfNoUse), freed_.end());
+  std::sort(freed_.begin(), freed_.end(), [this](int a, int b) {
+    return std::make_pair(labelOf(a), candidates_[a].cost) < std::make_pair(labelOf(b), candidates_[b].cost);
+  });
+  for (int const candidate : freed_)
+    if (!isOfNoUse(candidate)) choose(labelOf(candidate), candidate);
+  freed_.clear();
 }
 
 // One moves to another place that is free, so that things come about that were not there before.
