@@ -242,8 +242,9 @@ bool LabelSearch::improve(int stepsALabel) {
   return !waiting_.empty() && active > 0;
 }
 
-// Until no label waits for whose sake only less important ones would have to go.
+// Until no label waits for whose sake only less important ones would have to go, as far as the work is bearable.
 void LabelSearch::insertAll() {
+  std::int64_t const most = work_ + mostWork / 2;
   for (int sweep = 0; sweep < sweeps; ++sweep) {
     std::vector<int> left = waiting_;
     std::sort(left.begin(), left.end());
@@ -251,6 +252,7 @@ void LabelSearch::insertAll() {
     size_t const waited = waiting_.size();
     for (int const label : left) {
       if (labels_[label].chosen >= 0) continue;
+      if (work_ > most) return;
       ++step_;
       insert(label);
       takeFreed();
