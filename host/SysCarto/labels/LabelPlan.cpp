@@ -68,15 +68,16 @@ void LabelPlan::place(std::function<bool()> const& isCancelled) {
 // Of labels that lie near each other, each way against each.
 void LabelPlan::findConflicts(std::function<bool()> const& isCancelled) {
   BoxTree tree;
+  auto const isTooMuch = [this] { return looks_ > mostLooks || search_.conflictCount() > mostConflicts; };
   for (int number = 0; number < count(); ++number) {
     Label const& label = labels_[static_cast<size_t>(number)];
     if (label.wanted.ways.empty()) continue;
     if (number % 64 == 0 && isCancelled()) return;
-    bool const isTooMuch = tree.any(label.box, [&](int other) {
+    bool const isLeftOut = isTooMuch() || tree.any(label.box, [&](int other) {
       findConflicts(labels_[static_cast<size_t>(other)], label);
-      return looks_ > mostLooks || search_.conflictCount() > mostConflicts;
+      return isTooMuch();
     });
-    if (isTooMuch)
+    if (isLeftOut)
       search_.giveUp(number);
     else
       tree.insert(label.box, number);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <tuple>
 #include <utility>
 
 namespace SysCarto {
@@ -39,6 +40,13 @@ void LabelSearch::addLabel(int rank) { labels_.push_back({rank, candidateCount()
 void LabelSearch::addCandidate(double cost) {
   candidates_.push_back({labelCount() - 1, cost});
   labels_.back().last = candidateCount();
+}
+
+// Its candidates never become free.
+void LabelSearch::giveUp(int label) {
+  Label& own = labels_[static_cast<size_t>(label)];
+  for (int one = own.first; one < own.last; ++one) candidates_[one].hits = 1;
+  own.last = own.first;
 }
 
 void LabelSearch::begin() {
@@ -118,8 +126,8 @@ void LabelSearch::set(int label, int candidate) {
   choose(label, candidate);
 }
 
-void LabelSearch::goBack(size_t to) {
-  for (; done_.size() > to; done_.pop_back()) choose(done_.back().first, done_.back().second);
+void LabelSearch::goBack() {
+  for (; !done_.empty(); done_.pop_back()) choose(done_.back().first, done_.back().second);
 }
 
 // What it means for the label that is to be placed in the end: whether what has to go may go without another place.
@@ -201,7 +209,7 @@ void LabelSearch::insert(int root) {
   }
   bool const isSwap = !drops && pushed_.size() == 1 && pushed_[0] != root && labels_[pushed_[0]].rank == rank;
   if (isSwap) return;
-  goBack(0);
+  goBack();
   freed_.clear();
 }
 
@@ -212,7 +220,7 @@ void LabelSearch::takeFreed() {
   };
   freed_.erase(std::remove_if(freed_.begin(), freed_.end(), isOfNoUse), freed_.end());
   std::sort(freed_.begin(), freed_.end(), [this](int a, int b) {
-    return std::make_pair(labelOf(a), candidates_[a].cost) < std::make_pair(labelOf(b), candidates_[b].cost);
+    return std::make_tuple(labelOf(a), candidates_[a].cost, a) < std::make_tuple(labelOf(b), candidates_[b].cost, b);
   });
   for (int const candidate : freed_)
     if (!isOfNoUse(candidate)) choose(labelOf(candidate), candidate);

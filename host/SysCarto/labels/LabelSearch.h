@@ -29,8 +29,8 @@ public:
 
   std::size_t conflictCount() const { return conflicts_.size(); }
 
-  /// A label that finds no place.
-  void giveUp(int label) { labels_[static_cast<size_t>(label)].last = labels_[static_cast<size_t>(label)].first; }
+  /// A label that finds no place, whatever is known of its conflicts.
+  void giveUp(int label);
 
   /// Nothing is added afterwards. Takes in turn for each label the cheapest candidate that is free.
   void begin();
@@ -75,7 +75,7 @@ private:
   void findActive();
   void choose(int label, int candidate);
   void set(int label, int candidate);
-  void goBack(size_t to);
+  void goBack();
   Choice choiceOf(int label, int root);
   Move moveOf(int candidate, int root);
   bool pushOut(int candidate, int rank);
