@@ -65,7 +65,7 @@ bool LabelIndex::isFree(LabelShape const& shape) const {
   return !tree_->any(shape.box, [&](int other) { return intersects(shape, shapes_[other]); });
 }
 
-MarkIndex::MarkIndex(Marks marks) : tree_(std::make_unique<BoxTree>(marks.boxes)), weights_(std::move(marks.weights)) {}
+MarkIndex::MarkIndex(Marks const& marks) : tree_(std::make_unique<BoxTree>(marks.boxes)), weights_(marks.weights) {}
 MarkIndex::~MarkIndex() = default;
 
 int MarkIndex::count(Box const& box, int most) const {

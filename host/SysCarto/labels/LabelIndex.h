@@ -56,7 +56,7 @@ public:
       weights.push_back(weight);
     }
   };
-  explicit MarkIndex(Marks marks);
+  explicit MarkIndex(Marks const& marks);
   ~MarkIndex();
 
   /// How much the marks weigh that meet the box, counted up to `most`.

@@ -140,7 +140,7 @@ void placeLabels(std::vector<LabelPlacer*> const& layers, std::function<bool()> 
       for (LabelPlacer* const other : layers) other->addTaken(shape);
   MarkIndex::Marks given;
   for (LabelPlacer* const layer : layers) layer->addMarks(given);
-  MarkIndex const marks(std::move(given));
+  MarkIndex const marks(given);
   LabelPlan plan;
   std::vector<LabelPlacer*> owners;
   int rank = 0;
