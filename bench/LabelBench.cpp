@@ -64,7 +64,7 @@ Result solve(int size, std::vector<MarkSide> const& sides, bool areAllEqual) {
       double const x = between(chance, pageWidth), y = between(chance, pageHeight);
       plan.add(labelAt(i, x, y, sides), areAllEqual ? 0 : i, {});
     }
-    plan.place([] { return false; });
+    plan.place([] { return true; });
     result.seconds += static_cast<double>(clock.nsecsElapsed()) / 1e9 / instances;
     if (hasOverlap(plan)) qFatal("labels overlap");
     for (int i = 0; i < size; ++i) result.placed += plan.chosen(i) ? 1.0 / instances : 0;

@@ -6,6 +6,7 @@
 #include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/document/ElementFields.h"
 #include "host/SysCarto/elements/ElementHost.h"
+#include "host/SysCarto/labels/LabelPlacer.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/SysCarto/maps/VectorLayer.h"
@@ -160,12 +161,40 @@ QJsonValue labelsJson(Layer const& layer) {
   return QJsonObject{{QStringLiteral("wanted"), count.wanted}, {QStringLiteral("placed"), count.placed}};
 }
 
-void placeLabelsOf(Map const& map, IElementContainer const* container) {
-  if (!container) return;
-  for (auto const& element : container->GetElements()) {
+_ptr_t<SysCarto::MapFrameElement> frameOf(Map const& map, SysCarto::PageLayout const& layout) {
+  for (auto const& element : layout.GetGraphicsContainer()->GetElements()) {
     auto const frame = SysUtility::ptr_cast<SysCarto::MapFrameElement>(element);
-    if (frame && frame->GetMap().get() == &map) SysCarto::placeLabels(*frame, labelsPerInch);
+    if (frame && frame->GetMap().get() == &map) return frame;
   }
+  return nullptr;
+}
+
+// Of a map that was labelled just now. A text that bends has corners for each letter.
+QJsonObject labelsJson(SysCarto::MapFrameElement const& frame) {
+  SysCarto::LabelCount all;
+  QJsonArray shown;
+  QTransform const toPage = SysCarto::mapToPage(frame);
+  for (auto const& layer : frame.GetMap()->GetLayers()) {
+    auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(layer.get());
+    if (!vector || !vector->showsAt(frame.GetMap()->scale()) || !vector->IsAnnotationVisible()) continue;
+    all.wanted += vector->labelCount().wanted;
+    all.placed += vector->labelCount().placed;
+    auto const& pieces = vector->placedLabels();
+    for (auto piece = pieces.begin(); piece != pieces.end();) {
+      auto const& first = *piece;
+      QJsonArray corners;
+      for (; piece != pieces.end() && piece->label == first.label; ++piece)
+        for (QPointF const& corner : piece->area) {
+          QPointF const place = toPage.map(corner);
+          corners.append(QJsonArray{place.x(), place.y()});
+        }
+      shown.append(QJsonObject{{QStringLiteral("text"), first.name},
+                               {QStringLiteral("layer"), layer->GetName()},
+                               {QStringLiteral("corners"), corners}});
+    }
+  }
+  return QJsonObject{
+      {QStringLiteral("wanted"), all.wanted}, {QStringLiteral("placed"), all.placed}, {QStringLiteral("shown"), shown}};
 }
 
 QJsonObject layerJson(_ptr_t<Layer> const& layer, bool countsLabels) {
@@ -179,13 +208,18 @@ QJsonObject layerJson(_ptr_t<Layer> const& layer, bool countsLabels) {
                      {QStringLiteral("visible"), layer->IsVisible()}};
 }
 
-QJsonObject mapJson(_ptr_t<Map> const& map, bool hasFocus, bool countsLabels) {
+QJsonObject mapJson(_ptr_t<Map> const& map, SysCarto::PageLayout const& layout, bool countsLabels) {
+  auto const frame = countsLabels ? frameOf(*map, layout) : nullptr;
+  if (frame) SysCarto::placeLabels(*frame, labelsPerInch);
   QJsonArray layers;
   for (auto const& layer : map->GetLayers()) layers.append(layerJson(layer, countsLabels));
-  return QJsonObject{
-      {QStringLiteral("name"), map->GetName()},         {QStringLiteral("focus"), hasFocus},
-      {QStringLiteral("scale"), map->scale()},          {QStringLiteral("extent"), rectangle(map->GetExtent())},
-      {QStringLiteral("rotation"), map->GetRotation()}, {QStringLiteral("layers"), layers}};
+  return QJsonObject{{QStringLiteral("name"), map->GetName()},
+                     {QStringLiteral("focus"), map == layout.GetFocusMap()},
+                     {QStringLiteral("scale"), map->scale()},
+                     {QStringLiteral("extent"), rectangle(map->GetExtent())},
+                     {QStringLiteral("rotation"), map->GetRotation()},
+                     {QStringLiteral("layers"), layers},
+                     {QStringLiteral("labels"), frame ? labelsJson(*frame) : QJsonValue(QJsonValue::Null)}};
 }
 
 // What a terminal takes for the text: two columns for a Chinese character.
@@ -317,10 +351,7 @@ QJsonObject documentJson(SysCarto::MapDocument const& document, bool countsLabel
   document.GetMaps(maps);
   QJsonArray mapList;
   auto const layout = document.GetPageLayout();
-  for (auto const& map : maps) {
-    if (countsLabels) placeLabelsOf(*map, layout->GetGraphicsContainer());
-    mapList.append(mapJson(map, map == layout->GetFocusMap(), countsLabels));
-  }
+  for (auto const& map : maps) mapList.append(mapJson(map, *layout, countsLabels));
   return QJsonObject{
       {QStringLiteral("information"), layout ? informationJson(*layout) : QJsonObject()},
       {QStringLiteral("page"), layout ? pageJson(layout->GetPage()) : QJsonValue(QJsonValue::Null)},

@@ -143,9 +143,7 @@ void LayoutView::composePicture() {
   if (layout_) picture_.compose(*layout_, devicePixelRatioF());
 }
 
-void LayoutView::continuePicture() {
-  if (layout_) picture_.drawSlice(*layout_, sliceMs);
-}
+bool LayoutView::continuePicture() { return layout_ && !picture_.drawSlice(*layout_, sliceMs).isEmpty(); }
 
 void LayoutView::catchUp() {
   if (layout_ && !picture_.isCurrent(*layout_)) refresh(SysCarto::RefreshPhase::Everything);

@@ -66,7 +66,7 @@ signals:
 
 protected:
   void composePicture() override;
-  void continuePicture() override;
+  bool continuePicture() override;
   bool canGoOn() const override { return picture_.canGoOn(); }
   QImage const& picture() const override { return picture_.image(); }
   QRectF placeOfPicture() const override;

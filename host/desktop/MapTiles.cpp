@@ -144,6 +144,7 @@ QRect MapTiles::drawNext(MapFrameElement const& frame) {
   auto number = next();
   if (number && !labels_ && !tiles_[*number].isToBeDrawn()) {
     placeLabels(frame);
+    if (!labels_) return {};
     number = next();
   }
   if (!number) return {};
@@ -167,8 +168,12 @@ SysUtility::_ptr_t<DisplayTransformation> MapTiles::pageOf(MapFrameElement const
 
 void MapTiles::placeLabels(MapFrameElement const& frame) {
   QList<SysUtility::_ptr_t<SysCarto::Element>> placed;
-  labelsWait_ = !drawnWithoutWaiting(frame, [&] { placed = SysCarto::placeLabels(frame, labelsPerInch); });
-  if (labelsWait_) return;
+  bool isPlaced = false;
+  labelsWait_ = !drawnWithoutWaiting(frame, [&] {
+    placed = SysCarto::placeLabels(frame, labelsPerInch);
+    isPlaced = !SysCarto::WithoutWaiting::current()->hasMoreToDo;
+  });
+  if (labelsWait_ || !isPlaced) return;
   labels_ = std::make_shared<SysCarto::ElementContainer>();
   labels_->AddElements(placed);
 }

@@ -32,7 +32,7 @@ public:
   void setShown(QRect const& shownPx);
 
   /// Draws or labels one tile that is shown and not complete, and answers its pixels; a null rectangle where there is
-  /// none. A map that has changed meanwhile is followed first.
+  /// none, or where it took a moment of placing labels instead. A map that has changed meanwhile is followed first.
   QRect drawNext(SysCarto::MapFrameElement const& frame);
   bool isComplete() const { return !next() && !waits(); }
 

@@ -77,13 +77,18 @@ void MapView::paintMap() {
   tiles_.paint(painter, placePx().topLeft());
 }
 
-void MapView::continuePicture() {
+bool MapView::continuePicture() {
   auto const frame = layout_ ? layout_->GetFocusMapFrameElement() : nullptr;
-  if (!frame || !tiles_.canGoOn()) return;
+  if (!frame || !tiles_.canGoOn()) return false;
   QElapsedTimer clock;
   clock.start();
-  while (!tiles_.drawNext(*frame).isNull() && clock.elapsed() < sliceMs) continue;
-  paintMap();
+  bool hasChanged = false;
+  while (!tiles_.drawNext(*frame).isNull()) {
+    hasChanged = true;
+    if (clock.elapsed() >= sliceMs) break;
+  }
+  if (hasChanged) paintMap();
+  return hasChanged;
 }
 
 void MapView::resizeEvent(QResizeEvent*) { refresh(SysCarto::RefreshPhase::Everything); }

@@ -31,7 +31,7 @@ signals:
 
 protected:
   void composePicture() override;
-  void continuePicture() override;
+  bool continuePicture() override;
   bool canGoOn() const override { return tiles_.canGoOn(); }
   QImage const& picture() const override { return picture_; }
   void resizeEvent(QResizeEvent* event) override;

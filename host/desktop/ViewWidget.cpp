@@ -20,9 +20,9 @@ ViewWidget::ViewWidget(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
   connect(&slices_, &QTimer::timeout, this, [this] {
-    continuePicture();
+    bool const hasChanged = continuePicture();
     if (!canGoOn()) slices_.stop();
-    update();
+    if (hasChanged || !slices_.isActive()) update();
   });
   rest_.setSingleShot(true);
   rest_.setInterval(restMs);

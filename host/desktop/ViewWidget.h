@@ -71,8 +71,8 @@ protected:
   /// Makes the picture anew, for the widget's size and its device pixel ratio.
   virtual void composePicture() = 0;
 
-  /// Goes on with a picture that was not complete.
-  virtual void continuePicture() = 0;
+  /// Goes on with a picture that was not complete. Answers whether it looks otherwise now.
+  virtual bool continuePicture() = 0;
 
   /// Whether it can go on now; what waits for features does so once these are there.
   virtual bool canGoOn() const = 0;

@@ -147,6 +147,47 @@ private slots:
     QVERIFY(run({"info", "page.kdx"}, folder_.path()).out.contains("8 × 6 cm"));
   }
 
+  // As plain shapes, whatever placed them. A letter of a text that bends touches the next one.
+  void infoTellsWhereLabelsStand_data() {
+    Rows<int> row;
+    row("world.kdx", 250);
+    row("aegean.kdx", 150);
+  }
+  void infoTellsWhereLabelsStand() {
+    auto const [fewest] = fetched<int>();
+    QString const document = QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/") + QTest::currentDataTag();
+    Outcome const outcome = run({"info", document, "--json", "--labels"}, folder_.path());
+    QCOMPARE(outcome.status, 0);
+    QJsonObject const report = QJsonDocument::fromJson(outcome.out.toUtf8()).object();
+    QRectF frames;
+    for (QJsonValue const& element : report["elements"].toArray()) {
+      QJsonArray const box = element["envelope"].toArray();
+      if (element["type"].toInt() == 11)
+        frames |= QRectF(QPointF(box[0].toDouble(), box[1].toDouble()), QPointF(box[2].toDouble(), box[3].toDouble()));
+    }
+    int placed = 0;
+    for (QJsonValue const& map : report["maps"].toArray()) {
+      QVector<std::pair<int, QPolygonF>> shapes;
+      QJsonArray const shown = map["labels"]["shown"].toArray();
+      for (int label = 0; label < shown.size(); ++label) {
+        QJsonArray const corners = shown[label]["corners"].toArray();
+        QVERIFY(!shown[label]["text"].toString().isEmpty() && !corners.isEmpty() && corners.size() % 4 == 0);
+        for (int i = 0; i < corners.size(); i += 4) {
+          QPolygonF shape;
+          for (int j = i; j < i + 4; ++j) shape << QPointF(corners[j][0].toDouble(), corners[j][1].toDouble());
+          QVERIFY(frames.adjusted(-1e-6, -1e-6, 1e-6, 1e-6).contains(shape.boundingRect()));
+          for (auto const& [other, before] : shapes) {
+            QRectF const common = other == label ? QRectF() : before.intersected(shape).boundingRect();
+            QVERIFY2(std::min(common.width(), common.height()) < 1e-3, qPrintable(shown[label]["text"].toString()));
+          }
+          shapes.append({label, shape});
+        }
+      }
+      placed += map["labels"]["placed"].toInt();
+    }
+    QVERIFY2(placed >= fewest, qPrintable(QString::number(placed)));
+  }
+
   void infoFindsADocumentWithAnUmlautInAnyLocale() {
     QVERIFY(QFile::copy(folder_.path("page.kdx"), folder_.path("Übersicht.kdx")));
     Outcome const outcome = run({"info", "Übersicht.kdx"}, folder_.path(), {{"LC_ALL", "C"}});

@@ -238,7 +238,8 @@ void LabelPlacer::placePinned(int feature, PinnedLabel const& pin) {
   QPointF const named = nearestOf(feature, centre);
   QPointF const end(std::clamp(named.x(), box.xmin, box.xmax), std::clamp(named.y(), box.ymin, box.ymax));
   bool const isFar = std::hypot(named.x() - end.x(), named.y() - end.y()) > farHeights * text.bounds.height();
-  put(text, centre, pin.angle, feature, isFar ? Ring{named, end} : Ring());
+  put(text, centre, pin.angle, feature, isFar ? Ring{named, end} : Ring(), text.text);
+  ++labelCount_;
 }
 
 // Of an area its middle, and the place itself where it lies inside; of a line its nearest place.

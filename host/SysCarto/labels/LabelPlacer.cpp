@@ -116,17 +116,18 @@ std::vector<LabelShape> LabelPlacer::placePinned() {
   return taken;
 }
 
-std::vector<WantedLabel> LabelPlacer::wanted(MarkIndex const& marks, std::function<bool()> const& isCancelled) {
-  std::vector<WantedLabel> wanted;
+void LabelPlacer::begin(MarkIndex const& marks) {
   marks_ = &marks;
-  std::vector<int> const features = candidates();
-  countCells(features);
-  int untilCheck = 0;
-  for (int const feature : features) {
-    if (untilCheck++ % 64 == 0 && isCancelled()) break;
-    if (!pinOf(feature)) addWanted(feature, wanted);
-  }
-  return wanted;
+  features_ = candidates();
+  features_.erase(std::remove_if(features_.begin(), features_.end(), [this](int feature) { return pinOf(feature); }),
+                  features_.end());
+  countCells();
+}
+
+bool LabelPlacer::addNext(std::vector<WantedLabel>& wanted) {
+  if (next_ == features_.size()) return false;
+  addWanted(features_[next_++], wanted);
+  return true;
 }
 
 void LabelPlacer::addWanted(int feature, std::vector<WantedLabel>& wanted) {
@@ -186,10 +187,10 @@ std::pair<int, int> LabelPlacer::cellOf(QPointF const& point) const {
           static_cast<int>(std::floor(point.y() / (cellHeight * size)))};
 }
 
-void LabelPlacer::countCells(std::vector<int> const& features) {
-  for (int const feature : features) {
+void LabelPlacer::countCells() {
+  for (int const feature : features_) {
     bool const isPoint = store_.parts[store_.features[feature].firstPart].kind == PartKind::Point;
-    auto const point = isPoint && !pinOf(feature) ? visiblePoint(feature) : std::nullopt;
+    auto const point = isPoint ? visiblePoint(feature) : std::nullopt;
     if (point) ++cells_[cellOf(*point)].all;
   }
 }
@@ -259,11 +260,15 @@ LabelShape LabelPlacer::shapeOf(LabelText const& text, QPointF const& centre, do
 void LabelPlacer::accept(WantedLabel const& label, LabelWay const& way) {
   if (!label.repeats.isEmpty()) repeated_.insert(label.repeats);
   for (LabelPiece const& piece : way.pieces)
-    put(label.texts[static_cast<size_t>(piece.text)], piece.centre, piece.angle, label.feature, way.leader);
+    put(label.texts[static_cast<size_t>(piece.text)], piece.centre, piece.angle, label.feature, way.leader,
+        label.texts[static_cast<size_t>(way.pieces.size() > 1 ? 0 : piece.text)].text);
+  ++labelCount_;
 }
 
-void LabelPlacer::put(LabelText const& text, QPointF const& centre, double angle, int feature, Ring const& leader) {
-  PlacedLabel placed{text.text, text.symbol, 0, 0, angle, {}, {}, store_.keys[static_cast<size_t>(feature)]};
+void LabelPlacer::put(LabelText const& text, QPointF const& centre, double angle, int feature, Ring const& leader,
+                      QString const& name) {
+  PlacedLabel placed{text.text, text.symbol, 0, 0, angle, {}, {}, store_.keys[static_cast<size_t>(feature)],
+                     name,      labelCount_};
   auto const outline = shapeOf(text, centre, angle, 0).outline();
   for (QPointF const& corner : outline[0]) placed.area << fromPage(corner);
   for (QPointF const& point : leader) placed.leader << fromPage(point);
@@ -288,7 +293,7 @@ void LabelPlacer::leaveOut(WantedLabel const& label) {
   Box const& box = store_.features[feature].box;
   double const x = (std::max(box.xmin, covered_.left()) + std::min(box.xmax, covered_.right())) / 2;
   double const y = (std::max(box.ymin, covered_.top()) + std::min(box.ymax, covered_.bottom())) / 2;
-  unplaced_.push_back({text.text, text.symbol, x, y, 0, {}, {}, store_.keys[feature]});
+  unplaced_.push_back({text.text, text.symbol, x, y, 0, {}, {}, store_.keys[feature], text.text, -1});
 }
 
 }  // namespace SysCarto

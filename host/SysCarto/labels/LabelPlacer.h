@@ -13,7 +13,6 @@
 #include <QHash>
 #include <QSet>
 
-#include <functional>
 #include <map>
 #include <optional>
 
@@ -28,6 +27,8 @@ struct PlacedLabel {
   Ring area;     ///< map units, what the text covers
   Ring leader;   ///< map units, from the text to what it names; empty for none
   QString key;   ///< of the feature
+  QString name;  ///< all of the label, whatever part of it this is
+  int label;     ///< counts the labels of a layer
 };
 
 /// A text with the room it needs.
@@ -94,8 +95,12 @@ public:
   /// The marks of points that are in sight; no label covers more of them than it must.
   void addMarks(MarkIndex::Marks& marks);
 
-  /// Labels with the ways that are free of obstacles, the most important ones first; one without a way finds no room.
-  std::vector<WantedLabel> wanted(MarkIndex const& marks, std::function<bool()> const& isCancelled);
+  /// The marks of all layers, which live as long as this.
+  void begin(MarkIndex const& marks);
+
+  /// Adds the labels of the next feature, the most important one first, with the ways that are free of obstacles; one
+  /// without a way finds no room. Answers whether there was a feature left.
+  bool addNext(std::vector<WantedLabel>& wanted);
 
   void accept(WantedLabel const& label, LabelWay const& way);
 
@@ -141,7 +146,7 @@ private:
   void addWanted(int feature, std::vector<WantedLabel>& wanted);
   void addBesidePoint(WantedLabel label, QPointF const& point, std::vector<WantedLabel>& wanted);
   std::pair<int, int> cellOf(QPointF const& point) const;
-  void countCells(std::vector<int> const& features);
+  void countCells();
   void addBeside(WantedLabel& label, Box const& mark, Cell const& cell) const;
   void addAtPolygon(WantedLabel label, std::vector<WantedLabel>& wanted);
   void addInside(WantedLabel& label, std::vector<PageArea> const& areas) const;
@@ -160,7 +165,8 @@ private:
 
   bool isFree(LabelText const& text, QPointF const& centre, double angle) const;
   void addIfFree(WantedLabel& label, LabelWay way) const;
-  void put(LabelText const& text, QPointF const& centre, double angle, int feature, Ring const& leader);
+  void put(LabelText const& text, QPointF const& centre, double angle, int feature, Ring const& leader,
+           QString const& name);
 
   QPointF toPage(double x, double y) const {
     QPointF const turned = turn_.map(QPointF(x, y));
@@ -188,10 +194,13 @@ private:
   LabelIndex index_;  // of what labels keep clear of
   MarkShapes shapes_;
   MarkIndex const* marks_ = nullptr;  // of all layers
+  std::vector<int> features_;         // to be labelled
+  size_t next_ = 0;                   // of these
   std::optional<qint64> only_;
   QHash<SysDisplay::TextSymbol const*, SysUtility::_ptr_t<SysDisplay::TextSymbol>> centred_;
   std::map<std::pair<int, int>, Cell> cells_;
   std::vector<PlacedLabel> labels_;
+  int labelCount_ = 0;
   QSet<int> placedFeatures_, leftOut_;
   QSet<QString> repeated_;
   std::vector<PlacedLabel> unplaced_;

@@ -15,9 +15,12 @@ constexpr int mostLabels = 20000;
 constexpr std::int64_t mostLooks = 100000000;
 constexpr std::size_t mostConflicts = 12000000;
 
-constexpr int stepsALabel = 150, stepsAtOnce = 20;
+constexpr std::int64_t looksAtOnce = 20000;  // a millisecond or less
 
 }  // namespace
+
+LabelPlan::LabelPlan() : tree_(std::make_unique<BoxTree>()) {}
+LabelPlan::~LabelPlan() = default;
 
 void LabelPlan::add(WantedLabel label, int rank, Room const& room) {
   labels_.push_back({std::move(label), room, search_.candidateCount(), {}});
@@ -56,32 +59,30 @@ LabelWay const* LabelPlan::chosen(int number) const {
   return way < 0 ? nullptr : ways_[static_cast<size_t>(way)].given;
 }
 
-void LabelPlan::place(std::function<bool()> const& isCancelled) {
-  findConflicts(isCancelled);
-  if (isCancelled()) return;
-  search_.begin();
-  for (int steps = stepsALabel; steps > 0 && !isCancelled(); steps -= stepsAtOnce)
-    if (!search_.improve(stepsAtOnce)) break;
-  search_.settle();
+bool LabelPlan::place(std::function<bool()> const& mayGoOn) {
+  for (; next_ < count(); ++next_) {
+    if (!mayGoOn()) return false;
+    findConflicts(next_);
+  }
+  while (search_.goOn(looksAtOnce))
+    if (!mayGoOn()) return false;
+  return true;
 }
 
-// Of labels that lie near each other, each way against each.
-void LabelPlan::findConflicts(std::function<bool()> const& isCancelled) {
-  BoxTree tree;
-  auto const isTooMuch = [this] { return looks_ > mostLooks || search_.conflictCount() > mostConflicts; };
-  for (int number = 0; number < count(); ++number) {
-    Label const& label = labels_[static_cast<size_t>(number)];
-    if (label.wanted.ways.empty()) continue;
-    if (number % 64 == 0 && isCancelled()) return;
-    bool const isLeftOut = isTooMuch() || tree.any(label.box, [&](int other) {
-      findConflicts(labels_[static_cast<size_t>(other)], label);
-      return isTooMuch();
-    });
-    if (isLeftOut)
-      search_.giveUp(number);
-    else
-      tree.insert(label.box, number);
-  }
+bool LabelPlan::isTooMuch() const { return looks_ > mostLooks || search_.conflictCount() > mostConflicts; }
+
+// With those before that lie near, each way against each.
+void LabelPlan::findConflicts(int number) {
+  Label const& label = labels_[static_cast<size_t>(number)];
+  if (label.wanted.ways.empty()) return;
+  bool const isLeftOut = isTooMuch() || tree_->any(label.box, [&](int other) {
+    findConflicts(labels_[static_cast<size_t>(other)], label);
+    return isTooMuch();
+  });
+  if (isLeftOut)
+    search_.giveUp(number);
+  else
+    tree_->insert(label.box, number);
 }
 
 void LabelPlan::findConflicts(Label const& upper, Label const& lower) {
@@ -133,35 +134,53 @@ bool LabelPlan::repeats(Way const& a, Way const& b) const {
   return std::hypot(between.x(), between.y()) < first.room.apart;
 }
 
-void placeLabels(std::vector<LabelPlacer*> const& layers, std::function<bool()> const& isCancelled) {
-  // Wherever a person has put a label, no other one covers it.
-  for (LabelPlacer* const layer : layers)
-    for (LabelShape const& shape : layer->placePinned())
-      for (LabelPlacer* const other : layers) other->addTaken(shape);
-  MarkIndex::Marks given;
-  for (LabelPlacer* const layer : layers) layer->addMarks(given);
-  MarkIndex const marks(given);
-  LabelPlan plan;
-  std::vector<LabelPlacer*> owners;
-  int rank = 0;
-  for (LabelPlacer* const layer : layers) {
-    ++rank;
-    LabelPlan::Room const room{layer->gapPt(), layer->repeatPt(), rank};
-    std::optional<double> before;
-    for (WantedLabel& wanted : layer->wanted(marks, isCancelled)) {
-      double const priority = layer->priority(wanted.feature);
-      rank += before && priority < *before;
-      before = priority;
-      plan.add(std::move(wanted), rank, room);
-      owners.push_back(layer);
-    }
+MapLabelling::MapLabelling(std::vector<LabelPlacer*> layers) : layers_(std::move(layers)) {}
+
+bool MapLabelling::goOn(std::function<bool()> const& mayGoOn) {
+  if (!marks_) begin();
+  while (layer_ < layers_.size()) {
+    if (!mayGoOn()) return false;
+    if (addLabels()) continue;
+    ++layer_;
+    ++rank_;
+    priority_ = std::nullopt;
   }
-  if (isCancelled()) return;
-  plan.place(isCancelled);
-  for (int i = 0; i < plan.count(); ++i)
-    if (auto const* const way = plan.chosen(i)) owners[static_cast<size_t>(i)]->accept(plan.label(i), *way);
-  for (int i = 0; i < plan.count(); ++i)
-    if (!plan.chosen(i)) owners[static_cast<size_t>(i)]->leaveOut(plan.label(i));
+  if (!plan_.place(mayGoOn)) return false;
+  finish();
+  return true;
+}
+
+void MapLabelling::begin() {
+  // Wherever a person has put a label, no other one covers it.
+  for (LabelPlacer* const layer : layers_)
+    for (LabelShape const& shape : layer->placePinned())
+      for (LabelPlacer* const other : layers_) other->addTaken(shape);
+  MarkIndex::Marks marks;
+  for (LabelPlacer* const layer : layers_) layer->addMarks(marks);
+  marks_.emplace(marks);
+  for (LabelPlacer* const layer : layers_) layer->begin(*marks_);
+}
+
+// Those of the next feature of the layer. Answers whether there was one.
+bool MapLabelling::addLabels() {
+  LabelPlacer& layer = *layers_[layer_];
+  std::vector<WantedLabel> wanted;
+  if (!layer.addNext(wanted)) return false;
+  for (WantedLabel& label : wanted) {
+    double const priority = layer.priority(label.feature);
+    rank_ += priority_ && priority < *priority_;
+    priority_ = priority;
+    plan_.add(std::move(label), rank_, {layer.gapPt(), layer.repeatPt(), static_cast<int>(layer_)});
+    owners_.push_back(&layer);
+  }
+  return true;
+}
+
+void MapLabelling::finish() {
+  for (int i = 0; i < plan_.count(); ++i)
+    if (auto const* const way = plan_.chosen(i)) owners_[static_cast<size_t>(i)]->accept(plan_.label(i), *way);
+  for (int i = 0; i < plan_.count(); ++i)
+    if (!plan_.chosen(i)) owners_[static_cast<size_t>(i)]->leaveOut(plan_.label(i));
 }
 
 }  // namespace SysCarto

@@ -8,13 +8,20 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace SysCarto {
 
+class BoxTree;
+
 /// Labels that are placed against each other, all at once.
 class SYSCARTO_EXPORT LabelPlan {
 public:
+  LabelPlan();
+  ~LabelPlan();
+
   /// In points of the page: what is kept free around a label, and how far labels are apart that repeat a text of a
   /// group.
   struct Room {
@@ -25,13 +32,14 @@ public:
   /// In the order of importance. `rank` is the same for equally important ones, and grows.
   void add(WantedLabel label, int rank, Room const& room);
 
-  /// Once, for all that were added.
-  void place(std::function<bool()> const& isCancelled);
+  /// Nothing is added afterwards. Goes on with placing them until that is done, as it answers, or `mayGoOn` says no.
+  /// What comes of it in the end is the same however often that was.
+  bool place(std::function<bool()> const& mayGoOn);
 
   int count() const { return static_cast<int>(labels_.size()); }
   WantedLabel const& label(int number) const { return labels_[static_cast<size_t>(number)].wanted; }
 
-  /// How a label is placed; null where it is not.
+  /// How a label is placed, in the end; null where it is not.
   LabelWay const* chosen(int number) const;
 
 private:
@@ -49,8 +57,9 @@ private:
   };
 
   void addWays(Label& label);
-  void findConflicts(std::function<bool()> const& isCancelled);
+  void findConflicts(int number);
   void findConflicts(Label const& upper, Label const& lower);
+  bool isTooMuch() const;
   bool conflict(Way const& upper, Way const& lower) const;
   static bool meet(std::vector<LabelShape> const& a, std::vector<LabelShape> const& b);
   static bool covers(Way const& way, Box const& box);
@@ -60,12 +69,33 @@ private:
   std::deque<Label> labels_;
   std::vector<Way> ways_;
   LabelSearch search_;
-  int withWays_ = 0;
+  std::unique_ptr<BoxTree> const tree_;  // of the labels whose conflicts are known
+  int withWays_ = 0, next_ = 0;
   std::int64_t looks_ = 0;
 };
 
 /// Places the labels of the layers of a map. Those of a layer that comes before are more important than all of the
-/// next, and in a layer those of a higher priority. They work on one page; what was placed is in them.
-void placeLabels(std::vector<LabelPlacer*> const& layers, std::function<bool()> const& isCancelled);
+/// next, and in a layer those of a higher priority.
+class SYSCARTO_EXPORT MapLabelling {
+public:
+  /// Layers that work on one page, and live as long as this.
+  explicit MapLabelling(std::vector<LabelPlacer*> layers);
+
+  /// Goes on until it is done, as it answers, or `mayGoOn` says no. What was placed is in the layers then.
+  bool goOn(std::function<bool()> const& mayGoOn);
+
+private:
+  void begin();
+  bool addLabels();
+  void finish();
+
+  std::vector<LabelPlacer*> const layers_;
+  std::optional<MarkIndex> marks_;  // once it has begun
+  LabelPlan plan_;
+  std::vector<LabelPlacer*> owners_;  // of the labels of the plan
+  size_t layer_ = 0;                  // whose labels are added
+  int rank_ = 0;
+  std::optional<double> priority_;  // of the label before, of the same layer
+};
 
 }  // namespace SysCarto

@@ -1,6 +1,7 @@
 #include "LabelSearch.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 #include <tuple>
 #include <utility>
@@ -13,8 +14,9 @@ constexpr int longestChain = 8;
 constexpr int bannedSteps = 5, bannedAtRandom = 10;  // until what was placed may be pushed out again
 constexpr int oneIn = 4;                             // of candidates that several have to leave is looked at
 constexpr int sweeps = 8;
-constexpr int patience = 20;                 // steps for each label that may make room, without a gain
-constexpr std::int64_t mostWork = 50000000;  // of looks at what is in the way of something; a fraction of a second
+constexpr int stepsALabel = 160;  // for each label that may make room
+constexpr int patience = 20;      // of these without a gain
+constexpr std::int64_t mostLooks = 50000000;
 
 // Sets of labels that can't be told apart by going from conflict to conflict.
 class Sets {
@@ -49,24 +51,24 @@ void LabelSearch::giveUp(int label) {
   own.last = own.first;
 }
 
-void LabelSearch::begin() {
-  link();
-  for (int label = 0; label < labelCount(); ++label) {
-    Label& own = labels_[static_cast<size_t>(label)];
-    if (own.first == own.last) continue;
-    own.place = static_cast<int>(waiting_.size());
-    waiting_.push_back(label);
-    int best = -1;
-    for (int one = own.first; one < own.last; ++one)
-      if (candidates_[one].hits == 0 && (best < 0 || candidates_[one].cost < candidates_[best].cost)) best = one;
-    if (best >= 0) choose(label, best);
+LabelSearch::Stage const LabelSearch::stages[] = {&LabelSearch::link,        &LabelSearch::takeFree,
+                                                  &LabelSearch::improve,     &LabelSearch::insertNext,
+                                                  &LabelSearch::cheapenNext, &LabelSearch::insertNext};
+
+bool LabelSearch::goOn(std::int64_t looks) {
+  std::int64_t const most = looks_ + looks;
+  for (; stage_ < std::size(stages); ++stage_) {
+    while ((this->*stages[stage_])())
+      if (++looks_ >= most) return true;
+    left_.clear();
+    sweep_ = 0;
+    looksBefore_ = looks_;
   }
-  freed_.clear();
-  findActive();
+  return false;
 }
 
 // Each knows what is in its way, as a stretch of one list.
-void LabelSearch::link() {
+bool LabelSearch::link() {
   for (auto const& [a, b] : conflicts_) ++candidates_[a].last, ++candidates_[b].last;
   int next = 0;
   for (Candidate& one : candidates_) {
@@ -79,6 +81,37 @@ void LabelSearch::link() {
     neighbours_[candidates_[b].last++] = a;
   }
   conflicts_ = {};
+  return false;
+}
+
+// A sweep goes through all labels in their order.
+bool LabelSearch::beginSweep() {
+  if (sweep_ == sweeps || (sweep_ > 0 && !isBetter_)) return false;
+  ++sweep_;
+  isBetter_ = false;
+  left_.resize(labels_.size());
+  std::iota(left_.rbegin(), left_.rend(), 0);
+  return !left_.empty();
+}
+
+// What was done before there was a search: for each label in turn the cheapest candidate that is free.
+bool LabelSearch::takeFree() {
+  if (left_.empty() && (sweep_ > 0 || !beginSweep())) {
+    freed_.clear();
+    findActive();
+    return false;
+  }
+  int const label = left_.back();
+  left_.pop_back();
+  Label& own = labels_[label];
+  if (own.first == own.last) return true;
+  own.place = static_cast<int>(waiting_.size());
+  waiting_.push_back(label);
+  int best = -1;
+  for (int one = own.first; one < own.last; ++one)
+    if (candidates_[one].hits == 0 && (best < 0 || candidates_[one].cost < candidates_[best].cost)) best = one;
+  if (best >= 0) choose(label, best);
+  return true;
 }
 
 void LabelSearch::findActive() {
@@ -94,7 +127,7 @@ void LabelSearch::findActive() {
 void LabelSearch::choose(int label, int candidate) {
   Label& own = labels_[label];
   for (int const one : {own.chosen, candidate})
-    if (one >= 0) work_ += candidates_[one].last - candidates_[one].first;
+    if (one >= 0) looks_ += candidates_[one].last - candidates_[one].first;
   if (own.chosen >= 0) {
     Candidate const& left = candidates_[own.chosen];
     for (int i = left.first; i < left.last; ++i) {
@@ -145,7 +178,7 @@ LabelSearch::Move LabelSearch::moveOf(int candidate, int root) {
   if (own.hits == 1) {
     isPossible = push(labels_[own.hitters]);
   } else {
-    work_ += own.last - own.first;
+    looks_ += own.last - own.first;
     for (int i = own.first; i < own.last && isPossible; ++i)
       if (Label const& label = labels_[labelOf(neighbours_[i])]; label.chosen == neighbours_[i])
         isPossible = push(label);
@@ -235,50 +268,46 @@ void LabelSearch::stir() {
   if (own.chosen >= 0 && candidate != own.chosen && candidates_[candidate].hits == 0) choose(label, candidate);
 }
 
-bool LabelSearch::improve(int stepsALabel) {
+bool LabelSearch::improve() {
   int const active = static_cast<int>(active_.size());
-  for (int i = 0; i < stepsALabel * active && !waiting_.empty(); ++i) {
-    if (++step_ - lastGain_ > patience * active || work_ > mostWork) return false;
-    size_t const waited = waiting_.size();
-    if (step_ % 2 == 0)
-      stir();
-    else
-      insert(waiting_[below(static_cast<int>(waited))]);
-    takeFreed();
-    if (waiting_.size() < waited) lastGain_ = step_;
-  }
-  return !waiting_.empty() && active > 0;
+  bool const isWorthIt =
+      !waiting_.empty() && step_ < stepsALabel * active && step_ - lastGain_ < patience * active && looks_ <= mostLooks;
+  if (!isWorthIt) return false;
+  ++step_;
+  size_t const waited = waiting_.size();
+  if (step_ % 2 == 0)
+    stir();
+  else
+    insert(waiting_[below(static_cast<int>(waited))]);
+  takeFreed();
+  if (waiting_.size() < waited) lastGain_ = step_;
+  return true;
 }
 
-// Until no label waits for whose sake only less important ones would have to go, as far as the work is bearable.
-void LabelSearch::insertAll() {
-  std::int64_t const most = work_ + mostWork / 2;
-  for (int sweep = 0; sweep < sweeps; ++sweep) {
-    std::vector<int> left = waiting_;
-    std::sort(left.begin(), left.end());
-    int const before = lastGain_;
-    size_t const waited = waiting_.size();
-    for (int const label : left) {
-      if (labels_[label].chosen >= 0) continue;
-      if (work_ > most) return;
-      ++step_;
-      insert(label);
-      takeFreed();
-    }
-    if (lastGain_ == before && waiting_.size() == waited) return;
-  }
+// Until no label waits for whose sake only less important ones would have to go, as far as that is bearable.
+bool LabelSearch::insertNext() {
+  if (left_.empty() && !beginSweep()) return false;
+  int const label = left_.back();
+  left_.pop_back();
+  if (labels_[label].place < 0 || labels_[label].chosen >= 0) return true;
+  if (looks_ - looksBefore_ > mostLooks / 2) return false;
+  size_t const waited = waiting_.size();
+  ++step_;
+  insert(label);
+  takeFreed();
+  isBetter_ |= lastGain_ == step_ || waiting_.size() < waited;
+  return true;
 }
 
-void LabelSearch::settle() {
-  insertAll();
-  for (int sweep = 0; sweep < sweeps; ++sweep) {
-    bool isBetter = false;
-    for (int label = 0; label < labelCount(); ++label)
-      if (labels_[label].chosen >= 0) isBetter |= makeCheaper(label);
+bool LabelSearch::cheapenNext() {
+  if (left_.empty()) {
     takeFreed();
-    if (!isBetter) break;
+    if (!beginSweep()) return false;
   }
-  insertAll();
+  int const label = left_.back();
+  left_.pop_back();
+  if (labels_[label].chosen >= 0) isBetter_ |= makeCheaper(label);
+  return true;
 }
 
 bool LabelSearch::makeCheaper(int label) {

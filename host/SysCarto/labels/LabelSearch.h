@@ -32,15 +32,9 @@ public:
   /// A label that finds no place, whatever is known of its conflicts.
   void giveUp(int label);
 
-  /// Nothing is added afterwards. Takes in turn for each label the cheapest candidate that is free.
-  void begin();
-
-  /// Looks for better, in so many steps for each label that may make room for another. Answers whether it is worth to
-  /// go on.
-  bool improve(int stepsALabel);
-
-  /// Takes cheaper candidates where they are free.
-  void settle();
+  /// Nothing is added afterwards. Goes on towards better, for about so many looks at what is in the way of something,
+  /// and answers whether there is more to do. What comes of it in the end is the same however it is divided.
+  bool goOn(std::int64_t looks);
 
   /// The candidate of a label, or −1.
   int chosen(int label) const { return labels_[static_cast<size_t>(label)].chosen; }
@@ -71,8 +65,18 @@ private:
   };
 
   int below(int count) { return static_cast<int>(chance_() % static_cast<unsigned>(count)); }
-  void link();
+
+  // Each does one step of a stage, and answers whether that has another.
+  using Stage = bool (LabelSearch::*)();
+  static Stage const stages[];
+  bool link();
+  bool takeFree();
+  bool improve();
+  bool insertNext();
+  bool cheapenNext();
+
   void findActive();
+  bool beginSweep();
   void choose(int label, int candidate);
   void set(int label, int candidate);
   void goBack();
@@ -80,7 +84,6 @@ private:
   Move moveOf(int candidate, int root);
   bool pushOut(int candidate, int rank);
   void insert(int root);
-  void insertAll();
   void takeFreed();
   void stir();
   bool makeCheaper(int label);
@@ -97,7 +100,14 @@ private:
   std::vector<std::pair<int, int>> done_;  // labels and what they had before, to go back
   std::minstd_rand chance_;
   int step_ = 0, lastGain_ = 0;
-  std::int64_t work_ = 0;
+  std::int64_t looks_ = 0;
+
+  // Where it is.
+  std::size_t stage_ = 0;
+  std::vector<int> left_;  // labels of the sweep that is under way, the first one last
+  int sweep_ = 0;
+  bool isBetter_ = false;  // by that sweep
+  std::int64_t looksBefore_ = 0;
 };
 
 }  // namespace SysCarto

@@ -11,6 +11,8 @@ namespace SysCarto {
 
 namespace {
 
+constexpr int momentMs = 8;  // about half of the time between two pictures of a screen
+
 thread_local WithoutWaiting* ofThread = nullptr;
 
 std::vector<ReadingListener const*>& listeners() {
@@ -20,7 +22,7 @@ std::vector<ReadingListener const*>& listeners() {
 
 }  // namespace
 
-WithoutWaiting::WithoutWaiting() : around_(std::exchange(ofThread, this)) {}
+WithoutWaiting::WithoutWaiting() : around_(std::exchange(ofThread, this)), clock_(momentMs, Qt::PreciseTimer) {}
 WithoutWaiting::~WithoutWaiting() { ofThread = around_; }
 WithoutWaiting* WithoutWaiting::current() { return ofThread; }
 

@@ -4,6 +4,8 @@
 
 #include <SysCarto/Export.h>
 
+#include <QDeadlineTimer>
+
 #include <functional>
 #include <optional>
 
@@ -11,7 +13,7 @@ namespace SysCarto {
 
 /// While one lives, layers that are drawn, labelled or asked on this thread don't wait for features that have to be
 /// read first. Other threads read these, what is there is drawn, and `ReadingListener` tells of more: for pictures that
-/// are drawn again then.
+/// are drawn again then. Placing labels goes on for a moment whenever it is asked for.
 class SYSCARTO_EXPORT WithoutWaiting {
 public:
   WithoutWaiting();
@@ -28,8 +30,15 @@ public:
   /// Whether something was missing.
   bool isIncomplete = false;
 
+  /// Whether labels are not placed yet, and asking for them again goes on with that.
+  bool hasMoreToDo = false;
+
+  /// Whether the moment is over.
+  bool isTimeUp() const { return clock_.hasExpired(); }
+
 private:
   WithoutWaiting* const around_;
+  QDeadlineTimer const clock_;
 };
 
 /// Calls a function, on the thread of the user interface, when features begin to be read that nobody waits for, and

@@ -3,6 +3,7 @@
 #include "host/SysCarto/maps/LabelOrder.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/VectorLayer.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 #include "host/SysDisplay/VectorCanvas.h"
 
 #include <SysCarto/FeatureLayer.h>
@@ -139,6 +140,16 @@ void drawOnFrame(QPainter& painter, MapFrameElement const& frame, DisplayTransfo
   painter.translate(framePx.topLeft());
   draw(*mapped);
   painter.restore();
+}
+
+QTransform mapToPage(MapFrameElement const& frame) {
+  auto const transformation = frame.GetMap()->GetDisplayTransformation();
+  auto const shown = transformation->GetFittedBounds();
+  auto const place = frame.GetEnvelope();
+  double const scale = place->GetWidth() / shown->GetWidth();
+  QTransform const onPage(scale, 0, 0, scale, place->GetXMin() - shown->GetXMin() * scale,
+                          place->GetYMin() - shown->GetYMin() * scale);
+  return SysDisplay::DisplayTransformationHost::turn(*transformation) * onPage;
 }
 
 QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi, _ptr_t<TrackerCancel> const& cancel) {

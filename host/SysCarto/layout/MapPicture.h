@@ -4,6 +4,7 @@
 #include <SysCarto/MapFrameElement.h>
 
 #include <QImage>
+#include <QTransform>
 
 #include <functional>
 
@@ -43,6 +44,9 @@ SYSCARTO_EXPORT MapPixels mapPixels(MapFrameElement const& frame,
 SYSCARTO_EXPORT void drawOnFrame(QPainter& painter, MapFrameElement const& frame,
                                  SysDisplay::DisplayTransformation const& transformation,
                                  std::function<void(SysDisplay::DisplayTransformation const&)> const& draw);
+
+/// From the units of a data frame's map to centimetres of the page.
+SYSCARTO_EXPORT QTransform mapToPage(MapFrameElement const& frame);
 
 /// The labels of a data frame's map, as an export at that resolution places them, and where views of the map are to
 /// show them, those that found no place. No container holds them.

@@ -8,13 +8,18 @@
 #include "host/SysCarto/labels/LabelPlan.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layers/WithoutWaiting.h"
+#include "host/SysDisplay/DisplayTransformationHost.h"
 
 #include <SysDisplay/SimpleLineSymbol.h>
 
 #include <QHash>
 
 #include <deque>
+#include <functional>
 #include <map>
+#include <memory>
+#include <optional>
+#include <utility>
 
 namespace SysCarto {
 
@@ -60,13 +65,96 @@ struct VectorLayer::Placement {
   std::vector<PlacedLabel> labels, unplaced;
 };
 
-// Labels of layers that are asked for theirs in turn: each finds of the obstacles that it is given whether it is its
-// turn.
-struct VectorLayer::PlannedLabels {
-  _ptr_t<DisplayTransformation> transformation;
-  Obstacles next;
-  std::map<VectorLayer const*, Placement> parts;
+// All that decides what comes of it. Each layer finds of the obstacles that it is given whether it is its turn.
+struct VectorLayer::LabelQuestion {
+  DisplayTransformationHost::OnPage page;
+  QTransform turn;
+  double mapScale;
+  QList<quint64> looks;  // of all layers of the map
+  Obstacles obstacles;
+
+  bool operator==(LabelQuestion const& other) const {
+    return page.bounds == other.page.bounds && page.unitsPerPoint == other.page.unitsPerPoint && turn == other.turn &&
+           mapScale == other.mapScale && looks == other.looks && obstacles == other.obstacles;
+  }
 };
+
+// The labels of layers that are asked for theirs in turn, as they are placed, and then handed out.
+struct VectorLayer::PlannedLabels {
+  // What is labelled, or in the way of labels, as it was when this began.
+  struct Shown {
+    std::shared_ptr<FeatureStore const> features;
+    std::shared_ptr<Renderer const> renderer;
+  };
+  struct Obstacle {
+    Shown shown;
+    LabelObstacle kind;
+  };
+  struct Labelled {
+    VectorLayer const* layer;
+    Shown shown;
+    LabelSettings settings;
+    std::optional<qint64> only;
+    std::vector<Obstacle> others;
+    std::unique_ptr<LabelPlacer> placer = {};
+  };
+
+  LabelQuestion question;
+  _ptr_t<DisplayTransformation> transformation;
+  std::deque<Labelled> layers;
+  size_t prepared = 0;  // of these
+  std::optional<MapLabelling> labelling;
+  bool isUnderWay = false;  // who cancels may run events, and these ask, too
+  bool isDone = false;
+  std::map<VectorLayer const*, Placement> parts;  // then
+
+  bool isOf(VectorLayer const& layer, LabelQuestion const& asked) const {
+    return !isUnderWay && (!isDone || parts.count(&layer) > 0) && question == asked;
+  }
+  void goOn(std::function<bool()> const& mayGoOn);
+  bool place(std::function<bool()> const& mayGoOn);
+  void prepare(Labelled& layer) const;
+};
+
+void VectorLayer::PlannedLabels::prepare(Labelled& layer) const {
+  Shown const& shown = layer.shown;
+  if (!shown.features || !shown.features->keepsLabels || shown.features->size() == 0) return;
+  layer.placer = std::make_unique<LabelPlacer>(*shown.features, layer.settings, *shown.renderer, *transformation);
+  if (!layer.placer->isUsable()) return layer.placer.reset();
+  if (layer.only) layer.placer->keepOnly(*layer.only);
+  for (auto const& list : question.obstacles)
+    for (_ptr_t<Polygon> const& obstacle : list)
+      if (obstacle) layer.placer->addObstacle(*obstacle);
+  for (auto const& [other, kind] : layer.others) layer.placer->addObstacles(*other.features, *other.renderer, kind);
+}
+
+bool VectorLayer::PlannedLabels::place(std::function<bool()> const& mayGoOn) {
+  for (; prepared < layers.size(); ++prepared) {
+    if (!mayGoOn()) return false;
+    prepare(layers[prepared]);
+  }
+  if (!labelling) {
+    std::vector<LabelPlacer*> placers;
+    for (Labelled& layer : layers)
+      if (layer.placer) placers.push_back(layer.placer.get());
+    labelling.emplace(placers);
+  }
+  return labelling->goOn(mayGoOn);
+}
+
+void VectorLayer::PlannedLabels::goOn(std::function<bool()> const& mayGoOn) {
+  if (isDone) return;
+  isUnderWay = true;
+  isDone = place(mayGoOn);
+  isUnderWay = false;
+  if (!isDone) return;
+  for (Labelled const& labelled : layers) {
+    Placement& part = parts[labelled.layer];
+    if (auto const& placer = labelled.placer) part = {placer->placedCount(), placer->labels(), placer->unplaced()};
+  }
+  labelling.reset();
+  layers.clear();
+}
 
 LabelCount VectorLayer::labelCount() const {
   return {placedLabels_ + static_cast<int>(unplaced_.size()), placedLabels_};
@@ -87,19 +175,6 @@ QList<_ptr_t<Element>> VectorLayer::unplacedLabels() const {
   return labels;
 }
 
-VectorLayer::Others VectorLayer::obstaclesIn(DisplayTransformation const& transformation,
-                                             _ptr_t<TrackerCancel> const& cancel) const {
-  Others others;
-  for (Layer const* const fellow : LayerHost::fellows(*this)) {
-    auto const* const layer = dynamic_cast<VectorLayer const*>(fellow);
-    bool const isNoObstacle = !layer || layer == this || layer->obstacle_ == LabelObstacle::None ||
-                              !layer->showsAt(transformation.GetMapScale());
-    if (isNoObstacle) continue;
-    if (auto features = layer->shownBy(transformation, cancel)) others.emplace_back(layer, std::move(features));
-  }
-  return others;
-}
-
 // Those whose turn comes after this one, and itself.
 std::vector<VectorLayer*> VectorLayer::labelledFrom(double mapScale) {
   QList<VectorLayer*> layers;
@@ -111,59 +186,67 @@ std::vector<VectorLayer*> VectorLayer::labelledFrom(double mapScale) {
   return {ordered.begin() + own, ordered.end()};
 }
 
-// All at once, or nothing where features are missing that a view doesn't wait for.
-void VectorLayer::planLabels(Obstacles const& obstacles, _ptr_t<DisplayTransformation> const& transformation,
-                             _ptr_t<TrackerCancel> const& cancel) {
-  struct Given {
-    VectorLayer* layer;
-    std::shared_ptr<FeatureStore const> store;
-    Others others;
-  };
+// Nothing where features are missing that a view doesn't wait for.
+std::shared_ptr<VectorLayer::PlannedLabels> VectorLayer::planLabels(LabelQuestion const& question,
+                                                                    _ptr_t<DisplayTransformation> const& transformation,
+                                                                    _ptr_t<TrackerCancel> const& cancel) {
   auto const* const meanwhile = WithoutWaiting::current();
-  std::vector<Given> all;
-  for (VectorLayer* const layer : labelledFrom(transformation->GetMapScale())) {
-    auto store = layer->shownBy(*transformation, cancel);
-    auto others = store ? layer->obstaclesIn(*transformation, cancel) : Others();
-    if (meanwhile && meanwhile->isIncomplete) return;
-    all.push_back({layer, std::move(store), std::move(others)});
-  }
-
-  std::deque<LabelPlacer> placers;
-  std::vector<std::pair<VectorLayer*, LabelPlacer*>> placed;
-  auto const planned = std::make_shared<PlannedLabels>();
-  planned->transformation = transformation;
-  planned->next = obstacles;
-  for (auto const& [layer, store, others] : all) {
-    layer->planned_ = planned;
-    planned->parts[layer];
-    if (!store || !store->keepsLabels || store->size() == 0) continue;
-    LabelPlacer& placer = placers.emplace_back(*store, layer->labels_, *layer->renderer_, *transformation);
-    if (!placer.isUsable()) {
-      placers.pop_back();
-      continue;
+  auto planned = std::make_shared<PlannedLabels>();
+  planned->question = question;
+  planned->transformation = transformation->Clone();
+  auto const shownOf = [&](VectorLayer const& layer) {
+    return PlannedLabels::Shown{layer.shownBy(*transformation, cancel), layer.renderer_};
+  };
+  std::vector<VectorLayer*> const layers = labelledFrom(question.mapScale);
+  for (VectorLayer const* const layer : layers) {
+    PlannedLabels::Labelled labelled{layer, shownOf(*layer), layer->labels_, {}, {}};
+    if (layer->spotlight_ && layer->spotlight_->hidesOthers) labelled.only = layer->spotlight_->feature;
+    for (Layer const* const fellow : LayerHost::fellows(*layer)) {
+      auto const* const other = dynamic_cast<VectorLayer const*>(fellow);
+      bool const isNoObstacle =
+          !other || other == layer || other->obstacle_ == LabelObstacle::None || !other->showsAt(question.mapScale);
+      if (isNoObstacle) continue;
+      if (auto const shown = shownOf(*other); shown.features) labelled.others.push_back({shown, other->obstacle_});
     }
-    if (layer->spotlight_ && layer->spotlight_->hidesOthers) placer.keepOnly(layer->spotlight_->feature);
-    for (auto const& list : obstacles)
-      for (_ptr_t<Polygon> const& obstacle : list)
-        if (obstacle) placer.addObstacle(*obstacle);
-    for (auto const& [other, features] : others) placer.addObstacles(*features, *other->renderer_, other->obstacle_);
-    placed.emplace_back(layer, &placer);
+    if (meanwhile && meanwhile->isIncomplete) return nullptr;
+    planned->layers.push_back(std::move(labelled));
   }
-  std::vector<LabelPlacer*> working;
-  for (LabelPlacer& placer : placers) working.push_back(&placer);
-  placeLabels(working, [&] { return cancel && cancel->IsCanced(); });
-  for (auto const& [layer, placer] : placed)
-    planned->parts[layer] = {placer->placedCount(), placer->labels(), placer->unplaced()};
+  for (VectorLayer* const layer : layers) layer->planned_ = planned;
+  return planned;
+}
+
+// Null where they are not all placed yet.
+std::shared_ptr<VectorLayer::PlannedLabels> VectorLayer::placeLabels(
+    Obstacles const& obstacles, _ptr_t<DisplayTransformation> const& transformation,
+    _ptr_t<TrackerCancel> const& cancel) {
+  auto* const meanwhile = WithoutWaiting::current();
+  if (meanwhile && meanwhile->hasMoreToDo) return nullptr;
+  LabelQuestion question{DisplayTransformationHost::onPage(*transformation),
+                         DisplayTransformationHost::turn(*transformation),
+                         transformation->GetMapScale(),
+                         {},
+                         obstacles};
+  if (LayerHost::fellows(*this).isEmpty()) question.looks << LayerHost::look(*this);
+  for (Layer const* const fellow : LayerHost::fellows(*this)) question.looks << LayerHost::look(*fellow);
+  auto planned = planned_;
+  if (!planned || !planned->isOf(*this, question)) planned = planLabels(question, transformation, cancel);
+  if (!planned) return nullptr;
+  bool isFirst = true;  // on a machine that is busy a moment may be over before anything was done
+  planned->goOn([&] {
+    if (meanwhile) return std::exchange(isFirst, false) || !meanwhile->isTimeUp();
+    return !(cancel && cancel->IsCanced());
+  });
+  if (planned->isDone) return planned;
+  if (meanwhile) meanwhile->hasMoreToDo = true;
+  return nullptr;
 }
 
 void VectorLayer::GetAnnotationElements(Obstacles& obstacles, QList<_ptr_t<Element>>& labels,
                                         _ptr_t<DisplayTransformation> const& transformation,
                                         _ptr_t<TrackerCancel> cancel) {
-  bool const isItsTurn = planned_ && planned_->transformation == transformation && planned_->next == obstacles;
-  if (!isItsTurn) planned_ = nullptr;
-  if (!planned_ && transformation) planLabels(obstacles, transformation, cancel);
-  auto const planned = std::exchange(planned_, nullptr);
-  if (!planned && transformation) return;
+  auto const planned = transformation ? placeLabels(obstacles, transformation, cancel) : nullptr;
+  if (transformation && !planned) return;
+  planned_ = nullptr;
   Placement own = planned ? std::move(planned->parts[this]) : Placement();
   placedLabels_ = own.count;
   placed_ = std::move(own.labels);
@@ -178,7 +261,7 @@ void VectorLayer::GetAnnotationElements(Obstacles& obstacles, QList<_ptr_t<Eleme
     labels << elementOf(label, label.symbol);
     taken << make<Polygon>(QVector<QVector<QPointF>>{label.area});
   }
-  planned->next = obstacles;
+  planned->question.obstacles = obstacles;
 }
 
 }  // namespace SysCarto

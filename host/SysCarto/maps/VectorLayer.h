@@ -153,15 +153,17 @@ private:
                                             SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
   std::shared_ptr<FeatureStore const> shownBy(SysDisplay::DisplayTransformation const& transformation,
                                               SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
-  using Others = std::vector<std::pair<VectorLayer const*, std::shared_ptr<FeatureStore const>>>;
-  Others obstaclesIn(SysDisplay::DisplayTransformation const& transformation,
-                     SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
   struct Placement;
   struct PlannedLabels;
   std::vector<VectorLayer*> labelledFrom(double mapScale);
-  void planLabels(QMap<int, QList<SysUtility::_ptr_t<SysGeometry::Polygon>>> const& obstacles,
-                  SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
-                  SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
+  std::shared_ptr<PlannedLabels> placeLabels(
+      QMap<int, QList<SysUtility::_ptr_t<SysGeometry::Polygon>>> const& obstacles,
+      SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+      SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
+  struct LabelQuestion;
+  std::shared_ptr<PlannedLabels> planLabels(LabelQuestion const& question,
+                                            SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+                                            SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
   QVector<bool> classesWithin(
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   QVector<bool> findClassesWithin(SysDisplay::DisplayTransformation const& transformation, Box const& shown) const;

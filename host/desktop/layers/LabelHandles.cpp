@@ -3,7 +3,7 @@
 #include "PinnedLabels.h"
 
 #include "host/SysCarto/labels/LabelPlacer.h"
-#include "host/SysDisplay/DisplayTransformationHost.h"
+#include "host/SysCarto/layout/MapPicture.h"
 #include "host/desktop/drawing/VertexHandles.h"
 
 #include <SysCarto/Map.h>
@@ -20,17 +20,6 @@ using SysUtility::_ptr_t;
 namespace {
 
 QColor const colour(0x1a, 0x73, 0xe8);
-
-// From the units of the frame's map.
-QTransform toPageOf(MapFrameElement const& frame) {
-  auto const transformation = frame.GetMap()->GetDisplayTransformation();
-  auto const shown = transformation->GetFittedBounds();
-  auto const place = frame.GetEnvelope();
-  double const scale = place->GetWidth() / shown->GetWidth();
-  QTransform const onPage(scale, 0, 0, scale, place->GetXMin() - shown->GetXMin() * scale,
-                          place->GetYMin() - shown->GetYMin() * scale);
-  return SysDisplay::DisplayTransformationHost::turn(*transformation) * onPage;
-}
 
 // Of the first edge of a rectangle, which runs along its text.
 double angleOf(QPolygonF const& shape) {
@@ -50,7 +39,7 @@ QPointF ShownLabel::middle() const {
 }
 
 LabelHandles::LabelHandles(PageLayout const& layout, _ptr_t<MapFrameElement> const& frame)
-    : frame_(frame), toPixels_(layout.GetDisplayTransformation()->ToDevice()), toPage_(toPageOf(*frame)) {
+    : frame_(frame), toPixels_(layout.GetDisplayTransformation()->ToDevice()), toPage_(SysCarto::mapToPage(*frame)) {
   double const scale = frame->GetMap()->scale();
   for (auto const& one : frame->GetMap()->GetLayers()) {
     auto const layer = SysUtility::ptr_cast<SysCarto::VectorLayer>(one);
