@@ -45,6 +45,14 @@ function(plotvane_host_library name)
   install(TARGETS ${name} EXPORT PlotvaneSdk LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/plotvane)
 endfunction()
 
+# With sanitizers these take half a minute each, or several: pixels that are compared, documents made to be slow, the
+# executable's exports, a window, all systems of coordinates, every row of every sheet and of the schema. They have the
+# label "slow"; what the target plotvane_quick_tests builds is what `ctest --label-exclude slow` runs.
+set(plotvane_slow_tests CoordinateSystemsTest ExportTest LabelTest LayerDrawTest ProjectionTest TilingTest tst_exact_undo
+  tst_export_subcommand tst_labels_by_hand tst_layer_tools tst_print tst_properties tst_rebuilt_samples tst_schema
+  tst_sequences tst_torture tst_vector_files tst_view tst_window tst_window_files)
+add_custom_target(plotvane_quick_tests)
+
 # plotvane_test(Name LINKS [libraries…])
 # One Qt Test executable out of Name.cpp in the current folder, run on the offscreen platform in a fixed locale.
 function(plotvane_test name)
@@ -61,6 +69,11 @@ function(plotvane_test name)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;TZ=UTC;QT_SCALE_FACTOR=1;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 600)
+  if(name IN_LIST plotvane_slow_tests)
+    set_tests_properties(${name} PROPERTIES LABELS slow)
+  else()
+    add_dependencies(plotvane_quick_tests ${name})
+  endif()
 endfunction()
 
 set(plotvane_languages de zh_CN)
