@@ -6332,6 +6332,26 @@
         <source>A numeric attribute: no label of a feature with a higher number is given up for others; without one, all count alike.</source>
         <translation>Ein Zahlenattribut: Keine Beschriftung eines Objekts mit einer höheren Zahl wird für andere aufgegeben; ohne es zählen alle gleich.</translation>
     </message>
+    <message>
+        <source>Level</source>
+        <translation>Waagrecht</translation>
+    </message>
+    <message>
+        <source>Along the area</source>
+        <translation>Der Fläche nach</translation>
+    </message>
+    <message>
+        <source>Spread over the area</source>
+        <translation>Über die Fläche gesperrt</translation>
+    </message>
+    <message>
+        <source>In areas</source>
+        <translation>In Flächen</translation>
+    </message>
+    <message>
+        <source>How a label lies in its area: level, along the area&apos;s length, or along it with its letters as far apart as tells how far the area reaches. Where the area holds no such label, it lies level.</source>
+        <translation>Wie eine Beschriftung in ihrer Fläche liegt: waagrecht, der Länge der Fläche nach, oder dieser nach mit so weit gesperrten Buchstaben, dass man sieht, wie weit die Fläche reicht. Wo die Fläche keine solche fasst, liegt sie waagrecht.</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>

@@ -6332,6 +6332,26 @@
         <source>A numeric attribute: no label of a feature with a higher number is given up for others; without one, all count alike.</source>
         <translation>数值属性：数值较大的要素的标注不会为其他标注让出；没有时所有标注同等重要。</translation>
     </message>
+    <message>
+        <source>Level</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>Along the area</source>
+        <translation>沿面的走向</translation>
+    </message>
+    <message>
+        <source>Spread over the area</source>
+        <translation>在面内分散排列</translation>
+    </message>
+    <message>
+        <source>In areas</source>
+        <translation>在面内</translation>
+    </message>
+    <message>
+        <source>How a label lies in its area: level, along the area&apos;s length, or along it with its letters as far apart as tells how far the area reaches. Where the area holds no such label, it lies level.</source>
+        <translation>标注在其面内的排列方式：水平、沿面的长轴，或沿长轴并拉开字距以显示该面的范围。面内放不下这样的标注时，则水平排列。</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>

@@ -1,3 +1,4 @@
+#include "AreaSpine.h"
 #include "LabelPlacer.h"
 
 #include "host/SysDisplay/TextWrap.h"
@@ -22,8 +23,10 @@ constexpr int directions = 16;  // around an area
 constexpr int distances = 12;   // beyond it, half a text's height each
 constexpr int maxSteps = 40;
 constexpr size_t maxOutside = 32, maxAlong = 24;
-constexpr size_t maxPlaces = 8;  // in an area
-constexpr double otherAreaCost = 2, acrossCost = 4, outsideCost = 10;
+constexpr size_t maxPlaces = 8, maxBows = 3;                  // in an area, and along it with the same gaps
+constexpr double spreadShares[] = {0.8, 0.65, 0.5, 0.35, 0};  // of an area's length
+constexpr double widestGap = 1.5;                             // between letters, in their heights
+constexpr double otherAreaCost = 2, levelCost = 2, acrossCost = 4, outsideCost = 10;
 constexpr double leastWithin = 0.3;  // of a text that reaches beyond its area
 constexpr double finePt = 0.5;
 constexpr double farHeights = 2;  // from which a pinned label has a leader
@@ -39,6 +42,14 @@ double shareWithin(Rings const& rings, QPointF const& centre, double width, doub
       within += SysGeometry::contains(rings, centre.x() + width * ((column + 0.5) / columns - 0.5),
                                       centre.y() + height * ((row + 0.5) / rows - 0.5));
   return static_cast<double>(within) / (columns * rows);
+}
+
+bool isInside(Rings const& rings, LabelShape const& shape) {
+  return SysGeometry::contains(rings, (shape.box.xmin + shape.box.xmax) / 2, (shape.box.ymin + shape.box.ymax) / 2) &&
+         !SysGeometry::anyEdge(shape.outline(), [&](QPointF const& a, QPointF const& b) {
+           return SysGeometry::anyEdge(
+               rings, [&](QPointF const& p, QPointF const& q) { return SysGeometry::segmentsMeet(a, b, p, q); });
+         });
 }
 
 double widthOf(Box const& box) { return box.isEmpty() ? 0 : box.xmax - box.xmin; }
@@ -70,7 +81,9 @@ void LabelPlacer::addAtPolygon(WantedLabel label, std::vector<WantedLabel>& want
               areas.end());
   if (areas.empty() || widthOf(SysGeometry::boxOf(areas[0].rings)) * cmPerPoint < settings_.minSizeCm) return;
   addInside(label, areas);
-  if (settings_.areaPlace == AreaPlace::Across) addAcross(label, areas[0]);
+  size_t const lines = label.texts.size();
+  if (settings_.areaText != AreaText::Level) addAlongArea(label, areas[0]);
+  if (settings_.areaPlace == AreaPlace::Across) addAcross(label, areas[0], lines);
   if (settings_.areaPlace == AreaPlace::Outside && label.ways.empty()) addOutside(label, areas[0]);
   wanted.push_back(std::move(label));
 }
@@ -99,10 +112,46 @@ void LabelPlacer::addInside(WantedLabel& label, std::vector<PageArea> const& are
   }
 }
 
-// About the middle of the area, as far as enough of the text lies within.
-void LabelPlacer::addAcross(WantedLabel& label, PageArea const& area) const {
+// The more of the area's length it takes the better, as far as letters still make a word. What lies level then is for
+// want of something better.
+void LabelPlacer::addAlongArea(WantedLabel& label, PageArea const& area) const {
+  LabelText const whole = label.texts[0];
+  std::vector<Letter> const letters = lettersOf(whole.text, *whole.symbol);
+  MeasuredLine const spine(spineOf(area.rings));
+  double const height = whole.bounds.height(), width = whole.bounds.width();
+  int const gaps = letters.empty() ? 0 : letters.back().number;
+  if (gaps == 0 || spine.length() < width) return;
+  for (LabelWay& level : label.ways) level.cost += levelCost;
+  size_t const firstLetter = label.texts.size();
+  for (Letter const& letter : letters) measure(label.texts.emplace_back(LabelText{letter.text, whole.symbol, {}}));
+  bool const isSpread = settings_.areaText == AreaText::Spread;
+  double before = -1;
+  for (double const share : spreadShares) {
+    double const gap = isSpread ? std::clamp((share * spine.length() - width) / gaps, 0.0, widestGap * height) : 0;
+    if (gap == before) continue;
+    before = gap;
+    std::vector<Letter> apart = letters;
+    for (Letter& letter : apart) letter.along += gap * (letter.number - gaps / 2.0);
+    size_t const most = label.ways.size() + maxBows;
+    double cost = 1 - share;
+    for (auto const& placed : curvedPlaces(spine, apart, width + gap * gaps, height, 0)) {
+      LabelWay way{{}, cost += 0.3 / maxBows};
+      for (PlacedLetter const& one : placed)
+        way.pieces.push_back({static_cast<int>(firstLetter + way.pieces.size()), one.centre, one.angle});
+      bool const isWithin = std::all_of(way.pieces.begin(), way.pieces.end(), [&](LabelPiece const& piece) {
+        LabelText const& text = label.texts[static_cast<size_t>(piece.text)];
+        return isInside(area.rings, shapeOf(text, piece.centre, piece.angle, fromBorderPt));
+      });
+      if (isWithin) addIfFree(label, std::move(way));
+      if (label.ways.size() == most) break;
+    }
+  }
+}
+
+// About the middle of the area, as far as enough of the text lies within, in each of the ways to break it into lines.
+void LabelPlacer::addAcross(WantedLabel& label, PageArea const& area, size_t lines) const {
   QPointF const middle = SysGeometry::poleOfInaccessibility(area.rings, finePt).place;
-  for (size_t number = 0; number < label.texts.size(); ++number) {
+  for (size_t number = 0; number < lines; ++number) {
     double const width = label.texts[number].bounds.width(), height = label.texts[number].bounds.height();
     for (QPointF const& off : {QPointF(), QPointF(0, 0.5), QPointF(0, -0.5), QPointF(0.25, 0), QPointF(-0.25, 0)}) {
       QPointF const centre = middle + QPointF(off.x() * width, off.y() * height);

@@ -150,7 +150,8 @@ private:
   void addBeside(WantedLabel& label, Box const& mark, Cell const& cell) const;
   void addAtPolygon(WantedLabel label, std::vector<WantedLabel>& wanted);
   void addInside(WantedLabel& label, std::vector<PageArea> const& areas) const;
-  void addAcross(WantedLabel& label, PageArea const& area) const;
+  void addAlongArea(WantedLabel& label, PageArea const& area) const;
+  void addAcross(WantedLabel& label, PageArea const& area, size_t lines) const;
   void addOutside(WantedLabel& label, PageArea const& area) const;
   void addAlongLines(WantedLabel label, std::vector<WantedLabel>& wanted);
   void addAlongLine(WantedLabel& label, MeasuredLine const& line, double cost) const;

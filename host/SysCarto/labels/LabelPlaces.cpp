@@ -1,3 +1,4 @@
+#include "host/SysCarto/labels/AreaSpine.h"
 #include "host/SysCarto/labels/LabelPlacer.h"
 
 #include <QStringList>
@@ -19,17 +20,6 @@ bool boxIsInside(Rings const& rings, QPointF const& centre, double width, double
   bool const isCrossed = anyEdge(
       rings, [&](QPointF const& a, QPointF const& b) { return !SysGeometry::clippedSegment(a, b, box).isEmpty(); });
   return !isCrossed && SysGeometry::contains(rings, centre.x(), centre.y());
-}
-
-// Where a row meets the area, as pairs of crossings.
-std::vector<double> crossings(Rings const& rings, double y) {
-  std::vector<double> xs;
-  anyEdge(rings, [&](QPointF const& a, QPointF const& b) {
-    if ((a.y() > y) != (b.y() > y)) xs.push_back(a.x() + (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y()));
-    return false;
-  });
-  std::sort(xs.begin(), xs.end());
-  return xs;
 }
 
 // Places in rows across the area, each as near to `wanted` as the row allows.

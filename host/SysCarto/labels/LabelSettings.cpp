@@ -30,6 +30,11 @@ constexpr Choice linePlaces[] = {
     {LinePlace::On, "on", QT_TRANSLATE_NOOP("Fields", "On the line")},
     {LinePlace::Curved, "curved", QT_TRANSLATE_NOOP("Fields", "Curved with the line")},
 };
+constexpr Choice areaTexts[] = {
+    {AreaText::Level, "level", QT_TRANSLATE_NOOP("Fields", "Level")},
+    {AreaText::Curved, "curved", QT_TRANSLATE_NOOP("Fields", "Along the area")},
+    {AreaText::Spread, "spread", QT_TRANSLATE_NOOP("Fields", "Spread over the area")},
+};
 constexpr Choice areaPlaces[] = {
     {AreaPlace::Inside, "inside", QT_TRANSLATE_NOOP("Fields", "Inside")},
     {AreaPlace::Across, "across", QT_TRANSLATE_NOOP("Fields", "Across the border where it does not fit")},
@@ -96,6 +101,13 @@ void listPlaces(Fields& fields, LabelSettings& labels) {
                          "How far from each other the same text stands along lines; with 0, each line has one "
                          "label.")},
       labels.repeatCm, {0, maxPaperCm, Unit::Centimetre}, usual.repeatCm);
+  fields.choice<AreaText>(
+      {"areaText", QT_TRANSLATE_NOOP("Fields", "In areas"),
+       QT_TRANSLATE_NOOP(
+           "Fields",
+           "How a label lies in its area: level, along the area's length, or along it with its letters as far "
+           "apart as tells how far the area reaches. Where the area holds no such label, it lies level.")},
+      labels.areaText, areaTexts, usual.areaText);
   fields.choice<AreaPlace>({"areaPlace", QT_TRANSLATE_NOOP("Fields", "Place at areas"),
                             QT_TRANSLATE_NOOP("Fields",
                                               "Whether a label that does not fit into its area is left out, reaches "

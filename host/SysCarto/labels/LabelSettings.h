@@ -27,6 +27,10 @@ struct LabelClass {
 /// How a label lies along its line.
 enum class LinePlace { Above, On, Curved };
 
+/// How a name lies in its area: level, along the area's length, or along it with letters apart, to tell how far it
+/// reaches.
+enum class AreaText { Level, Curved, Spread };
+
 /// Where the label of an area goes that does not fit into it: nowhere, beyond its border, or beside it.
 enum class AreaPlace { Inside, Across, Outside };
 
@@ -67,6 +71,7 @@ struct LabelSettings {
   QStringList places;     ///< names of `pointPlaces`, the most wanted first; empty for the usual ones
   LinePlace linePlace = LinePlace::Above;
   double repeatCm = 0;  ///< on paper, between labels of one text along lines; 0 for one label a line
+  AreaText areaText = AreaText::Level;
   AreaPlace areaPlace = AreaPlace::Inside;
   double minSizeCm = 0;  ///< on paper, of lines and areas that are labelled
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;

@@ -102,11 +102,12 @@ std::vector<Letter> lettersOf(QString const& text, SysDisplay::TextSymbol const&
   double const whole = widthOf(text);
   std::vector<Letter> letters;
   QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-  for (int from = 0, to = finder.toNextBoundary(); to > from; from = to, to = finder.toNextBoundary()) {
+  int number = 0;
+  for (int from = 0, to = finder.toNextBoundary(); to > from; from = to, to = finder.toNextBoundary(), ++number) {
     QString const letter = text.mid(from, to - from);
     if (letter.trimmed().isEmpty()) continue;
     double const width = widthOf(letter);
-    letters.push_back({letter, widthOf(text.left(to)) - width / 2 - whole / 2, width});
+    letters.push_back({letter, widthOf(text.left(to)) - width / 2 - whole / 2, width, number});
   }
   return letters;
 }

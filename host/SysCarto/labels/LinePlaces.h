@@ -40,6 +40,7 @@ struct Letter {
   QString text;
   double along;  ///< its middle, from that of the text
   double width;
+  int number;  ///< among the letters and blanks of the text
 };
 
 /// The letters of a text, without its blanks; none where they can't be parted, as in scripts that join letters or run

@@ -264,6 +264,49 @@ private slots:
     QCOMPARE(placed(*layer.layer, page).texts(), QStringList());
   }
 
+  // An area that bends: its lower left end is at (0, 0), its upper right one at (200, 100), and it bulges upwards.
+  void aNameFollowsItsArea_data() {
+    Rows<AreaText, int, double> row;
+    row("level, where it is not told otherwise", AreaText::Level, 0, 0);
+    row("along it", AreaText::Curved, 4, 0);
+    row("spread over it", AreaText::Spread, 4, 60);
+  }
+  void aNameFollowsItsArea() {
+    auto const [text, letterCount, leastApart] = fetched<AreaText, int, double>();
+    QStringList upper, lower;
+    for (int i = 0; i <= 20; ++i) {
+      double const x = 10 * i, y = x / 2 + 30 * (1 - (x - 100) * (x - 100) / 10000);
+      upper << QStringLiteral("[%1,%2]").arg(x).arg(y + 14);
+      lower.prepend(QStringLiteral("[%1,%2]").arg(x).arg(y - 14));
+    }
+    QByteArray const ring = (upper + lower + upper.mid(0, 1)).join(',').toUtf8();
+    auto labels = settings(9);
+    labels.areaText = text;
+    auto const layer = openedJson(geoJson(R"({"type":"Polygon","coordinates":[[)" + ring + "]]}", "P ru"), "", nullptr,
+                                  labels);
+    Placed const result = placed(*layer.layer, shown({-20, -40, 220, 160}, QSize(240, 200)).transformation());
+    if (letterCount == 0) {
+      QVERIFY(result.texts().isEmpty() || result.texts() == QStringList{"P ru"});
+      return;
+    }
+    QCOMPARE(result.texts(), (QStringList{"P", "r", "u"}));
+    QPolygonF polygon;
+    for (SysCarto::Part const& part : layer.features().parts)
+      for (int i = 0; i < part.count; ++i) polygon << QPointF(part.xy[2 * i], part.xy[2 * i + 1]);
+    double last = 90;
+    for (int i = 0; i < result.labels.size(); ++i) {
+      QVERIFY(qFuzzyIsNull(result.shapes()[i].subtracted(polygon).boundingRect().width()));
+      double const angle = ptr_cast<TextElement>(result.labels[i])->angle();
+      QVERIFY2(angle < last && angle > 0, qPrintable(QString::number(angle)));
+      last = angle;
+    }
+    auto const middle = [&](int letter) { return result.shapes()[letter].boundingRect().center(); };
+    QVERIFY(QLineF(middle(0), middle(2)).length() > leastApart);
+    // A blank takes part.
+    if (leastApart > 0)
+      QVERIFY(QLineF(middle(0), middle(1)).length() > 1.6 * QLineF(middle(1), middle(2)).length());
+  }
+
   void aLessImportantLabelMakesRoom() {
     auto labels = settings(9);
     labels.places = QStringList{"left"};
