@@ -282,8 +282,8 @@ private slots:
     QByteArray const ring = (upper + lower + upper.mid(0, 1)).join(',').toUtf8();
     auto labels = settings(9);
     labels.areaText = text;
-    auto const layer = openedJson(geoJson(R"({"type":"Polygon","coordinates":[[)" + ring + "]]}", "P ru"), "", nullptr,
-                                  labels);
+    auto const layer =
+        openedJson(geoJson(R"({"type":"Polygon","coordinates":[[)" + ring + "]]}", "P ru"), "", nullptr, labels);
     Placed const result = placed(*layer.layer, shown({-20, -40, 220, 160}, QSize(240, 200)).transformation());
     if (letterCount == 0) {
       QVERIFY(result.texts().isEmpty() || result.texts() == QStringList{"P ru"});
@@ -303,8 +303,7 @@ private slots:
     auto const middle = [&](int letter) { return result.shapes()[letter].boundingRect().center(); };
     QVERIFY(QLineF(middle(0), middle(2)).length() > leastApart);
     // A blank takes part.
-    if (leastApart > 0)
-      QVERIFY(QLineF(middle(0), middle(1)).length() > 1.6 * QLineF(middle(1), middle(2)).length());
+    if (leastApart > 0) QVERIFY(QLineF(middle(0), middle(1)).length() > 1.6 * QLineF(middle(1), middle(2)).length());
   }
 
   void aLessImportantLabelMakesRoom() {
