@@ -37,7 +37,7 @@ void LabelPlan::addWays(Label& label) {
   label.box.add(wanted.mark);
   label.box.add(wanted.around);
   for (LabelWay const& way : wanted.ways) {
-    Way own{count() - 1, &way, {}, {}, {}};
+    Way own{&way, {}, {}, {}};
     for (LabelPiece const& piece : way.pieces) {
       LabelText const& text = wanted.texts[static_cast<size_t>(piece.text)];
       own.shapes.push_back(LabelPlacer::shapeOf(text, piece.centre, piece.angle, 0));
@@ -85,25 +85,30 @@ void LabelPlan::findConflicts(int number) {
     tree_->insert(label.box, number);
 }
 
+// What no other way of the same label changes is looked at once.
 void LabelPlan::findConflicts(Label const& upper, Label const& lower) {
-  auto const lastOf = [](Label const& one) { return one.first + static_cast<int>(one.wanted.ways.size()); };
-  bool const isEither = upper.room.group == lower.room.group && hide(upper.wanted, lower.wanted);
-  looks_ += static_cast<std::int64_t>(upper.wanted.ways.size()) * static_cast<std::int64_t>(lower.wanted.ways.size());
-  for (int a = upper.first; a < lastOf(upper); ++a)
-    for (int b = lower.first; b < lastOf(lower); ++b)
-      if (isEither || conflict(ways_[static_cast<size_t>(a)], ways_[static_cast<size_t>(b)])) search_.addConflict(a, b);
-}
-
-bool LabelPlan::conflict(Way const& upper, Way const& lower) const {
-  Label const& first = labels_[static_cast<size_t>(upper.label)];
-  Label const& second = labels_[static_cast<size_t>(lower.label)];
-  bool const isOneLayer = first.room.group == second.room.group;  // marks of others cost, and forbid nothing
-  if (isOneLayer && (covers(upper, second.wanted.mark) || covers(upper, second.wanted.around) ||
-                     covers(lower, first.wanted.mark) || repeats(upper, lower)))
-    return true;
-  if (!upper.box.meets(lower.box)) return false;
-  bool const isWider = first.room.gap >= second.room.gap;
-  return meet(isWider ? upper.spaced : upper.shapes, isWider ? lower.shapes : lower.spaced);
+  size_t const firstOfUpper = static_cast<size_t>(upper.first), firstOfLower = static_cast<size_t>(lower.first);
+  size_t const ofUpper = upper.wanted.ways.size(), ofLower = lower.wanted.ways.size();
+  looks_ += static_cast<std::int64_t>(ofUpper) * static_cast<std::int64_t>(ofLower);
+  bool const isOneLayer = upper.room.group == lower.room.group;  // marks of others cost, and forbid nothing
+  bool const isEither = isOneLayer && hide(upper.wanted, lower.wanted);
+  bool const isRepeated = isOneLayer && !upper.wanted.repeats.isEmpty() && upper.wanted.repeats == lower.wanted.repeats;
+  bool const isWider = upper.room.gap >= lower.room.gap;
+  std::vector<char> covers(ofLower);
+  for (size_t b = 0; b < ofLower; ++b)
+    covers[b] = isEither || (isOneLayer && LabelPlan::covers(ways_[firstOfLower + b], upper.wanted.mark));
+  for (size_t a = 0; a < ofUpper; ++a) {
+    Way const& one = ways_[firstOfUpper + a];
+    bool const isNever =
+        isEither ||
+        (isOneLayer && (LabelPlan::covers(one, lower.wanted.mark) || LabelPlan::covers(one, lower.wanted.around)));
+    for (size_t b = 0; b < ofLower; ++b) {
+      Way const& other = ways_[firstOfLower + b];
+      if (isNever || covers[b] || (isRepeated && isNear(one, other, upper.room.apart)) ||
+          (one.box.meets(other.box) && meet(isWider ? one.spaced : one.shapes, isWider ? other.shapes : other.spaced)))
+        search_.addConflict(static_cast<int>(firstOfUpper + a), static_cast<int>(firstOfLower + b));
+    }
+  }
 }
 
 bool LabelPlan::meet(std::vector<LabelShape> const& a, std::vector<LabelShape> const& b) {
@@ -126,12 +131,9 @@ bool LabelPlan::hide(WantedLabel const& a, WantedLabel const& b) {
   return isHidden(a.core, b.mark) || isHidden(b.core, a.mark);
 }
 
-// Labels of one text along lines that stand closer than they are to.
-bool LabelPlan::repeats(Way const& a, Way const& b) const {
-  Label const &first = labels_[static_cast<size_t>(a.label)], &second = labels_[static_cast<size_t>(b.label)];
-  if (first.wanted.repeats.isEmpty() || first.wanted.repeats != second.wanted.repeats) return false;
+bool LabelPlan::isNear(Way const& a, Way const& b, double distance) {
   QPointF const between = a.given->middle() - b.given->middle();
-  return std::hypot(between.x(), between.y()) < first.room.apart;
+  return std::hypot(between.x(), between.y()) < distance;
 }
 
 MapLabelling::MapLabelling(std::vector<LabelPlacer*> layers) : layers_(std::move(layers)) {}

@@ -50,7 +50,6 @@ private:
     Box box;    // of all that matters to others
   };
   struct Way {
-    int label;
     LabelWay const* given;
     std::vector<LabelShape> shapes, spaced;  // of its pieces and its leader, and with the gap around them
     Box box;                                 // around them
@@ -60,11 +59,10 @@ private:
   void findConflicts(int number);
   void findConflicts(Label const& upper, Label const& lower);
   bool isTooMuch() const;
-  bool conflict(Way const& upper, Way const& lower) const;
   static bool meet(std::vector<LabelShape> const& a, std::vector<LabelShape> const& b);
   static bool covers(Way const& way, Box const& box);
   static bool hide(WantedLabel const& a, WantedLabel const& b);
-  bool repeats(Way const& a, Way const& b) const;
+  static bool isNear(Way const& a, Way const& b, double distance);
 
   std::deque<Label> labels_;
   std::vector<Way> ways_;

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <random>
 #include <utility>
 #include <vector>
@@ -91,7 +92,7 @@ private:
 
   std::vector<Label> labels_;
   std::vector<Candidate> candidates_;
-  std::vector<std::pair<int, int>> conflicts_;
+  std::deque<std::pair<int, int>> conflicts_;  // many: a vector would be copied as it grows
   std::vector<int> neighbours_;
   std::vector<int> waiting_;               // labels that are not placed
   std::vector<int> active_;                // labels that may make room for these
