@@ -106,6 +106,7 @@ void LabelPlacer::addMarks(MarkIndex::Marks& marks) {
 }
 
 std::vector<LabelShape> LabelPlacer::placePinned() {
+  if (pins_.isEmpty()) return {};
   for (int const feature : candidates())
     if (auto const* const pin = pinOf(feature)) placePinned(feature, *pin);
   std::vector<LabelShape> taken;

@@ -15,6 +15,8 @@
 
 #include <map>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace SysCarto {
 
@@ -109,11 +111,11 @@ public:
 
   // What came of it.
 
-  std::vector<PlacedLabel> const& labels() const { return labels_; }
+  std::vector<PlacedLabel> takeLabels() { return std::move(labels_); }
 
   /// The features that are labelled, and what found no place, at its feature and without an area.
   int placedCount() const { return static_cast<int>(placedFeatures_.size()); }
-  std::vector<PlacedLabel> const& unplaced() const { return unplaced_; }
+  std::vector<PlacedLabel> takeUnplaced() { return std::move(unplaced_); }
 
   double gapPt() const { return settings_.gapPt; }
   double repeatPt() const;

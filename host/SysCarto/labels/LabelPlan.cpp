@@ -59,6 +59,13 @@ LabelWay const* LabelPlan::chosen(int number) const {
   return way < 0 ? nullptr : ways_[static_cast<size_t>(way)].given;
 }
 
+void LabelPlan::forget(int number) {
+  Label& label = labels_[static_cast<size_t>(number)];
+  auto const first = ways_.begin() + label.first;
+  std::fill(first, first + static_cast<std::ptrdiff_t>(label.wanted.ways.size()), Way());
+  label.wanted = {};
+}
+
 bool LabelPlan::place(std::function<bool()> const& mayGoOn) {
   for (; next_ < count(); ++next_) {
     if (!mayGoOn()) return false;
@@ -139,7 +146,7 @@ bool LabelPlan::isNear(Way const& a, Way const& b, double distance) {
 MapLabelling::MapLabelling(std::vector<LabelPlacer*> layers) : layers_(std::move(layers)) {}
 
 bool MapLabelling::goOn(std::function<bool()> const& mayGoOn) {
-  if (!marks_) begin();
+  if (!prepare(mayGoOn)) return false;
   while (layer_ < layers_.size()) {
     if (!mayGoOn()) return false;
     if (addLabels()) continue;
@@ -147,20 +154,26 @@ bool MapLabelling::goOn(std::function<bool()> const& mayGoOn) {
     ++rank_;
     priority_ = std::nullopt;
   }
-  if (!plan_.place(mayGoOn)) return false;
-  finish();
-  return true;
+  return plan_.place(mayGoOn) && finish(mayGoOn);
 }
 
-void MapLabelling::begin() {
-  // Wherever a person has put a label, no other one covers it.
-  for (LabelPlacer* const layer : layers_)
-    for (LabelShape const& shape : layer->placePinned())
-      for (LabelPlacer* const other : layers_) other->addTaken(shape);
-  MarkIndex::Marks marks;
-  for (LabelPlacer* const layer : layers_) layer->addMarks(marks);
-  marks_.emplace(marks);
-  for (LabelPlacer* const layer : layers_) layer->begin(*marks_);
+bool MapLabelling::prepare(std::function<bool()> const& mayGoOn) {
+  size_t const count = layers_.size();
+  for (; prepared_ < 3 * count; ++prepared_) {
+    if (!mayGoOn()) return false;
+    LabelPlacer& layer = *layers_[prepared_ % count];
+    if (prepared_ < count) {
+      // Wherever a person has put a label, no other one covers it.
+      for (LabelShape const& shape : layer.placePinned())
+        for (LabelPlacer* const other : layers_) other->addTaken(shape);
+    } else if (prepared_ < 2 * count) {
+      layer.addMarks(given_);
+    } else {
+      if (!marks_) marks_.emplace(given_);
+      layer.begin(*marks_);
+    }
+  }
+  return true;
 }
 
 // Those of the next feature of the layer. Answers whether there was one.
@@ -178,11 +191,17 @@ bool MapLabelling::addLabels() {
   return true;
 }
 
-void MapLabelling::finish() {
-  for (int i = 0; i < plan_.count(); ++i)
-    if (auto const* const way = plan_.chosen(i)) owners_[static_cast<size_t>(i)]->accept(plan_.label(i), *way);
-  for (int i = 0; i < plan_.count(); ++i)
-    if (!plan_.chosen(i)) owners_[static_cast<size_t>(i)]->leaveOut(plan_.label(i));
+bool MapLabelling::finish(std::function<bool()> const& mayGoOn) {
+  for (int const count = plan_.count(); finished_ < 2 * count; ++finished_) {
+    if (finished_ % 64 == 0 && !mayGoOn()) return false;
+    int const label = finished_ % count;
+    LabelPlacer& layer = *owners_[static_cast<size_t>(label)];
+    auto const* const way = plan_.chosen(label);
+    if (way && finished_ < count) layer.accept(plan_.label(label), *way);
+    if (!way && finished_ >= count) layer.leaveOut(plan_.label(label));
+    if (finished_ >= count) plan_.forget(label);  // all at once that would take a while
+  }
+  return true;
 }
 
 }  // namespace SysCarto

@@ -42,6 +42,9 @@ public:
   /// How a label is placed, in the end; null where it is not.
   LabelWay const* chosen(int number) const;
 
+  /// Lets go of the ways of a label, which has none then.
+  void forget(int number);
+
 private:
   struct Label {
     WantedLabel wanted;
@@ -83,17 +86,20 @@ public:
   bool goOn(std::function<bool()> const& mayGoOn);
 
 private:
-  void begin();
+  bool prepare(std::function<bool()> const& mayGoOn);
   bool addLabels();
-  void finish();
+  bool finish(std::function<bool()> const& mayGoOn);
 
   std::vector<LabelPlacer*> const layers_;
-  std::optional<MarkIndex> marks_;  // once it has begun
+  MarkIndex::Marks given_;
+  std::optional<MarkIndex> marks_;  // of these, once all are there
+  size_t prepared_ = 0;             // steps
   LabelPlan plan_;
   std::vector<LabelPlacer*> owners_;  // of the labels of the plan
   size_t layer_ = 0;                  // whose labels are added
   int rank_ = 0;
   std::optional<double> priority_;  // of the label before, of the same layer
+  int finished_ = 0;                // labels, those that are placed before those that are not
 };
 
 }  // namespace SysCarto

@@ -17,23 +17,7 @@ constexpr int sweeps = 8;
 constexpr int stepsALabel = 160;  // for each label that may make room
 constexpr int patience = 20;      // of these without a gain
 constexpr std::int64_t mostLooks = 50000000;
-
-// Sets of labels that can't be told apart by going from conflict to conflict.
-class Sets {
-public:
-  explicit Sets(size_t count) : parents_(count) { std::iota(parents_.begin(), parents_.end(), 0); }
-  int of(int one) {
-    while (parents_[static_cast<size_t>(one)] != one) {
-      int& parent = parents_[static_cast<size_t>(one)];
-      one = parent = parents_[static_cast<size_t>(parent)];
-    }
-    return one;
-  }
-  void join(int a, int b) { parents_[static_cast<size_t>(of(a))] = of(b); }
-
-private:
-  std::vector<int> parents_;
-};
+constexpr int linkedAtOnce = 500;  // conflicts
 
 }  // namespace
 
@@ -42,6 +26,12 @@ void LabelSearch::addLabel(int rank) { labels_.push_back({rank, candidateCount()
 void LabelSearch::addCandidate(double cost) {
   candidates_.push_back({labelCount() - 1, cost});
   labels_.back().last = candidateCount();
+}
+
+void LabelSearch::addConflict(int a, int b) {
+  conflicts_.emplace_back(a, b);
+  ++candidates_[a].last;
+  ++candidates_[b].last;
 }
 
 // Its candidates never become free.
@@ -67,21 +57,32 @@ bool LabelSearch::goOn(std::int64_t looks) {
   return false;
 }
 
-// Each knows what is in its way, as a stretch of one list.
+// Some of what is in the way of each at a time, as a stretch of one list, which is not cleared before.
 bool LabelSearch::link() {
-  for (auto const& [a, b] : conflicts_) ++candidates_[a].last, ++candidates_[b].last;
-  int next = 0;
-  for (Candidate& one : candidates_) {
-    one.first = next;
-    next += std::exchange(one.last, next);
+  if (!neighbours_) {
+    int next = 0;
+    for (Candidate& one : candidates_) {
+      one.first = next;
+      next += std::exchange(one.last, next);
+    }
+    neighbours_.reset(new int[static_cast<size_t>(next)]);
+    sets_.resize(labels_.size());
+    std::iota(sets_.begin(), sets_.end(), 0);
   }
-  neighbours_.resize(static_cast<size_t>(next));
-  for (auto const& [a, b] : conflicts_) {
+  for (int i = 0; i < linkedAtOnce && !conflicts_.empty(); ++i) {
+    auto const [a, b] = conflicts_.back();
+    conflicts_.pop_back();
     neighbours_[candidates_[a].last++] = b;
     neighbours_[candidates_[b].last++] = a;
+    sets_[setOf(labelOf(a))] = setOf(labelOf(b));
   }
-  conflicts_ = {};
-  return false;
+  looks_ += 10 * linkedAtOnce;  // what it touches first has to be cleared by the system
+  return !conflicts_.empty();
+}
+
+int LabelSearch::setOf(int label) {
+  while (sets_[label] != label) label = sets_[label] = sets_[sets_[label]];
+  return label;
 }
 
 // A sweep goes through all labels in their order.
@@ -115,13 +116,10 @@ bool LabelSearch::takeFree() {
 }
 
 void LabelSearch::findActive() {
-  Sets sets(labels_.size());
-  for (Candidate const& one : candidates_)
-    for (int i = one.first; i < one.last; ++i) sets.join(one.label, labelOf(neighbours_[i]));
   std::vector<char> waits(labels_.size());
-  for (int const label : waiting_) waits[sets.of(label)] = 1;
+  for (int const label : waiting_) waits[setOf(label)] = 1;
   for (int label = 0; label < labelCount(); ++label)
-    if (waits[sets.of(label)] && labels_[label].last - labels_[label].first > 1) active_.push_back(label);
+    if (waits[setOf(label)] && labels_[label].last - labels_[label].first > 1) active_.push_back(label);
 }
 
 void LabelSearch::choose(int label, int candidate) {
@@ -270,8 +268,8 @@ void LabelSearch::stir() {
 
 bool LabelSearch::improve() {
   int const active = static_cast<int>(active_.size());
-  bool const isWorthIt =
-      !waiting_.empty() && step_ < stepsALabel * active && step_ - lastGain_ < patience * active && looks_ <= mostLooks;
+  bool const isWorthIt = !waiting_.empty() && step_ < stepsALabel * active && step_ - lastGain_ < patience * active &&
+                         looks_ - looksBefore_ <= mostLooks;
   if (!isWorthIt) return false;
   ++step_;
   size_t const waited = waiting_.size();

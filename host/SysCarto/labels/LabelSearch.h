@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <random>
 #include <utility>
 #include <vector>
@@ -26,7 +27,7 @@ public:
   void addCandidate(double cost);
 
   /// Two candidates of different labels that can't both be chosen.
-  void addConflict(int a, int b) { conflicts_.emplace_back(a, b); }
+  void addConflict(int a, int b);
 
   std::size_t conflictCount() const { return conflicts_.size(); }
 
@@ -76,6 +77,7 @@ private:
   bool insertNext();
   bool cheapenNext();
 
+  int setOf(int label);
   void findActive();
   bool beginSweep();
   void choose(int label, int candidate);
@@ -93,7 +95,8 @@ private:
   std::vector<Label> labels_;
   std::vector<Candidate> candidates_;
   std::deque<std::pair<int, int>> conflicts_;  // many: a vector would be copied as it grows
-  std::vector<int> neighbours_;
+  std::unique_ptr<int[]> neighbours_;
+  std::vector<int> sets_;                  // of labels: the next one on the way to what all have that conflicts join
   std::vector<int> waiting_;               // labels that are not placed
   std::vector<int> active_;                // labels that may make room for these
   std::vector<int> freed_;                 // candidates

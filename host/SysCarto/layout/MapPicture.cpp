@@ -160,13 +160,14 @@ QList<_ptr_t<Element>> placeLabels(MapFrameElement const& frame, double dpi, _pt
   QRect const framePx(0, 0, pixels(rectangle->GetWidth()), pixels(rectangle->GetHeight()));
   auto const transformation = transformationOf(*frame.GetMap(), framePx, framePx, dpi / SysDisplay::pixelsPerInch);
   QMap<int, QList<_ptr_t<SysGeometry::Polygon>>> obstacles;
-  QList<_ptr_t<Element>> labels;
-  QList<_ptr_t<Element>> unplaced;
+  QList<_ptr_t<Element>> labels, unplaced;
+  bool const showsUnplaced = MapHost::showsUnplaced(*frame.GetMap());
   for (auto const& layer : labelledLayers(*frame.GetMap(), transformation->GetMapScale())) {
     layer->GetAnnotationElements(obstacles, labels, transformation, cancel);
-    if (auto const vector = SysUtility::ptr_cast<VectorLayer>(layer)) unplaced << vector->unplacedLabels();
+    auto const vector = showsUnplaced ? SysUtility::ptr_cast<VectorLayer>(layer) : nullptr;
+    if (vector) unplaced << vector->unplacedLabels();
   }
-  return MapHost::showsUnplaced(*frame.GetMap()) ? labels + unplaced : labels;
+  return labels + unplaced;
 }
 
 }  // namespace SysCarto

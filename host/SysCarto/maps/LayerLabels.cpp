@@ -63,7 +63,25 @@ _ptr_t<LineElement> leaderOf(PlacedLabel const& placed) {
 struct VectorLayer::Placement {
   int count = 0;
   std::vector<PlacedLabel> labels, unplaced;
+  QList<_ptr_t<Element>> elements;
+  QList<_ptr_t<Polygon>> areas;  // that are taken
+
+  bool isMade() const { return made_ == labels.size(); }
+  void makeNext();
+
+private:
+  size_t made_ = 0;  // of the labels
 };
+
+void VectorLayer::Placement::makeNext() {
+  PlacedLabel const& label = labels[made_++];
+  if (!label.leader.isEmpty()) {
+    elements << leaderOf(label);
+    areas << make<Polygon>(QVector<QVector<QPointF>>{label.leader + label.leader.mid(0, 1)});
+  }
+  elements << elementOf(label, label.symbol);
+  areas << make<Polygon>(QVector<QVector<QPointF>>{label.area});
+}
 
 // All that decides what comes of it. Each layer finds of the obstacles that it is given whether it is its turn.
 struct VectorLayer::LabelQuestion {
@@ -102,7 +120,7 @@ struct VectorLayer::PlannedLabels {
   LabelQuestion question;
   _ptr_t<DisplayTransformation> transformation;
   std::deque<Labelled> layers;
-  size_t prepared = 0;  // of these
+  size_t prepared = 0, handed = 0;  // of these
   std::optional<MapLabelling> labelling;
   bool isUnderWay = false;  // who cancels may run events, and these ask, too
   bool isDone = false;
@@ -139,7 +157,19 @@ bool VectorLayer::PlannedLabels::place(std::function<bool()> const& mayGoOn) {
       if (layer.placer) placers.push_back(layer.placer.get());
     labelling.emplace(placers);
   }
-  return labelling->goOn(mayGoOn);
+  if (!labelling->goOn(mayGoOn)) return false;
+  for (; handed < layers.size(); ++handed) {
+    Placement& part = parts[layers[handed].layer];
+    auto const& placer = layers[handed].placer;
+    if (placer && part.labels.empty()) {
+      part.count = placer->placedCount();
+      part.labels = placer->takeLabels();
+      part.unplaced = placer->takeUnplaced();
+    }
+    for (; !part.isMade(); part.makeNext())
+      if (!mayGoOn()) return false;
+  }
+  return true;
 }
 
 void VectorLayer::PlannedLabels::goOn(std::function<bool()> const& mayGoOn) {
@@ -148,10 +178,6 @@ void VectorLayer::PlannedLabels::goOn(std::function<bool()> const& mayGoOn) {
   isDone = place(mayGoOn);
   isUnderWay = false;
   if (!isDone) return;
-  for (Labelled const& labelled : layers) {
-    Placement& part = parts[labelled.layer];
-    if (auto const& placer = labelled.placer) part = {placer->placedCount(), placer->labels(), placer->unplaced()};
-  }
   labelling.reset();
   layers.clear();
 }
@@ -252,15 +278,8 @@ void VectorLayer::GetAnnotationElements(Obstacles& obstacles, QList<_ptr_t<Eleme
   placed_ = std::move(own.labels);
   unplaced_ = std::move(own.unplaced);
   if (placed_.empty()) return;
-  auto& taken = obstacles[properties_->GetPriority()];
-  for (PlacedLabel const& label : placed_) {
-    if (!label.leader.isEmpty()) {
-      labels << leaderOf(label);
-      taken << make<Polygon>(QVector<QVector<QPointF>>{label.leader + label.leader.mid(0, 1)});
-    }
-    labels << elementOf(label, label.symbol);
-    taken << make<Polygon>(QVector<QVector<QPointF>>{label.area});
-  }
+  labels << own.elements;
+  obstacles[properties_->GetPriority()] << own.areas;
   planned->question.obstacles = obstacles;
 }
 
