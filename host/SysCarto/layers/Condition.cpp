@@ -8,6 +8,8 @@
 #include <ogr_swq.h>
 #include <ogrsf_frmts.h>
 
+#include <algorithm>
+
 namespace SysCarto {
 
 Condition::Condition() = default;
@@ -17,11 +19,17 @@ Condition::~Condition() = default;
 bool Condition::compile(OGRLayer& layer, QString const& text, QString& reason) {
   query_.reset();
   patterns_ = {};
+  dates_.clear();
   if (text.isEmpty()) return true;
   GdalErrors const errors;
   query_ = std::make_unique<OGRFeatureQuery>();
   bool const ok = query_->Compile(&layer, text.toUtf8().constData()) == OGRERR_NONE;
   reason = errors.reason();
+  for (QString const& name : fields()) {
+    int const index = layer.GetLayerDefn()->GetFieldIndex(name.toUtf8().constData());
+    OGRFieldType const type = index < 0 ? OFTString : layer.GetLayerDefn()->GetFieldDefn(index)->GetType();
+    if (type == OFTDate || type == OFTTime || type == OFTDateTime) dates_.push_back(index);
+  }
   if (ok) patterns_ = PatternBounds(*static_cast<swq_expr_node*>(query_->GetSWQExpr()));
   return ok;
 }
@@ -42,8 +50,15 @@ void Condition::narrow(OGRLayer& layer) const {
   if (!sql.isEmpty()) source->narrow(sql);
 }
 
+// A comparison with a date that there is none of fails in the evaluation, where one with another value is not true.
 bool Condition::admits(OGRFeature& feature) const {
-  return !query_ || (patterns_.admit(feature) && query_->Evaluate(&feature));
+  if (!query_) return true;
+  if (!patterns_.admit(feature)) return false;
+  bool const lacksDate =
+      std::any_of(dates_.begin(), dates_.end(), [&](int date) { return !feature.IsFieldSetAndNotNull(date); });
+  if (!lacksDate) return query_->Evaluate(&feature);
+  GdalErrors const errors;
+  return query_->Evaluate(&feature) && !errors.hasFailure();
 }
 
 }  // namespace SysCarto

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <vector>
 
 class OGRFeature;
 class OGRFeatureQuery;
@@ -37,6 +38,7 @@ public:
 private:
   std::unique_ptr<OGRFeatureQuery> query_;
   mutable PatternBounds patterns_;
+  std::vector<int> dates_;  // fields of the layer that it names
 };
 
 }  // namespace SysCarto

@@ -5,6 +5,7 @@
 #include "LocalDataset.h"
 #include "raster/RasterSource.h"
 #include "ServerDatabase.h"
+#include "SourceSystem.h"
 #include "TableLayer.h"
 
 #include "host/SysCarto/projection/GdalErrors.h"
@@ -176,7 +177,7 @@ std::vector<FieldDescription> fieldsOf(OGRLayer& layer) {
   return fields;
 }
 
-// What is known without a look at any feature.
+// What is known without a look at more than the first features.
 LayerDescription describeSchema(OGRLayer& from) {
   LayerDescription layer;
   layer.name = QString::fromUtf8(from.GetName());
@@ -185,7 +186,7 @@ LayerDescription describeSchema(OGRLayer& from) {
   layer.count = knownCount(from);
   auto const kind = kindOf(from.GetGeomType());
   layer.kind = kind.value_or(GeometryKind::Mixed);
-  if (layer.kind != GeometryKind::None) describeSystem(from.GetSpatialRef(), layer);
+  if (layer.kind != GeometryKind::None) describeSystem(systemOf(from).system, layer);
   return layer;
 }
 

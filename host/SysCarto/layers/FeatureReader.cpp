@@ -7,9 +7,11 @@
 #include "host/SysCarto/layers/FeatureIntake.h"
 #include "host/SysCarto/layers/LabelReader.h"
 #include "host/SysCarto/layers/LargestNumbers.h"
+#include "host/SysCarto/layers/LocalDataset.h"
 #include "host/SysCarto/layers/Renderer.h"
 #include "host/SysCarto/layers/ServerLayer.h"
 #include "host/SysCarto/layers/SourceBounds.h"
+#include "host/SysCarto/layers/SourceSystem.h"
 #include "host/SysCarto/layers/SourceWindow.h"
 #include "host/SysCarto/layers/ThinningGrid.h"
 #include "host/SysCarto/layers/indexed/SourceIndexes.h"
@@ -17,6 +19,7 @@
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <ogr_api.h>
 #include <ogr_feature.h>
@@ -93,7 +96,9 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
   bool const isGlobe = source.data == SourceSettings::Data::Globe;
   auto const globe = isGlobe && target ? globeOf(*target) : nullptr;  // the globe is the map's own
   GdalErrors const errors;
-  OGRSpatialReference const* const own = isGlobe ? globe.get() : given ? given.get() : layer.GetSpatialRef();
+  bool const saysItself = !isGlobe && !given;
+  auto const said = saysItself ? systemOf(layer) : SourceSystem();
+  OGRSpatialReference const* const own = isGlobe ? globe.get() : given ? given.get() : said.system;
   // A database names the column of its keys; it knows a system that it fails to tell. What a file beside the data says
   // may be nonsense.
   if (!own && errors.hasFailure() && *layer.GetFIDColumn() != '\0') {
@@ -103,7 +108,14 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
                        .arg(describeSource(source), errors.reason());
     return nullptr;
   }
-  if (!own && target)
+  if (said.isNoDegrees)
+    result.warnings
+        << Texts::tr(
+               "The coordinates of %1 can't be degrees, as GeoJSON's and those of its coordinate system are; "
+               "they are taken as those of the map. Give the system in the source's field "
+               "“coordinateSystem”.")
+               .arg(describeSource(source));
+  else if (!own && target)
     result.warnings << Texts::tr(
                            "No coordinate system is known for %1; its coordinates are taken as those of the map. "
                            "Give one in the source's field “coordinateSystem”.")
@@ -400,6 +412,12 @@ ReadFeatures readTask(ReadTask const& task, QString const& mapSystem, ReadProgre
   }
   result.error = data->joinProblem();
   result.warnings += data->notes();
+  if (source.connection.isEmpty() && hasGuessedEncoding(source.file))
+    result.notes
+        << Texts::tr(
+               "Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it "
+               "with the name of the encoding would say so.")
+               .arg(describeSource(source), QFileInfo(source.file).completeBaseName() + QStringLiteral(".cpg"));
   if (errors.hasFailure())
     result.error = Texts::tr("Not all of %1 could be read: %2.").arg(describeSource(source), errors.reason());
   return result;

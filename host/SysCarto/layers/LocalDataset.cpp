@@ -15,6 +15,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QTextCodec>
 #include <QtEndian>
 
 #include <cpl_conv.h>
@@ -59,6 +61,7 @@ QVector<DataFormat> const formats = {
 
 char const* const tableOptions[] = {"AUTODETECT_TYPE=YES", "KEEP_GEOM_COLUMNS=YES", nullptr};
 char const* const immutableOptions[] = {"IMMUTABLE=YES", nullptr};
+char const* const guessedOptions[] = {"ENCODING=CP1252", nullptr};
 
 bool hasSuffix(QString const& path, char const* suffix) {
   return path.endsWith(QLatin1Char('.') + QLatin1String(suffix), Qt::CaseInsensitive);
@@ -95,10 +98,20 @@ QString cannotOpen(QString const& path, QString const& reason) {
 }
 
 // Immutable, SQLite takes no lock and makes no journal, so a read-only folder will do. What another program has written
-// to a log would go unseen, so where there is one the database is opened as usual.
+// to a log would go unseen, so where there is one the database is opened as usual; and so is one in whose path the
+// driver leaves what SQLite would read as a character in hexadecimal.
 char const* const* optionsFor(QString const& path) {
-  if (hasSuffix(path, "gpkg") && !hasLog(path)) return immutableOptions;
+  static QRegularExpression const coded(QStringLiteral("%[0-9A-Fa-f]{2}"));
+  if (hasSuffix(path, "gpkg") && !hasLog(path) && !coded.match(path).hasMatch()) return immutableOptions;
+  if (hasGuessedEncoding(path)) return guessedOptions;
   return hasSuffix(path, "csv") || hasSuffix(path, "tsv") ? tableOptions : nullptr;
+}
+
+// Of a Shapefile, with its suffix in whichever letters.
+QFileInfo companionOf(QString const& path, char const* suffix) {
+  QString const base = path.left(path.size() - QFileInfo(path).suffix().size());
+  QFileInfo const upper(base + QString::fromLatin1(suffix).toUpper());
+  return upper.exists() ? upper : QFileInfo(base + QLatin1String(suffix));
 }
 
 QByteArray headOf(QString const& path, int length) {
@@ -107,10 +120,13 @@ QByteArray headOf(QString const& path, int length) {
 }
 
 // What the head of a file, or all of a .tab, betrays before any driver looks at it: a file that is made of others, or
-// texts that the driver would take for bytes.
+// lacks one, or texts that the driver would take for bytes.
 QString refusalOfHead(QString const& path) {
   if (hasSuffix(path, "dxf") && !SourceBounds::allows(entitiesOf(path), QFileInfo(path).size()))
     return Texts::tr("its blocks repeat themselves or each other without end; explode them");
+  if (hasSuffix(path, "shp") && !companionOf(path, "shx").isFile())
+    return Texts::tr("the index that belongs to it, “%1”, is missing; put it beside it")
+        .arg(companionOf(path, "shx").fileName());
   bool const isTab = hasSuffix(path, "tab");
   if (!isTab && !hasSuffix(path, "csv") && !hasSuffix(path, "tsv")) return QString();
   if (isTab && QFileInfo(path).size() > maxTableLength)
@@ -220,6 +236,23 @@ QString whyUnread(QString const& path, QByteArray const& name) {
 }  // namespace
 
 QVector<DataFormat> const& dataFormats() { return formats; }
+
+// Where neither the table's head (the byte for its code page) nor a file beside it says how its texts are encoded, they
+// are UTF-8, unless they can't be.
+bool hasGuessedEncoding(QString const& path) {
+  constexpr int codePage = 29, headSize = 32, lookedAt = 8 * 1024 * 1024;
+  bool const isShapes = hasSuffix(path, "shp") || hasSuffix(path, "dbf");
+  if (!isShapes || companionOf(path, "cpg").exists()) return false;
+  QByteArray const table = headOf(companionOf(path, "dbf").filePath(), lookedAt);
+  if (table.size() < headSize || table[codePage] != 0) return false;
+  int const first = qFromLittleEndian<quint16>(reinterpret_cast<uchar const*>(table.constData()) + 8);
+  QByteArray const records = table.mid(first);
+  bool const isPlain = std::none_of(records.begin(), records.end(), [](char letter) { return letter & '\x80'; });
+  if (isPlain) return false;
+  QTextCodec::ConverterState state;
+  QTextCodec::codecForName("UTF-8")->toUnicode(records.constData(), records.size(), &state);
+  return state.invalidChars > 0;
+}
 
 bool isDataFileName(QString const& path) {
   return isRasterFileName(path) || std::any_of(formats.begin(), formats.end(), [&](DataFormat const& format) {

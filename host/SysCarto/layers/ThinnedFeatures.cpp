@@ -1,6 +1,8 @@
 #include "ThinnedFeatures.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace SysCarto {
 
@@ -50,7 +52,28 @@ void ThinnedFeatures::thin(int feature) {
     startsPolygon = false;
     parts_.push_back(part);
   }
+  if (static_cast<int>(parts_.size()) == place.firstPart) keepMark(given);
   place.partCount = static_cast<int>(parts_.size()) - place.firstPart;
+}
+
+// An area of which no part can be seen keeps the least that can, so that it has its colour and its outline.
+void ThinnedFeatures::keepMark(Feature const& feature) {
+  for (int i = feature.firstPart; i < feature.firstPart + feature.partCount; ++i) {
+    Part part = store_.parts[i];
+    bool const isArea = part.kind == PartKind::Ring || part.kind == PartKind::FilledRing;
+    if (!isArea || !part.startsPolygon) continue;
+    double const x = (part.box.xmin + part.box.xmax) / 2, y = (part.box.ymin + part.box.ymax) / 2;
+    double const halfX = std::max(part.box.xmax - part.box.xmin, grid_.cell()) / 2;
+    double const halfY = std::max(part.box.ymax - part.box.ymin, grid_.cell()) / 2;
+    part.count = 4;
+    double* const room = vertices_.room(part.count);
+    double const corners[] = {x - halfX, y - halfY, x + halfX, y - halfY, x + halfX, y + halfY, x - halfX, y + halfY};
+    std::copy(std::begin(corners), std::end(corners), room);
+    vertices_.keep(part.count);
+    part.xy = room;
+    parts_.push_back(part);
+    return;
+  }
 }
 
 }  // namespace SysCarto

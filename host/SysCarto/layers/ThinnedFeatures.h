@@ -17,7 +17,8 @@ public:
   /// Map units on a pixel. Resolutions that differ by rounding only count as one.
   void setResolution(double unitsPerPixel);
 
-  /// The parts of a feature, thinned; those too small to be seen are left out. Valid until the next call.
+  /// The parts of a feature, thinned; those too small to be seen are left out, but of an area one of them, in the least
+  /// size. Valid until the next call.
   struct Range {
     Part const* begin_;
     Part const* end_;
@@ -35,6 +36,7 @@ private:
     int partCount = 0;
   };
   void thin(int feature);
+  void keepMark(Feature const& feature);
 
   FeatureStore const& store_;
   ThinningGrid grid_;

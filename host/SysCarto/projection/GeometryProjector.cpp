@@ -138,6 +138,31 @@ bool anyEdge(std::vector<unsigned char> const& edges, unsigned char flag) {
   return std::any_of(edges.begin(), edges.end(), [=](unsigned char edge) { return edge & flag; });
 }
 
+void gather(OGRGeometryCollection const& from, int depth, OGRMultiPolygon& areas, OGRGeometryCollection& others) {
+  for (auto const* member : from) {
+    auto const type = wkbFlatten(member->getGeometryType());
+    bool const isCollection = OGR_GT_IsSubClassOf(type, wkbGeometryCollection);
+    if (isCollection && depth < maxCollectionDepth)
+      gather(*member->toGeometryCollection(), depth + 1, areas, others);
+    else
+      (type == wkbPolygon ? static_cast<OGRGeometryCollection&>(areas) : others).addGeometry(member);
+  }
+}
+
+// Members of a collection may lie over each other, which in a feature's area would be a hole. Null where there is
+// nothing to unite, or no way to.
+std::unique_ptr<OGRGeometryCollection> withUnitedAreas(OGRGeometryCollection const& collection) {
+  OGRMultiPolygon areas;
+  auto others = std::make_unique<OGRGeometryCollection>();
+  gather(collection, 0, areas, *others);
+  if (areas.getNumGeometries() < 2) return nullptr;
+  SysGeometry::QuietOgr const quiet;
+  std::unique_ptr<OGRGeometry> united(areas.UnionCascaded());
+  if (!united || united->IsEmpty() || others->addGeometryDirectly(united.get()) != OGRERR_NONE) return nullptr;
+  united.release();
+  return others;
+}
+
 }  // namespace
 
 PartSink::~PartSink() = default;
@@ -226,14 +251,19 @@ void GeometryProjector::addLinear(OGRGeometry const& geometry, PartSink& sink, i
     case wkbTIN:
       for (auto const* face : *geometry.toPolyhedralSurface()) addLinear(*face, sink, depth + 1);
       return;
+    case wkbGeometryCollection:
+      if (auto const united = withUnitedAreas(*geometry.toGeometryCollection()))
+        return addMembers(*united, sink, depth);
+      [[fallthrough]];
     case wkbMultiPoint:
     case wkbMultiLineString:
-    case wkbMultiPolygon:
-    case wkbGeometryCollection:
-      for (auto const* member : *geometry.toGeometryCollection()) addLinear(*member, sink, depth + 1);
-      return;
+    case wkbMultiPolygon: return addMembers(*geometry.toGeometryCollection(), sink, depth);
     default: return;
   }
+}
+
+void GeometryProjector::addMembers(OGRGeometryCollection const& collection, PartSink& sink, int depth) const {
+  for (auto const* member : collection) addLinear(*member, sink, depth + 1);
 }
 
 void GeometryProjector::addPoint(double x, double y, PartSink& sink) const {

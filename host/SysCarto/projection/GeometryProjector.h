@@ -7,6 +7,7 @@
 #include <optional>
 
 class OGRGeometry;
+class OGRGeometryCollection;
 class OGRLineString;
 class OGRPolygon;
 
@@ -44,6 +45,7 @@ public:
 
 private:
   void addLinear(OGRGeometry const& geometry, PartSink& sink, int depth) const;
+  void addMembers(OGRGeometryCollection const& collection, PartSink& sink, int depth) const;
   void addPoint(double x, double y, PartSink& sink) const;
   void addLine(OGRLineString const& line, PartSink& sink) const;
   void addPolygon(OGRPolygon const& polygon, PartSink& sink) const;

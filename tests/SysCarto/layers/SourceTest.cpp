@@ -1,6 +1,11 @@
 #include "LayerFixture.h"
 
+#include "host/SysCarto/layers/DataSource.h"
+#include "host/SysCarto/layers/LocalDataset.h"
 #include "host/SysCarto/projection/GdalErrors.h"
+
+#include <ogr_feature.h>
+#include <ogrsf_frmts.h>
 
 using namespace SysCarto;
 
@@ -29,6 +34,7 @@ private slots:
         R"({"crs":{"type":"name","properties":{"name":"+proj=longlat +nadgr\u0069ds\u003d@null,\/tmp/a"}},)"
         R"("type":"Point","coordinates":[0,0]})",
         "", "by a path");
+    row("a Shapefile without its index", "a.shp", "abc", "", "“a.shx”, is missing");
     row("a layer that the file does not have", "a.geojson", geoJson(R"({"type":"Point","coordinates":[0,0]})"),
         "rivers", "no layer “rivers”");
   }
@@ -47,8 +53,8 @@ private slots:
 
   void openingLeavesNothingBehind() {
     QTemporaryDir folder;
-    QDir(folder.path()).mkdir("100% #1?");
-    QString const inside = folder.filePath("100% #1?");
+    QDir(folder.path()).mkdir("100% #1?%41");
+    QString const inside = folder.filePath("100% #1?%41");
     QVERIFY(QFile::copy(sample("world.gpkg"), inside + "/world.gpkg"));
     QVERIFY(QFile::setPermissions(inside, QFile::ReadOwner | QFile::ExeOwner));
     auto const result = opened({inside + "/world.gpkg", "cities", {}, {}}, "EPSG:8857");
@@ -101,7 +107,7 @@ private slots:
     row("a ring of two places", R"({"type":"Polygon","coordinates":[[[1,1],[2,2],[1,1]]]})", 0);
     row("an infinite place", R"({"type":"Point","coordinates":[1e999,0]})", 0);
     row("infinite vertices only leave a gap", R"({"type":"LineString","coordinates":[[1,1],[1e999,2],[3,3]]})", 1);
-    row("a latitude that is none", R"({"type":"Point","coordinates":[10,4000]})", 0);
+    row("a latitude that is none", R"({"type":"Point","coordinates":[10,95]})", 0);
     row("no longitude", R"({"type":"Polygon","coordinates":[[[1e300,1],[1e300,9],[-1e300,5],[1e300,1]]]})", -1);
     row("a ring that crosses itself", R"({"type":"Polygon","coordinates":[[[0,0],[9,9],[9,0],[0,9],[0,0]]]})", 1);
     row("a ring that is not closed", R"({"type":"Polygon","coordinates":[[[0,0],[9,9],[9,0]]]})", 1);
@@ -110,6 +116,11 @@ private slots:
         R"({"type":"GeometryCollection","geometries":[{"type":"GeometryCollection","geometries":[
             {"type":"MultiPoint","coordinates":[[1,1],[2,2]]},{"type":"LineString","coordinates":[[1,1],[2,2]]}]}]})",
         3);
+    row("areas that lie over each other",
+        R"({"type":"GeometryCollection","geometries":[
+            {"type":"Polygon","coordinates":[[[0,0],[9,0],[9,9],[0,9],[0,0]]]},
+            {"type":"Polygon","coordinates":[[[5,5],[15,5],[15,15],[5,15],[5,5]]]}]})",
+        1);
   }
   void geometriesThatAreNoneArePassedOver() {
     auto const [geometry, parts] = fetched<QByteArray, int>();
@@ -124,6 +135,61 @@ private slots:
         result.layer->Draw(painter, transformation, 1, nullptr);
       });
     }
+  }
+
+  void coordinatesThatCanNotBeDegreesAreTheMaps() {
+    QByteArray const json = geoJson(R"({"type":"Point","coordinates":[500000,5300000]})");
+    auto const result = openedJson(json, "EPSG:32633");
+    QVERIFY2(result.warnings.value(0).contains("can't be degrees"), qPrintable(result.warnings.join('|')));
+    QCOMPARE(result.features().box().xmin, 500000.0);
+    QCOMPARE(result.features().box().ymax, 5300000.0);
+    QCOMPARE(openedJson(json, "EPSG:32633", {}, {}, "EPSG:32632").warnings, QStringList());
+  }
+
+  void aFilterPassesOverWhatHasNoDate() {
+    auto const dated = [](QByteArray const& date) {
+      return R"({"type":"Feature","properties":{"at":)" + date +
+             R"(},"geometry":{"type":"Point","coordinates":[1,2]}})";
+    };
+    QTemporaryDir const folder;
+    QString const file =
+        written(folder, "a.geojson", collection({dated("\"2020-01-01\""), dated("null"), dated("\"2022-01-01\"")}));
+    for (auto const& [filter, count] : QVector<QPair<QString, int>>{{"at > '2021-01-01'", 1}, {"at IS NULL", 1}}) {
+      auto const result = opened({file, {}, filter, {}}, "EPSG:4326");
+      QCOMPARE(result.error, QString());
+      QCOMPARE(result.features().size(), count);
+    }
+  }
+
+  void anEncodingIsGuessedWhereNothingSaysIt_data() {
+    Rows<QByteArray, char, bool, bool> row;
+    row("Windows-1252", "Z\xfcrich", 0, false, true);
+    row("as the table says", "Z\xfcrich", 3, false, false);
+    row("as a file beside it says", "Z\xfcrich", 0, true, false);
+    row("UTF-8", "Z\xc3\xbcrich", 0, false, false);
+    row("no letter that would tell", "Zurich", 0, false, false);
+  }
+  void anEncodingIsGuessedWhereNothingSaysIt() {
+    auto const [name, codePage, isSaid, isGuessed] = fetched<QByteArray, char, bool, bool>();
+    QByteArray const value = name.leftJustified(10, ' ');
+    QByteArray head(32, 0), field(32, 0);
+    head[0] = 3;
+    head[4] = 1;   // records
+    head[8] = 65;  // of the head
+    head[10] = 11;
+    head[29] = codePage;
+    field.replace(0, 4, "name");
+    field[11] = 'C';
+    field[16] = 10;
+    QTemporaryDir const folder;
+    QString const file = written(folder, "a.dbf", head + field + "\r " + value + "\x1a");
+    if (isSaid) written(folder, "a.cpg", "ISO-8859-1");
+    QCOMPARE(hasGuessedEncoding(file), isGuessed);
+    QString error;
+    auto const data = DataSource::open(file, {}, error);
+    QVERIFY2(data, qPrintable(error));
+    OGRFeatureUniquePtr const read(data->layer().GetNextFeature());
+    QCOMPARE(QString::fromUtf8(read->GetFieldAsString("name")), QString(name == "Zurich" ? "Zurich" : "Zürich"));
   }
 
   void manyFeaturesStayInTheirOrder() {

@@ -76,6 +76,16 @@ private slots:
     }
   }
 
+  // Wherever in a pixel it lies.
+  void anAreaThatIsSmallerThanAPixelHasItsOutline() {
+    for (double const x : {10.05, 10.13, 10.49, 10.51, 10.9}) {
+      QString const ring = QStringLiteral("[%1,20],[%2,20],[%2,20.08],[%1,20.08],[%1,20]").arg(x).arg(x + 0.08);
+      auto const data = openedJson(geoJson(R"({"type":"Polygon","coordinates":[[)" + ring.toUtf8() + "]]}"), "",
+                                   fill(Qt::white, SimpleFillStyle::Solid, pen(1)));
+      QVERIFY(ink(shown({0, 0, 40, 40}, QSize(40, 40)).drawn(sceneOf(data))).pixels > 0);
+    }
+  }
+
   void aWindowShowsWhatTheWholeLayerDoes_data() {
     Rows<QString, QString, QPointF, double, double> row;
     row("turned", "countries", "+proj=laea +lat_0=47 +lon_0=8", {1e6, 3e5}, 1.2e6, 33);

@@ -1,0 +1,18 @@
+#pragma once
+
+class OGRLayer;
+class OGRSpatialReference;
+
+namespace SysCarto {
+
+/// What a layer says of the coordinate system that it is in.
+struct SourceSystem {
+  OGRSpatialReference const* system = nullptr;  ///< the layer's own; null where it says none that means anything
+  bool isNoDegrees = false;                     ///< it said degrees, and its coordinates can't be any
+};
+
+/// A system that a GeoPackage calls undefined is none. Looks at the first features of a file's layer of degrees, and
+/// has it begin anew.
+SourceSystem systemOf(OGRLayer& layer);
+
+}  // namespace SysCarto
