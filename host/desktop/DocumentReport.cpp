@@ -9,6 +9,7 @@
 #include "host/SysCarto/labels/LabelPlacer.h"
 #include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/MapPicture.h"
+#include "host/SysCarto/maps/LabelOrder.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysUtility/FileReach.h"
 #include "host/SysUtility/JsonFields.h"
@@ -174,9 +175,10 @@ QJsonObject labelsJson(SysCarto::MapFrameElement const& frame) {
   SysCarto::LabelCount all;
   QJsonArray shown;
   QTransform const toPage = SysCarto::mapToPage(frame);
-  for (auto const& layer : frame.GetMap()->GetLayers()) {
-    auto const* const vector = dynamic_cast<SysCarto::VectorLayer const*>(layer.get());
-    if (!vector || !vector->showsAt(frame.GetMap()->scale()) || !vector->IsAnnotationVisible()) continue;
+  QList<_ptr_t<SysCarto::VectorLayer>> layers;
+  for (auto const& layer : frame.GetMap()->GetLayers())
+    if (auto const vector = SysUtility::ptr_cast<SysCarto::VectorLayer>(layer)) layers << vector;
+  for (auto const& vector : SysCarto::inLabelOrder(layers, frame.GetMap()->scale())) {
     all.wanted += vector->labelCount().wanted;
     all.placed += vector->labelCount().placed;
     auto const& pieces = vector->placedLabels();
@@ -189,7 +191,7 @@ QJsonObject labelsJson(SysCarto::MapFrameElement const& frame) {
           corners.append(QJsonArray{place.x(), place.y()});
         }
       shown.append(QJsonObject{{QStringLiteral("text"), first.name},
-                               {QStringLiteral("layer"), layer->GetName()},
+                               {QStringLiteral("layer"), vector->GetName()},
                                {QStringLiteral("corners"), corners}});
     }
   }

@@ -98,10 +98,11 @@ QRegion PagePicture::drawSlice(PageLayout const& layout, int budgetMs) {
   clock.start();
   for (auto const& frame : framesOf(layout)) {
     auto const tiles = tiles_.find(frame->GetHandle());
-    if (tiles == tiles_.end()) continue;
+    if (tiles == tiles_.end() || !tiles->canGoOn()) continue;
+    if (clock.elapsed() >= budgetMs) break;
     while (changed.isEmpty() || clock.elapsed() < budgetMs) {
       QRect const drawn = tiles->drawNext(*frame);
-      if (drawn.isNull()) break;
+      if (drawn.isNull()) break;  // some labels were placed, or there is nothing to do
       ++drawnTiles_;
       changed += drawn.translated(cornerOf(*frame)) & image_.rect();
     }

@@ -20,8 +20,8 @@ public:
   /// extent that differs from the one composed last by just that.
   void scroll(SysCarto::PageLayout const& layout, QPoint const& byPx);
 
-  /// Draws missing tiles of maps for about `budgetMs` milliseconds, one at least, and paints them. Answers what has
-  /// changed in the picture, empty where no tile was missing. The layout must be the one composed last.
+  /// Draws missing tiles of maps for about `budgetMs` milliseconds, one at least, and paints them; or goes on with
+  /// placing labels for a moment. Answers what has changed in the picture. The layout must be the one composed last.
   QRegion drawSlice(SysCarto::PageLayout const& layout, int budgetMs);
 
   /// Whether the maps look as they did when they were painted.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <optional>
 
 namespace SysCarto {
@@ -105,10 +106,12 @@ std::vector<Row> rowsOf(Rings const& upright) {
     }
   double widest = 0;
   for (Row const& one : found) widest = std::max(widest, one.width());
-  found.erase(
-      std::remove_if(found.begin(), found.end(), [&](Row const& one) { return one.width() < leastWidth * widest; }),
-      found.end());
   std::sort(found.begin(), found.end(), [](Row const& a, Row const& b) { return a.y < b.y; });
+  auto const isNarrow = [least = leastWidth * widest](Row const& one) { return one.width() < least; };
+  auto const middle = std::find_if(found.begin(), found.end(), [&](Row const& one) { return one.y == first->y; });
+  found.erase(std::find_if(middle, found.end(), isNarrow), found.end());
+  auto const last = std::find_if(std::make_reverse_iterator(middle), found.rend(), isNarrow);
+  found.erase(found.begin(), last.base());
   return found;
 }
 

@@ -81,9 +81,8 @@ void LabelPlacer::addAtPolygon(WantedLabel label, std::vector<WantedLabel>& want
               areas.end());
   if (areas.empty() || widthOf(SysGeometry::boxOf(areas[0].rings)) * cmPerPoint < settings_.minSizeCm) return;
   addInside(label, areas);
-  size_t const lines = label.texts.size();
+  if (settings_.areaPlace == AreaPlace::Across) addAcross(label, areas[0]);
   if (settings_.areaText != AreaText::Level) addAlongArea(label, areas[0]);
-  if (settings_.areaPlace == AreaPlace::Across) addAcross(label, areas[0], lines);
   if (settings_.areaPlace == AreaPlace::Outside && label.ways.empty()) addOutside(label, areas[0]);
   wanted.push_back(std::move(label));
 }
@@ -125,33 +124,35 @@ void LabelPlacer::addAlongArea(WantedLabel& label, PageArea const& area) const {
   size_t const firstLetter = label.texts.size();
   for (Letter const& letter : letters) measure(label.texts.emplace_back(LabelText{letter.text, whole.symbol, {}}));
   bool const isSpread = settings_.areaText == AreaText::Spread;
-  double before = -1;
+  double gapBefore = -1;
   for (double const share : spreadShares) {
     double const gap = isSpread ? std::clamp((share * spine.length() - width) / gaps, 0.0, widestGap * height) : 0;
-    if (gap == before) continue;
-    before = gap;
+    if (gap == gapBefore) continue;
+    gapBefore = gap;
     std::vector<Letter> apart = letters;
     for (Letter& letter : apart) letter.along += gap * (letter.number - gaps / 2.0);
     size_t const most = label.ways.size() + maxBows;
     double cost = 1 - share;
     for (auto const& placed : curvedPlaces(spine, apart, width + gap * gaps, height, 0)) {
-      LabelWay way{{}, cost += 0.3 / maxBows};
+      LabelWay way{{}, cost};
       for (PlacedLetter const& one : placed)
         way.pieces.push_back({static_cast<int>(firstLetter + way.pieces.size()), one.centre, one.angle});
       bool const isWithin = std::all_of(way.pieces.begin(), way.pieces.end(), [&](LabelPiece const& piece) {
         LabelText const& text = label.texts[static_cast<size_t>(piece.text)];
         return isInside(area.rings, shapeOf(text, piece.centre, piece.angle, fromBorderPt));
       });
+      size_t const before = label.ways.size();
       if (isWithin) addIfFree(label, std::move(way));
+      if (label.ways.size() > before) cost += 0.3 / maxBows;
       if (label.ways.size() == most) break;
     }
   }
 }
 
-// About the middle of the area, as far as enough of the text lies within, in each of the ways to break it into lines.
-void LabelPlacer::addAcross(WantedLabel& label, PageArea const& area, size_t lines) const {
+// About the middle of the area, as far as enough of the text lies within.
+void LabelPlacer::addAcross(WantedLabel& label, PageArea const& area) const {
   QPointF const middle = SysGeometry::poleOfInaccessibility(area.rings, finePt).place;
-  for (size_t number = 0; number < lines; ++number) {
+  for (size_t number = 0; number < label.texts.size(); ++number) {
     double const width = label.texts[number].bounds.width(), height = label.texts[number].bounds.height();
     for (QPointF const& off : {QPointF(), QPointF(0, 0.5), QPointF(0, -0.5), QPointF(0.25, 0), QPointF(-0.25, 0)}) {
       QPointF const centre = middle + QPointF(off.x() * width, off.y() * height);

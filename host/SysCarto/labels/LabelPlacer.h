@@ -153,7 +153,7 @@ private:
   void addAtPolygon(WantedLabel label, std::vector<WantedLabel>& wanted);
   void addInside(WantedLabel& label, std::vector<PageArea> const& areas) const;
   void addAlongArea(WantedLabel& label, PageArea const& area) const;
-  void addAcross(WantedLabel& label, PageArea const& area, size_t lines) const;
+  void addAcross(WantedLabel& label, PageArea const& area) const;
   void addOutside(WantedLabel& label, PageArea const& area) const;
   void addAlongLines(WantedLabel label, std::vector<WantedLabel>& wanted);
   void addAlongLine(WantedLabel& label, MeasuredLine const& line, double cost) const;

@@ -61,8 +61,7 @@ LabelWay const* LabelPlan::chosen(int number) const {
 
 void LabelPlan::forget(int number) {
   Label& label = labels_[static_cast<size_t>(number)];
-  auto const first = ways_.begin() + label.first;
-  std::fill(first, first + static_cast<std::ptrdiff_t>(label.wanted.ways.size()), Way());
+  for (size_t i = 0; i < label.wanted.ways.size(); ++i) ways_[static_cast<size_t>(label.first) + i] = Way();
   label.wanted = {};
 }
 
@@ -169,7 +168,7 @@ bool MapLabelling::prepare(std::function<bool()> const& mayGoOn) {
     } else if (prepared_ < 2 * count) {
       layer.addMarks(given_);
     } else {
-      if (!marks_) marks_.emplace(given_);
+      if (!marks_) marks_.emplace(std::exchange(given_, {}));
       layer.begin(*marks_);
     }
   }

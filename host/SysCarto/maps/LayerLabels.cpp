@@ -83,17 +83,21 @@ void VectorLayer::Placement::makeNext() {
   areas << make<Polygon>(QVector<QVector<QPointF>>{label.area});
 }
 
-// All that decides what comes of it. Each layer finds of the obstacles that it is given whether it is its turn.
+// All that decides what comes of it. Each layer finds of the obstacles that it is given whether it is its turn. Who
+// doesn't wait may have been given finer windows of features than who does.
 struct VectorLayer::LabelQuestion {
   DisplayTransformationHost::OnPage page;
   QTransform turn;
   double mapScale;
-  QList<quint64> looks;  // of all layers of the map
   Obstacles obstacles;
+  bool waits;
+  QList<quint64> looks = {};                              // of all layers of the map
+  std::vector<std::pair<VectorLayer*, int>> layers = {};  // that are to be labelled yet, and their priorities
 
   bool operator==(LabelQuestion const& other) const {
     return page.bounds == other.page.bounds && page.unitsPerPoint == other.page.unitsPerPoint && turn == other.turn &&
-           mapScale == other.mapScale && looks == other.looks && obstacles == other.obstacles;
+           mapScale == other.mapScale && obstacles == other.obstacles && waits == other.waits && looks == other.looks &&
+           layers == other.layers;
   }
 };
 
@@ -126,9 +130,6 @@ struct VectorLayer::PlannedLabels {
   bool isDone = false;
   std::map<VectorLayer const*, Placement> parts;  // then
 
-  bool isOf(VectorLayer const& layer, LabelQuestion const& asked) const {
-    return !isUnderWay && (!isDone || parts.count(&layer) > 0) && question == asked;
-  }
   void goOn(std::function<bool()> const& mayGoOn);
   bool place(std::function<bool()> const& mayGoOn);
   void prepare(Labelled& layer) const;
@@ -203,41 +204,57 @@ QList<_ptr_t<Element>> VectorLayer::unplacedLabels() const {
 
 // Those whose turn comes after this one, and itself.
 std::vector<VectorLayer*> VectorLayer::labelledFrom(double mapScale) {
-  QList<VectorLayer*> layers;
-  for (Layer* const fellow : LayerHost::fellows(*this))
-    if (auto* const layer = dynamic_cast<VectorLayer*>(fellow)) layers << layer;
-  QList<VectorLayer*> const ordered = inLabelOrder(layers, mapScale);
+  QList<VectorLayer*> const ordered = inLabelOrder(fellows(), mapScale);
   int const own = ordered.indexOf(this);
   if (own < 0) return {this};
   return {ordered.begin() + own, ordered.end()};
 }
 
-// Nothing where features are missing that a view doesn't wait for.
-std::shared_ptr<VectorLayer::PlannedLabels> VectorLayer::planLabels(LabelQuestion const& question,
+// Of a map, itself among them.
+QList<VectorLayer*> VectorLayer::fellows() const {
+  QList<VectorLayer*> layers;
+  for (Layer* const fellow : LayerHost::fellows(*this))
+    if (auto* const layer = dynamic_cast<VectorLayer*>(fellow)) layers << layer;
+  return layers;
+}
+
+VectorLayer::LabelQuestion VectorLayer::labelQuestion(Obstacles const& obstacles,
+                                                      DisplayTransformation const& transformation) {
+  LabelQuestion question{DisplayTransformationHost::onPage(transformation),
+                         DisplayTransformationHost::turn(transformation), transformation.GetMapScale(), obstacles,
+                         !WithoutWaiting::current()};
+  if (LayerHost::fellows(*this).isEmpty()) question.looks << LayerHost::look(*this);
+  for (Layer const* const fellow : LayerHost::fellows(*this)) question.looks << LayerHost::look(*fellow);
+  for (VectorLayer* const layer : labelledFrom(question.mapScale))
+    question.layers.emplace_back(layer, layer->properties_->GetPriority());
+  return question;
+}
+
+// Nothing where features are missing that a view doesn't wait for, or somebody has had enough of waiting for.
+std::shared_ptr<VectorLayer::PlannedLabels> VectorLayer::planLabels(Obstacles const& obstacles,
                                                                     _ptr_t<DisplayTransformation> const& transformation,
                                                                     _ptr_t<TrackerCancel> const& cancel) {
   auto const* const meanwhile = WithoutWaiting::current();
   auto planned = std::make_shared<PlannedLabels>();
-  planned->question = question;
   planned->transformation = transformation->Clone();
   auto const shownOf = [&](VectorLayer const& layer) {
     return PlannedLabels::Shown{layer.shownBy(*transformation, cancel), layer.renderer_};
   };
-  std::vector<VectorLayer*> const layers = labelledFrom(question.mapScale);
-  for (VectorLayer const* const layer : layers) {
+  double const mapScale = transformation->GetMapScale();
+  for (VectorLayer const* const layer : labelledFrom(mapScale)) {
     PlannedLabels::Labelled labelled{layer, shownOf(*layer), layer->labels_, {}, {}};
     if (layer->spotlight_ && layer->spotlight_->hidesOthers) labelled.only = layer->spotlight_->feature;
-    for (Layer const* const fellow : LayerHost::fellows(*layer)) {
-      auto const* const other = dynamic_cast<VectorLayer const*>(fellow);
-      bool const isNoObstacle =
-          !other || other == layer || other->obstacle_ == LabelObstacle::None || !other->showsAt(question.mapScale);
+    for (VectorLayer const* const other : layer->fellows()) {
+      bool const isNoObstacle = other == layer || other->obstacle_ == LabelObstacle::None || !other->showsAt(mapScale);
       if (isNoObstacle) continue;
       if (auto const shown = shownOf(*other); shown.features) labelled.others.push_back({shown, other->obstacle_});
     }
-    if (meanwhile && meanwhile->isIncomplete) return nullptr;
+    if ((meanwhile && meanwhile->isIncomplete) || (cancel && cancel->IsCanced())) return nullptr;
     planned->layers.push_back(std::move(labelled));
   }
-  for (VectorLayer* const layer : layers) layer->planned_ = planned;
+  planned->question = labelQuestion(obstacles, *transformation);  // what was fetched may have changed looks
+  for (VectorLayer* const fellow : fellows()) fellow->planned_ = nullptr;
+  for (auto const& [layer, priority] : planned->question.layers) layer->planned_ = planned;
   return planned;
 }
 
@@ -246,16 +263,12 @@ std::shared_ptr<VectorLayer::PlannedLabels> VectorLayer::placeLabels(
     Obstacles const& obstacles, _ptr_t<DisplayTransformation> const& transformation,
     _ptr_t<TrackerCancel> const& cancel) {
   auto* const meanwhile = WithoutWaiting::current();
+  if (meanwhile && planned_ && planned_->isUnderWay) meanwhile->hasMoreToDo = true;
   if (meanwhile && meanwhile->hasMoreToDo) return nullptr;
-  LabelQuestion question{DisplayTransformationHost::onPage(*transformation),
-                         DisplayTransformationHost::turn(*transformation),
-                         transformation->GetMapScale(),
-                         {},
-                         obstacles};
-  if (LayerHost::fellows(*this).isEmpty()) question.looks << LayerHost::look(*this);
-  for (Layer const* const fellow : LayerHost::fellows(*this)) question.looks << LayerHost::look(*fellow);
   auto planned = planned_;
-  if (!planned || !planned->isOf(*this, question)) planned = planLabels(question, transformation, cancel);
+  bool const isTaken =
+      planned && !planned->isUnderWay && planned->question == labelQuestion(obstacles, *transformation);
+  if (!isTaken) planned = planLabels(obstacles, transformation, cancel);
   if (!planned) return nullptr;
   bool isFirst = true;  // on a machine that is busy a moment may be over before anything was done
   planned->goOn([&] {
@@ -263,7 +276,10 @@ std::shared_ptr<VectorLayer::PlannedLabels> VectorLayer::placeLabels(
     return !(cancel && cancel->IsCanced());
   });
   if (planned->isDone) return planned;
-  if (meanwhile) meanwhile->hasMoreToDo = true;
+  if (meanwhile)
+    meanwhile->hasMoreToDo = true;
+  else
+    for (auto const& [layer, priority] : planned->question.layers) layer->planned_ = nullptr;
   return nullptr;
 }
 
@@ -277,10 +293,11 @@ void VectorLayer::GetAnnotationElements(Obstacles& obstacles, QList<_ptr_t<Eleme
   placedLabels_ = own.count;
   placed_ = std::move(own.labels);
   unplaced_ = std::move(own.unplaced);
-  if (placed_.empty()) return;
   labels << own.elements;
-  obstacles[properties_->GetPriority()] << own.areas;
+  if (!own.areas.isEmpty()) obstacles[properties_->GetPriority()] << own.areas;
+  if (!planned) return;
   planned->question.obstacles = obstacles;
+  planned->question.layers.erase(planned->question.layers.begin());
 }
 
 }  // namespace SysCarto

@@ -155,15 +155,18 @@ private:
                                               SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel) const;
   struct Placement;
   struct PlannedLabels;
+  struct LabelQuestion;
+  QList<VectorLayer*> fellows() const;
   std::vector<VectorLayer*> labelledFrom(double mapScale);
+  LabelQuestion labelQuestion(QMap<int, QList<SysUtility::_ptr_t<SysGeometry::Polygon>>> const& obstacles,
+                              SysDisplay::DisplayTransformation const& transformation);
+  std::shared_ptr<PlannedLabels> planLabels(QMap<int, QList<SysUtility::_ptr_t<SysGeometry::Polygon>>> const& obstacles,
+                                            SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
+                                            SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
   std::shared_ptr<PlannedLabels> placeLabels(
       QMap<int, QList<SysUtility::_ptr_t<SysGeometry::Polygon>>> const& obstacles,
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
       SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
-  struct LabelQuestion;
-  std::shared_ptr<PlannedLabels> planLabels(LabelQuestion const& question,
-                                            SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation,
-                                            SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel);
   QVector<bool> classesWithin(
       SysUtility::_ptr_t<SysDisplay::DisplayTransformation> const& transformation) const override;
   QVector<bool> findClassesWithin(SysDisplay::DisplayTransformation const& transformation, Box const& shown) const;
