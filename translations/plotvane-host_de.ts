@@ -2150,6 +2150,10 @@
         <source>it begins as a file of the format %1 does, and is not whole, or damaged; fetch it again</source>
         <translation>sie beginnt wie eine Datei im Format %1, ist aber unvollständig oder beschädigt; holen Sie sie noch einmal</translation>
     </message>
+    <message>
+        <source>the index that belongs to it, “%1”, is missing; put it beside it</source>
+        <translation>der Index, der zu ihr gehört, „%1“, fehlt; legen Sie ihn daneben</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -3092,6 +3096,14 @@
     <message>
         <source>%1 is read whole, since it can&apos;t be indexed in “%2”: %3.</source>
         <translation>%1 wird ganz gelesen, da in „%2“ kein Index dafür angelegt werden kann: %3.</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 can&apos;t be degrees, as GeoJSON&apos;s and those of its coordinate system are; they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Die Koordinaten von %1 können keine Grad sein, wie es die von GeoJSON und die ihres Koordinatensystems sind; sie werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+    </message>
+    <message>
+        <source>Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it with the name of the encoding would say so.</source>
+        <translation>Nichts sagt, wie die Texte von %1 kodiert sind; sie werden als Windows-1252 genommen. Eine Datei „%2“ daneben mit dem Namen der Kodierung würde es sagen.</translation>
     </message>
 </context>
 <context>

@@ -2150,6 +2150,10 @@
         <source>it begins as a file of the format %1 does, and is not whole, or damaged; fetch it again</source>
         <translation>其开头像 %1 格式的文件，但不完整或已损坏；请重新获取</translation>
     </message>
+    <message>
+        <source>the index that belongs to it, “%1”, is missing; put it beside it</source>
+        <translation>缺少与其配套的索引“%1”；请将其放在同一位置</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -3092,6 +3096,14 @@
     <message>
         <source>%1 is read whole, since it can&apos;t be indexed in “%2”: %3.</source>
         <translation>将完整读取%1，因为无法在“%2”中为其建立索引：%3。</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 can&apos;t be degrees, as GeoJSON&apos;s and those of its coordinate system are; they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1 的坐标不可能是度，而 GeoJSON 及其坐标系的坐标应当是度；现按地图的坐标处理。请在数据源的“coordinateSystem”字段中指定坐标系。</translation>
+    </message>
+    <message>
+        <source>Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it with the name of the encoding would say so.</source>
+        <translation>没有任何信息说明 %1 的文本编码；现按 Windows-1252 处理。可在旁边放一个写有编码名称的文件“%2”加以说明。</translation>
     </message>
 </context>
 <context>
