@@ -8610,6 +8610,14 @@
         <source>%1 was not written: drawing its page takes far more than its size and its data are worth; simplify lines and areas with many vertices or crossings, make symbols smaller, fewer or less dense, or give less DPI.</source>
         <translation>%1 wurde nicht geschrieben: Die Seite zu zeichnen kostet weit mehr, als ihre Größe und ihre Daten wert sind; vereinfachen Sie Linien und Flächen mit vielen Stützpunkten oder Kreuzungen, machen Sie Symbole kleiner, setzen Sie weniger oder weniger dichte, oder geben Sie weniger DPI an.</translation>
     </message>
+    <message>
+        <source>The font %1 is not installed; another one stands in for it.</source>
+        <translation>Die Schrift %1 ist nicht installiert; eine andere steht für sie ein.</translation>
+    </message>
+    <message>
+        <source>No font that is installed has these letters, so that boxes stand for them: %1</source>
+        <translation>Keine installierte Schrift hat diese Zeichen, sodass Kästchen für sie stehen: %1</translation>
+    </message>
 </context>
 <context>
     <name>PageGesture</name>

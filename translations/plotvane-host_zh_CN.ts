@@ -8610,6 +8610,14 @@
         <source>%1 was not written: drawing its page takes far more than its size and its data are worth; simplify lines and areas with many vertices or crossings, make symbols smaller, fewer or less dense, or give less DPI.</source>
         <translation>未写入 %1：绘制此页面的开销远超其尺寸和数据所应有的程度；请简化顶点或交叉过多的线和面，将符号改小、减少或放疏，或降低 DPI。</translation>
     </message>
+    <message>
+        <source>The font %1 is not installed; another one stands in for it.</source>
+        <translation>字体 %1 未安装；以其他字体代替。</translation>
+    </message>
+    <message>
+        <source>No font that is installed has these letters, so that boxes stand for them: %1</source>
+        <translation>已安装的字体都没有这些字符，因此以方框代替：%1</translation>
+    </message>
 </context>
 <context>
     <name>PageGesture</name>

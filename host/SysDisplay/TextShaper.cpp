@@ -5,6 +5,7 @@
 #include <QCache>
 #include <QCoreApplication>
 #include <QFont>
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QHash>
@@ -119,9 +120,11 @@ public:
   std::shared_ptr<ShapedText const> shape(TextFormat const& format, QString const& fontKey, QString const& text) {
     TextKey const key{fontKey, text};
     checkLetters(format, letters_[fontKey], text);
-    if (auto const* known = texts_.object(key)) return *known;
-    auto const shaped = std::make_shared<ShapedText const>(layOut(format, text));
-    texts_.insert(key, new std::shared_ptr<ShapedText const>(shaped), text.size() + 16);
+    auto const* const known = texts_.object(key);
+    auto const shaped = known ? *known : std::make_shared<ShapedText const>(layOut(format, text));
+    if (!known) texts_.insert(key, new std::shared_ptr<ShapedText const>(shaped), text.size() + 16);
+    for (QChar const letter : shaped->lacking)
+      if (!troubles_.letters.contains(letter)) troubles_.letters += letter;
     return shaped;
   }
 
@@ -156,7 +159,7 @@ public:
     return letters;
   }
 
-  QStringList takeUnopened() { return std::exchange(unopened_, {}); }
+  FontTroubles takeTroubles() { return std::exchange(troubles_, {}); }
 
 private:
   struct Layout {
@@ -193,6 +196,7 @@ private:
     QHash<QChar, double> widths;
     QSet<QChar> checked;
     bool isUnopened = false;
+    bool isMissing = false;
 
     double width(QChar letter) {
       auto known = widths.find(letter);
@@ -215,6 +219,7 @@ private:
   // Qt takes another font in silence where the file of one can't be opened, and stays with it. At another size it tries
   // anew. So letters that were not met before are set twice, and have to come from the same fonts.
   void checkLetters(TextFormat const& format, Letters& letters, QString const& text) {
+    if (letters.checked.isEmpty()) letters.isMissing = isMissing(format.family);
     QString unmet;
     for (QChar const letter : text)
       if (!letters.checked.contains(letter)) unmet += letter;
@@ -222,7 +227,29 @@ private:
       for (QChar const letter : unmet) letters.checked.insert(letter);
       if (fontsOf(fontOf(format), text) != fontsOf(fontOf(format, referencePx - 1), text)) letters.isUnopened = true;
     }
-    if (letters.isUnopened && !unopened_.contains(format.family)) unopened_ << format.family;
+    auto const tell = [&](bool isSo, QStringList& families) {
+      if (isSo && !families.contains(format.family)) families << format.family;
+    };
+    tell(letters.isUnopened, troubles_.unopened);
+    tell(letters.isMissing, troubles_.missing);
+  }
+
+  // The names that stand for whatever there is of a kind are always right.
+  static bool isMissing(QString const& family) {
+    static QStringList const kinds{QStringLiteral("sans"),       QStringLiteral("sans serif"), QStringLiteral("serif"),
+                                   QStringLiteral("sans-serif"), QStringLiteral("monospace"),  QString()};
+    return !kinds.contains(family.toLower()) && !QFontDatabase().hasFamily(family);
+  }
+
+  // A missing letter is the first glyph of a font.
+  static QString lackingIn(Layout const& layout, QString const& words) {
+    QString lacking;
+    for (int from = 0, to = 0; from < words.size(); from = to) {
+      to = std::max(layout.text.nextCursorPosition(from), from + 1);
+      for (QGlyphRun const& run : layout.text.glyphRuns(from, to - from))
+        if (run.glyphIndexes().contains(0)) lacking += words.mid(from, to - from);
+    }
+    return lacking;
   }
 
   // By glyphs, in the order of the text.
@@ -257,11 +284,12 @@ private:
     ShapedText shaped;
     shaped.ascent = metrics.ascent() / referencePx;
     shaped.descent = metrics.descent() / referencePx;
-    for (QString const& line : text.split(QLatin1Char('\n'))) shaped.lines.push_back(layOutLine(font, spacing, line));
+    for (QString const& line : text.split(QLatin1Char('\n')))
+      shaped.lines.push_back(layOutLine(font, spacing, line, shaped.lacking));
     return shaped;
   }
 
-  ShapedLine layOutLine(QFont const& font, double spacing, QString const& text) {
+  ShapedLine layOutLine(QFont const& font, double spacing, QString const& text, QString& lacking) {
     Layout const layout(font, text);
     ShapedLine shaped;
     shaped.text = text;
@@ -270,6 +298,9 @@ private:
     shaped.width = (layout.line.naturalTextWidth() - (text.isEmpty() ? 0 : spacing)) / referencePx;
     // Those of the line stand in order. The text's are gathered by their fonts, in an order that changes.
     for (QGlyphRun const& run : layout.line.glyphRuns()) addRun(run, layout, shaped);
+    bool const isLacking = std::any_of(shaped.glyphs.begin(), shaped.glyphs.end(),
+                                       [](PlacedGlyph const& placed) { return placed.glyph->index() == 0; });
+    if (isLacking) lacking += lackingIn(layout, text);
     return shaped;
   }
 
@@ -302,7 +333,7 @@ private:
   static Shaper* shaper_;
   std::list<Face> faces_;
   std::map<QString, Letters> letters_;  // by font key
-  QStringList unopened_;
+  FontTroubles troubles_;
   QCache<TextKey, std::shared_ptr<ShapedText const>> texts_{maxKeptGlyphs};
 };
 
@@ -345,6 +376,6 @@ double minWidth(TextFormat const& format, QString const& fontKey, QString const&
   return Shaper::instance().minWidth(format, fontKey, text);
 }
 
-QStringList takeUnopenedFonts() { return Shaper::instance().takeUnopened(); }
+FontTroubles takeFontTroubles() { return Shaper::instance().takeTroubles(); }
 
 }  // namespace SysDisplay

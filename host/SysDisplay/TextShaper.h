@@ -58,6 +58,7 @@ struct ShapedText {
   std::vector<ShapedLine> lines;
   double ascent = 0;
   double descent = 0;
+  QString lacking;  ///< letters that no font has
 };
 
 /// Names what the shape of a text depends on, besides the text.
@@ -73,8 +74,14 @@ SYSDISPLAY_EXPORT std::vector<QString> lettersOf(TextFormat const& format, Shape
 /// A width, in units of the font's size, that the text has at least. Costs a small part of what laying it out does.
 double minWidth(TextFormat const& format, QString const& fontKey, QString const& text);
 
-/// The families of the texts asked for since it was last called whose fonts are there but could not be opened, so that
-/// other letters stand in for theirs. That lasts as long as the program runs.
-SYSDISPLAY_EXPORT QStringList takeUnopenedFonts();
+/// What texts were not drawn with, by families of fonts.
+struct FontTroubles {
+  QStringList unopened;  ///< there, but they could not be opened; that lasts as long as the program runs
+  QStringList missing;   ///< not there; another family stands in
+  QString letters;       ///< that no font has, so that boxes stand for them
+};
+
+/// Of the texts asked for since it was last called, each once.
+SYSDISPLAY_EXPORT FontTroubles takeFontTroubles();
 
 }  // namespace SysDisplay

@@ -94,7 +94,7 @@ QString ExportSubcommand::run() {
     };
   problem = page.write(document_, interrupt.cancel(), progress);
   if (progress) Console::showStatus(QString());
-  for (QString const& warning : SysCarto::laterWarnings(document_)) Console::complain(warning);
+  for (QString const& warning : SysCarto::laterWarnings(document_) + page.notes()) Console::complain(warning);
   if (problem.isEmpty() && !request_.quiet) Console::print(request_.image);
   return problem;
 }

@@ -138,6 +138,7 @@ MainWindow::MainWindow()
 
 // The desktop forgets the table of contents, and the views their follower, before they are destroyed.
 MainWindow::~MainWindow() {
+  hide();  // what has the focus is left while there is what it works on
   bench_.views().disconnect();
   bench_.session().disconnect(this);
   bench_.desktop().setTableOfContents(nullptr);

@@ -193,6 +193,13 @@ RunSteps::Kind const* RunSteps::kindOf(QString const& step) {
   return nullptr;
 }
 
+QString RunSteps::exportTo(QString const& file) {
+  QStringList notes;
+  QString const problem = exportPage(bench_, file, notes);
+  for (QString const& note : qAsConst(notes)) Console::complain(note);
+  return problem;
+}
+
 QString RunSteps::check(QStringList const& steps) const {
   if (bench_.plugin().state() != PluginLibrary::State::Loaded) return bench_.plugin().reason();
   for (QString const& step : steps) {

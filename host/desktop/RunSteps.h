@@ -64,7 +64,7 @@ private:
   QString identify(QString const& place);
   QString attributes(QString const& text);
   QString answer(QString const& text);
-  QString exportTo(QString const& file) { return exportPage(bench_, file); }
+  QString exportTo(QString const& file);
   QString print(QString const& target) { return printPage(bench_, target); }
   QString save(QString const& file);
   QString info(QString const&);

@@ -189,6 +189,24 @@ private slots:
     QVERIFY2(placed >= fewest, qPrintable(QString::number(placed)));
   }
 
+  void exportTellsOfFontsThatAreMissing() {
+    auto const text = [](char const* words, char const* family) {
+      return QJsonObject{{"type", "text"},
+                         {"text", words},
+                         {"position", QJsonArray{1, 3}},
+                         {"symbol", QJsonObject{{"type", "text"}, {"family", family}}}};
+    };
+    auto const told = [&](QJsonArray const& texts) {
+      folder_.writeVariant("fonts.kdx", {{"elements", texts}, {"maps", QJsonArray()}});
+      Outcome const outcome = run({"export", "fonts.kdx", "fonts.png", "--dpi", "30", "--quiet"}, folder_.path());
+      return outcome.status == 0 ? outcome.err : QStringLiteral("failed");
+    };
+    QCOMPARE(told({text("Zürich", "Lato"), text("Ελλάδα", "sans")}), QString());
+    QString const both = told({text("Zürich", "Nowhere"), text("Zug", "Nowhere"), text("a 𓀀 b", "Lato")});
+    QCOMPARE(both.count('\n'), 2);
+    QVERIFY2(both.contains("The font Nowhere is not installed") && both.contains(": 𓀀"), qPrintable(both));
+  }
+
   void infoFindsADocumentWithAnUmlautInAnyLocale() {
     QVERIFY(QFile::copy(folder_.path("page.kdx"), folder_.path("Übersicht.kdx")));
     Outcome const outcome = run({"info", "Übersicht.kdx"}, folder_.path(), {{"LC_ALL", "C"}});

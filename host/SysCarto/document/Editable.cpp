@@ -182,7 +182,9 @@ public:
   void undo() override { put(mergedChange(after_, before_, now())); }
   void redo() override {
     put(mergedChange(before_, after_, now()));
-    if (!std::exchange(isReached_, true)) after_ = now();
+    if (std::exchange(isReached_, true)) return;
+    after_ = now();
+    setObsolete(valuesOf(after_) == valuesOf(before_));  // what was wanted can't be, and it is as it was
   }
 
 private:

@@ -150,13 +150,13 @@ QString OutputCommands::exportAs(ImageFormat const& format) {
   }
   if (!problem.isEmpty()) return problem;
   lastPaths_[session.path() + QLatin1String(format.name)] = path;
-  tell(tr("%1 was written.").arg(QDir::toNativeSeparators(path)));
+  tell((QStringList{tr("%1 was written.").arg(QDir::toNativeSeparators(path))} + page.notes()).join(QLatin1Char(' ')));
   if (choices.isOpened && !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
     return tr("%1 was written, but no program is known that opens it.").arg(QDir::toNativeSeparators(path));
   return QString();
 }
 
-QString exportPage(Workbench& bench, QString const& path) {
+QString exportPage(Workbench& bench, QString const& path, QStringList& notes) {
   auto& document = bench.session().document();
   QString problem = OutputCommands::checkWhole(document);
   if (!problem.isEmpty()) return problem;
@@ -168,6 +168,7 @@ QString exportPage(Workbench& bench, QString const& path) {
   PageExport page(path, *format, ExportOptions::of(PageLayoutHost::output(*layout).file));
   problem = page.checkPlace();
   if (problem.isEmpty()) problem = writeWithPages(bench, page, *format, SysUtility::make<SysUI::TrackerCancel>(), {});
+  notes = page.notes();
   SysCarto::EditorHost::setHistory(SysCarto::MapDocumentHost::history(document));  // an image's drawing lets go of it
   return problem;
 }

@@ -45,4 +45,4 @@ private:
 
 /// Makes the page of a bench's document a file in the format that its suffix names, by the document's choices. Empty,
 /// or a sentence that says why not.
-QString exportPage(Workbench& bench, QString const& path);
+QString exportPage(Workbench& bench, QString const& path, QStringList& notes);

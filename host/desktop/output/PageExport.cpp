@@ -79,14 +79,19 @@ QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel>
   QString problem = checkPage(document);
   if (problem.isEmpty()) problem = target_.checkAgainst(document);
   QStringList const known = known_ ? *known_ : problemsOf(document);
-  SysDisplay::takeUnopenedFonts();
+  SysDisplay::takeFontTroubles();
   if (problem.isEmpty())
     problem = format_.isVector ? writeShapes(document, cancel) : writePixels(document, cancel, progress);
   if (problem.isEmpty() && !options_.allowMissing) problem = newProblem(document, known);
-  QStringList const fonts = SysDisplay::takeUnopenedFonts();
-  if (problem.isEmpty() && !fonts.isEmpty())
+  auto const fonts = SysDisplay::takeFontTroubles();
+  notes_.clear();
+  for (QString const& family : fonts.missing)
+    notes_ << tr("The font %1 is not installed; another one stands in for it.").arg(family);
+  if (!fonts.letters.isEmpty())
+    notes_ << tr("No font that is installed has these letters, so that boxes stand for them: %1").arg(fonts.letters);
+  if (problem.isEmpty() && !fonts.unopened.isEmpty())
     problem = tr("%1 was not written: the font %2 can't be opened at the moment; start the program again.")
-                  .arg(path_, fonts.first());
+                  .arg(path_, fonts.unopened.first());
   if (problem.isEmpty()) problem = target_.commit();
   return problem;
 }

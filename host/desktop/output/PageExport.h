@@ -46,6 +46,9 @@ public:
   QString write(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
                 ExportProgress const& progress = {});
 
+  /// What is to be said of what was written last, as sentences.
+  QStringList const& notes() const { return notes_; }
+
 private:
   QString writePixels(SysCarto::MapDocument& document, SysUtility::_ptr_t<SysUI::TrackerCancel> const& cancel,
                       ExportProgress const& progress);
@@ -60,4 +63,5 @@ private:
   ImageTarget target_;
   NextPage next_;
   std::optional<QStringList> known_;
+  QStringList notes_;
 };
