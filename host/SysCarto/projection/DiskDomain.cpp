@@ -12,7 +12,10 @@ namespace {
 constexpr double degree = M_PI / 180;
 constexpr double longEdge = 1;   // degrees; edges are divided before they are followed around the border
 constexpr double arcStep = 0.5;  // degrees of direction between vertices on the border
-constexpr double nearly = 1e-7;
+
+// So many degrees the middle lies beside the meridian that was asked for: data have edges along the one opposite of it,
+// and no edge may go through the antipode, where there is no direction.
+constexpr double aside = 1e-7;
 
 // Edges along a pole are followed around it, just before it; so the pole itself lies beyond them.
 constexpr double maxLatitude = 90 - 1e-7;
@@ -56,7 +59,7 @@ public:
         cosine_(cosineOf(centreLatitude)),
         limits_(std::move(limits)) {
     // At a pole every longitude will do; a round one would lie on the borders of data.
-    antipode_ = {180 - nearly, std::clamp(-centreLatitude, -antipodeLatitude, antipodeLatitude)};
+    antipode_ = {180 - aside, std::clamp(-centreLatitude, -antipodeLatitude, antipodeLatitude)};
     if (std::abs(antipode_.y) == antipodeLatitude) antipode_.x = 17.3;
   }
 
@@ -86,7 +89,8 @@ private:
 
 Polar DiskDomain::polar(Vertex const& v) const {
   double const sine = std::sin(v.y * degree), cosine = std::cos(v.y * degree);
-  double const east = cosine * std::sin(v.x * degree), along = cosine * std::cos(v.x * degree);
+  double const longitude = (v.x + aside) * degree;
+  double const east = cosine * std::sin(longitude), along = cosine * std::cos(longitude);
   double const north = cosine_ * sine - sine_ * along;
   return {std::atan2(east, north) / degree,
           std::atan2(std::hypot(east, north), sine_ * sine + cosine_ * along) / degree};
@@ -115,6 +119,7 @@ void DiskDomain::addArc(Run& run, double from, double by) const {
   for (int i = 1; i < pieces; ++i) {
     double const direction = from + by * i / pieces;
     Vertex v = placeFrom(latitude_, direction, limit(direction));
+    v.x -= aside;
     v.edge = seamEdge | arcEdge;
     run.push_back(v);
   }

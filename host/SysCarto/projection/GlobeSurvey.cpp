@@ -72,13 +72,17 @@ void GlobeSurvey::findBreaks() {
 // Where a break as wide as many cells ends within one, a point lies there that the projection can't show, such as the
 // pole of an oblique map. Answers whether there was one.
 bool GlobeSurvey::hideTornCells() {
+  auto const length = [&](int from, int to) {
+    if (from < 0 || to >= static_cast<int>(nodes_.size())) return 0.0;
+    double const long_ = distance(nodes_[from].x, nodes_[from].y, nodes_[to].x, nodes_[to].y);
+    return std::isfinite(long_) ? long_ : 0;
+  };
   auto const isTorn = [&](int edge) {
-    Edge const& found = edges_[edge];
-    if (found.last < 0 || found.first < 0) return false;
-    Place const &a = points_[found.last].place, &b = points_[found.first].place;
-    Place const &before = nodes_[points_[found.last].node], &after = nodes_[points_[found.first].node];
-    return distance(a.x, a.y, b.x, b.y) >
-           wideBreak * (distance(before.x, before.y, a.x, a.y) + distance(b.x, b.y, after.x, after.y));
+    if (edges_[edge].last < 0 || edges_[edge].first < 0) return false;
+    int const step = edge % 2 ? columns_ + 1 : 1, start = edge / 2, end = start + step, column = start % (columns_ + 1);
+    double const before = step > 1 || column > 0 ? length(start - step, start) : 0;
+    double const after = step > 1 || column + 1 < columns_ ? length(end, end + step) : 0;
+    return length(start, end) > wideBreak * (before + after);
   };
   std::vector<int> torn;
   for (int row = 0; row < rows_; ++row)

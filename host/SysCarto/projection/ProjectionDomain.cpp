@@ -1,10 +1,10 @@
 #include "ProjectionDomain.h"
 
 #include "GlobeSurvey.h"
+#include "ProjText.h"
 #include "ProjectionProbe.h"
 
 #include <QMutex>
-#include <QRegularExpression>
 #include <QString>
 
 #include <cpl_conv.h>
@@ -34,25 +34,6 @@ constexpr CentredProjection centredProjections[] = {
 
 constexpr int directions = 360;
 constexpr double margin = 1e-5;  // degrees: between two directions that were asked the border may bend inwards
-
-QString projText(OGRSpatialReference const& system) {
-  char* text = nullptr;
-  QString result;
-  if (system.exportToProj4(&text) == OGRERR_NONE) result = QString::fromUtf8(text);
-  CPLFree(text);
-  return result;
-}
-
-QString valueOf(QString const& text, char const* key) {
-  QRegularExpression const pattern(QStringLiteral("\\+%1=([^ ]+)").arg(QLatin1String(key)));
-  return pattern.match(text).captured(1);
-}
-
-double numberOf(QString const& text, char const* key, double otherwise) {
-  bool ok = false;
-  double const value = valueOf(text, key).toDouble(&ok);
-  return ok && std::isfinite(value) ? value : otherwise;
-}
 
 // Asks for places along ways from a centre, all ways at once: the distances to which they are good, towards `farthest`.
 using IsShown = std::function<std::vector<char>(std::vector<double> const& distances)>;
@@ -118,32 +99,31 @@ bool isWebMercator(OGRSpatialReference const& system) {
 }
 
 // What the projection suggests.
-Domain suggested(OGRSpatialReference const& system, QString const& text, ProjectionProbe const& probe) {
+Domain suggested(OGRSpatialReference const& system, ProjText const& text, ProjectionProbe const& probe) {
   if (system.IsGeographic()) return {0, true, makeStripDomain(-90, 90), 0};
-  QString name = valueOf(text, "proj");
-  double longitude = numberOf(text, "lon_0", numberOf(text, "lonc", 0)), latitude = numberOf(text, "lat_0", 0);
-  if (name == QLatin1String("utm")) longitude = 6 * numberOf(text, "zone", 31) - 183;
+  QString name = text.value("proj");
+  double longitude = text.number("lon_0", text.number("lonc", 0)), latitude = text.number("lat_0", 0);
+  if (name == QLatin1String("utm")) longitude = 6 * text.number("zone", 31) - 183;
   for (CentredProjection const& centred : centredProjections)
     if (name == QLatin1String(centred.name)) return makeDisk(longitude, latitude, centred.farthest, probe);
-  if (isWebMercator(system) || text.contains(QLatin1String("+nadgrids=@null"))) name = QStringLiteral("webmerc");
+  if (isWebMercator(system) || text.contains("+nadgrids=@null")) name = QStringLiteral("webmerc");
   return makeStrip(name, longitude, probe);
 }
 
 // The place at the false easting and northing.
-Vertex middleOf(QString const& text, double centralLongitude, ProjectionProbe const& probe) {
-  double const unit = numberOf(text, "to_meter", 1);
-  Vertex middle{numberOf(text, "x_0", 0) / unit, numberOf(text, "y_0", 0) / unit, 0};
-  if (!probe.comeBack(middle.x, middle.y)) return {0, numberOf(text, "lat_0", 0), 0};
+Vertex middleOf(ProjText const& text, double centralLongitude, ProjectionProbe const& probe) {
+  Vertex middle = probe.falseOrigin();
+  if (!probe.comeBack(middle.x, middle.y)) return {0, text.number("lat_0", 0), 0};
   middle.x = std::remainder(middle.x - centralLongitude, 360.0);
   return middle;
 }
 
 Domain found(OGRSpatialReference const& system, ProjectionProbe const& probe) {
-  QString const text = projText(system);
+  ProjText const text(system);
   Domain domain = suggested(system, text, probe);
   GlobeSurvey const glance(probe, domain.centralLongitude, GlobeSurvey::Care::Glance);
   domain.size = glance.size();
-  if (domain.size == 0 && !areShown({domain.centralLongitude, numberOf(text, "lat_0", 0)}, probe)[0])
+  if (domain.size == 0 && !areShown({domain.centralLongitude, text.number("lat_0", 0)}, probe)[0])
     return {0, true, nullptr, 0};
   if (glance.suits(*domain.border)) return domain;
   GlobeSurvey survey(probe, domain.centralLongitude, GlobeSurvey::Care::Survey);

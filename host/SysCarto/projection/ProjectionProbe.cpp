@@ -1,6 +1,7 @@
 #include "ProjectionProbe.h"
 
 #include "PointTransform.h"
+#include "ProjText.h"
 
 #include <QString>
 
@@ -18,10 +19,18 @@ constexpr double degree = M_PI / 180;
 constexpr double sameDegrees = 0.01;
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
-double unitsPerRadius(OGRSpatialReference const& system) {
-  double const unit = system.IsProjected() ? system.GetLinearUnits() : 0, radius = system.GetSemiMajor();
+double radiusOf(OGRSpatialReference const& system, double unit) {
+  double const radius = system.GetSemiMajor();
   return unit > 0 && radius > 0 ? radius / unit : 6378137;
 }
+
+Vertex falseOriginOf(OGRSpatialReference const& system, double unit) {
+  if (!(unit > 0)) return {0, 0, 0};
+  ProjText const text(system);  // in metres whatever the unit
+  return {text.number("x_0", 0) / unit, text.number("y_0", 0) / unit, 0};
+}
+
+double linearUnit(OGRSpatialReference const& system) { return system.IsProjected() ? system.GetLinearUnits() : 0; }
 
 bool isSamePlace(double const* a, double const* b) {
   if (!std::isfinite(b[0]) || !std::isfinite(b[1]) || std::abs(a[1] - b[1]) > sameDegrees) return false;
@@ -32,7 +41,9 @@ bool isSamePlace(double const* a, double const* b) {
 
 ProjectionProbe::ProjectionProbe(PointTransform const& toMap, OGRSpatialReference const& system,
                                  OGRSpatialReference const& globe)
-    : toMap_(toMap), radius_(unitsPerRadius(system)) {
+    : toMap_(toMap),
+      radius_(radiusOf(system, linearUnit(system))),
+      origin_(falseOriginOf(system, linearUnit(system))) {
   QString reason;
   toGlobe_ = PointTransform::create(system, globe, reason);
   if (!toGlobe_) return;
@@ -52,7 +63,7 @@ void ProjectionProbe::project(std::vector<double>& xy, double radii) const {
   double const farthest = radii * radius_;
   toMap_.apply(xy);
   for (size_t i = 0; i < xy.size(); i += 2)
-    if (!(std::abs(xy[i]) < farthest && std::abs(xy[i + 1]) < farthest)) xy[i] = xy[i + 1] = nan;
+    if (!(std::abs(xy[i] - origin_.x) < farthest && std::abs(xy[i + 1] - origin_.y) < farthest)) xy[i] = xy[i + 1] = nan;
 }
 
 void ProjectionProbe::projectAndReturn(std::vector<double>& xy, double radii) const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/SysCarto/projection/ProjectionDomain.h"
+
 #include <memory>
 #include <vector>
 
@@ -18,7 +20,7 @@ public:
   ProjectionProbe(ProjectionProbe const&) = delete;
   ProjectionProbe& operator=(ProjectionProbe const&) = delete;
 
-  /// What is projected beyond this, in radii of the globe, is as good as infinite.
+  /// What is projected farther from the false origin than this, in radii of the globe, is as good as infinite.
   static constexpr double maxRadii = 6;
 
   /// x, y pairs in place; NaN for a place that comes out nowhere, or farther away than `radii`.
@@ -28,13 +30,19 @@ public:
   /// something else. Where it knows no way back, what comes out is believed.
   void projectAndReturn(std::vector<double>& xy, double radii = maxRadii) const;
 
+  bool knowsWayBack() const { return toGlobe_ != nullptr; }
+
   /// The place of the globe at a place on the map; false where there is none.
   bool comeBack(double& x, double& y) const;
+
+  /// Where the projection's own 0, 0 lies on the map: the false easting and northing, in map units.
+  Vertex falseOrigin() const { return origin_; }
 
 private:
   PointTransform const& toMap_;
   std::unique_ptr<PointTransform> toGlobe_;  // null where there is no way back
   double radius_;                            // of the globe, in map units
+  Vertex origin_;
 };
 
 }  // namespace SysCarto

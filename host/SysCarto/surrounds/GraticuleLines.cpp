@@ -3,6 +3,7 @@
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GeometryProjector.h"
 #include "host/SysCarto/projection/PointTransform.h"
+#include "host/SysCarto/projection/ProjectionProbe.h"
 
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
@@ -65,7 +66,10 @@ GraticuleLines::GraticuleLines(QString const& definition) {
   projector_ = GeometryProjector::create(globe.get(), system.get(), error);
   toGlobe_ = PointTransform::create(*system, *globe, error);
   toMap_ = PointTransform::create(*globe, *system, error);
-  if (!toGlobe_ || !toMap_) projector_ = nullptr;
+  if (!toGlobe_ || !toMap_)
+    projector_ = nullptr;
+  else if (!ProjectionProbe(*toMap_, *system, *globe).knowsWayBack())
+    toGlobe_ = nullptr;
 }
 
 GraticuleLines::~GraticuleLines() = default;
@@ -79,6 +83,7 @@ bool GraticuleLines::shows(double longitude, double latitude, Envelope const& ex
 // From places spread over the extent; the lines reach beyond it, so that it need not be exact. The middle comes first:
 // longitudes are counted from the first place that the globe has.
 GraticuleLines::Range GraticuleLines::rangeOf(Envelope const& extent) const {
+  if (!toGlobe_) return grown({-180, 180, -90, 90}, 0, extent);
   std::vector<double> places;
   auto const addPlace = [&](double column, double row) {
     places.push_back(extent.GetXMin() + extent.GetWidth() * column / samples);
@@ -133,16 +138,28 @@ GraticuleLines::Pole GraticuleLines::poleAt(double latitude, double longitude, E
   return meets ? Pole::Point : Pole::Line;
 }
 
-// The middle alone would not do: it may be a pole, where a degree of longitude has no length.
+// Longitude and latitude of some places spread over the extent. The middle alone would not do: it may be a pole, where a
+// degree of longitude has no length.
+std::vector<QPointF> GraticuleLines::placesIn(Envelope const& extent) const {
+  std::vector<QPointF> places;
+  for (QPointF const& place :
+       {QPointF(0.5, 0.5), QPointF(0.25, 0.25), QPointF(0.75, 0.25), QPointF(0.25, 0.75), QPointF(0.75, 0.75)}) {
+    double x = extent.GetXMin() + place.x() * extent.GetWidth(), y = extent.GetYMin() + place.y() * extent.GetHeight();
+    if (toGlobe_ && toGlobe_->apply(x, y)) places.emplace_back(x, y);
+  }
+  if (toGlobe_) return places;
+  for (int latitude = -75; latitude <= 75; latitude += 15)
+    for (int longitude = -180; longitude < 180; longitude += 15)
+      if (shows(longitude, latitude, extent)) places.emplace_back(longitude, latitude);
+  return places;
+}
+
 GridStep GraticuleLines::unitSize(Envelope const& extent) const {
   constexpr double measured = 1e-3;  // degrees
   GridStep sum{0, 0};
   int count = 0;
-  for (QPointF const& place :
-       {QPointF(0.5, 0.5), QPointF(0.25, 0.25), QPointF(0.75, 0.25), QPointF(0.25, 0.75), QPointF(0.75, 0.75)}) {
-    double x = extent.GetXMin() + place.x() * extent.GetWidth(), y = extent.GetYMin() + place.y() * extent.GetHeight();
-    if (!projector_ || !toGlobe_->apply(x, y)) continue;
-    double const toEquator = y > 0 ? -measured : measured;
+  for (QPointF const& place : projector_ ? placesIn(extent) : std::vector<QPointF>()) {
+    double const x = place.x(), y = place.y(), toEquator = y > 0 ? -measured : measured;
     std::vector<double> ends{x, y, inTurn(x + measured), y, x, y + toEquator};
     toMap_->apply(ends);
     double const alongX = std::hypot(ends[2] - ends[0], ends[3] - ends[1]),

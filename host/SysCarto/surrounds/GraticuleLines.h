@@ -2,9 +2,11 @@
 
 #include "GridLines.h"
 
+#include <QPointF>
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 namespace SysCarto {
 
@@ -38,13 +40,15 @@ private:
   Range rangeOf(SysGeometry::Envelope const& extent) const;
   Range grown(Range range, double middle, SysGeometry::Envelope const& extent) const;
   bool shows(double longitude, double latitude, SysGeometry::Envelope const& extent) const;
+  std::vector<QPointF> placesIn(SysGeometry::Envelope const& extent) const;
   Pole poleAt(double latitude, double longitude, SysGeometry::Envelope const& extent) const;
   bool isCutAt(double longitude) const;
   void addMeridian(QVector<GridLine>& lines, double number, GridStep const& interval, Range const& range) const;
   GridLine made(bool isMeridian, double step, double number, QLineF const& onGlobe) const;
 
   std::unique_ptr<GeometryProjector> projector_;
-  std::unique_ptr<PointTransform> toGlobe_, toMap_;
+  std::unique_ptr<PointTransform> toMap_;
+  std::unique_ptr<PointTransform> toGlobe_;  // null where PROJ knows no way back
 };
 
 }  // namespace SysCarto

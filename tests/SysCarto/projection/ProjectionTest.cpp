@@ -65,6 +65,8 @@ private slots:
     row("Equal Earth", equalEarth, earthArea);
     row("Equal Earth, cut in the Atlantic", equalEarthPacific, earthArea);
     row("azimuthal about a place, up to near its antipode", "+proj=laea +lat_0=52 +lon_0=10 +datum=WGS84", earthArea);
+    row("azimuthal about Greenwich, whose antipode lies on an edge of the globe", "+proj=laea +lat_0=51.5 +datum=WGS84",
+        earthArea);
     row("azimuthal about the south pole", "+proj=laea +lat_0=-90 +datum=WGS84", earthArea);
     row("azimuthal on the antimeridian", "+proj=laea +lat_0=0 +lon_0=180 +datum=WGS84", earthArea);
     row("half the globe seen from above is a disk", globe, M_PI * 6371000.0 * 6371000.0);
