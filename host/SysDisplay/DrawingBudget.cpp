@@ -3,6 +3,7 @@
 #include "host/SysDisplay/PointRuns.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <vector>
 
@@ -17,6 +18,7 @@ constexpr double searchCost = 2;  // of each cell that is passed on the way to a
 constexpr double walkCost = 6;    // of each row or column of an edge that is gone through once more
 
 thread_local DrawingBudget* current = nullptr;
+std::atomic<bool> isCounting = false, hasGivenUp = false;
 
 // The cells that edges cross, in strips of some rows. The rasteriser keeps those of a row in a list, which it searches
 // from its left end for each crossing. It has room for few, and goes along all edges of a strip again, from end to end,
@@ -82,9 +84,22 @@ private:
 
 }  // namespace
 
-DrawingBudget::DrawingBudget(double pixels) : pixels_(pixels), left_(pixels), before_(current) { current = this; }
+DrawingBudget::DrawingBudget(double pixels) : pixels_(pixels), left_(pixels), before_(current) {
+  current = this;
+  hasGivenUp = false;
+  isCounting = true;
+}
 
-DrawingBudget::~DrawingBudget() { current = before_; }
+DrawingBudget::~DrawingBudget() {
+  current = before_;
+  isCounting = before_ != nullptr;
+}
+
+bool DrawingBudget::isExceeded() const { return left_ < 0 || hasGivenUp; }
+
+void DrawingBudget::giveUp() { hasGivenUp = true; }
+
+bool DrawingBudget::isGivenUp() { return isCounting && hasGivenUp; }
 
 void DrawingBudget::spend(double pixels) {
   if (current) current->left_ -= pixels;

@@ -22,10 +22,14 @@ public:
   DrawingBudget(DrawingBudget const&) = delete;
   DrawingBudget& operator=(DrawingBudget const&) = delete;
 
-  bool isExceeded() const { return left_ < 0; }
+  bool isExceeded() const;
 
   /// As much again as at first, for another page.
   void renew() { left_ = pixels_; }
+
+  /// Spends all there is, on whatever thread: the rasteriser gave up, and the picture lacks what it was to fill.
+  static void giveUp();
+  static bool isGivenUp();
 
   // Of the one that counts on this thread.
 

@@ -1,6 +1,7 @@
 #include "FillQueue.h"
 
 #include "host/SysDisplay/DevicePath.h"
+#include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysGeometry/PlaneGeometry.h"
 
 #include <QImage>
@@ -102,7 +103,8 @@ public:
   void paint(Batch const& batch) noexcept {
     if (!own_) prepare();  // others draw with that painter in between
     for (Fill const& fill : batch.fills)
-      if (fill.bounds.bottom() > top_ && fill.bounds.top() < bottom_) paint(batch.rings, fill);
+      if (fill.bounds.bottom() > top_ && fill.bounds.top() < bottom_ && !DrawingBudget::isGivenUp())
+        paint(batch.rings, fill);
   }
 
   size_t next = 0;  // of the batches

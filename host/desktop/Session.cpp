@@ -3,6 +3,8 @@
 #include "Console.h"
 #include "connections/KeptConnections.h"
 
+#include "host/SysDisplay/DrawingBudget.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QStyleFactory>
@@ -43,11 +45,18 @@ constexpr char const* sessionVariables[] = {
   std::_Exit(1);
 }
 
+// What Qt's rasteriser says instead of filling.
+bool isGivenUp(QString const& text) {
+  return text == QLatin1String("Polygon too complex for filling.") ||
+         text == QLatin1String("QPainter: Rasterization of primitive failed");
+}
+
 // Outside a session, as in a container, Qt tells everyone that there is no session, and that a window without a screen
 // keeps no size hints.
 void passOn(QtMsgType type, QMessageLogContext const&, QString const& text) {
   for (char const* known : {"QStandardPaths: XDG_RUNTIME_DIR", "This plugin does not support propagateSizeHints"})
     if (text.startsWith(QLatin1String(known))) return;
+  if (isGivenUp(text)) return SysDisplay::DrawingBudget::giveUp();
   if (type == QtFatalMsg && text.contains(QLatin1String("no Qt platform plugin"))) endWithoutDisplay();
   Console::complain(text);
 }
