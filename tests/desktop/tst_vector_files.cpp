@@ -105,7 +105,7 @@ QJsonObject difficultPage() {
       "'DejaVu Sans','size':12,'bold':true}}");
   elements << json(
       "{'type':'dataFrame','map':0,'name':'Mixed','rectangle':[0.3,0.3,4.6,4.3],'shadow':{'offset':"
-      "[3,-3],'symbol':{'type':'simpleFill','color':'#80000000'}}}");
+      "[3,-3],'symbol':{'type':'simpleFill','color':'#80000000'}},'grids':[{'interval':0.005,'labels':false}]}");
   QByteArray layers;
   for (QByteArray const look : {"'opacity':60", "'blend':'multiply'", "'blend':'screen','opacity':80"})
     layers += QByteArray(layers.isEmpty() ? "" : ",") +
@@ -147,8 +147,7 @@ private slots:
 
   void showWhatTheImageShows_data() {
     Rows<QString, QStringList> row;
-    row("fills, lines, halos, markers, an overview", "aegean.kdx", {});
-    row("a graticule and a legend", "world.kdx", {});
+    row("fills, lines, halos, markers, an overview, a legend", "aegean.kdx", {});
     row("what is hard to draw", "difficult.kdx", {});
     row("letters as shapes", "difficult.kdx", {"--text", "shapes"});
   }
