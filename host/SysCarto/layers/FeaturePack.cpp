@@ -98,6 +98,11 @@ bool isPoint(FeatureStore const& store, Feature const& feature) {
   return feature.partCount == 1 && store.parts[static_cast<size_t>(feature.firstPart)].kind == PartKind::Point;
 }
 
+// A point, or an area that is smaller than a cell.
+bool isSpot(FeatureStore const& store, Feature const& feature) {
+  return feature.partCount == 1 && store.parts[static_cast<size_t>(feature.firstPart)].count == 1;
+}
+
 }  // namespace
 
 FeaturePack::FeaturePack(Box const& area, double cell, LabelChoice const& choice)
@@ -147,8 +152,8 @@ void FeaturePack::add(FeatureStore const& features) {
 bool FeaturePack::isRepeated(FeatureStore const& from, size_t feature, int symbolClass, Bucket& bucket) const {
   Box const& box = from.features[feature].box;
   double const pixel = cell_ * cellsPerPixel;
-  // Areas and lines, however small, add to what a pixel shows.
-  if (!isPoint(from, from.features[feature]) || from.valuesPerFeature > 0) return false;
+  // Areas and lines that have a size, however small, add to what a pixel shows.
+  if (!isSpot(from, from.features[feature]) || from.valuesPerFeature > 0) return false;
   if (++bucket.points <= freeRepetitions) return false;
   auto const place = [&](double at, qint64 origin) {
     double const pixels = std::floor((at - coordinate(origin)) / pixel);

@@ -27,9 +27,11 @@
 #include <ogrsf_frmts.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <deque>
 #include <limits>
+#include <optional>
 #include <set>
 #include <utility>
 
@@ -156,7 +158,8 @@ bool isLarge(OGRLayer& layer, SourceSettings const& source) {
   return isMuch(toldSize(layer, source));
 }
 
-// Hands on the parts of features that can be seen.
+// Hands on the parts of a feature that can be seen, and of an area of which none can, where it lies: there it is drawn in
+// the least size.
 class ThinningSink final : public PartSink {
 public:
   ThinningSink(ThinningGrid const& grid, bool keepsSmall, FeatureStore& store)
@@ -166,14 +169,33 @@ public:
   void addPart(PartKind kind, double const* xy, int count) override {
     kept_.resize(2 * static_cast<size_t>(count));
     int const left = grid_.thin(kind, xy, count, kept_.data());
-    if (left >= (keepsSmall_ ? 1 : ThinningGrid::minVertices(kind))) store_.addPart(kind, kept_.data(), left);
+    bool const isArea = kind == PartKind::Ring || kind == PartKind::FilledRing;
+    if (left >= (keepsSmall_ ? 1 : ThinningGrid::minVertices(kind))) {
+      store_.addPart(kind, kept_.data(), left);
+      isSeen_ = true;
+    } else if (isArea && left > 0 && !unseen_) {
+      unseen_ = {kind, {kept_[0], kept_[1]}};
+    }
+  }
+
+  void finish() {
+    if (isSeen_ || !unseen_) return;
+    store_.startPolygon();
+    store_.addPart(unseen_->kind, unseen_->at.data(), 1);
   }
 
 private:
+  struct Spot {
+    PartKind kind;
+    std::array<double, 2> at;
+  };
+
   ThinningGrid const& grid_;
   bool const keepsSmall_;
   FeatureStore& store_;
   std::vector<double> kept_;
+  bool isSeen_ = false;
+  std::optional<Spot> unseen_;
 };
 
 // The features of a layer in turn, each once.
@@ -289,6 +311,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     if (!result.pack) return own.add(geometry, to);
     ThinningSink sink(grid, store.keepsLabels, to);
     own.add(geometry, sink);
+    sink.finish();
   };
   auto const place = [&, &rendering = renderer](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
     to.beginFeature(feature.GetFID());

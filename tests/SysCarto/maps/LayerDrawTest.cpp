@@ -84,6 +84,12 @@ private slots:
                                    fill(Qt::white, SimpleFillStyle::Solid, pen(1)));
       QVERIFY(ink(shown({0, 0, 40, 40}, QSize(40, 40)).drawn(sceneOf(data))).pixels > 0);
     }
+    auto const former = setWindowThreshold({0, 0});
+    auto const smallest = opened({sample("world.gpkg"), "countries", "name = 'Vatican'", {}}, "",
+                                 fill(Qt::white, SimpleFillStyle::Solid, pen(1)));
+    setWindowThreshold(former);
+    QVERIFY(smallest.layer->hasWindows());
+    QVERIFY(ink(shown({-180, -90, 180, 90}, QSize(72, 36)).drawn(sceneOf(smallest))).pixels > 0);
   }
 
   void aWindowShowsWhatTheWholeLayerDoes_data() {
