@@ -180,8 +180,18 @@ QString SeriesExport::writePage(int page, QString const& path) {
   }
   file.setKnown(known_);
   if (problem.isEmpty()) problem = file.write(document_, cancel_);
+  tellNotes(file);
   if (problem.isEmpty()) tell(path);
   return problem;
+}
+
+// What is so on one page is so on many, and told once.
+void SeriesExport::tellNotes(PageExport const& file) {
+  for (QString const& note : file.notes()) {
+    if (notes_.contains(note)) continue;
+    notes_ << note;
+    Console::complain(note);
+  }
 }
 
 bool SeriesExport::isDone(PageExport const& page, QString const& path) const {
@@ -196,6 +206,7 @@ QString SeriesExport::writeBook() {
   file.setPages([this] { return nextOfBook(); });
   problem = file.write(document_, cancel_);
   showProgress(-1, {});
+  tellNotes(file);
   if (!problem.isEmpty()) return problem;
   tell(request_.path);
   return summary();
