@@ -7263,7 +7263,7 @@
         <translation>In „%1“ ist keine Datei mit Daten.</translation>
     </message>
     <message>
-        <source>No connection to a database is known; add one in Edit › Connections….</source>
+        <source>No connection to a database is known; Edit › Connections… adds one.</source>
         <translation>Es ist keine Verbindung zu einer Datenbank bekannt; fügen Sie eine in Bearbeiten › Verbindungen… hinzu.</translation>
     </message>
     <message>

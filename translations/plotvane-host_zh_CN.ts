@@ -7263,7 +7263,7 @@
         <translation>“%1”中没有数据文件。</translation>
     </message>
     <message>
-        <source>No connection to a database is known; add one in Edit › Connections….</source>
+        <source>No connection to a database is known; Edit › Connections… adds one.</source>
         <translation>没有已知的数据库连接;请在“编辑 › 连接…”中添加。</translation>
     </message>
     <message>

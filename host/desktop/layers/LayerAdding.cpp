@@ -90,7 +90,7 @@ void LayerAdding::addTo(HostCommands& host, LayerAdding& self) {
 
 void LayerAdding::chooseTables() {
   QStringList const names = SysCarto::Connections::names();
-  if (names.isEmpty()) return complain(tr("No connection to a database is known; add one in Edit › Connections…."));
+  if (names.isEmpty()) return complain(tr("No connection to a database is known; Edit › Connections… adds one."));
   bool isChosen = true;
   QString const name = names.size() == 1 ? names.first()
                                          : QInputDialog::getItem(&parent_, tr("Add Layers from Database"),
