@@ -1,5 +1,7 @@
 #include "Console.h"
 
+#include <QSet>
+
 #include <unistd.h>
 
 #include <atomic>
@@ -24,6 +26,13 @@ void complain(QString const& sentence) {
   if (isSilent) return;
   QByteArray const bytes = QByteArrayLiteral("plotvane: ") + sentence.toLocal8Bit() + '\n';
   std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
+}
+
+void remark(QString const& sentence) {
+  static QSet<QString> told;
+  if (told.contains(sentence)) return;
+  told.insert(sentence);
+  complain(sentence);
 }
 
 void silence() { isSilent = true; }

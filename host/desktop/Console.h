@@ -11,6 +11,9 @@ void print(QString const& text);
 /// A sentence about a problem, with the program's name before it.
 void complain(QString const& sentence);
 
+/// A sentence about what may matter: as `complain`, but each sentence once.
+void remark(QString const& sentence);
+
 /// From now on nothing more is complained about: another process tells. May be called by a signal's handler.
 void silence();
 

@@ -94,14 +94,14 @@ QString ExportSubcommand::run() {
     };
   problem = page.write(document_, interrupt.cancel(), progress);
   if (progress) Console::showStatus(QString());
-  for (QString const& warning : SysCarto::laterWarnings(document_) + page.notes()) Console::complain(warning);
+  for (QString const& warning : SysCarto::laterWarnings(document_) + page.notes()) Console::remark(warning);
   if (problem.isEmpty() && !request_.quiet) Console::print(request_.image);
   return problem;
 }
 
 QString ExportSubcommand::openDocument() {
   bool const opened = document_.Open(request_.document);
-  for (QString const& warning : document_.GetWarnings()) Console::complain(warning);
+  for (QString const& warning : document_.GetWarnings()) Console::remark(warning);
   if (!opened) return document_.GetErrors().join(QLatin1Char('\n'));
   if (SysCarto::MapDocumentHost::unreadableSources(document_) > 0 && !request_.allowMissing)
     return tr("%1: data sources could not be read, so the page would not be whole; mend them, or pass --allow-missing.")

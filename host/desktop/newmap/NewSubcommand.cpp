@@ -99,7 +99,7 @@ ExitStatus runNew(Subcommand const& self, QStringList const& arguments) {
   if (problem.isEmpty()) {
     auto const desktop = SysUtility::make<OffscreenDesktop>(document);
     NewMapResult const made = makeNewMap(request, document);
-    for (QString const& warning : made.warnings + SysCarto::laterWarnings(document)) Console::complain(warning);
+    for (QString const& warning : made.warnings + SysCarto::laterWarnings(document)) Console::remark(warning);
     problem = made.problem;
     if (problem.isEmpty() && parser.isSet(explain)) Console::print(made.explanation.join(QLatin1Char('\n')));
     if (problem.isEmpty()) problem = write(document, operands.first());

@@ -180,18 +180,9 @@ QString SeriesExport::writePage(int page, QString const& path) {
   }
   file.setKnown(known_);
   if (problem.isEmpty()) problem = file.write(document_, cancel_);
-  tellNotes(file);
+  for (QString const& note : file.notes()) Console::remark(note);
   if (problem.isEmpty()) tell(path);
   return problem;
-}
-
-// What is so on one page is so on many, and told once.
-void SeriesExport::tellNotes(PageExport const& file) {
-  for (QString const& note : file.notes()) {
-    if (notes_.contains(note)) continue;
-    notes_ << note;
-    Console::complain(note);
-  }
 }
 
 bool SeriesExport::isDone(PageExport const& page, QString const& path) const {
@@ -206,7 +197,7 @@ QString SeriesExport::writeBook() {
   file.setPages([this] { return nextOfBook(); });
   problem = file.write(document_, cancel_);
   showProgress(-1, {});
-  tellNotes(file);
+  for (QString const& note : file.notes()) Console::remark(note);
   if (!problem.isEmpty()) return problem;
   tell(request_.path);
   return summary();

@@ -71,7 +71,6 @@ private:
   std::optional<QString> nextOfBook();
   QString interrupted() const;
   bool isDone(PageExport const& page, QString const& path) const;
-  void tellNotes(PageExport const& file);
   void tell(QString const& path);
   void showProgress(int done, QString const& name) const;
 
@@ -84,7 +83,6 @@ private:
   QStringList known_;     // problems of the data, before the first page
   int passed_ = 0;        // that were there
   QDateTime lastChange_;  // of what pages are drawn from
-  QStringList notes_;     // that were told
   QList<int> failed_;
   size_t next_ = 0;  // of a book, among the chosen ones
 };
