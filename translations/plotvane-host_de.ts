@@ -3098,8 +3098,8 @@
         <translation>%1 wird ganz gelesen, da in „%2“ kein Index dafür angelegt werden kann: %3.</translation>
     </message>
     <message>
-        <source>The coordinates of %1 can&apos;t be degrees, as GeoJSON&apos;s and those of its coordinate system are; they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>Die Koordinaten von %1 können keine Grad sein, wie es die von GeoJSON und die ihres Koordinatensystems sind; sie werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+        <source>The coordinates of %1 can&apos;t be degrees, as those of its coordinate system are (GeoJSON that names none is in degrees); they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Die Koordinaten von %1 können keine Grad sein, wie es die ihres Koordinatensystems sind (GeoJSON, das keines nennt, ist in Grad); sie werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
     <message>
         <source>Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it with the name of the encoding would say so.</source>

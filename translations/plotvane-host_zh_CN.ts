@@ -3098,8 +3098,8 @@
         <translation>将完整读取%1，因为无法在“%2”中为其建立索引：%3。</translation>
     </message>
     <message>
-        <source>The coordinates of %1 can&apos;t be degrees, as GeoJSON&apos;s and those of its coordinate system are; they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>%1 的坐标不可能是度，而 GeoJSON 及其坐标系的坐标应当是度；现按地图的坐标处理。请在数据源的“coordinateSystem”字段中指定坐标系。</translation>
+        <source>The coordinates of %1 can&apos;t be degrees, as those of its coordinate system are (GeoJSON that names none is in degrees); they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1 的坐标不可能是度，而其坐标系的坐标应当是度（未指定坐标系的 GeoJSON 以度为单位）；现按地图的坐标处理。请在数据源的“coordinateSystem”字段中指定坐标系。</translation>
     </message>
     <message>
         <source>Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it with the name of the encoding would say so.</source>

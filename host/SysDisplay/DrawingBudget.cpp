@@ -97,7 +97,10 @@ DrawingBudget::~DrawingBudget() {
 
 bool DrawingBudget::isExceeded() const { return left_ < 0 || hasGivenUp; }
 
-void DrawingBudget::giveUp() { hasGivenUp = true; }
+bool DrawingBudget::giveUp() {
+  if (isCounting) hasGivenUp = true;
+  return isCounting;
+}
 
 bool DrawingBudget::isGivenUp() { return isCounting && hasGivenUp; }
 

@@ -27,8 +27,9 @@ public:
   /// As much again as at first, for another page.
   void renew() { left_ = pixels_; }
 
-  /// Spends all there is, on whatever thread: the rasteriser gave up, and the picture lacks what it was to fill.
-  static void giveUp();
+  /// Spends all there is, on whatever thread: the rasteriser gave up, and the picture lacks what it was to fill. False
+  /// where none counts.
+  static bool giveUp();
   static bool isGivenUp();
 
   // Of the one that counts on this thread.

@@ -123,8 +123,10 @@ public:
     auto const* const known = texts_.object(key);
     auto const shaped = known ? *known : std::make_shared<ShapedText const>(layOut(format, text));
     if (!known) texts_.insert(key, new std::shared_ptr<ShapedText const>(shaped), text.size() + 16);
-    for (QChar const letter : shaped->lacking)
+    for (uint const code : shaped->lacking.toUcs4()) {
+      QString const letter = QString::fromUcs4(&code, 1);
       if (!troubles_.letters.contains(letter)) troubles_.letters += letter;
+    }
     return shaped;
   }
 
@@ -236,8 +238,10 @@ private:
 
   // The names that stand for whatever there is of a kind are always right.
   static bool isMissing(QString const& family) {
-    static QStringList const kinds{QStringLiteral("sans"),       QStringLiteral("sans serif"), QStringLiteral("serif"),
-                                   QStringLiteral("sans-serif"), QStringLiteral("monospace"),  QString()};
+    static QStringList const kinds{
+        QStringLiteral("sans"),       QStringLiteral("sans serif"), QStringLiteral("serif"),
+        QStringLiteral("sans-serif"), QStringLiteral("monospace"),  QStringLiteral("cursive"),
+        QStringLiteral("fantasy"),    QStringLiteral("system-ui"),  QString()};
     return !kinds.contains(family.toLower()) && !QFontDatabase().hasFamily(family);
   }
 

@@ -56,7 +56,7 @@ bool isGivenUp(QString const& text) {
 void passOn(QtMsgType type, QMessageLogContext const&, QString const& text) {
   for (char const* known : {"QStandardPaths: XDG_RUNTIME_DIR", "This plugin does not support propagateSizeHints"})
     if (text.startsWith(QLatin1String(known))) return;
-  if (isGivenUp(text)) return SysDisplay::DrawingBudget::giveUp();
+  if (isGivenUp(text) && SysDisplay::DrawingBudget::giveUp()) return;
   if (type == QtFatalMsg && text.contains(QLatin1String("no Qt platform plugin"))) endWithoutDisplay();
   Console::complain(text);
 }

@@ -179,12 +179,18 @@ public:
         before_(now()),
         after_(std::move(wanted)) {}
 
+  /// Before it goes into the history, which forgets what could be redone. False where what was wanted can't be, and all
+  /// is as it was.
+  bool begin() {
+    put(mergedChange(before_, after_, now()));
+    after_ = now();
+    isBegun_ = true;
+    return valuesOf(after_) != valuesOf(before_);
+  }
+
   void undo() override { put(mergedChange(after_, before_, now())); }
   void redo() override {
-    put(mergedChange(before_, after_, now()));
-    if (std::exchange(isReached_, true)) return;
-    after_ = now();
-    setObsolete(valuesOf(after_) == valuesOf(before_));  // what was wanted can't be, and it is as it was
+    if (!std::exchange(isBegun_, false)) put(mergedChange(before_, after_, now()));
   }
 
 private:
@@ -202,7 +208,7 @@ private:
   std::shared_ptr<QStringList> const told_;
   Settings const before_;
   Settings after_;
-  bool isReached_ = false;
+  bool isBegun_ = false;  // and not redone since
 };
 
 // Something that stays where it is.
@@ -234,7 +240,8 @@ protected:
     if (reader.ok() && valuesOf(settings) == valuesOf(uses_.of(*target_, context))) return nullptr;
     return [this, settings, context](QString const& step, QStringList& warnings) {
       auto const told = std::make_shared<QStringList>();
-      takeStep(std::make_unique<SettingsStep<Target, Uses, Settings>>(step, target_, uses_, context, settings, told));
+      auto made = std::make_unique<SettingsStep<Target, Uses, Settings>>(step, target_, uses_, context, settings, told);
+      if (made->begin()) takeStep(std::move(made));
       warnings += *told;
     };
   }

@@ -109,10 +109,9 @@ std::vector<Row> rowsOf(Rings const& upright) {
   std::sort(found.begin(), found.end(), [](Row const& a, Row const& b) { return a.y < b.y; });
   auto const isNarrow = [least = leastWidth * widest](Row const& one) { return one.width() < least; };
   auto const middle = std::find_if(found.begin(), found.end(), [&](Row const& one) { return one.y == first->y; });
-  found.erase(std::find_if(middle, found.end(), isNarrow), found.end());
-  auto const last = std::find_if(std::make_reverse_iterator(middle), found.rend(), isNarrow);
-  found.erase(found.begin(), last.base());
-  return found;
+  auto const end = std::find_if(middle + 1, found.end(), isNarrow);
+  auto const begin = std::find_if(std::make_reverse_iterator(middle), found.rend(), isNarrow).base();
+  return {begin, end};
 }
 
 // x = a + b·t + c·t² with t from −1 to 1, by least squares: the wider a row the more it counts.

@@ -5,6 +5,7 @@
 #include "LocalDataset.h"
 #include "raster/RasterSource.h"
 #include "ServerDatabase.h"
+#include "ServerLayer.h"
 #include "SourceSystem.h"
 #include "TableLayer.h"
 
@@ -186,7 +187,8 @@ LayerDescription describeSchema(OGRLayer& from) {
   layer.count = knownCount(from);
   auto const kind = kindOf(from.GetGeomType());
   layer.kind = kind.value_or(GeometryKind::Mixed);
-  if (layer.kind != GeometryKind::None) describeSystem(systemOf(from).system, layer);
+  if (layer.kind != GeometryKind::None)
+    describeSystem(systemOf(from, dynamic_cast<ServerLayer*>(&from) != nullptr).system, layer);
   return layer;
 }
 

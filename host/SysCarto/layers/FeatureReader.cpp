@@ -99,7 +99,7 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
   auto const globe = isGlobe && target ? globeOf(*target) : nullptr;  // the globe is the map's own
   GdalErrors const errors;
   bool const saysItself = !isGlobe && !given;
-  auto const said = saysItself ? systemOf(layer) : SourceSystem();
+  auto const said = saysItself ? systemOf(layer, !source.connection.isEmpty()) : SourceSystem();
   OGRSpatialReference const* const own = isGlobe ? globe.get() : given ? given.get() : said.system;
   // A database names the column of its keys; it knows a system that it fails to tell. What a file beside the data says
   // may be nonsense.
@@ -113,9 +113,9 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
   if (said.isNoDegrees)
     result.warnings
         << Texts::tr(
-               "The coordinates of %1 can't be degrees, as GeoJSON's and those of its coordinate system are; "
-               "they are taken as those of the map. Give the system in the source's field "
-               "“coordinateSystem”.")
+               "The coordinates of %1 can't be degrees, as those of its coordinate system are (GeoJSON that "
+               "names none is in degrees); they are taken as those of the map. Give the system in the "
+               "source's field “coordinateSystem”.")
                .arg(describeSource(source));
   else if (!own && target)
     result.warnings << Texts::tr(
@@ -158,8 +158,8 @@ bool isLarge(OGRLayer& layer, SourceSettings const& source) {
   return isMuch(toldSize(layer, source));
 }
 
-// Hands on the parts of a feature that can be seen, and of an area of which none can, where it lies: there it is drawn in
-// the least size.
+// Hands on the parts of a feature that can be seen, and of an area of which none can, where it lies: a place, or the
+// ends of a strip. There it is drawn in the least size.
 class ThinningSink final : public PartSink {
 public:
   ThinningSink(ThinningGrid const& grid, bool keepsSmall, FeatureStore& store)
@@ -174,20 +174,21 @@ public:
       store_.addPart(kind, kept_.data(), left);
       isSeen_ = true;
     } else if (isArea && left > 0 && !unseen_) {
-      unseen_ = {kind, {kept_[0], kept_[1]}};
+      unseen_ = {kind, left, {kept_[0], kept_[1], kept_[2 * left - 2], kept_[2 * left - 1]}};
     }
   }
 
   void finish() {
     if (isSeen_ || !unseen_) return;
     store_.startPolygon();
-    store_.addPart(unseen_->kind, unseen_->at.data(), 1);
+    store_.addPart(unseen_->kind, unseen_->ends.data(), unseen_->count);
   }
 
 private:
   struct Spot {
     PartKind kind;
-    std::array<double, 2> at;
+    int count;
+    std::array<double, 4> ends;
   };
 
   ThinningGrid const& grid_;
@@ -435,7 +436,7 @@ ReadFeatures readTask(ReadTask const& task, QString const& mapSystem, ReadProgre
   }
   result.error = data->joinProblem();
   result.warnings += data->notes();
-  if (source.connection.isEmpty() && hasGuessedEncoding(source.file))
+  if (!task.query && source.connection.isEmpty() && hasGuessedEncoding(source.file))
     result.notes
         << Texts::tr(
                "Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it "

@@ -12,6 +12,7 @@
 #include "host/SysUtility/FileReach.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -25,7 +26,10 @@
 #include <gdal_priv.h>
 
 #include <algorithm>
+#include <map>
 #include <mutex>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace SysCarto {
@@ -233,6 +237,48 @@ QString whyUnread(QString const& path, QByteArray const& name) {
   return Texts::tr("its format is none of those that are known (%1)").arg(formatNames());
 }
 
+// The columns of texts of a table: where in a record, and how long.
+std::vector<std::pair<int, int>> textColumns(QByteArray const& table, int headSize) {
+  constexpr int first = 32, size = 32, kind = 11, length = 16;
+  std::vector<std::pair<int, int>> columns;
+  int place = 1;  // behind the mark of deleted records
+  for (int at = first; at + size <= headSize && at + size <= table.size() && table[at] != '\r'; at += size) {
+    int const bytes = static_cast<uchar>(table[at + length]);
+    if (table[at + kind] == 'C') columns.emplace_back(place, bytes);
+    place += bytes;
+  }
+  return columns;
+}
+
+// Whether more of the letters in a table without a code page are none of UTF-8 than are. Many programs cut a text that
+// is too long for its column, so that its last letter may be half of one.
+bool isNoUtf8(QString const& path) {
+  constexpr int codePage = 29, leastHead = 32, lookedAt = 8 * 1024 * 1024;
+  QByteArray const table = headOf(path, lookedAt);
+  if (table.size() < leastHead || table[codePage] != 0) return false;
+  auto const number = [&](int at) {
+    return static_cast<int>(qFromLittleEndian<quint16>(reinterpret_cast<uchar const*>(table.constData()) + at));
+  };
+  int const headSize = number(8), recordSize = number(10);
+  auto const columns = textColumns(table, headSize);
+  QTextCodec const* const utf8 = QTextCodec::codecForName("UTF-8");
+  int good = 0, bad = 0;
+  for (int record = headSize; recordSize > 0 && record + recordSize <= table.size(); record += recordSize)
+    for (auto const& [place, length] : columns) {
+      if (place + length > recordSize) break;
+      char const* const text = table.constData() + record + place;
+      int size = length;
+      while (size > 0 && (text[size - 1] == ' ' || text[size - 1] == '\0')) --size;
+      auto const begins = [](char letter) { return (letter & '\xc0') == '\xc0'; };
+      auto const letters = static_cast<int>(std::count_if(text, text + size, begins));
+      QTextCodec::ConverterState state;
+      utf8->toUnicode(text, size, &state);
+      bad += state.invalidChars;
+      good += std::max(letters - state.invalidChars, 0);
+    }
+  return bad > good;
+}
+
 }  // namespace
 
 QVector<DataFormat> const& dataFormats() { return formats; }
@@ -240,18 +286,16 @@ QVector<DataFormat> const& dataFormats() { return formats; }
 // Where neither the table's head (the byte for its code page) nor a file beside it says how its texts are encoded, they
 // are UTF-8, unless they can't be.
 bool hasGuessedEncoding(QString const& path) {
-  constexpr int codePage = 29, headSize = 32, lookedAt = 8 * 1024 * 1024;
   bool const isShapes = hasSuffix(path, "shp") || hasSuffix(path, "dbf");
   if (!isShapes || companionOf(path, "cpg").exists()) return false;
-  QByteArray const table = headOf(companionOf(path, "dbf").filePath(), lookedAt);
-  if (table.size() < headSize || table[codePage] != 0) return false;
-  int const first = qFromLittleEndian<quint16>(reinterpret_cast<uchar const*>(table.constData()) + 8);
-  QByteArray const records = table.mid(first);
-  bool const isPlain = std::none_of(records.begin(), records.end(), [](char letter) { return letter & '\x80'; });
-  if (isPlain) return false;
-  QTextCodec::ConverterState state;
-  QTextCodec::codecForName("UTF-8")->toUnicode(records.constData(), records.size(), &state);
-  return state.invalidChars > 0;
+  QFileInfo const table = companionOf(path, "dbf");
+  using Stamp = std::tuple<QString, QDateTime, qint64>;
+  static std::mutex mutex;
+  static std::map<Stamp, bool> known;
+  std::lock_guard<std::mutex> const lock(mutex);
+  auto const [place, isNew] = known.try_emplace({table.absoluteFilePath(), table.lastModified(), table.size()}, false);
+  if (isNew) place->second = isNoUtf8(table.filePath());
+  return place->second;
 }
 
 bool isDataFileName(QString const& path) {

@@ -1,7 +1,5 @@
 #include "SourceSystem.h"
 
-#include "ServerLayer.h"
-
 #include <ogr_feature.h>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
@@ -37,9 +35,9 @@ bool areNoDegrees(OGRLayer& layer, OGRSpatialReference const& system) {
 
 }  // namespace
 
-SourceSystem systemOf(OGRLayer& layer) {
+SourceSystem systemOf(OGRLayer& layer, bool isOfServer) {
   OGRSpatialReference const* const system = layer.GetSpatialRef();
-  if (!system || dynamic_cast<ServerLayer*>(&layer)) return {system, false};
+  if (!system || isOfServer) return {system, false};
   char const* const name = system->GetName();
   if (name && (EQUAL(name, "Undefined geographic SRS") || EQUAL(name, "Undefined Cartesian SRS"))) return {};
   if (system->IsGeographic() && system->GetAngularUnits() > 0 && areNoDegrees(layer, *system)) return {nullptr, true};

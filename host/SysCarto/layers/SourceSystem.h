@@ -12,7 +12,7 @@ struct SourceSystem {
 };
 
 /// A system that a GeoPackage calls undefined is none. Looks at the first features of a file's layer of degrees, and
-/// has it begin anew.
-SourceSystem systemOf(OGRLayer& layer);
+/// has it begin anew; those of a server would have to be sent.
+SourceSystem systemOf(OGRLayer& layer, bool isOfServer);
 
 }  // namespace SysCarto

@@ -9,6 +9,7 @@ namespace SysCarto {
 namespace {
 
 constexpr double sameResolution = 1e-6;
+constexpr double longestMark = 3;  // cells
 
 }  // namespace
 
@@ -56,12 +57,21 @@ void ThinnedFeatures::thin(int feature) {
   place.partCount = static_cast<int>(parts_.size()) - place.firstPart;
 }
 
-// An area of which no part can be seen keeps the least that can, so that it has its colour and its outline.
+// An area of which no part can be seen keeps the least that can, so that it has its colour and its outline: a square,
+// or of a strip its two ends.
 void ThinnedFeatures::keepMark(Feature const& feature) {
   for (int i = feature.firstPart; i < feature.firstPart + feature.partCount; ++i) {
     Part part = store_.parts[i];
     bool const isArea = part.kind == PartKind::Ring || part.kind == PartKind::FilledRing;
     if (!isArea || !part.startsPolygon) continue;
+    if (std::max(part.box.xmax - part.box.xmin, part.box.ymax - part.box.ymin) > longestMark * grid_.cell()) {
+      double* const room = vertices_.room(part.count);
+      part.count = grid_.thin(part.kind, part.xy, part.count, room);
+      vertices_.keep(part.count);
+      part.xy = room;
+      parts_.push_back(part);
+      return;
+    }
     double const x = (part.box.xmin + part.box.xmax) / 2, y = (part.box.ymin + part.box.ymax) / 2;
     double const halfX = std::max(part.box.xmax - part.box.xmin, grid_.cell()) / 2;
     double const halfY = std::max(part.box.ymax - part.box.ymin, grid_.cell()) / 2;

@@ -116,9 +116,12 @@ ThinnedFeatures& VectorLayer::thinned() const {
 
 // The same is said of many windows.
 void VectorLayer::keepWarnings(ReadFeatures const& read) const {
-  notes_ += read.notes;
-  for (QString const& warning : read.warnings)
-    if (!warnings_.contains(warning) && warnings_.size() < mostWarnings) warnings_ << warning;
+  auto const keep = [](QStringList const& from, QStringList& to) {
+    for (QString const& sentence : from)
+      if (!to.contains(sentence) && to.size() < mostWarnings) to << sentence;
+  };
+  keep(read.notes, notes_);
+  keep(read.warnings, warnings_);
 }
 
 QString VectorLayer::problem() const { return problem_.isEmpty() ? windows_.problem() : problem_; }

@@ -149,13 +149,23 @@ void gather(OGRGeometryCollection const& from, int depth, OGRMultiPolygon& areas
   }
 }
 
+bool stepsOver(OGRPolygon const& area, double halfTurn) {
+  for (auto const* ring : area)
+    for (int i = 1; i < ring->getNumPoints(); ++i)
+      if (std::abs(ring->getX(i) - ring->getX(i - 1)) > halfTurn) return true;
+  return false;
+}
+
 // Members of a collection may lie over each other, which in a feature's area would be a hole. Null where there is
-// nothing to unite, or no way to.
-std::unique_ptr<OGRGeometryCollection> withUnitedAreas(OGRGeometryCollection const& collection) {
+// nothing to unite, or no way to: what steps over the antimeridian is no area as it stands. `halfTurn` is 0 where there
+// is no such step.
+std::unique_ptr<OGRGeometryCollection> withUnitedAreas(OGRGeometryCollection const& collection, double halfTurn) {
   OGRMultiPolygon areas;
   auto others = std::make_unique<OGRGeometryCollection>();
   gather(collection, 0, areas, *others);
   if (areas.getNumGeometries() < 2) return nullptr;
+  for (auto const* area : areas)
+    if (halfTurn > 0 && stepsOver(*area, halfTurn)) return nullptr;
   SysGeometry::QuietOgr const quiet;
   std::unique_ptr<OGRGeometry> united(areas.UnionCascaded());
   if (!united || united->IsEmpty() || others->addGeometryDirectly(united.get()) != OGRERR_NONE) return nullptr;
@@ -252,7 +262,8 @@ void GeometryProjector::addLinear(OGRGeometry const& geometry, PartSink& sink, i
       for (auto const* face : *geometry.toPolyhedralSurface()) addLinear(*face, sink, depth + 1);
       return;
     case wkbGeometryCollection:
-      if (auto const united = withUnitedAreas(*geometry.toGeometryCollection()))
+      if (auto const united =
+              withUnitedAreas(*geometry.toGeometryCollection(), sourceIsGeographic_ ? 180 / sourceDegree_ : 0))
         return addMembers(*united, sink, depth);
       [[fallthrough]];
     case wkbMultiPoint:

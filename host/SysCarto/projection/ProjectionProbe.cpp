@@ -41,9 +41,7 @@ bool isSamePlace(double const* a, double const* b) {
 
 ProjectionProbe::ProjectionProbe(PointTransform const& toMap, OGRSpatialReference const& system,
                                  OGRSpatialReference const& globe)
-    : toMap_(toMap),
-      radius_(radiusOf(system, linearUnit(system))),
-      origin_(falseOriginOf(system, linearUnit(system))) {
+    : toMap_(toMap), radius_(radiusOf(system, linearUnit(system))), origin_(falseOriginOf(system, linearUnit(system))) {
   QString reason;
   toGlobe_ = PointTransform::create(system, globe, reason);
   if (!toGlobe_) return;
@@ -63,7 +61,8 @@ void ProjectionProbe::project(std::vector<double>& xy, double radii) const {
   double const farthest = radii * radius_;
   toMap_.apply(xy);
   for (size_t i = 0; i < xy.size(); i += 2)
-    if (!(std::abs(xy[i] - origin_.x) < farthest && std::abs(xy[i + 1] - origin_.y) < farthest)) xy[i] = xy[i + 1] = nan;
+    if (!(std::abs(xy[i] - origin_.x) < farthest && std::abs(xy[i + 1] - origin_.y) < farthest))
+      xy[i] = xy[i + 1] = nan;
 }
 
 void ProjectionProbe::projectAndReturn(std::vector<double>& xy, double radii) const {

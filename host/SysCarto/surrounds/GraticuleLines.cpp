@@ -138,8 +138,8 @@ GraticuleLines::Pole GraticuleLines::poleAt(double latitude, double longitude, E
   return meets ? Pole::Point : Pole::Line;
 }
 
-// Longitude and latitude of some places spread over the extent. The middle alone would not do: it may be a pole, where a
-// degree of longitude has no length.
+// Longitude and latitude of some places spread over the extent. The middle alone would not do: it may be a pole, where
+// a degree of longitude has no length.
 std::vector<QPointF> GraticuleLines::placesIn(Envelope const& extent) const {
   std::vector<QPointF> places;
   for (QPointF const& place :

@@ -35,6 +35,14 @@ double worthOf(SysCarto::MapDocument const& document, QSize const& size) {
   return freePixels + timesThePage * size.width() * size.height() + pixelsPerByte * bytes;
 }
 
+// The first of them.
+QString shortened(QString const& letters) {
+  constexpr int most = 20;
+  auto const codes = letters.toUcs4();
+  if (codes.size() <= most) return letters;
+  return QString::fromUcs4(codes.constData(), most) + QStringLiteral("…");
+}
+
 }  // namespace
 
 ExportOptions ExportOptions::of(SysCarto::ExportChoices const& choices) {
@@ -88,7 +96,8 @@ QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel>
   for (QString const& family : fonts.missing)
     notes_ << tr("The font %1 is not installed; another one stands in for it.").arg(family);
   if (!fonts.letters.isEmpty())
-    notes_ << tr("No font that is installed has these letters, so that boxes stand for them: %1").arg(fonts.letters);
+    notes_ << tr("No font that is installed has these letters, so that boxes stand for them: %1")
+                  .arg(shortened(fonts.letters));
   if (problem.isEmpty() && !fonts.unopened.isEmpty())
     problem = tr("%1 was not written: the font %2 can't be opened at the moment; start the program again.")
                   .arg(path_, fonts.unopened.first());

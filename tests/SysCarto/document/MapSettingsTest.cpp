@@ -81,6 +81,10 @@ private slots:
 
     while (document.GetOperationStack()->CanUndo()) document.GetOperationStack()->Undo();
     QCOMPARE(QString::fromUtf8(MapDocumentHost::text(document)), before);
+    // What can't be shown changes nothing, and what could be redone still can.
+    QCOMPARE(set("map:#0", "scale", 1e-15), QString());
+    QVERIFY(!document.GetOperationStack()->CanUndo() && document.GetOperationStack()->CanRedo());
+    QCOMPARE(QString::fromUtf8(MapDocumentHost::text(document)), before);
     EditorHost::setHistory(nullptr);
   }
 

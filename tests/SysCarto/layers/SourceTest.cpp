@@ -154,7 +154,10 @@ private slots:
     QTemporaryDir const folder;
     QString const file =
         written(folder, "a.geojson", collection({dated("\"2020-01-01\""), dated("null"), dated("\"2022-01-01\"")}));
-    for (auto const& [filter, count] : QVector<QPair<QString, int>>{{"at > '2021-01-01'", 1}, {"at IS NULL", 1}}) {
+    for (auto const& [filter, count] : QVector<QPair<QString, int>>{{"at > '2021-01-01'", 1},
+                                                                    {"at IS NULL", 1},
+                                                                    {"at IS NULL OR at > '2021/01/01'", 2},
+                                                                    {"at IS NULL AND NOT (at > '2021/01/01')", 1}}) {
       auto const result = opened({file, {}, filter, {}}, "EPSG:4326");
       QCOMPARE(result.error, QString());
       QCOMPARE(result.features().size(), count);
@@ -167,6 +170,7 @@ private slots:
     row("as the table says", "Z\xfcrich", 3, false, false);
     row("as a file beside it says", "Z\xfcrich", 0, true, false);
     row("UTF-8", "Z\xc3\xbcrich", 0, false, false);
+    row("UTF-8 whose last letter was cut", "Z\xc3\xbcrich a\xc3", 0, false, false);
     row("no letter that would tell", "Zurich", 0, false, false);
   }
   void anEncodingIsGuessedWhereNothingSaysIt() {
@@ -189,7 +193,8 @@ private slots:
     auto const data = DataSource::open(file, {}, error);
     QVERIFY2(data, qPrintable(error));
     OGRFeatureUniquePtr const read(data->layer().GetNextFeature());
-    QCOMPARE(QString::fromUtf8(read->GetFieldAsString("name")), QString(name == "Zurich" ? "Zurich" : "Zürich"));
+    QString const text = QString::fromUtf8(read->GetFieldAsString("name"));
+    QVERIFY2(text.startsWith(name == "Zurich" ? "Zurich" : "Zürich"), qPrintable(text));
   }
 
   void manyFeaturesStayInTheirOrder() {

@@ -84,6 +84,11 @@ private slots:
                                    fill(Qt::white, SimpleFillStyle::Solid, pen(1)));
       QVERIFY(ink(shown({0, 0, 40, 40}, QSize(40, 40)).drawn(sceneOf(data))).pixels > 0);
     }
+    auto const strip =
+        openedJson(geoJson(R"({"type":"Polygon","coordinates":[[[5.05,5],[5,5],[35,35],[35.05,35],[5.05,5]]]})"), "",
+                   fill(Qt::red, SimpleFillStyle::Solid, pen(1)));
+    auto const inked = ink(shown({0, 0, 40, 40}, QSize(40, 40)).drawn(sceneOf(strip))).pixels;
+    QVERIFY2(inked >= 25 && inked <= 120, qPrintable(QString::number(inked)));
     auto const former = setWindowThreshold({0, 0});
     auto const smallest = opened({sample("world.gpkg"), "countries", "name = 'Vatican'", {}}, "",
                                  fill(Qt::white, SimpleFillStyle::Solid, pen(1)));

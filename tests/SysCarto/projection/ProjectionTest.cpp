@@ -147,6 +147,10 @@ private slots:
     row("longitudes beyond 180 go on at the other side",
         R"({"type":"Polygon","coordinates":[[[170,0],[190,1],[190,10],[170,11],[170,0]]]})", 10);
     row("a wide box", R"({"type":"Polygon","coordinates":[[[-170,0],[170,0],[170,9],[-170,9],[-170,0]]]})", 340);
+    row("an area beside another one in a collection", R"({"type":"GeometryCollection","geometries":[
+        {"type":"Polygon","coordinates":[[[177,-16],[-178,-16.5],[-178,-20],[177,-19],[177,-16]]]},
+        {"type":"Polygon","coordinates":[[[0,-19],[10,-19],[10,-17],[0,-17],[0,-19]]]}]})",
+        10);
     row("a parallel runs around the map", R"({"type":"LineString","coordinates":[[-180,5],[180,5]]})", 360);
     row("a band with a bent side does, too",
         R"({"type":"Polygon","coordinates":[[[-180,10],[0,14],[180,10],[180,-20],[-180,-20],[-180,10]]]})", 360);

@@ -39,7 +39,7 @@ struct Texts {
   Q_DECLARE_TR_FUNCTIONS(SourceIndexes)
 };
 
-constexpr char version[] = "1";  // of how features are stored
+constexpr char version[] = "2";  // of how features are stored
 constexpr int maxDaysUnused = 30;
 constexpr int shareOfDisk = 10;  // all of them take at most one in so many bytes of what would be free without them
 constexpr int secondsBetweenMarks = 3600;
