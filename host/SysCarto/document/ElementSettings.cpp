@@ -3,6 +3,7 @@
 #include "ElementFields.h"
 
 #include "host/SysCarto/document/SurroundFields.h"
+#include "host/SysCarto/elements/ElementLimits.h"
 #include "host/SysCarto/elements/EmbeddedPicture.h"
 #include "host/SysCarto/surrounds/SurroundSettings.h"
 #include "host/SysDisplay/SymbolFields.h"
@@ -27,7 +28,7 @@ using SysUtility::Unit;
 
 namespace {
 
-constexpr Range onPage{-10000, 10000, Unit::Centimetre};
+constexpr Range onPage{-farthestOnPageCm, farthestOnPageCm, Unit::Centimetre};
 constexpr double maxCoordinate = 1e12;  // graphics lie on maps, too, in map units
 constexpr int maxMembers = 100000, maxRings = 100000, maxGrids = 100;
 

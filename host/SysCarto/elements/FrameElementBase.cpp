@@ -1,6 +1,9 @@
+#include "ElementLimits.h"
 #include "Placement.h"
 
 #include <SysCarto/FrameElementBase.h>
+
+#include <algorithm>
 
 namespace SysCarto {
 
@@ -41,7 +44,19 @@ void FrameElementBase::place(_ptr_t<Envelope> const& rectangle) {
   if (isElsewhere) moved();
 }
 
-void FrameElementBase::Move(double dx, double dy) { place(placed(*d->rectangle, Placement::moving(dx, dy))); }
+namespace {
+
+double movedBy(double wanted, double low, double high) {
+  return std::clamp(wanted, std::min(-farthestOnPageCm - low, 0.0), std::max(farthestOnPageCm - high, 0.0));
+}
+
+}  // namespace
+
+void FrameElementBase::Move(double dx, double dy) {
+  Envelope const& now = *d->rectangle;
+  double const x = movedBy(dx, now.GetXMin(), now.GetXMax()), y = movedBy(dy, now.GetYMin(), now.GetYMax());
+  place(placed(now, Placement::moving(x, y)));
+}
 
 void FrameElementBase::Scale(_ptr_t<Point> const& origin, double sx, double sy) {
   place(placed(*d->rectangle, Placement::scaling(origin, sx, sy)));

@@ -82,6 +82,14 @@ private slots:
     QCOMPARE(sidesOf(*element->GetEnvelope()), before);  // clones are independent
   }
 
+  void aFrameIsNotMovedBeyondWhatCanBeSaved() {
+    auto const frame = madeIn<MapSurroundFrame>(-10000, 3, -9996, 5);
+    frame->Move(-1, -2);
+    QCOMPARE(sidesOf(*frame->GetEnvelope()), (QVector<double>{-10000, 1, -9996, 3}));
+    frame->Move(1, 1e5);
+    QCOMPARE(sidesOf(*frame->GetEnvelope()), (QVector<double>{-9999, 9998, -9995, 10000}));
+  }
+
   void boundaryCoversWhatSymbolsAdd_data() {
     // left: in points beyond the rectangle (2, 3) to (6, 5)
     Rows<_ptr_t<Element>, double, double> row;
