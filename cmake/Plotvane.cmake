@@ -49,9 +49,9 @@ endfunction()
 # documents made to be slow, the executable's exports, a window, all systems of coordinates, every row of every sheet and
 # of the schema. They have the label "slow"; what the target plotvane_quick_tests builds is what `ctest --label-exclude
 # slow` runs.
-set(plotvane_slow_tests CoordinateSystemsTest ExportDialogTest ExportTest IndexTest LabelSearchTest LabelTest LayerDrawTest
+set(plotvane_slow_tests CoordinateSystemsTest ExportDialogTest ExportTest GraticuleTest IndexTest LabelSearchTest LabelTest LayerDrawTest
   LayoutTilingTest ProjectionTest RasterLayerTest TilingTest tst_confinement tst_element_list tst_exact_undo
-  tst_export_subcommand tst_labels_by_hand tst_layer_tools tst_new_map tst_offline tst_print tst_properties
+  tst_export_subcommand tst_labels_by_hand tst_layer_classes tst_layer_tools tst_new_map tst_offline tst_print tst_properties
   tst_rebuilt_samples tst_recovery tst_run_subcommand tst_schema tst_sequences tst_series tst_subcommands tst_torture
   tst_vector_files tst_view tst_window tst_window_files)
 add_custom_target(plotvane_quick_tests)
