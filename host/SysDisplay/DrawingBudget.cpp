@@ -1,5 +1,6 @@
 #include "DrawingBudget.h"
 
+#include "host/SysDisplay/CoverageGrid.h"
 #include "host/SysDisplay/PointRuns.h"
 
 #include <algorithm>
@@ -22,7 +23,8 @@ std::atomic<bool> isCounting = false, hasGivenUp = false;
 
 // The cells that edges cross, in strips of some rows. The rasteriser keeps those of a row in a list, which it searches
 // from its left end for each crossing. It has room for few, and goes along all edges of a strip again, from end to end,
-// whenever they are used up. So edges that lie close cost the square of their number.
+// whenever they are used up. So edges that lie close cost the square of their number, until there are so many that they
+// are filled pixel by pixel.
 class RowCells {
 public:
   explicit RowCells(QRectF const& seen) : seen_(seen), strips_(static_cast<size_t>(seen.height() / stripPx) + 1) {}
@@ -48,7 +50,9 @@ public:
     for (Strip const& strip : strips_) {
       double const cellsInRow = std::min(strip.listed / stripPx, seen_.width());
       double const passes = cellsInRow * stripPx / std::max(roomForCells, cellsInRow);
-      sum += edgeCost * strip.crossed + searchCost * strip.listed * cellsInRow / 2 + walkCost * strip.walked * passes;
+      sum += edgeCost * strip.crossed;
+      if (strip.edges > mostVerticesOfRows) continue;
+      sum += searchCost * strip.listed * cellsInRow / 2 + walkCost * strip.walked * passes;
     }
     return sum;
   }
@@ -59,6 +63,7 @@ private:
   static constexpr double longestPx = 64000;  // what lies farther away is cut off before
 
   struct Strip {
+    int edges = 0;
     double crossed = 0;
     double listed = 0;  // of those, what lies neither to the left nor to the right
     double walked = 0;  // with what lies above and below
@@ -69,6 +74,7 @@ private:
   }
 
   void add(Strip& strip, double rows, double x1, double x2) const {
+    ++strip.edges;
     double const width = std::abs(x2 - x1);
     double const columns =
         std::max(std::min(std::max(x1, x2), seen_.right()) - std::max(std::min(x1, x2), seen_.left()), 0.0);

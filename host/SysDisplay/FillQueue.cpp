@@ -1,5 +1,6 @@
 #include "FillQueue.h"
 
+#include "host/SysDisplay/CoverageGrid.h"
 #include "host/SysDisplay/DevicePath.h"
 #include "host/SysDisplay/DrawingBudget.h"
 #include "host/SysGeometry/PlaneGeometry.h"
@@ -92,10 +93,11 @@ public:
       : rows_(image.scanLine(firstRow), image.width(), rows, image.bytesPerLine(), image.format()),
         own_(std::make_unique<QPainter>(&rows_)),
         painter_(own_.get()),
-        top_(firstRow - transform.dy()),
+        pixels_(QRectF(-transform.dx(), firstRow - transform.dy(), image.width(), rows).toRect()),
+        top_(pixels_.top()),
         bottom_(top_ + rows),
         exchanges_(exchanges) {
-    own_->translate(transform.dx(), -top_);
+    own_->translate(-pixels_.topLeft());
     prepare();
   }
 
@@ -158,6 +160,7 @@ private:
   }
 
   void draw(PointRuns const& rings, int first, int last, Qt::FillRule rule) {
+    if (own_ && rings.size(first, last) > mostVerticesOfRows) return drawByPixels(rings, first, last, rule);
     // A polygon of few points might be taken for a rectangle, which the raster engine draws in another way.
     if (first == last && rings.size(first) > 5) {
       painter_->drawPolygon(rings.run(first), rings.size(first), rule);
@@ -174,9 +177,26 @@ private:
     painter_->drawPath(path_);
   }
 
+  void drawByPixels(PointRuns const& rings, int first, int last, Qt::FillRule rule) {
+    coverage_.clear(pixels_);
+    for (int i = first; i <= last; ++i) {
+      QPointF const* points = rings.run(i);
+      for (int j = 0, count = rings.size(i); j < count; ++j)
+        coverage_.add(points[j], points[j + 1 < count ? j + 1 : 0]);
+    }
+    QImage mask = coverage_.mask(rule);
+    QPainter filling(&mask);
+    filling.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    filling.setBrushOrigin(painter_->brushOrigin() - pixels_.topLeft());
+    filling.fillRect(mask.rect(), painter_->brush());
+    filling.end();
+    painter_->drawImage(pixels_.topLeft(), mask);
+  }
+
   QImage rows_;
   std::unique_ptr<QPainter> own_;
   QPainter* painter_;
+  QRect pixels_;                                              // of the rows, in the painter's coordinates
   double top_ = -maxCoordinatePx, bottom_ = maxCoordinatePx;  // in the painter's coordinates
   QRectF box_;
   bool const exchanges_;
@@ -184,6 +204,7 @@ private:
   std::shared_ptr<Texture const> texture_;
   PointRuns part_;
   QPainterPath path_;
+  CoverageGrid coverage_;
 };
 
 FillQueue::FillQueue(QPainter& painter) : painter_(painter) {}

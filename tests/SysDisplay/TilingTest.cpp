@@ -2,6 +2,7 @@
 #include "StoredSymbols.h"
 #include "Symbols.h"
 
+#include "host/SysDisplay/CoverageGrid.h"
 #include "host/SysDisplay/MarkerPainter.h"
 #include "host/SysDisplay/PathDrawing.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
@@ -70,6 +71,14 @@ Scene area(SimpleFillStyle style, QVector<QVector<QPointF>> const& rings, _ptr_t
 
 Scene drawing(_ptr_t<Symbol> const& symbol, _ptr_t<Geometry> const& geometry) {
   return [=](QPainter& painter, Transformation const& t) { symbol->Draw(painter, t, geometry); };
+}
+
+// Up and down between two rows, as evenly as chance would, and back below. On the rasteriser's grid.
+QVector<QPointF> noise(int vertices, qint64 step) {
+  QVector<QPointF> ring;
+  for (int i = 0; i < vertices; ++i)
+    ring << QPointF(std::round(64 * (50 + 600.0 * i / vertices)) / 64, 100 + 300 * (i * step % vertices) / vertices);
+  return ring << QPointF(650, 450) << QPointF(50, 450);
 }
 
 // The coordinates of a ring that waves about a radius, with a tooth of some pixels at each vertex.
@@ -273,6 +282,34 @@ private slots:
     });
     QRect const where = ink(drawn).where;
     QVERIFY2(where.top() > 240 && where.bottom() < 260, qPrintable(ink(drawn).text()));
+  }
+
+  // As many as Qt's rasteriser gives up at. Midway between the rows, half is within.
+  void ringsOfAnyNumberOfVerticesAreFilled() {
+    QImage const drawn =
+        sheet(1).drawn(area(SimpleFillStyle::Solid, {worldLine(noise(200000, 99991))}, nullptr)).copy(60, 250, 580, 1);
+    double red = 0;
+    for (int x = 0; x < drawn.width(); ++x) red += qRed(drawn.pixel(x, 0));
+    double const expected = 255 - 0.5 * (255 - 30) * 180 / 255;
+    QVERIFY2(std::abs(red / drawn.width() - expected) < 2, qPrintable(QString::number(red / drawn.width())));
+  }
+
+  void pixelsAreCoveredAsByQt() {
+    QVector<QPointF> const ring = noise(3000, 1409);
+    QImage byQt(sizePx, QImage::Format_ARGB32_Premultiplied);
+    for (Qt::FillRule const rule : {Qt::OddEvenFill, Qt::WindingFill}) {
+      byQt.fill(Qt::transparent);
+      QPainter painter(&byQt);
+      painter.setRenderHint(QPainter::Antialiasing);
+      painter.setPen(Qt::NoPen);
+      painter.setBrush(Qt::black);
+      painter.drawPolygon(ring, rule);
+      CoverageGrid grid;
+      grid.clear(byQt.rect());
+      for (int i = 0; i < ring.size(); ++i) grid.add(ring[i], ring[(i + 1) % ring.size()]);
+      Difference const found = difference(byQt, grid.mask(rule));
+      QVERIFY2(found.levels < 4, qPrintable(found.text()));
+    }
   }
 
   // A painter that is moved and clipped, as that of a widget, shows the same.
