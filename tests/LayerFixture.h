@@ -38,7 +38,6 @@ struct OpenedLayer {
 inline OpenedLayer opened(SysCarto::SourceSettings const& source, QString const& mapSystem,
                           _ptr_t<SysDisplay::Symbol> symbol = nullptr, SysCarto::LabelSettings const& labels = {},
                           SysCarto::ReadDepth depth = SysCarto::ReadDepth::Features) {
-  if (!symbol) symbol = make<SysDisplay::SimpleFillSymbol>();
   OpenedLayer result{make<SysCarto::VectorLayer>(SysCarto::makeSimpleRenderer(symbol)), {}, {}};
   result.layer->setLabelSettings(labels);
   result.error = result.layer->open(source, mapSystem, result.warnings, {}, depth);

@@ -29,6 +29,23 @@ QString layerNames(GDALDataset& dataset) {
   return names.join(QLatin1String(", "));
 }
 
+bool hasFeatures(OGRLayer& layer) {
+  GIntBig const count = layer.GetFeatureCount(FALSE);
+  if (count >= 0) return count > 0;
+  layer.ResetReading();
+  bool const isOne = OGRFeatureUniquePtr(layer.GetNextFeature()) != nullptr;
+  layer.ResetReading();
+  return isOne;
+}
+
+// Where none is named. A file of tracks alone begins with a layer of waypoints all the same.
+OGRLayer* firstWithFeatures(GDALDataset& dataset) {
+  int const count = dataset.GetLayerCount();
+  for (int i = 0; count > 1 && i < count; ++i)
+    if (hasFeatures(*dataset.GetLayer(i))) return dataset.GetLayer(i);
+  return dataset.GetLayer(0);
+}
+
 // One area, from pole to pole and once round, in degrees.
 DatasetPointer globe() {
   GDALAllRegister();
@@ -106,7 +123,8 @@ QString DataSource::take(SourceSettings const& source) {
 }
 
 QString DataSource::takeOfFile(GDALDataset& dataset, SourceSettings const& source) {
-  layer_ = source.layer.isEmpty() ? dataset.GetLayer(0) : dataset.GetLayerByName(source.layer.toUtf8().constData());
+  layer_ =
+      source.layer.isEmpty() ? firstWithFeatures(dataset) : dataset.GetLayerByName(source.layer.toUtf8().constData());
   if (!layer_ && dataset.GetLayerCount() == 0) return Texts::tr("The file “%1” holds no layer.").arg(source.file);
   if (!layer_)
     return Texts::tr("The file “%1” has no layer “%2”; it has: %3.")

@@ -1,5 +1,6 @@
 #include "FeatureReader.h"
 
+#include "host/SysCarto/layers/AdmittedFeatures.h"
 #include "host/SysCarto/layers/Condition.h"
 #include "host/SysCarto/layers/DataSource.h"
 #include "host/SysCarto/layers/DerivedLayer.h"
@@ -19,7 +20,6 @@
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <ogr_api.h>
 #include <ogr_feature.h>
@@ -28,6 +28,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cmath>
 #include <deque>
 #include <limits>
@@ -172,7 +173,7 @@ public:
     bool const isArea = kind == PartKind::Ring || kind == PartKind::FilledRing;
     if (left >= (keepsSmall_ ? 1 : ThinningGrid::minVertices(kind))) {
       store_.addPart(kind, kept_.data(), left);
-      isSeen_ = true;
+      isSeen_ = isSeen_ || kind != PartKind::Outline;
     } else if (isArea && left > 0 && !unseen_) {
       unseen_ = {kind, left, {kept_[0], kept_[1], kept_[2 * left - 2], kept_[2 * left - 1]}};
     }
@@ -314,6 +315,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     own.add(geometry, sink);
     sink.finish();
   };
+  std::atomic<bool> isGarbled = false;
   auto const place = [&, &rendering = renderer](OGRFeature& feature, GeometryProjector const& own, FeatureStore& to) {
     to.beginFeature(feature.GetFID());
     auto const mark = isMarked ? markedPlace(*feature.GetGeometryRef()) : nullptr;
@@ -322,8 +324,10 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     int const fitting = evaluator.place(feature, to);
     int const symbolClass =
         evaluator.hasRules() ? fitting : rendering.classOf(classField.text(feature), classField.number(feature));
-    to.endFeature(symbolClass, labelReader.text(feature),
-                  std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority, keyOf(feature));
+    QString const text = labelReader.text(feature);
+    if (text.contains(QChar::ReplacementCharacter)) isGarbled = true;
+    to.endFeature(symbolClass, text, std::isnan(priority) ? -std::numeric_limits<double>::infinity() : priority,
+                  keyOf(feature));
   };
   FeatureIntake intake(projector, store, place, [&, wanted = query](FeatureStore& placed) {
     if (!result.pack) return store.append(placed);
@@ -340,14 +344,15 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   if (depth == ReadDepth::Schema) return;
   bool const isOfServer = !source.connection.isEmpty();
   SourceBounds bounds = isOfServer ? SourceBounds::ofServer() : SourceBounds(source.file);
-  bool isEmpty = true, isNowhere = false;
+  AdmittedFeatures admitted(describeSource(source), projector);
+  QStringList unseen;
   QString unplaced;
   if (result.hasWindows && isReadNow) {
     condition.narrow(layer);
     if (followsLargest(renderer))
       store.knowLargest(largestNumbers(layer, condition, renderer, evaluator, isOfServer ? nullptr : &bounds, watch));
     result.wasStopped = watch.wasStopped();
-    isNowhere = result.extent.isEmpty();
+    if (result.extent.isEmpty()) unseen << AdmittedFeatures::nowhere(describeSource(source));
   } else {
     leaveOut(layer, condition, renderer, labels);
     if (query) readInAnyOrder(layer);  // those of a window are sorted when they are drawn
@@ -357,9 +362,9 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     bool const isBounded = !isOfServer || !result.pack;
     while (OGRFeatureUniquePtr feature = selection.next()) {
       if (isBounded && !bounds.admits(*feature)) break;
-      if (feature->GetGeometryRef() && condition.admits(*feature)) {
-        isEmpty = isEmpty && feature->GetGeometryRef()->IsEmpty();
-        intake.add(std::move(feature));
+      if (condition.admits(*feature)) {
+        if (!query) admitted.add(*feature);
+        if (feature->GetGeometryRef()) intake.add(std::move(feature));
       }
       result.wasStopped = !watch.goesOn();
       if (result.wasStopped) return;
@@ -369,14 +374,15 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     unplaced = intake.finish();
     store.finish();
     if (result.pack) result.pack->finish();
-    isNowhere = !query && !isEmpty && store.parts.empty();
+    if (!query) unseen = admitted.warnings(!source.filter.isEmpty(), store, renderer);
   }
-  if (isNowhere)
+  result.warnings += unseen;
+  if (isGarbled)
     result.warnings << Texts::tr(
-                           "Nothing of %1 lies where the map's coordinate system shows the globe, so that the layer is "
-                           "empty; give the map another coordinate system, or the source the one that it has in truth.")
+                           "Texts of %1 are not encoded as its format has it, so that � stands for letters; save "
+                           "it anew, as UTF-8 where there is a choice.")
                            .arg(describeSource(source));
-  else if (!unplaced.isEmpty())
+  if (unseen.isEmpty() && !unplaced.isEmpty())
     result.warnings << Texts::tr("Not all of %1 could be placed on the map: %2.").arg(describeSource(source), unplaced);
 }
 
@@ -439,9 +445,10 @@ ReadFeatures readTask(ReadTask const& task, QString const& mapSystem, ReadProgre
   if (!task.query && source.connection.isEmpty() && hasGuessedEncoding(source.file))
     result.notes
         << Texts::tr(
-               "Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it "
-               "with the name of the encoding would say so.")
-               .arg(describeSource(source), QFileInfo(source.file).completeBaseName() + QStringLiteral(".cpg"));
+               "How the texts of %1 are encoded is not said, or not truly; they are taken as Windows-1252. A file "
+               "beside "
+               "the table, with its name and the suffix “.cpg”, would say so with the name of the encoding in it.")
+               .arg(describeSource(source));
   if (errors.hasFailure())
     result.error = Texts::tr("Not all of %1 could be read: %2.").arg(describeSource(source), errors.reason());
   return result;

@@ -250,12 +250,11 @@ std::vector<std::pair<int, int>> textColumns(QByteArray const& table, int headSi
   return columns;
 }
 
-// Whether more of the letters in a table without a code page are none of UTF-8 than are. Many programs cut a text that
-// is too long for its column, so that its last letter may be half of one.
-bool isNoUtf8(QString const& path) {
-  constexpr int codePage = 29, leastHead = 32, lookedAt = 8 * 1024 * 1024;
-  QByteArray const table = headOf(path, lookedAt);
-  if (table.size() < leastHead || table[codePage] != 0) return false;
+// Whether more of the letters in a table are none of UTF-8 than are. Many programs cut a text that is too long for its
+// column, so that its last letter may be half of one.
+bool isNoUtf8(QByteArray const& table) {
+  constexpr int leastHead = 32;
+  if (table.size() < leastHead) return false;
   auto const number = [&](int at) {
     return static_cast<int>(qFromLittleEndian<quint16>(reinterpret_cast<uchar const*>(table.constData()) + at));
   };
@@ -279,22 +278,64 @@ bool isNoUtf8(QString const& path) {
   return bad > good;
 }
 
+QByteArray virtualHeadOf(QByteArray const& path, int length) {
+  QByteArray head(length, '\0');
+  VSILFILE* const file = VSIFOpenL(path.constData(), "rb");
+  head.resize(file ? static_cast<int>(VSIFReadL(head.data(), 1, static_cast<size_t>(length), file)) : 0);
+  if (file) VSIFCloseL(file);
+  return head;
+}
+
+// Whether neither a file of its own nor the table's head (the byte for its code page) says truly how the texts of a
+// table are encoded, and they can't be UTF-8.
+bool needsGuess(QByteArray const& table, QByteArray const& said) {
+  constexpr int codePage = 29, lookedAt = 8 * 1024 * 1024, longestName = 64;
+  QByteArray const name = virtualHeadOf(said, longestName).trimmed().toUpper();
+  bool const isUtf8 = name == "UTF-8" || name == "UTF8" || name == "65001";
+  bool const isKnown = name.toInt() > 0 || name.startsWith("LDID/") || QTextCodec::codecForName(name);
+  if (isKnown && !isUtf8) return false;
+  QByteArray const head = virtualHeadOf(table, lookedAt);
+  bool const isSaidByTable = !isUtf8 && head.size() > codePage && head[codePage] != 0;
+  return !isSaidByTable && isNoUtf8(head);
+}
+
+// Of the Shapefiles in an archive, the first one's.
+bool needsGuessWithin(QByteArray const& folder) {
+  QStringList names;
+  char** const entries = VSIReadDir(folder.constData());
+  for (int i = 0; i < CSLCount(entries); ++i) names << QString::fromUtf8(entries[i]);
+  CSLDestroy(entries);
+  names.sort();
+  auto const table =
+      std::find_if(names.begin(), names.end(), [](QString const& name) { return hasSuffix(name, "dbf"); });
+  if (table == names.end()) return false;
+  int const said =
+      names.indexOf(QRegularExpression(QRegularExpression::escape(table->chopped(3)) + QStringLiteral("cpg"),
+                                       QRegularExpression::CaseInsensitiveOption));
+  return needsGuess(folder + '/' + table->toUtf8(), said < 0 ? QByteArray() : folder + '/' + names[said].toUtf8());
+}
+
 }  // namespace
 
 QVector<DataFormat> const& dataFormats() { return formats; }
 
-// Where neither the table's head (the byte for its code page) nor a file beside it says how its texts are encoded, they
-// are UTF-8, unless they can't be.
 bool hasGuessedEncoding(QString const& path) {
   bool const isShapes = hasSuffix(path, "shp") || hasSuffix(path, "dbf");
-  if (!isShapes || companionOf(path, "cpg").exists()) return false;
-  QFileInfo const table = companionOf(path, "dbf");
-  using Stamp = std::tuple<QString, QDateTime, qint64>;
+  bool const isFolder = hasSuffix(path, "zip"), isArchive = isFolder || hasSuffix(path, "shz");
+  if (!isShapes && !isArchive) return false;
+  QFileInfo const table = isShapes ? companionOf(path, "dbf") : QFileInfo(path);
+  QFileInfo const said = isShapes ? companionOf(path, "cpg") : QFileInfo();
+  using Stamp = std::tuple<QString, QDateTime, qint64, qint64>;
   static std::mutex mutex;
   static std::map<Stamp, bool> known;
   std::lock_guard<std::mutex> const lock(mutex);
-  auto const [place, isNew] = known.try_emplace({table.absoluteFilePath(), table.lastModified(), table.size()}, false);
-  if (isNew) place->second = isNoUtf8(table.filePath());
+  QString const absolute = table.absoluteFilePath();
+  auto const [place, isNew] = known.try_emplace({absolute, table.lastModified(), table.size(), said.size()}, false);
+  if (!isNew) return place->second;
+  if (isShapes)
+    place->second = needsGuess(absolute.toUtf8(), said.isFile() ? said.absoluteFilePath().toUtf8() : QByteArray());
+  else
+    place->second = needsGuessWithin(isFolder ? folderWithShapes(absolute) : "/vsizip/{" + absolute.toUtf8() + "}");
   return place->second;
 }
 

@@ -34,8 +34,8 @@ using DatasetPointer = std::unique_ptr<GDALDataset, CloseDataset>;
 /// and `error` is a sentence that names the file.
 DatasetPointer openLocalDataset(QString const& path, QString& error);
 
-/// Whether nothing says how the texts of a Shapefile are encoded, and UTF-8 it is not; then it is opened as one of
-/// Windows-1252. False for other files.
+/// Whether nothing says truly how the texts of a Shapefile are encoded, and UTF-8 it is not; then it is opened as one
+/// of Windows-1252. Of an archive: of the first in it. False for other files.
 SYSCARTO_EXPORT bool hasGuessedEncoding(QString const& path);
 
 /// The name of a dataset's format for people.

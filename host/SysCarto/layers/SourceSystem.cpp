@@ -10,27 +10,27 @@ namespace SysCarto {
 
 namespace {
 
-constexpr int lookedAt = 20;       // features
-constexpr double tolerance = 1.1;  // what lies a little beyond a pole is a slip
+constexpr int lookedAt = 20, lookedThrough = 1000;  // features: with a geometry, and with or without
+constexpr double turns = 1.1;                       // farther than that no longitude is written
 
-// A GeoJSON without a system is one in degrees, whatever its numbers are.
+// A GeoJSON without a system is one in degrees, whatever its numbers are. One place may be a slip, as (0, 0) among
+// others; what lies a little beyond a pole may be, too.
 bool areNoDegrees(OGRLayer& layer, OGRSpatialReference const& system) {
-  double const round = 2 * M_PI / system.GetAngularUnits();
-  bool isSeen = false, areBeyond = true;
+  double const most = turns * 2 * M_PI / system.GetAngularUnits();
+  int seen = 0, beyond = 0;
   layer.ResetReading();
-  for (int i = 0; i < lookedAt && areBeyond; ++i) {
+  for (int i = 0; i < lookedThrough && seen < lookedAt; ++i) {
     OGRFeatureUniquePtr const feature(layer.GetNextFeature());
     if (!feature) break;
     OGRGeometry const* const geometry = feature->GetGeometryRef();
     if (!geometry || geometry->IsEmpty()) continue;
     OGREnvelope box;
     geometry->getEnvelope(&box);
-    auto const isBeyond = [](double low, double high, double most) { return low > most || high < -most; };
-    isSeen = true;
-    areBeyond = isBeyond(box.MinX, box.MaxX, tolerance * round) || isBeyond(box.MinY, box.MaxY, tolerance * round / 4);
+    ++seen;
+    if (box.MinX > most || box.MaxX < -most || box.MinY > most || box.MaxY < -most) ++beyond;
   }
   layer.ResetReading();
-  return isSeen && areBeyond;
+  return 2 * beyond > seen;
 }
 
 }  // namespace

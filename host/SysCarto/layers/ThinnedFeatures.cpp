@@ -53,7 +53,8 @@ void ThinnedFeatures::thin(int feature) {
     startsPolygon = false;
     parts_.push_back(part);
   }
-  if (static_cast<int>(parts_.size()) == place.firstPart) keepMark(given);
+  auto const isSeen = [](Part const& part) { return part.kind != PartKind::Outline; };
+  if (std::none_of(parts_.begin() + place.firstPart, parts_.end(), isSeen)) keepMark(given);
   place.partCount = static_cast<int>(parts_.size()) - place.firstPart;
 }
 

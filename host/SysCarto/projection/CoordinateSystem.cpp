@@ -78,10 +78,9 @@ QString read(QString const& definition, SystemPtr& system) {
 // Whether longitudes are counted on from another one than −180.
 bool isWrapped(OGRSpatialReference const& system) {
   char* text = nullptr;
-  bool const isWrapped =
-      system.IsGeographic() && system.exportToProj4(&text) == OGRERR_NONE && QByteArray(text).contains("+lon_wrap=");
+  QByteArray const said = system.IsGeographic() && system.exportToProj4(&text) == OGRERR_NONE ? text : "";
   CPLFree(text);
-  return isWrapped;
+  return said.contains("+lon_wrap=") || said.contains("+lon_0=");
 }
 
 // The system on the same globe whose poles are the globe's own, with longitudes from −180 to 180.

@@ -1,9 +1,10 @@
 #include "GeometryProjector.h"
 
+#include "host/SysCarto/projection/AntimeridianSteps.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/CurveDivider.h"
 #include "host/SysCarto/projection/ProjectionProbe.h"
-#include "host/SysGeometry/PlaneGeometry.h"
+#include "host/SysCarto/projection/UnitedAreas.h"
 #include "host/SysGeometry/QuietOgr.h"
 
 #include <QCoreApplication>
@@ -29,12 +30,12 @@ constexpr double toleranceDegrees = 1e-4;
 constexpr double maxEdgeDegrees = 5;     // longer edges are divided, whatever a look at their middle says
 constexpr double minEdgeDegrees = 0.05;  // a curve this short strays from its chord by about a metre
 constexpr double maxEdgeM = 200000;
-constexpr double seamDegrees = 1e-4;      // how near to the antimeridian data are cut
-constexpr double nearAntimeridian = 150;  // where both ends of an edge that steps across it lie
-constexpr double noArea = 5e-8;           // square degrees
-constexpr double poleDegrees = 0.01;      // and how near to a pole their lower edge may end
-constexpr double inwards = 1e-9;          // at ±180 itself a projection may take either side
+constexpr double seamDegrees = 1e-4;  // how near to the antimeridian data are cut
+constexpr double poleDegrees = 0.01;  // and how near to a pole their lower edge may end
+constexpr double inwards = 1e-9;      // at ±180 itself a projection may take either side
 constexpr int maxCollectionDepth = 32;
+constexpr double farthestLatitude = 90.1;  // a little beyond a pole is a slip
+constexpr double farthestLongitude = 540;
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(GeometryProjector)
@@ -78,99 +79,8 @@ void openRing(std::vector<double>& xy) {
   while (xy.size() > 2 && xy[0] == xy[xy.size() - 2] && xy[1] == xy[xy.size() - 1]) xy.resize(xy.size() - 2);
 }
 
-// The same places with every step in longitude the short way round.
-void unwrap(Run& run) {
-  for (size_t i = 1; i < run.size(); ++i) run[i].x = run[i - 1].x + std::remainder(run[i].x - run[i - 1].x, 360.0);
-}
-
-// A ring that goes around the globe has a pole inside: it is closed along the meridian and over the pole.
-void closeOverPole(Run& ring) {
-  if (ring.size() < 3) return;
-  double const gap = ring.front().x - ring.back().x;
-  double const turn = std::round((gap - std::remainder(gap, 360.0)) / 360);
-  if (turn == 0) return;
-  double middle = 0;
-  for (Vertex const& v : ring) middle += v.y;
-  double const pole = middle > 0 ? 90 : -90;
-  Vertex const first = ring.front();
-  ring.push_back({first.x - 360 * turn, first.y, seamEdge});
-  ring.push_back({first.x - 360 * turn, pole, seamEdge});
-  ring.push_back({first.x, pole, seamEdge});
-}
-
-// Geographic data that were not cut at the antimeridian have edges that step across it. Read as straight lines these
-// would run around the whole map.
-bool stepsAcross(Vertex const& a, Vertex const& b, double centralLongitude) {
-  double const ax = a.x + centralLongitude, bx = b.x + centralLongitude;
-  return std::abs(ax - bx) > 180 && ax * bx < 0 && std::min(std::abs(ax), std::abs(bx)) > nearAntimeridian;
-}
-
-// Whether an edge lies on that meridian.
-bool runsAlong(double meridian, Vertex const& a, Vertex const& b, double centralLongitude) {
-  return a.x == b.x && a.y != b.y && std::abs(a.x + centralLongitude - meridian) < seamDegrees;
-}
-
-// Steps count where they can't be meant as they are written: a box may be as wide as it likes, a band around the globe
-// has an edge on both sides of the antimeridian, or is nothing without its long edges.
-void joinRing(Run& ring, double centralLongitude) {
-  bool across = false, isBox = true, runsWest = false, runsEast = false;
-  for (size_t i = 0; i < ring.size(); ++i) {
-    Vertex const &a = ring[i], &b = ring[(i + 1) % ring.size()];
-    runsWest = runsWest || runsAlong(-180, a, b, centralLongitude);
-    runsEast = runsEast || runsAlong(180, a, b, centralLongitude);
-    across = across || stepsAcross(a, b, centralLongitude);
-    isBox = isBox && (a.x == b.x || a.y == b.y);
-  }
-  if (!across || isBox || (runsWest && runsEast)) return;
-  Run joined = ring;
-  unwrap(joined);
-  closeOverPole(joined);
-  if (std::abs(SysGeometry::signedArea(joined)) > noArea) ring = std::move(joined);
-}
-
-// A step along a parallel is meant as it is written.
-void joinLine(Run& line, double centralLongitude) {
-  for (size_t i = 1; i < line.size(); ++i)
-    if (line[i - 1].y != line[i].y && stepsAcross(line[i - 1], line[i], centralLongitude)) return unwrap(line);
-}
-
 bool anyEdge(std::vector<unsigned char> const& edges, unsigned char flag) {
   return std::any_of(edges.begin(), edges.end(), [=](unsigned char edge) { return edge & flag; });
-}
-
-void gather(OGRGeometryCollection const& from, int depth, OGRMultiPolygon& areas, OGRGeometryCollection& others) {
-  for (auto const* member : from) {
-    auto const type = wkbFlatten(member->getGeometryType());
-    bool const isCollection = OGR_GT_IsSubClassOf(type, wkbGeometryCollection);
-    if (isCollection && depth < maxCollectionDepth)
-      gather(*member->toGeometryCollection(), depth + 1, areas, others);
-    else
-      (type == wkbPolygon ? static_cast<OGRGeometryCollection&>(areas) : others).addGeometry(member);
-  }
-}
-
-bool stepsOver(OGRPolygon const& area, double halfTurn) {
-  for (auto const* ring : area)
-    for (int i = 1; i < ring->getNumPoints(); ++i)
-      if (std::abs(ring->getX(i) - ring->getX(i - 1)) > halfTurn) return true;
-  return false;
-}
-
-// Members of a collection may lie over each other, which in a feature's area would be a hole. Null where there is
-// nothing to unite, or no way to: what steps over the antimeridian is no area as it stands. `halfTurn` is 0 where there
-// is no such step.
-std::unique_ptr<OGRGeometryCollection> withUnitedAreas(OGRGeometryCollection const& collection, double halfTurn) {
-  OGRMultiPolygon areas;
-  auto others = std::make_unique<OGRGeometryCollection>();
-  gather(collection, 0, areas, *others);
-  if (areas.getNumGeometries() < 2) return nullptr;
-  for (auto const* area : areas)
-    if (halfTurn > 0 && stepsOver(*area, halfTurn)) return nullptr;
-  SysGeometry::QuietOgr const quiet;
-  std::unique_ptr<OGRGeometry> united(areas.UnionCascaded());
-  if (!united || united->IsEmpty() || others->addGeometryDirectly(united.get()) != OGRERR_NONE) return nullptr;
-  united.release();
-  return others;
 }
 
 }  // namespace
@@ -208,7 +118,8 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
   projector->mapTolerance_ = target->IsGeographic() ? toleranceDegrees : toleranceM / unit;
   // Some projections count in globes, and not in metres.
   if (domain.size > 0) projector->mapTolerance_ = std::min(projector->mapTolerance_, domain.size * toleranceShare);
-  projector->maxSourceEdge_ = maxEdgeM / metresPerUnit(*source);
+  projector->maxSourceEdge_ =
+      source->IsGeographic() ? maxEdgeDegrees * degree / source->GetAngularUnits() : maxEdgeM / metresPerUnit(*source);
   return projector;
 }
 
@@ -259,18 +170,29 @@ void GeometryProjector::addLinear(OGRGeometry const& geometry, PartSink& sink, i
     case wkbTriangle: return addPolygon(*geometry.toPolygon(), sink);
     case wkbPolyhedralSurface:
     case wkbTIN:
-      for (auto const* face : *geometry.toPolyhedralSurface()) addLinear(*face, sink, depth + 1);
-      return;
     case wkbGeometryCollection:
-      if (auto const united =
-              withUnitedAreas(*geometry.toGeometryCollection(), sourceIsGeographic_ ? 180 / sourceDegree_ : 0))
+      if (auto const united = withUnitedAreas(geometry, sourceIsGeographic_ ? sourceDegree_ : 0))
         return addMembers(*united, sink, depth);
+      if (auto const* const surface = dynamic_cast<OGRPolyhedralSurface const*>(&geometry)) {
+        for (auto const* face : *surface) addLinear(*face, sink, depth + 1);
+        return;
+      }
       [[fallthrough]];
     case wkbMultiPoint:
     case wkbMultiLineString:
     case wkbMultiPolygon: return addMembers(*geometry.toGeometryCollection(), sink, depth);
     default: return;
   }
+}
+
+bool GeometryProjector::isBeyondGlobe(OGRGeometry const& geometry) const {
+  if (!isFromDegrees() || geometry.IsEmpty()) return false;
+  OGREnvelope box;
+  geometry.getEnvelope(&box);
+  auto const isWithin = [&](double low, double high, double most) {
+    return low * sourceDegree_ >= -most && high * sourceDegree_ <= most;
+  };
+  return !(isWithin(box.MinX, box.MaxX, farthestLongitude) && isWithin(box.MinY, box.MaxY, farthestLatitude));
 }
 
 void GeometryProjector::addMembers(OGRGeometryCollection const& collection, PartSink& sink, int depth) const {

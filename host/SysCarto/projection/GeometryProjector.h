@@ -40,6 +40,10 @@ public:
   /// Whether those of the source are longitudes and latitudes, which become others.
   bool isFromDegrees() const { return isProjecting() && sourceIsGeographic_; }
 
+  /// Whether a geometry in degrees, or a part of it, lies where there is no globe: beyond a pole, or more than a turn
+  /// beyond the antimeridian.
+  bool isBeyondGlobe(OGRGeometry const& geometry) const;
+
   /// Hands the parts of a geometry to the sink.
   void add(OGRGeometry const& geometry, PartSink& sink) const;
 
@@ -65,7 +69,7 @@ private:
   double antimeridian_ = 180;  // where a geographic source begins anew: a longitude of the map's globe
   Domain domain_{0, true, nullptr, 0};
   double mapTolerance_ = 0;   // how far a curve may lie from its edges, in map units
-  double maxSourceEdge_ = 0;  // an edge of a projected source is divided beyond this length, in its units
+  double maxSourceEdge_ = 0;  // an edge of a source that is not geographic is divided beyond this length, in its units
 };
 
 }  // namespace SysCarto

@@ -121,6 +121,11 @@ private slots:
             {"type":"Polygon","coordinates":[[[0,0],[9,0],[9,9],[0,9],[0,0]]]},
             {"type":"Polygon","coordinates":[[[5,5],[15,5],[15,15],[5,15],[5,5]]]}]})",
         1);
+    row("areas over one that crosses itself",
+        R"({"type":"GeometryCollection","geometries":[
+            {"type":"Polygon","coordinates":[[[1,1],[15,15],[15,1],[1,15],[1,1]]]},
+            {"type":"Polygon","coordinates":[[[2,2],[14,2],[14,14],[2,14],[2,2]]]}]})",
+        1);
   }
   void geometriesThatAreNoneArePassedOver() {
     auto const [geometry, parts] = fetched<QByteArray, int>();
@@ -135,6 +140,24 @@ private slots:
         result.layer->Draw(painter, transformation, 1, nullptr);
       });
     }
+  }
+
+  void whatIsNotSeenIsTold_data() {
+    Rows<QByteArrayList, QString> row;
+    auto const place = [](QByteArray const& xy) {
+      return feature(R"({"type":"Point","coordinates":[)" + xy + "]}", "A");
+    };
+    row("nothing", {}, "There are no features");
+    row("no geometries", {feature("null", "A"), feature("null", "B")}, "has a geometry");
+    row("a place beyond a pole", {place("3,4"), place("10,95")}, "1 of 2 features lie");
+    row("places for a fill", {place("3,4")}, "None of the symbols");
+    row("places of which most are no degrees", {feature("null", "A"), place("0,0"), place("5e5,53e5"), place("4e5,53e5")},
+        "can't be degrees");
+  }
+  void whatIsNotSeenIsTold() {
+    auto const [features, told] = fetched<QByteArrayList, QString>();
+    auto const warnings = openedJson(collection(features), "EPSG:3857", make<SysDisplay::SimpleFillSymbol>()).warnings;
+    QVERIFY2(warnings.value(0).contains(told), qPrintable(warnings.join('|')));
   }
 
   void coordinatesThatCanNotBeDegreesAreTheMaps() {
@@ -165,16 +188,18 @@ private slots:
   }
 
   void anEncodingIsGuessedWhereNothingSaysIt_data() {
-    Rows<QByteArray, char, bool, bool> row;
-    row("Windows-1252", "Z\xfcrich", 0, false, true);
-    row("as the table says", "Z\xfcrich", 3, false, false);
-    row("as a file beside it says", "Z\xfcrich", 0, true, false);
-    row("UTF-8", "Z\xc3\xbcrich", 0, false, false);
-    row("UTF-8 whose last letter was cut", "Z\xc3\xbcrich a\xc3", 0, false, false);
-    row("no letter that would tell", "Zurich", 0, false, false);
+    Rows<QByteArray, char, QByteArray, bool> row;
+    row("Windows-1252", "Z\xfcrich", 0, "", true);
+    row("as the table says", "Z\xfcrich", 3, "", false);
+    row("as a file beside it says", "Z\xfcrich", 0, "ISO-8859-1", false);
+    row("not as a file beside it says", "Z\xfcrich", 3, "UTF-8", true);
+    row("as a file beside it says in words of its own", "Z\xfcrich", 0, "German", true);
+    row("UTF-8", "Z\xc3\xbcrich", 0, "", false);
+    row("UTF-8 whose last letter was cut", "Z\xc3\xbcrich a\xc3", 0, "UTF-8\n", false);
+    row("no letter that would tell", "Zurich", 0, "", false);
   }
   void anEncodingIsGuessedWhereNothingSaysIt() {
-    auto const [name, codePage, isSaid, isGuessed] = fetched<QByteArray, char, bool, bool>();
+    auto const [name, codePage, said, isGuessed] = fetched<QByteArray, char, QByteArray, bool>();
     QByteArray const value = name.leftJustified(10, ' ');
     QByteArray head(32, 0), field(32, 0);
     head[0] = 3;
@@ -187,7 +212,7 @@ private slots:
     field[16] = 10;
     QTemporaryDir const folder;
     QString const file = written(folder, "a.dbf", head + field + "\r " + value + "\x1a");
-    if (isSaid) written(folder, "a.cpg", "ISO-8859-1");
+    if (!said.isEmpty()) written(folder, "a.cpg", said);
     QCOMPARE(hasGuessedEncoding(file), isGuessed);
     QString error;
     auto const data = DataSource::open(file, {}, error);

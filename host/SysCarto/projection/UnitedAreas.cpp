@@ -1,0 +1,113 @@
+#include "UnitedAreas.h"
+
+#include "host/SysCarto/projection/AntimeridianSteps.h"
+#include "host/SysGeometry/QuietOgr.h"
+
+#include <ogr_geometry.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace SysCarto {
+
+namespace {
+
+constexpr int maxDepth = 32;
+
+using PolygonPointer = std::unique_ptr<OGRPolygon>;
+
+struct Members {
+  std::vector<PolygonPointer> areas;  // flat
+  std::unique_ptr<OGRGeometryCollection> others = std::make_unique<OGRGeometryCollection>();
+};
+
+// A triangle, too, becomes a polygon.
+PolygonPointer flatArea(OGRPolygon const& given) {
+  auto area = std::make_unique<OGRPolygon>();
+  for (auto const* ring : given) area->addRing(const_cast<OGRLinearRing*>(ring));  // which it copies
+  area->flattenTo2D();
+  return area;
+}
+
+void gather(OGRGeometry const& geometry, int depth, Members& members) {
+  auto const type = wkbFlatten(geometry.getGeometryType());
+  auto const* const surface = dynamic_cast<OGRPolyhedralSurface const*>(&geometry);
+  if (type == wkbPolygon || type == wkbTriangle) {
+    members.areas.push_back(flatArea(*geometry.toPolygon()));
+  } else if (surface) {
+    for (auto const* face : *surface) gather(*face, depth + 1, members);
+  } else if (OGR_GT_IsSubClassOf(type, wkbGeometryCollection) && depth < maxDepth) {
+    for (auto const* member : *geometry.toGeometryCollection()) gather(*member, depth + 1, members);
+  } else {
+    members.others->addGeometry(&geometry);
+  }
+}
+
+void joinRing(OGRLinearRing& ring, double degreesPerUnit) {
+  Run run;
+  for (int i = 0; i + 1 < ring.getNumPoints(); ++i)  // the last one is the first
+    run.push_back({ring.getX(i) * degreesPerUnit, ring.getY(i) * degreesPerUnit});
+  joinRing(run, 0);
+  ring.setNumPoints(static_cast<int>(run.size()));
+  for (size_t i = 0; i < run.size(); ++i)
+    ring.setPoint(static_cast<int>(i), run[i].x / degreesPerUnit, run[i].y / degreesPerUnit);
+  ring.closeRings();
+}
+
+void move(OGRPolygon& area, double x) {
+  for (auto* ring : area)
+    for (int i = 0; i < ring->getNumPoints(); ++i) ring->setPoint(i, ring->getX(i) + x, ring->getY(i));
+}
+
+// What lies on both sides of the antimeridian comes to lie together.
+void joinOverAntimeridian(std::vector<PolygonPointer> const& areas, double degreesPerUnit) {
+  double const turn = 360 / degreesPerUnit;
+  auto const envelopeOf = [](OGRPolygon const& area) {
+    OGREnvelope box;
+    area.getEnvelope(&box);
+    return box;
+  };
+  for (PolygonPointer const& area : areas)
+    for (auto* ring : *area) joinRing(*ring, degreesPerUnit);
+  bool const reachesBeyond = std::any_of(areas.begin(), areas.end(), [&](PolygonPointer const& area) {
+    auto const box = envelopeOf(*area);
+    return box.MinX < -turn / 2 || box.MaxX > turn / 2;
+  });
+  if (!reachesBeyond) return;
+  for (PolygonPointer const& area : areas) {
+    auto const box = envelopeOf(*area);
+    move(*area, -turn * std::floor((box.MinX + box.MaxX) / 2 / turn));
+  }
+}
+
+// The area itself, or what is an area of one that crosses itself.
+void addValid(PolygonPointer area, OGRMultiPolygon& valid) {
+  if (area->IsValid()) {
+    valid.addGeometryDirectly(area.release());
+    return;
+  }
+  std::unique_ptr<OGRGeometry> const made(area->MakeValid());
+  if (!made) return;
+  Members parts;
+  gather(*made, 0, parts);
+  for (PolygonPointer& part : parts.areas) valid.addGeometryDirectly(part.release());
+}
+
+}  // namespace
+
+std::unique_ptr<OGRGeometryCollection> withUnitedAreas(OGRGeometry const& geometry, double degreesPerUnit) {
+  Members members;
+  gather(geometry, 0, members);
+  if (members.areas.size() < 2) return nullptr;
+  SysGeometry::QuietOgr const quiet;
+  if (degreesPerUnit > 0) joinOverAntimeridian(members.areas, degreesPerUnit);
+  OGRMultiPolygon valid;
+  for (PolygonPointer& area : members.areas) addValid(std::move(area), valid);
+  std::unique_ptr<OGRGeometry> united(valid.UnionCascaded());
+  if (!united || united->IsEmpty() || members.others->addGeometryDirectly(united.get()) != OGRERR_NONE) return nullptr;
+  united.release();
+  return std::move(members.others);
+}
+
+}  // namespace SysCarto
