@@ -169,18 +169,17 @@ QStringList DocumentFiles::createFromData() {
   NewMapDialog dialog({}, &parent_);
   while (dialog.exec() == QDialog::Accepted) {
     NewMapResult made;
+    SysCarto::MapDocument document;  // the window's stays until it is whole
     {
       ReadingProgress progress(parent_);
-      session_.make([&](SysCarto::MapDocument& document) {
-        made = makeNewMap(dialog.request(), document, progress.watch());
-        return made.problem.isEmpty() && !made.wasStopped;
-      });
+      made = makeNewMap(dialog.request(), document, progress.watch());
     }
     if (made.wasStopped) continue;
     if (!made.problem.isEmpty()) {
       tell(QMessageBox::Critical, tr("The map was not made."), {made.problem});
       continue;
     }
+    session_.takeOver(document);
     hold(nullptr, false);
     if (!made.warnings.isEmpty())
       tell(QMessageBox::Warning, tr("The map was made. Some of its data need a look."), made.warnings);

@@ -42,11 +42,9 @@ bool DocumentSession::open(QString const& path, SysCarto::ReadDepth depth) {
   return settle(true);
 }
 
-bool DocumentSession::make(std::function<bool(SysCarto::MapDocument&)> const& fill) {
-  auto const before = document_.GetPageLayout();
-  bool const done = fill(document_);
-  if (done || document_.GetPageLayout() != before) settle(true);
-  return done;
+void DocumentSession::takeOver(SysCarto::MapDocument& made) {
+  SysCarto::MapDocumentHost::takeOver(document_, made);
+  settle(true);
 }
 
 bool DocumentSession::recover(QString const& copy, QString const& file, bool relativePaths,

@@ -26,8 +26,8 @@ public:
   // Each answers false, with a sentence in `takeProblem` and the document unchanged, where it can't be done.
   bool create();
   bool open(QString const& path, SysCarto::ReadDepth depth = SysCarto::ReadDepth::Features);
-  /// Lets something else give the document its content; it answers whether it did. What it has begun to is told, too.
-  bool make(std::function<bool(SysCarto::MapDocument&)> const& fill);
+  /// Goes on with what another document has become, as a new one.
+  void takeOver(SysCarto::MapDocument& made);
   /// Takes over a copy (`MapDocumentHost::recover`) of a document whose file had that digest when it was last read or
   /// written.
   bool recover(QString const& copy, QString const& file, bool relativePaths, QByteArray const& fileDigest);

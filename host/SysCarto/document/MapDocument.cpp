@@ -339,6 +339,17 @@ bool MapDocumentHost::read(MapDocument& document, QJsonObject const& json, QStri
   return true;
 }
 
+void MapDocumentHost::takeOver(MapDocument& document, MapDocument& made) {
+  DocumentContent const content = made.d->content;
+  QStringList const warnings = made.d->warnings;
+  int const unreadable = made.d->unreadableSources;
+  made.Close();
+  document.d->take(QString(), content);
+  document.d->warnings = warnings;
+  document.d->unreadableSources = unreadable;
+  document.d->change.raise();
+}
+
 bool MapDocumentHost::open(MapDocument& document, QString const& path, ReadDepth depth) {
   return document.d->open(path, depth);
 }

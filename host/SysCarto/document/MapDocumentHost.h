@@ -24,6 +24,10 @@ struct SYSCARTO_EXPORT MapDocumentHost {
   static bool read(MapDocument& document, QJsonObject const& json, QString const& folder = QString(),
                    ReadProgress const& progress = {});
 
+  /// Gives a document what another one has become, which is empty then. It is a new one, without a file, and counts as
+  /// modified.
+  static void takeOver(MapDocument& document, MapDocument& made);
+
   /// As `MapDocument::Open`. Of the schema alone, each layer reads its features once something asks for them; what is
   /// wrong with these is then told by the layer. Later, too; `readingWarnings` tells it of all of them.
   static bool open(MapDocument& document, QString const& path, ReadDepth depth);

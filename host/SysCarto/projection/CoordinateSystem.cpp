@@ -32,7 +32,7 @@ bool matches(QString const& text, char const* pattern) {
 
 // The three notations. Others that GDAL knows (addresses, file names, dictionaries) stay out.
 bool isKnownNotation(QString const& text) {
-  return matches(text, R"(^(EPSG|ESRI|IGNF|OGC|IAU_20[0-9]{2}):[A-Z0-9._]+$)") ||
+  return matches(text, R"(^(EPSG|ESRI|IGNF|OGC|IAU(_20[0-9]{2})?):[A-Z0-9._]+$)") ||
          matches(text, R"(^[A-Z_]*(CS|CRS)\s*\[)") || matches(text, R"(^\+?proj\s*=)");
 }
 
@@ -46,8 +46,11 @@ std::unique_ptr<OGRSpatialReference> parse(QString const& text) {
   stayOffline();
   SysGeometry::QuietOgr const quiet;
   auto system = std::make_unique<OGRSpatialReference>();
+  QLatin1String const iau("IAU:");  // as data say it; PROJ has the year of the report in the name
+  QString const known =
+      text.startsWith(iau, Qt::CaseInsensitive) ? QStringLiteral("IAU_2015:") + text.mid(iau.size()) : text;
   OGRErr const result =
-      system->SetFromUserInput(text.toUtf8().constData(), OGRSpatialReference::SET_FROM_USER_INPUT_LIMITATIONS_get());
+      system->SetFromUserInput(known.toUtf8().constData(), OGRSpatialReference::SET_FROM_USER_INPUT_LIMITATIONS_get());
   if (result != OGRERR_NONE) return nullptr;
   system->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
   return system;
@@ -110,6 +113,11 @@ bool namesPath(OGRSpatialReference const& system) {
   CPLFree(wkt);
   CPLFree(projText);
   return matches(text, R"((grids|\binit|\bfile)\s*=[^\s"+]*/)") || matches(text, R"(PARAMETERFILE\s*\[[^\]]*/)");
+}
+
+bool isGeocentric(QString const& definition) {
+  SystemPtr const system = isKnownNotation(definition.trimmed()) ? parse(definition.trimmed()) : nullptr;
+  return system && system->IsGeocentric();
 }
 
 // A document names few systems and asks for them again and again, and PROJ looks each up in its database. What is kept

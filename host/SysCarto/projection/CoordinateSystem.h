@@ -25,6 +25,9 @@ SYSCARTO_EXPORT bool namesPath(OGRSpatialReference const& system);
 /// `checkCoordinateSystem` refuses.
 SYSCARTO_EXPORT std::unique_ptr<OGRSpatialReference> makeCoordinateSystem(QString const& definition);
 
+/// Whether a system counts X, Y and Z from the middle of the Earth; it is none for a map.
+SYSCARTO_EXPORT bool isGeocentric(QString const& definition);
+
 /// The geographic system on whose globe a system lies: degrees from its prime meridian, longitude before latitude; null
 /// where it has none.
 SYSCARTO_EXPORT std::unique_ptr<OGRSpatialReference> globeOf(OGRSpatialReference const& system);

@@ -77,8 +77,9 @@ bool GlobeSurvey::hideTornCells() {
     double const long_ = distance(nodes_[from].x, nodes_[from].y, nodes_[to].x, nodes_[to].y);
     return std::isfinite(long_) ? long_ : 0;
   };
+  auto const isBroken = [&](int edge) { return edges_[edge].last >= 0 && edges_[edge].first >= 0; };
   auto const isTorn = [&](int edge) {
-    if (edges_[edge].last < 0 || edges_[edge].first < 0) return false;
+    if (!isBroken(edge)) return false;
     int const step = edge % 2 ? columns_ + 1 : 1, start = edge / 2, end = start + step, column = start % (columns_ + 1);
     double const before = step > 1 || column > 0 ? length(start - step, start) : 0;
     double const after = step > 1 || column + 1 < columns_ ? length(end, end + step) : 0;
@@ -88,11 +89,13 @@ bool GlobeSurvey::hideTornCells() {
   for (int row = 0; row < rows_; ++row)
     for (int column = 0; column < columns_; ++column) {
       int const corner = node(column, row), above = corner + columns_ + 1;
-      int const count = isTorn(edge(corner, false)) + isTorn(edge(corner, true)) + isTorn(edge(corner + 1, true)) +
-                        isTorn(edge(above, false));
+      std::array<int, 4> const sides{edge(corner, false), edge(corner, true), edge(corner + 1, true),
+                                     edge(above, false)};
+      bool const isEnd = std::count_if(sides.begin(), sides.end(), isBroken) == 1;
       bool const isShown = nodes_[corner].isShown() && nodes_[corner + 1].isShown() && nodes_[above].isShown() &&
                            nodes_[above + 1].isShown();
-      if (isShown && count == 1) torn.insert(torn.end(), {corner, corner + 1, above, above + 1});
+      if (isShown && isEnd && std::any_of(sides.begin(), sides.end(), isTorn))
+        torn.insert(torn.end(), {corner, corner + 1, above, above + 1});
     }
   for (int at : torn) nodes_[at].x = nodes_[at].y = NAN;
   return !torn.empty();

@@ -164,6 +164,11 @@ bool NewMap::surveyFile(QString const& file, QString const& layer, bool isOfFold
     names << one.name;
     if (!layer.isEmpty() && one.name != layer) continue;
     isKnown = true;
+    if (SysCarto::isGeocentric(one.coordinateSystem))
+      return fail(
+          tr("The layer “%1” of “%2” can't be shown: its coordinates are geocentric, as X, Y and Z; convert the "
+             "data to longitude and latitude.")
+              .arg(one.name, file));
     QString problem;
     auto source = SysCarto::SourceSettings::of(file, one.name);
     source.filter = request_.where;
@@ -193,6 +198,11 @@ bool NewMap::chooseSystem() {
   else
     system_ = ProjectionChoice::forData(place_);
   explain(tr("Coordinate system %1 (%2)").arg(system_.definition, system_.name), system_.reason);
+  if (system_.definition.isEmpty())
+    result_.warnings << tr(
+        "No coordinate system is known for the data, so that the map has none, nor a scale. Give the "
+        "layers one in their sources' field “coordinateSystem”, and the map with --crs or in its tab "
+        "Coordinate System.");
   if (place_.outliers > 0) explain(tr("Extent of the bulk of the data"), place_.outlierText());
   return true;
 }
@@ -439,7 +449,9 @@ bool NewMap::compose() {
       explain(tr("Legend beside the map"), tr("It would hide data."));
     }
   }
-  for (auto const& element : page.scale(isGlobe())) elements.append(aligned(element.toObject()));
+  bool const hasScale = !system_.definition.isEmpty();
+  for (auto const& element : hasScale ? page.scale(isGlobe()) : QJsonArray())
+    elements.append(aligned(element.toObject()));
   bool const hasArrow = projectedArea().isValid() && !hasGraticule_;
   if (hasArrow) elements.append(page.northArrow());
   elements.append(page.credits(hasArrow));

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 using SysCarto::FieldDescription;
 using SysCarto::GeometryKind;
@@ -36,36 +37,55 @@ GeometryKind kindOf(OGRGeometry const& geometry) {
   }
 }
 
-void addLines(OGRSimpleCurve const& curve, GlobeExtent& extent) {
-  for (int i = 0; i < curve.getNumPoints(); ++i)
-    if (i == 0)
-      extent.addPlace(curve.getX(i), curve.getY(i));
-    else
-      extent.addLine(curve.getX(i - 1), curve.getY(i - 1), curve.getX(i), curve.getY(i));
-}
+// Of a geographic system, whose unit need not be a degree, nor its meridian that of Greenwich.
+class Degrees {
+public:
+  explicit Degrees(OGRSpatialReference const& system)
+      : unit_(system.GetAngularUnits() * 180 / M_PI), meridian_(system.GetPrimeMeridian()) {}
 
-void addDegrees(OGRGeometry const& geometry, GlobeExtent& extent) {
-  if (auto const* const point = dynamic_cast<OGRPoint const*>(&geometry)) {
-    if (!point->IsEmpty()) extent.addPlace(point->getX(), point->getY());
-  } else if (auto const* const curve = dynamic_cast<OGRSimpleCurve const*>(&geometry)) {
-    addLines(*curve, extent);
-  } else if (auto const* const polygon = dynamic_cast<OGRPolygon const*>(&geometry)) {
-    if (polygon->getExteriorRing()) addLines(*polygon->getExteriorRing(), extent);
-  } else if (auto const* const collection = dynamic_cast<OGRGeometryCollection const*>(&geometry)) {
-    for (auto const* const member : *collection) addDegrees(*member, extent);
-  } else {
-    std::unique_ptr<OGRGeometry> const linear(geometry.getLinearGeometry());
-    if (linear && wkbFlatten(linear->getGeometryType()) != wkbFlatten(geometry.getGeometryType()))
-      addDegrees(*linear, extent);
+  double longitude(double x) const { return x * unit_ + meridian_; }
+  double latitude(double y) const { return y * unit_; }
+  double turn() const { return 360 / unit_; }
+  GlobeArea area(SysGeometry::Box const& box) const {
+    return {longitude(box.xmin), latitude(box.ymin), longitude(box.xmax), latitude(box.ymax)};
   }
-}
+
+  void add(OGRGeometry const& geometry, GlobeExtent& extent) const {
+    if (auto const* const point = dynamic_cast<OGRPoint const*>(&geometry)) {
+      if (!point->IsEmpty()) extent.addPlace(longitude(point->getX()), latitude(point->getY()));
+    } else if (auto const* const curve = dynamic_cast<OGRSimpleCurve const*>(&geometry)) {
+      addLines(*curve, extent);
+    } else if (auto const* const polygon = dynamic_cast<OGRPolygon const*>(&geometry)) {
+      if (polygon->getExteriorRing()) addLines(*polygon->getExteriorRing(), extent);
+    } else if (auto const* const collection = dynamic_cast<OGRGeometryCollection const*>(&geometry)) {
+      for (auto const* const member : *collection) add(*member, extent);
+    } else {
+      std::unique_ptr<OGRGeometry> const linear(geometry.getLinearGeometry());
+      if (linear && wkbFlatten(linear->getGeometryType()) != wkbFlatten(geometry.getGeometryType()))
+        add(*linear, extent);
+    }
+  }
+
+private:
+  void addLines(OGRSimpleCurve const& curve, GlobeExtent& extent) const {
+    for (int i = 0; i < curve.getNumPoints(); ++i) {
+      double const x = longitude(curve.getX(i)), y = latitude(curve.getY(i));
+      if (i == 0)
+        extent.addPlace(x, y);
+      else
+        extent.addLine(longitude(curve.getX(i - 1)), latitude(curve.getY(i - 1)), x, y);
+    }
+  }
+
+  double const unit_, meridian_;
+};
 
 // Where the features are. Those of a geographic system say it themselves; of others the rectangle about them all is
 // followed, so that nothing but its edge has to be transformed.
 class Finder {
 public:
   explicit Finder(QString const& definition) : system_(SysCarto::makeCoordinateSystem(definition)) {
-    isGeographic_ = system_ && system_->IsGeographic();
+    if (system_ && system_->IsGeographic()) degrees_.emplace(*system_);
   }
 
   void add(OGRGeometry const& geometry) {
@@ -77,7 +97,7 @@ public:
     if (geometry.getDimension() == 2)
       coveredKm2_ += squareKm(OGR_G_Area(OGRGeometry::ToHandle(const_cast<OGRGeometry*>(&geometry))),
                               (box.ymin + box.ymax) / 2, system_.get());
-    if (isGeographic_) addDegrees(geometry, degrees_);
+    if (degrees_) degrees_->add(geometry, extent_);
   }
 
   void finish(LayerSurvey& survey) const {
@@ -85,20 +105,21 @@ public:
     if (sample_.all().isEmpty()) return;
     // Of a geographic system, along the globe from where there is the most room: what is about the antimeridian stays
     // together.
-    double const west = isGeographic_ && !degrees_.isEmpty() ? degrees_.area().west : -180;
+    double const west = extent_.isEmpty() ? -180 : extent_.area().west;
     BoxSample turned;
-    if (isGeographic_)
+    if (degrees_)
       for (Box box : sample_.boxes()) {
-        double const turn = 360 * std::floor(((box.xmin + box.xmax) / 2 - west) / 360);
+        double const turn =
+            degrees_->turn() * std::floor(((degrees_->area(box).west + degrees_->area(box).east) / 2 - west) / 360);
         turned.add({box.xmin - turn, box.ymin, box.xmax - turn, box.ymax});
       }
-    Bulk const bulk = Bulk::of(isGeographic_ && sample_.step() == 1 ? turned : sample_);
+    Bulk const bulk = Bulk::of(degrees_ && sample_.step() == 1 ? turned : sample_);
     survey.outliers = bulk.outliers;
     survey.box = bulk.outliers > 0 ? bulk.box : sample_.all();
-    if (isGeographic_ && bulk.outliers == 0) {
-      survey.extent = degrees_;
-    } else if (isGeographic_) {
-      for (Box const& box : bulk.boxes) survey.extent.add({box.xmin, box.ymin, box.xmax, box.ymax});
+    if (degrees_ && bulk.outliers == 0) {
+      survey.extent = extent_;
+    } else if (degrees_) {
+      for (Box const& box : bulk.boxes) survey.extent.add(degrees_->area(box));
     } else if (system_) {
       addTransformed(survey.box, survey.extent);
     }
@@ -137,8 +158,8 @@ private:
   }
 
   std::unique_ptr<OGRSpatialReference> const system_;
-  bool isGeographic_ = false;
-  GlobeExtent degrees_;
+  std::optional<Degrees> degrees_;  // of a geographic system
+  GlobeExtent extent_;
   BoxSample sample_;
   double largestKm2_ = 0, coveredKm2_ = 0;
 };

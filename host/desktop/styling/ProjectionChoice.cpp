@@ -104,14 +104,25 @@ ProjectionChoice utm(GlobeArea const& area) {
           Texts::tr("The data cover less than %1 km, and this is their zone of UTM.").arg(townKm), false};
 }
 
-// How much larger the scale is at one place of the area than at another; large where the system does not reach.
+// Whether north is more or less up and east to the right, as not in systems that count southwards or westwards.
+bool isUpright(SysCarto::PointTransform const& toMap, GlobeArea const& area) {
+  constexpr double step = 0.01;  // degrees
+  double x[3] = {area.centreLongitude(), area.centreLongitude() + step, area.centreLongitude()};
+  double y[3] = {area.centreLatitude(), area.centreLatitude(), area.centreLatitude() - step};
+  for (int i = 0; i < 3; ++i)
+    if (!toMap.apply(x[i], y[i])) return false;
+  return x[1] > x[0] && y[0] > y[2];
+}
+
+// How much larger the scale is at one place of the area than at another; large where the system does not reach, or the
+// map would not be upright.
 double distortion(QString const& definition, GlobeArea const& area) {
   auto const system = SysCarto::makeCoordinateSystem(definition);
   if (!system || system->IsGeographic()) return HUGE_VAL;
   auto const globe = SysCarto::globeOf(*system);
   QString error;
   auto const toMap = globe ? SysCarto::PointTransform::create(*globe, *system, error) : nullptr;
-  if (!toMap) return HUGE_VAL;
+  if (!toMap || !isUpright(*toMap, area)) return HUGE_VAL;
   SysCarto::GroundScale const ground(definition);
   double const unit = system->GetLinearUnits();
   double smallest = HUGE_VAL, largest = 0;
@@ -151,6 +162,10 @@ ProjectionChoice ProjectionChoice::forArea(GlobeArea const& area, QStringList co
 }
 
 ProjectionChoice ProjectionChoice::forData(DataPlace const& place) {
+  bool const isOfOneSystem = place.systems.size() == 1 && SysCarto::makeCoordinateSystem(place.systems.first());
+  if (!place.isKnown && place.hasFeatures && isOfOneSystem)
+    return {place.systems.first(), QString::fromUtf8(SysCarto::makeCoordinateSystem(place.systems.first())->GetName()),
+            Texts::tr("It is the data's own; where on the globe they are is not known."), false};
   if (!place.isKnown && place.hasFeatures)
     return {QString(), Texts::tr("plain coordinates"), Texts::tr("Where on the globe the data are is not known."),
             false};

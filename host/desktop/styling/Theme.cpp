@@ -24,15 +24,17 @@ constexpr Word words[] = {
      "re",
      Subject::Water},
     {"building|geb.ude|b.timent|footprint|house", Subject::Building},
-    {"rail|bahn|tram|metro|subway|chemins?_de_fer", Subject::Rail},
-    {"road|street|highway|strasse|stra.e|stra.en|route|voirie|path|trail|weg", Subject::Road},
+    {"(?<![a-z])rail|bahn|tram|metro|subway|chemins?_de_fer", Subject::Rail},
+    {"road|street|highway|strasse|stra.e|stra.en|route|voirie|path|trail|weg(e|en)?(?![a-zäöü])", Subject::Road},
     {"track|gpx|tour|hike", Subject::Track},
     {"forest|wood|park|green|wald|garden|reserve|natur|landuse|landcover|meadow|for.t", Subject::Green},
     {"boundar|border|grenze|limit|fronti.re", Subject::Boundary},
-    {"countr|nation|admin|land$|lands$|coast|state|province|county|region|district|department|kreis|gemeinde|commune|"
+    {"countr|(?<![a-z])nation|admin|land$|lands$|coast|(?<![a-z])state|province|county|region|district|department|"
+     "kreis|gemeinde|commune|"
      "municip|l.nder|staaten|kanton|nuts|island",
      Subject::Land},
-    {"cit(y|ies)|town|place|settlement|village|stadt|st.dte|ort|orte|capital|ville", Subject::Settlement},
+    {"(?<![a-z])cit(y|ies)|town|place|settlement|village|stadt|st.dte|(?<![a-zäöü])orte?(?![a-zäöü])|capital|ville",
+     Subject::Settlement},
 };
 
 QJsonObject layered(char const* type, QJsonArray const& layers) {

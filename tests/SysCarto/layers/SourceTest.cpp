@@ -151,8 +151,8 @@ private slots:
     row("no geometries", {feature("null", "A"), feature("null", "B")}, "has a geometry");
     row("a place beyond a pole", {place("3,4"), place("10,95")}, "1 of 2 features lie");
     row("places for a fill", {place("3,4")}, "None of the symbols");
-    row("places of which most are no degrees", {feature("null", "A"), place("0,0"), place("5e5,53e5"), place("4e5,53e5")},
-        "can't be degrees");
+    row("places of which most are no degrees",
+        {feature("null", "A"), place("0,0"), place("5e5,53e5"), place("4e5,53e5")}, "can't be degrees");
   }
   void whatIsNotSeenIsTold() {
     auto const [features, told] = fetched<QByteArrayList, QString>();
