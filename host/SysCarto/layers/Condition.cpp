@@ -9,6 +9,7 @@
 #include <ogrsf_frmts.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace SysCarto {
 
@@ -27,29 +28,62 @@ swq_expr_node* fetched(swq_expr_node* field, void* record) {
     case SWQ_GEOMETRY: return new swq_expr_node(feature.GetGeomFieldRef(0));
     default: value = std::make_unique<swq_expr_node>(feature.GetFieldAsString(index));
   }
+  if (field->field_type == SWQ_DATE || field->field_type == SWQ_TIMESTAMP) value->MarkAsTimestamp();
   value->is_null = !feature.IsFieldSetAndNotNull(index);
   return value.release();
 }
 
-bool lacksDate(swq_expr_node const& node, OGRFeature const& feature) {
-  bool const isDate = node.field_type == SWQ_DATE || node.field_type == SWQ_TIME || node.field_type == SWQ_TIMESTAMP;
-  if (node.eNodeType == SNT_COLUMN) return isDate && !feature.IsFieldSetAndNotNull(node.field_index);
-  if (node.eNodeType != SNT_OPERATION || node.nOperation == SWQ_ISNULL) return false;
-  return std::any_of(node.papoSubExpr, node.papoSubExpr + node.nSubExprCount,
-                     [&](swq_expr_node const* part) { return lacksDate(*part, feature); });
+bool isDate(swq_expr_node const& node) {
+  return node.field_type == SWQ_DATE || node.field_type == SWQ_TIME || node.field_type == SWQ_TIMESTAMP;
 }
 
-// A comparison with a date that there is none of is not true. OGR would give up all of the condition instead.
-bool isTrue(swq_expr_node& node, OGRFeature& feature) {
-  bool const isOperation = node.eNodeType == SNT_OPERATION;
-  if (isOperation && node.nOperation == SWQ_AND)
-    return isTrue(*node.papoSubExpr[0], feature) && isTrue(*node.papoSubExpr[1], feature);
-  if (isOperation && node.nOperation == SWQ_OR)
-    return isTrue(*node.papoSubExpr[0], feature) || isTrue(*node.papoSubExpr[1], feature);
-  if (isOperation && node.nOperation == SWQ_NOT) return !isTrue(*node.papoSubExpr[0], feature);
-  if (lacksDate(node, feature)) return false;
+bool isOperation(swq_expr_node const& node, swq_op operation) {
+  return node.eNodeType == SNT_OPERATION && node.nOperation == operation;
+}
+
+template <class Is>
+bool anyPart(swq_expr_node const& node, Is const& is) {
+  return std::any_of(node.papoSubExpr, node.papoSubExpr + node.nSubExprCount,
+                     [&](swq_expr_node const* part) { return is(*part); });
+}
+
+bool lacksDate(swq_expr_node const& node, OGRFeature const& feature) {
+  if (node.eNodeType == SNT_COLUMN) return isDate(node) && !feature.IsFieldSetAndNotNull(node.field_index);
+  if (node.eNodeType != SNT_OPERATION || node.nOperation == SWQ_ISNULL) return false;
+  bool const isNull = anyPart(node, isDate) && anyPart(node, [](swq_expr_node const& part) {
+                        return part.eNodeType == SNT_CONSTANT && part.is_null;
+                      });
+  return isNull || anyPart(node, [&](swq_expr_node const& part) { return lacksDate(part, feature); });
+}
+
+// OGR knows what is equal to a date however it is written, but not what is unequal.
+void expressByEqual(swq_expr_node& node) {
+  for (int i = 0; i < node.nSubExprCount && node.eNodeType == SNT_OPERATION; ++i) expressByEqual(*node.papoSubExpr[i]);
+  if (!isOperation(node, SWQ_NE) || !anyPart(node, isDate)) return;
+  auto equal = std::make_unique<swq_expr_node>(SWQ_EQ);
+  equal->field_type = SWQ_BOOLEAN;
+  for (int i = 0; i < node.nSubExprCount; ++i) equal->PushSubExpression(node.papoSubExpr[i]);
+  node.nSubExprCount = 0;
+  node.nOperation = SWQ_NOT;
+  node.PushSubExpression(equal.release());
+}
+
+// Of SQL's three values; a comparison with a date that there is none of is neither true nor false. OGR would give up
+// all of the condition instead.
+std::optional<bool> truth(swq_expr_node& node, OGRFeature& feature) {
+  bool const isAnd = isOperation(node, SWQ_AND);
+  if (isAnd || isOperation(node, SWQ_OR)) {
+    auto const first = truth(*node.papoSubExpr[0], feature), second = truth(*node.papoSubExpr[1], feature);
+    if (first == !isAnd || second == !isAnd) return !isAnd;
+    return first && second ? std::optional<bool>(isAnd) : std::nullopt;
+  }
+  if (isOperation(node, SWQ_NOT)) {
+    auto const inner = truth(*node.papoSubExpr[0], feature);
+    return inner ? std::optional<bool>(!*inner) : std::nullopt;
+  }
+  if (lacksDate(node, feature)) return std::nullopt;
   std::unique_ptr<swq_expr_node> const value(node.Evaluate(fetched, &feature));
-  return value && !value->is_null && value->int_value != 0;
+  return value && !value->is_null ? std::optional<bool>(value->int_value != 0) : std::nullopt;
 }
 
 }  // namespace
@@ -72,6 +106,7 @@ bool Condition::compile(OGRLayer& layer, QString const& text, QString& reason) {
     OGRFieldType const type = index < 0 ? OFTString : layer.GetLayerDefn()->GetFieldDefn(index)->GetType();
     if (type == OFTDate || type == OFTTime || type == OFTDateTime) dates_.push_back(index);
   }
+  if (ok && !dates_.empty()) expressByEqual(*static_cast<swq_expr_node*>(query_->GetSWQExpr()));
   if (ok) patterns_ = PatternBounds(*static_cast<swq_expr_node*>(query_->GetSWQExpr()));
   return ok;
 }
@@ -95,9 +130,8 @@ void Condition::narrow(OGRLayer& layer) const {
 bool Condition::admits(OGRFeature& feature) const {
   if (!query_) return true;
   if (!patterns_.admit(feature)) return false;
-  bool const isDateless =
-      std::any_of(dates_.begin(), dates_.end(), [&](int date) { return !feature.IsFieldSetAndNotNull(date); });
-  return isDateless ? isTrue(*static_cast<swq_expr_node*>(query_->GetSWQExpr()), feature) : query_->Evaluate(&feature);
+  if (dates_.empty()) return query_->Evaluate(&feature);
+  return truth(*static_cast<swq_expr_node*>(query_->GetSWQExpr()), feature).value_or(false);
 }
 
 }  // namespace SysCarto
