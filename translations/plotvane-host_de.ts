@@ -76,6 +76,29 @@
     </message>
 </context>
 <context>
+    <name>AdmittedFeatures</name>
+    <message>
+        <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
+        <translation>Nichts von %1 liegt dort, wo das Koordinatensystem der Karte den Globus zeigt, sodass die Ebene leer ist; geben Sie der Karte ein anderes Koordinatensystem, oder der Quelle das, das sie in Wahrheit hat.</translation>
+    </message>
+    <message>
+        <source>There are no features in %1, so that the layer is empty.</source>
+        <translation>In %1 gibt es keine Objekte, so dass der Layer leer ist.</translation>
+    </message>
+    <message>
+        <source>None of the features of %1 has a geometry, so that the layer is empty.</source>
+        <translation>Keines der Objekte von %1 hat eine Geometrie, so dass der Layer leer ist.</translation>
+    </message>
+    <message>
+        <source>Of %1, %2 of %3 features lie, at least in part, where there is no globe: beyond a pole or several times around. That is left out. Are longitude and latitude exchanged, or is the coordinate system another one? Give it in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Von %1 liegen %2 von %3 Objekten zumindest teilweise dort, wo es keinen Globus gibt: jenseits eines Pols oder mehrfach herum. Das wird weggelassen. Sind Länge und Breite vertauscht, oder ist das Koordinatensystem ein anderes? Geben Sie es im Feld „coordinateSystem“ der Quelle an.</translation>
+    </message>
+    <message>
+        <source>None of the symbols of the layer draws what %1 has: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Give the layer another symbol.</source>
+        <translation>Keines der Symbole des Layers zeichnet, was %1 enthält: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Geben Sie dem Layer ein anderes Symbol.</translation>
+    </message>
+</context>
+<context>
     <name>AllowedFoldersDialog</name>
     <message>
         <source>Allowed Folders</source>
@@ -3103,7 +3126,15 @@
     </message>
     <message>
         <source>Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it with the name of the encoding would say so.</source>
-        <translation>Nichts sagt, wie die Texte von %1 kodiert sind; sie werden als Windows-1252 genommen. Eine Datei „%2“ daneben mit dem Namen der Kodierung würde es sagen.</translation>
+        <translation type="vanished">Nichts sagt, wie die Texte von %1 kodiert sind; sie werden als Windows-1252 genommen. Eine Datei „%2“ daneben mit dem Namen der Kodierung würde es sagen.</translation>
+    </message>
+    <message>
+        <source>Texts of %1 are not encoded as its format has it, so that � stands for letters; save it anew, as UTF-8 where there is a choice.</source>
+        <translation>Texte von %1 sind nicht so kodiert, wie es das Format vorsieht, so dass � für Buchstaben steht; speichern Sie die Datei neu, wo es die Wahl gibt als UTF-8.</translation>
+    </message>
+    <message>
+        <source>How the texts of %1 are encoded is not said, or not truly; they are taken as Windows-1252. A file beside the table, with its name and the suffix “.cpg”, would say so with the name of the encoding in it.</source>
+        <translation>Wie die Texte von %1 kodiert sind, ist nicht oder falsch angegeben; sie werden als Windows-1252 gelesen. Eine Datei neben der Tabelle, mit deren Namen und der Endung „.cpg“, würde es mit dem Namen der Kodierung darin sagen.</translation>
     </message>
 </context>
 <context>
@@ -8095,6 +8126,14 @@
         <source>The data are about as broad as high.</source>
         <translation>Die Daten sind etwa so breit wie hoch.</translation>
     </message>
+    <message>
+        <source>The layer “%1” of “%2” can&apos;t be shown: its coordinates are geocentric, as X, Y and Z; convert the data to longitude and latitude.</source>
+        <translation>Der Layer „%1“ von „%2“ kann nicht gezeigt werden: Seine Koordinaten sind geozentrisch, als X, Y und Z; rechnen Sie die Daten in Länge und Breite um.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is known for the data, so that the map has none, nor a scale. Give the layers one in their sources&apos; field “coordinateSystem”, and the map with --crs or in its tab Coordinate System.</source>
+        <translation>Für die Daten ist kein Koordinatensystem bekannt, so dass die Karte keines hat und auch keinen Maßstab. Geben Sie den Layern eines im Feld „coordinateSystem“ ihrer Quellen und der Karte mit --crs oder auf ihrer Karteikarte „Koordinatensystem“.</translation>
+    </message>
 </context>
 <context>
     <name>NewMapDialog</name>
@@ -8927,6 +8966,10 @@
     <message>
         <source>There are no features that say where the map is, so it shows the world.</source>
         <translation>Keine Objekte sagen, wo die Karte liegt, also zeigt sie die Welt.</translation>
+    </message>
+    <message>
+        <source>It is the data&apos;s own; where on the globe they are is not known.</source>
+        <translation>Es ist das eigene der Daten; wo auf dem Globus sie liegen, ist nicht bekannt.</translation>
     </message>
 </context>
 <context>

@@ -76,6 +76,29 @@
     </message>
 </context>
 <context>
+    <name>AdmittedFeatures</name>
+    <message>
+        <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
+        <translation>%1 的内容全部位于地图坐标系所显示的地球范围之外，因此该图层为空；请为地图选择其他坐标系，或为数据源指定其真实的坐标系。</translation>
+    </message>
+    <message>
+        <source>There are no features in %1, so that the layer is empty.</source>
+        <translation>%1中没有要素，因此图层为空。</translation>
+    </message>
+    <message>
+        <source>None of the features of %1 has a geometry, so that the layer is empty.</source>
+        <translation>%1的要素都没有几何图形，因此图层为空。</translation>
+    </message>
+    <message>
+        <source>Of %1, %2 of %3 features lie, at least in part, where there is no globe: beyond a pole or several times around. That is left out. Are longitude and latitude exchanged, or is the coordinate system another one? Give it in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1的 %3 个要素中有 %2 个至少部分位于地球之外：超出极点或绕行多圈。这些部分将被忽略。经度和纬度是否颠倒，或者坐标系是否有误？请在数据源的“coordinateSystem”字段中给出坐标系。</translation>
+    </message>
+    <message>
+        <source>None of the symbols of the layer draws what %1 has: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Give the layer another symbol.</source>
+        <translation>图层的符号都不能绘制%1中的内容：填充及其轮廓绘制面，线绘制线和面，标记绘制点。请为图层选择其他符号。</translation>
+    </message>
+</context>
+<context>
     <name>AllowedFoldersDialog</name>
     <message>
         <source>Allowed Folders</source>
@@ -3103,7 +3126,15 @@
     </message>
     <message>
         <source>Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it with the name of the encoding would say so.</source>
-        <translation>没有任何信息说明 %1 的文本编码；现按 Windows-1252 处理。可在旁边放一个写有编码名称的文件“%2”加以说明。</translation>
+        <translation type="vanished">没有任何信息说明 %1 的文本编码；现按 Windows-1252 处理。可在旁边放一个写有编码名称的文件“%2”加以说明。</translation>
+    </message>
+    <message>
+        <source>Texts of %1 are not encoded as its format has it, so that � stands for letters; save it anew, as UTF-8 where there is a choice.</source>
+        <translation>%1的文本编码与其格式不符，因此以 � 代替字母；请重新保存，如可选择请用 UTF-8。</translation>
+    </message>
+    <message>
+        <source>How the texts of %1 are encoded is not said, or not truly; they are taken as Windows-1252. A file beside the table, with its name and the suffix “.cpg”, would say so with the name of the encoding in it.</source>
+        <translation>没有说明或错误地说明了%1的文本编码；按 Windows-1252 读取。在表旁放置同名、后缀为“.cpg”的文件，并在其中写上编码名称，即可说明编码。</translation>
     </message>
 </context>
 <context>
@@ -8095,6 +8126,14 @@
         <source>The data are about as broad as high.</source>
         <translation>数据的宽与高大致相等。</translation>
     </message>
+    <message>
+        <source>The layer “%1” of “%2” can&apos;t be shown: its coordinates are geocentric, as X, Y and Z; convert the data to longitude and latitude.</source>
+        <translation>无法显示“%2”的图层“%1”：其坐标是地心坐标 X、Y、Z；请将数据转换为经纬度。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is known for the data, so that the map has none, nor a scale. Give the layers one in their sources&apos; field “coordinateSystem”, and the map with --crs or in its tab Coordinate System.</source>
+        <translation>数据的坐标系未知，因此地图没有坐标系，也没有比例尺。请在图层数据源的“coordinateSystem”字段中给出坐标系，并用 --crs 或在地图的“坐标系”选项卡中给出地图的坐标系。</translation>
+    </message>
 </context>
 <context>
     <name>NewMapDialog</name>
@@ -8927,6 +8966,10 @@
     <message>
         <source>There are no features that say where the map is, so it shows the world.</source>
         <translation>没有要素说明地图位置，因此显示全世界。</translation>
+    </message>
+    <message>
+        <source>It is the data&apos;s own; where on the globe they are is not known.</source>
+        <translation>这是数据自身的坐标系；数据在地球上的位置未知。</translation>
     </message>
 </context>
 <context>
