@@ -203,9 +203,9 @@ private:
       for (int i = 0; i < count; ++i) elements.append(one);
       whole["elements"] = elements;
     }
-    QVERIFY(session.make([&](SysCarto::MapDocument& document) {
-      return MapDocumentHost::read(document, whole, QFileInfo(world).path());
-    }));
+    SysCarto::MapDocument made;
+    QVERIFY(MapDocumentHost::read(made, whole, QFileInfo(world).path()));
+    session.takeOver(made);
   }
 
   QTemporaryDir folder_;
