@@ -6,7 +6,6 @@
 
 #include <QObject>
 
-
 /// The document that is being worked on, its undo history, and whether it holds what its file does not. As long as the
 /// session lives, the editor records into that history.
 class DocumentSession final : public QObject {

@@ -143,7 +143,8 @@ private:
     map->SetExtent(make<SysGeometry::Envelope>(1.0 / 3, 0.1, 7.7, 5.2));
     for (QString const name : {"A", "B", "C"}) {
       map->AddLayer(
-          opened({written(folder_, "a.geojson", geoJson(R"({"type":"Point","coordinates":[1,2]})")), {}, {}, {}}, {})
+          opened({written(folder_, "a.geojson", geoJson(R"({"type":"Point","coordinates":[1,2]})")), {}, {}, {}}, {},
+                 make<SysDisplay::SimpleFillSymbol>())
               .layer);
       map->GetLayers().last()->SetName(name);
     }

@@ -137,7 +137,8 @@ private slots:
     QVERIFY(pictureOf(page) == seen);
     history->Redo();
     QVERIFY(MapDocumentHost::text(document) == moved);
-    auto const newcomer = opened({folder_.filePath("a.geojson"), {}, {}, {}}, {}).layer;
+    auto const newcomer =
+        opened({folder_.filePath("a.geojson"), {}, {}, {}}, {}, make<SysDisplay::SimpleFillSymbol>()).layer;
     MapSteps::changeLayers("Add", {{first, {layers[2], newcomer, layers[0]}}});
     QVERIFY(LayerHost::groups(*newcomer) == LayerHost::groups(*layers[0]));
     history->Undo();
@@ -296,7 +297,9 @@ private slots:
     for (QString const name : {"p", "q", "r"}) {
       QByteArray const data = geoJson(R"({"type":"Point","coordinates":[1,2]})");
       if (name != "r") put(folder_.filePath("moved/" + name + ".geojson"), data);
-      auto const layer = opened({folder_.filePath("lost/" + name + ".geojson"), {}, {}, {}}, {}).layer;
+      auto const layer =
+          opened({folder_.filePath("lost/" + name + ".geojson"), {}, {}, {}}, {}, make<SysDisplay::SimpleFillSymbol>())
+              .layer;
       layer->SetName(name);
       map->AddLayer(layer);
     }
@@ -322,7 +325,8 @@ private:
     auto const map = page.add<SysCarto::MapFrameElement>(leftCm, 1, leftCm + 8, 9)->GetMap();
     map->SetExtent(make<SysGeometry::Envelope>(-1.0, -1.0, 10.0, 10.0));
     for (QString const& name : names) {
-      auto const layer = opened({folder_.filePath("a.geojson"), {}, {}, {}}, {}).layer;
+      auto const layer =
+          opened({folder_.filePath("a.geojson"), {}, {}, {}}, {}, make<SysDisplay::SimpleFillSymbol>()).layer;
       layer->SetName(name);
       map->AddLayer(layer);
     }

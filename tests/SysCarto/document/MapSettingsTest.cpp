@@ -102,7 +102,7 @@ private slots:
     map->SetCoordinateSystem("EPSG:4326");
     QString const file = put(path("a.geojson"), geoJson(R"({"type":"Polygon",
         "coordinates":[[[-60,45],[20,45],[20,55],[-60,55],[-60,45]]]})"));
-    auto const layer = opened({file, {}, {}, {}}, "EPSG:4326").layer;
+    auto const layer = opened({file, {}, {}, {}}, "EPSG:4326", make<SysDisplay::SimpleFillSymbol>()).layer;
     map->AddLayer(layer);
     map->SetExtent(make<SysGeometry::Envelope>(8.0, 48.0, 12.0, 51.0));
     auto const bounds = [&] {

@@ -393,7 +393,7 @@ private slots:
     auto const [isModification, change] = fetched<bool, void (*)(PageLayout&)>();
     MapDocument document;
     QVERIFY(document.Open(path("sample.kdx")));
-    mapsOn(*document.GetPageLayout())[0]->AddLayer(opened({}, {}).layer);
+    mapsOn(*document.GetPageLayout())[0]->AddLayer(opened({}, {}, make<SysDisplay::SimpleFillSymbol>()).layer);
     QVERIFY(document.isModified());
     QVERIFY(document.SaveAs(path("modified.kdx"), true, false));
     QVERIFY(!document.isModified());

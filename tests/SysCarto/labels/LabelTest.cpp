@@ -90,7 +90,6 @@ private slots:
     auto const [file, layer, priorityField, rotation, fewest] = fetched<QString, QString, QString, double, int>();
     auto const data =
         opened({sample(file), layer, {}, {}}, "EPSG:8857", make<SimpleMarkerSymbol>(), settings(6, priorityField));
-    QCOMPARE(data.warnings, QStringList());
     auto const transformation = shown(data.features().box(), QSize(900, 500)).transformation();
     auto const middle = transformation->GetFittedBounds()->GetAnchorPoint();
     DisplayTransformationHost::setTurn(*transformation, rotation, {middle->GetX(), middle->GetY()});
@@ -128,7 +127,7 @@ private slots:
   void aLabelLiesWithinItsPolygonOrIsLeftOut() {
     auto const [ring, name, expected] = fetched<QByteArray, QByteArray, QString>();
     QByteArray const polygonJson = R"({"type":"Polygon","coordinates":[[)" + ring + "]]}";
-    auto const layer = openedJson(geoJson(polygonJson, name), "", nullptr, settings(9));
+    auto const layer = openedJson(geoJson(polygonJson, name), "", make<SimpleFillSymbol>(), settings(9));
     // A pixel is a map unit, and 0.75 points.
     Placed const result = placed(*layer.layer, shown({-5, -5, 95, 95}, QSize(100, 100)).transformation());
     QCOMPARE(result.texts().join('|'), expected);
@@ -184,7 +183,7 @@ private slots:
     QByteArray const polygonJson = R"({"type":"Polygon","coordinates":[[)" + ring + "]]}";
     auto labels = settings(9);
     labels.areaPlace = AreaPlace::Across;
-    auto const layer = openedJson(geoJson(polygonJson, "Bolivia"), "", nullptr, labels);
+    auto const layer = openedJson(geoJson(polygonJson, "Bolivia"), "", make<SimpleFillSymbol>(), labels);
     auto const page = shown({-5, -5, 95, 95}, QSize(100, 100)).transformation();
     QCOMPARE(placed(*layer.layer, page).texts().join('|'), expected);
     layer.layer->setLabelSettings(settings(9));
@@ -209,8 +208,8 @@ private slots:
     QByteArray const ring = (upper + lower + upper.mid(0, 1)).join(',').toUtf8();
     auto labels = settings(9);
     labels.areaText = text;
-    auto const layer =
-        openedJson(geoJson(R"({"type":"Polygon","coordinates":[[)" + ring + "]]}", "P ru"), "", nullptr, labels);
+    auto const layer = openedJson(geoJson(R"({"type":"Polygon","coordinates":[[)" + ring + "]]}", "P ru"), "",
+                                  make<SimpleFillSymbol>(), labels);
     Placed const result = placed(*layer.layer, shown({-20, -40, 220, 160}, QSize(240, 200)).transformation());
     if (mostApart == 0) {
       QVERIFY(result.texts().isEmpty() || result.texts() == QStringList{"P ru"});
@@ -365,7 +364,7 @@ private slots:
         geoJson(R"({"type":"Polygon","coordinates":[[[90,40],[104,40],[104,54],[90,54],[90,40]]]})", "Liechtenstein");
     auto labels = settings(9);
     labels.areaPlace = AreaPlace::Outside;
-    auto const layer = openedJson(json, "", nullptr, labels);
+    auto const layer = openedJson(json, "", make<SimpleFillSymbol>(), labels);
     Placed const result = placed(*layer.layer, shown({0, 0, 200, 100}, QSize(200, 100)).transformation());
     QCOMPARE(result.labels.size(), 2);
     QCOMPARE(result.labels[0]->GetType(), int(ElementType::Line));
@@ -413,7 +412,8 @@ private slots:
     auto const points = openedJson(geoJson(R"({"type":"Point","coordinates":[100,50]})", "Peru"), "",
                                    make<SimpleMarkerSymbol>(), labels);
     auto const wall =
-        openedJson(geoJson(R"({"type":"Polygon","coordinates":[[[10,10],[120,10],[120,90],[10,90],[10,10]]]})"), "");
+        openedJson(geoJson(R"({"type":"Polygon","coordinates":[[[10,10],[120,10],[120,90],[10,90],[10,10]]]})"), "",
+                   make<SimpleFillSymbol>());
     wall.layer->setObstacle(obstacle);
     auto map = make<Map>();
     map->AddLayer(wall.layer);
