@@ -26,7 +26,8 @@ struct Texture {
 ///
 /// Where the painter draws on an image in memory, without clipping, the image is cut into bands of rows, and helpers
 /// on other threads rasterise a band each while more is added. What a band shows is what the image would show, to the
-/// last bit. Everywhere else, and where little is to be drawn, the painter itself does it.
+/// last bit, but for what has too many vertices in a band for QPainter, which may differ by some levels. Everywhere
+/// else, and where little is to be drawn, the painter itself does it.
 ///
 /// While fills are waiting, nothing else may draw on the image or change the painter. Belongs to one thread, as the
 /// painter does.

@@ -73,8 +73,10 @@ void expressByEqual(swq_expr_node& node) {
 std::optional<bool> truth(swq_expr_node& node, OGRFeature& feature) {
   bool const isAnd = isOperation(node, SWQ_AND);
   if (isAnd || isOperation(node, SWQ_OR)) {
-    auto const first = truth(*node.papoSubExpr[0], feature), second = truth(*node.papoSubExpr[1], feature);
-    if (first == !isAnd || second == !isAnd) return !isAnd;
+    auto const first = truth(*node.papoSubExpr[0], feature);
+    if (first == !isAnd) return first;
+    auto const second = truth(*node.papoSubExpr[1], feature);
+    if (second == !isAnd) return second;
     return first && second ? std::optional<bool>(isAnd) : std::nullopt;
   }
   if (isOperation(node, SWQ_NOT)) {
@@ -95,7 +97,7 @@ Condition::~Condition() = default;
 bool Condition::compile(OGRLayer& layer, QString const& text, QString& reason) {
   query_.reset();
   patterns_ = {};
-  dates_.clear();
+  namesDates_ = false;
   if (text.isEmpty()) return true;
   GdalErrors const errors;
   query_ = std::make_unique<OGRFeatureQuery>();
@@ -104,9 +106,9 @@ bool Condition::compile(OGRLayer& layer, QString const& text, QString& reason) {
   for (QString const& name : fields()) {
     int const index = layer.GetLayerDefn()->GetFieldIndex(name.toUtf8().constData());
     OGRFieldType const type = index < 0 ? OFTString : layer.GetLayerDefn()->GetFieldDefn(index)->GetType();
-    if (type == OFTDate || type == OFTTime || type == OFTDateTime) dates_.push_back(index);
+    namesDates_ = namesDates_ || type == OFTDate || type == OFTTime || type == OFTDateTime;
   }
-  if (ok && !dates_.empty()) expressByEqual(*static_cast<swq_expr_node*>(query_->GetSWQExpr()));
+  if (ok && namesDates_) expressByEqual(*static_cast<swq_expr_node*>(query_->GetSWQExpr()));
   if (ok) patterns_ = PatternBounds(*static_cast<swq_expr_node*>(query_->GetSWQExpr()));
   return ok;
 }
@@ -130,7 +132,7 @@ void Condition::narrow(OGRLayer& layer) const {
 bool Condition::admits(OGRFeature& feature) const {
   if (!query_) return true;
   if (!patterns_.admit(feature)) return false;
-  if (dates_.empty()) return query_->Evaluate(&feature);
+  if (!namesDates_) return query_->Evaluate(&feature);
   return truth(*static_cast<swq_expr_node*>(query_->GetSWQExpr()), feature).value_or(false);
 }
 

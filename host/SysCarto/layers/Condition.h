@@ -38,7 +38,7 @@ public:
 private:
   std::unique_ptr<OGRFeatureQuery> query_;
   mutable PatternBounds patterns_;
-  std::vector<int> dates_;  // fields of the layer that it names
+  bool namesDates_ = false;
 };
 
 }  // namespace SysCarto

@@ -17,6 +17,12 @@ constexpr double turns = 1.1;                       // farther than that no long
 // others; what lies a little beyond a pole may be, too.
 bool areNoDegrees(OGRLayer& layer, OGRSpatialReference const& system) {
   double const most = turns * 2 * M_PI / system.GetAngularUnits();
+  auto const isBeyond = [&](OGREnvelope const& box) {
+    return box.MinX > most || box.MaxX < -most || box.MinY > most || box.MaxY < -most;
+  };
+  OGREnvelope all;  // which most formats know at once
+  bool const isKnown = layer.TestCapability(OLCFastGetExtent) && layer.GetExtent(&all, FALSE) == OGRERR_NONE;
+  if (isKnown && all.MinX >= -most && all.MaxX <= most && all.MinY >= -most && all.MaxY <= most) return false;
   int seen = 0, beyond = 0;
   layer.ResetReading();
   for (int i = 0; i < lookedThrough && seen < lookedAt; ++i) {
@@ -27,7 +33,7 @@ bool areNoDegrees(OGRLayer& layer, OGRSpatialReference const& system) {
     OGREnvelope box;
     geometry->getEnvelope(&box);
     ++seen;
-    if (box.MinX > most || box.MaxX < -most || box.MinY > most || box.MaxY < -most) ++beyond;
+    beyond += isBeyond(box);
   }
   layer.ResetReading();
   return 2 * beyond > seen;

@@ -27,12 +27,10 @@ bool runsAlong(double meridian, Vertex const& a, Vertex const& b, double central
 
 }  // namespace
 
-// The same places with every step in longitude the short way round.
 void unwrap(Run& run) {
   for (size_t i = 1; i < run.size(); ++i) run[i].x = run[i - 1].x + std::remainder(run[i].x - run[i - 1].x, 360.0);
 }
 
-// A ring that goes around the globe has a pole inside: it is closed along the meridian and over the pole.
 void closeOverPole(Run& ring) {
   if (ring.size() < 3) return;
   double const gap = ring.front().x - ring.back().x;

@@ -14,6 +14,7 @@ namespace SysCarto {
 namespace {
 
 constexpr int maxDepth = 32;
+constexpr int mostMended = 500;  // vertices: edges that all cross each other make the square of their number
 
 using PolygonPointer = std::unique_ptr<OGRPolygon>;
 
@@ -81,17 +82,22 @@ void joinOverAntimeridian(std::vector<PolygonPointer> const& areas, double degre
   }
 }
 
-// The area itself, or what is an area of one that crosses itself.
-void addValid(PolygonPointer area, OGRMultiPolygon& valid) {
-  if (area->IsValid()) {
-    valid.addGeometryDirectly(area.release());
-    return;
-  }
+int verticesOf(OGRPolygon const& area) {
+  int count = 0;
+  for (auto const* ring : area) count += ring->getNumPoints();
+  return count;
+}
+
+// The area itself, or what is an area of one that crosses itself. False where that would take too long.
+bool addValid(PolygonPointer area, OGRMultiPolygon& valid) {
+  if (area->IsValid()) return valid.addGeometryDirectly(area.release()) == OGRERR_NONE;
+  if (verticesOf(*area) > mostMended) return false;
   std::unique_ptr<OGRGeometry> const made(area->MakeValid());
-  if (!made) return;
+  if (!made) return false;
   Members parts;
   gather(*made, 0, parts);
   for (PolygonPointer& part : parts.areas) valid.addGeometryDirectly(part.release());
+  return true;
 }
 
 }  // namespace
@@ -103,7 +109,8 @@ std::unique_ptr<OGRGeometryCollection> withUnitedAreas(OGRGeometry const& geomet
   SysGeometry::QuietOgr const quiet;
   if (degreesPerUnit > 0) joinOverAntimeridian(members.areas, degreesPerUnit);
   OGRMultiPolygon valid;
-  for (PolygonPointer& area : members.areas) addValid(std::move(area), valid);
+  for (PolygonPointer& area : members.areas)
+    if (!addValid(std::move(area), valid)) return nullptr;
   std::unique_ptr<OGRGeometry> united(valid.UnionCascaded());
   if (!united || united->IsEmpty() || members.others->addGeometryDirectly(united.get()) != OGRERR_NONE) return nullptr;
   united.release();

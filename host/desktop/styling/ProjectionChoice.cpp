@@ -162,9 +162,9 @@ ProjectionChoice ProjectionChoice::forArea(GlobeArea const& area, QStringList co
 }
 
 ProjectionChoice ProjectionChoice::forData(DataPlace const& place) {
-  bool const isOfOneSystem = place.systems.size() == 1 && SysCarto::makeCoordinateSystem(place.systems.first());
-  if (!place.isKnown && place.hasFeatures && isOfOneSystem)
-    return {place.systems.first(), QString::fromUtf8(SysCarto::makeCoordinateSystem(place.systems.first())->GetName()),
+  auto const own = place.systems.size() == 1 ? SysCarto::makeCoordinateSystem(place.systems.first()) : nullptr;
+  if (!place.isKnown && place.hasFeatures && own)
+    return {place.systems.first(), QString::fromUtf8(own->GetName()),
             Texts::tr("It is the data's own; where on the globe they are is not known."), false};
   if (!place.isKnown && place.hasFeatures)
     return {QString(), Texts::tr("plain coordinates"), Texts::tr("Where on the globe the data are is not known."),

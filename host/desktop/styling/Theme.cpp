@@ -24,16 +24,16 @@ constexpr Word words[] = {
      "re",
      Subject::Water},
     {"building|geb.ude|b.timent|footprint|house", Subject::Building},
-    {"(?<![a-z])rail|bahn|tram|metro|subway|chemins?_de_fer", Subject::Rail},
-    {"road|street|highway|strasse|stra.e|stra.en|route|voirie|path|trail|weg(e|en)?(?![a-zäöü])", Subject::Road},
+    {"(?<!\\p{L})rail|bahn|tram|metro|subway|chemins?_de_fer", Subject::Rail},
+    {"road|street|highway|strasse|stra.e|stra.en|route|voirie|path|trail|weg(e|en)?(?!\\p{L})", Subject::Road},
     {"track|gpx|tour|hike", Subject::Track},
     {"forest|wood|park|green|wald|garden|reserve|natur|landuse|landcover|meadow|for.t", Subject::Green},
     {"boundar|border|grenze|limit|fronti.re", Subject::Boundary},
-    {"countr|(?<![a-z])nation|admin|land$|lands$|coast|(?<![a-z])state|province|county|region|district|department|"
+    {"countr|(?<!\\p{L})nation|admin|land$|lands$|coast|(?<!\\p{L})state|province|county|region|district|department|"
      "kreis|gemeinde|commune|"
      "municip|l.nder|staaten|kanton|nuts|island",
      Subject::Land},
-    {"(?<![a-z])cit(y|ies)|town|place|settlement|village|stadt|st.dte|(?<![a-zäöü])orte?(?![a-zäöü])|capital|ville",
+    {"(?<!\\p{L})cit(y|ies)|town|place|settlement|village|stadt|st.dte|(?<!\\p{L})orte?(?!\\p{L})|capital|ville",
      Subject::Settlement},
 };
 

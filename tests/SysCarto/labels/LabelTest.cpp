@@ -88,8 +88,10 @@ private slots:
   }
   void labelsKeepTheirPromises() {
     auto const [file, layer, priorityField, rotation, fewest] = fetched<QString, QString, QString, double, int>();
-    auto const data =
-        opened({sample(file), layer, {}, {}}, "EPSG:8857", make<SimpleMarkerSymbol>(), settings(6, priorityField));
+    _ptr_t<SysDisplay::Symbol> symbol = make<SimpleMarkerSymbol>();
+    if (layer == "countries") symbol = make<SimpleFillSymbol>();
+    auto const data = opened({sample(file), layer, {}, {}}, "EPSG:8857", symbol, settings(6, priorityField));
+    QCOMPARE(data.warnings, QStringList());
     auto const transformation = shown(data.features().box(), QSize(900, 500)).transformation();
     auto const middle = transformation->GetFittedBounds()->GetAnchorPoint();
     DisplayTransformationHost::setTurn(*transformation, rotation, {middle->GetX(), middle->GetY()});

@@ -180,6 +180,7 @@ private slots:
     for (auto const& [filter, count] : QVector<QPair<QString, int>>{{"at > '2021-01-01'", 1},
                                                                     {"at IS NULL", 1},
                                                                     {"at IS NULL OR at > '2021/01/01'", 2},
+                                                                    {"at IS NULL AND NOT (at > '2021/01/01')", 0},
                                                                     {"at <> '2020-01-01'", 1},
                                                                     {"at = NULL", 0},
                                                                     {"NOT (at > '2021/01/01')", 1}}) {
