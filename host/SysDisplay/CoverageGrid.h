@@ -12,7 +12,7 @@ namespace SysDisplay {
 
 /// With more vertices than that on some rows, Qt's rasteriser takes the square of their number, and in the end gives
 /// up.
-constexpr int mostVerticesOfRows = 60000;
+constexpr int mostVerticesOfRows = 30000;
 
 /// How much of each pixel lies within rings, whatever their number of vertices and crossings.
 ///
