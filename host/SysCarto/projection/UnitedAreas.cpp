@@ -90,7 +90,10 @@ int verticesOf(OGRPolygon const& area) {
 
 // The area itself, or what is an area of one that crosses itself. False where that would take too long.
 bool addValid(PolygonPointer area, OGRMultiPolygon& valid) {
-  if (area->IsValid()) return valid.addGeometryDirectly(area.release()) == OGRERR_NONE;
+  if (area->IsValid()) {
+    valid.addGeometryDirectly(area.release());
+    return true;
+  }
   if (verticesOf(*area) > mostMended) return false;
   std::unique_ptr<OGRGeometry> const made(area->MakeValid());
   if (!made) return false;
