@@ -6,6 +6,7 @@
 #include "TableLayer.h"
 #include "indexed/SourceIndexes.h"
 
+#include "host/SysCarto/projection/GdalErrors.h"
 #include "host/SysCarto/projection/RectangleArea.h"
 
 #include <QCoreApplication>
@@ -38,11 +39,13 @@ bool hasFeatures(OGRLayer& layer) {
   return isOne;
 }
 
-// Where none is named. A file of tracks alone begins with a layer of waypoints all the same.
+// Where none is named. A file of tracks alone begins with a layer of waypoints all the same. One that can't be looked
+// into is taken, so that it is told why.
 OGRLayer* firstWithFeatures(GDALDataset& dataset) {
+  GdalErrors const errors;
   int const count = dataset.GetLayerCount();
   for (int i = 0; count > 1 && i < count; ++i)
-    if (hasFeatures(*dataset.GetLayer(i))) return dataset.GetLayer(i);
+    if (hasFeatures(*dataset.GetLayer(i)) || errors.hasFailure()) return dataset.GetLayer(i);
   return dataset.GetLayer(0);
 }
 
