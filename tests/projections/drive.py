@@ -27,6 +27,8 @@ ROOT = Path(__file__).resolve().parents[2]
 OUT = ROOT / "out/projections"
 SAMPLES = ROOT / "samples/data"
 RIGHT = 0.995                      # of the pixels that are judged
+RIGHT_OF_KIND = 0.97               # of those that are land, sea, or nothing
+SQUARES = 8                        # along the longer side of an area
 RIGHT_OF_SAMPLE = 0.99             # of a sample's, which are larger beside the borders
 RIGHT_SCALE = 0.002                # as a part of it
 SIDE, PAGE_WIDTH = 19, 21          # of the map and of an A4 page, in centimetres
@@ -104,11 +106,42 @@ def land():
     return copy
 
 
-class Places:
-    """Places of a part of the globe in rows and columns, and whether they are land by GDAL's rasteriser."""
+class Board:
+    """An area's squares of two colours: land and sea may have no coast there that would tell where it is."""
 
-    def __init__(self, west, south, east, north, columns, rows):
+    def __init__(self, west, south, east, north):
+        self.west, self.south = west, south
+        across, up = (east - west) * math.cos(math.radians((south + north) / 2)), north - south
+        self.columns, self.rows = (max(1, round(SQUARES * side / max(across, up))) for side in (across, up))
+        self.width, self.height = (east - west) / self.columns, (north - south) / self.rows
+
+    def is_land(self, x, y):
+        return (numpy.floor((x - self.west) / self.width) + numpy.floor((y - self.south) / self.height)) % 2 == 0
+
+    def write(self, path):
+        features = []
+        for column in range(self.columns):
+            for row in range(column % 2, self.rows, 2):
+                west, south = self.west + column * self.width, self.south + row * self.height
+                east, north = west + self.width, south + self.height
+                ring = [[west, south], [east, south], [east, north], [west, north], [west, south]]
+                features.append({"type": "Feature", "properties": {},
+                                 "geometry": {"type": "Polygon", "coordinates": [ring]}})
+        path.write_text(json.dumps({"type": "FeatureCollection", "features": features}))
+
+
+class Places:
+    """Places of a part of the globe in rows and columns, and whether they are land: of the squares of an area, or of the
+    globe by GDAL's rasteriser."""
+
+    def __init__(self, west, south, east, north, columns, rows, is_world):
         width, height = (east - west) / columns, (north - south) / rows
+        longitude = west + (numpy.arange(columns) + 0.5) * width
+        latitude = south + (numpy.arange(rows) + 0.5) * height
+        self.x, self.y = (each.ravel() for each in numpy.meshgrid(longitude, latitude))
+        if not is_world:
+            self.is_land = Board(west, south, east, north).is_land(self.x, self.y)
+            return
         is_land = numpy.zeros((rows, columns), bool)
         countries = land()
         for turn in (-360, 0, 360):
@@ -118,20 +151,18 @@ class Places:
             gdal.RasterizeLayer(raster, [1], countries.GetLayer(), burn_values=[1])
             is_land |= raster.ReadAsArray()[::-1].astype(bool)
         self.is_land = is_land.ravel()
-        longitude = west + (numpy.arange(columns) + 0.5) * width
-        latitude = south + (numpy.arange(rows) + 0.5) * height
-        self.x, self.y = (each.ravel() for each in numpy.meshgrid(longitude, latitude))
 
 
 class Crossings:
-    """Places where meridians and parallels cross, as far from the poles as each meridian is drawn, or beside them."""
+    """Places where meridians and parallels cross, as far from the poles as each meridian is drawn; or, so many intervals
+    on, places of one of the two alone; or beside them."""
 
-    def __init__(self, west, south, east, north, beside=0):
+    def __init__(self, west, south, east, north, on=(0, 0), beside=0):
         self.interval = next(each for each in INTERVALS if each <= min(east - west, north - south) / 4)
         south, north = max(south, -NORTHMOST), min(north, NORTHMOST)
-        x, y = (numpy.arange(math.ceil(first / self.interval), math.floor(last / self.interval) + 1) * self.interval
-                for first, last in ((west, east), (south, north)))
-        self.x, self.y = (each.ravel() + beside for each in numpy.meshgrid(x, y))
+        x, y = ((numpy.arange(math.ceil(first / self.interval), math.floor(last / self.interval) + 1) + more) * self.interval
+                for first, last, more in ((west, east, on[0]), (south, north, on[1])))
+        self.x, self.y = (each.ravel() + beside for each in numpy.meshgrid(x, y[y <= north]))
 
 
 def near(mask, reach=NEAR):
@@ -221,7 +252,9 @@ class Truth:
         sea = self.struck(self.is_shown & ~self.places.is_land, bounds, pixels)
         must = numpy.where(land, LAND, numpy.where(sea, SEA, NOTHING))
         surely = (land & ~near(sea)) | (sea & ~near(land))
-        if self.is_world:  # beyond the globe there is nothing; its border is not judged
+        if not self.is_world:  # land ends at the area's border, and the sea goes on
+            surely = surely & ~near(~land & ~sea, 1)
+        else:  # beyond the globe there is nothing; its border is not judged
             nothing = ~near(land | sea, FAR)
             surely = surely & ~near(nothing, FAR + 2 * NEAR) | nothing
             surely &= self.is_within_reach(bounds, pixels)
@@ -230,7 +263,7 @@ class Truth:
 
 def layer(name, colour, file, table=None):
     symbol = {"type": "simpleFill", "color": colour}
-    source = {"file": str(SAMPLES / file), **({"layer": table} if table else {})}
+    source = {"file": file, **({"layer": table} if table else {})}
     return {"type": "feature", "name": name, "source": source, "renderer": {"type": "simple", "symbol": symbol}}
 
 
@@ -276,7 +309,7 @@ class Task:
 
 @functools.lru_cache(maxsize=1)  # of the globe, in each process
 def places_of(area, pixels, is_world):
-    return Places(*area, 4 * pixels if is_world else 2 * pixels, 2 * pixels)
+    return Places(*area, 4 * pixels if is_world else 2 * pixels, 2 * pixels, is_world)
 
 
 def is_right(task, share):
@@ -291,18 +324,23 @@ def judged(task, program, keeps):
         truth = Truth(task.system, places_of(task.area, task.pixels(), task.is_world), task.is_world)
         bounds = truth.bounds()
         if bounds is None:
-            return None, "PROJ shows nothing"
+            return told(task, program, "PROJ shows nothing")
         must, surely = truth.pixels(bounds, task.pixels())
         if not surely.any():
-            return None, "nothing is sure"
-        layers = [layer("Sea", COLOURS[SEA], "sphere.geojson"), layer("Land", COLOURS[LAND], "world.gpkg", "countries")]
-        page = Page(program, task.system, bounds, task.px_per_cm, layers)
+            return told(task, program, "nothing is sure")
+        page = Page(program, task.system, bounds, task.px_per_cm, layers_of(task))
+        if not task.is_world:
+            Board(*task.area).write(page.document.with_name("board.geojson"))
         rgb, said = page.picture()
         if rgb is None:
             return 0, said
         red, green, blue = rgb
         got = numpy.where(green > 127, NOTHING, numpy.where(red > blue, LAND, SEA))
         share = (got == must)[surely].mean()
+        for each in (NOTHING, SEA, LAND):  # what is rare counts by itself, too
+            of_kind = surely & (must == each)
+            if of_kind.mean() > 0.001:
+                share = min(share, 1 - (1 - RIGHT) / (1 - RIGHT_OF_KIND) * (got != must)[of_kind].mean())
         if not is_right(task, share) and keeps:
             keep_picture(task, got, must, surely)
         if not said and not got.any() and must[surely].any():
@@ -314,23 +352,39 @@ def judged(task, program, keeps):
                 share = min(share, crossings, 1 - scale)
         return share, said
     except pyproj.exceptions.ProjError as error:
-        return None, f"PROJ: {error}"
+        return told(task, program, f"PROJ: {error}")
+
+
+def told(task, program, why):
+    """Of what PROJ has no answer for: the program must not be silent, or draw something all the same."""
+    half = 2e7
+    rgb, said = Page(program, task.system, [-half, -half, half, half], task.px_per_cm, layers_of(task, "world")).picture()
+    return (0, SILENT) if rgb is not None and not said and (rgb[1] > 127).all() else (None, why)
+
+
+def layers_of(task, what=None):
+    is_board = not task.is_world and what != "world"
+    land = ("board.geojson",) if is_board else (str(SAMPLES / "world.gpkg"), "countries")
+    return [layer("Sea", COLOURS[SEA], str(SAMPLES / "sphere.geojson")), layer("Land", COLOURS[LAND], *land)]
 
 
 def crossings_share(task, program, bounds):
-    """The share of the crossings of a grid's lines that are dark."""
-    crossings = Crossings(*task.area)
-    truth = Truth(task.system, crossings, task.is_world)
-    for beside in (-0.01, 0.01):  # one on the border of what is shown may lie on either side
-        other = Truth(task.system, Crossings(*task.area, beside), task.is_world)
-        with numpy.errstate(invalid="ignore"):
-            apart = numpy.hypot(other.x - truth.x, other.y - truth.y)
-            truth.is_shown &= other.is_shown & (apart < (bounds[2] - bounds[0]) / task.pixels())
-    must = truth.struck(truth.is_shown, bounds, task.pixels())
-    grid = {"interval": crossings.interval, "labels": False,
+    """The least share that is dark: of the crossings of a grid's lines, of the middles of its meridians between them, and
+    of its parallels."""
+    grid = {"interval": Crossings(*task.area).interval, "labels": False,
             "lineSymbol": {"type": "simpleLine", "color": "#000000", "width": 2}}
     rgb, said = Page(program, task.system, bounds, task.px_per_cm, grids=[grid]).picture()
-    return near(rgb[1] < 127, 1)[must].mean() if rgb is not None and must.any() else 0
+    shares = []
+    for on in ((0, 0), (0.5, 0), (0, 0.5)):
+        truth = Truth(task.system, Crossings(*task.area, on), task.is_world)
+        for beside in (-0.01, 0.01):  # one on the border of what is shown may lie on either side
+            other = Truth(task.system, Crossings(*task.area, on, beside), task.is_world)
+            with numpy.errstate(invalid="ignore"):
+                apart = numpy.hypot(other.x - truth.x, other.y - truth.y)
+                truth.is_shown &= other.is_shown & (apart < (bounds[2] - bounds[0]) / task.pixels())
+        must = truth.struck(truth.is_shown, bounds, task.pixels())
+        shares.append(near(rgb[1] < 127, 1)[must].mean() if rgb is not None and must.any() else 0)
+    return min(shares)
 
 
 def scale_error(truth, bounds, scale):
@@ -388,7 +442,8 @@ def definition(name):
 
 def is_projection(system):
     try:
-        return pyproj.CRS(system).is_projected and numpy.isfinite(pyproj.Proj(system)(12.3, 34.5)).any()
+        return pyproj.CRS(system).is_projected and numpy.isfinite(
+            pyproj.Proj(system)([12.3, -100.3, 151.2], [34.5, 41.2, -33.4])).any()
     except pyproj.exceptions.ProjError:
         return False
 

@@ -30,14 +30,17 @@ public:
     return length(a, b) >= shortest_;
   }
 
-  /// Calls `visit(px, py)` for each vertex added between the two, in order.
+  /// Calls `visit(px, py)` for each vertex added between the two, in order. Where the middle has no image, as where a
+  /// meridian goes through a place that lies at infinity, one beside it will do.
   template <class Visit>
   void divide(CurveEnd const& a, CurveEnd const& b, Visit const& visit, int depth = 0) const {
     if (!mayBend(a, b) || depth > deepest) return;
-    CurveEnd middle{(a.x + b.x) / 2, (a.y + b.y) / 2, 0, 0};
-    middle.px = middle.x;
-    middle.py = middle.y;
-    if (project_(middle.px, middle.py)) divideAt(middle, a, b, visit, depth);
+    for (double const at : {0.5, 0.4}) {
+      CurveEnd middle{a.x + (b.x - a.x) * at, a.y + (b.y - a.y) * at, 0, 0};
+      middle.px = middle.x;
+      middle.py = middle.y;
+      if (project_(middle.px, middle.py)) return divideAt(middle, a, b, visit, depth);
+    }
   }
 
   /// The same for an edge that may bend and whose middle is known.

@@ -336,9 +336,12 @@ std::vector<double> GeometryProjector::toMap(Run const& run, bool closed, std::v
       edges.push_back(run[i].edge);
     };
     add(projected[2 * i], projected[2 * i + 1]);
-    if (middle == 0 || !std::isfinite(projected[2 * n]) || !std::isfinite(projected[2 * middle])) continue;
-    Vertex const between{(run[i].x + run[n].x) / 2, (run[i].y + run[n].y) / 2, 0};
-    divider.divideAt(end(between, middle), end(run[i], i), end(run[n], n), add);
+    if (middle == 0 || !std::isfinite(projected[2 * n])) continue;
+    CurveEnd const a = end(run[i], i), b = end(run[n], n);
+    if (std::isfinite(projected[2 * middle]))
+      divider.divideAt(end(between(run[i], run[n], 0.5), middle), a, b, add);
+    else
+      divider.divide(a, b, add);
   }
   return result;
 }

@@ -264,7 +264,7 @@ SysGeometry::Box boxOf(Run const* runs, size_t count) {
   return box;
 }
 
-// Calls `visit` with each turn of the globe in which something lies.
+// Calls `visit` with each turn of the globe in which something lies; what lies on the meridian between two is in both.
 template <class Visit>
 void visitTurns(Run const* runs, size_t count, Visit const& visit) {
   SysGeometry::Box const box = boxOf(runs, count);
@@ -272,7 +272,16 @@ void visitTurns(Run const* runs, size_t count, Visit const& visit) {
   auto const turn = [](double x) {
     return static_cast<int>(std::clamp(std::floor((x + 180) / 360), -1.0 * maxTurns, 1.0 * maxTurns));
   };
-  for (int i = turn(box.xmin + aside); i <= turn(box.xmax - aside); ++i) visit(-360.0 * i);
+  auto const [first, last] = std::minmax({turn(box.xmin + aside), turn(box.xmax - aside)});
+  for (int i = first; i <= last; ++i) visit(-360.0 * i);
+}
+
+// On the edge of the globe itself a place belongs to what lies beside it.
+Vertex besideEdge(Vertex v) {
+  auto const beside = [](double value, double edge, double by) {
+    return std::abs(std::abs(value) - edge) < by ? std::copysign(edge - by, value) : value;
+  };
+  return {beside(v.x, 180, 1e-7), beside(v.y, 90, 1e-6), v.edge};
 }
 
 // What is left in several turns may meet again on the map, where the meridian between them is none of its borders: as
@@ -298,8 +307,13 @@ void RegionDomain::clipPolygon(std::vector<Run> const& rings, std::vector<std::v
 }
 
 void RegionDomain::clipLine(Run const& line, std::vector<Run>& lines) const {
+  size_t const before = lines.size();
+  SysGeometry::Box const box = boxOf(&line, 1);
+  bool const isOnce = box.xmax - box.xmin < aside;
   visitTurns(&line, 1, [&](double turn) {
-    Run const run = shifted(line, turn, 0);
+    if (isOnce && lines.size() > before) return;
+    Run run = shifted(line, turn, 0);
+    std::transform(run.begin(), run.end(), run.begin(), besideEdge);
     std::vector<Crossing> crossings;
     addCrossings(run, 0, false, crossings);
     std::sort(crossings.begin(), crossings.end(),
@@ -326,9 +340,7 @@ void RegionDomain::clipLine(Run const& line, std::vector<Run>& lines) const {
 
 bool RegionDomain::admit(Vertex& point) const {
   if (std::abs(point.x) > 180) point.x = std::remainder(point.x, 360.0);
-  // On the edge of the globe itself a place belongs to what lies beside it.
-  Vertex const beside{std::clamp(point.x, -180 + 1e-7, 180 - 1e-7), std::clamp(point.y, -90 + 1e-6, 90 - 1e-6), 0};
-  return isInside(beside);
+  return isInside(besideEdge(point));
 }
 
 }  // namespace
