@@ -97,6 +97,14 @@
         <source>None of the symbols of the layer draws what %1 has: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Give the layer another symbol.</source>
         <translation>Keines der Symbole des Layers zeichnet, was %1 enthält: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Geben Sie dem Layer ein anderes Symbol.</translation>
     </message>
+    <message>
+        <source>Of %1, %2 of %3 features are lines from a place to itself, of which nothing shows.</source>
+        <translation>Von %1 sind %2 von %3 Objekten Linien von einem Ort zu ihm selbst, von denen nichts zu sehen ist.</translation>
+    </message>
+    <message>
+        <source>Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer of the same source.</source>
+        <translation>Von %1 haben %2 von %3 Objekten Teile, die keines der Symbole des Layers zeichnet: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Zeigen Sie sie mit einem weiteren Layer derselben Quelle.</translation>
+    </message>
 </context>
 <context>
     <name>AllowedFoldersDialog</name>
@@ -2177,6 +2185,10 @@
         <source>the index that belongs to it, “%1”, is missing; put it beside it</source>
         <translation>der Index, der zu ihr gehört, „%1“, fehlt; legen Sie ihn daneben</translation>
     </message>
+    <message>
+        <source>The coordinate system that the file “%1” names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Das Koordinatensystem, das die Datei „%1“ nennt, ist nicht bekannt (%2); ihre Koordinaten werden als Längen und Breiten genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -3086,7 +3098,7 @@
     </message>
     <message>
         <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
-        <translation>Nichts von %1 liegt dort, wo das Koordinatensystem der Karte den Globus zeigt, sodass die Ebene leer ist; geben Sie der Karte ein anderes Koordinatensystem, oder der Quelle das, das sie in Wahrheit hat.</translation>
+        <translation type="vanished">Nichts von %1 liegt dort, wo das Koordinatensystem der Karte den Globus zeigt, sodass die Ebene leer ist; geben Sie der Karte ein anderes Koordinatensystem, oder der Quelle das, das sie in Wahrheit hat.</translation>
     </message>
     <message>
         <source>The globe can&apos;t be projected to the map&apos;s coordinate system: %1.</source>
@@ -6629,6 +6641,17 @@
     </message>
 </context>
 <context>
+    <name>FontNotes</name>
+    <message>
+        <source>The font %1 is not installed; another one stands in for it.</source>
+        <translation>Die Schrift %1 ist nicht installiert; eine andere steht für sie ein.</translation>
+    </message>
+    <message>
+        <source>No font that is installed has these letters, so that boxes stand for them: %1</source>
+        <translation>Keine installierte Schrift hat diese Zeichen, sodass Kästchen für sie stehen: %1</translation>
+    </message>
+</context>
+<context>
     <name>FrameSettings</name>
     <message>
         <source>a part of a frame of a kind that can&apos;t be stored</source>
@@ -7862,6 +7885,10 @@
     <message>
         <source>The coordinate system %1.</source>
         <translation>Das Koordinatensystem %1.</translation>
+    </message>
+    <message>
+        <source>Coordinate System</source>
+        <translation>Koordinatensystem</translation>
     </message>
 </context>
 <context>

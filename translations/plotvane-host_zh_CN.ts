@@ -97,6 +97,14 @@
         <source>None of the symbols of the layer draws what %1 has: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Give the layer another symbol.</source>
         <translation>图层的符号都不能绘制%1中的内容：填充及其轮廓绘制面，线绘制线和面，标记绘制点。请为图层选择其他符号。</translation>
     </message>
+    <message>
+        <source>Of %1, %2 of %3 features are lines from a place to itself, of which nothing shows.</source>
+        <translation>%1 的 %3 个要素中有 %2 个是起点与终点相同的线，不会显示任何内容。</translation>
+    </message>
+    <message>
+        <source>Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer of the same source.</source>
+        <translation>%1 的 %3 个要素中有 %2 个含有图层符号都不绘制的部分：填充及其轮廓绘制面，线绘制线和面，标记绘制点。请用同一数据源的另一个图层来显示它们。</translation>
+    </message>
 </context>
 <context>
     <name>AllowedFoldersDialog</name>
@@ -2177,6 +2185,10 @@
         <source>the index that belongs to it, “%1”, is missing; put it beside it</source>
         <translation>缺少与其配套的索引“%1”；请将其放在同一位置</translation>
     </message>
+    <message>
+        <source>The coordinate system that the file “%1” names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>文件“%1”所指的坐标系未知（%2）；其坐标按经度和纬度处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -3086,7 +3098,7 @@
     </message>
     <message>
         <source>Nothing of %1 lies where the map&apos;s coordinate system shows the globe, so that the layer is empty; give the map another coordinate system, or the source the one that it has in truth.</source>
-        <translation>%1 的内容全部位于地图坐标系所显示的地球范围之外，因此该图层为空；请为地图选择其他坐标系，或为数据源指定其真实的坐标系。</translation>
+        <translation type="vanished">%1 的内容全部位于地图坐标系所显示的地球范围之外，因此该图层为空；请为地图选择其他坐标系，或为数据源指定其真实的坐标系。</translation>
     </message>
     <message>
         <source>The globe can&apos;t be projected to the map&apos;s coordinate system: %1.</source>
@@ -6629,6 +6641,17 @@
     </message>
 </context>
 <context>
+    <name>FontNotes</name>
+    <message>
+        <source>The font %1 is not installed; another one stands in for it.</source>
+        <translation>字体 %1 未安装；以其他字体代替。</translation>
+    </message>
+    <message>
+        <source>No font that is installed has these letters, so that boxes stand for them: %1</source>
+        <translation>已安装的字体都没有这些字符，因此以方框代替：%1</translation>
+    </message>
+</context>
+<context>
     <name>FrameSettings</name>
     <message>
         <source>a part of a frame of a kind that can&apos;t be stored</source>
@@ -7862,6 +7885,10 @@
     <message>
         <source>The coordinate system %1.</source>
         <translation>坐标系%1。</translation>
+    </message>
+    <message>
+        <source>Coordinate System</source>
+        <translation>坐标系</translation>
     </message>
 </context>
 <context>

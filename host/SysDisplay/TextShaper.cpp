@@ -236,13 +236,19 @@ private:
     tell(letters.isMissing, troubles_.missing);
   }
 
-  // The names that stand for whatever there is of a kind are always right.
-  static bool isMissing(QString const& family) {
-    static QStringList const kinds{
-        QStringLiteral("sans"),       QStringLiteral("sans serif"), QStringLiteral("serif"),
-        QStringLiteral("sans-serif"), QStringLiteral("monospace"),  QStringLiteral("cursive"),
-        QStringLiteral("fantasy"),    QStringLiteral("system-ui"),  QString()};
-    return !kinds.contains(family.toLower()) && !QFontDatabase().hasFamily(family);
+  // The names that stand for whatever there is of a kind are always right. Of several with commas between them, one
+  // that is there will do.
+  static bool isMissing(QString const& families) {
+    static QStringList const kinds{QStringLiteral("sans"),      QStringLiteral("sans serif"),
+                                   QStringLiteral("serif"),     QStringLiteral("sans-serif"),
+                                   QStringLiteral("monospace"), QStringLiteral("mono"),
+                                   QStringLiteral("cursive"),   QStringLiteral("fantasy"),
+                                   QStringLiteral("system-ui"), QString()};
+    QStringList const all = families.split(QLatin1Char(','));
+    return std::none_of(all.begin(), all.end(), [](QString const& family) {
+      QString const name = family.trimmed();
+      return kinds.contains(name.toLower()) || QFontDatabase().hasFamily(name);
+    });
   }
 
   // A missing letter is the first glyph of a font.

@@ -10,6 +10,7 @@
 #include "drawing/Ruler.h"
 #include "layers/LayerClasses.h"
 #include "layers/LayerPanels.h"
+#include "output/FontNotes.h"
 #include "recovery/RecoveryDialog.h"
 #include "series/PageChooser.h"
 
@@ -245,6 +246,7 @@ void MainWindow::connectFiles() {
   });
   connect(&bench_.session(), &DocumentSession::replaced, notice_, &QWidget::hide);
   new OutsideFiles(files_, bench_.session(), *notice_);
+  new FontWatch(bench_.views(), bench_.session(), *notice_);
   connect(&bench_.session(), &DocumentSession::modifiedChanged, actions_.get(), &ActionTable::refreshSoon);
   connect(notice_, &NoticeBar::reloadWanted, this, [this] {
     finishTyping();

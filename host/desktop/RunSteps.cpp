@@ -13,12 +13,14 @@
 #include "layers/NewLayers.h"
 #include "layers/LayerSteps.h"
 #include "layers/PinnedLabels.h"
+#include "output/FontNotes.h"
 #include "output/ImageFormat.h"
 
 #include "host/SysCarto/document/DocumentSources.h"
 #include "host/SysCarto/maps/LayerTree.h"
 #include "host/SysUtility/JsonFile.h"
 #include "host/SysUtility/ScaleText.h"
+#include "host/SysDisplay/TextShaper.h"
 
 #include <SysCarto/Map.h>
 
@@ -196,7 +198,14 @@ RunSteps::Kind const* RunSteps::kindOf(QString const& step) {
 QString RunSteps::exportTo(QString const& file) {
   QStringList notes;
   QString const problem = exportPage(bench_, file, notes);
-  for (QString const& note : qAsConst(notes)) Console::complain(note);
+  for (QString const& note : qAsConst(notes)) Console::remark(note);
+  return problem;
+}
+
+QString RunSteps::print(QString const& target) {
+  SysDisplay::takeFontTroubles();
+  QString const problem = printPage(bench_, target);
+  for (QString const& note : fontNotes(SysDisplay::takeFontTroubles())) Console::remark(note);
   return problem;
 }
 

@@ -65,7 +65,7 @@ private:
   QString attributes(QString const& text);
   QString answer(QString const& text);
   QString exportTo(QString const& file);
-  QString print(QString const& target) { return printPage(bench_, target); }
+  QString print(QString const& target);
   QString save(QString const& file);
   QString info(QString const&);
   QString withMouse(QVector<QPointF> const& pathCm);

@@ -14,6 +14,7 @@
 #include <ogr_geometry.h>
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace SysCarto {
@@ -39,13 +40,35 @@ bool draws(Symbol const& symbol, PartKind kind) {
   return isLine || (kind != PartKind::Line && dynamic_cast<SysDisplay::FillSymbol const*>(&symbol));
 }
 
-// Also where it has no symbols, as one that is there for its labels.
-bool drawsAny(RendererSettings const& settings, std::vector<Part> const& parts) {
+// How many features have parts that no symbol draws, and how many have no others. All is drawn where there are no
+// symbols, as of a layer that is there for its labels.
+struct Undrawn {
+  int inPart = 0, whole = 0;
+};
+
+Undrawn undrawnOf(RendererSettings const& settings, FeatureStore const& store) {
   auto const symbols = symbolsOf(settings);
-  return symbols.empty() || std::any_of(parts.begin(), parts.end(), [&](Part const& part) {
-           return std::any_of(symbols.begin(), symbols.end(),
-                              [&](Symbol const* symbol) { return draws(*symbol, part.kind); });
-         });
+  std::array<bool, static_cast<size_t>(PartKind::Point) + 1> isDrawn{};
+  for (size_t kind = 0; kind < isDrawn.size(); ++kind)
+    isDrawn[kind] = symbols.empty() || std::any_of(symbols.begin(), symbols.end(), [=](Symbol const* symbol) {
+                      return draws(*symbol, static_cast<PartKind>(kind));
+                    });
+  Undrawn undrawn;
+  for (Feature const& feature : store.features) {
+    auto const first = store.parts.begin() + feature.firstPart;
+    auto const count = std::count_if(first, first + feature.partCount,
+                                     [&](Part const& part) { return isDrawn[static_cast<size_t>(part.kind)]; });
+    undrawn.inPart += count < feature.partCount;
+    undrawn.whole += count == 0;
+  }
+  return undrawn;
+}
+
+bool isLineAtOnePlace(OGRGeometry const& geometry) {
+  if (geometry.getDimension() != 1) return false;
+  OGREnvelope box;
+  geometry.getEnvelope(&box);
+  return box.MinX == box.MaxX && box.MinY == box.MaxY;
 }
 
 }  // namespace
@@ -56,6 +79,7 @@ void AdmittedFeatures::add(OGRFeature const& feature) {
   if (!geometry || geometry->IsEmpty()) return;
   ++withGeometry_;
   if (projector_.isBeyondGlobe(*geometry)) ++beyondGlobe_;
+  if (isLineAtOnePlace(*geometry)) ++atOnePlace_;
 }
 
 QString AdmittedFeatures::nowhere(QString const& source) {
@@ -66,27 +90,31 @@ QString AdmittedFeatures::nowhere(QString const& source) {
 }
 
 QStringList AdmittedFeatures::warnings(bool hasFilter, FeatureStore const& store, Renderer const& renderer) const {
+  if (count_ == 0 && hasFilter) return {};
+  if (count_ == 0) return {Texts::tr("There are no features in %1, so that the layer is empty.").arg(source_)};
+  if (withGeometry_ == 0)
+    return {Texts::tr("None of the features of %1 has a geometry, so that the layer is empty.").arg(source_)};
   QStringList warnings;
-  if (count_ == 0) {
-    if (!hasFilter) warnings << Texts::tr("There are no features in %1, so that the layer is empty.").arg(source_);
-  } else if (withGeometry_ == 0) {
-    warnings << Texts::tr("None of the features of %1 has a geometry, so that the layer is empty.").arg(source_);
-  } else if (beyondGlobe_ > 0) {
-    warnings << Texts::tr(
-                    "Of %1, %2 of %3 features lie, at least in part, where there is no globe: beyond a pole or several "
-                    "times around. That is left out. Are longitude and latitude exchanged, or is the coordinate system "
-                    "another one? Give it in the source's field “coordinateSystem”.")
-                    .arg(source_)
-                    .arg(beyondGlobe_)
-                    .arg(withGeometry_);
-  } else if (store.parts.empty()) {
-    warnings << nowhere(source_);
-  } else if (!drawsAny(renderer.settings(), store.parts)) {
+  auto const warnOf = [&](qint64 some, QString const& sentence) {
+    if (some > 0) warnings << sentence.arg(source_, QString::number(some), QString::number(withGeometry_));
+  };
+  warnOf(beyondGlobe_,
+         Texts::tr("Of %1, %2 of %3 features lie, at least in part, where there is no globe: beyond a pole or several "
+                   "times around. That is left out. Are longitude and latitude exchanged, or is the coordinate system "
+                   "another one? Give it in the source's field “coordinateSystem”."));
+  warnOf(atOnePlace_, Texts::tr("Of %1, %2 of %3 features are lines from a place to itself, of which nothing shows."));
+  if (store.parts.empty()) return warnings.isEmpty() ? QStringList{nowhere(source_)} : warnings;
+  auto const undrawn = undrawnOf(renderer.settings(), store);
+  if (undrawn.whole == store.size())
     warnings << Texts::tr(
                     "None of the symbols of the layer draws what %1 has: fills and their outlines draw areas, lines "
                     "draw lines and areas, markers draw points. Give the layer another symbol.")
                     .arg(source_);
-  }
+  else
+    warnOf(undrawn.inPart,
+           Texts::tr("Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their "
+                     "outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer "
+                     "of the same source."));
   return warnings;
 }
 

@@ -20,9 +20,9 @@ public:
 
   void add(OGRFeature const& feature);
 
-  /// What is to be told once all were read: that none has a place, that none of what the store holds is what the
-  /// renderer draws, that some lie beyond the globe. A layer of which a filter lets nothing through is meant to be
-  /// empty.
+  /// What is to be told once all were read: that none has a place, that what the store holds is not, or not all, what
+  /// the renderer draws, that some lie beyond the globe or have no size. A layer of which a filter lets nothing through
+  /// is meant to be empty.
   QStringList warnings(bool hasFilter, FeatureStore const& store, Renderer const& renderer) const;
 
   /// Of a source that is known to lie elsewhere.
@@ -31,7 +31,7 @@ public:
 private:
   QString const source_;
   GeometryProjector const& projector_;
-  qint64 count_ = 0, withGeometry_ = 0, beyondGlobe_ = 0;
+  qint64 count_ = 0, withGeometry_ = 0, beyondGlobe_ = 0, atOnePlace_ = 0;
 };
 
 }  // namespace SysCarto

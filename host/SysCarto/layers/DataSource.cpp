@@ -99,11 +99,20 @@ std::unique_ptr<DataSource> DataSource::open(SourceSettings const& source, QStri
   } else if (!isGlobe) {
     opened->table = SourceIndexes::find(source);
   }
-  if (!isTable && !opened->table) opened->dataset = isGlobe ? globe() : openLocalDataset(source.file, error);
+  QString complaint;
+  if (!isTable && !opened->table)
+    opened->dataset = isGlobe ? globe() : openLocalDataset(source.file, error, &complaint);
   if (!opened->dataset && !opened->table) return nullptr;
   std::unique_ptr<DataSource> data(new DataSource(std::move(opened)));
   error = data->take(isGlobe ? SourceSettings() : source);
   if (!error.isEmpty()) return nullptr;
+  // GDAL takes a GeoJSON whose system it doesn't know as one that names none.
+  if (source.coordinateSystem.isEmpty() && complaint.contains(QLatin1String("crs")))
+    data->openingNotes_
+        << Texts::tr(
+               "The coordinate system that the file “%1” names is not known (%2); its coordinates are taken as "
+               "longitudes and latitudes. Give the system in the source's field “coordinateSystem”.")
+               .arg(source.file, complaint);
   return data;
 }
 
@@ -144,7 +153,7 @@ void DataSource::put(std::unique_ptr<DerivedLayer> layer) {
 }
 
 QStringList DataSource::notes() const {
-  QStringList notes;
+  QStringList notes = openingNotes_;
   for (auto const& layer : opened_->derived) notes += layer->notes();
   return notes;
 }

@@ -39,7 +39,8 @@ public:
 
   QString const& joinProblem() const { return joinProblem_; }
 
-  /// What is to be said of the features that were read so far, as sentences: which found no row in a joined table.
+  /// What is to be said of the source and of the features that were read so far, as sentences: that its system is not
+  /// known, or which found no row in a joined table.
   QStringList notes() const;
 
 private:
@@ -53,6 +54,7 @@ private:
   std::unique_ptr<Opened> opened_;
   OGRLayer* layer_;  // what is read
   QString joinProblem_;
+  QStringList openingNotes_;
 };
 
 }  // namespace SysCarto

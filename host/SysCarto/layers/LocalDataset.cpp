@@ -351,7 +351,7 @@ void CloseDataset::operator()(GDALDataset* dataset) const {
   GDALClose(dataset);
 }
 
-DatasetPointer openLocalDataset(QString const& path, QString& error) {
+DatasetPointer openLocalDataset(QString const& path, QString& error, QString* complaint) {
   stayOffline();
   registerDrivers();
   QString reason = SysUtility::FileReach::refusal(path, SysUtility::FileReach::With::Companions);
@@ -378,6 +378,7 @@ DatasetPointer openLocalDataset(QString const& path, QString& error) {
   if (!name.isEmpty())
     dataset.reset(GDALDataset::Open(name.constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
                                     isArchive ? shapes : drivers.data(), optionsFor(path), nullptr));
+  if (dataset && complaint && errors.hasFailure()) *complaint = errors.reason();
   if (dataset) return dataset;
   if (errors.hasFailure()) reason = QLatin1String(" (") + errors.reason() + QLatin1Char(')');
   reason.prepend(whyUnread(path, name));

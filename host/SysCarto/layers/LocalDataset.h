@@ -31,8 +31,9 @@ struct CloseDataset {
 using DatasetPointer = std::unique_ptr<GDALDataset, CloseDataset>;
 
 /// Opens a local file for reading; `path` is absolute and passes `DataSource::refusal`. On a failure an empty pointer,
-/// and `error` is a sentence that names the file.
-DatasetPointer openLocalDataset(QString const& path, QString& error);
+/// and `error` is a sentence that names the file. `complaint` takes what GDAL says of a file that it opens all the
+/// same.
+DatasetPointer openLocalDataset(QString const& path, QString& error, QString* complaint = nullptr);
 
 /// Whether nothing says truly how the texts of a Shapefile are encoded, and UTF-8 it is not; then it is opened as one
 /// of Windows-1252. Of an archive: of the first in it. False for other files.

@@ -4,6 +4,7 @@
 #include "host/SysCarto/maps/VectorLayer.h"
 
 #include <QCoreApplication>
+#include <QMessageBox>
 
 using SysAdapterUI::SystemChoice;
 using SysUtility::_ptr_t;
@@ -51,5 +52,11 @@ QString chooseMapSystem(SysCarto::MapDocument const& document, _ptr_t<SysCarto::
   QString const problem = SysCarto::Editable::set(
       document, {SysCarto::Editable::map(map)}, {QStringLiteral("coordinateSystem")},
       [&](QJsonValue const&) { return *chosen; }, warnings);
-  return problem.isEmpty() ? warnings.join(QLatin1Char('\n')) : Texts::tr("The coordinate system %1.").arg(problem);
+  if (!problem.isEmpty()) return Texts::tr("The coordinate system %1.").arg(problem);
+  if (warnings.isEmpty()) return QString();
+  QMessageBox box(QMessageBox::Information, Texts::tr("Coordinate System"), warnings.join(QLatin1Char('\n')),
+                  QMessageBox::Ok, parent);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+  return QString();
 }

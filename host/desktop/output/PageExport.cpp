@@ -1,5 +1,6 @@
 #include "PageExport.h"
 
+#include "FontNotes.h"
 #include "ImageFormat.h"
 #include "PageImage.h"
 
@@ -33,14 +34,6 @@ double worthOf(SysCarto::MapDocument const& document, QSize const& size) {
     if (source.problem.isEmpty())
       bytes += source.file.isEmpty() ? bytesOfTable : static_cast<double>(SysCarto::dataSizeOf(source.file));
   return freePixels + timesThePage * size.width() * size.height() + pixelsPerByte * bytes;
-}
-
-// The first of them.
-QString shortened(QString const& letters) {
-  constexpr int most = 20;
-  auto const codes = letters.toUcs4();
-  if (codes.size() <= most) return letters;
-  return QString::fromUcs4(codes.constData(), most) + QStringLiteral("…");
 }
 
 }  // namespace
@@ -92,12 +85,7 @@ QString PageExport::write(SysCarto::MapDocument& document, _ptr_t<TrackerCancel>
     problem = format_.isVector ? writeShapes(document, cancel) : writePixels(document, cancel, progress);
   if (problem.isEmpty() && !options_.allowMissing) problem = newProblem(document, known);
   auto const fonts = SysDisplay::takeFontTroubles();
-  notes_.clear();
-  for (QString const& family : fonts.missing)
-    notes_ << tr("The font %1 is not installed; another one stands in for it.").arg(family);
-  if (!fonts.letters.isEmpty())
-    notes_ << tr("No font that is installed has these letters, so that boxes stand for them: %1")
-                  .arg(shortened(fonts.letters));
+  notes_ = fontNotes(fonts);
   if (problem.isEmpty() && !fonts.unopened.isEmpty())
     problem = tr("%1 was not written: the font %2 can't be opened at the moment; start the program again.")
                   .arg(path_, fonts.unopened.first());

@@ -234,7 +234,7 @@ QString SeriesExport::writeInJobs() {
   };
   processes.onProblem = [&](QString const& line) {
     showProgress(-1, {});
-    Console::complain(line);
+    Console::remark(line);  // each may tell the same of a font
   };
   bool const areWhole = processes.run(all);
   showProgress(-1, {});
