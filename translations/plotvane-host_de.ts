@@ -2189,6 +2189,10 @@
         <source>The coordinate system that the file “%1” names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
         <translation>Das Koordinatensystem, das die Datei „%1“ nennt, ist nicht bekannt (%2); ihre Koordinaten werden als Längen und Breiten genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
+    <message>
+        <source>Rows of the file “%1” whose coordinates can&apos;t be read, such as “%2”, have no place on the map: %3 in all. Mend them in the file.</source>
+        <translation>Zeilen der Datei „%1“, deren Koordinaten nicht zu lesen sind, wie „%2“, haben keinen Platz auf der Karte: insgesamt %3. Berichtigen Sie sie in der Datei.</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -8678,11 +8682,11 @@
     </message>
     <message>
         <source>The font %1 is not installed; another one stands in for it.</source>
-        <translation>Die Schrift %1 ist nicht installiert; eine andere steht für sie ein.</translation>
+        <translation type="vanished">Die Schrift %1 ist nicht installiert; eine andere steht für sie ein.</translation>
     </message>
     <message>
         <source>No font that is installed has these letters, so that boxes stand for them: %1</source>
-        <translation>Keine installierte Schrift hat diese Zeichen, sodass Kästchen für sie stehen: %1</translation>
+        <translation type="vanished">Keine installierte Schrift hat diese Zeichen, sodass Kästchen für sie stehen: %1</translation>
     </message>
 </context>
 <context>

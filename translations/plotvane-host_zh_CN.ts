@@ -2189,6 +2189,10 @@
         <source>The coordinate system that the file “%1” names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
         <translation>文件“%1”所指的坐标系未知（%2）；其坐标按经度和纬度处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
     </message>
+    <message>
+        <source>Rows of the file “%1” whose coordinates can&apos;t be read, such as “%2”, have no place on the map: %3 in all. Mend them in the file.</source>
+        <translation>文件“%1”中坐标无法读取的行（如“%2”）在地图上没有位置：共 %3 行。请在文件中更正。</translation>
+    </message>
 </context>
 <context>
     <name>DataSurvey</name>
@@ -8678,11 +8682,11 @@
     </message>
     <message>
         <source>The font %1 is not installed; another one stands in for it.</source>
-        <translation>字体 %1 未安装；以其他字体代替。</translation>
+        <translation type="vanished">字体 %1 未安装；以其他字体代替。</translation>
     </message>
     <message>
         <source>No font that is installed has these letters, so that boxes stand for them: %1</source>
-        <translation>已安装的字体都没有这些字符，因此以方框代替：%1</translation>
+        <translation type="vanished">已安装的字体都没有这些字符，因此以方框代替：%1</translation>
     </message>
 </context>
 <context>

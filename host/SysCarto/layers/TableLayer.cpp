@@ -24,7 +24,9 @@ struct Texts {
 };
 
 constexpr int rowsToLookAt = 500;
-constexpr double enough = 0.9;  // of the values of a column, for what they are taken for
+constexpr int longestShown = 30;
+constexpr double most = 0.9;       // of the values of a column are what it is taken for,
+constexpr double majority = 0.51;  // or so many, where its name says so
 
 // How people call the columns of coordinates, x before y, and of geometries; without case, blanks and marks.
 char const* const coordinateNames[][2] = {
@@ -113,11 +115,13 @@ void lookAtRows(OGRLayer& table, std::function<void(OGRFeature&)> const& look) {
   table.ResetReading();
 }
 
-// Whether the values that a column has are nearly all of a kind.
-bool holds(OGRLayer& table, int field, std::function<bool(OGRFeature&)> const& isOfKind) {
+bool hasText(OGRFeature& row, int field) { return row.IsFieldSetAndNotNull(field) && *row.GetFieldAsString(field); }
+
+// Whether so many of the values that a column has are of a kind.
+bool holds(OGRLayer& table, int field, double enough, std::function<bool(OGRFeature&)> const& isOfKind) {
   int values = 0, right = 0;
   lookAtRows(table, [&](OGRFeature& row) {
-    if (!row.IsFieldSetAndNotNull(field) || !*row.GetFieldAsString(field)) return;
+    if (!hasText(row, field)) return;
     ++values;
     if (isOfKind(row)) ++right;
   });
@@ -125,12 +129,13 @@ bool holds(OGRLayer& table, int field, std::function<bool(OGRFeature&)> const& i
 }
 
 bool holdsNumbers(OGRLayer& table, int field) {
-  return field >= 0 && holds(table, field, [field](OGRFeature& row) { return !std::isnan(numberOf(row, field)); });
+  return field >= 0 &&
+         holds(table, field, majority, [field](OGRFeature& row) { return !std::isnan(numberOf(row, field)); });
 }
 
 bool holdsGeometries(OGRLayer& table, int field) {
   return field >= 0 && table.GetLayerDefn()->GetFieldDefn(field)->GetType() == OFTString &&
-         holds(table, field, [field](OGRFeature& row) {
+         holds(table, field, most, [field](OGRFeature& row) {
            std::unique_ptr<OGRGeometry> const geometry(geometryOf(row, field));
            return geometry != nullptr;
          });
@@ -174,10 +179,11 @@ std::optional<PlaceColumns> named(OGRLayer& table, SourceSettings const& source,
 std::unique_ptr<TableLayer> TableLayer::create(OGRLayer& table, SourceSettings const& source, QString& error) {
   auto const columns = named(table, source, error);
   if (!columns) return nullptr;
-  return std::unique_ptr<TableLayer>(new TableLayer(table, columns->isEmpty() ? guess(table) : *columns));
+  return std::unique_ptr<TableLayer>(new TableLayer(table, source.file, columns->isEmpty() ? guess(table) : *columns));
 }
 
-TableLayer::TableLayer(OGRLayer& table, PlaceColumns columns) : DerivedLayer(table), columns_(std::move(columns)) {
+TableLayer::TableLayer(OGRLayer& table, QString const& file, PlaceColumns columns)
+    : DerivedLayer(table), file_(file), columns_(std::move(columns)) {
   if (!columns_.x.isEmpty()) {
     x_ = indexOf(table, columns_.x);
     y_ = indexOf(table, columns_.y);
@@ -230,7 +236,27 @@ void TableLayer::derive(OGRFeature& from, OGRFeature& to) {
     else
       to.SetField(i, from.GetRawFieldRef(i));
   }
-  if (!columns_.isEmpty()) to.SetGeometryDirectly(placeOf(from));
+  if (columns_.isEmpty()) return;
+  OGRGeometry* const place = placeOf(from);
+  if (!place) noteUnplaced(from);
+  to.SetGeometryDirectly(place);
+}
+
+// A row without any coordinates is meant to have no place.
+void TableLayer::noteUnplaced(OGRFeature& row) {
+  QStringList values;
+  for (int const field : {x_, y_, geometry_})
+    if (field >= 0 && hasText(row, field)) values << readable(row.GetFieldAsString(field)).left(longestShown);
+  if (values.isEmpty() || row.GetFID() <= lastUnplaced_) return;
+  if (unplaced_++ == 0) example_ = values.join(QLatin1String(", "));
+  lastUnplaced_ = row.GetFID();
+}
+
+QStringList TableLayer::notes() const {
+  if (unplaced_ == 0) return {};
+  return {Texts::tr("Rows of the file “%1” whose coordinates can't be read, such as “%2”, have no place on the map: %3 "
+                    "in all. Mend them in the file.")
+              .arg(file_, example_, QString::number(unplaced_))};
 }
 
 }  // namespace SysCarto

@@ -24,15 +24,21 @@ public:
 
   PlaceColumns const& columns() const { return columns_; }
 
+  QStringList notes() const override;
+
 private:
-  TableLayer(OGRLayer& table, PlaceColumns columns);
+  TableLayer(OGRLayer& table, QString const& file, PlaceColumns columns);
 
   void derive(OGRFeature& from, OGRFeature& to) override;
   OGRGeometry* placeOf(OGRFeature& from) const;
   void findSystem();
+  void noteUnplaced(OGRFeature& row);
 
+  QString const file_;
   PlaceColumns const columns_;
   int x_ = -1, y_ = -1, geometry_ = -1;
+  qint64 unplaced_ = 0, lastUnplaced_ = -1;  // how many rows, and the number of the last: some are read several times
+  QString example_;
 };
 
 }  // namespace SysCarto
