@@ -2107,7 +2107,7 @@
     </message>
     <message>
         <source>there is no Shapefile in this archive</source>
-        <translation>in diesem Archiv ist kein Shapefile</translation>
+        <translation type="vanished">in diesem Archiv ist kein Shapefile</translation>
     </message>
     <message>
         <source>its format is none of those that are known (%1)</source>
@@ -2192,6 +2192,14 @@
     <message>
         <source>Rows of the file “%1” whose coordinates can&apos;t be read, such as “%2”, have no place on the map: %3 in all. Mend them in the file.</source>
         <translation>Zeilen der Datei „%1“, deren Koordinaten nicht zu lesen sind, wie „%2“, haben keinen Platz auf der Karte: insgesamt %3. Berichtigen Sie sie in der Datei.</translation>
+    </message>
+    <message>
+        <source>there is no Shapefile in this archive that is whole, with its parts .shp, .shx and .dbf</source>
+        <translation>in diesem Archiv ist kein Shapefile, das vollständig ist, mit seinen Teilen .shp, .shx und .dbf</translation>
+    </message>
+    <message>
+        <source>its texts are UTF-16; save it as UTF-8</source>
+        <translation>ihre Texte sind UTF-16; speichern Sie sie als UTF-8</translation>
     </message>
 </context>
 <context>
@@ -6687,6 +6695,10 @@
     <message>
         <source>it is a view that calls itself, reads another file, uses a function that could take for ever, or can&apos;t be understood; store its rows as a table</source>
         <translation>es ist eine Sicht, die sich selbst aufruft, eine andere Datei liest, eine Funktion nutzt, die endlos dauern könnte, oder nicht verstanden wird; speichern Sie ihre Zeilen als Tabelle</translation>
+    </message>
+    <message>
+        <source>PROJ knows no way from one to the other, as where they are those of two celestial bodies</source>
+        <translation>PROJ kennt keinen Weg vom einen zum anderen, wie bei denen zweier Himmelskörper</translation>
     </message>
 </context>
 <context>

@@ -2107,7 +2107,7 @@
     </message>
     <message>
         <source>there is no Shapefile in this archive</source>
-        <translation>此压缩包中没有 Shapefile</translation>
+        <translation type="vanished">此压缩包中没有 Shapefile</translation>
     </message>
     <message>
         <source>its format is none of those that are known (%1)</source>
@@ -2192,6 +2192,14 @@
     <message>
         <source>Rows of the file “%1” whose coordinates can&apos;t be read, such as “%2”, have no place on the map: %3 in all. Mend them in the file.</source>
         <translation>文件“%1”中坐标无法读取的行（如“%2”）在地图上没有位置：共 %3 行。请在文件中更正。</translation>
+    </message>
+    <message>
+        <source>there is no Shapefile in this archive that is whole, with its parts .shp, .shx and .dbf</source>
+        <translation>此压缩包中没有完整的 Shapefile（须包含 .shp、.shx 和 .dbf 部分）</translation>
+    </message>
+    <message>
+        <source>its texts are UTF-16; save it as UTF-8</source>
+        <translation>其文本为 UTF-16；请另存为 UTF-8</translation>
     </message>
 </context>
 <context>
@@ -6687,6 +6695,10 @@
     <message>
         <source>it is a view that calls itself, reads another file, uses a function that could take for ever, or can&apos;t be understood; store its rows as a table</source>
         <translation>这是一个调用自身、读取其他文件、使用可能永不结束的函数或无法理解的视图；请将其行存储为表</translation>
+    </message>
+    <message>
+        <source>PROJ knows no way from one to the other, as where they are those of two celestial bodies</source>
+        <translation>PROJ 不知道两者之间的转换方法，例如它们属于两个不同的天体</translation>
     </message>
 </context>
 <context>

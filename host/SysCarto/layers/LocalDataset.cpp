@@ -228,12 +228,15 @@ QString whyUnread(QString const& path, QByteArray const& name) {
   if (QFileInfo(path).size() == 0) return Texts::tr("it is empty");
   if (hasSuffix(path, "kmz"))
     return Texts::tr("there is no KML in this archive that can be read; unpack it, and name the file in it");
+  if (hasSuffix(path, "zip"))
+    return Texts::tr("there is no Shapefile in this archive that is whole, with its parts .shp, .shx and .dbf");
+  QByteArray const head = headOf(path, 2);
+  if (head == "\xFF\xFE" || head == "\xFE\xFF") return Texts::tr("its texts are UTF-16; save it as UTF-8");
   GDALDriverH const driver =
       name.isEmpty() ? nullptr : GDALIdentifyDriverEx(name.constData(), GDAL_OF_VECTOR, driverNames().data(), nullptr);
   if (driver)
     return Texts::tr("it begins as a file of the format %1 does, and is not whole, or damaged; fetch it again")
         .arg(nameOf(QString::fromUtf8(GDALGetDriverShortName(driver))));
-  if (hasSuffix(path, "zip")) return Texts::tr("there is no Shapefile in this archive");
   return Texts::tr("its format is none of those that are known (%1)").arg(formatNames());
 }
 
@@ -378,6 +381,7 @@ DatasetPointer openLocalDataset(QString const& path, QString& error, QString* co
   if (!name.isEmpty())
     dataset.reset(GDALDataset::Open(name.constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY,
                                     isArchive ? shapes : drivers.data(), optionsFor(path), nullptr));
+  if (dataset && isArchive && dataset->GetLayerCount() == 0) dataset.reset();
   if (dataset && complaint && errors.hasFailure()) *complaint = errors.reason();
   if (dataset) return dataset;
   if (errors.hasFailure()) reason = QLatin1String(" (") + errors.reason() + QLatin1Char(')');
