@@ -118,9 +118,13 @@ QFileInfo companionOf(QString const& path, char const* suffix) {
   return upper.exists() ? upper : QFileInfo(base + QLatin1String(suffix));
 }
 
-QByteArray headOf(QString const& path, int length) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.read(length) : QByteArray();
+// Of a file, or of one within an archive.
+QByteArray headOf(QByteArray const& path, int length) {
+  QByteArray head(length, '\0');
+  VSILFILE* const file = VSIFOpenL(path.constData(), "rb");
+  head.resize(file ? static_cast<int>(VSIFReadL(head.data(), 1, static_cast<size_t>(length), file)) : 0);
+  if (file) VSIFCloseL(file);
+  return head;
 }
 
 // What the head of a file, or all of a .tab, betrays before any driver looks at it: a file that is made of others, or
@@ -135,7 +139,7 @@ QString refusalOfHead(QString const& path) {
   if (!isTab && !hasSuffix(path, "csv") && !hasSuffix(path, "tsv")) return QString();
   if (isTab && QFileInfo(path).size() > maxTableLength)
     return Texts::tr("it is longer than 1 MB, too long to describe a table; name a MapInfo table's .tab file");
-  QByteArray const head = headOf(path, isTab ? maxTableLength : headLength);
+  QByteArray const head = headOf(path.toUtf8(), isTab ? maxTableLength : headLength);
   if (head.startsWith("\xff\xfe") || head.startsWith("\xfe\xff"))
     return Texts::tr("its text is encoded as UTF-16; save it as UTF-8");
   QByteArray const words = head.toLower().simplified();
@@ -230,7 +234,7 @@ QString whyUnread(QString const& path, QByteArray const& name) {
     return Texts::tr("there is no KML in this archive that can be read; unpack it, and name the file in it");
   if (hasSuffix(path, "zip"))
     return Texts::tr("there is no Shapefile in this archive that is whole, with its parts .shp, .shx and .dbf");
-  QByteArray const head = headOf(path, 2);
+  QByteArray const head = headOf(path.toUtf8(), 2);
   if (head == "\xFF\xFE" || head == "\xFE\xFF") return Texts::tr("its texts are UTF-16; save it as UTF-8");
   GDALDriverH const driver =
       name.isEmpty() ? nullptr : GDALIdentifyDriverEx(name.constData(), GDAL_OF_VECTOR, driverNames().data(), nullptr);
@@ -281,23 +285,15 @@ bool isNoUtf8(QByteArray const& table) {
   return bad > good;
 }
 
-QByteArray virtualHeadOf(QByteArray const& path, int length) {
-  QByteArray head(length, '\0');
-  VSILFILE* const file = VSIFOpenL(path.constData(), "rb");
-  head.resize(file ? static_cast<int>(VSIFReadL(head.data(), 1, static_cast<size_t>(length), file)) : 0);
-  if (file) VSIFCloseL(file);
-  return head;
-}
-
 // Whether neither a file of its own nor the table's head (the byte for its code page) says truly how the texts of a
 // table are encoded, and they can't be UTF-8.
 bool needsGuess(QByteArray const& table, QByteArray const& said) {
   constexpr int codePage = 29, lookedAt = 8 * 1024 * 1024, longestName = 64;
-  QByteArray const name = virtualHeadOf(said, longestName).trimmed().toUpper();
+  QByteArray const name = headOf(said, longestName).trimmed().toUpper();
   bool const isUtf8 = name == "UTF-8" || name == "UTF8" || name == "65001";
   bool const isKnown = name.toInt() > 0 || name.startsWith("LDID/") || QTextCodec::codecForName(name);
   if (isKnown && !isUtf8) return false;
-  QByteArray const head = virtualHeadOf(table, lookedAt);
+  QByteArray const head = headOf(table, lookedAt);
   bool const isSaidByTable = !isUtf8 && head.size() > codePage && head[codePage] != 0;
   return !isSaidByTable && isNoUtf8(head);
 }
