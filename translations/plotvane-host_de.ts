@@ -2199,7 +2199,7 @@
     </message>
     <message>
         <source>its texts are UTF-16; save it as UTF-8</source>
-        <translation>ihre Texte sind UTF-16; speichern Sie sie als UTF-8</translation>
+        <translation type="vanished">ihre Texte sind UTF-16; speichern Sie sie als UTF-8</translation>
     </message>
 </context>
 <context>

@@ -2199,7 +2199,7 @@
     </message>
     <message>
         <source>its texts are UTF-16; save it as UTF-8</source>
-        <translation>其文本为 UTF-16；请另存为 UTF-8</translation>
+        <translation type="vanished">其文本为 UTF-16；请另存为 UTF-8</translation>
     </message>
 </context>
 <context>

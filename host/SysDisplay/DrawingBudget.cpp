@@ -14,7 +14,7 @@ namespace {
 
 // In pixels of one colour: measured, and rounded.
 constexpr double vertexCost = 2500;
-constexpr double edgeCost = 20;   // of each row or column that it crosses
+constexpr double edgeCost = 25;   // of each row or column that it crosses
 constexpr double searchCost = 2;  // of each cell that is passed on the way to another
 constexpr double walkCost = 6;    // of each row or column of an edge that is gone through once more
 

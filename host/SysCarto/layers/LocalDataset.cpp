@@ -127,6 +127,10 @@ QByteArray headOf(QByteArray const& path, int length) {
   return head;
 }
 
+bool isUtf16(QByteArray const& head) { return head.startsWith("\xff\xfe") || head.startsWith("\xfe\xff"); }
+
+QString isEncodedAsUtf16() { return Texts::tr("its text is encoded as UTF-16; save it as UTF-8"); }
+
 // What the head of a file, or all of a .tab, betrays before any driver looks at it: a file that is made of others, or
 // lacks one, or texts that the driver would take for bytes.
 QString refusalOfHead(QString const& path) {
@@ -140,8 +144,7 @@ QString refusalOfHead(QString const& path) {
   if (isTab && QFileInfo(path).size() > maxTableLength)
     return Texts::tr("it is longer than 1 MB, too long to describe a table; name a MapInfo table's .tab file");
   QByteArray const head = headOf(path.toUtf8(), isTab ? maxTableLength : headLength);
-  if (head.startsWith("\xff\xfe") || head.startsWith("\xfe\xff"))
-    return Texts::tr("its text is encoded as UTF-16; save it as UTF-8");
+  if (isUtf16(head)) return isEncodedAsUtf16();
   QByteArray const words = head.toLower().simplified();
   if (isTab && (words.contains("create view") || words.contains("\"\\isseamless\"")))
     return Texts::tr("it only refers to other tables; name one of those");
@@ -234,8 +237,7 @@ QString whyUnread(QString const& path, QByteArray const& name) {
     return Texts::tr("there is no KML in this archive that can be read; unpack it, and name the file in it");
   if (hasSuffix(path, "zip"))
     return Texts::tr("there is no Shapefile in this archive that is whole, with its parts .shp, .shx and .dbf");
-  QByteArray const head = headOf(path.toUtf8(), 2);
-  if (head == "\xFF\xFE" || head == "\xFE\xFF") return Texts::tr("its texts are UTF-16; save it as UTF-8");
+  if (isUtf16(headOf(path.toUtf8(), 2))) return isEncodedAsUtf16();
   GDALDriverH const driver =
       name.isEmpty() ? nullptr : GDALIdentifyDriverEx(name.constData(), GDAL_OF_VECTOR, driverNames().data(), nullptr);
   if (driver)

@@ -23,8 +23,8 @@ namespace {
 constexpr double mmPerCm = 10;
 
 // What a page is worth: some seconds, and about one more for each hundred kilobytes of its document and its data.
-constexpr double freePixels = 5e9;
-constexpr double timesThePage = 400;
+constexpr double freePixels = 4e9;
+constexpr double timesThePage = 350;
 constexpr double pixelsPerByte = 1e4;
 constexpr double bytesOfTable = 5e7;  // of a connection, whose server has no size that could be asked for
 

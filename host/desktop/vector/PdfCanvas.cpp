@@ -60,11 +60,28 @@ QTransform PdfCanvas::toPoints(QSizeF const& pagePt) const {
   return {scale, 0, 0, -scale, 0, pagePt.height()};
 }
 
-QByteArray PdfCanvas::content(QSizeF const& pagePt) const {
+// Readers put the pieces together.
+QPDFObjectHandle PdfCanvas::content(QSizeF const& pagePt) const {
   QTransform const toPage = toPoints(pagePt);
   QByteArray const scale = pdfNumber(toPage.m11() / unitsPerPx);
-  return "q " + scale + " 0 0 -" + scale + " 0 " + pdfNumber(pagePt.height()) + " cm\n" + contents_.front().operators +
-         "Q\n";
+  QByteArray const beginning = "q " + scale + " 0 0 -" + scale + " 0 " + pdfNumber(pagePt.height()) + " cm\n";
+  QByteArray const end = contents_.front().operators + "Q\n";
+  if (pieces_.empty()) return objects_.packed(beginning + end);
+  std::vector<QPDFObjectHandle> all{objects_.packed(beginning)};
+  all.insert(all.end(), pieces_.begin(), pieces_.end());
+  all.push_back(objects_.packed(end));
+  return QPDFObjectHandle::newArray(all);
+}
+
+// What the page itself has is packed as it grows, between operators: a tenth of the room, and a whole one takes seconds.
+PdfCanvas::Content& PdfCanvas::out() {
+  constexpr int pieceBytes = 1 << 20;
+  QByteArray& operators = contents_.front().operators;
+  if (contents_.size() == 1 && operators.size() >= pieceBytes && operators.endsWith('\n')) {
+    pieces_.push_back(objects_.packed(operators));
+    operators.clear();
+  }
+  return contents_.back();
 }
 
 PdfCanvas::Content PdfCanvas::take() {

@@ -21,7 +21,7 @@ public:
   PdfCanvas(PdfObjects& objects, PdfFonts& fonts, QSize const& size, double dpi, bool textAsShapes, bool hasLayers);
 
   /// The content, for a page of that size in points, whose width the canvas fills from the top.
-  QByteArray content(QSizeF const& pagePt) const;
+  QPDFObjectHandle content(QSizeF const& pagePt) const;
 
   /// From pixels to a page of that size in points, y upwards.
   QTransform toPoints(QSizeF const& pagePt) const;
@@ -70,7 +70,7 @@ private:
   void symbolBegun(QRectF const& bounds) override;
   int symbolEnded() override;
 
-  Content& out() { return contents_.back(); }
+  Content& out();
   State& state() { return contents_.back().states.back(); }
   Content take();
   void setOpacity(int opacity);
@@ -88,7 +88,8 @@ private:
   PdfObjects& objects_;
   PdfFonts& fonts_;
   bool const textAsShapes_, hasLayers_;
-  std::vector<Content> contents_;
+  std::vector<Content> contents_;         // the page's, and those of sheets and symbols that are open
+  std::vector<QPDFObjectHandle> pieces_;  // of the page, before the first of these
   std::vector<Sheet> sheets_;
   std::vector<QRectF> symbolBounds_;
   std::vector<QByteArray> symbols_;

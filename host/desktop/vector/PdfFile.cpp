@@ -47,27 +47,15 @@ PdfFile::PdfFile(SysCarto::FileInformation information, OutputIntent intent)
   structure_.replaceKey("/ParentTree", parents_);
 }
 
-// Readers put the pieces together, which are cut between operators. A whole one of a large page takes seconds to pack.
-QPDFObjectHandle PdfFile::contents(QByteArray const& operators, Cancel const& cancel) {
-  constexpr int pieceBytes = 1 << 20;
-  QPDFObjectHandle pieces = QPDFObjectHandle::newArray();
-  for (int from = 0, to; from < operators.size() && !isCancelled(cancel); from = to) {
-    int const end = operators.indexOf('\n', std::min(from + pieceBytes, operators.size()) - 1);
-    to = end < 0 ? operators.size() : end + 1;
-    pieces.appendItem(objects_.packed(operators.mid(from, to - from)));
-  }
-  return pieces.getArrayNItems() == 1 ? pieces.getArrayItem(0) : pieces;
-}
-
 void PdfFile::addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames,
-                      PageBoxes const& boxes, Cancel const& cancel) {
+                      PageBoxes const& boxes) {
   QPDFObjectHandle page = QPDFObjectHandle::newDictionary();
   page.replaceKey("/Type", name("/Page"));
   page.replaceKey("/MediaBox", numbers({0, 0, sizePt.width(), sizePt.height()}));
   for (auto const& [key, box] : {std::make_pair("/BleedBox", boxes.bleed), {"/TrimBox", boxes.trim}})
     if (!boxes.arePlain()) page.replaceKey(key, boxIn(boxes.media, box, sizePt));
   page.replaceKey("/Resources", objects_.resources());
-  page.replaceKey("/Contents", contents(canvas.content(sizePt), cancel));
+  page.replaceKey("/Contents", canvas.content(sizePt));
   page.replaceKey("/Group", QPDFObjectHandle::parse("<</Type/Group/S/Transparency/CS/DeviceRGB>>"));
   page.replaceKey("/Tabs", name("/S"));
   page.replaceKey("/StructParents", QPDFObjectHandle::newInteger(pages_));

@@ -33,9 +33,8 @@ public:
   PdfFonts& fonts() { return fonts_; }
 
   /// The canvas must be of this file's objects and fonts, and be the media box of `boxes`, of that size in points.
-  /// A page that is cancelled is not whole.
   void addPage(PdfCanvas const& canvas, QSizeF const& sizePt, std::vector<GeoreferencedFrame> const& frames,
-               PageBoxes const& boxes, Cancel const& cancel);
+               PageBoxes const& boxes);
 
   /// A bookmark that leads to the page that was added last.
   void addBookmark(QString const& name);
@@ -44,7 +43,6 @@ public:
   void write(QString const& path, Cancel const& cancel);
 
 private:
-  QPDFObjectHandle contents(QByteArray const& operators, Cancel const& cancel);
   QPDFObjectHandle viewport(GeoreferencedFrame const& frame, QTransform const& toPoints);
   void addParts(PdfCanvas const& canvas, QPDFObjectHandle const& page, int pageNumber);
   void addOutline();

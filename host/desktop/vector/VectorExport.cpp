@@ -42,7 +42,7 @@ void addPage(PdfFile& file, SysCarto::MapDocument const& document, VectorOptions
   VectorPage const page(layout, options.dpi, boxes.arePlain() ? QRectF() : boxes.media);
   PdfCanvas canvas(file.objects(), file.fonts(), page.size(), options.dpi, options.textAsShapes, options.layers);
   draw(page, boxes, canvas, cancel);
-  if (!cancel || !cancel->IsCanced()) file.addPage(canvas, page.sizePt(), page.frames(), boxes, cancel);
+  if (!cancel || !cancel->IsCanced()) file.addPage(canvas, page.sizePt(), page.frames(), boxes);
 }
 
 // Empty, or why there is no file, as a clause. Throws what qpdf throws.

@@ -187,7 +187,7 @@ private slots:
     row("a table that is longer than it says", "a.zip", packed({{"a.shp", ""}, {"a.dbf", table("01000000")}}),
         "far more");
     row("a long table, beside what is never read, of a Shapefile without shapes", "a.zip",
-        packed({{"a.shp", ""}, {"a.dbf", table("00e20400")}, {"a.tif", zeros(80000000)}}), "no features");
+        packed({{"a.shp", ""}, {"a.dbf", table("00e20400")}, {"a.tif", zeros(80000000)}}), "that is whole");
     row("text in UTF-16", "a.csv", QByteArray("\xff\xfex\0,\0y\0", 8), "UTF-16");
     row("nothing", "a.csv", "", "is empty");
     QByteArray const inserts = "0\nINSERT\n2\nB\n70\n1000\n71\n1000\n";

@@ -151,6 +151,11 @@ private slots:
     row("no geometries", {feature("null", "A"), feature("null", "B")}, "has a geometry");
     row("a place beyond a pole", {place("3,4"), place("10,95")}, "1 of 2 features lie");
     row("places for a fill", {place("3,4")}, "None of the symbols");
+    row("a place beside areas for a fill",
+        {place("3,4"), feature(R"({"type":"Polygon","coordinates":[[[0,0],[9,9],[9,0],[0,0]]]})", "B")},
+        "1 of 2 features have parts");
+    row("a line from a place to itself", {feature(R"({"type":"LineString","coordinates":[[3,4],[3,4]]})", "A")},
+        "1 of 1 features are lines");
     row("places of which most are no degrees",
         {feature("null", "A"), place("0,0"), place("5e5,53e5"), place("4e5,53e5")}, "can't be degrees");
   }
@@ -158,6 +163,15 @@ private slots:
     auto const [features, told] = fetched<QByteArrayList, QString>();
     auto const warnings = openedJson(collection(features), "EPSG:3857", make<SysDisplay::SimpleFillSymbol>()).warnings;
     QVERIFY2(warnings.value(0).contains(told), qPrintable(warnings.join('|')));
+  }
+
+  void rowsOfATableThatCanNotBePlacedAreTold() {
+    QTemporaryDir const folder;
+    auto const result = opened({written(folder, "a.csv", "lon,lat\n1,2\nn/a,4\n5,6\n,\n"), {}, {}, {}}, "EPSG:4326");
+    QCOMPARE(result.features().size(), 2);
+    QCOMPARE(result.warnings.size(), 1);
+    QVERIFY2(result.warnings[0].contains("“n/a, 4”") && result.warnings[0].contains(": 1 in all"),
+             qPrintable(result.warnings[0]));
   }
 
   void coordinatesThatCanNotBeDegreesAreTheMaps() {

@@ -179,6 +179,27 @@ private slots:
     QVERIFY(std::hypot(xy[0] - xy[last], xy[1] - xy[last + 1]) < 1);
   }
 
+  // Of an oblique map, whose border goes along neither: one is opposite its middle, and one leads through a place that
+  // lies at infinity. On a sphere of radius R, 90° from the middle, y is ±πR/2.
+  void meridiansAtTheEdgeOfTheGlobeAreDrawn() {
+    auto const lineOf = [](QByteArray const& longitude) {
+      return openedJson(geoJson(R"({"type":"LineString","coordinates":[[)" + longitude + ",-89],[" + longitude +
+                                R"(,89]]})"),
+                        "+proj=tmerc +R=6371000");
+    };
+    double const quarter = 6371000 * M_PI / 2;
+    for (auto const& [longitude, farthest] : QVector<QPair<QByteArray, double>>{{"90", 1e7}, {"-180", 11}}) {
+      auto const layer = lineOf(longitude);
+      FeatureStore const& store = layer.features();
+      double length = 0;
+      visitEdges(store, true, [&](QPointF a, QPointF b) {
+        if (std::abs(a.x()) < farthest && std::abs(b.x()) < farthest) length += QLineF(a, b).length();
+        if (longitude == "90") QVERIFY(std::abs(std::abs(a.y()) - quarter) < 11);
+      });
+      QVERIFY2(length > quarter, qPrintable(QString::number(length)));
+    }
+  }
+
   void whatLiesBehindTheGlobeIsGone() {
     auto const cities = opened({sample("world.gpkg"), "cities", {}, {}}, globe);
     int const all = opened({sample("world.gpkg"), "cities", {}, {}}, equalEarth).features().size();
