@@ -73,7 +73,8 @@ QPDFObjectHandle PdfCanvas::content(QSizeF const& pagePt) const {
   return QPDFObjectHandle::newArray(all);
 }
 
-// What the page itself has is packed as it grows, between operators: a tenth of the room, and a whole one takes seconds.
+// What the page itself has is packed as it grows, between operators: a tenth of the room, and a whole one takes
+// seconds.
 PdfCanvas::Content& PdfCanvas::out() {
   constexpr int pieceBytes = 1 << 20;
   QByteArray& operators = contents_.front().operators;

@@ -183,9 +183,9 @@ private slots:
   // lies at infinity. On a sphere of radius R, 90° from the middle, y is ±πR/2.
   void meridiansAtTheEdgeOfTheGlobeAreDrawn() {
     auto const lineOf = [](QByteArray const& longitude) {
-      return openedJson(geoJson(R"({"type":"LineString","coordinates":[[)" + longitude + ",-89],[" + longitude +
-                                R"(,89]]})"),
-                        "+proj=tmerc +R=6371000");
+      return openedJson(
+          geoJson(R"({"type":"LineString","coordinates":[[)" + longitude + ",-89],[" + longitude + R"(,89]]})"),
+          "+proj=tmerc +R=6371000");
     };
     double const quarter = 6371000 * M_PI / 2;
     for (auto const& [longitude, farthest] : QVector<QPair<QByteArray, double>>{{"90", 1e7}, {"-180", 11}}) {
