@@ -44,6 +44,11 @@ void NoticeBar::tell(QString const& text, bool canReload) {
   showAll();
 }
 
+void NoticeBar::add(QString const& text) {
+  bool const isMore = !isHidden() && !told_.isEmpty();
+  tell(isMore ? told_ + QLatin1Char('\n') + text : text, isMore && canReload_);
+}
+
 void NoticeBar::offer(QString const& text, QString const& button, std::function<void()> const& accept) {
   if (isHidden()) told_.clear();
   offered_ = {text, button, accept};

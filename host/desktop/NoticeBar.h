@@ -19,6 +19,9 @@ public:
   /// In place of what was told before, above what is offered.
   void tell(QString const& text, bool canReload);
 
+  /// Below what is told already.
+  void add(QString const& text);
+
   /// In place of what was offered before, below what is told. With a button that does it.
   void offer(QString const& text, QString const& button, std::function<void()> const& accept);
 

@@ -60,5 +60,5 @@ void FontWatch::look() {
     told_ << note;
     untold << note;
   }
-  if (!untold.isEmpty()) notice_.tell(untold.join(QLatin1Char('\n')), false);
+  if (!untold.isEmpty()) notice_.add(untold.join(QLatin1Char('\n')));
 }
