@@ -154,21 +154,32 @@ std::vector<QPointF> GraticuleLines::placesIn(Envelope const& extent) const {
   return places;
 }
 
+// The mean of what it is at several places, but for those where the projection stretches the globe many times as much
+// as elsewhere: lines would crowd there that are as far apart as they may be here.
 GridStep GraticuleLines::unitSize(Envelope const& extent) const {
   constexpr double measured = 1e-3;  // degrees
-  GridStep sum{0, 0};
-  int count = 0;
+  constexpr double stretched = 4;    // times the least
+  std::vector<GridStep> sizes;
+  auto const length = [](GridStep const& size) { return std::hypot(size.longitude, size.latitude); };
   for (QPointF const& place : projector_ ? placesIn(extent) : std::vector<QPointF>()) {
     double const x = place.x(), y = place.y(), toEquator = y > 0 ? -measured : measured;
     std::vector<double> ends{x, y, inTurn(x + measured), y, x, y + toEquator};
     toMap_->apply(ends);
     double const alongX = std::hypot(ends[2] - ends[0], ends[3] - ends[1]),
                  alongY = std::hypot(ends[4] - ends[0], ends[5] - ends[1]);
-    if (!std::isfinite(alongX + alongY)) continue;
-    sum = {sum.longitude + alongX / measured, sum.latitude + alongY / measured};
-    ++count;
+    if (std::isfinite(alongX + alongY)) sizes.push_back({alongX / measured, alongY / measured});
   }
-  return count > 0 ? GridStep{sum.longitude / count, sum.latitude / count} : sum;
+  double least = INFINITY;
+  for (GridStep const& size : sizes) least = std::min(least, length(size));
+  GridStep mean{0, 0};
+  int count = 0;
+  for (GridStep const& size : sizes) {
+    if (length(size) > stretched * least) continue;
+    ++count;
+    mean.longitude += (size.longitude - mean.longitude) / count;
+    mean.latitude += (size.latitude - mean.latitude) / count;
+  }
+  return mean;
 }
 
 // Whether the two sides of a meridian lie at different places of the map.
