@@ -103,7 +103,11 @@
     </message>
     <message>
         <source>Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer of the same source.</source>
-        <translation>Von %1 haben %2 von %3 Objekten Teile, die keines der Symbole des Layers zeichnet: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Zeigen Sie sie mit einem weiteren Layer derselben Quelle.</translation>
+        <translation type="vanished">Von %1 haben %2 von %3 Objekten Teile, die keines der Symbole des Layers zeichnet: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Zeigen Sie sie mit einem weiteren Layer derselben Quelle.</translation>
+    </message>
+    <message>
+        <source>Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer of the same source that has such a symbol.</source>
+        <translation>Von %1 haben %2 von %3 Objekten Teile, die keines der Symbole des Layers zeichnet: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Zeigen Sie sie mit einem weiteren Layer derselben Quelle, der ein solches Symbol hat.</translation>
     </message>
 </context>
 <context>
@@ -2187,7 +2191,7 @@
     </message>
     <message>
         <source>The coordinate system that the file “%1” names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>Das Koordinatensystem, das die Datei „%1“ nennt, ist nicht bekannt (%2); ihre Koordinaten werden als Längen und Breiten genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+        <translation type="vanished">Das Koordinatensystem, das die Datei „%1“ nennt, ist nicht bekannt (%2); ihre Koordinaten werden als Längen und Breiten genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
     <message>
         <source>Rows of the file “%1” whose coordinates can&apos;t be read, such as “%2”, have no place on the map: %3 in all. Mend them in the file.</source>
@@ -3159,6 +3163,18 @@
     <message>
         <source>How the texts of %1 are encoded is not said, or not truly; they are taken as Windows-1252. A file beside the table, with its name and the suffix “.cpg”, would say so with the name of the encoding in it.</source>
         <translation>Wie die Texte von %1 kodiert sind, ist nicht oder falsch angegeben; sie werden als Windows-1252 gelesen. Eine Datei neben der Tabelle, mit deren Namen und der Endung „.cpg“, würde es mit dem Namen der Kodierung darin sagen.</translation>
+    </message>
+    <message>
+        <source>The coordinate system that %1 names is not known (%2); its coordinates, which can&apos;t be degrees, are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Das Koordinatensystem, das %1 nennt, ist nicht bekannt (%2); ihre Koordinaten, die keine Grad sein können, werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+    </message>
+    <message>
+        <source>The coordinate system that %1 names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Das Koordinatensystem, das %1 nennt, ist nicht bekannt (%2); ihre Koordinaten werden als Längen und Breiten genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, give the system in the source&apos;s field “coordinateSystem”, such as EPSG:4326.</source>
+        <translation>Die Koordinaten von %1 sehen wie Grad aus, und ihr Koordinatensystem zählt in Metern. Wenn sie es sind, geben Sie das System im Feld „coordinateSystem“ der Quelle an, etwa EPSG:4326.</translation>
     </message>
 </context>
 <context>
@@ -6700,6 +6716,14 @@
         <source>PROJ knows no way from one to the other, as where they are those of two celestial bodies</source>
         <translation>PROJ kennt keinen Weg vom einen zum anderen, wie bei denen zweier Himmelskörper</translation>
     </message>
+    <message>
+        <source>it compares a date with what is none; dates are written like &apos;2024-06-01&apos;, in quotes</source>
+        <translation>er vergleicht ein Datum mit etwas, das keines ist; Daten werden wie &apos;2024-06-01&apos; geschrieben, in Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>it compares a field with a value of another kind; texts and dates stand in single quotes, dates like &apos;2024-06-01&apos;, and numbers don&apos;t</source>
+        <translation>er vergleicht ein Feld mit einem Wert anderer Art; Texte und Daten stehen in einfachen Anführungszeichen, Daten wie &apos;2024-06-01&apos;, Zahlen nicht</translation>
+    </message>
 </context>
 <context>
     <name>GeometryProjector</name>
@@ -7647,6 +7671,10 @@
     <message>
         <source>without outlines, for which most of its areas are too small</source>
         <translation>ohne Umrisse, für die die meisten ihrer Flächen zu klein sind</translation>
+    </message>
+    <message>
+        <source>with outlines of its own colour, since most of its areas would be too small to see</source>
+        <translation>mit Umrissen in seiner eigenen Farbe, da die meisten seiner Flächen sonst zu klein zum Sehen wären</translation>
     </message>
 </context>
 <context>
@@ -9013,6 +9041,10 @@
     <message>
         <source>It is the data&apos;s own; where on the globe they are is not known.</source>
         <translation>Es ist das eigene der Daten; wo auf dem Globus sie liegen, ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>It is the data&apos;s own, since they do not lie on the Earth.</source>
+        <translation>Es ist das eigene der Daten, da sie nicht auf der Erde liegen.</translation>
     </message>
 </context>
 <context>

@@ -103,7 +103,11 @@
     </message>
     <message>
         <source>Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer of the same source.</source>
-        <translation>%1 的 %3 个要素中有 %2 个含有图层符号都不绘制的部分：填充及其轮廓绘制面，线绘制线和面，标记绘制点。请用同一数据源的另一个图层来显示它们。</translation>
+        <translation type="vanished">%1 的 %3 个要素中有 %2 个含有图层符号都不绘制的部分：填充及其轮廓绘制面，线绘制线和面，标记绘制点。请用同一数据源的另一个图层来显示它们。</translation>
+    </message>
+    <message>
+        <source>Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer of the same source that has such a symbol.</source>
+        <translation>%1 的 %3 个要素中有 %2 个含有图层符号都不绘制的部分：填充及其轮廓绘制面，线绘制线和面，标记绘制点。请用同一数据源的另一个带有相应符号的图层来显示它们。</translation>
     </message>
 </context>
 <context>
@@ -2187,7 +2191,7 @@
     </message>
     <message>
         <source>The coordinate system that the file “%1” names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>文件“%1”所指的坐标系未知（%2）；其坐标按经度和纬度处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
+        <translation type="vanished">文件“%1”所指的坐标系未知（%2）；其坐标按经度和纬度处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
     </message>
     <message>
         <source>Rows of the file “%1” whose coordinates can&apos;t be read, such as “%2”, have no place on the map: %3 in all. Mend them in the file.</source>
@@ -3159,6 +3163,18 @@
     <message>
         <source>How the texts of %1 are encoded is not said, or not truly; they are taken as Windows-1252. A file beside the table, with its name and the suffix “.cpg”, would say so with the name of the encoding in it.</source>
         <translation>没有说明或错误地说明了%1的文本编码；按 Windows-1252 读取。在表旁放置同名、后缀为“.cpg”的文件，并在其中写上编码名称，即可说明编码。</translation>
+    </message>
+    <message>
+        <source>The coordinate system that %1 names is not known (%2); its coordinates, which can&apos;t be degrees, are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1 所指的坐标系未知（%2）；其坐标不可能是度，因此按地图的坐标处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
+    </message>
+    <message>
+        <source>The coordinate system that %1 names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1 所指的坐标系未知（%2）；其坐标按经度和纬度处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, give the system in the source&apos;s field “coordinateSystem”, such as EPSG:4326.</source>
+        <translation>%1 的坐标看起来像度，而其坐标系以米为单位。如果确实是度，请在数据源的字段“coordinateSystem”中给出坐标系，例如 EPSG:4326。</translation>
     </message>
 </context>
 <context>
@@ -6700,6 +6716,14 @@
         <source>PROJ knows no way from one to the other, as where they are those of two celestial bodies</source>
         <translation>PROJ 不知道两者之间的转换方法，例如它们属于两个不同的天体</translation>
     </message>
+    <message>
+        <source>it compares a date with what is none; dates are written like &apos;2024-06-01&apos;, in quotes</source>
+        <translation>它把日期与不是日期的内容相比较；日期应写成 &apos;2024-06-01&apos; 的形式并加引号</translation>
+    </message>
+    <message>
+        <source>it compares a field with a value of another kind; texts and dates stand in single quotes, dates like &apos;2024-06-01&apos;, and numbers don&apos;t</source>
+        <translation>它把字段与另一种类型的值相比较；文本和日期要加单引号，日期写成 &apos;2024-06-01&apos; 的形式，数字则不加</translation>
+    </message>
 </context>
 <context>
     <name>GeometryProjector</name>
@@ -7647,6 +7671,10 @@
     <message>
         <source>without outlines, for which most of its areas are too small</source>
         <translation>不画轮廓线，因为多数面太小</translation>
+    </message>
+    <message>
+        <source>with outlines of its own colour, since most of its areas would be too small to see</source>
+        <translation>轮廓采用其自身的颜色，因为其大部分面太小，否则看不见</translation>
     </message>
 </context>
 <context>
@@ -9013,6 +9041,10 @@
     <message>
         <source>It is the data&apos;s own; where on the globe they are is not known.</source>
         <translation>这是数据自身的坐标系；数据在地球上的位置未知。</translation>
+    </message>
+    <message>
+        <source>It is the data&apos;s own, since they do not lie on the Earth.</source>
+        <translation>使用数据自身的坐标系，因为数据不在地球上。</translation>
     </message>
 </context>
 <context>

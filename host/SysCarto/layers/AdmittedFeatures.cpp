@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace SysCarto {
@@ -27,37 +28,47 @@ struct Texts {
 
 using SysDisplay::Symbol;
 
-std::vector<Symbol const*> symbolsOf(RendererSettings const& settings) {
-  std::vector<Symbol const*> symbols{settings.others.symbol.get()};
-  for (SymbolClass const& one : settings.classes) symbols.push_back(one.symbol.get());
-  symbols.erase(std::remove(symbols.begin(), symbols.end(), nullptr), symbols.end());
-  return symbols;
-}
-
 bool draws(Symbol const& symbol, PartKind kind) {
   if (kind == PartKind::Point) return dynamic_cast<SysDisplay::MarkerSymbol const*>(&symbol);
   bool const isLine = dynamic_cast<SysDisplay::LineSymbol const*>(&symbol);
   return isLine || (kind != PartKind::Line && dynamic_cast<SysDisplay::FillSymbol const*>(&symbol));
 }
 
-// How many features have parts that no symbol draws, and how many have no others. All is drawn where there are no
-// symbols, as of a layer that is there for its labels.
+// Of features that have symbols, how many have parts that these don't draw, and how many have no others. Those without
+// one are left out on purpose, or are there for their labels.
 struct Undrawn {
-  int inPart = 0, whole = 0;
+  int all = 0, inPart = 0, whole = 0;
 };
 
-Undrawn undrawnOf(RendererSettings const& settings, FeatureStore const& store) {
-  auto const symbols = symbolsOf(settings);
-  std::array<bool, static_cast<size_t>(PartKind::Point) + 1> isDrawn{};
-  for (size_t kind = 0; kind < isDrawn.size(); ++kind)
-    isDrawn[kind] = symbols.empty() || std::any_of(symbols.begin(), symbols.end(), [=](Symbol const* symbol) {
-                      return draws(*symbol, static_cast<PartKind>(kind));
-                    });
+using DrawnKinds = std::array<bool, static_cast<size_t>(PartKind::Point) + 1>;
+
+// By the classes that features have: each of a renderer, or a set of its rules.
+std::vector<std::optional<DrawnKinds>> drawnKinds(Renderer const& renderer, FeatureStore const& store) {
+  std::vector<std::vector<int>> sets = store.classSets;
+  for (int i = 0; store.classSets.empty() && i < static_cast<int>(renderer.classes().size()); ++i) sets.push_back({i});
+  std::vector<std::optional<DrawnKinds>> all(sets.size());
+  for (size_t i = 0; i < sets.size(); ++i)
+    for (int const number : sets[i]) {
+      Symbol const* const symbol = renderer.classes()[static_cast<size_t>(number)].symbol.get();
+      if (!symbol) continue;
+      if (!all[i]) all[i] = DrawnKinds();
+      for (size_t kind = 0; kind < all[i]->size(); ++kind)
+        (*all[i])[kind] = (*all[i])[kind] || draws(*symbol, static_cast<PartKind>(kind));
+    }
+  return all;
+}
+
+Undrawn undrawnOf(Renderer const& renderer, FeatureStore const& store) {
+  auto const kinds = drawnKinds(renderer, store);
   Undrawn undrawn;
   for (Feature const& feature : store.features) {
+    auto const number = static_cast<size_t>(feature.symbolClass);
+    if (feature.symbolClass < 0 || number >= kinds.size() || !kinds[number]) continue;
     auto const first = store.parts.begin() + feature.firstPart;
-    auto const count = std::count_if(first, first + feature.partCount,
-                                     [&](Part const& part) { return isDrawn[static_cast<size_t>(part.kind)]; });
+    auto const count = std::count_if(first, first + feature.partCount, [&](Part const& part) {
+      return (*kinds[number])[static_cast<size_t>(part.kind)];
+    });
+    ++undrawn.all;
     undrawn.inPart += count < feature.partCount;
     undrawn.whole += count == 0;
   }
@@ -104,8 +115,8 @@ QStringList AdmittedFeatures::warnings(bool hasFilter, FeatureStore const& store
                    "another one? Give it in the source's field “coordinateSystem”."));
   warnOf(atOnePlace_, Texts::tr("Of %1, %2 of %3 features are lines from a place to itself, of which nothing shows."));
   if (store.parts.empty()) return warnings.isEmpty() ? QStringList{nowhere(source_)} : warnings;
-  auto const undrawn = undrawnOf(renderer.settings(), store);
-  if (undrawn.whole == store.size())
+  auto const undrawn = undrawnOf(renderer, store);
+  if (undrawn.all > 0 && undrawn.whole == undrawn.all)
     warnings << Texts::tr(
                     "None of the symbols of the layer draws what %1 has: fills and their outlines draw areas, lines "
                     "draw lines and areas, markers draw points. Give the layer another symbol.")
@@ -114,7 +125,7 @@ QStringList AdmittedFeatures::warnings(bool hasFilter, FeatureStore const& store
     warnOf(undrawn.inPart,
            Texts::tr("Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their "
                      "outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer "
-                     "of the same source."));
+                     "of the same source that has such a symbol."));
   return warnings;
 }
 

@@ -106,13 +106,7 @@ std::unique_ptr<DataSource> DataSource::open(SourceSettings const& source, QStri
   std::unique_ptr<DataSource> data(new DataSource(std::move(opened)));
   error = data->take(isGlobe ? SourceSettings() : source);
   if (!error.isEmpty()) return nullptr;
-  // GDAL takes a GeoJSON whose system it doesn't know as one that names none.
-  if (source.coordinateSystem.isEmpty() && complaint.contains(QLatin1String("crs")))
-    data->openingNotes_
-        << Texts::tr(
-               "The coordinate system that the file “%1” names is not known (%2); its coordinates are taken as "
-               "longitudes and latitudes. Give the system in the source's field “coordinateSystem”.")
-               .arg(source.file, complaint);
+  data->complaint_ = complaint;
   return data;
 }
 
@@ -153,7 +147,7 @@ void DataSource::put(std::unique_ptr<DerivedLayer> layer) {
 }
 
 QStringList DataSource::notes() const {
-  QStringList notes = openingNotes_;
+  QStringList notes;
   for (auto const& layer : opened_->derived) notes += layer->notes();
   return notes;
 }

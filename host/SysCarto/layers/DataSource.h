@@ -39,8 +39,10 @@ public:
 
   QString const& joinProblem() const { return joinProblem_; }
 
-  /// What is to be said of the source and of the features that were read so far, as sentences: that its system is not
-  /// known, or which found no row in a joined table.
+  /// What GDAL said against a file that it opened all the same; empty for most.
+  QString const& complaint() const { return complaint_; }
+
+  /// What is to be said of the features that were read so far, as sentences: which found no row in a joined table.
   QStringList notes() const;
 
 private:
@@ -54,7 +56,7 @@ private:
   std::unique_ptr<Opened> opened_;
   OGRLayer* layer_;  // what is read
   QString joinProblem_;
-  QStringList openingNotes_;
+  QString complaint_;
 };
 
 }  // namespace SysCarto

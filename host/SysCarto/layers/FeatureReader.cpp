@@ -87,8 +87,43 @@ QString placeless(OGRLayer& layer, SourceSettings const& source) {
       .arg(describeSource(source), fieldNames(layer));
 }
 
-std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings const& source,
+// What is to be known of a source's own system where nothing else was given.
+void warnOfSystem(SourceSystem const& said, bool isTakenAsMaps, QString const& complaint, SourceSettings const& source,
+                  QStringList& warnings) {
+  QString const name = describeSource(source);
+  bool const isUnknown = complaint.contains(QLatin1String("crs"));  // which GDAL takes for one that is not named
+  if (isUnknown && said.isNoDegrees)
+    warnings
+        << Texts::tr(
+               "The coordinate system that %1 names is not known (%2); its coordinates, which can't be degrees, are "
+               "taken as those of the map. Give the system in the source's field “coordinateSystem”.")
+               .arg(name, complaint);
+  else if (isUnknown)
+    warnings << Texts::tr(
+                    "The coordinate system that %1 names is not known (%2); its coordinates are taken as longitudes "
+                    "and latitudes. Give the system in the source's field “coordinateSystem”.")
+                    .arg(name, complaint);
+  else if (said.isNoDegrees)
+    warnings << Texts::tr(
+                    "The coordinates of %1 can't be degrees, as those of its coordinate system are (GeoJSON that "
+                    "names none is in degrees); they are taken as those of the map. Give the system in the "
+                    "source's field “coordinateSystem”.")
+                    .arg(name);
+  else if (said.mayBeDegrees)
+    warnings << Texts::tr(
+                    "The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, "
+                    "give the system in the source's field “coordinateSystem”, such as EPSG:4326.")
+                    .arg(name);
+  else if (isTakenAsMaps)
+    warnings << Texts::tr(
+                    "No coordinate system is known for %1; its coordinates are taken as those of the map. "
+                    "Give one in the source's field “coordinateSystem”.")
+                    .arg(name);
+}
+
+std::unique_ptr<GeometryProjector> makeProjector(DataSource const& data, SourceSettings const& source,
                                                  QString const& mapSystem, ReadFeatures& result) {
+  OGRLayer& layer = data.layer();
   auto const target = makeCoordinateSystem(mapSystem);
   auto const given = makeCoordinateSystem(source.coordinateSystem);
   if (!source.coordinateSystem.isEmpty() && !given) {
@@ -111,18 +146,7 @@ std::unique_ptr<GeometryProjector> makeProjector(OGRLayer& layer, SourceSettings
                        .arg(describeSource(source), errors.reason());
     return nullptr;
   }
-  if (said.isNoDegrees)
-    result.warnings
-        << Texts::tr(
-               "The coordinates of %1 can't be degrees, as those of its coordinate system are (GeoJSON that "
-               "names none is in degrees); they are taken as those of the map. Give the system in the "
-               "source's field “coordinateSystem”.")
-               .arg(describeSource(source));
-  else if (!own && target)
-    result.warnings << Texts::tr(
-                           "No coordinate system is known for %1; its coordinates are taken as those of the map. "
-                           "Give one in the source's field “coordinateSystem”.")
-                           .arg(describeSource(source));
+  if (saysItself) warnOfSystem(said, !own && target, data.complaint(), source, result.warnings);
   QString reason;
   auto projector = GeometryProjector::remembered(own, target.get(), reason);
   if (!projector)
@@ -422,7 +446,7 @@ ReadFeatures readTask(ReadTask const& task, QString const& mapSystem, ReadProgre
     result.error = placeless(data->layer(), source);
     return result;
   }
-  auto const projector = makeProjector(data->layer(), source, mapSystem, result);
+  auto const projector = makeProjector(*data, source, mapSystem, result);
   if (!projector) return result;
   Condition condition;
   QString reason;

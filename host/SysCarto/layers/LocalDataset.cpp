@@ -281,8 +281,9 @@ bool isNoUtf8(QByteArray const& table) {
       auto const letters = static_cast<int>(std::count_if(text, text + size, begins));
       QTextCodec::ConverterState state;
       utf8->toUnicode(text, size, &state);
-      bad += state.invalidChars;
-      good += std::max(letters - state.invalidChars, 0);
+      bool const isHalf = state.remainingChars > 0;
+      bad += state.invalidChars + (isHalf && size < length);
+      good += std::max(letters - state.invalidChars - isHalf, 0);
     }
   return bad > good;
 }

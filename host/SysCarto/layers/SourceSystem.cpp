@@ -5,6 +5,7 @@
 #include <ogrsf_frmts.h>
 
 #include <cmath>
+#include <optional>
 
 namespace SysCarto {
 
@@ -13,17 +14,10 @@ namespace {
 constexpr int lookedAt = 20, lookedThrough = 1000;  // features: with a geometry, and with or without
 constexpr double turns = 1.1;                       // farther than that no longitude is written
 
-// A GeoJSON without a system is one in degrees, whatever its numbers are. One place may be a slip, as (0, 0) among
-// others; what lies a little beyond a pole may be, too.
-bool areNoDegrees(OGRLayer& layer, OGRSpatialReference const& system) {
-  double const most = turns * 2 * M_PI / system.GetAngularUnits();
-  auto const isBeyond = [&](OGREnvelope const& box) {
-    return box.MinX > most || box.MaxX < -most || box.MinY > most || box.MaxY < -most;
-  };
-  OGREnvelope all;  // which most formats know at once
-  bool const isKnown = layer.TestCapability(OLCFastGetExtent) && layer.GetExtent(&all, FALSE) == OGRERR_NONE;
-  if (isKnown && all.MinX >= -most && all.MaxX <= most && all.MinY >= -most && all.MaxY <= most) return false;
-  int seen = 0, beyond = 0;
+// Whether it holds for most of the first features.
+template <class Test>
+bool areMostly(OGRLayer& layer, Test const& test) {
+  int seen = 0, so = 0;
   layer.ResetReading();
   for (int i = 0; i < lookedThrough && seen < lookedAt; ++i) {
     OGRFeatureUniquePtr const feature(layer.GetNextFeature());
@@ -33,10 +27,41 @@ bool areNoDegrees(OGRLayer& layer, OGRSpatialReference const& system) {
     OGREnvelope box;
     geometry->getEnvelope(&box);
     ++seen;
-    beyond += isBeyond(box);
+    so += test(box);
   }
   layer.ResetReading();
-  return 2 * beyond > seen;
+  return 2 * so > seen;
+}
+
+bool isWithin(OGREnvelope const& box, double x, double y) {
+  return box.MinX >= -x && box.MaxX <= x && box.MinY >= -y && box.MaxY <= y;
+}
+
+// Which most formats know at once.
+std::optional<OGREnvelope> knownExtent(OGRLayer& layer) {
+  OGREnvelope all;
+  bool const isKnown = layer.TestCapability(OLCFastGetExtent) && layer.GetExtent(&all, FALSE) == OGRERR_NONE;
+  return isKnown ? std::optional(all) : std::nullopt;
+}
+
+// A GeoJSON without a system is one in degrees, whatever its numbers are. One place may be a slip, as (0, 0) among
+// others; what lies a little beyond a pole may be, too.
+bool areNoDegrees(OGRLayer& layer, OGRSpatialReference const& system) {
+  double const most = turns * 2 * M_PI / system.GetAngularUnits();
+  auto const extent = knownExtent(layer);
+  if (extent && isWithin(*extent, most, most)) return false;
+  return areMostly(layer, [=](OGREnvelope const& box) {
+    return box.MinX > most || box.MaxX < -most || box.MinY > most || box.MaxY < -most;
+  });
+}
+
+// Of a system whose places lie far from where it begins to count: where it is meant for, no number is so small.
+bool mayBeDegrees(OGRLayer& layer, OGRSpatialReference const& system) {
+  constexpr double far = 1e5;
+  if (!system.IsProjected() || system.GetNormProjParm(SRS_PP_FALSE_EASTING, 0) < far) return false;
+  auto const extent = knownExtent(layer);
+  if (extent && !isWithin(*extent, far, far)) return false;
+  return areMostly(layer, [](OGREnvelope const& box) { return isWithin(box, 180, 90); });
 }
 
 }  // namespace
@@ -47,7 +72,7 @@ SourceSystem systemOf(OGRLayer& layer, bool isOfServer) {
   char const* const name = system->GetName();
   if (name && (EQUAL(name, "Undefined geographic SRS") || EQUAL(name, "Undefined Cartesian SRS"))) return {};
   if (system->IsGeographic() && system->GetAngularUnits() > 0 && areNoDegrees(layer, *system)) return {nullptr, true};
-  return {system, false};
+  return {system, false, mayBeDegrees(layer, *system)};
 }
 
 }  // namespace SysCarto

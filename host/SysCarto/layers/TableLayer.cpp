@@ -41,6 +41,8 @@ char const* const coordinateNames[][2] = {
     {"rechtswert", "hochwert"},
     {"ostwert", "nordwert"},
     {"ost", "nord"},
+    {"länge", "breite"},
+    {"laenge", "breite"},
     {"längengrad", "breitengrad"},
     {"laengengrad", "breitengrad"},
     {"xcoord", "ycoord"},
@@ -128,9 +130,11 @@ bool holds(OGRLayer& table, int field, double enough, std::function<bool(OGRFeat
   return right > 0 && right >= enough * values;
 }
 
+// Those of a table without rows are what they are called.
 bool holdsNumbers(OGRLayer& table, int field) {
-  return field >= 0 &&
-         holds(table, field, majority, [field](OGRFeature& row) { return !std::isnan(numberOf(row, field)); });
+  return field >= 0 && (knownCount(table) == 0 || holds(table, field, majority, [field](OGRFeature& row) {
+                          return !std::isnan(numberOf(row, field));
+                        }));
 }
 
 bool holdsGeometries(OGRLayer& table, int field) {
@@ -200,21 +204,20 @@ TableLayer::TableLayer(OGRLayer& table, QString const& file, PlaceColumns column
   findSystem();
 }
 
-// Numbers that can be degrees are taken for degrees, where the file has no system of its own.
+// Numbers that can nearly all be degrees are taken for degrees, where the file has no system of its own.
 void TableLayer::findSystem() {
   OGRSpatialReference* const own = base().GetSpatialRef();
   if (own) return definition().GetGeomFieldDefn(0)->SetSpatialRef(own);
-  OGREnvelope extent;
+  int places = 0, inDegrees = 0;
   lookAtRows(base(), [&](OGRFeature& row) {
     std::unique_ptr<OGRGeometry> const geometry(placeOf(row));
     OGREnvelope one;
     if (!geometry || geometry->IsEmpty()) return;
     geometry->getEnvelope(&one);
-    extent.Merge(one);
+    ++places;
+    inDegrees += one.MinX >= -180 && one.MaxX <= 180 && one.MinY >= -90 && one.MaxY <= 90;
   });
-  bool const areDegrees =
-      extent.IsInit() && extent.MinX >= -180 && extent.MaxX <= 180 && extent.MinY >= -90 && extent.MaxY <= 90;
-  if (!areDegrees) return;
+  if (places == 0 || inDegrees < most * places) return;
   OGRSpatialReference* const degrees = makeCoordinateSystem(QStringLiteral("EPSG:4326")).release();
   if (!degrees) return;  // PROJ finds no database
   definition().GetGeomFieldDefn(0)->SetSpatialRef(degrees);

@@ -36,8 +36,10 @@ void ThinnedFeatures::thin(int feature) {
   Place& place = places_[feature];
   place.firstPart = static_cast<int>(parts_.size());
   bool startsPolygon = false;
+  bool const isMark = std::max(given.box.xmax - given.box.xmin, given.box.ymax - given.box.ymin) < grid_.cell();
   for (int i = given.firstPart; i < given.firstPart + given.partCount; ++i) {
     Part part = store_.parts[i];
+    if (isMark && (part.kind == PartKind::Ring || part.kind == PartKind::FilledRing)) continue;
     startsPolygon = startsPolygon || part.startsPolygon;
     double* const room = vertices_.room(part.count);
     part.count = grid_.thin(part.kind, part.xy, part.count, room);

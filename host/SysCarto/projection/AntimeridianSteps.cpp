@@ -13,11 +13,14 @@ constexpr double seamDegrees = 1e-4;      // how near to the antimeridian data a
 constexpr double nearAntimeridian = 150;  // where both ends of an edge that steps across it lie
 constexpr double noArea = 5e-8;           // square degrees
 
-// Geographic data that were not cut at the antimeridian have edges that step across it. Read as straight lines these
-// would run around the whole map.
+// Geographic data that were not cut at the antimeridian have edges that step across it, and those whose longitudes
+// begin at Greenwich or farther east across the meridian where they begin. Read as straight lines these would run
+// around the whole map.
 bool stepsAcross(Vertex const& a, Vertex const& b, double centralLongitude) {
-  double const ax = a.x + centralLongitude, bx = b.x + centralLongitude;
-  return std::abs(ax - bx) > 180 && ax * bx < 0 && std::min(std::abs(ax), std::abs(bx)) > nearAntimeridian;
+  double const ax = a.x + centralLongitude, bx = b.x + centralLongitude, apart = std::abs(ax - bx);
+  bool const areOfOneTurn = apart < 360 && std::min(ax, bx) >= 0 && std::max(ax, bx) > 180;
+  bool const areBesideIt = ax * bx < 0 && std::min(std::abs(ax), std::abs(bx)) > nearAntimeridian;
+  return apart > 2 * nearAntimeridian && (areOfOneTurn || areBesideIt);
 }
 
 // Whether an edge lies on that meridian.

@@ -13,9 +13,10 @@ constexpr double degree = M_PI / 180;
 constexpr double longEdge = 1;   // degrees; edges are divided before they are followed around the border
 constexpr double arcStep = 0.5;  // degrees of direction between vertices on the border
 
-// So many degrees the middle lies beside the meridian that was asked for: data have edges along the one opposite of it,
-// and no edge may go through the antipode, where there is no direction.
+// So many degrees the middle lies beside the meridian and the parallel that were asked for: data have edges along those
+// opposite of it, and no edge may go through the antipode, where there is no direction.
 constexpr double aside = 1e-7;
+constexpr double besideParallel = 1.7e-7;
 
 // Edges along a pole are followed around it, just before it; so the pole itself lies beyond them.
 constexpr double maxLatitude = 90 - 1e-7;
@@ -54,12 +55,13 @@ double cosineOf(double latitude) { return std::abs(latitude) < 90 ? std::cos(lat
 class DiskDomain final : public ProjectionDomain {
 public:
   DiskDomain(double centreLatitude, std::vector<double> limits)
-      : latitude_(centreLatitude),
-        sine_(std::sin(centreLatitude * degree)),
-        cosine_(cosineOf(centreLatitude)),
+      : latitude_(std::abs(centreLatitude) < 90 ? centreLatitude - std::copysign(besideParallel, centreLatitude)
+                                                : centreLatitude),
+        sine_(std::sin(latitude_ * degree)),
+        cosine_(cosineOf(latitude_)),
         limits_(std::move(limits)) {
     // At a pole every longitude will do; a round one would lie on the borders of data.
-    antipode_ = {180 - aside, std::clamp(-centreLatitude, -antipodeLatitude, antipodeLatitude)};
+    antipode_ = {180 - aside, std::clamp(-latitude_, -antipodeLatitude, antipodeLatitude)};
     if (std::abs(antipode_.y) == antipodeLatitude) antipode_.x = 17.3;
   }
 

@@ -6,13 +6,15 @@ namespace SysCarto {
 
 namespace {
 
-// What SQLite says where a database is kept within bounds, or PROJ, and what that means.
+// What SQLite says where a database is kept within bounds, or PROJ, or OGR of a filter, and what that means.
 // clang-format off
 constexpr struct { char const *said, *meant; } plainly[] = {
     {"failed to prepare SQL",  QT_TRANSLATE_NOOP("GdalErrors", "it is a view that calls itself, reads another file, uses a function that could take for ever, or can't be understood; store its rows as a table")},
     {"not authorized",         QT_TRANSLATE_NOOP("GdalErrors", "it holds a view that calls itself or reads another file; store its rows as a table")},
     {"interrupted",            QT_TRANSLATE_NOOP("GdalErrors", "its view takes longer than a file of its size explains; store its rows as a table")},
     {"string or blob too big", QT_TRANSLATE_NOOP("GdalErrors", "it holds a value that is longer than the file")},
+    {"Failed to parse date",   QT_TRANSLATE_NOOP("GdalErrors", "it compares a date with what is none; dates are written like '2024-06-01', in quotes")},
+    {"Type mismatch or improper type", QT_TRANSLATE_NOOP("GdalErrors", "it compares a field with a value of another kind; texts and dates stand in single quotes, dates like '2024-06-01', and numbers don't")},
     {"Cannot find coordinate operations", QT_TRANSLATE_NOOP("GdalErrors", "PROJ knows no way from one to the other, as where they are those of two celestial bodies")},
 };
 // clang-format on

@@ -249,8 +249,8 @@ DataPlace DataPlace::of(std::vector<LayerSurvey> const& layers) {
   GlobeExtent extent;
   for (LayerSurvey const& layer : layers) {
     if (!layer.extent.isEmpty()) extent.add(layer.extent.area());
-    if (!place.systems.contains(layer.description.coordinateSystem))
-      place.systems << layer.description.coordinateSystem;
+    QString const& system = layer.description.coordinateSystem;
+    if (!system.isEmpty() && !place.systems.contains(system)) place.systems << system;
     place.hasFeatures = place.hasFeatures || layer.count > 0;
     place.outliers += layer.outliers;
   }

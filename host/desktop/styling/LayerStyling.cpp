@@ -99,10 +99,22 @@ struct Material {
     return partOfSide * std::sqrt(survey.typical * pageCm2) * pointsPerCm;
   }
   bool hasRoomForOutlines() const { return mostOutline() >= leastOutline; }
+
+  // Areas too small to be seen that do not lie side by side: a line of their own colour makes marks of them.
+  bool needMarks() const {
+    constexpr double leastSideCm = 0.01, mostOfPage = 0.01;
+    return survey.typical * pageCm2 < leastSideCm * leastSideCm && survey.count * survey.typical < mostOfPage;
+  }
   QJsonObject fitted(QJsonObject symbol) const {
+    constexpr double markWidth = 0.8;
     QJsonObject outline = symbol.take("outline").toObject();
-    if (outline.isEmpty() || !hasRoomForOutlines()) return symbol;
-    outline["width"] = std::clamp(outline.value("width").toDouble(), leastOutline, mostOutline());
+    if (outline.isEmpty() || !(hasRoomForOutlines() || needMarks())) return symbol;
+    outline["width"] =
+        std::clamp(outline.value("width").toDouble(), leastOutline, std::max(leastOutline, mostOutline()));
+    if (needMarks()) {
+      outline["width"] = markWidth;
+      outline["color"] = symbol.value("color");
+    }
     symbol["outline"] = outline;
     return symbol;
   }
@@ -443,7 +455,9 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
   styled.isLegendWorthy = look.isLegendWorthy;
   styled.isLand = isLand;
   styled.reasons << look.reason;
-  if (isArea && !of.hasRoomForOutlines())
+  if (isArea && of.needMarks())
+    styled.reasons << Texts::tr("with outlines of its own colour, since most of its areas would be too small to see");
+  else if (isArea && !of.hasRoomForOutlines())
     styled.reasons << Texts::tr("without outlines, for which most of its areas are too small");
   for (QString const& color : colorsIn(look.renderer)) ++uses_[color];
   styled.json = {{"type", "feature"},

@@ -114,6 +114,13 @@ bool isUpright(SysCarto::PointTransform const& toMap, GlobeArea const& area) {
   return x[1] > x[0] && y[0] > y[2];
 }
 
+// By its size, which no other body that is mapped comes near to but Venus, whose radius is 6051.8 km.
+bool isOfEarth(OGRSpatialReference const& system) {
+  constexpr double leastM = 6.3e6, mostM = 6.45e6;
+  double const radius = system.GetSemiMajor();
+  return radius > leastM && radius < mostM;
+}
+
 // How much larger the scale is at one place of the area than at another; large where the system does not reach, or the
 // map would not be upright.
 double distortion(QString const& definition, GlobeArea const& area) {
@@ -162,6 +169,10 @@ ProjectionChoice ProjectionChoice::forArea(GlobeArea const& area, QStringList co
 }
 
 ProjectionChoice ProjectionChoice::forData(DataPlace const& place) {
+  for (QString const& definition : place.systems)
+    if (auto const other = SysCarto::makeCoordinateSystem(definition); other && !isOfEarth(*other))
+      return {definition, QString::fromUtf8(other->GetName()),
+              Texts::tr("It is the data's own, since they do not lie on the Earth."), false};
   auto const own = place.systems.size() == 1 ? SysCarto::makeCoordinateSystem(place.systems.first()) : nullptr;
   if (!place.isKnown && place.hasFeatures && own)
     return {place.systems.first(), QString::fromUtf8(own->GetName()),

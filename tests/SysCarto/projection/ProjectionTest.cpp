@@ -146,6 +146,8 @@ private slots:
     row("so does a track", R"({"type":"LineString","coordinates":[[170,0],[179,5],[-178,8],[-170,9]]})", 10);
     row("longitudes beyond 180 go on at the other side",
         R"({"type":"Polygon","coordinates":[[[170,0],[190,1],[190,10],[170,11],[170,0]]]})", 10);
+    row("those that begin at Greenwich go on there",
+        R"({"type":"Polygon","coordinates":[[[350,0],[5,1],[10,10],[355,11],[350,0]]]})", 20);
     row("a wide box", R"({"type":"Polygon","coordinates":[[[-170,0],[170,0],[170,9],[-170,9],[-170,0]]]})", 340);
     row("an area beside another one in a collection", R"({"type":"GeometryCollection","geometries":[
         {"type":"Polygon","coordinates":[[[177,-16],[-178,-16.5],[-178,-20],[177,-19],[177,-16]]]},
@@ -201,6 +203,10 @@ private slots:
   }
 
   void whatLiesBehindTheGlobeIsGone() {
+    QByteArray const behind =
+        geoJson(R"({"type":"Polygon","coordinates":[[[150,-30],[180,-30],[180,-10],[150,-10],[150,-30]]]})");
+    for (char const* system : {"+proj=ortho +lat_0=30 +R=6371000", "+proj=nsper +h=5000000 +lat_0=10 +R=6371000"})
+      QCOMPARE(openedJson(behind, system).features().size(), 0);
     auto const cities = opened({sample("world.gpkg"), "cities", {}, {}}, globe);
     int const all = opened({sample("world.gpkg"), "cities", {}, {}}, equalEarth).features().size();
     QCOMPARE(all, 521);
