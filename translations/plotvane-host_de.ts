@@ -2199,11 +2199,15 @@
     </message>
     <message>
         <source>there is no Shapefile in this archive that is whole, with its parts .shp, .shx and .dbf</source>
-        <translation>in diesem Archiv ist kein Shapefile, das vollständig ist, mit seinen Teilen .shp, .shx und .dbf</translation>
+        <translation type="vanished">in diesem Archiv ist kein Shapefile, das vollständig ist, mit seinen Teilen .shp, .shx und .dbf</translation>
     </message>
     <message>
         <source>its texts are UTF-16; save it as UTF-8</source>
         <translation type="vanished">ihre Texte sind UTF-16; speichern Sie sie als UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no Shapefile in this archive that is whole, with its parts .shp and .shx</source>
+        <translation>in diesem Archiv ist kein Shapefile, das vollständig ist, mit seinen Teilen .shp und .shx</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3179,10 @@
     <message>
         <source>The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, give the system in the source&apos;s field “coordinateSystem”, such as EPSG:4326.</source>
         <translation>Die Koordinaten von %1 sehen wie Grad aus, und ihr Koordinatensystem zählt in Metern. Wenn sie es sind, geben Sie das System im Feld „coordinateSystem“ der Quelle an, etwa EPSG:4326.</translation>
+    </message>
+    <message>
+        <source>The table of %1, “%2”, is missing, so that its features have no attributes; put it beside the file.</source>
+        <translation>Die Tabelle, die zu %1 gehört, „%2“, fehlt, sodass ihre Objekte keine Attribute haben; legen Sie sie neben die Datei.</translation>
     </message>
 </context>
 <context>
@@ -7676,6 +7684,10 @@
         <source>with outlines of its own colour, since most of its areas would be too small to see</source>
         <translation>mit Umrissen in seiner eigenen Farbe, da die meisten seiner Flächen sonst zu klein zum Sehen wären</translation>
     </message>
+    <message>
+        <source>with broad outlines, since most of its areas would be too small to see</source>
+        <translation>mit breiten Umrissen, da die meisten seiner Flächen sonst zu klein zum Sehen wären</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -8043,7 +8055,7 @@
     </message>
     <message>
         <source>There is nothing to draw: no layer of the data has geometries.</source>
-        <translation>Es gibt nichts zu zeichnen: Keine Ebene der Daten hat Geometrien.</translation>
+        <translation type="vanished">Es gibt nichts zu zeichnen: Keine Ebene der Daten hat Geometrien.</translation>
     </message>
     <message>
         <source>There is nothing to draw: the filter “%1” suits no layer of the data.</source>
@@ -8204,6 +8216,22 @@
     <message>
         <source>No coordinate system is known for the data, so that the map has none, nor a scale. Give the layers one in their sources&apos; field “coordinateSystem”, and the map with --crs or in its tab Coordinate System.</source>
         <translation>Für die Daten ist kein Koordinatensystem bekannt, so dass die Karte keines hat und auch keinen Maßstab. Geben Sie den Layern eines im Feld „coordinateSystem“ ihrer Quellen und der Karte mit --crs oder auf ihrer Karteikarte „Koordinatensystem“.</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw: the data have no geometries, and no columns of coordinates are known in %1. Call two columns of numbers lon and lat, or x and y.</source>
+        <translation>Es gibt nichts zu zeichnen: Die Daten haben keine Geometrien, und in %1 sind keine Spalten mit Koordinaten bekannt. Nennen Sie zwei Spalten mit Zahlen lon und lat oder x und y.</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw: no layer of %1 has geometries.</source>
+        <translation>Es gibt nichts zu zeichnen: Keine Ebene von %1 hat Geometrien.</translation>
+    </message>
+    <message>
+        <source>%1 (it has: %2)</source>
+        <translation>%1 (vorhanden: %2)</translation>
+    </message>
+    <message>
+        <source>No columns of coordinates are known in %1. Call two columns of numbers lon and lat, or x and y.</source>
+        <translation>In %1 sind keine Spalten mit Koordinaten bekannt. Nennen Sie zwei Spalten mit Zahlen lon und lat oder x und y.</translation>
     </message>
 </context>
 <context>
@@ -9635,6 +9663,29 @@ Die Kopie bleibt in %2.</translation>
     <message>
         <source>nothing can be written there</source>
         <translation>dort kann nichts geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>SourceSystem</name>
+    <message>
+        <source>The coordinate system that %1 names is not known (%2); its coordinates, which can&apos;t be degrees, are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Das Koordinatensystem, das %1 nennt, ist nicht bekannt (%2); ihre Koordinaten, die keine Grad sein können, werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+    </message>
+    <message>
+        <source>The coordinate system that %1 names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Das Koordinatensystem, das %1 nennt, ist nicht bekannt (%2); ihre Koordinaten werden als Längen und Breiten genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 can&apos;t be degrees, as those of its coordinate system are (GeoJSON that names none is in degrees); they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Die Koordinaten von %1 können keine Grad sein, wie es die ihres Koordinatensystems sind (GeoJSON, das keines nennt, ist in Grad); sie werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, give the system in the source&apos;s field “coordinateSystem”, such as EPSG:4326.</source>
+        <translation>Die Koordinaten von %1 sehen wie Grad aus, und ihr Koordinatensystem zählt in Metern. Wenn sie es sind, geben Sie das System im Feld „coordinateSystem“ der Quelle an, etwa EPSG:4326.</translation>
+    </message>
+    <message>
+        <source>No coordinate system is known for %1; its coordinates are taken as those of the map. Give one in the source&apos;s field “coordinateSystem”.</source>
+        <translation>Für %1 ist kein Koordinatensystem bekannt; die Koordinaten werden als solche der Karte genommen. Geben Sie eines im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
 </context>
 <context>

@@ -2199,11 +2199,15 @@
     </message>
     <message>
         <source>there is no Shapefile in this archive that is whole, with its parts .shp, .shx and .dbf</source>
-        <translation>此压缩包中没有完整的 Shapefile（须包含 .shp、.shx 和 .dbf 部分）</translation>
+        <translation type="vanished">此压缩包中没有完整的 Shapefile（须包含 .shp、.shx 和 .dbf 部分）</translation>
     </message>
     <message>
         <source>its texts are UTF-16; save it as UTF-8</source>
         <translation type="vanished">其文本为 UTF-16；请另存为 UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no Shapefile in this archive that is whole, with its parts .shp and .shx</source>
+        <translation>此压缩包中没有完整的 Shapefile（须包含 .shp 和 .shx 部分）</translation>
     </message>
 </context>
 <context>
@@ -3175,6 +3179,10 @@
     <message>
         <source>The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, give the system in the source&apos;s field “coordinateSystem”, such as EPSG:4326.</source>
         <translation>%1 的坐标看起来像度，而其坐标系以米为单位。如果确实是度，请在数据源的字段“coordinateSystem”中给出坐标系，例如 EPSG:4326。</translation>
+    </message>
+    <message>
+        <source>The table of %1, “%2”, is missing, so that its features have no attributes; put it beside the file.</source>
+        <translation>%1 所属的表“%2”缺失，因此其要素没有属性；请将它放在该文件旁。</translation>
     </message>
 </context>
 <context>
@@ -7676,6 +7684,10 @@
         <source>with outlines of its own colour, since most of its areas would be too small to see</source>
         <translation>轮廓采用其自身的颜色，因为其大部分面太小，否则看不见</translation>
     </message>
+    <message>
+        <source>with broad outlines, since most of its areas would be too small to see</source>
+        <translation>采用较宽的轮廓，因为其大部分面太小，否则看不见</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -8043,7 +8055,7 @@
     </message>
     <message>
         <source>There is nothing to draw: no layer of the data has geometries.</source>
-        <translation>没有可绘制的内容：数据中没有含几何的图层。</translation>
+        <translation type="vanished">没有可绘制的内容：数据中没有含几何的图层。</translation>
     </message>
     <message>
         <source>There is nothing to draw: the filter “%1” suits no layer of the data.</source>
@@ -8204,6 +8216,22 @@
     <message>
         <source>No coordinate system is known for the data, so that the map has none, nor a scale. Give the layers one in their sources&apos; field “coordinateSystem”, and the map with --crs or in its tab Coordinate System.</source>
         <translation>数据的坐标系未知，因此地图没有坐标系，也没有比例尺。请在图层数据源的“coordinateSystem”字段中给出坐标系，并用 --crs 或在地图的“坐标系”选项卡中给出地图的坐标系。</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw: the data have no geometries, and no columns of coordinates are known in %1. Call two columns of numbers lon and lat, or x and y.</source>
+        <translation>没有可绘制的内容：数据没有几何，且在 %1 中找不到坐标列。请将两个数字列命名为 lon 和 lat，或 x 和 y。</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw: no layer of %1 has geometries.</source>
+        <translation>没有可绘制的内容：%1 的图层都没有几何。</translation>
+    </message>
+    <message>
+        <source>%1 (it has: %2)</source>
+        <translation>%1（现有：%2）</translation>
+    </message>
+    <message>
+        <source>No columns of coordinates are known in %1. Call two columns of numbers lon and lat, or x and y.</source>
+        <translation>在 %1 中找不到坐标列。请将两个数字列命名为 lon 和 lat，或 x 和 y。</translation>
     </message>
 </context>
 <context>
@@ -9635,6 +9663,29 @@ The copy is kept in %2.</source>
     <message>
         <source>nothing can be written there</source>
         <translation>无法在那里写入</translation>
+    </message>
+</context>
+<context>
+    <name>SourceSystem</name>
+    <message>
+        <source>The coordinate system that %1 names is not known (%2); its coordinates, which can&apos;t be degrees, are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1 所指的坐标系未知（%2）；其坐标不可能是度，因此按地图的坐标处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
+    </message>
+    <message>
+        <source>The coordinate system that %1 names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1 所指的坐标系未知（%2）；其坐标按经度和纬度处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 can&apos;t be degrees, as those of its coordinate system are (GeoJSON that names none is in degrees); they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1 的坐标不可能是度，而其坐标系的坐标应当是度（未指定坐标系的 GeoJSON 以度为单位）；现按地图的坐标处理。请在数据源的“coordinateSystem”字段中指定坐标系。</translation>
+    </message>
+    <message>
+        <source>The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, give the system in the source&apos;s field “coordinateSystem”, such as EPSG:4326.</source>
+        <translation>%1 的坐标看起来像度，而其坐标系以米为单位。如果确实是度，请在数据源的字段“coordinateSystem”中给出坐标系，例如 EPSG:4326。</translation>
+    </message>
+    <message>
+        <source>No coordinate system is known for %1; its coordinates are taken as those of the map. Give one in the source&apos;s field “coordinateSystem”.</source>
+        <translation>%1的坐标系未知，其坐标按地图坐标处理。请在数据源的“coordinateSystem”字段中给出坐标系。</translation>
     </message>
 </context>
 <context>

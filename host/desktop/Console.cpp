@@ -12,6 +12,7 @@ namespace Console {
 namespace {
 
 bool failed = false;
+QSet<QString> told;
 std::atomic<bool> isSilent{false};
 
 }  // namespace
@@ -29,11 +30,12 @@ void complain(QString const& sentence) {
 }
 
 void remark(QString const& sentence) {
-  static QSet<QString> told;
   if (told.contains(sentence)) return;
   told.insert(sentence);
   complain(sentence);
 }
+
+void passOver(QString const& sentence) { told.insert(sentence); }
 
 void silence() { isSilent = true; }
 

@@ -14,6 +14,9 @@ void complain(QString const& sentence);
 /// A sentence about what may matter: as `complain`, but each sentence once.
 void remark(QString const& sentence);
 
+/// As if that had been told already: a remark that comes again in other words.
+void passOver(QString const& sentence);
+
 /// From now on nothing more is complained about: another process tells. May be called by a signal's handler.
 void silence();
 

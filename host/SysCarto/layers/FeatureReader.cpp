@@ -87,40 +87,6 @@ QString placeless(OGRLayer& layer, SourceSettings const& source) {
       .arg(describeSource(source), fieldNames(layer));
 }
 
-// What is to be known of a source's own system where nothing else was given.
-void warnOfSystem(SourceSystem const& said, bool isTakenAsMaps, QString const& complaint, SourceSettings const& source,
-                  QStringList& warnings) {
-  QString const name = describeSource(source);
-  bool const isUnknown = complaint.contains(QLatin1String("crs"));  // which GDAL takes for one that is not named
-  if (isUnknown && said.isNoDegrees)
-    warnings
-        << Texts::tr(
-               "The coordinate system that %1 names is not known (%2); its coordinates, which can't be degrees, are "
-               "taken as those of the map. Give the system in the source's field “coordinateSystem”.")
-               .arg(name, complaint);
-  else if (isUnknown)
-    warnings << Texts::tr(
-                    "The coordinate system that %1 names is not known (%2); its coordinates are taken as longitudes "
-                    "and latitudes. Give the system in the source's field “coordinateSystem”.")
-                    .arg(name, complaint);
-  else if (said.isNoDegrees)
-    warnings << Texts::tr(
-                    "The coordinates of %1 can't be degrees, as those of its coordinate system are (GeoJSON that "
-                    "names none is in degrees); they are taken as those of the map. Give the system in the "
-                    "source's field “coordinateSystem”.")
-                    .arg(name);
-  else if (said.mayBeDegrees)
-    warnings << Texts::tr(
-                    "The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, "
-                    "give the system in the source's field “coordinateSystem”, such as EPSG:4326.")
-                    .arg(name);
-  else if (isTakenAsMaps)
-    warnings << Texts::tr(
-                    "No coordinate system is known for %1; its coordinates are taken as those of the map. "
-                    "Give one in the source's field “coordinateSystem”.")
-                    .arg(name);
-}
-
 std::unique_ptr<GeometryProjector> makeProjector(DataSource const& data, SourceSettings const& source,
                                                  QString const& mapSystem, ReadFeatures& result) {
   OGRLayer& layer = data.layer();
@@ -146,7 +112,9 @@ std::unique_ptr<GeometryProjector> makeProjector(DataSource const& data, SourceS
                        .arg(describeSource(source), errors.reason());
     return nullptr;
   }
-  if (saysItself) warnOfSystem(said, !own && target, data.complaint(), source, result.warnings);
+  QString const warning =
+      saysItself ? said.warning(describeSource(source), data.complaint(), !own && target) : QString();
+  if (!warning.isEmpty()) result.warnings << warning;
   QString reason;
   auto projector = GeometryProjector::remembered(own, target.get(), reason);
   if (!projector)
@@ -466,6 +434,12 @@ ReadFeatures readTask(ReadTask const& task, QString const& mapSystem, ReadProgre
   }
   result.error = data->joinProblem();
   result.warnings += data->notes();
+  QString const table = !task.query && !source.file.isEmpty() ? missingTableOf(source.file) : QString();
+  if (!table.isEmpty())
+    result.warnings << Texts::tr(
+                           "The table of %1, “%2”, is missing, so that its features have no attributes; put it "
+                           "beside the file.")
+                           .arg(describeSource(source), table);
   if (!task.query && source.connection.isEmpty() && hasGuessedEncoding(source.file))
     result.notes
         << Texts::tr(

@@ -236,7 +236,7 @@ QString whyUnread(QString const& path, QByteArray const& name) {
   if (hasSuffix(path, "kmz"))
     return Texts::tr("there is no KML in this archive that can be read; unpack it, and name the file in it");
   if (hasSuffix(path, "zip"))
-    return Texts::tr("there is no Shapefile in this archive that is whole, with its parts .shp, .shx and .dbf");
+    return Texts::tr("there is no Shapefile in this archive that is whole, with its parts .shp and .shx");
   if (isUtf16(headOf(path.toUtf8(), 2))) return isEncodedAsUtf16();
   GDALDriverH const driver =
       name.isEmpty() ? nullptr : GDALIdentifyDriverEx(name.constData(), GDAL_OF_VECTOR, driverNames().data(), nullptr);
@@ -339,6 +339,11 @@ bool hasGuessedEncoding(QString const& path) {
   else
     place->second = needsGuessWithin(isFolder ? folderWithShapes(absolute) : "/vsizip/{" + absolute.toUtf8() + "}");
   return place->second;
+}
+
+QString missingTableOf(QString const& path) {
+  QFileInfo const table = hasSuffix(path, "shp") ? companionOf(path, "dbf") : QFileInfo(path);
+  return table.exists() ? QString() : table.fileName();
 }
 
 bool isDataFileName(QString const& path) {

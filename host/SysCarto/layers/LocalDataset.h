@@ -39,6 +39,9 @@ DatasetPointer openLocalDataset(QString const& path, QString& error, QString* co
 /// of Windows-1252. Of an archive: of the first in it. False for other files.
 SYSCARTO_EXPORT bool hasGuessedEncoding(QString const& path);
 
+/// The name of the table that belongs to a Shapefile, where it is missing; empty for other files.
+QString missingTableOf(QString const& path);
+
 /// The name of a dataset's format for people.
 QString formatOf(GDALDataset& dataset);
 

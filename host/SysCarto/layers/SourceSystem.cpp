@@ -1,5 +1,7 @@
 #include "SourceSystem.h"
 
+#include <QCoreApplication>
+
 #include <ogr_feature.h>
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
@@ -10,6 +12,10 @@
 namespace SysCarto {
 
 namespace {
+
+struct Texts {
+  Q_DECLARE_TR_FUNCTIONS(SourceSystem)
+};
 
 constexpr int lookedAt = 20, lookedThrough = 1000;  // features: with a geometry, and with or without
 constexpr double turns = 1.1;                       // farther than that no longitude is written
@@ -65,6 +71,36 @@ bool mayBeDegrees(OGRLayer& layer, OGRSpatialReference const& system) {
 }
 
 }  // namespace
+
+QString SourceSystem::warning(QString const& source, QString const& complaint, bool isTakenAsMaps) const {
+  bool const isUnknown = complaint.contains(QLatin1String("crs"));  // which GDAL takes for one that is not named
+  if (isUnknown && isNoDegrees)
+    return Texts::tr(
+               "The coordinate system that %1 names is not known (%2); its coordinates, which can't be degrees, are "
+               "taken as those of the map. Give the system in the source's field “coordinateSystem”.")
+        .arg(source, complaint);
+  if (isUnknown)
+    return Texts::tr(
+               "The coordinate system that %1 names is not known (%2); its coordinates are taken as longitudes "
+               "and latitudes. Give the system in the source's field “coordinateSystem”.")
+        .arg(source, complaint);
+  if (isNoDegrees)
+    return Texts::tr(
+               "The coordinates of %1 can't be degrees, as those of its coordinate system are (GeoJSON that "
+               "names none is in degrees); they are taken as those of the map. Give the system in the "
+               "source's field “coordinateSystem”.")
+        .arg(source);
+  if (mayBeDegrees)
+    return Texts::tr(
+               "The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, "
+               "give the system in the source's field “coordinateSystem”, such as EPSG:4326.")
+        .arg(source);
+  if (!isTakenAsMaps) return QString();
+  return Texts::tr(
+             "No coordinate system is known for %1; its coordinates are taken as those of the map. "
+             "Give one in the source's field “coordinateSystem”.")
+      .arg(source);
+}
 
 SourceSystem systemOf(OGRLayer& layer, bool isOfServer) {
   OGRSpatialReference const* const system = layer.GetSpatialRef();

@@ -130,11 +130,8 @@ bool holds(OGRLayer& table, int field, double enough, std::function<bool(OGRFeat
   return right > 0 && right >= enough * values;
 }
 
-// Those of a table without rows are what they are called.
 bool holdsNumbers(OGRLayer& table, int field) {
-  return field >= 0 && (knownCount(table) == 0 || holds(table, field, majority, [field](OGRFeature& row) {
-                          return !std::isnan(numberOf(row, field));
-                        }));
+  return holds(table, field, majority, [field](OGRFeature& row) { return !std::isnan(numberOf(row, field)); });
 }
 
 bool holdsGeometries(OGRLayer& table, int field) {
@@ -150,9 +147,13 @@ PlaceColumns guess(OGRLayer& table) {
     int const field = indexOfPlain(table, name);
     if (holdsGeometries(table, field)) return {{}, {}, nameOf(table, field)};
   }
+  int rows = 0;
+  lookAtRows(table, [&](OGRFeature&) { ++rows; });
   for (auto const& names : coordinateNames) {
     int const x = indexOfPlain(table, names[0]), y = indexOfPlain(table, names[1]);
-    if (holdsNumbers(table, x) && holdsNumbers(table, y)) return {nameOf(table, x), nameOf(table, y), {}};
+    if (x < 0 || y < 0) continue;
+    if (rows == 0 || (holdsNumbers(table, x) && holdsNumbers(table, y)))
+      return {nameOf(table, x), nameOf(table, y), {}};
   }
   for (int field = 0; field < table.GetLayerDefn()->GetFieldCount(); ++field)
     if (holdsGeometries(table, field)) return {{}, {}, nameOf(table, field)};

@@ -55,6 +55,12 @@ Box boxOf(VectorLayer const& layer, bool hasOutliers) {
   return Bulk::of(boxes).box;
 }
 
+QString fieldsOf(SysCarto::LayerDescription const& layer) {
+  QStringList names;
+  for (size_t i = 0; i < std::min<size_t>(layer.fields.size(), 30); ++i) names << layer.fields[i].name;
+  return names.join(QLatin1String(", "));
+}
+
 class NewMap {
   Q_DECLARE_TR_FUNCTIONS(NewMap)
 
@@ -106,6 +112,7 @@ private:
   SysCarto::ReadProgress progress_;
   std::optional<MapTemplate> template_;
   std::vector<LayerSurvey> surveys_;
+  QStringList tables_;  // of texts, whose places are not known
   DataPlace place_;
   ProjectionChoice system_{};
   QSizeF page_;
@@ -140,9 +147,12 @@ bool NewMap::survey() {
     for (QString const& file : named.isDir() ? SysCarto::dataFilesIn(path) : QVector<QString>{path})
       if (!surveyFile(file, data.layer, named.isDir())) return false;
   }
+  if (surveys_.empty() && !tables_.isEmpty())
+    return fail(tr("No columns of coordinates are known in %1. Call two columns of numbers lon and lat, or x and y.")
+                    .arg(tables_.join(QLatin1String("; "))));
   if (surveys_.empty())
     return fail(request_.where.isEmpty()
-                    ? tr("There is nothing to draw: no layer of the data has geometries.")
+                    ? tr("There is nothing to draw: no layer of %1 has geometries.").arg(request_.data.first().file)
                     : tr("There is nothing to draw: the filter “%1” suits no layer of the data.").arg(request_.where));
   place_ = DataPlace::of(surveys_);
   return true;
@@ -180,8 +190,10 @@ bool NewMap::surveyFile(QString const& file, QString const& layer, bool isOfFold
       continue;
     }
     bool const isTable = survey->count == 0 && one.kind == SysCarto::GeometryKind::None && one.count != 0;
+    if (isTable && described.format == QLatin1String("CSV"))
+      tables_ << tr("%1 (it has: %2)").arg(SysCarto::titleOf(file), fieldsOf(one));
     if (isTable || (layer.isEmpty() && isPartOfTrack(one.name, described))) continue;
-    if (survey->count == 0)
+    if (survey->count == 0 && !request_.where.isEmpty())
       result_.warnings << tr("The layer “%1” of %2 has no features to show.").arg(one.name, SysCarto::titleOf(file));
     surveys_.push_back(*survey);
   }

@@ -99,7 +99,10 @@ ExitStatus runNew(Subcommand const& self, QStringList const& arguments) {
   if (problem.isEmpty()) {
     auto const desktop = SysUtility::make<OffscreenDesktop>(document);
     NewMapResult const made = makeNewMap(request, document);
-    for (QString const& warning : made.warnings + SysCarto::laterWarnings(document)) Console::remark(warning);
+    for (QString const& warning : made.warnings + SysCarto::laterWarnings(document)) {
+      Console::remark(warning);
+      Console::passOver(operands.first() + QLatin1String(": ") + warning);  // as the export of the document has it
+    }
     problem = made.problem;
     if (problem.isEmpty() && parser.isSet(explain)) Console::print(made.explanation.join(QLatin1Char('\n')));
     if (problem.isEmpty()) problem = write(document, operands.first());

@@ -100,21 +100,18 @@ struct Material {
   }
   bool hasRoomForOutlines() const { return mostOutline() >= leastOutline; }
 
-  // Areas too small to be seen that do not lie side by side: a line of their own colour makes marks of them.
+  // Areas too small to be seen that do not lie side by side: a broad outline makes marks of them.
   bool needMarks() const {
     constexpr double leastSideCm = 0.01, mostOfPage = 0.01;
     return survey.typical * pageCm2 < leastSideCm * leastSideCm && survey.count * survey.typical < mostOfPage;
   }
   QJsonObject fitted(QJsonObject symbol) const {
-    constexpr double markWidth = 0.8;
+    constexpr double markWidth = 1.4;
     QJsonObject outline = symbol.take("outline").toObject();
     if (outline.isEmpty() || !(hasRoomForOutlines() || needMarks())) return symbol;
     outline["width"] =
         std::clamp(outline.value("width").toDouble(), leastOutline, std::max(leastOutline, mostOutline()));
-    if (needMarks()) {
-      outline["width"] = markWidth;
-      outline["color"] = symbol.value("color");
-    }
+    if (needMarks()) outline["width"] = markWidth;
     symbol["outline"] = outline;
     return symbol;
   }
@@ -456,7 +453,7 @@ StyledLayer LayerStyling::styleKind(LayerSurvey const& survey, GeometryKind kind
   styled.isLand = isLand;
   styled.reasons << look.reason;
   if (isArea && of.needMarks())
-    styled.reasons << Texts::tr("with outlines of its own colour, since most of its areas would be too small to see");
+    styled.reasons << Texts::tr("with broad outlines, since most of its areas would be too small to see");
   else if (isArea && !of.hasRoomForOutlines())
     styled.reasons << Texts::tr("without outlines, for which most of its areas are too small");
   for (QString const& color : colorsIn(look.renderer)) ++uses_[color];
