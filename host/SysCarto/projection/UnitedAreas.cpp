@@ -3,6 +3,8 @@
 #include "host/SysCarto/projection/AntimeridianSteps.h"
 #include "host/SysGeometry/QuietOgr.h"
 
+#include <QtGlobal>
+
 #include <ogr_geometry.h>
 
 #include <algorithm>
@@ -14,7 +16,8 @@ namespace SysCarto {
 namespace {
 
 constexpr int maxDepth = 32;
-constexpr int mostMended = 500;  // vertices: edges that all cross each other make the square of their number
+constexpr int mostCrossings = 200;  // of an area's edges: to mend it takes more than the square of their number
+constexpr int mostPairs = 4000000;  // of edges that are looked at for them
 
 using PolygonPointer = std::unique_ptr<OGRPolygon>;
 
@@ -82,10 +85,37 @@ void joinOverAntimeridian(std::vector<PolygonPointer> const& areas, double degre
   }
 }
 
-int verticesOf(OGRPolygon const& area) {
-  int count = 0;
-  for (auto const* ring : area) count += ring->getNumPoints();
-  return count;
+struct Edge {
+  double ax, ay, bx, by;  // from west to east
+};
+
+bool cross(Edge const& one, Edge const& other) {
+  auto const side = [](Edge const& edge, double x, double y) {
+    return (edge.bx - edge.ax) * (y - edge.ay) - (edge.by - edge.ay) * (x - edge.ax);
+  };
+  return side(one, other.ax, other.ay) * side(one, other.bx, other.by) < 0 &&
+         side(other, one.ax, one.ay) * side(other, one.bx, one.by) < 0;
+}
+
+// Whether few enough of its edges cross each other, looked for from west to east.
+bool canBeMended(OGRPolygon const& area) {
+  std::vector<Edge> edges, open;
+  for (auto const* ring : area)
+    for (int i = 1; i < ring->getNumPoints(); ++i) {
+      bool const isEast = ring->getX(i) >= ring->getX(i - 1);
+      int const west = isEast ? i - 1 : i, east = isEast ? i : i - 1;
+      edges.push_back({ring->getX(west), ring->getY(west), ring->getX(east), ring->getY(east)});
+    }
+  std::sort(edges.begin(), edges.end(), [](Edge const& a, Edge const& b) { return a.ax < b.ax; });
+  qint64 pairs = 0, crossings = 0;
+  for (Edge const& edge : edges) {
+    open.erase(std::remove_if(open.begin(), open.end(), [&](Edge const& one) { return one.bx < edge.ax; }), open.end());
+    pairs += static_cast<qint64>(open.size());
+    crossings += std::count_if(open.begin(), open.end(), [&](Edge const& one) { return cross(one, edge); });
+    if (pairs > mostPairs || crossings > mostCrossings) return false;
+    open.push_back(edge);
+  }
+  return true;
 }
 
 // The area itself, or what is an area of one that crosses itself. False where that would take too long.
@@ -94,7 +124,7 @@ bool addValid(PolygonPointer area, OGRMultiPolygon& valid) {
     valid.addGeometryDirectly(area.release());
     return true;
   }
-  if (verticesOf(*area) > mostMended) return false;
+  if (!canBeMended(*area)) return false;
   std::unique_ptr<OGRGeometry> const made(area->MakeValid());
   if (!made) return false;
   Members parts;
