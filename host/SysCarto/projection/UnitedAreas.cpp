@@ -16,7 +16,7 @@ namespace SysCarto {
 namespace {
 
 constexpr int maxDepth = 32;
-constexpr int mostCrossings = 200;  // of an area's edges: to mend it takes more than the square of their number
+constexpr int mostCrossings = 60;   // of an area's edges: to mend it takes more than the square of their number
 constexpr int mostPairs = 4000000;  // of edges that are looked at for them
 
 using PolygonPointer = std::unique_ptr<OGRPolygon>;
