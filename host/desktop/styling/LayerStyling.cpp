@@ -109,9 +109,8 @@ struct Material {
     constexpr double markWidth = 1.4;
     QJsonObject outline = symbol.take("outline").toObject();
     if (outline.isEmpty() || !(hasRoomForOutlines() || needMarks())) return symbol;
-    outline["width"] =
-        std::clamp(outline.value("width").toDouble(), leastOutline, std::max(leastOutline, mostOutline()));
-    if (needMarks()) outline["width"] = markWidth;
+    double const width = outline.value("width").toDouble();
+    outline["width"] = needMarks() ? markWidth : std::clamp(width, leastOutline, mostOutline());
     symbol["outline"] = outline;
     return symbol;
   }
