@@ -3094,7 +3094,7 @@
     </message>
     <message>
         <source>No coordinate system is known for %1; its coordinates are taken as those of the map. Give one in the source&apos;s field “coordinateSystem”.</source>
-        <translation>Für %1 ist kein Koordinatensystem bekannt; die Koordinaten werden als solche der Karte genommen. Geben Sie eines im Feld „coordinateSystem“ der Quelle an.</translation>
+        <translation type="vanished">Für %1 ist kein Koordinatensystem bekannt; die Koordinaten werden als solche der Karte genommen. Geben Sie eines im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
     <message>
         <source>The coordinates of %1 can&apos;t be projected to the map&apos;s coordinate system: %2.</source>
@@ -3154,7 +3154,7 @@
     </message>
     <message>
         <source>The coordinates of %1 can&apos;t be degrees, as those of its coordinate system are (GeoJSON that names none is in degrees); they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>Die Koordinaten von %1 können keine Grad sein, wie es die ihres Koordinatensystems sind (GeoJSON, das keines nennt, ist in Grad); sie werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+        <translation type="vanished">Die Koordinaten von %1 können keine Grad sein, wie es die ihres Koordinatensystems sind (GeoJSON, das keines nennt, ist in Grad); sie werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
     <message>
         <source>Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it with the name of the encoding would say so.</source>
@@ -3170,15 +3170,15 @@
     </message>
     <message>
         <source>The coordinate system that %1 names is not known (%2); its coordinates, which can&apos;t be degrees, are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>Das Koordinatensystem, das %1 nennt, ist nicht bekannt (%2); ihre Koordinaten, die keine Grad sein können, werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+        <translation type="vanished">Das Koordinatensystem, das %1 nennt, ist nicht bekannt (%2); ihre Koordinaten, die keine Grad sein können, werden als die der Karte genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
     <message>
         <source>The coordinate system that %1 names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>Das Koordinatensystem, das %1 nennt, ist nicht bekannt (%2); ihre Koordinaten werden als Längen und Breiten genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
+        <translation type="vanished">Das Koordinatensystem, das %1 nennt, ist nicht bekannt (%2); ihre Koordinaten werden als Längen und Breiten genommen. Geben Sie das System im Feld „coordinateSystem“ der Quelle an.</translation>
     </message>
     <message>
         <source>The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, give the system in the source&apos;s field “coordinateSystem”, such as EPSG:4326.</source>
-        <translation>Die Koordinaten von %1 sehen wie Grad aus, und ihr Koordinatensystem zählt in Metern. Wenn sie es sind, geben Sie das System im Feld „coordinateSystem“ der Quelle an, etwa EPSG:4326.</translation>
+        <translation type="vanished">Die Koordinaten von %1 sehen wie Grad aus, und ihr Koordinatensystem zählt in Metern. Wenn sie es sind, geben Sie das System im Feld „coordinateSystem“ der Quelle an, etwa EPSG:4326.</translation>
     </message>
     <message>
         <source>The table of %1, “%2”, is missing, so that its features have no attributes; put it beside the file.</source>
@@ -6743,6 +6743,14 @@
         <source>PROJ knows no way to project into it</source>
         <translation>PROJ kennt keinen Weg, in es zu projizieren</translation>
     </message>
+    <message>
+        <source>their own, “%1”, is neither geographic nor projected; give the source the one that they have in truth</source>
+        <translation>ihr eigenes, „%1“, ist weder geographisch noch projiziert; geben Sie der Quelle das, das sie in Wahrheit haben</translation>
+    </message>
+    <message>
+        <source>PROJ knows no way back from their own, “%1”</source>
+        <translation>PROJ kennt keinen Weg aus ihrem eigenen, „%1“, zurück</translation>
+    </message>
 </context>
 <context>
     <name>Graticule</name>
@@ -7682,7 +7690,7 @@
     </message>
     <message>
         <source>with outlines of its own colour, since most of its areas would be too small to see</source>
-        <translation>mit Umrissen in seiner eigenen Farbe, da die meisten seiner Flächen sonst zu klein zum Sehen wären</translation>
+        <translation type="vanished">mit Umrissen in seiner eigenen Farbe, da die meisten seiner Flächen sonst zu klein zum Sehen wären</translation>
     </message>
     <message>
         <source>with broad outlines, since most of its areas would be too small to see</source>
@@ -8219,7 +8227,7 @@
     </message>
     <message>
         <source>There is nothing to draw: the data have no geometries, and no columns of coordinates are known in %1. Call two columns of numbers lon and lat, or x and y.</source>
-        <translation>Es gibt nichts zu zeichnen: Die Daten haben keine Geometrien, und in %1 sind keine Spalten mit Koordinaten bekannt. Nennen Sie zwei Spalten mit Zahlen lon und lat oder x und y.</translation>
+        <translation type="vanished">Es gibt nichts zu zeichnen: Die Daten haben keine Geometrien, und in %1 sind keine Spalten mit Koordinaten bekannt. Nennen Sie zwei Spalten mit Zahlen lon und lat oder x und y.</translation>
     </message>
     <message>
         <source>There is nothing to draw: no layer of %1 has geometries.</source>

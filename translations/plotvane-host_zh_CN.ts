@@ -3094,7 +3094,7 @@
     </message>
     <message>
         <source>No coordinate system is known for %1; its coordinates are taken as those of the map. Give one in the source&apos;s field “coordinateSystem”.</source>
-        <translation>%1的坐标系未知，其坐标按地图坐标处理。请在数据源的“coordinateSystem”字段中给出坐标系。</translation>
+        <translation type="vanished">%1的坐标系未知，其坐标按地图坐标处理。请在数据源的“coordinateSystem”字段中给出坐标系。</translation>
     </message>
     <message>
         <source>The coordinates of %1 can&apos;t be projected to the map&apos;s coordinate system: %2.</source>
@@ -3154,7 +3154,7 @@
     </message>
     <message>
         <source>The coordinates of %1 can&apos;t be degrees, as those of its coordinate system are (GeoJSON that names none is in degrees); they are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>%1 的坐标不可能是度，而其坐标系的坐标应当是度（未指定坐标系的 GeoJSON 以度为单位）；现按地图的坐标处理。请在数据源的“coordinateSystem”字段中指定坐标系。</translation>
+        <translation type="vanished">%1 的坐标不可能是度，而其坐标系的坐标应当是度（未指定坐标系的 GeoJSON 以度为单位）；现按地图的坐标处理。请在数据源的“coordinateSystem”字段中指定坐标系。</translation>
     </message>
     <message>
         <source>Nothing says how the texts of %1 are encoded; they are taken as Windows-1252. A file “%2” beside it with the name of the encoding would say so.</source>
@@ -3170,15 +3170,15 @@
     </message>
     <message>
         <source>The coordinate system that %1 names is not known (%2); its coordinates, which can&apos;t be degrees, are taken as those of the map. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>%1 所指的坐标系未知（%2）；其坐标不可能是度，因此按地图的坐标处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
+        <translation type="vanished">%1 所指的坐标系未知（%2）；其坐标不可能是度，因此按地图的坐标处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
     </message>
     <message>
         <source>The coordinate system that %1 names is not known (%2); its coordinates are taken as longitudes and latitudes. Give the system in the source&apos;s field “coordinateSystem”.</source>
-        <translation>%1 所指的坐标系未知（%2）；其坐标按经度和纬度处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
+        <translation type="vanished">%1 所指的坐标系未知（%2）；其坐标按经度和纬度处理。请在数据源的字段“coordinateSystem”中给出坐标系。</translation>
     </message>
     <message>
         <source>The coordinates of %1 look like degrees, and its coordinate system counts in metres. If they are, give the system in the source&apos;s field “coordinateSystem”, such as EPSG:4326.</source>
-        <translation>%1 的坐标看起来像度，而其坐标系以米为单位。如果确实是度，请在数据源的字段“coordinateSystem”中给出坐标系，例如 EPSG:4326。</translation>
+        <translation type="vanished">%1 的坐标看起来像度，而其坐标系以米为单位。如果确实是度，请在数据源的字段“coordinateSystem”中给出坐标系，例如 EPSG:4326。</translation>
     </message>
     <message>
         <source>The table of %1, “%2”, is missing, so that its features have no attributes; put it beside the file.</source>
@@ -6743,6 +6743,14 @@
         <source>PROJ knows no way to project into it</source>
         <translation>PROJ 没有投影到该坐标系的方法</translation>
     </message>
+    <message>
+        <source>their own, “%1”, is neither geographic nor projected; give the source the one that they have in truth</source>
+        <translation>其自身的坐标系“%1”既不是地理坐标系，也不是投影坐标系；请为数据源指定其真实的坐标系</translation>
+    </message>
+    <message>
+        <source>PROJ knows no way back from their own, “%1”</source>
+        <translation>PROJ 无法从其自身的坐标系“%1”反算</translation>
+    </message>
 </context>
 <context>
     <name>Graticule</name>
@@ -7682,7 +7690,7 @@
     </message>
     <message>
         <source>with outlines of its own colour, since most of its areas would be too small to see</source>
-        <translation>轮廓采用其自身的颜色，因为其大部分面太小，否则看不见</translation>
+        <translation type="vanished">轮廓采用其自身的颜色，因为其大部分面太小，否则看不见</translation>
     </message>
     <message>
         <source>with broad outlines, since most of its areas would be too small to see</source>
@@ -8219,7 +8227,7 @@
     </message>
     <message>
         <source>There is nothing to draw: the data have no geometries, and no columns of coordinates are known in %1. Call two columns of numbers lon and lat, or x and y.</source>
-        <translation>没有可绘制的内容：数据没有几何，且在 %1 中找不到坐标列。请将两个数字列命名为 lon 和 lat，或 x 和 y。</translation>
+        <translation type="vanished">没有可绘制的内容：数据没有几何，且在 %1 中找不到坐标列。请将两个数字列命名为 lon 和 lat，或 x 和 y。</translation>
     </message>
     <message>
         <source>There is nothing to draw: no layer of %1 has geometries.</source>

@@ -30,10 +30,12 @@ bool matches(QString const& text, char const* pattern) {
       .hasMatch();
 }
 
-// The three notations. Others that GDAL knows (addresses, file names, dictionaries) stay out.
+// The notations, a code also with one of heights behind it, or as a URN. Others that GDAL knows (addresses, file names,
+// dictionaries) stay out.
 bool isKnownNotation(QString const& text) {
-  return matches(text, R"(^(EPSG|ESRI|IGNF|OGC|IAU(_20[0-9]{2})?):[A-Z0-9._]+$)") ||
-         matches(text, R"(^[A-Z_]*(CS|CRS)\s*\[)") || matches(text, R"(^\+?proj\s*=)");
+  return matches(text, R"(^(EPSG|ESRI|IGNF|OGC|IAU(_20[0-9]{2})?):[A-Z0-9._]+(\+[0-9]+)?$)") ||
+         matches(text, R"(^urn:ogc:def:crs:[A-Z]+:[0-9.]*:[A-Z0-9]+$)") || matches(text, R"(^[A-Z_]*(CS|CRS)\s*\[)") ||
+         matches(text, R"(^\+?proj\s*=)");
 }
 
 // Grids and parameter files are opened by their name wherever it points. A name of "@null" means that there is none.
@@ -72,6 +74,7 @@ QString read(QString const& definition, SystemPtr& system) {
   if (!parsed)
     return Texts::tr("“%1” is not a coordinate system that PROJ knows; give a code such as EPSG:8857")
         .arg(text.left(64).simplified());
+  parsed->StripVertical();
   if (!parsed->IsGeographic() && !parsed->IsProjected())
     return Texts::tr("is neither geographic nor projected; leave it empty for plain coordinates");
   system = std::move(parsed);

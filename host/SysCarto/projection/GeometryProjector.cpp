@@ -3,6 +3,7 @@
 #include "host/SysCarto/projection/AntimeridianSteps.h"
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/CurveDivider.h"
+#include "host/SysCarto/projection/ProjText.h"
 #include "host/SysCarto/projection/ProjectionProbe.h"
 #include "host/SysCarto/projection/UnitedAreas.h"
 #include "host/SysGeometry/QuietOgr.h"
@@ -79,6 +80,13 @@ void openRing(std::vector<double>& xy) {
   while (xy.size() > 2 && xy[0] == xy[xy.size() - 2] && xy[1] == xy[xy.size() - 1]) xy.resize(xy.size() - 2);
 }
 
+// There are projections that PROJ knows by their names alone.
+bool leadsBack(OGRSpatialReference const& projected, PointTransform const& toGlobe) {
+  if (!ProjText(projected).isEmpty()) return true;
+  double x = projected.GetProjParm(SRS_PP_FALSE_EASTING), y = projected.GetProjParm(SRS_PP_FALSE_NORTHING);
+  return toGlobe.apply(x, y);
+}
+
 bool anyEdge(std::vector<unsigned char> const& edges, unsigned char flag) {
   return std::any_of(edges.begin(), edges.end(), [=](unsigned char edge) { return edge & flag; });
 }
@@ -97,6 +105,12 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
     error = Texts::tr("they are geocentric, as X, Y and Z; convert the data to longitude and latitude");
     return nullptr;
   }
+  if (!source->IsGeographic() && !source->IsProjected()) {
+    error = Texts::tr(
+                "their own, “%1”, is neither geographic nor projected; give the source the one that they have in truth")
+                .arg(QString::fromUtf8(source->GetName()));
+    return nullptr;
+  }
   auto const globe = globeOf(*target);
   if (!globe) return projector;
   projector->sourceIsGeographic_ = source->IsGeographic() && !source->IsDerivedGeographic();
@@ -105,6 +119,8 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
     projector->antimeridian_ = std::remainder(180 + meridianOf(*source) - meridianOf(*globe), 360.0);
   }
   if (!isSame(*source, *globe)) projector->toGlobe_ = PointTransform::create(*source, *globe, error);
+  if (error.isEmpty() && projector->toGlobe_ && source->IsProjected() && !leadsBack(*source, *projector->toGlobe_))
+    error = Texts::tr("PROJ knows no way back from their own, “%1”").arg(QString::fromUtf8(source->GetName()));
   if (!error.isEmpty()) return nullptr;
   projector->toMap_ = PointTransform::create(*globe, *target, error);
   if (!projector->toMap_) return nullptr;

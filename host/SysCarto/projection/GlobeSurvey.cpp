@@ -27,6 +27,7 @@ constexpr double nearBorder = 0.5;  // degrees
 constexpr double straight = 1e-4;   // degrees: a border this near to its chord follows it
 constexpr double leastMargin = 1e-7;
 constexpr double shortestChord = 1e-3;
+constexpr double leastSine = 0.05;
 
 double distance(double ax, double ay, double bx, double by) { return std::hypot(bx - ax, by - ay); }
 
@@ -426,13 +427,18 @@ std::vector<Run> GlobeSurvey::border(Vertex const& middle) {
   }
   for (int i = 0; i < refinements; ++i) chords = refined(chords, i == 0);
 
-  // Between its vertices the border may bend inwards, so that each is moved that far.
+  // Between its vertices the border may bend inwards, so that each is moved that far away from the chord.
   std::vector<double> margins(points_.size(), 0);
   for (size_t i = 0; i < points_.size(); ++i) {
     if (points_[i].next < 0 || points_[i].isRim) continue;
-    double const margin = std::max(leastMargin, 1.2 * points_[i].bend);
-    for (size_t k : {i, static_cast<size_t>(points_[i].next)})
+    size_t const next = points_[i].next;
+    Vertex const &a = points_[i].place.at, &b = points_[next].place.at;
+    double const length = distance(a.x, a.y, b.x, b.y);
+    for (size_t k : {i, next}) {
+      double const sine = std::abs(points_[k].inX * (b.y - a.y) - points_[k].inY * (b.x - a.x)) / length;
+      double const margin = std::max(leastMargin, 1.2 * points_[i].bend) / std::max(sine, leastSine);
       margins[k] = std::max(margins[k], std::min(margin, points_[k].room / 2));
+    }
   }
   std::vector<Run> rings;
   std::vector<char> isDone(points_.size());

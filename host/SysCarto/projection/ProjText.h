@@ -11,6 +11,8 @@ class ProjText {
 public:
   explicit ProjText(OGRSpatialReference const& system);
 
+  bool isEmpty() const { return text_.isEmpty(); }
+
   /// What stands behind a parameter's `=`; empty where there is none.
   QString value(char const* parameter) const;
   double number(char const* parameter, double otherwise) const;

@@ -145,6 +145,8 @@ private slots:
     // clang-format off
     row("plain coordinates", "", "");
     row("a code", "EPSG:8857", "");
+    row("a code and one of heights", "EPSG:25832+7837", "");
+    row("a URN", "urn:ogc:def:crs:EPSG::3035", "");
     row("a PROJ text", "+proj=utm +zone=33 +datum=WGS84", "");
     row("no grid at all", "+proj=merc +a=6378137 +b=6378137 +nadgrids=@null", "");
     row("WKT", R"(GEOGCS["WGS 84",DATUM["WGS_1984",SPHEROID["WGS 84",6378137,298.257223563]],PRIMEM["Greenwich",0],UNIT["degree",0.0174532925199433]])", "");

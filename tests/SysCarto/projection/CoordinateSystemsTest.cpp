@@ -170,6 +170,8 @@ void CoordinateSystemsTest::whatHasNoPlaceIsTold_data() {
   row("a projection that PROJ lacks", "[0,0]", "EPSG:2304", "", "PROJ knows no way to project into it");
   row("another celestial body", "[0,0]", "+proj=moll +R=1737400", "", "can't be projected");
   row("geocentric data", "[6378137,0]", "EPSG:8857", "urn:ogc:def:crs:EPSG::4978", "geocentric");
+  row("a way that PROJ lacks", "[0,0]", "EPSG:8857", "urn:ogc:def:crs:EPSG::3053", "no way back from their own");
+  row("heights alone", "[0,0]", "EPSG:8857", "urn:ogc:def:crs:EPSG::5703", "neither geographic nor projected");
 }
 void CoordinateSystemsTest::whatHasNoPlaceIsTold() {
   auto const [place, system, source, told] = fetched<QString, QString, QString, QString>();
