@@ -66,7 +66,8 @@ SAMPLE_PROJECTIONS = """adams_ws1 aea aeqd airy aitoff alsk bonne cass eck4 eqc 
     ortho peirce_q rhealpix robin sinu stere tmerc tpeqd tpers vandg wintri""".split()
 SAMPLE_WORLDS = ["EPSG:3857", "EPSG:3413", "EPSG:3031", "EPSG:28428", "EPSG:2580", "ESRI:54052", "EPSG:3993",
                  "+proj=laea +lat_0=52 +datum=WGS84 +type=crs"]
-SAMPLE_AREAS = {"EPSG:3035": (-16, 33, 39, 72), "EPSG:27200": (166, -48, 179, -34), "EPSG:29702": (42, -26, 51, -11),
+LABORDE = "+proj=omerc +lat_0=-18.9 +lonc=46.43722917 +alpha=18.9 +gamma=18.9 +k=0.9995 +ellps=intl +type=crs"
+SAMPLE_AREAS = {"EPSG:3035": (-16, 33, 39, 72), "EPSG:27200": (166, -48, 179, -34), LABORDE: (42, -26, 51, -11),
                 "EPSG:27700": (-9, 50, 2, 61), "EPSG:5070": (-125, 24, -66, 49), "EPSG:21250": (148, 43, 152, 77),
                 "EPSG:5514": (12, 47.7, 22.6, 51.1)}
 NOT_FLAT = {"latlong", "longlat", "latlon", "lonlat", "geocent", "topocentric", "geogoffset", "noop", "unitconvert", "pop",
