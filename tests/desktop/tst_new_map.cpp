@@ -365,6 +365,37 @@ private slots:
     double const fine = widthFor(0.02);  // which are 0.5 mm wide on the page
     QVERIFY2(fine > 0.1 && fine < 0.2, qPrintable(QString::number(fine)));
     QCOMPARE(widthFor(0.01), 0.0);
+    QCOMPARE(widthFor(0.001), 1.4);  // marks, since nothing else would be seen
+  }
+
+  void unusualDataBecomeMaps_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<QString>("told");
+    auto const row = [](char const* name, char const* content, char const* system, char const* told) {
+      QTest::newRow(name) << QString(name) << QString(content) << QString(system) << QString(told);
+    };
+    row("laenge.csv", "Länge;Breite;Ort\n8;47;a\n9;48;b\n", "EPSG:32632", "");
+    row("head.csv", "lon,lat,name\n", "EPSG:8857", "There are no features in");
+    row("mars.geojson",
+        R"({"type":"FeatureCollection","crs":{"type":"name","properties":{"name":"urn:ogc:def:crs:IAU_2015::49900"}},
+        "features":[{"type":"Feature","properties":{},"geometry":{"type":"Point","coordinates":[226,18]}}]})",
+        "IAU:49900", "");
+  }
+  void unusualDataBecomeMaps() {
+    QFETCH(QString, name);
+    QFETCH(QString, content);
+    QFETCH(QString, system);
+    QFETCH(QString, told);
+    SysCarto::MapDocument document;
+    NewMapRequest request;
+    request.data = {{put(path(name), content.toUtf8()), QString()}};
+    auto const made = makeNewMap(request, document);
+    QCOMPARE(made.problem, QString());
+    QCOMPARE(document.GetMap(0)->GetCoordinateSystem(), system);
+    QString const said = made.warnings.join(' ');
+    QVERIFY2(told.isEmpty() ? said.isEmpty() : said.contains(told), qPrintable(said));
   }
 
   void pointsAreSizedByTheirOwnNumbers() {
