@@ -1,6 +1,7 @@
 #include "Condition.h"
 
 #include "host/SysCarto/layers/ConditionSql.h"
+#include "host/SysCarto/layers/GeoPackageRows.h"
 #include "host/SysCarto/projection/GdalErrors.h"
 
 #include <cpl_string.h>
@@ -123,8 +124,11 @@ QStringList Condition::fields() const {
 }
 
 void Condition::narrow(OGRLayer& layer) const {
-  auto* const source = dynamic_cast<Narrowing*>(&layer);
-  if (!query_ || !source) return;
+  if (!query_) return;
+  std::optional<GeoPackageRows> rows;
+  auto* source = dynamic_cast<Narrowing*>(&layer);
+  if (!source && GeoPackageRows::areThoseOf(layer)) source = &rows.emplace(layer);
+  if (!source) return;
   QByteArray const sql = impliedSql(*static_cast<swq_expr_node*>(query_->GetSWQExpr()), *source);
   if (!sql.isEmpty()) source->narrow(sql);
 }
