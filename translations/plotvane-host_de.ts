@@ -83,11 +83,11 @@
     </message>
     <message>
         <source>There are no features in %1, so that the layer is empty.</source>
-        <translation>In %1 gibt es keine Objekte, so dass der Layer leer ist.</translation>
+        <translation>In %1 gibt es keine Objekte, so dass die Ebene leer ist.</translation>
     </message>
     <message>
         <source>None of the features of %1 has a geometry, so that the layer is empty.</source>
-        <translation>Keines der Objekte von %1 hat eine Geometrie, so dass der Layer leer ist.</translation>
+        <translation>Keines der Objekte von %1 hat eine Geometrie, so dass die Ebene leer ist.</translation>
     </message>
     <message>
         <source>Of %1, %2 of %3 features lie, at least in part, where there is no globe: beyond a pole or several times around. That is left out. Are longitude and latitude exchanged, or is the coordinate system another one? Give it in the source&apos;s field “coordinateSystem”.</source>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>None of the symbols of the layer draws what %1 has: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Give the layer another symbol.</source>
-        <translation>Keines der Symbole des Layers zeichnet, was %1 enthält: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Geben Sie dem Layer ein anderes Symbol.</translation>
+        <translation>Keines der Symbole der Ebene zeichnet, was %1 enthält: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Geben Sie der Ebene ein anderes Symbol.</translation>
     </message>
     <message>
         <source>Of %1, %2 of %3 features are lines from a place to itself, of which nothing shows.</source>
@@ -103,11 +103,11 @@
     </message>
     <message>
         <source>Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer of the same source.</source>
-        <translation type="vanished">Von %1 haben %2 von %3 Objekten Teile, die keines der Symbole des Layers zeichnet: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Zeigen Sie sie mit einem weiteren Layer derselben Quelle.</translation>
+        <translation type="vanished">Von %1 haben %2 von %3 Objekten Teile, die keines der Symbole der Ebene zeichnet: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Zeigen Sie sie mit einem weiteren Layer derselben Quelle.</translation>
     </message>
     <message>
         <source>Of %1, %2 of %3 features have parts that none of the symbols of the layer draws: fills and their outlines draw areas, lines draw lines and areas, markers draw points. Show them by another layer of the same source that has such a symbol.</source>
-        <translation>Von %1 haben %2 von %3 Objekten Teile, die keines der Symbole des Layers zeichnet: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Zeigen Sie sie mit einem weiteren Layer derselben Quelle, der ein solches Symbol hat.</translation>
+        <translation>Von %1 haben %2 von %3 Objekten Teile, die keines der Symbole der Ebene zeichnet: Füllungen und ihre Umrisse zeichnen Flächen, Linien zeichnen Linien und Flächen, Marker zeichnen Punkte. Zeigen Sie sie mit einer weiteren Ebene derselben Quelle, die ein solches Symbol hat.</translation>
     </message>
 </context>
 <context>
@@ -8219,11 +8219,11 @@
     </message>
     <message>
         <source>The layer “%1” of “%2” can&apos;t be shown: its coordinates are geocentric, as X, Y and Z; convert the data to longitude and latitude.</source>
-        <translation>Der Layer „%1“ von „%2“ kann nicht gezeigt werden: Seine Koordinaten sind geozentrisch, als X, Y und Z; rechnen Sie die Daten in Länge und Breite um.</translation>
+        <translation>Die Ebene „%1“ von „%2“ kann nicht gezeigt werden: Ihre Koordinaten sind geozentrisch, als X, Y und Z; rechnen Sie die Daten in Länge und Breite um.</translation>
     </message>
     <message>
         <source>No coordinate system is known for the data, so that the map has none, nor a scale. Give the layers one in their sources&apos; field “coordinateSystem”, and the map with --crs or in its tab Coordinate System.</source>
-        <translation>Für die Daten ist kein Koordinatensystem bekannt, so dass die Karte keines hat und auch keinen Maßstab. Geben Sie den Layern eines im Feld „coordinateSystem“ ihrer Quellen und der Karte mit --crs oder auf ihrer Karteikarte „Koordinatensystem“.</translation>
+        <translation>Für die Daten ist kein Koordinatensystem bekannt, so dass die Karte keines hat und auch keinen Maßstab. Geben Sie den Ebenen eines im Feld „coordinateSystem“ ihrer Quellen und der Karte mit --crs oder auf ihrer Karteikarte „Koordinatensystem“.</translation>
     </message>
     <message>
         <source>There is nothing to draw: the data have no geometries, and no columns of coordinates are known in %1. Call two columns of numbers lon and lat, or x and y.</source>
