@@ -87,6 +87,13 @@ QString placeless(OGRLayer& layer, SourceSettings const& source) {
       .arg(describeSource(source), fieldNames(layer));
 }
 
+bool hasFeatures(OGRLayer& layer) {
+  layer.ResetReading();
+  OGRFeatureUniquePtr const first(layer.GetNextFeature());
+  layer.ResetReading();
+  return first != nullptr;
+}
+
 std::unique_ptr<GeometryProjector> makeProjector(DataSource const& data, SourceSettings const& source,
                                                  QString const& mapSystem, ReadFeatures& result) {
   OGRLayer& layer = data.layer();
@@ -112,8 +119,8 @@ std::unique_ptr<GeometryProjector> makeProjector(DataSource const& data, SourceS
                        .arg(describeSource(source), errors.reason());
     return nullptr;
   }
-  QString const warning =
-      saysItself ? said.warning(describeSource(source), data.complaint(), !own && target) : QString();
+  bool const isSaid = saysItself && (own || hasFeatures(layer));  // without any there is nothing to be known
+  QString const warning = isSaid ? said.warning(describeSource(source), data.complaint(), !own && target) : QString();
   if (!warning.isEmpty()) result.warnings << warning;
   QString reason;
   auto projector = GeometryProjector::remembered(own, target.get(), reason);
