@@ -8,6 +8,7 @@
 
 #include <SysDisplay/Units.h>
 
+#include <QElapsedTimer>
 #include <QPainter>
 
 #include <algorithm>
@@ -23,12 +24,16 @@ namespace {
 constexpr double sameScale = 1e-6;  // a view that is panned computes its scale anew
 constexpr int maxFramePx = 1 << 28;
 constexpr double labelsPerInch = 300;  // the resolution that labels are placed for
+constexpr int leastRows = 8, rowsAtFirst = 32;
+constexpr qint64 longestMs = 12;  // for the rows that are drawn at once
 
 int pixels(double cm, double pixelsPerCm) {
   return static_cast<int>(std::clamp(std::round(cm * pixelsPerCm), 1.0, double(maxFramePx)));
 }
 
 }  // namespace
+
+MapTiles::MapTiles() : rowsAtOnce_(rowsAtFirst) {}
 
 bool MapTiles::Look::isSameAs(Look const& other) const {
   return map == other.map && std::abs(pixelsPerCm - other.pixelsPerCm) <= sameScale * pixelsPerCm &&
@@ -67,12 +72,14 @@ void MapTiles::follow(MapFrameElement const& frame, double pixelsPerCm) {
   if (!look_.hasSameLabels(look)) labels_ = nullptr;
   look_ = look;
   tiles_.clear();
+  part_.reset();
   labelsWait_ = false;
 }
 
 void MapTiles::takeNews() {
   labelsWait_ = false;
   for (auto& [number, tile] : tiles_) tile.isStale = tile.lacksFeatures;
+  if (part_ && part_->lacksFeatures) part_.reset();
 }
 
 bool MapTiles::waits() const {
@@ -142,14 +149,17 @@ QRect MapTiles::drawNext(MapFrameElement const& frame) {
   if (!canGoOn()) return {};
   follow(frame, look_.pixelsPerCm);
   auto number = next();
-  if (number && !labels_ && !tiles_[*number].isToBeDrawn()) {
+  if (number && !labels_ && !isToBeDrawn(*number)) {
     placeLabels(frame);
     if (!labels_) return {};
     number = next();
   }
   if (!number) return {};
   QRect const area = areaOf(*number) & QRect(QPoint(0, 0), look_.sizePx);
-  draw(tiles_[*number], area, frame);
+  if (!isToBeDrawn(*number))
+    label(tiles_[*number], area, frame);
+  else if (!drawMore(*number, area, frame))
+    return {};
   if (isComplete()) standIn_ = {};
   return area;
 }
@@ -191,18 +201,43 @@ bool MapTiles::drawnWithoutWaiting(MapFrameElement const& frame, std::function<v
   return !meanwhile.isIncomplete;
 }
 
-void MapTiles::draw(Tile& tile, QRect const& area, MapFrameElement const& frame) const {
-  auto const page = pageOf(frame, look_.pixelsPerCm, look_.sizePx);
-  if (tile.isToBeDrawn()) {
-    // A temporary would be converted in place, and keep a paint engine that takes red for blue (Qt 5.15).
-    QImage drawn;
-    bool const isWhole =
-        drawnWithoutWaiting(frame, [&] { drawn = SysCarto::drawMap(frame, *page, area, nullptr).image; });
-    tile = {drawn.convertToFormat(QImage::Format_ARGB32_Premultiplied), false, !isWhole};
-    return;
+bool MapTiles::isToBeDrawn(TileNumber number) const {
+  auto const tile = tiles_.find(number);
+  return tile == tiles_.end() || tile->second.isToBeDrawn();
+}
+
+// Draws some rows of a tile, and answers whether they were its last.
+bool MapTiles::drawMore(TileNumber number, QRect const& area, MapFrameElement const& frame) {
+  if (!part_ || part_->number != number) {
+    part_ = Part{number, QImage(area.size(), QImage::Format_ARGB32_Premultiplied)};
+    part_->image.fill(Qt::transparent);
   }
+  QRect const rows(area.left(), area.top() + part_->rows, area.width(),
+                   std::min(rowsAtOnce_, area.height() - part_->rows));
+  QElapsedTimer clock;
+  clock.start();
+  auto const page = pageOf(frame, look_.pixelsPerCm, look_.sizePx);
+  // A temporary would be converted in place, and keep a paint engine that takes red for blue (Qt 5.15).
+  QImage drawn;
+  bool const isWhole =
+      drawnWithoutWaiting(frame, [&] { drawn = SysCarto::drawMap(frame, *page, rows, nullptr).image; });
+  QPainter painter(&part_->image);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  painter.drawImage(0, part_->rows, drawn.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+  painter.end();
+  part_->rows += rows.height();
+  part_->lacksFeatures = part_->lacksFeatures || !isWhole;
+  qint64 const fitting = rows.height() * longestMs / std::max<qint64>(clock.elapsed(), 1);
+  rowsAtOnce_ = static_cast<int>(std::clamp<qint64>(fitting, leastRows, std::min(2 * rowsAtOnce_, tilePx)));
+  if (part_->rows < area.height()) return false;
+  tiles_[number] = {part_->image, false, part_->lacksFeatures};
+  part_.reset();
+  return true;
+}
+
+void MapTiles::label(Tile& tile, QRect const& area, MapFrameElement const& frame) const {
   SysCarto::MapPicture picture{std::exchange(tile.image, QImage()), area.topLeft()};
-  SysCarto::drawOverMap(picture, *labels_, frame, *page);
+  SysCarto::drawOverMap(picture, *labels_, frame, *pageOf(frame, look_.pixelsPerCm, look_.sizePx));
   tile = {picture.image, true};
 }
 

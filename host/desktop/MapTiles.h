@@ -21,6 +21,8 @@ class MapTiles {
 public:
   static constexpr int tilePx = 128;
 
+  MapTiles();
+
   /// Takes the frame's size and map as they are now. Where a picture of them is another one, the tiles are dropped, and
   /// what they showed stands in, scaled, until new ones are drawn.
   void follow(SysCarto::MapFrameElement const& frame, double pixelsPerCm);
@@ -32,7 +34,8 @@ public:
   void setShown(QRect const& shownPx);
 
   /// Draws or labels one tile that is shown and not complete, and answers its pixels; a null rectangle where there is
-  /// none, or where it took a moment of placing labels instead. A map that has changed meanwhile is followed first.
+  /// none, or where it took a moment of placing labels or of drawing a part of one instead. A map that has changed
+  /// meanwhile is followed first.
   QRect drawNext(SysCarto::MapFrameElement const& frame);
   bool isComplete() const { return !next() && !waits(); }
 
@@ -75,6 +78,14 @@ private:
     bool isToBeDrawn() const { return image.isNull() || isStale; }
   };
 
+  // The upper part of a tile, not shown before the rest is there.
+  struct Part {
+    TileNumber number;
+    QImage image;
+    int rows = 0;
+    bool lacksFeatures = false;
+  };
+
   // What was shown before, placed in centimetres of the frame. What is not whole stands in for nothing that is drawn.
   struct StandIn {
     QImage image;
@@ -93,7 +104,9 @@ private:
   bool waits() const;
   std::optional<TileNumber> firstShown(bool (*isWanted)(Tile const&)) const;
   void placeLabels(SysCarto::MapFrameElement const& frame);
-  void draw(Tile& tile, QRect const& area, SysCarto::MapFrameElement const& frame) const;
+  bool isToBeDrawn(TileNumber number) const;
+  bool drawMore(TileNumber number, QRect const& area, SysCarto::MapFrameElement const& frame);
+  void label(Tile& tile, QRect const& area, SysCarto::MapFrameElement const& frame) const;
   bool drawnWithoutWaiting(SysCarto::MapFrameElement const& frame, std::function<void()> const& draw) const;
   void keepStandIn();
   void paintStandIn(QPainter& painter, QPoint const& corner, QRegion const& area) const;
@@ -101,6 +114,8 @@ private:
   Look look_;
   QRect shownPx_;
   std::map<TileNumber, Tile> tiles_;
+  std::optional<Part> part_;
+  int rowsAtOnce_;                                      // as many as can be drawn without keeping a person waiting
   std::shared_ptr<SysCarto::ElementContainer> labels_;  // null until they are placed
   bool labelsWait_ = false;                             // for features of layers
   StandIn standIn_;
