@@ -33,8 +33,6 @@ int pixels(double cm, double pixelsPerCm) {
 
 }  // namespace
 
-MapTiles::MapTiles() : rowsAtOnce_(rowsAtFirst) {}
-
 bool MapTiles::Look::isSameAs(Look const& other) const {
   return map == other.map && std::abs(pixelsPerCm - other.pixelsPerCm) <= sameScale * pixelsPerCm &&
          sizePx == other.sizePx && SysCarto::haveSameCorners(extent, other.extent) && rotation == other.rotation &&
@@ -73,6 +71,7 @@ void MapTiles::follow(MapFrameElement const& frame, double pixelsPerCm) {
   look_ = look;
   tiles_.clear();
   part_.reset();
+  rowsAtOnce_ = rowsAtFirst;
   labelsWait_ = false;
 }
 
@@ -80,6 +79,7 @@ void MapTiles::takeNews() {
   labelsWait_ = false;
   for (auto& [number, tile] : tiles_) tile.isStale = tile.lacksFeatures;
   if (part_ && part_->lacksFeatures) part_.reset();
+  rowsAtOnce_ = std::min(rowsAtOnce_, rowsAtFirst);  // which may hold many more
 }
 
 bool MapTiles::waits() const {

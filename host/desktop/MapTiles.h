@@ -21,8 +21,6 @@ class MapTiles {
 public:
   static constexpr int tilePx = 128;
 
-  MapTiles();
-
   /// Takes the frame's size and map as they are now. Where a picture of them is another one, the tiles are dropped, and
   /// what they showed stands in, scaled, until new ones are drawn.
   void follow(SysCarto::MapFrameElement const& frame, double pixelsPerCm);
