@@ -25,7 +25,7 @@ constexpr double sameScale = 1e-6;  // a view that is panned computes its scale 
 constexpr int maxFramePx = 1 << 28;
 constexpr double labelsPerInch = 300;  // the resolution that labels are placed for
 constexpr int leastRows = 8, rowsAtFirst = 32;
-constexpr qint64 longestMs = 12;  // for the rows that are drawn at once
+constexpr double longestMs = 12;  // for the rows that are drawn at once
 
 int pixels(double cm, double pixelsPerCm) {
   return static_cast<int>(std::clamp(std::round(cm * pixelsPerCm), 1.0, double(maxFramePx)));
@@ -72,6 +72,7 @@ void MapTiles::follow(MapFrameElement const& frame, double pixelsPerCm) {
   tiles_.clear();
   part_.reset();
   rowsAtOnce_ = rowsAtFirst;
+  slowestMs_ = 0;
   labelsWait_ = false;
 }
 
@@ -79,7 +80,6 @@ void MapTiles::takeNews() {
   labelsWait_ = false;
   for (auto& [number, tile] : tiles_) tile.isStale = tile.lacksFeatures;
   if (part_ && part_->lacksFeatures) part_.reset();
-  rowsAtOnce_ = std::min(rowsAtOnce_, rowsAtFirst);  // which may hold many more
 }
 
 bool MapTiles::waits() const {
@@ -227,8 +227,9 @@ bool MapTiles::drawMore(TileNumber number, QRect const& area, MapFrameElement co
   painter.end();
   part_->rows += rows.height();
   part_->lacksFeatures = part_->lacksFeatures || !isWhole;
-  qint64 const fitting = rows.height() * longestMs / std::max<qint64>(clock.elapsed(), 1);
-  rowsAtOnce_ = static_cast<int>(std::clamp<qint64>(fitting, leastRows, std::min(2 * rowsAtOnce_, tilePx)));
+  slowestMs_ = std::max(slowestMs_, double(clock.nsecsElapsed()) / 1e6 / rows.height());
+  int const most = std::min(2 * rowsAtOnce_, tilePx);
+  rowsAtOnce_ = static_cast<int>(std::clamp(longestMs / slowestMs_, double(leastRows), double(most)));
   if (part_->rows < area.height()) return false;
   tiles_[number] = {part_->image, false, part_->lacksFeatures};
   part_.reset();

@@ -113,7 +113,8 @@ private:
   QRect shownPx_;
   std::map<TileNumber, Tile> tiles_;
   std::optional<Part> part_;
-  int rowsAtOnce_ = 0;                                  // as many as can be drawn without keeping a person waiting
+  int rowsAtOnce_ = 0;
+  double slowestMs_ = 0;                                // of a row of this picture, while some at once were drawn
   std::shared_ptr<SysCarto::ElementContainer> labels_;  // null until they are placed
   bool labelsWait_ = false;                             // for features of layers
   StandIn standIn_;
