@@ -4,8 +4,8 @@
 
 namespace SysCarto {
 
-/// The rows of a table or view of a GeoPackage. A column may hold values of any kind; they are compared as what OGR makes
-/// of them.
+/// The rows of a table or view of a GeoPackage. A column may hold values of any kind; they are compared as what OGR
+/// makes of them.
 class GeoPackageRows final : public Narrowing {
 public:
   /// Borrows the layer, which is one of a GeoPackage.

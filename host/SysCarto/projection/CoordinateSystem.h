@@ -13,8 +13,8 @@ namespace SysCarto {
 /// A sentence that says what is wrong with the definition of a map's coordinate system; empty where it can be used.
 ///
 /// Right are an authority's code ("EPSG:8857", or its URN), WKT, a PROJ text, and an empty text for plain coordinates.
-/// The system must be geographic or projected; heights that it has besides are left out. Nothing that would make PROJ or GDAL open a file or an address is let through:
-/// documents come from strangers.
+/// The system must be geographic or projected; heights that it has besides are left out. Nothing that would make PROJ
+/// or GDAL open a file or an address is let through: documents come from strangers.
 SYSCARTO_EXPORT QString checkCoordinateSystem(QString const& definition);
 
 /// Whether a system that data have names a grid or a file by a path of its own, which PROJ would open wherever it
