@@ -24,8 +24,9 @@ namespace {
 constexpr double sameScale = 1e-6;  // a view that is panned computes its scale anew
 constexpr int maxFramePx = 1 << 28;
 constexpr double labelsPerInch = 300;  // the resolution that labels are placed for
-constexpr int leastRows = 8, rowsAtFirst = 32;
-constexpr double longestMs = 12;  // for the rows that are drawn at once
+constexpr int leastRows = 32;          // at once: what is drawn of markers across the edge is drawn twice
+constexpr double longestMs = 12;       // for the rows that are drawn at once
+constexpr double forgetting = 0.95;    // of what was slow, with each part that is quicker
 
 int pixels(double cm, double pixelsPerCm) {
   return static_cast<int>(std::clamp(std::round(cm * pixelsPerCm), 1.0, double(maxFramePx)));
@@ -69,9 +70,10 @@ void MapTiles::follow(MapFrameElement const& frame, double pixelsPerCm) {
   }
   if (!look_.hasSameLabels(look)) labels_ = nullptr;
   look_ = look;
+  shownPx_ &= QRect(QPoint(0, 0), look_.sizePx);
   tiles_.clear();
   part_.reset();
-  rowsAtOnce_ = rowsAtFirst;
+  rowsAtOnce_ = leastRows;
   slowestMs_ = 0;
   labelsWait_ = false;
 }
@@ -79,7 +81,7 @@ void MapTiles::follow(MapFrameElement const& frame, double pixelsPerCm) {
 void MapTiles::takeNews() {
   labelsWait_ = false;
   for (auto& [number, tile] : tiles_) tile.isStale = tile.lacksFeatures;
-  if (part_ && part_->lacksFeatures) part_.reset();
+  if (part_) part_->isStale = part_->lacksFeatures;
 }
 
 bool MapTiles::waits() const {
@@ -212,8 +214,8 @@ bool MapTiles::drawMore(TileNumber number, QRect const& area, MapFrameElement co
     part_ = Part{number, QImage(area.size(), QImage::Format_ARGB32_Premultiplied)};
     part_->image.fill(Qt::transparent);
   }
-  QRect const rows(area.left(), area.top() + part_->rows, area.width(),
-                   std::min(rowsAtOnce_, area.height() - part_->rows));
+  int const left = area.height() - part_->rows, parts = (left + rowsAtOnce_ - 1) / rowsAtOnce_;
+  QRect const rows(area.left(), area.top() + part_->rows, area.width(), (left + parts - 1) / parts);
   QElapsedTimer clock;
   clock.start();
   auto const page = pageOf(frame, look_.pixelsPerCm, look_.sizePx);
@@ -227,11 +229,12 @@ bool MapTiles::drawMore(TileNumber number, QRect const& area, MapFrameElement co
   painter.end();
   part_->rows += rows.height();
   part_->lacksFeatures = part_->lacksFeatures || !isWhole;
-  slowestMs_ = std::max(slowestMs_, double(clock.nsecsElapsed()) / 1e6 / rows.height());
+  double const ms = double(clock.nsecsElapsed()) / 1e6 / std::max(rows.height(), leastRows);
+  slowestMs_ = std::max(slowestMs_ * forgetting, ms);
   int const most = std::min(2 * rowsAtOnce_, tilePx);
   rowsAtOnce_ = static_cast<int>(std::clamp(longestMs / slowestMs_, double(leastRows), double(most)));
   if (part_->rows < area.height()) return false;
-  tiles_[number] = {part_->image, false, part_->lacksFeatures};
+  tiles_[number] = {part_->image, false, part_->lacksFeatures, part_->isStale};
   part_.reset();
   return true;
 }

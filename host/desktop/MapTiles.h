@@ -82,6 +82,7 @@ private:
     QImage image;
     int rows = 0;
     bool lacksFeatures = false;
+    bool isStale = false;
   };
 
   // What was shown before, placed in centimetres of the frame. What is not whole stands in for nothing that is drawn.

@@ -50,7 +50,7 @@ std::unique_ptr<ClassCounts> ClassCounts::open(SourceSettings const& source, Ren
   counts->total_ = knownCount(counts->data_->layer());
   QStringList needed = counts->own_->fields() + QStringList(renderer.field);
   for (Condition const& rule : counts->rules_) needed += rule.fields();
-  counts->own_->narrow(counts->data_->layer());
+  counts->own_->narrow(counts->data_->layer(), Condition::Narrowed::Servers);
   readOnly(counts->data_->layer(), needed);
   counts->data_->layer().ResetReading();
   return counts;

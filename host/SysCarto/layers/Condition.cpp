@@ -123,11 +123,11 @@ QStringList Condition::fields() const {
   return names;
 }
 
-void Condition::narrow(OGRLayer& layer) const {
+void Condition::narrow(OGRLayer& layer, Narrowed which) const {
   if (!query_) return;
   std::optional<GeoPackageRows> rows;
   auto* source = dynamic_cast<Narrowing*>(&layer);
-  if (!source && GeoPackageRows::areThoseOf(layer)) source = &rows.emplace(layer);
+  if (!source && which == Narrowed::All && GeoPackageRows::areThoseOf(layer)) source = &rows.emplace(layer);
   if (!source) return;
   QByteArray const sql = impliedSql(*static_cast<swq_expr_node*>(query_->GetSWQExpr()), *source);
   if (!sql.isEmpty()) source->narrow(sql);

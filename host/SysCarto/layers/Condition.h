@@ -30,7 +30,10 @@ public:
   bool admits(OGRFeature& feature) const;
 
   /// Has the layer that it was compiled for leave out features that it does not admit, where it can; not all of them.
-  void narrow(OGRLayer& layer) const;
+  /// One of a GeoPackage then looks for the next that is left however long that takes, which is nothing for who looks
+  /// at the time between two features.
+  enum class Narrowed { Servers, All };
+  void narrow(OGRLayer& layer, Narrowed which) const;
 
   /// The names of the fields that it asks for; of the geometry, names that begin with OGR_.
   QStringList fields() const;

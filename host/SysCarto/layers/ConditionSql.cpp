@@ -49,23 +49,34 @@ QByteArray folded(QByteArray text) {
   return text;
 }
 
+QByteArray textOf(swq_expr_node const& constant, Narrowing const& source) {
+  bool const isText = constant.field_type == SWQ_STRING && constant.string_value && !mayBeTime(constant.string_value);
+  return isText ? source.quoted(folded(constant.string_value)) : QByteArray();
+}
+
 QByteArray equal(SqlColumn const& column, swq_expr_node const& constant, Narrowing const& source) {
   if (column.kind != Kind::Text) return between(column, constant, constant);
-  bool const isText = constant.field_type == SWQ_STRING && constant.string_value && !mayBeTime(constant.string_value);
-  QByteArray const quoted = isText ? source.quoted(folded(constant.string_value)) : QByteArray();
+  QByteArray const quoted = textOf(constant, source);
   return quoted.isEmpty() ? quoted : column.sql + " = " + quoted;
 }
 
 QByteArray joined(QByteArray const& a, char const* word, QByteArray const& b) { return '(' + a + word + b + ')'; }
 
+// The constant as one of a list; empty where it is none that can be compared exactly.
+QByteArray member(SqlColumn const& column, swq_expr_node const& constant, Narrowing const& source) {
+  if (column.kind == Kind::Text) return textOf(constant, source);
+  return column.kind == Kind::Integer && isWhole(constant) ? bound(column, constant, 0) : QByteArray();
+}
+
+// As a list, since a database can't go through as many alternatives as that may have.
 QByteArray isAnyOf(swq_expr_node const& node, SqlColumn const& column, Narrowing const& source) {
   QByteArray any;
   for (int i = 1; i < node.nSubExprCount && i <= maxMembers; ++i) {
-    QByteArray const one = equal(column, *node.papoSubExpr[i], source);
+    QByteArray const one = member(column, *node.papoSubExpr[i], source);
     if (one.isEmpty()) return one;
-    any += any.isEmpty() ? one : " OR " + one;
+    any += any.isEmpty() ? one : ", " + one;
   }
-  return node.nSubExprCount > maxMembers + 1 ? QByteArray() : '(' + any + ')';
+  return node.nSubExprCount > maxMembers + 1 ? QByteArray() : column.sql + " IN (" + any + ')';
 }
 
 QByteArray bounded(int operation, SqlColumn const& column, swq_expr_node const& constant) {

@@ -87,6 +87,7 @@ QString placeless(OGRLayer& layer, SourceSettings const& source) {
       .arg(describeSource(source), fieldNames(layer));
 }
 
+// Of a table without rows no coordinate system is missed.
 bool hasFeatures(OGRLayer& layer) {
   layer.ResetReading();
   OGRFeatureUniquePtr const first(layer.GetNextFeature());
@@ -119,8 +120,8 @@ std::unique_ptr<GeometryProjector> makeProjector(DataSource const& data, SourceS
                        .arg(describeSource(source), errors.reason());
     return nullptr;
   }
-  bool const isSaid = saysItself && (own || hasFeatures(layer));  // without any there is nothing to be known
-  QString const warning = isSaid ? said.warning(describeSource(source), data.complaint(), !own && target) : QString();
+  bool const isMissed = !own && target && (!source.connection.isEmpty() || hasFeatures(layer));
+  QString const warning = saysItself ? said.warning(describeSource(source), data.complaint(), isMissed) : QString();
   if (!warning.isEmpty()) result.warnings << warning;
   QString reason;
   auto projector = GeometryProjector::remembered(own, target.get(), reason);
@@ -347,7 +348,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
   QStringList unseen;
   QString unplaced;
   if (result.hasWindows && isReadNow) {
-    condition.narrow(layer);
+    condition.narrow(layer, Condition::Narrowed::All);
     if (followsLargest(renderer))
       store.knowLargest(largestNumbers(layer, condition, renderer, evaluator, isOfServer ? nullptr : &bounds, watch));
     result.wasStopped = watch.wasStopped();
@@ -357,7 +358,7 @@ void readAll(OGRLayer& layer, GeometryProjector const& projector, Condition cons
     if (query) readInAnyOrder(layer);  // those of a window are sorted when they are drawn
     Selection selection(layer, query, projector);
     if (!selection.isAll()) watch.countNone();
-    condition.narrow(layer);
+    condition.narrow(layer, Condition::Narrowed::All);
     bool const isBounded = !isOfServer || !result.pack;
     while (OGRFeatureUniquePtr feature = selection.next()) {
       if (isBounded && !bounds.admits(*feature)) break;

@@ -137,7 +137,8 @@ std::unique_ptr<FeatureScan> FeatureScan::open(SourceSettings const& source, Wan
   QStringList needed = scan->own_->fields() + scan->more_->fields();
   for (size_t i = 0; i < scan->table_->fields().size(); ++i)
     if (wanted.hasRows || wanted.field == static_cast<int>(i)) needed << scan->table_->fields()[i].name;
-  for (Condition const* const condition : {scan->own_.get(), scan->more_.get()}) condition->narrow(layer);
+  for (Condition const* const condition : {scan->own_.get(), scan->more_.get()})
+    condition->narrow(layer, Condition::Narrowed::Servers);
   readOnly(layer, needed);
   layer.ResetReading();
   return scan;

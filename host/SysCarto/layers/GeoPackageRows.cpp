@@ -10,12 +10,14 @@ namespace {
 constexpr struct {
   OGRFieldType read;
   SqlColumn::Kind kind;
-  char const* as;
+  char const *before, *behind;
 } comparedAs[] = {
-    {OFTInteger, SqlColumn::Kind::Integer, " AS INTEGER)"},
-    {OFTInteger64, SqlColumn::Kind::Integer, " AS INTEGER)"},
-    {OFTReal, SqlColumn::Kind::Real, " AS REAL)"},
-    {OFTString, SqlColumn::Kind::Text, " AS TEXT) COLLATE NOCASE"},  // which is that of the letters A to Z
+    // Of 32 bits the lower ones are read, the highest as the sign.
+    {OFTInteger, SqlColumn::Kind::Integer, "((((CAST(",
+     " AS INTEGER) & 4294967295) + 2147483648) & 4294967295) - 2147483648)"},
+    {OFTInteger64, SqlColumn::Kind::Integer, "CAST(", " AS INTEGER)"},
+    {OFTReal, SqlColumn::Kind::Real, "CAST(", " AS REAL)"},
+    {OFTString, SqlColumn::Kind::Text, "CAST(", " AS TEXT) COLLATE NOCASE"},  // which is that of the letters A to Z
 };
 
 QByteArray inQuotes(QByteArray text, char quote) {
@@ -35,7 +37,7 @@ SqlColumn GeoPackageRows::column(int field) const {
   OGRFieldDefn& own = *definition.GetFieldDefn(field);
   for (auto const& one : comparedAs)
     if (one.read == own.GetType() && own.GetSubType() != OFSTBoolean)
-      return {one.kind, "CAST(" + inQuotes(own.GetNameRef(), '"') + one.as};
+      return {one.kind, one.before + inQuotes(own.GetNameRef(), '"') + one.behind};
   return SqlColumn();
 }
 

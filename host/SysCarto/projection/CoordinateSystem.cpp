@@ -34,8 +34,8 @@ bool matches(QString const& text, char const* pattern) {
 // dictionaries) stay out.
 bool isKnownNotation(QString const& text) {
   return matches(text, R"(^(EPSG|ESRI|IGNF|OGC|IAU(_20[0-9]{2})?):[A-Z0-9._]+(\+[0-9]+)?$)") ||
-         matches(text, R"(^urn:ogc:def:crs:[A-Z]+:[0-9.]*:[A-Z0-9]+$)") || matches(text, R"(^[A-Z_]*(CS|CRS)\s*\[)") ||
-         matches(text, R"(^\+?proj\s*=)");
+         matches(text, R"(^urn:ogc:def:crs:[A-Z0-9_]+:[0-9.]*:[A-Z0-9]+$)") ||
+         matches(text, R"(^[A-Z_]*(CS|CRS)\s*\[)") || matches(text, R"(^\+?proj\s*=)");
 }
 
 // Grids and parameter files are opened by their name wherever it points. A name of "@null" means that there is none.

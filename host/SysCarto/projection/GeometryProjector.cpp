@@ -105,7 +105,7 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
     error = Texts::tr("they are geocentric, as X, Y and Z; convert the data to longitude and latitude");
     return nullptr;
   }
-  if (!source->IsGeographic() && !source->IsProjected()) {
+  if (!source->IsGeographic() && !source->IsProjected() && (source->IsVertical() || source->IsLocal())) {
     error = Texts::tr(
                 "their own, “%1”, is neither geographic nor projected; give the source the one that they have in truth")
                 .arg(QString::fromUtf8(source->GetName()));

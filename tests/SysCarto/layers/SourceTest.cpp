@@ -221,7 +221,7 @@ private slots:
     std::unique_ptr<GDALDataset> const data(
         driver->Create(folder.filePath("a.gpkg").toUtf8(), 0, 0, 0, GDT_Unknown, nullptr));
     OGRLayer& layer = *data->CreateLayer("a", nullptr, wkbPoint);
-    for (auto const& [name, type] : {std::pair{"id", OFTInteger64}, {"size", OFTReal}, {"a \"b\" 'c'", OFTString}}) {
+    for (auto const& [name, type] : {std::pair{"id", OFTInteger}, {"size", OFTReal}, {"a \"b\" 'c'", OFTString}}) {
       OGRFieldDefn field(name, type);
       layer.CreateField(&field);
     }
@@ -231,12 +231,14 @@ private slots:
       data->ReleaseResultSet(data->ExecuteSQL(
           (QByteArray("INSERT INTO a VALUES (NULL, NULL, ") + row + ")").constData(), nullptr, nullptr));
     int read = 0;
+    QByteArray many = "id IN (2";  // more than a database takes for alternatives
+    for (int i = 3; i < 1000; ++i) many += ',' + QByteArray::number(i);
     QByteArray const text = "\"a \\\"b\\\" 'c'\"";
     for (QByteArray const& filter :
          {QByteArray("id = 2"), QByteArray("id <= 0"), QByteArray("id >= 4"), QByteArray("id IN (1, 9007199254740992)"),
           QByteArray("size > 1"), QByteArray("size = 1000"), QByteArray("size BETWEEN 0 AND 2"),
           QByteArray("2 >= size"), text + " = 'uLM'", text + " IN ('', 'o''neill', '7')", QByteArray("id IS NULL"),
-          QByteArray("NOT (id IS NULL) AND size < 5"), QByteArray("fid = 3 OR size = 1")}) {
+          QByteArray("NOT (id IS NULL) AND size < 5"), many + ")", QByteArray("fid = 3 OR size = 1")}) {
       layer.SetAttributeFilter(nullptr);
       Condition condition;
       QString reason;
@@ -250,7 +252,7 @@ private slots:
       };
       auto const wanted = admitted();
       read = 0;
-      condition.narrow(layer);
+      condition.narrow(layer, Condition::Narrowed::All);
       QCOMPARE(admitted(), wanted);
       QVERIFY2(read < 9 || filter.startsWith("fid"), filter.constData());
     }
