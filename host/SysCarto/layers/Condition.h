@@ -29,10 +29,11 @@ public:
 
   bool admits(OGRFeature& feature) const;
 
-  /// Has the layer that it was compiled for leave out features that it does not admit, where it can; not all of them.
-  /// One of a GeoPackage then looks for the next that is left however long that takes, which is nothing for who looks
-  /// at the time between two features.
+  /// A layer of a GeoPackage that leaves out features looks for the next however long that takes: that is nothing for
+  /// who looks at the time between two of them.
   enum class Narrowed { Servers, All };
+
+  /// Has the layer that it was compiled for leave out features that it does not admit, where it can; not all of them.
   void narrow(OGRLayer& layer, Narrowed which) const;
 
   /// The names of the fields that it asks for; of the geometry, names that begin with OGR_.

@@ -14,7 +14,7 @@ using Kind = SqlColumn::Kind;
 
 // A field that is read may be rounded, at worst to a number of four bytes.
 constexpr double relativeSlack = 1e-6, absoluteSlack = 1e-30, largest = 1e300;
-constexpr int maxMembers = 1000;
+constexpr int maxMembers = 1000, maxAlternatives = 100;
 
 bool isConstant(swq_expr_node const& node) { return node.eNodeType == SNT_CONSTANT && !node.is_null; }
 
@@ -62,21 +62,21 @@ QByteArray equal(SqlColumn const& column, swq_expr_node const& constant, Narrowi
 
 QByteArray joined(QByteArray const& a, char const* word, QByteArray const& b) { return '(' + a + word + b + ')'; }
 
-// The constant as one of a list; empty where it is none that can be compared exactly.
-QByteArray member(SqlColumn const& column, swq_expr_node const& constant, Narrowing const& source) {
-  if (column.kind == Kind::Text) return textOf(constant, source);
-  return column.kind == Kind::Integer && isWhole(constant) ? bound(column, constant, 0) : QByteArray();
-}
-
-// As a list, since a database can't go through as many alternatives as that may have.
+// As a list where all can be compared exactly, since a database can't go through as many alternatives.
 QByteArray isAnyOf(swq_expr_node const& node, SqlColumn const& column, Narrowing const& source) {
+  auto const *const first = node.papoSubExpr + 1, *const end = node.papoSubExpr + node.nSubExprCount;
+  bool const areWhole = std::all_of(first, end, [](auto const* member) { return isWhole(*member); });
+  bool const isList = column.kind == Kind::Text || (column.kind == Kind::Integer && areWhole);
+  if (end - first > (isList ? maxMembers : maxAlternatives)) return QByteArray();
   QByteArray any;
-  for (int i = 1; i < node.nSubExprCount && i <= maxMembers; ++i) {
-    QByteArray const one = member(column, *node.papoSubExpr[i], source);
+  for (auto const* member = first; member != end; ++member) {
+    QByteArray const one = !isList                     ? equal(column, **member, source)
+                           : column.kind == Kind::Text ? textOf(**member, source)
+                                                       : bound(column, **member, 0);
     if (one.isEmpty()) return one;
-    any += any.isEmpty() ? one : ", " + one;
+    any += any.isEmpty() ? one : (isList ? ", " : " OR ") + one;
   }
-  return node.nSubExprCount > maxMembers + 1 ? QByteArray() : column.sql + " IN (" + any + ')';
+  return isList ? column.sql + " IN (" + any + ')' : '(' + any + ')';
 }
 
 QByteArray bounded(int operation, SqlColumn const& column, swq_expr_node const& constant) {

@@ -238,7 +238,8 @@ private slots:
          {QByteArray("id = 2"), QByteArray("id <= 0"), QByteArray("id >= 4"), QByteArray("id IN (1, 9007199254740992)"),
           QByteArray("size > 1"), QByteArray("size = 1000"), QByteArray("size BETWEEN 0 AND 2"),
           QByteArray("2 >= size"), text + " = 'uLM'", text + " IN ('', 'o''neill', '7')", QByteArray("id IS NULL"),
-          QByteArray("NOT (id IS NULL) AND size < 5"), many + ")", QByteArray("fid = 3 OR size = 1")}) {
+          QByteArray("NOT (id IS NULL) AND size < 5"), many + ")", QByteArray("size IN (0.5, 1000)"),
+          QByteArray("fid = 3 OR size = 1")}) {
       layer.SetAttributeFilter(nullptr);
       Condition condition;
       QString reason;
