@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QSet>
 
 namespace {
 
@@ -14,12 +15,24 @@ QString lockPath(QString const& document) {
   return file.absolutePath() + QStringLiteral("/.") + file.fileName() + QStringLiteral(".lock");
 }
 
+QSet<DocumentLock*>& locks() {
+  static QSet<DocumentLock*> all;
+  return all;
+}
+
 }  // namespace
 
 // A lock is never too old: people work for days.
 DocumentLock::DocumentLock(QString const& document)
     : document_(QDir::toNativeSeparators(document)), path_(lockPath(document)), lock_(path_) {
   lock_.setStaleLockTime(0);
+  locks() << this;
+}
+
+DocumentLock::~DocumentLock() { locks().remove(this); }
+
+void DocumentLock::releaseAll() {
+  for (DocumentLock* const lock : qAsConst(locks())) lock->lock_.unlock();
 }
 
 bool DocumentLock::take() {

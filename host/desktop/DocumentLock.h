@@ -13,6 +13,7 @@ public:
   explicit DocumentLock(QString const& document);
   DocumentLock(DocumentLock const&) = delete;
   DocumentLock& operator=(DocumentLock const&) = delete;
+  ~DocumentLock();
 
   /// Whether nobody else holds it. Where no lock can be made, as in a folder that can't be written, nobody does.
   bool take();
@@ -25,6 +26,9 @@ public:
 
   /// A sentence that says who holds it, where and since when, and what to do where nobody does any more.
   QString holder() const;
+
+  /// Gives back all that this process has: it is about to end.
+  static void releaseAll();
 
 private:
   QString const document_;  // as it was named, for sentences

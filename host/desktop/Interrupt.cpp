@@ -1,13 +1,11 @@
 #include "Interrupt.h"
 
 #include "Console.h"
+#include "EndSignals.h"
 
 #include <atomic>
-#include <csignal>
 
 namespace {
-
-constexpr int endSignals[] = {SIGINT, SIGTERM, SIGHUP, SIGALRM};
 
 std::atomic<SysUI::TrackerCancel*> current{nullptr};
 static_assert(std::atomic<SysUI::TrackerCancel*>::is_always_lock_free, "used in a signal handler");
@@ -22,21 +20,12 @@ void ask(int signal) {
 
 Interrupt::Interrupt() : cancel_(SysUtility::make<SysUI::TrackerCancel>()) {
   current = cancel_.get();
-  struct sigaction action = {};
-  action.sa_handler = ask;
-  action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
-  for (int const signal : endSignals) {
-    struct sigaction old = {};
-    sigaction(signal, nullptr, &old);
-    if (old.sa_handler != SIG_IGN) sigaction(signal, &action, nullptr);
-  }
+  EndSignals::take(SIGALRM, ask);
+  for (int const signal : EndSignals::all) EndSignals::take(signal, ask);
 }
 
 Interrupt::~Interrupt() {
-  for (int const signal : endSignals) {
-    struct sigaction old = {};
-    sigaction(signal, nullptr, &old);
-    if (old.sa_handler == ask) std::signal(signal, SIG_DFL);
-  }
+  EndSignals::giveBack(SIGALRM, ask);
+  for (int const signal : EndSignals::all) EndSignals::giveBack(signal, ask);
   current = nullptr;
 }

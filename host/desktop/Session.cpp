@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include "Console.h"
+#include "Farewell.h"
 #include "connections/KeptConnections.h"
 
 #include "host/SysDisplay/DrawingBudget.h"
@@ -58,6 +59,8 @@ void passOn(QtMsgType type, QMessageLogContext const&, QString const& text) {
     if (text.startsWith(QLatin1String(known))) return;
   if (isGivenUp(text) && SysDisplay::DrawingBudget::giveUp()) return;
   if (type == QtFatalMsg && text.contains(QLatin1String("no Qt platform plugin"))) endWithoutDisplay();
+  if (text.contains(QLatin1String("connection broke")))
+    Farewell::leave();  // that to the display, as X11 and Wayland say
   Console::complain(text);
 }
 

@@ -1,5 +1,7 @@
 #include "Confinement.h"
 #include "Console.h"
+#include "EndSignals.h"
+#include "Farewell.h"
 #include "IndexCache.h"
 #include "Language.h"
 #include "Leftover.h"
@@ -15,10 +17,12 @@
 #include <QFile>
 #include <QThread>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <iterator>
 #include <memory>
 #include <new>
 #include <utility>
@@ -106,11 +110,14 @@ int runWindow(int argc, char** argv, std::optional<QString> const& language) {
                '\n')
                   .toLocal8Bit();
   std::set_terminate(endWithoutMemory);
+  Farewell const farewell;
   return finished(runWindow(ownArguments().value(0)));
 }
 
 // Of these a process dies because somebody wants it so.
-bool isWanted(int signal) { return signal == SIGINT || signal == SIGTERM || signal == SIGHUP; }
+bool isWanted(int signal) {
+  return std::find(std::begin(EndSignals::all), std::end(EndSignals::all), signal) != std::end(EndSignals::all);
+}
 
 // What the other process can't tell any more.
 int tellEnding(int argc, char** argv, ProcessEnding const& ending, ResourceLimits const& limits,

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Kills saves, exports and a window with unsaved work at random moments, and looks at what is left.
+"""Kills saves, exports and a window with unsaved work at random moments, or asks the window to end, and looks at what is
+left.
 
 kills.py BUILD [--count N] [--seed N] [WORK…]: after each kill the file is the old or the new one, whole; the next run
 leaves nothing beside it; and what the window had not saved is offered at its next start.
@@ -31,6 +32,7 @@ WORKS = {
                                 "--force"]),
     **{f"export {suffix}": written(f"export-{suffix}") for suffix in ("png", "tif", "pdf", "svg")},
 }
+WINDOWS = ["window", "large window", "ended window"]
 
 
 def environment(home):
@@ -117,10 +119,11 @@ class Subcommand:
 
 
 class Window:
-    """A window with unsaved work; of a large document copies are read between events."""
+    """A window with unsaved work; of a large document copies are read between events. One that is asked to end loses
+    nothing at all, and leaves no lock."""
 
     def __init__(self, build, work):
-        self.build, self.parts = build, 6000 if work == "large window" else 0
+        self.build, self.parts, self.is_asked = build, 6000 if work == "large window" else 0, work == "ended window"
         self.in_slices = 0
 
     def try_once(self, dice):
@@ -139,8 +142,13 @@ class Window:
             while "ready" not in told() and process.poll() is None:
                 time.sleep(0.01)
             time.sleep(dice.uniform(0, 3 if self.parts else 0.6))
-            os.killpg(process.pid, signal.SIGKILL)
-            process.wait()
+            how = dice.choice((signal.SIGTERM, signal.SIGHUP, signal.SIGINT)) if self.is_asked else signal.SIGKILL
+            os.killpg(process.pid, how)
+            if process.wait() != -how:
+                return False, f"signal {how}: ended with {process.returncode}"
+            locks = [str(file) for file in folder.rglob("*.lock")]
+            if self.is_asked and locks:
+                return False, f"signal {how}: {locks} are left"
             last = {"begun": 0, "reading": 0, "kept": 0, "saved": 0}
             for line in told().splitlines():
                 what, step = line.split()
@@ -160,7 +168,8 @@ class Window:
                 return False, f"{last}: the next start ends with {after.returncode}: {after.stderr[-300:]}"
             how, step = after.stdout.splitlines()[0].split()
             was_asked = "asked" in after.stdout and (folder / "small.kdx").read_bytes() == saved_file
-            if int(step) < (kept if was_asked else max(kept, in_file)) or int(step) > begun:
+            least = begun if self.is_asked else kept if was_asked else max(kept, in_file)
+            if int(step) < least or int(step) > begun:
                 return False, f"{last}, {in_file} in the file: the next start has {step} steps ({how})"
             left = [str(file) for file in (folder / "home/data").rglob("*") if file.is_file() and "recovery" in str(file)]
             beside = (set(os.listdir(folder)) ^ before) - {"small.kdx~"} | set(left)  # which is the earlier version
@@ -172,11 +181,11 @@ def main():
     parser.add_argument("build", type=Path)
     parser.add_argument("--count", type=int, default=200)
     parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("works", nargs="*", metavar="WORK", help=", ".join([*WORKS, "window", "large window"]))
+    parser.add_argument("works", nargs="*", metavar="WORK", help=", ".join([*WORKS, *WINDOWS]))
     chosen = parser.parse_intermixed_args()
     chosen.build = chosen.build.resolve()
     drive.prepare(chosen.build / "faults")
-    works = chosen.works or [*WORKS, "window", "window", "large window"]
+    works = chosen.works or [*WORKS, "window", *WINDOWS]
     benches = [(work, Window if "window" in work else Subcommand) for work in works]
     benches = [(work, kind(chosen.build, work)) for work, kind in benches]
     dice, wrong, over = random.Random(chosen.seed), 0, 0

@@ -2,12 +2,13 @@
 
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/desktop/DialogAnswers.h"
+#include "host/desktop/Farewell.h"
 #include "host/desktop/MainWindow.h"
 
 #include <cstdio>
 #include <cstdlib>
 
-// What scripts/kills kills, and what starts after it:
+// What scripts/kills kills, or asks to end, and what starts after it:
 //
 //     plotvane_unsaved work DOCUMENT       draws in the window; copies are written, and every fourth step is saved;
 //                                          with PLOTVANE_PARTS elements before that, a copy is read between events, too
@@ -109,6 +110,7 @@ int recover(MainWindow& window, QString const& document) {
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   prepareApplication();
+  Farewell const farewell;
   QStringList const arguments = QCoreApplication::arguments();
   if (arguments.size() != 3) return 2;
   MainWindow window;

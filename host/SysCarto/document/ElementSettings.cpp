@@ -29,7 +29,6 @@ using SysUtility::Unit;
 namespace {
 
 constexpr Range onPage{-farthestOnPageCm, farthestOnPageCm, Unit::Centimetre};
-constexpr double maxCoordinate = 1e12;  // graphics lie on maps, too, in map units
 constexpr int maxMembers = 100000, maxRings = 100000, maxGrids = 100;
 
 // clang-format off
@@ -44,7 +43,7 @@ constexpr SysUtility::Choice arrowHeads[] = {
 // clang-format on
 
 Range anywhere(ElementScope const& scope) {
-  return {-maxCoordinate, maxCoordinate, scope.onMap ? Unit::MapUnit : Unit::Centimetre};
+  return {-farthestGraphic, farthestGraphic, scope.onMap ? Unit::MapUnit : Unit::Centimetre};
 }
 
 struct Texts {

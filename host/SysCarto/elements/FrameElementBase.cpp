@@ -44,18 +44,8 @@ void FrameElementBase::place(_ptr_t<Envelope> const& rectangle) {
   if (isElsewhere) moved();
 }
 
-namespace {
-
-double movedBy(double wanted, double low, double high) {
-  return std::clamp(wanted, std::min(-farthestOnPageCm - low, 0.0), std::max(farthestOnPageCm - high, 0.0));
-}
-
-}  // namespace
-
 void FrameElementBase::Move(double dx, double dy) {
-  Envelope const& now = *d->rectangle;
-  double const x = movedBy(dx, now.GetXMin(), now.GetXMax()), y = movedBy(dy, now.GetYMin(), now.GetYMax());
-  place(placed(now, Placement::moving(x, y)));
+  place(placed(*d->rectangle, Placement::moving(*d->rectangle, dx, dy, farthestOnPageCm)));
 }
 
 void FrameElementBase::Scale(_ptr_t<Point> const& origin, double sx, double sy) {

@@ -38,10 +38,13 @@ void addQuarter(QVector<QPointF>& ring, QPointF const& centre, double radiusX, d
 
 }  // namespace
 
-Placement Placement::moving(double dx, double dy) {
+Placement Placement::moving(Envelope const& from, double dx, double dy, double farthest) {
+  auto const bounded = [&](double wanted, double low, double high) {
+    return std::clamp(wanted, std::min(-farthest - low, 0.0), std::max(farthest - high, 0.0));
+  };
   Placement placement;
-  placement.dx = dx;
-  placement.dy = dy;
+  placement.dx = bounded(dx, from.GetXMin(), from.GetXMax());
+  placement.dy = bounded(dy, from.GetYMin(), from.GetYMax());
   return placement;
 }
 
@@ -96,6 +99,10 @@ bool haveSameCorners(Envelope const& a, Envelope const& b) {
 bool isFinite(_ptr_t<Envelope> const& rectangle) {
   return rectangle && std::isfinite(rectangle->GetXMin()) && std::isfinite(rectangle->GetYMin()) &&
          std::isfinite(rectangle->GetXMax()) && std::isfinite(rectangle->GetYMax());
+}
+
+bool isNearEnough(Envelope const& area) {
+  return std::max({-area.GetXMin(), -area.GetYMin(), area.GetXMax(), area.GetYMax()}) <= farthestGraphic;
 }
 
 void include(Envelope& area, _ptr_t<Geometry> const& other) {

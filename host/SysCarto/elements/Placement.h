@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ElementLimits.h"
+
 #include <SysCarto/Export.h>
 #include <SysDisplay/DisplayTransformation.h>
 #include <SysGeometry/Polygon.h>
@@ -7,23 +9,33 @@
 
 #include <QPointF>
 
+#include <algorithm>
+
 namespace SysCarto {
 
-/// A scaling about an origin, followed by a move. Kept apart rather than as a matrix, so that what lies on the origin
-/// stays there to the last bit.
+/// A scaling about an origin, followed by a move, as far as graphics may lie. Kept apart rather than as a matrix, so
+/// that what lies on the origin stays there to the last bit.
 struct SYSCARTO_EXPORT Placement {
   double originX = 0, originY = 0;
   double scaleX = 1, scaleY = 1;
   double dx = 0, dy = 0;
 
-  static Placement moving(double dx, double dy);
+  /// What lies between those corners comes no farther than `farthest` from 0, in each direction; what is there already
+  /// does not come farther.
+  static Placement moving(SysGeometry::Envelope const& from, double dx, double dy, double farthest = farthestGraphic);
   static Placement scaling(SysUtility::_ptr_t<SysGeometry::Point> const& origin, double sx, double sy);
 
   /// From one rectangle to another. A side without length is not scaled, but centred.
   static Placement fitting(SysGeometry::Envelope const& from, SysGeometry::Envelope const& to);
 
   QPointF map(double x, double y) const {
-    return {originX + (x - originX) * scaleX + dx, originY + (y - originY) * scaleY + dy};
+    return nearEnough({originX + (x - originX) * scaleX + dx, originY + (y - originY) * scaleY + dy});
+  }
+
+  /// The place of a graphic that is nearest to a point.
+  static QPointF nearEnough(QPointF const& point) {
+    return {std::clamp(point.x(), -farthestGraphic, farthestGraphic),
+            std::clamp(point.y(), -farthestGraphic, farthestGraphic)};
   }
 };
 
@@ -42,6 +54,9 @@ SYSCARTO_EXPORT bool haveSameCorners(SysGeometry::Envelope const& a, SysGeometry
 
 /// False for an empty pointer, and where a side is infinite or not a number.
 SYSCARTO_EXPORT bool isFinite(SysUtility::_ptr_t<SysGeometry::Envelope> const& rectangle);
+
+/// False where it reaches farther than graphics may lie.
+SYSCARTO_EXPORT bool isNearEnough(SysGeometry::Envelope const& area);
 
 /// Grows `area` so that it holds `other`, too. Empty ones count for nothing.
 SYSCARTO_EXPORT void include(SysGeometry::Envelope& area, SysUtility::_ptr_t<SysGeometry::Geometry> const& other);

@@ -12,14 +12,15 @@ class ShapeElement : public Element {
 public:
   SysUtility::_ptr_t<Shape> shape() const { return shape_; }
 
-  /// The element keeps the object; it must not change afterwards. An empty pointer is ignored.
+  /// The element keeps the object; it must not change afterwards. Of one that reaches farther than graphics may lie it
+  /// keeps a copy that does not. An empty pointer is ignored.
   void setShape(SysUtility::_ptr_t<Shape> const& shape) {
     if (!shape) return;
-    shape_ = shape;
+    shape_ = isNearEnough(*shape->GetEnvelope()) ? shape : placed(*shape, Placement());
     shapeChanged();
   }
 
-  void Move(double dx, double dy) override { place(placed(*shape_, Placement::moving(dx, dy))); }
+  void Move(double dx, double dy) override { place(placed(*shape_, Placement::moving(*GetEnvelope(), dx, dy))); }
   void Scale(SysUtility::_ptr_t<SysGeometry::Point> const& origin, double sx, double sy) override {
     place(placed(*shape_, Placement::scaling(origin, sx, sy)));
   }

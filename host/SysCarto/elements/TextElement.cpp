@@ -62,8 +62,9 @@ void TextElement::setSymbol(_ptr_t<TextSymbol> const& symbol) {
 }
 
 void TextElement::setPosition(double x, double y) {
-  x_ = x;
-  y_ = y;
+  QPointF const place = Placement::nearEnough({x, y});
+  x_ = place.x();
+  y_ = place.y();
 }
 
 void TextElement::setAngle(double degrees) {
@@ -72,8 +73,7 @@ void TextElement::setAngle(double degrees) {
 }
 
 void TextElement::Move(double dx, double dy) {
-  x_ += dx;
-  y_ += dy;
+  setPosition(x_ + dx, y_ + dy);
   if (dx != 0 || dy != 0) moved();
 }
 

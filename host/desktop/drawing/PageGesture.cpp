@@ -78,19 +78,28 @@ QVector<QRectF> selectedRectangles(PageLayout const& layout) {
   return rectangles;
 }
 
-void changeSelection(PageLayout& layout, QString const& name, std::function<void(Element&)> const& change) {
-  auto const selection = movableSelection(layout);
-  if (selection.isEmpty()) return;
+void changeSelection(PageLayout& layout, QString const& name, std::function<bool(Element&)> const& change) {
+  QVector<QPair<SysCarto::ElementHandle, _ptr_t<Element>>> changed;
+  for (auto const& element : movableSelection(layout)) {
+    auto const clone = element->Clone();
+    if (!change(*clone)) continue;
+    tidy(*clone);
+    changed << qMakePair(element->GetHandle(), clone);
+  }
+  if (changed.isEmpty()) return;
   {
     SysFramework::EditorOperation const operation(name);
-    for (auto const& element : selection) {
-      auto const clone = element->Clone();
-      change(*clone);
-      tidy(*clone);
-      workplace(layout).ReplaceElement(element->GetHandle(), clone);
-    }
+    for (auto const& [handle, clone] : qAsConst(changed)) workplace(layout).ReplaceElement(handle, clone);
   }
   layout.PartialRefresh(SysCarto::RefreshPhase::Elements, nullptr);
+}
+
+void moveSelection(PageLayout& layout, QString const& name, QPointF const& by) {
+  changeSelection(layout, name, [&](Element& element) {
+    auto const before = element.GetEnvelope();
+    element.Move(by.x(), by.y());
+    return !SysCarto::haveSameCorners(*before, *element.GetEnvelope());
+  });
 }
 
 QPointF pagePoint(PageLayout const& layout, QPoint const& pixel) {
@@ -186,8 +195,7 @@ PageGesture::Outlines MoveGesture::outlines() const {
 void MoveGesture::commit() {
   QPointF const by = offset();
   if (by.isNull()) return;
-  changeSelection(layout(), Texts::tr("Move the selected elements"),
-                  [by](Element& element) { element.Move(by.x(), by.y()); });
+  moveSelection(layout(), Texts::tr("Move the selected elements"), by);
 }
 
 ResizeGesture::ResizeGesture(PageLayout& layout, QPointF const& press, Handle const& handle)
@@ -259,7 +267,10 @@ PageGesture::Outlines ResizeGesture::outlines() const {
 void ResizeGesture::commit() {
   Scaling const by = scaling();
   if (by.x == 1 && by.y == 1) return;
-  changeSelection(layout(), Texts::tr("Resize the selected elements"), [&](Element& element) { by.apply(element); });
+  changeSelection(layout(), Texts::tr("Resize the selected elements"), [&](Element& element) {
+    by.apply(element);
+    return true;
+  });
 }
 
 PageGesture::Outlines RubberBandGesture::outlines() const { return {outlineOf(band())}; }

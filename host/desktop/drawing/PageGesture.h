@@ -82,9 +82,12 @@ private:
 };
 
 /// Puts clones in the place of the selected elements that may be moved, as one step of undo, and redraws. `change` is
-/// called with each clone.
+/// called with each clone, and answers whether it has changed; where none has, there is no step.
 void changeSelection(SysCarto::PageLayout& layout, QString const& name,
-                     std::function<void(SysCarto::Element&)> const& change);
+                     std::function<bool(SysCarto::Element&)> const& change);
+
+/// Moves the selected elements, in page centimetres, as far as they may go.
+void moveSelection(SysCarto::PageLayout& layout, QString const& name, QPointF const& by);
 
 /// The rectangles of the elements that may be moved; of many, the one about all.
 QVector<QRectF> selectedRectangles(SysCarto::PageLayout const& layout);

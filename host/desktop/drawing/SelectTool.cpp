@@ -364,7 +364,6 @@ bool SelectTool::changeVertex(PageLayout& layout, QKeyEvent const& event) {
 bool SelectTool::nudge(PageLayout& layout, QKeyEvent const& event) {
   auto const by = nudgeOf(event);
   if (!by) return false;
-  changeSelection(layout, QCoreApplication::translate("SelectTool", "Nudge the selected elements"),
-                  [&](Element& element) { element.Move(by->x(), by->y()); });
+  moveSelection(layout, QCoreApplication::translate("SelectTool", "Nudge the selected elements"), *by);
   return true;
 }

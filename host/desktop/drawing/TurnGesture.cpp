@@ -23,8 +23,10 @@ struct Texts {
 };
 
 void turnAbout(PageLayout& layout, QPointF const& middle, double degrees) {
-  changeSelection(layout, Texts::tr("Turn the selected elements"),
-                  [&](Element& element) { SysCarto::turn(element, middle, degrees); });
+  changeSelection(layout, Texts::tr("Turn the selected elements"), [&](Element& element) {
+    SysCarto::turn(element, middle, degrees);
+    return true;
+  });
 }
 
 }  // namespace

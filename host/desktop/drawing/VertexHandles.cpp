@@ -108,6 +108,7 @@ void VertexHandles::replace(PageLayout& layout, QString const& stepName, Rings c
   auto const clone = element_->Clone();
   if (auto const line = ptr_cast<LineElement>(clone)) line->setShape(make<SysGeometry::Polyline>(rings.first()));
   if (auto const polygon = ptr_cast<PolygonElement>(clone)) polygon->setShape(make<SysGeometry::Polygon>(rings));
+  if (VertexHandles(layout, clone).rings_ == rings_) return;  // it lies as far as it may
   {
     SysFramework::EditorOperation const operation(stepName);
     workplace(layout).ReplaceElement(element_->GetHandle(), clone);

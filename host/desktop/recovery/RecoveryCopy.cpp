@@ -177,6 +177,11 @@ void RecoveryCopy::keepAll() {
   for (RecoveryCopy* const copy : qAsConst(copies())) copy->keep();
 }
 
+void RecoveryCopy::leaveAll() {
+  keepAll();
+  for (RecoveryCopy* const copy : qAsConst(copies())) copy->lock_.reset();
+}
+
 // The files are another thread's business, and the text that they hold. Beside some settings nothing can be kept.
 bool RecoveryCopy::write(QJsonObject json) {
   if (!lock_) {

@@ -44,6 +44,9 @@ public:
   /// For all copies of the process: what is about to be done may end it. Sessions that can't be kept are passed over.
   static void keepAll();
 
+  /// The same where the process ends now, whatever is open: the next start, on any machine, may have what was kept.
+  static void leaveAll();
+
 signals:
   /// A copy could not be written: said once, and again only after one could.
   void told(QString const& sentence);

@@ -82,12 +82,21 @@ private slots:
     QCOMPARE(sidesOf(*element->GetEnvelope()), before);  // clones are independent
   }
 
-  void aFrameIsNotMovedBeyondWhatCanBeSaved() {
+  void nothingIsMovedBeyondWhatCanBeSaved() {
     auto const frame = madeIn<MapSurroundFrame>(-10000, 3, -9996, 5);
     frame->Move(-1, -2);
     QCOMPARE(sidesOf(*frame->GetEnvelope()), (QVector<double>{-10000, 1, -9996, 3}));
     frame->Move(1, 1e5);
     QCOMPARE(sidesOf(*frame->GetEnvelope()), (QVector<double>{-9999, 9998, -9995, 10000}));
+    auto const line = make<LineElement>();
+    line->setShape(make<SysGeometry::Polyline>(QVector<QPointF>{{1, 2}, {1e12, 3}}));
+    line->Move(1, 1);
+    QCOMPARE(line->shape()->GetPoints(), (QVector<QPointF>{{1, 3}, {1e12, 4}}));
+    line->Scale(make<Point>(0.0, 0.0, 0.0), -2, 1e13);
+    QCOMPARE(sidesOf(*line->GetEnvelope()), (QVector<double>{-1e12, 1e12, -2, 1e12}));
+    auto const text = make<TextElement>();
+    text->Move(-1e13, 5);
+    QCOMPARE(sidesOf(*text->GetEnvelope()).mid(0, 2), (QVector<double>{-1e12, 5}));
   }
 
   void boundaryCoversWhatSymbolsAdd_data() {
