@@ -10,7 +10,7 @@ function(plotvane_precompiled_headers)
   file(CONFIGURE OUTPUT ${source} CONTENT "")
   set(headers <QApplication> <QCoreApplication> <QFileInfo> <QHash> <QImage> <QJsonDocument> <QJsonObject> <QPainter>
     <QPainterPath> <QSet> <QString> <QStringList> <QUndoStack> <QVector>
-    <algorithm> <cmath> <functional> <memory> <optional> <vector>)
+    <algorithm> <cmath> <functional> <future> <map> <memory> <optional> <vector>)
   add_library(plotvane_precompiled OBJECT ${source})
   target_link_libraries(plotvane_precompiled PRIVATE Qt5::Widgets)
   target_precompile_headers(plotvane_precompiled PRIVATE ${headers})
