@@ -5609,7 +5609,7 @@
     </message>
     <message>
         <source>How the label of a line lies on it; letters stand upright.</source>
-        <translation>Wie die Beschriftung einer Linie an ihr liegt; die Buchstaben stehen aufrecht.</translation>
+        <translation type="vanished">Wie die Beschriftung einer Linie an ihr liegt; die Buchstaben stehen aufrecht.</translation>
     </message>
     <message>
         <source>Repeated after</source>
@@ -5689,7 +5689,7 @@
     </message>
     <message>
         <source>The colour of a box behind the text, as callouts have.</source>
-        <translation>Die Farbe eines Kastens hinter dem Text, wie ihn Sprechblasen haben.</translation>
+        <translation type="vanished">Die Farbe eines Kastens hinter dem Text, wie ihn Sprechblasen haben.</translation>
     </message>
     <message>
         <source>Colour of the box&apos;s line</source>
@@ -6443,6 +6443,42 @@
         <source>How a label lies in its area: level, along the area&apos;s length, or along it with its letters as far apart as tells how far the area reaches. Where the area holds no such label, it lies level.</source>
         <translation>Wie eine Beschriftung in ihrer Fläche liegt: waagrecht, der Länge der Fläche nach, oder dieser nach mit so weit gesperrten Buchstaben, dass man sieht, wie weit die Fläche reicht. Wo die Fläche keine solche fasst, liegt sie waagrecht.</translation>
     </message>
+    <message>
+        <source>Level on the line</source>
+        <translation>Waagrecht auf der Linie</translation>
+    </message>
+    <message>
+        <source>How the label of a line lies on it; letters stand upright. Level ones turn with no line, as the shields of roads.</source>
+        <translation>Wie die Beschriftung einer Linie auf ihr liegt; Buchstaben stehen aufrecht. Waagrechte drehen sich mit keiner Linie, wie die Nummernschilder von Straßen.</translation>
+    </message>
+    <message>
+        <source>Round corners</source>
+        <translation>Runde Ecken</translation>
+    </message>
+    <message>
+        <source>Round ends</source>
+        <translation>Runde Enden</translation>
+    </message>
+    <message>
+        <source>The colour of a box behind the text, as callouts and shields have.</source>
+        <translation>Die Farbe eines Kastens hinter dem Text, wie ihn Sprechblasen und Nummernschilder haben.</translation>
+    </message>
+    <message>
+        <source>Shape of the box</source>
+        <translation>Form des Kastens</translation>
+    </message>
+    <message>
+        <source>Whether the box has corners, round corners or round ends.</source>
+        <translation>Ob der Kasten Ecken, runde Ecken oder runde Enden hat.</translation>
+    </message>
+    <message>
+        <source>Features of the font</source>
+        <translation>Eigenschaften der Schrift</translation>
+    </message>
+    <message>
+        <source>OpenType features by their tags, where the font has them: smcp for small capitals, onum for old-style and lnum for lining figures, tnum for figures of one width, dlig for rare ligatures, ss01 for a stylistic set; liga=0 for no ligatures.</source>
+        <translation>OpenType-Eigenschaften nach ihren Kürzeln, wo die Schrift sie hat: smcp für Kapitälchen, onum für Mediäval- und lnum für Versalziffern, tnum für Ziffern gleicher Breite, dlig für seltene Ligaturen, ss01 für eine Stilgruppe; liga=0 für keine Ligaturen.</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -6685,6 +6721,10 @@
     <message>
         <source>No font that is installed has these letters, so that boxes stand for them: %1</source>
         <translation>Keine installierte Schrift hat diese Zeichen, sodass Kästchen für sie stehen: %1</translation>
+    </message>
+    <message>
+        <source>The font lacks a feature that a text asks for: %1.</source>
+        <translation>Der Schrift fehlt eine Eigenschaft, die ein Text verlangt: %1.</translation>
     </message>
 </context>
 <context>
@@ -9981,6 +10021,13 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
     <message>
         <source>layers lie within layers more than %1 deep; put them into one list</source>
         <translation>Schichten liegen mehr als %1 tief in Schichten; fassen Sie sie in einer Liste zusammen</translation>
+    </message>
+</context>
+<context>
+    <name>SymbolSettings</name>
+    <message>
+        <source>“%1” is no feature of OpenType; write a tag such as smcp, or liga=0</source>
+        <translation>„%1“ ist keine OpenType-Eigenschaft; schreiben Sie ein Kürzel wie smcp oder liga=0</translation>
     </message>
 </context>
 <context>

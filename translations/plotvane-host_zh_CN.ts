@@ -5609,7 +5609,7 @@
     </message>
     <message>
         <source>How the label of a line lies on it; letters stand upright.</source>
-        <translation>线的标注如何沿线放置；字母始终正立。</translation>
+        <translation type="vanished">线的标注如何沿线放置；字母始终正立。</translation>
     </message>
     <message>
         <source>Repeated after</source>
@@ -5689,7 +5689,7 @@
     </message>
     <message>
         <source>The colour of a box behind the text, as callouts have.</source>
-        <translation>文字后面的框的颜色，如标注框。</translation>
+        <translation type="vanished">文字后面的框的颜色，如标注框。</translation>
     </message>
     <message>
         <source>Colour of the box&apos;s line</source>
@@ -6443,6 +6443,42 @@
         <source>How a label lies in its area: level, along the area&apos;s length, or along it with its letters as far apart as tells how far the area reaches. Where the area holds no such label, it lies level.</source>
         <translation>标注在其面内的排列方式：水平、沿面的长轴，或沿长轴并拉开字距以显示该面的范围。面内放不下这样的标注时，则水平排列。</translation>
     </message>
+    <message>
+        <source>Level on the line</source>
+        <translation>水平置于线上</translation>
+    </message>
+    <message>
+        <source>How the label of a line lies on it; letters stand upright. Level ones turn with no line, as the shields of roads.</source>
+        <translation>线的标注如何置于线上；字母保持正立。水平的标注不随线旋转，如道路编号牌。</translation>
+    </message>
+    <message>
+        <source>Round corners</source>
+        <translation>圆角</translation>
+    </message>
+    <message>
+        <source>Round ends</source>
+        <translation>圆端</translation>
+    </message>
+    <message>
+        <source>The colour of a box behind the text, as callouts and shields have.</source>
+        <translation>文字背后方框的颜色，如标注框和编号牌所用。</translation>
+    </message>
+    <message>
+        <source>Shape of the box</source>
+        <translation>方框的形状</translation>
+    </message>
+    <message>
+        <source>Whether the box has corners, round corners or round ends.</source>
+        <translation>方框是直角、圆角还是圆端。</translation>
+    </message>
+    <message>
+        <source>Features of the font</source>
+        <translation>字体特性</translation>
+    </message>
+    <message>
+        <source>OpenType features by their tags, where the font has them: smcp for small capitals, onum for old-style and lnum for lining figures, tnum for figures of one width, dlig for rare ligatures, ss01 for a stylistic set; liga=0 for no ligatures.</source>
+        <translation>按标记列出的 OpenType 特性，字体具备时生效：smcp 为小型大写字母，onum 为旧式数字，lnum 为等高数字，tnum 为等宽数字，dlig 为罕用连字，ss01 为一组样式；liga=0 表示不用连字。</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>
@@ -6685,6 +6721,10 @@
     <message>
         <source>No font that is installed has these letters, so that boxes stand for them: %1</source>
         <translation>已安装的字体都没有这些字符，因此以方框代替：%1</translation>
+    </message>
+    <message>
+        <source>The font lacks a feature that a text asks for: %1.</source>
+        <translation>字体缺少文字所要求的特性：%1。</translation>
     </message>
 </context>
 <context>
@@ -9981,6 +10021,13 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
     <message>
         <source>layers lie within layers more than %1 deep; put them into one list</source>
         <translation>图层嵌套超过 %1 层；请放入一个列表</translation>
+    </message>
+</context>
+<context>
+    <name>SymbolSettings</name>
+    <message>
+        <source>“%1” is no feature of OpenType; write a tag such as smcp, or liga=0</source>
+        <translation>“%1”不是 OpenType 特性；请写标记，如 smcp 或 liga=0</translation>
     </message>
 </context>
 <context>

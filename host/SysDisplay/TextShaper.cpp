@@ -1,5 +1,7 @@
 #include "TextShaper.h"
 
+#include "FeatureShaping.h"
+
 #include "host/SysGeometry/QuietOgr.h"
 
 #include <QCache>
@@ -36,6 +38,7 @@ int finenessFor(double emPx) {
 
 // Kerning and ligatures draw the letters of a text nearer together, never as near as this.
 constexpr double maxCloseness = 0.7;
+constexpr double maxFeaturedCloseness = 0.3;  // with letters raised, or joined as one pleases
 
 constexpr int maxKeptGlyphs = 1000000;
 
@@ -123,6 +126,10 @@ public:
     auto const* const known = texts_.object(key);
     auto const shaped = known ? *known : std::make_shared<ShapedText const>(layOut(format, text));
     if (!known) texts_.insert(key, new std::shared_ptr<ShapedText const>(shaped), text.size() + 16);
+    for (QString const& feature : shaped->lackingFeatures) {
+      QString const told = QStringLiteral("%1 (%2)").arg(format.family, feature);
+      if (!troubles_.lacking.contains(told)) troubles_.lacking << told;
+    }
     for (uint const code : shaped->lacking.toUcs4()) {
       QString const letter = QString::fromUcs4(&code, 1);
       if (!troubles_.letters.contains(letter)) troubles_.letters += letter;
@@ -141,12 +148,14 @@ public:
         width += letters.width(letter);
       widest = std::max(widest, width);
     }
-    return std::max(widest - std::max(spacingOf(format), 0.0), 0.0) * maxCloseness / referencePx;
+    double const closeness = format.features.isEmpty() ? maxCloseness : maxFeaturedCloseness;
+    return std::max(widest - std::max(spacingOf(format), 0.0), 0.0) * closeness / referencePx;
   }
 
   // Each letter alone is asked for its glyphs, which are found again by their places. Letters of one ligature have the
   // same.
   static std::vector<QString> letters(TextFormat const& format, ShapedLine const& line) {
+    if (!line.letters.empty()) return line.letters;
     std::vector<QString> letters(line.glyphs.size());
     Layout const layout(fontOf(format), line.text);
     for (int from = 0, to = 0; from < line.text.size(); from = to) {
@@ -294,8 +303,11 @@ private:
     ShapedText shaped;
     shaped.ascent = metrics.ascent() / referencePx;
     shaped.descent = metrics.descent() / referencePx;
-    for (QString const& line : text.split(QLatin1Char('\n')))
+    for (QString const& line : text.split(QLatin1Char('\n'))) {
       shaped.lines.push_back(layOutLine(font, spacing, line, shaped.lacking));
+      if (!format.features.isEmpty() && !line.isEmpty())
+        addFeatures(font, spacing / referencePx, format.features, shaped.lines.back(), shaped.lackingFeatures);
+    }
     return shaped;
   }
 
@@ -314,25 +326,78 @@ private:
     return shaped;
   }
 
+  // A part of a line that one font draws.
+  struct Stretch {
+    QRawFont font;
+    int from, to;
+  };
+
+  // None where some of it runs from right to left.
+  static std::vector<Stretch> stretchesOf(Layout const& layout, QString const& text) {
+    std::vector<Stretch> stretches;
+    for (int from = 0, to = 0; from < text.size(); from = to) {
+      to = std::max(layout.text.nextCursorPosition(from), from + 1);
+      auto const runs = layout.text.glyphRuns(from, to - from);
+      if (std::any_of(runs.begin(), runs.end(), [](QGlyphRun const& run) { return run.isRightToLeft(); })) return {};
+      bool const goesOn = !stretches.empty() && (runs.isEmpty() || runs[0].rawFont() == stretches.back().font);
+      if (goesOn)
+        stretches.back().to = to;
+      else if (!runs.isEmpty())
+        stretches.push_back({runs[0].rawFont(), stretches.empty() ? 0 : from, to});
+    }
+    return stretches;
+  }
+
+  // Lays a line out anew that Qt has found the fonts of.
+  void addFeatures(QFont const& font, double spacing, QStringList const& features, ShapedLine& line,
+                   QStringList& lacking) {
+    ShapedLine featured;
+    featured.text = line.text;
+    std::vector<int> starts;  // of each glyph's letters
+    double x = 0;
+    for (Stretch const& stretch : stretchesOf(Layout(font, line.text), line.text)) {
+      double advance = 0;
+      for (FeaturedGlyph const& one : featureShaper_.shape(stretch.font, features, line.text, stretch.from, stretch.to,
+                                                           spacing, advance, lacking)) {
+        addGlyph(face(stretch.font), one.index, QPointF(x, 0) + one.place, featured);
+        starts.push_back(one.letter);
+      }
+      x += advance;
+    }
+    if (starts.empty()) return;
+    featured.width = x - spacing;
+    for (size_t i = 0; i < starts.size(); ++i) {
+      bool const isFirst = i == 0 || starts[i] != starts[i - 1];
+      auto const next = std::find_if(starts.begin() + static_cast<ptrdiff_t>(i), starts.end(),
+                                     [&](int start) { return start != starts[i]; });
+      int const end = next == starts.end() ? line.text.size() : *next;
+      featured.letters.push_back(isFirst ? line.text.mid(starts[i], end - starts[i]) : QString());
+    }
+    line = std::move(featured);
+  }
+
   void addRun(QGlyphRun const& run, Layout const& layout, ShapedLine& line) {
     QVector<quint32> const glyphs = run.glyphIndexes();
     QVector<QPointF> const positions = run.positions();
-    auto& [font, known] = face(run.rawFont());
+    Face& face = this->face(run.rawFont());
     for (int n = 0; n < glyphs.size(); ++n) {
       int const i = run.isRightToLeft() ? glyphs.size() - 1 - n : n;
-      auto& glyph = known[glyphs[i]];
-      if (!glyph) {
-        double const scale = 1.0 / referencePx;
-        glyph = std::make_unique<Glyph>(font, glyphs[i],
-                                        QTransform::fromScale(scale, scale).map(font.pathForGlyph(glyphs[i])));
-      }
-      QPointF const place = layout.place(positions[i]);
-      line.glyphs.push_back({glyph.get(), place});
-      if (!glyph->outline().isEmpty()) line.ink |= glyph->bounds().translated(place);
+      addGlyph(face, glyphs[i], layout.place(positions[i]), line);
     }
   }
 
   using Face = std::pair<QRawFont const, std::map<quint32, std::unique_ptr<Glyph>>>;
+
+  static void addGlyph(Face& face, quint32 index, QPointF const& place, ShapedLine& line) {
+    auto& [font, known] = face;
+    auto& glyph = known[index];
+    if (!glyph) {
+      double const scale = 1.0 / referencePx;
+      glyph = std::make_unique<Glyph>(font, index, QTransform::fromScale(scale, scale).map(font.pathForGlyph(index)));
+    }
+    line.glyphs.push_back({glyph.get(), place});
+    if (!glyph->outline().isEmpty()) line.ink |= glyph->bounds().translated(place);
+  }
 
   Face& face(QRawFont const& font) {
     for (Face& known : faces_)
@@ -342,6 +407,7 @@ private:
 
   static Shaper* shaper_;
   std::list<Face> faces_;
+  FeatureShaper featureShaper_;
   std::map<QString, Letters> letters_;  // by font key
   FontTroubles troubles_;
   QCache<TextKey, std::shared_ptr<ShapedText const>> texts_{maxKeptGlyphs};
@@ -367,11 +433,12 @@ PointRuns const& Glyph::halo(double size, double emPx) const {
 }
 
 QString fontKeyOf(TextFormat const& format) {
-  return QStringLiteral("%1|%2%3|%4")
+  return QStringLiteral("%1|%2%3|%4|%5")
       .arg(format.family)
       .arg(int(format.bold))
       .arg(int(format.italic))
-      .arg(format.size > 0 ? format.letterSpacing / format.size : 0.0);
+      .arg(format.size > 0 ? format.letterSpacing / format.size : 0.0)
+      .arg(format.features.join(QLatin1Char(',')));
 }
 
 std::shared_ptr<ShapedText const> shapedText(TextFormat const& format, QString const& fontKey, QString const& text) {

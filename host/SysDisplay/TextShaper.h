@@ -51,6 +51,7 @@ struct ShapedLine {
   std::vector<PlacedGlyph> glyphs;  ///< as they stand, from the left; blanks, too
   double width = 0;
   QRectF ink;
+  std::vector<QString> letters;  ///< of each glyph, where features may have joined or changed them; else empty
 };
 
 /// A text laid out, in units of the font's size.
@@ -58,7 +59,8 @@ struct ShapedText {
   std::vector<ShapedLine> lines;
   double ascent = 0;
   double descent = 0;
-  QString lacking;  ///< letters that no font has
+  QString lacking;              ///< letters that no font has
+  QStringList lackingFeatures;  ///< that were asked for
 };
 
 /// Names what the shape of a text depends on, besides the text.
@@ -78,6 +80,7 @@ double minWidth(TextFormat const& format, QString const& fontKey, QString const&
 struct FontTroubles {
   QStringList unopened;  ///< there, but they could not be opened; that lasts as long as the program runs
   QStringList missing;   ///< not there; another family stands in
+  QStringList lacking;   ///< with a feature that was asked for and that they have not, in brackets
   QString letters;       ///< that no font has, so that boxes stand for them
 };
 

@@ -62,21 +62,42 @@ private:
   double firstBaseline_ = 0;
 };
 
-// The box about a text: its area, and its line as what lies between two rectangles. `toPixels` maps from points.
+// The radius of a box's corners.
+double roundingOf(BoxShape shape, QSizeF const& box) {
+  double const shorter = std::min(box.width(), box.height());
+  return shape == BoxShape::Capsule ? shorter / 2 : shape == BoxShape::Rounded ? shorter / 5 : 0;
+}
+
+// Clockwise as seen, the upper right corner first. `toPixels` maps from points.
+void addBox(QRectF const& box, double radius, QTransform const& toPixels, PointRuns& rings) {
+  constexpr int steps = 24;  // of a quarter of a circle
+  QRectF const middles = box.adjusted(radius, radius, -radius, -radius);
+  QPointF const corners[] = {middles.topRight(), middles.bottomRight(), middles.bottomLeft(), middles.topLeft()};
+  for (int i = 0; i <= 4 * steps + 3; ++i) {
+    int const corner = i / (steps + 1), step = i % (steps + 1);
+    double const angle = M_PI_2 * (corner - 1 + static_cast<double>(step) / steps);
+    QPointF const edge = radius > 0 ? radius * QPointF(std::cos(angle), std::sin(angle)) : QPointF();
+    rings.add(snapped(toPixels.map(corners[corner] + edge)));
+  }
+  rings.endRun();
+}
+
+// The box about a text: its area, and its line as what lies between two boxes.
 void drawBox(DrawTarget& target, TextFormat const& format, QRectF const& text, QTransform const& toPixels) {
   PointRuns rings;
+  double const padding = format.boxPadding;
+  double const radius = roundingOf(format.boxShape, text.adjusted(-padding, -padding, padding, padding).size());
   auto const add = [&](double reach) {
-    QRectF const box = text.adjusted(-reach, -reach, reach, reach);
-    for (QPointF const& corner : {box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft()})
-      rings.add(snapped(toPixels.map(corner)));
-    rings.endRun();
+    double const beyond = reach - padding;
+    addBox(text.adjusted(-reach, -reach, reach, reach), radius > 0 ? std::max(radius + beyond, 0.0) : 0, toPixels,
+           rings);
   };
-  add(format.boxPadding);
+  add(padding);
   if (format.boxColor.alpha() > 0) target.fill(rings, format.boxColor, Qt::OddEvenFill);
   if (!format.hasBoxLine()) return;
   rings.clear();
-  add(format.boxPadding + format.boxLineWidth / 2);
-  add(format.boxPadding - format.boxLineWidth / 2);
+  add(padding + format.boxLineWidth / 2);
+  add(padding - format.boxLineWidth / 2);
   target.fill(rings, format.boxLineColor, Qt::OddEvenFill);
 }
 
@@ -101,9 +122,9 @@ QRectF inPoints(QRectF const& box, TextFormat const& format) {
 
 bool TextFormat::operator==(TextFormat const& o) const {
   auto const all = [](TextFormat const& f) {
-    return std::make_tuple(f.family, f.size, f.bold, f.italic, f.letterSpacing, f.lineSpacing, f.color.rgba(),
-                           f.haloSize, f.haloColor.rgba(), f.boxColor.rgba(), f.boxLineColor.rgba(), f.boxLineWidth,
-                           f.boxPadding, f.horizontal, f.vertical);
+    return std::make_tuple(f.family, f.size, f.bold, f.italic, f.letterSpacing, f.lineSpacing, f.features,
+                           f.color.rgba(), f.haloSize, f.haloColor.rgba(), f.boxColor.rgba(), f.boxLineColor.rgba(),
+                           f.boxLineWidth, f.boxPadding, f.boxShape, f.horizontal, f.vertical);
   };
   return all(*this) == all(o);
 }

@@ -5,10 +5,14 @@
 #include <QColor>
 #include <QPainterPath>
 #include <QString>
+#include <QStringList>
 
 namespace SysDisplay {
 
 class DrawTarget;
+
+/// With right angles, with round corners, or with half circles as its ends.
+enum class BoxShape { Rectangle, Rounded, Capsule };
 
 enum class HorizontalAlignment { Left, Center, Right };
 
@@ -17,19 +21,23 @@ enum class VerticalAlignment { Top, Middle, Baseline, Bottom };
 
 /// Everything that shapes a text; lengths in points.
 struct TextFormat {
+  static constexpr double maxLengthPt = 1000;  ///< that can be saved
+
   QString family = QStringLiteral("DejaVu Sans");
   double size = 10;
   bool bold = false;
   bool italic = false;
   double letterSpacing = 0;
   double lineSpacing = 1;  ///< of the font's own line height
+  QStringList features;    ///< of OpenType: tags as "smcp", with a value as "liga=0"
   QColor color = QColor(0, 0, 0);
   double haloSize = 0;  ///< how far the halo reaches beyond the letters; 0 for none
   QColor haloColor = QColor(255, 255, 255);
-  QColor boxColor = QColor(255, 255, 255, 0);  ///< of a box behind the text, as callouts have
+  QColor boxColor = QColor(255, 255, 255, 0);  ///< of a box behind the text, as callouts and shields have
   QColor boxLineColor = QColor(0, 0, 0);
   double boxLineWidth = 0;
   double boxPadding = 2;  ///< from the text to the edge of its box
+  BoxShape boxShape = BoxShape::Rectangle;
   HorizontalAlignment horizontal = HorizontalAlignment::Left;
   VerticalAlignment vertical = VerticalAlignment::Baseline;
 

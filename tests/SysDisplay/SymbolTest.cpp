@@ -5,6 +5,7 @@
 #include "host/SysDisplay/LayeredSymbol.h"
 #include "host/SysDisplay/SimpleMarkerSymbol.h"
 #include "host/SysDisplay/SvgMarkerSymbol.h"
+#include "host/SysDisplay/TextShaper.h"
 
 #include <SysGeometry/Polygon.h>
 #include <SysGeometry/Polyline.h>
@@ -403,6 +404,16 @@ private slots:
     auto const at = [&](double x, double y) { return canvas.image().pixelColor(QPointF(x, y).toPoint()); };
     QCOMPARE(at(box.center().x(), box.top() - 6), QColor(Qt::blue));
     QCOMPARE(at(box.center().x(), box.top() - 3), QColor(Qt::yellow));
+    QCOMPARE(at(box.left() - 5, box.top() - 5), QColor(Qt::blue));  // a corner, which round ends have not
+    format.boxShape = BoxShape::Capsule;
+    Canvas round;
+    {
+      QPainter painter(&round.image());
+      TextSymbol(format).drawAt(painter, QPointF(20, 100), 2, 0, "Box");
+    }
+    QCOMPARE(round.covered(), box.adjusted(-8, -8, 8, 8).toAlignedRect());
+    QVERIFY(round.image().pixelColor(QPointF(box.left() - 5, box.top() - 5).toPoint()) != QColor(Qt::blue));
+    QCOMPARE(round.image().pixelColor(QPointF(box.left() - 6, box.center().y()).toPoint()), QColor(Qt::blue));
   }
 
   void textShapeIsLinear() {
@@ -414,6 +425,36 @@ private slots:
     TextFormat spaced = letters(7);
     spaced.letterSpacing = 2;
     QVERIFY(std::abs(width(spaced, "HHHH") - width(letters(7), "HHHH") - 6) < 0.05);
+  }
+
+  // Kerning is always on, so that with it as a feature HarfBuzz alone has to lay out as Qt does.
+  void featuresChangeLettersAndNothingElse() {
+    auto const outline = [](QStringList const& features, QString const& text, double spacing = 0) {
+      TextFormat format = letters(20);
+      format.family = "EB Garamond";
+      format.features = features;
+      format.letterSpacing = spacing;
+      return TextSymbol(format).outline(text);
+    };
+    auto const isAlike = [](QPainterPath const& a, QPainterPath const& b) {
+      if (a.elementCount() != b.elementCount()) return false;
+      for (int i = 0; i < a.elementCount(); ++i)
+        if (QLineF(a.elementAt(i), b.elementAt(i)).length() > 0.02) return false;
+      return true;
+    };
+    for (QString const text : {"AVATAR Office, T\u0065\u0301: 1920", "\u0633\u0644\u0627\u0645", "Πάτρα 東京"})
+      for (double const spacing : {0.0, 1.5})
+        QVERIFY2(isAlike(outline({"kern"}, text, spacing), outline({}, text, spacing)), qPrintable(text));
+    QVERIFY(!isAlike(outline({"kern=0"}, "AVATAR"), outline({}, "AVATAR")));
+    auto const height = [&](QStringList const& features, char const* text) {
+      return outline(features, text).boundingRect().height();
+    };
+    QVERIFY(height({"smcp"}, "l") < 0.8 * height({}, "l") && height({"smcp"}, "l") > height({}, "x"));
+    QVERIFY(height({"onum"}, "1") < 0.8 * height({"lnum"}, "1"));
+    QVERIFY(!isAlike(outline({"tnum"}, "1"), outline({}, "1")));
+    SysDisplay::takeFontTroubles();
+    outline({"smcp", "xxxx", "yyyy=0"}, "a");
+    QCOMPARE(SysDisplay::takeFontTroubles().lacking, QStringList{"EB Garamond (xxxx)"});
   }
 };
 

@@ -481,7 +481,7 @@ private:
   bool comesBack(QByteArray const& text) {
     put(path("after.kdx"), text);
     SysCarto::MapDocument again;
-    if (!again.Open(path("after.kdx"))) return false;
+    if (!MapDocumentHost::open(again, path("after.kdx"), SysCarto::ReadDepth::Schema)) return false;
     return MapDocumentHost::text(again) == text;
   }
 

@@ -23,11 +23,7 @@ using SysGeometry::Geometry;
 using SysGeometry::Point;
 using SysUtility::_ptr_t;
 
-namespace {
-
-constexpr double maxLengthPt = 1000;
-
-}  // namespace
+namespace {}  // namespace
 
 TextElement::TextElement() : symbol_(SysUtility::make<TextSymbol>()) {}
 TextElement::TextElement(TextElement const&) = default;
@@ -93,7 +89,7 @@ double TextElement::maxFactor(double wanted) const {
   double const longest =
       std::max({format.size, std::abs(format.letterSpacing), format.haloSize, format.boxLineWidth, format.boxPadding});
   // A little less, so that rounding does not bring it over.
-  return longest * factor > maxLengthPt ? maxLengthPt / longest * (1 - 1e-15) : factor;
+  return longest * factor > TextFormat::maxLengthPt ? TextFormat::maxLengthPt / longest * (1 - 1e-15) : factor;
 }
 
 void TextElement::enlarge(double factor) {

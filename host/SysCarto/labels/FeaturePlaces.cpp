@@ -220,12 +220,16 @@ void LabelPlacer::addAlongLines(WantedLabel label, std::vector<WantedLabel>& wan
 void LabelPlacer::addAlongLine(WantedLabel& label, MeasuredLine const& line, double cost) const {
   LabelText const text = label.texts[0];
   double const width = text.bounds.width(), height = text.bounds.height();
-  if (line.length() < width) return;  // before letters are measured, which takes long
-  double const lift = height / 2 + settings_.offsetPt;
   auto const add = [&](std::vector<LabelPiece> pieces) {
     addIfFree(label, {std::move(pieces), cost});
     cost += 1.0 / maxAlong;
   };
+  if (settings_.linePlace == LinePlace::Level) {
+    for (QPointF const& spot : spotsOn(line, height)) add({{0, spot, 0}});
+    return;
+  }
+  if (line.length() < width) return;  // before letters are measured, which takes long
+  double const lift = height / 2 + settings_.offsetPt;
   auto const letters =
       settings_.linePlace == LinePlace::Curved ? lettersOf(text.text, *text.symbol) : std::vector<Letter>();
   if (!letters.empty()) {

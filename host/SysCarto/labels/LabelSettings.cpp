@@ -29,6 +29,7 @@ constexpr Choice linePlaces[] = {
     {LinePlace::Above, "above", QT_TRANSLATE_NOOP("Fields", "Above the line")},
     {LinePlace::On, "on", QT_TRANSLATE_NOOP("Fields", "On the line")},
     {LinePlace::Curved, "curved", QT_TRANSLATE_NOOP("Fields", "Curved with the line")},
+    {LinePlace::Level, "level", QT_TRANSLATE_NOOP("Fields", "Level on the line")},
 };
 constexpr Choice areaTexts[] = {
     {AreaText::Level, "level", QT_TRANSLATE_NOOP("Fields", "Level")},
@@ -92,9 +93,12 @@ void listPlaces(Fields& fields, LabelSettings& labels) {
     if (!knownPlaces().contains(place))
       fields.fail("pointPlaces", QCoreApplication::translate("LabelSettings", "“%1” is no place; there are: %2")
                                      .arg(place, knownPlaces().join(QStringLiteral(", "))));
-  fields.choice<LinePlace>({"linePlace", QT_TRANSLATE_NOOP("Fields", "Place along lines"),
-                            QT_TRANSLATE_NOOP("Fields", "How the label of a line lies on it; letters stand upright.")},
-                           labels.linePlace, linePlaces, usual.linePlace);
+  fields.choice<LinePlace>(
+      {"linePlace", QT_TRANSLATE_NOOP("Fields", "Place along lines"),
+       QT_TRANSLATE_NOOP("Fields",
+                         "How the label of a line lies on it; letters stand upright. Level ones turn with no line, "
+                         "as the shields of roads.")},
+      labels.linePlace, linePlaces, usual.linePlace);
   fields.number(
       {"repeat", QT_TRANSLATE_NOOP("Fields", "Repeated after"),
        QT_TRANSLATE_NOOP("Fields",

@@ -24,8 +24,9 @@ struct LabelClass {
   SysUtility::_ptr_t<SysDisplay::TextSymbol> symbol;
 };
 
-/// How a label lies along its line.
-enum class LinePlace { Above, On, Curved };
+/// How a label lies along its line: straight along it, bent with it, or level on a place of it, as the shields of
+/// roads.
+enum class LinePlace { Above, On, Curved, Level };
 
 /// How a name lies in its area: level, along the area's length, or along it with letters apart, to tell how far it
 /// reaches.

@@ -94,6 +94,12 @@ std::vector<Stretch> straightStretches(MeasuredLine const& line, double width, d
   return stretches;
 }
 
+std::vector<QPointF> spotsOn(MeasuredLine const& line, double apart) {
+  std::vector<QPointF> spots;
+  for (double const at : startsOf(line, 0, apart)) spots.push_back(line.place(at));
+  return spots;
+}
+
 // The widths of beginnings say where letters lie, so that pairs keep their distance.
 std::vector<Letter> lettersOf(QString const& text, SysDisplay::TextSymbol const& symbol) {
   if (!isParted(text) || symbol.format().hasBox()) return {};  // a box is straight

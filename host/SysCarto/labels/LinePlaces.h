@@ -35,6 +35,9 @@ struct Stretch {
 /// The stretches of a line on which a text of that size can lie, nearest to the line's middle first.
 std::vector<Stretch> straightStretches(MeasuredLine const& line, double width, double height);
 
+/// Places on a line, about that far from each other, nearest to the line's middle first.
+std::vector<QPointF> spotsOn(MeasuredLine const& line, double apart);
+
 /// A piece of a text that keeps its shape on a bent line: a letter with its accents.
 struct Letter {
   QString text;

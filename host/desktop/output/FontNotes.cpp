@@ -32,6 +32,8 @@ QStringList fontNotes(SysDisplay::FontTroubles const& troubles) {
   QStringList notes;
   for (QString const& family : troubles.missing)
     notes << Texts::tr("The font %1 is not installed; another one stands in for it.").arg(family);
+  for (QString const& family : troubles.lacking)
+    notes << Texts::tr("The font lacks a feature that a text asks for: %1.").arg(family);
   if (!troubles.letters.isEmpty())
     notes << Texts::tr("No font that is installed has these letters, so that boxes stand for them: %1")
                  .arg(shortened(troubles.letters));

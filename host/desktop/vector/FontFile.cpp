@@ -1,45 +1,18 @@
 #include "FontFile.h"
 
+#include "host/SysDisplay/FontFace.h"
+
 #include <QPainterPath>
 
 #include <hb-ot.h>
 
 #include <array>
 #include <cmath>
-#include <map>
 
-namespace {
-
-using Blob = std::unique_ptr<hb_blob_t, Destroyer<hb_blob_destroy>>;
-
-// The tables that HarfBuzz has been given: it reads some after it has let go of them.
-struct Tables {
-  QRawFont font;
-  std::map<hb_tag_t, Blob> given;
-};
-
-hb_blob_t* tableOf(hb_face_t*, hb_tag_t tag, void* data) {
-  auto& tables = *static_cast<Tables*>(data);
-  Blob& blob = tables.given[tag];
-  if (!blob) {
-    char name[5] = {};
-    hb_tag_to_string(tag, name);
-    QByteArray const table = tables.font.fontTable(name);
-    blob.reset(hb_blob_create(table.constData(), static_cast<unsigned>(table.size()), HB_MEMORY_MODE_DUPLICATE, nullptr,
-                              nullptr));
-  }
-  return hb_blob_reference(blob.get());
-}
-
-}  // namespace
-
-FontFace faceOf(QRawFont const& font) {
-  return FontFace(
-      hb_face_create_for_tables(tableOf, new Tables{font, {}}, [](void* data) { delete static_cast<Tables*>(data); }));
-}
+using SysDisplay::FontFace;
 
 QString ownFamily(QRawFont const& font) {
-  FontFace const face = faceOf(font);
+  FontFace const face = SysDisplay::faceOf(font);
   std::array<char, 256> name{};
   unsigned size = name.size();
   hb_ot_name_get_utf8(face.get(), HB_OT_NAME_ID_FONT_FAMILY, hb_language_from_string("en", -1), &size, name.data());
@@ -60,8 +33,8 @@ QString genericFamily(QRawFont const& font) {
 }
 
 bool drawsAsTheFileDoes(QRawFont const& font) {
-  FontFace const face = faceOf(font);
-  std::unique_ptr<hb_font_t, Destroyer<hb_font_destroy>> const own(hb_font_create(face.get()));
+  FontFace const face = SysDisplay::faceOf(font);
+  std::unique_ptr<hb_font_t, SysDisplay::Destroyer<hb_font_destroy>> const own(hb_font_create(face.get()));
   double const scale = font.pixelSize() / hb_face_get_upem(face.get());
   for (quint32 glyph : font.glyphIndexesForString(QStringLiteral("HOlx"))) {
     hb_glyph_extents_t extents;

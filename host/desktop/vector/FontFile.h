@@ -2,23 +2,6 @@
 
 #include <QRawFont>
 
-#include <hb.h>
-
-#include <memory>
-
-/// Ends an object of HarfBuzz's by its own function.
-template <auto destroy>
-struct Destroyer {
-  template <class Object>
-  void operator()(Object* object) const {
-    destroy(object);
-  }
-};
-using FontFace = std::unique_ptr<hb_face_t, Destroyer<hb_face_destroy>>;
-
-/// A font's tables as HarfBuzz reads them.
-FontFace faceOf(QRawFont const& font);
-
 /// The name by which a font is found where a family has more than one of its weight and slant, as those cut for
 /// different sizes; empty where the font has none.
 QString ownFamily(QRawFont const& font);

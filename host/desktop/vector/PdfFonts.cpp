@@ -2,6 +2,8 @@
 
 #include "FontFile.h"
 
+#include "host/SysDisplay/FontFace.h"
+
 #include <QCryptographicHash>
 
 #include <hb-subset.h>
@@ -15,8 +17,8 @@ namespace {
 constexpr int unitsPerEm = 1000;  // of PDF's widths
 constexpr hb_tag_t cffTag = HB_TAG('C', 'F', 'F', ' ');
 
-using Blob = std::unique_ptr<hb_blob_t, Destroyer<hb_blob_destroy>>;
-using Input = std::unique_ptr<hb_subset_input_t, Destroyer<hb_subset_input_destroy>>;
+using Blob = std::unique_ptr<hb_blob_t, SysDisplay::Destroyer<hb_blob_destroy>>;
+using Input = std::unique_ptr<hb_subset_input_t, SysDisplay::Destroyer<hb_subset_input_destroy>>;
 
 // A font's makers may forbid that it is put into documents: bit 1 of fsType in the table OS/2.
 bool allowsEmbedding(QRawFont const& font) {
@@ -26,14 +28,14 @@ bool allowsEmbedding(QRawFont const& font) {
 }
 
 QByteArray subset(QRawFont const& font, std::map<quint32, QString> const& glyphs) {
-  FontFace const face = faceOf(font);
+  SysDisplay::FontFace const face = SysDisplay::faceOf(font);
   Input const input(hb_subset_input_create_or_fail());
   if (!input) return {};
   for (auto const& glyph : glyphs) hb_set_add(hb_subset_input_glyph_set(input.get()), glyph.first);
   hb_subset_input_set_flags(input.get(), HB_SUBSET_FLAGS_RETAIN_GIDS | HB_SUBSET_FLAGS_NOTDEF_OUTLINE);
   for (char const* table : {"GSUB", "GPOS", "GDEF", "kern", "name", "post", "OS/2", "DSIG"})
     hb_set_add(hb_subset_input_set(input.get(), HB_SUBSET_SETS_DROP_TABLE_TAG), hb_tag_from_string(table, -1));
-  FontFace const cut(hb_subset_or_fail(face.get(), input.get()));
+  SysDisplay::FontFace const cut(hb_subset_or_fail(face.get(), input.get()));
   if (!cut) return {};
   Blob const blob(font.fontTable("CFF ").isEmpty() ? hb_face_reference_blob(cut.get())
                                                    : hb_face_reference_table(cut.get(), cffTag));

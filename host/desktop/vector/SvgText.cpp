@@ -24,6 +24,15 @@ QString families(SvgFonts& fonts, TextFormat const& format, ShapedLine const& li
   return names.join(QLatin1Char(',')) + QLatin1Char(',') + fonts.font(line.glyphs.front().glyph->font()).generic;
 }
 
+// "smcp" and "liga=0" as style sheets say it.
+QString featureSettings(QStringList const& features) {
+  QStringList settings;
+  for (QString const& feature : features)
+    settings << QLatin1Char('\'') + feature.left(4) + QLatin1Char('\'') +
+                    feature.mid(4).replace(QLatin1Char('='), QLatin1Char(' '));
+  return settings.join(QStringLiteral(", "));
+}
+
 struct Word {
   QString letters;  // with the blanks behind it
   double from;
@@ -69,6 +78,8 @@ QByteArray svgText(SvgFonts& fonts, TextFormat const& format, ShapedLine const& 
   // Of a family without bold letters, those that are there may stand for them.
   if (format.bold && fonts.font(line.glyphs.front().glyph->font()).isBold) attributes += " font-weight=\"bold\"";
   if (format.italic) attributes += " font-style=\"italic\"";
+  if (!format.features.isEmpty())
+    attributes += svgAttribute("style", QStringLiteral("font-feature-settings: ") + featureSettings(format.features));
   if (format.letterSpacing != 0 && format.size > 0)
     attributes += " letter-spacing=\"" + svgNumber(format.letterSpacing / format.size * em, 2) + '"';
   std::vector<Word> const words = wordsOf(format, line);
