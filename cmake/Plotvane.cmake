@@ -47,8 +47,8 @@ endfunction()
 
 # With sanitizers and without optimisation these take a quarter of a minute each, or several: pixels that are compared,
 # documents made to be slow, the executable's exports, a window, all systems of coordinates, every row of every sheet and
-# of the schema. They have the label "slow"; what the target plotvane_quick_tests builds is what `ctest --label-exclude
-# slow` runs.
+# of the schema. They have the label "slow", and begin first, so that no core is left without work in the end. What the
+# target plotvane_quick_tests builds is what `ctest --label-exclude slow` runs.
 set(plotvane_slow_tests CoordinateSystemsTest ExportDialogTest ExportTest GraticuleTest IndexTest LabelSearchTest LabelTest LayerDrawTest
   LayoutTilingTest ProjectionTest RasterLayerTest TilingTest tst_confinement tst_element_list tst_exact_undo
   tst_export_subcommand tst_labels_by_hand tst_layer_classes tst_layer_tools tst_new_map tst_offline tst_print tst_properties
@@ -73,7 +73,7 @@ function(plotvane_test name)
   set_tests_properties(${name} PROPERTIES ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;TZ=UTC;QT_SCALE_FACTOR=1;ASAN_OPTIONS=detect_leaks=0" TIMEOUT 600)
   if(name IN_LIST plotvane_slow_tests)
-    set_tests_properties(${name} PROPERTIES LABELS slow)
+    set_tests_properties(${name} PROPERTIES LABELS slow COST 10)
   else()
     add_dependencies(plotvane_quick_tests ${name})
   endif()
