@@ -11,6 +11,7 @@ using SysUtility::Unit;
 namespace {
 
 constexpr SysUtility::Range lengths{0, TextFormat::maxLengthPt, Unit::Point};
+constexpr int maxFeatures = 32;
 constexpr SysUtility::Range anyLengths{-TextFormat::maxLengthPt, TextFormat::maxLengthPt, Unit::Point};
 
 // clang-format off
@@ -61,6 +62,8 @@ void TextSettings::list(Fields& fields) {
                                   "onum for old-style and lnum for lining figures, tnum for figures of one width, dlig "
                                   "for rare ligatures, ss01 for a stylistic set; liga=0 for no ligatures.")},
                format.features);
+  if (format.features.size() > maxFeatures)
+    fields.fail("features", Fields::tr("holds %1 entries; at most %2").arg(format.features.size()).arg(maxFeatures));
   for (QString const& feature : qAsConst(format.features))
     if (!isFontFeature(feature))
       fields.fail("features",

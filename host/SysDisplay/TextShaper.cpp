@@ -355,16 +355,21 @@ private:
     featured.text = line.text;
     std::vector<int> starts;  // of each glyph's letters
     double x = 0;
+    QStringList lackingAll = features;  // what another font lacks, that stands in for some letters, is not missed
     for (Stretch const& stretch : stretchesOf(Layout(font, line.text), line.text)) {
       double advance = 0;
+      QStringList lackingHere;
       for (FeaturedGlyph const& one : featureShaper_.shape(stretch.font, features, line.text, stretch.from, stretch.to,
-                                                           spacing, advance, lacking)) {
+                                                           spacing, advance, lackingHere)) {
         addGlyph(face(stretch.font), one.index, QPointF(x, 0) + one.place, featured);
         starts.push_back(one.letter);
       }
       x += advance;
+      for (QString const& feature : features)
+        if (!lackingHere.contains(feature)) lackingAll.removeAll(feature);
     }
     if (starts.empty()) return;
+    lacking += lackingAll;
     featured.width = x - spacing;
     for (size_t i = 0; i < starts.size(); ++i) {
       bool const isFirst = i == 0 || starts[i] != starts[i - 1];
