@@ -54,6 +54,7 @@ constexpr char const* untoldOfStyles[] = {
 constexpr char const* untoldOfBoth[] = {
     "The length of a text counts UTF-16 units.",
     "Symbols lie in the layers of symbols at most 3 deep.",
+    "A feature of a font is its tag of four letters or digits, alone or with a number as in liga=0; a text has at most 32.",
     "A stop of a gradient does not lie before the last one.",
     "An SVG is well-formed and refers to nothing outside itself.",
     "A field that is not described is reported and ignored.",

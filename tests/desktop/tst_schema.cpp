@@ -31,6 +31,7 @@ Untold const untold[] = {
     {QRegularExpression("is missing; name the layer, or a"), "A series names a layer"},
     {QRegularExpression("is missing; name the file of the data"), "A source names a file"},
     {QRegularExpression("layers lie within layers more than 3 deep"), "in the layers of symbols at most 3"},
+    {QRegularExpression("is no feature of OpenType"), "A feature of a font"},
     {QRegularExpression("is smaller than that of the colour before"), "A stop of a gradient"},
     {QRegularExpression("svg: "), "An SVG is"},
 };
