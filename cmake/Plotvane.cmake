@@ -2,20 +2,24 @@
 set(plotvane_test_options -O0)
 
 # plotvane_precompiled_headers()
-# Two targets that hold a precompiled header each: what most sources include, and that with Qt Test. No header of ours is
-# in them, so that an edit never rebuilds them. A source includes what it uses all the same: CMAKE_DISABLE_PRECOMPILE_HEADERS
-# turns them off. Their definitions are a part of those of every target, which the compiler asks for.
+# Two targets that hold a precompiled header each: what most sources include, and that with Qt Test. Of our own headers the
+# interface is in them, which most sources see and few changes touch; an edit of another rebuilds none of the two. A source
+# includes what it uses all the same: CMAKE_DISABLE_PRECOMPILE_HEADERS turns them off. Their definitions are a part of those
+# of every target, which the compiler asks for, so that each library has those of all: on ELF to export and to import are
+# one thing.
 function(plotvane_precompiled_headers)
   set(source ${PROJECT_BINARY_DIR}/precompiled.cpp)
   file(CONFIGURE OUTPUT ${source} CONTENT "")
-  set(headers <QApplication> <QCoreApplication> <QFileInfo> <QHash> <QImage> <QJsonDocument> <QJsonObject> <QPainter>
-    <QPainterPath> <QSet> <QString> <QStringList> <QUndoStack> <QVector>
-    <algorithm> <cmath> <functional> <future> <map> <memory> <optional> <vector>)
+  set(headers <QAction> <QApplication> <QCoreApplication> <QDialog> <QFileInfo> <QHash> <QImage> <QJsonArray> <QJsonDocument>
+    <QJsonObject> <QPainter> <QPainterPath> <QSet> <QString> <QStringList> <QTimer> <QUndoStack> <QVector> <QWidget>
+    <algorithm> <array> <cmath> <functional> <future> <map> <memory> <optional> <tuple> <variant> <vector>
+    <SysAdapterUI/PageLayoutControl.h> <SysCarto/MapDocument.h> <SysCarto/MapFrameElement.h> <SysCarto/MapSurroundFrame.h>
+    <SysDisplay/SimpleFillSymbol.h> <SysDisplay/SimpleLineSymbol.h> <SysFramework/HostAccess.h>)
   add_library(plotvane_precompiled OBJECT ${source})
-  target_link_libraries(plotvane_precompiled PRIVATE Qt5::Widgets)
+  target_link_libraries(plotvane_precompiled PRIVATE plotvane_sdk)
   target_precompile_headers(plotvane_precompiled PRIVATE ${headers})
   add_library(plotvane_precompiled_test OBJECT ${source})
-  target_link_libraries(plotvane_precompiled_test PRIVATE Qt5::Network Qt5::Test Qt5::Widgets)
+  target_link_libraries(plotvane_precompiled_test PRIVATE plotvane_sdk Qt5::Network Qt5::Test)
   target_compile_options(plotvane_precompiled_test PRIVATE ${plotvane_test_options})
   target_precompile_headers(plotvane_precompiled_test PRIVATE ${headers} <QtTest> <QtWidgets>)
 endfunction()
@@ -28,9 +32,7 @@ set(plotvane_no_undefined $<$<NOT:$<BOOL:${PLOTVANE_FUZZ}>>:-Wl,-z,defs>)
 # plug-in that links it installed needs Qt Widgets, but not what else the host is built on.
 function(plotvane_host_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
-  string(TOUPPER ${name} upper)
   add_library(${name} SHARED ${arg_UNPARSED_ARGUMENTS})
-  target_compile_definitions(${name} PRIVATE ${upper}_BUILD)
   target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
   target_link_libraries(${name} PUBLIC plotvane_sdk)
   foreach(link ${arg_LINKS})

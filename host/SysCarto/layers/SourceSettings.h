@@ -2,9 +2,10 @@
 
 #include "Connections.h"
 
+#include <SysCarto/Export.h>
+
 #include <QString>
 
-#include <tuple>
 #include <vector>
 
 namespace SysCarto {
@@ -17,10 +18,7 @@ struct TableJoin {
   QString tableKey;  ///< the field of the table that holds the same values
   QString prefix;    ///< stands before the names of the table's fields
 
-  bool operator==(TableJoin const& other) const {
-    return std::tie(file, layer, key, tableKey, prefix) ==
-           std::tie(other.file, other.layer, other.key, other.tableKey, other.prefix);
-  }
+  SYSCARTO_EXPORT bool operator==(TableJoin const& other) const;
 };
 
 /// Where the features of a layer come from.
@@ -58,11 +56,7 @@ struct SourceSettings {
     return source;
   }
 
-  bool operator==(SourceSettings const& other) const {
-    return std::tie(file, layer, filter, coordinateSystem, xField, yField, geometryField, joins, data, connection) ==
-           std::tie(other.file, other.layer, other.filter, other.coordinateSystem, other.xField, other.yField,
-                    other.geometryField, other.joins, other.data, other.connection);
-  }
+  SYSCARTO_EXPORT bool operator==(SourceSettings const& other) const;
 };
 
 }  // namespace SysCarto

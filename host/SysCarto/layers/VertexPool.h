@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <iterator>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace SysCarto {
@@ -24,8 +24,7 @@ public:
 
   /// Takes over the runs of another pool, which stay at their places.
   void takeOver(VertexPool& other) {
-    blocks_.insert(blocks_.end(), std::make_move_iterator(other.blocks_.begin()),
-                   std::make_move_iterator(other.blocks_.end()));
+    for (std::unique_ptr<double[]>& block : other.blocks_) blocks_.push_back(std::move(block));
     other.clear();
   }
 
