@@ -93,7 +93,7 @@ std::vector<FeaturedGlyph> FeatureShaper::shape(QRawFont const& font, QStringLis
 
 // Of what HarfBuzz understands the part that style sheets have words for, too.
 bool isFontFeature(QString const& feature) {
-  static QRegularExpression const known(QStringLiteral("^[A-Za-z0-9]{4}(=[0-9]{1,4})?$"));
+  static QRegularExpression const known(QStringLiteral("\\A[A-Za-z0-9]{4}(=[0-9]{1,4})?\\z"));
   return known.match(feature).hasMatch();
 }
 

@@ -126,7 +126,8 @@ public:
     auto const* const known = texts_.object(key);
     auto const shaped = known ? *known : std::make_shared<ShapedText const>(layOut(format, text));
     if (!known) texts_.insert(key, new std::shared_ptr<ShapedText const>(shaped), text.size() + 16);
-    for (QString const& feature : shaped->lackingFeatures) {
+    // A font that stands in for a missing one need not have them.
+    for (QString const& feature : letters_[fontKey].isMissing ? QStringList() : shaped->lackingFeatures) {
       QString const told = QStringLiteral("%1 (%2)").arg(format.family, feature);
       if (!troubles_.lacking.contains(told)) troubles_.lacking << told;
     }
@@ -326,24 +327,54 @@ private:
     return shaped;
   }
 
-  // A part of a line that one font draws.
+  // A part of a line that one font draws, of letters of one script; or a gap that none draws, as that of a tab.
   struct Stretch {
     QRawFont font;
+    QChar::Script script;
     int from, to;
+    double gap;  // in units of the font's size
   };
+
+  static bool isGap(QChar letter) {
+    return letter.category() == QChar::Other_Control || letter == QChar::LineSeparator ||
+           letter == QChar::ParagraphSeparator;
+  }
+
+  // Marks, digits and the like go with the letters before them.
+  static QChar::Script scriptAt(QString const& text, int place) {
+    uint const code = text[place].isHighSurrogate() && place + 1 < text.size()
+                          ? QChar::surrogateToUcs4(text[place], text[place + 1])
+                          : text[place].unicode();
+    QChar::Script const script = QChar::script(code);
+    return script == QChar::Script_Inherited ? QChar::Script_Common : script;
+  }
 
   // None where some of it runs from right to left.
   static std::vector<Stretch> stretchesOf(Layout const& layout, QString const& text) {
     std::vector<Stretch> stretches;
+    int begin = 0;  // of what belongs to the next stretch
     for (int from = 0, to = 0; from < text.size(); from = to) {
       to = std::max(layout.text.nextCursorPosition(from), from + 1);
+      if (isGap(text[from])) {
+        double const gap = layout.line.cursorToX(to) - layout.line.cursorToX(from);
+        stretches.push_back({QRawFont(), QChar::Script_Common, from, to, gap / referencePx});
+        begin = to;
+        continue;
+      }
       auto const runs = layout.text.glyphRuns(from, to - from);
       if (std::any_of(runs.begin(), runs.end(), [](QGlyphRun const& run) { return run.isRightToLeft(); })) return {};
-      bool const goesOn = !stretches.empty() && (runs.isEmpty() || runs[0].rawFont() == stretches.back().font);
-      if (goesOn)
-        stretches.back().to = to;
-      else if (!runs.isEmpty())
-        stretches.push_back({runs[0].rawFont(), stretches.empty() ? 0 : from, to});
+      QChar::Script const script = scriptAt(text, from);
+      Stretch* const last = stretches.empty() || !stretches.back().font.isValid() ? nullptr : &stretches.back();
+      bool const isOfAny = script == QChar::Script_Common || (last && last->script == QChar::Script_Common);
+      if (last && (runs.isEmpty() || ((isOfAny || script == last->script) && runs[0].rawFont() == last->font))) {
+        last->to = to;
+        if (last->script == QChar::Script_Common) last->script = script;
+      } else if (!runs.isEmpty()) {
+        stretches.push_back({runs[0].rawFont(), script, begin, to, 0});
+      } else {
+        continue;  // what shows nothing goes with what follows
+      }
+      begin = to;
     }
     return stretches;
   }
@@ -357,6 +388,8 @@ private:
     double x = 0;
     QStringList lackingAll = features;  // what another font lacks, that stands in for some letters, is not missed
     for (Stretch const& stretch : stretchesOf(Layout(font, line.text), line.text)) {
+      x += stretch.gap;
+      if (!stretch.font.isValid()) continue;
       double advance = 0;
       QStringList lackingHere;
       for (FeaturedGlyph const& one : featureShaper_.shape(stretch.font, features, line.text, stretch.from, stretch.to,

@@ -1,15 +1,27 @@
 #include "EndSignals.h"
 
-void EndSignals::take(int signal, void (*handler)(int)) {
-  struct sigaction action = {}, old = {};
+#include <iterator>
+
+EndSignals::EndSignals(Handler handler, std::initializer_list<int> signalsToo) : handler_(handler) {
+  struct sigaction action = {};
   action.sa_handler = handler;
   action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
-  sigaction(signal, nullptr, &old);
-  if (old.sa_handler != SIG_IGN) sigaction(signal, &action, nullptr);
+  std::vector<int> wanted(std::begin(all), std::end(all));
+  wanted.insert(wanted.end(), signalsToo.begin(), signalsToo.end());
+  for (int const signal : wanted) {
+    Taken taken{signal, {}};
+    sigaction(signal, nullptr, &taken.before);
+    if (taken.before.sa_handler == SIG_IGN) continue;
+    sigaction(signal, &action, nullptr);
+    taken_.push_back(taken);
+  }
 }
 
-void EndSignals::giveBack(int signal, void (*handler)(int)) {
-  struct sigaction old = {};
-  sigaction(signal, nullptr, &old);
-  if (old.sa_handler == handler) std::signal(signal, SIG_DFL);
+// A signal that has come is not taken any more, and ends the process.
+EndSignals::~EndSignals() {
+  for (Taken const& taken : taken_) {
+    struct sigaction now = {};
+    sigaction(taken.signal, nullptr, &now);
+    if (now.sa_handler == handler_) sigaction(taken.signal, &taken.before, nullptr);
+  }
 }

@@ -1,7 +1,6 @@
 #include "Farewell.h"
 
 #include "DocumentLock.h"
-#include "EndSignals.h"
 #include "Leftover.h"
 #include "recovery/RecoveryCopy.h"
 
@@ -12,6 +11,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 
 namespace {
 
@@ -28,15 +28,6 @@ void note(int signal) {
   errno = error;
 }
 
-void die() {
-  char signal = 0;
-  if (read(readEnd, &signal, 1) != 1) return;
-  alarm(0);
-  Farewell::leave();
-  std::signal(signal, SIG_DFL);
-  std::raise(signal);
-}
-
 }  // namespace
 
 // Without a pipe the signals end the process as ever.
@@ -46,17 +37,30 @@ Farewell::Farewell() {
   readEnd = ends[0];
   writeEnd = ends[1];
   auto* const notifier = new QSocketNotifier(readEnd, QSocketNotifier::Read, this);
-  connect(notifier, &QSocketNotifier::activated, this, die);
+  connect(notifier, &QSocketNotifier::activated, this, &Farewell::die);
   present = this;
-  for (int const signal : EndSignals::all) EndSignals::take(signal, note);
+  signals_.emplace(note);
 }
 
 Farewell::~Farewell() {
-  for (int const signal : EndSignals::all) EndSignals::giveBack(signal, note);
   present = nullptr;
-  if (readEnd < 0) return;
+  if (!signals_) return;
+  signals_.reset();
+  alarm(0);
   close(readEnd);
   close(writeEnd);
+}
+
+// Whatever signal comes now ends the process at once; the alarm of the first one does not.
+void Farewell::die() {
+  char signal = 0;
+  if (read(readEnd, &signal, 1) != 1) return;
+  signals_.reset();
+  alarm(0);
+  leave();
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
+  std::_Exit(128 + signal);  // the first process of a container outlives that
 }
 
 void Farewell::leave() {

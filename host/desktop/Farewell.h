@@ -1,6 +1,10 @@
 #pragma once
 
+#include "EndSignals.h"
+
 #include <QObject>
+
+#include <optional>
 
 /// The end of a process with a window that comes from outside, as when a session ends.
 ///
@@ -16,4 +20,9 @@ public:
   /// Does what a signal would have done before it ends the process; nothing without an object, or off its thread. For
   /// the moment at which Qt is about to end the process, since the display has gone.
   static void leave();
+
+private:
+  void die();
+
+  std::optional<EndSignals> signals_;
 };

@@ -1,7 +1,6 @@
 #include "Interrupt.h"
 
 #include "Console.h"
-#include "EndSignals.h"
 
 #include <atomic>
 
@@ -20,12 +19,10 @@ void ask(int signal) {
 
 Interrupt::Interrupt() : cancel_(SysUtility::make<SysUI::TrackerCancel>()) {
   current = cancel_.get();
-  EndSignals::take(SIGALRM, ask);
-  for (int const signal : EndSignals::all) EndSignals::take(signal, ask);
+  signals_.emplace(ask, std::initializer_list<int>{SIGALRM});
 }
 
 Interrupt::~Interrupt() {
-  EndSignals::giveBack(SIGALRM, ask);
-  for (int const signal : EndSignals::all) EndSignals::giveBack(signal, ask);
+  signals_.reset();
   current = nullptr;
 }

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "EndSignals.h"
+
 #include <SysUI/TrackerCancel.h>
+
+#include <optional>
 
 /// While it lives, an interrupt, a termination signal or the alarm of a supervisor asks the work to stop, so that it
 /// can clean up behind itself. A second one ends the process at once. One object at a time.
@@ -15,4 +19,5 @@ public:
 
 private:
   SysUtility::_ptr_t<SysUI::TrackerCancel> cancel_;
+  std::optional<EndSignals> signals_;
 };

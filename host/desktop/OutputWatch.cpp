@@ -1,6 +1,7 @@
 #include "OutputWatch.h"
 
 #include "Console.h"
+#include "Farewell.h"
 #include "Subcommand.h"
 
 #include "output/ImageFormat.h"
@@ -93,6 +94,7 @@ void OutputWatch::endIfInterrupted() const {
   if (isAtWork && isBegun) QFile::remove(path_);
   if (isAtWork || !isBegun)
     Console::complain(tr("%1 was not written: interrupted.").arg(QDir::toNativeSeparators(path_)));
+  Farewell::leave();
   Console::finish();
   std::_Exit(WorkFailed);
 }

@@ -59,8 +59,8 @@ void passOn(QtMsgType type, QMessageLogContext const&, QString const& text) {
     if (text.startsWith(QLatin1String(known))) return;
   if (isGivenUp(text) && SysDisplay::DrawingBudget::giveUp()) return;
   if (type == QtFatalMsg && text.contains(QLatin1String("no Qt platform plugin"))) endWithoutDisplay();
-  if (text.contains(QLatin1String("connection broke")))
-    Farewell::leave();  // that to the display, as X11 and Wayland say
+  for (char const* lost : {"The X11 connection ", "The Wayland connection "})
+    if (text.startsWith(QLatin1String(lost))) Farewell::leave();  // broke, and Qt ends the process
   Console::complain(text);
 }
 

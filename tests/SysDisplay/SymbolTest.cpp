@@ -442,7 +442,8 @@ private slots:
         if (QLineF(a.elementAt(i), b.elementAt(i)).length() > 0.02) return false;
       return true;
     };
-    for (QString const text : {"AVATAR Office, T\u0065\u0301: 1920", "\u0633\u0644\u0627\u0645", "Πάτρα 東京"})
+    for (QString const text :
+         {"AVATAR Office, T\u0065\u0301: 1920", "\u0633\u0644\u0627\u0645", "Πάτρα 東京", "TaДВ\t(1) To\r"})
       for (double const spacing : {0.0, 1.5})
         QVERIFY2(isAlike(outline({"kern"}, text, spacing), outline({}, text, spacing)), qPrintable(text));
     QVERIFY(!isAlike(outline({"kern=0"}, "AVATAR"), outline({}, "AVATAR")));

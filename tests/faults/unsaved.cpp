@@ -3,6 +3,7 @@
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/desktop/DialogAnswers.h"
 #include "host/desktop/Farewell.h"
+#include "host/desktop/Interrupt.h"
 #include "host/desktop/MainWindow.h"
 
 #include <cstdio>
@@ -68,6 +69,7 @@ int work(MainWindow& window, QString const& document) {
   int const parts = qEnvironmentVariableIntValue("PLOTVANE_PARTS");
   if (!window.open(document) || !addParts(window, parts)) return 1;
   WorkbenchPage page(window.bench());
+  { Interrupt const ofAnExport; }
   tell("ready", 0);
   for (int step = 1; step < 1000; ++step) {
     tell("begun", step);

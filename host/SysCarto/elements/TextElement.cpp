@@ -23,8 +23,6 @@ using SysGeometry::Geometry;
 using SysGeometry::Point;
 using SysUtility::_ptr_t;
 
-namespace {}  // namespace
-
 TextElement::TextElement() : symbol_(SysUtility::make<TextSymbol>()) {}
 TextElement::TextElement(TextElement const&) = default;
 TextElement::~TextElement() = default;

@@ -179,7 +179,10 @@ void RecoveryCopy::keepAll() {
 
 void RecoveryCopy::leaveAll() {
   keepAll();
-  for (RecoveryCopy* const copy : qAsConst(copies())) copy->lock_.reset();
+  for (RecoveryCopy* const copy : qAsConst(copies())) {
+    copy->writer_.waitForDone();  // also where a copy that is not needed any more is being removed
+    copy->lock_.reset();
+  }
 }
 
 // The files are another thread's business, and the text that they hold. Beside some settings nothing can be kept.

@@ -78,7 +78,7 @@ QByteArray svgText(SvgFonts& fonts, TextFormat const& format, ShapedLine const& 
   // Of a family without bold letters, those that are there may stand for them.
   if (format.bold && fonts.font(line.glyphs.front().glyph->font()).isBold) attributes += " font-weight=\"bold\"";
   if (format.italic) attributes += " font-style=\"italic\"";
-  if (!format.features.isEmpty())
+  if (!line.letters.empty())  // where they were set
     attributes += svgAttribute("style", QStringLiteral("font-feature-settings: ") + featureSettings(format.features));
   if (format.letterSpacing != 0 && format.size > 0)
     attributes += " letter-spacing=\"" + svgNumber(format.letterSpacing / format.size * em, 2) + '"';
