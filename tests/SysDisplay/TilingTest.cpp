@@ -210,10 +210,10 @@ private slots:
   }
   void tilesEqualTheWhole() {
     auto const [scene] = fetched<Scene>();
-    for (double pageScale : {1.0, 600 / 96.0}) {
+    for (auto const& [pageScale, sides] : {std::pair{1.0, std::vector{64, 100}}, {600 / 96.0, {512}}}) {
       QImage const whole = sheet(pageScale).drawn(scene);
       QVERIFY2(ink(whole).pixels > 0, "the scene shows nothing");
-      for (int side : {64, 100, 512}) {
+      for (int const side : sides) {
         Difference const found = difference(whole, sheet(pageScale).drawnInTiles(scene, side));
         QVERIFY2(found.pixels == 0, qPrintable(found.text()));
       }

@@ -215,10 +215,10 @@ private slots:
 
   void aFullDiskLeavesTheOldImage_data() {
     Rows<QString, double, double> row;
+    row("before the drawing", "full.png", 0.4, 0.0);
     for (QString const suffix : {"png", "jpg", "bmp", "tif"}) {
-      row("a " + suffix + ", before the drawing", "old." + suffix, 0.4, 0.0);
-      row("a " + suffix + ", halfway through the image", "old." + suffix, 1.0, 0.5);
-      row("a " + suffix + ", at its last bytes", "old." + suffix, 1.0, 0.95);
+      row("a " + suffix + ", halfway through the image", "full." + suffix, 1.0, 0.5);
+      row("a " + suffix + ", at its last bytes", "full." + suffix, 1.0, 0.95);
     }
   }
   // The disk has room for a part of the temporary file or of the image.
@@ -230,9 +230,8 @@ private slots:
                                 "100"};
     qint64 const temporaryBytes = qint64{3} * 1653 * 1169;
     qint64 const headerBytes = 60000;
-    QCOMPARE(run(arguments, folder_.path()).status, 0);
+    if (!QFileInfo::exists(folder_.path(name))) QCOMPARE(run(arguments, folder_.path()).status, 0);
     qint64 const imageBytes = QFileInfo(folder_.path(name)).size();
-    QVERIFY(QFile::remove(folder_.path(name)));
     QVERIFY(imageBytes > 2 * headerBytes);
 
     bool const isDrawn = ofTemporary == 1;

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <memory>
-#include <utility>
 #include <vector>
 
 namespace SysCarto {
@@ -23,23 +21,12 @@ public:
   void keep(int count) { next_ += 2 * static_cast<std::size_t>(count); }
 
   /// Takes over the runs of another pool, which stay at their places.
-  void takeOver(VertexPool& other) {
-    for (std::unique_ptr<double[]>& block : other.blocks_) blocks_.push_back(std::move(block));
-    other.clear();
-  }
+  void takeOver(VertexPool& other);
 
   void clear() { *this = VertexPool(); }
 
 private:
-  // Blocks grow: there may be thousands of small layers.
-  static constexpr std::size_t firstBlock = 1 << 11, mostDoublings = 5;
-
-  void addBlock(std::size_t doubles) {
-    std::size_t const size = std::max(doubles, firstBlock << std::min(blocks_.size(), mostDoublings));
-    blocks_.emplace_back(new double[size]);  // not filled: what is not used costs no memory
-    next_ = blocks_.back().get();
-    end_ = next_ + size;
-  }
+  void addBlock(std::size_t doubles);
 
   std::vector<std::unique_ptr<double[]>> blocks_;
   double* next_ = nullptr;
