@@ -53,16 +53,25 @@ struct Result {
   double placed = 0, seconds = 0;
 };
 
-Result solve(int size, std::vector<MarkSide> const& sides, bool areAllEqual) {
+struct Model {
+  char const* name;
+  std::vector<MarkSide> sides;
+  bool areWhole = false;  // points, of which places are so many across and up
+  bool areAllEqual = true;
+  int effort = 1;
+};
+
+Result solve(int size, Model const& model) {
   Result result;
   for (unsigned instance = 1; instance <= instances; ++instance) {
     std::mt19937 chance(instance);
-    LabelPlan plan;
+    LabelPlan plan(model.effort);
     QElapsedTimer clock;
     clock.start();
     for (int i = 0; i < size; ++i) {
-      double const x = between(chance, pageWidth), y = between(chance, pageHeight);
-      plan.add(labelAt(i, x, y, sides), areAllEqual ? 0 : i, {});
+      double x = between(chance, pageWidth), y = between(chance, pageHeight);
+      if (model.areWhole) x = std::floor(x), y = std::floor(y);
+      plan.add(labelAt(i, x, y, model.sides), model.areAllEqual ? 0 : i, {});
     }
     plan.place([] { return true; });
     result.seconds += static_cast<double>(clock.nsecsElapsed()) / 1e9 / instances;
@@ -76,21 +85,23 @@ Result solve(int size, std::vector<MarkSide> const& sides, bool areAllEqual) {
 
 int main() {
   QTextStream out(stdout);
-  struct Model {
-    char const* name;
-    std::vector<MarkSide> sides;
-    bool areAllEqual;
-  };
   LabelSettings named;
   named.places = QStringList{"upperRight", "upperLeft", "lowerRight", "lowerLeft", "right", "left", "above", "below"};
-  Model const models[] = {{"four corners", corners(), true},
-                          {"eight named places", sidesOf(named), true},
-                          {"all usual places", sidesOf(LabelSettings()), true},
-                          {"all usual places, each more important than the next", sidesOf(LabelSettings()), false}};
+  std::vector<MarkSide> const eight = sidesOf(named), all = sidesOf(LabelSettings());
+  Model const models[] = {{"four corners", corners()},
+                          {"four corners, places on whole points", corners(), true},
+                          {"eight named places", eight},
+                          {"eight named places, places on whole points", eight, true},
+                          {"all usual places", all},
+                          {"all usual places, places on whole points", all, true},
+                          {"all usual places, each more important than the next", all, false, false},
+                          {"four corners, effort 20", corners(), false, true, 20},
+                          {"four corners, places on whole points, effort 20", corners(), true, true, 20},
+                          {"all usual places, effort 20", all, false, true, 20}};
   for (Model const& model : models) {
     out << model.name << ":\n";
     for (int const size : sizes) {
-      auto const [placed, seconds] = solve(size, model.sides, model.areAllEqual);
+      auto const [placed, seconds] = solve(size, model);
       out << QStringLiteral("  %1 labels: %2 % placed, %3 s\n")
                  .arg(size, 5)
                  .arg(100 * placed / size, 0, 'f', 2)

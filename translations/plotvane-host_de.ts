@@ -6479,6 +6479,18 @@
         <source>OpenType features by their tags, where the font has them: smcp for small capitals, onum for old-style and lnum for lining figures, tnum for figures of one width, dlig for rare ligatures, ss01 for a stylistic set; liga=0 for no ligatures.</source>
         <translation>OpenType-Eigenschaften nach ihren Kürzeln, wo die Schrift sie hat: smcp für Kapitälchen, onum für Mediäval- und lnum für Versalziffern, tnum für Ziffern gleicher Breite, dlig für seltene Ligaturen, ss01 für eine Stilgruppe; liga=0 für keine Ligaturen.</translation>
     </message>
+    <message>
+        <source>How the labels of all layers are placed against each other.</source>
+        <translation>Wie die Beschriftungen aller Ebenen gegeneinander platziert werden.</translation>
+    </message>
+    <message>
+        <source>Effort</source>
+        <translation>Aufwand</translation>
+    </message>
+    <message>
+        <source>How many times as long as usual the search for their places may take. More labels find a place, where many are in each other&apos;s way.</source>
+        <translation>Wievielmal so lange wie üblich die Suche nach ihren Plätzen dauern darf. Wo viele einander im Weg sind, finden mehr Beschriftungen Platz.</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>

@@ -6479,6 +6479,18 @@
         <source>OpenType features by their tags, where the font has them: smcp for small capitals, onum for old-style and lnum for lining figures, tnum for figures of one width, dlig for rare ligatures, ss01 for a stylistic set; liga=0 for no ligatures.</source>
         <translation>按标记列出的 OpenType 特性，字体具备时生效：smcp 为小型大写字母，onum 为旧式数字，lnum 为等高数字，tnum 为等宽数字，dlig 为罕用连字，ss01 为一组样式；liga=0 表示不用连字。</translation>
     </message>
+    <message>
+        <source>How the labels of all layers are placed against each other.</source>
+        <translation>所有图层的标注如何相互协调放置。</translation>
+    </message>
+    <message>
+        <source>Effort</source>
+        <translation>投入</translation>
+    </message>
+    <message>
+        <source>How many times as long as usual the search for their places may take. More labels find a place, where many are in each other&apos;s way.</source>
+        <translation>为标注寻找位置的时间最多为平常的多少倍。在许多标注相互妨碍之处，更多的标注能找到位置。</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>

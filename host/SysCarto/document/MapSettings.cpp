@@ -21,6 +21,7 @@ using SysUtility::TextKind;
 namespace {
 
 constexpr double maxScale = 1e15;
+constexpr int maxLabelEffort = 20;
 constexpr double sameScale = 1e-9;
 
 struct Texts {
@@ -59,6 +60,7 @@ MapSettings MapSettings::of(Map const& map) {
   settings.rotation = MapHost::storedRotation(map);
   settings.scaleLocked = MapHost::lockedScale(map) > 0;
   settings.scale = MapHost::storedScale(map);
+  settings.labelEffort = MapHost::labelEffort(map);
   return settings;
 }
 
@@ -87,6 +89,7 @@ void MapSettings::list(Fields& fields) {
                 rotation, {-360, 360, SysUtility::Unit::Degree}, 0.0);
   if (fields.isReading()) rotation = std::fmod(rotation, 360);
   listScale(fields);
+  listLabels(fields);
   if (!fields.isReading() || !fields.ok()) return;
   if (bounds[2] - bounds[0] < minMapExtent || bounds[3] - bounds[1] < minMapExtent)
     fields.fail("bounds", Texts::tr("must be xmin, ymin, xmax, ymax, with xmin < xmax and ymin < ymax"));
@@ -114,6 +117,22 @@ void MapSettings::listScale(Fields& fields) {
     fields.fail("scale", Texts::tr("is for a map with “scaleLocked”; without it the bounds say what is shown"));
 }
 
+void MapSettings::listLabels(Fields& fields) {
+  int effort = labelEffort;
+  bool const isThere = fields.optionalObject(
+      {"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
+       QT_TRANSLATE_NOOP("Fields", "How the labels of all layers are placed against each other."), "mapLabels"},
+      labelEffort != 1, [&](Fields& own) {
+        own.integer(
+            {"effort", QT_TRANSLATE_NOOP("Fields", "Effort"),
+             QT_TRANSLATE_NOOP("Fields",
+                               "How many times as long as usual the search for their places may take. More labels "
+                               "find a place, where many are in each other's way.")},
+            effort, 1, maxLabelEffort, 1);
+      });
+  if (fields.isReading()) labelEffort = isThere ? effort : 1;
+}
+
 namespace {
 
 // What a system does not have a place for is left out.
@@ -138,6 +157,7 @@ void MapSettings::applyTo(Map& map, QStringList& warnings) const {
   map.SetName(name);
   map.SetCoordinateSystem(coordinateSystem);
   MapHost::setRotation(map, rotation);
+  MapHost::setLabelEffort(map, labelEffort);
   MapHost::lockScale(map, scaleLocked ? scale : 0);
   map.SetExtent(SysUtility::make<SysGeometry::Envelope>(shown[0], shown[1], shown[2], shown[3]));
   double const factor = scale / MapHost::storedScale(map);

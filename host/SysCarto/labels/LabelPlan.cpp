@@ -19,7 +19,7 @@ constexpr std::int64_t looksAtOnce = 20000;  // a millisecond or less
 
 }  // namespace
 
-LabelPlan::LabelPlan() : tree_(std::make_unique<BoxTree>()) {}
+LabelPlan::LabelPlan(int effort) : search_(effort), tree_(std::make_unique<BoxTree>()) {}
 LabelPlan::~LabelPlan() = default;
 
 void LabelPlan::add(WantedLabel label, int rank, Room const& room) {
@@ -142,7 +142,7 @@ bool LabelPlan::isNear(Way const& a, Way const& b, double distance) {
   return std::hypot(between.x(), between.y()) < distance;
 }
 
-MapLabelling::MapLabelling(std::vector<LabelPlacer*> layers) : layers_(std::move(layers)) {}
+MapLabelling::MapLabelling(std::vector<LabelPlacer*> layers, int effort) : layers_(std::move(layers)), plan_(effort) {}
 
 bool MapLabelling::goOn(std::function<bool()> const& mayGoOn) {
   if (!prepare(mayGoOn)) return false;

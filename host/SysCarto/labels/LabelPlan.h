@@ -19,7 +19,8 @@ class BoxTree;
 /// Labels that are placed against each other, all at once.
 class SYSCARTO_EXPORT LabelPlan {
 public:
-  LabelPlan();
+  /// `effort` is that of the search.
+  explicit LabelPlan(int effort = 1);
   ~LabelPlan();
 
   /// In points of the page: what is kept free around a label, and how far labels are apart that repeat a text of a
@@ -79,8 +80,8 @@ private:
 /// next, and in a layer those of a higher priority.
 class SYSCARTO_EXPORT MapLabelling {
 public:
-  /// Layers that work on one page, and live as long as this.
-  explicit MapLabelling(std::vector<LabelPlacer*> layers);
+  /// Layers that work on one page, and live as long as this. `effort` is that of the search.
+  MapLabelling(std::vector<LabelPlacer*> layers, int effort);
 
   /// Goes on until it is done, as it answers, or `mayGoOn` says no. What was placed is in the layers then.
   bool goOn(std::function<bool()> const& mayGoOn);

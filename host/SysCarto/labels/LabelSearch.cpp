@@ -268,8 +268,9 @@ void LabelSearch::stir() {
 
 bool LabelSearch::improve() {
   int const active = static_cast<int>(active_.size());
-  bool const isWorthIt = !waiting_.empty() && step_ < stepsALabel * active && step_ - lastGain_ < patience * active &&
-                         looks_ - looksBefore_ <= mostLooks;
+  bool const isWorthIt = !waiting_.empty() && step_ < effort_ * stepsALabel * active &&
+                         step_ - lastGain_ < effort_ * patience * active &&
+                         looks_ - looksBefore_ <= effort_ * mostLooks;
   if (!isWorthIt) return false;
   ++step_;
   size_t const waited = waiting_.size();

@@ -20,6 +20,9 @@ namespace SysCarto {
 /// are taken. The same input has the same result everywhere.
 class SYSCARTO_EXPORT LabelSearch {
 public:
+  /// `effort` is how many times as long as usual it looks for better, at most.
+  explicit LabelSearch(int effort = 1) : effort_(effort) {}
+
   /// In the order of importance. `rank` is the same for equally important ones, and grows.
   void addLabel(int rank);
 
@@ -103,6 +106,7 @@ private:
   std::vector<int> pushed_;                // labels that need another place
   std::vector<std::pair<int, int>> done_;  // labels and what they had before, to go back
   std::minstd_rand chance_;
+  int const effort_;
   int step_ = 0, lastGain_ = 0;
   std::int64_t looks_ = 0;
 

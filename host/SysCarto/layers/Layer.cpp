@@ -3,6 +3,7 @@
 #include "host/SysUtility/ChangeMark.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace SysCarto {
 
@@ -17,6 +18,7 @@ struct Layer::Private {
   QString credits;
   LayerGroups groups;
   QList<Layer*> fellows;
+  int labelEffort = 1;
   SysUtility::ChangeMark change;
   quint64 look = 1;
 };
@@ -70,6 +72,11 @@ void LayerHost::setGroups(Layer& layer, LayerGroups const& groups) {
 
 QList<Layer*> const& LayerHost::fellows(Layer const& layer) { return layer.d->fellows; }
 void LayerHost::setFellows(Layer& layer, QList<Layer*> const& fellows) { layer.d->fellows = fellows; }
+
+int LayerHost::labelEffort(Layer const& layer) { return layer.d->labelEffort; }
+void LayerHost::setLabelEffort(Layer& layer, int effort) {
+  if (std::exchange(layer.d->labelEffort, effort) != effort) changeLook(layer);
+}
 
 quint64 LayerHost::lastChange(Layer const& layer) {
   quint64 last = layer.d->change.time();

@@ -31,6 +31,10 @@ struct SYSCARTO_EXPORT LayerHost {
   static QList<Layer*> const& fellows(Layer const& layer);
   static void setFellows(Layer& layer, QList<Layer*> const& fellows);
 
+  /// How many times as long as usual the search for places of the map's labels may take. Told by the map.
+  static int labelEffort(Layer const& layer);
+  static void setLabelEffort(Layer& layer, int effort);
+
   /// When what can be set of every layer was last changed outside the history's steps (`ChangeMark`).
   static quint64 lastChange(Layer const& layer);
 

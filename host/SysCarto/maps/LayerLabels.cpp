@@ -156,7 +156,7 @@ bool VectorLayer::PlannedLabels::place(std::function<bool()> const& mayGoOn) {
     std::vector<LabelPlacer*> placers;
     for (Labelled& layer : layers)
       if (layer.placer) placers.push_back(layer.placer.get());
-    labelling.emplace(placers);
+    labelling.emplace(placers, layers.empty() ? 1 : LayerHost::labelEffort(*layers.front().layer));
   }
   if (!labelling->goOn(mayGoOn)) return false;
   for (; handed < layers.size(); ++handed) {

@@ -55,6 +55,7 @@ struct Map::Private {
   _ptr_t<DisplayTransformation> transformation = make<DisplayTransformation>();
   ElementContainer graphics;
   int frames = 0;
+  int labelEffort = 1;
   bool showsUnplaced = false;
   std::optional<MapHost::Portion> instead;
   SysUtility::ChangeMark change;
@@ -71,7 +72,10 @@ void Map::Private::setLayers(QList<_ptr_t<Layer>> const& wanted) {
   for (auto const& layer : wanted) now << layer.get();
   for (Layer* const layer : qAsConst(before))
     if (LayerHost::fellows(*layer) == before) LayerHost::setFellows(*layer, {});
-  for (Layer* const layer : qAsConst(now)) LayerHost::setFellows(*layer, now);
+  for (Layer* const layer : qAsConst(now)) {
+    LayerHost::setFellows(*layer, now);
+    LayerHost::setLabelEffort(*layer, labelEffort);
+  }
   change.set(layers, wanted);
 }
 
@@ -189,6 +193,12 @@ Envelope MapHost::turnedBack(Map const& map, Envelope const& extent) {
   Envelope turned(extent);
   turned.CenterAt(centre.x(), centre.y());
   return turned;
+}
+
+int MapHost::labelEffort(Map const& map) { return map.d->labelEffort; }
+void MapHost::setLabelEffort(Map& map, int effort) {
+  map.d->change.set(map.d->labelEffort, effort);
+  for (auto const& layer : qAsConst(map.d->layers)) LayerHost::setLabelEffort(*layer, effort);
 }
 
 bool MapHost::showsUnplaced(Map const& map) { return map.d->showsUnplaced; }

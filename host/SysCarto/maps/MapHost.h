@@ -42,6 +42,10 @@ struct SYSCARTO_EXPORT MapHost {
   /// page: the same rectangle about the place that is its centre.
   static SysGeometry::Envelope turnedBack(Map const& map, SysGeometry::Envelope const& extent);
 
+  /// How many times as long as usual the search for places of the labels may take, from 1 on.
+  static int labelEffort(Map const& map);
+  static void setLabelEffort(Map& map, int effort);
+
   /// Whether views of the map also show the labels that found no place. No document stores it.
   static bool showsUnplaced(Map const& map);
   static void setShowsUnplaced(Map& map, bool shows);
