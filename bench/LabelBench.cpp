@@ -26,10 +26,21 @@ std::vector<MarkSide> corners() {
   return sides;
 }
 
-WantedLabel labelAt(int number, double x, double y, std::vector<MarkSide> const& sides) {
+struct Model {
+  char const* name;
+  std::vector<MarkSide> sides;
+  bool areWhole = false;  // points, of which places are so many across and up; labels may touch
+  bool areAllEqual = true;
+  int effort = 1;
+};
+
+WantedLabel labelAt(int number, double x, double y, Model const& model) {
+  double const slit = model.areWhole ? 0.001 : 0;
   WantedLabel label{number};
-  label.texts.push_back({QString(), nullptr, QRectF(-labelWidth / 2, -labelHeight / 2, labelWidth, labelHeight)});
-  for (MarkSide const& side : sides) {
+  label.texts.push_back(
+      {QString(), nullptr,
+       QRectF(-labelWidth / 2, -labelHeight / 2, labelWidth, labelHeight).adjusted(slit, slit, -slit, -slit)});
+  for (MarkSide const& side : model.sides) {
     Box const box = boxAt({x, y, x, y}, side, labelWidth, labelHeight, 0);
     label.ways.push_back({{{0, {(box.xmin + box.xmax) / 2, (box.ymin + box.ymax) / 2}, 0}}, side.cost});
   }
@@ -53,14 +64,6 @@ struct Result {
   double placed = 0, seconds = 0;
 };
 
-struct Model {
-  char const* name;
-  std::vector<MarkSide> sides;
-  bool areWhole = false;  // points, of which places are so many across and up
-  bool areAllEqual = true;
-  int effort = 1;
-};
-
 Result solve(int size, Model const& model) {
   Result result;
   for (unsigned instance = 1; instance <= instances; ++instance) {
@@ -71,7 +74,7 @@ Result solve(int size, Model const& model) {
     for (int i = 0; i < size; ++i) {
       double x = between(chance, pageWidth), y = between(chance, pageHeight);
       if (model.areWhole) x = std::floor(x), y = std::floor(y);
-      plan.add(labelAt(i, x, y, model.sides), model.areAllEqual ? 0 : i, {});
+      plan.add(labelAt(i, x, y, model), model.areAllEqual ? 0 : i, {});
     }
     plan.place([] { return true; });
     result.seconds += static_cast<double>(clock.nsecsElapsed()) / 1e9 / instances;

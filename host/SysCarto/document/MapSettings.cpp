@@ -118,11 +118,11 @@ void MapSettings::listScale(Fields& fields) {
 }
 
 void MapSettings::listLabels(Fields& fields) {
-  int effort = labelEffort;
+  int effort = std::max(labelEffort, 1);
   bool const isThere = fields.optionalObject(
       {"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
        QT_TRANSLATE_NOOP("Fields", "How the labels of all layers are placed against each other."), "mapLabels"},
-      labelEffort != 1, [&](Fields& own) {
+      labelEffort > 0, [&](Fields& own) {
         own.integer(
             {"effort", QT_TRANSLATE_NOOP("Fields", "Effort"),
              QT_TRANSLATE_NOOP("Fields",
@@ -130,7 +130,7 @@ void MapSettings::listLabels(Fields& fields) {
                                "find a place, where many are in each other's way.")},
             effort, 1, maxLabelEffort, 1);
       });
-  if (fields.isReading()) labelEffort = isThere ? effort : 1;
+  if (fields.isReading()) labelEffort = isThere ? effort : 0;
 }
 
 namespace {

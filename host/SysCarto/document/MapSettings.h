@@ -19,7 +19,7 @@ struct MapSettings {
   double rotation = 0;              ///< degrees, counterclockwise
   double scale = 0;                 ///< its denominator; 0 where nothing but the bounds is said of it
   bool scaleLocked = false;         ///< the bounds then give the centre, and the scale the rest
-  int labelEffort = 1;              ///< how many times as long as usual the search for their places may take
+  int labelEffort = 0;              ///< as of `MapHost`
   QString boundsSystem;             ///< the coordinate system in which the map had these bounds; not stored
 
   /// Where labels were put in that system, by layer; not stored here.

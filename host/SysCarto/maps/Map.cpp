@@ -55,7 +55,7 @@ struct Map::Private {
   _ptr_t<DisplayTransformation> transformation = make<DisplayTransformation>();
   ElementContainer graphics;
   int frames = 0;
-  int labelEffort = 1;
+  int labelEffort = 0;
   bool showsUnplaced = false;
   std::optional<MapHost::Portion> instead;
   SysUtility::ChangeMark change;
@@ -74,7 +74,7 @@ void Map::Private::setLayers(QList<_ptr_t<Layer>> const& wanted) {
     if (LayerHost::fellows(*layer) == before) LayerHost::setFellows(*layer, {});
   for (Layer* const layer : qAsConst(now)) {
     LayerHost::setFellows(*layer, now);
-    LayerHost::setLabelEffort(*layer, labelEffort);
+    LayerHost::setLabelEffort(*layer, std::max(labelEffort, 1));
   }
   change.set(layers, wanted);
 }
@@ -198,7 +198,7 @@ Envelope MapHost::turnedBack(Map const& map, Envelope const& extent) {
 int MapHost::labelEffort(Map const& map) { return map.d->labelEffort; }
 void MapHost::setLabelEffort(Map& map, int effort) {
   map.d->change.set(map.d->labelEffort, effort);
-  for (auto const& layer : qAsConst(map.d->layers)) LayerHost::setLabelEffort(*layer, effort);
+  for (auto const& layer : qAsConst(map.d->layers)) LayerHost::setLabelEffort(*layer, std::max(effort, 1));
 }
 
 bool MapHost::showsUnplaced(Map const& map) { return map.d->showsUnplaced; }

@@ -42,7 +42,7 @@ struct SYSCARTO_EXPORT MapHost {
   /// page: the same rectangle about the place that is its centre.
   static SysGeometry::Envelope turnedBack(Map const& map, SysGeometry::Envelope const& extent);
 
-  /// How many times as long as usual the search for places of the labels may take, from 1 on.
+  /// How many times as long as usual the search for places of the labels may take; 0 where nobody said.
   static int labelEffort(Map const& map);
   static void setLabelEffort(Map& map, int effort);
 
