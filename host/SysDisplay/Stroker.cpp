@@ -20,6 +20,7 @@ constexpr double smallGapPx = 0.25;
 Stroker::Stroker(double widthPx, LineCapStyle cap, LineJoinStyle join, double miterLimit)
     : half_(widthPx / 2), cap_(cap), join_(join), miterLimit_(miterLimit) {
   arcStep_ = half_ > arcTolerancePx ? 2 * std::acos(1 - arcTolerancePx / half_) : pi;
+  arcCosine_ = arcStep_ < pi ? std::cos(arcStep_) : -1;
 }
 
 double Stroker::reachPx() const {
@@ -80,7 +81,7 @@ void Stroker::joinAt(QPointF const& point, QPointF const& n1, QPointF const& n2,
   out.add(snapped(point + n1 * half_));
   if (inner)
     out.add(snapped(point));
-  else if (join_ == LineJoinStyle::Round)
+  else if (join_ == LineJoinStyle::Round && cosine < arcCosine_)
     arc(point, n1, std::acos(cosine), out);
   out.add(snapped(point + n2 * half_));
 }

@@ -35,6 +35,7 @@ private:
   LineJoinStyle const join_;
   double const miterLimit_;
   double arcStep_;
+  double arcCosine_;              // of a turn, from which on down an arc has points between its ends
   std::vector<QPointF> normals_;  // of each segment of the line at work, to its left as the device's y runs
 };
 

@@ -346,7 +346,7 @@ private:
                           ? QChar::surrogateToUcs4(text[place], text[place + 1])
                           : text[place].unicode();
     QChar::Script const script = QChar::script(code);
-    return script == QChar::Script_Inherited ? QChar::Script_Common : script;
+    return std::max(script, QChar::Script_Common);  // what is before that in their order is of any, too
   }
 
   // None where some of it runs from right to left.
@@ -409,7 +409,8 @@ private:
       auto const next = std::find_if(starts.begin() + static_cast<ptrdiff_t>(i), starts.end(),
                                      [&](int start) { return start != starts[i]; });
       int const end = next == starts.end() ? line.text.size() : *next;
-      featured.letters.push_back(isFirst ? line.text.mid(starts[i], end - starts[i]) : QString());
+      featured.letters.push_back(isFirst ? line.text.mid(i == 0 ? 0 : starts[i], end - (i == 0 ? 0 : starts[i]))
+                                         : QString());
     }
     line = std::move(featured);
   }

@@ -17,11 +17,11 @@ EndSignals::EndSignals(Handler handler, std::initializer_list<int> signalsToo) :
   }
 }
 
-// A signal that has come is not taken any more, and ends the process.
 EndSignals::~EndSignals() {
   for (Taken const& taken : taken_) {
     struct sigaction now = {};
     sigaction(taken.signal, nullptr, &now);
-    if (now.sa_handler == handler_) sigaction(taken.signal, &taken.before, nullptr);
+    bool const isOurs = now.sa_handler == handler_ || now.sa_handler == SIG_DFL;  // it has come
+    if (isOurs) sigaction(taken.signal, &taken.before, nullptr);
   }
 }

@@ -55,10 +55,9 @@ Farewell::~Farewell() {
 void Farewell::die() {
   char signal = 0;
   if (read(readEnd, &signal, 1) != 1) return;
-  signals_.reset();
+  for (int const each : EndSignals::all) std::signal(each, SIG_DFL);
   alarm(0);
   leave();
-  std::signal(signal, SIG_DFL);
   std::raise(signal);
   std::_Exit(128 + signal);  // the first process of a container outlives that
 }

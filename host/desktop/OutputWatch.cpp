@@ -45,7 +45,13 @@ OutputWatch::OutputWatch(SysCarto::MapDocument const& document) : document_(docu
   SysCarto::MapDocumentHost::takeLastFailure();
   connect(&interruptTimer_, &QTimer::timeout, this, &OutputWatch::endIfInterrupted);
 }
-OutputWatch::~OutputWatch() = default;
+
+// One that comes after the last look at it is not lost: from then on whoever took it before takes it again.
+OutputWatch::~OutputWatch() {
+  auto const cancel = interrupt_ ? interrupt_->cancel() : nullptr;
+  interrupt_.reset();
+  if (cancel && cancel->IsCanced()) end();
+}
 
 // The field by which a dialog is known as one that names an image to write.
 bool OutputWatch::eventFilter(QObject* watched, QEvent* event) {
@@ -67,8 +73,9 @@ void OutputWatch::take(QDialog& dialog, QString const& path) {
   refusal_ = target.checkPlace();
   if (refusal_.isEmpty()) refusal_ = target.checkAgainst(document_);
   if (!refusal_.isEmpty()) return dialog.setResult(QDialog::Rejected);
+  endIfInterrupted();
   before_ = FileStamp::of(path_);
-  interrupt_.emplace();
+  if (!interrupt_) interrupt_.emplace();
   interruptTimer_.start(interruptMs);
 }
 
@@ -88,7 +95,10 @@ QString OutputWatch::problem() const {
 
 // The plug-in draws to its end whoever asks it to stop, so the process goes with it.
 void OutputWatch::endIfInterrupted() const {
-  if (!interrupt_ || !interrupt_->cancel()->IsCanced()) return;
+  if (interrupt_ && interrupt_->cancel()->IsCanced()) end();
+}
+
+void OutputWatch::end() const {
   bool const isAtWork = removeWorkFiles(QFileInfo(path_).absolutePath());
   bool const isBegun = FileStamp::of(path_) != before_;
   if (isAtWork && isBegun) QFile::remove(path_);

@@ -39,6 +39,7 @@ protected:
 private:
   void take(QDialog& dialog, QString const& path);
   void endIfInterrupted() const;
+  [[noreturn]] void end() const;
 
   SysCarto::MapDocument const& document_;
   SysCarto::GdalErrors errors_;

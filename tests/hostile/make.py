@@ -10,7 +10,7 @@ from pathlib import Path
 
 from parts import CASES
 
-for subject in ("drawing", "contents", "sources"):  # in which they are listed
+for subject in ("drawing", "contents", "sources", "labels"):  # in which they are listed
     __import__(subject)
 
 

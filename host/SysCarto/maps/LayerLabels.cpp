@@ -122,6 +122,7 @@ struct VectorLayer::PlannedLabels {
   };
 
   LabelQuestion question;
+  int effort;  // of the search
   _ptr_t<DisplayTransformation> transformation;
   std::deque<Labelled> layers;
   size_t prepared = 0, handed = 0;  // of these
@@ -156,7 +157,7 @@ bool VectorLayer::PlannedLabels::place(std::function<bool()> const& mayGoOn) {
     std::vector<LabelPlacer*> placers;
     for (Labelled& layer : layers)
       if (layer.placer) placers.push_back(layer.placer.get());
-    labelling.emplace(placers, layers.empty() ? 1 : LayerHost::labelEffort(*layers.front().layer));
+    labelling.emplace(placers, effort);
   }
   if (!labelling->goOn(mayGoOn)) return false;
   for (; handed < layers.size(); ++handed) {
@@ -236,6 +237,7 @@ std::shared_ptr<VectorLayer::PlannedLabels> VectorLayer::planLabels(Obstacles co
                                                                     _ptr_t<TrackerCancel> const& cancel) {
   auto const* const meanwhile = WithoutWaiting::current();
   auto planned = std::make_shared<PlannedLabels>();
+  planned->effort = LayerHost::labelEffort(*this);
   planned->transformation = transformation->Clone();
   auto const shownOf = [&](VectorLayer const& layer) {
     return PlannedLabels::Shown{layer.shownBy(*transformation, cancel), layer.renderer_};
