@@ -22,7 +22,7 @@ constexpr int importantMark = 4;     // counts as so many
 constexpr double hiddenPart = 0.25;  // of a mark, at either side, that what labels keep clear of may cover
 constexpr double coveredMarkCost = 2;
 constexpr double cellWidth = 6, cellHeight = 1.5;  // in sizes of the letters
-constexpr int mostInCell = 6;
+constexpr int mostInCell = 6, mostFailed = 20;
 
 // How many places are looked at, where so many labels begin in a cell.
 struct Crowd {
@@ -206,12 +206,12 @@ void LabelPlacer::addBesidePoint(WantedLabel label, QPointF const& point, std::v
   }
   LabelText& text = label.texts[0];
   Cell& cell = cells_[cellOf(point)];
-  if (cell.tried < mostInCell && index_.isFree(LabelShape::upright(core))) {
+  if (cell.tried < mostInCell && cell.failed < mostFailed && index_.isFree(LabelShape::upright(core))) {
     if (settings_.wrapPt > 0) text.text = SysDisplay::wrapped(text.text, *text.symbol, settings_.wrapPt);
     measure(text);
     if (text.bounds.isEmpty()) return;
     addBeside(label, mark, cell);
-    cell.tried += !label.ways.empty();
+    ++(label.ways.empty() ? cell.failed : cell.tried);
   }
   wanted.push_back(std::move(label));
 }
@@ -228,7 +228,7 @@ void LabelPlacer::addBeside(WantedLabel& label, Box const& mark, Cell const& cel
     MarkSide const& side = sides_[i];
     Box const box = boxAt(mark, side, text.bounds.width(), height, settings_.offsetPt);
     if (!isFree(text, centreOf(box), 0)) continue;
-    int const covered = marks_->count(box, maxMarksCounted);
+    int const covered = marks_->count(box, cell.tried > 0 ? maxMarksCovered + 1 : maxMarksCounted);
     auto& ways = covered > maxMarksCovered ? crowded : label.ways;
     ways.push_back({{{0, centreOf(box), 0}}, side.cost + coveredMarkCost * covered});
   }

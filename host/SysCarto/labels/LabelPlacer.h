@@ -134,7 +134,7 @@ private:
   // Labels of points that begin in a part of the page.
   struct Cell {
     int all = 0;
-    int tried = 0;  // so far
+    int tried = 0, failed = 0;  // so far
   };
 
   std::vector<int> candidates() const;

@@ -14,7 +14,8 @@ namespace {
 constexpr double straightness = 0.97;  // of a stretch: its chord over its length
 constexpr double maxBend = 0.2;        // and how far the line may leave it, in text heights
 constexpr int maxStarts = 60;
-constexpr double maxTurn = 30;  // degrees from one letter to the next
+constexpr int mostLetters = 500;  // each is measured with all before it; what is longer is not parted
+constexpr double maxTurn = 30;    // degrees from one letter to the next
 
 double angleOf(QPointF const& way) { return std::atan2(way.y(), way.x()) * 180 / M_PI; }
 
@@ -102,7 +103,7 @@ std::vector<QPointF> spotsOn(MeasuredLine const& line, double apart) {
 
 // The widths of beginnings say where letters lie, so that pairs keep their distance.
 std::vector<Letter> lettersOf(QString const& text, SysDisplay::TextSymbol const& symbol) {
-  if (!isParted(text) || symbol.format().hasBox()) return {};  // a box is straight
+  if (text.size() > mostLetters || !isParted(text) || symbol.format().hasBox()) return {};  // a box is straight
   double const halo = 2 * symbol.format().haloSize;
   auto const widthOf = [&](QString const& part) { return std::max(symbol.bounds(part).width() - halo, 0.0); };
   double const whole = widthOf(text);
