@@ -213,6 +213,7 @@ void LabelPlacer::addBesidePoint(WantedLabel label, QPointF const& point, std::v
     addBeside(label, mark, cell);
     ++(label.ways.empty() ? cell.failed : cell.tried);
   }
+  if (label.ways.empty()) return leaveOut(label);  // there may be any number
   wanted.push_back(std::move(label));
 }
 
