@@ -17,6 +17,7 @@ constexpr int sweeps = 8;
 constexpr int stepsALabel = 160;  // for each label that may make room
 constexpr int patience = 20;      // of these without a gain
 constexpr std::int64_t mostLooks = 50000000;
+constexpr int mostTimesLooks = 8;  // so many, whatever the effort
 constexpr int linkedAtOnce = 500;  // conflicts
 
 }  // namespace
@@ -270,7 +271,7 @@ bool LabelSearch::improve() {
   int const active = static_cast<int>(active_.size());
   bool const isWorthIt = !waiting_.empty() && step_ < effort_ * stepsALabel * active &&
                          step_ - lastGain_ < effort_ * patience * active &&
-                         looks_ - looksBefore_ <= effort_ * mostLooks;
+                         looks_ - looksBefore_ <= std::min(effort_, mostTimesLooks) * mostLooks;
   if (!isWorthIt) return false;
   ++step_;
   size_t const waited = waiting_.size();
