@@ -408,9 +408,8 @@ private:
       bool const isFirst = i == 0 || starts[i] != starts[i - 1];
       auto const next = std::find_if(starts.begin() + static_cast<ptrdiff_t>(i), starts.end(),
                                      [&](int start) { return start != starts[i]; });
-      int const end = next == starts.end() ? line.text.size() : *next;
-      featured.letters.push_back(isFirst ? line.text.mid(i == 0 ? 0 : starts[i], end - (i == 0 ? 0 : starts[i]))
-                                         : QString());
+      int const begin = i == 0 ? 0 : starts[i], end = next == starts.end() ? line.text.size() : *next;
+      featured.letters.push_back(isFirst ? line.text.mid(begin, end - begin) : QString());
     }
     line = std::move(featured);
   }

@@ -17,7 +17,7 @@ constexpr int sweeps = 8;
 constexpr int stepsALabel = 160;  // for each label that may make room
 constexpr int patience = 20;      // of these without a gain
 constexpr std::int64_t mostLooks = 50000000;
-constexpr int mostTimesLooks = 8;  // so many, whatever the effort
+constexpr int mostTimesLooks = 8;  // whatever the effort
 constexpr int linkedAtOnce = 500;  // conflicts
 
 }  // namespace

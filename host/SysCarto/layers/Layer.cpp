@@ -18,7 +18,7 @@ struct Layer::Private {
   QString credits;
   LayerGroups groups;
   QList<Layer*> fellows;
-  int labelEffort = 1;
+  int labelEffort = 0;
   SysUtility::ChangeMark change;
   quint64 look = 1;
 };

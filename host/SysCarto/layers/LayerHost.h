@@ -31,7 +31,7 @@ struct SYSCARTO_EXPORT LayerHost {
   static QList<Layer*> const& fellows(Layer const& layer);
   static void setFellows(Layer& layer, QList<Layer*> const& fellows);
 
-  /// How many times as long as usual the search for places of the map's labels may take. Told by the map.
+  /// That of the map (`MapHost`), which tells it.
   static int labelEffort(Layer const& layer);
   static void setLabelEffort(Layer& layer, int effort);
 

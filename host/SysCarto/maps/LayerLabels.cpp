@@ -14,6 +14,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <map>
@@ -237,7 +238,7 @@ std::shared_ptr<VectorLayer::PlannedLabels> VectorLayer::planLabels(Obstacles co
                                                                     _ptr_t<TrackerCancel> const& cancel) {
   auto const* const meanwhile = WithoutWaiting::current();
   auto planned = std::make_shared<PlannedLabels>();
-  planned->effort = LayerHost::labelEffort(*this);
+  planned->effort = std::max(LayerHost::labelEffort(*this), 1);
   planned->transformation = transformation->Clone();
   auto const shownOf = [&](VectorLayer const& layer) {
     return PlannedLabels::Shown{layer.shownBy(*transformation, cancel), layer.renderer_};

@@ -74,7 +74,7 @@ void Map::Private::setLayers(QList<_ptr_t<Layer>> const& wanted) {
     if (LayerHost::fellows(*layer) == before) LayerHost::setFellows(*layer, {});
   for (Layer* const layer : qAsConst(now)) {
     LayerHost::setFellows(*layer, now);
-    LayerHost::setLabelEffort(*layer, std::max(labelEffort, 1));
+    LayerHost::setLabelEffort(*layer, labelEffort);
   }
   change.set(layers, wanted);
 }
@@ -198,7 +198,7 @@ Envelope MapHost::turnedBack(Map const& map, Envelope const& extent) {
 int MapHost::labelEffort(Map const& map) { return map.d->labelEffort; }
 void MapHost::setLabelEffort(Map& map, int effort) {
   map.d->change.set(map.d->labelEffort, effort);
-  for (auto const& layer : qAsConst(map.d->layers)) LayerHost::setLabelEffort(*layer, std::max(effort, 1));
+  for (auto const& layer : qAsConst(map.d->layers)) LayerHost::setLabelEffort(*layer, effort);
 }
 
 bool MapHost::showsUnplaced(Map const& map) { return map.d->showsUnplaced; }

@@ -4,6 +4,7 @@
 #include "host/SysCarto/document/Editable.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/elements/EditorHost.h"
+#include "host/SysCarto/layers/LayerHost.h"
 #include "host/SysCarto/layout/MapOverview.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/projection/GlobeBox.h"
@@ -85,6 +86,28 @@ private slots:
     QCOMPARE(set("map:#0", "scale", 1e-15), QString());
     QVERIFY(!document.GetOperationStack()->CanUndo() && document.GetOperationStack()->CanRedo());
     QCOMPARE(QString::fromUtf8(MapDocumentHost::text(document)), before);
+    EditorHost::setHistory(nullptr);
+  }
+
+  void theEffortForLabelsReachesEachLayer() {
+    MapDocument document;
+    QVERIFY(document.Open(path("everything.kdx")));
+    EditorHost::setHistory(MapDocumentHost::history(document));
+    auto const map = document.GetMap(0);
+    auto const efforts = [&] {
+      QSet<int> efforts;
+      for (auto const& layer : map->GetLayers()) efforts << LayerHost::labelEffort(*layer);
+      return efforts;
+    };
+    QCOMPARE(efforts(), QSet<int>{3});
+    QStringList warnings;
+    auto const to = [](QJsonValue const&) -> QJsonValue { return QJsonObject{{"effort", 7}}; };
+    QCOMPARE(Editable::set(document, Editable::named(document, "map:#0"), {"labels"}, to, warnings), QString());
+    QCOMPARE(efforts(), QSet<int>{7});
+    document.GetOperationStack()->Undo();
+    QCOMPARE(efforts(), QSet<int>{3});
+    document.GetMap(1)->AddLayer(map->GetLayer(0));  // a map of which nobody said any
+    QCOMPARE(LayerHost::labelEffort(*map->GetLayer(0)), 0);
     EditorHost::setHistory(nullptr);
   }
 
