@@ -6491,6 +6491,10 @@
         <source>How many times as long as usual the search for their places may take. More labels find a place, where many are in each other&apos;s way.</source>
         <translation>Wievielmal so lange wie üblich die Suche nach ihren Plätzen dauern darf. Wo viele einander im Weg sind, finden mehr Beschriftungen Platz.</translation>
     </message>
+    <message>
+        <source>Label placement</source>
+        <translation>Platzierung der Beschriftungen</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>

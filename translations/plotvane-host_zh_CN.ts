@@ -6491,6 +6491,10 @@
         <source>How many times as long as usual the search for their places may take. More labels find a place, where many are in each other&apos;s way.</source>
         <translation>为标注寻找位置的时间最多为平常的多少倍。在许多标注相互妨碍之处，更多的标注能找到位置。</translation>
     </message>
+    <message>
+        <source>Label placement</source>
+        <translation>标注放置</translation>
+    </message>
 </context>
 <context>
     <name>FileFacts</name>

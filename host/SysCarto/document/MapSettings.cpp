@@ -120,7 +120,7 @@ void MapSettings::listScale(Fields& fields) {
 void MapSettings::listLabels(Fields& fields) {
   int effort = std::max(labelEffort, 1);
   bool const isThere = fields.optionalObject(
-      {"labels", QT_TRANSLATE_NOOP("Fields", "Labels"),
+      {"labels", QT_TRANSLATE_NOOP("Fields", "Label placement"),
        QT_TRANSLATE_NOOP("Fields", "How the labels of all layers are placed against each other."), "mapLabels"},
       labelEffort > 0, [&](Fields& own) {
         own.integer(
