@@ -9982,6 +9982,10 @@ plotvane SUBCOMMAND --help beschreibt einen davon; plotvane --version nennt die 
         <source>the SVG has more than %1 bytes</source>
         <translation>das SVG hat mehr als %1 Bytes</translation>
     </message>
+    <message>
+        <source>the SVG&apos;s dashes and their offset differ by more than 1 to 1,000,000,000; change stroke-dasharray or stroke-dashoffset</source>
+        <translation>die Strichlängen des SVG und ihr Versatz unterscheiden sich um mehr als 1 zu 1.000.000.000; stroke-dasharray oder stroke-dashoffset ändern</translation>
+    </message>
 </context>
 <context>
     <name>SvgMarkerSymbol</name>

@@ -9982,6 +9982,10 @@ plotvane SUBCOMMAND --help 说明其中一个子命令；plotvane --version 给�
         <source>the SVG has more than %1 bytes</source>
         <translation>SVG 超过 %1 字节</translation>
     </message>
+    <message>
+        <source>the SVG&apos;s dashes and their offset differ by more than 1 to 1,000,000,000; change stroke-dasharray or stroke-dashoffset</source>
+        <translation>SVG 的虚线长度与其偏移相差超过 1 比 1,000,000,000；请更改 stroke-dasharray 或 stroke-dashoffset</translation>
+    </message>
 </context>
 <context>
     <name>SvgMarkerSymbol</name>

@@ -4,12 +4,14 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QImageReader>
+#include <QRegularExpression>
 #include <QSet>
 #include <QStringList>
 #include <QVector>
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <limits>
 
 namespace SysDisplay {
 
@@ -20,7 +22,8 @@ constexpr int maxElements = 20000;
 constexpr int deepest = 64;
 constexpr int maxUseDepth = 256;  // a chain of so many, each drawn on its own too, comes to more than `maxElements`
 constexpr int maxImagePx = 4096;
-constexpr int pixelsOfAPart = 5000;  // so many of an embedded image take about as long to draw as an element
+constexpr int pixelsOfAPart = 5000;      // so many of an embedded image take about as long to draw as an element
+constexpr double mostStrokeRange = 1e9;  // 2³¹ of them away Qt steps to where the dashes begin one by one
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(SvgCheck)
@@ -49,6 +52,10 @@ public:
           Texts::tr("the SVG is not well-formed: %1 in line %2").arg(reader_.errorString()).arg(reader_.lineNumber()));
     if (problem_.isEmpty() && elements_ == 0) refuse(Texts::tr("the SVG is empty"));
     if (problem_.isEmpty()) checkUses();
+    if (problem_.isEmpty() && hasDashOffset_ && widest_ > mostStrokeRange * finest_)
+      refuse(
+          Texts::tr("the SVG's dashes and their offset differ by more than 1 to 1,000,000,000; change "
+                    "stroke-dasharray or stroke-dashoffset"));
     return problem_;
   }
 
@@ -95,6 +102,7 @@ private:
         checkReference(name, value.trimmed());
       else
         checkStyle(value, attribute.name() == QLatin1String("style"));
+      noteStroke(attribute.name().toString(), value);
     }
   }
 
@@ -137,6 +145,29 @@ private:
     for (QString const& target : urlsIn(style))
       if (!target.startsWith(QLatin1Char('#')))
         refuse(Texts::tr("the SVG refers to “%1”; put what it needs into the file").arg(target.left(64)));
+    if (!isSheet || !style.contains(QLatin1String("stroke"), Qt::CaseInsensitive)) return;
+    static QRegularExpression const comment(QStringLiteral("/\\*.*?(\\*/|$)"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    static QRegularExpression const declaration(QStringLiteral("([a-z-]+)\\s*:([^;}]*)"),
+                                                QRegularExpression::CaseInsensitiveOption);
+    for (auto found = declaration.globalMatch(QString(style).replace(comment, QStringLiteral(" "))); found.hasNext();) {
+      QRegularExpressionMatch const match = found.next();
+      noteStroke(match.captured(1).toLower(), match.captured(2));
+    }
+  }
+
+  // The numbers of a stroke's width and dashes, from an attribute or a declaration in a style.
+  void noteStroke(QString const& property, QString const& value) {
+    bool const isOffset = property == QLatin1String("stroke-dashoffset");
+    if (!isOffset && property != QLatin1String("stroke-dasharray") && property != QLatin1String("stroke-width")) return;
+    static QRegularExpression const number(QStringLiteral("(\\d+\\.?\\d*|\\.\\d+)([eE][-+]?\\d+)?"));
+    for (auto found = number.globalMatch(value); found.hasNext();) {
+      double const size = found.next().captured().toDouble();
+      if (size == 0) continue;
+      hasDashOffset_ = hasDashOffset_ || isOffset;
+      widest_ = std::max(widest_, size);
+      finest_ = std::min(finest_, size);
+    }
   }
 
   // What `use` elements repeat, repeated in turn, must come to an end, and soon.
@@ -168,6 +199,8 @@ private:
   int elements_ = 0;
   double imageParts_ = 0;
   bool inStyle_ = false;
+  bool hasDashOffset_ = false;
+  double widest_ = 0, finest_ = std::numeric_limits<double>::infinity();  // of strokes and their dashes
   QStringList openIds_;
   QStringList total_;
   QHash<QString, Content> content_;

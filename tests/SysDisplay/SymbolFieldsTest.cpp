@@ -88,6 +88,13 @@ private slots:
     row("hidden letters", svg("<style>rect { fill: \\75rl(a.svg) }</style>"), "style sheet");
     row("style sheet instruction", svg("<g/>", "<?xml-stylesheet type='text/css' href='a.css'?>"), "instruction");
     row("entities", svg("<text>&a;</text>", "<!DOCTYPE svg [<!ENTITY a 'b'>]>"), "declares a document type");
+    row("dashes", svg("<path d='M0 0h9' stroke-dasharray='2,1e-3' stroke-dashoffset='-90.5'/>"), "");
+    row("thin and wide without dashes", svg("<path stroke-width='1e-6'/><path stroke-width='1e6'/>"), "");
+    row("dashes from afar", svg("<path d='M0 0h9' stroke='red' stroke-dasharray='2 1' stroke-dashoffset='1e12'/>"),
+        "offset differ");
+    row("dashes from afar, in a style",
+        svg("<path d='M0 0h9' style='stroke:red;stroke-dasharray:2 1;STROKE-dashoffset/**/:/* */-9999999999'/>"),
+        "offset differ");
     row("script", svg("<script>1</script>"), "script");
     row("uses in a circle", svg("<g id='a'><use xlink:href='#b'/></g><g id='b'><use xlink:href='#a'/></g>"), "circle");
     QByteArray bomb("<g id='n0'><rect/></g>");
