@@ -84,12 +84,12 @@ private slots:
     QVERIFY2(page.bench.session().open(path("start.kdx")), qPrintable(document.GetErrors().join('\n')));
     panel.resize(400, 800);
     panel.show();
+    QByteArray const before = MapDocumentHost::text(document);
     int set = 0;
     QStringList refused;
     for (int thing = 0; show(panel, page, thing); ++thing) {
       auto& sheet = *panel.findChild<PropertySheet*>();
       for (QStringList const& name : editableRows(sheet.model())) {
-        QByteArray const before = MapDocumentHost::text(document);
         QString const where = titleOf(panel) + ": " + name.join('/');
         QVERIFY2(edit(sheet, name), qPrintable(where));
         QByteArray const after = MapDocumentHost::text(document);

@@ -376,7 +376,7 @@ def main():
                 tells_what_is_wrong(program, server)
                 is_told_in_time(program, server, "a connection that ends is told", kill, ["slowly", "brief"])
                 frozen = is_told_in_time(program, server, "a server that stops answering is told", freeze,
-                                         ["slowly", "brief", "has not answered"])
+                                         ["Places", "brief", "has not answered"])  # opened or read, as it comes
                 os.kill(frozen, signal.SIGCONT)
                 check(f"pg_cancel_backend(pid) FROM pg_stat_activity WHERE application_name = 'plotvane' AND pid = {frozen}"
                       in server.logged(), "what is given up is ended on the server, too")

@@ -124,7 +124,7 @@ std::unique_ptr<GeometryProjector> makeProjector(DataSource const& data, SourceS
   QString const warning = saysItself ? said.warning(describeSource(source), data.complaint(), isMissed) : QString();
   if (!warning.isEmpty()) result.warnings << warning;
   QString reason;
-  auto projector = GeometryProjector::remembered(own, target.get(), reason);
+  auto projector = GeometryProjector::create(own, target.get(), reason);
   if (!projector)
     result.error = Texts::tr("The coordinates of %1 can't be projected to the map's coordinate system: %2.")
                        .arg(describeSource(source), reason);

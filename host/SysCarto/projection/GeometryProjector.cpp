@@ -5,20 +5,16 @@
 #include "host/SysCarto/projection/CurveDivider.h"
 #include "host/SysCarto/projection/ProjText.h"
 #include "host/SysCarto/projection/ProjectionProbe.h"
+#include "host/SysCarto/projection/RememberedWays.h"
 #include "host/SysCarto/projection/UnitedAreas.h"
-#include "host/SysGeometry/QuietOgr.h"
 
 #include <QCoreApplication>
 
-#include <cpl_conv.h>
 #include <ogr_geometry.h>
 #include <ogr_spatialref.h>
 
 #include <algorithm>
 #include <cmath>
-#include <map>
-#include <mutex>
-#include <string>
 
 namespace SysCarto {
 
@@ -56,16 +52,6 @@ bool isSame(OGRSpatialReference const& a, OGRSpatialReference const& b) {
   return a.IsSame(&b, options);
 }
 
-// All that tells systems apart; empty where a system can't be written so.
-std::string wellKnownText(OGRSpatialReference const& system) {
-  SysGeometry::QuietOgr const quiet;
-  char const* const options[] = {"FORMAT=WKT2_2019", nullptr};
-  char* text = nullptr;
-  std::string const result = system.exportToWkt(&text, options) == OGRERR_NONE ? text : "";
-  CPLFree(text);
-  return result;
-}
-
 std::vector<double> coordinatesOf(OGRSimpleCurve const& curve) {
   std::vector<double> xy;
   xy.reserve(2 * static_cast<size_t>(curve.getNumPoints()));
@@ -97,6 +83,13 @@ PartSink::~PartSink() = default;
 
 std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference const* source,
                                                              OGRSpatialReference const* target, QString& error) {
+  static auto& ways = *new RememberedWays<GeometryProjector>;
+  auto const make = [&] { return made(source, target, error); };
+  return source && target ? ways.between(*source, *target, make) : make();
+}
+
+std::unique_ptr<GeometryProjector> GeometryProjector::made(OGRSpatialReference const* source,
+                                                           OGRSpatialReference const* target, QString& error) {
   auto projector = std::make_unique<GeometryProjector>();
   bool const hasGlobe = source && target && isOnGlobe(*target);
   if (!hasGlobe || (!target->IsGeographic() && isSame(*source, *target))) return projector;
@@ -137,25 +130,6 @@ std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference
   projector->maxSourceEdge_ =
       source->IsGeographic() ? maxEdgeDegrees * degree / source->GetAngularUnits() : maxEdgeM / metresPerUnit(*source);
   return projector;
-}
-
-// What is kept is only copied, and never goes: threads that made it may have gone, and PROJ itself at the end.
-std::unique_ptr<GeometryProjector> GeometryProjector::remembered(OGRSpatialReference const* source,
-                                                                 OGRSpatialReference const* target, QString& error) {
-  constexpr size_t mostKept = 64;
-  using Key = std::pair<std::string, std::string>;
-  static std::mutex mutex;
-  static auto& known = *new std::map<Key, std::unique_ptr<GeometryProjector>>;
-  Key const key(source ? wellKnownText(*source) : std::string(), target ? wellKnownText(*target) : std::string());
-  if (key.first.empty() || key.second.empty()) return create(source, target, error);
-  std::lock_guard<std::mutex> const lock(mutex);
-  auto const place = known.find(key);
-  if (place != known.end()) return place->second->clone();
-  auto made = create(source, target, error);
-  if (!made) return made;
-  if (known.size() >= mostKept) known.clear();
-  known[key] = made->clone();
-  return made;
 }
 
 std::unique_ptr<GeometryProjector> GeometryProjector::clone() const {

@@ -22,14 +22,9 @@ public:
   GeometryProjector() = default;
 
   /// Null for a system that isn't known: coordinates are then taken as the map's. An empty pointer where there is no
-  /// way between the two; `error` then says why, as a clause.
+  /// way between the two; `error` then says why, as a clause. May be called by any thread.
   static std::unique_ptr<GeometryProjector> create(OGRSpatialReference const* source, OGRSpatialReference const* target,
                                                    QString& error);
-
-  /// A copy of one that was made before, where there was one between the same two: to find a transformation and the
-  /// border of what it shows takes longer than to read a small file. May be called by any thread.
-  static std::unique_ptr<GeometryProjector> remembered(OGRSpatialReference const* source,
-                                                       OGRSpatialReference const* target, QString& error);
 
   /// The same for another thread.
   std::unique_ptr<GeometryProjector> clone() const;
@@ -48,6 +43,8 @@ public:
   void add(OGRGeometry const& geometry, PartSink& sink) const;
 
 private:
+  static std::unique_ptr<GeometryProjector> made(OGRSpatialReference const* source, OGRSpatialReference const* target,
+                                                 QString& error);
   void addLinear(OGRGeometry const& geometry, PartSink& sink, int depth) const;
   void addMembers(OGRGeometryCollection const& collection, PartSink& sink, int depth) const;
   void addPoint(double x, double y, PartSink& sink) const;

@@ -2,6 +2,7 @@
 
 #include "host/SysCarto/projection/CoordinateSystem.h"
 #include "host/SysCarto/projection/GdalErrors.h"
+#include "host/SysCarto/projection/RememberedWays.h"
 #include "host/SysGeometry/QuietOgr.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,12 @@ constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 std::unique_ptr<PointTransform> PointTransform::create(OGRSpatialReference const& from, OGRSpatialReference const& to,
                                                        QString& error) {
+  static auto& ways = *new RememberedWays<PointTransform>;
+  return ways.between(from, to, [&] { return made(from, to, error); });
+}
+
+std::unique_ptr<PointTransform> PointTransform::made(OGRSpatialReference const& from, OGRSpatialReference const& to,
+                                                     QString& error) {
   GdalErrors const errors;
   OGRSpatialReference source(from), target(to);
   source.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);

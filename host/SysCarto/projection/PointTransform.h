@@ -16,7 +16,8 @@ namespace SysCarto {
 /// Coordinates from one system into another, x before y in both. What can't be transformed comes out as NaN.
 class SYSCARTO_EXPORT PointTransform {
 public:
-  /// An empty pointer where there is no way between the systems; `error` then says why, as a clause.
+  /// An empty pointer where there is no way between the systems; `error` then says why, as a clause. May be called by
+  /// any thread.
   static std::unique_ptr<PointTransform> create(OGRSpatialReference const& from, OGRSpatialReference const& to,
                                                 QString& error);
   ~PointTransform();
@@ -29,6 +30,8 @@ public:
   bool apply(double& x, double& y) const;
 
 private:
+  static std::unique_ptr<PointTransform> made(OGRSpatialReference const& from, OGRSpatialReference const& to,
+                                              QString& error);
   PointTransform(OGRCoordinateTransformation* transformation, double farthest);
 
   // GDAL turns longitudes back round by round, so that what is too far from 0 would take for ever.
