@@ -1,10 +1,9 @@
 #pragma once
 
 #include "Test.h"
+#include "Widgets.h"
 
 #include "host/desktop/DialogAnswers.h"
-
-#include <QtWidgets>
 
 /// Who answers the dialogs that a test opens, in their order. At the end nothing may be left over on either side.
 class Person {

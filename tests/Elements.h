@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Boxes.h"
+#include "Widgets.h"
 
 #include "host/SysCarto/elements/GraphicElements.h"
 #include "host/SysCarto/elements/TextElement.h"
@@ -11,8 +12,6 @@
 #include <SysCarto/MapSurroundFrame.h>
 #include <SysCarto/Page.h>
 #include <SysCarto/SymbolFrameParts.h>
-
-#include <QtWidgets>
 
 /// The element, put into a rectangle.
 template <class Element>

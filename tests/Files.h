@@ -2,6 +2,8 @@
 
 #include "Test.h"
 
+#include <QDirIterator>
+
 #include <sys/resource.h>
 #include <unistd.h>
 

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "Test.h"
+#include "Widgets.h"
 
 #include "host/SysDisplay/DisplayTransformationHost.h"
-
-#include <QtWidgets>
 
 #include <algorithm>
 #include <cstdlib>

@@ -2,12 +2,28 @@
 
 #include <SysUtility/Ptr.h>
 
-#include <QtTest>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QMimeData>
+#include <QPointer>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
 
 #include <tuple>
 #include <vector>
 
-// What nearly every test uses; all of Qt Core comes with Qt Test.
+// What nearly every test uses.
 using SysUtility::_ptr_t;
 using SysUtility::make;
 using SysUtility::ptr_cast;

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "Test.h"
-
-#include <QtWidgets>
+#include "Widgets.h"
 
 #include <random>
 

@@ -1,7 +1,7 @@
 #include "Files.h"
 
 #include "host/SysCarto/document/MapDocumentHost.h"
-#include "host/SysCarto/layers/WatchedReading.h"
+#include "host/SysCarto/layers/WatchedWork.h"
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/desktop/DocumentSession.h"
 #include "host/desktop/layers/AddLayersDialog.h"

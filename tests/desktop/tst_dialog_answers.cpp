@@ -1,5 +1,7 @@
 #include "Dialogs.h"
 
+#include <QVBoxLayout>
+
 #include <optional>
 
 namespace {

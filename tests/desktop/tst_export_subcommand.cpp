@@ -6,6 +6,8 @@
 #include <sys/types.h>
 #include <unistd.h>
 
+#include <QColorSpace>
+
 #include <csignal>
 #include <memory>
 

@@ -1,4 +1,5 @@
 #include "Files.h"
+#include "Widgets.h"
 
 #include "host/SysFramework/Translations.h"
 #include "host/desktop/CommandCatalogue.h"
@@ -6,7 +7,7 @@
 #include "host/desktop/MainWindow.h"
 #include "host/desktop/Session.h"
 
-#include <QtWidgets>
+#include <QTranslator>
 
 class LanguageTest : public QObject {
   Q_OBJECT

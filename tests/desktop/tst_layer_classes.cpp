@@ -1,4 +1,5 @@
 #include "Test.h"
+#include "Widgets.h"
 
 #include "host/SysCarto/maps/VectorLayer.h"
 #include "host/SysDisplay/SymbolFields.h"
@@ -7,8 +8,6 @@
 #include "host/desktop/layers/BreakHistogram.h"
 #include "host/desktop/layers/ClassifyDialog.h"
 #include "host/desktop/layers/LayerClasses.h"
-
-#include <QtWidgets>
 
 #include <cmath>
 

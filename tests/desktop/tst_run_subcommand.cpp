@@ -4,6 +4,8 @@
 
 #include <sys/stat.h>
 
+#include <QLockFile>
+
 class RunSubcommandTest : public QObject {
   Q_OBJECT
 

@@ -9,6 +9,9 @@
 #include "host/desktop/Icons.h"
 #include "host/SysUtility/ScaleText.h"
 
+#include <QScopeGuard>
+#include <QScreen>
+
 using SysCarto::MapDocumentHost;
 
 class WindowTest : public QObject {

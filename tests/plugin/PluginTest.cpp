@@ -2,6 +2,8 @@
 
 #include <SysUI/CMDPluginModule.h>
 
+#include <QLibrary>
+
 using SysUI::CMDPluginModule;
 
 // The plug-in, loaded as a host loads it.

@@ -4,6 +4,7 @@
 #include "host/SysCarto/layers/DerivedLayer.h"
 #include "host/SysCarto/layers/ServerSession.h"
 #include "host/SysCarto/layers/SourceSettings.h"
+#include "host/SysCarto/layers/WatchedWork.h"
 
 #include <QCoreApplication>
 #include <QThread>

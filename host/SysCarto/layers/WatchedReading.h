@@ -5,11 +5,8 @@
 #include <QElapsedTimer>
 #include <QString>
 
-#include <chrono>
 #include <functional>
-#include <future>
 #include <memory>
-#include <optional>
 
 class OGRLayer;
 
@@ -31,21 +28,6 @@ SYSCARTO_EXPORT void queueReading(std::function<void()> work);
 /// Whether such work is under way. The end of the application waits for it only for a moment; where it lasts longer,
 /// the process has to end without taking down what the work uses.
 SYSCARTO_EXPORT bool isReading();
-
-/// What `work` answers, which is done on another thread while `progress` is asked, before and meanwhile; nothing where
-/// that wants no more, and then the work is finished there for nobody. Without a progress it is done here.
-template <class Work>
-auto watched(Work work, ReadProgress const& progress) -> std::optional<decltype(work())> {
-  constexpr std::chrono::milliseconds betweenQuestions(50);
-  if (!progress) return work();
-  if (!progress(0, -1)) return std::nullopt;
-  auto const promise = std::make_shared<std::promise<decltype(work())>>();
-  auto done = promise->get_future();
-  startReading([promise, work] { promise->set_value(work()); });
-  while (done.wait_for(betweenQuestions) != std::future_status::ready)
-    if (!progress(0, -1)) return std::nullopt;
-  return done.get();
-}
 
 /// As `DataSource::open`, watched, since to open a file can mean to read all of it. What is given up is no error: the
 /// pointer is then empty, and `error` too.

@@ -1,6 +1,7 @@
 #include "ConnectionAccess.h"
 
 #include "host/SysCarto/layers/Connections.h"
+#include "host/SysCarto/layers/WatchedWork.h"
 #include "host/desktop/layers/ReadingProgress.h"
 
 #include <QCoreApplication>

@@ -1,5 +1,7 @@
 #include "TableOpening.h"
 
+#include "host/SysCarto/layers/WatchedWork.h"
+
 #include <utility>
 
 using SysCarto::FeatureScan;

@@ -7,6 +7,7 @@
 #include "host/SysCarto/document/ElementClip.h"
 #include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layers/LayerHost.h"
+#include "host/SysCarto/layers/WatchedWork.h"
 #include "host/SysCarto/layout/PageLayoutHost.h"
 #include "host/SysCarto/maps/LayerData.h"
 #include "host/SysCarto/maps/VectorLayer.h"

@@ -2,6 +2,8 @@
 
 #include <SysCarto/MapDocument.h>
 
+#include <QLoggingCategory>
+
 using SysCarto::MapDocument;
 
 // A document with one of everything, damaged at one place after the other. None may crash, and each opens or answers a

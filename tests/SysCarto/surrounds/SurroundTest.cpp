@@ -10,6 +10,8 @@
 #include <geodesic.h>
 #include <ogr_spatialref.h>
 
+#include <QScopeGuard>
+
 #include <cmath>
 
 using namespace SysCarto;
