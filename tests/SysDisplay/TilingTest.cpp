@@ -210,13 +210,11 @@ private slots:
   }
   void tilesEqualTheWhole() {
     auto const [scene] = fetched<Scene>();
-    for (auto const& [pageScale, sides] : {std::pair{1.0, std::vector{64, 100}}, {600 / 96.0, {512}}}) {
+    for (auto const& [pageScale, side] : {std::pair{1.0, 100}, {400 / 96.0, 512}}) {
       QImage const whole = sheet(pageScale).drawn(scene);
       QVERIFY2(ink(whole).pixels > 0, "the scene shows nothing");
-      for (int const side : sides) {
-        Difference const found = difference(whole, sheet(pageScale).drawnInTiles(scene, side));
-        QVERIFY2(found.pixels == 0, qPrintable(found.text()));
-      }
+      Difference const found = difference(whole, sheet(pageScale).drawnInTiles(scene, side));
+      QVERIFY2(found.pixels == 0, qPrintable(found.text()));
     }
   }
 

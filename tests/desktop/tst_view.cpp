@@ -121,35 +121,41 @@ private slots:
   }
 
   void onlyWhatChangesAMapDrawsIt_data() {
-    Rows<QString, bool> row;
-    for (char const* what : {"select", "drag", "nudge", "align", "restack", "undo", "pan", "lock"})
-      row(what, QString(what), false);
-    for (char const* what : {"zoom", "resize", "hide", "turn"}) row(what, QString(what), true);
+    Rows<QStringList, bool> row;
+    row("what leaves maps as they are", {"select", "drag", "nudge", "align", "undo", "restack", "pan", "lock"}, false);
+    row("what changes one", {"select", "zoom", "resize", "hide", "turn"}, true);
   }
   void onlyWhatChangesAMapDrawsIt() {
-    auto const [what, draws] = fetched<QString, bool>();
+    auto const [deeds, draw] = fetched<QStringList, bool>();
     WorkbenchPage page;
     QVERIFY(page.bench.session().open(QStringLiteral(PLOTVANE_SOURCE_DIR "/samples/world.kdx")));
     page.add<SysCarto::RectangleElement>(2.1, 2.3, 6.6, 5.9);
-    int const before = tilesAfter(page);
-    QVERIFY(before > 0);
-
+    int tiles = tilesAfter(page);
+    QVERIFY(tiles > 0);
     QPoint const onMap = page.pixel(20, 15);
-    if (what != "pan") page.click(onMap);
-    if (what == "drag") page.drag(onMap, onMap + QPoint(17, 9));
-    if (what == "nudge") page.key(Qt::Key_Left);
-    if (what == "align" || what == "undo") QVERIFY(page.run("Host_SelectAll") && page.run("Plotvane_LeftAlignment"));
-    if (what == "undo") QVERIFY(page.run("Host_Undo"));
-    if (what == "restack") QVERIFY(page.run("Plotvane_BringToFrontElements"));
-    if (what == "lock") QVERIFY(page.run("Plotvane_LockDataFrame"));
-    if (what == "pan") QVERIFY(page.run("Plotvane_Pan"));
-    if (what == "pan") page.drag(onMap, onMap + QPoint(40, -23));
-    if (what == "zoom") QVERIFY(page.run("Plotvane_ZoomToOrigin"));
-    if (what == "resize") page.drag(page.pixel(40.4, 25.6), page.pixel(35, 22));
-    if (what == "turn") SysCarto::MapHost::setRotation(*page.layout()->GetFocusMap(), 12);
-    if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
-    if (what == "hide" || what == "turn") page.view().refresh(SysCarto::RefreshPhase::Everything);
-    QCOMPARE(tilesAfter(page) > before, draws);
+    for (QString const& what : deeds) {
+      if (what == "select") page.click(onMap);
+      if (what == "drag") page.drag(onMap, onMap + QPoint(17, 9));
+      if (what == "nudge") page.key(Qt::Key_Left);
+      if (what == "align") QVERIFY(page.run("Host_SelectAll") && page.run("Plotvane_LeftAlignment"));
+      if (what == "undo") QVERIFY(page.run("Host_Undo"));
+      if (what == "restack") {
+        page.click(onMap);
+        QVERIFY(page.run("Plotvane_BringToFrontElements"));
+      }
+      if (what == "lock") QVERIFY(page.run("Plotvane_LockDataFrame"));
+      if (what == "pan") {
+        QVERIFY(page.run("Plotvane_Pan"));
+        page.drag(onMap, onMap + QPoint(40, -23));
+      }
+      if (what == "zoom") QVERIFY(page.run("Plotvane_ZoomToOrigin"));
+      if (what == "resize") page.drag(page.pixel(40.4, 25.6), page.pixel(35, 22));
+      if (what == "turn") SysCarto::MapHost::setRotation(*page.layout()->GetFocusMap(), 12);
+      if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
+      if (what == "hide" || what == "turn") page.view().refresh(SysCarto::RefreshPhase::Everything);
+      int const before = std::exchange(tiles, tilesAfter(page));
+      QVERIFY2((tiles > before) == (draw && what != "select"), qPrintable(what));
+    }
   }
 
   void anOverviewFollowsTheOtherMap() {

@@ -163,15 +163,14 @@ bool NewMap::survey() {
 bool NewMap::surveyFile(QString const& file, QString const& layer, bool isOfFolder) {
   auto const known = SysCarto::watched([file] { return SysCarto::describeFile(file); }, progress_);
   if (!known) return false;
-  SysCarto::DataFile const& described = *known;
-  if (!described.error.isEmpty()) {
-    if (!isOfFolder) return fail(described.error);
-    result_.warnings << described.error;
+  if (!known->error.isEmpty()) {
+    if (!isOfFolder) return fail(known->error);
+    result_.warnings << known->error;
     return true;
   }
   QStringList names;
   bool isKnown = layer.isEmpty();
-  for (SysCarto::LayerDescription const& one : described.layers) {
+  for (SysCarto::LayerDescription const& one : known->layers) {
     names << one.name;
     if (!layer.isEmpty() && one.name != layer) continue;
     isKnown = true;
@@ -191,9 +190,9 @@ bool NewMap::surveyFile(QString const& file, QString const& layer, bool isOfFold
       continue;
     }
     bool const isTable = survey->count == 0 && one.kind == SysCarto::GeometryKind::None && one.count != 0;
-    if (isTable && described.format == QLatin1String("CSV"))
+    if (isTable && known->format == QLatin1String("CSV"))
       tables_ << tr("%1 (it has: %2)").arg(SysCarto::titleOf(file), fieldsOf(one));
-    if (isTable || (layer.isEmpty() && isPartOfTrack(one.name, described))) continue;
+    if (isTable || (layer.isEmpty() && isPartOfTrack(one.name, *known))) continue;
     if (survey->count == 0 && !request_.where.isEmpty())
       result_.warnings << tr("The layer “%1” of %2 has no features to show.").arg(one.name, SysCarto::titleOf(file));
     surveys_.push_back(*survey);
