@@ -22,8 +22,8 @@ constexpr int maxElements = 20000;
 constexpr int deepest = 64;
 constexpr int maxUseDepth = 256;  // a chain of so many, each drawn on its own too, comes to more than `maxElements`
 constexpr int maxImagePx = 4096;
-constexpr int pixelsOfAPart = 5000;      // so many of an embedded image take about as long to draw as an element
-constexpr double mostStrokeRange = 1e9;  // 2³¹ of them away Qt steps to where the dashes begin one by one
+constexpr int pixelsOfAPart = 5000;  // so many of an embedded image take about as long to draw as an element
+constexpr double mostDashes = 1e9;   // 2³¹ of them away Qt steps to where the dashes begin one by one
 
 struct Texts {
   Q_DECLARE_TR_FUNCTIONS(SvgCheck)
@@ -52,7 +52,7 @@ public:
           Texts::tr("the SVG is not well-formed: %1 in line %2").arg(reader_.errorString()).arg(reader_.lineNumber()));
     if (problem_.isEmpty() && elements_ == 0) refuse(Texts::tr("the SVG is empty"));
     if (problem_.isEmpty()) checkUses();
-    if (problem_.isEmpty() && hasDashOffset_ && widest_ > mostStrokeRange * finest_)
+    if (problem_.isEmpty() && farthestOffset_ > mostDashes * shortestDash_)
       refuse(
           Texts::tr("the SVG's dashes and their offset differ by more than 1 to 1,000,000,000; change "
                     "stroke-dasharray or stroke-dashoffset"));
@@ -74,11 +74,11 @@ private:
       case QXmlStreamReader::StartElement: return startElement();
       case QXmlStreamReader::EndElement:
         openIds_.removeLast();
-        inStyle_ = false;
+        if (openIds_.size() < styleDepth_) styleDepth_ = 0;
         return;
       case QXmlStreamReader::Characters:
         // Text that is drawn may say anything; only a style sheet can refer to something.
-        if (inStyle_) checkStyle(reader_.text().toString(), true);
+        if (styleDepth_ > 0) checkStyle(reader_.text().toString(), true);
         return;
       default: return;
     }
@@ -91,9 +91,9 @@ private:
     if (openIds_.size() >= deepest)
       return refuse(Texts::tr("the SVG's elements are nested more than %1 deep").arg(deepest));
     if (name == QLatin1String("script")) return refuse(Texts::tr("the SVG holds a script; remove it"));
-    inStyle_ = name == QLatin1String("style");
     QXmlStreamAttributes const attributes = reader_.attributes();
     openIds_ << attributes.value(QLatin1String("id")).toString();
+    if (styleDepth_ == 0 && name == QLatin1String("style")) styleDepth_ = openIds_.size();
     for (QString const& id : qAsConst(openIds_))
       if (!id.isEmpty()) ++content_[id].elements;
     for (QXmlStreamAttribute const& attribute : attributes) {
@@ -102,7 +102,8 @@ private:
         checkReference(name, value.trimmed());
       else
         checkStyle(value, attribute.name() == QLatin1String("style"));
-      noteStroke(attribute.name().toString(), value);
+      bool const isOffset = attribute.name() == QLatin1String("stroke-dashoffset");
+      if (isOffset || attribute.name() == QLatin1String("stroke-dasharray")) noteDashes(isOffset, value);
     }
   }
 
@@ -145,28 +146,30 @@ private:
     for (QString const& target : urlsIn(style))
       if (!target.startsWith(QLatin1Char('#')))
         refuse(Texts::tr("the SVG refers to “%1”; put what it needs into the file").arg(target.left(64)));
-    if (!isSheet || !style.contains(QLatin1String("stroke"), Qt::CaseInsensitive)) return;
-    static QRegularExpression const comment(QStringLiteral("/\\*.*?(\\*/|$)"),
-                                            QRegularExpression::DotMatchesEverythingOption);
-    static QRegularExpression const declaration(QStringLiteral("([a-z-]+)\\s*:([^;}]*)"),
-                                                QRegularExpression::CaseInsensitiveOption);
-    for (auto found = declaration.globalMatch(QString(style).replace(comment, QStringLiteral(" "))); found.hasNext();) {
+    if (isSheet) noteDashes(style);
+  }
+
+  // Wherever a style names them, also where a comment or a string hides it from a reader, or one from another.
+  void noteDashes(QString const& style) {
+    static QRegularExpression const declaration(
+        QStringLiteral("stroke-dash(array|offset)(?:\\s|/\\*.*?\\*/)*:((?:/\\*.*?\\*/|[^;{}])*)"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    for (auto found = declaration.globalMatch(style); found.hasNext();) {
       QRegularExpressionMatch const match = found.next();
-      noteStroke(match.captured(1).toLower(), match.captured(2));
+      noteDashes(match.captured(1).compare(QLatin1String("offset"), Qt::CaseInsensitive) == 0, match.captured(2));
     }
   }
 
-  // The numbers of a stroke's width and dashes, from an attribute or a declaration in a style.
-  void noteStroke(QString const& property, QString const& value) {
-    bool const isOffset = property == QLatin1String("stroke-dashoffset");
-    if (!isOffset && property != QLatin1String("stroke-dasharray") && property != QLatin1String("stroke-width")) return;
+  // Qt reads no more than the beginning of a number that is very long.
+  void noteDashes(bool isOffset, QString const& numbers) {
+    constexpr int longestNumber = 64;
     static QRegularExpression const number(QStringLiteral("(\\d+\\.?\\d*|\\.\\d+)([eE][-+]?\\d+)?"));
-    for (auto found = number.globalMatch(value); found.hasNext();) {
-      double const size = found.next().captured().toDouble();
-      if (size == 0) continue;
-      hasDashOffset_ = hasDashOffset_ || isOffset;
-      widest_ = std::max(widest_, size);
-      finest_ = std::min(finest_, size);
+    for (auto found = number.globalMatch(numbers); found.hasNext();) {
+      QString const text = found.next().captured();
+      double const size = text.toDouble();
+      if (text.size() > longestNumber) farthestOffset_ = std::numeric_limits<double>::infinity();
+      if (isOffset) farthestOffset_ = std::max(farthestOffset_, size);
+      if (!isOffset && size > 0) shortestDash_ = std::min(shortestDash_, size);
     }
   }
 
@@ -198,9 +201,8 @@ private:
   QString problem_;
   int elements_ = 0;
   double imageParts_ = 0;
-  bool inStyle_ = false;
-  bool hasDashOffset_ = false;
-  double widest_ = 0, finest_ = std::numeric_limits<double>::infinity();  // of strokes and their dashes
+  int styleDepth_ = 0;  // at which a style sheet began that has not ended; 0 outside of one
+  double farthestOffset_ = 0, shortestDash_ = std::numeric_limits<double>::infinity();
   QStringList openIds_;
   QStringList total_;
   QHash<QString, Content> content_;

@@ -88,13 +88,18 @@ private slots:
     row("hidden letters", svg("<style>rect { fill: \\75rl(a.svg) }</style>"), "style sheet");
     row("style sheet instruction", svg("<g/>", "<?xml-stylesheet type='text/css' href='a.css'?>"), "instruction");
     row("entities", svg("<text>&a;</text>", "<!DOCTYPE svg [<!ENTITY a 'b'>]>"), "declares a document type");
-    row("dashes", svg("<path d='M0 0h9' stroke-dasharray='2,1e-3' stroke-dashoffset='-90.5'/>"), "");
-    row("thin and wide without dashes", svg("<path stroke-width='1e-6'/><path stroke-width='1e6'/>"), "");
-    row("dashes from afar", svg("<path d='M0 0h9' stroke='red' stroke-dasharray='2 1' stroke-dashoffset='1e12'/>"),
-        "offset differ");
-    row("dashes from afar, in a style",
-        svg("<path d='M0 0h9' style='stroke:red;stroke-dasharray:2 1;STROKE-dashoffset/**/:/* */-9999999999'/>"),
-        "offset differ");
+    row("dashes",
+        svg("<path stroke-width='1e-6' stroke-dasharray='2,1e-3' stroke-dashoffset='-90.5'/><g style='"
+            "stroke-dasharray: 1e9 4; stroke-dashoffset:3.5e-15'/>"),
+        "");
+    for (QByteArray const far : {"<path stroke-dasharray='2 1' stroke-dashoffset='1e12'/>",
+                                 "<path style='stroke-dasharray:2;STROKE-dashoffset/**/:/*;*/-9999999999'/>",
+                                 "<path style='stroke-dasharray:2;x:\"/*\";stroke-dashoffset:1e12;y:\"*/\"'/>",
+                                 "<style><x/>x:hover,path{stroke-dasharray:2;stroke-dashoffset:1e12}</style>"})
+      row("dashes from afar: " + far, svg(far), "offset differ");
+    row("dashes from so far that few read it",
+        svg("<path stroke-dasharray='2' stroke-dashoffset='1e" + QByteArray(99, '0') + "1'/>"), "offset");
+    row("a style sheet with something in it", svg("<style><x/>@import 'a.css';</style>"), "style sheet");
     row("script", svg("<script>1</script>"), "script");
     row("uses in a circle", svg("<g id='a'><use xlink:href='#b'/></g><g id='b'><use xlink:href='#a'/></g>"), "circle");
     QByteArray bomb("<g id='n0'><rect/></g>");

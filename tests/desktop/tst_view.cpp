@@ -3,6 +3,7 @@
 #include "desktop/WorkbenchPage.h"
 #include "export/LayoutRenderer.h"
 
+#include "host/SysCarto/document/MapDocumentHost.h"
 #include "host/SysCarto/layout/MapPicture.h"
 #include "host/SysCarto/maps/MapHost.h"
 #include "host/SysCarto/maps/MapSteps.h"
@@ -133,7 +134,9 @@ private slots:
     int tiles = tilesAfter(page);
     QVERIFY(tiles > 0);
     QPoint const onMap = page.pixel(20, 15);
+    auto const text = [&] { return SysCarto::MapDocumentHost::text(page.bench.session().document()); };
     for (QString const& what : deeds) {
+      QByteArray const former = text();
       if (what == "select") page.click(onMap);
       if (what == "drag") page.drag(onMap, onMap + QPoint(17, 9));
       if (what == "nudge") page.key(Qt::Key_Left);
@@ -153,6 +156,8 @@ private slots:
       if (what == "turn") SysCarto::MapHost::setRotation(*page.layout()->GetFocusMap(), 12);
       if (what == "hide") page.layout()->GetFocusMap()->GetLayer(0)->SetVisible(false);
       if (what == "hide" || what == "turn") page.view().refresh(SysCarto::RefreshPhase::Everything);
+      if (!QStringList{"select", "pan", "zoom"}.contains(what)) QVERIFY2(text() != former, qPrintable(what));
+      if (what == "pan") QVERIFY(page.pixel(20, 15) != onMap);
       int const before = std::exchange(tiles, tilesAfter(page));
       QVERIFY2((tiles > before) == (draw && what != "select"), qPrintable(what));
     }

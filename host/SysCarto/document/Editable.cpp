@@ -182,24 +182,22 @@ public:
   /// Before it goes into the history, which forgets what could be redone. False where what was wanted can't be, and all
   /// is as it was.
   bool begin() {
-    put(mergedChange(before_, after_, now()), context_.depth);
+    put(mergedChange(before_, after_, now()));
     after_ = now();
     isBegun_ = true;
     return valuesOf(after_) != valuesOf(before_);
   }
 
-  // Of many steps in turn, only what there is in the end is worth to be read.
-  void undo() override { put(mergedChange(after_, before_, now()), ReadDepth::Schema); }
+  void undo() override { put(mergedChange(after_, before_, now())); }
   void redo() override {
-    if (!std::exchange(isBegun_, false)) put(mergedChange(before_, after_, now()), ReadDepth::Schema);
+    if (!std::exchange(isBegun_, false)) put(mergedChange(before_, after_, now()));
   }
 
 private:
   Settings now() const { return uses_.of(*target_, context_); }
-  void put(Settings const& settings, ReadDepth depth) {
+  void put(Settings const& settings) {
     SysUtility::ChangeMark::Step const step;
     DocumentContext own = context_;
-    own.depth = depth;
     uses_.apply(*target_, settings, own);
     *told_ = own.warnings;
   }

@@ -84,6 +84,7 @@ PartSink::~PartSink() = default;
 std::unique_ptr<GeometryProjector> GeometryProjector::create(OGRSpatialReference const* source,
                                                              OGRSpatialReference const* target, QString& error) {
   static auto& ways = *new RememberedWays<GeometryProjector>;
+  error.clear();
   auto const make = [&] { return made(source, target, error); };
   return source && target ? ways.between(*source, *target, make) : make();
 }
@@ -136,6 +137,7 @@ std::unique_ptr<GeometryProjector> GeometryProjector::clone() const {
   auto copy = std::make_unique<GeometryProjector>();
   if (toGlobe_) copy->toGlobe_ = toGlobe_->clone();
   if (toMap_) copy->toMap_ = toMap_->clone();
+  if ((toGlobe_ && !copy->toGlobe_) || (toMap_ && !copy->toMap_)) return nullptr;
   copy->sourceIsGeographic_ = sourceIsGeographic_;
   copy->sourceDegree_ = sourceDegree_;
   copy->antimeridian_ = antimeridian_;

@@ -26,7 +26,7 @@ public:
   static std::unique_ptr<GeometryProjector> create(OGRSpatialReference const* source, OGRSpatialReference const* target,
                                                    QString& error);
 
-  /// The same for another thread.
+  /// The same for another thread; an empty pointer where PROJ can't copy.
   std::unique_ptr<GeometryProjector> clone() const;
 
   /// Whether coordinates become others.

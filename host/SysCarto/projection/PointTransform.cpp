@@ -50,7 +50,8 @@ PointTransform::PointTransform(OGRCoordinateTransformation* transformation, doub
 PointTransform::~PointTransform() = default;
 
 std::unique_ptr<PointTransform> PointTransform::clone() const {
-  return std::unique_ptr<PointTransform>(new PointTransform(transformation_->Clone(), farthest_));
+  OGRCoordinateTransformation* const copy = transformation_->Clone();
+  return copy ? std::unique_ptr<PointTransform>(new PointTransform(copy, farthest_)) : nullptr;
 }
 
 // A place without an image is no fault, but PROJ itself reports some of them as one.

@@ -22,7 +22,7 @@ public:
                                                 QString& error);
   ~PointTransform();
 
-  /// The same for another thread.
+  /// The same for another thread; an empty pointer where PROJ can't copy.
   std::unique_ptr<PointTransform> clone() const;
 
   /// x, y pairs, in place.

@@ -10,8 +10,9 @@ std::string textOf(OGRSpatialReference const& system) {
   SysGeometry::QuietOgr const quiet;
   char const* const options[] = {"FORMAT=WKT2_2019", nullptr};
   char* text = nullptr;
-  std::string const result = system.exportToWkt(&text, options) == OGRERR_NONE ? text : "";
+  std::string result = system.exportToWkt(&text, options) == OGRERR_NONE ? text : "";
   CPLFree(text);
+  if (!result.empty()) result += std::to_string(system.GetCoordinateEpoch());
   return result;
 }
 
