@@ -63,6 +63,9 @@ private:
   void refuse(QString const& what) {
     if (problem_.isEmpty()) problem_ = what;
   }
+  void refuseHidden() {
+    refuse(Texts::tr("the SVG's style sheet imports another or hides characters; put what it needs into the file"));
+  }
 
   void token(QXmlStreamReader::TokenType type) {
     switch (type) {
@@ -141,22 +144,32 @@ private:
   // In a style sheet a backslash can hide the letters of a word.
   void checkStyle(QString const& style, bool isSheet) {
     if (style.contains(QLatin1String("@import"), Qt::CaseInsensitive) || (isSheet && style.contains(QLatin1Char('\\'))))
-      return refuse(
-          Texts::tr("the SVG's style sheet imports another or hides characters; put what it needs into the file"));
+      return refuseHidden();
     for (QString const& target : urlsIn(style))
       if (!target.startsWith(QLatin1Char('#')))
         refuse(Texts::tr("the SVG refers to “%1”; put what it needs into the file").arg(target.left(64)));
     if (isSheet) noteDashes(style);
   }
 
-  // Wherever a style names them, also where a comment or a string hides it from a reader, or one from another.
+  // Wherever a style names them, also where a comment or a string hides it from a reader, or one from another. A
+  // declaration that does not end soon would have to be read again and again.
   void noteDashes(QString const& style) {
-    static QRegularExpression const declaration(
-        QStringLiteral("stroke-dash(array|offset)(?:\\s|/\\*.*?\\*/)*:((?:/\\*.*?\\*/|[^;{}])*)"),
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-    for (auto found = declaration.globalMatch(style); found.hasNext();) {
-      QRegularExpressionMatch const match = found.next();
-      noteDashes(match.captured(1).compare(QLatin1String("offset"), Qt::CaseInsensitive) == 0, match.captured(2));
+    constexpr int longest = 1000;
+    QString const name = QStringLiteral("stroke-dash");
+    for (int at = style.indexOf(name, 0, Qt::CaseInsensitive); at >= 0;
+         at = style.indexOf(name, at + 1, Qt::CaseInsensitive)) {
+      QString const rest = style.mid(at + name.size(), longest);
+      QString value;
+      int end = 0;
+      for (; end < rest.size() && !QStringLiteral(";{}").contains(rest[end]); ++end) {
+        int const close = rest.midRef(end, 2) == QLatin1String("/*") ? rest.indexOf(QLatin1String("*/"), end + 2) : -1;
+        if (close >= 0)
+          end = close + 1;
+        else
+          value += rest[end];
+      }
+      if (end >= longest) return refuseHidden();
+      noteDashes(value.startsWith(QLatin1String("offset"), Qt::CaseInsensitive), value);
     }
   }
 

@@ -99,6 +99,10 @@ private slots:
       row("dashes from afar: " + far, svg(far), "offset differ");
     row("dashes from so far that few read it",
         svg("<path stroke-dasharray='2' stroke-dashoffset='1e" + QByteArray(99, '0') + "1'/>"), "offset");
+    row("dashes without an end", svg("<style>" + QByteArray("stroke-dashoffset/**/").repeated(90000) + "</style>"),
+        "style sheet");
+    row("a comment without an end", svg("<g style='" + QByteArray("stroke-dasharray:2/*").repeated(90000) + "'/>"),
+        "style sheet");
     row("a style sheet with something in it", svg("<style><x/>@import 'a.css';</style>"), "style sheet");
     row("script", svg("<script>1</script>"), "script");
     row("uses in a circle", svg("<g id='a'><use xlink:href='#b'/></g><g id='b'><use xlink:href='#a'/></g>"), "circle");
